@@ -1,0 +1,41 @@
+# What holds for every target: language, warnings, sanitizers, hidden symbols.
+
+option(WREN_BUILD_TESTS "Build the tests" ON)
+option(WREN_BUILD_BENCH "Build the benchmarks" OFF)
+option(WREN_SANITIZE "Build with the address and undefined behaviour sanitizers" OFF)
+
+set(CMAKE_CXX_STANDARD 17)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_CXX_VISIBILITY_PRESET hidden)
+set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+set(CMAKE_AUTOMOC ON)
+set(CMAKE_AUTORCC ON)
+
+# Without -fno-gnu-unique a library with inline statics is never unloaded.
+add_compile_options(-Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Wno-unknown-pragmas
+                    -Werror -fno-gnu-unique)
+add_compile_definitions(QT_NO_KEYWORDS QT_NO_CAST_TO_ASCII QT_USE_QSTRINGBUILDER QT_DEPRECATED_WARNINGS)
+# An assert of Qt's containers must hold in every build that tests run on.
+add_compile_definitions($<$<NOT:$<CONFIG:Release>>:QT_FORCE_ASSERTS>)
+
+if(WREN_SANITIZE)
+    add_compile_options(-fsanitize=address,undefined,float-cast-overflow -fno-sanitize-recover=undefined
+                        -fno-omit-frame-pointer -fno-sanitize=vptr)
+    add_link_options(-fsanitize=address,undefined)
+endif()
+
+find_program(CCACHE_PROGRAM ccache)
+if(CCACHE_PROGRAM)
+    set(CMAKE_CXX_COMPILER_LAUNCHER ${CCACHE_PROGRAM})
+endif()
+
+# A floor of the house: a static library whose headers are seen by those that link it, and by nobody else.
+function(wren_floor name)
+    cmake_parse_arguments(FLOOR "" "" "SOURCES;LINKS" ${ARGN})
+    add_library(${name} STATIC ${FLOOR_SOURCES})
+    target_include_directories(${name} PUBLIC ${CMAKE_CURRENT_SOURCE_DIR})
+    target_link_libraries(${name} PUBLIC ${FLOOR_LINKS})
+endfunction()

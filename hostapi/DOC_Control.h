@@ -1,0 +1,58 @@
+#pragma once
+
+#include "ZebTypes.h"
+
+#include <QList>
+#include <QSize>
+#include <QString>
+#include <QStringList>
+
+/// Settings and state of a camera. GUI thread.
+///
+/// A getter answers what the camera has, not what was asked of it. The integers that a getter takes are the
+/// host's; callers pass what the contract tells.
+class DOC_Control {
+public:
+    virtual ~DOC_Control() = default;
+
+    virtual QString getCameraName(int mode) const = 0;
+    /// IPv4 address as dotted text.
+    virtual QString getAddress(int mode) const = 0;
+    /// A `zeb::CameraStatus`; other values are states without a name.
+    virtual int getCameraStatus() const = 0;
+    /// Whether the camera can do a `zeb::CameraFunction`.
+    virtual bool isFunctionSupported(int function, int mode) const = 0;
+    /// Whether the document is a head of a device with several.
+    virtual bool isMultiHead() const = 0;
+
+    virtual bool hasSyncStatus() const = 0;
+    /// State of the signal on the sync input, as "Sync In".
+    virtual QString getSyncStatusText() const = 0;
+
+    /// Rate at which head `head` records, in frames a second.
+    virtual unsigned int getRecordRate(int head) const = 0;
+    virtual QList<unsigned int> getRecordRateList() const = 0;
+    /// Width and height in pixels.
+    virtual QSize getResolution() const = 0;
+    virtual QList<QSize> getResolutionList() const = 0;
+    /// The speed as it stands in the list that the preference `display/ShutterSpeed` chooses.
+    virtual int getShutterSpeed() const = 0;
+    /// `list` 1: fractions of a second, 1/n. `list` 2: exposure times in nanoseconds. Entries of one index belong together.
+    virtual QList<int> getShutterSpeedList(int list) const = 0;
+    /// Speeds on offer, each "value;label;type".
+    virtual QStringList getShutterSpeedEntries() const = 0;
+    /// A `zeb::TriggerMode`.
+    virtual int getTriggerMode() const = 0;
+    /// The modes on offer, each a `zeb::TriggerMode`.
+    virtual QList<int> getTriggerModeList() const = 0;
+    virtual zeb::ManualTriggerParameters getManualTriggerParameters() const = 0;
+
+    /// Live speed before image quality.
+    virtual bool getReduceMode(int head) const = 0;
+    virtual bool isLowLightMode() const = 0;
+    /// A `zeb::LowLightType`.
+    virtual int getLowLightType() const = 0;
+
+    virtual bool hasRecordedData() const = 0;
+    virtual void eraseRecordedData(int mode) = 0;
+};

@@ -1,0 +1,42 @@
+#pragma once
+
+#include "ZebTypes.h"
+
+#include <QString>
+#include <QStringList>
+
+class DOC_Activity;
+class DOC_Control;
+class DOC_Frames;
+class DOC_Image;
+class DOC_Lock;
+
+/// A camera, or one head of a camera with several.
+///
+/// What holds for all its topics: a call on a connected document may ask the camera and then takes the
+/// camera's latency; it throws what derives from `std::exception` when the camera does not answer. A document
+/// that is not connected answers no camera calls: test `isConnected` first. GUI thread unless said otherwise.
+class DOC_Interface {
+public:
+    virtual ~DOC_Interface() = default;
+
+    /// Topics; each lives as long as the document and none throws.
+    virtual DOC_Activity& activity() = 0;
+    virtual DOC_Lock& lock() = 0;
+    virtual DOC_Frames& frames() = 0;
+    virtual DOC_Image& image() = 0;
+    virtual DOC_Control& control() = 0;
+
+    virtual DOCKEY getKey() const = 0;
+    virtual bool isConnected() const = 0;
+    virtual bool isSelected() const = 0;
+    /// Whether the mobile device is the current medium.
+    virtual bool isMobileSelected() const = 0;
+    /// The document of the device that this head belongs to; null when it has none.
+    virtual DOC_Interface* getParentDoc() const = 0;
+
+    /// What is wrong with the camera, a text each; empty when nothing is.
+    virtual QStringList getAlerts() const = 0;
+    /// Text of a shutter speed as the user has chosen to see it. `value` as in the shutter list in use.
+    virtual QString formatShutterSpeed(int value, int head) const = 0;
+};

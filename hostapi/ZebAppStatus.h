@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QString>
+
+class PLG_Interface;
+
+/// Plug-ins, modes and status flags of the host. GUI thread.
+class ZebAppStatus {
+public:
+    virtual ~ZebAppStatus() = default;
+
+    /// The plug-in of that name; null when none is loaded. Does not throw.
+    virtual PLG_Interface* getPlugin(const QString& name) const = 0;
+    /// The plug-in that works on the images now; null when there is none. Does not throw.
+    virtual PLG_Interface* getCurrentPlugin() const = 0;
+    virtual void closePlugin(const QString& name) = 0;
+    virtual void closePanel() = 0;
+    virtual void closeAuxiliaryPanel() = 0;
+
+    /// Whether the camera table is in use. Does not throw.
+    virtual void setWrenRunning(bool running) = 0;
+    virtual bool isWrenRunning() const = 0;
+    /// Told when the dialog of a plug-in was shown or became active, and when it was closed. Do not throw.
+    virtual void notifyPluginShown(PLG_Interface* plugin) = 0;
+    virtual void notifyPluginClosed(PLG_Interface* plugin) = 0;
+
+    /// Change the mode of the host; back when the mode has changed.
+    virtual void enterLiveMode() = 0;
+    virtual void enterMemoryMode() = 0;
+};

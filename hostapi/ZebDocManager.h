@@ -1,0 +1,57 @@
+#pragma once
+
+#include "ZebTypes.h"
+
+#include <QMutex>
+
+/// The camera documents of the host. GUI thread.
+///
+/// Lists of keys are in the order in which the host shows its cameras. A key whose camera is gone is taken by
+/// every operation and has no effect. The last integers are the host's; callers pass what the contract tells.
+class ZebDocManager {
+public:
+    virtual ~ZebDocManager() = default;
+
+    /// The document, or null when the camera is gone. Do not throw.
+    virtual DOC_Interface* getDoc(DOCKEY key, int mode) = 0;
+    /// As `getDoc`, for a document in any state.
+    virtual DOC_Interface* getDocAny(DOCKEY key) = 0;
+    /// The document that the user works on; null without one.
+    virtual DOC_Interface* getCurrentDoc() = 0;
+    virtual bool isCurrentDoc(DOCKEY key) const = 0;
+
+    virtual DocKeyList getDocKeys() const = 0;
+    virtual DocKeyList getConnectedDocKeys(int mode = 0) const = 0;
+    /// Cameras of the live view, connected or not.
+    virtual DocKeyList getLiveDocKeys(int mode, int order) const = 0;
+
+    virtual void selectDoc(DOCKEY key) = 0;
+    virtual void deselectDoc(DOCKEY key) = 0;
+
+    /// Connect and disconnect cameras; back when all have answered or failed. Failures are shown by the host.
+    virtual void connectDocs(const DocKeyList& keys) = 0;
+    virtual void disconnectDocs(const DocKeyList& keys) = 0;
+    /// The host's own dialog for a camera; runs an event loop until it is closed.
+    virtual void editDoc(DOCKEY key) = 0;
+
+    /// Whether a change of the named parameter on `doc` would reach a locked head of the same device.
+    /// Both flags false: a parameter that is neither shutter nor resolution.
+    virtual bool sharesDeviceWithLockedHead(DOC_Interface* doc, bool shutter, bool resolution) = 0;
+
+    /// The mutex of document work; never null, not recursive. Does not throw.
+    virtual QMutex* getDocMutex() = 0;
+    /// Bracket of a change that restarts the live loop.
+    virtual void beginDocEdit() = 0;
+    virtual void beginDocEditNotify() = 0;
+    virtual void endDocEdit() = 0;
+    virtual void commitDocEdit() = 0;
+
+    /// Image tools, by the name of their plug-in.
+    virtual void setQuickTool(const QString& tool, bool on) = 0;
+    virtual void setActiveQuickTool(const QString& tool) = 0;
+    virtual void toolSelect(const QString& tool, bool on) = 0;
+    virtual void toolSelectAll(const QString& tool, bool all, bool on) = 0;
+    virtual void toolBegin(int mode, const QString& tool) = 0;
+    virtual void toolEnd(const QString& tool) = 0;
+    virtual void toolApply(const QString& tool) = 0;
+};

@@ -1,0 +1,113 @@
+#pragma once
+
+#include "ZebTypes.h"
+
+#include <QString>
+#include <QStringList>
+#include <QVariant>
+
+#include <exception>
+
+class QWebView;
+class QWidget;
+class ZebAppStatus;
+class ZebCameraOps;
+class ZebDocManager;
+class ZebLiveLoop;
+class ZebPageBridge;
+class ZebPlayer;
+class ZebRecorder;
+class ZebSaver;
+class ZebUndo;
+class ZebViewOps;
+
+/// The host application as a plug-in sees it.
+///
+/// What holds for the whole boundary: operations are called on the GUI thread and may throw an exception
+/// derived from `std::exception`, unless their line says otherwise. Nothing that is handed out is owned by the
+/// caller. A pointer to a document is good until the caller returns to the event loop; keep the key and fetch
+/// it again. Lists are never null; texts are plain text.
+class ZebHost {
+public:
+    virtual ~ZebHost() = default;
+
+    /// Side interfaces; each lives as long as the host and none throws.
+    virtual ZebAppStatus& appStatus() = 0;
+    virtual ZebDocManager& docManager() = 0;
+    virtual ZebLiveLoop& liveLoop() = 0;
+    virtual ZebPlayer& player() = 0;
+    virtual ZebRecorder& recorder() = 0;
+    virtual ZebCameraOps& cameraOps() = 0;
+    virtual ZebSaver& saver() = 0;
+    virtual ZebViewOps& viewOps() = 0;
+    virtual ZebUndo& undo() = 0;
+
+    /// The mode, 0 live, 1 memory, 2 file. None of these throws.
+    virtual int getOperatingMode() const = 0;
+    virtual bool isLiveMode() const = 0;
+    virtual bool isMemoryMode() const = 0;
+    virtual bool isFileMode() const = 0;
+
+    /// The value stored under a key, a slash path. A key never written answers the host's factory value, and
+    /// where it has none `defaultValue`; an invalid default stands for 0, false or the empty text.
+    virtual QVariant getPref(const QString& key, const QVariant& defaultValue = {}) const = 0;
+    virtual int getPrefInt(const QString& key, const QVariant& defaultValue = {}) const = 0;
+    virtual bool getPrefBool(const QString& key, const QVariant& defaultValue = {}) const = 0;
+    virtual float getPrefFloat(const QString& key, const QVariant& defaultValue = {}) const = 0;
+    virtual QString getPrefString(const QString& key, const QVariant& defaultValue = {}) const = 0;
+    /// Store a value; it survives a restart.
+    virtual void setPref(const QString& key, const QVariant& value) = 0;
+    virtual void setPrefInt(const QString& key, int value) = 0;
+    virtual void setPrefBool(const QString& key, bool value) = 0;
+    virtual void setPrefFloat(const QString& key, float value) = 0;
+    virtual void setPrefString(const QString& key, const QString& value) = 0;
+
+    /// The text in the user's language; a key without a translation comes back as it is. Does not throw.
+    virtual QString translate(const QString& text) const = 0;
+
+    /// Message boxes. Each runs an event loop until the user has dismissed it. `parent` null is the main window.
+    /// "<br>" in a text is a line feed; any other markup is shown as it stands.
+    virtual void info(const QString& message, QWidget* parent) = 0;
+    virtual void warn(const QString& message, QWidget* parent) = 0;
+    virtual void warnList(const QString& message, const QStringList& messages, QWidget* parent) = 0;
+    virtual void alert(const QString& message, QWidget* parent) = 0;
+    virtual void alertList(const QString& message, const QStringList& messages, QWidget* parent) = 0;
+    /// True when the user agreed.
+    virtual bool confirm(const QString& message) = 0;
+    virtual bool confirmModal(const QString& message, QWidget* parent, const ButtonTexts& buttons) = 0;
+    /// As `confirmModal`, with a box "don't show again" that stores false under `prefKey`.
+    virtual bool confirmWithDontShowAgain(const QString& message, const QString& prefKey, QWidget* parent,
+                                          const ButtonTexts& buttons) = 0;
+    /// Shows `e.what()` (UTF-8) to the user; nothing for an empty text.
+    virtual void errorHandler(const std::exception& e) = 0;
+
+    /// Parent of dialogs; null when the host runs without a window. Does not throw.
+    virtual QWidget* getMainWindow() const = 0;
+    /// The area of the image windows; null when there is none. Does not throw.
+    virtual QWidget* getMdiWidget() const = 0;
+    /// Gives `bridge` its view and keeps it in the window object of `view`'s page. Call before the page loads.
+    /// The host forgets both when either is destroyed. Does not throw.
+    virtual void attachBridge(QWebView* view, ZebPageBridge* bridge) = 0;
+
+    /// Asks for an update cycle, which comes from the event loop; requests until then are one. In the end it
+    /// reaches `PLG_Interface::updateDialog`. Does not throw.
+    virtual void updateUI(unsigned int mask, bool refresh) = 0;
+    /// Calls nest. While deterred no cycle runs; one that was asked for runs after the last end. Does not throw.
+    virtual void deterUpdateUI(bool deter) = 0;
+
+    /// The viewer draws its images while it runs. Suspend and resume nest. None of these throws.
+    virtual bool isViewerRunning() const = 0;
+    virtual void suspendViewer() = 0;
+    virtual void resumeViewer() = 0;
+
+    /// Flags of the host. None throws.
+    virtual bool isApplicationClosing() const = 0;
+    virtual bool isWindowStateSaveSuppressed() const = 0;
+    virtual bool isOtherPluginOpen() const = 0;
+    /// True while the host keeps its selection, whatever the group of a table says.
+    virtual bool isSelectionKept() const = 0;
+    virtual bool getTriggerTesting() const = 0;
+    virtual bool isToolActive(const QString& tool) const = 0;
+    /// Whether `doc` can do `capability`, as "binning".
+    virtual bool isCapable(const QString& capability, DOC_Interface* doc, int head) const = 0;
+};

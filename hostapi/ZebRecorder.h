@@ -1,0 +1,12 @@
+#pragma once
+
+#include "ZebTypes.h"
+
+/// Recording on the cameras of the host. GUI thread.
+class ZebRecorder {
+public:
+    virtual ~ZebRecorder() = default;
+
+    /// State of the recording on these cameras, a `zeb::RecordStatus`; any other value is an error as well.
+    virtual int getRecStatus(const DocKeyList& keys) const = 0;
+};

@@ -1,0 +1,82 @@
+#pragma once
+
+#include <QList>
+#include <QMap>
+#include <QMetaType>
+#include <QString>
+
+class DOC_Interface;
+
+/// Key of a camera document. The page sees it as decimal text.
+using DOCKEY = unsigned int;
+
+/// Number of a memory partition of a camera, from 1.
+using PARTITIONNUMBER = unsigned int;
+
+using DocKeyList = QList<DOCKEY>;
+using DocList = QList<DOC_Interface*>;
+
+/// Texts of a message box's buttons: a `QMessageBox::StandardButton` and what stands on it.
+using ButtonTexts = QMap<int, QString>;
+
+/// Numbers that host, cameras and table share, each with its one name.
+namespace zeb {
+
+constexpr DOCKEY NoDocKey = 0xFFFFFFFFU;
+
+/// Mask of `ZebHost::updateUI` that asks for everything.
+constexpr unsigned int UpdateAll = 0xFFFFFFFFU;
+
+enum OperatingMode { LiveMode = 0, MemoryMode = 1, FileMode = 2 };
+
+/// State that the recorder reports for a set of cameras.
+enum RecordStatus { RecordLive = 0, RecordCtsReady = 1, RecordReady = 2, RecordRecording = 3, RecordError = 4 };
+
+/// Raw status of one camera, as `DOC_Control::getCameraStatus` answers it.
+enum CameraStatus {
+    CameraLive = 0,
+    CameraRecReady = 2,
+    CameraTriggerReady = 4,
+    CameraRecording = 8,
+    CameraEndlessReady = 64
+};
+
+/// Functions that a camera may support, for `DOC_Control::isFunctionSupported`.
+enum CameraFunction { FunctionLowLight = 15, FunctionReduceMode = 175 };
+
+enum LowLightType { LowLightTypeFast = 2, LowLightTypeFine = 3 };
+
+enum TriggerMode {
+    TriggerStart = 0,
+    TriggerCenter = 1,
+    TriggerEnd = 2,
+    TriggerRandom = 3,
+    TriggerManual = 4,
+    TriggerRandomReset = 5,
+    TriggerRandomCenter = 6,
+    TriggerRandomManual = 7,
+    TriggerTwostage = 8,
+    TriggerTwostageHalf = 9,
+    TriggerTwostageQuarter = 10,
+    TriggerTwostageOneeighth = 11,
+    TriggerReset = 12,
+    TriggerRecOnCmd = 13,
+    TriggerRandomLoop = 14,
+    TriggerNoneError = 15
+};
+
+/// Parameters of the manual trigger. `triggerFrame` counts frames from the start of the memory.
+struct ManualTriggerParameters {
+    int kind = 0;
+    int reserved1 = 0;
+    int reserved2 = 0;
+    int triggerFrame = 0;
+};
+
+/// Preference `display/ShutterSpeed` with this value shows speeds by the camera's second list.
+constexpr int ShutterDisplaySecondList = 2;
+
+/// What separates the lines of a camera's comment where the host keeps it.
+constexpr auto CommentSeparator = "{Separator}";
+
+}  // namespace zeb

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <QString>
+
+/// The host's undo stack. GUI thread.
+class ZebUndo {
+public:
+    virtual ~ZebUndo() = default;
+
+    virtual void clear() = 0;
+    /// What is done until `endMacro` is one step of the stack.
+    virtual void beginMacro(const QString& text) = 0;
+    virtual void endMacro() = 0;
+};

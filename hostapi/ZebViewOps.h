@@ -1,0 +1,16 @@
+#pragma once
+
+#include "ZebTypes.h"
+
+/// How a document's image stands in its window. GUI thread; nothing here throws.
+class ZebViewOps {
+public:
+    virtual ~ZebViewOps() = default;
+
+    /// Rotation as a fraction of a full turn: 0, 0.25, 0.5 or 0.75.
+    virtual double getRotation(DOCKEY key) const = 0;
+    virtual bool isHorizontalFlip(DOCKEY key) const = 0;
+    virtual bool isVerticalFlip(DOCKEY key) const = 0;
+    /// Window pixels per image pixel, above 0.
+    virtual double getZoom(DOCKEY key) const = 0;
+};
