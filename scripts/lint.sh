@@ -1,0 +1,33 @@
+# Sourced by ./test: how our sources are looked at. Needs a configured build/dev for clang-tidy.
+
+cpp_sources() { git ls-files --cached --others --exclude-standard -- '*.h' '*.cpp'; }
+page_scripts() { git ls-files --cached --others --exclude-standard -- '*.js' '*.css'; }
+
+# What stands changed in the work tree, and what the last commit brought.
+changed_sources() {
+    {
+        git diff --name-only HEAD
+        git ls-files --others --exclude-standard
+        git diff --name-only HEAD~1 HEAD 2>/dev/null || true
+    } | sort -u | while IFS= read -r file; do
+        if [ -e "$file" ]; then printf '%s\n' "$file"; fi
+    done
+}
+
+lint_text() {
+    cpp_sources | xargs -d '\n' clang-format --dry-run --Werror
+    npx --no-install eslint .
+    npx --no-install stylelint --allow-empty-input 'pages/**/*.css' 'zebsim/pages/**/*.css'
+}
+
+tidy() { xargs -r -d '\n' -n 1 -P 2 clang-tidy --quiet -p build/dev --extra-arg=-Wno-unknown-warning-option; }
+
+lint_changed() {
+    lint_text
+    changed_sources | { grep '\.cpp$' || true; } | head -20 | tidy
+}
+
+lint_all() {
+    lint_text
+    cpp_sources | grep '\.cpp$' | tidy
+}
