@@ -1,0 +1,41 @@
+#pragma once
+
+#include "camera/Rig.h"
+
+#include <memory>
+#include <mutex>
+#include <vector>
+
+class Camera;
+class Clock;
+class FaultPlan;
+class ShownErrors;
+
+/// A device with its heads. One mutex guards the states of them all. Any thread.
+class CameraDevice {
+public:
+    /// The heads get the keys from `firstKey` on.
+    CameraDevice(const RigDevice& device, DOCKEY firstKey, Clock& clock, FaultPlan& faults, ShownErrors& shownErrors);
+    ~CameraDevice();
+
+    const QString& address() const { return m_address; }
+    const CameraModel& model() const { return *m_model; }
+    int latency() const { return m_latency; }
+    /// The master head is the first.
+    const std::vector<std::unique_ptr<Camera>>& heads() const { return m_heads; }
+    std::mutex& mutex() const { return m_mutex; }
+
+    Clock& clock() const { return m_clock; }
+    FaultPlan& faults() const { return m_faults; }
+    ShownErrors& shownErrors() const { return m_shownErrors; }
+
+private:
+    const QString m_address;
+    const std::shared_ptr<const CameraModel> m_model;
+    const int m_latency;
+    Clock& m_clock;
+    FaultPlan& m_faults;
+    ShownErrors& m_shownErrors;
+    mutable std::mutex m_mutex;
+    std::vector<std::unique_ptr<Camera>> m_heads;
+};

@@ -1,0 +1,46 @@
+#pragma once
+
+#include <QList>
+#include <QMap>
+#include <QSet>
+#include <QSize>
+#include <QString>
+#include <QStringList>
+#include <QVariantMap>
+
+#include <stdexcept>
+
+/// What a type of camera can do. Read from a models file; never changes.
+struct CameraModel {
+    /// What becomes of a rate that is not in the list.
+    enum RateRule { ClampRate, RefuseRate };
+
+    QString name;
+    int type = 0;
+    bool dummy = false;
+    RateRule rateRule = ClampRate;
+    /// Rates in frames a second, resolutions in pixels, shutter speeds as n of 1/n second, `zeb::TriggerMode`s.
+    QList<unsigned int> rates;
+    QList<QSize> resolutions;
+    QList<int> shutters;
+    QList<int> triggerModes;
+    /// Signal at each port, by the port's number.
+    QMap<int, int> ports;
+    /// `zeb::CameraFunction`s.
+    QSet<int> functions;
+    /// Capabilities of the image, as "binning".
+    QStringList capabilities;
+    bool hasSyncStatus = true;
+    /// Whether the heads of a device share shutter speed and resolution; rate and trigger mode they always share.
+    bool sharesShutter = false;
+    bool sharesResolution = false;
+    /// Size of the memory in MiB; a pixel takes one byte.
+    int memory = 0;
+    /// Members of `CameraState` that a camera of this model starts with.
+    QVariantMap initial;
+
+    /// The rate that the camera takes when `rate` is asked of it. Throws `std::invalid_argument` when it refuses.
+    unsigned int acceptedRate(unsigned int rate) const;
+    /// Frames that fit into the memory.
+    unsigned int frameCapacity(const QSize& resolution) const;
+};

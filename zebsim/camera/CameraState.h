@@ -1,0 +1,92 @@
+#pragma once
+
+#include "ZebTypes.h"
+
+#include <QMetaType>
+#include <QPoint>
+#include <QSize>
+#include <QString>
+#include <QStringList>
+#include <QVariantMap>
+
+/// Everything about a camera or head that can change. The property names are the members of a head in a rig file and of
+/// the scenario's `zeb.camera`.
+struct CameraState {
+    Q_GADGET
+    Q_PROPERTY(QString name MEMBER name)
+    Q_PROPERTY(QString comment MEMBER comment)
+    Q_PROPERTY(bool connected MEMBER connected)
+    Q_PROPERTY(bool selected MEMBER selected)
+    Q_PROPERTY(bool mobile MEMBER mobile)
+    Q_PROPERTY(bool locked MEMBER locked)
+    Q_PROPERTY(int recordState MEMBER recordState)
+    Q_PROPERTY(int status MEMBER status)
+    Q_PROPERTY(QStringList alerts MEMBER alerts)
+    Q_PROPERTY(QString syncStatus MEMBER syncStatus)
+    Q_PROPERTY(uint rate MEMBER rate)
+    Q_PROPERTY(QSize resolution MEMBER resolution)
+    Q_PROPERTY(int shutter MEMBER shutter)
+    Q_PROPERTY(int triggerMode MEMBER triggerMode)
+    Q_PROPERTY(int triggerFrame MEMBER triggerFrame)
+    Q_PROPERTY(bool reduce MEMBER reduce)
+    Q_PROPERTY(bool lowLight MEMBER lowLight)
+    Q_PROPERTY(int lowLightType MEMBER lowLightType)
+    Q_PROPERTY(bool suspendReduce MEMBER suspendReduce)
+    Q_PROPERTY(bool stopLive MEMBER stopLive)
+    Q_PROPERTY(bool recorded MEMBER recorded)
+    Q_PROPERTY(bool recordCheck MEMBER recordCheck)
+    Q_PROPERTY(QPoint point MEMBER point)
+    Q_PROPERTY(double scale MEMBER scale)
+    Q_PROPERTY(int binningPower MEMBER binningPower)
+    Q_PROPERTY(double rotation MEMBER rotation)
+    Q_PROPERTY(bool flipHorizontal MEMBER flipHorizontal)
+    Q_PROPERTY(bool flipVertical MEMBER flipVertical)
+    Q_PROPERTY(double zoom MEMBER zoom)
+public:
+    QString name;
+    /// Lines are separated by `zeb::CommentSeparator`.
+    QString comment;
+    bool connected = false;
+    bool selected = false;
+    bool mobile = false;
+    bool locked = false;
+    /// 0 none, 1 CTS ready, 2 ready, 3 recording.
+    int recordState = 0;
+    /// A `zeb::CameraStatus`.
+    int status = zeb::CameraLive;
+    QStringList alerts;
+    QString syncStatus = QStringLiteral("No Sync");
+    unsigned int rate = 0;
+    QSize resolution;
+    /// n of 1/n second.
+    int shutter = 0;
+    int triggerMode = zeb::TriggerStart;
+    /// Of the manual trigger, counted from the start of the memory.
+    int triggerFrame = 0;
+    bool reduce = false;
+    bool lowLight = false;
+    int lowLightType = zeb::LowLightTypeFast;
+    bool suspendReduce = false;
+    bool stopLive = false;
+    bool recorded = false;
+    bool recordCheck = false;
+    QPoint point;
+    double scale = 0;
+    int binningPower = 0;
+    /// How the image stands in its window, as `ZebViewOps` tells it.
+    double rotation = 0;
+    bool flipHorizontal = false;
+    bool flipVertical = false;
+    double zoom = 1;
+
+    /// All members as plain data: texts, numbers, bools and lists of them; sizes and points are lists of two numbers.
+    QVariantMap toPlain() const;
+    /// Sets the members that `members` names, or none of them and throws `CameraStateError`.
+    void apply(const QVariantMap& members);
+};
+
+/// A member of a camera's state that does not exist or does not take its value.
+struct CameraStateError {
+    QString member;
+    QString reason;
+};

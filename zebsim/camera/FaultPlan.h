@@ -1,0 +1,43 @@
+#pragma once
+
+#include "ZebTypes.h"
+
+#include <QHash>
+#include <QSet>
+
+#include <atomic>
+#include <mutex>
+
+/// What goes wrong at an operation. All of it empty: nothing.
+struct Fault {
+    /// The operation throws this text; empty: it does not.
+    QString throws;
+    /// The operation takes this much longer, in milliseconds.
+    int delay = 0;
+    /// The camera is gone from the moment the operation is called; with the operation "*" at once.
+    bool gone = false;
+
+    bool isEmpty() const { return throws.isEmpty() && delay <= 0 && !gone; }
+};
+
+/// The faults planted on cameras, by key and operation. Any thread.
+///
+/// Operations are named as the host call is: "setRecordRate", "getRecordRate", "connectDocs". "*" stands for all that
+/// have no fault of their own.
+class FaultPlan {
+public:
+    /// Plants a fault in the place of an earlier one. An empty fault takes it away, and brings a camera back that it
+    /// had made gone.
+    void plant(DOCKEY key, const QString& operation, const Fault& fault);
+    void clear();
+
+    /// The fault that an operation meets now; from then on the camera is gone if the fault says so.
+    Fault meet(DOCKEY key, const char* operation);
+    bool isGone(DOCKEY key) const;
+
+private:
+    std::atomic<bool> m_any{false};
+    mutable std::mutex m_mutex;
+    QHash<DOCKEY, QHash<QString, Fault>> m_faults;
+    QSet<DOCKEY> m_gone;
+};

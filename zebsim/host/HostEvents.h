@@ -1,0 +1,22 @@
+#pragma once
+
+#include "ZebTypes.h"
+
+#include <QObject>
+
+/// What happens in the host, for its own windows and the scenario runner. GUI thread.
+class HostEvents : public QObject {
+    Q_OBJECT
+public:
+    using QObject::QObject;
+
+Q_SIGNALS:
+    /// The cameras were replaced by another rig; all documents are new.
+    void camerasReplaced();
+    /// A zeb::OperatingMode.
+    void modeChanged(int mode);
+    void pluginShown(const QString& name);
+    void pluginClosed(const QString& name);
+    /// An update cycle has reached all plug-ins and bridges.
+    void updateFinished();
+};

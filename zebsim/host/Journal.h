@@ -1,0 +1,39 @@
+#pragma once
+
+#include <QObject>
+#include <QVariantList>
+#include <QVariantMap>
+
+#include <atomic>
+#include <deque>
+#include <mutex>
+
+/// The calls of the plug-in that change something, the newest of them: a ring. Any thread.
+class Journal : public QObject {
+    Q_OBJECT
+public:
+    /// Calls that are kept; older ones are forgotten.
+    static constexpr int Capacity = 10000;
+
+    /// Adds a call, as ("ZebCameraOps::setRecordRate", {{3, 5}, 2000}): documents stand as their keys. No effect when
+    /// off.
+    void record(const char* call, const QVariantList& args = {});
+
+    /// On at first.
+    void setEnabled(bool enabled);
+
+    /// Number of calls ever added; a mark for `since`.
+    quint64 count() const;
+    /// The calls added after the mark `mark`, oldest first, each a map with `call` (text) and `args` (list).
+    QVariantList since(quint64 mark) const;
+
+Q_SIGNALS:
+    /// A call was added; raised on the thread that made it.
+    void recorded(const QString& call, const QVariantList& args);
+
+private:
+    std::atomic<bool> m_enabled{true};
+    mutable std::mutex m_mutex;
+    std::deque<QVariantMap> m_calls;
+    quint64 m_count = 0;
+};

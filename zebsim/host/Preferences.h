@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QSettings>
+#include <QVariant>
+
+#include <memory>
+
+/// The preference store: one INI file, and the factory values of the keys that it does not hold. GUI thread.
+class Preferences {
+public:
+    /// `path` empty: the user's configuration folder. A file that can't be read as preferences is kept under another
+    /// name.
+    explicit Preferences(const QString& path = {});
+
+    /// A key never written answers its factory value, and where it has none `defaultValue`. A value has the type that
+    /// it was written with; that of a key with a factory value has the type of that.
+    QVariant value(const QString& key, const QVariant& defaultValue = {}) const;
+    void setValue(const QString& key, const QVariant& value);
+
+    QString path() const { return m_settings->fileName(); }
+    /// What was wrong with the file at the start; empty: nothing.
+    QString problem() const { return m_problem; }
+
+private:
+    void keepCorruptFileAside(const QString& path);
+
+    std::unique_ptr<QSettings> m_settings;
+    QString m_problem;
+};

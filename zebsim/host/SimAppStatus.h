@@ -1,0 +1,50 @@
+#pragma once
+
+#include "PLG_Interface.h"
+#include "ZebAppStatus.h"
+
+#include <QList>
+#include <QPointer>
+
+class HostEvents;
+class Journal;
+class UpdateCycle;
+
+/// Plug-ins by name, running flags, and the mode.
+class SimAppStatus : public ZebAppStatus {
+public:
+    SimAppStatus(Journal& journal, HostEvents& events, UpdateCycle& updates);
+
+    /// A registered plug-in takes part in update cycles.
+    void registerPlugin(PLG_Interface* plugin);
+    void unregisterPlugin(PLG_Interface* plugin);
+    QList<PLG_Interface*> plugins() const;
+    /// Null for none.
+    void setCurrentPlugin(PLG_Interface* plugin) { m_current = plugin; }
+
+    /// A `zeb::OperatingMode`.
+    int mode() const { return m_mode; }
+    /// Changes the mode and asks for an update cycle.
+    void enterMode(int mode);
+
+    PLG_Interface* getPlugin(const QString& name) const override;
+    PLG_Interface* getCurrentPlugin() const override { return m_current; }
+    void closePlugin(const QString& name) override;
+    void closePanel() override;
+    void closeAuxiliaryPanel() override;
+    void setWrenRunning(bool running) override;
+    bool isWrenRunning() const override { return m_wrenRunning; }
+    void notifyPluginShown(PLG_Interface* plugin) override;
+    void notifyPluginClosed(PLG_Interface* plugin) override;
+    void enterLiveMode() override;
+    void enterMemoryMode() override;
+
+private:
+    Journal& m_journal;
+    HostEvents& m_events;
+    UpdateCycle& m_updates;
+    QList<QPointer<PLG_Interface>> m_plugins;
+    QPointer<PLG_Interface> m_current;
+    bool m_wrenRunning = false;
+    int m_mode = 0;
+};

@@ -1,0 +1,69 @@
+#pragma once
+
+#include "ZebDocManager.h"
+#include "host/ImageTools.h"
+
+#include <functional>
+#include <memory>
+#include <unordered_map>
+
+class Camera;
+class CameraBank;
+class Journal;
+class MessageDesk;
+class Preferences;
+class SimDocument;
+
+/// Documents by key, the selection, connections, image tools.
+class SimDocManager : public ZebDocManager {
+public:
+    SimDocManager(Journal& journal, CameraBank& cameras, const Preferences& prefs, MessageDesk& desk);
+    ~SimDocManager() override;
+
+    /// What `editDoc` opens; nothing at first. It is called for a camera that is there and runs until it is closed.
+    void setEditor(std::function<void(Camera&)> editor) { m_editor = std::move(editor); }
+    /// Forgets all documents and the current one.
+    void forgetDocs();
+    const ImageTools& tools() const { return m_tools; }
+
+    DOC_Interface* getDoc(DOCKEY key, int mode) override;
+    DOC_Interface* getDocAny(DOCKEY key) override;
+    /// The first that was selected and still is.
+    DOC_Interface* getCurrentDoc() override;
+    bool isCurrentDoc(DOCKEY key) const override;
+    DocKeyList getDocKeys() const override;
+    DocKeyList getConnectedDocKeys(int mode = 0) const override;
+    DocKeyList getLiveDocKeys(int mode, int order) const override;
+    void selectDoc(DOCKEY key) override;
+    void deselectDoc(DOCKEY key) override;
+    void connectDocs(const DocKeyList& keys) override;
+    void disconnectDocs(const DocKeyList& keys) override;
+    void editDoc(DOCKEY key) override;
+    bool sharesDeviceWithLockedHead(DOC_Interface* doc, bool shutter, bool resolution) override;
+    QMutex* getDocMutex() override { return &m_mutex; }
+    void beginDocEdit() override;
+    void beginDocEditNotify() override;
+    void endDocEdit() override;
+    void commitDocEdit() override;
+    void setQuickTool(const QString& tool, bool on) override;
+    void setActiveQuickTool(const QString& tool) override;
+    void toolSelect(const QString& tool, bool on) override;
+    void toolSelectAll(const QString& tool, bool all, bool on) override;
+    void toolBegin(int mode, const QString& tool) override;
+    void toolEnd(const QString& tool) override;
+    void toolApply(const QString& tool) override;
+
+private:
+    DOCKEY currentKey() const;
+    void forEachKey(const DocKeyList& keys, const std::function<void(Camera&)>& work);
+
+    Journal& m_journal;
+    CameraBank& m_cameras;
+    const Preferences& m_prefs;
+    MessageDesk& m_desk;
+    QMutex m_mutex;
+    ImageTools m_tools;
+    std::function<void(Camera&)> m_editor;
+    std::unordered_map<DOCKEY, std::unique_ptr<SimDocument>> m_docs;
+    DOCKEY m_current = zeb::NoDocKey;
+};

@@ -1,0 +1,143 @@
+#pragma once
+
+#include "ZebHost.h"
+#include "camera/FaultPlan.h"
+#include "camera/ShownErrors.h"
+#include "host/BridgeDesk.h"
+#include "host/CameraBank.h"
+#include "host/HostEvents.h"
+#include "host/Journal.h"
+#include "host/Preferences.h"
+#include "host/SimAppStatus.h"
+#include "host/SimCameraOps.h"
+#include "host/SimDocManager.h"
+#include "host/SimLiveLoop.h"
+#include "host/SimPlayer.h"
+#include "host/SimRecorder.h"
+#include "host/SimSaver.h"
+#include "host/SimUndo.h"
+#include "host/SimViewOps.h"
+#include "host/StatusFlags.h"
+#include "host/UpdateCycle.h"
+
+#include <QPointer>
+
+class Clock;
+class MessageDesk;
+struct Message;
+struct Rig;
+
+/// The stand-in for the host application: what `ZebHost` promises, on simulated cameras.
+///
+/// Works with and without windows. The operations of `ZebHost` are the plug-in's, and the changing ones stand in the
+/// journal; the host's own parts use what is behind them (`prefs`, `cameras`, `updates`) and leave no trace there.
+class SimHost : public ZebHost {
+public:
+    /// `clock` and `desk` must outlive the host. `prefsPath` as in `Preferences`; a problem with that file is shown.
+    SimHost(Clock& clock, MessageDesk& desk, const QString& prefsPath = {});
+    ~SimHost() override;
+
+    /// The windows; null at first, not owned.
+    void setMainWindow(QWidget* window) { m_mainWindow = window; }
+    void setMdiWidget(QWidget* widget) { m_mdiWidget = widget; }
+    /// Replaces all cameras. Keys count from 1 again; documents of the old ones are dead.
+    void setRig(const Rig& rig);
+
+    Clock& clock() { return m_clock; }
+    Journal& journal() { return m_journal; }
+    FaultPlan& faults() { return m_faults; }
+    CameraBank& cameras() { return m_cameras; }
+    Preferences& prefs() { return m_prefs; }
+    StatusFlags& flags() { return m_flags; }
+    HostEvents& events() { return m_events; }
+    UpdateCycle& updates() { return m_updates; }
+
+    SimAppStatus& appStatus() override { return m_appStatus; }
+    SimDocManager& docManager() override { return m_docManager; }
+    SimLiveLoop& liveLoop() override { return m_liveLoop; }
+    SimPlayer& player() override { return m_player; }
+    SimRecorder& recorder() override { return m_recorder; }
+    SimCameraOps& cameraOps() override { return m_cameraOps; }
+    SimSaver& saver() override { return m_saver; }
+    SimViewOps& viewOps() override { return m_viewOps; }
+    SimUndo& undo() override { return m_undo; }
+
+    int getOperatingMode() const override { return m_appStatus.mode(); }
+    bool isLiveMode() const override { return m_appStatus.mode() == zeb::LiveMode; }
+    bool isMemoryMode() const override { return m_appStatus.mode() == zeb::MemoryMode; }
+    bool isFileMode() const override { return m_appStatus.mode() == zeb::FileMode; }
+
+    QVariant getPref(const QString& key, const QVariant& defaultValue = {}) const override;
+    int getPrefInt(const QString& key, const QVariant& defaultValue = {}) const override;
+    bool getPrefBool(const QString& key, const QVariant& defaultValue = {}) const override;
+    float getPrefFloat(const QString& key, const QVariant& defaultValue = {}) const override;
+    QString getPrefString(const QString& key, const QVariant& defaultValue = {}) const override;
+    void setPref(const QString& key, const QVariant& value) override;
+    void setPrefInt(const QString& key, int value) override;
+    void setPrefBool(const QString& key, bool value) override;
+    void setPrefFloat(const QString& key, float value) override;
+    void setPrefString(const QString& key, const QString& value) override;
+
+    QString translate(const QString& text) const override;
+
+    void info(const QString& message, QWidget* parent) override;
+    void warn(const QString& message, QWidget* parent) override;
+    void warnList(const QString& message, const QStringList& messages, QWidget* parent) override;
+    void alert(const QString& message, QWidget* parent) override;
+    void alertList(const QString& message, const QStringList& messages, QWidget* parent) override;
+    bool confirm(const QString& message) override;
+    bool confirmModal(const QString& message, QWidget* parent, const ButtonTexts& buttons) override;
+    bool confirmWithDontShowAgain(const QString& message, const QString& prefKey, QWidget* parent,
+                                  const ButtonTexts& buttons) override;
+    void errorHandler(const std::exception& e) override;
+
+    QWidget* getMainWindow() const override { return m_mainWindow; }
+    QWidget* getMdiWidget() const override { return m_mdiWidget; }
+    void attachBridge(QWebView* view, ZebPageBridge* bridge) override;
+
+    void updateUI(unsigned int mask, bool refresh) override;
+    void deterUpdateUI(bool deter) override;
+
+    bool isViewerRunning() const override { return m_viewerSuspended == 0; }
+    void suspendViewer() override;
+    void resumeViewer() override;
+
+    bool isApplicationClosing() const override;
+    bool isWindowStateSaveSuppressed() const override;
+    bool isOtherPluginOpen() const override;
+    bool isSelectionKept() const override;
+    bool getTriggerTesting() const override;
+    bool isToolActive(const QString& tool) const override;
+    bool isCapable(const QString& capability, DOC_Interface* doc, int head) const override;
+
+private:
+    void runUpdateCycle();
+    bool isInPluginDialog(QWidget* widget) const;
+    void show(Message message, const QStringList& list, QWidget* parent);
+    void setPrefJournalled(const char* call, const QString& key, const QVariant& value);
+
+    Clock& m_clock;
+    MessageDesk& m_desk;
+    Preferences m_prefs;
+    Journal m_journal;
+    FaultPlan m_faults;
+    ShownErrors m_shownErrors;
+    CameraBank m_cameras;
+    StatusFlags m_flags;
+    HostEvents m_events;
+    UpdateCycle m_updates;
+    BridgeDesk m_bridges;
+    QPointer<QWidget> m_mainWindow;
+    QPointer<QWidget> m_mdiWidget;
+    int m_viewerSuspended = 0;
+
+    SimAppStatus m_appStatus;
+    SimDocManager m_docManager;
+    SimLiveLoop m_liveLoop;
+    SimPlayer m_player;
+    SimRecorder m_recorder;
+    SimCameraOps m_cameraOps;
+    SimSaver m_saver;
+    SimViewOps m_viewOps;
+    SimUndo m_undo;
+};

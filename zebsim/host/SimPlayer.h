@@ -1,0 +1,19 @@
+#pragma once
+
+#include "ZebPlayer.h"
+
+class Journal;
+
+/// Whether the player of recorded images runs.
+class SimPlayer : public ZebPlayer {
+public:
+    explicit SimPlayer(Journal& journal) : m_journal(journal) {}
+
+    void pausePlayer() override;
+    void resumePlayer() override;
+    bool isPaused() const { return m_pauses > 0; }
+
+private:
+    Journal& m_journal;
+    int m_pauses = 0;
+};
