@@ -107,6 +107,8 @@ public:
     /// True while the host keeps its selection, whatever the group of a table says.
     virtual bool isSelectionKept() const = 0;
     virtual bool getTriggerTesting() const = 0;
+    /// While a text box of a page has the focus, the host's shortcut keys belong to it. Does not throw.
+    virtual void setTextBoxFocusState(bool focused) = 0;
     virtual bool isToolActive(const QString& tool) const = 0;
     /// Whether `doc` can do `capability`, as "binning".
     virtual bool isCapable(const QString& capability, DOC_Interface* doc, int head) const = 0;

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <QProgressDialog>
+
+/// A progress dialog whose label is plain text and whose Escape key can be taken away. GUI thread.
+class GUI_ProgressDialog : public QProgressDialog {
+    Q_OBJECT
+
+public:
+    /// No cancel button when `cancelText` is empty. With `ignoreEscape` the Escape key does nothing.
+    GUI_ProgressDialog(const QString& label, const QString& cancelText, int minimum, int maximum, QWidget* parent,
+                       Qt::WindowFlags windowFlags, bool ignoreEscape);
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    const bool m_ignoreEscape;
+};

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <QMenu>
+#include <QWebView>
+
+class GUI_WebPage;
+class ZebHost;
+
+/// The view of a page: no context menu of its own, nothing can be dropped on it. GUI thread.
+class GUI_WebView : public QWebView {
+    Q_OBJECT
+
+public:
+    explicit GUI_WebView(ZebHost* host, QWidget* parent = nullptr);
+    ~GUI_WebView() override;
+
+public Q_SLOTS:
+    /// Shows the view's menu at `pos`, in the view's pixels, if the menu has actions.
+    void showCustomContextMenu(QPoint pos);
+    /// Opens the web inspector, if there is one.
+    void execWebInspector();
+
+private:
+    GUI_WebPage* const m_page;
+    QMenu m_menu;
+    QWidget* m_inspector = nullptr;
+};

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "JS_Mediator_Dialog.h"
+
+class PLG_Interface;
+
+/// Bridge of a page in the dialog of a plug-in. GUI thread.
+class JS_Mediator_ModelessPatternDialog : public JS_Mediator_Dialog {
+    Q_OBJECT
+
+public:
+    /// `plugin` is not owned and outlives the bridge.
+    JS_Mediator_ModelessPatternDialog(ZebHost* host, const QString& name, PLG_Interface* plugin,
+                                      QObject* parent = nullptr);
+
+public Q_SLOTS:
+    /// The page's answer to the signal `open`.
+    virtual void onOpen() {}
+    /// The page's answer to the signal `close`: closes the plug-in's dialog.
+    virtual void onClose();
+    void setTextBoxFocusState(bool focused);
+
+protected:
+    PLG_Interface* plugin() const { return m_plugin; }
+
+private:
+    PLG_Interface* const m_plugin;
+};

@@ -1,0 +1,15 @@
+#pragma once
+
+#include <QString>
+
+/// Writes the line `[ENTER]` when it is made and `[LEAVE]` when it goes, on every way out of a method.
+class TraceScope {
+public:
+    /// `name` is class and method, `args` what `traceArg` built.
+    explicit TraceScope(const QString& name, const QString& args = {});
+    ~TraceScope();
+    Q_DISABLE_COPY(TraceScope)
+
+private:
+    const QString m_name;
+};

@@ -1,0 +1,11 @@
+#include "APP_Exception.h"
+
+#include "TraceText.h"
+
+#include <QDebug>
+
+APP_Exception::APP_Exception(const QString& message, int code)
+    : std::runtime_error(message.toStdString()), m_errorCode(code) {
+    qCritical() << QString(QStringLiteral("APP_Exception:") % traceArg(QStringLiteral("message"), message) %
+                           traceArg(QStringLiteral("errorCode"), code));
+}

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <QString>
+#include <QVariant>
+
+/// One argument of a log line, `[key:value] `. Arguments are joined by putting one behind the other.
+QString traceArg(const QString& key, const QVariant& value);
+
+/// The lines at the start and the end of a traced method.
+void logEnter(const QString& name, const QString& args);
+void logLeave(const QString& name);
+
+/// The line of a user's operation on a page or a dialog. An empty `id` is told by `className`, if there is one.
+void logUserOperation(const QString& url, const QString& operation, const QString& control, const QString& id,
+                      const QString& className, const QVariant& value);
+/// The line of an error that a page has met.
+void logUserError(const QString& message);
