@@ -25,7 +25,6 @@ private:
 
     void acquire();
     void refreshConnectedDocs();
-    void endRestart();
 
     ZebHost& m_host;
     const bool m_restart;

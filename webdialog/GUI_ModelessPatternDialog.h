@@ -38,4 +38,5 @@ private:
 
     PLG_Interface* const m_plugin;
     bool m_pluginCloseEnabled = true;
+    bool m_closePosted = false;
 };

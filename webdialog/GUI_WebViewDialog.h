@@ -44,13 +44,14 @@ protected:
     void closeEvent(QCloseEvent* event) override;
 
     ZebHost& host() const { return *m_host; }
-    /// Whether a call of one of the page's bridges runs.
-    bool isInCall() const;
+    /// A bridge of the page that a call runs in; null when none runs.
+    JS_Mediator* busyBridge() const;
     /// False: no update cycle is asked for at the end of a load.
     void setUpdateOnLoad(bool update) { m_updateOnLoad = update; }
 
 private:
-    void connectBridge();
+    void connectSignals();
+    QList<JS_Mediator*> bridges() const;
     void fadeIn();
 
     ZebHost* const m_host;

@@ -1,0 +1,74 @@
+#include "GUI_ModelessPatternDialog.h"
+
+#include "JS_Mediator_Dialog.h"
+#include "LogFailure.h"
+#include "PLG_Interface.h"
+#include "UTL_Messages.h"
+#include "WindowPlacement.h"
+#include "ZebAppStatus.h"
+#include "ZebDocManager.h"
+#include "ZebHost.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QScreen>
+
+#include <utility>
+
+GUI_ModelessPatternDialog::GUI_ModelessPatternDialog(ZebHost* host, const QString& title, const QString& url,
+                                                     JS_Mediator_Dialog* bridge, PLG_Interface* plugin, QWidget* parent)
+    : GUI_WebViewDialog(host, title, url, bridge, parent), m_plugin(plugin) {
+    installEventFilter(this);
+}
+
+void GUI_ModelessPatternDialog::updatePage() {
+    Q_EMIT getBridge()->update();
+}
+
+void GUI_ModelessPatternDialog::centerOnMainScreen() {
+    const QWidget* mainWindow = host().getMainWindow();
+    const QScreen* target = mainWindow ? mainWindow->screen() : screen();
+    move(centeredTopLeft(target->geometry(), frameGeometry().size()));
+}
+
+void GUI_ModelessPatternDialog::closeEvent(QCloseEvent*) {
+    host().appStatus().notifyPluginClosed(m_plugin);
+    Q_EMIT getBridge()->close();
+    Q_EMIT closed();
+}
+
+void GUI_ModelessPatternDialog::showEvent(QShowEvent* event) {
+    GUI_WebViewDialog::showEvent(event);
+    host().appStatus().notifyPluginShown(m_plugin);
+    QApplication::setActiveWindow(this);
+    Q_EMIT shown();
+}
+
+bool GUI_ModelessPatternDialog::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == this) {
+        if (event->type() == QEvent::Close && deferClose(event)) return true;
+        if (event->type() == QEvent::WindowActivate) tellActivated();
+    }
+    return GUI_WebViewDialog::eventFilter(watched, event);
+}
+
+bool GUI_ModelessPatternDialog::deferClose(QEvent* event) {
+    JS_Mediator* busy = busyBridge();
+    if (!busy) return false;
+    event->ignore();
+    if (host().isApplicationClosing()) UTL_Messages::rejectAll();
+    if (std::exchange(m_closePosted, true)) return true;
+    busy->afterCalls([dialog = QPointer<GUI_ModelessPatternDialog>(this)] {
+        if (!dialog) return;
+        dialog->m_closePosted = false;
+        dialog->close();
+    });
+    return true;
+}
+
+void GUI_ModelessPatternDialog::tellActivated() {
+    logFailure([this] {
+        if (m_plugin->isReselectOnActivate()) host().docManager().setQuickTool(m_plugin->getName(), false);
+    });
+    host().appStatus().notifyPluginShown(m_plugin);
+}

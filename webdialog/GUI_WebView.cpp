@@ -1,0 +1,23 @@
+#include "GUI_WebView.h"
+
+#include "GUI_WebPage.h"
+
+GUI_WebView::GUI_WebView(ZebHost* host, QWidget* parent) : QWebView(parent), m_page(new GUI_WebPage(host, this)) {
+    setPage(m_page);
+    setContextMenuPolicy(Qt::NoContextMenu);
+    setAcceptDrops(false);
+}
+
+GUI_WebView::~GUI_WebView() {
+    if (!m_inspector) return;
+    m_inspector->close();
+    delete m_inspector;
+}
+
+void GUI_WebView::showCustomContextMenu(QPoint pos) {
+    if (!m_menu.isEmpty()) m_menu.exec(mapToGlobal(pos));
+}
+
+void GUI_WebView::execWebInspector() {
+    if (m_inspector) m_page->triggerAction(QWebPage::InspectElement);
+}

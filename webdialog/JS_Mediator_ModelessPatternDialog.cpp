@@ -1,0 +1,17 @@
+#include "JS_Mediator_ModelessPatternDialog.h"
+
+#include "BridgeCall.h"
+#include "PLG_Interface.h"
+#include "ZebHost.h"
+
+JS_Mediator_ModelessPatternDialog::JS_Mediator_ModelessPatternDialog(ZebHost* host, const QString& name,
+                                                                     PLG_Interface* plugin, QObject* parent)
+    : JS_Mediator_Dialog(host, name, parent), m_plugin(plugin) {}
+
+void JS_Mediator_ModelessPatternDialog::onClose() {
+    bridgeCall(*this, [&] { m_plugin->closeDialog(); });
+}
+
+void JS_Mediator_ModelessPatternDialog::setTextBoxFocusState(bool focused) {
+    bridgeCall(*this, [&] { host().setTextBoxFocusState(focused); });
+}

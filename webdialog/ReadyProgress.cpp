@@ -1,0 +1,26 @@
+#include "ReadyProgress.h"
+
+#include "GUI_ProgressDialog.h"
+#include "PLG_Interface.h"
+#include "WindowPlacement.h"
+#include "ZebAppStatus.h"
+#include "ZebHost.h"
+
+#include <QDialog>
+
+GUI_ProgressDialog* makeReadyProgressDialog(const QString& label, ZebHost& host) {
+    PLG_Interface* wren = host.appStatus().getPlugin(QStringLiteral("wren"));
+    QDialog* table = wren ? wren->getDialog(false) : nullptr;
+    auto* progress = new GUI_ProgressDialog(label, QString(), 0, 0, table, Qt::FramelessWindowHint, true);
+    progress->setModal(false);
+    progress->setAutoClose(true);
+    progress->setAutoReset(true);
+    progress->setStyleSheet(QStringLiteral("*{ color: #333333; background: #a1a7ad; font-size: 45px; font-weight:bold;}"
+                                           "QProgressBar {color: black; text-align: center; height: 80px;}"
+                                           "QProgressBar::chunk {color: black; background: ") %
+                            host.getPrefString(QStringLiteral("wren/settings/recreadyTableColor")) %
+                            QStringLiteral(";}"));
+    progress->resize(800, 150);
+    centerWithoutMainWindow(host, *progress);
+    return progress;
+}

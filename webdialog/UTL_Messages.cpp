@@ -1,0 +1,82 @@
+#include "UTL_Messages.h"
+
+#include "PlainText.h"
+#include "Style.h"
+#include "TraceScope.h"
+#include "TraceText.h"
+#include "WindowPlacement.h"
+#include "ZebHost.h"
+
+#include <QApplication>
+#include <QDebug>
+#include <QMessageBox>
+#include <QPointer>
+#include <QPushButton>
+
+namespace {
+
+constexpr QLatin1String BoxName("UTL_Messages");
+
+QString translated(const QString& text) {
+    return QCoreApplication::translate("zeb4", text.toUtf8().constData());
+}
+
+QString buttonName(int button) {
+    switch (button) {
+        case QMessageBox::Ok:
+            return QStringLiteral("Ok");
+        case QMessageBox::Save:
+            return QStringLiteral("Save");
+        case QMessageBox::Yes:
+            return QStringLiteral("Yes");
+        case QMessageBox::No:
+            return QStringLiteral("No");
+        case QMessageBox::Cancel:
+            return QStringLiteral("Cancel");
+        default:
+            return {};
+    }
+}
+
+QMessageBox* makeWarning(const QString& text, const ZebHost& host, QWidget* parent, const ButtonTexts& buttonTexts) {
+    auto* box = new QMessageBox(QMessageBox::Warning, translated(QStringLiteral("Warning")), plainText(text),
+                                QMessageBox::Ok | QMessageBox::Cancel, parent);
+    box->setObjectName(BoxName);
+    box->setTextFormat(Qt::PlainText);
+    box->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+    box->button(QMessageBox::Cancel)->setText(host.translate(QStringLiteral("Cancel")));
+    for (auto it = buttonTexts.begin(); it != buttonTexts.end(); ++it) {
+        QAbstractButton* button = box->button(static_cast<QMessageBox::StandardButton>(it.key()));
+        if (button) button->setText(translated(it.value()));
+    }
+    if (buttonTexts.isEmpty())
+        applyNativeStyle(host, *box);
+    else
+        applyMessageBoxStyle(host, *box);
+    return box;
+}
+
+}  // namespace
+
+bool UTL_Messages::warnOkCancel(const QString& text, ZebHost& host, QWidget* parent, const ButtonTexts& buttonTexts) {
+    const QString shown = translated(text);
+    const TraceScope trace(QStringLiteral("UTL_Messages::warnOkCancel"), traceArg(QStringLiteral("text"), shown));
+    // The box goes with its parent, which may be destroyed while it stands.
+    const QPointer<QMessageBox> box = makeWarning(shown, host, parent ? parent : host.getMainWindow(), buttonTexts);
+    const bool suspended = host.isViewerRunning();
+    if (suspended) host.suspendViewer();
+    box->show();
+    centerWithoutMainWindow(host, *box);
+    const int result = box->exec();
+    delete box;
+    if (suspended) host.resumeViewer();
+    qInfo() << QString(QLatin1Char('[') % shown % QStringLiteral("][result:") % buttonName(result) % QLatin1Char(']'));
+    return result == QMessageBox::Ok;
+}
+
+void UTL_Messages::rejectAll() {
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    for (QWidget* window : windows) {
+        if (window->objectName() == BoxName) qobject_cast<QDialog*>(window)->reject();
+    }
+}
