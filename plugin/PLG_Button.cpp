@@ -1,0 +1,5 @@
+#include "PLG_Button.h"
+
+PLG_Button::PLG_Button() {
+    m_category = 2;
+}
