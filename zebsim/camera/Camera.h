@@ -32,21 +32,27 @@ public:
     /// Changes the state behind the camera's back: no latency, no limits, no other heads. Throws `CameraStateError`.
     void change(const QVariantMap& members);
 
-    /// Every call of a document to its camera begins with one of these; they take the time that a planted fault says.
-    /// `query` throws `QueryError`, `command` also takes the camera's latency and throws `CameraError`.
+    /// Every question of a document to its camera begins with one of these; they take the time that a planted fault
+    /// says. They throw `QueryError`, the second also when the camera is not connected.
     void query(const char* operation) const;
-    void command(const char* operation);
-    /// As `query`, which also throws when the camera is not connected.
     void queryConnected(const char* operation) const;
 
+    /// Commands. Each takes the camera's latency, or throws `CameraError`.
+    ///
     /// Connects the device with all its heads, and disconnects it.
     void connect();
     void disconnect();
     /// The rate that the model makes of `rate`, on all heads of the device.
     void setRecordRate(unsigned int rate);
+    void eraseRecordedData();
 
 private:
-    void meetFault(const char* operation) const;
+    void command(const char* operation);
+    void commandConnected(const char* operation);
+    /// Why the operation fails; empty when it does not.
+    QString meetFault(const char* operation) const;
+    template <typename T>
+    void onAllHeads(T CameraState::*member, T value);
 
     const DOCKEY m_key;
     CameraDevice& m_device;

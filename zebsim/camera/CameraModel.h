@@ -1,12 +1,13 @@
 #pragma once
 
+#include "camera/CameraState.h"
+
 #include <QList>
 #include <QMap>
 #include <QSet>
 #include <QSize>
 #include <QString>
 #include <QStringList>
-#include <QVariantMap>
 
 #include <stdexcept>
 
@@ -36,11 +37,14 @@ struct CameraModel {
     bool sharesResolution = false;
     /// Size of the memory in MiB; a pixel takes one byte.
     int memory = 0;
-    /// Members of `CameraState` that a camera of this model starts with.
-    QVariantMap initial;
+    /// What a camera of this model starts with.
+    CameraState initial;
 
-    /// The rate that the camera takes when `rate` is asked of it. Throws `std::invalid_argument` when it refuses.
+    /// The rate that the camera takes when `rate` is asked of it: the next lower one, or the lowest. Throws
+    /// `std::invalid_argument` when it refuses.
     unsigned int acceptedRate(unsigned int rate) const;
+    /// Throws `CameraStateError` for a setting that is in none of the lists.
+    void check(const CameraState& state) const;
     /// Frames that fit into the memory.
     unsigned int frameCapacity(const QSize& resolution) const;
 };

@@ -15,6 +15,7 @@ public:
     /// Whether this failure is to be shown: true once, until the same question has had an answer.
     bool showNow(const QueryError& error);
     void answered(DOCKEY key, const char* operation);
+    void clear();
 
 private:
     std::atomic<bool> m_any{false};

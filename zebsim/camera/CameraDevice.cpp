@@ -1,0 +1,18 @@
+#include "camera/CameraDevice.h"
+
+#include "camera/Camera.h"
+
+CameraDevice::CameraDevice(const RigDevice& device, DOCKEY firstKey, Clock& clock, FaultPlan& faults,
+                           ShownErrors& shownErrors)
+    : m_address(device.address),
+      m_model(device.model),
+      m_latency(device.latency),
+      m_clock(clock),
+      m_faults(faults),
+      m_shownErrors(shownErrors) {
+    for (const CameraState& head : device.heads) {
+        m_heads.push_back(std::make_unique<Camera>(firstKey++, *this, head));
+    }
+}
+
+CameraDevice::~CameraDevice() = default;

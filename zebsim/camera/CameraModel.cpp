@@ -1,0 +1,37 @@
+#include "camera/CameraModel.h"
+
+#include <algorithm>
+
+unsigned int CameraModel::acceptedRate(unsigned int rate) const {
+    if (rates.contains(rate)) {
+        return rate;
+    }
+    if (rateRule == RefuseRate) {
+        throw std::invalid_argument(QStringLiteral("a rate of %1 fps is not supported").arg(rate).toStdString());
+    }
+    unsigned int accepted = *std::min_element(rates.begin(), rates.end());
+    for (const unsigned int offered : rates) {
+        if (offered <= rate) {
+            accepted = std::max(accepted, offered);
+        }
+    }
+    return accepted;
+}
+
+void CameraModel::check(const CameraState& state) const {
+    const auto require = [this](bool offered, const char* member) {
+        if (!offered) {
+            throw CameraStateError{QString::fromLatin1(member),
+                                   QStringLiteral("the model \"%1\" does not offer this").arg(name)};
+        }
+    };
+    require(rates.contains(state.rate), "rate");
+    require(resolutions.contains(state.resolution), "resolution");
+    require(shutters.contains(state.shutter), "shutter");
+    require(triggerModes.contains(state.triggerMode), "triggerMode");
+}
+
+unsigned int CameraModel::frameCapacity(const QSize& resolution) const {
+    const qint64 frameBytes = qint64(resolution.width()) * resolution.height();
+    return frameBytes > 0 ? static_cast<unsigned int>((qint64(memory) << 20) / frameBytes) : 0;
+}

@@ -1,0 +1,53 @@
+#include "camera/FaultPlan.h"
+
+namespace {
+
+const QString everyOperation = QStringLiteral("*");
+
+}
+
+void FaultPlan::plant(DOCKEY key, const QString& operation, const Fault& fault) {
+    const std::lock_guard lock(m_mutex);
+    if (!fault.isEmpty()) {
+        m_faults[key][operation] = fault;
+    } else if (operation == everyOperation) {
+        m_faults.remove(key);
+    } else {
+        m_faults[key].remove(operation);
+    }
+    if (fault.isEmpty()) {
+        m_gone.remove(key);
+    } else if (fault.gone && operation == everyOperation) {
+        m_gone.insert(key);
+    }
+    m_any = !m_faults.isEmpty();
+}
+
+void FaultPlan::clear() {
+    const std::lock_guard lock(m_mutex);
+    m_faults.clear();
+    m_gone.clear();
+    m_any = false;
+}
+
+Fault FaultPlan::meet(DOCKEY key, const char* operation) {
+    if (!m_any) {
+        return {};
+    }
+    const std::lock_guard lock(m_mutex);
+    const auto faults = m_faults.value(key);
+    const QString name = QString::fromLatin1(operation);
+    const Fault fault = faults.contains(name) ? faults.value(name) : faults.value(everyOperation);
+    if (fault.gone) {
+        m_gone.insert(key);
+    }
+    return fault;
+}
+
+bool FaultPlan::isGone(DOCKEY key) const {
+    if (!m_any) {
+        return false;
+    }
+    const std::lock_guard lock(m_mutex);
+    return m_gone.contains(key);
+}

@@ -1,0 +1,119 @@
+#include "camera/Rig.h"
+
+#include "camera/JsonNode.h"
+#include "camera/ModelCatalogue.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QRegularExpression>
+
+namespace {
+
+const QString shippedFolder = QStringLiteral(":/zebsim/rigs/");
+constexpr int longestLatency = 60000;
+constexpr int standardLatency = 2;
+
+QString defaultName(int camera) {
+    return QStringLiteral("Camera %1").arg(camera);
+}
+
+/// Reads the devices of one rig file; knows what was read so far.
+class RigReader {
+public:
+    explicit RigReader(const ModelCatalogue& models) : m_models(models) {}
+
+    RigDevice readDevice(const JsonNode& node) {
+        node.allowOnly(
+            {QStringLiteral("address"), QStringLiteral("model"), QStringLiteral("latency"), QStringLiteral("heads")});
+        RigDevice device;
+        device.address = readAddress(node.member(QStringLiteral("address")));
+        const JsonNode model = node.member(QStringLiteral("model"));
+        device.model = m_models.find(model.text());
+        if (!device.model) {
+            model.fail(QStringLiteral("no model \"%1\"").arg(model.text()));
+        }
+        if (node.has(QStringLiteral("latency"))) {
+            device.latency = node.member(QStringLiteral("latency")).number(0, longestLatency);
+        }
+        device.heads = readHeads(node.member(QStringLiteral("heads")), *device.model);
+        return device;
+    }
+
+private:
+    QString readAddress(const JsonNode& node) {
+        static const QRegularExpression ipv4(
+            QStringLiteral("^((25[0-5]|2[0-4]\\d|1?\\d?\\d)\\.){3}(25[0-5]|2[0-4]\\d|1?\\d?\\d)$"));
+        const QString address = node.text();
+        if (!ipv4.match(address).hasMatch()) {
+            node.fail(QStringLiteral("\"%1\" is no IPv4 address").arg(address));
+        }
+        if (m_addresses.contains(address)) {
+            node.fail(
+                QStringLiteral("%1 is the address of devices[%2]").arg(address).arg(m_addresses.indexOf(address)));
+        }
+        m_addresses.append(address);
+        return address;
+    }
+
+    QList<CameraState> readHeads(const JsonNode& node, const CameraModel& model) {
+        QList<CameraState> heads;
+        for (const JsonNode& item : node.items()) {
+            heads.append(ModelCatalogue::readState(item, model));
+            ++m_cameras;
+            if (heads.last().name.isEmpty()) {
+                heads.last().name = defaultName(m_cameras);
+            }
+        }
+        if (heads.isEmpty()) {
+            node.fail(QStringLiteral("a device has at least one head"));
+        }
+        return heads;
+    }
+
+    const ModelCatalogue& m_models;
+    QStringList m_addresses;
+    int m_cameras = 0;
+};
+
+}  // namespace
+
+Rig Rig::fromFile(const QString& pathOrName) {
+    ModelCatalogue models = ModelCatalogue::shipped();
+    const QString path =
+        names().contains(pathOrName) ? QString(shippedFolder % pathOrName % QStringLiteral(".json")) : pathOrName;
+    const JsonNode file = JsonNode::fromFile(path);
+    file.allowOnly({QStringLiteral("models"), QStringLiteral("devices")});
+    if (file.has(QStringLiteral("models"))) {
+        models.addFile(QFileInfo(path).dir().filePath(file.member(QStringLiteral("models")).text()));
+    }
+    Rig rig;
+    RigReader reader(models);
+    for (const JsonNode& node : file.member(QStringLiteral("devices")).items()) {
+        rig.devices.append(reader.readDevice(node));
+    }
+    return rig;
+}
+
+Rig Rig::standard(int count) {
+    const auto model = ModelCatalogue::shipped().find(QStringLiteral("standard"));
+    Rig rig;
+    for (int i = 0; i < count; ++i) {
+        const QString address = QStringLiteral("192.168.%1.%2").arg(i / 200).arg(11 + i % 200);
+        CameraState state = model->initial;
+        state.name = defaultName(i + 1);
+        rig.devices.append(RigDevice{address, model, standardLatency, {state}});
+    }
+    return rig;
+}
+
+QStringList Rig::names() {
+    // The catalogue brings the resources.
+    ModelCatalogue::shipped();
+    QStringList names;
+    for (const QString& file : QDir(shippedFolder).entryList(QDir::Files, QDir::Name)) {
+        if (file != QStringLiteral("models.json")) {
+            names.append(QFileInfo(file).completeBaseName());
+        }
+    }
+    return names;
+}
