@@ -1,5 +1,7 @@
 #pragma once
 
+#include "ZebTypes.h"
+
 #include <QObject>
 #include <QVariantList>
 #include <QVariantMap>
@@ -18,6 +20,9 @@ public:
     /// Adds a call, as ("ZebCameraOps::setRecordRate", {{3, 5}, 2000}): documents stand as their keys. No effect when
     /// off.
     void record(const char* call, const QVariantList& args = {});
+
+    /// Keys as an argument.
+    static QVariantList keyList(const DocKeyList& keys);
 
     /// On at first.
     void setEnabled(bool enabled);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QHash>
 #include <QSettings>
 #include <QVariant>
 
@@ -22,8 +23,11 @@ public:
     QString problem() const { return m_problem; }
 
 private:
-    void keepCorruptFileAside(const QString& path);
+    void keepCorruptFileAside();
+    QVariant stored(const QString& key) const;
 
     std::unique_ptr<QSettings> m_settings;
+    /// All that is known; the file is written through.
+    QHash<QString, QVariant> m_values;
     QString m_problem;
 };

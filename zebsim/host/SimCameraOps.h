@@ -16,7 +16,8 @@ public:
     void setRecordRate(const DocList& docs, unsigned int rate) override;
 
 private:
-    void forEach(const DocList& docs, const std::function<void(Camera&)>& work);
+    static DocKeyList keysOf(const DocList& docs);
+    void forEach(const DocKeyList& keys, const std::function<void(Camera&)>& work);
 
     Journal& m_journal;
     CameraBank& m_cameras;

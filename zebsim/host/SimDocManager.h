@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ZebDocManager.h"
+#include "host/DocContext.h"
 #include "host/ImageTools.h"
 
 #include <functional>
@@ -9,22 +10,22 @@
 
 class Camera;
 class CameraBank;
-class Journal;
 class MessageDesk;
-class Preferences;
 class SimDocument;
 
 /// Documents by key, the selection, connections, image tools.
 class SimDocManager : public ZebDocManager {
 public:
-    SimDocManager(Journal& journal, CameraBank& cameras, const Preferences& prefs, MessageDesk& desk);
+    SimDocManager(Journal& journal, CameraBank& cameras, const Preferences& prefs, const SimAppStatus& appStatus,
+                  MessageDesk& desk);
     ~SimDocManager() override;
 
     /// What `editDoc` opens; nothing at first. It is called for a camera that is there and runs until it is closed.
     void setEditor(std::function<void(Camera&)> editor) { m_editor = std::move(editor); }
     /// Forgets all documents and the current one.
     void forgetDocs();
-    const ImageTools& tools() const { return m_tools; }
+    /// Whether an image tool is the active one or a quick tool that is on.
+    bool isToolActive(const QString& tool) const { return m_tools.isActive(tool); }
 
     DOC_Interface* getDoc(DOCKEY key, int mode) override;
     DOC_Interface* getDocAny(DOCKEY key) override;
@@ -59,10 +60,10 @@ private:
 
     Journal& m_journal;
     CameraBank& m_cameras;
-    const Preferences& m_prefs;
     MessageDesk& m_desk;
     QMutex m_mutex;
     ImageTools m_tools;
+    const DocContext m_context;
     std::function<void(Camera&)> m_editor;
     std::unordered_map<DOCKEY, std::unique_ptr<SimDocument>> m_docs;
     DOCKEY m_current = zeb::NoDocKey;

@@ -18,6 +18,7 @@
 #include "host/SimUndo.h"
 #include "host/SimViewOps.h"
 #include "host/StatusFlags.h"
+#include "host/Translator.h"
 #include "host/UpdateCycle.h"
 
 #include <QPointer>
@@ -35,7 +36,6 @@ class SimHost : public ZebHost {
 public:
     /// `clock` and `desk` must outlive the host. `prefsPath` as in `Preferences`; a problem with that file is shown.
     SimHost(Clock& clock, MessageDesk& desk, const QString& prefsPath = {});
-    ~SimHost() override;
 
     /// The windows; null at first, not owned.
     void setMainWindow(QWidget* window) { m_mainWindow = window; }
@@ -112,9 +112,11 @@ public:
 
 private:
     void runUpdateCycle();
-    bool isInPluginDialog(QWidget* widget) const;
-    void show(Message message, const QStringList& list, QWidget* parent);
-    void setPrefJournalled(const char* call, const QString& key, const QVariant& value);
+    /// No exception reaches the event loop.
+    void guarded(const std::function<void()>& work);
+    bool isInPluginDialog(const QWidget* widget) const;
+    Message message(int kind, const QString& text, QWidget* parent) const;
+    void storePref(const char* call, const QString& key, const QVariant& value);
 
     Clock& m_clock;
     MessageDesk& m_desk;
@@ -127,6 +129,7 @@ private:
     HostEvents m_events;
     UpdateCycle m_updates;
     BridgeDesk m_bridges;
+    Translator m_translator;
     QPointer<QWidget> m_mainWindow;
     QPointer<QWidget> m_mdiWidget;
     int m_viewerSuspended = 0;

@@ -1,0 +1,16 @@
+#pragma once
+
+class ImageTools;
+class Journal;
+class Preferences;
+class SimAppStatus;
+class SimDocManager;
+
+/// What the topics of a document reach of the host.
+struct DocContext {
+    Journal& journal;
+    ImageTools& tools;
+    const Preferences& prefs;
+    const SimAppStatus& appStatus;
+    SimDocManager& docs;
+};

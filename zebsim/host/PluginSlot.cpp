@@ -1,0 +1,51 @@
+#include "host/PluginSlot.h"
+
+#include "host/SimHost.h"
+
+#include <QDialog>
+
+PluginSlot::PluginSlot(SimHost& host, PLG_Interface& plugin) : m_host(host), m_plugin(plugin) {
+    m_host.appStatus().registerPlugin(&m_plugin);
+}
+
+PluginSlot::~PluginSlot() {
+    m_host.appStatus().unregisterPlugin(&m_plugin);
+}
+
+void PluginSlot::open() {
+    try {
+        if (m_plugin.isDialogVisible()) {
+            m_plugin.showDialog();
+            m_plugin.getDialog(false)->activateWindow();
+            return;
+        }
+        m_plugin.prepareOpen();
+        m_plugin.activate();
+        if (m_plugin.isToolActive()) {
+            m_host.appStatus().setCurrentPlugin(&m_plugin);
+        }
+        m_plugin.getDialog(true);
+        m_plugin.showDialog();
+    } catch (const std::exception& e) {
+        m_host.errorHandler(e);
+    }
+}
+
+void PluginSlot::close() {
+    m_plugin.closeDialog();
+}
+
+bool PluginSlot::isChecked() const {
+    SimDocManager& docs = m_host.docManager();
+    DOC_Interface* doc = docs.getCurrentDoc();
+    const DocKeyList keys = docs.getDocKeys();
+    if (!doc && !keys.isEmpty()) {
+        // Without a selection any document speaks for the button.
+        doc = docs.getDocAny(keys.first());
+    }
+    return m_plugin.isChecked(doc, 0);
+}
+
+bool PluginSlot::isEnabled() const {
+    return m_plugin.isButtonEnabled();
+}

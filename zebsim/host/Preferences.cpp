@@ -1,0 +1,93 @@
+#include "host/Preferences.h"
+
+#include "host/FactoryValues.h"
+
+#include <QFile>
+#include <QStandardPaths>
+
+namespace {
+
+/// The INI form is text alone: a value that is not text, under a key without a factory value, has its type beside it.
+const QString typeGroup = QStringLiteral("types/");
+
+QString defaultPath() {
+    return QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation) % QStringLiteral("/zebsim.ini");
+}
+
+QString freeCorruptName(const QString& path) {
+    QString name = path % QStringLiteral(".corrupt");
+    for (int i = 2; QFile::exists(name); ++i) {
+        name = QStringLiteral("%1.corrupt-%2").arg(path).arg(i);
+    }
+    return name;
+}
+
+QVariant convertedTo(int type, QVariant value) {
+    value.convert(type);
+    return value;
+}
+
+std::unique_ptr<QSettings> openSettings(const QString& path) {
+    auto settings = std::make_unique<QSettings>(path, QSettings::IniFormat);
+    settings->setIniCodec("UTF-8");
+    return settings;
+}
+
+}  // namespace
+
+Preferences::Preferences(const QString& path) : m_settings(openSettings(path.isEmpty() ? defaultPath() : path)) {
+    if (m_settings->status() == QSettings::FormatError) {
+        keepCorruptFileAside();
+    } else if (m_settings->status() == QSettings::AccessError) {
+        m_problem = QStringLiteral("The preference file %1 can't be opened; nothing will be stored.").arg(this->path());
+    }
+    m_values = factoryValues();
+    for (const QString& key : m_settings->allKeys()) {
+        if (!key.startsWith(typeGroup)) {
+            m_values.insert(key, stored(key));
+        }
+    }
+}
+
+void Preferences::keepCorruptFileAside() {
+    const QString file = path();
+    const QString kept = freeCorruptName(file);
+    m_settings.reset();
+    const bool moved = QFile::rename(file, kept);
+    m_problem = moved ? QStringLiteral(
+                            "The preference file %1 is damaged. It was kept as %2, and the factory settings "
+                            "are in use.")
+                            .arg(file, kept)
+                      : QStringLiteral("The preference file %1 is damaged and could not be renamed.").arg(file);
+    m_settings = openSettings(file);
+}
+
+QVariant Preferences::stored(const QString& key) const {
+    const QVariant value = m_settings->value(key);
+    const auto factory = factoryValues().find(key);
+    if (factory != factoryValues().end()) {
+        return value.canConvert(factory->userType()) ? convertedTo(factory->userType(), value) : *factory;
+    }
+    const int type = QMetaType::type(m_settings->value(typeGroup % key).toByteArray().constData());
+    return type == QMetaType::UnknownType ? value : convertedTo(type, value);
+}
+
+QVariant Preferences::value(const QString& key, const QVariant& defaultValue) const {
+    return m_values.value(key, defaultValue);
+}
+
+void Preferences::setValue(const QString& key, const QVariant& value) {
+    const auto factory = factoryValues().find(key);
+    if (factory != factoryValues().end()) {
+        m_values.insert(key, convertedTo(factory->userType(), value));
+    } else {
+        m_values.insert(key, value);
+        if (value.type() != QVariant::String) {
+            m_settings->setValue(typeGroup % key, QString::fromLatin1(value.typeName()));
+        } else {
+            m_settings->remove(typeGroup % key);
+        }
+    }
+    // A float would be stored as a binary blob.
+    m_settings->setValue(key, value.userType() == QMetaType::Float ? QVariant(value.toDouble()) : value);
+}

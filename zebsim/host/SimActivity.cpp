@@ -1,0 +1,20 @@
+#include "host/SimActivity.h"
+
+#include "camera/Camera.h"
+#include "host/DocContext.h"
+#include "host/Journal.h"
+
+bool SimActivity::isSuspendReduce() const {
+    m_camera.query("isSuspendReduce");
+    return m_camera.get(&CameraState::suspendReduce);
+}
+
+bool SimActivity::isStopLive() const {
+    m_camera.query("isStopLive");
+    return m_camera.get(&CameraState::stopLive);
+}
+
+void SimActivity::refresh(bool force) {
+    m_context.journal.record("DOC_Activity::refresh", {m_camera.key(), force});
+    m_camera.queryConnected("refresh");
+}

@@ -1,0 +1,87 @@
+#include "host/SimAppStatus.h"
+
+#include "host/HostEvents.h"
+#include "host/Journal.h"
+#include "host/UpdateCycle.h"
+
+SimAppStatus::SimAppStatus(Journal& journal, HostEvents& events, UpdateCycle& updates)
+    : m_journal(journal), m_events(events), m_updates(updates) {}
+
+void SimAppStatus::registerPlugin(PLG_Interface* plugin) {
+    m_plugins.append(plugin);
+}
+
+void SimAppStatus::unregisterPlugin(PLG_Interface* plugin) {
+    m_plugins.removeAll(plugin);
+}
+
+QList<PLG_Interface*> SimAppStatus::plugins() const {
+    QList<PLG_Interface*> plugins;
+    for (const auto& plugin : m_plugins) {
+        if (plugin) {
+            plugins.append(plugin);
+        }
+    }
+    return plugins;
+}
+
+void SimAppStatus::enterMode(int mode) {
+    if (mode != m_mode) {
+        m_mode = mode;
+        Q_EMIT m_events.modeChanged(mode);
+    }
+    m_updates.request();
+}
+
+PLG_Interface* SimAppStatus::getPlugin(const QString& name) const {
+    for (PLG_Interface* plugin : plugins()) {
+        if (plugin->getName() == name) {
+            return plugin;
+        }
+    }
+    return nullptr;
+}
+
+void SimAppStatus::closePlugin(const QString& name) {
+    m_journal.record("ZebAppStatus::closePlugin", {name});
+    PLG_Interface* plugin = getPlugin(name);
+    if (!plugin) {
+        return;
+    }
+    if (m_current == plugin) {
+        m_current = nullptr;
+    }
+    plugin->deactivate();
+}
+
+void SimAppStatus::closePanel() {
+    m_journal.record("ZebAppStatus::closePanel");
+    m_current = nullptr;
+}
+
+void SimAppStatus::closeAuxiliaryPanel() {
+    m_journal.record("ZebAppStatus::closeAuxiliaryPanel");
+}
+
+void SimAppStatus::setWrenRunning(bool running) {
+    m_journal.record("ZebAppStatus::setWrenRunning", {running});
+    m_wrenRunning = running;
+}
+
+void SimAppStatus::notifyPluginShown(PLG_Interface* plugin) {
+    Q_EMIT m_events.pluginShown(plugin->getName());
+}
+
+void SimAppStatus::notifyPluginClosed(PLG_Interface* plugin) {
+    Q_EMIT m_events.pluginClosed(plugin->getName());
+}
+
+void SimAppStatus::enterLiveMode() {
+    m_journal.record("ZebAppStatus::enterLiveMode");
+    enterMode(zeb::LiveMode);
+}
+
+void SimAppStatus::enterMemoryMode() {
+    m_journal.record("ZebAppStatus::enterMemoryMode");
+    enterMode(zeb::MemoryMode);
+}

@@ -1,0 +1,127 @@
+#include "host/SimControl.h"
+
+#include "camera/Camera.h"
+#include "host/DocContext.h"
+#include "host/Journal.h"
+#include "host/ShutterText.h"
+
+QString SimControl::getCameraName(int /*mode*/) const {
+    m_camera.query("getCameraName");
+    return m_camera.name();
+}
+
+QString SimControl::getAddress(int /*mode*/) const {
+    m_camera.query("getAddress");
+    return m_camera.device().address();
+}
+
+int SimControl::getCameraStatus() const {
+    m_camera.queryConnected("getCameraStatus");
+    return m_camera.get(&CameraState::status);
+}
+
+bool SimControl::isFunctionSupported(int function, int /*mode*/) const {
+    m_camera.queryConnected("isFunctionSupported");
+    return m_camera.model().functions.contains(function);
+}
+
+bool SimControl::isMultiHead() const {
+    m_camera.query("isMultiHead");
+    return m_camera.device().heads().size() > 1;
+}
+
+bool SimControl::hasSyncStatus() const {
+    m_camera.queryConnected("hasSyncStatus");
+    return m_camera.model().hasSyncStatus;
+}
+
+QString SimControl::getSyncStatusText() const {
+    m_camera.queryConnected("getSyncStatusText");
+    return m_camera.get(&CameraState::syncStatus);
+}
+
+unsigned int SimControl::getRecordRate(int /*head*/) const {
+    m_camera.queryConnected("getRecordRate");
+    return m_camera.get(&CameraState::rate);
+}
+
+QList<unsigned int> SimControl::getRecordRateList() const {
+    m_camera.queryConnected("getRecordRateList");
+    return m_camera.model().rates;
+}
+
+QSize SimControl::getResolution() const {
+    m_camera.queryConnected("getResolution");
+    return m_camera.get(&CameraState::resolution);
+}
+
+QList<QSize> SimControl::getResolutionList() const {
+    m_camera.queryConnected("getResolutionList");
+    return m_camera.model().resolutions;
+}
+
+int SimControl::getShutterSpeed() const {
+    m_camera.queryConnected("getShutterSpeed");
+    return ShutterText::valueIn(ShutterText(m_context.prefs).list(), m_camera.get(&CameraState::shutter));
+}
+
+QList<int> SimControl::getShutterSpeedList(int list) const {
+    m_camera.queryConnected("getShutterSpeedList");
+    QList<int> speeds;
+    for (const int fraction : m_camera.model().shutters) {
+        speeds.append(ShutterText::valueIn(list, fraction));
+    }
+    return speeds;
+}
+
+QStringList SimControl::getShutterSpeedEntries() const {
+    m_camera.queryConnected("getShutterSpeedEntries");
+    const ShutterText text(m_context.prefs);
+    QStringList entries;
+    for (const int fraction : m_camera.model().shutters) {
+        entries.append(text.entry(fraction));
+    }
+    return entries;
+}
+
+int SimControl::getTriggerMode() const {
+    m_camera.queryConnected("getTriggerMode");
+    return m_camera.get(&CameraState::triggerMode);
+}
+
+QList<int> SimControl::getTriggerModeList() const {
+    m_camera.queryConnected("getTriggerModeList");
+    return m_camera.model().triggerModes;
+}
+
+zeb::ManualTriggerParameters SimControl::getManualTriggerParameters() const {
+    m_camera.queryConnected("getManualTriggerParameters");
+    zeb::ManualTriggerParameters parameters;
+    parameters.triggerFrame = m_camera.get(&CameraState::triggerFrame);
+    return parameters;
+}
+
+bool SimControl::getReduceMode(int /*head*/) const {
+    m_camera.queryConnected("getReduceMode");
+    return m_camera.get(&CameraState::reduce);
+}
+
+bool SimControl::isLowLightMode() const {
+    m_camera.queryConnected("isLowLightMode");
+    return m_camera.get(&CameraState::lowLight);
+}
+
+int SimControl::getLowLightType() const {
+    m_camera.queryConnected("getLowLightType");
+    return m_camera.get(&CameraState::lowLightType);
+}
+
+bool SimControl::hasRecordedData() const {
+    m_camera.queryConnected("hasRecordedData");
+    return m_camera.get(&CameraState::recorded);
+}
+
+void SimControl::eraseRecordedData(int mode) {
+    m_context.journal.record("DOC_Control::eraseRecordedData", {m_camera.key(), mode});
+    m_camera.eraseRecordedData();
+}

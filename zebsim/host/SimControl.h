@@ -1,0 +1,39 @@
+#pragma once
+
+#include "DOC_Control.h"
+
+class Camera;
+struct DocContext;
+
+/// Settings and state of a camera. Name, address and `isMultiHead` are known of a camera that is not connected, too.
+class SimControl : public DOC_Control {
+public:
+    SimControl(Camera& camera, const DocContext& context) : m_camera(camera), m_context(context) {}
+
+    QString getCameraName(int mode) const override;
+    QString getAddress(int mode) const override;
+    int getCameraStatus() const override;
+    bool isFunctionSupported(int function, int mode) const override;
+    bool isMultiHead() const override;
+    bool hasSyncStatus() const override;
+    QString getSyncStatusText() const override;
+    unsigned int getRecordRate(int head) const override;
+    QList<unsigned int> getRecordRateList() const override;
+    QSize getResolution() const override;
+    QList<QSize> getResolutionList() const override;
+    int getShutterSpeed() const override;
+    QList<int> getShutterSpeedList(int list) const override;
+    QStringList getShutterSpeedEntries() const override;
+    int getTriggerMode() const override;
+    QList<int> getTriggerModeList() const override;
+    zeb::ManualTriggerParameters getManualTriggerParameters() const override;
+    bool getReduceMode(int head) const override;
+    bool isLowLightMode() const override;
+    int getLowLightType() const override;
+    bool hasRecordedData() const override;
+    void eraseRecordedData(int mode) override;
+
+private:
+    Camera& m_camera;
+    const DocContext& m_context;
+};

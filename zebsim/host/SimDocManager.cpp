@@ -1,0 +1,202 @@
+#include "host/SimDocManager.h"
+
+#include "camera/Camera.h"
+#include "host/CameraBank.h"
+#include "host/Failures.h"
+#include "host/Journal.h"
+#include "host/MessageDesk.h"
+#include "host/SimDocument.h"
+
+#include <algorithm>
+
+SimDocManager::SimDocManager(Journal& journal, CameraBank& cameras, const Preferences& prefs,
+                             const SimAppStatus& appStatus, MessageDesk& desk)
+    : m_journal(journal), m_cameras(cameras), m_desk(desk), m_context{journal, m_tools, prefs, appStatus, *this} {}
+
+SimDocManager::~SimDocManager() = default;
+
+void SimDocManager::forgetDocs() {
+    m_docs.clear();
+    m_tools.forgetDocs();
+    m_current = zeb::NoDocKey;
+}
+
+DOC_Interface* SimDocManager::getDoc(DOCKEY key, int /*mode*/) {
+    return getDocAny(key);
+}
+
+DOC_Interface* SimDocManager::getDocAny(DOCKEY key) {
+    Camera* camera = m_cameras.find(key);
+    if (!camera) {
+        return nullptr;
+    }
+    auto& doc = m_docs[key];
+    if (!doc) {
+        doc = std::make_unique<SimDocument>(*camera, m_context);
+    }
+    return doc.get();
+}
+
+DOC_Interface* SimDocManager::getCurrentDoc() {
+    return getDocAny(currentKey());
+}
+
+bool SimDocManager::isCurrentDoc(DOCKEY key) const {
+    return key != zeb::NoDocKey && key == currentKey();
+}
+
+DOCKEY SimDocManager::currentKey() const {
+    const Camera* current = m_cameras.find(m_current);
+    if (current && current->get(&CameraState::selected)) {
+        return m_current;
+    }
+    for (const Camera* camera : m_cameras.all()) {
+        if (camera->get(&CameraState::selected)) {
+            return camera->key();
+        }
+    }
+    return zeb::NoDocKey;
+}
+
+DocKeyList SimDocManager::getDocKeys() const {
+    DocKeyList keys;
+    for (const Camera* camera : m_cameras.all()) {
+        keys.append(camera->key());
+    }
+    return keys;
+}
+
+DocKeyList SimDocManager::getConnectedDocKeys(int /*mode*/) const {
+    DocKeyList keys;
+    for (const Camera* camera : m_cameras.all()) {
+        if (camera->get(&CameraState::connected)) {
+            keys.append(camera->key());
+        }
+    }
+    return keys;
+}
+
+DocKeyList SimDocManager::getLiveDocKeys(int /*mode*/, int /*order*/) const {
+    return getDocKeys();
+}
+
+void SimDocManager::selectDoc(DOCKEY key) {
+    m_journal.record("ZebDocManager::selectDoc", {key});
+    if (Camera* camera = m_cameras.find(key)) {
+        const DOCKEY current = currentKey();
+        camera->set(&CameraState::selected, true);
+        m_current = current == zeb::NoDocKey ? key : current;
+    }
+}
+
+void SimDocManager::deselectDoc(DOCKEY key) {
+    m_journal.record("ZebDocManager::deselectDoc", {key});
+    if (Camera* camera = m_cameras.find(key)) {
+        camera->set(&CameraState::selected, false);
+    }
+}
+
+void SimDocManager::connectDocs(const DocKeyList& keys) {
+    m_journal.record("ZebDocManager::connectDocs", {Journal::keyList(keys)});
+    forEachKey(keys, [](Camera& camera) {
+        if (!camera.get(&CameraState::connected)) {
+            camera.connect();
+        }
+    });
+}
+
+void SimDocManager::disconnectDocs(const DocKeyList& keys) {
+    m_journal.record("ZebDocManager::disconnectDocs", {Journal::keyList(keys)});
+    forEachKey(keys, [](Camera& camera) {
+        if (camera.get(&CameraState::connected)) {
+            camera.disconnect();
+        }
+    });
+}
+
+void SimDocManager::forEachKey(const DocKeyList& keys, const std::function<void(Camera&)>& work) {
+    Failures failures;
+    for (const DOCKEY key : keys) {
+        if (Camera* camera = m_cameras.find(key)) {
+            failures.attempt([&] { work(*camera); });
+        }
+    }
+    if (failures.any()) {
+        Message message;
+        message.kind = Message::Error;
+        message.text = failures.text();
+        m_desk.show(message);
+    }
+}
+
+void SimDocManager::editDoc(DOCKEY key) {
+    m_journal.record("ZebDocManager::editDoc", {key});
+    Camera* camera = m_cameras.find(key);
+    if (camera && m_editor) {
+        m_editor(*camera);
+    }
+}
+
+bool SimDocManager::sharesDeviceWithLockedHead(DOC_Interface* doc, bool shutter, bool resolution) {
+    const Camera* camera = m_cameras.find(doc->getKey());
+    if (!camera) {
+        return false;
+    }
+    const CameraModel& model = camera->model();
+    if ((shutter && !model.sharesShutter) || (resolution && !model.sharesResolution)) {
+        return false;
+    }
+    const auto& heads = camera->device().heads();
+    return std::any_of(heads.begin(), heads.end(),
+                       [camera](const auto& head) { return head.get() != camera && head->get(&CameraState::locked); });
+}
+
+void SimDocManager::beginDocEdit() {
+    m_journal.record("ZebDocManager::beginDocEdit");
+}
+
+void SimDocManager::beginDocEditNotify() {
+    m_journal.record("ZebDocManager::beginDocEditNotify");
+}
+
+void SimDocManager::endDocEdit() {
+    m_journal.record("ZebDocManager::endDocEdit");
+}
+
+void SimDocManager::commitDocEdit() {
+    m_journal.record("ZebDocManager::commitDocEdit");
+}
+
+void SimDocManager::setQuickTool(const QString& tool, bool on) {
+    m_journal.record("ZebDocManager::setQuickTool", {tool, on});
+    m_tools.setQuick(tool, on);
+}
+
+void SimDocManager::setActiveQuickTool(const QString& tool) {
+    m_journal.record("ZebDocManager::setActiveQuickTool", {tool});
+    m_tools.setActive(tool);
+}
+
+void SimDocManager::toolSelect(const QString& tool, bool on) {
+    m_journal.record("ZebDocManager::toolSelect", {tool, on});
+    m_tools.choose(tool, currentKey(), on);
+}
+
+void SimDocManager::toolSelectAll(const QString& tool, bool all, bool on) {
+    m_journal.record("ZebDocManager::toolSelectAll", {tool, all, on});
+    for (const DOCKEY key : all ? getDocKeys() : DocKeyList{currentKey()}) {
+        m_tools.choose(tool, key, on);
+    }
+}
+
+void SimDocManager::toolBegin(int mode, const QString& tool) {
+    m_journal.record("ZebDocManager::toolBegin", {mode, tool});
+}
+
+void SimDocManager::toolEnd(const QString& tool) {
+    m_journal.record("ZebDocManager::toolEnd", {tool});
+}
+
+void SimDocManager::toolApply(const QString& tool) {
+    m_journal.record("ZebDocManager::toolApply", {tool});
+}

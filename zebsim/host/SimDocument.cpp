@@ -1,0 +1,44 @@
+#include "host/SimDocument.h"
+
+#include "camera/Camera.h"
+#include "host/ShutterText.h"
+#include "host/SimDocManager.h"
+
+SimDocument::SimDocument(Camera& camera, const DocContext& context)
+    : m_camera(camera),
+      m_context(context),
+      m_activity(camera, context),
+      m_lock(camera, context),
+      m_frames(camera, context),
+      m_image(camera, context),
+      m_control(camera, context) {}
+
+DOCKEY SimDocument::getKey() const {
+    return m_camera.key();
+}
+
+bool SimDocument::isConnected() const {
+    return m_camera.get(&CameraState::connected);
+}
+
+bool SimDocument::isSelected() const {
+    return m_camera.get(&CameraState::selected);
+}
+
+bool SimDocument::isMobileSelected() const {
+    return m_camera.get(&CameraState::mobile);
+}
+
+DOC_Interface* SimDocument::getParentDoc() const {
+    const DOCKEY master = m_camera.device().heads().front()->key();
+    return master == getKey() ? nullptr : m_context.docs.getDocAny(master);
+}
+
+QStringList SimDocument::getAlerts() const {
+    m_camera.queryConnected("getAlerts");
+    return m_camera.get(&CameraState::alerts);
+}
+
+QString SimDocument::formatShutterSpeed(int value, int /*head*/) const {
+    return ShutterText(m_context.prefs).label(value);
+}

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "DOC_Interface.h"
+#include "host/SimActivity.h"
+#include "host/SimControl.h"
+#include "host/SimFrames.h"
+#include "host/SimImage.h"
+#include "host/SimLock.h"
+
+/// A camera's document: a view on the `Camera`, which holds all that there is to know.
+class SimDocument : public DOC_Interface {
+public:
+    SimDocument(Camera& camera, const DocContext& context);
+
+    SimActivity& activity() override { return m_activity; }
+    SimLock& lock() override { return m_lock; }
+    SimFrames& frames() override { return m_frames; }
+    SimImage& image() override { return m_image; }
+    SimControl& control() override { return m_control; }
+
+    DOCKEY getKey() const override;
+    bool isConnected() const override;
+    bool isSelected() const override;
+    bool isMobileSelected() const override;
+    /// The document of the master head; null for the master and for a camera of one head.
+    DOC_Interface* getParentDoc() const override;
+    QStringList getAlerts() const override;
+    QString formatShutterSpeed(int value, int head) const override;
+
+private:
+    Camera& m_camera;
+    const DocContext& m_context;
+    SimActivity m_activity;
+    SimLock m_lock;
+    SimFrames m_frames;
+    SimImage m_image;
+    SimControl m_control;
+};

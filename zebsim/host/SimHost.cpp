@@ -1,0 +1,249 @@
+#include "host/SimHost.h"
+
+#include "DOC_Interface.h"
+#include "ZebPageBridge.h"
+#include "camera/Camera.h"
+#include "camera/Rig.h"
+#include "host/MessageDesk.h"
+
+#include <QDialog>
+#include <QWebView>
+#include <QtDebug>
+
+SimHost::SimHost(Clock& clock, MessageDesk& desk, const QString& prefsPath)
+    : m_clock(clock),
+      m_desk(desk),
+      m_prefs(prefsPath),
+      m_cameras(clock, m_faults, m_shownErrors),
+      m_updates([this] { runUpdateCycle(); }),
+      m_appStatus(m_journal, m_events, m_updates),
+      m_docManager(m_journal, m_cameras, m_prefs, m_appStatus, desk),
+      m_liveLoop(m_journal),
+      m_player(m_journal),
+      m_recorder(m_cameras, m_flags),
+      m_cameraOps(m_journal, m_cameras),
+      m_saver(m_flags),
+      m_viewOps(m_cameras),
+      m_undo(m_journal) {
+    if (!m_translator.load(QStringLiteral("en"))) {
+        qInfo("no English catalogue: texts show as they are in the code");
+    }
+    if (!m_prefs.problem().isEmpty()) {
+        Message message;
+        message.kind = Message::Warn;
+        message.text = m_prefs.problem();
+        m_desk.show(message);
+    }
+}
+
+void SimHost::setRig(const Rig& rig) {
+    m_docManager.forgetDocs();
+    m_faults.clear();
+    m_shownErrors.clear();
+    m_cameras.replace(rig);
+    Q_EMIT m_events.camerasReplaced();
+    m_updates.request();
+}
+
+QVariant SimHost::getPref(const QString& key, const QVariant& defaultValue) const {
+    return m_prefs.value(key, defaultValue);
+}
+
+int SimHost::getPrefInt(const QString& key, const QVariant& defaultValue) const {
+    return getPref(key, defaultValue).toInt();
+}
+
+bool SimHost::getPrefBool(const QString& key, const QVariant& defaultValue) const {
+    return getPref(key, defaultValue).toBool();
+}
+
+float SimHost::getPrefFloat(const QString& key, const QVariant& defaultValue) const {
+    return getPref(key, defaultValue).toFloat();
+}
+
+QString SimHost::getPrefString(const QString& key, const QVariant& defaultValue) const {
+    return getPref(key, defaultValue).toString();
+}
+
+void SimHost::storePref(const char* call, const QString& key, const QVariant& value) {
+    m_journal.record(call, {key, value});
+    m_prefs.setValue(key, value);
+}
+
+void SimHost::setPref(const QString& key, const QVariant& value) {
+    storePref("ZebHost::setPref", key, value);
+}
+
+void SimHost::setPrefInt(const QString& key, int value) {
+    storePref("ZebHost::setPrefInt", key, value);
+}
+
+void SimHost::setPrefBool(const QString& key, bool value) {
+    storePref("ZebHost::setPrefBool", key, value);
+}
+
+void SimHost::setPrefFloat(const QString& key, float value) {
+    storePref("ZebHost::setPrefFloat", key, value);
+}
+
+void SimHost::setPrefString(const QString& key, const QString& value) {
+    storePref("ZebHost::setPrefString", key, value);
+}
+
+QString SimHost::translate(const QString& text) const {
+    return m_translator.translate(text);
+}
+
+Message SimHost::message(int kind, const QString& text, QWidget* parent) const {
+    Message message;
+    message.kind = static_cast<Message::Kind>(kind);
+    // The plug-in hands over keys and finished texts alike; a finished one has no translation and stays.
+    message.text = translate(text).replace(QStringLiteral("<br>"), QStringLiteral("\n"));
+    message.parent = parent ? parent : m_mainWindow.data();
+    return message;
+}
+
+void SimHost::info(const QString& text, QWidget* parent) {
+    m_desk.show(message(Message::Info, text, parent));
+}
+
+void SimHost::warn(const QString& text, QWidget* parent) {
+    m_desk.show(message(Message::Warn, text, parent));
+}
+
+void SimHost::warnList(const QString& text, const QStringList& messages, QWidget* parent) {
+    Message box = message(Message::Warn, text, parent);
+    box.list = messages;
+    m_desk.show(box);
+}
+
+void SimHost::alert(const QString& text, QWidget* parent) {
+    m_desk.show(message(Message::Alert, text, parent));
+}
+
+void SimHost::alertList(const QString& text, const QStringList& messages, QWidget* parent) {
+    Message box = message(Message::Alert, text, parent);
+    box.list = messages;
+    m_desk.show(box);
+}
+
+bool SimHost::confirm(const QString& text) {
+    return confirmModal(text, nullptr, {});
+}
+
+bool SimHost::confirmModal(const QString& text, QWidget* parent, const ButtonTexts& buttons) {
+    Message box = message(Message::Confirm, text, parent);
+    box.buttons = buttons;
+    return m_desk.show(box).accepted;
+}
+
+bool SimHost::confirmWithDontShowAgain(const QString& text, const QString& prefKey, QWidget* parent,
+                                       const ButtonTexts& buttons) {
+    Message box = message(Message::Confirm, text, parent);
+    box.buttons = buttons;
+    box.offersSilence = true;
+    const Answer answer = m_desk.show(box);
+    if (answer.silenced) {
+        m_prefs.setValue(prefKey, false);
+    }
+    return answer.accepted;
+}
+
+void SimHost::errorHandler(const std::exception& e) {
+    const QString text = QString::fromUtf8(e.what());
+    if (text.isEmpty()) {
+        return;
+    }
+    const auto* query = dynamic_cast<const QueryError*>(&e);
+    if (query && !m_shownErrors.showNow(*query)) {
+        qWarning("%s (again)", e.what());
+        return;
+    }
+    m_desk.show(message(Message::Error, text, nullptr));
+}
+
+void SimHost::attachBridge(QWebView* view, ZebPageBridge* bridge) {
+    m_bridges.attach(view, bridge);
+}
+
+void SimHost::updateUI(unsigned int mask, bool refresh) {
+    m_journal.record("ZebHost::updateUI", {mask, refresh});
+    m_updates.request();
+}
+
+void SimHost::deterUpdateUI(bool deter) {
+    m_journal.record("ZebHost::deterUpdateUI", {deter});
+    m_updates.deter(deter);
+}
+
+void SimHost::runUpdateCycle() {
+    for (const QPointer<PLG_Interface> plugin : m_appStatus.plugins()) {
+        if (plugin) {
+            guarded([&] { plugin->updateDialog(getOperatingMode()); });
+        }
+    }
+    for (const BridgeDesk::Attached& attached : m_bridges.loaded()) {
+        // Each of them may take others with it.
+        if (attached.view && attached.bridge && !isInPluginDialog(attached.view)) {
+            guarded([&] { attached.bridge->raiseUpdate(); });
+        }
+    }
+    Q_EMIT m_events.updateFinished();
+}
+
+void SimHost::guarded(const std::function<void()>& work) {
+    try {
+        work();
+    } catch (const std::exception& e) {
+        errorHandler(e);
+    }
+}
+
+bool SimHost::isInPluginDialog(const QWidget* widget) const {
+    for (PLG_Interface* plugin : m_appStatus.plugins()) {
+        const QDialog* dialog = plugin->getDialog(false);
+        if (dialog && dialog->isAncestorOf(widget)) {
+            return true;
+        }
+    }
+    return false;
+}
+
+void SimHost::suspendViewer() {
+    m_journal.record("ZebHost::suspendViewer");
+    ++m_viewerSuspended;
+}
+
+void SimHost::resumeViewer() {
+    m_journal.record("ZebHost::resumeViewer");
+    m_viewerSuspended = qMax(0, m_viewerSuspended - 1);
+}
+
+bool SimHost::isApplicationClosing() const {
+    return m_flags.isOn(QStringLiteral("IsApplicationClosing"));
+}
+
+bool SimHost::isWindowStateSaveSuppressed() const {
+    return m_flags.isOn(QStringLiteral("IsWindowStateSaveSuppressed"));
+}
+
+bool SimHost::isOtherPluginOpen() const {
+    return m_flags.isOn(QStringLiteral("IsOtherPluginOpen"));
+}
+
+bool SimHost::isSelectionKept() const {
+    return m_flags.isOn(QStringLiteral("IsSelectionKept"));
+}
+
+bool SimHost::getTriggerTesting() const {
+    return m_flags.isOn(QStringLiteral("IsTriggerTesting"));
+}
+
+bool SimHost::isToolActive(const QString& tool) const {
+    return m_docManager.isToolActive(tool);
+}
+
+bool SimHost::isCapable(const QString& capability, DOC_Interface* doc, int /*head*/) const {
+    const Camera* camera = doc ? m_cameras.find(doc->getKey()) : nullptr;
+    return camera && camera->model().capabilities.contains(capability);
+}

@@ -1,0 +1,46 @@
+#include "host/SimImage.h"
+
+#include "camera/Camera.h"
+#include "host/DocContext.h"
+#include "host/ImageTools.h"
+#include "host/Journal.h"
+
+QString SimImage::getComment() const {
+    m_camera.query("getComment");
+    return m_camera.get(&CameraState::comment);
+}
+
+QSize SimImage::getImageSize() const {
+    m_camera.query("getImageSize");
+    return m_camera.get(&CameraState::resolution);
+}
+
+double SimImage::getScale() const {
+    m_camera.query("getScale");
+    return m_camera.get(&CameraState::scale);
+}
+
+int SimImage::getBinningPower() const {
+    m_camera.query("getBinningPower");
+    return m_camera.get(&CameraState::binningPower);
+}
+
+QPoint SimImage::getPoint() const {
+    m_camera.query("getPoint");
+    return m_camera.get(&CameraState::point);
+}
+
+QRect SimImage::getToolRect(const QString& tool) const {
+    return m_context.tools.rect(tool, m_camera.key());
+}
+
+void SimImage::setToolRect(const QString& tool, const QRect& rect) {
+    const QVariantList plainRect{rect.x(), rect.y(), rect.width(), rect.height()};
+    m_context.journal.record("DOC_Image::setToolRect", {m_camera.key(), tool, plainRect});
+    m_camera.query("setToolRect");
+    m_context.tools.setRect(tool, m_camera.key(), rect);
+}
+
+bool SimImage::isToolChecked(const QString& tool) const {
+    return m_context.tools.isChosen(tool, m_camera.key());
+}

@@ -1,0 +1,26 @@
+#include "host/SimLiveLoop.h"
+
+#include "host/Journal.h"
+
+void SimLiveLoop::pauseLive(int mode) {
+    m_journal.record("ZebLiveLoop::pauseLive", {mode});
+    ++m_pauses;
+}
+
+void SimLiveLoop::resumeLive() {
+    m_journal.record("ZebLiveLoop::resumeLive");
+    m_pauses = qMax(0, m_pauses - 1);
+}
+
+void SimLiveLoop::restartLive(int mode, int reload, int keepView) {
+    m_journal.record("ZebLiveLoop::restartLive", {mode, reload, keepView});
+    ++m_pauses;
+}
+
+void SimLiveLoop::restartLiveAfterTool(int mode) {
+    m_journal.record("ZebLiveLoop::restartLiveAfterTool", {mode});
+}
+
+void SimLiveLoop::restartLiveAfterEnd(int mode) {
+    m_journal.record("ZebLiveLoop::restartLiveAfterEnd", {mode});
+}

@@ -1,0 +1,24 @@
+#include "host/SimLock.h"
+
+#include "camera/Camera.h"
+#include "host/DocContext.h"
+#include "host/Journal.h"
+
+int SimLock::getRecordState() const {
+    m_camera.query("getRecordState");
+    return m_camera.get(&CameraState::recordState);
+}
+
+bool SimLock::isParamLocked() const {
+    m_camera.query("isParamLocked");
+    return m_camera.get(&CameraState::locked);
+}
+
+void SimLock::setParamLock(bool lock) {
+    m_context.journal.record("DOC_Lock::setParamLock", {m_camera.key(), lock});
+    m_camera.query("setParamLock");
+    const int recordState = m_camera.get(&CameraState::recordState);
+    if (recordState != zeb::RecordReady && recordState != zeb::RecordRecording) {
+        m_camera.set(&CameraState::locked, lock);
+    }
+}

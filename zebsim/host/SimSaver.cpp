@@ -1,0 +1,11 @@
+#include "host/SimSaver.h"
+
+#include "host/StatusFlags.h"
+
+bool SimSaver::isSaving() const {
+    return m_flags.isOn(QStringLiteral("IsSaving"));
+}
+
+bool SimSaver::isBgSaving() const {
+    return m_flags.isOn(QStringLiteral("IsBgSaving"));
+}

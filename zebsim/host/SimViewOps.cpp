@@ -1,0 +1,29 @@
+#include "host/SimViewOps.h"
+
+#include "camera/Camera.h"
+#include "host/CameraBank.h"
+
+namespace {
+
+CameraState stateOf(const CameraBank& cameras, DOCKEY key) {
+    const Camera* camera = cameras.find(key);
+    return camera ? camera->state() : CameraState();
+}
+
+}  // namespace
+
+double SimViewOps::getRotation(DOCKEY key) const {
+    return stateOf(m_cameras, key).rotation;
+}
+
+bool SimViewOps::isHorizontalFlip(DOCKEY key) const {
+    return stateOf(m_cameras, key).flipHorizontal;
+}
+
+bool SimViewOps::isVerticalFlip(DOCKEY key) const {
+    return stateOf(m_cameras, key).flipVertical;
+}
+
+double SimViewOps::getZoom(DOCKEY key) const {
+    return stateOf(m_cameras, key).zoom;
+}

@@ -1,0 +1,25 @@
+#include "host/StatusFlags.h"
+
+#include <stdexcept>
+
+StatusFlags::StatusFlags() {
+    for (const char* name :
+         {"IsApplicationClosing", "IsBgSaving", "IsCTSReady", "IsOtherPluginOpen", "IsReady", "IsRecording",
+          "IsRecordingError", "IsSaving", "IsSelectionKept", "IsTriggerTesting", "IsWindowStateSaveSuppressed"}) {
+        m_flags.insert(QString::fromLatin1(name), false);
+    }
+}
+
+void StatusFlags::set(const QString& name, bool on) {
+    const auto flag = m_flags.find(name);
+    if (flag == m_flags.end()) {
+        throw std::invalid_argument(QStringLiteral("the host has no state \"%1\"; it has %2")
+                                        .arg(name, names().join(QStringLiteral(", ")))
+                                        .toStdString());
+    }
+    *flag = on;
+}
+
+bool StatusFlags::isOn(const QString& name) const {
+    return m_flags.value(name);
+}

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <QString>
+#include <QTranslator>
+
+/// The texts of host, pages and plug-in in the user's language. Installed in the application while it lives. GUI
+/// thread.
+class Translator {
+public:
+    ~Translator();
+
+    /// Takes the catalogue of a language, as "en"; false when there is none.
+    bool load(const QString& language);
+    /// A text without a translation comes back as it is.
+    QString translate(const QString& text) const;
+
+private:
+    QTranslator m_catalogue;
+};
