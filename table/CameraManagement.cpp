@@ -1,0 +1,134 @@
+#include "CameraManagement.h"
+
+#include "DOC_Control.h"
+#include "DOC_Interface.h"
+#include "DOC_Lock.h"
+#include "DocKeys.h"
+#include "LogFailure.h"
+#include "TableState.h"
+#include "ZebDocManager.h"
+#include "ZebHost.h"
+
+namespace {
+
+bool isReadyOrRecording(DOC_Interface& doc) {
+    const int state = doc.lock().getRecordState();
+    return state == zeb::RecordReady || state == zeb::RecordRecording;
+}
+
+}  // namespace
+
+QString CameraManagement::getSearchAddress() const {
+    return m_host.isLiveMode() ? m_host.getPrefString(QStringLiteral("cameraconnection/SearchIP")) : QString();
+}
+
+bool CameraManagement::confirmDisconnect(const DocKeyList& keys) const {
+    bool agreed = false;
+    logFailure([&] {
+        agreed = m_host.isLiveMode() && m_host.confirmModal(m_host.translate(disconnectQuestion(keys)), nullptr, {});
+    });
+    return agreed;
+}
+
+QString CameraManagement::disconnectQuestion(const DocKeyList& keys) const {
+    int unlocked = 0;
+    bool anyMultiHead = false;
+    for (const DOCKEY key : keys) {
+        DOC_Interface* doc = m_host.docManager().getDocAny(key);
+        if (doc == nullptr) {
+            continue;
+        }
+        unlocked += doc->lock().isParamLocked() ? 0 : 1;
+        anyMultiHead = anyMultiHead || doc->control().isMultiHead();
+    }
+    return disconnectQuestionFor(anyMultiHead, unlocked);
+}
+
+QString CameraManagement::disconnectQuestionFor(bool anyMultiHead, int unlocked) {
+    if (anyMultiHead) {
+        return QStringLiteral("Heads connected to the same device are also disconnected. Is it OK?");
+    }
+    return unlocked < 2 ? QStringLiteral("Disconnect this device. Is it OK?")
+                        : QStringLiteral("Bulk disconnect devices. Is it OK?");
+}
+
+void CameraManagement::connect(const DocKeyList& keys, bool connect, bool force) {
+    if (!m_host.isLiveMode() && !force) {
+        return;
+    }
+    ZebDocManager& documents = m_host.docManager();
+    const DocKeyList affected = connect ? keysToConnect(keys) : keysToDisconnect(keys, force);
+    if (affected.isEmpty()) {
+        return;
+    }
+    if (connect) {
+        documents.connectDocs(affected);
+        prepareConnectedDocs(connectedDocs(documents, affected));
+    } else {
+        documents.disconnectDocs(affected);
+    }
+}
+
+bool CameraManagement::select(const DocKeyList& keys, bool select) {
+    if (m_host.isFileMode() || m_host.isApplicationClosing()) {
+        return false;
+    }
+    ZebDocManager& documents = m_host.docManager();
+    for (const DOCKEY key : keys) {
+        DOC_Interface* doc = documents.getDocAny(key);
+        if (doc == nullptr || !doc->isConnected() || !mayBeSelected(*doc)) {
+            continue;
+        }
+        if (select != doc->isSelected()) {
+            select ? documents.selectDoc(key) : documents.deselectDoc(key);
+        }
+        m_state.batchDocKey = doc->isSelected() ? key : zeb::NoDocKey;
+    }
+    return true;
+}
+
+void CameraManagement::editDoc(DOCKEY key) {
+    m_host.docManager().editDoc(key);
+}
+
+void CameraManagement::prepareConnectedDocs(const DocList& docs) {
+    if (docs.isEmpty() || !m_host.isLiveMode()) {
+        return;
+    }
+    const bool lockColumn = m_host.getPrefBool(QStringLiteral("wren/display/lock"));
+    for (DOC_Interface* doc : docs) {
+        if (!doc->isConnected() || !isReadyOrRecording(*doc)) {
+            continue;
+        }
+        m_state.recordRunning = true;
+        if (lockColumn && !doc->lock().isParamLocked()) {
+            doc->lock().setParamLock(true);
+        }
+    }
+}
+
+bool CameraManagement::mayBeSelected(DOC_Interface& doc) const {
+    return m_host.isLiveMode() ? doc.lock().getRecordState() == zeb::RecordLive : m_host.isMemoryMode();
+}
+
+DocKeyList CameraManagement::keysToConnect(const DocKeyList& keys) const {
+    DocKeyList connecting;
+    for (const DOCKEY key : keys) {
+        const DOC_Interface* doc = m_host.docManager().getDocAny(key);
+        if (doc != nullptr && !doc->isConnected()) {
+            connecting.append(key);
+        }
+    }
+    return connecting;
+}
+
+DocKeyList CameraManagement::keysToDisconnect(const DocKeyList& keys, bool force) const {
+    DocKeyList disconnecting;
+    for (const DOCKEY key : keys) {
+        DOC_Interface* doc = m_host.docManager().getDocAny(key);
+        if (doc != nullptr && doc->isConnected() && (force || !doc->lock().isParamLocked())) {
+            disconnecting.append(key);
+        }
+    }
+    return disconnecting;
+}

@@ -1,0 +1,44 @@
+#pragma once
+
+#include "ZebTypes.h"
+
+#include <QString>
+
+class ZebHost;
+struct TableState;
+
+/// Which cameras are connected and selected. May throw what the host throws; a camera that is gone is skipped.
+class CameraManagement {
+public:
+    CameraManagement(ZebHost& host, TableState& state) : m_host(host), m_state(state) {}
+
+    /// The address that was searched last; empty outside live mode.
+    QString getSearchAddress() const;
+
+    /// Asks the user before `keys` are disconnected. False outside live mode, and after a failure, which is logged.
+    bool confirmDisconnect(const DocKeyList& keys) const;
+    /// What the user is asked: heads of one device go together, else it counts how many cameras are not locked.
+    static QString disconnectQuestionFor(bool anyMultiHead, int unlocked);
+
+    /// Connects those of `keys` that are not connected, or disconnects those that are and that no lock keeps.
+    /// `force`, the host's own road, works in every mode and disconnects locked cameras too.
+    void connect(const DocKeyList& keys, bool connect, bool force);
+
+    /// False when nothing may be selected now: in file mode and while the host closes.
+    bool select(const DocKeyList& keys, bool select);
+
+    void editDoc(DOCKEY key);
+
+    /// Every road by which a camera comes into the table ends here: one that records already is followed, and
+    /// locked while the lock column is in use.
+    void prepareConnectedDocs(const DocList& docs);
+
+private:
+    QString disconnectQuestion(const DocKeyList& keys) const;
+    bool mayBeSelected(DOC_Interface& doc) const;
+    DocKeyList keysToConnect(const DocKeyList& keys) const;
+    DocKeyList keysToDisconnect(const DocKeyList& keys, bool force) const;
+
+    ZebHost& m_host;
+    TableState& m_state;
+};

@@ -1,0 +1,17 @@
+#pragma once
+
+#include "ZebTypes.h"
+
+#include <QString>
+#include <QVariant>
+
+class ZebDocManager;
+
+/// Keys as a page hands them over, texts or numbers, in its order; what is no key is left out.
+DocKeyList toDocKeys(const QVariantList& keys);
+
+/// The keys as one text for the log.
+QString keyText(const QVariantList& keys);
+
+/// The documents of `keys` that are there and connected, in the order of the keys.
+DocList connectedDocs(ZebDocManager& documents, const DocKeyList& keys);

@@ -1,0 +1,94 @@
+#include "GUI_WrenTableDialog.h"
+
+#include "BridgeCall.h"
+#include "JS_Mediator_WrenTableDialog.h"
+#include "LogFailure.h"
+#include "TablePlacement.h"
+#include "ZebHost.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QDesktopWidget>
+#include <QGuiApplication>
+#include <QPointer>
+#include <QScreen>
+
+namespace {
+
+constexpr QSize MinimumSize(1200, 400);
+const QString ReadyPref = QStringLiteral("wren/ready");
+
+QString placementPref(const char* name) {
+    return QStringLiteral("wren/table/") % QLatin1String(name);
+}
+
+QVector<QRect> screenGeometries() {
+    QVector<QRect> geometries;
+    for (const QScreen* screen : QGuiApplication::screens()) {
+        geometries.append(screen->geometry());
+    }
+    return geometries;
+}
+
+}  // namespace
+
+GUI_WrenTableDialog::GUI_WrenTableDialog(ZebHost* host, const QString& title, const QString& url,
+                                         JS_Mediator_WrenTableDialog* bridge, PLG_Interface* plugin)
+    : GUI_ModelessPatternDialog(host, title, url, bridge, plugin) {
+    setWindowFlags(windowFlags() | Qt::WindowMinMaxButtonsHint);
+    setMinimumSize(MinimumSize);
+    restorePlacement();
+}
+
+void GUI_WrenTableDialog::updatePage() {
+    logFailure([this] { GUI_ModelessPatternDialog::updatePage(); });
+}
+
+void GUI_WrenTableDialog::closeEvent(QCloseEvent* event) {
+    const QPointer<GUI_WrenTableDialog> self(this);
+    bridgeCall(*getBridge(), [this] { storePlacement(); });
+    QCoreApplication::processEvents();
+    if (!self || !mayClose()) {
+        event->ignore();
+        return;
+    }
+    bridgeCall(*getBridge(), [this] { host().setPrefBool(ReadyPref, host().isApplicationClosing()); });
+    GUI_ModelessPatternDialog::closeEvent(event);
+}
+
+/// Where the window was when it was closed; see `placeTable` for what has changed since.
+void GUI_WrenTableDialog::restorePlacement() {
+    const auto stored = [this](const char* name) { return host().getPrefInt(placementPref(name)); };
+    const QScreen* mainScreen = host().getMainWindow() != nullptr ? host().getMainWindow()->screen() : screen();
+    const TablePlacement placement = placeTable({QPoint(stored("x"), stored("y")), QSize(stored("w"), stored("h")),
+                                                 Qt::WindowStates(QFlag(stored("stat"))), stored("scrno")},
+                                                MinimumSize, screenGeometries(), mainScreen->geometry());
+    setGeometry(placement.geometry);
+    setWindowState(placement.state);
+    if (placement.centered) {
+        centerOnMainScreen();
+    }
+}
+
+void GUI_WrenTableDialog::storePlacement() {
+    if (host().isWindowStateSaveSuppressed()) {
+        return;
+    }
+    const auto store = [this](const char* name, int value) { host().setPrefInt(placementPref(name), value); };
+    const QRect normal = normalGeometry();
+    store("x", normal.left());
+    store("y", normal.top());
+    store("w", normal.width());
+    store("h", normal.height());
+    store("scrno", QApplication::desktop()->screenNumber(this));
+    store("stat", int(windowState()));
+}
+
+/// The question counts as a call of the bridge: no tick comes while it stands and no camera is changed behind it.
+bool GUI_WrenTableDialog::mayClose() {
+    const QPointer<GUI_WrenTableDialog> self(this);
+    const bool agreed = host().isApplicationClosing() || bridgeCall(*getBridge(), false, [this] {
+                            return host().confirmModal(QStringLiteral("Quit WREN?"), this, {});
+                        });
+    return self && (agreed || host().isApplicationClosing());
+}

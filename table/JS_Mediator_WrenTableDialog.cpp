@@ -1,0 +1,284 @@
+#include "JS_Mediator_WrenTableDialog.h"
+
+#include "BridgeCall.h"
+#include "CameraManagement.h"
+#include "DOC_Activity.h"
+#include "DOC_Interface.h"
+#include "DocKeys.h"
+#include "GUI_ProgressDialog.h"
+#include "OperationEventHandler.h"
+#include "PLG_Interface.h"
+#include "ParameterEditing.h"
+#include "ReadyProgress.h"
+#include "TableSession.h"
+#include "TraceScope.h"
+#include "TraceText.h"
+#include "ZebAppStatus.h"
+#include "ZebDocManager.h"
+#include "ZebHost.h"
+#include "ZebSaver.h"
+#include "records/RecordModel.h"
+
+#include <QCoreApplication>
+#include <QDebug>
+#include <QDialog>
+
+namespace {
+
+/// Selections that follow each other within this time make one update. Milliseconds.
+constexpr int SelectionWait = 500;
+
+QString methodName(const char* method) {
+    return QStringLiteral("JS_Mediator_WrenTableDialog::") % QLatin1String(method);
+}
+
+QString keysArg(const QVariantList& keys) {
+    return traceArg(QStringLiteral("keys"), keyText(keys));
+}
+
+QString docKeyArg(DOCKEY dockey) {
+    return traceArg(QStringLiteral("docKey"), dockey);
+}
+
+}  // namespace
+
+JS_Mediator_WrenTableDialog::JS_Mediator_WrenTableDialog(ZebHost* host, const QString& name, PLG_Interface* plugin,
+                                                         QObject* parent)
+    : JS_Mediator_ModelessPatternDialog(host, name, plugin, parent), m_timers(*host) {
+    qRegisterMetaType<DOCKEY>("DOCKEY");
+    QObject::connect(&m_timers, &UpdateTimers::tick, this, &JS_Mediator_WrenTableDialog::autoUpdate);
+    QObject::connect(&m_timers, &UpdateTimers::selected, this, &JS_Mediator_WrenTableDialog::slotSelectForUpdate);
+    bridgeCall(*this, [this] {
+        openSession();
+        m_timers.stop();  // ticks begin with the first call of the page
+    });
+    deleteReadyProgress();
+}
+
+JS_Mediator_WrenTableDialog::~JS_Mediator_WrenTableDialog() {
+    delete m_readyProgress;
+}
+
+/// For what changes cameras or the host. The page can get here inside another call only from an event loop that this
+/// call runs, over a box or a dialog: what the user decides there must not find other cameras than the user saw.
+template <typename Work>
+void JS_Mediator_WrenTableDialog::changingCall(const char* method, Work&& work) {
+    if (isInCall()) {
+        qWarning() << methodName(method) << "refused: another call of the table still waits for its end";
+        return;
+    }
+    bridgeCall(*this, std::forward<Work>(work));
+}
+
+/// A changing call that the page sees: its end asks for an update.
+template <typename Work>
+void JS_Mediator_WrenTableDialog::operation(const char* method, const QString& args, Work&& work) {
+    changingCall(method, [&] {
+        const OperationEventHandler scope(*this, methodName(method), args);
+        work();
+    });
+}
+
+void JS_Mediator_WrenTableDialog::onOpen() {
+    bridgeCall(*this, [this] {
+        const TraceScope scope(methodName("onOpen"));
+        openSession();
+    });
+}
+
+void JS_Mediator_WrenTableDialog::openSession() {
+    m_timers.renew(host().getPrefInt(QStringLiteral("wren/table/interval")));
+    TableSession(host(), m_state).open();
+}
+
+void JS_Mediator_WrenTableDialog::onClose() {
+    bridgeCall(*this, [this] {
+        const TraceScope scope(methodName("onClose"));
+        m_timers.remove();
+        TableSession(host(), m_state).close();
+        deleteReadyProgress();
+        JS_Mediator_ModelessPatternDialog::onClose();
+    });
+}
+
+QString JS_Mediator_WrenTableDialog::getRecords(const QString& json) {
+    return bridgeCall(*this, QString(), [&] {
+        const RecordModel::Answer answer = RecordModel(host(), m_state).getRecords(json);
+        if (answer.selectionChanged) {
+            updateUI();
+            activateTable();
+        }
+        return answer.json;
+    });
+}
+
+QString JS_Mediator_WrenTableDialog::getRecStatus() {
+    return bridgeCall(*this, QString(), [this] { return RecordModel(host(), m_state).getRecStatus(); });
+}
+
+bool JS_Mediator_WrenTableDialog::isRecReady() {
+    return bridgeCall(*this, false, [this] { return RecordModel(host(), m_state).recordState() == zeb::RecordReady; });
+}
+
+bool JS_Mediator_WrenTableDialog::isRecording() {
+    return bridgeCall(*this, false,
+                      [this] { return RecordModel(host(), m_state).recordState() == zeb::RecordRecording; });
+}
+
+QString JS_Mediator_WrenTableDialog::getGroups() {
+    return bridgeCall(*this, QString(), [this] { return RecordModel(host(), m_state).getGroups(); });
+}
+
+QString JS_Mediator_WrenTableDialog::getGroup() {
+    return bridgeCall(*this, QString(), [this] { return RecordModel(host(), m_state).getGroup(); });
+}
+
+int JS_Mediator_WrenTableDialog::getFilter() {
+    return bridgeCall(*this, 0, [this] { return RecordModel(host(), m_state).getFilter(); });
+}
+
+DOCKEY JS_Mediator_WrenTableDialog::getBatchDocKey() {
+    return m_state.batchDocKey;
+}
+
+bool JS_Mediator_WrenTableDialog::isSuspendReduceMode(DOCKEY dockey) {
+    return bridgeCall(*this, false, [&] { return RecordModel(host(), m_state).isSuspendReduceMode(dockey); });
+}
+
+/// There is no synchronisation yet: no settings.
+QString JS_Mediator_WrenTableDialog::getSyncSettings() {
+    return {};
+}
+
+/// There are no partitions yet.
+QString JS_Mediator_WrenTableDialog::getCurrentPartitionName() {
+    return {};
+}
+
+bool JS_Mediator_WrenTableDialog::isShownSelectBox() {
+    return false;
+}
+
+QString JS_Mediator_WrenTableDialog::getSearchAddress() {
+    return bridgeCall(*this, QString(), [this] { return CameraManagement(host(), m_state).getSearchAddress(); });
+}
+
+bool JS_Mediator_WrenTableDialog::confirmDisconnect(const QVariantList& keys) {
+    bool agreed = false;
+    changingCall("confirmDisconnect", [&] {
+        const TraceScope scope(methodName("confirmDisconnect"), keysArg(keys));
+        agreed = CameraManagement(host(), m_state).confirmDisconnect(toDocKeys(keys));
+    });
+    return agreed;
+}
+
+void JS_Mediator_WrenTableDialog::connect(const QVariantList& keys, bool connect, bool force) {
+    if (force && isInCall()) {  // the host's own command is not lost
+        afterCalls([this, keys, connect] { this->connect(keys, connect, true); });
+        return;
+    }
+    const QString args =
+        keysArg(keys) % traceArg(QStringLiteral("connect"), connect) % traceArg(QStringLiteral("force"), force);
+    operation("connect", args, [&] { CameraManagement(host(), m_state).connect(toDocKeys(keys), connect, force); });
+}
+
+void JS_Mediator_WrenTableDialog::select(const QVariantList& keys, bool select) {
+    changingCall("select", [&] {
+        const TraceScope scope(methodName("select"), keysArg(keys) % traceArg(QStringLiteral("select"), select));
+        if (CameraManagement(host(), m_state).select(toDocKeys(keys), select)) {
+            m_timers.waitForSelection(SelectionWait);
+            activateTable();
+        }
+    });
+}
+
+void JS_Mediator_WrenTableDialog::editDoc(DOCKEY dockey) {
+    operation("editDoc", docKeyArg(dockey), [&] { CameraManagement(host(), m_state).editDoc(dockey); });
+}
+
+void JS_Mediator_WrenTableDialog::setParamLock(const QVariantList& keys, bool lock) {
+    operation("setParamLock", keysArg(keys) % traceArg(QStringLiteral("lock"), lock),
+              [&] { ParameterEditing(host()).setParamLock(toDocKeys(keys), lock); });
+}
+
+void JS_Mediator_WrenTableDialog::setFrameRate(const QVariantList& keys, const QString& val) {
+    operation("setFrameRate", keysArg(keys) % traceArg(QStringLiteral("val"), val),
+              [&] { ParameterEditing(host()).setFrameRate(toDocKeys(keys), val); });
+}
+
+/// There is no recording from the table yet.
+void JS_Mediator_WrenTableDialog::record() {}
+
+/// There is no saving from the table yet.
+void JS_Mediator_WrenTableDialog::save() {}
+
+void JS_Mediator_WrenTableDialog::saveLayout() {}
+
+bool JS_Mediator_WrenTableDialog::isRecordDuringExporting() {
+    return bridgeCall(*this, false, [this] { return host().saver().isBgSaving(); });
+}
+
+bool JS_Mediator_WrenTableDialog::isOtherPluginOpen() {
+    return bridgeCall(*this, false, [this] { return host().isOtherPluginOpen(); });
+}
+
+bool JS_Mediator_WrenTableDialog::getTriggerTesting() {
+    return bridgeCall(*this, false, [this] { return host().getTriggerTesting(); });
+}
+
+bool JS_Mediator_WrenTableDialog::isStopLive() {
+    return bridgeCall(*this, false, [this] {
+        DOC_Interface* doc = host().docManager().getCurrentDoc();
+        return doc != nullptr && doc->activity().isStopLive();
+    });
+}
+
+void JS_Mediator_WrenTableDialog::enterLiveMode() {
+    operation("enterLiveMode", {}, [this] { host().appStatus().enterLiveMode(); });
+}
+
+void JS_Mediator_WrenTableDialog::enterMemoryMode() {
+    operation("enterMemoryMode", {}, [this] { host().appStatus().enterMemoryMode(); });
+}
+
+void JS_Mediator_WrenTableDialog::showReadyProgress() {
+    bridgeCall(*this, [this] {
+        if (m_readyProgress || !host().appStatus().isWrenRunning()) {
+            return;
+        }
+        m_readyProgress = makeReadyProgressDialog(host().translate(QStringLiteral("Ready...")), host());
+        m_readyProgress->show();
+        QCoreApplication::processEvents();
+    });
+}
+
+void JS_Mediator_WrenTableDialog::deleteReadyProgress() {
+    delete m_readyProgress;
+}
+
+void JS_Mediator_WrenTableDialog::startAutoUpdate() {
+    m_timers.start();
+}
+
+void JS_Mediator_WrenTableDialog::stopAutoUpdate() {
+    m_timers.stop();
+}
+
+void JS_Mediator_WrenTableDialog::slotSelectForUpdate() {
+    bridgeCall(*this, [this] {
+        updateUI();
+        activateTable();
+    });
+}
+
+/// Null while there is none, as in the constructor.
+QDialog* JS_Mediator_WrenTableDialog::tableDialog() const {
+    PLG_Interface* wren = host().appStatus().getPlugin(QStringLiteral("wren"));
+    return wren != nullptr ? wren->getDialog(false) : nullptr;
+}
+
+void JS_Mediator_WrenTableDialog::activateTable() {
+    if (QDialog* dialog = tableDialog()) {
+        dialog->activateWindow();
+    }
+}

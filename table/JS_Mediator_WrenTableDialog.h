@@ -1,0 +1,95 @@
+#pragma once
+
+#include "JS_Mediator_ModelessPatternDialog.h"
+#include "TableState.h"
+#include "UpdateTimers.h"
+
+#include <QPointer>
+
+class GUI_ProgressDialog;
+class QDialog;
+
+/// What the page of the table can ask and do: one slot a request. GUI thread.
+///
+/// The slots name the work and the topic classes do it. A slot that changes something is refused while another
+/// call runs, for then a message box or the like stands that the user has to answer first.
+class JS_Mediator_WrenTableDialog : public JS_Mediator_ModelessPatternDialog {
+    Q_OBJECT
+
+public:
+    /// Opens the table's session with the host. `plugin` is not owned and outlives the bridge.
+    JS_Mediator_WrenTableDialog(ZebHost* host, const QString& name, PLG_Interface* plugin, QObject* parent = nullptr);
+    ~JS_Mediator_WrenTableDialog() override;
+
+    void setRecordRunning() override { m_state.recordRunning = true; }
+    void clearRecordRunning() override { m_state.recordRunning = false; }
+
+    TableState& state() { return m_state; }
+
+Q_SIGNALS:
+    /// A tick of the update timer: the page follows the cameras.
+    void autoUpdate();
+
+public Q_SLOTS:
+    void onOpen() override;
+    void onClose() override;
+
+    // What the page shows.
+    QString getRecords(const QString& json);
+    QString getRecStatus();
+    bool isRecReady();
+    bool isRecording();
+    QString getGroups();
+    QString getGroup();
+    int getFilter();
+    DOCKEY getBatchDocKey();
+    bool isSuspendReduceMode(DOCKEY dockey);
+    QString getSyncSettings();
+    QString getCurrentPartitionName();
+    bool isShownSelectBox();
+
+    // Cameras.
+    QString getSearchAddress();
+    bool confirmDisconnect(const QVariantList& keys);
+    void connect(const QVariantList& keys, bool connect, bool force = false);
+    void select(const QVariantList& keys, bool select);
+    void editDoc(DOCKEY dockey);
+
+    // Parameters.
+    void setParamLock(const QVariantList& keys, bool lock);
+    void setFrameRate(const QVariantList& keys, const QString& val);
+
+    // Recording and live.
+    void record();
+    void save();
+    void saveLayout();
+    bool isRecordDuringExporting();
+    bool isOtherPluginOpen();
+    bool getTriggerTesting();
+    bool isStopLive();
+    void enterLiveMode();
+    void enterMemoryMode();
+    void showReadyProgress();
+    void deleteReadyProgress();
+    void startAutoUpdate();
+    void stopAutoUpdate();
+    void slotSelectForUpdate();
+
+protected:
+    void beginCall() override { m_timers.pause(); }
+    void endCall() override { m_timers.resume(); }
+
+private:
+    template <typename Work>
+    void changingCall(const char* method, Work&& work);
+    template <typename Work>
+    void operation(const char* method, const QString& args, Work&& work);
+
+    void openSession();
+    QDialog* tableDialog() const;
+    void activateTable();
+
+    TableState m_state;
+    UpdateTimers m_timers;
+    QPointer<GUI_ProgressDialog> m_readyProgress;
+};

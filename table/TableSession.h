@@ -1,0 +1,23 @@
+#pragma once
+
+#include "ZebTypes.h"
+
+class ZebHost;
+struct TableState;
+
+/// What an open table sets on host and cameras, and takes back when it closes. May throw what the host throws.
+class TableSession {
+public:
+    TableSession(ZebHost& host, TableState& state) : m_host(host), m_state(state) {}
+
+    /// Heads that are ready or recording keep their lock. Opening twice is closing once.
+    void open();
+    void close();
+
+private:
+    void clearLocks(bool recordingToo);
+    void clearRecordChecks();
+
+    ZebHost& m_host;
+    TableState& m_state;
+};

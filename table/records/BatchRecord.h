@@ -1,0 +1,29 @@
+#pragma once
+
+#include "ZebTypes.h"
+#include "records/Record.h"
+
+class ZebHost;
+
+/// The row that stands for all cameras: a copy of the one row that was chosen last.
+class BatchRecord {
+public:
+    /// `chosen` is the document that the user chose last, `zeb::NoDocKey` when there is none.
+    explicit BatchRecord(DOCKEY chosen) : m_chosen(chosen) {}
+
+    /// Takes notice of each row, in their order.
+    void offer(DOCKEY key, bool selected, const Record& record);
+
+    /// The document that was copied: the chosen one, else the last that is selected, else `chosen` as it was.
+    DOCKEY source() const;
+    /// The row, after all others were offered.
+    Record build(const ZebHost& host) const;
+
+private:
+    DOCKEY m_chosen;
+    DOCKEY m_lastSelected = zeb::NoDocKey;
+    bool m_chosenListed = false;
+    int m_count = 0;
+    Record m_chosenRecord;
+    Record m_lastSelectedRecord;
+};

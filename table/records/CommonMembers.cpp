@@ -1,0 +1,66 @@
+#include "records/CommonMembers.h"
+
+#include "DOC_Control.h"
+#include "DOC_Interface.h"
+#include "DOC_Lock.h"
+#include "records/Record.h"
+
+namespace commonmembers {
+
+namespace {
+
+QString alertTextOf(DOC_Interface& doc) {
+    const DOC_Interface* device = doc.getParentDoc();
+    return alertText(device != nullptr ? device->getAlerts() : QStringList(), doc.getAlerts());
+}
+
+}  // namespace
+
+QString alertText(const QStringList& deviceAlerts, const QStringList& headAlerts) {
+    QStringList alerts = deviceAlerts + headAlerts;
+    alerts.removeDuplicates();
+    return alerts.join(QLatin1Char('\n'));
+}
+
+QString statusText(int cameraStatus) {
+    switch (cameraStatus) {
+        case zeb::CameraLive:
+            return QStringLiteral("LIVE");
+        case zeb::CameraRecReady:
+        case zeb::CameraTriggerReady:
+        case zeb::CameraEndlessReady:
+            return QStringLiteral("Ready");
+        case zeb::CameraRecording:
+            return QStringLiteral("Recording...");
+        default:
+            return {};
+    }
+}
+
+void addAlways(Record& record, DOC_Interface& doc, const RowState& row) {
+    record.setNumber(QLatin1String("recid"), row.recid);
+    record.setText(QLatin1String("key"), QString::number(doc.getKey()));
+    record.setText(QLatin1String("cameraName"), doc.control().getCameraName(1));
+    record.setFlag(QLatin1String("connected"), row.connected);
+    record.setFlag(QLatin1String("mobileSelected"), doc.isMobileSelected());
+    record.setFlag(QLatin1String("selected"), row.selected);
+    record.setFlag(QLatin1String("current"), row.current);
+    record.setText(QLatin1String("alert"), row.connected ? alertTextOf(doc) : QString());
+}
+
+void addLive(Record& record, DOC_Interface& doc, bool connected, bool lowLight) {
+    const DOC_Control& camera = doc.control();
+    record.setFlag(QLatin1String("lock"), connected && doc.lock().isParamLocked());
+    record.setText(QLatin1String("cameraStatus"), connected ? statusText(camera.getCameraStatus()) : QString());
+    record.setText(QLatin1String("syncStatus"),
+                   connected && camera.hasSyncStatus() ? camera.getSyncStatusText() : QString());
+    record.setFlag(QLatin1String("reduceModeSupported"),
+                   connected && camera.isFunctionSupported(zeb::FunctionReduceMode, 1));
+    record.setFlag(QLatin1String("reduceMode"), connected && camera.getReduceMode(0));
+    record.setFlag(QLatin1String("lowLightModeSupported"),
+                   connected && camera.isFunctionSupported(zeb::FunctionLowLight, 1));
+    record.setFlag(QLatin1String("lowLightMode"), lowLight);
+    record.setFlag(QLatin1String("lowLightType"), connected && camera.getLowLightType() == zeb::LowLightTypeFast);
+}
+
+}  // namespace commonmembers

@@ -1,0 +1,32 @@
+#include "records/RecordBuilder.h"
+
+#include "DOC_Control.h"
+#include "DOC_Interface.h"
+#include "ZebHost.h"
+#include "records/CameraInfoMembers.h"
+#include "records/RecordRequest.h"
+
+RecordBuilder::RecordBuilder(ZebHost& host, const TableState& state, int tab) : m_tab(tab), m_live(host.isLiveMode()) {
+    if (m_live && tab == LiveControlTab) {
+        m_liveControl.emplace(host, state);
+    }
+}
+
+Record RecordBuilder::build(DOC_Interface& doc, const RowState& row) {
+    Record record;
+    commonmembers::addAlways(record, doc, row);
+    if (m_live) {
+        addLive(record, doc, row.connected);
+    }
+    return record;
+}
+
+void RecordBuilder::addLive(Record& record, DOC_Interface& doc, bool connected) {
+    const bool lowLight = connected && doc.control().isLowLightMode();
+    commonmembers::addLive(record, doc, connected, lowLight);
+    if (m_tab == CameraInfoTab) {
+        camerainfo::add(record, doc);
+    } else if (m_liveControl) {
+        m_liveControl->add(record, doc, connected, lowLight);
+    }
+}

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "records/CommonMembers.h"
+#include "records/LiveControlMembers.h"
+#include "records/Record.h"
+
+#include <optional>
+
+class DOC_Interface;
+class ZebHost;
+struct TableState;
+
+/// Builds the rows of one list of records: only the members of the tab and the mode that it was made for.
+class RecordBuilder {
+public:
+    RecordBuilder(ZebHost& host, const TableState& state, int tab);
+
+    Record build(DOC_Interface& doc, const RowState& row);
+
+private:
+    void addLive(Record& record, DOC_Interface& doc, bool connected);
+
+    int m_tab;
+    bool m_live;
+    std::optional<LiveControlMembers> m_liveControl;
+};

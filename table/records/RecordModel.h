@@ -1,0 +1,55 @@
+#pragma once
+
+#include "ZebTypes.h"
+#include "records/RecordRequest.h"
+
+#include <QSet>
+#include <QString>
+
+#include <optional>
+
+class ZebHost;
+struct TableState;
+
+/// What the page shows of the cameras, asked anew from the host at each call.
+///
+/// All operations may throw what the host throws.
+class RecordModel {
+public:
+    RecordModel(ZebHost& host, TableState& state) : m_host(host), m_state(state) {}
+
+    struct Answer {
+        QString json;
+        /// The call has selected or deselected cameras.
+        bool selectionChanged = false;
+    };
+
+    /// The rows that `request` (JSON) asks for and the batch row. Remembers the request's group and filter.
+    Answer getRecords(const QString& request);
+
+    /// JSON with state and label of the record button; without members outside live mode.
+    QString getRecStatus() const;
+    /// A `zeb::RecordStatus` of the live cameras.
+    int recordState() const;
+
+    /// JSON list of the groups, the last one standing for all; empty without groups.
+    QString getGroups() const;
+    QString getGroup() const;
+    /// -1 in file mode.
+    int getFilter() const;
+
+    /// Whether the choice of live speed is suspended; with `zeb::NoDocKey` on any live camera.
+    bool isSuspendReduceMode(DOCKEY key) const;
+
+private:
+    using Members = std::optional<QSet<QString>>;
+
+    bool remember(const RecordRequest& request);
+    Members membersOf(const QString& group) const;
+    bool deselectOutside(const QSet<QString>& members);
+    DocKeyList keysFor(int filter) const;
+    Answer build(const RecordRequest& request, const Members& members, bool selectListed);
+
+    ZebHost& m_host;
+    TableState& m_state;
+};

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QString>
+
+/// Tabs of the page by their numbers.
+enum RecordTab { CameraInfoTab = 0, LiveControlTab = 1 };
+
+/// Which cameras a page may ask for.
+enum RecordFilter { ShowAll = 0, ShowConnected = 1, ShowDisconnected = 2 };
+
+/// What the page asks for.
+struct RecordRequest {
+    /// Empty: all groups.
+    QString group;
+    int filter = ShowAll;
+    int tab = CameraInfoTab;
+
+    /// What is missing or malformed stays at its default.
+    static RecordRequest parse(const QString& json);
+};
