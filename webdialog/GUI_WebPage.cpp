@@ -29,6 +29,12 @@ QString panelPlugin(const QString& classid) {
     return plugins.value(classid);
 }
 
+/// Sockets reach the network by a way of their own, and a worker has sockets that no page can take from it.
+void takeSocketsAway(QWebFrame* frame) {
+    frame->evaluateJavaScript(
+        QStringLiteral("delete window.WebSocket; delete window.Worker; delete window.SharedWorker;"));
+}
+
 bool isOwnPage(const QUrl& url) {
     return url.scheme() == QLatin1String("qrc") || url == QUrl(QStringLiteral("about:blank"));
 }
@@ -42,7 +48,13 @@ bool isWithinDocument(const QWebFrame* frame, const QUrl& url) {
 GUI_WebPage::GUI_WebPage(ZebHost* host, QObject* parent) : QWebPage(parent), m_host(host) {
     setNetworkAccessManager(new PageNetwork(this));
     settings()->setAttribute(QWebSettings::PluginsEnabled, true);  // else no `object` element asks for its widget
+    keepFromSockets(mainFrame());
+    connect(this, &QWebPage::frameCreated, this, &GUI_WebPage::keepFromSockets);
     connect(this, &QWebPage::consoleMessageReceived, this, &GUI_WebPage::logConsoleMessage);
+}
+
+void GUI_WebPage::keepFromSockets(QWebFrame* frame) {
+    connect(frame, &QWebFrame::javaScriptWindowObjectCleared, this, [frame] { takeSocketsAway(frame); });
 }
 
 QObject* GUI_WebPage::createPlugin(const QString& classid, const QUrl&, const QStringList&, const QStringList&) {

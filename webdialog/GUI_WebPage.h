@@ -20,6 +20,7 @@ protected:
     bool acceptNavigationRequest(QWebFrame* frame, const QNetworkRequest& request, NavigationType type) override;
 
 private:
+    void keepFromSockets(QWebFrame* frame);
     void logConsoleMessage(MessageSource source, MessageLevel level, const QString& message, int line,
                            const QString& sourceId);
 

@@ -1,0 +1,199 @@
+#include "FakeHost.h"
+#include "FakePlugin.h"
+#include "GUI_WebPage.h"
+#include "GUI_WebView.h"
+#include "ProbeBridge.h"
+
+#include <QLabel>
+#include <QSignalSpy>
+#include <QTcpServer>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+/// The real page with a bridge in it.
+class BridgePage : public testing::Test {
+protected:
+    void SetUp() override {
+        host.attachBridge(&view, &bridge);
+        view.load(QUrl("qrc:/probe.html"));
+        ASSERT_TRUE(QSignalSpy(&view, &QWebView::loadFinished).wait());
+        journal.take();
+    }
+    QVariant eval(const QString& script) { return view.page()->mainFrame()->evaluateJavaScript(script); }
+    /// What the page got from `script`, as JSON.
+    std::string json(const QString& script) {
+        return eval(QStringLiteral("JSON.stringify(") % script % QStringLiteral(")")).toString().toStdString();
+    }
+
+    Journal journal;
+    FakeHost host;
+    ProbeBridge bridge{&host};
+    GUI_WebView view{&host};
+};
+
+TEST_F(BridgePage, PreferencesWithAndWithoutDefaults) {
+    eval("probe.setPrefInt('a/b', 5)");
+    EXPECT_EQ(journal.take(),
+              QStringList({"pause", "info: [ENTER] \"JS_Mediator::setPrefInt\" \"[name:a/b] [value:5]\"",
+                           "setPrefInt a/b=5", "updateUI 63", "info: [LEAVE] \"JS_Mediator::setPrefInt\"", "resume"}));
+    eval("prefs.setPrefInt('a/b', 6, false)");
+    EXPECT_EQ(journal.take(), QStringList({"pause", "setPrefInt a/b=6", "resume"}));
+    eval(
+        "prefs.setPrefBool('b', true); prefs.setPrefFloat('f', 0.5); prefs.setPrefString('s', 'x'); "
+        "prefs.setPrefDQString('q', '1')");
+    EXPECT_EQ(journal.take().filter("setPref").filter("="),
+              QStringList({"setPrefBool b=true", "setPrefFloat f=0.5", "setPrefString s=x", "setPref q=1"}));
+    EXPECT_EQ(
+        json("[prefs.getPrefInt('a/b'), prefs.getPrefBool('b'), prefs.getPrefFloat('f'), prefs.getPrefString('s')]"),
+        "[6,true,0.5,\"x\"]");
+    EXPECT_EQ(json("[prefs.getPrefInt('no'), prefs.getPrefInt('no', 7), prefs.getPrefBool('no', true), "
+                   "prefs.getPrefString('no', 'y'), prefs.getPrefString('no')]"),
+              "[0,7,true,\"y\",\"\"]");
+}
+
+TEST_F(BridgePage, StateTextsAndBoxes) {
+    host.mode = zeb::MemoryMode;
+    host.wrenRunning = true;
+    EXPECT_EQ(json("JSON.parse(probe.getControlStatus())"),
+              R"({"IsFileMode":false,"IsLiveMode":false,"IsMemoryMode":true,"IsOtherPluginOpen":false,"IsWren":true})");
+    EXPECT_EQ(json("[probe.isLiveMode(), probe.isMemoryMode(), probe.isFileMode(), probe.isWrenRunning()]"),
+              "[false,true,false,true]");
+    EXPECT_EQ(json("[probe.translate('a %1'), probe.translate('a %1', 'b')]"), R"(["<a %1>","<a <b>>"])");
+    EXPECT_EQ(json("[probe.getWidth(), probe.getHeight(), probe.getStyle()]"), R"([-1,-1,"light"])");
+    EXPECT_EQ(json("probe.load('ui-native-light.css')"), R"("QDialog { color: #010101; }\n")");
+    journal.take();
+
+    EXPECT_EQ(json("probe.load('no.txt')"), "\"\"");
+    eval("probe.info('i'); probe.warn('w'); probe.warn('w', ['1', '2']); probe.alert('a'); probe.alert('a', ['3'])");
+    host.userAgrees = false;
+    EXPECT_EQ(json("probe.confirm('c')"), "false");
+    eval("probe.deterUpdateUI(true); probe.updateUI()");
+    QStringList entries = journal.take();
+    entries.removeAll("pause");
+    entries.removeAll("resume");
+    EXPECT_EQ(entries, QStringList({"warning: not found \":/no.txt\"", "info i", "warn w", "warnList w|1|2", "alert a",
+                                    "alertList a|3", "confirmModal c", "deterUpdateUI true", "updateUI 63"}));
+}
+
+TEST_F(BridgePage, FailureLooksLikeANormalReturn) {
+    host.failing = "getPref";
+    EXPECT_EQ(json("[prefs.getPrefInt('a', 3), prefs.getPrefString('a', 'x'), probe.getStyle()]"), R"([0,"",""])");
+    EXPECT_EQ(journal.take().count("errorHandler getPref"), 3);
+    // A slot that does not exist, and one with arguments missing, are the page's own faults.
+    eval("probe.noSuchSlot()");
+    eval("probe.setPrefInt('a')");
+    const QStringList faults = journal.take();
+    ASSERT_EQ(faults.size(), 2) << faults.join('\n').toStdString();
+    EXPECT_TRUE(faults[0].startsWith("critical: ")) << faults[0].toStdString();
+}
+
+TEST_F(BridgePage, StyleReachesTheMobileDialog) {
+    QWidget mainWindow;
+    QDialog mobile(&mainWindow);
+    mobile.setObjectName("GUI_MobileDialog");
+    eval("probe.setStyle('Dark')");
+    EXPECT_EQ(host.prefs.value("env/style"), "Dark");
+    host.mainWindow = &mainWindow;
+    eval("probe.setStyle('Dark')");
+    EXPECT_EQ(mobile.styleSheet(), "QDialog { color: #020202; }\n");
+    EXPECT_TRUE(journal.take().contains("info: [ENTER] \"JS_Mediator::setStyle\" \"[style:Dark]\""));
+}
+
+TEST_F(BridgePage, NothingGoesOut) {
+    QTcpServer server;
+    ASSERT_TRUE(server.listen(QHostAddress::LocalHost));
+    const QString outside = QStringLiteral("http://127.0.0.1:%1/").arg(server.serverPort());
+    eval(QStringLiteral(
+             "var out = '%1', failed = [];"
+             "function fail(name) { return function () { if (failed.indexOf(name) < 0) failed.push(name); }; }"
+             "function add(tag, name, url) { var e = document.createElement(tag);"
+             "  e.onerror = fail(name); e[tag === 'link' ? 'href' : 'src'] = url; e.rel = 'stylesheet';"
+             "  document.body.appendChild(e); }"
+             "add('img', 'img', out); add('script', 'script', out); add('link', 'link', out);"
+             "add('img', 'file', 'file:///etc/hostname');"
+             "var x = new XMLHttpRequest(); x.onerror = fail('xhr'); x.open('GET', out); x.send();"
+             "var p = new XMLHttpRequest(); p.onerror = fail('post'); p.open('POST', out); p.send('secret');"
+             "try { var s = new WebSocket(out.replace('http', 'ws')); s.onclose = fail('socket'); }"
+             "catch (e) { fail('socket')(); }"
+             "add('iframe', 'frame', out); window.open(out); document.location = out;"
+             "var a = document.createElement('a'); a.href = 'qrc:/ui-native-dark.css';"
+             "document.body.appendChild(a); a.click();"
+             "var f = document.createElement('form'); f.action = out; f.method = 'post';"
+             "document.body.appendChild(f); f.submit();")
+             .arg(outside));
+    const bool allFailed = QTest::qWaitFor([&] { return eval("failed.length").toInt() >= 7; });
+    EXPECT_TRUE(allFailed) << json("failed");
+    EXPECT_FALSE(server.waitForNewConnection(0));
+    eval("var inner = document.createElement('iframe'); document.body.appendChild(inner);");
+    EXPECT_EQ(json("[typeof Worker, typeof SharedWorker, typeof inner.contentWindow.WebSocket]"),
+              R"(["undefined","undefined","undefined"])");
+    EXPECT_EQ(view.url(), QUrl("qrc:/probe.html"));
+    EXPECT_EQ(eval("document.getElementById('here').textContent"), "here");
+    eval("location.hash = 'here'");
+    EXPECT_EQ(view.url(), QUrl("qrc:/probe.html#here"));
+}
+
+TEST_F(BridgePage, ImagesOfThePageItselfAreServed) {
+    eval(
+        "var loaded = 0, i = new Image(); i.onload = function () { loaded = i.width; };"
+        "i.src = 'data:image/gif;base64,R0lGODlhAQABAAAAACwAAAAAAQABAAACAkQBADs=';");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return eval("loaded") == 1; }));
+}
+
+TEST_F(BridgePage, ScriptFaultsStandInTheLog) {
+    eval("setTimeout(function () { missing.member = 1; }, 0); console.warn('careful'); console.log('seen')");
+    QStringList lines;
+    EXPECT_TRUE(QTest::qWaitFor([&] { return (lines += journal.take()).size() >= 3; }));
+    EXPECT_EQ(lines.filter("critical: ").filter("Can't find variable: missing").size(), 1)
+        << lines.join('\n').toStdString();
+    EXPECT_EQ(lines.filter("warning: ").filter("careful").size(), 1);
+    EXPECT_EQ(lines.filter("info: ").filter("seen").size(), 1);
+}
+
+/// Opens `createPlugin`, which only the engine calls.
+class OpenPage : public GUI_WebPage {
+public:
+    using GUI_WebPage::createPlugin;
+    using GUI_WebPage::GUI_WebPage;
+};
+
+TEST_F(BridgePage, ObjectElementsGetTheHostsWidgets) {
+    QWidget area;
+    host.mdiWidget = &area;
+    const QList<QPair<QString, QString>> panels = {
+        {"histogram", "histogram"},
+        {"lineprofile", "lineprofile"},
+        {"lut", "lut"},
+        {"sensorlut", "m_sensorlut"},
+        {"livecontrol_hwimage_trigger_histogram", "livecontrol"},
+        {"livecontrol_auto_exposure_histogram", "livecontrol"},
+        {"imagetrigger_histogram", "imagetrigger"},
+        {"analoggain", "m_analoggain"},
+        {"focuscheck", "m_focuscheck"},
+        {"colorcorrection_histgram", "colorcorrection"},
+    };
+    OpenPage page(&host);
+    EXPECT_EQ(page.createPlugin("mdi", {}, {}, {}), &area);
+    EXPECT_EQ(page.createPlugin("unknown", {}, {}, {}), nullptr);
+    for (const auto& [classId, name] : panels) {
+        EXPECT_EQ(page.createPlugin(classId, {}, {}, {}), nullptr) << classId.toStdString();
+        QWidget panel;
+        FakePlugin plugin;
+        plugin.panel = &panel;
+        host.plugins = {{name, &plugin}};
+        EXPECT_EQ(page.createPlugin(classId, {}, {}, {}), &panel) << classId.toStdString();
+        EXPECT_TRUE(journal.take().contains("preparePanel"));
+        host.plugins.clear();
+    }
+
+    auto* inPage = new QLabel("panel");
+    host.mdiWidget = inPage;
+    const QPointer<QLabel> embedded(inPage);
+    eval("document.body.innerHTML = '<object type=\"application/x-qt-plugin\" classid=\"mdi\"></object>'");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return embedded && embedded->window() == &view; }));
+}
+
+}  // namespace

@@ -1,0 +1,265 @@
+#include "FakeHost.h"
+#include "FakePlugin.h"
+#include "GUI_ModelessPatternDialog.h"
+#include "GUI_WebView.h"
+#include "ProbeBridge.h"
+#include "UTL_Messages.h"
+#include "WindowPlacement.h"
+
+#include <QEvent>
+#include <QPushButton>
+#include <QScreen>
+#include <QSignalSpy>
+#include <QTest>
+#include <QTimer>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+const QString ProbePage = QStringLiteral("qrc:/probe.html");
+
+/// Counts the events of one kind that a widget gets.
+class EventCount : public QObject {
+public:
+    EventCount(QObject* watched, QEvent::Type type) : m_type(type) { watched->installEventFilter(this); }
+    int count = 0;
+
+protected:
+    bool eventFilter(QObject*, QEvent* event) override {
+        count += event->type() == m_type;
+        return false;
+    }
+
+private:
+    const QEvent::Type m_type;
+};
+
+class WebDialog : public testing::Test {
+protected:
+    void SetUp() override { host.plugins.insert("wren", &plugin); }
+
+    GUI_WebViewDialog* makeDialog(const QString& url = ProbePage) {
+        return new GUI_WebViewDialog(&host, "Title", url, bridge);
+    }
+    GUI_ModelessPatternDialog* makeModeless() {
+        auto* dialog = new GUI_ModelessPatternDialog(&host, "Title", ProbePage, bridge, &plugin);
+        plugin.dialog = dialog;
+        QObject::connect(dialog, &GUI_ModelessPatternDialog::shown, [] { Journal::note("shown"); });
+        QObject::connect(dialog, &GUI_ModelessPatternDialog::closed, [] { Journal::note("closed"); });
+        return dialog;
+    }
+    static bool waitForLoad(GUI_WebViewDialog& dialog) {
+        return QSignalSpy(dialog.getWebView(), &QWebView::loadFinished).wait();
+    }
+    static QVariant eval(GUI_WebViewDialog& dialog, const QString& script) {
+        return dialog.getWebView()->page()->mainFrame()->evaluateJavaScript(script);
+    }
+
+    Journal journal;
+    FakeHost host;
+    FakePlugin plugin;
+    ProbeBridge* bridge = new ProbeBridge(&host);  // the dialog's
+};
+
+TEST_F(WebDialog, LoadsDeterredAndFadesIn) {
+    host.viewerRunning = true;
+    host.mainWindow = new QWidget;
+    const QScopedPointer<QWidget> owner(host.mainWindow);
+    {
+        const QScopedPointer<GUI_WebViewDialog> dialog(makeDialog());
+        EXPECT_EQ(dialog->windowFlags(), Qt::WindowFlags(0x8003000 | Qt::Dialog));
+        EXPECT_EQ(dialog->windowTitle(), "<Title>");
+        dialog->show();
+        ASSERT_TRUE(waitForLoad(*dialog));
+
+        auto* fade = dialog->findChild<QPropertyAnimation*>();
+        ASSERT_TRUE(fade);
+        EXPECT_EQ(fade->duration(), 500);
+        EXPECT_EQ(fade->easingCurve().type(), QEasingCurve::InExpo);
+        fade->setCurrentTime(0);
+        EXPECT_EQ(dialog->windowOpacity(), 0.0);
+        fade->setCurrentTime(fade->duration());
+        EXPECT_EQ(dialog->windowOpacity(), 1.0);
+        EXPECT_EQ(journal.take(),
+                  QStringList({"suspendViewer", "info: [ENTER] \"GUI_WebViewDialog::loadStarted\" \"\"",
+                               "deterUpdateUI true", "info: [LEAVE] \"GUI_WebViewDialog::loadStarted\"",
+                               "info: [ENTER] \"GUI_WebViewDialog::loadFinished\" \"[ok:true]\"", "deterUpdateUI false",
+                               "updateUI 4294967295", "info: [LEAVE] \"GUI_WebViewDialog::loadFinished\""}));
+        // What the host's first update cycle does: the page has connected by then.
+        bridge->raiseUpdate();
+        EXPECT_EQ(eval(*dialog, "heard.join()"), "update");
+    }
+    EXPECT_EQ(journal.take(), QStringList("resumeViewer"));
+}
+
+TEST_F(WebDialog, FailedBrokenOffAndRepeatedLoadsLiftTheDeterrence) {
+    {
+        const QScopedPointer<GUI_WebViewDialog> dialog(makeDialog("qrc:/missing.html"));
+        ASSERT_TRUE(waitForLoad(*dialog));
+        EXPECT_TRUE(dialog->findChild<QPropertyAnimation*>());
+        const QStringList entries = journal.take();
+        EXPECT_TRUE(entries.contains("info: [ENTER] \"GUI_WebViewDialog::loadFinished\" \"[ok:false]\""));
+        EXPECT_EQ(entries.count("deterUpdateUI false"), 1);
+
+        dialog->loadStarted();
+        dialog->loadStarted();
+        dialog->loadFinished(true);
+        EXPECT_EQ(dialog->findChildren<QPropertyAnimation*>().size(), 1);
+        dialog->loadStarted();
+    }
+    const QStringList entries = journal.take();
+    EXPECT_EQ(entries.count("deterUpdateUI true"), 3);
+    EXPECT_EQ(entries.count("deterUpdateUI false"), 3);
+}
+
+TEST_F(WebDialog, WithoutMainWindowStandsInTheMiddleOfAScreen) {
+    const QScopedPointer<GUI_WebViewDialog> dialog(makeDialog());
+    dialog->resize(401, 300);
+    dialog->show();
+    for (int stored : {0, 99, -1}) {
+        host.prefs["main/scrno"] = stored;
+        dialog->move(3, 4);
+        dialog->loadFinished(true);
+        const QPoint off = dialog->frameGeometry().center() - dialog->screen()->geometry().center();
+        EXPECT_LE(off.manhattanLength(), 2) << stored;
+    }
+    QWidget mainWindow;
+    host.mainWindow = &mainWindow;
+    dialog->move(3, 4);
+    dialog->loadFinished(true);
+    EXPECT_EQ(dialog->pos(), QPoint(3, 4));
+    EXPECT_EQ(centeredTopLeft(QRect(1920, 100, 1000, 500), QSize(400, 300)), QPoint(2220, 200));
+}
+
+TEST_F(WebDialog, EscapeDoesNothingAndEnterReachesTheDialog) {
+    const QScopedPointer<GUI_WebViewDialog> dialog(makeDialog());
+    auto* button = new QPushButton(dialog.data());
+    button->setDefault(true);
+    QSignalSpy clicked(button, &QPushButton::clicked);
+    dialog->show();
+    ASSERT_TRUE(waitForLoad(*dialog));
+    QTest::keyClick(dialog->getWebView(), Qt::Key_Escape);
+    QTest::keyClick(dialog.data(), Qt::Key_Escape);
+    EXPECT_TRUE(dialog->isVisible());
+    QTest::keyClick(dialog.data(), Qt::Key_Return);
+    EXPECT_EQ(clicked.size(), 1);
+}
+
+TEST_F(WebDialog, CloseButtonIsSwitchedOnce) {
+    const QScopedPointer<GUI_WebViewDialog> dialog(makeDialog());
+    dialog->show();
+    const EventCount shows(dialog.data(), QEvent::Show);
+    Q_EMIT dialog->signalDisableCloseButton();
+    Q_EMIT dialog->signalDisableCloseButton();
+    EXPECT_FALSE(dialog->windowFlags() & Qt::WindowCloseButtonHint);
+    EXPECT_EQ(shows.count, 1);
+    Q_EMIT dialog->signalEnableCloseButton();
+    Q_EMIT dialog->signalEnableCloseButton();
+    EXPECT_TRUE(dialog->windowFlags() & Qt::WindowCloseButtonHint);
+    EXPECT_EQ(shows.count, 2);
+    EXPECT_TRUE(dialog->isVisible());
+}
+
+TEST_F(WebDialog, PageClosesTheDialogAndHearsOfARejection) {
+    const QScopedPointer<GUI_WebViewDialog> dialog(makeDialog());
+    ASSERT_TRUE(waitForLoad(*dialog));
+    dialog->show();
+    eval(*dialog, "probe.accept()");
+    EXPECT_FALSE(dialog->isVisible());
+    EXPECT_EQ(dialog->result(), QDialog::Accepted);
+
+    dialog->show();
+    journal.take();
+    dialog->close();
+    EXPECT_EQ(dialog->result(), QDialog::Rejected);
+    EXPECT_EQ(eval(*dialog, "heard.join()"), "rejected");
+    EXPECT_EQ(journal.take(), QStringList({"info: [USER] \"[URL:GUI_WebViewDialog] [ID:close] [Control:Button] "
+                                           "[Operation:clicked] [Value:] \"",
+                                           "info: [ENTER] \"GUI_WebViewDialog::closeEvent\" \"\"",
+                                           "info: [LEAVE] \"GUI_WebViewDialog::closeEvent\""}));
+}
+
+TEST_F(WebDialog, ModelessDialogLivesOnAfterAClose) {
+    const QScopedPointer<GUI_ModelessPatternDialog> dialog(makeModeless());
+    ASSERT_TRUE(waitForLoad(*dialog));
+    EXPECT_TRUE(dialog->isPluginCloseEnabled());
+    for (int round = 1; round <= 2; ++round) {
+        journal.take();
+        dialog->show();
+        const QStringList opened = journal.take();
+        EXPECT_EQ(opened.count("shown"), 1);
+        EXPECT_EQ(opened.indexOf("notifyPluginShown"), 0);
+        dialog->close();
+        EXPECT_FALSE(dialog->isVisible());
+        EXPECT_EQ(journal.take().mid(1), QStringList({"notifyPluginClosed", "closed"}));
+        EXPECT_EQ(eval(*dialog, "heard.filter(function (n) { return n === 'close'; }).length"), round);
+    }
+    dialog->updatePage();
+    EXPECT_EQ(eval(*dialog, "heard.pop()"), "update");
+}
+
+TEST_F(WebDialog, ActivationTellsTheHostAndReselectsTheTool) {
+    const QScopedPointer<GUI_ModelessPatternDialog> dialog(makeModeless());
+    QEvent activate(QEvent::WindowActivate);
+    journal.take();
+    QCoreApplication::sendEvent(dialog.data(), &activate);
+    EXPECT_EQ(journal.take(), QStringList("notifyPluginShown"));
+    plugin.reselect = true;
+    host.failing = "setQuickTool";
+    QCoreApplication::sendEvent(dialog.data(), &activate);
+    EXPECT_EQ(journal.take(),
+              QStringList({"setQuickTool wren false", "critical: \"setQuickTool\"", "notifyPluginShown"}));
+}
+
+TEST_F(WebDialog, CloseDuringACallComesOnceWhenTheCallHasEnded) {
+    const QScopedPointer<GUI_ModelessPatternDialog> dialog(makeModeless());
+    ASSERT_TRUE(waitForLoad(*dialog));
+    dialog->show();
+    host.onBox = [&] {
+        EXPECT_FALSE(dialog->close());
+        EXPECT_FALSE(dialog->close());
+        QCoreApplication::processEvents();
+        EXPECT_TRUE(dialog->isVisible());
+    };
+    journal.take();
+    eval(*dialog, "probe.warn('a box')");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !dialog->isVisible(); }));
+    QCoreApplication::processEvents();
+    EXPECT_EQ(journal.take().filter("close", Qt::CaseInsensitive).size(), 3);  // user's line, host, `closed`
+}
+
+TEST_F(WebDialog, ClosingHostDismissesOurBox) {
+    const QScopedPointer<GUI_ModelessPatternDialog> dialog(makeModeless());
+    dialog->show();
+    bridge->work = [&] {
+        QTimer::singleShot(0, dialog.data(), [&] {
+            host.closing = true;
+            dialog->close();
+        });
+        EXPECT_FALSE(UTL_Messages::warnOkCancel("go on?", host));
+    };
+    bridge->run();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !dialog->isVisible(); }));
+}
+
+TEST_F(WebDialog, PageOutlivesItsDialogUntilTheCallHasEnded) {
+    const QPointer<GUI_WebViewDialog> dialog(makeDialog());
+    auto* extra = new ProbeBridge(&host);
+    dialog->addBridge(extra);
+    const QPointer<GUI_WebView> view(dialog->getWebView());
+    const QPointer<ProbeBridge> main(bridge);
+    const QPointer<ProbeBridge> second(extra);
+    ASSERT_TRUE(waitForLoad(*dialog));
+    host.onBox = [&] {
+        delete dialog;
+        QCoreApplication::processEvents();
+        EXPECT_TRUE(view && main && second);
+    };
+    view->page()->mainFrame()->evaluateJavaScript("document.title = probe.confirm('go on?')");
+    ASSERT_TRUE(view);
+    EXPECT_EQ(view->title(), "true");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !view && !main && !second; }));
+}
+
+}  // namespace
