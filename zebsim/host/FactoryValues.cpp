@@ -11,8 +11,10 @@ QVariant text(const char* value) {
     return QString::fromLatin1(value);
 }
 
-// Columns that every tab of the live mode begins with.
-#define LIVE_COLUMNS "lock,connectIcon,cameraName,alert,cameraStatus,sync,"
+/// The columns that every tab of the live mode begins with, and its own.
+QVariant liveColumns(const char* own) {
+    return QString(QStringLiteral("lock,connectIcon,cameraName,alert,cameraStatus,sync,") % QLatin1String(own));
+}
 
 QList<FactoryValue> table() {
     return {

@@ -2,14 +2,14 @@
 
 #include <QCoreApplication>
 
-Translator::~Translator() {
-    QCoreApplication::removeTranslator(&m_catalogue);
-}
-
 bool Translator::load(const QString& language) {
-    QCoreApplication::removeTranslator(&m_catalogue);
-    const bool loaded = m_catalogue.load(QStringLiteral(":/i18n/zeb4_%1.qm").arg(language));
-    return loaded && QCoreApplication::installTranslator(&m_catalogue);
+    auto catalogue = std::make_unique<QTranslator>();
+    if (!catalogue->load(QStringLiteral(":/i18n/zeb4_%1.qm").arg(language))) {
+        return false;
+    }
+    // One that is deleted takes itself out of the application.
+    m_catalogue = std::move(catalogue);
+    return QCoreApplication::installTranslator(m_catalogue.get());
 }
 
 QString Translator::translate(const QString& text) const {

@@ -3,17 +3,17 @@
 #include <QString>
 #include <QTranslator>
 
+#include <memory>
+
 /// The texts of host, pages and plug-in in the user's language. Installed in the application while it lives. GUI
 /// thread.
 class Translator {
 public:
-    ~Translator();
-
-    /// Takes the catalogue of a language, as "en"; false when there is none.
+    /// Takes the catalogue of a language, as "en"; false when there is none, and nothing has changed then.
     bool load(const QString& language);
     /// A text without a translation comes back as it is.
     QString translate(const QString& text) const;
 
 private:
-    QTranslator m_catalogue;
+    std::unique_ptr<QTranslator> m_catalogue;
 };
