@@ -40,6 +40,8 @@ public:
     /// The windows; null at first, not owned.
     void setMainWindow(QWidget* window) { m_mainWindow = window; }
     void setMdiWidget(QWidget* widget) { m_mdiWidget = widget; }
+    /// Speaks another language, as "ja"; false when there is no catalogue for it. English at first.
+    bool setLanguage(const QString& language) { return m_translator.load(language); }
     /// Replaces all cameras. Keys count from 1 again; documents of the old ones are dead.
     void setRig(const Rig& rig);
 

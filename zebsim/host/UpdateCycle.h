@@ -16,6 +16,8 @@ public:
     void deter(bool deter);
     /// A cycle was asked for and has not run yet.
     bool isPending() const { return m_queued || m_owed; }
+    /// A cycle comes from the event loop; one that is owed does not come before the last end of deterrence.
+    bool isQueued() const { return m_queued; }
 
 private:
     void queue();
