@@ -176,6 +176,11 @@ void SimHost::deterUpdateUI(bool deter) {
     m_updates.deter(deter);
 }
 
+void SimHost::setTextBoxFocusState(bool focused) {
+    m_journal.record("ZebHost::setTextBoxFocusState", {focused});
+    m_flags.set(QStringLiteral("IsModalessDialogTextFocussing"), focused);
+}
+
 void SimHost::runUpdateCycle() {
     for (const QPointer<PLG_Interface> plugin : m_appStatus.plugins()) {
         if (plugin) {

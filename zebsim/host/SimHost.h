@@ -22,6 +22,7 @@
 #include "host/UpdateCycle.h"
 
 #include <QPointer>
+#include <QWidget>
 
 class Clock;
 class MessageDesk;
@@ -99,6 +100,9 @@ public:
 
     void updateUI(unsigned int mask, bool refresh) override;
     void deterUpdateUI(bool deter) override;
+
+    /// Shows as the state "IsModalessDialogTextFocussing".
+    void setTextBoxFocusState(bool focused) override;
 
     bool isViewerRunning() const override { return m_viewerSuspended == 0; }
     void suspendViewer() override;

@@ -3,9 +3,9 @@
 #include <stdexcept>
 
 StatusFlags::StatusFlags() {
-    for (const char* name :
-         {"IsApplicationClosing", "IsBgSaving", "IsCTSReady", "IsOtherPluginOpen", "IsReady", "IsRecording",
-          "IsRecordingError", "IsSaving", "IsSelectionKept", "IsTriggerTesting", "IsWindowStateSaveSuppressed"}) {
+    for (const char* name : {"IsApplicationClosing", "IsBgSaving", "IsCTSReady", "IsModalessDialogTextFocussing",
+                             "IsOtherPluginOpen", "IsReady", "IsRecording", "IsRecordingError", "IsSaving",
+                             "IsSelectionKept", "IsTriggerTesting", "IsWindowStateSaveSuppressed"}) {
         m_flags.insert(QString::fromLatin1(name), false);
     }
 }
