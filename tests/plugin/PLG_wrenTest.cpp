@@ -1,0 +1,232 @@
+#include "PLG_wren.h"
+
+#include "APP_Exception.h"
+#include "GUI_WrenTableDialog.h"
+#include "JS_Mediator_WrenTableDialog.h"
+#include "PluginDoc.h"
+#include "PluginHost.h"
+
+#include <QApplication>
+#include <QImage>
+#include <QMetaMethod>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QThread>
+
+#include <gmock/gmock.h>
+
+using testing::Contains;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+namespace {
+
+constexpr auto EraseQuestion =
+    "confirmModal There are cameras that need to erase the image data recorded to continue the operation. Would you "
+    "like to erase the data and continue the operation?";
+
+class PLG_wrenTest : public testing::Test {
+protected:
+    PLG_wrenTest() {
+        for (PluginDoc* doc : {&one, &two, &three}) host.docs[doc->getKey()] = doc;
+        host.connectedKeys = {1, 2, 3};
+        host.prefs[QStringLiteral("wren/table/interval")] = 500;
+        plugin->setHost(&host);
+        host.plugins[QStringLiteral("wren")] = plugin.get();
+    }
+
+    std::vector<std::string> taken() {
+        std::vector<std::string> entries;
+        for (const QString& entry : journal.take())
+            if (!entry.startsWith(QLatin1String("info: "))) entries.push_back(entry.toStdString());
+        return entries;
+    }
+
+    JS_Mediator_WrenTableDialog* openTable() {
+        auto* dialog = static_cast<GUI_WrenTableDialog*>(plugin->getDialog(true));
+        plugin->showDialog();
+        return static_cast<JS_Mediator_WrenTableDialog*>(dialog->getBridge());
+    }
+
+    /// As a host raises a signal: by its name.
+    bool raise(const char* signal) { return QMetaObject::invokeMethod(plugin.get(), signal); }
+
+    PluginDoc one{1};
+    PluginDoc two{2};
+    PluginDoc three{3};
+    PluginHost host;
+    Journal journal;
+    std::unique_ptr<PLG_wren> plugin = std::make_unique<PLG_wren>();
+};
+
+}  // namespace
+
+TEST_F(PLG_wrenTest, isAButtonOfLiveAndMemoryMode) {
+    EXPECT_EQ(plugin->getName(), QStringLiteral("wren"));
+    EXPECT_EQ(plugin->getCategory(), 2);
+    EXPECT_EQ(plugin->getButtonType(), 6);
+    EXPECT_EQ(plugin->getGroupNumber(), 3);
+    EXPECT_FALSE(plugin->getCloseOnModeChange());
+    for (const int mode : {zeb::LiveMode, zeb::MemoryMode, zeb::FileMode}) {
+        host.mode = mode;
+        EXPECT_EQ(plugin->isAvailable(), mode != zeb::FileMode) << mode;
+        EXPECT_EQ(plugin->isButtonEnabled(), mode != zeb::FileMode) << mode;
+    }
+}
+
+TEST_F(PLG_wrenTest, tellsTheHostThatItRuns) {
+    plugin->activate();
+    plugin->deactivate();
+    EXPECT_THAT(taken(), ElementsAre("wren runs", "updateUI 4294967295", "wren ends", "updateUI 4294967295"));
+}
+
+TEST_F(PLG_wrenTest, asksBeforeItErases) {
+    const struct {
+        const char* sentence;
+        std::function<void()> arrange;
+        std::vector<std::string> calls;
+    } rows[] = {
+        {"without recorded data it asks nothing", [] {}, {}},
+        {"with some it erases those cameras",
+         [&] { one.camera.hasData = three.camera.hasData = true; },
+         {EraseQuestion, "erase 1 0", "erase 3 0"}},
+        {"a camera that goes while the question stands is passed over",
+         [&] { host.onBox = [this] { host.docs.remove(1); }; },
+         {EraseQuestion, "erase 3 0"}},
+        {"so is one that loses its connection",
+         [&] {
+             host.docs[1] = &one;
+             host.onBox = [this] { three.connected = false; };
+         },
+         {EraseQuestion, "erase 1 0"}},
+        {"while the table runs it asks nothing", [&] { host.wrenRunning = true; }, {}},
+        {"nor out of live mode",
+         [&] {
+             host.wrenRunning = false;
+             host.mode = zeb::MemoryMode;
+         },
+         {}},
+    };
+    for (const auto& row : rows) {
+        row.arrange();
+        plugin->prepareOpen();
+        EXPECT_EQ(taken(), row.calls) << row.sentence;
+    }
+}
+
+TEST_F(PLG_wrenTest, endsTheOpeningWithoutATextWhenTheUserRefuses) {
+    two.camera.hasData = true;
+    host.userAgrees = false;
+    try {
+        plugin->prepareOpen();
+        FAIL() << "the opening goes on";
+    } catch (const APP_Exception& e) {
+        EXPECT_STREQ(e.what(), "");
+        EXPECT_EQ(e.errorCode(), 0);
+    }
+    EXPECT_THAT(taken(), testing::Not(Contains("erase 2 0")));
+}
+
+TEST_F(PLG_wrenTest, bearsEverySignalWithoutATable) {
+    int raised = 0;
+    for (const char* signal : {"signalRecord", "signalSaveFile", "signalSaveLayout", "signalEndRecording",
+                               "signalDisconnect", "signalStartAutoUpdate", "signalStopAutoUpdate"})
+        raised += raise(signal);
+    plugin->slotScreenShot(QStringLiteral("/nowhere/a.png"));
+    EXPECT_EQ(raised, 7);
+    EXPECT_THAT(taken(), IsEmpty());
+}
+
+TEST_F(PLG_wrenTest, disconnectsAllCamerasThoughLocked) {
+    openTable();
+    two.locked = true;
+    ASSERT_TRUE(raise("signalDisconnect"));
+    EXPECT_THAT(taken(), Contains("disconnectDocs 1 2 3"));
+}
+
+TEST_F(PLG_wrenTest, startsAndStopsTheTicks) {
+    host.prefs[QStringLiteral("wren/table/interval")] = 1;
+    auto* bridge = openTable();
+    QSignalSpy ticks(bridge, &JS_Mediator_WrenTableDialog::autoUpdate);
+    ASSERT_TRUE(raise("signalStartAutoUpdate"));
+    EXPECT_TRUE(ticks.wait());
+    ASSERT_TRUE(raise("signalStopAutoUpdate"));
+    ticks.clear();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(ticks.count(), 0);
+}
+
+TEST_F(PLG_wrenTest, endsARecordingOnTheBridge) {
+    auto* bridge = openTable();
+    bridge->setRecordRunning();
+    ASSERT_TRUE(raise("signalEndRecording"));
+    EXPECT_FALSE(bridge->state().recordRunning);
+}
+
+TEST_F(PLG_wrenTest, keepsWhoAsksForAPictureWaitingUntilItIsWritten) {
+    openTable();
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("table.png"));
+    bool written = false;
+    QScopedPointer<QThread> asking(QThread::create([&] {
+        QMetaObject::invokeMethod(plugin.get(), "signalScreenShot", Qt::DirectConnection, Q_ARG(QString, path));
+        written = !QImage(path).isNull();
+    }));
+    asking->start();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return asking->isFinished(); }));
+    asking->wait();
+    EXPECT_TRUE(written);
+    EXPECT_EQ(QImage(path).size(), plugin->getDialog(false)->size());
+}
+
+TEST_F(PLG_wrenTest, warnsOfAPictureThatCannotBeWritten) {
+    openTable();
+    taken();
+    plugin->slotScreenShot(QStringLiteral("/nowhere/a.png"));
+    EXPECT_THAT(taken(), Contains(testing::HasSubstr("/nowhere/a.png")));
+}
+
+TEST_F(PLG_wrenTest, keepsTheTableOpenInFileMode) {
+    openTable();
+    EXPECT_TRUE(plugin->isChecked(&one, 0));
+    host.mode = zeb::FileMode;
+    plugin->updateDialog(zeb::FileMode);
+    EXPECT_TRUE(plugin->isDialogVisible());
+    EXPECT_FALSE(plugin->isChecked(&one, 0));
+}
+
+TEST_F(PLG_wrenTest, makesOneTableThoughItsBridgeAsksFirst) {
+    host.prefs[QStringLiteral("wren/table/interval")] = 500;
+    host.failing = QStringLiteral("setPrefBool");
+    QDialog* second = plugin.get()->getDialog(false);
+    host.onBox = [&] { second = plugin->getDialog(true); };
+    QDialog* first = plugin->getDialog(true);
+    EXPECT_THAT(taken(), Contains("errorHandler setPrefBool")) << "a box stood while the bridge was made";
+    EXPECT_NE(first, nullptr);
+    EXPECT_EQ(second, nullptr);
+}
+
+TEST_F(PLG_wrenTest, goesWhileItsTableIsMade) {
+    host.failing = QStringLiteral("setPrefBool");
+    host.onBox = [&] {
+        host.plugins.clear();
+        plugin.reset();
+    };
+    EXPECT_EQ(plugin.get()->getDialog(true), nullptr);
+    EXPECT_FALSE(plugin);
+    EXPECT_THAT(QApplication::topLevelWidgets(), IsEmpty());
+}
+
+TEST_F(PLG_wrenTest, leavesNothingBehind) {
+    openTable();
+    QPointer<QDialog> dialog = plugin->getDialog(false);
+    QPointer<JS_Mediator> bridge = static_cast<GUI_WrenTableDialog*>(dialog.data())->getBridge();
+    QPointer<QWidget> view = dialog->findChild<QWebView*>();
+    host.plugins.clear();
+    plugin.reset();
+    EXPECT_FALSE(dialog);
+    EXPECT_FALSE(bridge);
+    EXPECT_FALSE(view);
+    EXPECT_THAT(QApplication::topLevelWidgets(), IsEmpty());
+}
