@@ -22,9 +22,9 @@ QString freeCorruptName(const QString& path) {
     return name;
 }
 
-QVariant convertedTo(int type, QVariant value) {
-    value.convert(type);
-    return value;
+/// `value` as a value of this type; `otherwise` when it can't be one.
+QVariant convertedTo(int type, QVariant value, const QVariant& otherwise) {
+    return value.convert(type) ? value : otherwise;
 }
 
 std::unique_ptr<QSettings> openSettings(const QString& path) {
@@ -36,6 +36,8 @@ std::unique_ptr<QSettings> openSettings(const QString& path) {
 }  // namespace
 
 Preferences::Preferences(const QString& path) : m_settings(openSettings(path.isEmpty() ? defaultPath() : path)) {
+    // A section is parsed, and may show its damage, only when somebody asks for it.
+    m_settings->allKeys();
     if (m_settings->status() == QSettings::FormatError) {
         keepCorruptFileAside();
     } else if (m_settings->status() == QSettings::AccessError) {
@@ -66,10 +68,10 @@ QVariant Preferences::stored(const QString& key) const {
     const QVariant value = m_settings->value(key);
     const auto factory = factoryValues().find(key);
     if (factory != factoryValues().end()) {
-        return value.canConvert(factory->userType()) ? convertedTo(factory->userType(), value) : *factory;
+        return convertedTo(factory->userType(), value, *factory);
     }
     const int type = QMetaType::type(m_settings->value(typeGroup % key).toByteArray().constData());
-    return type == QMetaType::UnknownType ? value : convertedTo(type, value);
+    return type == QMetaType::UnknownType ? value : convertedTo(type, value, value);
 }
 
 QVariant Preferences::value(const QString& key, const QVariant& defaultValue) const {
@@ -79,7 +81,7 @@ QVariant Preferences::value(const QString& key, const QVariant& defaultValue) co
 void Preferences::setValue(const QString& key, const QVariant& value) {
     const auto factory = factoryValues().find(key);
     if (factory != factoryValues().end()) {
-        m_values.insert(key, convertedTo(factory->userType(), value));
+        m_values.insert(key, convertedTo(factory->userType(), value, *factory));
     } else {
         m_values.insert(key, value);
         if (value.type() != QVariant::String) {

@@ -25,9 +25,7 @@ SimHost::SimHost(Clock& clock, MessageDesk& desk, const QString& prefsPath)
       m_saver(m_flags),
       m_viewOps(m_cameras),
       m_undo(m_journal) {
-    if (!m_translator.load(QStringLiteral("en"))) {
-        qInfo("no English catalogue: texts show as they are in the code");
-    }
+    m_translator.load(QStringLiteral("en"));
     if (!m_prefs.problem().isEmpty()) {
         Message message;
         message.kind = Message::Warn;
