@@ -1,0 +1,222 @@
+#include "DOC_Control.h"
+#include "DOC_Interface.h"
+#include "DOC_Lock.h"
+#include "support/TestHost.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <thread>
+
+namespace {
+
+using testing::HasSubstr;
+
+/// What `work` throws; empty when it does not.
+template <typename Work>
+std::string thrownBy(Work work) {
+    try {
+        work();
+        return {};
+    } catch (const std::exception& e) {
+        return e.what();
+    }
+}
+
+/// Keys: 1 Gate, 2 Ramp, 3 and 4 the nozzle heads, 5 Roof, 6 Track, 7 Impact, 8 Stand-in.
+class MixedCameras : public testing::Test {
+protected:
+    MixedCameras() {
+        for (DOCKEY key = 1; key <= 8; ++key) {
+            test.camera(key).set(&CameraState::connected, true);
+        }
+    }
+
+    unsigned int rate(DOCKEY key) { return test.doc(key)->control().getRecordRate(0); }
+    void setRate(const DocKeyList& keys, unsigned int value) {
+        test.host.cameraOps().setRecordRate(test.docs(keys), value);
+    }
+    void plant(DOCKEY key, const char* operation, const Fault& fault) {
+        test.host.faults().plant(key, QString::fromLatin1(operation), fault);
+    }
+
+    TestHost test{Rig::fromFile(QStringLiteral("eight-mixed"))};
+};
+
+Fault throwing(const char* text) {
+    Fault fault;
+    fault.throws = QString::fromUtf8(text);
+    return fault;
+}
+
+Fault gone() {
+    Fault fault;
+    fault.gone = true;
+    return fault;
+}
+
+}  // namespace
+
+TEST_F(MixedCameras, TakeTheRateThatTheirModelMakesOfIt) {
+    setRate({1}, 2000);
+    EXPECT_EQ(rate(1), 2000u);
+    setRate({1}, 2999);
+    EXPECT_EQ(rate(1), 2000u) << "the next lower rate";
+    setRate({1}, 7);
+    EXPECT_EQ(rate(1), 50u) << "the lowest";
+    setRate({1}, 4000000000u);
+    EXPECT_EQ(rate(1), 10000u) << "the highest";
+
+    EXPECT_EQ(thrownBy([&] { setRate({7}, 2999); }), "Impact: a rate of 2999 fps is not supported");
+    EXPECT_EQ(rate(7), 10000u);
+}
+
+TEST_F(MixedCameras, HeadsOfADeviceShareTheirRateAndConnection) {
+    setRate({4}, 2000);
+    EXPECT_EQ(rate(3), 2000u);
+
+    test.host.docManager().disconnectDocs({3});
+    EXPECT_FALSE(test.doc(4)->isConnected());
+    test.host.docManager().connectDocs({4});
+    EXPECT_TRUE(test.doc(3)->isConnected());
+    EXPECT_EQ(test.doc(4)->getParentDoc(), test.doc(3));
+    EXPECT_EQ(test.doc(3)->getParentDoc(), nullptr);
+    EXPECT_EQ(test.doc(1)->getParentDoc(), nullptr);
+}
+
+TEST_F(MixedCameras, TellWhetherAChangeReachesALockedHead) {
+    auto shares = [this](DOCKEY key, bool shutter, bool resolution) {
+        return test.host.docManager().sharesDeviceWithLockedHead(test.doc(key), shutter, resolution);
+    };
+    EXPECT_FALSE(shares(3, false, false)) << "none is locked";
+    test.doc(4)->lock().setParamLock(true);
+    EXPECT_TRUE(shares(3, false, false)) << "the rate is the device's";
+    EXPECT_TRUE(shares(3, false, true)) << "so is the resolution of this model";
+    EXPECT_FALSE(shares(3, true, false)) << "its shutter is each head's own";
+    EXPECT_FALSE(shares(4, false, false)) << "its own lock is no other head's";
+    test.doc(1)->lock().setParamLock(true);
+    EXPECT_FALSE(shares(2, false, false)) << "another device";
+}
+
+TEST_F(MixedCameras, ABatchReachesTheOthersAndNamesThoseThatFail) {
+    plant(2, "setRecordRate", throwing("no answer"));
+    plant(6, "*", throwing("\u30ab\u30e1\u30e9 <b>off</b>"));
+    const QVariantList calls = test.callsOf([this] {
+        EXPECT_EQ(thrownBy([this] {
+                      setRate({1, 2, 6, 5}, 1000);
+                  }),
+                  "Ramp: no answer\nTrack: \u30ab\u30e1\u30e9 <b>off</b>");
+    });
+    EXPECT_EQ(rate(1), 1000u);
+    EXPECT_EQ(rate(2), 2000u);
+    EXPECT_EQ(rate(5), 1000u);
+    EXPECT_EQ(calls,
+              (QVariantList{QVariantMap{{QStringLiteral("call"), QStringLiteral("ZebCameraOps::setRecordRate")},
+                                        {QStringLiteral("args"), QVariantList{QVariantList{1u, 2u, 6u, 5u}, 1000u}}}}));
+}
+
+TEST_F(MixedCameras, TakeTheirTimeOnTheClock) {
+    test.clock.join();
+    setRate({1, 5}, 1000);
+    EXPECT_EQ(test.clock.join(), 2 + 8);
+
+    Fault slow;
+    slow.delay = 300;
+    plant(1, "getRecordRate", slow);
+    rate(1);
+    rate(5);
+    EXPECT_EQ(test.clock.join(), 300);
+}
+
+TEST_F(MixedCameras, AGoneCameraHasNoDocument) {
+    plant(2, "*", gone());
+    EXPECT_EQ(test.doc(2), nullptr);
+    EXPECT_EQ(test.host.docManager().getDocKeys(), (DocKeyList{1, 3, 4, 5, 6, 7, 8}));
+    test.host.docManager().selectDoc(2);
+    test.host.docManager().connectDocs({2});
+    EXPECT_TRUE(test.desk.shown.isEmpty());
+    plant(2, "*", {});
+    EXPECT_NE(test.doc(2), nullptr);
+}
+
+TEST_F(MixedCameras, ACameraMayVanishInTheMiddleOfACall) {
+    plant(1, "setRecordRate", gone());
+    const DocList docs = test.docs({1, 2});
+    EXPECT_EQ(thrownBy([&] { test.host.cameraOps().setRecordRate(docs, 1000); }), "Gate: the camera is gone");
+    EXPECT_EQ(test.doc(1), nullptr);
+    EXPECT_EQ(rate(2), 1000u);
+    EXPECT_EQ(thrownBy([&] { docs.first()->control().getTriggerMode(); }), "Gate: the camera is gone");
+}
+
+TEST_F(MixedCameras, OnesThatAreNotConnectedAnswerOnlyWhatTheHostKnows) {
+    test.camera(1).set(&CameraState::connected, false);
+    EXPECT_EQ(test.doc(1)->control().getCameraName(1), QStringLiteral("Gate"));
+    EXPECT_EQ(test.doc(1)->control().getAddress(1), QStringLiteral("192.168.0.11"));
+    EXPECT_EQ(thrownBy([this] { rate(1); }), "Gate: the camera is not connected");
+    EXPECT_EQ(thrownBy([this] { setRate({1}, 50); }), "Gate: the camera is not connected");
+    EXPECT_EQ(test.camera(1).get(&CameraState::rate), 1000u);
+}
+
+TEST_F(MixedCameras, FailuresToConnectAreShownInOneBox) {
+    test.host.docManager().disconnectDocs({1, 2, 3});
+    plant(1, "connectDocs", throwing("refused"));
+    plant(3, "connectDocs", throwing("no route"));
+    test.host.docManager().connectDocs({1, 2, 3});
+    EXPECT_EQ(test.desk.texts(), QStringList{QStringLiteral("Gate: refused\nNozzle left: no route")});
+    EXPECT_EQ(test.host.docManager().getConnectedDocKeys(), (DocKeyList{2, 5, 6, 7, 8}));
+}
+
+TEST_F(MixedCameras, AHeadThatRecordsKeepsItsLock) {
+    for (const int state : {0, 1, 2, 3}) {
+        test.camera(1).change({{QStringLiteral("recordState"), state}, {QStringLiteral("locked"), true}});
+        test.doc(1)->lock().setParamLock(false);
+        EXPECT_EQ(test.doc(1)->lock().isParamLocked(), state >= 2) << state;
+    }
+}
+
+TEST_F(MixedCameras, ChangeBehindTheBackIsAllOrNothing) {
+    const QVariantMap members{{QStringLiteral("alerts"), QVariantList{QStringLiteral("hot")}},
+                              {QStringLiteral("name"), QStringLiteral("New")},
+                              {QStringLiteral("resolution"), QVariantList{100, 50.0}},
+                              {QStringLiteral("rate"), 7.0}};
+    test.camera(1).change(members);
+    const QVariantMap state = test.camera(1).state().toPlain();
+    for (const QString& member : members.keys()) {
+        EXPECT_EQ(state.value(member), members.value(member)) << member.toStdString();
+    }
+    EXPECT_THROW(test.camera(1).change({{QStringLiteral("name"), QStringLiteral("Newer")},
+                                        {QStringLiteral("status"), QStringLiteral("high")}}),
+                 CameraStateError);
+    EXPECT_EQ(test.camera(1).name(), QStringLiteral("New"));
+}
+
+TEST_F(MixedCameras, OfferShutterSpeedsAsThePreferenceSays) {
+    DOC_Control& control = test.doc(5)->control();
+    EXPECT_EQ(control.getShutterSpeed(), 500);
+    EXPECT_EQ(control.getShutterSpeedEntries().first(), QStringLiteral("60;1/60 sec;1"));
+
+    test.host.setPrefInt(QStringLiteral("display/ShutterSpeed"), 2);
+    EXPECT_EQ(control.getShutterSpeed(), 2000000);
+    EXPECT_EQ(control.getShutterSpeedEntries().last(), QStringLiteral("200000;200 \u00b5s;2"));
+    EXPECT_EQ(test.doc(5)->formatShutterSpeed(2000000, 0), QStringLiteral("2 ms"));
+    EXPECT_EQ(control.getShutterSpeedList(1).indexOf(5000), control.getShutterSpeedList(2).indexOf(200000));
+}
+
+TEST(SteppedClock, BooksAWaitForEachThreadByItself) {
+    SteppedClock clock;
+    clock.advance(1000);
+    clock.wait(20);
+    clock.wait(-5);
+    qint64 seen = 0;
+    std::thread other([&] {
+        clock.wait(30);
+        clock.wait(30);
+        seen = clock.now();
+    });
+    other.join();
+    EXPECT_EQ(seen, 1060);
+    EXPECT_EQ(clock.now(), 1020);
+    EXPECT_EQ(clock.join(), 60) << "the longest, not the sum";
+    EXPECT_EQ(clock.now(), 1060);
+    EXPECT_EQ(clock.join(), 0);
+}

@@ -1,0 +1,166 @@
+#include "DOC_Control.h"
+#include "DOC_Interface.h"
+#include "support/TestHost.h"
+
+#include <QSignalSpy>
+
+#include <gtest/gtest.h>
+
+#include <thread>
+
+namespace {
+
+class Messages : public testing::Test {
+protected:
+    /// What a tick does: ask, and hand a failure to the host.
+    void tick(DOCKEY key = 1) {
+        try {
+            test.doc(key)->control().getRecordRate(0);
+        } catch (const std::exception& e) {
+            test.host.errorHandler(e);
+        }
+    }
+    void plantRateFault(DOCKEY key, const char* text) {
+        Fault fault;
+        fault.throws = QString::fromLatin1(text);
+        test.host.faults().plant(key, QStringLiteral("getRecordRate"), fault);
+    }
+
+    TestHost test{Rig::standard(2)};
+    SimHost& host = test.host;
+    ScriptedDesk& desk = test.desk;
+};
+
+}  // namespace
+
+TEST_F(Messages, ComeAsPlainTextWithLineFeedsOnTheRightWindow) {
+    QWidget window;
+    QWidget other;
+    host.setMainWindow(&window);
+    host.warnList(QStringLiteral("<b>a</b><br>b"), {QStringLiteral("c")}, nullptr);
+    host.alert(QStringLiteral("d"), &other);
+    host.errorHandler(std::runtime_error(u8"\u30ab\u30e1\u30e9"));
+    host.errorHandler(std::runtime_error(""));
+    ASSERT_EQ(desk.shown.size(), 3) << "nothing for an empty error";
+    EXPECT_EQ(desk.texts(), (QStringList{QStringLiteral("<b>a</b>\nb"), QStringLiteral("d"),
+                                         QString::fromUtf8(u8"\u30ab\u30e1\u30e9")}));
+    EXPECT_EQ(desk.shown[0].list, QStringList{QStringLiteral("c")});
+    EXPECT_EQ(desk.shown[0].kind, Message::Warn);
+    EXPECT_EQ(desk.shown[0].parent, &window);
+    EXPECT_EQ(desk.shown[1].parent, &other);
+    EXPECT_EQ(desk.shown[2].kind, Message::Error);
+}
+
+TEST_F(Messages, DontShowAgainStoresFalse) {
+    const QString key = QStringLiteral("alert/wren/multiheadlockalert");
+    desk.answers = {Answer{false, false}, Answer{true, true}};
+    EXPECT_FALSE(host.confirmWithDontShowAgain(QStringLiteral("sure?"), key, nullptr, {}));
+    EXPECT_TRUE(host.getPrefBool(key));
+    EXPECT_TRUE(host.confirmWithDontShowAgain(QStringLiteral("sure?"), key, nullptr, {}));
+    EXPECT_FALSE(host.getPrefBool(key));
+    EXPECT_TRUE(desk.shown.first().offersSilence);
+}
+
+TEST_F(Messages, AFailingQuestionIsShownOnceUntilItHasAnAnswer) {
+    host.docManager().connectDocs({1, 2});
+    plantRateFault(1, "no answer");
+    plantRateFault(2, "no answer");
+    tick(1);
+    tick(2);
+    tick(1);
+    tick(2);
+    EXPECT_EQ(desk.texts(),
+              (QStringList{QStringLiteral("Camera 1: no answer"), QStringLiteral("Camera 2: no answer")}));
+
+    plantRateFault(1, "");
+    tick(1);
+    plantRateFault(1, "no answer");
+    tick(1);
+    tick(2);
+    EXPECT_EQ(desk.shown.size(), 3);
+    EXPECT_EQ(desk.shown.last().text, QStringLiteral("Camera 1: no answer"));
+}
+
+TEST_F(Messages, AFailingCommandIsShownEachTime) {
+    host.docManager().connectDocs({1});
+    Fault fault;
+    fault.throws = QStringLiteral("no answer");
+    host.faults().plant(1, QStringLiteral("*"), fault);
+    tick();
+    for (int i = 0; i < 2; ++i) {
+        try {
+            host.cameraOps().setRecordRate(test.docs({1}), 50);
+        } catch (const std::exception& e) {
+            host.errorHandler(e);
+        }
+    }
+    EXPECT_EQ(desk.shown.size(), 3);
+}
+
+TEST_F(Messages, JournalIsARingWithMarks) {
+    Journal journal;
+    QSignalSpy spy(&journal, &Journal::recorded);
+    for (int i = 0; i < Journal::Capacity + 5; ++i) {
+        journal.record("call", {i});
+    }
+    const quint64 mark = journal.count();
+    EXPECT_EQ(journal.since(0).size(), Journal::Capacity);
+    EXPECT_EQ(journal.since(0).first().toMap().value(QStringLiteral("args")), QVariantList{5});
+    journal.record("last");
+    EXPECT_EQ(journal.since(mark).size(), 1);
+    EXPECT_TRUE(journal.since(journal.count()).isEmpty());
+
+    journal.setEnabled(false);
+    journal.record("unseen");
+    EXPECT_EQ(journal.count(), mark + 1);
+    EXPECT_EQ(spy.count(), Journal::Capacity + 6);
+}
+
+TEST_F(Messages, FaultsAndJournalBearManyThreads) {
+    host.docManager().connectDocs({1, 2});
+    const quint64 mark = host.journal().count();
+    auto work = [this](DOCKEY key) {
+        for (int i = 0; i < 500; ++i) {
+            Fault fault;
+            fault.throws = QStringLiteral("no");
+            host.faults().plant(key, QStringLiteral("getRecordRate"), i % 2 ? Fault() : fault);
+            host.journal().record("call", {key});
+            try {
+                test.camera(key).setRecordRate(50);
+                test.camera(key).queryConnected("getRecordRate");
+            } catch (const QueryError&) {
+                ASSERT_EQ(i % 2, 0);
+            }
+        }
+    };
+    std::thread first(work, 1);
+    std::thread second(work, 2);
+    first.join();
+    second.join();
+    EXPECT_EQ(host.journal().count() - mark, 1000u);
+    EXPECT_EQ(test.clock.join() % 2, 0);
+}
+
+TEST_F(Messages, SelectionHasACurrentDocument) {
+    SimDocManager& docs = host.docManager();
+    EXPECT_EQ(docs.getCurrentDoc(), nullptr);
+    EXPECT_FALSE(docs.isCurrentDoc(zeb::NoDocKey));
+    docs.selectDoc(2);
+    docs.selectDoc(1);
+    EXPECT_TRUE(docs.isCurrentDoc(2)) << "the first that was selected";
+    docs.deselectDoc(2);
+    EXPECT_TRUE(docs.isCurrentDoc(1));
+    host.setRig(Rig::standard(1));
+    EXPECT_EQ(docs.getCurrentDoc(), nullptr);
+    EXPECT_EQ(docs.getDocKeys(), DocKeyList{1});
+}
+
+TEST_F(Messages, RecordStatusIsTheFurthestOfTheCamerasAskedAbout) {
+    host.docManager().connectDocs({1, 2});
+    test.camera(2).set(&CameraState::recordState, 3);
+    EXPECT_EQ(host.recorder().getRecStatus({1}), zeb::RecordLive);
+    EXPECT_EQ(host.recorder().getRecStatus({1, 2}), zeb::RecordRecording);
+    host.flags().set(QStringLiteral("IsRecordingError"), true);
+    EXPECT_EQ(host.recorder().getRecStatus({1}), zeb::RecordError);
+    EXPECT_THROW(host.flags().set(QStringLiteral("IsNothing"), true), std::invalid_argument);
+}

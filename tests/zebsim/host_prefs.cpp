@@ -1,0 +1,142 @@
+#include "host/FactoryValues.h"
+#include "host/Preferences.h"
+#include "support/TestHost.h"
+
+#include <QDir>
+#include <QFile>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace {
+
+class Prefs : public testing::Test {
+protected:
+    void write(const QByteArray& text) {
+        QFile file(path);
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(text);
+    }
+    /// The file at a new place, so that nothing but its text is read.
+    QString copied() {
+        const QString copy = folder.filePath(QStringLiteral("copy.ini"));
+        EXPECT_TRUE(QFile::copy(path, copy));
+        return copy;
+    }
+
+    QTemporaryDir folder;
+    QString path = folder.filePath(QStringLiteral("prefs.ini"));
+    SteppedClock clock;
+    ScriptedDesk desk;
+};
+
+}  // namespace
+
+TEST_F(Prefs, KeepValueAndTypeOverARestart) {
+    const QMap<QString, QVariant> values{
+        {QStringLiteral("wren/table/x"), -1234},
+        {QStringLiteral("wren/display/lock"), false},
+        {QStringLiteral("wren/table/group"), QStringLiteral("A, \"B\"; =\n%1 [\u65e5\u672c] \\")},
+        {QStringLiteral("my/int"), 5},
+        {QStringLiteral("my/text that looks like a number"), QStringLiteral("005")},
+        {QStringLiteral("my/bool"), true},
+        {QStringLiteral("my/float"), 0.1f},
+        {QStringLiteral("my/double"), 0.1},
+        {QStringLiteral("my/uint"), 4294967295u},
+        {QStringLiteral("my/one text"), QStringList{QStringLiteral("a,b")}},
+        {QStringLiteral("my/@text"), QStringLiteral("@Invalid()")},
+        {QStringLiteral("my/empty"), QString()},
+    };
+    {
+        SimHost host(clock, desk, path);
+        for (auto value = values.begin(); value != values.end(); ++value) {
+            host.setPref(value.key(), value.value());
+        }
+    }
+    SimHost host(clock, desk, copied());
+    for (auto value = values.begin(); value != values.end(); ++value) {
+        const QVariant read = host.getPref(value.key());
+        EXPECT_EQ(read, value.value()) << value.key().toStdString() << " " << read.toString().toStdString();
+        EXPECT_STREQ(read.typeName(), value->typeName()) << value.key().toStdString();
+    }
+    EXPECT_TRUE(desk.shown.isEmpty());
+}
+
+TEST_F(Prefs, AKeyThatChangesItsTypeComesBackAsTheNewOne) {
+    {
+        Preferences prefs(path);
+        prefs.setValue(QStringLiteral("my/key"), 5);
+        prefs.setValue(QStringLiteral("my/key"), QStringLiteral("6"));
+    }
+    EXPECT_STREQ(Preferences(copied()).value(QStringLiteral("my/key")).typeName(), "QString");
+}
+
+TEST_F(Prefs, AnUnwrittenKeyAnswersFactoryThenDefaultThenNothing) {
+    const SimHost host(clock, desk, path);
+    EXPECT_EQ(host.getPrefInt(QStringLiteral("wren/table/interval"), 7), 500);
+    EXPECT_EQ(host.getPrefInt(QStringLiteral("my/key"), 7), 7);
+    EXPECT_EQ(host.getPrefInt(QStringLiteral("my/key")), 0);
+    EXPECT_FALSE(host.getPrefBool(QStringLiteral("my/key")));
+    EXPECT_EQ(host.getPrefFloat(QStringLiteral("my/key"), 0.5), 0.5f);
+    EXPECT_EQ(host.getPrefString(QStringLiteral("my/key")), QString());
+}
+
+TEST_F(Prefs, AnUnreadableValueInAGoodFileIsItsFactoryType) {
+    write("[wren]\ntable\\interval=soon\ndisplay\\lock=false\n");
+    const Preferences prefs(path);
+    EXPECT_STREQ(prefs.value(QStringLiteral("wren/table/interval")).typeName(), "int");
+    EXPECT_EQ(prefs.value(QStringLiteral("wren/table/interval")), 500);
+    EXPECT_EQ(prefs.value(QStringLiteral("wren/display/lock")), false);
+}
+
+TEST_F(Prefs, ACorruptFileIsKeptAsideAndNamed) {
+    const QByteArray damages[] = {"[wren]\ntable\\interval=250\n\x01\x02garbage\n", QByteArray(4096, '\0'),
+                                  "[wren\ntable\\interval=250\n"};
+    int number = 0;
+    for (const QByteArray& damage : damages) {
+        desk.shown.clear();
+        write(damage);
+        const QString kept =
+            path + (++number == 1 ? QStringLiteral(".corrupt") : QStringLiteral(".corrupt-%1").arg(number));
+        {
+            SimHost host(clock, desk, path);
+            ASSERT_EQ(desk.shown.size(), 1) << number;
+            EXPECT_EQ(desk.shown.first().kind, Message::Warn);
+            EXPECT_TRUE(desk.shown.first().text.contains(path) && desk.shown.first().text.contains(kept));
+            EXPECT_EQ(host.getPrefInt(QStringLiteral("wren/table/interval")), 500) << number;
+            host.setPrefInt(QStringLiteral("wren/table/x"), number);
+        }
+        QFile file(kept);
+        ASSERT_TRUE(file.open(QIODevice::ReadOnly)) << kept.toStdString();
+        EXPECT_EQ(file.readAll(), damage);
+        EXPECT_EQ(Preferences(path).value(QStringLiteral("wren/table/x")), number) << "the new file works";
+    }
+}
+
+TEST_F(Prefs, AFileThatCantBeOpenedIsToldOf) {
+    ASSERT_TRUE(QDir().mkpath(path));
+    SimHost host(clock, desk, path);
+    ASSERT_EQ(desk.shown.size(), 1);
+    EXPECT_TRUE(desk.shown.first().text.contains(path));
+    EXPECT_EQ(host.getPrefInt(QStringLiteral("wren/table/interval")), 500);
+}
+
+TEST(FactoryValues, AreThoseThatTheTableNeeds) {
+    QStringList displays;
+    QStringList orders;
+    for (const QString& key : factoryValues().keys()) {
+        if (key.startsWith(QStringLiteral("wren/display/"))) {
+            EXPECT_EQ(factoryValues()[key], QVariant(true)) << key.toStdString();
+            EXPECT_FALSE(key.contains(QLatin1Char('_'))) << "pages make element ids of them";
+            displays.append(key);
+        }
+        if (key.startsWith(QStringLiteral("wren/column_order/"))) {
+            EXPECT_FALSE(factoryValues()[key].toString().endsWith(QLatin1Char(',')));
+            orders.append(key);
+        }
+    }
+    EXPECT_EQ(displays.size(), 20);
+    EXPECT_EQ(orders.size(), 7);
+    EXPECT_EQ(factoryValues()[QStringLiteral("wren/column_order/sync")],
+              QStringLiteral("lock,connectIcon,cameraName,alert,cameraStatus,sync,externalSync,triggerIn,triggerSwIn"));
+}

@@ -1,0 +1,182 @@
+#include "ZebPageBridge.h"
+#include "host/PluginSlot.h"
+#include "support/StubPlugin.h"
+#include "support/TestHost.h"
+
+#include <QDialog>
+#include <QPointer>
+#include <QSignalSpy>
+#include <QTest>
+#include <QWebFrame>
+#include <QWebView>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+class CountingBridge : public ZebPageBridge {
+public:
+    QString bridgeName() const override { return QStringLiteral("counter"); }
+    void setView(QWebView* newView) override { view = newView; }
+    void addPrefsJSObject() override {
+        view->page()->mainFrame()->addToJavaScriptWindowObject(QStringLiteral("prefs"), this, QWebFrame::QtOwnership);
+    }
+    void raiseUpdate() override {
+        ++updates;
+        if (onUpdate) {
+            onUpdate();
+        }
+    }
+
+    QWebView* view = nullptr;
+    int updates = 0;
+    std::function<void()> onUpdate;
+};
+
+class Updates : public testing::Test {
+protected:
+    void load(QWebView& view) {
+        QSignalSpy loaded(&view, &QWebView::loadFinished);
+        view.setHtml(QStringLiteral("<script>var seen = typeof counter + typeof prefs;</script>"));
+        ASSERT_TRUE(!loaded.isEmpty() || loaded.wait());
+    }
+    /// Lets what was asked for happen.
+    void settle() {
+        while (host.updates().isPending()) {
+            QCoreApplication::processEvents();
+        }
+    }
+
+    TestHost test;
+    SimHost& host = test.host;
+    QSignalSpy cycles{&host.events(), &HostEvents::updateFinished};
+};
+
+}  // namespace
+
+TEST_F(Updates, ManyRequestsAreOneCycleFromTheEventLoop) {
+    for (int i = 0; i < 10; ++i) {
+        host.updateUI(zeb::UpdateAll, true);
+    }
+    EXPECT_EQ(cycles.count(), 0);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(cycles.count(), 1);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(cycles.count(), 1);
+}
+
+TEST_F(Updates, NoneWhileDeterredAndOneAfterTheLastEnd) {
+    host.updateUI(63, true);
+    host.deterUpdateUI(true);
+    host.deterUpdateUI(true);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(cycles.count(), 0) << "asked for before, held back";
+    host.updateUI(63, true);
+    host.deterUpdateUI(false);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(cycles.count(), 0) << "still deterred once";
+    host.deterUpdateUI(false);
+    EXPECT_EQ(cycles.count(), 0) << "not inside the call";
+    QCoreApplication::processEvents();
+    EXPECT_EQ(cycles.count(), 1);
+
+    host.deterUpdateUI(true);
+    host.deterUpdateUI(false);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(cycles.count(), 1) << "nothing was asked for";
+}
+
+TEST_F(Updates, ARequestInsideACycleIsTheNextOne) {
+    StubPlugin plugin;
+    plugin.onUpdate = [&] {
+        if (plugin.updates == 1) {
+            host.updateUI(63, true);
+        }
+    };
+    const PluginSlot slot(host, plugin);
+    host.updateUI(63, true);
+    settle();
+    EXPECT_EQ(plugin.updates, 2);
+}
+
+TEST_F(Updates, ReachPluginsAndLoadedBridgesOnceEach) {
+    StubPlugin plugin;
+    plugin.dialog = std::make_unique<QDialog>();
+    const PluginSlot slot(host, plugin);
+    auto* inner = new QWebView(plugin.dialog.get());
+    QWebView outer;
+    QWebView unloaded;
+    CountingBridge innerBridge;
+    CountingBridge outerBridge;
+    CountingBridge unloadedBridge;
+    host.attachBridge(inner, &innerBridge);
+    host.attachBridge(&outer, &outerBridge);
+    host.attachBridge(&unloaded, &unloadedBridge);
+    load(*inner);
+    load(outer);
+
+    host.appStatus().enterMode(zeb::MemoryMode);
+    settle();
+    EXPECT_EQ(plugin.updates, 1);
+    EXPECT_EQ(plugin.updateMode, zeb::MemoryMode);
+    EXPECT_EQ(innerBridge.updates, 0) << "its plug-in has told it";
+    EXPECT_EQ(outerBridge.updates, 1);
+    EXPECT_EQ(unloadedBridge.updates, 0);
+    EXPECT_EQ(outer.page()->mainFrame()->evaluateJavaScript(QStringLiteral("seen")).toString(),
+              QStringLiteral("objectobject"))
+        << "the page's first script found both names";
+}
+
+TEST_F(Updates, SurviveTheDeathOfBridgesAndViewsInTheirMidst) {
+    auto view = std::make_unique<QWebView>();
+    auto bridge = std::make_unique<CountingBridge>();
+    CountingBridge killer;
+    QWebView killersView;
+    host.attachBridge(&killersView, &killer);
+    host.attachBridge(view.get(), bridge.get());
+    load(killersView);
+    load(*view);
+    killer.onUpdate = [&] {
+        bridge.reset();
+        view.reset();
+    };
+    host.updateUI(63, true);
+    settle();
+    host.updateUI(63, true);
+    settle();
+    EXPECT_EQ(killer.updates, 2);
+}
+
+TEST_F(Updates, AFailureOfOneIsShownAndTheOthersGetTheirs) {
+    StubPlugin bad;
+    StubPlugin good;
+    bad.onUpdate = [] { throw std::runtime_error("page is broken"); };
+    const PluginSlot badSlot(host, bad);
+    const PluginSlot goodSlot(host, good);
+    host.updateUI(63, true);
+    settle();
+    EXPECT_EQ(test.desk.texts(), QStringList{QStringLiteral("page is broken")});
+    EXPECT_EQ(good.updates, 1);
+}
+
+TEST_F(Updates, TheButtonOpensInItsOrderAndAnEmptyRefusalIsSilent) {
+    StubPlugin plugin;
+    PluginSlot slot(host, plugin);
+    slot.open();
+    EXPECT_EQ(plugin.log.join(QLatin1Char(' ')), QStringLiteral("prepareOpen activate getDialog(true) showDialog"));
+    EXPECT_EQ(host.appStatus().getPlugin(QStringLiteral("stub")), &plugin);
+
+    plugin.log.clear();
+    plugin.refusal = std::string();
+    slot.open();
+    EXPECT_TRUE(test.desk.shown.isEmpty());
+    plugin.refusal = "no licence";
+    slot.open();
+    EXPECT_EQ(test.desk.texts(), QStringList{QStringLiteral("no licence")});
+    EXPECT_EQ(plugin.log.join(QLatin1Char(' ')), QStringLiteral("prepareOpen prepareOpen"));
+
+    plugin.log.clear();
+    host.appStatus().closePlugin(QStringLiteral("stub"));
+    host.appStatus().closePlugin(QStringLiteral("unknown"));
+    EXPECT_EQ(plugin.log.join(QLatin1Char(' ')), QStringLiteral("deactivate"));
+}
