@@ -1,0 +1,150 @@
+#include "CameraManagement.h"
+#include "TableFixture.h"
+#include "TableSession.h"
+#include "TableState.h"
+
+namespace {
+
+class CameraManagementTest : public TableFixture {
+protected:
+    TableState state;
+    CameraManagement cameras{host, state};
+};
+
+TEST_F(CameraManagementTest, connectsWhatIsNotConnectedAndDisconnectsWhatNoLockKeeps) {
+    change(1, {{"connected", true}});
+    change(2, {{"connected", true}, {"locked", true}});
+    host.faults().plant(7, "*", {{}, 0, true});
+    const struct {
+        const char* sentence;
+        int mode;
+        bool connect;
+        bool force;
+        QStringList calls;
+    } cases[] = {
+        {"a locked camera stays", zeb::LiveMode, false, false, {"ZebDocManager::disconnectDocs [[1]]"}},
+        {"force takes it too", zeb::LiveMode, false, true, {"ZebDocManager::disconnectDocs [[1,2]]"}},
+        {"in memory mode nothing is disconnected", zeb::MemoryMode, false, false, {}},
+        {"but by force", zeb::MemoryMode, false, true, {"ZebDocManager::disconnectDocs [[1,2]]"}},
+        {"a connected one is not connected again, one that is gone is skipped",
+         zeb::LiveMode,
+         true,
+         false,
+         {"ZebDocManager::connectDocs [[5]]"}},
+    };
+    for (const auto& each : cases) {
+        SCOPED_TRACE(each.sentence);
+        host.appStatus().enterMode(each.mode);
+        for (const DOCKEY key : {1, 2}) {
+            change(key, {{"connected", true}});
+        }
+        calls();
+        cameras.connect({1, 2, 7, 5}, each.connect, each.force);
+        EXPECT_EQ(calls(), each.calls);
+    }
+}
+
+TEST_F(CameraManagementTest, ofLockedCamerasOnlyNothingIsAskedOfTheHost) {
+    change(2, {{"connected", true}, {"locked", true}});
+    cameras.connect({2}, false, false);
+    cameras.connect({2}, true, false);
+    EXPECT_EQ(calls(), QStringList());
+}
+
+TEST_F(CameraManagementTest, followsACameraThatComesInWhileItRecords) {
+    change(1, {{"recordState", zeb::RecordReady}});
+    change(2, {{"recordState", zeb::RecordCtsReady}});
+    cameras.connect({1, 2}, true, false);
+    EXPECT_TRUE(state.recordRunning);
+    EXPECT_EQ(calls(), (QStringList{"ZebDocManager::connectDocs [[1,2]]", "DOC_Lock::setParamLock [1,true]"}));
+
+    host.setPrefBool("wren/display/lock", false);
+    change(1, {{"connected", false}});
+    state.recordRunning = false;
+    calls();
+    cameras.connect({1}, true, false);
+    EXPECT_TRUE(state.recordRunning);
+    EXPECT_EQ(calls(), (QStringList{"ZebDocManager::connectDocs [[1]]"})) << "without the lock column no lock";
+}
+
+TEST_F(CameraManagementTest, asksBeforeDisconnectingByWhatGoesWithIt) {
+    connectAll();
+    change(2, {{"locked", true}});
+    const std::pair<DocKeyList, QString> cases[] = {
+        {{1}, "Disconnect this device. Is it OK?"},
+        {{1, 2}, "Disconnect this device. Is it OK?"},
+        {{1, 5}, "Bulk disconnect devices. Is it OK?"},
+        {{1, 5, 4}, "Heads connected to the same device are also disconnected. Is it OK?"},
+    };
+    for (const auto& [keys, question] : cases) {
+        desk.answers = {false};
+        EXPECT_FALSE(cameras.confirmDisconnect(keys));
+        EXPECT_EQ(desk.shown, QStringList{question});
+        desk.shown.clear();
+    }
+    EXPECT_TRUE(cameras.confirmDisconnect({1}));
+
+    change(4, {{"locked", true}});
+    cameras.confirmDisconnect({4});
+    EXPECT_EQ(desk.shown.last(), cases[3].second) << "a locked head counts too";
+    desk.shown.clear();
+    host.faults().plant(1, "isParamLocked", {"no answer", 0, false});
+    EXPECT_FALSE(cameras.confirmDisconnect({1}));
+    host.appStatus().enterMemoryMode();
+    EXPECT_FALSE(cameras.confirmDisconnect({5}));
+    EXPECT_EQ(desk.shown, QStringList());
+}
+
+TEST_F(CameraManagementTest, selectionSetsTheCameraBehindTheBatchRow) {
+    for (const DOCKEY key : {1, 2, 3}) {
+        change(key, {{"connected", true}});
+    }
+    change(2, {{"selected", true}});
+    change(3, {{"recordState", zeb::RecordReady}});
+    calls();
+    EXPECT_TRUE(cameras.select({1, 2, 3, 5}, true));
+    EXPECT_EQ(calls(), QStringList{"ZebDocManager::selectDoc [1]"});
+    EXPECT_EQ(state.batchDocKey, 2U);
+
+    cameras.select({1}, false);
+    EXPECT_EQ(calls(), QStringList{"ZebDocManager::deselectDoc [1]"});
+    EXPECT_EQ(state.batchDocKey, zeb::NoDocKey);
+
+    host.appStatus().enterMemoryMode();
+    cameras.select({3}, true);
+    EXPECT_EQ(state.batchDocKey, 3U) << "in memory mode the record state does not matter";
+    host.appStatus().enterMode(zeb::FileMode);
+    EXPECT_FALSE(cameras.select({3}, false));
+    host.appStatus().enterLiveMode();
+    host.flags().set("IsApplicationClosing", true);
+    EXPECT_FALSE(cameras.select({1}, true));
+}
+
+TEST_F(CameraManagementTest, aSessionTakesBackWhatItSet) {
+    connectAll();
+    change(1, {{"locked", true}});
+    change(2, {{"locked", true}, {"recordState", zeb::RecordRecording}});
+    change(3, {{"recordCheck", true}});
+    state.filter = 2;
+    host.setPrefBool("wren/display/lock", false);
+    TableSession session(host, state);
+
+    session.open();
+    EXPECT_EQ(state.group, QLatin1String(UnreadGroup));
+    EXPECT_FALSE(stateOf(1, "locked").toBool());
+    EXPECT_TRUE(stateOf(2, "locked").toBool()) << "a head that records keeps its lock";
+    EXPECT_FALSE(stateOf(3, "recordCheck").toBool());
+    EXPECT_TRUE(state.recordRunning);
+    EXPECT_TRUE(host.getPrefBool("recording/RecAllConnectedCamera"));
+
+    session.open();  // a minimised table is restored
+    change(2, {{"recordState", 0}});
+    state.group = QStringLiteral("Front");
+    session.close();
+    EXPECT_FALSE(host.getPrefBool("recording/RecAllConnectedCamera")) << "as before the first opening";
+    EXPECT_FALSE(stateOf(2, "locked").toBool());
+    EXPECT_EQ(host.getPrefInt("wren/table/filter"), 2);
+    EXPECT_EQ(host.getPrefString("wren/table/group"), "Front");
+}
+
+}  // namespace

@@ -1,0 +1,325 @@
+#include "TableFixture.h"
+#include "TableState.h"
+#include "records/RecordModel.h"
+
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+namespace {
+
+QJsonObject readJson(const QString& name) {
+    QFile file(QStringLiteral(":/table/expected/") % name % QStringLiteral(".json"));
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+    const QJsonDocument document = QJsonDocument::fromJson(file.readAll());
+    EXPECT_TRUE(document.isObject()) << name.toStdString();
+    return document.object();
+}
+
+QString toText(const QJsonObject& object) {
+    return QString::fromUtf8(QJsonDocument(object).toJson(QJsonDocument::Compact));
+}
+
+/// An expected answer; a text "@name" stands for the list of that name.
+QJsonObject expected(const QString& name) {
+    const QJsonObject lists = readJson(QStringLiteral("lists"));
+    QJsonObject answer = readJson(name);
+    for (const auto& part : {QStringLiteral("records"), QStringLiteral("batch")}) {
+        QJsonArray rows;
+        for (const QJsonValue& each : answer.value(part).toArray()) {
+            QJsonObject row = each.toObject();
+            for (auto member = row.begin(); member != row.end(); ++member) {
+                const QString text = member.value().toString();
+                if (text.startsWith(QLatin1Char('@'))) {
+                    member.value() = lists.value(text.mid(1));
+                }
+            }
+            rows.append(row);
+        }
+        answer.insert(part, rows);
+    }
+    return answer;
+}
+
+/// The same answer with some of its rows, numbered anew, and the batch row taken from `batchSource`.
+QJsonObject only(QJsonObject answer, const QStringList& keys) {
+    QJsonArray rows;
+    for (const QJsonValue& each : answer.value(QStringLiteral("records")).toArray()) {
+        QJsonObject row = each.toObject();
+        if (keys.contains(row.value(QStringLiteral("key")).toString())) {
+            row.insert(QStringLiteral("recid"), rows.size() + 1);
+            rows.append(row);
+        }
+    }
+    QJsonObject batch = answer.value(QStringLiteral("batch")).toArray().first().toObject();
+    batch.insert(QStringLiteral("recordCount"), rows.size());
+    answer.insert(QStringLiteral("records"), rows);
+    answer.insert(QStringLiteral("batch"), QJsonArray{batch});
+    return answer;
+}
+
+QJsonObject row(const QString& answer, int index) {
+    return QJsonDocument::fromJson(answer.toUtf8())[QStringLiteral("records")][index].toObject();
+}
+
+QStringList keysOf(const QString& answer) {
+    QStringList keys;
+    for (const QJsonValue& each : QJsonDocument::fromJson(answer.toUtf8())[QStringLiteral("records")].toArray()) {
+        keys.append(each[QStringLiteral("key")].toString());
+    }
+    return keys;
+}
+
+QStringList valuesOf(const QJsonValue& choices) {
+    QStringList values;
+    for (const QJsonValue& each : choices.toArray()) {
+        values.append(each[QStringLiteral("value")].toString());
+    }
+    return values;
+}
+
+class RecordModelTest : public TableFixture {
+protected:
+    RecordModelTest() { state.group.clear(); }
+
+    /// Six cameras in the states that a row can show.
+    void bringCamerasIntoUse() {
+        for (const DOCKEY key : {1, 2, 3, 4, 5, 7}) {
+            change(key, {{"connected", true}});
+        }
+        change(1, {{"lowLight", true}, {"reduce", true}, {"triggerMode", zeb::TriggerManual}});
+        change(2, {{"locked", true}, {"selected", true}, {"status", zeb::CameraRecReady}});
+        change(3, {{"selected", true}, {"status", zeb::CameraTriggerReady}, {"lowLightType", 3}});
+        change(4, {{"status", 16},
+                   {"rate", 750},
+                   {"shutter", 333},
+                   {"resolution", QVariantList{100, 100}},
+                   {"triggerMode", zeb::TriggerRandomManual}});
+        change(5, {{"status", zeb::CameraRecording}});
+        change(7, {{"status", zeb::CameraEndlessReady}});
+        change(8, {{"mobile", true}});
+    }
+
+    QString records(const char* request) { return model.getRecords(QString::fromUtf8(request)).json; }
+
+    TableState state;
+    RecordModel model{host, state};
+};
+
+TEST_F(RecordModelTest, showsEachTabAndModeAsTheCamerasAre) {
+    bringCamerasIntoUse();
+    expectJson(records(R"({"group":"","filter":0,"tab":1})"), toText(expected("livecontrol")));
+    expectJson(records(R"({"group":"","filter":0,"tab":0})"), toText(expected("camerainfo")));
+    host.appStatus().enterMemoryMode();
+    expectJson(records(R"({"group":"","filter":0,"tab":0})"), toText(expected("memory")));
+    expectJson(records(R"({"group":"","filter":0,"tab":1})"), toText(expected("memory")));
+    host.appStatus().enterMode(zeb::FileMode);
+    expectJson(records(R"({"group":"","filter":0,"tab":1})"), R"({"records":[],"batch":[]})");
+}
+
+TEST_F(RecordModelTest, filtersRowsAndNumbersThemAnew) {
+    bringCamerasIntoUse();
+    const struct {
+        const char* request;
+        QStringList keys;
+        int filter;
+    } cases[] = {
+        {R"({"group":"","filter":1,"tab":1})", {"1", "2", "3", "4", "5", "7"}, 1},
+        {R"({"group":"","filter":2,"tab":1})", {"6", "8"}, 2},
+        {R"({"group":"","filter":9,"tab":1})", {"1", "2", "3", "4", "5", "6", "7", "8"}, 9},
+    };
+    for (const auto& each : cases) {
+        SCOPED_TRACE(each.request);
+        state.batchDocKey = zeb::NoDocKey;
+        QJsonObject answer = only(expected("livecontrol"), each.keys);
+        if (each.filter == 2) {
+            // Nothing that is listed is selected: the batch row has nothing to copy.
+            QJsonObject batch = answer.value("batch").toArray().first().toObject();
+            for (const char* copied : {"connected", "mobileSelected", "selected", "current", "lock",
+                                       "reduceModeSupported", "reduceMode", "lowLightModeSupported", "lowLightMode",
+                                       "lowLightType", "frameRate", "shutterSpeed", "resolution", "triggerMode"}) {
+                batch.remove(QLatin1String(copied));
+            }
+            for (const char* list : {"frameRates", "shutterSpeeds", "resolutions", "triggerModes"}) {
+                batch.insert(QLatin1String(list), QJsonArray());
+            }
+            answer.insert("batch", QJsonArray{batch});
+        }
+        expectJson(records(each.request), toText(answer));
+        EXPECT_EQ(host.getPrefInt("wren/table/filter"), each.filter);
+    }
+}
+
+TEST_F(RecordModelTest, takesAMalformedRequestForAnEmptyOne) {
+    bringCamerasIntoUse();
+    for (const char* request : {"", "{", "[]", R"({"group":7,"filter":"2","tab":null})"}) {
+        SCOPED_TRACE(request);
+        expectJson(records(request), toText(expected("camerainfo")));
+        EXPECT_EQ(state.group, QString());
+    }
+}
+
+TEST_F(RecordModelTest, withoutCamerasIsABatchRowOfEmptyLists) {
+    for (DOCKEY key = 1; key <= 8; ++key) {
+        host.faults().plant(key, "*", {{}, 0, true});
+    }
+    expectJson(records(R"({"tab":1})"),
+               R"({"records":[],"batch":[{"recid":-1,"key":-1,"cameraName":"All camera","alert":[],"recordCount":0,
+                   "frameRates":[],"shutterSpeeds":[],"resolutions":[],"triggerModes":[],"cameraStatus":"",
+                   "syncStatus":"","ipAddress":"","comment":"","comments":"","externalSync":"","triggerIn":"",
+                   "triggerSwIn":"","irigTimeStamp":"","irigSync":"","irigSupported":false,"plugins":[]}]})");
+}
+
+TEST_F(RecordModelTest, batchRowCopiesTheChosenCameraElseTheLastSelected) {
+    bringCamerasIntoUse();
+    const auto source = [this](DOCKEY chosen, const char* request) {
+        state.batchDocKey = chosen;
+        records(request);
+        return state.batchDocKey;
+    };
+    EXPECT_EQ(source(7, R"({"tab":1})"), 7U) << "the chosen one need not be selected";
+    EXPECT_EQ(source(6, R"({"tab":1,"filter":1})"), 3U) << "the chosen one is not listed";
+    EXPECT_EQ(source(3, R"({"tab":1,"filter":2})"), 3U) << "nothing listed is selected: it is kept";
+}
+
+TEST_F(RecordModelTest, changeOfGroupSelectsTheGroupAndNothingElse) {
+    bringCamerasIntoUse();
+    change(8, {{"selected", true}});
+    change(1, {{"selected", true}});
+    state.groups = {{"Nozzles", {"192.168.0.13"}}, {"Front", {"192.168.0.11", "192.168.0.12"}}};
+    calls();
+
+    RecordModel::Answer answer = model.getRecords(R"({"group":"Nozzles","tab":0})");
+    EXPECT_TRUE(answer.selectionChanged);
+    EXPECT_EQ(keysOf(answer.json), (QStringList{"3", "4"}));
+    EXPECT_TRUE(row(answer.json, 1).value("selected").toBool());
+    // The mobile camera 8 keeps its selection.
+    EXPECT_EQ(calls(),
+              (QStringList{R"(ZebHost::setPrefString ["wren/table/group","Nozzles"])", "ZebDocManager::deselectDoc [1]",
+                           "ZebDocManager::deselectDoc [2]", "ZebDocManager::selectDoc [4]"}));
+
+    answer = model.getRecords(R"({"group":"Nozzles","tab":0})");
+    EXPECT_FALSE(answer.selectionChanged);
+    EXPECT_EQ(calls(), QStringList());
+
+    answer = model.getRecords(R"({"group":"Nobody","tab":0})");
+    EXPECT_EQ(keysOf(answer.json), QStringList());
+    EXPECT_EQ(calls(), (QStringList{R"(ZebHost::setPrefString ["wren/table/group","Nobody"])",
+                                    "ZebDocManager::deselectDoc [3]", "ZebDocManager::deselectDoc [4]"}));
+}
+
+TEST_F(RecordModelTest, nothingIsDeselectedWhileRecordingOrWhenTheHostKeepsItsSelection) {
+    bringCamerasIntoUse();
+    state.groups = {{"Nozzles", {"192.168.0.13"}}};
+    const QStringList selectsOnly{R"(ZebHost::setPrefString ["wren/table/group","Nozzles"])",
+                                  "ZebDocManager::selectDoc [4]"};
+    calls();
+    state.recordRunning = true;
+    EXPECT_TRUE(model.getRecords(R"({"group":"Nozzles"})").selectionChanged);
+    EXPECT_EQ(calls(), selectsOnly);
+
+    state.recordRunning = false;
+    state.group.clear();
+    change(4, {{"selected", false}});
+    host.flags().set("IsSelectionKept", true);
+    model.getRecords(R"({"group":"Nozzles"})");
+    EXPECT_EQ(calls(), selectsOnly);
+}
+
+TEST_F(RecordModelTest, firstListAfterOpeningSelectsEveryCamera) {
+    state.group = QLatin1String(UnreadGroup);
+    EXPECT_FALSE(model.getRecords(R"({"group":"","filter":1})").selectionChanged) << "none is listed";
+    state.group = QLatin1String(UnreadGroup);
+    change(2, {{"connected", true}});
+    EXPECT_TRUE(model.getRecords(R"({"group":""})").selectionChanged);
+    EXPECT_TRUE(stateOf(2, "selected").toBool());
+}
+
+TEST_F(RecordModelTest, defaultSettingsLimitWhatIsOffered) {
+    connectAll();
+    state.allowed = {{"300", "1000", "2000"}, {"50", "70"}, {"512 x 512"}};
+    QJsonObject gate = row(records(R"({"tab":1})"), 0);
+    EXPECT_EQ(valuesOf(gate.value("frameRates")), (QStringList{"300", "1000", "2000"}));
+    EXPECT_EQ(gate.value("frameRate"), "1000");
+    EXPECT_EQ(valuesOf(gate.value("shutterSpeeds")), (QStringList{"50", "70"}));
+    EXPECT_EQ(gate.value("shutterSpeed"), "");
+    EXPECT_EQ(gate.value("resolutions"), (QJsonArray{"512 x 512"}));
+    EXPECT_EQ(gate.value("resolution"), "");
+
+    // By exposure time: 1/50 s is in the camera's list, 1/70 s is not and is divided and cut.
+    host.setPrefInt("display/ShutterSpeed", zeb::ShutterDisplaySecondList);
+    gate = row(records(R"({"tab":1})"), 0);
+    EXPECT_EQ(gate.value("shutterSpeeds"), (QJsonArray{QJsonObject{{"name", "20 ms"}, {"value", "20000000"}},
+                                                       QJsonObject{{"name", "14.2857 ms"}, {"value", "14285714"}}}));
+
+    change(1, {{"lowLight", true}});
+    gate = row(records(R"({"tab":1})"), 0);
+    EXPECT_EQ(gate.value("frameRates").toArray().size(), 13) << "in low light the camera's own lists stand";
+    EXPECT_EQ(gate.value("shutterSpeeds").toArray().size(), 16);
+    EXPECT_EQ(gate.value("resolutions").toArray().size(), 5);
+}
+
+TEST_F(RecordModelTest, ratesFollowTheSyncSignal) {
+    connectAll();
+    state.allowed.frameRates = QStringList{"0", "250", "300", "1000", "2000"};
+    state.syncFrequency = 1000;
+    const auto offered = [this] { return valuesOf(row(records(R"({"tab":1})"), 0).value("frameRates")); };
+    EXPECT_EQ(offered().size(), 5) << "without the settings all rates stay";
+    host.setPrefBool("wren/settings/deviceSpeedPlaying", true);
+    host.setPrefBool("wren/settings/syncInEnable", true);
+    EXPECT_EQ(offered(), (QStringList{"250", "1000", "2000"}));
+    state.allowed.frameRates = QStringList{"300"};
+    EXPECT_EQ(offered(), QStringList{"1000"}) << "the current rate stands in for an empty list";
+}
+
+TEST_F(RecordModelTest, askedForItsStateItNamesIt) {
+    connectAll();
+    EXPECT_EQ(model.getRecStatus(), R"({"recStatus":0,"recStatusLabel":"Record"})");
+    const std::pair<const char*, const char*> cases[] = {
+        {"IsCTSReady", R"({"recStatus":1,"recStatusLabel":"Waiting For CTS Signal"})"},
+        {"IsReady", R"({"recStatus":2,"recStatusLabel":"Ready"})"},
+        {"IsRecording", R"({"recStatus":3,"recStatusLabel":"Recording..."})"},
+        {"IsRecordingError", R"({"recStatus":4,"recStatusLabel":"Error"})"}};
+    for (const auto& [flag, status] : cases) {
+        host.flags().set(flag, true);
+        EXPECT_EQ(model.getRecStatus(), status);
+        host.flags().set(flag, false);
+    }
+    host.appStatus().enterMemoryMode();
+    EXPECT_EQ(model.getRecStatus(), "{}");
+    EXPECT_EQ(model.getFilter(), 0);
+    host.appStatus().enterMode(zeb::FileMode);
+    EXPECT_EQ(model.getFilter(), -1);
+}
+
+TEST_F(RecordModelTest, listsGroupsAndFindsTheOneToShow) {
+    EXPECT_EQ(model.getGroups(), "[]");
+    EXPECT_EQ(model.getGroup(), "");
+    state.groups = {{"A", {}}, {"B", {}}};
+    EXPECT_EQ(model.getGroups(), R"([{"key":"A","name":"A"},{"key":"B","name":"B"},{"key":"","name":"All Group"}])");
+    const struct {
+        const char* sentence;
+        const char* held;
+        const char* stored;
+        const char* shown;
+    } cases[] = {{"the held one", "B", "A", "B"},
+                 {"not read yet: the stored one", "*", "B", "B"},
+                 {"never stored: the first", "*", "*", "A"},
+                 {"all groups", "", "B", ""},
+                 {"one that is no more: the first", "C", "B", "A"}};
+    for (const auto& each : cases) {
+        EXPECT_EQ(groupToShow(each.held, each.stored, state.groups), each.shown) << each.sentence;
+    }
+    EXPECT_EQ(groupToShow("C", "B", {}), "C") << "without groups nothing is looked up";
+}
+
+TEST_F(RecordModelTest, reduceModeIsSuspendedForOneOrForAny) {
+    change(5, {{"suspendReduce", true}});
+    EXPECT_TRUE(model.isSuspendReduceMode(5));
+    EXPECT_FALSE(model.isSuspendReduceMode(4));
+    EXPECT_FALSE(model.isSuspendReduceMode(99));
+    EXPECT_TRUE(model.isSuspendReduceMode(zeb::NoDocKey));
+}
+
+}  // namespace

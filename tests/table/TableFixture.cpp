@@ -1,0 +1,65 @@
+#include "TableFixture.h"
+
+#include "camera/Camera.h"
+#include "camera/Rig.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+#include <utility>
+
+Answer ScriptedDesk::show(const Message& message) {
+    shown.append(message.text);
+    if (const auto work = std::exchange(whileStanding, nullptr)) {
+        work();
+    }
+    Answer answer;
+    answer.accepted = answers.isEmpty() || answers.takeFirst();
+    return answer;
+}
+
+TableFixture::TableFixture() {
+    host.setRig(Rig::fromFile(QStringLiteral("eight-mixed")));
+}
+
+void TableFixture::connectAll() {
+    for (Camera* camera : host.cameras().all()) {
+        camera->change({{QStringLiteral("connected"), true}});
+    }
+}
+
+void TableFixture::change(DOCKEY key, const QVariantMap& members) {
+    host.cameras().find(key)->change(members);
+}
+
+QVariant TableFixture::stateOf(DOCKEY key, const char* member) {
+    return host.cameras().find(key)->state().toPlain().value(QLatin1String(member));
+}
+
+QStringList TableFixture::calls() {
+    QStringList texts;
+    for (const QVariant& entry : host.journal().since(m_mark)) {
+        const QVariantMap call = entry.toMap();
+        const QString name = call.value(QStringLiteral("call")).toString();
+        if (name != QLatin1String("ZebHost::updateUI")) {
+            texts.append(name % QLatin1Char(' ') % text(call.value(QStringLiteral("args"))));
+        }
+    }
+    m_mark = host.journal().count();
+    return texts;
+}
+
+QString TableFixture::text(const QVariant& value) {
+    return QString::fromUtf8(QJsonDocument(QJsonArray::fromVariantList(value.toList())).toJson(QJsonDocument::Compact));
+}
+
+void expectJson(const QString& actual, const QString& expected) {
+    const auto lines = [](const QString& json) {
+        QJsonParseError error;
+        const QJsonDocument document = QJsonDocument::fromJson(json.toUtf8(), &error);
+        EXPECT_EQ(error.error, QJsonParseError::NoError) << json.toStdString();
+        return document.toJson().toStdString();
+    };
+    EXPECT_EQ(lines(actual), lines(expected));
+}
