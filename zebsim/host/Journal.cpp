@@ -16,7 +16,7 @@ void Journal::record(const char* call, const QVariantList& args) {
     Q_EMIT recorded(name, args);
 }
 
-QVariantList Journal::keyList(const DocKeyList& keys) {
+QVariant Journal::keyList(const DocKeyList& keys) {
     QVariantList list;
     for (const DOCKEY key : keys) {
         list.append(key);

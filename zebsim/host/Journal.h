@@ -22,7 +22,7 @@ public:
     void record(const char* call, const QVariantList& args = {});
 
     /// Keys as an argument.
-    static QVariantList keyList(const DocKeyList& keys);
+    static QVariant keyList(const DocKeyList& keys);
 
     /// On at first.
     void setEnabled(bool enabled);
