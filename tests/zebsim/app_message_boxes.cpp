@@ -1,0 +1,139 @@
+#include "BoxText.h"
+#include "MessageBoxes.h"
+#include "ScenarioDialogs.h"
+#include "support/TestHost.h"
+
+#include <QCheckBox>
+#include <QLabel>
+#include <QMessageBox>
+#include <QSignalSpy>
+#include <QTest>
+
+#include <gmock/gmock.h>
+
+namespace {
+
+class Boxes : public testing::Test {
+protected:
+    Boxes() { boxes.setHost(&test.host); }
+
+    Message message(Message::Kind kind, const QString& text, const ButtonTexts& buttons = {}) const {
+        Message wanted;
+        wanted.kind = kind;
+        wanted.text = text;
+        wanted.buttons = buttons;
+        return wanted;
+    }
+    std::string shown() {
+        QStringList lines;
+        for (const QVariant& box : dialogs.takeMessages()) {
+            const QVariantMap map = box.toMap();
+            lines << map.value("kind").toString() + "|" + map.value("text").toString() + "|" +
+                         map.value("answer").toString();
+        }
+        return lines.join("; ").toStdString();
+    }
+
+    /// Runs while a box stands, before it is answered.
+    void onStanding(std::function<void(QMessageBox&)> look) {
+        QObject::connect(&watcher, &ModalWatcher::stands,
+                         [look](QDialog* dialog) { look(*qobject_cast<QMessageBox*>(dialog)); });
+    }
+
+    TestHost test;
+    MessageBoxes boxes;
+    ScenarioDialogs dialogs;
+    ModalWatcher watcher;
+};
+
+TEST_F(Boxes, AreAcceptedUnlessAnAnswerWasQueued) {
+    EXPECT_TRUE(boxes.show(message(Message::Warn, "w")).accepted);
+    EXPECT_TRUE(boxes.show(message(Message::Confirm, "c")).accepted);
+    dialogs.queueAnswers({"cancel", "OK", "later", "No"});
+    EXPECT_FALSE(boxes.show(message(Message::Confirm, "c")).accepted);
+    EXPECT_TRUE(boxes.show(message(Message::Confirm, "c")).accepted);
+    const ButtonTexts named = {{QMessageBox::Ok, "Now"}, {QMessageBox::Cancel, "Later"}};
+    EXPECT_FALSE(boxes.show(message(Message::Confirm, "c", named)).accepted);
+    const ButtonTexts yesNo = {{QMessageBox::Yes, "Yes"}, {QMessageBox::No, "No"}};
+    EXPECT_FALSE(boxes.show(message(Message::Confirm, "c", yesNo)).accepted);
+    EXPECT_EQ(shown(), "warn|w|OK; confirm|c|OK; confirm|c|Cancel; confirm|c|OK; confirm|c|Later; confirm|c|No");
+}
+
+TEST_F(Boxes, SayWhenTheyHaveNoButtonOfTheAnswer) {
+    QSignalSpy unanswerable(&dialogs, &ScenarioDialogs::unanswerable);
+    dialogs.queueAnswers({"perhaps"});
+    EXPECT_TRUE(boxes.show(message(Message::Confirm, "Erase?")).accepted);
+    ASSERT_EQ(unanswerable.count(), 1);
+    EXPECT_EQ(unanswerable.at(0).at(0).toString(), "the box \"Erase?\" has no button \"perhaps\"");
+}
+
+TEST_F(Boxes, ShowMarkupAsItStandsAndFitTheScreen) {
+    const QString hostile = QStringLiteral("<img src=x onerror=alert(1)>&amp;\"'\n日本 ");
+    for (const int tail : {200, 4096}) {
+        const QString text = hostile + QString(tail, 'x');
+        QString label;
+        QString details;
+        QSize size;
+        onStanding([&](QMessageBox& box) {
+            const auto* shownText = box.findChild<QLabel*>("qt_msgbox_label");
+            EXPECT_EQ(shownText->textFormat(), Qt::PlainText);
+            label = shownText->text().remove(QChar(0x200B));
+            details = box.detailedText();
+            size = box.size();
+        });
+        boxes.show(message(Message::Error, text));
+        EXPECT_TRUE(label.startsWith(hostile) && (label == text || details == text)) << label.toStdString();
+        EXPECT_EQ(shown(), "error|" + text.toStdString() + "|OK");
+        EXPECT_TRUE(size.width() < 1000 && size.height() < 700) << size.width() << "x" << size.height();
+    }
+}
+
+TEST_F(Boxes, FitALongListBehindDetails) {
+    QStringList many;
+    for (int i = 0; i < 256; ++i) many << QStringLiteral("Camera %1: no answer").arg(i);
+    Message tall = message(Message::Alert, "Failed");
+    tall.list = many;
+    QString details;
+    onStanding([&](QMessageBox& box) {
+        details = box.detailedText();
+        EXPECT_LT(box.height(), 700);
+    });
+    boxes.show(tall);
+    EXPECT_EQ(details, "Failed\n" + many.join('\n'));
+    EXPECT_EQ(shown(), "alert|Failed\n" + many.join("\n").toStdString() + "|OK");
+}
+
+TEST_F(Boxes, TellWhenTheyAreNotToComeAgain) {
+    Message silent = message(Message::Confirm, "Again?");
+    silent.offersSilence = true;
+    EXPECT_FALSE(boxes.show(silent).silenced);
+    onStanding([](QMessageBox& box) { box.checkBox()->click(); });
+    EXPECT_TRUE(boxes.show(silent).silenced);
+}
+
+TEST_F(Boxes, AreRejectedWhileTheHostCloses) {
+    onStanding([&](QMessageBox&) { boxes.rejectAll(); });
+    EXPECT_FALSE(boxes.show(message(Message::Confirm, "standing")).accepted);
+    EXPECT_FALSE(boxes.show(message(Message::Confirm, "to come")).accepted);
+}
+
+TEST(EarlyMessages, WaitForTheHost) {
+    MessageBoxes boxes;
+    ScenarioDialogs dialogs;
+    Message early;
+    early.text = "damaged";
+    EXPECT_TRUE(boxes.show(early).accepted);
+    EXPECT_TRUE(dialogs.takeMessages().isEmpty());
+    TestHost test;
+    QWidget window;
+    test.host.setMainWindow(&window);
+    boxes.setHost(&test.host);
+    QVariantList shown;
+    ASSERT_TRUE(QTest::qWaitFor([&] {
+        shown += dialogs.takeMessages();
+        return !shown.isEmpty();
+    }));
+    EXPECT_EQ(shown.at(0).toMap().value("text").toString(), "damaged");
+}
+
+}  // namespace

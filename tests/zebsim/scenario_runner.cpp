@@ -1,0 +1,122 @@
+#include "CommandLine.h"
+#include "ScenarioRunner.h"
+#include "Simulator.h"
+#include "ViewerWindow.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <gmock/gmock.h>
+
+namespace {
+
+using testing::AllOf;
+using testing::HasSubstr;
+
+struct Outcome {
+    int status;
+    std::string output;
+    std::string errors;
+};
+
+class Runner : public testing::Test {
+protected:
+    Outcome run(const char* script, int timeout = 60) {
+        QFile file(folder.filePath("my.js"));
+        file.open(QIODevice::WriteOnly);
+        file.write(script);
+        file.close();
+        testing::internal::CaptureStdout();
+        testing::internal::CaptureStderr();
+        const int status = ScenarioRunner(simulator, timeout).run(file.fileName());
+        return {status, testing::internal::GetCapturedStdout(), testing::internal::GetCapturedStderr()};
+    }
+
+    QTemporaryDir folder;
+    CommandLine line = CommandLine::parse({"zebsim", "--rig", "3", "--prefs", folder.filePath("p.ini")});
+    Simulator simulator{line};
+};
+
+TEST_F(Runner, TellsByItsStatusWhetherAllChecksHeld) {
+    const Outcome good = run("print('hello'); print([1, {a: 'x'}]); check(1 < 2, 'small');");
+    EXPECT_EQ(good.status, 0);
+    EXPECT_EQ(good.output, "hello\n[1,{\"a\":\"x\"}]\nok: small\n");
+    const Outcome bad = run("\nfunction f(x) {\n  check(x, 'held');\n}\nf(0);\ncheck(true, 'after');\n");
+    EXPECT_EQ(bad.status, 1);
+    EXPECT_THAT(bad.output, AllOf(HasSubstr("my.js:3: held"), HasSubstr("ok: after")));
+}
+
+TEST_F(Runner, PrintsTheLineOfAScriptThatThrows) {
+    struct Case {
+        const char* script;
+        const char* words;
+    };
+    for (const Case& c :
+         {Case{"var a;\n\na.b.c;", "my.js:3: TypeError"}, Case{"\nthrow new Error('mine');", "my.js:2: Error: mine"},
+          Case{"throw 'bare text'", "bare text"}, Case{"\nlet x = = 3;", "my.js:2: SyntaxError"},
+          Case{"\nzeb.page('1')", "my.js:2: Error: the table was never open"},
+          Case{"\nzeb.open()", "my.js:2: Error: no plug-in is loaded"},
+          Case{"zeb.mode('night')", "live, memory and file, not \"night\""},
+          Case{"zeb.status('IsWarm', true)", "no state \"IsWarm\""},
+          Case{"zeb.setCamera(1, {colour: 3})", "camera 1, colour"}, Case{"zeb.setCamera(9, {rate: 3})", "no camera 9"},
+          Case{"zeb.fault(1, '*', {angry: true})", "not angry"}, Case{"zeb.rig('none.json')", "none.json"},
+          Case{"zeb.speed(0)", "above 0"}, Case{"zeb.modal('text')", "takes a function"},
+          Case{"zeb.signal('signalRecord')", "no plug-in"}}) {
+        const Outcome outcome = run(c.script);
+        EXPECT_EQ(outcome.status, 1) << c.script;
+        EXPECT_THAT(outcome.errors, HasSubstr(c.words)) << c.script;
+    }
+    EXPECT_EQ(ScenarioRunner(simulator, 1).run(folder.filePath("missing.js")), 1);
+}
+
+TEST_F(Runner, EndsAScriptThatHangs) {
+    for (const char* script :
+         {"while (true) {}", "zeb.wait(1e9); print('on')", "while (true) { try { zeb.wait(1e9) } catch (e) {} }"}) {
+        const Outcome outcome = run(script, 1);
+        EXPECT_EQ(outcome.status, 1) << script;
+        EXPECT_EQ(outcome.output, "") << script;
+        EXPECT_THAT(outcome.errors, HasSubstr("more than 1 seconds")) << script;
+    }
+}
+
+TEST_F(Runner, ShowsAndChangesTheCameras) {
+    const Outcome outcome = run(R"js(
+        check(zeb.keys().join() === '1,2,3', 'the rig of the command line');
+        zeb.rig(2);
+        check(zeb.keys().length === 2, 'another rig');
+        check(zeb.camera(1).name === 'Camera 1' && zeb.camera(1).connected === false, 'a camera as plain data');
+        zeb.setCamera(2, {name: '<b>', connected: true, resolution: [640, 480]});
+        check(zeb.camera(2).name === '<b>' && zeb.camera(2).resolution[1] === 480, 'changed');
+        zeb.fault(1, '*', {gone: true});
+        check(zeb.keys().join() === '2' && zeb.camera(1) === null, 'gone');
+        zeb.fault(1, '*', {});
+        check(zeb.keys().length === 2, 'back');
+        zeb.setPref('my/key', 7);
+        check(zeb.pref('my/key') === 7 && zeb.pref('no/key') === undefined, 'preferences');
+        zeb.mode('memory');
+        check(zeb.mode() === 'memory', 'mode');
+        zeb.status('IsSaving', true);
+        check(zeb.messages().length === 0 && zeb.calls().length === 0, 'nothing was shown or called');
+    )js");
+    EXPECT_EQ(outcome.status, 0) << outcome.output << outcome.errors;
+    EXPECT_TRUE(simulator.host().saver().isSaving());
+}
+
+TEST_F(Runner, LetsTheHostsTimePass) {
+    const qint64 start = simulator.clock().now();
+    EXPECT_EQ(run("zeb.speed(1000); zeb.wait(20000);").status, 0);
+    EXPECT_GE(simulator.clock().now() - start, 20000);
+}
+
+TEST_F(Runner, FindsRigFilesBesideTheScript) {
+    QFile rig(folder.filePath("near.json"));
+    rig.open(QIODevice::WriteOnly);
+    QFile shipped(":/zebsim/rigs/one.json");
+    ASSERT_TRUE(shipped.open(QIODevice::ReadOnly));
+    rig.write(shipped.readAll());
+    rig.close();
+    EXPECT_EQ(run("zeb.rig('near.json'); check(zeb.keys().length === 1, 'one');").status, 0);
+    EXPECT_EQ(run("zeb.rig('eight-mixed'); check(zeb.keys().length === 8, 'eight');").status, 0);
+}
+
+}  // namespace

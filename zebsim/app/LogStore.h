@@ -1,0 +1,38 @@
+#pragma once
+
+#include <QObject>
+#include <QStringList>
+
+#include <deque>
+#include <mutex>
+
+/// The application's log: what goes through Qt's message logger while this lives. Any thread.
+///
+/// Warnings and failures also go to stderr.
+class LogStore : public QObject {
+    Q_OBJECT
+
+public:
+    /// Lines that are kept; older ones are forgotten.
+    static constexpr int Capacity = 50000;
+
+    LogStore();
+    ~LogStore() override;
+
+    /// Number of lines ever added; a mark for `since`.
+    quint64 count() const;
+    /// The lines after the mark, as they were logged.
+    QStringList since(quint64 mark) const;
+
+Q_SIGNALS:
+    /// `prefixed` is the line with its time and level; raised on the thread that logged.
+    void added(const QString& prefixed);
+
+private:
+    static void handle(QtMsgType type, const QMessageLogContext& context, const QString& text);
+    void add(QtMsgType type, const QString& text);
+
+    mutable std::mutex m_mutex;
+    std::deque<QString> m_lines;
+    quint64 m_count = 0;
+};

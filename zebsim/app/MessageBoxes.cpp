@@ -1,0 +1,121 @@
+#include "MessageBoxes.h"
+
+#include "BoxText.h"
+#include "Style.h"
+#include "ZebHost.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QCheckBox>
+#include <QMessageBox>
+#include <QPointer>
+#include <QTimer>
+
+#include <utility>
+
+namespace {
+
+struct Looks {
+    QLatin1String kind;
+    QLatin1String title;
+    QMessageBox::Icon icon;
+};
+
+Looks looksOf(Message::Kind kind) {
+    switch (kind) {
+        case Message::Info:
+            return {QLatin1String("info"), QLatin1String("Information"), QMessageBox::Information};
+        case Message::Warn:
+            return {QLatin1String("warn"), QLatin1String("Warning"), QMessageBox::Warning};
+        case Message::Alert:
+            return {QLatin1String("alert"), QLatin1String("Alert"), QMessageBox::Critical};
+        case Message::Confirm:
+            return {QLatin1String("confirm"), QLatin1String("Confirmation"), QMessageBox::Question};
+        case Message::Error:
+            break;
+    }
+    return {QLatin1String("error"), QLatin1String("Error"), QMessageBox::Critical};
+}
+
+QMessageBox::StandardButtons buttonsOf(const Message& message) {
+    if (message.kind != Message::Confirm) return QMessageBox::Ok;
+    QMessageBox::StandardButtons buttons;
+    for (auto button = message.buttons.keyBegin(); button != message.buttons.keyEnd(); ++button)
+        buttons |= static_cast<QMessageBox::StandardButton>(*button);
+    // Texts for one of the usual buttons leave the other as it is.
+    if ((buttons & ~(QMessageBox::Ok | QMessageBox::Cancel)) == 0) buttons = QMessageBox::Ok | QMessageBox::Cancel;
+    return buttons;
+}
+
+}  // namespace
+
+void MessageBoxes::setHost(const ZebHost* host) {
+    m_host = host;
+    const QList<Message> early = std::exchange(m_early, {});
+    for (Message message : early) {
+        QTimer::singleShot(0, host->getMainWindow(), [this, message]() mutable {
+            message.parent = m_host->getMainWindow();
+            show(message);
+        });
+    }
+}
+
+void MessageBoxes::rejectAll() {
+    m_rejecting = true;
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    for (QWidget* window : windows) {
+        if (auto* box = qobject_cast<QMessageBox*>(window)) box->reject();
+    }
+}
+
+Answer MessageBoxes::show(const Message& message) {
+    if (m_rejecting) return {false, false};
+    if (m_host == nullptr) {
+        m_early << message;
+        return {};
+    }
+    // The box goes with its parent, which may be destroyed while it stands.
+    const QPointer<QMessageBox> box = makeBox(message);
+    box->exec();
+    if (box.isNull()) return {false, false};
+    const QAbstractButton* chosen = box->clickedButton();
+    const QMessageBox::ButtonRole role =
+        chosen ? box->buttonRole(const_cast<QAbstractButton*>(chosen)) : QMessageBox::RejectRole;
+    const Answer answer{role == QMessageBox::AcceptRole || role == QMessageBox::YesRole,
+                        box->checkBox() != nullptr && box->checkBox()->isChecked()};
+    delete box;
+    return answer;
+}
+
+QMessageBox* MessageBoxes::makeBox(const Message& message) const {
+    const Looks looks = looksOf(message.kind);
+    const QString whole = (QStringList(message.text) << message.list).join(QLatin1Char('\n'));
+    const BoxText text = fitIntoBox(whole);
+    auto* box = new QMessageBox(looks.icon, translated(looks.title), {}, buttonsOf(message), message.parent);
+    box->setTextFormat(Qt::PlainText);
+    box->setText(text.head);
+    if (text.cut) box->setDetailedText(whole);
+    box->setProperty(KindProperty, QString(looks.kind));
+    box->setProperty(TextProperty, whole);
+    nameButtons(*box, message.buttons);
+    if (message.offersSilence) box->setCheckBox(new QCheckBox(translated(QStringLiteral("Don't show again"))));
+    if (m_host != nullptr) applyMessageBoxStyle(*m_host, *box);
+    return box;
+}
+
+void MessageBoxes::nameButtons(QMessageBox& box, const ButtonTexts& texts) const {
+    const QList<QAbstractButton*> buttons = box.buttons();
+    for (QAbstractButton* button : buttons) {
+        const int standard = box.standardButton(button);
+        if (texts.contains(standard))
+            button->setText(texts.value(standard));
+        else if (standard == QMessageBox::Ok)
+            button->setText(translated(QStringLiteral("OK")));
+        else if (standard == QMessageBox::Cancel)
+            button->setText(translated(QStringLiteral("Cancel")));
+    }
+}
+
+QString MessageBoxes::translated(const QString& text) const {
+    return m_host->translate(text);
+}

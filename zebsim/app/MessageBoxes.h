@@ -1,0 +1,32 @@
+#pragma once
+
+#include "host/MessageDesk.h"
+
+class QMessageBox;
+class ZebHost;
+
+/// Shows the host's messages as message boxes.
+class MessageBoxes : public MessageDesk {
+public:
+    /// Name of a box's property that tells what kind of message it is: "info", "warn", "alert", "confirm" or "error".
+    static constexpr auto KindProperty = "messageKind";
+    /// Name of a box's property that holds the whole text, as it was before it was made to fit.
+    static constexpr auto TextProperty = "messageText";
+
+    /// Whose style and language the boxes have; must outlive the boxes. What was to be shown before comes now, from
+    /// the event loop.
+    void setHost(const ZebHost* host);
+    /// From now on no box is shown; those that stand and those to come are rejected.
+    void rejectAll();
+
+    Answer show(const Message& message) override;
+
+private:
+    QMessageBox* makeBox(const Message& message) const;
+    void nameButtons(QMessageBox& box, const ButtonTexts& texts) const;
+    QString translated(const QString& text) const;
+
+    const ZebHost* m_host = nullptr;
+    QList<Message> m_early;
+    bool m_rejecting = false;
+};

@@ -1,0 +1,68 @@
+#include "Simulator.h"
+
+#include "CameraDialog.h"
+#include "CommandLine.h"
+#include "HostPages.h"
+#include "ViewerWindow.h"
+#include "camera/Rig.h"
+#include "host/PluginLoader.h"
+#include "host/PluginSlot.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
+#include <QMdiArea>
+
+namespace {
+
+const QString FirstRig = QStringLiteral("eight-mixed");
+
+Rig rigOf(const CommandLine& line) {
+    if (line.cameraCount > 0) return Rig::standard(line.cameraCount);
+    return Rig::fromFile(line.rig.isEmpty() ? FirstRig : line.rig);
+}
+
+}  // namespace
+
+Simulator::Simulator(const CommandLine& line) : m_host((initHostPages(), m_clock), m_boxes, line.prefs) {
+    if (!line.language.isEmpty() && !m_host.setLanguage(line.language))
+        qWarning("There is no catalogue for the language %s.", qPrintable(line.language));
+    m_host.setRig(rigOf(line));
+    if (!line.style.isEmpty()) m_host.prefs().setValue(QStringLiteral("env/style"), line.style);
+    m_window = std::make_unique<ViewerWindow>(m_host, m_log);
+    m_host.setMainWindow(m_window.get());
+    m_boxes.setHost(&m_host);
+    m_host.setMdiWidget(m_window->mdiArea());
+    m_host.docManager().setEditor([this](Camera& camera) { CameraDialog(camera, m_window.get()).exec(); });
+    QObject::connect(m_window.get(), &ViewerWindow::closeAsked, m_window.get(), [this] { quit(); });
+    loadPlugin(line);
+}
+
+Simulator::~Simulator() {
+    beginClosing();
+    if (m_slot) m_slot->close();
+    m_window.reset();
+    m_slot.reset();
+    m_loader.reset();
+}
+
+void Simulator::quit() {
+    beginClosing();
+    QCoreApplication::quit();
+}
+
+void Simulator::beginClosing() {
+    m_host.flags().set(QStringLiteral("IsApplicationClosing"), true);
+    m_boxes.rejectAll();
+}
+
+void Simulator::loadPlugin(const CommandLine& line) {
+    const QString beside = QDir(QCoreApplication::applicationDirPath()).filePath(QStringLiteral("wren.zeb"));
+    if (line.plugin.isEmpty() && !QFileInfo::exists(beside)) {
+        qWarning("There is no plug-in at %s; the viewer runs without it.", qPrintable(beside));
+        return;
+    }
+    m_loader = std::make_unique<PluginLoader>(line.plugin.isEmpty() ? beside : line.plugin, m_host);
+    m_slot = std::make_unique<PluginSlot>(m_host, m_loader->plugin());
+    m_window->addPlugin(*m_slot);
+}

@@ -1,0 +1,46 @@
+#pragma once
+
+#include "LogStore.h"
+#include "MessageBoxes.h"
+#include "host/SimHost.h"
+#include "recording/RealClock.h"
+
+#include <memory>
+
+class PluginLoader;
+class PluginSlot;
+class ViewerWindow;
+struct CommandLine;
+
+/// The whole application behind its event loop: host, cameras, plug-in and window, made and closed down in order.
+class Simulator {
+public:
+    /// Throws `RigError` and `PluginError`.
+    explicit Simulator(const CommandLine& line);
+    /// Closes the plug-in's windows as at the end of the application, then takes everything apart.
+    ~Simulator();
+    Simulator(const Simulator&) = delete;
+    Simulator& operator=(const Simulator&) = delete;
+
+    LogStore& log() { return m_log; }
+    RealClock& clock() { return m_clock; }
+    SimHost& host() { return m_host; }
+    ViewerWindow& window() { return *m_window; }
+    /// Null when no plug-in was found.
+    PluginSlot* plugin() { return m_slot.get(); }
+
+    /// Ends the event loop, and the message boxes that stand.
+    void quit();
+
+private:
+    void beginClosing();
+    void loadPlugin(const CommandLine& line);
+
+    LogStore m_log;
+    RealClock m_clock;
+    MessageBoxes m_boxes;
+    SimHost m_host;
+    std::unique_ptr<PluginLoader> m_loader;
+    std::unique_ptr<PluginSlot> m_slot;
+    std::unique_ptr<ViewerWindow> m_window;
+};

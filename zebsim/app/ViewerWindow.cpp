@@ -1,0 +1,100 @@
+#include "ViewerWindow.h"
+
+#include "LogDock.h"
+#include "PluginButton.h"
+#include "Style.h"
+#include "camera/Camera.h"
+#include "host/SimHost.h"
+
+#include <QActionGroup>
+#include <QCloseEvent>
+#include <QLabel>
+#include <QMdiArea>
+#include <QStatusBar>
+#include <QToolBar>
+
+#include <algorithm>
+
+namespace {
+
+constexpr QSize FirstSize{1280, 800};
+const QString StyleKey = QStringLiteral("env/style");
+
+}  // namespace
+
+ViewerWindow::ViewerWindow(SimHost& host, const LogStore& log)
+    : m_host(host),
+      m_mdi(new QMdiArea(this)),
+      m_bar(addToolBar(tr("Tools"))),
+      m_modes(new QActionGroup(this)),
+      m_styles(new QActionGroup(this)),
+      m_cameras(new QLabel(this)) {
+    setWindowTitle(QStringLiteral("ZEB"));
+    resize(FirstSize);
+    setCentralWidget(m_mdi);
+    m_bar->setObjectName(QStringLiteral("tools"));
+    m_bar->setMovable(false);
+    addModeSwitch();
+    addStyleSwitch();
+    addDockWidget(Qt::BottomDockWidgetArea, new LogDock(log, host.journal(), this));
+    statusBar()->addWidget(m_cameras);
+    connect(&host.events(), &HostEvents::updateFinished, this, &ViewerWindow::refresh);
+    connect(&host.events(), &HostEvents::camerasReplaced, this, &ViewerWindow::refresh);
+    connect(&host.events(), &HostEvents::modeChanged, this, &ViewerWindow::refresh);
+    refresh();
+}
+
+void ViewerWindow::addPlugin(PluginSlot& slot) {
+    auto* first = m_bar->actions().value(0);
+    m_bar->insertWidget(first, new PluginButton(m_host, slot, m_bar));
+    m_bar->insertSeparator(first);
+}
+
+void ViewerWindow::addModeSwitch() {
+    const QStringList names = {tr("Live"), tr("Memory"), tr("File")};
+    for (int mode = zeb::LiveMode; mode <= zeb::FileMode; ++mode) {
+        QAction* action = addChoice(m_modes, names.at(mode), QStringLiteral("mode%1").arg(mode));
+        connect(action, &QAction::triggered, this, [this, mode] { m_host.appStatus().enterMode(mode); });
+    }
+    m_bar->addSeparator();
+}
+
+void ViewerWindow::addStyleSwitch() {
+    const QStringList styles = {QStringLiteral("light"), QStringLiteral("dark")};
+    const QStringList names = {tr("Light"), tr("Dark")};
+    for (int i = 0; i < styles.size(); ++i) {
+        QAction* action = addChoice(m_styles, names.at(i), styles.at(i));
+        connect(action, &QAction::triggered, this, [this, style = styles.at(i)] {
+            m_host.prefs().setValue(StyleKey, style);
+            m_host.updates().request();
+        });
+    }
+}
+
+QAction* ViewerWindow::addChoice(QActionGroup* group, const QString& text, const QString& name) {
+    QAction* action = group->addAction(text);
+    action->setObjectName(name);
+    action->setCheckable(true);
+    m_bar->addAction(action);
+    return action;
+}
+
+void ViewerWindow::refresh() {
+    const auto cameras = m_host.cameras().all();
+    const auto connected = std::count_if(cameras.begin(), cameras.end(),
+                                         [](const Camera* camera) { return camera->get(&CameraState::connected); });
+    m_cameras->setText(tr("%1 cameras, %2 connected").arg(cameras.size()).arg(connected));
+    m_modes->actions().at(m_host.getOperatingMode())->setChecked(true);
+    const QString style = styleName(m_host);
+    const QList<QAction*> styles = m_styles->actions();
+    for (QAction* action : styles) action->setChecked(action->objectName() == style);
+    if (property("style").toString() != style) {
+        setProperty("style", style);
+        applyNativeStyle(m_host, *this);
+    }
+}
+
+void ViewerWindow::closeEvent(QCloseEvent* event) {
+    event->ignore();
+    Q_EMIT closeAsked();
+}

@@ -1,0 +1,65 @@
+#include "CameraScripting.h"
+
+#include "ScenarioError.h"
+#include "camera/Camera.h"
+#include "camera/Rig.h"
+#include "host/SimHost.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+namespace {
+
+/// The fault that an object of a script describes.
+Fault faultOf(const QVariantMap& members) {
+    Fault fault;
+    for (auto member = members.begin(); member != members.end(); ++member) {
+        if (member.key() == QLatin1String("throws"))
+            fault.throws = member->toString();
+        else if (member.key() == QLatin1String("delay"))
+            fault.delay = member->toInt();
+        else if (member.key() == QLatin1String("gone"))
+            fault.gone = member->toBool();
+        else
+            throw ScenarioError(QStringLiteral("a fault has throws, delay or gone, not %1").arg(member.key()));
+    }
+    return fault;
+}
+
+}  // namespace
+
+CameraScripting::CameraScripting(SimHost& host, const QString& folder) : m_host(host), m_folder(folder) {}
+
+void CameraScripting::rig(const QJSValue& pathOrCount) {
+    if (pathOrCount.isNumber()) {
+        m_host.setRig(Rig::standard(pathOrCount.toInt()));
+        return;
+    }
+    const QString near = QDir(m_folder).filePath(pathOrCount.toString());
+    m_host.setRig(Rig::fromFile(QFileInfo(near).isFile() ? near : pathOrCount.toString()));
+}
+
+QVariantList CameraScripting::keys() const {
+    QVariantList list;
+    for (const Camera* camera : m_host.cameras().all()) list << camera->key();
+    return list;
+}
+
+QVariant CameraScripting::camera(unsigned int key) const {
+    const Camera* camera = m_host.cameras().find(key);
+    return camera ? QVariant(camera->state().toPlain()) : QVariant();
+}
+
+void CameraScripting::setCamera(unsigned int key, const QVariantMap& members) {
+    Camera* camera = m_host.cameras().find(key);
+    if (camera == nullptr) throw ScenarioError(QStringLiteral("there is no camera %1").arg(key));
+    try {
+        camera->change(members);
+    } catch (const CameraStateError& e) {
+        throw ScenarioError(QStringLiteral("camera %1, %2: %3").arg(key).arg(e.member, e.reason));
+    }
+}
+
+void CameraScripting::fault(unsigned int key, const QString& operation, const QVariantMap& fault) {
+    m_host.faults().plant(key, operation, faultOf(fault));
+}

@@ -1,0 +1,7 @@
+#pragma once
+
+#include <functional>
+
+/// Runs the event loop until `done`, looking again every few milliseconds. Returns at once when it already is.
+/// False when `givenUp` came first or the application quits. What either of them throws comes out of here.
+bool waitUntil(const std::function<bool()>& done, const std::function<bool()>& givenUp);

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QObject>
+#include <QPointer>
+
+#include <functional>
+
+class QDialog;
+
+/// Tells when a modal dialog stands. GUI thread.
+///
+/// A dialog stands when it is shown, runs its event loop, and the page that it may hold has loaded.
+class ModalWatcher : public QObject {
+    Q_OBJECT
+
+public:
+    explicit ModalWatcher(QObject* parent = nullptr);
+
+    /// The modal dialog that the user would have to answer now; null when there is none.
+    static QDialog* standing();
+
+    bool eventFilter(QObject* object, QEvent* event) override;
+
+Q_SIGNALS:
+    /// Emitted inside the event loop of `dialog`, once each time it is shown.
+    void stands(QDialog* dialog);
+
+private:
+    void lookAt(const QPointer<QDialog>& dialog);
+};

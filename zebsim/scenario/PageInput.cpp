@@ -1,0 +1,133 @@
+#include "PageInput.h"
+
+#include "EventWait.h"
+#include "PageScript.h"
+#include "ScenarioError.h"
+
+#include <QElapsedTimer>
+#include <QJsonObject>
+#include <QTest>
+#include <QWebView>
+#include <QWindow>
+
+#include <utility>
+
+namespace {
+
+// A table takes up a column only when the button has been held for a moment.
+constexpr int DragHoldMs = 400;
+constexpr int DragSteps = 8;
+
+// Looks for an element as a person with a mouse does. Answers {x, y} of its middle; {again: true} when something was
+// scrolled and the page has to be looked at anew; or {fault: text}. What is not there is searched for: step 1
+// scrolls everything to its top, each further step one screen down, for a table has elements for its visible rows
+// only.
+const QString Look = QStringLiteral(R"js((function (selector, step) {
+    function boxes() {
+        return Array.prototype.filter.call(document.querySelectorAll('body *'), function (box) {
+            var overflow = getComputedStyle(box).overflowY;
+            return (overflow === 'auto' || overflow === 'scroll') && box.scrollHeight > box.clientHeight + 1;
+        });
+    }
+    function search() {
+        return boxes().filter(function (box) {
+            var before = box.scrollTop;
+            box.scrollTop = step === 1 ? 0 : before + box.clientHeight;
+            return step === 1 || box.scrollTop !== before;
+        }).length > 0;
+    }
+    function describe(element) {
+        return element ? element.tagName.toLowerCase() + (element.id ? '#' + element.id : '') : 'nothing';
+    }
+    var element = document.querySelector(selector);
+    if (!element) {
+        return step === 0 || search() ? {again: true} : {fault: 'there is no such element'};
+    }
+    var rect = element.getBoundingClientRect();
+    if (rect.width === 0 || rect.height === 0) {
+        return {fault: 'the element is not shown'};
+    }
+    var x = Math.floor(rect.left + rect.width / 2), y = Math.floor(rect.top + rect.height / 2);
+    var hit = document.elementFromPoint(x, y);
+    var passes = getComputedStyle(element).pointerEvents === 'none';
+    if (hit && (element.contains(hit) || (passes && hit.contains(element)))) {
+        return {x: x, y: y};
+    }
+    element.scrollIntoViewIfNeeded(true);
+    var moved = element.getBoundingClientRect();
+    return moved.top !== rect.top || moved.left !== rect.left ? {again: true}
+        : {fault: 'the element lies under ' + describe(hit)};
+})(%1, %2))js");
+
+const QString StartTurn = QStringLiteral(
+    "window.zebTurned = false; setTimeout(function () { setTimeout(function () { window.zebTurned = true; }, 0); }, "
+    "0)");
+
+}  // namespace
+
+PageInput::PageInput(QWebView& page, std::function<bool()> stop) : view(page), givenUp(std::move(stop)) {}
+
+void PageInput::click(const QString& selector, const ClickOptions& options) {
+    const QPoint at = locate(selector);
+    QTest::mouseMove(&window(), at);
+    if (options.twice)
+        QTest::mouseDClick(&window(), options.button, options.modifiers, at);
+    else if (options.part == ClickOptions::PressOnly)
+        QTest::mousePress(&window(), options.button, options.modifiers, at);
+    else if (options.part == ClickOptions::ReleaseOnly)
+        QTest::mouseRelease(&window(), options.button, options.modifiers, at);
+    else
+        QTest::mouseClick(&window(), options.button, options.modifiers, at);
+}
+
+void PageInput::drag(const QString& from, const QString& to) {
+    const QPoint end = locate(to);
+    const QPoint start = locate(from);
+    QTest::mouseMove(&window(), start);
+    QTest::mousePress(&window(), Qt::LeftButton, {}, start);
+    QElapsedTimer held;
+    held.start();
+    waitUntil([&] { return held.elapsed() >= DragHoldMs; }, givenUp);
+    for (int step = 1; step <= DragSteps; ++step) QTest::mouseMove(&window(), start + (end - start) * step / DragSteps);
+    QTest::mouseRelease(&window(), Qt::LeftButton, {}, end);
+}
+
+QPoint PageInput::locate(const QString& selector) {
+    for (int step = 0;; ++step) {
+        const QString look = QString(Look)
+                                 .replace(QLatin1String("%1"), scriptString(selector))
+                                 .replace(QLatin1String("%2"), QString::number(step));
+        const QJsonObject seen = evaluateInPage(view, look).toObject();
+        if (seen.contains(QLatin1String("fault")))
+            throw ScenarioError(selector % QLatin1String(": ") % seen.value(QLatin1String("fault")).toString());
+        if (seen.contains(QLatin1String("x"))) {
+            const QPoint inView(seen.value(QLatin1String("x")).toInt(), seen.value(QLatin1String("y")).toInt());
+            return view.mapTo(view.window(), inView);
+        }
+        // A scroll reaches the page's handlers from its event loop, and they may draw what was looked for.
+        evaluateInPage(view, StartTurn);
+        const auto turned = [&] { return evaluateInPage(view, QStringLiteral("window.zebTurned")).toBool(); };
+        if (!waitUntil(turned, givenUp) || givenUp()) throw ScenarioError(selector % QStringLiteral(": given up"));
+    }
+}
+
+QWindow& PageInput::window() const {
+    QWindow* handle = view.window()->windowHandle();
+    if (handle == nullptr || !view.isVisible()) throw ScenarioError(QStringLiteral("the page is not on the screen"));
+    return *handle;
+}
+
+void typeText(QWindow& window, const QString& text) {
+    static const QHash<QChar, Qt::Key> keys = {{QLatin1Char('\n'), Qt::Key_Return},
+                                               {QLatin1Char('\t'), Qt::Key_Tab},
+                                               {QLatin1Char('\b'), Qt::Key_Backspace},
+                                               {QLatin1Char('\x1b'), Qt::Key_Escape}};
+    for (const QChar letter : text) {
+        if (keys.contains(letter))
+            QTest::keyClick(&window, keys.value(letter));
+        else if (letter.unicode() < 128)
+            QTest::keyClick(&window, letter.toLatin1());
+        else
+            QTest::sendKeyEvent(QTest::Click, &window, Qt::Key_unknown, QString(letter), Qt::NoModifier);
+    }
+}

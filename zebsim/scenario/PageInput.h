@@ -1,0 +1,43 @@
+#pragma once
+
+#include <QPoint>
+#include <QString>
+#include <Qt>
+
+#include <functional>
+
+class QWebView;
+class QWindow;
+
+/// How `PageInput::click` clicks.
+struct ClickOptions {
+    enum Part { Whole, PressOnly, ReleaseOnly };
+
+    Qt::MouseButton button = Qt::LeftButton;
+    Qt::KeyboardModifiers modifiers;
+    bool twice = false;
+    Part part = Whole;
+};
+
+/// Mouse and keys on a page as they come from the window system. Every operation throws `ScenarioError` when the
+/// element is not there, is not shown, or lies under something else.
+class PageInput {
+public:
+    /// `stop` ends a wait that would never end by itself.
+    PageInput(QWebView& page, std::function<bool()> stop);
+
+    void click(const QString& selector, const ClickOptions& options);
+    /// Presses on one element, holds, moves to the other and lets go there.
+    void drag(const QString& from, const QString& to);
+
+private:
+    /// Where the middle of the element lies in the window, after it was scrolled to.
+    QPoint locate(const QString& selector);
+    QWindow& window() const;
+
+    QWebView& view;
+    std::function<bool()> givenUp;
+};
+
+/// Types into the window; line feed, tab, backspace and escape characters are the keys of that name.
+void typeText(QWindow& window, const QString& text);

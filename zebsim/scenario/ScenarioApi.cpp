@@ -1,0 +1,216 @@
+#include "ScenarioApi.h"
+
+#include "EventWait.h"
+#include "HostSignal.h"
+#include "PageInput.h"
+#include "PageScript.h"
+#include "ScenarioError.h"
+#include "Simulator.h"
+#include "host/PluginSlot.h"
+
+#include <QJSEngine>
+
+#include <utility>
+
+namespace {
+
+const QStringList& modeNames() {
+    static const QStringList names = {QStringLiteral("live"), QStringLiteral("memory"), QStringLiteral("file")};
+    return names;
+}
+
+ClickOptions clickOptions(const QVariantMap& members) {
+    static const QStringList known = {QStringLiteral("ctrl"), QStringLiteral("shift"), QStringLiteral("double"),
+                                      QStringLiteral("right"), QStringLiteral("down")};
+    for (auto member = members.keyBegin(); member != members.keyEnd(); ++member) {
+        if (!known.contains(*member)) throw ScenarioError(QStringLiteral("a click has no option %1").arg(*member));
+    }
+    ClickOptions options;
+    options.modifiers.setFlag(Qt::ControlModifier, members.value(QStringLiteral("ctrl")).toBool());
+    options.modifiers.setFlag(Qt::ShiftModifier, members.value(QStringLiteral("shift")).toBool());
+    options.twice = members.value(QStringLiteral("double")).toBool();
+    if (members.value(QStringLiteral("right")).toBool()) options.button = Qt::RightButton;
+    const QVariant down = members.value(QStringLiteral("down"));
+    if (down.isValid()) options.part = down.toBool() ? ClickOptions::PressOnly : ClickOptions::ReleaseOnly;
+    return options;
+}
+
+}  // namespace
+
+ScenarioApi::ScenarioApi(QJSEngine& engine, Simulator& simulator, const QString& folder, std::function<bool()> stop)
+    : m_engine(engine),
+      m_simulator(simulator),
+      m_givenUp(std::move(stop)),
+      m_cameras(simulator.host(), folder),
+      m_table(simulator, m_givenUp),
+      m_logMark(simulator.log().count()),
+      m_callMark(simulator.host().journal().count()) {}
+
+template <typename Work>
+auto ScenarioApi::guarded(Work work) -> decltype(work()) {
+    try {
+        if (m_givenUp()) throw ScenarioError(QStringLiteral("the scenario has run for too long"));
+        return work();
+    } catch (const std::exception& e) {
+        m_engine.throwError(QString::fromUtf8(e.what()));
+    }
+    return decltype(work())();
+}
+
+QJSValue ScenarioApi::plain(const QVariant& value) {
+    return m_engine.toScriptValue(value);
+}
+
+void ScenarioApi::rig(const QJSValue& pathOrCount) {
+    guarded([&] {
+        m_cameras.rig(pathOrCount);
+        m_table.settle();
+    });
+}
+
+QJSValue ScenarioApi::keys() {
+    return guarded([&] { return plain(m_cameras.keys()); });
+}
+
+QJSValue ScenarioApi::camera(unsigned int key) {
+    return guarded([&] {
+        const QVariant state = m_cameras.camera(key);
+        return state.isValid() ? plain(state) : QJSValue(QJSValue::NullValue);
+    });
+}
+
+void ScenarioApi::setCamera(unsigned int key, const QVariantMap& members) {
+    guarded([&] { m_cameras.setCamera(key, members); });
+}
+
+void ScenarioApi::fault(unsigned int key, const QString& operation, const QVariantMap& fault) {
+    guarded([&] { m_cameras.fault(key, operation, fault); });
+}
+
+bool ScenarioApi::open() {
+    return guarded([&] { return m_table.open(); });
+}
+
+bool ScenarioApi::close() {
+    return guarded([&] { return m_table.close(); });
+}
+
+QJSValue ScenarioApi::page(const QString& text) {
+    return guarded([&] { return plain(m_table.page(text).toVariant()); });
+}
+
+QJSValue ScenarioApi::dialog(const QString& text) {
+    return guarded([&] {
+        const QVariant value = evaluateInPage(ScenarioDialogs::pageOfStanding(), text).toVariant();
+        m_table.settle();
+        return plain(value);
+    });
+}
+
+void ScenarioApi::click(const QString& selector, const QVariantMap& options) {
+    guarded([&] { m_table.click(selector, clickOptions(options)); });
+}
+
+void ScenarioApi::drag(const QString& from, const QString& to) {
+    guarded([&] { m_table.drag(from, to); });
+}
+
+void ScenarioApi::type(const QString& text) {
+    guarded([&] { m_table.type(text); });
+}
+
+void ScenarioApi::window(const QString& what) {
+    guarded([&] { m_table.window(what); });
+}
+
+QString ScenarioApi::shot(const QString& path) {
+    return guarded([&] { return m_table.shot(path); });
+}
+
+void ScenarioApi::wait(double ms) {
+    guarded([&] {
+        const qint64 end = m_simulator.clock().now() + qRound64(ms);
+        waitUntil([&] { return m_simulator.clock().now() >= end; }, m_givenUp);
+    });
+}
+
+bool ScenarioApi::until(const QString& text, double ms) {
+    return guarded([&] {
+        const qint64 end = m_simulator.clock().now() + qRound64(ms);
+        bool isTrue = false;
+        waitUntil(
+            [&] {
+                isTrue = m_table.isTrue(text);
+                return isTrue || m_simulator.clock().now() >= end;
+            },
+            m_givenUp);
+        return isTrue;
+    });
+}
+
+void ScenarioApi::speed(double factor) {
+    guarded([&] {
+        if (factor <= 0) throw ScenarioError(QStringLiteral("the clock's speed must be above 0"));
+        m_simulator.clock().setSpeed(factor);
+    });
+}
+
+void ScenarioApi::modal(const QJSValue& function) {
+    guarded([&] { m_dialogs.expect(function); });
+}
+
+void ScenarioApi::answer(const QJSValue& first, const QJSValue& second, const QJSValue& third, const QJSValue& fourth) {
+    QStringList answers;
+    for (const QJSValue& text : {first, second, third, fourth}) {
+        if (!text.isUndefined()) answers << text.toString();
+    }
+    m_dialogs.queueAnswers(answers);
+}
+
+QJSValue ScenarioApi::messages() {
+    return plain(m_dialogs.takeMessages());
+}
+
+QJSValue ScenarioApi::log() {
+    const quint64 mark = std::exchange(m_logMark, m_simulator.log().count());
+    return plain(m_simulator.log().since(mark));
+}
+
+QJSValue ScenarioApi::calls() {
+    const Journal& journal = m_simulator.host().journal();
+    const quint64 mark = std::exchange(m_callMark, journal.count());
+    return plain(journal.since(mark));
+}
+
+QJSValue ScenarioApi::pref(const QString& key) {
+    return plain(m_simulator.host().prefs().value(key));
+}
+
+void ScenarioApi::setPref(const QString& key, const QVariant& value) {
+    m_simulator.host().prefs().setValue(key, value);
+}
+
+void ScenarioApi::status(const QString& name, bool on) {
+    guarded([&] { m_simulator.host().flags().set(name, on); });
+}
+
+QString ScenarioApi::mode() {
+    return modeNames().at(m_simulator.host().getOperatingMode());
+}
+
+void ScenarioApi::mode(const QString& name) {
+    guarded([&] {
+        const int mode = modeNames().indexOf(name);
+        if (mode < 0) throw ScenarioError(QStringLiteral("the modes are live, memory and file, not \"%1\"").arg(name));
+        m_simulator.host().appStatus().enterMode(mode);
+        m_table.settle();
+    });
+}
+
+void ScenarioApi::signal(const QString& name, const QString& argument) {
+    guarded([&] {
+        if (m_simulator.plugin() == nullptr) throw ScenarioError(QStringLiteral("no plug-in is loaded"));
+        raiseHostSignal(m_simulator.plugin()->plugin(), name, argument, m_givenUp);
+        m_table.settle();
+    });
+}

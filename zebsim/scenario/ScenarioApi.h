@@ -1,0 +1,75 @@
+#pragma once
+
+#include "CameraScripting.h"
+#include "ScenarioDialogs.h"
+#include "TableDriver.h"
+
+#include <QJSValue>
+#include <QObject>
+#include <QVariant>
+
+#include <functional>
+
+class QJSEngine;
+class Simulator;
+
+/// The object `zeb` of a scenario. Each call is told in docs/scenarios.md; what one can't do, the script sees as an
+/// exception.
+class ScenarioApi : public QObject {
+    Q_OBJECT
+
+public:
+    /// All must outlive the object. `stop` ends every wait.
+    ScenarioApi(QJSEngine& engine, Simulator& simulator, const QString& folder, std::function<bool()> stop);
+
+    ScenarioDialogs& dialogs() { return m_dialogs; }
+
+    Q_INVOKABLE void rig(const QJSValue& pathOrCount);
+    Q_INVOKABLE QJSValue keys();
+    Q_INVOKABLE QJSValue camera(unsigned int key);
+    Q_INVOKABLE void setCamera(unsigned int key, const QVariantMap& members);
+    Q_INVOKABLE void fault(unsigned int key, const QString& operation, const QVariantMap& fault);
+
+    Q_INVOKABLE bool open();
+    Q_INVOKABLE bool close();
+    Q_INVOKABLE QJSValue page(const QString& text);
+    Q_INVOKABLE QJSValue dialog(const QString& text);
+    Q_INVOKABLE void click(const QString& selector, const QVariantMap& options = {});
+    Q_INVOKABLE void drag(const QString& from, const QString& to);
+    Q_INVOKABLE void type(const QString& text);
+    Q_INVOKABLE void window(const QString& what);
+    Q_INVOKABLE QString shot(const QString& path);
+
+    Q_INVOKABLE void wait(double ms);
+    Q_INVOKABLE bool until(const QString& text, double ms = 10000);
+    Q_INVOKABLE void speed(double factor);
+
+    Q_INVOKABLE void modal(const QJSValue& function);
+    Q_INVOKABLE void answer(const QJSValue& first, const QJSValue& second = {}, const QJSValue& third = {},
+                            const QJSValue& fourth = {});
+    Q_INVOKABLE QJSValue messages();
+    Q_INVOKABLE QJSValue log();
+    Q_INVOKABLE QJSValue calls();
+
+    Q_INVOKABLE QJSValue pref(const QString& key);
+    Q_INVOKABLE void setPref(const QString& key, const QVariant& value);
+    Q_INVOKABLE void status(const QString& name, bool on);
+    Q_INVOKABLE QString mode();
+    Q_INVOKABLE void mode(const QString& name);
+    Q_INVOKABLE void signal(const QString& name, const QString& argument = {});
+
+private:
+    /// Runs the work of a call; an exception becomes one of the script, and the answer a default.
+    template <typename Work>
+    auto guarded(Work work) -> decltype(work());
+    QJSValue plain(const QVariant& value);
+
+    QJSEngine& m_engine;
+    Simulator& m_simulator;
+    std::function<bool()> m_givenUp;
+    CameraScripting m_cameras;
+    TableDriver m_table;
+    ScenarioDialogs m_dialogs;
+    quint64 m_logMark;
+    quint64 m_callMark;
+};

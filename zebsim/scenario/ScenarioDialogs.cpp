@@ -1,0 +1,82 @@
+#include "ScenarioDialogs.h"
+
+#include "BoxButton.h"
+#include "MessageBoxes.h"
+#include "ScenarioError.h"
+
+#include <QAbstractButton>
+#include <QMessageBox>
+#include <QPointer>
+#include <QWebView>
+
+#include <utility>
+
+namespace {
+
+QString kindOf(const QMessageBox& box) {
+    const QVariant kind = box.property(MessageBoxes::KindProperty);
+    if (kind.isValid()) return kind.toString();
+    // One of the plug-in's own.
+    return box.icon() == QMessageBox::Warning ? QStringLiteral("warn") : QStringLiteral("info");
+}
+
+QString textOf(const QMessageBox& box) {
+    const QVariant text = box.property(MessageBoxes::TextProperty);
+    return text.isValid() ? text.toString() : box.text();
+}
+
+}  // namespace
+
+ScenarioDialogs::ScenarioDialogs() {
+    connect(&m_watcher, &ModalWatcher::stands, this, &ScenarioDialogs::dialogStands);
+}
+
+void ScenarioDialogs::expect(const QJSValue& function) {
+    if (!function.isCallable()) throw ScenarioError(QStringLiteral("zeb.modal takes a function"));
+    m_functions.append(function);
+}
+
+void ScenarioDialogs::queueAnswers(const QStringList& answers) {
+    m_answers += answers;
+}
+
+QVariantList ScenarioDialogs::takeMessages() {
+    return std::exchange(m_messages, {});
+}
+
+QWebView& ScenarioDialogs::pageOfStanding() {
+    const QDialog* dialog = ModalWatcher::standing();
+    auto* view = dialog ? dialog->findChild<QWebView*>() : nullptr;
+    if (view == nullptr) throw ScenarioError(QStringLiteral("no modal dialog with a page stands"));
+    return *view;
+}
+
+void ScenarioDialogs::dialogStands(QDialog* dialog) {
+    const QPointer<QMessageBox> box = qobject_cast<QMessageBox*>(dialog);
+    if (box) writeDown(*box);
+    if (!m_functions.isEmpty()) {
+        const QJSValue result = m_functions.takeFirst().call();
+        if (result.isError()) Q_EMIT threw(result);
+    }
+    // The function may have answered the box itself.
+    if (box && box->isVisible()) answer(*box);
+}
+
+void ScenarioDialogs::writeDown(QMessageBox& box) {
+    connect(&box, &QDialog::finished, this, [this, &box] {
+        const QAbstractButton* chosen = box.clickedButton();
+        m_messages << QVariantMap{{QStringLiteral("kind"), kindOf(box)},
+                                  {QStringLiteral("text"), textOf(box)},
+                                  {QStringLiteral("answer"), chosen ? buttonText(*chosen) : QString()}};
+    });
+}
+
+void ScenarioDialogs::answer(QMessageBox& box) {
+    const QString wanted = m_answers.isEmpty() ? QString() : m_answers.takeFirst();
+    QAbstractButton* button = findButton(box, wanted);
+    if (button == nullptr) {
+        Q_EMIT unanswerable(QStringLiteral("the box \"%1\" has no button \"%2\"").arg(textOf(box), wanted));
+        button = findButton(box, {});
+    }
+    button->click();
+}

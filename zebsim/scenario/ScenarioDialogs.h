@@ -1,0 +1,50 @@
+#pragma once
+
+#include "ModalWatcher.h"
+
+#include <QJSValue>
+#include <QList>
+#include <QObject>
+#include <QStringList>
+#include <QVariantList>
+
+class QAbstractButton;
+class QMessageBox;
+class QWebView;
+
+/// What a scenario does with modal dialogs: functions that wait for one, and the answers to message boxes, which are
+/// written down. GUI thread.
+///
+/// A message box is answered once the function that waited for it has returned.
+class ScenarioDialogs : public QObject {
+    Q_OBJECT
+
+public:
+    ScenarioDialogs();
+
+    /// Runs `function` inside the next modal dialog, one function a dialog.
+    void expect(const QJSValue& function);
+    /// Texts of buttons, or their names ("ok", "cancel", "yes", "no"), for the message boxes to come. A box without
+    /// an answer is accepted.
+    void queueAnswers(const QStringList& answers);
+    /// The boxes since the last call, each a map with `kind`, `text` and `answer`.
+    QVariantList takeMessages();
+    /// The page of the modal dialog that stands; throws `ScenarioError` when there is none.
+    static QWebView& pageOfStanding();
+
+Q_SIGNALS:
+    /// A function that waited for a dialog has thrown.
+    void threw(const QJSValue& error);
+    /// A message box had no button of the given answer.
+    void unanswerable(const QString& text);
+
+private:
+    void dialogStands(QDialog* dialog);
+    void writeDown(QMessageBox& box);
+    void answer(QMessageBox& box);
+
+    ModalWatcher m_watcher;
+    QList<QJSValue> m_functions;
+    QStringList m_answers;
+    QVariantList m_messages;
+};

@@ -1,0 +1,108 @@
+#include "ScenarioRunner.h"
+
+#include "ScenarioApi.h"
+#include "ScriptWatchdog.h"
+
+#include <QApplication>
+#include <QDialog>
+#include <QFile>
+#include <QFileInfo>
+#include <QQmlEngine>
+#include <QRegularExpression>
+
+#include <cstdio>
+
+namespace {
+
+// Value of a program that was not left by an exception: what is thrown need not be an error object.
+const QString EndMark = QStringLiteral("the script has run to its end");
+
+void printLine(std::FILE* stream, const QString& text) {
+    std::fprintf(stream, "%s\n", qUtf8Printable(text));
+    std::fflush(stream);
+}
+
+}  // namespace
+
+ScenarioRunner::ScenarioRunner(Simulator& simulator, int timeout) : m_simulator(simulator), m_timeout(timeout) {}
+
+int ScenarioRunner::run(const QString& path) {
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) {
+        printLine(stderr, path % QLatin1String(": ") % file.errorString());
+        return 1;
+    }
+    return run(path, QString::fromUtf8(file.readAll()));
+}
+
+int ScenarioRunner::run(const QString& path, const QString& program) {
+    const QString folder = QFileInfo(path).absolutePath();
+    ScenarioApi api(m_engine, m_simulator, folder, [this] { return m_stop.load(); });
+    connect(&api.dialogs(), &ScenarioDialogs::threw, this, &ScenarioRunner::reportError);
+    connect(&api.dialogs(), &ScenarioDialogs::unanswerable, this, &ScenarioRunner::fail);
+    // The engine owns neither.
+    QQmlEngine::setObjectOwnership(&api, QQmlEngine::CppOwnership);
+    QQmlEngine::setObjectOwnership(this, QQmlEngine::CppOwnership);
+    const QJSValue self = m_engine.newQObject(this);
+    for (const char* name : {"print", "check"})
+        m_engine.globalObject().setProperty(QLatin1String(name), self.property(QLatin1String(name)));
+    m_engine.globalObject().setProperty(QStringLiteral("zeb"), m_engine.newQObject(&api));
+
+    const ScriptWatchdog watchdog(m_timeout, [this] { expired(); });
+    const QJSValue end = m_engine.evaluate(program % QLatin1String("\n;'") % EndMark % QLatin1Char('\''), path);
+    if (end.isError() || end.toString() != EndMark) reportError(end);
+    return m_failed ? 1 : 0;
+}
+
+void ScenarioRunner::print(const QJSValue& value) {
+    if (!value.isObject()) {
+        printLine(stdout, value.toString());
+        return;
+    }
+    QJSValue stringify = m_engine.evaluate(QStringLiteral("JSON.stringify"));
+    printLine(stdout, stringify.call({value}).toString());
+}
+
+void ScenarioRunner::check(const QJSValue& condition, const QString& text) {
+    if (condition.toBool())
+        printLine(stdout, QLatin1String("ok: ") % text);
+    else
+        fail(callerPlace() % QLatin1String(": ") % text);
+}
+
+void ScenarioRunner::expired() {
+    m_stop = true;
+    m_engine.setInterrupted(true);
+    // Whoever waits for a dialog's answer goes on as if the user had left it.
+    QMetaObject::invokeMethod(
+        this,
+        [] {
+            while (auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget())) dialog->reject();
+        },
+        Qt::QueuedConnection);
+}
+
+void ScenarioRunner::fail(const QString& text) {
+    m_failed = true;
+    printLine(stdout, QLatin1String("FAILED: ") % text);
+}
+
+void ScenarioRunner::reportError(const QJSValue& error) {
+    m_failed = true;
+    if (m_stop) {
+        printLine(stderr, QStringLiteral("the scenario has run for more than %1 seconds").arg(m_timeout));
+        return;
+    }
+    const QString file =
+        error.property(QStringLiteral("fileName")).toString().remove(QRegularExpression(QStringLiteral("^file:(//)?")));
+    const QString line = error.property(QStringLiteral("lineNumber")).toString();
+    const QString place = error.isError() ? file % QLatin1Char(':') % line % QLatin1String(": ") : QString();
+    printLine(stderr, place % error.toString());
+}
+
+QString ScenarioRunner::callerPlace() {
+    // "%entry@:1" is this evaluation itself; the script that called stands behind it.
+    const QString stack = m_engine.evaluate(QStringLiteral("new Error().stack")).toString();
+    static const QRegularExpression place(QStringLiteral("@file:(?://)?(.+:\\d+)"));
+    return place.match(stack).captured(1);
+}

@@ -1,0 +1,128 @@
+#include "TableDriver.h"
+
+#include "EventWait.h"
+#include "ModalWatcher.h"
+#include "PLG_Interface.h"
+#include "PageInput.h"
+#include "PageScript.h"
+#include "ScenarioError.h"
+#include "Simulator.h"
+#include "ViewerWindow.h"
+#include "host/PluginSlot.h"
+
+#include <QDialog>
+#include <QDir>
+#include <QFileInfo>
+#include <QPixmap>
+#include <QRegularExpression>
+#include <QTest>
+#include <QToolButton>
+#include <QWebView>
+#include <QWindow>
+
+#include <utility>
+
+TableDriver::TableDriver(Simulator& simulator, std::function<bool()> stop)
+    : m_simulator(simulator), m_givenUp(std::move(stop)) {}
+
+bool TableDriver::open() {
+    pressButton();
+    if (dialog() == nullptr || !dialog()->isVisible()) return false;
+    // An update has been asked for by now, and is owed until the page has loaded.
+    return waitUntil([this] { return !m_simulator.host().updates().isPending(); }, m_givenUp);
+}
+
+void TableDriver::pressButton() {
+    if (m_simulator.plugin() == nullptr) throw ScenarioError(QStringLiteral("no plug-in is loaded"));
+    ViewerWindow& viewer = m_simulator.window();
+    const auto* button = viewer.findChild<QToolButton*>(m_simulator.plugin()->plugin().getName());
+    const QPoint middle = button->mapTo(&viewer, button->rect().center());
+    QTest::mouseClick(viewer.windowHandle(), Qt::LeftButton, {}, middle);
+}
+
+bool TableDriver::close() {
+    shownDialog().close();
+    settle();
+    return !dialog()->isVisible();
+}
+
+QJsonValue TableDriver::page(const QString& text) {
+    const QJsonValue value = evaluateInPage(view(), text);
+    settle();
+    return value;
+}
+
+bool TableDriver::isTrue(const QString& text) const {
+    const QVariant value = evaluateInPage(view(), text).toVariant();
+    // As in a script: an object is true whatever it holds.
+    return value.canConvert<bool>() ? value.toBool() : value.isValid() && !value.isNull();
+}
+
+void TableDriver::click(const QString& selector, const ClickOptions& options) {
+    PageInput(view(), m_givenUp).click(selector, options);
+    settle();
+}
+
+void TableDriver::drag(const QString& from, const QString& to) {
+    PageInput(view(), m_givenUp).drag(from, to);
+    settle();
+}
+
+void TableDriver::type(const QString& text) {
+    const QDialog* modal = ModalWatcher::standing();
+    const QDialog& target = modal ? *modal : shownDialog();
+    typeText(*target.windowHandle(), text);
+    settle();
+}
+
+void TableDriver::window(const QString& what) {
+    QDialog& table = shownDialog();
+    if (what == QLatin1String("minimise"))
+        table.showMinimized();
+    else if (what == QLatin1String("restore"))
+        table.showNormal();
+    else if (what == QLatin1String("activate"))
+        table.activateWindow();
+    else
+        place(what);
+    settle();
+}
+
+void TableDriver::place(const QString& geometry) {
+    static const QRegularExpression pattern(QStringLiteral("^(-?\\d+),(-?\\d+),(\\d+),(\\d+)$"));
+    const QRegularExpressionMatch numbers = pattern.match(geometry);
+    if (!numbers.hasMatch())
+        throw ScenarioError(
+            QStringLiteral("zeb.window takes \"minimise\", \"restore\", \"activate\" or \"x,y,w,h\", not \"%1\"")
+                .arg(geometry));
+    const auto number = [&](int group) { return numbers.captured(group).toInt(); };
+    shownDialog().setGeometry(number(1), number(2), number(3), number(4));
+}
+
+QString TableDriver::shot(const QString& path) {
+    const QFileInfo file(path);
+    QDir().mkpath(file.absolutePath());
+    if (!shownDialog().grab().save(path))
+        throw ScenarioError(QStringLiteral("%1: the picture can't be written").arg(path));
+    return file.absoluteFilePath();
+}
+
+void TableDriver::settle() {
+    waitUntil([this] { return !m_simulator.host().updates().isQueued(); }, m_givenUp);
+}
+
+QDialog* TableDriver::dialog() const {
+    return m_simulator.plugin() ? m_simulator.plugin()->plugin().getDialog(false) : nullptr;
+}
+
+QDialog& TableDriver::shownDialog() const {
+    if (dialog() == nullptr || !dialog()->isVisible()) throw ScenarioError(QStringLiteral("the table is not open"));
+    return *dialog();
+}
+
+QWebView& TableDriver::view() const {
+    // The page lives on behind a closed window.
+    auto* found = dialog() ? dialog()->findChild<QWebView*>() : nullptr;
+    if (found == nullptr) throw ScenarioError(QStringLiteral("the table was never open"));
+    return *found;
+}

@@ -1,0 +1,51 @@
+#pragma once
+
+#include <QJsonValue>
+#include <QString>
+
+#include <functional>
+
+class QDialog;
+class QWebView;
+class Simulator;
+struct ClickOptions;
+
+/// The plug-in's table as a user has it before him. Every operation but `open` throws `ScenarioError` while there is
+/// no table. GUI thread.
+class TableDriver {
+public:
+    /// `stop` ends waits that would never end by themselves.
+    TableDriver(Simulator& simulator, std::function<bool()> stop);
+
+    /// Presses the plug-in's button and waits for the first update of the page. False when the table stays closed.
+    bool open();
+    /// Closes the window. False when it stays open.
+    bool close();
+
+    /// The value of a script in the page, after the update cycle that it asked for.
+    QJsonValue page(const QString& text);
+    /// Whether the script's value counts as true.
+    bool isTrue(const QString& text) const;
+    void click(const QString& selector, const ClickOptions& options);
+    void drag(const QString& from, const QString& to);
+    /// Types into the modal dialog that stands, or else into the table.
+    void type(const QString& text);
+
+    /// "minimise", "restore", "activate", or a geometry as "x,y,w,h".
+    void window(const QString& what);
+    /// Saves what the table shows, in the format of the suffix. Answers the whole path.
+    QString shot(const QString& path);
+
+    /// Waits for the update cycle that stands in the event loop, if there is one.
+    void settle();
+
+private:
+    QDialog* dialog() const;
+    QDialog& shownDialog() const;
+    QWebView& view() const;
+    void pressButton();
+    void place(const QString& geometry);
+
+    Simulator& m_simulator;
+    std::function<bool()> m_givenUp;
+};
