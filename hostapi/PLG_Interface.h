@@ -21,7 +21,7 @@ class ZebPageBridge;
 /// host's alone are called `reserved`. Signals are raised by name (`QMetaObject::invokeMethod`): `signalRecord`,
 /// `signalSaveFile`, `signalSaveLayout`, `signalEndRecording`, `signalDisconnect`, `signalStartAutoUpdate`,
 /// `signalStopAutoUpdate`, and `signalScreenShot(QString)`, which waits for the GUI thread and so must be raised
-/// from another one.
+/// from another one, by a direct call.
 class PLG_Interface : public QObject {
 public:
     using NoHandle = QPair<DOC_Interface*, int>;
@@ -74,7 +74,7 @@ public:
 
     virtual void preparePanel() = 0;
     virtual void clearPanelWidget() = 0;
-    /// Side panel widget; null when there is none. Owned by the plug-in.
+    /// Side panel widget; null when there is none. Owned by the page that shows it.
     virtual QWidget* getPanelWidget() const = 0;
 
     /// Mouse on the image of a document, `point` in image pixels.
@@ -106,7 +106,8 @@ public:
 
     /// Whether the button stands pressed for `doc`, which may be null.
     virtual bool isChecked(DOC_Interface* doc, int arg) = 0;
-    /// The plug-in's dialog, made when `create` says so; null when there is none. Owned by the plug-in.
+    /// The plug-in's dialog, made when `create` says so; null when there is none, and while it is being made, which
+    /// may run an event loop. Owned by the plug-in.
     virtual QDialog* getDialog(bool create) = 0;
     virtual void showDialog() = 0;
     virtual void hideDialog() = 0;

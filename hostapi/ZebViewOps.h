@@ -2,7 +2,7 @@
 
 #include "ZebTypes.h"
 
-/// How a document's image stands in its window. GUI thread; nothing here throws.
+/// How a document's image stands in its window: flipped first, then turned clockwise. GUI thread; nothing here throws.
 class ZebViewOps {
 public:
     virtual ~ZebViewOps() = default;
