@@ -32,9 +32,11 @@ void GUI_ModelessPatternDialog::centerOnMainScreen() {
 }
 
 void GUI_ModelessPatternDialog::closeEvent(QCloseEvent*) {
+    const QPointer<GUI_ModelessPatternDialog> self(this);
     host().appStatus().notifyPluginClosed(m_plugin);
     Q_EMIT getBridge()->close();
-    Q_EMIT closed();
+    // The page's answer may have waited for the user, and the dialog be gone by now.
+    if (self) Q_EMIT closed();
 }
 
 void GUI_ModelessPatternDialog::showEvent(QShowEvent* event) {

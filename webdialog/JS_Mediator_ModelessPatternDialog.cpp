@@ -1,7 +1,6 @@
 #include "JS_Mediator_ModelessPatternDialog.h"
 
 #include "BridgeCall.h"
-#include "PLG_Interface.h"
 #include "ZebHost.h"
 
 JS_Mediator_ModelessPatternDialog::JS_Mediator_ModelessPatternDialog(ZebHost* host, const QString& name,
@@ -9,7 +8,9 @@ JS_Mediator_ModelessPatternDialog::JS_Mediator_ModelessPatternDialog(ZebHost* ho
     : JS_Mediator_Dialog(host, name, parent), m_plugin(plugin) {}
 
 void JS_Mediator_ModelessPatternDialog::onClose() {
-    bridgeCall(*this, [&] { m_plugin->closeDialog(); });
+    bridgeCall(*this, [&] {
+        if (m_plugin) m_plugin->closeDialog();
+    });
 }
 
 void JS_Mediator_ModelessPatternDialog::setTextBoxFocusState(bool focused) {

@@ -1,15 +1,16 @@
 #pragma once
 
 #include "JS_Mediator_Dialog.h"
+#include "PLG_Interface.h"
 
-class PLG_Interface;
+#include <QPointer>
 
 /// Bridge of a page in the dialog of a plug-in. GUI thread.
 class JS_Mediator_ModelessPatternDialog : public JS_Mediator_Dialog {
     Q_OBJECT
 
 public:
-    /// `plugin` is not owned and outlives the bridge.
+    /// `plugin` is not owned; it may go while a call of the bridge still runs.
     JS_Mediator_ModelessPatternDialog(ZebHost* host, const QString& name, PLG_Interface* plugin,
                                       QObject* parent = nullptr);
 
@@ -21,8 +22,9 @@ public Q_SLOTS:
     void setTextBoxFocusState(bool focused);
 
 protected:
+    /// Null once the plug-in is gone.
     PLG_Interface* plugin() const { return m_plugin; }
 
 private:
-    PLG_Interface* const m_plugin;
+    const QPointer<PLG_Interface> m_plugin;
 };

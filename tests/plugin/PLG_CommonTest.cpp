@@ -209,6 +209,7 @@ TEST_F(PLG_CommonTest, mayGoWhileItsHostOrItsPageStillWaits) {
              host.onBox = [plugin] { delete plugin; };
              bridge->confirm(QStringLiteral("Go on?"));
              EXPECT_TRUE(bridge) << "its slot has just ended";
+             static_cast<JS_Mediator_ModelessPatternDialog*>(bridge.data())->onClose();
              QCoreApplication::processEvents();
              EXPECT_FALSE(bridge);
          }},
@@ -217,6 +218,12 @@ TEST_F(PLG_CommonTest, mayGoWhileItsHostOrItsPageStillWaits) {
              plugin->shownDialog();
              host.onClosePlugin = [plugin] { delete plugin; };
              plugin->slotModelessPatternDialogClosed();
+         }},
+        {"its page deletes it at the close",
+         [](TestPlugin* plugin) {
+             auto* dialog = plugin->shownDialog();
+             QObject::connect(dialog->getBridge(), &JS_Mediator::close, [plugin] { delete plugin; });
+             plugin->closeDialog();
          }},
         {"its page deletes it at an update",
          [](TestPlugin* plugin) {
