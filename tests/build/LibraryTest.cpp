@@ -1,0 +1,62 @@
+#include "PLG_Interface.h"
+#include "PluginDoc.h"
+#include "PluginHost.h"
+
+#include <QApplication>
+#include <QDialog>
+#include <QDir>
+#include <QLibrary>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+struct Leftovers {
+    int windows;
+    int threads;
+};
+
+Leftovers leftovers() {
+    return {QApplication::topLevelWidgets().size(),
+            int(QDir(QStringLiteral("/proc/self/task")).entryList(QDir::Dirs | QDir::NoDotAndDotDot).size())};
+}
+
+/// Loads the library, opens and closes the table once its page is there, unloads the library.
+void useLibrary(PluginHost& host) {
+    QLibrary library(QStringLiteral(WREN_LIBRARY));
+    using Maker = PLG_Interface* (*)();
+    const auto make = reinterpret_cast<Maker>(library.resolve("makeButtonPlugin"));
+    ASSERT_TRUE(make) << library.errorString().toStdString();
+    std::unique_ptr<PLG_Interface> plugin(make());
+    plugin->setHost(&host);
+    host.plugins[plugin->getName()] = plugin.get();
+    plugin->activate();
+    QDialog* dialog = plugin->getDialog(true);
+    ASSERT_TRUE(dialog);
+    plugin->showDialog();
+    EXPECT_TRUE(QTest::qWaitFor([dialog] { return dialog->findChild<QWebView*>()->title() == QLatin1String("WREN"); }));
+    plugin->closeDialog();
+    plugin->deactivate();
+    host.plugins.clear();
+    plugin.reset();
+    EXPECT_TRUE(library.unload());
+    QCoreApplication::processEvents();
+}
+
+}  // namespace
+
+TEST(Library, leavesTheHostAsItWas) {
+    PluginDoc doc(1);
+    PluginHost host;
+    host.docs[1] = &doc;
+    host.connectedKeys = {1};
+    host.prefs[QStringLiteral("wren/table/interval")] = 1;
+    useLibrary(host);  // the first load starts threads that last
+    const Leftovers first = leftovers();
+    for (int round = 0; round < 20; ++round) useLibrary(host);
+    EXPECT_EQ(leftovers().windows, first.windows);
+    EXPECT_EQ(leftovers().threads, first.threads);
+    EXPECT_TRUE(host.prefs.keys().contains(QStringLiteral("wren/ready")))
+        << "what the host has kept of the library's texts is still there";
+}
