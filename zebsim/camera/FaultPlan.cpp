@@ -12,11 +12,14 @@ void FaultPlan::plant(DOCKEY key, const QString& operation, const Fault& fault) 
         m_faults[key][operation] = fault;
     } else if (operation == everyOperation) {
         m_faults.remove(key);
-    } else {
+    } else if (m_faults.contains(key)) {
         m_faults[key].remove(operation);
     }
     if (fault.isEmpty()) {
         m_gone.remove(key);
+        if (m_faults.value(key).isEmpty()) {
+            m_faults.remove(key);
+        }
     } else if (fault.gone && operation == everyOperation) {
         m_gone.insert(key);
     }
