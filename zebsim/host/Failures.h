@@ -2,7 +2,7 @@
 
 #include <QStringList>
 
-#include <exception>
+#include <stdexcept>
 
 /// Work on many cameras whose failures are gathered.
 class Failures {
@@ -17,8 +17,8 @@ public:
     }
 
     bool any() const { return !m_reasons.isEmpty(); }
-    /// A line for each.
-    QString text() const { return m_reasons.join(QLatin1Char('\n')); }
+    /// One for all, a line for each.
+    std::runtime_error error() const { return std::runtime_error(m_reasons.join(QLatin1Char('\n')).toStdString()); }
 
 private:
     QStringList m_reasons;

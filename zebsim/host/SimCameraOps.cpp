@@ -6,8 +6,6 @@
 #include "host/Failures.h"
 #include "host/Journal.h"
 
-#include <stdexcept>
-
 SimCameraOps::SimCameraOps(Journal& journal, CameraBank& cameras) : m_journal(journal), m_cameras(cameras) {}
 
 void SimCameraOps::setRecordRate(const DocList& docs, unsigned int rate) {
@@ -32,6 +30,6 @@ void SimCameraOps::forEach(const DocKeyList& keys, const std::function<void(Came
         }
     }
     if (failures.any()) {
-        throw std::runtime_error(failures.text().toStdString());
+        throw failures.error();
     }
 }

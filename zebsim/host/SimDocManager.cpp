@@ -1,17 +1,17 @@
 #include "host/SimDocManager.h"
 
+#include "ZebHost.h"
 #include "camera/Camera.h"
 #include "host/CameraBank.h"
 #include "host/Failures.h"
 #include "host/Journal.h"
-#include "host/MessageDesk.h"
 #include "host/SimDocument.h"
 
 #include <algorithm>
 
-SimDocManager::SimDocManager(Journal& journal, CameraBank& cameras, const Preferences& prefs,
-                             const SimAppStatus& appStatus, MessageDesk& desk)
-    : m_journal(journal), m_cameras(cameras), m_desk(desk), m_context{journal, m_tools, prefs, appStatus, *this} {}
+SimDocManager::SimDocManager(ZebHost& host, Journal& journal, CameraBank& cameras, const Preferences& prefs,
+                             const SimAppStatus& appStatus)
+    : m_host(host), m_journal(journal), m_cameras(cameras), m_context{journal, m_tools, prefs, appStatus, *this} {}
 
 SimDocManager::~SimDocManager() = default;
 
@@ -50,12 +50,14 @@ DOCKEY SimDocManager::currentKey() const {
     if (current && current->get(&CameraState::selected)) {
         return m_current;
     }
+    m_current = zeb::NoDocKey;
     for (const Camera* camera : m_cameras.all()) {
         if (camera->get(&CameraState::selected)) {
-            return camera->key();
+            m_current = camera->key();
+            break;
         }
     }
-    return zeb::NoDocKey;
+    return m_current;
 }
 
 DocKeyList SimDocManager::getDocKeys() const {
@@ -122,10 +124,7 @@ void SimDocManager::forEachKey(const DocKeyList& keys, const std::function<void(
         }
     }
     if (failures.any()) {
-        Message message;
-        message.kind = Message::Error;
-        message.text = failures.text();
-        m_desk.show(message);
+        m_host.errorHandler(failures.error());
     }
 }
 

@@ -10,14 +10,14 @@
 
 class Camera;
 class CameraBank;
-class MessageDesk;
 class SimDocument;
+class ZebHost;
 
 /// Documents by key, the selection, connections, image tools.
 class SimDocManager : public ZebDocManager {
 public:
-    SimDocManager(Journal& journal, CameraBank& cameras, const Preferences& prefs, const SimAppStatus& appStatus,
-                  MessageDesk& desk);
+    SimDocManager(ZebHost& host, Journal& journal, CameraBank& cameras, const Preferences& prefs,
+                  const SimAppStatus& appStatus);
     ~SimDocManager() override;
 
     /// What `editDoc` opens; nothing at first. It is called for a camera that is there and runs until it is closed.
@@ -58,13 +58,14 @@ private:
     DOCKEY currentKey() const;
     void forEachKey(const DocKeyList& keys, const std::function<void(Camera&)>& work);
 
+    ZebHost& m_host;
     Journal& m_journal;
     CameraBank& m_cameras;
-    MessageDesk& m_desk;
     QMutex m_mutex;
     ImageTools m_tools;
     const DocContext m_context;
     std::function<void(Camera&)> m_editor;
     std::unordered_map<DOCKEY, std::unique_ptr<SimDocument>> m_docs;
-    DOCKEY m_current = zeb::NoDocKey;
+    /// May have lost its selection meanwhile.
+    mutable DOCKEY m_current = zeb::NoDocKey;
 };

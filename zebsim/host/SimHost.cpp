@@ -17,7 +17,7 @@ SimHost::SimHost(Clock& clock, MessageDesk& desk, const QString& prefsPath)
       m_cameras(clock, m_faults, m_shownErrors),
       m_updates([this] { runUpdateCycle(); }),
       m_appStatus(m_journal, m_events, m_updates),
-      m_docManager(m_journal, m_cameras, m_prefs, m_appStatus, desk),
+      m_docManager(*this, m_journal, m_cameras, m_prefs, m_appStatus),
       m_liveLoop(m_journal),
       m_player(m_journal),
       m_recorder(m_cameras, m_flags),

@@ -2,16 +2,12 @@
 
 #include "ZebUndo.h"
 
-#include <QStringList>
-
 class Journal;
 
-/// The steps that could be undone, by their texts.
+/// The undo stack. Nothing is undone here: what is asked of it stands in the journal.
 class SimUndo : public ZebUndo {
 public:
     explicit SimUndo(Journal& journal) : m_journal(journal) {}
-
-    QStringList steps() const { return m_steps; }
 
     void clear() override;
     void beginMacro(const QString& text) override;
@@ -19,6 +15,4 @@ public:
 
 private:
     Journal& m_journal;
-    QStringList m_steps;
-    QStringList m_open;
 };
