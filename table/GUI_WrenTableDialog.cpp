@@ -45,6 +45,9 @@ void GUI_WrenTableDialog::updatePage() {
 }
 
 void GUI_WrenTableDialog::closeEvent(QCloseEvent* event) {
+    if (isHidden()) {  // a second close that was put off with the first
+        return;
+    }
     const QPointer<GUI_WrenTableDialog> self(this);
     bridgeCall(*getBridge(), [this] { storePlacement(); });
     QCoreApplication::processEvents();

@@ -1,11 +1,13 @@
 #include "TableFixture.h"
 #include "TableState.h"
+#include "records/NumberFormat.h"
 #include "records/RecordModel.h"
 
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QLocale>
 
 namespace {
 
@@ -160,6 +162,22 @@ TEST_F(RecordModelTest, takesAMalformedRequestForAnEmptyOne) {
     }
 }
 
+TEST_F(RecordModelTest, textArrivesAsItWasWritten) {
+    QString awkward =
+        QStringLiteral("<img src=x onerror=alert(1)> \"'\\/ \u30ab\u30e1\u30e9 \u2028 \U0001F3A5 %1 {}[],:");
+    for (char16_t control = 1; control < 0x20; ++control) {
+        awkward.append(QChar(control));
+    }
+    awkward.append(QString(4096, QLatin1Char('x')));
+    change(1, {{"connected", true}, {"name", awkward}, {"alerts", QStringList{awkward}}});
+    change(1, {{"comment", QString(awkward % QLatin1String(zeb::CommentSeparator) % awkward)}});
+    const QJsonObject gate = row(records(R"({"tab":0})"), 0);
+    EXPECT_EQ(gate.value("cameraName").toString(), awkward);
+    EXPECT_EQ(gate.value("alert").toString(), awkward);
+    EXPECT_EQ(gate.value("comment").toString(), awkward);
+    EXPECT_EQ(gate.value("comments").toString(), QString(awkward % QLatin1Char('\n') % awkward));
+}
+
 TEST_F(RecordModelTest, withoutCamerasIsABatchRowOfEmptyLists) {
     for (DOCKEY key = 1; key <= 8; ++key) {
         host.faults().plant(key, "*", {{}, 0, true});
@@ -258,6 +276,25 @@ TEST_F(RecordModelTest, defaultSettingsLimitWhatIsOffered) {
     EXPECT_EQ(gate.value("frameRates").toArray().size(), 13) << "in low light the camera's own lists stand";
     EXPECT_EQ(gate.value("shutterSpeeds").toArray().size(), 16);
     EXPECT_EQ(gate.value("resolutions").toArray().size(), 5);
+}
+
+TEST_F(RecordModelTest, numbersReadAsTheUserLikesThem) {
+    connectAll();
+    QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
+    host.setPrefBool("display/recordRateInsertDelimiter", true);
+    const QJsonArray rates = row(records(R"({"tab":1})"), 0).value("frameRates").toArray();
+    QLocale::setDefault(QLocale::c());
+    EXPECT_EQ(rates.last(), (QJsonObject{{"name", "10,000 fps"}, {"value", "10000"}}));
+    EXPECT_EQ(numberformat::rate(0, "fps", true), "");
+
+    const struct {
+        int triggerFrame;
+        unsigned int frames;
+        QString percent;
+    } cases[] = {{25, 100, "75"}, {1, 3, "66.67"}, {0, 9, "100"}, {9, 9, "0"}, {1, 100000, "100"}, {1, 0, ""}};
+    for (const auto& each : cases) {
+        EXPECT_EQ(numberformat::manualTriggerPercent(each.triggerFrame, each.frames), each.percent);
+    }
 }
 
 TEST_F(RecordModelTest, ratesFollowTheSyncSignal) {

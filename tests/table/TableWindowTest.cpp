@@ -104,10 +104,12 @@ TEST_F(TableWindowTest, aCloseUnderABoxComesAfterIt) {
     GUI_WrenTableDialog& dialog = open();
     desk.whileStanding = [&dialog] {
         dialog.close();
+        dialog.close();
         EXPECT_TRUE(dialog.isVisible());
     };
     dialog.getBridge()->info("Wait");
     EXPECT_TRUE(QTest::qWaitFor([&dialog] { return !dialog.isVisible(); }));
+    QCoreApplication::processEvents();
     EXPECT_EQ(desk.shown, (QStringList{"Wait", "Quit WREN?"}));
 }
 
