@@ -6,84 +6,41 @@
 
 namespace {
 
-const QRect Left(0, 0, 1920, 1200);
-const QRect Right(1920, 0, 2560, 1440);
-const QSize Minimum(1200, 400);
-
-struct Case {
-    const char* sentence;
-    StoredPlacement stored;
-    QVector<QRect> screens;
-    QRect geometry;
-    Qt::WindowStates state;
-    bool centered;
-};
-
-const Case Cases[] = {
-    {"a window opens where it was closed", {{100, 80}, {1300, 600}, {}, 0}, {Left}, {100, 80, 1300, 600}, {}, false},
-    {"a maximised one opens maximised over its normal place",
-     {{100, 80}, {1300, 600}, Qt::WindowMaximized, 0},
-     {Left},
-     {100, 80, 1300, 600},
-     Qt::WindowMaximized,
-     false},
-    {"a minimised one opens normal at its place",
-     {{100, 80}, {1300, 600}, Qt::WindowMinimized | Qt::WindowMaximized, 0},
-     {Left},
-     {100, 80, 1300, 600},
-     {},
-     false},
-    {"it finds its place on the second screen",
-     {{2000, 0}, {1300, 600}, {}, 1},
-     {Left, Right},
-     {2000, 0, 1300, 600},
-     {},
-     false},
-    {"without a stored screen it lies on the one that shows most of it",
-     {{2000, 0}, {1300, 600}, {}, -1},
-     {Left, Right},
-     {2000, 0, 1300, 600},
-     {},
-     false},
-    {"the stored screen is gone and so is its place: half of the main screen, not maximised",
-     {{2000, 0}, {1300, 600}, Qt::WindowMaximized, 1},
-     {Left},
-     {0, 0, 1200, 599},
-     {},
-     true},
-    {"the stored screen is gone, but the window lies on another: it stays",
-     {{100, 80}, {1300, 600}, {}, 7},
-     {Left},
-     {100, 80, 1300, 600},
-     {},
-     false},
-    {"a screen that holds a part of the window only does not hold it",
-     {{900, 80}, {1300, 600}, {}, 0},
-     {Left},
-     {0, 0, 1200, 599},
-     {},
-     true},
-    {"too small a window gets the least size before it is judged",
-     {{800, 900}, {10, 10}, {}, 0},
-     {Left},
-     {0, 0, 1200, 599},
-     {},
-     true},
-    {"numbers that are no place add up to none",
-     {{INT_MAX, INT_MIN}, {INT_MAX, INT_MAX}, {}, INT_MAX},
-     {Left},
-     {0, 0, 1200, 599},
-     {},
-     true},
-};
+const QVector<QRect> Screens{{0, 0, 1920, 1200}, {1920, 0, 2560, 1440}};
+const QRect Place(100, 80, 1300, 600);
+const QRect FarPlace(2000, 0, 1300, 600);
+/// Half of the first screen, but not below the least size.
+const QRect Half(0, 0, 1200, 599);
 
 TEST(TablePlacement, opensWhereItWasUnlessThatIsNoScreen) {
-    for (const Case& each : Cases) {
+    const struct {
+        const char* sentence;
+        QPoint position;
+        QSize size;
+        Qt::WindowStates state;
+        int screen;
+        int screens;
+        QRect geometry;
+        Qt::WindowStates opens;
+    } cases[] = {
+        {"where it was closed", {100, 80}, {1300, 600}, {}, 0, 1, Place, {}},
+        {"maximised over its place", {100, 80}, {1300, 600}, Qt::WindowMaximized, 0, 1, Place, Qt::WindowMaximized},
+        {"minimised opens normal", {100, 80}, {1300, 600}, Qt::WindowMinimized, 0, 1, Place, {}},
+        {"on the second screen", {2000, 0}, {1300, 600}, {}, 1, 2, FarPlace, {}},
+        {"no stored screen", {2000, 0}, {1300, 600}, {}, -1, 2, FarPlace, {}},
+        {"its screen is gone", {2000, 0}, {1300, 600}, Qt::WindowMaximized, 1, 1, Half, {}},
+        {"another screen is gone", {100, 80}, {1300, 600}, {}, 7, 1, Place, {}},
+        {"half off the screen", {900, 80}, {1300, 600}, {}, 0, 1, Half, {}},
+        {"off the screen at its least size", {800, 900}, {10, 10}, {}, 0, 1, Half, {}},
+        {"numbers that are no place", {INT_MAX, INT_MIN}, {INT_MAX, INT_MAX}, {}, INT_MAX, 1, Half, {}},
+    };
+    for (const auto& each : cases) {
         SCOPED_TRACE(each.sentence);
-        const TablePlacement placement = placeTable(each.stored, Minimum, each.screens, Left);
+        const TablePlacement placement = placeTable({each.position, each.size, each.state, each.screen}, {1200, 400},
+                                                    Screens.mid(0, each.screens), Screens.first());
         EXPECT_EQ(placement.geometry, each.geometry);
-        EXPECT_EQ(placement.state, each.state);
-        EXPECT_EQ(placement.centered, each.centered);
+        EXPECT_EQ(placement.state, each.opens);
+        EXPECT_EQ(placement.centered, each.geometry == Half);
     }
 }
 
