@@ -1,0 +1,559 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="en_US" sourcelanguage="en_US">
+<context>
+    <name>zeb4</name>
+    <message>
+        <source>Open</source>
+        <translation>Open</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Close</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation>Settings</translation>
+    </message>
+    <message>
+        <source>WREN Display settings</source>
+        <translation>Display settings</translation>
+    </message>
+    <message>
+        <source>WREN Default Setting</source>
+        <translation>Default settings</translation>
+    </message>
+    <message>
+        <source>wren_display_customSettings</source>
+        <translation>Custom information</translation>
+    </message>
+    <message>
+        <source>wren_display_externalSync</source>
+        <translation>External sync</translation>
+    </message>
+    <message>
+        <source>Load Selected Camera</source>
+        <translation>Load from camera</translation>
+    </message>
+    <message>
+        <source>Read xml</source>
+        <translation>Read XML</translation>
+    </message>
+    <message>
+        <source>Write xml</source>
+        <translation>Write XML</translation>
+    </message>
+    <message>
+        <source>Apply</source>
+        <translation>Apply</translation>
+    </message>
+    <message>
+        <source>Search devices by IP address</source>
+        <translation>Search devices by IP address</translation>
+    </message>
+    <message>
+        <source>Search all devices</source>
+        <translation>Search all devices</translation>
+    </message>
+    <message>
+        <source>search</source>
+        <translation>Search</translation>
+    </message>
+    <message>
+        <source>Delete all</source>
+        <translation>Delete all</translation>
+    </message>
+    <message>
+        <source>Update</source>
+        <translation>Update</translation>
+    </message>
+    <message>
+        <source>Device settings save and load</source>
+        <translation>Device settings</translation>
+    </message>
+    <message>
+        <source>Save setting</source>
+        <translation>Save settings</translation>
+    </message>
+    <message>
+        <source>Load setting</source>
+        <translation>Load settings</translation>
+    </message>
+    <message>
+        <source>Signal generator</source>
+        <translation>Signal generator</translation>
+    </message>
+    <message>
+        <source>Sync Hub</source>
+        <translation>Sync Hub</translation>
+    </message>
+    <message>
+        <source>Sync execute</source>
+        <translation>Synchronise</translation>
+    </message>
+    <message>
+        <source>Batch Lowlight</source>
+        <translation>Low light, all</translation>
+    </message>
+    <message>
+        <source>ON</source>
+        <translation>ON</translation>
+    </message>
+    <message>
+        <source>OFF</source>
+        <translation>OFF</translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation>Group</translation>
+    </message>
+    <message>
+        <source>Show all</source>
+        <translation>Show all</translation>
+    </message>
+    <message>
+        <source>ConnectOnly</source>
+        <translation>Connected</translation>
+    </message>
+    <message>
+        <source>DisconnectOnly</source>
+        <translation>Disconnected</translation>
+    </message>
+    <message>
+        <source>cameraInfoTab</source>
+        <translation>Camera info</translation>
+    </message>
+    <message>
+        <source>livecontrolTab</source>
+        <translation>Live control</translation>
+    </message>
+    <message>
+        <source>syncTab</source>
+        <translation>Sync</translation>
+    </message>
+    <message>
+        <source>irigTab</source>
+        <translation>IRIG</translation>
+    </message>
+    <message>
+        <source>pluginTab</source>
+        <translation>Tools</translation>
+    </message>
+    <message>
+        <source>memoryInfoTab</source>
+        <translation>Memory info</translation>
+    </message>
+    <message>
+        <source>memoryPluginTab</source>
+        <translation>Memory tools</translation>
+    </message>
+    <message>
+        <source>TabCommonItem</source>
+        <translation>All tabs</translation>
+    </message>
+    <message>
+        <source>Related settings</source>
+        <translation>Related settings:</translation>
+    </message>
+    <message>
+        <source>I/O setting...</source>
+        <translation>I/O settings...</translation>
+    </message>
+    <message>
+        <source>Ethernet setting...</source>
+        <translation>Ethernet settings...</translation>
+    </message>
+    <message>
+        <source>For recording test purposes, skip saving after recording.</source>
+        <translation>For a test recording: nothing is saved afterwards.</translation>
+    </message>
+    <message>
+        <source>Trigger Test</source>
+        <translation>Trigger test</translation>
+    </message>
+    <message>
+        <source>Snapshot</source>
+        <translation>Snapshot</translation>
+    </message>
+    <message>
+        <source>Snapshot to file</source>
+        <translation>To file</translation>
+    </message>
+    <message>
+        <source>Snapshot to clipboard</source>
+        <translation>To clipboard</translation>
+    </message>
+    <message>
+        <source>Snapshot to file and clipboard</source>
+        <translation>To file and clipboard</translation>
+    </message>
+    <message>
+        <source>Snapshot settings...</source>
+        <translation>Settings...</translation>
+    </message>
+    <message>
+        <source>Stop live</source>
+        <translation>Stop live</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Save</translation>
+    </message>
+    <message>
+        <source>Save layout</source>
+        <translation>Save layout</translation>
+    </message>
+    <message>
+        <source>Record</source>
+        <translation>Record</translation>
+    </message>
+    <message>
+        <source>Waiting For CTS Signal</source>
+        <translation>Waiting for CTS</translation>
+    </message>
+    <message>
+        <source>Ready</source>
+        <translation>Ready</translation>
+    </message>
+    <message>
+        <source>Ready...</source>
+        <translation>Ready...</translation>
+    </message>
+    <message>
+        <source>Recording...</source>
+        <translation>Recording...</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Error</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Stop</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>Yes</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>No</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Warning</translation>
+    </message>
+    <message>
+        <source>Lock</source>
+        <translation>Lock</translation>
+    </message>
+    <message>
+        <source>Camera name</source>
+        <translation>Camera name</translation>
+    </message>
+    <message>
+        <source>Alert</source>
+        <translation>Alert</translation>
+    </message>
+    <message>
+        <source>State of the camera</source>
+        <translation>State</translation>
+    </message>
+    <message>
+        <source>Sync signal input state</source>
+        <translation>Sync</translation>
+    </message>
+    <message>
+        <source>recordCheck</source>
+        <translation>Save</translation>
+    </message>
+    <message>
+        <source>Connect</source>
+        <translation>Connect</translation>
+    </message>
+    <message>
+        <source>Disconnect</source>
+        <translation>Disconnect</translation>
+    </message>
+    <message>
+        <source>Connecting</source>
+        <translation>Connecting...</translation>
+    </message>
+    <message>
+        <source>Disconnecting</source>
+        <translation>Disconnecting...</translation>
+    </message>
+    <message>
+        <source>IP address</source>
+        <translation>IP address</translation>
+    </message>
+    <message>
+        <source>Comment</source>
+        <translation>Comment</translation>
+    </message>
+    <message>
+        <source>Frame rate</source>
+        <translation>Frame rate</translation>
+    </message>
+    <message>
+        <source>Shooting speed</source>
+        <translation>Frame rate</translation>
+    </message>
+    <message>
+        <source>Shutter speed</source>
+        <translation>Shutter speed</translation>
+    </message>
+    <message>
+        <source>Resolution</source>
+        <translation>Resolution</translation>
+    </message>
+    <message>
+        <source>Trigger mode</source>
+        <translation>Trigger mode</translation>
+    </message>
+    <message>
+        <source>Live speed</source>
+        <translation>Live</translation>
+    </message>
+    <message>
+        <source>_Priority</source>
+        <translation>Priority</translation>
+    </message>
+    <message>
+        <source>Lowlight</source>
+        <translation>Low light</translation>
+    </message>
+    <message>
+        <source>dark</source>
+        <translation>dark</translation>
+    </message>
+    <message>
+        <source>bright</source>
+        <translation>bright</translation>
+    </message>
+    <message>
+        <source>ExternalSync</source>
+        <translation>External sync</translation>
+    </message>
+    <message>
+        <source>TriggerIn</source>
+        <translation>Trigger in</translation>
+    </message>
+    <message>
+        <source>TriggerSwIn</source>
+        <translation>Trigger switch in</translation>
+    </message>
+    <message>
+        <source>IRIG Time Stamp</source>
+        <translation>IRIG time stamp</translation>
+    </message>
+    <message>
+        <source>IRIG Sync</source>
+        <translation>IRIG sync</translation>
+    </message>
+    <message>
+        <source>Plugin</source>
+        <translation>Tools</translation>
+    </message>
+    <message>
+        <source>Start frame</source>
+        <translation>First frame</translation>
+    </message>
+    <message>
+        <source>End frame</source>
+        <translation>Last frame</translation>
+    </message>
+    <message>
+        <source>selectStartFrameNo</source>
+        <translation>From</translation>
+    </message>
+    <message>
+        <source>selectEndFrameNo</source>
+        <translation>To</translation>
+    </message>
+    <message>
+        <source>Save frame</source>
+        <translation>Frames</translation>
+    </message>
+    <message>
+        <source>triggerOffset</source>
+        <translation>Trigger offset</translation>
+    </message>
+    <message>
+        <source>fps</source>
+        <translation>fps</translation>
+    </message>
+    <message>
+        <source>Start Trg</source>
+        <translation>Start</translation>
+    </message>
+    <message>
+        <source>Center Trg</source>
+        <translation>Center</translation>
+    </message>
+    <message>
+        <source>End Trg</source>
+        <translation>End</translation>
+    </message>
+    <message>
+        <source>Random Trg</source>
+        <translation>Random</translation>
+    </message>
+    <message>
+        <source>Manual Trg</source>
+        <translation>Manual</translation>
+    </message>
+    <message>
+        <source>Random Reset Trg</source>
+        <translation>Random reset</translation>
+    </message>
+    <message>
+        <source>Random Center Trg</source>
+        <translation>Random center</translation>
+    </message>
+    <message>
+        <source>Random Manual Trg</source>
+        <translation>Random manual</translation>
+    </message>
+    <message>
+        <source>Twostage Trg</source>
+        <translation>Two-stage</translation>
+    </message>
+    <message>
+        <source>Twostage Half Trg</source>
+        <translation>Two-stage 1/2</translation>
+    </message>
+    <message>
+        <source>Twostage Quarter Trg</source>
+        <translation>Two-stage 1/4</translation>
+    </message>
+    <message>
+        <source>Twostage Oneeighth Trg</source>
+        <translation>Two-stage 1/8</translation>
+    </message>
+    <message>
+        <source>Reset Trg</source>
+        <translation>Reset</translation>
+    </message>
+    <message>
+        <source>Rec on cmd Trg</source>
+        <translation>Record on command</translation>
+    </message>
+    <message>
+        <source>Random Loop Trg</source>
+        <translation>Random loop</translation>
+    </message>
+    <message>
+        <source>None Error Trg</source>
+        <translation>None</translation>
+    </message>
+    <message>
+        <source>WREN</source>
+        <translation>WREN</translation>
+    </message>
+    <message>
+        <source>Quit WREN?</source>
+        <translation>Quit WREN?</translation>
+    </message>
+    <message>
+        <source>All camera</source>
+        <translation>All cameras</translation>
+    </message>
+    <message>
+        <source>All Group</source>
+        <translation>All groups</translation>
+    </message>
+    <message>
+        <source>External sync signal and cameras recordrate are different</source>
+        <translation>The camera's frame rate differs from the external sync signal</translation>
+    </message>
+    <message>
+        <source>Delete all Cameras?</source>
+        <translation>Delete all cameras?</translation>
+    </message>
+    <message>
+        <source>Heads connected to the same device are also disconnected. Is it OK?</source>
+        <translation>Heads of the same device are disconnected too. Is it OK?</translation>
+    </message>
+    <message>
+        <source>Disconnect this device. Is it OK?</source>
+        <translation>This device will be disconnected. Is it OK?</translation>
+    </message>
+    <message>
+        <source>Bulk disconnect devices. Is it OK?</source>
+        <translation>These devices will be disconnected. Is it OK?</translation>
+    </message>
+    <message>
+        <source>%1 of locked heads will be changed at the same time.&lt;br&gt;Do you want to continue?</source>
+        <translation>%1 of locked heads will be changed at the same time.&lt;br&gt;Do you want to continue?</translation>
+    </message>
+    <message>
+        <source>There are cameras that need to erase the image data recorded to continue the operation. Would you like to erase the data and continue the operation?</source>
+        <translation>There are cameras that need to erase the image data recorded to continue the operation. Would you like to erase the data and continue the operation?</translation>
+    </message>
+    <message>
+        <source>Information</source>
+        <translation>Information</translation>
+    </message>
+    <message>
+        <source>Confirmation</source>
+        <translation>Confirmation</translation>
+    </message>
+    <message>
+        <source>Don't show again</source>
+        <translation>Don't show again</translation>
+    </message>
+    <message>
+        <source>Live</source>
+        <translation>Live</translation>
+    </message>
+    <message>
+        <source>Memory</source>
+        <translation>Memory</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>File</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>Light</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>Dark</translation>
+    </message>
+    <message>
+        <source>Tools</source>
+        <translation>Tools</translation>
+    </message>
+    <message>
+        <source>Log</source>
+        <translation>Log</translation>
+    </message>
+    <message>
+        <source>Calls</source>
+        <translation>Calls</translation>
+    </message>
+    <message>
+        <source>%1 cameras, %2 connected</source>
+        <translation>%1 cameras, %2 connected</translation>
+    </message>
+    <message>
+        <source>Camera</source>
+        <translation>Camera</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,262 @@
+'use strict';
+
+// What every page of the host uses: style, translation, control states, drop-downs, the log of user operations.
+
+var zeb4func = {
+    // Control states are read often, so the elements of each table are listed by selector once.
+    controlPlans: new WeakMap(),
+    // element -> { state, own }: who wants it disabled, a control state or the page itself.
+    disabledBy: new WeakMap(),
+    // While the functions of control states run: element -> disabled, as the states have it so far.
+    openStates: null,
+    logMediator: null,
+    loggedRoots: [],
+
+    elementsOf: function (elements) {
+        if (typeof elements !== 'string') {
+            return $(elements).get();
+        }
+        if (/^#[\w-]+$/.test(elements)) {
+            const element = document.getElementById(elements.slice(1));
+            return element ? [element] : [];
+        }
+        return Array.from(document.querySelectorAll(elements));
+    },
+
+    applyStyle: function (mediator) {
+        const dark = mediator.getStyle() === 'dark';
+        const sheet = document.getElementById('ui-style');
+        if (dark === (sheet !== null)) {
+            return;
+        }
+        if (dark) {
+            const link = document.createElement('link');
+            link.id = 'ui-style';
+            link.rel = 'stylesheet';
+            link.href = 'qrc:/ui-core-dark.css';
+            document.head.appendChild(link);
+        } else {
+            sheet.parentNode.removeChild(sheet);
+        }
+    },
+
+    // Applies a table of control states, { NAME: { status, disabled, hidden, func } }: an element that a state
+    // that is on lists is disabled or hidden, and stands enabled and shown otherwise. Then each `func` runs, in
+    // the table's order; what it disables or enables overrides the lists.
+    setDisable: function (mediator, controls) {
+        let status;
+        try {
+            status = JSON.parse(mediator.getControlStatus());
+        } catch (error) {
+            return;
+        }
+        const names = Object.keys(controls);
+        const on = names.map(function (name) { return Boolean(status[controls[name].status]); });
+        const plan = this.planOf(controls, names);
+        const outer = this.openStates;
+        const disabled = this.openStates = this.union(plan.disabled, on);
+        try {
+            this.union(plan.hidden, on).forEach(function (hide, element) {
+                if (element.classList.contains('zeb-hidden') !== hide) {
+                    element.classList.toggle('zeb-hidden', hide);
+                }
+            });
+            names.forEach(function (name, index) {
+                if (controls[name].func) {
+                    controls[name].func(on[index]);
+                }
+            });
+        } finally {
+            this.openStates = outer;
+        }
+        disabled.forEach(function (flag, element) { zeb4func.mark(element, 'state', flag); });
+    },
+
+    // { disabled, hidden }: selector -> indexes of the states that list it.
+    planOf: function (controls, names) {
+        let plan = this.controlPlans.get(controls);
+        if (!plan) {
+            plan = { disabled: new Map(), hidden: new Map() };
+            Object.keys(plan).forEach(function (kind) {
+                names.forEach(function (name, index) {
+                    (controls[name][kind] || []).forEach(function (selector) {
+                        plan[kind].set(selector, (plan[kind].get(selector) || []).concat(index));
+                    });
+                });
+            });
+            this.controlPlans.set(controls, plan);
+        }
+        return plan;
+    },
+
+    // element -> whether any state that is on lists it.
+    union: function (selectors, on) {
+        const flags = new Map();
+        selectors.forEach(function (states, selector) {
+            const flag = states.some(function (index) { return on[index]; });
+            zeb4func.elementsOf(selector).forEach(function (element) {
+                flags.set(element, flag || flags.get(element) === true);
+            });
+        });
+        return flags;
+    },
+
+    // Disables or enables elements. One that a control state disables stays disabled.
+    disable: function (elements, flag) {
+        this.elementsOf(elements).forEach(function (element) {
+            if (zeb4func.openStates) {
+                zeb4func.openStates.set(element, flag);
+            } else {
+                zeb4func.mark(element, 'own', flag);
+            }
+        });
+    },
+
+    mark: function (element, who, flag) {
+        const by = this.disabledBy.get(element) || { state: false, own: false };
+        by[who] = flag;
+        this.disabledBy.set(element, by);
+        const disabled = by.state || by.own;
+        if (element.hasAttribute('disabled') === disabled) {
+            return;
+        }
+        if (disabled) {
+            element.setAttribute('disabled', 'disabled');
+        } else {
+            element.removeAttribute('disabled');
+        }
+        if (element.sumo) {
+            element.sumo.toggSumo(disabled);
+        }
+    },
+
+    // Keys that the web view would take for itself: reload, back, print, and the like.
+    disableDefaultShortcut: function () {
+        document.addEventListener('keydown', function (event) {
+            const typing = /^(INPUT|TEXTAREA)$/.test(event.target.tagName);
+            const browserKey = event.keyCode >= 112 && event.keyCode <= 123;
+            const browserChord = (event.ctrlKey || event.metaKey) && 'rpsnwfgu'.indexOf(event.key) >= 0;
+            const arrow = event.keyCode === 37 || event.keyCode === 39;
+            const back = event.keyCode === 8 && !typing || event.altKey && arrow;
+            if (browserKey || browserChord || back) {
+                event.preventDefault();
+            }
+        }, true);
+    },
+
+    localize: function (mediator) {
+        this.elementsOf('.localize').forEach(function (element) {
+            Array.from(element.childNodes).forEach(function (node) {
+                if (node.nodeType === Node.TEXT_NODE && node.nodeValue.trim()) {
+                    node.nodeValue = mediator.translate(node.nodeValue.trim());
+                }
+            });
+            if (element.getAttribute('title')) {
+                element.title = mediator.translate(element.title);
+            }
+            if (element.tagName === 'INPUT' && element.value) {
+                element.value = mediator.translate(element.value);
+            }
+        });
+    },
+
+    removeDummy: function () {
+        this.elementsOf('.dummy').forEach(function (element) { element.parentNode.removeChild(element); });
+    },
+
+    // Makes a drop-down of each `select`. `up` opens it upward, `search` adds a box to find an item by, `compact`
+    // makes it as low as a table's row.
+    initSumoSelect: function (selector, width, up, search, compact) {
+        this.elementsOf(selector).forEach(function (select) {
+            $(select).SumoSelect({ up: up, search: search, placeholder: '', floatWidth: 0, showTitle: false });
+            select.sumo.select.width(width).toggleClass('compact', compact === true);
+            // The widget follows the window's size for the sake of small screens only, and never lets go of it.
+            $(window).off('resize.sumo');
+        });
+    },
+
+    addItemSumoSelect: function (selector, value, name) {
+        const markup = $('<i>').text(name).html();
+        this.elementsOf(selector).forEach(function (select) { select.sumo.add(value, markup); });
+    },
+
+    emptySumoSelect: function (selector) {
+        this.elementsOf(selector).forEach(function (select) {
+            while (select.options.length > 0) {
+                select.sumo.remove(0);
+            }
+        });
+    },
+
+    // Shows the item of that value, without the event of a user's choice. Unknown values change nothing.
+    selectItemSumoSelect: function (selector, value) {
+        this.elementsOf(selector).forEach(function (select) {
+            const values = Array.from(select.options).map(function (option) { return option.value; });
+            const index = values.indexOf(String(value));
+            if (index < 0) {
+                return;
+            }
+            select.selectedIndex = index;
+            select.sumo.ul.find('li.opt').removeClass('selected').eq(index).addClass('selected');
+            select.sumo.setText();
+        });
+    },
+
+    // Writes a line for each operation of the user below the root, and one for each error of the page's scripts.
+    enableUserOperationLog: function (mediator, rootSelector) {
+        this.logMediator = mediator;
+        this.updateUserOperationLogHandler(rootSelector);
+        window.addEventListener('error', function (event) {
+            mediator.userOperationErrorLog(event.message + ' (' + event.filename + ':' + event.lineno + ')');
+        });
+    },
+
+    // Controls that come later are below the same root, so a root needs its listeners once.
+    updateUserOperationLogHandler: function (rootSelector) {
+        this.elementsOf(rootSelector).forEach(function (root) {
+            const logged = zeb4func.loggedRoots.some(function (other) { return other.contains(root); });
+            if (zeb4func.logMediator && !logged) {
+                zeb4func.loggedRoots.push(root);
+                root.addEventListener('click', function (event) { zeb4func.logOperation('clicked', event); }, true);
+                root.addEventListener('change', function (event) { zeb4func.logOperation('changed', event); }, true);
+            }
+        });
+    },
+
+    logOperation: function (operation, event) {
+        const element = event.target.closest('a, button, input, select, textarea');
+        const control = element && zeb4func.controlName(element);
+        const valued = /^(CheckBox|Radio|TextBox|ComboBox)$/.test(control);
+        if (!element || valued !== (operation === 'changed')) {
+            return;
+        }
+        const checked = control === 'CheckBox' || control === 'Radio';
+        const value = valued ? (checked ? element.checked : element.value) : '';
+        zeb4func.logMediator.userOperationLogWebView(document.URL, operation, control, element.id, element.className,
+            value);
+    },
+
+    controlName: function (element) {
+        const kinds = { A: 'Link', BUTTON: 'Button', SELECT: 'ComboBox', TEXTAREA: 'TextBox' };
+        const inputs = { button: 'Button', submit: 'Button', checkbox: 'CheckBox', radio: 'Radio' };
+        return kinds[element.tagName] || inputs[element.type] || 'TextBox';
+    },
+
+    // Whether `text` is what one octet of an address may be.
+    ipCheck: function (text) {
+        return /^\d{1,3}$/.test(text) && Number(text) <= 255;
+    },
+
+    // The same data with the members of each object in the order of their names.
+    hashSort: function (data) {
+        if (Array.isArray(data)) {
+            return data.map(function (item) { return zeb4func.hashSort(item); });
+        }
+        if (data === null || typeof data !== 'object') {
+            return data;
+        }
+        const sorted = {};
+        Object.keys(data).sort().forEach(function (name) { sorted[name] = zeb4func.hashSort(data[name]); });
+        return sorted;
+    }
+};
