@@ -1,0 +1,125 @@
+// What the user does in the cells. One listener a kind of event stands on each grid's box, in the capture phase.
+// The rows have no handler of their own, so nothing is bound anew when they are drawn.
+
+// class of a control -> what a click on it does; `keys` are those of the row, or of all rows for the batch row.
+const CLICKS = {
+    wren_button_connection_connect: (row, cell, keys) => wrentabledialog_obj.disconnectRows(cell, keys),
+    wren_button_connection_disconnect: (row, cell, keys) => wrentabledialog_obj.connectRows(cell, keys),
+    wren_button_lockStatus_lock: (row, cell, keys) => wrentabledialog_obj.lockRow(cell, keys, false),
+    wren_button_lockStatus_unlock: (row, cell, keys) => wrentabledialog_obj.lockRow(cell, keys, true),
+    wren_button_edit_camera_name: row => wrentabledialog_obj.editCamera(row.key)
+};
+
+function listenToGrid(view) {
+    const box = view.grid.box;
+    box.addEventListener('click', event => onGridClick(view, event), true);
+    box.addEventListener('keydown', event => onGridKey(view, event), true);
+    box.addEventListener('mousedown', onGridPress, true);
+    box.addEventListener('mousemove', event => onGridMove(view, event), true);
+}
+
+// A click on a control ends here, so what closes on a click elsewhere is closed beforehand.
+function onGridPress() {
+    wrentabledialog_obj.isCursorDown = true;
+    wrentabledialog_obj.closeFloating();
+    document.getElementById('recordFilter').sumo.hideOpts();
+}
+
+function onGridClick(view, event) {
+    const row = view.rowOf(event.target);
+    if (!row) {
+        return;
+    }
+    const cell = row.cellOf(event.target);
+    const control = event.target.closest('a[dockey], .SumoSelect[dockey]');
+    if (control && cell) {
+        event.stopPropagation();
+        cell.forget();
+        if (!control.matches('[disabled], .disabled')) {
+            useControl(view, row, cell, control);
+        }
+    } else if (row === view.batch) {
+        if (cell && cell.field === 'cameraName') {
+            wrentabledialog_obj.selectAll();
+        }
+    } else {
+        wrentabledialog_obj.gesture(() => view.grid.click(row.recid, event));
+    }
+}
+
+function useControl(view, row, cell, control) {
+    if (control.classList.contains('SumoSelect')) {
+        openList(view, row, cell);
+        return;
+    }
+    const name = Array.from(control.classList).find(word => CLICKS[word]);
+    if (name) {
+        guarded(() => CLICKS[name](row, cell, rowKeys(view, row)));
+    }
+}
+
+function openList(view, row, cell) {
+    const up = row === view.batch || view.connectedBefore(row.index) >= 2;
+    const keys = rowKeys(view, row);
+    dropDown.open(cell, up, value => guarded(() => cell.kind.send(keys, value)));
+}
+
+// Space, Enter and the arrows open the list of the drop-down that has the focus.
+function onGridKey(view, event) {
+    const row = view.rowOf(event.target);
+    const cell = row && row.cellOf(event.target);
+    const closed = event.target.matches('.SumoSelect[dockey]:not(.disabled)');
+    if (cell && closed && [13, 32, 38, 40].includes(event.keyCode)) {
+        event.preventDefault();
+        useControl(view, row, cell, event.target);
+    }
+}
+
+// A drag over a control must not select rows.
+function onGridMove(view, event) {
+    if (!wrentabledialog_obj.isCursorDown || wrentabledialog_obj.preventSelect) {
+        return;
+    }
+    const row = view.rowOf(event.target);
+    const cell = row && row.cellOf(event.target);
+    if (cell && view.tab.still.includes(cell.field)) {
+        wrentabledialog_obj.preventSelect = true;
+    }
+}
+
+function rowKeys(view, row) {
+    return row === view.batch ? view.grid.records.map(record => record.key) : [row.key];
+}
+
+Object.assign(wrentabledialog_obj, {
+    disconnectRows(cell, keys) {
+        if (wrentabledialog.confirmDisconnect(keys)) {
+            this.changeConnection(cell, keys, false, 'Disconnecting');
+        }
+    },
+
+    connectRows(cell, keys) {
+        this.changeConnection(cell, keys, true, 'Connecting');
+    },
+
+    changeConnection(cell, keys, connect, message) {
+        const grid = this.activeGrid();
+        grid.lock(escapeMarkup(translate(message)), true);
+        try {
+            wrentabledialog.connect(keys, connect);
+            cell.swap(connect, 'on', 'off');
+        } finally {
+            grid.unlock();
+        }
+    },
+
+    lockRow(cell, keys, lock) {
+        cell.swap(lock, 'locked', 'open');
+        wrentabledialog.setParamLock(keys, lock);
+    },
+
+    editCamera(key) {
+        this.recordiconClick = true;
+        wrentabledialog.editDoc(key);
+    }
+});

@@ -1,0 +1,152 @@
+// One cell of a drawn row: its elements, and what they were last given to show.
+//
+// What a cell may show is told by its kind, one a column:
+//   markup          the elements. `part` names one for the writers below, `dockey` and `id` are completed by the
+//                   row's key, `{short}` is the tab's short name.
+//   empty(record)   whether the cell has no elements at all; asked at a full refresh only
+//   rebuild(...)    what only a full refresh brings
+//   tick(...)       what every refresh brings; a full refresh runs it after `rebuild`
+// Both get the cell, the record and the list's status, and write through the cell, which leaves out what the
+// elements show already.
+class Cell {
+    constructor(box, kind, short) {
+        this.box = box; // the element that w2ui pads
+        this.kind = kind;
+        this.short = short;
+        this.content = null; // the root of the markup, made when the cell is first filled
+        this.filled = false;
+        this.key = null; // the key that the elements carry
+        this.parts = {};
+        this.shown = {}; // `part@what` -> value last written
+    }
+
+    rebuild(record, status) {
+        const empty = this.kind.empty !== undefined && this.kind.empty(record);
+        if (empty) {
+            this.clear();
+            return;
+        }
+        this.fill();
+        this.bind(record.key);
+        if (this.kind.rebuild) {
+            this.kind.rebuild(this, record, status);
+        }
+        this.tick(record, status);
+    }
+
+    tick(record, status) {
+        if (this.filled && this.kind.tick) {
+            this.kind.tick(this, record, status);
+        }
+    }
+
+    clear() {
+        if (this.filled) {
+            this.box.removeChild(this.content);
+            this.filled = false;
+        }
+    }
+
+    fill() {
+        if (this.filled) {
+            return;
+        }
+        if (!this.content) {
+            this.make();
+        }
+        this.box.appendChild(this.content);
+        this.filled = true;
+    }
+
+    make() {
+        this.content = markupOf(this.kind, this.short).cloneNode(true);
+        const elements = [this.content].concat(Array.from(this.content.querySelectorAll('[part], [dockey]')));
+        elements.filter(element => element.hasAttribute('part')).forEach(element => {
+            this.parts[element.getAttribute('part')] = element;
+            element.removeAttribute('part');
+        });
+        this.bound = elements.filter(element => element.hasAttribute('dockey'));
+        this.prefixes = this.bound.map(element => element.id);
+    }
+
+    bind(key) {
+        if (this.key === key) {
+            return;
+        }
+        this.key = key;
+        this.bound.forEach((element, index) => {
+            element.setAttribute('dockey', key);
+            if (this.prefixes[index]) {
+                element.id = this.prefixes[index] + key;
+            }
+        });
+    }
+
+    // After the user's touch the elements may show something else.
+    forget() {
+        this.shown = {};
+    }
+
+    differs(part, what, value) {
+        const slot = part + '@' + what;
+        if (this.shown[slot] === value) {
+            return false;
+        }
+        this.shown[slot] = value;
+        return true;
+    }
+
+    // A text that stays one node keeps what the engine knows of it, and is laid out sooner.
+    text(part, value) {
+        if (!this.differs(part, 'text', value)) {
+            return;
+        }
+        const element = this.parts[part];
+        if (element.firstChild) {
+            element.firstChild.data = value;
+        } else {
+            element.appendChild(document.createTextNode(value));
+        }
+    }
+
+    attribute(part, name, value) {
+        if (this.differs(part, name, value)) {
+            this.parts[part].setAttribute(name, value);
+        }
+    }
+
+    flag(part, name, on) {
+        if (!this.differs(part, name, on)) {
+            return;
+        }
+        if (on) {
+            this.parts[part].setAttribute(name, '');
+        } else {
+            this.parts[part].removeAttribute(name);
+        }
+    }
+
+    classes(part, names) {
+        if (this.differs(part, 'class', names)) {
+            this.parts[part].className = names;
+        }
+    }
+
+    // One of the two stands in the cell, the other is hidden.
+    swap(on, first, second) {
+        this.flag(first, 'hidden', !on);
+        this.flag(second, 'hidden', on);
+    }
+}
+
+// The markup of a kind as elements, parsed once a tab.
+function markupOf(kind, short) {
+    const parsed = kind.parsed || (kind.parsed = {});
+    if (!parsed[short]) {
+        const box = document.createElement('div');
+        const markup = typeof kind.markup === 'function' ? kind.markup() : kind.markup;
+        box.innerHTML = markup.replace(/\s*\n\s*/g, ' ').replace(/ ?([<>]) ?/g, '$1').replace(/\{short\}/g, short);
+        parsed[short] = box.firstElementChild;
+    }
+    return parsed[short];
+}

@@ -1,0 +1,57 @@
+// Which columns a grid has, and where. The order is a preference; anything may have changed it.
+Object.assign(wrentabledialog_obj, {
+    // Columns of a tab in the order that the preference tells; a field that the tab does not have adds nothing.
+    createColumns(shortName, preferenceKey) {
+        const tab = TABS.find(item => item.name === shortName);
+        return this.storedFields(tab, preferenceKey).map(field => {
+            const kind = columnKind(tab, field);
+            return {
+                field,
+                kind,
+                caption: escapeMarkup(kind.caption()).replace('/', '/<wbr>'),
+                title: '',
+                size: kind.size,
+                hidden: !this.isDisplayed(tab, field)
+            };
+        });
+    },
+
+    // The known fields of the stored order, each once.
+    storedFields(tab, preferenceKey) {
+        const stored = wrentabledialog.getPrefString(preferenceKey).split(',');
+        return stored.filter((field, index) => tab.fields.includes(field) && stored.indexOf(field) === index);
+    },
+
+    isChangedColumns(number) {
+        const tab = TABS[number];
+        const columns = views[number].grid.columns;
+        return this.storedFields(tab, tab.orderKey)
+            .filter(field => columns.some(column => column.field === field))
+            .some((field, index) => columns[index].field !== field);
+    },
+
+    resetAllColumns(number) {
+        const tab = TABS[number];
+        if (this.activeTab() !== number) {
+            $('#tabs').tabs('option', 'active', number);
+        }
+        views[number].grid.columns = this.createColumns(tab.name, tab.orderKey);
+        views[number].grid.refresh();
+        this.refreshColumnNumber(number);
+    },
+
+    refreshColumnNumber(selected) {
+        const grid = views[selected].grid;
+        const fields = { startFrame: 'selectStartFrameNo', endFrame: 'selectEndFrameNo' };
+        Object.keys(wrentabledialog_column_obj).forEach(name => {
+            const stem = name.replace(/ColumnNo$/, '');
+            const position = grid.getColumn(fields[stem] || stem, true);
+            wrentabledialog_column_obj[name] = position === null ? -1 : position;
+        });
+    }
+});
+
+// The same field is another column where recorded frames are listed.
+function columnKind(tab, field) {
+    return COLUMNS[tab.memory && field === 'frameRate' ? 'recordedFrameRate' : field];
+}

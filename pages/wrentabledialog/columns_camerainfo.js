@@ -1,0 +1,30 @@
+// Columns of the camera information tab.
+COLUMNS.connectionStatus = {
+    caption: () => translate('Connect') + '/' + translate('Disconnect'),
+    size: '5%',
+    align: 'left',
+    empty: record => isBatch(record) && record.recordCount < 1,
+    markup: `<div class="flexWrapper" dockey>
+        <a class="wren_button_connection_connect" part="on" id="wren_button_connection_connect_" dockey></a>
+        <a class="wren_button_connection_disconnect" part="off" id="wren_button_connection_disconnect_" dockey></a>
+        </div>`,
+    tick(cell, record, status) {
+        const disabled = status.disabled || (isBatch(record) ? status.allLocked : Boolean(record.lock));
+        cell.swap(Boolean(record.connected), 'on', 'off');
+        cell.flag('on', 'disabled', disabled);
+        cell.flag('off', 'disabled', disabled);
+    }
+};
+
+COLUMNS.comment = {
+    caption: () => translate('Comment'),
+    size: '10%',
+    align: 'left',
+    empty: isBatch,
+    markup: '<div class="wren_cameraInfo_comment" part="comment" id="wren_cameraInfo_comment_" dockey></div>',
+    tick(cell, record, status) {
+        cell.text('comment', record.comment || '');
+        cell.attribute('comment', 'comments', record.comments || '');
+        cell.attribute('comment', 'cursorDisable', String(Boolean(record.lock) || status.disabled));
+    }
+};

@@ -1,0 +1,130 @@
+// Columns that several tabs share. For what a kind of cell is see `Cell`.
+const isBatch = record => record.key === wrentabledialog_obj.batchDocKey;
+const isOff = record => !record.connected;
+const isOffOrBatch = record => isOff(record) || isBatch(record);
+
+const COLUMNS = {};
+
+COLUMNS.lock = {
+    caption: () => translate('Lock'),
+    size: '5%',
+    align: 'right',
+    empty: record => isOffOrBatch(record) || record.lowLightMode,
+    markup: `<div class="flexWrapper" part="wrapper" dockey>
+        <a class="wren_button_lockStatus_lock" part="locked" id="wren_{short}_button_lockStatus_lock_" dockey></a>
+        <a class="wren_button_lockStatus_unlock" part="open" id="wren_{short}_button_lockStatus_unlock_" dockey></a>
+        </div>`,
+    tick(cell, record, status) {
+        cell.classes('wrapper', record.lock ? 'flexWrapper wren-lock-status' : 'flexWrapper');
+        cell.swap(Boolean(record.lock), 'locked', 'open');
+        cell.flag('locked', 'disabled', status.disabled);
+        cell.flag('open', 'disabled', status.disabled);
+    }
+};
+
+COLUMNS.connectIcon = {
+    caption: () => '',
+    size: '32px',
+    align: 'left',
+    empty: isBatch,
+    markup: '<div class="wren_connectIcon" part="icon" id="wren_{short}_connectIcon_" dockey></div>',
+    tick(cell, record, status) {
+        cell.attribute('icon', 'connected', record.mobileSelected ? 'mobile' : String(record.connected));
+        cell.attribute('icon', 'cursorDisable', String(status.disabled));
+    }
+};
+
+COLUMNS.cameraName = {
+    caption: () => translate('Camera name'),
+    size: '20%',
+    align: 'left',
+    markup: `<div class="flexWrapper wren-name-wrapper" dockey>
+        <a class="wren_button_edit_camera_name" part="edit" id="wren_{short}_button_edit_camera_name_" dockey></a>
+        <label class="wren_label_edit_camera_name" part="label" dockey></label>
+        </div>`,
+    rebuild(cell, record) {
+        const edit = cell.parts.edit;
+        const wanted = !isOffOrBatch(record);
+        if (wanted !== (edit.parentNode !== null)) {
+            if (wanted) {
+                cell.content.insertBefore(edit, cell.parts.label);
+            } else {
+                cell.content.removeChild(edit);
+            }
+        }
+        cell.text('label', record.cameraName);
+    },
+    tick(cell, record, status) {
+        cell.flag('edit', 'disabled', Boolean(record.lock) || status.disabled);
+        cell.attribute('label', 'cursorDisable', String(status.disabled));
+    }
+};
+
+COLUMNS.alert = {
+    caption: () => translate('Alert'),
+    size: '5%',
+    align: 'right',
+    empty: isOffOrBatch,
+    markup: '<div class="wren_alert" part="image" id="wren_{short}_alert_" dockey></div>',
+    tick(cell, record) {
+        cell.attribute('image', 'alert', String(record.alert !== ''));
+        cell.attribute('image', 'alerts', record.alert);
+    }
+};
+
+COLUMNS.cameraStatus = {
+    caption: () => translate('State of the camera'),
+    size: '10%',
+    align: 'right',
+    empty: isOff,
+    markup: '<div class="wren_cameraStatus" part="image" id="wren_{short}_cameraStatus_" dockey></div>',
+    tick(cell, record) {
+        cell.attribute('image', 'status', record.cameraStatus);
+    }
+};
+
+COLUMNS.sync = {
+    caption: () => translate('Sync signal input state'),
+    size: '10%',
+    align: 'right',
+    empty: isOff,
+    markup: '<div class="wren_sync" part="image" id="wren_{short}_sync_" dockey></div>',
+    tick(cell, record) {
+        cell.attribute('image', 'sync', record.syncStatus);
+    }
+};
+
+// A field whose text is shown as it stands.
+function plainColumn(caption, field) {
+    return {
+        caption: () => translate(caption),
+        size: '10%',
+        align: 'left',
+        markup: '<span class="wren_text" part="text" dockey></span>',
+        rebuild(cell, record) {
+            cell.text('text', record[field] === undefined ? '' : record[field]);
+        }
+    };
+}
+
+COLUMNS.ipAddress = Object.assign(plainColumn('IP address', 'ipAddress'), { align: 'right' });
+COLUMNS.externalSync = plainColumn('ExternalSync', 'externalSync');
+COLUMNS.triggerIn = plainColumn('TriggerIn', 'triggerIn');
+COLUMNS.triggerSwIn = plainColumn('TriggerSwIn', 'triggerSwIn');
+COLUMNS.irigTimeStamp = plainColumn('IRIG Time Stamp', 'irigTimeStamp');
+COLUMNS.irigSync = plainColumn('IRIG Sync', 'irigSync');
+COLUMNS.recordedFrameRate = plainColumn('Frame rate', 'frameRate');
+COLUMNS.originalStartFrameNo = plainColumn('Start frame', 'originalStartFrameNo');
+COLUMNS.originalEndFrameNo = plainColumn('End frame', 'originalEndFrameNo');
+COLUMNS.totalFrame = plainColumn('Save frame', 'totalFrame');
+
+// Columns whose cells are still to come: they stand, empty, at their place in the order.
+function emptyColumn(caption, size) {
+    return { caption: () => translate(caption), size, align: 'left', empty: () => true };
+}
+
+COLUMNS.recordCheck = Object.assign(emptyColumn('recordCheck', '10%'), { align: 'right' });
+COLUMNS.plugin = emptyColumn('Plugin', '50%');
+COLUMNS.selectStartFrameNo = emptyColumn('selectStartFrameNo', '10%');
+COLUMNS.selectEndFrameNo = emptyColumn('selectEndFrameNo', '10%');
+COLUMNS.triggerOffset = emptyColumn('triggerOffset', '10%');

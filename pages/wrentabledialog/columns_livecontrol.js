@@ -1,0 +1,155 @@
+// Columns of the live control tab.
+
+// A drop-down: a caption until it is opened, see `dropDown`.
+//   word       the last word of the select's class and id
+//   choices    the list of a record, objects with `value` and `name`
+//   value      the present value of a record
+//   locked     whether the select is disabled beyond what holds for the whole list
+//   send       the bridge call that takes the keys and the chosen value
+function dropDownColumn(options) {
+    const name = `wren_livecontrol_${options.word}`;
+    return {
+        caption: () => translate(options.caption),
+        size: '150px',
+        align: 'left',
+        choices: options.choices,
+        value: options.value,
+        send: options.send,
+        empty: isOff,
+        markup: `<div class="SumoSelect compact" part="frame" dockey>
+            <select class="${name} SumoUnder" part="select" id="${name}_" tabindex="-1" dockey>
+            <option part="option"></option></select>
+            <p class="CaptionCont SelectBox ${name}" dockey><span part="text"></span></p>
+            </div>`,
+        rebuild(cell, record) {
+            cell.choices = options.choices(record) || [];
+            showChoice(cell, options.value(record), true);
+        },
+        tick(cell, record, status) {
+            showChoice(cell, options.value(record), false);
+            const disabled = !options.send || options.locked(record) || status.disabled;
+            cell.classes('frame', disabled ? 'SumoSelect compact disabled' : 'SumoSelect compact');
+            cell.attribute('frame', 'tabindex', disabled ? '-1' : '0');
+            cell.flag('select', 'disabled', disabled);
+        }
+    };
+}
+
+// Shows the choice of that value. One that is not in the list, or none, empties the caption at a full refresh only.
+function showChoice(cell, value, full) {
+    if (!full && (!value || !cell.differs('select', 'value', value))) {
+        return;
+    }
+    const choice = cell.choices.find(item => item.value === value);
+    if (!choice && !full) {
+        return;
+    }
+    cell.differs('select', 'value', value);
+    cell.text('text', choice ? choice.name : '');
+    cell.text('option', choice ? choice.name : '');
+    cell.attribute('option', 'value', choice ? choice.value : '');
+}
+
+COLUMNS.frameRate = dropDownColumn({
+    caption: 'Frame rate',
+    word: 'framerate',
+    choices: record => record.frameRates,
+    value: record => record.frameRate,
+    locked: record => Boolean(record.lock || record.lowLightMode),
+    send: (keys, value) => wrentabledialog.setFrameRate(keys, value)
+});
+
+COLUMNS.shutterSpeed = dropDownColumn({
+    caption: 'Shutter speed',
+    word: 'shutterSpeed',
+    choices: record => record.shutterSpeeds,
+    value: record => record.shutterSpeed,
+    locked: record => Boolean(record.lock)
+});
+
+COLUMNS.resolution = dropDownColumn({
+    caption: 'Resolution',
+    word: 'resolution',
+    choices: record => record.resolutions && record.resolutions.map(text => ({ value: text, name: text })),
+    value: record => record.resolution,
+    locked: record => Boolean(record.lock || record.lowLightMode)
+});
+
+COLUMNS.trigger = dropDownColumn({
+    caption: 'Trigger mode',
+    word: 'trigger',
+    choices: record => record.triggerModes,
+    value: record => record.triggerMode,
+    locked: record => Boolean(record.lock || record.lowLightMode)
+});
+
+COLUMNS.reduce = {
+    caption: () => translate('Live speed'),
+    size: '60px',
+    align: 'center',
+    empty: record => isOff(record) || record.reduceModeSupported === false,
+    markup: () => `<div class="flexWrapper" part="wrapper" dockey>
+        <a class="wren_button_reduce reduceON" part="on"
+            id="wren_button_reduce_on_" dockey>${caption('_Priority')}</a>
+        <a class="wren_button_reduce reduceOFF" part="off"
+            id="wren_button_reduce_off_" dockey>${caption('_Priority')}</a>
+        </div>`,
+    tick(cell, record, status) {
+        const disabled = Boolean(record.lock) || status.disabled || wrentabledialog.isSuspendReduceMode(record.key);
+        cell.classes('wrapper', record.reduceMode ? 'flexWrapper wren-reduce-status' : 'flexWrapper');
+        cell.swap(Boolean(record.reduceMode), 'on', 'off');
+        cell.flag('on', 'disabled', disabled);
+        cell.flag('off', 'disabled', disabled);
+    }
+};
+
+COLUMNS.lowlight = {
+    caption: () => translate('Lowlight'),
+    size: '200px',
+    align: 'left',
+    empty: isOff,
+    markup: () => `<div class="flexWrapper" part="wrapper" dockey>
+        <a class="wren_button_lowlight lowlightON" part="on"
+            id="wren_button_lowlight_on_" dockey>${caption('ON')}</a>
+        <a class="wren_button_lowlight lowlightOFF" part="off"
+            id="wren_button_lowlight_off_" dockey>${caption('ON')}</a>
+        <div class="wren-slider-container" dockey><label dockey>${caption('dark')}</label>
+        <div class="wren_slider_lowlight ui-slider ui-slider-horizontal ui-widget ui-widget-content ui-corner-all"
+            part="slider" id="wren_slider_lowlight_" dockey
+            ><span class="ui-slider-handle ui-state-default ui-corner-all" part="handle"></span></div>
+        <label dockey>${caption('bright')}</label><span class="slider-result" part="result" dockey>0</span></div>
+        </div>`,
+    rebuild(cell, record) {
+        placeSlider(cell, record);
+    },
+    tick(cell, record, status) {
+        if (record.lowLightMode && cell.differs('slider', 'speed', record.shutterSpeed)) {
+            placeSlider(cell, record);
+        }
+        const disabled = Boolean(record.lock) || status.disabled;
+        cell.classes('wrapper', record.lowLightMode ? 'flexWrapper wren-lowlight-status' : 'flexWrapper');
+        cell.swap(!record.lowLightMode, 'on', 'off');
+        cell.flag('on', 'disabled', disabled);
+        cell.flag('off', 'disabled', disabled);
+        cell.flag('slider', 'disabled', disabled || !record.lowLightMode);
+    }
+};
+
+// The slider runs against the list of speeds; a speed that is not in the list leaves it at its right end.
+function placeSlider(cell, record) {
+    const speeds = record.shutterSpeeds || [];
+    const max = Math.max(speeds.length - 1, 0);
+    let index = speeds.length - 1;
+    while (index >= 0 && speeds[index].value !== record.shutterSpeed) {
+        index--;
+    }
+    const value = Math.min(max - index, max);
+    cell.differs('slider', 'speed', record.shutterSpeed);
+    cell.text('result', String(value));
+    cell.attribute('handle', 'style', `margin-left: calc(${max > 0 ? value * 100 / max : 0}% - 5px)`);
+}
+
+// A translated text inside markup.
+function caption(key) {
+    return escapeMarkup(translate(key));
+}

@@ -1,0 +1,71 @@
+// How the page keeps itself current: it asks for everything, at each tick of the back end's timer and after each
+// change.
+Object.assign(wrentabledialog_obj, {
+    open() {
+        wrentabledialog.onOpen();
+    },
+
+    close() {
+        wrentabledialog.onClose();
+    },
+
+    update() {
+        this.applyStyles();
+        this.updateCommon(false);
+    },
+
+    autoUpdate() {
+        this.updateCommon(true);
+    },
+
+    updateCommon(isAuto) {
+        let automatic = isAuto;
+        if (wrentabledialog.isLiveMode()) {
+            const status = parseReply(wrentabledialog.getRecStatus());
+            if (status) {
+                this.recStatusChanged(status.recStatus, status.recStatusLabel);
+            }
+        }
+        zeb4func.setDisable(wrentabledialog, controls);
+        if (this.preventSelectGroup) {
+            zeb4func.disable('.groupButton', true);
+        }
+        this.refreshActionArea();
+        const active = this.activeTab();
+        if (this.isChangedColumns(active)) {
+            this.resetAllColumns(active);
+            automatic = false;
+        }
+        this.refreshCustomInfoContainer();
+        this.updateExternalSyncArea();
+        this.refreshRecords(active, automatic);
+        this.resizeTableElements();
+    },
+
+    // Our sheet comes after the host's, which may have changed with the style or the mode.
+    applyStyles() {
+        zeb4func.applyStyle(wrentabledialog);
+        const style = wrentabledialog.getStyle();
+        const mode = wrentabledialog.isLiveMode() ? 'live' : wrentabledialog.isMemoryMode() ? 'memory' : 'file';
+        const shown = this.shownStyle || { style: 'light', mode };
+        this.shownStyle = { style, mode };
+        if (shown.style !== style || shown.mode !== mode) {
+            this.swapStyleSheet(style === 'light' ? 'qrc:/wrentabledialog.css' : 'qrc:/wrentabledialog-dark.css');
+        }
+    },
+
+    // The old sheet goes when the new one is there, so that the page never stands unstyled.
+    swapStyleSheet(address) {
+        const old = document.getElementById('wren-css');
+        const link = document.createElement('link');
+        old.removeAttribute('id');
+        link.id = 'wren-css';
+        link.rel = 'stylesheet';
+        link.href = address;
+        link.addEventListener('load', () => {
+            old.parentNode.removeChild(old);
+            this.resizeTableElements();
+        });
+        document.head.appendChild(link);
+    }
+});

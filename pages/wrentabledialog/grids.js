@@ -1,0 +1,79 @@
+// The seven grids: how they are made, and what happens to all of them.
+const ROW_HEIGHT = 34;
+const views = []; // tab number -> GridView
+
+Object.assign(wrentabledialog_obj, {
+    initializeList() {
+        TABS.forEach(tab => {
+            const grid = $('#' + tab.gridName).w2grid({
+                name: tab.gridName,
+                reorderColumns: true,
+                keyboard: false,
+                multiSelect: true,
+                recordHeight: ROW_HEIGHT,
+                show: { emptyRecords: false },
+                // w2ui counts the arguments in the handler's text: the first brackets must hold the event alone.
+                onSelect: (event) => this.onSelect(tab, event),
+                onUnselect: (event) => this.onUnselect(tab, event),
+                onClick: (event) => this.clickRecordFunc(tab, event),
+                onDblClick: (event) => event.preventDefault()
+            });
+            views[tab.number] = new GridView(grid, tab, () => this.closeFloating());
+            grid.columns = this.createColumns(tab.name, tab.orderKey);
+            grid.refresh();
+            listenToGrid(views[tab.number]);
+            alertTip(grid.box);
+        });
+    },
+
+    // The control table is applied once before the tabs are made.
+    tabsExist: () => $('#tabs').tabs('instance') !== undefined,
+
+    activeTab() {
+        return this.tabsExist() ? $('#tabs').tabs('option', 'active') : this.activeLiveTabNumber;
+    },
+
+    activeGrid() {
+        return views[this.activeTab()].grid;
+    },
+
+    // What floats over a row and does not move with it.
+    closeFloating() {
+        dropDown.close();
+        closeTip();
+    },
+
+    lockGrids() {
+        this.activeGrid().clear();
+        this.activeGrid().lock('');
+        this.gridLock = true;
+    },
+
+    unlockGrids() {
+        if (this.gridLock) {
+            views.forEach(view => view.grid.unlock());
+            this.gridLock = false;
+        }
+    }
+});
+
+// Alerts and comments are long; the whole text stands in a tip.
+let tipOwner = null;
+
+function alertTip(box) {
+    $(box).tooltip({
+        items: '[alerts], [comments]',
+        content() {
+            return escapeMarkup(this.getAttribute('alerts') || this.getAttribute('comments') || '');
+        },
+        open: event => { tipOwner = event.originalEvent.target; },
+        close: () => { tipOwner = null; },
+        hide: false
+    });
+}
+
+function closeTip() {
+    if (tipOwner) {
+        $(tipOwner).trigger('mouseleave');
+    }
+}

@@ -1,0 +1,241 @@
+// What a grid has on the screen. w2ui gives the frame, the header and the selection; the rows are drawn here, and
+// only those that can be seen, so that a table of a thousand cameras costs what one of thirty does.
+const OVERSCAN = 4; // rows drawn beyond each edge, against a glimpse of nothing while scrolling
+
+class GridView {
+    constructor(grid, tab, onScroll) {
+        this.grid = grid;
+        this.tab = tab;
+        this.onScroll = onScroll;
+        this.rows = []; // drawn, in the order of their lines
+        this.spare = []; // drawn once, to be used again
+        this.batch = null; // the drawn batch row
+        this.batchRecord = null; // the batch record of the last full refresh
+        this.newest = new Map(); // key -> record of the last refresh of any kind
+        this.newestBatch = null;
+        this.status = null; // the list's status at that refresh
+        this.size = ''; // of the grid's box, as last laid out
+        this.height = 0; // of the visible part, in pixels
+        this.held = 0; // while above 0, w2ui's refresh waits
+        this.owed = false;
+        this.override();
+    }
+
+    override() {
+        const grid = this.grid;
+        const refresh = grid.refresh;
+        grid.getRecordsHTML = () => this.frameMarkup();
+        grid.getSummaryHTML = () => this.summaryMarkup();
+        grid.scroll = () => this.scrolled();
+        grid.refresh = () => this.refresh(() => refresh.call(grid));
+    }
+
+    frameMarkup() {
+        const spacer = place => `<tr line="${place}"><td colspan="200" style="padding: 0; border: 0"></td></tr>`;
+        const height = this.grid.records.length * this.grid.recordHeight;
+        return `<table>${this.grid.getRecordHTML(-1, 0)}${spacer('top')}${spacer('bottom')}</table>`
+            .replace('line="bottom"', `line="bottom" style="height: ${height}px"`);
+    }
+
+    summaryMarkup() {
+        const place = `<tr class="wren-batch-place" style="height: ${this.grid.recordHeight}px"><td></td></tr>`;
+        return `<table>${this.grid.getRecordHTML(-1, 0)}${place}</table>`;
+    }
+
+    // w2ui's refresh throws the frame away and loses the scroll position; the drawn rows move over to the new one.
+    refresh(draw) {
+        if (this.held > 0) {
+            this.owed = true;
+            return 0;
+        }
+        const { scrollTop, scrollLeft } = this.grid.last;
+        const took = draw();
+        this.grid.last.scrollTop = scrollTop;
+        this.grid.last.scrollLeft = scrollLeft;
+        this.mount();
+        return took;
+    }
+
+    // Runs changes of columns, each of which w2ui would answer with a refresh, and refreshes once.
+    together(changes) {
+        this.held++;
+        try {
+            changes();
+        } finally {
+            this.held--;
+        }
+        if (this.held === 0 && this.owed) {
+            this.owed = false;
+            this.grid.refresh();
+        }
+    }
+
+    mount() {
+        this.box = document.getElementById(`grid_${this.grid.name}_records`);
+        if (!this.box) {
+            return;
+        }
+        const columns = this.grid.columns.map(column => `${column.field}${column.hidden}`).join();
+        if (this.columns !== columns) {
+            this.columns = columns;
+            this.rows = [];
+            this.spare = [];
+            this.batch = null;
+        }
+        this.body = this.box.querySelector('tbody');
+        this.top = this.body.querySelector('tr[line="top"]');
+        this.bottom = this.body.querySelector('tr[line="bottom"]');
+        this.height = this.box.clientHeight;
+        this.box.scrollTop = this.grid.last.scrollTop;
+        this.box.scrollLeft = this.grid.last.scrollLeft;
+        this.grid.last.scrollTop = this.box.scrollTop;
+        this.drawBatch();
+        this.draw(true);
+    }
+
+    // Takes the records of a full refresh.
+    setRecords(records, batch) {
+        const grid = this.grid;
+        const frame = grid.records.length !== records.length || grid.summary.length !== batch.length;
+        const selected = new Set(grid.last.selection.indexes.map(index => (grid.records[index] || {}).key));
+        grid.records = records;
+        grid.summary = batch;
+        grid.total = records.length;
+        grid.last.selection.indexes = Array.from(records.keys()).filter(index => selected.has(records[index].key));
+        this.batchRecord = batch[0] || null;
+        if (frame || !this.box) {
+            grid.refresh();
+            return;
+        }
+        this.drawBatch();
+        this.draw(true);
+    }
+
+    setNewest(records, batch) {
+        this.newest = new Map(records.map(record => [record.key, record]));
+        this.newestBatch = batch[0] || null;
+    }
+
+    // Brings the drawn rows up to the newest records.
+    tick() {
+        this.rows.forEach(row => this.tickRow(row));
+        if (this.batch && this.newestBatch) {
+            this.batch.tick(this.newestBatch, this.status);
+        }
+    }
+
+    tickRow(row) {
+        const record = this.newest.get(row.key);
+        if (record) {
+            row.tick(record, this.status);
+        }
+    }
+
+    scrolled() {
+        if (this.box) {
+            this.draw(false);
+            this.onScroll();
+        }
+    }
+
+    // To be called when sizes may have changed, once everything is written.
+    resized() {
+        const size = `${this.grid.box.clientWidth} x ${this.grid.box.clientHeight}`;
+        if (!this.box || this.size === size) {
+            return;
+        }
+        this.size = size;
+        this.grid.resize();
+        this.height = this.box.clientHeight;
+        this.draw(false);
+    }
+
+    // The lines to draw, counted from 0, the last one not included.
+    range() {
+        const total = this.grid.records.length;
+        const rowHeight = this.grid.recordHeight;
+        const count = Math.min(total, Math.ceil(this.height / rowHeight) + 1 + 2 * OVERSCAN);
+        const first = Math.floor(this.grid.last.scrollTop / rowHeight) - OVERSCAN;
+        const start = Math.max(0, Math.min(first, total - count));
+        return { start, end: this.height > 0 ? start + count : start };
+    }
+
+    // Puts a row on each line of the range. `full` draws all of them anew, else only those that come into view.
+    draw(full) {
+        if (!this.status) {
+            return;
+        }
+        const { start, end } = this.range();
+        const kept = new Map();
+        this.rows.forEach(row => {
+            if (row.index >= start && row.index < end) {
+                kept.set(row.index, row);
+            } else {
+                row.blur();
+                row.element.parentNode.removeChild(row.element);
+                this.spare.push(row);
+            }
+        });
+        this.rows = [];
+        for (let index = start; index < end; index++) {
+            const row = kept.get(index) || this.spare.pop() || new DrawnRow(this.grid, this.tab.name);
+            row.index = index;
+            this.rows.push(row);
+            if (full || !kept.has(index)) {
+                this.rebuildRow(row, this.grid.records[index]);
+            }
+        }
+        this.place(start, end);
+        this.showSelection();
+    }
+
+    // A row that comes into view shows what the last full refresh brought, and then what came since.
+    rebuildRow(row, record) {
+        row.rebuild(record, row.index + 1, this.status);
+        if (this.newest.get(record.key) !== record) {
+            this.tickRow(row);
+        }
+    }
+
+    place(start, end) {
+        let next = this.top.nextSibling;
+        this.rows.forEach(row => {
+            if (row.element === next) {
+                next = next.nextSibling;
+            } else {
+                this.body.insertBefore(row.element, next);
+            }
+        });
+        const rowHeight = this.grid.recordHeight;
+        setStyle(this.top, 'height', `${start * rowHeight}px`);
+        setStyle(this.bottom, 'height', `${(this.grid.records.length - end) * rowHeight}px`);
+    }
+
+    drawBatch() {
+        const summary = document.getElementById(`grid_${this.grid.name}_summary`);
+        if (!this.batchRecord || !this.status) {
+            return;
+        }
+        this.batch = this.batch || new DrawnRow(this.grid, this.tab.name);
+        this.batch.rebuild(this.batchRecord, 1, this.status);
+        const place = summary.querySelector('.wren-batch-place');
+        if (place) {
+            place.parentNode.replaceChild(this.batch.element, place);
+        }
+    }
+
+    showSelection() {
+        const selected = new Set(this.grid.last.selection.indexes);
+        this.rows.forEach(row => row.select(selected.has(row.index)));
+    }
+
+    // Connected rows above a line.
+    connectedBefore(index) {
+        return this.grid.records.slice(0, index).filter(record => record.connected).length;
+    }
+
+    rowOf(element) {
+        const tr = element.closest('tr[recid]');
+        return tr && (this.batch && this.batch.element === tr ? this.batch : this.rows.find(row => row.element === tr));
+    }
+}

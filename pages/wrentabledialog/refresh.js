@@ -1,0 +1,82 @@
+// From `getRecords` to the rows.
+Object.assign(wrentabledialog_obj, {
+    // A full refresh brings the list of cameras and draws every row; an automatic one only what rows show already.
+    refreshRecords(tabkey, autoUpdate) {
+        const data = this.fetchRecords(tabkey);
+        if (!data) {
+            return;
+        }
+        const view = views[tabkey];
+        view.status = this.readListStatus(data.records);
+        view.setNewest(data.records, data.batch);
+        if (!autoUpdate) {
+            this.closeFloating();
+            this.refreshRecords_w2ui(data.records, data.batch, view.grid);
+        }
+        this.refreshSelectedRecords(data.records, view.grid);
+        if (autoUpdate) {
+            view.tick();
+        } else {
+            zeb4func.updateUserOperationLogHandler('#wren-root-block');
+        }
+    },
+
+    // The reply that is the same text as the last one is that one's data. Null when it is no data at all.
+    fetchRecords(tabkey) {
+        const filter = Number(document.getElementById('recordFilter').value);
+        const text = wrentabledialog.getRecords(JSON.stringify({ group: this.selectedGroup(), filter, tab: tabkey }));
+        const last = this.lastReply;
+        if (last && last.tab === tabkey && last.text === text) {
+            return last.data;
+        }
+        const data = parseReply(text);
+        if (!data || !Array.isArray(data.records) || !Array.isArray(data.batch)) {
+            return null;
+        }
+        this.lastReply = { tab: tabkey, text, data };
+        return data;
+    },
+
+    refreshRecords_w2ui(records, batch, grid) {
+        this.isRebuilding = true;
+        try {
+            viewOf(grid).setRecords(records, batch);
+        } finally {
+            this.isRebuilding = false;
+        }
+    },
+
+    // What holds for all rows at once, asked once a refresh.
+    readListStatus(records) {
+        const ready = wrentabledialog.isRecReady();
+        const recording = wrentabledialog.isRecording();
+        const blocked = wrentabledialog.isOtherPluginOpen() || wrentabledialog.isRecordDuringExporting();
+        return {
+            style: this.rowStyle(ready, recording, blocked),
+            disabled: this.isCtsReady || ready || recording || blocked,
+            allLocked: records.length > 0 && records.every(record => record.lock)
+        };
+    },
+
+    // True while the page must accept no input in the rows.
+    getListDisableStatus() {
+        return this.readListStatus([]).disabled;
+    },
+
+    rowStyle(ready, recording, blocked) {
+        if (blocked) {
+            return 'color: black !important;background: lightgray !important;';
+        }
+        if (!ready && !recording) {
+            return '';
+        }
+        const colour = wrentabledialog.getPrefString(recording
+            ? PREF_KEY_WREN_SETTINGS_TABLE_COLOR_RECORDING
+            : PREF_KEY_WREN_SETTINGS_TABLE_COLOR_RECREADY);
+        return `color: white !important;background: ${colour} !important;`;
+    }
+});
+
+function viewOf(grid) {
+    return views.find(view => view.grid === grid);
+}

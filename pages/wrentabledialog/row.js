@@ -1,0 +1,89 @@
+// A drawn row: an element of the table that shows one record, and another one when it is needed elsewhere.
+class DrawnRow {
+    constructor(grid, short) {
+        this.grid = grid;
+        this.key = null;
+        this.line = null;
+        this.cells = []; // in the order of the columns that are shown
+        this.element = document.createElement('tr');
+        grid.columns.forEach((column, index) => {
+            if (!column.hidden) {
+                this.addCell(column, index, short);
+            }
+        });
+        const last = document.createElement('td');
+        last.className = 'w2ui-grid-data-last';
+        this.element.appendChild(last);
+    }
+
+    addCell(column, index, short) {
+        const td = document.createElement('td');
+        td.className = 'w2ui-grid-data';
+        td.setAttribute('col', index);
+        td.setAttribute('style', `text-align: ${column.kind.align}`);
+        const box = document.createElement('div');
+        td.appendChild(box);
+        this.element.appendChild(td);
+        const cell = new Cell(box, column.kind, short);
+        cell.field = column.field;
+        this.cells.push(cell);
+    }
+
+    // Draws the record as a full refresh does. `line` counts from 1.
+    rebuild(record, line, status) {
+        this.bind(record, line);
+        this.style(status.style);
+        this.cells.forEach(cell => cell.rebuild(record, status));
+    }
+
+    tick(record, status) {
+        this.style(status.style);
+        this.cells.forEach(cell => cell.tick(record, status));
+    }
+
+    bind(record, line) {
+        if (this.key === record.key && this.recid === record.recid && this.line === line) {
+            return;
+        }
+        if (this.key !== record.key) {
+            this.blur();
+        }
+        this.key = record.key;
+        this.recid = record.recid;
+        this.line = line;
+        this.element.id = `grid_${this.grid.name}_rec_${record.recid}`;
+        this.element.setAttribute('recid', record.recid);
+        this.element.setAttribute('line', line);
+        this.element.className = line % 2 === 0 ? 'w2ui-even' : 'w2ui-odd';
+    }
+
+    // The keyboard stays with a camera, not with a place on the screen.
+    blur() {
+        const active = document.activeElement;
+        if (active && active !== document.body && this.element.contains(active)) {
+            active.blur();
+        }
+    }
+
+    // w2ui writes the row's style by itself when it takes the row out of the selection, from `custom_style`.
+    style(text) {
+        const whole = `height: ${this.grid.recordHeight}px; ${text}`;
+        if (this.element.getAttribute('custom_style') !== text) {
+            this.element.setAttribute('custom_style', text);
+        }
+        if (this.element.getAttribute('style') !== whole) {
+            this.element.setAttribute('style', whole);
+        }
+    }
+
+    select(on) {
+        if (this.element.classList.contains('w2ui-selected') !== on) {
+            this.element.classList.toggle('w2ui-selected', on);
+        }
+    }
+
+    cellOf(element) {
+        const td = element.closest('td');
+        return this.cells.find(cell => cell.box.parentNode === td);
+    }
+}

@@ -1,0 +1,116 @@
+// The page's life from load on. Topics only define; this is the one place where something starts.
+Object.assign(wrentabledialog_obj, {
+    initializePage() {
+        this.initialize = true;
+        ['open', 'update', 'autoUpdate', 'close'].forEach(name => {
+            wrentabledialog[name].connect(() => logged(() => this[name]()));
+        });
+        zeb4func.setDisable(wrentabledialog, controls);
+        this.initializeAccordion();
+        zeb4func.disableDefaultShortcut();
+        zeb4func.localize(wrentabledialog);
+        this.initializeRecordFilter();
+        guarded(() => this.initializeList());
+        this.initializeGroupBox();
+        this.initializeTabs();
+        this.refreshDisplayElement();
+        this.update();
+        $('label[for="timeline_trigger_test"]').tooltip({
+            show: { delay: 900 },
+            position: { my: 'center top', at: 'center bottom' }
+        });
+        zeb4func.enableUserOperationLog(wrentabledialog, '#wren-root-block');
+        document.addEventListener('mouseup', () => {
+            this.isCursorDown = false;
+            this.preventSelect = false;
+        }, true);
+    },
+
+    initializeAccordion() {
+        const label = document.getElementById('accordion_label');
+        $('#accordion').accordion({
+            collapsible: true,
+            active: false,
+            animate: false,
+            heightStyle: 'content',
+            activate: (event, ui) => {
+                this.accordionOpen = ui.newPanel.length > 0;
+                label.textContent = translate(this.accordionOpen ? 'Close' : 'Open');
+                this.update();
+            }
+        });
+    },
+
+    initializeTabs() {
+        $('#tabs').tabs({
+            beforeActivate: (event, ui) => this.leaveTab(ui.newTab.index()),
+            activate: (event, ui) => this.enterTab(ui.newTab)
+        });
+        if (wrentabledialog.isLiveMode()) {
+            this.startTab(wrentabledialog_const_obj.cameraInfoTabNo);
+        } else if (wrentabledialog.isMemoryMode()) {
+            this.startTab(wrentabledialog_const_obj.memoryInfoTabNo);
+        }
+        this.refreshColumnNumber(this.activeTab());
+    },
+
+    // Activating the active tab fires no event.
+    startTab(number) {
+        if (this.activeTab() === number) {
+            this.refreshRecords(number, false);
+        } else {
+            $('#tabs').tabs('option', 'active', number);
+        }
+    },
+
+    // The mode must change before the new tab is drawn.
+    leaveTab(number) {
+        this.disableTabs(true);
+        this.preventSelect = false;
+        this.closeFloating();
+        if (TABS[number].memory) {
+            this.activeMemoryTabNumber = number;
+            if (wrentabledialog.isLiveMode()) {
+                wrentabledialog.enterMemoryMode();
+            }
+        } else {
+            this.activeLiveTabNumber = number;
+            if (wrentabledialog.isMemoryMode()) {
+                wrentabledialog.enterLiveMode();
+            }
+        }
+    },
+
+    enterTab(header) {
+        const number = header.index();
+        this.resetAllColumns(number);
+        this.refreshDisplayElement();
+        this.refreshRecords(number, false);
+        this.resizeTableElements();
+        this.refreshCommonParts();
+        zeb4func.setDisable(wrentabledialog, controls);
+        // Else the tab widget's own arrow keys would change the tab.
+        header.find('a').get(0).blur();
+        header.get(0).blur();
+    },
+
+    // The three fields of the search address; the page shows the last one as ". xxx".
+    refreshCommonParts() {
+        const parts = wrentabledialog.getSearchAddress().split('.');
+        ['livecontrol_ip1', 'livecontrol_ip2', 'livecontrol_ip3'].forEach((id, index) => {
+            document.getElementById(id).value = parts[index] || '';
+        });
+    }
+});
+
+$(() => {
+    wrentabledialog_obj.initializePage();
+    wrentabledialog_obj.resizeTableElements();
+});
+
+$(window).on('resize', () => wrentabledialog_obj.resizeTableElements());
+
+$(window).on('load', () => {
+    wrentabledialog_obj.resizeTableElements();
+    wrentabledialog_obj.initialize = false;
+});

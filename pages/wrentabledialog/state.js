@@ -1,0 +1,27 @@
+// The page's state; its functions are added by the topics that follow.
+var wrentabledialog_obj = {
+    initialize: true, // until the window's load event
+    activeLiveTabNumber: wrentabledialog_const_obj.cameraInfoTabNo, // to return to on entering live mode
+    activeMemoryTabNumber: wrentabledialog_const_obj.memoryInfoTabNo, // to return to on entering memory mode
+    RecordSelection: false, // a selection by the user is being handed to the bridge
+    RecordUnSelection: false, // an unselection is
+    customInfoLoading: false, // the custom information grid is being filled from a camera
+    batchDocKey: -1, // key of the batch row
+    gridLock: false, // the grid is locked because the host is in file mode
+    preventSelect: false, // a drag that began on a control must not change the selection
+    recordiconClick: false, // the camera name edit icon was clicked
+    accordionOpen: false,
+    displaySettingDialogResult: false, // the display settings dialog was closed by OK
+    tempDisplaySetting: [], // the display settings when that dialog was opened
+    isSnapshotListShown: false,
+    isCursorDown: false, // the mouse button is down over a grid
+    isRebuilding: false, // a grid's rows are being replaced
+    preventSelectGroup: false, // a group button's click is being processed
+    isCtsReady: false, // the last record status was CTS ready
+
+    RECORD_STATUS_LIVE: 0,
+    RECORD_STATUS_CTS_READY: 1,
+    RECORD_STATUS_READY: 2,
+    RECORD_STATUS_RECORDING: 3,
+    RECORD_STATUS_ERROR: 4
+};

@@ -1,0 +1,62 @@
+// Texts from cameras, files and users are text. Where one must pass through markup, it passes through here.
+function escapeMarkup(text) {
+    return String(text).replace(/[&<>"'`]/g, letter => `&#${letter.charCodeAt(0)};`);
+}
+
+function translate(key) {
+    return wrentabledialog.translate(key);
+}
+
+// The data of a JSON reply; null when it is not an object.
+function parseReply(text) {
+    try {
+        const data = JSON.parse(text);
+        return typeof data === 'object' ? data : null;
+    } catch (error) {
+        return null;
+    }
+}
+
+// Runs an action of the user; what it throws is shown.
+function guarded(action) {
+    try {
+        return action();
+    } catch (error) {
+        wrentabledialog.alert(error.message);
+        return undefined;
+    }
+}
+
+// Runs what the back end asked for; nobody else would hear of a failure.
+function logged(action) {
+    try {
+        action();
+    } catch (error) {
+        wrentabledialog.userOperationErrorLog(`${error.message} (line ${error.line})`);
+    }
+}
+
+// Writes to elements that other code writes too: only where the element differs.
+function showElement(element, shown) {
+    if (element.hidden === shown) {
+        element.hidden = !shown;
+    }
+}
+
+function setText(node, text) {
+    if (node.textContent !== text) {
+        node.textContent = text;
+    }
+}
+
+function setClass(element, names) {
+    if (element.className !== names) {
+        element.className = names;
+    }
+}
+
+function setStyle(element, name, value) {
+    if (element.style[name] !== value) {
+        element.style[name] = value;
+    }
+}
