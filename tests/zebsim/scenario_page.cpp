@@ -50,7 +50,7 @@ protected:
             });)js");
     }
 
-    QJsonValue run(const char* text) { return evaluateInPage(view, QString::fromUtf8(text)); }
+    QJsonValue run(const char* text) { return PageScript(QString::fromUtf8(text)).run(view); }
 
     QString seen() {
         const QJsonArray events = run("seen.splice(0)").toArray();

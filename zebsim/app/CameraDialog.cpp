@@ -1,5 +1,6 @@
 #include "CameraDialog.h"
 
+#include "UiText.h"
 #include "camera/Camera.h"
 
 #include <QDialogButtonBox>
@@ -12,7 +13,7 @@ CameraDialog::CameraDialog(Camera& camera, QWidget* parent)
       m_camera(camera),
       m_name(new QLineEdit(camera.name(), this)),
       m_comment(new QPlainTextEdit(this)) {
-    setWindowTitle(tr("Camera"));
+    setWindowTitle(uiText("Camera"));
     m_name->setObjectName(QStringLiteral("name"));
     m_comment->setObjectName(QStringLiteral("comment"));
     m_comment->setPlainText(
@@ -22,8 +23,8 @@ CameraDialog::CameraDialog(Camera& camera, QWidget* parent)
     connect(buttons, &QDialogButtonBox::accepted, this, &CameraDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &CameraDialog::reject);
     auto* form = new QFormLayout(this);
-    form->addRow(tr("Name"), m_name);
-    form->addRow(tr("Comment"), m_comment);
+    form->addRow(uiText("Name"), m_name);
+    form->addRow(uiText("Comment"), m_comment);
     form->addRow(buttons);
     m_name->selectAll();
 }

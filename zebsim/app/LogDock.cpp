@@ -1,6 +1,7 @@
 #include "LogDock.h"
 
 #include "LogStore.h"
+#include "UiText.h"
 #include "host/Journal.h"
 
 #include <QJsonArray>
@@ -19,13 +20,13 @@ QString asLine(const QString& call, const QVariantList& args) {
 
 }  // namespace
 
-LogDock::LogDock(const LogStore& log, const Journal& journal, QWidget* parent) : QDockWidget(tr("Log"), parent) {
+LogDock::LogDock(const LogStore& log, const Journal& journal, QWidget* parent) : QDockWidget(uiText("Log"), parent) {
     setObjectName(QStringLiteral("log"));
     auto* logView = makeView();
     auto* callView = makeView();
     auto* tabs = new QTabWidget(this);
-    tabs->addTab(logView, tr("Log"));
-    tabs->addTab(callView, tr("Calls"));
+    tabs->addTab(logView, uiText("Log"));
+    tabs->addTab(callView, uiText("Calls"));
     setWidget(tabs);
     // Both may be raised on any thread; the receiver's one is the GUI thread.
     connect(&log, &LogStore::added, logView, &QPlainTextEdit::appendPlainText);

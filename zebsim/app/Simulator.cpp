@@ -2,7 +2,6 @@
 
 #include "CameraDialog.h"
 #include "CommandLine.h"
-#include "HostPages.h"
 #include "ViewerWindow.h"
 #include "camera/Rig.h"
 #include "host/PluginLoader.h"
@@ -24,7 +23,7 @@ Rig rigOf(const CommandLine& line) {
 
 }  // namespace
 
-Simulator::Simulator(const CommandLine& line) : m_host((initHostPages(), m_clock), m_boxes, line.prefs) {
+Simulator::Simulator(const CommandLine& line) : m_host(m_clock, m_boxes, line.prefs) {
     if (!line.language.isEmpty() && !m_host.setLanguage(line.language))
         qWarning("There is no catalogue for the language %s.", qPrintable(line.language));
     m_host.setRig(rigOf(line));

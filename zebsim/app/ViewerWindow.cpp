@@ -3,6 +3,7 @@
 #include "LogDock.h"
 #include "PluginButton.h"
 #include "Style.h"
+#include "UiText.h"
 #include "camera/Camera.h"
 #include "host/SimHost.h"
 
@@ -25,7 +26,7 @@ const QString StyleKey = QStringLiteral("env/style");
 ViewerWindow::ViewerWindow(SimHost& host, const LogStore& log)
     : m_host(host),
       m_mdi(new QMdiArea(this)),
-      m_bar(addToolBar(tr("Tools"))),
+      m_bar(addToolBar(uiText("Tools"))),
       m_modes(new QActionGroup(this)),
       m_styles(new QActionGroup(this)),
       m_cameras(new QLabel(this)) {
@@ -51,7 +52,7 @@ void ViewerWindow::addPlugin(PluginSlot& slot) {
 }
 
 void ViewerWindow::addModeSwitch() {
-    const QStringList names = {tr("Live"), tr("Memory"), tr("File")};
+    const QStringList names = {uiText("Live"), uiText("Memory"), uiText("File")};
     for (int mode = zeb::LiveMode; mode <= zeb::FileMode; ++mode) {
         QAction* action = addChoice(m_modes, names.at(mode), QStringLiteral("mode%1").arg(mode));
         connect(action, &QAction::triggered, this, [this, mode] { m_host.appStatus().enterMode(mode); });
@@ -61,7 +62,7 @@ void ViewerWindow::addModeSwitch() {
 
 void ViewerWindow::addStyleSwitch() {
     const QStringList styles = {QStringLiteral("light"), QStringLiteral("dark")};
-    const QStringList names = {tr("Light"), tr("Dark")};
+    const QStringList names = {uiText("Light"), uiText("Dark")};
     for (int i = 0; i < styles.size(); ++i) {
         QAction* action = addChoice(m_styles, names.at(i), styles.at(i));
         connect(action, &QAction::triggered, this, [this, style = styles.at(i)] {
@@ -83,7 +84,7 @@ void ViewerWindow::refresh() {
     const auto cameras = m_host.cameras().all();
     const auto connected = std::count_if(cameras.begin(), cameras.end(),
                                          [](const Camera* camera) { return camera->get(&CameraState::connected); });
-    m_cameras->setText(tr("%1 cameras, %2 connected").arg(cameras.size()).arg(connected));
+    m_cameras->setText(uiText("%1 cameras, %2 connected").arg(cameras.size()).arg(connected));
     m_modes->actions().at(m_host.getOperatingMode())->setChecked(true);
     const QString style = styleName(m_host);
     const QList<QAction*> styles = m_styles->actions();

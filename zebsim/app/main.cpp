@@ -1,4 +1,5 @@
 #include "CommandLine.h"
+#include "HostPages.h"
 #include "OffscreenScreen.h"
 #include "ScenarioRunner.h"
 #include "Simulator.h"
@@ -52,6 +53,7 @@ int main(int argc, char** argv) {
     QApplication app(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
     enlargeOffscreenScreen(QSize(1920, 1200));
+    initHostPages();
     try {
         Simulator simulator(line);
         simulator.window().show();

@@ -1,5 +1,6 @@
 #include "EventWait.h"
 
+#include <QElapsedTimer>
 #include <QEventLoop>
 #include <QTimer>
 
@@ -29,4 +30,10 @@ bool waitUntil(const std::function<bool()>& done, const std::function<bool()>& g
     loop.exec();
     if (failure) std::rethrow_exception(failure);
     return reached;
+}
+
+void letPass(int ms, const std::function<bool()>& givenUp) {
+    QElapsedTimer passed;
+    passed.start();
+    waitUntil([&] { return passed.hasExpired(ms); }, givenUp);
 }

@@ -5,7 +5,6 @@
 #include "ScenarioError.h"
 
 #include <QElapsedTimer>
-#include <QJsonObject>
 #include <QTest>
 #include <QWebView>
 #include <QWindow>
@@ -17,6 +16,10 @@ namespace {
 // A table takes up a column only when the button has been held for a moment.
 constexpr int DragHoldMs = 400;
 constexpr int DragSteps = 8;
+// Nobody presses in the moment in which he sees something; what the page has on the way by then, comes first.
+constexpr int ReactionMs = 40;
+// What lies over an element may be a message that fades away.
+constexpr int CoveredMs = 2000;
 
 // Looks for an element as a person with a mouse does. Answers {x, y} of its middle; {again: true} when something was
 // scrolled and the page has to be looked at anew; or {fault: text}. What is not there is searched for: step 1
@@ -37,7 +40,8 @@ const QString Look = QStringLiteral(R"js((function (selector, step) {
         }).length > 0;
     }
     function describe(element) {
-        return element ? element.tagName.toLowerCase() + (element.id ? '#' + element.id : '') : 'nothing';
+        return element ? element.tagName.toLowerCase() + (element.id && '#' + element.id) +
+            (element.className && '.' + element.className.split(' ').join('.')) : 'nothing';
     }
     var element = document.querySelector(selector);
     if (!element) {
@@ -56,7 +60,7 @@ const QString Look = QStringLiteral(R"js((function (selector, step) {
     element.scrollIntoViewIfNeeded(true);
     var moved = element.getBoundingClientRect();
     return moved.top !== rect.top || moved.left !== rect.left ? {again: true}
-        : {fault: 'the element lies under ' + describe(hit)};
+        : {fault: 'the element lies under ' + describe(hit), covered: true};
 })(%1, %2))js");
 
 const QString StartTurn = QStringLiteral(
@@ -68,8 +72,7 @@ const QString StartTurn = QStringLiteral(
 PageInput::PageInput(QWebView& page, std::function<bool()> stop) : view(page), givenUp(std::move(stop)) {}
 
 void PageInput::click(const QString& selector, const ClickOptions& options) {
-    const QPoint at = locate(selector);
-    QTest::mouseMove(&window(), at);
+    const QPoint at = aim(selector);
     if (options.twice)
         QTest::mouseDClick(&window(), options.button, options.modifiers, at);
     else if (options.part == ClickOptions::PressOnly)
@@ -82,33 +85,52 @@ void PageInput::click(const QString& selector, const ClickOptions& options) {
 
 void PageInput::drag(const QString& from, const QString& to) {
     const QPoint end = locate(to);
-    const QPoint start = locate(from);
-    QTest::mouseMove(&window(), start);
+    const QPoint start = aim(from);
     QTest::mousePress(&window(), Qt::LeftButton, {}, start);
-    QElapsedTimer held;
-    held.start();
-    waitUntil([&] { return held.elapsed() >= DragHoldMs; }, givenUp);
+    letPass(DragHoldMs, givenUp);
     for (int step = 1; step <= DragSteps; ++step) QTest::mouseMove(&window(), start + (end - start) * step / DragSteps);
     QTest::mouseRelease(&window(), Qt::LeftButton, {}, end);
 }
 
+QPoint PageInput::aim(const QString& selector) {
+    QPoint at = locate(selector);
+    for (QPoint before(-1, -1); at != before; at = locate(selector)) {
+        before = at;
+        QTest::mouseMove(&window(), at);
+        letPass(ReactionMs, givenUp);
+    }
+    return at;
+}
+
 QPoint PageInput::locate(const QString& selector) {
+    QElapsedTimer covered;
     for (int step = 0;; ++step) {
-        const QString look = QString(Look)
-                                 .replace(QLatin1String("%1"), scriptString(selector))
-                                 .replace(QLatin1String("%2"), QString::number(step));
-        const QJsonObject seen = evaluateInPage(view, look).toObject();
-        if (seen.contains(QLatin1String("fault")))
-            throw ScenarioError(selector % QLatin1String(": ") % seen.value(QLatin1String("fault")).toString());
+        const QJsonObject seen = look(selector, step);
         if (seen.contains(QLatin1String("x"))) {
             const QPoint inView(seen.value(QLatin1String("x")).toInt(), seen.value(QLatin1String("y")).toInt());
             return view.mapTo(view.window(), inView);
         }
-        // A scroll reaches the page's handlers from its event loop, and they may draw what was looked for.
-        evaluateInPage(view, StartTurn);
-        const auto turned = [&] { return evaluateInPage(view, QStringLiteral("window.zebTurned")).toBool(); };
-        if (!waitUntil(turned, givenUp) || givenUp()) throw ScenarioError(selector % QStringLiteral(": given up"));
+        const bool isCovered = seen.value(QLatin1String("covered")).toBool();
+        if (isCovered && !covered.isValid()) covered.start();
+        if (seen.contains(QLatin1String("fault")) && !(isCovered && !covered.hasExpired(CoveredMs)))
+            throw ScenarioError(selector % QLatin1String(": ") % seen.value(QLatin1String("fault")).toString());
+        turn(selector);
     }
+}
+
+QJsonObject PageInput::look(const QString& selector, int step) {
+    const QString script = QString(Look)
+                               .replace(QLatin1String("%1"), scriptString(selector))
+                               .replace(QLatin1String("%2"), QString::number(step));
+    return PageScript(script).run(view).toObject();
+}
+
+/// A scroll reaches the page's handlers from its event loop, and they may draw what was looked for.
+void PageInput::turn(const QString& selector) {
+    PageScript(StartTurn).run(view);
+    const PageScript hasTurned(QStringLiteral("window.zebTurned"));
+    const auto turned = [&] { return hasTurned.run(view).toBool(); };
+    if (!waitUntil(turned, givenUp) || givenUp()) throw ScenarioError(selector % QStringLiteral(": given up"));
 }
 
 QWindow& PageInput::window() const {

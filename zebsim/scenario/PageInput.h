@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QJsonObject>
 #include <QPoint>
 #include <QString>
 #include <Qt>
@@ -20,7 +21,7 @@ struct ClickOptions {
 };
 
 /// Mouse and keys on a page as they come from the window system. Every operation throws `ScenarioError` when the
-/// element is not there, is not shown, or lies under something else.
+/// element is not there, is not shown, or stays under something else.
 class PageInput {
 public:
     /// `stop` ends a wait that would never end by itself.
@@ -31,8 +32,12 @@ public:
     void drag(const QString& from, const QString& to);
 
 private:
+    /// Moves the mouse to the element, until it lies still under it. Answers where that is.
+    QPoint aim(const QString& selector);
     /// Where the middle of the element lies in the window, after it was scrolled to.
     QPoint locate(const QString& selector);
+    QJsonObject look(const QString& selector, int step);
+    void turn(const QString& selector);
     QWindow& window() const;
 
     QWebView& view;

@@ -5,9 +5,18 @@
 
 class QWebView;
 
-/// Evaluates `text` in the page of `view` and answers its value as plain data. An expression answers its value;
-/// statements answer what they return. Throws `ScenarioError` when the script throws or is none.
-QJsonValue evaluateInPage(QWebView& view, const QString& text);
+/// A script to be evaluated in a page. An expression answers its value; statements answer what they return.
+class PageScript {
+public:
+    /// Throws `ScenarioError` when `text` is no script.
+    explicit PageScript(const QString& text);
+
+    /// The value as plain data. Throws `ScenarioError` when the script throws.
+    QJsonValue run(QWebView& view) const;
+
+private:
+    QString m_program;
+};
 
 /// A string as it is written in a script.
 QString scriptString(const QString& text);

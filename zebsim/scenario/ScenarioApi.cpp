@@ -101,7 +101,7 @@ QJSValue ScenarioApi::page(const QString& text) {
 
 QJSValue ScenarioApi::dialog(const QString& text) {
     return guarded([&] {
-        const QVariant value = evaluateInPage(ScenarioDialogs::pageOfStanding(), text).toVariant();
+        const QVariant value = PageScript(text).run(ScenarioDialogs::pageOfStanding()).toVariant();
         m_table.settle();
         return plain(value);
     });
@@ -137,10 +137,11 @@ void ScenarioApi::wait(double ms) {
 bool ScenarioApi::until(const QString& text, double ms) {
     return guarded([&] {
         const qint64 end = m_simulator.clock().now() + qRound64(ms);
+        const PageScript script(text);
         bool isTrue = false;
         waitUntil(
             [&] {
-                isTrue = m_table.isTrue(text);
+                isTrue = m_table.isTrue(script);
                 return isTrue || m_simulator.clock().now() >= end;
             },
             m_givenUp);

@@ -12,7 +12,9 @@
 
 #include <QDialog>
 #include <QDir>
+#include <QElapsedTimer>
 #include <QFileInfo>
+#include <QImage>
 #include <QPixmap>
 #include <QRegularExpression>
 #include <QTest>
@@ -21,6 +23,14 @@
 #include <QWindow>
 
 #include <utility>
+
+namespace {
+
+constexpr int ActivationMs = 2000;
+constexpr int LookMs = 60;
+constexpr int MostLooks = 20;
+
+}  // namespace
 
 TableDriver::TableDriver(Simulator& simulator, std::function<bool()> stop)
     : m_simulator(simulator), m_givenUp(std::move(stop)) {}
@@ -47,13 +57,13 @@ bool TableDriver::close() {
 }
 
 QJsonValue TableDriver::page(const QString& text) {
-    const QJsonValue value = evaluateInPage(view(), text);
+    const QJsonValue value = PageScript(text).run(view());
     settle();
     return value;
 }
 
-bool TableDriver::isTrue(const QString& text) const {
-    const QVariant value = evaluateInPage(view(), text).toVariant();
+bool TableDriver::isTrue(const PageScript& script) const {
+    const QVariant value = script.run(view()).toVariant();
     // As in a script: an object is true whatever it holds.
     return value.canConvert<bool>() ? value.toBool() : value.isValid() && !value.isNull();
 }
@@ -69,8 +79,13 @@ void TableDriver::drag(const QString& from, const QString& to) {
 }
 
 void TableDriver::type(const QString& text) {
-    const QDialog* modal = ModalWatcher::standing();
-    const QDialog& target = modal ? *modal : shownDialog();
+    QDialog* modal = ModalWatcher::standing();
+    QDialog& target = modal ? *modal : shownDialog();
+    // Keys go to the active window, which a dialog that has just come up is not yet.
+    target.activateWindow();
+    QElapsedTimer asked;
+    asked.start();
+    waitUntil([&] { return target.isActiveWindow(); }, [&] { return m_givenUp() || asked.hasExpired(ActivationMs); });
     typeText(*target.windowHandle(), text);
     settle();
 }
@@ -102,9 +117,20 @@ void TableDriver::place(const QString& geometry) {
 QString TableDriver::shot(const QString& path) {
     const QFileInfo file(path);
     QDir().mkpath(file.absolutePath());
-    if (!shownDialog().grab().save(path))
-        throw ScenarioError(QStringLiteral("%1: the picture can't be written").arg(path));
+    if (!stillPicture().save(path)) throw ScenarioError(QStringLiteral("%1: the picture can't be written").arg(path));
     return file.absoluteFilePath();
+}
+
+QImage TableDriver::stillPicture() const {
+    // The page asks for its pictures when it is first painted.
+    QImage picture = shownDialog().grab().toImage();
+    QImage before;
+    for (int looks = 0; picture != before && looks < MostLooks; ++looks) {
+        before = picture;
+        letPass(LookMs, m_givenUp);
+        picture = shownDialog().grab().toImage();
+    }
+    return picture;
 }
 
 void TableDriver::settle() {

@@ -6,6 +6,8 @@
 #include <functional>
 
 class QDialog;
+class QImage;
+class PageScript;
 class QWebView;
 class Simulator;
 struct ClickOptions;
@@ -25,7 +27,7 @@ public:
     /// The value of a script in the page, after the update cycle that it asked for.
     QJsonValue page(const QString& text);
     /// Whether the script's value counts as true.
-    bool isTrue(const QString& text) const;
+    bool isTrue(const PageScript& script) const;
     void click(const QString& selector, const ClickOptions& options);
     void drag(const QString& from, const QString& to);
     /// Types into the modal dialog that stands, or else into the table.
@@ -45,6 +47,7 @@ private:
     QWebView& view() const;
     void pressButton();
     void place(const QString& geometry);
+    QImage stillPicture() const;
 
     Simulator& m_simulator;
     std::function<bool()> m_givenUp;
