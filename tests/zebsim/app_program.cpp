@@ -90,4 +90,13 @@ TEST_F(Program, KeepsADamagedPreferenceFileAsideAndSaysSo) {
     EXPECT_EQ(QDir(folder.path()).entryList({"prefs.ini.*"}).size(), 1);
 }
 
+TEST_F(Program, ClosesTheTableWithoutAQuestionWhenItLeaves) {
+    const Outcome left = runScript("check(zeb.open(), 'open'); zeb.window('140,90,1230,500');");
+    EXPECT_EQ(left.status, 0) << left.output << left.errors;
+    const Outcome later = runScript(
+        "check(zeb.pref('wren/ready') === true, 'the host closed it');"
+        "check(zeb.pref('wren/table/x') === 140 && zeb.pref('wren/table/h') === 500, 'its place is stored');");
+    EXPECT_EQ(later.status, 0) << later.output;
+}
+
 }  // namespace

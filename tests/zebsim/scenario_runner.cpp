@@ -46,6 +46,11 @@ TEST_F(Runner, TellsByItsStatusWhetherAllChecksHeld) {
     EXPECT_THAT(bad.output, AllOf(HasSubstr("my.js:3: held"), HasSubstr("ok: after")));
 }
 
+TEST_F(Runner, MissesADialogThatNeverCame) {
+    EXPECT_THAT(run("zeb.modal(() => check(true, 'seen'))").output, HasSubstr("FAILED: a function still waits"));
+    EXPECT_THAT(run("zeb.answer('ok', 'cancel')").output, HasSubstr("FAILED: no box took the answer ok, cancel"));
+}
+
 TEST_F(Runner, PrintsTheLineOfAScriptThatThrows) {
     struct Case {
         const char* script;

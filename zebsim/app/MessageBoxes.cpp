@@ -9,7 +9,6 @@
 #include <QCheckBox>
 #include <QMessageBox>
 #include <QPointer>
-#include <QTimer>
 
 #include <utility>
 
@@ -49,14 +48,11 @@ QMessageBox::StandardButtons buttonsOf(const Message& message) {
 
 }  // namespace
 
-void MessageBoxes::setHost(const ZebHost* host) {
-    m_host = host;
-    const QList<Message> early = std::exchange(m_early, {});
-    for (Message message : early) {
-        QTimer::singleShot(0, host->getMainWindow(), [this, message]() mutable {
-            message.parent = m_host->getMainWindow();
-            show(message);
-        });
+void MessageBoxes::showHeld() {
+    const QList<Message> held = std::exchange(m_held, {});
+    for (Message message : held) {
+        message.parent = m_host->getMainWindow();
+        show(message);
     }
 }
 
@@ -71,7 +67,7 @@ void MessageBoxes::rejectAll() {
 Answer MessageBoxes::show(const Message& message) {
     if (m_rejecting) return {false, false};
     if (m_host == nullptr) {
-        m_early << message;
+        m_held << message;
         return {};
     }
     // The box goes with its parent, which may be destroyed while it stands.

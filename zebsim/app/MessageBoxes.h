@@ -13,9 +13,10 @@ public:
     /// Name of a box's property that holds the whole text, as it was before it was made to fit.
     static constexpr auto TextProperty = "messageText";
 
-    /// Whose style and language the boxes have; must outlive the boxes. What was to be shown before comes now, from
-    /// the event loop.
-    void setHost(const ZebHost* host);
+    /// Whose style and language the boxes have; must outlive the boxes. What is to be shown before is held back.
+    void setHost(const ZebHost* host) { m_host = host; }
+    /// Shows what was held back, one box after the other.
+    void showHeld();
     /// From now on no box is shown; those that stand and those to come are rejected.
     void rejectAll();
 
@@ -27,6 +28,6 @@ private:
     QString translated(const QString& text) const;
 
     const ZebHost* m_host = nullptr;
-    QList<Message> m_early;
+    QList<Message> m_held;
     bool m_rejecting = false;
 };

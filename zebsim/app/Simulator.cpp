@@ -7,10 +7,11 @@
 #include "host/PluginLoader.h"
 #include "host/PluginSlot.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QDir>
 #include <QFileInfo>
 #include <QMdiArea>
+#include <QTimer>
 
 namespace {
 
@@ -43,6 +44,12 @@ Simulator::~Simulator() {
     m_window.reset();
     m_slot.reset();
     m_loader.reset();
+}
+
+int Simulator::run(const std::function<void()>& work) {
+    QTimer::singleShot(0, m_window.get(), work);
+    QTimer::singleShot(0, m_window.get(), [this] { m_boxes.showHeld(); });
+    return QApplication::exec();
 }
 
 void Simulator::quit() {

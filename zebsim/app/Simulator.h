@@ -5,6 +5,7 @@
 #include "host/SimHost.h"
 #include "recording/RealClock.h"
 
+#include <functional>
 #include <memory>
 
 class PluginLoader;
@@ -29,6 +30,8 @@ public:
     /// Null when no plug-in was found.
     PluginSlot* plugin() { return m_slot.get(); }
 
+    /// Runs the event loop until the application is left: first `work` in it, then what there was to tell at the start.
+    int run(const std::function<void()>& work);
     /// Ends the event loop, and the message boxes that stand.
     void quit();
 

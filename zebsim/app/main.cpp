@@ -9,7 +9,6 @@
 #include "host/PluginSlot.h"
 
 #include <QApplication>
-#include <QTimer>
 
 #include <cstdio>
 
@@ -23,20 +22,19 @@ CommandLine parseWithoutDisplay(int argc, char** argv) {
     return CommandLine::parse(QCoreApplication::arguments());
 }
 
-int runScenario(QApplication& app, Simulator& simulator, const CommandLine& line) {
+int runScenario(Simulator& simulator, const CommandLine& line) {
     int status = 0;
-    QTimer::singleShot(0, &app, [&] {
+    simulator.run([&] {
         status = ScenarioRunner(simulator, line.scenarioTimeout).run(line.scenario);
         simulator.quit();
     });
-    QApplication::exec();
     return status;
 }
 
-int runViewer(QApplication& app, Simulator& simulator, const CommandLine& line) {
-    if (line.openTable && simulator.plugin() != nullptr)
-        QTimer::singleShot(0, &app, [&simulator] { simulator.plugin()->open(); });
-    return QApplication::exec();
+int runViewer(Simulator& simulator, const CommandLine& line) {
+    return simulator.run([&] {
+        if (line.openTable && simulator.plugin() != nullptr) simulator.plugin()->open();
+    });
 }
 
 }  // namespace
@@ -50,14 +48,14 @@ int main(int argc, char** argv) {
         std::fputs(qUtf8Printable(line.printout), line.exitStatus == 0 ? stdout : stderr);
         return line.exitStatus;
     }
-    QApplication app(argc, argv);
+    const QApplication app(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
     enlargeOffscreenScreen(QSize(1920, 1200));
     initHostPages();
     try {
         Simulator simulator(line);
         simulator.window().show();
-        return line.scenario.isEmpty() ? runViewer(app, simulator, line) : runScenario(app, simulator, line);
+        return line.scenario.isEmpty() ? runViewer(simulator, line) : runScenario(simulator, line);
     } catch (const std::runtime_error& e) {
         // A rig or a plug-in that can't be used.
         std::fprintf(stderr, "%s\n", e.what());

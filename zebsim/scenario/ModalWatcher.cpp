@@ -12,8 +12,10 @@
 namespace {
 
 bool hasLoaded(const QWebView& view) {
-    return view.page()->mainFrame()->evaluateJavaScript(QStringLiteral("document.readyState")).toString() ==
-           QLatin1String("complete");
+    QWebFrame& frame = *view.page()->mainFrame();
+    // Until the first answer comes, the view shows an empty document, which is complete.
+    const bool isWaiting = frame.url().isEmpty() && !frame.requestedUrl().isEmpty();
+    return !isWaiting && frame.evaluateJavaScript(QStringLiteral("document.readyState")) == QLatin1String("complete");
 }
 
 }  // namespace

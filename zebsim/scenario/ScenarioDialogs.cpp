@@ -44,6 +44,12 @@ QVariantList ScenarioDialogs::takeMessages() {
     return std::exchange(m_messages, {});
 }
 
+QString ScenarioDialogs::leftOver() const {
+    if (!m_functions.isEmpty()) return QStringLiteral("a function still waits for a modal dialog");
+    if (!m_answers.isEmpty()) return QStringLiteral("no box took the answer ") % m_answers.join(QLatin1String(", "));
+    return {};
+}
+
 QWebView& ScenarioDialogs::pageOfStanding() {
     const QDialog* dialog = ModalWatcher::standing();
     auto* view = dialog ? dialog->findChild<QWebView*>() : nullptr;

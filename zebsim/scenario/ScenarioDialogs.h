@@ -29,6 +29,8 @@ public:
     void queueAnswers(const QStringList& answers);
     /// The boxes since the last call, each a map with `kind`, `text` and `answer`.
     QVariantList takeMessages();
+    /// Functions and answers that no dialog took, in words; empty when there are none.
+    QString leftOver() const;
     /// The page of the modal dialog that stands; throws `ScenarioError` when there is none.
     static QWebView& pageOfStanding();
 

@@ -50,7 +50,10 @@ int ScenarioRunner::run(const QString& path, const QString& program) {
 
     const ScriptWatchdog watchdog(m_timeout, [this] { expired(); });
     const QJSValue end = m_engine.evaluate(program % QLatin1String("\n;'") % EndMark % QLatin1Char('\''), path);
-    if (end.isError() || end.toString() != EndMark) reportError(end);
+    if (end.isError() || end.toString() != EndMark)
+        reportError(end);
+    else if (!api.dialogs().leftOver().isEmpty())
+        fail(api.dialogs().leftOver());
     return m_failed ? 1 : 0;
 }
 

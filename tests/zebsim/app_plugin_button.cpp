@@ -1,0 +1,49 @@
+#include "PluginButton.h"
+#include "host/PluginSlot.h"
+#include "support/StubPlugin.h"
+#include "support/TestHost.h"
+
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+/// Says itself how its button stands.
+class ToldPlugin : public StubPlugin {
+public:
+    bool isChecked(DOC_Interface* doc, int) override { return doc != nullptr && checked; }
+    bool isButtonEnabled() const override { return enabled; }
+
+    bool checked = false;
+    bool enabled = true;
+};
+
+TEST(PluginButton, StandsAsThePluginSays) {
+    TestHost test(Rig::standard(1));
+    ToldPlugin plugin;
+    PluginSlot slot(test.host, plugin);
+    PluginButton button(test.host, slot, nullptr);
+    EXPECT_EQ(button.text(), "STUB");
+    EXPECT_FALSE(button.isChecked());
+
+    QTest::mouseClick(&button, Qt::LeftButton);
+    EXPECT_EQ(plugin.log, QStringList({"prepareOpen", "activate", "getDialog(true)", "showDialog"}));
+    EXPECT_FALSE(button.isChecked()) << "a press alone does not press it in";
+
+    plugin.checked = true;
+    test.host.appStatus().notifyPluginShown(&plugin);
+    EXPECT_TRUE(button.isChecked());
+    QTest::mouseClick(&button, Qt::LeftButton);
+    EXPECT_TRUE(button.isChecked()) << "a second press does not let it out";
+    plugin.checked = false;
+    test.host.appStatus().notifyPluginClosed(&plugin);
+    test.host.updates().request();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !button.isChecked(); }));
+
+    plugin.enabled = false;
+    test.host.appStatus().enterMode(zeb::FileMode);
+    EXPECT_FALSE(button.isEnabled());
+}
+
+}  // namespace
