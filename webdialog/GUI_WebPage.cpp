@@ -47,7 +47,6 @@ bool isWithinDocument(const QWebFrame* frame, const QUrl& url) {
 
 GUI_WebPage::GUI_WebPage(ZebHost* host, QObject* parent) : QWebPage(parent), m_host(host) {
     setNetworkAccessManager(new PageNetwork(this));
-    settings()->setAttribute(QWebSettings::PluginsEnabled, true);  // else no `object` element asks for its widget
     keepFromSockets(mainFrame());
     connect(this, &QWebPage::frameCreated, this, &GUI_WebPage::keepFromSockets);
     connect(this, &QWebPage::consoleMessageReceived, this, &GUI_WebPage::logConsoleMessage);

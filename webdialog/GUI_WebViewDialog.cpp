@@ -68,7 +68,6 @@ void GUI_WebViewDialog::connectSignals() {
 
 GUI_WebViewDialog::~GUI_WebViewDialog() {
     if (m_viewerSuspended && !m_host->isApplicationClosing()) m_host->resumeViewer();
-    m_view->disconnect(this);
     destroyPage(m_view, bridges());
     delete m_layout;
 }
@@ -109,7 +108,6 @@ void GUI_WebViewDialog::loadFinished(bool ok) {
 }
 
 void GUI_WebViewDialog::fadeIn() {
-    delete m_fade;
     m_fade = new QPropertyAnimation(this, QByteArrayLiteral("windowOpacity"), this);
     m_fade->setDuration(FadeDuration);
     m_fade->setStartValue(0.0);

@@ -49,8 +49,8 @@ void JS_Mediator::leaveCall() {
     if (!m_afterCalls.isEmpty()) QTimer::singleShot(0, this, &JS_Mediator::runAfterCalls);
 }
 
-void JS_Mediator::afterCalls(std::function<void()> action) {
-    m_afterCalls.append(std::move(action));
+void JS_Mediator::afterCalls(const std::function<void()>& action) {
+    m_afterCalls.append(action);
     if (!isInCall()) QTimer::singleShot(0, this, &JS_Mediator::runAfterCalls);
 }
 

@@ -32,7 +32,7 @@ public:
     /// Whether a call runs. The bridge and its view must not be destroyed then.
     bool isInCall() const { return m_callDepth > 0; }
     /// Runs `action` from the event loop as soon as no call runs. Forgotten if the bridge goes before.
-    void afterCalls(std::function<void()> action);
+    void afterCalls(const std::function<void()>& action);
     /// Shows the exception that is being handled to the user. Only inside a `catch`; does not throw.
     void reportCurrentFailure() noexcept;
 

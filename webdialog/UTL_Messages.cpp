@@ -15,7 +15,7 @@
 
 namespace {
 
-constexpr QLatin1String BoxName("UTL_Messages");
+constexpr auto BoxName = "UTL_Messages";
 
 QString translated(const QString& text) {
     return QCoreApplication::translate("zeb4", text.toUtf8().constData());
@@ -41,7 +41,7 @@ QString buttonName(int button) {
 QMessageBox* makeWarning(const QString& text, const ZebHost& host, QWidget* parent, const ButtonTexts& buttonTexts) {
     auto* box = new QMessageBox(QMessageBox::Warning, translated(QStringLiteral("Warning")), plainText(text),
                                 QMessageBox::Ok | QMessageBox::Cancel, parent);
-    box->setObjectName(BoxName);
+    box->setObjectName(QLatin1String(BoxName));
     box->setTextFormat(Qt::PlainText);
     box->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     box->button(QMessageBox::Cancel)->setText(host.translate(QStringLiteral("Cancel")));
@@ -77,6 +77,6 @@ bool UTL_Messages::warnOkCancel(const QString& text, ZebHost& host, QWidget* par
 void UTL_Messages::rejectAll() {
     const QWidgetList windows = QApplication::topLevelWidgets();
     for (QWidget* window : windows) {
-        if (window->objectName() == BoxName) qobject_cast<QDialog*>(window)->reject();
+        if (window->objectName() == QLatin1String(BoxName)) qobject_cast<QDialog*>(window)->reject();
     }
 }

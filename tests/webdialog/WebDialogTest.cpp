@@ -106,8 +106,9 @@ TEST_F(WebDialog, FailedBrokenOffAndRepeatedLoadsLiftTheDeterrence) {
         dialog->loadStarted();
         dialog->loadFinished(true);
         EXPECT_EQ(dialog->findChildren<QPropertyAnimation*>().size(), 1);
-        dialog->loadStarted();
     }
+    bridge = new ProbeBridge(&host);
+    delete makeDialog();  // in the middle of its load
     const QStringList entries = journal.take();
     EXPECT_EQ(entries.count("deterUpdateUI true"), 3);
     EXPECT_EQ(entries.count("deterUpdateUI false"), 3);
@@ -236,6 +237,9 @@ TEST_F(WebDialog, ClosingHostDismissesOurBox) {
         QTimer::singleShot(0, dialog.data(), [&] {
             host.closing = true;
             dialog->close();
+            QWidget* box = QApplication::activeModalWidget();
+            EXPECT_FALSE(box);
+            if (box) box->close();
         });
         EXPECT_FALSE(UTL_Messages::warnOkCancel("go on?", host));
     };
