@@ -45,7 +45,7 @@ void GUI_WrenTableDialog::updatePage() {
 }
 
 void GUI_WrenTableDialog::closeEvent(QCloseEvent* event) {
-    if (isHidden()) {  // a second close that was put off with the first
+    if (isHidden()) {  // meanwhile, while its close was put off
         return;
     }
     const QPointer<GUI_WrenTableDialog> self(this);

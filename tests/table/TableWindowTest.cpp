@@ -104,13 +104,22 @@ TEST_F(TableWindowTest, aCloseUnderABoxComesAfterIt) {
     GUI_WrenTableDialog& dialog = open();
     desk.whileStanding = [&dialog] {
         dialog.close();
-        dialog.close();
         EXPECT_TRUE(dialog.isVisible());
     };
     dialog.getBridge()->info("Wait");
     EXPECT_TRUE(QTest::qWaitFor([&dialog] { return !dialog.isVisible(); }));
-    QCoreApplication::processEvents();
     EXPECT_EQ(desk.shown, (QStringList{"Wait", "Quit WREN?"}));
+
+    open();
+    desk.whileStanding = [&] {
+        dialog.close();
+        plugin.hideDialog();
+    };
+    dialog.getBridge()->info("The host hides the table meanwhile");
+    bool done = false;
+    dialog.getBridge()->afterCalls([&done] { done = true; });
+    EXPECT_TRUE(QTest::qWaitFor([&done] { return done; }));
+    EXPECT_EQ(desk.shown.count("Quit WREN?"), 1) << "nobody is asked about a table that is hidden";
 }
 
 TEST_F(TableWindowTest, noCameraIsChangedBehindTheQuestion) {
