@@ -104,9 +104,9 @@ TEST(LogLines, ExceptionsWriteOnceWhenTheyAreMade) {
                  work.waitForFinished();
                  ADD_FAILURE() << "the exception was lost";
              } catch (const APP_ConcurrentException& e) {
-                 const APP_Exception copy = e.inner();
-                 EXPECT_STREQ(copy.what(), "保存");
-                 EXPECT_EQ(copy.errorCode(), 7);
+                 const APP_Exception& inner = e.inner();
+                 EXPECT_STREQ(inner.what(), "保存");
+                 EXPECT_EQ(inner.errorCode(), 7);
              }
          },
          {"critical: \"APP_Exception:[message:保存] [errorCode:7] \""}},
