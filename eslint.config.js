@@ -15,7 +15,7 @@ const table = readonly([
     'escapeMarkup', 'translate', 'parseReply', 'guarded', 'logged',
     'showElement', 'setText', 'setClass', 'setStyle',
     'Cell', 'COLUMNS', 'isBatch', 'isOff', 'isOffOrBatch', 'showChoice',
-    'DrawnRow', 'GridView', 'views', 'viewOf', 'tabHeader',
+    'DrawnRow', 'columnKind', 'GridView', 'views', 'viewOf', 'tabHeader',
     'dropDown', 'listenToGrid', 'controls'
 ]);
 

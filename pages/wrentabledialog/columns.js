@@ -7,7 +7,6 @@ Object.assign(wrentabledialog_obj, {
             const kind = columnKind(tab, field);
             return {
                 field,
-                kind,
                 caption: escapeMarkup(kind.caption()).replace('/', '/<wbr>'),
                 title: '',
                 size: kind.size,

@@ -59,11 +59,12 @@ Object.assign(wrentabledialog_obj, {
         const old = document.getElementById('wren-css');
         const link = document.createElement('link');
         old.removeAttribute('id');
+        old.className = 'replaced';
         link.id = 'wren-css';
         link.rel = 'stylesheet';
         link.href = address;
         link.addEventListener('load', () => {
-            old.parentNode.removeChild(old);
+            $('link.replaced').remove();
             this.resizeTableElements();
         });
         document.head.appendChild(link);

@@ -28,6 +28,9 @@ const dropDown = {
         this.limit(select.sumo);
         select.addEventListener('change', () => { chosen = select.value; });
         $(select).on('sumo:closed', () => {
+            if (this.holder.contains(document.activeElement)) {
+                cell.parts.frame.focus();
+            }
             this.remove();
             if (chosen !== null) {
                 cell.forget();
@@ -36,7 +39,12 @@ const dropDown = {
                 choose(chosen);
             }
         });
-        select.sumo.showOpts();
+        // The arrow keys go on from the present choice.
+        if (present < 0) {
+            select.sumo.showOpts();
+        } else {
+            select.sumo.setOnOpen();
+        }
     },
 
     close() {

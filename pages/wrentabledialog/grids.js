@@ -5,8 +5,10 @@ const views = []; // tab number -> GridView
 Object.assign(wrentabledialog_obj, {
     initializeList() {
         TABS.forEach(tab => {
-            const grid = $('#' + tab.gridName).w2grid({
+            // Made without a box, so that it draws once only, and our way.
+            const grid = $().w2grid({
                 name: tab.gridName,
+                columns: this.createColumns(tab.name, tab.orderKey),
                 reorderColumns: true,
                 keyboard: false,
                 multiSelect: true,
@@ -19,8 +21,7 @@ Object.assign(wrentabledialog_obj, {
                 onDblClick: (event) => event.preventDefault()
             });
             views[tab.number] = new GridView(grid, tab, () => this.closeFloating());
-            grid.columns = this.createColumns(tab.name, tab.orderKey);
-            grid.refresh();
+            grid.render(document.getElementById(tab.gridName));
             listenToGrid(views[tab.number]);
             alertTip(grid.box);
         });

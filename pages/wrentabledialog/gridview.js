@@ -10,11 +10,11 @@ class GridView {
         this.rows = []; // drawn, in the order of their lines
         this.spare = []; // drawn once, to be used again
         this.batch = null; // the drawn batch row
-        this.batchRecord = null; // the batch record of the last full refresh
         this.newest = new Map(); // key -> record of the last refresh of any kind
         this.newestBatch = null;
         this.status = null; // the list's status at that refresh
         this.size = ''; // of the grid's box, as last laid out
+        this.spot = ''; // where it was last scrolled to
         this.height = 0; // of the visible part, in pixels
         this.held = 0; // while above 0, w2ui's refresh waits
         this.owed = false;
@@ -89,6 +89,7 @@ class GridView {
         this.box.scrollTop = this.grid.last.scrollTop;
         this.box.scrollLeft = this.grid.last.scrollLeft;
         this.grid.last.scrollTop = this.box.scrollTop;
+        this.spot = `${this.grid.last.scrollTop} ${this.grid.last.scrollLeft}`;
         this.drawBatch();
         this.draw(true);
     }
@@ -102,7 +103,6 @@ class GridView {
         grid.summary = batch;
         grid.total = records.length;
         grid.last.selection.indexes = Array.from(records.keys()).filter(index => selected.has(records[index].key));
-        this.batchRecord = batch[0] || null;
         if (frame || !this.box) {
             grid.refresh();
             return;
@@ -131,8 +131,11 @@ class GridView {
         }
     }
 
+    // w2ui calls this after its refresh too, when nothing has moved.
     scrolled() {
-        if (this.box) {
+        const spot = `${this.grid.last.scrollTop} ${this.grid.last.scrollLeft}`;
+        if (this.box && this.spot !== spot) {
+            this.spot = spot;
             this.draw(false);
             this.onScroll();
         }
@@ -178,7 +181,7 @@ class GridView {
         });
         this.rows = [];
         for (let index = start; index < end; index++) {
-            const row = kept.get(index) || this.spare.pop() || new DrawnRow(this.grid, this.tab.name);
+            const row = kept.get(index) || this.spare.pop() || new DrawnRow(this.grid, this.tab);
             row.index = index;
             this.rows.push(row);
             if (full || !kept.has(index)) {
@@ -213,11 +216,11 @@ class GridView {
 
     drawBatch() {
         const summary = document.getElementById(`grid_${this.grid.name}_summary`);
-        if (!this.batchRecord || !this.status) {
+        if (this.grid.summary.length === 0 || !this.status) {
             return;
         }
-        this.batch = this.batch || new DrawnRow(this.grid, this.tab.name);
-        this.batch.rebuild(this.batchRecord, 1, this.status);
+        this.batch = this.batch || new DrawnRow(this.grid, this.tab);
+        this.batch.rebuild(this.grid.summary[0], 1, this.status);
         const place = summary.querySelector('.wren-batch-place');
         if (place) {
             place.parentNode.replaceChild(this.batch.element, place);

@@ -1,6 +1,6 @@
 // A drawn row: an element of the table that shows one record, and another one when it is needed elsewhere.
 class DrawnRow {
-    constructor(grid, short) {
+    constructor(grid, tab) {
         this.grid = grid;
         this.key = null;
         this.line = null;
@@ -8,7 +8,7 @@ class DrawnRow {
         this.element = document.createElement('tr');
         grid.columns.forEach((column, index) => {
             if (!column.hidden) {
-                this.addCell(column, index, short);
+                this.addCell(column.field, columnKind(tab, column.field), index, tab.name);
             }
         });
         const last = document.createElement('td');
@@ -16,16 +16,16 @@ class DrawnRow {
         this.element.appendChild(last);
     }
 
-    addCell(column, index, short) {
+    addCell(field, kind, index, short) {
         const td = document.createElement('td');
         td.className = 'w2ui-grid-data';
         td.setAttribute('col', index);
-        td.setAttribute('style', `text-align: ${column.kind.align}`);
+        td.setAttribute('style', `text-align: ${kind.align}`);
         const box = document.createElement('div');
         td.appendChild(box);
         this.element.appendChild(td);
-        const cell = new Cell(box, column.kind, short);
-        cell.field = column.field;
+        const cell = new Cell(box, kind, short);
+        cell.field = field;
         this.cells.push(cell);
     }
 
