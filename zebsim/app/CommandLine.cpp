@@ -29,7 +29,7 @@ struct Options {
                              QStringLiteral("light|dark")};
     QCommandLineOption language{QStringLiteral("lang"), QStringLiteral("Speak this language."),
                                 QStringLiteral("en|ja")};
-    QCommandLineOption table{QStringLiteral("table"), QStringLiteral("Open the camera table at the start.")};
+    QCommandLineOption noTable{QStringLiteral("no-table"), QStringLiteral("Leave the camera table closed at first.")};
 };
 
 CommandLine mistake(const QCommandLineParser& parser, const QString& text) {
@@ -71,7 +71,7 @@ CommandLine CommandLine::parse(const QStringList& arguments) {
     const QCommandLineOption help = parser.addHelpOption();
     const QCommandLineOption version = parser.addVersionOption();
     parser.addOptions({options.rig, options.prefs, options.scenario, options.timeout, options.plugin, options.style,
-                       options.language, options.table});
+                       options.language, options.noTable});
     if (!parser.parse(arguments)) return mistake(parser, parser.errorText());
 
     CommandLine line;
@@ -87,7 +87,7 @@ CommandLine CommandLine::parse(const QStringList& arguments) {
         line.plugin = parser.value(options.plugin);
         line.style = parser.value(options.style);
         line.language = parser.value(options.language);
-        line.openTable = parser.isSet(options.table);
+        line.openTable = !parser.isSet(options.noTable);
         const QString wrong = wrongValue(parser, options, line);
         if (!wrong.isEmpty()) return mistake(parser, wrong);
     }

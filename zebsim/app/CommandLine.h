@@ -23,7 +23,7 @@ struct CommandLine {
     QString style;
     /// "en", "ja", or empty for the user's own.
     QString language;
-    bool openTable = false;
+    bool openTable = true;
 
     /// `arguments` as `QCoreApplication::arguments` answers them. Needs no display.
     static CommandLine parse(const QStringList& arguments);

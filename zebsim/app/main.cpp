@@ -48,7 +48,9 @@ int main(int argc, char** argv) {
         std::fputs(qUtf8Printable(line.printout), line.exitStatus == 0 ? stdout : stderr);
         return line.exitStatus;
     }
-    const QApplication app(argc, argv);
+    // The options are ours; Qt has a meaning of its own for some of their names.
+    int ownName = 1;
+    const QApplication app(ownName, argv);
     QApplication::setQuitOnLastWindowClosed(false);
     enlargeOffscreenScreen(QSize(1920, 1200));
     initHostPages();

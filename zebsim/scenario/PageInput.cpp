@@ -69,7 +69,7 @@ const QString StartTurn = QStringLiteral(
 
 }  // namespace
 
-PageInput::PageInput(QWebView& page, std::function<bool()> stop) : view(page), givenUp(std::move(stop)) {}
+PageInput::PageInput(QWebView& page, std::function<bool()> stop) : m_view(page), m_givenUp(std::move(stop)) {}
 
 void PageInput::click(const QString& selector, const ClickOptions& options) {
     const QPoint at = aim(selector);
@@ -87,7 +87,7 @@ void PageInput::drag(const QString& from, const QString& to) {
     const QPoint end = locate(to);
     const QPoint start = aim(from);
     QTest::mousePress(&window(), Qt::LeftButton, {}, start);
-    letPass(DragHoldMs, givenUp);
+    letPass(DragHoldMs, m_givenUp);
     for (int step = 1; step <= DragSteps; ++step) QTest::mouseMove(&window(), start + (end - start) * step / DragSteps);
     QTest::mouseRelease(&window(), Qt::LeftButton, {}, end);
 }
@@ -97,7 +97,7 @@ QPoint PageInput::aim(const QString& selector) {
     for (QPoint before(-1, -1); at != before; at = locate(selector)) {
         before = at;
         QTest::mouseMove(&window(), at);
-        letPass(ReactionMs, givenUp);
+        letPass(ReactionMs, m_givenUp);
     }
     return at;
 }
@@ -108,7 +108,7 @@ QPoint PageInput::locate(const QString& selector) {
         const QJsonObject seen = look(selector, step);
         if (seen.contains(QLatin1String("x"))) {
             const QPoint inView(seen.value(QLatin1String("x")).toInt(), seen.value(QLatin1String("y")).toInt());
-            return view.mapTo(view.window(), inView);
+            return m_view.mapTo(m_view.window(), inView);
         }
         const bool isCovered = seen.value(QLatin1String("covered")).toBool();
         if (isCovered && !covered.isValid()) covered.start();
@@ -122,20 +122,20 @@ QJsonObject PageInput::look(const QString& selector, int step) {
     const QString script = QString(Look)
                                .replace(QLatin1String("%1"), scriptString(selector))
                                .replace(QLatin1String("%2"), QString::number(step));
-    return PageScript(script).run(view).toObject();
+    return PageScript(script).run(m_view).toObject();
 }
 
 /// A scroll reaches the page's handlers from its event loop, and they may draw what was looked for.
 void PageInput::turn(const QString& selector) {
-    PageScript(StartTurn).run(view);
+    PageScript(StartTurn).run(m_view);
     const PageScript hasTurned(QStringLiteral("window.zebTurned"));
-    const auto turned = [&] { return hasTurned.run(view).toBool(); };
-    if (!waitUntil(turned, givenUp) || givenUp()) throw ScenarioError(selector % QStringLiteral(": given up"));
+    const auto turned = [&] { return hasTurned.run(m_view).toBool(); };
+    if (!waitUntil(turned, m_givenUp) || m_givenUp()) throw ScenarioError(selector % QStringLiteral(": given up"));
 }
 
 QWindow& PageInput::window() const {
-    QWindow* handle = view.window()->windowHandle();
-    if (handle == nullptr || !view.isVisible()) throw ScenarioError(QStringLiteral("the page is not on the screen"));
+    QWindow* handle = m_view.window()->windowHandle();
+    if (handle == nullptr || !m_view.isVisible()) throw ScenarioError(QStringLiteral("the page is not on the screen"));
     return *handle;
 }
 

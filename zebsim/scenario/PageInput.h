@@ -40,8 +40,8 @@ private:
     void turn(const QString& selector);
     QWindow& window() const;
 
-    QWebView& view;
-    std::function<bool()> givenUp;
+    QWebView& m_view;
+    std::function<bool()> m_givenUp;
 };
 
 /// Types into the window; line feed, tab, backspace and escape characters are the keys of that name.

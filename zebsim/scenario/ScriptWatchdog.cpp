@@ -4,16 +4,16 @@
 #include <utility>
 
 ScriptWatchdog::ScriptWatchdog(int seconds, std::function<void()> expired)
-    : thread([this, seconds, expired = std::move(expired)] {
-          std::unique_lock<std::mutex> lock(mutex);
-          if (!ended.wait_for(lock, std::chrono::seconds(seconds), [this] { return end; })) expired();
+    : m_thread([this, seconds, expired = std::move(expired)] {
+          std::unique_lock<std::mutex> lock(m_mutex);
+          if (!m_ended.wait_for(lock, std::chrono::seconds(seconds), [this] { return m_end; })) expired();
       }) {}
 
 ScriptWatchdog::~ScriptWatchdog() {
     {
-        const std::lock_guard<std::mutex> lock(mutex);
-        end = true;
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        m_end = true;
     }
-    ended.notify_all();
-    thread.join();
+    m_ended.notify_all();
+    m_thread.join();
 }

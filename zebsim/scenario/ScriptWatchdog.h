@@ -17,8 +17,8 @@ public:
     ScriptWatchdog& operator=(const ScriptWatchdog&) = delete;
 
 private:
-    std::mutex mutex;
-    std::condition_variable ended;
-    bool end = false;
-    std::thread thread;
+    std::mutex m_mutex;
+    std::condition_variable m_ended;
+    bool m_end = false;
+    std::thread m_thread;
 };
