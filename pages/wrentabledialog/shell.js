@@ -12,6 +12,7 @@ Object.assign(wrentabledialog_obj, {
         this.initializeRecordFilter();
         guarded(() => this.initializeList());
         this.initializeGroupBox();
+        this.refreshCommonParts();
         this.initializeTabs();
         this.refreshDisplayElement();
         this.update();

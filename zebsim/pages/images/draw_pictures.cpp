@@ -18,6 +18,7 @@ struct Style {
     QColor line;
     QColor faint;
     QColor paper;
+    QColor on;
 };
 
 const QColor kGreen(0x1f, 0xa3, 0x4a);
@@ -70,7 +71,7 @@ void mobile(Picture& picture, qreal x, const QColor& colour, const QColor& scree
 // Connected, disconnected, mobile; 24 pixels each.
 void titleBar(const QDir& folder, const Style& style) {
     Picture picture(72, 24);
-    camera(picture, 0, kGreen);
+    camera(picture, 0, style.on);
     camera(picture, 24, style.faint);
     picture.pen(style.line, 1.6);
     picture.painter().drawLine(QPointF(28, 20), QPointF(45, 4));
@@ -154,9 +155,9 @@ void selectArrow(const QDir& folder, const Style& style) {
 }
 
 void drawAll(const QDir& folder) {
-    const Style light{QString(), QColor(0x4a, 0x52, 0x5a), QColor(0xa7, 0xae, 0xb5), kWhite};
+    const Style light{QString(), QColor(0x4a, 0x52, 0x5a), QColor(0xa7, 0xae, 0xb5), kWhite, kGreen};
     const Style dark{QStringLiteral("_dark"), QColor(0xd0, 0xd5, 0xda), QColor(0x77, 0x7e, 0x85),
-                     QColor(0x2b, 0x2e, 0x31)};
+                     QColor(0x2b, 0x2e, 0x31), QColor(0x3f, 0xd4, 0x73)};
     badges(folder);
     for (const Style& style : {light, dark}) {
         titleBar(folder, style);
