@@ -104,7 +104,8 @@ Object.assign(wrentabledialog_obj, {
     }
 });
 
-$(() => {
+// Not jQuery's ready, which comes after the window's load.
+document.addEventListener('DOMContentLoaded', () => {
     wrentabledialog_obj.initializePage();
     wrentabledialog_obj.resizeTableElements();
 });
