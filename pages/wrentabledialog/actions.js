@@ -10,6 +10,8 @@ const CLICKS = {
     wren_button_edit_camera_name: row => wrentabledialog_obj.editCamera(row.key)
 };
 
+const PAINT_MS = 20; // by then the page has drawn what was changed
+
 function listenToGrid(view) {
     const box = view.grid.box;
     box.addEventListener('click', event => onGridClick(view, event), true);
@@ -87,6 +89,13 @@ function onGridMove(view, event) {
     }
 }
 
+// The grid's own `lock` waits for a timer and fades in, and a call that blocks the page comes before both.
+function lockAtOnce(grid, message) {
+    const box = grid.box.firstElementChild;
+    w2utils.lock(box, { msg: escapeMarkup(message), spinner: true });
+    $(box).find('.w2ui-lock, .w2ui-lock-msg').finish();
+}
+
 function rowKeys(view, row) {
     return row === view.batch ? view.grid.records.map(record => record.key) : [row.key];
 }
@@ -104,11 +113,22 @@ Object.assign(wrentabledialog_obj, {
 
     changeConnection(cell, keys, connect, message) {
         const grid = this.activeGrid();
-        grid.lock(escapeMarkup(translate(message)), true);
-        try {
-            wrentabledialog.connect(keys, connect);
-            cell.swap(connect, 'on', 'off');
-        } finally {
+        lockAtOnce(grid, translate(message));
+        window.setTimeout(() => {
+            try {
+                guarded(() => {
+                    wrentabledialog.connect(keys, connect);
+                    cell.swap(connect, 'on', 'off');
+                });
+            } finally {
+                this.releaseGrid(grid);
+            }
+        }, PAINT_MS);
+    },
+
+    // The grid unlocks from a timer of its own, so clicks that came while the page stood still meet the lock yet.
+    releaseGrid(grid) {
+        if (!this.gridLock) {
             grid.unlock();
         }
     },

@@ -25,8 +25,8 @@ check(zeb.open(), 'the table opens');
 check(zeb.page("$('#tabs').tabs('option', 'active')") === 0, 'the camera information tab is in front');
 
 zeb.click('#wren_button_connection_disconnect_-1');
-check(zeb.keys().every(isConnected), 'one click on the batch row connects all eight');
 check(zeb.until("$('#wren-cameraInfo-list .wren_button_lockStatus_unlock:visible').length === 8"), 'all rows have a lock');
+check(zeb.keys().every(isConnected), 'one click on the batch row connects all eight');
 
 LOCKED.forEach(key => zeb.click(`#wren_cameraInfo_button_lockStatus_unlock_${key}`));
 check(LOCKED.every(key => zeb.camera(key).locked) && !UNLOCKED.some(key => zeb.camera(key).locked),
