@@ -13,7 +13,18 @@ GUI_ProgressDialog::GUI_ProgressDialog(const QString& label, const QString& canc
     text->setAlignment(Qt::AlignCenter);
     setLabel(text);
     setRange(minimum, maximum);
-    setCancelButtonText(cancelText);
+    // Only a null text takes the button away.
+    setCancelButtonText(cancelText.isEmpty() ? QString() : cancelText);
+}
+
+bool GUI_ProgressDialog::event(QEvent* event) {
+    // The cancel button has a shortcut of its own, which would take Escape before it is a key here.
+    if (m_ignoreEscape && event->type() == QEvent::ShortcutOverride &&
+        static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape) {
+        event->accept();
+        return true;
+    }
+    return QProgressDialog::event(event);
 }
 
 void GUI_ProgressDialog::keyPressEvent(QKeyEvent* event) {

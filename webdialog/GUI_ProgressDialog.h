@@ -12,6 +12,7 @@ public:
                        Qt::WindowFlags windowFlags, bool ignoreEscape);
 
 protected:
+    bool event(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 
 private:

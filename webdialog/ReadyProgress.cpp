@@ -10,8 +10,9 @@
 
 GUI_ProgressDialog* makeReadyProgressDialog(const QString& label, ZebHost& host) {
     PLG_Interface* wren = host.appStatus().getPlugin(QStringLiteral("wren"));
-    QDialog* table = wren ? wren->getDialog(false) : nullptr;
-    auto* progress = new GUI_ProgressDialog(label, QString(), 0, 0, table, Qt::FramelessWindowHint, true);
+    QWidget* table = wren ? wren->getDialog(false) : nullptr;
+    QWidget* parent = table ? table : host.getMainWindow();
+    auto* progress = new GUI_ProgressDialog(label, QString(), 0, 0, parent, Qt::FramelessWindowHint, true);
     progress->setModal(false);
     progress->setAutoClose(true);
     progress->setAutoReset(true);

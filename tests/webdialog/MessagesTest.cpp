@@ -117,6 +117,7 @@ TEST_F(Messages, MarqueeStandsUntilTheWorkHasEnded) {
     EXPECT_EQ(label->textFormat(), Qt::PlainText);
     EXPECT_EQ(label->text(), plainText(Markup));
     progress.show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&progress));
     QTest::keyClick(&progress, Qt::Key_Escape);
     EXPECT_TRUE(progress.isVisible());
     EXPECT_FALSE(progress.wasCanceled());
@@ -134,7 +135,7 @@ TEST_F(Messages, MarqueeStandsUntilTheWorkHasEnded) {
     EXPECT_FALSE(progress.isVisible());
     EXPECT_EQ(journal.take().count("requestStop"), 2);
 
-    const GUI_MarqueeProgressDialog endless(&host, "wait", QString(), false);
+    const GUI_MarqueeProgressDialog endless(&host, "wait", "", false);
     EXPECT_FALSE(endless.findChild<QAbstractButton*>());
     EXPECT_EQ(endless.windowModality(), Qt::NonModal);
 }
@@ -152,8 +153,9 @@ TEST_F(Messages, ReadyProgressStandsOverTheTable) {
     EXPECT_TRUE(progress->styleSheet().endsWith("QProgressBar::chunk {color: black; background: orange;}"));
 
     host.plugins.clear();
+    host.mainWindow = &mainWindow;
     const QScopedPointer<GUI_ProgressDialog> alone(makeReadyProgressDialog("Ready...", host));
-    EXPECT_EQ(alone->parent(), nullptr);
+    EXPECT_EQ(alone->parent(), &mainWindow);
 }
 
 TEST_F(Messages, ActionHandsOverItsMapOrItsValue) {
