@@ -34,7 +34,7 @@ QVector<QRect> screenGeometries() {
 
 GUI_WrenTableDialog::GUI_WrenTableDialog(ZebHost* host, const QString& title, const QString& url,
                                          JS_Mediator_WrenTableDialog* bridge, PLG_Interface* plugin)
-    : GUI_ModelessPatternDialog(host, title, url, bridge, plugin) {
+    : GUI_ModelessPatternDialog(host, title, url, bridge, plugin), m_table(bridge) {
     setWindowFlags(windowFlags() | Qt::WindowMinMaxButtonsHint);
     setMinimumSize(MinimumSize);
     restorePlacement();
@@ -49,13 +49,17 @@ void GUI_WrenTableDialog::closeEvent(QCloseEvent* event) {
         return;
     }
     const QPointer<GUI_WrenTableDialog> self(this);
-    bridgeCall(*getBridge(), [this] { storePlacement(); });
+    const bool ticking = m_table->isTicking();
+    bridgeCall(*m_table, [this] { storePlacement(); });
     QCoreApplication::processEvents();
     if (!self || !mayClose()) {
+        if (self && !ticking) {
+            m_table->stopAutoUpdate();  // the end of our calls has started them
+        }
         event->ignore();
         return;
     }
-    bridgeCall(*getBridge(), [this] { host().setPrefBool(ReadyPref, host().isApplicationClosing()); });
+    bridgeCall(*m_table, [this] { host().setPrefBool(ReadyPref, host().isApplicationClosing()); });
     GUI_ModelessPatternDialog::closeEvent(event);
 }
 
@@ -90,7 +94,7 @@ void GUI_WrenTableDialog::storePlacement() {
 /// The question counts as a call of the bridge: no tick comes while it stands and no camera is changed behind it.
 bool GUI_WrenTableDialog::mayClose() {
     const QPointer<GUI_WrenTableDialog> self(this);
-    const bool agreed = host().isApplicationClosing() || bridgeCall(*getBridge(), false, [this] {
+    const bool agreed = host().isApplicationClosing() || bridgeCall(*m_table, false, [this] {
                             return host().confirmModal(QStringLiteral("Quit WREN?"), this, {});
                         });
     return self && (agreed || host().isApplicationClosing());

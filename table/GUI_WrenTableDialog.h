@@ -24,4 +24,7 @@ private:
     void restorePlacement();
     void storePlacement();
     bool mayClose();
+
+    /// The bridge, which the base class owns.
+    JS_Mediator_WrenTableDialog* const m_table;
 };

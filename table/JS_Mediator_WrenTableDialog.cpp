@@ -50,9 +50,9 @@ JS_Mediator_WrenTableDialog::JS_Mediator_WrenTableDialog(ZebHost* host, const QS
     QObject::connect(&m_timers, &UpdateTimers::selected, this, &JS_Mediator_WrenTableDialog::slotSelectForUpdate);
     bridgeCall(*this, [this] {
         openSession();
+        deleteReadyProgress();
         m_timers.stop();  // ticks begin with the first call of the page
     });
-    deleteReadyProgress();
 }
 
 JS_Mediator_WrenTableDialog::~JS_Mediator_WrenTableDialog() {
@@ -253,7 +253,7 @@ void JS_Mediator_WrenTableDialog::showReadyProgress() {
 }
 
 void JS_Mediator_WrenTableDialog::deleteReadyProgress() {
-    delete m_readyProgress;
+    bridgeCall(*this, [this] { delete m_readyProgress; });
 }
 
 void JS_Mediator_WrenTableDialog::startAutoUpdate() {

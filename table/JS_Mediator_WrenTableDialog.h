@@ -25,6 +25,8 @@ public:
     void clearRecordRunning() override { m_state.recordRunning = false; }
 
     TableState& state() { return m_state; }
+    /// Whether ticks come, now that no call runs.
+    bool isTicking() const { return m_timers.isTicking(); }
 
 Q_SIGNALS:
     /// A tick of the update timer: the page follows the cameras.

@@ -22,6 +22,8 @@ public:
     void remove();
 
     /// The outermost bridge call begins, and ends.
+    bool isTicking() const { return m_update && m_update->isActive(); }
+
     void pause();
     void resume();
     void start();

@@ -42,6 +42,7 @@ TEST_F(TableWindowTest, aDeclinedCloseLeavesTheTableAsItIs) {
     auto& bridge = static_cast<JS_Mediator_WrenTableDialog&>(*dialog.getBridge());
     QSignalSpy closes(&bridge, &JS_Mediator::close);
     dialog.setGeometry(300, 200, 1300, 500);
+    bridge.startAutoUpdate();
 
     desk.answers = {false};
     EXPECT_FALSE(dialog.close());
@@ -51,6 +52,11 @@ TEST_F(TableWindowTest, aDeclinedCloseLeavesTheTableAsItIs) {
     EXPECT_EQ(host.getPrefInt("wren/table/x"), 300) << "the place is stored before the question";
     EXPECT_TRUE(host.getPrefBool("recording/RecAllConnectedCamera"));
     EXPECT_TRUE(QSignalSpy(&bridge, &JS_Mediator_WrenTableDialog::autoUpdate).wait());
+
+    bridge.stopAutoUpdate();
+    desk.answers = {false};
+    EXPECT_FALSE(dialog.close());
+    EXPECT_FALSE(bridge.isTicking()) << "a drag that had stopped the ticks goes on";
 }
 
 TEST_F(TableWindowTest, anAcceptedCloseStoresTheWindowThenEndsTheTable) {
