@@ -7,6 +7,7 @@ public:
 
     /// Frames that a recording takes with the present settings in live mode, recorded frames otherwise.
     virtual unsigned int getFrameCount(int partition, int head) const = 0;
-    /// Marks the recording for saving.
+    /// Whether the recording is marked for saving.
+    virtual bool isRecordCheck() const = 0;
     virtual void setRecordCheck(bool check) = 0;
 };

@@ -1,6 +1,7 @@
 #include "records/RecordBuilder.h"
 
 #include "DOC_Control.h"
+#include "DOC_Frames.h"
 #include "DOC_Interface.h"
 #include "ZebHost.h"
 #include "records/CameraInfoMembers.h"
@@ -17,6 +18,8 @@ Record RecordBuilder::build(DOC_Interface& doc, const RowState& row) {
     commonmembers::addAlways(record, doc, row);
     if (m_live) {
         addLive(record, doc, row.connected);
+    } else {
+        addMemory(record, doc);
     }
     return record;
 }
@@ -29,4 +32,9 @@ void RecordBuilder::addLive(Record& record, DOC_Interface& doc, bool connected) 
     } else if (m_liveControl) {
         m_liveControl->add(record, doc, connected, lowLight);
     }
+}
+
+void RecordBuilder::addMemory(Record& record, DOC_Interface& doc) {
+    record.setFlag(QLatin1String("check"), doc.frames().isRecordCheck());
+    record.setText(QLatin1String("totalFrame"), {});
 }

@@ -19,6 +19,7 @@ public:
 
 private:
     void addLive(Record& record, DOC_Interface& doc, bool connected);
+    static void addMemory(Record& record, DOC_Interface& doc);
 
     int m_tab;
     bool m_live;

@@ -82,5 +82,6 @@ public:
     bool isParamLocked() const override { return locked; }
     void setParamLock(bool lock) override { locked = lock; }
     unsigned int getFrameCount(int, int) const override { return 0; }
+    bool isRecordCheck() const override { return false; }
     void setRecordCheck(bool) override {}
 };

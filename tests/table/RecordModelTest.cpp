@@ -113,6 +113,7 @@ TEST_F(RecordModelTest, showsEachTabAndModeAsTheCamerasAre) {
     expectJson(records(R"({"group":"","filter":0,"tab":1})"), toText(expected("livecontrol")));
     expectJson(records(R"({"group":"","filter":0,"tab":0})"), toText(expected("camerainfo")));
     host.appStatus().enterMemoryMode();
+    change(2, {{"recordCheck", true}});
     expectJson(records(R"({"group":"","filter":0,"tab":0})"), toText(expected("memory")));
     expectJson(records(R"({"group":"","filter":0,"tab":1})"), toText(expected("memory")));
     host.appStatus().enterMode(zeb::FileMode);

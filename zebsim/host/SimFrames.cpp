@@ -13,6 +13,11 @@ unsigned int SimFrames::getFrameCount(int /*partition*/, int /*head*/) const {
     return m_camera.model().frameCapacity(m_camera.get(&CameraState::resolution));
 }
 
+bool SimFrames::isRecordCheck() const {
+    m_camera.query("isRecordCheck");
+    return m_camera.get(&CameraState::recordCheck);
+}
+
 void SimFrames::setRecordCheck(bool check) {
     m_context.journal.record("DOC_Frames::setRecordCheck", {m_camera.key(), check});
     m_camera.query("setRecordCheck");

@@ -11,6 +11,7 @@ public:
     SimFrames(Camera& camera, const DocContext& context) : m_camera(camera), m_context(context) {}
 
     unsigned int getFrameCount(int partition, int head) const override;
+    bool isRecordCheck() const override;
     void setRecordCheck(bool check) override;
 
 private:
