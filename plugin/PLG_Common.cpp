@@ -87,6 +87,9 @@ bool PLG_Common::isChecked(DOC_Interface* doc, int) {
             const PLG_Interface* current = m_host->appStatus().getCurrentPlugin();
             return current && current->getName() == m_name;
         }
+        case 2:
+        case 3:
+            return doc->image().isToolChecked(m_name);
         case DialogButton:
             return isDialogVisible();
         default:
