@@ -77,6 +77,16 @@ module.exports = [
         rules: { 'no-unused-vars': ['error', { vars: 'local' }] }
     },
     {
+        // What the tests of a page run inside it.
+        files: ['tests/pages/**/*.js'],
+        languageOptions: {
+            ecmaVersion: 2015,
+            sourceType: 'script',
+            globals: Object.assign({}, browser, table, readonly(['MutationObserver']))
+        },
+        rules: pageRules
+    },
+    {
         files: ['eslint.config.js'],
         languageOptions: { sourceType: 'commonjs', globals: readonly(['require', 'module']) },
         rules: { 'max-len': ['error', 120] }

@@ -1,0 +1,93 @@
+#include "TablePage.h"
+
+#include <gmock/gmock.h>
+
+// What must not grow with the number of cameras or of refreshes.
+
+namespace {
+
+constexpr double Growth = 1.1;
+
+QMap<QString, int> countsOf(const QStringList& names) {
+    QMap<QString, int> counts;
+    for (const QString& name : names) {
+        ++counts[name];
+    }
+    return counts;
+}
+
+struct Size {
+    int elements;
+    QStringList calls;
+};
+
+Size sizeWith(int cameras, int tab) {
+    TestHost test(Rig::standard(cameras));
+    connectCameras(test, 1, DOCKEY(cameras));
+    TablePage page(test, tab);
+    EXPECT_EQ(page.number("probe.grid().records.length"), cameras);
+    return {page.number("probe.elements()"),
+            page.list("probe.calls(() => wrentabledialog_obj.autoUpdate()).map(call => call[0])")};
+}
+
+TEST(PageCounts, DoNotGrowWithTheNumberOfCameras) {
+    for (const int tab : {0, 1}) {
+        const Size few = sizeWith(64, tab);
+        const Size many = sizeWith(1024, tab);
+        EXPECT_GT(few.elements, 300) << "tab " << tab << ": the rows are there";
+        EXPECT_LE(many.elements, Growth * few.elements) << "tab " << tab;
+        EXPECT_LE(many.calls.size(), Growth * few.calls.size()) << "tab " << tab;
+        for (const char* once : {"getRecords", "getControlStatus", "getRecStatus"}) {
+            EXPECT_EQ(countsOf(many.calls).value(once), 1) << once << " of tab " << tab;
+        }
+    }
+}
+
+TEST(PageCounts, HandlersDoNotGrowWithRefreshes) {
+    TestHost test(Rig::standard(8));
+    connectCameras(test, 1, 8);
+    TablePage page(test, 1);
+    page.run("probe.watchHandlers()");
+    // A list is opened each time, for it brings handlers of its own.
+    const QString refresh = QStringLiteral(
+        "$('.SumoSelect[dockey=\"2\"]')[0].click(); var open = $('.wren-dropdown').length;"
+        "wrentabledialog_obj.update(); return open");
+    EXPECT_EQ(page.number(refresh), 1) << "the list opens";
+    const int once = page.number("probe.handlers()");
+    const int elements = page.number("probe.elements()");
+    for (int i = 0; i < 49; ++i) {
+        page.run(refresh);
+    }
+    EXPECT_LE(page.number("probe.handlers()"), Growth * once);
+    EXPECT_EQ(page.number("probe.elements()"), elements) << "nor do elements stay behind";
+    page.run("$(window).on('resize', () => 0); window.addEventListener('resize', () => 0)");
+    EXPECT_EQ(page.number("probe.handlers()"), once + 2) << "either kind would have been counted";
+}
+
+TEST(PageCounts, ATickWithNothingChangedWritesNothing) {
+    TestHost test(Rig::fromFile("eight-mixed"));
+    connectCameras(test, 1, 7);
+    test.camera(1).change({{"selected", true}, {"locked", true}});
+    test.camera(2).change({{"lowLight", true}, {"reduce", true}});
+    TablePage page(test);
+    const auto quiet = [&](const std::string& where) {
+        page.update();
+        page.tick();
+        EXPECT_EQ(page.tick(), QStringList()) << where;
+    };
+    for (const int tab : {0, 1, 2, 3, 4}) {
+        page.show(tab);
+        quiet("tab " + std::to_string(tab));
+    }
+    test.host.prefs().setValue("env/style", "dark");
+    quiet("dark");
+    test.host.appStatus().enterMode(zeb::MemoryMode);
+    quiet("memory mode");
+    const QStringList calls = page.list("probe.calls(() => wrentabledialog_obj.autoUpdate()).map(call => call[0])");
+    EXPECT_TRUE(calls.contains("getRecords"));
+    EXPECT_FALSE(calls.contains("getRecStatus")) << "there is no record status in memory mode";
+    test.host.appStatus().enterMode(zeb::FileMode);
+    quiet("file mode");
+}
+
+}  // namespace

@@ -1,0 +1,187 @@
+#include "TablePage.h"
+
+#include "ZebTypes.h"
+
+#include <QJsonObject>
+
+#include <gmock/gmock.h>
+
+namespace {
+
+struct TickCase {
+    const char* what;
+    QVariantMap change;
+    QStringList fields;  ///< that are written, in the order of their names
+    const char* script;  ///< of what the row shows; %1 is its key
+    QString shown;
+};
+
+/// Each case changes a camera of its own behind the table's back.
+void checkTicks(int tab, const QList<TickCase>& cases) {
+    TestHost test(Rig::standard(64));
+    connectCameras(test, 1, 64);
+    TablePage page(test, tab);
+    choose(test, {"1"});
+    page.update();
+    EXPECT_EQ(page.tick(), QStringList());
+    DOCKEY key = 1;
+    for (const TickCase& c : cases) {
+        SCOPED_TRACE(c.what);
+        test.camera(++key).change(c.change);
+        QStringList places;
+        for (const QString& field : c.fields) {
+            places << (field.contains('/') ? field : QString::number(key) + "/" + field);
+        }
+        EXPECT_EQ(page.tick(), places);
+        EXPECT_EQ(page.text(QString(c.script).replace("%1", QString::number(key))), c.shown);
+        EXPECT_EQ(page.tick(), QStringList()) << "the second time";
+    }
+    test.camera(63).change({{"comment", "far below"}, {"rate", 2000}, {"locked", true}});
+    EXPECT_EQ(page.tick(), QStringList()) << "a row that is out of sight";
+}
+
+TEST(PageTick, WritesWhatChangedInTheCameraInformation) {
+    const QString comment = QStringLiteral("left") + zeb::CommentSeparator + "lens";
+    checkTicks(
+        0,
+        {{"comment", {{"comment", comment}}, {"comment"}, "$('#wren_cameraInfo_comment_%1').text()", "left"},
+         {"alert",
+          {{"alerts", QStringList{"warm", "dark"}}},
+          {"alert"},
+          "$('#wren_cameraInfo_alert_%1').attr('alert') + $('#wren_cameraInfo_alert_%1').attr('alerts')",
+          "truewarm\ndark"},
+         {"status",
+          {{"status", zeb::CameraRecording}},
+          {"cameraStatus"},
+          "$('#wren_cameraInfo_cameraStatus_%1').attr('status')",
+          "Recording..."},
+         {"signal", {{"syncStatus", "Over Sync"}}, {"sync"}, "$('#wren_cameraInfo_sync_%1').attr('sync')", "Over Sync"},
+         {"mobile",
+          {{"mobile", true}},
+          {"connectIcon"},
+          "$('#wren_cameraInfo_connectIcon_%1').attr('connected')",
+          "mobile"},
+         {"selection", {{"selected", true}}, {"row"}, "probe.selected().join()", "1,7"},
+         {"lock",
+          {{"locked", true}},
+          {"cameraName", "comment", "connectionStatus", "lock"},
+          "$('[id$=_%1][disabled], [id$=_%1][cursorDisable=true], .wren-lock-status[dockey=%1]').length + ''",
+          "5"},
+         {"name, which only a full refresh shows",
+          {{"name", "other"}},
+          {},
+          "$('.wren_label_edit_camera_name[dockey=%1]').text()",
+          "Camera 9"},
+         {"disconnected",
+          {{"connected", false}},
+          {"cameraStatus", "connectIcon", "connectionStatus", "sync"},
+          "$('[id^=wren_button_connection_][id$=_%1]:visible').attr('class')",
+          "wren_button_connection_disconnect"}});
+}
+
+TEST(PageTick, WritesWhatChangedInTheLiveControl) {
+    const char* waiting = "$('.wren_button_reduce[dockey=%1][disabled]').length + ''";
+    const char* lowLight =
+        "$('.wren_button_lowlight[dockey=%1]:visible')[0].id + $('#wren_livecontrol_framerate_%1:disabled').length";
+    const char* locked =
+        "$('a[disabled][dockey=%1], .SumoSelect.disabled[dockey=%1] .wren_livecontrol_framerate').length + ''";
+    checkTicks(
+        1,
+        {{"rate", {{"rate", 2000}}, {"frameRate"}, "$('p.wren_livecontrol_framerate[dockey=%1]').text()", "2000 fps"},
+         {"shutter", {{"shutter", 4000}}, {"shutterSpeed"}, "$('#wren_livecontrol_shutterSpeed_%1').val()", "4000"},
+         {"resolution",
+          {{"resolution", QVariantList{512, 256}}},
+          {"resolution"},
+          "$('#wren_livecontrol_resolution_%1').val()",
+          "512 x 256"},
+         {"trigger", {{"triggerMode", 2}}, {"trigger"}, "$('#wren_livecontrol_trigger_%1').text()", "End"},
+         {"reduce",
+          {{"reduce", true}},
+          {"reduce"},
+          "$('.wren_button_reduce[dockey=%1]:visible')[0].id",
+          "wren_button_reduce_on_6"},
+         {"reduce that waits, and so for all", {{"suspendReduce", true}}, {"-1/reduce", "reduce"}, waiting, "2"},
+         {"low light", {{"lowLight", true}}, {"frameRate", "lowlight"}, lowLight, "wren_button_lowlight_off_81"},
+         {"lock", {{"locked", true}}, {"cameraName", "frameRate", "lock", "lowlight", "reduce"}, locked, "7"}});
+}
+
+/// Cameras in all kinds of states, another one for each camera when `turn` differs.
+void vary(TestHost& test, int cameras, int turn) {
+    const QList<QVariantMap> kinds = {
+        {{"connected", false}},
+        {{"locked", true}, {"comment", "first\nsecond"}},
+        {{"lowLight", true}, {"shutter", 4000}},
+        {{"alerts", QStringList{"warm"}}, {"selected", true}, {"rate", 2000}},
+        {{"reduce", true}, {"resolution", QVariantList{512, 512}}, {"triggerMode", 1}},
+        {{"mobile", true}, {"status", zeb::CameraRecReady}, {"syncStatus", "Sync In"}},
+        {{"rate", 7}, {"shutter", 7}},  // not in the list
+    };
+    const CameraState plain = Rig::standard(1).devices.first().heads.first();
+    for (int i = 0; i < cameras; ++i) {
+        QVariantMap state = plain.toPlain();
+        state.insert("name", QStringLiteral("Camera %1 of turn %2").arg(i).arg(turn));
+        state.insert("connected", true);
+        const QVariantMap kind = kinds.at((i + turn) % kinds.size());
+        for (auto member = kind.begin(); member != kind.end(); ++member) {
+            state.insert(member.key(), member.value());
+        }
+        test.camera(DOCKEY(i + 1)).change(state);
+    }
+}
+
+TEST(PageRows, RowsUsedAgainEqualRowsDrawnNew) {
+    constexpr int Cameras = 100;
+    for (const int tab : {0, 1}) {
+        // This page comes from memory mode, so that its live tabs have never been drawn.
+        TestHost fresh(Rig::standard(Cameras));
+        connectCameras(fresh, 1, Cameras);
+        fresh.host.appStatus().enterMode(zeb::MemoryMode);
+        const QVariantMap drawn = [&] {
+            TablePage page(fresh, 5);
+            vary(fresh, Cameras, 2);
+            page.show(tab);
+            return page.run("probe.shapes()").toObject().toVariantMap();
+        }();
+
+        TestHost used(Rig::standard(Cameras));
+        connectCameras(used, 1, Cameras);
+        TablePage page(used, tab);
+        vary(used, Cameras, 0);
+        page.update();
+        page.number("probe.scrollTo(400)");
+        page.number("probe.scrollTo(100000)");
+        EXPECT_FALSE(page.list("probe.drawn().map(probe.keyOf)").contains("1")) << "the first rows were given away";
+        vary(used, Cameras, 1);
+        page.tick();
+        page.number("probe.scrollTo(900)");
+        vary(used, Cameras, 2);
+        page.update();
+        page.number("probe.scrollTo(0)");
+        const QVariantMap again = page.run("probe.shapes()").toObject().toVariantMap();
+
+        EXPECT_EQ(drawn.keys(), again.keys()) << "tab " << tab;
+        EXPECT_GT(drawn.size(), 300) << "tab " << tab;
+        for (const QString& key : drawn.keys()) {
+            EXPECT_EQ(again.value(key).toString(), drawn.value(key).toString())
+                << key.toStdString() << " of tab " << tab;
+        }
+    }
+}
+
+TEST(PageRows, ARowThatComesIntoViewIsUpToDate) {
+    TestHost test(Rig::standard(100));
+    connectCameras(test, 1, 100);
+    TablePage page(test, 0);
+    test.camera(100).change({{"comment", "changed"}, {"name", "changed"}});
+    page.tick();
+    page.number("probe.scrollTo(100000)");
+    EXPECT_EQ(page.text("$('#wren_cameraInfo_comment_100').text()"), "changed");
+    EXPECT_EQ(page.text("$('.wren_label_edit_camera_name[dockey=100]').text()"), "Camera 100")
+        << "as the rows that were in view";
+    page.update();
+    EXPECT_EQ(page.text("$('.wren_label_edit_camera_name[dockey=100]').text()"), "changed");
+    EXPECT_GT(page.number("document.getElementById('grid_wren-cameraInfo-list_records').scrollTop"), 1000)
+        << "an update does not scroll";
+}
+
+}  // namespace

@@ -1,0 +1,111 @@
+#include "TablePage.h"
+
+#include <gmock/gmock.h>
+
+namespace {
+
+/// The test clicks faster than a person.
+const char* NoDoubleClick = "probe.grid().last.click_time = 0";
+
+QString row(int key) {
+    return QStringLiteral("#wren-cameraInfo-list tr .wren_label_edit_camera_name[dockey=\"%1\"]").arg(key);
+}
+
+QStringList selectedCameras(TestHost& test) {
+    QStringList keys;
+    for (Camera* camera : test.host.cameras().all()) {
+        if (camera->get(&CameraState::selected)) {
+            keys << QString::number(camera->key());
+        }
+    }
+    return keys;
+}
+
+TEST(PageSelection, StaysWithItsCameraWhenAnotherGoes) {
+    TestHost test(Rig::standard(5));
+    connectCameras(test, 1, 5);
+    TablePage page(test);
+    choose(test, {"2", "4"});
+    page.update();
+    EXPECT_EQ(page.list("probe.selected()"), QStringList({"2", "4"}));
+
+    Fault gone;
+    gone.gone = true;
+    test.host.faults().plant(2, "*", gone);
+    test.camera(4).set(&CameraState::syncStatus, QStringLiteral("Over Sync"));
+    EXPECT_EQ(page.tick(), QStringList({"2/row", "4/sync"})) << "a tick takes no row away, nor moves a value";
+    EXPECT_EQ(page.list("probe.selected()"), QStringList("4"));
+
+    page.update();
+    EXPECT_EQ(page.list("probe.drawn().map(row => row.getAttribute('recid') + ':' + probe.keyOf(row))"),
+              QStringList({"1:1", "2:3", "3:4", "4:5"}));
+    EXPECT_EQ(page.list("probe.selected()"), QStringList("4"));
+    EXPECT_EQ(selectedCameras(test), QStringList("4"));
+}
+
+TEST(PageSelection, TheNameOfTheBatchRowSelectsAllConnectedInOneCall) {
+    TestHost test(Rig::standard(100));
+    connectCameras(test, 1, 100);
+    QJsonArray keys;
+    for (int key = 1; key <= 100; ++key) {
+        if (key == 3 || key == 90) {
+            test.camera(DOCKEY(key)).set(&CameraState::connected, false);
+        } else {
+            keys.append(QString::number(key));
+        }
+    }
+    TablePage page(test);
+    choose(test, {"7"});
+    page.update();
+    page.run("probe.callsBegin(); return 0");
+    page.click("#grid_wren-cameraInfo-list_summary .wren_label_edit_camera_name");
+    const QJsonArray calls =
+        page.run("probe.callsEnd().filter(call => call[0] === 'select').map(call => call[1])").toArray();
+    EXPECT_EQ(calls, QJsonArray{QJsonValue(QJsonArray{QJsonValue(keys), true})});
+    EXPECT_EQ(selectedCameras(test).size(), 98);
+    const QStringList shown = page.list("probe.selected()");
+    EXPECT_TRUE(shown.contains("2") && !shown.contains("3")) << shown.join(" ").toStdString();
+}
+
+TEST(PageSelection, FollowsTheMouse) {
+    struct Case {
+        const char* what;
+        QStringList before;
+        QString target;
+        Qt::KeyboardModifiers keys;
+        QStringList after;
+    };
+    const auto cell = [](int key, const char* inner) {
+        return QStringLiteral("#wren-cameraInfo-list #%1_%2").arg(QLatin1String(inner)).arg(key);
+    };
+    TestHost test(Rig::standard(5));
+    connectCameras(test, 1, 5);
+    TablePage page(test);
+    for (const Case& c : {
+             Case{"a row", {}, row(2), {}, {"2"}},
+             Case{"another row", {"1", "3"}, row(2), {}, {"2"}},
+             Case{"the one selected row", {"2"}, row(2), {}, {"2"}},
+             Case{"the one selected row with Ctrl", {"2"}, row(2), Qt::ControlModifier, {}},
+             Case{"one more row with Ctrl", {"2"}, row(4), Qt::ControlModifier, {"2", "4"}},
+             Case{"the comment",
+                  {"1"},
+                  QStringLiteral("#wren-cameraInfo-list tr[recid=\"2\"] td[col=\"8\"]"),
+                  {},
+                  {"1"}},
+             Case{"the lock", {"1"}, cell(2, "wren_cameraInfo_button_lockStatus_unlock"), {}, {"1"}},
+         }) {
+        SCOPED_TRACE(c.what);
+        choose(test, c.before);
+        page.update();
+        page.run(NoDoubleClick);
+        page.click(c.target, c.keys);
+        EXPECT_EQ(selectedCameras(test), c.after);
+        EXPECT_EQ(page.list("probe.selected()"), c.after);
+    }
+    page.run(NoDoubleClick);
+    page.click(row(4));
+    page.click(row(2), Qt::ShiftModifier);
+    EXPECT_EQ(selectedCameras(test), QStringList({"2", "3", "4"})) << "a range with Shift";
+}
+
+}  // namespace
