@@ -105,6 +105,26 @@ TEST(PageTick, WritesWhatChangedInTheLiveControl) {
          {"lock", {{"locked", true}}, {"cameraName", "frameRate", "lock", "lowlight", "reduce"}, locked, "7"}});
 }
 
+TEST(PageTick, LeavesAnOpenListAlone) {
+    TestHost test(Rig::standard(60));
+    connectCameras(test, 1, 60);
+    TablePage page(test, 1);
+    const auto open = [&] {
+        page.click(".SumoSelect[dockey=\"2\"] p.wren_livecontrol_framerate");
+        return page.number("$('.wren-dropdown .options li').length");
+    };
+    EXPECT_EQ(open(), 13) << "the rates of the model";
+    test.camera(2).change({{"rate", 2000}});
+    EXPECT_EQ(page.tick(), QStringList("2/frameRate"));
+    EXPECT_EQ(page.number("$('.wren-dropdown').length"), 1);
+    page.update();
+    EXPECT_EQ(page.number("$('.wren-dropdown').length"), 0) << "a full refresh closes it";
+    open();
+    page.number("probe.scrollTo(500)");
+    EXPECT_EQ(page.number("$('.wren-dropdown').length"), 0) << "so does scrolling";
+    EXPECT_EQ(test.camera(2).get(&CameraState::rate), 2000U) << "and nothing was chosen";
+}
+
 /// Cameras in all kinds of states, another one for each camera when `turn` differs.
 void vary(TestHost& test, int cameras, int turn) {
     const QList<QVariantMap> kinds = {
