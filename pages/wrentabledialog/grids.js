@@ -5,26 +5,37 @@ const views = []; // tab number -> GridView
 Object.assign(wrentabledialog_obj, {
     initializeList() {
         TABS.forEach(tab => {
-            // Made without a box, so that it draws once only, and our way.
-            const grid = $().w2grid({
-                name: tab.gridName,
-                columns: this.createColumns(tab.name, tab.orderKey),
-                reorderColumns: true,
-                keyboard: false,
-                multiSelect: true,
-                recordHeight: ROW_HEIGHT,
-                show: { emptyRecords: false },
-                // w2ui counts the arguments in the handler's text: the first brackets must hold the event alone.
-                onSelect: (event) => this.onSelect(tab, event),
-                onUnselect: (event) => this.onUnselect(tab, event),
-                onClick: (event) => this.clickRecordFunc(tab, event),
-                onDblClick: (event) => event.preventDefault()
-            });
-            views[tab.number] = new GridView(grid, tab, () => this.closeFloating());
-            grid.render(document.getElementById(tab.gridName));
-            listenToGrid(views[tab.number]);
-            alertTip(grid.box);
+            views[tab.number] = guarded(() => this.buildGrid(tab)) || this.standIn(tab);
         });
+    },
+
+    buildGrid(tab) {
+        // Made without a box, so that it draws once only, and our way.
+        const grid = $().w2grid({
+            name: tab.gridName,
+            columns: this.createColumns(tab.name, tab.orderKey),
+            reorderColumns: true,
+            keyboard: false,
+            multiSelect: true,
+            recordHeight: ROW_HEIGHT,
+            show: { emptyRecords: false },
+            // w2ui counts the arguments in the handler's text: the first brackets must hold the event alone.
+            onSelect: (event) => this.onSelect(tab, event),
+            onUnselect: (event) => this.onUnselect(tab, event),
+            onClick: (event) => this.clickRecordFunc(tab, event),
+            onDblClick: (event) => event.preventDefault()
+        });
+        const view = new GridView(grid, tab, () => this.closeFloating());
+        grid.render(document.getElementById(tab.gridName));
+        listenToGrid(view);
+        alertTip(grid.box);
+        return view;
+    },
+
+    // In the place of a grid that could not be built stands one that nobody sees, so that the page goes on.
+    standIn(tab) {
+        const grid = $().w2grid({ name: tab.gridName + '-standin' });
+        return new GridView(grid, tab, () => this.closeFloating());
     },
 
     // The control table is applied once before the tabs are made.

@@ -143,8 +143,11 @@ class GridView {
 
     // To be called when sizes may have changed, once everything is written.
     resized() {
+        if (!this.box) {
+            return;
+        }
         const size = `${this.grid.box.clientWidth} x ${this.grid.box.clientHeight}`;
-        if (!this.box || this.size === size) {
+        if (this.size === size) {
             return;
         }
         this.size = size;
