@@ -8,18 +8,15 @@ const LIVE_PARTS = ['.exec-recording', '.option-recording', '#wren_related_setti
 
 const controls = {
     'LIVE-MODE': {
-        status: 'IsLiveMode',
         hidden: ['.exec-saving'],
         func: on => on && wrentabledialog_obj.enterLiveLook()
     },
     'MEMORY-MODE': {
-        status: 'IsMemoryMode',
         disabled: DEVICE_SETTINGS.concat(SYNC, MANAGEMENT, '#wrentabledialog_defaultsettings'),
         hidden: LIVE_PARTS,
         func: on => on && wrentabledialog_obj.enterMemoryLook()
     },
     'FILE-MODE': {
-        status: 'IsFileMode',
         disabled: DEVICE_SETTINGS.concat(SYNC, CUSTOM, MANAGEMENT, '#recordFilter', '#wrentabledialog_defaultsettings',
             '#wrentabledialog_displaySettings'),
         hidden: LIVE_PARTS.concat('.exec-saving', '#wrenGroupBlock'),

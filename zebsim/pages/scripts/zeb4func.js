@@ -2,6 +2,39 @@
 
 // What every page of the host uses: style, translation, control states, drop-downs, the log of user operations.
 
+// Name of a control state -> its member of `getControlStatus`.
+const CONTROL_STATES = {
+    'LIVE-MODE': 'IsLiveMode',
+    'MEMORY-MODE': 'IsMemoryMode',
+    'FILE-MODE': 'IsFileMode',
+    CTSREADY: 'IsCTSReady',
+    READY: 'IsReady',
+    RECORDING: 'IsRecording',
+    'NOT-RECORDING': 'IsNotRecording',
+    'RECORDING-ERROR': 'IsRecordingError',
+    'BACKGROUND-SAVING': 'IsBgSaving',
+    'NONE-DOCUMENT': 'IsNoneDocument',
+    'NONE-WINDOW': 'IsNoneWindow',
+    'EXIST-LOWLIGHT': 'ExistLowlight',
+    'ALL-LOWLIGHT-ON': 'IsAllLowlightON',
+    'ALL-LOWLIGHT-OFF': 'IsAllLowlightOFF',
+    'LENS-CALIBRATION': 'IsLensCalibration',
+    'CONFLICT-PARTITION': 'IsConflictPartition',
+    'DIRECT-SAVING': 'IsDirectSaving',
+    'AUTO-EXPOSURE-SETTING': 'IsAutoExposureSetting',
+    'HW-TRIGGER-SETTING': 'IsHwTriggerSetting',
+    'VARIABLE-SETTING': 'IsVariableSetting',
+    TRACKING: 'IsTracking',
+    'NODECOMMAND-SENDING': 'IsSendingNodeCommand',
+    'IMAGE-ADJUSTING': 'IsAdjustingImage',
+    'PIXEL-DEFECT-DETECTING': 'IsDetectingPixelDefect',
+    'IMAGETRIGGER-DETECTING': 'IsImageTriggerDetecting',
+    'IMAGETRIGGER-CAPTURING': 'IsImageTriggerCapturing',
+    'OTHER-PLUGIN-OPEN': 'IsOtherPluginOpen',
+    'WREN-ALL-LOCK-DEVICE': 'IsAllWrenLockDevice',
+    'HIDE-TRIGGER-TEST': 'HideTriggerTest'
+};
+
 var zeb4func = {
     // Control states are read often, so the elements of each table are listed by selector once.
     controlPlans: new WeakMap(),
@@ -40,9 +73,9 @@ var zeb4func = {
         }
     },
 
-    // Applies a table of control states, { NAME: { status, disabled, hidden, func } }: an element that a state
-    // that is on lists is disabled or hidden, and stands enabled and shown otherwise. Then each `func` runs, in
-    // the table's order; what it disables or enables overrides the lists.
+    // Applies a table of control states, { NAME: { disabled, hidden, func } }: an element that a state that is on
+    // lists is disabled or hidden, and stands enabled and shown otherwise. Then each `func` runs, in the table's
+    // order; what it disables or enables overrides the lists.
     setDisable: function (mediator, controls) {
         let status;
         try {
@@ -51,7 +84,7 @@ var zeb4func = {
             return;
         }
         const names = Object.keys(controls);
-        const on = names.map(function (name) { return Boolean(status[controls[name].status]); });
+        const on = names.map(function (name) { return Boolean(status[CONTROL_STATES[name]]); });
         const plan = this.planOf(controls, names);
         const outer = this.openStates;
         const disabled = this.openStates = this.union(plan.disabled, on);
