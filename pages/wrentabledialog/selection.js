@@ -95,6 +95,9 @@ Object.assign(wrentabledialog_obj, {
         }
         const view = views[this.activeTab()];
         const connected = view.grid.records.filter(record => record.connected);
+        if (connected.length === 0) {
+            return;
+        }
         this.handSelection(connected.map(record => record.key), true);
         this.selectionChanged();
     },
