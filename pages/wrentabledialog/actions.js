@@ -51,7 +51,9 @@ function onGridClick(view, event) {
 
 function useControl(view, row, cell, control) {
     if (control.classList.contains('SumoSelect')) {
-        openList(view, row, cell);
+        if (cell.choices.length > 0) {
+            openList(view, row, cell);
+        }
         return;
     }
     const name = Array.from(control.classList).find(word => CLICKS[word]);
@@ -61,7 +63,7 @@ function useControl(view, row, cell, control) {
 }
 
 function openList(view, row, cell) {
-    const up = row === view.batch || view.connectedBefore(row.index) >= 2;
+    const up = row === view.batch || view.dropDownsBefore(row.index) >= 2;
     const keys = rowKeys(view, row);
     dropDown.open(cell, up, value => guarded(() => cell.kind.send(keys, value)));
 }

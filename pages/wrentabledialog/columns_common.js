@@ -2,6 +2,8 @@
 const isBatch = record => record.key === wrentabledialog_obj.batchDocKey;
 const isOff = record => !record.connected;
 const isOffOrBatch = record => isOff(record) || isBatch(record);
+const LISTS = ['frameRates', 'shutterSpeeds', 'resolutions', 'triggerModes'];
+const hasDropDowns = record => record.connected && LISTS.every(list => Array.isArray(record[list]));
 
 const COLUMNS = {};
 

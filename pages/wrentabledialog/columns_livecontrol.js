@@ -22,7 +22,7 @@ function dropDownColumn(options) {
             <p class="CaptionCont SelectBox ${name}" dockey><span part="text"></span></p>
             </div>`,
         rebuild(cell, record) {
-            cell.choices = options.choices(record) || [];
+            cell.choices = hasDropDowns(record) ? options.choices(record) : [];
             showChoice(cell, options.value(record), true);
         },
         tick(cell, record, status) {
@@ -70,7 +70,7 @@ COLUMNS.shutterSpeed = dropDownColumn({
 COLUMNS.resolution = dropDownColumn({
     caption: 'Resolution',
     word: 'resolution',
-    choices: record => record.resolutions && record.resolutions.map(text => ({ value: text, name: text })),
+    choices: record => record.resolutions.map(text => ({ value: text, name: text })),
     value: record => record.resolution,
     locked: record => Boolean(record.lock || record.lowLightMode)
 });

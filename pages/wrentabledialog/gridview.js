@@ -235,9 +235,9 @@ class GridView {
         this.rows.forEach(row => row.select(selected.has(row.index)));
     }
 
-    // Connected rows above a line.
-    connectedBefore(index) {
-        return this.grid.records.slice(0, index).filter(record => record.connected).length;
+    // Rows with drop-downs above a line.
+    dropDownsBefore(index) {
+        return this.grid.records.slice(0, index).filter(hasDropDowns).length;
     }
 
     rowOf(element) {
