@@ -18,8 +18,8 @@ function dropDownColumn(options) {
         empty: isOff,
         markup: `<div class="SumoSelect compact" part="frame" dockey>
             <select class="${name} SumoUnder" part="select" id="${name}_" tabindex="-1" dockey>
-            <option part="option"></option></select>
-            <p class="CaptionCont SelectBox ${name}" dockey><span part="text"></span></p>
+            <option part="option" dockey></option></select>
+            <p class="CaptionCont SelectBox ${name}" dockey><span part="text" dockey></span></p>
             </div>`,
         rebuild(cell, record) {
             cell.choices = hasDropDowns(record) ? options.choices(record) : [];
@@ -116,7 +116,7 @@ COLUMNS.lowlight = {
         <div class="wren-slider-container" dockey><label dockey>${caption('dark')}</label>
         <div class="wren_slider_lowlight ui-slider ui-slider-horizontal ui-widget ui-widget-content ui-corner-all"
             part="slider" id="wren_slider_lowlight_" dockey
-            ><span class="ui-slider-handle ui-state-default ui-corner-all" part="handle"></span></div>
+            ><span class="ui-slider-handle ui-state-default ui-corner-all" part="handle" dockey></span></div>
         <label dockey>${caption('bright')}</label><span class="slider-result" part="result" dockey>0</span></div>
         </div>`,
     rebuild(cell, record) {
