@@ -77,12 +77,12 @@ module.exports = [
         rules: { 'no-unused-vars': ['error', { vars: 'local' }] }
     },
     {
-        // What the tests of a page run inside it.
-        files: ['tests/pages/**/*.js'],
+        // What tests and measurements run inside a page.
+        files: ['tests/pages/**/*.js', 'bench/**/*.js'],
         languageOptions: {
             ecmaVersion: 2015,
             sourceType: 'script',
-            globals: Object.assign({}, browser, table, readonly(['MutationObserver']))
+            globals: Object.assign({}, browser, table, readonly(['MutationObserver', 'bench']))
         },
         rules: pageRules
     },
