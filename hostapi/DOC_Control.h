@@ -37,7 +37,8 @@ public:
     virtual QList<QSize> getResolutionList() const = 0;
     /// The speed as it stands in the list that the preference `display/ShutterSpeed` chooses.
     virtual int getShutterSpeed() const = 0;
-    /// `list` 1: fractions of a second, 1/n. `list` 2: exposure times in nanoseconds. Entries of one index belong together.
+    /// `list` 1: fractions of a second, 1/n. `list` 2: exposure times in nanoseconds. Entries of one index belong
+    /// together.
     virtual QList<int> getShutterSpeedList(int list) const = 0;
     /// Speeds on offer, each "value;label;type".
     virtual QStringList getShutterSpeedEntries() const = 0;
