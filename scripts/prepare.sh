@@ -10,7 +10,6 @@ packages=(
 )
 run_packages=(xvfb xauth openbox)
 lint_packages=(clang-format clang-tidy)
-bench_packages=(libbenchmark-dev)
 
 # install_missing PACKAGE...: as root or by sudo; otherwise names what is missing and fails.
 install_missing() {
@@ -48,7 +47,7 @@ install_page_libraries() {
 build() {
     local preset=$1
     shift
-    cmake --preset "$preset" >"/tmp/wren-configure.$$" || { cat "/tmp/wren-configure.$$"; return 1; }
-    rm -f "/tmp/wren-configure.$$"
+    mkdir -p build
+    cmake --preset "$preset" >"build/configure-$preset.log" || { cat "build/configure-$preset.log"; return 1; }
     cmake --build --preset "$preset" ${1:+--target "$@"}
 }
