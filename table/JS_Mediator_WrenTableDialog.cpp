@@ -62,9 +62,9 @@ JS_Mediator_WrenTableDialog::~JS_Mediator_WrenTableDialog() {
 /// For what changes cameras or the host. The page can get here inside another call only from an event loop that this
 /// call runs, over a box or a dialog: what the user decides there must not find other cameras than the user saw.
 template <typename Work>
-void JS_Mediator_WrenTableDialog::changingCall(const char* method, Work&& work) {
+void JS_Mediator_WrenTableDialog::changingCall(const char* method, const QString& args, Work&& work) {
     if (isInCall()) {
-        qWarning() << methodName(method) << "refused: another call of the table still waits for its end";
+        qWarning() << methodName(method) << args << "refused: another call of the table still waits for its end";
         return;
     }
     bridgeCall(*this, std::forward<Work>(work));
@@ -73,7 +73,7 @@ void JS_Mediator_WrenTableDialog::changingCall(const char* method, Work&& work) 
 /// A changing call that the page sees: its end asks for an update.
 template <typename Work>
 void JS_Mediator_WrenTableDialog::operation(const char* method, const QString& args, Work&& work) {
-    changingCall(method, [&] {
+    changingCall(method, args, [&] {
         const OperationEventHandler scope(*this, methodName(method), args);
         work();
     });
@@ -165,8 +165,9 @@ QString JS_Mediator_WrenTableDialog::getSearchAddress() {
 
 bool JS_Mediator_WrenTableDialog::confirmDisconnect(const QVariantList& keys) {
     bool agreed = false;
-    changingCall("confirmDisconnect", [&] {
-        const TraceScope scope(methodName("confirmDisconnect"), keysArg(keys));
+    const QString args = keysArg(keys);
+    changingCall("confirmDisconnect", args, [&] {
+        const TraceScope scope(methodName("confirmDisconnect"), args);
         agreed = CameraManagement(host(), m_state).confirmDisconnect(toDocKeys(keys));
     });
     return agreed;
@@ -183,8 +184,9 @@ void JS_Mediator_WrenTableDialog::connect(const QVariantList& keys, bool connect
 }
 
 void JS_Mediator_WrenTableDialog::select(const QVariantList& keys, bool select) {
-    changingCall("select", [&] {
-        const TraceScope scope(methodName("select"), keysArg(keys) % traceArg(QStringLiteral("select"), select));
+    const QString args = keysArg(keys) % traceArg(QStringLiteral("select"), select);
+    changingCall("select", args, [&] {
+        const TraceScope scope(methodName("select"), args);
         if (CameraManagement(host(), m_state).select(toDocKeys(keys), select)) {
             m_timers.waitForSelection(SelectionWait);
             activateTable();

@@ -53,7 +53,8 @@ DocList ParameterEditing::editableDocs(const DocKeyList& keys) const {
     return docs;
 }
 
-/// Each document is asked, and the last one decides.
+/// Each document is asked, and the last one decides: for this parameter the question is due only where the end of
+/// the list shares its device.
 bool ParameterEditing::reachesLockedHead(const DocList& docs) const {
     if (!m_host.getPrefBool(HeadAlertPref)) {
         return false;

@@ -21,9 +21,9 @@ public:
     void renew(int interval);
     void remove();
 
-    /// The outermost bridge call begins, and ends.
     bool isTicking() const { return m_update && m_update->isActive(); }
 
+    /// The outermost bridge call begins, and ends.
     void pause();
     void resume();
     void start();
