@@ -21,7 +21,7 @@ struct CommandLine {
     QString plugin;
     /// "light", "dark", or empty for what the preferences say.
     QString style;
-    /// "en", "ja", or empty for the user's own.
+    /// "en", "ja", or empty for English.
     QString language;
     bool openTable = true;
 
