@@ -3,8 +3,10 @@
 #include "Simulator.h"
 #include "ViewerWindow.h"
 
+#include <QDialog>
 #include <QFile>
 #include <QTemporaryDir>
+#include <QTimer>
 
 #include <gmock/gmock.h>
 
@@ -82,6 +84,14 @@ TEST_F(Runner, EndsAScriptThatHangs) {
         EXPECT_EQ(outcome.output, "") << script;
         EXPECT_THAT(outcome.errors, HasSubstr("more than 1 seconds")) << script;
     }
+}
+
+TEST_F(Runner, ClosesADialogThatNobodyAnswersInTime) {
+    QDialog dialog;
+    int answer = -1;
+    QTimer::singleShot(0, &dialog, [&] { answer = dialog.exec(); });
+    EXPECT_EQ(run("zeb.wait(1e9)", 1).status, 1);
+    EXPECT_EQ(answer, QDialog::Rejected);
 }
 
 TEST_F(Runner, ShowsAndChangesTheCameras) {

@@ -95,7 +95,7 @@ QMessageBox* MessageBoxes::makeBox(const Message& message) const {
     box->setProperty(TextProperty, whole);
     nameButtons(*box, message.buttons);
     if (message.offersSilence) box->setCheckBox(new QCheckBox(translated(QStringLiteral("Don't show again"))));
-    if (m_host != nullptr) applyMessageBoxStyle(*m_host, *box);
+    applyMessageBoxStyle(*m_host, *box);
     return box;
 }
 

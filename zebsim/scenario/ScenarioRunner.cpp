@@ -77,12 +77,15 @@ void ScenarioRunner::expired() {
     m_stop = true;
     m_engine.setInterrupted(true);
     // Whoever waits for a dialog's answer goes on as if the user had left it.
-    QMetaObject::invokeMethod(
-        this,
-        [] {
-            while (auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget())) dialog->reject();
-        },
-        Qt::QueuedConnection);
+    QMetaObject::invokeMethod(this, &ScenarioRunner::rejectDialogs, Qt::QueuedConnection);
+}
+
+void ScenarioRunner::rejectDialogs() {
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    for (QWidget* window : windows) {
+        auto* dialog = qobject_cast<QDialog*>(window);
+        if (dialog != nullptr && dialog->isVisible() && dialog->isModal()) dialog->reject();
+    }
 }
 
 void ScenarioRunner::fail(const QString& text) {

@@ -27,6 +27,7 @@ public:
 private:
     int run(const QString& path, const QString& program);
     void expired();
+    static void rejectDialogs();
     void fail(const QString& text);
     void reportError(const QJSValue& error);
     QString callerPlace();
