@@ -29,6 +29,13 @@ public:
     /// State of the signal on the sync input, as "Sync In".
     virtual QString getSyncStatusText() const = 0;
 
+    /// Whether recorded frames are stamped with IRIG time.
+    virtual bool isIrigEnabled() const = 0;
+    /// 0 start of the exposure, else its end.
+    virtual int getIrigTimeStampPosition() const = 0;
+    /// Whether the camera records in step with the IRIG signal.
+    virtual bool isIrigSync() const = 0;
+
     /// Rate at which head `head` records, in frames a second.
     virtual unsigned int getRecordRate(int head) const = 0;
     virtual QList<unsigned int> getRecordRateList() const = 0;

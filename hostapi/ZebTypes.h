@@ -42,7 +42,13 @@ enum CameraStatus {
 };
 
 /// Functions that a camera may support, for `DOC_Control::isFunctionSupported`.
-enum CameraFunction { FunctionLowLight = 15, FunctionReduceMode = 175 };
+enum CameraFunction {
+    FunctionIrig = 7,
+    FunctionIrigTimeStampPosition = 8,
+    FunctionLowLight = 15,
+    FunctionIrigSync = 20,
+    FunctionReduceMode = 175
+};
 
 enum LowLightType { LowLightTypeFast = 2, LowLightTypeFine = 3 };
 

@@ -5,9 +5,11 @@
 #include "DOC_Interface.h"
 #include "ZebHost.h"
 #include "records/CameraInfoMembers.h"
+#include "records/IrigMembers.h"
 #include "records/RecordRequest.h"
 
-RecordBuilder::RecordBuilder(ZebHost& host, const TableState& state, int tab) : m_tab(tab), m_live(host.isLiveMode()) {
+RecordBuilder::RecordBuilder(ZebHost& host, const TableState& state, int tab)
+    : m_host(host), m_tab(tab), m_live(host.isLiveMode()) {
     if (m_live && tab == LiveControlTab) {
         m_liveControl.emplace(host, state);
     }
@@ -27,10 +29,18 @@ Record RecordBuilder::build(DOC_Interface& doc, const RowState& row) {
 void RecordBuilder::addLive(Record& record, DOC_Interface& doc, bool connected) {
     const bool lowLight = connected && doc.control().isLowLightMode();
     commonmembers::addLive(record, doc, connected, lowLight);
-    if (m_tab == CameraInfoTab) {
-        camerainfo::add(record, doc);
-    } else if (m_liveControl) {
-        m_liveControl->add(record, doc, connected, lowLight);
+    switch (m_tab) {
+        case CameraInfoTab:
+            camerainfo::add(record, doc);
+            break;
+        case LiveControlTab:
+            m_liveControl->add(record, doc, connected, lowLight);
+            break;
+        case IrigTab:
+            irigmembers::add(record, doc, m_host, connected);
+            break;
+        default:
+            break;
     }
 }
 

@@ -21,6 +21,7 @@ private:
     void addLive(Record& record, DOC_Interface& doc, bool connected);
     static void addMemory(Record& record, DOC_Interface& doc);
 
+    ZebHost& m_host;
     int m_tab;
     bool m_live;
     std::optional<LiveControlMembers> m_liveControl;

@@ -24,6 +24,9 @@ public:
     bool isMultiHead() const override { return {}; }
     bool hasSyncStatus() const override { return {}; }
     QString getSyncStatusText() const override { return {}; }
+    bool isIrigEnabled() const override { return {}; }
+    int getIrigTimeStampPosition() const override { return {}; }
+    bool isIrigSync() const override { return {}; }
     unsigned int getRecordRate(int) const override { return {}; }
     QList<unsigned int> getRecordRateList() const override { return {}; }
     QSize getResolution() const override { return {}; }

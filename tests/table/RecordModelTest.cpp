@@ -44,6 +44,26 @@ QJsonObject expected(const QString& name) {
     return answer;
 }
 
+/// The answer with what a tab adds to its rows, row by row.
+QJsonObject with(QJsonObject answer, const QString& name) {
+    const QJsonObject added = readJson(name);
+    for (const auto& part : {QStringLiteral("records"), QStringLiteral("batch")}) {
+        const QJsonArray additions = added.value(part).toArray();
+        QJsonArray rows = answer.value(part).toArray();
+        EXPECT_EQ(rows.size(), additions.size()) << name.toStdString();
+        for (int i = 0; i < rows.size(); ++i) {
+            QJsonObject row = rows.at(i).toObject();
+            const QJsonObject members = additions.at(i).toObject();
+            for (auto member = members.begin(); member != members.end(); ++member) {
+                row.insert(member.key(), member.value());
+            }
+            rows.replace(i, row);
+        }
+        answer.insert(part, rows);
+    }
+    return answer;
+}
+
 /// The same answer with some of its rows, numbered anew, and the batch row `batch`.
 QJsonObject only(QJsonObject answer, const QStringList& keys, QJsonObject batch) {
     QJsonArray rows;
@@ -102,6 +122,16 @@ protected:
         change(8, {{"mobile", true}});
     }
 
+    void giveIrig() {
+        change(6, {{"connected", true}, {"irig", true}, {"irigSync", true}});
+        change(1, {{"irig", true}, {"irigStampAtEnd", true}, {"irigSync", true}});
+        change(3, {{"irig", true}});
+        change(4, {{"irigStampAtEnd", true}, {"irigSync", true}});
+        change(5, {{"irig", true}, {"irigStampAtEnd", true}, {"irigSync", true}});
+        change(7, {{"irig", true}, {"irigSync", true}});
+        change(8, {{"irig", true}, {"irigSync", true}});
+    }
+
     QString records(const char* request) { return model.getRecords(QString::fromUtf8(request)).json; }
 
     TableState state;
@@ -118,6 +148,13 @@ TEST_F(RecordModelTest, showsEachTabAndModeAsTheCamerasAre) {
     expectJson(records(R"({"group":"","filter":0,"tab":1})"), toText(expected("memory")));
     host.appStatus().enterMode(zeb::FileMode);
     expectJson(records(R"({"group":"","filter":0,"tab":1})"), R"({"records":[],"batch":[]})");
+}
+
+TEST_F(RecordModelTest, showsIrigOfLiveCameras) {
+    bringCamerasIntoUse();
+    giveIrig();
+    const QJsonObject live = readJson("live");
+    expectJson(records(R"({"tab":3})"), toText(with(live, "irig")));
 }
 
 TEST_F(RecordModelTest, filtersRowsAndNumbersThemAnew) {

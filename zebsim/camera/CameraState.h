@@ -31,6 +31,9 @@ struct CameraState {
     Q_PROPERTY(bool reduce MEMBER reduce)
     Q_PROPERTY(bool lowLight MEMBER lowLight)
     Q_PROPERTY(int lowLightType MEMBER lowLightType)
+    Q_PROPERTY(bool irig MEMBER irig)
+    Q_PROPERTY(bool irigStampAtEnd MEMBER irigStampAtEnd)
+    Q_PROPERTY(bool irigSync MEMBER irigSync)
     Q_PROPERTY(bool suspendReduce MEMBER suspendReduce)
     Q_PROPERTY(bool stopLive MEMBER stopLive)
     Q_PROPERTY(bool recorded MEMBER recorded)
@@ -66,6 +69,11 @@ public:
     bool reduce = false;
     bool lowLight = false;
     int lowLightType = zeb::LowLightTypeFast;
+    /// Frames are stamped with IRIG time, at the end of the exposure or at its start; the camera runs in step with
+    /// IRIG.
+    bool irig = false;
+    bool irigStampAtEnd = false;
+    bool irigSync = false;
     bool suspendReduce = false;
     bool stopLive = false;
     bool recorded = false;

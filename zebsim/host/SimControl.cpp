@@ -40,6 +40,21 @@ QString SimControl::getSyncStatusText() const {
     return m_camera.get(&CameraState::syncStatus);
 }
 
+bool SimControl::isIrigEnabled() const {
+    m_camera.queryConnected("isIrigEnabled");
+    return m_camera.get(&CameraState::irig);
+}
+
+int SimControl::getIrigTimeStampPosition() const {
+    m_camera.queryConnected("getIrigTimeStampPosition");
+    return m_camera.get(&CameraState::irigStampAtEnd) ? 1 : 0;
+}
+
+bool SimControl::isIrigSync() const {
+    m_camera.queryConnected("isIrigSync");
+    return m_camera.get(&CameraState::irigSync);
+}
+
 unsigned int SimControl::getRecordRate(int /*head*/) const {
     m_camera.queryConnected("getRecordRate");
     return m_camera.get(&CameraState::rate);

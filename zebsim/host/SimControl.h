@@ -17,6 +17,9 @@ public:
     bool isMultiHead() const override;
     bool hasSyncStatus() const override;
     QString getSyncStatusText() const override;
+    bool isIrigEnabled() const override;
+    int getIrigTimeStampPosition() const override;
+    bool isIrigSync() const override;
     unsigned int getRecordRate(int head) const override;
     QList<unsigned int> getRecordRateList() const override;
     QSize getResolution() const override;
