@@ -18,6 +18,8 @@ public:
     virtual QString getCameraName(int mode) const = 0;
     /// IPv4 address as dotted text.
     virtual QString getAddress(int mode) const = 0;
+    /// Number of the camera's type; the types fall into classes by what their ports are for.
+    virtual int getCameraType() const = 0;
     /// A `zeb::CameraStatus`; other values are states without a name.
     virtual int getCameraStatus() const = 0;
     /// Whether the camera can do a `zeb::CameraFunction`.
@@ -28,6 +30,11 @@ public:
     virtual bool hasSyncStatus() const = 0;
     /// State of the signal on the sync input, as "Sync In".
     virtual QString getSyncStatusText() const = 0;
+
+    /// Numbers of the ports that the camera has.
+    virtual QList<int> getPortList(int mode) const = 0;
+    /// The `zeb::PortSignal` on the port that stands at `index` in the list, counted from 1.
+    virtual int getPortSignal(int index) const = 0;
 
     /// Whether recorded frames are stamped with IRIG time.
     virtual bool isIrigEnabled() const = 0;

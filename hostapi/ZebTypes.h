@@ -50,6 +50,30 @@ enum CameraFunction {
     FunctionReduceMode = 175
 };
 
+/// What is on a port of a camera, as `DOC_Control::getPortSignal` answers it.
+enum PortSignal {
+    SignalOff = 1,
+    SignalOnCamPos = 2,
+    SignalOnCamNeg = 3,
+    SignalOnOthersPos = 4,
+    SignalOnOthersNeg = 5,
+    SignalEventPos = 6,
+    SignalEventNeg = 7,
+    SignalTrigPos = 8,
+    SignalTrigNeg = 9,
+    SignalReadyPos = 10,
+    SignalReadyNeg = 11,
+    SignalSyncPos = 12,
+    SignalSyncNeg = 13,
+    SignalOnCam = 14,
+    SignalOnOthers = 15,
+    SignalNormallyOpen = 16,
+    SignalNormallyClose = 17,
+    SignalPowerOffPos = 32,
+    SignalPowerOffNeg = 33,
+    SignalRemoteOn = 258
+};
+
 enum LowLightType { LowLightTypeFast = 2, LowLightTypeFine = 3 };
 
 enum TriggerMode {

@@ -7,6 +7,7 @@
 #include "records/CameraInfoMembers.h"
 #include "records/IrigMembers.h"
 #include "records/RecordRequest.h"
+#include "records/SyncMembers.h"
 
 RecordBuilder::RecordBuilder(ZebHost& host, const TableState& state, int tab)
     : m_host(host), m_tab(tab), m_live(host.isLiveMode()) {
@@ -35,6 +36,9 @@ void RecordBuilder::addLive(Record& record, DOC_Interface& doc, bool connected) 
             break;
         case LiveControlTab:
             m_liveControl->add(record, doc, connected, lowLight);
+            break;
+        case SyncTab:
+            syncmembers::add(record, doc, m_host, connected);
             break;
         case IrigTab:
             irigmembers::add(record, doc, m_host, connected);

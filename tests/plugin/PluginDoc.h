@@ -19,11 +19,14 @@ public:
 
     QString getCameraName(int) const override { return {}; }
     QString getAddress(int) const override { return {}; }
+    int getCameraType() const override { return {}; }
     int getCameraStatus() const override { return {}; }
     bool isFunctionSupported(int, int) const override { return {}; }
     bool isMultiHead() const override { return {}; }
     bool hasSyncStatus() const override { return {}; }
     QString getSyncStatusText() const override { return {}; }
+    QList<int> getPortList(int) const override { return {}; }
+    int getPortSignal(int) const override { return {}; }
     bool isIrigEnabled() const override { return {}; }
     int getIrigTimeStampPosition() const override { return {}; }
     bool isIrigSync() const override { return {}; }

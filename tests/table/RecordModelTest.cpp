@@ -2,6 +2,7 @@
 #include "TableState.h"
 #include "records/NumberFormat.h"
 #include "records/RecordModel.h"
+#include "records/SyncMembers.h"
 
 #include <QFile>
 #include <QJsonArray>
@@ -122,7 +123,7 @@ protected:
         change(8, {{"mobile", true}});
     }
 
-    void giveIrig() {
+    void giveInputsAndIrig() {
         change(6, {{"connected", true}, {"irig", true}, {"irigSync", true}});
         change(1, {{"irig", true}, {"irigStampAtEnd", true}, {"irigSync", true}});
         change(3, {{"irig", true}});
@@ -150,10 +151,11 @@ TEST_F(RecordModelTest, showsEachTabAndModeAsTheCamerasAre) {
     expectJson(records(R"({"group":"","filter":0,"tab":1})"), R"({"records":[],"batch":[]})");
 }
 
-TEST_F(RecordModelTest, showsIrigOfLiveCameras) {
+TEST_F(RecordModelTest, showsInputsAndIrigOfLiveCameras) {
     bringCamerasIntoUse();
-    giveIrig();
+    giveInputsAndIrig();
     const QJsonObject live = readJson("live");
+    expectJson(records(R"({"tab":2})"), toText(with(live, "sync")));
     expectJson(records(R"({"tab":3})"), toText(with(live, "irig")));
 }
 
@@ -370,6 +372,55 @@ TEST_F(RecordModelTest, reduceModeIsSuspendedForOneOrForAny) {
     EXPECT_FALSE(model.isSuspendReduceMode(4));
     EXPECT_FALSE(model.isSuspendReduceMode(99));
     EXPECT_TRUE(model.isSuspendReduceMode(zeb::NoDocKey));
+}
+
+TEST(SyncMembersTest, inputsAreOnThePortsOfTheCamerasClass) {
+    // A signal of its own on each port tells which one was taken.
+    const QMap<int, int> all{{1, 1}, {2, 8}, {3, 9}, {4, 6}, {5, 7}, {7, 16}, {8, 10}, {10, 11}};
+    const struct {
+        QList<int> types;
+        const char* inputs;
+    } cases[] = {{{0, 12, 24, 26, 27, 33, 34, 41, 45, 48, 52}, "EVENT POS|TRIG NEG|NORMALLY OPEN"},
+                 {{23, 25, 28, 29, 30, 31, 32}, "EVENT NEG|TRIG POS|-"},
+                 {{35}, "EVENT POS|READY POS|-"},
+                 {{36, 37, 38, 39, 40, 42, 43, 44, 46, 47, 50, 51}, "EVENT NEG|TRIG POS|NORMALLY OPEN"},
+                 {{49}, "EVENT NEG|READY NEG|NORMALLY OPEN"}};
+    for (const auto& each : cases) {
+        for (const int type : each.types) {
+            const syncmembers::InputNames names = syncmembers::inputNames(type, all);
+            const QStringList inputs{names.externalSync, names.triggerIn, names.triggerSwIn};
+            EXPECT_EQ(inputs.join('|'), each.inputs) << "type " << type;
+        }
+        const syncmembers::InputNames none = syncmembers::inputNames(each.types.first(), {});
+        EXPECT_EQ((QStringList{none.externalSync, none.triggerIn, none.triggerSwIn}), QStringList({"-", "-", "-"}));
+    }
+}
+
+TEST(SyncMembersTest, polarityRefinesTheSyncInput) {
+    const struct {
+        const char* sentence;
+        int type;
+        QMap<int, int> ports;
+        const char* externalSync;
+    } cases[] = {{"cameras, positive", 36, {{1, 12}, {5, 14}}, "ON CAM POS"},
+                 {"cameras, negative", 23, {{1, 13}, {5, 14}}, "ON CAM NEG"},
+                 {"others, positive", 49, {{1, 12}, {5, 15}}, "ON OTHERS POS"},
+                 {"others, negative", 51, {{1, 13}, {5, 15}}, "ON OTHERS NEG"},
+                 {"no port for the polarity", 36, {{5, 14}}, "ON CAM"},
+                 {"something else on that port", 36, {{1, 8}, {5, 15}}, "ON OTHERS"},
+                 {"a signal without polarity", 36, {{1, 12}, {5, 6}}, "EVENT POS"},
+                 {"a class that does not refine", 35, {{1, 12}, {4, 14}}, "ON CAM"},
+                 {"a signal without a name", 36, {{1, 12}, {5, 99}}, ""}};
+    for (const auto& each : cases) {
+        EXPECT_EQ(syncmembers::inputNames(each.type, each.ports).externalSync, each.externalSync) << each.sentence;
+    }
+    const std::pair<int, const char*> signalNames[] = {
+        {1, "OFF"},       {2, "ON CAM POS"},     {3, "ON CAM NEG"},     {4, "ON OTHERS POS"}, {5, "ON OTHERS NEG"},
+        {12, "SYNC POS"}, {13, "SYNC NEG"},      {14, "ON CAM"},        {15, "ON OTHERS"},    {17, "NORMALLY CLOSE"},
+        {18, ""},         {32, "POWER OFF POS"}, {33, "POWER OFF NEG"}, {258, "REMOTE ON"}};
+    for (const auto& [signal, name] : signalNames) {
+        EXPECT_EQ(syncmembers::inputNames(0, {{3, signal}}).triggerIn, name);
+    }
 }
 
 }  // namespace

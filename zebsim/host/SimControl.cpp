@@ -15,6 +15,11 @@ QString SimControl::getAddress(int /*mode*/) const {
     return m_camera.device().address();
 }
 
+int SimControl::getCameraType() const {
+    m_camera.queryConnected("getCameraType");
+    return m_camera.model().type;
+}
+
 int SimControl::getCameraStatus() const {
     m_camera.queryConnected("getCameraStatus");
     return m_camera.get(&CameraState::status);
@@ -38,6 +43,16 @@ bool SimControl::hasSyncStatus() const {
 QString SimControl::getSyncStatusText() const {
     m_camera.queryConnected("getSyncStatusText");
     return m_camera.get(&CameraState::syncStatus);
+}
+
+QList<int> SimControl::getPortList(int /*mode*/) const {
+    m_camera.queryConnected("getPortList");
+    return m_camera.model().ports.keys();
+}
+
+int SimControl::getPortSignal(int index) const {
+    m_camera.queryConnected("getPortSignal");
+    return m_camera.model().ports.values().value(index - 1);
 }
 
 bool SimControl::isIrigEnabled() const {

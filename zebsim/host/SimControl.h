@@ -12,11 +12,14 @@ public:
 
     QString getCameraName(int mode) const override;
     QString getAddress(int mode) const override;
+    int getCameraType() const override;
     int getCameraStatus() const override;
     bool isFunctionSupported(int function, int mode) const override;
     bool isMultiHead() const override;
     bool hasSyncStatus() const override;
     QString getSyncStatusText() const override;
+    QList<int> getPortList(int mode) const override;
+    int getPortSignal(int index) const override;
     bool isIrigEnabled() const override;
     int getIrigTimeStampPosition() const override;
     bool isIrigSync() const override;

@@ -1,0 +1,139 @@
+#include "records/SyncMembers.h"
+
+#include "DOC_Control.h"
+#include "DOC_Interface.h"
+#include "ZebHost.h"
+#include "records/Record.h"
+
+#include <QHash>
+
+namespace syncmembers {
+
+namespace {
+
+const QString NoInput = QStringLiteral("-");
+
+/// No camera has a port of this number.
+constexpr int NoPort = 0;
+
+/// Where the polarity of the sync input stands, for cameras that have it apart.
+constexpr int PolarityPort = 1;
+
+/// Ports of the inputs; they differ from one class of cameras to the other.
+struct InputPorts {
+    int externalSync;
+    /// The name of the sync input comes from its signal and that of the polarity port.
+    bool refined;
+    int triggerIn;
+    int triggerSwIn;
+};
+
+InputPorts inputPorts(int cameraType) {
+    switch (cameraType) {
+        case 23:
+        case 25:
+        case 28:
+        case 29:
+        case 30:
+        case 31:
+        case 32:
+            return {5, true, 2, NoPort};
+        case 35:
+            return {4, false, 8, NoPort};
+        case 36:
+        case 37:
+        case 38:
+        case 39:
+        case 40:
+        case 42:
+        case 43:
+        case 44:
+        case 46:
+        case 47:
+        case 50:
+        case 51:
+            return {5, true, 2, 7};
+        case 49:
+            return {5, true, 10, 7};
+        default:
+            return {4, false, 3, 7};
+    }
+}
+
+QString signalName(int signal) {
+    static const QHash<int, QString> names{{zeb::SignalOff, QStringLiteral("OFF")},
+                                           {zeb::SignalOnCamPos, QStringLiteral("ON CAM POS")},
+                                           {zeb::SignalOnCamNeg, QStringLiteral("ON CAM NEG")},
+                                           {zeb::SignalOnOthersPos, QStringLiteral("ON OTHERS POS")},
+                                           {zeb::SignalOnOthersNeg, QStringLiteral("ON OTHERS NEG")},
+                                           {zeb::SignalEventPos, QStringLiteral("EVENT POS")},
+                                           {zeb::SignalEventNeg, QStringLiteral("EVENT NEG")},
+                                           {zeb::SignalTrigPos, QStringLiteral("TRIG POS")},
+                                           {zeb::SignalTrigNeg, QStringLiteral("TRIG NEG")},
+                                           {zeb::SignalReadyPos, QStringLiteral("READY POS")},
+                                           {zeb::SignalReadyNeg, QStringLiteral("READY NEG")},
+                                           {zeb::SignalSyncPos, QStringLiteral("SYNC POS")},
+                                           {zeb::SignalSyncNeg, QStringLiteral("SYNC NEG")},
+                                           {zeb::SignalOnCam, QStringLiteral("ON CAM")},
+                                           {zeb::SignalOnOthers, QStringLiteral("ON OTHERS")},
+                                           {zeb::SignalNormallyOpen, QStringLiteral("NORMALLY OPEN")},
+                                           {zeb::SignalNormallyClose, QStringLiteral("NORMALLY CLOSE")},
+                                           {zeb::SignalPowerOffPos, QStringLiteral("POWER OFF POS")},
+                                           {zeb::SignalPowerOffNeg, QStringLiteral("POWER OFF NEG")},
+                                           {zeb::SignalRemoteOn, QStringLiteral("REMOTE ON")}};
+    return names.value(signal);
+}
+
+/// The signal that source and polarity make together; the source itself for any other polarity.
+int withPolarity(int source, int polarity) {
+    const bool positive = polarity == zeb::SignalSyncPos;
+    if (!positive && polarity != zeb::SignalSyncNeg) {
+        return source;
+    }
+    switch (source) {
+        case zeb::SignalOnCam:
+            return positive ? zeb::SignalOnCamPos : zeb::SignalOnCamNeg;
+        case zeb::SignalOnOthers:
+            return positive ? zeb::SignalOnOthersPos : zeb::SignalOnOthersNeg;
+        default:
+            return source;
+    }
+}
+
+QMap<int, int> portsOf(const DOC_Control& camera) {
+    QMap<int, int> ports;
+    int index = 0;
+    for (const int port : camera.getPortList(1)) {
+        ports.insert(port, camera.getPortSignal(++index));
+    }
+    return ports;
+}
+
+QString shown(const QString& name, const ZebHost& host) {
+    return name.isEmpty() || name == NoInput ? name : host.translate(name);
+}
+
+}  // namespace
+
+InputNames inputNames(int cameraType, const QMap<int, int>& ports) {
+    const InputPorts inputs = inputPorts(cameraType);
+    const auto nameAt = [&ports](int port, bool refined) {
+        if (!ports.contains(port)) {
+            return NoInput;
+        }
+        const int signal = ports.value(port);
+        return signalName(refined ? withPolarity(signal, ports.value(PolarityPort)) : signal);
+    };
+    return {nameAt(inputs.externalSync, inputs.refined), nameAt(inputs.triggerIn, false),
+            nameAt(inputs.triggerSwIn, false)};
+}
+
+void add(Record& record, DOC_Interface& doc, const ZebHost& host, bool connected) {
+    const InputNames names =
+        connected ? inputNames(doc.control().getCameraType(), portsOf(doc.control())) : InputNames();
+    record.setText(QLatin1String("externalSync"), shown(names.externalSync, host));
+    record.setText(QLatin1String("triggerIn"), shown(names.triggerIn, host));
+    record.setText(QLatin1String("triggerSwIn"), shown(names.triggerSwIn, host));
+}
+
+}  // namespace syncmembers
