@@ -10,6 +10,7 @@ class DOC_Control;
 class DOC_Frames;
 class DOC_Image;
 class DOC_Lock;
+class DOC_Storage;
 
 /// A camera, or one head of a camera with several.
 ///
@@ -26,6 +27,7 @@ public:
     virtual DOC_Frames& frames() = 0;
     virtual DOC_Image& image() = 0;
     virtual DOC_Control& control() = 0;
+    virtual DOC_Storage& storage() = 0;
 
     virtual DOCKEY getKey() const = 0;
     virtual bool isConnected() const = 0;

@@ -2,6 +2,7 @@
 
 #include <QString>
 
+class DOC_Interface;
 class PLG_Interface;
 
 /// Plug-ins, modes and status flags of the host. GUI thread.
@@ -13,6 +14,8 @@ public:
     virtual PLG_Interface* getPlugin(const QString& name) const = 0;
     /// The plug-in that works on the images now; null when there is none. Does not throw.
     virtual PLG_Interface* getCurrentPlugin() const = 0;
+    /// Whether the image plug-in of that name may be used on `doc`.
+    virtual bool isPluginEnabledFor(const QString& name, DOC_Interface* doc) const = 0;
     virtual void closePlugin(const QString& name) = 0;
     virtual void closePanel() = 0;
     virtual void closeAuxiliaryPanel() = 0;

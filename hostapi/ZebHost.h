@@ -110,6 +110,10 @@ public:
     /// While a text box of a page has the focus, the host's shortcut keys belong to it. Does not throw.
     virtual void setTextBoxFocusState(bool focused) = 0;
     virtual bool isToolActive(const QString& tool) const = 0;
+    /// Whether the host has the image plug-in of that name.
+    virtual bool isPluginAvailable(const QString& name) const = 0;
+    /// Whether changes in that plug-in take effect only when the user presses OK.
+    virtual bool isPluginOkPattern(const QString& name) const = 0;
     /// Whether `doc` can do `capability`, as "binning".
     virtual bool isCapable(const QString& capability, DOC_Interface* doc, int head) const = 0;
 };

@@ -6,6 +6,7 @@
 #include "ZebHost.h"
 #include "records/CameraInfoMembers.h"
 #include "records/IrigMembers.h"
+#include "records/PluginMembers.h"
 #include "records/RecordRequest.h"
 #include "records/SyncMembers.h"
 
@@ -22,7 +23,7 @@ Record RecordBuilder::build(DOC_Interface& doc, const RowState& row) {
     if (m_live) {
         addLive(record, doc, row.connected);
     } else {
-        addMemory(record, doc);
+        addMemory(record, doc, row.connected);
     }
     return record;
 }
@@ -43,12 +44,18 @@ void RecordBuilder::addLive(Record& record, DOC_Interface& doc, bool connected) 
         case IrigTab:
             irigmembers::add(record, doc, m_host, connected);
             break;
+        case PluginTab:
+            pluginmembers::add(record, doc, m_host, connected);
+            break;
         default:
             break;
     }
 }
 
-void RecordBuilder::addMemory(Record& record, DOC_Interface& doc) {
+void RecordBuilder::addMemory(Record& record, DOC_Interface& doc, bool connected) {
     record.setFlag(QLatin1String("check"), doc.frames().isRecordCheck());
     record.setText(QLatin1String("totalFrame"), {});
+    if (m_tab == MemoryPluginTab) {
+        pluginmembers::add(record, doc, m_host, connected);
+    }
 }

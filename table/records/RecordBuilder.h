@@ -19,7 +19,7 @@ public:
 
 private:
     void addLive(Record& record, DOC_Interface& doc, bool connected);
-    static void addMemory(Record& record, DOC_Interface& doc);
+    void addMemory(Record& record, DOC_Interface& doc, bool connected);
 
     ZebHost& m_host;
     int m_tab;

@@ -133,6 +133,15 @@ protected:
         change(8, {{"irig", true}, {"irigSync", true}});
     }
 
+    void givePlugins() {
+        change(1, {{"plugins", QStringList{"lut", "unheardof", "filter", "mosaic"}},
+                   {"effectivePlugins", QStringList{"filter", "unheardof"}},
+                   {"blockedPlugins", QStringList{"mosaic"}}});
+        change(2, {{"plugins", QStringList{"unheardof"}}});
+        change(3, {{"plugins", QStringList{"scale"}}, {"effectivePlugins", QStringList{"scale", "lut"}}});
+        change(8, {{"plugins", QStringList{"lut"}}});
+    }
+
     QString records(const char* request) { return model.getRecords(QString::fromUtf8(request)).json; }
 
     TableState state;
@@ -151,12 +160,25 @@ TEST_F(RecordModelTest, showsEachTabAndModeAsTheCamerasAre) {
     expectJson(records(R"({"group":"","filter":0,"tab":1})"), R"({"records":[],"batch":[]})");
 }
 
-TEST_F(RecordModelTest, showsInputsAndIrigOfLiveCameras) {
+TEST_F(RecordModelTest, showsInputsIrigAndPluginsOfLiveCameras) {
     bringCamerasIntoUse();
     giveInputsAndIrig();
+    givePlugins();
     const QJsonObject live = readJson("live");
     expectJson(records(R"({"tab":2})"), toText(with(live, "sync")));
     expectJson(records(R"({"tab":3})"), toText(with(live, "irig")));
+    expectJson(records(R"({"tab":4})"), toText(with(live, "plugins")));
+    expectJson(records(R"({"tab":6})"), toText(live));
+}
+
+TEST_F(RecordModelTest, showsPluginsInMemoryMode) {
+    bringCamerasIntoUse();
+    givePlugins();
+    host.appStatus().enterMemoryMode();
+    change(2, {{"recordCheck", true}});
+    const QJsonObject memory = readJson("memory");
+    expectJson(records(R"({"tab":6})"), toText(with(memory, "plugins")));
+    expectJson(records(R"({"tab":4})"), toText(memory));
 }
 
 TEST_F(RecordModelTest, filtersRowsAndNumbersThemAnew) {

@@ -115,10 +115,13 @@ public:
     bool getTriggerTesting() const override { return false; }
     void setTextBoxFocusState(bool focused) override { note("setTextBoxFocusState", focused); }
     bool isToolActive(const QString&) const override { return false; }
+    bool isPluginAvailable(const QString&) const override { return false; }
+    bool isPluginOkPattern(const QString&) const override { return false; }
     bool isCapable(const QString&, DOC_Interface*, int) const override { return false; }
 
     PLG_Interface* getPlugin(const QString& name) const override { return plugins.value(name); }
     PLG_Interface* getCurrentPlugin() const override { return nullptr; }
+    bool isPluginEnabledFor(const QString&, DOC_Interface*) const override { return false; }
     void closePlugin(const QString& name) override { note("closePlugin", name); }
     void closePanel() override {}
     void closeAuxiliaryPanel() override {}

@@ -34,6 +34,9 @@ struct CameraState {
     Q_PROPERTY(bool irig MEMBER irig)
     Q_PROPERTY(bool irigStampAtEnd MEMBER irigStampAtEnd)
     Q_PROPERTY(bool irigSync MEMBER irigSync)
+    Q_PROPERTY(QStringList plugins MEMBER plugins)
+    Q_PROPERTY(QStringList effectivePlugins MEMBER effectivePlugins)
+    Q_PROPERTY(QStringList blockedPlugins MEMBER blockedPlugins)
     Q_PROPERTY(bool suspendReduce MEMBER suspendReduce)
     Q_PROPERTY(bool stopLive MEMBER stopLive)
     Q_PROPERTY(bool recorded MEMBER recorded)
@@ -74,6 +77,10 @@ public:
     bool irig = false;
     bool irigStampAtEnd = false;
     bool irigSync = false;
+    /// Image plug-ins by name: those the camera can have, those that work on its images, those it must not use now.
+    QStringList plugins;
+    QStringList effectivePlugins;
+    QStringList blockedPlugins;
     bool suspendReduce = false;
     bool stopLive = false;
     bool recorded = false;

@@ -1,11 +1,14 @@
 #include "host/SimAppStatus.h"
 
+#include "DOC_Interface.h"
+#include "camera/Camera.h"
+#include "host/CameraBank.h"
 #include "host/HostEvents.h"
 #include "host/Journal.h"
 #include "host/UpdateCycle.h"
 
-SimAppStatus::SimAppStatus(Journal& journal, HostEvents& events, UpdateCycle& updates)
-    : m_journal(journal), m_events(events), m_updates(updates) {}
+SimAppStatus::SimAppStatus(Journal& journal, HostEvents& events, UpdateCycle& updates, const CameraBank& cameras)
+    : m_journal(journal), m_events(events), m_updates(updates), m_cameras(cameras) {}
 
 void SimAppStatus::registerPlugin(PLG_Interface* plugin) {
     m_plugins.append(plugin);
@@ -40,6 +43,12 @@ PLG_Interface* SimAppStatus::getPlugin(const QString& name) const {
         }
     }
     return nullptr;
+}
+
+bool SimAppStatus::isPluginEnabledFor(const QString& name, DOC_Interface* doc) const {
+    const Camera* camera = doc ? m_cameras.find(doc->getKey()) : nullptr;
+    return camera && camera->get(&CameraState::plugins).contains(name) &&
+           !camera->get(&CameraState::blockedPlugins).contains(name);
 }
 
 void SimAppStatus::closePlugin(const QString& name) {

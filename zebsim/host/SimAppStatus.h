@@ -6,6 +6,7 @@
 #include <QList>
 #include <QPointer>
 
+class CameraBank;
 class HostEvents;
 class Journal;
 class UpdateCycle;
@@ -13,7 +14,7 @@ class UpdateCycle;
 /// Plug-ins by name, running flags, and the mode.
 class SimAppStatus : public ZebAppStatus {
 public:
-    SimAppStatus(Journal& journal, HostEvents& events, UpdateCycle& updates);
+    SimAppStatus(Journal& journal, HostEvents& events, UpdateCycle& updates, const CameraBank& cameras);
 
     /// A registered plug-in takes part in update cycles.
     void registerPlugin(PLG_Interface* plugin);
@@ -29,6 +30,7 @@ public:
 
     PLG_Interface* getPlugin(const QString& name) const override;
     PLG_Interface* getCurrentPlugin() const override { return m_current; }
+    bool isPluginEnabledFor(const QString& name, DOC_Interface* doc) const override;
     void closePlugin(const QString& name) override;
     void closePanel() override;
     void closeAuxiliaryPanel() override;
@@ -43,6 +45,7 @@ private:
     Journal& m_journal;
     HostEvents& m_events;
     UpdateCycle& m_updates;
+    const CameraBank& m_cameras;
     QList<QPointer<PLG_Interface>> m_plugins;
     QPointer<PLG_Interface> m_current;
     bool m_wrenRunning = false;

@@ -11,7 +11,8 @@ SimDocument::SimDocument(Camera& camera, const DocContext& context)
       m_lock(camera, context),
       m_frames(camera, context),
       m_image(camera, context),
-      m_control(camera, context) {}
+      m_control(camera, context),
+      m_storage(camera) {}
 
 DOCKEY SimDocument::getKey() const {
     return m_camera.key();

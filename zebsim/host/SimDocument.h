@@ -6,6 +6,7 @@
 #include "host/SimFrames.h"
 #include "host/SimImage.h"
 #include "host/SimLock.h"
+#include "host/SimStorage.h"
 
 /// A camera's document: a view on the `Camera`, which holds all that there is to know.
 class SimDocument : public DOC_Interface {
@@ -17,6 +18,7 @@ public:
     SimFrames& frames() override { return m_frames; }
     SimImage& image() override { return m_image; }
     SimControl& control() override { return m_control; }
+    SimStorage& storage() override { return m_storage; }
 
     DOCKEY getKey() const override;
     bool isConnected() const override;
@@ -35,4 +37,5 @@ private:
     SimFrames m_frames;
     SimImage m_image;
     SimControl m_control;
+    SimStorage m_storage;
 };

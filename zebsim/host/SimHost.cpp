@@ -4,6 +4,7 @@
 #include "ZebPageBridge.h"
 #include "camera/Camera.h"
 #include "camera/Rig.h"
+#include "host/ImagePlugins.h"
 #include "host/MessageDesk.h"
 
 #include <QDialog>
@@ -16,7 +17,7 @@ SimHost::SimHost(Clock& clock, MessageDesk& desk, const QString& prefsPath)
       m_prefs(prefsPath),
       m_cameras(clock, m_faults, m_shownErrors),
       m_updates([this] { runUpdateCycle(); }),
-      m_appStatus(m_journal, m_events, m_updates),
+      m_appStatus(m_journal, m_events, m_updates, m_cameras),
       m_docManager(*this, m_journal, m_cameras, m_prefs, m_appStatus),
       m_liveLoop(m_journal),
       m_player(m_journal),
@@ -244,6 +245,14 @@ bool SimHost::getTriggerTesting() const {
 
 bool SimHost::isToolActive(const QString& tool) const {
     return m_docManager.isToolActive(tool);
+}
+
+bool SimHost::isPluginAvailable(const QString& name) const {
+    return imageplugins::has(name);
+}
+
+bool SimHost::isPluginOkPattern(const QString& name) const {
+    return imageplugins::needsOk(name);
 }
 
 bool SimHost::isCapable(const QString& capability, DOC_Interface* doc, int /*head*/) const {

@@ -114,6 +114,8 @@ public:
     bool isSelectionKept() const override;
     bool getTriggerTesting() const override;
     bool isToolActive(const QString& tool) const override;
+    bool isPluginAvailable(const QString& name) const override;
+    bool isPluginOkPattern(const QString& name) const override;
     bool isCapable(const QString& capability, DOC_Interface* doc, int head) const override;
 
 private:

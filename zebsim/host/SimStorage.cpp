@@ -1,0 +1,13 @@
+#include "host/SimStorage.h"
+
+#include "camera/Camera.h"
+
+QStringList SimStorage::getPluginNames() const {
+    m_camera.queryConnected("getPluginNames");
+    return m_camera.get(&CameraState::plugins);
+}
+
+bool SimStorage::isPluginEffective(const QString& name, int /*head*/) const {
+    m_camera.queryConnected("isPluginEffective");
+    return m_camera.get(&CameraState::effectivePlugins).contains(name);
+}
