@@ -68,6 +68,13 @@ public:
     /// A `zeb::LowLightType`.
     virtual int getLowLightType() const = 0;
 
+    /// Rate of the recorded frames in frames a second; 0 when there are none.
+    virtual unsigned int getRecordedRate() const = 0;
+    /// Whether the zero point of the recorded frames has been moved.
+    virtual bool isTriggerOffsetEnabled() const = 0;
+    /// The moved zero point, and the camera's own, as frame numbers.
+    virtual int getTriggerOffset() const = 0;
+    virtual int getTriggerOffsetBase() const = 0;
     virtual bool hasRecordedData() const = 0;
     virtual void eraseRecordedData(int mode) = 0;
 };

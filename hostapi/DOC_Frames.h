@@ -7,6 +7,14 @@ public:
 
     /// Frames that a recording takes with the present settings in live mode, recorded frames otherwise.
     virtual unsigned int getFrameCount(int partition, int head) const = 0;
+    /// Numbers of the first and the last recorded frame.
+    virtual int getFirstFrame(int partition, int head) const = 0;
+    virtual int getLastFrame(int partition, int head) const = 0;
+    /// Number of the frame at which the trigger came. The user sees frames counted from it.
+    virtual int getTriggerFrame(int head) const = 0;
+    /// The part of the recording that is to be kept: first <= start <= end <= last.
+    virtual int getSelectStartFrame(int head) const = 0;
+    virtual int getSelectEndFrame(int head) const = 0;
     /// Whether the recording is marked for saving.
     virtual bool isRecordCheck() const = 0;
     virtual void setRecordCheck(bool check) = 0;

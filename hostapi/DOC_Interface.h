@@ -8,6 +8,7 @@
 class DOC_Activity;
 class DOC_Control;
 class DOC_Frames;
+class DOC_Head;
 class DOC_Image;
 class DOC_Lock;
 class DOC_Storage;
@@ -27,6 +28,7 @@ public:
     virtual DOC_Frames& frames() = 0;
     virtual DOC_Image& image() = 0;
     virtual DOC_Control& control() = 0;
+    virtual DOC_Head& head() = 0;
     virtual DOC_Storage& storage() = 0;
 
     virtual DOCKEY getKey() const = 0;

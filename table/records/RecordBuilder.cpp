@@ -2,6 +2,7 @@
 
 #include "DOC_Control.h"
 #include "DOC_Frames.h"
+#include "DOC_Head.h"
 #include "DOC_Interface.h"
 #include "ZebHost.h"
 #include "records/CameraInfoMembers.h"
@@ -14,6 +15,8 @@ RecordBuilder::RecordBuilder(ZebHost& host, const TableState& state, int tab)
     : m_host(host), m_tab(tab), m_live(host.isLiveMode()) {
     if (m_live && tab == LiveControlTab) {
         m_liveControl.emplace(host, state);
+    } else if (!m_live && tab == MemoryInfoTab) {
+        m_memoryInfo.emplace(host);
     }
 }
 
@@ -55,7 +58,12 @@ void RecordBuilder::addLive(Record& record, DOC_Interface& doc, bool connected) 
 void RecordBuilder::addMemory(Record& record, DOC_Interface& doc, bool connected) {
     record.setFlag(QLatin1String("check"), doc.frames().isRecordCheck());
     record.setText(QLatin1String("totalFrame"), {});
-    if (m_tab == MemoryPluginTab) {
+    if (m_memoryInfo) {
+        m_memoryInfo->add(record, doc, connected);
+    } else if (m_tab == MemoryPluginTab) {
+        if (connected) {
+            record.setText(QLatin1String("totalFrame"), QString::number(doc.head().getFrameTotal(1, 0)));
+        }
         pluginmembers::add(record, doc, m_host, connected);
     }
 }

@@ -2,6 +2,7 @@
 
 #include "records/CommonMembers.h"
 #include "records/LiveControlMembers.h"
+#include "records/MemoryInfoMembers.h"
 #include "records/Record.h"
 
 #include <optional>
@@ -25,4 +26,5 @@ private:
     int m_tab;
     bool m_live;
     std::optional<LiveControlMembers> m_liveControl;
+    std::optional<MemoryInfoMembers> m_memoryInfo;
 };

@@ -3,7 +3,15 @@
 #include <QString>
 
 /// Tabs of the page by their numbers.
-enum RecordTab { CameraInfoTab = 0, LiveControlTab = 1, SyncTab = 2, IrigTab = 3, PluginTab = 4, MemoryPluginTab = 6 };
+enum RecordTab {
+    CameraInfoTab = 0,
+    LiveControlTab = 1,
+    SyncTab = 2,
+    IrigTab = 3,
+    PluginTab = 4,
+    MemoryInfoTab = 5,
+    MemoryPluginTab = 6
+};
 
 /// Which cameras a page may ask for.
 enum RecordFilter { ShowAll = 0, ShowConnected = 1, ShowDisconnected = 2 };

@@ -43,6 +43,10 @@ public:
     bool getReduceMode(int) const override { return {}; }
     bool isLowLightMode() const override { return {}; }
     int getLowLightType() const override { return {}; }
+    unsigned int getRecordedRate() const override { return {}; }
+    bool isTriggerOffsetEnabled() const override { return {}; }
+    int getTriggerOffset() const override { return {}; }
+    int getTriggerOffsetBase() const override { return {}; }
 
 private:
     const DOCKEY m_key;
@@ -88,6 +92,11 @@ public:
     bool isParamLocked() const override { return locked; }
     void setParamLock(bool lock) override { locked = lock; }
     unsigned int getFrameCount(int, int) const override { return 0; }
+    int getFirstFrame(int, int) const override { return 0; }
+    int getLastFrame(int, int) const override { return 0; }
+    int getTriggerFrame(int) const override { return 0; }
+    int getSelectStartFrame(int) const override { return 0; }
+    int getSelectEndFrame(int) const override { return 0; }
     bool isRecordCheck() const override { return false; }
     void setRecordCheck(bool) override {}
 };

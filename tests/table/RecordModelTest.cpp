@@ -142,6 +142,24 @@ protected:
         change(8, {{"plugins", QStringList{"lut"}}});
     }
 
+    void giveRecordings() {
+        change(1, {{"recorded", true},
+                   {"recordedRange", QVariantList{1000, 5999}},
+                   {"recordedTrigger", 1500},
+                   {"recordedRate", 2000},
+                   {"selectedRange", QVariantList{1200, 2199}},
+                   {"triggerOffsetEnabled", true},
+                   {"triggerOffset", 1450}});
+        change(2, {{"recordCheck", true}, {"recordedRange", QVariantList{0, 99}}});
+        change(3, {{"recorded", true}, {"triggerOffset", 7}});
+        change(5, {{"recorded", true},
+                   {"recordedRange", QVariantList{10, 10}},
+                   {"recordedTrigger", 10},
+                   {"recordedRate", 240},
+                   {"selectedRange", QVariantList{5, 99}}});
+        change(6, {{"recorded", true}});
+    }
+
     QString records(const char* request) { return model.getRecords(QString::fromUtf8(request)).json; }
 
     TableState state;
@@ -171,13 +189,14 @@ TEST_F(RecordModelTest, showsInputsIrigAndPluginsOfLiveCameras) {
     expectJson(records(R"({"tab":6})"), toText(live));
 }
 
-TEST_F(RecordModelTest, showsPluginsInMemoryMode) {
+TEST_F(RecordModelTest, showsRecordingsAndPluginsInMemoryMode) {
     bringCamerasIntoUse();
     givePlugins();
+    giveRecordings();
     host.appStatus().enterMemoryMode();
-    change(2, {{"recordCheck", true}});
     const QJsonObject memory = readJson("memory");
-    expectJson(records(R"({"tab":6})"), toText(with(memory, "plugins")));
+    expectJson(records(R"({"tab":5})"), toText(with(memory, "memoryinfo")));
+    expectJson(records(R"({"tab":6})"), toText(with(with(memory, "plugins"), "memoryplugins")));
     expectJson(records(R"({"tab":4})"), toText(memory));
 }
 
@@ -332,6 +351,23 @@ TEST_F(RecordModelTest, numbersReadAsTheUserLikesThem) {
     for (const auto& each : cases) {
         EXPECT_EQ(numberformat::manualTriggerPercent(each.triggerFrame, each.frames), each.percent);
     }
+}
+
+TEST_F(RecordModelTest, framesReadAsTheUserLikesThemWhereTheyAreNotEdited) {
+    bringCamerasIntoUse();
+    giveRecordings();
+    host.appStatus().enterMemoryMode();
+    host.setPrefBool("display/frameInsertDelimiter", true);
+    QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
+    const QJsonObject gate = row(records(R"({"tab":5})"), 0);
+    const QJsonObject gateOfPlugins = row(records(R"({"tab":6})"), 0);
+    QLocale::setDefault(QLocale::c());
+    EXPECT_EQ(gate.value("frameRate"), "2000 fps") << "rates have a preference of their own";
+    EXPECT_EQ(gate.value("originalEndFrameNo"), "4,499");
+    EXPECT_EQ(gate.value("totalFrame"), "1,000");
+    EXPECT_EQ(gate.value("selectEndMaxFrameNo"), "4499");
+    EXPECT_EQ(gate.value("maxTriggerOffset"), "5999");
+    EXPECT_EQ(gateOfPlugins.value("totalFrame"), "1000");
 }
 
 TEST_F(RecordModelTest, ratesFollowTheSyncSignal) {

@@ -16,6 +16,7 @@ public:
     DOC_Frames& frames() override { throw std::logic_error("no frames"); }
     DOC_Image& image() override { throw std::logic_error("no image"); }
     DOC_Control& control() override { throw std::logic_error("no control"); }
+    DOC_Head& head() override { throw std::logic_error("no head"); }
     DOC_Storage& storage() override { throw std::logic_error("no storage"); }
 
     DOCKEY getKey() const override { return m_key; }

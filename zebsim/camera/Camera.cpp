@@ -27,6 +27,10 @@ CameraState Camera::state() const {
     return m_state;
 }
 
+std::optional<Recording> Camera::recording() const {
+    return Recording::of(state(), model());
+}
+
 void Camera::change(const QVariantMap& members) {
     const std::lock_guard lock(m_device.mutex());
     m_state.apply(members);

@@ -2,6 +2,7 @@
 
 #include "camera/CameraModel.h"
 #include "camera/CameraState.h"
+#include "camera/Recording.h"
 
 #include <memory>
 #include <mutex>
@@ -29,6 +30,8 @@ public:
     template <typename T>
     void set(T CameraState::*member, T value);
     CameraState state() const;
+    /// Nothing when nothing is recorded.
+    std::optional<Recording> recording() const;
     /// Changes the state behind the camera's back: no latency, no limits, no other heads. Throws `CameraStateError`.
     void change(const QVariantMap& members);
 

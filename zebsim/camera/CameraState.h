@@ -40,6 +40,12 @@ struct CameraState {
     Q_PROPERTY(bool suspendReduce MEMBER suspendReduce)
     Q_PROPERTY(bool stopLive MEMBER stopLive)
     Q_PROPERTY(bool recorded MEMBER recorded)
+    Q_PROPERTY(uint recordedRate MEMBER recordedRate)
+    Q_PROPERTY(QPoint recordedRange MEMBER recordedRange)
+    Q_PROPERTY(int recordedTrigger MEMBER recordedTrigger)
+    Q_PROPERTY(QPoint selectedRange MEMBER selectedRange)
+    Q_PROPERTY(bool triggerOffsetEnabled MEMBER triggerOffsetEnabled)
+    Q_PROPERTY(int triggerOffset MEMBER triggerOffset)
     Q_PROPERTY(bool recordCheck MEMBER recordCheck)
     Q_PROPERTY(QPoint point MEMBER point)
     Q_PROPERTY(double scale MEMBER scale)
@@ -84,6 +90,14 @@ public:
     bool suspendReduce = false;
     bool stopLive = false;
     bool recorded = false;
+    /// Of what is recorded: frames a second, first and last frame, frame of the trigger, first and last frame to keep.
+    unsigned int recordedRate = 0;
+    QPoint recordedRange;
+    int recordedTrigger = 0;
+    QPoint selectedRange;
+    /// A zero point for playing instead of the trigger's frame.
+    bool triggerOffsetEnabled = false;
+    int triggerOffset = 0;
     bool recordCheck = false;
     QPoint point;
     double scale = 0;

@@ -146,6 +146,28 @@ int SimControl::getLowLightType() const {
     return m_camera.get(&CameraState::lowLightType);
 }
 
+unsigned int SimControl::getRecordedRate() const {
+    m_camera.queryConnected("getRecordedRate");
+    const auto recording = m_camera.recording();
+    return recording ? recording->rate : 0;
+}
+
+bool SimControl::isTriggerOffsetEnabled() const {
+    m_camera.queryConnected("isTriggerOffsetEnabled");
+    return m_camera.get(&CameraState::triggerOffsetEnabled);
+}
+
+int SimControl::getTriggerOffset() const {
+    m_camera.queryConnected("getTriggerOffset");
+    return m_camera.get(&CameraState::triggerOffset);
+}
+
+int SimControl::getTriggerOffsetBase() const {
+    m_camera.queryConnected("getTriggerOffsetBase");
+    const auto recording = m_camera.recording();
+    return recording ? recording->trigger : 0;
+}
+
 bool SimControl::hasRecordedData() const {
     m_camera.queryConnected("hasRecordedData");
     return m_camera.get(&CameraState::recorded);

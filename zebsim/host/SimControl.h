@@ -36,6 +36,10 @@ public:
     bool getReduceMode(int head) const override;
     bool isLowLightMode() const override;
     int getLowLightType() const override;
+    unsigned int getRecordedRate() const override;
+    bool isTriggerOffsetEnabled() const override;
+    int getTriggerOffset() const override;
+    int getTriggerOffsetBase() const override;
     bool hasRecordedData() const override;
     void eraseRecordedData(int mode) override;
 

@@ -12,6 +12,7 @@ SimDocument::SimDocument(Camera& camera, const DocContext& context)
       m_frames(camera, context),
       m_image(camera, context),
       m_control(camera, context),
+      m_head(camera),
       m_storage(camera) {}
 
 DOCKEY SimDocument::getKey() const {

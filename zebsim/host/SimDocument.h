@@ -4,6 +4,7 @@
 #include "host/SimActivity.h"
 #include "host/SimControl.h"
 #include "host/SimFrames.h"
+#include "host/SimHead.h"
 #include "host/SimImage.h"
 #include "host/SimLock.h"
 #include "host/SimStorage.h"
@@ -18,6 +19,7 @@ public:
     SimFrames& frames() override { return m_frames; }
     SimImage& image() override { return m_image; }
     SimControl& control() override { return m_control; }
+    SimHead& head() override { return m_head; }
     SimStorage& storage() override { return m_storage; }
 
     DOCKEY getKey() const override;
@@ -37,5 +39,6 @@ private:
     SimFrames m_frames;
     SimImage m_image;
     SimControl m_control;
+    SimHead m_head;
     SimStorage m_storage;
 };

@@ -3,6 +3,7 @@
 #include "DOC_Frames.h"
 
 class Camera;
+struct Recording;
 struct DocContext;
 
 /// Recorded frames of a document.
@@ -11,10 +12,18 @@ public:
     SimFrames(Camera& camera, const DocContext& context) : m_camera(camera), m_context(context) {}
 
     unsigned int getFrameCount(int partition, int head) const override;
+    int getFirstFrame(int partition, int head) const override;
+    int getLastFrame(int partition, int head) const override;
+    int getTriggerFrame(int head) const override;
+    int getSelectStartFrame(int head) const override;
+    int getSelectEndFrame(int head) const override;
     bool isRecordCheck() const override;
     void setRecordCheck(bool check) override;
 
 private:
+    /// All zero when nothing is recorded.
+    Recording ask(const char* operation) const;
+
     Camera& m_camera;
     const DocContext& m_context;
 };

@@ -1,0 +1,32 @@
+#include "camera/Recording.h"
+
+#include "camera/CameraModel.h"
+#include "camera/CameraState.h"
+
+#include <algorithm>
+
+namespace {
+
+/// A range stands as first and last; both 0 when it is not told. The end is not before the start.
+QPoint orWhole(const QPoint& range, const QPoint& whole) {
+    return range.isNull() ? whole : QPoint(range.x(), std::max(range.x(), range.y()));
+}
+
+}  // namespace
+
+std::optional<Recording> Recording::of(const CameraState& state, const CameraModel& model) {
+    const auto capacity = static_cast<int>(model.frameCapacity(state.resolution));
+    if (!state.recorded || capacity == 0) {
+        return std::nullopt;
+    }
+    const QPoint range = orWhole(state.recordedRange, {0, capacity - 1});
+    const QPoint selected = orWhole(state.selectedRange, range);
+    Recording recording;
+    recording.rate = state.recordedRate != 0 ? state.recordedRate : state.rate;
+    recording.first = range.x();
+    recording.last = range.y();
+    recording.trigger = state.recordedTrigger;
+    recording.selectedFirst = std::clamp(selected.x(), range.x(), range.y());
+    recording.selectedLast = std::clamp(selected.y(), range.x(), range.y());
+    return recording;
+}

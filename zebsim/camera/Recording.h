@@ -1,0 +1,26 @@
+#pragma once
+
+#include <optional>
+
+struct CameraModel;
+struct CameraState;
+
+/// What a camera has in its memory.
+struct Recording {
+    /// Frames a second.
+    unsigned int rate = 0;
+    int first = 0;
+    int last = 0;
+    /// Frame at which the trigger came.
+    int trigger = 0;
+    /// What is to be kept: first <= selectedFirst <= selectedLast <= last.
+    int selectedFirst = 0;
+    int selectedLast = 0;
+
+    /// What the state does not tell is as a recording with the camera's settings would be: it fills the memory and is
+    /// kept whole. Nothing when nothing is recorded.
+    static std::optional<Recording> of(const CameraState& state, const CameraModel& model);
+
+    unsigned int frameCount() const { return static_cast<unsigned int>(last - first + 1); }
+    unsigned int selectedCount() const { return static_cast<unsigned int>(selectedLast - selectedFirst + 1); }
+};

@@ -1,0 +1,10 @@
+#include "host/SimHead.h"
+
+#include "camera/Camera.h"
+#include "camera/Recording.h"
+
+unsigned int SimHead::getFrameTotal(int /*mode*/, int /*head*/) const {
+    m_camera.queryConnected("getFrameTotal");
+    const auto recording = m_camera.recording();
+    return recording ? recording->selectedCount() : 0;
+}
