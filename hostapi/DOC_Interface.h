@@ -36,6 +36,10 @@ public:
     virtual bool isSelected() const = 0;
     /// Whether the mobile device is the current medium.
     virtual bool isMobileSelected() const = 0;
+    /// Whether the medium of that kind is the current one.
+    virtual bool isSdSelected() const = 0;
+    virtual bool isQuikDriveSelected() const = 0;
+    virtual bool isCFastSelected() const = 0;
     /// The document of the device that this head belongs to; null when it has none.
     virtual DOC_Interface* getParentDoc() const = 0;
 

@@ -12,4 +12,6 @@ public:
     virtual QStringList getPluginNames() const = 0;
     /// Whether the plug-in works on the images of the document now.
     virtual bool isPluginEffective(const QString& name, int head) const = 0;
+    /// Whether the document's images are shown through a curve of brightness.
+    virtual bool isLutCurve() const = 0;
 };

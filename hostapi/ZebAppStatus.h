@@ -14,6 +14,8 @@ public:
     virtual PLG_Interface* getPlugin(const QString& name) const = 0;
     /// The plug-in that works on the images now; null when there is none. Does not throw.
     virtual PLG_Interface* getCurrentPlugin() const = 0;
+    /// Its name; empty when there is none. Does not throw.
+    virtual QString getCurrentPluginName() const = 0;
     /// Whether the image plug-in of that name may be used on `doc`.
     virtual bool isPluginEnabledFor(const QString& name, DOC_Interface* doc) const = 0;
     virtual void closePlugin(const QString& name) = 0;
@@ -30,4 +32,14 @@ public:
     /// Change the mode of the host; back when the mode has changed.
     virtual void enterLiveMode() = 0;
     virtual void enterMemoryMode() = 0;
+
+    /// Works that the host is busy with, a flag each. None throws.
+    virtual bool isAutoExposureSetting() const = 0;
+    virtual bool isHwTriggerSetting() const = 0;
+    virtual bool isVariableSetting() const = 0;
+    virtual bool isSendingNodeCommand() const = 0;
+    virtual bool isAdjustingImage() const = 0;
+    virtual bool isDetectingPixelDefect() const = 0;
+    virtual bool isImageTriggerCapturing() const = 0;
+    virtual bool isImageTriggerDetecting() const = 0;
 };

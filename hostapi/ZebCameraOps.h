@@ -12,4 +12,15 @@ public:
 
     /// Sets the record rate, in frames a second.
     virtual void setRecordRate(const DocList& docs, unsigned int rate) = 0;
+
+    /// Whether a selected camera is in low light mode, whether any camera is, and whether all that know the mode
+    /// have it on, or off.
+    virtual bool isLowlight() const = 0;
+    virtual bool existLowlight() const = 0;
+    virtual bool isAllLowlight(bool on) const = 0;
+    virtual bool isLensCalibration() const = 0;
+    /// Whether a camera saves straight to its own medium.
+    virtual bool isDirectSaving(int mode) const = 0;
+    /// Whether the table has locked every camera.
+    virtual bool isAllWrenLockDevice() const = 0;
 };

@@ -24,6 +24,8 @@ public:
     virtual DocKeyList getConnectedDocKeys(int mode = 0) const = 0;
     /// Cameras of the live view, connected or not.
     virtual DocKeyList getLiveDocKeys(int mode, int order) const = 0;
+    virtual int getDocCount() const = 0;
+    virtual int getSelectedDocCount() const = 0;
 
     virtual void selectDoc(DOCKEY key) = 0;
     virtual void deselectDoc(DOCKEY key) = 0;
@@ -37,6 +39,12 @@ public:
     /// Whether a change of the named parameter on `doc` would reach a locked head of the same device.
     /// Both flags false: a parameter that is neither shutter nor resolution.
     virtual bool sharesDeviceWithLockedHead(DOC_Interface* doc, bool shutter, bool resolution) = 0;
+
+    /// States of the documents together.
+    virtual bool hasWaveformData() const = 0;
+    /// Whether the cameras stand at memory partitions that do not go together.
+    virtual bool isConflictPartition(int mode) const = 0;
+    virtual bool isPhaseAdjusting() const = 0;
 
     /// The mutex of document work; never null, not recursive. Does not throw.
     virtual QMutex* getDocMutex() = 0;

@@ -14,6 +14,7 @@ class ZebAppStatus;
 class ZebCameraOps;
 class ZebDocManager;
 class ZebLiveLoop;
+class ZebMdi;
 class ZebPageBridge;
 class ZebPlayer;
 class ZebRecorder;
@@ -40,6 +41,7 @@ public:
     virtual ZebCameraOps& cameraOps() = 0;
     virtual ZebSaver& saver() = 0;
     virtual ZebViewOps& viewOps() = 0;
+    virtual ZebMdi& mdi() = 0;
     virtual ZebUndo& undo() = 0;
 
     /// The mode, 0 live, 1 memory, 2 file. None of these throws.
@@ -107,6 +109,21 @@ public:
     /// True while the host keeps its selection, whatever the group of a table says.
     virtual bool isSelectionKept() const = 0;
     virtual bool getTriggerTesting() const = 0;
+    virtual bool isTracking() const = 0;
+    virtual bool isShading() const = 0;
+    virtual bool isAutoFocussing() const = 0;
+    virtual bool isCurrentAutoFocus(int mode) const = 0;
+    /// The views do not take turns, whatever `ZebViewOps::isCycleView` says.
+    virtual bool isCycleViewBlocked() const = 0;
+    /// Whether the page in front is another than the live one or, with the flag, than that and the device settings.
+    virtual bool isNotLivePage(bool orDeviceSettings) const = 0;
+    virtual bool isPrefDialogOpening() const = 0;
+    virtual bool isModalDialogOpening() const = 0;
+    /// Whether the host's own window is the active one.
+    virtual bool isZebActive() const = 0;
+    /// What fills the screen; null when nothing does.
+    virtual QWidget* getFullScreenWidget() const = 0;
+    virtual bool isTextBoxFocussing() const = 0;
     /// While a text box of a page has the focus, the host's shortcut keys belong to it. Does not throw.
     virtual void setTextBoxFocusState(bool focused) = 0;
     virtual bool isToolActive(const QString& tool) const = 0;

@@ -8,4 +8,6 @@ public:
     virtual bool isSaving() const = 0;
     /// Saving in the background, while the user works on.
     virtual bool isBgSaving() const = 0;
+    /// Converting of saved files in the background.
+    virtual bool isBgConverting() const = 0;
 };

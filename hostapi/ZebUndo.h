@@ -11,4 +11,6 @@ public:
     /// What is done until `endMacro` is one step of the stack.
     virtual void beginMacro(const QString& text) = 0;
     virtual void endMacro() = 0;
+    virtual bool canUndo() const = 0;
+    virtual bool canRedo() const = 0;
 };

@@ -2,7 +2,7 @@
 
 #include "ZebTypes.h"
 
-/// How a document's image stands in its window: flipped first, then turned clockwise. GUI thread; nothing here throws.
+/// How images stand in their windows: flipped first, then turned clockwise. GUI thread; nothing here throws.
 class ZebViewOps {
 public:
     virtual ~ZebViewOps() = default;
@@ -13,4 +13,6 @@ public:
     virtual bool isVerticalFlip(DOCKEY key) const = 0;
     /// Window pixels per image pixel, above 0.
     virtual double getZoom(DOCKEY key) const = 0;
+    /// Whether the views take turns by themselves.
+    virtual bool isCycleView() const = 0;
 };

@@ -11,6 +11,7 @@
 #include "TraceText.h"
 #include "ZebAppStatus.h"
 #include "ZebHost.h"
+#include "ZebMdi.h"
 
 #include <QDebug>
 #include <QDialog>
@@ -224,9 +225,9 @@ void JS_Mediator::errorLog(const QString& msg) {
     qCritical() << msg;
 }
 
-QString JS_Mediator::getControlStatus(DOC_Interface*) {
+QString JS_Mediator::getControlStatus(DOC_Interface* pDoc) {
     return bridgeCall(*this, QString(), [&] {
-        return QString::fromUtf8(QJsonDocument(controlStatus(host())).toJson(QJsonDocument::Compact));
+        return QString::fromUtf8(QJsonDocument(controlStatus(host(), pDoc)).toJson(QJsonDocument::Compact));
     });
 }
 
@@ -237,6 +238,10 @@ void JS_Mediator::userOperationLogWebView(const QString& url, const QString& ope
 
 void JS_Mediator::userOperationErrorLog(const QString& message) {
     logUserError(message);
+}
+
+int JS_Mediator::countMdiWindow(bool visible) {
+    return bridgeCall(*this, 0, [&] { return host().mdi().countMdiWindow(visible, 2); });
 }
 
 bool JS_Mediator::isWrenRunning() {

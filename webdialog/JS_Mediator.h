@@ -82,8 +82,10 @@ public Q_SLOTS:
     void debugLog(const QString& msg);
     void infoLog(const QString& msg);
     void errorLog(const QString& msg);
-    /// The control states as one JSON object; `pDoc` null stands for the current document.
+    /// The control states as one JSON object, empty text after a failure; `pDoc` null stands for the current document.
     QString getControlStatus(DOC_Interface* pDoc = nullptr);
+    /// Number of image windows; with `visible` of those alone that are shown.
+    int countMdiWindow(bool visible = true);
     void userOperationLogWebView(const QString& url, const QString& operation, const QString& control,
                                  const QString& id, const QString& className, const QVariant& value);
     void userOperationErrorLog(const QString& message);

@@ -1,35 +1,23 @@
 #pragma once
 
 #include "FakeHost.h"
-#include "ZebCameraOps.h"
-#include "ZebRecorder.h"
-#include "ZebSaver.h"
-#include "ZebUndo.h"
-#include "ZebViewOps.h"
 
 #include <stdexcept>
 
 /// A host that knows image tools, undo and views too.
-class PluginHost : public FakeHost, public ZebUndo, public ZebViewOps, public ZebRecorder, public ZebSaver {
+class PluginHost : public FakeHost {
 public:
-    PLG_Interface* currentPlugin = nullptr;
     QString activeTool;
     bool canBin = false;
     double rotation = 0.0;
     /// Runs when a plug-in is closed.
     std::function<void()> onClosePlugin = [] {};
 
-    ZebRecorder& recorder() override { return *this; }
-    ZebSaver& saver() override { return *this; }
-    ZebViewOps& viewOps() override { return *this; }
-    ZebUndo& undo() override { return *this; }
-
     bool isToolActive(const QString& tool) const override { return tool == activeTool; }
     bool isCapable(const QString& capability, DOC_Interface*, int) const override {
         return canBin && capability == QLatin1String("binning");
     }
 
-    PLG_Interface* getCurrentPlugin() const override { return currentPlugin; }
     void closePlugin(const QString& name) override {
         FakeHost::closePlugin(name);
         onClosePlugin();
@@ -65,13 +53,6 @@ public:
     void endMacro() override { Journal::note(QStringLiteral("undo end")); }
 
     double getRotation(DOCKEY) const override { return rotation; }
-    bool isHorizontalFlip(DOCKEY) const override { return false; }
-    bool isVerticalFlip(DOCKEY) const override { return false; }
-    double getZoom(DOCKEY) const override { return 1.0; }
-
-    int getRecStatus(const DocKeyList&) const override { return zeb::RecordLive; }
-    bool isSaving() const override { return false; }
-    bool isBgSaving() const override { return false; }
 
 private:
     static void noteTool(const char* operation, const QString& tool) {

@@ -57,8 +57,8 @@ TEST_F(BridgePage, PreferencesWithAndWithoutDefaults) {
 TEST_F(BridgePage, StateTextsAndBoxes) {
     host.mode = zeb::MemoryMode;
     host.wrenRunning = true;
-    EXPECT_EQ(json("JSON.parse(probe.getControlStatus())"),
-              R"({"IsFileMode":false,"IsLiveMode":false,"IsMemoryMode":true,"IsOtherPluginOpen":false,"IsWren":true})");
+    host.imageWindows = 3;
+    EXPECT_EQ(json("[JSON.parse(probe.getControlStatus()).IsMemoryMode, probe.countMdiWindow()]"), "[true,3]");
     EXPECT_EQ(json("[probe.isLiveMode(), probe.isMemoryMode(), probe.isFileMode(), probe.isWrenRunning()]"),
               "[false,true,false,true]");
     EXPECT_EQ(json("[probe.translate('a %1'), probe.translate('a %1', 'b')]"), R"(["<a %1>","<a <b>>"])");

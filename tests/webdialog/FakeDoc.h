@@ -23,6 +23,9 @@ public:
     bool isConnected() const override { return true; }
     bool isSelected() const override { return false; }
     bool isMobileSelected() const override { return false; }
+    bool isSdSelected() const override { return false; }
+    bool isQuikDriveSelected() const override { return false; }
+    bool isCFastSelected() const override { return false; }
     DOC_Interface* getParentDoc() const override { return nullptr; }
     QStringList getAlerts() const override { return {}; }
     QString formatShutterSpeed(int, int) const override { return {}; }

@@ -2,15 +2,23 @@
 
 #include "FakeDoc.h"
 #include "Journal.h"
+#include "PLG_Interface.h"
 #include "ZebAppStatus.h"
+#include "ZebCameraOps.h"
 #include "ZebDocManager.h"
 #include "ZebHost.h"
 #include "ZebLiveLoop.h"
+#include "ZebMdi.h"
 #include "ZebPageBridge.h"
 #include "ZebPlayer.h"
+#include "ZebRecorder.h"
+#include "ZebSaver.h"
+#include "ZebUndo.h"
+#include "ZebViewOps.h"
 
 #include <QHash>
 #include <QPointer>
+#include <QSet>
 #include <QWebFrame>
 #include <QWebPage>
 #include <QWebView>
@@ -20,19 +28,36 @@
 #include <stdexcept>
 
 /// A host that answers from its public members and notes in the journal what it was asked to do.
-class FakeHost : public ZebHost, public ZebAppStatus, public ZebDocManager, public ZebLiveLoop, public ZebPlayer {
+class FakeHost : public ZebHost,
+                 public ZebAppStatus,
+                 public ZebDocManager,
+                 public ZebLiveLoop,
+                 public ZebPlayer,
+                 public ZebRecorder,
+                 public ZebCameraOps,
+                 public ZebSaver,
+                 public ZebViewOps,
+                 public ZebMdi,
+                 public ZebUndo {
 public:
     int mode = zeb::LiveMode;
     QHash<QString, QVariant> prefs;
     bool viewerRunning = false;
     bool closing = false;
-    bool otherPluginOpen = false;
     bool wrenRunning = false;
     bool userAgrees = true;
     bool livePaused = false;
     QWidget* mainWindow = nullptr;
     QWidget* mdiWidget = nullptr;
     QHash<QString, PLG_Interface*> plugins;
+    PLG_Interface* currentPlugin = nullptr;
+    FakeDoc* currentDoc = nullptr;
+    int selectedDocs = 0;
+    int windows = 0;
+    int imageWindows = 0;
+    int recordingState = zeb::RecordLive;
+    /// The questions about its state, by name and with their argument, that the host answers with yes.
+    QSet<QString> yes;
     QHash<DOCKEY, FakeDoc*> docs;
     QMutex docMutex;
     /// Runs in the place of a message box.
@@ -44,11 +69,12 @@ public:
     ZebDocManager& docManager() override { return *this; }
     ZebLiveLoop& liveLoop() override { return *this; }
     ZebPlayer& player() override { return *this; }
-    ZebRecorder& recorder() override { throw std::logic_error("no recorder"); }
-    ZebCameraOps& cameraOps() override { throw std::logic_error("no camera operations"); }
-    ZebSaver& saver() override { throw std::logic_error("no saver"); }
-    ZebViewOps& viewOps() override { throw std::logic_error("no view"); }
-    ZebUndo& undo() override { throw std::logic_error("no undo"); }
+    ZebRecorder& recorder() override { return *this; }
+    ZebCameraOps& cameraOps() override { return *this; }
+    ZebSaver& saver() override { return *this; }
+    ZebViewOps& viewOps() override { return *this; }
+    ZebMdi& mdi() override { return *this; }
+    ZebUndo& undo() override { return *this; }
 
     int getOperatingMode() const override { return mode; }
     bool isLiveMode() const override { return mode == zeb::LiveMode; }
@@ -110,7 +136,7 @@ public:
 
     bool isApplicationClosing() const override { return closing; }
     bool isWindowStateSaveSuppressed() const override { return false; }
-    bool isOtherPluginOpen() const override { return otherPluginOpen; }
+    bool isOtherPluginOpen() const override { return answer("isOtherPluginOpen"); }
     bool isSelectionKept() const override { return false; }
     bool getTriggerTesting() const override { return false; }
     void setTextBoxFocusState(bool focused) override { note("setTextBoxFocusState", focused); }
@@ -120,7 +146,8 @@ public:
     bool isCapable(const QString&, DOC_Interface*, int) const override { return false; }
 
     PLG_Interface* getPlugin(const QString& name) const override { return plugins.value(name); }
-    PLG_Interface* getCurrentPlugin() const override { return nullptr; }
+    PLG_Interface* getCurrentPlugin() const override { return currentPlugin; }
+    QString getCurrentPluginName() const override { return currentPlugin ? currentPlugin->getName() : QString(); }
     bool isPluginEnabledFor(const QString&, DOC_Interface*) const override { return false; }
     void closePlugin(const QString& name) override { note("closePlugin", name); }
     void closePanel() override {}
@@ -134,7 +161,7 @@ public:
 
     DOC_Interface* getDoc(DOCKEY key, int) override { return docs.value(key); }
     DOC_Interface* getDocAny(DOCKEY key) override { return docs.value(key); }
-    DOC_Interface* getCurrentDoc() override { return nullptr; }
+    DOC_Interface* getCurrentDoc() override { return currentDoc; }
     bool isCurrentDoc(DOCKEY) const override { return false; }
     DocKeyList getDocKeys() const override { return connectedKeys; }
     DocKeyList getConnectedDocKeys(int) const override { return connectedKeys; }
@@ -173,12 +200,73 @@ public:
     void pausePlayer() override { note("pausePlayer"); }
     void resumePlayer() override { note("resumePlayer"); }
 
+    bool isTracking() const override { return answer("isTracking"); }
+    bool isShading() const override { return answer("isShading"); }
+    bool isAutoFocussing() const override { return answer("isAutoFocussing"); }
+    bool isCurrentAutoFocus(int kind) const override { return answer("isCurrentAutoFocus", kind); }
+    bool isCycleViewBlocked() const override { return answer("isCycleViewBlocked"); }
+    bool isNotLivePage(bool orDeviceSettings) const override { return answer("isNotLivePage", orDeviceSettings); }
+    bool isPrefDialogOpening() const override { return answer("isPrefDialogOpening"); }
+    bool isModalDialogOpening() const override { return answer("isModalDialogOpening"); }
+    bool isZebActive() const override { return answer("isZebActive"); }
+    QWidget* getFullScreenWidget() const override { return answer("getFullScreenWidget") ? mainWindow : nullptr; }
+    bool isTextBoxFocussing() const override { return answer("isTextBoxFocussing"); }
+
+    bool isAutoExposureSetting() const override { return answer("isAutoExposureSetting"); }
+    bool isHwTriggerSetting() const override { return answer("isHwTriggerSetting"); }
+    bool isVariableSetting() const override { return answer("isVariableSetting"); }
+    bool isSendingNodeCommand() const override { return answer("isSendingNodeCommand"); }
+    bool isAdjustingImage() const override { return answer("isAdjustingImage"); }
+    bool isDetectingPixelDefect() const override { return answer("isDetectingPixelDefect"); }
+    bool isImageTriggerCapturing() const override { return answer("isImageTriggerCapturing"); }
+    bool isImageTriggerDetecting() const override { return answer("isImageTriggerDetecting"); }
+
+    int getDocCount() const override { return docs.size(); }
+    int getSelectedDocCount() const override { return selectedDocs; }
+    bool hasWaveformData() const override { return answer("hasWaveformData"); }
+    bool isConflictPartition(int kind) const override { return answer("isConflictPartition", kind); }
+    bool isPhaseAdjusting() const override { return answer("isPhaseAdjusting"); }
+
+    int getRecStatus(const DocKeyList&) const override { return recordingState; }
+    int getRecordingState() const override { return recordingState; }
+    bool isRecording() const override { return answer("isRecording"); }
+    bool isSaving() const override { return answer("isSaving"); }
+    bool isBgSaving() const override { return answer("isBgSaving"); }
+    bool isBgConverting() const override { return answer("isBgConverting"); }
+
+    void setRecordRate(const DocList&, unsigned int) override {}
+    bool isLowlight() const override { return answer("isLowlight"); }
+    bool existLowlight() const override { return answer("existLowlight"); }
+    bool isAllLowlight(bool on) const override { return answer("isAllLowlight", on); }
+    bool isLensCalibration() const override { return answer("isLensCalibration"); }
+    bool isDirectSaving(int kind) const override { return answer("isDirectSaving", kind); }
+    bool isAllWrenLockDevice() const override { return answer("isAllWrenLockDevice"); }
+
+    double getRotation(DOCKEY) const override { return 0.0; }
+    bool isHorizontalFlip(DOCKEY) const override { return false; }
+    bool isVerticalFlip(DOCKEY) const override { return false; }
+    double getZoom(DOCKEY) const override { return 1.0; }
+    bool isCycleView() const override { return answer("isCycleView"); }
+    int countMdiWindow(bool visible, int kind) const override {
+        return !visible ? -1 : kind == 2 ? imageWindows : windows;
+    }
+
+    void clear() override {}
+    void beginMacro(const QString&) override {}
+    void endMacro() override {}
+    bool canUndo() const override { return answer("canUndo"); }
+    bool canRedo() const override { return answer("canRedo"); }
+
     /// Keys that count as connected; a key without a document is a camera that is gone.
     DocKeyList connectedKeys;
 
 private:
     void failIf(const char* operation) const {
         if (failing == QLatin1String(operation) || failing == QLatin1String("*")) throw std::runtime_error(operation);
+    }
+    bool answer(const char* operation, const QVariant& argument = {}) const {
+        failIf(operation);
+        return yes.contains(QString(QLatin1String(operation) % QLatin1Char(' ') % argument.toString()).trimmed());
     }
     void note(const char* operation, const QVariant& value = {}) const {
         Journal::note(QString(QLatin1String(operation) % QLatin1Char(' ') % value.toString()).trimmed());

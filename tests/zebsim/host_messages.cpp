@@ -164,3 +164,32 @@ TEST_F(Messages, RecordStatusIsTheFurthestOfTheCamerasAskedAbout) {
     EXPECT_EQ(host.recorder().getRecStatus({1}), zeb::RecordError);
     EXPECT_THROW(host.flags().set(QStringLiteral("IsNothing"), true), std::invalid_argument);
 }
+
+TEST_F(Messages, StatesOfTheHostFollowItsCameras) {
+    const ZebCameraOps& cameras = host.cameraOps();
+    const auto states = [&] {
+        QStringList on;
+        for (const auto& [state, isOn] : QList<QPair<QString, bool>>{{"chosen", cameras.isLowlight()},
+                                                                     {"one", cameras.existLowlight()},
+                                                                     {"all on", cameras.isAllLowlight(true)},
+                                                                     {"all off", cameras.isAllLowlight(false)},
+                                                                     {"locked", cameras.isAllWrenLockDevice()},
+                                                                     {"recording", host.recorder().isRecording()}}) {
+            if (isOn) {
+                on.append(state);
+            }
+        }
+        return on.join(QStringLiteral(", "));
+    };
+    EXPECT_EQ(states(), "all on, all off") << "there is no connected camera that would have to be switched";
+    EXPECT_EQ(host.mdi().countMdiWindow(true, 0), 0);
+    host.docManager().connectDocs({1, 2});
+    EXPECT_EQ(host.mdi().countMdiWindow(true, 0), 2);
+    EXPECT_EQ(states(), "all off");
+    test.camera(1).change({{"lowLight", true}, {"locked", true}});
+    EXPECT_EQ(states(), "one");
+    test.camera(2).change({{"lowLight", true}, {"locked", true}, {"selected", true}, {"recordState", 3}});
+    EXPECT_EQ(states(), "chosen, one, all on, locked, recording");
+    EXPECT_EQ(host.docManager().getSelectedDocCount(), 1);
+    EXPECT_EQ(host.docManager().getDocCount(), int(host.docManager().getDocKeys().size()));
+}

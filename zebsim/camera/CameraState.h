@@ -18,6 +18,10 @@ struct CameraState {
     Q_PROPERTY(bool connected MEMBER connected)
     Q_PROPERTY(bool selected MEMBER selected)
     Q_PROPERTY(bool mobile MEMBER mobile)
+    Q_PROPERTY(bool sd MEMBER sd)
+    Q_PROPERTY(bool quikDrive MEMBER quikDrive)
+    Q_PROPERTY(bool cfast MEMBER cfast)
+    Q_PROPERTY(bool lutCurve MEMBER lutCurve)
     Q_PROPERTY(bool locked MEMBER locked)
     Q_PROPERTY(int recordState MEMBER recordState)
     Q_PROPERTY(int status MEMBER status)
@@ -61,6 +65,10 @@ public:
     bool connected = false;
     bool selected = false;
     bool mobile = false;
+    bool sd = false;
+    bool quikDrive = false;
+    bool cfast = false;
+    bool lutCurve = false;
     bool locked = false;
     /// 0 none, 1 CTS ready, 2 ready, 3 recording.
     int recordState = 0;

@@ -5,10 +5,12 @@
 #include "host/CameraBank.h"
 #include "host/HostEvents.h"
 #include "host/Journal.h"
+#include "host/StatusFlags.h"
 #include "host/UpdateCycle.h"
 
-SimAppStatus::SimAppStatus(Journal& journal, HostEvents& events, UpdateCycle& updates, const CameraBank& cameras)
-    : m_journal(journal), m_events(events), m_updates(updates), m_cameras(cameras) {}
+SimAppStatus::SimAppStatus(Journal& journal, HostEvents& events, UpdateCycle& updates, const CameraBank& cameras,
+                           const StatusFlags& flags)
+    : m_journal(journal), m_events(events), m_updates(updates), m_cameras(cameras), m_flags(flags) {}
 
 void SimAppStatus::registerPlugin(PLG_Interface* plugin) {
     m_plugins.append(plugin);
@@ -49,6 +51,16 @@ bool SimAppStatus::isPluginEnabledFor(const QString& name, DOC_Interface* doc) c
     const Camera* camera = doc ? m_cameras.find(doc->getKey()) : nullptr;
     return camera && camera->get(&CameraState::plugins).contains(name) &&
            !camera->get(&CameraState::blockedPlugins).contains(name);
+}
+
+QString SimAppStatus::getCurrentPluginName() const {
+    if (m_flags.isOn(QStringLiteral("IsActiveLensCalibration"))) {
+        return QStringLiteral("lenscalib");
+    }
+    if (m_flags.isOn(QStringLiteral("IsImageOverlay"))) {
+        return QStringLiteral("imageoverlay");
+    }
+    return m_current ? m_current->getName() : QString();
 }
 
 void SimAppStatus::closePlugin(const QString& name) {
@@ -93,4 +105,36 @@ void SimAppStatus::enterLiveMode() {
 void SimAppStatus::enterMemoryMode() {
     m_journal.record("ZebAppStatus::enterMemoryMode");
     enterMode(zeb::MemoryMode);
+}
+
+bool SimAppStatus::isAutoExposureSetting() const {
+    return m_flags.isOn(QStringLiteral("IsAutoExposureSetting"));
+}
+
+bool SimAppStatus::isHwTriggerSetting() const {
+    return m_flags.isOn(QStringLiteral("IsHwTriggerSetting"));
+}
+
+bool SimAppStatus::isVariableSetting() const {
+    return m_flags.isOn(QStringLiteral("IsVariableSetting"));
+}
+
+bool SimAppStatus::isSendingNodeCommand() const {
+    return m_flags.isOn(QStringLiteral("IsSendingNodeCommand"));
+}
+
+bool SimAppStatus::isAdjustingImage() const {
+    return m_flags.isOn(QStringLiteral("IsAdjustingImage"));
+}
+
+bool SimAppStatus::isDetectingPixelDefect() const {
+    return m_flags.isOn(QStringLiteral("IsDetectingPixelDefect"));
+}
+
+bool SimAppStatus::isImageTriggerCapturing() const {
+    return m_flags.isOn(QStringLiteral("IsImageTriggerCapturing"));
+}
+
+bool SimAppStatus::isImageTriggerDetecting() const {
+    return m_flags.isOn(QStringLiteral("IsImageTriggerDetecting"));
 }

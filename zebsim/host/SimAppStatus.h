@@ -9,12 +9,14 @@
 class CameraBank;
 class HostEvents;
 class Journal;
+class StatusFlags;
 class UpdateCycle;
 
 /// Plug-ins by name, running flags, and the mode.
 class SimAppStatus : public ZebAppStatus {
 public:
-    SimAppStatus(Journal& journal, HostEvents& events, UpdateCycle& updates, const CameraBank& cameras);
+    SimAppStatus(Journal& journal, HostEvents& events, UpdateCycle& updates, const CameraBank& cameras,
+                 const StatusFlags& flags);
 
     /// A registered plug-in takes part in update cycles.
     void registerPlugin(PLG_Interface* plugin);
@@ -30,6 +32,7 @@ public:
 
     PLG_Interface* getPlugin(const QString& name) const override;
     PLG_Interface* getCurrentPlugin() const override { return m_current; }
+    QString getCurrentPluginName() const override;
     bool isPluginEnabledFor(const QString& name, DOC_Interface* doc) const override;
     void closePlugin(const QString& name) override;
     void closePanel() override;
@@ -40,12 +43,21 @@ public:
     void notifyPluginClosed(PLG_Interface* plugin) override;
     void enterLiveMode() override;
     void enterMemoryMode() override;
+    bool isAutoExposureSetting() const override;
+    bool isHwTriggerSetting() const override;
+    bool isVariableSetting() const override;
+    bool isSendingNodeCommand() const override;
+    bool isAdjustingImage() const override;
+    bool isDetectingPixelDefect() const override;
+    bool isImageTriggerCapturing() const override;
+    bool isImageTriggerDetecting() const override;
 
 private:
     Journal& m_journal;
     HostEvents& m_events;
     UpdateCycle& m_updates;
     const CameraBank& m_cameras;
+    const StatusFlags& m_flags;
     QList<QPointer<PLG_Interface>> m_plugins;
     QPointer<PLG_Interface> m_current;
     bool m_wrenRunning = false;

@@ -5,13 +5,65 @@
 #include "host/CameraBank.h"
 #include "host/Failures.h"
 #include "host/Journal.h"
+#include "host/StatusFlags.h"
 
-SimCameraOps::SimCameraOps(Journal& journal, CameraBank& cameras) : m_journal(journal), m_cameras(cameras) {}
+#include <algorithm>
+
+SimCameraOps::SimCameraOps(Journal& journal, CameraBank& cameras, const StatusFlags& flags)
+    : m_journal(journal), m_cameras(cameras), m_flags(flags) {}
 
 void SimCameraOps::setRecordRate(const DocList& docs, unsigned int rate) {
     const DocKeyList keys = keysOf(docs);
     m_journal.record("ZebCameraOps::setRecordRate", {Journal::keyList(keys), rate});
     forEach(keys, [rate](Camera& camera) { camera.setRecordRate(rate); });
+}
+
+bool SimCameraOps::isLowlight() const {
+    const auto cameras = connectedCameras();
+    return m_flags.isOn(QStringLiteral("IsLowlight")) ||
+           std::any_of(cameras.begin(), cameras.end(), [](const Camera* camera) {
+               return camera->get(&CameraState::selected) && camera->get(&CameraState::lowLight);
+           });
+}
+
+bool SimCameraOps::existLowlight() const {
+    const auto cameras = connectedCameras();
+    return m_flags.isOn(QStringLiteral("ExistLowlight")) ||
+           std::any_of(cameras.begin(), cameras.end(),
+                       [](const Camera* camera) { return camera->get(&CameraState::lowLight); });
+}
+
+bool SimCameraOps::isAllLowlight(bool on) const {
+    const auto cameras = connectedCameras();
+    return m_flags.isOn(on ? QStringLiteral("IsAllLowlightON") : QStringLiteral("IsAllLowlightOFF")) ||
+           std::all_of(cameras.begin(), cameras.end(), [on](const Camera* camera) {
+               return !camera->model().functions.contains(zeb::FunctionLowLight) ||
+                      camera->get(&CameraState::lowLight) == on;
+           });
+}
+
+bool SimCameraOps::isLensCalibration() const {
+    return m_flags.isOn(QStringLiteral("IsLensCalibration"));
+}
+
+bool SimCameraOps::isDirectSaving(int /*mode*/) const {
+    return m_flags.isOn(QStringLiteral("IsDirectSaving"));
+}
+
+bool SimCameraOps::isAllWrenLockDevice() const {
+    const auto cameras = connectedCameras();
+    const bool all = !cameras.empty() && std::all_of(cameras.begin(), cameras.end(), [](const Camera* camera) {
+        return camera->get(&CameraState::locked);
+    });
+    return all || m_flags.isOn(QStringLiteral("IsAllWrenLockDevice"));
+}
+
+std::vector<Camera*> SimCameraOps::connectedCameras() const {
+    auto cameras = m_cameras.all();
+    cameras.erase(std::remove_if(cameras.begin(), cameras.end(),
+                                 [](const Camera* camera) { return !camera->get(&CameraState::connected); }),
+                  cameras.end());
+    return cameras;
 }
 
 DocKeyList SimCameraOps::keysOf(const DocList& docs) {

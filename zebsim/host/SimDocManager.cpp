@@ -6,12 +6,17 @@
 #include "host/Failures.h"
 #include "host/Journal.h"
 #include "host/SimDocument.h"
+#include "host/StatusFlags.h"
 
 #include <algorithm>
 
 SimDocManager::SimDocManager(ZebHost& host, Journal& journal, CameraBank& cameras, const Preferences& prefs,
-                             const SimAppStatus& appStatus)
-    : m_host(host), m_journal(journal), m_cameras(cameras), m_context{journal, m_tools, prefs, appStatus, *this} {}
+                             const SimAppStatus& appStatus, const StatusFlags& flags)
+    : m_host(host),
+      m_journal(journal),
+      m_cameras(cameras),
+      m_flags(flags),
+      m_context{journal, m_tools, prefs, appStatus, *this} {}
 
 SimDocManager::~SimDocManager() = default;
 
@@ -80,6 +85,24 @@ DocKeyList SimDocManager::getConnectedDocKeys(int /*mode*/) const {
 
 DocKeyList SimDocManager::getLiveDocKeys(int /*mode*/, int /*order*/) const {
     return getDocKeys();
+}
+
+int SimDocManager::getDocCount() const {
+    return m_flags.isOn(QStringLiteral("IsNoneDocument")) ? 0 : int(m_cameras.all().size());
+}
+
+int SimDocManager::getSelectedDocCount() const {
+    const auto cameras = m_cameras.all();
+    return int(std::count_if(cameras.begin(), cameras.end(),
+                             [](const Camera* camera) { return camera->get(&CameraState::selected); }));
+}
+
+bool SimDocManager::isConflictPartition(int /*mode*/) const {
+    return m_flags.isOn(QStringLiteral("IsConflictPartition"));
+}
+
+bool SimDocManager::isPhaseAdjusting() const {
+    return m_flags.isOn(QStringLiteral("IsPhaseAdjusting"));
 }
 
 void SimDocManager::selectDoc(DOCKEY key) {

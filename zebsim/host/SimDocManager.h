@@ -11,13 +11,14 @@
 class Camera;
 class CameraBank;
 class SimDocument;
+class StatusFlags;
 class ZebHost;
 
 /// Documents by key, the selection, connections, image tools.
 class SimDocManager : public ZebDocManager {
 public:
     SimDocManager(ZebHost& host, Journal& journal, CameraBank& cameras, const Preferences& prefs,
-                  const SimAppStatus& appStatus);
+                  const SimAppStatus& appStatus, const StatusFlags& flags);
     ~SimDocManager() override;
 
     /// What `editDoc` opens; nothing at first. It is called for a camera that is there and runs until it is closed.
@@ -35,12 +36,18 @@ public:
     DocKeyList getDocKeys() const override;
     DocKeyList getConnectedDocKeys(int mode = 0) const override;
     DocKeyList getLiveDocKeys(int mode, int order) const override;
+    int getDocCount() const override;
+    int getSelectedDocCount() const override;
     void selectDoc(DOCKEY key) override;
     void deselectDoc(DOCKEY key) override;
     void connectDocs(const DocKeyList& keys) override;
     void disconnectDocs(const DocKeyList& keys) override;
     void editDoc(DOCKEY key) override;
     bool sharesDeviceWithLockedHead(DOC_Interface* doc, bool shutter, bool resolution) override;
+    /// There is none: cameras bring images only.
+    bool hasWaveformData() const override { return false; }
+    bool isConflictPartition(int mode) const override;
+    bool isPhaseAdjusting() const override;
     QMutex* getDocMutex() override { return &m_mutex; }
     void beginDocEdit() override;
     void beginDocEditNotify() override;
@@ -61,6 +68,7 @@ private:
     ZebHost& m_host;
     Journal& m_journal;
     CameraBank& m_cameras;
+    const StatusFlags& m_flags;
     QMutex m_mutex;
     ImageTools m_tools;
     const DocContext m_context;

@@ -31,6 +31,18 @@ bool SimDocument::isMobileSelected() const {
     return m_camera.get(&CameraState::mobile);
 }
 
+bool SimDocument::isSdSelected() const {
+    return m_camera.get(&CameraState::sd);
+}
+
+bool SimDocument::isQuikDriveSelected() const {
+    return m_camera.get(&CameraState::quikDrive);
+}
+
+bool SimDocument::isCFastSelected() const {
+    return m_camera.get(&CameraState::cfast);
+}
+
 DOC_Interface* SimDocument::getParentDoc() const {
     const DOCKEY master = m_camera.device().heads().front()->key();
     return master == getKey() ? nullptr : m_context.docs.getDocAny(master);

@@ -26,6 +26,9 @@ public:
     bool isConnected() const override;
     bool isSelected() const override;
     bool isMobileSelected() const override;
+    bool isSdSelected() const override;
+    bool isQuikDriveSelected() const override;
+    bool isCFastSelected() const override;
     /// The document of the master head; null for the master and for a camera of one head.
     DOC_Interface* getParentDoc() const override;
     QStringList getAlerts() const override;

@@ -7,6 +7,7 @@
 #include "host/ImagePlugins.h"
 #include "host/MessageDesk.h"
 
+#include <QApplication>
 #include <QDialog>
 #include <QWebView>
 #include <QtDebug>
@@ -17,14 +18,15 @@ SimHost::SimHost(Clock& clock, MessageDesk& desk, const QString& prefsPath)
       m_prefs(prefsPath),
       m_cameras(clock, m_faults, m_shownErrors),
       m_updates([this] { runUpdateCycle(); }),
-      m_appStatus(m_journal, m_events, m_updates, m_cameras),
-      m_docManager(*this, m_journal, m_cameras, m_prefs, m_appStatus),
+      m_appStatus(m_journal, m_events, m_updates, m_cameras, m_flags),
+      m_docManager(*this, m_journal, m_cameras, m_prefs, m_appStatus, m_flags),
       m_liveLoop(m_journal),
       m_player(m_journal),
       m_recorder(m_cameras, m_flags),
-      m_cameraOps(m_journal, m_cameras),
+      m_cameraOps(m_journal, m_cameras, m_flags),
       m_saver(m_flags),
-      m_viewOps(m_cameras),
+      m_viewOps(m_cameras, m_flags),
+      m_mdi(m_cameras, m_flags),
       m_undo(m_journal) {
     m_translator.load(QStringLiteral("en"));
     if (!m_prefs.problem().isEmpty()) {
@@ -241,6 +243,52 @@ bool SimHost::isSelectionKept() const {
 
 bool SimHost::getTriggerTesting() const {
     return m_flags.isOn(QStringLiteral("IsTriggerTesting"));
+}
+
+bool SimHost::isTracking() const {
+    return m_flags.isOn(QStringLiteral("IsTracking"));
+}
+
+bool SimHost::isShading() const {
+    return m_flags.isOn(QStringLiteral("IsShading"));
+}
+
+bool SimHost::isAutoFocussing() const {
+    return m_flags.isOn(QStringLiteral("IsAutoFocussing"));
+}
+
+bool SimHost::isCurrentAutoFocus(int /*mode*/) const {
+    return m_flags.isOn(QStringLiteral("IsCurrentAutoFocus"));
+}
+
+bool SimHost::isCycleViewBlocked() const {
+    return m_flags.isOn(QStringLiteral("IsCycleViewBlocked"));
+}
+
+bool SimHost::isPrefDialogOpening() const {
+    return m_flags.isOn(QStringLiteral("IsPrefDialogOpening"));
+}
+
+bool SimHost::isTextBoxFocussing() const {
+    return m_flags.isOn(QStringLiteral("IsModalessDialogTextFocussing"));
+}
+
+bool SimHost::isNotLivePage(bool orDeviceSettings) const {
+    return m_flags.isOn(orDeviceSettings ? QStringLiteral("IsNotLiveAndDeviceSettingPage")
+                                         : QStringLiteral("IsNotlivePage"));
+}
+
+bool SimHost::isModalDialogOpening() const {
+    return QApplication::activeModalWidget() || m_flags.isOn(QStringLiteral("IsModalDialogOpening"));
+}
+
+bool SimHost::isZebActive() const {
+    return (m_mainWindow && m_mainWindow->isActiveWindow()) || m_flags.isOn(QStringLiteral("IsActiveZebOnWren"));
+}
+
+QWidget* SimHost::getFullScreenWidget() const {
+    const bool full = m_mainWindow && (m_mainWindow->isFullScreen() || m_flags.isOn(QStringLiteral("IsFullScreen")));
+    return full ? m_mainWindow : nullptr;
 }
 
 bool SimHost::isToolActive(const QString& tool) const {

@@ -12,6 +12,7 @@
 #include "host/SimCameraOps.h"
 #include "host/SimDocManager.h"
 #include "host/SimLiveLoop.h"
+#include "host/SimMdi.h"
 #include "host/SimPlayer.h"
 #include "host/SimRecorder.h"
 #include "host/SimSaver.h"
@@ -63,6 +64,7 @@ public:
     SimCameraOps& cameraOps() override { return m_cameraOps; }
     SimSaver& saver() override { return m_saver; }
     SimViewOps& viewOps() override { return m_viewOps; }
+    SimMdi& mdi() override { return m_mdi; }
     SimUndo& undo() override { return m_undo; }
 
     int getOperatingMode() const override { return m_appStatus.mode(); }
@@ -113,6 +115,17 @@ public:
     bool isOtherPluginOpen() const override;
     bool isSelectionKept() const override;
     bool getTriggerTesting() const override;
+    bool isTracking() const override;
+    bool isShading() const override;
+    bool isAutoFocussing() const override;
+    bool isCurrentAutoFocus(int mode) const override;
+    bool isCycleViewBlocked() const override;
+    bool isNotLivePage(bool orDeviceSettings) const override;
+    bool isPrefDialogOpening() const override;
+    bool isModalDialogOpening() const override;
+    bool isZebActive() const override;
+    QWidget* getFullScreenWidget() const override;
+    bool isTextBoxFocussing() const override;
     bool isToolActive(const QString& tool) const override;
     bool isPluginAvailable(const QString& name) const override;
     bool isPluginOkPattern(const QString& name) const override;
@@ -150,5 +163,6 @@ private:
     SimCameraOps m_cameraOps;
     SimSaver m_saver;
     SimViewOps m_viewOps;
+    SimMdi m_mdi;
     SimUndo m_undo;
 };

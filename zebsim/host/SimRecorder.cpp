@@ -25,3 +25,11 @@ int SimRecorder::getRecStatus(const DocKeyList& keys) const {
     }
     return furthest;
 }
+
+int SimRecorder::getRecordingState() const {
+    DocKeyList keys;
+    for (const Camera* camera : m_cameras.all()) {
+        keys.append(camera->key());
+    }
+    return getRecStatus(keys);
+}

@@ -11,6 +11,8 @@ public:
     SimRecorder(const CameraBank& cameras, const StatusFlags& flags) : m_cameras(cameras), m_flags(flags) {}
 
     int getRecStatus(const DocKeyList& keys) const override;
+    int getRecordingState() const override;
+    bool isRecording() const override { return getRecordingState() == zeb::RecordRecording; }
 
 private:
     const CameraBank& m_cameras;

@@ -9,3 +9,7 @@ bool SimSaver::isSaving() const {
 bool SimSaver::isBgSaving() const {
     return m_flags.isOn(QStringLiteral("IsBgSaving"));
 }
+
+bool SimSaver::isBgConverting() const {
+    return m_flags.isOn(QStringLiteral("IsBgConverting"));
+}

@@ -11,6 +11,7 @@ public:
 
     bool isSaving() const override;
     bool isBgSaving() const override;
+    bool isBgConverting() const override;
 
 private:
     const StatusFlags& m_flags;

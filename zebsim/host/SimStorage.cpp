@@ -11,3 +11,7 @@ bool SimStorage::isPluginEffective(const QString& name, int /*head*/) const {
     m_camera.queryConnected("isPluginEffective");
     return m_camera.get(&CameraState::effectivePlugins).contains(name);
 }
+
+bool SimStorage::isLutCurve() const {
+    return m_camera.get(&CameraState::lutCurve);
+}

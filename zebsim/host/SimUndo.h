@@ -12,6 +12,8 @@ public:
     void clear() override;
     void beginMacro(const QString& text) override;
     void endMacro() override;
+    bool canUndo() const override { return false; }
+    bool canRedo() const override { return false; }
 
 private:
     Journal& m_journal;

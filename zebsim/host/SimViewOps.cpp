@@ -2,6 +2,7 @@
 
 #include "camera/Camera.h"
 #include "host/CameraBank.h"
+#include "host/StatusFlags.h"
 
 namespace {
 
@@ -26,4 +27,8 @@ bool SimViewOps::isVerticalFlip(DOCKEY key) const {
 
 double SimViewOps::getZoom(DOCKEY key) const {
     return stateOf(m_cameras, key).zoom;
+}
+
+bool SimViewOps::isCycleView() const {
+    return m_flags.isOn(QStringLiteral("IsCycleView"));
 }

@@ -4,7 +4,8 @@
 #include <QString>
 #include <QStringList>
 
-/// States of the host that can be switched by name. GUI thread.
+/// States of the host that can be switched by name. One that the cameras bring about too is on while they do,
+/// whatever is switched. GUI thread.
 class StatusFlags {
 public:
     StatusFlags();
