@@ -26,7 +26,7 @@ Object.assign(wrentabledialog_obj, {
                 this.recStatusChanged(status.recStatus, status.recStatusLabel);
             }
         }
-        zeb4func.setDisable(wrentabledialog, controls);
+        this.applyControls();
         if (this.preventSelectGroup) {
             zeb4func.disable('.groupButton', true);
         }

@@ -5,7 +5,7 @@ Object.assign(wrentabledialog_obj, {
         ['open', 'update', 'autoUpdate', 'close'].forEach(name => {
             wrentabledialog[name].connect(() => logged(() => this[name]()));
         });
-        zeb4func.setDisable(wrentabledialog, controls);
+        this.applyControls();
         this.initializeAccordion();
         zeb4func.disableDefaultShortcut();
         zeb4func.localize(wrentabledialog);
@@ -89,7 +89,7 @@ Object.assign(wrentabledialog_obj, {
         this.refreshRecords(number, false);
         this.resizeTableElements();
         this.refreshCommonParts();
-        zeb4func.setDisable(wrentabledialog, controls);
+        this.applyControls();
         // Else the tab widget's own arrow keys would change the tab.
         header.find('a').get(0).blur();
         header.get(0).blur();

@@ -18,6 +18,8 @@ var wrentabledialog_obj = {
     isRebuilding: false, // a grid's rows are being replaced
     preventSelectGroup: false, // a group button's click is being processed
     isCtsReady: false, // the last record status was CTS ready
+    // What the control states make of tabs and colours; `armed` from ready on until the recording has ended.
+    look: { tabsOff: false, colour: null, armed: false },
 
     RECORD_STATUS_LIVE: 0,
     RECORD_STATUS_CTS_READY: 1,

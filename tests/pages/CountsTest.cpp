@@ -79,6 +79,11 @@ TEST(PageCounts, ATickWithNothingChangedWritesNothing) {
         page.show(tab);
         quiet("tab " + std::to_string(tab));
     }
+    for (const char* state : {"IsReady", "IsRecording", "IsBgSaving"}) {
+        test.host.flags().set(state, true);
+        quiet(state);
+        test.host.flags().set(state, false);
+    }
     test.host.prefs().setValue("env/style", "dark");
     quiet("dark");
     test.host.appStatus().enterMode(zeb::MemoryMode);

@@ -20,6 +20,8 @@ struct TickCase {
 void checkTicks(int tab, const QList<TickCase>& cases) {
     TestHost test(Rig::standard(64));
     connectCameras(test, 1, 64);
+    // The first camera in low light mode switches controls outside the rows.
+    test.camera(64).change({{"lowLight", true}});
     TablePage page(test, tab);
     choose(test, {"1"});
     page.update();
