@@ -19,11 +19,13 @@ lint_text() {
     npx --no-install stylelint --allow-empty-input 'pages/**/*.css' 'zebsim/pages/**/*.css'
 }
 
-# clang-tidy of the files named on standard input. Clang does not know every flag that g++ does.
+# clang-tidy of the files named on standard input that the build compiles. Clang does not know every flag that g++ does.
 tidy() {
     mkdir -p build/tidy
     sed 's/ -fno-gnu-unique//g' build/dev/compile_commands.json >build/tidy/compile_commands.json
-    xargs -r -d '\n' -n 1 -P 2 clang-tidy --quiet -p build/tidy --extra-arg=-Wno-unknown-warning-option
+    while IFS= read -r file; do
+        if grep -qF "\"file\": \"$PWD/$file\"" build/tidy/compile_commands.json; then printf '%s\n' "$file"; fi
+    done | xargs -r -d '\n' -n 1 -P 2 clang-tidy --quiet -p build/tidy --extra-arg=-Wno-unknown-warning-option
 }
 
 lint_changed() {
