@@ -143,7 +143,7 @@ void vary(TestHost& test, int cameras, int turn) {
         QVariantMap state = plain.toPlain();
         state.insert("name", QStringLiteral("Camera %1 of turn %2").arg(i).arg(turn));
         state.insert("connected", true);
-        const QVariantMap kind = kinds.at((i + turn) % kinds.size());
+        const QVariantMap& kind = kinds.at((i + turn) % kinds.size());
         for (auto member = kind.begin(); member != kind.end(); ++member) {
             state.insert(member.key(), member.value());
         }

@@ -66,7 +66,7 @@ QList<JsonNode> JsonNode::items() const {
         fail(QStringLiteral("a list is expected"));
     }
     QList<JsonNode> nodes;
-    for (const QJsonValue& value : m_value.toArray()) {
+    for (const QJsonValue value : m_value.toArray()) {
         nodes.append(JsonNode(m_file, QStringLiteral("%1[%2]").arg(m_path).arg(nodes.size()), value));
     }
     return nodes;
