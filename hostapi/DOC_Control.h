@@ -18,6 +18,16 @@ public:
     virtual QString getCameraName(int mode) const = 0;
     /// IPv4 address as dotted text.
     virtual QString getAddress(int mode) const = 0;
+    /// The device behind the camera: the name that the user gave it, empty for none, and its own.
+    virtual QString getDeviceAlias(int mode) const = 0;
+    virtual QString getDeviceName(int mode) const = 0;
+    /// Place of the head in its device, from 1.
+    virtual int getHeadNumber() const = 0;
+    /// Whether the document stands for a camera that is not there.
+    virtual bool isDummy() const = 0;
+    /// 1 when the camera is reached by radio, and when its link is slower than it should be.
+    virtual int getWifiState() const = 0;
+    virtual int getLinkSpeedState() const = 0;
     /// Number of the camera's type; the types fall into classes by what their ports are for.
     virtual int getCameraType() const = 0;
     /// A `zeb::CameraStatus`; other values are states without a name.
@@ -68,6 +78,16 @@ public:
     /// A `zeb::LowLightType`.
     virtual int getLowLightType() const = 0;
 
+    /// Partitions of the memory, and the one in use, from 1.
+    virtual PARTITIONNUMBER getPartitionCount(int mode, int head) const = 0;
+    virtual PARTITIONNUMBER getCurrentPartition(int mode) const = 0;
+    /// The document follows its camera to the partition now in use.
+    virtual void applyPartition(int mode) = 0;
+    /// `channel` from 1 to `zeb::VariableChannels`.
+    virtual zeb::VariableChannelInfo getVariableChannelInfo(int channel) const = 0;
+
+    /// As `getRecordedRate`, of a partition.
+    virtual unsigned int getRecordedRateOfPartition(PARTITIONNUMBER partition) const = 0;
     /// Rate of the recorded frames in frames a second; 0 when there are none.
     virtual unsigned int getRecordedRate() const = 0;
     /// Whether the zero point of the recorded frames has been moved.

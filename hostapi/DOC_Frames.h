@@ -15,6 +15,8 @@ public:
     /// The part of the recording that is to be kept: first <= start <= end <= last.
     virtual int getSelectStartFrame(int head) const = 0;
     virtual int getSelectEndFrame(int head) const = 0;
+    /// Whether the recording is being played.
+    virtual bool isPlaying() const = 0;
     /// Whether the recording is marked for saving.
     virtual bool isRecordCheck() const = 0;
     virtual void setRecordCheck(bool check) = 0;

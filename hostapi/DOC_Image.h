@@ -1,9 +1,13 @@
 #pragma once
 
+#include "ZebTypes.h"
+
 #include <QPoint>
 #include <QRect>
 #include <QSize>
 #include <QString>
+
+#include <optional>
 
 /// The image of a document and what is written to it. GUI thread.
 class DOC_Image {
@@ -13,6 +17,8 @@ public:
     /// The user's comment, its lines separated by `zeb::CommentSeparator`.
     virtual QString getComment() const = 0;
 
+    /// How a pixel is kept; nothing when the document has no image.
+    virtual std::optional<zeb::ImageFormat> getImageFormat(int kind, int head) const = 0;
     /// Image size in pixels.
     virtual QSize getImageSize() const = 0;
     /// Factor by which the image was scaled; 0 when it was not.

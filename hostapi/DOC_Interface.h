@@ -43,6 +43,8 @@ public:
     /// The document of the device that this head belongs to; null when it has none.
     virtual DOC_Interface* getParentDoc() const = 0;
 
+    /// Name of a memory partition, from 1.
+    virtual QString getPartitionName(PARTITIONNUMBER partition) const = 0;
     /// What is wrong with the camera, a text each; empty when nothing is.
     virtual QStringList getAlerts() const = 0;
     /// Text of a shutter speed as the user has chosen to see it. `value` as in the shutter list in use.

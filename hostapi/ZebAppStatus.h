@@ -18,7 +18,11 @@ public:
     virtual QString getCurrentPluginName() const = 0;
     /// Whether the image plug-in of that name may be used on `doc`.
     virtual bool isPluginEnabledFor(const QString& name, DOC_Interface* doc) const = 0;
+    /// Opens the plug-in, or the panel of the image plug-in, of that name. Throws when there is none.
+    virtual void openPlugin(const QString& name) = 0;
     virtual void closePlugin(const QString& name) = 0;
+    /// No plug-in works on the images any more; its panel stays.
+    virtual void clearCurrentPlugin() = 0;
     virtual void closePanel() = 0;
     virtual void closeAuxiliaryPanel() = 0;
 
@@ -32,6 +36,9 @@ public:
     /// Change the mode of the host; back when the mode has changed.
     virtual void enterLiveMode() = 0;
     virtual void enterMemoryMode() = 0;
+
+    /// Whether this is the host's edition of that name. Does not throw.
+    virtual bool isMVersion() const = 0;
 
     /// Works that the host is busy with, a flag each. None throws.
     virtual bool isAutoExposureSetting() const = 0;

@@ -13,6 +13,14 @@ public:
     /// Sets the record rate, in frames a second.
     virtual void setRecordRate(const DocList& docs, unsigned int rate) = 0;
 
+    /// The partition of the selected cameras, from 1.
+    virtual void setPartition(PARTITIONNUMBER number, int mode) = 0;
+    /// The channel of variable settings that the current camera uses; 0 for none.
+    virtual unsigned int getCurrentVariable() const = 0;
+    virtual void setVariable(unsigned int channel) = 0;
+    /// Brings the cameras to rest before the preferences are changed: none stays armed.
+    virtual void stopForPrefs() = 0;
+
     /// Whether a selected camera is in low light mode, whether any camera is, and whether all that know the mode
     /// have it on, or off.
     virtual bool isLowlight() const = 0;

@@ -4,6 +4,8 @@
 
 #include <QMutex>
 
+class QObject;
+
 /// The camera documents of the host. GUI thread.
 ///
 /// Lists of keys are in the order in which the host shows its cameras. A key whose camera is gone is taken by
@@ -19,16 +21,27 @@ public:
     /// The document that the user works on; null without one.
     virtual DOC_Interface* getCurrentDoc() = 0;
     virtual bool isCurrentDoc(DOCKEY key) const = 0;
+    /// Its key; `zeb::NoDocKey` without one.
+    virtual DOCKEY getCurrentDockey(int mode) const = 0;
+    virtual void setCurrentDoc(DOCKEY key, int mode) = 0;
 
-    virtual DocKeyList getDocKeys() const = 0;
+    /// `mode` 0 or 1, the same list.
+    virtual DocKeyList getDocKeys(int mode = 0) const = 0;
     virtual DocKeyList getConnectedDocKeys(int mode = 0) const = 0;
     /// Cameras of the live view, connected or not.
     virtual DocKeyList getLiveDocKeys(int mode, int order) const = 0;
+    /// The documents that are cameras, not media or files.
+    virtual DocList getCameraDocs() = 0;
     virtual int getDocCount() const = 0;
     virtual int getSelectedDocCount() const = 0;
 
     virtual void selectDoc(DOCKEY key) = 0;
     virtual void deselectDoc(DOCKEY key) = 0;
+    virtual DocKeyList getSelectedDocKeys(int mode) const = 0;
+    /// Selects these and no others.
+    virtual void setSelectedDocs(const DocKeyList& keys, int mode) = 0;
+    /// Selects all. `sender` asks for it; may be null.
+    virtual void selectAllDocs(QObject* sender) = 0;
 
     /// Connect and disconnect cameras; back when all have answered or failed. Failures are shown by the host.
     virtual void connectDocs(const DocKeyList& keys) = 0;
@@ -42,6 +55,8 @@ public:
 
     /// States of the documents together.
     virtual bool hasWaveformData() const = 0;
+    /// Whether measured signals are taken beside the images.
+    virtual bool isWaveDataAcquisition() const = 0;
     /// Whether the cameras stand at memory partitions that do not go together.
     virtual bool isConflictPartition(int mode) const = 0;
     virtual bool isPhaseAdjusting() const = 0;
@@ -53,6 +68,9 @@ public:
     virtual void beginDocEditNotify() = 0;
     virtual void endDocEdit() = 0;
     virtual void commitDocEdit() = 0;
+
+    /// Shows the list of documents anew.
+    virtual void refreshDocList(int mode) = 0;
 
     /// Image tools, by the name of their plug-in.
     virtual void setQuickTool(const QString& tool, bool on) = 0;

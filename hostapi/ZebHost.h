@@ -8,6 +8,10 @@
 
 #include <exception>
 
+class QFutureWatcherBase;
+class QObject;
+class QPoint;
+class QRect;
 class QWebView;
 class QWidget;
 class ZebAppStatus;
@@ -17,10 +21,12 @@ class ZebLiveLoop;
 class ZebMdi;
 class ZebPageBridge;
 class ZebPlayer;
+class ZebPrefsDialog;
 class ZebRecorder;
 class ZebSaver;
 class ZebUndo;
 class ZebViewOps;
+struct ZebSupportFile;
 
 /// The host application as a plug-in sees it.
 ///
@@ -64,6 +70,11 @@ public:
     virtual void setPrefFloat(const QString& key, float value) = 0;
     virtual void setPrefString(const QString& key, const QString& value) = 0;
 
+    /// Whether the store was found damaged and the factory values stand in it, which nobody has taken note of yet.
+    virtual bool isPrefsRestored() const = 0;
+    /// 1: somebody has.
+    virtual void setPrefsRestored(int state) = 0;
+
     /// The text in the user's language; a key without a translation comes back as it is. Does not throw.
     virtual QString translate(const QString& text) const = 0;
 
@@ -83,6 +94,34 @@ public:
     /// Shows `e.what()` (UTF-8) to the user; nothing for an empty text.
     virtual void errorHandler(const std::exception& e) = 0;
 
+    /// Windows of the host, each with an event loop of its own until it is closed. The dialog of preferences is null
+    /// when the host runs without a window.
+    virtual ZebPrefsDialog* getPrefsDialog() = 0;
+    virtual void openPrefsEthernetSettings() = 0;
+    virtual void openAboutDialog() = 0;
+    /// A modal progress with `text` until `watcher` has finished; it can't be cancelled. The outcome is the caller's.
+    virtual void execProgress(const QString& text, QFutureWatcherBase& watcher) = 0;
+
+    /// Gathers what a support file holds: states, logs, preferences, pictures of the windows.
+    virtual void prepareSupportFile(ZebSupportFile& file) = 0;
+    /// Writes it to `path` as ZIP; false when that failed. Any thread; does not throw.
+    virtual bool exportSupportFile(const QString& path, const ZebSupportFile& file) = 0;
+    /// Whether the camera table has a window to take a picture of. Does not throw.
+    virtual bool hasWrenWindow() const = 0;
+
+    /// The host's floating lists, which open beside a control of a page. `key` names the list, as "partition".
+    virtual void hideSelectBox() = 0;
+    virtual bool isShownDropBox() const = 0;
+    /// `anchor` is the control, in the pixels of its page.
+    virtual void showDropDownBox(const QString& key, const QRect& anchor) = 0;
+    virtual void hideDropDownBox(const QString& key) = 0;
+    /// Hides the list unless `point`, in the pixels of its page, lies on it.
+    virtual void hideDropDownBoxAt(const QString& key, const QPoint& point) = 0;
+
+    /// What every page of the host sees as `app` and `main`; never null. Do not throw.
+    virtual QObject* getAppObject() = 0;
+    virtual QObject* getMainObject() = 0;
+
     /// Parent of dialogs; null when the host runs without a window. Does not throw.
     virtual QWidget* getMainWindow() const = 0;
     /// The area of the image windows; null when there is none. Does not throw.
@@ -96,6 +135,10 @@ public:
     virtual void updateUI(unsigned int mask, bool refresh) = 0;
     /// Calls nest. While deterred no cycle runs; one that was asked for runs after the last end. Does not throw.
     virtual void deterUpdateUI(bool deter) = 0;
+    /// Whether update cycles pass without effect. Does not throw.
+    virtual bool isUpdateIgnore() const = 0;
+    /// Shows the image tools anew as they stand.
+    virtual void refreshTools() = 0;
 
     /// The viewer draws its images while it runs. Suspend and resume nest. None of these throws.
     virtual bool isViewerRunning() const = 0;
@@ -103,6 +146,8 @@ public:
     virtual void resumeViewer() = 0;
 
     /// Flags of the host. None throws.
+    /// Whether it has started up and takes commands.
+    virtual bool isReady() const = 0;
     virtual bool isApplicationClosing() const = 0;
     virtual bool isWindowStateSaveSuppressed() const = 0;
     virtual bool isOtherPluginOpen() const = 0;

@@ -1,6 +1,6 @@
 #pragma once
 
-/// Saving of recorded images. GUI thread; nothing here throws.
+/// Saving of images. GUI thread; no question here throws.
 class ZebSaver {
 public:
     virtual ~ZebSaver() = default;
@@ -10,4 +10,7 @@ public:
     virtual bool isBgSaving() const = 0;
     /// Converting of saved files in the background.
     virtual bool isBgConverting() const = 0;
+
+    /// Puts the current image on the clipboard; `what` 2 the selected area of it.
+    virtual void copyToClipboard(int what) = 0;
 };

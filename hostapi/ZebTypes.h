@@ -45,9 +45,14 @@ enum CameraStatus {
 enum CameraFunction {
     FunctionIrig = 7,
     FunctionIrigTimeStampPosition = 8,
+    FunctionVariable = 14,
     FunctionLowLight = 15,
     FunctionIrigSync = 20,
-    FunctionReduceMode = 175
+    FunctionWifi = 112,
+    FunctionShutdown = 117,
+    FunctionCameraLogFile = 158,
+    FunctionReduceMode = 175,
+    FunctionCameraLog = 176
 };
 
 /// What is on a port of a camera, as `DOC_Control::getPortSignal` answers it.
@@ -101,6 +106,21 @@ struct ManualTriggerParameters {
     int reserved1 = 0;
     int reserved2 = 0;
     int triggerFrame = 0;
+};
+
+/// Bits of a pixel: in how many it is kept, and how many of them the camera fills.
+struct ImageFormat {
+    int depth = 8;
+    int realDepth = 8;
+};
+
+/// Channels of variable recording settings count from 1 to this.
+constexpr int VariableChannels = 20;
+
+/// One of those channels: what it holds, as the user reads it, and whether it can be chosen.
+struct VariableChannelInfo {
+    QString text;
+    bool settable = false;
 };
 
 /// Preference `display/ShutterSpeed` with this value shows speeds by the camera's second list.

@@ -5,6 +5,7 @@ packages=(
     g++ cmake ninja-build git
     qtbase5-dev qtbase5-private-dev qtdeclarative5-dev qttools5-dev qttools5-dev-tools libqt5webkit5-dev
     qt5-image-formats-plugins
+    libzip-dev pkg-config
     libgtest-dev libgmock-dev
     fonts-dejavu-core fonts-noto-cjk
 )

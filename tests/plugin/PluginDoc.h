@@ -19,6 +19,17 @@ public:
 
     QString getCameraName(int) const override { return {}; }
     QString getAddress(int) const override { return {}; }
+    QString getDeviceAlias(int) const override { return {}; }
+    QString getDeviceName(int) const override { return {}; }
+    int getHeadNumber() const override { return {}; }
+    bool isDummy() const override { return {}; }
+    int getWifiState() const override { return {}; }
+    int getLinkSpeedState() const override { return {}; }
+    PARTITIONNUMBER getPartitionCount(int, int) const override { return {}; }
+    PARTITIONNUMBER getCurrentPartition(int) const override { return {}; }
+    void applyPartition(int) override {}
+    zeb::VariableChannelInfo getVariableChannelInfo(int) const override { return {}; }
+    unsigned int getRecordedRateOfPartition(PARTITIONNUMBER) const override { return {}; }
     int getCameraType() const override { return {}; }
     int getCameraStatus() const override { return {}; }
     bool isFunctionSupported(int, int) const override { return {}; }
@@ -72,6 +83,7 @@ public:
     bool isConnected() const override { return connected; }
 
     QString getComment() const override { return {}; }
+    std::optional<zeb::ImageFormat> getImageFormat(int, int) const override { return {}; }
     QSize getImageSize() const override { return {640, 480}; }
     double getScale() const override { return scale; }
     int getBinningPower() const override { return binning; }
@@ -97,6 +109,7 @@ public:
     int getTriggerFrame(int) const override { return 0; }
     int getSelectStartFrame(int) const override { return 0; }
     int getSelectEndFrame(int) const override { return 0; }
+    bool isPlaying() const override { return false; }
     bool isRecordCheck() const override { return false; }
     void setRecordCheck(bool) override {}
 };

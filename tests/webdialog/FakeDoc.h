@@ -27,6 +27,7 @@ public:
     bool isQuikDriveSelected() const override { return false; }
     bool isCFastSelected() const override { return false; }
     DOC_Interface* getParentDoc() const override { return nullptr; }
+    QString getPartitionName(PARTITIONNUMBER) const override { return {}; }
     QStringList getAlerts() const override { return {}; }
     QString formatShutterSpeed(int, int) const override { return {}; }
 

@@ -13,9 +13,11 @@
 #include "ZebPlayer.h"
 #include "ZebRecorder.h"
 #include "ZebSaver.h"
+#include "ZebSupportFile.h"
 #include "ZebUndo.h"
 #include "ZebViewOps.h"
 
+#include <QFutureWatcher>
 #include <QHash>
 #include <QPointer>
 #include <QSet>
@@ -124,6 +126,38 @@ public:
     }
     void errorHandler(const std::exception& e) override { box("errorHandler", QString::fromUtf8(e.what())); }
 
+    bool isPrefsRestored() const override { return answer("isPrefsRestored"); }
+    void setPrefsRestored(int state) override { note("setPrefsRestored", state); }
+    ZebPrefsDialog* getPrefsDialog() override { return prefsDialog; }
+    void openPrefsEthernetSettings() override { box("openPrefsEthernetSettings", {}); }
+    void openAboutDialog() override { box("openAboutDialog", {}); }
+    void execProgress(const QString& text, QFutureWatcherBase& watcher) override {
+        note("execProgress", text);
+        onProgress(watcher);
+    }
+    void prepareSupportFile(ZebSupportFile& file) override {
+        note("prepareSupportFile");
+        file.files[QStringLiteral("state.txt")] = QByteArrayLiteral("state");
+    }
+    bool exportSupportFile(const QString& path, const ZebSupportFile& file) override { return onExport(path, file); }
+    bool hasWrenWindow() const override { return answer("hasWrenWindow"); }
+    void hideSelectBox() override { note("hideSelectBox"); }
+    bool isShownDropBox() const override { return answer("isShownDropBox"); }
+    void showDropDownBox(const QString& key, const QRect& anchor) override {
+        note("showDropDownBox", QStringLiteral("%1 (%2,%3)-(%4,%5)")
+                                    .arg(key)
+                                    .arg(anchor.left())
+                                    .arg(anchor.top())
+                                    .arg(anchor.right())
+                                    .arg(anchor.bottom()));
+    }
+    void hideDropDownBox(const QString& key) override { note("hideDropDownBox", key); }
+    void hideDropDownBoxAt(const QString& key, const QPoint& point) override {
+        note("hideDropDownBoxAt", QStringLiteral("%1 (%2,%3)").arg(key).arg(point.x()).arg(point.y()));
+    }
+    QObject* getAppObject() override { return &appObject; }
+    QObject* getMainObject() override { return &mainObject; }
+
     QWidget* getMainWindow() const override { return mainWindow; }
     QWidget* getMdiWidget() const override { return mdiWidget; }
     void attachBridge(QWebView* view, ZebPageBridge* bridge) override;
@@ -134,6 +168,9 @@ public:
     void suspendViewer() override { note("suspendViewer"); }
     void resumeViewer() override { note("resumeViewer"); }
 
+    bool isUpdateIgnore() const override { return answer("isUpdateIgnore"); }
+    void refreshTools() override { note("refreshTools"); }
+    bool isReady() const override { return answer("isReady"); }
     bool isApplicationClosing() const override { return closing; }
     bool isWindowStateSaveSuppressed() const override { return false; }
     bool isOtherPluginOpen() const override { return answer("isOtherPluginOpen"); }
@@ -149,8 +186,11 @@ public:
     PLG_Interface* getCurrentPlugin() const override { return currentPlugin; }
     QString getCurrentPluginName() const override { return currentPlugin ? currentPlugin->getName() : QString(); }
     bool isPluginEnabledFor(const QString&, DOC_Interface*) const override { return false; }
+    void openPlugin(const QString& name) override { note("openPlugin", name); }
     void closePlugin(const QString& name) override { note("closePlugin", name); }
-    void closePanel() override {}
+    void clearCurrentPlugin() override { note("clearCurrentPlugin"); }
+    bool isMVersion() const override { return answer("isMVersion"); }
+    void closePanel() override { note("closePanel"); }
     void closeAuxiliaryPanel() override {}
     void setWrenRunning(bool running) override { wrenRunning = running; }
     bool isWrenRunning() const override { return wrenRunning; }
@@ -163,7 +203,25 @@ public:
     DOC_Interface* getDocAny(DOCKEY key) override { return docs.value(key); }
     DOC_Interface* getCurrentDoc() override { return currentDoc; }
     bool isCurrentDoc(DOCKEY) const override { return false; }
-    DocKeyList getDocKeys() const override { return connectedKeys; }
+    DOCKEY getCurrentDockey(int) const override { return currentDoc != nullptr ? currentDoc->getKey() : zeb::NoDocKey; }
+    void setCurrentDoc(DOCKEY key, int) override { note("setCurrentDoc", key); }
+    DocKeyList getDocKeys(int) const override { return connectedKeys; }
+    DocList getCameraDocs() override {
+        DocList all;
+        for (const DOCKEY key : connectedKeys) {
+            if (DOC_Interface* doc = docs.value(key)) all.append(doc);
+        }
+        return all;
+    }
+    DocKeyList getSelectedDocKeys(int) const override { return selectedKeys; }
+    void setSelectedDocs(const DocKeyList& keys, int) override {
+        QStringList texts;
+        for (const DOCKEY key : keys) texts.append(QString::number(key));
+        note("setSelectedDocs", texts.join(QLatin1Char(' ')));
+    }
+    void selectAllDocs(QObject*) override { note("selectAllDocs"); }
+    bool isWaveDataAcquisition() const override { return answer("isWaveDataAcquisition"); }
+    void refreshDocList(int kind) override { note("refreshDocList", kind); }
     DocKeyList getConnectedDocKeys(int) const override { return connectedKeys; }
     DocKeyList getLiveDocKeys(int, int) const override { return connectedKeys; }
     void selectDoc(DOCKEY) override {}
@@ -180,7 +238,7 @@ public:
     void setQuickTool(const QString& tool, bool on) override {
         note("setQuickTool", QString(tool % QLatin1Char(' ') % QVariant(on).toString()));
     }
-    void setActiveQuickTool(const QString&) override {}
+    void setActiveQuickTool(const QString& tool) override { note("setActiveQuickTool", tool); }
     void toolSelect(const QString&, bool) override {}
     void toolSelectAll(const QString&, bool, bool) override {}
     void toolBegin(int, const QString&) override {}
@@ -234,7 +292,13 @@ public:
     bool isBgSaving() const override { return answer("isBgSaving"); }
     bool isBgConverting() const override { return answer("isBgConverting"); }
 
+    void copyToClipboard(int what) override { note("copyToClipboard", what); }
+
     void setRecordRate(const DocList&, unsigned int) override {}
+    void setPartition(PARTITIONNUMBER number, int) override { note("setPartition", number); }
+    unsigned int getCurrentVariable() const override { return variable; }
+    void setVariable(unsigned int channel) override { note("setVariable", channel); }
+    void stopForPrefs() override { note("stopForPrefs"); }
     bool isLowlight() const override { return answer("isLowlight"); }
     bool existLowlight() const override { return answer("existLowlight"); }
     bool isAllLowlight(bool on) const override { return answer("isAllLowlight", on); }
@@ -256,6 +320,17 @@ public:
     void endMacro() override {}
     bool canUndo() const override { return answer("canUndo"); }
     bool canRedo() const override { return answer("canRedo"); }
+
+    DocKeyList selectedKeys;
+    unsigned int variable = 0;
+    ZebPrefsDialog* prefsDialog = nullptr;
+    QObject appObject;
+    QObject mainObject;
+    /// Runs in the place of a modal progress, and of the writing of a support file (on its thread).
+    std::function<void(QFutureWatcherBase&)> onProgress = [](QFutureWatcherBase&) {};
+    std::function<bool(const QString&, const ZebSupportFile&)> onExport = [](const QString&, const ZebSupportFile&) {
+        return true;
+    };
 
     /// Keys that count as connected; a key without a document is a camera that is gone.
     DocKeyList connectedKeys;

@@ -96,6 +96,28 @@ void Camera::eraseRecordedData() {
     set(&CameraState::recorded, false);
 }
 
+void Camera::setPartition(PARTITIONNUMBER partition) {
+    commandConnected("setPartition");
+    if (partition < 1 || partition > get(&CameraState::partitions)) {
+        throw CameraError(name(), QStringLiteral("there is no partition %1").arg(partition));
+    }
+    set(&CameraState::partition, partition);
+}
+
+void Camera::setVariable(unsigned int channel) {
+    commandConnected("setVariable");
+    if (get(&CameraState::variableChannels).value(int(channel) - 1).isEmpty()) {
+        throw CameraError(name(), QStringLiteral("there is no variable channel %1").arg(channel));
+    }
+    set(&CameraState::variable, channel);
+}
+
+void Camera::disarm() {
+    commandConnected("disarm");
+    set(&CameraState::recordState, 0);
+    set(&CameraState::status, int(zeb::CameraLive));
+}
+
 template <typename T>
 void Camera::onAllHeads(T CameraState::*member, T value) {
     for (const auto& head : m_device.heads()) {

@@ -48,6 +48,11 @@ public:
     /// The rate that the model makes of `rate`, on all heads of the device.
     void setRecordRate(unsigned int rate);
     void eraseRecordedData();
+    /// Throws also for a partition or channel that the camera does not have.
+    void setPartition(PARTITIONNUMBER partition);
+    void setVariable(unsigned int channel);
+    /// A camera that waits for a trigger goes back to live.
+    void disarm();
 
 private:
     void command(const char* operation);

@@ -35,6 +35,8 @@ struct CameraModel {
     /// Whether the heads of a device share shutter speed and resolution; rate and trigger mode they always share.
     bool sharesShutter = false;
     bool sharesResolution = false;
+    /// Bits of a pixel that the camera fills.
+    int bitDepth = 8;
     /// Size of the memory in MiB; a pixel takes one byte.
     int memory = 0;
     /// What a camera of this model starts with.

@@ -15,6 +15,9 @@ struct CameraState {
     Q_GADGET
     Q_PROPERTY(QString name MEMBER name)
     Q_PROPERTY(QString comment MEMBER comment)
+    Q_PROPERTY(QString alias MEMBER alias)
+    Q_PROPERTY(bool wifi MEMBER wifi)
+    Q_PROPERTY(bool slowLink MEMBER slowLink)
     Q_PROPERTY(bool connected MEMBER connected)
     Q_PROPERTY(bool selected MEMBER selected)
     Q_PROPERTY(bool mobile MEMBER mobile)
@@ -43,6 +46,12 @@ struct CameraState {
     Q_PROPERTY(QStringList blockedPlugins MEMBER blockedPlugins)
     Q_PROPERTY(bool suspendReduce MEMBER suspendReduce)
     Q_PROPERTY(bool stopLive MEMBER stopLive)
+    Q_PROPERTY(uint partitions MEMBER partitions)
+    Q_PROPERTY(uint partition MEMBER partition)
+    Q_PROPERTY(QStringList partitionNames MEMBER partitionNames)
+    Q_PROPERTY(uint variable MEMBER variable)
+    Q_PROPERTY(QStringList variableChannels MEMBER variableChannels)
+    Q_PROPERTY(bool playing MEMBER playing)
     Q_PROPERTY(bool recorded MEMBER recorded)
     Q_PROPERTY(uint recordedRate MEMBER recordedRate)
     Q_PROPERTY(QPoint recordedRange MEMBER recordedRange)
@@ -62,6 +71,10 @@ public:
     QString name;
     /// Lines are separated by `zeb::CommentSeparator`.
     QString comment;
+    /// The user's name for the device, and how it is reached: by radio, by a link slower than it should be.
+    QString alias;
+    bool wifi = false;
+    bool slowLink = false;
     bool connected = false;
     bool selected = false;
     bool mobile = false;
@@ -97,6 +110,15 @@ public:
     QStringList blockedPlugins;
     bool suspendReduce = false;
     bool stopLive = false;
+    /// Partitions of the memory, the one in use, from 1, and their names; one without a name goes by its number.
+    unsigned int partitions = 1;
+    unsigned int partition = 1;
+    QStringList partitionNames;
+    /// Channel of variable settings in use, from 1, 0 for none; texts of the channels, an empty one can't be chosen.
+    unsigned int variable = 0;
+    QStringList variableChannels;
+    /// What is recorded is being played.
+    bool playing = false;
     bool recorded = false;
     /// Of what is recorded: frames a second, first and last frame, frame of the trigger, first and last frame to keep.
     unsigned int recordedRate = 0;

@@ -54,7 +54,7 @@ CameraModel readModel(const JsonNode& node) {
                     QStringLiteral("shutters"), QStringLiteral("triggerModes"), QStringLiteral("ports"),
                     QStringLiteral("functions"), QStringLiteral("capabilities"), QStringLiteral("syncStatus"),
                     QStringLiteral("sharesShutter"), QStringLiteral("sharesResolution"), QStringLiteral("memory"),
-                    QStringLiteral("initial")});
+                    QStringLiteral("bitDepth"), QStringLiteral("initial")});
     CameraModel model;
     model.name = node.member(QStringLiteral("name")).text();
     model.type = node.member(QStringLiteral("type")).number(0, highest);
@@ -73,6 +73,9 @@ CameraModel readModel(const JsonNode& node) {
     model.hasSyncStatus = readFlag(node, QStringLiteral("syncStatus"));
     model.sharesShutter = readFlag(node, QStringLiteral("sharesShutter"));
     model.sharesResolution = readFlag(node, QStringLiteral("sharesResolution"));
+    if (node.has(QStringLiteral("bitDepth"))) {
+        model.bitDepth = node.member(QStringLiteral("bitDepth")).number(8, 16);
+    }
     model.memory = node.member(QStringLiteral("memory")).number(0, 1 << 24);
     model.initial = ModelCatalogue::readState(node.member(QStringLiteral("initial")), model);
     return model;

@@ -5,6 +5,7 @@ class Journal;
 class Preferences;
 class SimAppStatus;
 class SimDocManager;
+class Translator;
 
 /// What the topics of a document reach of the host.
 struct DocContext {
@@ -12,5 +13,6 @@ struct DocContext {
     ImageTools& tools;
     const Preferences& prefs;
     const SimAppStatus& appStatus;
+    const Translator& translator;
     SimDocManager& docs;
 };

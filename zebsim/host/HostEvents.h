@@ -15,6 +15,8 @@ Q_SIGNALS:
     void camerasReplaced();
     /// A zeb::OperatingMode.
     void modeChanged(int mode);
+    /// Something in the host wants a loaded plug-in to be opened.
+    void pluginWanted(const QString& name);
     void pluginShown(const QString& name);
     void pluginClosed(const QString& name);
     /// An update cycle has reached all plug-ins and bridges.

@@ -6,9 +6,16 @@
 
 PluginSlot::PluginSlot(SimHost& host, PLG_Interface& plugin) : m_host(host), m_plugin(plugin) {
     m_host.appStatus().registerPlugin(&m_plugin);
+    m_wanted =
+        QObject::connect(&m_host.events(), &HostEvents::pluginWanted, &m_host.events(), [this](const QString& name) {
+            if (name == m_plugin.getName()) {
+                open();
+            }
+        });
 }
 
 PluginSlot::~PluginSlot() {
+    QObject::disconnect(m_wanted);
     m_host.appStatus().unregisterPlugin(&m_plugin);
 }
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include <QPointer>
-
 #include "PLG_Interface.h"
+
+#include <QMetaObject>
 
 class SimHost;
 
@@ -30,4 +30,5 @@ public:
 private:
     SimHost& m_host;
     PLG_Interface& m_plugin;
+    QMetaObject::Connection m_wanted;
 };

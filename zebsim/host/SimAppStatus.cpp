@@ -4,9 +4,12 @@
 #include "camera/Camera.h"
 #include "host/CameraBank.h"
 #include "host/HostEvents.h"
+#include "host/ImagePlugins.h"
 #include "host/Journal.h"
 #include "host/StatusFlags.h"
 #include "host/UpdateCycle.h"
+
+#include <stdexcept>
 
 SimAppStatus::SimAppStatus(Journal& journal, HostEvents& events, UpdateCycle& updates, const CameraBank& cameras,
                            const StatusFlags& flags)
@@ -60,11 +63,37 @@ QString SimAppStatus::getCurrentPluginName() const {
     if (m_flags.isOn(QStringLiteral("IsImageOverlay"))) {
         return QStringLiteral("imageoverlay");
     }
-    return m_current ? m_current->getName() : QString();
+    return m_current ? m_current->getName() : m_panel;
+}
+
+void SimAppStatus::setCurrentPlugin(PLG_Interface* plugin) {
+    m_current = plugin;
+    m_panel.clear();
+}
+
+void SimAppStatus::openPlugin(const QString& name) {
+    m_journal.record("ZebAppStatus::openPlugin", {name});
+    if (getPlugin(name)) {
+        Q_EMIT m_events.pluginWanted(name);
+    } else if (imageplugins::has(name)) {
+        setCurrentPlugin(nullptr);
+        m_panel = name;
+        m_updates.request();
+    } else {
+        throw std::invalid_argument(QStringLiteral("There is no plug-in \"%1\".").arg(name).toStdString());
+    }
+}
+
+void SimAppStatus::clearCurrentPlugin() {
+    m_journal.record("ZebAppStatus::clearCurrentPlugin");
+    setCurrentPlugin(nullptr);
 }
 
 void SimAppStatus::closePlugin(const QString& name) {
     m_journal.record("ZebAppStatus::closePlugin", {name});
+    if (m_panel == name) {
+        m_panel.clear();
+    }
     PLG_Interface* plugin = getPlugin(name);
     if (!plugin) {
         return;
@@ -77,7 +106,7 @@ void SimAppStatus::closePlugin(const QString& name) {
 
 void SimAppStatus::closePanel() {
     m_journal.record("ZebAppStatus::closePanel");
-    m_current = nullptr;
+    setCurrentPlugin(nullptr);
 }
 
 void SimAppStatus::closeAuxiliaryPanel() {
@@ -105,6 +134,10 @@ void SimAppStatus::enterLiveMode() {
 void SimAppStatus::enterMemoryMode() {
     m_journal.record("ZebAppStatus::enterMemoryMode");
     enterMode(zeb::MemoryMode);
+}
+
+bool SimAppStatus::isMVersion() const {
+    return m_flags.isOn(QStringLiteral("IsMVersion"));
 }
 
 bool SimAppStatus::isAutoExposureSetting() const {

@@ -23,7 +23,7 @@ public:
     void unregisterPlugin(PLG_Interface* plugin);
     QList<PLG_Interface*> plugins() const;
     /// Null for none.
-    void setCurrentPlugin(PLG_Interface* plugin) { m_current = plugin; }
+    void setCurrentPlugin(PLG_Interface* plugin);
 
     /// A `zeb::OperatingMode`.
     int mode() const { return m_mode; }
@@ -34,7 +34,9 @@ public:
     PLG_Interface* getCurrentPlugin() const override { return m_current; }
     QString getCurrentPluginName() const override;
     bool isPluginEnabledFor(const QString& name, DOC_Interface* doc) const override;
+    void openPlugin(const QString& name) override;
     void closePlugin(const QString& name) override;
+    void clearCurrentPlugin() override;
     void closePanel() override;
     void closeAuxiliaryPanel() override;
     void setWrenRunning(bool running) override;
@@ -43,6 +45,7 @@ public:
     void notifyPluginClosed(PLG_Interface* plugin) override;
     void enterLiveMode() override;
     void enterMemoryMode() override;
+    bool isMVersion() const override;
     bool isAutoExposureSetting() const override;
     bool isHwTriggerSetting() const override;
     bool isVariableSetting() const override;
@@ -60,6 +63,8 @@ private:
     const StatusFlags& m_flags;
     QList<QPointer<PLG_Interface>> m_plugins;
     QPointer<PLG_Interface> m_current;
+    /// The image plug-in whose panel is open; empty for none.
+    QString m_panel;
     bool m_wrenRunning = false;
     int m_mode = 0;
 };

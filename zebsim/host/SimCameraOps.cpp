@@ -1,6 +1,7 @@
 #include "host/SimCameraOps.h"
 
 #include "DOC_Interface.h"
+#include "ZebDocManager.h"
 #include "camera/Camera.h"
 #include "host/CameraBank.h"
 #include "host/Failures.h"
@@ -9,13 +10,40 @@
 
 #include <algorithm>
 
-SimCameraOps::SimCameraOps(Journal& journal, CameraBank& cameras, const StatusFlags& flags)
-    : m_journal(journal), m_cameras(cameras), m_flags(flags) {}
+SimCameraOps::SimCameraOps(Journal& journal, CameraBank& cameras, const ZebDocManager& docs, const StatusFlags& flags)
+    : m_journal(journal), m_cameras(cameras), m_docs(docs), m_flags(flags) {}
 
 void SimCameraOps::setRecordRate(const DocList& docs, unsigned int rate) {
     const DocKeyList keys = keysOf(docs);
     m_journal.record("ZebCameraOps::setRecordRate", {Journal::keyList(keys), rate});
     forEach(keys, [rate](Camera& camera) { camera.setRecordRate(rate); });
+}
+
+void SimCameraOps::setPartition(PARTITIONNUMBER number, int mode) {
+    m_journal.record("ZebCameraOps::setPartition", {number, mode});
+    forEach(m_docs.getSelectedDocKeys(0), [number](Camera& camera) { camera.setPartition(number); });
+}
+
+unsigned int SimCameraOps::getCurrentVariable() const {
+    const Camera* camera = m_cameras.find(m_docs.getCurrentDockey(0));
+    return camera ? camera->get(&CameraState::variable) : 0;
+}
+
+void SimCameraOps::setVariable(unsigned int channel) {
+    m_journal.record("ZebCameraOps::setVariable", {channel});
+    forEach(m_docs.getSelectedDocKeys(0), [channel](Camera& camera) { camera.setVariable(channel); });
+}
+
+void SimCameraOps::stopForPrefs() {
+    m_journal.record("ZebCameraOps::stopForPrefs");
+    DocKeyList armed;
+    for (const Camera* camera : connectedCameras()) {
+        const int state = camera->get(&CameraState::recordState);
+        if (state == zeb::RecordCtsReady || state == zeb::RecordReady) {
+            armed.append(camera->key());
+        }
+    }
+    forEach(armed, [](Camera& camera) { camera.disarm(); });
 }
 
 bool SimCameraOps::isLowlight() const {

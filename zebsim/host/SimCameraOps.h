@@ -9,13 +9,18 @@ class Camera;
 class CameraBank;
 class Journal;
 class StatusFlags;
+class ZebDocManager;
 
 /// Operations on many cameras: each one is tried, and the failures come as one exception.
 class SimCameraOps : public ZebCameraOps {
 public:
-    SimCameraOps(Journal& journal, CameraBank& cameras, const StatusFlags& flags);
+    SimCameraOps(Journal& journal, CameraBank& cameras, const ZebDocManager& docs, const StatusFlags& flags);
 
     void setRecordRate(const DocList& docs, unsigned int rate) override;
+    void setPartition(PARTITIONNUMBER number, int mode) override;
+    unsigned int getCurrentVariable() const override;
+    void setVariable(unsigned int channel) override;
+    void stopForPrefs() override;
     bool isLowlight() const override;
     bool existLowlight() const override;
     bool isAllLowlight(bool on) const override;
@@ -30,5 +35,6 @@ private:
 
     Journal& m_journal;
     CameraBank& m_cameras;
+    const ZebDocManager& m_docs;
     const StatusFlags& m_flags;
 };

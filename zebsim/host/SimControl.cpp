@@ -5,6 +5,8 @@
 #include "host/Journal.h"
 #include "host/ShutterText.h"
 
+#include <algorithm>
+
 QString SimControl::getCameraName(int /*mode*/) const {
     m_camera.query("getCameraName");
     return m_camera.name();
@@ -13,6 +15,39 @@ QString SimControl::getCameraName(int /*mode*/) const {
 QString SimControl::getAddress(int /*mode*/) const {
     m_camera.query("getAddress");
     return m_camera.device().address();
+}
+
+QString SimControl::getDeviceAlias(int /*mode*/) const {
+    m_camera.query("getDeviceAlias");
+    return m_camera.get(&CameraState::alias);
+}
+
+QString SimControl::getDeviceName(int /*mode*/) const {
+    m_camera.query("getDeviceName");
+    return m_camera.model().name;
+}
+
+int SimControl::getHeadNumber() const {
+    m_camera.query("getHeadNumber");
+    const auto& heads = m_camera.device().heads();
+    const auto self =
+        std::find_if(heads.begin(), heads.end(), [this](const auto& head) { return head.get() == &m_camera; });
+    return int(self - heads.begin()) + 1;
+}
+
+bool SimControl::isDummy() const {
+    m_camera.query("isDummy");
+    return m_camera.model().dummy;
+}
+
+int SimControl::getWifiState() const {
+    m_camera.query("getWifiState");
+    return m_camera.get(&CameraState::wifi) ? 1 : 0;
+}
+
+int SimControl::getLinkSpeedState() const {
+    m_camera.query("getLinkSpeedState");
+    return m_camera.get(&CameraState::slowLink) ? 1 : 0;
 }
 
 int SimControl::getCameraType() const {
@@ -26,7 +61,7 @@ int SimControl::getCameraStatus() const {
 }
 
 bool SimControl::isFunctionSupported(int function, int /*mode*/) const {
-    m_camera.queryConnected("isFunctionSupported");
+    m_camera.query("isFunctionSupported");
     return m_camera.model().functions.contains(function);
 }
 
@@ -144,6 +179,32 @@ bool SimControl::isLowLightMode() const {
 int SimControl::getLowLightType() const {
     m_camera.queryConnected("getLowLightType");
     return m_camera.get(&CameraState::lowLightType);
+}
+
+PARTITIONNUMBER SimControl::getPartitionCount(int /*mode*/, int /*head*/) const {
+    m_camera.queryConnected("getPartitionCount");
+    return m_camera.get(&CameraState::partitions);
+}
+
+PARTITIONNUMBER SimControl::getCurrentPartition(int /*mode*/) const {
+    m_camera.queryConnected("getCurrentPartition");
+    return m_camera.get(&CameraState::partition);
+}
+
+void SimControl::applyPartition(int mode) {
+    m_context.journal.record("DOC_Control::applyPartition", {m_camera.key(), mode});
+    m_camera.queryConnected("applyPartition");
+}
+
+zeb::VariableChannelInfo SimControl::getVariableChannelInfo(int channel) const {
+    m_camera.queryConnected("getVariableChannelInfo");
+    const QString text = m_camera.get(&CameraState::variableChannels).value(channel - 1);
+    return {text, !text.isEmpty()};
+}
+
+unsigned int SimControl::getRecordedRateOfPartition(PARTITIONNUMBER partition) const {
+    m_camera.queryConnected("getRecordedRateOfPartition");
+    return partition == m_camera.get(&CameraState::partition) ? getRecordedRate() : 0;
 }
 
 unsigned int SimControl::getRecordedRate() const {

@@ -5,13 +5,20 @@
 class Camera;
 struct DocContext;
 
-/// Settings and state of a camera. Name, address and `isMultiHead` are known of a camera that is not connected, too.
+/// Settings and state of a camera. What its list of devices
+/// knows of a camera, as name and address, is known of one that is not connected, too.
 class SimControl : public DOC_Control {
 public:
     SimControl(Camera& camera, const DocContext& context) : m_camera(camera), m_context(context) {}
 
     QString getCameraName(int mode) const override;
     QString getAddress(int mode) const override;
+    QString getDeviceAlias(int mode) const override;
+    QString getDeviceName(int mode) const override;
+    int getHeadNumber() const override;
+    bool isDummy() const override;
+    int getWifiState() const override;
+    int getLinkSpeedState() const override;
     int getCameraType() const override;
     int getCameraStatus() const override;
     bool isFunctionSupported(int function, int mode) const override;
@@ -36,6 +43,12 @@ public:
     bool getReduceMode(int head) const override;
     bool isLowLightMode() const override;
     int getLowLightType() const override;
+    PARTITIONNUMBER getPartitionCount(int mode, int head) const override;
+    PARTITIONNUMBER getCurrentPartition(int mode) const override;
+    void applyPartition(int mode) override;
+    zeb::VariableChannelInfo getVariableChannelInfo(int channel) const override;
+    /// Only the partition in use is recorded.
+    unsigned int getRecordedRateOfPartition(PARTITIONNUMBER partition) const override;
     unsigned int getRecordedRate() const override;
     bool isTriggerOffsetEnabled() const override;
     int getTriggerOffset() const override;

@@ -7,16 +7,19 @@
 #include "host/Journal.h"
 #include "host/SimDocument.h"
 #include "host/StatusFlags.h"
+#include "host/UpdateCycle.h"
 
 #include <algorithm>
 
 SimDocManager::SimDocManager(ZebHost& host, Journal& journal, CameraBank& cameras, const Preferences& prefs,
-                             const SimAppStatus& appStatus, const StatusFlags& flags)
-    : m_host(host),
-      m_journal(journal),
-      m_cameras(cameras),
-      m_flags(flags),
-      m_context{journal, m_tools, prefs, appStatus, *this} {}
+                             const SimAppStatus& appStatus, const StatusFlags& flags, const Translator& translator,
+                             UpdateCycle& updates)
+    : m_host(host), m_journal(journal), m_cameras(cameras), m_flags(flags), m_updates(updates), m_context{journal,
+                                                                                                          m_tools,
+                                                                                                          prefs,
+                                                                                                          appStatus,
+                                                                                                          translator,
+                                                                                                          *this} {}
 
 SimDocManager::~SimDocManager() = default;
 
@@ -65,7 +68,19 @@ DOCKEY SimDocManager::currentKey() const {
     return m_current;
 }
 
-DocKeyList SimDocManager::getDocKeys() const {
+DOCKEY SimDocManager::getCurrentDockey(int /*mode*/) const {
+    return currentKey();
+}
+
+void SimDocManager::setCurrentDoc(DOCKEY key, int mode) {
+    m_journal.record("ZebDocManager::setCurrentDoc", {key, mode});
+    const Camera* camera = m_cameras.find(key);
+    if (camera && camera->get(&CameraState::selected)) {
+        m_current = key;
+    }
+}
+
+DocKeyList SimDocManager::getDocKeys(int /*mode*/) const {
     DocKeyList keys;
     for (const Camera* camera : m_cameras.all()) {
         keys.append(camera->key());
@@ -73,18 +88,34 @@ DocKeyList SimDocManager::getDocKeys() const {
     return keys;
 }
 
-DocKeyList SimDocManager::getConnectedDocKeys(int /*mode*/) const {
+DocKeyList SimDocManager::keysOf(bool CameraState::*member) const {
     DocKeyList keys;
     for (const Camera* camera : m_cameras.all()) {
-        if (camera->get(&CameraState::connected)) {
+        if (camera->get(member)) {
             keys.append(camera->key());
         }
     }
     return keys;
 }
 
+DocKeyList SimDocManager::getConnectedDocKeys(int /*mode*/) const {
+    return keysOf(&CameraState::connected);
+}
+
+DocKeyList SimDocManager::getSelectedDocKeys(int /*mode*/) const {
+    return keysOf(&CameraState::selected);
+}
+
 DocKeyList SimDocManager::getLiveDocKeys(int /*mode*/, int /*order*/) const {
     return getDocKeys();
+}
+
+DocList SimDocManager::getCameraDocs() {
+    DocList docs;
+    for (const DOCKEY key : getDocKeys()) {
+        docs.append(getDocAny(key));
+    }
+    return docs;
 }
 
 int SimDocManager::getDocCount() const {
@@ -92,9 +123,11 @@ int SimDocManager::getDocCount() const {
 }
 
 int SimDocManager::getSelectedDocCount() const {
-    const auto cameras = m_cameras.all();
-    return int(std::count_if(cameras.begin(), cameras.end(),
-                             [](const Camera* camera) { return camera->get(&CameraState::selected); }));
+    return getSelectedDocKeys(0).size();
+}
+
+bool SimDocManager::isWaveDataAcquisition() const {
+    return m_flags.isOn(QStringLiteral("IsWaveDataAcquisition"));
 }
 
 bool SimDocManager::isConflictPartition(int /*mode*/) const {
@@ -118,6 +151,20 @@ void SimDocManager::deselectDoc(DOCKEY key) {
     m_journal.record("ZebDocManager::deselectDoc", {key});
     if (Camera* camera = m_cameras.find(key)) {
         camera->set(&CameraState::selected, false);
+    }
+}
+
+void SimDocManager::setSelectedDocs(const DocKeyList& keys, int mode) {
+    m_journal.record("ZebDocManager::setSelectedDocs", {Journal::keyList(keys), mode});
+    for (Camera* camera : m_cameras.all()) {
+        camera->set(&CameraState::selected, keys.contains(camera->key()));
+    }
+}
+
+void SimDocManager::selectAllDocs(QObject* /*sender*/) {
+    m_journal.record("ZebDocManager::selectAllDocs");
+    for (Camera* camera : m_cameras.all()) {
+        camera->set(&CameraState::selected, true);
     }
 }
 
@@ -187,6 +234,11 @@ void SimDocManager::endDocEdit() {
 
 void SimDocManager::commitDocEdit() {
     m_journal.record("ZebDocManager::commitDocEdit");
+}
+
+void SimDocManager::refreshDocList(int mode) {
+    m_journal.record("ZebDocManager::refreshDocList", {mode});
+    m_updates.request();
 }
 
 void SimDocManager::setQuickTool(const QString& tool, bool on) {

@@ -11,14 +11,18 @@
 class Camera;
 class CameraBank;
 class SimDocument;
+struct CameraState;
 class StatusFlags;
+class Translator;
+class UpdateCycle;
 class ZebHost;
 
 /// Documents by key, the selection, connections, image tools.
 class SimDocManager : public ZebDocManager {
 public:
     SimDocManager(ZebHost& host, Journal& journal, CameraBank& cameras, const Preferences& prefs,
-                  const SimAppStatus& appStatus, const StatusFlags& flags);
+                  const SimAppStatus& appStatus, const StatusFlags& flags, const Translator& translator,
+                  UpdateCycle& updates);
     ~SimDocManager() override;
 
     /// What `editDoc` opens; nothing at first. It is called for a camera that is there and runs until it is closed.
@@ -33,19 +37,27 @@ public:
     /// The first that was selected and still is.
     DOC_Interface* getCurrentDoc() override;
     bool isCurrentDoc(DOCKEY key) const override;
-    DocKeyList getDocKeys() const override;
+    DOCKEY getCurrentDockey(int mode) const override;
+    /// Of a selected camera only.
+    void setCurrentDoc(DOCKEY key, int mode) override;
+    DocKeyList getDocKeys(int mode = 0) const override;
     DocKeyList getConnectedDocKeys(int mode = 0) const override;
     DocKeyList getLiveDocKeys(int mode, int order) const override;
+    DocList getCameraDocs() override;
     int getDocCount() const override;
     int getSelectedDocCount() const override;
     void selectDoc(DOCKEY key) override;
     void deselectDoc(DOCKEY key) override;
+    DocKeyList getSelectedDocKeys(int mode) const override;
+    void setSelectedDocs(const DocKeyList& keys, int mode) override;
+    void selectAllDocs(QObject* sender) override;
     void connectDocs(const DocKeyList& keys) override;
     void disconnectDocs(const DocKeyList& keys) override;
     void editDoc(DOCKEY key) override;
     bool sharesDeviceWithLockedHead(DOC_Interface* doc, bool shutter, bool resolution) override;
     /// There is none: cameras bring images only.
     bool hasWaveformData() const override { return false; }
+    bool isWaveDataAcquisition() const override;
     bool isConflictPartition(int mode) const override;
     bool isPhaseAdjusting() const override;
     QMutex* getDocMutex() override { return &m_mutex; }
@@ -53,6 +65,7 @@ public:
     void beginDocEditNotify() override;
     void endDocEdit() override;
     void commitDocEdit() override;
+    void refreshDocList(int mode) override;
     void setQuickTool(const QString& tool, bool on) override;
     void setActiveQuickTool(const QString& tool) override;
     void toolSelect(const QString& tool, bool on) override;
@@ -63,12 +76,14 @@ public:
 
 private:
     DOCKEY currentKey() const;
+    DocKeyList keysOf(bool CameraState::*member) const;
     void forEachKey(const DocKeyList& keys, const std::function<void(Camera&)>& work);
 
     ZebHost& m_host;
     Journal& m_journal;
     CameraBank& m_cameras;
     const StatusFlags& m_flags;
+    UpdateCycle& m_updates;
     QMutex m_mutex;
     ImageTools m_tools;
     const DocContext m_context;

@@ -3,6 +3,7 @@
 #include "camera/Camera.h"
 #include "host/ShutterText.h"
 #include "host/SimDocManager.h"
+#include "host/Translator.h"
 
 SimDocument::SimDocument(Camera& camera, const DocContext& context)
     : m_camera(camera),
@@ -46,6 +47,12 @@ bool SimDocument::isCFastSelected() const {
 DOC_Interface* SimDocument::getParentDoc() const {
     const DOCKEY master = m_camera.device().heads().front()->key();
     return master == getKey() ? nullptr : m_context.docs.getDocAny(master);
+}
+
+QString SimDocument::getPartitionName(PARTITIONNUMBER partition) const {
+    m_camera.queryConnected("getPartitionName");
+    const QString name = m_camera.get(&CameraState::partitionNames).value(int(partition) - 1);
+    return name.isEmpty() ? m_context.translator.translate(QStringLiteral("Partition %1")).arg(partition) : name;
 }
 
 QStringList SimDocument::getAlerts() const {

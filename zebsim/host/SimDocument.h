@@ -31,6 +31,8 @@ public:
     bool isCFastSelected() const override;
     /// The document of the master head; null for the master and for a camera of one head.
     DOC_Interface* getParentDoc() const override;
+    /// "Partition 2", in the user's language, for one without a name.
+    QString getPartitionName(PARTITIONNUMBER partition) const override;
     QStringList getAlerts() const override;
     QString formatShutterSpeed(int value, int head) const override;
 

@@ -35,6 +35,11 @@ int SimFrames::getSelectEndFrame(int /*head*/) const {
     return ask("getSelectEndFrame").selectedLast;
 }
 
+bool SimFrames::isPlaying() const {
+    m_camera.query("isPlaying");
+    return m_camera.get(&CameraState::playing);
+}
+
 bool SimFrames::isRecordCheck() const {
     m_camera.query("isRecordCheck");
     return m_camera.get(&CameraState::recordCheck);

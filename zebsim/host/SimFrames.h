@@ -17,6 +17,7 @@ public:
     int getTriggerFrame(int head) const override;
     int getSelectStartFrame(int head) const override;
     int getSelectEndFrame(int head) const override;
+    bool isPlaying() const override;
     bool isRecordCheck() const override;
     void setRecordCheck(bool check) override;
 

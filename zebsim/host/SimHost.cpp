@@ -4,11 +4,15 @@
 #include "ZebPageBridge.h"
 #include "camera/Camera.h"
 #include "camera/Rig.h"
+#include "host/AppDesk.h"
 #include "host/ImagePlugins.h"
 #include "host/MessageDesk.h"
+#include "host/SupportFile.h"
 
 #include <QApplication>
 #include <QDialog>
+#include <QEventLoop>
+#include <QFutureWatcher>
 #include <QWebView>
 #include <QtDebug>
 
@@ -18,13 +22,15 @@ SimHost::SimHost(Clock& clock, MessageDesk& desk, const QString& prefsPath)
       m_prefs(prefsPath),
       m_cameras(clock, m_faults, m_shownErrors),
       m_updates([this] { runUpdateCycle(); }),
+      m_appObject(m_prefs, m_translator),
+      m_prefsRestored(!m_prefs.problem().isEmpty()),
       m_appStatus(m_journal, m_events, m_updates, m_cameras, m_flags),
-      m_docManager(*this, m_journal, m_cameras, m_prefs, m_appStatus, m_flags),
+      m_docManager(*this, m_journal, m_cameras, m_prefs, m_appStatus, m_flags, m_translator, m_updates),
       m_liveLoop(m_journal),
       m_player(m_journal),
       m_recorder(m_cameras, m_flags),
-      m_cameraOps(m_journal, m_cameras, m_flags),
-      m_saver(m_flags),
+      m_cameraOps(m_journal, m_cameras, m_docManager, m_flags),
+      m_saver(m_journal, m_flags, [this] { return m_appDesk ? m_appDesk->currentImage() : QImage(); }),
       m_viewOps(m_cameras, m_flags),
       m_mdi(m_cameras, m_flags),
       m_undo(m_journal) {
@@ -182,7 +188,100 @@ void SimHost::setTextBoxFocusState(bool focused) {
     m_flags.set(QStringLiteral("IsModalessDialogTextFocussing"), focused);
 }
 
+void SimHost::setPrefsRestored(int state) {
+    m_journal.record("ZebHost::setPrefsRestored", {state});
+    m_prefsRestored = state == 0;
+}
+
+bool SimHost::isUpdateIgnore() const {
+    return m_flags.isOn(QStringLiteral("IsUpdateIgnore"));
+}
+
+void SimHost::refreshTools() {
+    m_journal.record("ZebHost::refreshTools");
+    m_updates.request();
+}
+
+ZebPrefsDialog* SimHost::getPrefsDialog() {
+    return m_appDesk ? m_appDesk->prefsDialog() : nullptr;
+}
+
+void SimHost::openPrefsEthernetSettings() {
+    m_journal.record("ZebHost::openPrefsEthernetSettings");
+    if (m_appDesk) {
+        m_appDesk->openEthernetSettings();
+    }
+}
+
+void SimHost::openAboutDialog() {
+    m_journal.record("ZebHost::openAboutDialog");
+    if (m_appDesk) {
+        m_appDesk->openAbout();
+    }
+}
+
+void SimHost::execProgress(const QString& text, QFutureWatcherBase& watcher) {
+    m_journal.record("ZebHost::execProgress", {text});
+    if (m_appDesk) {
+        m_appDesk->runProgress(text, watcher);
+        return;
+    }
+    QEventLoop loop;
+    QObject::connect(&watcher, &QFutureWatcherBase::finished, &loop, &QEventLoop::quit);
+    if (!watcher.isFinished()) {
+        loop.exec();
+    }
+}
+
+void SimHost::prepareSupportFile(ZebSupportFile& file) {
+    addHostState(file, *this);
+    if (m_appDesk) {
+        m_appDesk->addToSupportFile(file);
+    }
+}
+
+bool SimHost::exportSupportFile(const QString& path, const ZebSupportFile& file) {
+    return writeSupportFile(path, file);
+}
+
+bool SimHost::hasWrenWindow() const {
+    PLG_Interface* wren = m_appStatus.getPlugin(QStringLiteral("wren"));
+    const QDialog* dialog = wren ? wren->getDialog(false) : nullptr;
+    return dialog && dialog->isVisible();
+}
+
+void SimHost::hideSelectBox() {
+    m_journal.record("ZebHost::hideSelectBox");
+    hideDropDownBox({});
+}
+
+bool SimHost::isShownDropBox() const {
+    return m_appDesk && m_appDesk->isDropDownBoxShown();
+}
+
+void SimHost::showDropDownBox(const QString& key, const QRect& anchor) {
+    m_journal.record("ZebHost::showDropDownBox", {key});
+    if (m_appDesk) {
+        m_appDesk->showDropDownBox(key, anchor);
+    }
+}
+
+void SimHost::hideDropDownBox(const QString& key) {
+    if (m_appDesk) {
+        m_appDesk->hideDropDownBox(key);
+    }
+}
+
+void SimHost::hideDropDownBoxAt(const QString& key, const QPoint& point) {
+    if (m_appDesk && !m_appDesk->dropDownBoxRect(key).contains(point)) {
+        m_appDesk->hideDropDownBox(key);
+    }
+}
+
 void SimHost::runUpdateCycle() {
+    if (isUpdateIgnore()) {
+        return;
+    }
     for (const QPointer<PLG_Interface> plugin : m_appStatus.plugins()) {
         if (plugin) {
             guarded([&] { plugin->updateDialog(getOperatingMode()); });

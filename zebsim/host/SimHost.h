@@ -3,6 +3,7 @@
 #include "ZebHost.h"
 #include "camera/FaultPlan.h"
 #include "camera/ShownErrors.h"
+#include "host/AppObject.h"
 #include "host/BridgeDesk.h"
 #include "host/CameraBank.h"
 #include "host/HostEvents.h"
@@ -25,6 +26,7 @@
 #include <QPointer>
 #include <QWidget>
 
+class AppDesk;
 class Clock;
 class MessageDesk;
 struct Message;
@@ -42,6 +44,8 @@ public:
     /// The windows; null at first, not owned.
     void setMainWindow(QWidget* window) { m_mainWindow = window; }
     void setMdiWidget(QWidget* widget) { m_mdiWidget = widget; }
+    /// The windows that the host opens by itself; null at first, not owned.
+    void setAppDesk(AppDesk* desk) { m_appDesk = desk; }
     /// Speaks another language, as "ja"; false when there is no catalogue for it. English at first.
     bool setLanguage(const QString& language) { return m_translator.load(language); }
     /// Replaces all cameras. Keys count from 1 again; documents of the old ones are dead.
@@ -51,7 +55,10 @@ public:
     Journal& journal() { return m_journal; }
     FaultPlan& faults() { return m_faults; }
     CameraBank& cameras() { return m_cameras; }
+    const CameraBank& cameras() const { return m_cameras; }
+    const Journal& journal() const { return m_journal; }
     Preferences& prefs() { return m_prefs; }
+    const Preferences& prefs() const { return m_prefs; }
     StatusFlags& flags() { return m_flags; }
     HostEvents& events() { return m_events; }
     UpdateCycle& updates() { return m_updates; }
@@ -83,6 +90,9 @@ public:
     void setPrefFloat(const QString& key, float value) override;
     void setPrefString(const QString& key, const QString& value) override;
 
+    bool isPrefsRestored() const override { return m_prefsRestored; }
+    void setPrefsRestored(int state) override;
+
     QString translate(const QString& text) const override;
 
     void info(const QString& message, QWidget* parent) override;
@@ -96,12 +106,30 @@ public:
                                   const ButtonTexts& buttons) override;
     void errorHandler(const std::exception& e) override;
 
+    ZebPrefsDialog* getPrefsDialog() override;
+    void openPrefsEthernetSettings() override;
+    void openAboutDialog() override;
+    /// Without an application's windows it only waits.
+    void execProgress(const QString& text, QFutureWatcherBase& watcher) override;
+    void prepareSupportFile(ZebSupportFile& file) override;
+    bool exportSupportFile(const QString& path, const ZebSupportFile& file) override;
+    bool hasWrenWindow() const override;
+    void hideSelectBox() override;
+    bool isShownDropBox() const override;
+    void showDropDownBox(const QString& key, const QRect& anchor) override;
+    void hideDropDownBox(const QString& key) override;
+    void hideDropDownBoxAt(const QString& key, const QPoint& point) override;
+    QObject* getAppObject() override { return &m_appObject; }
+    QObject* getMainObject() override { return &m_mainObject; }
+
     QWidget* getMainWindow() const override { return m_mainWindow; }
     QWidget* getMdiWidget() const override { return m_mdiWidget; }
     void attachBridge(QWebView* view, ZebPageBridge* bridge) override;
 
     void updateUI(unsigned int mask, bool refresh) override;
     void deterUpdateUI(bool deter) override;
+    bool isUpdateIgnore() const override;
+    void refreshTools() override;
 
     /// Shows as the state "IsModalessDialogTextFocussing".
     void setTextBoxFocusState(bool focused) override;
@@ -110,6 +138,7 @@ public:
     void suspendViewer() override;
     void resumeViewer() override;
 
+    bool isReady() const override { return !isApplicationClosing(); }
     bool isApplicationClosing() const override;
     bool isWindowStateSaveSuppressed() const override;
     bool isOtherPluginOpen() const override;
@@ -151,9 +180,14 @@ private:
     UpdateCycle m_updates;
     BridgeDesk m_bridges;
     Translator m_translator;
+    AppObject m_appObject;
+    /// The main window as pages see it: they can name it, no more.
+    QObject m_mainObject;
+    AppDesk* m_appDesk = nullptr;
     QPointer<QWidget> m_mainWindow;
     QPointer<QWidget> m_mdiWidget;
     int m_viewerSuspended = 0;
+    bool m_prefsRestored;
 
     SimAppStatus m_appStatus;
     SimDocManager m_docManager;

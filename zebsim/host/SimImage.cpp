@@ -10,6 +10,15 @@ QString SimImage::getComment() const {
     return m_camera.get(&CameraState::comment);
 }
 
+std::optional<zeb::ImageFormat> SimImage::getImageFormat(int /*kind*/, int /*head*/) const {
+    m_camera.query("getImageFormat");
+    if (!m_camera.get(&CameraState::connected)) {
+        return std::nullopt;
+    }
+    const int bits = m_camera.model().bitDepth;
+    return zeb::ImageFormat{bits > 8 ? 16 : 8, bits};
+}
+
 QSize SimImage::getImageSize() const {
     m_camera.query("getImageSize");
     return m_camera.get(&CameraState::resolution);

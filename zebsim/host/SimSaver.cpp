@@ -1,6 +1,15 @@
 #include "host/SimSaver.h"
 
+#include "host/Journal.h"
 #include "host/StatusFlags.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
+
+#include <utility>
+
+SimSaver::SimSaver(Journal& journal, const StatusFlags& flags, std::function<QImage()> currentImage)
+    : m_journal(journal), m_flags(flags), m_currentImage(std::move(currentImage)) {}
 
 bool SimSaver::isSaving() const {
     return m_flags.isOn(QStringLiteral("IsSaving"));
@@ -12,4 +21,12 @@ bool SimSaver::isBgSaving() const {
 
 bool SimSaver::isBgConverting() const {
     return m_flags.isOn(QStringLiteral("IsBgConverting"));
+}
+
+void SimSaver::copyToClipboard(int what) {
+    m_journal.record("ZebSaver::copyToClipboard", {what});
+    const QImage image = m_currentImage();
+    if (!image.isNull()) {
+        QGuiApplication::clipboard()->setImage(image);
+    }
 }

@@ -31,6 +31,7 @@ StatusFlags::StatusFlags() {
                              "IsLowlight",
                              "IsModalDialogOpening",
                              "IsModalessDialogTextFocussing",
+                             "IsMVersion",
                              "IsNoneDocument",
                              "IsNoneWindow",
                              "IsNotLiveAndDeviceSettingPage",
@@ -47,7 +48,9 @@ StatusFlags::StatusFlags() {
                              "IsShading",
                              "IsTracking",
                              "IsTriggerTesting",
+                             "IsUpdateIgnore",
                              "IsVariableSetting",
+                             "IsWaveDataAcquisition",
                              "IsWindowStateSaveSuppressed"}) {
         m_flags.insert(QString::fromLatin1(name), false);
     }

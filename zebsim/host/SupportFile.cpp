@@ -1,0 +1,128 @@
+#include "host/SupportFile.h"
+
+#include "camera/Camera.h"
+#include "host/SimHost.h"
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QGuiApplication>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QScreen>
+#include <QSysInfo>
+#include <QThread>
+
+#include <zip.h>
+
+#include <memory>
+#include <stdexcept>
+
+namespace {
+
+struct Discard {
+    void operator()(zip_t* archive) const { zip_discard(archive); }
+};
+using Archive = std::unique_ptr<zip_t, Discard>;
+
+[[noreturn]] void fail(zip_error_t* error) {
+    const std::string text = zip_error_strerror(error);
+    zip_error_fini(error);
+    throw std::runtime_error(text);
+}
+
+Archive openArchive(const QString& path) {
+    int code = 0;
+    Archive archive(zip_open(QFile::encodeName(path).constData(), ZIP_CREATE | ZIP_TRUNCATE, &code));
+    if (!archive) {
+        zip_error_t error;
+        zip_error_init_with_code(&error, code);
+        fail(&error);
+    }
+    return archive;
+}
+
+/// `content` must stay as it is until the archive has been closed.
+void add(zip_t* archive, const QString& name, const QByteArray& content) {
+    zip_source_t* source = zip_source_buffer(archive, content.constData(), static_cast<zip_uint64_t>(content.size()), 0);
+    if (!source || zip_file_add(archive, name.toUtf8().constData(), source, ZIP_FL_ENC_UTF_8) < 0) {
+        zip_source_free(source);
+        throw std::runtime_error(zip_strerror(archive));
+    }
+}
+
+/// Writes a file beside the wanted one and renames it.
+void close(Archive& archive) {
+    if (zip_close(archive.get()) != 0) {
+        throw std::runtime_error(zip_strerror(archive.get()));
+    }
+    static_cast<void>(archive.release());
+}
+
+QByteArray jsonOf(const QJsonArray& list) {
+    return QJsonDocument(list).toJson();
+}
+
+QByteArray cameraStates(SimHost& host) {
+    QJsonArray cameras;
+    for (const Camera* camera : host.cameras().all()) {
+        QJsonObject state = QJsonObject::fromVariantMap(camera->state().toPlain());
+        state.insert(QStringLiteral("key"), double(camera->key()));
+        state.insert(QStringLiteral("address"), camera->device().address());
+        state.insert(QStringLiteral("model"), camera->model().name);
+        cameras.append(state);
+    }
+    return jsonOf(cameras);
+}
+
+QByteArray storedPreferences(const QString& path) {
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+QByteArray machine() {
+    QStringList lines = {QStringLiteral("System: ") % QSysInfo::prettyProductName(),
+                         QStringLiteral("Kernel: %1 %2").arg(QSysInfo::kernelType(), QSysInfo::kernelVersion()),
+                         QStringLiteral("Processor: %1, %2 threads")
+                             .arg(QSysInfo::currentCpuArchitecture())
+                             .arg(QThread::idealThreadCount())};
+    for (const QScreen* screen : QGuiApplication::screens()) {
+        lines.append(QStringLiteral("Screen: %1, %2x%3, scale %4")
+                         .arg(screen->name())
+                         .arg(screen->geometry().width())
+                         .arg(screen->geometry().height())
+                         .arg(screen->devicePixelRatio()));
+    }
+    return lines.join(QLatin1Char('\n')).toUtf8() + '\n';
+}
+
+QByteArray versions() {
+    return QStringLiteral("%1 %2\nQt %3\n")
+        .arg(QCoreApplication::applicationName(), QCoreApplication::applicationVersion(),
+             QString::fromLatin1(qVersion()))
+        .toUtf8();
+}
+
+}  // namespace
+
+void addHostState(ZebSupportFile& file, SimHost& host) {
+    file.files.insert(QStringLiteral("cameras.json"), cameraStates(host));
+    file.files.insert(QStringLiteral("preferences.ini"), storedPreferences(host.prefs().path()));
+    file.files.insert(QStringLiteral("calls.json"), jsonOf(QJsonArray::fromVariantList(host.journal().since(0))));
+    file.files.insert(QStringLiteral("machine.txt"), machine());
+    file.files.insert(QStringLiteral("version.txt"), versions());
+}
+
+bool writeSupportFile(const QString& path, const ZebSupportFile& file) {
+    try {
+        Archive archive = openArchive(path);
+        for (auto entry = file.files.begin(); entry != file.files.end(); ++entry) {
+            add(archive.get(), entry.key(), entry.value());
+        }
+        close(archive);
+        return true;
+    } catch (const std::runtime_error& e) {
+        qCritical("The support file %s can't be written: %s", qUtf8Printable(path), e.what());
+        return false;
+    }
+}
