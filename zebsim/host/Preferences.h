@@ -18,6 +18,9 @@ public:
     QVariant value(const QString& key, const QVariant& defaultValue = {}) const;
     void setValue(const QString& key, const QVariant& value);
 
+    /// All keys that have a value.
+    const QHash<QString, QVariant>& values() const { return m_values; }
+
     QString path() const { return m_settings->fileName(); }
     /// What was wrong with the file at the start; empty: nothing.
     QString problem() const { return m_problem; }

@@ -44,7 +44,8 @@ Archive openArchive(const QString& path) {
 
 /// `content` must stay as it is until the archive has been closed.
 void add(zip_t* archive, const QString& name, const QByteArray& content) {
-    zip_source_t* source = zip_source_buffer(archive, content.constData(), static_cast<zip_uint64_t>(content.size()), 0);
+    zip_source_t* source =
+        zip_source_buffer(archive, content.constData(), static_cast<zip_uint64_t>(content.size()), 0);
     if (!source || zip_file_add(archive, name.toUtf8().constData(), source, ZIP_FL_ENC_UTF_8) < 0) {
         zip_source_free(source);
         throw std::runtime_error(zip_strerror(archive));
@@ -63,7 +64,7 @@ QByteArray jsonOf(const QJsonArray& list) {
     return QJsonDocument(list).toJson();
 }
 
-QByteArray cameraStates(SimHost& host) {
+QByteArray cameraStates(const SimHost& host) {
     QJsonArray cameras;
     for (const Camera* camera : host.cameras().all()) {
         QJsonObject state = QJsonObject::fromVariantMap(camera->state().toPlain());
@@ -75,9 +76,14 @@ QByteArray cameraStates(SimHost& host) {
     return jsonOf(cameras);
 }
 
-QByteArray storedPreferences(const QString& path) {
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+/// With the factory values of what the user has not touched.
+QByteArray preferences(const Preferences& prefs) {
+    QStringList lines;
+    for (auto value = prefs.values().begin(); value != prefs.values().end(); ++value) {
+        lines.append(value.key() % QStringLiteral(" = ") % value->toString());
+    }
+    lines.sort();
+    return lines.join(QLatin1Char('\n')).toUtf8() + '\n';
 }
 
 QByteArray machine() {
@@ -105,9 +111,9 @@ QByteArray versions() {
 
 }  // namespace
 
-void addHostState(ZebSupportFile& file, SimHost& host) {
+void addHostState(ZebSupportFile& file, const SimHost& host) {
     file.files.insert(QStringLiteral("cameras.json"), cameraStates(host));
-    file.files.insert(QStringLiteral("preferences.ini"), storedPreferences(host.prefs().path()));
+    file.files.insert(QStringLiteral("preferences.txt"), preferences(host.prefs()));
     file.files.insert(QStringLiteral("calls.json"), jsonOf(QJsonArray::fromVariantList(host.journal().since(0))));
     file.files.insert(QStringLiteral("machine.txt"), machine());
     file.files.insert(QStringLiteral("version.txt"), versions());
