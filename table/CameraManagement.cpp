@@ -9,15 +9,6 @@
 #include "ZebDocManager.h"
 #include "ZebHost.h"
 
-namespace {
-
-bool isReadyOrRecording(DOC_Interface& doc) {
-    const int state = doc.lock().getRecordState();
-    return state == zeb::RecordReady || state == zeb::RecordRecording;
-}
-
-}  // namespace
-
 QString CameraManagement::getSearchAddress() const {
     return m_host.isLiveMode() ? m_host.getPrefString(QStringLiteral("cameraconnection/SearchIP")) : QString();
 }
@@ -97,7 +88,7 @@ void CameraManagement::prepareConnectedDocs(const DocList& docs) {
     }
     const bool lockColumn = m_host.getPrefBool(QStringLiteral("wren/display/lock"));
     for (DOC_Interface* doc : docs) {
-        if (!doc->isConnected() || !isReadyOrRecording(*doc)) {
+        if (!doc->isConnected() || !isArmed(*doc)) {
             continue;
         }
         m_state.recordRunning = true;

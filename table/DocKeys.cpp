@@ -1,6 +1,7 @@
 #include "DocKeys.h"
 
 #include "DOC_Interface.h"
+#include "DOC_Lock.h"
 #include "ZebDocManager.h"
 
 DocKeyList toDocKeys(const QVariantList& keys) {
@@ -32,4 +33,9 @@ DocList connectedDocs(ZebDocManager& documents, const DocKeyList& keys) {
         }
     }
     return docs;
+}
+
+bool isArmed(DOC_Interface& doc) {
+    const int state = doc.lock().getRecordState();
+    return state == zeb::RecordReady || state == zeb::RecordRecording;
 }

@@ -15,3 +15,6 @@ QString keyText(const QVariantList& keys);
 
 /// The documents of `keys` that are there and connected, in the order of the keys.
 DocList connectedDocs(ZebDocManager& documents, const DocKeyList& keys);
+
+/// Whether the head is ready to record or records.
+bool isArmed(DOC_Interface& doc);

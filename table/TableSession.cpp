@@ -5,9 +5,12 @@
 #include "DOC_Interface.h"
 #include "DOC_Lock.h"
 #include "DocKeys.h"
+#include "DocumentGuard.h"
 #include "TableState.h"
 #include "ZebDocManager.h"
 #include "ZebHost.h"
+
+#include <algorithm>
 
 namespace {
 
@@ -24,7 +27,24 @@ void TableSession::open() {
     }
     m_host.setPrefBool(RecAllPref, true);
     ZebDocManager& documents = m_host.docManager();
-    CameraManagement(m_host, m_state).prepareConnectedDocs(connectedDocs(documents, documents.getConnectedDocKeys()));
+    const DocList connected = connectedDocs(documents, documents.getConnectedDocKeys());
+    loadDefaultSettings(connected);
+    CameraManagement(m_host, m_state).prepareConnectedDocs(connected);
+}
+
+/// A camera that is ready or recording keeps everything as it is.
+void TableSession::loadDefaultSettings(const DocList& docs) {
+    DocumentGuard guard(m_host, false, false);
+    const bool busy = std::any_of(docs.begin(), docs.end(), [](DOC_Interface* doc) { return isArmed(*doc); });
+    if (!m_host.isFileMode() && !busy) {
+        const DefaultSettings settings = DefaultSettings::read(m_host);
+        m_state.groups = settings.groups;
+        m_state.syncFrequency = settings.syncFrequency.value_or(m_state.syncFrequency);
+        m_state.syncSignals = settings.syncSignals;
+        m_state.allowed = settings.allowed;
+        m_state.areas = settings.areas;
+    }
+    guard.release();
 }
 
 void TableSession::close() {
@@ -44,8 +64,7 @@ void TableSession::clearLocks(bool recordingToo) {
         if (doc == nullptr) {
             continue;
         }
-        const int state = doc->lock().getRecordState();
-        if (recordingToo || (state != zeb::RecordReady && state != zeb::RecordRecording)) {
+        if (recordingToo || !isArmed(*doc)) {
             doc->lock().setParamLock(false);
         }
     }

@@ -17,6 +17,7 @@ public:
 private:
     void clearLocks(bool recordingToo);
     void clearRecordChecks();
+    void loadDefaultSettings(const DocList& docs);
 
     ZebHost& m_host;
     TableState& m_state;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "CameraGroup.h"
+#include "DefaultSettings.h"
 #include "ZebTypes.h"
 
 #include <QList>
@@ -8,15 +8,6 @@
 #include <QStringList>
 
 #include <optional>
-
-/// Values to which the default settings limit what a camera offers; an empty list limits nothing.
-struct AllowedValues {
-    /// Decimal texts.
-    QStringList frameRates;
-    QStringList shutterSpeeds;
-    /// Texts as "1280 x 800".
-    QStringList resolutions;
-};
 
 /// What the table remembers between two calls of its page. Cameras are not part of it: they are asked each time.
 struct TableState {
@@ -29,8 +20,13 @@ struct TableState {
     AllowedValues allowed;
     /// Hertz of the external sync signal; 0 or below when there is none.
     int syncFrequency = 0;
+    /// Frequencies of that signal on offer, decimal texts.
+    QStringList syncSignals;
+    RecordAreas areas;
     /// A recording that the table follows is under way.
     bool recordRunning = false;
+    /// Settings of the cameras are being loaded from a file.
+    bool loadingRigx = false;
     /// The preference `recording/RecAllConnectedCamera` as it was before the table opened.
     std::optional<bool> savedRecAllConnected;
 };

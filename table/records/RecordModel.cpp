@@ -55,7 +55,7 @@ RecordModel::Answer RecordModel::getRecords(const QString& request) {
     const RecordRequest asked = RecordRequest::parse(request);
     const bool groupChanged = remember(asked);
     const Members members = membersOf(asked.group);
-    const bool deselected = members && !m_state.recordRunning && deselectOutside(*members);
+    const bool deselected = members && !m_state.recordRunning && !m_state.loadingRigx && deselectOutside(*members);
     Answer answer = build(asked, members, groupChanged);
     answer.selectionChanged = answer.selectionChanged || deselected;
     return answer;

@@ -1,0 +1,89 @@
+#include "DefaultSettings.h"
+
+#include "ZebHost.h"
+
+#include <QDebug>
+
+namespace {
+
+QString settingsPref(const char* name) {
+    return QStringLiteral("wren/settings/") % QLatin1String(name);
+}
+
+/// The text of a list, empty when the list is switched off.
+QString listText(const ZebHost& host, const char* name) {
+    const QString key = settingsPref(name);
+    return host.getPrefBool(key % QLatin1String("Enable")) ? host.getPrefString(key) : QString();
+}
+
+template <typename... Words>
+void log(const Words&... words) {
+    (qInfo() << "loadDefaultSettings" << ... << words);
+}
+
+}  // namespace
+
+DefaultSettings DefaultSettings::read(const ZebHost& host) {
+    using namespace defaultsettings;
+    DefaultSettings settings;
+    settings.groups = readGroups(host.getPrefString(settingsPref("groups")));
+    log("groups");
+    if (host.getPrefBool(settingsPref("externalSyncSignalsEnable"))) {
+        settings.syncFrequency = host.getPrefInt(settingsPref("externalSyncSignal"));
+        settings.syncSignals = readList(host.getPrefString(settingsPref("externalSyncSignals")));
+    }
+    log("sync signal", settings.syncSignals);
+    settings.allowed.frameRates = readList(listText(host, "frameRates"));
+    log("framerate", settings.allowed.frameRates);
+    settings.allowed.shutterSpeeds = readList(listText(host, "shutterSpeeds"));
+    log("shutter", settings.allowed.shutterSpeeds);
+    settings.allowed.resolutions = readResolutions(listText(host, "resolutions"));
+    log("resolution", settings.allowed.resolutions);
+    settings.areas = readAreas(listText(host, "areas"));
+    log("area");
+    return settings;
+}
+
+QStringList defaultsettings::readList(const QString& text) {
+    return text.split(QLatin1Char(':'), Qt::SkipEmptyParts);
+}
+
+namespace {
+
+/// The entries of a list that have at least `least` parts.
+QList<QStringList> readEntries(const QString& text, int least) {
+    QList<QStringList> entries;
+    for (const QString& entry : defaultsettings::readList(text)) {
+        const QStringList parts = entry.split(QLatin1Char('|'));
+        if (parts.size() >= least && !parts.first().isEmpty()) {
+            entries.append(parts);
+        }
+    }
+    return entries;
+}
+
+}  // namespace
+
+QList<CameraGroup> defaultsettings::readGroups(const QString& text) {
+    QList<CameraGroup> groups;
+    for (const QStringList& parts : readEntries(text, 1)) {
+        groups.append({parts.first(), parts.mid(1)});
+    }
+    return groups;
+}
+
+QStringList defaultsettings::readResolutions(const QString& text) {
+    QStringList resolutions;
+    for (const QStringList& parts : readEntries(text, 2)) {
+        resolutions.append(parts.at(0) % QLatin1String(" x ") % parts.at(1));
+    }
+    return resolutions;
+}
+
+RecordAreas defaultsettings::readAreas(const QString& text) {
+    RecordAreas areas;
+    for (const QStringList& parts : readEntries(text, 3)) {
+        areas.insert(parts.at(0).toInt(), {parts.at(1).toInt(), parts.at(2).toInt()});
+    }
+    return areas;
+}

@@ -1,0 +1,53 @@
+#pragma once
+
+#include "CameraGroup.h"
+
+#include <QList>
+#include <QMap>
+#include <QPair>
+#include <QString>
+#include <QStringList>
+
+#include <optional>
+
+class ZebHost;
+
+/// Values to which the default settings limit what a camera offers; an empty list limits nothing.
+struct AllowedValues {
+    /// Decimal texts.
+    QStringList frameRates;
+    QStringList shutterSpeeds;
+    /// Texts as "1280 x 800".
+    QStringList resolutions;
+};
+
+/// First and last frame of a recording, by the record rate in frames a second.
+using RecordAreas = QMap<int, QPair<int, int>>;
+
+/// What the default settings say of the table as a whole.
+struct DefaultSettings {
+    /// Reads the preferences; a list that is switched off there is empty.
+    static DefaultSettings read(const ZebHost& host);
+
+    QList<CameraGroup> groups;
+    /// Hertz of the external sync signal; nothing when the settings do not tell it.
+    std::optional<int> syncFrequency;
+    /// Frequencies on offer, decimal texts.
+    QStringList syncSignals;
+    AllowedValues allowed;
+    RecordAreas areas;
+};
+
+/// The forms in which the preferences keep lists: entries joined by ":", the parts of an entry by "|". An entry that
+/// lacks a part is left out.
+namespace defaultsettings {
+
+QStringList readList(const QString& text);
+/// Of each entry the name, then the addresses.
+QList<CameraGroup> readGroups(const QString& text);
+/// Of each entry width and height.
+QStringList readResolutions(const QString& text);
+/// Of each entry rate, start and end; a later entry of the same rate replaces an earlier one.
+RecordAreas readAreas(const QString& text);
+
+}  // namespace defaultsettings

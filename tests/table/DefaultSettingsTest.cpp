@@ -1,0 +1,135 @@
+#include "DefaultSettings.h"
+#include "JS_Mediator_WrenTableDialog.h"
+#include "PLG_wren.h"
+#include "TableFixture.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+using namespace defaultsettings;
+
+namespace {
+
+/// Groups as "name=address,address" each.
+QStringList shown(const QList<CameraGroup>& groups) {
+    QStringList texts;
+    for (const CameraGroup& group : groups) {
+        texts.append(group.name % QLatin1Char('=') % group.members.join(QLatin1Char(',')));
+    }
+    return texts;
+}
+
+TEST(DefaultSettings, groups) {
+    struct Case {
+        const char* told;
+        const char* text;
+        QStringList groups;
+    };
+    const Case cases[] = {
+        {"nothing stored is no group", "", {}},
+        {"the name, then the addresses",
+         "Gate|10.0.0.1|10.0.0.2:Ramp|10.0.0.3",
+         {"Gate=10.0.0.1,10.0.0.2", "Ramp=10.0.0.3"}},
+        {"a group may be empty", "Spare", {"Spare="}},
+        {"a colon too many is no group", ":Gate|10.0.0.1::", {"Gate=10.0.0.1"}},
+        {"a group without a name can't be chosen", "|10.0.0.1:Ramp", {"Ramp="}},
+        {"markup is a name like any other", "<b>|1.1.1.1", {"<b>=1.1.1.1"}},
+    };
+    for (const Case& each : cases) {
+        EXPECT_EQ(shown(readGroups(each.text)), each.groups) << each.told;
+    }
+}
+
+TEST(DefaultSettings, listsAndAreas) {
+    EXPECT_EQ(readList("500:1000"), (QStringList{"500", "1000"}));
+    EXPECT_EQ(readResolutions("1280|800:640|480:320"), (QStringList{"1280 x 800", "640 x 480"}))
+        << "an entry without a height is none";
+    const RecordAreas areas = readAreas("1000|0|99:2000|10|20:1000|5|50:500|1");
+    EXPECT_EQ(areas, (RecordAreas{{1000, {5, 50}}, {2000, {10, 20}}})) << "the later entry of a rate wins";
+}
+
+class DefaultSettingsTest : public TableFixture {
+protected:
+    DefaultSettingsTest() { plugin.setHost(&host); }
+
+    void store(const QMap<QString, QVariant>& settings) {
+        for (auto entry = settings.begin(); entry != settings.end(); ++entry) {
+            host.setPref(QStringLiteral("wren/settings/") % entry.key(), entry.value());
+        }
+    }
+
+    /// Stores all lists, switched on or not.
+    void storeAll(bool on) {
+        store({{"groups", "Gates|192.168.0.11|192.168.0.12:Roof|192.168.0.14"},
+               {"frameRatesEnable", on},
+               {"frameRates", "500:1000"},
+               {"shutterSpeedsEnable", on},
+               {"shutterSpeeds", "1000:5000"},
+               {"resolutionsEnable", on},
+               {"resolutions", "1024|1024:512|512"},
+               {"externalSyncSignalsEnable", on},
+               {"externalSyncSignal", 250},
+               {"externalSyncSignals", "125:250"},
+               {"areasEnable", on},
+               {"areas", "1000|0|99"}});
+    }
+
+    QJsonObject firstRecord(JS_Mediator_WrenTableDialog& bridge) {
+        const QString reply = bridge.getRecords(R"({"group":"","filter":1,"tab":1})");
+        return QJsonDocument::fromJson(reply.toUtf8()).object()["records"].toArray().first().toObject();
+    }
+
+    static QStringList values(const QJsonValue& list) {
+        QStringList values;
+        for (const QJsonValue& entry : list.toArray()) {
+            values.append(entry.isObject() ? entry.toObject()["value"].toVariant().toString() : entry.toString());
+        }
+        return values;
+    }
+
+    PLG_wren plugin;
+};
+
+TEST_F(DefaultSettingsTest, everyOpeningReadsThemAnew) {
+    connectAll();
+    storeAll(true);
+    JS_Mediator_WrenTableDialog bridge(&host, "wrentabledialog", &plugin);
+    EXPECT_EQ(shown(bridge.state().groups), (QStringList{"Gates=192.168.0.11,192.168.0.12", "Roof=192.168.0.14"}));
+    EXPECT_EQ(bridge.getGroup(), "Gates");
+    EXPECT_EQ(values(firstRecord(bridge)["frameRates"]), (QStringList{"500", "1000"}));
+    EXPECT_EQ(values(firstRecord(bridge)["resolutions"]), (QStringList{"1024 x 1024", "512 x 512"}));
+    EXPECT_EQ(values(firstRecord(bridge)["shutterSpeeds"]), (QStringList{"1000", "5000"}));
+    EXPECT_EQ(bridge.state().syncFrequency, 250);
+    EXPECT_EQ(bridge.state().syncSignals, (QStringList{"125", "250"}));
+    EXPECT_EQ(bridge.state().areas, (RecordAreas{{1000, {0, 99}}}));
+
+    bridge.onClose();
+    storeAll(false);
+    bridge.onOpen();
+    EXPECT_EQ(values(firstRecord(bridge)["frameRates"]).size(), 13) << "the camera's own";
+    EXPECT_EQ(values(firstRecord(bridge)["resolutions"]).size(), 5);
+    EXPECT_TRUE(bridge.state().syncSignals.isEmpty());
+    EXPECT_TRUE(bridge.state().areas.isEmpty());
+    EXPECT_EQ(bridge.state().syncFrequency, 250) << "the frequency stays as it was";
+    EXPECT_EQ(bridge.state().groups.size(), 2) << "groups have no switch";
+}
+
+TEST_F(DefaultSettingsTest, aCameraThatIsArmedKeepsTheTableAsItIs) {
+    connectAll();
+    storeAll(true);
+    for (const int state : {2, 3}) {
+        change(2, {{"recordState", state}});
+        JS_Mediator_WrenTableDialog bridge(&host, "wrentabledialog", &plugin);
+        EXPECT_TRUE(bridge.state().groups.isEmpty());
+        EXPECT_TRUE(bridge.state().allowed.frameRates.isEmpty());
+    }
+    change(2, {{"recordState", 1}});
+    EXPECT_EQ(JS_Mediator_WrenTableDialog(&host, "wrentabledialog", &plugin).state().groups.size(), 2);
+
+    host.appStatus().enterMode(zeb::FileMode);
+    EXPECT_TRUE(JS_Mediator_WrenTableDialog(&host, "wrentabledialog", &plugin).state().groups.isEmpty());
+    EXPECT_FALSE(host.liveLoop().isLivePaused()) << "the loop goes on, whichever way the reading ends";
+}
+
+}  // namespace
