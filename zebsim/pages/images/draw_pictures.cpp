@@ -1,6 +1,7 @@
 // Draws the pictures that the pages' style sheets name: `draw_pictures FOLDER`.
 
 #include "Picture.h"
+#include "ToolIcons.h"
 
 #include <QDir>
 #include <QFont>
@@ -154,6 +155,15 @@ void selectArrow(const QDir& folder, const Style& style) {
     picture.save(folder.filePath(QStringLiteral("bg_select%1.png").arg(style.suffix)));
 }
 
+// Seen on light and on dark paper.
+void spinnerArrows(const QDir& folder) {
+    Picture picture(9, 15);
+    picture.pen(QColor(0x80, 0x88, 0x90), 1.5);
+    picture.painter().drawPolyline(QPolygonF({QPointF(1.5, 5.5), QPointF(4.5, 2.5), QPointF(7.5, 5.5)}));
+    picture.painter().drawPolyline(QPolygonF({QPointF(1.5, 9.5), QPointF(4.5, 12.5), QPointF(7.5, 9.5)}));
+    picture.save(folder.filePath(QStringLiteral("bg_spinner.png")));
+}
+
 void drawAll(const QDir& folder) {
     const Style light{QString(), QColor(0x4a, 0x52, 0x5a), QColor(0xa7, 0xae, 0xb5), kWhite, kGreen};
     const Style dark{QStringLiteral("_dark"), QColor(0xd0, 0xd5, 0xda), QColor(0x77, 0x7e, 0x85),
@@ -172,6 +182,8 @@ void drawAll(const QDir& folder) {
     padlock(folder, QStringLiteral("unlock_light"), light.faint, true);
     padlock(folder, QStringLiteral("unlock_dark"), dark.faint, true);
     alert(folder);
+    spinnerArrows(folder);
+    drawToolIcons(folder);
 }
 
 }  // namespace
