@@ -192,6 +192,14 @@
         <translation>Settings...</translation>
     </message>
     <message>
+        <source>Setting...</source>
+        <translation>Settings...</translation>
+    </message>
+    <message>
+        <source>Partition %1</source>
+        <translation>Partition %1</translation>
+    </message>
+    <message>
         <source>Stop live</source>
         <translation>Stop live</translation>
     </message>
@@ -273,7 +281,7 @@
     </message>
     <message>
         <source>recordCheck</source>
-        <translation>Save</translation>
+        <translation>Checked</translation>
     </message>
     <message>
         <source>Connect</source>
@@ -554,6 +562,402 @@
     <message>
         <source>Name</source>
         <translation>Name</translation>
+    </message>
+    <message>
+        <source>p_lut</source>
+        <translation>Tone curve</translation>
+    </message>
+    <message>
+        <source>p_colorcorrection</source>
+        <translation>Colour correction</translation>
+    </message>
+    <message>
+        <source>p_filter</source>
+        <translation>Filter</translation>
+    </message>
+    <message>
+        <source>p_scale</source>
+        <translation>Scale</translation>
+    </message>
+    <message>
+        <source>p_histogram</source>
+        <translation>Histogram</translation>
+    </message>
+    <message>
+        <source>p_mosaic</source>
+        <translation>Mosaic</translation>
+    </message>
+    <message>
+        <source>p_addtext</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>%1: frame %2</source>
+        <translation>%1: frame %2</translation>
+    </message>
+    <message>
+        <source>A viewer with simulated cameras</source>
+        <translation>A viewer with simulated cameras</translation>
+    </message>
+    <message>
+        <source>About ZEB</source>
+        <translation>About ZEB</translation>
+    </message>
+    <message>
+        <source>Address of the signal generator</source>
+        <translation>Address of the signal generator</translation>
+    </message>
+    <message>
+        <source>Addresses of Sync Hubs, with commas between</source>
+        <translation>Addresses of Sync Hubs, with commas between</translation>
+    </message>
+    <message>
+        <source>As a fraction</source>
+        <translation>As a fraction</translation>
+    </message>
+    <message>
+        <source>As a time</source>
+        <translation>As a time</translation>
+    </message>
+    <message>
+        <source>Ask before locked heads are changed</source>
+        <translation>Ask before locked heads are changed</translation>
+    </message>
+    <message>
+        <source>Blue</source>
+        <translation>Blue</translation>
+    </message>
+    <message>
+        <source>Red</source>
+        <translation>Red</translation>
+    </message>
+    <message>
+        <source>Green</source>
+        <translation>Green</translation>
+    </message>
+    <message>
+        <source>Yellow</source>
+        <translation>Yellow</translation>
+    </message>
+    <message>
+        <source>Orange</source>
+        <translation>Orange</translation>
+    </message>
+    <message>
+        <source>Sky blue</source>
+        <translation>Sky blue</translation>
+    </message>
+    <message>
+        <source>Camera type</source>
+        <translation>Camera type</translation>
+    </message>
+    <message>
+        <source>Colour of the memory mode</source>
+        <translation>Colour of the memory mode</translation>
+    </message>
+    <message>
+        <source>Colour while ready</source>
+        <translation>Colour while ready</translation>
+    </message>
+    <message>
+        <source>Colour while recording</source>
+        <translation>Colour while recording</translation>
+    </message>
+    <message>
+        <source>Connected</source>
+        <translation>Connected</translation>
+    </message>
+    <message>
+        <source>Connected by radio</source>
+        <translation>Connected by radio</translation>
+    </message>
+    <message>
+        <source>Connected, slow link</source>
+        <translation>Connected, slow link</translation>
+    </message>
+    <message>
+        <source>Not connected</source>
+        <translation>Not connected</translation>
+    </message>
+    <message>
+        <source>English</source>
+        <translation>English</translation>
+    </message>
+    <message>
+        <source>Japanese</source>
+        <translation>Japanese</translation>
+    </message>
+    <message>
+        <source>Ethernet</source>
+        <translation>Ethernet</translation>
+    </message>
+    <message>
+        <source>Export support file</source>
+        <translation>Export support file</translation>
+    </message>
+    <message>
+        <source>Failed to save support file.</source>
+        <translation>Failed to save support file.</translation>
+    </message>
+    <message>
+        <source>Group the digits of frame numbers</source>
+        <translation>Group the digits of frame numbers</translation>
+    </message>
+    <message>
+        <source>Group the digits of frame rates</source>
+        <translation>Group the digits of frame rates</translation>
+    </message>
+    <message>
+        <source>Imperial</source>
+        <translation>Imperial</translation>
+    </message>
+    <message>
+        <source>Metric</source>
+        <translation>Metric</translation>
+    </message>
+    <message>
+        <source>Interval of the table in ms</source>
+        <translation>Interval of the table in ms</translation>
+    </message>
+    <message>
+        <source>Language (from the next start on)</source>
+        <translation>Language (from the next start on)</translation>
+    </message>
+    <message>
+        <source>Link</source>
+        <translation>Link</translation>
+    </message>
+    <message>
+        <source>List connected cameras only</source>
+        <translation>List connected cameras only</translation>
+    </message>
+    <message>
+        <source>No camera is connected</source>
+        <translation>No camera is connected</translation>
+    </message>
+    <message>
+        <source>No file is open</source>
+        <translation>No file is open</translation>
+    </message>
+    <message>
+        <source>Nothing is recorded</source>
+        <translation>Nothing is recorded</translation>
+    </message>
+    <message>
+        <source>Offer the trigger test</source>
+        <translation>Offer the trigger test</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Pause</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>Play</translation>
+    </message>
+    <message>
+        <source>Player</source>
+        <translation>Player</translation>
+    </message>
+    <message>
+        <source>Please attach preserved file to a mail.</source>
+        <translation>Please attach the saved file to a mail.</translation>
+    </message>
+    <message>
+        <source>Plug-in: %1</source>
+        <translation>Plug-in: %1</translation>
+    </message>
+    <message>
+        <source>Preferences</source>
+        <translation>Preferences</translation>
+    </message>
+    <message>
+        <source>Record on all connected cameras</source>
+        <translation>Record on all connected cameras</translation>
+    </message>
+    <message>
+        <source>Save after recording</source>
+        <translation>Save after recording</translation>
+    </message>
+    <message>
+        <source>Saving...</source>
+        <translation>Saving...</translation>
+    </message>
+    <message>
+        <source>Search in the network</source>
+        <translation>Search in the network</translation>
+    </message>
+    <message>
+        <source>Show images in their real bit depth</source>
+        <translation>Show images in their real bit depth</translation>
+    </message>
+    <message>
+        <source>Style</source>
+        <translation>Style</translation>
+    </message>
+    <message>
+        <source>Synchronise on an external signal</source>
+        <translation>Synchronise on an external signal</translation>
+    </message>
+    <message>
+        <source>The information below will be output in ZIP file format. Do you want to proceed?</source>
+        <translation>The information below will be output in ZIP file format. Do you want to proceed?</translation>
+    </message>
+    <message>
+        <source>- Camera setting values</source>
+        <translation>- Camera setting values</translation>
+    </message>
+    <message>
+        <source>- ZEB setting values</source>
+        <translation>- ZEB setting values</translation>
+    </message>
+    <message>
+        <source>- ZEB operation log</source>
+        <translation>- ZEB operation log</translation>
+    </message>
+    <message>
+        <source>- SDK operation log</source>
+        <translation>- SDK operation log</translation>
+    </message>
+    <message>
+        <source>- Camera log</source>
+        <translation>- Camera log</translation>
+    </message>
+    <message>
+        <source>- PC environment</source>
+        <translation>- PC environment</translation>
+    </message>
+    <message>
+        <source>- ZEB version</source>
+        <translation>- ZEB version</translation>
+    </message>
+    <message>
+        <source>- ZEB full screen capture</source>
+        <translation>- ZEB full screen capture</translation>
+    </message>
+    <message>
+        <source>- WREN window screen capture</source>
+        <translation>- WREN window screen capture</translation>
+    </message>
+    <message>
+        <source>- Currently displayed image data (1 frame)</source>
+        <translation>- Currently displayed image data (1 frame)</translation>
+    </message>
+    <message>
+        <source>Three numbers from 0 to 255 with dots between, as 192.168.0</source>
+        <translation>Three numbers from 0 to 255 with dots between, as 192.168.0</translation>
+    </message>
+    <message>
+        <source>Units of length</source>
+        <translation>Units of length</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>none</translation>
+    </message>
+    <message>
+        <source>s_display</source>
+        <translation>Display</translation>
+    </message>
+    <message>
+        <source>s_general</source>
+        <translation>General</translation>
+    </message>
+    <message>
+        <source>s_io</source>
+        <translation>I/O</translation>
+    </message>
+    <message>
+        <source>s_recording</source>
+        <translation>Recording</translation>
+    </message>
+    <message>
+        <source>s_table</source>
+        <translation>Camera table</translation>
+    </message>
+    <message>
+        <source>START OF EXPOSURE</source>
+        <translation>START OF EXPOSURE</translation>
+    </message>
+    <message>
+        <source>END OF EXPOSURE</source>
+        <translation>END OF EXPOSURE</translation>
+    </message>
+    <message>
+        <source>EVENT POS</source>
+        <translation>EVENT POS</translation>
+    </message>
+    <message>
+        <source>EVENT NEG</source>
+        <translation>EVENT NEG</translation>
+    </message>
+    <message>
+        <source>NORMALLY CLOSE</source>
+        <translation>NORMALLY CLOSE</translation>
+    </message>
+    <message>
+        <source>NORMALLY OPEN</source>
+        <translation>NORMALLY OPEN</translation>
+    </message>
+    <message>
+        <source>ON CAM</source>
+        <translation>ON CAM</translation>
+    </message>
+    <message>
+        <source>ON CAM POS</source>
+        <translation>ON CAM POS</translation>
+    </message>
+    <message>
+        <source>ON CAM NEG</source>
+        <translation>ON CAM NEG</translation>
+    </message>
+    <message>
+        <source>ON OTHERS</source>
+        <translation>ON OTHERS</translation>
+    </message>
+    <message>
+        <source>ON OTHERS POS</source>
+        <translation>ON OTHERS POS</translation>
+    </message>
+    <message>
+        <source>ON OTHERS NEG</source>
+        <translation>ON OTHERS NEG</translation>
+    </message>
+    <message>
+        <source>POWER OFF POS</source>
+        <translation>POWER OFF POS</translation>
+    </message>
+    <message>
+        <source>POWER OFF NEG</source>
+        <translation>POWER OFF NEG</translation>
+    </message>
+    <message>
+        <source>READY POS</source>
+        <translation>READY POS</translation>
+    </message>
+    <message>
+        <source>READY NEG</source>
+        <translation>READY NEG</translation>
+    </message>
+    <message>
+        <source>REMOTE ON</source>
+        <translation>REMOTE ON</translation>
+    </message>
+    <message>
+        <source>SYNC POS</source>
+        <translation>SYNC POS</translation>
+    </message>
+    <message>
+        <source>SYNC NEG</source>
+        <translation>SYNC NEG</translation>
+    </message>
+    <message>
+        <source>TRIG POS</source>
+        <translation>TRIG POS</translation>
+    </message>
+    <message>
+        <source>TRIG NEG</source>
+        <translation>TRIG NEG</translation>
     </message>
 </context>
 </TS>

@@ -192,6 +192,14 @@
         <translation>設定...</translation>
     </message>
     <message>
+        <source>Setting...</source>
+        <translation>設定...</translation>
+    </message>
+    <message>
+        <source>Partition %1</source>
+        <translation>パーティション %1</translation>
+    </message>
+    <message>
         <source>Stop live</source>
         <translation>ライブ停止</translation>
     </message>
@@ -273,7 +281,7 @@
     </message>
     <message>
         <source>recordCheck</source>
-        <translation>保存</translation>
+        <translation>確認済み</translation>
     </message>
     <message>
         <source>Connect</source>
@@ -554,6 +562,402 @@
     <message>
         <source>Name</source>
         <translation>名前</translation>
+    </message>
+    <message>
+        <source>p_lut</source>
+        <translation>トーンカーブ</translation>
+    </message>
+    <message>
+        <source>p_colorcorrection</source>
+        <translation>色補正</translation>
+    </message>
+    <message>
+        <source>p_filter</source>
+        <translation>フィルター</translation>
+    </message>
+    <message>
+        <source>p_scale</source>
+        <translation>スケール</translation>
+    </message>
+    <message>
+        <source>p_histogram</source>
+        <translation>ヒストグラム</translation>
+    </message>
+    <message>
+        <source>p_mosaic</source>
+        <translation>モザイク</translation>
+    </message>
+    <message>
+        <source>p_addtext</source>
+        <translation>文字入れ</translation>
+    </message>
+    <message>
+        <source>%1: frame %2</source>
+        <translation>%1: フレーム %2</translation>
+    </message>
+    <message>
+        <source>A viewer with simulated cameras</source>
+        <translation>シミュレートしたカメラのビューアー</translation>
+    </message>
+    <message>
+        <source>About ZEB</source>
+        <translation>ZEB について</translation>
+    </message>
+    <message>
+        <source>Address of the signal generator</source>
+        <translation>信号発生器のアドレス</translation>
+    </message>
+    <message>
+        <source>Addresses of Sync Hubs, with commas between</source>
+        <translation>Sync Hub のアドレス (コンマ区切り)</translation>
+    </message>
+    <message>
+        <source>As a fraction</source>
+        <translation>分数</translation>
+    </message>
+    <message>
+        <source>As a time</source>
+        <translation>時間</translation>
+    </message>
+    <message>
+        <source>Ask before locked heads are changed</source>
+        <translation>ロックされたヘッドを変更する前に確認する</translation>
+    </message>
+    <message>
+        <source>Blue</source>
+        <translation>青</translation>
+    </message>
+    <message>
+        <source>Red</source>
+        <translation>赤</translation>
+    </message>
+    <message>
+        <source>Green</source>
+        <translation>緑</translation>
+    </message>
+    <message>
+        <source>Yellow</source>
+        <translation>黄</translation>
+    </message>
+    <message>
+        <source>Orange</source>
+        <translation>オレンジ</translation>
+    </message>
+    <message>
+        <source>Sky blue</source>
+        <translation>水色</translation>
+    </message>
+    <message>
+        <source>Camera type</source>
+        <translation>カメラの機種</translation>
+    </message>
+    <message>
+        <source>Colour of the memory mode</source>
+        <translation>メモリーモードの色</translation>
+    </message>
+    <message>
+        <source>Colour while ready</source>
+        <translation>待機中の色</translation>
+    </message>
+    <message>
+        <source>Colour while recording</source>
+        <translation>撮影中の色</translation>
+    </message>
+    <message>
+        <source>Connected</source>
+        <translation>接続中</translation>
+    </message>
+    <message>
+        <source>Connected by radio</source>
+        <translation>無線で接続中</translation>
+    </message>
+    <message>
+        <source>Connected, slow link</source>
+        <translation>接続中 (低速リンク)</translation>
+    </message>
+    <message>
+        <source>Not connected</source>
+        <translation>未接続</translation>
+    </message>
+    <message>
+        <source>English</source>
+        <translation>英語</translation>
+    </message>
+    <message>
+        <source>Japanese</source>
+        <translation>日本語</translation>
+    </message>
+    <message>
+        <source>Ethernet</source>
+        <translation>イーサネット</translation>
+    </message>
+    <message>
+        <source>Export support file</source>
+        <translation>サポートファイルの出力</translation>
+    </message>
+    <message>
+        <source>Failed to save support file.</source>
+        <translation>サポートファイルを保存できませんでした。</translation>
+    </message>
+    <message>
+        <source>Group the digits of frame numbers</source>
+        <translation>フレーム番号を桁区切りで表示する</translation>
+    </message>
+    <message>
+        <source>Group the digits of frame rates</source>
+        <translation>撮影速度を桁区切りで表示する</translation>
+    </message>
+    <message>
+        <source>Imperial</source>
+        <translation>ヤード・ポンド法</translation>
+    </message>
+    <message>
+        <source>Metric</source>
+        <translation>メートル法</translation>
+    </message>
+    <message>
+        <source>Interval of the table in ms</source>
+        <translation>表の更新間隔 (ms)</translation>
+    </message>
+    <message>
+        <source>Language (from the next start on)</source>
+        <translation>言語 (次回の起動から)</translation>
+    </message>
+    <message>
+        <source>Link</source>
+        <translation>リンク</translation>
+    </message>
+    <message>
+        <source>List connected cameras only</source>
+        <translation>接続中のカメラだけを一覧に表示する</translation>
+    </message>
+    <message>
+        <source>No camera is connected</source>
+        <translation>接続中のカメラはありません</translation>
+    </message>
+    <message>
+        <source>No file is open</source>
+        <translation>開いているファイルはありません</translation>
+    </message>
+    <message>
+        <source>Nothing is recorded</source>
+        <translation>撮影された画像はありません</translation>
+    </message>
+    <message>
+        <source>Offer the trigger test</source>
+        <translation>トリガーテストを使う</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>一時停止</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>再生</translation>
+    </message>
+    <message>
+        <source>Player</source>
+        <translation>プレーヤー</translation>
+    </message>
+    <message>
+        <source>Please attach preserved file to a mail.</source>
+        <translation>保存したファイルをメールに添付してください。</translation>
+    </message>
+    <message>
+        <source>Plug-in: %1</source>
+        <translation>プラグイン: %1</translation>
+    </message>
+    <message>
+        <source>Preferences</source>
+        <translation>環境設定</translation>
+    </message>
+    <message>
+        <source>Record on all connected cameras</source>
+        <translation>接続中のすべてのカメラで撮影する</translation>
+    </message>
+    <message>
+        <source>Save after recording</source>
+        <translation>撮影後に保存する</translation>
+    </message>
+    <message>
+        <source>Saving...</source>
+        <translation>保存しています...</translation>
+    </message>
+    <message>
+        <source>Search in the network</source>
+        <translation>検索するネットワーク</translation>
+    </message>
+    <message>
+        <source>Show images in their real bit depth</source>
+        <translation>実際のビット深度で画像を表示する</translation>
+    </message>
+    <message>
+        <source>Style</source>
+        <translation>スタイル</translation>
+    </message>
+    <message>
+        <source>Synchronise on an external signal</source>
+        <translation>外部信号で同期する</translation>
+    </message>
+    <message>
+        <source>The information below will be output in ZIP file format. Do you want to proceed?</source>
+        <translation>以下の情報を ZIP ファイルに出力します。続行しますか?</translation>
+    </message>
+    <message>
+        <source>- Camera setting values</source>
+        <translation>- カメラの設定値</translation>
+    </message>
+    <message>
+        <source>- ZEB setting values</source>
+        <translation>- ZEB の設定値</translation>
+    </message>
+    <message>
+        <source>- ZEB operation log</source>
+        <translation>- ZEB の操作ログ</translation>
+    </message>
+    <message>
+        <source>- SDK operation log</source>
+        <translation>- SDK の操作ログ</translation>
+    </message>
+    <message>
+        <source>- Camera log</source>
+        <translation>- カメラのログ</translation>
+    </message>
+    <message>
+        <source>- PC environment</source>
+        <translation>- PC の環境</translation>
+    </message>
+    <message>
+        <source>- ZEB version</source>
+        <translation>- ZEB のバージョン</translation>
+    </message>
+    <message>
+        <source>- ZEB full screen capture</source>
+        <translation>- ZEB の画面全体の画像</translation>
+    </message>
+    <message>
+        <source>- WREN window screen capture</source>
+        <translation>- WREN の画面の画像</translation>
+    </message>
+    <message>
+        <source>- Currently displayed image data (1 frame)</source>
+        <translation>- 表示中の画像データ (1 フレーム)</translation>
+    </message>
+    <message>
+        <source>Three numbers from 0 to 255 with dots between, as 192.168.0</source>
+        <translation>0 から 255 までの数を 3 つ、ドットで区切ります (例: 192.168.0)</translation>
+    </message>
+    <message>
+        <source>Units of length</source>
+        <translation>長さの単位</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>なし</translation>
+    </message>
+    <message>
+        <source>s_display</source>
+        <translation>表示</translation>
+    </message>
+    <message>
+        <source>s_general</source>
+        <translation>全般</translation>
+    </message>
+    <message>
+        <source>s_io</source>
+        <translation>I/O</translation>
+    </message>
+    <message>
+        <source>s_recording</source>
+        <translation>撮影</translation>
+    </message>
+    <message>
+        <source>s_table</source>
+        <translation>カメラテーブル</translation>
+    </message>
+    <message>
+        <source>START OF EXPOSURE</source>
+        <translation>露光開始</translation>
+    </message>
+    <message>
+        <source>END OF EXPOSURE</source>
+        <translation>露光終了</translation>
+    </message>
+    <message>
+        <source>EVENT POS</source>
+        <translation>イベント (正)</translation>
+    </message>
+    <message>
+        <source>EVENT NEG</source>
+        <translation>イベント (負)</translation>
+    </message>
+    <message>
+        <source>NORMALLY CLOSE</source>
+        <translation>ノーマルクローズ</translation>
+    </message>
+    <message>
+        <source>NORMALLY OPEN</source>
+        <translation>ノーマルオープン</translation>
+    </message>
+    <message>
+        <source>ON CAM</source>
+        <translation>ON (カメラ)</translation>
+    </message>
+    <message>
+        <source>ON CAM POS</source>
+        <translation>ON (カメラ、正)</translation>
+    </message>
+    <message>
+        <source>ON CAM NEG</source>
+        <translation>ON (カメラ、負)</translation>
+    </message>
+    <message>
+        <source>ON OTHERS</source>
+        <translation>ON (外部)</translation>
+    </message>
+    <message>
+        <source>ON OTHERS POS</source>
+        <translation>ON (外部、正)</translation>
+    </message>
+    <message>
+        <source>ON OTHERS NEG</source>
+        <translation>ON (外部、負)</translation>
+    </message>
+    <message>
+        <source>POWER OFF POS</source>
+        <translation>電源 OFF (正)</translation>
+    </message>
+    <message>
+        <source>POWER OFF NEG</source>
+        <translation>電源 OFF (負)</translation>
+    </message>
+    <message>
+        <source>READY POS</source>
+        <translation>待機 (正)</translation>
+    </message>
+    <message>
+        <source>READY NEG</source>
+        <translation>待機 (負)</translation>
+    </message>
+    <message>
+        <source>REMOTE ON</source>
+        <translation>リモート ON</translation>
+    </message>
+    <message>
+        <source>SYNC POS</source>
+        <translation>同期 (正)</translation>
+    </message>
+    <message>
+        <source>SYNC NEG</source>
+        <translation>同期 (負)</translation>
+    </message>
+    <message>
+        <source>TRIG POS</source>
+        <translation>トリガー (正)</translation>
+    </message>
+    <message>
+        <source>TRIG NEG</source>
+        <translation>トリガー (負)</translation>
     </message>
 </context>
 </TS>
