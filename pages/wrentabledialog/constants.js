@@ -1,22 +1,6 @@
 'use strict';
 
 var wrentabledialog_const_obj = {
-    cameraInfoTabNo: 0,
-    livecontrolTabNo: 1,
-    syncTabNo: 2,
-    irigTabNo: 3,
-    pluginTabNo: 4,
-    memoryInfoTabNo: 5,
-    memoryPluginTabNo: 6,
-
-    cameraInfoTabName: 'cameraInfo',
-    livecontrolTabName: 'livecontrol',
-    syncTabName: 'sync',
-    irigTabName: 'irig',
-    pluginTabName: 'plugin',
-    memoryInfoTabName: 'memoryInfo',
-    memoryPluginTabName: 'memoryPlugin',
-
     noMove: 0,
     liveMove: 1,
     memoryMove: 2,
@@ -93,11 +77,17 @@ const TABS = [
     }
 ].map((tab, number) => Object.assign(tab, {
     number,
-    memory: number >= wrentabledialog_const_obj.memoryInfoTabNo,
+    memory: tab.name.startsWith('memory'),
     panel: tab.name + 'Tab',
     gridName: `wren-${tab.name}-list`,
     orderKey: `wren/column_order/${tab.name}`
 }));
+
+// As cameraInfoTabNo and cameraInfoTabName.
+TABS.forEach(tab => {
+    wrentabledialog_const_obj[tab.name + 'TabNo'] = tab.number;
+    wrentabledialog_const_obj[tab.name + 'TabName'] = tab.name;
+});
 
 // Position of the columns of the active tab that need one; -1 for a column it does not have.
 var wrentabledialog_column_obj = {
