@@ -14,7 +14,7 @@ const table = readonly([
     'wrentabledialog_obj', 'wrentabledialog_const_obj', 'wrentabledialog_column_obj', 'TABS',
     'escapeMarkup', 'translate', 'parseReply', 'guarded', 'logged',
     'showElement', 'setText', 'setClass', 'setStyle',
-    'Cell', 'COLUMNS', 'isBatch', 'isOff', 'isOffOrBatch', 'hasDropDowns', 'showChoice',
+    'Cell', 'COLUMNS', 'isBatch', 'isOff', 'isOffOrBatch', 'hasDropDowns', 'showChoice', 'plainColumn',
     'DrawnRow', 'columnKind', 'GridView', 'views', 'viewOf', 'tabHeader',
     'dropDown', 'listenToGrid', 'controls'
 ]);

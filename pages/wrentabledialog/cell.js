@@ -1,8 +1,8 @@
 // One cell of a drawn row: its elements, and what they were last given to show.
 //
 // What a cell may show is told by its kind, one a column:
-//   markup          the elements. `part` names one for the writers below, `dockey` and `id` are completed by the
-//                   row's key, `{short}` is the tab's short name.
+//   markup          the elements. `part` names one for the writers below, `dockey` and an `id` that begins with
+//                   `wren_` are completed by the row's key, `{short}` is the tab's short name.
 //   empty(record)   whether the cell has no elements at all; asked at a full refresh only
 //   rebuild(...)    what only a full refresh brings
 //   tick(...)       what every refresh brings; a full refresh runs it after `rebuild`
@@ -66,7 +66,7 @@ class Cell {
             element.removeAttribute('part');
         });
         this.bound = elements.filter(element => element.hasAttribute('dockey'));
-        this.prefixes = this.bound.map(element => element.id);
+        this.prefixes = this.bound.map(element => element.id.startsWith('wren_') ? element.id : '');
     }
 
     bind(key) {
@@ -112,6 +112,13 @@ class Cell {
     attribute(part, name, value) {
         if (this.differs(part, name, value)) {
             this.parts[part].setAttribute(name, value);
+        }
+    }
+
+    // What an input shows, which the user can change, is no attribute.
+    property(part, name, value) {
+        if (this.differs(part, name, value)) {
+            this.parts[part][name] = value;
         }
     }
 

@@ -62,39 +62,46 @@ COLUMNS.cameraName = {
     }
 };
 
-COLUMNS.alert = {
-    caption: () => translate('Alert'),
+// A picture that the style sheet chooses by the attributes of the element.
+//   word         the last word of its class and id
+//   attributes   from a record to the attributes
+function pictureColumn(options) {
+    const names = Object.keys(options.attributes);
+    return {
+        caption: () => translate(options.caption),
+        size: options.size,
+        align: 'right',
+        empty: options.empty,
+        markup: `<div class="wren_${options.word}" part="image" id="wren_{short}_${options.word}_" dockey></div>`,
+        tick(cell, record) {
+            names.forEach(name => cell.attribute('image', name, options.attributes[name](record)));
+        }
+    };
+}
+
+COLUMNS.alert = pictureColumn({
+    caption: 'Alert',
+    word: 'alert',
     size: '5%',
-    align: 'right',
     empty: isOffOrBatch,
-    markup: '<div class="wren_alert" part="image" id="wren_{short}_alert_" dockey></div>',
-    tick(cell, record) {
-        cell.attribute('image', 'alert', String(record.alert !== ''));
-        cell.attribute('image', 'alerts', record.alert);
-    }
-};
+    attributes: { alert: record => String(record.alert !== ''), alerts: record => record.alert }
+});
 
-COLUMNS.cameraStatus = {
-    caption: () => translate('State of the camera'),
+COLUMNS.cameraStatus = pictureColumn({
+    caption: 'State of the camera',
+    word: 'cameraStatus',
     size: '10%',
-    align: 'right',
     empty: isOff,
-    markup: '<div class="wren_cameraStatus" part="image" id="wren_{short}_cameraStatus_" dockey></div>',
-    tick(cell, record) {
-        cell.attribute('image', 'status', record.cameraStatus);
-    }
-};
+    attributes: { status: record => record.cameraStatus }
+});
 
-COLUMNS.sync = {
-    caption: () => translate('Sync signal input state'),
+COLUMNS.sync = pictureColumn({
+    caption: 'Sync signal input state',
+    word: 'sync',
     size: '10%',
-    align: 'right',
     empty: isOff,
-    markup: '<div class="wren_sync" part="image" id="wren_{short}_sync_" dockey></div>',
-    tick(cell, record) {
-        cell.attribute('image', 'sync', record.syncStatus);
-    }
-};
+    attributes: { sync: record => record.syncStatus }
+});
 
 // A field whose text is shown as it stands.
 function plainColumn(caption, field) {
@@ -115,18 +122,3 @@ COLUMNS.triggerIn = plainColumn('TriggerIn', 'triggerIn');
 COLUMNS.triggerSwIn = plainColumn('TriggerSwIn', 'triggerSwIn');
 COLUMNS.irigTimeStamp = plainColumn('IRIG Time Stamp', 'irigTimeStamp');
 COLUMNS.irigSync = plainColumn('IRIG Sync', 'irigSync');
-COLUMNS.recordedFrameRate = plainColumn('Frame rate', 'frameRate');
-COLUMNS.originalStartFrameNo = plainColumn('Start frame', 'originalStartFrameNo');
-COLUMNS.originalEndFrameNo = plainColumn('End frame', 'originalEndFrameNo');
-COLUMNS.totalFrame = plainColumn('Save frame', 'totalFrame');
-
-// Columns whose cells are still to come: they stand, empty, at their place in the order.
-function emptyColumn(caption, size) {
-    return { caption: () => translate(caption), size, align: 'left', empty: () => true };
-}
-
-COLUMNS.recordCheck = Object.assign(emptyColumn('recordCheck', '10%'), { align: 'right' });
-COLUMNS.plugin = emptyColumn('Plugin', '50%');
-COLUMNS.selectStartFrameNo = emptyColumn('selectStartFrameNo', '10%');
-COLUMNS.selectEndFrameNo = emptyColumn('selectEndFrameNo', '10%');
-COLUMNS.triggerOffset = emptyColumn('triggerOffset', '10%');

@@ -98,7 +98,9 @@ var probe = {
         const words = text => text.split(' ').filter(word => word).sort().join(' ');
         const attributes = Array.from(node.attributes)
             .map(one => `${one.name}="${one.name === 'class' ? words(one.value) : one.value}"`).sort();
-        return `<${[node.tagName].concat(attributes).join(' ')}>` +
+        // What an input shows is none of its attributes.
+        const shown = node.tagName === 'INPUT' ? [`shows ${node.type === 'checkbox' ? node.checked : node.value}`] : [];
+        return `<${[node.tagName].concat(attributes, shown).join(' ')}>` +
             `${Array.from(node.childNodes).map(probe.shape).join('')}</>`;
     },
 

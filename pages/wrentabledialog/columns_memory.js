@@ -1,0 +1,72 @@
+// Columns of the memory information tab. The record check stands on both memory tabs.
+COLUMNS.recordedFrameRate = plainColumn('Frame rate', 'frameRate');
+COLUMNS.originalStartFrameNo = plainColumn('Start frame', 'originalStartFrameNo');
+COLUMNS.originalEndFrameNo = plainColumn('End frame', 'originalEndFrameNo');
+COLUMNS.totalFrame = plainColumn('Save frame', 'totalFrame');
+
+COLUMNS.recordCheck = {
+    caption: () => translate('recordCheck'),
+    size: '10%',
+    align: 'right',
+    empty: record => isOffOrBatch(record) || record.totalFrame < 1,
+    markup: `<div class="flexWrapper" part="wrapper" dockey>
+        <input type="checkbox" class="wren_checkbox_recordCheck" part="box" id="wren_{short}_recordCheck_" dockey>
+        </div>`,
+    tick(cell, record, status) {
+        cell.flag('box', 'disabled', !this.send || status.disabled);
+        if (record.connected) {
+            cell.property('box', 'checked', Boolean(record.check));
+            cell.classes('wrapper', record.check ? 'flexWrapper wren-recordCheck-status' : 'flexWrapper');
+        }
+    }
+};
+
+// A number box, without its widget until it is touched. The widget takes `min` and `max` from the element.
+//   word   the last word of the input's id, which the key follows directly
+//   min, max, value   from a record to the number as text
+//   send   the bridge call that takes the keys and the new number
+function spinnerColumn(options) {
+    return {
+        caption: () => translate(options.caption),
+        size: '10%',
+        align: 'left',
+        send: options.send,
+        empty: record => isOff(record) || !record.totalFrame,
+        markup: `<input type="text" class="spinner" part="input" id="wren_spinner_${options.word}" dockey>`,
+        rebuild(cell, record) {
+            cell.property('input', 'value', options.value(record));
+        },
+        tick(cell, record, status) {
+            cell.flag('input', 'disabled', !options.send || status.disabled);
+            if (record.connected && record.totalFrame) {
+                cell.attribute('input', 'min', options.min(record));
+                cell.attribute('input', 'max', options.max(record));
+            }
+        }
+    };
+}
+
+// Start and end bound each other, so that they cannot cross.
+COLUMNS.selectStartFrameNo = spinnerColumn({
+    caption: 'selectStartFrameNo',
+    word: 'select_start_frameno',
+    min: record => record.selectStartMinFrameNo,
+    max: record => record.selectEndFrameNo,
+    value: record => record.selectStartFrameNo
+});
+
+COLUMNS.selectEndFrameNo = spinnerColumn({
+    caption: 'selectEndFrameNo',
+    word: 'select_end_frameno',
+    min: record => record.selectStartFrameNo,
+    max: record => record.selectEndMaxFrameNo,
+    value: record => record.selectEndFrameNo
+});
+
+COLUMNS.triggerOffset = spinnerColumn({
+    caption: 'triggerOffset',
+    word: 'trigger_offset',
+    min: record => record.minTriggerOffset,
+    max: record => record.maxTriggerOffset,
+    value: record => record.triggerOffset
+});

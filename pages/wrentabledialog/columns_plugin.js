@@ -1,0 +1,62 @@
+// The column of the plug-in tabs: an icon for each image plug-in of the camera.
+COLUMNS.plugin = {
+    caption: () => translate('Plugin'),
+    size: '50%',
+    align: 'left',
+    empty: isOff,
+    markup: `<div id="effects" dockey>
+        <div class="flexWrapper wren_effect_icons" part="icons" id="wren_{short}_effect_icons_" dockey></div>
+        </div>`,
+    tick(cell, record, status) {
+        const plugins = record.plugins || [];
+        const list = JSON.stringify([record.key, plugins.map(plugin => [plugin.name, plugin.okpattern])]);
+        if (cell.differs('icons', 'list', list)) {
+            drawIcons(cell, record.key, plugins);
+            cell.differs('icons', 'list', list);
+        }
+        plugins.forEach(plugin => {
+            const icon = iconOf(plugin.name);
+            cell.property(icon, 'checked', plugin.effective);
+            cell.flag(icon, 'disabled', !this.send || !plugin.enable);
+            cell.attribute(icon + ' label', 'cursorDisable', String(status.disabled));
+        });
+    }
+};
+
+// The name of a plug-in's picture; one that the host has no picture for goes by its own name.
+function iconOf(name) {
+    return Object.prototype.hasOwnProperty.call(pluginIcons, name) ? pluginIcons[name] : name;
+}
+
+function drawIcons(cell, key, plugins) {
+    cell.forget();
+    cell.parts.icons.textContent = '';
+    cell.parts = { icons: cell.parts.icons };
+    plugins.forEach(plugin => doAccept(cell, key, iconOf(plugin.name), plugin.name, plugin.okpattern));
+}
+
+// Adds an icon to the cell that has it not yet.
+function doAccept(cell, key, icon, name, isOkPat) {
+    if (cell.parts[icon]) {
+        return;
+    }
+    const id = `${icon}_${key}`;
+    const box = cell.parts[icon] = iconPart('input', { type: 'checkbox', id, checked: '', plgName: icon, dockey: key });
+    // Such a plug-in changes the images only when its dialog is left by OK.
+    if (isOkPat) {
+        box.setAttribute('plgPat', 'OK');
+    }
+    const label = cell.parts[icon + ' label'] = iconPart('label',
+        { class: 'localize', for: id, key: 'p_' + name, plgName: icon, dockey: key });
+    label.title = label.textContent = translate('p_' + name);
+    const item = iconPart('div', { class: 'item', dockey: key });
+    item.appendChild(box);
+    item.appendChild(label);
+    cell.parts.icons.appendChild(item);
+}
+
+function iconPart(tag, attributes) {
+    const element = document.createElement(tag);
+    Object.keys(attributes).forEach(name => element.setAttribute(name, attributes[name]));
+    return element;
+}
