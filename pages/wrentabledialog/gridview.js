@@ -49,11 +49,23 @@ class GridView {
             return 0;
         }
         const { scrollTop, scrollLeft } = this.grid.last;
+        const focus = document.activeElement;
+        const key = focus.getAttribute('dockey');
         const took = draw();
         this.grid.last.scrollTop = scrollTop;
         this.grid.last.scrollLeft = scrollLeft;
         this.mount();
+        this.focus(focus, key);
         return took;
+    }
+
+    // The keyboard follows its camera's row into the new frame.
+    focus(element, key) {
+        if (this.box && element !== document.activeElement && this.box.contains(element) &&
+            element.getAttribute('dockey') === key) {
+            element.focus();
+            this.box.scrollTop = this.grid.last.scrollTop;
+        }
     }
 
     // Runs changes of columns, each of which w2ui would answer with a refresh, and refreshes once.
@@ -166,33 +178,40 @@ class GridView {
         return { start, end: this.height > 0 ? start + count : start };
     }
 
-    // Puts a row on each line of the range. `full` draws all of them anew, else only those that come into view.
+    // Puts a row on each line of the range. `full` draws all of them anew, else only those that come into view. A row
+    // stays with its camera as long as that is in view, wherever it moves to.
     draw(full) {
         if (!this.status) {
             return;
         }
         const { start, end } = this.range();
-        const kept = new Map();
+        const records = this.grid.records.slice(start, end);
+        const keys = new Set(records.map(record => record.key));
+        const drawn = new Map();
         this.rows.forEach(row => {
-            if (row.index >= start && row.index < end) {
-                kept.set(row.index, row);
+            if (keys.has(row.key)) {
+                drawn.set(row.key, row);
             } else {
-                row.blur();
-                row.element.parentNode.removeChild(row.element);
-                this.spare.push(row);
+                this.putAway(row);
             }
         });
-        this.rows = [];
-        for (let index = start; index < end; index++) {
-            const row = kept.get(index) || this.spare.pop() || new DrawnRow(this.grid, this.tab);
-            row.index = index;
-            this.rows.push(row);
-            if (full || !kept.has(index)) {
-                this.rebuildRow(row, this.grid.records[index]);
+        this.rows = records.map((record, index) => {
+            const known = drawn.get(record.key);
+            const row = known || this.spare.pop() || new DrawnRow(this.grid, this.tab);
+            row.index = start + index;
+            if (full || !known) {
+                this.rebuildRow(row, record);
             }
-        }
+            return row;
+        });
         this.place(start, end);
         this.showSelection();
+    }
+
+    putAway(row) {
+        row.blur();
+        row.element.parentNode.removeChild(row.element);
+        this.spare.push(row);
     }
 
     // A row that comes into view shows what the last full refresh brought, and then what came since.

@@ -131,18 +131,21 @@ TEST(PageTick, LeavesAnOpenListAlone) {
 void vary(TestHost& test, int cameras, int turn) {
     const QList<QVariantMap> kinds = {
         {{"connected", false}},
-        {{"locked", true}, {"comment", "first\nsecond"}},
-        {{"lowLight", true}, {"shutter", 4000}},
-        {{"alerts", QStringList{"warm"}}, {"selected", true}, {"rate", 2000}},
-        {{"reduce", true}, {"resolution", QVariantList{512, 512}}, {"triggerMode", 1}},
-        {{"mobile", true}, {"status", zeb::CameraRecReady}, {"syncStatus", "Sync In"}},
-        {{"rate", 7}, {"shutter", 7}},  // not in the list
+        {{"locked", true}, {"comment", "first\nsecond"}, {"recordCheck", true}},
+        {{"lowLight", true}, {"shutter", 4000}, {"recorded", false}},
+        {{"alerts", QStringList{"warm"}}, {"selected", true}, {"rate", 2000}, {"plugins", QStringList{}}},
+        {{"reduce", true}, {"resolution", QVariantList{512, 512}}, {"triggerMode", 1}, {"irig", true}},
+        {{"mobile", true}, {"status", zeb::CameraRecReady}, {"syncStatus", "Sync In"}, {"recordedTrigger", 200}},
+        {{"rate", 7}, {"shutter", 7}, {"effectivePlugins", QStringList{"lut"}}},  // not in the lists
+        {{"plugins", QStringList{"mosaic", "lut"}}, {"selectedRange", QVariantList{20, 80}}},
     };
     const CameraState plain = Rig::standard(1).devices.first().heads.first();
     for (int i = 0; i < cameras; ++i) {
         QVariantMap state = plain.toPlain();
         state.insert("name", QStringLiteral("Camera %1 of turn %2").arg(i).arg(turn));
         state.insert("connected", true);
+        state.insert("recorded", true);
+        state.insert("recordedRange", QVariantList{i, 1000 + i});
         const QVariantMap& kind = kinds.at((i + turn) % kinds.size());
         for (auto member = kind.begin(); member != kind.end(); ++member) {
             state.insert(member.key(), member.value());
@@ -153,13 +156,14 @@ void vary(TestHost& test, int cameras, int turn) {
 
 TEST(PageRows, RowsUsedAgainEqualRowsDrawnNew) {
     constexpr int Cameras = 100;
-    for (const int tab : {0, 1}) {
-        // This page comes from memory mode, so that its live tabs have never been drawn.
+    for (int tab = 0; tab < 7; ++tab) {
+        // This page comes from the other mode, so that the tab has never been drawn.
+        const bool memory = tab >= 5;
         TestHost fresh(Rig::standard(Cameras));
         connectCameras(fresh, 1, Cameras);
-        fresh.host.appStatus().enterMode(zeb::MemoryMode);
+        fresh.host.appStatus().enterMode(memory ? zeb::LiveMode : zeb::MemoryMode);
         const QVariantMap drawn = [&] {
-            TablePage page(fresh, 5);
+            TablePage page(fresh, memory ? 0 : 5);
             vary(fresh, Cameras, 2);
             page.show(tab);
             return page.run("probe.shapes()").toObject().toVariantMap();
@@ -182,7 +186,7 @@ TEST(PageRows, RowsUsedAgainEqualRowsDrawnNew) {
         const QVariantMap again = page.run("probe.shapes()").toObject().toVariantMap();
 
         EXPECT_EQ(drawn.keys(), again.keys()) << "tab " << tab;
-        EXPECT_GT(drawn.size(), 300) << "tab " << tab;
+        EXPECT_GT(drawn.size(), 29 * 6) << "tab " << tab;
         for (const QString& key : drawn.keys()) {
             EXPECT_EQ(again.value(key).toString(), drawn.value(key).toString())
                 << key.toStdString() << " of tab " << tab;
@@ -204,6 +208,55 @@ TEST(PageRows, ARowThatComesIntoViewIsUpToDate) {
     EXPECT_EQ(page.text("$('.wren_label_edit_camera_name[dockey=100]').text()"), "changed");
     EXPECT_GT(page.number("document.getElementById('grid_wren-cameraInfo-list_records').scrollTop"), 1000)
         << "an update does not scroll";
+}
+
+const char* FocusedKey = "(document.activeElement.closest('[dockey]') || document.body).getAttribute('dockey') || ''";
+
+void vanish(TestHost& test, DOCKEY key) {
+    Fault gone;
+    gone.gone = true;
+    test.host.faults().plant(key, "*", gone);
+}
+
+TEST(PageRows, TheKeyboardStaysWithItsCamera) {
+    TestHost test(Rig::standard(60));
+    connectCameras(test, 1, 60);
+    TablePage page(test, 1);
+    page.run("$('.SumoSelect[dockey=5] .wren_livecontrol_framerate').parent().focus()");
+    EXPECT_EQ(page.text(FocusedKey), "5");
+    vanish(test, 2);
+    page.tick();
+    EXPECT_EQ(page.text(FocusedKey), "5");
+    page.update();
+    EXPECT_EQ(page.text(FocusedKey), "5") << "the row is one line higher now";
+    EXPECT_EQ(page.text("$(document.activeElement).closest('tr').attr('recid')"), "4");
+    EXPECT_TRUE(page.run("document.activeElement.matches('.SumoSelect')").toBool());
+
+    page.number("probe.scrollTo(100000)");
+    EXPECT_EQ(page.text(FocusedKey), "") << "no other camera gets it";
+    page.run("$('.SumoSelect[dockey=59]')[0].focus(); return 0");
+    vanish(test, 59);
+    page.update();
+    EXPECT_EQ(page.text(FocusedKey), "") << "nor when its own camera goes";
+}
+
+TEST(PageRows, AnOpenListSendsToTheCameraItWasOpenedFor) {
+    TestHost test(Rig::standard(60));
+    connectCameras(test, 1, 60);
+    TablePage page(test, 1);
+    page.click(".SumoSelect[dockey=\"5\"] p.wren_livecontrol_framerate");
+    vanish(test, 2);
+    page.tick();
+    const int place = page.number("$('.wren-dropdown option').get().findIndex(option => option.value === '2000')");
+    page.click(QString(".wren-dropdown .options li:nth-child(%1)").arg(place + 1));
+    QStringList changed;
+    for (Camera* camera : test.host.cameras().all()) {
+        if (camera->get(&CameraState::rate) != 1000) {
+            changed << QString("%1 to %2").arg(camera->key()).arg(camera->get(&CameraState::rate));
+        }
+    }
+    EXPECT_EQ(changed, QStringList("5 to 2000"));
+    EXPECT_EQ(page.text(FocusedKey), "5");
 }
 
 }  // namespace
