@@ -1,6 +1,7 @@
 #include "TablePage.h"
 
 #include <QApplication>
+#include <QRegularExpression>
 
 #include <gtest/gtest.h>
 
@@ -43,7 +44,7 @@ const char* Describe = R"js(
         colours.join(' ')];
 )js";
 
-/// What a state adds to the page of the live mode.
+/// What a state disables, hides and does.
 struct State {
     const char* name;
     const char* disabled;
@@ -53,6 +54,15 @@ struct State {
     /// Whether the recorder is still in no state of its own, so that there is nothing to cancel.
     bool idle = true;
 };
+
+const State Live = {"", "", ".exec-saving"};
+const State Memory = {"", "address list sync execute devices defaults",
+                      ".exec-recording .option-recording #wren_related_settings #wrenBatchLowlightBlock", "false",
+                      "wren-table-color-skyblue"};
+const State File = {"", "address list sync execute devices load read apply filter defaults display",
+                    ".exec-recording .option-recording #wren_related_settings #wrenBatchLowlightBlock .exec-saving "
+                    "#wrenGroupBlock",
+                    "true"};
 
 const char* Armed =
     "address list sync execute devices apply snapshot live partition test links on off defaults display";
@@ -88,24 +98,38 @@ const State States[] = {
     {"IsAllWrenLockDevice", "on off"},
 };
 
-/// The words of a text and some more, each once.
-QString together(const char* words, const QStringList& more) {
-    QStringList all = QString(words).split(' ', Qt::SkipEmptyParts) + more;
+const State& named(const QString& name) {
+    return *std::find_if(std::begin(States), std::end(States), [&](const State& state) { return name == state.name; });
+}
+
+/// The words of all texts, each once.
+QString together(const QStringList& texts) {
+    QStringList all = texts.join(' ').split(' ', Qt::SkipEmptyParts);
     all.removeDuplicates();
     all.sort();
     return all.join(' ');
 }
 
-QStringList expected(const State& state) {
-    QStringList always = {"off"};
-    if (state.idle) {
-        always.append("cancel");
+/// What states that are on together make of the page. None is in low light, so "OFF" is always disabled.
+QStringList expected(const QList<State>& states) {
+    QStringList disabled = {"off"};
+    QStringList hidden;
+    QStringList tabs;
+    QString colour = "none";
+    bool idle = true;
+    for (const State& state : states) {
+        disabled << state.disabled;
+        hidden << state.hidden;
+        tabs << state.tabs;
+        colour = state.colour == QString("none") ? colour : state.colour;
+        idle = idle && state.idle;
     }
-    return {together(state.disabled, always), together(state.hidden, {".exec-saving"}), state.tabs,
-            QString("%1 %1").arg(state.colour)};
+    if (idle) {
+        disabled << "cancel";
+    }
+    const char* off = tabs.contains("true") ? "true" : tabs.contains("5,6") ? "5,6" : "false";
+    return {together(disabled), together(hidden), off, QString("%1 %1").arg(colour)};
 }
-
-const State Live = {"", ""};
 
 int progressDialogs() {
     const QWidgetList windows = QApplication::topLevelWidgets();
@@ -138,22 +162,114 @@ protected:
 };
 
 TEST_F(PageControls, FollowEachState) {
-    EXPECT_EQ(described(), expected(Live));
+    EXPECT_EQ(described(), expected({Live}));
     for (const State& state : States) {
-        EXPECT_EQ(with(state.name, true), expected(state)) << state.name;
+        EXPECT_EQ(with(state.name, true), expected({Live, state})) << state.name;
         EXPECT_EQ(progressDialogs(), QString(state.name) == "IsReady" ? 1 : 0) << state.name;
-        EXPECT_EQ(with(state.name, false), expected(Live)) << state.name << " is over";
+        EXPECT_EQ(with(state.name, false), expected({Live})) << state.name << " is over";
     }
     EXPECT_EQ(progressDialogs(), 0);
 
-    const State waiting = {"", Armed, "", "true", Ready, false};
-    QStringList look = expected(waiting);
-    look[0] = together(Armed, {"off", "record"});
-    EXPECT_EQ(with("IsCTSReady", true), look);
-    with("IsCTSReady", false);
-
     test.host.prefs().setValue("recording/useTriggerTest", false);
-    EXPECT_EQ(described(), expected({"", "", "#trigger_test"}));
+    EXPECT_EQ(described(), expected({Live, {"", "", "#trigger_test"}}));
+}
+
+TEST_F(PageControls, FollowStatesThatMeet) {
+    struct Meeting {
+        zeb::OperatingMode mode;
+        QStringList states;
+        /// That a function of one state enables again.
+        QString free = {};
+    };
+    for (const Meeting& meeting : QList<Meeting>{
+             {zeb::LiveMode, {"IsReady", "IsRecording"}},
+             {zeb::LiveMode, {"IsReady", "IsTracking"}},
+             {zeb::LiveMode, {"IsReady", "ExistLowlight"}, "snapshot"},
+             {zeb::LiveMode, {"IsRecording", "IsDirectSaving"}},
+             {zeb::LiveMode, {"IsRecording", "IsOtherPluginOpen"}},
+             {zeb::LiveMode, {"IsRecording", "IsConflictPartition"}},
+             {zeb::LiveMode, {"IsRecordingError", "ExistLowlight"}},
+             {zeb::LiveMode, {"IsBgSaving", "IsTracking"}},
+             {zeb::LiveMode, {"IsBgSaving", "IsDirectSaving"}},
+             {zeb::LiveMode, {"IsNoneDocument", "IsNoneWindow"}},
+             {zeb::LiveMode, {"IsLensCalibration", "IsTracking"}},
+             {zeb::LiveMode, {"IsLensCalibration", "IsSendingNodeCommand"}},
+             {zeb::LiveMode, {"IsConflictPartition", "IsImageTriggerDetecting"}},
+             {zeb::LiveMode, {"IsAllWrenLockDevice", "IsHwTriggerSetting", "IsVariableSetting"}},
+             {zeb::MemoryMode, {}},
+             {zeb::MemoryMode, {"IsBgSaving"}},
+             {zeb::MemoryMode, {"ExistLowlight"}, "snapshot"},
+             {zeb::MemoryMode, {"IsNoneWindow"}},
+             {zeb::MemoryMode, {"IsOtherPluginOpen", "IsAdjustingImage"}},
+             {zeb::FileMode, {}},
+             {zeb::FileMode, {"IsOtherPluginOpen"}},
+             {zeb::FileMode, {"IsBgSaving"}},
+             {zeb::FileMode, {"IsTracking"}},
+         }) {
+        const QString what = QString::number(meeting.mode) + ' ' + meeting.states.join(" and ");
+        const State& mode = meeting.mode == zeb::LiveMode ? Live : meeting.mode == zeb::MemoryMode ? Memory : File;
+        test.host.appStatus().enterMode(meeting.mode);
+        page->settle();
+        QList<State> states = {mode};
+        for (const QString& name : meeting.states) {
+            states << named(name);
+            test.host.flags().set(name, true);
+        }
+        QStringList look = expected(states);
+        look[0] = look[0].split(' ').filter(QRegularExpression("^(?!" + meeting.free + "$)")).join(' ');
+        EXPECT_EQ(described(), look) << what.toStdString();
+        for (const QString& name : meeting.states) {
+            test.host.flags().set(name, false);
+        }
+        EXPECT_EQ(described(), expected({mode})) << what.toStdString() << " is over";
+    }
+}
+
+TEST_F(PageControls, WaitForTheSignal) {
+    QStringList look = expected({Live, {"", Armed, "", "true", Ready, false}});
+    look[0] = together({look[0], "record"});
+    EXPECT_EQ(with("IsCTSReady", true), look);
+    const auto record = [this] { return page->text("$('#timeline_rec_exec')[0].outerHTML"); };
+    const QString waiting = record();
+    EXPECT_TRUE(waiting.contains("stat-ctsready")) << waiting.toStdString();
+    EXPECT_TRUE(page->run("wrentabledialog_obj.isCtsReady").toBool());
+    with("IsCTSReady", false);
+    EXPECT_NE(record(), waiting);
+    EXPECT_FALSE(page->run("wrentabledialog_obj.isCtsReady").toBool());
+}
+
+/// Whatever a page's library or a user does to the controls, the next cycle sets right.
+TEST_F(PageControls, AreRightAgainAfterTheNextCycle) {
+    const char* upset = R"js(
+        $('button, #recordFilter, .groupButton, #timeline_trigger_test, #wren_io_setting').get().forEach(element => {
+            if (element.hasAttribute('disabled')) {
+                element.removeAttribute('disabled');
+            } else {
+                element.setAttribute('disabled', 'disabled');
+            }
+        });
+        $('.exec-recording, .option-recording, .exec-saving, #wren_related_settings').toggleClass('zeb-hidden');
+        $('#wren-root-block, #accordion_div').addClass('wren-table-color-red');
+        $('#tabs').tabs('option', 'disabled', [1]);
+        $('#timeline_rec_exec, #timeline_rec_cancel').addClass('ui-state-hover').text('?');
+        $('#timeline_trigger_test, #timeline_stopLiveCheckbox').prop('checked', (index, on) => !on);
+        $('#caption_on_off, #recording_partition').text('?');
+    )js";
+    const char* values = R"js(
+        return [$('.exec-recording button').get().map(button => button.outerHTML).join(),
+            $('#timeline_trigger_test, #timeline_stopLiveCheckbox').get().map(box => box.checked).join(),
+            $('#caption_on_off').text(), $('#recording_partition').text()];
+    )js";
+    for (const char* state : {"IsTracking", "IsRecordingError", "IsReady"}) {
+        const QStringList look = with(state, true);
+        const QStringList shown = page->list(values);
+        page->run(QString(upset) + "; return 0");
+        EXPECT_NE(page->list(Describe), look);
+        EXPECT_NE(page->list(values), shown);
+        EXPECT_EQ(described(), look) << state;
+        EXPECT_EQ(page->list(values), shown) << state;
+        with(state, false);
+    }
 }
 
 TEST_F(PageControls, HearOfEverySwitchOfTheHost) {
@@ -175,44 +291,24 @@ TEST_F(PageControls, HearOfEverySwitchOfTheHost) {
     EXPECT_GE(heard, 36);
 }
 
-TEST_F(PageControls, FollowTheMode) {
-    const char* moved = "address list sync execute devices defaults";
-    const char* live = ".exec-recording .option-recording #wren_related_settings #wrenBatchLowlightBlock";
+TEST_F(PageControls, TurnTheTabInFrontOff) {
     test.host.appStatus().enterMode(zeb::MemoryMode);
     page->settle();
-    EXPECT_EQ(described(), QStringList({together(moved, {"cancel", "off"}), together(live, {}), "false",
-                                        "wren-table-color-skyblue wren-table-color-skyblue"}));
     EXPECT_EQ(with("ExistLowlight", true)[2], "5,6") << "also while one of them is in front";
     EXPECT_EQ(page->number("$('#tabs').tabs('option', 'active')"), 5);
-    with("ExistLowlight", false);
-    test.host.appStatus().enterMode(zeb::FileMode);
-    page->settle();
-    EXPECT_EQ(described(),
-              QStringList({together(moved, {"cancel", "off", "load", "read", "apply", "filter", "display"}),
-                           together(live, {".exec-saving", "#wrenGroupBlock"}), "true", "none none"}));
-    EXPECT_EQ(with("IsTracking", true)[2], "true") << "tabs that are all off stay so";
-    with("IsTracking", false);
-    test.host.appStatus().enterMode(zeb::LiveMode);
-    page->settle();
-    EXPECT_EQ(described(), expected(Live));
 }
 
 TEST_F(PageControls, OverrideEachOther) {
-    with("IsReady", true);
-    EXPECT_EQ(with("IsTracking", true)[2], "true") << "the memory tabs alone would leave the others on";
-    EXPECT_EQ(with("IsReady", false)[2], "5,6");
-    with("IsTracking", false);
-
     with("ExistLowlight", true);
     EXPECT_TRUE(with("IsNoneWindow", true)[0].contains("snapshot")) << "there is no view to take one of";
     EXPECT_FALSE(with("IsNoneWindow", false)[0].contains("snapshot"));
     with("ExistLowlight", false);
 
     test.camera(2).change({{"lowLight", true}});
-    EXPECT_EQ(described()[0], together("partition record cancel test save defaults execute links", {}))
+    EXPECT_EQ(described()[0], together({"partition record cancel test save defaults execute links"}))
         << "either button of the low light has something to do";
     test.camera(1).change({{"lowLight", true}});
-    EXPECT_EQ(described()[0], together("partition record cancel test save defaults execute links on", {}));
+    EXPECT_EQ(described()[0], together({"partition record cancel test save defaults execute links on"}));
 }
 
 }  // namespace
