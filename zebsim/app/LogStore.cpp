@@ -2,7 +2,6 @@
 
 #include <QDateTime>
 
-#include <algorithm>
 #include <cstdio>
 
 namespace {
@@ -37,19 +36,6 @@ LogStore::~LogStore() {
     current = nullptr;
 }
 
-quint64 LogStore::count() const {
-    const std::lock_guard lock(m_mutex);
-    return m_count;
-}
-
-QStringList LogStore::since(quint64 mark) const {
-    const std::lock_guard lock(m_mutex);
-    const quint64 wanted = std::min<quint64>(m_count - mark, m_lines.size());
-    QStringList lines;
-    for (auto line = m_lines.end() - static_cast<std::ptrdiff_t>(wanted); line != m_lines.end(); ++line) lines << *line;
-    return lines;
-}
-
 void LogStore::handle(QtMsgType type, const QMessageLogContext& context, const QString& text) {
     if (type == QtFatalMsg) earlier(type, context, text);
     current->add(type, text);
@@ -58,12 +44,7 @@ void LogStore::handle(QtMsgType type, const QMessageLogContext& context, const Q
 void LogStore::add(QtMsgType type, const QString& text) {
     const QString time = QDateTime::currentDateTime().toString(QStringLiteral("yyyy-MM-dd HH:mm:ss.zzz"));
     const QString prefixed = time % QLatin1Char(' ') % levelName(type) % QLatin1Char(' ') % text;
-    {
-        const std::lock_guard lock(m_mutex);
-        m_lines.push_back(text);
-        ++m_count;
-        if (m_lines.size() > Capacity) m_lines.pop_front();
-    }
+    m_lines.add(text);
     if (type != QtDebugMsg && type != QtInfoMsg) std::fprintf(stderr, "%s\n", qPrintable(prefixed));
     Q_EMIT added(prefixed);
 }

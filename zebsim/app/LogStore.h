@@ -1,10 +1,9 @@
 #pragma once
 
+#include "host/Ring.h"
+
 #include <QObject>
 #include <QStringList>
-
-#include <deque>
-#include <mutex>
 
 /// The application's log: what goes through Qt's message logger while this lives. Any thread.
 ///
@@ -20,9 +19,9 @@ public:
     ~LogStore() override;
 
     /// Number of lines ever added; a mark for `since`.
-    quint64 count() const;
+    quint64 count() const { return m_lines.count(); }
     /// The lines after the mark, as they were logged.
-    QStringList since(quint64 mark) const;
+    QStringList since(quint64 mark) const { return m_lines.since(mark); }
 
 Q_SIGNALS:
     /// `prefixed` is the line with its time and level; raised on the thread that logged.
@@ -32,7 +31,5 @@ private:
     static void handle(QtMsgType type, const QMessageLogContext& context, const QString& text);
     void add(QtMsgType type, const QString& text);
 
-    mutable std::mutex m_mutex;
-    std::deque<QString> m_lines;
-    quint64 m_count = 0;
+    Ring<QString> m_lines{Capacity};
 };

@@ -1,14 +1,12 @@
 #pragma once
 
 #include "ZebTypes.h"
+#include "host/Ring.h"
 
 #include <QObject>
 #include <QVariantList>
-#include <QVariantMap>
 
 #include <atomic>
-#include <deque>
-#include <mutex>
 
 /// The calls of the plug-in that change something, the newest of them: a ring. Any thread.
 class Journal : public QObject {
@@ -28,9 +26,9 @@ public:
     void setEnabled(bool enabled);
 
     /// Number of calls ever added; a mark for `since`.
-    quint64 count() const;
+    quint64 count() const { return m_calls.count(); }
     /// The calls added after the mark `mark`, oldest first, each a map with `call` (text) and `args` (list).
-    QVariantList since(quint64 mark) const;
+    QVariantList since(quint64 mark) const { return m_calls.since(mark); }
 
 Q_SIGNALS:
     /// A call was added; raised on the thread that made it.
@@ -38,7 +36,5 @@ Q_SIGNALS:
 
 private:
     std::atomic<bool> m_enabled{true};
-    mutable std::mutex m_mutex;
-    std::deque<QVariantMap> m_calls;
-    quint64 m_count = 0;
+    Ring<QVariant> m_calls{Capacity};
 };
