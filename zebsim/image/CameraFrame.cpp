@@ -1,0 +1,18 @@
+#include "image/CameraFrame.h"
+
+#include "camera/CameraState.h"
+#include "camera/Recording.h"
+
+bool CameraFrame::operator==(const CameraFrame& other) const {
+    return camera == other.camera && resolution == other.resolution && number == other.number && time == other.time;
+}
+
+CameraFrame CameraFrame::live(const CameraState& state, qint64 now) {
+    return {state.name, state.resolution, now * state.rate / 1000, now * 1000};
+}
+
+CameraFrame CameraFrame::recorded(const CameraState& state, const Recording& recording, int frame) {
+    const qint64 number = qint64(frame) - (state.triggerOffsetEnabled ? state.triggerOffset : recording.trigger);
+    const qint64 time = recording.rate > 0 ? number * 1000000 / recording.rate : 0;
+    return {state.name, state.resolution, number, time};
+}

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QSize>
+#include <QString>
+
+struct CameraState;
+struct Recording;
+
+/// What can be seen in one frame of a camera.
+struct CameraFrame {
+    QString camera;
+    QSize resolution;
+    /// Live: frames since the host's clock was made. Recorded: counted from the zero point, so below 0 before it.
+    qint64 number = 0;
+    /// Time of that number, in microseconds.
+    qint64 time = 0;
+
+    bool operator==(const CameraFrame& other) const;
+
+    /// What the camera sees at `now`, a time of the host's clock.
+    static CameraFrame live(const CameraState& state, qint64 now);
+    /// The frame with this number in the memory.
+    static CameraFrame recorded(const CameraState& state, const Recording& recording, int frame);
+};

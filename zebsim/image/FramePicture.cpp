@@ -1,0 +1,95 @@
+#include "image/FramePicture.h"
+
+#include <QFontMetrics>
+#include <QPainter>
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+constexpr int Spokes = 5;
+/// Of a live image: so many frames make one turn.
+constexpr int FramesInTurn = 2400;
+constexpr int TextShare = 14;
+constexpr int SmallestText = 9;
+
+/// A colour of the camera's own, the same at every start of the program.
+QColor groundOf(const QString& camera) {
+    unsigned int sum = 7;
+    for (const QChar letter : camera) sum = sum * 31 + letter.unicode();
+    return QColor::fromHsv(int(sum % 360), 90, 96);
+}
+
+void drawGround(QPainter& painter, const QColor& colour, const QSize& size) {
+    QLinearGradient gradient(0, 0, 0, size.height());
+    gradient.setColorAt(0, colour.lighter(150));
+    gradient.setColorAt(1, colour.darker(190));
+    painter.fillRect(QRect({}, size), gradient);
+}
+
+/// Both the wheel and the mark that runs along the lower edge tell how far the frames have come.
+void drawMotion(QPainter& painter, const QColor& colour, const QSize& size, qint64 number) {
+    const qint64 inTurn = ((number % FramesInTurn) + FramesInTurn) % FramesInTurn;
+    const double part = double(inTurn) / FramesInTurn;
+    const double radius = std::min(size.width(), size.height()) * 0.32;
+    const QPointF middle(size.width() * 0.5, size.height() * 0.5);
+    painter.setPen(QPen(colour.lighter(260), std::max(1.0, radius * 0.06)));
+    painter.setBrush(colour.lighter(120));
+    painter.drawEllipse(middle, radius, radius);
+    for (int spoke = 0; spoke < Spokes; ++spoke) {
+        const double angle = 2 * M_PI * (part + double(spoke) / Spokes);
+        painter.drawLine(middle, middle + QPointF(std::sin(angle), -std::cos(angle)) * radius);
+    }
+    const double angle = 2 * M_PI * part;
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(QColor(255, 214, 90));
+    painter.drawEllipse(middle + QPointF(std::sin(angle), -std::cos(angle)) * radius, radius * 0.14, radius * 0.14);
+    painter.drawRect(QRectF(part * size.width() * 0.96, size.height() * 0.985, size.width() * 0.04, size.height()));
+}
+
+void drawLine(QPainter& painter, const QRect& place, Qt::Alignment alignment, const QString& text) {
+    const QString fitting = painter.fontMetrics().elidedText(text, Qt::ElideRight, place.width());
+    painter.setPen(QColor(0, 0, 0, 180));
+    painter.drawText(place.translated(1, 1), int(alignment) | Qt::TextSingleLine, fitting);
+    painter.setPen(Qt::white);
+    painter.drawText(place, int(alignment) | Qt::TextSingleLine, fitting);
+}
+
+QString timeText(qint64 microseconds) {
+    return QString::number(double(microseconds) / 1e6, 'f', 6) % QStringLiteral(" s");
+}
+
+void drawTexts(QPainter& painter, const CameraFrame& frame, const QSize& size) {
+    QFont font;
+    font.setPixelSize(std::max(SmallestText, size.height() / TextShare));
+    painter.setFont(font);
+    const int margin = std::max(3, size.height() / 40);
+    const QRect place = QRect({}, size).adjusted(margin, margin, -margin, -margin);
+    drawLine(painter, place, Qt::AlignLeft | Qt::AlignTop, frame.camera);
+    const QString number = QStringLiteral("# %1").arg(frame.number);
+    drawLine(painter, place, Qt::AlignLeft | Qt::AlignBottom, number);
+    const int left = painter.fontMetrics().horizontalAdvance(number) + 2 * margin;
+    const QString time = timeText(frame.time);
+    // Half a number would be a wrong one.
+    if (painter.fontMetrics().horizontalAdvance(time) <= place.width() - left)
+        drawLine(painter, place, Qt::AlignRight | Qt::AlignBottom, time);
+}
+
+}  // namespace
+
+QImage drawFrame(const CameraFrame& frame, const QSize& size) {
+    QImage picture(size, QImage::Format_RGB32);
+    if (picture.isNull()) return picture;
+    QPainter painter(&picture);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const QColor colour = groundOf(frame.camera);
+    drawGround(painter, colour, size);
+    drawMotion(painter, colour, size, frame.number);
+    drawTexts(painter, frame, size);
+    return picture;
+}
+
+QSize fitInto(const QSize& bounds, const QSize& resolution) {
+    return bounds.isEmpty() || resolution.isEmpty() ? QSize() : resolution.scaled(bounds, Qt::KeepAspectRatio);
+}

@@ -1,0 +1,12 @@
+#pragma once
+
+#include "image/CameraFrame.h"
+
+#include <QImage>
+
+/// The picture of a frame, `size` pixels large: a turning wheel over a coloured ground, and the camera's name, the
+/// frame's number and its time. Equal frames make equal pictures. Any thread.
+QImage drawFrame(const CameraFrame& frame, const QSize& size);
+
+/// The largest size with the sides of `resolution` that fits into `bounds`; empty when either is.
+QSize fitInto(const QSize& bounds, const QSize& resolution);
