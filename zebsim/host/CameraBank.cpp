@@ -21,7 +21,7 @@ void CameraBank::replace(const Rig& rig) {
 }
 
 Camera* CameraBank::find(DOCKEY key) const {
-    if (key < 1 || key > m_cameras.size()) {
+    if (!has(key)) {
         return nullptr;
     }
     Camera* camera = m_cameras[key - 1];

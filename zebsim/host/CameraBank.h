@@ -23,6 +23,8 @@ public:
 
     /// Null when there is no such camera, or it is gone.
     Camera* find(DOCKEY key) const;
+    /// Whether there is such a camera, gone or not.
+    bool has(DOCKEY key) const { return key >= 1 && key <= m_cameras.size(); }
     /// In the order of their keys, without those that are gone.
     std::vector<Camera*> all() const;
 

@@ -2,6 +2,7 @@
 
 #include "ScenarioError.h"
 #include "camera/Camera.h"
+#include "camera/CameraOperations.h"
 #include "camera/Rig.h"
 #include "host/SimHost.h"
 
@@ -61,5 +62,9 @@ void CameraScripting::setCamera(unsigned int key, const QVariantMap& members) {
 }
 
 void CameraScripting::fault(unsigned int key, const QString& operation, const QVariantMap& fault) {
+    // One that a fault has made gone comes back by an empty fault.
+    if (!m_host.cameras().has(key)) throw ScenarioError(QStringLiteral("there is no camera %1").arg(key));
+    if (operation != QLatin1String("*") && !cameraOperations().contains(operation))
+        throw ScenarioError(QStringLiteral("no camera has an operation \"%1\"").arg(operation));
     m_host.faults().plant(key, operation, faultOf(fault));
 }

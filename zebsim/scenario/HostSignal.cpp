@@ -7,6 +7,7 @@
 #include <QMetaMethod>
 
 #include <atomic>
+#include <memory>
 #include <thread>
 
 void raiseHostSignal(PLG_Interface& plugin, const QString& name, const QString& argument,
@@ -22,11 +23,17 @@ void raiseHostSignal(PLG_Interface& plugin, const QString& name, const QString& 
         return;
     }
     if (!isSignal(plain + "(QString)")) throw ScenarioError(QStringLiteral("the plug-in has no signal %1").arg(name));
-    std::atomic<bool> served{false};
-    std::thread raiser([&] {
-        QMetaObject::invokeMethod(&plugin, plain, Qt::DirectConnection, Q_ARG(QString, argument));
-        served = true;
+    // Shared with the thread, which may outlive this call.
+    const auto served = std::make_shared<std::atomic<bool>>(false);
+    std::thread raiser([served, plain, argument, plugin = &plugin] {
+        QMetaObject::invokeMethod(plugin, plain, Qt::DirectConnection, Q_ARG(QString, argument));
+        *served = true;
     });
-    waitUntil([&] { return served.load(); }, givenUp);
-    raiser.join();
+    if (waitUntil([&] { return served->load(); }, givenUp)) {
+        raiser.join();
+        return;
+    }
+    // It waits for this thread, so nobody must wait for it.
+    raiser.detach();
+    throw ScenarioError(QStringLiteral("nobody has served the signal %1").arg(name));
 }

@@ -160,12 +160,8 @@ void ScenarioApi::modal(const QJSValue& function) {
     guarded([&] { m_dialogs.expect(function); });
 }
 
-void ScenarioApi::answer(const QJSValue& first, const QJSValue& second, const QJSValue& third, const QJSValue& fourth) {
-    QStringList answers;
-    for (const QJSValue& text : {first, second, third, fourth}) {
-        if (!text.isUndefined()) answers << text.toString();
-    }
-    m_dialogs.queueAnswers(answers);
+void ScenarioApi::answers(const QStringList& texts) {
+    m_dialogs.queueAnswers(texts);
 }
 
 QJSValue ScenarioApi::messages() {

@@ -45,8 +45,8 @@ public:
     Q_INVOKABLE void speed(double factor);
 
     Q_INVOKABLE void modal(const QJSValue& function);
-    Q_INVOKABLE void answer(const QJSValue& first, const QJSValue& second = {}, const QJSValue& third = {},
-                            const QJSValue& fourth = {});
+    /// As `zeb.answer`, which takes any number of texts, hands them over.
+    Q_INVOKABLE void answers(const QStringList& texts);
     Q_INVOKABLE QJSValue messages();
     Q_INVOKABLE QJSValue log();
     Q_INVOKABLE QJSValue calls();

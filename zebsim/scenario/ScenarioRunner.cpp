@@ -17,6 +17,10 @@ namespace {
 // Value of a program that was not left by an exception: what is thrown need not be an error object.
 const QString EndMark = QStringLiteral("the script has run to its end");
 
+// A method of an object of ours has a fixed number of arguments.
+const QString Extension = QStringLiteral(
+    "(function (api) { return Object.create(api, {answer: {value: (...texts) => api.answers(texts.map(String))}}); })");
+
 void printLine(std::FILE* stream, const QString& text) {
     std::fprintf(stream, "%s\n", qUtf8Printable(text));
     std::fflush(stream);
@@ -46,7 +50,8 @@ int ScenarioRunner::run(const QString& path, const QString& program) {
     const QJSValue self = m_engine.newQObject(this);
     for (const char* name : {"print", "check"})
         m_engine.globalObject().setProperty(QLatin1String(name), self.property(QLatin1String(name)));
-    m_engine.globalObject().setProperty(QStringLiteral("zeb"), m_engine.newQObject(&api));
+    QJSValue extend = m_engine.evaluate(Extension);
+    m_engine.globalObject().setProperty(QStringLiteral("zeb"), extend.call({m_engine.newQObject(&api)}));
 
     const ScriptWatchdog watchdog(m_timeout, [this] { expired(); });
     const QJSValue end = m_engine.evaluate(program % QLatin1String("\n;'") % EndMark % QLatin1Char('\''), path);
