@@ -6,9 +6,12 @@
 
 #include <algorithm>
 
-int SimMdi::countMdiWindow(bool /*visible*/, int /*kind*/) const {
+int SimMdi::countMdiWindow(bool visible, int /*kind*/) const {
     if (m_flags.isOn(QStringLiteral("IsNoneWindow"))) {
         return 0;
+    }
+    if (m_counter) {
+        return m_counter(visible);
     }
     const auto cameras = m_cameras.all();
     return int(std::count_if(cameras.begin(), cameras.end(),
