@@ -6,7 +6,6 @@
 #include "DOC_Interface.h"
 #include "DocKeys.h"
 #include "GUI_ProgressDialog.h"
-#include "OperationEventHandler.h"
 #include "PLG_Interface.h"
 #include "ParameterEditing.h"
 #include "ReadyProgress.h"
@@ -20,7 +19,6 @@
 #include "records/RecordModel.h"
 
 #include <QCoreApplication>
-#include <QDebug>
 #include <QDialog>
 
 namespace {
@@ -59,24 +57,16 @@ JS_Mediator_WrenTableDialog::~JS_Mediator_WrenTableDialog() {
     delete m_readyProgress;
 }
 
-/// For what changes cameras or the host. The page can get here inside another call only from an event loop that this
-/// call runs, over a box or a dialog: what the user decides there must not find other cameras than the user saw.
+/// A call that is refused while another waits and leaves its lines in the log.
 template <typename Work>
-void JS_Mediator_WrenTableDialog::changingCall(const char* method, const QString& args, Work&& work) {
-    if (isInCall()) {
-        qWarning() << methodName(method) << args << "refused: another call of the table still waits for its end";
-        return;
-    }
-    bridgeCall(*this, std::forward<Work>(work));
+void JS_Mediator_WrenTableDialog::traced(const char* method, const QString& args, Work&& work) {
+    tracedCall(*this, methodName(method), args, std::forward<Work>(work));
 }
 
-/// A changing call that the page sees: its end asks for an update.
+/// The same, and its end asks for an update.
 template <typename Work>
 void JS_Mediator_WrenTableDialog::operation(const char* method, const QString& args, Work&& work) {
-    changingCall(method, args, [&] {
-        const OperationEventHandler scope(*this, methodName(method), args);
-        work();
-    });
+    operationCall(*this, methodName(method), args, std::forward<Work>(work));
 }
 
 void JS_Mediator_WrenTableDialog::onOpen() {
@@ -166,10 +156,8 @@ QString JS_Mediator_WrenTableDialog::getSearchAddress() {
 bool JS_Mediator_WrenTableDialog::confirmDisconnect(const QVariantList& keys) {
     bool agreed = false;
     const QString args = keysArg(keys);
-    changingCall("confirmDisconnect", args, [&] {
-        const TraceScope scope(methodName("confirmDisconnect"), args);
-        agreed = CameraManagement(host(), m_state).confirmDisconnect(toDocKeys(keys));
-    });
+    traced("confirmDisconnect", args,
+           [&] { agreed = CameraManagement(host(), m_state).confirmDisconnect(toDocKeys(keys)); });
     return agreed;
 }
 
@@ -185,8 +173,7 @@ void JS_Mediator_WrenTableDialog::connect(const QVariantList& keys, bool connect
 
 void JS_Mediator_WrenTableDialog::select(const QVariantList& keys, bool select) {
     const QString args = keysArg(keys) % traceArg(QStringLiteral("select"), select);
-    changingCall("select", args, [&] {
-        const TraceScope scope(methodName("select"), args);
+    traced("select", args, [&] {
         if (CameraManagement(host(), m_state).select(toDocKeys(keys), select)) {
             m_timers.waitForSelection(SelectionWait);
             activateTable();

@@ -83,7 +83,7 @@ protected:
 
 private:
     template <typename Work>
-    void changingCall(const char* method, const QString& args, Work&& work);
+    void traced(const char* method, const QString& args, Work&& work);
     template <typename Work>
     void operation(const char* method, const QString& args, Work&& work);
 

@@ -2,6 +2,10 @@
 
 #include "BridgePause.h"
 #include "JS_Mediator.h"
+#include "OperationEventHandler.h"
+#include "TraceScope.h"
+
+#include <QDebug>
 
 #include <utility>
 
@@ -24,4 +28,34 @@ template <typename Result, typename Work>
 Result bridgeCall(JS_Mediator& bridge, Result fallback, Work&& work) {
     bridgeCall(bridge, [&] { fallback = std::forward<Work>(work)(); });
     return fallback;
+}
+
+/// For what changes cameras or the host. The page can get here inside another call only from an event loop that this
+/// call runs, over a box or a dialog: what the user decides there must not find other cameras than the user saw. So it
+/// is refused with a line in the log. `method` is class and method, `args` what `traceArg` built.
+template <typename Work>
+void changingCall(JS_Mediator& bridge, const QString& method, const QString& args, Work&& work) {
+    if (bridge.isInCall()) {
+        qWarning() << method << args << "refused: another call of the page still waits for its end";
+        return;
+    }
+    bridgeCall(bridge, std::forward<Work>(work));
+}
+
+/// A changing call whose end asks for an update.
+template <typename Work>
+void operationCall(JS_Mediator& bridge, const QString& method, const QString& args, Work&& work) {
+    changingCall(bridge, method, args, [&] {
+        const OperationEventHandler scope(bridge, method, args);
+        std::forward<Work>(work)();
+    });
+}
+
+/// A changing call that only leaves its lines in the log.
+template <typename Work>
+void tracedCall(JS_Mediator& bridge, const QString& method, const QString& args, Work&& work) {
+    changingCall(bridge, method, args, [&] {
+        const TraceScope scope(method, args);
+        std::forward<Work>(work)();
+    });
 }

@@ -3,20 +3,34 @@
 #include "APP_ConcurrentException.h"
 #include "APP_Exception.h"
 #include "BridgeCall.h"
+#include "CalibrationUnits.h"
 #include "ControlStatus.h"
+#include "DOC_Frames.h"
+#include "DOC_Interface.h"
+#include "DeterScope.h"
+#include "DeviceInfo.h"
+#include "DocumentGuard.h"
 #include "LogFailure.h"
 #include "OperationEventHandler.h"
+#include "RangeMax.h"
 #include "Style.h"
+#include "SupportFileExport.h"
 #include "TextResource.h"
 #include "TraceText.h"
 #include "ZebAppStatus.h"
+#include "ZebCameraOps.h"
+#include "ZebDocManager.h"
 #include "ZebHost.h"
 #include "ZebMdi.h"
+#include "ZebPrefsDialog.h"
+#include "ZebSaver.h"
+#include "ZebViewOps.h"
 
 #include <QDebug>
 #include <QDialog>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QScopedValueRollback>
 #include <QTimer>
 #include <QWebFrame>
 #include <QWebPage>
@@ -24,6 +38,12 @@
 
 #include <optional>
 #include <utility>
+
+namespace {
+
+const QString OpenPrefsDialog = QStringLiteral("JS_Mediator::openPrefsDialog");
+
+}  // namespace
 
 JS_Mediator::JS_Mediator(ZebHost* host, const QString& name, QObject* parent)
     : ZebPageBridge(parent), m_host(host), m_name(name) {}
@@ -83,9 +103,7 @@ void JS_Mediator::errorHandler(std::exception& e) {
 }
 
 void JS_Mediator::setStyle(const QString& style) {
-    bridgeCall(*this, [&] {
-        const OperationEventHandler scope(*this, QStringLiteral("JS_Mediator::setStyle"),
-                                          traceArg(QStringLiteral("style"), style));
+    operationCall(*this, QStringLiteral("JS_Mediator::setStyle"), traceArg(QStringLiteral("style"), style), [&] {
         host().setPref(QStringLiteral("env/style"), style);
         QWidget* mainWindow = host().getMainWindow();
         if (!mainWindow) return;
@@ -96,6 +114,26 @@ void JS_Mediator::setStyle(const QString& style) {
 
 QString JS_Mediator::getStyle() {
     return bridgeCall(*this, QString(), [&] { return styleName(host()); });
+}
+
+void JS_Mediator::openPlugin(const QString& name) {
+    operationCall(*this, QStringLiteral("JS_Mediator::openPlugin"), traceArg(QStringLiteral("name"), name), [&] {
+        std::optional<DocumentGuard> guard;
+        if (name == QLatin1String("binning")) guard.emplace(host());
+        host().appStatus().openPlugin(name);
+        if (guard) guard->release();
+    });
+}
+
+void JS_Mediator::closePlugin() {
+    operationCall(*this, QStringLiteral("JS_Mediator::closePlugin"), {}, [&] { host().appStatus().closePanel(); });
+}
+
+void JS_Mediator::closePlugin(const QString& name) {
+    operationCall(*this, QStringLiteral("JS_Mediator::closePlugin"), traceArg(QStringLiteral("name"), name), [&] {
+        const DeterScope deter(host());
+        host().appStatus().closePlugin(name);
+    });
 }
 
 void JS_Mediator::info(const QString& message) {
@@ -130,6 +168,10 @@ QString JS_Mediator::translate(const QString& string, const QString& arg) {
     return bridgeCall(*this, QString(), [&] { return host().translate(string).arg(host().translate(arg)); });
 }
 
+bool JS_Mediator::isReady() {
+    return bridgeCall(*this, false, [&] { return host().isReady(); });
+}
+
 bool JS_Mediator::isLiveMode() {
     return bridgeCall(*this, false, [&] { return host().isLiveMode(); });
 }
@@ -140,6 +182,20 @@ bool JS_Mediator::isMemoryMode() {
 
 bool JS_Mediator::isFileMode() {
     return bridgeCall(*this, false, [&] { return host().isFileMode(); });
+}
+
+bool JS_Mediator::isPlaying() {
+    return bridgeCall(*this, false, [&] {
+        DOC_Interface* doc = host().docManager().getCurrentDoc();
+        return doc && doc->frames().isPlaying();
+    });
+}
+
+bool JS_Mediator::isConnected() {
+    return bridgeCall(*this, false, [&] {
+        const DOC_Interface* doc = host().docManager().getCurrentDoc();
+        return doc && doc->isConnected();
+    });
 }
 
 QString JS_Mediator::load(const QString& fileName) {
@@ -213,9 +269,35 @@ void JS_Mediator::setPrefDQString(const QString& name, const QString& value, boo
               [&] { host().setPref(name, QVariant(value)); });
 }
 
-void JS_Mediator::log(const QString&) {}
+int JS_Mediator::openPrefsDialog(const QString& page) {
+    int result = 0;
+    changingCall(*this, OpenPrefsDialog, traceArg(QStringLiteral("page"), page),
+                 [&] { result = runPrefsDialog(page); });
+    return result;
+}
 
-void JS_Mediator::debugLog(const QString&) {}
+int JS_Mediator::runPrefsDialog(const QString& page) {
+    const TraceScope scope(OpenPrefsDialog, traceArg(QStringLiteral("page"), page));
+    if (host().isLiveMode()) host().cameraOps().stopForPrefs();
+    ZebPrefsDialog* dialog = host().getPrefsDialog();
+    if (!dialog) return 0;
+    dialog->setPage(host().translate(page));
+    return dialog->exec();
+}
+
+void JS_Mediator::openPrefsEthernetSettings() {
+    tracedCall(*this, QStringLiteral("JS_Mediator::openPrefsEthernetSettings"), {},
+               [&] { host().openPrefsEthernetSettings(); });
+}
+
+void JS_Mediator::openExportSupportFileDialog() {
+    tracedCall(*this, QStringLiteral("JS_Mediator::openExportSupportFileDialog"), {},
+               [&] { SupportFileExport(host()).run(); });
+}
+
+void JS_Mediator::openAbouZebDialog() {
+    tracedCall(*this, QStringLiteral("JS_Mediator::openAbouZebDialog"), {}, [&] { host().openAboutDialog(); });
+}
 
 void JS_Mediator::infoLog(const QString& msg) {
     qInfo() << msg;
@@ -231,6 +313,76 @@ QString JS_Mediator::getControlStatus(DOC_Interface* pDoc) {
     });
 }
 
+QVariantList JS_Mediator::getDeviceInfoList(bool isMinilist) {
+    QVariantList devices;
+    bridgeCall(*this, [&] { appendDeviceInfo(devices, host(), isMinilist); });
+    return devices;
+}
+
+QVariantList JS_Mediator::getSelectedDockey() {
+    return bridgeCall(*this, QVariantList(), [&] {
+        QVariantList keys;
+        for (const DOCKEY key : host().docManager().getSelectedDocKeys(0)) keys.append(QString::number(key));
+        return keys;
+    });
+}
+
+void JS_Mediator::setSelectDoc(const QString& docKey) {
+    const QScopedValueRollback<unsigned int> mask(m_updateMask, AllParts);
+    operationCall(*this, QStringLiteral("JS_Mediator::setSelectDocSub"), traceArg(QStringLiteral("docKey"), docKey),
+                  [&] {
+                      const DeterScope deter(host());
+                      bool isKey = false;
+                      const DOCKEY key = docKey.toUInt(&isKey);
+                      host().docManager().setSelectedDocs(isKey ? DocKeyList{key} : DocKeyList(), 0);
+                  });
+}
+
+void JS_Mediator::selectAllDocs() {
+    changingCall(*this, QStringLiteral("JS_Mediator::selectAllDocs"), {}, [&] {
+        host().appStatus().clearCurrentPlugin();
+        const QScopedValueRollback<unsigned int> mask(m_updateMask, AllParts);
+        ZebDocManager& docs = host().docManager();
+        const DOCKEY current = docs.getCurrentDockey(0);
+        {
+            const OperationEventHandler scope(*this, QStringLiteral("JS_Mediator::selectAllDocsSub"));
+            const DeterScope deter(host());
+            docs.selectAllDocs(this);
+        }
+        if (current != zeb::NoDocKey) docs.setCurrentDoc(current, 1);
+    });
+}
+
+void JS_Mediator::copySelectAreaToClipboard() {
+    constexpr int SelectedArea = 2;
+    tracedCall(*this, QStringLiteral("JS_Mediator::copySelectAreaToClipboard"), {},
+               [&] { host().saver().copyToClipboard(SelectedArea); });
+}
+
+bool JS_Mediator::isWaveDataAcquisition() {
+    return bridgeCall(*this, false, [&] { return host().docManager().isWaveDataAcquisition(); });
+}
+
+QString JS_Mediator::getCalibrationUnits() {
+    return bridgeCall(*this, QString(), [&] { return calibrationUnits(host()); });
+}
+
+int JS_Mediator::getRangeMax() {
+    return bridgeCall(*this, 0, [&] { return m_rangeMax = rangeMax(host()); });
+}
+
+bool JS_Mediator::isUpdateIgnore() {
+    return bridgeCall(*this, false, [&] { return host().isUpdateIgnore(); });
+}
+
+void JS_Mediator::setDisableAllQuickTool() {
+    tracedCall(*this, QStringLiteral("JS_Mediator::setDisableAllQuickTool"), {}, [&] {
+        host().docManager().setActiveQuickTool(QString());
+        host().docManager().refreshDocList(1);
+        host().refreshTools();
+    });
+}
+
 void JS_Mediator::userOperationLogWebView(const QString& url, const QString& operation, const QString& control,
                                           const QString& id, const QString& className, const QVariant& value) {
     logUserOperation(url, operation, control, id, className, value);
@@ -240,10 +392,73 @@ void JS_Mediator::userOperationErrorLog(const QString& message) {
     logUserError(message);
 }
 
+void JS_Mediator::setConnectedCameraShowing(bool check) {
+    bridgeCall(*this, [&] { host().setPrefBool(QLatin1String(ConnectedCameraOnlyPref), check); });
+}
+
+bool JS_Mediator::getConnectedCameraShowing() {
+    return bridgeCall(*this, false, [&] { return host().getPrefBool(QLatin1String(ConnectedCameraOnlyPref), false); });
+}
+
 int JS_Mediator::countMdiWindow(bool visible) {
     return bridgeCall(*this, 0, [&] { return host().mdi().countMdiWindow(visible, 2); });
 }
 
 bool JS_Mediator::isWrenRunning() {
     return bridgeCall(*this, false, [&] { return host().appStatus().isWrenRunning(); });
+}
+
+void JS_Mediator::checkRestoredPrefs() {
+    bridgeCall(*this, [&] {
+        if (host().isPrefsRestored()) host().setPrefsRestored(1);
+    });
+}
+
+void JS_Mediator::hideSelectBox() {
+    bridgeCall(*this, [&] { host().hideSelectBox(); });
+}
+
+bool JS_Mediator::isShownDropBox() {
+    return bridgeCall(*this, false, [&] { return host().isShownDropBox(); });
+}
+
+void JS_Mediator::showDropDownBox(const QString& key, int x, int y, int width, int height) {
+    bridgeCall(*this, [&] { host().showDropDownBox(key, QRect(x, y, width, height)); });
+}
+
+void JS_Mediator::hideDropDownBox(const QString& key) {
+    bridgeCall(*this, [&] { host().hideDropDownBox(key); });
+}
+
+void JS_Mediator::hideDropDownBox(const QString& key, int x, int y) {
+    bridgeCall(*this, [&] { host().hideDropDownBoxAt(key, QPoint(x, y)); });
+}
+
+bool JS_Mediator::isMVersion() {
+    return bridgeCall(*this, false, [&] { return host().appStatus().isMVersion(); });
+}
+
+QString JS_Mediator::getFlip() {
+    return bridgeCall(*this, QString(), [&] {
+        const DOCKEY key = host().docManager().getCurrentDockey(0);
+        const ZebViewOps& views = host().viewOps();
+        return QString::number((views.isHorizontalFlip(key) ? 1 : 0) + (views.isVerticalFlip(key) ? 2 : 0));
+    });
+}
+
+QString JS_Mediator::getRotate() {
+    return bridgeCall(*this, QStringLiteral("0"), [&] {
+        const DOCKEY key = host().docManager().getCurrentDockey(0);
+        return QString::number(qRound(host().viewOps().getRotation(key) * 360));
+    });
+}
+
+void JS_Mediator::refreshSkipFrames(const ExportTargets& targets) {
+    if (targets.isEmpty()) return;
+    const unsigned int frames = leastFrameCount(targets);
+    const QList<unsigned int> rates =
+        getSkipMode() == SkipByTime ? recordRates(host(), targets) : QList<unsigned int>();
+    if (getSkipMode() == SkipByTime && rates.isEmpty()) setSkipMode(SkipByFrames);
+    m_skip = rates.isEmpty() ? skipByFrames(m_skip, frames) : skipByTime(m_skip, rates, frames);
+    applySkipFrames(m_skip.clamped(getSkipFrames()));
 }

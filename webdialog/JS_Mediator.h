@@ -1,5 +1,6 @@
 #pragma once
 
+#include "FrameSkip.h"
 #include "ZebPageBridge.h"
 
 #include <QList>
@@ -16,8 +17,9 @@ class ZebHost;
 
 /// Base of all bridges: what a page can ask of the application. GUI thread.
 ///
-/// Slots are the page's interface. They run in the frame of `bridgeCall`, so none throws; after a failure, which
-/// the user has been shown, a slot answers its default. A slot may run an event loop, and other slots inside it.
+/// Slots are the page's interface, and their order is part of it. They run in the frame of `bridgeCall`, so none
+/// throws; after a failure, which the user has been shown, a slot answers its default. A slot may run an event loop,
+/// and other slots inside it; those that change cameras or the host, or open a window, are refused there.
 class JS_Mediator : public ZebPageBridge {
     Q_OBJECT
 
@@ -36,6 +38,10 @@ public:
     /// Shows the exception that is being handled to the user. Only inside a `catch`; does not throw.
     void reportCurrentFailure() noexcept;
 
+    /// What a bridge of an export does with the values that its page chooses.
+    virtual void setSkipMode(int mode) { Q_UNUSED(mode) }
+    virtual void applySkipFrames(double frames) { Q_UNUSED(frames) }
+
 Q_SIGNALS:
     void open();
     void update();
@@ -43,9 +49,22 @@ Q_SIGNALS:
     void enterQtWidget();
 
 public Q_SLOTS:
+    // How an export thins out its frames.
+    virtual int getSkipMode() { return SkipByFrames; }
+    virtual void setSkipFrames(double val) { Q_UNUSED(val) }
+    virtual double getSkipFrames() { return 1.0; }
+    double getSkipMinFrames() { return m_skip.minFrames; }
+    double getSkipMaxFrames() { return m_skip.maxFrames; }
+
+    // Style and plug-ins.
     void setStyle(const QString& style);
     QString getStyle();
+    void openPlugin(const QString& name);
+    /// Without a name: the panel of the plug-in that works on the images.
+    void closePlugin();
+    void closePlugin(const QString& name);
 
+    // Messages and texts.
     void errorHandler(std::exception& e);
     void info(const QString& message);
     void warn(const QString& message);
@@ -57,16 +76,21 @@ public Q_SLOTS:
     /// Both texts are translated, then `%1` of the first is replaced by the second.
     QString translate(const QString& string, const QString& arg);
 
+    // State of the application and of the current document.
+    bool isReady();
     bool isLiveMode();
     bool isMemoryMode();
     virtual bool isFileMode();
+    bool isPlaying();
+    bool isConnected();
+
     /// Text of a resource; empty with a warning in the log when there is none of that name.
     QString load(const QString& fileName);
-
     void updateUI();
     void deterUpdateUI(bool deter);
     void addPrefsJSObject() override;
 
+    // Preferences.
     int getPrefInt(const QString& name, const QVariant& defaultValue = QVariant());
     bool getPrefBool(const QString& name, const QVariant& defaultValue = QVariant());
     float getPrefFloat(const QString& name, const QVariant& defaultValue = QVariant());
@@ -78,23 +102,82 @@ public Q_SLOTS:
     void setPrefString(const QString& name, const QString& value, bool update = true);
     void setPrefDQString(const QString& name, const QString& value, bool update = true);
 
-    void log(const QString& msg);
-    void debugLog(const QString& msg);
+    // Windows of the host. Each runs an event loop.
+    /// A `QDialog::DialogCode`; 0 when there is no such dialog.
+    int openPrefsDialog(const QString& page = QString());
+    void openPrefsEthernetSettings();
+    void openExportSupportFileDialog();
+    void openAbouZebDialog();
+
+    // The log; `log` and `debugLog` write nothing.
+    void log(const QString& msg) { Q_UNUSED(msg) }
+    void debugLog(const QString& msg) { Q_UNUSED(msg) }
     void infoLog(const QString& msg);
     void errorLog(const QString& msg);
+
     /// The control states as one JSON object, empty text after a failure; `pDoc` null stands for the current document.
     QString getControlStatus(DOC_Interface* pDoc = nullptr);
-    /// Number of image windows; with `visible` of those alone that are shown.
-    int countMdiWindow(bool visible = true);
+
+    // Documents.
+    /// A map for each; after a failure those up to the document that failed.
+    virtual QVariantList getDeviceInfoList(bool isMinilist);
+    /// Keys as decimal texts.
+    QVariantList getSelectedDockey();
+    /// Selects that document and no other; none for what is no key.
+    void setSelectDoc(const QString& docKey);
+    void selectAllDocs();
+    void copySelectAreaToClipboard();
+    bool isWaveDataAcquisition();
+    /// A JSON array.
+    QString getCalibrationUnits();
+    /// Largest value of a pixel.
+    int getRangeMax();
+    bool isUpdateIgnore();
+    void setDisableAllQuickTool();
+
     void userOperationLogWebView(const QString& url, const QString& operation, const QString& control,
                                  const QString& id, const QString& className, const QVariant& value);
     void userOperationErrorLog(const QString& message);
+
+    /// Whether a list of devices shows only those that are connected.
+    void setConnectedCameraShowing(bool check);
+    bool getConnectedCameraShowing();
+    /// Number of image windows; with `visible` of those alone that are shown.
+    int countMdiWindow(bool visible = true);
     bool isWrenRunning();
+    /// The user has seen that the preferences are those of the factory.
+    void checkRestoredPrefs();
+
+    // Drop-down lists of the host; places in the pixels of the page.
+    virtual void hideSelectBox();
+    bool isShownDropBox();
+    void showDropDownBox(const QString& key, int x, int y, int width, int height);
+    void hideDropDownBox(const QString& key);
+    /// Unless the point lies on the list.
+    void hideDropDownBox(const QString& key, int x, int y);
+
+    bool isMVersion();
+    /// How the current image is shown, a number as text: 1 flipped from left to right, plus 2 upside down.
+    QString getFlip();
+    /// Degrees clockwise; "0" after a failure.
+    QString getRotate();
 
 protected:
     ZebHost& host() const { return *m_host; }
+    /// `openPrefsDialog` for a call that runs already. May throw.
+    int runPrefsDialog(const QString& page);
     /// The view that holds the page; null before the host has given it and after it is gone.
     QWebView* view() const;
+
+    /// Fits the frame skip to what is to be exported and applies it anew. Nothing happens without a target. Throws
+    /// what the documents throw.
+    void refreshSkipFrames(const ExportTargets& targets);
+    /// The distances between two frames that are on offer, by time.
+    const QList<double>& skipList() const { return m_skip.list; }
+    /// The last answer of `getRangeMax`.
+    int lastRangeMax() const { return m_rangeMax; }
+    /// The parts of the host that `updateUI` asks for.
+    void setUpdateMask(unsigned int mask) { m_updateMask = mask; }
 
     /// The first of nested calls begins, the last of them has ended. Must not throw.
     virtual void beginCall() {}
@@ -109,10 +192,15 @@ private:
     template <typename Store>
     void storePref(const QString& method, const QString& name, const QVariant& value, bool update, Store store);
 
+    /// Mask of an update of everything that stands in pages.
+    static constexpr unsigned int AllParts = 63;
+
     ZebHost* const m_host;
     QPointer<QWebView> m_view;
     const QString m_name;
-    unsigned int m_updateMask = 63;
+    int m_rangeMax = 0;
+    unsigned int m_updateMask = AllParts;
+    FrameSkip m_skip;
     int m_callDepth = 0;
     QList<std::function<void()>> m_afterCalls;
 };

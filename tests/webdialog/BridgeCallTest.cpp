@@ -118,7 +118,7 @@ TEST_F(BridgeCall, NoSlotLetsAnExceptionOut) {
         ++slots;
     }
     std::cout << slots << " slots\n";
-    EXPECT_GE(slots, 40);
+    EXPECT_GE(slots, 85);
 }
 
 }  // namespace

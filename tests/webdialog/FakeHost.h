@@ -61,9 +61,23 @@ public:
     /// The questions about its state, by name and with their argument, that the host answers with yes.
     QSet<QString> yes;
     QHash<DOCKEY, FakeDoc*> docs;
+    /// Keys that count as connected; a key without a document is a camera that is gone.
+    DocKeyList connectedKeys;
+    DocKeyList selectedKeys;
+    unsigned int variable = 0;
+    /// Of every view, as a fraction of a full turn.
+    double rotation = 0.0;
+    ZebPrefsDialog* prefsDialog = nullptr;
+    QObject appObject;
+    QObject mainObject;
     QMutex docMutex;
     /// Runs in the place of a message box.
     std::function<void()> onBox = [] {};
+    /// Runs in the place of a modal progress, and of the writing of a support file (on its thread).
+    std::function<void(QFutureWatcherBase&)> onProgress = [](QFutureWatcherBase&) {};
+    std::function<bool(const QString&, const ZebSupportFile&)> onExport = [](const QString&, const ZebSupportFile&) {
+        return true;
+    };
     /// Name of an operation that throws, "*" for all.
     QString failing;
 
@@ -128,7 +142,10 @@ public:
 
     bool isPrefsRestored() const override { return answer("isPrefsRestored"); }
     void setPrefsRestored(int state) override { note("setPrefsRestored", state); }
-    ZebPrefsDialog* getPrefsDialog() override { return prefsDialog; }
+    ZebPrefsDialog* getPrefsDialog() override {
+        failIf("getPrefsDialog");
+        return prefsDialog;
+    }
     void openPrefsEthernetSettings() override { box("openPrefsEthernetSettings", {}); }
     void openAboutDialog() override { box("openAboutDialog", {}); }
     void execProgress(const QString& text, QFutureWatcherBase& watcher) override {
@@ -203,9 +220,15 @@ public:
     DOC_Interface* getDocAny(DOCKEY key) override { return docs.value(key); }
     DOC_Interface* getCurrentDoc() override { return currentDoc; }
     bool isCurrentDoc(DOCKEY) const override { return false; }
-    DOCKEY getCurrentDockey(int) const override { return currentDoc != nullptr ? currentDoc->getKey() : zeb::NoDocKey; }
+    DOCKEY getCurrentDockey(int) const override {
+        failIf("getCurrentDockey");
+        return currentDoc != nullptr ? currentDoc->getKey() : zeb::NoDocKey;
+    }
     void setCurrentDoc(DOCKEY key, int) override { note("setCurrentDoc", key); }
-    DocKeyList getDocKeys(int) const override { return connectedKeys; }
+    DocKeyList getDocKeys(int) const override {
+        failIf("getDocKeys");
+        return connectedKeys;
+    }
     DocList getCameraDocs() override {
         DocList all;
         for (const DOCKEY key : connectedKeys) {
@@ -213,7 +236,10 @@ public:
         }
         return all;
     }
-    DocKeyList getSelectedDocKeys(int) const override { return selectedKeys; }
+    DocKeyList getSelectedDocKeys(int) const override {
+        failIf("getSelectedDocKeys");
+        return selectedKeys;
+    }
     void setSelectedDocs(const DocKeyList& keys, int) override {
         QStringList texts;
         for (const DOCKEY key : keys) texts.append(QString::number(key));
@@ -306,9 +332,12 @@ public:
     bool isDirectSaving(int kind) const override { return answer("isDirectSaving", kind); }
     bool isAllWrenLockDevice() const override { return answer("isAllWrenLockDevice"); }
 
-    double getRotation(DOCKEY) const override { return 0.0; }
-    bool isHorizontalFlip(DOCKEY) const override { return false; }
-    bool isVerticalFlip(DOCKEY) const override { return false; }
+    double getRotation(DOCKEY) const override {
+        failIf("getRotation");
+        return rotation;
+    }
+    bool isHorizontalFlip(DOCKEY key) const override { return answer("isHorizontalFlip", key); }
+    bool isVerticalFlip(DOCKEY key) const override { return answer("isVerticalFlip", key); }
     double getZoom(DOCKEY) const override { return 1.0; }
     bool isCycleView() const override { return answer("isCycleView"); }
     int countMdiWindow(bool visible, int kind) const override {
@@ -320,20 +349,6 @@ public:
     void endMacro() override {}
     bool canUndo() const override { return answer("canUndo"); }
     bool canRedo() const override { return answer("canRedo"); }
-
-    DocKeyList selectedKeys;
-    unsigned int variable = 0;
-    ZebPrefsDialog* prefsDialog = nullptr;
-    QObject appObject;
-    QObject mainObject;
-    /// Runs in the place of a modal progress, and of the writing of a support file (on its thread).
-    std::function<void(QFutureWatcherBase&)> onProgress = [](QFutureWatcherBase&) {};
-    std::function<bool(const QString&, const ZebSupportFile&)> onExport = [](const QString&, const ZebSupportFile&) {
-        return true;
-    };
-
-    /// Keys that count as connected; a key without a document is a camera that is gone.
-    DocKeyList connectedKeys;
 
 private:
     void failIf(const char* operation) const {

@@ -1,0 +1,290 @@
+#include "FakeCamera.h"
+#include "FakeHost.h"
+#include "ProbeBridge.h"
+#include "RangeMax.h"
+#include "ZebPrefsDialog.h"
+
+#include <QDialog>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+class FakePrefsDialog : public ZebPrefsDialog {
+public:
+    void setPage(const QString& page) override { Journal::note("setPage " % page); }
+    int exec() override {
+        Journal::note("exec");
+        return QDialog::Accepted;
+    }
+};
+
+/// Opens what only bridges derived from the base set.
+class NarrowBridge : public ProbeBridge {
+public:
+    using ProbeBridge::lastRangeMax;
+    using ProbeBridge::ProbeBridge;
+    using ProbeBridge::setUpdateMask;
+};
+
+class BridgeSlots : public testing::Test {
+protected:
+    /// What happens in `act`, but for the pause around it.
+    QStringList during(const std::function<void()>& act) {
+        journal.take();
+        act();
+        QStringList entries = journal.take();
+        EXPECT_EQ(entries.isEmpty() ? QString() : entries.last(), "resume");
+        return entries.mid(1, entries.size() - 2);
+    }
+
+    Journal journal;
+    FakeHost host;
+    NarrowBridge bridge{&host};
+};
+
+/// The lines around an operation of the base, `args` as in the log.
+QStringList operation(const QString& name, const QString& args, QStringList work, int mask = 63) {
+    work.prepend(QStringLiteral("info: [ENTER] \"JS_Mediator::%1\" \"%2\"").arg(name, args));
+    work.append(QStringLiteral("updateUI %1").arg(mask));
+    work.append(QStringLiteral("info: [LEAVE] \"JS_Mediator::%1\"").arg(name));
+    return work;
+}
+
+QStringList traced(const QString& name, const QString& args, const QStringList& work) {
+    QStringList lines = operation(name, args, work);
+    lines.removeAt(lines.size() - 2);
+    return lines;
+}
+
+TEST_F(BridgeSlots, PluginsOpenAndClose) {
+    EXPECT_EQ(during([&] { bridge.openPlugin("lut"); }), operation("openPlugin", "[name:lut]", {"openPlugin lut"}));
+    EXPECT_EQ(during([&] { bridge.openPlugin("binning"); }),
+              operation("openPlugin", "[name:binning]", {"pauseLive", "openPlugin binning", "resumeLive"}));
+    EXPECT_EQ(during([&] { bridge.closePlugin(); }), operation("closePlugin", "", {"closePanel"}));
+    EXPECT_EQ(during([&] { bridge.closePlugin("lut"); }),
+              operation("closePlugin", "[name:lut]", {"deterUpdateUI true", "closePlugin lut", "deterUpdateUI false"}));
+}
+
+TEST_F(BridgeSlots, AFailureOfTheGuardReachesTheUser) {
+    FakeDoc silent(7, true);
+    host.docs[7] = &silent;
+    host.connectedKeys = {7};
+    EXPECT_EQ(during([&] { bridge.openPlugin("binning"); }).last(), "errorHandler camera is silent");
+    host.failing = "openPlugin";
+    EXPECT_EQ(during([&] { bridge.openPlugin("binning"); }).last(), "errorHandler openPlugin");
+    EXPECT_FALSE(host.livePaused);
+    EXPECT_TRUE(host.docMutex.tryLock());
+    host.docMutex.unlock();
+}
+
+TEST_F(BridgeSlots, PreferencesDialog) {
+    FakePrefsDialog dialog;
+    EXPECT_EQ(bridge.openPrefsDialog("Save"), 0) << "there is none";
+    host.prefsDialog = &dialog;
+    EXPECT_EQ(during([&] { EXPECT_EQ(bridge.openPrefsDialog("Save"), QDialog::Accepted); }),
+              traced("openPrefsDialog", "[page:Save]", {"stopForPrefs", "setPage <Save>", "exec"}));
+    host.mode = zeb::MemoryMode;
+    EXPECT_EQ(during([&] { bridge.openPrefsDialog(); }), traced("openPrefsDialog", "[page:]", {"setPage <>", "exec"}));
+    host.mode = zeb::LiveMode;
+    host.failing = "stopForPrefs";
+    EXPECT_EQ(bridge.openPrefsDialog(), 0);
+}
+
+TEST_F(BridgeSlots, OneLineOfTheHost) {
+    const struct {
+        std::function<void()> act;
+        QStringList calls;
+    } cases[] = {
+        {[&] { bridge.openPrefsEthernetSettings(); },
+         traced("openPrefsEthernetSettings", "", {"openPrefsEthernetSettings"})},
+        {[&] { bridge.openAbouZebDialog(); }, traced("openAbouZebDialog", "", {"openAboutDialog"})},
+        {[&] { bridge.copySelectAreaToClipboard(); }, traced("copySelectAreaToClipboard", "", {"copyToClipboard 2"})},
+        {[&] { bridge.setDisableAllQuickTool(); },
+         traced("setDisableAllQuickTool", "", {"setActiveQuickTool", "refreshDocList 1", "refreshTools"})},
+        {[&] { bridge.setConnectedCameraShowing(true); },
+         {"setPrefBool devicemanager/connectedCameraOnlyShowing=true"}},
+        {[&] { bridge.checkRestoredPrefs(); }, {}},
+        {[&] { bridge.hideSelectBox(); }, {"hideSelectBox"}},
+        {[&] { bridge.showDropDownBox("a\"<b>", -3, 4, 10, 20); }, {"showDropDownBox a\"<b> (-3,4)-(6,23)"}},
+        {[&] { bridge.hideDropDownBox("key"); }, {"hideDropDownBox key"}},
+        {[&] { bridge.hideDropDownBox("key", 5, -6); }, {"hideDropDownBoxAt key (5,-6)"}},
+    };
+    for (const auto& row : cases) EXPECT_EQ(during(row.act), row.calls);
+    host.yes = {"isPrefsRestored"};
+    EXPECT_EQ(during([&] { bridge.checkRestoredPrefs(); }), QStringList("setPrefsRestored 1"));
+}
+
+TEST_F(BridgeSlots, YesAndNo) {
+    FakeCamera current(3);
+    host.currentDoc = &current;
+    const struct {
+        const char* name;
+        std::function<bool()> ask;
+    } cases[] = {
+        {"isReady", [&] { return bridge.isReady(); }},
+        {"isShownDropBox", [&] { return bridge.isShownDropBox(); }},
+        {"isMVersion", [&] { return bridge.isMVersion(); }},
+        {"isUpdateIgnore", [&] { return bridge.isUpdateIgnore(); }},
+        {"isWaveDataAcquisition", [&] { return bridge.isWaveDataAcquisition(); }},
+    };
+    for (const auto& row : cases) {
+        for (const auto& asked : cases) {
+            host.yes = {row.name};
+            EXPECT_EQ(asked.ask(), &asked == &row) << asked.name;
+        }
+    }
+    EXPECT_TRUE(bridge.isConnected());
+    EXPECT_FALSE(bridge.isPlaying());
+    current.connected = false;
+    current.playing = true;
+    EXPECT_FALSE(bridge.isConnected());
+    EXPECT_TRUE(bridge.isPlaying());
+    host.currentDoc = nullptr;
+    EXPECT_FALSE(bridge.isConnected());
+    EXPECT_FALSE(bridge.isPlaying());
+}
+
+TEST_F(BridgeSlots, SelectionOfOne) {
+    bridge.setUpdateMask(4);
+    const struct {
+        const char* text;
+        const char* keys;
+    } cases[] = {
+        {"12", " 12"},      {"4294967295", " 4294967295"},
+        {"abc", ""},        {"", ""},
+        {"-1", ""},         {"0x10", ""},
+        {"4294967296", ""}, {"1.5", ""},
+        {"12<b>'\"", ""},
+    };
+    for (const auto& row : cases) {
+        const QStringList entries = during([&] { bridge.setSelectDoc(row.text); });
+        EXPECT_TRUE(entries.first().startsWith("info: [ENTER] \"JS_Mediator::setSelectDocSub\" \"[docKey:"));
+        EXPECT_EQ(entries.mid(1),
+                  QStringList({"deterUpdateUI true", QString("setSelectedDocs") + row.keys, "deterUpdateUI false",
+                               "updateUI 63", "info: [LEAVE] \"JS_Mediator::setSelectDocSub\""}))
+            << row.text;
+    }
+    host.failing = "setSelectedDocs";
+    EXPECT_EQ(during([&] { bridge.setSelectDoc("1"); }).last(), "errorHandler setSelectedDocs");
+    EXPECT_EQ(during([&] { bridge.updateUI(); }), QStringList("updateUI 4"));
+}
+
+TEST_F(BridgeSlots, SelectionOfAllKeepsTheCurrentDocument) {
+    bridge.setUpdateMask(4);
+    const QStringList all = {"deterUpdateUI true", "selectAllDocs", "deterUpdateUI false"};
+    const QStringList without = QStringList("clearCurrentPlugin") + operation("selectAllDocsSub", "", all);
+    EXPECT_EQ(during([&] { bridge.selectAllDocs(); }), without);
+    FakeDoc current(9);
+    host.currentDoc = &current;
+    EXPECT_EQ(during([&] { bridge.selectAllDocs(); }), without + QStringList("setCurrentDoc 9"));
+
+    for (const char* failing : {"clearCurrentPlugin", "getCurrentDockey", "selectAllDocs", "setCurrentDoc"}) {
+        host.failing = failing;
+        EXPECT_EQ(during([&] { bridge.selectAllDocs(); }).last(), QString("errorHandler ") + failing);
+        EXPECT_EQ(during([&] { bridge.updateUI(); }), QStringList("updateUI 4"));
+    }
+}
+
+TEST_F(BridgeSlots, RangeOfPixels) {
+    const struct {
+        std::optional<zeb::ImageFormat> format;
+        int max;
+    } cases[] = {{{}, 255},       {{{8, 7}}, 255},       {{{4, 12}}, 15},       {{{16, 12}}, 4095}, {{{16, 10}}, 1023},
+                 {{{9, 8}}, 255}, {{{32, 31}}, INT_MAX}, {{{64, 64}}, INT_MAX}, {{{-5, -5}}, 0}};
+    for (const auto& row : cases) EXPECT_EQ(largestPixelValue(row.format), row.max);
+
+    FakeCamera current(3);
+    current.format = {16, 12};
+    EXPECT_EQ(bridge.getRangeMax(), 255);
+    host.prefs["display/DisplayWithRealBitDepth"] = true;
+    EXPECT_EQ(bridge.getRangeMax(), 255) << "no document";
+    host.currentDoc = &current;
+    EXPECT_EQ(bridge.getRangeMax(), 4095);
+    EXPECT_EQ(bridge.lastRangeMax(), 4095);
+    host.failing = "getPref";
+    EXPECT_EQ(bridge.getRangeMax(), 0);
+}
+
+TEST_F(BridgeSlots, UnitsOfLength) {
+    const auto units = [&] { return bridge.getCalibrationUnits().replace('"', '\'').toStdString(); };
+    const std::string imperial =
+        "[{'value':'Inches (in)','view':'<inch>'},{'value':'Feet (ft)','view':'<feet>'},"
+        "{'value':'Yard (yd)','view':'<yard>'}]";
+    EXPECT_EQ(units(), imperial);
+    for (const int system : {1, -1}) {
+        host.prefs["customize/unitSystem"] = system;
+        EXPECT_EQ(units(),
+                  "[{'value':'Micro (µm)','view':'<µm>'},{'value':'Milimeters (mm)','view':'<mm>'},"
+                  "{'value':'Meters (m)','view':'<m>'}]");
+    }
+    host.prefs["customize/unitSystem"] = 0;
+    EXPECT_EQ(units(), imperial);
+}
+
+TEST_F(BridgeSlots, FlipAndRotation) {
+    FakeDoc current(9);
+    host.currentDoc = &current;
+    const struct {
+        QSet<QString> yes;
+        double turn;
+        const char* flip;
+        const char* rotate;
+    } cases[] = {
+        {{}, 0.0, "0", "0"},
+        {{"isHorizontalFlip 9"}, 0.25, "1", "90"},
+        {{"isVerticalFlip 9"}, 0.5, "2", "180"},
+        {{"isHorizontalFlip 9", "isVerticalFlip 9"}, 0.75, "3", "270"},
+    };
+    for (const auto& row : cases) {
+        host.yes = row.yes;
+        host.rotation = row.turn;
+        EXPECT_EQ(bridge.getFlip(), row.flip);
+        EXPECT_EQ(bridge.getRotate(), row.rotate);
+    }
+    host.failing = "getRotation";
+    EXPECT_EQ(bridge.getRotate(), "0");
+}
+
+TEST_F(BridgeSlots, ChangesThatMeetAWaitingCallAreRefused) {
+    const struct {
+        const char* name;
+        std::function<void()> act;
+    } changes[] = {
+        {"setStyle", [&] { bridge.setStyle("dark"); }},
+        {"openPlugin", [&] { bridge.openPlugin("binning"); }},
+        {"closePlugin", [&] { bridge.closePlugin(); }},
+        {"closePlugin", [&] { bridge.closePlugin("lut"); }},
+        {"openPrefsDialog", [&] { EXPECT_EQ(bridge.openPrefsDialog("Save"), 0); }},
+        {"openPrefsEthernetSettings", [&] { bridge.openPrefsEthernetSettings(); }},
+        {"openExportSupportFileDialog", [&] { bridge.openExportSupportFileDialog(); }},
+        {"openAbouZebDialog", [&] { bridge.openAbouZebDialog(); }},
+        {"setSelectDocSub", [&] { bridge.setSelectDoc("3"); }},
+        {"selectAllDocs", [&] { bridge.selectAllDocs(); }},
+        {"copySelectAreaToClipboard", [&] { bridge.copySelectAreaToClipboard(); }},
+        {"setDisableAllQuickTool", [&] { bridge.setDisableAllQuickTool(); }},
+    };
+    int asked = 0;
+    host.onBox = [&] {
+        for (const auto& row : changes) {
+            journal.take();
+            row.act();
+            const QStringList entries = journal.take();
+            ASSERT_EQ(entries.size(), 1) << entries.join('\n').toStdString();
+            EXPECT_TRUE(entries[0].startsWith(QString("warning: \"JS_Mediator::%1\"").arg(row.name))) << row.name;
+            EXPECT_TRUE(entries[0].contains("refused")) << row.name;
+            ++asked;
+        }
+        // What asks goes on, and so does the update.
+        EXPECT_TRUE(bridge.isLiveMode());
+        EXPECT_NE(bridge.getControlStatus(), "");
+        bridge.updateUI();
+        bridge.setPrefInt("column", 5);
+        EXPECT_EQ(host.prefs["column"], 5);
+        EXPECT_EQ(journal.take().filter("updateUI 63").size(), 2);
+    };
+    EXPECT_TRUE(bridge.confirm("sure?"));
+    EXPECT_EQ(asked, 12);
+}
+
+}  // namespace

@@ -1,0 +1,125 @@
+#include "FakeCamera.h"
+#include "FakeHost.h"
+#include "ProbeBridge.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+QString text(double value) {
+    return QString::number(value, 'f', 4);
+}
+
+/// "least-most: offers", the numbers with four decimals.
+QString text(const FrameSkip& skip) {
+    QStringList offers;
+    for (const double value : skip.list) offers.append(text(value));
+    return QStringLiteral("%1-%2: %3").arg(text(skip.minFrames), text(skip.maxFrames), offers.join(' '));
+}
+
+TEST(FrameSkip, ByTime) {
+    FrameSkip before;
+    before.rate = 1000;
+    before.list = {1.0, 2.0, 3.0};
+    const struct {
+        const char* sentence;
+        FrameSkip before;
+        QList<unsigned int> rates;
+        unsigned int frames;
+        int rate;
+        const char* skip;
+    } cases[] = {
+        {"steps of a frame's time", {}, {1000}, 4, 1000, "1.0000-4.0000: 1.0000 2.0000 3.0000 4.0000"},
+        {"rates share their divisor", {}, {2000, 3000, 2000}, 2, 1000, "1.0000-2.0000: 1.0000 2.0000"},
+        {"four decimals", {}, {30}, 3, 30, "33.3333-99.9999: 33.3333 66.6666 99.9999"},
+        {"half a place goes up", {}, {32000}, 1, 32000, "0.0313-0.0313: 0.0313"},
+        {"up goes into the whole part", {}, {600}, 3, 600, "1.6667-5.0001: 1.6667 3.3334 5.0001"},
+        {"without frames the shortest time alone", {}, {500}, NoFrameCount, 500, "2.0000-2.0000: 2.0000"},
+        {"offers stay while the rate stays", before, {1000}, 5, 1000, "1.0000-5.0000: 1.0000 2.0000 3.0000 5.0000"},
+        {"no second offer of the longest", before, {1000}, 2, 1000, "1.0000-2.0000: 1.0000 2.0000 3.0000"},
+        {"another rate makes other offers", before, {500}, 2, 500, "2.0000-4.0000: 2.0000 4.0000"},
+        {"a frame that takes no time", {}, {30000000}, 7, 30000000, "0.0000-0.0000: 0.0000"},
+        {"no rate at all", {}, {}, 2, 0, "1.0000-2.0000: 1.0000 2.0000"},
+    };
+    for (const auto& row : cases) {
+        const FrameSkip skip = skipByTime(row.before, row.rates, row.frames);
+        EXPECT_EQ(text(skip), row.skip) << row.sentence;
+        EXPECT_EQ(skip.rate, row.rate) << row.sentence;
+    }
+    QStringList ten;
+    for (int i = 1; i <= 10; ++i) ten.append(text(double(i)));
+    EXPECT_EQ(text(skipByTime({}, {1000}, 10)), QString("1.0000-10.0000: " + ten.join(' ')));
+}
+
+/// The bridge of an export.
+class ExportBridge : public ProbeBridge {
+public:
+    using ProbeBridge::ProbeBridge;
+    using ProbeBridge::refreshSkipFrames;
+    using ProbeBridge::skipList;
+
+    int mode = SkipByFrames;
+    double frames = 1.0;
+
+    int getSkipMode() override { return mode; }
+    void setSkipMode(int value) override { Journal::note(QString("mode %1").arg(mode = value)); }
+    double getSkipFrames() override { return frames; }
+    void applySkipFrames(double value) override { Journal::note(QString("apply ") % text(value)); }
+};
+
+TEST(FrameSkip, FollowsWhatIsExported) {
+    FakeCamera slow(1);
+    slow.camera.rate = 500;
+    slow.camera.recordedRates = {{1, 50}, {2, 0}};
+    slow.frameCounts = {{1, 8}, {2, 0}};
+    FakeCamera fast(2);
+    fast.camera.rate = 1500;
+    fast.camera.recordedRates = {{4, 75}};
+    fast.frameCounts = {{4, 6}};
+    FakeCamera blank(3);
+    const ExportTargets both = {{&slow, {1, 2}}, {&fast, {4}}};
+    const ExportTargets one = {{&slow, {1}}};
+    const ExportTargets none = {{&blank, {1}}};
+
+    const struct {
+        const char* sentence;
+        ExportTargets targets;
+        int mode;
+        int operatingMode;
+        double frames;
+        const char* bounds;
+        int offers;
+        QStringList calls;
+    } cases[] = {
+        {"nothing to export", {}, SkipByTime, zeb::LiveMode, 9, "1.0000 1.0000", 0, {}},
+        {"frames of the shortest", both, SkipByFrames, zeb::MemoryMode, 5, "1.0000 6.0000", 0, {"apply 5.0000"}},
+        {"a value above", both, SkipByFrames, zeb::LiveMode, 7, "1.0000 6.0000", 0, {"apply 1.0000"}},
+        {"the bounds belong to it", one, SkipByFrames, zeb::LiveMode, 8, "1.0000 8.0000", 0, {"apply 8.0000"}},
+        {"no frames known", none, SkipByFrames, zeb::LiveMode, 9, "1.0000 4294967295.0000", 0, {"apply 9.0000"}},
+        {"rates of the cameras", both, SkipByTime, zeb::LiveMode, 4, "2.0000 12.0000", 6, {"apply 4.0000"}},
+        {"rates of the recordings", both, SkipByTime, zeb::MemoryMode, 4, "40.0000 240.0000", 6, {"apply 40.0000"}},
+        {"no rate known",
+         none,
+         SkipByTime,
+         zeb::MemoryMode,
+         9,
+         "1.0000 4294967295.0000",
+         0,
+         {"mode 0", "apply 9.0000"}},
+    };
+    for (const auto& row : cases) {
+        Journal journal;
+        FakeHost host;
+        host.mode = row.operatingMode;
+        ExportBridge bridge(&host);
+        bridge.mode = row.mode;
+        bridge.frames = row.frames;
+        bridge.refreshSkipFrames(row.targets);
+        EXPECT_EQ(QString(text(bridge.getSkipMinFrames()) % ' ' % text(bridge.getSkipMaxFrames())), row.bounds)
+            << row.sentence;
+        EXPECT_EQ(bridge.skipList().size(), row.offers) << row.sentence;
+        EXPECT_EQ(journal.take(), row.calls) << row.sentence;
+    }
+}
+
+}  // namespace

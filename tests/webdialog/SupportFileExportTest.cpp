@@ -1,0 +1,183 @@
+#include "FakeCamera.h"
+#include "FakeHost.h"
+#include "ProbeBridge.h"
+#include "SupportFileExport.h"
+
+#include <QApplication>
+#include <QEventLoop>
+#include <QFileDialog>
+#include <QRegularExpression>
+#include <QSemaphore>
+#include <QTemporaryDir>
+#include <QThread>
+#include <QTimer>
+
+#include <atomic>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+class SupportFile : public testing::Test {
+protected:
+    void SetUp() override {
+        host.prefs["support/dir"] = dir.path();
+        // A modal progress, as hosts have it.
+        host.onProgress = [](QFutureWatcherBase& watcher) {
+            QEventLoop loop;
+            QObject::connect(&watcher, &QFutureWatcherBase::finished, &loop, &QEventLoop::quit);
+            if (!watcher.isFinished()) loop.exec();
+        };
+    }
+    /// What the user does with the file dialog as soon as it stands.
+    static void inFileDialog(const std::function<void(QFileDialog*)>& action) {
+        QTimer::singleShot(0, qApp, [action] {
+            auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+            ASSERT_TRUE(dialog);
+            action(dialog);
+        });
+    }
+    void exportTo(const QString& path) {
+        inFileDialog([path](QFileDialog* dialog) {
+            dialog->selectFile(path);
+            QMetaObject::invokeMethod(dialog, "accept");
+        });
+        bridge.openExportSupportFileDialog();
+    }
+    /// The calls of the host but for the question and the ends of the bridge's call.
+    QStringList calls() {
+        QStringList entries = journal.take();
+        for (const char* frame : {"pause", "resume"}) entries.removeAll(frame);
+        return entries.filter(QRegularExpression("^(?!confirmModal|info: )"));
+    }
+
+    QTemporaryDir dir;
+    Journal journal;
+    FakeHost host;
+    ProbeBridge bridge{&host};
+};
+
+TEST_F(SupportFile, TellsWhatItHolds) {
+    FakeCamera camera(4);
+    host.docs[4] = &camera;
+    host.connectedKeys = {4};
+    host.userAgrees = false;
+    const QString start =
+        "confirmModal <The information below will be output in ZIP file format. Do you want to proceed?><br>"
+        "<br><- Camera setting values><br><- ZEB setting values><br><- ZEB operation log><br><- SDK operation log>";
+    const QString log = "<br><- Camera log>";
+    const QString middle = "<br><- PC environment><br><- ZEB version><br><- ZEB full screen capture>";
+    const QString table = "<br><- WREN window screen capture>";
+    const QString end = "<br><- Currently displayed image data (1 frame)>";
+    const struct {
+        QSet<int> functions;
+        bool wren;
+        QString question;
+    } cases[] = {
+        {{}, false, start + middle + end},
+        {{175, 177}, true, start + middle + table + end},
+        {{176}, false, start + log + middle + end},
+        {{158}, true, start + log + middle + table + end},
+    };
+    for (const auto& row : cases) {
+        camera.camera.functions = row.functions;
+        host.yes.clear();
+        if (row.wren) host.yes.insert("hasWrenWindow");
+        bridge.openExportSupportFileDialog();
+        EXPECT_EQ(journal.take(),
+                  QStringList({"pause", "info: [ENTER] \"JS_Mediator::openExportSupportFileDialog\" \"\"", row.question,
+                               "info: [LEAVE] \"JS_Mediator::openExportSupportFileDialog\"", "resume"}));
+    }
+    EXPECT_EQ(host.prefs["support/dir"], dir.path());
+}
+
+TEST_F(SupportFile, IsWrittenByAWorkerWhereTheUserSaid) {
+    QDir(dir.path()).mkdir("sub \"<b>");
+    const QString path = dir.filePath("sub \"<b>/state.zip");
+    QFile(path).open(QIODevice::WriteOnly);  // replaced without a question
+    QString written;
+    const QThread* worker = nullptr;
+    host.onExport = [&](const QString& where, const ZebSupportFile& file) {
+        worker = QThread::currentThread();
+        written = where % '=' % file.files.value("state.txt");
+        return true;
+    };
+    inFileDialog([&](QFileDialog* dialog) {
+        EXPECT_EQ(dialog->windowTitle(), "<Export support file>");
+        EXPECT_EQ(dialog->directory().path(), dir.path());
+        EXPECT_EQ(dialog->nameFilters(), QStringList("zip (*.zip)"));
+        EXPECT_TRUE(bridge.isInCall());
+        dialog->selectFile(path);
+        QMetaObject::invokeMethod(dialog, "accept");
+    });
+    bridge.openExportSupportFileDialog();
+    EXPECT_EQ(written, QString(path % "=state"));
+    EXPECT_NE(worker, QThread::currentThread());
+    EXPECT_EQ(calls(), QStringList({"prepareSupportFile", "execProgress Saving...",
+                                    "info <Please attach preserved file to a mail.>",
+                                    "setPref support/dir=" + QFileInfo(path).path()}));
+}
+
+TEST_F(SupportFile, IsNotWrittenWithoutAName) {
+    inFileDialog([](QFileDialog* dialog) { dialog->reject(); });
+    bridge.openExportSupportFileDialog();
+    EXPECT_EQ(calls(), QStringList());
+}
+
+TEST_F(SupportFile, AFailureIsShownOnceAndNothingIsStored) {
+    const QString shown = "errorHandler Failed to save support file.";
+    const QString logged = "critical: \"APP_Exception:[message:Failed to save support file.] [errorCode:0] \"";
+    const auto waits = host.onProgress;
+    const struct {
+        const char* sentence;
+        bool written;
+        std::function<void(QFutureWatcherBase&)> progress;
+        QString box;
+    } cases[] = {
+        {"it is told behind the progress", false, waits, shown},
+        {"and if the progress left early", false, [](QFutureWatcherBase&) {}, shown},
+        {"a progress that fails is told itself", false,
+         [](QFutureWatcherBase&) { throw std::runtime_error("no window"); }, "errorHandler no window"},
+        {"though the file is written", true, [](QFutureWatcherBase&) { throw std::runtime_error("no window"); },
+         "errorHandler no window"},
+    };
+    for (const auto& row : cases) {
+        host.onProgress = row.progress;
+        host.onExport = [&row](const QString&, const ZebSupportFile&) { return row.written; };
+        exportTo(dir.filePath("elsewhere.zip"));
+        QStringList entries = calls();
+        EXPECT_EQ(entries.removeAll(logged), row.written ? 0 : 1) << row.sentence;
+        EXPECT_EQ(entries, QStringList({"prepareSupportFile", "execProgress Saving...", row.box})) << row.sentence;
+        EXPECT_EQ(host.prefs["support/dir"], dir.path());
+    }
+}
+
+TEST_F(SupportFile, NoWorkerOutlivesTheCall) {
+    QSemaphore left;
+    std::atomic<bool> ended{false};
+    host.onExport = [&](const QString&, const ZebSupportFile&) {
+        left.acquire();
+        for (int i = 0; i < 10000; ++i) QThread::yieldCurrentThread();
+        ended = true;
+        return true;
+    };
+    for (const bool fails : {false, true}) {
+        ended = false;
+        host.onProgress = [&](QFutureWatcherBase&) {
+            left.release();
+            if (fails) throw 42;
+        };
+        exportTo(dir.filePath("late.zip"));
+        EXPECT_TRUE(ended) << fails;
+        EXPECT_EQ(journal.take().contains("errorHandler Unknown failure."), fails);
+    }
+}
+
+TEST_F(SupportFile, AHostThatThrowsOnTheWorkerIsToldOnce) {
+    host.onExport = [](const QString&, const ZebSupportFile&) -> bool { throw std::runtime_error("disk"); };
+    exportTo(dir.filePath("x.zip"));
+    EXPECT_EQ(calls().filter("errorHandler").size(), 1);
+    EXPECT_EQ(host.prefs["support/dir"], dir.path());
+}
+
+}  // namespace

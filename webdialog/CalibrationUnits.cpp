@@ -1,0 +1,28 @@
+#include "CalibrationUnits.h"
+
+#include "ZebHost.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+namespace {
+
+struct Unit {
+    const char* label;
+    const char* shortName;
+};
+
+constexpr Unit Metric[] = {{"Micro (µm)", "µm"}, {"Milimeters (mm)", "mm"}, {"Meters (m)", "m"}};
+constexpr Unit Imperial[] = {{"Inches (in)", "inch"}, {"Feet (ft)", "feet"}, {"Yard (yd)", "yard"}};
+
+}  // namespace
+
+QString calibrationUnits(const ZebHost& host) {
+    QJsonArray units;
+    for (const Unit& unit : host.getPrefInt(QStringLiteral("customize/unitSystem")) != 0 ? Metric : Imperial) {
+        units.append(QJsonObject{{QStringLiteral("value"), QString::fromUtf8(unit.label)},
+                                 {QStringLiteral("view"), host.translate(QString::fromUtf8(unit.shortName))}});
+    }
+    return QString::fromUtf8(QJsonDocument(units).toJson(QJsonDocument::Compact));
+}
