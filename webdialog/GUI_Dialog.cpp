@@ -46,9 +46,6 @@ void GUI_Dialog::keyPressEvent(QKeyEvent* event) {
 }
 
 bool GUI_Dialog::eventFilter(QObject* watched, QEvent* event) {
-    if (watched == this && event->type() == QEvent::Close) {
-        userOperationLogWebView(QString::fromLatin1(metaObject()->className()), QStringLiteral("clicked"),
-                                QStringLiteral("Button"), QStringLiteral("close"), QString(), QVariant());
-    }
+    if (watched == this && event->type() == QEvent::Close) logUserClose(*this);
     return QDialog::eventFilter(watched, event);
 }

@@ -2,6 +2,7 @@
 
 #include "GUI_WebView.h"
 #include "JS_Mediator_Dialog.h"
+#include "PageEnd.h"
 #include "TraceScope.h"
 #include "TraceText.h"
 #include "WindowPlacement.h"
@@ -10,30 +11,10 @@
 #include <QCloseEvent>
 #include <QVBoxLayout>
 
-#include <algorithm>
-
 namespace {
 
 constexpr Qt::WindowFlags WebDialogFlags{Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint};
 constexpr int FadeDuration = 500;  // ms
-
-JS_Mediator* findBusy(const QList<JS_Mediator*>& bridges) {
-    const auto busy = std::find_if(bridges.begin(), bridges.end(), [](JS_Mediator* b) { return b->isInCall(); });
-    return busy == bridges.end() ? nullptr : *busy;
-}
-
-/// Destroys what belongs to a page, at once if no call of it runs. A view that goes inside such a call takes the
-/// script away under which the call stands.
-void destroyPage(GUI_WebView* view, const QList<JS_Mediator*>& bridges) {
-    if (JS_Mediator* busy = findBusy(bridges)) {
-        view->setParent(nullptr);
-        busy->afterCalls([=] { destroyPage(view, bridges); });
-        return;
-    }
-    qDeleteAll(bridges);
-    view->close();
-    delete view;
-}
 
 }  // namespace
 

@@ -1,6 +1,7 @@
 #include "TraceText.h"
 
 #include <QDebug>
+#include <QObject>
 
 QString traceArg(const QString& key, const QVariant& value) {
     return QLatin1Char('[') % key % QLatin1Char(':') % value.toString() % QStringLiteral("] ");
@@ -23,6 +24,11 @@ void logUserOperation(const QString& url, const QString& operation, const QStrin
             << QString(traceArg(QStringLiteral("URL"), url) % identifier %
                        traceArg(QStringLiteral("Control"), control) % traceArg(QStringLiteral("Operation"), operation) %
                        traceArg(QStringLiteral("Value"), value));
+}
+
+void logUserClose(const QObject& window) {
+    logUserOperation(QString::fromLatin1(window.metaObject()->className()), QStringLiteral("clicked"),
+                     QStringLiteral("Button"), QStringLiteral("close"), QString(), QVariant());
 }
 
 void logUserError(const QString& message) {

@@ -3,6 +3,8 @@
 #include <QString>
 #include <QVariant>
 
+class QObject;
+
 /// One argument of a log line, `[key:value] `. Arguments are joined by putting one behind the other.
 QString traceArg(const QString& key, const QVariant& value);
 
@@ -13,5 +15,7 @@ void logLeave(const QString& name);
 /// The line of a user's operation on a page or a dialog. An empty `id` is told by `className`, if there is one.
 void logUserOperation(const QString& url, const QString& operation, const QString& control, const QString& id,
                       const QString& className, const QVariant& value);
+/// The same for the user who closes a window by its title bar.
+void logUserClose(const QObject& window);
 /// The line of an error that a page has met.
 void logUserError(const QString& message);
