@@ -12,7 +12,7 @@ const browser = readonly(['window', 'document', 'location', 'Node', '$', 'jQuery
 const table = readonly([
     'wrentabledialog',
     'wrentabledialog_obj', 'wrentabledialog_const_obj', 'wrentabledialog_column_obj', 'TABS',
-    'escapeMarkup', 'translate', 'parseReply', 'guarded', 'logged',
+    'escapeMarkup', 'translate', 'parseReply', 'guarded', 'logged', 'onClick', 'textTip', 'closeTip',
     'showElement', 'setText', 'setClass', 'setStyle',
     'Cell', 'COLUMNS', 'isBatch', 'isOff', 'isOffOrBatch', 'hasDropDowns', 'showChoice', 'plainColumn',
     'DrawnRow', 'columnKind', 'GridView', 'views', 'viewOf', 'tabHeader',
@@ -67,7 +67,11 @@ module.exports = [
     },
     {
         files: ['zebsim/pages/**/*.js'],
-        languageOptions: { ecmaVersion: 2015, sourceType: 'script', globals: Object.assign({}, browser, host) },
+        languageOptions: {
+            ecmaVersion: 2015,
+            sourceType: 'script',
+            globals: Object.assign({}, browser, host, readonly(['app', 'items']))
+        },
         rules: pageRules
     },
     {

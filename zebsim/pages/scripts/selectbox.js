@@ -1,0 +1,87 @@
+'use strict';
+
+// The list of a drop-down box: the memory partitions of the current camera, or its channels of variable settings.
+const selectbox = {
+    // Pixels.
+    rowHeight: 24,
+
+    initialize() {
+        this.list = document.getElementById('items');
+        items.signalShowPartition.connect(names => this.showPartitions(names));
+        items.signalShowVariable.connect(json => this.showVariables(JSON.parse(json), false));
+        items.signalShowVariableRegist.connect(json => this.showVariables(JSON.parse(json), true));
+        items.signalSetHeight.connect(height => this.setRowHeight(height));
+        items.update.connect(() => this.applyStyle());
+        this.list.addEventListener('click', event => this.choose(event.target));
+    },
+
+    applyStyle() {
+        document.body.classList.toggle('dark', String(app.style).toLowerCase() === 'dark');
+    },
+
+    // In live mode an empty entry, which parts the partitions from what follows, and the way to the settings come last.
+    showPartitions(names) {
+        const current = items.getCurrentPartition();
+        const count = items.isLiveMode() ? names.length - 2 : names.length;
+        this.show(names.map((text, index) => ({
+            text,
+            isSelected: index + 1 === current,
+            isDivider: index === count,
+            choose: () => items.slotNotifyPartition(String(index + 1))
+        })));
+    },
+
+    // A channel that can't be used can still be written to.
+    showVariables(list, isRegistration) {
+        this.show(list.ChannelInfos.map(channel => ({
+            text: channel.VariableInfo ? channel.Value + ': ' + channel.VariableInfo : channel.Value,
+            isSelected: channel.Value === list.SelectValue,
+            isOff: !isRegistration && !channel.Settable,
+            choose: () => {
+                if (isRegistration) {
+                    items.slotNotifyVariableRegist(channel.Value);
+                } else {
+                    items.slotNotifyVariable(channel.Value);
+                }
+            }
+        })));
+    },
+
+    show(rows) {
+        this.rows = rows;
+        this.list.textContent = '';
+        rows.forEach((row, index) => this.list.appendChild(this.rowElement(row, index)));
+        this.setRowHeight(this.rowHeight);
+        this.applyStyle();
+    },
+
+    rowElement(row, index) {
+        const entry = document.createElement('a');
+        entry.textContent = row.text;
+        entry.title = row.text;
+        entry.classList.toggle('selected', row.isSelected);
+        entry.classList.toggle('off', Boolean(row.isOff));
+        entry.classList.toggle('divider', Boolean(row.isDivider));
+        entry.setAttribute('index', index);
+        const item = document.createElement('li');
+        item.appendChild(entry);
+        return item;
+    },
+
+    setRowHeight(height) {
+        this.rowHeight = height;
+        Array.from(this.list.children).forEach(item => {
+            item.style.height = height + 'px';
+            item.style.lineHeight = height + 'px';
+        });
+    },
+
+    choose(target) {
+        const row = target.tagName === 'A' ? this.rows[Number(target.getAttribute('index'))] : null;
+        if (row && !row.isOff && !row.isDivider) {
+            row.choose();
+        }
+    }
+};
+
+document.addEventListener('DOMContentLoaded', () => selectbox.initialize());
