@@ -1,6 +1,7 @@
 #include "GUI_WrenTableDialog.h"
 
 #include "BridgeCall.h"
+#include "GUI_SelectBox.h"
 #include "JS_Mediator_WrenTableDialog.h"
 #include "LogFailure.h"
 #include "TablePlacement.h"
@@ -34,10 +35,27 @@ QVector<QRect> screenGeometries() {
 
 GUI_WrenTableDialog::GUI_WrenTableDialog(ZebHost* host, const QString& title, const QString& url,
                                          JS_Mediator_WrenTableDialog* bridge, PLG_Interface* plugin)
-    : GUI_ModelessPatternDialog(host, title, url, bridge, plugin), m_table(bridge) {
+    : GUI_ModelessPatternDialog(host, title, url, bridge, plugin),
+      m_table(bridge),
+      m_selectBox(std::make_unique<GUI_SelectBox>(host, QStringLiteral("qrc:selectbox.html"), this)) {
+    m_selectBox->setOwner(bridge);
     setWindowFlags(windowFlags() | Qt::WindowMinMaxButtonsHint);
     setMinimumSize(MinimumSize);
     restorePlacement();
+}
+
+GUI_WrenTableDialog::~GUI_WrenTableDialog() = default;
+
+void GUI_WrenTableDialog::showPartitionBox(const QRect& anchor) {
+    m_selectBox->showBox(int(SelectBoxType::Partition), anchor, {});
+}
+
+void GUI_WrenTableDialog::hidePartitionBox() {
+    m_selectBox->hide();
+}
+
+bool GUI_WrenTableDialog::isPartitionBoxShown() const {
+    return m_selectBox->isVisible();
 }
 
 void GUI_WrenTableDialog::updatePage() {
@@ -61,6 +79,20 @@ void GUI_WrenTableDialog::closeEvent(QCloseEvent* event) {
     }
     bridgeCall(*m_table, [this] { host().setPrefBool(ReadyPref, host().isApplicationClosing()); });
     GUI_ModelessPatternDialog::closeEvent(event);
+}
+
+void GUI_WrenTableDialog::moveEvent(QMoveEvent* event) {
+    GUI_ModelessPatternDialog::moveEvent(event);
+    takePartitionBoxAlong();
+}
+
+void GUI_WrenTableDialog::resizeEvent(QResizeEvent* event) {
+    GUI_ModelessPatternDialog::resizeEvent(event);
+    takePartitionBoxAlong();
+}
+
+void GUI_WrenTableDialog::takePartitionBoxAlong() {
+    m_selectBox->setParentRect(geometry());
 }
 
 /// Where the window was when it was closed; see `placeTable` for what has changed since.

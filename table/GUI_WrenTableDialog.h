@@ -2,6 +2,9 @@
 
 #include "GUI_ModelessPatternDialog.h"
 
+#include <memory>
+
+class GUI_SelectBox;
 class JS_Mediator_WrenTableDialog;
 
 /// The window of the camera table. It opens where it was closed. GUI thread.
@@ -12,6 +15,12 @@ public:
     /// `bridge` is owned from here on; `host` and `plugin` outlive the dialog.
     GUI_WrenTableDialog(ZebHost* host, const QString& title, const QString& url, JS_Mediator_WrenTableDialog* bridge,
                         PLG_Interface* plugin);
+    ~GUI_WrenTableDialog() override;
+
+    /// The list of partitions floats beside `anchor`, in the pixels of the page. Throws what the cameras throw.
+    void showPartitionBox(const QRect& anchor);
+    void hidePartitionBox();
+    bool isPartitionBoxShown() const;
 
     /// A failure of the page goes to the log and no further.
     void updatePage() override;
@@ -19,12 +28,16 @@ public:
 protected:
     /// Asks the user, unless the host itself is closing.
     void closeEvent(QCloseEvent* event) override;
+    void moveEvent(QMoveEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
     void restorePlacement();
     void storePlacement();
     bool mayClose();
+    void takePartitionBoxAlong();
 
     /// The bridge, which the base class owns.
     JS_Mediator_WrenTableDialog* const m_table;
+    const std::unique_ptr<GUI_SelectBox> m_selectBox;
 };

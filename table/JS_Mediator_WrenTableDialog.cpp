@@ -2,10 +2,12 @@
 
 #include "BridgeCall.h"
 #include "CameraManagement.h"
+#include "CurrentCamera.h"
 #include "DOC_Activity.h"
 #include "DOC_Interface.h"
 #include "DocKeys.h"
 #include "GUI_ProgressDialog.h"
+#include "GUI_WrenTableDialog.h"
 #include "PLG_Interface.h"
 #include "ParameterEditing.h"
 #include "ReadyProgress.h"
@@ -19,7 +21,6 @@
 #include "records/RecordModel.h"
 
 #include <QCoreApplication>
-#include <QDialog>
 
 namespace {
 
@@ -44,6 +45,7 @@ JS_Mediator_WrenTableDialog::JS_Mediator_WrenTableDialog(ZebHost* host, const QS
                                                          QObject* parent)
     : JS_Mediator_ModelessPatternDialog(host, name, plugin, parent), m_timers(*host) {
     qRegisterMetaType<DOCKEY>("DOCKEY");
+    qRegisterMetaType<PARTITIONNUMBER>("PARTITIONNUMBER");
     QObject::connect(&m_timers, &UpdateTimers::tick, this, &JS_Mediator_WrenTableDialog::autoUpdate);
     QObject::connect(&m_timers, &UpdateTimers::selected, this, &JS_Mediator_WrenTableDialog::slotSelectForUpdate);
     bridgeCall(*this, [this] {
@@ -140,13 +142,35 @@ QString JS_Mediator_WrenTableDialog::getSyncSettings() {
     return {};
 }
 
-/// There are no partitions yet.
+PARTITIONNUMBER JS_Mediator_WrenTableDialog::getCurrentPartition() {
+    return bridgeCall(*this, PARTITIONNUMBER(0), [this] { return currentPartition(host()); });
+}
+
 QString JS_Mediator_WrenTableDialog::getCurrentPartitionName() {
-    return {};
+    return bridgeCall(*this, QString(), [this] { return currentPartitionName(host()); });
+}
+
+void JS_Mediator_WrenTableDialog::showLivePartition(int x, int y, int width, int height) {
+    bridgeCall(*this, [&] {
+        if (GUI_WrenTableDialog* dialog = tableDialog()) {
+            dialog->showPartitionBox({x, y, width, height});
+        }
+    });
+}
+
+void JS_Mediator_WrenTableDialog::hideSelectBox() {
+    bridgeCall(*this, [this] {
+        if (GUI_WrenTableDialog* dialog = tableDialog()) {
+            dialog->hidePartitionBox();
+        }
+    });
 }
 
 bool JS_Mediator_WrenTableDialog::isShownSelectBox() {
-    return false;
+    return bridgeCall(*this, false, [this] {
+        const GUI_WrenTableDialog* dialog = tableDialog();
+        return dialog != nullptr && dialog->isPartitionBoxShown();
+    });
 }
 
 QString JS_Mediator_WrenTableDialog::getSearchAddress() {
@@ -232,7 +256,7 @@ void JS_Mediator_WrenTableDialog::enterMemoryMode() {
 
 void JS_Mediator_WrenTableDialog::showReadyProgress() {
     bridgeCall(*this, [this] {
-        if (m_readyProgress || !host().appStatus().isWrenRunning()) {
+        if (m_readyProgress || !host().appStatus().isWrenRunning() || m_state.loadingRigx) {
             return;
         }
         m_readyProgress = makeReadyProgressDialog(host().translate(QStringLiteral("Ready...")), host());
@@ -261,13 +285,13 @@ void JS_Mediator_WrenTableDialog::slotSelectForUpdate() {
 }
 
 /// Null while there is none, as in the constructor.
-QDialog* JS_Mediator_WrenTableDialog::tableDialog() const {
+GUI_WrenTableDialog* JS_Mediator_WrenTableDialog::tableDialog() const {
     PLG_Interface* wren = host().appStatus().getPlugin(QStringLiteral("wren"));
-    return wren != nullptr ? wren->getDialog(false) : nullptr;
+    return wren != nullptr ? qobject_cast<GUI_WrenTableDialog*>(wren->getDialog(false)) : nullptr;
 }
 
 void JS_Mediator_WrenTableDialog::activateTable() {
-    if (QDialog* dialog = tableDialog()) {
+    if (GUI_WrenTableDialog* dialog = tableDialog()) {
         dialog->activateWindow();
     }
 }

@@ -7,7 +7,7 @@
 #include <QPointer>
 
 class GUI_ProgressDialog;
-class QDialog;
+class GUI_WrenTableDialog;
 
 /// What the page of the table can ask and do: one slot a request. GUI thread.
 ///
@@ -47,7 +47,12 @@ public Q_SLOTS:
     DOCKEY getBatchDocKey();
     bool isSuspendReduceMode(DOCKEY dockey);
     QString getSyncSettings();
+    /// The partition that the current camera has in use; 0 and an empty text without one.
+    PARTITIONNUMBER getCurrentPartition();
     QString getCurrentPartitionName();
+    /// The list of partitions floats beside that rectangle of the page.
+    void showLivePartition(int x, int y, int width, int height);
+    void hideSelectBox() override;
     bool isShownSelectBox();
 
     // Cameras.
@@ -88,7 +93,7 @@ private:
     void operation(const char* method, const QString& args, Work&& work);
 
     void openSession();
-    QDialog* tableDialog() const;
+    GUI_WrenTableDialog* tableDialog() const;
     void activateTable();
 
     TableState m_state;

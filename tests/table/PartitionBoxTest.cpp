@@ -1,0 +1,131 @@
+#include "GUI_SelectBox.h"
+#include "GUI_WebView.h"
+#include "GUI_WrenTableDialog.h"
+#include "HostPages.h"
+#include "JS_Mediator_WrenTableDialog.h"
+#include "PLG_wren.h"
+#include "TableFixture.h"
+#include "host/PluginSlot.h"
+
+#include <QSignalSpy>
+#include <QTest>
+#include <QWebFrame>
+#include <QWebPage>
+
+namespace {
+
+/// The table with its list of partitions; camera 1 is the current one.
+class PartitionBoxTest : public TableFixture {
+protected:
+    static void SetUpTestSuite() { initHostPages(); }
+
+    PartitionBoxTest() {
+        plugin.setHost(&host);
+        connectAll();
+        change(1, {{"partitions", 4}, {"partition", 2}, {"partitionNames", QStringList{"Warm-up", "Shot"}}});
+        host.docManager().setSelectedDocs({1}, 0);
+        slot.open();
+        dialog = static_cast<GUI_WrenTableDialog*>(plugin.getDialog(false));
+        table = static_cast<JS_Mediator_WrenTableDialog*>(dialog->getBridge());
+        box = dialog->findChild<GUI_SelectBox*>();
+        view = box->findChild<GUI_WebView*>();
+        EXPECT_TRUE(QSignalSpy(view, &QWebView::loadFinished).wait());
+        host.docManager().setSelectedDocs({1}, 0);
+    }
+    ~PartitionBoxTest() override {
+        host.flags().set("IsApplicationClosing", true);
+        slot.close();
+    }
+
+    void eval(const QString& script) const { view->page()->mainFrame()->evaluateJavaScript(script); }
+
+    PLG_wren plugin;
+    PluginSlot slot{host, plugin};
+    GUI_WrenTableDialog* dialog = nullptr;
+    JS_Mediator_WrenTableDialog* table = nullptr;
+    GUI_SelectBox* box = nullptr;
+    GUI_WebView* view = nullptr;
+};
+
+TEST_F(PartitionBoxTest, thePageOpensAndClosesTheList) {
+    EXPECT_EQ(table->getCurrentPartition(), 2U);
+    EXPECT_EQ(table->getCurrentPartitionName(), "Shot");
+    EXPECT_FALSE(table->isShownSelectBox());
+    QWebPage page;
+    page.mainFrame()->addToJavaScriptWindowObject("bridge", table);
+    const auto run = [&page](const char* script) { return page.mainFrame()->evaluateJavaScript(script); };
+    EXPECT_EQ(run("bridge.getCurrentPartition()").toInt(), 2);
+    run("bridge.showLivePartition(30, 400, 120, 24)");
+    EXPECT_TRUE(run("bridge.isShownSelectBox()").toBool());
+    EXPECT_EQ(box->geometry(), QRect(dialog->geometry().topLeft() + QPoint(30, 400 - 6 * 24), QSize(120, 6 * 24)));
+    calls();
+    run("bridge.hideSelectBox()");
+    EXPECT_FALSE(table->isShownSelectBox());
+    EXPECT_EQ(calls(), QStringList()) << "the table hides its own box, not the host's";
+
+    change(1, {{"connected", false}});
+    EXPECT_EQ(table->getCurrentPartition(), 0U);
+    EXPECT_EQ(table->getCurrentPartitionName(), "");
+    EXPECT_EQ(desk.shown, QStringList());
+}
+
+TEST_F(PartitionBoxTest, theListStaysOverItsPlaceAndGoesWithTheTable) {
+    table->showLivePartition(30, 400, 120, 24);
+    const QPoint place = box->pos() - dialog->geometry().topLeft();
+    dialog->setGeometry(260, 140, 1300, 620);
+    EXPECT_EQ(box->pos() - QPoint(260, 140), place);
+    EXPECT_TRUE(box->isVisible());
+
+    EXPECT_TRUE(dialog->close());
+    EXPECT_FALSE(box->isVisible());
+    slot.open();
+    EXPECT_FALSE(box->isVisible()) << "a table that opens again has no list";
+    table->showLivePartition(30, 400, 120, 24);
+    EXPECT_TRUE(box->isVisible());
+}
+
+TEST_F(PartitionBoxTest, aChoiceShowsInTheTableAtTheNextUpdate) {
+    table->showLivePartition(30, 400, 120, 24);
+    QSignalSpy updates(table, &JS_Mediator::update);
+    eval("items.slotNotifyPartition('3')");
+    EXPECT_TRUE(updates.wait());
+    EXPECT_EQ(table->getCurrentPartition(), 3U);
+    EXPECT_EQ(table->getCurrentPartitionName(), "Partition 3");
+}
+
+TEST_F(PartitionBoxTest, aQuestionOfTheTableHoldsAChoiceBackAndTheOtherWayRound) {
+    desk.whileStanding = [this] { eval("items.slotNotifyPartition('3')"); };
+    table->confirm("Sure?");
+    EXPECT_EQ(stateOf(1, "partition").toInt(), 2);
+
+    host.faults().plant(1, "setPartition", {"no answer", 0, false});
+    desk.whileStanding = [this] {
+        EXPECT_TRUE(table->isInCall());
+        table->setParamLock({1}, true);
+    };
+    eval("items.slotNotifyPartition('3')");
+    EXPECT_EQ(desk.shown.size(), 2);
+    EXPECT_FALSE(stateOf(1, "locked").toBool());
+    EXPECT_FALSE(table->isInCall());
+}
+
+TEST_F(PartitionBoxTest, fiftyTablesLeaveNothingBehind) {
+    const auto openAndClose = [this] {
+        GUI_WrenTableDialog table2(&host, "WREN", "qrc:/none.html",
+                                   new JS_Mediator_WrenTableDialog(&host, "wrentabledialog", &plugin), &plugin);
+        auto* list = table2.findChild<GUI_SelectBox*>();
+        EXPECT_TRUE(QSignalSpy(list->findChild<GUI_WebView*>(), &QWebView::loadFinished).wait());
+        table2.showPartitionBox({30, 400, 120, 24});
+        EXPECT_TRUE(table2.isPartitionBoxShown());
+        table2.hidePartitionBox();
+    };
+    const auto objects = [] { return QApplication::allWidgets().size(); };
+    openAndClose();
+    const int before = objects();
+    for (int i = 0; i < 50; ++i) {
+        openAndClose();
+    }
+    EXPECT_EQ(objects(), before);
+}
+
+}  // namespace
