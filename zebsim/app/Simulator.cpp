@@ -1,6 +1,8 @@
 #include "Simulator.h"
 
+#include "AppWindows.h"
 #include "CameraDialog.h"
+#include "CameraWindows.h"
 #include "CommandLine.h"
 #include "ViewerWindow.h"
 #include "camera/Rig.h"
@@ -25,14 +27,15 @@ Rig rigOf(const CommandLine& line) {
 }  // namespace
 
 Simulator::Simulator(const CommandLine& line) : m_host(m_clock, m_boxes, line.prefs) {
-    if (!line.language.isEmpty() && !m_host.setLanguage(line.language))
-        qWarning("There is no catalogue for the language %s.", qPrintable(line.language));
+    chooseLanguage(line.language);
     m_host.setRig(rigOf(line));
     if (!line.style.isEmpty()) m_host.prefs().setValue(QStringLiteral("env/style"), line.style);
     m_window = std::make_unique<ViewerWindow>(m_host, m_log);
     m_host.setMainWindow(m_window.get());
     m_boxes.setHost(&m_host);
     m_host.setMdiWidget(m_window->mdiArea());
+    m_desk = std::make_unique<AppWindows>(m_host, m_log, m_window->images());
+    m_window->addDialogs(*m_desk);
     m_host.docManager().setEditor([this](Camera& camera) { CameraDialog(camera, m_window.get()).exec(); });
     QObject::connect(m_window.get(), &ViewerWindow::closeAsked, m_window.get(), [this] { quit(); });
     loadPlugin(line);
@@ -41,6 +44,7 @@ Simulator::Simulator(const CommandLine& line) : m_host(m_clock, m_boxes, line.pr
 Simulator::~Simulator() {
     beginClosing();
     if (m_slot) m_slot->close();
+    m_desk.reset();
     m_window.reset();
     m_slot.reset();
     m_loader.reset();
@@ -62,13 +66,22 @@ void Simulator::beginClosing() {
     m_boxes.rejectAll();
 }
 
+void Simulator::chooseLanguage(const QString& wanted) {
+    const QString stored = m_host.prefs().value(QStringLiteral("env/language")).toString();
+    const QString language = wanted.isEmpty() ? stored : wanted;
+    if (!language.isEmpty() && !m_host.setLanguage(language))
+        qWarning("There is no catalogue for the language %s.", qPrintable(language));
+}
+
 void Simulator::loadPlugin(const CommandLine& line) {
     const QString beside = QDir(QCoreApplication::applicationDirPath()).filePath(QStringLiteral("wren.zeb"));
     if (line.plugin.isEmpty() && !QFileInfo::exists(beside)) {
         qWarning("There is no plug-in at %s; the viewer runs without it.", qPrintable(beside));
         return;
     }
-    m_loader = std::make_unique<PluginLoader>(line.plugin.isEmpty() ? beside : line.plugin, m_host);
+    const QString file = line.plugin.isEmpty() ? beside : line.plugin;
+    m_loader = std::make_unique<PluginLoader>(file, m_host);
+    m_desk->setPluginFile(file);
     m_slot = std::make_unique<PluginSlot>(m_host, m_loader->plugin());
     m_window->addPlugin(*m_slot);
 }

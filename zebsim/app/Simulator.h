@@ -8,6 +8,7 @@
 #include <functional>
 #include <memory>
 
+class AppWindows;
 class PluginLoader;
 class PluginSlot;
 class ViewerWindow;
@@ -37,6 +38,7 @@ public:
 
 private:
     void beginClosing();
+    void chooseLanguage(const QString& wanted);
     void loadPlugin(const CommandLine& line);
 
     LogStore m_log;
@@ -46,4 +48,5 @@ private:
     std::unique_ptr<PluginLoader> m_loader;
     std::unique_ptr<PluginSlot> m_slot;
     std::unique_ptr<ViewerWindow> m_window;
+    std::unique_ptr<AppWindows> m_desk;
 };

@@ -1,20 +1,25 @@
 #include "ViewerWindow.h"
 
+#include "CameraWindows.h"
+#include "ImageArea.h"
 #include "LogDock.h"
+#include "PlayerBar.h"
 #include "PluginButton.h"
 #include "Style.h"
 #include "UiText.h"
+#include "ZebPrefsDialog.h"
 #include "camera/Camera.h"
+#include "host/AppDesk.h"
 #include "host/SimHost.h"
 
 #include <QActionGroup>
 #include <QCloseEvent>
 #include <QLabel>
-#include <QMdiArea>
 #include <QStatusBar>
 #include <QToolBar>
 
 #include <algorithm>
+#include <functional>
 
 namespace {
 
@@ -25,24 +30,34 @@ const QString StyleKey = QStringLiteral("env/style");
 
 ViewerWindow::ViewerWindow(SimHost& host, const LogStore& log)
     : m_host(host),
-      m_mdi(new QMdiArea(this)),
+      m_area(new ImageArea(this)),
       m_bar(addToolBar(uiText("Tools"))),
       m_modes(new QActionGroup(this)),
       m_styles(new QActionGroup(this)),
       m_cameras(new QLabel(this)) {
     setWindowTitle(QStringLiteral("ZEB"));
     resize(FirstSize);
-    setCentralWidget(m_mdi);
+    setCentralWidget(m_area);
     m_bar->setObjectName(QStringLiteral("tools"));
     m_bar->setMovable(false);
     addModeSwitch();
     addStyleSwitch();
+    m_images = std::make_unique<CameraWindows>(host, *m_area);
+    addToolBarBreak();
+    addToolBar(new PlayerBar(host, *m_images, this));
     addDockWidget(Qt::BottomDockWidgetArea, new LogDock(log, host.journal(), this));
     statusBar()->addWidget(m_cameras);
     connect(&host.events(), &HostEvents::updateFinished, this, &ViewerWindow::refresh);
     connect(&host.events(), &HostEvents::camerasReplaced, this, &ViewerWindow::refresh);
     connect(&host.events(), &HostEvents::modeChanged, this, &ViewerWindow::refresh);
+    connect(m_images.get(), &CameraWindows::shown, this, &ViewerWindow::refresh);
     refresh();
+}
+
+ViewerWindow::~ViewerWindow() = default;
+
+QMdiArea* ViewerWindow::mdiArea() const {
+    return m_area;
 }
 
 void ViewerWindow::addPlugin(PluginSlot& slot) {
@@ -70,6 +85,18 @@ void ViewerWindow::addStyleSwitch() {
             m_host.updates().request();
         });
     }
+}
+
+void ViewerWindow::addDialogs(AppDesk& desk) {
+    m_bar->addSeparator();
+    const auto add = [this](const char* text, const char* name, const std::function<void()>& open) {
+        QAction* action = m_bar->addAction(uiText(text));
+        action->setObjectName(QLatin1String(name));
+        connect(action, &QAction::triggered, this, open);
+    };
+    add("Preferences", "preferences", [&desk] { desk.prefsDialog()->exec(); });
+    add("Ethernet", "ethernet", [&desk] { desk.openEthernetSettings(); });
+    add("About ZEB", "about", [&desk] { desk.openAbout(); });
 }
 
 QAction* ViewerWindow::addChoice(QActionGroup* group, const QString& text, const QString& name) {

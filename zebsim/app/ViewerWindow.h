@@ -2,6 +2,11 @@
 
 #include <QMainWindow>
 
+#include <memory>
+
+class AppDesk;
+class CameraWindows;
+class ImageArea;
 class LogStore;
 class PluginSlot;
 class QActionGroup;
@@ -17,10 +22,14 @@ class ViewerWindow : public QMainWindow {
 public:
     /// Both must outlive the window.
     ViewerWindow(SimHost& host, const LogStore& log);
+    ~ViewerWindow() override;
 
     /// Gives the plug-in a button of its name in the tool bar. The slot must outlive the window.
     void addPlugin(PluginSlot& slot);
-    QMdiArea* mdiArea() const { return m_mdi; }
+    /// Buttons for the application's dialogs. The desk must live until the application's event loop has ended.
+    void addDialogs(AppDesk& desk);
+    QMdiArea* mdiArea() const;
+    CameraWindows& images() { return *m_images; }
 
 Q_SIGNALS:
     /// The user wants to leave. The window stays until the application has closed down.
@@ -36,9 +45,10 @@ private:
     void refresh();
 
     SimHost& m_host;
-    QMdiArea* m_mdi;
+    ImageArea* m_area;
     QToolBar* m_bar;
     QActionGroup* m_modes;
     QActionGroup* m_styles;
     QLabel* m_cameras;
+    std::unique_ptr<CameraWindows> m_images;
 };

@@ -48,6 +48,8 @@ int main(int argc, char** argv) {
         std::fputs(qUtf8Printable(line.printout), line.exitStatus == 0 ? stdout : stderr);
         return line.exitStatus;
     }
+    QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
+    QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
     // The options are ours; Qt has a meaning of its own for some of their names.
     int ownName = 1;
     const QApplication app(ownName, argv);

@@ -1,0 +1,156 @@
+#include "CameraWindows.h"
+#include "CommandLine.h"
+#include "ModalWatcher.h"
+#include "Simulator.h"
+#include "ViewerWindow.h"
+#include "ZebPrefsDialog.h"
+#include "ZebSupportFile.h"
+#include "camera/Camera.h"
+#include "host/AppDesk.h"
+
+#include <QAction>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QFutureWatcher>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QProgressDialog>
+#include <QSpinBox>
+#include <QTableWidget>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+class Dialogs : public testing::Test {
+protected:
+    Dialogs() { simulator.window().show(); }
+
+    /// What to do with the dialog that stands next.
+    void next(std::function<void(QDialog&)> work) {
+        connection = QObject::connect(&watcher, &ModalWatcher::stands, [this, work](QDialog* dialog) {
+            QObject::disconnect(connection);
+            work(*dialog);
+        });
+    }
+    QVariant pref(const char* key) const { return simulator.host().prefs().value(key); }
+
+    QTemporaryDir folder;
+    const CommandLine line = CommandLine::parse({"zebsim", "--rig", "2", "--prefs", folder.filePath("p.ini")});
+    mutable Simulator simulator{line};
+    SimHost& host = simulator.host();
+    ModalWatcher watcher;
+    QMetaObject::Connection connection;
+};
+
+TEST_F(Dialogs, StorePreferencesOnOkAndNoneOnCancel) {
+    host.prefs().setValue("wren/settings/recreadyTableColor", "no such colour");
+    const auto change = [&](QDialog& dialog) {
+        EXPECT_TRUE(host.isPrefDialogOpening());
+        dialog.findChild<QCheckBox*>("recording/AutoDownload")->click();
+        dialog.findChild<QSpinBox*>("wren/table/interval")->setValue(900);
+        QComboBox& style = *dialog.findChild<QComboBox*>("env/style");
+        style.setCurrentIndex(style.findData("dark"));
+        dialog.findChild<QLineEdit*>("sync/generator/address")->setText("192.168.0.9");
+    };
+    next([&](QDialog& dialog) {
+        change(dialog);
+        dialog.reject();
+    });
+    EXPECT_EQ(host.getPrefsDialog()->exec(), QDialog::Rejected);
+    EXPECT_EQ(pref("recording/AutoDownload"), true);
+    EXPECT_EQ(pref("wren/table/interval"), 500);
+    EXPECT_FALSE(pref("sync/generator/address").isValid());
+    next([&](QDialog& dialog) {
+        change(dialog);
+        dialog.accept();
+    });
+    EXPECT_EQ(host.getPrefsDialog()->exec(), QDialog::Accepted);
+    EXPECT_EQ(pref("recording/AutoDownload"), false);
+    EXPECT_EQ(pref("wren/table/interval"), 900);
+    EXPECT_EQ(pref("env/style"), "dark");
+    EXPECT_EQ(pref("sync/generator/address"), "192.168.0.9");
+    EXPECT_EQ(pref("wren/settings/recreadyTableColor"), "no such colour") << "nobody has touched it";
+    EXPECT_FALSE(host.isPrefDialogOpening());
+}
+
+TEST_F(Dialogs, OpenPreferencesAtThePageThatIsAskedFor) {
+    const auto pageAfter = [&](const QString& page) {
+        int row = -1;
+        next([&](QDialog& dialog) {
+            row = dialog.findChild<QListWidget*>("pages")->currentRow();
+            dialog.reject();
+        });
+        host.getPrefsDialog()->setPage(page);
+        host.getPrefsDialog()->exec();
+        return row;
+    };
+    EXPECT_EQ(pageAfter("s_io"), 3);
+    EXPECT_EQ(pageAfter(host.translate("s_recording")), 2);
+    EXPECT_EQ(pageAfter("no such page"), 0);
+}
+
+TEST_F(Dialogs, ShowAddressesAndRefuseOneThatIsNone) {
+    host.cameras().find(2)->change({{"name", "<i>x</i>"}, {"connected", true}, {"slowLink", true}});
+    next([&](QDialog& dialog) {
+        const auto* table = dialog.findChild<QTableWidget*>("cameras");
+        QStringList row;
+        for (int column = 0; column < 4; ++column) row << table->item(1, column)->text();
+        EXPECT_EQ(row, QStringList({"192.168.0.12", "<i>x</i>", "standard", "Connected, slow link"}));
+        QLineEdit& search = *dialog.findChild<QLineEdit*>("cameraconnection/SearchIP");
+        search.setText("192.168.300");
+        dialog.accept();
+        EXPECT_TRUE(dialog.isVisible());
+        search.setText("10.0.7");
+        dialog.accept();
+        EXPECT_FALSE(dialog.isVisible());
+    });
+    host.openPrefsEthernetSettings();
+    EXPECT_EQ(pref("cameraconnection/SearchIP"), "10.0.7");
+}
+
+TEST_F(Dialogs, NameThePluginInTheAboutBox) {
+    QString text;
+    next([&](QDialog& dialog) {
+        text = dialog.findChild<QLabel*>("text")->text();
+        dialog.accept();
+    });
+    host.openAboutDialog();
+    EXPECT_TRUE(text.contains(QLatin1String("Qt 5.15")) && text.contains(QLatin1String("Plug-in: none")))
+        << text.toStdString();
+}
+
+TEST_F(Dialogs, WaitForAWorkerThatNobodyCanLeave) {
+    QFutureInterface<void> work;
+    work.reportStarted();
+    QFutureWatcher<void> watched;
+    watched.setFuture(work.future());
+    bool stood = false;
+    next([&](QDialog& dialog) {
+        dialog.close();
+        stood = dialog.isVisible() && !watched.isFinished();
+        EXPECT_EQ(dialog.findChild<QLabel*>()->text(), "Saving <b>...");
+        work.reportFinished();
+    });
+    host.execProgress("Saving <b>...", watched);
+    EXPECT_TRUE(stood && watched.isFinished());
+    EXPECT_EQ(ModalWatcher::standing(), nullptr);
+    host.execProgress("again", watched);
+}
+
+TEST_F(Dialogs, GivePicturesAndTheLogToTheSupportFile) {
+    qInfo("a line of the log");
+    ZebSupportFile file;
+    host.prepareSupportFile(file);
+    EXPECT_TRUE(file.files.value("operation.log").contains("a line of the log"));
+    EXPECT_FALSE(QImage::fromData(file.files.value("viewer.png")).isNull());
+    EXPECT_FALSE(file.files.contains("image.png")) << "no camera is current";
+    host.cameras().find(1)->change({{"selected", true}, {"connected", true}});
+    simulator.window().images().showNow();
+    host.prepareSupportFile(file);
+    EXPECT_EQ(QImage::fromData(file.files.value("image.png")).size(), QSize(1024, 1024));
+}
+
+}  // namespace

@@ -1,0 +1,131 @@
+#include "CameraView.h"
+#include "CameraWindow.h"
+#include "CameraWindows.h"
+#include "CommandLine.h"
+#include "DOC_Frames.h"
+#include "DOC_Interface.h"
+#include "PlayerBar.h"
+#include "Simulator.h"
+#include "ViewerWindow.h"
+#include "camera/Camera.h"
+
+#include <QAction>
+#include <QCoreApplication>
+#include <QMdiArea>
+#include <QSlider>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+class Images : public testing::Test {
+protected:
+    Images() {
+        viewer.show();
+        for (DOCKEY key = 1; key <= 3; ++key) camera(key).set(&CameraState::connected, true);
+        images.showNow();
+    }
+
+    Camera& camera(DOCKEY key) { return *host.cameras().find(key); }
+    std::string titles() const {
+        QStringList list;
+        for (const QMdiSubWindow* window : viewer.mdiArea()->subWindowList(QMdiArea::CreationOrder))
+            list << window->windowTitle();
+        return list.join('|').toStdString();
+    }
+    qint64 shown(DOCKEY key) const { return images.find(key)->view().frame()->number; }
+    /// The number that is shown after the clock has gone on.
+    qint64 shownLater(DOCKEY key) {
+        simulator.clock().setSpeed(1000);
+        const qint64 start = simulator.clock().now();
+        while (simulator.clock().now() < start + 200) QCoreApplication::processEvents();
+        images.showNow();
+        return shown(key);
+    }
+
+    QTemporaryDir folder;
+    const CommandLine line = CommandLine::parse({"zebsim", "--rig", "4", "--prefs", folder.filePath("p.ini")});
+    Simulator simulator{line};
+    SimHost& host = simulator.host();
+    ViewerWindow& viewer = simulator.window();
+    CameraWindows& images = viewer.images();
+};
+
+TEST_F(Images, ComeAndGoWithTheCameras) {
+    EXPECT_EQ(titles(), "Camera 1|Camera 2|Camera 3");
+    EXPECT_EQ(host.mdi().countMdiWindow(true, 2), 3);
+    host.docManager().disconnectDocs({1});
+    host.docManager().connectDocs({4});
+    EXPECT_EQ(host.mdi().countMdiWindow(true, 0), 3) << "whoever asks finds the windows of now";
+    EXPECT_EQ(titles(), "Camera 2|Camera 3|Camera 4");
+    camera(2).set(&CameraState::name, QStringLiteral("<b>Gate</b> %1"));
+    host.faults().plant(3, "*", {{}, 0, true});
+    images.follow();
+    EXPECT_EQ(titles(), "<b>Gate</b> %1|Camera 4");
+    images.find(4)->close();
+    images.find(4)->hide();
+    EXPECT_EQ(host.mdi().countMdiWindow(true, 2), 1) << "one was hidden";
+    EXPECT_EQ(host.mdi().countMdiWindow(false, 2), 2) << "none can be closed";
+    host.setRig(Rig::standard(1));
+    EXPECT_EQ(titles(), "");
+}
+
+TEST_F(Images, MoveWhileLiveRuns) {
+    const qint64 first = shown(1);
+    const qint64 second = shownLater(1);
+    EXPECT_GT(second, first);
+    camera(1).set(&CameraState::stopLive, true);
+    EXPECT_EQ(shownLater(1), second);
+    const qint64 other = shown(2);
+    EXPECT_GT(shownLater(2), other) << "only one was stopped";
+    host.liveLoop().pauseLive(0);
+    const qint64 paused = shown(2);
+    EXPECT_EQ(shownLater(2), paused);
+    host.liveLoop().resumeLive();
+    host.suspendViewer();
+    EXPECT_GT(shownLater(2), paused) << "a dialog of a plug-in does not stop the images";
+}
+
+TEST_F(Images, HaveTheWindowOfTheCurrentCameraInFront) {
+    const auto active = [&] { return static_cast<CameraWindow*>(viewer.mdiArea()->activeSubWindow()); };
+    EXPECT_EQ(host.docManager().getCurrentDoc(), nullptr) << "no window has chosen its camera by coming up";
+    host.docManager().setSelectedDocs({2, 3}, 0);
+    images.follow();
+    EXPECT_EQ(active(), images.find(2));
+    EXPECT_TRUE(images.find(2)->view().isMarked() && images.find(3)->view().isMarked());
+    EXPECT_FALSE(images.find(1)->view().isMarked());
+    viewer.mdiArea()->setActiveSubWindow(images.find(1));
+    EXPECT_EQ(host.docManager().getSelectedDocKeys(0), DocKeyList{1});
+    EXPECT_EQ(host.docManager().getCurrentDockey(0), 1U);
+    camera(4).set(&CameraState::connected, true);
+    images.follow();
+    EXPECT_EQ(active(), images.find(1)) << "a new window does not come in front";
+    EXPECT_EQ(host.docManager().getCurrentDockey(0), 1U);
+}
+
+TEST_F(Images, ShowWhatIsRecordedInMemoryModeAndNothingInFileMode) {
+    camera(1).change({{"recorded", true}, {"selected", true}});
+    camera(1).change({{"recordedRange", QVariantList{0, 999}}, {"recordedTrigger", 400}});
+    host.appStatus().enterMode(zeb::MemoryMode);
+    EXPECT_EQ(shown(1), -400);
+    EXPECT_FALSE(images.find(2)->view().frame()) << "this one has recorded nothing";
+    auto* position = viewer.findChild<QSlider*>("position");
+    position->setValue(450);
+    EXPECT_EQ(shown(1), 50);
+    viewer.findChild<QAction*>("play")->trigger();
+    EXPECT_TRUE(host.docManager().getCurrentDoc()->frames().isPlaying());
+    host.player().pausePlayer();
+    const qint64 paused = shown(1);
+    EXPECT_EQ(shownLater(1), paused);
+    host.player().resumePlayer();
+    EXPECT_GT(shownLater(1), paused);
+    EXPECT_EQ(position->value(), shown(1) + 400);
+    EXPECT_TRUE(viewer.findChild<PlayerBar*>()->isVisible());
+    host.appStatus().enterMode(zeb::FileMode);
+    EXPECT_EQ(titles(), "");
+    EXPECT_FALSE(viewer.findChild<PlayerBar*>()->isVisible());
+    EXPECT_FALSE(camera(1).get(&CameraState::playing));
+}
+
+}  // namespace

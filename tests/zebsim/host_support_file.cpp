@@ -1,0 +1,59 @@
+#include "host/SupportFile.h"
+#include "support/TestHost.h"
+
+#include <QDir>
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QProcess>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+QByteArray contentOf(const QString& path) {
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+TEST(SupportFile, IsAZipThatAnotherProgramReads) {
+    TestHost test(Rig::standard(2));
+    test.camera(2).set(&CameraState::name, QStringLiteral("Düse \"日本\""));
+    test.host.setPref(QStringLiteral("support/dir"), QStringLiteral("/there"));
+    ZebSupportFile file;
+    test.host.prepareSupportFile(file);
+    file.files.insert(QStringLiteral("empty.txt"), {});
+    const QString path = test.folder.filePath(QStringLiteral("s.zip"));
+    // What stood there before goes as a whole.
+    QFile before(path);
+    before.open(QIODevice::WriteOnly);
+    before.write("no archive");
+    before.close();
+    ASSERT_TRUE(test.host.exportSupportFile(path, file));
+
+    QProcess unpack;
+    unpack.setWorkingDirectory(test.folder.path());
+    unpack.start(QStringLiteral(CMAKE_PROGRAM), {"-E", "tar", "xf", path});
+    ASSERT_TRUE(unpack.waitForFinished());
+    ASSERT_EQ(unpack.exitCode(), 0) << unpack.readAllStandardError().toStdString();
+    for (auto entry = file.files.begin(); entry != file.files.end(); ++entry)
+        EXPECT_EQ(contentOf(test.folder.filePath(entry.key())), entry.value()) << entry.key().toStdString();
+    const QJsonArray cameras = QJsonDocument::fromJson(file.files.value("cameras.json")).array();
+    ASSERT_EQ(cameras.size(), 2);
+    EXPECT_EQ(cameras.at(1)["name"].toString(), QStringLiteral("Düse \"日本\""));
+    EXPECT_TRUE(file.files.value("preferences.txt").contains("\nsupport/dir = /there\n"));
+    EXPECT_TRUE(file.files.value("preferences.txt").contains("\nwren/table/interval = 500\n"));
+    EXPECT_TRUE(file.files.value("calls.json").contains("ZebHost::setPref"));
+}
+
+TEST(SupportFile, LeavesNothingBehindWhereItCannotBeWritten) {
+    ZebSupportFile file;
+    file.files.insert(QStringLiteral("a.txt"), "a");
+    QTemporaryDir folder;
+    EXPECT_FALSE(writeSupportFile(folder.filePath(QStringLiteral("no/such/folder/s.zip")), file));
+    EXPECT_FALSE(writeSupportFile(folder.path(), file)) << "a folder of that name";
+    EXPECT_TRUE(QDir(folder.path()).isEmpty());
+}
+
+}  // namespace

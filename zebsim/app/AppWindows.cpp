@@ -1,0 +1,108 @@
+#include "AppWindows.h"
+
+#include "AboutDialog.h"
+#include "CameraView.h"
+#include "CameraWindow.h"
+#include "CameraWindows.h"
+#include "EthernetDialog.h"
+#include "LogStore.h"
+#include "PreferencesDialog.h"
+#include "ProgressWait.h"
+#include "Style.h"
+#include "ZebSupportFile.h"
+#include "host/SimHost.h"
+#include "image/FramePicture.h"
+
+#include <QBuffer>
+#include <QDialog>
+#include <QPixmap>
+
+namespace {
+
+const QString DialogState = QStringLiteral("IsPrefDialogOpening");
+
+QByteArray pngOf(const QImage& image) {
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    image.save(&buffer, "PNG");
+    return buffer.data();
+}
+
+}  // namespace
+
+AppWindows::AppWindows(SimHost& host, const LogStore& log, const CameraWindows& images)
+    : m_host(host), m_log(log), m_images(images), m_boxes(host, *host.getMainWindow()) {
+    host.setAppDesk(this);
+}
+
+AppWindows::~AppWindows() {
+    m_host.setAppDesk(nullptr);
+}
+
+int AppWindows::exec() {
+    auto* dialog = new PreferencesDialog(m_host.prefs(), m_host.getMainWindow());
+    dialog->openAt(std::exchange(m_page, {}));
+    const bool before = m_host.flags().isOn(DialogState);
+    m_host.flags().set(DialogState, true);
+    const int result = run(dialog);
+    m_host.flags().set(DialogState, before);
+    m_host.updates().request();
+    return result;
+}
+
+void AppWindows::openEthernetSettings() {
+    run(new EthernetDialog(m_host.cameras(), m_host.prefs(), m_host.getMainWindow()));
+}
+
+void AppWindows::openAbout() {
+    run(new AboutDialog(m_pluginFile, m_host.getMainWindow()));
+}
+
+int AppWindows::run(QDialog* dialog) {
+    // The dialog goes with the main window, which may be destroyed while it stands.
+    const QPointer<QDialog> standing = dialog;
+    applyNativeStyle(m_host, *dialog);
+    const int result = dialog->exec();
+    delete standing;
+    return result;
+}
+
+void AppWindows::runProgress(const QString& text, QFutureWatcherBase& watcher) {
+    waitWithProgress(m_host, text, watcher);
+}
+
+QImage AppWindows::currentImage() const {
+    const CameraWindow* window = m_images.find(m_host.docManager().getCurrentDockey(0));
+    if (window == nullptr || !window->view().frame()) return {};
+    const CameraFrame& frame = *window->view().frame();
+    return drawFrame(frame, frame.resolution);
+}
+
+void AppWindows::addToSupportFile(ZebSupportFile& file) const {
+    file.files.insert(QStringLiteral("operation.log"), m_log.since(0).join(QLatin1Char('\n')).toUtf8());
+    if (QWidget* window = m_host.getMainWindow())
+        file.files.insert(QStringLiteral("viewer.png"), pngOf(window->grab().toImage()));
+    for (PLG_Interface* plugin : m_host.appStatus().plugins()) {
+        QDialog* dialog = plugin->getDialog(false);
+        if (dialog != nullptr && dialog->isVisible())
+            file.files.insert(plugin->getName() % QStringLiteral(".png"), pngOf(dialog->grab().toImage()));
+    }
+    const QImage image = currentImage();
+    if (!image.isNull()) file.files.insert(QStringLiteral("image.png"), pngOf(image));
+}
+
+void AppWindows::showDropDownBox(const QString& key, const QRect& anchor) {
+    m_boxes.showDropDownBox(key, anchor);
+}
+
+void AppWindows::hideDropDownBox(const QString& key) {
+    m_boxes.hideDropDownBox(key);
+}
+
+bool AppWindows::isDropDownBoxShown() const {
+    return m_boxes.isDropDownBoxShown();
+}
+
+QRect AppWindows::dropDownBoxRect(const QString& key) const {
+    return m_boxes.dropDownBoxRect(key);
+}

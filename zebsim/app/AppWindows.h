@@ -1,0 +1,46 @@
+#pragma once
+
+#include "DropDownBoxes.h"
+#include "ZebPrefsDialog.h"
+#include "host/AppDesk.h"
+
+class CameraWindows;
+class LogStore;
+class QDialog;
+class SimHost;
+
+/// The application's windows behind the host: dialogs, the image in front, pictures for a support file.
+class AppWindows : public AppDesk, private ZebPrefsDialog {
+public:
+    /// All must outlive the object, and so must the host's main window.
+    AppWindows(SimHost& host, const LogStore& log, const CameraWindows& images);
+    ~AppWindows() override;
+    AppWindows(const AppWindows&) = delete;
+    AppWindows& operator=(const AppWindows&) = delete;
+
+    /// The plug-in's file; empty for none.
+    void setPluginFile(const QString& path) { m_pluginFile = path; }
+
+    ZebPrefsDialog* prefsDialog() override { return this; }
+    void openEthernetSettings() override;
+    void openAbout() override;
+    void runProgress(const QString& text, QFutureWatcherBase& watcher) override;
+    QImage currentImage() const override;
+    void addToSupportFile(ZebSupportFile& file) const override;
+    void showDropDownBox(const QString& key, const QRect& anchor) override;
+    void hideDropDownBox(const QString& key) override;
+    bool isDropDownBoxShown() const override;
+    QRect dropDownBoxRect(const QString& key) const override;
+
+private:
+    void setPage(const QString& page) override { m_page = page; }
+    int exec() override;
+    int run(QDialog* dialog);
+
+    SimHost& m_host;
+    const LogStore& m_log;
+    const CameraWindows& m_images;
+    DropDownBoxes m_boxes;
+    QString m_pluginFile;
+    QString m_page;
+};

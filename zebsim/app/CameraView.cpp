@@ -1,0 +1,72 @@
+#include "CameraView.h"
+
+#include "image/FramePicture.h"
+
+#include <QPainter>
+
+namespace {
+
+constexpr int MarkWidth = 3;
+const QColor Background(24, 26, 30);
+const QColor Mark(46, 160, 255);
+
+}  // namespace
+
+bool ImagePose::operator==(const ImagePose& other) const {
+    return rotation == other.rotation && flipHorizontal == other.flipHorizontal && flipVertical == other.flipVertical &&
+           zoom == other.zoom;
+}
+
+CameraView::CameraView(QWidget* parent) : QWidget(parent) {
+    // Windows behind need not be drawn then.
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    setMinimumSize(1, 1);
+}
+
+void CameraView::showFrame(const std::optional<CameraFrame>& frame, const ImagePose& pose, const QString& text) {
+    if (m_frame == frame && m_pose == pose && m_text == text) return;
+    m_frame = frame;
+    m_pose = pose;
+    m_text = text;
+    update();
+}
+
+void CameraView::setMarked(bool marked) {
+    if (m_marked == marked) return;
+    m_marked = marked;
+    update();
+}
+
+void CameraView::paintEvent(QPaintEvent* /*event*/) {
+    QPainter painter(this);
+    painter.fillRect(rect(), Background);
+    if (m_frame) {
+        drawImage(painter);
+    } else {
+        painter.setPen(Qt::lightGray);
+        painter.drawText(rect(), Qt::AlignCenter | Qt::TextWordWrap, m_text);
+    }
+    if (m_marked) {
+        painter.setPen(QPen(Mark, MarkWidth));
+        const int half = MarkWidth / 2;
+        painter.drawRect(rect().adjusted(half, half, -half - 1, -half - 1));
+    }
+}
+
+void CameraView::drawImage(QPainter& painter) const {
+    QTransform pose;
+    pose.rotate(m_pose.rotation * 360);
+    pose.scale(m_pose.flipHorizontal ? -1 : 1, m_pose.flipVertical ? -1 : 1);
+    const QRectF posed = pose.mapRect(QRectF({}, m_frame->resolution));
+    const QSize shown = fitInto(size(), posed.size().toSize());
+    if (shown.isEmpty()) return;
+    const double scale = shown.width() / posed.width();
+    const QSizeF plain = QSizeF(m_frame->resolution) * scale;
+    const QImage image = drawFrame(*m_frame, (plain * devicePixelRatioF()).toSize());
+    painter.save();
+    painter.translate(QRectF(rect()).center());
+    painter.setTransform(pose, true);
+    painter.scale(m_pose.zoom, m_pose.zoom);
+    painter.drawImage(QRectF(QPointF(-plain.width() / 2, -plain.height() / 2), plain), image);
+    painter.restore();
+}

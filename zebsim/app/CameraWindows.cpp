@@ -1,0 +1,149 @@
+#include "CameraWindows.h"
+
+#include "CameraView.h"
+#include "CameraWindow.h"
+#include "ImageArea.h"
+#include "UiText.h"
+#include "camera/Camera.h"
+#include "host/SimHost.h"
+#include "recording/Clock.h"
+
+#include <QScopedValueRollback>
+
+#include <algorithm>
+
+namespace {
+
+constexpr int LeastInterval = 100;
+/// Many windows take turns less often, so that they cost no more than a few.
+constexpr int IntervalForEach = 8;
+
+ImagePose poseOf(const CameraState& state) {
+    return {state.rotation, state.flipHorizontal, state.flipVertical, state.zoom};
+}
+
+}  // namespace
+
+CameraWindows::CameraWindows(SimHost& host, ImageArea& area) : m_host(host), m_area(area) {
+    connect(&host.events(), &HostEvents::camerasReplaced, this, [this] {
+        m_playback.reset();
+        follow();
+    });
+    connect(&host.events(), &HostEvents::modeChanged, this, &CameraWindows::showNow);
+    connect(&host.events(), &HostEvents::updateFinished, this, &CameraWindows::follow);
+    connect(&area, &QMdiArea::subWindowActivated, this, &CameraWindows::windowActivated);
+    connect(&m_timer, &QTimer::timeout, this, &CameraWindows::showNow);
+    // Whoever counts the windows is to find those of the cameras that there are now.
+    host.mdi().setCounter([this](bool visible) {
+        follow();
+        return count(visible);
+    });
+    m_timer.start(LeastInterval);
+    follow();
+}
+
+CameraWindows::~CameraWindows() {
+    m_host.mdi().setCounter({});
+}
+
+void CameraWindows::follow() {
+    if (m_changing) return;
+    const QScopedValueRollback<bool> changing(m_changing, true);
+    addAndRemove();
+    forEach([](const Camera& camera, CameraWindow& window) {
+        if (window.windowTitle() != camera.name()) window.setWindowTitle(camera.name());
+        window.view().setMarked(camera.get(&CameraState::selected));
+    });
+    activateCurrent();
+    m_area.setEmptyText(emptyText());
+}
+
+void CameraWindows::addAndRemove() {
+    const DocKeyList wanted = m_host.isFileMode() ? DocKeyList() : m_host.docManager().getConnectedDocKeys();
+    const DocKeyList present = m_windows.keys();
+    if (wanted == present) return;
+    for (const DOCKEY key : present) {
+        if (wanted.contains(key)) continue;
+        CameraWindow* window = m_windows.take(key);
+        m_area.removeSubWindow(window);
+        // This may run inside an event of the window.
+        window->deleteLater();
+    }
+    for (const DOCKEY key : wanted) {
+        if (m_windows.contains(key)) continue;
+        auto* window = new CameraWindow(key);
+        m_windows.insert(key, window);
+        m_area.addSubWindow(window);
+        // The area has given it a close button.
+        window->setWindowFlags(Qt::SubWindow | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
+                               Qt::WindowMinMaxButtonsHint);
+        window->show();
+    }
+    m_active = m_area.activeSubWindow();
+    m_current = nullptr;
+    QList<QMdiSubWindow*> inOrder;
+    for (CameraWindow* window : qAsConst(m_windows)) inOrder << window;
+    m_area.tile(inOrder);
+    m_timer.setInterval(std::max(LeastInterval, m_windows.size() * IntervalForEach));
+}
+
+void CameraWindows::activateCurrent() {
+    CameraWindow* current = find(m_host.docManager().getCurrentDockey(0));
+    if (current == m_current) return;
+    m_current = current;
+    if (current != nullptr) m_area.setActiveSubWindow(current);
+    m_active = m_area.activeSubWindow();
+}
+
+void CameraWindows::windowActivated(QMdiSubWindow* window) {
+    // The area also raises windows by itself: a new one, and the old one when the application comes to the front.
+    if (m_changing || window == nullptr || window == m_active) return;
+    m_active = window;
+    const DOCKEY chosen = static_cast<CameraWindow*>(window)->key();
+    if (chosen == m_host.docManager().getCurrentDockey(0)) return;
+    for (Camera* camera : m_host.cameras().all()) camera->set(&CameraState::selected, camera->key() == chosen);
+    m_host.updates().request();
+}
+
+void CameraWindows::showNow() {
+    follow();
+    const qint64 now = m_host.clock().now();
+    const qint64 passed = m_host.player().isPaused() ? 0 : now - m_shownAt;
+    m_shownAt = now;
+    forEach([&](const Camera& camera, CameraWindow& window) { showImage(camera, window, passed); });
+    Q_EMIT shown();
+}
+
+void CameraWindows::forEach(const std::function<void(const Camera&, CameraWindow&)>& work) const {
+    for (CameraWindow* window : m_windows) {
+        if (const Camera* camera = m_host.cameras().find(window->key())) work(*camera, *window);
+    }
+}
+
+void CameraWindows::showImage(const Camera& camera, CameraWindow& window, qint64 passed) {
+    const CameraState state = camera.state();
+    std::optional<CameraFrame> frame;
+    if (m_host.isMemoryMode())
+        frame = recordedFrame(camera, passed);
+    else if (window.view().frame() && (state.stopLive || m_host.liveLoop().isLivePaused()))
+        frame = window.view().frame();
+    else
+        frame = CameraFrame::live(state, m_shownAt);
+    window.view().showFrame(frame, poseOf(state), uiText("Nothing is recorded"));
+}
+
+std::optional<CameraFrame> CameraWindows::recordedFrame(const Camera& camera, qint64 passed) {
+    const std::optional<Recording> recording = camera.recording();
+    if (!recording) return std::nullopt;
+    if (camera.get(&CameraState::playing)) m_playback.advance(camera.key(), *recording, passed);
+    return CameraFrame::recorded(camera.state(), *recording, m_playback.frame(camera.key(), *recording));
+}
+
+int CameraWindows::count(bool visible) const {
+    return int(std::count_if(m_windows.begin(), m_windows.end(),
+                             [visible](const CameraWindow* window) { return !visible || !window->isHidden(); }));
+}
+
+QString CameraWindows::emptyText() const {
+    return m_host.isFileMode() ? uiText("No file is open") : uiText("No camera is connected");
+}

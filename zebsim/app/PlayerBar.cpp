@@ -1,0 +1,82 @@
+#include "PlayerBar.h"
+
+#include "CameraWindows.h"
+#include "UiText.h"
+#include "camera/Camera.h"
+#include "host/SimHost.h"
+#include "image/CameraFrame.h"
+
+#include <QLabel>
+#include <QSignalBlocker>
+#include <QSlider>
+#include <QStyle>
+
+PlayerBar::PlayerBar(SimHost& host, CameraWindows& windows, QWidget* parent)
+    : QToolBar(uiText("Player"), parent),
+      m_host(host),
+      m_windows(windows),
+      m_play(addAction(uiText("Play"))),
+      m_position(new QSlider(Qt::Horizontal, this)),
+      m_frame(new QLabel(this)) {
+    setObjectName(QStringLiteral("player"));
+    setMovable(false);
+    m_play->setObjectName(QStringLiteral("play"));
+    m_play->setCheckable(true);
+    m_position->setObjectName(QStringLiteral("position"));
+    m_frame->setObjectName(QStringLiteral("frame"));
+    m_frame->setTextFormat(Qt::PlainText);
+    m_frame->setMinimumWidth(30 * fontMetrics().averageCharWidth());
+    m_frame->setStyleSheet(QStringLiteral("background: transparent"));
+    addWidget(m_position);
+    addWidget(m_frame);
+    connect(m_play, &QAction::triggered, this, &PlayerBar::play);
+    connect(m_position, &QSlider::valueChanged, this, &PlayerBar::seek);
+    connect(&host.events(), &HostEvents::modeChanged, this, &PlayerBar::modeChanged);
+    connect(&windows, &CameraWindows::shown, this, &PlayerBar::refresh);
+    modeChanged(host.getOperatingMode());
+}
+
+Camera* PlayerBar::current() const {
+    Camera* camera = m_host.cameras().find(m_host.docManager().getCurrentDockey(0));
+    return camera != nullptr && camera->get(&CameraState::connected) && camera->recording() ? camera : nullptr;
+}
+
+void PlayerBar::modeChanged(int mode) {
+    setVisible(mode == zeb::MemoryMode);
+    if (mode != zeb::MemoryMode) {
+        for (Camera* camera : m_host.cameras().all()) camera->set(&CameraState::playing, false);
+    }
+    refresh();
+}
+
+void PlayerBar::play(bool on) {
+    if (Camera* camera = current()) camera->set(&CameraState::playing, on);
+    m_host.updates().request();
+    refresh();
+}
+
+void PlayerBar::seek(int frame) {
+    const Camera* camera = current();
+    if (camera == nullptr) return;
+    m_windows.playback().seek(camera->key(), frame);
+    m_windows.showNow();
+}
+
+void PlayerBar::refresh() {
+    const Camera* camera = current();
+    m_play->setEnabled(camera != nullptr);
+    m_position->setEnabled(camera != nullptr);
+    const bool isPlaying = camera != nullptr && camera->get(&CameraState::playing);
+    m_play->setChecked(isPlaying);
+    m_play->setText(isPlaying ? uiText("Pause") : uiText("Play"));
+    m_play->setIcon(style()->standardIcon(isPlaying ? QStyle::SP_MediaPause : QStyle::SP_MediaPlay));
+    m_frame->clear();
+    if (camera == nullptr) return;
+    const Recording recording = *camera->recording();
+    const int frame = m_windows.playback().frame(camera->key(), recording);
+    const QSignalBlocker ownChange(m_position);
+    m_position->setRange(recording.first, recording.last);
+    m_position->setValue(frame);
+    const CameraFrame shown = CameraFrame::recorded(camera->state(), recording, frame);
+    m_frame->setText(uiText("%1: frame %2").arg(shown.camera, QString::number(shown.number)));
+}

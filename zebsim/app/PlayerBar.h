@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QToolBar>
+
+class Camera;
+class CameraWindows;
+class QLabel;
+class QSlider;
+class SimHost;
+
+/// Plays what the current camera has recorded. Stands in the window in memory mode only.
+class PlayerBar : public QToolBar {
+    Q_OBJECT
+
+public:
+    /// Both must outlive the bar.
+    PlayerBar(SimHost& host, CameraWindows& windows, QWidget* parent);
+
+private:
+    Camera* current() const;
+    void modeChanged(int mode);
+    void play(bool on);
+    void seek(int frame);
+    void refresh();
+
+    SimHost& m_host;
+    CameraWindows& m_windows;
+    QAction* m_play;
+    QSlider* m_position;
+    QLabel* m_frame;
+};

@@ -1,0 +1,100 @@
+#include "PreferencesDialog.h"
+
+#include "PreferencePages.h"
+#include "UiText.h"
+#include "host/Preferences.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDialogButtonBox>
+#include <QFormLayout>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QSpinBox>
+#include <QStackedWidget>
+
+PreferencesDialog::PreferencesDialog(Preferences& prefs, QWidget* parent)
+    : QDialog(parent), m_prefs(prefs), m_titles(new QListWidget(this)), m_pages(new QStackedWidget(this)) {
+    setWindowTitle(uiText("Preferences"));
+    m_titles->setObjectName(QStringLiteral("pages"));
+    for (const PreferencePage& page : preferencePages()) {
+        m_titles->addItem(uiText(page.id));
+        m_pages->addWidget(makePage(page));
+    }
+    connect(m_titles, &QListWidget::currentRowChanged, m_pages, &QStackedWidget::setCurrentIndex);
+    m_titles->setCurrentRow(0);
+    m_titles->setFixedWidth(m_titles->sizeHintForColumn(0) + 4 * fontMetrics().averageCharWidth());
+    auto* buttons = new QDialogButtonBox(this);
+    buttons->addButton(uiText("OK"), QDialogButtonBox::AcceptRole);
+    buttons->addButton(uiText("Cancel"), QDialogButtonBox::RejectRole);
+    connect(buttons, &QDialogButtonBox::accepted, this, &PreferencesDialog::accept);
+    connect(buttons, &QDialogButtonBox::rejected, this, &PreferencesDialog::reject);
+    auto* layout = new QGridLayout(this);
+    layout->addWidget(m_titles, 0, 0);
+    layout->addWidget(m_pages, 0, 1);
+    layout->addWidget(buttons, 1, 0, 1, 2);
+    layout->setColumnStretch(1, 1);
+}
+
+void PreferencesDialog::openAt(const QString& page) {
+    for (int i = 0; i < preferencePages().size(); ++i) {
+        const bool isWanted = page == QLatin1String(preferencePages().at(i).id) || page == m_titles->item(i)->text();
+        if (isWanted) m_titles->setCurrentRow(i);
+    }
+}
+
+QWidget* PreferencesDialog::makePage(const PreferencePage& page) {
+    auto* widget = new QWidget(m_pages);
+    auto* form = new QFormLayout(widget);
+    for (const PreferenceField& field : page.fields) addEditor(*form, field);
+    return widget;
+}
+
+void PreferencesDialog::addEditor(QFormLayout& form, const PreferenceField& field) {
+    const QVariant value = m_prefs.value(field.key, field.fallback);
+    Reader reader;
+    QWidget* editor = makeEditor(field, value, reader);
+    editor->setObjectName(field.key);
+    m_editors.append({field.key, reader(), reader});
+    if (auto* box = qobject_cast<QCheckBox*>(editor)) {
+        box->setText(uiText(field.label));
+        form.addRow(box);
+    } else {
+        form.addRow(uiText(field.label), editor);
+    }
+}
+
+QWidget* PreferencesDialog::makeEditor(const PreferenceField& field, const QVariant& value, Reader& reader) {
+    if (!field.choices.isEmpty()) {
+        auto* box = new QComboBox(this);
+        for (const PreferenceChoice& choice : field.choices) box->addItem(uiText(choice.label), choice.value);
+        box->setCurrentIndex(box->findData(value));
+        reader = [box] { return box->currentData(); };
+        return box;
+    }
+    if (field.fallback.type() == QVariant::Bool) {
+        auto* box = new QCheckBox(this);
+        box->setChecked(value.toBool());
+        reader = [box] { return box->isChecked(); };
+        return box;
+    }
+    if (field.fallback.type() == QVariant::Int) {
+        auto* box = new QSpinBox(this);
+        box->setRange(field.lowest, field.highest);
+        box->setValue(value.toInt());
+        reader = [box] { return box->value(); };
+        return box;
+    }
+    auto* line = new QLineEdit(value.toString(), this);
+    reader = [line] { return line->text(); };
+    return line;
+}
+
+void PreferencesDialog::accept() {
+    for (const Editor& editor : qAsConst(m_editors)) {
+        const QVariant value = editor.value();
+        // A value that none of the choices stands for stays unless the user has made a choice.
+        if (value != editor.before) m_prefs.setValue(editor.key, value);
+    }
+    QDialog::accept();
+}
