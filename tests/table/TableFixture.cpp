@@ -21,6 +21,18 @@ Answer ScriptedDesk::show(const Message& message) {
 
 TableFixture::TableFixture() {
     host.setRig(Rig::fromFile(QStringLiteral("eight-mixed")));
+    // A test says itself what is recorded.
+    for (Camera* camera : host.cameras().all()) {
+        camera->change({{QStringLiteral("recorded"), false},
+                        {QStringLiteral("recordCheck"), false},
+                        {QStringLiteral("recordedRange"), QVariantList{0, 0}},
+                        {QStringLiteral("recordedRate"), 0},
+                        {QStringLiteral("recordedTrigger"), 0},
+                        {QStringLiteral("selectedRange"), QVariantList{0, 0}},
+                        {QStringLiteral("triggerOffset"), 0},
+                        {QStringLiteral("triggerOffsetEnabled"), false},
+                        {QStringLiteral("effectivePlugins"), QStringList()}});
+    }
 }
 
 void TableFixture::connectAll() {
