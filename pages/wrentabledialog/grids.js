@@ -28,7 +28,8 @@ Object.assign(wrentabledialog_obj, {
         const view = new GridView(grid, tab, () => this.closeFloating());
         grid.render(document.getElementById(tab.gridName));
         listenToGrid(view);
-        alertTip(grid.box);
+        textTip(grid.box, '[alerts], [comments]',
+            element => element.getAttribute('alerts') || element.getAttribute('comments') || '');
         return view;
     },
 
@@ -69,14 +70,14 @@ Object.assign(wrentabledialog_obj, {
     }
 });
 
-// Alerts and comments are long; the whole text stands in a tip.
+// Texts that are longer than their place stand whole in a tip.
 let tipOwner = null;
 
-function alertTip(box) {
+function textTip(box, items, textOf) {
     $(box).tooltip({
-        items: '[alerts], [comments]',
+        items,
         content() {
-            return escapeMarkup(this.getAttribute('alerts') || this.getAttribute('comments') || '');
+            return escapeMarkup(textOf(this));
         },
         open: event => { tipOwner = event.originalEvent.target; },
         close: () => { tipOwner = null; },

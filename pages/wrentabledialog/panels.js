@@ -1,15 +1,44 @@
-// The panels around the table.
+// The panels around the table: what is done with all cameras at once.
 Object.assign(wrentabledialog_obj, {
+    initializeCommonParts() {
+        textTip('#wrenGroupBox', '.groupButton', button => button.getAttribute('group-name'));
+        onClick('#wren_io_setting', () => wrentabledialog.openPrefsDialog('s_io'));
+        onClick('#wren_ethernet_setting', () => wrentabledialog.openPrefsEthernetSettings());
+        this.initializeMenus();
+    },
+
+    initializeSaveContainer() {
+        onClick('button.save-files', () => {
+            if (wrentabledialog.getPrefInt(PREF_KEY_SAVE_STATUS_ONLIVEMEMORYMODE) === PREF_VAL_SAVE_STATUS_LAYOUT) {
+                wrentabledialog.saveLayout();
+            } else {
+                wrentabledialog.save();
+            }
+        });
+        onClick('li a.save-files', () => wrentabledialog.save());
+        onClick('li a.save-layout', () => wrentabledialog.saveLayout());
+    },
+
+    initializeRecordingContainer() {
+        // At the press already, not at the click: recording can't wait.
+        $('#timeline_rec_exec').on('mousedown', event => guarded(() => this.pressRecord(event.currentTarget)));
+    },
+
+    // The button stays disabled until the next cycle, against a double start.
+    pressRecord(button) {
+        const status = parseReply(wrentabledialog.getRecStatus());
+        if (status && status.recStatus === this.RECORD_STATUS_LIVE) {
+            button.disabled = true;
+        }
+        wrentabledialog.record();
+    },
+
     // Shows the record status on the two buttons.
     recStatusChanged(status, label) {
         this.isCtsReady = status === this.RECORD_STATUS_CTS_READY;
         const look = this.recordLook(status, label);
-        const signature = JSON.stringify(look);
-        if (this.recordSignature !== signature) {
-            this.recordSignature = signature;
-            showButton('timeline_rec_exec', look.record);
-            showButton('timeline_rec_cancel', look.cancel);
-        }
+        showButton('timeline_rec_exec', look.record);
+        showButton('timeline_rec_cancel', look.cancel);
         $('#timeline_rec_exec').data('status', status);
     },
 
@@ -36,64 +65,6 @@ Object.assign(wrentabledialog_obj, {
         default:
             return idle(translate('Record'));
         }
-    },
-
-    initializeRecordFilter() {
-        const filter = document.getElementById('recordFilter');
-        filter.value = String(wrentabledialog.getFilter());
-        zeb4func.initSumoSelect('#recordFilter', 120, false, false, false, wrentabledialog);
-        zeb4func.selectItemSumoSelect('#recordFilter', wrentabledialog.getFilter());
-        filter.addEventListener('change', () => {
-            this.preventSelect = false;
-            this.update();
-            this.selectAll();
-        });
-    },
-
-    initializeGroupBox() {
-        const box = document.getElementById('wrenGroupBox');
-        box.textContent = '';
-        const groups = parseReply(wrentabledialog.getGroups()) || [];
-        groups.forEach((group, index) => box.appendChild(this.groupButton(group, index)));
-        const buttons = Array.from(box.children);
-        const stored = wrentabledialog.getGroup();
-        const chosen = buttons.find(button => button.getAttribute('groupkey') === stored) || buttons[0];
-        buttons.forEach(button => button.setAttribute('buttonselected', String(button === chosen)));
-        this.showGroupBlock();
-    },
-
-    groupButton(group, index) {
-        const button = document.createElement('input');
-        const attributes = { type: 'button', class: 'groupButton', id: 'group_button_' + index, groupkey: group.key,
-            value: group.name, 'group-name': group.name, title: group.name, buttonselected: 'false' };
-        Object.keys(attributes).forEach(name => button.setAttribute(name, attributes[name]));
-        button.addEventListener('click', () => this.chooseGroup(button));
-        return button;
-    },
-
-    // The buttons stay disabled while the page shows the other group.
-    chooseGroup(button) {
-        this.preventSelectGroup = true;
-        this.preventSelect = false;
-        Array.from(button.parentNode.children).forEach(other => {
-            other.setAttribute('buttonselected', String(other === button));
-        });
-        try {
-            this.update();
-        } finally {
-            this.preventSelectGroup = false;
-            zeb4func.disable('.groupButton', false);
-        }
-    },
-
-    selectedGroup() {
-        const button = document.querySelector('.groupButton[buttonselected="true"]');
-        return button ? button.getAttribute('groupkey') : '';
-    },
-
-    showGroupBlock() {
-        const filled = document.getElementById('wrenGroupBox').children.length > 0;
-        showElement(document.getElementById('wrenGroupBlock'), filled);
     },
 
     // The custom information grid is empty, so there is nothing to write.
@@ -135,24 +106,24 @@ Object.assign(wrentabledialog_obj, {
         document.getElementById('timeline_stopLiveCheckbox').checked = stopped;
         zeb4func.disable('#timeline_updateLiveButton', !stopped);
 
+        const partition = document.getElementById('recording_partition');
+        setStyle(partition, 'display', 'inline');
         if (!this.isShownSelectBox()) {
             zeb4func.removeDummy();
         }
-        setText(document.getElementById('recording_partition'), wrentabledialog.getCurrentPartitionName());
-    },
-
-    isShownSelectBox() {
-        return this.isSnapshotListShown || wrentabledialog.isShownSelectBox();
+        setText(partition, wrentabledialog.getCurrentPartitionName());
     }
 });
 
 // A button's contents: a mark, which the style sheet draws, and a text.
 function showButton(id, look) {
     const button = document.getElementById(id);
-    button.className = look.classes;
-    button.textContent = '';
-    if (look.mark) {
-        button.appendChild(document.createElement('span'));
+    setClass(button, look.classes);
+    if (button.textContent === look.text && (button.firstElementChild !== null) === look.mark) {
+        return;
     }
-    button.appendChild(document.createTextNode(look.text));
+    button.textContent = look.text;
+    if (look.mark) {
+        button.insertBefore(document.createElement('span'), button.firstChild);
+    }
 }

@@ -13,6 +13,9 @@ Object.assign(wrentabledialog_obj, {
         guarded(() => this.initializeList());
         this.initializeGroupBox();
         this.refreshCommonParts();
+        this.initializeCommonParts();
+        this.initializeSaveContainer();
+        this.initializeRecordingContainer();
         this.initializeTabs();
         this.refreshDisplayElement();
         this.update();

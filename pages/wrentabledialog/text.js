@@ -27,6 +27,15 @@ function guarded(action) {
     }
 }
 
+// Runs `work` at a click on an element that is not disabled; links know no such state by themselves.
+function onClick(selector, work) {
+    $(selector).on('click', event => {
+        if (!event.currentTarget.hasAttribute('disabled')) {
+            guarded(work);
+        }
+    });
+}
+
 // Runs what the back end asked for; nobody else would hear of a failure.
 function logged(action) {
     try {

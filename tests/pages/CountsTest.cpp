@@ -67,6 +67,10 @@ TEST(PageCounts, HandlersDoNotGrowWithRefreshes) {
 TEST(PageCounts, ATickWithNothingChangedWritesNothing) {
     TestHost test(Rig::fromFile("eight-mixed"));
     connectCameras(test, 1, 7);
+    // What is recorded would have to be erased first.
+    for (Camera* camera : test.host.cameras().all()) {
+        camera->set(&CameraState::recorded, false);
+    }
     test.camera(1).change({{"selected", true}, {"locked", true}});
     test.camera(2).change({{"lowLight", true}, {"reduce", true}});
     TablePage page(test);
@@ -87,7 +91,14 @@ TEST(PageCounts, ATickWithNothingChangedWritesNothing) {
     test.host.prefs().setValue("env/style", "dark");
     quiet("dark");
     test.host.appStatus().enterMode(zeb::MemoryMode);
-    quiet("memory mode");
+    page.settle();
+    test.camera(1).change({{"recorded", true}, {"recordCheck", true}});
+    test.camera(3).change({{"recorded", true}, {"selectedRange", QVariantList{10, 90}}});
+    for (const int tab : {6, 5}) {
+        page.show(tab);
+        quiet("tab " + std::to_string(tab));
+        EXPECT_EQ(page.number("probe.drawn()[0].querySelectorAll('.wren_checkbox_recordCheck:checked').length"), 1);
+    }
     const QStringList calls = page.list("probe.calls(() => wrentabledialog_obj.autoUpdate()).map(call => call[0])");
     EXPECT_TRUE(calls.contains("getRecords"));
     EXPECT_FALSE(calls.contains("getRecStatus")) << "there is no record status in memory mode";

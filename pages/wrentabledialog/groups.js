@@ -1,0 +1,61 @@
+// Which cameras the table lists: the group box and the record filter.
+Object.assign(wrentabledialog_obj, {
+    initializeRecordFilter() {
+        const filter = document.getElementById('recordFilter');
+        filter.value = String(wrentabledialog.getFilter());
+        zeb4func.initSumoSelect('#recordFilter', 120, false, false, false, wrentabledialog);
+        zeb4func.selectItemSumoSelect('#recordFilter', wrentabledialog.getFilter());
+        filter.addEventListener('change', () => {
+            this.preventSelect = false;
+            this.update();
+            this.selectAll();
+        });
+    },
+
+    initializeGroupBox() {
+        const box = document.getElementById('wrenGroupBox');
+        box.textContent = '';
+        const groups = parseReply(wrentabledialog.getGroups()) || [];
+        groups.forEach((group, index) => box.appendChild(this.groupButton(group, index)));
+        const buttons = Array.from(box.children);
+        const stored = wrentabledialog.getGroup();
+        const chosen = buttons.find(button => button.getAttribute('groupkey') === stored) || buttons[0];
+        buttons.forEach(button => button.setAttribute('buttonselected', String(button === chosen)));
+        this.showGroupBlock();
+    },
+
+    groupButton(group, index) {
+        const button = document.createElement('input');
+        const attributes = { type: 'button', class: 'groupButton', id: 'group_button_' + index, groupkey: group.key,
+            value: group.name, 'group-name': group.name, buttonselected: 'false' };
+        Object.keys(attributes).forEach(name => button.setAttribute(name, attributes[name]));
+        button.addEventListener('click', () => this.chooseGroup(button));
+        return button;
+    },
+
+    // The buttons stay disabled while the page shows the other group.
+    chooseGroup(button) {
+        this.preventSelectGroup = true;
+        this.preventSelect = false;
+        closeTip();
+        Array.from(button.parentNode.children).forEach(other => {
+            other.setAttribute('buttonselected', String(other === button));
+        });
+        try {
+            this.update();
+        } finally {
+            this.preventSelectGroup = false;
+            zeb4func.disable('.groupButton', false);
+        }
+    },
+
+    selectedGroup() {
+        const button = document.querySelector('.groupButton[buttonselected="true"]');
+        return button ? button.getAttribute('groupkey') : '';
+    },
+
+    showGroupBlock() {
+        const filled = document.getElementById('wrenGroupBox').children.length > 0;
+        showElement(document.getElementById('wrenGroupBlock'), filled);
+    }
+});

@@ -1,0 +1,63 @@
+// The drop-down menus of the snapshot and save buttons, and the box of partitions, which is a window of its own. While
+// one is open an overlay lies over the page, and takes the click that closes it.
+Object.assign(wrentabledialog_obj, {
+    initializeMenus() {
+        $('#wren-root-block').on('click', '.dummy', () => guarded(() => this.hideSelectBox()));
+        $('.funcs-button li a').on('click', () => guarded(() => this.hideSelectBox()));
+        $('#btn-save li a').on('click', event => {
+            window.setTimeout(() => event.currentTarget.classList.remove('active'), 10);
+        });
+        $('.miscfuncs > button').on('click', event => this.toggleMenu(event.currentTarget));
+        $('#btn-recording_partition').on('click', event => guarded(() => this.showPartitions(event.currentTarget)));
+    },
+
+    toggleMenu(button) {
+        const group = button.closest('.funcs-button');
+        const list = button.nextElementSibling;
+        const open = list.hidden;
+        this.showMenu(list, open);
+        $(group).find('a.snapshot-file, a.save-files').removeClass('active');
+        if (group.id === 'btn-snapshot') {
+            this.isSnapshotListShown = open;
+        }
+        if (open) {
+            this.appendDummy();
+        } else {
+            zeb4func.removeDummy();
+        }
+    },
+
+    showMenu(list, shown) {
+        showElement(list, shown);
+        list.closest('[fixed]').classList.toggle('menu-open', shown);
+    },
+
+    showPartitions(group) {
+        if (group.querySelector('button').hasAttribute('disabled')) {
+            return;
+        }
+        this.hideSelectBox();
+        this.appendDummy();
+        const spot = group.getBoundingClientRect();
+        wrentabledialog.showLivePartition(Math.round(spot.left), Math.round(spot.top), Math.round(spot.width),
+            Math.round(spot.height));
+    },
+
+    hideSelectBox() {
+        wrentabledialog.hideSelectBox();
+        Array.from(document.querySelectorAll('.miscfuncs ul')).forEach(list => this.showMenu(list, false));
+        this.isSnapshotListShown = false;
+        zeb4func.removeDummy();
+    },
+
+    isShownSelectBox() {
+        return this.isSnapshotListShown || wrentabledialog.isShownSelectBox();
+    },
+
+    appendDummy() {
+        zeb4func.removeDummy();
+        const dummy = document.createElement('p');
+        dummy.className = 'dummy';
+        document.getElementById('wren-root-block').appendChild(dummy);
+    }
+});

@@ -1,0 +1,85 @@
+#include "DOC_Control.h"
+#include "DOC_Interface.h"
+#include "TablePage.h"
+
+#include <gmock/gmock.h>
+
+// Which cameras the table lists.
+
+namespace {
+
+const char* Listed = "probe.drawn().map(probe.keyOf)";
+const char* Chosen = "$('.groupButton[buttonselected=\"true\"]').get().map(button => button.getAttribute('groupkey'))";
+
+/// Groups over the cameras of a rig of the standard model.
+void setGroups(TestHost& test, const QStringList& groups) {
+    test.host.prefs().setValue("wren/settings/groups", groups.join(':'));
+}
+
+QString address(TestHost& test, DOCKEY key) {
+    return test.doc(key)->control().getAddress(1);
+}
+
+TEST(PageListing, FollowsTheGroup) {
+    TestHost test(Rig::standard(4));
+    connectCameras(test, 1, 4);
+    const QString hostile = "<b onclick='x'>\"Gate\" & more";
+    setGroups(test, {"Ramp|" + address(test, 1), hostile + '|' + address(test, 2) + '|' + address(test, 4)});
+    test.host.prefs().setValue("wren/table/group", "a group that is gone");
+    TablePage page(test);
+    EXPECT_EQ(page.list(Chosen), QStringList("Ramp")) << "the first one";
+    EXPECT_EQ(page.list(Listed), QStringList("1"));
+    EXPECT_EQ(page.list("$('.groupButton').get().map(button => button.id + ' ' + button.value)"),
+              QStringList({"group_button_0 Ramp", "group_button_1 " + hostile, "group_button_2 All groups"}));
+
+    page.run("$('#group_button_1').trigger('mouseover'); return 0");
+    EXPECT_EQ(page.list("$('.ui-tooltip').get().map(tip => tip.textContent)"), QStringList(hostile));
+    page.run(R"js(
+        const records = wrentabledialog_obj.fetchRecords;
+        wrentabledialog_obj.fetchRecords = function (tab) {
+            probe.usable = $('.groupButton:not(:disabled)').length;
+            return records.call(this, tab);
+        };
+        probe.usable = -1;
+        $('#group_button_1').click();
+        wrentabledialog_obj.fetchRecords = records;
+        return 0;
+    )js");
+    EXPECT_EQ(page.number("probe.usable"), 0) << "no second choice while the first is being shown";
+    page.settle();
+    EXPECT_EQ(page.number("$('.ui-tooltip').length"), 0);
+    EXPECT_EQ(page.number("$('.groupButton:not(:disabled)').length"), 3);
+    EXPECT_EQ(page.list(Chosen), QStringList(hostile));
+    EXPECT_EQ(page.list(Listed), QStringList({"2", "4"}));
+    EXPECT_EQ(page.list("probe.selected()"), QStringList({"2", "4"})) << "and they are selected";
+    EXPECT_EQ(test.host.prefs().value("wren/table/group").toString(), hostile);
+    page.click("#group_button_2");
+    EXPECT_EQ(page.list(Listed), QStringList({"1", "2", "3", "4"}));
+}
+
+TEST(PageListing, WithoutGroupsHasNoGroupBox) {
+    TestHost test(Rig::standard(2));
+    TablePage page(test);
+    EXPECT_FALSE(page.run("$('#wrenGroupBlock').is(':visible')").toBool());
+    EXPECT_EQ(page.list(Listed), QStringList({"1", "2"}));
+}
+
+TEST(PageListing, FollowsTheFilterAndSelectsWhatIsConnected) {
+    TestHost test(Rig::standard(4));
+    connectCameras(test, 2, 3);
+    test.host.prefs().setValue("wren/table/filter", 2);
+    TablePage page(test);
+    EXPECT_EQ(page.list(Listed), QStringList({"1", "4"}));
+    choose(test, {});
+    const auto filter = [&page](int entry) {
+        page.click("#tabs .inTabItems p.CaptionCont");
+        page.click(QString("#tabs .inTabItems .options li:nth-child(%1)").arg(entry));
+        return page.list(Listed);
+    };
+    EXPECT_EQ(filter(2), QStringList({"2", "3"}));
+    EXPECT_EQ(page.list("probe.selected()"), QStringList({"2", "3"}));
+    EXPECT_EQ(filter(1), QStringList({"1", "2", "3", "4"}));
+    EXPECT_EQ(test.host.prefs().value("wren/table/filter").toInt(), 0);
+}
+
+}  // namespace

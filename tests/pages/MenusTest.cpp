@@ -1,0 +1,107 @@
+#include "TablePage.h"
+
+#include <gmock/gmock.h>
+
+namespace {
+
+/// What is open.
+const char* Open = R"js(
+    return $('.miscfuncs ul:visible').get().map(list => list.closest('.funcs-button').id).join() +
+        ' ' + $('.dummy').length + ' ' + wrentabledialog_obj.isSnapshotListShown;
+)js";
+
+/// The calls of these names since `callsBegin`.
+QStringList calls(TablePage& page, const char* names) {
+    return page.list(
+        QString("probe.callsEnd().filter(call => /%1/.test(call[0])).map(call => call.join(' ').trim())").arg(names));
+}
+
+TEST(PageMenus, CloseByAChoiceOrAClickElsewhere) {
+    TestHost test(Rig::standard(3));
+    connectCameras(test, 1, 3);
+    TablePage page(test);
+    EXPECT_EQ(page.text(Open), " 0 false");
+    for (const char* way : {".dummy", "#btn-snapshot a.snapshot-clip"}) {
+        page.click("#btn-snapshot .miscfuncs button");
+        EXPECT_EQ(page.text(Open), "btn-snapshot 1 true");
+        page.tick();
+        page.update();
+        EXPECT_EQ(page.text(Open), "btn-snapshot 1 true") << "it outlives cycles";
+        choose(test, {"1"});
+        page.click(way);
+        EXPECT_EQ(page.text(Open), " 0 false") << way;
+        EXPECT_TRUE(test.camera(1).get(&CameraState::selected)) << "the click met no row";
+    }
+    page.run("wrentabledialog_obj.appendDummy(); wrentabledialog_obj.appendDummy(); return 0");
+    EXPECT_EQ(page.text(Open), " 1 false");
+    page.tick();
+    EXPECT_EQ(page.text(Open), " 0 false") << "no list is shown";
+}
+
+TEST(PageMenus, SaveFilesOrLayout) {
+    TestHost test(Rig::standard(2));
+    connectCameras(test, 1, 2);
+    test.host.appStatus().enterMode(zeb::MemoryMode);
+    TablePage page(test, 5);
+    const auto clicked = [&page](const QString& target) {
+        page.run("probe.callsBegin(); return 0");
+        page.click(target);
+        return calls(page, "^save|hideSelectBox");
+    };
+    const auto chosen = [&page, &clicked](const QString& entry) {
+        page.run("$('#btn-save li a').addClass('active'); return 0");
+        page.click("#btn-save .miscfuncs button");
+        EXPECT_EQ(page.text(Open), "btn-save 1 false");
+        EXPECT_EQ(page.list("$('#btn-save a.active').get().map(entry => entry.className)"),
+                  QStringList("save-layout localize active"));
+        const QStringList made = clicked(entry);
+        EXPECT_EQ(page.text(Open), " 0 false");
+        return made;
+    };
+    EXPECT_EQ(clicked("button.save-files"), QStringList("save"));
+    EXPECT_EQ(chosen("li a.save-layout"), QStringList({"hideSelectBox", "saveLayout"}));
+    EXPECT_TRUE(page.until("$('#btn-save a.active').length === 0")) << "a moment later";
+    EXPECT_EQ(chosen("li a.save-files"), QStringList({"hideSelectBox", "save"}));
+    EXPECT_EQ(page.text("$('button.save-files').text()"), "Save");
+    test.host.prefs().setValue("save/livememorymodeSaveStatus", 1);
+    page.tick();
+    EXPECT_EQ(page.text("$('button.save-files').text()"), "Save layout");
+    EXPECT_EQ(page.number("$('button.save-files > span').length"), 1);
+    EXPECT_EQ(clicked("button.save-files"), QStringList("saveLayout"));
+}
+
+TEST(PageMenus, ThePartitionBoxOpensAtItsButton) {
+    TestHost test(Rig::standard(2));
+    connectCameras(test, 1, 2);
+    choose(test, {"1"});
+    TablePage page(test);
+    page.run("probe.callsBegin(); return 0");
+    page.click("#recording_partition_span_button");
+    const QStringList made = calls(page, "hideSelectBox|showLivePartition");
+    const QString spot = page.text(
+        "const spot = $('#btn-recording_partition'); const at = spot.offset();"
+        "return [at.left, at.top, spot.width(), spot.height()].map(Math.round).join()");
+    EXPECT_EQ(made, QStringList({"hideSelectBox", "showLivePartition " + spot}));
+    page.click(".dummy");
+    EXPECT_EQ(page.text(Open), " 0 false");
+
+    test.host.flags().set("IsConflictPartition", true);
+    page.tick();
+    page.run("probe.callsBegin(); document.getElementById('btn-recording_partition').click(); return 0");
+    EXPECT_EQ(calls(page, "hideSelectBox|showLivePartition"), QStringList()) << "the button is disabled";
+}
+
+TEST(PageMenus, ASecondPressStartsNoSecondRecording) {
+    TestHost test(Rig::standard(2));
+    connectCameras(test, 1, 2);
+    choose(test, {"1", "2"});
+    TablePage page(test);
+    page.run("probe.callsBegin(); return 0");
+    page.run("$('#timeline_rec_exec').mousedown(); return 0");
+    EXPECT_TRUE(page.run("$('#timeline_rec_exec').prop('disabled')").toBool());
+    EXPECT_EQ(calls(page, "getRecStatus|record$"), QStringList({"getRecStatus", "record"}));
+    page.tick();
+    EXPECT_FALSE(page.run("$('#timeline_rec_exec').prop('disabled')").toBool()) << "the next cycle frees it";
+}
+
+}  // namespace
