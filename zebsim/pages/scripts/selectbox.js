@@ -58,7 +58,6 @@ const selectbox = {
     rowElement(row, index) {
         const entry = document.createElement('a');
         entry.textContent = row.text;
-        entry.title = row.text;
         entry.classList.toggle('selected', row.isSelected);
         entry.classList.toggle('off', Boolean(row.isOff));
         entry.classList.toggle('divider', Boolean(row.isDivider));
