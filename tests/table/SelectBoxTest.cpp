@@ -223,6 +223,18 @@ TEST_F(SelectBoxTest, hidesWithItsWindow) {
     EXPECT_FALSE(box->isVisible());
 }
 
+TEST_F(SelectBoxTest, aCloseByTheUserStandsInTheLog) {
+    static QStringList lines;
+    show();
+    const QtMessageHandler previous = qInstallMessageHandler(
+        [](QtMsgType, const QMessageLogContext&, const QString& line) { lines.append(line.trimmed()); });
+    box->close();
+    qInstallMessageHandler(previous);
+    EXPECT_FALSE(box->isVisible());
+    EXPECT_EQ(lines.filter("[USER]"),
+              QStringList{R"([USER] "[URL:GUI_SelectBox] [ID:close] [Control:Button] [Operation:clicked] [Value:] ")"});
+}
+
 TEST_F(SelectBoxTest, takesTheStyleOfTheUser) {
     show();
     const auto styleOf = [this](const char* style) {

@@ -1,0 +1,47 @@
+#include "DropDownBoxes.h"
+#include "HostPages.h"
+#include "support/TestHost.h"
+
+#include <QTest>
+#include <QWidget>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+TEST(DropDownBoxes, FloatOverTheWindowOneAtATime) {
+    initHostPages();
+    TestHost test(Rig::standard(1));
+    test.camera(1).change({{"connected", true}, {"partitions", 3}});
+    test.host.docManager().setSelectedDocs({1}, 0);
+    QWidget window;
+    window.setGeometry(100, 50, 800, 600);
+    window.show();
+    DropDownBoxes boxes(test.host, window);
+    const QRect anchor(20, 300, 120, 24);
+    const auto waitFor = [&boxes](const char* key) {
+        return QTest::qWaitFor([&] { return !boxes.dropDownBoxRect(key).isNull(); });
+    };
+
+    boxes.showDropDownBox("nothing", anchor);
+    EXPECT_FALSE(boxes.isDropDownBoxShown());
+    boxes.showDropDownBox("partition", anchor);
+    ASSERT_TRUE(waitFor("partition"));
+    // Three partitions, a line and the settings, above the control.
+    const QRect place(20, 300 - 5 * 24, 120, 5 * 24);
+    EXPECT_EQ(boxes.dropDownBoxRect("partition"), place);
+    window.move(300, 200);
+    EXPECT_EQ(boxes.dropDownBoxRect("partition"), place) << "it moves with the window";
+
+    test.camera(1).change({{"partitions", 1}});
+    boxes.showDropDownBox("variable", anchor);
+    EXPECT_TRUE(boxes.dropDownBoxRect("partition").isNull());
+    boxes.showDropDownBox("partition", anchor);
+    boxes.hideDropDownBox("variable");
+    EXPECT_TRUE(boxes.isDropDownBoxShown());
+    EXPECT_EQ(boxes.dropDownBoxRect("partition").height(), 3 * 24);
+    boxes.hideDropDownBox({});
+    EXPECT_FALSE(boxes.isDropDownBoxShown());
+}
+
+}  // namespace
