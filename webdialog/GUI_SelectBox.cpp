@@ -61,6 +61,7 @@ GUI_SelectBox::GUI_SelectBox(ZebHost* host, const QString& url, QWidget* parent)
 }
 
 GUI_SelectBox::~GUI_SelectBox() {
+    disconnect(m_view, nullptr, this, nullptr);  // a load that is cut off ends once more
     destroyPage(m_view, {m_bridge});
 }
 
