@@ -1,8 +1,8 @@
 #include "BridgePause.h"
 
-#include "JS_Mediator.h"
+#include "PageBridge.h"
 
-BridgePause::BridgePause(JS_Mediator& bridge) : m_bridge(bridge) {
+BridgePause::BridgePause(PageBridge& bridge) : m_bridge(bridge) {
     m_bridge.enterCall();
 }
 

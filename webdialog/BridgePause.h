@@ -2,15 +2,15 @@
 
 #include <QtGlobal>
 
-class JS_Mediator;
+class PageBridge;
 
 /// Marks that a call of the bridge runs. `bridgeCall` makes it; nobody else needs to.
 class BridgePause {
 public:
-    explicit BridgePause(JS_Mediator& bridge);
+    explicit BridgePause(PageBridge& bridge);
     ~BridgePause();
     Q_DISABLE_COPY(BridgePause)
 
 private:
-    JS_Mediator& m_bridge;
+    PageBridge& m_bridge;
 };

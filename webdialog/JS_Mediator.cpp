@@ -31,13 +31,11 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QScopedValueRollback>
-#include <QTimer>
 #include <QWebFrame>
 #include <QWebPage>
 #include <QWebView>
 
 #include <optional>
-#include <utility>
 
 namespace {
 
@@ -46,40 +44,10 @@ const QString OpenPrefsDialog = QStringLiteral("JS_Mediator::openPrefsDialog");
 }  // namespace
 
 JS_Mediator::JS_Mediator(ZebHost* host, const QString& name, QObject* parent)
-    : ZebPageBridge(parent), m_host(host), m_name(name) {}
-
-void JS_Mediator::setView(QWebView* view) {
-    m_view = view;
-}
-
-QWebView* JS_Mediator::view() const {
-    return m_view;
-}
+    : PageBridge(name, parent), m_host(host) {}
 
 void JS_Mediator::raiseUpdate() {
     Q_EMIT update();
-}
-
-void JS_Mediator::enterCall() {
-    if (m_callDepth++ == 0) beginCall();
-}
-
-void JS_Mediator::leaveCall() {
-    if (--m_callDepth > 0) return;
-    endCall();
-    if (!m_afterCalls.isEmpty()) QTimer::singleShot(0, this, &JS_Mediator::runAfterCalls);
-}
-
-void JS_Mediator::afterCalls(const std::function<void()>& action) {
-    m_afterCalls.append(action);
-    if (!isInCall()) QTimer::singleShot(0, this, &JS_Mediator::runAfterCalls);
-}
-
-void JS_Mediator::runAfterCalls() {
-    if (isInCall()) return;  // the end of that call comes back here
-    // An action may destroy the bridge: nothing of it is touched behind this line.
-    const QList<std::function<void()>> actions = std::exchange(m_afterCalls, {});
-    for (const std::function<void()>& action : actions) action();
 }
 
 void JS_Mediator::reportCurrentFailure() noexcept {
@@ -214,7 +182,7 @@ void JS_Mediator::deterUpdateUI(bool deter) {
 }
 
 void JS_Mediator::addPrefsJSObject() {
-    if (m_view) m_view->page()->mainFrame()->addToJavaScriptWindowObject(QStringLiteral("prefs"), this);
+    if (view()) view()->page()->mainFrame()->addToJavaScriptWindowObject(QStringLiteral("prefs"), this);
 }
 
 int JS_Mediator::getPrefInt(const QString& name, const QVariant& defaultValue) {

@@ -1,18 +1,15 @@
 #pragma once
 
 #include "FrameSkip.h"
-#include "ZebPageBridge.h"
+#include "PageBridge.h"
 
 #include <QList>
-#include <QPointer>
 #include <QStringList>
 #include <QVariant>
 
 #include <exception>
-#include <functional>
 
 class DOC_Interface;
-class QWebView;
 class ZebHost;
 
 /// Base of all bridges: what a page can ask of the application. GUI thread.
@@ -20,21 +17,15 @@ class ZebHost;
 /// Slots are the page's interface, and their order is part of it. They run in the frame of `bridgeCall`, so none
 /// throws; after a failure, which the user has been shown, a slot answers its default. A slot may run an event loop,
 /// and other slots inside it; those that change cameras or the host, or open a window, are refused there.
-class JS_Mediator : public ZebPageBridge {
+class JS_Mediator : public PageBridge {
     Q_OBJECT
 
 public:
     /// `host` is not owned and outlives the bridge. `name` is how the page knows the bridge.
     JS_Mediator(ZebHost* host, const QString& name, QObject* parent = nullptr);
 
-    QString bridgeName() const override { return m_name; }
-    void setView(QWebView* view) override;
     void raiseUpdate() override;
 
-    /// Whether a call runs. The bridge and its view must not be destroyed then.
-    bool isInCall() const { return m_callDepth > 0; }
-    /// Runs `action` from the event loop as soon as no call runs. Forgotten if the bridge goes before.
-    void afterCalls(const std::function<void()>& action);
     /// Shows the exception that is being handled to the user. Only inside a `catch`; does not throw.
     void reportCurrentFailure() noexcept;
 
@@ -166,9 +157,6 @@ protected:
     ZebHost& host() const { return *m_host; }
     /// `openPrefsDialog` for a call that runs already. May throw.
     int runPrefsDialog(const QString& page);
-    /// The view that holds the page; null before the host has given it and after it is gone.
-    QWebView* view() const;
-
     /// Fits the frame skip to what is to be exported and applies it anew. Nothing happens without a target. Throws
     /// what the documents throw.
     void refreshSkipFrames(const ExportTargets& targets);
@@ -179,16 +167,7 @@ protected:
     /// The parts of the host that `updateUI` asks for.
     void setUpdateMask(unsigned int mask) { m_updateMask = mask; }
 
-    /// The first of nested calls begins, the last of them has ended. Must not throw.
-    virtual void beginCall() {}
-    virtual void endCall() {}
-
 private:
-    friend class BridgePause;
-
-    void enterCall();
-    void leaveCall();
-    void runAfterCalls();
     template <typename Store>
     void storePref(const QString& method, const QString& name, const QVariant& value, bool update, Store store);
 
@@ -196,11 +175,7 @@ private:
     static constexpr unsigned int AllParts = 63;
 
     ZebHost* const m_host;
-    QPointer<QWebView> m_view;
-    const QString m_name;
     int m_rangeMax = 0;
     unsigned int m_updateMask = AllParts;
     FrameSkip m_skip;
-    int m_callDepth = 0;
-    QList<std::function<void()>> m_afterCalls;
 };
