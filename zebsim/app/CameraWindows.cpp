@@ -74,9 +74,9 @@ void CameraWindows::addAndRemove() {
         auto* window = new CameraWindow(key);
         m_windows.insert(key, window);
         m_area.addSubWindow(window);
-        // The area has given it a close button.
+        // The area has given it buttons to close and to minimise, which leave no room for a name.
         window->setWindowFlags(Qt::SubWindow | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
-                               Qt::WindowMinMaxButtonsHint);
+                               Qt::WindowMaximizeButtonHint);
         window->show();
     }
     m_active = m_area.activeSubWindow();

@@ -41,9 +41,11 @@ EthernetDialog::EthernetDialog(const CameraBank& cameras, Preferences& prefs, QW
     connect(buttons, &QDialogButtonBox::accepted, this, &EthernetDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &EthernetDialog::reject);
     auto* form = new QFormLayout(this);
+    form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
     form->addRow(makeTable(cameras));
     form->addRow(uiText("Search in the network"), m_search);
     form->addRow(buttons);
+    m_search->setFocus();
 }
 
 QWidget* EthernetDialog::makeTable(const CameraBank& cameras) {
@@ -64,7 +66,7 @@ QWidget* EthernetDialog::makeTable(const CameraBank& cameras) {
     }
     table->resizeColumnsToContents();
     table->horizontalHeader()->setStretchLastSection(true);
-    table->setMinimumWidth(80 * fontMetrics().averageCharWidth());
+    table->setMinimumSize(80 * fontMetrics().averageCharWidth(), 16 * fontMetrics().height());
     return table;
 }
 

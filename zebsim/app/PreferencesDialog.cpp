@@ -46,6 +46,7 @@ void PreferencesDialog::openAt(const QString& page) {
 QWidget* PreferencesDialog::makePage(const PreferencePage& page) {
     auto* widget = new QWidget(m_pages);
     auto* form = new QFormLayout(widget);
+    form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
     for (const PreferenceField& field : page.fields) addEditor(*form, field);
     return widget;
 }

@@ -49,7 +49,8 @@ void drawMotion(QPainter& painter, const QColor& colour, const QSize& size, qint
 }
 
 void drawLine(QPainter& painter, const QRect& place, Qt::Alignment alignment, const QString& text) {
-    const QString fitting = painter.fontMetrics().elidedText(text, Qt::ElideRight, place.width());
+    // Names often differ at their end only.
+    const QString fitting = painter.fontMetrics().elidedText(text, Qt::ElideMiddle, place.width());
     painter.setPen(QColor(0, 0, 0, 180));
     painter.drawText(place.translated(1, 1), int(alignment) | Qt::TextSingleLine, fitting);
     painter.setPen(Qt::white);
