@@ -15,7 +15,7 @@ Object.assign(wrentabledialog_obj, {
         const group = button.closest('.funcs-button');
         const list = button.nextElementSibling;
         const open = list.hidden;
-        this.showMenu(list, open);
+        showElement(list, open);
         $(group).find('a.snapshot-file, a.save-files').removeClass('active');
         if (group.id === 'btn-snapshot') {
             this.isSnapshotListShown = open;
@@ -25,11 +25,6 @@ Object.assign(wrentabledialog_obj, {
         } else {
             zeb4func.removeDummy();
         }
-    },
-
-    showMenu(list, shown) {
-        showElement(list, shown);
-        list.closest('[fixed]').classList.toggle('menu-open', shown);
     },
 
     showPartitions(group) {
@@ -45,7 +40,7 @@ Object.assign(wrentabledialog_obj, {
 
     hideSelectBox() {
         wrentabledialog.hideSelectBox();
-        Array.from(document.querySelectorAll('.miscfuncs ul')).forEach(list => this.showMenu(list, false));
+        Array.from(document.querySelectorAll('.miscfuncs ul')).forEach(list => showElement(list, false));
         this.isSnapshotListShown = false;
         zeb4func.removeDummy();
     },
