@@ -229,13 +229,28 @@ TEST_F(PageControls, WaitForTheSignal) {
     QStringList look = expected({Live, {"", Armed, "", "true", Ready, false}});
     look[0] = together({look[0], "record"});
     EXPECT_EQ(with("IsCTSReady", true), look);
-    const auto record = [this] { return page->text("$('#timeline_rec_exec')[0].outerHTML"); };
-    const QString waiting = record();
-    EXPECT_TRUE(waiting.contains("stat-ctsready")) << waiting.toStdString();
     EXPECT_TRUE(page->run("wrentabledialog_obj.isCtsReady").toBool());
     with("IsCTSReady", false);
-    EXPECT_NE(record(), waiting);
     EXPECT_FALSE(page->run("wrentabledialog_obj.isCtsReady").toBool());
+}
+
+TEST_F(PageControls, ShowTheRecordStatusOnTheirFaces) {
+    const char* faces = R"js(
+        $('#timeline_rec_exec, #timeline_rec_cancel').get().map(button => `${button.className}: ${button.innerHTML}`)
+            .concat(String($('#timeline_rec_exec').data('status')))
+    )js";
+    const QStringList idle = {"rec-exec huge strong: <span></span>Record", "rec-cancel huge: Cancel"};
+    const QString stop = "rec-cancel huge stat-pause: <span></span>";
+    EXPECT_EQ(page->list(faces), idle + QStringList("0"));
+    for (const auto& [state, shown] : QList<QPair<const char*, QStringList>>{
+             {"IsCTSReady", {"rec-exec stat-ctsready huge strong: Waiting for CTS", stop + "Cancel", "1"}},
+             {"IsReady", {"rec-exec huge strong stat-recording-green: Ready", stop + "Cancel", "2"}},
+             {"IsRecording", {"rec-exec huge strong stat-recording-orange: Recording...", stop + "Stop", "3"}},
+             {"IsRecordingError", idle + QStringList("4")}}) {
+        with(state, true);
+        EXPECT_EQ(page->list(faces), shown) << state;
+        with(state, false);
+    }
 }
 
 /// Whatever a page's library or a user does to the controls, the next cycle sets right.
