@@ -88,7 +88,7 @@ TEST_F(Dialogs, OpenPreferencesAtThePageThatIsAskedFor) {
         return row;
     };
     EXPECT_EQ(pageAfter("s_io"), 3);
-    EXPECT_EQ(pageAfter(host.translate("s_recording")), 2);
+    EXPECT_EQ(pageAfter(host.translate("s_record")), 2);
     EXPECT_EQ(pageAfter("no such page"), 0);
 }
 

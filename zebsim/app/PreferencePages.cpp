@@ -66,7 +66,7 @@ QList<PreferenceField> tableFields() {
 const QList<PreferencePage>& preferencePages() {
     static const QList<PreferencePage> pages = {{"s_general", generalFields()},
                                                 {"s_display", displayFields()},
-                                                {"s_recording", recordingFields()},
+                                                {"s_record", recordingFields()},
                                                 {"s_io", ioFields()},
                                                 {"s_table", tableFields()}};
     return pages;

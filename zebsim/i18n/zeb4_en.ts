@@ -868,7 +868,7 @@
         <translation>I/O</translation>
     </message>
     <message>
-        <source>s_recording</source>
+        <source>s_record</source>
         <translation>Recording</translation>
     </message>
     <message>
