@@ -104,22 +104,24 @@ public:
     bool irig = false;
     bool irigStampAtEnd = false;
     bool irigSync = false;
+    bool suspendReduce = false;
+    bool stopLive = false;
     /// Image plug-ins by name: those the camera can have, those that work on its images, those it must not use now.
     QStringList plugins;
     QStringList effectivePlugins;
     QStringList blockedPlugins;
-    bool suspendReduce = false;
-    bool stopLive = false;
-    /// Partitions of the memory, the one in use, from 1, and their names; one without a name goes by its number.
+    /// Names of the memory's partitions, one without a name goes by its number; how many there are, and the one in
+    /// use, from 1.
+    QStringList partitionNames;
     unsigned int partitions = 1;
     unsigned int partition = 1;
-    QStringList partitionNames;
-    /// Channel of variable settings in use, from 1, 0 for none; texts of the channels, an empty one can't be chosen.
-    unsigned int variable = 0;
+    /// Texts of the channels of variable settings, an empty one can't be chosen; the one in use, from 1, 0 for none.
     QStringList variableChannels;
-    /// What is recorded is being played.
-    bool playing = false;
+    unsigned int variable = 0;
     bool recorded = false;
+    /// It is being played.
+    bool playing = false;
+    bool recordCheck = false;
     /// Of what is recorded: frames a second, first and last frame, frame of the trigger, first and last frame to keep.
     unsigned int recordedRate = 0;
     QPoint recordedRange;
@@ -128,14 +130,13 @@ public:
     /// A zero point for playing instead of the trigger's frame.
     bool triggerOffsetEnabled = false;
     int triggerOffset = 0;
-    bool recordCheck = false;
     QPoint point;
     double scale = 0;
     int binningPower = 0;
     /// How the image stands in its window, as `ZebViewOps` tells it.
-    double rotation = 0;
     bool flipHorizontal = false;
     bool flipVertical = false;
+    double rotation = 0;
     double zoom = 1;
 
     /// All members as plain data: texts, numbers, bools and lists of them; sizes and points are lists of two numbers.
