@@ -104,4 +104,19 @@ TEST(PageMenus, ASecondPressStartsNoSecondRecording) {
     EXPECT_FALSE(page.run("$('#timeline_rec_exec').prop('disabled')").toBool()) << "the next cycle frees it";
 }
 
+TEST(PageMenus, LinksLeadToTheSettings) {
+    TestHost test(Rig::standard(2));
+    connectCameras(test, 1, 2);
+    TablePage page(test);
+    const auto clicked = [&page] {
+        page.run("probe.callsBegin(); return 0");
+        page.run("$('#wren_io_setting, #wren_ethernet_setting').click(); return 0");
+        return calls(page, "^openPrefs");
+    };
+    EXPECT_EQ(clicked(), QStringList({"openPrefsDialog s_io", "openPrefsEthernetSettings"}));
+    test.host.flags().set("IsBgSaving", true);
+    page.tick();
+    EXPECT_EQ(clicked(), QStringList()) << "they are disabled";
+}
+
 }  // namespace
