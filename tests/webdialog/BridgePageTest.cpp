@@ -1,3 +1,4 @@
+#include "FakeCamera.h"
 #include "FakeHost.h"
 #include "FakePlugin.h"
 #include "GUI_WebPage.h"
@@ -5,6 +6,7 @@
 #include "ProbeBridge.h"
 
 #include <QLabel>
+#include <QRegularExpression>
 #include <QSignalSpy>
 #include <QTcpServer>
 #include <QTest>
@@ -76,6 +78,27 @@ TEST_F(BridgePage, StateTextsAndBoxes) {
     entries.removeAll("resume");
     EXPECT_EQ(entries, QStringList({"warning: not found \":/no.txt\"", "info i", "warn w", "warnList w|1|2", "alert a",
                                     "alertList a|3", "confirmModal c", "deterUpdateUI true", "updateUI 63"}));
+}
+
+TEST_F(BridgePage, DevicesAndKeysArriveAsTheyAre) {
+    FakeCamera camera(4294967294U);
+    camera.camera.alias = "</script><b>\"'";
+    host.connectedKeys = host.selectedKeys = {camera.getKey()};
+    host.docs[camera.getKey()] = &camera;
+    eval("var device = probe.getDeviceInfoList(false)[0]");
+    EXPECT_EQ(json("[device.key, device.devicename, device.cameraname, device.headno, device['con-wifi']]"),
+              R"(["4294967294","</script><b>\"'","",1,""])");
+    EXPECT_EQ(json("probe.getSelectedDockey()"), R"(["4294967294"])");
+    EXPECT_EQ(json("JSON.parse(probe.getCalibrationUnits())[1].view"), R"("<feet>")");
+
+    // As often as not a page hands over numbers for texts, and fractions of pixels.
+    journal.take();
+    eval(
+        "probe.setSelectDoc(4294967294); probe.showDropDownBox('a', 1.6, 2, 3, 4);"
+        "probe.hideDropDownBox('a'); probe.hideDropDownBox('a', 5, 6); probe.closePlugin(); probe.closePlugin('lut')");
+    const QStringList calls = journal.take().filter(QRegularExpression("^(setSel|showDrop|hideDrop|closeP)"));
+    EXPECT_EQ(calls, QStringList({"setSelectedDocs 4294967294", "showDropDownBox a (2,2)-(4,5)", "hideDropDownBox a",
+                                  "hideDropDownBoxAt a (5,6)", "closePanel", "closePlugin lut"}));
 }
 
 TEST_F(BridgePage, FailureLooksLikeANormalReturn) {

@@ -36,14 +36,15 @@ protected:
 
 TEST_F(DeviceInfo, OnlyTheShortListInLiveModeLeavesOut) {
     const struct {
-        bool mini;
         int mode;
+        bool mini;
         bool onlyConnected;
         const char* keys;
     } cases[] = {
-        {false, zeb::LiveMode, false, "3 5"},  {false, zeb::LiveMode, true, "3 5"}, {true, zeb::LiveMode, false, "3 5"},
-        {true, zeb::MemoryMode, true, "3 5"},  {true, zeb::FileMode, true, "3 5"},  {true, zeb::LiveMode, true, "3"},
-        {false, zeb::MemoryMode, true, "3 5"},
+        {zeb::LiveMode, false, false, "3 5"},  {zeb::LiveMode, false, true, "3 5"},
+        {zeb::LiveMode, true, false, "3 5"},   {zeb::LiveMode, true, true, "3"},
+        {zeb::MemoryMode, true, true, "3 5"},  {zeb::FileMode, true, true, "3 5"},
+        {zeb::MemoryMode, false, true, "3 5"},
     };
     for (const auto& row : cases) {
         host.mode = row.mode;
