@@ -12,17 +12,16 @@
 #include "DocumentGuard.h"
 #include "LogFailure.h"
 #include "OperationEventHandler.h"
+#include "PrefsDialog.h"
 #include "RangeMax.h"
 #include "Style.h"
 #include "SupportFileExport.h"
 #include "TextResource.h"
 #include "TraceText.h"
 #include "ZebAppStatus.h"
-#include "ZebCameraOps.h"
 #include "ZebDocManager.h"
 #include "ZebHost.h"
 #include "ZebMdi.h"
-#include "ZebPrefsDialog.h"
 #include "ZebSaver.h"
 #include "ZebViewOps.h"
 
@@ -36,12 +35,6 @@
 #include <QWebView>
 
 #include <optional>
-
-namespace {
-
-const QString OpenPrefsDialog = QStringLiteral("JS_Mediator::openPrefsDialog");
-
-}  // namespace
 
 JS_Mediator::JS_Mediator(ZebHost* host, const QString& name, QObject* parent)
     : PageBridge(name, parent), m_host(host) {}
@@ -239,18 +232,9 @@ void JS_Mediator::setPrefDQString(const QString& name, const QString& value, boo
 
 int JS_Mediator::openPrefsDialog(const QString& page) {
     int result = 0;
-    changingCall(*this, OpenPrefsDialog, traceArg(QStringLiteral("page"), page),
-                 [&] { result = runPrefsDialog(page); });
+    changingCall(*this, QStringLiteral("JS_Mediator::openPrefsDialog"), traceArg(QStringLiteral("page"), page),
+                 [&] { result = runPrefsDialog(host(), page); });
     return result;
-}
-
-int JS_Mediator::runPrefsDialog(const QString& page) {
-    const TraceScope scope(OpenPrefsDialog, traceArg(QStringLiteral("page"), page));
-    if (host().isLiveMode()) host().cameraOps().stopForPrefs();
-    ZebPrefsDialog* dialog = host().getPrefsDialog();
-    if (!dialog) return 0;
-    dialog->setPage(host().translate(page));
-    return dialog->exec();
 }
 
 void JS_Mediator::openPrefsEthernetSettings() {

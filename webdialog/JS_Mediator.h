@@ -155,8 +155,6 @@ public Q_SLOTS:
 
 protected:
     ZebHost& host() const { return *m_host; }
-    /// `openPrefsDialog` for a call that runs already. May throw.
-    int runPrefsDialog(const QString& page);
     /// Fits the frame skip to what is to be exported and applies it anew. Nothing happens without a target. Throws
     /// what the documents throw.
     void refreshSkipFrames(const ExportTargets& targets);

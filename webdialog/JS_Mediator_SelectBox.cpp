@@ -5,6 +5,7 @@
 #include "DOC_Control.h"
 #include "DOC_Interface.h"
 #include "DocumentGuard.h"
+#include "PrefsDialog.h"
 #include "TraceText.h"
 #include "ZebCameraOps.h"
 #include "ZebDocManager.h"
@@ -92,7 +93,7 @@ void JS_Mediator_SelectBox::slotNotifyPartition(const QString& value) {
         if (number <= doc->control().getPartitionCount(0, 0))
             choosePartition(number);
         else if (host().isLiveMode())
-            runPrefsDialog(QStringLiteral("s_record"));
+            runPrefsDialog(host(), QStringLiteral("s_record"));
     });
 }
 
