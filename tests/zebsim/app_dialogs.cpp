@@ -29,7 +29,7 @@ protected:
     Dialogs() { simulator.window().show(); }
 
     /// What to do with the dialog that stands next.
-    void next(std::function<void(QDialog&)> work) {
+    void next(const std::function<void(QDialog&)>& work) {
         connection = QObject::connect(&watcher, &ModalWatcher::stands, [this, work](QDialog* dialog) {
             QObject::disconnect(connection);
             work(*dialog);

@@ -1,28 +1,12 @@
 #include "HostSignal.h"
 #include "ScenarioError.h"
-#include "support/StubPlugin.h"
+#include "support/ShotPlugin.h"
 
 #include <QCoreApplication>
 
 #include <gtest/gtest.h>
 
 namespace {
-
-class ShotPlugin : public StubPlugin {
-    Q_OBJECT
-
-public:
-    ShotPlugin() {
-        connect(
-            this, &ShotPlugin::signalShot, this, [this](const QString& wanted) { path = wanted; },
-            Qt::BlockingQueuedConnection);
-    }
-
-    QString path;
-
-Q_SIGNALS:
-    void signalShot(const QString& path);
-};
 
 TEST(HostSignal, IsServedBeforeTheCallReturns) {
     ShotPlugin plugin;
@@ -39,5 +23,3 @@ TEST(HostSignal, IsGivenUpWithTheScenario) {
 }
 
 }  // namespace
-
-#include "scenario_host_signal.moc"
