@@ -27,6 +27,8 @@ public:
     int number(const QString& script) { return run(script).toInt(); }
     QString text(const QString& script) { return run(script).toString(); }
 
+    /// Presses the plug-in's button once more.
+    void open() { m_slot.open(); }
     /// Brings a tab to the front.
     void show(int tab);
     /// A tick of the timer, and where it wrote to.
