@@ -80,7 +80,11 @@ void JS_Mediator_WrenTableDialog::onOpen() {
 
 void JS_Mediator_WrenTableDialog::openSession() {
     m_timers.renew(host().getPrefInt(QStringLiteral("wren/table/interval")));
-    TableSession(host(), m_state).open();
+    TableSession session(host(), m_state);
+    session.open();
+    // A failure in there keeps nobody from following a recording that runs.
+    bridgeCall(*this, [&session] { session.loadDefaultSettings(); });
+    session.followConnectedDocs();
 }
 
 void JS_Mediator_WrenTableDialog::onClose() {

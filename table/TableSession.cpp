@@ -26,14 +26,19 @@ void TableSession::open() {
         m_state.savedRecAllConnected = m_host.getPrefBool(RecAllPref);
     }
     m_host.setPrefBool(RecAllPref, true);
-    ZebDocManager& documents = m_host.docManager();
-    const DocList connected = connectedDocs(documents, documents.getConnectedDocKeys());
-    loadDefaultSettings(connected);
-    CameraManagement(m_host, m_state).prepareConnectedDocs(connected);
 }
 
-/// A camera that is ready or recording keeps everything as it is.
-void TableSession::loadDefaultSettings(const DocList& docs) {
+DocList TableSession::connected() const {
+    ZebDocManager& documents = m_host.docManager();
+    return connectedDocs(documents, documents.getConnectedDocKeys());
+}
+
+void TableSession::followConnectedDocs() {
+    CameraManagement(m_host, m_state).prepareConnectedDocs(connected());
+}
+
+void TableSession::loadDefaultSettings() {
+    const DocList docs = connected();
     DocumentGuard guard(m_host, false, false);
     const bool busy = std::any_of(docs.begin(), docs.end(), [](DOC_Interface* doc) { return isArmed(*doc); });
     if (!m_host.isFileMode() && !busy) {

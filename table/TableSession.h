@@ -13,11 +13,15 @@ public:
     /// Heads that are ready or recording keep their lock. Opening twice is closing once.
     void open();
     void close();
+    /// Reads the default settings. A camera that is ready or recording keeps the table as it is.
+    void loadDefaultSettings();
+    /// The cameras that are connected already come into the table as one that connects does.
+    void followConnectedDocs();
 
 private:
     void clearLocks(bool recordingToo);
     void clearRecordChecks();
-    void loadDefaultSettings(const DocList& docs);
+    DocList connected() const;
 
     ZebHost& m_host;
     TableState& m_state;
