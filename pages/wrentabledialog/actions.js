@@ -115,12 +115,15 @@ Object.assign(wrentabledialog_obj, {
 
     changeConnection(cell, keys, connect, message) {
         const grid = this.activeGrid();
+        const key = cell.key;
         lockAtOnce(grid, translate(message));
         window.setTimeout(() => {
             try {
                 guarded(() => {
                     wrentabledialog.connect(keys, connect);
-                    cell.swap(connect, 'on', 'off');
+                    if (cell.key === key) {
+                        cell.swap(connect, 'on', 'off');
+                    }
                 });
             } finally {
                 this.releaseGrid(grid);

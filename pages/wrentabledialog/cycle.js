@@ -64,7 +64,9 @@ Object.assign(wrentabledialog_obj, {
         link.rel = 'stylesheet';
         link.href = address;
         link.addEventListener('load', () => {
-            $('link.replaced').remove();
+            if (link.id) { // else a newer one has come meanwhile and takes all of them away
+                $('link.replaced').remove();
+            }
             this.resizeTableElements();
         });
         document.head.appendChild(link);

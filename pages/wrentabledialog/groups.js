@@ -15,7 +15,8 @@ Object.assign(wrentabledialog_obj, {
     initializeGroupBox() {
         const box = document.getElementById('wrenGroupBox');
         box.textContent = '';
-        const groups = parseReply(wrentabledialog.getGroups()) || [];
+        const reply = parseReply(wrentabledialog.getGroups());
+        const groups = Array.isArray(reply) ? reply : [];
         groups.forEach((group, index) => box.appendChild(this.groupButton(group, index)));
         const buttons = Array.from(box.children);
         const stored = wrentabledialog.getGroup();

@@ -317,6 +317,10 @@ TEST_F(PageControls, OverrideEachOther) {
     with("ExistLowlight", true);
     EXPECT_TRUE(with("IsNoneWindow", true)[0].contains("snapshot")) << "there is no view to take one of";
     EXPECT_FALSE(with("IsNoneWindow", false)[0].contains("snapshot"));
+    for (const char* later : {"IsLensCalibration", "IsAdjustingImage", "IsConflictPartition"}) {
+        EXPECT_TRUE(with(later, true)[0].contains("snapshot")) << later << " stands further down";
+        EXPECT_FALSE(with(later, false)[0].contains("snapshot"));
+    }
     with("ExistLowlight", false);
 
     test.camera(2).change({{"lowLight", true}});

@@ -130,6 +130,7 @@ TEST_F(CameraManagementTest, aSessionTakesBackWhatItSet) {
     TableSession session(host, state);
 
     session.open();
+    session.followConnectedDocs();
     EXPECT_EQ(state.group, QLatin1String(UnreadGroup));
     EXPECT_FALSE(stateOf(1, "locked").toBool());
     EXPECT_TRUE(stateOf(2, "locked").toBool()) << "a head that records keeps its lock";

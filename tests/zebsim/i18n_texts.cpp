@@ -41,6 +41,9 @@ void collectCpp(Keys& keys, const QString& file, QString text) {
     collect(
         keys, file, text,
         R"re(\b(?:confirm|confirmModal|warn|alert|info|warnOkCancel)\(\s*((?:QStringLiteral\()?\s*"[^;]*?")\s*[,)])re");
+    // The short names of units, and the texts of failures.
+    if (file.endsWith(QLatin1String("CalibrationUnits.cpp"))) collect(keys, file, text, R"re(,\s*("[^"]*"))re");
+    collect(keys, file, text, R"re(Exception(?: \w+)?\((QStringLiteral\("[^"]*"\)))re");
     // What stands in a support file.
     collect(keys, file, text, R"re(("- [^"]*"))re");
     // What a record shows begins with a capital; its members do not.

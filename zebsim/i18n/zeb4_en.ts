@@ -959,5 +959,41 @@
         <source>TRIG NEG</source>
         <translation>TRIG NEG</translation>
     </message>
+    <message>
+        <source>µm</source>
+        <translation>µm</translation>
+    </message>
+    <message>
+        <source>mm</source>
+        <translation>mm</translation>
+    </message>
+    <message>
+        <source>m</source>
+        <translation>m</translation>
+    </message>
+    <message>
+        <source>inch</source>
+        <translation>inch</translation>
+    </message>
+    <message>
+        <source>feet</source>
+        <translation>feet</translation>
+    </message>
+    <message>
+        <source>yard</source>
+        <translation>yard</translation>
+    </message>
+    <message>
+        <source>Unknown failure.</source>
+        <translation>Unknown failure.</translation>
+    </message>
+    <message>
+        <source>File read failed.</source>
+        <translation>File read failed.</translation>
+    </message>
+    <message>
+        <source>File write failed.</source>
+        <translation>File write failed.</translation>
+    </message>
 </context>
 </TS>

@@ -959,5 +959,41 @@
         <source>TRIG NEG</source>
         <translation>トリガー (負)</translation>
     </message>
+    <message>
+        <source>µm</source>
+        <translation>µm</translation>
+    </message>
+    <message>
+        <source>mm</source>
+        <translation>mm</translation>
+    </message>
+    <message>
+        <source>m</source>
+        <translation>m</translation>
+    </message>
+    <message>
+        <source>inch</source>
+        <translation>インチ</translation>
+    </message>
+    <message>
+        <source>feet</source>
+        <translation>フィート</translation>
+    </message>
+    <message>
+        <source>yard</source>
+        <translation>ヤード</translation>
+    </message>
+    <message>
+        <source>Unknown failure.</source>
+        <translation>不明なエラーです。</translation>
+    </message>
+    <message>
+        <source>File read failed.</source>
+        <translation>ファイルを読み込めませんでした。</translation>
+    </message>
+    <message>
+        <source>File write failed.</source>
+        <translation>ファイルに書き込めませんでした。</translation>
+    </message>
 </context>
 </TS>

@@ -36,11 +36,9 @@ const CONTROL_STATES = {
 };
 
 var zeb4func = {
-    // Control states are read often, so the elements of each table are listed by selector once.
-    controlPlans: new WeakMap(),
     // element -> { state, own }: who wants it disabled, a control state or the page itself.
     disabledBy: new WeakMap(),
-    // While the functions of control states run: element -> disabled, as the states have it so far.
+    // While control states are applied: element -> disabled, as the states so far have it.
     openStates: null,
     logMediator: null,
     loggedRoots: [],
@@ -73,30 +71,34 @@ var zeb4func = {
         }
     },
 
-    // Applies a table of control states, { NAME: { disabled, hidden, func } }: an element that a state that is on
-    // lists is disabled or hidden, and stands enabled and shown otherwise. Then each `func` runs, in the table's
-    // order; what it disables or enables overrides the lists.
+    // Applies a table of control states, { NAME: { disabled, hidden, func } }, in the table's order: an element that a
+    // state that is on lists is disabled or hidden, and stands enabled and shown otherwise. What a `func` disables or
+    // enables overrides the states up to its own, not those that follow.
     setDisable: function (mediator, controls) {
         let status;
         try {
-            status = JSON.parse(mediator.getControlStatus());
+            status = JSON.parse(mediator.getControlStatus()) || {};
         } catch (error) {
             return;
         }
-        const names = Object.keys(controls);
-        const on = names.map(function (name) { return Boolean(status[CONTROL_STATES[name]]); });
-        const plan = this.planOf(controls, names);
+        const states = Object.keys(controls).map(function (name) {
+            return Object.assign({ on: Boolean(status[CONTROL_STATES[name]]) }, controls[name]);
+        });
+        const elements = this.elementsOnce();
+        const hidden = new Map();
+        states.forEach(function (state) { zeb4func.list(hidden, elements, state.hidden, state.on); });
+        hidden.forEach(function (hide, element) {
+            if (element.classList.contains('zeb-hidden') !== hide) {
+                element.classList.toggle('zeb-hidden', hide);
+            }
+        });
         const outer = this.openStates;
-        const disabled = this.openStates = this.union(plan.disabled, on);
+        const disabled = this.openStates = new Map();
         try {
-            this.union(plan.hidden, on).forEach(function (hide, element) {
-                if (element.classList.contains('zeb-hidden') !== hide) {
-                    element.classList.toggle('zeb-hidden', hide);
-                }
-            });
-            names.forEach(function (name, index) {
-                if (controls[name].func) {
-                    controls[name].func(on[index]);
+            states.forEach(function (state) {
+                zeb4func.list(disabled, elements, state.disabled, state.on);
+                if (state.func) {
+                    state.func(state.on);
                 }
             });
         } finally {
@@ -105,33 +107,26 @@ var zeb4func = {
         disabled.forEach(function (flag, element) { zeb4func.mark(element, 'state', flag); });
     },
 
-    // { disabled, hidden }: selector -> indexes of the states that list it.
-    planOf: function (controls, names) {
-        let plan = this.controlPlans.get(controls);
-        if (!plan) {
-            plan = { disabled: new Map(), hidden: new Map() };
-            Object.keys(plan).forEach(function (kind) {
-                names.forEach(function (name, index) {
-                    (controls[name][kind] || []).forEach(function (selector) {
-                        plan[kind].set(selector, (plan[kind].get(selector) || []).concat(index));
-                    });
-                });
-            });
-            this.controlPlans.set(controls, plan);
-        }
-        return plan;
+    // Many states list the same selectors; each is looked up once.
+    elementsOnce: function () {
+        const found = new Map();
+        return function (selector) {
+            if (!found.has(selector)) {
+                found.set(selector, zeb4func.elementsOf(selector));
+            }
+            return found.get(selector);
+        };
     },
 
-    // element -> whether any state that is on lists it.
-    union: function (selectors, on) {
-        const flags = new Map();
-        selectors.forEach(function (states, selector) {
-            const flag = states.some(function (index) { return on[index]; });
-            zeb4func.elementsOf(selector).forEach(function (element) {
-                flags.set(element, flag || flags.get(element) === true);
+    // Adds what a state says of the elements it lists to `flags`.
+    list: function (flags, elements, selectors, on) {
+        (selectors || []).forEach(function (selector) {
+            elements(selector).forEach(function (element) {
+                if (on || !flags.has(element)) {
+                    flags.set(element, on);
+                }
             });
         });
-        return flags;
     },
 
     // Disables or enables elements. One that a control state disables stays disabled.
