@@ -16,6 +16,7 @@ public:
     virtual ~DOC_Control() = default;
 
     virtual QString getCameraName(int mode) const = 0;
+    virtual void setCameraName(const QString& name) = 0;
     /// IPv4 address as dotted text.
     virtual QString getAddress(int mode) const = 0;
     /// The device behind the camera: the name that the user gave it, empty for none, and its own.

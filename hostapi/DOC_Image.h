@@ -16,6 +16,7 @@ public:
 
     /// The user's comment, its lines separated by `zeb::CommentSeparator`.
     virtual QString getComment() const = 0;
+    virtual void setComment(const QString& comment) = 0;
 
     /// How a pixel is kept; nothing when the document has no image.
     virtual std::optional<zeb::ImageFormat> getImageFormat(int kind, int head) const = 0;

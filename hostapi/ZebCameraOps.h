@@ -10,8 +10,29 @@ class ZebCameraOps {
 public:
     virtual ~ZebCameraOps() = default;
 
+    /// Look for cameras: at the addresses that differ from `address` in the last octet only, in the whole network, and
+    /// once more for those that are known. Back when the search has ended.
+    virtual void searchCamera(const QString& address) = 0;
+    virtual void discoverCameras() = 0;
+    virtual void updateCameras() = 0;
+
     /// Sets the record rate, in frames a second.
     virtual void setRecordRate(const DocList& docs, unsigned int rate) = 0;
+    /// n of 1/n second.
+    virtual void setShutterSpeed(const DocList& docs, int speed) = 0;
+    /// In pixels.
+    virtual void setResolution(const DocList& docs, int width, int height) = 0;
+    /// The trigger parameters that the user has set in the host.
+    virtual zeb::TriggerSettings getTriggerSettings() const = 0;
+    /// A `zeb::TriggerMode` with its parameters.
+    virtual void setTriggerMode(const DocList& docs, int kind, int mode, int reserved1, int reserved2,
+                                float manualBeforePercent, int randomFrames, int randomTimes) = 0;
+    /// Whether a random trigger comes a set number of times.
+    virtual void setRandomTriggerPhase(const DocList& docs, bool counted) = 0;
+    virtual void setReduceMode(const DocList& docs, bool on) = 0;
+    virtual void setLowLight(const DocList& docs, bool on) = 0;
+    /// A `zeb::LowLightType`.
+    virtual void setLowLightType(const DocList& docs, int type) = 0;
 
     /// The partition of the selected cameras, from 1.
     virtual void setPartition(PARTITIONNUMBER number, int mode) = 0;

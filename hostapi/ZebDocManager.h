@@ -46,6 +46,8 @@ public:
     /// Connect and disconnect cameras; back when all have answered or failed. Failures are shown by the host.
     virtual void connectDocs(const DocKeyList& keys) = 0;
     virtual void disconnectDocs(const DocKeyList& keys) = 0;
+    /// Forgets all cameras; a search finds them again.
+    virtual void deleteAllDocs(int kind, int mode) = 0;
     /// The host's own dialog for a camera; runs an event loop until it is closed.
     virtual void editDoc(DOCKEY key) = 0;
 

@@ -123,6 +123,18 @@ struct VariableChannelInfo {
     bool settable = false;
 };
 
+/// Parameters of a trigger mode. `kind`, `reserved1` and `reserved2` are the host's; callers hand back what they got.
+struct TriggerSettings {
+    int kind = 0;
+    int reserved1 = 0;
+    int reserved2 = 0;
+    /// Share of the memory that is kept from before a manual trigger, in percent.
+    float manualBeforePercent = 0;
+    /// Frames of one random trigger, and how often it may come; 0 times stands for no end.
+    int randomFrames = 0;
+    int randomTimes = 0;
+};
+
 /// Preference `display/ShutterSpeed` with this value shows speeds by the camera's second list.
 constexpr int ShutterDisplaySecondList = 2;
 

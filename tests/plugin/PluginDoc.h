@@ -18,6 +18,7 @@ public:
     void eraseRecordedData(int mode) override { Journal::note(QStringLiteral("erase %1 %2").arg(m_key).arg(mode)); }
 
     QString getCameraName(int) const override { return {}; }
+    void setCameraName(const QString&) override {}
     QString getAddress(int) const override { return {}; }
     QString getDeviceAlias(int) const override { return {}; }
     QString getDeviceName(int) const override { return {}; }
@@ -83,6 +84,7 @@ public:
     bool isConnected() const override { return connected; }
 
     QString getComment() const override { return {}; }
+    void setComment(const QString&) override {}
     std::optional<zeb::ImageFormat> getImageFormat(int, int) const override { return {}; }
     QSize getImageSize() const override { return {640, 480}; }
     double getScale() const override { return scale; }

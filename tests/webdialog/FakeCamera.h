@@ -26,6 +26,7 @@ public:
     bool silent = false;
 
     QString getCameraName(int) const override { return name; }
+    void setCameraName(const QString&) override {}
     QString getAddress(int) const override { return address; }
     QString getDeviceAlias(int) const override { return alias; }
     QString getDeviceName(int) const override { return deviceName; }
@@ -108,6 +109,7 @@ public:
 
     std::optional<zeb::ImageFormat> getImageFormat(int, int) const override { return format; }
     QString getComment() const override { return {}; }
+    void setComment(const QString&) override {}
     QSize getImageSize() const override { return {}; }
     double getScale() const override { return {}; }
     int getBinningPower() const override { return {}; }

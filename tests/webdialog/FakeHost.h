@@ -254,6 +254,7 @@ public:
     void deselectDoc(DOCKEY) override {}
     void connectDocs(const DocKeyList&) override {}
     void disconnectDocs(const DocKeyList&) override {}
+    void deleteAllDocs(int, int) override { note("deleteAllDocs"); }
     void editDoc(DOCKEY) override {}
     bool sharesDeviceWithLockedHead(DOC_Interface*, bool, bool) override { return false; }
     QMutex* getDocMutex() override { return &docMutex; }
@@ -321,6 +322,17 @@ public:
     void copyToClipboard(int what) override { note("copyToClipboard", what); }
 
     void setRecordRate(const DocList&, unsigned int) override {}
+    void searchCamera(const QString& address) override { note("searchCamera", address); }
+    void discoverCameras() override { note("discoverCameras"); }
+    void updateCameras() override { note("updateCameras"); }
+    void setShutterSpeed(const DocList&, int) override {}
+    void setResolution(const DocList&, int, int) override {}
+    zeb::TriggerSettings getTriggerSettings() const override { return {}; }
+    void setTriggerMode(const DocList&, int, int, int, int, float, int, int) override {}
+    void setRandomTriggerPhase(const DocList&, bool) override {}
+    void setReduceMode(const DocList&, bool) override {}
+    void setLowLight(const DocList&, bool) override {}
+    void setLowLightType(const DocList&, int) override {}
     void setPartition(PARTITIONNUMBER number, int) override { note("setPartition", number); }
     unsigned int getCurrentVariable() const override { return variable; }
     void setVariable(unsigned int channel) override { note("setVariable", channel); }

@@ -142,10 +142,10 @@ TEST_F(MixedCameras, AGoneCameraHasNoDocument) {
 TEST_F(MixedCameras, ACameraMayVanishInTheMiddleOfACall) {
     plant(1, "setRecordRate", gone());
     const DocList docs = test.docs({1, 2});
-    EXPECT_EQ(thrownBy([&] { test.host.cameraOps().setRecordRate(docs, 1000); }), "Gate: the camera is gone");
+    EXPECT_EQ(thrownBy([&] { test.host.cameraOps().setRecordRate(docs, 1000); }), "");
     EXPECT_EQ(test.doc(1), nullptr);
     EXPECT_EQ(rate(2), 1000u);
-    EXPECT_EQ(thrownBy([&] { docs.first()->control().getTriggerMode(); }), "Gate: the camera is gone");
+    EXPECT_EQ(thrownBy([&] { docs.first()->control().getTriggerMode(); }), "");
 }
 
 TEST_F(MixedCameras, OnesThatAreNotConnectedAnswerOnlyWhatTheHostKnows) {

@@ -5,6 +5,8 @@
 #include "camera/ShownErrors.h"
 #include "recording/Clock.h"
 
+#include <algorithm>
+
 namespace {
 
 const QString notConnected = QStringLiteral("the camera is not connected");
@@ -39,7 +41,7 @@ void Camera::change(const QVariantMap& members) {
 QString Camera::meetFault(const char* operation) const {
     const Fault fault = m_device.faults().meet(m_key, operation);
     m_device.clock().wait(fault.delay);
-    return isGone() ? QStringLiteral("the camera is gone") : fault.throws;
+    return isGone() ? QString() : fault.throws;
 }
 
 void Camera::query(const char* operation) const {
@@ -57,47 +59,178 @@ void Camera::queryConnected(const char* operation) const {
     query(operation);
 }
 
-void Camera::command(const char* operation) {
+bool Camera::command(const char* operation) {
     const QString reason = meetFault(operation);
     if (!reason.isEmpty()) {
         throw CameraError(name(), reason);
     }
     m_device.clock().wait(m_device.latency());
+    return !isGone();
 }
 
-void Camera::commandConnected(const char* operation) {
+bool Camera::commandConnected(const char* operation) {
     if (!get(&CameraState::connected)) {
         throw CameraError(name(), notConnected);
     }
-    command(operation);
+    return command(operation);
 }
 
 void Camera::connect() {
-    command("connectDocs");
+    if (!command("connectDocs")) {
+        return;
+    }
     onAllHeads(&CameraState::connected, true);
 }
 
 void Camera::disconnect() {
-    command("disconnectDocs");
+    if (!command("disconnectDocs")) {
+        return;
+    }
     onAllHeads(&CameraState::connected, false);
 }
 
-void Camera::setRecordRate(unsigned int rate) {
-    commandConnected("setRecordRate");
-    try {
-        onAllHeads(&CameraState::rate, model().acceptedRate(rate));
-    } catch (const std::invalid_argument& refusal) {
-        throw CameraError(name(), QString::fromUtf8(refusal.what()));
+void Camera::refuse(const QString& reason) const {
+    throw CameraError(name(), reason);
+}
+
+void Camera::require(int function, const char* mode) const {
+    if (!model().functions.contains(function)) {
+        refuse(QStringLiteral("the camera has no %1").arg(QLatin1String(mode)));
     }
 }
 
+bool Camera::commandOnSetting(const char* operation) {
+    const bool there = commandConnected(operation);
+    if (there && get(&CameraState::lowLight) && model().lowLightRefuses.contains(QLatin1String(operation))) {
+        refuse(QStringLiteral("this can't be changed in low light mode"));
+    }
+    return there;
+}
+
+void Camera::setRecordRate(unsigned int rate) {
+    if (!commandOnSetting("setRecordRate")) {
+        return;
+    }
+    try {
+        onAllHeads(&CameraState::rate, model().acceptedRate(rate));
+    } catch (const std::invalid_argument& refusal) {
+        refuse(QString::fromUtf8(refusal.what()));
+    }
+    for (const auto& head : m_device.heads()) {
+        head->fitShutter();
+    }
+}
+
+/// No exposure lasts longer than a frame; low light mode is there to lift that.
+void Camera::fitShutter() {
+    if (!get(&CameraState::lowLight)) {
+        set(&CameraState::shutter, model().fittingShutter(get(&CameraState::shutter), get(&CameraState::rate)));
+    }
+}
+
+void Camera::setShutterSpeed(int speed) {
+    if (!commandOnSetting("setShutterSpeed")) {
+        return;
+    }
+    if (!model().shutters.contains(speed)) {
+        refuse(QStringLiteral("a shutter speed of 1/%1 s is not supported").arg(speed));
+    }
+    for (const auto& head : m_device.heads()) {
+        if (head.get() == this || model().sharesShutter) {
+            head->set(&CameraState::shutter, speed);
+            head->fitShutter();
+        }
+    }
+}
+
+void Camera::setResolution(const QSize& resolution) {
+    if (!commandOnSetting("setResolution")) {
+        return;
+    }
+    if (!model().resolutions.contains(resolution)) {
+        refuse(QStringLiteral("%1 x %2 is not supported").arg(resolution.width()).arg(resolution.height()));
+    }
+    for (const auto& head : m_device.heads()) {
+        if (head.get() == this || model().sharesResolution) {
+            head->set(&CameraState::resolution, resolution);
+        }
+    }
+}
+
+void Camera::setTriggerMode(int mode, const zeb::TriggerSettings& settings) {
+    if (!commandOnSetting("setTriggerMode")) {
+        return;
+    }
+    if (!model().triggerModes.contains(mode)) {
+        refuse(QStringLiteral("the trigger mode is not supported"));
+    }
+    for (const auto& head : m_device.heads()) {
+        const double before = std::clamp(double(settings.manualBeforePercent), 0.0, 100.0);
+        const unsigned int capacity = model().frameCapacity(head->get(&CameraState::resolution));
+        head->set(&CameraState::triggerMode, mode);
+        head->set(&CameraState::triggerFrame, int(capacity * (100.0 - before) / 100.0));
+        head->set(&CameraState::randomFrames, settings.randomFrames);
+        head->set(&CameraState::randomTimes, settings.randomTimes);
+    }
+}
+
+void Camera::setRandomTriggerPhase(bool counted) {
+    if (!commandOnSetting("setRandomTriggerPhase")) {
+        return;
+    }
+    onAllHeads(&CameraState::randomCounted, counted);
+}
+
+void Camera::setReduceMode(bool on) {
+    if (!commandConnected("setReduceMode")) {
+        return;
+    }
+    require(zeb::FunctionReduceMode, "live speed to choose");
+    set(&CameraState::reduce, on);
+}
+
+void Camera::setLowLight(bool on) {
+    if (!commandConnected("setLowLight")) {
+        return;
+    }
+    require(zeb::FunctionLowLight, "low light mode");
+    set(&CameraState::lowLight, on);
+    fitShutter();
+}
+
+void Camera::setLowLightType(int type) {
+    if (!commandConnected("setLowLightType")) {
+        return;
+    }
+    require(zeb::FunctionLowLight, "low light mode");
+    set(&CameraState::lowLightType, type);
+}
+
+void Camera::setName(const QString& name) {
+    if (!commandConnected("setCameraName")) {
+        return;
+    }
+    set(&CameraState::name, name);
+}
+
+void Camera::setComment(const QString& comment) {
+    if (!commandConnected("setComment")) {
+        return;
+    }
+    set(&CameraState::comment, comment);
+}
+
 void Camera::eraseRecordedData() {
-    commandConnected("eraseRecordedData");
+    if (!commandConnected("eraseRecordedData")) {
+        return;
+    }
     set(&CameraState::recorded, false);
 }
 
 void Camera::setPartition(PARTITIONNUMBER partition) {
-    commandConnected("setPartition");
+    if (!commandConnected("setPartition")) {
+        return;
+    }
     if (partition < 1 || partition > get(&CameraState::partitions)) {
         throw CameraError(name(), QStringLiteral("there is no partition %1").arg(partition));
     }
@@ -105,7 +238,9 @@ void Camera::setPartition(PARTITIONNUMBER partition) {
 }
 
 void Camera::setVariable(unsigned int channel) {
-    commandConnected("setVariable");
+    if (!commandConnected("setVariable")) {
+        return;
+    }
     if (get(&CameraState::variableChannels).value(int(channel) - 1).isEmpty()) {
         throw CameraError(name(), QStringLiteral("there is no variable channel %1").arg(channel));
     }
@@ -113,7 +248,9 @@ void Camera::setVariable(unsigned int channel) {
 }
 
 void Camera::disarm() {
-    commandConnected("disarm");
+    if (!commandConnected("disarm")) {
+        return;
+    }
     set(&CameraState::recordState, 0);
     set(&CameraState::status, int(zeb::CameraLive));
 }

@@ -36,17 +36,28 @@ public:
     void change(const QVariantMap& members);
 
     /// Every question of a document to its camera begins with one of these; they take the time that a planted fault
-    /// says. They throw `QueryError`, the second also when the camera is not connected.
+    /// says. They throw `QueryError`, the second also when the camera is not connected. A camera that is gone answers
+    /// what was last known of it.
     void query(const char* operation) const;
     void queryConnected(const char* operation) const;
 
-    /// Commands. Each takes the camera's latency, or throws `CameraError`.
+    /// Commands. Each takes the camera's latency, or throws `CameraError`. A camera that is gone does nothing more.
     ///
     /// Connects the device with all its heads, and disconnects it.
     void connect();
     void disconnect();
     /// The rate that the model makes of `rate`, on all heads of the device.
     void setRecordRate(unsigned int rate);
+    /// n of 1/n second; exposures longer than a frame lasts become the longest that fits.
+    void setShutterSpeed(int speed);
+    void setResolution(const QSize& resolution);
+    void setTriggerMode(int mode, const zeb::TriggerSettings& settings);
+    void setRandomTriggerPhase(bool counted);
+    void setReduceMode(bool on);
+    void setLowLight(bool on);
+    void setLowLightType(int type);
+    void setName(const QString& name);
+    void setComment(const QString& comment);
     void eraseRecordedData();
     /// Throws also for a partition or channel that the camera does not have.
     void setPartition(PARTITIONNUMBER partition);
@@ -55,9 +66,15 @@ public:
     void disarm();
 
 private:
-    void command(const char* operation);
-    void commandConnected(const char* operation);
-    /// Why the operation fails; empty when it does not.
+    /// A command that the model refuses in low light mode.
+    bool commandOnSetting(const char* operation);
+    [[noreturn]] void refuse(const QString& reason) const;
+    void require(int function, const char* mode) const;
+    void fitShutter();
+    /// Whether the camera is there to do it.
+    bool command(const char* operation);
+    bool commandConnected(const char* operation);
+    /// Why the operation fails; empty when it does not, and for a camera that is gone.
     QString meetFault(const char* operation) const;
     template <typename T>
     void onAllHeads(T CameraState::*member, T value);

@@ -7,6 +7,7 @@ CameraDevice::CameraDevice(const RigDevice& device, DOCKEY firstKey, Clock& cloc
     : m_address(device.address),
       m_model(device.model),
       m_latency(device.latency),
+      m_found(device.found),
       m_clock(clock),
       m_faults(faults),
       m_shownErrors(shownErrors) {

@@ -21,6 +21,9 @@ public:
     const QString& address() const { return m_address; }
     const CameraModel& model() const { return *m_model; }
     int latency() const { return m_latency; }
+    /// Whether the host has found the device. GUI thread.
+    bool isFound() const { return m_found; }
+    void setFound(bool found) { m_found = found; }
     /// The master head is the first.
     const std::vector<std::unique_ptr<Camera>>& heads() const { return m_heads; }
     std::mutex& mutex() const { return m_mutex; }
@@ -33,6 +36,7 @@ private:
     const QString m_address;
     const std::shared_ptr<const CameraModel> m_model;
     const int m_latency;
+    bool m_found;
     Clock& m_clock;
     FaultPlan& m_faults;
     ShownErrors& m_shownErrors;

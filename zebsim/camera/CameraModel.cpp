@@ -18,6 +18,19 @@ unsigned int CameraModel::acceptedRate(unsigned int rate) const {
     return accepted;
 }
 
+int CameraModel::fittingShutter(int speed, unsigned int rate) const {
+    if (speed >= int(rate)) {
+        return speed;
+    }
+    int fitting = *std::max_element(shutters.begin(), shutters.end());
+    for (const int offered : shutters) {
+        if (offered >= int(rate)) {
+            fitting = std::min(fitting, offered);
+        }
+    }
+    return fitting;
+}
+
 void CameraModel::check(const CameraState& state) const {
     const auto require = [this](bool offered, const char* member) {
         if (!offered) {

@@ -35,6 +35,8 @@ struct CameraModel {
     /// Whether the heads of a device share shutter speed and resolution; rate and trigger mode they always share.
     bool sharesShutter = false;
     bool sharesResolution = false;
+    /// Commands that a camera in low light mode refuses, named as in `FaultPlan`.
+    QStringList lowLightRefuses;
     /// Bits of a pixel that the camera fills.
     int bitDepth = 8;
     /// Size of the memory in MiB; a pixel takes one byte.
@@ -45,6 +47,9 @@ struct CameraModel {
     /// The rate that the camera takes when `rate` is asked of it: the next lower one, or the lowest. Throws
     /// `std::invalid_argument` when it refuses.
     unsigned int acceptedRate(unsigned int rate) const;
+    /// The speed, n of 1/n second, that the camera takes when `speed` is asked of it at `rate` frames a second: an
+    /// exposure fits into a frame if the list has one that does.
+    int fittingShutter(int speed, unsigned int rate) const;
     /// Throws `CameraStateError` for a setting that is in none of the lists.
     void check(const CameraState& state) const;
     /// Frames that fit into the memory.

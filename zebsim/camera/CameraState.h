@@ -35,6 +35,9 @@ struct CameraState {
     Q_PROPERTY(int shutter MEMBER shutter)
     Q_PROPERTY(int triggerMode MEMBER triggerMode)
     Q_PROPERTY(int triggerFrame MEMBER triggerFrame)
+    Q_PROPERTY(int randomFrames MEMBER randomFrames)
+    Q_PROPERTY(int randomTimes MEMBER randomTimes)
+    Q_PROPERTY(bool randomCounted MEMBER randomCounted)
     Q_PROPERTY(bool reduce MEMBER reduce)
     Q_PROPERTY(bool lowLight MEMBER lowLight)
     Q_PROPERTY(int lowLightType MEMBER lowLightType)
@@ -96,6 +99,10 @@ public:
     int triggerMode = zeb::TriggerStart;
     /// Of the manual trigger, counted from the start of the memory.
     int triggerFrame = 0;
+    /// Of the random trigger: frames of one, how often it comes, and whether that is counted.
+    int randomFrames = 0;
+    int randomTimes = 0;
+    bool randomCounted = false;
     bool reduce = false;
     bool lowLight = false;
     int lowLightType = zeb::LowLightTypeFast;

@@ -23,11 +23,29 @@ void FaultPlan::plant(DOCKEY key, const QString& operation, const Fault& fault) 
     } else if (fault.gone && operation == everyOperation) {
         m_gone.insert(key);
     }
-    m_any = !m_faults.isEmpty();
+    updateAny();
+}
+
+void FaultPlan::plantAt(int call, const Fault& fault) {
+    const std::lock_guard lock(m_mutex);
+    m_call = 0;
+    m_faultyCall = call;
+    m_callFault = fault;
+    updateAny();
+}
+
+int FaultPlan::callCount() const {
+    const std::lock_guard lock(m_mutex);
+    return m_call;
+}
+
+void FaultPlan::updateAny() {
+    m_any = !m_faults.isEmpty() || m_faultyCall > 0;
 }
 
 void FaultPlan::clear() {
     const std::lock_guard lock(m_mutex);
+    m_faultyCall = 0;
     m_faults.clear();
     m_gone.clear();
     m_any = false;
@@ -40,7 +58,10 @@ Fault FaultPlan::meet(DOCKEY key, const char* operation) {
     const std::lock_guard lock(m_mutex);
     const auto faults = m_faults.value(key);
     const QString name = QString::fromLatin1(operation);
-    const Fault fault = faults.contains(name) ? faults.value(name) : faults.value(everyOperation);
+    Fault fault = faults.contains(name) ? faults.value(name) : faults.value(everyOperation);
+    if (++m_call == m_faultyCall) {
+        fault = m_callFault;
+    }
     if (fault.gone) {
         m_gone.insert(key);
     }

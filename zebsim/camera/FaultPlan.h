@@ -29,6 +29,10 @@ public:
     /// Plants a fault in the place of an earlier one. An empty fault takes it away, and brings a camera back that it
     /// had made gone.
     void plant(DOCKEY key, const QString& operation, const Fault& fault);
+    /// Plants a fault on the call number `call` of those that any camera gets from now on, counted from 1.
+    void plantAt(int call, const Fault& fault);
+    /// Calls of cameras since `plantAt`.
+    int callCount() const;
     void clear();
 
     /// The fault that an operation meets now; from then on the camera is gone if the fault says so.
@@ -36,8 +40,13 @@ public:
     bool isGone(DOCKEY key) const;
 
 private:
+    void updateAny();
+
     std::atomic<bool> m_any{false};
     mutable std::mutex m_mutex;
     QHash<DOCKEY, QHash<QString, Fault>> m_faults;
     QSet<DOCKEY> m_gone;
+    int m_call = 0;
+    int m_faultyCall = 0;
+    Fault m_callFault;
 };

@@ -54,7 +54,7 @@ CameraModel readModel(const JsonNode& node) {
                     QStringLiteral("shutters"), QStringLiteral("triggerModes"), QStringLiteral("ports"),
                     QStringLiteral("functions"), QStringLiteral("capabilities"), QStringLiteral("syncStatus"),
                     QStringLiteral("sharesShutter"), QStringLiteral("sharesResolution"), QStringLiteral("memory"),
-                    QStringLiteral("bitDepth"), QStringLiteral("initial")});
+                    QStringLiteral("bitDepth"), QStringLiteral("lowLightRefuses"), QStringLiteral("initial")});
     CameraModel model;
     model.name = node.member(QStringLiteral("name")).text();
     model.type = node.member(QStringLiteral("type")).number(0, highest);
@@ -75,6 +75,9 @@ CameraModel readModel(const JsonNode& node) {
     model.sharesResolution = readFlag(node, QStringLiteral("sharesResolution"));
     if (node.has(QStringLiteral("bitDepth"))) {
         model.bitDepth = node.member(QStringLiteral("bitDepth")).number(8, 16);
+    }
+    if (node.has(QStringLiteral("lowLightRefuses"))) {
+        model.lowLightRefuses = node.member(QStringLiteral("lowLightRefuses")).texts();
     }
     model.memory = node.member(QStringLiteral("memory")).number(0, 1 << 24);
     model.initial = ModelCatalogue::readState(node.member(QStringLiteral("initial")), model);

@@ -23,8 +23,8 @@ public:
     explicit RigReader(const ModelCatalogue& models) : m_models(models) {}
 
     RigDevice readDevice(const JsonNode& node) {
-        node.allowOnly(
-            {QStringLiteral("address"), QStringLiteral("model"), QStringLiteral("latency"), QStringLiteral("heads")});
+        node.allowOnly({QStringLiteral("address"), QStringLiteral("model"), QStringLiteral("latency"),
+                        QStringLiteral("found"), QStringLiteral("heads")});
         RigDevice device;
         device.address = readAddress(node.member(QStringLiteral("address")));
         const JsonNode model = node.member(QStringLiteral("model"));
@@ -35,6 +35,7 @@ public:
         if (node.has(QStringLiteral("latency"))) {
             device.latency = node.member(QStringLiteral("latency")).number(0, longestLatency);
         }
+        device.found = !node.has(QStringLiteral("found")) || node.member(QStringLiteral("found")).flag();
         device.heads = readHeads(node.member(QStringLiteral("heads")), *device.model);
         return device;
     }
@@ -101,7 +102,7 @@ Rig Rig::standard(int count) {
         const QString address = QStringLiteral("192.168.%1.%2").arg(i / 200).arg(11 + i % 200);
         CameraState state = model->initial;
         state.name = defaultName(i + 1);
-        rig.devices.append(RigDevice{address, model, standardLatency, {state}});
+        rig.devices.append(RigDevice{address, model, standardLatency, true, {state}});
     }
     return rig;
 }

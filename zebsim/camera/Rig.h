@@ -15,6 +15,8 @@ struct RigDevice {
     std::shared_ptr<const CameraModel> model;
     /// Time that a command takes, in milliseconds.
     int latency = 0;
+    /// False: it waits for a search to find it.
+    bool found = true;
     /// What each head starts with; a camera of one head has one.
     QList<CameraState> heads;
 };

@@ -6,17 +6,79 @@
 #include "host/CameraBank.h"
 #include "host/Failures.h"
 #include "host/Journal.h"
+#include "host/Preferences.h"
 #include "host/StatusFlags.h"
 
 #include <algorithm>
 
-SimCameraOps::SimCameraOps(Journal& journal, CameraBank& cameras, const ZebDocManager& docs, const StatusFlags& flags)
-    : m_journal(journal), m_cameras(cameras), m_docs(docs), m_flags(flags) {}
+SimCameraOps::SimCameraOps(Journal& journal, CameraBank& cameras, const ZebDocManager& docs, const Preferences& prefs,
+                           const StatusFlags& flags)
+    : m_journal(journal), m_cameras(cameras), m_docs(docs), m_prefs(prefs), m_flags(flags) {}
+
+void SimCameraOps::searchCamera(const QString& address) {
+    m_journal.record("ZebCameraOps::searchCamera", {address});
+    m_cameras.search(address.section(QLatin1Char('.'), 0, 2));
+}
+
+void SimCameraOps::discoverCameras() {
+    m_journal.record("ZebCameraOps::discoverCameras");
+    m_cameras.search({});
+}
+
+void SimCameraOps::updateCameras() {
+    m_journal.record("ZebCameraOps::updateCameras");
+    m_cameras.searchListed();
+}
 
 void SimCameraOps::setRecordRate(const DocList& docs, unsigned int rate) {
-    const DocKeyList keys = keysOf(docs);
-    m_journal.record("ZebCameraOps::setRecordRate", {Journal::keyList(keys), rate});
-    forEach(keys, [rate](Camera& camera) { camera.setRecordRate(rate); });
+    command("ZebCameraOps::setRecordRate", docs, {rate}, [rate](Camera& camera) { camera.setRecordRate(rate); });
+}
+
+void SimCameraOps::setShutterSpeed(const DocList& docs, int speed) {
+    command("ZebCameraOps::setShutterSpeed", docs, {speed}, [speed](Camera& camera) { camera.setShutterSpeed(speed); });
+}
+
+void SimCameraOps::setResolution(const DocList& docs, int width, int height) {
+    command("ZebCameraOps::setResolution", docs, {width, height}, [&](Camera& camera) {
+        camera.setResolution({width, height});
+    });
+}
+
+zeb::TriggerSettings SimCameraOps::getTriggerSettings() const {
+    zeb::TriggerSettings settings;
+    settings.kind = 1;
+    settings.manualBeforePercent = m_prefs.value(QStringLiteral("trigger/manualBeforePercent")).toFloat();
+    settings.randomFrames = m_prefs.value(QStringLiteral("trigger/randomFrames")).toInt();
+    settings.randomTimes = m_prefs.value(QStringLiteral("trigger/randomTimes")).toInt();
+    return settings;
+}
+
+void SimCameraOps::setTriggerMode(const DocList& docs, int kind, int mode, int reserved1, int reserved2,
+                                  float manualBeforePercent, int randomFrames, int randomTimes) {
+    zeb::TriggerSettings settings;
+    settings.manualBeforePercent = manualBeforePercent;
+    settings.randomFrames = randomFrames;
+    settings.randomTimes = randomTimes;
+    command("ZebCameraOps::setTriggerMode", docs,
+            {kind, mode, reserved1, reserved2, double(manualBeforePercent), randomFrames, randomTimes},
+            [&](Camera& camera) { camera.setTriggerMode(mode, settings); });
+}
+
+void SimCameraOps::setRandomTriggerPhase(const DocList& docs, bool counted) {
+    command("ZebCameraOps::setRandomTriggerPhase", docs, {counted},
+            [counted](Camera& camera) { camera.setRandomTriggerPhase(counted); });
+}
+
+void SimCameraOps::setReduceMode(const DocList& docs, bool on) {
+    command("ZebCameraOps::setReduceMode", docs, {on}, [on](Camera& camera) { camera.setReduceMode(on); });
+}
+
+void SimCameraOps::setLowLight(const DocList& docs, bool on) {
+    command("ZebCameraOps::setLowLight", docs, {on}, [on](Camera& camera) { camera.setLowLight(on); });
+}
+
+void SimCameraOps::setLowLightType(const DocList& docs, int type) {
+    command("ZebCameraOps::setLowLightType", docs, {type}, [type](Camera& camera) { camera.setLowLightType(type); });
 }
 
 void SimCameraOps::setPartition(PARTITIONNUMBER number, int mode) {
@@ -100,6 +162,13 @@ DocKeyList SimCameraOps::keysOf(const DocList& docs) {
         keys.append(doc->getKey());
     }
     return keys;
+}
+
+void SimCameraOps::command(const char* call, const DocList& docs, const QVariantList& args,
+                           const std::function<void(Camera&)>& work) {
+    const DocKeyList keys = keysOf(docs);
+    m_journal.record(call, QVariantList{Journal::keyList(keys)} + args);
+    forEach(keys, work);
 }
 
 void SimCameraOps::forEach(const DocKeyList& keys, const std::function<void(Camera&)>& work) {

@@ -8,15 +8,29 @@
 class Camera;
 class CameraBank;
 class Journal;
+class Preferences;
 class StatusFlags;
 class ZebDocManager;
 
 /// Operations on many cameras: each one is tried, and the failures come as one exception.
 class SimCameraOps : public ZebCameraOps {
 public:
-    SimCameraOps(Journal& journal, CameraBank& cameras, const ZebDocManager& docs, const StatusFlags& flags);
+    SimCameraOps(Journal& journal, CameraBank& cameras, const ZebDocManager& docs, const Preferences& prefs,
+                 const StatusFlags& flags);
 
+    void searchCamera(const QString& address) override;
+    void discoverCameras() override;
+    void updateCameras() override;
     void setRecordRate(const DocList& docs, unsigned int rate) override;
+    void setShutterSpeed(const DocList& docs, int speed) override;
+    void setResolution(const DocList& docs, int width, int height) override;
+    zeb::TriggerSettings getTriggerSettings() const override;
+    void setTriggerMode(const DocList& docs, int kind, int mode, int reserved1, int reserved2,
+                        float manualBeforePercent, int randomFrames, int randomTimes) override;
+    void setRandomTriggerPhase(const DocList& docs, bool counted) override;
+    void setReduceMode(const DocList& docs, bool on) override;
+    void setLowLight(const DocList& docs, bool on) override;
+    void setLowLightType(const DocList& docs, int type) override;
     void setPartition(PARTITIONNUMBER number, int mode) override;
     unsigned int getCurrentVariable() const override;
     void setVariable(unsigned int channel) override;
@@ -30,11 +44,15 @@ public:
 
 private:
     static DocKeyList keysOf(const DocList& docs);
+    /// A command to every camera of the list, in the journal as one call with its keys and `args`.
+    void command(const char* call, const DocList& docs, const QVariantList& args,
+                 const std::function<void(Camera&)>& work);
     void forEach(const DocKeyList& keys, const std::function<void(Camera&)>& work);
     std::vector<Camera*> connectedCameras() const;
 
     Journal& m_journal;
     CameraBank& m_cameras;
     const ZebDocManager& m_docs;
+    const Preferences& m_prefs;
     const StatusFlags& m_flags;
 };

@@ -12,6 +12,11 @@ QString SimControl::getCameraName(int /*mode*/) const {
     return m_camera.name();
 }
 
+void SimControl::setCameraName(const QString& name) {
+    m_context.journal.record("DOC_Control::setCameraName", {m_camera.key(), name});
+    m_camera.setName(name);
+}
+
 QString SimControl::getAddress(int /*mode*/) const {
     m_camera.query("getAddress");
     return m_camera.device().address();

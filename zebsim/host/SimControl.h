@@ -12,6 +12,7 @@ public:
     SimControl(Camera& camera, const DocContext& context) : m_camera(camera), m_context(context) {}
 
     QString getCameraName(int mode) const override;
+    void setCameraName(const QString& name) override;
     QString getAddress(int mode) const override;
     QString getDeviceAlias(int mode) const override;
     QString getDeviceName(int mode) const override;

@@ -40,6 +40,9 @@ DOC_Interface* SimDocManager::getDocAny(DOCKEY key) {
     }
     auto& doc = m_docs[key];
     if (!doc) {
+        if (!m_endOfTurn.isActive()) {
+            m_endOfTurn.start(0);
+        }
         doc = std::make_unique<SimDocument>(*camera, m_context);
     }
     return doc.get();
@@ -196,6 +199,13 @@ void SimDocManager::forEachKey(const DocKeyList& keys, const std::function<void(
     if (failures.any()) {
         m_host.errorHandler(failures.error());
     }
+}
+
+void SimDocManager::deleteAllDocs(int kind, int mode) {
+    m_journal.record("ZebDocManager::deleteAllDocs", {kind, mode});
+    m_cameras.forgetAll();
+    m_current = zeb::NoDocKey;
+    m_updates.request();
 }
 
 void SimDocManager::editDoc(DOCKEY key) {

@@ -4,6 +4,8 @@
 #include "host/DocContext.h"
 #include "host/ImageTools.h"
 
+#include <QTimer>
+
 #include <functional>
 #include <memory>
 #include <unordered_map>
@@ -53,6 +55,7 @@ public:
     void selectAllDocs(QObject* sender) override;
     void connectDocs(const DocKeyList& keys) override;
     void disconnectDocs(const DocKeyList& keys) override;
+    void deleteAllDocs(int kind, int mode) override;
     void editDoc(DOCKEY key) override;
     bool sharesDeviceWithLockedHead(DOC_Interface* doc, bool shutter, bool resolution) override;
     /// There is none: cameras bring images only.
@@ -88,7 +91,10 @@ private:
     ImageTools m_tools;
     const DocContext m_context;
     std::function<void(Camera&)> m_editor;
+    /// Documents of this turn of the event loop. None is handed out in a later one, so that whoever keeps one is found
+    /// out.
     std::unordered_map<DOCKEY, std::unique_ptr<SimDocument>> m_docs;
+    QTimer m_endOfTurn;
     /// May have lost its selection meanwhile.
     mutable DOCKEY m_current = zeb::NoDocKey;
 };

@@ -29,7 +29,7 @@ SimHost::SimHost(Clock& clock, MessageDesk& desk, const QString& prefsPath)
       m_liveLoop(m_journal),
       m_player(m_journal),
       m_recorder(m_cameras, m_flags),
-      m_cameraOps(m_journal, m_cameras, m_docManager, m_flags),
+      m_cameraOps(m_journal, m_cameras, m_docManager, m_prefs, m_flags),
       m_saver(m_journal, m_flags, [this] { return m_appDesk ? m_appDesk->currentImage() : QImage(); }),
       m_viewOps(m_cameras, m_flags),
       m_mdi(m_cameras, m_flags),

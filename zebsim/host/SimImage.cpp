@@ -10,6 +10,11 @@ QString SimImage::getComment() const {
     return m_camera.get(&CameraState::comment);
 }
 
+void SimImage::setComment(const QString& comment) {
+    m_context.journal.record("DOC_Image::setComment", {m_camera.key(), comment});
+    m_camera.setComment(comment);
+}
+
 std::optional<zeb::ImageFormat> SimImage::getImageFormat(int /*kind*/, int /*head*/) const {
     m_camera.query("getImageFormat");
     if (!m_camera.get(&CameraState::connected)) {

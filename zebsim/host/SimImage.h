@@ -11,6 +11,7 @@ public:
     SimImage(Camera& camera, const DocContext& context) : m_camera(camera), m_context(context) {}
 
     QString getComment() const override;
+    void setComment(const QString& comment) override;
     std::optional<zeb::ImageFormat> getImageFormat(int kind, int head) const override;
     QSize getImageSize() const override;
     double getScale() const override;

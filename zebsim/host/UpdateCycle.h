@@ -15,6 +15,7 @@ public:
     /// Calls nest. What was asked for while deterred is owed: one cycle after the last end.
     void deter(bool deter);
     /// A cycle was asked for and has not run yet.
+    bool isDeterred() const { return m_deterred > 0; }
     bool isPending() const { return m_queued || m_owed; }
     /// A cycle comes from the event loop; one that is owed does not come before the last end of deterrence.
     bool isQueued() const { return m_queued; }

@@ -995,5 +995,13 @@
         <source>File write failed.</source>
         <translation>File write failed.</translation>
     </message>
+    <message>
+        <source>%1 is invalid.</source>
+        <translation>%1 is invalid.</translation>
+    </message>
+    <message>
+        <source>Trigger Parameter</source>
+        <translation>Trigger parameter</translation>
+    </message>
 </context>
 </TS>

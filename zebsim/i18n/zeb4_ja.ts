@@ -995,5 +995,13 @@
         <source>File write failed.</source>
         <translation>ファイルに書き込めませんでした。</translation>
     </message>
+    <message>
+        <source>%1 is invalid.</source>
+        <translation>%1が無効です。</translation>
+    </message>
+    <message>
+        <source>Trigger Parameter</source>
+        <translation>トリガーパラメータ</translation>
+    </message>
 </context>
 </TS>
