@@ -1,16 +1,68 @@
 #include "CameraManagement.h"
 
 #include "DOC_Control.h"
+#include "DOC_Image.h"
 #include "DOC_Interface.h"
 #include "DOC_Lock.h"
 #include "DocKeys.h"
 #include "LogFailure.h"
 #include "TableState.h"
+#include "ZebCameraOps.h"
 #include "ZebDocManager.h"
 #include "ZebHost.h"
 
+namespace {
+
+const QString SearchAddressPref = QStringLiteral("cameraconnection/SearchIP");
+
+}  // namespace
+
 QString CameraManagement::getSearchAddress() const {
-    return m_host.isLiveMode() ? m_host.getPrefString(QStringLiteral("cameraconnection/SearchIP")) : QString();
+    return m_host.isLiveMode() ? m_host.getPrefString(SearchAddressPref) : QString();
+}
+
+/// A search has ended when its call returns, so that the cameras before and after it can be compared.
+template <typename Search>
+void CameraManagement::search(Search&& run) {
+    if (!m_host.isLiveMode()) {
+        return;
+    }
+    ZebDocManager& documents = m_host.docManager();
+    const DocKeyList before = documents.getLiveDocKeys(0, 0);
+    run();
+    DocList found;
+    for (const DOCKEY key : documents.getLiveDocKeys(0, 0)) {
+        DOC_Interface* doc = before.contains(key) ? nullptr : documents.getDoc(key, 1);
+        if (doc != nullptr) {
+            found.append(doc);
+        }
+    }
+    prepareConnectedDocs(found);
+}
+
+void CameraManagement::searchCamera(const QString& address) {
+    if (address.isEmpty()) {
+        return;
+    }
+    search([&] {
+        m_host.setPref(SearchAddressPref, address);
+        m_host.cameraOps().searchCamera(address);
+    });
+}
+
+void CameraManagement::discover() {
+    search([this] { m_host.cameraOps().discoverCameras(); });
+}
+
+void CameraManagement::update() {
+    search([this] { m_host.cameraOps().updateCameras(); });
+}
+
+void CameraManagement::deleteAll() {
+    if (m_host.isLiveMode() && m_host.confirmModal(QStringLiteral("Delete all Cameras?"), nullptr, {}) &&
+        m_host.isLiveMode()) {
+        m_host.docManager().deleteAllDocs(0, 0);
+    }
 }
 
 bool CameraManagement::confirmDisconnect(const DocKeyList& keys) const {
@@ -76,6 +128,37 @@ bool CameraManagement::select(const DocKeyList& keys, bool select) {
         m_state.batchDocKey = doc->isSelected() ? key : zeb::NoDocKey;
     }
     return true;
+}
+
+template <typename Change>
+void CameraManagement::forEachConnected(const DocKeyList& keys, Change&& change) {
+    if (m_host.isFileMode()) {
+        return;
+    }
+    for (const DOCKEY key : keys) {
+        DOC_Interface* doc = m_host.docManager().getDocAny(key);
+        if (doc != nullptr && doc->isConnected()) {
+            change(*doc);
+        }
+    }
+}
+
+void CameraManagement::setCameraName(const DocKeyList& keys, const QString& name) {
+    const bool live = m_host.isLiveMode();
+    forEachConnected(keys, [&](DOC_Interface& doc) {
+        if (!live || !doc.lock().isParamLocked()) {
+            doc.control().setCameraName(name);
+        }
+    });
+}
+
+void CameraManagement::setComment(const DocKeyList& keys, const QString& comment) {
+    const QString text = QString(comment).replace(QLatin1Char('\n'), QLatin1String(zeb::CommentSeparator));
+    forEachConnected(keys, [&](DOC_Interface& doc) {
+        if (!doc.lock().isParamLocked()) {
+            doc.image().setComment(text);
+        }
+    });
 }
 
 void CameraManagement::editDoc(DOCKEY key) {

@@ -15,6 +15,14 @@ public:
     /// The address that was searched last; empty outside live mode.
     QString getSearchAddress() const;
 
+    /// Searches, in live mode only: at the addresses that differ from `address` in the last octet, in the whole
+    /// network, and once more for the cameras that are known. A camera that is new is prepared as any that connects.
+    void searchCamera(const QString& address);
+    void discover();
+    void update();
+    /// Forgets all cameras in live mode, if the user agrees.
+    void deleteAll();
+
     /// Asks the user before `keys` are disconnected. False outside live mode, and after a failure, which is logged.
     bool confirmDisconnect(const DocKeyList& keys) const;
     /// What the user is asked: heads of one device go together, else it counts how many cameras are not locked.
@@ -27,6 +35,10 @@ public:
     /// False when nothing may be selected now: in file mode and while the host closes.
     bool select(const DocKeyList& keys, bool select);
 
+    /// In live mode a locked camera keeps its name. Nothing in file mode.
+    void setCameraName(const DocKeyList& keys, const QString& name);
+    /// A locked camera keeps its comment. Nothing in file mode.
+    void setComment(const DocKeyList& keys, const QString& comment);
     void editDoc(DOCKEY key);
 
     /// Every road by which a camera comes into the table ends here: one that records already is followed, and
@@ -34,6 +46,10 @@ public:
     void prepareConnectedDocs(const DocList& docs);
 
 private:
+    template <typename Search>
+    void search(Search&& run);
+    template <typename Change>
+    void forEachConnected(const DocKeyList& keys, Change&& change);
     QString disconnectQuestion(const DocKeyList& keys) const;
     bool mayBeSelected(DOC_Interface& doc) const;
     DocKeyList keysToConnect(const DocKeyList& keys) const;

@@ -14,6 +14,7 @@
 #include "TableSession.h"
 #include "TraceScope.h"
 #include "TraceText.h"
+#include "TriggerEditing.h"
 #include "ZebAppStatus.h"
 #include "ZebDocManager.h"
 #include "ZebHost.h"
@@ -181,6 +182,23 @@ QString JS_Mediator_WrenTableDialog::getSearchAddress() {
     return bridgeCall(*this, QString(), [this] { return CameraManagement(host(), m_state).getSearchAddress(); });
 }
 
+void JS_Mediator_WrenTableDialog::searchCamera(const QString& ipAddress) {
+    operation("searchCamera", traceArg(QStringLiteral("ipAddress"), ipAddress),
+              [&] { CameraManagement(host(), m_state).searchCamera(ipAddress); });
+}
+
+void JS_Mediator_WrenTableDialog::discoverysearch() {
+    operation("discoverysearch", {}, [this] { CameraManagement(host(), m_state).discover(); });
+}
+
+void JS_Mediator_WrenTableDialog::updateCamera() {
+    operation("updateCamera", {}, [this] { CameraManagement(host(), m_state).update(); });
+}
+
+void JS_Mediator_WrenTableDialog::deleteAllCamera() {
+    operation("deleteAllCamera", {}, [this] { CameraManagement(host(), m_state).deleteAll(); });
+}
+
 bool JS_Mediator_WrenTableDialog::confirmDisconnect(const QVariantList& keys) {
     bool agreed = false;
     const QString args = keysArg(keys);
@@ -209,18 +227,71 @@ void JS_Mediator_WrenTableDialog::select(const QVariantList& keys, bool select) 
     });
 }
 
+void JS_Mediator_WrenTableDialog::setCameraName(const QVariantList& keys, const QString& cameraName) {
+    operation("setCameraName", keysArg(keys) % traceArg(QStringLiteral("cameraName"), cameraName),
+              [&] { CameraManagement(host(), m_state).setCameraName(toDocKeys(keys), cameraName); });
+}
+
+void JS_Mediator_WrenTableDialog::setComment(const QVariantList& keys, const QString& comment) {
+    operation("setComment", keysArg(keys) % traceArg(QStringLiteral("comment"), comment),
+              [&] { CameraManagement(host(), m_state).setComment(toDocKeys(keys), comment); });
+}
+
 void JS_Mediator_WrenTableDialog::editDoc(DOCKEY dockey) {
     operation("editDoc", docKeyArg(dockey), [&] { CameraManagement(host(), m_state).editDoc(dockey); });
 }
 
+/// A change of one parameter of many cameras, to the value that stands in the log.
+template <typename Work>
+void JS_Mediator_WrenTableDialog::edit(const char* method, const QVariantList& keys, const char* name,
+                                       const QVariant& value, Work&& work) {
+    operation(method, keysArg(keys) % traceArg(QLatin1String(name), value), [&] {
+        const DocKeyList docKeys = toDocKeys(keys);
+        // No keys stand for all cameras in some of these; a list without one good key does not.
+        if (keys.isEmpty() || !docKeys.isEmpty()) {
+            work(docKeys);
+        }
+    });
+}
+
 void JS_Mediator_WrenTableDialog::setParamLock(const QVariantList& keys, bool lock) {
-    operation("setParamLock", keysArg(keys) % traceArg(QStringLiteral("lock"), lock),
-              [&] { ParameterEditing(host()).setParamLock(toDocKeys(keys), lock); });
+    edit("setParamLock", keys, "lock", lock,
+         [&](const DocKeyList& docKeys) { ParameterEditing(host()).setParamLock(docKeys, lock); });
 }
 
 void JS_Mediator_WrenTableDialog::setFrameRate(const QVariantList& keys, const QString& val) {
-    operation("setFrameRate", keysArg(keys) % traceArg(QStringLiteral("val"), val),
-              [&] { ParameterEditing(host()).setFrameRate(toDocKeys(keys), val); });
+    edit("setFrameRate", keys, "val", val,
+         [&](const DocKeyList& docKeys) { ParameterEditing(host()).setFrameRate(docKeys, val); });
+}
+
+void JS_Mediator_WrenTableDialog::setShutterSpeed(const QVariantList& keys, const QString& val) {
+    edit("setShutterSpeed", keys, "val", val,
+         [&](const DocKeyList& docKeys) { ParameterEditing(host()).setShutterSpeed(docKeys, val); });
+}
+
+void JS_Mediator_WrenTableDialog::setResolution(const QVariantList& keys, const QString& val) {
+    edit("setResolution", keys, "val", val,
+         [&](const DocKeyList& docKeys) { ParameterEditing(host()).setResolution(docKeys, val); });
+}
+
+void JS_Mediator_WrenTableDialog::setTriggerMode(const QVariantList& keys, const QString& val) {
+    edit("setTriggerMode", keys, "val", val,
+         [&](const DocKeyList& docKeys) { TriggerEditing(host()).setTriggerMode(docKeys, val); });
+}
+
+void JS_Mediator_WrenTableDialog::setReduceMode(const QVariantList& keys, bool on) {
+    edit("setReduceMode", keys, "on", on,
+         [&](const DocKeyList& docKeys) { ParameterEditing(host()).setReduceMode(docKeys, on); });
+}
+
+void JS_Mediator_WrenTableDialog::setLowLight(const QVariantList& keys, bool on) {
+    edit("setLowLight", keys, "on", on,
+         [&](const DocKeyList& docKeys) { ParameterEditing(host()).setLowLight(docKeys, on); });
+}
+
+void JS_Mediator_WrenTableDialog::setLowLightType(const QVariantList& keys, bool check) {
+    edit("setLowLightType", keys, "check", check,
+         [&](const DocKeyList& docKeys) { ParameterEditing(host()).setLowLightType(docKeys, check); });
 }
 
 /// There is no recording from the table yet.

@@ -57,14 +57,26 @@ public Q_SLOTS:
 
     // Cameras.
     QString getSearchAddress();
+    void searchCamera(const QString& ipAddress);
+    void discoverysearch();
+    void updateCamera();
+    void deleteAllCamera();
     bool confirmDisconnect(const QVariantList& keys);
     void connect(const QVariantList& keys, bool connect, bool force = false);
     void select(const QVariantList& keys, bool select);
+    void setCameraName(const QVariantList& keys, const QString& cameraName);
+    void setComment(const QVariantList& keys, const QString& comment);
     void editDoc(DOCKEY dockey);
 
     // Parameters.
     void setParamLock(const QVariantList& keys, bool lock);
     void setFrameRate(const QVariantList& keys, const QString& val);
+    void setShutterSpeed(const QVariantList& keys, const QString& val);
+    void setResolution(const QVariantList& keys, const QString& val);
+    void setTriggerMode(const QVariantList& keys, const QString& val);
+    void setReduceMode(const QVariantList& keys, bool on);
+    void setLowLight(const QVariantList& keys, bool on);
+    void setLowLightType(const QVariantList& keys, bool check);
 
     // Recording and live.
     void record();
@@ -91,6 +103,8 @@ private:
     void traced(const char* method, const QString& args, Work&& work);
     template <typename Work>
     void operation(const char* method, const QString& args, Work&& work);
+    template <typename Work>
+    void edit(const char* method, const QVariantList& keys, const char* name, const QVariant& value, Work&& work);
 
     void openSession();
     GUI_WrenTableDialog* tableDialog() const;

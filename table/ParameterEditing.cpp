@@ -1,17 +1,13 @@
 #include "ParameterEditing.h"
 
+#include "ChangeableDocs.h"
 #include "DOC_Control.h"
 #include "DOC_Interface.h"
 #include "DOC_Lock.h"
+#include "DocumentGuard.h"
 #include "ZebCameraOps.h"
 #include "ZebDocManager.h"
 #include "ZebHost.h"
-
-namespace {
-
-const QString HeadAlertPref = QStringLiteral("alert/wren/multiheadlockalert");
-
-}  // namespace
 
 void ParameterEditing::setParamLock(const DocKeyList& keys, bool lock) {
     if (!m_host.isLiveMode()) {
@@ -26,49 +22,87 @@ void ParameterEditing::setParamLock(const DocKeyList& keys, bool lock) {
 }
 
 void ParameterEditing::setFrameRate(const DocKeyList& keys, const QString& val) {
-    if (!m_host.isLiveMode() || val.isEmpty()) {
+    if (!mayChange(val)) {
         return;
     }
-    DocList docs = editableDocs(keys);
-    if (reachesLockedHead(docs)) {
-        if (!userAgrees(QStringLiteral("Shooting speed"))) {
-            return;
-        }
-        // Cameras may have gone, or the mode may have changed, while the question stood.
-        docs = m_host.isLiveMode() ? editableDocs(keys) : DocList();
-    }
+    const DocList docs = changeableDocs(m_host, keys, RecordRate);
     if (!docs.isEmpty()) {
         m_host.cameraOps().setRecordRate(docs, val.toUInt());
     }
 }
 
-DocList ParameterEditing::editableDocs(const DocKeyList& keys) const {
-    DocList docs;
-    for (const DOCKEY key : keys) {
-        DOC_Interface* doc = m_host.docManager().getDocAny(key);
-        if (doc != nullptr && doc->isConnected() && !doc->lock().isParamLocked()) {
-            docs.append(doc);
-        }
+void ParameterEditing::setShutterSpeed(const DocKeyList& keys, const QString& val) {
+    if (!mayChange(val)) {
+        return;
     }
-    return docs;
+    const DocList docs = changeableDocs(m_host, keys, ShutterSpeed);
+    if (!docs.isEmpty()) {
+        m_host.cameraOps().setShutterSpeed(docs, shutterFraction(docs, val.toInt()));
+    }
 }
 
-/// Each document is asked, and the last one decides: for this parameter the question is due only where the end of
-/// the list shares its device.
-bool ParameterEditing::reachesLockedHead(const DocList& docs) const {
-    if (!m_host.getPrefBool(HeadAlertPref)) {
-        return false;
+void ParameterEditing::setResolution(const DocKeyList& keys, const QString& val) {
+    if (!mayChange(val)) {
+        return;
     }
-    bool reaches = false;
-    for (DOC_Interface* doc : docs) {
-        reaches = m_host.docManager().sharesDeviceWithLockedHead(doc, false, false);
+    const DocList docs = changeableDocs(m_host, keys, Resolution);
+    if (!docs.isEmpty()) {
+        const QStringList sides = val.split(QLatin1Char('x'));
+        m_host.cameraOps().setResolution(docs, sides.value(0).trimmed().toInt(), sides.value(1).trimmed().toInt());
     }
-    return reaches;
 }
 
-bool ParameterEditing::userAgrees(const QString& parameter) const {
-    const QString question = m_host.translate(
-        QStringLiteral("%1 of locked heads will be changed at the same time.<br>Do you want to continue?"));
-    return m_host.confirmWithDontShowAgain(question.arg(m_host.translate(parameter)), HeadAlertPref,
-                                           m_host.getMainWindow(), {});
+void ParameterEditing::setReduceMode(const DocKeyList& keys, bool on) {
+    if (!m_host.isLiveMode()) {
+        return;
+    }
+    const DocList docs = changeableDocs(m_host, orAllConnected(keys));
+    if (docs.isEmpty()) {
+        return;
+    }
+    // Its end takes a new image, so that a live view that stands shows the change.
+    DocumentGuard guard(m_host);
+    m_host.cameraOps().setReduceMode(docs, on);
+    guard.release();
+}
+
+void ParameterEditing::setLowLight(const DocKeyList& keys, bool on) {
+    if (!m_host.isLiveMode()) {
+        return;
+    }
+    const DocList docs = changeableDocs(m_host, orAllConnected(keys));
+    if (!docs.isEmpty()) {
+        m_host.cameraOps().setLowLight(docs, on);
+    }
+}
+
+void ParameterEditing::setLowLightType(const DocKeyList& keys, bool fast) {
+    if (!m_host.isLiveMode()) {
+        return;
+    }
+    const DocList docs = changeableDocs(m_host, keys);
+    if (!docs.isEmpty()) {
+        m_host.cameraOps().setLowLightType(docs, fast ? zeb::LowLightTypeFast : zeb::LowLightTypeFine);
+    }
+}
+
+bool ParameterEditing::mayChange(const QString& val) const {
+    return m_host.isLiveMode() && !val.isEmpty();
+}
+
+DocKeyList ParameterEditing::orAllConnected(const DocKeyList& keys) const {
+    return keys.isEmpty() ? m_host.docManager().getConnectedDocKeys(0) : keys;
+}
+
+/// Cameras take n of 1/n second, whatever list the user sees.
+int ParameterEditing::shutterFraction(const DocList& docs, int value) const {
+    if (m_host.getPrefInt(QStringLiteral("display/ShutterSpeed")) != zeb::ShutterDisplaySecondList) {
+        return value;
+    }
+    DOC_Interface* doc = docs.size() == 1 ? docs.first() : m_host.docManager().getCurrentDoc();
+    if (doc == nullptr) {
+        return value;
+    }
+    const int index = doc->control().getShutterSpeedList(2).indexOf(value);
+    return index >= 0 ? doc->control().getShutterSpeedList(1).value(index, value) : value;
 }

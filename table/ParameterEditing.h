@@ -7,20 +7,31 @@
 class ZebHost;
 
 /// Changes parameters of many cameras at once: one call of the host for all of them. A locked camera keeps its
-/// parameters. In live mode only. May throw what the host throws.
+/// parameters. In live mode only. `val` is a value that the table has offered; nothing happens for an empty one. May
+/// throw what the host throws.
 class ParameterEditing {
 public:
     explicit ParameterEditing(ZebHost& host) : m_host(host) {}
 
     /// A camera in low light mode keeps its lock as it is.
     void setParamLock(const DocKeyList& keys, bool lock);
-    /// `val` in frames a second, decimal; nothing happens for an empty one. May ask the user first.
+
+    /// These may ask the user first, see `changeableDocs`. `val` is decimal frames a second,
     void setFrameRate(const DocKeyList& keys, const QString& val);
+    /// a speed of the shutter list in use,
+    void setShutterSpeed(const DocKeyList& keys, const QString& val);
+    /// or a size as "1280 x 800".
+    void setResolution(const DocKeyList& keys, const QString& val);
+
+    /// No keys stand for all connected cameras.
+    void setReduceMode(const DocKeyList& keys, bool on);
+    void setLowLight(const DocKeyList& keys, bool on);
+    void setLowLightType(const DocKeyList& keys, bool fast);
 
 private:
-    DocList editableDocs(const DocKeyList& keys) const;
-    bool reachesLockedHead(const DocList& docs) const;
-    bool userAgrees(const QString& parameter) const;
+    bool mayChange(const QString& val) const;
+    DocKeyList orAllConnected(const DocKeyList& keys) const;
+    int shutterFraction(const DocList& docs, int value) const;
 
     ZebHost& m_host;
 };

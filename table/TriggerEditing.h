@@ -1,0 +1,28 @@
+#pragma once
+
+#include "ZebTypes.h"
+
+#include <QString>
+
+class ZebHost;
+
+/// Sets the trigger mode of many cameras, with the parameters of the host or with those of the default settings. May
+/// throw what the host throws.
+class TriggerEditing {
+public:
+    explicit TriggerEditing(ZebHost& host) : m_host(host) {}
+
+    /// As the setters of `ParameterEditing`. `val` is a decimal `zeb::TriggerMode`.
+    void setTriggerMode(const DocKeyList& keys, const QString& val);
+
+    /// A mode with the parameters of the default settings. Cameras whose memory is too small for them keep the mode
+    /// they have, and the user is told which.
+    void applyTriggerMode(const DocList& docs, int mode);
+
+private:
+    void setWithHostSettings(const DocList& docs, int mode);
+    void send(const DocList& docs, int mode, const zeb::TriggerSettings& settings);
+    bool fits(DOC_Interface& doc, int mode, const zeb::TriggerSettings& settings) const;
+
+    ZebHost& m_host;
+};
