@@ -1,6 +1,8 @@
 #include "DocKeys.h"
 #include "ParameterEditing.h"
 #include "TableFixture.h"
+#include "TriggerEditing.h"
+#include "camera/Rig.h"
 
 namespace {
 
@@ -73,6 +75,118 @@ TEST_F(ParameterEditingTest, locksWhatIsConnectedAndNotInLowLight) {
     change(3, {{"connected", false}});
     editing.setParamLock({1, 2, 3, 99}, true);
     EXPECT_EQ(calls(), QStringList{"DOC_Lock::setParamLock [1,true]"});
+}
+
+TEST_F(ParameterEditingTest, asksForEachParameterInItsOwnWay) {
+    struct Case {
+        const char* told;
+        const char* rig;
+        std::function<void(ParameterEditing&, TriggerEditing&, const DocKeyList&)> set;
+        DocKeyList keys;
+        QString label;
+    };
+    const auto shutter = [](ParameterEditing& p, TriggerEditing&, const DocKeyList& k) {
+        p.setShutterSpeed(k, "2000");
+    };
+    const auto size = [](ParameterEditing& p, TriggerEditing&, const DocKeyList& k) {
+        p.setResolution(k, "640 x 400");
+    };
+    const auto trigger = [](ParameterEditing&, TriggerEditing& t, const DocKeyList& k) { t.setTriggerMode(k, "1"); };
+    const Case cases[] = {
+        {"heads share their resolution", "", size, {3}, "Resolution"},
+        {"the last head of the list decides on the resolution", "", size, {3, 1}, {}},
+        {"heads of this model have a shutter each", "", shutter, {3}, {}},
+        {"one head that shares its shutter is enough",
+         ":/table/rigs/shared-shutter.json",
+         shutter,
+         {3, 1},
+         "Shutter speed"},
+        {"the trigger asks too", "", trigger, {3}, "Trigger mode"},
+    };
+    TriggerEditing triggers(host);
+    for (const Case& each : cases) {
+        host.setRig(Rig::fromFile(*each.rig != 0 ? QString(each.rig) : QStringLiteral("eight-mixed")));
+        connectAll();
+        change(4, {{"locked", true}});
+        host.setPrefBool("wren/settings/triggerEnable", true);
+        desk.shown.clear();
+        calls();
+        each.set(editing, triggers, each.keys);
+        const QString question =
+            QStringLiteral("%1 of locked heads will be changed at the same time.\nDo you want to continue?")
+                .arg(each.label);
+        EXPECT_EQ(desk.shown, each.label.isEmpty() ? QStringList() : QStringList{question}) << each.told;
+        EXPECT_EQ(calls().filter("ZebCameraOps::").size(), 1) << each.told;
+    }
+}
+
+TEST_F(ParameterEditingTest, sendsAShutterSpeedAsAFraction) {
+    editing.setShutterSpeed({1, 2}, "5000");
+    EXPECT_EQ(calls(), QStringList{"ZebCameraOps::setShutterSpeed [[1,2],5000]"});
+
+    host.setPrefInt("display/ShutterSpeed", 2);
+    calls();
+    editing.setShutterSpeed({1}, "200000");
+    EXPECT_EQ(calls(), QStringList{"ZebCameraOps::setShutterSpeed [[1],5000]"}) << "200,000 ns";
+    EXPECT_EQ(stateOf(1, "shutter").toInt(), 5000);
+    editing.setShutterSpeed({1, 2}, "200000");
+    EXPECT_EQ(calls(), QStringList{"ZebCameraOps::setShutterSpeed [[1,2],200000]"})
+        << "several cameras and no current one to look it up in";
+    host.docManager().selectDoc(1);
+    calls();
+    editing.setShutterSpeed({1, 2}, "200000");
+    EXPECT_EQ(calls(), QStringList{"ZebCameraOps::setShutterSpeed [[1,2],5000]"});
+}
+
+TEST_F(ParameterEditingTest, noKeysAreAllConnectedCamerasWhereThatIsMeant) {
+    change(2, {{"locked", true}});
+    change(5, {{"connected", false}});
+    editing.setLowLight({}, true);
+    EXPECT_EQ(calls().filter("setLowLight"), QStringList{"ZebCameraOps::setLowLight [[1,3,4,6,7,8],true]"});
+    editing.setReduceMode({}, true);
+    EXPECT_EQ(calls().filter("setReduceMode"), QStringList{"ZebCameraOps::setReduceMode [[1,3,4,6,7,8],true]"});
+    EXPECT_FALSE(host.liveLoop().isLivePaused());
+    editing.setLowLightType({}, true);
+    editing.setFrameRate({}, "500");
+    EXPECT_EQ(calls(), QStringList());
+}
+
+TEST_F(ParameterEditingTest, setsTheTriggerWithTheParametersOfTheHost) {
+    host.setPref("trigger/manualBeforePercent", 30.0);
+    host.setPref("trigger/randomTimes", 0);
+    calls();
+    TriggerEditing triggers(host);
+    change(4, {{"locked", true}});
+    triggers.setTriggerMode({1, 3}, "4");
+    EXPECT_EQ(desk.shown, QStringList()) << "no question about the locked head of the device";
+    EXPECT_EQ(calls(), QStringList{"ZebCameraOps::setTriggerMode [[1,3],1,4,0,0,30,100,0]"});
+    EXPECT_EQ(stateOf(1, "triggerMode").toInt(), 4);
+    triggers.setTriggerMode({1}, "3");
+    EXPECT_EQ(calls(), (QStringList{"ZebCameraOps::setTriggerMode [[1],1,3,0,0,30,100,0]",
+                                    "ZebCameraOps::setRandomTriggerPhase [[1],false]",
+                                    "ZebCameraOps::setTriggerMode [[1],1,3,0,0,30,100,0]"}));
+}
+
+TEST_F(ParameterEditingTest, namesTheCamerasWhoseMemoryIsTooSmallForTheTrigger) {
+    host.setPref("wren/settings/triggerEnable", true);
+    host.setPref("wren/settings/triggerManualBeforePer", 25.0F);
+    host.setPref("wren/settings/triggerRandomTriggerTimes", 10);
+    host.setPref("wren/settings/triggerRandomFrame", 1000);  // more than a camera of 1024 x 1024 holds
+    calls();
+    TriggerEditing triggers(host);
+    change(2, {{"resolution", QVariantList{512, 512}}});
+    triggers.setTriggerMode({1, 2, 6}, "3");
+    EXPECT_EQ(desk.shown, QStringList{"Gate・・Trigger parameter is invalid.\nTrack・・Trigger parameter is invalid."});
+    EXPECT_EQ(calls().filter("ZebCameraOps::"), (QStringList{"ZebCameraOps::setTriggerMode [[2],2,3,0,0,25,1000,10]",
+                                                             "ZebCameraOps::setRandomTriggerPhase [[2],true]",
+                                                             "ZebCameraOps::setTriggerMode [[2],2,3,0,0,25,1000,10]"}));
+
+    desk.shown.clear();
+    triggers.setTriggerMode({1}, "13");
+    EXPECT_EQ(desk.shown, QStringList()) << "recording on command takes any number";
+    EXPECT_EQ(calls(), QStringList{"ZebCameraOps::setTriggerMode [[1],2,13,0,0,25,1000,10]"});
+    triggers.setTriggerMode({1}, "2");
+    EXPECT_EQ(calls(), QStringList{"ZebCameraOps::setTriggerMode [[1],2,2,0,0,25,1000,10]"});
 }
 
 TEST_F(ParameterEditingTest, readsKeysAsAPageHandsThemOver) {
