@@ -16,6 +16,9 @@ using States = QMap<DOCKEY, QVariantMap>;
 /// One call of a slot that takes keys, on a host of its own, with a fault somewhere in it.
 class FaultyCall : public TableFixture {
 public:
+    using TableFixture::desk;
+    using TableFixture::host;
+
     FaultyCall() {
         connectAll();
         plugin.setHost(&host);
