@@ -2,6 +2,7 @@
 #include "TableFixture.h"
 #include "TableSession.h"
 #include "TableState.h"
+#include "camera/Rig.h"
 
 namespace {
 
@@ -118,6 +119,68 @@ TEST_F(CameraManagementTest, selectionSetsTheCameraBehindTheBatchRow) {
     host.appStatus().enterLiveMode();
     host.flags().set("IsApplicationClosing", true);
     EXPECT_FALSE(cameras.select({1}, true));
+}
+
+TEST_F(CameraManagementTest, aSearchBringsCamerasThatAreNew) {
+    host.setRig(Rig::fromFile(":/table/rigs/recording-elsewhere.json"));
+    calls();
+    EXPECT_EQ(host.docManager().getDocKeys(), DocKeyList{1});
+
+    cameras.searchCamera("192.168.0.0");
+    EXPECT_EQ(host.docManager().getDocKeys(), (DocKeyList{1, 2}));
+    EXPECT_EQ(calls(),
+              (QStringList{R"(ZebHost::setPref ["cameraconnection/SearchIP","192.168.0.0"])",
+                           R"(ZebCameraOps::searchCamera ["192.168.0.0"])", "DOC_Lock::setParamLock [2,true]"}))
+        << "a camera that records already is followed and locked";
+    EXPECT_TRUE(state.recordRunning);
+    EXPECT_EQ(cameras.getSearchAddress(), "192.168.0.0");
+
+    cameras.update();
+    cameras.searchCamera("192.168.0.0");
+    EXPECT_EQ(host.docManager().getDocKeys().size(), 2) << "nothing is new";
+    cameras.discover();
+    EXPECT_EQ(host.docManager().getDocKeys().size(), 3);
+    calls();
+
+    cameras.searchCamera("");
+    host.appStatus().enterMemoryMode();
+    calls();
+    cameras.searchCamera("192.168.0.0");
+    cameras.discover();
+    cameras.update();
+    cameras.deleteAll();
+    EXPECT_EQ(calls(), QStringList());
+    EXPECT_EQ(desk.shown, QStringList());
+}
+
+TEST_F(CameraManagementTest, allCamerasGoOnlyWhenTheUserAgrees) {
+    connectAll();
+    desk.answers = {false, true, true};
+    cameras.deleteAll();
+    EXPECT_EQ(host.docManager().getDocKeys().size(), 8);
+    desk.whileStanding = [this] { host.appStatus().enterMode(zeb::MemoryMode); };
+    cameras.deleteAll();
+    EXPECT_EQ(host.docManager().getDocKeys().size(), 8) << "the mode is another by now";
+    host.appStatus().enterMode(zeb::LiveMode);
+    cameras.deleteAll();
+    EXPECT_TRUE(host.docManager().getDocKeys().isEmpty());
+    EXPECT_EQ(desk.shown.count("Delete all Cameras?"), 3);
+    cameras.discover();
+    EXPECT_EQ(host.docManager().getDocKeys().size(), 11);
+    EXPECT_TRUE(host.docManager().getConnectedDocKeys().isEmpty());
+}
+
+TEST_F(CameraManagementTest, aCommentOfTwoLinesIsKeptAsTheHostKeepsIt) {
+    connectAll();
+    change(2, {{"locked", true}});
+    cameras.setComment({1, 2, 99}, "wet\n<b>50 mm</b>");
+    EXPECT_EQ(calls(), QStringList{R"(DOC_Image::setComment [1,"wet{Separator}<b>50 mm</b>"])"});
+    cameras.setCameraName({1, 2}, "Left");
+    EXPECT_EQ(calls(), QStringList{R"(DOC_Control::setCameraName [1,"Left"])"});
+    host.appStatus().enterMemoryMode();
+    calls();
+    cameras.setCameraName({2}, "Right");
+    EXPECT_EQ(calls(), QStringList{R"(DOC_Control::setCameraName [2,"Right"])"});
 }
 
 TEST_F(CameraManagementTest, aSessionTakesBackWhatItSet) {
