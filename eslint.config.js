@@ -14,9 +14,10 @@ const table = readonly([
     'wrentabledialog_obj', 'wrentabledialog_const_obj', 'wrentabledialog_column_obj', 'TABS',
     'escapeMarkup', 'translate', 'parseReply', 'guarded', 'logged', 'onClick', 'textTip', 'closeTip',
     'showElement', 'setText', 'setClass', 'setStyle',
-    'Cell', 'COLUMNS', 'isBatch', 'isOff', 'isOffOrBatch', 'hasDropDowns', 'showChoice', 'plainColumn',
+    'Cell', 'COLUMNS', 'isBatch', 'isOff', 'isOffOrBatch', 'hasDropDowns', 'indexesOf', 'showChoice', 'plainColumn',
     'DrawnRow', 'columnKind', 'GridView', 'views', 'viewOf', 'tabHeader',
-    'dropDown', 'listenToGrid', 'controls'
+    'dropDown', 'listenToGrid', 'connectedKeys', 'controls',
+    'lowLightSlider', 'showSlider', 'sliderValue', 'sliderMax', 'markupOf'
 ]);
 
 const host = readonly(['zeb4func', 'plugin_obj', 'pluginIcons', 'SliderProperty',

@@ -50,7 +50,7 @@ class GridView {
         }
         const { scrollTop, scrollLeft } = this.grid.last;
         const focus = document.activeElement;
-        const key = focus.getAttribute('dockey');
+        const key = focus && focus.getAttribute('dockey');
         const took = draw();
         this.grid.last.scrollTop = scrollTop;
         this.grid.last.scrollLeft = scrollLeft;
@@ -61,7 +61,7 @@ class GridView {
 
     // The keyboard follows its camera's row into the new frame.
     focus(element, key) {
-        if (this.box && element !== document.activeElement && this.box.contains(element) &&
+        if (this.box && element && element !== document.activeElement && this.box.contains(element) &&
             element.getAttribute('dockey') === key) {
             element.focus();
             this.box.scrollTop = this.grid.last.scrollTop;
@@ -114,7 +114,7 @@ class GridView {
         grid.records = records;
         grid.summary = batch;
         grid.total = records.length;
-        grid.last.selection.indexes = Array.from(records.keys()).filter(index => selected.has(records[index].key));
+        grid.last.selection.indexes = indexesOf(records, selected);
         if (frame || !this.box) {
             grid.refresh();
             return;
@@ -124,7 +124,10 @@ class GridView {
     }
 
     setNewest(records, batch) {
-        this.newest = new Map(records.map(record => [record.key, record]));
+        this.newest = new Map();
+        for (let index = 0; index < records.length; index++) {
+            this.newest.set(records[index].key, records[index]);
+        }
         this.newestBatch = batch[0] || null;
     }
 
@@ -263,4 +266,16 @@ class GridView {
         const tr = element.closest('tr[recid]');
         return tr && (this.batch && this.batch.element === tr ? this.batch : this.rows.find(row => row.element === tr));
     }
+}
+
+// The places of the records that have one of the keys. This and its like run over every camera at every refresh, and
+// iterators are slow in this engine.
+function indexesOf(records, keys) {
+    const indexes = [];
+    for (let index = 0; keys.size > 0 && index < records.length; index++) {
+        if (keys.has(records[index].key)) {
+            indexes.push(index);
+        }
+    }
+    return indexes;
 }

@@ -11,13 +11,7 @@ Object.assign(wrentabledialog_obj, {
         if (!disabled) {
             records.filter(record => record.selected).forEach(record => selected.add(record.key));
         }
-        const indexes = [];
-        grid.records.forEach((record, index) => {
-            if (selected.has(record.key)) {
-                indexes.push(index);
-            }
-        });
-        grid.last.selection.indexes = indexes;
+        grid.last.selection.indexes = indexesOf(grid.records, selected);
         view.showSelection();
     },
 
