@@ -1,6 +1,7 @@
 #include "CameraWindows.h"
 #include "CommandLine.h"
 #include "ModalWatcher.h"
+#include "PreferencePages.h"
 #include "Simulator.h"
 #include "ViewerWindow.h"
 #include "ZebPrefsDialog.h"
@@ -15,6 +16,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QMetaProperty>
 #include <QProgressDialog>
 #include <QSpinBox>
 #include <QTableWidget>
@@ -62,7 +64,7 @@ TEST_F(Dialogs, StorePreferencesOnOkAndNoneOnCancel) {
     EXPECT_EQ(host.getPrefsDialog()->exec(), QDialog::Rejected);
     EXPECT_EQ(pref("recording/AutoDownload"), true);
     EXPECT_EQ(pref("wren/table/interval"), 500);
-    EXPECT_FALSE(pref("sync/generator/address").isValid());
+    EXPECT_EQ(pref("sync/generator/address"), "");
     next([&](QDialog& dialog) {
         change(dialog);
         dialog.accept();
@@ -74,6 +76,28 @@ TEST_F(Dialogs, StorePreferencesOnOkAndNoneOnCancel) {
     EXPECT_EQ(pref("sync/generator/address"), "192.168.0.9");
     EXPECT_EQ(pref("wren/settings/recreadyTableColor"), "no such colour") << "nobody has touched it";
     EXPECT_FALSE(host.isPrefDialogOpening());
+}
+
+TEST_F(Dialogs, ShowEveryPreferenceAsTheHostAnswersIt) {
+    const auto shownBy = [](QWidget& editor) {
+        if (auto* choice = qobject_cast<QComboBox*>(&editor)) return choice->currentData();
+        return editor.metaObject()->userProperty().read(&editor);
+    };
+    int fields = 0;
+    next([&](QDialog& dialog) {
+        for (const PreferencePage& page : preferencePages()) {
+            for (const PreferenceField& field : page.fields) {
+                const QVariant shown = shownBy(*dialog.findChild<QWidget*>(field.key));
+                const QVariant answered = host.getPref(field.key);
+                EXPECT_STREQ(shown.typeName(), answered.typeName()) << field.key.toStdString();
+                EXPECT_EQ(shown, answered) << field.key.toStdString();
+                ++fields;
+            }
+        }
+        dialog.reject();
+    });
+    host.getPrefsDialog()->exec();
+    EXPECT_GE(fields, 19);
 }
 
 TEST_F(Dialogs, OpenPreferencesAtThePageThatIsAskedFor) {

@@ -1,5 +1,6 @@
 #include "EthernetDialog.h"
 
+#include "DialogButtons.h"
 #include "UiText.h"
 #include "camera/Camera.h"
 #include "host/CameraBank.h"
@@ -35,16 +36,11 @@ EthernetDialog::EthernetDialog(const CameraBank& cameras, Preferences& prefs, QW
     : QDialog(parent), m_prefs(prefs), m_search(new QLineEdit(prefs.value(SearchKey).toString(), this)) {
     setWindowTitle(uiText("Ethernet"));
     m_search->setObjectName(SearchKey);
-    auto* buttons = new QDialogButtonBox(this);
-    buttons->addButton(uiText("OK"), QDialogButtonBox::AcceptRole);
-    buttons->addButton(uiText("Cancel"), QDialogButtonBox::RejectRole);
-    connect(buttons, &QDialogButtonBox::accepted, this, &EthernetDialog::accept);
-    connect(buttons, &QDialogButtonBox::rejected, this, &EthernetDialog::reject);
     auto* form = new QFormLayout(this);
     form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
     form->addRow(makeTable(cameras));
     form->addRow(uiText("Search in the network"), m_search);
-    form->addRow(buttons);
+    form->addRow(addOkCancel(*this));
     m_search->setFocus();
 }
 

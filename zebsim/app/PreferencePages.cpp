@@ -2,6 +2,22 @@
 
 namespace {
 
+PreferenceField box(const char* key, const char* label) {
+    return {QLatin1String(key), label, PreferenceField::Box};
+}
+
+PreferenceField text(const char* key, const char* label) {
+    return {QLatin1String(key), label, PreferenceField::Text};
+}
+
+PreferenceField number(const char* key, const char* label, int lowest, int highest) {
+    return {QLatin1String(key), label, PreferenceField::Number, {}, lowest, highest};
+}
+
+PreferenceField choice(const char* key, const char* label, const QList<PreferenceChoice>& choices) {
+    return {QLatin1String(key), label, PreferenceField::Choice, choices};
+}
+
 QList<PreferenceChoice> tableColours() {
     return {{QStringLiteral("red"), "Red"},       {QStringLiteral("green"), "Green"},
             {QStringLiteral("yellow"), "Yellow"}, {QStringLiteral("orange"), "Orange"},
@@ -10,54 +26,46 @@ QList<PreferenceChoice> tableColours() {
 
 QList<PreferenceField> generalFields() {
     return {
-        {QStringLiteral("env/style"),
-         "Style",
-         QStringLiteral("light"),
-         {{QStringLiteral("light"), "Light"}, {QStringLiteral("dark"), "Dark"}}},
-        {QStringLiteral("env/language"),
-         "Language (from the next start on)",
-         QStringLiteral("en"),
-         {{QStringLiteral("en"), "English"}, {QStringLiteral("ja"), "Japanese"}}},
-        {QStringLiteral("customize/unitSystem"), "Units of length", 1, {{1, "Metric"}, {0, "Imperial"}}},
-        {QStringLiteral("devicemanager/connectedCameraOnlyShowing"), "List connected cameras only", false},
+        choice("env/style", "Style", {{QStringLiteral("light"), "Light"}, {QStringLiteral("dark"), "Dark"}}),
+        choice("env/language", "Language (from the next start on)",
+               {{QStringLiteral("en"), "English"}, {QStringLiteral("ja"), "Japanese"}}),
+        choice("customize/unitSystem", "Units of length", {{1, "Metric"}, {0, "Imperial"}}),
+        box("devicemanager/connectedCameraOnlyShowing", "List connected cameras only"),
     };
 }
 
 QList<PreferenceField> displayFields() {
     return {
-        {QStringLiteral("display/ShutterSpeed"), "Shutter speed", 1, {{1, "As a fraction"}, {2, "As a time"}}},
-        {QStringLiteral("display/DisplayWithRealBitDepth"), "Show images in their real bit depth", false},
-        {QStringLiteral("display/recordRateInsertDelimiter"), "Group the digits of frame rates", false},
-        {QStringLiteral("display/frameInsertDelimiter"), "Group the digits of frame numbers", false},
+        choice("display/ShutterSpeed", "Shutter speed", {{1, "As a fraction"}, {2, "As a time"}}),
+        box("display/DisplayWithRealBitDepth", "Show images in their real bit depth"),
+        box("display/recordRateInsertDelimiter", "Group the digits of frame rates"),
+        box("display/frameInsertDelimiter", "Group the digits of frame numbers"),
     };
 }
 
 QList<PreferenceField> recordingFields() {
     return {
-        {QStringLiteral("recording/AutoDownload"), "Save after recording", true},
-        {QStringLiteral("recording/useTriggerTest"), "Offer the trigger test", true},
-        {QStringLiteral("recording/RecAllConnectedCamera"), "Record on all connected cameras", false},
+        box("recording/AutoDownload", "Save after recording"),
+        box("recording/useTriggerTest", "Offer the trigger test"),
+        box("recording/RecAllConnectedCamera", "Record on all connected cameras"),
     };
 }
 
 QList<PreferenceField> ioFields() {
     return {
-        {QStringLiteral("sync/external"), "Synchronise on an external signal", false},
-        {QStringLiteral("sync/generator/address"), "Address of the signal generator", QString()},
-        {QStringLiteral("sync/lport/ipaddress"), "Addresses of Sync Hubs, with commas between", QString()},
+        box("sync/external", "Synchronise on an external signal"),
+        text("sync/generator/address", "Address of the signal generator"),
+        text("sync/lport/ipaddress", "Addresses of Sync Hubs, with commas between"),
     };
 }
 
 QList<PreferenceField> tableFields() {
     return {
-        {QStringLiteral("wren/table/interval"), "Interval of the table in ms", 500, {}, 50, 60000},
-        {QStringLiteral("wren/settings/recreadyTableColor"), "Colour while ready", QStringLiteral("green"),
-         tableColours()},
-        {QStringLiteral("wren/settings/recordingTableColor"), "Colour while recording", QStringLiteral("orange"),
-         tableColours()},
-        {QStringLiteral("wren/settings/memoryTableColor"), "Colour of the memory mode", QStringLiteral("skyblue"),
-         tableColours()},
-        {QStringLiteral("alert/wren/multiheadlockalert"), "Ask before locked heads are changed", true},
+        number("wren/table/interval", "Interval of the table in ms", 50, 60000),
+        choice("wren/settings/recreadyTableColor", "Colour while ready", tableColours()),
+        choice("wren/settings/recordingTableColor", "Colour while recording", tableColours()),
+        choice("wren/settings/memoryTableColor", "Colour of the memory mode", tableColours()),
+        box("alert/wren/multiheadlockalert", "Ask before locked heads are changed"),
     };
 }
 

@@ -10,14 +10,16 @@ struct PreferenceChoice {
     const char* label = nullptr;
 };
 
-/// A preference that the user can set.
+/// A preference that the user can set. What it is until then is the factory's.
 struct PreferenceField {
-    /// Shown and stored as what `fallback` is: a box for a bool, a number, a text, or one of `choices` where there are
-    /// any. `fallback` is also the value of a key that nobody has written.
+    enum Editor { Box, Number, Text, Choice };
+
     QString key;
     const char* label = nullptr;
-    QVariant fallback;
+    Editor editor = Text;
+    /// Of a choice.
     QList<PreferenceChoice> choices = {};
+    /// Of a number.
     int lowest = 0;
     int highest = 0;
 };

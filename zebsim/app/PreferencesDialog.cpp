@@ -1,5 +1,6 @@
 #include "PreferencesDialog.h"
 
+#include "DialogButtons.h"
 #include "PreferencePages.h"
 #include "UiText.h"
 #include "host/Preferences.h"
@@ -24,15 +25,10 @@ PreferencesDialog::PreferencesDialog(Preferences& prefs, QWidget* parent)
     connect(m_titles, &QListWidget::currentRowChanged, m_pages, &QStackedWidget::setCurrentIndex);
     m_titles->setCurrentRow(0);
     m_titles->setFixedWidth(m_titles->sizeHintForColumn(0) + 4 * fontMetrics().averageCharWidth());
-    auto* buttons = new QDialogButtonBox(this);
-    buttons->addButton(uiText("OK"), QDialogButtonBox::AcceptRole);
-    buttons->addButton(uiText("Cancel"), QDialogButtonBox::RejectRole);
-    connect(buttons, &QDialogButtonBox::accepted, this, &PreferencesDialog::accept);
-    connect(buttons, &QDialogButtonBox::rejected, this, &PreferencesDialog::reject);
     auto* layout = new QGridLayout(this);
     layout->addWidget(m_titles, 0, 0);
     layout->addWidget(m_pages, 0, 1);
-    layout->addWidget(buttons, 1, 0, 1, 2);
+    layout->addWidget(addOkCancel(*this), 1, 0, 1, 2);
     layout->setColumnStretch(1, 1);
 }
 
@@ -52,7 +48,7 @@ QWidget* PreferencesDialog::makePage(const PreferencePage& page) {
 }
 
 void PreferencesDialog::addEditor(QFormLayout& form, const PreferenceField& field) {
-    const QVariant value = m_prefs.value(field.key, field.fallback);
+    const QVariant value = m_prefs.value(field.key);
     Reader reader;
     QWidget* editor = makeEditor(field, value, reader);
     editor->setObjectName(field.key);
@@ -66,25 +62,29 @@ void PreferencesDialog::addEditor(QFormLayout& form, const PreferenceField& fiel
 }
 
 QWidget* PreferencesDialog::makeEditor(const PreferenceField& field, const QVariant& value, Reader& reader) {
-    if (!field.choices.isEmpty()) {
-        auto* box = new QComboBox(this);
-        for (const PreferenceChoice& choice : field.choices) box->addItem(uiText(choice.label), choice.value);
-        box->setCurrentIndex(box->findData(value));
-        reader = [box] { return box->currentData(); };
-        return box;
-    }
-    if (field.fallback.type() == QVariant::Bool) {
-        auto* box = new QCheckBox(this);
-        box->setChecked(value.toBool());
-        reader = [box] { return box->isChecked(); };
-        return box;
-    }
-    if (field.fallback.type() == QVariant::Int) {
-        auto* box = new QSpinBox(this);
-        box->setRange(field.lowest, field.highest);
-        box->setValue(value.toInt());
-        reader = [box] { return box->value(); };
-        return box;
+    switch (field.editor) {
+        case PreferenceField::Box: {
+            auto* box = new QCheckBox(this);
+            box->setChecked(value.toBool());
+            reader = [box] { return box->isChecked(); };
+            return box;
+        }
+        case PreferenceField::Number: {
+            auto* box = new QSpinBox(this);
+            box->setRange(field.lowest, field.highest);
+            box->setValue(value.toInt());
+            reader = [box] { return box->value(); };
+            return box;
+        }
+        case PreferenceField::Choice: {
+            auto* box = new QComboBox(this);
+            for (const PreferenceChoice& choice : field.choices) box->addItem(uiText(choice.label), choice.value);
+            box->setCurrentIndex(box->findData(value));
+            reader = [box] { return box->currentData(); };
+            return box;
+        }
+        case PreferenceField::Text:
+            break;
     }
     auto* line = new QLineEdit(value.toString(), this);
     reader = [line] { return line->text(); };

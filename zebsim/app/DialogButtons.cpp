@@ -1,0 +1,15 @@
+#include "DialogButtons.h"
+
+#include "UiText.h"
+
+#include <QDialog>
+#include <QDialogButtonBox>
+
+QDialogButtonBox* addOkCancel(QDialog& dialog) {
+    auto* buttons = new QDialogButtonBox(&dialog);
+    buttons->addButton(uiText("OK"), QDialogButtonBox::AcceptRole);
+    buttons->addButton(uiText("Cancel"), QDialogButtonBox::RejectRole);
+    QObject::connect(buttons, &QDialogButtonBox::accepted, &dialog, &QDialog::accept);
+    QObject::connect(buttons, &QDialogButtonBox::rejected, &dialog, &QDialog::reject);
+    return buttons;
+}

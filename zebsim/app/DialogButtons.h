@@ -1,0 +1,7 @@
+#pragma once
+
+class QDialog;
+class QDialogButtonBox;
+
+/// Buttons that accept and reject `dialog`, in the user's language; the caller lays them out.
+QDialogButtonBox* addOkCancel(QDialog& dialog);
