@@ -17,6 +17,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMetaProperty>
+#include <QPlainTextEdit>
 #include <QProgressDialog>
 #include <QSpinBox>
 #include <QTableWidget>
@@ -133,6 +134,41 @@ TEST_F(Dialogs, ShowAddressesAndRefuseOneThatIsNone) {
     });
     host.openPrefsEthernetSettings();
     EXPECT_EQ(pref("cameraconnection/SearchIP"), "10.0.7");
+}
+
+TEST_F(Dialogs, GiveACameraItsNameAndComment) {
+    const auto edit = [&](const std::function<void(QDialog&)>& end) {
+        next([&](QDialog& dialog) {
+            dialog.findChild<QLineEdit*>("name")->setText("Gate");
+            dialog.findChild<QPlainTextEdit*>("comment")->setPlainText("left\nlens");
+            end(dialog);
+        });
+        host.docManager().editDoc(1);
+    };
+    const auto name = [&] { return host.cameras().find(1)->name().toStdString(); };
+    edit([](QDialog& dialog) { dialog.reject(); });
+    EXPECT_EQ(name(), "Camera 1");
+    edit([](QDialog& dialog) { dialog.accept(); });
+    EXPECT_EQ(name(), "Gate");
+    EXPECT_EQ(host.cameras().find(1)->get(&CameraState::comment), "left{Separator}lens");
+    edit([&](QDialog& dialog) {
+        host.setRig(Rig::standard(1));
+        EXPECT_FALSE(dialog.isVisible());
+        dialog.reject();
+    });
+    EXPECT_EQ(name(), "Camera 1") << "another camera has the key now";
+    edit([&](QDialog& dialog) {
+        host.docManager().deleteAllDocs(0, 0);
+        dialog.accept();
+    });
+    host.cameras().search({});
+    EXPECT_EQ(name(), "Camera 1") << "it was forgotten";
+    edit([&](QDialog& dialog) {
+        host.faults().plant(1, "*", {{}, 0, true});
+        simulator.window().images().showNow();
+        EXPECT_FALSE(dialog.isVisible()) << "it has vanished";
+        dialog.reject();
+    });
 }
 
 TEST_F(Dialogs, NameThePluginInTheAboutBox) {

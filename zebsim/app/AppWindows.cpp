@@ -1,6 +1,7 @@
 #include "AppWindows.h"
 
 #include "AboutDialog.h"
+#include "CameraDialog.h"
 #include "CameraView.h"
 #include "CameraWindow.h"
 #include "CameraWindows.h"
@@ -58,6 +59,17 @@ void AppWindows::openAbout() {
     run(new AboutDialog(m_pluginFile, m_host.getMainWindow()));
 }
 
+void AppWindows::editCamera(DOCKEY key) {
+    const Camera* camera = m_host.cameras().find(key);
+    if (camera == nullptr) return;
+    auto* dialog = new CameraDialog(m_host.cameras(), *camera, m_host.getMainWindow());
+    // Another camera may bear the key from now on.
+    QObject::connect(&m_host.events(), &HostEvents::camerasReplaced, dialog, &CameraDialog::reject);
+    // Updates may be held back for as long as it stands.
+    QObject::connect(&m_images, &CameraWindows::shown, dialog, &CameraDialog::follow);
+    run(dialog);
+}
+
 int AppWindows::run(QDialog* dialog) {
     // The dialog goes with the main window, which may be destroyed while it stands.
     const QPointer<QDialog> standing = dialog;
@@ -78,14 +90,15 @@ QImage AppWindows::currentImage() const {
     return drawFrame(frame, frame.resolution);
 }
 
+// With `addHostState` this writes what `supportFileContents` has promised the user.
 void AppWindows::addToSupportFile(ZebSupportFile& file) const {
     file.files.insert(QStringLiteral("operation.log"), m_log.since(0).join(QLatin1Char('\n')).toUtf8());
     if (QWidget* window = m_host.getMainWindow())
         file.files.insert(QStringLiteral("viewer.png"), pngOf(window->grab().toImage()));
     for (PLG_Interface* plugin : m_host.appStatus().plugins()) {
-        QDialog* dialog = plugin->getDialog(false);
-        if (dialog != nullptr && dialog->isVisible())
-            file.files.insert(plugin->getName() % QStringLiteral(".png"), pngOf(dialog->grab().toImage()));
+        if (plugin->isDialogVisible())
+            file.files.insert(plugin->getName() % QStringLiteral(".png"),
+                              pngOf(plugin->getDialog(false)->grab().toImage()));
     }
     const QImage image = currentImage();
     if (!image.isNull()) file.files.insert(QStringLiteral("image.png"), pngOf(image));

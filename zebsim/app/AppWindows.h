@@ -2,6 +2,7 @@
 
 #include "DropDownBoxes.h"
 #include "ZebPrefsDialog.h"
+#include "ZebTypes.h"
 #include "host/AppDesk.h"
 
 class CameraWindows;
@@ -18,6 +19,8 @@ public:
     AppWindows(const AppWindows&) = delete;
     AppWindows& operator=(const AppWindows&) = delete;
 
+    /// Name and comment of a camera. Left when the camera goes, or when others take its place.
+    void editCamera(DOCKEY key);
     /// The plug-in's file; empty for none.
     void setPluginFile(const QString& path) { m_pluginFile = path; }
 

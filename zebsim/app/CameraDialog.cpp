@@ -1,16 +1,19 @@
 #include "CameraDialog.h"
 
+#include "DialogButtons.h"
 #include "UiText.h"
 #include "camera/Camera.h"
+#include "host/CameraBank.h"
 
 #include <QDialogButtonBox>
 #include <QFormLayout>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 
-CameraDialog::CameraDialog(Camera& camera, QWidget* parent)
+CameraDialog::CameraDialog(const CameraBank& cameras, const Camera& camera, QWidget* parent)
     : QDialog(parent),
-      m_camera(camera),
+      m_cameras(cameras),
+      m_key(camera.key()),
       m_name(new QLineEdit(camera.name(), this)),
       m_comment(new QPlainTextEdit(this)) {
     setWindowTitle(uiText("Camera"));
@@ -19,19 +22,22 @@ CameraDialog::CameraDialog(Camera& camera, QWidget* parent)
     m_comment->setPlainText(
         camera.get(&CameraState::comment).replace(QLatin1String(zeb::CommentSeparator), QLatin1String("\n")));
     m_comment->setTabChangesFocus(true);
-    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
-    connect(buttons, &QDialogButtonBox::accepted, this, &CameraDialog::accept);
-    connect(buttons, &QDialogButtonBox::rejected, this, &CameraDialog::reject);
     auto* form = new QFormLayout(this);
     form->addRow(uiText("Name"), m_name);
     form->addRow(uiText("Comment"), m_comment);
-    form->addRow(buttons);
+    form->addRow(addOkCancel(*this));
     m_name->selectAll();
 }
 
 void CameraDialog::accept() {
-    m_camera.set(&CameraState::name, m_name->text());
-    m_camera.set(&CameraState::comment,
-                 m_comment->toPlainText().replace(QLatin1Char('\n'), QLatin1String(zeb::CommentSeparator)));
+    Camera* camera = m_cameras.find(m_key);
+    if (camera == nullptr) return reject();
+    camera->set(&CameraState::name, m_name->text());
+    camera->set(&CameraState::comment,
+                m_comment->toPlainText().replace(QLatin1Char('\n'), QLatin1String(zeb::CommentSeparator)));
     QDialog::accept();
+}
+
+void CameraDialog::follow() {
+    if (m_cameras.find(m_key) == nullptr) reject();
 }

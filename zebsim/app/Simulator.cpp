@@ -1,7 +1,6 @@
 #include "Simulator.h"
 
 #include "AppWindows.h"
-#include "CameraDialog.h"
 #include "CameraWindows.h"
 #include "CommandLine.h"
 #include "ViewerWindow.h"
@@ -36,7 +35,7 @@ Simulator::Simulator(const CommandLine& line) : m_host(m_clock, m_boxes, line.pr
     m_host.setMdiWidget(m_window->mdiArea());
     m_desk = std::make_unique<AppWindows>(m_host, m_log, m_window->images());
     m_window->addDialogs(*m_desk);
-    m_host.docManager().setEditor([this](Camera& camera) { CameraDialog(camera, m_window.get()).exec(); });
+    m_host.docManager().setEditor([this](DOCKEY key) { m_desk->editCamera(key); });
     QObject::connect(m_window.get(), &ViewerWindow::closeAsked, m_window.get(), [this] { quit(); });
     loadPlugin(line);
 }

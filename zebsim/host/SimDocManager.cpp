@@ -159,6 +159,10 @@ void SimDocManager::deselectDoc(DOCKEY key) {
 
 void SimDocManager::setSelectedDocs(const DocKeyList& keys, int mode) {
     m_journal.record("ZebDocManager::setSelectedDocs", {Journal::keyList(keys), mode});
+    selectOnly(keys);
+}
+
+void SimDocManager::selectOnly(const DocKeyList& keys) {
     for (Camera* camera : m_cameras.all()) {
         camera->set(&CameraState::selected, keys.contains(camera->key()));
     }
@@ -210,9 +214,8 @@ void SimDocManager::deleteAllDocs(int kind, int mode) {
 
 void SimDocManager::editDoc(DOCKEY key) {
     m_journal.record("ZebDocManager::editDoc", {key});
-    Camera* camera = m_cameras.find(key);
-    if (camera && m_editor) {
-        m_editor(*camera);
+    if (m_editor && m_cameras.find(key)) {
+        m_editor(key);
     }
 }
 

@@ -28,7 +28,9 @@ public:
     ~SimDocManager() override;
 
     /// What `editDoc` opens; nothing at first. It is called for a camera that is there and runs until it is closed.
-    void setEditor(std::function<void(Camera&)> editor) { m_editor = std::move(editor); }
+    void setEditor(std::function<void(DOCKEY)> editor) { m_editor = std::move(editor); }
+    /// As `setSelectedDocs`, by the host itself.
+    void selectOnly(const DocKeyList& keys);
     /// Forgets all documents and the current one.
     void forgetDocs();
     /// Whether an image tool is the active one or a quick tool that is on.
@@ -90,7 +92,7 @@ private:
     QMutex m_mutex;
     ImageTools m_tools;
     const DocContext m_context;
-    std::function<void(Camera&)> m_editor;
+    std::function<void(DOCKEY)> m_editor;
     /// Documents of this turn of the event loop. None is handed out in a later one, so that whoever keeps one is found
     /// out.
     std::unordered_map<DOCKEY, std::unique_ptr<SimDocument>> m_docs;
