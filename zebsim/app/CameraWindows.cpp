@@ -33,17 +33,8 @@ CameraWindows::CameraWindows(SimHost& host, ImageArea& area) : m_host(host), m_a
     connect(&host.events(), &HostEvents::updateFinished, this, &CameraWindows::follow);
     connect(&area, &QMdiArea::subWindowActivated, this, &CameraWindows::windowActivated);
     connect(&m_timer, &QTimer::timeout, this, &CameraWindows::showNow);
-    // Whoever counts the windows is to find those of the cameras that there are now.
-    host.mdi().setCounter([this](bool visible) {
-        follow();
-        return count(visible);
-    });
     m_timer.start(LeastInterval);
     follow();
-}
-
-CameraWindows::~CameraWindows() {
-    m_host.mdi().setCounter({});
 }
 
 void CameraWindows::follow() {
@@ -101,7 +92,7 @@ void CameraWindows::windowActivated(QMdiSubWindow* window) {
     m_active = window;
     const DOCKEY chosen = static_cast<CameraWindow*>(window)->key();
     if (chosen == m_host.docManager().getCurrentDockey(0)) return;
-    for (Camera* camera : m_host.cameras().all()) camera->set(&CameraState::selected, camera->key() == chosen);
+    m_host.docManager().selectOnly({chosen});
     m_host.updates().request();
 }
 
@@ -137,11 +128,6 @@ std::optional<CameraFrame> CameraWindows::recordedFrame(const Camera& camera, qi
     if (!recording) return std::nullopt;
     if (camera.get(&CameraState::playing)) m_playback.advance(camera.key(), *recording, passed);
     return CameraFrame::recorded(camera.state(), *recording, m_playback.frame(camera.key(), *recording));
-}
-
-int CameraWindows::count(bool visible) const {
-    return int(std::count_if(m_windows.begin(), m_windows.end(),
-                             [visible](const CameraWindow* window) { return !visible || !window->isHidden(); }));
 }
 
 QString CameraWindows::emptyText() const {

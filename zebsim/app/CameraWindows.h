@@ -25,7 +25,6 @@ class CameraWindows : public QObject {
 public:
     /// Both must outlive the object.
     CameraWindows(SimHost& host, ImageArea& area);
-    ~CameraWindows() override;
 
     Playback& playback() { return m_playback; }
     /// Takes over which cameras there are and how they are named and selected.
@@ -34,7 +33,6 @@ public:
     void showNow();
     /// Null when the camera has no window.
     CameraWindow* find(DOCKEY key) const { return m_windows.value(key); }
-    int count(bool visible) const;
 
 Q_SIGNALS:
     /// The windows show their images of now.

@@ -32,7 +32,7 @@ SimHost::SimHost(Clock& clock, MessageDesk& desk, const QString& prefsPath)
       m_cameraOps(m_journal, m_cameras, m_docManager, m_prefs, m_flags),
       m_saver(m_journal, m_flags, [this] { return m_appDesk ? m_appDesk->currentImage() : QImage(); }),
       m_viewOps(m_cameras, m_flags),
-      m_mdi(m_cameras, m_flags),
+      m_mdi(m_cameras, m_appStatus, m_flags),
       m_undo(m_journal) {
     m_translator.load(QStringLiteral("en"));
     if (!m_prefs.problem().isEmpty()) {
@@ -246,8 +246,7 @@ bool SimHost::exportSupportFile(const QString& path, const ZebSupportFile& file)
 
 bool SimHost::hasWrenWindow() const {
     PLG_Interface* wren = m_appStatus.getPlugin(QStringLiteral("wren"));
-    const QDialog* dialog = wren ? wren->getDialog(false) : nullptr;
-    return dialog && dialog->isVisible();
+    return wren && wren->isDialogVisible();
 }
 
 void SimHost::hideSelectBox() {

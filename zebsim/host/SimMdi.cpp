@@ -2,16 +2,14 @@
 
 #include "camera/Camera.h"
 #include "host/CameraBank.h"
+#include "host/SimAppStatus.h"
 #include "host/StatusFlags.h"
 
 #include <algorithm>
 
-int SimMdi::countMdiWindow(bool visible, int /*kind*/) const {
-    if (m_flags.isOn(QStringLiteral("IsNoneWindow"))) {
+int SimMdi::countMdiWindow(bool /*visible*/, int /*kind*/) const {
+    if (m_flags.isOn(QStringLiteral("IsNoneWindow")) || m_appStatus.mode() == zeb::FileMode) {
         return 0;
-    }
-    if (m_counter) {
-        return m_counter(visible);
     }
     const auto cameras = m_cameras.all();
     return int(std::count_if(cameras.begin(), cameras.end(),

@@ -2,27 +2,21 @@
 
 #include "ZebMdi.h"
 
-#include <functional>
-
 class CameraBank;
+class SimAppStatus;
 class StatusFlags;
 
-/// The image windows. A host without an application counts one for each camera that is connected.
+/// The image windows: one for each camera that is connected, none in file mode. None of them is ever hidden.
 class SimMdi : public ZebMdi {
 public:
-    /// Number of windows, or of those that are visible.
-    using Counter = std::function<int(bool visible)>;
+    SimMdi(const CameraBank& cameras, const SimAppStatus& appStatus, const StatusFlags& flags)
+        : m_cameras(cameras), m_appStatus(appStatus), m_flags(flags) {}
 
-    SimMdi(const CameraBank& cameras, const StatusFlags& flags) : m_cameras(cameras), m_flags(flags) {}
-
-    /// Who has the windows; an empty function for nobody.
-    void setCounter(Counter counter) { m_counter = std::move(counter); }
-
-    /// Every window holds an image, so `kind` makes no difference.
+    /// Every window is visible and holds an image, so neither argument makes a difference.
     int countMdiWindow(bool visible, int kind) const override;
 
 private:
     const CameraBank& m_cameras;
+    const SimAppStatus& m_appStatus;
     const StatusFlags& m_flags;
-    Counter m_counter;
 };
