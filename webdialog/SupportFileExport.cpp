@@ -45,6 +45,7 @@ private:
 
 }  // namespace
 
+// The stand-in host writes these in `addHostState` and `AppWindows::addToSupportFile`.
 QStringList supportFileContents(bool cameraLog, bool tableWindow) {
     QStringList contents = {QStringLiteral("- Camera setting values"), QStringLiteral("- ZEB setting values"),
                             QStringLiteral("- ZEB operation log"), QStringLiteral("- SDK operation log")};

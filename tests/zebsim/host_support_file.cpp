@@ -47,6 +47,37 @@ TEST(SupportFile, IsAZipThatAnotherProgramReads) {
     EXPECT_TRUE(file.files.value("calls.json").contains("ZebHost::setPref"));
 }
 
+TEST(SupportFile, HoldsTheLogOfEveryCameraThatKeepsOne) {
+    const QByteArray shipped = contentOf(QStringLiteral(SOURCE_FOLDER "/zebsim/rigs/models.json"));
+    QJsonObject model = QJsonDocument::fromJson(shipped)["models"][0].toObject();
+    QJsonArray models;
+    QJsonArray devices = {
+        QJsonObject{{"address", "10.0.0.1"}, {"model", "standard"}, {"heads", QJsonArray{QJsonObject()}}}};
+    for (const int function : {158, 176}) {
+        const QString name = QStringLiteral("logs %1").arg(function);
+        model["name"] = name;
+        model["functions"] = QJsonArray{function};
+        models.append(model);
+        devices.append(QJsonObject{{"address", QStringLiteral("10.0.0.%1").arg(function)},
+                                   {"model", name},
+                                   {"heads", QJsonArray{QJsonObject{{"alerts", QJsonArray{"It is hot"}}}}}});
+    }
+    QTemporaryDir folder;
+    const auto write = [&folder](const char* name, const QJsonObject& object) {
+        QFile file(folder.filePath(name));
+        file.open(QIODevice::WriteOnly);
+        file.write(QJsonDocument(object).toJson());
+        return file.fileName();
+    };
+    write("m.json", {{"models", models}});
+    TestHost test(Rig::fromFile(write("r.json", {{"models", "m.json"}, {"devices", devices}})));
+    ZebSupportFile file;
+    test.host.prepareSupportFile(file);
+    EXPECT_EQ(file.files.keys().filter("camera-"), QStringList({"camera-2.log", "camera-3.log"}));
+    EXPECT_TRUE(file.files.value("camera-3.log").contains("10.0.0.176"));
+    EXPECT_TRUE(file.files.value("camera-3.log").contains("It is hot"));
+}
+
 TEST(SupportFile, LeavesNothingBehindWhereItCannotBeWritten) {
     ZebSupportFile file;
     file.files.insert(QStringLiteral("a.txt"), "a");

@@ -109,12 +109,38 @@ QByteArray versions() {
         .toUtf8();
 }
 
+bool keepsLog(const Camera& camera) {
+    const QSet<int>& functions = camera.model().functions;
+    return functions.contains(zeb::FunctionCameraLog) || functions.contains(zeb::FunctionCameraLogFile);
+}
+
+/// What the camera tells of itself.
+QByteArray cameraLog(const Camera& camera) {
+    const CameraState state = camera.state();
+    QStringList lines = {
+        QStringLiteral("Camera: %1, %2, %3").arg(state.name, camera.model().name, camera.device().address()),
+        QStringLiteral("Status: %1, record state %2, %3")
+            .arg(state.status)
+            .arg(state.recordState)
+            .arg(state.connected ? QLatin1String("connected") : QLatin1String("not connected"))};
+    for (const QString& alert : state.alerts) {
+        lines.append(QStringLiteral("Alert: ") % alert);
+    }
+    return lines.join(QLatin1Char('\n')).toUtf8() + '\n';
+}
+
 }  // namespace
 
+// With `AppWindows::addToSupportFile` this writes what `supportFileContents` has promised the user.
 void addHostState(ZebSupportFile& file, const SimHost& host) {
     file.files.insert(QStringLiteral("cameras.json"), cameraStates(host));
     file.files.insert(QStringLiteral("preferences.txt"), preferences(host.prefs()));
     file.files.insert(QStringLiteral("calls.json"), jsonOf(QJsonArray::fromVariantList(host.journal().since(0))));
+    for (const Camera* camera : host.cameras().all()) {
+        if (keepsLog(*camera)) {
+            file.files.insert(QStringLiteral("camera-%1.log").arg(camera->key()), cameraLog(*camera));
+        }
+    }
     file.files.insert(QStringLiteral("machine.txt"), machine());
     file.files.insert(QStringLiteral("version.txt"), versions());
 }
@@ -127,7 +153,7 @@ bool writeSupportFile(const QString& path, const ZebSupportFile& file) {
         }
         close(archive);
         return true;
-    } catch (const std::runtime_error& e) {
+    } catch (const std::exception& e) {
         qCritical("The support file %s can't be written: %s", qUtf8Printable(path), e.what());
         return false;
     }
