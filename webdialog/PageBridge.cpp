@@ -32,7 +32,10 @@ void PageBridge::afterCalls(const std::function<void()>& action) {
 
 void PageBridge::runAfterCalls() {
     if (isInCall()) return;  // the end of that call comes back here
-    // An action may destroy the bridge: nothing of it is touched behind this line.
+    // An action may destroy the bridge, and with it what the others were to act on.
+    const QPointer<PageBridge> alive(this);
     const QList<std::function<void()>> actions = std::exchange(m_afterCalls, {});
-    for (const std::function<void()>& action : actions) action();
+    for (const std::function<void()>& action : actions) {
+        if (alive) action();
+    }
 }
