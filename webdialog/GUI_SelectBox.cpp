@@ -16,6 +16,8 @@
 #include <QWebFrame>
 #include <QWebPage>
 
+#include <utility>
+
 namespace {
 
 constexpr float Opacity = 0.9F;
@@ -89,8 +91,10 @@ void GUI_SelectBox::onLoadFinish(bool ok) {
     bridgeCall(*m_bridge, [&] {
         m_pageLoaded = ok;
         onUpdate();
-        if (m_wantVisible) fill();
-        setVisible(m_wantVisible);
+        // A list that can't be read is not shown, and so not wanted any more.
+        const bool wanted = std::exchange(m_wantVisible, false);
+        if (wanted) fill();
+        setVisible(wanted);
     });
 }
 

@@ -90,6 +90,7 @@ void JS_Mediator_SelectBox::slotNotifyPartition(const QString& value) {
         DOC_Interface* doc = currentCamera(host());
         if (!doc) return;
         const PARTITIONNUMBER number = value.toUInt();
+        if (number < 1) return;
         if (number <= doc->control().getPartitionCount(0, 0))
             choosePartition(number);
         else if (host().isLiveMode())
