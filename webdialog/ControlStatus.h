@@ -4,6 +4,10 @@ class DOC_Interface;
 class QJsonObject;
 class ZebHost;
 
+// Rooms that a new state also goes through: who answers it (hostapi, zebsim/host and its switch there, the fakes in
+// tests/webdialog), its name for scripts (zebsim/pages), the controls that it rules (pages), the tables of the tests
+// (tests/webdialog, tests/pages).
+
 /// The states of the application by which pages enable and disable their controls, each under its name.
 /// `doc` null stands for the current document. Throws what the host and the document throw.
 QJsonObject controlStatus(ZebHost& host, DOC_Interface* doc = nullptr);

@@ -6,6 +6,8 @@
 
 class ZebHost;
 
+// For the bridges of export dialogs, through `JS_Mediator`; the table exports nothing by itself.
+
 /// How an export may thin out the frames it writes: bounds of the distance between two of them and, by time, the
 /// distances on offer. In frames, or in milliseconds by time.
 struct FrameSkip {
