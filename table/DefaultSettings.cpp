@@ -18,7 +18,7 @@ QString listText(const ZebHost& host, const char* name) {
 
 template <typename... Words>
 void log(const Words&... words) {
-    (qInfo() << "loadDefaultSettings" << ... << words);
+    ((qInfo() << "loadDefaultSettings") << ... << words);
 }
 
 }  // namespace
