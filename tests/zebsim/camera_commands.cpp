@@ -171,7 +171,18 @@ TEST_F(MixedCameras, AHeadThatRecordsKeepsItsLock) {
         test.camera(1).change({{QStringLiteral("recordState"), state}, {QStringLiteral("locked"), true}});
         test.doc(1)->lock().setParamLock(false);
         EXPECT_EQ(test.doc(1)->lock().isParamLocked(), state >= 2) << state;
+        test.doc(1)->lock().setParamLock(true);
+        EXPECT_TRUE(test.doc(1)->lock().isParamLocked()) << state;
     }
+}
+
+TEST_F(MixedCameras, DocumentsLiveForOneTurnOfTheEventLoop) {
+    test.docs({1, 2, 3});
+    EXPECT_EQ(test.doc(1), test.doc(1));
+    EXPECT_EQ(test.host.docManager().handedOut(), 3u);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(test.host.docManager().handedOut(), 0u);
+    EXPECT_EQ(test.doc(1)->getKey(), 1u);
 }
 
 TEST_F(MixedCameras, ChangeBehindTheBackIsAllOrNothing) {

@@ -19,7 +19,10 @@ SimDocManager::SimDocManager(ZebHost& host, Journal& journal, CameraBank& camera
                                                                                                           prefs,
                                                                                                           appStatus,
                                                                                                           translator,
-                                                                                                          *this} {}
+                                                                                                          *this} {
+    m_endOfTurn.setSingleShot(true);
+    QObject::connect(&m_endOfTurn, &QTimer::timeout, &m_endOfTurn, [this] { m_docs.clear(); });
+}
 
 SimDocManager::~SimDocManager() = default;
 
@@ -53,7 +56,8 @@ DOC_Interface* SimDocManager::getCurrentDoc() {
 }
 
 bool SimDocManager::isCurrentDoc(DOCKEY key) const {
-    return key != zeb::NoDocKey && key == currentKey();
+    const Camera* camera = m_cameras.find(key);
+    return camera && camera->get(&CameraState::selected) && key == currentKey();
 }
 
 DOCKEY SimDocManager::currentKey() const {

@@ -31,6 +31,8 @@ public:
     void setEditor(std::function<void(DOCKEY)> editor) { m_editor = std::move(editor); }
     /// As `setSelectedDocs`, by the host itself.
     void selectOnly(const DocKeyList& keys);
+    /// Documents handed out in this turn of the event loop.
+    std::size_t handedOut() const { return m_docs.size(); }
     /// Forgets all documents and the current one.
     void forgetDocs();
     /// Whether an image tool is the active one or a quick tool that is on.
