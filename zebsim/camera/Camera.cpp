@@ -6,6 +6,7 @@
 #include "recording/Clock.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace {
 
@@ -165,7 +166,8 @@ void Camera::setTriggerMode(int mode, const zeb::TriggerSettings& settings) {
         refuse(QStringLiteral("the trigger mode is not supported"));
     }
     for (const auto& head : m_device.heads()) {
-        const double before = std::clamp(double(settings.manualBeforePercent), 0.0, 100.0);
+        const double asked = settings.manualBeforePercent;
+        const double before = std::isfinite(asked) ? std::clamp(asked, 0.0, 100.0) : 0.0;
         const unsigned int capacity = model().frameCapacity(head->get(&CameraState::resolution));
         head->set(&CameraState::triggerMode, mode);
         head->set(&CameraState::triggerFrame, int(capacity * (100.0 - before) / 100.0));

@@ -1,6 +1,7 @@
 #include "camera/CameraModel.h"
 
 #include <algorithm>
+#include <limits>
 
 unsigned int CameraModel::acceptedRate(unsigned int rate) const {
     if (rates.contains(rate)) {
@@ -46,5 +47,6 @@ void CameraModel::check(const CameraState& state) const {
 
 unsigned int CameraModel::frameCapacity(const QSize& resolution) const {
     const qint64 frameBytes = qint64(resolution.width()) * resolution.height();
-    return frameBytes > 0 ? static_cast<unsigned int>((qint64(memory) << 20) / frameBytes) : 0;
+    const qint64 most = std::numeric_limits<int>::max();
+    return frameBytes > 0 ? static_cast<unsigned int>(std::min(most, (qint64(memory) << 20) / frameBytes)) : 0;
 }

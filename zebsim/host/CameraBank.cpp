@@ -66,6 +66,8 @@ void CameraBank::forgetAll() {
         for (const auto& head : device->heads()) {
             head->set(&CameraState::connected, false);
             head->set(&CameraState::selected, false);
+            head->set(&CameraState::locked, false);
+            head->set(&CameraState::recordCheck, false);
         }
     }
 }

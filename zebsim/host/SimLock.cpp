@@ -18,7 +18,7 @@ void SimLock::setParamLock(bool lock) {
     m_context.journal.record("DOC_Lock::setParamLock", {m_camera.key(), lock});
     m_camera.query("setParamLock");
     const int recordState = m_camera.get(&CameraState::recordState);
-    if (recordState != zeb::RecordReady && recordState != zeb::RecordRecording) {
+    if (lock || (recordState != zeb::RecordReady && recordState != zeb::RecordRecording)) {
         m_camera.set(&CameraState::locked, lock);
     }
 }
