@@ -78,7 +78,7 @@ QString CameraManagement::disconnectQuestion(const DocKeyList& keys) const {
     bool anyMultiHead = false;
     for (const DOCKEY key : keys) {
         DOC_Interface* doc = m_host.docManager().getDocAny(key);
-        if (doc == nullptr) {
+        if (doc == nullptr || !doc->isConnected()) {
             continue;
         }
         unlocked += doc->lock().isParamLocked() ? 0 : 1;

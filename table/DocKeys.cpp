@@ -8,9 +8,10 @@ DocKeyList toDocKeys(const QVariantList& keys) {
     DocKeyList docKeys;
     for (const QVariant& key : keys) {
         bool ok = false;
-        const DOCKEY docKey = key.toUInt(&ok);
-        if (ok && docKey != zeb::NoDocKey) {
-            docKeys.append(docKey);
+        // Read wide: the narrow reading cuts a number that is too large down to somebody's key.
+        const qulonglong number = key.toULongLong(&ok);
+        if (ok && number < zeb::NoDocKey) {
+            docKeys.append(DOCKEY(number));
         }
     }
     return docKeys;

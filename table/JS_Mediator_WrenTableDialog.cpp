@@ -179,7 +179,10 @@ bool JS_Mediator_WrenTableDialog::isShownSelectBox() {
 }
 
 QString JS_Mediator_WrenTableDialog::getSearchAddress() {
-    return bridgeCall(*this, QString(), [this] { return CameraManagement(host(), m_state).getSearchAddress(); });
+    return bridgeCall(*this, QString(), [this] {
+        const TraceScope scope(methodName("getSearchAddress"));
+        return CameraManagement(host(), m_state).getSearchAddress();
+    });
 }
 
 void JS_Mediator_WrenTableDialog::searchCamera(const QString& ipAddress) {

@@ -9,6 +9,17 @@
 #include "ZebDocManager.h"
 #include "ZebHost.h"
 
+#include <limits>
+
+namespace {
+
+/// 0 for what is no number.
+int toNumber(const QString& val) {
+    return int(qMin(val.toUInt(), unsigned(std::numeric_limits<int>::max())));
+}
+
+}  // namespace
+
 void ParameterEditing::setParamLock(const DocKeyList& keys, bool lock) {
     if (!m_host.isLiveMode()) {
         return;
@@ -37,7 +48,7 @@ void ParameterEditing::setShutterSpeed(const DocKeyList& keys, const QString& va
     }
     const DocList docs = changeableDocs(m_host, keys, ShutterSpeed);
     if (!docs.isEmpty()) {
-        m_host.cameraOps().setShutterSpeed(docs, shutterFraction(docs, val.toInt()));
+        m_host.cameraOps().setShutterSpeed(docs, shutterFraction(docs, toNumber(val)));
     }
 }
 
@@ -100,7 +111,7 @@ int ParameterEditing::shutterFraction(const DocList& docs, int value) const {
         return value;
     }
     DOC_Interface* doc = docs.size() == 1 ? docs.first() : m_host.docManager().getCurrentDoc();
-    if (doc == nullptr) {
+    if (doc == nullptr || !doc->isConnected()) {
         return value;
     }
     const int index = doc->control().getShutterSpeedList(2).indexOf(value);

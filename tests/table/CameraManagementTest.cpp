@@ -58,6 +58,7 @@ TEST_F(CameraManagementTest, followsACameraThatComesInWhileItRecords) {
     cameras.connect({1, 2}, true, false);
     EXPECT_TRUE(state.recordRunning);
     EXPECT_EQ(calls(), (QStringList{"ZebDocManager::connectDocs [[1,2]]", "DOC_Lock::setParamLock [1,true]"}));
+    EXPECT_TRUE(stateOf(1, "locked").toBool());
 
     host.setPrefBool("wren/display/lock", false);
     change(1, {{"connected", false}});
@@ -71,9 +72,11 @@ TEST_F(CameraManagementTest, followsACameraThatComesInWhileItRecords) {
 TEST_F(CameraManagementTest, asksBeforeDisconnectingByWhatGoesWithIt) {
     connectAll();
     change(2, {{"locked", true}});
+    change(6, {{"connected", false}});
     const std::pair<DocKeyList, QString> cases[] = {
         {{1}, "Disconnect this device. Is it OK?"},
         {{1, 2}, "Disconnect this device. Is it OK?"},
+        {{1, 6, 99}, "Disconnect this device. Is it OK?"},
         {{1, 5}, "Bulk disconnect devices. Is it OK?"},
         {{1, 5, 4}, "Heads connected to the same device are also disconnected. Is it OK?"},
     };
@@ -87,7 +90,7 @@ TEST_F(CameraManagementTest, asksBeforeDisconnectingByWhatGoesWithIt) {
 
     change(4, {{"locked", true}});
     cameras.confirmDisconnect({4});
-    EXPECT_EQ(desk.shown.last(), cases[3].second) << "a locked head counts too";
+    EXPECT_EQ(desk.shown.last(), cases[4].second) << "a locked head counts too";
     desk.shown.clear();
     host.faults().plant(1, "isParamLocked", {"no answer", 0, false});
     EXPECT_FALSE(cameras.confirmDisconnect({1}));

@@ -142,6 +142,9 @@ TEST_F(ParameterEditingTest, sendsAShutterSpeedAsAFraction) {
     EXPECT_TRUE(refused([this] { editing.setShutterSpeed({1, 2}, "200000"); }));
     EXPECT_EQ(calls(), QStringList{"ZebCameraOps::setShutterSpeed [[1,2],200000]"})
         << "several cameras and no current one to look it up in";
+    change(5, {{"connected", false}, {"selected", true}});
+    EXPECT_TRUE(refused([this] { editing.setShutterSpeed({1, 2}, "200000"); })) << "the current one is away";
+    change(5, {{"selected", false}});
     host.docManager().selectDoc(1);
     calls();
     editing.setShutterSpeed({1, 2}, "200000");
@@ -201,7 +204,8 @@ TEST_F(ParameterEditingTest, namesTheCamerasWhoseMemoryIsTooSmallForTheTrigger) 
 }
 
 TEST_F(ParameterEditingTest, readsKeysAsAPageHandsThemOver) {
-    EXPECT_EQ(toDocKeys({"3", 5, 7.0, "", "x", -1, "-1", QVariant()}), (DocKeyList{3, 5, 7}));
+    EXPECT_EQ(toDocKeys({"3", 5, 7.0, "", "x", -1, "-1", "4294967297", 4294967297.0, QVariant()}),
+              (DocKeyList{3, 5, 7}));
 }
 
 }  // namespace
