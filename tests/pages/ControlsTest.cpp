@@ -59,9 +59,12 @@ const State Live = {"", "", ".exec-saving"};
 const State Memory = {"", "address list sync execute devices defaults",
                       ".exec-recording .option-recording #wren_related_settings #wrenBatchLowlightBlock", "false",
                       "wren-table-color-skyblue"};
-const State File = {"", "address list sync execute devices load read apply filter defaults display",
+// There is no window of a camera in file mode.
+const State File = {"",
+                    "address list sync execute devices load read apply filter defaults display "
+                    "record cancel test snapshot live partition save",
                     ".exec-recording .option-recording #wren_related_settings #wrenBatchLowlightBlock .exec-saving "
-                    "#wrenGroupBlock",
+                    "#wrenGroupBlock .partition",
                     "true"};
 
 const char* Armed =
