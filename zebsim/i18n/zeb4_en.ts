@@ -1003,5 +1003,13 @@
         <source>Trigger Parameter</source>
         <translation>Trigger parameter</translation>
     </message>
+    <message>
+        <source>Input IPAddress</source>
+        <translation>Enter three numbers from 0 to 255 for the address.</translation>
+    </message>
+    <message>
+        <source>Batch setting</source>
+        <translation>Set on all</translation>
+    </message>
 </context>
 </TS>

@@ -1003,5 +1003,13 @@
         <source>Trigger Parameter</source>
         <translation>トリガーパラメータ</translation>
     </message>
+    <message>
+        <source>Input IPAddress</source>
+        <translation>アドレスに 0 から 255 までの数字を 3 つ入力してください。</translation>
+    </message>
+    <message>
+        <source>Batch setting</source>
+        <translation>一括設定</translation>
+    </message>
 </context>
 </TS>
