@@ -24,7 +24,7 @@ Object.assign(wrentabledialog_obj, {
     },
 
     setTableTextColor(colour) {
-        if (TABLE_COLOURS[colour]) {
+        if (Object.prototype.hasOwnProperty.call(TABLE_COLOURS, colour)) {
             this.setTextColor(TABLE_COLOURS[colour]);
         }
     },

@@ -16,9 +16,9 @@ COLUMNS.plugin = {
         }
         plugins.forEach(plugin => {
             const icon = iconOf(plugin.name);
-            cell.property(icon, 'checked', plugin.effective);
-            cell.flag(icon, 'disabled', !this.send || !plugin.enable);
-            cell.attribute(icon + ' label', 'cursorDisable', String(status.disabled));
+            cell.property('box ' + icon, 'checked', plugin.effective);
+            cell.flag('box ' + icon, 'disabled', !this.send || !plugin.enable);
+            cell.attribute('label ' + icon, 'cursorDisable', String(status.disabled));
         });
     }
 };
@@ -33,20 +33,22 @@ function drawIcons(cell, key, plugins) {
     cell.parts.icons.textContent = '';
     cell.parts = { icons: cell.parts.icons };
     plugins.forEach(plugin => doAccept(cell, key, iconOf(plugin.name), plugin.name, plugin.okpattern));
+    wrentabledialog_obj.iconsDrawn = true;
 }
 
 // Adds an icon to the cell that has it not yet.
 function doAccept(cell, key, icon, name, isOkPat) {
-    if (cell.parts[icon]) {
+    if (cell.parts['box ' + icon]) {
         return;
     }
     const id = `${icon}_${key}`;
-    const box = cell.parts[icon] = iconPart('input', { type: 'checkbox', id, checked: '', plgName: icon, dockey: key });
+    const box = cell.parts['box ' + icon] = iconPart('input',
+        { type: 'checkbox', id, checked: '', plgName: icon, dockey: key });
     // Such a plug-in changes the images only when its dialog is left by OK.
     if (isOkPat) {
         box.setAttribute('plgPat', 'OK');
     }
-    const label = cell.parts[icon + ' label'] = iconPart('label',
+    const label = cell.parts['label ' + icon] = iconPart('label',
         { class: 'localize', for: id, key: 'p_' + name, plgName: icon, dockey: key });
     label.title = label.textContent = translate('p_' + name);
     const item = iconPart('div', { class: 'item', dockey: key });

@@ -19,6 +19,10 @@ Object.assign(wrentabledialog_obj, {
         } else {
             zeb4func.updateUserOperationLogHandler('#wren-root-block');
         }
+        if (this.iconsDrawn) {
+            this.iconsDrawn = false;
+            zeb4func.updateUserOperationLogHandler('.wren_effect_icons');
+        }
     },
 
     // The reply that is the same text as the last one is that one's data. Null when it is no data at all.

@@ -13,10 +13,12 @@ var wrentabledialog_obj = {
     accordionOpen: false,
     displaySettingDialogResult: false, // the display settings dialog was closed by OK
     tempDisplaySetting: [], // the display settings when that dialog was opened
+    commentOf: null, // the grid and the camera whose comment is being written
     isSnapshotListShown: false,
     isCursorDown: false, // the mouse button is down over a grid
     isRebuilding: false, // a grid's rows are being replaced
     preventSelectGroup: false, // a group button's click is being processed
+    iconsDrawn: false, // icons of plug-ins have come whose use is not logged yet
     isCtsReady: false, // the last record status was CTS ready
     // What the control states make of tabs and colours; `armed` from ready on until the recording has ended.
     look: { tabsOff: false, colour: null, armed: false },

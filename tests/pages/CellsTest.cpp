@@ -117,4 +117,18 @@ TEST(PageCells, ShowTheImagePlugins) {
               QStringList({"true", "true", "true"}));
 }
 
+TEST(PageCells, TakeAnyNameForAPlugin) {
+    TestHost test(Rig::standard(1));
+    connectCameras(test, 1, 1);
+    TablePage page(test, 4);
+    page.run(R"js(
+        views[4].newest.get('1').plugins =
+            ['icons', 'constructor', 'label icons'].map(name => ({ name, effective: true, enable: true }));
+        views[4].tick();
+        return 0;
+    )js");
+    EXPECT_EQ(page.list("$('#wren_plugin_effect_icons_1 > .item > input').get().map(box => box.id + box.checked)"),
+              QStringList({"icons_1true", "constructor_1true", "label icons_1true"}));
+}
+
 }  // namespace
