@@ -125,17 +125,21 @@ Object.assign(wrentabledialog_obj, {
     },
 
     enterLiveLook() {
-        this.look = { tabsOff: false, colour: null, armed: false };
-        this.showGroupBlock();
-        this.moveTo(false, this.activeLiveTabNumber);
-        this.unlockGrids();
+        this.enterTableLook(null, false, this.activeLiveTabNumber);
     },
 
     enterMemoryLook() {
         const colour = wrentabledialog.getPrefString(PREF_KEY_WREN_SETTINGS_TABLE_COLOR_MEMORY);
+        this.enterTableLook(colour, true, this.activeMemoryTabNumber);
+    },
+
+    enterTableLook(colour, memory, tab) {
         this.look = { tabsOff: false, colour, armed: false };
         this.showGroupBlock();
-        this.moveTo(true, this.activeMemoryTabNumber);
+        if (this.gridLock) {
+            this.showFilter(); // in file mode there is none
+        }
+        this.moveTo(memory, tab);
         this.unlockGrids();
     },
 

@@ -4,12 +4,16 @@ Object.assign(wrentabledialog_obj, {
         const filter = document.getElementById('recordFilter');
         filter.value = String(wrentabledialog.getFilter());
         zeb4func.initSumoSelect('#recordFilter', 120, false, false, false, wrentabledialog);
-        zeb4func.selectItemSumoSelect('#recordFilter', wrentabledialog.getFilter());
-        filter.addEventListener('change', () => {
+        this.showFilter();
+        filter.addEventListener('change', () => guarded(() => {
             this.preventSelect = false;
             this.update();
             this.selectAll();
-        });
+        }));
+    },
+
+    showFilter() {
+        zeb4func.selectItemSumoSelect('#recordFilter', wrentabledialog.getFilter());
     },
 
     initializeGroupBox() {
@@ -30,7 +34,7 @@ Object.assign(wrentabledialog_obj, {
         const attributes = { type: 'button', class: 'groupButton', id: 'group_button_' + index, groupkey: group.key,
             value: group.name, 'group-name': group.name, buttonselected: 'false' };
         Object.keys(attributes).forEach(name => button.setAttribute(name, attributes[name]));
-        button.addEventListener('click', () => this.chooseGroup(button));
+        button.addEventListener('click', () => guarded(() => this.chooseGroup(button)));
         return button;
     },
 

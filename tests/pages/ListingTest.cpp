@@ -82,4 +82,17 @@ TEST(PageListing, FollowsTheFilterAndSelectsWhatIsConnected) {
     EXPECT_EQ(test.host.prefs().value("wren/table/filter").toInt(), 0);
 }
 
+TEST(PageListing, KeepsTheFilterThroughFileMode) {
+    TestHost test(Rig::standard(4));
+    connectCameras(test, 2, 3);
+    test.host.prefs().setValue("wren/table/filter", 1);
+    test.host.appStatus().enterMode(zeb::FileMode);
+    TablePage page(test);
+    test.host.appStatus().enterMode(zeb::LiveMode);
+    page.settle();
+    EXPECT_EQ(page.list(Listed), QStringList({"2", "3"}));
+    EXPECT_EQ(page.text("$('#tabs .inTabItems p.CaptionCont').text().trim()"), "Connected");
+    EXPECT_EQ(test.host.prefs().value("wren/table/filter").toInt(), 1);
+}
+
 }  // namespace
