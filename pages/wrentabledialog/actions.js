@@ -1,30 +1,48 @@
 // What the user does in the cells. One listener a kind of event stands on each grid's box, in the capture phase.
 // The rows have no handler of their own, so nothing is bound anew when they are drawn.
 
-// class of a control -> what a click on it does; `keys` are those of the row, or of all rows for the batch row.
+// class of a control -> what a click on it does; `keys` are those of the row, or of all rows for the batch row, and
+// `connected` those of connected rows only.
 const CLICKS = {
     wren_button_connection_connect: (row, cell, keys) => wrentabledialog_obj.disconnectRows(cell, keys),
     wren_button_connection_disconnect: (row, cell, keys) => wrentabledialog_obj.connectRows(cell, keys),
     wren_button_lockStatus_lock: (row, cell, keys) => wrentabledialog_obj.lockRow(cell, keys, false),
     wren_button_lockStatus_unlock: (row, cell, keys) => wrentabledialog_obj.lockRow(cell, keys, true),
-    wren_button_edit_camera_name: row => wrentabledialog_obj.editCamera(row.key)
+    wren_button_edit_camera_name: row => wrentabledialog_obj.editCamera(row.key),
+    reduceON: (row, cell, keys, connected) => wrentabledialog_obj.switchReduceMode(cell, connected, false),
+    reduceOFF: (row, cell, keys, connected) => wrentabledialog_obj.switchReduceMode(cell, connected, true),
+    lowlightON: (row, cell, keys, connected) => wrentabledialog_obj.switchLowLight(cell, connected, true),
+    lowlightOFF: (row, cell, keys, connected) => wrentabledialog_obj.switchLowLight(cell, connected, false)
 };
 
+const SLIDER_KEYS = [33, 34, 35, 36, 37, 38, 39, 40]; // page up and down, end, home, arrows
 const PAINT_MS = 20; // by then the page has drawn what was changed
 
 function listenToGrid(view) {
     const box = view.grid.box;
     box.addEventListener('click', event => onGridClick(view, event), true);
     box.addEventListener('keydown', event => onGridKey(view, event), true);
-    box.addEventListener('mousedown', onGridPress, true);
+    box.addEventListener('dblclick', event => onGridDoubleClick(view, event), true);
+    box.addEventListener('mousedown', event => onGridPress(view, event), true);
     box.addEventListener('mousemove', event => onGridMove(view, event), true);
 }
 
 // A click on a control ends here, so what closes on a click elsewhere is closed beforehand.
-function onGridPress() {
+function onGridPress(view, event) {
     wrentabledialog_obj.isCursorDown = true;
     wrentabledialog_obj.closeFloating();
     document.getElementById('recordFilter').sumo.hideOpts();
+    onGridMove(view, event);
+    const slider = event.button === 0 && sliderUnder(view, event.target);
+    if (slider) {
+        lowLightSlider.hold(view, slider.row, slider.cell, event.target === slider.cell.parts.handle);
+    }
+}
+
+// The row and cell of a low light slider that may be moved; null when `element` belongs to none.
+function sliderUnder(view, element) {
+    const row = element.closest('.wren_slider_lowlight[dockey]:not([disabled])') && view.rowOf(element);
+    return row ? { row, cell: row.cellOf(element) } : null;
 }
 
 function onGridClick(view, event) {
@@ -58,7 +76,8 @@ function useControl(view, row, cell, control) {
     }
     const name = Array.from(control.classList).find(word => CLICKS[word]);
     if (name) {
-        guarded(() => CLICKS[name](row, cell, rowKeys(view, row)));
+        const connected = row === view.batch ? connectedKeys(view) : [row.key];
+        guarded(() => CLICKS[name](row, cell, rowKeys(view, row), connected));
     }
 }
 
@@ -68,8 +87,13 @@ function openList(view, row, cell) {
     dropDown.open(cell, up, value => guarded(() => cell.kind.send(keys, value)));
 }
 
-// Space, Enter and the arrows open the list of the drop-down that has the focus.
+// Space, Enter and the arrows open the list of the drop-down that has the focus. A slider knows its keys by itself.
 function onGridKey(view, event) {
+    const slider = SLIDER_KEYS.includes(event.keyCode) && sliderUnder(view, event.target);
+    if (slider) {
+        lowLightSlider.hold(view, slider.row, slider.cell, false);
+        return;
+    }
     const row = view.rowOf(event.target);
     const cell = row && row.cellOf(event.target);
     const closed = event.target.matches('.SumoSelect[dockey]:not(.disabled)');
@@ -100,6 +124,18 @@ function lockAtOnce(grid, message) {
 
 function rowKeys(view, row) {
     return row === view.batch ? view.grid.records.map(record => record.key) : [row.key];
+}
+
+function connectedKeys(view) {
+    return Array.from(view.newest.values()).filter(record => record.connected).map(record => record.key);
+}
+
+function onGridDoubleClick(view, event) {
+    const row = view.rowOf(event.target);
+    const cell = row && row.cellOf(event.target);
+    if (cell && cell.field === 'comment') {
+        guarded(() => wrentabledialog_obj.editComment(view, row.key));
+    }
 }
 
 Object.assign(wrentabledialog_obj, {
@@ -141,6 +177,17 @@ Object.assign(wrentabledialog_obj, {
     lockRow(cell, keys, lock) {
         cell.swap(lock, 'locked', 'open');
         wrentabledialog.setParamLock(keys, lock);
+    },
+
+    switchReduceMode(cell, keys, on) {
+        cell.swap(on, 'on', 'off');
+        wrentabledialog.setReduceMode(keys, on);
+    },
+
+    // The anchor that stands says what a click makes of it: the first one while the mode is off.
+    switchLowLight(cell, keys, on) {
+        cell.swap(!on, 'on', 'off');
+        wrentabledialog.setLowLight(keys, on);
     },
 
     editCamera(key) {

@@ -39,6 +39,20 @@ Object.assign(wrentabledialog_obj, {
         this.refreshColumnNumber(number);
     },
 
+    // After the user has dragged a column to another place.
+    columnsMoved(number) {
+        this.refreshColumnNumber(number);
+        this.saveColumns(number);
+        this.refreshDisplayElement();
+        this.refreshRecords(number, false);
+    },
+
+    // Hidden columns keep their place too.
+    saveColumns(number) {
+        const fields = views[number].grid.columns.map(column => column.field);
+        wrentabledialog.setPrefString(TABS[number].orderKey, fields.map(field => field + ',').join(''), false);
+    },
+
     refreshColumnNumber(selected) {
         const grid = views[selected].grid;
         const fields = { startFrame: 'selectStartFrameNo', endFrame: 'selectEndFrameNo' };

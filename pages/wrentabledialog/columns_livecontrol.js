@@ -26,8 +26,10 @@ function dropDownColumn(options) {
             showChoice(cell, options.value(record), true);
         },
         tick(cell, record, status) {
-            showChoice(cell, options.value(record), false);
-            const disabled = !options.send || options.locked(record) || status.disabled;
+            if (!lowLightSlider.isHeld(cell)) {
+                showChoice(cell, options.value(record), false);
+            }
+            const disabled = options.locked(record) || status.disabled;
             cell.classes('frame', disabled ? 'SumoSelect compact disabled' : 'SumoSelect compact');
             cell.attribute('frame', 'tabindex', disabled ? '-1' : '0');
             cell.flag('select', 'disabled', disabled);
@@ -64,7 +66,8 @@ COLUMNS.shutterSpeed = dropDownColumn({
     word: 'shutterSpeed',
     choices: record => record.shutterSpeeds,
     value: record => record.shutterSpeed,
-    locked: record => Boolean(record.lock)
+    locked: record => Boolean(record.lock),
+    send: (keys, value) => wrentabledialog.setShutterSpeed(keys, value)
 });
 
 COLUMNS.resolution = dropDownColumn({
@@ -72,7 +75,8 @@ COLUMNS.resolution = dropDownColumn({
     word: 'resolution',
     choices: record => record.resolutions.map(text => ({ value: text, name: text })),
     value: record => record.resolution,
-    locked: record => Boolean(record.lock || record.lowLightMode)
+    locked: record => Boolean(record.lock || record.lowLightMode),
+    send: (keys, value) => wrentabledialog.setResolution(keys, value)
 });
 
 COLUMNS.trigger = dropDownColumn({
@@ -80,7 +84,8 @@ COLUMNS.trigger = dropDownColumn({
     word: 'trigger',
     choices: record => record.triggerModes,
     value: record => record.triggerMode,
-    locked: record => Boolean(record.lock || record.lowLightMode)
+    locked: record => Boolean(record.lock || record.lowLightMode),
+    send: (keys, value) => wrentabledialog.setTriggerMode(keys, value)
 });
 
 COLUMNS.reduce = {
@@ -123,30 +128,27 @@ COLUMNS.lowlight = {
         placeSlider(cell, record);
     },
     tick(cell, record, status) {
-        if (record.lowLightMode && cell.differs('slider', 'speed', record.shutterSpeed)) {
+        const disabled = Boolean(record.lock) || status.disabled;
+        const still = disabled || !record.lowLightMode;
+        if (still && lowLightSlider.isHeld(cell)) {
+            lowLightSlider.letGo();
+        }
+        const free = record.lowLightMode && !lowLightSlider.isHeld(cell);
+        if (free && cell.differs('slider', 'speed', record.shutterSpeed)) {
             placeSlider(cell, record);
         }
-        const disabled = Boolean(record.lock) || status.disabled;
         cell.classes('wrapper', record.lowLightMode ? 'flexWrapper wren-lowlight-status' : 'flexWrapper');
         cell.swap(!record.lowLightMode, 'on', 'off');
         cell.flag('on', 'disabled', disabled);
         cell.flag('off', 'disabled', disabled);
-        cell.flag('slider', 'disabled', disabled || !record.lowLightMode);
+        cell.flag('slider', 'disabled', still);
+        cell.attribute('handle', 'tabindex', still ? '-1' : '0');
     }
 };
 
-// The slider runs against the list of speeds; a speed that is not in the list leaves it at its right end.
 function placeSlider(cell, record) {
-    const speeds = record.shutterSpeeds || [];
-    const max = Math.max(speeds.length - 1, 0);
-    let index = speeds.length - 1;
-    while (index >= 0 && speeds[index].value !== record.shutterSpeed) {
-        index--;
-    }
-    const value = Math.min(max - index, max);
     cell.differs('slider', 'speed', record.shutterSpeed);
-    cell.text('result', String(value));
-    cell.attribute('handle', 'style', `margin-left: calc(${max > 0 ? value * 100 / max : 0}% - 5px)`);
+    showSlider(cell, sliderValue(record), sliderMax(record));
 }
 
 // A translated text inside markup.

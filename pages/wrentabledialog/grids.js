@@ -23,7 +23,10 @@ Object.assign(wrentabledialog_obj, {
             onSelect: (event) => this.onSelect(tab, event),
             onUnselect: (event) => this.onUnselect(tab, event),
             onClick: (event) => this.clickRecordFunc(tab, event),
-            onDblClick: (event) => event.preventDefault()
+            onDblClick: (event) => event.preventDefault(),
+            onColumnDragEnd: (event) => {
+                event.onComplete = () => this.columnsMoved(tab.number);
+            }
         });
         const view = new GridView(grid, tab, () => this.closeFloating());
         grid.render(document.getElementById(tab.gridName));
@@ -53,6 +56,7 @@ Object.assign(wrentabledialog_obj, {
     // What floats over a row and does not move with it.
     closeFloating() {
         dropDown.close();
+        lowLightSlider.letGo();
         closeTip();
     },
 

@@ -7,7 +7,7 @@ Object.assign(wrentabledialog_obj, {
         $('#btn-save li a').on('click', event => {
             window.setTimeout(() => event.currentTarget.classList.remove('active'), 10);
         });
-        $('.miscfuncs > button').on('click', event => this.toggleMenu(event.currentTarget));
+        $('.miscfuncs > button').on('click', event => guarded(() => this.toggleMenu(event.currentTarget)));
         $('#btn-recording_partition').on('click', event => guarded(() => this.showPartitions(event.currentTarget)));
     },
 
@@ -47,6 +47,13 @@ Object.assign(wrentabledialog_obj, {
 
     isShownSelectBox() {
         return this.isSnapshotListShown || wrentabledialog.isShownSelectBox();
+    },
+
+    // The box of partitions hides by itself too.
+    removeIdleDummy() {
+        if (!this.isShownSelectBox()) {
+            zeb4func.removeDummy();
+        }
     },
 
     appendDummy() {

@@ -4,6 +4,10 @@ Object.assign(wrentabledialog_obj, {
         textTip('#wrenGroupBox', '.groupButton', button => button.getAttribute('group-name'));
         onClick('#wren_io_setting', () => wrentabledialog.openPrefsDialog('s_io'));
         onClick('#wren_ethernet_setting', () => wrentabledialog.openPrefsEthernetSettings());
+        onClick('#wrenBatchLowlightBlock_ON', () => wrentabledialog.setLowLight([], true));
+        onClick('#wrenBatchLowlightBlock_OFF', () => wrentabledialog.setLowLight([], false));
+        this.initializeCameraManagementContainer();
+        this.initializeCommentDialog();
         this.initializeMenus();
     },
 
@@ -108,9 +112,7 @@ Object.assign(wrentabledialog_obj, {
 
         const partition = document.getElementById('recording_partition');
         setStyle(partition, 'display', 'inline');
-        if (!this.isShownSelectBox()) {
-            zeb4func.removeDummy();
-        }
+        this.removeIdleDummy();
         setText(partition, wrentabledialog.getCurrentPartitionName());
     }
 });

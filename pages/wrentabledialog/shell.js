@@ -12,7 +12,6 @@ Object.assign(wrentabledialog_obj, {
         this.initializeRecordFilter();
         guarded(() => this.initializeList());
         this.initializeGroupBox();
-        this.refreshCommonParts();
         this.initializeCommonParts();
         this.initializeSaveContainer();
         this.initializeRecordingContainer();
@@ -96,14 +95,6 @@ Object.assign(wrentabledialog_obj, {
         // Else the tab widget's own arrow keys would change the tab.
         header.find('a').get(0).blur();
         header.get(0).blur();
-    },
-
-    // The three fields of the search address; the page shows the last one as ". xxx".
-    refreshCommonParts() {
-        const parts = wrentabledialog.getSearchAddress().split('.');
-        ['livecontrol_ip1', 'livecontrol_ip2', 'livecontrol_ip3'].forEach((id, index) => {
-            document.getElementById(id).value = parts[index] || '';
-        });
     }
 });
 

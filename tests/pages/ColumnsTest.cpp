@@ -58,6 +58,44 @@ TEST(PageColumns, AreHiddenByTheirDisplayKeyAndKeepTheirPlace) {
     EXPECT_EQ(page.text("$('p.wren_livecontrol_framerate[dockey=2]').text()"), "1000 fps");
 }
 
+TEST(PageColumns, AreDraggedToAnotherPlace) {
+    const char* liveOrder = "wren/column_order/livecontrol";
+    TestHost test(Rig::standard(3));
+    connectCameras(test, 1, 3);
+    test.host.prefs().setValue(liveOrder, "lock,cameraName,alert,frameRate,nonsense,trigger,resolution");
+    test.host.prefs().setValue("wren/display/alert", false);
+    TablePage page(test, 1);
+    const auto head = [&page](const char* caption) {
+        return QString("#grid_wren-livecontrol-list_columns td[col=\"%1\"] .w2ui-col-header")
+            .arg(
+                page.number(QString("probe.grid().columns.findIndex(column => column.caption === '%1')").arg(caption)));
+    };
+    const auto dragged = [&](const char* from, const char* to, double share) {
+        page.press(head(from));
+        // The grid takes the column up when the button has been held for a moment.
+        EXPECT_TRUE(page.until("$('body > .w2ui-grid').length === 1"));
+        page.move(head(to), share);
+        page.run("probe.callsBegin(); return 0");
+        page.release();
+        EXPECT_EQ(page.number("probe.callsEnd().filter(call => call[0] === 'getRecords').length"), 1);
+        EXPECT_TRUE(page.until("$('body > .w2ui-grid').length === 0")) << "what was dragged fades away";
+        EXPECT_EQ(page.tick(), QStringList()) << "the stored order is the grid's";
+        return test.host.prefs().value(liveOrder).toString();
+    };
+    EXPECT_EQ(dragged("Trigger mode", "Camera name", 0.2), "lock,trigger,cameraName,alert,frameRate,resolution,")
+        << "a hidden column keeps its place; one that has no place gets none";
+    EXPECT_EQ(page.list("probe.captions()"),
+              QStringList({"Lock", "Trigger mode", "Camera name", "Frame rate", "Resolution"}));
+    EXPECT_EQ(page.list(FirstRow),
+              QStringList({"wren_button_lockStatus_lock", "wren_livecontrol_trigger", "wren_button_edit_camera_name",
+                           "wren_livecontrol_framerate", "wren_livecontrol_resolution"}));
+    EXPECT_EQ(page.number("wrentabledialog_column_obj.triggerColumnNo"), 1);
+    EXPECT_EQ(page.number("wrentabledialog_column_obj.lowlightColumnNo"), -1);
+    EXPECT_EQ(dragged("Lock", "Resolution", 0.9), "trigger,cameraName,alert,frameRate,resolution,lock,");
+    EXPECT_EQ(dragged("Lock", "Lock", 0.6), "trigger,cameraName,alert,frameRate,resolution,lock,");
+    EXPECT_EQ(commands(test, page, [&] { page.pick("2", "trigger", "1"); }).size(), 1) << "its control works";
+}
+
 TEST(PageColumns, ATabThatIsHiddenIsLeft) {
     TestHost test(Rig::standard(1));
     TablePage page(test, 2);

@@ -103,8 +103,16 @@ TEST(PageTick, WritesWhatChangedInTheLiveControl) {
           "$('.wren_button_reduce[dockey=%1]:visible')[0].id",
           "wren_button_reduce_on_6"},
          {"reduce that waits, and so for all", {{"suspendReduce", true}}, {"-1/reduce", "reduce"}, waiting, "2"},
-         {"low light", {{"lowLight", true}}, {"frameRate", "lowlight"}, lowLight, "wren_button_lowlight_off_81"},
-         {"lock", {{"locked", true}}, {"cameraName", "frameRate", "lock", "lowlight", "reduce"}, locked, "7"}});
+         {"low light",
+          {{"lowLight", true}},
+          {"frameRate", "lowlight", "resolution", "trigger"},
+          lowLight,
+          "wren_button_lowlight_off_81"},
+         {"lock",
+          {{"locked", true}},
+          {"cameraName", "frameRate", "lock", "lowlight", "reduce", "resolution", "shutterSpeed", "trigger"},
+          locked,
+          "7"}});
 }
 
 TEST(PageTick, LeavesAnOpenListAlone) {

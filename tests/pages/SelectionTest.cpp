@@ -108,4 +108,36 @@ TEST(PageSelection, FollowsTheMouse) {
     EXPECT_EQ(selectedCameras(test), QStringList({"2", "3", "4"})) << "a range with Shift";
 }
 
+TEST(PageSelection, ARubberBandTakesTheRowsItCrosses) {
+    struct Case {
+        const char* what;
+        QString from;
+        QStringList after;
+    };
+    const auto control = [](const char* id) { return QString("#wren-cameraInfo-list #%1").arg(id); };
+    TestHost test(Rig::standard(6));
+    connectCameras(test, 1, 6);
+    TablePage page(test);
+    for (const Case& c : {
+             Case{"from a row", row(2), {"2", "3", "4"}},
+             Case{"from a lock", control("wren_cameraInfo_button_lockStatus_unlock_2"), {"6"}},
+             Case{"from a comment",
+                  QStringLiteral("#wren-cameraInfo-list tr[recid=\"2\"] .wren_cameraInfo_comment"),
+                  {"6"}},
+         }) {
+        SCOPED_TRACE(c.what);
+        test.camera(2).change({{"comment", "here"}});
+        choose(test, {"6"});
+        page.update();
+        page.press(c.from);
+        page.move(row(4));
+        page.move(row(3));
+        page.move(row(4));
+        page.release();
+        EXPECT_EQ(selectedCameras(test), c.after);
+        EXPECT_EQ(page.list("probe.selected()"), c.after);
+        EXPECT_FALSE(test.camera(2).get(&CameraState::locked));
+    }
+}
+
 }  // namespace

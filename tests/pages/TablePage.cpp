@@ -8,9 +8,11 @@
 #include <QFile>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QRegularExpression>
 #include <QTest>
 #include <QWebFrame>
 #include <QWebView>
+#include <QWindow>
 
 #include <gtest/gtest.h>
 
@@ -91,15 +93,72 @@ void TablePage::update() {
     settle();
 }
 
-void TablePage::click(const QString& selector, Qt::KeyboardModifiers modifiers) {
-    ClickOptions options;
-    options.modifiers = modifiers;
+void TablePage::input(const QString& selector, const ClickOptions& options) {
     try {
         PageInput(view(), [] { return false; }).click(selector, options);
     } catch (const ScenarioError& e) {
         ADD_FAILURE() << e.what();
     }
     settle();
+}
+
+void TablePage::click(const QString& selector, Qt::KeyboardModifiers modifiers) {
+    ClickOptions options;
+    options.modifiers = modifiers;
+    input(selector, options);
+}
+
+void TablePage::doubleClick(const QString& selector) {
+    ClickOptions options;
+    options.twice = true;
+    input(selector, options);
+}
+
+void TablePage::press(const QString& selector) {
+    ClickOptions options;
+    options.part = ClickOptions::PressOnly;
+    input(selector, options);
+}
+
+void TablePage::move(const QString& selector, double share) {
+    const QVariantMap spot = run(QStringLiteral("document.querySelector('%1').getBoundingClientRect()").arg(selector))
+                                 .toObject()
+                                 .toVariantMap();
+    const double x = spot.value("left").toDouble() + share * spot.value("width").toDouble();
+    const double y = spot.value("top").toDouble() + spot.value("height").toDouble() / 2;
+    m_spot = view().mapTo(&window(), QPoint(qRound(x), qRound(y)));
+    QTest::mouseMove(&handle(), m_spot);
+}
+
+void TablePage::release() {
+    QTest::mouseRelease(&handle(), Qt::LeftButton, {}, m_spot);
+    settle();
+}
+
+void TablePage::releaseOutside() {
+    QTest::mouseRelease(&handle(), Qt::LeftButton, {}, QPoint(-50, -50));
+    settle();
+}
+
+void TablePage::type(const QString& text) {
+    typeText(handle(), text);
+    settle();
+}
+
+void TablePage::key(Qt::Key key) {
+    QTest::keyClick(&handle(), key);
+    settle();
+}
+
+void TablePage::pick(const char* key, const char* word, const char* value) {
+    click(QStringLiteral(".SumoSelect[dockey=\"%1\"] p.wren_livecontrol_%2").arg(key, word));
+    const int place = number(
+        QStringLiteral("$('.wren-dropdown option').get().findIndex(option => option.value === '%1')").arg(value));
+    click(QStringLiteral(".wren-dropdown .options li:nth-child(%1)").arg(place + 1));
+}
+
+QWindow& TablePage::handle() {
+    return *window().windowHandle();
 }
 
 QWebView& TablePage::view() {
@@ -112,6 +171,25 @@ void PrintTo(const QString& text, std::ostream* out) {
 
 void PrintTo(const QStringList& list, std::ostream* out) {
     *out << "\n" << list.join(QLatin1Char('\n')).toStdString() << "\n";
+}
+
+QStringList commands(TestHost& test, TablePage& page, const std::function<void()>& work) {
+    const QVariantList calls = test.callsOf([&] {
+        work();
+        page.settle();
+    });
+    // Not what brings the images up to date.
+    const QRegularExpression wanted("^ZebCameraOps::|^DOC_.*::set|Docs$");
+    QStringList lines;
+    for (const QVariant& call : calls) {
+        const QString name = call.toMap().value("call").toString();
+        const QJsonArray args = QJsonArray::fromVariantList(call.toMap().value("args").toList());
+        if (name.contains(wanted)) {
+            lines << name.section("::", 1) + ' ' +
+                         QString::fromUtf8(QJsonDocument(args).toJson(QJsonDocument::Compact));
+        }
+    }
+    return lines;
 }
 
 void choose(TestHost& test, const QStringList& keys) {

@@ -8,6 +8,7 @@
 #include <QJsonArray>
 #include <QJsonValue>
 
+#include <functional>
 #include <ostream>
 
 class QDialog;
@@ -41,13 +42,28 @@ public:
     void update();
     /// A click by the mouse and the update that it asks for.
     void click(const QString& selector, Qt::KeyboardModifiers modifiers = {});
+    void doubleClick(const QString& selector);
+    void press(const QString& selector);
+    /// Moves the mouse, its button as it is, to the middle of an element, or to `share` of its width.
+    void move(const QString& selector, double share = 0.5);
+    /// Lets go of the button where the mouse was moved to, or beyond the edge of the window.
+    void release();
+    void releaseOutside();
+    /// Types into what has the focus, see `typeText`.
+    void type(const QString& text);
+    void key(Qt::Key key);
+    /// Chooses in the drop-down of a row, by its list. `word` ends the name of the class of its select.
+    void pick(const char* key, const char* word, const char* value);
 
     QDialog& window() { return *m_loader.plugin().getDialog(false); }
 
 private:
     QWebView& view();
+    void input(const QString& selector, const ClickOptions& options);
+    QWindow& handle();
 
     TestHost& m_test;
+    QPoint m_spot;
     PluginLoader m_loader;
     PluginSlot m_slot;
 };
@@ -56,6 +72,9 @@ private:
 void choose(TestHost& test, const QStringList& keys);
 /// Connects cameras `first` to `last`.
 void connectCameras(TestHost& test, DOCKEY first, DOCKEY last);
+
+/// The commands to cameras that `work` and the update after it bring about, as "setRecordRate [[1,3],2000]".
+QStringList commands(TestHost& test, TablePage& page, const std::function<void()>& work);
 
 /// A failure shows texts as they read.
 void PrintTo(const QString& text, std::ostream* out);

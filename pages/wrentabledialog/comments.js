@@ -1,0 +1,52 @@
+// The dialog in which a camera's comment is written, or that of all cameras at once.
+Object.assign(wrentabledialog_obj, {
+    initializeCommentDialog() {
+        const box = document.getElementById('wren_comment_textarea');
+        // While it has the keyboard, the host's keys are letters.
+        box.addEventListener('focus', () => wrentabledialog.setTextBoxFocusState(true));
+        box.addEventListener('blur', () => wrentabledialog.setTextBoxFocusState(false));
+        const button = (text, word, work) => ({
+            text: translate(text),
+            class: 'ui-dialog-buttons ' + word,
+            click: () => this.leaveCommentDialog(work)
+        });
+        commentDialog({
+            autoOpen: false,
+            modal: true,
+            resizable: false,
+            draggable: false,
+            width: 'auto',
+            height: 'auto',
+            title: translate('Comment'),
+            buttons: [
+                button('OK', 'ok', () => wrentabledialog.setComment([this.commentOf.key], box.value)),
+                button('Cancel', 'close', () => undefined),
+                button('Batch setting', 'caution', () => {
+                    const keys = this.commentOf.view.grid.records.map(record => record.key);
+                    wrentabledialog.setComment(keys, box.value);
+                })
+            ]
+        });
+    },
+
+    leaveCommentDialog(work) {
+        guarded(work);
+        commentDialog('close');
+    },
+
+    editComment(view, key) {
+        const record = view.newest.get(key);
+        const blocked = wrentabledialog.isOtherPluginOpen() || wrentabledialog.isRecordDuringExporting();
+        if (!record || !record.connected || record.lock || blocked) {
+            return;
+        }
+        closeTip();
+        this.commentOf = { view, key };
+        document.getElementById('wren_comment_textarea').value = record.comments || '';
+        commentDialog('open');
+    }
+});
+
+function commentDialog(option) {
+    return $('#wrentabledialog_comment_dialog').dialog(option);
+}

@@ -1,0 +1,56 @@
+// The panel by which cameras come into the table and go.
+Object.assign(wrentabledialog_obj, {
+    initializeCameraManagementContainer() {
+        octets().forEach(listenToOctet);
+        this.refreshCommonParts();
+        const manage = (button, work) => onClick(button, () => {
+            this.preventSelect = false;
+            work();
+        });
+        manage('#livecontrol_search', () => this.searchByAddress());
+        manage('#livecontrol_discovery', () => wrentabledialog.discoverysearch());
+        manage('#livecontrol_update', () => wrentabledialog.updateCamera());
+        manage('#livecontrol_deleteall', () => wrentabledialog.deleteAllCamera());
+    },
+
+    // The three fields of the search address; the page shows the last one as ". xxx".
+    refreshCommonParts() {
+        const parts = wrentabledialog.getSearchAddress().split('.');
+        octets().forEach((octet, index) => { octet.value = parts[index] || ''; });
+    },
+
+    searchByAddress() {
+        const values = octets().map(octet => octet.value);
+        if (values.every(value => zeb4func.ipCheck(value))) {
+            wrentabledialog.searchCamera(values.concat('0').join('.'));
+        } else {
+            wrentabledialog.alert('Input IPAddress');
+        }
+    }
+});
+
+function octets() {
+    return Array.from(document.querySelectorAll('input.nNumOnly'));
+}
+
+// Takes digits only. Text that was pasted shows for a moment; a number out of the limits goes to the nearer one.
+function listenToOctet(octet) {
+    octet.addEventListener('keypress', event => {
+        const typed = event.charCode >= 32 && !event.ctrlKey && !event.metaKey;
+        if (typed && !/[0-9]/.test(String.fromCharCode(event.charCode))) {
+            event.preventDefault();
+        }
+    });
+    octet.addEventListener('keyup', () => {
+        const digits = octet.value.replace(/[^0-9]/g, '');
+        if (octet.value !== digits) {
+            octet.value = digits;
+        }
+    });
+    octet.addEventListener('change', () => {
+        if (octet.value !== '') {
+            const [min, max] = ['min', 'max'].map(limit => Number(octet.getAttribute(limit)));
+            octet.value = String(Math.min(max, Math.max(min, Number(octet.value) || 0)));
+        }
+    });
+}

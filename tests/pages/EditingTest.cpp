@@ -1,0 +1,144 @@
+#include "TablePage.h"
+
+#include <gmock/gmock.h>
+
+// What goes out when the user changes something in a row, or in the batch row, and what the row shows in the end.
+
+namespace {
+
+/// The calls of the bridge since `callsBegin` that set something, as "setFrameRate 1,3 2000".
+QStringList sent(TablePage& page) {
+    return page.list(
+        "probe.callsEnd().filter(call => /^(set|connect$)/.test(call[0]))"
+        ".map(call => [call[0], call[1][0].join(), String(call[1][1])].join(' '))");
+}
+
+TEST(PageEditing, OneCallForARowAndOneForAll) {
+    TestHost test(Rig::standard(4));
+    connectCameras(test, 1, 3);
+    TablePage page(test, 1);
+    test.camera(2).change({{"locked", true}});
+    page.update();
+    struct Case {
+        std::function<void(const char* key)> act;
+        QString call;       ///< to the bridge; %1 is the keys
+        QString keysOfAll;  ///< that the batch row addresses
+        QString command;    ///< to the cameras; what is not locked gets it
+    };
+    const auto picked = [&](const char* word, const char* value) {
+        return [&page, word, value](const char* key) { page.pick(key, word, value); };
+    };
+    const auto clicked = [&](const char* id) {
+        return [&page, id](const char* key) { page.click(QString("#%1_%2").arg(id, key)); };
+    };
+    const QString rows = "1,2,3,4";
+    const QString connected = "1,2,3";
+    for (const Case& c : QList<Case>{
+             {picked("framerate", "2000"), "setFrameRate %1 2000", rows, "setRecordRate [%1,2000]"},
+             {picked("shutterSpeed", "5000"), "setShutterSpeed %1 5000", rows, "setShutterSpeed [%1,5000]"},
+             {picked("resolution", "512 x 256"), "setResolution %1 512 x 256", rows, "setResolution [%1,512,256]"},
+             {picked("trigger", "2"), "setTriggerMode %1 2", rows, "setTriggerMode [%1,"},
+             {clicked("wren_button_reduce_off"), "setReduceMode %1 true", connected, "setReduceMode [%1,true]"},
+             {clicked("wren_button_reduce_on"), "setReduceMode %1 false", connected, "setReduceMode [%1,false]"},
+             {clicked("wren_button_lowlight_on"), "setLowLight %1 true", connected, "setLowLight [%1,true]"},
+             {clicked("wren_button_lowlight_off"), "setLowLight %1 false", connected, "setLowLight [%1,false]"},
+         }) {
+        SCOPED_TRACE(c.call.toStdString());
+        const auto checkRow = [&](const char* key, const QString& keys, const QString& docs) {
+            page.run("probe.callsBegin(); return 0");
+            const QStringList made = commands(test, page, [&] { c.act(key); });
+            EXPECT_EQ(sent(page), QStringList(c.call.arg(keys)));
+            ASSERT_EQ(made.size(), 1) << made.join('\n').toStdString();
+            EXPECT_THAT(made.first().toStdString(), testing::StartsWith(c.command.arg(docs).toStdString()));
+        };
+        checkRow("1", "1", "[1]");
+        checkRow("-1", c.keysOfAll, "[1,3]");
+    }
+}
+
+TEST(PageEditing, ABatchOfLockedRowsReachesNoCamera) {
+    TestHost test(Rig::standard(2));
+    connectCameras(test, 1, 2);
+    TablePage page(test, 1);
+    for (const DOCKEY key : {1U, 2U}) {
+        test.camera(key).set(&CameraState::locked, true);
+    }
+    // Locked a moment ago: the page has not heard of it.
+    EXPECT_EQ(commands(test, page, [&] { page.pick("-1", "framerate", "2000"); }), QStringList());
+    EXPECT_TRUE(
+        page.run("document.querySelector('.SumoSelect[dockey=\"1\"]').classList.contains('disabled')").toBool());
+}
+
+/// A control that the user touches, and what it must show when the camera did not do as it was told.
+struct Refusal {
+    const char* operation;
+    bool clamped;  ///< by the camera itself, else the operation fails
+    int tab;
+    std::function<void(TablePage& page)> act;
+    const char* shown;
+    QString answer;
+};
+
+TEST(PageEditing, ARefusedChangeShowsWhatTheCameraAnswers) {
+    const auto picked = [](const char* word, const char* value) {
+        return [word, value](TablePage& page) { page.pick("1", word, value); };
+    };
+    const auto clicked = [](const char* selector) { return [selector](TablePage& page) { page.click(selector); }; };
+    const char* low =
+        "$('#wren_slider_lowlight_2').closest('td').find('.slider-result').text() + "
+        "$('p.wren_livecontrol_shutterSpeed[dockey=2]').text()";
+    for (const Refusal& c : QList<Refusal>{
+             {"setRecordRate", false, 1, picked("framerate", "2000"),
+              "$('p.wren_livecontrol_framerate[dockey=1]').text()", "1000 fps"},
+             {"setShutterSpeed", true, 1, picked("shutterSpeed", "500"),
+              "$('p.wren_livecontrol_shutterSpeed[dockey=1]').text()", "1/1000 sec"},
+             {"setResolution", false, 1, picked("resolution", "512 x 256"), "$('#wren_livecontrol_resolution_1').val()",
+              "1024 x 1024"},
+             {"setTriggerMode", false, 1, picked("trigger", "2"), "$('#wren_livecontrol_trigger_1').val()", "0"},
+             {"setReduceMode", false, 1, clicked("#wren_button_reduce_off_1"),
+              "$('.wren_button_reduce[dockey=1]:visible').get().map(one => one.id).join()", "wren_button_reduce_off_1"},
+             {"setLowLight", false, 1, clicked("#wren_button_lowlight_on_1"),
+              "$('.wren_button_lowlight[dockey=1]:visible').get().map(one => one.id).join()",
+              "wren_button_lowlight_on_1"},
+             {"setShutterSpeed", false, 1,
+              [](TablePage& page) {
+                  page.press("#wren_slider_lowlight_2 .ui-slider-handle");
+                  page.move("#wren_slider_lowlight_2", 0.95);
+                  page.releaseOutside();
+              },
+              low, "101/1000 sec"},
+             {"setParamLock", false, 0, clicked("#wren_cameraInfo_button_lockStatus_unlock_1"),
+              "$('#wren-cameraInfo-list [class*=wren_button_lockStatus][dockey=1]:visible')[0].id",
+              "wren_cameraInfo_button_lockStatus_unlock_1"},
+             {"disconnectDocs", false, 0,
+              [](TablePage& page) {
+                  page.click("#wren_button_connection_connect_1");
+                  EXPECT_TRUE(page.until("$('.w2ui-lock:visible').length === 0"));
+              },
+              "$('[id^=wren_button_connection_][dockey=1]:visible')[0].id", "wren_button_connection_connect_1"},
+         }) {
+        SCOPED_TRACE(std::string(c.operation) + (c.clamped ? ", clamped" : ""));
+        TestHost test(Rig::standard(2));
+        connectCameras(test, 1, 2);
+        TablePage page(test, c.tab);
+        test.camera(2).change({{"lowLight", true}});
+        page.update();
+        if (!c.clamped) {
+            Fault fault;
+            fault.throws = "no";
+            test.host.faults().plant(1, c.operation, fault);
+            test.host.faults().plant(2, c.operation, fault);
+        }
+        EXPECT_EQ(page.text(c.shown), c.answer);
+        // The update after the change does not reach the page, so that the tick is what mends the cell.
+        page.run("wrentabledialog_obj.update = () => undefined; return 0");
+        c.act(page);
+        EXPECT_NE(page.text(c.shown), c.answer) << "the user's wish stands for a moment";
+        page.tick();
+        EXPECT_EQ(page.text(c.shown), c.answer);
+        EXPECT_EQ(page.tick(), QStringList());
+        test.desk.shown.clear();
+    }
+}
+
+}  // namespace
