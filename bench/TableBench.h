@@ -1,13 +1,13 @@
 #pragma once
 
-#include <QElapsedTimer>
+#include "BenchHost.h"
+#include "CpuTime.h"
+
 #include <QJsonObject>
 #include <QObject>
 
-class SimHost;
-
-/// Measures the table with a number of cameras, in this process: the real page with the real bridge, on the tab of
-/// the live control. GUI thread.
+/// Measures refreshes and ticks of the table: the real page with the real bridge, on the tab of the live control. GUI
+/// thread.
 class TableBench : public QObject {
     Q_OBJECT
 
@@ -19,21 +19,15 @@ public:
 
 public Q_SLOTS:
     // What the page asks for between two measurements; `run` counts them.
-    /// Milliseconds since the measurement began, with their parts.
-    double now() const { return double(m_clock.nsecsElapsed()) / 1e6; }
+    /// The page's own clock has no parts of a millisecond.
+    double now() const { return cpuTime(); }
     /// Every value that a row shows.
-    void changeAll(int run);
+    void changeAll(int run) { m_cameras.change(1, run); }
     /// The values of one camera in ten.
-    void changeTenth(int run);
-    /// Something that changes the text of the answer, but nothing on the screen.
-    void changeHidden(int run);
-    /// Half of the cameras are gone; the others take their place at the next call.
-    void showOthers(int run);
+    void changeTenth(int run) { m_cameras.change(10, run); }
+    void changeHidden(int run) { m_cameras.changeHidden(run); }
+    void showOthers(int run) { m_cameras.showOthers(run); }
 
 private:
-    void change(int step, int run);
-
-    QElapsedTimer m_clock;
-    const int m_cameras;
-    SimHost* m_host = nullptr;
+    BenchHost m_cameras;
 };
