@@ -39,6 +39,7 @@ void OpenTable::waitForRows(const QString& element) const {
 
 void OpenTable::showLiveControl() const {
     waitForRows(QStringLiteral("cameraInfoTab"));
-    evaluate(QStringLiteral("$('#tabs').tabs('option', 'active', 1)"));
+    // Without a value: the engine would copy the whole document into the answer.
+    evaluate(QStringLiteral("void $('#tabs').tabs('option', 'active', 1)"));
     waitForRows(QStringLiteral("livecontrolTab"));
 }
