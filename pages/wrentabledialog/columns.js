@@ -23,7 +23,7 @@ Object.assign(wrentabledialog_obj, {
 
     isChangedColumns(number) {
         const tab = TABS[number];
-        const columns = views[number].grid.columns;
+        const columns = viewAt(number).grid.columns;
         return this.storedFields(tab, tab.orderKey)
             .filter(field => columns.some(column => column.field === field))
             .some((field, index) => columns[index].field !== field);
@@ -34,8 +34,8 @@ Object.assign(wrentabledialog_obj, {
         if (this.activeTab() !== number) {
             $('#tabs').tabs('option', 'active', number);
         }
-        views[number].grid.columns = this.createColumns(tab.name, tab.orderKey);
-        views[number].grid.refresh();
+        viewAt(number).grid.columns = this.createColumns(tab.name, tab.orderKey);
+        viewAt(number).grid.refresh();
         this.refreshColumnNumber(number);
     },
 
@@ -49,12 +49,12 @@ Object.assign(wrentabledialog_obj, {
 
     // Hidden columns keep their place too.
     saveColumns(number) {
-        const fields = views[number].grid.columns.map(column => column.field);
+        const fields = viewAt(number).grid.columns.map(column => column.field);
         wrentabledialog.setPrefString(TABS[number].orderKey, fields.map(field => field + ',').join(''), false);
     },
 
     refreshColumnNumber(selected) {
-        const grid = views[selected].grid;
+        const grid = viewAt(selected).grid;
         const fields = { startFrame: 'selectStartFrameNo', endFrame: 'selectEndFrameNo' };
         Object.keys(wrentabledialog_column_obj).forEach(name => {
             const stem = name.replace(/ColumnNo$/, '');

@@ -41,6 +41,9 @@ Object.assign(wrentabledialog_obj, {
             return;
         }
         closeTip();
+        if (commentDialog('instance') === undefined) {
+            this.initializeCommentDialog();
+        }
         this.commentOf = { view, key };
         document.getElementById('wren_comment_textarea').value = record.comments || '';
         commentDialog('open');

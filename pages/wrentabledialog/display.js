@@ -37,7 +37,7 @@ Object.assign(wrentabledialog_obj, {
 
     refreshDisplayElement() {
         const active = this.activeTab();
-        const view = views[active];
+        const view = viewAt(active);
         view.together(() => {
             wrentabledialog_const_obj.displaySettingsArray.forEach(key => {
                 const flag = wrentabledialog.getPrefBool(key);

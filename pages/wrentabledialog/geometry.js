@@ -20,7 +20,7 @@ Object.assign(wrentabledialog_obj, {
         setFixed('wren-save-container', height > 80);
         setStyle(document.getElementById('wrenGroupBox'), 'maxWidth', `${Math.max(groupWidth, 0)}px`);
         if (views.length > 0) {
-            views[this.activeTab()].resized();
+            viewAt(this.activeTab()).resized();
         }
     }
 });

@@ -1,12 +1,19 @@
 // The seven grids: how they are made, and what happens to all of them.
 const ROW_HEIGHT = 34;
-const views = []; // tab number -> GridView
+const views = []; // tab number -> GridView, of the tabs that have been in front
+
+// A grid is made when its tab first comes to the front: all seven at once would be half of the page's start.
+function viewAt(number) {
+    if (!views[number]) {
+        const tab = TABS[number];
+        views[number] = guarded(() => wrentabledialog_obj.buildGrid(tab)) || wrentabledialog_obj.standIn(tab);
+    }
+    return views[number];
+}
 
 Object.assign(wrentabledialog_obj, {
     initializeList() {
-        TABS.forEach(tab => {
-            views[tab.number] = guarded(() => this.buildGrid(tab)) || this.standIn(tab);
-        });
+        viewAt(this.activeTab());
     },
 
     buildGrid(tab) {
@@ -50,7 +57,7 @@ Object.assign(wrentabledialog_obj, {
     },
 
     activeGrid() {
-        return views[this.activeTab()].grid;
+        return viewAt(this.activeTab()).grid;
     },
 
     // What floats over a row and does not move with it.

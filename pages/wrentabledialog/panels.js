@@ -7,7 +7,6 @@ Object.assign(wrentabledialog_obj, {
         onClick('#wrenBatchLowlightBlock_ON', () => wrentabledialog.setLowLight([], true));
         onClick('#wrenBatchLowlightBlock_OFF', () => wrentabledialog.setLowLight([], false));
         this.initializeCameraManagementContainer();
-        this.initializeCommentDialog();
         this.initializeMenus();
     },
 

@@ -6,7 +6,7 @@ Object.assign(wrentabledialog_obj, {
         if (!data) {
             return;
         }
-        const view = views[tabkey];
+        const view = viewAt(tabkey);
         view.status = this.readListStatus(data.records);
         view.setNewest(data.records, data.batch);
         if (!autoUpdate) {
@@ -82,5 +82,5 @@ Object.assign(wrentabledialog_obj, {
 });
 
 function viewOf(grid) {
-    return views.find(view => view.grid === grid);
+    return views.find(view => view && view.grid === grid);
 }

@@ -53,7 +53,7 @@ Object.assign(wrentabledialog_obj, {
 
     // Rows that the back end has selected and the grid has not.
     droppedKeys(tab) {
-        const view = views[tab.number];
+        const view = viewAt(tab.number);
         const kept = new Set(view.grid.last.selection.indexes);
         return view.grid.records
             .filter((record, index) => !kept.has(index) && (view.newest.get(record.key) || record).selected)
@@ -87,7 +87,7 @@ Object.assign(wrentabledialog_obj, {
         if (this.preventSelect) {
             return;
         }
-        const view = views[this.activeTab()];
+        const view = viewAt(this.activeTab());
         const connected = view.grid.records.filter(record => record.connected);
         if (connected.length === 0) {
             return;
@@ -99,7 +99,7 @@ Object.assign(wrentabledialog_obj, {
     // A click on a control, or on the one selected row itself, leaves the selection as it is.
     clickRecordFunc(tab, event) {
         this.preventSelect = false;
-        const grid = views[tab.number].grid;
+        const grid = viewAt(tab.number).grid;
         const column = grid.columns[event.column];
         const alone = grid.getSelection().length === 1 && String(grid.getSelection()[0]) === String(event.recid);
         if (column && tab.still.includes(column.field) || alone && !event.originalEvent.ctrlKey) {
@@ -114,5 +114,5 @@ Object.assign(wrentabledialog_obj, {
 });
 
 function keyOf(tab, recid) {
-    return views[tab.number].grid.get(recid).key;
+    return viewAt(tab.number).grid.get(recid).key;
 }

@@ -8,7 +8,7 @@
 
 namespace {
 
-const char* Open = "$('#wrentabledialog_comment_dialog').dialog('isOpen')";
+const char* Open = "$('#wrentabledialog_comment_dialog').is(':visible')";
 const char* Text = "$('#wren_comment_textarea').val()";
 const QString Hostile = QStringLiteral("</textarea><b id=\"got-in\">x</b>\nsecond & third");
 
