@@ -18,14 +18,13 @@ QString settingsPref(const char* name) {
     return QStringLiteral("wren/settings/") % QLatin1String(name);
 }
 
-/// Modes that record a number of frames at each trigger.
-bool isFramed(int mode) {
+/// Modes that record a number of frames at each trigger into what memory there is. Recording on command takes any.
+bool isBoundedByMemory(int mode) {
     switch (mode) {
         case zeb::TriggerRandom:
         case zeb::TriggerRandomReset:
         case zeb::TriggerRandomCenter:
         case zeb::TriggerRandomManual:
-        case zeb::TriggerRecOnCmd:
         case zeb::TriggerRandomLoop:
             return true;
         default:
@@ -33,8 +32,10 @@ bool isFramed(int mode) {
     }
 }
 
-bool countsTriggers(int mode) {
-    return mode == zeb::TriggerRandom || mode == zeb::TriggerRandomReset;
+void rethrow(const std::exception_ptr& failure) {
+    if (failure) {
+        std::rethrow_exception(failure);
+    }
 }
 
 }  // namespace
@@ -52,14 +53,8 @@ void TriggerEditing::setTriggerMode(const DocKeyList& keys, const QString& val) 
 }
 
 void TriggerEditing::setWithHostSettings(const DocList& docs, int mode) {
-    if (docs.isEmpty()) {
-        return;
-    }
-    const zeb::TriggerSettings settings = m_host.cameraOps().getTriggerSettings();
-    send(docs, mode, settings);
-    if (countsTriggers(mode)) {
-        m_host.cameraOps().setRandomTriggerPhase(docs, settings.randomTimes > 0);
-        send(docs, mode, settings);
+    if (!docs.isEmpty()) {
+        rethrow(send(docs, mode, m_host.cameraOps().getTriggerSettings()));
     }
 }
 
@@ -81,29 +76,42 @@ void TriggerEditing::applyTriggerMode(const DocList& docs, int mode) {
             invalid.append(doc->control().getCameraName(1) % QStringLiteral("・・") % reason);
         }
     }
-    if (!valid.isEmpty()) {
-        send(valid, mode, settings);
-        if (countsTriggers(mode)) {
-            m_host.cameraOps().setRandomTriggerPhase(valid, settings.randomTimes >= 1);
-            send(valid, mode, settings);
-        }
-    }
+    const std::exception_ptr refusal = valid.isEmpty() ? nullptr : send(valid, mode, settings);
+    // From here on documents may be others: a box stands.
     if (!invalid.isEmpty()) {
         m_host.alert(invalid.join(QLatin1Char('\n')), nullptr);
     }
+    rethrow(refusal);
 }
 
-void TriggerEditing::send(const DocList& docs, int mode, const zeb::TriggerSettings& settings) {
-    m_host.cameraOps().setTriggerMode(docs, settings.kind, mode, settings.reserved1, settings.reserved2,
-                                      settings.manualBeforePercent, settings.randomFrames, settings.randomTimes);
+/// Each command goes to all cameras, whatever one of them says to an earlier one; the first refusal comes back.
+std::exception_ptr TriggerEditing::send(const DocList& docs, int mode, const zeb::TriggerSettings& settings) {
+    ZebCameraOps& cameras = m_host.cameraOps();
+    std::exception_ptr refusal;
+    const auto attempt = [&refusal](const auto& command) {
+        try {
+            command();
+        } catch (...) {
+            refusal = refusal ? refusal : std::current_exception();
+        }
+    };
+    const auto setMode = [&] {
+        cameras.setTriggerMode(docs, settings.kind, mode, settings.reserved1, settings.reserved2,
+                               settings.manualBeforePercent, settings.randomFrames, settings.randomTimes);
+    };
+    attempt(setMode);
+    if (mode == zeb::TriggerRandom || mode == zeb::TriggerRandomReset) {
+        attempt([&] { cameras.setRandomTriggerPhase(docs, settings.randomTimes > 0); });
+        attempt(setMode);
+    }
+    return refusal;
 }
 
-/// A camera that does not offer the mode, or records on command, is left to say so itself.
+/// A camera that does not offer the mode is left to say so itself.
 bool TriggerEditing::fits(DOC_Interface& doc, int mode, const zeb::TriggerSettings& settings) const {
-    if (!isFramed(mode)) {
+    if (!isBoundedByMemory(mode)) {
         return true;
     }
     const qint64 frames = qint64(settings.randomTimes == 0 ? 1 : settings.randomTimes) * settings.randomFrames;
-    const bool tooMany = frames > qint64(doc.frames().getFrameCount(0, 0));
-    return !tooMany || mode == zeb::TriggerRecOnCmd || !doc.control().getTriggerModeList().contains(mode);
+    return frames <= qint64(doc.frames().getFrameCount(0, 0)) || !doc.control().getTriggerModeList().contains(mode);
 }

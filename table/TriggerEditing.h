@@ -4,6 +4,8 @@
 
 #include <QString>
 
+#include <exception>
+
 class ZebHost;
 
 /// Sets the trigger mode of many cameras, with the parameters of the host or with those of the default settings. May
@@ -21,7 +23,7 @@ public:
 
 private:
     void setWithHostSettings(const DocList& docs, int mode);
-    void send(const DocList& docs, int mode, const zeb::TriggerSettings& settings);
+    std::exception_ptr send(const DocList& docs, int mode, const zeb::TriggerSettings& settings);
     bool fits(DOC_Interface& doc, int mode, const zeb::TriggerSettings& settings) const;
 
     ZebHost& m_host;

@@ -181,6 +181,21 @@ TEST_F(ParameterEditingTest, setsTheTriggerWithTheParametersOfTheHost) {
                                     "ZebCameraOps::setTriggerMode [[1],1,3,0,0,30,100,0]"}));
 }
 
+TEST_F(ParameterEditingTest, aCameraThatRefusesTheTriggerKeepsTheOthersFromNothing) {
+    change(2, {{"lowLight", true}});
+    TriggerEditing triggers(host);
+    EXPECT_TRUE(refused([&] { triggers.setTriggerMode({1, 2}, "3"); }));
+    EXPECT_EQ(calls().size(), 3) << "mode, phase, mode";
+    EXPECT_TRUE(stateOf(1, "randomCounted").toBool());
+
+    host.setPref("wren/settings/triggerEnable", true);
+    host.setPref("wren/settings/triggerRandomTriggerTimes", 10);
+    host.setPref("wren/settings/triggerRandomFrame", 1000);
+    change(2, {{"resolution", QVariantList{512, 512}}});
+    EXPECT_TRUE(refused([&] { triggers.setTriggerMode({1, 2}, "3"); }));
+    EXPECT_EQ(desk.shown, QStringList{"Gate・・Trigger Parameter is invalid."}) << "told all the same";
+}
+
 TEST_F(ParameterEditingTest, namesTheCamerasWhoseMemoryIsTooSmallForTheTrigger) {
     host.setPref("wren/settings/triggerEnable", true);
     host.setPref("wren/settings/triggerManualBeforePer", 25.0F);
