@@ -71,9 +71,13 @@ bool Camera::command(const char* operation) {
 
 bool Camera::commandConnected(const char* operation) {
     if (!get(&CameraState::connected)) {
-        throw CameraError(name(), notConnected);
+        refuse(notConnected);
     }
-    return command(operation);
+    const bool there = command(operation);
+    if (there && get(&CameraState::lowLight) && model().lowLightRefuses.contains(QLatin1String(operation))) {
+        refuse(QStringLiteral("this can't be changed in low light mode"));
+    }
+    return there;
 }
 
 void Camera::connect() {
@@ -100,16 +104,8 @@ void Camera::require(int function, const char* mode) const {
     }
 }
 
-bool Camera::commandOnSetting(const char* operation) {
-    const bool there = commandConnected(operation);
-    if (there && get(&CameraState::lowLight) && model().lowLightRefuses.contains(QLatin1String(operation))) {
-        refuse(QStringLiteral("this can't be changed in low light mode"));
-    }
-    return there;
-}
-
 void Camera::setRecordRate(unsigned int rate) {
-    if (!commandOnSetting("setRecordRate")) {
+    if (!commandConnected("setRecordRate")) {
         return;
     }
     try {
@@ -130,7 +126,7 @@ void Camera::fitShutter() {
 }
 
 void Camera::setShutterSpeed(int speed) {
-    if (!commandOnSetting("setShutterSpeed")) {
+    if (!commandConnected("setShutterSpeed")) {
         return;
     }
     if (!model().shutters.contains(speed)) {
@@ -145,7 +141,7 @@ void Camera::setShutterSpeed(int speed) {
 }
 
 void Camera::setResolution(const QSize& resolution) {
-    if (!commandOnSetting("setResolution")) {
+    if (!commandConnected("setResolution")) {
         return;
     }
     if (!model().resolutions.contains(resolution)) {
@@ -159,7 +155,7 @@ void Camera::setResolution(const QSize& resolution) {
 }
 
 void Camera::setTriggerMode(int mode, const zeb::TriggerSettings& settings) {
-    if (!commandOnSetting("setTriggerMode")) {
+    if (!commandConnected("setTriggerMode")) {
         return;
     }
     if (!model().triggerModes.contains(mode)) {
@@ -177,7 +173,7 @@ void Camera::setTriggerMode(int mode, const zeb::TriggerSettings& settings) {
 }
 
 void Camera::setRandomTriggerPhase(bool counted) {
-    if (!commandOnSetting("setRandomTriggerPhase")) {
+    if (!commandConnected("setRandomTriggerPhase")) {
         return;
     }
     onAllHeads(&CameraState::randomCounted, counted);

@@ -66,8 +66,6 @@ public:
     void disarm();
 
 private:
-    /// A command that the model refuses in low light mode.
-    bool commandOnSetting(const char* operation);
     [[noreturn]] void refuse(const QString& reason) const;
     void require(int function, const char* mode) const;
     void fitShutter();

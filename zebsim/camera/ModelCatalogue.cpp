@@ -1,5 +1,6 @@
 #include "camera/ModelCatalogue.h"
 
+#include "camera/CameraOperations.h"
 #include "camera/JsonNode.h"
 
 #include <limits>
@@ -77,7 +78,13 @@ CameraModel readModel(const JsonNode& node) {
         model.bitDepth = node.member(QStringLiteral("bitDepth")).number(8, 16);
     }
     if (node.has(QStringLiteral("lowLightRefuses"))) {
-        model.lowLightRefuses = node.member(QStringLiteral("lowLightRefuses")).texts();
+        const JsonNode refused = node.member(QStringLiteral("lowLightRefuses"));
+        model.lowLightRefuses = refused.texts();
+        for (const QString& operation : qAsConst(model.lowLightRefuses)) {
+            if (!cameraOperations().contains(operation)) {
+                refused.fail(QStringLiteral("there is no operation \"%1\"").arg(operation));
+            }
+        }
     }
     model.memory = node.member(QStringLiteral("memory")).number(0, 1 << 24);
     model.initial = ModelCatalogue::readState(node.member(QStringLiteral("initial")), model);
