@@ -15,7 +15,7 @@ const table = readonly([
     'escapeMarkup', 'translate', 'parseReply', 'guarded', 'logged', 'onClick', 'textTip', 'closeTip',
     'showElement', 'setText', 'setClass', 'setStyle',
     'Cell', 'COLUMNS', 'isBatch', 'isOff', 'isOffOrBatch', 'hasDropDowns', 'indexesOf', 'showChoice', 'plainColumn',
-    'DrawnRow', 'columnKind', 'GridView', 'views', 'viewAt', 'viewOf', 'tabHeader',
+    'DrawnRow', 'columnKind', 'GridView', 'LIVE', 'MEMORY', 'views', 'viewAt', 'viewOf', 'tabHeader',
     'dropDown', 'listenToGrid', 'connectedKeys', 'controls',
     'lowLightSlider', 'showSlider', 'sliderValue', 'sliderMax', 'markupOf'
 ]);

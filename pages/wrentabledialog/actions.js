@@ -77,7 +77,10 @@ function useControl(view, row, cell, control) {
     const name = Array.from(control.classList).find(word => CLICKS[word]);
     if (name) {
         const connected = row === view.batch ? connectedKeys(view) : [row.key];
-        guarded(() => CLICKS[name](row, cell, rowKeys(view, row), connected));
+        // To the bridge no keys would be all cameras, those of other groups too.
+        if (connected.length > 0 || !/reduce|lowlight/.test(name)) {
+            guarded(() => CLICKS[name](row, cell, rowKeys(view, row), connected));
+        }
     }
 }
 
@@ -110,7 +113,8 @@ function onGridMove(view, event) {
     }
     const row = view.rowOf(event.target);
     const cell = row && row.cellOf(event.target);
-    if (cell && view.tab.still.includes(cell.field)) {
+    // w2ui takes the batch row for the first one.
+    if (cell && (row === view.batch || view.tab.still.includes(cell.field))) {
         wrentabledialog_obj.preventSelect = true;
     }
 }

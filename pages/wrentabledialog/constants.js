@@ -83,6 +83,10 @@ const TABS = [
     orderKey: `wren/column_order/${tab.name}`
 }));
 
+// Their numbers.
+const LIVE = TABS.filter(tab => !tab.memory).map(tab => tab.number);
+const MEMORY = TABS.filter(tab => tab.memory).map(tab => tab.number);
+
 // As cameraInfoTabNo and cameraInfoTabName.
 TABS.forEach(tab => {
     wrentabledialog_const_obj[tab.name + 'TabNo'] = tab.number;

@@ -18,7 +18,6 @@ const FILTER = ['#recordFilter'];
 const ARMED = DEVICE_SETTINGS.concat(SYNC, MANAGEMENT, DEFAULTS, DISPLAY_SETTINGS, OPTIONS, APPLY, LINKS, LOW_LIGHT,
     '#timeline_trigger_test');
 const LIVE_PARTS = ['.exec-recording', '.option-recording', '#wren_related_settings', '#wrenBatchLowlightBlock'];
-const MEMORY_TABS = TABS.filter(tab => tab.memory).map(tab => tab.number);
 
 const whenOn = work => on => on && wrentabledialog_obj[work]();
 
@@ -168,7 +167,7 @@ Object.assign(wrentabledialog_obj, {
 
     // Tabs that are off already stay off.
     turnMemoryTabsOff() {
-        this.look.tabsOff = this.look.tabsOff || MEMORY_TABS;
+        this.look.tabsOff = this.look.tabsOff || MEMORY;
     },
 
     turnPartitionOff() {

@@ -1,6 +1,4 @@
 // What the display keys show and hide.
-const LIVE = TABS.filter(tab => !tab.memory).map(tab => tab.number);
-const MEMORY = TABS.filter(tab => tab.memory).map(tab => tab.number);
 
 // key -> the column it shows on the tabs named, the tab whose header it shows, or the block.
 const DISPLAY = {

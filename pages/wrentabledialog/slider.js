@@ -23,7 +23,7 @@ const lowLightSlider = {
             cell,
             batch,
             keys: batch ? connectedKeys(view) : [row.key],
-            speeds: record.shutterSpeeds,
+            speeds: record.shutterSpeeds || [],
             shutter: row.cells.find(other => other.field === 'shutterSpeed') || null,
             moving: false
         };
@@ -57,8 +57,8 @@ const lowLightSlider = {
     finish(value) {
         const held = this.held;
         held.moving = false;
-        this.letGo();
         try {
+            this.letGo();
             const speed = speedAt(held.batch ? this.batchSpeeds(held.view) : held.speeds, value);
             if (speed) {
                 wrentabledialog.setShutterSpeed(held.keys, speed);
@@ -81,12 +81,15 @@ const lowLightSlider = {
             return;
         }
         this.held = null;
-        makePlain(held.cell);
-        if (held.shutter) {
-            held.shutter.forget();
-        }
-        if (held.moving) {
-            wrentabledialog.startAutoUpdate();
+        try {
+            makePlain(held.cell);
+            if (held.shutter) {
+                held.shutter.forget();
+            }
+        } finally {
+            if (held.moving) {
+                wrentabledialog.startAutoUpdate();
+            }
         }
     }
 };

@@ -20,6 +20,10 @@ var wrentabledialog_obj = {
     preventSelectGroup: false, // a group button's click is being processed
     iconsDrawn: false, // icons of plug-ins have come whose use is not logged yet
     isCtsReady: false, // the last record status was CTS ready
+    gestureOpen: false, // one gesture of the user selects and unselects; the rows are fetched at its end
+    gestureChanged: false, // it has
+    lastReply: null, // of `getRecords`: its tab, its text and the data in it
+    shownStyle: null, // style and mode that the style sheet was last put in for
     // What the control states make of tabs and colours; `armed` from ready on until the recording has ended.
     look: { tabsOff: false, colour: null, armed: false },
 

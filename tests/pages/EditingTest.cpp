@@ -137,6 +137,7 @@ TEST(PageEditing, ARefusedChangeShowsWhatTheCameraAnswers) {
         page.tick();
         EXPECT_EQ(page.text(c.shown), c.answer);
         EXPECT_EQ(page.tick(), QStringList());
+        EXPECT_EQ(test.desk.texts().filter(": no").size(), c.clamped ? 0 : 1) << "who is told of the refusal";
         test.desk.shown.clear();
     }
 }
