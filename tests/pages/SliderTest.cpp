@@ -114,6 +114,12 @@ TEST_F(PageSlider, SendsNothingWhenItIsCutOff) {
              {"the window lost the keyboard", [&] { page.run("window.dispatchEvent(new Event('blur')); return 0"); }},
              {"another tab", [&] { page.show(0); }},
              {"another mode", [&] { test.host.appStatus().enterMode(zeb::MemoryMode), page.settle(); }},
+             {"file mode", [&] { test.host.appStatus().enterMode(zeb::FileMode), page.settle(); }},
+             {"an order of columns that was stored behind the page",
+              [&] {
+                  test.host.prefs().setValue("wren/column_order/livecontrol", "lowlight,shutterSpeed,lock,cameraName");
+                  page.run("wrentabledialog_obj.autoUpdate(); return 0");
+              }},
              {"the camera gone",
               [&] {
                   Fault gone;
