@@ -31,11 +31,6 @@ Object.assign(wrentabledialog_obj, {
             onUnselect: (event) => this.onUnselect(tab, event),
             onClick: (event) => this.clickRecordFunc(tab, event),
             onDblClick: (event) => event.preventDefault(),
-            // A press that is held without a move has no place yet, and w2ui would take that for the first one.
-            onColumnDragStart: (event) => {
-                event.onComplete = () => $(document).trigger($.Event('mousemove',
-                    { originalEvent: event.originalEvent.originalEvent }));
-            },
             onColumnDragEnd: (event) => {
                 event.onComplete = () => this.columnsMoved(tab.number);
             }

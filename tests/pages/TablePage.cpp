@@ -118,16 +118,21 @@ void TablePage::press(const QString& selector) {
     ClickOptions options;
     options.part = ClickOptions::PressOnly;
     input(selector, options);
+    m_spot = spotOf(selector, 0.5);
 }
 
 void TablePage::move(const QString& selector, double share) {
+    m_spot = spotOf(selector, share);
+    QTest::mouseMove(&handle(), m_spot);
+}
+
+QPoint TablePage::spotOf(const QString& selector, double share) {
     const QVariantMap spot = run(QStringLiteral("document.querySelector('%1').getBoundingClientRect()").arg(selector))
                                  .toObject()
                                  .toVariantMap();
     const double x = spot.value("left").toDouble() + share * spot.value("width").toDouble();
     const double y = spot.value("top").toDouble() + spot.value("height").toDouble() / 2;
-    m_spot = view().mapTo(&window(), QPoint(qRound(x), qRound(y)));
-    QTest::mouseMove(&handle(), m_spot);
+    return view().mapTo(&window(), QPoint(qRound(x), qRound(y)));
 }
 
 void TablePage::release() {

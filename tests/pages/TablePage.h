@@ -61,6 +61,8 @@ private:
     QWebView& view();
     void input(const QString& selector, const ClickOptions& options);
     QWindow& handle();
+    /// A point of an element in the window's pixels, `share` of its width from its left.
+    QPoint spotOf(const QString& selector, double share);
 
     TestHost& m_test;
     QPoint m_spot;
