@@ -1,64 +1,20 @@
 #pragma once
 
-#include "DOC_Control.h"
 #include "DOC_Frames.h"
 #include "DOC_Image.h"
 #include "DOC_Lock.h"
-#include "FakeDoc.h"
+#include "FakeCamera.h"
 
 #include <gmock/gmock.h>
 
 /// A camera that may hold a recording. It notes what is erased.
-class RecordingControl : public DOC_Control {
+class RecordingControl : public FakeControl {
 public:
     explicit RecordingControl(DOCKEY key) : m_key(key) {}
 
     bool hasData = false;
     bool hasRecordedData() const override { return hasData; }
     void eraseRecordedData(int mode) override { Journal::note(QStringLiteral("erase %1 %2").arg(m_key).arg(mode)); }
-
-    QString getCameraName(int) const override { return {}; }
-    void setCameraName(const QString&) override {}
-    QString getAddress(int) const override { return {}; }
-    QString getDeviceAlias(int) const override { return {}; }
-    QString getDeviceName(int) const override { return {}; }
-    int getHeadNumber() const override { return {}; }
-    bool isDummy() const override { return {}; }
-    int getWifiState() const override { return {}; }
-    int getLinkSpeedState() const override { return {}; }
-    PARTITIONNUMBER getPartitionCount(int, int) const override { return {}; }
-    PARTITIONNUMBER getCurrentPartition(int) const override { return {}; }
-    void applyPartition(int) override {}
-    zeb::VariableChannelInfo getVariableChannelInfo(int) const override { return {}; }
-    unsigned int getRecordedRateOfPartition(PARTITIONNUMBER) const override { return {}; }
-    int getCameraType() const override { return {}; }
-    int getCameraStatus() const override { return {}; }
-    bool isFunctionSupported(int, int) const override { return {}; }
-    bool isMultiHead() const override { return {}; }
-    bool hasSyncStatus() const override { return {}; }
-    QString getSyncStatusText() const override { return {}; }
-    QList<int> getPortList(int) const override { return {}; }
-    int getPortSignal(int) const override { return {}; }
-    bool isIrigEnabled() const override { return {}; }
-    int getIrigTimeStampPosition() const override { return {}; }
-    bool isIrigSync() const override { return {}; }
-    unsigned int getRecordRate(int) const override { return {}; }
-    QList<unsigned int> getRecordRateList() const override { return {}; }
-    QSize getResolution() const override { return {}; }
-    QList<QSize> getResolutionList() const override { return {}; }
-    int getShutterSpeed() const override { return {}; }
-    QList<int> getShutterSpeedList(int) const override { return {}; }
-    QStringList getShutterSpeedEntries() const override { return {}; }
-    int getTriggerMode() const override { return {}; }
-    QList<int> getTriggerModeList() const override { return {}; }
-    zeb::ManualTriggerParameters getManualTriggerParameters() const override { return {}; }
-    bool getReduceMode(int) const override { return {}; }
-    bool isLowLightMode() const override { return {}; }
-    int getLowLightType() const override { return {}; }
-    unsigned int getRecordedRate() const override { return {}; }
-    bool isTriggerOffsetEnabled() const override { return {}; }
-    int getTriggerOffset() const override { return {}; }
-    int getTriggerOffsetBase() const override { return {}; }
 
 private:
     const DOCKEY m_key;
