@@ -36,8 +36,7 @@ Object.assign(wrentabledialog_obj, {
 
     editComment(view, key) {
         const record = view.newest.get(key);
-        const blocked = wrentabledialog.isOtherPluginOpen() || wrentabledialog.isRecordDuringExporting();
-        if (!record || !record.connected || record.lock || blocked) {
+        if (!record || !record.connected || record.lock || this.isBlocked()) {
             return;
         }
         closeTip();

@@ -54,12 +54,17 @@ Object.assign(wrentabledialog_obj, {
     readListStatus(records) {
         const ready = wrentabledialog.isRecReady();
         const recording = wrentabledialog.isRecording();
-        const blocked = wrentabledialog.isOtherPluginOpen() || wrentabledialog.isRecordDuringExporting();
+        const blocked = this.isBlocked();
         return {
             style: this.rowStyle(ready, recording, blocked),
             disabled: this.isCtsReady || ready || recording || blocked,
             allLocked: records.length > 0 && records.every(record => record.lock)
         };
+    },
+
+    // True while another plug-in or an export has the cameras.
+    isBlocked() {
+        return wrentabledialog.isOtherPluginOpen() || wrentabledialog.isRecordDuringExporting();
     },
 
     // True while the page must accept no input in the rows.
