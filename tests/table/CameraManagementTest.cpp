@@ -45,13 +45,6 @@ TEST_F(CameraManagementTest, connectsWhatIsNotConnectedAndDisconnectsWhatNoLockK
     }
 }
 
-TEST_F(CameraManagementTest, ofLockedCamerasOnlyNothingIsAskedOfTheHost) {
-    change(2, {{"connected", true}, {"locked", true}});
-    cameras.connect({2}, false, false);
-    cameras.connect({2}, true, false);
-    EXPECT_EQ(calls(), QStringList());
-}
-
 TEST_F(CameraManagementTest, followsACameraThatComesInWhileItRecords) {
     change(1, {{"recordState", zeb::RecordReady}});
     change(2, {{"recordState", zeb::RecordCtsReady}});
@@ -180,10 +173,6 @@ TEST_F(CameraManagementTest, aCommentOfTwoLinesIsKeptAsTheHostKeepsIt) {
     EXPECT_EQ(calls(), QStringList{R"(DOC_Image::setComment [1,"wet{Separator}<b>50 mm</b>"])"});
     cameras.setCameraName({1, 2}, "Left");
     EXPECT_EQ(calls(), QStringList{R"(DOC_Control::setCameraName [1,"Left"])"});
-    host.appStatus().enterMemoryMode();
-    calls();
-    cameras.setCameraName({2}, "Right");
-    EXPECT_EQ(calls(), QStringList{R"(DOC_Control::setCameraName [2,"Right"])"});
 }
 
 TEST_F(CameraManagementTest, aSessionTakesBackWhatItSet) {

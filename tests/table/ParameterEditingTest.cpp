@@ -80,13 +80,6 @@ TEST_F(ParameterEditingTest, looksAgainAfterTheQuestion) {
     EXPECT_EQ(calls(), QStringList());
 }
 
-TEST_F(ParameterEditingTest, locksWhatIsConnectedAndNotInLowLight) {
-    change(2, {{"lowLight", true}});
-    change(3, {{"connected", false}});
-    editing.setParamLock({1, 2, 3, 99}, true);
-    EXPECT_EQ(calls(), QStringList{"DOC_Lock::setParamLock [1,true]"});
-}
-
 TEST_F(ParameterEditingTest, asksForEachParameterInItsOwnWay) {
     struct Case {
         const char* told;
