@@ -42,6 +42,14 @@ public:
     /// State of the signal on the sync input, as "Sync In".
     virtual QString getSyncStatusText() const = 0;
 
+    /// What the camera's exposure is to a common signal: `zeb::ExposureTimingLeads` or another class, and whether it
+    /// comes with a delay, not 0.
+    virtual int getExposureTimingClass() const = 0;
+    virtual int getExposureDelayClass() const = 0;
+    /// Not 0 while the camera blends two exposures.
+    virtual int isDualSlopeShutter() const = 0;
+    virtual bool isAutoExposure() const = 0;
+
     /// Numbers of the ports that the camera has.
     virtual QList<int> getPortList(int mode) const = 0;
     /// The `zeb::PortSignal` on the port that stands at `index` in the list, counted from 1.

@@ -43,6 +43,9 @@ public:
     /// The document of the device that this head belongs to; null when it has none.
     virtual DOC_Interface* getParentDoc() const = 0;
 
+    /// The documents of all heads of the device, the master first.
+    virtual DocList getHeadDocs(int mode) = 0;
+
     /// Name of a memory partition, from 1.
     virtual QString getPartitionName(PARTITIONNUMBER partition) const = 0;
     /// What is wrong with the camera, a text each; empty when nothing is.

@@ -34,6 +34,15 @@ public:
     /// A `zeb::LowLightType`.
     virtual void setLowLightType(const DocList& docs, int type) = 0;
 
+    /// Whether these cameras can be put on one signal now.
+    virtual bool canSync(const DocList& docs) = 0;
+    /// Puts the cameras on one signal, in the order of the list; `master` leads a chain. Takes long, and is called from
+    /// a worker thread: the host keeps the documents alive until it returns, and tells the user itself what failed.
+    /// `lport` a `zeb::SyncPort`, `input` 0 for "ON CAM POS" and 1 for "ON OTHERS POS" on the cameras' ports,
+    /// `frequency` in Hertz or -1, `polarity` 0 for a rising trigger and 1 for a falling one.
+    virtual void syncCameras(const DocList& docs, DOC_Interface* master, int lport, bool external, bool generator,
+                             int input, int frequency, int polarity) = 0;
+
     /// The partition of the selected cameras, from 1.
     virtual void setPartition(PARTITIONNUMBER number, int mode) = 0;
     /// The channel of variable settings that the current camera uses; 0 for none.

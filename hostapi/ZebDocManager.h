@@ -32,6 +32,8 @@ public:
     virtual DocKeyList getLiveDocKeys(int mode, int order) const = 0;
     /// The documents that are cameras, not media or files.
     virtual DocList getCameraDocs() = 0;
+    /// Those of them that a common signal can reach now.
+    virtual DocList getSyncableDocs(int mode) = 0;
     virtual int getDocCount() const = 0;
     virtual int getSelectedDocCount() const = 0;
 

@@ -24,6 +24,7 @@ class ZebPlayer;
 class ZebPrefsDialog;
 class ZebRecorder;
 class ZebSaver;
+class ZebSignalDevices;
 class ZebUndo;
 class ZebViewOps;
 struct ZebSupportFile;
@@ -49,6 +50,7 @@ public:
     virtual ZebViewOps& viewOps() = 0;
     virtual ZebMdi& mdi() = 0;
     virtual ZebUndo& undo() = 0;
+    virtual ZebSignalDevices& signalDevices() = 0;
 
     /// The mode, 0 live, 1 memory, 2 file. None of these throws.
     virtual int getOperatingMode() const = 0;
@@ -84,6 +86,9 @@ public:
     virtual void warn(const QString& message, QWidget* parent) = 0;
     virtual void warnList(const QString& message, const QStringList& messages, QWidget* parent) = 0;
     virtual void alert(const QString& message, QWidget* parent) = 0;
+    /// As `alert`, with a box "don't show again" that stores false under `prefKey`.
+    virtual void alertWithDontShowAgain(const QString& message, const QString& prefKey, QWidget* parent,
+                                        const ButtonTexts& buttons) = 0;
     virtual void alertList(const QString& message, const QStringList& messages, QWidget* parent) = 0;
     /// True when the user agreed.
     virtual bool confirm(const QString& message) = 0;
@@ -176,6 +181,8 @@ public:
     virtual bool isPluginAvailable(const QString& name) const = 0;
     /// Whether changes in that plug-in take effect only when the user presses OK.
     virtual bool isPluginOkPattern(const QString& name) const = 0;
+    /// Types of cameras, as `DOC_Control::getCameraType` answers them, that can run on a common signal.
+    virtual QList<int> getSyncCapableCameraTypes() const = 0;
     /// Whether `doc` can do `capability`, as "binning".
     virtual bool isCapable(const QString& capability, DOC_Interface* doc, int head) const = 0;
 };

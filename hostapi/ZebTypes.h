@@ -100,6 +100,15 @@ enum TriggerMode {
     TriggerNoneError = 15
 };
 
+/// What the preference `sync/lport` puts between the cameras and their signal.
+enum SyncPort { SyncPortNone = 0, SyncPortL = 1, SyncPortHub = 2 };
+
+/// `ZebSignalDevice::getRole` of the hub that makes the signal.
+constexpr int HubRoleMaster = 0;
+
+/// `DOC_Control::getExposureTimingClass` of the cameras that come first in a chain.
+constexpr int ExposureTimingLeads = 1;
+
 /// Parameters of the manual trigger. `triggerFrame` counts frames from the start of the memory.
 struct ManualTriggerParameters {
     int kind = 0;

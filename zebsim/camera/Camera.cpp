@@ -187,6 +187,10 @@ void Camera::setReduceMode(bool on) {
     set(&CameraState::reduce, on);
 }
 
+void Camera::synchronise() {
+    commandConnected("synchronise");
+}
+
 void Camera::setLowLight(bool on) {
     if (!commandConnected("setLowLight")) {
         return;

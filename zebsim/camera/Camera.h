@@ -54,6 +54,8 @@ public:
     void setTriggerMode(int mode, const zeb::TriggerSettings& settings);
     void setRandomTriggerPhase(bool counted);
     void setReduceMode(bool on);
+    /// Takes the time until the camera has found the signal.
+    void synchronise();
     void setLowLight(bool on);
     void setLowLightType(int type);
     void setName(const QString& name);

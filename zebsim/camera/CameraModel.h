@@ -32,6 +32,10 @@ struct CameraModel {
     /// Capabilities of the image, as "binning".
     QStringList capabilities;
     bool hasSyncStatus = true;
+    /// Whether the camera can run on a signal that it shares with others, and the classes of its exposure then.
+    bool syncCapable = false;
+    int exposureTiming = 0;
+    int exposureDelay = 0;
     /// Whether the heads of a device share shutter speed and resolution; rate and trigger mode they always share.
     bool sharesShutter = false;
     bool sharesResolution = false;

@@ -18,6 +18,8 @@ const QSet<QString>& cameraOperations() {
                                  "getCurrentPartition",
                                  "getDeviceAlias",
                                  "getDeviceName",
+                                 "getExposureDelayClass",
+                                 "getExposureTimingClass",
                                  "getFirstFrame",
                                  "getFrameCount",
                                  "getFrameTotal",
@@ -59,6 +61,8 @@ const QSet<QString>& cameraOperations() {
                                  "getWifiState",
                                  "hasRecordedData",
                                  "hasSyncStatus",
+                                 "isAutoExposure",
+                                 "isDualSlopeShutter",
                                  "isDummy",
                                  "isFunctionSupported",
                                  "isIrigEnabled",
@@ -87,7 +91,8 @@ const QSet<QString>& cameraOperations() {
                                  "setShutterSpeed",
                                  "setToolRect",
                                  "setTriggerMode",
-                                 "setVariable"}) {
+                                 "setVariable",
+                                 "synchronise"}) {
             all.insert(QString::fromLatin1(name));
         }
         return all;

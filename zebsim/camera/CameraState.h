@@ -30,6 +30,8 @@ struct CameraState {
     Q_PROPERTY(int status MEMBER status)
     Q_PROPERTY(QStringList alerts MEMBER alerts)
     Q_PROPERTY(QString syncStatus MEMBER syncStatus)
+    Q_PROPERTY(int dualSlope MEMBER dualSlope)
+    Q_PROPERTY(bool autoExposure MEMBER autoExposure)
     Q_PROPERTY(uint rate MEMBER rate)
     Q_PROPERTY(QSize resolution MEMBER resolution)
     Q_PROPERTY(int shutter MEMBER shutter)
@@ -92,6 +94,9 @@ public:
     int status = zeb::CameraLive;
     QStringList alerts;
     QString syncStatus = QStringLiteral("No Sync");
+    /// Not 0 while the camera blends two exposures.
+    int dualSlope = 0;
+    bool autoExposure = false;
     unsigned int rate = 0;
     QSize resolution;
     /// n of 1/n second.

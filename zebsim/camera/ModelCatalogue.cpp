@@ -41,6 +41,11 @@ bool readFlag(const JsonNode& node, const QString& member) {
     return node.has(member) && node.member(member).flag();
 }
 
+/// 0 when there is none.
+int readNumber(const JsonNode& node, const QString& member) {
+    return node.has(member) ? node.member(member).number(0, highest) : 0;
+}
+
 QList<int> readNumbers(const JsonNode& node, const QString& member) {
     const QList<int> numbers = node.member(member).numbers(0, highest);
     if (numbers.isEmpty()) {
@@ -50,12 +55,27 @@ QList<int> readNumbers(const JsonNode& node, const QString& member) {
 }
 
 CameraModel readModel(const JsonNode& node) {
-    node.allowOnly({QStringLiteral("name"), QStringLiteral("type"), QStringLiteral("dummy"),
-                    QStringLiteral("otherRates"), QStringLiteral("rates"), QStringLiteral("resolutions"),
-                    QStringLiteral("shutters"), QStringLiteral("triggerModes"), QStringLiteral("ports"),
-                    QStringLiteral("functions"), QStringLiteral("capabilities"), QStringLiteral("syncStatus"),
-                    QStringLiteral("sharesShutter"), QStringLiteral("sharesResolution"), QStringLiteral("memory"),
-                    QStringLiteral("bitDepth"), QStringLiteral("lowLightRefuses"), QStringLiteral("initial")});
+    node.allowOnly({QStringLiteral("name"),
+                    QStringLiteral("type"),
+                    QStringLiteral("dummy"),
+                    QStringLiteral("otherRates"),
+                    QStringLiteral("rates"),
+                    QStringLiteral("resolutions"),
+                    QStringLiteral("shutters"),
+                    QStringLiteral("triggerModes"),
+                    QStringLiteral("ports"),
+                    QStringLiteral("functions"),
+                    QStringLiteral("capabilities"),
+                    QStringLiteral("syncStatus"),
+                    QStringLiteral("sharesShutter"),
+                    QStringLiteral("sharesResolution"),
+                    QStringLiteral("memory"),
+                    QStringLiteral("bitDepth"),
+                    QStringLiteral("lowLightRefuses"),
+                    QStringLiteral("syncCapable"),
+                    QStringLiteral("exposureTiming"),
+                    QStringLiteral("exposureDelay"),
+                    QStringLiteral("initial")});
     CameraModel model;
     model.name = node.member(QStringLiteral("name")).text();
     model.type = node.member(QStringLiteral("type")).number(0, highest);
@@ -72,6 +92,9 @@ CameraModel readModel(const JsonNode& node) {
     model.functions = QSet<int>(functions.begin(), functions.end());
     model.capabilities = node.member(QStringLiteral("capabilities")).texts();
     model.hasSyncStatus = readFlag(node, QStringLiteral("syncStatus"));
+    model.syncCapable = readFlag(node, QStringLiteral("syncCapable"));
+    model.exposureTiming = readNumber(node, QStringLiteral("exposureTiming"));
+    model.exposureDelay = readNumber(node, QStringLiteral("exposureDelay"));
     model.sharesShutter = readFlag(node, QStringLiteral("sharesShutter"));
     model.sharesResolution = readFlag(node, QStringLiteral("sharesResolution"));
     if (node.has(QStringLiteral("bitDepth"))) {

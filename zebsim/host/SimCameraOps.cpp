@@ -81,6 +81,17 @@ void SimCameraOps::setLowLightType(const DocList& docs, int type) {
     command("ZebCameraOps::setLowLightType", docs, {type}, [type](Camera& camera) { camera.setLowLightType(type); });
 }
 
+bool SimCameraOps::canSync(const DocList& docs) {
+    return std::all_of(docs.begin(), docs.end(), [](const DOC_Interface* doc) { return doc->isConnected(); });
+}
+
+void SimCameraOps::syncCameras(const DocList& docs, DOC_Interface* master, int lport, bool external, bool generator,
+                               int input, int frequency, int polarity) {
+    command("ZebCameraOps::syncCameras", docs,
+            {master ? master->getKey() : zeb::NoDocKey, lport, external, generator, input, frequency, polarity},
+            [](Camera& camera) { camera.synchronise(); });
+}
+
 void SimCameraOps::setPartition(PARTITIONNUMBER number, int mode) {
     m_journal.record("ZebCameraOps::setPartition", {number, mode});
     forEach(m_docs.getSelectedDocKeys(0), [number](Camera& camera) { camera.setPartition(number); });

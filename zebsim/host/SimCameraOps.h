@@ -31,6 +31,10 @@ public:
     void setReduceMode(const DocList& docs, bool on) override;
     void setLowLight(const DocList& docs, bool on) override;
     void setLowLightType(const DocList& docs, int type) override;
+    bool canSync(const DocList& docs) override;
+    /// Any thread.
+    void syncCameras(const DocList& docs, DOC_Interface* master, int lport, bool external, bool generator, int input,
+                     int frequency, int polarity) override;
     void setPartition(PARTITIONNUMBER number, int mode) override;
     unsigned int getCurrentVariable() const override;
     void setVariable(unsigned int channel) override;

@@ -85,6 +85,26 @@ QString SimControl::getSyncStatusText() const {
     return m_camera.get(&CameraState::syncStatus);
 }
 
+int SimControl::getExposureTimingClass() const {
+    m_camera.queryConnected("getExposureTimingClass");
+    return m_camera.model().exposureTiming;
+}
+
+int SimControl::getExposureDelayClass() const {
+    m_camera.queryConnected("getExposureDelayClass");
+    return m_camera.model().exposureDelay;
+}
+
+int SimControl::isDualSlopeShutter() const {
+    m_camera.queryConnected("isDualSlopeShutter");
+    return m_camera.get(&CameraState::dualSlope);
+}
+
+bool SimControl::isAutoExposure() const {
+    m_camera.queryConnected("isAutoExposure");
+    return m_camera.get(&CameraState::autoExposure);
+}
+
 QList<int> SimControl::getPortList(int /*mode*/) const {
     m_camera.queryConnected("getPortList");
     return m_camera.model().ports.keys();

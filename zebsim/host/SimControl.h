@@ -26,6 +26,10 @@ public:
     bool isMultiHead() const override;
     bool hasSyncStatus() const override;
     QString getSyncStatusText() const override;
+    int getExposureTimingClass() const override;
+    int getExposureDelayClass() const override;
+    int isDualSlopeShutter() const override;
+    bool isAutoExposure() const override;
     QList<int> getPortList(int mode) const override;
     int getPortSignal(int index) const override;
     bool isIrigEnabled() const override;

@@ -125,6 +125,16 @@ DocList SimDocManager::getCameraDocs() {
     return docs;
 }
 
+DocList SimDocManager::getSyncableDocs(int /*mode*/) {
+    DocList docs;
+    for (const Camera* camera : m_cameras.all()) {
+        if (camera->get(&CameraState::connected) && camera->model().syncCapable) {
+            docs.append(getDocAny(camera->key()));
+        }
+    }
+    return docs;
+}
+
 int SimDocManager::getDocCount() const {
     return m_flags.isOn(QStringLiteral("IsNoneDocument")) ? 0 : int(m_cameras.all().size());
 }

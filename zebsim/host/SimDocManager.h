@@ -50,6 +50,8 @@ public:
     DocKeyList getConnectedDocKeys(int mode = 0) const override;
     DocKeyList getLiveDocKeys(int mode, int order) const override;
     DocList getCameraDocs() override;
+    /// Those that are connected and can run on a common signal.
+    DocList getSyncableDocs(int mode) override;
     int getDocCount() const override;
     int getSelectedDocCount() const override;
     void selectDoc(DOCKEY key) override;

@@ -49,6 +49,14 @@ DOC_Interface* SimDocument::getParentDoc() const {
     return master == getKey() ? nullptr : m_context.docs.getDocAny(master);
 }
 
+DocList SimDocument::getHeadDocs(int /*mode*/) {
+    DocList docs;
+    for (const auto& head : m_camera.device().heads()) {
+        docs.append(m_context.docs.getDocAny(head->key()));
+    }
+    return docs;
+}
+
 QString SimDocument::getPartitionName(PARTITIONNUMBER partition) const {
     m_camera.queryConnected("getPartitionName");
     const QString name = m_camera.get(&CameraState::partitionNames).value(int(partition) - 1);

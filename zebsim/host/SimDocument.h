@@ -31,6 +31,7 @@ public:
     bool isCFastSelected() const override;
     /// The document of the master head; null for the master and for a camera of one head.
     DOC_Interface* getParentDoc() const override;
+    DocList getHeadDocs(int mode) override;
     /// "Partition 2", in the user's language, for one without a name.
     QString getPartitionName(PARTITIONNUMBER partition) const override;
     QStringList getAlerts() const override;

@@ -33,7 +33,8 @@ SimHost::SimHost(Clock& clock, MessageDesk& desk, const QString& prefsPath)
       m_saver(m_journal, m_flags, [this] { return m_appDesk ? m_appDesk->currentImage() : QImage(); }),
       m_viewOps(m_cameras, m_flags),
       m_mdi(m_cameras, m_appStatus, m_flags),
-      m_undo(m_journal) {
+      m_undo(m_journal),
+      m_signalDevices(m_journal) {
     m_translator.load(QStringLiteral("en"));
     if (!m_prefs.problem().isEmpty()) {
         Message message;
@@ -148,6 +149,18 @@ bool SimHost::confirmWithDontShowAgain(const QString& text, const QString& prefK
                                        const ButtonTexts& buttons) {
     Message box = message(Message::Confirm, text, parent);
     box.buttons = buttons;
+    return showSilenceable(box, prefKey);
+}
+
+void SimHost::alertWithDontShowAgain(const QString& text, const QString& prefKey, QWidget* parent,
+                                     const ButtonTexts& buttons) {
+    Message box = message(Message::Alert, text, parent);
+    box.buttons = buttons;
+    showSilenceable(box, prefKey);
+}
+
+/// Whether the user agreed.
+bool SimHost::showSilenceable(Message box, const QString& prefKey) {
     box.offersSilence = true;
     const Answer answer = m_desk.show(box);
     if (answer.silenced) {
@@ -399,6 +412,17 @@ bool SimHost::isPluginAvailable(const QString& name) const {
 
 bool SimHost::isPluginOkPattern(const QString& name) const {
     return imageplugins::needsOk(name);
+}
+
+QList<int> SimHost::getSyncCapableCameraTypes() const {
+    QList<int> types;
+    for (const Camera* camera : m_cameras.all()) {
+        const CameraModel& model = camera->model();
+        if (model.syncCapable && !types.contains(model.type)) {
+            types.append(model.type);
+        }
+    }
+    return types;
 }
 
 bool SimHost::isCapable(const QString& capability, DOC_Interface* doc, int /*head*/) const {

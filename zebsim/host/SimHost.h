@@ -22,6 +22,7 @@
 #include "host/StatusFlags.h"
 #include "host/Translator.h"
 #include "host/UpdateCycle.h"
+#include "signals/SimSignalDevices.h"
 
 #include <QPointer>
 #include <QWidget>
@@ -73,6 +74,7 @@ public:
     SimViewOps& viewOps() override { return m_viewOps; }
     SimMdi& mdi() override { return m_mdi; }
     SimUndo& undo() override { return m_undo; }
+    SimSignalDevices& signalDevices() override { return m_signalDevices; }
 
     int getOperatingMode() const override { return m_appStatus.mode(); }
     bool isLiveMode() const override { return m_appStatus.mode() == zeb::LiveMode; }
@@ -99,6 +101,8 @@ public:
     void warn(const QString& message, QWidget* parent) override;
     void warnList(const QString& message, const QStringList& messages, QWidget* parent) override;
     void alert(const QString& message, QWidget* parent) override;
+    void alertWithDontShowAgain(const QString& message, const QString& prefKey, QWidget* parent,
+                                const ButtonTexts& buttons) override;
     void alertList(const QString& message, const QStringList& messages, QWidget* parent) override;
     bool confirm(const QString& message) override;
     bool confirmModal(const QString& message, QWidget* parent, const ButtonTexts& buttons) override;
@@ -158,6 +162,7 @@ public:
     bool isToolActive(const QString& tool) const override;
     bool isPluginAvailable(const QString& name) const override;
     bool isPluginOkPattern(const QString& name) const override;
+    QList<int> getSyncCapableCameraTypes() const override;
     bool isCapable(const QString& capability, DOC_Interface* doc, int head) const override;
 
 private:
@@ -165,6 +170,7 @@ private:
     /// No exception reaches the event loop.
     void guarded(const std::function<void()>& work);
     bool isInPluginDialog(const QWidget* widget) const;
+    bool showSilenceable(Message box, const QString& prefKey);
     Message message(int kind, const QString& text, QWidget* parent) const;
     void storePref(const char* call, const QString& key, const QVariant& value);
 
@@ -199,4 +205,5 @@ private:
     SimViewOps m_viewOps;
     SimMdi m_mdi;
     SimUndo m_undo;
+    SimSignalDevices m_signalDevices;
 };
