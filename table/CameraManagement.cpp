@@ -1,5 +1,6 @@
 #include "CameraManagement.h"
 
+#include "ConnectedDocs.h"
 #include "DOC_Control.h"
 #include "DOC_Image.h"
 #include "DOC_Interface.h"

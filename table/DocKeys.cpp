@@ -2,7 +2,6 @@
 
 #include "DOC_Interface.h"
 #include "DOC_Lock.h"
-#include "ZebDocManager.h"
 
 DocKeyList toDocKeys(const QVariantList& keys) {
     DocKeyList docKeys;
@@ -23,17 +22,6 @@ QString keyText(const QVariantList& keys) {
         texts.append(key.toString());
     }
     return texts.join(QLatin1Char(','));
-}
-
-DocList connectedDocs(ZebDocManager& documents, const DocKeyList& keys) {
-    DocList docs;
-    for (const DOCKEY key : keys) {
-        DOC_Interface* doc = documents.getDoc(key, 1);
-        if (doc != nullptr && doc->isConnected()) {
-            docs.append(doc);
-        }
-    }
-    return docs;
 }
 
 bool isArmed(DOC_Interface& doc) {

@@ -5,16 +5,11 @@
 #include <QString>
 #include <QVariant>
 
-class ZebDocManager;
-
 /// Keys as a page hands them over, texts or numbers, in its order; what is no key is left out.
 DocKeyList toDocKeys(const QVariantList& keys);
 
 /// The keys as one text for the log.
 QString keyText(const QVariantList& keys);
-
-/// The documents of `keys` that are there and connected, in the order of the keys.
-DocList connectedDocs(ZebDocManager& documents, const DocKeyList& keys);
 
 /// Whether the head is ready to record or records.
 bool isArmed(DOC_Interface& doc);
