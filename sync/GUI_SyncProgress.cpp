@@ -1,0 +1,43 @@
+#include "GUI_SyncProgress.h"
+
+#include "RUN_SyncingThread.h"
+#include "Style.h"
+#include "ZebHost.h"
+
+#include <QCloseEvent>
+#include <QCoreApplication>
+
+GUI_SyncProgress::GUI_SyncProgress(ZebHost* host)
+    : GUI_ProgressDialog({}, {}, 0, 0, host->getMainWindow(), Qt::FramelessWindowHint, true) {
+    applyNativeStyle(*host, *this);
+    setLabelText(host->translate(QStringLiteral("Syncing")));
+}
+
+bool GUI_SyncProgress::run(RUN_SyncingThread& thread) {
+    m_running = true;
+    connect(&thread, &RUN_SyncingThread::complete, this, &GUI_SyncProgress::complete);
+    thread.start(QThread::InheritPriority);
+    exec();
+    // The application may be ending its event loops; the cameras are handed over all the same.
+    thread.wait();
+    QCoreApplication::sendPostedEvents(this, QEvent::MetaCall);
+    return m_result;
+}
+
+void GUI_SyncProgress::complete(bool result) {
+    m_running = false;
+    m_result = result;
+    close();
+}
+
+void GUI_SyncProgress::reject() {
+    if (!m_running) GUI_ProgressDialog::reject();
+}
+
+void GUI_SyncProgress::closeEvent(QCloseEvent* event) {
+    if (m_running) {
+        event->ignore();
+    } else {
+        GUI_ProgressDialog::closeEvent(event);
+    }
+}

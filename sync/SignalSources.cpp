@@ -1,0 +1,132 @@
+#include "SignalSources.h"
+
+#include "DOC_Control.h"
+#include "DOC_Interface.h"
+#include "DOC_VIGen.h"
+#include "SyncCamera.h"
+#include "SyncPreferences.h"
+#include "SyncState.h"
+#include "UTL_Exception.h"
+#include "ZebHost.h"
+#include "ZebSignalDevices.h"
+
+#include <QDebug>
+
+#include <algorithm>
+
+void SignalSources::connectGenerator() {
+    try {
+        openGenerator();
+    } catch (const std::exception& e) {
+        m_host.errorHandler(e);
+        if (m_state.generator) m_state.generator->disconnect();
+    }
+}
+
+void SignalSources::openGenerator() {
+    if (!syncprefs::isExternal(m_host)) return;
+    const QString address = syncprefs::generatorAddress(m_host);
+    if (address.isEmpty()) {
+        dropGenerator();
+        return;
+    }
+    if (!m_state.generator) {
+        auto generator = std::make_unique<DOC_VIGen>(&m_host);
+        if (!generator->loadDriver()) {
+            qCritical() << "visa64.dll not found.";
+            return;
+        }
+        m_state.generator = std::move(generator);
+    }
+    DOC_SignalGenerator& generator = *m_state.generator;
+    if (generator.isConnected()) return;
+    generator.connect(0, addressNumber(address));
+    if (!generator.isConnected())
+        throw UTL_Exception(m_host.translate(QStringLiteral("Could not connect with signal generator")));
+    if (!generator.isSupported())
+        throw UTL_Exception(m_host.translate(QStringLiteral("can not be connected because unsupported device.")));
+    if (m_state.frequency < 1) return;
+    const SignalOffer offer = SignalOffer::of(generator.getFrequency(), generator.getFrequencies());
+    if (needsFrequency(m_state.frequency, offer)) generator.setFrequency(m_state.frequency);
+}
+
+void SignalSources::dropGenerator() {
+    if (m_state.generator) m_state.generator->disconnect();
+    m_state.generator.reset();
+}
+
+void SignalSources::connectHubs() {
+    try {
+        openHubs();
+    } catch (const std::exception& e) {
+        m_host.errorHandler(e);
+        m_host.signalDevices().close();
+    }
+}
+
+void SignalSources::openHubs() {
+    if (!syncprefs::isExternal(m_host) || m_state.generator || syncprefs::port(m_host) != zeb::SyncPortHub) return;
+    ZebSignalDevices& devices = m_host.signalDevices();
+    devices.close();
+    const int wanted = syncprefs::hubAddresses(m_host).size();
+    if (wanted == 0) return;
+    devices.open(1);
+    if (devices.search(3, 1) != wanted)
+        throw UTL_Exception(m_host.translate(QStringLiteral("Failed to connect to Sync Hub")));
+    if (m_state.frequency < 1) return;
+    for (ZebSignalDevice* hub : masterHubs()) {
+        if (needsFrequency(m_state.frequency, SignalOffer::of(hub->getFrequency(), hub->getFrequencies())))
+            hub->setFrequency(m_state.frequency);
+    }
+}
+
+void SignalSources::setFrequency(int hertz) {
+    if (hertz < 1 || !syncprefs::isExternal(m_host)) return;
+    m_state.frequency = hertz;
+    if (isGeneratorConnected()) {
+        m_state.generator->setFrequency(hertz);
+    } else if (syncprefs::usesHubs(m_host)) {
+        for (ZebSignalDevice* hub : masterHubs()) hub->setFrequency(hertz);
+    }
+}
+
+bool SignalSources::isGeneratorConnected() const {
+    return m_state.generator && m_state.generator->isConnected();
+}
+
+bool SignalSources::isHubConnected() const {
+    const QStringList addresses = syncprefs::hubAddresses(m_host);
+    return std::any_of(addresses.begin(), addresses.end(), [this](const QString& address) {
+        const ZebSignalDevice* hub = m_host.signalDevices().findByAddress(address);
+        return hub != nullptr && hub->isConnected();
+    });
+}
+
+QList<ZebSignalDevice*> SignalSources::masterHubs() const {
+    QList<ZebSignalDevice*> hubs;
+    for (const QString& address : syncprefs::hubAddresses(m_host)) {
+        ZebSignalDevice* hub = m_host.signalDevices().findByAddress(address);
+        if (hub != nullptr && hub->isConnected() && hub->getRole() == zeb::HubRoleMaster) hubs.append(hub);
+    }
+    return hubs;
+}
+
+SignalOffer SignalSources::readGenerator() const {
+    if (!syncprefs::isExternal(m_host) || !isGeneratorConnected()) return {};
+    return SignalOffer::of(m_state.generator->getFrequency(), m_state.generator->getFrequencies());
+}
+
+SignalOffer SignalSources::readHub() const {
+    if (!syncprefs::isExternal(m_host) || !syncprefs::usesHubs(m_host)) return {};
+    const QList<ZebSignalDevice*> hubs = masterHubs();
+    if (hubs.isEmpty()) return {};
+    return SignalOffer::of(hubs.first()->getFrequency(), hubs.first()->getFrequencies());
+}
+
+bool SignalSources::givesFrequency() const {
+    return syncprefs::isExternal(m_host) && m_state.frequency >= 1 && (isGeneratorConnected() || isHubConnected());
+}
+
+bool SignalSources::agreesWith(DOC_Interface& doc) const {
+    return doc.control().getRecordRate(0) == static_cast<unsigned int>(m_state.frequency);
+}

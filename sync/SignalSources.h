@@ -1,0 +1,49 @@
+#pragma once
+
+#include "SignalChoice.h"
+
+#include <QList>
+
+class DOC_Interface;
+class ZebHost;
+class ZebSignalDevice;
+struct SyncState;
+
+/// Where the common signal comes from: a signal generator, or the Sync Hub that makes it. GUI thread.
+///
+/// A look at the generator costs a question to the instrument. All operations but the two that connect may throw what
+/// the host and its devices throw.
+class SignalSources {
+public:
+    SignalSources(ZebHost& host, SyncState& state) : m_host(host), m_state(state) {}
+
+    /// Connect the source that the preferences name and set it to the chosen frequency, if it offers that. They show
+    /// their own failures; the first runs an event loop while it waits for the instrument. Without an address the
+    /// generator goes.
+    void connectGenerator();
+    void connectHubs();
+
+    /// Chooses a frequency in hertz, and sends it to the source as it is; nothing below 1.
+    void setFrequency(int hertz);
+
+    bool isGeneratorConnected() const;
+    /// Whether one of the hubs that the preferences name is, in use or not.
+    bool isHubConnected() const;
+    SignalOffer readGenerator() const;
+    SignalOffer readHub() const;
+
+    /// Whether the cameras' rates have a frequency to agree with. One look answers for all cameras.
+    bool givesFrequency() const;
+    /// Whether the camera's record rate is the frequency of the signal.
+    bool agreesWith(DOC_Interface& doc) const;
+
+private:
+    void openGenerator();
+    void openHubs();
+    void dropGenerator();
+    /// The hubs that are there and make the signal, in the order of their addresses.
+    QList<ZebSignalDevice*> masterHubs() const;
+
+    ZebHost& m_host;
+    SyncState& m_state;
+};

@@ -1,0 +1,33 @@
+#include "SyncPreferences.h"
+
+#include "ZebHost.h"
+#include "ZebTypes.h"
+
+bool syncprefs::isInUse(const ZebHost& host) {
+    return host.isLiveMode() && host.getPrefBool(QStringLiteral("wren/settings/syncInEnable"));
+}
+
+bool syncprefs::isExternal(const ZebHost& host) {
+    return isInUse(host) && host.getPrefBool(QStringLiteral("sync/external"));
+}
+
+bool syncprefs::usesHubs(const ZebHost& host) {
+    return port(host) == zeb::SyncPortHub && !hubAddresses(host).isEmpty();
+}
+
+QStringList syncprefs::hubAddresses(const ZebHost& host) {
+    const QString addresses = host.getPrefString(QStringLiteral("sync/lport/ipaddress"));
+    return addresses.isEmpty() ? QStringList() : addresses.split(QLatin1Char(','));
+}
+
+QString syncprefs::generatorAddress(const ZebHost& host) {
+    return host.getPrefString(QStringLiteral("sync/generator/address"));
+}
+
+QString syncprefs::masterAddress(const ZebHost& host) {
+    return host.getPrefString(QStringLiteral("sync/masterCamera"));
+}
+
+int syncprefs::port(const ZebHost& host) {
+    return host.getPrefInt(QStringLiteral("sync/lport"));
+}
