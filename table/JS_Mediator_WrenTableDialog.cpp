@@ -8,9 +8,11 @@
 #include "DocKeys.h"
 #include "GUI_ProgressDialog.h"
 #include "GUI_WrenTableDialog.h"
+#include "LogFailure.h"
 #include "PLG_Interface.h"
 #include "ParameterEditing.h"
 #include "ReadyProgress.h"
+#include "SyncSettings.h"
 #include "TableSession.h"
 #include "TraceScope.h"
 #include "TraceText.h"
@@ -19,6 +21,7 @@
 #include "ZebDocManager.h"
 #include "ZebHost.h"
 #include "ZebSaver.h"
+#include "ZebSignalDevices.h"
 #include "records/RecordModel.h"
 
 #include <QCoreApplication>
@@ -58,6 +61,13 @@ JS_Mediator_WrenTableDialog::JS_Mediator_WrenTableDialog(ZebHost* host, const QS
 
 JS_Mediator_WrenTableDialog::~JS_Mediator_WrenTableDialog() {
     delete m_readyProgress;
+    logFailure([this] {
+        if (m_state.sync.generator) {
+            m_state.sync.generator->disconnect();
+            m_state.sync.generator.reset();
+        }
+        host().signalDevices().close();
+    });
 }
 
 /// A call that is refused while another waits and leaves its lines in the log.
@@ -140,11 +150,6 @@ DOCKEY JS_Mediator_WrenTableDialog::getBatchDocKey() {
 
 bool JS_Mediator_WrenTableDialog::isSuspendReduceMode(DOCKEY dockey) {
     return bridgeCall(*this, false, [&] { return RecordModel(host(), m_state).isSuspendReduceMode(dockey); });
-}
-
-/// There is no synchronisation yet: no settings.
-QString JS_Mediator_WrenTableDialog::getSyncSettings() {
-    return {};
 }
 
 PARTITIONNUMBER JS_Mediator_WrenTableDialog::getCurrentPartition() {
@@ -295,6 +300,44 @@ void JS_Mediator_WrenTableDialog::setLowLight(const QVariantList& keys, bool on)
 void JS_Mediator_WrenTableDialog::setLowLightType(const QVariantList& keys, bool check) {
     edit("setLowLightType", keys, "check", check,
          [&](const DocKeyList& docKeys) { ParameterEditing(host()).setLowLightType(docKeys, check); });
+}
+
+QString JS_Mediator_WrenTableDialog::getSyncSettings() {
+    return bridgeCall(*this, QString(), [this] { return SyncSettings(host(), m_state.sync).look().toJson(); });
+}
+
+bool JS_Mediator_WrenTableDialog::setSyncSettings() {
+    bool handedOver = false;
+    traced("setSyncSettings", {}, [&] { handedOver = _setSyncSettings(); });
+    return handedOver;
+}
+
+/// Reports its own failure: once the cameras were handed over, it answers true whatever comes then.
+bool JS_Mediator_WrenTableDialog::_setSyncSettings() {
+    bool handedOver = false;
+    bridgeCall(*this, [&] {
+        const TraceScope scope(methodName("_setSyncSettings"));
+        SyncSettings settings(host(), m_state.sync);
+        const SyncSettings::Outcome outcome = settings.synchronise();
+        handedOver = outcome != SyncSettings::Outcome::NotStarted;
+        if (outcome == SyncSettings::Outcome::Done) {
+            settings.remindOfWiring();
+        }
+    });
+    return handedOver;
+}
+
+void JS_Mediator_WrenTableDialog::connectSignalGenerator() {
+    traced("connectSignalGenerator", {}, [this] { SignalSources(host(), m_state.sync).connectGenerator(); });
+}
+
+void JS_Mediator_WrenTableDialog::connectSignalDistributors() {
+    traced("connectSignalDistributors", {}, [this] { SignalSources(host(), m_state.sync).connectHubs(); });
+}
+
+void JS_Mediator_WrenTableDialog::setSignalFrequency(int freq) {
+    traced("setSignalFrequency", traceArg(QStringLiteral("freq"), freq),
+           [&] { SignalSources(host(), m_state.sync).setFrequency(freq); });
 }
 
 /// There is no recording from the table yet.

@@ -46,7 +46,6 @@ public Q_SLOTS:
     int getFilter();
     DOCKEY getBatchDocKey();
     bool isSuspendReduceMode(DOCKEY dockey);
-    QString getSyncSettings();
     /// The partition that the current camera has in use; 0 and an empty text without one.
     PARTITIONNUMBER getCurrentPartition();
     QString getCurrentPartitionName();
@@ -78,6 +77,14 @@ public Q_SLOTS:
     void setLowLight(const QVariantList& keys, bool on);
     void setLowLightType(const QVariantList& keys, bool check);
 
+    // The common signal.
+    QString getSyncSettings();
+    /// Whether the cameras were handed over; the host tells the user itself when they did not take it.
+    bool setSyncSettings();
+    void connectSignalGenerator();
+    void connectSignalDistributors();
+    void setSignalFrequency(int freq);
+
     // Recording and live.
     void record();
     void save();
@@ -107,6 +114,7 @@ private:
     void edit(const char* method, const QVariantList& keys, const char* name, const QVariant& value, Work&& work);
 
     void openSession();
+    bool _setSyncSettings();
     GUI_WrenTableDialog* tableDialog() const;
     void activateTable();
 

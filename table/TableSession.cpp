@@ -1,14 +1,18 @@
 #include "TableSession.h"
 
 #include "CameraManagement.h"
+#include "ConnectedDocs.h"
 #include "DOC_Frames.h"
 #include "DOC_Interface.h"
 #include "DOC_Lock.h"
 #include "DocKeys.h"
 #include "DocumentGuard.h"
+#include "SignalSources.h"
 #include "TableState.h"
 #include "ZebDocManager.h"
 #include "ZebHost.h"
+
+#include <QDebug>
 
 #include <algorithm>
 
@@ -44,12 +48,23 @@ void TableSession::loadDefaultSettings() {
     if (!m_host.isFileMode() && !busy) {
         const DefaultSettings settings = DefaultSettings::read(m_host);
         m_state.groups = settings.groups;
-        m_state.syncFrequency = settings.syncFrequency.value_or(m_state.syncFrequency);
-        m_state.syncSignals = settings.syncSignals;
+        m_state.sync.frequency = settings.syncFrequency.value_or(m_state.sync.frequency);
+        m_state.sync.offered = settings.syncSignals;
         m_state.allowed = settings.allowed;
         m_state.areas = settings.areas;
+        connectSignalSources();
     }
     guard.release();
+}
+
+void TableSession::connectSignalSources() {
+    SignalSources sources(m_host, m_state.sync);
+    sources.connectGenerator();
+    qInfo() << "loadDefaultSettings"
+            << "connectSignalGenerator";
+    sources.connectHubs();
+    qInfo() << "loadDefaultSettings"
+            << "connectSignalDistributors";
 }
 
 void TableSession::close() {

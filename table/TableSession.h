@@ -21,6 +21,7 @@ public:
 private:
     void clearLocks(bool recordingToo);
     void clearRecordChecks();
+    void connectSignalSources();
     DocList connected() const;
 
     ZebHost& m_host;

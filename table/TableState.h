@@ -1,11 +1,11 @@
 #pragma once
 
 #include "DefaultSettings.h"
+#include "SyncState.h"
 #include "ZebTypes.h"
 
 #include <QList>
 #include <QString>
-#include <QStringList>
 
 #include <optional>
 
@@ -18,10 +18,7 @@ struct TableState {
     int filter = 0;
     QList<CameraGroup> groups;
     AllowedValues allowed;
-    /// Hertz of the external sync signal; 0 or below when there is none.
-    int syncFrequency = 0;
-    /// Frequencies of that signal on offer, decimal texts.
-    QStringList syncSignals;
+    SyncState sync;
     RecordAreas areas;
     /// A recording that the table follows is under way.
     bool recordRunning = false;

@@ -7,21 +7,6 @@
 
 namespace commonmembers {
 
-namespace {
-
-QString alertTextOf(DOC_Interface& doc) {
-    const DOC_Interface* device = doc.getParentDoc();
-    return alertText(device != nullptr ? device->getAlerts() : QStringList(), doc.getAlerts());
-}
-
-}  // namespace
-
-QString alertText(const QStringList& deviceAlerts, const QStringList& headAlerts) {
-    QStringList alerts = deviceAlerts + headAlerts;
-    alerts.removeDuplicates();
-    return alerts.join(QLatin1Char('\n'));
-}
-
 QString statusText(int cameraStatus) {
     switch (cameraStatus) {
         case zeb::CameraLive:
@@ -45,7 +30,6 @@ void addAlways(Record& record, DOC_Interface& doc, const RowState& row) {
     record.setFlag(QLatin1String("mobileSelected"), doc.isMobileSelected());
     record.setFlag(QLatin1String("selected"), row.selected);
     record.setFlag(QLatin1String("current"), row.current);
-    record.setText(QLatin1String("alert"), row.connected ? alertTextOf(doc) : QString());
 }
 
 void addLive(Record& record, DOC_Interface& doc, bool connected, bool lowLight) {

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QString>
-#include <QStringList>
 
 class DOC_Interface;
 class Record;
@@ -16,11 +15,8 @@ struct RowState {
     bool current = false;
 };
 
-/// Members that stand in every row, and those of every row in live mode.
+/// Members that stand in every row, but for its alerts, and those of every row in live mode.
 namespace commonmembers {
-
-/// Alerts of the device and of its head, a line each; none twice.
-QString alertText(const QStringList& deviceAlerts, const QStringList& headAlerts);
 
 /// Word for a camera's raw status; empty for a status that has none. The page knows its pictures by these words.
 QString statusText(int cameraStatus);

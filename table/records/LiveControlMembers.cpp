@@ -82,7 +82,7 @@ int exposureTime(int fraction, const QList<int>& fractions, const QList<int>& ti
 LiveControlMembers::LiveControlMembers(ZebHost& host, const TableState& state)
     : m_host(host),
       m_state(state),
-      m_inStepOnly(state.syncFrequency > 0 && host.isLiveMode() &&
+      m_inStepOnly(state.sync.frequency > 0 && host.isLiveMode() &&
                    host.getPrefBool(QStringLiteral("wren/settings/deviceSpeedPlaying")) &&
                    host.getPrefBool(QStringLiteral("wren/settings/syncInEnable"))),
       m_delimitRates(host.getPrefBool(QStringLiteral("display/recordRateInsertDelimiter"))),
@@ -118,7 +118,7 @@ void LiveControlMembers::addFrameRates(Record& record, DOC_Interface& doc, bool 
     const bool limited = !m_allowedRates.isEmpty() && !lowLight;
     QList<unsigned int> rates = limited ? m_allowedRates : doc.control().getRecordRateList();
     if (m_inStepOnly) {
-        rates = ratesInStep(rates, m_state.syncFrequency);
+        rates = ratesInStep(rates, m_state.sync.frequency);
     }
     const unsigned int current = doc.control().getRecordRate(0);
     if (rates.isEmpty()) {

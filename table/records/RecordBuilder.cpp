@@ -4,6 +4,7 @@
 #include "DOC_Frames.h"
 #include "DOC_Head.h"
 #include "DOC_Interface.h"
+#include "TableState.h"
 #include "ZebHost.h"
 #include "records/CameraInfoMembers.h"
 #include "records/IrigMembers.h"
@@ -11,8 +12,12 @@
 #include "records/RecordRequest.h"
 #include "records/SyncMembers.h"
 
-RecordBuilder::RecordBuilder(ZebHost& host, const TableState& state, int tab)
-    : m_host(host), m_tab(tab), m_live(host.isLiveMode()) {
+RecordBuilder::RecordBuilder(ZebHost& host, TableState& state, int tab)
+    : m_host(host),
+      m_tab(tab),
+      m_live(host.isLiveMode()),
+      m_signal(host, state.sync),
+      m_signalGivesFrequency(m_signal.givesFrequency()) {
     if (m_live && tab == LiveControlTab) {
         m_liveControl.emplace(host, state);
     } else if (!m_live && tab == MemoryInfoTab) {
@@ -23,12 +28,24 @@ RecordBuilder::RecordBuilder(ZebHost& host, const TableState& state, int tab)
 Record RecordBuilder::build(DOC_Interface& doc, const RowState& row) {
     Record record;
     commonmembers::addAlways(record, doc, row);
+    record.setText(QLatin1String("alert"), row.connected ? alertOf(doc) : QString());
     if (m_live) {
         addLive(record, doc, row.connected);
     } else {
         addMemory(record, doc, row.connected);
     }
     return record;
+}
+
+QString RecordBuilder::alertOf(DOC_Interface& doc) const {
+    const DOC_Interface* device = doc.getParentDoc();
+    QStringList alerts = device != nullptr ? device->getAlerts() : QStringList();
+    alerts += doc.getAlerts();
+    alerts.removeDuplicates();
+    if (m_signalGivesFrequency && !m_signal.agreesWith(doc)) {
+        alerts += m_host.translate(QStringLiteral("External sync signal and cameras recordrate are different"));
+    }
+    return alerts.join(QLatin1Char('\n'));
 }
 
 void RecordBuilder::addLive(Record& record, DOC_Interface& doc, bool connected) {

@@ -100,8 +100,8 @@ TEST_F(DefaultSettingsTest, everyOpeningReadsThemAnew) {
     EXPECT_EQ(values(firstRecord(bridge)["frameRates"]), (QStringList{"500", "1000"}));
     EXPECT_EQ(values(firstRecord(bridge)["resolutions"]), (QStringList{"1024 x 1024", "512 x 512"}));
     EXPECT_EQ(values(firstRecord(bridge)["shutterSpeeds"]), (QStringList{"1000", "5000"}));
-    EXPECT_EQ(bridge.state().syncFrequency, 250);
-    EXPECT_EQ(bridge.state().syncSignals, (QStringList{"125", "250"}));
+    EXPECT_EQ(bridge.state().sync.frequency, 250);
+    EXPECT_EQ(bridge.state().sync.offered, (QStringList{"125", "250"}));
     EXPECT_EQ(bridge.state().areas, (RecordAreas{{1000, {0, 99}}}));
 
     bridge.onClose();
@@ -109,9 +109,9 @@ TEST_F(DefaultSettingsTest, everyOpeningReadsThemAnew) {
     bridge.onOpen();
     EXPECT_EQ(values(firstRecord(bridge)["frameRates"]).size(), 13) << "the camera's own";
     EXPECT_EQ(values(firstRecord(bridge)["resolutions"]).size(), 5);
-    EXPECT_TRUE(bridge.state().syncSignals.isEmpty());
+    EXPECT_TRUE(bridge.state().sync.offered.isEmpty());
     EXPECT_TRUE(bridge.state().areas.isEmpty());
-    EXPECT_EQ(bridge.state().syncFrequency, 250) << "the frequency stays as it was";
+    EXPECT_EQ(bridge.state().sync.frequency, 250) << "the frequency stays as it was";
     EXPECT_EQ(bridge.state().groups.size(), 2) << "groups have no switch";
 }
 

@@ -373,7 +373,7 @@ TEST_F(RecordModelTest, framesReadAsTheUserLikesThemWhereTheyAreNotEdited) {
 TEST_F(RecordModelTest, ratesFollowTheSyncSignal) {
     connectAll();
     state.allowed.frameRates = QStringList{"0", "250", "300", "1000", "2000"};
-    state.syncFrequency = 1000;
+    state.sync.frequency = 1000;
     const auto offered = [this] { return valuesOf(row(records(R"({"tab":1})"), 0).value("frameRates")); };
     EXPECT_EQ(offered().size(), 5) << "without the settings all rates stay";
     host.setPrefBool("wren/settings/deviceSpeedPlaying", true);

@@ -1,0 +1,194 @@
+#include "DOC_Control.h"
+#include "DOC_Interface.h"
+#include "JS_Mediator_WrenDefaultSettingsDialog.h"
+#include "JS_Mediator_WrenTableDialog.h"
+#include "PLG_wren.h"
+#include "TableFixture.h"
+#include "camera/Rig.h"
+
+#include <QApplication>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QPointer>
+#include <QSemaphore>
+#include <QTest>
+#include <QTimer>
+
+namespace {
+
+/// Three cameras of one model, in a chain. There is no driver for a signal generator beside this program.
+class SynchronisingTest : public TableFixture {
+protected:
+    SynchronisingTest() {
+        host.setRig(Rig::standard(3));
+        connectAll();
+        host.setPrefBool("wren/settings/syncInEnable", true);
+        host.setPrefBool("alert/setsynchronization", true);
+        plugin.setHost(&host);
+        bridge = std::make_unique<JS_Mediator_WrenTableDialog>(&host, "wrentabledialog", &plugin);
+        calls();
+    }
+
+    QString settings(const char* member) {
+        const QJsonValue value = QJsonDocument::fromJson(bridge->getSyncSettings().toUtf8()).object()[member];
+        return QString::fromUtf8(QJsonDocument(QJsonArray{value}).toJson(QJsonDocument::Compact));
+    }
+
+    /// What the cameras got since the last asking.
+    QStringList handedOver() { return calls().filter("syncCameras"); }
+
+    PLG_wren plugin;
+    std::unique_ptr<JS_Mediator_WrenTableDialog> bridge;
+};
+
+TEST_F(SynchronisingTest, aChainNeedsTwoCamerasAndShowsNoFrequencies) {
+    expectJson(bridge->getSyncSettings(),
+               R"({"syncEnable":true,"syncExecuteEnable":true,"syncSignal":"","syncSignals":[],
+                   "signalGeneratorAvailable":false,"signalGeneratorConnected":false,"masterHubAvailable":false,
+                   "masterHubConnected":false})");
+    for (const DOCKEY key : {2, 3}) change(key, {{"connected", false}});
+    EXPECT_EQ(settings("syncExecuteEnable"), "[false]");
+    host.setPrefBool("sync/external", true);
+    EXPECT_EQ(settings("syncExecuteEnable"), "[true]") << "one is enough for a signal from outside";
+    change(1, {{"connected", false}});
+    EXPECT_EQ(settings("syncExecuteEnable"), "[false]");
+
+    for (const int mode : {zeb::MemoryMode, zeb::FileMode}) {
+        host.appStatus().enterMode(mode);
+        expectJson(bridge->getSyncSettings(),
+                   R"({"syncEnable":false,"syncExecuteEnable":false,"syncSignal":"","syncSignals":[],
+                       "signalGeneratorAvailable":false,"signalGeneratorConnected":false,"masterHubAvailable":false,
+                       "masterHubConnected":false})");
+        EXPECT_FALSE(bridge->setSyncSettings());
+    }
+    EXPECT_EQ(handedOver(), QStringList());
+    EXPECT_EQ(desk.texts(), QStringList());
+}
+
+TEST_F(SynchronisingTest, handsTheCamerasOverAndRemindsOfTheWiringUntilTheUserHasHadEnough) {
+    host.setPrefString("sync/masterCamera", host.docManager().getDocAny(2)->control().getAddress(1));
+    host.setPrefInt("sync/lport", 1);
+    host.setPrefInt("sync/generator/input", 1);
+    host.setPrefInt("wren/settings/triggerIn", zeb::SignalTrigPos);
+    const QString notice =
+        "When using the software trigger, please check the wiring of the TRIG IN terminal and enable 'Do not input "
+        "software trigger to slave camera'";
+    EXPECT_TRUE(bridge->setSyncSettings());
+    EXPECT_EQ(handedOver(), QStringList{"ZebCameraOps::syncCameras [[2,1,3],2,1,false,false,1,-1,0]"});
+    EXPECT_EQ(desk.texts(), QStringList{notice});
+
+    host.setPrefInt("wren/settings/triggerIn", zeb::SignalTrigNeg);
+    host.setPrefString("sync/masterCamera", "10.9.8.7");
+    desk.answers = {{true, true}};
+    EXPECT_TRUE(bridge->setSyncSettings());
+    EXPECT_EQ(handedOver(), QStringList{"ZebCameraOps::syncCameras [[1,2,3],1,1,false,false,1,-1,1]"});
+    EXPECT_TRUE(bridge->setSyncSettings());
+    EXPECT_EQ(desk.texts(), (QStringList{notice, notice})) << "the third time it is silent";
+}
+
+TEST_F(SynchronisingTest, whatFailsBeforeTheCamerasAreReachedChangesNothing) {
+    const struct {
+        const char* sentence;
+        QVariantMap camera;
+        QString message;
+    } cases[] = {
+        {"low light",
+         {{"lowLight", true}},
+         "Synchronization setting is impossible due to the presence of low light camera."},
+        {"another trigger mode",
+         {{"triggerMode", zeb::TriggerEnd}},
+         "Sync setting is possible only when all cameras are in the same trigger mode."},
+        {"dual slope before automatic exposure",
+         {{"dualSlope", 1}, {"autoExposure", true}},
+         "Synchronization setting can not be done because there is a dual slope shutter camera."},
+        {"automatic exposure",
+         {{"autoExposure", true}},
+         "Synchronization setting is impossible because there is a camera with automatic exposure control."},
+    };
+    const QVariantMap fit{
+        {"lowLight", false}, {"triggerMode", zeb::TriggerStart}, {"dualSlope", 0}, {"autoExposure", false}};
+    for (const auto& each : cases) {
+        desk.shown.clear();
+        change(2, each.camera);
+        EXPECT_FALSE(bridge->setSyncSettings()) << each.sentence;
+        EXPECT_EQ(desk.texts(), QStringList{each.message}) << each.sentence;
+        EXPECT_EQ(handedOver(), QStringList()) << each.sentence;
+        change(2, fit);
+    }
+    change(2, {{"lowLight", true}, {"connected", false}});
+    EXPECT_TRUE(bridge->setSyncSettings()) << "a camera that is not connected keeps nobody from it";
+    EXPECT_EQ(handedOver(), QStringList{"ZebCameraOps::syncCameras [[1,3],1,0,false,false,0,-1,0]"});
+    change(2, fit);
+
+    desk.shown.clear();
+    host.setRig(Rig::fromFile("eight-mixed"));
+    EXPECT_FALSE(bridge->setSyncSettings());
+    EXPECT_EQ(desk.texts(), QStringList{"Dummy camera can not set synchronization"});
+    EXPECT_EQ(handedOver(), QStringList());
+}
+
+TEST_F(SynchronisingTest, aCameraThatFailsIsToldByTheHostAndTheTableGoesOn) {
+    host.faults().plant(2, "synchronise", {"no lock on the signal", 0, false});
+    EXPECT_TRUE(bridge->setSyncSettings()) << "the cameras were handed over";
+    EXPECT_TRUE(QTest::qWaitFor([this] { return !desk.shown.isEmpty(); }));
+    ASSERT_EQ(desk.shown.size(), 1) << "the notice does not come";
+    EXPECT_TRUE(desk.texts().first().contains("Camera 2"));
+    EXPECT_TRUE(desk.texts().first().contains("no lock on the signal"));
+}
+
+TEST_F(SynchronisingTest, whileTheCamerasAreHandedOverNothingElseReachesThem) {
+    host.setPrefBool("alert/setsynchronization", false);
+    QSemaphore handOver;
+    QObject::connect(
+        &host.journal(), &Journal::recorded, &host.journal(),
+        [&handOver](const QString& call) {
+            if (call == QLatin1String("ZebCameraOps::syncCameras")) handOver.acquire();
+        },
+        Qt::DirectConnection);
+    QPointer<QWidget> progress;
+    QTimer::singleShot(0, bridge.get(), [&] {
+        progress = QApplication::activeModalWidget();
+        ASSERT_TRUE(progress);
+        QTest::keyClick(progress, Qt::Key_Escape);
+        progress->close();
+        bridge->connect({1, 2, 3}, false, true);
+        bridge->setFrameRate({1}, "500");
+        EXPECT_TRUE(progress->isVisible());
+        EXPECT_TRUE(stateOf(1, "connected").toBool()) << "a forced disconnection waits";
+        handOver.release();
+    });
+    EXPECT_TRUE(bridge->setSyncSettings());
+    EXPECT_FALSE(progress);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return !stateOf(1, "connected").toBool(); })) << "and is not lost";
+    EXPECT_EQ(stateOf(1, "rate").toInt(), 1000) << "a click of the page is refused";
+}
+
+TEST_F(SynchronisingTest, withoutADriverTheGeneratorIsNotOffered) {
+    host.setPrefBool("sync/external", true);
+    host.setPrefString("sync/generator/address", "192.168.0.200");
+    Course course;
+    bridge->connectSignalGenerator();
+    EXPECT_EQ(course.take().filter("visa64.dll").size(), 1);
+    EXPECT_EQ(settings("signalGeneratorAvailable"), "[false]");
+    EXPECT_TRUE(bridge->setSyncSettings());
+    EXPECT_EQ(handedOver(), QStringList{"ZebCameraOps::syncCameras [[1,2,3],1,0,true,false,0,-1,0]"});
+    EXPECT_TRUE(desk.texts().filter("Could not connect").isEmpty());
+}
+
+TEST_F(SynchronisingTest, theDefaultSettingsOfferTheCamerasThatCanLead) {
+    JS_Mediator_WrenDefaultSettingsDialog settings(&host);
+    change(2, {{"name", "The \"second\""}});
+    const QString address = host.docManager().getDocAny(2)->control().getAddress(1);
+    const auto devices = [&settings] {
+        return QJsonDocument::fromJson(settings.getMasterCameraList().toUtf8()).object()["devices"].toArray();
+    };
+    ASSERT_EQ(devices().size(), 3);
+    EXPECT_EQ(devices()[1].toObject(), (QJsonObject{{"address", address}, {"name", "The \"second\""}}));
+    Course course;
+    for (const DOCKEY key : {2, 3}) change(key, {{"connected", false}});
+    EXPECT_EQ(devices().size(), 1);
+    EXPECT_EQ(course.take(), QStringList{"warning: Not enough devices to sync settings."});
+}
+
+}  // namespace
