@@ -1,25 +1,25 @@
 #include "LiveObjects.h"
 #include "PLG_Interface.h"
-#include "PluginDoc.h"
-#include "PluginHost.h"
+#include "support/TestHost.h"
 
 #include <QDialog>
 #include <QLibrary>
 #include <QTest>
+#include <QWebView>
 
 #include <gtest/gtest.h>
 
 namespace {
 
 /// Loads the library, opens and closes the table once its page is there, unloads the library.
-void useLibrary(PluginHost& host) {
+void useLibrary(SimHost& host) {
     QLibrary library(QStringLiteral(WREN_LIBRARY));
     using Maker = PLG_Interface* (*)();
     const auto make = reinterpret_cast<Maker>(library.resolve("makeButtonPlugin"));
     ASSERT_TRUE(make) << library.errorString().toStdString();
     std::unique_ptr<PLG_Interface> plugin(make());
     plugin->setHost(&host);
-    host.plugins[plugin->getName()] = plugin.get();
+    host.appStatus().registerPlugin(plugin.get());
     plugin->activate();
     QDialog* dialog = plugin->getDialog(true);
     ASSERT_TRUE(dialog);
@@ -27,7 +27,7 @@ void useLibrary(PluginHost& host) {
     EXPECT_TRUE(QTest::qWaitFor([dialog] { return dialog->findChild<QWebView*>()->title() == QLatin1String("WREN"); }));
     plugin->closeDialog();
     plugin->deactivate();
-    host.plugins.clear();
+    host.appStatus().unregisterPlugin(plugin.get());
     plugin.reset();
     EXPECT_TRUE(library.unload());
     QCoreApplication::processEvents();
@@ -36,11 +36,10 @@ void useLibrary(PluginHost& host) {
 }  // namespace
 
 TEST(Library, leavesTheHostAsItWas) {
-    PluginDoc doc(1);
-    PluginHost host;
-    host.docs[1] = &doc;
-    host.connectedKeys = {1};
-    host.prefs[QStringLiteral("wren/table/interval")] = 1;
+    TestHost test(Rig::standard(1));
+    SimHost& host = test.host;
+    test.camera(1).set(&CameraState::connected, true);
+    host.prefs().setValue(QStringLiteral("wren/table/interval"), 1);
     Leftovers::now();
     useLibrary(host);  // the first load starts threads that last
     const Leftovers first = Leftovers::now();
@@ -51,6 +50,6 @@ TEST(Library, leavesTheHostAsItWas) {
     EXPECT_LT(last.objects, first.objects + Rounds);
     EXPECT_LT(last.timers, first.timers + Rounds);
     EXPECT_LT(last.threads, first.threads + Rounds);
-    EXPECT_TRUE(host.prefs.keys().contains(QStringLiteral("wren/ready")))
+    EXPECT_TRUE(host.prefs().values().contains(QStringLiteral("wren/ready")))
         << "what the host has kept of the library's texts is still there";
 }

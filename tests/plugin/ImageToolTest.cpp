@@ -1,4 +1,5 @@
 #include "TestPlugin.h"
+#include "camera/Rig.h"
 
 #include <QApplication>
 #include <QKeyEvent>
@@ -17,13 +18,13 @@ TEST_F(ImageTool, selectsDocumentsForAToolAsItSaysItself) {
         {"an inactive plug-in changes nothing", [](TestPlugin&) {}, {}},
         {"a tool with a kind becomes the quick tool and is selected",
          [](TestPlugin& p) { p.m_toolKind = 4; },
-         {"setQuickTool tool true", "toolSelect on tool"}},
+         {"setQuickTool tool true", "toolSelect tool true"}},
         {"an active tool selects all documents",
          [](TestPlugin& p) {
              p.m_toolActive = true;
              p.m_buttonType = 2;
          },
-         {"setQuickTool tool false", "toolSelectAll all tool"}},
+         {"setQuickTool tool false", "toolSelectAll tool true true"}},
         {"or the chosen ones, as a quick tool",
          [](TestPlugin& p) {
              p.m_toolActive = true;
@@ -31,7 +32,7 @@ TEST_F(ImageTool, selectsDocumentsForAToolAsItSaysItself) {
              p.m_selectKind = 1;
              p.m_quickKind = 1;
          },
-         {"setActiveQuickTool", "setQuickTool tool true", "toolSelectAll chosen tool"}},
+         {"setActiveQuickTool", "setQuickTool tool true", "toolSelectAll tool false true"}},
         {"the lock of many cameras is no tool of a document",
          [](TestPlugin& p) {
              p.m_name = QStringLiteral("t_multilock");
@@ -40,7 +41,7 @@ TEST_F(ImageTool, selectsDocumentsForAToolAsItSaysItself) {
          {}},
         {"the live view restarts under the guard",
          [](TestPlugin& p) { p.m_pauseLiveForDialog = true; },
-         {"pauseLive", "restartLiveAfterTool", "refresh 1", "resumeLive"}},
+         {"pauseLive 0", "restartLiveAfterTool 0", "refresh 1 true", "resumeLive"}},
         {"but a button with a dialog leaves that to the dialog",
          [](TestPlugin& p) {
              p.m_pauseLiveForDialog = true;
@@ -77,22 +78,22 @@ TEST_F(ImageTool, livesTheLifeOfATool) {
     plugin.m_buttonType = 2;
     plugin.m_quickKind = 1;
     EXPECT_THAT(liveThrough(),
-                ElementsAre("setActiveQuickTool", "setQuickTool tool true", "toolSelectAll all tool",  // activate
-                            "toolBegin tool", "closeAuxiliaryPanel",                                   // confirm
-                            "toolBegin tool", "closeAuxiliaryPanel",                                   // apply
-                            "toolEnd tool", "closeAuxiliaryPanel",                                     // cancel
-                            "pauseLive", "undo clear", "refresh 1", "resumeLive",                      // reset
-                            "pauseLive", "toolApply tool", "refresh 1", "resumeLive",                  // preview
-                            "toolApply tool", "setActiveQuickTool tool",                               // again
-                            "undo clear",                                                              // end
-                            "closeAuxiliaryPanel"));                                                   // deactivate
+                ElementsAre("setActiveQuickTool", "setQuickTool tool true", "toolSelectAll tool true true",  // activate
+                            "toolBegin 1 tool", "closeAuxiliaryPanel",                                       // confirm
+                            "toolBegin 1 tool", "closeAuxiliaryPanel",                                       // apply
+                            "toolEnd tool", "closeAuxiliaryPanel",                                           // cancel
+                            "pauseLive 0", "clear", "refresh 1 true", "resumeLive",                          // reset
+                            "pauseLive 0", "toolApply tool", "refresh 1 true", "resumeLive",                 // preview
+                            "toolApply tool", "setActiveQuickTool tool",                                     // again
+                            "clear",                                                                         // end
+                            "closeAuxiliaryPanel"));  // deactivate
 
     plugin.m_attributeL = true;
     plugin.m_pauseLiveForDialog = true;
     plugin.activate();
     taken();
     plugin.endTool();
-    EXPECT_THAT(taken(), ElementsAre("undo clear", "toolEnd tool", "pauseLive", "restartLiveAfterEnd", "refresh 1",
+    EXPECT_THAT(taken(), ElementsAre("clear", "toolEnd tool", "pauseLive 0", "restartLiveAfterEnd 0", "refresh 1 true",
                                      "resumeLive"))
         << "the host still waits for the tool's end";
     plugin.deactivate();
@@ -103,7 +104,7 @@ TEST_F(ImageTool, dragsTheRectangleOfADocument) {
     TestPlugin plugin(&host);
     plugin.setAttributeO(false);
     plugin.setAttributeP(false);
-    doc.toolRect = QRect(100, 50, 200, 100);
+    setToolRect(QRect(100, 50, 200, 100));
 
     plugin.mouseMove(QPoint(200, 50), 1);
     EXPECT_EQ(plugin.getCursorHandle(), ToolRectangle::TopEdge);
@@ -117,19 +118,20 @@ TEST_F(ImageTool, dragsTheRectangleOfADocument) {
     plugin.mouseMove(QPoint(200, 60), 2);
     plugin.mouseReleaseAt(QPoint(200, 500), 1);
     plugin.mouseRelease(1);
-    EXPECT_THAT(taken(), ElementsAre("undo begin ''", "setToolRect tool (100,40)-(299,149)",
-                                     "setToolRect tool (100,40)-(299,149)", "undo end"))
+    EXPECT_THAT(taken(), ElementsAre("beginMacro", "setToolRect 1 tool 100,40,200,110",
+                                     "setToolRect 1 tool 100,40,200,110", "endMacro"))
         << "it stays where its edge stopped; a document that is gone is passed over";
     EXPECT_FALSE(plugin.isDragging());
     EXPECT_EQ(plugin.getDragStart(), QPoint(200, 50));
     EXPECT_EQ(plugin.getLastPoint(), QPoint(200, 500));
     EXPECT_EQ(QApplication::overrideCursor(), nullptr);
 
-    host.activeTool = QStringLiteral("t_crosscursor");
+    host.docManager().setActiveQuickTool("t_crosscursor");
+    taken();
     plugin.mousePress(QPoint(200, 100), 1);
     plugin.mouseMove(QPoint(250, 100), 1);
     plugin.mouseRelease(1);
-    EXPECT_THAT(taken(), ElementsAre("undo begin ''", "undo end")) << "the cross cursor has the mouse";
+    EXPECT_THAT(taken(), ElementsAre("beginMacro", "endMacro")) << "the cross cursor has the mouse";
 }
 
 TEST_F(ImageTool, takesItsCursorAlongAndNoOther) {
@@ -137,12 +139,12 @@ TEST_F(ImageTool, takesItsCursorAlongAndNoOther) {
     {
         TestPlugin plugin(&host);
         plugin.resetCursor();
-        plugin.setCursorForHandle(&doc, ToolRectangle::Inside);
-        plugin.setCursorForHandle(&doc, ToolRectangle::LeftEdge);
+        plugin.setCursorForHandle(host.doc(1), ToolRectangle::Inside);
+        plugin.setCursorForHandle(host.doc(1), ToolRectangle::LeftEdge);
         EXPECT_EQ(QApplication::overrideCursor()->shape(), Qt::SizeHorCursor);
-        plugin.setCursorForHandle(&doc, ToolRectangle::Outside);
+        plugin.setCursorForHandle(host.doc(1), ToolRectangle::Outside);
         EXPECT_EQ(QApplication::overrideCursor()->shape(), Qt::WaitCursor);
-        plugin.setCursorForHandle(&doc, ToolRectangle::Inside);
+        plugin.setCursorForHandle(host.doc(1), ToolRectangle::Inside);
     }
     ASSERT_NE(QApplication::overrideCursor(), nullptr);
     EXPECT_EQ(QApplication::overrideCursor()->shape(), Qt::WaitCursor);
@@ -152,8 +154,8 @@ TEST_F(ImageTool, takesItsCursorAlongAndNoOther) {
 
 TEST_F(ImageTool, movesTheRectangleByKeys) {
     TestPlugin plugin(&host);
-    doc.toolRect = QRect(100, 50, 200, 100);
-    host.rotation = 0.25;
+    setToolRect(QRect(100, 50, 200, 100));
+    change({{"rotation", 0.25}});
     QKeyEvent up(QEvent::KeyPress, Qt::Key_Up, Qt::NoModifier);
     QKeyEvent enter(QEvent::KeyPress, Qt::Key_Enter, Qt::NoModifier);
 
@@ -161,34 +163,34 @@ TEST_F(ImageTool, movesTheRectangleByKeys) {
     EXPECT_FALSE(plugin.isKeyStepped());
     plugin.keyPress(&up);
     EXPECT_TRUE(plugin.isKeyStepped());
-    EXPECT_THAT(taken(), ElementsAre("setToolRect tool (99,50)-(298,149)")) << "the image stands turned";
+    EXPECT_THAT(taken(), ElementsAre("setToolRect 1 tool 99,50,200,100")) << "the image stands turned";
     plugin.clearKeyStepped();
-    doc.toolRect = QRect();
+    setToolRect(QRect());
     plugin.keyPress(&up);
     EXPECT_FALSE(plugin.isKeyStepped()) << "there is no rectangle";
 }
 
 TEST_F(ImageTool, answersForDocumentsThatMayBeGone) {
     TestPlugin plugin(&host);
+    change({{"point", QVariantList{11, 22}}, {"binningPower", 2}, {"scale", 2.0}});
     EXPECT_TRUE(plugin.hasDoc(1));
     EXPECT_FALSE(plugin.hasDoc(9));
     EXPECT_EQ(plugin.getDocPoint(1), QPoint(11, 22));
     EXPECT_EQ(plugin.getDocPoint(9), QPoint());
 
     const QRect rect(QPoint(16, 8), QPoint(31, 15));
-    doc.binning = 2;
-    doc.scale = 2.0;
-    EXPECT_EQ(plugin.toSensorRect(&doc, rect), QRect(QPoint(8, 4), QPoint(15, 7))) << "it cannot bin";
-    host.canBin = true;
-    EXPECT_EQ(plugin.toSensorRect(&doc, rect), QRect(QPoint(2, 1), QPoint(3, 1)));
-    doc.scale = 0.0;
-    EXPECT_EQ(plugin.toSensorRect(&doc, rect), QRect(QPoint(4, 2), QPoint(7, 3))) << "it was not scaled";
+    EXPECT_EQ(plugin.toSensorRect(host.doc(1), rect), QRect(QPoint(2, 1), QPoint(3, 1)));
+    change({{"scale", 0.0}});
+    EXPECT_EQ(plugin.toSensorRect(host.doc(1), rect), QRect(QPoint(4, 2), QPoint(7, 3))) << "it was not scaled";
 
     plugin.setRect(rect);
-    EXPECT_EQ(plugin.getRectParameters(&doc, true).value(QStringLiteral("PosX")), 16);
-    doc.toolRect = QRect(3, 4, 5, 6);
-    EXPECT_EQ(plugin.getRectParameters(&doc, true).value(QStringLiteral("PosX")), 3);
+    EXPECT_EQ(plugin.getRectParameters(host.doc(1), true).value(QStringLiteral("PosX")), 16);
+    setToolRect(QRect(3, 4, 5, 6));
+    EXPECT_EQ(plugin.getRectParameters(host.doc(1), true).value(QStringLiteral("PosX")), 3);
     EXPECT_FALSE(plugin.getRectParameters(nullptr, true).contains(QStringLiteral("ZoomRate")));
+    host.setRig(Rig::fromFile("eight-mixed"));
+    host.camera(5).change({{"connected", true}, {"binningPower", 2}, {"scale", 2.0}});
+    EXPECT_EQ(plugin.toSensorRect(host.doc(5), rect), QRect(QPoint(8, 4), QPoint(15, 7))) << "it cannot bin";
     plugin.resetRect();
     EXPECT_EQ(plugin.getRect(), QRect(QPoint(0, 0), QPoint(-1, -1)));
 }

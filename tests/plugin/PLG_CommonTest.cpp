@@ -58,7 +58,7 @@ TEST_F(PLG_CommonTest, restartsTheLiveViewAndItsQuickToolOnOpening) {
     plugin.getDialog(true);
     taken();
     plugin.showDialog();
-    EXPECT_THAT(taken(), ElementsAre("pauseLive", "restartLiveAfterTool", "refresh 1", "resumeLive",
+    EXPECT_THAT(taken(), ElementsAre("pauseLive 0", "restartLiveAfterTool 0", "refresh 1 true", "resumeLive",
                                      "setActiveQuickTool", "setQuickTool tool true"));
 }
 
@@ -67,13 +67,13 @@ TEST_F(PLG_CommonTest, closesInOrder) {
     plugin.m_pauseLiveForDialog = true;
     auto* dialog = plugin.shownDialog();
     bool visibleThen = true;
-    host.onClosePlugin = [&] { visibleThen = dialog->isVisible(); };
+    plugin.onDeactivate = [&] { visibleThen = dialog->isVisible(); };
     taken();
 
     plugin.slotModelessPatternDialogClosed();
-    EXPECT_THAT(taken(),
-                ElementsAre("pauseLive", "restartLiveAfterEnd", "refresh 1", "resumeLive", "deterUpdateUI true",
-                            "closePlugin tool", "deterUpdateUI false", "updateUI 4294967295"));
+    EXPECT_THAT(taken(), ElementsAre("pauseLive 0", "restartLiveAfterEnd 0", "refresh 1 true", "resumeLive",
+                                     "deterUpdateUI true", "closePlugin tool", "deterUpdateUI false",
+                                     "updateUI 4294967295 true"));
     EXPECT_FALSE(visibleThen);
     EXPECT_EQ(plugin.getDialog(false), dialog);
 }
@@ -85,7 +85,7 @@ TEST_F(PLG_CommonTest, endsTheDeterrenceWhenClosingFails) {
     taken();
     EXPECT_NO_THROW(plugin.slotModelessPatternDialogClosed());
     EXPECT_THAT(taken(), ElementsAre("deterUpdateUI true", "closePlugin tool", "deterUpdateUI false",
-                                     "updateUI 4294967295", "errorHandler closePlugin"));
+                                     "updateUI 4294967295 true", "errorHandler closePlugin"));
     EXPECT_FALSE(dialog->isVisible());
 }
 
@@ -103,7 +103,7 @@ TEST_F(PLG_CommonTest, closesByTheWindowToo) {
     plugin.m_buttonType = 6;
     plugin.closeByType();
     EXPECT_THAT(taken(), ElementsAre("notifyPluginClosed", "deterUpdateUI true", "closePlugin tool",
-                                     "deterUpdateUI false", "updateUI 4294967295"));
+                                     "deterUpdateUI false", "updateUI 4294967295 true"));
     EXPECT_FALSE(plugin.isDialogVisible());
 }
 
@@ -135,7 +135,7 @@ TEST_F(PLG_CommonTest, mayGoWhileItsHostOrItsPageStillWaits) {
          [this](TestPlugin* plugin) {
              auto* dialog = plugin->shownDialog();
              QPointer<JS_Mediator> bridge = dialog->getBridge();
-             host.onBox = [plugin] { delete plugin; };
+             host.desk.whileStanding = [plugin] { delete plugin; };
              bridge->confirm(QStringLiteral("Go on?"));
              EXPECT_TRUE(bridge) << "its slot has just ended";
              static_cast<JS_Mediator_ModelessPatternDialog*>(bridge.data())->onClose();
@@ -143,9 +143,9 @@ TEST_F(PLG_CommonTest, mayGoWhileItsHostOrItsPageStillWaits) {
              EXPECT_FALSE(bridge);
          }},
         {"the host closes it for good",
-         [this](TestPlugin* plugin) {
+         [](TestPlugin* plugin) {
              plugin->shownDialog();
-             host.onClosePlugin = [plugin] { delete plugin; };
+             plugin->onDeactivate = [plugin] { delete plugin; };
              plugin->slotModelessPatternDialogClosed();
          }},
         {"its page deletes it at the close",
@@ -172,8 +172,6 @@ TEST_F(PLG_CommonTest, mayGoWhileItsHostOrItsPageStillWaits) {
         QPointer<TestPlugin> plugin = new TestPlugin(&host);
         row.act(plugin);
         EXPECT_FALSE(plugin);
-        host.onBox = [] {};
-        host.onClosePlugin = [] {};
     }
     EXPECT_THAT(QApplication::topLevelWidgets(), IsEmpty());
 }
@@ -189,9 +187,9 @@ TEST_F(PLG_CommonTest, standsPressedByItsType) {
     } rows[] = {
         {"type 1 always", 1, [] {}, true},
         {"type 2 not unless the document says so", 2, [] {}, false},
-        {"type 3 when the document says so", 3, [this] { doc.toolChecked = true; }, true},
+        {"type 3 when the document says so", 3, [&] { host.docManager().toolSelect("tool", true); }, true},
         {"type 4 not without a current plug-in", 4, [] {}, false},
-        {"type 4 while it is the current plug-in", 4, [&] { host.currentPlugin = &other; }, true},
+        {"type 4 while it is the current plug-in", 4, [&] { host.appStatus().setCurrentPlugin(&other); }, true},
         {"type 4 not while another is", 4, [&] { other.m_name = QStringLiteral("other"); }, false},
         {"type 6 not while it has no dialog", 6, [] {}, false},
         {"type 6 while its dialog is visible", 6, [&] { plugin.shownDialog(); }, true},
@@ -201,7 +199,7 @@ TEST_F(PLG_CommonTest, standsPressedByItsType) {
     for (const auto& row : rows) {
         plugin.m_buttonType = row.type;
         row.arrange();
-        EXPECT_EQ(plugin.isChecked(&doc, 0), row.pressed) << row.sentence;
+        EXPECT_EQ(plugin.isChecked(host.doc(1), 0), row.pressed) << row.sentence;
     }
     plugin.m_modeMask = 7;
     EXPECT_FALSE(plugin.isChecked(nullptr, 0));
@@ -215,9 +213,9 @@ TEST_F(PLG_CommonTest, isAvailableInTheModesOfItsMask) {
     EXPECT_THAT(available, ElementsAre(false, true, false, true, false));
 
     plugin.setOptionForMode(true);
-    host.mode = zeb::FileMode;
+    host.enterMode(zeb::FileMode);
     EXPECT_FALSE(plugin.getOptionForMode());
-    host.mode = zeb::MemoryMode;
+    host.enterMode(zeb::MemoryMode);
     EXPECT_TRUE(plugin.getOptionForMode());
 }
 

@@ -3,8 +3,8 @@
 #include "APP_Exception.h"
 #include "GUI_WrenTableDialog.h"
 #include "JS_Mediator_WrenTableDialog.h"
-#include "PluginDoc.h"
-#include "PluginHost.h"
+#include "camera/Camera.h"
+#include "support/FaultyHost.h"
 
 #include <QApplication>
 #include <QImage>
@@ -14,6 +14,7 @@
 #include <QTest>
 #include <QThread>
 #include <QTimer>
+#include <QWebView>
 
 #include <gmock/gmock.h>
 
@@ -24,22 +25,22 @@ using testing::IsEmpty;
 namespace {
 
 constexpr auto EraseQuestion =
-    "confirmModal There are cameras that need to erase the image data recorded to continue the operation. Would you "
-    "like to erase the data and continue the operation?";
+    "confirm <There are cameras that need to erase the image data recorded to continue the operation. Would you "
+    "like to erase the data and continue the operation?>";
 
 class PLG_wrenTest : public testing::Test {
 protected:
     PLG_wrenTest() {
-        for (PluginDoc* doc : {&one, &two, &three}) host.docs[doc->getKey()] = doc;
-        host.connectedKeys = {1, 2, 3};
-        host.prefs[QStringLiteral("wren/table/interval")] = 500;
+        host.suspendViewer();
+        host.flags().set(QStringLiteral("IsUpdateIgnore"), true);
         plugin->setHost(&host);
-        host.plugins[QStringLiteral("wren")] = plugin.get();
+        host.appStatus().registerPlugin(plugin.get());
+        taken();
     }
 
     std::vector<std::string> taken() {
         std::vector<std::string> entries;
-        for (const QString& entry : journal.take())
+        for (const QString& entry : course.take())
             if (!entry.startsWith(QLatin1String("info: "))) entries.push_back(entry.toStdString());
         return entries;
     }
@@ -53,11 +54,8 @@ protected:
     /// As a host raises a signal: by its name.
     bool raise(const char* signal) { return QMetaObject::invokeMethod(plugin.get(), signal); }
 
-    PluginDoc one{1};
-    PluginDoc two{2};
-    PluginDoc three{3};
-    PluginHost host;
-    Journal journal;
+    FaultyHost host{3};
+    Course course;
     std::unique_ptr<PLG_wren> plugin = std::make_unique<PLG_wren>();
 };
 
@@ -70,7 +68,7 @@ TEST_F(PLG_wrenTest, isAButtonOfLiveAndMemoryMode) {
     EXPECT_EQ(plugin->getGroupNumber(), 3);
     EXPECT_FALSE(plugin->getCloseOnModeChange());
     for (const int mode : {zeb::LiveMode, zeb::MemoryMode, zeb::FileMode}) {
-        host.mode = mode;
+        host.enterMode(mode);
         EXPECT_EQ(plugin->isAvailable(), mode != zeb::FileMode) << mode;
         EXPECT_EQ(plugin->isButtonEnabled(), mode != zeb::FileMode) << mode;
     }
@@ -79,10 +77,14 @@ TEST_F(PLG_wrenTest, isAButtonOfLiveAndMemoryMode) {
 TEST_F(PLG_wrenTest, tellsTheHostThatItRuns) {
     plugin->activate();
     plugin->deactivate();
-    EXPECT_THAT(taken(), ElementsAre("wren runs", "updateUI 4294967295", "wren ends", "updateUI 4294967295"));
+    EXPECT_THAT(taken(), ElementsAre("setWrenRunning true", "updateUI 4294967295 true", "setWrenRunning false",
+                                     "updateUI 4294967295 true"));
 }
 
 TEST_F(PLG_wrenTest, asksBeforeItErases) {
+    const auto record = [this] {
+        for (const DOCKEY key : {1, 3}) host.camera(key).set(&CameraState::recorded, true);
+    };
     const struct {
         const char* sentence;
         std::function<void()> arrange;
@@ -90,35 +92,45 @@ TEST_F(PLG_wrenTest, asksBeforeItErases) {
     } rows[] = {
         {"without recorded data it asks nothing", [] {}, {}},
         {"with some it erases those cameras",
-         [&] { one.camera.hasData = three.camera.hasData = true; },
-         {EraseQuestion, "erase 1 0", "erase 3 0"}},
+         record,
+         {EraseQuestion, "eraseRecordedData 1 0", "eraseRecordedData 3 0"}},
         {"a camera that goes while the question stands is passed over",
-         [&] { host.onBox = [this] { host.docs.remove(1); }; },
-         {EraseQuestion, "erase 3 0"}},
+         [&] {
+             record();
+             host.desk.whileStanding = [this] { host.faults().plant(1, "*", {{}, 0, true}); };
+         },
+         {EraseQuestion, "eraseRecordedData 3 0"}},
         {"so is one that loses its connection",
          [&] {
-             host.docs[1] = &one;
-             host.onBox = [this] { three.connected = false; };
+             host.faults().plant(1, "*", {});
+             record();
+             host.desk.whileStanding = [this] { host.camera(3).set(&CameraState::connected, false); };
          },
-         {EraseQuestion, "erase 1 0"}},
-        {"while the table runs it asks nothing", [&] { host.wrenRunning = true; }, {}},
+         {EraseQuestion, "eraseRecordedData 1 0"}},
+        {"while the table runs it asks nothing",
+         [&] {
+             record();
+             host.appStatus().setWrenRunning(true);
+         },
+         {}},
         {"nor out of live mode",
          [&] {
-             host.wrenRunning = false;
-             host.mode = zeb::MemoryMode;
+             host.appStatus().setWrenRunning(false);
+             host.enterMode(zeb::MemoryMode);
          },
          {}},
     };
     for (const auto& row : rows) {
         row.arrange();
+        taken();
         plugin->prepareOpen();
         EXPECT_EQ(taken(), row.calls) << row.sentence;
     }
 }
 
 TEST_F(PLG_wrenTest, endsTheOpeningWithoutATextWhenTheUserRefuses) {
-    two.camera.hasData = true;
-    host.userAgrees = false;
+    host.camera(2).set(&CameraState::recorded, true);
+    host.desk.answers = {{false, false}};
     try {
         plugin->prepareOpen();
         FAIL() << "the opening goes on";
@@ -126,7 +138,7 @@ TEST_F(PLG_wrenTest, endsTheOpeningWithoutATextWhenTheUserRefuses) {
         EXPECT_STREQ(e.what(), "");
         EXPECT_EQ(e.errorCode(), 0);
     }
-    EXPECT_THAT(taken(), testing::Not(Contains("erase 2 0")));
+    EXPECT_THAT(taken(), testing::Not(Contains("eraseRecordedData 2 0")));
 }
 
 TEST_F(PLG_wrenTest, bearsEverySignalWithoutATable) {
@@ -141,13 +153,13 @@ TEST_F(PLG_wrenTest, bearsEverySignalWithoutATable) {
 
 TEST_F(PLG_wrenTest, disconnectsAllCamerasThoughLocked) {
     openTable();
-    two.locked = true;
+    host.camera(2).set(&CameraState::locked, true);
     ASSERT_TRUE(raise("signalDisconnect"));
-    EXPECT_THAT(taken(), Contains("disconnectDocs 1 2 3"));
+    EXPECT_THAT(taken(), Contains("disconnectDocs 1,2,3"));
 }
 
 TEST_F(PLG_wrenTest, startsAndStopsTheTicks) {
-    host.prefs[QStringLiteral("wren/table/interval")] = 1;
+    host.prefs().setValue(QStringLiteral("wren/table/interval"), 1);
     auto* bridge = openTable();
     QSignalSpy ticks(bridge, &JS_Mediator_WrenTableDialog::autoUpdate);
     ASSERT_TRUE(raise("signalStartAutoUpdate"));
@@ -192,17 +204,17 @@ TEST_F(PLG_wrenTest, warnsOfAPictureThatCannotBeWritten) {
 
 TEST_F(PLG_wrenTest, keepsTheTableOpenInFileMode) {
     openTable();
-    EXPECT_TRUE(plugin->isChecked(&one, 0));
-    host.mode = zeb::FileMode;
+    EXPECT_TRUE(plugin->isChecked(host.doc(1), 0));
+    host.enterMode(zeb::FileMode);
     plugin->updateDialog(zeb::FileMode);
     EXPECT_TRUE(plugin->isDialogVisible());
-    EXPECT_FALSE(plugin->isChecked(&one, 0));
+    EXPECT_FALSE(plugin->isChecked(host.doc(1), 0));
 }
 
 TEST_F(PLG_wrenTest, makesOneTableThoughItsBridgeAsksFirst) {
     host.failing = QStringLiteral("setPrefBool");
     QDialog* second = nullptr;
-    host.onBox = [&] { second = plugin->getDialog(true); };
+    host.desk.whileStanding = [&] { second = plugin->getDialog(true); };
     QDialog* first = plugin->getDialog(true);
     EXPECT_THAT(taken(), Contains("errorHandler setPrefBool")) << "a box stood while the bridge was made";
     EXPECT_NE(first, nullptr);
@@ -211,10 +223,7 @@ TEST_F(PLG_wrenTest, makesOneTableThoughItsBridgeAsksFirst) {
 
 TEST_F(PLG_wrenTest, goesWhileItsTableIsMade) {
     host.failing = QStringLiteral("setPrefBool");
-    host.onBox = [&] {
-        host.plugins.clear();
-        plugin.reset();
-    };
+    host.desk.whileStanding = [&] { plugin.reset(); };
     EXPECT_EQ(plugin->getDialog(true), nullptr);
     EXPECT_FALSE(plugin);
     EXPECT_THAT(QApplication::topLevelWidgets(), IsEmpty());
@@ -225,7 +234,6 @@ TEST_F(PLG_wrenTest, leavesNothingBehind) {
     QPointer<QDialog> dialog = plugin->getDialog(false);
     QPointer<JS_Mediator> bridge = static_cast<GUI_WrenTableDialog*>(dialog.data())->getBridge();
     QPointer<QWidget> view = dialog->findChild<QWebView*>();
-    host.plugins.clear();
     plugin.reset();
     EXPECT_FALSE(dialog);
     EXPECT_FALSE(bridge);

@@ -2,10 +2,12 @@
 
 #include "PLG_Common.h"
 
+#include "DOC_Image.h"
+#include "DOC_Interface.h"
 #include "GUI_ModelessPatternDialog.h"
 #include "JS_Mediator_ModelessPatternDialog.h"
-#include "PluginDoc.h"
-#include "PluginHost.h"
+#include "camera/Camera.h"
+#include "support/FaultyHost.h"
 
 #include <gmock/gmock.h>
 
@@ -24,13 +26,22 @@ public:
     using PLG_Common::m_toolActive;
     using PLG_Common::m_toolKind;
 
-    explicit TestPlugin(ZebHost* host) {
+    explicit TestPlugin(FaultyHost* host) {
         setHost(host);
         m_name = QStringLiteral("tool");
+        host->appStatus().registerPlugin(this);
     }
 
     int made = 0;
     std::function<void()> onCreate = [] {};
+    /// Runs when the host has closed the plug-in.
+    std::function<void()> onDeactivate = [] {};
+
+    void deactivate() override {
+        PLG_Common::deactivate();
+        const auto work = onDeactivate;  // which may delete the plug-in
+        work();
+    }
 
     QDialog* createDialog(bool) override {
         ++made;
@@ -47,23 +58,30 @@ public:
     }
 };
 
+/// A plug-in's host with one camera, whose image has 640 x 480 pixels. Update cycles pass without effect.
 class PLG_CommonTest : public testing::Test {
 protected:
     PLG_CommonTest() {
-        host.docs[1] = &doc;
-        host.connectedKeys = {1};
+        host.suspendViewer();
+        host.flags().set(QStringLiteral("IsUpdateIgnore"), true);
+        change({{"selected", true}, {"resolution", QVariantList{640, 480}}});
+        taken();
     }
 
+    void change(const QVariantMap& members) { host.camera(1).change(members); }
+    void setToolRect(const QRect& rect) {
+        host.doc(1)->image().setToolRect(QStringLiteral("tool"), rect);
+        taken();
+    }
     /// What the host was asked, in order; texts for a readable difference.
     std::vector<std::string> taken() {
         std::vector<std::string> entries;
-        for (const QString& entry : journal.take())
+        for (const QString& entry : course.take())
             if (!entry.startsWith(QLatin1String("info: ")) && entry != QLatin1String("notifyPluginShown"))
                 entries.push_back(entry.toStdString());
         return entries;
     }
 
-    PluginHost host;
-    PluginDoc doc{1};
-    Journal journal;
+    FaultyHost host{1};
+    Course course;
 };

@@ -1,15 +1,16 @@
-#include "FakeCamera.h"
-#include "FakeHost.h"
 #include "FakePlugin.h"
 #include "GUI_WebPage.h"
 #include "GUI_WebView.h"
 #include "ProbeBridge.h"
+#include "camera/Camera.h"
+#include "support/FaultyHost.h"
 
 #include <QLabel>
 #include <QRegularExpression>
 #include <QSignalSpy>
 #include <QTcpServer>
 #include <QTest>
+#include <QWebFrame>
 
 #include <gtest/gtest.h>
 
@@ -22,7 +23,7 @@ protected:
         host.attachBridge(&view, &bridge);
         view.load(QUrl("qrc:/probe.html"));
         ASSERT_TRUE(QSignalSpy(&view, &QWebView::loadFinished).wait());
-        journal.take();
+        course.take();
     }
     QVariant eval(const QString& script) { return view.page()->mainFrame()->evaluateJavaScript(script); }
     /// What the page got from `script`, as JSON.
@@ -30,24 +31,24 @@ protected:
         return eval(QStringLiteral("JSON.stringify(") % script % QStringLiteral(")")).toString().toStdString();
     }
 
-    Journal journal;
-    FakeHost host;
+    Course course;
+    FaultyHost host{3};
     ProbeBridge bridge{&host};
     GUI_WebView view{&host};
 };
 
 TEST_F(BridgePage, PreferencesWithAndWithoutDefaults) {
     eval("probe.setPrefInt('a/b', 5)");
-    EXPECT_EQ(journal.take(),
-              QStringList({"pause", "info: [ENTER] \"JS_Mediator::setPrefInt\" \"[name:a/b] [value:5]\"",
-                           "setPrefInt a/b=5", "updateUI 63", "info: [LEAVE] \"JS_Mediator::setPrefInt\"", "resume"}));
+    EXPECT_EQ(course.take(), QStringList({"pause", "info: [ENTER] \"JS_Mediator::setPrefInt\" \"[name:a/b] [value:5]\"",
+                                          "setPrefInt a/b 5", "updateUI 63 true",
+                                          "info: [LEAVE] \"JS_Mediator::setPrefInt\"", "resume"}));
     eval("prefs.setPrefInt('a/b', 6, false)");
-    EXPECT_EQ(journal.take(), QStringList({"pause", "setPrefInt a/b=6", "resume"}));
+    EXPECT_EQ(course.take(), QStringList({"pause", "setPrefInt a/b 6", "resume"}));
     eval(
         "prefs.setPrefBool('b', true); prefs.setPrefFloat('f', 0.5); prefs.setPrefString('s', 'x'); "
         "prefs.setPrefDQString('q', '1')");
-    EXPECT_EQ(journal.take().filter("setPref").filter("="),
-              QStringList({"setPrefBool b=true", "setPrefFloat f=0.5", "setPrefString s=x", "setPref q=1"}));
+    EXPECT_EQ(course.take().filter(QRegularExpression("^setPref")),
+              QStringList({"setPrefBool b true", "setPrefFloat f 0.5", "setPrefString s x", "setPref q 1"}));
     EXPECT_EQ(
         json("[prefs.getPrefInt('a/b'), prefs.getPrefBool('b'), prefs.getPrefFloat('f'), prefs.getPrefString('s')]"),
         "[6,true,0.5,\"x\"]");
@@ -57,58 +58,55 @@ TEST_F(BridgePage, PreferencesWithAndWithoutDefaults) {
 }
 
 TEST_F(BridgePage, StateTextsAndBoxes) {
-    host.mode = zeb::MemoryMode;
-    host.wrenRunning = true;
-    host.imageWindows = 3;
+    host.enterMode(zeb::MemoryMode);
+    host.appStatus().setWrenRunning(true);
     EXPECT_EQ(json("[JSON.parse(probe.getControlStatus()).IsMemoryMode, probe.countMdiWindow()]"), "[true,3]");
     EXPECT_EQ(json("[probe.isLiveMode(), probe.isMemoryMode(), probe.isFileMode(), probe.isWrenRunning()]"),
               "[false,true,false,true]");
     EXPECT_EQ(json("[probe.translate('a %1'), probe.translate('a %1', 'b')]"), R"(["<a %1>","<a <b>>"])");
     EXPECT_EQ(json("[probe.getWidth(), probe.getHeight(), probe.getStyle()]"), R"([-1,-1,"light"])");
     EXPECT_EQ(json("probe.load('ui-native-light.css')"), R"("QDialog { color: #010101; }\n")");
-    journal.take();
+    course.take();
 
     EXPECT_EQ(json("probe.load('no.txt')"), "\"\"");
     eval("probe.info('i'); probe.warn('w'); probe.warn('w', ['1', '2']); probe.alert('a'); probe.alert('a', ['3'])");
-    host.userAgrees = false;
+    host.desk.answers = {{false, false}};
     EXPECT_EQ(json("probe.confirm('c')"), "false");
     eval("probe.deterUpdateUI(true); probe.updateUI()");
-    QStringList entries = journal.take();
+    QStringList entries = course.take();
     entries.removeAll("pause");
     entries.removeAll("resume");
-    EXPECT_EQ(entries, QStringList({"warning: not found \":/no.txt\"", "info i", "warn w", "warnList w|1|2", "alert a",
-                                    "alertList a|3", "confirmModal c", "deterUpdateUI true", "updateUI 63"}));
+    EXPECT_EQ(entries,
+              QStringList({"warning: not found \":/no.txt\"", "info <i>", "warn <w>", "warn <w>|1|2", "alert <a>",
+                           "alert <a>|3", "confirm <c>", "deterUpdateUI true", "updateUI 63 true"}));
 }
 
 TEST_F(BridgePage, DevicesAndKeysArriveAsTheyAre) {
-    FakeCamera camera(4294967294U);
-    camera.camera.alias = "</script><b>\"'";
-    host.connectedKeys = host.selectedKeys = {camera.getKey()};
-    host.docs[camera.getKey()] = &camera;
-    eval("var device = probe.getDeviceInfoList(false)[0]");
+    host.camera(2).change({{"alias", "</script><b>\"'"}, {"selected", true}});
+    eval("var device = probe.getDeviceInfoList(false)[1]");
     EXPECT_EQ(json("[device.key, device.devicename, device.cameraname, device.headno, device['con-wifi']]"),
-              R"(["4294967294","</script><b>\"'","",1,""])");
-    EXPECT_EQ(json("probe.getSelectedDockey()"), R"(["4294967294"])");
-    EXPECT_EQ(json("JSON.parse(probe.getCalibrationUnits())[1].view"), R"("<feet>")");
+              R"(["2","</script><b>\"'","Camera 2",1,""])");
+    EXPECT_EQ(json("probe.getSelectedDockey()"), R"(["2"])");
+    EXPECT_EQ(json("JSON.parse(probe.getCalibrationUnits())[1].view"), R"("<mm>")");
 
     // As often as not a page hands over numbers for texts, and fractions of pixels.
-    journal.take();
+    course.take();
     eval(
         "probe.setSelectDoc(4294967294); probe.showDropDownBox('a', 1.6, 2, 3, 4);"
         "probe.hideDropDownBox('a'); probe.hideDropDownBox('a', 5, 6); probe.closePlugin(); probe.closePlugin('lut')");
-    const QStringList calls = journal.take().filter(QRegularExpression("^(setSel|showDrop|hideDrop|closeP)"));
-    EXPECT_EQ(calls, QStringList({"setSelectedDocs 4294967294", "showDropDownBox a (2,2)-(4,5)", "hideDropDownBox a",
-                                  "hideDropDownBoxAt a (5,6)", "closePanel", "closePlugin lut"}));
+    const QStringList calls = course.take().filter(QRegularExpression("^(setSel|showDrop|hideDrop|closeP)"));
+    EXPECT_EQ(calls, QStringList({"setSelectedDocs 4294967294 0", "showDropDownBox a 2 2 3 4", "hideDropDownBox a",
+                                  "hideDropDownBoxAt a 5 6", "closePanel", "closePlugin lut"}));
 }
 
 TEST_F(BridgePage, FailureLooksLikeANormalReturn) {
     host.failing = "getPref";
     EXPECT_EQ(json("[prefs.getPrefInt('a', 3), prefs.getPrefString('a', 'x'), probe.getStyle()]"), R"([0,"",""])");
-    EXPECT_EQ(journal.take().count("errorHandler getPref"), 3);
+    EXPECT_EQ(course.take().count("errorHandler getPref"), 3);
     // A slot that does not exist, and one with arguments missing, are the page's own faults.
     eval("probe.noSuchSlot()");
     eval("probe.setPrefInt('a')");
-    const QStringList faults = journal.take();
+    const QStringList faults = course.take();
     ASSERT_EQ(faults.size(), 2) << faults.join('\n').toStdString();
     EXPECT_TRUE(faults[0].startsWith("critical: ")) << faults[0].toStdString();
 }
@@ -118,11 +116,11 @@ TEST_F(BridgePage, StyleReachesTheMobileDialog) {
     QDialog mobile(&mainWindow);
     mobile.setObjectName("GUI_MobileDialog");
     eval("probe.setStyle('Dark')");
-    EXPECT_EQ(host.prefs.value("env/style"), "Dark");
-    host.mainWindow = &mainWindow;
+    EXPECT_EQ(host.prefs().value("env/style"), "Dark");
+    host.setMainWindow(&mainWindow);
     eval("probe.setStyle('Dark')");
     EXPECT_EQ(mobile.styleSheet(), "QDialog { color: #020202; }\n");
-    EXPECT_TRUE(journal.take().contains("info: [ENTER] \"JS_Mediator::setStyle\" \"[style:Dark]\""));
+    EXPECT_TRUE(course.take().contains("info: [ENTER] \"JS_Mediator::setStyle\" \"[style:Dark]\""));
 }
 
 TEST_F(BridgePage, NothingGoesOut) {
@@ -169,7 +167,7 @@ TEST_F(BridgePage, ImagesOfThePageItselfAreServed) {
 TEST_F(BridgePage, ScriptFaultsStandInTheLog) {
     eval("setTimeout(function () { missing.member = 1; }, 0); console.warn('careful'); console.log('seen')");
     QStringList lines;
-    EXPECT_TRUE(QTest::qWaitFor([&] { return (lines += journal.take()).size() >= 3; }));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return (lines += course.take()).size() >= 3; }));
     EXPECT_EQ(lines.filter("critical: ").filter("Can't find variable: missing").size(), 1)
         << lines.join('\n').toStdString();
     EXPECT_EQ(lines.filter("warning: ").filter("careful").size(), 1);
@@ -185,7 +183,7 @@ public:
 
 TEST_F(BridgePage, ObjectElementsGetTheHostsWidgets) {
     QWidget area;
-    host.mdiWidget = &area;
+    host.setMdiWidget(&area);
     const QList<QPair<QString, QString>> panels = {
         {"histogram", "histogram"},
         {"lineprofile", "lineprofile"},
@@ -204,16 +202,15 @@ TEST_F(BridgePage, ObjectElementsGetTheHostsWidgets) {
     for (const auto& [classId, name] : panels) {
         EXPECT_EQ(page.createPlugin(classId, {}, {}, {}), nullptr) << classId.toStdString();
         QWidget panel;
-        FakePlugin plugin;
+        FakePlugin plugin(name);
         plugin.panel = &panel;
-        host.plugins = {{name, &plugin}};
+        host.appStatus().registerPlugin(&plugin);
         EXPECT_EQ(page.createPlugin(classId, {}, {}, {}), &panel) << classId.toStdString();
-        EXPECT_TRUE(journal.take().contains("preparePanel"));
-        host.plugins.clear();
+        EXPECT_TRUE(course.take().contains("preparePanel"));
     }
 
     auto* inPage = new QLabel("panel");
-    host.mdiWidget = inPage;
+    host.setMdiWidget(inPage);
     const QPointer<QLabel> embedded(inPage);
     eval("document.body.innerHTML = '<object type=\"application/x-qt-plugin\" classid=\"mdi\"></object>'");
     EXPECT_TRUE(QTest::qWaitFor([&] { return embedded && embedded->window() == &view; }));

@@ -1,8 +1,10 @@
-#include "FakeCamera.h"
-#include "FakeHost.h"
+#include "FakePlugin.h"
 #include "ProbeBridge.h"
 #include "RangeMax.h"
 #include "ZebPrefsDialog.h"
+#include "camera/Camera.h"
+#include "camera/Rig.h"
+#include "support/FaultyHost.h"
 
 #include <QDialog>
 
@@ -12,9 +14,9 @@ namespace {
 
 class FakePrefsDialog : public ZebPrefsDialog {
 public:
-    void setPage(const QString& page) override { Journal::note("setPage " % page); }
+    void setPage(const QString& page) override { Course::note("setPage " % page); }
     int exec() override {
-        Journal::note("exec");
+        Course::note("exec");
         return QDialog::Accepted;
     }
 };
@@ -27,26 +29,36 @@ public:
     using ProbeBridge::setUpdateMask;
 };
 
+class DialogHost : public FaultyHost {
+public:
+    using FaultyHost::FaultyHost;
+    ZebPrefsDialog* dialog = nullptr;
+    ZebPrefsDialog* getPrefsDialog() override { return dialog; }
+};
+
 class BridgeSlots : public testing::Test {
 protected:
     /// What happens in `act`, but for the pause around it.
     QStringList during(const std::function<void()>& act) {
-        journal.take();
+        course.take();
         act();
-        QStringList entries = journal.take();
+        QStringList entries = course.take();
         EXPECT_EQ(entries.isEmpty() ? QString() : entries.last(), "resume");
         return entries.mid(1, entries.size() - 2);
     }
 
-    Journal journal;
-    FakeHost host;
+    void SetUp() override { host.appStatus().registerPlugin(&binning); }
+
+    Course course;
+    DialogHost host{3};
+    FakePlugin binning{QStringLiteral("binning")};
     NarrowBridge bridge{&host};
 };
 
 /// The lines around an operation of the base, `args` as in the log.
 QStringList operation(const QString& name, const QString& args, QStringList work, int mask = 63) {
     work.prepend(QStringLiteral("info: [ENTER] \"JS_Mediator::%1\" \"%2\"").arg(name, args));
-    work.append(QStringLiteral("updateUI %1").arg(mask));
+    work.append(QStringLiteral("updateUI %1 true").arg(mask));
     work.append(QStringLiteral("info: [LEAVE] \"JS_Mediator::%1\"").arg(name));
     return work;
 }
@@ -60,33 +72,33 @@ QStringList traced(const QString& name, const QString& args, const QStringList& 
 TEST_F(BridgeSlots, PluginsOpenAndClose) {
     EXPECT_EQ(during([&] { bridge.openPlugin("lut"); }), operation("openPlugin", "[name:lut]", {"openPlugin lut"}));
     EXPECT_EQ(during([&] { bridge.openPlugin("binning"); }),
-              operation("openPlugin", "[name:binning]", {"pauseLive", "openPlugin binning", "resumeLive"}));
+              operation("openPlugin", "[name:binning]",
+                        {"pauseLive 0", "openPlugin binning", "refresh 1 true", "refresh 2 true", "refresh 3 true",
+                         "resumeLive"}));
     EXPECT_EQ(during([&] { bridge.closePlugin(); }), operation("closePlugin", "", {"closePanel"}));
     EXPECT_EQ(during([&] { bridge.closePlugin("lut"); }),
               operation("closePlugin", "[name:lut]", {"deterUpdateUI true", "closePlugin lut", "deterUpdateUI false"}));
 }
 
 TEST_F(BridgeSlots, AFailureOfTheGuardReachesTheUser) {
-    FakeDoc silent(7, true);
-    host.docs[7] = &silent;
-    host.connectedKeys = {7};
-    EXPECT_EQ(during([&] { bridge.openPlugin("binning"); }).last(), "errorHandler camera is silent");
+    host.faults().plant(2, "refresh", {"no answer", 0, false});
+    EXPECT_EQ(during([&] { bridge.openPlugin("binning"); }).last(), "errorHandler Camera 2: no answer");
     host.failing = "openPlugin";
     EXPECT_EQ(during([&] { bridge.openPlugin("binning"); }).last(), "errorHandler openPlugin");
-    EXPECT_FALSE(host.livePaused);
-    EXPECT_TRUE(host.docMutex.tryLock());
-    host.docMutex.unlock();
+    EXPECT_FALSE(host.liveLoop().isLivePaused());
+    EXPECT_TRUE(host.docManager().getDocMutex()->tryLock());
+    host.docManager().getDocMutex()->unlock();
 }
 
 TEST_F(BridgeSlots, PreferencesDialog) {
     FakePrefsDialog dialog;
     EXPECT_EQ(bridge.openPrefsDialog("Save"), 0) << "there is none";
-    host.prefsDialog = &dialog;
+    host.dialog = &dialog;
     EXPECT_EQ(during([&] { EXPECT_EQ(bridge.openPrefsDialog("Save"), QDialog::Accepted); }),
               traced("openPrefsDialog", "[page:Save]", {"stopForPrefs", "setPage <Save>", "exec"}));
-    host.mode = zeb::MemoryMode;
+    host.enterMode(zeb::MemoryMode);
     EXPECT_EQ(during([&] { bridge.openPrefsDialog(); }), traced("openPrefsDialog", "[page:]", {"setPage <>", "exec"}));
-    host.mode = zeb::LiveMode;
+    host.enterMode(zeb::LiveMode);
     host.failing = "stopForPrefs";
     EXPECT_EQ(bridge.openPrefsDialog(), 0);
 }
@@ -103,46 +115,41 @@ TEST_F(BridgeSlots, OneLineOfTheHost) {
         {[&] { bridge.setDisableAllQuickTool(); },
          traced("setDisableAllQuickTool", "", {"setActiveQuickTool", "refreshDocList 1", "refreshTools"})},
         {[&] { bridge.setConnectedCameraShowing(true); },
-         {"setPrefBool devicemanager/connectedCameraOnlyShowing=true"}},
+         {"setPrefBool devicemanager/connectedCameraOnlyShowing true"}},
         {[&] { bridge.checkRestoredPrefs(); }, {}},
-        {[&] { bridge.hideSelectBox(); }, {"hideSelectBox"}},
-        {[&] { bridge.showDropDownBox("a\"<b>", -3, 4, 10, 20); }, {"showDropDownBox a\"<b> (-3,4)-(6,23)"}},
+        {[&] { bridge.hideSelectBox(); }, {"hideSelectBox", "hideDropDownBox"}},
+        {[&] { bridge.showDropDownBox("a\"<b>", -3, 4, 10, 20); }, {"showDropDownBox a\"<b> -3 4 10 20"}},
         {[&] { bridge.hideDropDownBox("key"); }, {"hideDropDownBox key"}},
-        {[&] { bridge.hideDropDownBox("key", 5, -6); }, {"hideDropDownBoxAt key (5,-6)"}},
+        {[&] { bridge.hideDropDownBox("key", 5, -6); }, {"hideDropDownBoxAt key 5 -6"}},
     };
     for (const auto& row : cases) EXPECT_EQ(during(row.act), row.calls);
-    host.yes = {"isPrefsRestored"};
+    host.setPrefsRestored(0);
     EXPECT_EQ(during([&] { bridge.checkRestoredPrefs(); }), QStringList("setPrefsRestored 1"));
 }
 
 TEST_F(BridgeSlots, YesAndNo) {
-    FakeCamera current(3);
-    host.currentDoc = &current;
     const struct {
-        const char* name;
+        const char* flag;
         std::function<bool()> ask;
     } cases[] = {
-        {"isReady", [&] { return bridge.isReady(); }},
-        {"isShownDropBox", [&] { return bridge.isShownDropBox(); }},
-        {"isMVersion", [&] { return bridge.isMVersion(); }},
-        {"isUpdateIgnore", [&] { return bridge.isUpdateIgnore(); }},
-        {"isWaveDataAcquisition", [&] { return bridge.isWaveDataAcquisition(); }},
+        {"IsApplicationClosing", [&] { return !bridge.isReady(); }},
+        {"IsMVersion", [&] { return bridge.isMVersion(); }},
+        {"IsUpdateIgnore", [&] { return bridge.isUpdateIgnore(); }},
+        {"IsWaveDataAcquisition", [&] { return bridge.isWaveDataAcquisition(); }},
     };
     for (const auto& row : cases) {
-        for (const auto& asked : cases) {
-            host.yes = {row.name};
-            EXPECT_EQ(asked.ask(), &asked == &row) << asked.name;
-        }
+        host.flags().set(row.flag, true);
+        for (const auto& asked : cases) EXPECT_EQ(asked.ask(), &asked == &row) << asked.flag;
+        host.flags().set(row.flag, false);
     }
+    EXPECT_FALSE(bridge.isConnected());
+    EXPECT_FALSE(bridge.isPlaying());
+    host.camera(3).set(&CameraState::selected, true);
     EXPECT_TRUE(bridge.isConnected());
     EXPECT_FALSE(bridge.isPlaying());
-    current.connected = false;
-    current.playing = true;
+    host.camera(3).change({{"connected", false}, {"playing", true}});
     EXPECT_FALSE(bridge.isConnected());
     EXPECT_TRUE(bridge.isPlaying());
-    host.currentDoc = nullptr;
-    EXPECT_FALSE(bridge.isConnected());
-    EXPECT_FALSE(bridge.isPlaying());
 }
 
 TEST_F(BridgeSlots, SelectionOfOne) {
@@ -151,23 +158,20 @@ TEST_F(BridgeSlots, SelectionOfOne) {
         const char* text;
         const char* keys;
     } cases[] = {
-        {"12", " 12"},      {"4294967295", " 4294967295"},
-        {"abc", ""},        {"", ""},
-        {"-1", ""},         {"0x10", ""},
-        {"4294967296", ""}, {"1.5", ""},
-        {"12<b>'\"", ""},
+        {"12", " 12 0"}, {"4294967295", " 4294967295 0"}, {"abc", "  0"}, {"", "  0"},         {"-1", "  0"},
+        {"0x10", "  0"}, {"4294967296", "  0"},           {"1.5", "  0"}, {"12<b>'\"", "  0"},
     };
     for (const auto& row : cases) {
         const QStringList entries = during([&] { bridge.setSelectDoc(row.text); });
         EXPECT_TRUE(entries.first().startsWith("info: [ENTER] \"JS_Mediator::setSelectDocSub\" \"[docKey:"));
         EXPECT_EQ(entries.mid(1),
                   QStringList({"deterUpdateUI true", QString("setSelectedDocs") + row.keys, "deterUpdateUI false",
-                               "updateUI 63", "info: [LEAVE] \"JS_Mediator::setSelectDocSub\""}))
+                               "updateUI 63 true", "info: [LEAVE] \"JS_Mediator::setSelectDocSub\""}))
             << row.text;
     }
     host.failing = "setSelectedDocs";
     EXPECT_EQ(during([&] { bridge.setSelectDoc("1"); }).last(), "errorHandler setSelectedDocs");
-    EXPECT_EQ(during([&] { bridge.updateUI(); }), QStringList("updateUI 4"));
+    EXPECT_EQ(during([&] { bridge.updateUI(); }), QStringList("updateUI 4 true"));
 }
 
 TEST_F(BridgeSlots, SelectionOfAllKeepsTheCurrentDocument) {
@@ -175,14 +179,13 @@ TEST_F(BridgeSlots, SelectionOfAllKeepsTheCurrentDocument) {
     const QStringList all = {"deterUpdateUI true", "selectAllDocs", "deterUpdateUI false"};
     const QStringList without = QStringList("clearCurrentPlugin") + operation("selectAllDocsSub", "", all);
     EXPECT_EQ(during([&] { bridge.selectAllDocs(); }), without);
-    FakeDoc current(9);
-    host.currentDoc = &current;
-    EXPECT_EQ(during([&] { bridge.selectAllDocs(); }), without + QStringList("setCurrentDoc 9"));
+    host.docManager().setSelectedDocs({2}, 0);
+    EXPECT_EQ(during([&] { bridge.selectAllDocs(); }), without + QStringList("setCurrentDoc 2 1"));
 
-    for (const char* failing : {"clearCurrentPlugin", "getCurrentDockey", "selectAllDocs", "setCurrentDoc"}) {
+    for (const char* failing : {"clearCurrentPlugin", "selectAllDocs", "setCurrentDoc"}) {
         host.failing = failing;
         EXPECT_EQ(during([&] { bridge.selectAllDocs(); }).last(), QString("errorHandler ") + failing);
-        EXPECT_EQ(during([&] { bridge.updateUI(); }), QStringList("updateUI 4"));
+        EXPECT_EQ(during([&] { bridge.updateUI(); }), QStringList("updateUI 4 true"));
     }
 }
 
@@ -194,12 +197,11 @@ TEST_F(BridgeSlots, RangeOfPixels) {
                  {{{9, 8}}, 255}, {{{32, 31}}, INT_MAX}, {{{64, 64}}, INT_MAX}, {{{-5, -5}}, 0}};
     for (const auto& row : cases) EXPECT_EQ(largestPixelValue(row.format), row.max);
 
-    FakeCamera current(3);
-    current.format = {16, 12};
     EXPECT_EQ(bridge.getRangeMax(), 255);
-    host.prefs["display/DisplayWithRealBitDepth"] = true;
+    host.prefs().setValue("display/DisplayWithRealBitDepth", true);
     EXPECT_EQ(bridge.getRangeMax(), 255) << "no document";
-    host.currentDoc = &current;
+    host.setRig(Rig::fromFile(":/webdialog/rigs/functions.json"));
+    host.camera(1).change({{"connected", true}, {"selected", true}});
     EXPECT_EQ(bridge.getRangeMax(), 4095);
     EXPECT_EQ(bridge.lastRangeMax(), 4095);
     host.failing = "getPref";
@@ -211,38 +213,37 @@ TEST_F(BridgeSlots, UnitsOfLength) {
     const std::string imperial =
         "[{'value':'Inches (in)','view':'<inch>'},{'value':'Feet (ft)','view':'<feet>'},"
         "{'value':'Yard (yd)','view':'<yard>'}]";
-    EXPECT_EQ(units(), imperial);
     for (const int system : {1, -1}) {
-        host.prefs["customize/unitSystem"] = system;
+        host.prefs().setValue("customize/unitSystem", system);
         EXPECT_EQ(units(),
                   "[{'value':'Micro (µm)','view':'<µm>'},{'value':'Milimeters (mm)','view':'<mm>'},"
                   "{'value':'Meters (m)','view':'<m>'}]");
     }
-    host.prefs["customize/unitSystem"] = 0;
+    host.prefs().setValue("customize/unitSystem", 0);
     EXPECT_EQ(units(), imperial);
 }
 
 TEST_F(BridgeSlots, FlipAndRotation) {
-    FakeDoc current(9);
-    host.currentDoc = &current;
+    host.docManager().selectDoc(2);
     const struct {
-        QSet<QString> yes;
+        bool horizontal;
+        bool vertical;
         double turn;
         const char* flip;
         const char* rotate;
     } cases[] = {
-        {{}, 0.0, "0", "0"},
-        {{"isHorizontalFlip 9"}, 0.25, "1", "90"},
-        {{"isVerticalFlip 9"}, 0.5, "2", "180"},
-        {{"isHorizontalFlip 9", "isVerticalFlip 9"}, 0.75, "3", "270"},
+        {false, false, 0.0, "0", "0"},
+        {true, false, 0.25, "1", "90"},
+        {false, true, 0.5, "2", "180"},
+        {true, true, 0.75, "3", "270"},
     };
     for (const auto& row : cases) {
-        host.yes = row.yes;
-        host.rotation = row.turn;
+        host.camera(2).change(
+            {{"flipHorizontal", row.horizontal}, {"flipVertical", row.vertical}, {"rotation", row.turn}});
         EXPECT_EQ(bridge.getFlip(), row.flip);
         EXPECT_EQ(bridge.getRotate(), row.rotate);
     }
-    host.failing = "getRotation";
+    host.failing = "*";
     EXPECT_EQ(bridge.getRotate(), "0");
 }
 
@@ -265,11 +266,11 @@ TEST_F(BridgeSlots, ChangesThatMeetAWaitingCallAreRefused) {
         {"setDisableAllQuickTool", [&] { bridge.setDisableAllQuickTool(); }},
     };
     int asked = 0;
-    host.onBox = [&] {
+    host.desk.whileStanding = [&] {
         for (const auto& row : changes) {
-            journal.take();
+            course.take();
             row.act();
-            const QStringList entries = journal.take();
+            const QStringList entries = course.take();
             ASSERT_EQ(entries.size(), 1) << entries.join('\n').toStdString();
             EXPECT_TRUE(entries[0].startsWith(QString("warning: \"JS_Mediator::%1\"").arg(row.name))) << row.name;
             EXPECT_TRUE(entries[0].contains("refused")) << row.name;
@@ -280,8 +281,8 @@ TEST_F(BridgeSlots, ChangesThatMeetAWaitingCallAreRefused) {
         EXPECT_NE(bridge.getControlStatus(), "");
         bridge.updateUI();
         bridge.setPrefInt("column", 5);
-        EXPECT_EQ(host.prefs["column"], 5);
-        EXPECT_EQ(journal.take().filter("updateUI 63").size(), 2);
+        EXPECT_EQ(host.prefs().value("column"), 5);
+        EXPECT_EQ(course.take().filter("updateUI 63 true").size(), 2);
     };
     EXPECT_TRUE(bridge.confirm("sure?"));
     EXPECT_EQ(asked, 12);

@@ -1,23 +1,19 @@
-#include "FakeCamera.h"
-#include "FakeHost.h"
 #include "ProbeBridge.h"
+#include "camera/Camera.h"
+#include "camera/Rig.h"
+#include "support/FaultyHost.h"
 
-#include <QJsonArray>
-#include <QJsonDocument>
 #include <QJsonObject>
 
 #include <gtest/gtest.h>
 
 namespace {
 
-/// Two cameras, the second not connected, and the key of one that is gone.
+/// Three cameras, the second not connected.
 class DeviceInfo : public testing::Test {
 protected:
-    void SetUp() override {
-        far.connected = false;
-        host.connectedKeys = {3, 8, 5};
-        host.docs = {{3, &near}, {5, &far}};
-    }
+    void SetUp() override { host.camera(2).set(&CameraState::connected, false); }
+
     QString keys(bool isMinilist) {
         QStringList texts;
         for (const QVariant& device : bridge.getDeviceInfoList(isMinilist)) texts += device.toMap()["key"].toString();
@@ -27,48 +23,42 @@ protected:
         return QJsonObject::fromVariantMap(bridge.getDeviceInfoList(false).value(index).toMap());
     }
 
-    Journal journal;
-    FakeHost host;
+    Course course;
+    FaultyHost host{3};
     ProbeBridge bridge{&host};
-    FakeCamera near{3};
-    FakeCamera far{5};
 };
 
 TEST_F(DeviceInfo, OnlyTheShortListInLiveModeLeavesOut) {
+    EXPECT_FALSE(bridge.getConnectedCameraShowing());
     const struct {
         int mode;
         bool mini;
         bool onlyConnected;
         const char* keys;
     } cases[] = {
-        {zeb::LiveMode, false, false, "3 5"},  {zeb::LiveMode, false, true, "3 5"},
-        {zeb::LiveMode, true, false, "3 5"},   {zeb::LiveMode, true, true, "3"},
-        {zeb::MemoryMode, true, true, "3 5"},  {zeb::FileMode, true, true, "3 5"},
-        {zeb::MemoryMode, false, true, "3 5"},
+        {zeb::LiveMode, false, false, "1 2 3"},  {zeb::LiveMode, false, true, "1 2 3"},
+        {zeb::LiveMode, true, false, "1 2 3"},   {zeb::LiveMode, true, true, "1 3"},
+        {zeb::MemoryMode, true, true, "1 2 3"},  {zeb::FileMode, true, true, "1 2 3"},
+        {zeb::MemoryMode, false, true, "1 2 3"},
     };
     for (const auto& row : cases) {
-        host.mode = row.mode;
+        host.enterMode(row.mode);
         bridge.setConnectedCameraShowing(row.onlyConnected);
         EXPECT_EQ(bridge.getConnectedCameraShowing(), row.onlyConnected);
         EXPECT_EQ(keys(row.mini), row.keys) << row.mini << row.mode << row.onlyConnected;
     }
-    host.prefs.clear();
-    EXPECT_FALSE(bridge.getConnectedCameraShowing());
 }
 
 TEST_F(DeviceInfo, TellsNamesAndMarks) {
-    far.camera.name = "\"><img src=x>";
-    far.camera.deviceName = "device";
-    near.camera.alias = "alias";
-    near.camera.deviceName = "device";
-    near.camera.address = "192.168.0.10";
-    near.camera.head = 2;
-    near.camera.dummy = true;
-    near.camera.wifi = near.camera.linkSpeed = 1;
-    near.camera.functions = {zeb::FunctionShutdown, zeb::FunctionWifi};
-    near.selected = near.mobile = true;
-    EXPECT_EQ(entry(0), QJsonObject({{"key", "3"},
-                                     {"cameraname", ""},
+    host.setRig(Rig::fromFile(":/webdialog/rigs/functions.json"));
+    host.camera(2).change({{"alias", "alias"},
+                           {"connected", true},
+                           {"mobile", true},
+                           {"selected", true},
+                           {"slowLink", true},
+                           {"wifi", true}});
+    EXPECT_EQ(entry(1), QJsonObject({{"key", "2"},
+                                     {"cameraname", host.camera(2).name()},
                                      {"devicename", "alias"},
                                      {"ipaddress", "192.168.0.10"},
                                      {"headno", 2},
@@ -80,10 +70,10 @@ TEST_F(DeviceInfo, TellsNamesAndMarks) {
                                      {"sup-wifi", "sup-wifi"},
                                      {"con-wifi", "connected"},
                                      {"sup-linkspeed", "sup-linkspeed"}}));
-    EXPECT_EQ(entry(1), QJsonObject({{"key", "5"},
+    EXPECT_EQ(entry(2), QJsonObject({{"key", "3"},
                                      {"cameraname", "\"><img src=x>"},
-                                     {"devicename", "device"},
-                                     {"ipaddress", ""},
+                                     {"devicename", "log"},
+                                     {"ipaddress", "192.168.0.11"},
                                      {"headno", 1},
                                      {"selected", ""},
                                      {"found", ""},
@@ -96,22 +86,19 @@ TEST_F(DeviceInfo, TellsNamesAndMarks) {
 }
 
 TEST_F(DeviceInfo, ACameraThatFailsEndsTheList) {
-    far.camera.silent = far.connected = true;
-    far.camera.name = "far";
-    FakeCamera last(9);
-    host.connectedKeys.append(9);
-    host.docs[9] = &last;
-    EXPECT_EQ(keys(false), "3 5");
-    EXPECT_EQ(journal.take(), QStringList({"pause", "errorHandler camera is silent", "resume"}));
+    host.camera(2).set(&CameraState::connected, true);
+    host.faults().plant(2, "isFunctionSupported", {"no answer", 0, false});
+    EXPECT_EQ(keys(false), "1 2");
+    EXPECT_EQ(course.take(), QStringList({"pause", "errorHandler Camera 2: no answer", "resume"}));
     EXPECT_EQ(entry(0)["found"], "found");
-    EXPECT_EQ(entry(1)["cameraname"], "far");
+    EXPECT_EQ(entry(1)["cameraname"], "Camera 2");
     EXPECT_EQ(entry(1)["found"], "");
     EXPECT_EQ(entry(1)["sup-linkspeed"], "");
 }
 
 TEST_F(DeviceInfo, SelectedKeysAreDecimalTexts) {
-    host.selectedKeys = {3, zeb::NoDocKey};
-    EXPECT_EQ(bridge.getSelectedDockey(), QVariantList({"3", "4294967295"}));
+    host.docManager().setSelectedDocs({1, 3}, 0);
+    EXPECT_EQ(bridge.getSelectedDockey(), QVariantList({"1", "3"}));
 }
 
 }  // namespace

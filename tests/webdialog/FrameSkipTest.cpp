@@ -1,6 +1,6 @@
-#include "FakeCamera.h"
-#include "FakeHost.h"
 #include "ProbeBridge.h"
+#include "camera/Camera.h"
+#include "support/FaultyHost.h"
 
 #include <gtest/gtest.h>
 
@@ -62,28 +62,22 @@ public:
     double frames = 1.0;
 
     int getSkipMode() override { return mode; }
-    void setSkipMode(int value) override { Journal::note(QString("mode %1").arg(mode = value)); }
+    void setSkipMode(int value) override { Course::note(QString("mode %1").arg(mode = value)); }
     double getSkipFrames() override { return frames; }
-    void applySkipFrames(double value) override { Journal::note(QString("apply ") % text(value)); }
+    void applySkipFrames(double value) override { Course::note(QString("apply ") % text(value)); }
 };
 
-TEST(FrameSkip, FollowsWhatIsExported) {
-    FakeCamera slow(1);
-    slow.camera.rate = 500;
-    slow.camera.recordedRates = {{1, 50}, {2, 0}};
-    slow.frameCounts = {{1, 8}, {2, 0}};
-    FakeCamera fast(2);
-    fast.camera.rate = 1500;
-    fast.camera.recordedRates = {{4, 75}};
-    fast.frameCounts = {{4, 6}};
-    FakeCamera blank(3);
-    const ExportTargets both = {{&slow, {1, 2}}, {&fast, {4}}};
-    const ExportTargets one = {{&slow, {1}}};
-    const ExportTargets none = {{&blank, {1}}};
+/// A camera's rate, and what it has recorded at another one: its frames from 0 on.
+QVariantMap recording(int rate, int recordedRate, int last) {
+    return {
+        {"rate", rate}, {"recorded", true}, {"recordedRate", recordedRate}, {"recordedRange", QVariantList{0, last}}};
+}
 
+TEST(FrameSkip, FollowsWhatIsExported) {
+    const QMap<DOCKEY, QList<PARTITIONNUMBER>> Both = {{1, {1, 2}}, {2, {1}}};
     const struct {
         const char* sentence;
-        ExportTargets targets;
+        QMap<DOCKEY, QList<PARTITIONNUMBER>> targets;
         int mode;
         int operatingMode;
         double frames;
@@ -92,14 +86,21 @@ TEST(FrameSkip, FollowsWhatIsExported) {
         QStringList calls;
     } cases[] = {
         {"nothing to export", {}, SkipByTime, zeb::LiveMode, 9, "1.0000 1.0000", 0, {}},
-        {"frames of the shortest", both, SkipByFrames, zeb::MemoryMode, 5, "1.0000 6.0000", 0, {"apply 5.0000"}},
-        {"a value above", both, SkipByFrames, zeb::LiveMode, 7, "1.0000 6.0000", 0, {"apply 1.0000"}},
-        {"the bounds belong to it", one, SkipByFrames, zeb::LiveMode, 8, "1.0000 8.0000", 0, {"apply 8.0000"}},
-        {"no frames known", none, SkipByFrames, zeb::LiveMode, 9, "1.0000 4294967295.0000", 0, {"apply 9.0000"}},
-        {"rates of the cameras", both, SkipByTime, zeb::LiveMode, 4, "2.0000 12.0000", 6, {"apply 4.0000"}},
-        {"rates of the recordings", both, SkipByTime, zeb::MemoryMode, 4, "40.0000 240.0000", 6, {"apply 40.0000"}},
+        {"frames of the shortest", Both, SkipByFrames, zeb::MemoryMode, 5, "1.0000 6.0000", 0, {"apply 5.0000"}},
+        {"a value above", Both, SkipByFrames, zeb::MemoryMode, 7, "1.0000 6.0000", 0, {"apply 1.0000"}},
+        {"the bounds belong to it", {{1, {1}}}, SkipByFrames, zeb::MemoryMode, 8, "1.0000 8.0000", 0, {"apply 8.0000"}},
+        {"no frames known",
+         {{3, {1}}},
+         SkipByFrames,
+         zeb::MemoryMode,
+         9,
+         "1.0000 4294967295.0000",
+         0,
+         {"apply 9.0000"}},
+        {"rates of the cameras", Both, SkipByTime, zeb::LiveMode, 4, "2.0000 16384.0000", 8192, {"apply 4.0000"}},
+        {"rates of the recordings", Both, SkipByTime, zeb::MemoryMode, 4, "40.0000 240.0000", 6, {"apply 40.0000"}},
         {"no rate known",
-         none,
+         {{3, {1}}},
          SkipByTime,
          zeb::MemoryMode,
          9,
@@ -108,17 +109,22 @@ TEST(FrameSkip, FollowsWhatIsExported) {
          {"mode 0", "apply 9.0000"}},
     };
     for (const auto& row : cases) {
-        Journal journal;
-        FakeHost host;
-        host.mode = row.operatingMode;
+        FaultyHost host{3};
+        host.camera(1).change(recording(500, 50, 7));
+        host.camera(2).change(recording(1500, 75, 5));
+        host.enterMode(row.operatingMode);
+        ExportTargets targets;
+        for (auto target = row.targets.begin(); target != row.targets.end(); ++target)
+            targets.insert(host.doc(target.key()), target.value());
+        Course course;
         ExportBridge bridge(&host);
         bridge.mode = row.mode;
         bridge.frames = row.frames;
-        bridge.refreshSkipFrames(row.targets);
+        bridge.refreshSkipFrames(targets);
         EXPECT_EQ(QString(text(bridge.getSkipMinFrames()) % ' ' % text(bridge.getSkipMaxFrames())), row.bounds)
             << row.sentence;
         EXPECT_EQ(bridge.skipList().size(), row.offers) << row.sentence;
-        EXPECT_EQ(journal.take(), row.calls) << row.sentence;
+        EXPECT_EQ(course.take(), row.calls) << row.sentence;
     }
 }
 

@@ -1,11 +1,11 @@
 #include "APP_ConcurrentException.h"
 #include "DOC_ReadFileException.h"
 #include "DOC_WriteFileException.h"
-#include "FakeHost.h"
 #include "ProbeBridge.h"
 #include "TraceScope.h"
 #include "TraceText.h"
 #include "UTL_Exception.h"
+#include "support/FaultyHost.h"
 
 #include <QtConcurrent>
 
@@ -20,15 +20,15 @@ struct LogCase {
 };
 
 void expectLines(const QList<LogCase>& cases) {
-    Journal journal;
+    Course course;
     for (const LogCase& row : cases) {
         row.act();
-        EXPECT_EQ(journal.take().join('\n').toStdString(), row.lines.join('\n').toStdString()) << row.sentence;
+        EXPECT_EQ(course.take().join('\n').toStdString(), row.lines.join('\n').toStdString()) << row.sentence;
     }
 }
 
 TEST(LogLines, ScopesTellNameAndArguments) {
-    FakeHost host;
+    FaultyHost host;
     ProbeBridge bridge(&host);
     const QString noKey = traceArg("docKey", 0xFFFFFFFFU) + traceArg("other docKey", 4294967295U);
     expectLines({
@@ -43,7 +43,7 @@ TEST(LogLines, ScopesTellNameAndArguments) {
          {"info: [ENTER] \"A::b\" \"[docKey:Invalid] [other docKey:Invalid]\"", "info: [LEAVE] \"A::b\""}},
         {"an operation tells the number",
          [&] { OperationEventHandler scope(bridge, "A::b", traceArg("docKey", 0xFFFFFFFFU)); },
-         {"info: [ENTER] \"A::b\" \"[docKey:4294967295]\"", "pause", "updateUI 63", "resume",
+         {"info: [ENTER] \"A::b\" \"[docKey:4294967295]\"", "pause", "updateUI 63 true", "resume",
           "info: [LEAVE] \"A::b\""}},
         {"quotes and line feeds cannot forge a line",
          [] { TraceScope scope("A::b", traceArg("name", "x\"\n[LEAVE]")); },
@@ -52,7 +52,7 @@ TEST(LogLines, ScopesTellNameAndArguments) {
 }
 
 TEST(LogLines, UserOperations) {
-    FakeHost host;
+    FaultyHost host;
     ProbeBridge bridge(&host);
     expectLines({
         {"the id tells the element, and the class is dropped",

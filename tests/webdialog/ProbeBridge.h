@@ -1,11 +1,11 @@
 #pragma once
 
 #include "BridgeCall.h"
+#include "Course.h"
 #include "JS_Mediator_Dialog.h"
-#include "Journal.h"
 #include "OperationEventHandler.h"
 
-/// A bridge whose one slot does what the test says. Its pause stands in the journal.
+/// A bridge whose one slot does what the test says. Its pause stands in the course.
 class ProbeBridge : public JS_Mediator_Dialog {
     Q_OBJECT
 
@@ -25,6 +25,6 @@ public Q_SLOTS:
     }
 
 protected:
-    void beginCall() override { Journal::note(QStringLiteral("pause")); }
-    void endCall() override { Journal::note(QStringLiteral("resume")); }
+    void beginCall() override { Course::note(QStringLiteral("pause")); }
+    void endCall() override { Course::note(QStringLiteral("resume")); }
 };

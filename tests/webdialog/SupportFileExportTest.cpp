@@ -1,7 +1,9 @@
-#include "FakeCamera.h"
-#include "FakeHost.h"
 #include "ProbeBridge.h"
 #include "SupportFileExport.h"
+#include "ZebSupportFile.h"
+#include "camera/Camera.h"
+#include "camera/Rig.h"
+#include "support/FaultyHost.h"
 
 #include <QApplication>
 #include <QEventLoop>
@@ -18,17 +20,26 @@
 
 namespace {
 
+/// Says how long its progress stands and how the writing ends.
+class ExportHost : public FaultyHost {
+public:
+    bool tableStands = false;
+    std::function<void(QFutureWatcherBase&)> onProgress;
+    /// Runs on the worker's thread.
+    std::function<bool(const QString&, const ZebSupportFile&)> onExport;
+
+    bool hasWrenWindow() const override { return tableStands; }
+    void execProgress(const QString& text, QFutureWatcherBase& watcher) override {
+        if (!onProgress) return FaultyHost::execProgress(text, watcher);
+        tell("execProgress", {text});
+        onProgress(watcher);
+    }
+    bool exportSupportFile(const QString& path, const ZebSupportFile& file) override { return onExport(path, file); }
+};
+
 class SupportFile : public testing::Test {
 protected:
-    void SetUp() override {
-        host.prefs["support/dir"] = dir.path();
-        // A modal progress, as hosts have it.
-        host.onProgress = [](QFutureWatcherBase& watcher) {
-            QEventLoop loop;
-            QObject::connect(&watcher, &QFutureWatcherBase::finished, &loop, &QEventLoop::quit);
-            if (!watcher.isFinished()) loop.exec();
-        };
-    }
+    void SetUp() override { host.prefs().setValue("support/dir", dir.path()); }
     /// What the user does with the file dialog as soon as it stands.
     static void inFileDialog(const std::function<void(QFileDialog*)>& action) {
         QTimer::singleShot(0, qApp, [action] {
@@ -46,49 +57,46 @@ protected:
     }
     /// The calls of the host but for the question and the ends of the bridge's call.
     QStringList calls() {
-        QStringList entries = journal.take();
+        QStringList entries = course.take();
         for (const char* frame : {"pause", "resume"}) entries.removeAll(frame);
-        return entries.filter(QRegularExpression("^(?!confirmModal|info: )"));
+        return entries.filter(QRegularExpression("^(?!confirm|info: )"));
     }
 
     QTemporaryDir dir;
-    Journal journal;
-    FakeHost host;
+    Course course;
+    ExportHost host;
     ProbeBridge bridge{&host};
 };
 
 TEST_F(SupportFile, TellsWhatItHolds) {
-    FakeCamera camera(4);
-    host.docs[4] = &camera;
-    host.connectedKeys = {4};
-    host.userAgrees = false;
+    host.setRig(Rig::fromFile(":/webdialog/rigs/functions.json"));
     const QString start =
-        "confirmModal <The information below will be output in ZIP file format. Do you want to proceed?><br>"
-        "<br><- Camera setting values><br><- ZEB setting values><br><- ZEB operation log><br><- SDK operation log>";
-    const QString log = "<br><- Camera log>";
-    const QString middle = "<br><- PC environment><br><- ZEB version><br><- ZEB full screen capture>";
-    const QString table = "<br><- WREN window screen capture>";
-    const QString end = "<br><- Currently displayed image data (1 frame)>";
+        "confirm <The information below will be output in ZIP file format. Do you want to proceed?>\n"
+        "\n<- Camera setting values>\n<- ZEB setting values>\n<- ZEB operation log>\n<- SDK operation log>";
+    const QString log = "\n<- Camera log>";
+    const QString middle = "\n<- PC environment>\n<- ZEB version>\n<- ZEB full screen capture>";
+    const QString table = "\n<- WREN window screen capture>";
+    const QString end = "\n<- Currently displayed image data (1 frame)>";
     const struct {
-        QSet<int> functions;
+        DOCKEY camera;
         bool wren;
         QString question;
     } cases[] = {
-        {{}, false, start + middle + end},
-        {{175, 177}, true, start + middle + table + end},
-        {{176}, false, start + log + middle + end},
-        {{158}, true, start + log + middle + table + end},
+        {1, false, start + middle + end},
+        {2, true, start + middle + table + end},
+        {3, false, start + log + middle + end},
+        {4, true, start + log + middle + table + end},
     };
     for (const auto& row : cases) {
-        camera.camera.functions = row.functions;
-        host.yes.clear();
-        if (row.wren) host.yes.insert("hasWrenWindow");
+        for (DOCKEY key = 1; key <= 4; ++key) host.faults().plant(key, "*", {{}, 0, key != row.camera});
+        host.tableStands = row.wren;
+        host.desk.answers = {{false, false}};
         bridge.openExportSupportFileDialog();
-        EXPECT_EQ(journal.take(),
+        EXPECT_EQ(course.take(),
                   QStringList({"pause", "info: [ENTER] \"JS_Mediator::openExportSupportFileDialog\" \"\"", row.question,
                                "info: [LEAVE] \"JS_Mediator::openExportSupportFileDialog\"", "resume"}));
     }
-    EXPECT_EQ(host.prefs["support/dir"], dir.path());
+    EXPECT_EQ(host.prefs().value("support/dir"), dir.path());
 }
 
 TEST_F(SupportFile, IsWrittenByAWorkerWhereTheUserSaid) {
@@ -99,7 +107,8 @@ TEST_F(SupportFile, IsWrittenByAWorkerWhereTheUserSaid) {
     const QThread* worker = nullptr;
     host.onExport = [&](const QString& where, const ZebSupportFile& file) {
         worker = QThread::currentThread();
-        written = where % '=' % file.files.value("state.txt");
+        written = where;
+        EXPECT_TRUE(file.files.contains("cameras.json"));
         return true;
     };
     inFileDialog([&](QFileDialog* dialog) {
@@ -111,11 +120,10 @@ TEST_F(SupportFile, IsWrittenByAWorkerWhereTheUserSaid) {
         QMetaObject::invokeMethod(dialog, "accept");
     });
     bridge.openExportSupportFileDialog();
-    EXPECT_EQ(written, QString(path % "=state"));
+    EXPECT_EQ(written, path);
     EXPECT_NE(worker, QThread::currentThread());
-    EXPECT_EQ(calls(), QStringList({"prepareSupportFile", "execProgress Saving...",
-                                    "info <Please attach preserved file to a mail.>",
-                                    "setPref support/dir=" + QFileInfo(path).path()}));
+    EXPECT_EQ(calls(), QStringList({"execProgress Saving...", "info <Please attach preserved file to a mail.>",
+                                    "setPref support/dir " + QFileInfo(path).path()}));
 }
 
 TEST_F(SupportFile, IsNotWrittenWithoutAName) {
@@ -127,14 +135,13 @@ TEST_F(SupportFile, IsNotWrittenWithoutAName) {
 TEST_F(SupportFile, AFailureIsShownOnceAndNothingIsStored) {
     const QString shown = "errorHandler Failed to save support file.";
     const QString logged = "critical: \"APP_Exception:[message:Failed to save support file.] [errorCode:0] \"";
-    const auto waits = host.onProgress;
     const struct {
         const char* sentence;
         bool written;
         std::function<void(QFutureWatcherBase&)> progress;
         QString box;
     } cases[] = {
-        {"it is told behind the progress", false, waits, shown},
+        {"it is told behind the progress", false, {}, shown},
         {"and if the progress left early", false, [](QFutureWatcherBase&) {}, shown},
         {"a progress that fails is told itself", false,
          [](QFutureWatcherBase&) { throw std::runtime_error("no window"); }, "errorHandler no window"},
@@ -147,8 +154,8 @@ TEST_F(SupportFile, AFailureIsShownOnceAndNothingIsStored) {
         exportTo(dir.filePath("elsewhere.zip"));
         QStringList entries = calls();
         EXPECT_EQ(entries.removeAll(logged), row.written ? 0 : 1) << row.sentence;
-        EXPECT_EQ(entries, QStringList({"prepareSupportFile", "execProgress Saving...", row.box})) << row.sentence;
-        EXPECT_EQ(host.prefs["support/dir"], dir.path());
+        EXPECT_EQ(entries, QStringList({"execProgress Saving...", row.box})) << row.sentence;
+        EXPECT_EQ(host.prefs().value("support/dir"), dir.path());
     }
 }
 
@@ -169,7 +176,7 @@ TEST_F(SupportFile, NoWorkerOutlivesTheCall) {
         };
         exportTo(dir.filePath("late.zip"));
         EXPECT_TRUE(ended) << fails;
-        EXPECT_EQ(journal.take().contains("errorHandler Unknown failure."), fails);
+        EXPECT_EQ(course.take().contains("errorHandler Unknown failure."), fails);
     }
 }
 
@@ -177,7 +184,7 @@ TEST_F(SupportFile, AHostThatThrowsOnTheWorkerIsToldOnce) {
     host.onExport = [](const QString&, const ZebSupportFile&) -> bool { throw std::runtime_error("disk"); };
     exportTo(dir.filePath("x.zip"));
     EXPECT_EQ(calls().filter("errorHandler").size(), 1);
-    EXPECT_EQ(host.prefs["support/dir"], dir.path());
+    EXPECT_EQ(host.prefs().value("support/dir"), dir.path());
 }
 
 }  // namespace

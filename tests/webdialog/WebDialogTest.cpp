@@ -1,10 +1,10 @@
-#include "FakeHost.h"
 #include "FakePlugin.h"
 #include "GUI_ModelessPatternDialog.h"
 #include "GUI_WebView.h"
 #include "ProbeBridge.h"
 #include "UTL_Messages.h"
 #include "WindowPlacement.h"
+#include "support/FaultyHost.h"
 
 #include <QEvent>
 #include <QPushButton>
@@ -12,6 +12,7 @@
 #include <QSignalSpy>
 #include <QTest>
 #include <QTimer>
+#include <QWebFrame>
 
 #include <gtest/gtest.h>
 
@@ -37,7 +38,10 @@ private:
 
 class WebDialog : public testing::Test {
 protected:
-    void SetUp() override { host.plugins.insert("wren", &plugin); }
+    void SetUp() override {
+        host.appStatus().registerPlugin(&plugin);
+        host.flags().set("IsUpdateIgnore", true);  // a page hears what the test says
+    }
 
     GUI_WebViewDialog* makeDialog(const QString& url = ProbePage) {
         return new GUI_WebViewDialog(&host, "Title", url, bridge);
@@ -45,8 +49,8 @@ protected:
     GUI_ModelessPatternDialog* makeModeless() {
         auto* dialog = new GUI_ModelessPatternDialog(&host, "Title", ProbePage, bridge, &plugin);
         plugin.dialog = dialog;
-        QObject::connect(dialog, &GUI_ModelessPatternDialog::shown, [] { Journal::note("shown"); });
-        QObject::connect(dialog, &GUI_ModelessPatternDialog::closed, [] { Journal::note("closed"); });
+        QObject::connect(dialog, &GUI_ModelessPatternDialog::shown, [] { Course::note("shown"); });
+        QObject::connect(dialog, &GUI_ModelessPatternDialog::closed, [] { Course::note("closed"); });
         return dialog;
     }
     static bool waitForLoad(GUI_WebViewDialog& dialog) {
@@ -56,16 +60,15 @@ protected:
         return dialog.getWebView()->page()->mainFrame()->evaluateJavaScript(script);
     }
 
-    Journal journal;
-    FakeHost host;
+    Course course;
+    FaultyHost host;
     FakePlugin plugin;
     ProbeBridge* bridge = new ProbeBridge(&host);  // the dialog's
 };
 
 TEST_F(WebDialog, LoadsDeterredAndFadesIn) {
-    host.viewerRunning = true;
-    host.mainWindow = new QWidget;
-    const QScopedPointer<QWidget> owner(host.mainWindow);
+    QWidget mainWindow;
+    host.setMainWindow(&mainWindow);
     {
         const QScopedPointer<GUI_WebViewDialog> dialog(makeDialog());
         EXPECT_EQ(dialog->windowFlags(), Qt::WindowFlags(0x8003000 | Qt::Dialog));
@@ -81,16 +84,16 @@ TEST_F(WebDialog, LoadsDeterredAndFadesIn) {
         EXPECT_EQ(dialog->windowOpacity(), 0.0);
         fade->setCurrentTime(fade->duration());
         EXPECT_EQ(dialog->windowOpacity(), 1.0);
-        EXPECT_EQ(journal.take(),
+        EXPECT_EQ(course.take(),
                   QStringList({"suspendViewer", "info: [ENTER] \"GUI_WebViewDialog::loadStarted\" \"\"",
                                "deterUpdateUI true", "info: [LEAVE] \"GUI_WebViewDialog::loadStarted\"",
                                "info: [ENTER] \"GUI_WebViewDialog::loadFinished\" \"[ok:true]\"", "deterUpdateUI false",
-                               "updateUI 4294967295", "info: [LEAVE] \"GUI_WebViewDialog::loadFinished\""}));
+                               "updateUI 4294967295 true", "info: [LEAVE] \"GUI_WebViewDialog::loadFinished\""}));
         // What the host's first update cycle does: the page has connected by then.
         bridge->raiseUpdate();
         EXPECT_EQ(eval(*dialog, "heard.join()"), "update");
     }
-    EXPECT_EQ(journal.take(), QStringList("resumeViewer"));
+    EXPECT_EQ(course.take(), QStringList("resumeViewer"));
 }
 
 TEST_F(WebDialog, FailedBrokenOffAndRepeatedLoadsLiftTheDeterrence) {
@@ -98,7 +101,7 @@ TEST_F(WebDialog, FailedBrokenOffAndRepeatedLoadsLiftTheDeterrence) {
         const QScopedPointer<GUI_WebViewDialog> dialog(makeDialog("qrc:/missing.html"));
         ASSERT_TRUE(waitForLoad(*dialog));
         EXPECT_TRUE(dialog->findChild<QPropertyAnimation*>());
-        const QStringList entries = journal.take();
+        const QStringList entries = course.take();
         EXPECT_TRUE(entries.contains("info: [ENTER] \"GUI_WebViewDialog::loadFinished\" \"[ok:false]\""));
         EXPECT_EQ(entries.count("deterUpdateUI false"), 1);
 
@@ -109,7 +112,7 @@ TEST_F(WebDialog, FailedBrokenOffAndRepeatedLoadsLiftTheDeterrence) {
     }
     bridge = new ProbeBridge(&host);
     delete makeDialog();  // in the middle of its load
-    const QStringList entries = journal.take();
+    const QStringList entries = course.take();
     EXPECT_EQ(entries.count("deterUpdateUI true"), 3);
     EXPECT_EQ(entries.count("deterUpdateUI false"), 3);
 }
@@ -119,14 +122,14 @@ TEST_F(WebDialog, WithoutMainWindowStandsInTheMiddleOfAScreen) {
     dialog->resize(401, 300);
     dialog->show();
     for (int stored : {0, 99, -1}) {
-        host.prefs["main/scrno"] = stored;
+        host.prefs().setValue("main/scrno", stored);
         dialog->move(3, 4);
         dialog->loadFinished(true);
         const QPoint off = dialog->frameGeometry().center() - dialog->screen()->geometry().center();
         EXPECT_LE(off.manhattanLength(), 2) << stored;
     }
     QWidget mainWindow;
-    host.mainWindow = &mainWindow;
+    host.setMainWindow(&mainWindow);
     dialog->move(3, 4);
     dialog->loadFinished(true);
     EXPECT_EQ(dialog->pos(), QPoint(3, 4));
@@ -171,14 +174,14 @@ TEST_F(WebDialog, PageClosesTheDialogAndHearsOfARejection) {
     EXPECT_EQ(dialog->result(), QDialog::Accepted);
 
     dialog->show();
-    journal.take();
+    course.take();
     dialog->close();
     EXPECT_EQ(dialog->result(), QDialog::Rejected);
     EXPECT_EQ(eval(*dialog, "heard.join()"), "rejected");
-    EXPECT_EQ(journal.take(), QStringList({"info: [USER] \"[URL:GUI_WebViewDialog] [ID:close] [Control:Button] "
-                                           "[Operation:clicked] [Value:] \"",
-                                           "info: [ENTER] \"GUI_WebViewDialog::closeEvent\" \"\"",
-                                           "info: [LEAVE] \"GUI_WebViewDialog::closeEvent\""}));
+    EXPECT_EQ(course.take(), QStringList({"info: [USER] \"[URL:GUI_WebViewDialog] [ID:close] [Control:Button] "
+                                          "[Operation:clicked] [Value:] \"",
+                                          "info: [ENTER] \"GUI_WebViewDialog::closeEvent\" \"\"",
+                                          "info: [LEAVE] \"GUI_WebViewDialog::closeEvent\""}));
 }
 
 TEST_F(WebDialog, ModelessDialogLivesOnAfterAClose) {
@@ -186,14 +189,14 @@ TEST_F(WebDialog, ModelessDialogLivesOnAfterAClose) {
     ASSERT_TRUE(waitForLoad(*dialog));
     EXPECT_TRUE(dialog->isPluginCloseEnabled());
     for (int round = 1; round <= 2; ++round) {
-        journal.take();
+        course.take();
         dialog->show();
-        const QStringList opened = journal.take();
+        const QStringList opened = course.take();
         EXPECT_EQ(opened.count("shown"), 1);
         EXPECT_EQ(opened.indexOf("notifyPluginShown"), 0);
         dialog->close();
         EXPECT_FALSE(dialog->isVisible());
-        EXPECT_EQ(journal.take().mid(1), QStringList({"notifyPluginClosed", "closed"}));
+        EXPECT_EQ(course.take().mid(1), QStringList({"notifyPluginClosed", "closed"}));
         EXPECT_EQ(eval(*dialog, "heard.filter(function (n) { return n === 'close'; }).length"), round);
     }
     dialog->updatePage();
@@ -203,13 +206,13 @@ TEST_F(WebDialog, ModelessDialogLivesOnAfterAClose) {
 TEST_F(WebDialog, ActivationTellsTheHostAndReselectsTheTool) {
     const QScopedPointer<GUI_ModelessPatternDialog> dialog(makeModeless());
     QEvent activate(QEvent::WindowActivate);
-    journal.take();
+    course.take();
     QCoreApplication::sendEvent(dialog.data(), &activate);
-    EXPECT_EQ(journal.take(), QStringList("notifyPluginShown"));
+    EXPECT_EQ(course.take(), QStringList("notifyPluginShown"));
     plugin.reselect = true;
     host.failing = "setQuickTool";
     QCoreApplication::sendEvent(dialog.data(), &activate);
-    EXPECT_EQ(journal.take(),
+    EXPECT_EQ(course.take(),
               QStringList({"setQuickTool wren false", "critical: \"setQuickTool\"", "notifyPluginShown"}));
 }
 
@@ -217,17 +220,17 @@ TEST_F(WebDialog, CloseDuringACallComesOnceWhenTheCallHasEnded) {
     const QScopedPointer<GUI_ModelessPatternDialog> dialog(makeModeless());
     ASSERT_TRUE(waitForLoad(*dialog));
     dialog->show();
-    host.onBox = [&] {
+    host.desk.whileStanding = [&] {
         EXPECT_FALSE(dialog->close());
         EXPECT_FALSE(dialog->close());
         QCoreApplication::processEvents();
         EXPECT_TRUE(dialog->isVisible());
     };
-    journal.take();
+    course.take();
     eval(*dialog, "probe.warn('a box')");
     EXPECT_TRUE(QTest::qWaitFor([&] { return !dialog->isVisible(); }));
     QCoreApplication::processEvents();
-    EXPECT_EQ(journal.take().filter("close", Qt::CaseInsensitive).size(), 3);  // user's line, host, `closed`
+    EXPECT_EQ(course.take().filter("close", Qt::CaseInsensitive).size(), 3);  // user's line, host, `closed`
 }
 
 TEST_F(WebDialog, ClosingHostDismissesOurBox) {
@@ -235,7 +238,7 @@ TEST_F(WebDialog, ClosingHostDismissesOurBox) {
     dialog->show();
     bridge->work = [&] {
         QTimer::singleShot(0, dialog.data(), [&] {
-            host.closing = true;
+            host.flags().set("IsApplicationClosing", true);
             dialog->close();
             QWidget* box = QApplication::activeModalWidget();
             EXPECT_FALSE(box);
@@ -255,7 +258,7 @@ TEST_F(WebDialog, PageOutlivesItsDialogUntilTheCallHasEnded) {
     const QPointer<ProbeBridge> main(bridge);
     const QPointer<ProbeBridge> second(extra);
     ASSERT_TRUE(waitForLoad(*dialog));
-    host.onBox = [&] {
+    host.desk.whileStanding = [&] {
         delete dialog;
         QCoreApplication::processEvents();
         EXPECT_TRUE(view && main && second);

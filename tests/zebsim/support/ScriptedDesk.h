@@ -5,14 +5,15 @@
 #include <QList>
 
 #include <functional>
+#include <utility>
 
 /// Keeps the message boxes and answers them from a queue; without an answer a box is accepted.
 class ScriptedDesk : public MessageDesk {
 public:
     Answer show(const Message& message) override {
         shown.append(message);
-        if (whileStanding) {
-            whileStanding();
+        if (const auto work = std::exchange(whileStanding, nullptr)) {
+            work();
         }
         return answers.isEmpty() ? Answer() : answers.takeFirst();
     }
@@ -27,6 +28,6 @@ public:
 
     QList<Message> shown;
     QList<Answer> answers;
-    /// Runs while a box stands.
+    /// Runs while the next box stands.
     std::function<void()> whileStanding;
 };

@@ -1,10 +1,10 @@
-#include "Journal.h"
+#include "Course.h"
 
 #include <utility>
 
 namespace {
 
-Journal* current = nullptr;
+Course* current = nullptr;
 
 QString levelName(QtMsgType level) {
     switch (level) {
@@ -21,25 +21,25 @@ QString levelName(QtMsgType level) {
 
 void noteLogLine(QtMsgType level, const QMessageLogContext&, const QString& line) {
     if (line.startsWith(QLatin1String("This plugin does not support"))) return;  // the offscreen platform's own
-    Journal::note(levelName(level) % line);
+    Course::note(levelName(level) % line);
 }
 
 }  // namespace
 
-Journal::Journal() {
+Course::Course() {
     current = this;
     qInstallMessageHandler(noteLogLine);
 }
 
-Journal::~Journal() {
+Course::~Course() {
     qInstallMessageHandler(nullptr);
     current = nullptr;
 }
 
-void Journal::note(const QString& entry) {
+void Course::note(const QString& entry) {
     if (current) current->m_entries.append(entry);
 }
 
-QStringList Journal::take() {
+QStringList Course::take() {
     return std::exchange(m_entries, {});
 }

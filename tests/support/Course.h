@@ -10,14 +10,14 @@ inline void PrintTo(const QString& text, std::ostream* out) {
     *out << text.toStdString();
 }
 
-/// What happened in a test, host calls and log lines in one order. While a journal lives it takes the log.
-class Journal {
+/// The course of a test: lines of the log and what is noted, in one order. While a course lives it takes the log.
+class Course {
 public:
-    Journal();
-    ~Journal();
-    Q_DISABLE_COPY(Journal)
+    Course();
+    ~Course();
+    Q_DISABLE_COPY(Course)
 
-    /// One more entry. Without a living journal it is dropped.
+    /// One more entry. Without a living course it is dropped.
     static void note(const QString& entry);
     /// The entries since the last asking.
     QStringList take();
