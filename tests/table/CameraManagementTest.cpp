@@ -74,22 +74,22 @@ TEST_F(CameraManagementTest, asksBeforeDisconnectingByWhatGoesWithIt) {
         {{1, 5, 4}, "Heads connected to the same device are also disconnected. Is it OK?"},
     };
     for (const auto& [keys, question] : cases) {
-        desk.answers = {false};
+        desk.answers = {{false, false}};
         EXPECT_FALSE(cameras.confirmDisconnect(keys));
-        EXPECT_EQ(desk.shown, QStringList{question});
+        EXPECT_EQ(desk.texts(), QStringList{question});
         desk.shown.clear();
     }
     EXPECT_TRUE(cameras.confirmDisconnect({1}));
 
     change(4, {{"locked", true}});
     cameras.confirmDisconnect({4});
-    EXPECT_EQ(desk.shown.last(), cases[4].second) << "a locked head counts too";
+    EXPECT_EQ(desk.texts().last(), cases[4].second) << "a locked head counts too";
     desk.shown.clear();
     host.faults().plant(1, "isParamLocked", {"no answer", 0, false});
     EXPECT_FALSE(cameras.confirmDisconnect({1}));
     host.appStatus().enterMemoryMode();
     EXPECT_FALSE(cameras.confirmDisconnect({5}));
-    EXPECT_EQ(desk.shown, QStringList());
+    EXPECT_EQ(desk.texts(), QStringList());
 }
 
 TEST_F(CameraManagementTest, selectionSetsTheCameraBehindTheBatchRow) {
@@ -146,12 +146,12 @@ TEST_F(CameraManagementTest, aSearchBringsCamerasThatAreNew) {
     cameras.update();
     cameras.deleteAll();
     EXPECT_EQ(calls(), QStringList());
-    EXPECT_EQ(desk.shown, QStringList());
+    EXPECT_EQ(desk.texts(), QStringList());
 }
 
 TEST_F(CameraManagementTest, allCamerasGoOnlyWhenTheUserAgrees) {
     connectAll();
-    desk.answers = {false, true, true};
+    desk.answers = {{false, false}, {}, {}};
     cameras.deleteAll();
     EXPECT_EQ(host.docManager().getDocKeys().size(), 8);
     desk.whileStanding = [this] { host.appStatus().enterMode(zeb::MemoryMode); };
@@ -160,7 +160,7 @@ TEST_F(CameraManagementTest, allCamerasGoOnlyWhenTheUserAgrees) {
     host.appStatus().enterMode(zeb::LiveMode);
     cameras.deleteAll();
     EXPECT_TRUE(host.docManager().getDocKeys().isEmpty());
-    EXPECT_EQ(desk.shown.count("Delete all Cameras?"), 3);
+    EXPECT_EQ(desk.texts().count("Delete all Cameras?"), 3);
     cameras.discover();
     EXPECT_EQ(host.docManager().getDocKeys().size(), 11);
     EXPECT_TRUE(host.docManager().getConnectedDocKeys().isEmpty());

@@ -42,7 +42,7 @@ TEST_F(ParameterEditingTest, nothingIsAskedOrChangedWhereNothingMayBe) {
     editing.setFrameRate({1}, "2000");
     editing.setParamLock({1}, true);
     EXPECT_EQ(calls(), QStringList());
-    EXPECT_EQ(desk.shown, QStringList());
+    EXPECT_EQ(desk.texts(), QStringList());
 }
 
 TEST_F(ParameterEditingTest, asksBeforeALockedHeadOfTheDeviceIsChanged) {
@@ -50,9 +50,9 @@ TEST_F(ParameterEditingTest, asksBeforeALockedHeadOfTheDeviceIsChanged) {
     const QString question =
         "Shooting speed of locked heads will be changed at the same time.\nDo you want to continue?";
 
-    desk.answers = {false};
+    desk.answers = {{false, false}};
     editing.setFrameRate({1, 3}, "2000");
-    EXPECT_EQ(desk.shown, QStringList{question});
+    EXPECT_EQ(desk.texts(), QStringList{question});
     EXPECT_EQ(calls(), QStringList()) << "declined: no camera of the batch changes";
 
     editing.setFrameRate({1, 3}, "2000");
@@ -60,10 +60,10 @@ TEST_F(ParameterEditingTest, asksBeforeALockedHeadOfTheDeviceIsChanged) {
 
     desk.shown.clear();
     editing.setFrameRate({3, 1}, "1000");
-    EXPECT_EQ(desk.shown, QStringList()) << "the last head of the list decides";
+    EXPECT_EQ(desk.texts(), QStringList()) << "the last head of the list decides";
     host.setPrefBool("alert/wren/multiheadlockalert", false);
     editing.setFrameRate({1, 3}, "1000");
-    EXPECT_EQ(desk.shown, QStringList()) << "the user wants no question";
+    EXPECT_EQ(desk.texts(), QStringList()) << "the user wants no question";
 }
 
 TEST_F(ParameterEditingTest, looksAgainAfterTheQuestion) {
@@ -118,7 +118,7 @@ TEST_F(ParameterEditingTest, asksForEachParameterInItsOwnWay) {
         const QString question =
             QStringLiteral("%1 of locked heads will be changed at the same time.\nDo you want to continue?")
                 .arg(each.label);
-        EXPECT_EQ(desk.shown, each.label.isEmpty() ? QStringList() : QStringList{question}) << each.told;
+        EXPECT_EQ(desk.texts(), each.label.isEmpty() ? QStringList() : QStringList{question}) << each.told;
         EXPECT_EQ(calls().filter("ZebCameraOps::").size(), 1) << each.told;
     }
 }
@@ -165,7 +165,7 @@ TEST_F(ParameterEditingTest, setsTheTriggerWithTheParametersOfTheHost) {
     TriggerEditing triggers(host);
     change(4, {{"locked", true}});
     triggers.setTriggerMode({1, 3}, "4");
-    EXPECT_EQ(desk.shown, QStringList()) << "no question about the locked head of the device";
+    EXPECT_EQ(desk.texts(), QStringList()) << "no question about the locked head of the device";
     EXPECT_EQ(calls(), QStringList{"ZebCameraOps::setTriggerMode [[1,3],1,4,0,0,30,100,0]"});
     EXPECT_EQ(stateOf(1, "triggerMode").toInt(), 4);
     triggers.setTriggerMode({1}, "3");
@@ -186,7 +186,7 @@ TEST_F(ParameterEditingTest, aCameraThatRefusesTheTriggerKeepsTheOthersFromNothi
     host.setPref("wren/settings/triggerRandomFrame", 1000);
     change(2, {{"resolution", QVariantList{512, 512}}});
     EXPECT_TRUE(refused([&] { triggers.setTriggerMode({1, 2}, "3"); }));
-    EXPECT_EQ(desk.shown, QStringList{"Gate・・Trigger Parameter is invalid."}) << "told all the same";
+    EXPECT_EQ(desk.texts(), QStringList{"Gate・・Trigger Parameter is invalid."}) << "told all the same";
 }
 
 TEST_F(ParameterEditingTest, namesTheCamerasWhoseMemoryIsTooSmallForTheTrigger) {
@@ -198,14 +198,15 @@ TEST_F(ParameterEditingTest, namesTheCamerasWhoseMemoryIsTooSmallForTheTrigger) 
     TriggerEditing triggers(host);
     change(2, {{"resolution", QVariantList{512, 512}}});
     triggers.setTriggerMode({1, 2, 6}, "3");
-    EXPECT_EQ(desk.shown, QStringList{"Gate・・Trigger Parameter is invalid.\nTrack・・Trigger Parameter is invalid."});
+    EXPECT_EQ(desk.texts(),
+              QStringList{"Gate・・Trigger Parameter is invalid.\nTrack・・Trigger Parameter is invalid."});
     EXPECT_EQ(calls().filter("ZebCameraOps::"), (QStringList{"ZebCameraOps::setTriggerMode [[2],2,3,0,0,25,1000,10]",
                                                              "ZebCameraOps::setRandomTriggerPhase [[2],true]",
                                                              "ZebCameraOps::setTriggerMode [[2],2,3,0,0,25,1000,10]"}));
 
     desk.shown.clear();
     triggers.setTriggerMode({1}, "13");
-    EXPECT_EQ(desk.shown, QStringList()) << "recording on command takes any number";
+    EXPECT_EQ(desk.texts(), QStringList()) << "recording on command takes any number";
     EXPECT_EQ(calls(), QStringList{"ZebCameraOps::setTriggerMode [[1],2,13,0,0,25,1000,10]"});
     triggers.setTriggerMode({1}, "2");
     EXPECT_EQ(calls(), QStringList{"ZebCameraOps::setTriggerMode [[1],2,2,0,0,25,1000,10]"});

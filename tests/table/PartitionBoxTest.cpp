@@ -66,7 +66,7 @@ TEST_F(PartitionBoxTest, thePageOpensAndClosesTheList) {
     change(1, {{"connected", false}});
     EXPECT_EQ(table->getCurrentPartition(), 0U);
     EXPECT_EQ(table->getCurrentPartitionName(), "");
-    EXPECT_EQ(desk.shown, QStringList());
+    EXPECT_EQ(desk.texts(), QStringList());
 }
 
 TEST_F(PartitionBoxTest, theListStaysOverItsPlaceAndGoesWithTheTable) {

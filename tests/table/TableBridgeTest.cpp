@@ -1,43 +1,15 @@
 #include "JS_Mediator_WrenTableDialog.h"
 #include "PLG_wren.h"
+#include "SlotCall.h"
 #include "TableFixture.h"
 
-#include <QMetaMethod>
 #include <QSignalSpy>
 #include <QTest>
 #include <QTimer>
 #include <QWebFrame>
 #include <QWebPage>
 
-#include <iostream>
-
 namespace {
-
-/// What happens while it lives, in its order: lines of the log, requests for an update, boxes.
-class Course {
-public:
-    explicit Course(SimHost& host) {
-        lines.clear();
-        m_previous = qInstallMessageHandler(
-            [](QtMsgType, const QMessageLogContext&, const QString& line) { lines.append(line.trimmed()); });
-        m_connection = QObject::connect(&host.journal(), &Journal::recorded, [](const QString& call) {
-            if (call == QLatin1String("ZebHost::updateUI")) {
-                lines.append(QStringLiteral("update"));
-            }
-        });
-    }
-    ~Course() {
-        QObject::disconnect(m_connection);
-        qInstallMessageHandler(m_previous);
-    }
-    Q_DISABLE_COPY(Course)
-
-    static inline QStringList lines;
-
-private:
-    QtMessageHandler m_previous;
-    QMetaObject::Connection m_connection;
-};
 
 class TableBridgeTest : public TableFixture {
 protected:
@@ -46,6 +18,11 @@ protected:
         plugin.setHost(&host);
         bridge = std::make_unique<JS_Mediator_WrenTableDialog>(&host, "wrentabledialog", &plugin);
         ticks = std::make_unique<QSignalSpy>(bridge.get(), &JS_Mediator_WrenTableDialog::autoUpdate);
+        QObject::connect(&host.journal(), &Journal::recorded, [](const QString& call) {
+            if (call == QLatin1String("ZebHost::updateUI")) {
+                Course::note("update");
+            }
+        });
         connectAll();
         calls();
     }
@@ -72,20 +49,20 @@ protected:
 
 TEST_F(TableBridgeTest, aFailedCameraLeavesTheOthersChangedAndOneMessage) {
     host.faults().plant(3, "setRecordRate", {"no answer", 0, false});
-    Course course(host);
+    Course course;
     int ticksUnderBox = -1;
     desk.whileStanding = [&] {
-        Course::lines.append("box");
+        Course::note("box");
         ticksUnderBox = ticksMeanwhile();
     };
     bridge->setFrameRate({"1", "2", "3", "5"}, "2000");
 
-    EXPECT_EQ(Course::lines,
-              (QStringList{R"([ENTER] "JS_Mediator_WrenTableDialog::setFrameRate" "[keys:1,2,3,5] [val:2000]")",
-                           "update", R"([LEAVE] "JS_Mediator_WrenTableDialog::setFrameRate")", "box"}));
+    EXPECT_EQ(course.take(),
+              (QStringList{R"(info: [ENTER] "JS_Mediator_WrenTableDialog::setFrameRate" "[keys:1,2,3,5] [val:2000]")",
+                           "update", R"(info: [LEAVE] "JS_Mediator_WrenTableDialog::setFrameRate")", "box"}));
     EXPECT_EQ(calls(), QStringList{"ZebCameraOps::setRecordRate [[1,2,3,5],2000]"});
     ASSERT_EQ(desk.shown.size(), 1);
-    EXPECT_TRUE(desk.shown.first().contains("Nozzle left"));
+    EXPECT_TRUE(desk.texts().first().contains("Nozzle left"));
     for (const DOCKEY key : {1, 2, 5}) {
         EXPECT_EQ(stateOf(key, "rate").toInt(), 2000);
     }
@@ -95,7 +72,7 @@ TEST_F(TableBridgeTest, aFailedCameraLeavesTheOthersChangedAndOneMessage) {
 
 TEST_F(TableBridgeTest, whileABoxStandsThePageIsAnsweredButChangesNothing) {
     QString records;
-    Course course(host);
+    Course course;
     desk.whileStanding = [&] {
         bridge->setFrameRate({1}, "2000");
         bridge->setParamLock({1}, true);
@@ -108,8 +85,8 @@ TEST_F(TableBridgeTest, whileABoxStandsThePageIsAnsweredButChangesNothing) {
         EXPECT_TRUE(stateOf(1, "connected").toBool());
     };
     EXPECT_TRUE(bridge->confirm("Sure?"));
-    EXPECT_EQ(desk.shown, QStringList{"Sure?"});
-    EXPECT_EQ(Course::lines.filter("refused").size(), 6);
+    EXPECT_EQ(desk.texts(), QStringList{"Sure?"});
+    EXPECT_EQ(course.take().filter("refused").size(), 6);
     EXPECT_FALSE(records.isEmpty());
     EXPECT_TRUE(calls().filter("setRecordRate").isEmpty());
     EXPECT_FALSE(stateOf(1, "locked").toBool());
@@ -165,22 +142,23 @@ TEST_F(TableBridgeTest, noTicksInFileModeNorWhileTheHostSaves) {
 }
 
 TEST_F(TableBridgeTest, aRunOfSelectionsMakesOneUpdate) {
-    Course course(host);
+    Course course;
     bridge->select({1}, true);
     bridge->select({2}, true);
     bridge->select({"1"}, false);
-    EXPECT_EQ(Course::lines.count("update"), 0);
+    EXPECT_EQ(course.take().count("update"), 0);
     EXPECT_EQ(bridge->getBatchDocKey(), zeb::NoDocKey);
-    EXPECT_TRUE(QTest::qWaitFor([] { return Course::lines.contains("update"); }));
-    EXPECT_EQ(Course::lines.count("update"), 1);
+    int updates = 0;
+    EXPECT_TRUE(QTest::qWaitFor([&] { return (updates += course.take().count("update")) > 0; }));
+    EXPECT_EQ(updates, 1);
 }
 
 TEST_F(TableBridgeTest, aListThatChangesTheSelectionAsksForAnUpdate) {
-    Course course(host);
+    Course course;
     bridge->getRecords(R"({"group":"","filter":0,"tab":0})");
-    EXPECT_EQ(Course::lines, QStringList{"update"});
+    EXPECT_EQ(course.take(), QStringList{"update"});
     bridge->getRecords(R"({"group":"","filter":0,"tab":0})");
-    EXPECT_EQ(Course::lines, QStringList{"update"});
+    EXPECT_EQ(course.take(), QStringList());
 }
 
 TEST_F(TableBridgeTest, keysCrossThePageAsNumbersAndTexts) {
@@ -206,33 +184,15 @@ TEST_F(TableBridgeTest, noFailureOfACameraLeavesASlot) {
     for (DOCKEY key = 1; key <= 8; ++key) {
         host.faults().plant(key, "*", {"no answer", 0, false});
     }
-    const QMetaObject* meta = bridge->metaObject();
-    const QVariantList keys{1, 2, 3};
-    const QString text = "1";
-    const bool on = true;
-    const uint key = 1;
-    int tried = 0;
-    for (int i = meta->methodOffset(); i < meta->methodCount(); ++i) {
-        const QMetaMethod method = meta->method(i);
-        if (method.methodType() != QMetaMethod::Slot) {
-            continue;
-        }
-        void* arguments[10] = {};
-        QVariant result(method.returnType() == QMetaType::Void ? QVariant() : QVariant(method.returnType(), nullptr));
-        arguments[0] = result.data();
-        for (int j = 0; j < method.parameterCount(); ++j) {
-            const int type = method.parameterType(j);
-            arguments[j + 1] = const_cast<void*>(type == QMetaType::QVariantList ? static_cast<const void*>(&keys)
-                                                 : type == QMetaType::QString    ? static_cast<const void*>(&text)
-                                                 : type == QMetaType::Bool       ? static_cast<const void*>(&on)
-                                                                                 : static_cast<const void*>(&key));
-        }
-        EXPECT_NO_THROW(QMetaObject::metacall(bridge.get(), QMetaObject::InvokeMetaMethod, i, arguments))
+    for (const QMetaMethod& method : slotsOf(*bridge->metaObject())) {
+        EXPECT_NO_THROW(callSlot(*bridge, method,
+                                 {{QMetaType::QVariantList, QVariantList{1, 2, 3}},
+                                  {QMetaType::QString, "1"},
+                                  {QMetaType::Bool, true},
+                                  {QMetaType::UInt, 1U}}))
             << method.methodSignature().toStdString();
         EXPECT_FALSE(bridge->isInCall()) << method.methodSignature().toStdString();
-        ++tried;
     }
-    std::cout << "slots tried: " << tried << std::endl;
     EXPECT_GE(desk.shown.size(), 3) << "the failures were shown";
 }
 

@@ -7,18 +7,6 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
-#include <utility>
-
-Answer ScriptedDesk::show(const Message& message) {
-    shown.append(message.text);
-    if (const auto work = std::exchange(whileStanding, nullptr)) {
-        work();
-    }
-    Answer answer;
-    answer.accepted = answers.isEmpty() || answers.takeFirst();
-    return answer;
-}
-
 TableFixture::TableFixture() {
     host.setRig(Rig::fromFile(QStringLiteral("eight-mixed")));
     // A test says itself what is recorded.

@@ -1,33 +1,14 @@
 #pragma once
 
-#include "host/MessageDesk.h"
+#include "Course.h"
 #include "host/SimHost.h"
 #include "recording/SteppedClock.h"
+#include "support/ScriptedDesk.h"
 
-#include <QStringList>
 #include <QTemporaryDir>
 #include <QWidget>
 
 #include <gtest/gtest.h>
-
-#include <functional>
-#include <ostream>
-
-/// How a failed comparison shows a text.
-inline void PrintTo(const QString& text, std::ostream* out) {
-    *out << text.toStdString();
-}
-
-/// A user who answers message boxes as the test has laid down, "yes" where it has not.
-class ScriptedDesk : public MessageDesk {
-public:
-    Answer show(const Message& message) override;
-
-    QList<bool> answers;
-    QStringList shown;
-    /// Runs while the next box stands.
-    std::function<void()> whileStanding;
-};
 
 /// The host with the rig of eight cameras, nothing connected.
 class TableFixture : public testing::Test {

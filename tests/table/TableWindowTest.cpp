@@ -44,9 +44,9 @@ TEST_F(TableWindowTest, aDeclinedCloseLeavesTheTableAsItIs) {
     dialog.setGeometry(300, 200, 1300, 500);
     bridge.startAutoUpdate();
 
-    desk.answers = {false};
+    desk.answers = {{false, false}};
     EXPECT_FALSE(dialog.close());
-    EXPECT_EQ(desk.shown, QStringList{"Quit WREN?"});
+    EXPECT_EQ(desk.texts(), QStringList{"Quit WREN?"});
     EXPECT_TRUE(dialog.isVisible());
     EXPECT_EQ(closes.count(), 0);
     EXPECT_EQ(host.getPrefInt("wren/table/x"), 300) << "the place is stored before the question";
@@ -54,7 +54,7 @@ TEST_F(TableWindowTest, aDeclinedCloseLeavesTheTableAsItIs) {
     EXPECT_TRUE(QSignalSpy(&bridge, &JS_Mediator_WrenTableDialog::autoUpdate).wait());
 
     bridge.stopAutoUpdate();
-    desk.answers = {false};
+    desk.answers = {{false, false}};
     EXPECT_FALSE(dialog.close());
     EXPECT_FALSE(bridge.isTicking()) << "a drag that had stopped the ticks goes on";
 }
@@ -92,14 +92,14 @@ TEST_F(TableWindowTest, aClosingHostAsksNothing) {
     host.flags().set("IsWindowStateSaveSuppressed", true);
     calls();
     EXPECT_TRUE(dialog.close());
-    EXPECT_EQ(desk.shown, QStringList());
+    EXPECT_EQ(desk.texts(), QStringList());
     EXPECT_TRUE(host.getPrefBool("wren/ready"));
     EXPECT_TRUE(calls().filter("wren/table/x").isEmpty());
 }
 
 TEST_F(TableWindowTest, aHostThatBeginsToCloseUnderTheQuestionWins) {
     GUI_WrenTableDialog& dialog = open();
-    desk.answers = {false};
+    desk.answers = {{false, false}};
     desk.whileStanding = [this] { host.flags().set("IsApplicationClosing", true); };
     EXPECT_TRUE(dialog.close());
     EXPECT_FALSE(dialog.isVisible());
@@ -114,7 +114,7 @@ TEST_F(TableWindowTest, aCloseUnderABoxComesAfterIt) {
     };
     dialog.getBridge()->info("Wait");
     EXPECT_TRUE(QTest::qWaitFor([&dialog] { return !dialog.isVisible(); }));
-    EXPECT_EQ(desk.shown, (QStringList{"Wait", "Quit WREN?"}));
+    EXPECT_EQ(desk.texts(), (QStringList{"Wait", "Quit WREN?"}));
 
     open();
     desk.whileStanding = [&] {
@@ -125,13 +125,13 @@ TEST_F(TableWindowTest, aCloseUnderABoxComesAfterIt) {
     bool done = false;
     dialog.getBridge()->afterCalls([&done] { done = true; });
     EXPECT_TRUE(QTest::qWaitFor([&done] { return done; }));
-    EXPECT_EQ(desk.shown.count("Quit WREN?"), 1) << "nobody is asked about a table that is hidden";
+    EXPECT_EQ(desk.texts().count("Quit WREN?"), 1) << "nobody is asked about a table that is hidden";
 }
 
 TEST_F(TableWindowTest, noCameraIsChangedBehindTheQuestion) {
     GUI_WrenTableDialog& dialog = open();
     auto& bridge = static_cast<JS_Mediator_WrenTableDialog&>(*dialog.getBridge());
-    desk.answers = {false};
+    desk.answers = {{false, false}};
     desk.whileStanding = [&] { bridge.connect({1}, true); };
     dialog.close();
     EXPECT_FALSE(stateOf(1, "connected").toBool());
@@ -151,7 +151,7 @@ TEST_F(TableWindowTest, escapeDoesNothing) {
     GUI_WrenTableDialog& dialog = open();
     QTest::keyClick(&dialog, Qt::Key_Escape);
     EXPECT_TRUE(dialog.isVisible());
-    EXPECT_EQ(desk.shown, QStringList());
+    EXPECT_EQ(desk.texts(), QStringList());
 }
 
 }  // namespace
