@@ -33,72 +33,61 @@ void ParameterEditing::setParamLock(const DocKeyList& keys, bool lock) {
 }
 
 void ParameterEditing::setFrameRate(const DocKeyList& keys, const QString& val) {
-    if (!mayChange(val)) {
-        return;
-    }
-    const DocList docs = changeableDocs(m_host, keys, RecordRate);
-    if (!docs.isEmpty()) {
-        m_host.cameraOps().setRecordRate(docs, val.toUInt());
-    }
+    changeShared(keys, RecordRate, val,
+                 [&](const DocList& docs) { m_host.cameraOps().setRecordRate(docs, val.toUInt()); });
 }
 
 void ParameterEditing::setShutterSpeed(const DocKeyList& keys, const QString& val) {
-    if (!mayChange(val)) {
-        return;
-    }
-    const DocList docs = changeableDocs(m_host, keys, ShutterSpeed);
-    if (!docs.isEmpty()) {
+    changeShared(keys, ShutterSpeed, val, [&](const DocList& docs) {
         m_host.cameraOps().setShutterSpeed(docs, shutterFraction(docs, toNumber(val)));
-    }
+    });
 }
 
 void ParameterEditing::setResolution(const DocKeyList& keys, const QString& val) {
-    if (!mayChange(val)) {
-        return;
-    }
-    const DocList docs = changeableDocs(m_host, keys, Resolution);
-    if (!docs.isEmpty()) {
+    changeShared(keys, Resolution, val, [&](const DocList& docs) {
         const QStringList sides = val.split(QLatin1Char('x'));
         m_host.cameraOps().setResolution(docs, sides.value(0).trimmed().toInt(), sides.value(1).trimmed().toInt());
-    }
+    });
 }
 
 void ParameterEditing::setReduceMode(const DocKeyList& keys, bool on) {
-    if (!m_host.isLiveMode()) {
-        return;
-    }
-    const DocList docs = changeableDocs(m_host, orAllConnected(keys));
-    if (docs.isEmpty()) {
-        return;
-    }
-    // Its end takes a new image, so that a live view that stands shows the change.
-    DocumentGuard guard(m_host);
-    m_host.cameraOps().setReduceMode(docs, on);
-    guard.release();
+    change(orAllConnected(keys), [&](const DocList& docs) {
+        // Its end takes a new image, so that a live view that stands shows the change.
+        DocumentGuard guard(m_host);
+        m_host.cameraOps().setReduceMode(docs, on);
+        guard.release();
+    });
 }
 
 void ParameterEditing::setLowLight(const DocKeyList& keys, bool on) {
-    if (!m_host.isLiveMode()) {
-        return;
-    }
-    const DocList docs = changeableDocs(m_host, orAllConnected(keys));
-    if (!docs.isEmpty()) {
-        m_host.cameraOps().setLowLight(docs, on);
-    }
+    change(orAllConnected(keys), [&](const DocList& docs) { m_host.cameraOps().setLowLight(docs, on); });
 }
 
 void ParameterEditing::setLowLightType(const DocKeyList& keys, bool fast) {
+    change(keys, [&](const DocList& docs) {
+        m_host.cameraOps().setLowLightType(docs, fast ? zeb::LowLightTypeFast : zeb::LowLightTypeFine);
+    });
+}
+
+void ParameterEditing::change(const DocKeyList& keys, const Setter& set) {
     if (!m_host.isLiveMode()) {
         return;
     }
     const DocList docs = changeableDocs(m_host, keys);
     if (!docs.isEmpty()) {
-        m_host.cameraOps().setLowLightType(docs, fast ? zeb::LowLightTypeFast : zeb::LowLightTypeFine);
+        set(docs);
     }
 }
 
-bool ParameterEditing::mayChange(const QString& val) const {
-    return m_host.isLiveMode() && !val.isEmpty();
+void ParameterEditing::changeShared(const DocKeyList& keys, const SharedParameter& parameter, const QString& val,
+                                    const Setter& set) {
+    if (!m_host.isLiveMode() || val.isEmpty()) {
+        return;
+    }
+    const DocList docs = changeableDocs(m_host, keys, parameter);
+    if (!docs.isEmpty()) {
+        set(docs);
+    }
 }
 
 DocKeyList ParameterEditing::orAllConnected(const DocKeyList& keys) const {

@@ -4,6 +4,9 @@
 
 #include <QString>
 
+#include <functional>
+
+struct SharedParameter;
 class ZebHost;
 
 /// Changes parameters of many cameras at once: one call of the host for all of them. A locked camera keeps its
@@ -29,7 +32,12 @@ public:
     void setLowLightType(const DocKeyList& keys, bool fast);
 
 private:
-    bool mayChange(const QString& val) const;
+    using Setter = std::function<void(const DocList&)>;
+
+    /// Hands over the documents that may be changed, unless there are none.
+    void change(const DocKeyList& keys, const Setter& set);
+    /// The same for a parameter that heads may share; nothing for an empty value.
+    void changeShared(const DocKeyList& keys, const SharedParameter& parameter, const QString& val, const Setter& set);
     DocKeyList orAllConnected(const DocKeyList& keys) const;
     int shutterFraction(const DocList& docs, int value) const;
 
