@@ -147,11 +147,4 @@ TEST_F(TableWindowTest, aWindowOnAScreenThatIsGoneComesToTheMainScreen) {
     EXPECT_FALSE(dialog.isMaximized());
 }
 
-TEST_F(TableWindowTest, escapeDoesNothing) {
-    GUI_WrenTableDialog& dialog = open();
-    QTest::keyClick(&dialog, Qt::Key_Escape);
-    EXPECT_TRUE(dialog.isVisible());
-    EXPECT_EQ(desk.texts(), QStringList());
-}
-
 }  // namespace

@@ -119,8 +119,6 @@ TEST_F(BridgeSlots, OneLineOfTheHost) {
         {[&] { bridge.checkRestoredPrefs(); }, {}},
         {[&] { bridge.hideSelectBox(); }, {"hideSelectBox", "hideDropDownBox"}},
         {[&] { bridge.showDropDownBox("a\"<b>", -3, 4, 10, 20); }, {"showDropDownBox a\"<b> -3 4 10 20"}},
-        {[&] { bridge.hideDropDownBox("key"); }, {"hideDropDownBox key"}},
-        {[&] { bridge.hideDropDownBox("key", 5, -6); }, {"hideDropDownBoxAt key 5 -6"}},
     };
     for (const auto& row : cases) EXPECT_EQ(during(row.act), row.calls);
     host.setPrefsRestored(0);
