@@ -30,7 +30,7 @@ void FunctionGenerator::takeMessage(const QByteArray& message) {
     if (!m_reply.isEmpty()) report("-410,\"Query INTERRUPTED\"");
     m_reply.clear();
     const int blank = message.indexOf(' ');
-    const QByteArray header = message.left(blank);
+    const QByteArray header = blank < 0 ? message : message.left(blank);
     if (header.endsWith('?')) {
         m_reply = answer(header.chopped(1));
         if (!m_reply.isEmpty()) m_reply.append('\n');
