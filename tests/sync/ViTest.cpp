@@ -1,0 +1,164 @@
+#include "Course.h"
+#include "VisaFile.h"
+#include "VisaLibrary.h"
+#include "vi.h"
+
+#include <QMap>
+
+#include <gmock/gmock.h>
+
+#include <functional>
+
+namespace {
+
+const auto Resource = QStringLiteral("TCPIP0::10.0.0.2::inst0::INSTR");
+
+/// What stands in the log, what is thrown, and what `open` answers.
+QStringList courseOf(const std::function<void()>& work) {
+    Course course;
+    try {
+        work();
+    } catch (const std::runtime_error& e) {
+        Course::note(QStringLiteral("throws: ") % QString::fromUtf8(e.what()));
+    }
+    return course.take();
+}
+
+void openAndNote() {
+    Course::note(vi::open(Resource) ? "open" : "not open");
+}
+
+class ViTest : public testing::Test {
+protected:
+    ViTest() { VisaLibrary::instance().load(); }
+    ~ViTest() override { VisaLibrary::instance().unload(); }
+
+    VisaFile file;
+};
+
+TEST_F(ViTest, EachFailureHasItsText) {
+    struct Row {
+        const char* name;
+        QByteArray script;
+        std::function<void()> work;
+        QStringList course;
+    };
+    const auto send = [] { vi::sendCommandString(QStringLiteral("DISP ON\n")); };
+    const auto receive = [] { vi::recvString(); };
+    const QString inOpen = QStringLiteral("warning: visa.dll error, function: vi::open vifunc: ");
+    const QString inClose = QStringLiteral("warning: visa.dll error, function: vi::close vifunc: viClose ");
+    const Row rows[] = {
+        {"no resource manager",
+         R"({"viOpenDefaultRM": {"status": 3221159998}})",
+         openAndNote,
+         {inOpen % "viOpenDefaultRM error: -1073807298", "not open"}},
+        {"no instrument",
+         R"({"viOpen": {"status": -1073807343}})",
+         openAndNote,
+         {inOpen % "viOpen error: -1073807343 constr: " % Resource, "not open"}},
+        {"a warning at opening is no success",
+         R"({"viOpen": {"status": 3}})",
+         openAndNote,
+         {inOpen % "viOpen error: 3 constr: " % Resource, "not open"}},
+        {"neither session closes",
+         R"({"viClose": {"status": -1}})",
+         vi::close,
+         {inClose % "(1) error: -1", inClose % "(2) error: -1"}},
+        {"the second session does not close",
+         R"({"viClose": {"status": 3, "from": 2}})",
+         vi::close,
+         {inClose % "(2) error: 3"}},
+        {"the instrument is not cleared",
+         R"({"viClear": {"status": -1}})",
+         vi::clear,
+         {"throws: visa.dll error, function: vi::clear error:-1"}},
+        {"a command is refused",
+         R"({"viPrintf": {"status": -1}})",
+         send,
+         {"throws: visa.dll error, function: vi::sendCommandString error:-1 command:DISP ON\n"}},
+        {"a reply does not come",
+         R"({"viScanf": {"never": true}})",
+         receive,
+         {"throws: visa.dll error, function: vi::recvString error:-1073807339"}},
+        {"a warning at a command is a success",
+         R"({"viPrintf": {"status": 1}, "viClear": {"status": 1}})",
+         [send] { send(), vi::clear(); },
+         {}},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.name);
+        file.script("{}");
+        ASSERT_TRUE(vi::open(Resource));
+        file.script(row.script);
+        EXPECT_EQ(courseOf(row.work), row.course);
+    }
+}
+
+TEST_F(ViTest, WithoutALibraryEveryCallFails) {
+    VisaLibrary::instance().unload();
+    EXPECT_EQ(courseOf(openAndNote).last(), "not open");
+    EXPECT_THAT(courseOf(vi::close), testing::SizeIs(2));
+    EXPECT_THROW(vi::clear(), std::runtime_error);
+    EXPECT_THROW(vi::sendCommandString(QStringLiteral("*RST\n")), std::runtime_error);
+    EXPECT_THROW(vi::recvString(), std::runtime_error);
+    EXPECT_EQ(file.journal(), QStringList());
+}
+
+/// What the instrument answers to a question after some commands, each told in a row.
+TEST_F(ViTest, TheInstrumentKnowsItsLimits) {
+    struct Row {
+        const char* commands;
+        const char* question;
+        const char* answer;
+    };
+    const Row rows[] = {
+        {"", "FREQ?", "+1.0000000000000E+03"},
+        {"FREQ 2000\n", "freq?", "+2.0000000000000E+03"},
+        {"FREQuency 2.5e3", "FREQUENCY?", "+2.5000000000000E+03"},
+        {"FREQ 11000000\n", "FREQ?", "+1.0000000000000E+07"},
+        {"FREQ 11000000\n", "SYST:ERR?", "-222,\"Data out of range\""},
+        {"FREQ fast\n", "FREQ?", "+1.0000000000000E+03"},
+        {"FREQ fast\n", "SYST:ERR?", "-104,\"Data type error\""},
+        {"FREQ\n", "SYST:ERR?", "-109,\"Missing parameter\""},
+        {"VOLT:LOW -6\n", "VOLT:LOW?", "-5.0000000000000E+00"},
+        {"", "FUNC:PULS:DCYC?", "+1.0000000000000E+01"},
+        {"FUNC:PULS:DCYC 50\n*RST\n", "FUNC:PULS:DCYC?", "+1.0000000000000E+01"},
+        {"FUNC:SHAP pulse\n", "FUNC:SHAP?", "PULS"},
+        {"FUNC:SHAP ROUND\n", "SYST:ERR?", "-224,\"Illegal parameter value\""},
+        {"OUTP ON\n", "OUTP?", "1"},
+        {"DISP:TEXT \"a b\"\n", "DISP:TEXT?", "\"a b\""},
+        {"WAVE 1\n", "SYST:ERR?", "-113,\"Undefined header\""},
+        {"", "SYST:ERR?", "+0,\"No error\""},
+        {"FREQ?\n", "SYST:ERR?", "-410,\"Query INTERRUPTED\""},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.commands + std::string(row.question));
+        file.script("{}");
+        ASSERT_TRUE(vi::open(Resource));
+        vi::sendCommandString(row.commands);
+        vi::sendCommandString(row.question);
+        EXPECT_EQ(vi::recvString(), QString(row.answer % QStringLiteral("\n")));
+        vi::close();
+    }
+}
+
+TEST_F(ViTest, AScriptThatIsNotUnderstoodSaysWhy) {
+    const QMap<QByteArray, QByteArray> scripts{
+        {"[]", "VISA script: it is to be an object."},
+        {R"({"viOpn": {}})", "VISA script: there is no \"viOpn\"."},
+        {R"({"viOpen": 3})", "VISA script: \"viOpen\" is to be an object."},
+        {R"({"viOpen": {"stats": 1}})", "VISA script: there is no \"stats\" for a call."},
+        {R"({"viOpen": {"status": 1e20}})", "VISA script: \"status\" is to be a number of 32 bits."},
+        {R"({"replies": {"FREQ?": 3}})", "VISA script: \"FREQ?\" is to be a text or null."},
+    };
+    for (auto row = scripts.begin(); row != scripts.end(); ++row) {
+        try {
+            file.script(row.key());
+            ADD_FAILURE() << row.key().toStdString() << " is taken";
+        } catch (const std::runtime_error& e) {
+            EXPECT_EQ(QByteArray(e.what()), row.value());
+        }
+    }
+}
+
+}  // namespace
