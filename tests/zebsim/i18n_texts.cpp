@@ -115,7 +115,7 @@ QMap<QString, QString> catalogue(const QString& language) {
 
 /// What comes before a name that is known only when the program runs, and what every language writes alike.
 bool needsNoText(const QString& key) {
-    static const QRegularExpression plain(QStringLiteral("^(p_|LIVE|[^A-Za-z]*)$"));
+    static const QRegularExpression plain(QStringLiteral("^(p_|LIVE|vi::\\w+|[^A-Za-z]*)$"));
     return plain.match(key).hasMatch();
 }
 

@@ -53,9 +53,14 @@ QList<PreferenceField> recordingFields() {
 
 QList<PreferenceField> ioFields() {
     return {
+        box("wren/settings/syncInEnable", "Synchronise the cameras"),
         box("sync/external", "Synchronise on an external signal"),
+        text("sync/masterCamera", "Address of the master camera"),
         text("sync/generator/address", "Address of the signal generator"),
+        choice("sync/generator/input", "Port that the signal comes in by", {{0, "ON CAM POS"}, {1, "ON OTHERS POS"}}),
+        choice("sync/lport", "Between signal and cameras", {{0, "Nothing"}, {1, "L-PORT"}, {2, "Sync Hub"}}),
         text("sync/lport/ipaddress", "Addresses of Sync Hubs, with commas between"),
+        box("alert/setsynchronization", "Remind of the wiring after a synchronisation"),
     };
 }
 

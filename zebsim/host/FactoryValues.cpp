@@ -1,5 +1,7 @@
 #include "host/FactoryValues.h"
 
+#include "ZebTypes.h"
+
 namespace {
 
 struct FactoryValue {
@@ -18,6 +20,7 @@ QVariant liveColumns(const char* own) {
 
 QList<FactoryValue> table() {
     return {
+        {"alert/setsynchronization", true},
         {"alert/wren/multiheadlockalert", true},
         {"customize/unitSystem", 1},
         {"devicemanager/connectedCameraOnlyShowing", false},
@@ -33,7 +36,10 @@ QList<FactoryValue> table() {
         {"recording/useTriggerTest", true},
         {"sync/external", false},
         {"sync/generator/address", text("")},
+        {"sync/generator/input", 0},
+        {"sync/lport", int(zeb::SyncPortNone)},
         {"sync/lport/ipaddress", text("")},
+        {"sync/masterCamera", text("")},
         {"trigger/manualBeforePercent", 50.0},
         {"trigger/randomFrames", 100},
         {"trigger/randomTimes", 10},
@@ -70,10 +76,15 @@ QList<FactoryValue> table() {
         {"wren/settings/deviceSpeedPlaying", false},
         // The dialog that asks for the default settings is not to come by itself at the first opening.
         {"wren/settings/done", true},
+        {"wren/settings/externalSyncSignal", -1},
+        {"wren/settings/externalSyncSignals", text("")},
+        {"wren/settings/externalSyncSignalsEnable", false},
         {"wren/settings/memoryTableColor", text("skyblue")},
+        {"wren/settings/recordingSync", false},
         {"wren/settings/recordingTableColor", text("orange")},
         {"wren/settings/recreadyTableColor", text("green")},
         {"wren/settings/syncInEnable", false},
+        {"wren/settings/triggerIn", int(zeb::SignalTrigPos)},
         {"wren/table/filter", 0},
         {"wren/table/group", text("*")},
         {"wren/table/h", 600},

@@ -1011,5 +1011,93 @@
         <source>Batch setting</source>
         <translation>Set on all</translation>
     </message>
+    <message>
+        <source>Searching</source>
+        <translation>Searching</translation>
+    </message>
+    <message>
+        <source>Failed getFrequency</source>
+        <translation>Failed getFrequency</translation>
+    </message>
+    <message>
+        <source>Failed sync to signal generator</source>
+        <translation>Failed sync to signal generator</translation>
+    </message>
+    <message>
+        <source>Could not connect with signal generator</source>
+        <translation>Could not connect with signal generator</translation>
+    </message>
+    <message>
+        <source>can not be connected because unsupported device.</source>
+        <translation>can not be connected because unsupported device.</translation>
+    </message>
+    <message>
+        <source>Failed to connect to Sync Hub</source>
+        <translation>Failed to connect to Sync Hub</translation>
+    </message>
+    <message>
+        <source>Syncing</source>
+        <translation>Syncing</translation>
+    </message>
+    <message>
+        <source>When using the software trigger, please check the wiring of the TRIG IN terminal and enable 'Do not input software trigger to slave camera'</source>
+        <translation>When using the software trigger, please check the wiring of the TRIG IN terminal and enable 'Do not input software trigger to slave camera'</translation>
+    </message>
+    <message>
+        <source>Dummy camera can not set synchronization</source>
+        <translation>Dummy camera can not set synchronization</translation>
+    </message>
+    <message>
+        <source>The selected camera does not support sync setting</source>
+        <translation>The selected camera does not support sync setting</translation>
+    </message>
+    <message>
+        <source>Sync setting is possible only when all cameras are in the same trigger mode.</source>
+        <translation>Sync setting is possible only when all cameras are in the same trigger mode.</translation>
+    </message>
+    <message>
+        <source>Synchronization setting is impossible due to the presence of low light camera.</source>
+        <translation>Synchronization setting is impossible due to the presence of low light camera.</translation>
+    </message>
+    <message>
+        <source>Since the cameras with different exposure timings are mixed, the trigger mode of the start system can not be used. Consider using manual mode.</source>
+        <translation>Since the cameras with different exposure timings are mixed, the trigger mode of the start system can not be used. Consider using manual mode.</translation>
+    </message>
+    <message>
+        <source>Synchronization setting can not be done because there is a dual slope shutter camera.</source>
+        <translation>Synchronization setting can not be done because there is a dual slope shutter camera.</translation>
+    </message>
+    <message>
+        <source>Synchronization setting is impossible because there is a camera with automatic exposure control.</source>
+        <translation>Synchronization setting is impossible because there is a camera with automatic exposure control.</translation>
+    </message>
+    <message>
+        <source>Synchronise the cameras</source>
+        <translation>Synchronise the cameras</translation>
+    </message>
+    <message>
+        <source>Address of the master camera</source>
+        <translation>Address of the master camera</translation>
+    </message>
+    <message>
+        <source>Port that the signal comes in by</source>
+        <translation>Port that the signal comes in by</translation>
+    </message>
+    <message>
+        <source>Between signal and cameras</source>
+        <translation>Between signal and cameras</translation>
+    </message>
+    <message>
+        <source>Nothing</source>
+        <translation>Nothing</translation>
+    </message>
+    <message>
+        <source>L-PORT</source>
+        <translation>L-PORT</translation>
+    </message>
+    <message>
+        <source>Remind of the wiring after a synchronisation</source>
+        <translation>Remind of the wiring after a synchronisation</translation>
+    </message>
 </context>
 </TS>

@@ -1011,5 +1011,93 @@
         <source>Batch setting</source>
         <translation>一括設定</translation>
     </message>
+    <message>
+        <source>Searching</source>
+        <translation>検索中</translation>
+    </message>
+    <message>
+        <source>Failed getFrequency</source>
+        <translation>信号発生器から周波数を取得できませんでした。</translation>
+    </message>
+    <message>
+        <source>Failed sync to signal generator</source>
+        <translation>信号発生器を設定できませんでした。</translation>
+    </message>
+    <message>
+        <source>Could not connect with signal generator</source>
+        <translation>信号発生器に接続できませんでした。</translation>
+    </message>
+    <message>
+        <source>can not be connected because unsupported device.</source>
+        <translation>サポートされていないデバイスのため接続できません。</translation>
+    </message>
+    <message>
+        <source>Failed to connect to Sync Hub</source>
+        <translation>Sync Hub に接続できませんでした。</translation>
+    </message>
+    <message>
+        <source>Syncing</source>
+        <translation>同期設定中</translation>
+    </message>
+    <message>
+        <source>When using the software trigger, please check the wiring of the TRIG IN terminal and enable 'Do not input software trigger to slave camera'</source>
+        <translation>ソフトウェアトリガーを使用する場合は、TRIG IN 端子の配線を確認し、「スレーブカメラにソフトウェアトリガーを入力しない」を有効にしてください。</translation>
+    </message>
+    <message>
+        <source>Dummy camera can not set synchronization</source>
+        <translation>ダミーカメラには同期を設定できません。</translation>
+    </message>
+    <message>
+        <source>The selected camera does not support sync setting</source>
+        <translation>選択したカメラは同期設定に対応していません。</translation>
+    </message>
+    <message>
+        <source>Sync setting is possible only when all cameras are in the same trigger mode.</source>
+        <translation>すべてのカメラが同じトリガーモードの場合のみ同期設定ができます。</translation>
+    </message>
+    <message>
+        <source>Synchronization setting is impossible due to the presence of low light camera.</source>
+        <translation>低照度モードのカメラがあるため同期設定ができません。</translation>
+    </message>
+    <message>
+        <source>Since the cameras with different exposure timings are mixed, the trigger mode of the start system can not be used. Consider using manual mode.</source>
+        <translation>露光タイミングの異なるカメラが混在しているため、スタート系のトリガーモードは使用できません。マニュアルモードの使用を検討してください。</translation>
+    </message>
+    <message>
+        <source>Synchronization setting can not be done because there is a dual slope shutter camera.</source>
+        <translation>デュアルスロープシャッターのカメラがあるため同期設定ができません。</translation>
+    </message>
+    <message>
+        <source>Synchronization setting is impossible because there is a camera with automatic exposure control.</source>
+        <translation>自動露出制御のカメラがあるため同期設定ができません。</translation>
+    </message>
+    <message>
+        <source>Synchronise the cameras</source>
+        <translation>カメラを同期する</translation>
+    </message>
+    <message>
+        <source>Address of the master camera</source>
+        <translation>マスターカメラのアドレス</translation>
+    </message>
+    <message>
+        <source>Port that the signal comes in by</source>
+        <translation>信号の入力端子</translation>
+    </message>
+    <message>
+        <source>Between signal and cameras</source>
+        <translation>信号とカメラの間</translation>
+    </message>
+    <message>
+        <source>Nothing</source>
+        <translation>なし</translation>
+    </message>
+    <message>
+        <source>L-PORT</source>
+        <translation>L-PORT</translation>
+    </message>
+    <message>
+        <source>Remind of the wiring after a synchronisation</source>
+        <translation>同期設定後に配線の確認を促す</translation>
+    </message>
 </context>
 </TS>
