@@ -33,8 +33,9 @@ struct ZebSupportFile;
 ///
 /// What holds for the whole boundary: operations are called on the GUI thread and may throw an exception
 /// derived from `std::exception`, unless their line says otherwise. Nothing that is handed out is owned by the
-/// caller. A pointer to a document is good until the caller returns to the event loop; keep the key and fetch
-/// it again. Lists are never null; texts are plain text.
+/// caller. A pointer to a document is good until the caller returns to the event loop that called it, or calls what
+/// makes the host run one of its own, as a message box; keep the key and fetch it again. Lists are never null; texts
+/// are plain text.
 class ZebHost {
 public:
     virtual ~ZebHost() = default;

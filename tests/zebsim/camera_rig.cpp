@@ -32,6 +32,10 @@ QByteArray device(const QByteArray& members) {
     return R"({"devices": [{"address": "10.0.0.1", "model": "standard", "heads": [{}]}, )" + members + "]}";
 }
 
+QByteArray hub(const QByteArray& members) {
+    return R"({"devices": [{"address": "10.0.0.1", "model": "standard", "heads": [{}]}], "hubs": [)" + members + "]}";
+}
+
 }  // namespace
 
 TEST_F(RigFile, IsRefusedWithItsNameAndTheMember) {
@@ -67,6 +71,25 @@ TEST_F(RigFile, IsRefusedWithItsNameAndTheMember) {
          "x.json: devices[1].heads[0].alerts: a list of texts is expected"},
         {"head member unknown", device(R"({"address": "10.0.0.2", "model": "standard", "heads": [{"colour": 1}]})"),
          "x.json: devices[1].heads[0].colour: there is no such member"},
+        {"source of the signal unknown",
+         device(R"({"address": "10.0.0.2", "model": "standard", "heads": [{"syncSource": "moon"}]})"),
+         "x.json: devices[1].heads[0].syncSource: \"external\", \"hub\", \"chain\" or an empty text is expected"},
+        {"hub without an address", hub(R"({"role": 0})"), "x.json: hubs[0].address: missing"},
+        {"address of a camera for a hub", hub(R"({"address": "10.0.0.1"})"),
+         "x.json: hubs[0].address: 10.0.0.1 is the address of devices[0]"},
+        {"role of a hub unknown", hub(R"({"address": "10.0.0.9", "role": 2})"),
+         "x.json: hubs[0].role: 0 for the hub that makes the signal or 1 for one that passes it on is expected"},
+        {"frequency that the hub does not offer",
+         hub(R"({"address": "10.0.0.9", "frequency": 60, "frequencies": [50]})"),
+         "x.json: hubs[0].frequency: the hub does not offer this"},
+        {"text among frequencies", hub(R"({"address": "10.0.0.9", "frequencies": [50, "60"]})"),
+         "x.json: hubs[0].frequencies: a number is expected"},
+        {"frequency of 0 on offer", hub(R"({"address": "10.0.0.9", "frequencies": [0]})"),
+         "x.json: hubs[0].frequencies: frequencies above 0 are expected"},
+        {"slow hub", hub(R"({"address": "10.0.0.9", "latency": 60001})"),
+         "x.json: hubs[0].latency: a whole number from 0 to 60000 is expected"},
+        {"hub member unknown", hub(R"({"address": "10.0.0.9", "colour": 1})"),
+         "x.json: hubs[0].colour: there is no such member"},
     };
     for (const auto& row : cases) {
         EXPECT_EQ(complaint(row.text).toStdString(), row.complaint) << row.what;
@@ -88,7 +111,8 @@ TEST_F(RigFile, MayBringModelsOfItsOwn) {
 }
 
 TEST(Rig, ShippedOnesHoldWhatTheirNamesSay) {
-    EXPECT_EQ(Rig::names(), (QStringList{QStringLiteral("eight-mixed"), QStringLiteral("one")}));
+    EXPECT_EQ(Rig::names(),
+              (QStringList{QStringLiteral("eight-mixed"), QStringLiteral("one"), QStringLiteral("sync")}));
     EXPECT_EQ(Rig::fromFile(QStringLiteral("one")).devices.size(), 1);
 
     int hidden = 0;

@@ -60,17 +60,27 @@ TEST_F(Runner, PrintsTheLineOfAScriptThatThrows) {
         const char* words;
     };
     for (const Case& c :
-         {Case{"var a;\n\na.b.c;", "my.js:3: TypeError"}, Case{"\nthrow new Error('mine');", "my.js:2: Error: mine"},
-          Case{"throw 'bare text'", "bare text"}, Case{"\nlet x = = 3;", "my.js:2: SyntaxError"},
+         {Case{"var a;\n\na.b.c;", "my.js:3: TypeError"},
+          Case{"\nthrow new Error('mine');", "my.js:2: Error: mine"},
+          Case{"throw 'bare text'", "bare text"},
+          Case{"\nlet x = = 3;", "my.js:2: SyntaxError"},
           Case{"\nzeb.page('1')", "my.js:2: Error: the table was never open"},
           Case{"\nzeb.open()", "my.js:2: Error: no plug-in is loaded"},
           Case{"zeb.mode('night')", "live, memory and file, not \"night\""},
           Case{"zeb.status('IsWarm', true)", "no state \"IsWarm\""},
-          Case{"zeb.setCamera(1, {colour: 3})", "camera 1, colour"}, Case{"zeb.setCamera(9, {rate: 3})", "no camera 9"},
-          Case{"zeb.fault(1, '*', {angry: true})", "not angry"}, Case{"zeb.fault(9, '*', {gone: true})", "no camera 9"},
+          Case{"zeb.setCamera(1, {colour: 3})", "camera 1, colour"},
+          Case{"zeb.setCamera(9, {rate: 3})", "no camera 9"},
+          Case{"zeb.fault(1, '*', {angry: true})", "not angry"},
+          Case{"zeb.fault(9, '*', {gone: true})", "no camera 9"},
           Case{"zeb.fault(1, 'setRecordRat', {delay: 1})", "no camera has an operation \"setRecordRat\""},
-          Case{"zeb.rig('none.json')", "none.json"}, Case{"zeb.speed(0)", "above 0"},
-          Case{"zeb.modal('text')", "takes a function"}, Case{"zeb.signal('signalRecord')", "no plug-in"}}) {
+          Case{"zeb.hub('10.0.0.1')", "there is no Sync Hub 10.0.0.1"},
+          Case{"zeb.rig('sync'); zeb.setHub('192.168.0.61', {role: 7})", "Sync Hub 192.168.0.61, role: 0 for"},
+          Case{"zeb.rig('sync'); zeb.fault('192.168.0.61', 'connect', {delay: 1})", "no Sync Hub has an operation"},
+          Case{"\nzeb.visa({})", "my.js:2: Error: there is no scripted VISA library"},
+          Case{"zeb.rig('none.json')", "none.json"},
+          Case{"zeb.speed(0)", "above 0"},
+          Case{"zeb.modal('text')", "takes a function"},
+          Case{"zeb.signal('signalRecord')", "no plug-in"}}) {
         const Outcome outcome = run(c.script);
         EXPECT_EQ(outcome.status, 1) << c.script;
         EXPECT_THAT(outcome.errors, HasSubstr(c.words)) << c.script;
@@ -94,6 +104,19 @@ TEST_F(Runner, ClosesADialogThatNobodyAnswersInTime) {
     QTimer::singleShot(0, &dialog, [&] { answer = dialog.exec(); });
     EXPECT_EQ(run("zeb.wait(1e9)", 1).status, 1);
     EXPECT_EQ(answer, QDialog::Rejected);
+}
+
+TEST_F(Runner, ShowsAndChangesTheHubs) {
+    const Outcome outcome = run(R"js(
+        zeb.rig('sync');
+        zeb.setHub('192.168.0.61', {frequencies: [50, 60], frequency: 60, latency: 0});
+        const hub = zeb.hub('192.168.0.61');
+        check(hub.frequencies.join() === '50,60' && hub.frequency === 60 && hub.role === 0, 'changed');
+        check(hub.connected === false && hub.found === true, 'nobody has searched');
+        zeb.fault('192.168.0.61', '*', {gone: true});
+        zeb.fault('192.168.0.61', '*', {});
+    )js");
+    EXPECT_EQ(outcome.status, 0) << outcome.output << outcome.errors;
 }
 
 TEST_F(Runner, ShowsAndChangesTheCameras) {

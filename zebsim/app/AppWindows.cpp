@@ -74,12 +74,14 @@ int AppWindows::run(QDialog* dialog) {
     // The dialog goes with the main window, which may be destroyed while it stands.
     const QPointer<QDialog> standing = dialog;
     applyNativeStyle(m_host, *dialog);
+    m_host.docManager().endTurn();
     const int result = dialog->exec();
     delete standing;
     return result;
 }
 
 void AppWindows::runProgress(const QString& text, QFutureWatcherBase& watcher) {
+    m_host.docManager().endTurn();
     waitWithProgress(m_host, text, watcher);
 }
 

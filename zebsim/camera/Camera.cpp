@@ -3,6 +3,7 @@
 #include "camera/CameraError.h"
 #include "camera/FaultPlan.h"
 #include "camera/ShownErrors.h"
+#include "camera/SyncSource.h"
 #include "recording/Clock.h"
 
 #include <algorithm>
@@ -40,9 +41,7 @@ void Camera::change(const QVariantMap& members) {
 }
 
 QString Camera::meetFault(const char* operation) const {
-    const Fault fault = m_device.faults().meet(m_key, operation);
-    m_device.clock().wait(fault.delay);
-    return isGone() ? QString() : fault.throws;
+    return m_device.faults().suffer(m_key, operation, m_device.clock());
 }
 
 void Camera::query(const char* operation) const {
@@ -187,8 +186,14 @@ void Camera::setReduceMode(bool on) {
     set(&CameraState::reduce, on);
 }
 
-void Camera::synchronise() {
-    commandConnected("synchronise");
+void Camera::synchronise(const SyncSource& source) {
+    if (!commandConnected("synchronise")) {
+        return;
+    }
+    const std::lock_guard lock(m_device.mutex());
+    m_state.syncSource = QString::fromLatin1(source.name);
+    m_state.syncFrequency = source.frequency;
+    m_state.syncMaster = source.master;
 }
 
 void Camera::setLowLight(bool on) {

@@ -9,6 +9,7 @@
 #include <utility>
 
 class CameraDevice;
+struct SyncSource;
 
 /// A camera, or one head of a device with several: the one truth of its settings. Any thread.
 class Camera {
@@ -32,7 +33,7 @@ public:
     CameraState state() const;
     /// Nothing when nothing is recorded.
     std::optional<Recording> recording() const;
-    /// Changes the state behind the camera's back: no latency, no limits, no other heads. Throws `CameraStateError`.
+    /// Changes the state behind the camera's back: no latency, no limits, no other heads. Throws `StateError`.
     void change(const QVariantMap& members);
 
     /// Every question of a document to its camera begins with one of these; they take the time that a planted fault
@@ -54,8 +55,7 @@ public:
     void setTriggerMode(int mode, const zeb::TriggerSettings& settings);
     void setRandomTriggerPhase(bool counted);
     void setReduceMode(bool on);
-    /// Takes the time until the camera has found the signal.
-    void synchronise();
+    void synchronise(const SyncSource& source);
     void setLowLight(bool on);
     void setLowLightType(int type);
     void setName(const QString& name);

@@ -2,6 +2,7 @@
 
 #include "camera/Rig.h"
 
+#include <atomic>
 #include <memory>
 #include <mutex>
 #include <vector>
@@ -21,7 +22,7 @@ public:
     const QString& address() const { return m_address; }
     const CameraModel& model() const { return *m_model; }
     int latency() const { return m_latency; }
-    /// Whether the host has found the device. GUI thread.
+    /// Whether the host has found the device.
     bool isFound() const { return m_found; }
     void setFound(bool found) { m_found = found; }
     /// The master head is the first.
@@ -36,7 +37,7 @@ private:
     const QString m_address;
     const std::shared_ptr<const CameraModel> m_model;
     const int m_latency;
-    bool m_found;
+    std::atomic<bool> m_found;
     Clock& m_clock;
     FaultPlan& m_faults;
     ShownErrors& m_shownErrors;

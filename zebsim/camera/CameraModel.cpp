@@ -1,5 +1,8 @@
 #include "camera/CameraModel.h"
 
+#include "camera/PlainState.h"
+#include "camera/SyncSource.h"
+
 #include <algorithm>
 #include <limits>
 
@@ -35,14 +38,18 @@ int CameraModel::fittingShutter(int speed, unsigned int rate) const {
 void CameraModel::check(const CameraState& state) const {
     const auto require = [this](bool offered, const char* member) {
         if (!offered) {
-            throw CameraStateError{QString::fromLatin1(member),
-                                   QStringLiteral("the model \"%1\" does not offer this").arg(name)};
+            throw StateError{QString::fromLatin1(member),
+                             QStringLiteral("the model \"%1\" does not offer this").arg(name)};
         }
     };
     require(rates.contains(state.rate), "rate");
     require(resolutions.contains(state.resolution), "resolution");
     require(shutters.contains(state.shutter), "shutter");
     require(triggerModes.contains(state.triggerMode), "triggerMode");
+    if (!QStringList{QString(), SyncSource::External, SyncSource::Hub, SyncSource::Chain}.contains(state.syncSource)) {
+        throw StateError{QStringLiteral("syncSource"),
+                         QStringLiteral("\"external\", \"hub\", \"chain\" or an empty text is expected")};
+    }
 }
 
 unsigned int CameraModel::frameCapacity(const QSize& resolution) const {

@@ -54,7 +54,8 @@ struct CameraModel {
     /// The speed, n of 1/n second, that the camera takes when `speed` is asked of it at `rate` frames a second: an
     /// exposure fits into a frame if the list has one that does.
     int fittingShutter(int speed, unsigned int rate) const;
-    /// Throws `CameraStateError` for a setting that is in none of the lists.
+    /// Throws `StateError` for a setting that is in none of the lists, and for a source of the signal that there is
+    /// not.
     void check(const CameraState& state) const;
     /// Frames that fit into the memory.
     unsigned int frameCapacity(const QSize& resolution) const;

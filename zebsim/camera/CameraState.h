@@ -30,6 +30,9 @@ struct CameraState {
     Q_PROPERTY(int status MEMBER status)
     Q_PROPERTY(QStringList alerts MEMBER alerts)
     Q_PROPERTY(QString syncStatus MEMBER syncStatus)
+    Q_PROPERTY(QString syncSource MEMBER syncSource)
+    Q_PROPERTY(int syncFrequency MEMBER syncFrequency)
+    Q_PROPERTY(uint syncMaster MEMBER syncMaster)
     Q_PROPERTY(int dualSlope MEMBER dualSlope)
     Q_PROPERTY(bool autoExposure MEMBER autoExposure)
     Q_PROPERTY(uint rate MEMBER rate)
@@ -93,7 +96,13 @@ public:
     /// A `zeb::CameraStatus`.
     int status = zeb::CameraLive;
     QStringList alerts;
+    /// What the camera tells of its signal before it has been synchronised.
     QString syncStatus = QStringLiteral("No Sync");
+    /// Where its signal comes from since then, one of `syncsource`: the frequency in hertz of an external signal, the
+    /// key of a chain's master.
+    QString syncSource;
+    int syncFrequency = 0;
+    unsigned int syncMaster = 0;
     /// Not 0 while the camera blends two exposures.
     int dualSlope = 0;
     bool autoExposure = false;
@@ -153,12 +162,6 @@ public:
 
     /// All members as plain data: texts, numbers, bools and lists of them; sizes and points are lists of two numbers.
     QVariantMap toPlain() const;
-    /// Sets the members that `members` names, or none of them and throws `CameraStateError`.
+    /// Sets the members that `members` names, or none of them and throws `StateError`.
     void apply(const QVariantMap& members);
-};
-
-/// A member of a camera's state that does not exist or does not take its value.
-struct CameraStateError {
-    QString member;
-    QString reason;
 };

@@ -1,5 +1,7 @@
 #include "camera/FaultPlan.h"
 
+#include "recording/Clock.h"
+
 namespace {
 
 const QString everyOperation = QStringLiteral("*");
@@ -66,6 +68,12 @@ Fault FaultPlan::meet(DOCKEY key, const char* operation) {
         m_gone.insert(key);
     }
     return fault;
+}
+
+QString FaultPlan::suffer(DOCKEY key, const char* operation, Clock& clock) {
+    const Fault fault = meet(key, operation);
+    clock.wait(fault.delay);
+    return isGone(key) ? QString() : fault.throws;
 }
 
 bool FaultPlan::isGone(DOCKEY key) const {

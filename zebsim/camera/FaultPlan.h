@@ -8,6 +8,8 @@
 #include <atomic>
 #include <mutex>
 
+class Clock;
+
 /// What goes wrong at an operation. All of it empty: nothing.
 struct Fault {
     /// The operation throws this text; empty: it does not.
@@ -20,7 +22,7 @@ struct Fault {
     bool isEmpty() const { return throws.isEmpty() && delay <= 0 && !gone; }
 };
 
-/// The faults planted on cameras, by key and operation. Any thread.
+/// The faults planted on cameras, and on what else has a key here, by key and operation. Any thread.
 ///
 /// Operations are named as the host call is: "setRecordRate", "getRecordRate", "connectDocs". "*" stands for all that
 /// have no fault of their own.
@@ -35,11 +37,13 @@ public:
     int callCount() const;
     void clear();
 
-    /// The fault that an operation meets now; from then on the camera is gone if the fault says so.
-    Fault meet(DOCKEY key, const char* operation);
+    /// An operation meets its fault, with the time it takes; from then on the camera is gone if the fault says so.
+    /// Answers why the operation fails: empty when it does not, and for a camera that is gone.
+    QString suffer(DOCKEY key, const char* operation, Clock& clock);
     bool isGone(DOCKEY key) const;
 
 private:
+    Fault meet(DOCKEY key, const char* operation);
     void updateAny();
 
     std::atomic<bool> m_any{false};

@@ -12,6 +12,8 @@ public:
     /// The object that the file `path` holds.
     static JsonNode fromFile(const QString& path);
 
+    /// Where the value stands in its file, as "devices[2]".
+    const QString& path() const { return m_path; }
     bool has(const QString& member) const;
     /// A member of an object; must be there.
     JsonNode member(const QString& name) const;

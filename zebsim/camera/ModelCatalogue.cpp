@@ -2,6 +2,7 @@
 
 #include "camera/CameraOperations.h"
 #include "camera/JsonNode.h"
+#include "camera/PlainState.h"
 
 #include <limits>
 
@@ -146,7 +147,7 @@ CameraState ModelCatalogue::readState(const JsonNode& node, const CameraModel& m
         state.apply(node.plain());
         model.check(state);
         return state;
-    } catch (const CameraStateError& error) {
+    } catch (const StateError& error) {
         node.failAt(error.member, error.reason);
     }
 }

@@ -2,6 +2,7 @@
 
 #include "camera/JsonNode.h"
 #include "camera/ModelCatalogue.h"
+#include "camera/PlainState.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -17,7 +18,7 @@ QString defaultName(int camera) {
     return QStringLiteral("Camera %1").arg(camera);
 }
 
-/// Reads the devices of one rig file; knows what was read so far.
+/// Reads the devices and hubs of one rig file; knows what was read so far.
 class RigReader {
 public:
     explicit RigReader(const ModelCatalogue& models) : m_models(models) {}
@@ -26,7 +27,7 @@ public:
         node.allowOnly({QStringLiteral("address"), QStringLiteral("model"), QStringLiteral("latency"),
                         QStringLiteral("found"), QStringLiteral("heads")});
         RigDevice device;
-        device.address = readAddress(node.member(QStringLiteral("address")));
+        device.address = readAddress(node);
         const JsonNode model = node.member(QStringLiteral("model"));
         device.model = m_models.find(model.text());
         if (!device.model) {
@@ -40,19 +41,33 @@ public:
         return device;
     }
 
+    RigHub readHub(const JsonNode& node) {
+        RigHub hub;
+        hub.address = readAddress(node);
+        QVariantMap members = node.plain();
+        members.remove(QStringLiteral("address"));
+        try {
+            hub.state.apply(members);
+        } catch (const StateError& error) {
+            node.failAt(error.member, error.reason);
+        }
+        return hub;
+    }
+
 private:
-    QString readAddress(const JsonNode& node) {
+    /// The address of what `owner` describes, which nothing else may have.
+    QString readAddress(const JsonNode& owner) {
         static const QRegularExpression ipv4(
             QStringLiteral("^((25[0-5]|2[0-4]\\d|1?\\d?\\d)\\.){3}(25[0-5]|2[0-4]\\d|1?\\d?\\d)$"));
+        const JsonNode node = owner.member(QStringLiteral("address"));
         const QString address = node.text();
         if (!ipv4.match(address).hasMatch()) {
             node.fail(QStringLiteral("\"%1\" is no IPv4 address").arg(address));
         }
-        if (m_addresses.contains(address)) {
-            node.fail(
-                QStringLiteral("%1 is the address of devices[%2]").arg(address).arg(m_addresses.indexOf(address)));
+        if (m_owners.contains(address)) {
+            node.fail(QStringLiteral("%1 is the address of %2").arg(address, m_owners.value(address)));
         }
-        m_addresses.append(address);
+        m_owners.insert(address, owner.path());
         return address;
     }
 
@@ -72,7 +87,8 @@ private:
     }
 
     const ModelCatalogue& m_models;
-    QStringList m_addresses;
+    /// What has an address already.
+    QHash<QString, QString> m_owners;
     int m_cameras = 0;
 };
 
@@ -83,7 +99,7 @@ Rig Rig::fromFile(const QString& pathOrName) {
     const QString path =
         names().contains(pathOrName) ? QString(shippedFolder % pathOrName % QStringLiteral(".json")) : pathOrName;
     const JsonNode file = JsonNode::fromFile(path);
-    file.allowOnly({QStringLiteral("models"), QStringLiteral("devices")});
+    file.allowOnly({QStringLiteral("models"), QStringLiteral("devices"), QStringLiteral("hubs")});
     if (file.has(QStringLiteral("models"))) {
         models.addFile(QFileInfo(path).dir().filePath(file.member(QStringLiteral("models")).text()));
     }
@@ -91,6 +107,11 @@ Rig Rig::fromFile(const QString& pathOrName) {
     RigReader reader(models);
     for (const JsonNode& node : file.member(QStringLiteral("devices")).items()) {
         rig.devices.append(reader.readDevice(node));
+    }
+    if (file.has(QStringLiteral("hubs"))) {
+        for (const JsonNode& node : file.member(QStringLiteral("hubs")).items()) {
+            rig.hubs.append(reader.readHub(node));
+        }
     }
     return rig;
 }

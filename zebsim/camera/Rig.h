@@ -2,6 +2,7 @@
 
 #include "camera/CameraModel.h"
 #include "camera/CameraState.h"
+#include "signals/HubState.h"
 
 #include <QList>
 #include <QString>
@@ -21,9 +22,16 @@ struct RigDevice {
     QList<CameraState> heads;
 };
 
-/// Cameras to simulate, in the order in which the host shows them.
+/// A Sync Hub as a rig describes it.
+struct RigHub {
+    QString address;
+    HubState state;
+};
+
+/// What to simulate: cameras in the order in which the host shows them, and Sync Hubs.
 struct Rig {
     QList<RigDevice> devices;
+    QList<RigHub> hubs;
 
     /// Reads a rig file: a path, or the name of a rig that ships (as "eight-mixed"). Throws `RigError`.
     static Rig fromFile(const QString& pathOrName);

@@ -4,7 +4,10 @@
 #include "camera/Rig.h"
 #include "recording/Clock.h"
 
+#include <QStringList>
+
 #include <algorithm>
+#include <stdexcept>
 
 namespace {
 
@@ -20,15 +23,18 @@ CameraBank::CameraBank(Clock& clock, FaultPlan& faults, ShownErrors& shownErrors
 CameraBank::~CameraBank() = default;
 
 void CameraBank::replace(const Rig& rig) {
-    m_cameras.clear();
-    m_devices.clear();
+    std::vector<std::shared_ptr<CameraDevice>> devices;
+    std::vector<std::shared_ptr<Camera>> cameras;
     for (const RigDevice& device : rig.devices) {
-        const DOCKEY firstKey = static_cast<DOCKEY>(m_cameras.size() + 1);
-        m_devices.push_back(std::make_unique<CameraDevice>(device, firstKey, m_clock, m_faults, m_shownErrors));
-        for (const auto& head : m_devices.back()->heads()) {
-            m_cameras.push_back(head.get());
+        const DOCKEY firstKey = static_cast<DOCKEY>(cameras.size() + 1);
+        devices.push_back(std::make_shared<CameraDevice>(device, firstKey, m_clock, m_faults, m_shownErrors));
+        for (const auto& head : devices.back()->heads()) {
+            cameras.emplace_back(devices.back(), head.get());
         }
     }
+    const std::lock_guard lock(m_mutex);
+    m_devices.swap(devices);
+    m_cameras.swap(cameras);
 }
 
 void CameraBank::search(const QString& network) {
@@ -73,19 +79,39 @@ void CameraBank::forgetAll() {
 }
 
 Camera* CameraBank::find(DOCKEY key) const {
-    if (!has(key)) {
-        return nullptr;
-    }
-    Camera* camera = m_cameras[key - 1];
-    return isListed(*camera) ? camera : nullptr;
+    Camera* camera = has(key) ? m_cameras[key - 1].get() : nullptr;
+    return camera && isListed(*camera) ? camera : nullptr;
+}
+
+std::shared_ptr<Camera> CameraBank::hold(DOCKEY key) const {
+    const std::lock_guard lock(m_mutex);
+    return find(key) ? m_cameras[key - 1] : nullptr;
 }
 
 std::vector<Camera*> CameraBank::all() const {
     std::vector<Camera*> cameras;
-    for (Camera* camera : m_cameras) {
+    for (const auto& camera : m_cameras) {
         if (isListed(*camera)) {
-            cameras.push_back(camera);
+            cameras.push_back(camera.get());
         }
     }
     return cameras;
+}
+
+void CameraBank::forEach(const DocKeyList& keys, const std::function<void(Camera&)>& work) const {
+    QStringList failures;
+    for (const DOCKEY key : keys) {
+        const auto camera = hold(key);
+        if (!camera) {
+            continue;
+        }
+        try {
+            work(*camera);
+        } catch (const std::exception& e) {
+            failures.append(QString::fromUtf8(e.what()));
+        }
+    }
+    if (!failures.isEmpty()) {
+        throw std::runtime_error(failures.join(QLatin1Char('\n')).toStdString());
+    }
 }

@@ -2,7 +2,9 @@
 
 #include "ZebTypes.h"
 
+#include <functional>
 #include <memory>
+#include <mutex>
 #include <vector>
 
 class Camera;
@@ -31,17 +33,24 @@ public:
 
     /// Null when there is no such camera, when it is gone or not found yet.
     Camera* find(DOCKEY key) const;
+    /// The same on any thread: the camera lives for as long as it is held, whatever becomes of the rig.
+    std::shared_ptr<Camera> hold(DOCKEY key) const;
     /// Whether the rig has such a camera, gone or not found yet.
     bool has(DOCKEY key) const { return key >= 1 && key <= m_cameras.size(); }
+    /// Does `work` on each of these cameras that is there; when it failed on some, throws a `std::runtime_error` at the
+    /// end, a line for each. Any thread.
+    void forEach(const DocKeyList& keys, const std::function<void(Camera&)>& work) const;
     /// In the order of their keys, without those that are gone or not found yet.
     std::vector<Camera*> all() const;
 
 private:
+    void waitFor(const std::vector<const CameraDevice*>& devices);
+
     Clock& m_clock;
     FaultPlan& m_faults;
     ShownErrors& m_shownErrors;
-    void waitFor(const std::vector<const CameraDevice*>& devices);
-
-    std::vector<std::unique_ptr<CameraDevice>> m_devices;
-    std::vector<Camera*> m_cameras;
+    std::vector<std::shared_ptr<CameraDevice>> m_devices;
+    /// Each keeps its device. Guarded where another thread reads them.
+    std::vector<std::shared_ptr<Camera>> m_cameras;
+    mutable std::mutex m_mutex;
 };

@@ -5,6 +5,7 @@ class Journal;
 class Preferences;
 class SimAppStatus;
 class SimDocManager;
+class SyncSignal;
 class Translator;
 
 /// What the topics of a document reach of the host.
@@ -14,5 +15,6 @@ struct DocContext {
     const Preferences& prefs;
     const SimAppStatus& appStatus;
     const Translator& translator;
+    const SyncSignal& sync;
     SimDocManager& docs;
 };

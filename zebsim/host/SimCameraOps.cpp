@@ -2,18 +2,29 @@
 
 #include "DOC_Interface.h"
 #include "ZebDocManager.h"
+#include "ZebRecorder.h"
+#include "ZebSaver.h"
 #include "camera/Camera.h"
+#include "camera/SyncSource.h"
 #include "host/CameraBank.h"
-#include "host/Failures.h"
 #include "host/Journal.h"
 #include "host/Preferences.h"
 #include "host/StatusFlags.h"
+#include "host/WaitingMessages.h"
 
 #include <algorithm>
 
-SimCameraOps::SimCameraOps(Journal& journal, CameraBank& cameras, const ZebDocManager& docs, const Preferences& prefs,
-                           const StatusFlags& flags)
-    : m_journal(journal), m_cameras(cameras), m_docs(docs), m_prefs(prefs), m_flags(flags) {}
+SimCameraOps::SimCameraOps(Journal& journal, CameraBank& cameras, const ZebDocManager& docs,
+                           const ZebRecorder& recorder, const ZebSaver& saver, const Preferences& prefs,
+                           const StatusFlags& flags, WaitingMessages& messages)
+    : m_journal(journal),
+      m_cameras(cameras),
+      m_docs(docs),
+      m_recorder(recorder),
+      m_saver(saver),
+      m_prefs(prefs),
+      m_flags(flags),
+      m_messages(messages) {}
 
 void SimCameraOps::searchCamera(const QString& address) {
     m_journal.record("ZebCameraOps::searchCamera", {address});
@@ -82,19 +93,37 @@ void SimCameraOps::setLowLightType(const DocList& docs, int type) {
 }
 
 bool SimCameraOps::canSync(const DocList& docs) {
-    return std::all_of(docs.begin(), docs.end(), [](const DOC_Interface* doc) { return doc->isConnected(); });
+    const DocKeyList keys = keysOf(docs);
+    return !m_saver.isSaving() && m_recorder.getRecStatus(keys) == zeb::RecordLive &&
+           std::all_of(keys.begin(), keys.end(), [this](DOCKEY key) {
+               const Camera* camera = m_cameras.find(key);
+               return camera && camera->get(&CameraState::connected);
+           });
 }
 
 void SimCameraOps::syncCameras(const DocList& docs, DOC_Interface* master, int lport, bool external, bool generator,
                                int input, int frequency, int polarity) {
-    command("ZebCameraOps::syncCameras", docs,
-            {master ? master->getKey() : zeb::NoDocKey, lport, external, generator, input, frequency, polarity},
-            [](Camera& camera) { camera.synchronise(); });
+    SyncSource source;
+    source.frequency = frequency;
+    source.master = master ? master->getKey() : zeb::NoDocKey;
+    if (!external) {
+        source.name = SyncSource::Chain;
+    } else if (lport == zeb::SyncPortHub && !generator) {
+        source.name = SyncSource::Hub;
+    }
+    try {
+        command("ZebCameraOps::syncCameras", docs,
+                {source.master, lport, external, generator, input, frequency, polarity},
+                [&source](Camera& camera) { camera.synchronise(source); });
+    } catch (const std::exception& failure) {
+        m_messages.add(QString::fromUtf8(failure.what()));
+        throw;
+    }
 }
 
 void SimCameraOps::setPartition(PARTITIONNUMBER number, int mode) {
     m_journal.record("ZebCameraOps::setPartition", {number, mode});
-    forEach(m_docs.getSelectedDocKeys(0), [number](Camera& camera) { camera.setPartition(number); });
+    m_cameras.forEach(m_docs.getSelectedDocKeys(0), [number](Camera& camera) { camera.setPartition(number); });
 }
 
 unsigned int SimCameraOps::getCurrentVariable() const {
@@ -104,7 +133,7 @@ unsigned int SimCameraOps::getCurrentVariable() const {
 
 void SimCameraOps::setVariable(unsigned int channel) {
     m_journal.record("ZebCameraOps::setVariable", {channel});
-    forEach(m_docs.getSelectedDocKeys(0), [channel](Camera& camera) { camera.setVariable(channel); });
+    m_cameras.forEach(m_docs.getSelectedDocKeys(0), [channel](Camera& camera) { camera.setVariable(channel); });
 }
 
 void SimCameraOps::stopForPrefs() {
@@ -116,7 +145,7 @@ void SimCameraOps::stopForPrefs() {
             armed.append(camera->key());
         }
     }
-    forEach(armed, [](Camera& camera) { camera.disarm(); });
+    m_cameras.forEach(armed, [](Camera& camera) { camera.disarm(); });
 }
 
 bool SimCameraOps::isLowlight() const {
@@ -179,17 +208,5 @@ void SimCameraOps::command(const char* call, const DocList& docs, const QVariant
                            const std::function<void(Camera&)>& work) {
     const DocKeyList keys = keysOf(docs);
     m_journal.record(call, QVariantList{Journal::keyList(keys)} + args);
-    forEach(keys, work);
-}
-
-void SimCameraOps::forEach(const DocKeyList& keys, const std::function<void(Camera&)>& work) {
-    Failures failures;
-    for (const DOCKEY key : keys) {
-        if (Camera* camera = m_cameras.find(key)) {
-            failures.attempt([&] { work(*camera); });
-        }
-    }
-    if (failures.any()) {
-        throw failures.error();
-    }
+    m_cameras.forEach(keys, work);
 }

@@ -10,13 +10,17 @@ class CameraBank;
 class Journal;
 class Preferences;
 class StatusFlags;
+class WaitingMessages;
 class ZebDocManager;
+class ZebRecorder;
+class ZebSaver;
+struct SyncSource;
 
 /// Operations on many cameras: each one is tried, and the failures come as one exception.
 class SimCameraOps : public ZebCameraOps {
 public:
-    SimCameraOps(Journal& journal, CameraBank& cameras, const ZebDocManager& docs, const Preferences& prefs,
-                 const StatusFlags& flags);
+    SimCameraOps(Journal& journal, CameraBank& cameras, const ZebDocManager& docs, const ZebRecorder& recorder,
+                 const ZebSaver& saver, const Preferences& prefs, const StatusFlags& flags, WaitingMessages& messages);
 
     void searchCamera(const QString& address) override;
     void discoverCameras() override;
@@ -31,8 +35,9 @@ public:
     void setReduceMode(const DocList& docs, bool on) override;
     void setLowLight(const DocList& docs, bool on) override;
     void setLowLightType(const DocList& docs, int type) override;
+    /// Cameras that are there, connected and at rest, while nothing is saved.
     bool canSync(const DocList& docs) override;
-    /// Any thread.
+    /// Any thread. One camera after the other.
     void syncCameras(const DocList& docs, DOC_Interface* master, int lport, bool external, bool generator, int input,
                      int frequency, int polarity) override;
     void setPartition(PARTITIONNUMBER number, int mode) override;
@@ -51,12 +56,14 @@ private:
     /// A command to every camera of the list, in the journal as one call with its keys and `args`.
     void command(const char* call, const DocList& docs, const QVariantList& args,
                  const std::function<void(Camera&)>& work);
-    void forEach(const DocKeyList& keys, const std::function<void(Camera&)>& work);
     std::vector<Camera*> connectedCameras() const;
 
     Journal& m_journal;
     CameraBank& m_cameras;
     const ZebDocManager& m_docs;
+    const ZebRecorder& m_recorder;
+    const ZebSaver& m_saver;
     const Preferences& m_prefs;
     const StatusFlags& m_flags;
+    WaitingMessages& m_messages;
 };

@@ -4,6 +4,7 @@
 #include "host/DocContext.h"
 #include "host/Journal.h"
 #include "host/ShutterText.h"
+#include "signals/SyncSignal.h"
 
 #include <algorithm>
 
@@ -82,7 +83,7 @@ bool SimControl::hasSyncStatus() const {
 
 QString SimControl::getSyncStatusText() const {
     m_camera.queryConnected("getSyncStatusText");
-    return m_camera.get(&CameraState::syncStatus);
+    return m_context.sync.statusOf(m_camera);
 }
 
 int SimControl::getExposureTimingClass() const {

@@ -3,31 +3,45 @@
 #include "ZebHost.h"
 #include "camera/Camera.h"
 #include "host/CameraBank.h"
-#include "host/Failures.h"
 #include "host/Journal.h"
 #include "host/SimDocument.h"
 #include "host/StatusFlags.h"
 #include "host/UpdateCycle.h"
 
+#include <QThread>
+
 #include <algorithm>
 
 SimDocManager::SimDocManager(ZebHost& host, Journal& journal, CameraBank& cameras, const Preferences& prefs,
                              const SimAppStatus& appStatus, const StatusFlags& flags, const Translator& translator,
-                             UpdateCycle& updates)
+                             const SyncSignal& sync, UpdateCycle& updates)
     : m_host(host), m_journal(journal), m_cameras(cameras), m_flags(flags), m_updates(updates), m_context{journal,
                                                                                                           m_tools,
                                                                                                           prefs,
                                                                                                           appStatus,
                                                                                                           translator,
-                                                                                                          *this} {
-    m_endOfTurn.setSingleShot(true);
-    QObject::connect(&m_endOfTurn, &QTimer::timeout, &m_endOfTurn, [this] { m_docs.clear(); });
+                                                                                                          sync,
+                                                                                                          *this} {}
+
+std::size_t SimDocManager::handedOut() const {
+    const auto turn = m_turns.find(QThread::currentThread()->loopLevel());
+    return turn != m_turns.end() && turn->second ? turn->second->count() : 0;
 }
 
-SimDocManager::~SimDocManager() = default;
+DocTurn& SimDocManager::turn() {
+    QPointer<DocTurn>& turn = m_turns[QThread::currentThread()->loopLevel()];
+    if (!turn) {
+        turn = new DocTurn(&m_turnOwner);
+    }
+    return *turn;
+}
+
+void SimDocManager::endTurn() {
+    delete m_turns[QThread::currentThread()->loopLevel()];
+}
 
 void SimDocManager::forgetDocs() {
-    m_docs.clear();
+    m_turns.clear();
     m_tools.forgetDocs();
     m_current = zeb::NoDocKey;
 }
@@ -38,17 +52,7 @@ DOC_Interface* SimDocManager::getDoc(DOCKEY key, int /*mode*/) {
 
 DOC_Interface* SimDocManager::getDocAny(DOCKEY key) {
     Camera* camera = m_cameras.find(key);
-    if (!camera) {
-        return nullptr;
-    }
-    auto& doc = m_docs[key];
-    if (!doc) {
-        if (!m_endOfTurn.isActive()) {
-            m_endOfTurn.start(0);
-        }
-        doc = std::make_unique<SimDocument>(*camera, m_context);
-    }
-    return doc.get();
+    return camera ? turn().document(*camera, m_context) : nullptr;
 }
 
 DOC_Interface* SimDocManager::getCurrentDoc() {
@@ -208,14 +212,10 @@ void SimDocManager::disconnectDocs(const DocKeyList& keys) {
 }
 
 void SimDocManager::forEachKey(const DocKeyList& keys, const std::function<void(Camera&)>& work) {
-    Failures failures;
-    for (const DOCKEY key : keys) {
-        if (Camera* camera = m_cameras.find(key)) {
-            failures.attempt([&] { work(*camera); });
-        }
-    }
-    if (failures.any()) {
-        m_host.errorHandler(failures.error());
+    try {
+        m_cameras.forEach(keys, work);
+    } catch (const std::exception& e) {
+        m_host.errorHandler(e);
     }
 }
 

@@ -2,19 +2,19 @@
 
 #include "ZebDocManager.h"
 #include "host/DocContext.h"
+#include "host/DocTurn.h"
 #include "host/ImageTools.h"
 
-#include <QTimer>
+#include <QPointer>
 
 #include <functional>
-#include <memory>
-#include <unordered_map>
+#include <map>
 
 class Camera;
 class CameraBank;
-class SimDocument;
 struct CameraState;
 class StatusFlags;
+class SyncSignal;
 class Translator;
 class UpdateCycle;
 class ZebHost;
@@ -24,16 +24,18 @@ class SimDocManager : public ZebDocManager {
 public:
     SimDocManager(ZebHost& host, Journal& journal, CameraBank& cameras, const Preferences& prefs,
                   const SimAppStatus& appStatus, const StatusFlags& flags, const Translator& translator,
-                  UpdateCycle& updates);
-    ~SimDocManager() override;
+                  const SyncSignal& sync, UpdateCycle& updates);
 
     /// What `editDoc` opens; nothing at first. It is called for a camera that is there and runs until it is closed.
     void setEditor(std::function<void(DOCKEY)> editor) { m_editor = std::move(editor); }
     /// As `setSelectedDocs`, by the host itself.
     void selectOnly(const DocKeyList& keys);
     /// Documents handed out in this turn of the event loop.
-    std::size_t handedOut() const { return m_docs.size(); }
-    /// Forgets all documents and the current one.
+    std::size_t handedOut() const;
+    /// The host is about to run an event loop: the documents of this turn are dead.
+    void endTurn();
+    /// Hands out none of the present documents any more, and forgets the current one. Those that somebody works with
+    /// still tell their keys.
     void forgetDocs();
     /// Whether an image tool is the active one or a quick tool that is on.
     bool isToolActive(const QString& tool) const { return m_tools.isActive(tool); }
@@ -84,6 +86,7 @@ public:
     void toolApply(const QString& tool) override;
 
 private:
+    DocTurn& turn();
     DOCKEY currentKey() const;
     DocKeyList keysOf(bool CameraState::*member) const;
     void forEachKey(const DocKeyList& keys, const std::function<void(Camera&)>& work);
@@ -97,10 +100,9 @@ private:
     ImageTools m_tools;
     const DocContext m_context;
     std::function<void(DOCKEY)> m_editor;
-    /// Documents of this turn of the event loop. None is handed out in a later one, so that whoever keeps one is found
-    /// out.
-    std::unordered_map<DOCKEY, std::unique_ptr<SimDocument>> m_docs;
-    QTimer m_endOfTurn;
+    QObject m_turnOwner;
+    /// By the level of their event loop.
+    std::map<int, QPointer<DocTurn>> m_turns;
     /// May have lost its selection meanwhile.
     mutable DOCKEY m_current = zeb::NoDocKey;
 };

@@ -6,7 +6,8 @@
 #include "host/Translator.h"
 
 SimDocument::SimDocument(Camera& camera, const DocContext& context)
-    : m_camera(camera),
+    : m_key(camera.key()),
+      m_camera(camera),
       m_context(context),
       m_activity(camera, context),
       m_lock(camera, context),
@@ -15,10 +16,6 @@ SimDocument::SimDocument(Camera& camera, const DocContext& context)
       m_control(camera, context),
       m_head(camera),
       m_storage(camera) {}
-
-DOCKEY SimDocument::getKey() const {
-    return m_camera.key();
-}
 
 bool SimDocument::isConnected() const {
     return m_camera.get(&CameraState::connected);

@@ -22,7 +22,8 @@ public:
     SimHead& head() override { return m_head; }
     SimStorage& storage() override { return m_storage; }
 
-    DOCKEY getKey() const override;
+    /// Also when the rig was replaced, and on any thread.
+    DOCKEY getKey() const override { return m_key; }
     bool isConnected() const override;
     bool isSelected() const override;
     bool isMobileSelected() const override;
@@ -38,6 +39,7 @@ public:
     QString formatShutterSpeed(int value, int head) const override;
 
 private:
+    const DOCKEY m_key;
     Camera& m_camera;
     const DocContext& m_context;
     SimActivity m_activity;

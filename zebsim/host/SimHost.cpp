@@ -24,17 +24,19 @@ SimHost::SimHost(Clock& clock, MessageDesk& desk, const QString& prefsPath)
       m_updates([this] { runUpdateCycle(); }),
       m_appObject(m_prefs, m_translator),
       m_prefsRestored(!m_prefs.problem().isEmpty()),
+      m_waitingMessages([this](const QString& text) { show(message(Message::Error, text, nullptr)); }),
       m_appStatus(m_journal, m_events, m_updates, m_cameras, m_flags),
-      m_docManager(*this, m_journal, m_cameras, m_prefs, m_appStatus, m_flags, m_translator, m_updates),
+      m_signalDevices(m_journal, clock, m_faults, m_shownErrors),
+      m_syncSignal(m_cameras, m_signalDevices),
+      m_docManager(*this, m_journal, m_cameras, m_prefs, m_appStatus, m_flags, m_translator, m_syncSignal, m_updates),
       m_liveLoop(m_journal),
       m_player(m_journal),
       m_recorder(m_cameras, m_flags),
-      m_cameraOps(m_journal, m_cameras, m_docManager, m_prefs, m_flags),
       m_saver(m_journal, m_flags, [this] { return m_appDesk ? m_appDesk->currentImage() : QImage(); }),
+      m_cameraOps(m_journal, m_cameras, m_docManager, m_recorder, m_saver, m_prefs, m_flags, m_waitingMessages),
       m_viewOps(m_cameras, m_flags),
       m_mdi(m_cameras, m_appStatus, m_flags),
-      m_undo(m_journal),
-      m_signalDevices(m_journal) {
+      m_undo(m_journal) {
     m_translator.load(QStringLiteral("en"));
     if (!m_prefs.problem().isEmpty()) {
         Message message;
@@ -49,6 +51,7 @@ void SimHost::setRig(const Rig& rig) {
     m_faults.clear();
     m_shownErrors.clear();
     m_cameras.replace(rig);
+    m_signalDevices.replace(rig.hubs);
     Q_EMIT m_events.camerasReplaced();
     m_updates.request();
 }
@@ -111,28 +114,33 @@ Message SimHost::message(int kind, const QString& text, QWidget* parent) const {
     return message;
 }
 
+Answer SimHost::show(const Message& box) {
+    m_docManager.endTurn();
+    return m_desk.show(box);
+}
+
 void SimHost::info(const QString& text, QWidget* parent) {
-    m_desk.show(message(Message::Info, text, parent));
+    show(message(Message::Info, text, parent));
 }
 
 void SimHost::warn(const QString& text, QWidget* parent) {
-    m_desk.show(message(Message::Warn, text, parent));
+    show(message(Message::Warn, text, parent));
 }
 
 void SimHost::warnList(const QString& text, const QStringList& messages, QWidget* parent) {
     Message box = message(Message::Warn, text, parent);
     box.list = messages;
-    m_desk.show(box);
+    show(box);
 }
 
 void SimHost::alert(const QString& text, QWidget* parent) {
-    m_desk.show(message(Message::Alert, text, parent));
+    show(message(Message::Alert, text, parent));
 }
 
 void SimHost::alertList(const QString& text, const QStringList& messages, QWidget* parent) {
     Message box = message(Message::Alert, text, parent);
     box.list = messages;
-    m_desk.show(box);
+    show(box);
 }
 
 bool SimHost::confirm(const QString& text) {
@@ -142,7 +150,7 @@ bool SimHost::confirm(const QString& text) {
 bool SimHost::confirmModal(const QString& text, QWidget* parent, const ButtonTexts& buttons) {
     Message box = message(Message::Confirm, text, parent);
     box.buttons = buttons;
-    return m_desk.show(box).accepted;
+    return show(box).accepted;
 }
 
 bool SimHost::confirmWithDontShowAgain(const QString& text, const QString& prefKey, QWidget* parent,
@@ -162,7 +170,7 @@ void SimHost::alertWithDontShowAgain(const QString& text, const QString& prefKey
 /// Whether the user agreed.
 bool SimHost::showSilenceable(Message box, const QString& prefKey) {
     box.offersSilence = true;
-    const Answer answer = m_desk.show(box);
+    const Answer answer = show(box);
     if (answer.silenced) {
         m_prefs.setValue(prefKey, false);
     }
@@ -179,7 +187,7 @@ void SimHost::errorHandler(const std::exception& e) {
         qWarning("%s (again)", e.what());
         return;
     }
-    m_desk.show(message(Message::Error, text, nullptr));
+    show(message(Message::Error, text, nullptr));
 }
 
 void SimHost::attachBridge(QWebView* view, ZebPageBridge* bridge) {
@@ -239,6 +247,7 @@ void SimHost::execProgress(const QString& text, QFutureWatcherBase& watcher) {
         m_appDesk->runProgress(text, watcher);
         return;
     }
+    m_docManager.endTurn();
     QEventLoop loop;
     QObject::connect(&watcher, &QFutureWatcherBase::finished, &loop, &QEventLoop::quit);
     if (!watcher.isFinished()) {

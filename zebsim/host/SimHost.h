@@ -22,7 +22,9 @@
 #include "host/StatusFlags.h"
 #include "host/Translator.h"
 #include "host/UpdateCycle.h"
+#include "host/WaitingMessages.h"
 #include "signals/SimSignalDevices.h"
+#include "signals/SyncSignal.h"
 
 #include <QPointer>
 #include <QWidget>
@@ -30,6 +32,7 @@
 class AppDesk;
 class Clock;
 class MessageDesk;
+struct Answer;
 struct Message;
 struct Rig;
 
@@ -49,7 +52,7 @@ public:
     void setAppDesk(AppDesk* desk) { m_appDesk = desk; }
     /// Speaks another language, as "ja"; false when there is no catalogue for it. English at first.
     bool setLanguage(const QString& language) { return m_translator.load(language); }
-    /// Replaces all cameras. Keys count from 1 again; documents of the old ones are dead.
+    /// Replaces all cameras and hubs. Keys count from 1 again; documents of the old ones are dead.
     void setRig(const Rig& rig);
 
     Clock& clock() { return m_clock; }
@@ -170,6 +173,7 @@ private:
     /// No exception reaches the event loop.
     void guarded(const std::function<void()>& work);
     bool isInPluginDialog(const QWidget* widget) const;
+    Answer show(const Message& box);
     bool showSilenceable(Message box, const QString& prefKey);
     Message message(int kind, const QString& text, QWidget* parent) const;
     void storePref(const char* call, const QString& key, const QVariant& value);
@@ -195,15 +199,17 @@ private:
     int m_viewerSuspended = 0;
     bool m_prefsRestored;
 
+    WaitingMessages m_waitingMessages;
     SimAppStatus m_appStatus;
+    SimSignalDevices m_signalDevices;
+    SyncSignal m_syncSignal;
     SimDocManager m_docManager;
     SimLiveLoop m_liveLoop;
     SimPlayer m_player;
     SimRecorder m_recorder;
-    SimCameraOps m_cameraOps;
     SimSaver m_saver;
+    SimCameraOps m_cameraOps;
     SimViewOps m_viewOps;
     SimMdi m_mdi;
     SimUndo m_undo;
-    SimSignalDevices m_signalDevices;
 };

@@ -1,33 +1,15 @@
 #include "CameraScripting.h"
 
+#include "FaultObject.h"
 #include "ScenarioError.h"
 #include "camera/Camera.h"
 #include "camera/CameraOperations.h"
+#include "camera/PlainState.h"
 #include "camera/Rig.h"
 #include "host/SimHost.h"
 
 #include <QDir>
 #include <QFileInfo>
-
-namespace {
-
-/// The fault that an object of a script describes.
-Fault faultOf(const QVariantMap& members) {
-    Fault fault;
-    for (auto member = members.begin(); member != members.end(); ++member) {
-        if (member.key() == QLatin1String("throws"))
-            fault.throws = member->toString();
-        else if (member.key() == QLatin1String("delay"))
-            fault.delay = member->toInt();
-        else if (member.key() == QLatin1String("gone"))
-            fault.gone = member->toBool();
-        else
-            throw ScenarioError(QStringLiteral("a fault has throws, delay or gone, not %1").arg(member.key()));
-    }
-    return fault;
-}
-
-}  // namespace
 
 CameraScripting::CameraScripting(SimHost& host, const QString& folder) : m_host(host), m_folder(folder) {}
 
@@ -56,7 +38,7 @@ void CameraScripting::setCamera(unsigned int key, const QVariantMap& members) {
     if (camera == nullptr) throw ScenarioError(QStringLiteral("there is no camera %1").arg(key));
     try {
         camera->change(members);
-    } catch (const CameraStateError& e) {
+    } catch (const StateError& e) {
         throw ScenarioError(QStringLiteral("camera %1, %2: %3").arg(key).arg(e.member, e.reason));
     }
 }

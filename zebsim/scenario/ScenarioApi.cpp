@@ -42,6 +42,7 @@ ScenarioApi::ScenarioApi(QJSEngine& engine, Simulator& simulator, const QString&
       m_simulator(simulator),
       m_givenUp(std::move(stop)),
       m_cameras(simulator.host(), folder),
+      m_hubs(simulator.host()),
       m_table(simulator, m_givenUp),
       m_logMark(simulator.log().count()),
       m_callMark(simulator.host().journal().count()) {}
@@ -83,8 +84,33 @@ void ScenarioApi::setCamera(unsigned int key, const QVariantMap& members) {
     guarded([&] { m_cameras.setCamera(key, members); });
 }
 
-void ScenarioApi::fault(unsigned int key, const QString& operation, const QVariantMap& fault) {
-    guarded([&] { m_cameras.fault(key, operation, fault); });
+QJSValue ScenarioApi::hub(const QString& address) {
+    return guarded([&] { return plain(m_hubs.hub(address)); });
+}
+
+void ScenarioApi::setHub(const QString& address, const QVariantMap& members) {
+    guarded([&] { m_hubs.setHub(address, members); });
+}
+
+void ScenarioApi::fault(const QJSValue& target, const QString& operation, const QVariantMap& fault) {
+    guarded([&] {
+        if (target.isString())
+            m_hubs.fault(target.toString(), operation, fault);
+        else
+            m_cameras.fault(target.toUInt(), operation, fault);
+    });
+}
+
+void ScenarioApi::visa(const QVariantMap& members) {
+    guarded([&] { m_visa.script(members); });
+}
+
+QJSValue ScenarioApi::visaCalls() {
+    return guarded([&] { return plain(m_visa.takeCalls()); });
+}
+
+void ScenarioApi::visaRelease() {
+    guarded([&] { m_visa.release(); });
 }
 
 bool ScenarioApi::open() {

@@ -1,8 +1,10 @@
 #pragma once
 
 #include "CameraScripting.h"
+#include "HubScripting.h"
 #include "ScenarioDialogs.h"
 #include "TableDriver.h"
+#include "VisaScripting.h"
 
 #include <QJSValue>
 #include <QObject>
@@ -28,7 +30,14 @@ public:
     Q_INVOKABLE QJSValue keys();
     Q_INVOKABLE QJSValue camera(unsigned int key);
     Q_INVOKABLE void setCamera(unsigned int key, const QVariantMap& members);
-    Q_INVOKABLE void fault(unsigned int key, const QString& operation, const QVariantMap& fault);
+    Q_INVOKABLE QJSValue hub(const QString& address);
+    Q_INVOKABLE void setHub(const QString& address, const QVariantMap& members);
+    /// `target` is the key of a camera, or the address of a hub.
+    Q_INVOKABLE void fault(const QJSValue& target, const QString& operation, const QVariantMap& fault);
+
+    Q_INVOKABLE void visa(const QVariantMap& members);
+    Q_INVOKABLE QJSValue visaCalls();
+    Q_INVOKABLE void visaRelease();
 
     Q_INVOKABLE bool open();
     Q_INVOKABLE bool close();
@@ -68,6 +77,8 @@ private:
     Simulator& m_simulator;
     std::function<bool()> m_givenUp;
     CameraScripting m_cameras;
+    HubScripting m_hubs;
+    VisaScripting m_visa;
     TableDriver m_table;
     ScenarioDialogs m_dialogs;
     quint64 m_logMark;

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QMetaObject>
+#include <QString>
+#include <QVariantMap>
+
+/// A member of a state that does not exist or does not take its value.
+struct StateError {
+    QString member;
+    QString reason;
+};
+
+/// The members of a gadget as plain data: texts, numbers, bools and lists of them; sizes and points are lists of two
+/// numbers.
+QVariantMap readMembers(const QMetaObject& type, const void* gadget);
+
+/// Sets the members that `members` names, one after the other. Throws `StateError` at the first that can't be set.
+void writeMembers(const QMetaObject& type, void* gadget, const QVariantMap& members);

@@ -1,0 +1,34 @@
+#include "HubScripting.h"
+
+#include "FaultObject.h"
+#include "ScenarioError.h"
+#include "camera/PlainState.h"
+#include "host/SimHost.h"
+
+SignalHub& HubScripting::find(const QString& address) const {
+    SignalHub* hub = m_host.signalDevices().hub(address);
+    if (hub == nullptr) throw ScenarioError(QStringLiteral("there is no Sync Hub %1").arg(address));
+    return *hub;
+}
+
+QVariantMap HubScripting::hub(const QString& address) const {
+    const SignalHub& hub = find(address);
+    QVariantMap members = hub.state().toPlain();
+    members.insert(QStringLiteral("connected"), hub.wasFound() && hub.isThere());
+    return members;
+}
+
+void HubScripting::setHub(const QString& address, const QVariantMap& members) {
+    try {
+        find(address).change(members);
+    } catch (const StateError& e) {
+        throw ScenarioError(QStringLiteral("Sync Hub %1, %2: %3").arg(address, e.member, e.reason));
+    }
+}
+
+void HubScripting::fault(const QString& address, const QString& operation, const QVariantMap& fault) {
+    const SignalHub& hub = find(address);
+    if (operation != QLatin1String("*") && !SignalHub::operations().contains(operation))
+        throw ScenarioError(QStringLiteral("no Sync Hub has an operation \"%1\"").arg(operation));
+    m_host.faults().plant(hub.key(), operation, faultOf(fault));
+}
