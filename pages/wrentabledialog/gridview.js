@@ -48,6 +48,9 @@ class GridView {
             this.owed = true;
             return 0;
         }
+        if (!this.status) { // the first records bring the frame
+            return 0;
+        }
         this.onScroll(); // w2ui takes the widgets of its markup away, so what is held is let go before
         const { scrollTop, scrollLeft } = this.grid.last;
         const focus = document.activeElement;

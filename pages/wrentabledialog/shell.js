@@ -15,8 +15,10 @@ Object.assign(wrentabledialog_obj, {
         this.initializeCommonParts();
         this.initializeSaveContainer();
         this.initializeRecordingContainer();
-        this.initializeTabs();
-        this.refreshDisplayElement();
+        viewAt(this.activeTab()).together(() => {
+            this.initializeTabs();
+            this.refreshDisplayElement();
+        });
         this.update();
         $('label[for="timeline_trigger_test"]').tooltip({
             show: { delay: 900 },
