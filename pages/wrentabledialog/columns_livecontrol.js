@@ -108,6 +108,8 @@ COLUMNS.reduce = {
     }
 };
 
+// The container is no `div`: for one of those the library asks for the element before it, and so the engine would work
+// out everything in it again whenever a button before it changes.
 COLUMNS.lowlight = {
     caption: () => translate('Lowlight'),
     size: '200px',
@@ -118,11 +120,11 @@ COLUMNS.lowlight = {
             id="wren_button_lowlight_on_" dockey>${caption('ON')}</a>
         <a class="wren_button_lowlight lowlightOFF" part="off"
             id="wren_button_lowlight_off_" dockey>${caption('ON')}</a>
-        <div class="wren-slider-container" dockey><label dockey>${caption('dark')}</label>
+        <span class="wren-slider-container" dockey><label dockey>${caption('dark')}</label>
         <div class="wren_slider_lowlight ui-slider ui-slider-horizontal ui-widget ui-widget-content ui-corner-all"
             part="slider" id="wren_slider_lowlight_" dockey
             ><span class="ui-slider-handle ui-state-default ui-corner-all" part="handle" dockey></span></div>
-        <label dockey>${caption('bright')}</label><span class="slider-result" part="result" dockey>0</span></div>
+        <label dockey>${caption('bright')}</label><span class="slider-result" part="result" dockey>0</span></span>
         </div>`,
     rebuild(cell, record) {
         placeSlider(cell, record);
