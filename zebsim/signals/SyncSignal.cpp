@@ -6,22 +6,23 @@
 #include "signals/SimSignalDevices.h"
 
 QString SyncSignal::statusOf(const Camera& camera) const {
-    const CameraState state = camera.state();
-    if (state.syncSource.isEmpty()) {
-        return state.syncStatus;
+    const QString source = camera.get(&CameraState::syncSource);
+    if (source.isEmpty()) {
+        return camera.get(&CameraState::syncStatus);
     }
-    const int frequency = frequencyFor(state);
+    const int frequency = frequencyOf(source, camera);
     if (frequency < 1) {
         return QStringLiteral("No Sync");
     }
-    return static_cast<unsigned int>(frequency) > state.rate ? QStringLiteral("Over Sync") : QStringLiteral("Sync In");
+    const bool over = static_cast<unsigned int>(frequency) > camera.get(&CameraState::rate);
+    return over ? QStringLiteral("Over Sync") : QStringLiteral("Sync In");
 }
 
-int SyncSignal::frequencyFor(const CameraState& state) const {
-    if (state.syncSource == QLatin1String(SyncSource::Chain)) {
-        return rateOf(state.syncMaster);
+int SyncSignal::frequencyOf(const QString& source, const Camera& camera) const {
+    if (source == QLatin1String(SyncSource::Chain)) {
+        return rateOf(camera.get(&CameraState::syncMaster));
     }
-    return state.syncSource == QLatin1String(SyncSource::Hub) ? m_hubs.signal() : state.syncFrequency;
+    return source == QLatin1String(SyncSource::Hub) ? m_hubs.signal() : camera.get(&CameraState::syncFrequency);
 }
 
 /// A master that nobody reaches gives no signal.

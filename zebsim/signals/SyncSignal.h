@@ -5,7 +5,6 @@
 class Camera;
 class CameraBank;
 class SimSignalDevices;
-struct CameraState;
 
 /// What cameras see of the signal that they were synchronised with. GUI thread.
 class SyncSignal {
@@ -16,7 +15,7 @@ public:
     QString statusOf(const Camera& camera) const;
 
 private:
-    int frequencyFor(const CameraState& state) const;
+    int frequencyOf(const QString& source, const Camera& camera) const;
     int rateOf(unsigned int master) const;
 
     const CameraBank& m_cameras;
