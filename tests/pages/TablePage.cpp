@@ -47,6 +47,8 @@ TestHost& prepared(TestHost& test) {
 TablePage::TablePage(TestHost& test, int tab)
     : m_test(prepared(test)), m_loader(QStringLiteral(WREN_LIBRARY), test.host), m_slot(test.host, m_loader.plugin()) {
     m_slot.open();
+    // What the bridge waits for when it is made lets cycles pass that the page is not there for yet.
+    EXPECT_TRUE(until("window.wrentabledialog_obj !== undefined && !wrentabledialog_obj.initialize"));
     settle();
     QFile probe(QStringLiteral(":/page_test/probe.js"));
     EXPECT_TRUE(probe.open(QIODevice::ReadOnly));

@@ -38,8 +38,10 @@ TableDriver::TableDriver(Simulator& simulator, std::function<bool()> stop)
 bool TableDriver::open() {
     pressButton();
     if (dialog() == nullptr || !dialog()->isVisible()) return false;
-    // An update has been asked for by now, and is owed until the page has loaded.
-    return waitUntil([this] { return !m_simulator.host().updates().isPending(); }, m_givenUp);
+    // An update has been asked for by now, and is owed until the page has loaded. A message that stood before the page
+    // has let it pass.
+    const PageScript loaded(QStringLiteral("document.URL !== 'about:blank' && document.readyState === 'complete'"));
+    return waitUntil([&] { return isTrue(loaded) && !m_simulator.host().updates().isPending(); }, m_givenUp);
 }
 
 void TableDriver::pressButton() {
