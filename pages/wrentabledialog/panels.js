@@ -7,6 +7,7 @@ Object.assign(wrentabledialog_obj, {
         onClick('#wrenBatchLowlightBlock_ON', () => wrentabledialog.setLowLight([], true));
         onClick('#wrenBatchLowlightBlock_OFF', () => wrentabledialog.setLowLight([], false));
         this.initializeCameraManagementContainer();
+        this.initializeExternalSyncArea();
         this.initializeMenus();
     },
 
@@ -73,14 +74,6 @@ Object.assign(wrentabledialog_obj, {
     // The custom information grid is empty, so there is nothing to write.
     refreshCustomInfoContainer() {
         zeb4func.disable('.edit-buttons .write', true);
-    },
-
-    updateExternalSyncArea() {
-        const displayed = wrentabledialog.getPrefBool(PREF_KEY_WREN_DISPLAY_EXTERNAL_SYNC);
-        const settings = parseReply(wrentabledialog.getSyncSettings());
-        if (settings) {
-            showElement(document.getElementById('external_sync_area'), Boolean(settings.syncEnable) && displayed);
-        }
     },
 
     refreshActionArea() {
