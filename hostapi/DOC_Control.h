@@ -104,6 +104,11 @@ public:
     /// The moved zero point, and the camera's own, as frame numbers.
     virtual int getTriggerOffset() const = 0;
     virtual int getTriggerOffsetBase() const = 0;
+    /// Whether the zero point is moved, and to which frame number.
+    virtual void setTriggerOffsetEnabled(bool enabled) = 0;
+    virtual void setTriggerOffset(int frame) = 0;
+    /// The frames to keep of what is recorded, as frame numbers: first <= start <= end <= last.
+    virtual void setSelectRange(int start, int end) = 0;
     virtual bool hasRecordedData() const = 0;
     virtual void eraseRecordedData(int mode) = 0;
 };

@@ -20,4 +20,15 @@ public:
     /// Whether the recording is marked for saving.
     virtual bool isRecordCheck() const = 0;
     virtual void setRecordCheck(bool check) = 0;
+
+    /// While a camera is played in step with a faster signal, it shows a frame of its own for this many of the signal.
+    virtual bool isFrameSkipEnabled() const = 0;
+    virtual void setFrameSkipEnabled(bool enabled) = 0;
+    virtual void setFrameSkipMode(int mode) = 0;
+    virtual int getFrameSkip() const = 0;
+    virtual void setFrameSkip(int frames) = 0;
+
+    /// First and last frame that a recording is to keep, counted from the trigger.
+    virtual void setRecordAreaStart(int frame) = 0;
+    virtual void setRecordAreaEnd(int frame) = 0;
 };

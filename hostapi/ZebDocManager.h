@@ -64,6 +64,8 @@ public:
     /// Whether the cameras stand at memory partitions that do not go together.
     virtual bool isConflictPartition(int mode) const = 0;
     virtual bool isPhaseAdjusting() const = 0;
+    /// Whether a recording keeps only the area that is set on each document.
+    virtual bool isRecordAreaEnabled() const = 0;
 
     /// The mutex of document work; never null, not recursive. Does not throw.
     virtual QMutex* getDocMutex() = 0;

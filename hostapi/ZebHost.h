@@ -112,6 +112,10 @@ public:
     virtual void prepareSupportFile(ZebSupportFile& file) = 0;
     /// Writes it to `path` as ZIP; false when that failed. Any thread; does not throw.
     virtual bool exportSupportFile(const QString& path, const ZebSupportFile& file) = 0;
+    /// Saves what is recorded: opens the dialog of saving, with the cameras one by one or with the layout of the image
+    /// windows, and runs an event loop until all is saved or the user has given up.
+    virtual void saveFiles() = 0;
+    virtual void saveLayoutFiles() = 0;
     /// Whether the camera table has a window to take a picture of. Does not throw.
     virtual bool hasWrenWindow() const = 0;
 
@@ -160,6 +164,8 @@ public:
     /// True while the host keeps its selection, whatever the group of a table says.
     virtual bool isSelectionKept() const = 0;
     virtual bool getTriggerTesting() const = 0;
+    /// While the trigger is tested a trigger that comes is shown and starts no recording.
+    virtual void setTriggerTesting(bool on) = 0;
     virtual bool isTracking() const = 0;
     virtual bool isShading() const = 0;
     virtual bool isAutoFocussing() const = 0;

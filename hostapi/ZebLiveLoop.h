@@ -14,4 +14,9 @@ public:
     virtual void restartLive(int mode, int reload, int keepView) = 0;
     virtual void restartLiveAfterTool(int mode) = 0;
     virtual void restartLiveAfterEnd(int mode) = 0;
+
+    /// Freezes the live images, or lets them run again. `mode` is the host's.
+    virtual void setStopLive(bool stop, int mode) = 0;
+    /// Takes one new live image of each camera while they are frozen.
+    virtual void updateLive() = 0;
 };

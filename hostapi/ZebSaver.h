@@ -13,4 +13,6 @@ public:
 
     /// Puts the current image on the clipboard; `what` 2 the selected area of it.
     virtual void copyToClipboard(int what) = 0;
+    /// Takes the present image: 1 into a file, 2 to the clipboard, 3 both; 4 opens the settings of that. May throw.
+    virtual void snapShot(int mode) = 0;
 };

@@ -68,6 +68,10 @@ struct CameraState {
     Q_PROPERTY(bool triggerOffsetEnabled MEMBER triggerOffsetEnabled)
     Q_PROPERTY(int triggerOffset MEMBER triggerOffset)
     Q_PROPERTY(bool recordCheck MEMBER recordCheck)
+    Q_PROPERTY(bool frameSkipEnabled MEMBER frameSkipEnabled)
+    Q_PROPERTY(int frameSkipMode MEMBER frameSkipMode)
+    Q_PROPERTY(int frameSkip MEMBER frameSkip)
+    Q_PROPERTY(QPoint recordArea MEMBER recordArea)
     Q_PROPERTY(QPoint point MEMBER point)
     Q_PROPERTY(double scale MEMBER scale)
     Q_PROPERTY(int binningPower MEMBER binningPower)
@@ -143,6 +147,12 @@ public:
     /// It is being played.
     bool playing = false;
     bool recordCheck = false;
+    /// Of playing in step with a faster signal: so many of its frames show one of the camera's.
+    bool frameSkipEnabled = false;
+    int frameSkipMode = 0;
+    int frameSkip = 1;
+    /// First and last frame that a recording keeps, counted from the trigger; both 0: all.
+    QPoint recordArea;
     /// Of what is recorded: frames a second, first and last frame, frame of the trigger, first and last frame to keep.
     unsigned int recordedRate = 0;
     QPoint recordedRange;

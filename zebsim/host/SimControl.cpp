@@ -255,6 +255,24 @@ int SimControl::getTriggerOffsetBase() const {
     return recording ? recording->trigger : 0;
 }
 
+void SimControl::setTriggerOffsetEnabled(bool enabled) {
+    m_context.journal.record("DOC_Control::setTriggerOffsetEnabled", {m_camera.key(), enabled});
+    m_camera.queryConnected("setTriggerOffsetEnabled");
+    m_camera.set(&CameraState::triggerOffsetEnabled, enabled);
+}
+
+void SimControl::setTriggerOffset(int frame) {
+    m_context.journal.record("DOC_Control::setTriggerOffset", {m_camera.key(), frame});
+    m_camera.queryConnected("setTriggerOffset");
+    m_camera.set(&CameraState::triggerOffset, frame);
+}
+
+void SimControl::setSelectRange(int start, int end) {
+    m_context.journal.record("DOC_Control::setSelectRange", {m_camera.key(), start, end});
+    m_camera.queryConnected("setSelectRange");
+    m_camera.set(&CameraState::selectedRange, {start, end});
+}
+
 bool SimControl::hasRecordedData() const {
     m_camera.queryConnected("hasRecordedData");
     return m_camera.get(&CameraState::recorded);

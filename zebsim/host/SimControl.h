@@ -58,6 +58,9 @@ public:
     bool isTriggerOffsetEnabled() const override;
     int getTriggerOffset() const override;
     int getTriggerOffsetBase() const override;
+    void setTriggerOffsetEnabled(bool enabled) override;
+    void setTriggerOffset(int frame) override;
+    void setSelectRange(int start, int end) override;
     bool hasRecordedData() const override;
     void eraseRecordedData(int mode) override;
 

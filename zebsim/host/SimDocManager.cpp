@@ -4,6 +4,7 @@
 #include "camera/Camera.h"
 #include "host/CameraBank.h"
 #include "host/Journal.h"
+#include "host/Preferences.h"
 #include "host/SimDocument.h"
 #include "host/StatusFlags.h"
 #include "host/UpdateCycle.h"
@@ -157,6 +158,10 @@ bool SimDocManager::isConflictPartition(int /*mode*/) const {
 
 bool SimDocManager::isPhaseAdjusting() const {
     return m_flags.isOn(QStringLiteral("IsPhaseAdjusting"));
+}
+
+bool SimDocManager::isRecordAreaEnabled() const {
+    return m_context.prefs.value(QStringLiteral("recording/area")).toBool();
 }
 
 void SimDocManager::selectDoc(DOCKEY key) {

@@ -71,6 +71,7 @@ public:
     bool isWaveDataAcquisition() const override;
     bool isConflictPartition(int mode) const override;
     bool isPhaseAdjusting() const override;
+    bool isRecordAreaEnabled() const override;
     QMutex* getDocMutex() override { return &m_mutex; }
     void beginDocEdit() override;
     void beginDocEditNotify() override;

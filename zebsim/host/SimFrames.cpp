@@ -51,6 +51,46 @@ void SimFrames::setRecordCheck(bool check) {
     m_camera.set(&CameraState::recordCheck, check);
 }
 
+bool SimFrames::isFrameSkipEnabled() const {
+    m_camera.query("isFrameSkipEnabled");
+    return m_camera.get(&CameraState::frameSkipEnabled);
+}
+
+void SimFrames::setFrameSkipEnabled(bool enabled) {
+    m_context.journal.record("DOC_Frames::setFrameSkipEnabled", {m_camera.key(), enabled});
+    m_camera.query("setFrameSkipEnabled");
+    m_camera.set(&CameraState::frameSkipEnabled, enabled);
+}
+
+void SimFrames::setFrameSkipMode(int mode) {
+    m_context.journal.record("DOC_Frames::setFrameSkipMode", {m_camera.key(), mode});
+    m_camera.query("setFrameSkipMode");
+    m_camera.set(&CameraState::frameSkipMode, mode);
+}
+
+int SimFrames::getFrameSkip() const {
+    m_camera.query("getFrameSkip");
+    return m_camera.get(&CameraState::frameSkip);
+}
+
+void SimFrames::setFrameSkip(int frames) {
+    m_context.journal.record("DOC_Frames::setFrameSkip", {m_camera.key(), frames});
+    m_camera.query("setFrameSkip");
+    m_camera.set(&CameraState::frameSkip, frames);
+}
+
+void SimFrames::setRecordAreaStart(int frame) {
+    m_context.journal.record("DOC_Frames::setRecordAreaStart", {m_camera.key(), frame});
+    m_camera.query("setRecordAreaStart");
+    m_camera.set(&CameraState::recordArea, {frame, m_camera.get(&CameraState::recordArea).y()});
+}
+
+void SimFrames::setRecordAreaEnd(int frame) {
+    m_context.journal.record("DOC_Frames::setRecordAreaEnd", {m_camera.key(), frame});
+    m_camera.query("setRecordAreaEnd");
+    m_camera.set(&CameraState::recordArea, {m_camera.get(&CameraState::recordArea).x(), frame});
+}
+
 Recording SimFrames::ask(const char* operation) const {
     m_camera.queryConnected(operation);
     return m_camera.recording().value_or(Recording());

@@ -20,6 +20,13 @@ public:
     bool isPlaying() const override;
     bool isRecordCheck() const override;
     void setRecordCheck(bool check) override;
+    bool isFrameSkipEnabled() const override;
+    void setFrameSkipEnabled(bool enabled) override;
+    void setFrameSkipMode(int mode) override;
+    int getFrameSkip() const override;
+    void setFrameSkip(int frames) override;
+    void setRecordAreaStart(int frame) override;
+    void setRecordAreaEnd(int frame) override;
 
 private:
     /// All zero when nothing is recorded.

@@ -29,9 +29,9 @@ SimHost::SimHost(Clock& clock, MessageDesk& desk, const QString& prefsPath)
       m_signalDevices(m_journal, clock, m_faults, m_shownErrors),
       m_syncSignal(m_cameras, m_signalDevices),
       m_docManager(*this, m_journal, m_cameras, m_prefs, m_appStatus, m_flags, m_translator, m_syncSignal, m_updates),
-      m_liveLoop(m_journal),
+      m_liveLoop(m_journal, m_cameras),
       m_player(m_journal),
-      m_recorder(m_cameras, m_flags),
+      m_recorder(m_journal, m_cameras, m_flags),
       m_saver(m_journal, m_flags, [this] { return m_appDesk ? m_appDesk->currentImage() : QImage(); }),
       m_cameraOps(m_journal, m_cameras, m_docManager, m_recorder, m_saver, m_prefs, m_flags, m_waitingMessages),
       m_viewOps(m_cameras, m_flags),
@@ -359,6 +359,19 @@ bool SimHost::isOtherPluginOpen() const {
 
 bool SimHost::isSelectionKept() const {
     return m_flags.isOn(QStringLiteral("IsSelectionKept"));
+}
+
+void SimHost::saveFiles() {
+    m_journal.record("ZebHost::saveFiles");
+}
+
+void SimHost::saveLayoutFiles() {
+    m_journal.record("ZebHost::saveLayoutFiles");
+}
+
+void SimHost::setTriggerTesting(bool on) {
+    m_journal.record("ZebHost::setTriggerTesting", {on});
+    m_flags.set(QStringLiteral("IsTriggerTesting"), on);
 }
 
 bool SimHost::getTriggerTesting() const {

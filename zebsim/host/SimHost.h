@@ -120,6 +120,8 @@ public:
     void execProgress(const QString& text, QFutureWatcherBase& watcher) override;
     void prepareSupportFile(ZebSupportFile& file) override;
     bool exportSupportFile(const QString& path, const ZebSupportFile& file) override;
+    void saveFiles() override;
+    void saveLayoutFiles() override;
     bool hasWrenWindow() const override;
     void hideSelectBox() override;
     bool isShownDropBox() const override;
@@ -151,6 +153,7 @@ public:
     bool isOtherPluginOpen() const override;
     bool isSelectionKept() const override;
     bool getTriggerTesting() const override;
+    void setTriggerTesting(bool on) override;
     bool isTracking() const override;
     bool isShading() const override;
     bool isAutoFocussing() const override;

@@ -1,5 +1,7 @@
 #include "host/SimLiveLoop.h"
 
+#include "camera/Camera.h"
+#include "host/CameraBank.h"
 #include "host/Journal.h"
 
 void SimLiveLoop::pauseLive(int mode) {
@@ -23,4 +25,15 @@ void SimLiveLoop::restartLiveAfterTool(int mode) {
 
 void SimLiveLoop::restartLiveAfterEnd(int mode) {
     m_journal.record("ZebLiveLoop::restartLiveAfterEnd", {mode});
+}
+
+void SimLiveLoop::setStopLive(bool stop, int mode) {
+    m_journal.record("ZebLiveLoop::setStopLive", {stop, mode});
+    for (Camera* camera : m_cameras.all()) {
+        camera->set(&CameraState::stopLive, stop);
+    }
+}
+
+void SimLiveLoop::updateLive() {
+    m_journal.record("ZebLiveLoop::updateLive");
 }

@@ -2,12 +2,13 @@
 
 #include "ZebLiveLoop.h"
 
+class CameraBank;
 class Journal;
 
 /// Whether the live images run.
 class SimLiveLoop : public ZebLiveLoop {
 public:
-    explicit SimLiveLoop(Journal& journal) : m_journal(journal) {}
+    SimLiveLoop(Journal& journal, CameraBank& cameras) : m_journal(journal), m_cameras(cameras) {}
 
     void pauseLive(int mode) override;
     void resumeLive() override;
@@ -15,8 +16,11 @@ public:
     void restartLive(int mode, int reload, int keepView) override;
     void restartLiveAfterTool(int mode) override;
     void restartLiveAfterEnd(int mode) override;
+    void setStopLive(bool stop, int mode) override;
+    void updateLive() override;
 
 private:
     Journal& m_journal;
+    CameraBank& m_cameras;
     int m_pauses = 0;
 };

@@ -2,6 +2,7 @@
 
 #include "camera/Camera.h"
 #include "host/CameraBank.h"
+#include "host/Journal.h"
 #include "host/StatusFlags.h"
 
 #include <algorithm>
@@ -32,4 +33,20 @@ int SimRecorder::getRecordingState() const {
         keys.append(camera->key());
     }
     return getRecStatus(keys);
+}
+
+void SimRecorder::startRecReady() {
+    m_journal.record("ZebRecorder::startRecReady");
+}
+
+void SimRecorder::triggerRecording() {
+    m_journal.record("ZebRecorder::triggerRecording");
+}
+
+void SimRecorder::stopRecording() {
+    m_journal.record("ZebRecorder::stopRecording");
+}
+
+void SimRecorder::cancelRecording(bool recording) {
+    m_journal.record("ZebRecorder::cancelRecording", {recording});
 }

@@ -30,3 +30,7 @@ void SimSaver::copyToClipboard(int what) {
         QGuiApplication::clipboard()->setImage(image);
     }
 }
+
+void SimSaver::snapShot(int mode) {
+    m_journal.record("ZebSaver::snapShot", {mode});
+}

@@ -19,6 +19,7 @@ public:
     bool isBgSaving() const override;
     bool isBgConverting() const override;
     void copyToClipboard(int what) override;
+    void snapShot(int mode) override;
 
 private:
     Journal& m_journal;

@@ -1099,5 +1099,21 @@
         <source>Remind of the wiring after a synchronisation</source>
         <translation>Remind of the wiring after a synchronisation</translation>
     </message>
+    <message>
+        <source>Lock all connected cameras.</source>
+        <translation>Lock all connected cameras.</translation>
+    </message>
+    <message>
+        <source>Problem with camera.</source>
+        <translation>Problem with camera.</translation>
+    </message>
+    <message>
+        <source>There are some cameras that are not synchronized shooting because the shooting speed of the device is faster than the sync frequency.</source>
+        <translation>There are some cameras that are not synchronized shooting because the shooting speed of the device is faster than the sync frequency.</translation>
+    </message>
+    <message>
+        <source>Do you want to save even though playback confirmation has not been completed?</source>
+        <translation>Do you want to save even though playback confirmation has not been completed?</translation>
+    </message>
 </context>
 </TS>

@@ -1099,5 +1099,21 @@
         <source>Remind of the wiring after a synchronisation</source>
         <translation>同期設定後に配線の確認を促す</translation>
     </message>
+    <message>
+        <source>Lock all connected cameras.</source>
+        <translation>接続中のすべてのカメラをロックしてください。</translation>
+    </message>
+    <message>
+        <source>Problem with camera.</source>
+        <translation>カメラに問題があります。</translation>
+    </message>
+    <message>
+        <source>There are some cameras that are not synchronized shooting because the shooting speed of the device is faster than the sync frequency.</source>
+        <translation>撮影速度が同期信号の周波数より速いため、同期撮影できないカメラがあります。</translation>
+    </message>
+    <message>
+        <source>Do you want to save even though playback confirmation has not been completed?</source>
+        <translation>再生確認が完了していませんが、保存しますか？</translation>
+    </message>
 </context>
 </TS>
