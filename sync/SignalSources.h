@@ -9,6 +9,9 @@ class ZebHost;
 class ZebSignalDevice;
 struct SyncState;
 
+/// The alert of a camera whose record rate is not the frequency of the signal; a key for translation.
+inline const QString SignalDiffersText = QStringLiteral("External sync signal and cameras recordrate are different");
+
 /// Where the common signal comes from: a signal generator, or the Sync Hub that makes it. GUI thread.
 ///
 /// A look at the generator costs a question to the instrument. All operations but the two that connect may throw what

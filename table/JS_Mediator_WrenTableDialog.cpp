@@ -6,12 +6,15 @@
 #include "DOC_Activity.h"
 #include "DOC_Interface.h"
 #include "DocKeys.h"
+#include "DocumentGuard.h"
 #include "GUI_ProgressDialog.h"
 #include "GUI_WrenTableDialog.h"
 #include "LogFailure.h"
+#include "MemoryEditing.h"
 #include "PLG_Interface.h"
 #include "ParameterEditing.h"
 #include "ReadyProgress.h"
+#include "RecordButton.h"
 #include "SyncSettings.h"
 #include "TableSession.h"
 #include "TraceScope.h"
@@ -20,6 +23,7 @@
 #include "ZebAppStatus.h"
 #include "ZebDocManager.h"
 #include "ZebHost.h"
+#include "ZebLiveLoop.h"
 #include "ZebSaver.h"
 #include "ZebSignalDevices.h"
 #include "records/RecordModel.h"
@@ -340,13 +344,68 @@ void JS_Mediator_WrenTableDialog::setSignalFrequency(int freq) {
            [&] { SignalSources(host(), m_state.sync).setFrequency(freq); });
 }
 
-/// There is no recording from the table yet.
-void JS_Mediator_WrenTableDialog::record() {}
+void JS_Mediator_WrenTableDialog::record() {
+    traced("record", {}, [this] {
+        try {
+            RecordButton(host(), m_state, tableDialog()).press([this] { return _setSyncSettings(); });
+        } catch (...) {
+            m_state.recordRunning = false;
+            throw;
+        }
+    });
+}
 
-/// There is no saving from the table yet.
-void JS_Mediator_WrenTableDialog::save() {}
+void JS_Mediator_WrenTableDialog::cancelRecord() {
+    operation("cancelRecord", {}, [this] { RecordButton(host(), m_state, tableDialog()).cancel(); });
+}
 
-void JS_Mediator_WrenTableDialog::saveLayout() {}
+void JS_Mediator_WrenTableDialog::setTriggerTesting(bool value) {
+    operation("setTriggerTesting", traceArg(QStringLiteral("value"), value), [&] { host().setTriggerTesting(value); });
+}
+
+void JS_Mediator_WrenTableDialog::stopLive(bool stop) {
+    operation("stopLive", traceArg(QStringLiteral("stop"), stop), [&] {
+        DocumentGuard guard(host(), false, false);
+        host().liveLoop().setStopLive(stop, 1);
+        guard.release();
+    });
+}
+
+void JS_Mediator_WrenTableDialog::updateLive() {
+    operation("updateLive", {}, [this] { host().liveLoop().updateLive(); });
+}
+
+void JS_Mediator_WrenTableDialog::snapShot(int mode) {
+    traced("snapShot", traceArg(QStringLiteral("mode"), mode), [&] { host().saver().snapShot(mode); });
+}
+
+void JS_Mediator_WrenTableDialog::setRecordCheck(const QVariantList& keys, bool check) {
+    edit("setRecordCheck", keys, "check", check,
+         [&](const DocKeyList& docKeys) { MemoryEditing(host()).setRecordCheck(docKeys, check); });
+}
+
+void JS_Mediator_WrenTableDialog::setSelectStartFrameNo(const QVariantList& keys, int frameNo) {
+    edit("setSelectStartFrameNo", keys, "frameNo", frameNo,
+         [&](const DocKeyList& docKeys) { MemoryEditing(host()).setSelectStartFrameNo(docKeys, frameNo); });
+}
+
+void JS_Mediator_WrenTableDialog::setSelectEndFrameNo(const QVariantList& keys, int frameNo) {
+    edit("setSelectEndFrameNo", keys, "frameNo", frameNo,
+         [&](const DocKeyList& docKeys) { MemoryEditing(host()).setSelectEndFrameNo(docKeys, frameNo); });
+}
+
+void JS_Mediator_WrenTableDialog::setTriggerOffset(const QVariantList& keys, int offset) {
+    edit("setTriggerOffset", keys, "offset", offset,
+         [&](const DocKeyList& docKeys) { MemoryEditing(host()).setTriggerOffset(docKeys, offset); });
+}
+
+void JS_Mediator_WrenTableDialog::save() {
+    operation("save", {}, [this] { MemoryEditing(host()).save(); });
+}
+
+void JS_Mediator_WrenTableDialog::saveLayout() {
+    operation("saveLayout", {}, [this] { MemoryEditing(host()).saveLayout(); });
+}
 
 bool JS_Mediator_WrenTableDialog::isRecordDuringExporting() {
     return bridgeCall(*this, false, [this] { return host().saver().isBgSaving(); });

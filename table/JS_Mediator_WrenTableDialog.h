@@ -87,8 +87,12 @@ public Q_SLOTS:
 
     // Recording and live.
     void record();
-    void save();
-    void saveLayout();
+    void cancelRecord();
+    void setTriggerTesting(bool value);
+    void stopLive(bool stop);
+    void updateLive();
+    /// 1 to a file, 2 to the clipboard, 3 both, 4 the settings of that.
+    void snapShot(int mode);
     bool isRecordDuringExporting();
     bool isOtherPluginOpen();
     bool getTriggerTesting();
@@ -100,6 +104,14 @@ public Q_SLOTS:
     void startAutoUpdate();
     void stopAutoUpdate();
     void slotSelectForUpdate();
+
+    // What is recorded. Frames are counted from each camera's trigger.
+    void setRecordCheck(const QVariantList& keys, bool check);
+    void setSelectStartFrameNo(const QVariantList& keys, int frameNo);
+    void setSelectEndFrameNo(const QVariantList& keys, int frameNo);
+    void setTriggerOffset(const QVariantList& keys, int offset);
+    void save();
+    void saveLayout();
 
 protected:
     void beginCall() override { m_timers.pause(); }

@@ -2,11 +2,11 @@
 
 #include "CameraManagement.h"
 #include "ConnectedDocs.h"
-#include "DOC_Frames.h"
 #include "DOC_Interface.h"
 #include "DOC_Lock.h"
 #include "DocKeys.h"
 #include "DocumentGuard.h"
+#include "MemoryEditing.h"
 #include "SignalSources.h"
 #include "TableState.h"
 #include "ZebDocManager.h"
@@ -16,20 +16,14 @@
 
 #include <algorithm>
 
-namespace {
-
-const QString RecAllPref = QStringLiteral("recording/RecAllConnectedCamera");
-
-}  // namespace
-
 void TableSession::open() {
     m_state.group = QLatin1String(UnreadGroup);
     clearLocks(false);
-    clearRecordChecks();
+    clearRecordChecks(m_host);
     if (!m_state.savedRecAllConnected) {
-        m_state.savedRecAllConnected = m_host.getPrefBool(RecAllPref);
+        m_state.savedRecAllConnected = m_host.getPrefBool(RecAllConnectedPref);
     }
-    m_host.setPrefBool(RecAllPref, true);
+    m_host.setPrefBool(RecAllConnectedPref, true);
 }
 
 DocList TableSession::connected() const {
@@ -71,11 +65,11 @@ void TableSession::close() {
     m_host.setPrefInt(QStringLiteral("wren/table/filter"), m_state.filter);
     m_host.setPrefString(QStringLiteral("wren/table/group"), m_state.group);
     if (m_state.savedRecAllConnected) {
-        m_host.setPrefBool(RecAllPref, *m_state.savedRecAllConnected);
+        m_host.setPrefBool(RecAllConnectedPref, *m_state.savedRecAllConnected);
         m_state.savedRecAllConnected.reset();
     }
     clearLocks(true);
-    clearRecordChecks();
+    clearRecordChecks(m_host);
 }
 
 void TableSession::clearLocks(bool recordingToo) {
@@ -86,14 +80,6 @@ void TableSession::clearLocks(bool recordingToo) {
         }
         if (recordingToo || !isArmed(*doc)) {
             doc->lock().setParamLock(false);
-        }
-    }
-}
-
-void TableSession::clearRecordChecks() {
-    for (const DOCKEY key : m_host.docManager().getDocKeys()) {
-        if (DOC_Interface* doc = m_host.docManager().getDocAny(key)) {
-            doc->frames().setRecordCheck(false);
         }
     }
 }

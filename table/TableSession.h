@@ -20,7 +20,6 @@ public:
 
 private:
     void clearLocks(bool recordingToo);
-    void clearRecordChecks();
     void connectSignalSources();
     DocList connected() const;
 

@@ -9,6 +9,9 @@
 
 #include <optional>
 
+/// All connected cameras record, whatever is selected. The table sets it while it is open.
+inline const QString RecAllConnectedPref = QStringLiteral("recording/RecAllConnectedCamera");
+
 /// What the table remembers between two calls of its page. Cameras are not part of it: they are asked each time.
 struct TableState {
     /// The document behind the batch row.

@@ -43,7 +43,7 @@ QString RecordBuilder::alertOf(DOC_Interface& doc) const {
     alerts += doc.getAlerts();
     alerts.removeDuplicates();
     if (m_signalGivesFrequency && !m_signal.agreesWith(doc)) {
-        alerts += m_host.translate(QStringLiteral("External sync signal and cameras recordrate are different"));
+        alerts += m_host.translate(SignalDiffersText);
     }
     return alerts.join(QLatin1Char('\n'));
 }

@@ -95,6 +95,7 @@ TEST(PageMenus, ASecondPressStartsNoSecondRecording) {
     TestHost test(Rig::standard(2));
     connectCameras(test, 1, 2);
     choose(test, {"1", "2"});
+    test.host.prefs().setValue("wren/display/lock", false);
     TablePage page(test);
     page.run("probe.callsBegin(); return 0");
     page.doubleClick("#timeline_rec_exec");

@@ -34,6 +34,21 @@ public:
     }
     void TestBody() override {}
 
+    /// Brings the host into the mode that the slot is for.
+    void prepare(const QMetaMethod& method) {
+        if (!isOfMemory(method)) {
+            return;
+        }
+        for (const Camera* camera : host.cameras().all()) {
+            change(camera->key(), {{"selected", true},
+                                   {"recorded", true},
+                                   {"recordedRange", QVariantList{0, 999}},
+                                   {"recordedTrigger", 500},
+                                   {"selectedRange", QVariantList{100, 900}}});
+        }
+        host.appStatus().enterMode(zeb::MemoryMode);
+    }
+
     static DocKeyList keys() { return {1, 2, 5, 6, 7, 3}; }
 
     /// All flags of the slot are `on`.
@@ -42,15 +57,19 @@ public:
         for (const DOCKEY key : FaultyCall::keys()) {
             keys.append(key);
         }
-        EXPECT_NO_THROW(callSlot(
-            *bridge, method,
-            {{QMetaType::QVariantList, keys}, {QMetaType::QString, argumentText(method)}, {QMetaType::Bool, on}}));
+        EXPECT_NO_THROW(callSlot(*bridge, method,
+                                 {{QMetaType::QVariantList, keys},
+                                  {QMetaType::QString, argumentText(method)},
+                                  {QMetaType::Bool, on},
+                                  {QMetaType::Int, on ? 50 : -50}}));
     }
 
     States states() {
         States states;
         for (const Camera* camera : host.cameras().all()) {
-            states.insert(camera->key(), camera->state().toPlain());
+            QVariantMap state = camera->state().toPlain();
+            state.remove("triggerOffsetEnabled");  // it and the offset are set one after the other
+            states.insert(camera->key(), state);
         }
         return states;
     }
@@ -69,6 +88,10 @@ public:
     std::unique_ptr<JS_Mediator_WrenTableDialog> bridge;
 
 private:
+    static bool isOfMemory(const QMetaMethod& method) {
+        return QList<QByteArray>{"setRecordCheck", "setSelectStartFrameNo", "setSelectEndFrameNo", "setTriggerOffset"}
+            .contains(method.name());
+    }
     static QString argumentText(const QMetaMethod& method) {
         const QByteArray name = method.name();
         return name == "setResolution" ? "512 x 512" : name == "setTriggerMode" ? "3" : "2000";
@@ -95,12 +118,14 @@ bool refuses(const FaultyCall& call) {
 /// One slot with one kind of fault at its n-th call, for n from 1 to the last; how many that were.
 int tryAllCalls(const QMetaMethod& method, bool on, Kind kind) {
     FaultyCall whole;
+    whole.prepare(method);
     const States before = whole.states();
     whole.call(method, on);
     const States after = whole.states();
     const bool logsOnly = method.name() == "confirmDisconnect";
     for (int n = 1;; ++n) {
         FaultyCall faulty;
+        faulty.prepare(method);
         faulty.host.faults().plantAt(n, Faults[kind]);
         faulty.call(method, on);
         if (faulty.host.faults().callCount() < n) {

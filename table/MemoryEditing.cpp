@@ -1,0 +1,103 @@
+#include "MemoryEditing.h"
+
+#include "ConnectedDocs.h"
+#include "DOC_Control.h"
+#include "DOC_Frames.h"
+#include "DOC_Interface.h"
+#include "ZebDocManager.h"
+#include "ZebHost.h"
+
+#include <algorithm>
+
+int clampedStart(long long asked, int first, int selectedEnd) {
+    return int(std::min<long long>(std::max<long long>(asked, first), selectedEnd));
+}
+
+int clampedEnd(long long asked, int selectedStart, int last) {
+    return int(std::min<long long>(std::max<long long>(asked, selectedStart), last));
+}
+
+void clearRecordChecks(ZebHost& host) {
+    for (const DOCKEY key : host.docManager().getDocKeys()) {
+        if (DOC_Interface* doc = host.docManager().getDocAny(key)) {
+            doc->frames().setRecordCheck(false);
+        }
+    }
+}
+
+void MemoryEditing::setRecordCheck(const DocKeyList& keys, bool check) {
+    if (!m_host.isMemoryMode()) {
+        return;
+    }
+    for (DOC_Interface* doc : connectedDocs(m_host.docManager(), keys)) {
+        if (doc->isSelected()) {
+            doc->frames().setRecordCheck(check);
+        }
+    }
+}
+
+void MemoryEditing::setRange(const DocKeyList& keys, const std::function<QPair<int, int>(DOC_Frames&)>& rangeOf) {
+    if (!m_host.isMemoryMode()) {
+        return;
+    }
+    for (DOC_Interface* doc : connectedDocs(m_host.docManager(), keys)) {
+        if (doc->frames().getFrameCount(0, 0) > 0) {
+            const QPair<int, int> range = rangeOf(doc->frames());
+            doc->control().setSelectRange(range.first, range.second);
+        }
+    }
+}
+
+void MemoryEditing::setSelectStartFrameNo(const DocKeyList& keys, int frameNo) {
+    setRange(keys, [frameNo](DOC_Frames& frames) {
+        const int end = frames.getSelectEndFrame(0);
+        const long long asked = static_cast<long long>(frameNo) + frames.getTriggerFrame(0);
+        return qMakePair(clampedStart(asked, frames.getFirstFrame(0, 0), end), end);
+    });
+}
+
+void MemoryEditing::setSelectEndFrameNo(const DocKeyList& keys, int frameNo) {
+    setRange(keys, [frameNo](DOC_Frames& frames) {
+        const int start = frames.getSelectStartFrame(0);
+        const long long asked = static_cast<long long>(frameNo) + frames.getTriggerFrame(0);
+        return qMakePair(start, clampedEnd(asked, start, frames.getLastFrame(0, 0)));
+    });
+}
+
+void MemoryEditing::setTriggerOffset(const DocKeyList& keys, int offset) {
+    if (!m_host.isMemoryMode()) {
+        return;
+    }
+    for (DOC_Interface* doc : connectedDocs(m_host.docManager(), keys)) {
+        DOC_Control& control = doc->control();
+        const int base = control.getTriggerOffsetBase();
+        const long long asked = static_cast<long long>(base) + offset;
+        const int last = doc->frames().getLastFrame(0, 0);
+        const int value = clampedStart(asked, doc->frames().getFirstFrame(0, 0), last);
+        control.setTriggerOffsetEnabled(value != base);
+        control.setTriggerOffset(value != base ? value : 0);
+    }
+}
+
+void MemoryEditing::save() {
+    if (m_host.isMemoryMode() && userTakesUnchecked()) {
+        m_host.saveFiles();
+    }
+}
+
+void MemoryEditing::saveLayout() {
+    if (m_host.isMemoryMode() && userTakesUnchecked()) {
+        m_host.saveLayoutFiles();
+    }
+}
+
+bool MemoryEditing::userTakesUnchecked() {
+    ZebDocManager& documents = m_host.docManager();
+    const DocList docs = connectedDocs(documents, documents.getConnectedDocKeys());
+    const bool complete = std::all_of(docs.begin(), docs.end(), [](DOC_Interface* doc) {
+        return doc->frames().getFrameCount(0, 0) == 0 || doc->frames().isRecordCheck();
+    });
+    return complete || (m_host.confirm(m_host.translate(QStringLiteral(
+                            "Do you want to save even though playback confirmation has not been completed?"))) &&
+                        m_host.isMemoryMode());
+}

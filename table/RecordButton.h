@@ -1,0 +1,39 @@
+#pragma once
+
+#include "ZebTypes.h"
+
+#include <functional>
+
+class QWidget;
+class ZebHost;
+struct TableState;
+
+/// The buttons of recording: arm all connected cameras, trigger, stop, cancel. GUI thread.
+///
+/// All may throw what host and documents throw, and run an event loop while they ask the user.
+class RecordButton {
+public:
+    /// `parent` of the questions; null is the host's main window.
+    RecordButton(ZebHost& host, TableState& state, QWidget* parent) : m_host(host), m_state(state), m_parent(parent) {}
+
+    /// By the state of the recording it arms, triggers or stops. Before it arms it looks whether every camera is locked
+    /// and fit and asks the user what to do with the problems. `synchronise` puts the selected cameras on the common
+    /// signal; false: they were not handed over, and nothing is armed.
+    void press(const std::function<bool()>& synchronise);
+    void cancel();
+
+private:
+    DocList connected() const;
+    /// Whether the cameras still wait for the button, after a question or the like.
+    bool canArm() const;
+    bool areCamerasLocked();
+    bool userTakesProblems();
+    QStringList problems() const;
+    bool prepareSignal(const std::function<bool()>& synchronise);
+    void setAreas();
+    void arm();
+
+    ZebHost& m_host;
+    TableState& m_state;
+    QWidget* const m_parent;
+};
