@@ -3,6 +3,7 @@
 option(WREN_BUILD_TESTS "Build the tests" ON)
 option(WREN_BUILD_BENCH "Build the benchmarks" OFF)
 option(WREN_SANITIZE "Build with the address and undefined behaviour sanitizers" OFF)
+option(WREN_SANITIZE_THREADS "Build with the thread sanitizer" OFF)
 
 set(CMAKE_CXX_STANDARD 17)
 set(CMAKE_CXX_STANDARD_REQUIRED ON)
@@ -16,7 +17,7 @@ set(CMAKE_AUTORCC ON)
 
 # Without -fno-gnu-unique a library with inline statics is never unloaded.
 add_compile_options(-Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Wno-unknown-pragmas
-                    -Werror -fno-gnu-unique)
+                    -Werror $<$<CXX_COMPILER_ID:GNU>:-fno-gnu-unique>)
 add_compile_definitions(QT_NO_KEYWORDS QT_NO_CAST_TO_ASCII QT_USE_QSTRINGBUILDER QT_DEPRECATED_WARNINGS)
 # An assert of Qt's containers must hold in every build that tests run on.
 add_compile_definitions($<$<NOT:$<CONFIG:Release>>:QT_FORCE_ASSERTS>)
@@ -25,6 +26,11 @@ if(WREN_SANITIZE)
     add_compile_options(-fsanitize=address,undefined,float-cast-overflow -fno-sanitize-recover=undefined
                         -fno-omit-frame-pointer -fno-sanitize=vptr)
     add_link_options(-fsanitize=address,undefined)
+endif()
+
+if(WREN_SANITIZE_THREADS)
+    add_compile_options(-fsanitize=thread)
+    add_link_options(-fsanitize=thread)
 endif()
 
 find_program(CCACHE_PROGRAM ccache)

@@ -11,6 +11,7 @@ packages=(
 )
 run_packages=(xvfb xauth openbox)
 lint_packages=(clang-format clang-tidy)
+thread_sanitizer_packages=(clang libclang-rt-14-dev)
 
 # install_missing PACKAGE...: as root or by sudo; otherwise names what is missing and fails.
 install_missing() {

@@ -1,9 +1,19 @@
+#include "DOC_Control.h"
+#include "DOC_Interface.h"
+#include "RUN_SyncingThread.h"
 #include "VIGenThread.h"
 #include "VisaFile.h"
 #include "VisaLibrary.h"
+#include "camera/Camera.h"
+#include "camera/Rig.h"
+#include "host/SimHost.h"
+#include "recording/SteppedClock.h"
+#include "support/ScriptedDesk.h"
 #include "vi.h"
 
+#include <QCoreApplication>
 #include <QProgressDialog>
+#include <QTemporaryDir>
 
 #include <gtest/gtest.h>
 
@@ -42,6 +52,35 @@ TEST(VIGenThreadTest, WorkThatThrowsHasFailed) {
     EXPECT_FALSE(resultOf(standard));
     VIGenThread other([]() -> bool { throw std::string("broken"); });
     EXPECT_FALSE(resultOf(other));
+}
+
+TEST(RUN_SyncingThreadTest, WorksWhileTheHostAnswersOthers) {
+    SteppedClock clock;
+    ScriptedDesk desk;
+    QTemporaryDir folder;
+    SimHost host(clock, desk, folder.filePath(QStringLiteral("prefs.ini")));
+    host.setRig(Rig::standard(8));
+    for (Camera* camera : host.cameras().all()) camera->set(&CameraState::connected, true);
+    host.faults().plant(5, "synchronise", {QStringLiteral("no lock on the signal"), 0, false});
+
+    int failed = 0;
+    for (int i = 0; i < 20; ++i) {
+        const DocList docs = host.docManager().getCameraDocs();
+        RUN_SyncingThread thread(&host, docs, docs.first(), {0, true, false, 0, 1000, 0});
+        QObject::connect(&thread, &RUN_SyncingThread::complete, &thread, [&failed](bool status) { failed += !status; });
+        thread.start();
+        while (!thread.isFinished()) {
+            for (DOC_Interface* doc : docs) {
+                doc->control().getSyncStatusText();
+                doc->control().getRecordRate(0);
+            }
+            host.journal().since(0);
+        }
+        thread.wait();
+        QCoreApplication::processEvents();
+    }
+    EXPECT_EQ(failed, 20);
+    EXPECT_EQ(host.docManager().getDoc(8, 1)->control().getSyncStatusText(), QStringLiteral("Sync In"));
 }
 
 }  // namespace
