@@ -4,6 +4,7 @@
 #include "JS_Mediator_WrenTableDialog.h"
 #include "PLG_wren.h"
 #include "TableFixture.h"
+#include "VisaFile.h"
 #include "camera/Rig.h"
 
 #include <QApplication>
@@ -174,6 +175,30 @@ TEST_F(SynchronisingTest, withoutADriverTheGeneratorIsNotOffered) {
     EXPECT_TRUE(bridge->setSyncSettings());
     EXPECT_EQ(handedOver(), QStringList{"ZebCameraOps::syncCameras [[1,2,3],1,0,true,false,0,-1,0]"});
     EXPECT_TRUE(desk.texts().filter("Could not connect").isEmpty());
+}
+
+TEST_F(SynchronisingTest, aListOfManyRecordsAsksTheGeneratorOnce) {
+    VisaFile visa;
+    host.setRig(Rig::standard(64));
+    connectAll();
+    change(9, {{"rate", 500}});
+    host.setPrefBool("sync/external", true);
+    host.setPrefString("sync/generator/address", "192.168.0.200");
+    const auto alerts = [this] {
+        const QString json = bridge->getRecords(R"({"group":"","filter":0,"tab":1})");
+        return json.count("External sync signal and cameras recordrate are different");
+    };
+    bridge->connectSignalGenerator();
+    bridge->setSignalFrequency(1000);
+    EXPECT_EQ(visa.journal().filter("FREQ 1000").size(), 1);
+    EXPECT_EQ(alerts(), 1);
+    EXPECT_EQ(visa.journal().filter("FREQ?").size(), 1);
+
+    visa.script(R"({"viScanf": {"never": true}})");
+    EXPECT_EQ(alerts(), 0) << "a generator that is lost gives no frequency to compare with";
+    EXPECT_EQ(settings("signalGeneratorAvailable"), "[true]");
+    EXPECT_EQ(settings("signalGeneratorConnected"), "[false]");
+    EXPECT_EQ(desk.texts(), QStringList());
 }
 
 TEST_F(SynchronisingTest, theDefaultSettingsOfferTheCamerasThatCanLead) {
