@@ -2,12 +2,11 @@
 
 #include "DOC_Control.h"
 #include "DOC_Interface.h"
+#include "SyncCamera.h"
 #include "SyncableDocs.h"
 #include "UTL_Exception.h"
 #include "ZebDocManager.h"
 #include "ZebHost.h"
-
-#include <algorithm>
 
 namespace {
 
@@ -28,13 +27,13 @@ bool suitsMixedExposure(int triggerMode) {
     }
 }
 
-bool isMixed(const QList<SyncFitness>& cameras) {
-    return std::any_of(cameras.begin(), cameras.end(),
-                       [&cameras](const SyncFitness& camera) { return camera.delayed != cameras.first().delayed; });
+/// An empty reason is none.
+void failFor(const QString& reason, const ZebHost& host) {
+    if (!reason.isEmpty()) throw UTL_Exception(host.translate(reason));
 }
 
 void failIf(bool unfit, const ZebHost& host, const QString& reason) {
-    if (unfit) throw UTL_Exception(host.translate(reason));
+    if (unfit) failFor(reason, host);
 }
 
 void checkDummies(ZebHost& host, const DocList& docs) {
@@ -42,15 +41,17 @@ void checkDummies(ZebHost& host, const DocList& docs) {
         failIf(doc->control().isDummy(), host, QStringLiteral("Dummy camera can not set synchronization"));
 }
 
-QList<SyncFitness> readFitness(const ZebHost& host, const DocList& docs) {
+/// One camera after the other: a later one that does not answer hides no reason of an earlier one.
+void checkFitness(const ZebHost& host, const DocList& docs) {
+    if (docs.isEmpty()) return;
     const QList<int> capable = host.getSyncCapableCameraTypes();
-    QList<SyncFitness> cameras;
+    const int triggerMode = docs.first()->control().getTriggerMode();
     for (DOC_Interface* doc : docs) {
         const DOC_Control& control = doc->control();
-        cameras.append({capable.contains(control.getCameraType()), control.getTriggerMode(), control.isLowLightMode(),
-                        control.getExposureDelayClass() != 0});
+        const bool supported = capable.contains(control.getCameraType());
+        failFor(syncObstacle({supported, control.getTriggerMode(), control.isLowLightMode()}, triggerMode), host);
     }
-    return cameras;
+    if (areMixed(SyncCamera::readAll(docs))) failFor(mixedExposureObstacle(triggerMode), host);
 }
 
 void checkExposureControl(ZebHost& host) {
@@ -67,27 +68,25 @@ void checkExposureControl(ZebHost& host) {
 
 }  // namespace
 
-QString syncObstacle(const QList<SyncFitness>& cameras) {
-    if (cameras.isEmpty()) return {};
-    const int triggerMode = cameras.first().triggerMode;
-    for (const SyncFitness& camera : cameras) {
-        if (!camera.supported) return QStringLiteral("The selected camera does not support sync setting");
-        if (camera.triggerMode != triggerMode)
-            return QStringLiteral("Sync setting is possible only when all cameras are in the same trigger mode.");
-        if (camera.lowLight)
-            return QStringLiteral("Synchronization setting is impossible due to the presence of low light camera.");
-    }
-    if (isMixed(cameras) && !suitsMixedExposure(triggerMode))
-        return QStringLiteral(
-            "Since the cameras with different exposure timings are mixed, the trigger mode of the start system can not "
-            "be used. Consider using manual mode.");
+QString syncObstacle(const SyncFitness& camera, int reference) {
+    if (!camera.supported) return QStringLiteral("The selected camera does not support sync setting");
+    if (camera.triggerMode != reference)
+        return QStringLiteral("Sync setting is possible only when all cameras are in the same trigger mode.");
+    if (camera.lowLight)
+        return QStringLiteral("Synchronization setting is impossible due to the presence of low light camera.");
     return {};
+}
+
+QString mixedExposureObstacle(int triggerMode) {
+    if (suitsMixedExposure(triggerMode)) return {};
+    return QStringLiteral(
+        "Since the cameras with different exposure timings are mixed, the trigger mode of the start system can not be "
+        "used. Consider using manual mode.");
 }
 
 void checkSyncCapability(ZebHost& host) {
     const DocList docs = host.docManager().getCameraDocs();
     checkDummies(host, docs);
-    const QString obstacle = syncObstacle(readFitness(host, withoutDummies(docs)));
-    failIf(!obstacle.isEmpty(), host, obstacle);
+    checkFitness(host, withoutDummies(docs));
     checkExposureControl(host);
 }

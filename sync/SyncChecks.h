@@ -12,12 +12,14 @@ struct SyncFitness {
     bool supported = true;
     int triggerMode = zeb::TriggerStart;
     bool lowLight = false;
-    bool delayed = false;
 };
 
-/// Why these cameras, in the table's order, can't share a signal; the first reason, a key for translation. Empty when
-/// they can.
-QString syncObstacle(const QList<SyncFitness>& cameras);
+/// Why a camera can't share a signal with one in the trigger mode `reference`; the first reason, a key for translation.
+/// Empty when it can.
+QString syncObstacle(const SyncFitness& camera, int reference);
+
+/// Why cameras of different exposure can't share a signal in this trigger mode, likewise.
+QString mixedExposureObstacle(int triggerMode);
 
 /// Throws a `UTL_Exception` with the first reason, in the user's language, why the cameras of the table can't share a
 /// signal. Nothing is changed. May also throw what host and documents throw.

@@ -167,28 +167,23 @@ TEST(SyncChoice, WhatKeepsCamerasFromSharingASignal) {
     const QString mixed =
         "Since the cameras with different exposure timings are mixed, the trigger mode of the start system can not be "
         "used. Consider using manual mode.";
-    const SyncFitness start{true, zeb::TriggerStart, false, false};
-    const SyncFitness manual{true, zeb::TriggerManual, false, false};
-    const SyncFitness dark{true, zeb::TriggerStart, true, false};
-    const SyncFitness delayedStart{true, zeb::TriggerStart, false, true};
-    const SyncFitness delayedManual{true, zeb::TriggerManual, false, true};
     struct Case {
         const char* sentence;
-        QList<SyncFitness> cameras;
+        SyncFitness camera;
         QString obstacle;
     };
-    const Case cases[] = {{"one camera alone is fit", {start}, {}},
-                          {"cameras in one mode are fit", {manual, manual}, {}},
-                          {"the type is looked at before low light", {{false, zeb::TriggerStart, true, false}}, type},
-                          {"the second camera's mode differs", {start, manual}, modes},
-                          {"a camera in low light", {start, dark}, lowLight},
-                          {"the first camera's low light comes before the second's mode", {dark, manual}, lowLight},
-                          {"mixed exposure and start", {start, delayedStart}, mixed},
-                          {"mixed exposure and manual", {manual, delayedManual}, {}},
-                          {"all with a delay and start", {delayedStart, delayedStart}, {}}};
-    for (const Case& each : cases) EXPECT_EQ(syncObstacle(each.cameras), each.obstacle) << each.sentence;
+    const Case cases[] = {
+        {"a camera in the mode of the others is fit", {true, zeb::TriggerManual, false}, {}},
+        {"another mode", {true, zeb::TriggerStart, false}, modes},
+        {"low light", {true, zeb::TriggerManual, true}, lowLight},
+        {"the type comes before the mode, the mode before low light", {false, zeb::TriggerStart, true}, type},
+        {"the mode comes before low light", {true, zeb::TriggerStart, true}, modes},
+    };
+    for (const Case& each : cases) {
+        EXPECT_EQ(syncObstacle(each.camera, zeb::TriggerManual), each.obstacle) << each.sentence;
+    }
     for (int mode = zeb::TriggerStart; mode <= zeb::TriggerNoneError; ++mode) {
         const bool suits = QList<int>{1, 2, 3, 4, 6, 7, 13, 14}.contains(mode);
-        EXPECT_EQ(syncObstacle({{true, mode, false, false}, {true, mode, false, true}}).isEmpty(), suits) << mode;
+        EXPECT_EQ(mixedExposureObstacle(mode), suits ? QString() : mixed) << mode;
     }
 }
