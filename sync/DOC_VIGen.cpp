@@ -113,7 +113,7 @@ bool DOC_VIGen::loadDriver() {
 
 void DOC_VIGen::unloadDriver() {
     if (!m_driverLoaded) return;
-    if (m_connected) disconnect();
+    disconnect();  // one that is lost has sessions too
     VisaLibrary::instance().unload();
     m_driverLoaded = false;
 }

@@ -3,6 +3,7 @@
 #include "DOC_Control.h"
 #include "DOC_Interface.h"
 #include "DOC_VIGen.h"
+#include "LogFailure.h"
 #include "SyncCamera.h"
 #include "SyncPreferences.h"
 #include "SyncState.h"
@@ -11,16 +12,30 @@
 #include "ZebSignalDevices.h"
 
 #include <QDebug>
+#include <QScopedValueRollback>
 
 #include <algorithm>
 
-void SignalSources::connectGenerator() {
+template <typename Work, typename CleanUp>
+void SignalSources::attempt(Work&& work, CleanUp&& cleanUp) {
     try {
-        openGenerator();
+        work();
+        return;
     } catch (const std::exception& e) {
-        m_host.errorHandler(e);
-        if (m_state.generator) m_state.generator->disconnect();
+        logFailure([&] { m_host.errorHandler(e); });
+    } catch (...) {
+        logCurrentFailure();
     }
+    logFailure(cleanUp);
+}
+
+void SignalSources::connectGenerator() {
+    if (m_state.connecting) return;  // the worker has the instrument
+    const QScopedValueRollback busy(m_state.connecting, true);
+    attempt([this] { openGenerator(); },
+            [this] {
+                if (m_state.generator) m_state.generator->disconnect();
+            });
 }
 
 void SignalSources::openGenerator() {
@@ -56,12 +71,7 @@ void SignalSources::dropGenerator() {
 }
 
 void SignalSources::connectHubs() {
-    try {
-        openHubs();
-    } catch (const std::exception& e) {
-        m_host.errorHandler(e);
-        m_host.signalDevices().close();
-    }
+    attempt([this] { openHubs(); }, [this] { m_host.signalDevices().close(); });
 }
 
 void SignalSources::openHubs() {
@@ -112,7 +122,6 @@ QList<ZebSignalDevice*> SignalSources::masterHubs() const {
 }
 
 SignalOffer SignalSources::readGenerator() const {
-    if (!syncprefs::isExternal(m_host) || !isGeneratorConnected()) return {};
     return SignalOffer::of(m_state.generator->getFrequency(), m_state.generator->getFrequencies());
 }
 

@@ -21,8 +21,8 @@ public:
     SignalSources(ZebHost& host, SyncState& state) : m_host(host), m_state(state) {}
 
     /// Connect the source that the preferences name and set it to the chosen frequency, if it offers that. They show
-    /// their own failures; the first runs an event loop while it waits for the instrument. Without an address the
-    /// generator goes.
+    /// their own failures; the first runs an event loop while it waits for the instrument, and does nothing when it is
+    /// called in there. Without an address the generator goes.
     void connectGenerator();
     void connectHubs();
 
@@ -32,7 +32,9 @@ public:
     bool isGeneratorConnected() const;
     /// Whether one of the hubs that the preferences name is, in use or not.
     bool isHubConnected() const;
+    /// The generator must be connected.
     SignalOffer readGenerator() const;
+    /// Of the first hub that makes the signal; nothing without one.
     SignalOffer readHub() const;
 
     /// Whether the cameras' rates have a frequency to agree with. One look answers for all cameras.
@@ -41,6 +43,9 @@ public:
     bool agreesWith(DOC_Interface& doc) const;
 
 private:
+    /// Shows a failure of `work`, and cleans up behind the box.
+    template <typename Work, typename CleanUp>
+    void attempt(Work&& work, CleanUp&& cleanUp);
     void openGenerator();
     void openHubs();
     void dropGenerator();

@@ -89,7 +89,11 @@ SyncSettings::Outcome SyncSettings::synchronise() {
     checkSyncCapability(m_host);
     ZebDocManager& documents = m_host.docManager();
     DocList docs = withoutDummies(documents.getCameraDocs());
-    if (docs.isEmpty() || !m_host.cameraOps().canSync(docs)) return Outcome::NotStarted;
+    if (docs.isEmpty()) return Outcome::NotStarted;
+    if (!m_host.cameraOps().canSync(docs)) {
+        qWarning() << "Cameras can't be synchronised:" << keysOf(docs);
+        return Outcome::NotStarted;
+    }
 
     const DocKeyList keys = keysOf(docs);
     step("connectSignalGenerator", {}, [this] { m_sources.connectGenerator(); });
@@ -129,7 +133,9 @@ DocList SyncSettings::sorted(const DocList& docs, DOC_Interface& master, bool ex
     const QList<SyncCamera> cameras = sortForSync(SyncCamera::readAll(docs), external, address, triggerMode);
     logOrder(cameras);
     DocList inOrder;
-    for (const SyncCamera& camera : cameras) inOrder.append(m_host.docManager().getDocAny(camera.key));
+    for (const SyncCamera& camera : cameras) {
+        if (DOC_Interface* doc = m_host.docManager().getDocAny(camera.key)) inOrder.append(doc);
+    }
     return inOrder;
 }
 

@@ -15,6 +15,8 @@ struct SyncState {
     QStringList offered;
     /// Null also when there is no driver for it or no address.
     std::unique_ptr<DOC_SignalGenerator> generator;
+    /// It is being connected.
+    bool connecting = false;
     /// The master camera of the last synchronisation.
     DOCKEY masterCamera = zeb::NoDocKey;
 };

@@ -14,6 +14,7 @@ void VIGenThread::run() {
              << "VIGenThread";
     logFailure([this] { m_result = m_work(); });
     Q_EMIT finished();
+    quit();
     qDebug() << "[END]"
              << "VIGenThread";
 }

@@ -62,6 +62,7 @@ bool open(const QString& resource) {
 void close() {
     VisaLibrary& visa = VisaLibrary::instance();
     const auto closeOne = [&visa](std::uint32_t& object, const QString& viCall) {
+        if (object == 0) return;
         if (!isDone(call(visa.calls().close, std::exchange(object, 0)))) warn(QStringLiteral("vi::close"), viCall);
     };
     closeOne(visa.session, QStringLiteral("viClose (1)"));

@@ -344,6 +344,13 @@ void JS_Mediator_WrenTableDialog::setSignalFrequency(int freq) {
            [&] { SignalSources(host(), m_state.sync).setFrequency(freq); });
 }
 
+bool JS_Mediator_WrenTableDialog::checkDifferenceRecordRateAndExternalFrequency(DOC_Interface* doc) {
+    return bridgeCall(*this, true, [&] {
+        const SignalSources signal(host(), m_state.sync);
+        return doc == nullptr || !signal.givesFrequency() || signal.agreesWith(*doc);
+    });
+}
+
 void JS_Mediator_WrenTableDialog::record() {
     traced("record", {}, [this] {
         try {

@@ -84,6 +84,8 @@ public Q_SLOTS:
     void connectSignalGenerator();
     void connectSignalDistributors();
     void setSignalFrequency(int freq);
+    /// False when the common signal has a frequency and it is not the record rate of `doc`.
+    bool checkDifferenceRecordRateAndExternalFrequency(DOC_Interface* doc);
 
     // Recording and live.
     void record();

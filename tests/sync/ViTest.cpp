@@ -97,7 +97,7 @@ TEST_F(ViTest, EachFailureHasItsText) {
 TEST_F(ViTest, WithoutALibraryEveryCallFails) {
     VisaLibrary::instance().unload();
     EXPECT_EQ(courseOf(openAndNote).last(), "not open");
-    EXPECT_THAT(courseOf(vi::close), testing::SizeIs(2));
+    EXPECT_EQ(courseOf(vi::close), QStringList()) << "there is nothing to close";
     EXPECT_THROW(vi::clear(), std::runtime_error);
     EXPECT_THROW(vi::sendCommandString(QStringLiteral("*RST\n")), std::runtime_error);
     EXPECT_THROW(vi::recvString(), std::runtime_error);

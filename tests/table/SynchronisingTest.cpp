@@ -12,6 +12,7 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QPointer>
+#include <QRegularExpression>
 #include <QSemaphore>
 #include <QTest>
 #include <QTimer>
@@ -129,6 +130,32 @@ TEST_F(SynchronisingTest, whatFailsBeforeTheCamerasAreReachedChangesNothing) {
     EXPECT_EQ(handedOver(), QStringList());
 }
 
+TEST_F(SynchronisingTest, aCameraThatDoesNotAnswerHidesNoReasonOfAnEarlierOne) {
+    change(1, {{"lowLight", true}});
+    host.faults().plant(2, "getTriggerMode", {"no answer", 0, false});
+    EXPECT_FALSE(bridge->setSyncSettings());
+    EXPECT_EQ(desk.texts(),
+              QStringList{"Synchronization setting is impossible due to the presence of low light camera."});
+}
+
+TEST_F(SynchronisingTest, camerasThatAreNotSynchronisedAreArmedAllTheSame) {
+    host.setPrefBool("wren/settings/recordingSync", true);
+    host.setPrefBool("wren/display/lock", false);
+    host.faults().plant(2, "synchronise", {"no lock on the signal", 0, false});
+    bridge->record();
+    EXPECT_EQ(
+        calls().filter(QRegularExpression("syncCameras|selectAllDocs|startRecReady")),
+        (QStringList{"ZebDocManager::selectAllDocs []", "ZebCameraOps::syncCameras [[1,2,3],1,0,false,false,0,-1,0]",
+                     "ZebRecorder::startRecReady []"}));
+    EXPECT_TRUE(QTest::qWaitFor([this] { return !desk.shown.isEmpty(); }));
+    EXPECT_TRUE(desk.texts().first().contains("Camera 2"));
+
+    host.recorder().cancelRecording(false);
+    change(3, {{"lowLight", true}});
+    bridge->record();
+    EXPECT_EQ(calls().filter("startRecReady"), QStringList()) << "what is told before they are handed over stops it";
+}
+
 TEST_F(SynchronisingTest, aCameraThatFailsIsToldByTheHostAndTheTableGoesOn) {
     host.faults().plant(2, "synchronise", {"no lock on the signal", 0, false});
     EXPECT_TRUE(bridge->setSyncSettings()) << "the cameras were handed over";
@@ -193,11 +220,35 @@ TEST_F(SynchronisingTest, aListOfManyRecordsAsksTheGeneratorOnce) {
     EXPECT_EQ(visa.journal().filter("FREQ 1000").size(), 1);
     EXPECT_EQ(alerts(), 1);
     EXPECT_EQ(visa.journal().filter("FREQ?").size(), 1);
+    EXPECT_FALSE(bridge->checkDifferenceRecordRateAndExternalFrequency(host.docManager().getDocAny(9)));
+    EXPECT_TRUE(bridge->checkDifferenceRecordRateAndExternalFrequency(host.docManager().getDocAny(8)));
+    visa.journal();
+    EXPECT_EQ(settings("signalGeneratorConnected"), "[true]");
+    EXPECT_EQ(visa.journal().filter("FREQ?").size(), 2) << "whether it answers, and what it makes";
 
     visa.script(R"({"viScanf": {"never": true}})");
     EXPECT_EQ(alerts(), 0) << "a generator that is lost gives no frequency to compare with";
     EXPECT_EQ(settings("signalGeneratorAvailable"), "[true]");
     EXPECT_EQ(settings("signalGeneratorConnected"), "[false]");
+    EXPECT_EQ(desk.texts(), QStringList());
+}
+
+TEST_F(SynchronisingTest, theTableComingBackWhileAGeneratorIsSoughtConnectsNothingTwice) {
+    VisaFile visa;
+    host.setPrefBool("sync/external", true);
+    host.setPrefString("sync/generator/address", "192.168.0.200");
+    visa.script(R"({"viOpen": {"hold": true}})");
+    QTimer::singleShot(0, bridge.get(), [&] {
+        ASSERT_TRUE(QTest::qWaitFor([&] { return !visa.journal().filter("viOpen ").isEmpty(); }));
+        bridge->onOpen();
+        host.setPrefString("sync/generator/address", {});
+        bridge->onOpen();
+        EXPECT_EQ(visa.journal(), QStringList()) << "the worker has the instrument";
+        visa.release();
+    });
+    bridge->connectSignalGenerator();
+    host.setPrefString("sync/generator/address", "192.168.0.200");
+    EXPECT_EQ(settings("signalGeneratorConnected"), "[true]");
     EXPECT_EQ(desk.texts(), QStringList());
 }
 
