@@ -32,7 +32,8 @@ DefaultSettings DefaultSettings::read(const ZebHost& host) {
         settings.syncFrequency = host.getPrefInt(settingsPref("externalSyncSignal"));
         settings.syncSignals = readList(host.getPrefString(settingsPref("externalSyncSignals")));
     }
-    log("sync signal", settings.syncSignals);
+    log("syncSignal", settings.syncFrequency.value_or(0));
+    log("syncSignals", settings.syncSignals);
     settings.allowed.frameRates = readList(listText(host, "frameRates"));
     log("framerate", settings.allowed.frameRates);
     settings.allowed.shutterSpeeds = readList(listText(host, "shutterSpeeds"));

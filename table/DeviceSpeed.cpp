@@ -4,6 +4,7 @@
 #include "DOC_Frames.h"
 #include "DOC_Interface.h"
 #include "MasterChoice.h"
+#include "SyncPreferences.h"
 #include "SyncState.h"
 #include "SyncableDocs.h"
 #include "ZebDocManager.h"
@@ -12,7 +13,7 @@
 namespace {
 
 int referenceFrequency(ZebHost& host, const SyncState& sync) {
-    if (host.getPrefBool(QStringLiteral("sync/external"))) {
+    if (syncprefs::isExternal(host)) {
         return sync.frequency;
     }
     DOC_Interface* master = chooseMaster(host, withoutDummies(host.docManager().getCameraDocs()));

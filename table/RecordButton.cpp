@@ -9,6 +9,7 @@
 #include "MemoryEditing.h"
 #include "RecordProblems.h"
 #include "SignalSources.h"
+#include "SyncPreferences.h"
 #include "SyncSettings.h"
 #include "TableState.h"
 #include "UTL_Messages.h"
@@ -100,7 +101,7 @@ bool RecordButton::userTakesProblems() {
 }
 
 bool RecordButton::prepareSignal(const std::function<bool()>& synchronise) {
-    if (!m_host.getPrefBool(QStringLiteral("wren/settings/syncInEnable"))) {
+    if (!syncprefs::isInUse(m_host)) {
         return true;
     }
     if (m_host.getPrefBool(QStringLiteral("wren/settings/recordingSync"))) {

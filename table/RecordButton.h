@@ -17,8 +17,8 @@ public:
     RecordButton(ZebHost& host, TableState& state, QWidget* parent) : m_host(host), m_state(state), m_parent(parent) {}
 
     /// By the state of the recording it arms, triggers or stops. Before it arms it looks whether every camera is locked
-    /// and fit and asks the user what to do with the problems. `synchronise` puts the selected cameras on the common
-    /// signal; false: they were not handed over, and nothing is armed.
+    /// and fit and asks the user what to do with the problems. `synchronise` puts the cameras on the common signal;
+    /// false: they were not handed over, and nothing is armed.
     void press(const std::function<bool()>& synchronise);
     void cancel();
 

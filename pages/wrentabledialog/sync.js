@@ -43,9 +43,11 @@ function offerFrequencies(frequencies) {
     if (String(offered) === String(frequencies)) {
         return;
     }
+    const shown = !selector.hidden;
     showElement(selector, false);
     selector.getBoundingClientRect();
     selector.textContent = '';
+    showElement(selector, shown);
     frequencies.forEach(frequency => {
         const option = document.createElement('option');
         option.value = frequency;
