@@ -12,7 +12,7 @@ TEST(CameraOperations, NameEveryOperationThatCanFail) {
     static const QRegularExpression begin(
         QStringLiteral(R"re(\b(?:query|queryConnected|command|commandConnected|ask\w*)\("(\w+)")re"));
     QSet<QString> inSources;
-    for (const char* room : {"camera", "host", "recording"}) {
+    for (const char* room : {"camera", "host", "recording", "saving"}) {
         QDirIterator files(QStringLiteral(SOURCE_FOLDER "/zebsim/") + room, {"*.cpp"}, QDir::Files);
         while (files.hasNext()) {
             QFile file(files.next());

@@ -78,6 +78,7 @@ const QSet<QString>& cameraOperations() {
                                  "isStopLive",
                                  "isSuspendReduce",
                                  "isTriggerOffsetEnabled",
+                                 "readFrame",
                                  "refresh",
                                  "setCameraName",
                                  "setComment",

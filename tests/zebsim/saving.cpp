@@ -1,0 +1,283 @@
+#include "image/FramePicture.h"
+#include "saving/SaveJob.h"
+#include "saving/SaveNames.h"
+#include "support/TestHost.h"
+
+#include <QDir>
+#include <QFile>
+#include <QImageReader>
+#include <QProcess>
+#include <QStandardPaths>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+constexpr QSize Size{64, 48};
+
+/// Three cameras, the second without a recording; two frames are to be kept of the first and three of the third.
+class Saving : public testing::Test {
+protected:
+    Saving() {
+        prepare(1, "Gate", 99, 100);
+        prepare(3, "Nozzle/2", 100, 102);
+        host.camera(2).change({{"connected", true}});
+    }
+
+    void prepare(DOCKEY key, const QString& name, int first, int last) {
+        host.camera(key).change({{"name", name}, {"connected", true}, {"recorded", true}, {"recordedRate", 1000}});
+        host.camera(key).change({{"resolution", QVariantList{Size.width(), Size.height()}}, {"recordedTrigger", 100}});
+        host.camera(key).change(
+            {{"recordedRange", QVariantList{0, 499}}, {"selectedRange", QVariantList{first, last}}});
+    }
+    SaveOrders orders(const char* format = "png") {
+        const auto ask = [this](const QString& file) {
+            asked << QFileInfo(file).fileName();
+            return answer;
+        };
+        return {path(""), saveFormat(format), tracksOfEach(saveSources(host.host.cameras())), ask};
+    }
+    /// What became of each track, as "Gate: 2 of 2 up to 0, saved".
+    QStringList run(const SaveOrders& wanted, const std::function<void(SaveJob&)>& atEachTurn = {}) {
+        static const QStringList ends = {"saved", "lost", "failed", "skipped", "cancelled"};
+        SaveJob job(host.host.cameras(), wanted);
+        QObject::connect(&job, &SaveJob::progressed, [&] {
+            if (atEachTurn) atEachTurn(job);
+        });
+        EXPECT_FALSE(job.start());
+        while (job.isRunning()) QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+        QStringList texts;
+        for (const SaveOutcome& outcome : job.outcomes()) {
+            texts << QStringLiteral("%1: %2 of %3 up to %4, %5")
+                         .arg(outcome.name)
+                         .arg(outcome.saved)
+                         .arg(outcome.frames)
+                         .arg(outcome.lastNumber)
+                         .arg(ends.at(outcome.end));
+            failedFile = outcome.file.isEmpty() ? failedFile : QFileInfo(outcome.file).fileName();
+        }
+        return texts;
+    }
+    QString path(const QString& name) const { return QDir(folder.path()).filePath(name); }
+    QStringList files() const { return QDir(folder.path()).entryList(QDir::Files | QDir::Hidden, QDir::Name); }
+    void writeOld(const QString& name) const {
+        QFile file(path(name));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write("old") == 3);
+    }
+    bool isOld(const QString& name) const {
+        QFile file(path(name));
+        return file.open(QIODevice::ReadOnly) && file.readAll() == "old";
+    }
+
+    TestHost host{Rig::standard(3)};
+    QTemporaryDir folder;
+    Overwrite answer = Overwrite::This;
+    QStringList asked;
+    QString failedFile;
+};
+
+const QStringList AllFiles = {"Gate_-00001.png", "Gate_00000.png", "Nozzle_2_00000.png", "Nozzle_2_00001.png",
+                              "Nozzle_2_00002.png"};
+const QString NozzleSaved = "Nozzle/2: 3 of 3 up to 2, saved";
+
+TEST_F(Saving, WritesTheChosenFramesAndNoOthers) {
+    for (const char* format : {"png", "tiff", "jpeg"}) {
+        EXPECT_EQ(run(orders(format)), QStringList({"Gate: 2 of 2 up to 0, saved", NozzleSaved})) << format;
+        QStringList expected = AllFiles;
+        expected.replaceInStrings("png", saveFormat(format).suffix);
+        EXPECT_EQ(files(), expected);
+        for (const QString& file : files()) {
+            const QImage read = QImageReader(path(file)).read().convertToFormat(QImage::Format_RGB32);
+            const int number = file.section('_', -1).section('.', 0, 0).toInt();
+            const QString camera = file.startsWith('G') ? "Gate" : "Nozzle/2";
+            const QImage drawn = drawFrame({camera, Size, number, number * 1000}, Size);
+            EXPECT_EQ(read.size(), Size) << file.toStdString();
+            EXPECT_TRUE(read == drawn || qstrcmp(format, "jpeg") == 0) << file.toStdString();
+            QFile::remove(path(file));
+        }
+    }
+    EXPECT_EQ(asked, QStringList());
+}
+
+TEST_F(Saving, NamesFilesSoThatEverySystemTakesThem) {
+    EXPECT_EQ(fileNameOf("a/b\\c:d*e?f\"g<h>i|j\nk"), "a_b_c_d_e_f_g_h_i_j_k");
+    EXPECT_EQ(fileNameOf(" ../.. "), "_..");
+    EXPECT_EQ(fileNameOf(" . "), "camera");
+    EXPECT_EQ(fileNameOf(QString(100, QChar(0x9AD8))).toUtf8().size(), 198);
+    EXPECT_EQ(distinctFileNames({"Gate", "gate", "Gate-2", "Gate"}),
+              QStringList({"Gate", "gate-2", "Gate-2-2", "Gate-3"}));
+    EXPECT_EQ(frameNumberText(-512), "-00512");
+    EXPECT_EQ(frameNumberText(1234567), "1234567");
+}
+
+TEST_F(Saving, AsksBeforeItOverwrites) {
+    const struct {
+        Overwrite answer;
+        QStringList outcomes, asked, old;
+    } cases[] = {
+        {Overwrite::This, {"Gate: 2 of 2 up to 0, saved", NozzleSaved}, {AllFiles[1], AllFiles[2]}, {}},
+        {Overwrite::All, {"Gate: 2 of 2 up to 0, saved", NozzleSaved}, {AllFiles[1]}, {}},
+        {Overwrite::SkipCamera,
+         {"Gate: 1 of 2 up to -1, skipped", "Nozzle/2: 0 of 3 up to 0, skipped"},
+         {AllFiles[1], AllFiles[2]},
+         {AllFiles[1], AllFiles[2]}},
+        {Overwrite::Cancel,
+         {"Gate: 1 of 2 up to -1, cancelled", "Nozzle/2: 0 of 3 up to 0, cancelled"},
+         {AllFiles[1]},
+         {AllFiles[1], AllFiles[2]}},
+    };
+    for (const auto& one : cases) {
+        writeOld(AllFiles[1]);
+        writeOld(AllFiles[2]);
+        answer = one.answer;
+        asked.clear();
+        EXPECT_EQ(run(orders()), one.outcomes);
+        EXPECT_EQ(asked, one.asked);
+        for (const QString& name : {AllFiles[1], AllFiles[2]}) EXPECT_EQ(isOld(name), one.old.contains(name));
+        for (const QString& name : files()) QFile::remove(path(name));
+    }
+}
+
+TEST_F(Saving, RefusesBeforeTheFirstByte) {
+    qint64 room = 0;
+    const auto refusal = [&](const SaveOrders& wanted) {
+        return SaveJob(host.host.cameras(), wanted, [&](const QString& /*folder*/) { return room; }).start();
+    };
+    const qint64 needed = refusal(orders())->needed;
+    EXPECT_GT(needed, 5 * 200) << "five small pictures";
+    room = needed - 1;
+    EXPECT_EQ(refusal(orders())->available, needed - 1);
+    room = needed;
+    EXPECT_FALSE(refusal(orders()));
+    writeOld("file");
+    SaveOrders nowhere = orders();
+    nowhere.folder = path("file/below");
+    EXPECT_EQ(refusal(nowhere)->needed, -1);
+    EXPECT_EQ(files(), QStringList("file"));
+}
+
+TEST_F(Saving, GoesOnAfterAFileThatCannotBeWritten) {
+    ASSERT_TRUE(QDir().mkpath(path("Gate_00000.png/x")));
+    EXPECT_EQ(run(orders()), QStringList({"Gate: 1 of 2 up to -1, failed", NozzleSaved}));
+    EXPECT_EQ(failedFile, "Gate_00000.png");
+    EXPECT_EQ(files().size(), 4);
+}
+
+TEST_F(Saving, LosesACameraAtAnyFrameAndNoOther) {
+    prepare(2, "Ramp", 99, 101);
+    const QStringList ramp = {"Ramp: 0 of 3 up to 0, lost", "Ramp: 1 of 3 up to -1, lost",
+                              "Ramp: 2 of 3 up to 0, lost"};
+    for (int frame = 0; frame < 3; ++frame) {
+        for (const Fault& fault : {Fault{"it is too hot", 0, false}, Fault{{}, 0, true}}) {
+            host.host.faults().plantAt(3 + frame, fault);
+            EXPECT_EQ(run(orders()), QStringList({"Gate: 2 of 2 up to 0, saved", ramp[frame], NozzleSaved}));
+            EXPECT_EQ(files().size(), 5 + frame);
+            host.host.faults().clear();
+            for (const QString& name : files()) QFile::remove(path(name));
+        }
+    }
+    // The memory is filled anew, or the cameras are others now.
+    const auto afterOne = [](const std::function<void()>& work) {
+        return [work](SaveJob& job) {
+            if (job.outcomes().isEmpty() && job.frame() == 1) work();
+        };
+    };
+    EXPECT_EQ(run(orders(), afterOne([&] {
+                      host.camera(1).set(&CameraState::recordedRange, {0, 50});
+                  }))
+                  .first(),
+              "Gate: 1 of 2 up to -1, lost");
+    host.camera(1).set(&CameraState::recordedRange, {0, 499});
+    EXPECT_EQ(
+        run(orders(), afterOne([&] { host.host.setRig(Rig::standard(3)); })),
+        QStringList({"Gate: 1 of 2 up to -1, lost", "Ramp: 0 of 3 up to 0, lost", "Nozzle/2: 0 of 3 up to 0, lost"}));
+}
+
+TEST_F(Saving, IsCancelledBetweenFrames) {
+    EXPECT_EQ(run(orders(), [](SaveJob& job) { job.cancel(); }),
+              QStringList({"Gate: 1 of 2 up to -1, cancelled", "Nozzle/2: 0 of 3 up to 0, cancelled"}));
+    EXPECT_EQ(files(), QStringList("Gate_-00001.png"));
+}
+
+TEST_F(Saving, LaysTheCamerasSideBySide) {
+    SaveOrders layout = orders();
+    layout.tracks = tracksOfLayout(saveSources(host.host.cameras()), "Layout");
+    host.host.faults().plant(1, "readFrame", {"it is too hot", 0, false});
+    EXPECT_EQ(run(layout), QStringList({"Gate: 0 of 2 up to -1, lost", "Layout: 3 of 3 up to 2, saved"}));
+    EXPECT_EQ(files(), QStringList({"Layout_00000.png", "Layout_00001.png", "Layout_00002.png"}));
+    const QImage last(path("Layout_00002.png"));
+    ASSERT_EQ(last.size(), QSize(960, 360));
+    const QImage right = last.copy(480, 0, 480, 360).convertToFormat(QImage::Format_RGB32);
+    EXPECT_EQ(right, drawFrame({"Nozzle/2", Size, 2, 2000}, {480, 360}));
+    EXPECT_EQ(last.pixel(240, 180), QColor(24, 26, 30).rgb()) << "nothing is shown of the lost one";
+}
+
+/// A program that answers as ffmpeg does, and whose videos are the bare frames.
+constexpr auto Encoder =
+    "#!/bin/sh\n"
+    "if [ \"$2\" = -encoders ]; then echo ' V....D mpeg4                MPEG-4'; exit; fi\n"
+    "for last; do :; done\n"
+    "cat >\"${last#file:}\"\n";
+
+class SavingVideo : public Saving {
+protected:
+    SavingVideo() { program(Encoder); }
+
+    void program(const QByteArray& script) {
+        QFile file(programs.filePath("encoder"));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write(script) == script.size());
+        file.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    }
+    SaveOrders video() {
+        SaveOrders wanted = orders("video");
+        wanted.encoder = {programs.filePath("encoder"), "mpeg4"};
+        return wanted;
+    }
+    qint64 framesIn(const QString& name) const {
+        return QFileInfo(path(name)).size() / (4 * Size.width() * Size.height());
+    }
+
+    QTemporaryDir programs;
+};
+
+TEST_F(SavingVideo, MakesOneFileACamera) {
+    EXPECT_EQ(VideoEncoder::of(video().encoder.program).encoder, "mpeg4");
+    EXPECT_FALSE(VideoEncoder::of(path("none")).isUsable());
+    host.host.faults().plantAt(5, {"it is too hot", 0, false});
+    EXPECT_EQ(run(video()), QStringList({"Gate: 2 of 2 up to 0, saved", "Nozzle/2: 2 of 3 up to 1, lost"}));
+    EXPECT_EQ(files(), QStringList({"Gate.mp4", "Nozzle_2.mp4"}));
+    EXPECT_EQ(framesIn("Gate.mp4"), 2);
+    EXPECT_EQ(framesIn("Nozzle_2.mp4"), 2) << "what there was before the camera was lost";
+    EXPECT_TRUE(QFile::permissions(path("Gate.mp4")) & QFile::ReadOther);
+}
+
+TEST_F(SavingVideo, LeavesNoHalfFile) {
+    writeOld("Gate.mp4");
+    const QString nothing = "Nozzle/2: 0 of 3 up to 0, cancelled";
+    EXPECT_EQ(run(video(), [](SaveJob& job) { job.cancel(); }),
+              QStringList({"Gate: 0 of 2 up to -1, cancelled", nothing}));
+    {
+        SaveJob job(host.host.cameras(), video());
+        EXPECT_FALSE(job.start());
+        while (job.frame() == 0) QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    }
+    program("#!/bin/sh\necho 'no such encoder' >&2; exit 1\n");
+    EXPECT_EQ(run(video()), QStringList({"Gate: 0 of 2 up to 0, failed", "Nozzle/2: 0 of 3 up to 2, failed"}));
+    EXPECT_EQ(files(), QStringList("Gate.mp4"));
+    EXPECT_TRUE(isOld("Gate.mp4"));
+}
+
+TEST_F(SavingVideo, HoldsAllFramesForAnotherReader) {
+    const QString reader = QStandardPaths::findExecutable("ffprobe");
+    if (reader.isEmpty() || !VideoEncoder::installed().isUsable()) GTEST_SKIP() << "ffmpeg is not installed";
+    SaveOrders wanted = video();
+    wanted.encoder = VideoEncoder::installed();
+    run(wanted);
+    QProcess process;
+    process.start(reader, {"-v", "error", "-count_frames", "-show_entries", "stream=nb_read_frames,width,height", "-of",
+                           "csv=p=0", path("Nozzle_2.mp4")});
+    ASSERT_TRUE(process.waitForFinished());
+    EXPECT_EQ(process.readAllStandardOutput().trimmed(), "64,48,3");
+}
+
+}  // namespace

@@ -1,0 +1,34 @@
+#include "saving/PictureSink.h"
+
+#include "saving/FileClaims.h"
+#include "saving/FileError.h"
+
+#include <QSaveFile>
+
+PictureSink::PictureSink(FileClaims& claims, SaveFormat format, QString stem)
+    : m_claims(claims), m_format(std::move(format)), m_stem(std::move(stem)) {}
+
+bool PictureSink::write(const QImage& picture, const QString& number) {
+    const QString file = m_stem % QLatin1Char('_') % number % QLatin1Char('.') % m_format.suffix;
+    if (!m_claims.claim(file)) {
+        return false;
+    }
+    try {
+        replaceFile(file, m_format.encoded(picture));
+    } catch (...) {
+        m_claims.release();
+        throw;
+    }
+    m_claims.keep();
+    return true;
+}
+
+void replaceFile(const QString& file, const QByteArray& bytes) {
+    if (bytes.isEmpty()) {
+        throw FileError(file, QStringLiteral("the picture has no such form"));
+    }
+    QSaveFile target(file);
+    if (!target.open(QIODevice::WriteOnly) || target.write(bytes) != bytes.size() || !target.commit()) {
+        throw FileError(file, target.errorString());
+    }
+}

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "saving/FrameSink.h"
+#include "saving/SaveFormat.h"
+
+class FileClaims;
+
+/// Writes each frame as a picture of its own.
+class PictureSink : public FrameSink {
+public:
+    /// The files are called `stem`, '_' and the frame's number. `claims` must outlive the sink.
+    PictureSink(FileClaims& claims, SaveFormat format, QString stem);
+
+    bool write(const QImage& picture, const QString& number) override;
+
+private:
+    FileClaims& m_claims;
+    const SaveFormat m_format;
+    const QString m_stem;
+};
+
+/// Puts `bytes` in the place of `file` all at once. Throws `FileError`.
+void replaceFile(const QString& file, const QByteArray& bytes);

@@ -1,0 +1,43 @@
+#include "saving/SaveNames.h"
+
+#include <QRegularExpression>
+#include <QSet>
+
+namespace {
+
+constexpr int Digits = 5;
+/// Bytes that a name may take: those that file systems give, less the longest ending.
+constexpr int MostBytes = 200;
+
+}  // namespace
+
+QString fileNameOf(const QString& name) {
+    static const QRegularExpression forbidden(QStringLiteral(R"re([\x{00}-\x{1f}\x{7f}/\\:*?"<>|])re"));
+    // Dots in front hide a file, and blanks at the ends are not seen.
+    static const QRegularExpression ends(QStringLiteral("^[.\\s]+|\\s+$"));
+    QString clean = QString(name).replace(forbidden, QStringLiteral("_")).remove(ends);
+    while (clean.toUtf8().size() > MostBytes) {
+        clean.chop(clean.at(clean.size() - 1).isLowSurrogate() ? 2 : 1);
+    }
+    return clean.isEmpty() ? QStringLiteral("camera") : clean;
+}
+
+QStringList distinctFileNames(const QStringList& names) {
+    QSet<QString> taken;
+    QStringList distinct;
+    for (const QString& name : names) {
+        const QString plain = fileNameOf(name);
+        QString wanted = plain;
+        for (int number = 2; taken.contains(wanted.toCaseFolded()); ++number) {
+            wanted = plain % QStringLiteral("-%1").arg(number);
+        }
+        taken.insert(wanted.toCaseFolded());
+        distinct.append(wanted);
+    }
+    return distinct;
+}
+
+QString frameNumberText(qint64 number) {
+    const QString digits = QString::number(qAbs(number)).rightJustified(Digits, QLatin1Char('0'));
+    return number < 0 ? QString(QLatin1Char('-') % digits) : digits;
+}

@@ -1,0 +1,84 @@
+#include "saving/SaveTrack.h"
+
+#include "image/FramePicture.h"
+#include "saving/SaveNames.h"
+
+#include <QPainter>
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+constexpr QSize LargestTile{480, 360};
+constexpr int LargestWidth = 3840;
+constexpr QColor Ground(24, 26, 30);
+
+int columnsOf(std::size_t count) {
+    return int(std::ceil(std::sqrt(double(count))));
+}
+
+QSize tileOf(std::size_t count) {
+    return fitInto({std::min(LargestTile.width(), LargestWidth / columnsOf(count)), LargestTile.height()}, LargestTile);
+}
+
+}  // namespace
+
+int SaveTrack::frames() const {
+    const auto longest = std::max_element(sources.begin(), sources.end(),
+                                          [](const auto& one, const auto& two) { return one.frames() < two.frames(); });
+    return longest->frames();
+}
+
+qint64 SaveTrack::number(int index) const {
+    return isLayout ? index : sources.front().frame(index).number;
+}
+
+QSize SaveTrack::size() const {
+    if (!isLayout) {
+        return sources.front().resolution();
+    }
+    const int columns = columnsOf(sources.size());
+    const int rows = (int(sources.size()) + columns - 1) / columns;
+    const QSize tile = tileOf(sources.size());
+    return {tile.width() * columns, tile.height() * rows};
+}
+
+QImage SaveTrack::picture(int index, const QSet<DOCKEY>& lost) const {
+    if (!isLayout) {
+        return drawFrame(sources.front().frame(index), sources.front().resolution());
+    }
+    QImage picture(size(), QImage::Format_RGB32);
+    picture.fill(Ground);
+    QPainter painter(&picture);
+    const QSize tile = tileOf(sources.size());
+    const int columns = columnsOf(sources.size());
+    for (int place = 0; place < int(sources.size()); ++place) {
+        const SaveSource& source = sources[std::size_t(place)];
+        if (lost.contains(source.key())) {
+            continue;
+        }
+        const QSize fitting = fitInto(tile, source.resolution());
+        const QPoint corner(tile.width() * (place % columns), tile.height() * (place / columns));
+        const QPoint border((tile.width() - fitting.width()) / 2, (tile.height() - fitting.height()) / 2);
+        painter.drawImage(corner + border, drawFrame(source.frame(std::min(index, source.frames() - 1)), fitting));
+    }
+    return picture;
+}
+
+std::vector<SaveTrack> tracksOfEach(const SaveSources& sources) {
+    QStringList names;
+    for (const SaveSource& source : sources) {
+        names.append(source.name());
+    }
+    const QStringList fileNames = distinctFileNames(names);
+    std::vector<SaveTrack> tracks;
+    for (std::size_t i = 0; i < sources.size(); ++i) {
+        tracks.push_back({names.at(int(i)), fileNames.at(int(i)), false, {sources[i]}});
+    }
+    return tracks;
+}
+
+std::vector<SaveTrack> tracksOfLayout(const SaveSources& sources, const QString& name) {
+    return sources.empty() ? std::vector<SaveTrack>() : std::vector<SaveTrack>{{name, fileNameOf(name), true, sources}};
+}

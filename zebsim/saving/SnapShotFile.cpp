@@ -1,0 +1,23 @@
+#include "saving/SnapShotFile.h"
+
+#include "saving/FileClaims.h"
+#include "saving/FileError.h"
+#include "saving/PictureSink.h"
+#include "saving/SaveNames.h"
+
+#include <QDir>
+
+void writeSnapShot(const QString& folder, const QString& camera, const QDateTime& time, const SaveFormat& format,
+                   const QImage& image) {
+    const QDir target(folder);
+    if (!target.mkpath(QStringLiteral("."))) {
+        throw FileError(folder, QStringLiteral("there can't be such a folder"));
+    }
+    FileClaims claims([](const QString& /*file*/) { return Overwrite::SkipCamera; });
+    const QString name = fileNameOf(camera) % time.toString(QStringLiteral("'_'yyyyMMdd-HHmmss"));
+    PictureSink sink(claims, format, target.filePath(name));
+    int number = 1;
+    while (!sink.write(image, QStringLiteral("%1").arg(number, 3, 10, QLatin1Char('0')))) {
+        ++number;
+    }
+}

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "saving/FrameSink.h"
+#include "saving/VideoEncoder.h"
+
+#include <QProcess>
+#include <QTemporaryFile>
+
+class FileClaims;
+
+/// Makes one video of all frames. It grows beside its place under another name.
+class VideoSink : public FrameSink {
+public:
+    /// `file` is claimed with the first frame. `claims` must outlive the sink.
+    VideoSink(FileClaims& claims, VideoEncoder encoder, QString file);
+    ~VideoSink() override;
+
+    bool write(const QImage& picture, const QString& number) override;
+    bool isBusy() override;
+    void close() override;
+    void complete() override;
+
+private:
+    bool begin(const QSize& size);
+    [[noreturn]] void fail();
+
+    FileClaims& m_claims;
+    const VideoEncoder m_encoder;
+    const QString m_file;
+    QTemporaryFile m_growing;
+    QProcess m_process;
+    qint64 m_frameSize = 0;
+    bool m_begun = false;
+    bool m_closed = false;
+};
