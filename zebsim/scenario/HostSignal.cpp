@@ -3,8 +3,7 @@
 #include "EventWait.h"
 #include "PLG_Interface.h"
 #include "ScenarioError.h"
-
-#include <QMetaMethod>
+#include "host/PluginSignal.h"
 
 #include <atomic>
 #include <memory>
@@ -13,16 +12,9 @@
 void raiseHostSignal(PLG_Interface& plugin, const QString& name, const QString& argument,
                      const std::function<bool()>& givenUp) {
     const QByteArray plain = name.toLatin1();
-    const QMetaObject& meta = *plugin.metaObject();
-    const auto isSignal = [&](const QByteArray& signature) {
-        const int index = meta.indexOfMethod(signature);
-        return index >= 0 && meta.method(index).methodType() == QMetaMethod::Signal;
-    };
-    if (isSignal(plain + "()")) {
-        QMetaObject::invokeMethod(&plugin, plain, Qt::DirectConnection);
-        return;
-    }
-    if (!isSignal(plain + "(QString)")) throw ScenarioError(QStringLiteral("the plug-in has no signal %1").arg(name));
+    if (raisePluginSignal(plugin, plain)) return;
+    if (!hasPluginSignal(plugin, plain + "(QString)"))
+        throw ScenarioError(QStringLiteral("the plug-in has no signal %1").arg(name));
     // Shared with the thread, which may outlive this call.
     const auto served = std::make_shared<std::atomic<bool>>(false);
     std::thread raiser([served, plain, argument, plugin = &plugin] {
