@@ -13,10 +13,10 @@ TableFixture::TableFixture() {
     for (Camera* camera : host.cameras().all()) {
         camera->change({{QStringLiteral("recorded"), false},
                         {QStringLiteral("recordCheck"), false},
-                        {QStringLiteral("recordedRange"), QVariantList{0, 0}},
+                        {QStringLiteral("recordedRange"), QVariantList{0, -1}},
                         {QStringLiteral("recordedRate"), 0},
                         {QStringLiteral("recordedTrigger"), 0},
-                        {QStringLiteral("selectedRange"), QVariantList{0, 0}},
+                        {QStringLiteral("selectedRange"), QVariantList{0, -1}},
                         {QStringLiteral("triggerOffset"), 0},
                         {QStringLiteral("triggerOffsetEnabled"), false},
                         {QStringLiteral("effectivePlugins"), QStringList()}});

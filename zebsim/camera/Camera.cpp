@@ -2,6 +2,7 @@
 
 #include "camera/CameraError.h"
 #include "camera/FaultPlan.h"
+#include "camera/RecordSettings.h"
 #include "camera/ShownErrors.h"
 #include "camera/SyncSource.h"
 #include "recording/Clock.h"
@@ -12,8 +13,25 @@
 namespace {
 
 const QString notConnected = QStringLiteral("the camera is not connected");
+/// Status of a camera that failed; it has no name.
+constexpr int FailedStatus = 128;
 
+int statusOf(int recordState, bool recordsBefore) {
+    switch (recordState) {
+        case zeb::RecordLive:
+            return zeb::CameraLive;
+        case zeb::RecordCtsReady:
+            return zeb::CameraRecReady;
+        case zeb::RecordReady:
+            return recordsBefore ? zeb::CameraEndlessReady : zeb::CameraTriggerReady;
+        case zeb::RecordRecording:
+            return zeb::CameraRecording;
+        default:
+            return FailedStatus;
+    }
 }
+
+}  // namespace
 
 Camera::Camera(DOCKEY key, CameraDevice& device, CameraState state)
     : m_key(key), m_device(device), m_state(std::move(state)) {}
@@ -35,8 +53,20 @@ std::optional<Recording> Camera::recording() const {
     return Recording::of(state(), model());
 }
 
+std::optional<Recording> Camera::recordingOf(PARTITIONNUMBER partition) const {
+    CameraState asked = state();
+    if (partition != asked.partition) {
+        const std::lock_guard lock(m_device.mutex());
+        static_cast<PartitionMemory&>(asked) = m_otherPartitions.value(partition);
+    }
+    return Recording::of(asked, model());
+}
+
 void Camera::change(const QVariantMap& members) {
+    CameraState checked = state();
+    checked.apply(members);
     const std::lock_guard lock(m_device.mutex());
+    changePartition(checked.partition);
     m_state.apply(members);
 }
 
@@ -90,7 +120,10 @@ void Camera::disconnect() {
     if (!command("disconnectDocs")) {
         return;
     }
-    onAllHeads(&CameraState::connected, false);
+    for (const auto& head : m_device.heads()) {
+        head->set(&CameraState::connected, false);
+        head->enterRecordState(zeb::RecordLive);
+    }
 }
 
 void Camera::refuse(const QString& reason) const {
@@ -163,7 +196,7 @@ void Camera::setTriggerMode(int mode, const zeb::TriggerSettings& settings) {
     for (const auto& head : m_device.heads()) {
         const double asked = settings.manualBeforePercent;
         const double before = std::isfinite(asked) ? std::clamp(asked, 0.0, 100.0) : 0.0;
-        const unsigned int capacity = model().frameCapacity(head->get(&CameraState::resolution));
+        const unsigned int capacity = model().frameCapacity(head->state());
         head->set(&CameraState::triggerMode, mode);
         head->set(&CameraState::triggerFrame, int(capacity * (100.0 - before) / 100.0));
         head->set(&CameraState::randomFrames, settings.randomFrames);
@@ -241,7 +274,20 @@ void Camera::setPartition(PARTITIONNUMBER partition) {
     if (partition < 1 || partition > get(&CameraState::partitions)) {
         throw CameraError(name(), QStringLiteral("there is no partition %1").arg(partition));
     }
-    set(&CameraState::partition, partition);
+    const int recordState = get(&CameraState::recordState);
+    if (recordState != zeb::RecordLive && recordState != zeb::RecordError) {
+        refuse(QStringLiteral("the partition can't be changed while the camera is ready or records"));
+    }
+    const std::lock_guard lock(m_device.mutex());
+    changePartition(partition);
+}
+
+void Camera::changePartition(PARTITIONNUMBER partition) {
+    if (partition != m_state.partition) {
+        m_otherPartitions.insert(m_state.partition, m_state);
+        static_cast<PartitionMemory&>(m_state) = m_otherPartitions.take(partition);
+        m_state.partition = partition;
+    }
 }
 
 void Camera::setVariable(unsigned int channel) {
@@ -254,12 +300,54 @@ void Camera::setVariable(unsigned int channel) {
     set(&CameraState::variable, channel);
 }
 
-void Camera::disarm() {
-    if (!commandConnected("disarm")) {
-        return;
+void Camera::arm() {
+    if (commandConnected("arm")) {
+        enterRecordState(model().ctsReady > 0 ? zeb::RecordCtsReady : zeb::RecordReady);
     }
-    set(&CameraState::recordState, 0);
-    set(&CameraState::status, int(zeb::CameraLive));
+}
+
+void Camera::trigger() {
+    if (commandConnected("trigger")) {
+        keep(std::nullopt);
+        enterRecordState(zeb::RecordRecording);
+    }
+}
+
+void Camera::stop() {
+    commandConnected("stop");
+}
+
+void Camera::cancel() {
+    if (commandConnected("cancel")) {
+        enterRecordState(zeb::RecordLive);
+    }
+}
+
+void Camera::disarm() {
+    if (commandConnected("disarm")) {
+        enterRecordState(zeb::RecordLive);
+    }
+}
+
+void Camera::enterRecordState(int recordState) {
+    const bool recordsBefore = RecordSettings::of(state(), model()).framesBefore() > 0;
+    const std::lock_guard lock(m_device.mutex());
+    m_state.recordState = recordState;
+    m_state.status = statusOf(recordState, recordsBefore);
+}
+
+void Camera::keep(const std::optional<Recording>& recording) {
+    PartitionMemory kept;
+    if (recording) {
+        kept.recorded = true;
+        kept.recordedRate = recording->rate;
+        kept.recordedResolution = recording->resolution;
+        kept.recordedRange = {recording->first, recording->last};
+        kept.recordedTrigger = recording->trigger;
+        kept.selectedRange = {recording->selectedFirst, recording->selectedLast};
+    }
+    const std::lock_guard lock(m_device.mutex());
+    static_cast<PartitionMemory&>(m_state) = kept;
 }
 
 template <typename T>

@@ -4,8 +4,11 @@
 #include "camera/CameraState.h"
 #include "camera/Recording.h"
 
+#include <QHash>
+
 #include <memory>
 #include <mutex>
+#include <type_traits>
 #include <utility>
 
 class CameraDevice;
@@ -26,14 +29,17 @@ public:
     bool isGone() const;
 
     /// One member of the state, as `get(&CameraState::rate)`.
-    template <typename T>
-    T get(T CameraState::*member) const;
-    template <typename T>
-    void set(T CameraState::*member, T value);
+    template <typename T, typename Owner>
+    T get(T Owner::*member) const;
+    template <typename T, typename Owner>
+    void set(T Owner::*member, std::common_type_t<T> value);
     CameraState state() const;
     /// Nothing when nothing is recorded.
     std::optional<Recording> recording() const;
-    /// Changes the state behind the camera's back: no latency, no limits, no other heads. Throws `StateError`.
+    /// Of another partition than the present one too.
+    std::optional<Recording> recordingOf(PARTITIONNUMBER partition) const;
+    /// Changes the state behind the camera's back: no latency, no limits, no other heads. A change of the partition
+    /// comes before that of what is in it. Throws `StateError`.
     void change(const QVariantMap& members);
 
     /// Every question of a document to its camera begins with one of these; they take the time that a planted fault
@@ -64,8 +70,19 @@ public:
     /// Throws also for a partition or channel that the camera does not have.
     void setPartition(PARTITIONNUMBER partition);
     void setVariable(unsigned int channel);
+    /// The camera gets ready for a trigger, by way of CTS where its model has that.
+    void arm();
+    /// It records: what was in the partition is lost.
+    void trigger();
+    void stop();
+    /// Back to live, whatever it was about.
+    void cancel();
     /// A camera that waits for a trigger goes back to live.
     void disarm();
+
+    /// What the camera does by itself: it goes into a `zeb::RecordStatus`, and keeps what it has recorded.
+    void enterRecordState(int recordState);
+    void keep(const std::optional<Recording>& recording);
 
 private:
     [[noreturn]] void refuse(const QString& reason) const;
@@ -76,24 +93,28 @@ private:
     bool commandConnected(const char* operation);
     /// Why the operation fails; empty when it does not, and for a camera that is gone.
     QString meetFault(const char* operation) const;
+    /// The mutex is held.
+    void changePartition(PARTITIONNUMBER partition);
     template <typename T>
     void onAllHeads(T CameraState::*member, T value);
 
     const DOCKEY m_key;
     CameraDevice& m_device;
     CameraState m_state;
+    /// What the partitions hold that are not the present one.
+    QHash<PARTITIONNUMBER, PartitionMemory> m_otherPartitions;
 };
 
 #include "camera/CameraDevice.h"
 
-template <typename T>
-T Camera::get(T CameraState::*member) const {
+template <typename T, typename Owner>
+T Camera::get(T Owner::*member) const {
     const std::lock_guard lock(m_device.mutex());
     return m_state.*member;
 }
 
-template <typename T>
-void Camera::set(T CameraState::*member, T value) {
+template <typename T, typename Owner>
+void Camera::set(T Owner::*member, std::common_type_t<T> value) {
     const std::lock_guard lock(m_device.mutex());
     m_state.*member = std::move(value);
 }

@@ -52,8 +52,9 @@ void CameraModel::check(const CameraState& state) const {
     }
 }
 
-unsigned int CameraModel::frameCapacity(const QSize& resolution) const {
-    const qint64 frameBytes = qint64(resolution.width()) * resolution.height();
+unsigned int CameraModel::frameCapacity(const CameraState& state) const {
+    const qint64 frameBytes = qint64(state.resolution.width()) * state.resolution.height();
+    const qint64 bytes = (qint64(memory) << 20) / std::max(1U, state.partitions);
     const qint64 most = std::numeric_limits<int>::max();
-    return frameBytes > 0 ? static_cast<unsigned int>(std::min(most, (qint64(memory) << 20) / frameBytes)) : 0;
+    return frameBytes > 0 ? static_cast<unsigned int>(std::min(most, bytes / frameBytes)) : 0;
 }

@@ -43,6 +43,8 @@ struct CameraModel {
     QStringList lowLightRefuses;
     /// Bits of a pixel that the camera fills.
     int bitDepth = 8;
+    /// How long the camera waits for CTS before it is ready, in milliseconds; 0 when it does not.
+    int ctsReady = 0;
     /// Size of the memory in MiB; a pixel takes one byte.
     int memory = 0;
     /// What a camera of this model starts with.
@@ -57,6 +59,6 @@ struct CameraModel {
     /// Throws `StateError` for a setting that is in none of the lists, and for a source of the signal that there is
     /// not.
     void check(const CameraState& state) const;
-    /// Frames that fit into the memory.
-    unsigned int frameCapacity(const QSize& resolution) const;
+    /// Frames that fit into a partition of the memory.
+    unsigned int frameCapacity(const CameraState& state) const;
 };

@@ -4,6 +4,8 @@ const QSet<QString>& cameraOperations() {
     static const QSet<QString> names = [] {
         QSet<QString> all;
         for (const char* name : {"applyPartition",
+                                 "arm",
+                                 "cancel",
                                  "connectDocs",
                                  "disarm",
                                  "disconnectDocs",
@@ -78,6 +80,7 @@ const QSet<QString>& cameraOperations() {
                                  "isStopLive",
                                  "isSuspendReduce",
                                  "isTriggerOffsetEnabled",
+                                 "record",
                                  "readFrame",
                                  "refresh",
                                  "setCameraName",
@@ -103,7 +106,9 @@ const QSet<QString>& cameraOperations() {
                                  "setTriggerOffset",
                                  "setTriggerOffsetEnabled",
                                  "setVariable",
-                                 "synchronise"}) {
+                                 "stop",
+                                 "synchronise",
+                                 "trigger"}) {
             all.insert(QString::fromLatin1(name));
         }
         return all;

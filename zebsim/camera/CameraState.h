@@ -9,9 +9,36 @@
 #include <QStringList>
 #include <QVariantMap>
 
+/// What is in a partition of a camera's memory.
+struct PartitionMemory {
+    Q_GADGET
+    Q_PROPERTY(bool recorded MEMBER recorded)
+    Q_PROPERTY(uint recordedRate MEMBER recordedRate)
+    Q_PROPERTY(QSize recordedResolution MEMBER recordedResolution)
+    Q_PROPERTY(QPoint recordedRange MEMBER recordedRange)
+    Q_PROPERTY(int recordedTrigger MEMBER recordedTrigger)
+    Q_PROPERTY(QPoint selectedRange MEMBER selectedRange)
+    Q_PROPERTY(bool triggerOffsetEnabled MEMBER triggerOffsetEnabled)
+    Q_PROPERTY(int triggerOffset MEMBER triggerOffset)
+    Q_PROPERTY(bool recordCheck MEMBER recordCheck)
+public:
+    bool recorded = false;
+    /// Frames a second, pixels, first and last frame, frame of the trigger, first and last frame to keep. A rate of 0
+    /// and no pixels: as the camera is set; a range that ends before it begins: all frames.
+    unsigned int recordedRate = 0;
+    QSize recordedResolution{0, 0};
+    QPoint recordedRange{0, -1};
+    int recordedTrigger = 0;
+    QPoint selectedRange{0, -1};
+    /// A zero point for playing instead of the trigger's frame.
+    bool triggerOffsetEnabled = false;
+    int triggerOffset = 0;
+    bool recordCheck = false;
+};
+
 /// Everything about a camera or head that can change. The property names are the members of a head in a rig file and of
 /// the scenario's `zeb.camera`.
-struct CameraState {
+struct CameraState : PartitionMemory {
     Q_GADGET
     Q_PROPERTY(QString name MEMBER name)
     Q_PROPERTY(QString comment MEMBER comment)
@@ -60,14 +87,6 @@ struct CameraState {
     Q_PROPERTY(uint variable MEMBER variable)
     Q_PROPERTY(QStringList variableChannels MEMBER variableChannels)
     Q_PROPERTY(bool playing MEMBER playing)
-    Q_PROPERTY(bool recorded MEMBER recorded)
-    Q_PROPERTY(uint recordedRate MEMBER recordedRate)
-    Q_PROPERTY(QPoint recordedRange MEMBER recordedRange)
-    Q_PROPERTY(int recordedTrigger MEMBER recordedTrigger)
-    Q_PROPERTY(QPoint selectedRange MEMBER selectedRange)
-    Q_PROPERTY(bool triggerOffsetEnabled MEMBER triggerOffsetEnabled)
-    Q_PROPERTY(int triggerOffset MEMBER triggerOffset)
-    Q_PROPERTY(bool recordCheck MEMBER recordCheck)
     Q_PROPERTY(bool frameSkipEnabled MEMBER frameSkipEnabled)
     Q_PROPERTY(int frameSkipMode MEMBER frameSkipMode)
     Q_PROPERTY(int frameSkip MEMBER frameSkip)
@@ -95,7 +114,7 @@ public:
     bool cfast = false;
     bool lutCurve = false;
     bool locked = false;
-    /// 0 none, 1 CTS ready, 2 ready, 3 recording.
+    /// A `zeb::RecordStatus`.
     int recordState = 0;
     /// A `zeb::CameraStatus`.
     int status = zeb::CameraLive;
@@ -143,24 +162,14 @@ public:
     /// Texts of the channels of variable settings, an empty one can't be chosen; the one in use, from 1, 0 for none.
     QStringList variableChannels;
     unsigned int variable = 0;
-    bool recorded = false;
-    /// It is being played.
+    /// What is recorded is being played.
     bool playing = false;
-    bool recordCheck = false;
     /// Of playing in step with a faster signal: so many of its frames show one of the camera's.
     bool frameSkipEnabled = false;
     int frameSkipMode = 0;
     int frameSkip = 1;
     /// First and last frame that a recording keeps, counted from the trigger; both 0: all.
     QPoint recordArea;
-    /// Of what is recorded: frames a second, first and last frame, frame of the trigger, first and last frame to keep.
-    unsigned int recordedRate = 0;
-    QPoint recordedRange;
-    int recordedTrigger = 0;
-    QPoint selectedRange;
-    /// A zero point for playing instead of the trigger's frame.
-    bool triggerOffsetEnabled = false;
-    int triggerOffset = 0;
     QPoint point;
     double scale = 0;
     int binningPower = 0;

@@ -71,6 +71,7 @@ CameraModel readModel(const JsonNode& node) {
                     QStringLiteral("sharesShutter"),
                     QStringLiteral("sharesResolution"),
                     QStringLiteral("memory"),
+                    QStringLiteral("ctsReady"),
                     QStringLiteral("bitDepth"),
                     QStringLiteral("lowLightRefuses"),
                     QStringLiteral("syncCapable"),
@@ -110,6 +111,7 @@ CameraModel readModel(const JsonNode& node) {
             }
         }
     }
+    model.ctsReady = readNumber(node, QStringLiteral("ctsReady"));
     model.memory = node.member(QStringLiteral("memory")).number(0, 1 << 24);
     model.initial = ModelCatalogue::readState(node.member(QStringLiteral("initial")), model);
     return model;

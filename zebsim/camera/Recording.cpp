@@ -7,15 +7,15 @@
 
 namespace {
 
-/// A range stands as first and last; both 0 when it is not told. The end is not before the start.
+/// A range stands as first and last.
 QPoint orWhole(const QPoint& range, const QPoint& whole) {
-    return range.isNull() ? whole : QPoint(range.x(), std::max(range.x(), range.y()));
+    return range.x() > range.y() ? whole : range;
 }
 
 }  // namespace
 
 std::optional<Recording> Recording::of(const CameraState& state, const CameraModel& model) {
-    const auto capacity = static_cast<int>(model.frameCapacity(state.resolution));
+    const auto capacity = static_cast<int>(model.frameCapacity(state));
     if (!state.recorded || capacity == 0) {
         return std::nullopt;
     }
@@ -23,6 +23,7 @@ std::optional<Recording> Recording::of(const CameraState& state, const CameraMod
     const QPoint selected = orWhole(state.selectedRange, range);
     Recording recording;
     recording.rate = state.recordedRate != 0 ? state.recordedRate : state.rate;
+    recording.resolution = state.recordedResolution.isEmpty() ? state.resolution : state.recordedResolution;
     recording.first = range.x();
     recording.last = range.y();
     recording.trigger = state.recordedTrigger;

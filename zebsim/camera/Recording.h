@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QSize>
+
 #include <optional>
 
 struct CameraModel;
@@ -9,6 +11,8 @@ struct CameraState;
 struct Recording {
     /// Frames a second.
     unsigned int rate = 0;
+    /// Of its frames, in pixels.
+    QSize resolution;
     int first = 0;
     int last = 0;
     /// Frame at which the trigger came.

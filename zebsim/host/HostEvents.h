@@ -19,6 +19,12 @@ Q_SIGNALS:
     void pluginWanted(const QString& name);
     void pluginShown(const QString& name);
     void pluginClosed(const QString& name);
+    /// A recording has ended that left something in a camera's memory.
+    void somethingRecorded();
+    /// A trigger has come while triggers are only tested.
+    void testTriggerCame();
+    /// One new live image of each camera is wanted while they stand.
+    void liveImageWanted();
     /// An update cycle has reached all plug-ins and bridges.
     void updateFinished();
 };

@@ -230,7 +230,8 @@ zeb::VariableChannelInfo SimControl::getVariableChannelInfo(int channel) const {
 
 unsigned int SimControl::getRecordedRateOfPartition(PARTITIONNUMBER partition) const {
     m_camera.queryConnected("getRecordedRateOfPartition");
-    return partition == m_camera.get(&CameraState::partition) ? getRecordedRate() : 0;
+    const auto recording = m_camera.recordingOf(partition);
+    return recording ? recording->rate : 0;
 }
 
 unsigned int SimControl::getRecordedRate() const {

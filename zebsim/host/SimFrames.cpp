@@ -9,7 +9,7 @@
 unsigned int SimFrames::getFrameCount(int /*partition*/, int /*head*/) const {
     m_camera.queryConnected("getFrameCount");
     if (m_context.appStatus.mode() == zeb::LiveMode) {
-        return m_camera.model().frameCapacity(m_camera.get(&CameraState::resolution));
+        return m_camera.model().frameCapacity(m_camera.state());
     }
     const auto recording = m_camera.recording();
     return recording ? recording->frameCount() : 0;

@@ -29,9 +29,10 @@ SimHost::SimHost(Clock& clock, MessageDesk& desk, const QString& prefsPath)
       m_signalDevices(m_journal, clock, m_faults, m_shownErrors),
       m_syncSignal(m_cameras, m_signalDevices),
       m_docManager(*this, m_journal, m_cameras, m_prefs, m_appStatus, m_flags, m_translator, m_syncSignal, m_updates),
-      m_liveLoop(m_journal, m_cameras),
+      m_liveLoop(m_journal, m_cameras, m_events),
       m_player(m_journal),
-      m_recorder(m_journal, m_cameras, m_flags),
+      m_recorder(m_journal, clock, m_cameras, m_flags, m_appStatus, m_events, m_updates, m_translator,
+                 m_waitingMessages),
       m_saver(m_journal, m_flags, [this] { return m_appDesk ? m_appDesk->currentImage() : QImage(); }),
       m_cameraOps(m_journal, m_cameras, m_docManager, m_recorder, m_saver, m_prefs, m_flags, m_waitingMessages),
       m_viewOps(m_cameras, m_flags),
@@ -47,6 +48,7 @@ SimHost::SimHost(Clock& clock, MessageDesk& desk, const QString& prefsPath)
 }
 
 void SimHost::setRig(const Rig& rig) {
+    m_recorder.abandon();
     m_docManager.forgetDocs();
     m_faults.clear();
     m_shownErrors.clear();

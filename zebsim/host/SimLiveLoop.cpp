@@ -2,6 +2,7 @@
 
 #include "camera/Camera.h"
 #include "host/CameraBank.h"
+#include "host/HostEvents.h"
 #include "host/Journal.h"
 
 void SimLiveLoop::pauseLive(int mode) {
@@ -36,4 +37,5 @@ void SimLiveLoop::setStopLive(bool stop, int mode) {
 
 void SimLiveLoop::updateLive() {
     m_journal.record("ZebLiveLoop::updateLive");
+    Q_EMIT m_events.liveImageWanted();
 }

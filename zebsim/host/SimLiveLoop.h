@@ -3,12 +3,14 @@
 #include "ZebLiveLoop.h"
 
 class CameraBank;
+class HostEvents;
 class Journal;
 
 /// Whether the live images run.
 class SimLiveLoop : public ZebLiveLoop {
 public:
-    SimLiveLoop(Journal& journal, CameraBank& cameras) : m_journal(journal), m_cameras(cameras) {}
+    SimLiveLoop(Journal& journal, CameraBank& cameras, HostEvents& events)
+        : m_journal(journal), m_cameras(cameras), m_events(events) {}
 
     void pauseLive(int mode) override;
     void resumeLive() override;
@@ -22,5 +24,6 @@ public:
 private:
     Journal& m_journal;
     CameraBank& m_cameras;
+    HostEvents& m_events;
     int m_pauses = 0;
 };

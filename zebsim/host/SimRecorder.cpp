@@ -2,12 +2,40 @@
 
 #include "camera/Camera.h"
 #include "host/CameraBank.h"
+#include "host/HostEvents.h"
 #include "host/Journal.h"
+#include "host/PluginSignal.h"
+#include "host/SimAppStatus.h"
 #include "host/StatusFlags.h"
+#include "host/Translator.h"
+#include "host/UpdateCycle.h"
+#include "host/WaitingMessages.h"
 
 #include <algorithm>
+#include <utility>
+
+SimRecorder::SimRecorder(Journal& journal, const Clock& clock, const CameraBank& cameras, const StatusFlags& flags,
+                         SimAppStatus& appStatus, HostEvents& events, UpdateCycle& updates,
+                         const Translator& translator, WaitingMessages& messages)
+    : m_journal(journal),
+      m_cameras(cameras),
+      m_flags(flags),
+      m_appStatus(appStatus),
+      m_events(events),
+      m_run(std::make_unique<RecordRun>(cameras, clock,
+                                        RecordRun::Listener{
+                                            [&updates] { updates.request(); },
+                                            [&messages](const QString& text) { messages.add(text); },
+                                            [this](bool recorded) {
+                                                m_owedEnd = recorded;
+                                                QMetaObject::invokeMethod(
+                                                    &m_turn, [this] { deliverEnd(); }, Qt::QueuedConnection);
+                                            },
+                                            [&translator](const QString& text) { return translator.translate(text); },
+                                        })) {}
 
 int SimRecorder::getRecStatus(const DocKeyList& keys) const {
+    m_run->proceed();
     const QList<QPair<QString, zeb::RecordStatus>> states{{QStringLiteral("IsRecordingError"), zeb::RecordError},
                                                           {QStringLiteral("IsRecording"), zeb::RecordRecording},
                                                           {QStringLiteral("IsReady"), zeb::RecordReady},
@@ -18,13 +46,17 @@ int SimRecorder::getRecStatus(const DocKeyList& keys) const {
         }
     }
     int furthest = zeb::RecordLive;
+    bool failed = false;
     for (const DOCKEY key : keys) {
         const Camera* camera = m_cameras.find(key);
         if (camera && camera->get(&CameraState::connected)) {
-            furthest = std::max(furthest, camera->get(&CameraState::recordState));
+            const int state = camera->get(&CameraState::recordState);
+            const bool isError = state > zeb::RecordRecording || state < zeb::RecordLive;
+            failed = failed || isError;
+            furthest = isError ? furthest : std::max(furthest, state);
         }
     }
-    return furthest;
+    return furthest == zeb::RecordLive && failed ? int(zeb::RecordError) : furthest;
 }
 
 int SimRecorder::getRecordingState() const {
@@ -37,16 +69,68 @@ int SimRecorder::getRecordingState() const {
 
 void SimRecorder::startRecReady() {
     m_journal.record("ZebRecorder::startRecReady");
+    m_owedEnd.reset();
+    m_run->arm();
 }
 
 void SimRecorder::triggerRecording() {
     m_journal.record("ZebRecorder::triggerRecording");
+    trigger();
+}
+
+void SimRecorder::trigger() {
+    if (m_flags.isOn(QStringLiteral("IsTriggerTesting"))) {
+        Q_EMIT m_events.testTriggerCame();
+    } else {
+        m_run->trigger();
+    }
 }
 
 void SimRecorder::stopRecording() {
     m_journal.record("ZebRecorder::stopRecording");
+    m_run->stop();
 }
 
 void SimRecorder::cancelRecording(bool recording) {
     m_journal.record("ZebRecorder::cancelRecording", {recording});
+    m_run->cancel();
+    // Whoever cancels knows that it is over.
+    m_owedEnd.reset();
+}
+
+void SimRecorder::press() {
+    if (m_appStatus.mode() != zeb::LiveMode) {
+        return;
+    }
+    switch (getRecordingState()) {
+        case zeb::RecordCtsReady:
+            break;
+        case zeb::RecordReady:
+            trigger();
+            break;
+        case zeb::RecordRecording:
+            m_run->stop();
+            break;
+        default:
+            m_owedEnd.reset();
+            m_run->arm();
+    }
+}
+
+void SimRecorder::deliverEnd() {
+    const std::optional<bool> recorded = std::exchange(m_owedEnd, std::nullopt);
+    if (!recorded) {
+        return;
+    }
+    for (const QPointer<PLG_Interface> plugin : m_appStatus.plugins()) {
+        if (plugin) {
+            raisePluginSignal(*plugin, "signalEndRecording");
+        }
+    }
+    if (*recorded) {
+        Q_EMIT m_events.somethingRecorded();
+        if (m_appStatus.mode() == zeb::LiveMode) {
+            m_appStatus.enterMode(zeb::MemoryMode);
+        }
+    }
 }

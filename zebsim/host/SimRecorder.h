@@ -1,27 +1,62 @@
 #pragma once
 
 #include "ZebRecorder.h"
+#include "recording/RecordRun.h"
+
+#include <QObject>
+
+#include <optional>
 
 class CameraBank;
+class Clock;
+class HostEvents;
 class Journal;
+class SimAppStatus;
 class StatusFlags;
+class Translator;
+class UpdateCycle;
+class WaitingMessages;
 
-/// State of recording: as the flags tell, and without one the furthest state of the cameras asked about.
+/// The recording on the host's cameras. Its end comes from the event loop: plug-ins get their signal, and the host goes
+/// into memory mode when something was recorded. Messages come when no modal dialog stands.
 class SimRecorder : public ZebRecorder {
 public:
-    SimRecorder(Journal& journal, const CameraBank& cameras, const StatusFlags& flags)
-        : m_journal(journal), m_cameras(cameras), m_flags(flags) {}
+    SimRecorder(Journal& journal, const Clock& clock, const CameraBank& cameras, const StatusFlags& flags,
+                SimAppStatus& appStatus, HostEvents& events, UpdateCycle& updates, const Translator& translator,
+                WaitingMessages& messages);
 
+    /// As the flags tell, and without one the furthest of the cameras asked about; an error only when no other is under
+    /// way.
     int getRecStatus(const DocKeyList& keys) const override;
     int getRecordingState() const override;
     void startRecReady() override;
+    /// During a trigger test nothing records, and `HostEvents` tells that the trigger has come.
     void triggerRecording() override;
     void stopRecording() override;
     void cancelRecording(bool recording) override;
     bool isRecording() const override { return getRecordingState() == zeb::RecordRecording; }
 
+    /// The host's own record key: arms, triggers or stops, as the state is. Only in live mode.
+    void press();
+    /// The host's own cancel, after which plug-ins get their signal too.
+    void cancel() { m_run->cancel(); }
+    /// Brings the recording up to the clock; called often.
+    void proceed() { m_run->proceed(); }
+    /// The cameras are replaced.
+    void abandon() { m_run->abandon(); }
+
 private:
+    void trigger();
+    void deliverEnd();
+
     Journal& m_journal;
     const CameraBank& m_cameras;
     const StatusFlags& m_flags;
+    SimAppStatus& m_appStatus;
+    HostEvents& m_events;
+    /// Behind a pointer, for a question brings it up to the clock too.
+    const std::unique_ptr<RecordRun> m_run;
+    /// An end that is still to be told, and whether something was recorded.
+    std::optional<bool> m_owedEnd;
+    QObject m_turn;
 };

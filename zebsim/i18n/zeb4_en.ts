@@ -1115,5 +1115,37 @@
         <source>Do you want to save even though playback confirmation has not been completed?</source>
         <translation>Do you want to save even though playback confirmation has not been completed?</translation>
     </message>
+    <message>
+        <source>%1. The recording ended early with %2 frames.</source>
+        <translation>%1. The recording ended early with %2 frames.</translation>
+    </message>
+    <message>
+        <source>%1: the camera has disappeared.</source>
+        <translation>%1: the camera has disappeared.</translation>
+    </message>
+    <message>
+        <source>%1: the camera was disconnected.</source>
+        <translation>%1: the camera was disconnected.</translation>
+    </message>
+    <message>
+        <source>Its recording is lost.</source>
+        <translation>Its recording is lost.</translation>
+    </message>
+    <message>
+        <source>It does not take part in the recording.</source>
+        <translation>It does not take part in the recording.</translation>
+    </message>
+    <message>
+        <source>Cancel recording</source>
+        <translation>Cancel recording</translation>
+    </message>
+    <message>
+        <source>Disconnect all</source>
+        <translation>Disconnect all</translation>
+    </message>
+    <message>
+        <source>The test trigger has come.</source>
+        <translation>The test trigger has come.</translation>
+    </message>
 </context>
 </TS>

@@ -1115,5 +1115,37 @@
         <source>Do you want to save even though playback confirmation has not been completed?</source>
         <translation>再生確認が完了していませんが、保存しますか？</translation>
     </message>
+    <message>
+        <source>%1. The recording ended early with %2 frames.</source>
+        <translation>%1。記録は途中で終了しました (%2 フレーム)。</translation>
+    </message>
+    <message>
+        <source>%1: the camera has disappeared.</source>
+        <translation>%1: カメラが見つからなくなりました。</translation>
+    </message>
+    <message>
+        <source>%1: the camera was disconnected.</source>
+        <translation>%1: カメラの接続が切れました。</translation>
+    </message>
+    <message>
+        <source>Its recording is lost.</source>
+        <translation>記録は失われました。</translation>
+    </message>
+    <message>
+        <source>It does not take part in the recording.</source>
+        <translation>このカメラは記録に参加しません。</translation>
+    </message>
+    <message>
+        <source>Cancel recording</source>
+        <translation>記録をキャンセル</translation>
+    </message>
+    <message>
+        <source>Disconnect all</source>
+        <translation>すべて切断</translation>
+    </message>
+    <message>
+        <source>The test trigger has come.</source>
+        <translation>テストトリガを受信しました。</translation>
+    </message>
 </context>
 </TS>

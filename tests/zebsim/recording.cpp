@@ -1,0 +1,343 @@
+#include "DOC_Control.h"
+#include "DOC_Frames.h"
+#include "DOC_Interface.h"
+#include "camera/RecordSettings.h"
+#include "support/StubPlugin.h"
+#include "support/TestHost.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+/// "first..last trigger t", or "nothing".
+std::string told(const std::optional<Recording>& recording) {
+    if (!recording) return "nothing";
+    return QStringLiteral("%1..%2 trigger %3")
+        .arg(recording->first)
+        .arg(recording->last)
+        .arg(recording->trigger)
+        .toStdString();
+}
+
+/// 1000 frames at 1000 a second.
+RecordSettings settingsOf(int mode, int randomFrames = 0, int randomTimes = 0, const QPoint& area = {}) {
+    RecordSettings settings;
+    settings.mode = mode;
+    settings.capacity = 1000;
+    settings.rate = 1000;
+    settings.triggerFrame = 700;
+    settings.randomFrames = randomFrames;
+    settings.randomTimes = randomTimes;
+    settings.area = area;
+    return settings;
+}
+
+constexpr qint64 Long = 100000;
+
+TEST(RecordSettings, MakeTheRangeOfARecording) {
+    const struct {
+        const char* what;
+        RecordSettings settings;
+        qint64 ready, recorded;
+        const char* range;
+    } rows[] = {
+        {"start keeps what comes after the trigger", settingsOf(zeb::TriggerStart), Long, Long, "0..999 trigger 0"},
+        {"stopped after a quarter of a second", settingsOf(zeb::TriggerStart), Long, 250, "0..249 trigger 0"},
+        {"stopped at once it has the trigger's frame", settingsOf(zeb::TriggerStart), Long, 0, "0..0 trigger 0"},
+        {"center keeps half from before", settingsOf(zeb::TriggerCenter), Long, Long, "0..999 trigger 500"},
+        {"center soon after ready has fewer before", settingsOf(zeb::TriggerCenter), 20, Long, "0..519 trigger 20"},
+        {"end stops with the trigger", settingsOf(zeb::TriggerEnd), Long, Long, "0..999 trigger 999"},
+        {"end at once after ready", settingsOf(zeb::TriggerEnd), 0, Long, "0..0 trigger 0"},
+        {"manual has its trigger where it was set", settingsOf(zeb::TriggerManual), Long, Long, "0..999 trigger 700"},
+        {"random takes its frames so many times", settingsOf(zeb::TriggerRandom, 30, 4), Long, Long,
+         "0..119 trigger 0"},
+        {"random without an end fills the memory", settingsOf(zeb::TriggerRandom, 300, 0), Long, Long,
+         "0..899 trigger 0"},
+        {"random of more than fits", settingsOf(zeb::TriggerRandomReset, 300, 2000000000), Long, Long,
+         "0..899 trigger 0"},
+        {"random center has half of its frames before", settingsOf(zeb::TriggerRandomCenter, 100, 2), Long, Long,
+         "0..199 trigger 50"},
+        {"random manual has its share before", settingsOf(zeb::TriggerRandomManual, 100, 2), Long, Long,
+         "0..199 trigger 70"},
+        {"two stages, an eighth before", settingsOf(zeb::TriggerTwostageOneeighth), Long, Long, "0..999 trigger 125"},
+        {"an area counts from the trigger", settingsOf(zeb::TriggerCenter, 0, 0, {-100, 49}), Long, Long,
+         "400..549 trigger 500"},
+        {"an area reaches past what is there", settingsOf(zeb::TriggerCenter, 0, 0, {-100, 49}), 20, 10,
+         "0..29 trigger 20"},
+        {"an area that was not reached", settingsOf(zeb::TriggerStart, 0, 0, {500, 600}), Long, 100, "nothing"},
+        {"an area that ends before it starts is none", settingsOf(zeb::TriggerStart, 0, 0, {5, 4}), Long, Long,
+         "0..999 trigger 0"},
+    };
+    for (const auto& row : rows)
+        EXPECT_EQ(told(row.settings.recording(row.ready, row.recorded)), row.range) << row.what;
+    RecordSettings none = settingsOf(zeb::TriggerCenter);
+    none.capacity = 0;
+    EXPECT_EQ(told(none.recording(Long, Long)), "nothing") << "no memory";
+}
+
+/// Keys: 1 and 2 standard cameras with 8192 frames at 1000 a second, 3 a fast one that waits half a second for CTS and
+/// has the trigger a quarter into 131072 frames at 10000 a second.
+class RecordingTest : public testing::Test {
+protected:
+    RecordingTest() : test(rig()) {
+        for (Camera* camera : host.cameras().all()) camera->set(&CameraState::connected, true);
+        host.appStatus().registerPlugin(&plugin);
+        QObject::connect(&plugin, &StubPlugin::signalEndRecording, &plugin, [this] { ++ends; });
+    }
+
+    static Rig rig() {
+        Rig rig = Rig::standard(2);
+        Rig fast = Rig::fromFile(QStringLiteral("eight-mixed"));
+        rig.devices.append(fast.devices.at(5));
+        for (RigDevice& device : rig.devices) {
+            device.latency = 0;
+            device.heads.first().recorded = false;
+        }
+        return rig;
+    }
+
+    void pass(qint64 ms) {
+        test.clock.advance(ms);
+        host.recorder().proceed();
+        QCoreApplication::processEvents();
+        test.clock.join();
+    }
+    /// The states of the cameras, and that of the whole.
+    std::string states() {
+        const int whole = host.recorder().getRecordingState();
+        QString list;
+        for (const Camera* camera : host.cameras().all())
+            list += QString::number(camera->get(&CameraState::recordState)) + QLatin1Char(' ');
+        return QStringLiteral("%1- %2").arg(list).arg(whole).toStdString();
+    }
+    std::string recorded(DOCKEY key) { return told(test.camera(key).recording()); }
+    void plant(DOCKEY key, const char* operation, const Fault& fault) {
+        host.faults().plant(key, QString::fromLatin1(operation), fault);
+    }
+    void armAll() {
+        host.recorder().startRecReady();
+        pass(600);
+    }
+    void triggerAll() {
+        armAll();
+        host.recorder().triggerRecording();
+    }
+    std::string messages() {
+        QCoreApplication::processEvents();
+        const QStringList texts = test.desk.texts();
+        test.desk.shown.clear();
+        return texts.join(QStringLiteral(" | ")).toStdString();
+    }
+
+    TestHost test;
+    SimHost& host = test.host;
+    StubPlugin plugin;
+    int ends = 0;
+};
+
+TEST_F(RecordingTest, GoesThroughAllStatesOnTheClock) {
+    host.recorder().startRecReady();
+    EXPECT_EQ(states(), "2 2 1 - 2");
+    EXPECT_EQ(test.doc(3)->control().getCameraStatus(), zeb::CameraRecReady);
+    pass(499);
+    EXPECT_EQ(states(), "2 2 1 - 2");
+    pass(1);
+    EXPECT_EQ(states(), "2 2 2 - 2");
+    EXPECT_EQ(test.doc(1)->control().getCameraStatus(), zeb::CameraTriggerReady);
+    EXPECT_EQ(test.doc(3)->control().getCameraStatus(), zeb::CameraEndlessReady);
+    pass(1000);
+    host.recorder().triggerRecording();
+    EXPECT_EQ(states(), "3 3 3 - 3");
+    pass(8191);
+    EXPECT_EQ(states(), "3 3 3 - 3");
+    EXPECT_EQ(ends, 0);
+    test.clock.advance(1);
+    EXPECT_EQ(states(), "0 0 3 - 3") << "whoever asks sees it without a timer";
+    pass(1638);
+    EXPECT_EQ(states(), "0 0 3 - 3");
+    pass(1);
+    EXPECT_EQ(states(), "0 0 0 - 0");
+    EXPECT_EQ(recorded(1), "0..8191 trigger 0");
+    EXPECT_EQ(recorded(3), "0..108303 trigger 10000") << "only a second was there before the trigger";
+    EXPECT_EQ(ends, 1);
+    EXPECT_TRUE(host.isMemoryMode());
+    EXPECT_EQ(messages(), "");
+    EXPECT_EQ(test.doc(1)->frames().getFrameCount(0, 0), 8192u);
+}
+
+TEST_F(RecordingTest, KeepsWhatThereIsWhenItIsStopped) {
+    triggerAll();
+    pass(500);
+    host.recorder().stopRecording();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(states(), "0 0 0 - 0");
+    EXPECT_EQ(recorded(1), "0..499 trigger 0");
+    EXPECT_EQ(ends, 1);
+    host.appStatus().enterMode(zeb::LiveMode);
+    test.camera(1).set(&CameraState::resolution, {512, 512});
+    EXPECT_EQ(test.camera(1).recording()->resolution, QSize(1024, 1024)) << "frames stay as they were recorded";
+}
+
+TEST_F(RecordingTest, IsCancelledInEachState) {
+    test.camera(1).change({{"recorded", true}, {"recordedRange", QVariantList{0, 99}}});
+    host.recorder().startRecReady();
+    host.recorder().cancelRecording(false);
+    EXPECT_EQ(states(), "0 0 0 - 0");
+    armAll();
+    host.recorder().cancelRecording(false);
+    EXPECT_EQ(states(), "0 0 0 - 0");
+    EXPECT_EQ(recorded(1), "0..99 trigger 0") << "never triggered";
+    triggerAll();
+    pass(9000);
+    EXPECT_EQ(states(), "0 0 3 - 3");
+    host.recorder().cancelRecording(true);
+    EXPECT_EQ(states(), "0 0 0 - 0");
+    EXPECT_EQ(recorded(1), "nothing") << "of a camera that was done before, too";
+    EXPECT_EQ(recorded(3), "nothing");
+    host.recorder().cancelRecording(false);
+    pass(100000);
+    EXPECT_EQ(ends, 0) << "whoever cancels knows that it is over";
+    EXPECT_TRUE(host.isLiveMode());
+    armAll();
+    host.recorder().cancel();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(ends, 1) << "the host has cancelled by itself";
+}
+
+TEST_F(RecordingTest, GoesOnWithoutTheCamerasThatFail) {
+    plant(1, "arm", {QStringLiteral("no answer"), 0, false});
+    plant(2, "arm", {QStringLiteral("too hot"), 0, false});
+    armAll();
+    EXPECT_EQ(messages(), "Camera 1: no answer\nCamera 2: too hot");
+    EXPECT_EQ(states(), "4 4 2 - 2");
+    plant(3, "trigger", {QStringLiteral("no signal"), 0, false});
+    host.recorder().triggerRecording();
+    EXPECT_EQ(messages(), "Impact: no signal");
+    EXPECT_EQ(states(), "4 4 4 - 4");
+    EXPECT_EQ(ends, 1);
+    EXPECT_TRUE(host.isLiveMode()) << "nothing was recorded";
+    host.recorder().cancelRecording(false);
+    EXPECT_EQ(states(), "0 0 0 - 0");
+}
+
+TEST_F(RecordingTest, MissesCamerasThatGo) {
+    triggerAll();
+    pass(100);
+    plant(1, "record", {QStringLiteral("the memory is broken"), 0, false});
+    plant(2, "*", {{}, 0, true});
+    host.docManager().disconnectDocs({3});
+    pass(100);
+    EXPECT_EQ(messages(),
+              "Camera 1: the memory is broken. The recording ended early with 200 frames.\n"
+              "Camera 2: the camera has disappeared. Its recording is lost.\n"
+              "Impact: the camera was disconnected. Its recording is lost.");
+    EXPECT_EQ(recorded(1), "0..199 trigger 0");
+    EXPECT_EQ(states(), "4 0 - 4");
+    EXPECT_EQ(ends, 1);
+    EXPECT_TRUE(host.isMemoryMode());
+    pass(100000);
+    EXPECT_EQ(messages(), "") << "told once";
+    plant(2, "*", {});
+    EXPECT_EQ(recorded(2), "nothing");
+}
+
+TEST_F(RecordingTest, MissesReadyCamerasAndEndsWhenNoneIsLeft) {
+    armAll();
+    plant(1, "*", {{}, 0, true});
+    host.docManager().disconnectDocs({2, 3});
+    pass(1);
+    EXPECT_EQ(messages(),
+              "Camera 1: the camera has disappeared. It does not take part in the recording.\n"
+              "Camera 2: the camera was disconnected. It does not take part in the recording.\n"
+              "Impact: the camera was disconnected. It does not take part in the recording.");
+    EXPECT_EQ(ends, 1);
+    EXPECT_TRUE(host.isLiveMode());
+    host.recorder().startRecReady();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(ends, 2) << "there is no camera to arm";
+}
+
+TEST_F(RecordingTest, ACameraThatCannotBeStoppedFillsItsMemory) {
+    triggerAll();
+    plant(2, "stop", {QStringLiteral("no answer"), 0, false});
+    pass(100);
+    host.recorder().stopRecording();
+    EXPECT_EQ(messages(), "Camera 2: no answer");
+    EXPECT_EQ(states(), "0 3 0 - 3");
+    EXPECT_EQ(ends, 0);
+    pass(8092);
+    EXPECT_EQ(recorded(2), "0..8191 trigger 0");
+    EXPECT_EQ(ends, 1);
+}
+
+TEST_F(RecordingTest, TellsAboutAVanishedCameraAfterTheBoxThatStands) {
+    armAll();
+    plant(1, "arm", {QStringLiteral("no answer"), 0, false});
+    plant(2, "*", {{}, 0, true});
+    test.desk.whileStanding = [this] {
+        // The box of the arming stands, and the clock goes on.
+        pass(1);
+        EXPECT_EQ(test.desk.shown.size(), 1);
+        host.recorder().stopRecording();
+    };
+    host.recorder().cancelRecording(false);
+    armAll();
+    EXPECT_EQ(messages(), "Camera 1: no answer");
+    EXPECT_EQ(states(), "4 2 - 2");
+}
+
+TEST_F(RecordingTest, EachPartitionKeepsItsOwn) {
+    host.docManager().selectDoc(1);
+    test.camera(1).set(&CameraState::partitions, 4);
+    EXPECT_EQ(test.doc(1)->frames().getFrameCount(0, 0), 2048u) << "the memory is divided";
+    triggerAll();
+    EXPECT_THROW(host.cameraOps().setPartition(2, 0), std::exception) << "not while it records";
+    pass(3000);
+    EXPECT_EQ(recorded(1), "0..2047 trigger 0");
+    host.recorder().stopRecording();
+    test.doc(1)->control().setSelectRange(0, 0);
+    test.doc(1)->frames().setRecordCheck(true);
+    host.cameraOps().setPartition(2, 0);
+    EXPECT_EQ(recorded(1), "nothing");
+    EXPECT_FALSE(test.doc(1)->frames().isRecordCheck());
+    test.camera(1).set(&CameraState::rate, 500);
+    triggerAll();
+    pass(100);
+    host.recorder().stopRecording();
+    EXPECT_EQ(recorded(1), "0..49 trigger 0");
+    host.cameraOps().setPartition(1, 0);
+    EXPECT_EQ(recorded(1), "0..2047 trigger 0");
+    EXPECT_EQ(test.doc(1)->frames().getSelectEndFrame(0), 0);
+    EXPECT_TRUE(test.doc(1)->frames().isRecordCheck());
+    EXPECT_EQ(test.doc(1)->control().getRecordedRateOfPartition(2), 500u);
+    EXPECT_EQ(test.doc(1)->control().getRecordedRateOfPartition(3), 0u);
+}
+
+TEST_F(RecordingTest, TheHostsKeyArmsTriggersAndStops) {
+    host.recorder().press();
+    EXPECT_EQ(states(), "2 2 1 - 2");
+    host.setTriggerTesting(true);
+    int tested = 0;
+    QObject::connect(&host.events(), &HostEvents::testTriggerCame, &plugin, [&] { ++tested; });
+    host.recorder().press();
+    EXPECT_EQ(states(), "2 2 1 - 2") << "a test records nothing";
+    EXPECT_EQ(tested, 1);
+    host.setTriggerTesting(false);
+    host.recorder().press();
+    EXPECT_EQ(states(), "3 3 1 - 3") << "one still waits for CTS";
+    host.recorder().press();
+    EXPECT_EQ(states(), "0 0 1 - 1");
+    host.recorder().press();
+    pass(500);
+    EXPECT_EQ(states(), "0 0 2 - 2");
+    EXPECT_EQ(ends, 0);
+    host.setRig(Rig::standard(1));
+    QCoreApplication::processEvents();
+    EXPECT_EQ(ends, 1) << "its cameras are no more";
+    host.appStatus().enterMode(zeb::MemoryMode);
+    test.camera(1).set(&CameraState::connected, true);
+    host.recorder().press();
+    EXPECT_EQ(states(), "0 - 0") << "in live mode only";
+}
+
+}  // namespace

@@ -1,0 +1,78 @@
+#pragma once
+
+#include "ZebTypes.h"
+#include "camera/RecordSettings.h"
+
+#include <QStringList>
+
+#include <functional>
+#include <memory>
+#include <vector>
+
+class Camera;
+class CameraBank;
+class Clock;
+
+/// A recording on the cameras of the host, from arming to its end. It moves on only when it is told to. GUI thread.
+///
+/// Where the cameras stand is their own `recordState`; here stands since when, and what the recording makes of them.
+class RecordRun {
+public:
+    /// Whom the run tells; none of them may work the run, and none may run an event loop.
+    struct Listener {
+        /// A camera has changed its state.
+        std::function<void()> changed;
+        /// Something went wrong, a line for each camera.
+        std::function<void(const QString&)> failed;
+        /// No camera takes part any more. `recorded`: at least one has something in its memory.
+        std::function<void(bool recorded)> ended;
+        /// A text in the user's language.
+        std::function<QString(const QString&)> translate;
+    };
+
+    RecordRun(const CameraBank& cameras, const Clock& clock, Listener listener);
+    ~RecordRun();
+
+    /// Arms the connected cameras that are not under way. Those that fail are told of, the others go on.
+    void arm();
+    /// Triggers the cameras that are ready, all at this time of the clock.
+    void trigger();
+    /// Ends the recording of the cameras that record; they keep what they have.
+    void stop();
+    /// Puts all cameras back to live. What they have made since they were triggered is thrown away.
+    void cancel();
+    /// The cameras are no more.
+    void abandon();
+    /// Does what was due up to this time of the clock: cameras become ready, fill their memory, or are missed.
+    void proceed();
+
+private:
+    struct Part {
+        std::shared_ptr<Camera> camera;
+        RecordSettings settings;
+        qint64 readyAt = 0;
+        qint64 triggeredAt = 0;
+        bool triggered = false;
+        bool over = false;
+    };
+
+    std::vector<std::shared_ptr<Camera>> camerasIn(const std::function<bool(int state)>& wanted) const;
+    Part& partOf(const std::shared_ptr<Camera>& camera);
+    /// False when `command` failed; its reason stands in the lines then.
+    bool tried(const std::function<void()>& command);
+    void proceed(Part& part, qint64 now);
+    void record(Part& part, qint64 now);
+    void miss(Part& part, bool gone);
+    /// The camera keeps what it has recorded until `now`, and takes no part any more.
+    void end(Part& part, qint64 now, int recordState);
+    void enter(Part& part, int recordState);
+    /// Tells what has gathered.
+    void tell();
+
+    const CameraBank& m_cameras;
+    const Clock& m_clock;
+    const Listener m_listener;
+    std::vector<Part> m_parts;
+    QStringList m_failures;
+    bool m_changed = false;
+};
