@@ -1,5 +1,6 @@
 #include "UTL_Messages.h"
 
+#include "BoxText.h"
 #include "PlainText.h"
 #include "Style.h"
 #include "TraceScope.h"
@@ -39,8 +40,11 @@ QString buttonName(int button) {
 }
 
 QMessageBox* makeWarning(const QString& text, const ZebHost& host, QWidget* parent, const ButtonTexts& buttonTexts) {
-    auto* box = new QMessageBox(QMessageBox::Warning, translated(QStringLiteral("Warning")), plainText(text),
+    const QString whole = plainText(text);
+    const BoxText fitting = fitIntoBox(whole);
+    auto* box = new QMessageBox(QMessageBox::Warning, translated(QStringLiteral("Warning")), fitting.head,
                                 QMessageBox::Ok | QMessageBox::Cancel, parent);
+    if (fitting.cut) box->setDetailedText(whole);
     box->setObjectName(QLatin1String(BoxName));
     box->setTextFormat(Qt::PlainText);
     box->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);

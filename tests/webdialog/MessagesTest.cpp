@@ -75,6 +75,17 @@ TEST_F(Messages, WarningWithOwnButtonTexts) {
     EXPECT_TRUE(course.take().contains("info: \"[go on?][result:Cancel]\""));
 }
 
+TEST_F(Messages, AWarningOfManyLinesLeavesItsButtonsOnTheScreen) {
+    QStringList lines;
+    for (int n = 1; n <= 256; ++n) lines << "Camera with a name of usual length・・The fan turns slowly";
+    whenModal<QMessageBox>([&](QMessageBox* box) {
+        EXPECT_LT(box->height(), 800);
+        EXPECT_EQ(box->detailedText(), lines.join('\n'));
+        box->button(QMessageBox::Ok)->click();
+    });
+    EXPECT_TRUE(UTL_Messages::warnOkCancel(lines.join('\n'), host));
+}
+
 TEST_F(Messages, WarningIsRefusedWhenItsParentGoes) {
     auto* parent = new QWidget;
     whenModal<QMessageBox>([parent](QMessageBox*) { delete parent; });

@@ -2,7 +2,7 @@
 
 namespace {
 
-constexpr int LineLength = 60;
+constexpr int LineLength = 50;
 constexpr int MostLines = 24;
 constexpr QChar LineFeed(u'\n');
 constexpr QChar ZeroWidthSpace(0x200B);
