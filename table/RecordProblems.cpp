@@ -13,7 +13,7 @@ void addOnce(QStringList& lines, const QString& line) {
 QStringList problemLines(const QList<CameraAlerts>& cameras, const QString& signalText) {
     QStringList lines;
     for (const CameraAlerts& camera : cameras) {
-        const auto line = [&camera](const QString& problem) {
+        const auto line = [&camera](const QString& problem) -> QString {
             return camera.cameraName % QStringLiteral("・・") % problem;
         };
         for (const QString& alert : camera.device) {

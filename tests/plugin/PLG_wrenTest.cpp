@@ -179,6 +179,29 @@ TEST_F(PLG_wrenTest, endsARecordingOnTheBridge) {
     EXPECT_FALSE(bridge->state().recordRunning);
 }
 
+TEST_F(PLG_wrenTest, takesTheHostsKeysWhileItsTableIsInFront) {
+    const QStringList ofTheKeys{"ZebRecorder::startRecReady", "ZebHost::saveFiles", "ZebHost::saveLayoutFiles"};
+    QStringList asked;
+    const QObject untilTheEnd;
+    QObject::connect(&host.journal(), &Journal::recorded, &untilTheEnd, [&](const QString& call) {
+        if (ofTheKeys.contains(call)) asked << call;
+    });
+    openTable();
+    host.prefs().setValue("wren/display/lock", false);
+    QWidget other;
+    other.show();
+    for (QWidget* front : {static_cast<QWidget*>(plugin->getDialog(false)), &other}) {
+        QApplication::setActiveWindow(front);
+        host.appStatus().enterMode(zeb::LiveMode);
+        ASSERT_TRUE(raise("signalRecord"));
+        host.recorder().cancelRecording(false);
+        host.appStatus().enterMode(zeb::MemoryMode);
+        ASSERT_TRUE(raise("signalSaveFile") && raise("signalSaveLayout"));
+        EXPECT_EQ(asked, front == &other ? QStringList() : ofTheKeys);
+        asked.clear();
+    }
+}
+
 TEST_F(PLG_wrenTest, keepsWhoAsksForAPictureWaitingUntilItIsWritten) {
     openTable();
     const QTemporaryDir folder;

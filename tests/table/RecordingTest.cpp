@@ -1,0 +1,297 @@
+#include "GUI_ProgressDialog.h"
+#include "JS_Mediator_WrenTableDialog.h"
+#include "PLG_wren.h"
+#include "TableFixture.h"
+#include "camera/Rig.h"
+
+#include <QApplication>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QRegularExpression>
+#include <QTimer>
+
+#include <functional>
+
+namespace {
+
+const QStringList Armed{"ZebRecorder::startRecReady []"};
+
+/// Four connected cameras: two alone, and one with two heads, of which the second has the first for its device.
+class RecordingTest : public TableFixture {
+protected:
+    RecordingTest() {
+        host.setPrefBool("wren/display/lock", false);
+        plugin.setHost(&host);
+        bridge = std::make_unique<JS_Mediator_WrenTableDialog>(&host, "wrentabledialog", &plugin);
+        connectAll();
+        for (const DOCKEY key : {1, 2, 3, 4}) change(key, {{"alerts", QStringList()}, {"locked", false}});
+        for (const DOCKEY key : {5, 6, 7, 8}) change(key, {{"connected", false}});
+        calls();
+    }
+
+    /// What the recorder is asked to do.
+    QStringList press() {
+        calls();
+        bridge->record();
+        return calls().filter("ZebRecorder::");
+    }
+
+    void setState(int state) {
+        for (const DOCKEY key : {1, 2, 3, 4}) change(key, {{"recordState", state}});
+    }
+
+    /// The user reads the warning that comes, and says yes or no.
+    void answerWarning(
+        bool yes, const std::function<void()>& meanwhile = [] {}) {
+        QTimer::singleShot(0, qApp, [this, yes, meanwhile] {
+            auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+            ASSERT_TRUE(box) << "no warning";
+            warning = box->text();
+            EXPECT_EQ(box->button(QMessageBox::Ok)->text(), "Yes");
+            EXPECT_EQ(box->button(QMessageBox::Cancel)->text(), "No");
+            meanwhile();
+            box->button(yes ? QMessageBox::Ok : QMessageBox::Cancel)->click();
+        });
+    }
+
+    PLG_wren plugin;
+    std::unique_ptr<JS_Mediator_WrenTableDialog> bridge;
+    QString warning;
+};
+
+TEST_F(RecordingTest, theButtonArmsTriggersOrStopsByTheState) {
+    host.setPrefBool("wren/display/lock", true);  // what is no start skips every check
+    const struct {
+        int state;
+        QStringList pressed;
+        QStringList cancelled;
+    } cases[] = {
+        {zeb::RecordLive, {}, {"ZebRecorder::cancelRecording [false]"}},
+        {zeb::RecordCtsReady, {}, {"ZebRecorder::cancelRecording [false]"}},
+        {zeb::RecordReady, {"ZebRecorder::triggerRecording []"}, {"ZebRecorder::cancelRecording [false]"}},
+        {zeb::RecordRecording, {"ZebRecorder::stopRecording []"}, {"ZebRecorder::cancelRecording [true]"}},
+        {zeb::RecordError, {}, {"ZebRecorder::cancelRecording [false]"}},
+    };
+    for (const auto& each : cases) {
+        SCOPED_TRACE(each.state);
+        setState(each.state);
+        EXPECT_EQ(press(), each.pressed);
+        setState(each.state);
+        bridge->setRecordRunning();
+        bridge->cancelRecord();
+        EXPECT_EQ(calls().filter("ZebRecorder::"), each.cancelled);
+        EXPECT_FALSE(bridge->state().recordRunning);
+    }
+    EXPECT_EQ(desk.texts(), QStringList{"Lock all connected cameras."}) << "asked at the start only";
+
+    host.setPrefBool("wren/display/lock", false);
+    setState(zeb::RecordLive);
+    for (const int mode : {zeb::MemoryMode, zeb::FileMode}) {
+        host.appStatus().enterMode(mode);
+        EXPECT_EQ(press(), QStringList());
+        bridge->setRecordRunning();
+        bridge->cancelRecord();
+        EXPECT_EQ(calls().filter("ZebRecorder::"), QStringList());
+        EXPECT_FALSE(bridge->state().recordRunning) << "in any mode";
+    }
+}
+
+TEST_F(RecordingTest, aCancelWhileFilesAreSavedInTheBackgroundLeavesTheRecordingFollowed) {
+    bridge->setRecordRunning();
+    host.flags().set("IsBgSaving", true);
+    bridge->cancelRecord();
+    EXPECT_TRUE(bridge->state().recordRunning);
+}
+
+TEST_F(RecordingTest, armingPreparesEveryConnectedCamera) {
+    host.setPrefBool("wren/display/lock", true);
+    host.setPrefBool("recording/RecAllConnectedCamera", false);
+    for (const DOCKEY key : {1, 2, 3, 4}) change(key, {{"locked", true}, {"recordCheck", true}});
+    change(7, {{"recordCheck", true}});
+    calls();
+    bridge->record();
+    QStringList expected;
+    for (int key = 1; key <= 8; ++key) expected << QString("DOC_Frames::setRecordCheck [%1,false]").arg(key);
+    expected << R"(ZebHost::setPrefBool ["recording/RecAllConnectedCamera",true])" << Armed;
+    EXPECT_EQ(calls(), expected);
+    EXPECT_TRUE(bridge->state().recordRunning);
+    EXPECT_EQ(desk.texts(), QStringList());
+}
+
+TEST_F(RecordingTest, problemsAreListedOnceAndTheUserDecides) {
+    change(1, {{"alerts", QStringList{"The fan turns slowly", "<b>hot</b>"}}});
+    change(3, {{"alerts", QStringList{"The device is warm"}}});
+    change(4, {{"alerts", QStringList{"The device is warm", "The lens is missing"}}});
+    answerWarning(false);
+    EXPECT_EQ(press(), QStringList());
+    EXPECT_FALSE(bridge->state().recordRunning);
+    EXPECT_EQ(
+        warning,
+        "Problem with camera.\nGate・・The fan turns slowly\nGate・・<b>hot</b>\n"
+        "Nozzle left・・The device is warm\nNozzle right・・The device is warm\nNozzle right・・The lens is missing");
+    answerWarning(true);
+    EXPECT_EQ(press(), Armed);
+    EXPECT_TRUE(bridge->state().recordRunning);
+}
+
+TEST_F(RecordingTest, whatHappensWhileTheUserReadsIsSeen) {
+    change(1, {{"alerts", QStringList{"The fan turns slowly"}}});
+    const struct {
+        const char* sentence;
+        std::function<void()> meanwhile;
+        QStringList pressed;
+    } cases[] = {
+        {"a second press is refused", [this] { bridge->record(); }, Armed},
+        {"the host's record key too", [this] { plugin.slotRecord(); }, Armed},
+        {"a camera is disconnected",
+         [this] {
+             change(2, {{"connected", false}});
+         },
+         Armed},
+        {"somebody has armed", [this] { setState(zeb::RecordReady); }, {}},
+        {"the host has gone to memory mode",
+         [this] {
+             setState(zeb::RecordLive);
+             host.appStatus().enterMode(zeb::MemoryMode);
+         },
+         {}},
+        {"a camera is gone",
+         [this] {
+             host.faults().plant(2, "*", Fault{{}, 0, true});
+         },
+         Armed},
+    };
+    for (const auto& each : cases) {
+        setState(zeb::RecordLive);
+        host.appStatus().enterMode(zeb::LiveMode);
+        answerWarning(true, each.meanwhile);
+        EXPECT_EQ(press(), each.pressed) << each.sentence;
+        host.recorder().cancelRecording(false);
+    }
+    EXPECT_EQ(desk.texts(), QStringList());
+}
+
+TEST_F(RecordingTest, playingInStepFollowsTheSignal) {
+    host.setPrefBool("wren/settings/syncInEnable", true);
+    host.setPrefBool("wren/settings/deviceSpeedPlaying", true);
+    const QString tooFast =
+        "There are some cameras that are not synchronized shooting because the shooting speed of the device is faster "
+        "than the sync frequency.";
+    const auto skips = [](int key, int skip) {
+        const QString arguments = QString::number(key);
+        return QStringList{"DOC_Frames::setFrameSkipEnabled [" + arguments + ",true]",
+                           R"(ZebHost::setPref ["play/syncMode","0"])",
+                           "DOC_Frames::setFrameSkipMode [" + arguments + ",0]",
+                           "DOC_Frames::setFrameSkip [" + arguments + "," + QString::number(skip) + "]"};
+    };
+    for (const DOCKEY key : {2, 3, 4}) change(key, {{"connected", false}});
+    const struct {
+        const char* sentence;
+        bool external;
+        int frequency;
+        QVariantMap camera;
+        QStringList asked;
+        QStringList messages;
+    } cases[] = {
+        {"half the frequency", true, 1000, {{"rate", 500}}, skips(1, 2), {}},
+        {"no whole part of it", true, 1000, {{"rate", 300}}, skips(1, 3), {}},
+        {"the frequency itself", true, 1000, {{"rate", 1000}}, skips(1, 1), {}},
+        {"faster", true, 1000, {{"rate", 2000}, {"frameSkipEnabled", false}, {"frameSkip", 3}}, {}, {tooFast}},
+        {"faster, and set before",
+         true,
+         1000,
+         {{"rate", 2000}, {"frameSkipEnabled", true}, {"frameSkip", 3}},
+         skips(1, 1),
+         {tooFast}},
+        {"no frequency is chosen", true, 0, {{"rate", 2000}}, {}, {}},
+        {"a rate of 0", true, 1000, {{"rate", 0}}, {}, {}},
+        {"in a chain the master's rate counts", false, 0, {{"rate", 2000}}, skips(1, 1), {}},
+    };
+    for (const auto& each : cases) {
+        host.setPrefBool("sync/external", each.external);
+        bridge->state().sync.frequency = each.frequency;
+        change(1, each.camera);
+        desk.shown.clear();
+        calls();
+        bridge->record();
+        const QStringList made = calls();
+        EXPECT_EQ(made.filter(QRegularExpression("FrameSkip|setPref \\[")), each.asked) << each.sentence;
+        EXPECT_EQ(desk.texts(), each.messages) << each.sentence;
+        EXPECT_EQ(made.filter("ZebRecorder"), Armed) << each.sentence;
+        host.recorder().cancelRecording(false);
+    }
+}
+
+TEST_F(RecordingTest, anAreaGoesToTheCamerasOfItsRate) {
+    bridge->state().areas = {{1000, {-100, 200}}, {2000, {-5, 5}}};
+    change(1, {{"rate", 1000}});
+    change(2, {{"rate", 2000}});
+    change(3, {{"rate", 250}});
+    change(4, {{"rate", 250}});
+    EXPECT_EQ(press(), Armed);
+    EXPECT_EQ(stateOf(1, "recordArea").toList(), (QVariantList{0, 0})) << "areas are out of use";
+    host.recorder().cancelRecording(false);
+
+    host.setPrefBool("recording/area", true);
+    calls();
+    bridge->record();
+    EXPECT_EQ(calls().filter("RecordArea"),
+              (QStringList{"DOC_Frames::setRecordAreaStart [1,-100]", "DOC_Frames::setRecordAreaEnd [1,200]",
+                           "DOC_Frames::setRecordAreaStart [2,-5]", "DOC_Frames::setRecordAreaEnd [2,5]"}));
+}
+
+TEST_F(RecordingTest, aFailureBeforeArmingIsToldAndNothingIsArmed) {
+    host.setPrefBool("recording/area", true);
+    bridge->state().areas = {{1000, {-100, 200}}};
+    for (const char* operation : {"getAlerts", "setRecordCheck", "getRecordRate"}) {
+        desk.shown.clear();
+        host.faults().plant(2, operation, {"no answer", 0, false});
+        bridge->setRecordRunning();
+        EXPECT_EQ(press(), QStringList()) << operation;
+        EXPECT_FALSE(bridge->state().recordRunning) << operation;
+        ASSERT_EQ(desk.shown.size(), 1) << operation;
+        EXPECT_TRUE(desk.texts().first().contains("Ramp")) << operation;
+        host.faults().clear();
+    }
+}
+
+TEST_F(RecordingTest, liveControlsGoToTheHost) {
+    bridge->stopLive(true);
+    EXPECT_EQ(
+        calls().filter("ZebLiveLoop"),
+        (QStringList{"ZebLiveLoop::pauseLive [0]", "ZebLiveLoop::setStopLive [true,1]", "ZebLiveLoop::resumeLive []"}));
+    bridge->updateLive();
+    bridge->setTriggerTesting(true);
+    bridge->snapShot(3);
+    EXPECT_EQ(
+        calls().filter(QRegularExpression("updateLive|Testing|snapShot")),
+        (QStringList{"ZebLiveLoop::updateLive []", "ZebHost::setTriggerTesting [true]", "ZebSaver::snapShot [3]"}));
+    EXPECT_TRUE(bridge->getTriggerTesting());
+}
+
+TEST_F(RecordingTest, oneReadyDialogStandsAndNoneWhileSettingsAreLoaded) {
+    const auto dialogs = [] {
+        int count = 0;
+        for (QWidget* window : QApplication::topLevelWidgets()) {
+            count += qobject_cast<GUI_ProgressDialog*>(window) != nullptr && window->isVisible();
+        }
+        return count;
+    };
+    bridge->showReadyProgress();
+    EXPECT_EQ(dialogs(), 0) << "the table does not run";
+    host.appStatus().setWrenRunning(true);
+    bridge->state().loadingRigx = true;
+    bridge->showReadyProgress();
+    EXPECT_EQ(dialogs(), 0);
+    bridge->state().loadingRigx = false;
+    bridge->showReadyProgress();
+    bridge->showReadyProgress();
+    EXPECT_EQ(dialogs(), 1);
+    setState(zeb::RecordReady);
+    EXPECT_EQ(press(), QStringList{"ZebRecorder::triggerRecording []"}) << "it is not modal";
+    bridge->deleteReadyProgress();
+    bridge->deleteReadyProgress();
+    EXPECT_EQ(dialogs(), 0);
+}
+
+}  // namespace
