@@ -78,6 +78,10 @@ TEST_F(Images, MoveWhileLiveRuns) {
     EXPECT_GT(second, first);
     camera(1).set(&CameraState::stopLive, true);
     EXPECT_EQ(shownLater(1), second);
+    host.liveLoop().updateLive();
+    EXPECT_GT(shown(1), second) << "a new one was asked for";
+    const qint64 fresh = shown(1);
+    EXPECT_EQ(shownLater(1), fresh);
     const qint64 other = shown(2);
     EXPECT_GT(shownLater(2), other) << "only one was stopped";
     host.liveLoop().pauseLive(0);

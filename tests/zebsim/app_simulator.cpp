@@ -1,8 +1,13 @@
 #include "CommandLine.h"
 #include "Simulator.h"
 #include "ViewerWindow.h"
+#include "camera/Camera.h"
+#include "support/StubPlugin.h"
 
 #include <QAction>
+#include <QCoreApplication>
+#include <QDialog>
+#include <QStatusBar>
 #include <QTemporaryDir>
 #include <QTimer>
 
@@ -42,6 +47,49 @@ TEST_F(ViewerTest, ShowsAndSwitchesTheModeAndTheStyle) {
     EXPECT_EQ(simulator.host().prefs().value("env/style"), "light");
     simulator.host().appStatus().enterMode(zeb::FileMode);
     EXPECT_TRUE(choice("mode2")->isChecked()) << "a change from elsewhere shows as well";
+}
+
+TEST_F(ViewerTest, RecordsByItsOwnKeyUnlessAPluginIsInFront) {
+    SimHost& host = simulator.host();
+    StubPlugin plugin;
+    int records = 0;
+    QObject::connect(&plugin, &StubPlugin::signalRecord, &plugin, [&] { ++records; });
+    host.appStatus().registerPlugin(&plugin);
+    const auto key = [&](const char* name) { return simulator.window().findChild<QAction*>(name); };
+    const auto settle = [&] {
+        while (host.updates().isPending()) QCoreApplication::processEvents();
+    };
+    settle();
+    EXPECT_FALSE(key("record")->isEnabled()) << "no camera is connected";
+    host.cameras().find(1)->connect();
+    host.updates().request();
+    settle();
+    host.setTriggerTesting(true);
+    key("record")->trigger();
+    settle();
+    EXPECT_EQ(key("record")->text(), "Trigger");
+    key("record")->trigger();
+    EXPECT_FALSE(simulator.window().statusBar()->currentMessage().isEmpty());
+    host.setTriggerTesting(false);
+    key("record")->trigger();
+    settle();
+    EXPECT_EQ(key("record")->text(), "Stop");
+    simulator.clock().setSpeed(1000);
+    while (!host.isMemoryMode()) QCoreApplication::processEvents();
+    EXPECT_EQ(host.cameras().find(1)->recording()->frameCount(), 8192U);
+    EXPECT_FALSE(key("record")->isEnabled());
+
+    host.appStatus().enterMode(zeb::LiveMode);
+    plugin.dialog = std::make_unique<QDialog>();
+    plugin.dialog->show();
+    plugin.dialog->activateWindow();
+    while (!plugin.dialog->isActiveWindow()) QCoreApplication::processEvents();
+    key("record")->trigger();
+    EXPECT_EQ(records, 1);
+    EXPECT_EQ(host.recorder().getRecordingState(), zeb::RecordLive) << "the plug-in decides";
+    plugin.dialog.reset();
+    key("disconnectAll")->trigger();
+    EXPECT_TRUE(host.docManager().getConnectedDocKeys().isEmpty());
 }
 
 }  // namespace

@@ -29,6 +29,8 @@ CameraWindows::CameraWindows(SimHost& host, ImageArea& area) : m_host(host), m_a
         m_playback.reset();
         follow();
     });
+    connect(&host.events(), &HostEvents::somethingRecorded, this, [this] { m_playback.reset(); });
+    connect(&host.events(), &HostEvents::liveImageWanted, this, &CameraWindows::showFresh);
     connect(&host.events(), &HostEvents::modeChanged, this, &CameraWindows::showNow);
     connect(&host.events(), &HostEvents::updateFinished, this, &CameraWindows::follow);
     connect(&area, &QMdiArea::subWindowActivated, this, &CameraWindows::windowActivated);
@@ -105,6 +107,11 @@ void CameraWindows::showNow() {
     Q_EMIT shown();
 }
 
+void CameraWindows::showFresh() {
+    const QScopedValueRollback<bool> fresh(m_fresh, true);
+    showNow();
+}
+
 void CameraWindows::forEach(const std::function<void(const Camera&, CameraWindow&)>& work) const {
     for (CameraWindow* window : m_windows) {
         if (const Camera* camera = m_host.cameras().find(window->key())) work(*camera, *window);
@@ -116,7 +123,7 @@ void CameraWindows::showImage(const Camera& camera, CameraWindow& window, qint64
     std::optional<CameraFrame> frame;
     if (m_host.isMemoryMode())
         frame = recordedFrame(camera, passed);
-    else if (window.view().frame() && (state.stopLive || m_host.liveLoop().isLivePaused()))
+    else if (window.view().frame() && !m_fresh && (state.stopLive || m_host.liveLoop().isLivePaused()))
         frame = window.view().frame();
     else
         frame = CameraFrame::live(state, m_shownAt);

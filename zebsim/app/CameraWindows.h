@@ -43,6 +43,8 @@ private:
     void addAndRemove();
     void activateCurrent();
     void windowActivated(QMdiSubWindow* window);
+    /// Shows one new image of each camera whose live images stand.
+    void showFresh();
     void showImage(const Camera& camera, CameraWindow& window, qint64 passed);
     std::optional<CameraFrame> recordedFrame(const Camera& camera, qint64 passed);
     QString emptyText() const;
@@ -57,4 +59,6 @@ private:
     QMdiSubWindow* m_active = nullptr;
     qint64 m_shownAt = 0;
     bool m_changing = false;
+    /// Live images that stand are taken anew.
+    bool m_fresh = false;
 };

@@ -12,7 +12,6 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QMdiArea>
-#include <QTimer>
 
 namespace {
 
@@ -38,6 +37,8 @@ Simulator::Simulator(const CommandLine& line) : m_host(m_clock, m_boxes, line.pr
     m_host.docManager().setEditor([this](DOCKEY key) { m_desk->editCamera(key); });
     QObject::connect(m_window.get(), &ViewerWindow::closeAsked, m_window.get(), [this] { quit(); });
     loadPlugin(line);
+    QObject::connect(&m_recorderTimer, &QTimer::timeout, m_window.get(), [this] { m_host.recorder().proceed(); });
+    m_recorderTimer.start(RecorderInterval);
 }
 
 Simulator::~Simulator() {

@@ -5,6 +5,8 @@
 #include "host/SimHost.h"
 #include "recording/RealClock.h"
 
+#include <QTimer>
+
 #include <functional>
 #include <memory>
 
@@ -41,6 +43,9 @@ private:
     void chooseLanguage(const QString& wanted);
     void loadPlugin(const CommandLine& line);
 
+    /// Often enough for an end of a recording to come in time.
+    static constexpr int RecorderInterval = 20;
+
     LogStore m_log;
     RealClock m_clock;
     MessageBoxes m_boxes;
@@ -49,4 +54,5 @@ private:
     std::unique_ptr<PluginSlot> m_slot;
     std::unique_ptr<ViewerWindow> m_window;
     std::unique_ptr<AppWindows> m_desk;
+    QTimer m_recorderTimer;
 };

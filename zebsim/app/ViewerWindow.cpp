@@ -1,6 +1,7 @@
 #include "ViewerWindow.h"
 
 #include "CameraWindows.h"
+#include "HostKeys.h"
 #include "ImageArea.h"
 #include "LogDock.h"
 #include "PlayerBar.h"
@@ -24,6 +25,7 @@
 namespace {
 
 constexpr QSize FirstSize{1280, 800};
+constexpr int MessageTime = 5000;
 const QString StyleKey = QStringLiteral("env/style");
 
 }  // namespace
@@ -40,6 +42,8 @@ ViewerWindow::ViewerWindow(SimHost& host, const LogStore& log)
     setCentralWidget(m_area);
     m_bar->setObjectName(QStringLiteral("tools"));
     m_bar->setMovable(false);
+    new HostKeys(host, *m_bar);
+    m_bar->addSeparator();
     addModeSwitch();
     addStyleSwitch();
     m_images = std::make_unique<CameraWindows>(host, *m_area);
@@ -51,6 +55,8 @@ ViewerWindow::ViewerWindow(SimHost& host, const LogStore& log)
     connect(&host.events(), &HostEvents::camerasReplaced, this, &ViewerWindow::refresh);
     connect(&host.events(), &HostEvents::modeChanged, this, &ViewerWindow::refresh);
     connect(m_images.get(), &CameraWindows::shown, this, &ViewerWindow::refresh);
+    connect(&host.events(), &HostEvents::testTriggerCame, this,
+            [this] { statusBar()->showMessage(uiText("The test trigger has come."), MessageTime); });
     refresh();
 }
 

@@ -1,7 +1,8 @@
 #include "host/PluginSignal.h"
 
-#include "PLG_Interface.h"
+#include "host/SimAppStatus.h"
 
+#include <QDialog>
 #include <QMetaMethod>
 
 bool hasPluginSignal(const PLG_Interface& plugin, const QByteArray& signature) {
@@ -13,4 +14,23 @@ bool hasPluginSignal(const PLG_Interface& plugin, const QByteArray& signature) {
 bool raisePluginSignal(PLG_Interface& plugin, const QByteArray& name) {
     return hasPluginSignal(plugin, name + "()") &&
            QMetaObject::invokeMethod(&plugin, name.constData(), Qt::DirectConnection);
+}
+
+void sendToPlugins(const SimAppStatus& status, const QByteArray& name) {
+    // What a plug-in does then may take another away.
+    for (const QPointer<PLG_Interface> plugin : status.plugins()) {
+        if (plugin) {
+            raisePluginSignal(*plugin, name);
+        }
+    }
+}
+
+bool sendToActivePlugin(const SimAppStatus& status, const QByteArray& name) {
+    for (PLG_Interface* plugin : status.plugins()) {
+        const QDialog* dialog = plugin->getDialog(false);
+        if (dialog && dialog->isActiveWindow()) {
+            return raisePluginSignal(*plugin, name);
+        }
+    }
+    return false;
 }

@@ -69,6 +69,12 @@ int SimRecorder::getRecordingState() const {
 
 void SimRecorder::startRecReady() {
     m_journal.record("ZebRecorder::startRecReady");
+    arm();
+}
+
+void SimRecorder::arm() {
+    // The end of an earlier recording is none of this one.
+    m_run->proceed();
     m_owedEnd.reset();
     m_run->arm();
 }
@@ -112,8 +118,7 @@ void SimRecorder::press() {
             m_run->stop();
             break;
         default:
-            m_owedEnd.reset();
-            m_run->arm();
+            arm();
     }
 }
 
@@ -122,11 +127,7 @@ void SimRecorder::deliverEnd() {
     if (!recorded) {
         return;
     }
-    for (const QPointer<PLG_Interface> plugin : m_appStatus.plugins()) {
-        if (plugin) {
-            raisePluginSignal(*plugin, "signalEndRecording");
-        }
-    }
+    sendToPlugins(m_appStatus, "signalEndRecording");
     if (*recorded) {
         Q_EMIT m_events.somethingRecorded();
         if (m_appStatus.mode() == zeb::LiveMode) {

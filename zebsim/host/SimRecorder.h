@@ -46,6 +46,7 @@ public:
     void abandon() { m_run->abandon(); }
 
 private:
+    void arm();
     void trigger();
     void deliverEnd();
 

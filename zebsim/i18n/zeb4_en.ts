@@ -1147,5 +1147,9 @@
         <source>The test trigger has come.</source>
         <translation>The test trigger has come.</translation>
     </message>
+    <message>
+        <source>Trigger</source>
+        <translation>Trigger</translation>
+    </message>
 </context>
 </TS>

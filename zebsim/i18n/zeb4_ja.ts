@@ -1147,5 +1147,9 @@
         <source>The test trigger has come.</source>
         <translation>テストトリガを受信しました。</translation>
     </message>
+    <message>
+        <source>Trigger</source>
+        <translation>トリガ</translation>
+    </message>
 </context>
 </TS>

@@ -53,7 +53,6 @@ bool RecordRun::tried(const std::function<void()>& command) {
 }
 
 void RecordRun::arm() {
-    proceed();
     for (const auto& camera : camerasIn([](int state) { return !isArmed(state) && state != zeb::RecordRecording; })) {
         Part& part = partOf(camera);
         part = {camera, {}, 0, 0, false, false};
@@ -65,7 +64,11 @@ void RecordRun::arm() {
         }
     }
     m_changed = true;
+    const bool isEmpty = m_parts.empty();
     tell();
+    if (isEmpty) {
+        m_listener.ended(false);
+    }
 }
 
 void RecordRun::trigger() {
@@ -210,7 +213,7 @@ void RecordRun::tell() {
         m_listener.failed(std::exchange(m_failures, {}).join(QLatin1Char('\n')));
     }
     const bool isOver = std::all_of(m_parts.begin(), m_parts.end(), [](const Part& part) { return part.over; });
-    if (!isOver) {
+    if (m_parts.empty() || !isOver) {
         return;
     }
     const bool recorded = std::any_of(m_parts.begin(), m_parts.end(), [](const Part& part) {

@@ -1,0 +1,86 @@
+#include "HostKeys.h"
+
+#include "UiText.h"
+#include "camera/Camera.h"
+#include "host/PluginSignal.h"
+#include "host/SimHost.h"
+
+#include <QAction>
+#include <QToolBar>
+
+#include <algorithm>
+
+namespace {
+
+/// What the record key does next.
+QString recordText(int state) {
+    switch (state) {
+        case zeb::RecordCtsReady:
+            return uiText("Waiting For CTS Signal");
+        case zeb::RecordReady:
+            return uiText("Trigger");
+        case zeb::RecordRecording:
+            return uiText("Stop");
+        default:
+            return uiText("Record");
+    }
+}
+
+bool hasOpenDialog(PLG_Interface* plugin) {
+    return plugin->isDialogVisible();
+}
+
+}  // namespace
+
+HostKeys::HostKeys(SimHost& host, QToolBar& bar)
+    : QObject(&bar),
+      m_host(host),
+      m_record(bar.addAction(QString())),
+      m_cancel(bar.addAction(uiText("Cancel recording"))),
+      m_disconnect(bar.addAction(uiText("Disconnect all"))) {
+    m_record->setObjectName(QStringLiteral("record"));
+    m_record->setShortcut(Qt::Key_F12);
+    // The table is a window of its own.
+    m_record->setShortcutContext(Qt::ApplicationShortcut);
+    m_record->setAutoRepeat(false);
+    m_cancel->setObjectName(QStringLiteral("cancelRecording"));
+    m_disconnect->setObjectName(QStringLiteral("disconnectAll"));
+    connect(m_record, &QAction::triggered, this, &HostKeys::record);
+    connect(m_cancel, &QAction::triggered, this, [this] { m_host.recorder().cancel(); });
+    connect(m_disconnect, &QAction::triggered, this, &HostKeys::disconnectAll);
+    connect(&host.events(), &HostEvents::updateFinished, this, &HostKeys::refresh);
+    connect(&host.events(), &HostEvents::modeChanged, this, &HostKeys::refresh);
+    connect(&host.events(), &HostEvents::camerasReplaced, this, &HostKeys::refresh);
+    refresh();
+}
+
+void HostKeys::record() {
+    if (!sendToActivePlugin(m_host.appStatus(), "signalRecord")) m_host.recorder().press();
+}
+
+void HostKeys::disconnectAll() {
+    const QList<PLG_Interface*> plugins = m_host.appStatus().plugins();
+    if (std::any_of(plugins.begin(), plugins.end(), hasOpenDialog)) {
+        sendToPlugins(m_host.appStatus(), "signalDisconnect");
+        return;
+    }
+    try {
+        m_host.cameras().forEach(m_host.docManager().getConnectedDocKeys(), [](Camera& camera) {
+            // Its heads go together.
+            if (camera.get(&CameraState::connected)) camera.disconnect();
+        });
+    } catch (const std::exception& e) {
+        m_host.errorHandler(e);
+    }
+    m_host.updates().request();
+}
+
+void HostKeys::refresh() {
+    const int state = m_host.recorder().getRecordingState();
+    const bool isLive = m_host.isLiveMode();
+    const bool hasCameras = !m_host.docManager().getConnectedDocKeys().isEmpty();
+    m_record->setText(recordText(isLive ? state : int(zeb::RecordLive)));
+    m_record->setEnabled(isLive && hasCameras && state != zeb::RecordCtsReady);
+    m_cancel->setEnabled(state != zeb::RecordLive);
+    m_disconnect->setEnabled(hasCameras);
+}

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <QObject>
+
+class QAction;
+class QToolBar;
+class SimHost;
+
+/// The viewer's keys that work all cameras: record, cancel, disconnect. The record key means the table while that is
+/// the window in front.
+class HostKeys : public QObject {
+    Q_OBJECT
+
+public:
+    /// Goes with the bar. The host must outlive it.
+    HostKeys(SimHost& host, QToolBar& bar);
+
+private:
+    void record();
+    void disconnectAll();
+    void refresh();
+
+    SimHost& m_host;
+    QAction* m_record;
+    QAction* m_cancel;
+    QAction* m_disconnect;
+};
