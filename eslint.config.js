@@ -6,18 +6,20 @@ const js = require('@eslint/js');
 
 const readonly = names => Object.assign({}, ...names.map(name => ({ [name]: 'readonly' })));
 
-const browser = readonly(['window', 'document', 'location', 'Node', '$', 'jQuery', 'w2ui', 'w2utils']);
+const browser = readonly(['window', 'document', 'location', 'Node', 'Event', 'MouseEvent', 'clearTimeout', '$',
+    'jQuery', 'w2ui', 'w2utils']);
 
 // The topics of a page are joined into one script, so what one defines the others see.
 const table = readonly([
     'wrentabledialog',
     'wrentabledialog_obj', 'wrentabledialog_const_obj', 'wrentabledialog_column_obj', 'TABS',
-    'escapeMarkup', 'translate', 'parseReply', 'guarded', 'logged', 'onClick', 'textTip', 'closeTip',
-    'showElement', 'setText', 'setClass', 'setStyle',
+    'escapeMarkup', 'translate', 'parseReply', 'guarded', 'logged', 'onClick', 'onPress', 'onSwitch', 'textTip',
+    'closeTip', 'showElement', 'setText', 'setClass', 'setStyle',
     'Cell', 'COLUMNS', 'isBatch', 'isOff', 'isOffOrBatch', 'hasDropDowns', 'indexesOf', 'showChoice', 'plainColumn',
     'DrawnRow', 'columnKind', 'GridView', 'LIVE', 'MEMORY', 'views', 'viewAt', 'viewOf', 'tabHeader',
-    'dropDown', 'listenToGrid', 'connectedKeys', 'controls',
-    'lowLightSlider', 'showSlider', 'sliderValue', 'sliderMax', 'markupOf'
+    'dropDown', 'listenToGrid', 'rowKeys', 'connectedKeys', 'controls',
+    'lowLightSlider', 'showSlider', 'sliderValue', 'sliderMax', 'markupOf',
+    'numberBox', 'showNumber', 'keepingFocus'
 ]);
 
 const host = readonly(['zeb4func', 'plugin_obj', 'pluginIcons', 'SliderProperty',

@@ -25,6 +25,10 @@ function listenToGrid(view) {
     box.addEventListener('dblclick', event => onGridDoubleClick(view, event), true);
     box.addEventListener('mousedown', event => onGridPress(view, event), true);
     box.addEventListener('mousemove', event => onGridMove(view, event), true);
+    box.addEventListener('change', event => onGridChange(view, event), true);
+    box.addEventListener('input', event => onGridInput(event), true);
+    box.addEventListener('focusin', event => onGridFocus(view, event), true);
+    box.addEventListener('focusout', event => onGridBlur(event), true);
 }
 
 // A click on a control ends here, so what closes on a click elsewhere is closed beforehand.
@@ -37,12 +41,58 @@ function onGridPress(view, event) {
     if (slider) {
         lowLightSlider.hold(view, slider.row, slider.cell, event.target === slider.cell.parts.handle);
     }
+    const number = event.button === 0 && numberBoxUnder(view, event.target);
+    if (number) {
+        numberBox.press(view, number.row, number.cell, event);
+    }
 }
 
-// The row and cell of a low light slider that may be moved; null when `element` belongs to none.
+// The row and cell of a low light slider that may be moved, or of a number box that may be changed; null when `element`
+// belongs to none.
 function sliderUnder(view, element) {
-    const row = element.closest('.wren_slider_lowlight[dockey]:not([disabled])') && view.rowOf(element);
+    return placeUnder(view, element, '.wren_slider_lowlight[dockey]:not([disabled])');
+}
+
+function numberBoxUnder(view, element) {
+    return placeUnder(view, element, 'input.spinner[dockey]:not([disabled])');
+}
+
+function placeUnder(view, element, selector) {
+    const row = element.closest(selector) && view.rowOf(element);
     return row ? { row, cell: row.cellOf(element) } : null;
+}
+
+function onGridFocus(view, event) {
+    const number = numberBoxUnder(view, event.target);
+    if (number) {
+        numberBox.hold(view, number.row, number.cell);
+    }
+}
+
+// The widget has heard of it by then, and has handed out what was typed.
+function onGridBlur(event) {
+    if (isNumberBox(event.target)) {
+        numberBox.drop();
+    }
+}
+
+function onGridInput(event) {
+    if (isNumberBox(event.target)) {
+        numberBox.held.typed = true;
+    }
+}
+
+function isNumberBox(element) {
+    return numberBox.held !== null && numberBox.held.cell.parts.input === element;
+}
+
+function onGridChange(view, event) {
+    const row = view.rowOf(event.target);
+    const cell = row && row.cellOf(event.target);
+    if (cell && cell.kind.change) {
+        cell.forget();
+        guarded(() => cell.kind.change(row.key, event.target));
+    }
 }
 
 function onGridClick(view, event) {
@@ -97,12 +147,25 @@ function onGridKey(view, event) {
         lowLightSlider.hold(view, slider.row, slider.cell, false);
         return;
     }
+    if (isNumberBox(event.target)) {
+        onNumberKey(event.keyCode);
+        return;
+    }
     const row = view.rowOf(event.target);
     const cell = row && row.cellOf(event.target);
     const closed = event.target.matches('.SumoSelect[dockey]:not(.disabled)');
     if (cell && closed && [13, 32, 38, 40].includes(event.keyCode)) {
         event.preventDefault();
         useControl(view, row, cell, event.target);
+    }
+}
+
+// The widget does the rest.
+function onNumberKey(keyCode) {
+    if (keyCode === 13) {
+        numberBox.settle();
+    } else if (keyCode === 27) {
+        numberBox.revert();
     }
 }
 

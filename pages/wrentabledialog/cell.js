@@ -6,7 +6,9 @@
 //   empty(record)   whether the cell has no elements at all; asked at a full refresh only
 //   rebuild(...)    what only a full refresh brings
 //   tick(...)       what every refresh brings; a full refresh runs it after `rebuild`
-// Both get the cell, the record and the list's status, and write through the cell, which leaves out what the
+//   leave(cell)     before the elements go
+//   change(key, element)   what a change by the user does
+// The first two get the cell, the record and the list's status, and write through the cell, which leaves out what the
 // elements show already.
 class Cell {
     constructor(box, kind, short) {
@@ -18,6 +20,7 @@ class Cell {
         this.key = null; // the key that the elements carry
         this.parts = {};
         this.shown = {}; // `part@what` -> value last written
+        this.stale = false; // the user has touched a number that only a full refresh would write
     }
 
     rebuild(record, status) {
@@ -42,6 +45,9 @@ class Cell {
 
     clear() {
         if (this.filled) {
+            if (this.kind.leave) {
+                this.kind.leave(this);
+            }
             this.box.removeChild(this.content);
             this.filled = false;
         }

@@ -12,16 +12,18 @@ COLUMNS.recordCheck = {
     markup: `<div class="flexWrapper" part="wrapper" dockey>
         <input type="checkbox" class="wren_checkbox_recordCheck" part="box" id="wren_{short}_recordCheck_" dockey>
         </div>`,
+    // Only cameras that are selected can be checked, so the box of another one is off.
     tick(cell, record, status) {
-        cell.flag('box', 'disabled', !this.send || status.disabled);
+        cell.flag('box', 'disabled', status.disabled || !record.selected);
         if (record.connected) {
             cell.property('box', 'checked', Boolean(record.check));
             cell.classes('wrapper', record.check ? 'flexWrapper wren-recordCheck-status' : 'flexWrapper');
         }
-    }
+    },
+    change: (key, box) => wrentabledialog.setRecordCheck([key], box.checked)
 };
 
-// A number box, without its widget until it is touched. The widget takes `min` and `max` from the element.
+// A number box, see `numberBox`. Its widget takes `min` and `max` from the element.
 //   word   the last word of the input's id, which the key follows directly
 //   min, max, value   from a record to the number as text
 //   send   the bridge call that takes the keys and the new number
@@ -34,13 +36,29 @@ function spinnerColumn(options) {
         empty: record => isOff(record) || !record.totalFrame,
         markup: `<input type="text" class="spinner" part="input" id="wren_spinner_${options.word}" dockey>`,
         rebuild(cell, record) {
-            cell.property('input', 'value', options.value(record));
+            showNumber(cell, options.value(record));
         },
         tick(cell, record, status) {
-            cell.flag('input', 'disabled', !options.send || status.disabled);
+            if (status.disabled && numberBox.isHeld(cell)) {
+                numberBox.drop();
+            }
+            cell.flag('input', 'disabled', status.disabled);
             if (record.connected && record.totalFrame) {
-                cell.attribute('input', 'min', options.min(record));
-                cell.attribute('input', 'max', options.max(record));
+                const min = options.min(record);
+                const max = options.max(record);
+                cell.attribute('input', 'min', min);
+                cell.attribute('input', 'max', max);
+                if (cell.differs('input', 'limits', `${min} ${max}`)) {
+                    numberBox.limit(cell, min, max);
+                }
+                if (cell.stale) {
+                    showNumber(cell, options.value(record));
+                }
+            }
+        },
+        leave(cell) {
+            if (numberBox.isHeld(cell)) {
+                numberBox.drop();
             }
         }
     };
@@ -52,7 +70,8 @@ COLUMNS.selectStartFrameNo = spinnerColumn({
     word: 'select_start_frameno',
     min: record => record.selectStartMinFrameNo,
     max: record => record.selectEndFrameNo,
-    value: record => record.selectStartFrameNo
+    value: record => record.selectStartFrameNo,
+    send: (keys, value) => wrentabledialog.setSelectStartFrameNo(keys, value)
 });
 
 COLUMNS.selectEndFrameNo = spinnerColumn({
@@ -60,7 +79,8 @@ COLUMNS.selectEndFrameNo = spinnerColumn({
     word: 'select_end_frameno',
     min: record => record.selectStartFrameNo,
     max: record => record.selectEndMaxFrameNo,
-    value: record => record.selectEndFrameNo
+    value: record => record.selectEndFrameNo,
+    send: (keys, value) => wrentabledialog.setSelectEndFrameNo(keys, value)
 });
 
 COLUMNS.triggerOffset = spinnerColumn({
@@ -68,5 +88,6 @@ COLUMNS.triggerOffset = spinnerColumn({
     word: 'trigger_offset',
     min: record => record.minTriggerOffset,
     max: record => record.maxTriggerOffset,
-    value: record => record.triggerOffset
+    value: record => record.triggerOffset,
+    send: (keys, value) => wrentabledialog.setTriggerOffset(keys, value)
 });

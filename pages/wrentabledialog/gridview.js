@@ -55,17 +55,19 @@ class GridView {
         const { scrollTop, scrollLeft } = this.grid.last;
         const focus = document.activeElement;
         const key = focus && focus.getAttribute('dockey');
+        const typeOn = numberBox.pause();
         const took = draw();
         this.grid.last.scrollTop = scrollTop;
         this.grid.last.scrollLeft = scrollLeft;
         this.mount();
         this.focus(focus, key);
+        typeOn();
         return took;
     }
 
     // The keyboard follows its camera's row into the new frame.
     focus(element, key) {
-        if (this.box && element && element !== document.activeElement && this.box.contains(element) &&
+        if (this.box && element && element !== document.activeElement && this.grid.box.contains(element) &&
             element.getAttribute('dockey') === key) {
             element.focus();
             this.box.scrollTop = this.grid.last.scrollTop;
@@ -138,13 +140,13 @@ class GridView {
     // Brings the drawn rows up to the newest records.
     tick() {
         this.rows.forEach(row => this.tickRow(row));
-        if (this.batch && this.newestBatch) {
-            this.batch.tick(this.newestBatch, this.status);
+        if (this.batch) {
+            this.tickRow(this.batch);
         }
     }
 
     tickRow(row) {
-        const record = this.newest.get(row.key);
+        const record = this.recordOf(row);
         if (record) {
             row.tick(record, this.status);
         }
@@ -259,6 +261,11 @@ class GridView {
     showSelection() {
         const selected = new Set(this.grid.last.selection.indexes);
         this.rows.forEach(row => row.select(selected.has(row.index)));
+    }
+
+    // The newest record of a row; undefined when its camera is gone.
+    recordOf(row) {
+        return row === this.batch ? this.newestBatch : this.newest.get(row.key);
     }
 
     // Rows with drop-downs above a line.

@@ -25,7 +25,15 @@ Object.assign(wrentabledialog_obj, {
 
     initializeRecordingContainer() {
         // At the press already, not at the click: recording can't wait.
-        $('#timeline_rec_exec').on('mousedown', event => guarded(() => this.pressRecord(event.currentTarget)));
+        onPress('#timeline_rec_exec', button => this.pressRecord(button));
+        onPress('#timeline_rec_cancel', () => wrentabledialog.cancelRecord());
+        onSwitch('#timeline_trigger_test', on => wrentabledialog.setTriggerTesting(on));
+        onSwitch('#timeline_stopLiveCheckbox', on => wrentabledialog.stopLive(on));
+        onClick('#timeline_updateLiveButton', () => wrentabledialog.updateLive());
+        onClick('.snapshot-file', () => wrentabledialog.snapShot(1));
+        onClick('.snapshot-clip', () => wrentabledialog.snapShot(2));
+        onClick('.snapshot-both', () => wrentabledialog.snapShot(3));
+        onClick('.snapshot-setting', () => wrentabledialog.snapShot(4));
     },
 
     // The button stays disabled until the next cycle, against a double start.

@@ -73,6 +73,7 @@ Object.assign(wrentabledialog_obj, {
         this.disableTabs(true);
         this.preventSelect = false;
         this.closeFloating();
+        numberBox.letGo();
         if (TABS[number].memory) {
             this.activeMemoryTabNumber = number;
             if (wrentabledialog.isLiveMode()) {

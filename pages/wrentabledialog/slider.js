@@ -14,7 +14,7 @@ const lowLightSlider = {
         }
         this.letGo();
         const batch = row === view.batch;
-        const record = batch ? view.newestBatch : view.newest.get(row.key);
+        const record = view.recordOf(row);
         if (!record) {
             return;
         }
@@ -98,14 +98,12 @@ const lowLightSlider = {
 function makePlain(cell) {
     const { slider, handle } = cell.parts;
     const plain = markupOf(cell.kind, cell.short);
-    const focused = document.activeElement === handle;
-    $(slider).slider('destroy');
-    slider.className = plain.querySelector('[part="slider"]').className;
-    handle.className = plain.querySelector('[part="handle"]').className;
-    slider.appendChild(handle);
-    if (focused) {
-        handle.focus();
-    }
+    keepingFocus(handle, () => {
+        $(slider).slider('destroy');
+        slider.className = plain.querySelector('[part="slider"]').className;
+        handle.className = plain.querySelector('[part="handle"]').className;
+        slider.appendChild(handle);
+    });
     cell.forget();
 }
 

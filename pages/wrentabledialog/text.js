@@ -36,6 +36,20 @@ function onClick(selector, work) {
     });
 }
 
+// Runs `work` with the element when the main button goes down on it.
+function onPress(selector, work) {
+    $(selector).on('mousedown', event => {
+        if (!event.button) {
+            guarded(() => work(event.currentTarget));
+        }
+    });
+}
+
+// Runs `work` with the new state of a box that the user has switched.
+function onSwitch(selector, work) {
+    $(selector).on('change', event => guarded(() => work(event.currentTarget.checked)));
+}
+
 // Runs what the back end asked for; nobody else would hear of a failure.
 function logged(action) {
     try {

@@ -104,6 +104,45 @@ TEST(PageMenus, ASecondPressStartsNoSecondRecording) {
     EXPECT_FALSE(page.run("$('#timeline_rec_exec').prop('disabled')").toBool()) << "the next cycle frees it";
 }
 
+TEST(PagePanels, HandOnWhatIsPressed) {
+    TestHost test(Rig::standard(2));
+    connectCameras(test, 1, 2);
+    choose(test, {"1"});
+    TablePage page(test);
+    const auto made = [&page](const std::function<void()>& work) {
+        page.run("probe.callsBegin(); return 0");
+        work();
+        return calls(page, "^(record|cancelRecord|snapShot|stopLive|updateLive|setTriggerTesting)$");
+    };
+    const auto clicked = [&](const QString& target) { return made([&] { page.click(target); }); };
+    EXPECT_EQ(clicked("#btn-snapshot > button"), QStringList("snapShot 1"));
+    const QStringList entries = {"file", "clip", "both", "setting"};
+    for (const QString& entry : entries) {
+        page.click("#btn-snapshot .miscfuncs button");
+        EXPECT_EQ(clicked("#btn-snapshot a.snapshot-" + entry),
+                  QStringList(QString("snapShot %1").arg(entries.indexOf(entry) + 1)));
+    }
+    EXPECT_EQ(clicked("#timeline_updateLiveButton"), QStringList()) << "the image moves by itself";
+    EXPECT_EQ(clicked("#timeline_stopLiveCheckbox"), QStringList("stopLive true"));
+    EXPECT_TRUE(test.camera(1).get(&CameraState::stopLive));
+    EXPECT_EQ(clicked("#timeline_updateLiveButton"), QStringList("updateLive"));
+    EXPECT_EQ(clicked("#timeline_stopLiveCheckbox"), QStringList("stopLive false"));
+    EXPECT_EQ(clicked("#timeline_trigger_test"), QStringList("setTriggerTesting true"));
+    EXPECT_EQ(page.text("$('label[for=timeline_trigger_test]').text()"), "Trigger test ON");
+    EXPECT_EQ(clicked("#timeline_trigger_test"), QStringList("setTriggerTesting false"));
+
+    EXPECT_EQ(clicked("#timeline_rec_cancel"), QStringList()) << "there is nothing to cancel";
+    for (const char* state : {"IsReady", "IsRecording"}) {
+        test.host.flags().set(state, true);
+        page.tick();
+        EXPECT_EQ(made([&] { page.press("#timeline_rec_cancel"); }), QStringList("cancelRecord"));
+        page.release();
+        EXPECT_EQ(clicked("#timeline_rec_exec"), QStringList("record")) << "it brings the recording on";
+        EXPECT_FALSE(page.run("$('#timeline_rec_exec').prop('disabled')").toBool()) << "and can be pressed again";
+        test.host.flags().set(state, false);
+    }
+}
+
 TEST(PageMenus, LinksLeadToTheSettings) {
     TestHost test(Rig::standard(2));
     connectCameras(test, 1, 2);

@@ -123,17 +123,24 @@ void TablePage::press(const QString& selector) {
     m_spot = spotOf(selector, 0.5);
 }
 
+void TablePage::pressAt(const QString& selector, double right, double down) {
+    m_spot = spotOf(selector, right, down);
+    QTest::mouseMove(&handle(), m_spot);
+    QTest::mousePress(&handle(), Qt::LeftButton, {}, m_spot);
+    settle();
+}
+
 void TablePage::move(const QString& selector, double share) {
     m_spot = spotOf(selector, share);
     QTest::mouseMove(&handle(), m_spot);
 }
 
-QPoint TablePage::spotOf(const QString& selector, double share) {
+QPoint TablePage::spotOf(const QString& selector, double right, double down) {
     const QVariantMap spot = run(QStringLiteral("document.querySelector('%1').getBoundingClientRect()").arg(selector))
                                  .toObject()
                                  .toVariantMap();
-    const double x = spot.value("left").toDouble() + share * spot.value("width").toDouble();
-    const double y = spot.value("top").toDouble() + spot.value("height").toDouble() / 2;
+    const double x = spot.value("left").toDouble() + right * spot.value("width").toDouble();
+    const double y = spot.value("top").toDouble() + down * spot.value("height").toDouble();
     return view().mapTo(&window(), QPoint(qRound(x), qRound(y)));
 }
 

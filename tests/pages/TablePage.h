@@ -44,6 +44,8 @@ public:
     void click(const QString& selector, Qt::KeyboardModifiers modifiers = {});
     void doubleClick(const QString& selector);
     void press(const QString& selector);
+    /// Presses on a point of an element that is in view, by its shares of the width and of the height.
+    void pressAt(const QString& selector, double right, double down);
     /// Moves the mouse, its button as it is, to the middle of an element, or to `share` of its width.
     void move(const QString& selector, double share = 0.5);
     /// Lets go of the button where the mouse was moved to, or beyond the edge of the window.
@@ -61,8 +63,8 @@ private:
     QWebView& view();
     void input(const QString& selector, const ClickOptions& options);
     QWindow& handle();
-    /// A point of an element in the window's pixels, `share` of its width from its left.
-    QPoint spotOf(const QString& selector, double share);
+    /// A point of an element in the window's pixels, by its shares of the width and of the height.
+    QPoint spotOf(const QString& selector, double right, double down = 0.5);
 
     TestHost& m_test;
     QPoint m_spot;

@@ -1,12 +1,35 @@
 'use strict';
 
-// Number boxes with two arrows. `options.callback(value)` gets each new whole number: from `spinnerRealtimeFire` at
-// every change, from `spinnerStopFire` when the change has come to rest (the arrow let go, the box left, Enter).
+// Number boxes with two arrows. `options.callback(value)` gets each new whole number. `spinnerRealtimeFire` hands out
+// every step of the arrows, `spinnerStopFire` the last one, when the arrow is let go. A number that was typed is handed
+// out when it is finished, by Enter or by leaving the box, even when it is the one that stood there before; it may lie
+// beyond `min` and `max`, which bound the arrows. What a script writes to the box is never handed out.
 // `natural` true allows no number below zero; `decimal` true allows fractions.
 
 (function ($) {
+    const events = $.ui.spinner.prototype._events;
+
     const base = {
         options: { natural: true, decimal: false, callback: null },
+
+        _events: $.extend({}, events, {
+            input: function () {
+                this.typed = true;
+            },
+            keydown: function (event) {
+                if (event.keyCode === $.ui.keyCode.ENTER) {
+                    this._finish();
+                }
+                return events.keydown.call(this, event);
+            },
+            blur: function (event) {
+                const stays = this.cancelBlur;
+                events.blur.call(this, event);
+                if (!stays) {
+                    this._finish();
+                }
+            }
+        }),
 
         _parse: function (value) {
             const number = typeof value === 'number' ? value : parseFloat(String(value).replace(/,/g, ''));
@@ -17,42 +40,51 @@
             return this.options.natural ? Math.max(0, whole) : whole;
         },
 
-        // Hands out the value, once for each that differs from the last one handed out.
+        _finish: function () {
+            if (this.typed) {
+                this._fire();
+            }
+        },
+
         _fire: function () {
             const value = this.value();
-            if (value === null || value === this.fired) {
-                return;
-            }
-            this.fired = value;
-            if (this.options.callback) {
+            this.typed = false;
+            if (value !== null && this.options.callback) {
                 this.options.callback.call(this.element[0], value);
             }
         },
 
-        _create: function () {
+        _spin: function (step, event) {
+            const before = this.value();
+            this._super(step, event);
+            if (this.value() !== before) {
+                this._stepped();
+            }
+        },
+
+        // An arrow that is still down would go on for ever.
+        _destroy: function () {
+            clearTimeout(this.timer);
+            clearTimeout(this.mousewheelTimer);
             this._super();
-            this.fired = this.value();
         }
     };
 
     $.widget('zeb.spinnerStopFire', $.ui.spinner, $.extend({}, base, {
+        _stepped: function () {
+            this.moved = true;
+        },
         _stop: function (event) {
             this._super(event);
-            this._fire();
-        },
-        _refresh: function () {
-            this._super();
-            this._fire();
+            if (this.moved) {
+                this.moved = false;
+                this._fire();
+            }
         }
     }));
 
     $.widget('zeb.spinnerRealtimeFire', $.ui.spinner, $.extend({}, base, {
-        _spin: function (step, event) {
-            this._super(step, event);
-            this._fire();
-        },
-        _refresh: function () {
-            this._super();
+        _stepped: function () {
             this._fire();
         }
     }));

@@ -1,0 +1,330 @@
+#include "TablePage.h"
+
+#include <gmock/gmock.h>
+
+// The frame numbers of the memory tab, typed and stepped.
+
+namespace {
+
+const char* const Start = "select_start_frameno";
+const char* const End = "select_end_frameno";
+const char* const Offset = "trigger_offset";
+
+QString box(const char* word, const char* key) {
+    return QString("#wren_spinner_%1%2").arg(word, key);
+}
+
+/// A table of many cameras, three of which have recorded something.
+class PageNumbers : public testing::Test {
+protected:
+    PageNumbers() {
+        test.host.appStatus().enterMode(zeb::MemoryMode);
+        connectCameras(test, 1, 3);
+        record(1, {100, 1099}, 600, {200, 900});
+        record(2, {0, 49}, 0, {10, 40});
+        record(3, {0, 999}, 500, {0, 999});
+        page.update();
+    }
+
+    void record(DOCKEY key, const QPoint& whole, int trigger, const QPoint& kept) {
+        const auto list = [](const QPoint& range) { return QVariantList{range.x(), range.y()}; };
+        test.camera(key).change({{"recorded", true},
+                                 {"selected", true},
+                                 {"recordedRange", list(whole)},
+                                 {"recordedTrigger", trigger},
+                                 {"selectedRange", list(kept)}});
+    }
+
+    /// The calls of the bridge that `work` and the update after it make.
+    QStringList sent(const std::function<void()>& work) {
+        page.run("probe.callsBegin(); return 0");
+        work();
+        page.settle();
+        return page.list(
+            "probe.callsEnd().filter(call => /^set/.test(call[0]))"
+            ".map(call => [call[0], call[1][0].join(), String(call[1][1])].join(' '))");
+    }
+    QString shown(const QString& number) { return page.text(QString("$('%1').val()").arg(number)); }
+    /// What a camera keeps, as "first to last".
+    QString kept(DOCKEY key) {
+        const QPoint range = test.camera(key).get(&CameraState::selectedRange);
+        return QString("%1 to %2").arg(range.x()).arg(range.y());
+    }
+    /// Presses the mouse on the upper or lower arrow of a box that may be plain.
+    void pressArrow(const QString& number, bool up) { page.pressAt(number, 0.93, up ? 0.25 : 0.75); }
+    /// Replaces what stands in a box.
+    void type(const QString& number, const QString& text) {
+        page.click(number);
+        page.run(QString("$('%1')[0].select(); return 0").arg(number));
+        page.type(text);
+    }
+    int widgets() { return page.number("$('.ui-spinner').length"); }
+
+    TestHost test{Rig::standard(4)};
+    TablePage page{test, 5};
+};
+
+TEST_F(PageNumbers, GoOutWhenTheyAreStepped) {
+    const QString start = box(Start, "1");
+    EXPECT_EQ(widgets(), 0);
+    EXPECT_EQ(sent([&] { page.click(start); }), QStringList());
+    EXPECT_EQ(widgets(), 1) << "touched";
+    EXPECT_EQ(sent([&] { page.key(Qt::Key_Up); }), QStringList("setSelectStartFrameNo 1 -399"));
+    EXPECT_EQ(sent([&] { page.key(Qt::Key_PageDown); }), QStringList("setSelectStartFrameNo 1 -409"))
+        << "the box is the same after the update";
+    EXPECT_EQ(kept(1), "191 to 900");
+    EXPECT_EQ(shown(start), "-409");
+
+    const QString offset = box(Offset, "2");
+    EXPECT_EQ(sent([&] {
+                  pressArrow(offset, true);
+                  page.release();
+              }),
+              QStringList("setTriggerOffset 2 1"))
+        << "the first press on a plain box is one on its arrow already";
+    EXPECT_EQ(test.camera(2).get(&CameraState::triggerOffset), 1);
+    EXPECT_EQ(sent([&] {
+                  pressArrow(offset, false);
+                  page.release();
+              }),
+              QStringList("setTriggerOffset 2 0"));
+    EXPECT_FALSE(test.camera(2).get(&CameraState::triggerOffsetEnabled));
+    EXPECT_EQ(sent([&] { page.key(Qt::Key_Down); }), QStringList()) << "at its limit";
+    EXPECT_EQ(widgets(), 1);
+    EXPECT_EQ(page.list("probe.selected()"), QStringList({"1", "2", "3"})) << "none of this chose a row";
+    page.click("#wren-memoryInfo-list tr[recid=\"3\"] .wren_label_edit_camera_name");
+    EXPECT_EQ(widgets(), 0) << "the keyboard went elsewhere";
+}
+
+TEST_F(PageNumbers, StartAndEndCannotCross) {
+    record(1, {100, 1099}, 600, {600, 601});
+    page.update();
+    page.click(box(Start, "1"));
+    EXPECT_EQ(sent([&] {
+                  for (int i = 0; i < 3; ++i) {
+                      page.key(Qt::Key_Up);
+                  }
+              }),
+              QStringList("setSelectStartFrameNo 1 1"));
+    page.click(box(End, "1"));
+    EXPECT_EQ(sent([&] { page.key(Qt::Key_Down); }), QStringList());
+    page.key(Qt::Key_Up);
+    EXPECT_EQ(kept(1), "601 to 602");
+    page.click(box(Start, "1"));
+    test.camera(1).change({{"selectedRange", QVariantList{601, 800}}});
+    EXPECT_EQ(page.tick(), QStringList({"-1/selectEndFrameNo", "1/selectEndFrameNo", "1/selectStartFrameNo"}).mid(1));
+    EXPECT_EQ(sent([&] { page.key(Qt::Key_PageUp); }), QStringList("setSelectStartFrameNo 1 11"))
+        << "a tick moved the limit";
+}
+
+TEST_F(PageNumbers, GoOutWhenTheirTextIsFinished) {
+    struct Case {
+        const char* word;
+        QString text;
+        QStringList calls;
+        QString answer;  ///< that the camera's row shows after the next cycle
+    };
+    for (const Case& c : QList<Case>{
+             {Start, "-350\n", {"setSelectStartFrameNo 1 -350"}, "-350"},
+             {Start, "-349\t", {"setSelectStartFrameNo 1 -349"}, "-349"},
+             {Start, "1,000\n", {"setSelectStartFrameNo 1 1000"}, "300"},
+             {Start, "4294967295\n", {"setSelectStartFrameNo 1 2147483647"}, "300"},
+             {End, "-800\n", {"setSelectEndFrameNo 1 -800"}, "300"},
+             {End, "499.9\n", {"setSelectEndFrameNo 1 499"}, "499"},
+             {Offset, "-20\n", {"setTriggerOffset 1 -20"}, "-20"},
+             {Offset, "0\n", {"setTriggerOffset 1 0"}, "0"},
+             {Offset, "some\n", {}, "0"},
+             {Offset, "\t", {}, "0"},
+             {Offset, "7\x1b", {}, "0"},
+         }) {
+        SCOPED_TRACE(c.word + c.text.toStdString());
+        EXPECT_EQ(sent([&] { type(box(c.word, "1"), c.text); }), c.calls);
+        page.tick();
+        EXPECT_EQ(shown(box(c.word, "1")), c.answer);
+    }
+    EXPECT_EQ(kept(1), "900 to 1099");
+}
+
+TEST_F(PageNumbers, KeepWhatIsBeingTyped) {
+    const QString end = box(End, "1");
+    type(end, "-1");
+    EXPECT_EQ(sent([&] { page.tick(); }), QStringList());
+    EXPECT_EQ(shown(end), "-1");
+    page.update();
+    EXPECT_EQ(shown(end), "-1") << "an update";
+    Fault gone;
+    gone.gone = true;
+    test.host.faults().plant(2, "*", gone);
+    page.update();
+    EXPECT_EQ(page.number("probe.grid().records.length"), 3) << "the frame of the table is a new one";
+    EXPECT_EQ(shown(end), "-1");
+    EXPECT_EQ(sent([&] { page.type("00\n"); }), QStringList("setSelectEndFrameNo 1 -100"));
+    EXPECT_EQ(kept(1), "200 to 500");
+
+    type(box(End, "-1"), "-");
+    test.host.faults().plant(4, "*", gone);
+    page.update();
+    EXPECT_EQ(sent([&] { page.type("50\n"); }), QStringList("setSelectEndFrameNo 1,3 -50")) << "of the batch row too";
+    EXPECT_EQ(kept(1), "200 to 550");
+    EXPECT_EQ(kept(3), "0 to 450");
+}
+
+TEST_F(PageNumbers, OfTheBatchRowGoToAllCamerasEachWithItsLimits) {
+    const QString all = box(Start, "-1");
+    page.run("const at = document.getElementById('wren_spinner_select_start_frameno-1'); at.focus(); return 0");
+    EXPECT_EQ(shown(all), "-500") << "it stands for the last camera";
+    EXPECT_EQ(sent([&] { type(all, "20\n"); }), QStringList("setSelectStartFrameNo 1,2,3,4 20"));
+    EXPECT_EQ(QStringList({kept(1), kept(2), kept(3)}), QStringList({"620 to 900", "20 to 40", "520 to 999"}));
+    EXPECT_EQ(sent([&] { page.key(Qt::Key_Up); }), QStringList("setSelectStartFrameNo 1,2,3,4 21"));
+    EXPECT_EQ(sent([&] { type(all, "-1000\n"); }), QStringList("setSelectStartFrameNo 1,2,3,4 -1000"));
+    EXPECT_EQ(QStringList({kept(1), kept(2), kept(3)}), QStringList({"100 to 900", "0 to 40", "0 to 999"}));
+    EXPECT_EQ(shown(all), "-500");
+    EXPECT_EQ(sent([&] { type(all, "-500\n"); }), QStringList("setSelectStartFrameNo 1,2,3,4 -500"))
+        << "the number that stands there already is not yet that of the others";
+}
+
+TEST_F(PageNumbers, ShowWhatTheCameraAnswers) {
+    Fault fault;
+    fault.throws = "no";
+    test.host.faults().plant(1, "setSelectRange", fault);
+    // The update after the change does not reach the page, so that the tick is what mends the box.
+    page.run("wrentabledialog_obj.update = () => undefined; return 0");
+    type(box(Start, "1"), "0\n");
+    EXPECT_EQ(test.desk.texts().filter(": no").size(), 1);
+    test.desk.shown.clear();
+    EXPECT_EQ(shown(box(Start, "1")), "0");
+    page.tick();
+    EXPECT_EQ(shown(box(Start, "1")), "-400");
+    EXPECT_EQ(page.tick(), QStringList());
+    for (int again = 0; again < 2; ++again) {
+        EXPECT_EQ(sent([&] { page.key(Qt::Key_Up); }), QStringList("setSelectStartFrameNo 1 -399")) << again;
+        page.tick();
+    }
+    test.desk.shown.clear();
+}
+
+TEST_F(PageNumbers, SendNothingWhenTheyAreCutOff) {
+    struct Case {
+        const char* what;
+        std::function<void()> happens;
+    };
+    Fault gone;
+    gone.gone = true;
+    for (const Case& c : QList<Case>{
+             {"another plug-in", [&] { test.host.flags().set("IsOtherPluginOpen", true), page.tick(); }},
+             {"the camera gone quiet",
+              [&] {
+                  test.camera(1).change({{"connected", false}}), page.update();
+              }},
+             {"its frames erased",
+              [&] {
+                  test.camera(1).change({{"recorded", false}}), page.update();
+              }},
+             {"another mode", [&] { test.host.appStatus().enterMode(zeb::LiveMode), page.settle(); }},
+             {"file mode", [&] { test.host.appStatus().enterMode(zeb::FileMode), page.settle(); }},
+             {"an order of columns that was stored behind the page",
+              [&] {
+                  test.host.prefs().setValue(
+                      "wren/column_order/memoryInfo",
+                      "selectEndFrameNo,selectStartFrameNo,recordCheck,connectIcon,cameraName,alert,frameRate,"
+                      "originalStartFrameNo,originalEndFrameNo,totalFrame,triggerOffset");
+                  page.run("wrentabledialog_obj.autoUpdate(); return 0");
+              }},
+             {"the camera gone", [&] { test.host.faults().plant(1, "*", gone), page.update(); }},
+         }) {
+        SCOPED_TRACE(c.what);
+        test.host.flags().set("IsOtherPluginOpen", false);
+        test.camera(1).change({{"connected", true}, {"recorded", true}, {"selectedRange", QVariantList{200, 900}}});
+        test.host.appStatus().enterMode(zeb::MemoryMode);
+        page.settle();
+        page.update();
+        page.run(
+            "probe.timers = new Set();"
+            "const set = window.setTimeout, clear = window.clearTimeout;"
+            "window.setTimeout = function (work, ms) {"
+            "    const id = set.apply(window, arguments);"
+            "    if (ms === 500) { probe.timers.add(id); }"
+            "    return id; };"
+            "window.clearTimeout = function (id) { probe.timers.delete(id); clear(id); }; return 0");
+        const QStringList calls = sent([&] {
+            pressArrow(box(Start, "1"), true);
+            EXPECT_EQ(page.number("probe.timers.size"), 1) << "the arrow is about to go on";
+            c.happens();
+            EXPECT_EQ(widgets(), 0);
+            EXPECT_EQ(page.number("probe.timers.size"), 0);
+            page.releaseOutside();
+        });
+        EXPECT_EQ(calls, QStringList("setSelectStartFrameNo 1 -399"));
+    }
+}
+
+TEST(PageNumber, ThatWasTypedGoesToItsCameraWhenItIsScrolledAway) {
+    TestHost test(Rig::standard(60));
+    connectCameras(test, 1, 60);
+    test.host.appStatus().enterMode(zeb::MemoryMode);
+    for (Camera* camera : test.host.cameras().all()) {
+        camera->change({{"recorded", true}, {"recordedRange", QVariantList{0, 99}}});
+    }
+    TablePage page(test, 5);
+    page.click(box(Start, "3"));
+    page.type("1");
+    page.number("probe.scrollTo(100000)");
+    page.settle();
+    for (const Camera* camera : test.host.cameras().all()) {
+        EXPECT_EQ(camera->get(&CameraState::selectedRange).x(), camera->key() == 3 ? 10 : 0) << camera->key();
+    }
+    EXPECT_EQ(page.number("$('.ui-spinner').length"), 0);
+    page.number("probe.scrollTo(0)");
+    EXPECT_EQ(page.text("$('" + box(Start, "3") + "').val()"), "10");
+}
+
+TEST(PageRecordCheck, OfSelectedCamerasOnly) {
+    TestHost test(Rig::standard(3));
+    connectCameras(test, 1, 3);
+    for (const DOCKEY key : {1U, 2U, 3U}) {
+        test.camera(key).change({{"recorded", true}, {"recordedRange", QVariantList{0, 99}}});
+    }
+    test.host.appStatus().enterMode(zeb::MemoryMode);
+    TablePage page(test, 5);
+    choose(test, {"1", "3"});
+    page.update();
+    const auto checked = [&test] {
+        QStringList keys;
+        for (const Camera* camera : test.host.cameras().all()) {
+            if (camera->get(&CameraState::recordCheck)) {
+                keys << QString::number(camera->key());
+            }
+        }
+        return keys.join(',');
+    };
+    for (const QString& tab : {QStringLiteral("memoryInfo"), QStringLiteral("memoryPlugin")}) {
+        page.show(tab == "memoryInfo" ? 5 : 6);
+        const QString check = "#wren_" + tab + "_recordCheck_";
+        page.click(check + "1");
+        EXPECT_EQ(checked(), "1") << tab.toStdString();
+        EXPECT_EQ(page.text(QString("$('%1').parent().attr('class')").arg(check + "1")),
+                  "flexWrapper wren-recordCheck-status");
+        EXPECT_TRUE(page.run(QString("$('%1').prop('disabled')").arg(check + "2")).toBool()) << "not selected";
+        page.click(check + "2");
+        EXPECT_EQ(checked(), "1");
+        EXPECT_EQ(page.list("probe.selected()"), QStringList({"1", "3"})) << "the click chose no row";
+        // Chosen no more a moment ago: the page has not heard of it.
+        choose(test, {"1"});
+        page.click(check + "3");
+        EXPECT_EQ(checked(), "1");
+        page.tick();
+        EXPECT_FALSE(page.run(QString("$('%1').prop('checked')").arg(check + "3")).toBool());
+        choose(test, {"1", "3"});
+        page.update();
+        page.click(check + "1");
+        EXPECT_EQ(checked(), "");
+        test.host.flags().set("IsOtherPluginOpen", true);
+        page.tick();
+        page.click(check + "1");
+        EXPECT_EQ(checked(), "");
+        test.host.flags().set("IsOtherPluginOpen", false);
+        page.update();
+    }
+}
+
+}  // namespace
