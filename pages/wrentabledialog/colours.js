@@ -42,7 +42,7 @@ Object.assign(wrentabledialog_obj, {
         this.textColor = text;
         $('legend, #wren_related_settings').css('color', text);
         $('#wren_related_settings a').css('color', dark ? DARK_TEXT : '#9fd7fc');
-        $('label[for="timeline_stopLiveCheckbox"]').css('color', dark ? '#333333' : '#ffffff');
+        $('.option-recording label, #trigger_test label').css('color', dark ? '#333333' : '#ffffff');
     },
 
     // Contrast of two colours, and the relative luminance of one, as the accessibility guidelines define them.
