@@ -5,11 +5,12 @@
 #include "CameraView.h"
 #include "CameraWindow.h"
 #include "CameraWindows.h"
+#include "DialogRun.h"
 #include "EthernetDialog.h"
 #include "LogStore.h"
 #include "PreferencesDialog.h"
 #include "ProgressWait.h"
-#include "Style.h"
+#include "SnapShots.h"
 #include "ZebSupportFile.h"
 #include "host/SimHost.h"
 #include "image/FramePicture.h"
@@ -32,7 +33,7 @@ QByteArray pngOf(const QImage& image) {
 }  // namespace
 
 AppWindows::AppWindows(SimHost& host, const LogStore& log, const CameraWindows& images)
-    : m_host(host), m_log(log), m_images(images), m_boxes(host, *host.getMainWindow()) {
+    : m_host(host), m_log(log), m_images(images), m_boxes(host, *host.getMainWindow()), m_saving(host) {
     host.setAppDesk(this);
 }
 
@@ -45,18 +46,18 @@ int AppWindows::exec() {
     dialog->openAt(std::exchange(m_page, {}));
     const bool before = m_host.flags().isOn(DialogState);
     m_host.flags().set(DialogState, true);
-    const int result = run(dialog);
+    const int result = runDialog(m_host, dialog);
     m_host.flags().set(DialogState, before);
     m_host.updates().request();
     return result;
 }
 
 void AppWindows::openEthernetSettings() {
-    run(new EthernetDialog(m_host.cameras(), m_host.prefs(), m_host.getMainWindow()));
+    runDialog(m_host, new EthernetDialog(m_host.cameras(), m_host.prefs(), m_host.getMainWindow()));
 }
 
 void AppWindows::openAbout() {
-    run(new AboutDialog(m_pluginFile, m_host.getMainWindow()));
+    runDialog(m_host, new AboutDialog(m_pluginFile, m_host.getMainWindow()));
 }
 
 void AppWindows::editCamera(DOCKEY key) {
@@ -67,17 +68,19 @@ void AppWindows::editCamera(DOCKEY key) {
     QObject::connect(&m_host.events(), &HostEvents::camerasReplaced, dialog, &CameraDialog::reject);
     // Updates may be held back for as long as it stands.
     QObject::connect(&m_images, &CameraWindows::shown, dialog, &CameraDialog::follow);
-    run(dialog);
+    runDialog(m_host, dialog);
 }
 
-int AppWindows::run(QDialog* dialog) {
-    // The dialog goes with the main window, which may be destroyed while it stands.
-    const QPointer<QDialog> standing = dialog;
-    applyNativeStyle(m_host, *dialog);
-    m_host.docManager().endTurn();
-    const int result = dialog->exec();
-    delete standing;
-    return result;
+void AppWindows::save(bool layout) {
+    m_saving.save(layout);
+}
+
+bool AppWindows::isSaving() const {
+    return m_saving.isSaving();
+}
+
+void AppWindows::snapShot(int mode) {
+    takeSnapShot(m_host, currentImage(), mode);
 }
 
 void AppWindows::runProgress(const QString& text, QFutureWatcherBase& watcher) {

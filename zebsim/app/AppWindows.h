@@ -1,13 +1,13 @@
 #pragma once
 
 #include "DropDownBoxes.h"
+#include "SaveDesk.h"
 #include "ZebPrefsDialog.h"
 #include "ZebTypes.h"
 #include "host/AppDesk.h"
 
 class CameraWindows;
 class LogStore;
-class QDialog;
 class SimHost;
 
 /// The application's windows behind the host: dialogs, the image in front, pictures for a support file.
@@ -28,6 +28,9 @@ public:
     void openEthernetSettings() override;
     void openAbout() override;
     void runProgress(const QString& text, QFutureWatcherBase& watcher) override;
+    void save(bool layout) override;
+    bool isSaving() const override;
+    void snapShot(int mode) override;
     QImage currentImage() const override;
     void addToSupportFile(ZebSupportFile& file) const override;
     void showDropDownBox(const QString& key, const QRect& anchor) override;
@@ -38,12 +41,12 @@ public:
 private:
     void setPage(const QString& page) override { m_page = page; }
     int exec() override;
-    int run(QDialog* dialog);
 
     SimHost& m_host;
     const LogStore& m_log;
     const CameraWindows& m_images;
     DropDownBoxes m_boxes;
+    SaveDesk m_saving;
     QString m_pluginFile;
     QString m_page;
 };

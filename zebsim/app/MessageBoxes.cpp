@@ -65,7 +65,7 @@ void MessageBoxes::rejectAll() {
 }
 
 Answer MessageBoxes::show(const Message& message) {
-    if (m_rejecting) return {false, false};
+    if (m_rejecting) return {false};
     if (m_host == nullptr) {
         m_held << message;
         return {};
@@ -73,12 +73,12 @@ Answer MessageBoxes::show(const Message& message) {
     // The box goes with its parent, which may be destroyed while it stands.
     const QPointer<QMessageBox> box = makeBox(message);
     box->exec();
-    if (box.isNull()) return {false, false};
-    const QAbstractButton* chosen = box->clickedButton();
-    const QMessageBox::ButtonRole role =
-        chosen ? box->buttonRole(const_cast<QAbstractButton*>(chosen)) : QMessageBox::RejectRole;
+    if (box.isNull()) return {false};
+    QAbstractButton* chosen = box->clickedButton();
+    const QMessageBox::ButtonRole role = chosen ? box->buttonRole(chosen) : QMessageBox::RejectRole;
     const Answer answer{role == QMessageBox::AcceptRole || role == QMessageBox::YesRole,
-                        box->checkBox() != nullptr && box->checkBox()->isChecked()};
+                        box->checkBox() != nullptr && box->checkBox()->isChecked(),
+                        chosen ? box->standardButton(chosen) : 0};
     delete box;
     return answer;
 }

@@ -6,6 +6,7 @@
 #include "LogDock.h"
 #include "PlayerBar.h"
 #include "PluginButton.h"
+#include "SaveKeys.h"
 #include "Style.h"
 #include "UiText.h"
 #include "ZebPrefsDialog.h"
@@ -94,6 +95,8 @@ void ViewerWindow::addStyleSwitch() {
 }
 
 void ViewerWindow::addDialogs(AppDesk& desk) {
+    m_bar->addSeparator();
+    new SaveKeys(m_host, desk, *m_bar);
     m_bar->addSeparator();
     const auto add = [this](const char* text, const char* name, const std::function<void()>& open) {
         QAction* action = m_bar->addAction(uiText(text));

@@ -26,7 +26,8 @@ public:
 
     /// Gives the plug-in a button of its name in the tool bar. The slot must outlive the window.
     void addPlugin(PluginSlot& slot);
-    /// Buttons for the application's dialogs. The desk must live until the application's event loop has ended.
+    /// Buttons that save, and those for the application's dialogs. The desk must live until the application's event
+    /// loop has ended.
     void addDialogs(AppDesk& desk);
     QMdiArea* mdiArea() const;
     CameraWindows& images() { return *m_images; }

@@ -22,6 +22,12 @@ public:
     /// A modal progress with `text` until `watcher` has finished; nothing cancels it.
     virtual void runProgress(const QString& text, QFutureWatcherBase& watcher) = 0;
 
+    /// Asks what is to be saved of the recordings and where, each camera for itself or all in one picture, and begins.
+    virtual void save(bool layout) = 0;
+    virtual bool isSaving() const = 0;
+    /// As `ZebSaver::snapShot`.
+    virtual void snapShot(int mode) = 0;
+
     /// The image in front as it is shown; a null image without one.
     virtual QImage currentImage() const = 0;
     /// Adds what only the application knows: its log, pictures of its windows and of its plug-ins' dialogs.

@@ -2,6 +2,8 @@
 
 #include "ZebTypes.h"
 
+#include <QStandardPaths>
+
 namespace {
 
 struct FactoryValue {
@@ -19,6 +21,7 @@ QVariant liveColumns(const char* own) {
 }
 
 QList<FactoryValue> table() {
+    const QString pictures = QStandardPaths::writableLocation(QStandardPaths::PicturesLocation);
     return {
         {"alert/setsynchronization", true},
         {"alert/wren/multiheadlockalert", true},
@@ -34,6 +37,10 @@ QList<FactoryValue> table() {
         {"recording/AutoDownload", true},
         {"recording/RecAllConnectedCamera", false},
         {"recording/useTriggerTest", true},
+        {"save/folder", pictures},
+        {"save/format", text("png")},
+        {"snapshot/folder", pictures},
+        {"snapshot/format", text("png")},
         {"sync/external", false},
         {"sync/generator/address", text("")},
         {"sync/generator/input", 0},

@@ -28,6 +28,8 @@ struct Answer {
     bool accepted = true;
     /// "Don't show again" was ticked.
     bool silenced = false;
+    /// The chosen one of `Message::buttons`; 0 for none of them.
+    int button = 0;
 };
 
 /// Shows message boxes: to a user, or to a test that has its answers ready. GUI thread.

@@ -33,7 +33,7 @@ SimHost::SimHost(Clock& clock, MessageDesk& desk, const QString& prefsPath)
       m_player(m_journal),
       m_recorder(m_journal, clock, m_cameras, m_flags, m_appStatus, m_events, m_updates, m_translator,
                  m_waitingMessages),
-      m_saver(m_journal, m_flags, [this] { return m_appDesk ? m_appDesk->currentImage() : QImage(); }),
+      m_saver(m_journal, m_flags, [this] { return m_appDesk; }),
       m_cameraOps(m_journal, m_cameras, m_docManager, m_recorder, m_saver, m_prefs, m_flags, m_waitingMessages),
       m_viewOps(m_cameras, m_flags),
       m_mdi(m_cameras, m_appStatus, m_flags),
@@ -153,6 +153,12 @@ bool SimHost::confirmModal(const QString& text, QWidget* parent, const ButtonTex
     Message box = message(Message::Confirm, text, parent);
     box.buttons = buttons;
     return show(box).accepted;
+}
+
+int SimHost::choose(const QString& text, QWidget* parent, const ButtonTexts& buttons) {
+    Message box = message(Message::Confirm, text, parent);
+    box.buttons = buttons;
+    return show(box).button;
 }
 
 bool SimHost::confirmWithDontShowAgain(const QString& text, const QString& prefKey, QWidget* parent,
@@ -365,10 +371,16 @@ bool SimHost::isSelectionKept() const {
 
 void SimHost::saveFiles() {
     m_journal.record("ZebHost::saveFiles");
+    if (m_appDesk) {
+        m_appDesk->save(false);
+    }
 }
 
 void SimHost::saveLayoutFiles() {
     m_journal.record("ZebHost::saveLayoutFiles");
+    if (m_appDesk) {
+        m_appDesk->save(true);
+    }
 }
 
 void SimHost::setTriggerTesting(bool on) {

@@ -100,6 +100,9 @@ public:
 
     QString translate(const QString& text) const override;
 
+    /// Asks a question with more answers than two; answers the chosen one of `buttons`, 0 when the box was left.
+    int choose(const QString& text, QWidget* parent, const ButtonTexts& buttons);
+
     void info(const QString& message, QWidget* parent) override;
     void warn(const QString& message, QWidget* parent) override;
     void warnList(const QString& message, const QStringList& messages, QWidget* parent) override;

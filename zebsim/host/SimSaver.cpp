@@ -1,5 +1,6 @@
 #include "host/SimSaver.h"
 
+#include "host/AppDesk.h"
 #include "host/Journal.h"
 #include "host/StatusFlags.h"
 
@@ -8,11 +9,11 @@
 
 #include <utility>
 
-SimSaver::SimSaver(Journal& journal, const StatusFlags& flags, std::function<QImage()> currentImage)
-    : m_journal(journal), m_flags(flags), m_currentImage(std::move(currentImage)) {}
+SimSaver::SimSaver(Journal& journal, const StatusFlags& flags, std::function<AppDesk*()> desk)
+    : m_journal(journal), m_flags(flags), m_desk(std::move(desk)) {}
 
 bool SimSaver::isSaving() const {
-    return m_flags.isOn(QStringLiteral("IsSaving"));
+    return m_flags.isOn(QStringLiteral("IsSaving")) || (m_desk() && m_desk()->isSaving());
 }
 
 bool SimSaver::isBgSaving() const {
@@ -25,7 +26,7 @@ bool SimSaver::isBgConverting() const {
 
 void SimSaver::copyToClipboard(int what) {
     m_journal.record("ZebSaver::copyToClipboard", {what});
-    const QImage image = m_currentImage();
+    const QImage image = m_desk() ? m_desk()->currentImage() : QImage();
     if (!image.isNull()) {
         QGuiApplication::clipboard()->setImage(image);
     }
@@ -33,4 +34,7 @@ void SimSaver::copyToClipboard(int what) {
 
 void SimSaver::snapShot(int mode) {
     m_journal.record("ZebSaver::snapShot", {mode});
+    if (m_desk()) {
+        m_desk()->snapShot(mode);
+    }
 }

@@ -2,18 +2,17 @@
 
 #include "ZebSaver.h"
 
-#include <QImage>
-
 #include <functional>
 
+class AppDesk;
 class Journal;
 class StatusFlags;
 
 /// Whether images are being saved, and the way to the clipboard.
 class SimSaver : public ZebSaver {
 public:
-    /// `currentImage` answers the image in front, a null image without one.
-    SimSaver(Journal& journal, const StatusFlags& flags, std::function<QImage()> currentImage);
+    /// `desk` answers the application's windows, null without an application.
+    SimSaver(Journal& journal, const StatusFlags& flags, std::function<AppDesk*()> desk);
 
     bool isSaving() const override;
     bool isBgSaving() const override;
@@ -24,5 +23,5 @@ public:
 private:
     Journal& m_journal;
     const StatusFlags& m_flags;
-    const std::function<QImage()> m_currentImage;
+    const std::function<AppDesk*()> m_desk;
 };

@@ -1151,5 +1151,133 @@
         <source>Trigger</source>
         <translation>Trigger</translation>
     </message>
+    <message>
+        <source>Saving</source>
+        <translation>Saving</translation>
+    </message>
+    <message>
+        <source>Video (MP4)</source>
+        <translation>Video (MP4)</translation>
+    </message>
+    <message>
+        <source>%1 needs the package qt5-image-formats-plugins.</source>
+        <translation>%1 needs the package qt5-image-formats-plugins.</translation>
+    </message>
+    <message>
+        <source>Video needs the program ffmpeg, which is not installed.</source>
+        <translation>Video needs the program ffmpeg, which is not installed.</translation>
+    </message>
+    <message>
+        <source>The installed ffmpeg has no encoder for MP4.</source>
+        <translation>The installed ffmpeg has no encoder for MP4.</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Folder</translation>
+    </message>
+    <message>
+        <source>Format</source>
+        <translation>Format</translation>
+    </message>
+    <message>
+        <source>Browse...</source>
+        <translation>Browse...</translation>
+    </message>
+    <message>
+        <source>First frame</source>
+        <translation>First frame</translation>
+    </message>
+    <message>
+        <source>Last frame</source>
+        <translation>Last frame</translation>
+    </message>
+    <message>
+        <source>Frames</source>
+        <translation>Frames</translation>
+    </message>
+    <message>
+        <source>%1: %2 frames saved in %3</source>
+        <translation>%1: %2 frames saved in %3</translation>
+    </message>
+    <message>
+        <source>%1: camera lost before its first frame, %2 frames not saved (%3)</source>
+        <translation>%1: camera lost before its first frame, %2 frames not saved (%3)</translation>
+    </message>
+    <message>
+        <source>%1: camera lost after frame %2, %3 frames not saved (%4)</source>
+        <translation>%1: camera lost after frame %2, %3 frames not saved (%4)</translation>
+    </message>
+    <message>
+        <source>%1: %2 can't be written, %3 frames not saved (%4)</source>
+        <translation>%1: %2 can't be written, %3 frames not saved (%4)</translation>
+    </message>
+    <message>
+        <source>%1: skipped, %2 frames saved, %3 not</source>
+        <translation>%1: skipped, %2 frames saved, %3 not</translation>
+    </message>
+    <message>
+        <source>%1: cancelled, %2 frames saved, %3 not</source>
+        <translation>%1: cancelled, %2 frames saved, %3 not</translation>
+    </message>
+    <message>
+        <source>There can't be a folder %1.</source>
+        <translation>There can't be a folder %1.</translation>
+    </message>
+    <message>
+        <source>There is not enough space in %1: %2 are needed, %3 are free.</source>
+        <translation>There is not enough space in %1: %2 are needed, %3 are free.</translation>
+    </message>
+    <message>
+        <source>Everything is saved.</source>
+        <translation>Everything is saved.</translation>
+    </message>
+    <message>
+        <source>Not everything is saved.</source>
+        <translation>Not everything is saved.</translation>
+    </message>
+    <message>
+        <source>%1 of %2: %3, frame %4 of %5</source>
+        <translation>%1 of %2: %3, frame %4 of %5</translation>
+    </message>
+    <message>
+        <source>Images are being saved already.</source>
+        <translation>Images are being saved already.</translation>
+    </message>
+    <message>
+        <source>Layout</source>
+        <translation>Layout</translation>
+    </message>
+    <message>
+        <source>No connected camera has recorded images.</source>
+        <translation>No connected camera has recorded images.</translation>
+    </message>
+    <message>
+        <source>%1 exists already.</source>
+        <translation>%1 exists already.</translation>
+    </message>
+    <message>
+        <source>Overwrite</source>
+        <translation>Overwrite</translation>
+    </message>
+    <message>
+        <source>Overwrite all</source>
+        <translation>Overwrite all</translation>
+    </message>
+    <message>
+        <source>Skip camera</source>
+        <translation>Skip camera</translation>
+    </message>
+    <message>
+        <source>Snapshots</source>
+        <translation>Snapshots</translation>
+    </message>
+    <message>
+        <source>%1 can't be written: %2</source>
+        <translation>%1 can't be written: %2</translation>
+    </message>
+    <message>
+        <source>There is no image to take.</source>
+        <translation>There is no image to take.</translation>
+    </message>
 </context>
 </TS>

@@ -1151,5 +1151,133 @@
         <source>Trigger</source>
         <translation>トリガ</translation>
     </message>
+    <message>
+        <source>Saving</source>
+        <translation>保存中</translation>
+    </message>
+    <message>
+        <source>Video (MP4)</source>
+        <translation>動画 (MP4)</translation>
+    </message>
+    <message>
+        <source>%1 needs the package qt5-image-formats-plugins.</source>
+        <translation>%1 にはパッケージ qt5-image-formats-plugins が必要です。</translation>
+    </message>
+    <message>
+        <source>Video needs the program ffmpeg, which is not installed.</source>
+        <translation>動画にはプログラム ffmpeg が必要ですが、インストールされていません。</translation>
+    </message>
+    <message>
+        <source>The installed ffmpeg has no encoder for MP4.</source>
+        <translation>インストールされている ffmpeg には MP4 のエンコーダーがありません。</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>フォルダー</translation>
+    </message>
+    <message>
+        <source>Format</source>
+        <translation>形式</translation>
+    </message>
+    <message>
+        <source>Browse...</source>
+        <translation>参照...</translation>
+    </message>
+    <message>
+        <source>First frame</source>
+        <translation>開始フレーム</translation>
+    </message>
+    <message>
+        <source>Last frame</source>
+        <translation>終了フレーム</translation>
+    </message>
+    <message>
+        <source>Frames</source>
+        <translation>フレーム数</translation>
+    </message>
+    <message>
+        <source>%1: %2 frames saved in %3</source>
+        <translation>%1: %2 フレームを %3 に保存しました</translation>
+    </message>
+    <message>
+        <source>%1: camera lost before its first frame, %2 frames not saved (%3)</source>
+        <translation>%1: 最初のフレームの前にカメラを見失いました。%2 フレームは保存されていません (%3)</translation>
+    </message>
+    <message>
+        <source>%1: camera lost after frame %2, %3 frames not saved (%4)</source>
+        <translation>%1: フレーム %2 の後でカメラを見失いました。%3 フレームは保存されていません (%4)</translation>
+    </message>
+    <message>
+        <source>%1: %2 can't be written, %3 frames not saved (%4)</source>
+        <translation>%1: %2 に書き込めません。%3 フレームは保存されていません (%4)</translation>
+    </message>
+    <message>
+        <source>%1: skipped, %2 frames saved, %3 not</source>
+        <translation>%1: スキップしました。保存 %2 フレーム、未保存 %3 フレーム</translation>
+    </message>
+    <message>
+        <source>%1: cancelled, %2 frames saved, %3 not</source>
+        <translation>%1: キャンセルしました。保存 %2 フレーム、未保存 %3 フレーム</translation>
+    </message>
+    <message>
+        <source>There can't be a folder %1.</source>
+        <translation>フォルダー %1 は作成できません。</translation>
+    </message>
+    <message>
+        <source>There is not enough space in %1: %2 are needed, %3 are free.</source>
+        <translation>%1 の空き容量が足りません。必要 %2、空き %3 です。</translation>
+    </message>
+    <message>
+        <source>Everything is saved.</source>
+        <translation>すべて保存しました。</translation>
+    </message>
+    <message>
+        <source>Not everything is saved.</source>
+        <translation>保存されていないものがあります。</translation>
+    </message>
+    <message>
+        <source>%1 of %2: %3, frame %4 of %5</source>
+        <translation>%1 / %2: %3、フレーム %4 / %5</translation>
+    </message>
+    <message>
+        <source>Images are being saved already.</source>
+        <translation>画像を保存しています。</translation>
+    </message>
+    <message>
+        <source>Layout</source>
+        <translation>レイアウト</translation>
+    </message>
+    <message>
+        <source>No connected camera has recorded images.</source>
+        <translation>画像を記録した接続中のカメラがありません。</translation>
+    </message>
+    <message>
+        <source>%1 exists already.</source>
+        <translation>%1 はすでにあります。</translation>
+    </message>
+    <message>
+        <source>Overwrite</source>
+        <translation>上書き</translation>
+    </message>
+    <message>
+        <source>Overwrite all</source>
+        <translation>すべて上書き</translation>
+    </message>
+    <message>
+        <source>Skip camera</source>
+        <translation>このカメラをスキップ</translation>
+    </message>
+    <message>
+        <source>Snapshots</source>
+        <translation>スナップショット</translation>
+    </message>
+    <message>
+        <source>%1 can't be written: %2</source>
+        <translation>%1 に書き込めません: %2</translation>
+    </message>
+    <message>
+        <source>There is no image to take.</source>
+        <translation>取り込む画像がありません。</translation>
+    </message>
 </context>
 </TS>

@@ -1,0 +1,17 @@
+#include "DialogRun.h"
+
+#include "Style.h"
+#include "host/SimHost.h"
+
+#include <QDialog>
+#include <QPointer>
+
+int runDialog(SimHost& host, QDialog* dialog) {
+    // The dialog goes with the main window, which may be destroyed while it stands.
+    const QPointer<QDialog> standing = dialog;
+    applyNativeStyle(host, *dialog);
+    host.docManager().endTurn();
+    const int result = dialog->exec();
+    delete standing;
+    return result;
+}

@@ -1,0 +1,89 @@
+#include "SaveDesk.h"
+
+#include "DialogRun.h"
+#include "SaveDialog.h"
+#include "SaveProgress.h"
+#include "SaveTexts.h"
+#include "Style.h"
+#include "UiText.h"
+#include "host/PluginSignal.h"
+#include "host/SimHost.h"
+#include "saving/SaveJob.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QMessageBox>
+
+SaveDesk::SaveDesk(SimHost& host) : m_host(host) {}
+
+SaveDesk::~SaveDesk() = default;
+
+bool SaveDesk::isSaving() const {
+    return m_job && m_job->isRunning();
+}
+
+void SaveDesk::save(bool layout) {
+    if (isSaving()) {
+        m_host.info(uiText("Images are being saved already."), nullptr);
+        return;
+    }
+    const SaveSources sources = saveSources(m_host.cameras());
+    const std::vector<SaveTrack> tracks = layout ? tracksOfLayout(sources, uiText("Layout")) : tracksOfEach(sources);
+    if (tracks.empty()) {
+        m_host.info(uiText("No connected camera has recorded images."), nullptr);
+        return;
+    }
+    const QPointer<QWidget> before = QApplication::activeWindow();
+    Preferences& prefs = m_host.prefs();
+    if (runDialog(m_host, new SaveDialog(prefs, tracks, m_host.getMainWindow())) != QDialog::Accepted) return;
+    begin({prefs.value(QStringLiteral("save/folder")).toString(),
+           saveFormat(prefs.value(QStringLiteral("save/format")).toString()), tracks,
+           [this](const QString& file) { return ask(file); }, VideoEncoder::installed()},
+          before);
+}
+
+void SaveDesk::begin(const SaveOrders& orders, QWidget* before) {
+    auto job = std::make_unique<SaveJob>(m_host.cameras(), orders);
+    if (const auto refusal = job->start()) {
+        m_host.alert(refusalText(*refusal, orders), nullptr);
+        return;
+    }
+    m_job = std::move(job);
+    QObject::connect(m_job.get(), &SaveJob::finished, m_job.get(), [this] { finish(); });
+    showProgress(before);
+}
+
+void SaveDesk::showProgress(QWidget* before) {
+    // Nobody has closed the last one's list of results.
+    delete m_progress;
+    m_progress = new SaveProgress(*m_job, m_host.getMainWindow());
+    m_progress->setAttribute(Qt::WA_DeleteOnClose);
+    m_progress->setModal(true);
+    applyNativeStyle(m_host, *m_progress);
+    m_progress->show();
+    if (before != nullptr) QObject::connect(m_progress, &QDialog::finished, before, &QWidget::activateWindow);
+}
+
+Overwrite SaveDesk::ask(const QString& file) {
+    const int answer = m_host.choose(uiText("%1 exists already.").arg(QDir::toNativeSeparators(file)), m_progress,
+                                     {{QMessageBox::Yes, uiText("Overwrite")},
+                                      {QMessageBox::YesToAll, uiText("Overwrite all")},
+                                      {QMessageBox::No, uiText("Skip camera")},
+                                      {QMessageBox::Cancel, uiText("Cancel")}});
+    switch (answer) {
+        case QMessageBox::Yes:
+            return Overwrite::This;
+        case QMessageBox::YesToAll:
+            return Overwrite::All;
+        case QMessageBox::No:
+            return Overwrite::SkipCamera;
+        default:
+            return Overwrite::Cancel;
+    }
+}
+
+void SaveDesk::finish() {
+    m_host.updates().request();
+    // A plug-in that has asked while images were saved has not started its timer.
+    sendToPlugins(m_host.appStatus(), "signalStartAutoUpdate");
+}

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <QPointer>
+
+#include <memory>
+
+class SaveJob;
+class SaveProgress;
+class SimHost;
+class QString;
+class QWidget;
+enum class Overwrite;
+struct SaveOrders;
+
+/// Saves what the cameras have recorded: asks, begins, and shows how it goes. GUI thread.
+class SaveDesk {
+public:
+    /// `host` must outlive the desk.
+    explicit SaveDesk(SimHost& host);
+    /// What is being saved ends there; only complete files stay.
+    ~SaveDesk();
+
+    /// Back when the user has decided. Saving goes on behind a modal progress.
+    void save(bool layout);
+    bool isSaving() const;
+
+private:
+    /// `before` is the window that the user was in.
+    void begin(const SaveOrders& orders, QWidget* before);
+    void showProgress(QWidget* before);
+    Overwrite ask(const QString& file);
+    void finish();
+
+    SimHost& m_host;
+    std::unique_ptr<SaveJob> m_job;
+    QPointer<SaveProgress> m_progress;
+};

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <QObject>
+
+class AppDesk;
+class QAction;
+class QToolBar;
+class SimHost;
+
+/// The viewer's keys that save what is recorded; in memory mode only. They mean the table while that is the window in
+/// front.
+class SaveKeys : public QObject {
+    Q_OBJECT
+
+public:
+    /// The object goes with the bar. Host and desk must live until the application's event loop has ended.
+    SaveKeys(SimHost& host, AppDesk& desk, QToolBar& bar);
+
+private:
+    void refresh();
+
+    SimHost& m_host;
+    QAction* m_save;
+    QAction* m_layout;
+};

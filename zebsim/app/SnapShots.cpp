@@ -1,0 +1,65 @@
+#include "SnapShots.h"
+
+#include "DialogButtons.h"
+#include "DialogRun.h"
+#include "TargetFields.h"
+#include "camera/Camera.h"
+#include "host/SimHost.h"
+#include "saving/FileError.h"
+#include "saving/SnapShotFile.h"
+
+#include <QClipboard>
+#include <QDialog>
+#include <QDialogButtonBox>
+#include <QDir>
+#include <QGuiApplication>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+namespace {
+
+const QString Topic = QStringLiteral("snapshot");
+
+enum Mode { ToFile = 1, ToClipboard = 2, ToBoth = 3, Settings = 4 };
+
+void openSettings(SimHost& host) {
+    auto* dialog = new QDialog(host.getMainWindow());
+    dialog->setWindowTitle(uiText("Snapshots"));
+    auto* target = new TargetFields(host.prefs(), Topic, false, dialog);
+    auto* layout = new QVBoxLayout(dialog);
+    layout->addWidget(target);
+    QDialogButtonBox* buttons = addOkCancel(*dialog);
+    layout->addWidget(buttons);
+    QObject::connect(target, &TargetFields::changed, buttons,
+                     [=] { buttons->buttons().first()->setEnabled(target->isComplete()); });
+    QObject::connect(dialog, &QDialog::accepted, target, &TargetFields::store);
+    runDialog(host, dialog);
+}
+
+void writeFile(SimHost& host, const QImage& image) {
+    const Camera* camera = host.cameras().find(host.docManager().getCurrentDockey(0));
+    const QString folder = host.prefs().value(Topic % QStringLiteral("/folder")).toString();
+    const SaveFormat& format = saveFormat(host.prefs().value(Topic % QStringLiteral("/format")).toString());
+    try {
+        writeSnapShot(folder, camera ? camera->name() : QString(), QDateTime::currentDateTime(), format, image);
+    } catch (const FileError& e) {
+        host.alert(
+            uiText("%1 can't be written: %2").arg(QDir::toNativeSeparators(e.file()), QString::fromUtf8(e.what())),
+            nullptr);
+    }
+}
+
+}  // namespace
+
+void takeSnapShot(SimHost& host, const QImage& image, int mode) {
+    if (mode == Settings) {
+        openSettings(host);
+        return;
+    }
+    if (image.isNull()) {
+        host.info(uiText("There is no image to take."), nullptr);
+        return;
+    }
+    if (mode == ToClipboard || mode == ToBoth) QGuiApplication::clipboard()->setImage(image);
+    if (mode == ToFile || mode == ToBoth) writeFile(host, image);
+}

@@ -1,0 +1,98 @@
+#include "TargetFields.h"
+
+#include "UiText.h"
+#include "host/Preferences.h"
+#include "saving/SaveFormat.h"
+#include "saving/VideoEncoder.h"
+
+#include <QComboBox>
+#include <QDir>
+#include <QFileDialog>
+#include <QFormLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QStandardItemModel>
+
+namespace {
+
+QString labelOf(const SaveFormat& format) {
+    return format.isVideo() ? uiText("Video (MP4)") : format.id.toUpper();
+}
+
+/// What there must be for files of that format; empty when there is.
+QString missingFor(const SaveFormat& format) {
+    if (format.isPictureThatCanBeWritten()) return {};
+    if (!format.isVideo()) return uiText("%1 needs the package qt5-image-formats-plugins.").arg(labelOf(format));
+    const VideoEncoder& encoder = VideoEncoder::installed();
+    if (encoder.program.isEmpty()) return uiText("Video needs the program ffmpeg, which is not installed.");
+    return encoder.isUsable() ? QString() : uiText("The installed ffmpeg has no encoder for MP4.");
+}
+
+}  // namespace
+
+TargetFields::TargetFields(Preferences& prefs, const QString& topic, bool withVideo, QWidget* parent)
+    : QWidget(parent), m_prefs(prefs), m_topic(topic), m_folder(new QLineEdit(this)), m_format(new QComboBox(this)) {
+    m_folder->setObjectName(QStringLiteral("folder"));
+    m_format->setObjectName(QStringLiteral("format"));
+    auto* form = new QFormLayout(this);
+    form->setContentsMargins(0, 0, 0, 0);
+    form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
+    form->addRow(uiText("Folder"), makeFolder(prefs.value(topic % QStringLiteral("/folder")).toString()));
+    form->addRow(uiText("Format"), m_format);
+    const QString missing = addFormats(withVideo);
+    if (!missing.isEmpty()) form->addRow(new QLabel(missing, this));
+    chooseFormat(prefs.value(topic % QStringLiteral("/format")).toString());
+}
+
+QWidget* TargetFields::makeFolder(const QString& folder) {
+    auto* row = new QWidget(this);
+    auto* layout = new QHBoxLayout(row);
+    layout->setContentsMargins(0, 0, 0, 0);
+    m_folder->setText(QDir::toNativeSeparators(folder));
+    m_folder->setMinimumWidth(50 * fontMetrics().averageCharWidth());
+    layout->addWidget(m_folder);
+    auto* button = new QPushButton(uiText("Browse..."), row);
+    button->setAutoDefault(false);
+    layout->addWidget(button);
+    connect(m_folder, &QLineEdit::textChanged, this, &TargetFields::changed);
+    connect(button, &QPushButton::clicked, this, &TargetFields::browse);
+    return row;
+}
+
+/// Answers what the disabled ones lack.
+QString TargetFields::addFormats(bool withVideo) {
+    QStringList lacks;
+    const auto* model = qobject_cast<QStandardItemModel*>(m_format->model());
+    for (const SaveFormat& format : saveFormats()) {
+        if (format.isVideo() && !withVideo) continue;
+        m_format->addItem(labelOf(format), format.id);
+        const QString missing = missingFor(format);
+        if (missing.isEmpty()) continue;
+        model->item(m_format->count() - 1)->setEnabled(false);
+        lacks << missing;
+    }
+    return lacks.join(QLatin1Char('\n'));
+}
+
+void TargetFields::chooseFormat(const QString& id) {
+    const int index = m_format->findData(id);
+    const bool isThere = index >= 0 && (m_format->model()->index(index, 0).flags() & Qt::ItemIsEnabled);
+    m_format->setCurrentIndex(isThere ? index : 0);
+}
+
+void TargetFields::browse() {
+    const QString folder = QFileDialog::getExistingDirectory(this, uiText("Folder"), m_folder->text());
+    if (!folder.isEmpty()) m_folder->setText(QDir::toNativeSeparators(folder));
+}
+
+bool TargetFields::isComplete() const {
+    return !m_folder->text().trimmed().isEmpty();
+}
+
+void TargetFields::store() {
+    const QString folder = QDir::fromNativeSeparators(m_folder->text().trimmed());
+    m_prefs.setValue(m_topic % QStringLiteral("/folder"), QDir(folder).absolutePath());
+    m_prefs.setValue(m_topic % QStringLiteral("/format"), m_format->currentData());
+}
