@@ -190,6 +190,14 @@ void ScenarioApi::answers(const QStringList& texts) {
     m_dialogs.queueAnswers(texts);
 }
 
+void ScenarioApi::save(const QVariantMap& target) {
+    guarded([&] { m_dialogs.saves().order(target); });
+}
+
+QJSValue ScenarioApi::results() {
+    return guarded([&] { return plain(SaveScripting::results(m_givenUp)); });
+}
+
 QJSValue ScenarioApi::messages() {
     return plain(m_dialogs.takeMessages());
 }

@@ -56,6 +56,8 @@ public:
     Q_INVOKABLE void modal(const QJSValue& function);
     /// As `zeb.answer`, which takes any number of texts, hands them over.
     Q_INVOKABLE void answers(const QStringList& texts);
+    Q_INVOKABLE void save(const QVariantMap& target = {});
+    Q_INVOKABLE QJSValue results();
     Q_INVOKABLE QJSValue messages();
     Q_INVOKABLE QJSValue log();
     Q_INVOKABLE QJSValue calls();

@@ -47,6 +47,7 @@ QVariantList ScenarioDialogs::takeMessages() {
 QString ScenarioDialogs::leftOver() const {
     if (!m_functions.isEmpty()) return QStringLiteral("a function still waits for a modal dialog");
     if (!m_answers.isEmpty()) return QStringLiteral("no box took the answer ") % m_answers.join(QLatin1String(", "));
+    if (m_saves.isOrderLeft()) return QStringLiteral("no save dialog took an order");
     return {};
 }
 
@@ -58,6 +59,10 @@ QWebView& ScenarioDialogs::pageOfStanding() {
 }
 
 void ScenarioDialogs::dialogStands(QDialog* dialog) {
+    if (m_saves.isFor(*dialog)) {
+        serveSave(*dialog);
+        return;
+    }
     const QPointer<QMessageBox> box = qobject_cast<QMessageBox*>(dialog);
     if (box) writeDown(*box);
     if (!m_functions.isEmpty()) {
@@ -66,6 +71,14 @@ void ScenarioDialogs::dialogStands(QDialog* dialog) {
     }
     // The function may have answered the box itself.
     if (box && box->isVisible()) answer(*box);
+}
+
+void ScenarioDialogs::serveSave(QDialog& dialog) {
+    try {
+        m_saves.serve(dialog);
+    } catch (const ScenarioError& e) {
+        Q_EMIT unanswerable(QString::fromUtf8(e.what()));
+    }
 }
 
 void ScenarioDialogs::writeDown(QMessageBox& box) {

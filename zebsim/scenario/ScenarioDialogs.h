@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ModalWatcher.h"
+#include "SaveScripting.h"
 
 #include <QJSValue>
 #include <QList>
@@ -27,9 +28,11 @@ public:
     /// Texts of buttons, or their names ("ok", "cancel", "yes", "no"), for the message boxes to come. A box without
     /// an answer is accepted.
     void queueAnswers(const QStringList& answers);
+    /// The orders for save dialogs, which come before the functions.
+    SaveScripting& saves() { return m_saves; }
     /// The boxes since the last call, each a map with `kind`, `text` and `answer`.
     QVariantList takeMessages();
-    /// Functions and answers that no dialog took, in words; empty when there are none.
+    /// Functions, answers and orders that no dialog took, in words; empty when there are none.
     QString leftOver() const;
     /// The page of the modal dialog that stands; throws `ScenarioError` when there is none.
     static QWebView& pageOfStanding();
@@ -37,16 +40,18 @@ public:
 Q_SIGNALS:
     /// A function that waited for a dialog has thrown.
     void threw(const QJSValue& error);
-    /// A message box had no button of the given answer.
+    /// A message box had no button of the given answer, or a save dialog no such format.
     void unanswerable(const QString& text);
 
 private:
     void dialogStands(QDialog* dialog);
+    void serveSave(QDialog& dialog);
     void writeDown(QMessageBox& box);
     void answer(QMessageBox& box);
 
     ModalWatcher m_watcher;
     QList<QJSValue> m_functions;
     QStringList m_answers;
+    SaveScripting m_saves;
     QVariantList m_messages;
 };

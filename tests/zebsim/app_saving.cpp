@@ -1,0 +1,167 @@
+#include "CameraWindows.h"
+#include "CommandLine.h"
+#include "ModalWatcher.h"
+#include "SaveDialog.h"
+#include "SaveProgress.h"
+#include "ScenarioDialogs.h"
+#include "Simulator.h"
+#include "ViewerWindow.h"
+#include "camera/Camera.h"
+#include "support/StubPlugin.h"
+
+#include <QAction>
+#include <QClipboard>
+#include <QComboBox>
+#include <QDir>
+#include <QGuiApplication>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTableWidget>
+#include <QTemporaryDir>
+
+#include <gmock/gmock.h>
+
+namespace {
+
+/// A plug-in that can be told to save, and when it may ask again.
+class SavingPlugin : public StubPlugin {
+    Q_OBJECT
+
+Q_SIGNALS:
+    void signalSaveFile();
+    void signalSaveLayout();
+    void signalStartAutoUpdate();
+};
+
+/// Two cameras with three frames each to keep.
+class AppSaving : public testing::Test {
+protected:
+    AppSaving() {
+        comeToFront(simulator.window());
+        for (DOCKEY key = 1; key <= 2; ++key) {
+            host.cameras().find(key)->change({{"connected", true}, {"recorded", true}, {"recordedTrigger", 10}});
+            host.cameras().find(key)->change(
+                {{"resolution", QVariantList{64, 64}}, {"selectedRange", QVariantList{9, 11}}});
+        }
+        host.prefs().setValue("save/folder", folder.filePath("out"));
+        host.prefs().setValue("snapshot/folder", folder.filePath("snap"));
+    }
+
+    static void comeToFront(QWidget& window) {
+        window.show();
+        window.activateWindow();
+        while (!window.isActiveWindow()) QCoreApplication::processEvents();
+    }
+    QStringList filesIn(const char* name) const {
+        return QDir(folder.filePath(name)).entryList(QDir::Files, QDir::Name);
+    }
+    QAction& action(const char* name) { return *simulator.window().findChild<QAction*>(name); }
+    QStringList results() {
+        return SaveScripting::results([] { return false; });
+    }
+    QStringList messages() {
+        QStringList texts;
+        for (const QVariant& message : dialogs.takeMessages()) texts << message.toMap().value("text").toString();
+        return texts;
+    }
+
+    QTemporaryDir folder;
+    const CommandLine line = CommandLine::parse({"zebsim", "--rig", "2", "--prefs", folder.filePath("p.ini")});
+    Simulator simulator{line};
+    SimHost& host = simulator.host();
+    ScenarioDialogs dialogs;
+};
+
+TEST_F(AppSaving, WritesWhatTheDialogShows) {
+    host.cameras().find(2)->change({{"name", "<b>%2</b>"}});
+    ModalWatcher watcher;
+    QStringList row;
+    const auto once = QObject::connect(&watcher, &ModalWatcher::stands, [&](QDialog* dialog) {
+        const auto* table = dialog->findChild<QTableWidget*>("cameras");
+        for (int column = 0; table && column < 4; ++column) row << table->item(1, column)->text();
+    });
+    dialogs.saves().order({{"format", "jpeg"}});
+    host.saveFiles();
+    QObject::disconnect(once);
+    EXPECT_TRUE(host.saver().isSaving()) << "it goes on when the dialog is gone";
+    host.saveFiles();
+    EXPECT_EQ(messages(), QStringList("Images are being saved already."));
+    const QString target = QDir::toNativeSeparators(folder.filePath("out"));
+    EXPECT_EQ(results(),
+              QStringList({"Camera 1: 3 frames saved in " + target, "<b>%2</b>: 3 frames saved in " + target}));
+    EXPECT_FALSE(host.saver().isSaving());
+    EXPECT_EQ(row, QStringList({"<b>%2</b>", "-1", "1", "3"}));
+    EXPECT_EQ(filesIn("out").size(), 6);
+    EXPECT_EQ(host.prefs().value("save/format"), "jpeg");
+}
+
+TEST_F(AppSaving, TellsWhyThereIsNothingToSave) {
+    host.prefs().setValue("save/folder", folder.filePath("p.ini/below"));
+    dialogs.saves().order({});
+    host.saveLayoutFiles();
+    host.setRig(Rig::standard(1));
+    host.saveFiles();
+    EXPECT_EQ(messages(), QStringList({"There can't be a folder " + folder.filePath("p.ini/below") + ".",
+                                       "No connected camera has recorded images."}));
+    EXPECT_FALSE(host.saver().isSaving());
+}
+
+TEST_F(AppSaving, EndsWithTheApplication) {
+    QDir(folder.path()).mkdir("out");
+    QFile old(folder.filePath("out/Camera 1_-00001.png"));
+    ASSERT_TRUE(old.open(QIODevice::WriteOnly));
+    dialogs.saves().order({});
+    ModalWatcher watcher;
+    QObject::connect(&watcher, &ModalWatcher::stands, [&](QDialog* dialog) {
+        if (dialog->inherits("QMessageBox")) simulator.quit();
+    });
+    simulator.run([&] { host.saveFiles(); });
+    EXPECT_EQ(filesIn("out").size(), 1);
+    EXPECT_EQ(old.size(), 0) << "a question that nobody has answered overwrites nothing";
+}
+
+TEST_F(AppSaving, KeysMeanThePluginInFront) {
+    SavingPlugin plugin;
+    QStringList raised;
+    QObject::connect(&plugin, &SavingPlugin::signalSaveFile, [&] { raised << "file"; });
+    QObject::connect(&plugin, &SavingPlugin::signalSaveLayout, [&] { raised << "layout"; });
+    QObject::connect(&plugin, &SavingPlugin::signalStartAutoUpdate, [&] { raised << "start"; });
+    plugin.dialog = std::make_unique<QDialog>();
+    host.appStatus().registerPlugin(&plugin);
+    EXPECT_FALSE(action("save").isEnabled()) << "there is nothing recorded to be seen";
+    host.appStatus().enterMode(zeb::MemoryMode);
+    comeToFront(*plugin.dialog);
+    action("save").trigger();
+    action("saveLayout").trigger();
+    EXPECT_EQ(raised, QStringList({"file", "layout"}));
+    comeToFront(simulator.window());
+    dialogs.saves().order({});
+    action("saveLayout").trigger();
+    results();
+    EXPECT_EQ(raised, QStringList({"file", "layout", "start"})) << "its timer rests while images are saved";
+    EXPECT_EQ(filesIn("out"), QStringList({"Layout_00000.png", "Layout_00001.png", "Layout_00002.png"}));
+    host.appStatus().unregisterPlugin(&plugin);
+}
+
+TEST_F(AppSaving, TakesSnapshots) {
+    QGuiApplication::clipboard()->clear();
+    host.saver().snapShot(1);
+    EXPECT_EQ(messages(), QStringList("There is no image to take."));
+    host.cameras().find(1)->change({{"selected", true}, {"name", "Gate/1"}});
+    simulator.window().images().showNow();
+    host.saver().snapShot(1);
+    EXPECT_TRUE(QGuiApplication::clipboard()->image().isNull());
+    host.saver().snapShot(3);
+    host.saver().snapShot(2);
+    EXPECT_EQ(QGuiApplication::clipboard()->image().size(), QSize(64, 64));
+    ASSERT_EQ(filesIn("snap").size(), 2);
+    EXPECT_THAT(filesIn("snap").first().toStdString(), testing::MatchesRegex("Gate_1_[0-9]+-[0-9]+_001.png"));
+    EXPECT_EQ(QImage(folder.filePath("snap/" + filesIn("snap").first())).size(), QSize(64, 64));
+    host.prefs().setValue("snapshot/folder", folder.filePath("p.ini"));
+    host.saver().snapShot(1);
+    EXPECT_THAT(messages().join("|").toStdString(), testing::StartsWith(folder.filePath("p.ini").toStdString()));
+}
+
+}  // namespace
+
+#include "app_saving.moc"
