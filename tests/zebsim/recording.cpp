@@ -239,6 +239,9 @@ TEST_F(RecordingTest, MissesCamerasThatGo) {
     EXPECT_EQ(messages(), "") << "told once";
     plant(2, "*", {});
     EXPECT_EQ(recorded(2), "nothing");
+    EXPECT_EQ(states(), "4 0 0 - 0") << "those that have not failed can record";
+    host.recorder().startRecReady();
+    EXPECT_EQ(states(), "2 2 0 - 2");
 }
 
 TEST_F(RecordingTest, MissesReadyCamerasAndEndsWhenNoneIsLeft) {

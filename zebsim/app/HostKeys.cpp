@@ -55,7 +55,9 @@ HostKeys::HostKeys(SimHost& host, QToolBar& bar)
 }
 
 void HostKeys::record() {
-    if (!sendToActivePlugin(m_host.appStatus(), "signalRecord")) m_host.recorder().press();
+    // Out of an error only the host has a way.
+    const bool hasFailed = m_host.recorder().getRecordingState() == zeb::RecordError;
+    if (hasFailed || !sendToActivePlugin(m_host.appStatus(), "signalRecord")) m_host.recorder().press();
 }
 
 void HostKeys::disconnectAll() {

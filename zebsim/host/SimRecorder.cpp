@@ -46,17 +46,19 @@ int SimRecorder::getRecStatus(const DocKeyList& keys) const {
         }
     }
     int furthest = zeb::RecordLive;
-    bool failed = false;
+    bool anyFailed = false;
+    bool allFailed = true;
     for (const DOCKEY key : keys) {
         const Camera* camera = m_cameras.find(key);
         if (camera && camera->get(&CameraState::connected)) {
             const int state = camera->get(&CameraState::recordState);
             const bool isError = state > zeb::RecordRecording || state < zeb::RecordLive;
-            failed = failed || isError;
+            anyFailed = anyFailed || isError;
+            allFailed = allFailed && isError;
             furthest = isError ? furthest : std::max(furthest, state);
         }
     }
-    return furthest == zeb::RecordLive && failed ? int(zeb::RecordError) : furthest;
+    return anyFailed && allFailed ? int(zeb::RecordError) : furthest;
 }
 
 int SimRecorder::getRecordingState() const {

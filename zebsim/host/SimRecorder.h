@@ -25,8 +25,8 @@ public:
                 SimAppStatus& appStatus, HostEvents& events, UpdateCycle& updates, const Translator& translator,
                 WaitingMessages& messages);
 
-    /// As the flags tell, and without one the furthest of the cameras asked about; an error only when no other is under
-    /// way.
+    /// As the flags tell, and without one the furthest of the cameras asked about; an error only when all have failed,
+    /// for the others can record.
     int getRecStatus(const DocKeyList& keys) const override;
     int getRecordingState() const override;
     void startRecReady() override;
