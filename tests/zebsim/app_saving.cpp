@@ -7,7 +7,7 @@
 #include "Simulator.h"
 #include "ViewerWindow.h"
 #include "camera/Camera.h"
-#include "support/StubPlugin.h"
+#include "support/SavingPlugin.h"
 
 #include <QAction>
 #include <QClipboard>
@@ -22,16 +22,6 @@
 #include <gmock/gmock.h>
 
 namespace {
-
-/// A plug-in that can be told to save, and when it may ask again.
-class SavingPlugin : public StubPlugin {
-    Q_OBJECT
-
-Q_SIGNALS:
-    void signalSaveFile();
-    void signalSaveLayout();
-    void signalStartAutoUpdate();
-};
 
 /// Two cameras with three frames each to keep.
 class AppSaving : public testing::Test {
@@ -163,5 +153,3 @@ TEST_F(AppSaving, TakesSnapshots) {
 }
 
 }  // namespace
-
-#include "app_saving.moc"

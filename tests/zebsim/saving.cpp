@@ -90,7 +90,7 @@ TEST_F(Saving, WritesTheChosenFramesAndNoOthers) {
             const QImage read = QImageReader(path(file)).read().convertToFormat(QImage::Format_RGB32);
             const int number = file.section('_', -1).section('.', 0, 0).toInt();
             const QString camera = file.startsWith('G') ? "Gate" : "Nozzle/2";
-            const QImage drawn = drawFrame({camera, Size, number, number * 1000}, Size);
+            const QImage drawn = drawFrame({camera, Size, number, qint64(number) * 1000}, Size);
             EXPECT_EQ(read.size(), Size) << file.toStdString();
             EXPECT_TRUE(read == drawn || qstrcmp(format, "jpeg") == 0) << file.toStdString();
             QFile::remove(path(file));
@@ -234,7 +234,7 @@ protected:
         return wanted;
     }
     qint64 framesIn(const QString& name) const {
-        return QFileInfo(path(name)).size() / (4 * Size.width() * Size.height());
+        return QFileInfo(path(name)).size() / (qint64(4) * Size.width() * Size.height());
     }
 
     QTemporaryDir programs;

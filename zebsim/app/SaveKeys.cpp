@@ -14,9 +14,9 @@ SaveKeys::SaveKeys(SimHost& host, AppDesk& desk, QToolBar& bar)
       m_save(bar.addAction(uiText("Save"))),
       m_layout(bar.addAction(uiText("Save layout"))) {
     m_save->setObjectName(QStringLiteral("save"));
-    m_save->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_S));
+    m_save->setShortcut(QStringLiteral("Ctrl+S"));
     m_layout->setObjectName(QStringLiteral("saveLayout"));
-    m_layout->setShortcut(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S));
+    m_layout->setShortcut(QStringLiteral("Ctrl+Shift+S"));
     // The table is a window of its own.
     for (QAction* key : {m_save, m_layout}) key->setShortcutContext(Qt::ApplicationShortcut);
     connect(m_save, &QAction::triggered, this, [this, &desk] {
