@@ -23,9 +23,16 @@ void FaultPlan::plant(DOCKEY key, const QString& operation, const Fault& fault) 
             m_faults.remove(key);
         }
     } else if (fault.gone && operation == everyOperation) {
-        m_gone.insert(key);
+        insertGone(key);
     }
     updateAny();
+}
+
+void FaultPlan::insertGone(DOCKEY key) {
+    if (!m_gone.contains(key)) {
+        m_gone.insert(key);
+        m_tellGone();
+    }
 }
 
 void FaultPlan::plantAt(int call, const Fault& fault) {
@@ -42,7 +49,7 @@ int FaultPlan::callCount() const {
 }
 
 void FaultPlan::updateAny() {
-    m_any = !m_faults.isEmpty() || m_faultyCall > 0;
+    m_any = !m_faults.isEmpty() || !m_gone.isEmpty() || m_faultyCall > 0;
 }
 
 void FaultPlan::clear() {
@@ -65,7 +72,7 @@ Fault FaultPlan::meet(DOCKEY key, const char* operation) {
         fault = m_callFault;
     }
     if (fault.gone) {
-        m_gone.insert(key);
+        insertGone(key);
     }
     return fault;
 }

@@ -6,6 +6,7 @@
 #include <QSet>
 
 #include <atomic>
+#include <functional>
 #include <mutex>
 
 class Clock;
@@ -28,6 +29,9 @@ struct Fault {
 /// have no fault of their own.
 class FaultPlan {
 public:
+    /// To be told when a camera goes; on the thread that finds out, and without asking the plan.
+    void whenGone(std::function<void()> tell) { m_tellGone = std::move(tell); }
+
     /// Plants a fault in the place of an earlier one. An empty fault takes it away, and brings a camera back that it
     /// had made gone.
     void plant(DOCKEY key, const QString& operation, const Fault& fault);
@@ -44,8 +48,11 @@ public:
 
 private:
     Fault meet(DOCKEY key, const char* operation);
+    /// Under the lock, as `updateAny`.
+    void insertGone(DOCKEY key);
     void updateAny();
 
+    std::function<void()> m_tellGone = [] {};
     std::atomic<bool> m_any{false};
     mutable std::mutex m_mutex;
     QHash<DOCKEY, QHash<QString, Fault>> m_faults;

@@ -39,6 +39,10 @@ SimHost::SimHost(Clock& clock, MessageDesk& desk, const QString& prefsPath)
       m_mdi(m_cameras, m_appStatus, m_flags),
       m_undo(m_journal) {
     m_translator.load(QStringLiteral("en"));
+    m_faults.whenGone([this] {
+        QMetaObject::invokeMethod(
+            &m_updates, [this] { m_updates.request(); }, Qt::QueuedConnection);
+    });
     if (!m_prefs.problem().isEmpty()) {
         Message message;
         message.kind = Message::Warn;
