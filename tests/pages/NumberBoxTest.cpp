@@ -238,6 +238,7 @@ TEST_F(PageNumbers, SendNothingWhenTheyAreCutOff) {
         test.host.appStatus().enterMode(zeb::MemoryMode);
         page.settle();
         page.update();
+        EXPECT_TRUE(page.until("$('link.replaced, .w2ui-lock').length === 0")) << "what covers the rows fades out";
         page.run(
             "probe.timers = new Set();"
             "const set = window.setTimeout, clear = window.clearTimeout;"

@@ -18,6 +18,9 @@ class QWebView;
 /// In the page stands `probe`, see probe.js. An error of the page's scripts, or a message box, fails the test.
 class TablePage {
 public:
+    /// Interval of the table's own timer, which no test lives to see.
+    static constexpr int TickMs = 3600 * 1000;
+
     /// With `tab` in front.
     explicit TablePage(TestHost& test, int tab = 0);
     ~TablePage();

@@ -54,6 +54,14 @@ Leftovers Leftovers::now() {
     return {int(liveObjects().size()), int(timers), threads};
 }
 
+int activeTimers(int interval) {
+    const std::lock_guard lock(mutex);
+    return int(std::count_if(liveObjects().begin(), liveObjects().end(), [interval](QObject* object) {
+        const auto* timer = qobject_cast<QTimer*>(object);
+        return timer != nullptr && timer->isActive() && timer->interval() == interval;
+    }));
+}
+
 void PrintTo(const Leftovers& leftovers, std::ostream* out) {
     *out << leftovers.objects << " objects, " << leftovers.timers << " timers, " << leftovers.threads << " threads";
 }

@@ -13,4 +13,7 @@ struct Leftovers {
     static Leftovers now();
 };
 
+/// Timers with this interval, in milliseconds, that run; of those made since the first `Leftovers::now`.
+int activeTimers(int interval);
+
 void PrintTo(const Leftovers& leftovers, std::ostream* out);
