@@ -1,6 +1,13 @@
 # Runs SCENARIO with ZEBSIM, from the factory preferences. With ALONE the plug-in stands in a folder of its own, without
-# the files that are built beside it.
+# the files that are built beside it. With READER the folder of saved files is a fresh one, and holds afterwards what
+# stands in FRAMES, recorded at RATE; NAMES are cameras that are called otherwise than their files.
 file(REMOVE ${PREFS})
+if(READER)
+    set(folder ${PREFS}.saved)
+    file(REMOVE_RECURSE ${folder})
+    file(MAKE_DIRECTORY ${folder})
+    file(WRITE ${PREFS} "[save]\nfolder=${folder}\n")
+endif()
 set(plugin)
 if(ALONE)
     file(COPY ${ALONE} DESTINATION ${PREFS}.alone)
@@ -10,4 +17,12 @@ endif()
 execute_process(COMMAND ${ZEBSIM} --prefs ${PREFS} --scenario ${SCENARIO} ${plugin} RESULT_VARIABLE status)
 if(NOT status EQUAL 0)
     message(FATAL_ERROR "${SCENARIO} ended with ${status}")
+endif()
+if(READER)
+    string(REPLACE "|" ";" names "${NAMES}")
+    execute_process(COMMAND ${READER} ${folder} ${RATE} ${names} OUTPUT_VARIABLE found COMMAND_ERROR_IS_FATAL ANY)
+    file(READ ${FRAMES} wanted)
+    if(NOT found STREQUAL wanted)
+        message(FATAL_ERROR "${folder} holds\n${found}instead of\n${wanted}")
+    endif()
 endif()

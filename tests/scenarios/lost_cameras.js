@@ -1,0 +1,108 @@
+// One of eight cameras dies, each time at another point of a shoot: the others finish, the user is told which one and
+// what is lost, and the next shoot can begin.
+
+const VICTIM = 3;    // "Nozzle"
+const OTHERS = [1, 2, 4, 5, 6, 7, 8];
+const STATUS = "$('#timeline_rec_exec').data('status')";
+const ROWS = "$('.wren_label_edit_camera_name:visible').get().map(label => Number(label.getAttribute('dockey'))).filter(key => key > 0).join()";
+
+function start() {
+    zeb.rig('shoot.json');
+    zeb.mode('live');
+    zeb.keys().forEach(key => zeb.setCamera(key, { connected: true, selected: true }));
+    check(zeb.until("$('#tabs').tabs('option', 'active') < 5 && $('#timeline_rec_exec:enabled').length === 1"), 'a new shoot');
+    zeb.messages();
+}
+
+function arm() {
+    zeb.click('#timeline_rec_exec');
+    check(zeb.until(`${STATUS} === 2`), 'the others are armed');
+}
+
+function trigger() {
+    zeb.wait(200);    // the memory before the trigger fills
+    zeb.click('#timeline_rec_exec');
+    check(zeb.until("$('#tabs').tabs('option', 'active') === 5"), 'the recording ends');
+}
+
+function told(pattern, text) {
+    const messages = [];
+    for (let n = 0; n < 50 && !messages.some(message => pattern.test(message)); ++n) {
+        zeb.wait(20);
+        messages.push(...zeb.messages().map(box => box.text));
+    }
+    check(messages.length === 1 && pattern.test(messages[0]), `${text}: ${messages.join(' / ')}`);
+}
+
+function recorded(keys, text) {
+    const frames = keys.map(key => zeb.camera(key)).map(camera => camera.recorded ? camera.recordedRange[1] - camera.recordedRange[0] + 1 : 0);
+    check(frames.every(count => count === 64), `${text}: ${frames.join()}`);
+}
+
+function rows(keys, text) {
+    check(zeb.until(`${ROWS} === '${keys.join()}'`), `${text}: ${zeb.page(ROWS)}`);
+}
+
+zeb.setPref('wren/display/lock', false);
+check(zeb.open(), 'the table opens');
+
+start();
+zeb.fault(VICTIM, 'arm', { throws: 'the memory is not ready' });
+arm();
+told(/^Nozzle: the memory is not ready/, 'one that can not be armed is named');
+check(zeb.camera(VICTIM).recordState === 4, 'and is in error');
+trigger();
+recorded(OTHERS, 'the others have recorded');
+
+start();
+zeb.fault(VICTIM, 'arm', { gone: true });
+arm();
+told(/^Nozzle: .*disappeared.*does not take part/, 'one that goes while it is armed is named');
+rows(OTHERS, 'it has no row');
+trigger();
+recorded(OTHERS, 'the others have recorded');
+
+start();
+arm();
+zeb.fault(VICTIM, '*', { gone: true });
+told(/^Nozzle: .*disappeared.*does not take part/, 'one that goes before the trigger is named');
+trigger();
+recorded(OTHERS, 'the others have recorded');
+
+start();
+zeb.fault(VICTIM, 'record', { gone: true });
+arm();
+trigger();
+told(/^Nozzle: .*disappeared.*recording is lost/, 'one that goes while it records is named, and what is lost');
+recorded(OTHERS, 'the others have recorded');
+
+start();
+zeb.fault(VICTIM, 'record', { throws: 'the memory is faulty' });
+arm();
+trigger();
+told(/^Nozzle: the memory is faulty.*ended early with \d+ frames/, 'one that ends early is named, and what there is');
+recorded(OTHERS, 'the others have recorded');
+
+start();
+arm();
+trigger();
+recorded(OTHERS.concat(VICTIM), 'all have recorded');
+zeb.fault(VICTIM, '*', { gone: true });
+rows(OTHERS, 'one that goes while its frames are looked at has no row any more');
+zeb.click('#wren_memoryInfo_recordCheck_4');
+check(zeb.camera(4).recordCheck, 'and the others can still be edited');
+
+start();
+arm();
+trigger();
+OTHERS.concat(VICTIM).forEach(key => zeb.setCamera(key, { recordCheck: true }));
+zeb.page('wrentabledialog.setSelectStartFrameNo([1, 2, 3, 4, 5, 6, 7, 8], -1); return 0');
+zeb.page('wrentabledialog.setSelectEndFrameNo([1, 2, 3, 4, 5, 6, 7, 8], 1); return 0');
+zeb.fault(VICTIM, 'readFrame', { gone: true });
+zeb.save({ format: 'png' });
+zeb.click('button.save-files');
+const results = zeb.results();
+const lost = results.filter(line => !/: [23] frames saved in/.test(line));
+check(results.length === 8 && lost.length === 1 && /^Nozzle: camera lost.* 2 frames not saved/.test(lost[0]),
+    'one that goes while it is saved is named in the list, the others are saved: ' + results.join(' / '));
+check(zeb.close(), 'the table closes');
