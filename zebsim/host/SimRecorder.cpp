@@ -14,6 +14,21 @@
 #include <algorithm>
 #include <utility>
 
+namespace {
+
+/// A camera that waits for CTS makes the others wait with their trigger, or it would be left behind. An error only when
+/// all have failed, for the others can record.
+int statusOfAll(const QList<int>& each) {
+    for (const int status : {zeb::RecordRecording, zeb::RecordCtsReady, zeb::RecordReady, zeb::RecordLive}) {
+        if (each.contains(status)) {
+            return status;
+        }
+    }
+    return each.isEmpty() ? zeb::RecordLive : zeb::RecordError;
+}
+
+}  // namespace
+
 SimRecorder::SimRecorder(Journal& journal, const Clock& clock, const CameraBank& cameras, const StatusFlags& flags,
                          SimAppStatus& appStatus, HostEvents& events, UpdateCycle& updates,
                          const Translator& translator, WaitingMessages& messages)
@@ -45,20 +60,14 @@ int SimRecorder::getRecStatus(const DocKeyList& keys) const {
             return status;
         }
     }
-    int furthest = zeb::RecordLive;
-    bool anyFailed = false;
-    bool allFailed = true;
+    QList<int> each;
     for (const DOCKEY key : keys) {
         const Camera* camera = m_cameras.find(key);
         if (camera && camera->get(&CameraState::connected)) {
-            const int state = camera->get(&CameraState::recordState);
-            const bool isError = state > zeb::RecordRecording || state < zeb::RecordLive;
-            anyFailed = anyFailed || isError;
-            allFailed = allFailed && isError;
-            furthest = isError ? furthest : std::max(furthest, state);
+            each.append(camera->get(&CameraState::recordState));
         }
     }
-    return anyFailed && allFailed ? int(zeb::RecordError) : furthest;
+    return statusOfAll(each);
 }
 
 int SimRecorder::getRecordingState() const {

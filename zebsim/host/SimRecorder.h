@@ -25,8 +25,7 @@ public:
                 SimAppStatus& appStatus, HostEvents& events, UpdateCycle& updates, const Translator& translator,
                 WaitingMessages& messages);
 
-    /// As the flags tell, and without one the furthest of the cameras asked about; an error only when all have failed,
-    /// for the others can record.
+    /// As the flags tell, and without one as the cameras asked about stand together.
     int getRecStatus(const DocKeyList& keys) const override;
     int getRecordingState() const override;
     void startRecReady() override;
