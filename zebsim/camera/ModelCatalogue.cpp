@@ -56,28 +56,17 @@ QList<int> readNumbers(const JsonNode& node, const QString& member) {
 }
 
 CameraModel readModel(const JsonNode& node) {
-    node.allowOnly({QStringLiteral("name"),
-                    QStringLiteral("type"),
-                    QStringLiteral("dummy"),
-                    QStringLiteral("otherRates"),
-                    QStringLiteral("rates"),
-                    QStringLiteral("resolutions"),
-                    QStringLiteral("shutters"),
-                    QStringLiteral("triggerModes"),
-                    QStringLiteral("ports"),
-                    QStringLiteral("functions"),
-                    QStringLiteral("capabilities"),
-                    QStringLiteral("syncStatus"),
-                    QStringLiteral("sharesShutter"),
-                    QStringLiteral("sharesResolution"),
-                    QStringLiteral("memory"),
-                    QStringLiteral("ctsReady"),
-                    QStringLiteral("bitDepth"),
-                    QStringLiteral("lowLightRefuses"),
-                    QStringLiteral("syncCapable"),
-                    QStringLiteral("exposureTiming"),
-                    QStringLiteral("exposureDelay"),
-                    QStringLiteral("initial")});
+    node.allowOnly({QStringLiteral("name"),          QStringLiteral("type"),
+                    QStringLiteral("dummy"),         QStringLiteral("otherRates"),
+                    QStringLiteral("rates"),         QStringLiteral("resolutions"),
+                    QStringLiteral("shutters"),      QStringLiteral("triggerModes"),
+                    QStringLiteral("ports"),         QStringLiteral("functions"),
+                    QStringLiteral("capabilities"),  QStringLiteral("syncStatus"),
+                    QStringLiteral("sharesShutter"), QStringLiteral("sharesResolution"),
+                    QStringLiteral("memory"),        QStringLiteral("ctsReady"),
+                    QStringLiteral("bitDepth"),      QStringLiteral("lowLightRefuses"),
+                    QStringLiteral("syncCapable"),   QStringLiteral("exposureTiming"),
+                    QStringLiteral("exposureDelay"), QStringLiteral("initial")});
     CameraModel model;
     model.name = node.member(QStringLiteral("name")).text();
     model.type = node.member(QStringLiteral("type")).number(0, highest);
