@@ -82,7 +82,7 @@ protected:
 
     static QStringList values(const QJsonValue& list) {
         QStringList values;
-        for (const QJsonValue& entry : list.toArray()) {
+        for (const auto& entry : list.toArray()) {
             values.append(entry.isObject() ? entry.toObject()["value"].toVariant().toString() : entry.toString());
         }
         return values;

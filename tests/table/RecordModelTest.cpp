@@ -30,7 +30,7 @@ QJsonObject expected(const QString& name) {
     QJsonObject answer = readJson(name);
     for (const auto& part : {QStringLiteral("records"), QStringLiteral("batch")}) {
         QJsonArray rows;
-        for (const QJsonValue& each : answer.value(part).toArray()) {
+        for (const auto& each : answer.value(part).toArray()) {
             QJsonObject row = each.toObject();
             for (auto member = row.begin(); member != row.end(); ++member) {
                 const QString text = member.value().toString();
@@ -68,7 +68,7 @@ QJsonObject with(QJsonObject answer, const QString& name) {
 /// The same answer with some of its rows, numbered anew, and the batch row `batch`.
 QJsonObject only(QJsonObject answer, const QStringList& keys, QJsonObject batch) {
     QJsonArray rows;
-    for (const QJsonValue& each : answer.value("records").toArray()) {
+    for (const auto& each : answer.value("records").toArray()) {
         QJsonObject row = each.toObject();
         if (keys.contains(row.value("key").toString())) {
             row.insert("recid", rows.size() + 1);
@@ -87,7 +87,7 @@ QJsonObject row(const QString& answer, int index) {
 
 QStringList keysOf(const QString& answer) {
     QStringList keys;
-    for (const QJsonValue& each : QJsonDocument::fromJson(answer.toUtf8())[QStringLiteral("records")].toArray()) {
+    for (const QJsonValue each : QJsonDocument::fromJson(answer.toUtf8())[QStringLiteral("records")].toArray()) {
         keys.append(each[QStringLiteral("key")].toString());
     }
     return keys;
@@ -95,7 +95,7 @@ QStringList keysOf(const QString& answer) {
 
 QStringList valuesOf(const QJsonValue& choices) {
     QStringList values;
-    for (const QJsonValue& each : choices.toArray()) {
+    for (const QJsonValue each : choices.toArray()) {
         values.append(each[QStringLiteral("value")].toString());
     }
     return values;

@@ -34,7 +34,7 @@ protected:
     }
 
     /// Runs while a box stands, before it is answered.
-    void onStanding(std::function<void(QMessageBox&)> look) {
+    void onStanding(const std::function<void(QMessageBox&)>& look) {
         QObject::connect(&watcher, &ModalWatcher::stands,
                          [look](QDialog* dialog) { look(*qobject_cast<QMessageBox*>(dialog)); });
     }
