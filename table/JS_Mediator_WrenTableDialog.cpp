@@ -448,7 +448,8 @@ void JS_Mediator_WrenTableDialog::showReadyProgress() {
         }
         m_readyProgress = makeReadyProgressDialog(host().translate(QStringLiteral("Ready...")), host());
         m_readyProgress->show();
-        QCoreApplication::processEvents();
+        // A press that is under way keeps until this call has ended; in here it would be refused.
+        QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
     });
 }
 

@@ -14,6 +14,8 @@ GUI_ProgressDialog* makeReadyProgressDialog(const QString& label, ZebHost& host)
     QWidget* parent = table ? table : host.getMainWindow();
     auto* progress = new GUI_ProgressDialog(label, QString(), 0, 0, parent, Qt::FramelessWindowHint, true);
     progress->setModal(false);
+    // The host's keys are for the active window, and the trigger may be one of them.
+    progress->setAttribute(Qt::WA_ShowWithoutActivating);
     progress->setAutoClose(true);
     progress->setAutoReset(true);
     progress->setStyleSheet(QStringLiteral("*{ color: #333333; background: #a1a7ad; font-size: 45px; font-weight:bold;}"
