@@ -11,8 +11,6 @@
 
 namespace {
 
-using testing::HasSubstr;
-
 /// What `work` throws; empty when it does not.
 template <typename Work>
 std::string thrownBy(Work work) {
