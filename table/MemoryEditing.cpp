@@ -4,10 +4,22 @@
 #include "DOC_Control.h"
 #include "DOC_Frames.h"
 #include "DOC_Interface.h"
+#include "LogFailure.h"
 #include "ZebDocManager.h"
 #include "ZebHost.h"
 
 #include <algorithm>
+
+namespace {
+
+/// A camera that does not answer has not been looked at, and keeps nobody from saving the others.
+bool needsNoQuestion(DOC_Interface& doc) {
+    bool confirmed = false;
+    logFailure([&] { confirmed = doc.frames().getFrameCount(0, 0) == 0 || doc.frames().isRecordCheck(); });
+    return confirmed;
+}
+
+}  // namespace
 
 int clampedStart(long long asked, int first, int selectedEnd) {
     return int(std::min<long long>(std::max<long long>(asked, first), selectedEnd));
@@ -94,9 +106,8 @@ void MemoryEditing::saveLayout() {
 bool MemoryEditing::userTakesUnchecked() {
     ZebDocManager& documents = m_host.docManager();
     const DocList docs = connectedDocs(documents, documents.getConnectedDocKeys());
-    const bool complete = std::all_of(docs.begin(), docs.end(), [](DOC_Interface* doc) {
-        return doc->frames().getFrameCount(0, 0) == 0 || doc->frames().isRecordCheck();
-    });
+    const bool complete =
+        std::all_of(docs.begin(), docs.end(), [](DOC_Interface* doc) { return needsNoQuestion(*doc); });
     return complete || (m_host.confirm(m_host.translate(QStringLiteral(
                             "Do you want to save even though playback confirmation has not been completed?"))) &&
                         m_host.isMemoryMode());

@@ -62,7 +62,8 @@ DocList RecordButton::connected() const {
 }
 
 bool RecordButton::canArm() const {
-    return m_host.isLiveMode() && m_host.recorder().getRecordingState() == zeb::RecordLive;
+    const bool isTableOpen = m_state.savedRecAllConnected.has_value();
+    return isTableOpen && m_host.isLiveMode() && m_host.recorder().getRecordingState() == zeb::RecordLive;
 }
 
 bool RecordButton::areCamerasLocked() {

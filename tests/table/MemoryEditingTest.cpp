@@ -159,6 +159,12 @@ TEST_F(MemoryEditingTest, savingAsksForWhatNobodyHasLookedAt) {
          [&] { desk.whileStanding = [this] { host.appStatus().enterMode(zeb::LiveMode); }; },
          {question},
          false},
+        {"one does not answer, and the others are to be saved",
+         [&] {
+             check(true), host.faults().plant(3, "isRecordCheck", Fault{"The link is down", 0, false});
+         },
+         {question},
+         true},
         {"in live mode", [] {}, {}, false},
     };
     for (const auto& each : cases) {

@@ -148,6 +148,7 @@ TEST_F(RecordingTest, whatHappensWhileTheUserReadsIsSeen) {
              change(2, {{"connected", false}});
          },
          Armed},
+        {"the table is closed", [this] { bridge->onClose(); }, {}},
         {"somebody has armed", [this] { setState(zeb::RecordReady); }, {}},
         {"the host has gone to memory mode",
          [this] {
@@ -162,6 +163,7 @@ TEST_F(RecordingTest, whatHappensWhileTheUserReadsIsSeen) {
          Armed},
     };
     for (const auto& each : cases) {
+        bridge->onOpen();
         setState(zeb::RecordLive);
         host.appStatus().enterMode(zeb::LiveMode);
         answerWarning(true, each.meanwhile);
