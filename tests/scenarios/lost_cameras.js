@@ -99,10 +99,12 @@ OTHERS.concat(VICTIM).forEach(key => zeb.setCamera(key, { recordCheck: true }));
 zeb.page('wrentabledialog.setSelectStartFrameNo([1, 2, 3, 4, 5, 6, 7, 8], -1); return 0');
 zeb.page('wrentabledialog.setSelectEndFrameNo([1, 2, 3, 4, 5, 6, 7, 8], 1); return 0');
 zeb.fault(VICTIM, 'readFrame', { gone: true });
+zeb.fault(4, '*', { gone: true });
 zeb.save({ format: 'png' });
 zeb.click('button.save-files');
 const results = zeb.results();
 const lost = results.filter(line => !/: [23] frames saved in/.test(line));
-check(results.length === 8 && lost.length === 1 && /^Nozzle: camera lost.* 2 frames not saved/.test(lost[0]),
-    'one that goes while it is saved is named in the list, the others are saved: ' + results.join(' / '));
+check(results.length === 8 && lost.length === 2 && /: the camera has disappeared. Its recording is not saved.$/.test(lost[0]) &&
+    /^Nozzle: camera lost.* 2 frames not saved/.test(lost[1]),
+    'one that goes before or while it is saved is named in the list, the others are saved: ' + results.join(' / '));
 check(zeb.close(), 'the table closes');

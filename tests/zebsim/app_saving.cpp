@@ -14,6 +14,7 @@
 #include <QComboBox>
 #include <QDir>
 #include <QGuiApplication>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTableWidget>
@@ -94,6 +95,32 @@ TEST_F(AppSaving, TellsWhyThereIsNothingToSave) {
     EXPECT_EQ(messages(), QStringList({"There can't be a folder " + folder.filePath("p.ini/below") + ".",
                                        "No connected camera has recorded images."}));
     EXPECT_FALSE(host.saver().isSaving());
+}
+
+TEST_F(AppSaving, TellsOfCamerasThatAreNotThere) {
+    for (DOCKEY key = 1; key <= 2; ++key) host.cameras().find(key)->keep(host.cameras().find(key)->recording());
+    Q_EMIT host.events().somethingRecorded();
+    host.faults().plant(2, "*", {{}, 0, true});
+    const QString lost = "Camera 2: the camera has disappeared. Its recording is not saved.";
+    ModalWatcher watcher;
+    QStringList first;
+    QObject::connect(&watcher, &ModalWatcher::stands, [&](QDialog* dialog) {
+        const auto* table = dialog->findChild<QTableWidget*>("cameras");
+        if (table) first << table->item(0, 0)->text();
+    });
+    dialogs.saves().order({});
+    host.saveFiles();
+    EXPECT_EQ(first, QStringList(lost)) << "before it begins";
+    const auto* progress = simulator.window().findChild<SaveProgress*>();
+    while (!progress->isFinished()) QCoreApplication::processEvents();
+    EXPECT_EQ(progress->findChild<QLabel*>()->text(), "Not everything is saved.");
+    EXPECT_THAT(results(), testing::ElementsAre(lost, testing::Property(&QString::toStdString,
+                                                                        testing::StartsWith("Camera 1: 3 frames"))));
+    host.cameras().find(1)->set(&CameraState::connected, false);
+    host.saveFiles();
+    EXPECT_EQ(messages(), QStringList("No connected camera has recorded images.\n"
+                                      "Camera 1: the camera was disconnected. Its recording is not saved.\n" +
+                                      lost));
 }
 
 TEST_F(AppSaving, EndsWithTheApplication) {

@@ -193,6 +193,49 @@ TEST_F(Saving, LosesACameraAtAnyFrameAndNoOther) {
         QStringList({"Gate: 1 of 2 up to -1, lost", "Ramp: 0 of 3 up to 0, lost", "Nozzle/2: 0 of 3 up to 0, lost"}));
 }
 
+TEST_F(Saving, KnowsWhoHasRecordedAndIsNotThereAnyMore) {
+    const LastShoot last(host.host.cameras(), host.host.events());
+    SimRecorder& recorder = host.host.recorder();
+    const auto shoot = [&] {
+        host.host.appStatus().enterMode(zeb::LiveMode);
+        recorder.startRecReady();
+        host.clock.advance(1000);
+        recorder.triggerRecording();
+        host.clock.advance(100);
+        recorder.stopRecording();
+        QCoreApplication::processEvents();
+        EXPECT_TRUE(host.host.isMemoryMode());
+    };
+    const auto connect = [&](DOCKEY key, bool on) { host.camera(key).set(&CameraState::connected, on); };
+    const struct {
+        const char* what;
+        std::function<void()> happens;
+        QStringList absent;
+    } cases[] = {
+        {"recorded before there was a shoot", [&] { connect(3, false); }, {}},
+        {"all are there", [&] { connect(3, true), shoot(); }, {}},
+        {"one vanishes",
+         [&] {
+             host.host.faults().plant(1, "*", {{}, 0, true});
+         },
+         {"Gate is gone"}},
+        {"another is disconnected", [&] { connect(2, false); }, {"Gate is gone", "Camera 2"}},
+        {"one without its recording goes",
+         [&] { host.camera(3).eraseRecordedData(), connect(3, false); },
+         {"Gate is gone", "Camera 2"}},
+        {"one comes back", [&] { connect(2, true); }, {"Gate is gone"}},
+        {"a new shoot without it", [&] { connect(3, true), shoot(); }, {}},
+        {"all are deleted", [&] { host.host.cameras().forgetAll(); }, {"Camera 2", "Nozzle/2"}},
+        {"another rig", [&] { host.host.setRig(Rig::standard(3)); }, {}},
+    };
+    for (const auto& one : cases) {
+        one.happens();
+        QStringList absent;
+        for (const AbsentCamera& camera : last.absent()) absent << camera.name + (camera.gone ? " is gone" : "");
+        EXPECT_EQ(absent, one.absent) << one.what;
+    }
+}
+
 TEST_F(Saving, IsCancelledBetweenFrames) {
     EXPECT_EQ(run(orders(), [](SaveJob& job) { job.cancel(); }),
               QStringList({"Gate: 1 of 2 up to -1, cancelled", "Nozzle/2: 0 of 3 up to 0, cancelled"}));

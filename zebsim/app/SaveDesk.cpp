@@ -14,7 +14,7 @@
 #include <QDir>
 #include <QMessageBox>
 
-SaveDesk::SaveDesk(SimHost& host) : m_host(host) {}
+SaveDesk::SaveDesk(SimHost& host) : m_host(host), m_shoot(host.cameras(), host.events()) {}
 
 SaveDesk::~SaveDesk() = default;
 
@@ -29,16 +29,19 @@ void SaveDesk::save(bool layout) {
     }
     const SaveSources sources = saveSources(m_host.cameras());
     const std::vector<SaveTrack> tracks = layout ? tracksOfLayout(sources, uiText("Layout")) : tracksOfEach(sources);
+    const QList<AbsentCamera> absent = m_shoot.absent();
     if (tracks.empty()) {
-        m_host.info(uiText("No connected camera has recorded images."), nullptr);
+        QStringList lines;
+        for (const AbsentCamera& camera : absent) lines << absentText(camera);
+        m_host.warnList(uiText("No connected camera has recorded images."), lines, nullptr);
         return;
     }
     const QPointer<QWidget> before = QApplication::activeWindow();
     Preferences& prefs = m_host.prefs();
-    if (runDialog(m_host, new SaveDialog(prefs, tracks, m_host.getMainWindow())) != QDialog::Accepted) return;
+    if (runDialog(m_host, new SaveDialog(prefs, tracks, absent, m_host.getMainWindow())) != QDialog::Accepted) return;
     begin({prefs.value(QStringLiteral("save/folder")).toString(),
            saveFormat(prefs.value(QStringLiteral("save/format")).toString()), tracks,
-           [this](const QString& file) { return ask(file); }, VideoEncoder::installed()},
+           [this](const QString& file) { return ask(file); }, VideoEncoder::installed(), absent},
           before);
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "saving/LastShoot.h"
+
 #include <QPointer>
 
 #include <memory>
@@ -32,6 +34,7 @@ private:
     void finish();
 
     SimHost& m_host;
+    const LastShoot m_shoot;
     std::unique_ptr<SaveJob> m_job;
     QPointer<SaveProgress> m_progress;
 };

@@ -11,6 +11,9 @@ QString outcomeText(const SaveOutcome& outcome, const SaveOrders& orders) {
     const QString saved = QString::number(outcome.saved);
     const QString left = QString::number(outcome.frames - outcome.saved);
     switch (outcome.end) {
+        case SaveOutcome::Gone:
+        case SaveOutcome::Disconnected:
+            return absentText({name, outcome.end == SaveOutcome::Gone});
         case SaveOutcome::Saved:
             return uiText("%1: %2 frames saved in %3").arg(name, saved, QDir::toNativeSeparators(orders.folder));
         case SaveOutcome::CameraLost:
@@ -28,6 +31,12 @@ QString outcomeText(const SaveOutcome& outcome, const SaveOrders& orders) {
             break;
     }
     return uiText("%1: cancelled, %2 frames saved, %3 not").arg(name, saved, left);
+}
+
+QString absentText(const AbsentCamera& camera) {
+    const QString text =
+        camera.gone ? uiText("%1: the camera has disappeared.") : uiText("%1: the camera was disconnected.");
+    return text.arg(camera.name) % QLatin1Char(' ') % uiText("Its recording is not saved.");
 }
 
 QString refusalText(const SaveRefusal& refusal, const SaveOrders& orders) {

@@ -2,6 +2,7 @@
 
 #include <QString>
 
+struct AbsentCamera;
 struct SaveOrders;
 struct SaveOutcome;
 struct SaveRefusal;
@@ -10,5 +11,7 @@ struct SaveRefusal;
 ///
 /// One line of what became of a camera.
 QString outcomeText(const SaveOutcome& outcome, const SaveOrders& orders);
+/// What is lost with a camera that is not there.
+QString absentText(const AbsentCamera& camera);
 /// Why nothing was saved.
 QString refusalText(const SaveRefusal& refusal, const SaveOrders& orders);

@@ -8,6 +8,7 @@
 #include "recording/Clock.h"
 
 #include <algorithm>
+#include <atomic>
 #include <cmath>
 
 namespace {
@@ -337,9 +338,11 @@ void Camera::enterRecordState(int recordState) {
 }
 
 void Camera::keep(const std::optional<Recording>& recording) {
+    static std::atomic<quint64> lastSerial{0};
     PartitionMemory kept;
     if (recording) {
         kept.recorded = true;
+        kept.serial = ++lastSerial;
         kept.recordedRate = recording->rate;
         kept.recordedResolution = recording->resolution;
         kept.recordedRange = {recording->first, recording->last};

@@ -34,6 +34,8 @@ public:
     bool triggerOffsetEnabled = false;
     int triggerOffset = 0;
     bool recordCheck = false;
+    /// As `Recording::serial`; only a recording changes it.
+    quint64 serial = 0;
 };
 
 /// Everything about a camera or head that can change. The property names are the members of a head in a rig file and of

@@ -98,6 +98,14 @@ std::vector<Camera*> CameraBank::all() const {
     return cameras;
 }
 
+std::vector<Camera*> CameraBank::known() const {
+    std::vector<Camera*> cameras;
+    for (const auto& camera : m_cameras) {
+        cameras.push_back(camera.get());
+    }
+    return cameras;
+}
+
 void CameraBank::forEach(const DocKeyList& keys, const std::function<void(Camera&)>& work) const {
     QStringList failures;
     for (const DOCKEY key : keys) {

@@ -42,6 +42,8 @@ public:
     void forEach(const DocKeyList& keys, const std::function<void(Camera&)>& work) const;
     /// In the order of their keys, without those that are gone or not found yet.
     std::vector<Camera*> all() const;
+    /// With those that are gone or not found.
+    std::vector<Camera*> known() const;
 
 private:
     void waitFor(const std::vector<const CameraDevice*>& devices);

@@ -1232,6 +1232,10 @@
         <translation>Everything is saved.</translation>
     </message>
     <message>
+        <source>Its recording is not saved.</source>
+        <translation>Its recording is not saved.</translation>
+    </message>
+    <message>
         <source>Not everything is saved.</source>
         <translation>Not everything is saved.</translation>
     </message>

@@ -1232,6 +1232,10 @@
         <translation>すべて保存しました。</translation>
     </message>
     <message>
+        <source>Its recording is not saved.</source>
+        <translation>この記録は保存されていません。</translation>
+    </message>
+    <message>
         <source>Not everything is saved.</source>
         <translation>保存されていないものがあります。</translation>
     </message>

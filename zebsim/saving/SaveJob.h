@@ -1,6 +1,7 @@
 #pragma once
 
 #include "saving/FileClaims.h"
+#include "saving/LastShoot.h"
 #include "saving/SaveFormat.h"
 #include "saving/SaveTrack.h"
 #include "saving/VideoEncoder.h"
@@ -21,6 +22,8 @@ struct SaveOrders {
     /// Asks about a file that is there already.
     std::function<Overwrite(const QString& file)> ask;
     VideoEncoder encoder = {};
+    /// What can't be saved, for the list of results.
+    QList<AbsentCamera> absent = {};
 };
 
 /// Why a save can't begin.
@@ -32,7 +35,8 @@ struct SaveRefusal {
 
 /// What became of a camera, or of a layout.
 struct SaveOutcome {
-    enum End { Saved, CameraLost, FileFailed, Skipped, Cancelled };
+    /// The last two: the camera was not there when the save began.
+    enum End { Saved, CameraLost, FileFailed, Skipped, Cancelled, Gone, Disconnected };
 
     QString name;
     End end = Saved;

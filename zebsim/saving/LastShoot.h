@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QList>
+#include <QObject>
+#include <QString>
+
+class CameraBank;
+class HostEvents;
+
+/// A camera whose recording can't be fetched.
+struct AbsentCamera {
+    QString name;
+    /// It has vanished; else it was disconnected.
+    bool gone = false;
+};
+
+/// What the cameras kept of the last recording, wherever they are by now. GUI thread.
+class LastShoot : public QObject {
+    Q_OBJECT
+
+public:
+    /// `cameras` must outlive the object. It knows of recordings that end while it lives.
+    LastShoot(const CameraBank& cameras, const HostEvents& events);
+
+    /// The cameras that hold something of it and are not connected any more, in the order of their keys.
+    QList<AbsentCamera> absent() const;
+
+private:
+    void begin();
+
+    const CameraBank& m_cameras;
+    /// Serial numbers of recordings: the last one before the shoot, and the last one known.
+    quint64 m_before = 0;
+    quint64 m_last = 0;
+};
