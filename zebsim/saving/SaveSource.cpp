@@ -19,7 +19,7 @@ void SaveSource::read(const CameraBank& cameras, int index) const {
     }
     const int frame = m_recording.selectedFirst + index;
     const auto recording = m_camera->recording();
-    if (!recording || frame < recording->first || frame > recording->last) {
+    if (!recording || recording->serial != m_recording.serial || frame < recording->first || frame > recording->last) {
         throw CameraError(name(), QStringLiteral("the recording is gone"));
     }
 }
