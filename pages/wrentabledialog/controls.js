@@ -114,6 +114,7 @@ Object.assign(wrentabledialog_obj, {
     // Functions of several states set tabs and colours one after the other. What comes out is written once.
     applyControls() {
         zeb4func.setDisable(wrentabledialog, controls);
+        this.keepStartDisabled();
         this.disableTabs(this.look.tabsOff);
         this.colourPage(this.look.colour);
         if (this.look.armed) {

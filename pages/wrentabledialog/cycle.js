@@ -21,10 +21,7 @@ Object.assign(wrentabledialog_obj, {
     updateCommon(isAuto) {
         let automatic = isAuto;
         if (wrentabledialog.isLiveMode()) {
-            const status = parseReply(wrentabledialog.getRecStatus());
-            if (status) {
-                this.recStatusChanged(status.recStatus, status.recStatusLabel);
-            }
+            this.showRecStatus();
         }
         this.applyControls();
         if (this.preventSelectGroup) {

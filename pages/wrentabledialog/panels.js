@@ -36,13 +36,38 @@ Object.assign(wrentabledialog_obj, {
         onClick('.snapshot-setting', () => wrentabledialog.snapShot(4));
     },
 
-    // The button stays disabled until the next cycle, against a double start.
+    // A press means what the button shows. Where the recording has moved on since, the press goes for nothing: who
+    // stops one that has just ended must not arm the cameras. Without a status it is left to the back end.
     pressRecord(button) {
-        const status = parseReply(wrentabledialog.getRecStatus());
-        if (status && status.recStatus === this.RECORD_STATUS_LIVE) {
-            button.disabled = true;
+        const shown = $(button).data('status');
+        const status = this.showRecStatus();
+        if (status !== null && status !== shown) {
+            return;
         }
-        wrentabledialog.record();
+        this.isStarting = status === this.RECORD_STATUS_LIVE;
+        this.keepStartDisabled();
+        try {
+            wrentabledialog.record();
+        } finally {
+            this.isStarting = false;
+        }
+    },
+
+    // Against a double start; the first cycle after the call enables the button again.
+    keepStartDisabled() {
+        if (this.isStarting) {
+            document.getElementById('timeline_rec_exec').disabled = true;
+        }
+    },
+
+    // Asks for the record status and shows it. Null, and the buttons as they were, when there is none.
+    showRecStatus() {
+        const status = parseReply(wrentabledialog.getRecStatus());
+        if (status === null || typeof status.recStatus !== 'number') {
+            return null;
+        }
+        this.recStatusChanged(status.recStatus, status.recStatusLabel);
+        return status.recStatus;
     },
 
     // Shows the record status on the two buttons.

@@ -36,10 +36,11 @@ function onClick(selector, work) {
     });
 }
 
-// Runs `work` with the element when the main button goes down on it.
+// Runs `work` with the element when the main button goes down on it. The second press of a double click does nothing:
+// it may already meet another meaning of the element, which nobody has read yet.
 function onPress(selector, work) {
     $(selector).on('mousedown', event => {
-        if (!event.button) {
+        if (!event.button && !(event.detail > 1)) {
             guarded(() => work(event.currentTarget));
         }
     });

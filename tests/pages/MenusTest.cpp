@@ -91,19 +91,6 @@ TEST(PageMenus, ThePartitionBoxOpensAtItsButton) {
     EXPECT_EQ(calls(page, "hideSelectBox|showLivePartition"), QStringList()) << "the button is disabled";
 }
 
-TEST(PageMenus, ASecondPressStartsNoSecondRecording) {
-    TestHost test(Rig::standard(2));
-    connectCameras(test, 1, 2);
-    choose(test, {"1", "2"});
-    test.host.prefs().setValue("wren/display/lock", false);
-    TablePage page(test);
-    page.run("probe.callsBegin(); return 0");
-    page.doubleClick("#timeline_rec_exec");
-    EXPECT_EQ(calls(page, "record$"), QStringList("record")) << "the first press has disabled the button";
-    page.tick();
-    EXPECT_FALSE(page.run("$('#timeline_rec_exec').prop('disabled')").toBool()) << "the next cycle frees it";
-}
-
 TEST(PagePanels, HandOnWhatIsPressed) {
     TestHost test(Rig::standard(2));
     connectCameras(test, 1, 2);

@@ -45,6 +45,7 @@ public:
     void update();
     /// A click by the mouse and the update that it asks for.
     void click(const QString& selector, Qt::KeyboardModifiers modifiers = {});
+    /// With an update cycle between its two presses.
     void doubleClick(const QString& selector);
     void press(const QString& selector);
     /// Presses on a point of an element that is in view, by its shares of the width and of the height.

@@ -1,0 +1,96 @@
+#include "TablePage.h"
+
+#include <gmock/gmock.h>
+
+namespace {
+
+/// A page over two cameras that are free to record.
+class PageRecordButton : public testing::Test {
+protected:
+    PageRecordButton() : test(Rig::standard(2)) {
+        connectCameras(test, 1, 2);
+        test.host.prefs().setValue("wren/display/lock", false);
+        page = std::make_unique<TablePage>(test);
+    }
+
+    /// What the recorder and the page hear of `work`.
+    QStringList orders(const std::function<void()>& work) {
+        QStringList names;
+        for (const QVariant& call : test.callsOf([&] { work(), page->settle(); })) {
+            names << call.toMap().value("call").toString();
+        }
+        return names.filter("ZebRecorder::").replaceInStrings("ZebRecorder::", "");
+    }
+    /// How often a click, before which `prepare` runs, would reach the back end.
+    int presses(const QString& prepare = "") {
+        page->run("probe.callsBegin(); wrentabledialog.record = () => probe.made.push(['record']);" + prepare +
+                  "; return 0");
+        page->click(button);
+        return page->number("probe.callsEnd().filter(call => call[0] === 'record').length");
+    }
+    QString face() { return page->text("$('#timeline_rec_exec').text()"); }
+    bool isDisabled() { return page->run("$('#timeline_rec_exec').prop('disabled')").toBool(); }
+
+    TestHost test;
+    std::unique_ptr<TablePage> page;
+    const QString button = "#timeline_rec_exec";
+};
+
+TEST_F(PageRecordButton, TakesADoubleClickForOnePress) {
+    EXPECT_EQ(orders([&] { page->doubleClick(button); }), QStringList("startRecReady"));
+    EXPECT_EQ(face(), "Ready");
+    EXPECT_EQ(orders([&] { page->doubleClick("#timeline_rec_cancel"); }), QStringList("cancelRecording"));
+}
+
+TEST_F(PageRecordButton, MeansWhatItShows) {
+    struct Case {
+        const char* shown;
+        const char* now;
+        const char* face;
+    };
+    // The page hears of the status from nobody but itself.
+    page->run("wrentabledialog_obj.update = () => undefined; return 0");
+    for (const Case& c : {Case{"IsRecording", "", "Record"}, Case{"IsRecording", "IsReady", "Ready"},
+                          Case{"IsReady", "IsRecording", "Recording..."}, Case{"", "IsReady", "Ready"}}) {
+        SCOPED_TRACE(std::string(c.shown) + " is shown, " + c.now);
+        const auto becomes = [&](const QString& state) {
+            for (const char* flag : {"IsReady", "IsRecording"}) {
+                test.host.flags().set(flag, state == flag);
+            }
+        };
+        becomes(c.shown);
+        page->tick();
+        becomes(c.now);
+        EXPECT_EQ(presses(), 0);
+        EXPECT_EQ(face(), c.face);
+        EXPECT_EQ(presses(), 1) << "what is seen now is meant";
+    }
+}
+
+TEST_F(PageRecordButton, StaysAsItIsWithoutAStatus) {
+    test.host.flags().set("IsRecording", true);
+    page->tick();
+    for (const char* reply : {"{}", "null", ""}) {
+        const QString answer = QString("wrentabledialog.getRecStatus = () => '%1'").arg(reply);
+        EXPECT_EQ(presses(answer), 1) << "the back end knows what can be stopped";
+        page->run("probe.callsBegin(); " + answer + "; wrentabledialog_obj.autoUpdate(); probe.callsEnd(); return 0");
+        EXPECT_EQ(face(), "Recording...") << reply;
+    }
+}
+
+TEST_F(PageRecordButton, IsOutOfReachWhileItsCallAsks) {
+    test.host.prefs().setValue("wren/display/lock", true);
+    test.desk.whileStanding = [this] {
+        page->update();
+        page->tick();
+        EXPECT_TRUE(isDisabled()) << "under the question";
+    };
+    page->press(button);
+    EXPECT_EQ(test.desk.texts(), QStringList("Lock all connected cameras."));
+    test.desk.shown.clear();
+    page->release();
+    page->tick();
+    EXPECT_FALSE(isDisabled()) << "the next cycle frees it";
+}
+
+}  // namespace
