@@ -26,14 +26,15 @@ const numberBox = {
         });
     },
 
-    // Where the press fell on the picture of an arrow, there is an arrow now, which takes it over.
+    // Where the press fell on the picture of an arrow, there is an arrow now, which takes it over. It must not when the
+    // number of the box before brought up a message: the button was let go over that, and the arrow would never stop.
     press(view, row, cell, event) {
         if (this.isHeld(cell)) {
             return;
         }
         this.hold(view, row, cell);
         const target = document.elementFromPoint(event.clientX, event.clientY);
-        if (target && target !== event.target) {
+        if (wrentabledialog_obj.isCursorDown && target && target !== event.target) {
             event.preventDefault();
             event.stopPropagation();
             target.dispatchEvent(new MouseEvent('mousedown', { bubbles: true, cancelable: true }));

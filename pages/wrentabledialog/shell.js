@@ -25,10 +25,14 @@ Object.assign(wrentabledialog_obj, {
             position: { my: 'center top', at: 'center bottom' }
         });
         zeb4func.enableUserOperationLog(wrentabledialog, '#wren-root-block');
-        document.addEventListener('mouseup', () => {
-            this.isCursorDown = false;
-            this.preventSelect = false;
-        }, true);
+        document.addEventListener('mouseup', () => this.endDrag(), true);
+        // A message box keeps the release for itself.
+        window.addEventListener('blur', () => this.endDrag());
+    },
+
+    endDrag() {
+        this.isCursorDown = false;
+        this.preventSelect = false;
     },
 
     initializeAccordion() {

@@ -1,5 +1,9 @@
 #include "TablePage.h"
 
+#include <QDialog>
+#include <QTest>
+#include <QTimer>
+
 #include <gmock/gmock.h>
 
 // The frame numbers of the memory tab, typed and stepped.
@@ -58,6 +62,18 @@ protected:
         page.run(QString("$('%1')[0].select(); return 0").arg(number));
         page.type(text);
     }
+    /// From here on `repeats` counts the arrows that are about to go on.
+    void watchRepeats() {
+        page.run(
+            "probe.timers = new Set();"
+            "const set = window.setTimeout, clear = window.clearTimeout;"
+            "window.setTimeout = function (work, ms) {"
+            "    const id = set.apply(window, arguments);"
+            "    if (ms === 500) { probe.timers.add(id); }"
+            "    return id; };"
+            "window.clearTimeout = function (id) { probe.timers.delete(id); clear(id); }; return 0");
+    }
+    int repeats() { return page.number("probe.timers.size"); }
     int widgets() { return page.number("$('.ui-spinner').length"); }
 
     TestHost test{Rig::standard(4)};
@@ -239,24 +255,54 @@ TEST_F(PageNumbers, SendNothingWhenTheyAreCutOff) {
         page.settle();
         page.update();
         EXPECT_TRUE(page.until("$('link.replaced, .w2ui-lock').length === 0")) << "what covers the rows fades out";
-        page.run(
-            "probe.timers = new Set();"
-            "const set = window.setTimeout, clear = window.clearTimeout;"
-            "window.setTimeout = function (work, ms) {"
-            "    const id = set.apply(window, arguments);"
-            "    if (ms === 500) { probe.timers.add(id); }"
-            "    return id; };"
-            "window.clearTimeout = function (id) { probe.timers.delete(id); clear(id); }; return 0");
+        watchRepeats();
         const QStringList calls = sent([&] {
             pressArrow(box(Start, "1"), true);
-            EXPECT_EQ(page.number("probe.timers.size"), 1) << "the arrow is about to go on";
+            EXPECT_EQ(repeats(), 1) << "the arrow is about to go on";
             c.happens();
             EXPECT_EQ(widgets(), 0);
-            EXPECT_EQ(page.number("probe.timers.size"), 0);
+            EXPECT_EQ(repeats(), 0);
             page.releaseOutside();
         });
         EXPECT_EQ(calls, QStringList("setSelectStartFrameNo 1 -399"));
     }
+}
+
+/// The button is let go over a message that came up during the press, and the page never hears of it.
+TEST_F(PageNumbers, StandStillAfterAMessage) {
+    watchRepeats();
+    const auto pressUnderAMessage = [this](const char* message, const QString& number) {
+        Fault fault;
+        fault.throws = message;
+        test.host.faults().plant(1, "setSelectRange", fault);
+        int beforeIt = -1;
+        test.desk.whileStanding = [&] {
+            beforeIt = repeats();
+            QDialog box(&page.window());
+            QTimer::singleShot(0, &box, [&box] {
+                EXPECT_TRUE(QTest::qWaitForWindowActive(&box));
+                box.accept();
+            });
+            box.exec();
+        };
+        const QStringList calls = sent([&] { pressArrow(number, true); });
+        EXPECT_EQ(test.desk.texts().size(), 1);
+        EXPECT_EQ(beforeIt, 0) << "no step is due before the last one has been taken";
+        EXPECT_EQ(repeats(), 0);
+        test.desk.shown.clear();
+        page.release();
+        return calls;
+    };
+    type(box(Start, "1"), "-350");
+    EXPECT_EQ(pressUnderAMessage("busy", box(End, "1")), QStringList("setSelectStartFrameNo 1 -350"))
+        << "of the box that was left";
+    test.host.faults().plant(1, "setSelectRange", Fault());
+    EXPECT_EQ(sent([&] { pressArrow(box(End, "1"), false); }), QStringList("setSelectEndFrameNo 1 299"));
+    EXPECT_EQ(repeats(), 1) << "another press counts again";
+    page.release();
+    EXPECT_EQ(repeats(), 0);
+    EXPECT_EQ(pressUnderAMessage("asleep", box(End, "1")), QStringList("setSelectEndFrameNo 1 300"))
+        << "of its own step";
 }
 
 TEST(PageNumber, ThatWasTypedGoesToItsCameraWhenItIsScrolledAway) {

@@ -31,6 +31,12 @@
             }
         }),
 
+        // A message box keeps the release of a button or a key for itself.
+        _create: function () {
+            this._super();
+            this._on(this.window, { blur: '_stop' });
+        },
+
         _parse: function (value) {
             const number = typeof value === 'number' ? value : parseFloat(String(value).replace(/,/g, ''));
             if (isNaN(number)) {
@@ -62,8 +68,19 @@
             }
         },
 
+        // The next step is not due before this one has been taken, which may last, and see the arrow let go or the box
+        // made plain.
+        _repeat: function (delay, steps, event) {
+            clearTimeout(this.timer);
+            this._spin(steps * this.options.step, event);
+            if (this.spinning) {
+                this.timer = this._delay(function () { this._repeat(40, steps, event); }, delay || 500);
+            }
+        },
+
         // An arrow that is still down would go on for ever.
         _destroy: function () {
+            this.spinning = false;
             clearTimeout(this.timer);
             clearTimeout(this.mousewheelTimer);
             this._super();
