@@ -24,6 +24,7 @@ Object.assign(wrentabledialog_obj, {
             this.showRecStatus();
         }
         this.applyControls();
+        this.closeLostMenus();
         if (this.preventSelectGroup) {
             zeb4func.disable('.groupButton', true);
         }

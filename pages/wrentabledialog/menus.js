@@ -49,6 +49,14 @@ Object.assign(wrentabledialog_obj, {
         return this.isSnapshotListShown || wrentabledialog.isShownSelectBox();
     },
 
+    // A menu does not outlast its button, which a state of the application or another mode takes away.
+    closeLostMenus() {
+        const lists = Array.from(document.querySelectorAll('.miscfuncs ul:not([hidden])'));
+        if (lists.some(list => isDisabled(list) || list.offsetWidth === 0)) {
+            this.hideSelectBox();
+        }
+    },
+
     // The box of partitions hides by itself too.
     removeIdleDummy() {
         if (!this.isShownSelectBox()) {

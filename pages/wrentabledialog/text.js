@@ -27,13 +27,19 @@ function guarded(action) {
     }
 }
 
-// Runs `work` at a click on an element that is not disabled; links know no such state by themselves.
+// Runs `work` at a click on an element that is not disabled.
 function onClick(selector, work) {
     $(selector).on('click', event => {
-        if (!event.currentTarget.hasAttribute('disabled')) {
+        if (!isDisabled(event.currentTarget)) {
             guarded(work);
         }
     });
+}
+
+// Links know no such state by themselves. The entries of a menu have that of the button that opens it.
+function isDisabled(element) {
+    const list = element.closest('.miscfuncs ul');
+    return (list ? list.previousElementSibling : element).hasAttribute('disabled');
 }
 
 // Runs `work` with the element when the main button goes down on it. The second press of a double click does nothing:

@@ -70,6 +70,46 @@ TEST(PageMenus, SaveFilesOrLayout) {
     EXPECT_EQ(clicked("button.save-files"), QStringList("saveLayout"));
 }
 
+TEST(PageMenus, GoWithTheirButton) {
+    TestHost test(Rig::standard(3));
+    connectCameras(test, 1, 3);
+    TablePage page(test);
+    struct Case {
+        zeb::OperatingMode mode;
+        const char* menu;
+        std::function<void(bool)> happens;
+    };
+    const auto state = [&test](const char* name) {
+        return [&test, name](bool on) { test.host.flags().set(name, on); };
+    };
+    const auto enters = [&test](zeb::OperatingMode mode, zeb::OperatingMode back) {
+        return [&test, mode, back](bool on) { test.host.appStatus().enterMode(on ? mode : back); };
+    };
+    for (const Case& c : QList<Case>{{zeb::LiveMode, "btn-snapshot", state("IsConflictPartition")},
+                                     {zeb::LiveMode, "btn-snapshot", enters(zeb::MemoryMode, zeb::LiveMode)},
+                                     {zeb::MemoryMode, "btn-save", state("IsAdjustingImage")},
+                                     {zeb::MemoryMode, "btn-save", enters(zeb::LiveMode, zeb::MemoryMode)},
+                                     {zeb::MemoryMode, "btn-save", enters(zeb::FileMode, zeb::MemoryMode)}}) {
+        test.host.appStatus().enterMode(c.mode);
+        page.settle();
+        page.click(QString("#%1 .miscfuncs button").arg(c.menu));
+        EXPECT_EQ(page.text(Open).section(' ', 0, 1), QString("%1 1").arg(c.menu));
+        for (const bool on : {true, false}) {
+            c.happens(on);
+            page.update();
+            EXPECT_EQ(page.text(Open), " 0 false") << c.menu << on;
+        }
+    }
+
+    test.host.appStatus().enterMode(zeb::LiveMode);
+    page.settle();
+    page.click("#btn-snapshot .miscfuncs button");
+    // In the moment before the page's next look.
+    page.run("zeb4func.disable('#btn-snapshot button', true); probe.callsBegin(); return 0");
+    page.click("#btn-snapshot a.snapshot-clip");
+    EXPECT_EQ(calls(page, "^snapShot"), QStringList());
+}
+
 TEST(PageMenus, ThePartitionBoxOpensAtItsButton) {
     TestHost test(Rig::standard(2));
     connectCameras(test, 1, 2);
