@@ -109,7 +109,8 @@ constexpr int HubRoleMaster = 0;
 /// `DOC_Control::getExposureTimingClass` of the cameras that come first in a chain.
 constexpr int ExposureTimingLeads = 1;
 
-/// Parameters of the manual trigger. `triggerFrame` counts frames from the start of the memory.
+/// Parameters of the manual trigger. `triggerFrame`: frames of the memory that are kept for what comes from the trigger
+/// on.
 struct ManualTriggerParameters {
     int kind = 0;
     int reserved1 = 0;

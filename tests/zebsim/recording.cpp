@@ -48,7 +48,8 @@ TEST(RecordSettings, MakeTheRangeOfARecording) {
         {"center soon after ready has fewer before", settingsOf(zeb::TriggerCenter), 20, Long, "0..519 trigger 20"},
         {"end stops with the trigger", settingsOf(zeb::TriggerEnd), Long, Long, "0..999 trigger 999"},
         {"end at once after ready", settingsOf(zeb::TriggerEnd), 0, Long, "0..0 trigger 0"},
-        {"manual has its trigger where it was set", settingsOf(zeb::TriggerManual), Long, Long, "0..999 trigger 700"},
+        {"manual keeps what it was set to for after the trigger", settingsOf(zeb::TriggerManual), Long, Long,
+         "0..999 trigger 300"},
         {"random takes its frames so many times", settingsOf(zeb::TriggerRandom, 30, 4), Long, Long,
          "0..119 trigger 0"},
         {"random without an end fills the memory", settingsOf(zeb::TriggerRandom, 300, 0), Long, Long,
@@ -58,7 +59,7 @@ TEST(RecordSettings, MakeTheRangeOfARecording) {
         {"random center has half of its frames before", settingsOf(zeb::TriggerRandomCenter, 100, 2), Long, Long,
          "0..199 trigger 50"},
         {"random manual has its share before", settingsOf(zeb::TriggerRandomManual, 100, 2), Long, Long,
-         "0..199 trigger 70"},
+         "0..199 trigger 30"},
         {"two stages, an eighth before", settingsOf(zeb::TriggerTwostageOneeighth), Long, Long, "0..999 trigger 125"},
         {"an area counts from the trigger", settingsOf(zeb::TriggerCenter, 0, 0, {-100, 49}), Long, Long,
          "400..549 trigger 500"},
@@ -89,6 +90,7 @@ protected:
         Rig rig = Rig::standard(2);
         Rig fast = Rig::fromFile(QStringLiteral("eight-mixed"));
         rig.devices.append(fast.devices.at(5));
+        rig.devices.last().heads.first().triggerFrame = 98304;
         for (RigDevice& device : rig.devices) {
             device.latency = 0;
             device.heads.first().recorded = false;
@@ -152,7 +154,7 @@ TEST_F(RecordingTest, GoesThroughAllStatesOnTheClock) {
     EXPECT_EQ(states(), "3 3 3 - 3");
     EXPECT_EQ(ends, 0);
     test.clock.advance(1);
-    EXPECT_EQ(states(), "0 0 3 - 3") << "whoever asks sees it without a timer";
+    EXPECT_EQ(states(), "3 3 3 - 3") << "a question ends nothing";
     pass(1638);
     EXPECT_EQ(states(), "0 0 3 - 3");
     pass(1);
@@ -190,10 +192,13 @@ TEST_F(RecordingTest, IsCancelledInEachState) {
     triggerAll();
     pass(9000);
     EXPECT_EQ(states(), "0 0 3 - 3");
+    int kept = 0;
+    QObject::connect(&host.events(), &HostEvents::somethingRecorded, &plugin, [&] { ++kept; });
     host.recorder().cancelRecording(true);
     EXPECT_EQ(states(), "0 0 0 - 0");
-    EXPECT_EQ(recorded(1), "nothing") << "of a camera that was done before, too";
-    EXPECT_EQ(recorded(3), "nothing");
+    EXPECT_EQ(recorded(1), "0..8191 trigger 0") << "a cancel throws nothing away";
+    EXPECT_EQ(recorded(3), "0..90999 trigger 1000");
+    EXPECT_EQ(kept, 1);
     host.recorder().cancelRecording(false);
     pass(100000);
     EXPECT_EQ(ends, 0) << "whoever cancels knows that it is over";
@@ -202,6 +207,50 @@ TEST_F(RecordingTest, IsCancelledInEachState) {
     host.recorder().cancel();
     QCoreApplication::processEvents();
     EXPECT_EQ(ends, 1) << "the host has cancelled by itself";
+}
+
+TEST_F(RecordingTest, APressThatMeetsTheEndIsNoMoreThanTheEnd) {
+    const struct {
+        const char* what;
+        std::function<void()> press;
+    } rows[] = {{"armed by the table", [this] { host.recorder().startRecReady(); }},
+                {"the host's key", [this] { host.recorder().press(); }},
+                {"cancelled by the table", [this] { host.recorder().cancelRecording(true); }},
+                {"the host's cancel", [this] { host.recorder().cancel(); }}};
+    for (const bool timerSawIt : {false, true}) {
+        for (const auto& row : rows) {
+            host.appStatus().enterMode(zeb::LiveMode);
+            ends = 0;
+            triggerAll();
+            test.clock.advance(100000);
+            if (timerSawIt) host.recorder().proceed();
+            row.press();
+            EXPECT_EQ(states(), "0 0 0 - 0") << row.what;
+            EXPECT_EQ(recorded(1), "0..8191 trigger 0") << row.what;
+            QCoreApplication::processEvents();
+            EXPECT_EQ(ends, 1) << row.what;
+            EXPECT_TRUE(host.isMemoryMode()) << row.what;
+        }
+    }
+}
+
+TEST_F(RecordingTest, KeepsOfASharePreciselyThatShare) {
+    host.prefs().setValue("recording/area", true);
+    zeb::TriggerSettings settings;
+    settings.manualBeforePercent = 25;
+    test.camera(3).setTriggerMode(zeb::TriggerManual, settings);
+    test.camera(2).set(&CameraState::recordArea, {0, 99});
+    host.recorder().startRecReady();
+    pass(100000);
+    host.recorder().triggerRecording();
+    pass(100000);
+    EXPECT_EQ(recorded(3), "0..131071 trigger 32768") << "a quarter from before the trigger";
+    EXPECT_EQ(recorded(2), "0..99 trigger 0");
+    host.appStatus().enterMode(zeb::LiveMode);
+    host.prefs().setValue("recording/area", false);
+    triggerAll();
+    pass(100000);
+    EXPECT_EQ(recorded(2), "0..8191 trigger 0") << "areas are out of use";
 }
 
 TEST_F(RecordingTest, GoesOnWithoutTheCamerasThatFail) {
@@ -260,6 +309,34 @@ TEST_F(RecordingTest, MissesReadyCamerasAndEndsWhenNoneIsLeft) {
     EXPECT_EQ(ends, 2) << "there is no camera to arm";
 }
 
+TEST_F(RecordingTest, TellsOfCamerasThatWereAwayBetweenTwoLooks) {
+    const auto reconnect = [this](DOCKEY key) {
+        host.docManager().disconnectDocs({key});
+        test.camera(key).set(&CameraState::connected, true);
+    };
+    armAll();
+    reconnect(1);
+    pass(1);
+    EXPECT_EQ(messages(), "Camera 1: the camera has left the recording. It does not take part in the recording.");
+    host.recorder().triggerRecording();
+    reconnect(2);
+    pass(1);
+    EXPECT_EQ(messages(), "Camera 2: the camera has left the recording. Its recording is lost.");
+    EXPECT_EQ(states(), "0 0 3 - 3");
+}
+
+TEST_F(RecordingTest, ACameraThatOthersHaveStartedIsStoppedOrTold) {
+    test.camera(1).set(&CameraState::recordState, zeb::RecordRecording);
+    plant(1, "stop", {QStringLiteral("no answer"), 0, false});
+    host.recorder().stopRecording();
+    pass(1);
+    EXPECT_EQ(messages(), "Camera 1: no answer");
+    EXPECT_EQ(states(), "3 0 0 - 3");
+    plant(1, "stop", {});
+    host.recorder().stopRecording();
+    EXPECT_EQ(states(), "0 0 0 - 0");
+}
+
 TEST_F(RecordingTest, ACameraThatCannotBeStoppedFillsItsMemory) {
     triggerAll();
     plant(2, "stop", {QStringLiteral("no answer"), 0, false});
@@ -274,7 +351,6 @@ TEST_F(RecordingTest, ACameraThatCannotBeStoppedFillsItsMemory) {
 }
 
 TEST_F(RecordingTest, TellsAboutAVanishedCameraAfterTheBoxThatStands) {
-    armAll();
     plant(1, "arm", {QStringLiteral("no answer"), 0, false});
     plant(2, "*", {{}, 0, true});
     test.desk.whileStanding = [this] {
@@ -283,7 +359,6 @@ TEST_F(RecordingTest, TellsAboutAVanishedCameraAfterTheBoxThatStands) {
         EXPECT_EQ(test.desk.shown.size(), 1);
         host.recorder().stopRecording();
     };
-    host.recorder().cancelRecording(false);
     armAll();
     EXPECT_EQ(messages(), "Camera 1: no answer");
     EXPECT_EQ(states(), "4 2 - 2");
@@ -297,7 +372,7 @@ TEST_F(RecordingTest, EachPartitionKeepsItsOwn) {
     EXPECT_THROW(host.cameraOps().setPartition(2, 0), std::exception) << "not while it records";
     pass(3000);
     EXPECT_EQ(recorded(1), "0..2047 trigger 0");
-    host.recorder().stopRecording();
+    pass(0);
     test.doc(1)->control().setSelectRange(0, 0);
     test.doc(1)->frames().setRecordCheck(true);
     host.cameraOps().setPartition(2, 0);

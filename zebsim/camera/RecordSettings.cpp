@@ -31,11 +31,12 @@ int RecordSettings::framesBefore() const {
         case zeb::TriggerTwostageOneeighth:
             return capacity / 8;
         case zeb::TriggerManual:
-            return std::clamp(triggerFrame, 0, most);
+            return std::clamp(capacity - triggerFrame, 0, most);
         case zeb::TriggerRandomCenter:
             return randomGroup() / 2;
         case zeb::TriggerRandomManual:
-            return capacity > 0 ? static_cast<int>(qint64(randomGroup()) * std::clamp(triggerFrame, 0, most) / capacity)
+            return capacity > 0 ? static_cast<int>(qint64(randomGroup()) *
+                                                   std::clamp(capacity - triggerFrame, 0, most) / capacity)
                                 : 0;
         default:
             return 0;

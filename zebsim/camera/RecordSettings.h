@@ -12,10 +12,10 @@ struct RecordSettings {
     int mode = 0;
     /// Frames that the partition holds.
     int capacity = 0;
-    /// Frames a second.
-    unsigned int rate = 0;
+    /// Frames a second; never 0.
+    unsigned int rate = 1;
     QSize resolution;
-    /// Of the manual modes: the trigger's place in the memory.
+    /// Of the manual modes: frames of the memory that are kept for what comes from the trigger on.
     int triggerFrame = 0;
     /// Of the random modes: frames of one trigger, 0 for all that fit, and how often it comes, 0 until the memory is
     /// full. The triggers after the first follow without a pause.

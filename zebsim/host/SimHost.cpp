@@ -31,7 +31,7 @@ SimHost::SimHost(Clock& clock, MessageDesk& desk, const QString& prefsPath)
       m_docManager(*this, m_journal, m_cameras, m_prefs, m_appStatus, m_flags, m_translator, m_syncSignal, m_updates),
       m_liveLoop(m_journal, m_cameras, m_events),
       m_player(m_journal),
-      m_recorder(m_journal, clock, m_cameras, m_flags, m_appStatus, m_events, m_updates, m_translator,
+      m_recorder(m_journal, clock, m_cameras, m_docManager, m_flags, m_appStatus, m_events, m_updates, m_translator,
                  m_waitingMessages),
       m_saver(m_journal, m_flags, [this] { return m_appDesk; }),
       m_cameraOps(m_journal, m_cameras, m_docManager, m_recorder, m_saver, m_prefs, m_flags, m_waitingMessages),
@@ -159,9 +159,10 @@ bool SimHost::confirmModal(const QString& text, QWidget* parent, const ButtonTex
     return show(box).accepted;
 }
 
-int SimHost::choose(const QString& text, QWidget* parent, const ButtonTexts& buttons) {
+int SimHost::choose(const QString& text, QWidget* parent, const ButtonTexts& buttons, int preferred) {
     Message box = message(Message::Confirm, text, parent);
     box.buttons = buttons;
+    box.preferred = preferred;
     return show(box).button;
 }
 

@@ -6,6 +6,7 @@
 #include "host/Journal.h"
 #include "host/PluginSignal.h"
 #include "host/SimAppStatus.h"
+#include "host/SimDocManager.h"
 #include "host/StatusFlags.h"
 #include "host/Translator.h"
 #include "host/UpdateCycle.h"
@@ -29,28 +30,28 @@ int statusOfAll(const QList<int>& each) {
 
 }  // namespace
 
-SimRecorder::SimRecorder(Journal& journal, const Clock& clock, const CameraBank& cameras, const StatusFlags& flags,
-                         SimAppStatus& appStatus, HostEvents& events, UpdateCycle& updates,
+SimRecorder::SimRecorder(Journal& journal, const Clock& clock, const CameraBank& cameras, const SimDocManager& docs,
+                         const StatusFlags& flags, SimAppStatus& appStatus, HostEvents& events, UpdateCycle& updates,
                          const Translator& translator, WaitingMessages& messages)
     : m_journal(journal),
       m_cameras(cameras),
+      m_docs(docs),
       m_flags(flags),
       m_appStatus(appStatus),
       m_events(events),
-      m_run(std::make_unique<RecordRun>(cameras, clock,
-                                        RecordRun::Listener{
-                                            [&updates] { updates.request(); },
-                                            [&messages](const QString& text) { messages.add(text); },
-                                            [this](bool recorded) {
-                                                m_owedEnd = recorded;
-                                                QMetaObject::invokeMethod(
-                                                    &m_turn, [this] { deliverEnd(); }, Qt::QueuedConnection);
-                                            },
-                                            [&translator](const QString& text) { return translator.translate(text); },
-                                        })) {}
+      m_run(cameras, clock,
+            RecordRun::Listener{
+                [&updates] { updates.request(); },
+                [&messages](const QString& text) { messages.add(text); },
+                [this](bool recorded) {
+                    m_owedEnd = recorded;
+                    QMetaObject::invokeMethod(
+                        &m_turn, [this] { deliverEnd(); }, Qt::QueuedConnection);
+                },
+                [&translator](const QString& text) { return translator.translate(text); },
+            }) {}
 
 int SimRecorder::getRecStatus(const DocKeyList& keys) const {
-    m_run->proceed();
     const QList<QPair<QString, zeb::RecordStatus>> states{{QStringLiteral("IsRecordingError"), zeb::RecordError},
                                                           {QStringLiteral("IsRecording"), zeb::RecordRecording},
                                                           {QStringLiteral("IsReady"), zeb::RecordReady},
@@ -84,10 +85,9 @@ void SimRecorder::startRecReady() {
 }
 
 void SimRecorder::arm() {
-    // The end of an earlier recording is none of this one.
-    m_run->proceed();
-    m_owedEnd.reset();
-    m_run->arm();
+    if (!hasEnded()) {
+        m_run.arm();
+    }
 }
 
 void SimRecorder::triggerRecording() {
@@ -99,24 +99,47 @@ void SimRecorder::trigger() {
     if (m_flags.isOn(QStringLiteral("IsTriggerTesting"))) {
         Q_EMIT m_events.testTriggerCame();
     } else {
-        m_run->trigger();
+        m_run.trigger(m_docs.isRecordAreaEnabled());
     }
 }
 
 void SimRecorder::stopRecording() {
     m_journal.record("ZebRecorder::stopRecording");
-    m_run->stop();
+    m_run.stop();
 }
 
 void SimRecorder::cancelRecording(bool recording) {
     m_journal.record("ZebRecorder::cancelRecording", {recording});
-    m_run->cancel();
+    endByCancel();
+}
+
+void SimRecorder::cancel() {
+    if (endByCancel()) {
+        sendToPlugins(m_appStatus, "signalEndRecording");
+    }
+}
+
+bool SimRecorder::endByCancel() {
+    if (hasEnded()) {
+        return false;
+    }
+    m_run.cancel();
     // Whoever cancels knows that it is over.
-    m_owedEnd.reset();
+    if (std::exchange(m_owedEnd, std::nullopt).value_or(false)) {
+        Q_EMIT m_events.somethingRecorded();
+    }
+    return true;
+}
+
+bool SimRecorder::hasEnded() {
+    m_run.proceed();
+    const bool isOwed = m_owedEnd.has_value();
+    deliverEnd();
+    return isOwed;
 }
 
 void SimRecorder::press() {
-    if (m_appStatus.mode() != zeb::LiveMode) {
+    if (m_appStatus.mode() != zeb::LiveMode || hasEnded()) {
         return;
     }
     switch (getRecordingState()) {
@@ -126,7 +149,7 @@ void SimRecorder::press() {
             trigger();
             break;
         case zeb::RecordRecording:
-            m_run->stop();
+            m_run.stop();
             break;
         default:
             arm();

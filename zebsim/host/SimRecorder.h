@@ -12,20 +12,23 @@ class Clock;
 class HostEvents;
 class Journal;
 class SimAppStatus;
+class SimDocManager;
 class StatusFlags;
 class Translator;
 class UpdateCycle;
 class WaitingMessages;
 
 /// The recording on the host's cameras. Its end comes from the event loop: plug-ins get their signal, and the host goes
-/// into memory mode when something was recorded. Messages come when no modal dialog stands.
+/// into memory mode when something was recorded. Whoever presses before has meant the recording that has just ended:
+/// then the end comes at once, and the press does nothing else.
 class SimRecorder : public ZebRecorder {
 public:
-    SimRecorder(Journal& journal, const Clock& clock, const CameraBank& cameras, const StatusFlags& flags,
-                SimAppStatus& appStatus, HostEvents& events, UpdateCycle& updates, const Translator& translator,
-                WaitingMessages& messages);
+    SimRecorder(Journal& journal, const Clock& clock, const CameraBank& cameras, const SimDocManager& docs,
+                const StatusFlags& flags, SimAppStatus& appStatus, HostEvents& events, UpdateCycle& updates,
+                const Translator& translator, WaitingMessages& messages);
 
-    /// As the flags tell, and without one as the cameras asked about stand together.
+    /// As the flags tell, and without one as the cameras asked about stand together when the recording was last brought
+    /// up to the clock: a question alone ends nothing.
     int getRecStatus(const DocKeyList& keys) const override;
     int getRecordingState() const override;
     void startRecReady() override;
@@ -38,24 +41,28 @@ public:
     /// The host's own record key: arms, triggers or stops, as the state is. Only in live mode.
     void press();
     /// The host's own cancel, after which plug-ins get their signal too.
-    void cancel() { m_run->cancel(); }
+    void cancel();
     /// Brings the recording up to the clock; called often.
-    void proceed() { m_run->proceed(); }
+    void proceed() { m_run.proceed(); }
     /// The cameras are replaced.
-    void abandon() { m_run->abandon(); }
+    void abandon() { m_run.abandon(); }
 
 private:
     void arm();
     void trigger();
+    /// False when the recording had ended already.
+    bool endByCancel();
+    /// Whether the recording has ended and nobody knew yet; they do now.
+    bool hasEnded();
     void deliverEnd();
 
     Journal& m_journal;
     const CameraBank& m_cameras;
+    const SimDocManager& m_docs;
     const StatusFlags& m_flags;
     SimAppStatus& m_appStatus;
     HostEvents& m_events;
-    /// Behind a pointer, for a question brings it up to the clock too.
-    const std::unique_ptr<RecordRun> m_run;
+    RecordRun m_run;
     /// An end that is still to be told, and whether something was recorded.
     std::optional<bool> m_owedEnd;
     QObject m_turn;

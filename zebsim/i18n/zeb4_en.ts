@@ -244,6 +244,10 @@
         <translation>Stop</translation>
     </message>
     <message>
+        <source>Go on</source>
+        <translation>Go on</translation>
+    </message>
+    <message>
         <source>OK</source>
         <translation>OK</translation>
     </message>
@@ -1128,6 +1132,10 @@
         <translation>%1: the camera was disconnected.</translation>
     </message>
     <message>
+        <source>%1: the camera has left the recording.</source>
+        <translation>%1: the camera has left the recording.</translation>
+    </message>
+    <message>
         <source>Its recording is lost.</source>
         <translation>Its recording is lost.</translation>
     </message>
@@ -1270,6 +1278,10 @@
     <message>
         <source>Skip camera</source>
         <translation>Skip camera</translation>
+    </message>
+    <message>
+        <source>Stop saving? Complete files stay.</source>
+        <translation>Stop saving? Complete files stay.</translation>
     </message>
     <message>
         <source>Snapshots</source>

@@ -244,6 +244,10 @@
         <translation>停止</translation>
     </message>
     <message>
+        <source>Go on</source>
+        <translation>続ける</translation>
+    </message>
+    <message>
         <source>OK</source>
         <translation>OK</translation>
     </message>
@@ -1128,6 +1132,10 @@
         <translation>%1: カメラの接続が切れました。</translation>
     </message>
     <message>
+        <source>%1: the camera has left the recording.</source>
+        <translation>%1: カメラが撮影から外れました。</translation>
+    </message>
+    <message>
         <source>Its recording is lost.</source>
         <translation>記録は失われました。</translation>
     </message>
@@ -1270,6 +1278,10 @@
     <message>
         <source>Skip camera</source>
         <translation>このカメラをスキップ</translation>
+    </message>
+    <message>
+        <source>Stop saving? Complete files stay.</source>
+        <translation>保存を中止しますか？完成したファイルは残ります。</translation>
     </message>
     <message>
         <source>Snapshots</source>

@@ -10,6 +10,8 @@
 
 namespace {
 
+const QString HasDisappeared = QStringLiteral("%1: the camera has disappeared.");
+
 bool isArmed(int state) {
     return state == zeb::RecordCtsReady || state == zeb::RecordReady;
 }
@@ -71,12 +73,15 @@ void RecordRun::arm() {
     }
 }
 
-void RecordRun::trigger() {
+void RecordRun::trigger(bool withAreas) {
     proceed();
     const qint64 now = m_clock.now();
     for (const auto& camera : camerasIn([](int state) { return state == zeb::RecordReady; })) {
         Part& part = partOf(camera);
         part.settings = RecordSettings::of(camera->state(), camera->model());
+        if (!withAreas) {
+            part.settings.area = {};
+        }
         if (tried([&] { camera->trigger(); })) {
             part.triggeredAt = now;
             part.triggered = true;
@@ -103,19 +108,21 @@ void RecordRun::stop() {
 }
 
 void RecordRun::cancel() {
+    const qint64 now = m_clock.now();
     for (const auto& camera : camerasIn([](int state) { return state != zeb::RecordLive; })) {
-        if (!tried([&] { camera->cancel(); })) {
-            camera->enterRecordState(zeb::RecordError);
+        Part& part = partOf(camera);
+        const int state = tried([&] { camera->cancel(); }) ? zeb::RecordLive : zeb::RecordError;
+        if (part.over) {
+            enter(part, state);
+        } else {
+            end(part, now, state);
         }
     }
-    for (const Part& part : std::exchange(m_parts, {})) {
-        if (part.triggered) {
-            part.camera->keep(std::nullopt);
-        }
-    }
+    const bool recorded = hasRecorded();
+    m_parts.clear();
     m_changed = true;
     tell();
-    m_listener.ended(false);
+    m_listener.ended(recorded);
 }
 
 void RecordRun::abandon() {
@@ -138,25 +145,21 @@ void RecordRun::proceed() {
 }
 
 void RecordRun::proceed(Part& part, qint64 now) {
-    Camera& camera = *part.camera;
-    if (camera.isGone() || !camera.get(&CameraState::connected)) {
-        miss(part, camera.isGone());
-        return;
-    }
-    switch (camera.get(&CameraState::recordState)) {
-        case zeb::RecordCtsReady:
-            if (now >= part.readyAt) {
-                enter(part, zeb::RecordReady);
-            }
-            break;
-        case zeb::RecordReady:
-            break;
-        case zeb::RecordRecording:
-            record(part, now);
-            break;
-        default:
-            // Somebody else has put it back.
-            part.over = true;
+    const Camera& camera = *part.camera;
+    const int state = camera.get(&CameraState::recordState);
+    if (camera.isGone()) {
+        miss(part, HasDisappeared);
+        enter(part, zeb::RecordLive);
+    } else if (!camera.get(&CameraState::connected)) {
+        miss(part, QStringLiteral("%1: the camera was disconnected."));
+        enter(part, zeb::RecordLive);
+    } else if (state == zeb::RecordRecording) {
+        record(part, now);
+    } else if (part.triggered || !isArmed(state)) {
+        // Somebody else has put it back, or it was disconnected for a while.
+        miss(part, QStringLiteral("%1: the camera has left the recording."));
+    } else if (state == zeb::RecordCtsReady && now >= part.readyAt) {
+        enter(part, zeb::RecordReady);
     }
 }
 
@@ -174,22 +177,21 @@ void RecordRun::record(Part& part, qint64 now) {
         return;
     }
     if (camera.isGone()) {
-        miss(part, true);
+        miss(part, HasDisappeared);
+        enter(part, zeb::RecordLive);
     } else if (part.triggered && now >= full) {
         end(part, full, zeb::RecordLive);
     }
 }
 
-void RecordRun::miss(Part& part, bool gone) {
-    const QString text =
-        gone ? QStringLiteral("%1: the camera has disappeared.") : QStringLiteral("%1: the camera was disconnected.");
+void RecordRun::miss(Part& part, const QString& why) {
     const QString loss = part.triggered ? QStringLiteral("Its recording is lost.")
                                         : QStringLiteral("It does not take part in the recording.");
-    m_failures.append(m_listener.translate(text).arg(part.camera->name()) + QLatin1Char(' ') +
+    m_failures.append(m_listener.translate(why).arg(part.camera->name()) + QLatin1Char(' ') +
                       m_listener.translate(loss));
     part.over = true;
     part.triggered = false;
-    enter(part, zeb::RecordLive);
+    m_changed = true;
 }
 
 void RecordRun::end(Part& part, qint64 now, int recordState) {
@@ -216,9 +218,12 @@ void RecordRun::tell() {
     if (m_parts.empty() || !isOver) {
         return;
     }
-    const bool recorded = std::any_of(m_parts.begin(), m_parts.end(), [](const Part& part) {
-        return part.triggered && part.camera->get(&CameraState::recorded);
-    });
+    const bool recorded = hasRecorded();
     m_parts.clear();
     m_listener.ended(recorded);
+}
+
+bool RecordRun::hasRecorded() const {
+    return std::any_of(m_parts.begin(), m_parts.end(),
+                       [](const Part& part) { return part.triggered && part.camera->get(&CameraState::recorded); });
 }

@@ -35,11 +35,12 @@ public:
 
     /// Arms the connected cameras that are not under way. Those that fail are told of, the others go on.
     void arm();
-    /// Triggers the cameras that are ready, all at this time of the clock.
-    void trigger();
+    /// Triggers the cameras that are ready, all at this time of the clock. `withAreas`: they keep the record area
+    /// alone.
+    void trigger(bool withAreas);
     /// Ends the recording of the cameras that record; they keep what they have.
     void stop();
-    /// Puts all cameras back to live. What they have made since they were triggered is thrown away.
+    /// Puts all cameras back to live. Those that record keep what they have, and what others have recorded stays.
     void cancel();
     /// The cameras are no more.
     void abandon();
@@ -62,12 +63,14 @@ private:
     bool tried(const std::function<void()>& command);
     void proceed(Part& part, qint64 now);
     void record(Part& part, qint64 now);
-    void miss(Part& part, bool gone);
+    /// The camera takes no part any more and keeps nothing of this recording. `why` has its place for the name.
+    void miss(Part& part, const QString& why);
     /// The camera keeps what it has recorded until `now`, and takes no part any more.
     void end(Part& part, qint64 now, int recordState);
     void enter(Part& part, int recordState);
     /// Tells what has gathered.
     void tell();
+    bool hasRecorded() const;
 
     const CameraBank& m_cameras;
     const Clock& m_clock;
