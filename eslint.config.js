@@ -13,8 +13,8 @@ const browser = readonly(['window', 'document', 'location', 'Node', 'Event', 'Mo
 const table = readonly([
     'wrentabledialog',
     'wrentabledialog_obj', 'wrentabledialog_const_obj', 'wrentabledialog_column_obj', 'TABS',
-    'escapeMarkup', 'translate', 'parseReply', 'guarded', 'logged', 'onClick', 'isDisabled', 'onPress', 'onSwitch', 'textTip',
-    'closeTip', 'showElement', 'setText', 'setClass', 'setStyle',
+    'escapeMarkup', 'translate', 'parseReply', 'guarded', 'logged', 'onClick', 'isDisabled', 'onPress', 'onSwitch',
+    'textTip', 'closeTip', 'showElement', 'setText', 'setClass', 'setStyle',
     'Cell', 'COLUMNS', 'isBatch', 'isOff', 'isOffOrBatch', 'hasDropDowns', 'indexesOf', 'showChoice', 'plainColumn',
     'DrawnRow', 'columnKind', 'GridView', 'LIVE', 'MEMORY', 'views', 'viewAt', 'viewOf', 'tabHeader',
     'dropDown', 'listenToGrid', 'rowKeys', 'connectedKeys', 'controls',

@@ -106,6 +106,9 @@ TEST_F(PageNumbers, GoOutWhenTheyAreStepped) {
               QStringList("setTriggerOffset 2 0"));
     EXPECT_FALSE(test.camera(2).get(&CameraState::triggerOffsetEnabled));
     EXPECT_EQ(sent([&] { page.key(Qt::Key_Down); }), QStringList()) << "at its limit";
+    page.click(box(Offset, "1"));
+    EXPECT_EQ(sent([&] { page.key(Qt::Key_Up); }), QStringList("setTriggerOffset 1 100"))
+        << "its limits are frames of the recording, not offsets";
     EXPECT_EQ(widgets(), 1);
     EXPECT_EQ(page.list("probe.selected()"), QStringList({"1", "2", "3"})) << "none of this chose a row";
     page.click("#wren-memoryInfo-list tr[recid=\"3\"] .wren_label_edit_camera_name");
