@@ -1,5 +1,10 @@
 #include "TablePage.h"
 
+#include <QDialog>
+#include <QWebElement>
+#include <QWebFrame>
+#include <QWebView>
+
 #include <gmock/gmock.h>
 
 namespace {
@@ -168,6 +173,31 @@ TEST(PagePanels, HandOnWhatIsPressed) {
         EXPECT_FALSE(page.run("$('#timeline_rec_exec').prop('disabled')").toBool()) << "and can be pressed again";
         test.host.flags().set(state, false);
     }
+}
+
+TEST(PageMenus, ThePartitionBoxForgetsACameraThatHasGone) {
+    TestHost test(Rig::standard(2));
+    connectCameras(test, 1, 2);
+    choose(test, {"1"});
+    TablePage page(test);
+    const auto rows = [&page] {
+        QStringList texts;
+        for (const QWebView* view : page.window().findChildren<QWebView*>()) {
+            for (const QWebElement& row : view->page()->mainFrame()->findAllElements("#items > li > a")) {
+                texts << row.toPlainText();
+            }
+        }
+        return texts;
+    };
+    const char* opens = "document.getElementById('btn-recording_partition').click(); return 0";
+    page.run(opens);
+    EXPECT_EQ(rows().size(), 3) << "a partition, and the way to the settings";
+    page.click(".dummy");
+    test.camera(1).change({{"connected", false}});
+    page.update();
+    page.run(opens);
+    EXPECT_EQ(rows(), QStringList());
+    page.click(".dummy");
 }
 
 TEST(PageMenus, LinksLeadToTheSettings) {

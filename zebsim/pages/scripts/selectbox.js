@@ -4,6 +4,7 @@
 const selectbox = {
     // Pixels.
     rowHeight: 24,
+    holdsPartitions: false,
 
     initialize() {
         this.list = document.getElementById('items');
@@ -11,8 +12,17 @@ const selectbox = {
         items.signalShowVariable.connect(json => this.showVariables(JSON.parse(json), false));
         items.signalShowVariableRegist.connect(json => this.showVariables(JSON.parse(json), true));
         items.signalSetHeight.connect(height => this.setRowHeight(height));
-        items.update.connect(() => this.applyStyle());
+        items.update.connect(() => this.update());
         this.list.addEventListener('click', event => this.choose(event.target));
+    },
+
+    // Nobody tells of the partitions of no camera, so those of the one that has gone must not stay.
+    update() {
+        this.applyStyle();
+        if (this.holdsPartitions && items.getCurrentPartition() === 0) {
+            this.holdsPartitions = false;
+            this.show([]);
+        }
     },
 
     applyStyle() {
@@ -23,6 +33,7 @@ const selectbox = {
     showPartitions(names) {
         const current = items.getCurrentPartition();
         const count = items.isLiveMode() ? names.length - 2 : names.length;
+        this.holdsPartitions = true;
         this.show(names.map((text, index) => ({
             text,
             isSelected: index + 1 === current,
@@ -33,6 +44,7 @@ const selectbox = {
 
     // A channel that can't be used can still be written to.
     showVariables(list, isRegistration) {
+        this.holdsPartitions = false;
         this.show(list.ChannelInfos.map(channel => ({
             text: channel.VariableInfo ? channel.Value + ': ' + channel.VariableInfo : channel.Value,
             isSelected: channel.Value === list.SelectValue,
