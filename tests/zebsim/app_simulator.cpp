@@ -1,10 +1,12 @@
 #include "CommandLine.h"
+#include "ScenarioDialogs.h"
 #include "Simulator.h"
 #include "ViewerWindow.h"
 #include "camera/Camera.h"
 #include "support/StubPlugin.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QCoreApplication>
 #include <QDialog>
 #include <QStatusBar>
@@ -24,6 +26,11 @@ protected:
 };
 
 TEST_F(ViewerTest, EndsTheApplicationWhenItIsClosed) {
+    simulator.host().cameras().find(1)->change({{"connected", true}, {"recordState", zeb::RecordReady}});
+    ScenarioDialogs dialogs;
+    dialogs.queueAnswers({"cancel"});
+    simulator.window().close();
+    EXPECT_FALSE(simulator.host().isApplicationClosing()) << "a camera is armed";
     EXPECT_EQ(simulator.run([&] { simulator.window().close(); }), 0);
     EXPECT_TRUE(simulator.host().isApplicationClosing());
 }
@@ -60,6 +67,7 @@ TEST_F(ViewerTest, RecordsByItsOwnKeyUnlessAPluginIsInFront) {
         while (host.updates().isPending()) QCoreApplication::processEvents();
     };
     settle();
+    QApplication::setDoubleClickInterval(0);
     EXPECT_FALSE(key("record")->isEnabled()) << "no camera is connected";
     host.cameras().find(1)->connect();
     host.updates().request();
@@ -74,6 +82,18 @@ TEST_F(ViewerTest, RecordsByItsOwnKeyUnlessAPluginIsInFront) {
     key("record")->trigger();
     settle();
     EXPECT_EQ(key("record")->text(), "Stop");
+    QApplication::setDoubleClickInterval(3600000);
+    key("record")->trigger();
+    EXPECT_EQ(host.recorder().getRecordingState(), zeb::RecordRecording) << "the second of a double press";
+    QApplication::setDoubleClickInterval(0);
+    host.cameras().find(1)->set(&CameraState::recordState, zeb::RecordReady);
+    key("record")->trigger();
+    EXPECT_EQ(host.recorder().getRecordingState(), zeb::RecordReady) << "it has not shown that";
+    host.cameras().find(1)->set(&CameraState::recordState, zeb::RecordRecording);
+    ScenarioDialogs dialogs;
+    dialogs.queueAnswers({"cancel"});
+    key("disconnectAll")->trigger();
+    EXPECT_EQ(host.docManager().getConnectedDocKeys(), DocKeyList{1}) << "asked first";
     simulator.clock().setSpeed(1000);
     while (!host.isMemoryMode()) QCoreApplication::processEvents();
     EXPECT_EQ(host.cameras().find(1)->recording()->frameCount(), 8192U);

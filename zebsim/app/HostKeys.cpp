@@ -6,6 +6,7 @@
 #include "host/SimHost.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QToolBar>
 
 #include <algorithm>
@@ -21,6 +22,8 @@ QString recordText(int state) {
             return uiText("Trigger");
         case zeb::RecordRecording:
             return uiText("Stop");
+        case zeb::RecordError:
+            return uiText("Clear error");
         default:
             return uiText("Record");
     }
@@ -55,12 +58,26 @@ HostKeys::HostKeys(SimHost& host, QToolBar& bar)
 }
 
 void HostKeys::record() {
-    // Out of an error only the host has a way.
-    const bool hasFailed = m_host.recorder().getRecordingState() == zeb::RecordError;
-    if (hasFailed || !sendToActivePlugin(m_host.appStatus(), "signalRecord")) m_host.recorder().press();
+    const bool isDouble = m_sinceRecord.isValid() && m_sinceRecord.elapsed() < QApplication::doubleClickInterval();
+    m_sinceRecord.start();
+    if (isDouble) return;
+    SimRecorder& recorder = m_host.recorder();
+    const int state = recorder.getRecordingState();
+    if (state != m_shownState) {
+        refresh();
+    } else if (state == zeb::RecordError) {
+        // Only the host has a way out of it.
+        recorder.cancel();
+    } else if (!sendToActivePlugin(m_host.appStatus(), "signalRecord")) {
+        recorder.press();
+    }
 }
 
 void HostKeys::disconnectAll() {
+    if (m_host.recorder().isUnderWay() &&
+        !m_host.confirm(uiText("Cameras are armed or recording. Disconnect all the same?"))) {
+        return;
+    }
     const QList<PLG_Interface*> plugins = m_host.appStatus().plugins();
     if (std::any_of(plugins.begin(), plugins.end(), hasOpenDialog)) {
         sendToPlugins(m_host.appStatus(), "signalDisconnect");
@@ -79,6 +96,7 @@ void HostKeys::disconnectAll() {
 
 void HostKeys::refresh() {
     const int state = m_host.recorder().getRecordingState();
+    m_shownState = state;
     const bool isLive = m_host.isLiveMode();
     const bool hasCameras = !m_host.docManager().getConnectedDocKeys().isEmpty();
     m_record->setText(recordText(isLive ? state : int(zeb::RecordLive)));

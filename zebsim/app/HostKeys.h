@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QElapsedTimer>
 #include <QObject>
 
 class QAction;
@@ -7,7 +8,7 @@ class QToolBar;
 class SimHost;
 
 /// The viewer's keys that work all cameras: record, cancel, disconnect. The record key means the table while that is
-/// the window in front.
+/// the window in front. It does what it shows, once: a second press of a double one is no other.
 class HostKeys : public QObject {
     Q_OBJECT
 
@@ -24,4 +25,6 @@ private:
     QAction* m_record;
     QAction* m_cancel;
     QAction* m_disconnect;
+    int m_shownState = 0;
+    QElapsedTimer m_sinceRecord;
 };

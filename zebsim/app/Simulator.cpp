@@ -3,6 +3,7 @@
 #include "AppWindows.h"
 #include "CameraWindows.h"
 #include "CommandLine.h"
+#include "UiText.h"
 #include "ViewerWindow.h"
 #include "camera/Rig.h"
 #include "host/PluginLoader.h"
@@ -35,7 +36,11 @@ Simulator::Simulator(const CommandLine& line) : m_host(m_clock, m_boxes, line.pr
     m_desk = std::make_unique<AppWindows>(m_host, m_log, m_window->images());
     m_window->addDialogs(*m_desk);
     m_host.docManager().setEditor([this](DOCKEY key) { m_desk->editCamera(key); });
-    QObject::connect(m_window.get(), &ViewerWindow::closeAsked, m_window.get(), [this] { quit(); });
+    QObject::connect(m_window.get(), &ViewerWindow::closeAsked, m_window.get(), [this] {
+        if (!m_host.recorder().isUnderWay() ||
+            m_host.confirm(uiText("Cameras are armed or recording. Close the viewer all the same?")))
+            quit();
+    });
     loadPlugin(line);
     QObject::connect(&m_recorderTimer, &QTimer::timeout, m_window.get(), [this] { m_host.recorder().proceed(); });
     m_recorderTimer.start(RecorderInterval);

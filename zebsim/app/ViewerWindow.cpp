@@ -56,8 +56,9 @@ ViewerWindow::ViewerWindow(SimHost& host, const LogStore& log)
     connect(&host.events(), &HostEvents::camerasReplaced, this, &ViewerWindow::refresh);
     connect(&host.events(), &HostEvents::modeChanged, this, &ViewerWindow::refresh);
     connect(m_images.get(), &CameraWindows::shown, this, &ViewerWindow::refresh);
-    connect(&host.events(), &HostEvents::testTriggerCame, this,
-            [this] { statusBar()->showMessage(uiText("The test trigger has come."), MessageTime); });
+    connect(&host.events(), &HostEvents::testTriggerCame, this, [this] {
+        statusBar()->showMessage(uiText("Trigger test: the trigger has come. Nothing is recorded."), MessageTime);
+    });
     refresh();
 }
 

@@ -79,6 +79,11 @@ int SimRecorder::getRecordingState() const {
     return getRecStatus(keys);
 }
 
+bool SimRecorder::isUnderWay() const {
+    const int state = getRecordingState();
+    return state != zeb::RecordLive && state != zeb::RecordError;
+}
+
 void SimRecorder::startRecReady() {
     m_journal.record("ZebRecorder::startRecReady");
     arm();

@@ -37,6 +37,8 @@ public:
     void stopRecording() override;
     void cancelRecording(bool recording) override;
     bool isRecording() const override { return getRecordingState() == zeb::RecordRecording; }
+    /// Whether cameras are armed or record.
+    bool isUnderWay() const;
 
     /// The host's own record key: arms, triggers or stops, as the state is. Only in live mode.
     void press();

@@ -1152,8 +1152,20 @@
         <translation>Disconnect all</translation>
     </message>
     <message>
-        <source>The test trigger has come.</source>
-        <translation>The test trigger has come.</translation>
+        <source>Trigger test: the trigger has come. Nothing is recorded.</source>
+        <translation>Trigger test: the trigger has come. Nothing is recorded.</translation>
+    </message>
+    <message>
+        <source>Clear error</source>
+        <translation>Clear error</translation>
+    </message>
+    <message>
+        <source>Cameras are armed or recording. Disconnect all the same?</source>
+        <translation>Cameras are armed or recording. Disconnect all the same?</translation>
+    </message>
+    <message>
+        <source>Cameras are armed or recording. Close the viewer all the same?</source>
+        <translation>Cameras are armed or recording. Close the viewer all the same?</translation>
     </message>
     <message>
         <source>Trigger</source>

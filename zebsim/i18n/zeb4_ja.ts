@@ -1152,8 +1152,20 @@
         <translation>すべて切断</translation>
     </message>
     <message>
-        <source>The test trigger has come.</source>
-        <translation>テストトリガを受信しました。</translation>
+        <source>Trigger test: the trigger has come. Nothing is recorded.</source>
+        <translation>トリガテスト: トリガが入力されました。撮影はしていません。</translation>
+    </message>
+    <message>
+        <source>Clear error</source>
+        <translation>エラー解除</translation>
+    </message>
+    <message>
+        <source>Cameras are armed or recording. Disconnect all the same?</source>
+        <translation>撮影準備中または撮影中のカメラがあります。切断しますか？</translation>
+    </message>
+    <message>
+        <source>Cameras are armed or recording. Close the viewer all the same?</source>
+        <translation>撮影準備中または撮影中のカメラがあります。ビューアを閉じますか？</translation>
     </message>
     <message>
         <source>Trigger</source>
