@@ -10,7 +10,8 @@ public:
     /// Numbers of the first and the last recorded frame.
     virtual int getFirstFrame(int partition, int head) const = 0;
     virtual int getLastFrame(int partition, int head) const = 0;
-    /// Number of the frame at which the trigger came. The user sees frames counted from it.
+    /// Number of the frame that the user counts from: the one at which the trigger came, or the zero point that
+    /// `DOC_Control::setTriggerOffset` has put in its place.
     virtual int getTriggerFrame(int head) const = 0;
     /// The part of the recording that is to be kept: first <= start <= end <= last.
     virtual int getSelectStartFrame(int head) const = 0;

@@ -363,9 +363,9 @@ TEST_F(RecordModelTest, framesReadAsTheUserLikesThemWhereTheyAreNotEdited) {
     const QJsonObject gateOfPlugins = row(records(R"({"tab":6})"), 0);
     QLocale::setDefault(QLocale::c());
     EXPECT_EQ(gate.value("frameRate"), "2000 fps") << "rates have a preference of their own";
-    EXPECT_EQ(gate.value("originalEndFrameNo"), "4,499");
+    EXPECT_EQ(gate.value("originalEndFrameNo"), "4,549");
     EXPECT_EQ(gate.value("totalFrame"), "1,000");
-    EXPECT_EQ(gate.value("selectEndMaxFrameNo"), "4499");
+    EXPECT_EQ(gate.value("selectEndMaxFrameNo"), "4549");
     EXPECT_EQ(gate.value("maxTriggerOffset"), "5999");
     EXPECT_EQ(gateOfPlugins.value("totalFrame"), "1000");
 }

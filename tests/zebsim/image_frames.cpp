@@ -37,12 +37,9 @@ TEST(CameraFrame, TellsNumberAndTimeFromTheZeroPoint) {
     Recording recording;
     recording.rate = 4000;
     recording.last = 999;
-    recording.trigger = 400;
+    recording.zero = 400;
     EXPECT_EQ(CameraFrame::recorded(state, recording, 396).number, -4);
     EXPECT_EQ(CameraFrame::recorded(state, recording, 396).time, -1000);
-    state.triggerOffsetEnabled = true;
-    state.triggerOffset = 300;
-    EXPECT_EQ(CameraFrame::recorded(state, recording, 396).number, 96);
     recording.rate = 0;
     EXPECT_EQ(CameraFrame::recorded(state, recording, 396).time, 0);
 }

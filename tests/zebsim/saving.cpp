@@ -1,3 +1,6 @@
+#include "DOC_Control.h"
+#include "DOC_Frames.h"
+#include "DOC_Interface.h"
 #include "image/FramePicture.h"
 #include "saving/SaveJob.h"
 #include "saving/SaveNames.h"
@@ -97,6 +100,17 @@ TEST_F(Saving, WritesTheChosenFramesAndNoOthers) {
         }
     }
     EXPECT_EQ(asked, QStringList());
+}
+
+TEST_F(Saving, CountsFramesAsTheTableDoes) {
+    for (const bool moved : {false, true}) {
+        host.camera(3).change({{"triggerOffset", 60}, {"triggerOffsetEnabled", moved}});
+        const DOC_Frames& frames = host.doc(3)->frames();
+        const SaveTrack track = orders().tracks[1];
+        EXPECT_EQ(track.number(0), frames.getSelectStartFrame(0) - frames.getTriggerFrame(0));
+        EXPECT_EQ(track.number(0), moved ? 40 : 0);
+        EXPECT_EQ(host.doc(3)->control().getTriggerOffsetBase(), 100) << "the offset counts from the trigger itself";
+    }
 }
 
 TEST_F(Saving, NamesFilesSoThatEverySystemTakesThem) {

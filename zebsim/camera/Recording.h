@@ -17,6 +17,8 @@ struct Recording {
     int last = 0;
     /// Frame at which the trigger came.
     int trigger = 0;
+    /// Frame that users count from: the trigger's, unless the zero point has been moved.
+    int zero = 0;
     /// Tells it from any other that a camera of this program has kept; 0 when nobody has recorded it.
     quint64 serial = 0;
     /// What is to be kept: first <= selectedFirst <= selectedLast <= last.

@@ -24,7 +24,7 @@ int SimFrames::getLastFrame(int /*partition*/, int /*head*/) const {
 }
 
 int SimFrames::getTriggerFrame(int /*head*/) const {
-    return ask("getTriggerFrame").trigger;
+    return ask("getTriggerFrame").zero;
 }
 
 int SimFrames::getSelectStartFrame(int /*head*/) const {

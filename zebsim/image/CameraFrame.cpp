@@ -12,7 +12,7 @@ CameraFrame CameraFrame::live(const CameraState& state, qint64 now) {
 }
 
 CameraFrame CameraFrame::recorded(const CameraState& state, const Recording& recording, int frame) {
-    const qint64 number = qint64(frame) - (state.triggerOffsetEnabled ? state.triggerOffset : recording.trigger);
+    const qint64 number = qint64(frame) - recording.zero;
     const qint64 time = recording.rate > 0 ? number * 1000000 / recording.rate : 0;
     return {state.name, recording.resolution, number, time};
 }
