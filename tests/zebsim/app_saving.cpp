@@ -14,8 +14,10 @@
 #include <QComboBox>
 #include <QDir>
 #include <QGuiApplication>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMessageBox>
 #include <QPushButton>
 #include <QTableWidget>
 #include <QTemporaryDir>
@@ -130,11 +132,34 @@ TEST_F(AppSaving, EndsWithTheApplication) {
     dialogs.saves().order({});
     ModalWatcher watcher;
     QObject::connect(&watcher, &ModalWatcher::stands, [&](QDialog* dialog) {
-        if (dialog->inherits("QMessageBox")) simulator.quit();
+        const auto* box = qobject_cast<QMessageBox*>(dialog);
+        if (box == nullptr) return;
+        EXPECT_EQ(box->defaultButton()->text(), "Skip camera");
+        simulator.quit();
     });
     simulator.run([&] { host.saveFiles(); });
     EXPECT_EQ(filesIn("out").size(), 1);
     EXPECT_EQ(old.size(), 0) << "a question that nobody has answered overwrites nothing";
+}
+
+TEST_F(AppSaving, IsCancelledByItsButtonAlone) {
+    host.cameras().find(2)->change({{"selectedRange", QVariantList{0, 2000}}});
+    dialogs.saves().order({});
+    host.saveFiles();
+    auto* progress = simulator.window().findChild<SaveProgress*>();
+    auto* button = progress->findChild<QPushButton*>();
+    for (const int key : {Qt::Key_Escape, Qt::Key_Return}) {
+        QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier);
+        QCoreApplication::sendEvent(progress, &press);
+    }
+    progress->close();
+    EXPECT_TRUE(progress->isVisible() && messages().isEmpty());
+    dialogs.queueAnswers({"Go on", "Stop"});
+    button->click();
+    EXPECT_TRUE(host.saver().isSaving());
+    button->click();
+    EXPECT_EQ(messages().size(), 2);
+    EXPECT_THAT(results().last().toStdString(), testing::MatchesRegex("Camera 2: cancelled, .*"));
 }
 
 TEST_F(AppSaving, KeysMeanThePluginInFront) {

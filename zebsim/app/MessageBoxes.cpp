@@ -94,6 +94,7 @@ QMessageBox* MessageBoxes::makeBox(const Message& message) const {
     box->setProperty(KindProperty, QString(looks.kind));
     box->setProperty(TextProperty, whole);
     nameButtons(*box, message.buttons);
+    if (message.preferred != 0) box->setDefaultButton(static_cast<QMessageBox::StandardButton>(message.preferred));
     if (message.offersSilence) box->setCheckBox(new QCheckBox(translated(QStringLiteral("Don't show again"))));
     applyMessageBoxStyle(*m_host, *box);
     return box;

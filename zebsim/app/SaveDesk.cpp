@@ -60,6 +60,7 @@ void SaveDesk::showProgress(QWidget* before) {
     // Nobody has closed the last one's list of results.
     delete m_progress;
     m_progress = new SaveProgress(*m_job, m_host.getMainWindow());
+    QObject::connect(m_progress, &SaveProgress::cancelWanted, m_progress, [this] { askToCancel(); });
     m_progress->setAttribute(Qt::WA_DeleteOnClose);
     m_progress->setModal(true);
     applyNativeStyle(m_host, *m_progress);
@@ -72,7 +73,8 @@ Overwrite SaveDesk::ask(const QString& file) {
                                      {{QMessageBox::Yes, uiText("Overwrite")},
                                       {QMessageBox::YesToAll, uiText("Overwrite all")},
                                       {QMessageBox::No, uiText("Skip camera")},
-                                      {QMessageBox::Cancel, uiText("Cancel")}});
+                                      {QMessageBox::Cancel, uiText("Cancel")}},
+                                     QMessageBox::No);
     switch (answer) {
         case QMessageBox::Yes:
             return Overwrite::This;
@@ -83,6 +85,13 @@ Overwrite SaveDesk::ask(const QString& file) {
         default:
             return Overwrite::Cancel;
     }
+}
+
+void SaveDesk::askToCancel() {
+    const int answer =
+        m_host.choose(uiText("Stop saving? Complete files stay."), m_progress,
+                      {{QMessageBox::Yes, uiText("Stop")}, {QMessageBox::No, uiText("Go on")}}, QMessageBox::No);
+    if (answer == QMessageBox::Yes && isSaving()) m_job->cancel();
 }
 
 void SaveDesk::finish() {

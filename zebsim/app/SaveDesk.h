@@ -31,10 +31,13 @@ private:
     void begin(const SaveOrders& orders, QWidget* before);
     void showProgress(QWidget* before);
     Overwrite ask(const QString& file);
+    void askToCancel();
     void finish();
 
     SimHost& m_host;
     const LastShoot m_shoot;
     std::unique_ptr<SaveJob> m_job;
     QPointer<SaveProgress> m_progress;
+    /// The save dialog stands.
+    bool m_asking = false;
 };

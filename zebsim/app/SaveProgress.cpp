@@ -23,6 +23,9 @@ SaveProgress::SaveProgress(SaveJob& job, QWidget* parent)
     m_at->setTextFormat(Qt::PlainText);
     // A long name must not make it wider.
     m_at->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    // Enter is no wish to cancel.
+    m_button->setAutoDefault(false);
+    m_button->setFocus();
     m_lines->setObjectName(QStringLiteral("outcomes"));
     m_lines->setWordWrap(true);
     m_lines->setSelectionMode(QAbstractItemView::NoSelection);
@@ -35,7 +38,7 @@ SaveProgress::SaveProgress(SaveJob& job, QWidget* parent)
     int frames = 0;
     for (const SaveTrack& track : job.orders().tracks) frames += track.frames();
     m_bar->setMaximum(frames);
-    connect(m_button, &QPushButton::clicked, this, &SaveProgress::reject);
+    connect(m_button, &QPushButton::clicked, this, &SaveProgress::press);
     connect(&job, &SaveJob::progressed, this, &SaveProgress::follow);
     connect(&job, &SaveJob::finished, this, &SaveProgress::follow);
     showFrame();
@@ -52,12 +55,14 @@ QStringList SaveProgress::lines() const {
 }
 
 void SaveProgress::reject() {
-    if (isFinished()) {
-        QDialog::reject();
-        return;
-    }
-    m_button->setEnabled(false);
-    m_job->cancel();
+    if (isFinished()) QDialog::reject();
+}
+
+void SaveProgress::press() {
+    if (isFinished())
+        reject();
+    else
+        Q_EMIT cancelWanted();
 }
 
 void SaveProgress::follow() {
@@ -75,7 +80,7 @@ void SaveProgress::follow() {
     if (isAllSaved) m_bar->setValue(m_bar->maximum());
     m_at->setText(isAllSaved ? uiText("Everything is saved.") : uiText("Not everything is saved."));
     m_button->setText(uiText("Close"));
-    m_button->setEnabled(true);
+    m_button->setDefault(true);
 }
 
 void SaveProgress::showFrame() {

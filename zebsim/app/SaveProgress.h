@@ -10,7 +10,7 @@ class QPushButton;
 class SaveJob;
 
 /// Shows how far a save has come, and a line for each camera once it has its outcome. While the job runs, its only
-/// button cancels it; then it closes the dialog.
+/// button asks to cancel it, and nothing closes the dialog; then the button does.
 class SaveProgress : public QDialog {
     Q_OBJECT
 
@@ -24,7 +24,11 @@ public:
 
     void reject() override;
 
+Q_SIGNALS:
+    void cancelWanted();
+
 private:
+    void press();
     void follow();
     void showFrame();
 

@@ -100,8 +100,9 @@ public:
 
     QString translate(const QString& text) const override;
 
-    /// Asks a question with more answers than two; answers the chosen one of `buttons`, 0 when the box was left.
-    int choose(const QString& text, QWidget* parent, const ButtonTexts& buttons);
+    /// Asks a question with answers of its own, of which Enter means `preferred`; answers the chosen one of `buttons`,
+    /// 0 when the box was left.
+    int choose(const QString& text, QWidget* parent, const ButtonTexts& buttons, int preferred);
 
     void info(const QString& message, QWidget* parent) override;
     void warn(const QString& message, QWidget* parent) override;
