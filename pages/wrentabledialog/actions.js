@@ -148,7 +148,7 @@ function onGridKey(view, event) {
         return;
     }
     if (isNumberBox(event.target)) {
-        onNumberKey(event.keyCode);
+        onNumberKey(event);
         return;
     }
     const row = view.rowOf(event.target);
@@ -160,11 +160,12 @@ function onGridKey(view, event) {
     }
 }
 
-// The widget does the rest.
-function onNumberKey(keyCode) {
-    if (keyCode === 13) {
+// The widget does the rest. The engine takes Escape for a letter, so that the box would count as typed in once more.
+function onNumberKey(event) {
+    if (event.keyCode === 13) {
         numberBox.settle();
-    } else if (keyCode === 27) {
+    } else if (event.keyCode === 27) {
+        event.preventDefault();
         numberBox.revert();
     }
 }

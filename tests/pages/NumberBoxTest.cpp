@@ -154,7 +154,7 @@ TEST_F(PageNumbers, GoOutWhenTheirTextIsFinished) {
              {Offset, "0\n", {"setTriggerOffset 1 0"}, "0"},
              {Offset, "some\n", {}, "0"},
              {Offset, "\t", {}, "0"},
-             {Offset, "7\x1b", {}, "0"},
+             {Offset, "7\x1b\t", {}, "0"},
          }) {
         SCOPED_TRACE(c.word + c.text.toStdString());
         EXPECT_EQ(sent([&] { type(box(c.word, "1"), c.text); }), c.calls);
