@@ -3,6 +3,7 @@
 #include "ScenarioDialogs.h"
 #include "support/TestHost.h"
 
+#include <QApplication>
 #include <QCheckBox>
 #include <QLabel>
 #include <QMessageBox>
@@ -56,6 +57,24 @@ TEST_F(Boxes, AreAcceptedUnlessAnAnswerWasQueued) {
     const ButtonTexts yesNo = {{QMessageBox::Yes, "Yes"}, {QMessageBox::No, "No"}};
     EXPECT_FALSE(boxes.show(message(Message::Confirm, "c", yesNo)).accepted);
     EXPECT_EQ(shown(), "warn|w|OK; confirm|c|OK; confirm|c|Cancel; confirm|c|OK; confirm|c|Later; confirm|c|No");
+}
+
+TEST_F(Boxes, OfANoticeKeepNobodyFromWorking) {
+    QWidget window;
+    window.show();
+    window.activateWindow();
+    while (!window.isActiveWindow()) QCoreApplication::processEvents();
+    boxes.notify(message(Message::Error, "one"));
+    boxes.notify(message(Message::Error, "two"));
+    EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+    EXPECT_TRUE(window.isActiveWindow()) << "keys go where they went";
+    QCoreApplication::processEvents();
+    EXPECT_EQ(shown(), "error|one\ntwo|") << "in one box";
+    boxes.notify(message(Message::Error, "three"));
+    boxes.rejectAll();
+    boxes.notify(message(Message::Error, "four"));
+    QCoreApplication::processEvents();
+    EXPECT_EQ(shown(), "") << "the application is closing";
 }
 
 TEST_F(Boxes, SayWhenTheyHaveNoButtonOfTheAnswer) {

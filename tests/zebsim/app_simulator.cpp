@@ -67,6 +67,7 @@ TEST_F(ViewerTest, RecordsByItsOwnKeyUnlessAPluginIsInFront) {
         while (host.updates().isPending()) QCoreApplication::processEvents();
     };
     settle();
+    const int usual = QApplication::doubleClickInterval();
     QApplication::setDoubleClickInterval(0);
     EXPECT_FALSE(key("record")->isEnabled()) << "no camera is connected";
     host.cameras().find(1)->connect();
@@ -110,6 +111,7 @@ TEST_F(ViewerTest, RecordsByItsOwnKeyUnlessAPluginIsInFront) {
     plugin.dialog.reset();
     key("disconnectAll")->trigger();
     EXPECT_TRUE(host.docManager().getConnectedDocKeys().isEmpty());
+    QApplication::setDoubleClickInterval(usual);
 }
 
 }  // namespace

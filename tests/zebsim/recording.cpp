@@ -350,20 +350,6 @@ TEST_F(RecordingTest, ACameraThatCannotBeStoppedFillsItsMemory) {
     EXPECT_EQ(ends, 1);
 }
 
-TEST_F(RecordingTest, TellsAboutAVanishedCameraAfterTheBoxThatStands) {
-    plant(1, "arm", {QStringLiteral("no answer"), 0, false});
-    plant(2, "*", {{}, 0, true});
-    test.desk.whileStanding = [this] {
-        // The box of the arming stands, and the clock goes on.
-        pass(1);
-        EXPECT_EQ(test.desk.shown.size(), 1);
-        host.recorder().stopRecording();
-    };
-    armAll();
-    EXPECT_EQ(messages(), "Camera 1: no answer");
-    EXPECT_EQ(states(), "4 2 - 2");
-}
-
 TEST_F(RecordingTest, EachPartitionKeepsItsOwn) {
     host.docManager().selectDoc(1);
     test.camera(1).set(&CameraState::partitions, 4);

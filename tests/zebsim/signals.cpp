@@ -3,9 +3,7 @@
 #include "signals/SignalHub.h"
 #include "support/TestHost.h"
 
-#include <QDialog>
 #include <QTest>
-#include <QTimer>
 
 #include <gtest/gtest.h>
 
@@ -185,28 +183,15 @@ TEST_F(Signals, OnlyCamerasAtRestCanBeSynchronised) {
     EXPECT_FALSE(canSync()) << "disconnected";
 }
 
-TEST_F(Signals, TheUserIsToldWhatFailedOnceTheProgressHasGone) {
+TEST_F(Signals, AWorkersFailureIsToldFromTheEventLoop) {
     plant(2, "synchronise", "no signal at the input");
     test.camera(5).set(&CameraState::connected, false);
     const DocList docs = test.docs({1, 2, 5, 7});
     DOC_Interface* master = test.doc(1);
     std::string thrown;
-    QDialog progress;
-    QTimer::singleShot(0, &progress, [&] {
-        std::thread worker(
-            [&] { thrown = thrownBy([&] { ops.syncCameras(docs, master, 0, false, false, 0, -1, 1); }); });
-        worker.join();
-        // Comes after what the worker has left behind.
-        QMetaObject::invokeMethod(
-            &progress,
-            [&] {
-                EXPECT_TRUE(test.desk.shown.isEmpty()) << "on top of the progress";
-                progress.accept();
-            },
-            Qt::QueuedConnection);
-    });
-    progress.exec();
-    EXPECT_TRUE(test.desk.shown.isEmpty()) << "in the loop of the progress";
+    std::thread worker([&] { thrown = thrownBy([&] { ops.syncCameras(docs, master, 0, false, false, 0, -1, 1); }); });
+    worker.join();
+    EXPECT_TRUE(test.desk.shown.isEmpty()) << "in the worker";
     const char* reasons = "Ramp: no signal at the input\nRoof: the camera is not connected";
     EXPECT_EQ(thrown, reasons);
     EXPECT_TRUE(QTest::qWaitFor([&] { return !test.desk.shown.isEmpty(); }));

@@ -60,7 +60,7 @@ void MessageBoxes::rejectAll() {
     m_rejecting = true;
     const QWidgetList windows = QApplication::topLevelWidgets();
     for (QWidget* window : windows) {
-        if (auto* box = qobject_cast<QMessageBox*>(window)) box->reject();
+        if (auto* box = qobject_cast<QMessageBox*>(window); box && box->isVisible()) box->reject();
     }
 }
 
@@ -83,21 +83,41 @@ Answer MessageBoxes::show(const Message& message) {
     return answer;
 }
 
+void MessageBoxes::notify(const Message& message) {
+    if (m_rejecting || m_host == nullptr) {
+        show(message);
+        return;
+    }
+    if (m_notice && m_notice->isVisible()) {
+        setTexts(*m_notice, m_notice->property(TextProperty).toString() % QLatin1Char('\n') % message.text);
+        return;
+    }
+    m_notice = makeBox(message);
+    m_notice->setModal(false);
+    m_notice->setAttribute(Qt::WA_DeleteOnClose);
+    m_notice->setAttribute(Qt::WA_ShowWithoutActivating);
+    m_notice->show();
+}
+
 QMessageBox* MessageBoxes::makeBox(const Message& message) const {
     const Looks looks = looksOf(message.kind);
     const QString whole = (QStringList(message.text) << message.list).join(QLatin1Char('\n'));
-    const BoxText text = fitIntoBox(whole);
     auto* box = new QMessageBox(looks.icon, translated(looks.title), {}, buttonsOf(message), message.parent);
     box->setTextFormat(Qt::PlainText);
-    box->setText(text.head);
-    if (text.cut) box->setDetailedText(whole);
+    setTexts(*box, whole);
     box->setProperty(KindProperty, QString(looks.kind));
-    box->setProperty(TextProperty, whole);
     nameButtons(*box, message.buttons);
     if (message.preferred != 0) box->setDefaultButton(static_cast<QMessageBox::StandardButton>(message.preferred));
     if (message.offersSilence) box->setCheckBox(new QCheckBox(translated(QStringLiteral("Don't show again"))));
     applyMessageBoxStyle(*m_host, *box);
     return box;
+}
+
+void MessageBoxes::setTexts(QMessageBox& box, const QString& whole) {
+    const BoxText text = fitIntoBox(whole);
+    box.setText(text.head);
+    if (text.cut) box.setDetailedText(whole);
+    box.setProperty(TextProperty, whole);
 }
 
 void MessageBoxes::nameButtons(QMessageBox& box, const ButtonTexts& texts) const {

@@ -2,6 +2,8 @@
 
 #include "host/MessageDesk.h"
 
+#include <QPointer>
+
 class QMessageBox;
 class ZebHost;
 
@@ -21,13 +23,17 @@ public:
     void rejectAll();
 
     Answer show(const Message& message) override;
+    /// The box is not modal and leaves the keyboard where it is. While it stands, further texts join it.
+    void notify(const Message& message) override;
 
 private:
     QMessageBox* makeBox(const Message& message) const;
+    static void setTexts(QMessageBox& box, const QString& whole);
     void nameButtons(QMessageBox& box, const ButtonTexts& texts) const;
     QString translated(const QString& text) const;
 
     const ZebHost* m_host = nullptr;
     QList<Message> m_held;
+    QPointer<QMessageBox> m_notice;
     bool m_rejecting = false;
 };

@@ -41,4 +41,6 @@ public:
 
     /// Back when the box is dismissed. Every kind but `Confirm` has an OK button only.
     virtual Answer show(const Message& message) = 0;
+    /// Tells something beside the work that goes on: a desk with windows keeps no one from them, and is back at once.
+    virtual void notify(const Message& message) { show(message); }
 };

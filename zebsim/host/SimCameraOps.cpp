@@ -8,15 +8,15 @@
 #include "camera/SyncSource.h"
 #include "host/CameraBank.h"
 #include "host/Journal.h"
+#include "host/Notices.h"
 #include "host/Preferences.h"
 #include "host/StatusFlags.h"
-#include "host/WaitingMessages.h"
 
 #include <algorithm>
 
 SimCameraOps::SimCameraOps(Journal& journal, CameraBank& cameras, const ZebDocManager& docs,
                            const ZebRecorder& recorder, const ZebSaver& saver, const Preferences& prefs,
-                           const StatusFlags& flags, WaitingMessages& messages)
+                           const StatusFlags& flags, Notices& notices)
     : m_journal(journal),
       m_cameras(cameras),
       m_docs(docs),
@@ -24,7 +24,7 @@ SimCameraOps::SimCameraOps(Journal& journal, CameraBank& cameras, const ZebDocMa
       m_saver(saver),
       m_prefs(prefs),
       m_flags(flags),
-      m_messages(messages) {}
+      m_notices(notices) {}
 
 void SimCameraOps::searchCamera(const QString& address) {
     m_journal.record("ZebCameraOps::searchCamera", {address});
@@ -116,7 +116,7 @@ void SimCameraOps::syncCameras(const DocList& docs, DOC_Interface* master, int l
                 {source.master, lport, external, generator, input, frequency, polarity},
                 [&source](Camera& camera) { camera.synchronise(source); });
     } catch (const std::exception& failure) {
-        m_messages.add(QString::fromUtf8(failure.what()));
+        m_notices.add(QString::fromUtf8(failure.what()));
         throw;
     }
 }

@@ -10,7 +10,7 @@ class CameraBank;
 class Journal;
 class Preferences;
 class StatusFlags;
-class WaitingMessages;
+class Notices;
 class ZebDocManager;
 class ZebRecorder;
 class ZebSaver;
@@ -20,7 +20,7 @@ struct SyncSource;
 class SimCameraOps : public ZebCameraOps {
 public:
     SimCameraOps(Journal& journal, CameraBank& cameras, const ZebDocManager& docs, const ZebRecorder& recorder,
-                 const ZebSaver& saver, const Preferences& prefs, const StatusFlags& flags, WaitingMessages& messages);
+                 const ZebSaver& saver, const Preferences& prefs, const StatusFlags& flags, Notices& notices);
 
     void searchCamera(const QString& address) override;
     void discoverCameras() override;
@@ -65,5 +65,5 @@ private:
     const ZebSaver& m_saver;
     const Preferences& m_prefs;
     const StatusFlags& m_flags;
-    WaitingMessages& m_messages;
+    Notices& m_notices;
 };

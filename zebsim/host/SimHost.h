@@ -8,6 +8,7 @@
 #include "host/CameraBank.h"
 #include "host/HostEvents.h"
 #include "host/Journal.h"
+#include "host/Notices.h"
 #include "host/Preferences.h"
 #include "host/SimAppStatus.h"
 #include "host/SimCameraOps.h"
@@ -22,7 +23,6 @@
 #include "host/StatusFlags.h"
 #include "host/Translator.h"
 #include "host/UpdateCycle.h"
-#include "host/WaitingMessages.h"
 #include "signals/SimSignalDevices.h"
 #include "signals/SyncSignal.h"
 
@@ -206,7 +206,7 @@ private:
     int m_viewerSuspended = 0;
     bool m_prefsRestored;
 
-    WaitingMessages m_waitingMessages;
+    Notices m_notices;
     SimAppStatus m_appStatus;
     SimSignalDevices m_signalDevices;
     SyncSignal m_syncSignal;

@@ -4,13 +4,13 @@
 #include "host/CameraBank.h"
 #include "host/HostEvents.h"
 #include "host/Journal.h"
+#include "host/Notices.h"
 #include "host/PluginSignal.h"
 #include "host/SimAppStatus.h"
 #include "host/SimDocManager.h"
 #include "host/StatusFlags.h"
 #include "host/Translator.h"
 #include "host/UpdateCycle.h"
-#include "host/WaitingMessages.h"
 
 #include <algorithm>
 #include <utility>
@@ -32,7 +32,7 @@ int statusOfAll(const QList<int>& each) {
 
 SimRecorder::SimRecorder(Journal& journal, const Clock& clock, const CameraBank& cameras, const SimDocManager& docs,
                          const StatusFlags& flags, SimAppStatus& appStatus, HostEvents& events, UpdateCycle& updates,
-                         const Translator& translator, WaitingMessages& messages)
+                         const Translator& translator, Notices& notices)
     : m_journal(journal),
       m_cameras(cameras),
       m_docs(docs),
@@ -42,7 +42,7 @@ SimRecorder::SimRecorder(Journal& journal, const Clock& clock, const CameraBank&
       m_run(cameras, clock,
             RecordRun::Listener{
                 [&updates] { updates.request(); },
-                [&messages](const QString& text) { messages.add(text); },
+                [&notices](const QString& text) { notices.add(text); },
                 [this](bool recorded) {
                     m_owedEnd = recorded;
                     QMetaObject::invokeMethod(

@@ -16,7 +16,7 @@ class SimDocManager;
 class StatusFlags;
 class Translator;
 class UpdateCycle;
-class WaitingMessages;
+class Notices;
 
 /// The recording on the host's cameras. Its end comes from the event loop: plug-ins get their signal, and the host goes
 /// into memory mode when something was recorded. Whoever presses before has meant the recording that has just ended:
@@ -25,7 +25,7 @@ class SimRecorder : public ZebRecorder {
 public:
     SimRecorder(Journal& journal, const Clock& clock, const CameraBank& cameras, const SimDocManager& docs,
                 const StatusFlags& flags, SimAppStatus& appStatus, HostEvents& events, UpdateCycle& updates,
-                const Translator& translator, WaitingMessages& messages);
+                const Translator& translator, Notices& notices);
 
     /// As the flags tell, and without one as the cameras asked about stand together when the recording was last brought
     /// up to the clock: a question alone ends nothing.

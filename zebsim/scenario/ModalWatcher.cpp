@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QDialog>
 #include <QEvent>
+#include <QMessageBox>
 #include <QTimer>
 #include <QWebFrame>
 #include <QWebView>
@@ -38,7 +39,11 @@ bool ModalWatcher::eventFilter(QObject* object, QEvent* event) {
 
 void ModalWatcher::lookAt(const QPointer<QDialog>& dialog) {
     // By now the dialog may have become modal, for some are shown before they are executed.
-    if (dialog.isNull() || !dialog->isVisible() || !dialog->isModal()) return;
+    if (dialog.isNull() || !dialog->isVisible()) return;
+    if (!dialog->isModal()) {
+        if (auto* box = qobject_cast<QMessageBox*>(dialog)) Q_EMIT noticed(box);
+        return;
+    }
     auto* view = dialog->findChild<QWebView*>();
     if (view == nullptr || hasLoaded(*view)) {
         Q_EMIT stands(dialog);

@@ -6,8 +6,9 @@
 #include <functional>
 
 class QDialog;
+class QMessageBox;
 
-/// Tells when a modal dialog stands. GUI thread.
+/// Tells when a modal dialog stands, or a message box that is not modal. GUI thread.
 ///
 /// A dialog stands when it is shown, runs its event loop, and the page that it may hold has loaded.
 class ModalWatcher : public QObject {
@@ -24,6 +25,8 @@ public:
 Q_SIGNALS:
     /// Emitted inside the event loop of `dialog`, once each time it is shown.
     void stands(QDialog* dialog);
+    /// `box` stands and keeps nobody from working.
+    void noticed(QMessageBox* box);
 
 private:
     void lookAt(const QPointer<QDialog>& dialog);

@@ -29,6 +29,10 @@ QString textOf(const QMessageBox& box) {
 
 ScenarioDialogs::ScenarioDialogs() {
     connect(&m_watcher, &ModalWatcher::stands, this, &ScenarioDialogs::dialogStands);
+    connect(&m_watcher, &ModalWatcher::noticed, this, [this](QMessageBox* box) {
+        writeDown(*box);
+        box->accept();
+    });
 }
 
 void ScenarioDialogs::expect(const QJSValue& function) {
