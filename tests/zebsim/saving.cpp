@@ -84,8 +84,12 @@ const QStringList AllFiles = {"Gate_-00001.png", "Gate_00000.png", "Nozzle_2_000
 const QString NozzleSaved = "Nozzle/2: 3 of 3 up to 2, saved";
 
 TEST_F(Saving, WritesTheChosenFramesAndNoOthers) {
+    int atNext = -1;
+    const auto follow = [&atNext](const SaveJob& job) {
+        if (job.isRunning() && job.outcomes().size() == 1 && atNext < 0) atNext = job.frame();
+    };
     for (const char* format : {"png", "tiff", "jpeg"}) {
-        EXPECT_EQ(run(orders(format)), QStringList({"Gate: 2 of 2 up to 0, saved", NozzleSaved})) << format;
+        EXPECT_EQ(run(orders(format), follow), QStringList({"Gate: 2 of 2 up to 0, saved", NozzleSaved})) << format;
         QStringList expected = AllFiles;
         expected.replaceInStrings("png", saveFormat(format).suffix);
         EXPECT_EQ(files(), expected);
@@ -100,6 +104,7 @@ TEST_F(Saving, WritesTheChosenFramesAndNoOthers) {
         }
     }
     EXPECT_EQ(asked, QStringList());
+    EXPECT_EQ(atNext, 0) << "a camera begins at none, not where the one before has ended";
 }
 
 TEST_F(Saving, CountsFramesAsTheTableDoes) {

@@ -9,6 +9,8 @@
 #include <QDir>
 #include <QStorageInfo>
 
+#include <utility>
+
 namespace {
 
 /// While an encoder is at work.
@@ -99,7 +101,6 @@ bool SaveJob::work() {
 }
 
 void SaveJob::beginTrack() {
-    m_outcome = {};
     m_outcome.name = track().name;
     m_outcome.frames = track().frames();
     m_lost.clear();
@@ -161,6 +162,6 @@ void SaveJob::endTrack(SaveOutcome::End end) {
     if (m_orders.format.isVideo() && end != SaveOutcome::Saved && end != SaveOutcome::CameraLost) {
         m_outcome.saved = 0;
     }
-    m_outcomes.append(m_outcome);
+    m_outcomes.append(std::exchange(m_outcome, {}));
     ++m_track;
 }
