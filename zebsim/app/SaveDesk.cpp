@@ -23,7 +23,7 @@ bool SaveDesk::isSaving() const {
 }
 
 void SaveDesk::save(bool layout) {
-    if (isSaving()) {
+    if (isSaving() || m_asking) {
         m_host.info(uiText("Images are being saved already."), nullptr);
         return;
     }
@@ -38,7 +38,10 @@ void SaveDesk::save(bool layout) {
     }
     const QPointer<QWidget> before = QApplication::activeWindow();
     Preferences& prefs = m_host.prefs();
-    if (runDialog(m_host, new SaveDialog(prefs, tracks, absent, m_host.getMainWindow())) != QDialog::Accepted) return;
+    m_asking = true;
+    const int answer = runDialog(m_host, new SaveDialog(prefs, tracks, absent, m_host.getMainWindow()));
+    m_asking = false;
+    if (answer != QDialog::Accepted) return;
     begin({prefs.value(QStringLiteral("save/folder")).toString(),
            saveFormat(prefs.value(QStringLiteral("save/format")).toString()), tracks,
            [this](const QString& file) { return ask(file); }, VideoEncoder::installed(), absent},
