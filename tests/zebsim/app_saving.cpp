@@ -7,6 +7,7 @@
 #include "Simulator.h"
 #include "ViewerWindow.h"
 #include "camera/Camera.h"
+#include "saving/SaveNames.h"
 #include "support/SavingPlugin.h"
 
 #include <QAction>
@@ -99,6 +100,28 @@ TEST_F(AppSaving, TellsWhyThereIsNothingToSave) {
     EXPECT_EQ(messages(), QStringList({"There can't be a folder " + folder.filePath("p.ini/below") + ".",
                                        "No connected camera has recorded images."}));
     EXPECT_FALSE(host.saver().isSaving());
+}
+
+TEST_F(AppSaving, OffersAnotherFolderThanOneWithFiles) {
+    ASSERT_TRUE(QDir(folder.path()).mkpath("out/older"));
+    QFile old(folder.filePath("out/Gate.mp4"));
+    ASSERT_TRUE(old.open(QIODevice::WriteOnly));
+    ModalWatcher watcher;
+    QObject::connect(&watcher, &ModalWatcher::stands, [&](QDialog* dialog) {
+        auto* button = dialog->findChild<QPushButton*>("newSubfolder");
+        auto* field = dialog->findChild<QLineEdit*>("folder");
+        EXPECT_EQ(button->parentWidget()->findChild<QLabel*>()->text(), "Files that are in this folder already: 1");
+        button->click();
+        EXPECT_THAT(field->text().toStdString(), testing::MatchesRegex(".*/out/[0-9]+-[0-9]+"));
+        EXPECT_FALSE(button->isVisible());
+        field->setText("");
+        EXPECT_FALSE(button->isVisible()) << "no folder is not the present one";
+        dialog->reject();
+    });
+    host.saveFiles();
+    const QDateTime time({2026, 3, 1}, {9, 5});
+    EXPECT_EQ(newSubfolder("/out", time), "/out/20260301-090500");
+    EXPECT_EQ(newSubfolder("/out/20260228-235959", time), "/out/20260301-090500") << "they do not nest";
 }
 
 TEST_F(AppSaving, TellsOfCamerasThatAreNotThere) {

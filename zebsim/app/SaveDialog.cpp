@@ -4,10 +4,14 @@
 #include "SaveTexts.h"
 #include "TargetFields.h"
 #include "saving/LastShoot.h"
+#include "saving/SaveNames.h"
 #include "saving/SaveTrack.h"
 
 #include <QDialogButtonBox>
+#include <QDir>
+#include <QHBoxLayout>
 #include <QHeaderView>
+#include <QLabel>
 #include <QPushButton>
 #include <QStyle>
 #include <QTableWidget>
@@ -15,7 +19,10 @@
 
 SaveDialog::SaveDialog(Preferences& prefs, const std::vector<SaveTrack>& tracks, const QList<AbsentCamera>& absent,
                        QWidget* parent)
-    : QDialog(parent), m_target(new TargetFields(prefs, QStringLiteral("save"), true, this)) {
+    : QDialog(parent),
+      m_target(new TargetFields(prefs, QStringLiteral("save"), true, this)),
+      m_notice(new QWidget(this)),
+      m_files(new QLabel(m_notice)) {
     setWindowTitle(tracks.front().isLayout ? uiText("Save layout") : uiText("Save"));
     auto* layout = new QVBoxLayout(this);
     QTableWidget* table = makeTable();
@@ -23,13 +30,37 @@ SaveDialog::SaveDialog(Preferences& prefs, const std::vector<SaveTrack>& tracks,
     addTracks(*table, tracks);
     layout->addWidget(table);
     layout->addWidget(m_target);
+    fillNotice();
+    layout->addWidget(m_notice);
     auto* buttons = addOkCancel(*this, uiText("Save"));
     layout->addWidget(buttons);
-    auto* save = qobject_cast<QPushButton*>(buttons->buttons().first());
-    const auto enable = [this, save] { save->setEnabled(m_target->isComplete()); };
-    connect(m_target, &TargetFields::changed, this, enable);
-    enable();
-    save->setDefault(true);
+    m_save = qobject_cast<QPushButton*>(buttons->buttons().first());
+    m_save->setDefault(true);
+    connect(m_target, &TargetFields::changed, this, &SaveDialog::follow);
+    follow();
+}
+
+void SaveDialog::fillNotice() {
+    auto* layout = new QHBoxLayout(m_notice);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(m_files, 1);
+    auto* button = new QPushButton(uiText("New subfolder"), m_notice);
+    button->setObjectName(QStringLiteral("newSubfolder"));
+    button->setAutoDefault(false);
+    layout->addWidget(button);
+    connect(button, &QPushButton::clicked, this,
+            [this] { m_target->setFolder(newSubfolder(m_target->folder(), QDateTime::currentDateTime())); });
+    // The dialog keeps its size.
+    QSizePolicy policy = m_notice->sizePolicy();
+    policy.setRetainSizeWhenHidden(true);
+    m_notice->setSizePolicy(policy);
+}
+
+void SaveDialog::follow() {
+    m_save->setEnabled(m_target->isComplete());
+    const uint files = m_target->isComplete() ? QDir(m_target->folder(), {}, QDir::Unsorted, QDir::Files).count() : 0;
+    m_files->setText(uiText("Files that are in this folder already: %1").arg(files));
+    m_notice->setVisible(files > 0);
 }
 
 QTableWidget* SaveDialog::makeTable() {

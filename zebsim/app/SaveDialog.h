@@ -6,12 +6,15 @@
 #include <vector>
 
 class Preferences;
+class QLabel;
+class QPushButton;
 class QTableWidget;
 class TargetFields;
 struct AbsentCamera;
 struct SaveTrack;
 
-/// What is to be saved, each camera with its range, and where to; and above, what can't be saved. Save stores folder
+/// What is to be saved, each camera with its range, and where to; and above, what can't be saved.
+/// A folder with files in it is told of, and another one offered. Save stores folder
 /// and format as preferences.
 class SaveDialog : public QDialog {
     Q_OBJECT
@@ -28,5 +31,12 @@ private:
     static void addAbsent(QTableWidget& table, const QList<AbsentCamera>& absent);
     static void addTracks(QTableWidget& table, const std::vector<SaveTrack>& tracks);
 
+    void fillNotice();
+    void follow();
+
     TargetFields* m_target;
+    /// The files that are in the folder already, and the way to another one; hidden when there are none.
+    QWidget* m_notice;
+    QLabel* m_files;
+    QPushButton* m_save;
 };

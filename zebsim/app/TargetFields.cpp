@@ -50,7 +50,7 @@ QWidget* TargetFields::makeFolder(const QString& folder) {
     auto* row = new QWidget(this);
     auto* layout = new QHBoxLayout(row);
     layout->setContentsMargins(0, 0, 0, 0);
-    m_folder->setText(QDir::toNativeSeparators(folder));
+    setFolder(folder);
     m_folder->setMinimumWidth(50 * fontMetrics().averageCharWidth());
     layout->addWidget(m_folder);
     auto* button = new QPushButton(uiText("Browse..."), row);
@@ -84,15 +84,22 @@ void TargetFields::chooseFormat(const QString& id) {
 
 void TargetFields::browse() {
     const QString folder = QFileDialog::getExistingDirectory(this, uiText("Folder"), m_folder->text());
-    if (!folder.isEmpty()) m_folder->setText(QDir::toNativeSeparators(folder));
+    if (!folder.isEmpty()) setFolder(folder);
 }
 
 bool TargetFields::isComplete() const {
-    return !m_folder->text().trimmed().isEmpty();
+    return !folder().isEmpty();
+}
+
+QString TargetFields::folder() const {
+    return QDir::fromNativeSeparators(m_folder->text().trimmed());
+}
+
+void TargetFields::setFolder(const QString& folder) {
+    m_folder->setText(QDir::toNativeSeparators(folder));
 }
 
 void TargetFields::store() {
-    const QString folder = QDir::fromNativeSeparators(m_folder->text().trimmed());
-    m_prefs.setValue(m_topic % QStringLiteral("/folder"), QDir(folder).absolutePath());
+    m_prefs.setValue(m_topic % QStringLiteral("/folder"), QDir(folder()).absolutePath());
     m_prefs.setValue(m_topic % QStringLiteral("/format"), m_format->currentData());
 }

@@ -17,6 +17,9 @@ public:
     TargetFields(Preferences& prefs, const QString& topic, bool withVideo, QWidget* parent);
 
     bool isComplete() const;
+    /// As it stands in the field, with a separator of '/'.
+    QString folder() const;
+    void setFolder(const QString& folder);
     void store();
 
 Q_SIGNALS:

@@ -1256,6 +1256,14 @@
         <translation>Its recording is not saved.</translation>
     </message>
     <message>
+        <source>Files that are in this folder already: %1</source>
+        <translation>Files that are in this folder already: %1</translation>
+    </message>
+    <message>
+        <source>New subfolder</source>
+        <translation>New subfolder</translation>
+    </message>
+    <message>
         <source>Not everything is saved.</source>
         <translation>Not everything is saved.</translation>
     </message>

@@ -1256,6 +1256,14 @@
         <translation>この記録は保存されていません。</translation>
     </message>
     <message>
+        <source>Files that are in this folder already: %1</source>
+        <translation>このフォルダにすでにあるファイル: %1</translation>
+    </message>
+    <message>
+        <source>New subfolder</source>
+        <translation>新しいサブフォルダ</translation>
+    </message>
+    <message>
         <source>Not everything is saved.</source>
         <translation>保存されていないものがあります。</translation>
     </message>

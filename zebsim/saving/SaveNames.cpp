@@ -1,5 +1,6 @@
 #include "saving/SaveNames.h"
 
+#include <QDir>
 #include <QRegularExpression>
 #include <QSet>
 
@@ -35,6 +36,13 @@ QStringList distinctFileNames(const QStringList& names) {
         distinct.append(wanted);
     }
     return distinct;
+}
+
+QString newSubfolder(const QString& folder, const QDateTime& time) {
+    static const QRegularExpression made(QStringLiteral("^\\d{8}-\\d{6}$"));
+    const bool isOfSave = made.match(QDir(folder).dirName()).hasMatch();
+    return QDir(isOfSave ? QFileInfo(folder).path() : folder)
+        .filePath(time.toString(QStringLiteral("yyyyMMdd-HHmmss")));
 }
 
 QString frameNumberText(qint64 number) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QDateTime>
 #include <QString>
 #include <QStringList>
 
@@ -10,5 +11,7 @@ QString fileNameOf(const QString& name);
 /// The same for several, each another, also where the case of letters does not count: a later one of a name gets a
 /// number.
 QStringList distinctFileNames(const QStringList& names);
+/// A folder for one save, called by its time: in `folder`, or beside it when that was made for a save itself.
+QString newSubfolder(const QString& folder, const QDateTime& time);
 /// A frame number with at least five digits, as "-00512".
 QString frameNumberText(qint64 number);
