@@ -94,6 +94,8 @@ void MessageBoxes::notify(const Message& message) {
     }
     m_notice = makeBox(message);
     m_notice->setModal(false);
+    // The table, where people work on, would cover it.
+    m_notice->setWindowFlag(Qt::WindowStaysOnTopHint);
     m_notice->setAttribute(Qt::WA_DeleteOnClose);
     m_notice->setAttribute(Qt::WA_ShowWithoutActivating);
     m_notice->show();
