@@ -44,6 +44,9 @@ void collectCpp(Keys& keys, const QString& file, QString text) {
     // The short names of units, and the texts of failures.
     if (file.endsWith(QLatin1String("CalibrationUnits.cpp"))) collect(keys, file, text, R"re(,\s*("[^"]*"))re");
     collect(keys, file, text, R"re(Exception(?: \w+)?\((QStringLiteral\("[^"]*"\)))re");
+    // Why files or cameras fail while they are saved.
+    if (file.contains(QLatin1String("/saving/")))
+        collect(keys, file, text, R"re(Error\([^;"]*QStringLiteral\(("[^"]*")\))re");
     // What stands in a support file.
     collect(keys, file, text, R"re(("- [^"]*"))re");
     // What a record shows begins with a capital; its members do not.

@@ -57,6 +57,7 @@ protected:
                          .arg(outcome.frames)
                          .arg(outcome.lastNumber)
                          .arg(ends.at(outcome.end));
+            reason = outcome.reason;
             failedFile = outcome.file.isEmpty() ? failedFile : QFileInfo(outcome.file).fileName();
         }
         return texts;
@@ -77,6 +78,8 @@ protected:
     Overwrite answer = Overwrite::This;
     QStringList asked;
     QString failedFile;
+    /// Of the last track.
+    QString reason;
 };
 
 const QStringList AllFiles = {"Gate_-00001.png", "Gate_00000.png", "Nozzle_2_00000.png", "Nozzle_2_00001.png",
@@ -195,6 +198,11 @@ TEST_F(Saving, LosesACameraAtAnyFrameAndNoOther) {
             for (const QString& name : files()) QFile::remove(path(name));
         }
     }
+    host.host.faults().plant(3, "readFrame", {"it is too hot", 0, false});
+    run(orders(), [&](const SaveJob& /*job*/) { host.camera(3).set(&CameraState::name, "N"); });
+    EXPECT_EQ(reason, "it is too hot") << "whatever the camera is called by then";
+    host.host.faults().clear();
+    prepare(3, "Nozzle/2", 100, 102);
     // The memory is filled anew, or the cameras are others now.
     const auto afterOne = [](const std::function<void()>& work) {
         return [work](SaveJob& job) {

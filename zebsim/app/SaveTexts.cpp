@@ -19,12 +19,12 @@ QString outcomeText(const SaveOutcome& outcome, const SaveOrders& orders) {
         case SaveOutcome::CameraLost:
             if (outcome.saved == 0)
                 return uiText("%1: camera lost before its first frame, %2 frames not saved (%3)")
-                    .arg(name, left, outcome.reason);
+                    .arg(name, left, uiText(outcome.reason));
             return uiText("%1: camera lost after frame %2, %3 frames not saved (%4)")
-                .arg(name, QString::number(outcome.lastNumber), left, outcome.reason);
+                .arg(name, QString::number(outcome.lastNumber), left, uiText(outcome.reason));
         case SaveOutcome::FileFailed:
             return uiText("%1: %2 can't be written, %3 frames not saved (%4)")
-                .arg(name, QDir::toNativeSeparators(outcome.file), left, outcome.reason);
+                .arg(name, QDir::toNativeSeparators(outcome.file), left, uiText(outcome.reason));
         case SaveOutcome::Skipped:
             return uiText("%1: skipped, %2 frames saved, %3 not").arg(name, saved, left);
         case SaveOutcome::Cancelled:

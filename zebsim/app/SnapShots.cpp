@@ -43,9 +43,9 @@ void writeFile(SimHost& host, const QImage& image) {
     try {
         writeSnapShot(folder, camera ? camera->name() : QString(), QDateTime::currentDateTime(), format, image);
     } catch (const FileError& e) {
-        host.alert(
-            uiText("%1 can't be written: %2").arg(QDir::toNativeSeparators(e.file()), QString::fromUtf8(e.what())),
-            nullptr);
+        host.alert(uiText("%1 can't be written: %2")
+                       .arg(QDir::toNativeSeparators(e.file()), uiText(QString::fromUtf8(e.what()))),
+                   nullptr);
     }
 }
 

@@ -8,7 +8,12 @@
 class CameraError : public std::runtime_error {
 public:
     CameraError(const QString& camera, const QString& reason)
-        : std::runtime_error(QString(camera % QStringLiteral(": ") % reason).toStdString()) {}
+        : std::runtime_error(QString(camera % QStringLiteral(": ") % reason).toStdString()), m_reason(reason) {}
+
+    const QString& reason() const { return m_reason; }
+
+private:
+    QString m_reason;
 };
 
 /// A question that a camera did not answer. Comes again at every tick while the fault lasts.

@@ -1264,6 +1264,26 @@
         <translation>New subfolder</translation>
     </message>
     <message>
+        <source>the camera is gone</source>
+        <translation>the camera is gone</translation>
+    </message>
+    <message>
+        <source>the recording is gone</source>
+        <translation>the recording is gone</translation>
+    </message>
+    <message>
+        <source>the camera is not connected</source>
+        <translation>the camera is not connected</translation>
+    </message>
+    <message>
+        <source>the picture has no such form</source>
+        <translation>the picture has no such form</translation>
+    </message>
+    <message>
+        <source>there can't be such a folder</source>
+        <translation>there can't be such a folder</translation>
+    </message>
+    <message>
         <source>Not everything is saved.</source>
         <translation>Not everything is saved.</translation>
     </message>

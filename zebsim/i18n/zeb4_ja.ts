@@ -1264,6 +1264,26 @@
         <translation>新しいサブフォルダ</translation>
     </message>
     <message>
+        <source>the camera is gone</source>
+        <translation>カメラがなくなりました</translation>
+    </message>
+    <message>
+        <source>the recording is gone</source>
+        <translation>記録がなくなりました</translation>
+    </message>
+    <message>
+        <source>the camera is not connected</source>
+        <translation>カメラが接続されていません</translation>
+    </message>
+    <message>
+        <source>the picture has no such form</source>
+        <translation>画像をこの形式にできません</translation>
+    </message>
+    <message>
+        <source>there can't be such a folder</source>
+        <translation>このフォルダは作成できません</translation>
+    </message>
+    <message>
         <source>Not everything is saved.</source>
         <translation>保存されていないものがあります。</translation>
     </message>

@@ -137,8 +137,7 @@ void SaveJob::readCameras() {
         try {
             source.read(m_cameras, m_outcome.saved);
         } catch (const CameraError& e) {
-            // The name stands before the reason already.
-            cameraLost(source, QString::fromUtf8(e.what()).mid(source.name().size() + 2));
+            cameraLost(source, e.reason());
         }
     }
 }
