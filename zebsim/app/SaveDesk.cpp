@@ -13,6 +13,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QMessageBox>
+#include <QtDebug>
 
 SaveDesk::SaveDesk(SimHost& host) : m_host(host), m_shoot(host.cameras(), host.events()) {}
 
@@ -98,6 +99,10 @@ void SaveDesk::askToCancel() {
 }
 
 void SaveDesk::finish() {
+    for (const SaveOutcome& outcome : m_job->outcomes()) {
+        const QString text = outcomeText(outcome, m_job->orders());
+        outcome.end == SaveOutcome::Saved ? qInfo("%s", qUtf8Printable(text)) : qWarning("%s", qUtf8Printable(text));
+    }
     m_host.updates().request();
     // A plug-in that has asked while images were saved has not started its timer.
     sendToPlugins(m_host.appStatus(), "signalStartAutoUpdate");
