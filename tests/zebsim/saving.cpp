@@ -316,7 +316,10 @@ TEST_F(SavingVideo, MakesOneFileACamera) {
     EXPECT_EQ(VideoEncoder::of(video().encoder.program).encoder, "mpeg4");
     EXPECT_FALSE(VideoEncoder::of(path("none")).isUsable());
     host.host.faults().plantAt(5, {"it is too hot", 0, false});
-    EXPECT_EQ(run(video()), QStringList({"Gate: 2 of 2 up to 0, saved", "Nozzle/2: 2 of 3 up to 1, lost"}));
+    const auto look = [this](const SaveJob& job) {
+        EXPECT_FALSE(job.isRunning() && QFile::exists(path(job.track().fileName + ".mp4"))) << "not complete yet";
+    };
+    EXPECT_EQ(run(video(), look), QStringList({"Gate: 2 of 2 up to 0, saved", "Nozzle/2: 2 of 3 up to 1, lost"}));
     EXPECT_EQ(files(), QStringList({"Gate.mp4", "Nozzle_2.mp4"}));
     EXPECT_EQ(framesIn("Gate.mp4"), 2);
     EXPECT_EQ(framesIn("Nozzle_2.mp4"), 2) << "what there was before the camera was lost";
@@ -337,6 +340,22 @@ TEST_F(SavingVideo, LeavesNoHalfFile) {
     EXPECT_EQ(run(video()), QStringList({"Gate: 0 of 2 up to 0, failed", "Nozzle/2: 0 of 3 up to 2, failed"}));
     EXPECT_EQ(files(), QStringList("Gate.mp4"));
     EXPECT_TRUE(isOld("Gate.mp4"));
+}
+
+TEST_F(SavingVideo, AsksOnceAboutAFileThatStandsInTheWay) {
+    writeOld("Gate.mp4");
+    answer = Overwrite::This;
+    const auto others = [this](const SaveJob& job) {
+        if (job.outcomes().size() == 1 && job.frame() == 1) {
+            writeOld("Nozzle_2.mp4");
+            answer = Overwrite::SkipCamera;
+        }
+    };
+    EXPECT_EQ(run(video(), others), QStringList({"Gate: 2 of 2 up to 0, saved", "Nozzle/2: 0 of 3 up to 2, skipped"}));
+    EXPECT_EQ(asked, QStringList({"Gate.mp4", "Nozzle_2.mp4"}));
+    EXPECT_EQ(framesIn("Gate.mp4"), 2);
+    EXPECT_TRUE(isOld("Nozzle_2.mp4")) << "somebody else has written it meanwhile";
+    EXPECT_EQ(files(), QStringList({"Gate.mp4", "Nozzle_2.mp4"}));
 }
 
 TEST_F(SavingVideo, HoldsAllFramesForAnotherReader) {

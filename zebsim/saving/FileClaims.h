@@ -16,6 +16,8 @@ public:
     /// Whether `file` may be written. A new one exists from now on, empty, so that nobody else takes its name. False
     /// when the user keeps the old one. Throws `FileError` when there can't be such a file.
     bool claim(const QString& file);
+    /// Whether it may be claimed later, as it looks now: the user has been asked about it then, and nothing was made.
+    bool promise(const QString& file);
     /// Gives a new file's name back: nothing has become of it. An old file stays.
     void release();
     /// The claimed file is written.
@@ -24,9 +26,13 @@ public:
     bool isCancelled() const { return m_cancelled; }
 
 private:
+    bool mayReplace(const QString& file);
+
     std::function<Overwrite(const QString& file)> m_ask;
     /// The claimed file, if it is a new one.
     QString m_new;
+    /// An old one that the user has given away.
+    QString m_promised;
     bool m_all = false;
     bool m_cancelled = false;
 };

@@ -16,6 +16,6 @@ public:
     virtual bool isBusy() { return false; }
     /// All frames are written; it may be busy then for a last time.
     virtual void close() {}
-    /// Once closed and not busy: the last file is complete.
-    virtual void complete() {}
+    /// Once closed and not busy: the last file is complete. False when the user keeps one that stands in its way.
+    virtual bool complete() { return true; }
 };

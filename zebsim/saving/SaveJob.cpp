@@ -89,8 +89,11 @@ bool SaveJob::work() {
     } else if (m_sink->isBusy()) {
         return false;
     } else if (m_closed) {
-        m_sink->complete();
-        endTrack(m_outcome.end);
+        if (m_sink->complete()) {
+            endTrack(m_outcome.end);
+        } else {
+            endKept();
+        }
     } else if (m_outcome.saved == m_outcome.frames || m_lost.size() == int(track().sources.size())) {
         m_sink->close();
         m_closed = true;
@@ -122,7 +125,7 @@ void SaveJob::saveFrame() {
     const int index = m_outcome.saved;
     const qint64 number = track().number(index);
     if (!m_sink->write(track().picture(index, m_lost), frameNumberText(number))) {
-        endTrack(m_claims.isCancelled() ? SaveOutcome::Cancelled : SaveOutcome::Skipped);
+        endKept();
         return;
     }
     m_outcome.lastNumber = number;
@@ -152,6 +155,10 @@ void SaveJob::cameraLost(const SaveSource& source, const QString& reason) {
         const int saved = m_outcome.saved;
         m_outcomes.append({source.name(), SaveOutcome::CameraLost, saved, source.frames(), saved - 1, {}, reason});
     }
+}
+
+void SaveJob::endKept() {
+    endTrack(m_claims.isCancelled() ? SaveOutcome::Cancelled : SaveOutcome::Skipped);
 }
 
 void SaveJob::endTrack(SaveOutcome::End end) {

@@ -93,6 +93,8 @@ private:
     void saveFrame();
     void readCameras();
     void cameraLost(const SaveSource& source, const QString& reason);
+    /// The user keeps a file that stands in the way.
+    void endKept();
     void endTrack(SaveOutcome::End end);
 
     const CameraBank& m_cameras;

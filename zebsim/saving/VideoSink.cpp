@@ -29,11 +29,11 @@ VideoSink::~VideoSink() {
 }
 
 bool VideoSink::begin(const QSize& size) {
-    if (!m_claims.claim(m_file)) {
+    if (!m_claims.promise(m_file)) {
         return false;
     }
     if (!m_growing.open()) {
-        throw FileError(m_growing.fileTemplate(), m_growing.errorString());
+        throw FileError(m_file, m_growing.errorString());
     }
     m_growing.close();
     m_process.setStandardOutputFile(QProcess::nullDevice());
@@ -67,13 +67,17 @@ void VideoSink::close() {
     m_process.closeWriteChannel();
 }
 
-void VideoSink::complete() {
+bool VideoSink::complete() {
     if (!m_begun) {
-        return;
+        return true;
     }
     if (m_process.exitStatus() != QProcess::NormalExit || m_process.exitCode() != 0 ||
         m_process.error() == QProcess::FailedToStart) {
         fail();
+    }
+    // Somebody else may have taken the name meanwhile.
+    if (!m_claims.claim(m_file)) {
+        return false;
     }
     // A temporary file is its owner's alone.
     QFile::setPermissions(m_growing.fileName(), QFile::permissions(m_file));
@@ -84,6 +88,7 @@ void VideoSink::complete() {
     }
     m_growing.setAutoRemove(false);
     m_claims.keep();
+    return true;
 }
 
 void VideoSink::fail() {

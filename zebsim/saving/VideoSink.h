@@ -8,17 +8,19 @@
 
 class FileClaims;
 
-/// Makes one video of all frames. It grows beside its place under another name.
+/// Makes one video of all frames. It grows beside its place under another name, so that nothing half done bears its
+/// own.
 class VideoSink : public FrameSink {
 public:
-    /// `file` is claimed with the first frame. `claims` must outlive the sink.
+    /// The user is asked about `file` with the first frame, and it is made with the last. `claims` must outlive the
+    /// sink.
     VideoSink(FileClaims& claims, VideoEncoder encoder, QString file);
     ~VideoSink() override;
 
     bool write(const QImage& picture, const QString& number) override;
     bool isBusy() override;
     void close() override;
-    void complete() override;
+    bool complete() override;
 
 private:
     bool begin(const QSize& size);
