@@ -7,6 +7,7 @@
 #include "Simulator.h"
 #include "ViewerWindow.h"
 #include "camera/Camera.h"
+#include "saving/SaveJob.h"
 #include "saving/SaveNames.h"
 #include "support/SavingPlugin.h"
 
@@ -19,11 +20,14 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QProgressBar>
 #include <QPushButton>
 #include <QTableWidget>
 #include <QTemporaryDir>
 
 #include <gmock/gmock.h>
+
+#include <limits>
 
 namespace {
 
@@ -149,6 +153,22 @@ TEST_F(AppSaving, TellsOfCamerasThatAreNotThere) {
     EXPECT_EQ(messages(), QStringList("No connected camera has recorded images.\n"
                                       "Camera 1: the camera was disconnected. Its recording is not saved.\n" +
                                       lost));
+}
+
+TEST_F(AppSaving, ShowsTheProgressOfMoreFramesThanAnIntCounts) {
+    for (DOCKEY key = 1; key <= 2; ++key) {
+        host.cameras().find(key)->change({{"recordedRange", QVariantList{0, 2000000000}}});
+        host.cameras().find(key)->change({{"selectedRange", QVariantList{key == 1 ? 2000000000 : 0, 2000000000}}});
+    }
+    SaveOrders orders{folder.filePath("out"), saveFormat("jpeg"), tracksOfEach(saveSources(host.cameras())), {}};
+    orders.tracks.push_back(orders.tracks.back());
+    SaveJob job(host.cameras(), orders, [](const QString&) { return std::numeric_limits<qint64>::max(); });
+    const SaveProgress progress(job, nullptr);
+    ASSERT_FALSE(job.start());
+    while (job.outcomes().isEmpty()) QCoreApplication::processEvents();
+    const auto* bar = progress.findChild<QProgressBar*>();
+    EXPECT_EQ(bar->value(), 0) << "one frame of four thousand million";
+    EXPECT_GT(bar->maximum(), 0);
 }
 
 TEST_F(AppSaving, EndsWithTheApplication) {

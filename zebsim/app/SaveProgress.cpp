@@ -12,6 +12,13 @@
 
 #include <algorithm>
 
+namespace {
+
+/// Of the bar; frames can be more than it counts.
+constexpr int Steps = 1000;
+
+}  // namespace
+
 SaveProgress::SaveProgress(SaveJob& job, QWidget* parent)
     : QDialog(parent),
       m_job(&job),
@@ -35,9 +42,8 @@ SaveProgress::SaveProgress(SaveJob& job, QWidget* parent)
     layout->addWidget(m_bar);
     layout->addWidget(m_lines);
     layout->addWidget(m_button, 0, Qt::AlignRight);
-    int frames = 0;
-    for (const SaveTrack& track : job.orders().tracks) frames += track.frames();
-    m_bar->setMaximum(frames);
+    for (const SaveTrack& track : job.orders().tracks) m_frames += track.frames();
+    m_bar->setMaximum(Steps);
     connect(m_button, &QPushButton::clicked, this, &SaveProgress::press);
     connect(&job, &SaveJob::progressed, this, &SaveProgress::follow);
     connect(&job, &SaveJob::finished, this, &SaveProgress::follow);
@@ -86,9 +92,9 @@ void SaveProgress::follow() {
 void SaveProgress::showFrame() {
     const auto& tracks = m_job->orders().tracks;
     const std::size_t number = m_job->trackNumber();
-    int before = 0;
-    for (std::size_t i = 0; i < number; ++i) before += tracks[i].frames();
-    m_bar->setValue(before + m_job->frame());
+    qint64 done = m_job->frame();
+    for (std::size_t i = 0; i < number; ++i) done += tracks[i].frames();
+    m_bar->setValue(int(done * Steps / m_frames));
     m_at->setText(uiText("%1 of %2: %3, frame %4 of %5")
                       .arg(QString::number(number + 1), QString::number(tracks.size()), m_job->track().name,
                            QString::number(m_job->frame()), QString::number(m_job->track().frames())));

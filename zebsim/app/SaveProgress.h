@@ -37,4 +37,6 @@ private:
     QProgressBar* m_bar;
     QListWidget* m_lines;
     QPushButton* m_button;
+    /// Of all tracks.
+    qint64 m_frames = 0;
 };
