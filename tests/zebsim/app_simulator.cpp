@@ -11,6 +11,7 @@
 #include <QDialog>
 #include <QStatusBar>
 #include <QTemporaryDir>
+#include <QTest>
 #include <QTimer>
 
 #include <gtest/gtest.h>
@@ -27,10 +28,13 @@ protected:
 
 TEST_F(ViewerTest, EndsTheApplicationWhenItIsClosed) {
     simulator.host().cameras().find(1)->change({{"connected", true}, {"recordState", zeb::RecordReady}});
-    ScenarioDialogs dialogs;
-    dialogs.queueAnswers({"cancel"});
-    simulator.window().close();
-    EXPECT_FALSE(simulator.host().isApplicationClosing()) << "a camera is armed";
+    {
+        ModalWatcher watcher;
+        QObject::connect(&watcher, &ModalWatcher::stands, [](QDialog* box) { QTest::keyClick(box, Qt::Key_Return); });
+        simulator.window().close();
+    }
+    EXPECT_FALSE(simulator.host().isApplicationClosing()) << "a camera is armed, and Enter leaves it";
+    const ScenarioDialogs dialogs;
     EXPECT_EQ(simulator.run([&] { simulator.window().close(); }), 0);
     EXPECT_TRUE(simulator.host().isApplicationClosing());
 }
@@ -92,7 +96,7 @@ TEST_F(ViewerTest, RecordsByItsOwnKeyUnlessAPluginIsInFront) {
     EXPECT_EQ(host.recorder().getRecordingState(), zeb::RecordReady) << "it has not shown that";
     host.cameras().find(1)->set(&CameraState::recordState, zeb::RecordRecording);
     ScenarioDialogs dialogs;
-    dialogs.queueAnswers({"cancel"});
+    dialogs.queueAnswers({"no"});
     key("disconnectAll")->trigger();
     EXPECT_EQ(host.docManager().getConnectedDocKeys(), DocKeyList{1}) << "asked first";
     simulator.clock().setSpeed(1000);

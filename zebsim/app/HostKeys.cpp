@@ -1,5 +1,6 @@
 #include "HostKeys.h"
 
+#include "RecordingGuard.h"
 #include "UiText.h"
 #include "camera/Camera.h"
 #include "host/PluginSignal.h"
@@ -74,10 +75,7 @@ void HostKeys::record() {
 }
 
 void HostKeys::disconnectAll() {
-    if (m_host.recorder().isUnderWay() &&
-        !m_host.confirm(uiText("Cameras are armed or recording. Disconnect all the same?"))) {
-        return;
-    }
+    if (!mayLetGoOfRecording(m_host, uiText("Cameras are armed or recording. Disconnect all the same?"))) return;
     const QList<PLG_Interface*> plugins = m_host.appStatus().plugins();
     if (std::any_of(plugins.begin(), plugins.end(), hasOpenDialog)) {
         sendToPlugins(m_host.appStatus(), "signalDisconnect");

@@ -3,6 +3,7 @@
 #include "AppWindows.h"
 #include "CameraWindows.h"
 #include "CommandLine.h"
+#include "RecordingGuard.h"
 #include "UiText.h"
 #include "ViewerWindow.h"
 #include "camera/Rig.h"
@@ -37,8 +38,7 @@ Simulator::Simulator(const CommandLine& line) : m_host(m_clock, m_boxes, line.pr
     m_window->addDialogs(*m_desk);
     m_host.docManager().setEditor([this](DOCKEY key) { m_desk->editCamera(key); });
     QObject::connect(m_window.get(), &ViewerWindow::closeAsked, m_window.get(), [this] {
-        if (!m_host.recorder().isUnderWay() ||
-            m_host.confirm(uiText("Cameras are armed or recording. Close the viewer all the same?")))
+        if (mayLetGoOfRecording(m_host, uiText("Cameras are armed or recording. Close the viewer all the same?")))
             quit();
     });
     loadPlugin(line);
