@@ -46,6 +46,18 @@ protected:
     ModalWatcher watcher;
 };
 
+TEST_F(Boxes, ShowTheWholeTextsOfTheirButtons) {
+    qApp->setStyleSheet("QPushButton { min-width: 20px; }");
+    onStanding([](const QMessageBox& box) {
+        for (const QAbstractButton* button : box.buttons()) EXPECT_GE(button->width(), button->sizeHint().width());
+    });
+    boxes.show(message(Message::Confirm, "c",
+                       {{QMessageBox::Yes, "Overwrite all of them"},
+                        {QMessageBox::No, "Leave this camera alone"},
+                        {QMessageBox::Cancel, "Write nothing any more"}}));
+    qApp->setStyleSheet({});
+}
+
 TEST_F(Boxes, AreAcceptedUnlessAnAnswerWasQueued) {
     EXPECT_TRUE(boxes.show(message(Message::Warn, "w")).accepted);
     EXPECT_TRUE(boxes.show(message(Message::Confirm, "c")).accepted);

@@ -46,6 +46,14 @@ QMessageBox::StandardButtons buttonsOf(const Message& message) {
     return buttons;
 }
 
+/// The least width of a style sheet would let the box cut a long text.
+void showWhole(const QList<QAbstractButton*>& buttons) {
+    for (QAbstractButton* button : buttons) {
+        button->ensurePolished();
+        button->setMinimumWidth(button->sizeHint().width());
+    }
+}
+
 }  // namespace
 
 void MessageBoxes::showHeld() {
@@ -94,8 +102,8 @@ void MessageBoxes::notify(const Message& message) {
     }
     m_notice = makeBox(message);
     m_notice->setModal(false);
-    // The table, where people work on, would cover it.
-    m_notice->setWindowFlag(Qt::WindowStaysOnTopHint);
+    // The table, where people work on, would cover it, and the record key belongs to the table while that is active.
+    m_notice->setWindowFlags(m_notice->windowFlags() | Qt::WindowStaysOnTopHint | Qt::WindowDoesNotAcceptFocus);
     m_notice->setAttribute(Qt::WA_DeleteOnClose);
     m_notice->setAttribute(Qt::WA_ShowWithoutActivating);
     m_notice->show();
@@ -112,6 +120,7 @@ QMessageBox* MessageBoxes::makeBox(const Message& message) const {
     if (message.preferred != 0) box->setDefaultButton(static_cast<QMessageBox::StandardButton>(message.preferred));
     if (message.offersSilence) box->setCheckBox(new QCheckBox(translated(QStringLiteral("Don't show again"))));
     applyMessageBoxStyle(*m_host, *box);
+    showWhole(box->buttons());
     return box;
 }
 
