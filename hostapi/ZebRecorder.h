@@ -19,6 +19,6 @@ public:
     virtual void triggerRecording() = 0;
     /// Ends a recording that runs; what is recorded stays.
     virtual void stopRecording() = 0;
-    /// Puts the cameras back to live; `recording`: from a recording, which is thrown away.
+    /// Puts the cameras back to live; `recording`: from a recording. They keep what they have of it.
     virtual void cancelRecording(bool recording) = 0;
 };

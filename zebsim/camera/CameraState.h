@@ -136,9 +136,10 @@ public:
     /// n of 1/n second.
     int shutter = 0;
     int triggerMode = zeb::TriggerStart;
-    /// Of the manual trigger, counted from the start of the memory.
+    /// Of the manual triggers: frames of the memory that are kept for what comes from the trigger on.
     int triggerFrame = 0;
-    /// Of the random trigger: frames of one, how often it comes, and whether that is counted.
+    /// Of the random trigger: frames of one and how often it comes; the modes random and random reset fill the memory
+    /// unless that is counted.
     int randomFrames = 0;
     int randomTimes = 0;
     bool randomCounted = false;
@@ -170,7 +171,7 @@ public:
     bool frameSkipEnabled = false;
     int frameSkipMode = 0;
     int frameSkip = 1;
-    /// First and last frame that a recording keeps, counted from the trigger; both 0: all.
+    /// First and last frame that a recording keeps while areas are in use, counted from the trigger; both 0: all.
     QPoint recordArea;
     QPoint point;
     double scale = 0;

@@ -12,7 +12,9 @@ RecordSettings RecordSettings::of(const CameraState& state, const CameraModel& m
     settings.resolution = state.resolution;
     settings.triggerFrame = state.triggerFrame;
     settings.randomFrames = state.randomFrames;
-    settings.randomTimes = state.randomTimes;
+    // The other random modes know no choice.
+    const bool isPhased = settings.mode == zeb::TriggerRandom || settings.mode == zeb::TriggerRandomReset;
+    settings.randomTimes = isPhased && !state.randomCounted ? 0 : state.randomTimes;
     settings.area = state.recordArea;
     return settings;
 }
