@@ -26,7 +26,6 @@
 namespace {
 
 constexpr QSize FirstSize{1280, 800};
-constexpr int MessageTime = 5000;
 const QString StyleKey = QStringLiteral("env/style");
 
 }  // namespace
@@ -56,9 +55,6 @@ ViewerWindow::ViewerWindow(SimHost& host, const LogStore& log)
     connect(&host.events(), &HostEvents::camerasReplaced, this, &ViewerWindow::refresh);
     connect(&host.events(), &HostEvents::modeChanged, this, &ViewerWindow::refresh);
     connect(m_images.get(), &CameraWindows::shown, this, &ViewerWindow::refresh);
-    connect(&host.events(), &HostEvents::testTriggerCame, this, [this] {
-        statusBar()->showMessage(uiText("Trigger test: the trigger has come. Nothing is recorded."), MessageTime);
-    });
     refresh();
 }
 

@@ -21,8 +21,6 @@ Q_SIGNALS:
     void pluginClosed(const QString& name);
     /// A recording has ended that left something in a camera's memory.
     void somethingRecorded();
-    /// A trigger has come while triggers are only tested.
-    void testTriggerCame();
     /// One new live image of each camera is wanted while they stand.
     void liveImageWanted();
     /// An update cycle has reached all plug-ins and bridges.

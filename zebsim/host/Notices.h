@@ -1,5 +1,7 @@
 #pragma once
 
+#include "host/MessageDesk.h"
+
 #include <QObject>
 
 #include <functional>
@@ -9,14 +11,14 @@ class Notices : public QObject {
     Q_OBJECT
 public:
     /// `show` is called on the GUI thread, from the event loop, and must come back at once.
-    explicit Notices(std::function<void(const QString&)> show) : m_show(std::move(show)) {}
+    explicit Notices(std::function<void(Message::Kind, const QString&)> show) : m_show(std::move(show)) {}
 
     /// Any thread.
-    void add(const QString& text) {
+    void add(Message::Kind kind, const QString& text) {
         QMetaObject::invokeMethod(
-            this, [this, text] { m_show(text); }, Qt::QueuedConnection);
+            this, [this, kind, text] { m_show(kind, text); }, Qt::QueuedConnection);
     }
 
 private:
-    std::function<void(const QString&)> m_show;
+    std::function<void(Message::Kind, const QString&)> m_show;
 };

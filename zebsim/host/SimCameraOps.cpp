@@ -116,7 +116,7 @@ void SimCameraOps::syncCameras(const DocList& docs, DOC_Interface* master, int l
                 {source.master, lport, external, generator, input, frequency, polarity},
                 [&source](Camera& camera) { camera.synchronise(source); });
     } catch (const std::exception& failure) {
-        m_notices.add(QString::fromUtf8(failure.what()));
+        m_notices.add(Message::Error, QString::fromUtf8(failure.what()));
         throw;
     }
 }

@@ -24,7 +24,7 @@ SimHost::SimHost(Clock& clock, MessageDesk& desk, const QString& prefsPath)
       m_updates([this] { runUpdateCycle(); }),
       m_appObject(m_prefs, m_translator),
       m_prefsRestored(!m_prefs.problem().isEmpty()),
-      m_notices([this](const QString& text) { m_desk.notify(message(Message::Error, text, nullptr)); }),
+      m_notices([this](Message::Kind kind, const QString& text) { m_desk.notify(message(kind, text, nullptr)); }),
       m_appStatus(m_journal, m_events, m_updates, m_cameras, m_flags),
       m_signalDevices(m_journal, clock, m_faults, m_shownErrors),
       m_syncSignal(m_cameras, m_signalDevices),

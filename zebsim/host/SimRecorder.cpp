@@ -39,10 +39,11 @@ SimRecorder::SimRecorder(Journal& journal, const Clock& clock, const CameraBank&
       m_flags(flags),
       m_appStatus(appStatus),
       m_events(events),
+      m_notices(notices),
       m_run(cameras, clock,
             RecordRun::Listener{
                 [&updates] { updates.request(); },
-                [&notices](const QString& text) { notices.add(text); },
+                [&notices](const QString& text) { notices.add(Message::Error, text); },
                 [this](bool recorded) {
                     m_owedEnd = recorded;
                     QMetaObject::invokeMethod(
@@ -102,7 +103,7 @@ void SimRecorder::triggerRecording() {
 
 void SimRecorder::trigger() {
     if (m_flags.isOn(QStringLiteral("IsTriggerTesting"))) {
-        Q_EMIT m_events.testTriggerCame();
+        m_notices.add(Message::Info, QStringLiteral("Trigger test: the trigger has come. Nothing is recorded."));
     } else {
         m_run.trigger(m_docs.isRecordAreaEnabled());
     }

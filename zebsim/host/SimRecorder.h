@@ -64,6 +64,7 @@ private:
     const StatusFlags& m_flags;
     SimAppStatus& m_appStatus;
     HostEvents& m_events;
+    Notices& m_notices;
     RecordRun m_run;
     /// An end that is still to be told, and whether something was recorded.
     std::optional<bool> m_owedEnd;
