@@ -1,4 +1,5 @@
 #include "DOC_Control.h"
+#include "DOC_Frames.h"
 #include "DOC_Interface.h"
 #include "support/TestHost.h"
 
@@ -6,6 +7,7 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <thread>
 
 namespace {
@@ -87,14 +89,19 @@ TEST_F(Messages, AFailingCommandIsShownEachTime) {
     fault.throws = QStringLiteral("no answer");
     host.faults().plant(1, QStringLiteral("*"), fault);
     tick();
-    for (int i = 0; i < 2; ++i) {
-        try {
-            host.cameraOps().setRecordRate(test.docs({1}), 50);
-        } catch (const std::exception& e) {
-            host.errorHandler(e);
+    const std::function<void()> commands[] = {[&] { host.cameraOps().setRecordRate(test.docs({1}), 50); },
+                                              [&] { test.doc(1)->control().setSelectRange(1, 2); },
+                                              [&] { test.doc(1)->frames().setRecordCheck(true); }};
+    for (const auto& command : commands) {
+        for (int i = 0; i < 2; ++i) {
+            try {
+                command();
+            } catch (const std::exception& e) {
+                host.errorHandler(e);
+            }
         }
     }
-    EXPECT_EQ(desk.shown.size(), 3);
+    EXPECT_EQ(desk.shown.size(), 7);
 }
 
 TEST_F(Messages, JournalIsARingWithMarks) {

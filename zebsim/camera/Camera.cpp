@@ -90,11 +90,22 @@ void Camera::queryConnected(const char* operation) const {
     query(operation);
 }
 
-bool Camera::command(const char* operation) {
+void Camera::instruct(const char* operation) const {
     const QString reason = meetFault(operation);
     if (!reason.isEmpty()) {
-        throw CameraError(name(), reason);
+        refuse(reason);
     }
+}
+
+void Camera::instructConnected(const char* operation) const {
+    if (!get(&CameraState::connected)) {
+        refuse(notConnected);
+    }
+    instruct(operation);
+}
+
+bool Camera::command(const char* operation) {
+    instruct(operation);
     m_device.clock().wait(m_device.latency());
     return !isGone();
 }

@@ -47,6 +47,9 @@ public:
     /// what was last known of it.
     void query(const char* operation) const;
     void queryConnected(const char* operation) const;
+    /// The same for what a user has asked for and takes the camera no time: each failure is a `CameraError` of its own.
+    void instruct(const char* operation) const;
+    void instructConnected(const char* operation) const;
 
     /// Commands. Each takes the camera's latency, or throws `CameraError`. A camera that is gone does nothing more.
     ///

@@ -219,7 +219,7 @@ PARTITIONNUMBER SimControl::getCurrentPartition(int /*mode*/) const {
 
 void SimControl::applyPartition(int mode) {
     m_context.journal.record("DOC_Control::applyPartition", {m_camera.key(), mode});
-    m_camera.queryConnected("applyPartition");
+    m_camera.instructConnected("applyPartition");
 }
 
 zeb::VariableChannelInfo SimControl::getVariableChannelInfo(int channel) const {
@@ -258,19 +258,19 @@ int SimControl::getTriggerOffsetBase() const {
 
 void SimControl::setTriggerOffsetEnabled(bool enabled) {
     m_context.journal.record("DOC_Control::setTriggerOffsetEnabled", {m_camera.key(), enabled});
-    m_camera.queryConnected("setTriggerOffsetEnabled");
+    m_camera.instructConnected("setTriggerOffsetEnabled");
     m_camera.set(&CameraState::triggerOffsetEnabled, enabled);
 }
 
 void SimControl::setTriggerOffset(int frame) {
     m_context.journal.record("DOC_Control::setTriggerOffset", {m_camera.key(), frame});
-    m_camera.queryConnected("setTriggerOffset");
+    m_camera.instructConnected("setTriggerOffset");
     m_camera.set(&CameraState::triggerOffset, frame);
 }
 
 void SimControl::setSelectRange(int start, int end) {
     m_context.journal.record("DOC_Control::setSelectRange", {m_camera.key(), start, end});
-    m_camera.queryConnected("setSelectRange");
+    m_camera.instructConnected("setSelectRange");
     m_camera.set(&CameraState::selectedRange, {start, end});
 }
 

@@ -47,7 +47,7 @@ bool SimFrames::isRecordCheck() const {
 
 void SimFrames::setRecordCheck(bool check) {
     m_context.journal.record("DOC_Frames::setRecordCheck", {m_camera.key(), check});
-    m_camera.query("setRecordCheck");
+    m_camera.instruct("setRecordCheck");
     m_camera.set(&CameraState::recordCheck, check);
 }
 
@@ -58,13 +58,13 @@ bool SimFrames::isFrameSkipEnabled() const {
 
 void SimFrames::setFrameSkipEnabled(bool enabled) {
     m_context.journal.record("DOC_Frames::setFrameSkipEnabled", {m_camera.key(), enabled});
-    m_camera.query("setFrameSkipEnabled");
+    m_camera.instruct("setFrameSkipEnabled");
     m_camera.set(&CameraState::frameSkipEnabled, enabled);
 }
 
 void SimFrames::setFrameSkipMode(int mode) {
     m_context.journal.record("DOC_Frames::setFrameSkipMode", {m_camera.key(), mode});
-    m_camera.query("setFrameSkipMode");
+    m_camera.instruct("setFrameSkipMode");
     m_camera.set(&CameraState::frameSkipMode, mode);
 }
 
@@ -75,19 +75,19 @@ int SimFrames::getFrameSkip() const {
 
 void SimFrames::setFrameSkip(int frames) {
     m_context.journal.record("DOC_Frames::setFrameSkip", {m_camera.key(), frames});
-    m_camera.query("setFrameSkip");
+    m_camera.instruct("setFrameSkip");
     m_camera.set(&CameraState::frameSkip, frames);
 }
 
 void SimFrames::setRecordAreaStart(int frame) {
     m_context.journal.record("DOC_Frames::setRecordAreaStart", {m_camera.key(), frame});
-    m_camera.query("setRecordAreaStart");
+    m_camera.instruct("setRecordAreaStart");
     m_camera.set(&CameraState::recordArea, {frame, m_camera.get(&CameraState::recordArea).y()});
 }
 
 void SimFrames::setRecordAreaEnd(int frame) {
     m_context.journal.record("DOC_Frames::setRecordAreaEnd", {m_camera.key(), frame});
-    m_camera.query("setRecordAreaEnd");
+    m_camera.instruct("setRecordAreaEnd");
     m_camera.set(&CameraState::recordArea, {m_camera.get(&CameraState::recordArea).x(), frame});
 }
 

@@ -16,7 +16,7 @@ bool SimLock::isParamLocked() const {
 
 void SimLock::setParamLock(bool lock) {
     m_context.journal.record("DOC_Lock::setParamLock", {m_camera.key(), lock});
-    m_camera.query("setParamLock");
+    m_camera.instruct("setParamLock");
     const int recordState = m_camera.get(&CameraState::recordState);
     if (lock || (recordState != zeb::RecordReady && recordState != zeb::RecordRecording)) {
         m_camera.set(&CameraState::locked, lock);
