@@ -76,7 +76,7 @@ TEST_F(Boxes, OfANoticeKeepNobodyFromWorking) {
     window.show();
     window.activateWindow();
     while (!window.isActiveWindow()) QCoreApplication::processEvents();
-    boxes.notify(message(Message::Error, "one"));
+    boxes.notify(message(Message::Info, "one"));
     boxes.notify(message(Message::Error, "two"));
     EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
     EXPECT_TRUE(window.isActiveWindow()) << "keys go where they went";

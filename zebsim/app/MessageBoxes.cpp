@@ -9,10 +9,13 @@
 #include <QCheckBox>
 #include <QMessageBox>
 #include <QPointer>
+#include <QScreen>
 
 #include <utility>
 
 namespace {
+
+constexpr int CornerMargin = 24;
 
 struct Looks {
     QLatin1String kind;
@@ -52,6 +55,12 @@ void showWhole(const QList<QAbstractButton*>& buttons) {
         button->ensurePolished();
         button->setMinimumWidth(button->sizeHint().width());
     }
+}
+
+/// The upper right one of the screen: what people press while they record stands further down.
+void moveToCorner(QWidget& notice) {
+    const QRect screen = notice.screen()->availableGeometry();
+    notice.move(screen.right() - notice.width() - CornerMargin, screen.top() + CornerMargin);
 }
 
 }  // namespace
@@ -98,6 +107,8 @@ void MessageBoxes::notify(const Message& message) {
     }
     if (m_notice && m_notice->isVisible()) {
         setTexts(*m_notice, m_notice->property(TextProperty).toString() % QLatin1Char('\n') % message.text);
+        if (message.kind == Message::Error) setKind(*m_notice, message.kind);
+        moveToCorner(*m_notice);
         return;
     }
     m_notice = makeBox(message);
@@ -107,21 +118,28 @@ void MessageBoxes::notify(const Message& message) {
     m_notice->setAttribute(Qt::WA_DeleteOnClose);
     m_notice->setAttribute(Qt::WA_ShowWithoutActivating);
     m_notice->show();
+    moveToCorner(*m_notice);
 }
 
 QMessageBox* MessageBoxes::makeBox(const Message& message) const {
-    const Looks looks = looksOf(message.kind);
     const QString whole = (QStringList(message.text) << message.list).join(QLatin1Char('\n'));
-    auto* box = new QMessageBox(looks.icon, translated(looks.title), {}, buttonsOf(message), message.parent);
+    auto* box = new QMessageBox(QMessageBox::NoIcon, {}, {}, buttonsOf(message), message.parent);
+    setKind(*box, message.kind);
     box->setTextFormat(Qt::PlainText);
     setTexts(*box, whole);
-    box->setProperty(KindProperty, QString(looks.kind));
     nameButtons(*box, message.buttons);
     if (message.preferred != 0) box->setDefaultButton(static_cast<QMessageBox::StandardButton>(message.preferred));
     if (message.offersSilence) box->setCheckBox(new QCheckBox(translated(QStringLiteral("Don't show again"))));
     applyMessageBoxStyle(*m_host, *box);
     showWhole(box->buttons());
     return box;
+}
+
+void MessageBoxes::setKind(QMessageBox& box, Message::Kind kind) const {
+    const Looks looks = looksOf(kind);
+    box.setIcon(looks.icon);
+    box.setWindowTitle(translated(looks.title));
+    box.setProperty(KindProperty, QString(looks.kind));
 }
 
 void MessageBoxes::setTexts(QMessageBox& box, const QString& whole) {

@@ -23,11 +23,13 @@ public:
     void rejectAll();
 
     Answer show(const Message& message) override;
-    /// The box is not modal and leaves the keyboard where it is. While it stands, further texts join it.
+    /// The box is not modal and leaves the keyboard where it is. While it stands, further texts join it, and one of an
+    /// error makes it one.
     void notify(const Message& message) override;
 
 private:
     QMessageBox* makeBox(const Message& message) const;
+    void setKind(QMessageBox& box, Message::Kind kind) const;
     static void setTexts(QMessageBox& box, const QString& whole);
     void nameButtons(QMessageBox& box, const ButtonTexts& texts) const;
     QString translated(const QString& text) const;
