@@ -52,7 +52,9 @@ Object.assign(wrentabledialog_obj, {
     // A menu does not outlast its button, which a state of the application or another mode takes away.
     closeLostMenus() {
         const lists = Array.from(document.querySelectorAll('.miscfuncs ul:not([hidden])'));
-        if (lists.some(list => isDisabled(list) || list.offsetWidth === 0)) {
+        const isLost = lists.some(list => isDisabled(list) || list.offsetWidth === 0);
+        const partitions = document.getElementById('btn-recording_partition');
+        if (isLost || (document.querySelector('p.dummy') && lists.length === 0 && partitions.offsetWidth === 0)) {
             this.hideSelectBox();
         }
     },

@@ -1,3 +1,5 @@
+const LATE_PRESS = 200; // ms
+
 // The panels around the table: what is done with all cameras at once.
 Object.assign(wrentabledialog_obj, {
     initializeCommonParts() {
@@ -39,17 +41,32 @@ Object.assign(wrentabledialog_obj, {
     // A press means what the button shows. Where the recording has moved on since, the press goes for nothing: who
     // stops one that has just ended must not arm the cameras. Without a status it is left to the back end.
     pressRecord(button) {
+        if (this.isPressed) {
+            return;
+        }
         const shown = $(button).data('status');
         const status = this.showRecStatus();
         if (status !== null && status !== shown) {
             return;
         }
+        const began = Date.now();
+        this.isPressed = true;
         this.isStarting = status === this.RECORD_STATUS_LIVE;
         this.keepStartDisabled();
         try {
             wrentabledialog.record();
         } finally {
             this.isStarting = false;
+            this.endPress(Date.now() - began);
+        }
+    },
+
+    // After a call that lasted, presses come that waited for its end. They mean what was shown before it.
+    endPress(lasted) {
+        if (lasted < LATE_PRESS) {
+            this.isPressed = false;
+        } else {
+            window.setTimeout(() => this.endPress(0), LATE_PRESS);
         }
     },
 

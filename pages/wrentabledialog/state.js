@@ -19,6 +19,7 @@ var wrentabledialog_obj = {
     isRebuilding: false, // a grid's rows are being replaced
     preventSelectGroup: false, // a group button's click is being processed
     iconsDrawn: false, // icons of plug-ins have come whose use is not logged yet
+    isPressed: false, // a press on the record button is being worked, or has just been
     isStarting: false, // the call that arms the cameras runs, and may be asking the user
     isCtsReady: false, // the last record status was CTS ready
     gestureOpen: false, // one gesture of the user selects and unselects; the rows are fetched at its end

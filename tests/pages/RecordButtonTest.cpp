@@ -67,6 +67,19 @@ TEST_F(PageRecordButton, MeansWhatItShows) {
     }
 }
 
+TEST_F(PageRecordButton, TakesNoPressThatMayHaveWaitedForItsCall) {
+    test.host.flags().set("IsReady", true);
+    page->tick();
+    page->run(
+        "probe.callsBegin(); probe.time = 0; Date.now = () => probe.time;"
+        "wrentabledialog.record = () => { probe.made.push(['record']); probe.time += 3000; };"
+        "const button = document.getElementById('timeline_rec_exec');"
+        "wrentabledialog_obj.pressRecord(button); wrentabledialog_obj.pressRecord(button); return 0");
+    EXPECT_EQ(page->number("probe.callsEnd().filter(call => call[0] === 'record').length"), 1);
+    EXPECT_TRUE(page->until("!wrentabledialog_obj.isPressed"));
+    EXPECT_EQ(presses(), 1);
+}
+
 TEST_F(PageRecordButton, StaysAsItIsWithoutAStatus) {
     test.host.flags().set("IsRecording", true);
     page->tick();
