@@ -96,8 +96,9 @@ void JS_Mediator_WrenTableDialog::onOpen() {
 void JS_Mediator_WrenTableDialog::openSession() {
     m_timers.renew(host().getPrefInt(QStringLiteral("wren/table/interval")));
     TableSession session(host(), m_state);
-    session.open();
-    // A failure in there keeps nobody from following a recording that runs.
+    // A failure in these keeps nobody from following a recording that runs.
+    bridgeCall(*this, [&session] { session.open(); });
+    session.takeAllConnected();
     bridgeCall(*this, [&session] { session.loadDefaultSettings(); });
     session.followConnectedDocs();
 }

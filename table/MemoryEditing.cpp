@@ -86,8 +86,15 @@ void MemoryEditing::setTriggerOffset(const DocKeyList& keys, int offset) {
         const long long asked = static_cast<long long>(base) + offset;
         const int last = doc->frames().getLastFrame(0, 0);
         const int value = clampedStart(asked, doc->frames().getFirstFrame(0, 0), last);
+        const bool wasEnabled = control.isTriggerOffsetEnabled();
         control.setTriggerOffsetEnabled(value != base);
-        control.setTriggerOffset(value != base ? value : 0);
+        try {
+            control.setTriggerOffset(value != base ? value : 0);
+        } catch (...) {
+            // Half of it would count every frame of the camera from somewhere else.
+            logFailure([&] { control.setTriggerOffsetEnabled(wasEnabled); });
+            throw;
+        }
     }
 }
 

@@ -62,8 +62,7 @@ DocList RecordButton::connected() const {
 }
 
 bool RecordButton::canArm() const {
-    const bool isTableOpen = m_state.savedRecAllConnected.has_value();
-    return isTableOpen && m_host.isLiveMode() && m_host.recorder().getRecordingState() == zeb::RecordLive;
+    return m_host.isLiveMode() && m_host.recorder().getRecordingState() == zeb::RecordLive;
 }
 
 bool RecordButton::areCamerasLocked() {

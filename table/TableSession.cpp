@@ -20,6 +20,9 @@ void TableSession::open() {
     m_state.group = QLatin1String(UnreadGroup);
     clearLocks(false);
     clearRecordChecks(m_host);
+}
+
+void TableSession::takeAllConnected() {
     if (!m_state.savedRecAllConnected) {
         m_state.savedRecAllConnected = m_host.getPrefBool(RecAllConnectedPref);
     }

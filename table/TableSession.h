@@ -10,8 +10,10 @@ class TableSession {
 public:
     TableSession(ZebHost& host, TableState& state) : m_host(host), m_state(state) {}
 
-    /// Heads that are ready or recording keep their lock. Opening twice is closing once.
+    /// Heads that are ready or recording keep their lock.
     void open();
+    /// From now on a recording takes all connected cameras. Doing so twice is closing once.
+    void takeAllConnected();
     void close();
     /// Reads the default settings. A camera that is ready or recording keeps the table as it is.
     void loadDefaultSettings();

@@ -185,6 +185,7 @@ TEST_F(CameraManagementTest, aSessionTakesBackWhatItSet) {
     TableSession session(host, state);
 
     session.open();
+    session.takeAllConnected();
     session.followConnectedDocs();
     EXPECT_EQ(state.group, QLatin1String(UnreadGroup));
     EXPECT_FALSE(stateOf(1, "locked").toBool());
@@ -194,6 +195,7 @@ TEST_F(CameraManagementTest, aSessionTakesBackWhatItSet) {
     EXPECT_TRUE(host.getPrefBool("recording/RecAllConnectedCamera"));
 
     session.open();  // a minimised table is restored
+    session.takeAllConnected();
     change(2, {{"recordState", 0}});
     state.group = QStringLiteral("Front");
     session.close();

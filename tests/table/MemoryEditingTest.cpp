@@ -127,6 +127,14 @@ TEST_F(MemoryEditingTest, anOffsetOfNothingSwitchesItOff) {
     EXPECT_EQ(calls(), QStringList());
 }
 
+TEST_F(MemoryEditingTest, halfAnOffsetIsNone) {
+    host.faults().plant(1, "setTriggerOffset", Fault{"no answer", 0, false});
+    const int zero = host.docManager().getDocAny(1)->frames().getTriggerFrame(0);
+    bridge->setTriggerOffset({1}, 30);
+    EXPECT_EQ(desk.texts().size(), 1);
+    EXPECT_EQ(host.docManager().getDocAny(1)->frames().getTriggerFrame(0), zero);
+}
+
 TEST_F(MemoryEditingTest, aCheckNeedsAConnectedAndSelectedCamera) {
     change(2, {{"selected", false}});
     bridge->setRecordCheck({1, 2, 3, 6, 77}, true);

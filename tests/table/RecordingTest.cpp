@@ -148,7 +148,6 @@ TEST_F(RecordingTest, whatHappensWhileTheUserReadsIsSeen) {
              change(2, {{"connected", false}});
          },
          Armed},
-        {"the table is closed", [this] { bridge->onClose(); }, {}},
         {"somebody has armed", [this] { setState(zeb::RecordReady); }, {}},
         {"the host has gone to memory mode",
          [this] {
@@ -163,7 +162,6 @@ TEST_F(RecordingTest, whatHappensWhileTheUserReadsIsSeen) {
          Armed},
     };
     for (const auto& each : cases) {
-        bridge->onOpen();
         setState(zeb::RecordLive);
         host.appStatus().enterMode(zeb::LiveMode);
         answerWarning(true, each.meanwhile);
@@ -255,6 +253,20 @@ TEST_F(RecordingTest, aFailureBeforeArmingIsToldAndNothingIsArmed) {
         EXPECT_TRUE(desk.texts().first().contains("Ramp")) << operation;
         host.faults().clear();
     }
+}
+
+TEST_F(RecordingTest, aFailureAtTheOpeningKeepsNobodyFromRecording) {
+    bridge->onClose();
+    host.faults().plant(2, "setRecordCheck", {"no answer", 0, false});
+    host.setPrefBool("recording/RecAllConnectedCamera", false);
+    desk.shown.clear();
+    bridge->onOpen();
+    EXPECT_EQ(desk.texts(), QStringList{"Ramp: no answer"});
+    EXPECT_TRUE(host.getPrefBool("recording/RecAllConnectedCamera"));
+    host.faults().clear();
+    EXPECT_EQ(press(), Armed);
+    bridge->onClose();
+    EXPECT_FALSE(host.getPrefBool("recording/RecAllConnectedCamera"));
 }
 
 TEST_F(RecordingTest, liveControlsGoToTheHost) {
