@@ -199,13 +199,15 @@ TEST_F(RecordingTest, IsCancelledInEachState) {
     EXPECT_EQ(recorded(1), "0..8191 trigger 0") << "a cancel throws nothing away";
     EXPECT_EQ(recorded(3), "0..90999 trigger 1000");
     EXPECT_EQ(kept, 1);
+    EXPECT_EQ(messages(), "The recording was ended. The cameras keep what they have; memory mode shows it.");
     host.recorder().cancelRecording(false);
     pass(100000);
     EXPECT_EQ(ends, 0) << "whoever cancels knows that it is over";
     EXPECT_TRUE(host.isLiveMode());
     armAll();
+    plant(2, "cancel", {{}, 0, true});
     host.recorder().cancel();
-    QCoreApplication::processEvents();
+    EXPECT_EQ(messages(), "Camera 2: the camera has disappeared. It does not take part in the recording.");
     EXPECT_EQ(ends, 1) << "the host has cancelled by itself";
 }
 
@@ -300,6 +302,8 @@ TEST_F(RecordingTest, MissesCamerasThatGo) {
               "Camera 2: the camera has disappeared. Its recording is lost.\n"
               "Impact: the camera was disconnected. Its recording is lost.");
     EXPECT_EQ(recorded(1), "0..199 trigger 0");
+    EXPECT_EQ(host.recorder().lost(), (QStringList{"Camera 2: the camera has disappeared. Its recording is lost.",
+                                                   "Impact: the camera was disconnected. Its recording is lost."}));
     EXPECT_EQ(states(), "4 0 - 4");
     EXPECT_EQ(ends, 1);
     EXPECT_TRUE(host.isMemoryMode());
@@ -353,6 +357,7 @@ TEST_F(RecordingTest, ACameraThatOthersHaveStartedIsStoppedOrTold) {
     EXPECT_EQ(states(), "3 0 0 - 3");
     plant(1, "stop", {});
     host.recorder().stopRecording();
+    pass(0);
     EXPECT_EQ(states(), "0 0 0 - 0");
 }
 
@@ -410,8 +415,9 @@ TEST_F(RecordingTest, TheHostsKeyArmsTriggersAndStops) {
     host.recorder().press();
     EXPECT_EQ(states(), "3 3 3 - 3");
     host.recorder().press();
-    EXPECT_EQ(states(), "0 0 0 - 0");
+    EXPECT_EQ(states(), "0 0 0 - 3") << "nobody has been told of the end";
     QCoreApplication::processEvents();
+    EXPECT_EQ(states(), "0 0 0 - 0");
     EXPECT_EQ(ends, 1);
     host.recorder().press();
     EXPECT_EQ(states(), "0 0 0 - 0") << "in live mode only";

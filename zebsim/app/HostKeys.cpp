@@ -30,6 +30,12 @@ QString recordText(int state) {
     }
 }
 
+/// A list or a notice of the table's is not the table, but no reason to record without its checks.
+bool isViewerInFront(const SimHost& host) {
+    const QWidget* active = QApplication::activeWindow();
+    return active == nullptr || active == host.getMainWindow();
+}
+
 bool hasOpenDialog(PLG_Interface* plugin) {
     return plugin->isDialogVisible();
 }
@@ -59,9 +65,7 @@ HostKeys::HostKeys(SimHost& host, QToolBar& bar)
 }
 
 void HostKeys::record() {
-    const bool isDouble = m_sinceRecord.isValid() && m_sinceRecord.elapsed() < QApplication::doubleClickInterval();
-    m_sinceRecord.start();
-    if (isDouble) return;
+    if (m_sinceRecord.isValid() && m_sinceRecord.elapsed() < QApplication::doubleClickInterval()) return;
     SimRecorder& recorder = m_host.recorder();
     const int state = recorder.getRecordingState();
     if (state != m_shownState) {
@@ -69,9 +73,11 @@ void HostKeys::record() {
     } else if (state == zeb::RecordError) {
         // Only the host has a way out of it.
         recorder.cancel();
-    } else if (!sendToActivePlugin(m_host.appStatus(), "signalRecord")) {
+    } else if (!sendToActivePlugin(m_host.appStatus(), "signalRecord") && isViewerInFront(m_host)) {
         recorder.press();
     }
+    // From its end on, for a second press may have waited that long.
+    m_sinceRecord.start();
 }
 
 void HostKeys::disconnectAll() {
@@ -99,6 +105,9 @@ void HostKeys::refresh() {
     const bool hasCameras = !m_host.docManager().getConnectedDocKeys().isEmpty();
     m_record->setText(recordText(isLive ? state : int(zeb::RecordLive)));
     m_record->setEnabled(isLive && hasCameras && state != zeb::RecordCtsReady);
-    m_cancel->setEnabled(state != zeb::RecordLive);
+    const auto cameras = m_host.cameras().all();
+    m_cancel->setEnabled(std::any_of(cameras.begin(), cameras.end(), [](const Camera* camera) {
+        return camera->get(&CameraState::recordState) != zeb::RecordLive;
+    }));
     m_disconnect->setEnabled(hasCameras);
 }

@@ -30,7 +30,8 @@ void SaveDesk::save(bool layout) {
     }
     const SaveSources sources = saveSources(m_host.cameras());
     const std::vector<SaveTrack> tracks = layout ? tracksOfLayout(sources, uiText("Layout")) : tracksOfEach(sources);
-    const QList<AbsentCamera> absent = m_shoot.absent();
+    QList<AbsentCamera> absent = m_shoot.absent();
+    for (const QString& line : m_host.recorder().lost()) absent.append({{}, false, line});
     if (tracks.empty()) {
         QStringList lines;
         for (const AbsentCamera& camera : absent) lines << absentText(camera);

@@ -8,7 +8,7 @@
 #include "saving/SaveTrack.h"
 
 #include <QDialogButtonBox>
-#include <QDir>
+#include <QDirIterator>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
@@ -16,6 +16,13 @@
 #include <QStyle>
 #include <QTableWidget>
 #include <QVBoxLayout>
+
+namespace {
+
+/// A folder of very many files would hold up every key typed.
+constexpr int MostCounted = 1000;
+
+}  // namespace
 
 SaveDialog::SaveDialog(Preferences& prefs, const std::vector<SaveTrack>& tracks, const QList<AbsentCamera>& absent,
                        QWidget* parent)
@@ -58,8 +65,14 @@ void SaveDialog::fillNotice() {
 
 void SaveDialog::follow() {
     m_save->setEnabled(m_target->isComplete());
-    const uint files = m_target->isComplete() ? QDir(m_target->folder(), {}, QDir::Unsorted, QDir::Files).count() : 0;
-    m_files->setText(uiText("Files that are in this folder already: %1").arg(files));
+    int files = 0;
+    QDirIterator folder(m_target->folder(), QDir::Files);
+    while (m_target->isComplete() && files < MostCounted && folder.hasNext()) {
+        folder.next();
+        ++files;
+    }
+    const QString count = QString::number(files) + (files == MostCounted ? QStringLiteral("+") : QString());
+    m_files->setText(uiText("Files that are in this folder already: %1").arg(count));
     m_notice->setVisible(files > 0);
 }
 

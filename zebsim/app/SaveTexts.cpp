@@ -13,7 +13,7 @@ QString outcomeText(const SaveOutcome& outcome, const SaveOrders& orders) {
     switch (outcome.end) {
         case SaveOutcome::Gone:
         case SaveOutcome::Disconnected:
-            return absentText({name, outcome.end == SaveOutcome::Gone});
+            return absentText({name, outcome.end == SaveOutcome::Gone, outcome.reason});
         case SaveOutcome::Saved:
             return uiText("%1: %2 frames saved in %3").arg(name, saved, QDir::toNativeSeparators(orders.folder));
         case SaveOutcome::CameraLost:
@@ -34,6 +34,7 @@ QString outcomeText(const SaveOutcome& outcome, const SaveOrders& orders) {
 }
 
 QString absentText(const AbsentCamera& camera) {
+    if (!camera.lost.isEmpty()) return camera.lost;
     const QString text =
         camera.gone ? uiText("%1: the camera has disappeared.") : uiText("%1: the camera was disconnected.");
     return text.arg(camera.name) % QLatin1Char(' ') % uiText("Its recording is not saved.");

@@ -119,6 +119,8 @@ void ViewerWindow::refresh() {
                                          [](const Camera* camera) { return camera->get(&CameraState::connected); });
     m_cameras->setText(uiText("%1 cameras, %2 connected").arg(cameras.size()).arg(connected));
     m_modes->actions().at(m_host.getOperatingMode())->setChecked(true);
+    // In another mode nobody could stop the cameras.
+    m_modes->setEnabled(!m_host.recorder().isUnderWay());
     const QString style = styleName(m_host);
     const QList<QAction*> styles = m_styles->actions();
     for (QAction* action : styles) action->setChecked(action->objectName() == style);

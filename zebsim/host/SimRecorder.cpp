@@ -53,6 +53,9 @@ SimRecorder::SimRecorder(Journal& journal, const Clock& clock, const CameraBank&
             }) {}
 
 int SimRecorder::getRecStatus(const DocKeyList& keys) const {
+    if (m_owedEnd) {
+        return zeb::RecordRecording;
+    }
     const QList<QPair<QString, zeb::RecordStatus>> states{{QStringLiteral("IsRecordingError"), zeb::RecordError},
                                                           {QStringLiteral("IsRecording"), zeb::RecordRecording},
                                                           {QStringLiteral("IsReady"), zeb::RecordReady},
@@ -133,6 +136,9 @@ bool SimRecorder::endByCancel() {
     // Whoever cancels knows that it is over.
     if (std::exchange(m_owedEnd, std::nullopt).value_or(false)) {
         Q_EMIT m_events.somethingRecorded();
+        m_notices.add(
+            Message::Info,
+            QStringLiteral("The recording was ended. The cameras keep what they have; memory mode shows it."));
     }
     return true;
 }

@@ -27,8 +27,8 @@ public:
                 const StatusFlags& flags, SimAppStatus& appStatus, HostEvents& events, UpdateCycle& updates,
                 const Translator& translator, Notices& notices);
 
-    /// As the flags tell, and without one as the cameras asked about stand together when the recording was last brought
-    /// up to the clock: a question alone ends nothing.
+    /// Recording until its end is told; else as the flags tell, and without one as the cameras asked about stand
+    /// together when the recording was last brought up to the clock: a question alone ends nothing.
     int getRecStatus(const DocKeyList& keys) const override;
     int getRecordingState() const override;
     void startRecReady() override;
@@ -37,6 +37,8 @@ public:
     void stopRecording() override;
     void cancelRecording(bool recording) override;
     bool isRecording() const override { return getRecordingState() == zeb::RecordRecording; }
+    /// A line for each camera that has nothing of the last recording in which others have something.
+    const QStringList& lost() const { return m_run.lost(); }
     /// Whether cameras are armed or record.
     bool isUnderWay() const;
 

@@ -1160,6 +1160,10 @@
         <translation>Clear error</translation>
     </message>
     <message>
+        <source>The recording was ended. The cameras keep what they have; memory mode shows it.</source>
+        <translation>The recording was ended. The cameras keep what they have; memory mode shows it.</translation>
+    </message>
+    <message>
         <source>Cameras are armed or recording. Disconnect all the same?</source>
         <translation>Cameras are armed or recording. Disconnect all the same?</translation>
     </message>

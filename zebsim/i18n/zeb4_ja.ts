@@ -1160,6 +1160,10 @@
         <translation>エラー解除</translation>
     </message>
     <message>
+        <source>The recording was ended. The cameras keep what they have; memory mode shows it.</source>
+        <translation>撮影を終了しました。撮影済みの画像はカメラに残っています。メモリモードで確認できます。</translation>
+    </message>
+    <message>
         <source>Cameras are armed or recording. Disconnect all the same?</source>
         <translation>撮影準備中または撮影中のカメラがあります。切断しますか？</translation>
     </message>

@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <exception>
+#include <future>
 #include <utility>
 
 namespace {
@@ -23,8 +24,8 @@ RecordRun::RecordRun(const CameraBank& cameras, const Clock& clock, Listener lis
 
 RecordRun::~RecordRun() = default;
 
-std::vector<std::shared_ptr<Camera>> RecordRun::camerasIn(const std::function<bool(int state)>& wanted) const {
-    std::vector<std::shared_ptr<Camera>> cameras;
+RecordRun::Cameras RecordRun::camerasIn(const std::function<bool(int state)>& wanted) const {
+    Cameras cameras;
     for (const Camera* camera : m_cameras.all()) {
         if (camera->get(&CameraState::connected) && wanted(camera->get(&CameraState::recordState))) {
             cameras.push_back(m_cameras.hold(camera->key()));
@@ -44,26 +45,40 @@ RecordRun::Part& RecordRun::partOf(const std::shared_ptr<Camera>& camera) {
     return m_parts.back();
 }
 
-bool RecordRun::tried(const std::function<void()>& command) {
-    try {
-        command();
-        return true;
-    } catch (const std::exception& failure) {
-        m_failures.append(QString::fromUtf8(failure.what()));
-        return false;
+/// The cameras take their time side by side. Answers what was wrong with each; nothing when it has done it.
+QStringList RecordRun::commandAll(const Cameras& cameras, void (Camera::*command)()) {
+    std::vector<std::future<QString>> answers;
+    for (const auto& camera : cameras) {
+        answers.push_back(std::async(std::launch::async, [camera, command] {
+            try {
+                (*camera.*command)();
+                return QString();
+            } catch (const std::exception& failure) {
+                return QString::fromUtf8(failure.what());
+            }
+        }));
     }
+    QStringList reasons;
+    for (auto& answer : answers) {
+        reasons.append(answer.get());
+        if (!reasons.last().isEmpty()) {
+            m_failures.append(reasons.last());
+        }
+    }
+    return reasons;
 }
 
 void RecordRun::arm() {
-    for (const auto& camera : camerasIn([](int state) { return !isArmed(state) && state != zeb::RecordRecording; })) {
-        Part& part = partOf(camera);
-        part = {camera, {}, 0, 0, false, false};
-        if (tried([&] { camera->arm(); })) {
-            part.readyAt = m_clock.now() + camera->model().ctsReady;
-        } else {
-            part.over = true;
-            camera->enterRecordState(zeb::RecordError);
-        }
+    if (m_parts.empty()) {
+        m_lost.clear();
+    }
+    const Cameras cameras = camerasIn([](int state) { return !isArmed(state) && state != zeb::RecordRecording; });
+    const QStringList reasons = commandAll(cameras, &Camera::arm);
+    for (std::size_t i = 0; i < cameras.size(); ++i) {
+        Part& part = partOf(cameras[i]);
+        part = {cameras[i], {}, 0, 0, false, false};
+        part.readyAt = m_clock.now() + cameras[i]->model().ctsReady;
+        drop(part, reasons.at(int(i)));
     }
     m_changed = true;
     const bool isEmpty = m_parts.empty();
@@ -76,32 +91,43 @@ void RecordRun::arm() {
 void RecordRun::trigger(bool withAreas) {
     proceed();
     const qint64 now = m_clock.now();
-    for (const auto& camera : camerasIn([](int state) { return state == zeb::RecordReady; })) {
+    const Cameras cameras = camerasIn([](int state) { return state == zeb::RecordReady; });
+    for (const auto& camera : cameras) {
         Part& part = partOf(camera);
         part.settings = RecordSettings::of(camera->state(), camera->model());
         if (!withAreas) {
             part.settings.area = {};
         }
-        if (tried([&] { camera->trigger(); })) {
-            part.triggeredAt = now;
-            part.triggered = true;
-        } else {
-            part.over = true;
-            camera->enterRecordState(zeb::RecordError);
-        }
+        part.triggeredAt = now;
+        part.triggered = true;
+    }
+    const QStringList reasons = commandAll(cameras, &Camera::trigger);
+    for (std::size_t i = 0; i < cameras.size(); ++i) {
+        drop(partOf(cameras[i]), reasons.at(int(i)));
     }
     m_changed = true;
     tell();
 }
 
+/// A camera with which something was wrong, for a `reason`, takes no part.
+void RecordRun::drop(Part& part, const QString& reason) {
+    if (!reason.isEmpty()) {
+        m_lost.append(reason);
+        part.over = true;
+        part.triggered = false;
+        enter(part, zeb::RecordError);
+    }
+}
+
 void RecordRun::stop() {
     proceed();
     const qint64 now = m_clock.now();
-    for (const auto& camera : camerasIn([](int state) { return state == zeb::RecordRecording; })) {
-        Part& part = partOf(camera);
+    const Cameras cameras = camerasIn([](int state) { return state == zeb::RecordRecording; });
+    const QStringList reasons = commandAll(cameras, &Camera::stop);
+    for (std::size_t i = 0; i < cameras.size(); ++i) {
         // One that can't be stopped goes on until its memory is full.
-        if (tried([&] { camera->stop(); }) && !camera->isGone()) {
-            end(part, now, zeb::RecordLive);
+        if (reasons.at(int(i)).isEmpty() && !cameras[i]->isGone()) {
+            end(partOf(cameras[i]), now, zeb::RecordLive);
         }
     }
     tell();
@@ -109,23 +135,28 @@ void RecordRun::stop() {
 
 void RecordRun::cancel() {
     const qint64 now = m_clock.now();
-    for (const auto& camera : camerasIn([](int state) { return state != zeb::RecordLive; })) {
-        Part& part = partOf(camera);
-        const int state = tried([&] { camera->cancel(); }) ? zeb::RecordLive : zeb::RecordError;
+    const Cameras cameras = camerasIn([](int state) { return state != zeb::RecordLive; });
+    const QStringList reasons = commandAll(cameras, &Camera::cancel);
+    for (std::size_t i = 0; i < cameras.size(); ++i) {
+        Part& part = partOf(cameras[i]);
+        const int state = reasons.at(int(i)).isEmpty() ? zeb::RecordLive : zeb::RecordError;
         if (part.over) {
             enter(part, state);
-        } else {
+        } else if (!cameras[i]->isGone()) {
             end(part, now, state);
         }
     }
-    const bool recorded = hasRecorded();
-    m_parts.clear();
-    m_changed = true;
-    tell();
-    m_listener.ended(recorded);
+    // Those that the command has not reached.
+    for (Part& part : m_parts) {
+        if (!part.over) {
+            proceed(part, now);
+        }
+    }
+    finish();
 }
 
 void RecordRun::abandon() {
+    m_lost.clear();
     if (!std::exchange(m_parts, {}).empty()) {
         m_listener.ended(false);
     }
@@ -174,6 +205,9 @@ void RecordRun::record(Part& part, qint64 now) {
         m_failures.append(m_listener.translate(QStringLiteral("%1. The recording ended early with %2 frames."))
                               .arg(QString::fromUtf8(failure.what()))
                               .arg(kept ? kept->frameCount() : 0));
+        if (!kept) {
+            m_lost.append(m_failures.last());
+        }
         return;
     }
     if (camera.isGone()) {
@@ -189,6 +223,7 @@ void RecordRun::miss(Part& part, const QString& why) {
                                         : QStringLiteral("It does not take part in the recording.");
     m_failures.append(m_listener.translate(why).arg(part.camera->name()) + QLatin1Char(' ') +
                       m_listener.translate(loss));
+    m_lost.append(m_failures.last());
     part.over = true;
     part.triggered = false;
     m_changed = true;
@@ -215,15 +250,20 @@ void RecordRun::tell() {
         m_listener.failed(std::exchange(m_failures, {}).join(QLatin1Char('\n')));
     }
     const bool isOver = std::all_of(m_parts.begin(), m_parts.end(), [](const Part& part) { return part.over; });
-    if (m_parts.empty() || !isOver) {
-        return;
+    if (!m_parts.empty() && isOver) {
+        finish();
     }
-    const bool recorded = hasRecorded();
-    m_parts.clear();
-    m_listener.ended(recorded);
 }
 
-bool RecordRun::hasRecorded() const {
-    return std::any_of(m_parts.begin(), m_parts.end(),
-                       [](const Part& part) { return part.triggered && part.camera->get(&CameraState::recorded); });
+void RecordRun::finish() {
+    const bool recorded = std::any_of(m_parts.begin(), m_parts.end(), [](const Part& part) {
+        return part.triggered && part.camera->get(&CameraState::recorded);
+    });
+    m_parts.clear();
+    if (!recorded) {
+        m_lost.clear();
+    }
+    m_changed = true;
+    tell();
+    m_listener.ended(recorded);
 }

@@ -46,6 +46,8 @@ public:
     void abandon();
     /// Does what was due up to this time of the clock: cameras become ready, fill their memory, or are missed.
     void proceed();
+    /// A line for each camera that has nothing of the last recording in which others have something.
+    const QStringList& lost() const { return m_lost; }
 
 private:
     struct Part {
@@ -57,10 +59,12 @@ private:
         bool over = false;
     };
 
-    std::vector<std::shared_ptr<Camera>> camerasIn(const std::function<bool(int state)>& wanted) const;
+    using Cameras = std::vector<std::shared_ptr<Camera>>;
+
+    Cameras camerasIn(const std::function<bool(int state)>& wanted) const;
     Part& partOf(const std::shared_ptr<Camera>& camera);
-    /// False when `command` failed; its reason stands in the lines then.
-    bool tried(const std::function<void()>& command);
+    QStringList commandAll(const Cameras& cameras, void (Camera::*command)());
+    void drop(Part& part, const QString& reason);
     void proceed(Part& part, qint64 now);
     void record(Part& part, qint64 now);
     /// The camera takes no part any more and keeps nothing of this recording. `why` has its place for the name.
@@ -70,12 +74,14 @@ private:
     void enter(Part& part, int recordState);
     /// Tells what has gathered.
     void tell();
-    bool hasRecorded() const;
+    /// No part goes on.
+    void finish();
 
     const CameraBank& m_cameras;
     const Clock& m_clock;
     const Listener m_listener;
     std::vector<Part> m_parts;
     QStringList m_failures;
+    QStringList m_lost;
     bool m_changed = false;
 };

@@ -12,6 +12,8 @@ struct AbsentCamera {
     QString name;
     /// It has vanished; else it was disconnected.
     bool gone = false;
+    /// Nothing was recorded at all, and why, with the name.
+    QString lost = {};
 };
 
 /// What the cameras kept of the last recording, wherever they are by now. GUI thread.

@@ -28,7 +28,8 @@ qint64 pixelsOf(const QSize& size) {
 SaveJob::SaveJob(const CameraBank& cameras, SaveOrders orders, std::function<qint64(const QString& folder)> freeSpace)
     : m_cameras(cameras), m_orders(std::move(orders)), m_freeSpace(std::move(freeSpace)), m_claims(m_orders.ask) {
     for (const AbsentCamera& camera : m_orders.absent) {
-        m_outcomes.append({camera.name, camera.gone ? SaveOutcome::Gone : SaveOutcome::Disconnected, 0, 0, 0, {}, {}});
+        const auto end = camera.gone ? SaveOutcome::Gone : SaveOutcome::Disconnected;
+        m_outcomes.append({camera.name, end, 0, 0, 0, {}, camera.lost});
     }
     m_timer.setSingleShot(true);
     connect(&m_timer, &QTimer::timeout, this, &SaveJob::turn);
