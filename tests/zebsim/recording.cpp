@@ -253,6 +253,18 @@ TEST_F(RecordingTest, KeepsOfASharePreciselyThatShare) {
     triggerAll();
     pass(100000);
     EXPECT_EQ(recorded(2), "0..8191 trigger 0") << "areas are out of use";
+    EXPECT_EQ(messages(), "");
+    host.appStatus().enterMode(zeb::LiveMode);
+    host.prefs().setValue("recording/area", true);
+    test.camera(2).set(&CameraState::recordArea, {9000, 9001});
+    triggerAll();
+    pass(100000);
+    EXPECT_EQ(messages(), "Camera 2: no frame of its record area was recorded.");
+    EXPECT_EQ(host.recorder().lost(), QStringList{"Camera 2: no frame of its record area was recorded."});
+    host.appStatus().enterMode(zeb::LiveMode);
+    armAll();
+    host.recorder().cancelRecording(false);
+    EXPECT_EQ(host.recorder().lost().size(), 1) << "the recording that can be saved is still that one";
 }
 
 TEST_F(RecordingTest, RandomTriggersFillTheMemoryUnlessTheyAreCounted) {

@@ -8,6 +8,7 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QDialog>
 #include <QToolBar>
 
 #include <algorithm>
@@ -30,10 +31,17 @@ QString recordText(int state) {
     }
 }
 
-/// A list or a notice of the table's is not the table, but no reason to record without its checks.
-bool isViewerInFront(const SimHost& host) {
-    const QWidget* active = QApplication::activeWindow();
-    return active == nullptr || active == host.getMainWindow();
+/// A list of the table's is not the table, but no reason to record without its checks.
+bool isPluginInFront(SimHost& host) {
+    const QList<PLG_Interface*> plugins = host.appStatus().plugins();
+    for (const QWidget* window = QApplication::activeWindow(); window != nullptr; window = window->parentWidget()) {
+        if (std::any_of(plugins.begin(), plugins.end(), [window](PLG_Interface* plugin) {
+                return plugin->getDialog(false) == static_cast<const QObject*>(window);
+            })) {
+            return true;
+        }
+    }
+    return false;
 }
 
 bool hasOpenDialog(PLG_Interface* plugin) {
@@ -73,7 +81,7 @@ void HostKeys::record() {
     } else if (state == zeb::RecordError) {
         // Only the host has a way out of it.
         recorder.cancel();
-    } else if (!sendToActivePlugin(m_host.appStatus(), "signalRecord") && isViewerInFront(m_host)) {
+    } else if (!sendToActivePlugin(m_host.appStatus(), "signalRecord") && !isPluginInFront(m_host)) {
         recorder.press();
     }
     // From its end on, for a second press may have waited that long.
@@ -107,7 +115,7 @@ void HostKeys::refresh() {
     m_record->setEnabled(isLive && hasCameras && state != zeb::RecordCtsReady);
     const auto cameras = m_host.cameras().all();
     m_cancel->setEnabled(std::any_of(cameras.begin(), cameras.end(), [](const Camera* camera) {
-        return camera->get(&CameraState::recordState) != zeb::RecordLive;
+        return camera->get(&CameraState::connected) && camera->get(&CameraState::recordState) != zeb::RecordLive;
     }));
     m_disconnect->setEnabled(hasCameras);
 }

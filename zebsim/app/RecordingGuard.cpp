@@ -8,7 +8,9 @@
 bool mayLetGoOfRecording(SimHost& host, const QString& question) {
     if (!host.recorder().isUnderWay()) return true;
     const ButtonTexts answers{{QMessageBox::Yes, uiText("Yes")}, {QMessageBox::No, uiText("No")}};
-    const bool agreed = host.choose(question, nullptr, answers, QMessageBox::No) == QMessageBox::Yes;
-    // The recording may have ended meanwhile: what has been recorded was not what the question was about.
-    return agreed && host.recorder().isUnderWay();
+    if (host.choose(question, nullptr, answers, QMessageBox::No) != QMessageBox::Yes) return false;
+    // What has been recorded by now was not what the question was about.
+    if (host.recorder().isUnderWay()) return true;
+    host.info(uiText("The recording has ended meanwhile. Nothing was done."), nullptr);
+    return false;
 }

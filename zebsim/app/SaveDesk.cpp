@@ -29,7 +29,11 @@ void SaveDesk::save(bool layout) {
         return;
     }
     const SaveSources sources = saveSources(m_host.cameras());
-    const std::vector<SaveTrack> tracks = layout ? tracksOfLayout(sources, uiText("Layout")) : tracksOfEach(sources);
+    std::vector<SaveTrack> tracks = layout ? tracksOfLayout(sources, uiText("Layout")) : tracksOfEach(sources);
+    for (SaveTrack& track : tracks) {
+        const bool isEarlier = !layout && m_shoot.isEarlier(track.sources.front().recording());
+        if (isEarlier) track.name = uiText("%1 (earlier recording)").arg(track.name);
+    }
     QList<AbsentCamera> absent = m_shoot.absent();
     for (const QString& line : m_host.recorder().lost()) absent.append({{}, false, line});
     if (tracks.empty()) {

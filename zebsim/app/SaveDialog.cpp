@@ -105,7 +105,7 @@ void SaveDialog::addTracks(QTableWidget& table, const std::vector<SaveTrack>& tr
         for (const SaveSource& source : track.sources) {
             const int row = table.rowCount();
             table.insertRow(row);
-            table.setItem(row, 0, new QTableWidgetItem(source.name()));
+            table.setItem(row, 0, new QTableWidgetItem(track.isLayout ? source.name() : track.name));
             const QList<qint64> numbers = {source.frame(0).number, source.frame(source.frames() - 1).number,
                                            source.frames()};
             for (int i = 0; i < numbers.size(); ++i) {

@@ -39,6 +39,7 @@ SimRecorder::SimRecorder(Journal& journal, const Clock& clock, const CameraBank&
       m_flags(flags),
       m_appStatus(appStatus),
       m_events(events),
+      m_updates(updates),
       m_notices(notices),
       m_run(cameras, clock,
             RecordRun::Listener{
@@ -173,6 +174,8 @@ void SimRecorder::deliverEnd() {
     if (!recorded) {
         return;
     }
+    // It has been a recording for whoever asked.
+    m_updates.request();
     sendToPlugins(m_appStatus, "signalEndRecording");
     if (*recorded) {
         Q_EMIT m_events.somethingRecorded();

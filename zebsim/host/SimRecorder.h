@@ -66,6 +66,7 @@ private:
     const StatusFlags& m_flags;
     SimAppStatus& m_appStatus;
     HostEvents& m_events;
+    UpdateCycle& m_updates;
     Notices& m_notices;
     RecordRun m_run;
     /// An end that is still to be told, and whether something was recorded.

@@ -1160,6 +1160,18 @@
         <translation>Clear error</translation>
     </message>
     <message>
+        <source>%1: no frame of its record area was recorded.</source>
+        <translation>%1: no frame of its record area was recorded.</translation>
+    </message>
+    <message>
+        <source>The recording has ended meanwhile. Nothing was done.</source>
+        <translation>The recording has ended meanwhile. Nothing was done.</translation>
+    </message>
+    <message>
+        <source>%1 (earlier recording)</source>
+        <translation>%1 (earlier recording)</translation>
+    </message>
+    <message>
         <source>The recording was ended. The cameras keep what they have; memory mode shows it.</source>
         <translation>The recording was ended. The cameras keep what they have; memory mode shows it.</translation>
     </message>

@@ -1160,6 +1160,18 @@
         <translation>エラー解除</translation>
     </message>
     <message>
+        <source>%1: no frame of its record area was recorded.</source>
+        <translation>%1: 記録範囲のフレームは記録されていません。</translation>
+    </message>
+    <message>
+        <source>The recording has ended meanwhile. Nothing was done.</source>
+        <translation>その間に撮影が終了しました。何も行いませんでした。</translation>
+    </message>
+    <message>
+        <source>%1 (earlier recording)</source>
+        <translation>%1（以前の撮影）</translation>
+    </message>
+    <message>
         <source>The recording was ended. The cameras keep what they have; memory mode shows it.</source>
         <translation>撮影を終了しました。撮影済みの画像はカメラに残っています。メモリモードで確認できます。</translation>
     </message>

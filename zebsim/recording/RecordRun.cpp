@@ -7,10 +7,12 @@
 #include <algorithm>
 #include <exception>
 #include <future>
+#include <system_error>
 #include <utility>
 
 namespace {
 
+const QString TakesNoPart = QStringLiteral("It does not take part in the recording.");
 const QString HasDisappeared = QStringLiteral("%1: the camera has disappeared.");
 
 bool isArmed(int state) {
@@ -27,8 +29,9 @@ RecordRun::~RecordRun() = default;
 RecordRun::Cameras RecordRun::camerasIn(const std::function<bool(int state)>& wanted) const {
     Cameras cameras;
     for (const Camera* camera : m_cameras.all()) {
-        if (camera->get(&CameraState::connected) && wanted(camera->get(&CameraState::recordState))) {
-            cameras.push_back(m_cameras.hold(camera->key()));
+        const auto held = m_cameras.hold(camera->key());
+        if (held && held->get(&CameraState::connected) && wanted(held->get(&CameraState::recordState))) {
+            cameras.push_back(held);
         }
     }
     return cameras;
@@ -49,14 +52,20 @@ RecordRun::Part& RecordRun::partOf(const std::shared_ptr<Camera>& camera) {
 QStringList RecordRun::commandAll(const Cameras& cameras, void (Camera::*command)()) {
     std::vector<std::future<QString>> answers;
     for (const auto& camera : cameras) {
-        answers.push_back(std::async(std::launch::async, [camera, command] {
+        const auto work = [camera, command] {
             try {
                 (*camera.*command)();
                 return QString();
             } catch (const std::exception& failure) {
                 return QString::fromUtf8(failure.what());
             }
-        }));
+        };
+        try {
+            answers.push_back(std::async(std::launch::async, work));
+        } catch (const std::system_error&) {
+            // No further thread is to be had, so this camera waits for its turn.
+            answers.push_back(std::async(std::launch::deferred, work));
+        }
     }
     QStringList reasons;
     for (auto& answer : answers) {
@@ -69,9 +78,6 @@ QStringList RecordRun::commandAll(const Cameras& cameras, void (Camera::*command
 }
 
 void RecordRun::arm() {
-    if (m_parts.empty()) {
-        m_lost.clear();
-    }
     const Cameras cameras = camerasIn([](int state) { return !isArmed(state) && state != zeb::RecordRecording; });
     const QStringList reasons = commandAll(cameras, &Camera::arm);
     for (std::size_t i = 0; i < cameras.size(); ++i) {
@@ -112,7 +118,7 @@ void RecordRun::trigger(bool withAreas) {
 /// A camera with which something was wrong, for a `reason`, takes no part.
 void RecordRun::drop(Part& part, const QString& reason) {
     if (!reason.isEmpty()) {
-        m_lost.append(reason);
+        m_losses.append(reason % QStringLiteral(". ") % m_listener.translate(TakesNoPart));
         part.over = true;
         part.triggered = false;
         enter(part, zeb::RecordError);
@@ -157,6 +163,7 @@ void RecordRun::cancel() {
 
 void RecordRun::abandon() {
     m_lost.clear();
+    m_losses.clear();
     if (!std::exchange(m_parts, {}).empty()) {
         m_listener.ended(false);
     }
@@ -205,9 +212,6 @@ void RecordRun::record(Part& part, qint64 now) {
         m_failures.append(m_listener.translate(QStringLiteral("%1. The recording ended early with %2 frames."))
                               .arg(QString::fromUtf8(failure.what()))
                               .arg(kept ? kept->frameCount() : 0));
-        if (!kept) {
-            m_lost.append(m_failures.last());
-        }
         return;
     }
     if (camera.isGone()) {
@@ -219,11 +223,10 @@ void RecordRun::record(Part& part, qint64 now) {
 }
 
 void RecordRun::miss(Part& part, const QString& why) {
-    const QString loss = part.triggered ? QStringLiteral("Its recording is lost.")
-                                        : QStringLiteral("It does not take part in the recording.");
+    const QString loss = part.triggered ? QStringLiteral("Its recording is lost.") : TakesNoPart;
     m_failures.append(m_listener.translate(why).arg(part.camera->name()) + QLatin1Char(' ') +
                       m_listener.translate(loss));
-    m_lost.append(m_failures.last());
+    m_losses.append(m_failures.last());
     part.over = true;
     part.triggered = false;
     m_changed = true;
@@ -231,7 +234,13 @@ void RecordRun::miss(Part& part, const QString& why) {
 
 void RecordRun::end(Part& part, qint64 now, int recordState) {
     if (part.triggered) {
-        part.camera->keep(part.settings.recording(part.triggeredAt - part.readyAt, now - part.triggeredAt));
+        const auto recording = part.settings.recording(part.triggeredAt - part.readyAt, now - part.triggeredAt);
+        part.camera->keep(recording);
+        if (!recording) {
+            const QString text = QStringLiteral("%1: no frame of its record area was recorded.");
+            m_failures.append(m_listener.translate(text).arg(part.camera->name()));
+            m_losses.append(m_failures.last());
+        }
     }
     part.over = true;
     enter(part, recordState);
@@ -260,8 +269,9 @@ void RecordRun::finish() {
         return part.triggered && part.camera->get(&CameraState::recorded);
     });
     m_parts.clear();
-    if (!recorded) {
-        m_lost.clear();
+    const QStringList losses = std::exchange(m_losses, {});
+    if (recorded) {
+        m_lost = losses;
     }
     m_changed = true;
     tell();

@@ -82,6 +82,8 @@ private:
     const Listener m_listener;
     std::vector<Part> m_parts;
     QStringList m_failures;
+    /// Of the run under way, and of the last one that left something.
+    QStringList m_losses;
     QStringList m_lost;
     bool m_changed = false;
 };

@@ -17,6 +17,10 @@ void LastShoot::begin() {
     }
 }
 
+bool LastShoot::isEarlier(const Recording& recording) const {
+    return m_last > 0 && recording.serial <= m_before;
+}
+
 QList<AbsentCamera> LastShoot::absent() const {
     QList<AbsentCamera> absent;
     for (const Camera* camera : m_cameras.known()) {

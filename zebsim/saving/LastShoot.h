@@ -4,6 +4,7 @@
 #include <QObject>
 #include <QString>
 
+struct Recording;
 class CameraBank;
 class HostEvents;
 
@@ -24,6 +25,8 @@ public:
     /// `cameras` must outlive the object. It knows of recordings that end while it lives.
     LastShoot(const CameraBank& cameras, const HostEvents& events);
 
+    /// Whether `recording` was there before the last one that this object knows of.
+    bool isEarlier(const Recording& recording) const;
     /// The cameras that hold something of it and are not connected any more, in the order of their keys.
     QList<AbsentCamera> absent() const;
 

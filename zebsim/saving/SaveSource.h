@@ -17,6 +17,7 @@ public:
 
     DOCKEY key() const { return m_key; }
     const QString& name() const { return m_state.name; }
+    const Recording& recording() const { return m_recording; }
     QSize resolution() const { return frame(0).resolution; }
     int frames() const { return static_cast<int>(m_recording.selectedCount()); }
     /// What the range's frame number `index`, from 0 on, shows.
