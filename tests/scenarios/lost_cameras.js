@@ -95,6 +95,11 @@ check(zeb.camera(4).recordCheck, 'and the others can still be edited');
 start();
 arm();
 trigger();
+zeb.mode('live');
+check(zeb.until("$('#tabs').tabs('option', 'active') < 5 && $('#timeline_rec_exec:enabled').length === 1"), 'once more');
+zeb.fault(5, 'arm', { throws: 'too hot' });
+arm();
+trigger();
 OTHERS.concat(VICTIM).forEach(key => zeb.setCamera(key, { recordCheck: true }));
 zeb.page('wrentabledialog.setSelectStartFrameNo([1, 2, 3, 4, 5, 6, 7, 8], -1); return 0');
 zeb.page('wrentabledialog.setSelectEndFrameNo([1, 2, 3, 4, 5, 6, 7, 8], 1); return 0');
@@ -104,7 +109,9 @@ zeb.save({ format: 'png' });
 zeb.click('button.save-files');
 const results = zeb.results();
 const lost = results.filter(line => !/: [23] frames saved in/.test(line));
-check(results.length === 8 && lost.length === 2 && /: the camera has disappeared. Its recording is not saved.$/.test(lost[0]) &&
-    /^Nozzle: camera lost.* 2 frames not saved/.test(lost[1]),
+check(results.length === 9 && lost.length === 3 && /: the camera has disappeared. Its recording is not saved.$/.test(lost[0]) &&
+    /: too hot. It does not take part in the recording.$/.test(lost[1]) && /^Nozzle: camera lost.* 2 frames not saved/.test(lost[2]),
     'one that goes before or while it is saved is named in the list, the others are saved: ' + results.join(' / '));
+check(results.filter(line => /\(earlier recording\): 3 frames saved in/.test(line)).length === 1,
+    'frames of an earlier recording are marked');
 check(zeb.close(), 'the table closes');

@@ -113,6 +113,15 @@ TEST_F(ViewerTest, RecordsByItsOwnKeyUnlessAPluginIsInFront) {
     plugin.dialog.reset();
     key("disconnectAll")->trigger();
     EXPECT_TRUE(host.docManager().getConnectedDocKeys().isEmpty());
+    host.cameras().find(1)->connect();
+    host.updates().request();
+    settle();
+    key("record")->trigger();
+    settle();
+    EXPECT_FALSE(key("mode1")->isEnabled()) << "nobody could stop the cameras from there";
+    host.cameras().find(1)->disconnect();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return key("record")->text() == "Record"; })) << "nothing is left of it";
+    EXPECT_TRUE(key("mode1")->isEnabled());
     QApplication::setDoubleClickInterval(usual);
 }
 
