@@ -21,6 +21,7 @@ RecordSettings RecordSettings::of(const CameraState& state, const CameraModel& m
 
 int RecordSettings::framesBefore() const {
     const int most = std::max(0, capacity - 1);
+    const int manual = std::clamp(capacity - triggerFrame, 0, most);
     switch (mode) {
         case zeb::TriggerEnd:
             return most;
@@ -33,13 +34,11 @@ int RecordSettings::framesBefore() const {
         case zeb::TriggerTwostageOneeighth:
             return capacity / 8;
         case zeb::TriggerManual:
-            return std::clamp(capacity - triggerFrame, 0, most);
+            return manual;
         case zeb::TriggerRandomCenter:
             return randomGroup() / 2;
         case zeb::TriggerRandomManual:
-            return capacity > 0 ? static_cast<int>(qint64(randomGroup()) *
-                                                   std::clamp(capacity - triggerFrame, 0, most) / capacity)
-                                : 0;
+            return capacity > 0 ? static_cast<int>(qint64(randomGroup()) * manual / capacity) : 0;
         default:
             return 0;
     }
