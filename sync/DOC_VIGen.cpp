@@ -2,15 +2,15 @@
 
 #include "DOC_Exception.h"
 #include "GUI_MarqueeProgressDialog.h"
-#include "LogFailure.h"
 #include "VIGenThread.h"
 #include "VisaLibrary.h"
 #include "ZebHost.h"
 #include "vi.h"
 
-#include <algorithm>
-#include <cmath>
+#include <QDebug>
+
 #include <limits>
+#include <stdexcept>
 
 namespace {
 
@@ -19,23 +19,22 @@ QString tcpResource(unsigned int address) {
     return QStringLiteral("TCPIP0::%1.%2.%3.%4::inst0::INSTR").arg(octet(24), octet(16), octet(8), octet(0));
 }
 
-/// Instruments answer with an exponent, and with a number beyond all integers when they have none.
+/// Instruments answer with an exponent, and with 9.91E37 when they have no number.
 int wholeHertz(QString reply) {
     bool isNumber = false;
     const float hertz = reply.remove(QLatin1Char('\n')).toFloat(&isNumber);
-    if (!isNumber || std::isnan(hertz))
-        throw std::runtime_error(QString("The answer to FREQ? is no number: " % reply).toStdString());
-    using Limits = std::numeric_limits<int>;
-    return static_cast<int>(std::clamp<double>(hertz, Limits::min(), Limits::max()));
+    const bool isFrequency = isNumber && hertz >= 0 && double(hertz) <= std::numeric_limits<int>::max();
+    if (!isFrequency) throw std::runtime_error(QString("The answer to FREQ? is no frequency: " % reply).toStdString());
+    return static_cast<int>(hertz);
 }
 
 /// Runs questions or commands; what the instrument refuses is told by `message`, and in detail by the log.
 template <typename Work>
-auto talk(const QString& message, Work&& work) {
+auto talk(const QString& message, const QString& resource, Work&& work) {
     try {
         return work();
-    } catch (const std::exception&) {
-        logCurrentFailure();
+    } catch (const std::exception& e) {
+        qCritical() << "Signal generator" << resource << QString::fromUtf8(e.what());
         throw DOC_Exception(message);
     }
 }
@@ -49,10 +48,10 @@ DOC_VIGen::~DOC_VIGen() {
 bool DOC_VIGen::connect(int type, unsigned int address) {
     if (isConnected()) return true;
     disconnect();
-    const QString resource = type == 0 ? tcpResource(address) : QString();
+    m_resource = type == 0 ? tcpResource(address) : QString();
     GUI_MarqueeProgressDialog dialog(m_host, m_host->translate(QStringLiteral("Searching")) % QStringLiteral("..."), {},
                                      false);
-    VIGenThread thread([resource] { return vi::open(resource); });
+    VIGenThread thread([resource = m_resource] { return vi::open(resource); });
     thread.attachDialog(&dialog);
     dialog.execThread(thread);
     m_connected = thread.result();
@@ -75,7 +74,9 @@ bool DOC_VIGen::isConnected() {
 }
 
 bool DOC_VIGen::isSupported() const {
-    const QStringList parts = getIdentity().split(QLatin1Char(','));
+    const QString identity = getIdentity();
+    qInfo() << "Signal generator" << m_resource << identity;
+    const QStringList parts = identity.split(QLatin1Char(','));
     return parts.size() == 4 && m_supportedModels.contains(parts.at(1));
 }
 
@@ -87,7 +88,7 @@ QString DOC_VIGen::getIdentity() const {
 
 void DOC_VIGen::setFrequency(int hertz) {
     if (!m_connected) return;
-    talk(QStringLiteral("Failed sync to signal generator"), [hertz] {
+    talk(QStringLiteral("Failed sync to signal generator"), m_resource, [hertz] {
         vi::sendCommandString(QStringLiteral("*RST\n"));
         vi::clear();
         for (const QString& command : {
@@ -124,7 +125,7 @@ QList<int> DOC_VIGen::getFrequencies() const {
 
 int DOC_VIGen::getFrequency() const {
     if (!m_connected) return 0;
-    return talk(QStringLiteral("Failed getFrequency"), [] {
+    return talk(QStringLiteral("Failed getFrequency"), m_resource, [] {
         vi::sendCommandString(QStringLiteral("FREQ?\n"));
         return wholeHertz(vi::recvString());
     });

@@ -29,6 +29,8 @@ public:
 
 private:
     ZebHost* const m_host;
+    /// Of the last `connect`, for the log.
+    QString m_resource;
     bool m_connected = false;
     bool m_driverLoaded = false;
     const QStringList m_supportedModels{QStringLiteral("33210A")};

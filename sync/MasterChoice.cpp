@@ -57,7 +57,11 @@ DOC_Interface* chooseMaster(ZebHost& host, const DocList& docs) {
         master = docOf(found->key);
     } else {
         DOC_Interface* first = candidates.isEmpty() ? docs.first() : docOf(candidates.first().key);
-        master = first->getHeadDocs(0).value(0);
+        const DocList heads = first->getHeadDocs(0);
+        // A head that is off leads nobody.
+        const auto on =
+            std::find_if(heads.begin(), heads.end(), [](DOC_Interface* head) { return head->isConnected(); });
+        master = on != heads.end() ? *on : first;
     }
     if (master != nullptr) qInfo() << "masterAddress" << master->control().getAddress(1);
     return master;

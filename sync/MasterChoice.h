@@ -12,8 +12,8 @@ QList<SyncCamera> masterCandidates(const QList<SyncCamera>& cameras, int trigger
 /// The same of documents; asks for the trigger mode only when it decides. May throw what the documents throw.
 QList<SyncCamera> masterCandidates(const DocList& docs);
 
-/// The camera that leads: the one that the user prefers, or the first head of the first that can. Null without cameras,
-/// and outside live mode. May throw what host and documents throw.
+/// The camera that leads: the one that the user prefers, or the first connected head of the first that can. Null
+/// without cameras, and outside live mode. May throw what host and documents throw.
 DOC_Interface* chooseMaster(ZebHost& host, const DocList& docs);
 
 /// The cameras that the user can choose a master from, as JSON. May throw what host and documents throw.

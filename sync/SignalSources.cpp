@@ -1,8 +1,10 @@
 #include "SignalSources.h"
 
+#include "CycleFailures.h"
 #include "DOC_Control.h"
 #include "DOC_Interface.h"
 #include "DOC_VIGen.h"
+#include "FailureText.h"
 #include "LogFailure.h"
 #include "SyncCamera.h"
 #include "SyncPreferences.h"
@@ -59,7 +61,8 @@ void SignalSources::openGenerator() {
     if (!generator.isConnected())
         throw UTL_Exception(m_host.translate(QStringLiteral("Could not connect with signal generator")));
     if (!generator.isSupported())
-        throw UTL_Exception(m_host.translate(QStringLiteral("can not be connected because unsupported device.")));
+        throw UTL_Exception(m_host.translate(QStringLiteral("can not be connected because unsupported device.")) %
+                            QStringLiteral(" (") % generator.getIdentity().trimmed() % QLatin1Char(')'));
     if (m_state.frequency < 1) return;
     const SignalOffer offer = SignalOffer::of(generator.getFrequency(), generator.getFrequencies());
     if (needsFrequency(m_state.frequency, offer)) generator.setFrequency(m_state.frequency);
@@ -78,11 +81,14 @@ void SignalSources::openHubs() {
     if (!syncprefs::isExternal(m_host) || m_state.generator || syncprefs::port(m_host) != zeb::SyncPortHub) return;
     ZebSignalDevices& devices = m_host.signalDevices();
     devices.close();
-    const int wanted = syncprefs::hubAddresses(m_host).size();
-    if (wanted == 0) return;
+    const QStringList wanted = syncprefs::hubAddresses(m_host);
+    if (wanted.isEmpty()) return;
     devices.open(1);
-    if (devices.search(3, 1) != wanted)
-        throw UTL_Exception(m_host.translate(QStringLiteral("Failed to connect to Sync Hub")));
+    if (devices.search(3, 1) != wanted.size()) {
+        const QStringList missing = missingHubs();
+        throw UTL_Exception(m_host.translate(QStringLiteral("Failed to connect to Sync Hub")) % QStringLiteral(" (") %
+                            (missing.isEmpty() ? wanted : missing).join(QStringLiteral(", ")) % QLatin1Char(')'));
+    }
     if (m_state.frequency < 1) return;
     for (ZebSignalDevice* hub : masterHubs()) {
         if (needsFrequency(m_state.frequency, SignalOffer::of(hub->getFrequency(), hub->getFrequencies())))
@@ -104,19 +110,44 @@ bool SignalSources::isGeneratorConnected() const {
     return m_state.generator && m_state.generator->isConnected();
 }
 
+template <typename Ask>
+bool SignalSources::ask(const QString& address, const char* question, Ask&& ask) const {
+    const QString source = QStringLiteral("hub %1 %2").arg(address, QLatin1String(question));
+    try {
+        ZebSignalDevice* hub = m_host.signalDevices().findByAddress(address);
+        if (hub != nullptr && hub->isConnected()) ask(*hub);
+        if (m_state.failures != nullptr) m_state.failures->whole(source);
+        return true;
+    } catch (...) {
+        const QString text = currentFailureText();
+        const QString named = text.contains(address) ? text : QString(address % QStringLiteral(": ") % text);
+        if (m_state.failures != nullptr) m_state.failures->failed(source, named);
+        return false;
+    }
+}
+
 bool SignalSources::isHubConnected() const {
     const QStringList addresses = syncprefs::hubAddresses(m_host);
     return std::any_of(addresses.begin(), addresses.end(), [this](const QString& address) {
-        const ZebSignalDevice* hub = m_host.signalDevices().findByAddress(address);
-        return hub != nullptr && hub->isConnected();
+        bool connected = false;
+        ask(address, "connection", [&connected](ZebSignalDevice&) { connected = true; });
+        return connected;
     });
+}
+
+QStringList SignalSources::missingHubs() const {
+    QStringList missing = syncprefs::hubAddresses(m_host);
+    for (const QString& address : syncprefs::hubAddresses(m_host))
+        ask(address, "connection", [&](ZebSignalDevice&) { missing.removeAll(address); });
+    return missing;
 }
 
 QList<ZebSignalDevice*> SignalSources::masterHubs() const {
     QList<ZebSignalDevice*> hubs;
     for (const QString& address : syncprefs::hubAddresses(m_host)) {
-        ZebSignalDevice* hub = m_host.signalDevices().findByAddress(address);
-        if (hub != nullptr && hub->isConnected() && hub->getRole() == zeb::HubRoleMaster) hubs.append(hub);
+        ask(address, "role", [&hubs](ZebSignalDevice& hub) {
+            if (hub.getRole() == zeb::HubRoleMaster) hubs.append(&hub);
+        });
     }
     return hubs;
 }
@@ -125,11 +156,18 @@ SignalOffer SignalSources::readGenerator() const {
     return SignalOffer::of(m_state.generator->getFrequency(), m_state.generator->getFrequencies());
 }
 
-SignalOffer SignalSources::readHub() const {
-    if (!syncprefs::isExternal(m_host) || !syncprefs::usesHubs(m_host)) return {};
-    const QList<ZebSignalDevice*> hubs = masterHubs();
-    if (hubs.isEmpty()) return {};
-    return SignalOffer::of(hubs.first()->getFrequency(), hubs.first()->getFrequencies());
+std::optional<SignalOffer> SignalSources::readHub() const {
+    if (!syncprefs::isExternal(m_host) || !syncprefs::usesHubs(m_host)) return SignalOffer();
+    bool all = true;
+    for (const QString& address : syncprefs::hubAddresses(m_host)) {
+        std::optional<SignalOffer> offer;
+        const bool answered = ask(address, "signal", [&offer](ZebSignalDevice& hub) {
+            if (hub.getRole() == zeb::HubRoleMaster) offer = SignalOffer::of(hub.getFrequency(), hub.getFrequencies());
+        });
+        if (offer) return offer;
+        all = all && answered;
+    }
+    return all ? std::optional(SignalOffer()) : std::nullopt;
 }
 
 bool SignalSources::givesFrequency() const {

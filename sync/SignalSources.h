@@ -3,6 +3,9 @@
 #include "SignalChoice.h"
 
 #include <QList>
+#include <QStringList>
+
+#include <optional>
 
 class DOC_Interface;
 class ZebHost;
@@ -14,7 +17,8 @@ inline const QString SignalDiffersText = QStringLiteral("External sync signal an
 
 /// Where the common signal comes from: a signal generator, or the Sync Hub that makes it. GUI thread.
 ///
-/// A look at the generator costs a question to the instrument. All operations but the two that connect may throw what
+/// A look at the generator costs a question to the instrument. A hub that does not answer a question counts as not
+/// connected, and its failure goes into the state's `failures`. All operations but the two that connect may throw what
 /// the host and its devices throw.
 class SignalSources {
 public:
@@ -34,8 +38,9 @@ public:
     bool isHubConnected() const;
     /// The generator must be connected.
     SignalOffer readGenerator() const;
-    /// Of the first hub that makes the signal; nothing without one.
-    SignalOffer readHub() const;
+    /// Of the first hub that makes the signal and tells it; empty without one. Nothing when a hub did not answer, which
+    /// may be the one.
+    std::optional<SignalOffer> readHub() const;
 
     /// Whether the cameras' rates have a frequency to agree with. One look answers for all cameras.
     bool givesFrequency() const;
@@ -49,8 +54,14 @@ private:
     void openGenerator();
     void openHubs();
     void dropGenerator();
+    /// Asks the hub with that address, if it is there and connected. False when it did not answer. `question` tells one
+    /// question to a hub from another.
+    template <typename Ask>
+    bool ask(const QString& address, const char* question, Ask&& ask) const;
     /// The hubs that are there and make the signal, in the order of their addresses.
     QList<ZebSignalDevice*> masterHubs() const;
+    /// Of the hubs that the preferences name those that are not there or not connected.
+    QStringList missingHubs() const;
 
     ZebHost& m_host;
     SyncState& m_state;

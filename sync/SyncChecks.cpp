@@ -48,8 +48,11 @@ void checkFitness(const ZebHost& host, const DocList& docs) {
     const int triggerMode = docs.first()->control().getTriggerMode();
     for (DOC_Interface* doc : docs) {
         const DOC_Control& control = doc->control();
-        const bool supported = capable.contains(control.getCameraType());
-        failFor(syncObstacle({supported, control.getTriggerMode(), control.isLowLightMode()}, triggerMode), host);
+        SyncFitness fitness{capable.contains(control.getCameraType()), triggerMode, false};
+        // A camera that is unfit already is asked nothing more.
+        if (fitness.supported) fitness.triggerMode = control.getTriggerMode();
+        if (syncObstacle(fitness, triggerMode).isEmpty()) fitness.lowLight = control.isLowLightMode();
+        failFor(syncObstacle(fitness, triggerMode), host);
     }
     if (areMixed(SyncCamera::readAll(docs))) failFor(mixedExposureObstacle(triggerMode), host);
 }

@@ -78,28 +78,27 @@ SyncView SyncSettings::look() {
     view.hubAvailable = !view.generatorAvailable && syncprefs::usesHubs(m_host);
     view.hubConnected = view.hubAvailable && m_sources.isHubConnected();
     if (!view.generatorConnected && !view.hubConnected) return view;
-    const SignalOffer offer = view.generatorConnected ? m_sources.readGenerator() : m_sources.readHub();
-    view.signal = chooseSignal(m_state.offered, m_state.frequency, offer);
-    m_state.frequency = view.signal.frequency;
+    const std::optional<SignalOffer> offer = view.generatorConnected ? m_sources.readGenerator() : m_sources.readHub();
+    view.signal = chooseSignal(m_state.offered, m_state.frequency, offer.value_or(SignalOffer()));
+    // A hub that did not answer for once takes nothing from what the user has chosen.
+    if (offer) m_state.frequency = view.signal.frequency;
     return view;
 }
 
 SyncSettings::Outcome SyncSettings::synchronise() {
     if (!syncprefs::isInUse(m_host)) return Outcome::NotStarted;
     checkSyncCapability(m_host);
-    ZebDocManager& documents = m_host.docManager();
-    DocList docs = withoutDummies(documents.getCameraDocs());
-    if (docs.isEmpty()) return Outcome::NotStarted;
-    if (!m_host.cameraOps().canSync(docs)) {
-        qWarning() << "Cameras can't be synchronised:" << keysOf(docs);
-        return Outcome::NotStarted;
-    }
+    DocList docs = withoutDummies(m_host.docManager().getCameraDocs());
+    if (!canSync(docs)) return Outcome::NotStarted;
 
     const DocKeyList keys = keysOf(docs);
     step("connectSignalGenerator", {}, [this] { m_sources.connectGenerator(); });
     step("connectSignalDistributors", {}, [this] { m_sources.connectHubs(); });
-    // Both may have waited for an answer, and the cameras have changed meanwhile.
-    docs = connectedDocs(documents, keys);
+    // Both may have waited for an answer, and the cameras are others meanwhile, or record by now.
+    if (!syncprefs::isInUse(m_host)) return Outcome::NotStarted;
+    checkSyncCapability(m_host);
+    docs = connectedDocs(m_host.docManager(), keys);
+    if (!canSync(docs)) return Outcome::NotStarted;
     DOC_Interface* master = chooseMaster(m_host, docs);
     m_state.masterCamera = master != nullptr ? master->getKey() : zeb::NoDocKey;
     if (master == nullptr) return Outcome::NotStarted;
@@ -113,6 +112,13 @@ SyncSettings::Outcome SyncSettings::synchronise() {
     const bool done = GUI_SyncProgress(&m_host).run(thread);
     qInfo() << "GUI_SyncProgress result" << done;
     return done ? Outcome::Done : Outcome::Failed;
+}
+
+bool SyncSettings::canSync(const DocList& docs) const {
+    if (docs.isEmpty()) return false;
+    const bool can = m_host.cameraOps().canSync(docs);
+    if (!can) qWarning() << "Cameras can't be synchronised:" << keysOf(docs);
+    return can;
 }
 
 SYNC_PARAMS SyncSettings::readParams() const {

@@ -39,6 +39,8 @@ public:
     void remindOfWiring();
 
 private:
+    /// Whether the host takes these cameras; never none.
+    bool canSync(const DocList& docs) const;
     SYNC_PARAMS readParams() const;
     DocList sorted(const DocList& docs, DOC_Interface& master, bool external);
 

@@ -7,6 +7,8 @@
 
 #include <memory>
 
+class CycleFailures;
+
 /// What is remembered of the common signal between two calls.
 struct SyncState {
     /// Hertz of the signal, which a camera's record rate is compared with; 0 or below when none is chosen.
@@ -19,4 +21,6 @@ struct SyncState {
     bool connecting = false;
     /// The master camera of the last synchronisation.
     DOCKEY masterCamera = zeb::NoDocKey;
+    /// Takes what a hub does not answer to a look; null: nobody is told. Not owned.
+    CycleFailures* failures = nullptr;
 };

@@ -6,6 +6,7 @@
 #include "DOC_Interface.h"
 #include "DOC_Lock.h"
 #include "DocKeys.h"
+#include "GatheredFailures.h"
 #include "LogFailure.h"
 #include "TableState.h"
 #include "ZebCameraOps.h"
@@ -171,15 +172,19 @@ void CameraManagement::prepareConnectedDocs(const DocList& docs) {
         return;
     }
     const bool lockColumn = m_host.getPrefBool(QStringLiteral("wren/display/lock"));
+    GatheredFailures failures;
     for (DOC_Interface* doc : docs) {
-        if (!doc->isConnected() || !isArmed(*doc)) {
-            continue;
-        }
-        m_state.recordRunning = true;
-        if (lockColumn && !doc->lock().isParamLocked()) {
-            doc->lock().setParamLock(true);
-        }
+        failures.attempt([&] {
+            if (!doc->isConnected() || !isArmed(*doc)) {
+                return;
+            }
+            m_state.recordRunning = true;
+            if (lockColumn && !doc->lock().isParamLocked()) {
+                doc->lock().setParamLock(true);
+            }
+        });
     }
+    failures.rethrow();
 }
 
 bool CameraManagement::mayBeSelected(DOC_Interface& doc) const {

@@ -3,6 +3,7 @@
 #include "DOC_Control.h"
 #include "DOC_Frames.h"
 #include "DOC_Interface.h"
+#include "GatheredFailures.h"
 #include "MasterChoice.h"
 #include "SyncPreferences.h"
 #include "SyncState.h"
@@ -39,20 +40,23 @@ FrameSkipChoice chooseFrameSkip(unsigned int rate, int frequency) {
     return {frequency / int(rate), false};
 }
 
-bool setDeviceSpeedPlaying(ZebHost& host, const SyncState& sync, const DocList& docs) {
-    const int frequency = referenceFrequency(host, sync);
+bool setDeviceSpeedPlaying(ZebHost& host, const SyncState& sync, const DocList& docs, GatheredFailures& failures) {
+    int frequency = sync.frequency;
+    failures.attempt([&] { frequency = referenceFrequency(host, sync); });
     bool fits = true;
     for (DOC_Interface* doc : docs) {
-        DOC_Frames& frames = doc->frames();
-        const FrameSkipChoice choice = chooseFrameSkip(doc->control().getRecordRate(0), frequency);
-        if (choice.skip) {
-            setFrameSkip(host, frames, *choice.skip);
-        } else if (choice.tooFast) {
-            fits = false;
-            if (frames.isFrameSkipEnabled() && frames.getFrameSkip() > 1) {
-                setFrameSkip(host, frames, 1);
+        failures.attempt([&] {
+            DOC_Frames& frames = doc->frames();
+            const FrameSkipChoice choice = chooseFrameSkip(doc->control().getRecordRate(0), frequency);
+            if (choice.skip) {
+                setFrameSkip(host, frames, *choice.skip);
+            } else if (choice.tooFast) {
+                fits = false;
+                if (frames.isFrameSkipEnabled() && frames.getFrameSkip() > 1) {
+                    setFrameSkip(host, frames, 1);
+                }
             }
-        }
+        });
     }
     return fits;
 }

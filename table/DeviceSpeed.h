@@ -4,6 +4,7 @@
 
 #include <optional>
 
+class GatheredFailures;
 class ZebHost;
 struct SyncState;
 
@@ -19,5 +20,5 @@ struct FrameSkipChoice {
 FrameSkipChoice chooseFrameSkip(unsigned int rate, int frequency);
 
 /// Sets the playing of the cameras to the speed of the signal that they are recorded with, or of the master of their
-/// chain. False when one of them is too fast for that. May throw what host and documents throw.
-bool setDeviceSpeedPlaying(ZebHost& host, const SyncState& sync, const DocList& docs);
+/// chain. False when one of them is too fast for that. A camera that fails keeps no other from it.
+bool setDeviceSpeedPlaying(ZebHost& host, const SyncState& sync, const DocList& docs, GatheredFailures& failures);

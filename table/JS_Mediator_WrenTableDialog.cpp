@@ -52,6 +52,7 @@ QString docKeyArg(DOCKEY dockey) {
 JS_Mediator_WrenTableDialog::JS_Mediator_WrenTableDialog(ZebHost* host, const QString& name, PLG_Interface* plugin,
                                                          QObject* parent)
     : JS_Mediator_ModelessPatternDialog(host, name, plugin, parent), m_timers(*host) {
+    m_state.sync.failures = &cycleFailures();
     qRegisterMetaType<DOCKEY>("DOCKEY");
     qRegisterMetaType<PARTITIONNUMBER>("PARTITIONNUMBER");
     QObject::connect(&m_timers, &UpdateTimers::tick, this, &JS_Mediator_WrenTableDialog::autoUpdate);
@@ -114,8 +115,8 @@ void JS_Mediator_WrenTableDialog::onClose() {
 }
 
 QString JS_Mediator_WrenTableDialog::getRecords(const QString& json) {
-    return bridgeCall(*this, QString(), [&] {
-        const RecordModel::Answer answer = RecordModel(host(), m_state).getRecords(json);
+    return queryCall(*this, __func__, QString(), [&] {
+        const RecordModel::Answer answer = RecordModel(host(), m_state).getRecords(json, cycleFailures());
         if (answer.selectionChanged) {
             updateUI();
             activateTable();
@@ -125,28 +126,30 @@ QString JS_Mediator_WrenTableDialog::getRecords(const QString& json) {
 }
 
 QString JS_Mediator_WrenTableDialog::getRecStatus() {
-    return bridgeCall(*this, QString(), [this] { return RecordModel(host(), m_state).getRecStatus(); });
+    return queryCall(*this, __func__, QStringLiteral("{}"),
+                     [this] { return RecordModel(host(), m_state).getRecStatus(); });
 }
 
 bool JS_Mediator_WrenTableDialog::isRecReady() {
-    return bridgeCall(*this, false, [this] { return RecordModel(host(), m_state).recordState() == zeb::RecordReady; });
+    return queryCall(*this, __func__, false,
+                     [this] { return RecordModel(host(), m_state).recordState() == zeb::RecordReady; });
 }
 
 bool JS_Mediator_WrenTableDialog::isRecording() {
-    return bridgeCall(*this, false,
-                      [this] { return RecordModel(host(), m_state).recordState() == zeb::RecordRecording; });
+    return queryCall(*this, __func__, false,
+                     [this] { return RecordModel(host(), m_state).recordState() == zeb::RecordRecording; });
 }
 
 QString JS_Mediator_WrenTableDialog::getGroups() {
-    return bridgeCall(*this, QString(), [this] { return RecordModel(host(), m_state).getGroups(); });
+    return queryCall(*this, __func__, QString(), [this] { return RecordModel(host(), m_state).getGroups(); });
 }
 
 QString JS_Mediator_WrenTableDialog::getGroup() {
-    return bridgeCall(*this, QString(), [this] { return RecordModel(host(), m_state).getGroup(); });
+    return queryCall(*this, __func__, QString(), [this] { return RecordModel(host(), m_state).getGroup(); });
 }
 
 int JS_Mediator_WrenTableDialog::getFilter() {
-    return bridgeCall(*this, 0, [this] { return RecordModel(host(), m_state).getFilter(); });
+    return queryCall(*this, __func__, 0, [this] { return RecordModel(host(), m_state).getFilter(); });
 }
 
 DOCKEY JS_Mediator_WrenTableDialog::getBatchDocKey() {
@@ -154,15 +157,16 @@ DOCKEY JS_Mediator_WrenTableDialog::getBatchDocKey() {
 }
 
 bool JS_Mediator_WrenTableDialog::isSuspendReduceMode(DOCKEY dockey) {
-    return bridgeCall(*this, false, [&] { return RecordModel(host(), m_state).isSuspendReduceMode(dockey); });
+    return queryCall(*this, {__func__, dockey}, false,
+                     [&] { return RecordModel(host(), m_state).isSuspendReduceMode(dockey); });
 }
 
 PARTITIONNUMBER JS_Mediator_WrenTableDialog::getCurrentPartition() {
-    return bridgeCall(*this, PARTITIONNUMBER(0), [this] { return currentPartition(host()); });
+    return queryCall(*this, __func__, PARTITIONNUMBER(0), [this] { return currentPartition(host()); });
 }
 
 QString JS_Mediator_WrenTableDialog::getCurrentPartitionName() {
-    return bridgeCall(*this, QString(), [this] { return currentPartitionName(host()); });
+    return queryCall(*this, __func__, QString(), [this] { return currentPartitionName(host()); });
 }
 
 void JS_Mediator_WrenTableDialog::showLivePartition(int x, int y, int width, int height) {
@@ -182,7 +186,7 @@ void JS_Mediator_WrenTableDialog::hideSelectBox() {
 }
 
 bool JS_Mediator_WrenTableDialog::isShownSelectBox() {
-    return bridgeCall(*this, false, [this] {
+    return queryCall(*this, __func__, false, [this] {
         const GUI_WrenTableDialog* dialog = tableDialog();
         return dialog != nullptr && dialog->isPartitionBoxShown();
     });
@@ -308,7 +312,7 @@ void JS_Mediator_WrenTableDialog::setLowLightType(const QVariantList& keys, bool
 }
 
 QString JS_Mediator_WrenTableDialog::getSyncSettings() {
-    return bridgeCall(*this, QString(), [this] { return SyncSettings(host(), m_state.sync).look().toJson(); });
+    return queryCall(*this, __func__, QString(), [this] { return SyncSettings(host(), m_state.sync).look().toJson(); });
 }
 
 bool JS_Mediator_WrenTableDialog::setSyncSettings() {
@@ -346,7 +350,7 @@ void JS_Mediator_WrenTableDialog::setSignalFrequency(int freq) {
 }
 
 bool JS_Mediator_WrenTableDialog::checkDifferenceRecordRateAndExternalFrequency(DOC_Interface* doc) {
-    return bridgeCall(*this, true, [&] {
+    return queryCall(*this, __func__, true, [&] {
         const SignalSources signal(host(), m_state.sync);
         return doc == nullptr || !signal.givesFrequency() || signal.agreesWith(*doc);
     });
@@ -416,19 +420,19 @@ void JS_Mediator_WrenTableDialog::saveLayout() {
 }
 
 bool JS_Mediator_WrenTableDialog::isRecordDuringExporting() {
-    return bridgeCall(*this, false, [this] { return host().saver().isBgSaving(); });
+    return queryCall(*this, __func__, false, [this] { return host().saver().isBgSaving(); });
 }
 
 bool JS_Mediator_WrenTableDialog::isOtherPluginOpen() {
-    return bridgeCall(*this, false, [this] { return host().isOtherPluginOpen(); });
+    return queryCall(*this, __func__, false, [this] { return host().isOtherPluginOpen(); });
 }
 
 bool JS_Mediator_WrenTableDialog::getTriggerTesting() {
-    return bridgeCall(*this, false, [this] { return host().getTriggerTesting(); });
+    return queryCall(*this, __func__, false, [this] { return host().getTriggerTesting(); });
 }
 
 bool JS_Mediator_WrenTableDialog::isStopLive() {
-    return bridgeCall(*this, false, [this] {
+    return queryCall(*this, __func__, false, [this] {
         DOC_Interface* doc = host().docManager().getCurrentDoc();
         return doc != nullptr && doc->activity().isStopLive();
     });
@@ -443,7 +447,7 @@ void JS_Mediator_WrenTableDialog::enterMemoryMode() {
 }
 
 void JS_Mediator_WrenTableDialog::showReadyProgress() {
-    bridgeCall(*this, [this] {
+    queryCall(*this, __func__, [this] {
         if (m_readyProgress || !host().appStatus().isWrenRunning() || m_state.loadingRigx) {
             return;
         }
@@ -455,7 +459,7 @@ void JS_Mediator_WrenTableDialog::showReadyProgress() {
 }
 
 void JS_Mediator_WrenTableDialog::deleteReadyProgress() {
-    bridgeCall(*this, [this] { delete m_readyProgress; });
+    queryCall(*this, __func__, [this] { delete m_readyProgress; });
 }
 
 void JS_Mediator_WrenTableDialog::startAutoUpdate() {

@@ -4,6 +4,7 @@
 #include "DOC_Control.h"
 #include "DOC_Frames.h"
 #include "DOC_Interface.h"
+#include "GatheredFailures.h"
 #include "LogFailure.h"
 #include "ZebDocManager.h"
 #include "ZebHost.h"
@@ -15,7 +16,9 @@ namespace {
 /// A camera that does not answer has not been looked at, and keeps nobody from saving the others.
 bool needsNoQuestion(DOC_Interface& doc) {
     bool confirmed = false;
-    logFailure([&] { confirmed = doc.frames().getFrameCount(0, 0) == 0 || doc.frames().isRecordCheck(); });
+    logFailure([&] {
+        confirmed = !doc.isConnected() || doc.frames().getFrameCount(0, 0) == 0 || doc.frames().isRecordCheck();
+    });
     return confirmed;
 }
 
@@ -29,10 +32,10 @@ int clampedEnd(long long asked, int selectedStart, int last) {
     return int(std::min<long long>(std::max<long long>(asked, selectedStart), last));
 }
 
-void clearRecordChecks(ZebHost& host) {
+void clearRecordChecks(ZebHost& host, GatheredFailures& failures) {
     for (const DOCKEY key : host.docManager().getDocKeys()) {
         if (DOC_Interface* doc = host.docManager().getDocAny(key)) {
-            doc->frames().setRecordCheck(false);
+            failures.attempt([doc] { doc->frames().setRecordCheck(false); });
         }
     }
 }
@@ -112,9 +115,11 @@ void MemoryEditing::saveLayout() {
 
 bool MemoryEditing::userTakesUnchecked() {
     ZebDocManager& documents = m_host.docManager();
-    const DocList docs = connectedDocs(documents, documents.getConnectedDocKeys());
-    const bool complete =
-        std::all_of(docs.begin(), docs.end(), [](DOC_Interface* doc) { return needsNoQuestion(*doc); });
+    const DocKeyList keys = documents.getConnectedDocKeys();
+    const bool complete = std::all_of(keys.begin(), keys.end(), [&documents](DOCKEY key) {
+        DOC_Interface* doc = documents.getDoc(key, 1);
+        return doc == nullptr || needsNoQuestion(*doc);
+    });
     return complete || (m_host.confirm(m_host.translate(QStringLiteral(
                             "Do you want to save even though playback confirmation has not been completed?"))) &&
                         m_host.isMemoryMode());

@@ -5,6 +5,7 @@
 #include <functional>
 
 class DOC_Frames;
+class GatheredFailures;
 class ZebHost;
 
 /// What is to be kept of each camera's recording, and its saving. Memory mode only. GUI thread.
@@ -37,5 +38,5 @@ private:
 int clampedStart(long long asked, int first, int selectedEnd);
 int clampedEnd(long long asked, int selectedStart, int last);
 
-/// No recording counts as checked any more.
-void clearRecordChecks(ZebHost& host);
+/// No recording counts as checked any more. A camera that fails keeps no other from it.
+void clearRecordChecks(ZebHost& host, GatheredFailures& failures);

@@ -5,7 +5,10 @@
 #include "DOC_Frames.h"
 #include "DOC_Interface.h"
 #include "DOC_Lock.h"
+#include "DeviceAlerts.h"
 #include "DeviceSpeed.h"
+#include "GatheredFailures.h"
+#include "LogFailure.h"
 #include "MemoryEditing.h"
 #include "RecordProblems.h"
 #include "SignalSources.h"
@@ -13,14 +16,13 @@
 #include "SyncSettings.h"
 #include "TableState.h"
 #include "UTL_Messages.h"
+#include "ZebCycleFailure.h"
 #include "ZebDocManager.h"
 #include "ZebHost.h"
 #include "ZebRecorder.h"
 #include "ZebSaver.h"
 
 #include <QMessageBox>
-
-#include <algorithm>
 
 void RecordButton::press(const std::function<bool()>& synchronise) {
     if (!m_host.isLiveMode()) {
@@ -39,10 +41,15 @@ void RecordButton::press(const std::function<bool()>& synchronise) {
         default:
             return;
     }
-    if (areCamerasLocked() && userTakesProblems() && prepareSignal(synchronise) && canArm()) {
-        clearRecordChecks(m_host);
-        setAreas();
+    GatheredFailures failures;
+    if (areCamerasLocked() && userTakesProblems() && prepareSignal(synchronise, failures) && canArm()) {
+        clearRecordChecks(m_host, failures);
+        setAreas(failures);
         arm();
+        // The cameras are armed, and nobody may be kept from their trigger.
+        if (!failures.isEmpty()) {
+            m_host.errorHandler(ZebCycleFailure(failures.text().toStdString()));
+        }
     }
 }
 
@@ -56,9 +63,14 @@ void RecordButton::cancel() {
     }
 }
 
+/// One that does not tell whether it is connected is left to the problems.
 DocList RecordButton::connected() const {
     ZebDocManager& documents = m_host.docManager();
-    return connectedDocs(documents, documents.getConnectedDocKeys(1));
+    DocList docs;
+    for (const DOCKEY key : documents.getConnectedDocKeys(1)) {
+        logFailure([&] { docs += connectedDocs(documents, {key}); });
+    }
+    return docs;
 }
 
 bool RecordButton::canArm() const {
@@ -69,22 +81,44 @@ bool RecordButton::areCamerasLocked() {
     if (!m_host.getPrefBool(QStringLiteral("wren/display/lock"))) {
         return true;
     }
-    const DocList docs = connected();
-    if (std::all_of(docs.begin(), docs.end(), [](DOC_Interface* doc) { return doc->lock().isParamLocked(); })) {
+    GatheredFailures unread;
+    bool locked = true;
+    for (DOC_Interface* doc : connected()) {
+        unread.attempt([&] { locked = doc->lock().isParamLocked() && locked; });
+    }
+    if (locked && unread.isEmpty()) {
         return true;
     }
-    m_host.alert(m_host.translate(QStringLiteral("Lock all connected cameras.")), m_parent);
+    QStringList lines{m_host.translate(QStringLiteral("Lock all connected cameras."))};
+    if (!unread.isEmpty()) {
+        lines.append(unread.text());
+    }
+    m_host.alert(lines.join(QLatin1Char('\n')), m_parent);
     return false;
 }
 
 QStringList RecordButton::problems() const {
+    ZebDocManager& documents = m_host.docManager();
     const SignalSources signal(m_host, m_state.sync);
     const bool hasSignal = signal.givesFrequency();
     QList<CameraAlerts> cameras;
-    for (DOC_Interface* doc : connected()) {
-        const DOC_Interface* device = doc->getParentDoc();
-        cameras.append({doc->control().getCameraName(1), device != nullptr ? device->getAlerts() : QStringList(),
-                        doc->getAlerts(), hasSignal && !signal.agreesWith(*doc)});
+    for (const DOCKEY key : documents.getConnectedDocKeys(1)) {
+        DOC_Interface* doc = documents.getDoc(key, 1);
+        if (doc == nullptr) {
+            continue;
+        }
+        CameraAlerts camera;
+        GatheredFailures unread;
+        unread.attempt([&] {
+            if (doc->isConnected()) {
+                camera.cameraName = doc->control().getCameraName(1);
+                camera.device = alertsOfDevice(*doc);
+                camera.own = doc->getAlerts();
+                camera.differsFromSignal = hasSignal && !signal.agreesWith(*doc);
+            }
+        });
+        camera.own += unread.lines();
+        cameras.append(camera);
     }
     return problemLines(cameras, m_host.translate(SignalDiffersText));
 }
@@ -100,7 +134,7 @@ bool RecordButton::userTakesProblems() {
     return UTL_Messages::warnOkCancel(lines.join(QLatin1Char('\n')), m_host, m_parent, buttons) && canArm();
 }
 
-bool RecordButton::prepareSignal(const std::function<bool()>& synchronise) {
+bool RecordButton::prepareSignal(const std::function<bool()>& synchronise, GatheredFailures& failures) {
     if (!syncprefs::isInUse(m_host)) {
         return true;
     }
@@ -112,7 +146,7 @@ bool RecordButton::prepareSignal(const std::function<bool()>& synchronise) {
         }
     }
     if (m_host.getPrefBool(QStringLiteral("wren/settings/deviceSpeedPlaying")) &&
-        !setDeviceSpeedPlaying(m_host, m_state.sync, connected())) {
+        !setDeviceSpeedPlaying(m_host, m_state.sync, connected(), failures)) {
         m_host.warn(m_host.translate(QStringLiteral(
                         "There are some cameras that are not synchronized shooting because the shooting speed of the "
                         "device is faster than the sync frequency.")),
@@ -121,16 +155,18 @@ bool RecordButton::prepareSignal(const std::function<bool()>& synchronise) {
     return true;
 }
 
-void RecordButton::setAreas() {
+void RecordButton::setAreas(GatheredFailures& failures) {
     if (m_state.areas.isEmpty() || !m_host.docManager().isRecordAreaEnabled()) {
         return;
     }
     for (DOC_Interface* doc : connected()) {
-        const auto area = m_state.areas.constFind(int(doc->control().getRecordRate(0)));
-        if (area != m_state.areas.constEnd()) {
-            doc->frames().setRecordAreaStart(area->first);
-            doc->frames().setRecordAreaEnd(area->second);
-        }
+        failures.attempt([&] {
+            const auto area = m_state.areas.constFind(int(doc->control().getRecordRate(0)));
+            if (area != m_state.areas.constEnd()) {
+                doc->frames().setRecordAreaStart(area->first);
+                doc->frames().setRecordAreaEnd(area->second);
+            }
+        });
     }
 }
 

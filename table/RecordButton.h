@@ -2,15 +2,20 @@
 
 #include "ZebTypes.h"
 
+#include <QPointer>
+#include <QWidget>
+
 #include <functional>
 
-class QWidget;
+class GatheredFailures;
 class ZebHost;
 struct TableState;
 
 /// The buttons of recording: arm all connected cameras, trigger, stop, cancel. GUI thread.
 ///
-/// All may throw what host and documents throw, and run an event loop while they ask the user.
+/// All may throw what the host throws, and run an event loop while they ask the user. A camera that does not answer is
+/// named: before the arming as one that is not locked or has a problem, afterwards as one that goes on without a
+/// setting.
 class RecordButton {
 public:
     /// `parent` of the questions; null is the host's main window.
@@ -29,11 +34,11 @@ private:
     bool areCamerasLocked();
     bool userTakesProblems();
     QStringList problems() const;
-    bool prepareSignal(const std::function<bool()>& synchronise);
-    void setAreas();
+    bool prepareSignal(const std::function<bool()>& synchronise, GatheredFailures& failures);
+    void setAreas(GatheredFailures& failures);
     void arm();
 
     ZebHost& m_host;
     TableState& m_state;
-    QWidget* const m_parent;
+    const QPointer<QWidget> m_parent;
 };

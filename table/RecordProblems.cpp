@@ -14,7 +14,7 @@ QStringList problemLines(const QList<CameraAlerts>& cameras, const QString& sign
     QStringList lines;
     for (const CameraAlerts& camera : cameras) {
         const auto line = [&camera](const QString& problem) -> QString {
-            return camera.cameraName % QStringLiteral("・・") % problem;
+            return camera.cameraName.isEmpty() ? problem : camera.cameraName % QStringLiteral("・・") % problem;
         };
         for (const QString& alert : camera.device) {
             addOnce(lines, line(alert));

@@ -5,6 +5,7 @@
 
 /// What a camera has to say before it records.
 struct CameraAlerts {
+    /// Empty when it can't be read.
     QString cameraName;
     /// Of the device that the camera is a head of; empty without one.
     QStringList device;

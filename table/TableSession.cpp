@@ -6,6 +6,8 @@
 #include "DOC_Lock.h"
 #include "DocKeys.h"
 #include "DocumentGuard.h"
+#include "GatheredFailures.h"
+#include "LogFailure.h"
 #include "MemoryEditing.h"
 #include "SignalSources.h"
 #include "TableState.h"
@@ -15,11 +17,14 @@
 #include <QDebug>
 
 #include <algorithm>
+#include <utility>
 
 void TableSession::open() {
     m_state.group = QLatin1String(UnreadGroup);
-    clearLocks(false);
-    clearRecordChecks(m_host);
+    GatheredFailures failures;
+    clearLocks(false, failures);
+    clearRecordChecks(m_host, failures);
+    failures.rethrow();
 }
 
 void TableSession::takeAllConnected() {
@@ -41,7 +46,11 @@ void TableSession::followConnectedDocs() {
 void TableSession::loadDefaultSettings() {
     const DocList docs = connected();
     DocumentGuard guard(m_host, false, false);
-    const bool busy = std::any_of(docs.begin(), docs.end(), [](DOC_Interface* doc) { return isArmed(*doc); });
+    const bool busy = std::any_of(docs.begin(), docs.end(), [](DOC_Interface* doc) {
+        bool armed = false;
+        logFailure([&] { armed = isArmed(*doc); });
+        return armed;
+    });
     if (!m_host.isFileMode() && !busy) {
         const DefaultSettings settings = DefaultSettings::read(m_host);
         m_state.groups = settings.groups;
@@ -65,24 +74,27 @@ void TableSession::connectSignalSources() {
 }
 
 void TableSession::close() {
-    m_host.setPrefInt(QStringLiteral("wren/table/filter"), m_state.filter);
-    m_host.setPrefString(QStringLiteral("wren/table/group"), m_state.group);
-    if (m_state.savedRecAllConnected) {
-        m_host.setPrefBool(RecAllConnectedPref, *m_state.savedRecAllConnected);
-        m_state.savedRecAllConnected.reset();
+    GatheredFailures failures;
+    failures.attempt([this] { m_host.setPrefInt(QStringLiteral("wren/table/filter"), m_state.filter); });
+    failures.attempt([this] { m_host.setPrefString(QStringLiteral("wren/table/group"), m_state.group); });
+    if (const auto saved = std::exchange(m_state.savedRecAllConnected, std::nullopt)) {
+        failures.attempt([this, saved] { m_host.setPrefBool(RecAllConnectedPref, *saved); });
     }
-    clearLocks(true);
-    clearRecordChecks(m_host);
+    clearLocks(true, failures);
+    clearRecordChecks(m_host, failures);
+    failures.rethrow();
 }
 
-void TableSession::clearLocks(bool recordingToo) {
+void TableSession::clearLocks(bool recordingToo, GatheredFailures& failures) {
     for (const DOCKEY key : m_host.docManager().getDocKeys()) {
         DOC_Interface* doc = m_host.docManager().getDocAny(key);
         if (doc == nullptr) {
             continue;
         }
-        if (recordingToo || !isArmed(*doc)) {
-            doc->lock().setParamLock(false);
-        }
+        failures.attempt([&] {
+            if (recordingToo || !isArmed(*doc)) {
+                doc->lock().setParamLock(false);
+            }
+        });
     }
 }

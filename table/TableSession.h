@@ -2,10 +2,12 @@
 
 #include "ZebTypes.h"
 
+class GatheredFailures;
 class ZebHost;
 struct TableState;
 
-/// What an open table sets on host and cameras, and takes back when it closes. May throw what the host throws.
+/// What an open table sets on host and cameras, and takes back when it closes. May throw what the host throws. Opening
+/// and closing go over all cameras, whatever one of them fails at, and throw at their end.
 class TableSession {
 public:
     TableSession(ZebHost& host, TableState& state) : m_host(host), m_state(state) {}
@@ -21,7 +23,7 @@ public:
     void followConnectedDocs();
 
 private:
-    void clearLocks(bool recordingToo);
+    void clearLocks(bool recordingToo, GatheredFailures& failures);
     void connectSignalSources();
     DocList connected() const;
 

@@ -32,12 +32,6 @@ bool isBoundedByMemory(int mode) {
     }
 }
 
-void rethrow(const std::exception_ptr& failure) {
-    if (failure) {
-        std::rethrow_exception(failure);
-    }
-}
-
 }  // namespace
 
 void TriggerEditing::setTriggerMode(const DocKeyList& keys, const QString& val) {
@@ -54,7 +48,7 @@ void TriggerEditing::setTriggerMode(const DocKeyList& keys, const QString& val) 
 
 void TriggerEditing::setWithHostSettings(const DocList& docs, int mode) {
     if (!docs.isEmpty()) {
-        rethrow(send(docs, mode, m_host.cameraOps().getTriggerSettings()));
+        send(docs, mode, m_host.cameraOps().getTriggerSettings()).rethrow();
     }
 }
 
@@ -76,35 +70,28 @@ void TriggerEditing::applyTriggerMode(const DocList& docs, int mode) {
             invalid.append(doc->control().getCameraName(1) % QStringLiteral("・・") % reason);
         }
     }
-    const std::exception_ptr refusal = valid.isEmpty() ? nullptr : send(valid, mode, settings);
+    const GatheredFailures refusals = valid.isEmpty() ? GatheredFailures() : send(valid, mode, settings);
     // From here on documents may be others: a box stands.
     if (!invalid.isEmpty()) {
         m_host.alert(invalid.join(QLatin1Char('\n')), nullptr);
     }
-    rethrow(refusal);
+    refusals.rethrow();
 }
 
-/// Each command goes to all cameras, whatever one of them says to an earlier one; the first refusal comes back.
-std::exception_ptr TriggerEditing::send(const DocList& docs, int mode, const zeb::TriggerSettings& settings) {
+/// Each command goes to all cameras, whatever one of them says to an earlier one; answers what they have refused.
+GatheredFailures TriggerEditing::send(const DocList& docs, int mode, const zeb::TriggerSettings& settings) {
     ZebCameraOps& cameras = m_host.cameraOps();
-    std::exception_ptr refusal;
-    const auto attempt = [&refusal](const auto& command) {
-        try {
-            command();
-        } catch (...) {
-            refusal = refusal ? refusal : std::current_exception();
-        }
-    };
+    GatheredFailures refusals;
     const auto setMode = [&] {
         cameras.setTriggerMode(docs, settings.kind, mode, settings.reserved1, settings.reserved2,
                                settings.manualBeforePercent, settings.randomFrames, settings.randomTimes);
     };
-    attempt(setMode);
+    refusals.attempt(setMode);
     if (mode == zeb::TriggerRandom || mode == zeb::TriggerRandomReset) {
-        attempt([&] { cameras.setRandomTriggerPhase(docs, settings.randomTimes > 0); });
-        attempt(setMode);
+        refusals.attempt([&] { cameras.setRandomTriggerPhase(docs, settings.randomTimes > 0); });
+        refusals.attempt(setMode);
     }
-    return refusal;
+    return refusals;
 }
 
 /// A camera that does not offer the mode is left to say so itself.

@@ -1,10 +1,9 @@
 #pragma once
 
+#include "GatheredFailures.h"
 #include "ZebTypes.h"
 
 #include <QString>
-
-#include <exception>
 
 class ZebHost;
 
@@ -23,7 +22,7 @@ public:
 
 private:
     void setWithHostSettings(const DocList& docs, int mode);
-    std::exception_ptr send(const DocList& docs, int mode, const zeb::TriggerSettings& settings);
+    GatheredFailures send(const DocList& docs, int mode, const zeb::TriggerSettings& settings);
     bool fits(DOC_Interface& doc, int mode, const zeb::TriggerSettings& settings) const;
 
     ZebHost& m_host;

@@ -1,6 +1,8 @@
 #pragma once
 
 #include "BridgePause.h"
+#include "CycleFailures.h"
+#include "FailureText.h"
 #include "JS_Mediator.h"
 #include "OperationEventHandler.h"
 #include "TraceScope.h"
@@ -28,6 +30,42 @@ template <typename Result, typename Work>
 Result bridgeCall(JS_Mediator& bridge, Result fallback, Work&& work) {
     bridgeCall(bridge, [&] { fallback = std::forward<Work>(work)(); });
     return fallback;
+}
+
+/// Which question of a page: the slot and, where their answers fail apart from each other, its argument.
+struct Query {
+    Query(const char* method, QVariant arg = {}) : slot(method), argument(std::move(arg)) {}
+
+    QString source() const { return QLatin1String(slot) % QLatin1Char(' ') % argument.toString(); }
+
+    /// A literal.
+    const char* slot;
+    QVariant argument;
+};
+
+/// For what the update cycle asks. A failure comes again at every cycle while it lasts, so it is told when it is new
+/// and not again until the same question has had an answer.
+template <typename Result, typename Work>
+Result queryCall(JS_Mediator& bridge, const Query& query, Result fallback, Work&& work) {
+    const BridgePause pause(bridge);
+    CycleFailures& failures = bridge.cycleFailures();
+    try {
+        fallback = std::forward<Work>(work)();
+        if (!failures.isEmpty()) failures.whole(query.source());
+    } catch (...) {
+        failures.failed(query.source(), currentFailureText());
+    }
+    bridge.tellCycleFailures();
+    return fallback;
+}
+
+/// The same for what the cycle does without an answer.
+template <typename Work>
+void queryCall(JS_Mediator& bridge, const Query& query, Work&& work) {
+    queryCall(bridge, query, true, [&work] {
+        std::forward<Work>(work)();
+        return true;
+    });
 }
 
 /// For what changes cameras or the host. The page can get here inside another call only from an event loop that this

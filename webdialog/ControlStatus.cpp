@@ -1,9 +1,11 @@
 #include "ControlStatus.h"
 
+#include "CycleFailures.h"
 #include "DOC_Activity.h"
 #include "DOC_Interface.h"
 #include "DOC_Lock.h"
 #include "DOC_Storage.h"
+#include "FailureText.h"
 #include "PLG_Interface.h"
 #include "ZebAppStatus.h"
 #include "ZebCameraOps.h"
@@ -122,7 +124,7 @@ void addDocument(Status& status, ZebHost& host, DOC_Interface* doc) {
 
 }  // namespace
 
-QJsonObject controlStatus(ZebHost& host, DOC_Interface* doc) {
+QJsonObject controlStatus(ZebHost& host, DOC_Interface* doc, CycleFailures& failures) {
     Status status;
     addCounts(status, host);
     addRecording(status, host);
@@ -132,6 +134,13 @@ QJsonObject controlStatus(ZebHost& host, DOC_Interface* doc) {
     addWorks(status, host);
     addPlugins(status, host);
     addWindows(status, host);
-    addDocument(status, host, doc ? doc : host.docManager().getCurrentDoc());
+    const QString source = QStringLiteral("current document");
+    try {
+        addDocument(status, host, doc ? doc : host.docManager().getCurrentDoc());
+        failures.whole(source);
+    } catch (...) {
+        // One camera that does not answer rules no control of the others.
+        failures.failed(source, currentFailureText());
+    }
     return status;
 }

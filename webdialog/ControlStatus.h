@@ -1,5 +1,6 @@
 #pragma once
 
+class CycleFailures;
 class DOC_Interface;
 class QJsonObject;
 class ZebHost;
@@ -9,5 +10,6 @@ class ZebHost;
 // (tests/webdialog, tests/pages).
 
 /// The states of the application by which pages enable and disable their controls, each under its name.
-/// `doc` null stands for the current document. Throws what the host and the document throw.
-QJsonObject controlStatus(ZebHost& host, DOC_Interface* doc = nullptr);
+/// `doc` null stands for the current document. What that fails to answer is left out and goes into `failures`; throws
+/// what the host throws.
+QJsonObject controlStatus(ZebHost& host, DOC_Interface* doc, CycleFailures& failures);

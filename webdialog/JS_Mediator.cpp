@@ -19,6 +19,7 @@
 #include "TextResource.h"
 #include "TraceText.h"
 #include "ZebAppStatus.h"
+#include "ZebCycleFailure.h"
 #include "ZebDocManager.h"
 #include "ZebHost.h"
 #include "ZebMdi.h"
@@ -59,6 +60,11 @@ void JS_Mediator::reportCurrentFailure() noexcept {
     });
 }
 
+void JS_Mediator::tellCycleFailures() noexcept {
+    const QString news = m_cycleFailures.takeNew();
+    if (!news.isEmpty()) logFailure([&] { host().errorHandler(ZebCycleFailure(news.toStdString())); });
+}
+
 void JS_Mediator::errorHandler(std::exception& e) {
     host().errorHandler(e);
 }
@@ -74,7 +80,7 @@ void JS_Mediator::setStyle(const QString& style) {
 }
 
 QString JS_Mediator::getStyle() {
-    return bridgeCall(*this, QString(), [&] { return styleName(host()); });
+    return queryCall(*this, __func__, QString(), [&] { return styleName(host()); });
 }
 
 void JS_Mediator::openPlugin(const QString& name) {
@@ -122,38 +128,39 @@ bool JS_Mediator::confirm(const QString& message) {
 }
 
 QString JS_Mediator::translate(const QString& string) {
-    return bridgeCall(*this, QString(), [&] { return host().translate(string); });
+    return queryCall(*this, {__func__, string}, QString(), [&] { return host().translate(string); });
 }
 
 QString JS_Mediator::translate(const QString& string, const QString& arg) {
-    return bridgeCall(*this, QString(), [&] { return host().translate(string).arg(host().translate(arg)); });
+    return queryCall(*this, {__func__, string}, QString(),
+                     [&] { return host().translate(string).arg(host().translate(arg)); });
 }
 
 bool JS_Mediator::isReady() {
-    return bridgeCall(*this, false, [&] { return host().isReady(); });
+    return queryCall(*this, __func__, false, [&] { return host().isReady(); });
 }
 
 bool JS_Mediator::isLiveMode() {
-    return bridgeCall(*this, false, [&] { return host().isLiveMode(); });
+    return queryCall(*this, __func__, false, [&] { return host().isLiveMode(); });
 }
 
 bool JS_Mediator::isMemoryMode() {
-    return bridgeCall(*this, false, [&] { return host().isMemoryMode(); });
+    return queryCall(*this, __func__, false, [&] { return host().isMemoryMode(); });
 }
 
 bool JS_Mediator::isFileMode() {
-    return bridgeCall(*this, false, [&] { return host().isFileMode(); });
+    return queryCall(*this, __func__, false, [&] { return host().isFileMode(); });
 }
 
 bool JS_Mediator::isPlaying() {
-    return bridgeCall(*this, false, [&] {
+    return queryCall(*this, __func__, false, [&] {
         DOC_Interface* doc = host().docManager().getCurrentDoc();
         return doc && doc->frames().isPlaying();
     });
 }
 
 bool JS_Mediator::isConnected() {
-    return bridgeCall(*this, false, [&] {
+    return queryCall(*this, __func__, false, [&] {
         const DOC_Interface* doc = host().docManager().getCurrentDoc();
         return doc && doc->isConnected();
     });
@@ -179,19 +186,19 @@ void JS_Mediator::addPrefsJSObject() {
 }
 
 int JS_Mediator::getPrefInt(const QString& name, const QVariant& defaultValue) {
-    return bridgeCall(*this, 0, [&] { return host().getPrefInt(name, defaultValue); });
+    return queryCall(*this, {__func__, name}, 0, [&] { return host().getPrefInt(name, defaultValue); });
 }
 
 bool JS_Mediator::getPrefBool(const QString& name, const QVariant& defaultValue) {
-    return bridgeCall(*this, false, [&] { return host().getPrefBool(name, defaultValue); });
+    return queryCall(*this, {__func__, name}, false, [&] { return host().getPrefBool(name, defaultValue); });
 }
 
 float JS_Mediator::getPrefFloat(const QString& name, const QVariant& defaultValue) {
-    return bridgeCall(*this, 0.0F, [&] { return host().getPrefFloat(name, defaultValue); });
+    return queryCall(*this, {__func__, name}, 0.0F, [&] { return host().getPrefFloat(name, defaultValue); });
 }
 
 QString JS_Mediator::getPrefString(const QString& name, const QVariant& defaultValue) {
-    return bridgeCall(*this, QString(), [&] { return host().getPrefString(name, defaultValue); });
+    return queryCall(*this, {__func__, name}, QString(), [&] { return host().getPrefString(name, defaultValue); });
 }
 
 template <typename Store>
@@ -260,8 +267,9 @@ void JS_Mediator::errorLog(const QString& msg) {
 }
 
 QString JS_Mediator::getControlStatus(DOC_Interface* pDoc) {
-    return bridgeCall(*this, QString(), [&] {
-        return QString::fromUtf8(QJsonDocument(controlStatus(host(), pDoc)).toJson(QJsonDocument::Compact));
+    return queryCall(*this, __func__, QString(), [&] {
+        return QString::fromUtf8(
+            QJsonDocument(controlStatus(host(), pDoc, m_cycleFailures)).toJson(QJsonDocument::Compact));
     });
 }
 
@@ -272,7 +280,7 @@ QVariantList JS_Mediator::getDeviceInfoList(bool isMinilist) {
 }
 
 QVariantList JS_Mediator::getSelectedDockey() {
-    return bridgeCall(*this, QVariantList(), [&] {
+    return queryCall(*this, __func__, QVariantList(), [&] {
         QVariantList keys;
         for (const DOCKEY key : host().docManager().getSelectedDocKeys(0)) keys.append(QString::number(key));
         return keys;
@@ -312,19 +320,19 @@ void JS_Mediator::copySelectAreaToClipboard() {
 }
 
 bool JS_Mediator::isWaveDataAcquisition() {
-    return bridgeCall(*this, false, [&] { return host().docManager().isWaveDataAcquisition(); });
+    return queryCall(*this, __func__, false, [&] { return host().docManager().isWaveDataAcquisition(); });
 }
 
 QString JS_Mediator::getCalibrationUnits() {
-    return bridgeCall(*this, QString(), [&] { return calibrationUnits(host()); });
+    return queryCall(*this, __func__, QString(), [&] { return calibrationUnits(host()); });
 }
 
 int JS_Mediator::getRangeMax() {
-    return bridgeCall(*this, 0, [&] { return m_rangeMax = rangeMax(host()); });
+    return queryCall(*this, __func__, 0, [&] { return m_rangeMax = rangeMax(host()); });
 }
 
 bool JS_Mediator::isUpdateIgnore() {
-    return bridgeCall(*this, false, [&] { return host().isUpdateIgnore(); });
+    return queryCall(*this, __func__, false, [&] { return host().isUpdateIgnore(); });
 }
 
 void JS_Mediator::setDisableAllQuickTool() {
@@ -349,15 +357,16 @@ void JS_Mediator::setConnectedCameraShowing(bool check) {
 }
 
 bool JS_Mediator::getConnectedCameraShowing() {
-    return bridgeCall(*this, false, [&] { return host().getPrefBool(QLatin1String(ConnectedCameraOnlyPref), false); });
+    return queryCall(*this, __func__, false,
+                     [&] { return host().getPrefBool(QLatin1String(ConnectedCameraOnlyPref), false); });
 }
 
 int JS_Mediator::countMdiWindow(bool visible) {
-    return bridgeCall(*this, 0, [&] { return host().mdi().countMdiWindow(visible, 2); });
+    return queryCall(*this, __func__, 0, [&] { return host().mdi().countMdiWindow(visible, 2); });
 }
 
 bool JS_Mediator::isWrenRunning() {
-    return bridgeCall(*this, false, [&] { return host().appStatus().isWrenRunning(); });
+    return queryCall(*this, __func__, false, [&] { return host().appStatus().isWrenRunning(); });
 }
 
 void JS_Mediator::checkRestoredPrefs() {
@@ -371,7 +380,7 @@ void JS_Mediator::hideSelectBox() {
 }
 
 bool JS_Mediator::isShownDropBox() {
-    return bridgeCall(*this, false, [&] { return host().isShownDropBox(); });
+    return queryCall(*this, __func__, false, [&] { return host().isShownDropBox(); });
 }
 
 void JS_Mediator::showDropDownBox(const QString& key, int x, int y, int width, int height) {
@@ -387,11 +396,11 @@ void JS_Mediator::hideDropDownBox(const QString& key, int x, int y) {
 }
 
 bool JS_Mediator::isMVersion() {
-    return bridgeCall(*this, false, [&] { return host().appStatus().isMVersion(); });
+    return queryCall(*this, __func__, false, [&] { return host().appStatus().isMVersion(); });
 }
 
 QString JS_Mediator::getFlip() {
-    return bridgeCall(*this, QString(), [&] {
+    return queryCall(*this, __func__, QString(), [&] {
         const DOCKEY key = host().docManager().getCurrentDockey(0);
         const ZebViewOps& views = host().viewOps();
         return QString::number((views.isHorizontalFlip(key) ? 1 : 0) + (views.isVerticalFlip(key) ? 2 : 0));
@@ -399,7 +408,7 @@ QString JS_Mediator::getFlip() {
 }
 
 QString JS_Mediator::getRotate() {
-    return bridgeCall(*this, QStringLiteral("0"), [&] {
+    return queryCall(*this, __func__, QStringLiteral("0"), [&] {
         const DOCKEY key = host().docManager().getCurrentDockey(0);
         return QString::number(qRound(host().viewOps().getRotation(key) * 360));
     });

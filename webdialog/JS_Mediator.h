@@ -1,5 +1,6 @@
 #pragma once
 
+#include "CycleFailures.h"
 #include "FrameSkip.h"
 #include "PageBridge.h"
 
@@ -28,6 +29,11 @@ public:
 
     /// Shows the exception that is being handled to the user. Only inside a `catch`; does not throw.
     void reportCurrentFailure() noexcept;
+
+    /// What the update cycles of the page could not read.
+    CycleFailures& cycleFailures() { return m_cycleFailures; }
+    /// Tells the user what of it is new, as one `ZebCycleFailure`. Does not throw.
+    void tellCycleFailures() noexcept;
 
     /// What a bridge of an export does with the values that its page chooses.
     virtual void setSkipMode(int mode) { Q_UNUSED(mode) }
@@ -176,4 +182,5 @@ private:
     int m_rangeMax = 0;
     unsigned int m_updateMask = AllParts;
     FrameSkip m_skip;
+    CycleFailures m_cycleFailures;
 };

@@ -30,8 +30,11 @@ void clearMemoryMembers(Record& record) {
 
 }  // namespace
 
-void BatchRecord::offer(DOCKEY key, bool selected, const Record& record) {
+void BatchRecord::offer(DOCKEY key, bool selected, bool whole, const Record& record) {
     ++m_count;
+    if (!whole) {
+        return;
+    }
     if (key == m_chosen) {
         m_chosenListed = true;
         m_chosenRecord = record;

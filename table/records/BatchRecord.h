@@ -11,8 +11,8 @@ public:
     /// `chosen` is the document that the user chose last, `zeb::NoDocKey` when there is none.
     explicit BatchRecord(DOCKEY chosen) : m_chosen(chosen) {}
 
-    /// Takes notice of each row, in their order.
-    void offer(DOCKEY key, bool selected, const Record& record);
+    /// Takes notice of each row, in their order. One that is not whole is not copied.
+    void offer(DOCKEY key, bool selected, bool whole, const Record& record);
 
     /// The document that was copied: the chosen one, else the last that is selected, else `chosen` as it was.
     DOCKEY source() const;

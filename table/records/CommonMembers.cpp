@@ -22,19 +22,16 @@ QString statusText(int cameraStatus) {
     }
 }
 
-void addAlways(Record& record, DOC_Interface& doc, const RowState& row) {
-    record.setNumber(QLatin1String("recid"), row.recid);
-    record.setText(QLatin1String("key"), QString::number(doc.getKey()));
+void addAlways(Record& record, DOC_Interface& doc) {
     record.setText(QLatin1String("cameraName"), doc.control().getCameraName(1));
-    record.setFlag(QLatin1String("connected"), row.connected);
     record.setFlag(QLatin1String("mobileSelected"), doc.isMobileSelected());
-    record.setFlag(QLatin1String("selected"), row.selected);
-    record.setFlag(QLatin1String("current"), row.current);
 }
 
-void addLive(Record& record, DOC_Interface& doc, bool connected, bool lowLight) {
+bool addLive(Record& record, DOC_Interface& doc, bool connected) {
     const DOC_Control& camera = doc.control();
     record.setFlag(QLatin1String("lock"), connected && doc.lock().isParamLocked());
+    const bool lowLight = connected && camera.isLowLightMode();
+    record.setFlag(QLatin1String("lowLightMode"), lowLight);
     record.setText(QLatin1String("cameraStatus"), connected ? statusText(camera.getCameraStatus()) : QString());
     record.setText(QLatin1String("syncStatus"),
                    connected && camera.hasSyncStatus() ? camera.getSyncStatusText() : QString());
@@ -43,8 +40,8 @@ void addLive(Record& record, DOC_Interface& doc, bool connected, bool lowLight) 
     record.setFlag(QLatin1String("reduceMode"), connected && camera.getReduceMode(0));
     record.setFlag(QLatin1String("lowLightModeSupported"),
                    connected && camera.isFunctionSupported(zeb::FunctionLowLight, 1));
-    record.setFlag(QLatin1String("lowLightMode"), lowLight);
     record.setFlag(QLatin1String("lowLightType"), connected && camera.getLowLightType() == zeb::LowLightTypeFast);
+    return lowLight;
 }
 
 }  // namespace commonmembers

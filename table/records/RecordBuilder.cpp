@@ -1,23 +1,48 @@
 #include "records/RecordBuilder.h"
 
+#include "CycleFailures.h"
 #include "DOC_Control.h"
 #include "DOC_Frames.h"
 #include "DOC_Head.h"
 #include "DOC_Interface.h"
+#include "DeviceAlerts.h"
+#include "FailureText.h"
 #include "TableState.h"
+#include "ZebDocManager.h"
 #include "ZebHost.h"
 #include "records/CameraInfoMembers.h"
+#include "records/CommonMembers.h"
 #include "records/IrigMembers.h"
 #include "records/PluginMembers.h"
 #include "records/RecordRequest.h"
 #include "records/SyncMembers.h"
 
-RecordBuilder::RecordBuilder(ZebHost& host, TableState& state, int tab)
+namespace {
+
+const QString Signal = QStringLiteral("signal");
+
+/// The text names the camera, whose exception may not do so by itself.
+QString named(const QString& failure, DOC_Interface& doc) {
+    for (const auto& nameOf : {&DOC_Control::getCameraName, &DOC_Control::getAddress}) {
+        try {
+            const QString name = (doc.control().*nameOf)(1);
+            return failure.contains(name) ? failure : QString(name % QStringLiteral(": ") % failure);
+        } catch (...) {
+            continue;
+        }
+    }
+    return failure;
+}
+
+}  // namespace
+
+RecordBuilder::RecordBuilder(ZebHost& host, TableState& state, int tab, CycleFailures& failures)
     : m_host(host),
+      m_failures(failures),
       m_tab(tab),
       m_live(host.isLiveMode()),
       m_signal(host, state.sync),
-      m_signalGivesFrequency(m_signal.givesFrequency()) {
+      m_signalGivesFrequency(signalGivesFrequency()) {
     if (m_live && tab == LiveControlTab) {
         m_liveControl.emplace(host, state);
     } else if (!m_live && tab == MemoryInfoTab) {
@@ -25,21 +50,78 @@ RecordBuilder::RecordBuilder(ZebHost& host, TableState& state, int tab)
     }
 }
 
-Record RecordBuilder::build(DOC_Interface& doc, const RowState& row) {
-    Record record;
-    commonmembers::addAlways(record, doc, row);
-    record.setText(QLatin1String("alert"), row.connected ? alertOf(doc) : QString());
-    if (m_live) {
-        addLive(record, doc, row.connected);
-    } else {
-        addMemory(record, doc, row.connected);
+QString RecordBuilder::sourceOf(DOCKEY key) {
+    return QStringLiteral("row %1").arg(key);
+}
+
+/// A source that does not answer gives none.
+bool RecordBuilder::signalGivesFrequency() const {
+    try {
+        const bool gives = m_signal.givesFrequency();
+        m_failures.whole(Signal);
+        return gives;
+    } catch (...) {
+        m_failures.failed(Signal, currentFailureText());
+        return false;
     }
-    return record;
+}
+
+RecordBuilder::Row RecordBuilder::build(DOC_Interface& doc, DOCKEY key, int recid, bool select) {
+    Row row;
+    QString failure;
+    const auto attempt = [&failure](auto&& ask) {
+        try {
+            ask();
+        } catch (...) {
+            if (failure.isEmpty()) {
+                failure = currentFailureText();
+            }
+        }
+    };
+    bool connected = false;
+    bool selected = false;
+    bool current = false;
+    QString alert;
+    attempt([&] { connected = doc.isConnected(); });
+    attempt([&] { selected = (connected || select) && doc.isSelected(); });
+    if (select && !selected) {
+        attempt([&] {
+            m_host.docManager().selectDoc(key);
+            selected = row.newlySelected = true;
+        });
+    }
+    attempt([&] { current = connected && m_host.docManager().isCurrentDoc(key); });
+    row.selected = connected && selected;
+    row.record.setNumber(QLatin1String("recid"), recid);
+    row.record.setText(QLatin1String("key"), QString::number(key));
+    row.record.setFlag(QLatin1String("connected"), connected);
+    row.record.setFlag(QLatin1String("selected"), row.selected);
+    row.record.setFlag(QLatin1String("current"), current);
+    attempt([&] { addMembers(row.record, doc, connected); });
+    if (failure.isEmpty()) {
+        attempt([&] { alert = connected ? alertOf(doc) : QString(); });
+    }
+    row.whole = failure.isEmpty();
+    row.record.setText(QLatin1String("alert"), row.whole ? alert : failure);
+    if (!row.whole) {
+        m_failures.failed(sourceOf(key), named(failure, doc));
+    } else if (!m_failures.isEmpty()) {
+        m_failures.whole(sourceOf(key));
+    }
+    return row;
+}
+
+void RecordBuilder::addMembers(Record& record, DOC_Interface& doc, bool connected) {
+    commonmembers::addAlways(record, doc);
+    if (m_live) {
+        addLive(record, doc, connected);
+    } else {
+        addMemory(record, doc, connected);
+    }
 }
 
 QString RecordBuilder::alertOf(DOC_Interface& doc) const {
-    const DOC_Interface* device = doc.getParentDoc();
-    QStringList alerts = device != nullptr ? device->getAlerts() : QStringList();
+    QStringList alerts = alertsOfDevice(doc);
     alerts += doc.getAlerts();
     alerts.removeDuplicates();
     if (m_signalGivesFrequency && !m_signal.agreesWith(doc)) {
@@ -49,8 +131,7 @@ QString RecordBuilder::alertOf(DOC_Interface& doc) const {
 }
 
 void RecordBuilder::addLive(Record& record, DOC_Interface& doc, bool connected) {
-    const bool lowLight = connected && doc.control().isLowLightMode();
-    commonmembers::addLive(record, doc, connected, lowLight);
+    const bool lowLight = commonmembers::addLive(record, doc, connected);
     switch (m_tab) {
         case CameraInfoTab:
             camerainfo::add(record, doc);

@@ -1,30 +1,53 @@
 #pragma once
 
 #include "SignalSources.h"
-#include "records/CommonMembers.h"
+#include "ZebTypes.h"
 #include "records/LiveControlMembers.h"
 #include "records/MemoryInfoMembers.h"
 #include "records/Record.h"
 
 #include <optional>
 
+class CycleFailures;
 class DOC_Interface;
 class ZebHost;
 struct TableState;
 
 /// Builds the rows of one list of records: only the members of the tab and the mode that it was made for.
+///
+/// A camera is asked until it fails: what steers its row comes first, then what the tab shows, its alerts last. The
+/// members that were not read are left out of its record, and the reason stands as its alert. So a camera that does not
+/// answer costs one question a list.
 class RecordBuilder {
 public:
-    RecordBuilder(ZebHost& host, TableState& state, int tab);
+    /// What the cameras fail to answer, and that they answer again, goes into `failures`.
+    RecordBuilder(ZebHost& host, TableState& state, int tab, CycleFailures& failures);
 
-    Record build(DOC_Interface& doc, const RowState& row);
+    struct Row {
+        Record record;
+        bool selected = false;
+        /// `build` has selected it.
+        bool newlySelected = false;
+        /// Everything was read.
+        bool whole = false;
+    };
+
+    /// The row number `recid`, from 1. `select`: the camera is selected unless it is already. Does not throw what
+    /// cameras throw.
+    Row build(DOC_Interface& doc, DOCKEY key, int recid, bool select);
+
+    /// The name of a camera's row in `CycleFailures`.
+    static QString sourceOf(DOCKEY key);
 
 private:
+    bool signalGivesFrequency() const;
+    void addMembers(Record& record, DOC_Interface& doc, bool connected);
     QString alertOf(DOC_Interface& doc) const;
     void addLive(Record& record, DOC_Interface& doc, bool connected);
     void addMemory(Record& record, DOC_Interface& doc, bool connected);
 
     ZebHost& m_host;
+    CycleFailures& m_failures;
     int m_tab;
     bool m_live;
     const SignalSources m_signal;

@@ -1,8 +1,11 @@
 #include "records/RecordModel.h"
 
+#include "CycleFailures.h"
 #include "DOC_Activity.h"
 #include "DOC_Control.h"
 #include "DOC_Interface.h"
+#include "DocKeys.h"
+#include "FailureText.h"
 #include "TableState.h"
 #include "ZebDocManager.h"
 #include "ZebHost.h"
@@ -10,10 +13,10 @@
 #include "records/BatchRecord.h"
 #include "records/RecordBuilder.h"
 
-#include <QDebug>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QSet>
 
 #include <algorithm>
 
@@ -42,35 +45,67 @@ QString recordLabel(int state) {
     }
 }
 
-QString addressOf(DOC_Interface& doc) {
-    return doc.control().getAddress(1);
+/// What `ask` answers; `fallback` from a camera that does not.
+template <typename Ask>
+bool answerOr(bool fallback, Ask&& ask) {
+    try {
+        return ask();
+    } catch (...) {
+        return fallback;
+    }
 }
 
 }  // namespace
 
-RecordModel::Answer RecordModel::getRecords(const QString& request) {
+/// The cameras of the group that is chosen.
+class GroupFilter {
+public:
+    GroupFilter(const QString& name, const QList<CameraGroup>& groups) : m_all(name.isEmpty()) {
+        const auto found =
+            std::find_if(groups.begin(), groups.end(), [&name](const CameraGroup& each) { return each.name == name; });
+        if (found != groups.end()) {
+            m_members = QSet<QString>(found->members.begin(), found->members.end());
+        }
+    }
+
+    /// Whether it stands for all cameras.
+    bool isAll() const { return m_all; }
+    /// Whether the camera belongs to it; `unknown` when its address can't be read.
+    bool has(DOC_Interface& doc, bool unknown) const {
+        return m_all || answerOr(unknown, [&] { return m_members.contains(doc.control().getAddress(1)); });
+    }
+
+private:
+    bool m_all;
+    QSet<QString> m_members;
+};
+
+RecordModel::Answer RecordModel::getRecords(const QString& request, CycleFailures& failures) {
     if (m_host.isFileMode()) {
         return {QStringLiteral("{\"records\":[],\"batch\":[]}"), false};
     }
     const RecordRequest asked = RecordRequest::parse(request);
-    const bool groupChanged = remember(asked);
-    const Members members = membersOf(asked.group);
-    const bool deselected = members && !m_state.recordRunning && !m_state.loadingRigx && deselectOutside(*members);
-    Answer answer = build(asked, members, groupChanged);
+    store(asked);
+    if (m_state.recordRunning && isRecordingOver()) {
+        m_state.recordRunning = false;
+    }
+    const GroupFilter group(asked.group, m_state.groups);
+    const bool deselected =
+        !group.isAll() && !m_state.recordRunning && !m_state.loadingRigx && deselectOutside(group, failures);
+    Answer answer = build(asked, group, failures);
     answer.selectionChanged = answer.selectionChanged || deselected;
+    // Not before: a list that came to nothing has selected nobody.
+    m_state.group = asked.group;
+    m_state.filter = asked.filter;
     return answer;
 }
 
 QString RecordModel::getRecStatus() const {
     QJsonObject status;
-    try {
-        if (m_host.isLiveMode()) {
-            const int state = recordState();
-            status.insert(QLatin1String("recStatus"), state);
-            status.insert(QLatin1String("recStatusLabel"), m_host.translate(recordLabel(state)));
-        }
-    } catch (const std::exception& e) {
-        qCritical() << e.what();
+    if (m_host.isLiveMode()) {
+        const int state = recordState();
+        status.insert(QLatin1String("recStatus"), state);
+        status.insert(QLatin1String("recStatusLabel"), m_host.translate(recordLabel(state)));
     }
     return compact(QJsonDocument(status));
 }
@@ -103,50 +138,62 @@ int RecordModel::getFilter() const {
 
 bool RecordModel::isSuspendReduceMode(DOCKEY key) const {
     ZebDocManager& documents = m_host.docManager();
-    const DocKeyList keys = key == zeb::NoDocKey ? documents.getLiveDocKeys(0, 0) : DocKeyList{key};
-    return std::any_of(keys.begin(), keys.end(), [&documents](DOCKEY each) {
+    const bool any = key == zeb::NoDocKey;
+    const DocKeyList keys = any ? documents.getLiveDocKeys(0, 0) : DocKeyList{key};
+    return std::any_of(keys.begin(), keys.end(), [&](DOCKEY each) {
         DOC_Interface* doc = documents.getDocAny(each);
-        return doc != nullptr && doc->activity().isSuspendReduce();
+        if (doc == nullptr) {
+            return false;
+        }
+        const auto isSuspended = [doc] { return doc->activity().isSuspendReduce(); };
+        // Of many each answers for itself in its own row.
+        return any ? answerOr(false, isSuspended) : isSuspended();
     });
 }
 
-/// True when the group is another one than before.
-bool RecordModel::remember(const RecordRequest& request) {
-    const bool groupChanged = request.group != m_state.group;
-    if (groupChanged) {
+void RecordModel::store(const RecordRequest& request) const {
+    if (request.group != m_state.group) {
         m_host.setPrefString(GroupPref, request.group);
-        m_state.group = request.group;
     }
     if (request.filter != m_state.filter) {
         m_host.setPrefInt(FilterPref, request.filter);
-        m_state.filter = request.filter;
     }
-    return groupChanged;
 }
 
-/// The addresses of a group; nothing for the group that stands for all.
-RecordModel::Members RecordModel::membersOf(const QString& group) const {
-    if (group.isEmpty()) {
-        return std::nullopt;
+/// A recording whose end nobody told, as that of a camera that came into the table ready and has gone again.
+bool RecordModel::isRecordingOver() const {
+    if (!m_host.isLiveMode() || recordState() != zeb::RecordLive) {
+        return false;
     }
-    const auto found = std::find_if(m_state.groups.begin(), m_state.groups.end(),
-                                    [&group](const CameraGroup& each) { return each.name == group; });
-    return found != m_state.groups.end() ? QSet<QString>(found->members.begin(), found->members.end())
-                                         : QSet<QString>();
+    ZebDocManager& documents = m_host.docManager();
+    const DocKeyList keys = documents.getDocKeys();
+    return std::none_of(keys.begin(), keys.end(), [&documents](DOCKEY key) {
+        DOC_Interface* doc = documents.getDocAny(key);
+        return doc != nullptr && answerOr(true, [doc] { return doc->isConnected() && isArmed(*doc); });
+    });
 }
 
-bool RecordModel::deselectOutside(const QSet<QString>& members) {
+/// A camera that does not tell whether it belongs to the group keeps its selection.
+bool RecordModel::deselectOutside(const GroupFilter& group, CycleFailures& failures) const {
+    if (m_host.isSelectionKept()) {
+        return false;
+    }
     ZebDocManager& documents = m_host.docManager();
     const bool live = m_host.isLiveMode();
     bool changed = false;
     for (const DOCKEY key : documents.getDocKeys()) {
         DOC_Interface* doc = documents.getDocAny(key);
-        if (doc == nullptr || (live && doc->isMobileSelected()) || members.contains(addressOf(*doc))) {
+        const auto isOutside = [&] {
+            return !(live && doc->isMobileSelected()) && !group.has(*doc, true) && doc->isSelected();
+        };
+        if (doc == nullptr || !answerOr(false, isOutside)) {
             continue;
         }
-        if (!m_host.isSelectionKept() && doc->isSelected()) {
+        try {
             documents.deselectDoc(key);
             changed = true;
+        } catch (...) {
+            failures.failed(RecordBuilder::sourceOf(key), currentFailureText());
         }
     }
     return changed;
@@ -161,7 +208,7 @@ DocKeyList RecordModel::keysFor(int filter) const {
     if (filter == ShowDisconnected) {
         const auto listed = [&documents](DOCKEY key) {
             const DOC_Interface* doc = documents.getDocAny(key);
-            return doc != nullptr && !doc->isConnected();
+            return doc != nullptr && !answerOr(false, [doc] { return doc->isConnected(); });
         };
         keys.erase(std::remove_if(keys.begin(), keys.end(), [&listed](DOCKEY key) { return !listed(key); }),
                    keys.end());
@@ -169,29 +216,26 @@ DocKeyList RecordModel::keysFor(int filter) const {
     return keys;
 }
 
-RecordModel::Answer RecordModel::build(const RecordRequest& request, const Members& members, bool selectListed) {
+RecordModel::Answer RecordModel::build(const RecordRequest& request, const GroupFilter& group,
+                                       CycleFailures& failures) {
     ZebDocManager& documents = m_host.docManager();
-    RecordBuilder builder(m_host, m_state, request.tab);
+    const bool selectListed = request.group != m_state.group;
+    RecordBuilder builder(m_host, m_state, request.tab, failures);
     BatchRecord batch(m_state.batchDocKey);
     Answer answer;
     QString rows;
     int recid = 0;
     for (const DOCKEY key : keysFor(request.filter)) {
         DOC_Interface* doc = documents.getDocAny(key);
-        if (doc == nullptr || (members && !members->contains(addressOf(*doc)))) {
+        if (doc == nullptr || !group.has(*doc, true)) {
             continue;
         }
-        if (selectListed && !doc->isSelected()) {
-            documents.selectDoc(key);
-            answer.selectionChanged = true;
-        }
-        const bool connected = doc->isConnected();
-        const RowState row{++recid, connected, connected && doc->isSelected(),
-                           connected && documents.isCurrentDoc(key)};
-        const Record record = builder.build(*doc, row);
+        const bool select = selectListed && group.has(*doc, false);
+        const RecordBuilder::Row row = builder.build(*doc, key, ++recid, select);
+        answer.selectionChanged = answer.selectionChanged || row.newlySelected;
         rows += recid > 1 ? QLatin1String(",") : QLatin1String();
-        record.appendTo(rows);
-        batch.offer(key, row.selected, record);
+        row.record.appendTo(rows);
+        batch.offer(key, row.selected, row.whole, row.record);
     }
     m_state.batchDocKey = batch.source();
     answer.json = QStringLiteral("{\"records\":[") % rows % QLatin1String("],\"batch\":[");

@@ -3,17 +3,16 @@
 #include "ZebTypes.h"
 #include "records/RecordRequest.h"
 
-#include <QSet>
 #include <QString>
 
-#include <optional>
-
+class CycleFailures;
+class GroupFilter;
 class ZebHost;
 struct TableState;
 
 /// What the page shows of the cameras, asked anew from the host at each call.
 ///
-/// All operations may throw what the host throws.
+/// All operations may throw what the host throws; what a camera throws stays in its row.
 class RecordModel {
 public:
     RecordModel(ZebHost& host, TableState& state) : m_host(host), m_state(state) {}
@@ -25,7 +24,10 @@ public:
     };
 
     /// The rows that `request` (JSON) asks for and the batch row. Remembers the request's group and filter.
-    Answer getRecords(const QString& request);
+    ///
+    /// A camera that does not answer has a row all the same: the members that were read, and the reason as its alert.
+    /// It is noted in `failures`, as are the cameras that have answered.
+    Answer getRecords(const QString& request, CycleFailures& failures);
 
     /// JSON with state and label of the record button; without members outside live mode.
     QString getRecStatus() const;
@@ -42,13 +44,11 @@ public:
     bool isSuspendReduceMode(DOCKEY key) const;
 
 private:
-    using Members = std::optional<QSet<QString>>;
-
-    bool remember(const RecordRequest& request);
-    Members membersOf(const QString& group) const;
-    bool deselectOutside(const QSet<QString>& members);
+    void store(const RecordRequest& request) const;
+    bool isRecordingOver() const;
+    bool deselectOutside(const GroupFilter& group, CycleFailures& failures) const;
     DocKeyList keysFor(int filter) const;
-    Answer build(const RecordRequest& request, const Members& members, bool selectListed);
+    Answer build(const RecordRequest& request, const GroupFilter& group, CycleFailures& failures);
 
     ZebHost& m_host;
     TableState& m_state;

@@ -1,0 +1,16 @@
+#include "GatheredFailures.h"
+
+#include "FailureText.h"
+
+#include <stdexcept>
+
+void GatheredFailures::noteCurrent() {
+    // A host that was asked about many cameras answers with a line for each.
+    for (const QString& line : currentFailureText().split(QLatin1Char('\n'), Qt::SkipEmptyParts)) {
+        if (!m_texts.contains(line)) m_texts.append(line);
+    }
+}
+
+void GatheredFailures::rethrow() const {
+    if (!isEmpty()) throw std::runtime_error(text().toStdString());
+}
