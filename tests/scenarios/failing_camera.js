@@ -1,4 +1,5 @@
-// The third camera does not take a rate: the others have it, the user is told once, and the table goes on afterwards.
+// The third camera does not take a rate: the others have it, the user is told once, and the table goes on afterwards. Then it
+// does not answer any more, which keeps nobody from working.
 
 const OTHERS = [1, 2, 4, 5, 6];
 
@@ -63,3 +64,9 @@ check(zeb.until(`ticks >= ${ticks + 3}`), 'the timer runs afterwards');
 check(zeb.page(`$('.SumoSelect[dockey="3"] p.wren_livecontrol_framerate span').text()`) === '1000 fps' &&
     zeb.page(`$('.SumoSelect[dockey="6"] p.wren_livecontrol_framerate span').text()`) === '5000 fps',
     'each row shows what its camera has');
+
+zeb.fault(3, 'getRecordRate', {throws: 'does not answer'});
+zeb.wait(500);
+const news = zeb.messages();
+check(news.length === 1 && news[0].answer === '' && news[0].text === 'Gate <3>: does not answer',
+    'what the ticks meet is told once and beside the work: ' + JSON.stringify(news));

@@ -1,33 +1,20 @@
+#include "Course.h"
 #include "DOC_Control.h"
-#include "DOC_Frames.h"
 #include "DOC_Interface.h"
+#include "ZebCycleFailure.h"
+#include "camera/CameraError.h"
 #include "support/TestHost.h"
 
 #include <QSignalSpy>
 
 #include <gtest/gtest.h>
 
-#include <functional>
 #include <thread>
 
 namespace {
 
 class Messages : public testing::Test {
 protected:
-    /// What a tick does: ask, and hand a failure to the host.
-    void tick(DOCKEY key = 1) {
-        try {
-            test.doc(key)->control().getRecordRate(0);
-        } catch (const std::exception& e) {
-            test.host.errorHandler(e);
-        }
-    }
-    void plantRateFault(DOCKEY key, const char* text) {
-        Fault fault;
-        fault.throws = QString::fromLatin1(text);
-        test.host.faults().plant(key, QStringLiteral("getRecordRate"), fault);
-    }
-
     TestHost test{Rig::standard(2)};
     SimHost& host = test.host;
     ScriptedDesk& desk = test.desk;
@@ -63,45 +50,28 @@ TEST_F(Messages, DontShowAgainStoresFalse) {
     EXPECT_TRUE(desk.shown.first().offersSilence);
 }
 
-TEST_F(Messages, AFailingQuestionIsShownOnceUntilItHasAnAnswer) {
-    host.docManager().connectDocs({1, 2});
-    plantRateFault(1, "no answer");
-    plantRateFault(2, "no answer");
-    tick(1);
-    tick(2);
-    tick(1);
-    tick(2);
-    EXPECT_EQ(desk.texts(),
-              (QStringList{QStringLiteral("Camera 1: no answer"), QStringLiteral("Camera 2: no answer")}));
-
-    plantRateFault(1, "");
-    tick(1);
-    plantRateFault(1, "no answer");
-    tick(1);
-    tick(2);
-    EXPECT_EQ(desk.shown.size(), 3);
-    EXPECT_EQ(desk.shown.last().text, QStringLiteral("Camera 1: no answer"));
-}
-
-TEST_F(Messages, AFailingCommandIsShownEachTime) {
+TEST_F(Messages, AFailureIsABoxAndALineEachTimeAndOneOfTheCycleOnlyANotice) {
+    Course log;
     host.docManager().connectDocs({1});
+    test.camera(1).set(&CameraState::name, QStringLiteral("Gate\nERROR forged"));
     Fault fault;
-    fault.throws = QStringLiteral("no answer");
-    host.faults().plant(1, QStringLiteral("*"), fault);
-    tick();
-    const std::function<void()> commands[] = {[&] { host.cameraOps().setRecordRate(test.docs({1}), 50); },
-                                              [&] { test.doc(1)->control().setSelectRange(1, 2); },
-                                              [&] { test.doc(1)->frames().setRecordCheck(true); }};
-    for (const auto& command : commands) {
-        for (int i = 0; i < 2; ++i) {
-            try {
-                command();
-            } catch (const std::exception& e) {
-                host.errorHandler(e);
-            }
+    fault.throws = QStringLiteral("no \"answer\"");
+    host.faults().plant(1, QStringLiteral("getRecordRate"), fault);
+    for (int i = 0; i < 2; ++i) {
+        try {
+            test.doc(1)->control().getRecordRate(0);
+        } catch (const std::exception& e) {
+            host.errorHandler(e);
         }
     }
-    EXPECT_EQ(desk.shown.size(), 7);
+    const QString line = QStringLiteral(R"(critical: "Gate\nERROR forged: no \"answer\"")");
+    EXPECT_EQ(log.take(), QStringList({line, line}));
+    EXPECT_TRUE(desk.beside.isEmpty());
+
+    host.errorHandler(ZebCycleFailure("Gate: no answer"));
+    EXPECT_EQ(desk.shown.size(), 3);
+    EXPECT_EQ(desk.beside, QStringList{QStringLiteral("Gate: no answer")});
+    EXPECT_EQ(log.take(), QStringList()) << "whoever met it has written it down";
 }
 
 TEST_F(Messages, JournalIsARingWithMarks) {
@@ -134,8 +104,8 @@ TEST_F(Messages, FaultsAndJournalBearManyThreads) {
             host.journal().record("call", {key});
             try {
                 test.camera(key).setRecordRate(50);
-                test.camera(key).queryConnected("getRecordRate");
-            } catch (const QueryError&) {
+                test.camera(key).askConnected("getRecordRate");
+            } catch (const CameraError&) {
                 ASSERT_EQ(i % 2, 0);
             }
         }

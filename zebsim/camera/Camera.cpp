@@ -3,7 +3,6 @@
 #include "camera/CameraError.h"
 #include "camera/FaultPlan.h"
 #include "camera/RecordSettings.h"
-#include "camera/ShownErrors.h"
 #include "camera/SyncSource.h"
 #include "recording/Clock.h"
 
@@ -13,7 +12,6 @@
 
 namespace {
 
-const QString notConnected = QStringLiteral("the camera is not connected");
 /// Status of a camera that failed; it has no name.
 constexpr int FailedStatus = 128;
 
@@ -71,49 +69,32 @@ void Camera::change(const QVariantMap& members) {
     m_state.apply(members);
 }
 
-QString Camera::meetFault(const char* operation) const {
-    return m_device.faults().suffer(m_key, operation, m_device.clock());
-}
-
-void Camera::query(const char* operation) const {
-    const QString reason = meetFault(operation);
-    if (!reason.isEmpty()) {
-        throw QueryError(name(), reason, m_key, operation);
-    }
-    m_device.shownErrors().answered(m_key, operation);
-}
-
-void Camera::queryConnected(const char* operation) const {
-    if (!get(&CameraState::connected)) {
-        throw QueryError(name(), notConnected, m_key, operation);
-    }
-    query(operation);
-}
-
-void Camera::instruct(const char* operation) const {
-    const QString reason = meetFault(operation);
+void Camera::ask(const char* operation) const {
+    const QString reason = m_device.faults().suffer(m_key, operation, m_device.clock());
     if (!reason.isEmpty()) {
         refuse(reason);
     }
 }
 
-void Camera::instructConnected(const char* operation) const {
+void Camera::askConnected(const char* operation) const {
+    requireConnected();
+    ask(operation);
+}
+
+void Camera::requireConnected() const {
     if (!get(&CameraState::connected)) {
-        refuse(notConnected);
+        refuse(QStringLiteral("the camera is not connected"));
     }
-    instruct(operation);
 }
 
 bool Camera::command(const char* operation) {
-    instruct(operation);
+    ask(operation);
     m_device.clock().wait(m_device.latency());
     return !isGone();
 }
 
 bool Camera::commandConnected(const char* operation) {
-    if (!get(&CameraState::connected)) {
-        refuse(notConnected);
-    }
+    requireConnected();
     const bool there = command(operation);
     if (there && get(&CameraState::lowLight) && model().lowLightRefuses.contains(QLatin1String(operation))) {
         refuse(QStringLiteral("this can't be changed in low light mode"));

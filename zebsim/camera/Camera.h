@@ -42,14 +42,11 @@ public:
     /// comes before that of what is in it. Throws `StateError`.
     void change(const QVariantMap& members);
 
-    /// Every question of a document to its camera begins with one of these; they take the time that a planted fault
-    /// says. They throw `QueryError`, the second also when the camera is not connected. A camera that is gone answers
-    /// what was last known of it.
-    void query(const char* operation) const;
-    void queryConnected(const char* operation) const;
-    /// The same for what a user has asked for and takes the camera no time: each failure is a `CameraError` of its own.
-    void instruct(const char* operation) const;
-    void instructConnected(const char* operation) const;
+    /// Every question of a document to its camera, and what it does there that takes no time, begins with one of these;
+    /// they take the time that a planted fault says. They throw `CameraError`, the second also when the camera is not
+    /// connected. A camera that is gone answers what was last known of it.
+    void ask(const char* operation) const;
+    void askConnected(const char* operation) const;
 
     /// Commands. Each takes the camera's latency, or throws `CameraError`. A camera that is gone does nothing more.
     ///
@@ -94,8 +91,7 @@ private:
     /// Whether the camera is there to do it.
     bool command(const char* operation);
     bool commandConnected(const char* operation);
-    /// Why the operation fails; empty when it does not, and for a camera that is gone.
-    QString meetFault(const char* operation) const;
+    void requireConnected() const;
     /// The mutex is held.
     void changePartition(PARTITIONNUMBER partition);
     template <typename T>

@@ -2,15 +2,13 @@
 
 #include "camera/Camera.h"
 
-CameraDevice::CameraDevice(const RigDevice& device, DOCKEY firstKey, Clock& clock, FaultPlan& faults,
-                           ShownErrors& shownErrors)
+CameraDevice::CameraDevice(const RigDevice& device, DOCKEY firstKey, Clock& clock, FaultPlan& faults)
     : m_address(device.address),
       m_model(device.model),
       m_latency(device.latency),
       m_found(device.found),
       m_clock(clock),
-      m_faults(faults),
-      m_shownErrors(shownErrors) {
+      m_faults(faults) {
     for (const CameraState& head : device.heads) {
         m_heads.push_back(std::make_unique<Camera>(firstKey++, *this, head));
     }

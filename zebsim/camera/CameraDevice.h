@@ -10,13 +10,12 @@
 class Camera;
 class Clock;
 class FaultPlan;
-class ShownErrors;
 
 /// A device with its heads. One mutex guards the states of them all. Any thread.
 class CameraDevice {
 public:
     /// The heads get the keys from `firstKey` on.
-    CameraDevice(const RigDevice& device, DOCKEY firstKey, Clock& clock, FaultPlan& faults, ShownErrors& shownErrors);
+    CameraDevice(const RigDevice& device, DOCKEY firstKey, Clock& clock, FaultPlan& faults);
     ~CameraDevice();
 
     const QString& address() const { return m_address; }
@@ -31,7 +30,6 @@ public:
 
     Clock& clock() const { return m_clock; }
     FaultPlan& faults() const { return m_faults; }
-    ShownErrors& shownErrors() const { return m_shownErrors; }
 
 private:
     const QString m_address;
@@ -40,7 +38,6 @@ private:
     std::atomic<bool> m_found;
     Clock& m_clock;
     FaultPlan& m_faults;
-    ShownErrors& m_shownErrors;
     mutable std::mutex m_mutex;
     std::vector<std::unique_ptr<Camera>> m_heads;
 };

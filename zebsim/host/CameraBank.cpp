@@ -17,8 +17,7 @@ bool isListed(const Camera& camera) {
 
 }  // namespace
 
-CameraBank::CameraBank(Clock& clock, FaultPlan& faults, ShownErrors& shownErrors)
-    : m_clock(clock), m_faults(faults), m_shownErrors(shownErrors) {}
+CameraBank::CameraBank(Clock& clock, FaultPlan& faults) : m_clock(clock), m_faults(faults) {}
 
 CameraBank::~CameraBank() = default;
 
@@ -27,7 +26,7 @@ void CameraBank::replace(const Rig& rig) {
     std::vector<std::shared_ptr<Camera>> cameras;
     for (const RigDevice& device : rig.devices) {
         const DOCKEY firstKey = static_cast<DOCKEY>(cameras.size() + 1);
-        devices.push_back(std::make_shared<CameraDevice>(device, firstKey, m_clock, m_faults, m_shownErrors));
+        devices.push_back(std::make_shared<CameraDevice>(device, firstKey, m_clock, m_faults));
         for (const auto& head : devices.back()->heads()) {
             cameras.emplace_back(devices.back(), head.get());
         }

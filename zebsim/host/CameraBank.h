@@ -11,13 +11,12 @@ class Camera;
 class CameraDevice;
 class Clock;
 class FaultPlan;
-class ShownErrors;
 struct Rig;
 
 /// The cameras of the host, each with its key. Keys count from 1 in the order of the rig. GUI thread.
 class CameraBank {
 public:
-    CameraBank(Clock& clock, FaultPlan& faults, ShownErrors& shownErrors);
+    CameraBank(Clock& clock, FaultPlan& faults);
     ~CameraBank();
 
     /// Puts the cameras of `rig` in the place of all others.
@@ -50,7 +49,6 @@ private:
 
     Clock& m_clock;
     FaultPlan& m_faults;
-    ShownErrors& m_shownErrors;
     std::vector<std::shared_ptr<CameraDevice>> m_devices;
     /// Each keeps its device. Guarded where another thread reads them.
     std::vector<std::shared_ptr<Camera>> m_cameras;

@@ -5,16 +5,16 @@
 #include "host/Journal.h"
 
 bool SimActivity::isSuspendReduce() const {
-    m_camera.query("isSuspendReduce");
+    m_camera.ask("isSuspendReduce");
     return m_camera.get(&CameraState::suspendReduce);
 }
 
 bool SimActivity::isStopLive() const {
-    m_camera.query("isStopLive");
+    m_camera.ask("isStopLive");
     return m_camera.get(&CameraState::stopLive);
 }
 
 void SimActivity::refresh(bool force) {
     m_context.journal.record("DOC_Activity::refresh", {m_camera.key(), force});
-    m_camera.queryConnected("refresh");
+    m_camera.askConnected("refresh");
 }

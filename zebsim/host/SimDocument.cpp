@@ -55,13 +55,13 @@ DocList SimDocument::getHeadDocs(int /*mode*/) {
 }
 
 QString SimDocument::getPartitionName(PARTITIONNUMBER partition) const {
-    m_camera.queryConnected("getPartitionName");
+    m_camera.askConnected("getPartitionName");
     const QString name = m_camera.get(&CameraState::partitionNames).value(int(partition) - 1);
     return name.isEmpty() ? m_context.translator.translate(QStringLiteral("Partition %1")).arg(partition) : name;
 }
 
 QStringList SimDocument::getAlerts() const {
-    m_camera.queryConnected("getAlerts");
+    m_camera.askConnected("getAlerts");
     return m_camera.get(&CameraState::alerts);
 }
 

@@ -7,7 +7,7 @@
 #include "host/SimAppStatus.h"
 
 unsigned int SimFrames::getFrameCount(int /*partition*/, int /*head*/) const {
-    m_camera.queryConnected("getFrameCount");
+    m_camera.askConnected("getFrameCount");
     if (m_context.appStatus.mode() == zeb::LiveMode) {
         return m_camera.model().frameCapacity(m_camera.state());
     }
@@ -36,62 +36,62 @@ int SimFrames::getSelectEndFrame(int /*head*/) const {
 }
 
 bool SimFrames::isPlaying() const {
-    m_camera.query("isPlaying");
+    m_camera.ask("isPlaying");
     return m_camera.get(&CameraState::playing);
 }
 
 bool SimFrames::isRecordCheck() const {
-    m_camera.query("isRecordCheck");
+    m_camera.ask("isRecordCheck");
     return m_camera.get(&CameraState::recordCheck);
 }
 
 void SimFrames::setRecordCheck(bool check) {
     m_context.journal.record("DOC_Frames::setRecordCheck", {m_camera.key(), check});
-    m_camera.instruct("setRecordCheck");
+    m_camera.ask("setRecordCheck");
     m_camera.set(&CameraState::recordCheck, check);
 }
 
 bool SimFrames::isFrameSkipEnabled() const {
-    m_camera.query("isFrameSkipEnabled");
+    m_camera.ask("isFrameSkipEnabled");
     return m_camera.get(&CameraState::frameSkipEnabled);
 }
 
 void SimFrames::setFrameSkipEnabled(bool enabled) {
     m_context.journal.record("DOC_Frames::setFrameSkipEnabled", {m_camera.key(), enabled});
-    m_camera.instruct("setFrameSkipEnabled");
+    m_camera.ask("setFrameSkipEnabled");
     m_camera.set(&CameraState::frameSkipEnabled, enabled);
 }
 
 void SimFrames::setFrameSkipMode(int mode) {
     m_context.journal.record("DOC_Frames::setFrameSkipMode", {m_camera.key(), mode});
-    m_camera.instruct("setFrameSkipMode");
+    m_camera.ask("setFrameSkipMode");
     m_camera.set(&CameraState::frameSkipMode, mode);
 }
 
 int SimFrames::getFrameSkip() const {
-    m_camera.query("getFrameSkip");
+    m_camera.ask("getFrameSkip");
     return m_camera.get(&CameraState::frameSkip);
 }
 
 void SimFrames::setFrameSkip(int frames) {
     m_context.journal.record("DOC_Frames::setFrameSkip", {m_camera.key(), frames});
-    m_camera.instruct("setFrameSkip");
+    m_camera.ask("setFrameSkip");
     m_camera.set(&CameraState::frameSkip, frames);
 }
 
 void SimFrames::setRecordAreaStart(int frame) {
     m_context.journal.record("DOC_Frames::setRecordAreaStart", {m_camera.key(), frame});
-    m_camera.instruct("setRecordAreaStart");
+    m_camera.ask("setRecordAreaStart");
     m_camera.set(&CameraState::recordArea, {frame, m_camera.get(&CameraState::recordArea).y()});
 }
 
 void SimFrames::setRecordAreaEnd(int frame) {
     m_context.journal.record("DOC_Frames::setRecordAreaEnd", {m_camera.key(), frame});
-    m_camera.instruct("setRecordAreaEnd");
+    m_camera.ask("setRecordAreaEnd");
     m_camera.set(&CameraState::recordArea, {m_camera.get(&CameraState::recordArea).x(), frame});
 }
 
 Recording SimFrames::ask(const char* operation) const {
-    m_camera.queryConnected(operation);
+    m_camera.askConnected(operation);
     return m_camera.recording().value_or(Recording());
 }

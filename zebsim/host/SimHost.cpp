@@ -1,6 +1,7 @@
 #include "host/SimHost.h"
 
 #include "DOC_Interface.h"
+#include "ZebCycleFailure.h"
 #include "ZebPageBridge.h"
 #include "camera/Camera.h"
 #include "camera/Rig.h"
@@ -20,13 +21,13 @@ SimHost::SimHost(Clock& clock, MessageDesk& desk, const QString& prefsPath)
     : m_clock(clock),
       m_desk(desk),
       m_prefs(prefsPath),
-      m_cameras(clock, m_faults, m_shownErrors),
+      m_cameras(clock, m_faults),
       m_updates([this] { runUpdateCycle(); }),
       m_appObject(m_prefs, m_translator),
       m_prefsRestored(!m_prefs.problem().isEmpty()),
-      m_notices([this](Message::Kind kind, const QString& text) { m_desk.notify(message(kind, text, nullptr)); }),
+      m_notices([this](Message::Kind kind, const QString& text) { notify(kind, text); }),
       m_appStatus(m_journal, m_events, m_updates, m_cameras, m_flags),
-      m_signalDevices(m_journal, clock, m_faults, m_shownErrors),
+      m_signalDevices(m_journal, clock, m_faults),
       m_syncSignal(m_cameras, m_signalDevices),
       m_docManager(*this, m_journal, m_cameras, m_prefs, m_appStatus, m_flags, m_translator, m_syncSignal, m_updates),
       m_liveLoop(m_journal, m_cameras, m_events),
@@ -55,7 +56,6 @@ void SimHost::setRig(const Rig& rig) {
     m_recorder.abandon();
     m_docManager.forgetDocs();
     m_faults.clear();
-    m_shownErrors.clear();
     m_cameras.replace(rig);
     m_signalDevices.replace(rig.hubs);
     Q_EMIT m_events.camerasReplaced();
@@ -123,6 +123,12 @@ Message SimHost::message(int kind, const QString& text, QWidget* parent) const {
 Answer SimHost::show(const Message& box) {
     m_docManager.endTurn();
     return m_desk.show(box);
+}
+
+void SimHost::notify(Message::Kind kind, const QString& text) {
+    const Message notice = message(kind, text, nullptr);
+    (kind == Message::Info ? qInfo() : qCritical()) << notice.text;
+    m_desk.notify(notice);
 }
 
 void SimHost::info(const QString& text, QWidget* parent) {
@@ -195,11 +201,11 @@ void SimHost::errorHandler(const std::exception& e) {
     if (text.isEmpty()) {
         return;
     }
-    const auto* query = dynamic_cast<const QueryError*>(&e);
-    if (query && !m_shownErrors.showNow(*query)) {
-        qWarning("%s (again)", e.what());
+    if (dynamic_cast<const ZebCycleFailure*>(&e) != nullptr) {
+        m_desk.notify(message(Message::Error, text, nullptr));
         return;
     }
+    qCritical() << text;
     show(message(Message::Error, text, nullptr));
 }
 
@@ -316,26 +322,37 @@ void SimHost::runUpdateCycle() {
     if (isUpdateIgnore()) {
         return;
     }
+    QStringList failures;
     for (const QPointer<PLG_Interface> plugin : m_appStatus.plugins()) {
         if (plugin) {
-            guarded([&] { plugin->updateDialog(getOperatingMode()); });
+            guarded(failures, [&] { plugin->updateDialog(getOperatingMode()); });
         }
     }
     for (const BridgeDesk::Attached& attached : m_bridges.loaded()) {
         // Each of them may take others with it.
         if (attached.view && attached.bridge && !isInPluginDialog(attached.view)) {
-            guarded([&] { attached.bridge->raiseUpdate(); });
+            guarded(failures, [&] { attached.bridge->raiseUpdate(); });
         }
     }
+    tellNew(failures);
     Q_EMIT m_events.updateFinished();
 }
 
-void SimHost::guarded(const std::function<void()>& work) {
+void SimHost::guarded(QStringList& failures, const std::function<void()>& work) {
     try {
         work();
     } catch (const std::exception& e) {
-        errorHandler(e);
+        failures.append(QString::fromUtf8(e.what()));
     }
+}
+
+void SimHost::tellNew(const QStringList& failures) {
+    for (const QString& text : failures) {
+        if (!text.isEmpty() && !m_cycleFailures.contains(text)) {
+            notify(Message::Error, text);
+        }
+    }
+    m_cycleFailures = failures;
 }
 
 bool SimHost::isInPluginDialog(const QWidget* widget) const {

@@ -2,7 +2,6 @@
 
 #include "ZebHost.h"
 #include "camera/FaultPlan.h"
-#include "camera/ShownErrors.h"
 #include "host/AppObject.h"
 #include "host/BridgeDesk.h"
 #include "host/CameraBank.h"
@@ -33,7 +32,6 @@ class AppDesk;
 class Clock;
 class MessageDesk;
 struct Answer;
-struct Message;
 struct Rig;
 
 /// The stand-in for the host application: what `ZebHost` promises, on simulated cameras.
@@ -177,8 +175,11 @@ public:
 
 private:
     void runUpdateCycle();
-    /// No exception reaches the event loop.
-    void guarded(const std::function<void()>& work);
+    /// No exception reaches the event loop; a failure is one of this cycle's.
+    void guarded(QStringList& failures, const std::function<void()>& work);
+    void tellNew(const QStringList& failures);
+    /// Says something beside the work that goes on, and in the log.
+    void notify(Message::Kind kind, const QString& text);
     bool isInPluginDialog(const QWidget* widget) const;
     Answer show(const Message& box);
     bool showSilenceable(Message box, const QString& prefKey);
@@ -190,7 +191,6 @@ private:
     Preferences m_prefs;
     Journal m_journal;
     FaultPlan m_faults;
-    ShownErrors m_shownErrors;
     CameraBank m_cameras;
     StatusFlags m_flags;
     HostEvents m_events;
@@ -205,6 +205,8 @@ private:
     QPointer<QWidget> m_mdiWidget;
     int m_viewerSuspended = 0;
     bool m_prefsRestored;
+    /// What the last update cycle met.
+    QStringList m_cycleFailures;
 
     Notices m_notices;
     SimAppStatus m_appStatus;

@@ -6,7 +6,7 @@
 #include "host/Journal.h"
 
 QString SimImage::getComment() const {
-    m_camera.query("getComment");
+    m_camera.ask("getComment");
     return m_camera.get(&CameraState::comment);
 }
 
@@ -16,7 +16,7 @@ void SimImage::setComment(const QString& comment) {
 }
 
 std::optional<zeb::ImageFormat> SimImage::getImageFormat(int /*kind*/, int /*head*/) const {
-    m_camera.query("getImageFormat");
+    m_camera.ask("getImageFormat");
     if (!m_camera.get(&CameraState::connected)) {
         return std::nullopt;
     }
@@ -25,22 +25,22 @@ std::optional<zeb::ImageFormat> SimImage::getImageFormat(int /*kind*/, int /*hea
 }
 
 QSize SimImage::getImageSize() const {
-    m_camera.query("getImageSize");
+    m_camera.ask("getImageSize");
     return m_camera.get(&CameraState::resolution);
 }
 
 double SimImage::getScale() const {
-    m_camera.query("getScale");
+    m_camera.ask("getScale");
     return m_camera.get(&CameraState::scale);
 }
 
 int SimImage::getBinningPower() const {
-    m_camera.query("getBinningPower");
+    m_camera.ask("getBinningPower");
     return m_camera.get(&CameraState::binningPower);
 }
 
 QPoint SimImage::getPoint() const {
-    m_camera.query("getPoint");
+    m_camera.ask("getPoint");
     return m_camera.get(&CameraState::point);
 }
 
@@ -51,7 +51,7 @@ QRect SimImage::getToolRect(const QString& tool) const {
 void SimImage::setToolRect(const QString& tool, const QRect& rect) {
     const QVariantList plainRect{rect.x(), rect.y(), rect.width(), rect.height()};
     m_context.journal.record("DOC_Image::setToolRect", {m_camera.key(), tool, plainRect});
-    m_camera.query("setToolRect");
+    m_camera.ask("setToolRect");
     m_context.tools.setRect(tool, m_camera.key(), rect);
 }
 

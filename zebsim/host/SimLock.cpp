@@ -5,18 +5,18 @@
 #include "host/Journal.h"
 
 int SimLock::getRecordState() const {
-    m_camera.query("getRecordState");
+    m_camera.ask("getRecordState");
     return m_camera.get(&CameraState::recordState);
 }
 
 bool SimLock::isParamLocked() const {
-    m_camera.query("isParamLocked");
+    m_camera.ask("isParamLocked");
     return m_camera.get(&CameraState::locked);
 }
 
 void SimLock::setParamLock(bool lock) {
     m_context.journal.record("DOC_Lock::setParamLock", {m_camera.key(), lock});
-    m_camera.instruct("setParamLock");
+    m_camera.ask("setParamLock");
     const int recordState = m_camera.get(&CameraState::recordState);
     if (lock || (recordState != zeb::RecordReady && recordState != zeb::RecordRecording)) {
         m_camera.set(&CameraState::locked, lock);

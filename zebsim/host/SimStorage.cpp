@@ -3,12 +3,12 @@
 #include "camera/Camera.h"
 
 QStringList SimStorage::getPluginNames() const {
-    m_camera.queryConnected("getPluginNames");
+    m_camera.askConnected("getPluginNames");
     return m_camera.get(&CameraState::plugins);
 }
 
 bool SimStorage::isPluginEffective(const QString& name, int /*head*/) const {
-    m_camera.queryConnected("isPluginEffective");
+    m_camera.askConnected("isPluginEffective");
     return m_camera.get(&CameraState::effectivePlugins).contains(name);
 }
 

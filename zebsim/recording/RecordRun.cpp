@@ -205,7 +205,7 @@ void RecordRun::record(Part& part, qint64 now) {
     const qint64 full = part.triggeredAt + part.settings.duration();
     const Camera& camera = *part.camera;
     try {
-        camera.query("record");
+        camera.ask("record");
     } catch (const std::exception& failure) {
         end(part, std::min(now, full), zeb::RecordError);
         const auto kept = camera.recording();

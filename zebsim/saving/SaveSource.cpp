@@ -12,7 +12,7 @@ CameraFrame SaveSource::frame(int index) const {
 }
 
 void SaveSource::read(const CameraBank& cameras, int index) const {
-    m_camera->queryConnected("readFrame");
+    m_camera->askConnected("readFrame");
     // Another rig may have a camera of the same key.
     if (cameras.hold(m_key) != m_camera) {
         throw CameraError(name(), QStringLiteral("the camera is gone"));

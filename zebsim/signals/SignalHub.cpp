@@ -2,7 +2,6 @@
 
 #include "camera/CameraError.h"
 #include "camera/FaultPlan.h"
-#include "camera/ShownErrors.h"
 #include "host/Journal.h"
 #include "recording/Clock.h"
 
@@ -36,15 +35,14 @@ void SignalHub::search() {
 void SignalHub::ask(const char* operation) const {
     const QString reason = m_context.faults.suffer(m_key, operation, m_context.clock);
     if (!reason.isEmpty()) {
-        throw QueryError(name(), reason, m_key, operation);
+        throw CameraError(name(), reason);
     }
-    m_context.shownErrors.answered(m_key, operation);
 }
 
 void SignalHub::askConnected(const char* operation) const {
     ask(operation);
     if (!m_found || !isThere()) {
-        throw QueryError(name(), QStringLiteral("the hub is not connected"), m_key, operation);
+        throw CameraError(name(), QStringLiteral("the hub is not connected"));
     }
 }
 

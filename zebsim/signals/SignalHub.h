@@ -9,14 +9,12 @@
 class Clock;
 class FaultPlan;
 class Journal;
-class ShownErrors;
 
 /// What a hub reaches of the host.
 struct HubContext {
     Journal& journal;
     Clock& clock;
     FaultPlan& faults;
-    ShownErrors& shownErrors;
 };
 
 /// A simulated Sync Hub, and the host's connection to it. GUI thread.

@@ -58,7 +58,11 @@ QString FaultyHost::translate(const QString& text) const {
 
 void FaultyHost::errorHandler(const std::exception& e) {
     tell(QStringLiteral("errorHandler"), {QString::fromUtf8(e.what())});
-    SimHost::errorHandler(e);
+    // Without the host's own line in the log, which would be one more entry of the course.
+    Message box;
+    box.kind = Message::Error;
+    box.text = QString::fromUtf8(e.what());
+    if (!box.text.isEmpty()) desk.show(box);
 }
 
 void FaultyHost::showDropDownBox(const QString& key, const QRect& anchor) {

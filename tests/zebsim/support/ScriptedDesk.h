@@ -7,7 +7,7 @@
 #include <functional>
 #include <utility>
 
-/// Keeps the message boxes and answers them from a queue; without an answer a box is accepted.
+/// Keeps the message boxes and notices, and answers boxes from a queue; without an answer one is accepted.
 class ScriptedDesk : public MessageDesk {
 public:
     Answer show(const Message& message) override {
@@ -16,6 +16,10 @@ public:
             work();
         }
         return answers.isEmpty() ? Answer() : answers.takeFirst();
+    }
+    void notify(const Message& message) override {
+        shown.append(message);
+        beside.append(message.text);
     }
 
     QStringList texts() const {
@@ -27,6 +31,8 @@ public:
     }
 
     QList<Message> shown;
+    /// Those of them that were notices.
+    QStringList beside;
     QList<Answer> answers;
     /// Runs while the next box stands.
     std::function<void()> whileStanding;
