@@ -14,8 +14,9 @@ const table = readonly([
     'wrentabledialog',
     'wrentabledialog_obj', 'wrentabledialog_const_obj', 'wrentabledialog_column_obj', 'TABS',
     'escapeMarkup', 'translate', 'parseReply', 'guarded', 'logged', 'onClick', 'isDisabled', 'onPress', 'onSwitch',
-    'textTip', 'closeTip', 'showElement', 'setText', 'setClass', 'setStyle',
-    'Cell', 'COLUMNS', 'isBatch', 'isOff', 'isOffOrBatch', 'hasDropDowns', 'indexesOf', 'showChoice', 'plainColumn',
+    'textTip', 'closeTip', 'followTip', 'showElement', 'setText', 'setClass', 'setStyle',
+    'Cell', 'COLUMNS', 'isBatch', 'isOff', 'isOffOrBatch', 'isSteered', 'hasDropDowns', 'indexesOf', 'showChoice',
+    'plainColumn',
     'DrawnRow', 'columnKind', 'GridView', 'LIVE', 'MEMORY', 'views', 'viewAt', 'viewOf', 'tabHeader',
     'dropDown', 'listenToGrid', 'rowKeys', 'connectedKeys', 'controls',
     'lowLightSlider', 'showSlider', 'sliderValue', 'sliderMax', 'markupOf',
@@ -94,8 +95,9 @@ module.exports = [
         rules: pageRules
     },
     {
-        files: ['eslint.config.js'],
-        languageOptions: { sourceType: 'commonjs', globals: readonly(['require', 'module']) },
+        // Run by Node.
+        files: ['eslint.config.js', 'tests/otherhost/*.js'],
+        languageOptions: { sourceType: 'commonjs', globals: readonly(['require', 'module', 'process']) },
         rules: { 'max-len': ['error', 120] }
     }
 ];

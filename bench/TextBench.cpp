@@ -1,6 +1,7 @@
 #include "TextBench.h"
 
 #include "CpuTime.h"
+#include "CycleFailures.h"
 #include "DOC_Control.h"
 #include "DOC_Interface.h"
 #include "DOC_Lock.h"
@@ -73,8 +74,9 @@ QJsonObject TextBench::run() {
     SimHost& host = m_cameras.host();
     TableState state;
     RecordModel model(host, state);
+    CycleFailures failures;
     const QString request = QStringLiteral("{\"group\":\"\",\"filter\":0,\"tab\":1}");
-    model.getRecords(request);  // the first one selects cameras
+    model.getRecords(request, failures);  // the first one selects cameras
     QVector<double> builds;
     QVector<double> writes;
     QVector<double> asks;
@@ -82,7 +84,7 @@ QJsonObject TextBench::run() {
         m_cameras.change(1, run);
         QString text;
         asks.append(timed([&host] { askHost(host); }));
-        builds.append(timed([&] { text = model.getRecords(request).json; }) - asks.last());
+        builds.append(timed([&] { text = model.getRecords(request, failures).json; }) - asks.last());
         const QJsonDocument same = QJsonDocument::fromJson(text.toUtf8());
         QByteArray written;
         writes.append(timed([&] { written = same.toJson(QJsonDocument::Compact); }));

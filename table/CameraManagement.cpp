@@ -128,6 +128,7 @@ bool CameraManagement::select(const DocKeyList& keys, bool select) {
             select ? documents.selectDoc(key) : documents.deselectDoc(key);
         }
         m_state.batchDocKey = doc->isSelected() ? key : zeb::NoDocKey;
+        m_state.unreadBatchDocKey = zeb::NoDocKey;
     }
     return true;
 }

@@ -2,7 +2,6 @@
 
 #include "DOC_Interface.h"
 
-QStringList alertsOfDevice(const DOC_Interface& doc) {
-    const DOC_Interface* device = doc.getParentDoc();
+QStringList alertsOfDevice(const DOC_Interface* device) {
     return device != nullptr && device->isConnected() ? device->getAlerts() : QStringList();
 }

@@ -4,6 +4,6 @@
 
 class DOC_Interface;
 
-/// What is wrong with the device that `doc` is a head of. A device that is not connected has nothing to say, as one
-/// that is none. Throws what the device throws.
-QStringList alertsOfDevice(const DOC_Interface& doc);
+/// What is wrong with the device of a head, as `DOC_Interface::getParentDoc` answers it; may be null. One that is not
+/// connected has nothing to say. Throws what the device throws.
+QStringList alertsOfDevice(const DOC_Interface* device);

@@ -55,7 +55,10 @@ JS_Mediator_WrenTableDialog::JS_Mediator_WrenTableDialog(ZebHost* host, const QS
     m_state.sync.failures = &cycleFailures();
     qRegisterMetaType<DOCKEY>("DOCKEY");
     qRegisterMetaType<PARTITIONNUMBER>("PARTITIONNUMBER");
-    QObject::connect(&m_timers, &UpdateTimers::tick, this, &JS_Mediator_WrenTableDialog::autoUpdate);
+    QObject::connect(&m_timers, &UpdateTimers::tick, this, [this] {
+        cycleFailures().nextCycle();
+        Q_EMIT autoUpdate();
+    });
     QObject::connect(&m_timers, &UpdateTimers::selected, this, &JS_Mediator_WrenTableDialog::slotSelectForUpdate);
     bridgeCall(*this, [this] {
         openSession();

@@ -8,7 +8,6 @@
 #include "DeviceAlerts.h"
 #include "DeviceSpeed.h"
 #include "GatheredFailures.h"
-#include "LogFailure.h"
 #include "MemoryEditing.h"
 #include "RecordProblems.h"
 #include "SignalSources.h"
@@ -66,11 +65,8 @@ void RecordButton::cancel() {
 /// One that does not tell whether it is connected is left to the problems.
 DocList RecordButton::connected() const {
     ZebDocManager& documents = m_host.docManager();
-    DocList docs;
-    for (const DOCKEY key : documents.getConnectedDocKeys(1)) {
-        logFailure([&] { docs += connectedDocs(documents, {key}); });
-    }
-    return docs;
+    GatheredFailures unread;
+    return connectedDocs(documents, documents.getConnectedDocKeys(1), unread);
 }
 
 bool RecordButton::canArm() const {
@@ -112,7 +108,7 @@ QStringList RecordButton::problems() const {
         unread.attempt([&] {
             if (doc->isConnected()) {
                 camera.cameraName = doc->control().getCameraName(1);
-                camera.device = alertsOfDevice(*doc);
+                camera.device = alertsOfDevice(doc->getParentDoc());
                 camera.own = doc->getAlerts();
                 camera.differsFromSignal = hasSignal && !signal.agreesWith(*doc);
             }

@@ -34,9 +34,11 @@ void TableSession::takeAllConnected() {
     m_host.setPrefBool(RecAllConnectedPref, true);
 }
 
+/// One that does not tell whether it is connected says so in its row.
 DocList TableSession::connected() const {
     ZebDocManager& documents = m_host.docManager();
-    return connectedDocs(documents, documents.getConnectedDocKeys());
+    GatheredFailures unread;
+    return connectedDocs(documents, documents.getConnectedDocKeys(), unread);
 }
 
 void TableSession::followConnectedDocs() {

@@ -16,6 +16,8 @@ inline const QString RecAllConnectedPref = QStringLiteral("recording/RecAllConne
 struct TableState {
     /// The document behind the batch row.
     DOCKEY batchDocKey = zeb::NoDocKey;
+    /// The one that stood there and can't be read; it comes back when it can.
+    DOCKEY unreadBatchDocKey = zeb::NoDocKey;
     /// Of the last list of records; `UnreadGroup` until there was one.
     QString group = QLatin1String(UnreadGroup);
     int filter = 0;

@@ -1,7 +1,7 @@
 #pragma once
 
+#include <QHash>
 #include <QMap>
-#include <QSet>
 #include <QStringList>
 
 /// What the update cycles of a page fail to read, by its source: a question of the page, a camera, a hub. GUI thread.
@@ -14,6 +14,8 @@ public:
     /// `source` tells one from the other; `text` is for the user and names what has failed. An empty text is none.
     void failed(const QString& source, const QString& text);
     void whole(const QString& source);
+    /// A cycle begins. What failed before the last one and was not asked in it has nothing to do with this failure.
+    void nextCycle();
     /// Whether everything was whole when it was asked last.
     bool isEmpty() const { return m_failing.isEmpty(); }
 
@@ -21,12 +23,19 @@ public:
     QString takeNew();
 
 private:
+    using Sources = QHash<QString, int>;
     struct Failing {
-        QSet<QString> sources;
+        /// Those that meet it, with the number of the cycle in which they did last.
+        Sources sources;
         int count = 0;
     };
+
+    /// Leaves out the sources that `isOver` tells, and what none meets any more.
+    template <typename IsOver>
+    void drop(IsOver&& isOver);
 
     /// By their texts.
     QMap<QString, Failing> m_failing;
     QStringList m_new;
+    int m_cycle = 0;
 };

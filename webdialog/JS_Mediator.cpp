@@ -38,7 +38,9 @@
 #include <optional>
 
 JS_Mediator::JS_Mediator(ZebHost* host, const QString& name, QObject* parent)
-    : PageBridge(name, parent), m_host(host) {}
+    : PageBridge(name, parent), m_host(host) {
+    connect(this, &JS_Mediator::update, this, [this] { m_cycleFailures.nextCycle(); });
+}
 
 void JS_Mediator::raiseUpdate() {
     Q_EMIT update();

@@ -105,7 +105,8 @@ function onGridClick(view, event) {
     if (control && cell) {
         event.stopPropagation();
         cell.forget();
-        if (!control.matches('[disabled], .disabled')) {
+        // The second click of a double click would take back what the first has done.
+        if (!control.matches('[disabled], .disabled') && !(event.detail > 1 && control.matches('a'))) {
             useControl(view, row, cell, control);
         }
     } else if (row === view.batch) {

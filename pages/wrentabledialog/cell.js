@@ -3,7 +3,8 @@
 // What a cell may show is told by its kind, one a column:
 //   markup          the elements. `part` names one for the writers below, `dockey` and an `id` that begins with
 //                   `wren_` are completed by the row's key, `{short}` is the tab's short name.
-//   empty(record)   whether the cell has no elements at all; asked at a full refresh only
+//   needs           the members of a record without which the cell has no elements either: the camera did not tell them
+//   empty(record)   whether the cell has no elements at all; asked when the row is rebuilt
 //   rebuild(...)    what only a full refresh brings
 //   tick(...)       what every refresh brings; a full refresh runs it after `rebuild`
 //   leave(cell)     before the elements go
@@ -17,6 +18,7 @@ class Cell {
         this.short = short;
         this.content = null; // the root of the markup, made when the cell is first filled
         this.filled = false;
+        this.isRead = true; // the record of the last rebuild told what the cell shows
         this.key = null; // the key that the elements carry
         this.parts = {};
         this.shown = {}; // `part@what` -> value last written
@@ -24,7 +26,8 @@ class Cell {
     }
 
     rebuild(record, status) {
-        const empty = this.kind.empty !== undefined && this.kind.empty(record);
+        this.isRead = this.reads(record);
+        const empty = !this.isRead || (this.kind.empty !== undefined && this.kind.empty(record));
         if (empty) {
             this.clear();
             return;
@@ -35,6 +38,11 @@ class Cell {
             this.kind.rebuild(this, record, status);
         }
         this.tick(record, status);
+    }
+
+    // Whether the record tells what the cell shows.
+    reads(record) {
+        return isBatch(record) || this.kind.needs.every(name => record[name] !== undefined);
     }
 
     tick(record, status) {

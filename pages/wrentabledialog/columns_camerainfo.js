@@ -3,6 +3,7 @@ COLUMNS.connectionStatus = {
     caption: () => translate('Connect') + '/' + translate('Disconnect'),
     size: '5%',
     align: 'left',
+    needs: [],
     empty: record => isBatch(record) && record.recordCount < 1,
     markup: `<div class="flexWrapper" dockey>
         <a class="wren_button_connection_connect" part="on" id="wren_button_connection_connect_" dockey></a>
@@ -20,6 +21,7 @@ COLUMNS.comment = {
     caption: () => translate('Comment'),
     size: '10%',
     align: 'left',
+    needs: ['comment', 'comments'],
     empty: isBatch,
     markup: '<div class="wren_cameraInfo_comment" part="comment" id="wren_cameraInfo_comment_" dockey></div>',
     tick(cell, record, status) {

@@ -2,6 +2,8 @@
 const isBatch = record => record.key === wrentabledialog_obj.batchDocKey;
 const isOff = record => !record.connected;
 const isOffOrBatch = record => isOff(record) || isBatch(record);
+// Whether the camera has told what rules its controls: its lock in live mode, its check in memory mode.
+const isSteered = record => isBatch(record) || record.lock !== undefined || record.check !== undefined;
 const LISTS = ['frameRates', 'shutterSpeeds', 'resolutions', 'triggerModes'];
 const hasDropDowns = record => record.connected && LISTS.every(list => Array.isArray(record[list]));
 
@@ -11,6 +13,7 @@ COLUMNS.lock = {
     caption: () => translate('Lock'),
     size: '5%',
     align: 'right',
+    needs: ['lock', 'lowLightMode'],
     empty: record => isOffOrBatch(record) || record.lowLightMode,
     markup: `<div class="flexWrapper" part="wrapper" dockey>
         <a class="wren_button_lockStatus_lock" part="locked" id="wren_{short}_button_lockStatus_lock_" dockey></a>
@@ -28,6 +31,7 @@ COLUMNS.connectIcon = {
     caption: () => '',
     size: '32px',
     align: 'left',
+    needs: ['mobileSelected'],
     empty: isBatch,
     markup: '<div class="wren_connectIcon" part="icon" id="wren_{short}_connectIcon_" dockey></div>',
     tick(cell, record, status) {
@@ -40,13 +44,14 @@ COLUMNS.cameraName = {
     caption: () => translate('Camera name'),
     size: '20%',
     align: 'left',
+    needs: ['cameraName'],
     markup: `<div class="flexWrapper wren-name-wrapper" dockey>
         <a class="wren_button_edit_camera_name" part="edit" id="wren_{short}_button_edit_camera_name_" dockey></a>
         <label class="wren_label_edit_camera_name" part="label" dockey></label>
         </div>`,
     rebuild(cell, record) {
         const edit = cell.parts.edit;
-        const wanted = !isOffOrBatch(record);
+        const wanted = !isOffOrBatch(record) && isSteered(record);
         if (wanted !== (edit.parentNode !== null)) {
             if (wanted) {
                 cell.content.insertBefore(edit, cell.parts.label);
@@ -64,6 +69,7 @@ COLUMNS.cameraName = {
 
 // A picture that the style sheet chooses by the attributes of the element.
 //   word         the last word of its class and id
+//   needs        as of every kind
 //   attributes   from a record to the attributes
 function pictureColumn(options) {
     const names = Object.keys(options.attributes);
@@ -71,6 +77,7 @@ function pictureColumn(options) {
         caption: () => translate(options.caption),
         size: options.size,
         align: 'right',
+        needs: options.needs,
         empty: options.empty,
         markup: `<div class="wren_${options.word}" part="image" id="wren_{short}_${options.word}_" dockey></div>`,
         tick(cell, record) {
@@ -83,7 +90,9 @@ COLUMNS.alert = pictureColumn({
     caption: 'Alert',
     word: 'alert',
     size: '5%',
-    empty: isOffOrBatch,
+    needs: [],
+    // A camera that does not even tell whether it is connected says why.
+    empty: record => isBatch(record) || (isOff(record) && !record.alert),
     attributes: { alert: record => String(record.alert !== ''), alerts: record => record.alert }
 });
 
@@ -91,6 +100,7 @@ COLUMNS.cameraStatus = pictureColumn({
     caption: 'State of the camera',
     word: 'cameraStatus',
     size: '10%',
+    needs: ['cameraStatus'],
     empty: isOff,
     attributes: { status: record => record.cameraStatus }
 });
@@ -99,6 +109,7 @@ COLUMNS.sync = pictureColumn({
     caption: 'Sync signal input state',
     word: 'sync',
     size: '10%',
+    needs: ['syncStatus'],
     empty: isOff,
     attributes: { sync: record => record.syncStatus }
 });
@@ -109,9 +120,10 @@ function plainColumn(caption, field) {
         caption: () => translate(caption),
         size: '10%',
         align: 'left',
+        needs: [field],
         markup: '<span class="wren_text" part="text" dockey></span>',
         rebuild(cell, record) {
-            cell.text('text', record[field] === undefined ? '' : record[field]);
+            cell.text('text', record[field] === undefined ? '' : record[field]); // the batch row may have none
         }
     };
 }

@@ -2,6 +2,7 @@
 
 // A drop-down: a caption until it is opened, see `dropDown`.
 //   word       the last word of the select's class and id
+//   needs      as of every kind
 //   choices    the list of a record, objects with `value` and `name`
 //   value      the present value of a record
 //   locked     whether the select is disabled beyond what holds for the whole list
@@ -15,6 +16,7 @@ function dropDownColumn(options) {
         choices: options.choices,
         value: options.value,
         send: options.send,
+        needs: options.needs,
         empty: isOff,
         markup: `<div class="SumoSelect compact" part="frame" dockey>
             <select class="${name} SumoUnder" part="select" id="${name}_" tabindex="-1" dockey>
@@ -33,7 +35,8 @@ function dropDownColumn(options) {
             cell.classes('frame', disabled ? 'SumoSelect compact disabled' : 'SumoSelect compact');
             cell.attribute('frame', 'tabindex', disabled ? '-1' : '0');
             cell.flag('select', 'disabled', disabled);
-        }
+        },
+        leave: cell => dropDown.closeOf(cell)
     };
 }
 
@@ -55,6 +58,7 @@ function showChoice(cell, value, full) {
 COLUMNS.frameRate = dropDownColumn({
     caption: 'Frame rate',
     word: 'framerate',
+    needs: ['frameRates', 'frameRate'],
     choices: record => record.frameRates,
     value: record => record.frameRate,
     locked: record => Boolean(record.lock || record.lowLightMode),
@@ -64,6 +68,7 @@ COLUMNS.frameRate = dropDownColumn({
 COLUMNS.shutterSpeed = dropDownColumn({
     caption: 'Shutter speed',
     word: 'shutterSpeed',
+    needs: ['shutterSpeeds', 'shutterSpeed'],
     choices: record => record.shutterSpeeds,
     value: record => record.shutterSpeed,
     locked: record => Boolean(record.lock),
@@ -73,6 +78,7 @@ COLUMNS.shutterSpeed = dropDownColumn({
 COLUMNS.resolution = dropDownColumn({
     caption: 'Resolution',
     word: 'resolution',
+    needs: ['resolutions', 'resolution'],
     choices: record => record.resolutions.map(text => ({ value: text, name: text })),
     value: record => record.resolution,
     locked: record => Boolean(record.lock || record.lowLightMode),
@@ -82,6 +88,7 @@ COLUMNS.resolution = dropDownColumn({
 COLUMNS.trigger = dropDownColumn({
     caption: 'Trigger mode',
     word: 'trigger',
+    needs: ['triggerModes', 'triggerMode'],
     choices: record => record.triggerModes,
     value: record => record.triggerMode,
     locked: record => Boolean(record.lock || record.lowLightMode),
@@ -92,6 +99,7 @@ COLUMNS.reduce = {
     caption: () => translate('Live speed'),
     size: '60px',
     align: 'center',
+    needs: ['reduceModeSupported', 'reduceMode'],
     empty: record => isOff(record) || record.reduceModeSupported === false,
     markup: () => `<div class="flexWrapper" part="wrapper" dockey>
         <a class="wren_button_reduce reduceON" part="on"
@@ -114,6 +122,7 @@ COLUMNS.lowlight = {
     caption: () => translate('Lowlight'),
     size: '200px',
     align: 'left',
+    needs: ['lowLightMode', 'lowLightType', 'shutterSpeeds', 'shutterSpeed'],
     empty: isOff,
     markup: () => `<div class="flexWrapper" part="wrapper" dockey>
         <a class="wren_button_lowlight lowlightON" part="on"

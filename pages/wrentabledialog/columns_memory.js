@@ -8,6 +8,7 @@ COLUMNS.recordCheck = {
     caption: () => translate('recordCheck'),
     size: '10%',
     align: 'right',
+    needs: ['check', 'totalFrame'],
     empty: record => isOffOrBatch(record) || record.totalFrame < 1,
     markup: `<div class="flexWrapper" part="wrapper" dockey>
         <input type="checkbox" class="wren_checkbox_recordCheck" part="box" id="wren_{short}_recordCheck_" dockey>
@@ -25,6 +26,7 @@ COLUMNS.recordCheck = {
 
 // A number box, see `numberBox`. Its widget takes `min` and `max` from the element.
 //   word   the last word of the input's id, which the key follows directly
+//   needs  as of every kind
 //   min, max, value   from a record to the number as text
 //   send   the bridge call that takes the keys and the new number
 function spinnerColumn(options) {
@@ -33,6 +35,7 @@ function spinnerColumn(options) {
         size: '10%',
         align: 'left',
         send: options.send,
+        needs: options.needs.concat('totalFrame'),
         empty: record => isOff(record) || !record.totalFrame,
         markup: `<input type="text" class="spinner" part="input" id="wren_spinner_${options.word}" dockey>`,
         rebuild(cell, record) {
@@ -68,6 +71,7 @@ function spinnerColumn(options) {
 COLUMNS.selectStartFrameNo = spinnerColumn({
     caption: 'selectStartFrameNo',
     word: 'select_start_frameno',
+    needs: ['selectStartMinFrameNo', 'selectStartFrameNo', 'selectEndFrameNo'],
     min: record => record.selectStartMinFrameNo,
     max: record => record.selectEndFrameNo,
     value: record => record.selectStartFrameNo,
@@ -77,6 +81,7 @@ COLUMNS.selectStartFrameNo = spinnerColumn({
 COLUMNS.selectEndFrameNo = spinnerColumn({
     caption: 'selectEndFrameNo',
     word: 'select_end_frameno',
+    needs: ['selectStartFrameNo', 'selectEndFrameNo', 'selectEndMaxFrameNo'],
     min: record => record.selectStartFrameNo,
     max: record => record.selectEndMaxFrameNo,
     value: record => record.selectEndFrameNo,
@@ -86,6 +91,7 @@ COLUMNS.selectEndFrameNo = spinnerColumn({
 COLUMNS.triggerOffset = spinnerColumn({
     caption: 'triggerOffset',
     word: 'trigger_offset',
+    needs: ['triggerOffset'],
     min: record => record.minTriggerOffset,
     max: record => record.maxTriggerOffset,
     value: record => record.triggerOffset,

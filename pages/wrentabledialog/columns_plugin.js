@@ -3,6 +3,7 @@ COLUMNS.plugin = {
     caption: () => translate('Plugin'),
     size: '50%',
     align: 'left',
+    needs: ['plugins'],
     empty: isOff,
     markup: `<div id="effects" dockey>
         <div class="flexWrapper wren_effect_icons" part="icons" id="wren_{short}_effect_icons_" dockey></div>

@@ -36,7 +36,8 @@ Object.assign(wrentabledialog_obj, {
 
     editComment(view, key) {
         const record = view.newest.get(key);
-        if (!record || !record.connected || record.lock || this.isBlocked()) {
+        const isOpen = record && record.connected && record.lock === false && record.comments !== undefined;
+        if (!isOpen || this.isBlocked()) {
             return;
         }
         closeTip();

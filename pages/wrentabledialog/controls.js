@@ -175,11 +175,13 @@ Object.assign(wrentabledialog_obj, {
         zeb4func.disable('#recording_partition, #recording_partition_span_button', true);
     },
 
-    // A mode that came from outside moves the page to the last tab of that mode.
+    // A mode that came from outside moves the page to the last tab of that mode. Where its header is hidden, to the
+    // first one whose header shows.
     moveTo(memory, number) {
         if (this.tabsExist() && TABS[this.activeTab()].memory !== memory) {
+            const shown = (memory ? MEMORY : LIVE).filter(tab => !tabHeader(tab).hidden);
             this.disableTabs(false);
-            $('#tabs').tabs('option', 'active', number);
+            $('#tabs').tabs('option', 'active', shown.length === 0 || shown.includes(number) ? number : shown[0]);
         }
     },
 

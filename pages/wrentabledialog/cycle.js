@@ -29,6 +29,11 @@ Object.assign(wrentabledialog_obj, {
             zeb4func.disable('.groupButton', true);
         }
         this.refreshActionArea();
+        if (this.isChangedDisplay()) {
+            this.refreshDisplayElement();
+            this.leaveHiddenTab();
+            automatic = false;
+        }
         const active = this.activeTab();
         if (this.isChangedColumns(active)) {
             this.resetAllColumns(active);

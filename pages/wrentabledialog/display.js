@@ -33,7 +33,17 @@ Object.assign(wrentabledialog_obj, {
         });
     },
 
+    displayFlags() {
+        return wrentabledialog_const_obj.displaySettingsArray.map(key => wrentabledialog.getPrefBool(key)).join();
+    },
+
+    // Whether the display keys are others than those that the page shows.
+    isChangedDisplay() {
+        return this.shownFlags !== undefined && this.shownFlags !== this.displayFlags();
+    },
+
     refreshDisplayElement() {
+        this.shownFlags = this.displayFlags();
         const active = this.activeTab();
         const view = viewAt(active);
         view.together(() => {
@@ -61,15 +71,19 @@ Object.assign(wrentabledialog_obj, {
         }
     },
 
-    // Leaves a tab whose header a display key hides.
     refreshAllControls() {
         this.refreshDisplayElement();
+        this.leaveHiddenTab();
+        this.update();
+    },
+
+    // Leaves a tab whose header a display key hides.
+    leaveHiddenTab() {
         const active = this.activeTab();
         if (tabHeader(active).hidden) {
             const home = TABS[active].memory ? MEMORY[0] : LIVE[0];
             $('#tabs').tabs('option', 'active', home);
         }
-        this.update();
     }
 });
 

@@ -3,9 +3,11 @@
 const dropDown = {
     holder: null,
     select: null,
+    cell: null, // whose list is open
 
     open(cell, up, choose) {
         this.close();
+        this.cell = cell;
         const select = document.createElement('select');
         select.className = cell.parts.select.className.replace(' SumoUnder', '');
         cell.choices.forEach(choice => {
@@ -53,7 +55,14 @@ const dropDown = {
         }
     },
 
+    closeOf(cell) {
+        if (this.cell === cell) {
+            this.close();
+        }
+    },
+
     remove() {
+        this.cell = null;
         if (this.holder) {
             document.body.removeChild(this.holder);
             this.holder = null;

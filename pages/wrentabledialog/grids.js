@@ -83,6 +83,7 @@ Object.assign(wrentabledialog_obj, {
 
 // Texts that are longer than their place stand whole in a tip.
 let tipOwner = null;
+let tipText = () => '';
 
 function textTip(box, items, textOf) {
     $(box).tooltip({
@@ -90,10 +91,24 @@ function textTip(box, items, textOf) {
         content() {
             return escapeMarkup(textOf(this));
         },
-        open: event => { tipOwner = event.originalEvent.target; },
+        open: event => {
+            tipOwner = event.originalEvent.target.closest(items);
+            tipText = textOf;
+        },
         close: () => { tipOwner = null; },
         hide: false
     });
+}
+
+// Shows the text as it is by now.
+function followTip() {
+    const shown = document.querySelector('.ui-tooltip-content');
+    const text = tipOwner && shown ? tipText(tipOwner) : '';
+    if (text !== '') {
+        setText(shown, text);
+    } else {
+        closeTip();
+    }
 }
 
 function closeTip() {

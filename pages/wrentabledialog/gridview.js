@@ -143,6 +143,7 @@ class GridView {
         if (this.batch) {
             this.tickRow(this.batch);
         }
+        followTip();
     }
 
     tickRow(row) {

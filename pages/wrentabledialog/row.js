@@ -32,11 +32,17 @@ class DrawnRow {
     // Draws the record as a full refresh does. `line` counts from 1.
     rebuild(record, line, status) {
         this.bind(record, line);
+        this.isSteered = isSteered(record);
         this.style(status.style);
         this.cells.forEach(cell => cell.rebuild(record, status));
     }
 
+    // A row whose camera has ceased to tell something, or tells it again, is built anew.
     tick(record, status) {
+        if (isSteered(record) !== this.isSteered || this.cells.some(cell => cell.reads(record) !== cell.isRead)) {
+            this.rebuild(record, this.line, status);
+            return;
+        }
         this.style(status.style);
         this.cells.forEach(cell => cell.tick(record, status));
     }

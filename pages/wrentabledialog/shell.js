@@ -111,7 +111,10 @@ document.addEventListener('DOMContentLoaded', () => {
     wrentabledialog_obj.resizeTableElements();
 });
 
-$(window).on('resize', () => wrentabledialog_obj.resizeTableElements());
+$(window).on('resize', () => {
+    wrentabledialog_obj.closeFloating(); // what floats over a row does not move with it
+    wrentabledialog_obj.resizeTableElements();
+});
 
 $(window).on('load', () => {
     wrentabledialog_obj.resizeTableElements();

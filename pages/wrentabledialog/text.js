@@ -22,7 +22,7 @@ function guarded(action) {
     try {
         return action();
     } catch (error) {
-        wrentabledialog.alert(error.message);
+        wrentabledialog.alert(textOfError(error));
         return undefined;
     }
 }
@@ -57,13 +57,20 @@ function onSwitch(selector, work) {
     $(selector).on('change', event => guarded(() => work(event.currentTarget.checked)));
 }
 
-// Runs what the back end asked for; nobody else would hear of a failure.
+// Runs what the back end asked for. An exception that left a function connected to a signal of the bridge would end the
+// program.
 function logged(action) {
     try {
         action();
     } catch (error) {
-        wrentabledialog.userOperationErrorLog(`${error.message} (line ${error.line})`);
+        const line = error && error.line ? ` (line ${error.line})` : '';
+        wrentabledialog.userOperationErrorLog(textOfError(error) + line);
     }
+}
+
+// Anything can be thrown, null too.
+function textOfError(error) {
+    return error && error.message ? error.message : String(error);
 }
 
 // Writes to elements that other code writes too: only where the element differs.

@@ -33,6 +33,7 @@ void clearMemoryMembers(Record& record) {
 void BatchRecord::offer(DOCKEY key, bool selected, bool whole, const Record& record) {
     ++m_count;
     if (!whole) {
+        m_chosenUnread = m_chosenUnread || key == m_chosen;
         return;
     }
     if (key == m_chosen) {

@@ -16,6 +16,8 @@ public:
 
     /// The document that was copied: the chosen one, else the last that is selected, else `chosen` as it was.
     DOCKEY source() const;
+    /// Whether the chosen one is listed and not whole.
+    bool isChosenUnread() const { return m_chosenUnread; }
     /// The row, after all others were offered.
     Record build(const ZebHost& host) const;
 
@@ -23,6 +25,7 @@ private:
     DOCKEY m_chosen;
     DOCKEY m_lastSelected = zeb::NoDocKey;
     bool m_chosenListed = false;
+    bool m_chosenUnread = false;
     int m_count = 0;
     Record m_chosenRecord;
     Record m_lastSelectedRecord;

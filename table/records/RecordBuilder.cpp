@@ -7,6 +7,7 @@
 #include "DOC_Interface.h"
 #include "DeviceAlerts.h"
 #include "FailureText.h"
+#include "GatheredFailures.h"
 #include "TableState.h"
 #include "ZebDocManager.h"
 #include "ZebHost.h"
@@ -83,6 +84,7 @@ RecordBuilder::Row RecordBuilder::build(DOC_Interface& doc, DOCKEY key, int reci
     bool current = false;
     QString alert;
     attempt([&] { connected = doc.isConnected(); });
+    const bool isKnown = failure.isEmpty();
     attempt([&] { selected = (connected || select) && doc.isSelected(); });
     if (select && !selected) {
         attempt([&] {
@@ -97,7 +99,11 @@ RecordBuilder::Row RecordBuilder::build(DOC_Interface& doc, DOCKEY key, int reci
     row.record.setFlag(QLatin1String("connected"), connected);
     row.record.setFlag(QLatin1String("selected"), row.selected);
     row.record.setFlag(QLatin1String("current"), current);
-    attempt([&] { addMembers(row.record, doc, connected); });
+    if (isKnown) {
+        attempt([&] { addMembers(row.record, doc, connected); });
+    } else {
+        attempt([&] { commonmembers::addAlways(row.record, doc); });
+    }
     if (failure.isEmpty()) {
         attempt([&] { alert = connected ? alertOf(doc) : QString(); });
     }
@@ -121,8 +127,12 @@ void RecordBuilder::addMembers(Record& record, DOC_Interface& doc, bool connecte
 }
 
 QString RecordBuilder::alertOf(DOC_Interface& doc) const {
-    QStringList alerts = alertsOfDevice(doc);
-    alerts += doc.getAlerts();
+    // What the device does not answer is its own row's matter.
+    const DOC_Interface* device = doc.getParentDoc();
+    GatheredFailures ofDevice;
+    QStringList alerts;
+    ofDevice.attempt([&] { alerts = alertsOfDevice(device); });
+    alerts += ofDevice.lines() + doc.getAlerts();
     alerts.removeDuplicates();
     if (m_signalGivesFrequency && !m_signal.agreesWith(doc)) {
         alerts += m_host.translate(SignalDiffersText);
@@ -155,13 +165,13 @@ void RecordBuilder::addLive(Record& record, DOC_Interface& doc, bool connected) 
 
 void RecordBuilder::addMemory(Record& record, DOC_Interface& doc, bool connected) {
     record.setFlag(QLatin1String("check"), doc.frames().isRecordCheck());
-    record.setText(QLatin1String("totalFrame"), {});
     if (m_memoryInfo) {
         m_memoryInfo->add(record, doc, connected);
-    } else if (m_tab == MemoryPluginTab) {
-        if (connected) {
-            record.setText(QLatin1String("totalFrame"), QString::number(doc.head().getFrameTotal(1, 0)));
-        }
+        return;
+    }
+    const bool counted = connected && m_tab == MemoryPluginTab;
+    record.setText(QLatin1String("totalFrame"), counted ? QString::number(doc.head().getFrameTotal(1, 0)) : QString());
+    if (m_tab == MemoryPluginTab) {
         pluginmembers::add(record, doc, m_host, connected);
     }
 }

@@ -221,7 +221,8 @@ RecordModel::Answer RecordModel::build(const RecordRequest& request, const Group
     ZebDocManager& documents = m_host.docManager();
     const bool selectListed = request.group != m_state.group;
     RecordBuilder builder(m_host, m_state, request.tab, failures);
-    BatchRecord batch(m_state.batchDocKey);
+    const DOCKEY chosen = m_state.unreadBatchDocKey != zeb::NoDocKey ? m_state.unreadBatchDocKey : m_state.batchDocKey;
+    BatchRecord batch(chosen);
     Answer answer;
     QString rows;
     int recid = 0;
@@ -238,6 +239,7 @@ RecordModel::Answer RecordModel::build(const RecordRequest& request, const Group
         batch.offer(key, row.selected, row.whole, row.record);
     }
     m_state.batchDocKey = batch.source();
+    m_state.unreadBatchDocKey = batch.isChosenUnread() ? chosen : zeb::NoDocKey;
     answer.json = QStringLiteral("{\"records\":[") % rows % QLatin1String("],\"batch\":[");
     batch.build(m_host).appendTo(answer.json);
     answer.json += QLatin1String("]}");

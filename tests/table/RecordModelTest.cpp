@@ -1,5 +1,8 @@
+#include "CycleFailures.h"
 #include "TableFixture.h"
 #include "TableState.h"
+#include "camera/FaultOperations.h"
+#include "camera/FaultPlan.h"
 #include "records/NumberFormat.h"
 #include "records/RecordModel.h"
 #include "records/SyncMembers.h"
@@ -160,9 +163,13 @@ protected:
         change(6, {{"recorded", true}});
     }
 
-    QString records(const char* request) { return model.getRecords(QString::fromUtf8(request)).json; }
+    RecordModel::Answer getRecords(const char* request) {
+        return model.getRecords(QString::fromUtf8(request), failures);
+    }
+    QString records(const char* request) { return getRecords(request).json; }
 
     TableState state;
+    CycleFailures failures;
     RecordModel model{host, state};
 };
 
@@ -264,7 +271,7 @@ TEST_F(RecordModelTest, changeOfGroupSelectsTheGroupAndNothingElse) {
     state.groups = {{"Nozzles", {"192.168.0.13"}}, {"Front", {"192.168.0.11", "192.168.0.12"}}};
     calls();
 
-    RecordModel::Answer answer = model.getRecords(R"({"group":"Nozzles","tab":0})");
+    RecordModel::Answer answer = getRecords(R"({"group":"Nozzles","tab":0})");
     EXPECT_TRUE(answer.selectionChanged);
     EXPECT_EQ(keysOf(answer.json), (QStringList{"3", "4"}));
     EXPECT_TRUE(row(answer.json, 1).value("selected").toBool());
@@ -273,11 +280,11 @@ TEST_F(RecordModelTest, changeOfGroupSelectsTheGroupAndNothingElse) {
               (QStringList{R"(ZebHost::setPrefString ["wren/table/group","Nozzles"])", "ZebDocManager::deselectDoc [1]",
                            "ZebDocManager::deselectDoc [2]", "ZebDocManager::selectDoc [4]"}));
 
-    answer = model.getRecords(R"({"group":"Nozzles","tab":0})");
+    answer = getRecords(R"({"group":"Nozzles","tab":0})");
     EXPECT_FALSE(answer.selectionChanged);
     EXPECT_EQ(calls(), QStringList());
 
-    answer = model.getRecords(R"({"group":"Nobody","tab":0})");
+    answer = getRecords(R"({"group":"Nobody","tab":0})");
     EXPECT_EQ(keysOf(answer.json), QStringList());
     EXPECT_EQ(calls(), (QStringList{R"(ZebHost::setPrefString ["wren/table/group","Nobody"])",
                                     "ZebDocManager::deselectDoc [3]", "ZebDocManager::deselectDoc [4]"}));
@@ -290,23 +297,28 @@ TEST_F(RecordModelTest, nothingIsDeselectedWhileRecordingOrWhenTheHostKeepsItsSe
                                   "ZebDocManager::selectDoc [4]"};
     calls();
     state.recordRunning = true;
-    EXPECT_TRUE(model.getRecords(R"({"group":"Nozzles"})").selectionChanged);
+    change(5, {{"recordState", zeb::RecordReady}});
+    EXPECT_TRUE(getRecords(R"({"group":"Nozzles"})").selectionChanged);
     EXPECT_EQ(calls(), selectsOnly);
+    EXPECT_TRUE(state.recordRunning);
 
-    state.recordRunning = false;
+    change(5, {{"recordState", zeb::RecordLive}});
+    host.flags().set("IsSelectionKept", true);
+    getRecords(R"({"group":"Nozzles"})");
+    EXPECT_FALSE(state.recordRunning) << "the camera that had come ready has gone back";
     state.group.clear();
     change(4, {{"selected", false}});
     host.flags().set("IsSelectionKept", true);
-    model.getRecords(R"({"group":"Nozzles"})");
+    getRecords(R"({"group":"Nozzles"})");
     EXPECT_EQ(calls(), selectsOnly);
 }
 
 TEST_F(RecordModelTest, firstListAfterOpeningSelectsEveryCamera) {
     state.group = QLatin1String(UnreadGroup);
-    EXPECT_FALSE(model.getRecords(R"({"group":"","filter":1})").selectionChanged) << "none is listed";
+    EXPECT_FALSE(getRecords(R"({"group":"","filter":1})").selectionChanged) << "none is listed";
     state.group = QLatin1String(UnreadGroup);
     change(2, {{"connected", true}});
-    EXPECT_TRUE(model.getRecords(R"({"group":""})").selectionChanged);
+    EXPECT_TRUE(getRecords(R"({"group":""})").selectionChanged);
     EXPECT_TRUE(stateOf(2, "selected").toBool());
 }
 
@@ -422,6 +434,108 @@ TEST_F(RecordModelTest, listsGroupsAndFindsTheOneToShow) {
         EXPECT_EQ(groupToShow(each.held, each.stored, state.groups), each.shown) << each.sentence;
     }
     EXPECT_EQ(groupToShow("C", "B", {}), "C") << "without groups nothing is looked up";
+}
+
+/// What a row of `asked` holds although the camera did not tell it: a member that is another than in the whole row.
+QStringList untrueMembers(const QJsonObject& asked, const QJsonObject& whole, const QStringList& stand) {
+    QStringList untrue;
+    for (auto member = asked.begin(); member != asked.end(); ++member) {
+        if (!stand.contains(member.key()) && member.value() != whole.value(member.key())) {
+            untrue.append(member.key());
+        }
+    }
+    return untrue;
+}
+
+TEST_F(RecordModelTest, aCameraThatDoesNotAnswerHasARowOfWhatItToldAndLeavesTheOthersAlone) {
+    bringCamerasIntoUse();
+    giveInputsAndIrig();
+    givePlugins();
+    giveRecordings();
+    const DOCKEY failing = 7;
+    state.batchDocKey = failing;
+    int rowsWithReasons = 0;
+    for (int tab = 0; tab < 7; ++tab) {
+        host.appStatus().enterMode(tab < 5 ? zeb::LiveMode : zeb::MemoryMode);
+        const QByteArray request = R"({"tab":)" + QByteArray::number(tab) + '}';
+        const QString before = records(request.constData());
+        for (const QString& operation : cameraOperations()) {
+            SCOPED_TRACE("tab " + std::to_string(tab) + ", " + operation.toStdString());
+            host.faults().plant(failing, operation, {"no answer", 0, false});
+            const QString meanwhile = records(request.constData());
+            const bool isAsked = meanwhile != before;
+            rowsWithReasons += isAsked ? 1 : 0;
+            for (int i = 0; i < 8; ++i) {
+                const QJsonObject shown = row(meanwhile, i);
+                if (i == failing - 1 && isAsked) {
+                    EXPECT_EQ(shown.value("alert").toString(), "Impact: no answer");
+                    EXPECT_EQ(untrueMembers(shown, row(before, i), {"alert", "connected", "selected", "current"}),
+                              QStringList());
+                } else {
+                    EXPECT_TRUE(shown == row(before, i)) << "row " << i;
+                }
+            }
+            records(request.constData());
+            const QString told = failures.takeNew();
+            EXPECT_EQ(told.right(17), isAsked ? "Impact: no answer" : "") << "told once";
+            EXPECT_FALSE(told.contains('\n'));
+            host.faults().clear();
+            EXPECT_TRUE(records(request.constData()) == before) << "as it was";
+            EXPECT_TRUE(failures.isEmpty());
+        }
+    }
+    EXPECT_GT(rowsWithReasons, 80);
+}
+
+TEST_F(RecordModelTest, whatSteersARowIsReadApart) {
+    bringCamerasIntoUse();
+    state.groups = {{"Nozzles", {"192.168.0.13"}}};
+    const auto rowOf = [this](const char* operation, const char* request) {
+        host.faults().plant(1, operation, {"no answer", 0, false});
+        return row(records(request), 0);
+    };
+    QJsonObject gate = rowOf("isConnected", R"({"tab":1})");
+    EXPECT_EQ(gate.value("connected"), false);
+    EXPECT_EQ(gate.value("cameraName"), "Gate");
+    EXPECT_FALSE(gate.contains("lock")) << "no camera is shown as open that did not say so";
+    host.faults().clear();
+
+    change(1, {{"selected", true}});
+    gate = rowOf("isSelected", R"({"tab":1})");
+    EXPECT_EQ(gate.value("selected"), false);
+    EXPECT_TRUE(gate.contains("frameRate"));
+    host.faults().clear();
+
+    // It may belong to any group, and nobody knows whether its selection is right.
+    EXPECT_EQ(rowOf("getAddress", R"({"group":"Nozzles","tab":1})").value("key"), "1");
+    EXPECT_TRUE(stateOf(1, "selected").toBool());
+    host.faults().clear();
+
+    state.batchDocKey = 2;
+    host.faults().plant(2, "getCameraStatus", {"no answer", 0, false});
+    const QJsonObject batch = QJsonDocument::fromJson(records(R"({"tab":1})").toUtf8())["batch"][0].toObject();
+    EXPECT_EQ(state.batchDocKey, 7U) << "the last selected one";
+    host.faults().clear();
+    records(R"({"tab":1})");
+    EXPECT_EQ(state.batchDocKey, 2U) << "it can be read again";
+    EXPECT_TRUE(batch.contains("frameRate"));
+}
+
+TEST_F(RecordModelTest, aDeviceWhoseFirstHeadIsOffHasNoAlerts) {
+    connectAll();
+    change(3, {{"connected", false}, {"alerts", QStringList{"The device is warm"}}});
+    EXPECT_EQ(row(records(R"({"tab":1})"), 3).value("alert"), "The lens is missing");
+    EXPECT_TRUE(failures.isEmpty());
+}
+
+TEST_F(RecordModelTest, aListThatCameToNothingSelectsNobodyAndTheNextOneDoes) {
+    connectAll();
+    state.group = QLatin1String(UnreadGroup);
+    host.faults().plant(FaultPlan::Host, "getDocKeys", {"no answer", 0, false});
+    EXPECT_THROW(records(R"({"tab":1})"), std::exception);
+    host.faults().clear();
+    EXPECT_TRUE(getRecords(R"({"tab":1})").selectionChanged);
+    EXPECT_TRUE(stateOf(8, "selected").toBool());
 }
 
 TEST_F(RecordModelTest, reduceModeIsSuspendedForOneOrForAny) {

@@ -37,7 +37,8 @@ protected:
     }
 
     void setState(int state) {
-        for (const DOCKEY key : {1, 2, 3, 4}) change(key, {{"recordState", state}});
+        const char* const flags[] = {"IsCTSReady", "IsReady", "IsRecording", "IsRecordingError"};
+        for (int i = 1; i <= 4; ++i) host.flags().set(flags[i - 1], i == state);
     }
 
     /// The user reads the warning that comes, and says yes or no.
@@ -240,19 +241,47 @@ TEST_F(RecordingTest, anAreaGoesToTheCamerasOfItsRate) {
                            "DOC_Frames::setRecordAreaStart [2,-5]", "DOC_Frames::setRecordAreaEnd [2,5]"}));
 }
 
-TEST_F(RecordingTest, aFailureBeforeArmingIsToldAndNothingIsArmed) {
+TEST_F(RecordingTest, aCameraThatDoesNotAnswerIsNamedAndTheOthersAreArmed) {
     host.setPrefBool("recording/area", true);
     bridge->state().areas = {{1000, {-100, 200}}};
-    for (const char* operation : {"getAlerts", "setRecordCheck", "getRecordRate"}) {
+    const QString problem = "Problem with camera.\n";
+    const struct {
+        const char* operation;
+        QString warned;
+        QStringList toldAfterwards;
+    } cases[] = {
+        {"isConnected", problem + "Ramp: no answer", {}},
+        {"getCameraName", problem + "Ramp: no answer", {}},
+        {"getAlerts", problem + "Ramp・・Ramp: no answer", {}},
+        {"setRecordCheck", {}, {"Ramp: no answer"}},
+        {"getRecordRate", {}, {"Ramp: no answer"}},
+        {"setRecordAreaEnd", {}, {"Ramp: no answer"}},
+    };
+    for (const auto& each : cases) {
+        SCOPED_TRACE(each.operation);
+        for (const DOCKEY key : {1, 2, 3}) {
+            change(key, {{"rate", 1000}, {"recordCheck", true}, {"recordArea", QVariantList{0, 0}}});
+        }
         desk.shown.clear();
-        host.faults().plant(2, operation, {"no answer", 0, false});
-        bridge->setRecordRunning();
-        EXPECT_EQ(press(), QStringList()) << operation;
-        EXPECT_FALSE(bridge->state().recordRunning) << operation;
-        ASSERT_EQ(desk.shown.size(), 1) << operation;
-        EXPECT_TRUE(desk.texts().first().contains("Ramp")) << operation;
+        warning.clear();
+        host.faults().plant(2, each.operation, {"no answer", 0, false});
+        if (!each.warned.isEmpty()) answerWarning(true);
+        EXPECT_EQ(press(), Armed);
+        EXPECT_EQ(warning, each.warned);
+        EXPECT_EQ(desk.texts(), each.toldAfterwards);
+        EXPECT_TRUE(bridge->state().recordRunning);
+        EXPECT_EQ(stateOf(3, "recordArea").toList(), (QVariantList{-100, 200})) << "the camera behind it";
+        EXPECT_FALSE(stateOf(3, "recordCheck").toBool());
         host.faults().clear();
+        bridge->cancelRecord();
     }
+
+    host.setPrefBool("wren/display/lock", true);
+    for (const DOCKEY key : {1, 2, 3, 4}) change(key, {{"locked", true}});
+    host.faults().plant(2, "isParamLocked", {"no answer", 0, false});
+    desk.shown.clear();
+    EXPECT_EQ(press(), QStringList()) << "nobody knows whether it is locked";
+    EXPECT_EQ(desk.texts(), QStringList{"Lock all connected cameras.\nRamp: no answer"});
 }
 
 TEST_F(RecordingTest, aFailureAtTheOpeningKeepsNobodyFromRecording) {

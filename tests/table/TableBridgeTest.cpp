@@ -59,7 +59,8 @@ TEST_F(TableBridgeTest, aFailedCameraLeavesTheOthersChangedAndOneMessage) {
 
     EXPECT_EQ(course.take(),
               (QStringList{R"(info: [ENTER] "JS_Mediator_WrenTableDialog::setFrameRate" "[keys:1,2,3,5] [val:2000]")",
-                           "update", R"(info: [LEAVE] "JS_Mediator_WrenTableDialog::setFrameRate")", "box"}));
+                           "update", R"(info: [LEAVE] "JS_Mediator_WrenTableDialog::setFrameRate")",
+                           R"(critical: "Nozzle left: no answer")", "box"}));
     EXPECT_EQ(calls(), QStringList{"ZebCameraOps::setRecordRate [[1,2,3,5],2000]"});
     ASSERT_EQ(desk.shown.size(), 1);
     EXPECT_TRUE(desk.texts().first().contains("Nozzle left"));

@@ -141,12 +141,30 @@ TEST_F(ControlStatusTest, DocumentIsTheCurrentOneOrTheOneGiven) {
     EXPECT_FALSE(changes(host.doc(2)).contains("+IsWrenLockDevice"));
 }
 
-TEST_F(ControlStatusTest, FailureIsShownAndLeavesNothing) {
+QSet<QString> keysOf(const QString& json) {
+    const QStringList keys = QJsonDocument::fromJson(json.toUtf8()).object().keys();
+    return QSet<QString>(keys.begin(), keys.end());
+}
+
+TEST_F(ControlStatusTest, AFailureIsToldOnceUntilTheStatesAreWholeAgain) {
     change(1, "selected", true);
-    host.faults().plant(1, "isSuspendReduce", {"no answer", 0, false});
-    course.take();
-    EXPECT_EQ(bridge.getControlStatus(), QString());
-    EXPECT_EQ(course.take(), QStringList({"pause", "errorHandler Camera 1: no answer", "resume"}));
+    const QString whole = bridge.getControlStatus();
+    const QStringList told{"pause", "critical: \"Camera 1: no answer\"", "errorHandler Camera 1: no answer", "resume"};
+    const QStringList over{"pause", "critical: \"Camera 1: no answer\" is over, met 2 times.", "resume"};
+    for (int i = 0; i < 2; ++i) {
+        host.faults().plant(1, "isSuspendReduce", {"no answer", 0, false});
+        course.take();
+        const QSet<QString> missing = keysOf(whole) - keysOf(bridge.getControlStatus());
+        EXPECT_EQ(missing, (QSet<QString>{"IsSuspendReduce", "IsExternalMediaSelected"})) << "its own and no others";
+        EXPECT_EQ(course.take(), told);
+        bridge.getControlStatus();
+        EXPECT_EQ(course.take(), QStringList({"pause", "resume"}));
+        host.faults().clear();
+        EXPECT_EQ(bridge.getControlStatus(), whole);
+        EXPECT_EQ(course.take(), over);
+    }
+    host.failing = "*";
+    EXPECT_EQ(bridge.getControlStatus(), QString()) << "nothing can be said of a host that fails";
 }
 
 }  // namespace
