@@ -24,7 +24,7 @@ function dropDownColumn(options) {
             <p class="CaptionCont SelectBox ${name}" dockey><span part="text" dockey></span></p>
             </div>`,
         rebuild(cell, record) {
-            cell.choices = hasDropDowns(record) ? options.choices(record) : [];
+            cell.choices = record.connected ? options.choices(record) : [];
             showChoice(cell, options.value(record), true);
         },
         tick(cell, record, status) {

@@ -1,8 +1,11 @@
 // From `getRecords` to the rows.
 Object.assign(wrentabledialog_obj, {
     // A full refresh brings the list of cameras and draws every row; an automatic one only what rows show already.
-    refreshRecords(tabkey, autoUpdate) {
+    // One that got no list is owed, and made at the next refresh of any kind.
+    refreshRecords(tabkey, isAuto) {
+        const autoUpdate = isAuto && !this.owesRebuild;
         const data = this.fetchRecords(tabkey);
+        this.owesRebuild = !autoUpdate && !data;
         if (!data) {
             return;
         }

@@ -37,6 +37,8 @@ public:
     void show(int tab);
     /// A tick of the timer, and where it wrote to.
     QStringList tick() { return list(QStringLiteral("probe.writes(() => wrentabledialog_obj.autoUpdate())")); }
+    /// From here on the errors of the page's scripts go into `lines`; null: they fail the test, as they did before.
+    static void expectErrors(QStringList* lines);
     /// Waits until a script answers true; false when it never does.
     bool until(const QString& script);
     /// Waits for the update that was asked for.

@@ -1,0 +1,154 @@
+#include "TablePage.h"
+#include "camera/FaultOperations.h"
+#include "camera/FaultPlan.h"
+
+#include <gtest/gtest.h>
+
+// What the table shows of a camera that does not answer, and of all others meanwhile.
+
+namespace {
+
+/// What differs from the shapes that were kept: of other rows, and of the row `7` beside its alert and what is empty.
+const char* Differences = R"js((() => {
+    const now = probe.shapes();
+    const isEmpty = field => {
+        const row = probe.drawn().find(one => one.querySelector('[dockey="7"]') !== null);
+        const column = probe.grid().columns.findIndex(one => one.field === field);
+        return row !== undefined && row.querySelector(`td[col="${column}"] > div`).children.length === 0;
+    };
+    const stands = ['row', 'alert'].concat(%1);
+    return Object.keys(probe.before).filter(place => now[place] !== probe.before[place]).filter(place => {
+        const [key, field] = place.split('/');
+        return key !== '7' || !(stands.includes(field) || isEmpty(field));
+    });
+})())js";
+
+const char* Changed =
+    "(() => { const now = probe.shapes();"
+    "return Object.keys(now).filter(place => now[place] !== probe.before[place]); })()";
+
+/// The cells that show something else than before because the camera did not tell an `operation`.
+QString standing(const QString& operation) {
+    if (operation == "isConnected") return "['connectIcon', 'connectionStatus', 'cameraName']";
+    // The pencil beside the name is there when the camera has told what rules its controls.
+    const QStringList ruling{"isParamLocked", "isMobileSelected", "isRecordCheck"};
+    return ruling.contains(operation) ? "['cameraName']" : "[]";
+}
+
+class PageFailures : public testing::Test {
+protected:
+    PageFailures() {
+        connectCameras(test, 1, 8);
+        for (DOCKEY key = 1; key <= 8; ++key) {
+            test.camera(key).change({{"lowLight", false},
+                                     {"recorded", true},
+                                     {"recordedRange", QVariantList{0, 99}},
+                                     {"recordedTrigger", 50},
+                                     {"selectedRange", QVariantList{10, 90}}});
+        }
+    }
+    ~PageFailures() override { test.desk.shown.clear(); }
+
+    void open(int tab) {
+        page = std::make_unique<TablePage>(test, tab);
+        test.desk.shown.clear();
+    }
+    void plant(DOCKEY key, const QString& operation) { test.host.faults().plant(key, operation, Fault{"no answer"}); }
+    void takeAway(DOCKEY key, const QString& operation) { test.host.faults().plant(key, operation, {}); }
+    QStringList told() {
+        page->settle();
+        const QStringList texts = test.desk.texts();
+        test.desk.shown.clear();
+        return texts;
+    }
+
+    TestHost test{Rig::fromFile(QStringLiteral("eight-mixed"))};
+    std::unique_ptr<TablePage> page;
+};
+
+TEST_F(PageFailures, AGetterThatFailsEmptiesItsCellsAndNoOtherRow) {
+    open(0);
+    int shown = 0;
+    for (int tab = 0; tab < 7; ++tab) {
+        page->show(tab);
+        page->run("probe.before = probe.shapes(); return 0");
+        for (const QString& operation : cameraOperations()) {
+            SCOPED_TRACE("tab " + std::to_string(tab) + ", " + operation.toStdString());
+            plant(7, operation);
+            const QStringList writes = page->tick();
+            const QStringList texts = told();
+            if (texts.isEmpty()) {
+                EXPECT_EQ(writes, QStringList()) << "nobody has asked for it";
+                takeAway(7, operation);
+                continue;
+            }
+            EXPECT_EQ(texts.size(), 1);
+            ++shown;
+            EXPECT_EQ(page->list(QString(Differences).arg(standing(operation))), QStringList());
+            takeAway(7, operation);
+            page->tick();
+            EXPECT_EQ(page->list(Changed), QStringList()) << "as it was";
+            EXPECT_EQ(told(), QStringList());
+        }
+    }
+    EXPECT_GT(shown, 80);
+}
+
+TEST_F(PageFailures, TheOtherRowsFollowAndKeepTheirOpenLists) {
+    open(1);
+    page->click(".SumoSelect[dockey=\"2\"] p.wren_livecontrol_resolution");
+    plant(3, "getRecordRate");
+    test.camera(4).set(&CameraState::locked, true);
+    page->tick();
+    EXPECT_EQ(page->text("$('#wren_livecontrol_alert_3').attr('alerts')"), "Nozzle left: no answer");
+    EXPECT_EQ(page->number("$('#wren_livecontrol_framerate_3').length"), 0);
+    EXPECT_EQ(page->number("$('#wren_livecontrol_button_lockStatus_lock_4:visible').length"), 1);
+    takeAway(3, "getRecordRate");
+    page->tick();
+    EXPECT_EQ(page->text("$('#wren_livecontrol_framerate_3').val()"),
+              QString::number(test.camera(3).get(&CameraState::rate)));
+    EXPECT_EQ(page->number("$('.wren-dropdown .options li').length > 0 ? 1 : 0"), 1) << "the list of camera 2";
+    EXPECT_EQ(told(), QStringList{"Nozzle left: no answer"});
+}
+
+TEST_F(PageFailures, ARefreshThatGotNoListIsMadeUpFor) {
+    open(0);
+    page->show(5);
+    plant(FaultPlan::Host, "getDocKeys");
+    page->run("$('#tabs').tabs('option', 'active', 0); return 0");
+    page->settle();
+    told();
+    takeAway(FaultPlan::Host, "getDocKeys");
+    test.camera(2).change({{"connected", false}});
+    page->tick();
+    EXPECT_EQ(page->number("$('#wren_cameraInfo_alert_2').length"), 0) << "a tick alone would leave it standing";
+    EXPECT_EQ(page->number("probe.drawn().length"), 8);
+}
+
+TEST_F(PageFailures, WhatTheUserAsksForIsToldAlthoughTheTicksHaveToldIt) {
+    open(0);
+    plant(FaultPlan::Host, "getRecordingState");
+    page->tick();
+    page->tick();
+    EXPECT_EQ(told().size(), 1);
+    page->run("wrentabledialog.record(); return 0");
+    page->run("wrentabledialog.record(); return 0");
+    EXPECT_EQ(told().size(), 2);
+}
+
+TEST_F(PageFailures, AnExceptionInWhatTheBackEndRaisesEndsInTheLog) {
+    open(0);
+    QStringList lines;
+    page->expectErrors(&lines);
+    for (const char* name : {"open", "update", "autoUpdate"}) {
+        for (const char* thrown : {"null", "undefined", "new Error('broken')", "'text'"}) {
+            page->run(QString("probe.kept = wrentabledialog_obj.%1; wrentabledialog_obj.%1 = () => { throw %2; };"
+                              "try { wrentabledialog.%1(); } finally { wrentabledialog_obj.%1 = probe.kept; } return 0")
+                          .arg(name, thrown));
+        }
+    }
+    EXPECT_EQ(lines.size(), 12) << lines.join('\n').toStdString();
+    EXPECT_EQ(page->number("probe.drawn().length"), 8);
+}
+
+}  // namespace
