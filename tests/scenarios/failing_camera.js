@@ -66,7 +66,8 @@ check(zeb.page(`$('.SumoSelect[dockey="3"] p.wren_livecontrol_framerate span').t
     'each row shows what its camera has');
 
 zeb.fault(3, 'getRecordRate', {throws: 'does not answer'});
-zeb.wait(500);
+const seen = zeb.page('ticks');
+zeb.until(`ticks >= ${seen + 5}`);
 const news = zeb.messages();
 check(news.length === 1 && news[0].answer === '' && news[0].text === 'Gate <3>: does not answer',
     'what the ticks meet is told once and beside the work: ' + JSON.stringify(news));

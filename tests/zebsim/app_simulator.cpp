@@ -25,6 +25,26 @@ protected:
     Simulator simulator{line};
 };
 
+TEST_F(ViewerTest, DrawsItselfWhileAllThatPluginsAskFails) {
+    SimHost& host = simulator.host();
+    host.faults().plant(FaultPlan::Host, "*", Fault{"no answer", 0, false});
+    host.cameras().find(1)->change({{"connected", true}});
+    host.prefs().setValue("env/style", "light");
+    const ScenarioDialogs dialogs;
+    QTimer::singleShot(0, &simulator.window(), [&] {
+        host.updates().request();
+        QCoreApplication::processEvents();
+        auto* record = simulator.window().findChild<QAction*>("record");
+        EXPECT_TRUE(record->isEnabled());
+        record->trigger();
+        EXPECT_EQ(host.recorder().state(), zeb::RecordReady);
+        host.tell(Message::Info, "a box");
+        simulator.quit();
+    });
+    EXPECT_EQ(simulator.run([] {}), 0);
+    EXPECT_EQ(simulator.window().property("style"), "light");
+}
+
 TEST_F(ViewerTest, EndsTheApplicationWhenItIsClosed) {
     simulator.host().cameras().find(1)->change({{"connected", true}, {"recordState", zeb::RecordReady}});
     {

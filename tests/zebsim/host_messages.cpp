@@ -74,6 +74,46 @@ TEST_F(Messages, AFailureIsABoxAndALineEachTimeAndOneOfTheCycleOnlyANotice) {
     EXPECT_EQ(log.take(), QStringList()) << "whoever met it has written it down";
 }
 
+TEST_F(Messages, AFaultIsMetByTheCallThatItIsPlantedOn) {
+    const QString address = QStringLiteral("192.168.0.61");
+    host.setRig(Rig::fromFile(QStringLiteral("sync")));
+    host.signalDevices().open(1);
+    host.signalDevices().search(3, 1);
+    const QList<std::function<void()>> calls{[&] { host.getPrefBool(QStringLiteral("a")); },
+                                             [&] { host.setPrefBool(QStringLiteral("a"), true); },
+                                             [&] { host.docManager().getDocKeys(); },
+                                             [&] { host.recorder().isRecording(); },
+                                             [&] { host.cameraOps().canSync({}); },
+                                             [&] { host.undo().canUndo(); },
+                                             [&] { host.isModalDialogOpening(), host.saver().isSaving(); },
+                                             [&] { host.signalDevices().findByAddress(address); },
+                                             [&] { host.signalDevices().hub(address)->getRole(); },
+                                             [&] { test.doc(1)->isConnected(); }};
+    const Fault fault{QStringLiteral("no answer"), 0, false};
+    const auto failing = [&] {
+        QList<int> numbers;
+        for (int n = 0; n < calls.size(); ++n) {
+            try {
+                calls[n]();
+            } catch (const std::runtime_error&) {
+                numbers.append(n);
+            }
+        }
+        return numbers;
+    };
+    const QList<int> canFail{0, 1, 2, 3, 4, 5, 7, 8, 9};
+    for (int i = 0; i < canFail.size(); ++i) {
+        host.faults().plantAt(i + 1, fault);
+        EXPECT_EQ(failing(), QList<int>{canFail[i]}) << "call " << i + 1 << " of cameras, hubs and host";
+    }
+    host.faults().clear();
+    host.faults().plant(FaultPlan::Host, QStringLiteral("getDocKeys"), fault);
+    EXPECT_EQ(failing(), QList<int>{2});
+    host.faults().plant(FaultPlan::Host, QStringLiteral("*"), fault);
+    EXPECT_EQ(failing(), (QList<int>{0, 1, 2, 3, 4, 5, 7}));
+    EXPECT_NO_THROW(host.tell(Message::Info, QStringLiteral("the host's own")));
+}
+
 TEST_F(Messages, JournalIsARingWithMarks) {
     Journal journal;
     QSignalSpy spy(&journal, &Journal::recorded);

@@ -41,7 +41,17 @@ AppWindows::~AppWindows() {
     m_host.setAppDesk(nullptr);
 }
 
+void AppWindows::setPage(const QString& page) {
+    m_host.calls().ask("setPage");
+    m_page = page;
+}
+
 int AppWindows::exec() {
+    m_host.calls().ask("exec");
+    return runPreferences();
+}
+
+int AppWindows::runPreferences() {
     auto* dialog = new PreferencesDialog(m_host.prefs(), m_host.getMainWindow());
     dialog->openAt(std::exchange(m_page, {}));
     const bool before = m_host.flags().isOn(DialogState);
@@ -89,7 +99,7 @@ void AppWindows::runProgress(const QString& text, QFutureWatcherBase& watcher) {
 }
 
 QImage AppWindows::currentImage() const {
-    const CameraWindow* window = m_images.find(m_host.docManager().getCurrentDockey(0));
+    const CameraWindow* window = m_images.find(m_host.docManager().currentKey());
     if (window == nullptr || !window->view().frame()) return {};
     const CameraFrame& frame = *window->view().frame();
     return drawFrame(frame, frame.resolution);

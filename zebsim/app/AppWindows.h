@@ -25,6 +25,7 @@ public:
     void setPluginFile(const QString& path) { m_pluginFile = path; }
 
     ZebPrefsDialog* prefsDialog() override { return this; }
+    void openPreferences() override { runPreferences(); }
     void openEthernetSettings() override;
     void openAbout() override;
     void runProgress(const QString& text, QFutureWatcherBase& watcher) override;
@@ -39,8 +40,9 @@ public:
     QRect dropDownBoxRect(const QString& key) const override;
 
 private:
-    void setPage(const QString& page) override { m_page = page; }
+    void setPage(const QString& page) override;
     int exec() override;
+    int runPreferences();
 
     SimHost& m_host;
     const LogStore& m_log;

@@ -52,7 +52,7 @@ void CameraWindows::follow() {
 }
 
 void CameraWindows::addAndRemove() {
-    const DocKeyList wanted = m_host.isFileMode() ? DocKeyList() : m_host.docManager().getConnectedDocKeys();
+    const DocKeyList wanted = m_host.isFileMode() ? DocKeyList() : m_host.cameras().keysOf(&CameraState::connected);
     const DocKeyList present = m_windows.keys();
     if (wanted == present) return;
     for (const DOCKEY key : present) {
@@ -81,7 +81,7 @@ void CameraWindows::addAndRemove() {
 }
 
 void CameraWindows::activateCurrent() {
-    CameraWindow* current = find(m_host.docManager().getCurrentDockey(0));
+    CameraWindow* current = find(m_host.docManager().currentKey());
     if (current == m_current) return;
     m_current = current;
     if (current != nullptr) m_area.setActiveSubWindow(current);
@@ -93,7 +93,7 @@ void CameraWindows::windowActivated(QMdiSubWindow* window) {
     if (m_changing || window == nullptr || window == m_active) return;
     m_active = window;
     const DOCKEY chosen = static_cast<CameraWindow*>(window)->key();
-    if (chosen == m_host.docManager().getCurrentDockey(0)) return;
+    if (chosen == m_host.docManager().currentKey()) return;
     m_host.docManager().selectOnly({chosen});
     m_host.updates().request();
 }

@@ -9,7 +9,10 @@
 int runDialog(SimHost& host, QDialog* dialog) {
     // The dialog goes with the main window, which may be destroyed while it stands.
     const QPointer<QDialog> standing = dialog;
-    applyNativeStyle(host, *dialog);
+    {
+        const HostCalls::Own own;
+        applyNativeStyle(host, *dialog);
+    }
     host.docManager().endTurn();
     const int result = dialog->exec();
     delete standing;

@@ -75,7 +75,7 @@ HostKeys::HostKeys(SimHost& host, QToolBar& bar)
 void HostKeys::record() {
     if (m_sinceRecord.isValid() && m_sinceRecord.elapsed() < QApplication::doubleClickInterval()) return;
     SimRecorder& recorder = m_host.recorder();
-    const int state = recorder.getRecordingState();
+    const int state = recorder.state();
     if (state != m_shownState) {
         refresh();
     } else if (state == zeb::RecordError) {
@@ -96,21 +96,21 @@ void HostKeys::disconnectAll() {
         return;
     }
     try {
-        m_host.cameras().forEach(m_host.docManager().getConnectedDocKeys(), [](Camera& camera) {
+        m_host.cameras().forEach(m_host.cameras().keysOf(&CameraState::connected), [](Camera& camera) {
             // Its heads go together.
             if (camera.get(&CameraState::connected)) camera.disconnect();
         });
     } catch (const std::exception& e) {
-        m_host.errorHandler(e);
+        m_host.tellFailure(e);
     }
     m_host.updates().request();
 }
 
 void HostKeys::refresh() {
-    const int state = m_host.recorder().getRecordingState();
+    const int state = m_host.recorder().state();
     m_shownState = state;
     const bool isLive = m_host.isLiveMode();
-    const bool hasCameras = !m_host.docManager().getConnectedDocKeys().isEmpty();
+    const bool hasCameras = !m_host.cameras().connected().empty();
     m_record->setText(recordText(isLive ? state : int(zeb::RecordLive)));
     m_record->setEnabled(isLive && hasCameras && state != zeb::RecordCtsReady);
     const auto cameras = m_host.cameras().all();

@@ -3,6 +3,7 @@
 #include "BoxText.h"
 #include "Style.h"
 #include "ZebHost.h"
+#include "host/HostCalls.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -122,6 +123,7 @@ void MessageBoxes::notify(const Message& message) {
 }
 
 QMessageBox* MessageBoxes::makeBox(const Message& message) const {
+    const HostCalls::Own own;
     const QString whole = (QStringList(message.text) << message.list).join(QLatin1Char('\n'));
     auto* box = new QMessageBox(QMessageBox::NoIcon, {}, {}, buttonsOf(message), message.parent);
     setKind(*box, message.kind);

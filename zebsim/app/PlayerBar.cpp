@@ -37,7 +37,7 @@ PlayerBar::PlayerBar(SimHost& host, CameraWindows& windows, QWidget* parent)
 }
 
 Camera* PlayerBar::current() const {
-    Camera* camera = m_host.cameras().find(m_host.docManager().getCurrentDockey(0));
+    Camera* camera = m_host.cameras().find(m_host.docManager().currentKey());
     return camera != nullptr && camera->get(&CameraState::connected) && camera->recording() ? camera : nullptr;
 }
 

@@ -2,6 +2,7 @@
 
 #include "GUI_MarqueeProgressDialog.h"
 #include "ZebHost.h"
+#include "host/HostCalls.h"
 
 #include <QCloseEvent>
 #include <QEventLoop>
@@ -28,8 +29,10 @@ void waitWithProgress(ZebHost& host, const QString& text, QFutureWatcherBase& wa
     QObject::connect(&watcher, &QFutureWatcherBase::finished, &loop, &QEventLoop::quit);
     StayOpen stayOpen;
     // It goes with the main window, which may be destroyed meanwhile.
-    const QPointer<GUI_MarqueeProgressDialog> progress =
-        new GUI_MarqueeProgressDialog(&host, host.translate(text), {}, true);
+    const QPointer<GUI_MarqueeProgressDialog> progress = [&] {
+        const HostCalls::Own own;
+        return new GUI_MarqueeProgressDialog(&host, host.translate(text), {}, true);
+    }();
     progress->installEventFilter(&stayOpen);
     progress->show();
     loop.exec();

@@ -11,6 +11,6 @@ bool mayLetGoOfRecording(SimHost& host, const QString& question) {
     if (host.choose(question, nullptr, answers, QMessageBox::No) != QMessageBox::Yes) return false;
     // What has been recorded by now was not what the question was about.
     if (host.recorder().isUnderWay()) return true;
-    host.info(uiText("The recording has ended meanwhile. Nothing was done."), nullptr);
+    host.tell(Message::Info, uiText("The recording has ended meanwhile. Nothing was done."));
     return false;
 }

@@ -25,7 +25,7 @@ bool SaveDesk::isSaving() const {
 
 void SaveDesk::save(bool layout) {
     if (isSaving() || m_asking) {
-        m_host.info(uiText("Images are being saved already."), nullptr);
+        m_host.tell(Message::Info, uiText("Images are being saved already."));
         return;
     }
     const SaveSources sources = saveSources(m_host.cameras());
@@ -39,7 +39,7 @@ void SaveDesk::save(bool layout) {
     if (tracks.empty()) {
         QStringList lines;
         for (const AbsentCamera& camera : absent) lines << absentText(camera);
-        m_host.warnList(uiText("No connected camera has recorded images."), lines, nullptr);
+        m_host.tell(Message::Warn, uiText("No connected camera has recorded images."), lines);
         return;
     }
     const QPointer<QWidget> before = QApplication::activeWindow();
@@ -57,7 +57,7 @@ void SaveDesk::save(bool layout) {
 void SaveDesk::begin(const SaveOrders& orders, QWidget* before) {
     auto job = std::make_unique<SaveJob>(m_host.cameras(), orders);
     if (const auto refusal = job->start()) {
-        m_host.alert(refusalText(*refusal, orders), nullptr);
+        m_host.tell(Message::Alert, refusalText(*refusal, orders));
         return;
     }
     m_job = std::move(job);
@@ -66,6 +66,7 @@ void SaveDesk::begin(const SaveOrders& orders, QWidget* before) {
 }
 
 void SaveDesk::showProgress(QWidget* before) {
+    const HostCalls::Own own;
     // Nobody has closed the last one's list of results.
     delete m_progress;
     m_progress = new SaveProgress(*m_job, m_host.getMainWindow());

@@ -37,15 +37,14 @@ void openSettings(SimHost& host) {
 }
 
 void writeFile(SimHost& host, const QImage& image) {
-    const Camera* camera = host.cameras().find(host.docManager().getCurrentDockey(0));
+    const Camera* camera = host.cameras().find(host.docManager().currentKey());
     const QString folder = host.prefs().value(Topic % QStringLiteral("/folder")).toString();
     const SaveFormat& format = saveFormat(host.prefs().value(Topic % QStringLiteral("/format")).toString());
     try {
         writeSnapShot(folder, camera ? camera->name() : QString(), QDateTime::currentDateTime(), format, image);
     } catch (const FileError& e) {
-        host.alert(uiText("%1 can't be written: %2")
-                       .arg(QDir::toNativeSeparators(e.file()), uiText(QString::fromUtf8(e.what()))),
-                   nullptr);
+        host.tell(Message::Alert, uiText("%1 can't be written: %2")
+                                      .arg(QDir::toNativeSeparators(e.file()), uiText(QString::fromUtf8(e.what()))));
     }
 }
 
@@ -57,7 +56,7 @@ void takeSnapShot(SimHost& host, const QImage& image, int mode) {
         return;
     }
     if (image.isNull()) {
-        host.info(uiText("There is no image to take."), nullptr);
+        host.tell(Message::Info, uiText("There is no image to take."));
         return;
     }
     if (mode == ToClipboard || mode == ToBoth) QGuiApplication::clipboard()->setImage(image);

@@ -9,7 +9,6 @@
 #include "SaveKeys.h"
 #include "Style.h"
 #include "UiText.h"
-#include "ZebPrefsDialog.h"
 #include "camera/Camera.h"
 #include "host/AppDesk.h"
 #include "host/SimHost.h"
@@ -100,7 +99,7 @@ void ViewerWindow::addDialogs(AppDesk& desk) {
         action->setObjectName(QLatin1String(name));
         connect(action, &QAction::triggered, this, open);
     };
-    add("Preferences", "preferences", [&desk] { desk.prefsDialog()->exec(); });
+    add("Preferences", "preferences", [&desk] { desk.openPreferences(); });
     add("Ethernet", "ethernet", [&desk] { desk.openEthernetSettings(); });
     add("About ZEB", "about", [&desk] { desk.openAbout(); });
 }
@@ -114,6 +113,7 @@ QAction* ViewerWindow::addChoice(QActionGroup* group, const QString& text, const
 }
 
 void ViewerWindow::refresh() {
+    const HostCalls::Own own;
     const auto cameras = m_host.cameras().all();
     const auto connected = std::count_if(cameras.begin(), cameras.end(),
                                          [](const Camera* camera) { return camera->get(&CameraState::connected); });

@@ -61,9 +61,6 @@ void FaultPlan::clear() {
 }
 
 Fault FaultPlan::meet(DOCKEY key, const char* operation) {
-    if (!m_any) {
-        return {};
-    }
     const std::lock_guard lock(m_mutex);
     const auto faults = m_faults.value(key);
     const QString name = QString::fromLatin1(operation);
@@ -78,6 +75,9 @@ Fault FaultPlan::meet(DOCKEY key, const char* operation) {
 }
 
 QString FaultPlan::suffer(DOCKEY key, const char* operation, Clock& clock) {
+    if (!m_any) {
+        return {};
+    }
     const Fault fault = meet(key, operation);
     clock.wait(fault.delay);
     return isGone(key) ? QString() : fault.throws;

@@ -23,21 +23,25 @@ struct Fault {
     bool isEmpty() const { return throws.isEmpty() && delay <= 0 && !gone; }
 };
 
-/// The faults planted on cameras, and on what else has a key here, by key and operation. Any thread.
+/// The faults planted on cameras, hubs and the host itself, by key and operation. Any thread.
 ///
 /// Operations are named as the host call is: "setRecordRate", "getRecordRate", "connectDocs". "*" stands for all that
 /// have no fault of their own.
 class FaultPlan {
 public:
+    /// Key of the host; no camera has it.
+    static constexpr DOCKEY Host = zeb::NoDocKey;
+
     /// To be told when a camera goes; on the thread that finds out, and without asking the plan.
     void whenGone(std::function<void()> tell) { m_tellGone = std::move(tell); }
 
     /// Plants a fault in the place of an earlier one. An empty fault takes it away, and brings a camera back that it
     /// had made gone.
     void plant(DOCKEY key, const QString& operation, const Fault& fault);
-    /// Plants a fault on the call number `call` of those that any camera gets from now on, counted from 1.
+    /// Plants a fault on the call number `call` of those that cameras, hubs and the host get from now on, counted
+    /// from 1.
     void plantAt(int call, const Fault& fault);
-    /// Calls of cameras since `plantAt`.
+    /// Those calls since `plantAt`.
     int callCount() const;
     void clear();
 

@@ -1,6 +1,6 @@
 #include "camera/ModelCatalogue.h"
 
-#include "camera/CameraOperations.h"
+#include "camera/FaultOperations.h"
 #include "camera/JsonNode.h"
 #include "camera/PlainState.h"
 

@@ -17,6 +17,7 @@ public:
     /// The dialog of preferences; never null.
     virtual ZebPrefsDialog* prefsDialog() = 0;
     /// Each runs until the user has closed it.
+    virtual void openPreferences() = 0;
     virtual void openEthernetSettings() = 0;
     virtual void openAbout() = 0;
     /// A modal progress with `text` until `watcher` has finished; nothing cancels it.

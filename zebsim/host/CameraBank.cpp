@@ -97,6 +97,32 @@ std::vector<Camera*> CameraBank::all() const {
     return cameras;
 }
 
+std::vector<Camera*> CameraBank::connected() const {
+    std::vector<Camera*> cameras = all();
+    cameras.erase(std::remove_if(cameras.begin(), cameras.end(),
+                                 [](const Camera* camera) { return !camera->get(&CameraState::connected); }),
+                  cameras.end());
+    return cameras;
+}
+
+DocKeyList CameraBank::keys() const {
+    DocKeyList keys;
+    for (const Camera* camera : all()) {
+        keys.append(camera->key());
+    }
+    return keys;
+}
+
+DocKeyList CameraBank::keysOf(bool CameraState::*member) const {
+    DocKeyList keys;
+    for (const Camera* camera : all()) {
+        if (camera->get(member)) {
+            keys.append(camera->key());
+        }
+    }
+    return keys;
+}
+
 std::vector<Camera*> CameraBank::known() const {
     std::vector<Camera*> cameras;
     for (const auto& camera : m_cameras) {

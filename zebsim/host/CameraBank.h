@@ -11,6 +11,7 @@ class Camera;
 class CameraDevice;
 class Clock;
 class FaultPlan;
+struct CameraState;
 struct Rig;
 
 /// The cameras of the host, each with its key. Keys count from 1 in the order of the rig. GUI thread.
@@ -41,8 +42,12 @@ public:
     void forEach(const DocKeyList& keys, const std::function<void(Camera&)>& work) const;
     /// In the order of their keys, without those that are gone or not found yet.
     std::vector<Camera*> all() const;
+    std::vector<Camera*> connected() const;
     /// With those that are gone or not found.
     std::vector<Camera*> known() const;
+    /// Keys of `all`, and of those of them that are so, as `keysOf(&CameraState::selected)`.
+    DocKeyList keys() const;
+    DocKeyList keysOf(bool CameraState::*member) const;
 
 private:
     void waitFor(const std::vector<const CameraDevice*>& devices);

@@ -1,7 +1,7 @@
 #pragma once
 
+class HostCalls;
 class ImageTools;
-class Journal;
 class Preferences;
 class SimAppStatus;
 class SimDocManager;
@@ -10,7 +10,7 @@ class Translator;
 
 /// What the topics of a document reach of the host.
 struct DocContext {
-    Journal& journal;
+    const HostCalls& calls;
     ImageTools& tools;
     const Preferences& prefs;
     const SimAppStatus& appStatus;

@@ -34,7 +34,7 @@ void PluginSlot::open() {
         m_plugin.getDialog(true);
         m_plugin.showDialog();
     } catch (const std::exception& e) {
-        m_host.errorHandler(e);
+        m_host.tellFailure(e);
     }
 }
 
@@ -44,8 +44,8 @@ void PluginSlot::close() {
 
 bool PluginSlot::isChecked() const {
     SimDocManager& docs = m_host.docManager();
-    DOC_Interface* doc = docs.getCurrentDoc();
-    const DocKeyList keys = docs.getDocKeys();
+    DOC_Interface* doc = docs.getDocAny(docs.currentKey());
+    const DocKeyList keys = m_host.cameras().keys();
     if (!doc && !keys.isEmpty()) {
         // Without a selection any document speaks for the button.
         doc = docs.getDocAny(keys.first());

@@ -2,7 +2,7 @@
 
 #include "camera/Camera.h"
 #include "host/DocContext.h"
-#include "host/Journal.h"
+#include "host/HostCalls.h"
 
 bool SimActivity::isSuspendReduce() const {
     m_camera.ask("isSuspendReduce");
@@ -15,6 +15,6 @@ bool SimActivity::isStopLive() const {
 }
 
 void SimActivity::refresh(bool force) {
-    m_context.journal.record("DOC_Activity::refresh", {m_camera.key(), force});
+    m_context.calls.note("DOC_Activity::refresh", {m_camera.key(), force});
     m_camera.askConnected("refresh");
 }

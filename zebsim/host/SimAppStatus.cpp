@@ -3,17 +3,17 @@
 #include "DOC_Interface.h"
 #include "camera/Camera.h"
 #include "host/CameraBank.h"
+#include "host/HostCalls.h"
 #include "host/HostEvents.h"
 #include "host/ImagePlugins.h"
-#include "host/Journal.h"
 #include "host/StatusFlags.h"
 #include "host/UpdateCycle.h"
 
 #include <stdexcept>
 
-SimAppStatus::SimAppStatus(Journal& journal, HostEvents& events, UpdateCycle& updates, const CameraBank& cameras,
+SimAppStatus::SimAppStatus(const HostCalls& calls, HostEvents& events, UpdateCycle& updates, const CameraBank& cameras,
                            const StatusFlags& flags)
-    : m_journal(journal), m_events(events), m_updates(updates), m_cameras(cameras), m_flags(flags) {}
+    : m_calls(calls), m_events(events), m_updates(updates), m_cameras(cameras), m_flags(flags) {}
 
 void SimAppStatus::registerPlugin(PLG_Interface* plugin) {
     m_plugins.append(plugin);
@@ -51,6 +51,7 @@ PLG_Interface* SimAppStatus::getPlugin(const QString& name) const {
 }
 
 bool SimAppStatus::isPluginEnabledFor(const QString& name, DOC_Interface* doc) const {
+    m_calls.ask("isPluginEnabledFor");
     const Camera* camera = doc ? m_cameras.find(doc->getKey()) : nullptr;
     return camera && camera->get(&CameraState::plugins).contains(name) &&
            !camera->get(&CameraState::blockedPlugins).contains(name);
@@ -72,7 +73,7 @@ void SimAppStatus::setCurrentPlugin(PLG_Interface* plugin) {
 }
 
 void SimAppStatus::openPlugin(const QString& name) {
-    m_journal.record("ZebAppStatus::openPlugin", {name});
+    m_calls.change("ZebAppStatus::openPlugin", {name});
     if (getPlugin(name)) {
         Q_EMIT m_events.pluginWanted(name);
     } else if (imageplugins::has(name)) {
@@ -85,12 +86,12 @@ void SimAppStatus::openPlugin(const QString& name) {
 }
 
 void SimAppStatus::clearCurrentPlugin() {
-    m_journal.record("ZebAppStatus::clearCurrentPlugin");
+    m_calls.change("ZebAppStatus::clearCurrentPlugin");
     setCurrentPlugin(nullptr);
 }
 
 void SimAppStatus::closePlugin(const QString& name) {
-    m_journal.record("ZebAppStatus::closePlugin", {name});
+    m_calls.change("ZebAppStatus::closePlugin", {name});
     if (m_panel == name) {
         m_panel.clear();
     }
@@ -105,16 +106,16 @@ void SimAppStatus::closePlugin(const QString& name) {
 }
 
 void SimAppStatus::closePanel() {
-    m_journal.record("ZebAppStatus::closePanel");
+    m_calls.change("ZebAppStatus::closePanel");
     setCurrentPlugin(nullptr);
 }
 
 void SimAppStatus::closeAuxiliaryPanel() {
-    m_journal.record("ZebAppStatus::closeAuxiliaryPanel");
+    m_calls.change("ZebAppStatus::closeAuxiliaryPanel");
 }
 
 void SimAppStatus::setWrenRunning(bool running) {
-    m_journal.record("ZebAppStatus::setWrenRunning", {running});
+    m_calls.note("ZebAppStatus::setWrenRunning", {running});
     m_wrenRunning = running;
 }
 
@@ -127,12 +128,12 @@ void SimAppStatus::notifyPluginClosed(PLG_Interface* plugin) {
 }
 
 void SimAppStatus::enterLiveMode() {
-    m_journal.record("ZebAppStatus::enterLiveMode");
+    m_calls.change("ZebAppStatus::enterLiveMode");
     enterMode(zeb::LiveMode);
 }
 
 void SimAppStatus::enterMemoryMode() {
-    m_journal.record("ZebAppStatus::enterMemoryMode");
+    m_calls.change("ZebAppStatus::enterMemoryMode");
     enterMode(zeb::MemoryMode);
 }
 

@@ -8,14 +8,14 @@
 
 class CameraBank;
 class HostEvents;
-class Journal;
+class HostCalls;
 class StatusFlags;
 class UpdateCycle;
 
 /// Plug-ins by name, running flags, and the mode.
 class SimAppStatus : public ZebAppStatus {
 public:
-    SimAppStatus(Journal& journal, HostEvents& events, UpdateCycle& updates, const CameraBank& cameras,
+    SimAppStatus(const HostCalls& calls, HostEvents& events, UpdateCycle& updates, const CameraBank& cameras,
                  const StatusFlags& flags);
 
     /// A registered plug-in takes part in update cycles.
@@ -56,7 +56,7 @@ public:
     bool isImageTriggerDetecting() const override;
 
 private:
-    Journal& m_journal;
+    const HostCalls& m_calls;
     HostEvents& m_events;
     UpdateCycle& m_updates;
     const CameraBank& m_cameras;

@@ -1,23 +1,24 @@
 #include "host/SimCameraOps.h"
 
 #include "DOC_Interface.h"
-#include "ZebDocManager.h"
-#include "ZebRecorder.h"
-#include "ZebSaver.h"
 #include "camera/Camera.h"
 #include "camera/SyncSource.h"
 #include "host/CameraBank.h"
+#include "host/HostCalls.h"
 #include "host/Journal.h"
 #include "host/Notices.h"
 #include "host/Preferences.h"
+#include "host/SimDocManager.h"
+#include "host/SimRecorder.h"
+#include "host/SimSaver.h"
 #include "host/StatusFlags.h"
 
 #include <algorithm>
 
-SimCameraOps::SimCameraOps(Journal& journal, CameraBank& cameras, const ZebDocManager& docs,
-                           const ZebRecorder& recorder, const ZebSaver& saver, const Preferences& prefs,
+SimCameraOps::SimCameraOps(const HostCalls& calls, CameraBank& cameras, const SimDocManager& docs,
+                           const SimRecorder& recorder, const SimSaver& saver, const Preferences& prefs,
                            const StatusFlags& flags, Notices& notices)
-    : m_journal(journal),
+    : m_calls(calls),
       m_cameras(cameras),
       m_docs(docs),
       m_recorder(recorder),
@@ -27,17 +28,17 @@ SimCameraOps::SimCameraOps(Journal& journal, CameraBank& cameras, const ZebDocMa
       m_notices(notices) {}
 
 void SimCameraOps::searchCamera(const QString& address) {
-    m_journal.record("ZebCameraOps::searchCamera", {address});
+    m_calls.change("ZebCameraOps::searchCamera", {address});
     m_cameras.search(address.section(QLatin1Char('.'), 0, 2));
 }
 
 void SimCameraOps::discoverCameras() {
-    m_journal.record("ZebCameraOps::discoverCameras");
+    m_calls.change("ZebCameraOps::discoverCameras");
     m_cameras.search({});
 }
 
 void SimCameraOps::updateCameras() {
-    m_journal.record("ZebCameraOps::updateCameras");
+    m_calls.change("ZebCameraOps::updateCameras");
     m_cameras.searchListed();
 }
 
@@ -56,6 +57,7 @@ void SimCameraOps::setResolution(const DocList& docs, int width, int height) {
 }
 
 zeb::TriggerSettings SimCameraOps::getTriggerSettings() const {
+    m_calls.ask("getTriggerSettings");
     zeb::TriggerSettings settings;
     settings.kind = 1;
     settings.manualBeforePercent = m_prefs.value(QStringLiteral("trigger/manualBeforePercent")).toFloat();
@@ -93,8 +95,9 @@ void SimCameraOps::setLowLightType(const DocList& docs, int type) {
 }
 
 bool SimCameraOps::canSync(const DocList& docs) {
+    m_calls.ask("canSync");
     const DocKeyList keys = keysOf(docs);
-    return !m_saver.isSaving() && m_recorder.getRecStatus(keys) == zeb::RecordLive &&
+    return !m_saver.isSaving() && m_recorder.stateOf(keys) == zeb::RecordLive &&
            std::all_of(keys.begin(), keys.end(), [this](DOCKEY key) {
                const Camera* camera = m_cameras.find(key);
                return camera && camera->get(&CameraState::connected);
@@ -122,24 +125,27 @@ void SimCameraOps::syncCameras(const DocList& docs, DOC_Interface* master, int l
 }
 
 void SimCameraOps::setPartition(PARTITIONNUMBER number, int mode) {
-    m_journal.record("ZebCameraOps::setPartition", {number, mode});
-    m_cameras.forEach(m_docs.getSelectedDocKeys(0), [number](Camera& camera) { camera.setPartition(number); });
+    m_calls.change("ZebCameraOps::setPartition", {number, mode});
+    m_cameras.forEach(m_cameras.keysOf(&CameraState::selected),
+                      [number](Camera& camera) { camera.setPartition(number); });
 }
 
 unsigned int SimCameraOps::getCurrentVariable() const {
-    const Camera* camera = m_cameras.find(m_docs.getCurrentDockey(0));
+    m_calls.ask("getCurrentVariable");
+    const Camera* camera = m_cameras.find(m_docs.currentKey());
     return camera ? camera->get(&CameraState::variable) : 0;
 }
 
 void SimCameraOps::setVariable(unsigned int channel) {
-    m_journal.record("ZebCameraOps::setVariable", {channel});
-    m_cameras.forEach(m_docs.getSelectedDocKeys(0), [channel](Camera& camera) { camera.setVariable(channel); });
+    m_calls.change("ZebCameraOps::setVariable", {channel});
+    m_cameras.forEach(m_cameras.keysOf(&CameraState::selected),
+                      [channel](Camera& camera) { camera.setVariable(channel); });
 }
 
 void SimCameraOps::stopForPrefs() {
-    m_journal.record("ZebCameraOps::stopForPrefs");
+    m_calls.change("ZebCameraOps::stopForPrefs");
     DocKeyList armed;
-    for (const Camera* camera : connectedCameras()) {
+    for (const Camera* camera : m_cameras.connected()) {
         const int state = camera->get(&CameraState::recordState);
         if (state == zeb::RecordCtsReady || state == zeb::RecordReady) {
             armed.append(camera->key());
@@ -149,7 +155,8 @@ void SimCameraOps::stopForPrefs() {
 }
 
 bool SimCameraOps::isLowlight() const {
-    const auto cameras = connectedCameras();
+    m_calls.ask("isLowlight");
+    const auto cameras = m_cameras.connected();
     return m_flags.isOn(QStringLiteral("IsLowlight")) ||
            std::any_of(cameras.begin(), cameras.end(), [](const Camera* camera) {
                return camera->get(&CameraState::selected) && camera->get(&CameraState::lowLight);
@@ -157,14 +164,16 @@ bool SimCameraOps::isLowlight() const {
 }
 
 bool SimCameraOps::existLowlight() const {
-    const auto cameras = connectedCameras();
+    m_calls.ask("existLowlight");
+    const auto cameras = m_cameras.connected();
     return m_flags.isOn(QStringLiteral("ExistLowlight")) ||
            std::any_of(cameras.begin(), cameras.end(),
                        [](const Camera* camera) { return camera->get(&CameraState::lowLight); });
 }
 
 bool SimCameraOps::isAllLowlight(bool on) const {
-    const auto cameras = connectedCameras();
+    m_calls.ask("isAllLowlight");
+    const auto cameras = m_cameras.connected();
     return m_flags.isOn(on ? QStringLiteral("IsAllLowlightON") : QStringLiteral("IsAllLowlightOFF")) ||
            std::all_of(cameras.begin(), cameras.end(), [on](const Camera* camera) {
                return !camera->model().functions.contains(zeb::FunctionLowLight) ||
@@ -173,27 +182,22 @@ bool SimCameraOps::isAllLowlight(bool on) const {
 }
 
 bool SimCameraOps::isLensCalibration() const {
+    m_calls.ask("isLensCalibration");
     return m_flags.isOn(QStringLiteral("IsLensCalibration"));
 }
 
 bool SimCameraOps::isDirectSaving(int /*mode*/) const {
+    m_calls.ask("isDirectSaving");
     return m_flags.isOn(QStringLiteral("IsDirectSaving"));
 }
 
 bool SimCameraOps::isAllWrenLockDevice() const {
-    const auto cameras = connectedCameras();
+    m_calls.ask("isAllWrenLockDevice");
+    const auto cameras = m_cameras.connected();
     const bool all = !cameras.empty() && std::all_of(cameras.begin(), cameras.end(), [](const Camera* camera) {
         return camera->get(&CameraState::locked);
     });
     return all || m_flags.isOn(QStringLiteral("IsAllWrenLockDevice"));
-}
-
-std::vector<Camera*> SimCameraOps::connectedCameras() const {
-    auto cameras = m_cameras.all();
-    cameras.erase(std::remove_if(cameras.begin(), cameras.end(),
-                                 [](const Camera* camera) { return !camera->get(&CameraState::connected); }),
-                  cameras.end());
-    return cameras;
 }
 
 DocKeyList SimCameraOps::keysOf(const DocList& docs) {
@@ -207,6 +211,6 @@ DocKeyList SimCameraOps::keysOf(const DocList& docs) {
 void SimCameraOps::command(const char* call, const DocList& docs, const QVariantList& args,
                            const std::function<void(Camera&)>& work) {
     const DocKeyList keys = keysOf(docs);
-    m_journal.record(call, QVariantList{Journal::keyList(keys)} + args);
+    m_calls.change(call, QVariantList{Journal::keyList(keys)} + args);
     m_cameras.forEach(keys, work);
 }

@@ -3,24 +3,23 @@
 #include "ZebCameraOps.h"
 
 #include <functional>
-#include <vector>
 
 class Camera;
 class CameraBank;
-class Journal;
+class HostCalls;
 class Preferences;
 class StatusFlags;
 class Notices;
-class ZebDocManager;
-class ZebRecorder;
-class ZebSaver;
+class SimDocManager;
+class SimRecorder;
+class SimSaver;
 struct SyncSource;
 
 /// Operations on many cameras: each one is tried, and the failures come as one exception.
 class SimCameraOps : public ZebCameraOps {
 public:
-    SimCameraOps(Journal& journal, CameraBank& cameras, const ZebDocManager& docs, const ZebRecorder& recorder,
-                 const ZebSaver& saver, const Preferences& prefs, const StatusFlags& flags, Notices& notices);
+    SimCameraOps(const HostCalls& calls, CameraBank& cameras, const SimDocManager& docs, const SimRecorder& recorder,
+                 const SimSaver& saver, const Preferences& prefs, const StatusFlags& flags, Notices& notices);
 
     void searchCamera(const QString& address) override;
     void discoverCameras() override;
@@ -56,13 +55,12 @@ private:
     /// A command to every camera of the list, in the journal as one call with its keys and `args`.
     void command(const char* call, const DocList& docs, const QVariantList& args,
                  const std::function<void(Camera&)>& work);
-    std::vector<Camera*> connectedCameras() const;
 
-    Journal& m_journal;
+    const HostCalls& m_calls;
     CameraBank& m_cameras;
-    const ZebDocManager& m_docs;
-    const ZebRecorder& m_recorder;
-    const ZebSaver& m_saver;
+    const SimDocManager& m_docs;
+    const SimRecorder& m_recorder;
+    const SimSaver& m_saver;
     const Preferences& m_prefs;
     const StatusFlags& m_flags;
     Notices& m_notices;

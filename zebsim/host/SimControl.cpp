@@ -2,7 +2,7 @@
 
 #include "camera/Camera.h"
 #include "host/DocContext.h"
-#include "host/Journal.h"
+#include "host/HostCalls.h"
 #include "host/ShutterText.h"
 #include "signals/SyncSignal.h"
 
@@ -14,7 +14,7 @@ QString SimControl::getCameraName(int /*mode*/) const {
 }
 
 void SimControl::setCameraName(const QString& name) {
-    m_context.journal.record("DOC_Control::setCameraName", {m_camera.key(), name});
+    m_context.calls.note("DOC_Control::setCameraName", {m_camera.key(), name});
     m_camera.setName(name);
 }
 
@@ -218,7 +218,7 @@ PARTITIONNUMBER SimControl::getCurrentPartition(int /*mode*/) const {
 }
 
 void SimControl::applyPartition(int mode) {
-    m_context.journal.record("DOC_Control::applyPartition", {m_camera.key(), mode});
+    m_context.calls.note("DOC_Control::applyPartition", {m_camera.key(), mode});
     m_camera.askConnected("applyPartition");
 }
 
@@ -257,19 +257,19 @@ int SimControl::getTriggerOffsetBase() const {
 }
 
 void SimControl::setTriggerOffsetEnabled(bool enabled) {
-    m_context.journal.record("DOC_Control::setTriggerOffsetEnabled", {m_camera.key(), enabled});
+    m_context.calls.note("DOC_Control::setTriggerOffsetEnabled", {m_camera.key(), enabled});
     m_camera.askConnected("setTriggerOffsetEnabled");
     m_camera.set(&CameraState::triggerOffsetEnabled, enabled);
 }
 
 void SimControl::setTriggerOffset(int frame) {
-    m_context.journal.record("DOC_Control::setTriggerOffset", {m_camera.key(), frame});
+    m_context.calls.note("DOC_Control::setTriggerOffset", {m_camera.key(), frame});
     m_camera.askConnected("setTriggerOffset");
     m_camera.set(&CameraState::triggerOffset, frame);
 }
 
 void SimControl::setSelectRange(int start, int end) {
-    m_context.journal.record("DOC_Control::setSelectRange", {m_camera.key(), start, end});
+    m_context.calls.note("DOC_Control::setSelectRange", {m_camera.key(), start, end});
     m_camera.askConnected("setSelectRange");
     m_camera.set(&CameraState::selectedRange, {start, end});
 }
@@ -280,6 +280,6 @@ bool SimControl::hasRecordedData() const {
 }
 
 void SimControl::eraseRecordedData(int mode) {
-    m_context.journal.record("DOC_Control::eraseRecordedData", {m_camera.key(), mode});
+    m_context.calls.note("DOC_Control::eraseRecordedData", {m_camera.key(), mode});
     m_camera.eraseRecordedData();
 }

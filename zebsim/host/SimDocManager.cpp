@@ -1,8 +1,8 @@
 #include "host/SimDocManager.h"
 
-#include "ZebHost.h"
 #include "camera/Camera.h"
 #include "host/CameraBank.h"
+#include "host/HostCalls.h"
 #include "host/Journal.h"
 #include "host/Preferences.h"
 #include "host/SimDocument.h"
@@ -13,16 +13,16 @@
 
 #include <algorithm>
 
-SimDocManager::SimDocManager(ZebHost& host, Journal& journal, CameraBank& cameras, const Preferences& prefs,
+SimDocManager::SimDocManager(const HostCalls& calls, CameraBank& cameras, const Preferences& prefs,
                              const SimAppStatus& appStatus, const StatusFlags& flags, const Translator& translator,
-                             const SyncSignal& sync, UpdateCycle& updates)
-    : m_host(host), m_journal(journal), m_cameras(cameras), m_flags(flags), m_updates(updates), m_context{journal,
-                                                                                                          m_tools,
-                                                                                                          prefs,
-                                                                                                          appStatus,
-                                                                                                          translator,
-                                                                                                          sync,
-                                                                                                          *this} {}
+                             const SyncSignal& sync, UpdateCycle& updates,
+                             std::function<void(const std::exception&)> tellFailure)
+    : m_calls(calls),
+      m_cameras(cameras),
+      m_flags(flags),
+      m_updates(updates),
+      m_tellFailure(std::move(tellFailure)),
+      m_context{calls, m_tools, prefs, appStatus, translator, sync, *this} {}
 
 std::size_t SimDocManager::handedOut() const {
     const auto turn = m_turns.find(QThread::currentThread()->loopLevel());
@@ -57,10 +57,12 @@ DOC_Interface* SimDocManager::getDocAny(DOCKEY key) {
 }
 
 DOC_Interface* SimDocManager::getCurrentDoc() {
+    m_calls.ask("getCurrentDoc");
     return getDocAny(currentKey());
 }
 
 bool SimDocManager::isCurrentDoc(DOCKEY key) const {
+    m_calls.ask("isCurrentDoc");
     const Camera* camera = m_cameras.find(key);
     return camera && camera->get(&CameraState::selected) && key == currentKey();
 }
@@ -81,11 +83,12 @@ DOCKEY SimDocManager::currentKey() const {
 }
 
 DOCKEY SimDocManager::getCurrentDockey(int /*mode*/) const {
+    m_calls.ask("getCurrentDockey");
     return currentKey();
 }
 
 void SimDocManager::setCurrentDoc(DOCKEY key, int mode) {
-    m_journal.record("ZebDocManager::setCurrentDoc", {key, mode});
+    m_calls.change("ZebDocManager::setCurrentDoc", {key, mode});
     const Camera* camera = m_cameras.find(key);
     if (camera && camera->get(&CameraState::selected)) {
         m_current = key;
@@ -93,44 +96,36 @@ void SimDocManager::setCurrentDoc(DOCKEY key, int mode) {
 }
 
 DocKeyList SimDocManager::getDocKeys(int /*mode*/) const {
-    DocKeyList keys;
-    for (const Camera* camera : m_cameras.all()) {
-        keys.append(camera->key());
-    }
-    return keys;
-}
-
-DocKeyList SimDocManager::keysOf(bool CameraState::*member) const {
-    DocKeyList keys;
-    for (const Camera* camera : m_cameras.all()) {
-        if (camera->get(member)) {
-            keys.append(camera->key());
-        }
-    }
-    return keys;
+    m_calls.ask("getDocKeys");
+    return m_cameras.keys();
 }
 
 DocKeyList SimDocManager::getConnectedDocKeys(int /*mode*/) const {
-    return keysOf(&CameraState::connected);
+    m_calls.ask("getConnectedDocKeys");
+    return m_cameras.keysOf(&CameraState::connected);
 }
 
 DocKeyList SimDocManager::getSelectedDocKeys(int /*mode*/) const {
-    return keysOf(&CameraState::selected);
+    m_calls.ask("getSelectedDocKeys");
+    return m_cameras.keysOf(&CameraState::selected);
 }
 
 DocKeyList SimDocManager::getLiveDocKeys(int /*mode*/, int /*order*/) const {
-    return getDocKeys();
+    m_calls.ask("getLiveDocKeys");
+    return m_cameras.keys();
 }
 
 DocList SimDocManager::getCameraDocs() {
+    m_calls.ask("getCameraDocs");
     DocList docs;
-    for (const DOCKEY key : getDocKeys()) {
+    for (const DOCKEY key : m_cameras.keys()) {
         docs.append(getDocAny(key));
     }
     return docs;
 }
 
 DocList SimDocManager::getSyncableDocs(int /*mode*/) {
+    m_calls.ask("getSyncableDocs");
     DocList docs;
     for (const Camera* camera : m_cameras.all()) {
         if (camera->get(&CameraState::connected) && camera->model().syncCapable) {
@@ -141,32 +136,44 @@ DocList SimDocManager::getSyncableDocs(int /*mode*/) {
 }
 
 int SimDocManager::getDocCount() const {
+    m_calls.ask("getDocCount");
     return m_flags.isOn(QStringLiteral("IsNoneDocument")) ? 0 : int(m_cameras.all().size());
 }
 
 int SimDocManager::getSelectedDocCount() const {
-    return getSelectedDocKeys(0).size();
+    m_calls.ask("getSelectedDocCount");
+    return m_cameras.keysOf(&CameraState::selected).size();
+}
+
+bool SimDocManager::hasWaveformData() const {
+    m_calls.ask("hasWaveformData");
+    return false;
 }
 
 bool SimDocManager::isWaveDataAcquisition() const {
+    m_calls.ask("isWaveDataAcquisition");
     return m_flags.isOn(QStringLiteral("IsWaveDataAcquisition"));
 }
 
 bool SimDocManager::isConflictPartition(int /*mode*/) const {
+    m_calls.ask("isConflictPartition");
     return m_flags.isOn(QStringLiteral("IsConflictPartition"));
 }
 
 bool SimDocManager::isPhaseAdjusting() const {
+    m_calls.ask("isPhaseAdjusting");
     return m_flags.isOn(QStringLiteral("IsPhaseAdjusting"));
 }
 
 bool SimDocManager::isRecordAreaEnabled() const {
+    m_calls.ask("isRecordAreaEnabled");
     return m_context.prefs.value(QStringLiteral("recording/area")).toBool();
 }
 
 void SimDocManager::selectDoc(DOCKEY key) {
-    m_journal.record("ZebDocManager::selectDoc", {key});
+    m_calls.change("ZebDocManager::selectDoc", {key});
     if (Camera* camera = m_cameras.find(key)) {
+        camera->ask("selectDoc");
         const DOCKEY current = currentKey();
         camera->set(&CameraState::selected, true);
         m_current = current == zeb::NoDocKey ? key : current;
@@ -174,14 +181,15 @@ void SimDocManager::selectDoc(DOCKEY key) {
 }
 
 void SimDocManager::deselectDoc(DOCKEY key) {
-    m_journal.record("ZebDocManager::deselectDoc", {key});
+    m_calls.change("ZebDocManager::deselectDoc", {key});
     if (Camera* camera = m_cameras.find(key)) {
+        camera->ask("deselectDoc");
         camera->set(&CameraState::selected, false);
     }
 }
 
 void SimDocManager::setSelectedDocs(const DocKeyList& keys, int mode) {
-    m_journal.record("ZebDocManager::setSelectedDocs", {Journal::keyList(keys), mode});
+    m_calls.change("ZebDocManager::setSelectedDocs", {Journal::keyList(keys), mode});
     selectOnly(keys);
 }
 
@@ -192,14 +200,14 @@ void SimDocManager::selectOnly(const DocKeyList& keys) {
 }
 
 void SimDocManager::selectAllDocs(QObject* /*sender*/) {
-    m_journal.record("ZebDocManager::selectAllDocs");
+    m_calls.change("ZebDocManager::selectAllDocs");
     for (Camera* camera : m_cameras.all()) {
         camera->set(&CameraState::selected, true);
     }
 }
 
 void SimDocManager::connectDocs(const DocKeyList& keys) {
-    m_journal.record("ZebDocManager::connectDocs", {Journal::keyList(keys)});
+    m_calls.change("ZebDocManager::connectDocs", {Journal::keyList(keys)});
     forEachKey(keys, [](Camera& camera) {
         if (!camera.get(&CameraState::connected)) {
             camera.connect();
@@ -208,7 +216,7 @@ void SimDocManager::connectDocs(const DocKeyList& keys) {
 }
 
 void SimDocManager::disconnectDocs(const DocKeyList& keys) {
-    m_journal.record("ZebDocManager::disconnectDocs", {Journal::keyList(keys)});
+    m_calls.change("ZebDocManager::disconnectDocs", {Journal::keyList(keys)});
     forEachKey(keys, [](Camera& camera) {
         if (camera.get(&CameraState::connected)) {
             camera.disconnect();
@@ -220,25 +228,26 @@ void SimDocManager::forEachKey(const DocKeyList& keys, const std::function<void(
     try {
         m_cameras.forEach(keys, work);
     } catch (const std::exception& e) {
-        m_host.errorHandler(e);
+        m_tellFailure(e);
     }
 }
 
 void SimDocManager::deleteAllDocs(int kind, int mode) {
-    m_journal.record("ZebDocManager::deleteAllDocs", {kind, mode});
+    m_calls.change("ZebDocManager::deleteAllDocs", {kind, mode});
     m_cameras.forgetAll();
     m_current = zeb::NoDocKey;
     m_updates.request();
 }
 
 void SimDocManager::editDoc(DOCKEY key) {
-    m_journal.record("ZebDocManager::editDoc", {key});
+    m_calls.change("ZebDocManager::editDoc", {key});
     if (m_editor && m_cameras.find(key)) {
         m_editor(key);
     }
 }
 
 bool SimDocManager::sharesDeviceWithLockedHead(DOC_Interface* doc, bool shutter, bool resolution) {
+    m_calls.ask("sharesDeviceWithLockedHead");
     const Camera* camera = m_cameras.find(doc->getKey());
     if (!camera) {
         return false;
@@ -253,56 +262,56 @@ bool SimDocManager::sharesDeviceWithLockedHead(DOC_Interface* doc, bool shutter,
 }
 
 void SimDocManager::beginDocEdit() {
-    m_journal.record("ZebDocManager::beginDocEdit");
+    m_calls.change("ZebDocManager::beginDocEdit");
 }
 
 void SimDocManager::beginDocEditNotify() {
-    m_journal.record("ZebDocManager::beginDocEditNotify");
+    m_calls.change("ZebDocManager::beginDocEditNotify");
 }
 
 void SimDocManager::endDocEdit() {
-    m_journal.record("ZebDocManager::endDocEdit");
+    m_calls.change("ZebDocManager::endDocEdit");
 }
 
 void SimDocManager::commitDocEdit() {
-    m_journal.record("ZebDocManager::commitDocEdit");
+    m_calls.change("ZebDocManager::commitDocEdit");
 }
 
 void SimDocManager::refreshDocList(int mode) {
-    m_journal.record("ZebDocManager::refreshDocList", {mode});
+    m_calls.change("ZebDocManager::refreshDocList", {mode});
     m_updates.request();
 }
 
 void SimDocManager::setQuickTool(const QString& tool, bool on) {
-    m_journal.record("ZebDocManager::setQuickTool", {tool, on});
+    m_calls.change("ZebDocManager::setQuickTool", {tool, on});
     m_tools.setQuick(tool, on);
 }
 
 void SimDocManager::setActiveQuickTool(const QString& tool) {
-    m_journal.record("ZebDocManager::setActiveQuickTool", {tool});
+    m_calls.change("ZebDocManager::setActiveQuickTool", {tool});
     m_tools.setActive(tool);
 }
 
 void SimDocManager::toolSelect(const QString& tool, bool on) {
-    m_journal.record("ZebDocManager::toolSelect", {tool, on});
+    m_calls.change("ZebDocManager::toolSelect", {tool, on});
     m_tools.choose(tool, currentKey(), on);
 }
 
 void SimDocManager::toolSelectAll(const QString& tool, bool all, bool on) {
-    m_journal.record("ZebDocManager::toolSelectAll", {tool, all, on});
-    for (const DOCKEY key : all ? getDocKeys() : DocKeyList{currentKey()}) {
+    m_calls.change("ZebDocManager::toolSelectAll", {tool, all, on});
+    for (const DOCKEY key : all ? m_cameras.keys() : DocKeyList{currentKey()}) {
         m_tools.choose(tool, key, on);
     }
 }
 
 void SimDocManager::toolBegin(int mode, const QString& tool) {
-    m_journal.record("ZebDocManager::toolBegin", {mode, tool});
+    m_calls.change("ZebDocManager::toolBegin", {mode, tool});
 }
 
 void SimDocManager::toolEnd(const QString& tool) {
-    m_journal.record("ZebDocManager::toolEnd", {tool});
+    m_calls.change("ZebDocManager::toolEnd", {tool});
 }
 
 void SimDocManager::toolApply(const QString& tool) {
-    m_journal.record("ZebDocManager::toolApply", {tool});
+    m_calls.change("ZebDocManager::toolApply", {tool});
 }

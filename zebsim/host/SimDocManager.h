@@ -12,20 +12,21 @@
 
 class Camera;
 class CameraBank;
-struct CameraState;
 class StatusFlags;
 class SyncSignal;
 class Translator;
 class UpdateCycle;
-class ZebHost;
 
 /// Documents by key, the selection, connections, image tools.
 class SimDocManager : public ZebDocManager {
 public:
-    SimDocManager(ZebHost& host, Journal& journal, CameraBank& cameras, const Preferences& prefs,
-                  const SimAppStatus& appStatus, const StatusFlags& flags, const Translator& translator,
-                  const SyncSignal& sync, UpdateCycle& updates);
+    /// `tellFailure` shows why cameras did not connect or disconnect.
+    SimDocManager(const HostCalls& calls, CameraBank& cameras, const Preferences& prefs, const SimAppStatus& appStatus,
+                  const StatusFlags& flags, const Translator& translator, const SyncSignal& sync, UpdateCycle& updates,
+                  std::function<void(const std::exception&)> tellFailure);
 
+    /// As `getCurrentDockey`, for the host itself.
+    DOCKEY currentKey() const;
     /// What `editDoc` opens; nothing at first. It is called for a camera that is there and runs until it is closed.
     void setEditor(std::function<void(DOCKEY)> editor) { m_editor = std::move(editor); }
     /// As `setSelectedDocs`, by the host itself.
@@ -67,7 +68,7 @@ public:
     void editDoc(DOCKEY key) override;
     bool sharesDeviceWithLockedHead(DOC_Interface* doc, bool shutter, bool resolution) override;
     /// There is none: cameras bring images only.
-    bool hasWaveformData() const override { return false; }
+    bool hasWaveformData() const override;
     bool isWaveDataAcquisition() const override;
     bool isConflictPartition(int mode) const override;
     bool isPhaseAdjusting() const override;
@@ -88,15 +89,13 @@ public:
 
 private:
     DocTurn& turn();
-    DOCKEY currentKey() const;
-    DocKeyList keysOf(bool CameraState::*member) const;
     void forEachKey(const DocKeyList& keys, const std::function<void(Camera&)>& work);
 
-    ZebHost& m_host;
-    Journal& m_journal;
+    const HostCalls& m_calls;
     CameraBank& m_cameras;
     const StatusFlags& m_flags;
     UpdateCycle& m_updates;
+    const std::function<void(const std::exception&)> m_tellFailure;
     QMutex m_mutex;
     ImageTools m_tools;
     const DocContext m_context;

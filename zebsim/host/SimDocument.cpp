@@ -18,35 +18,43 @@ SimDocument::SimDocument(Camera& camera, const DocContext& context)
       m_storage(camera) {}
 
 bool SimDocument::isConnected() const {
+    m_camera.ask("isConnected");
     return m_camera.get(&CameraState::connected);
 }
 
 bool SimDocument::isSelected() const {
+    m_camera.ask("isSelected");
     return m_camera.get(&CameraState::selected);
 }
 
 bool SimDocument::isMobileSelected() const {
+    m_camera.ask("isMobileSelected");
     return m_camera.get(&CameraState::mobile);
 }
 
 bool SimDocument::isSdSelected() const {
+    m_camera.ask("isSdSelected");
     return m_camera.get(&CameraState::sd);
 }
 
 bool SimDocument::isQuikDriveSelected() const {
+    m_camera.ask("isQuikDriveSelected");
     return m_camera.get(&CameraState::quikDrive);
 }
 
 bool SimDocument::isCFastSelected() const {
+    m_camera.ask("isCFastSelected");
     return m_camera.get(&CameraState::cfast);
 }
 
 DOC_Interface* SimDocument::getParentDoc() const {
+    m_camera.ask("getParentDoc");
     const DOCKEY master = m_camera.device().heads().front()->key();
     return master == getKey() ? nullptr : m_context.docs.getDocAny(master);
 }
 
 DocList SimDocument::getHeadDocs(int /*mode*/) {
+    m_camera.ask("getHeadDocs");
     DocList docs;
     for (const auto& head : m_camera.device().heads()) {
         docs.append(m_context.docs.getDocAny(head->key()));
@@ -66,5 +74,6 @@ QStringList SimDocument::getAlerts() const {
 }
 
 QString SimDocument::formatShutterSpeed(int value, int /*head*/) const {
+    m_camera.ask("formatShutterSpeed");
     return ShutterText(m_context.prefs).label(value);
 }

@@ -3,7 +3,7 @@
 #include "camera/Camera.h"
 #include "camera/Recording.h"
 #include "host/DocContext.h"
-#include "host/Journal.h"
+#include "host/HostCalls.h"
 #include "host/SimAppStatus.h"
 
 unsigned int SimFrames::getFrameCount(int /*partition*/, int /*head*/) const {
@@ -46,7 +46,7 @@ bool SimFrames::isRecordCheck() const {
 }
 
 void SimFrames::setRecordCheck(bool check) {
-    m_context.journal.record("DOC_Frames::setRecordCheck", {m_camera.key(), check});
+    m_context.calls.note("DOC_Frames::setRecordCheck", {m_camera.key(), check});
     m_camera.ask("setRecordCheck");
     m_camera.set(&CameraState::recordCheck, check);
 }
@@ -57,13 +57,13 @@ bool SimFrames::isFrameSkipEnabled() const {
 }
 
 void SimFrames::setFrameSkipEnabled(bool enabled) {
-    m_context.journal.record("DOC_Frames::setFrameSkipEnabled", {m_camera.key(), enabled});
+    m_context.calls.note("DOC_Frames::setFrameSkipEnabled", {m_camera.key(), enabled});
     m_camera.ask("setFrameSkipEnabled");
     m_camera.set(&CameraState::frameSkipEnabled, enabled);
 }
 
 void SimFrames::setFrameSkipMode(int mode) {
-    m_context.journal.record("DOC_Frames::setFrameSkipMode", {m_camera.key(), mode});
+    m_context.calls.note("DOC_Frames::setFrameSkipMode", {m_camera.key(), mode});
     m_camera.ask("setFrameSkipMode");
     m_camera.set(&CameraState::frameSkipMode, mode);
 }
@@ -74,19 +74,19 @@ int SimFrames::getFrameSkip() const {
 }
 
 void SimFrames::setFrameSkip(int frames) {
-    m_context.journal.record("DOC_Frames::setFrameSkip", {m_camera.key(), frames});
+    m_context.calls.note("DOC_Frames::setFrameSkip", {m_camera.key(), frames});
     m_camera.ask("setFrameSkip");
     m_camera.set(&CameraState::frameSkip, frames);
 }
 
 void SimFrames::setRecordAreaStart(int frame) {
-    m_context.journal.record("DOC_Frames::setRecordAreaStart", {m_camera.key(), frame});
+    m_context.calls.note("DOC_Frames::setRecordAreaStart", {m_camera.key(), frame});
     m_camera.ask("setRecordAreaStart");
     m_camera.set(&CameraState::recordArea, {frame, m_camera.get(&CameraState::recordArea).y()});
 }
 
 void SimFrames::setRecordAreaEnd(int frame) {
-    m_context.journal.record("DOC_Frames::setRecordAreaEnd", {m_camera.key(), frame});
+    m_context.calls.note("DOC_Frames::setRecordAreaEnd", {m_camera.key(), frame});
     m_camera.ask("setRecordAreaEnd");
     m_camera.set(&CameraState::recordArea, {m_camera.get(&CameraState::recordArea).x(), frame});
 }

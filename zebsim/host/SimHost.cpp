@@ -1,13 +1,11 @@
 #include "host/SimHost.h"
 
 #include "DOC_Interface.h"
-#include "ZebCycleFailure.h"
 #include "ZebPageBridge.h"
 #include "camera/Camera.h"
 #include "camera/Rig.h"
 #include "host/AppDesk.h"
 #include "host/ImagePlugins.h"
-#include "host/MessageDesk.h"
 #include "host/SupportFile.h"
 
 #include <QApplication>
@@ -15,30 +13,31 @@
 #include <QEventLoop>
 #include <QFutureWatcher>
 #include <QWebView>
-#include <QtDebug>
 
 SimHost::SimHost(Clock& clock, MessageDesk& desk, const QString& prefsPath)
     : m_clock(clock),
       m_desk(desk),
       m_prefs(prefsPath),
+      m_calls(m_journal, m_faults, clock),
       m_cameras(clock, m_faults),
       m_updates([this] { runUpdateCycle(); }),
       m_appObject(m_prefs, m_translator),
       m_prefsRestored(!m_prefs.problem().isEmpty()),
       m_notices([this](Message::Kind kind, const QString& text) { notify(kind, text); }),
-      m_appStatus(m_journal, m_events, m_updates, m_cameras, m_flags),
-      m_signalDevices(m_journal, clock, m_faults),
+      m_appStatus(m_calls, m_events, m_updates, m_cameras, m_flags),
+      m_signalDevices(m_calls, clock, m_faults),
       m_syncSignal(m_cameras, m_signalDevices),
-      m_docManager(*this, m_journal, m_cameras, m_prefs, m_appStatus, m_flags, m_translator, m_syncSignal, m_updates),
-      m_liveLoop(m_journal, m_cameras, m_events),
-      m_player(m_journal),
-      m_recorder(m_journal, clock, m_cameras, m_docManager, m_flags, m_appStatus, m_events, m_updates, m_translator,
+      m_docManager(m_calls, m_cameras, m_prefs, m_appStatus, m_flags, m_translator, m_syncSignal, m_updates,
+                   [this](const std::exception& e) { tellFailure(e); }),
+      m_liveLoop(m_calls, m_cameras, m_events),
+      m_player(m_calls),
+      m_recorder(m_calls, clock, m_cameras, m_prefs, m_flags, m_appStatus, m_events, m_updates, m_translator,
                  m_notices),
-      m_saver(m_journal, m_flags, [this] { return m_appDesk; }),
-      m_cameraOps(m_journal, m_cameras, m_docManager, m_recorder, m_saver, m_prefs, m_flags, m_notices),
+      m_saver(m_calls, m_flags, [this] { return m_appDesk; }),
+      m_cameraOps(m_calls, m_cameras, m_docManager, m_recorder, m_saver, m_prefs, m_flags, m_notices),
       m_viewOps(m_cameras, m_flags),
       m_mdi(m_cameras, m_appStatus, m_flags),
-      m_undo(m_journal) {
+      m_undo(m_calls) {
     m_translator.load(QStringLiteral("en"));
     m_faults.whenGone([this] {
         QMetaObject::invokeMethod(
@@ -63,27 +62,32 @@ void SimHost::setRig(const Rig& rig) {
 }
 
 QVariant SimHost::getPref(const QString& key, const QVariant& defaultValue) const {
+    m_calls.ask("getPref");
     return m_prefs.value(key, defaultValue);
 }
 
 int SimHost::getPrefInt(const QString& key, const QVariant& defaultValue) const {
-    return getPref(key, defaultValue).toInt();
+    m_calls.ask("getPrefInt");
+    return m_prefs.value(key, defaultValue).toInt();
 }
 
 bool SimHost::getPrefBool(const QString& key, const QVariant& defaultValue) const {
-    return getPref(key, defaultValue).toBool();
+    m_calls.ask("getPrefBool");
+    return m_prefs.value(key, defaultValue).toBool();
 }
 
 float SimHost::getPrefFloat(const QString& key, const QVariant& defaultValue) const {
-    return getPref(key, defaultValue).toFloat();
+    m_calls.ask("getPrefFloat");
+    return m_prefs.value(key, defaultValue).toFloat();
 }
 
 QString SimHost::getPrefString(const QString& key, const QVariant& defaultValue) const {
-    return getPref(key, defaultValue).toString();
+    m_calls.ask("getPrefString");
+    return m_prefs.value(key, defaultValue).toString();
 }
 
 void SimHost::storePref(const char* call, const QString& key, const QVariant& value) {
-    m_journal.record(call, {key, value});
+    m_calls.change(call, {key, value});
     m_prefs.setValue(key, value);
 }
 
@@ -111,125 +115,32 @@ QString SimHost::translate(const QString& text) const {
     return m_translator.translate(text);
 }
 
-Message SimHost::message(int kind, const QString& text, QWidget* parent) const {
-    Message message;
-    message.kind = static_cast<Message::Kind>(kind);
-    // The plug-in hands over keys and finished texts alike; a finished one has no translation and stays.
-    message.text = translate(text).replace(QStringLiteral("<br>"), QStringLiteral("\n"));
-    message.parent = parent ? parent : m_mainWindow.data();
-    return message;
-}
-
-Answer SimHost::show(const Message& box) {
-    m_docManager.endTurn();
-    return m_desk.show(box);
-}
-
-void SimHost::notify(Message::Kind kind, const QString& text) {
-    const Message notice = message(kind, text, nullptr);
-    (kind == Message::Info ? qInfo() : qCritical()) << notice.text;
-    m_desk.notify(notice);
-}
-
-void SimHost::info(const QString& text, QWidget* parent) {
-    show(message(Message::Info, text, parent));
-}
-
-void SimHost::warn(const QString& text, QWidget* parent) {
-    show(message(Message::Warn, text, parent));
-}
-
-void SimHost::warnList(const QString& text, const QStringList& messages, QWidget* parent) {
-    Message box = message(Message::Warn, text, parent);
-    box.list = messages;
-    show(box);
-}
-
-void SimHost::alert(const QString& text, QWidget* parent) {
-    show(message(Message::Alert, text, parent));
-}
-
-void SimHost::alertList(const QString& text, const QStringList& messages, QWidget* parent) {
-    Message box = message(Message::Alert, text, parent);
-    box.list = messages;
-    show(box);
-}
-
-bool SimHost::confirm(const QString& text) {
-    return confirmModal(text, nullptr, {});
-}
-
-bool SimHost::confirmModal(const QString& text, QWidget* parent, const ButtonTexts& buttons) {
-    Message box = message(Message::Confirm, text, parent);
-    box.buttons = buttons;
-    return show(box).accepted;
-}
-
-int SimHost::choose(const QString& text, QWidget* parent, const ButtonTexts& buttons, int preferred) {
-    Message box = message(Message::Confirm, text, parent);
-    box.buttons = buttons;
-    box.preferred = preferred;
-    return show(box).button;
-}
-
-bool SimHost::confirmWithDontShowAgain(const QString& text, const QString& prefKey, QWidget* parent,
-                                       const ButtonTexts& buttons) {
-    Message box = message(Message::Confirm, text, parent);
-    box.buttons = buttons;
-    return showSilenceable(box, prefKey);
-}
-
-void SimHost::alertWithDontShowAgain(const QString& text, const QString& prefKey, QWidget* parent,
-                                     const ButtonTexts& buttons) {
-    Message box = message(Message::Alert, text, parent);
-    box.buttons = buttons;
-    showSilenceable(box, prefKey);
-}
-
-/// Whether the user agreed.
-bool SimHost::showSilenceable(Message box, const QString& prefKey) {
-    box.offersSilence = true;
-    const Answer answer = show(box);
-    if (answer.silenced) {
-        m_prefs.setValue(prefKey, false);
-    }
-    return answer.accepted;
-}
-
-void SimHost::errorHandler(const std::exception& e) {
-    const QString text = QString::fromUtf8(e.what());
-    if (text.isEmpty()) {
-        return;
-    }
-    if (dynamic_cast<const ZebCycleFailure*>(&e) != nullptr) {
-        m_desk.notify(message(Message::Error, text, nullptr));
-        return;
-    }
-    qCritical() << text;
-    show(message(Message::Error, text, nullptr));
-}
-
 void SimHost::attachBridge(QWebView* view, ZebPageBridge* bridge) {
     m_bridges.attach(view, bridge);
 }
 
 void SimHost::updateUI(unsigned int mask, bool refresh) {
-    m_journal.record("ZebHost::updateUI", {mask, refresh});
+    m_calls.note("ZebHost::updateUI", {mask, refresh});
     m_updates.request();
 }
 
 void SimHost::deterUpdateUI(bool deter) {
-    m_journal.record("ZebHost::deterUpdateUI", {deter});
+    m_calls.note("ZebHost::deterUpdateUI", {deter});
     m_updates.deter(deter);
 }
 
 void SimHost::setTextBoxFocusState(bool focused) {
-    m_journal.record("ZebHost::setTextBoxFocusState", {focused});
+    m_calls.note("ZebHost::setTextBoxFocusState", {focused});
     m_flags.set(QStringLiteral("IsModalessDialogTextFocussing"), focused);
 }
 
+bool SimHost::isPrefsRestored() const {
+    m_calls.ask("isPrefsRestored");
+    return m_prefsRestored;
+}
+
 void SimHost::setPrefsRestored(int state) {
-    m_journal.record("ZebHost::setPrefsRestored", {state});
+    m_calls.change("ZebHost::setPrefsRestored", {state});
     m_prefsRestored = state == 0;
 }
 
@@ -238,30 +149,31 @@ bool SimHost::isUpdateIgnore() const {
 }
 
 void SimHost::refreshTools() {
-    m_journal.record("ZebHost::refreshTools");
+    m_calls.change("ZebHost::refreshTools");
     m_updates.request();
 }
 
 ZebPrefsDialog* SimHost::getPrefsDialog() {
+    m_calls.ask("getPrefsDialog");
     return m_appDesk ? m_appDesk->prefsDialog() : nullptr;
 }
 
 void SimHost::openPrefsEthernetSettings() {
-    m_journal.record("ZebHost::openPrefsEthernetSettings");
+    m_calls.change("ZebHost::openPrefsEthernetSettings");
     if (m_appDesk) {
         m_appDesk->openEthernetSettings();
     }
 }
 
 void SimHost::openAboutDialog() {
-    m_journal.record("ZebHost::openAboutDialog");
+    m_calls.change("ZebHost::openAboutDialog");
     if (m_appDesk) {
         m_appDesk->openAbout();
     }
 }
 
 void SimHost::execProgress(const QString& text, QFutureWatcherBase& watcher) {
-    m_journal.record("ZebHost::execProgress", {text});
+    m_calls.change("ZebHost::execProgress", {text});
     if (m_appDesk) {
         m_appDesk->runProgress(text, watcher);
         return;
@@ -275,6 +187,7 @@ void SimHost::execProgress(const QString& text, QFutureWatcherBase& watcher) {
 }
 
 void SimHost::prepareSupportFile(ZebSupportFile& file) {
+    m_calls.ask("prepareSupportFile");
     addHostState(file, *this);
     if (m_appDesk) {
         m_appDesk->addToSupportFile(file);
@@ -291,28 +204,31 @@ bool SimHost::hasWrenWindow() const {
 }
 
 void SimHost::hideSelectBox() {
-    m_journal.record("ZebHost::hideSelectBox");
+    m_calls.change("ZebHost::hideSelectBox");
     hideDropDownBox({});
 }
 
 bool SimHost::isShownDropBox() const {
+    m_calls.ask("isShownDropBox");
     return m_appDesk && m_appDesk->isDropDownBoxShown();
 }
 
 void SimHost::showDropDownBox(const QString& key, const QRect& anchor) {
-    m_journal.record("ZebHost::showDropDownBox", {key});
+    m_calls.change("ZebHost::showDropDownBox", {key});
     if (m_appDesk) {
         m_appDesk->showDropDownBox(key, anchor);
     }
 }
 
 void SimHost::hideDropDownBox(const QString& key) {
+    m_calls.ask("hideDropDownBox");
     if (m_appDesk) {
         m_appDesk->hideDropDownBox(key);
     }
 }
 
 void SimHost::hideDropDownBoxAt(const QString& key, const QPoint& point) {
+    m_calls.ask("hideDropDownBoxAt");
     if (m_appDesk && !m_appDesk->dropDownBoxRect(key).contains(point)) {
         m_appDesk->hideDropDownBox(key);
     }
@@ -335,6 +251,7 @@ void SimHost::runUpdateCycle() {
         }
     }
     tellNew(failures);
+    const HostCalls::Own own;
     Q_EMIT m_events.updateFinished();
 }
 
@@ -366,12 +283,12 @@ bool SimHost::isInPluginDialog(const QWidget* widget) const {
 }
 
 void SimHost::suspendViewer() {
-    m_journal.record("ZebHost::suspendViewer");
+    m_calls.note("ZebHost::suspendViewer");
     ++m_viewerSuspended;
 }
 
 void SimHost::resumeViewer() {
-    m_journal.record("ZebHost::resumeViewer");
+    m_calls.note("ZebHost::resumeViewer");
     m_viewerSuspended = qMax(0, m_viewerSuspended - 1);
 }
 
@@ -392,21 +309,21 @@ bool SimHost::isSelectionKept() const {
 }
 
 void SimHost::saveFiles() {
-    m_journal.record("ZebHost::saveFiles");
+    m_calls.change("ZebHost::saveFiles");
     if (m_appDesk) {
         m_appDesk->save(false);
     }
 }
 
 void SimHost::saveLayoutFiles() {
-    m_journal.record("ZebHost::saveLayoutFiles");
+    m_calls.change("ZebHost::saveLayoutFiles");
     if (m_appDesk) {
         m_appDesk->save(true);
     }
 }
 
 void SimHost::setTriggerTesting(bool on) {
-    m_journal.record("ZebHost::setTriggerTesting", {on});
+    m_calls.note("ZebHost::setTriggerTesting", {on});
     m_flags.set(QStringLiteral("IsTriggerTesting"), on);
 }
 

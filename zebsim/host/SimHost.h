@@ -5,6 +5,7 @@
 #include "host/AppObject.h"
 #include "host/BridgeDesk.h"
 #include "host/CameraBank.h"
+#include "host/HostCalls.h"
 #include "host/HostEvents.h"
 #include "host/Journal.h"
 #include "host/Notices.h"
@@ -55,6 +56,7 @@ public:
 
     Clock& clock() { return m_clock; }
     Journal& journal() { return m_journal; }
+    const HostCalls& calls() const { return m_calls; }
     FaultPlan& faults() { return m_faults; }
     CameraBank& cameras() { return m_cameras; }
     const CameraBank& cameras() const { return m_cameras; }
@@ -93,11 +95,14 @@ public:
     void setPrefFloat(const QString& key, float value) override;
     void setPrefString(const QString& key, const QString& value) override;
 
-    bool isPrefsRestored() const override { return m_prefsRestored; }
+    bool isPrefsRestored() const override;
     void setPrefsRestored(int state) override;
 
     QString translate(const QString& text) const override;
 
+    /// Boxes of the host's own: a text with a list, a failure with its line in the log.
+    void tell(Message::Kind kind, const QString& text, const QStringList& list = {}, QWidget* parent = nullptr);
+    void tellFailure(const std::exception& e);
     /// Asks a question with answers of its own, of which Enter means `preferred`; answers the chosen one of `buttons`,
     /// 0 when the box was left.
     int choose(const QString& text, QWidget* parent, const ButtonTexts& buttons, int preferred);
@@ -191,6 +196,7 @@ private:
     Preferences m_prefs;
     Journal m_journal;
     FaultPlan m_faults;
+    const HostCalls m_calls;
     CameraBank m_cameras;
     StatusFlags m_flags;
     HostEvents m_events;

@@ -2,8 +2,8 @@
 
 #include "camera/Camera.h"
 #include "host/DocContext.h"
+#include "host/HostCalls.h"
 #include "host/ImageTools.h"
-#include "host/Journal.h"
 
 QString SimImage::getComment() const {
     m_camera.ask("getComment");
@@ -11,7 +11,7 @@ QString SimImage::getComment() const {
 }
 
 void SimImage::setComment(const QString& comment) {
-    m_context.journal.record("DOC_Image::setComment", {m_camera.key(), comment});
+    m_context.calls.note("DOC_Image::setComment", {m_camera.key(), comment});
     m_camera.setComment(comment);
 }
 
@@ -45,16 +45,18 @@ QPoint SimImage::getPoint() const {
 }
 
 QRect SimImage::getToolRect(const QString& tool) const {
+    m_camera.ask("getToolRect");
     return m_context.tools.rect(tool, m_camera.key());
 }
 
 void SimImage::setToolRect(const QString& tool, const QRect& rect) {
     const QVariantList plainRect{rect.x(), rect.y(), rect.width(), rect.height()};
-    m_context.journal.record("DOC_Image::setToolRect", {m_camera.key(), tool, plainRect});
+    m_context.calls.note("DOC_Image::setToolRect", {m_camera.key(), tool, plainRect});
     m_camera.ask("setToolRect");
     m_context.tools.setRect(tool, m_camera.key(), rect);
 }
 
 bool SimImage::isToolChecked(const QString& tool) const {
+    m_camera.ask("isToolChecked");
     return m_context.tools.isChosen(tool, m_camera.key());
 }

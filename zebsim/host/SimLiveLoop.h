@@ -4,13 +4,13 @@
 
 class CameraBank;
 class HostEvents;
-class Journal;
+class HostCalls;
 
 /// Whether the live images run.
 class SimLiveLoop : public ZebLiveLoop {
 public:
-    SimLiveLoop(Journal& journal, CameraBank& cameras, HostEvents& events)
-        : m_journal(journal), m_cameras(cameras), m_events(events) {}
+    SimLiveLoop(const HostCalls& calls, CameraBank& cameras, HostEvents& events)
+        : m_calls(calls), m_cameras(cameras), m_events(events) {}
 
     void pauseLive(int mode) override;
     void resumeLive() override;
@@ -22,7 +22,7 @@ public:
     void updateLive() override;
 
 private:
-    Journal& m_journal;
+    const HostCalls& m_calls;
     CameraBank& m_cameras;
     HostEvents& m_events;
     int m_pauses = 0;

@@ -2,7 +2,7 @@
 
 #include "camera/Camera.h"
 #include "host/DocContext.h"
-#include "host/Journal.h"
+#include "host/HostCalls.h"
 
 int SimLock::getRecordState() const {
     m_camera.ask("getRecordState");
@@ -15,7 +15,7 @@ bool SimLock::isParamLocked() const {
 }
 
 void SimLock::setParamLock(bool lock) {
-    m_context.journal.record("DOC_Lock::setParamLock", {m_camera.key(), lock});
+    m_context.calls.note("DOC_Lock::setParamLock", {m_camera.key(), lock});
     m_camera.ask("setParamLock");
     const int recordState = m_camera.get(&CameraState::recordState);
     if (lock || (recordState != zeb::RecordReady && recordState != zeb::RecordRecording)) {

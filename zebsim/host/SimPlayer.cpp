@@ -1,13 +1,13 @@
 #include "host/SimPlayer.h"
 
-#include "host/Journal.h"
+#include "host/HostCalls.h"
 
 void SimPlayer::pausePlayer() {
-    m_journal.record("ZebPlayer::pausePlayer");
+    m_calls.note("ZebPlayer::pausePlayer");
     ++m_pauses;
 }
 
 void SimPlayer::resumePlayer() {
-    m_journal.record("ZebPlayer::resumePlayer");
+    m_calls.note("ZebPlayer::resumePlayer");
     m_pauses = qMax(0, m_pauses - 1);
 }

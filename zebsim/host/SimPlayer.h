@@ -2,18 +2,18 @@
 
 #include "ZebPlayer.h"
 
-class Journal;
+class HostCalls;
 
 /// The player of recorded images.
 class SimPlayer : public ZebPlayer {
 public:
-    explicit SimPlayer(Journal& journal) : m_journal(journal) {}
+    explicit SimPlayer(const HostCalls& calls) : m_calls(calls) {}
 
     void pausePlayer() override;
     void resumePlayer() override;
     bool isPaused() const { return m_pauses > 0; }
 
 private:
-    Journal& m_journal;
+    const HostCalls& m_calls;
     int m_pauses = 0;
 };

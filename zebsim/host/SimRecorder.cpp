@@ -2,12 +2,12 @@
 
 #include "camera/Camera.h"
 #include "host/CameraBank.h"
+#include "host/HostCalls.h"
 #include "host/HostEvents.h"
-#include "host/Journal.h"
 #include "host/Notices.h"
 #include "host/PluginSignal.h"
+#include "host/Preferences.h"
 #include "host/SimAppStatus.h"
-#include "host/SimDocManager.h"
 #include "host/StatusFlags.h"
 #include "host/Translator.h"
 #include "host/UpdateCycle.h"
@@ -30,12 +30,12 @@ int statusOfAll(const QList<int>& each) {
 
 }  // namespace
 
-SimRecorder::SimRecorder(Journal& journal, const Clock& clock, const CameraBank& cameras, const SimDocManager& docs,
-                         const StatusFlags& flags, SimAppStatus& appStatus, HostEvents& events, UpdateCycle& updates,
-                         const Translator& translator, Notices& notices)
-    : m_journal(journal),
+SimRecorder::SimRecorder(const HostCalls& calls, const Clock& clock, const CameraBank& cameras,
+                         const Preferences& prefs, const StatusFlags& flags, SimAppStatus& appStatus,
+                         HostEvents& events, UpdateCycle& updates, const Translator& translator, Notices& notices)
+    : m_calls(calls),
       m_cameras(cameras),
-      m_docs(docs),
+      m_prefs(prefs),
       m_flags(flags),
       m_appStatus(appStatus),
       m_events(events),
@@ -54,6 +54,21 @@ SimRecorder::SimRecorder(Journal& journal, const Clock& clock, const CameraBank&
             }) {}
 
 int SimRecorder::getRecStatus(const DocKeyList& keys) const {
+    m_calls.ask("getRecStatus");
+    return stateOf(keys);
+}
+
+int SimRecorder::getRecordingState() const {
+    m_calls.ask("getRecordingState");
+    return state();
+}
+
+bool SimRecorder::isRecording() const {
+    m_calls.ask("isRecording");
+    return state() == zeb::RecordRecording;
+}
+
+int SimRecorder::stateOf(const DocKeyList& keys) const {
     if (m_owedEnd) {
         return zeb::RecordRecording;
     }
@@ -76,21 +91,17 @@ int SimRecorder::getRecStatus(const DocKeyList& keys) const {
     return statusOfAll(each);
 }
 
-int SimRecorder::getRecordingState() const {
-    DocKeyList keys;
-    for (const Camera* camera : m_cameras.all()) {
-        keys.append(camera->key());
-    }
-    return getRecStatus(keys);
+int SimRecorder::state() const {
+    return stateOf(m_cameras.keys());
 }
 
 bool SimRecorder::isUnderWay() const {
-    const int state = getRecordingState();
-    return state != zeb::RecordLive && state != zeb::RecordError;
+    const int whole = state();
+    return whole != zeb::RecordLive && whole != zeb::RecordError;
 }
 
 void SimRecorder::startRecReady() {
-    m_journal.record("ZebRecorder::startRecReady");
+    m_calls.change("ZebRecorder::startRecReady");
     arm();
 }
 
@@ -101,7 +112,7 @@ void SimRecorder::arm() {
 }
 
 void SimRecorder::triggerRecording() {
-    m_journal.record("ZebRecorder::triggerRecording");
+    m_calls.change("ZebRecorder::triggerRecording");
     trigger();
 }
 
@@ -109,17 +120,17 @@ void SimRecorder::trigger() {
     if (m_flags.isOn(QStringLiteral("IsTriggerTesting"))) {
         m_notices.add(Message::Info, QStringLiteral("Trigger test: the trigger has come. Nothing is recorded."));
     } else {
-        m_run.trigger(m_docs.isRecordAreaEnabled());
+        m_run.trigger(m_prefs.value(QStringLiteral("recording/area")).toBool());
     }
 }
 
 void SimRecorder::stopRecording() {
-    m_journal.record("ZebRecorder::stopRecording");
+    m_calls.change("ZebRecorder::stopRecording");
     m_run.stop();
 }
 
 void SimRecorder::cancelRecording(bool recording) {
-    m_journal.record("ZebRecorder::cancelRecording", {recording});
+    m_calls.change("ZebRecorder::cancelRecording", {recording});
     endByCancel();
 }
 
@@ -155,7 +166,7 @@ void SimRecorder::press() {
     if (m_appStatus.mode() != zeb::LiveMode || hasEnded()) {
         return;
     }
-    switch (getRecordingState()) {
+    switch (state()) {
         case zeb::RecordCtsReady:
             break;
         case zeb::RecordReady:

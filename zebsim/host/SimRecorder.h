@@ -10,9 +10,9 @@
 class CameraBank;
 class Clock;
 class HostEvents;
-class Journal;
+class HostCalls;
 class SimAppStatus;
-class SimDocManager;
+class Preferences;
 class StatusFlags;
 class Translator;
 class UpdateCycle;
@@ -23,12 +23,10 @@ class Notices;
 /// then the end comes at once, and the press does nothing else.
 class SimRecorder : public ZebRecorder {
 public:
-    SimRecorder(Journal& journal, const Clock& clock, const CameraBank& cameras, const SimDocManager& docs,
+    SimRecorder(const HostCalls& calls, const Clock& clock, const CameraBank& cameras, const Preferences& prefs,
                 const StatusFlags& flags, SimAppStatus& appStatus, HostEvents& events, UpdateCycle& updates,
                 const Translator& translator, Notices& notices);
 
-    /// Recording until its end is told; else as the flags tell, and without one as the cameras asked about stand
-    /// together when the recording was last brought up to the clock: a question alone ends nothing.
     int getRecStatus(const DocKeyList& keys) const override;
     int getRecordingState() const override;
     void startRecReady() override;
@@ -36,7 +34,14 @@ public:
     void triggerRecording() override;
     void stopRecording() override;
     void cancelRecording(bool recording) override;
-    bool isRecording() const override { return getRecordingState() == zeb::RecordRecording; }
+    bool isRecording() const override;
+
+    /// As `getRecordingState`, for the host itself. Recording until its end is told; else as the flags tell, and
+    /// without one as the cameras asked about stand together when the recording was last brought up to the clock: a
+    /// question alone ends nothing.
+    int state() const;
+    /// As `getRecStatus`.
+    int stateOf(const DocKeyList& keys) const;
     /// A line for each camera that has nothing of the last recording in which others have something.
     const QStringList& lost() const { return m_run.lost(); }
     /// Whether cameras are armed or record.
@@ -60,9 +65,9 @@ private:
     bool hasEnded();
     void deliverEnd();
 
-    Journal& m_journal;
+    const HostCalls& m_calls;
     const CameraBank& m_cameras;
-    const SimDocManager& m_docs;
+    const Preferences& m_prefs;
     const StatusFlags& m_flags;
     SimAppStatus& m_appStatus;
     HostEvents& m_events;

@@ -1,7 +1,7 @@
 #include "host/SimSaver.h"
 
 #include "host/AppDesk.h"
-#include "host/Journal.h"
+#include "host/HostCalls.h"
 #include "host/StatusFlags.h"
 
 #include <QClipboard>
@@ -9,8 +9,8 @@
 
 #include <utility>
 
-SimSaver::SimSaver(Journal& journal, const StatusFlags& flags, std::function<AppDesk*()> desk)
-    : m_journal(journal), m_flags(flags), m_desk(std::move(desk)) {}
+SimSaver::SimSaver(const HostCalls& calls, const StatusFlags& flags, std::function<AppDesk*()> desk)
+    : m_calls(calls), m_flags(flags), m_desk(std::move(desk)) {}
 
 bool SimSaver::isSaving() const {
     return m_flags.isOn(QStringLiteral("IsSaving")) || (m_desk() && m_desk()->isSaving());
@@ -25,7 +25,7 @@ bool SimSaver::isBgConverting() const {
 }
 
 void SimSaver::copyToClipboard(int what) {
-    m_journal.record("ZebSaver::copyToClipboard", {what});
+    m_calls.change("ZebSaver::copyToClipboard", {what});
     const QImage image = m_desk() ? m_desk()->currentImage() : QImage();
     if (!image.isNull()) {
         QGuiApplication::clipboard()->setImage(image);
@@ -33,7 +33,7 @@ void SimSaver::copyToClipboard(int what) {
 }
 
 void SimSaver::snapShot(int mode) {
-    m_journal.record("ZebSaver::snapShot", {mode});
+    m_calls.change("ZebSaver::snapShot", {mode});
     if (m_desk()) {
         m_desk()->snapShot(mode);
     }

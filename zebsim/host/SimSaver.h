@@ -5,14 +5,14 @@
 #include <functional>
 
 class AppDesk;
-class Journal;
+class HostCalls;
 class StatusFlags;
 
 /// Whether images are being saved, and the way to the clipboard.
 class SimSaver : public ZebSaver {
 public:
     /// `desk` answers the application's windows, null without an application.
-    SimSaver(Journal& journal, const StatusFlags& flags, std::function<AppDesk*()> desk);
+    SimSaver(const HostCalls& calls, const StatusFlags& flags, std::function<AppDesk*()> desk);
 
     bool isSaving() const override;
     bool isBgSaving() const override;
@@ -21,7 +21,7 @@ public:
     void snapShot(int mode) override;
 
 private:
-    Journal& m_journal;
+    const HostCalls& m_calls;
     const StatusFlags& m_flags;
     const std::function<AppDesk*()> m_desk;
 };

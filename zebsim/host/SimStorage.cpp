@@ -13,5 +13,6 @@ bool SimStorage::isPluginEffective(const QString& name, int /*head*/) const {
 }
 
 bool SimStorage::isLutCurve() const {
+    m_camera.ask("isLutCurve");
     return m_camera.get(&CameraState::lutCurve);
 }

@@ -1,15 +1,25 @@
 #include "host/SimUndo.h"
 
-#include "host/Journal.h"
+#include "host/HostCalls.h"
 
 void SimUndo::clear() {
-    m_journal.record("ZebUndo::clear");
+    m_calls.change("ZebUndo::clear");
+}
+
+bool SimUndo::canUndo() const {
+    m_calls.ask("canUndo");
+    return false;
+}
+
+bool SimUndo::canRedo() const {
+    m_calls.ask("canRedo");
+    return false;
 }
 
 void SimUndo::beginMacro(const QString& text) {
-    m_journal.record("ZebUndo::beginMacro", {text});
+    m_calls.change("ZebUndo::beginMacro", {text});
 }
 
 void SimUndo::endMacro() {
-    m_journal.record("ZebUndo::endMacro");
+    m_calls.change("ZebUndo::endMacro");
 }

@@ -2,19 +2,19 @@
 
 #include "ZebUndo.h"
 
-class Journal;
+class HostCalls;
 
 /// The undo stack. Nothing is undone here: what is asked of it stands in the journal.
 class SimUndo : public ZebUndo {
 public:
-    explicit SimUndo(Journal& journal) : m_journal(journal) {}
+    explicit SimUndo(const HostCalls& calls) : m_calls(calls) {}
 
     void clear() override;
     void beginMacro(const QString& text) override;
     void endMacro() override;
-    bool canUndo() const override { return false; }
-    bool canRedo() const override { return false; }
+    bool canUndo() const override;
+    bool canRedo() const override;
 
 private:
-    Journal& m_journal;
+    const HostCalls& m_calls;
 };

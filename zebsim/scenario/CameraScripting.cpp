@@ -1,9 +1,7 @@
 #include "CameraScripting.h"
 
-#include "FaultObject.h"
 #include "ScenarioError.h"
 #include "camera/Camera.h"
-#include "camera/CameraOperations.h"
 #include "camera/PlainState.h"
 #include "camera/Rig.h"
 #include "host/SimHost.h"
@@ -41,12 +39,4 @@ void CameraScripting::setCamera(unsigned int key, const QVariantMap& members) {
     } catch (const StateError& e) {
         throw ScenarioError(QStringLiteral("camera %1, %2: %3").arg(key).arg(e.member, e.reason));
     }
-}
-
-void CameraScripting::fault(unsigned int key, const QString& operation, const QVariantMap& fault) {
-    // One that a fault has made gone comes back by an empty fault.
-    if (!m_host.cameras().has(key)) throw ScenarioError(QStringLiteral("there is no camera %1").arg(key));
-    if (operation != QLatin1String("*") && !cameraOperations().contains(operation))
-        throw ScenarioError(QStringLiteral("no camera has an operation \"%1\"").arg(operation));
-    m_host.faults().plant(key, operation, faultOf(fault));
 }

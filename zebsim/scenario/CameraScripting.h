@@ -18,8 +18,6 @@ public:
     /// Invalid when the camera is gone.
     QVariant camera(unsigned int key) const;
     void setCamera(unsigned int key, const QVariantMap& members);
-    /// An empty `fault` takes the fault away.
-    void fault(unsigned int key, const QString& operation, const QVariantMap& fault);
 
 private:
     SimHost& m_host;

@@ -1,6 +1,5 @@
 #include "HubScripting.h"
 
-#include "FaultObject.h"
 #include "ScenarioError.h"
 #include "camera/PlainState.h"
 #include "host/SimHost.h"
@@ -24,11 +23,4 @@ void HubScripting::setHub(const QString& address, const QVariantMap& members) {
     } catch (const StateError& e) {
         throw ScenarioError(QStringLiteral("Sync Hub %1, %2: %3").arg(address, e.member, e.reason));
     }
-}
-
-void HubScripting::fault(const QString& address, const QString& operation, const QVariantMap& fault) {
-    const SignalHub& hub = find(address);
-    if (operation != QLatin1String("*") && !SignalHub::operations().contains(operation))
-        throw ScenarioError(QStringLiteral("no Sync Hub has an operation \"%1\"").arg(operation));
-    m_host.faults().plant(hub.key(), operation, faultOf(fault));
 }

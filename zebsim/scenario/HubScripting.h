@@ -13,8 +13,6 @@ public:
 
     QVariantMap hub(const QString& address) const;
     void setHub(const QString& address, const QVariantMap& members);
-    /// An empty `fault` takes the fault away.
-    void fault(const QString& address, const QString& operation, const QVariantMap& fault);
 
 private:
     SignalHub& find(const QString& address) const;

@@ -43,6 +43,7 @@ ScenarioApi::ScenarioApi(QJSEngine& engine, Simulator& simulator, const QString&
       m_givenUp(std::move(stop)),
       m_cameras(simulator.host(), folder),
       m_hubs(simulator.host()),
+      m_faults(simulator.host()),
       m_table(simulator, m_givenUp),
       m_logMark(simulator.log().count()),
       m_callMark(simulator.host().journal().count()) {}
@@ -93,12 +94,7 @@ void ScenarioApi::setHub(const QString& address, const QVariantMap& members) {
 }
 
 void ScenarioApi::fault(const QJSValue& target, const QString& operation, const QVariantMap& fault) {
-    guarded([&] {
-        if (target.isString())
-            m_hubs.fault(target.toString(), operation, fault);
-        else
-            m_cameras.fault(target.toUInt(), operation, fault);
-    });
+    guarded([&] { m_faults.plant(target, operation, fault); });
 }
 
 void ScenarioApi::visa(const QVariantMap& members) {

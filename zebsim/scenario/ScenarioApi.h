@@ -1,6 +1,7 @@
 #pragma once
 
 #include "CameraScripting.h"
+#include "FaultScripting.h"
 #include "HubScripting.h"
 #include "ScenarioDialogs.h"
 #include "TableDriver.h"
@@ -80,6 +81,7 @@ private:
     std::function<bool()> m_givenUp;
     CameraScripting m_cameras;
     HubScripting m_hubs;
+    FaultScripting m_faults;
     VisaScripting m_visa;
     TableDriver m_table;
     ScenarioDialogs m_dialogs;

@@ -2,18 +2,11 @@
 
 #include "camera/CameraError.h"
 #include "camera/FaultPlan.h"
-#include "host/Journal.h"
+#include "host/HostCalls.h"
 #include "recording/Clock.h"
 
 SignalHub::SignalHub(DOCKEY key, const QString& address, const HubState& state, const HubContext& context)
     : m_key(key), m_address(address), m_state(state), m_context(context) {}
-
-const QStringList& SignalHub::operations() {
-    static const QStringList names{QStringLiteral("search"),       QStringLiteral("isConnected"),
-                                   QStringLiteral("getRole"),      QStringLiteral("getFrequency"),
-                                   QStringLiteral("setFrequency"), QStringLiteral("getFrequencies")};
-    return names;
-}
 
 QString SignalHub::name() const {
     return QStringLiteral("Sync Hub ") % m_address;
@@ -62,7 +55,7 @@ int SignalHub::getFrequency() const {
 }
 
 void SignalHub::setFrequency(int hertz) {
-    m_context.journal.record("ZebSignalDevice::setFrequency", {m_address, hertz});
+    m_context.calls.note("ZebSignalDevice::setFrequency", {m_address, hertz});
     askConnected("setFrequency");
     m_context.clock.wait(m_state.latency);
     m_state.frequency = hertz;

@@ -4,15 +4,13 @@
 #include "ZebTypes.h"
 #include "signals/HubState.h"
 
-#include <QStringList>
-
 class Clock;
 class FaultPlan;
-class Journal;
+class HostCalls;
 
 /// What a hub reaches of the host.
 struct HubContext {
-    Journal& journal;
+    const HostCalls& calls;
     Clock& clock;
     FaultPlan& faults;
 };
@@ -22,9 +20,6 @@ class SignalHub : public ZebSignalDevice {
 public:
     /// Faults are planted on the hub under `key`.
     SignalHub(DOCKEY key, const QString& address, const HubState& state, const HubContext& context);
-
-    /// Names of the operations on which a fault can be planted.
-    static const QStringList& operations();
 
     DOCKEY key() const { return m_key; }
     const QString& address() const { return m_address; }

@@ -11,7 +11,7 @@ struct RigHub;
 /// The Sync Hubs of a rig, and those of them that the host has found. GUI thread.
 class SimSignalDevices : public ZebSignalDevices {
 public:
-    SimSignalDevices(Journal& journal, Clock& clock, FaultPlan& faults) : m_context{journal, clock, faults} {}
+    SimSignalDevices(const HostCalls& calls, Clock& clock, FaultPlan& faults) : m_context{calls, clock, faults} {}
 
     /// Puts these hubs in the place of all others; none is connected.
     void replace(const QList<RigHub>& hubs);

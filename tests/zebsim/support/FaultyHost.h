@@ -49,6 +49,15 @@ public:
     SimUndo& undo() override { return healthy(SimHost::undo()); }
 
     QVariant getPref(const QString& key, const QVariant& defaultValue = {}) const override;
+    int getPrefInt(const QString& key, const QVariant& other = {}) const override {
+        return getPref(key, other).toInt();
+    }
+    bool getPrefBool(const QString& key, const QVariant& other = {}) const override {
+        return getPref(key, other).toBool();
+    }
+    QString getPrefString(const QString& key, const QVariant& other = {}) const override {
+        return getPref(key, other).toString();
+    }
     QString translate(const QString& text) const override;
     void errorHandler(const std::exception& e) override;
     void showDropDownBox(const QString& key, const QRect& anchor) override;
