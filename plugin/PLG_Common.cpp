@@ -40,7 +40,7 @@ PLG_Common::~PLG_Common() {
     PLG_Common::resetCursor();
     m_panelBridge.reset();
     // What the host asks while the dialog goes finds no dialog any more.
-    delete std::exchange(m_dialog, nullptr);
+    if (auto* dialog = std::exchange(m_dialog, nullptr)) dialog->discard();
 }
 
 QString PLG_Common::getPageHtml() {
@@ -124,12 +124,11 @@ void PLG_Common::showDialog() {
     if (!m_dialog || !(m_dialog->isHidden() || m_dialog->isMinimized())) return;
     const QPointer<PLG_Common> alive(this);
     if (m_dialog->isMinimized()) m_dialog->setWindowState(Qt::WindowNoState);
-    if (JS_Mediator* bridge = m_dialog->getBridge()) Q_EMIT bridge->open();
+    m_dialog->openPage();
     // The page may have waited for its user, and the plug-in be gone by now.
-    if (!alive) return;
-    m_dialog->show();
-    if (needsLivePause()) restartLiveAfterTool();
-    if (getQuickKind() == 1) {
+    if (alive) m_dialog->show();
+    if (alive && needsLivePause()) restartLiveAfterTool();
+    if (alive && getQuickKind() == 1) {
         m_host->docManager().setActiveQuickTool(QString());
         m_host->docManager().setQuickTool(m_name, true);
     }
@@ -162,13 +161,15 @@ void PLG_Common::slotModelessPatternDialogClosed() {
     if (m_dialog && !m_dialog->isPluginCloseEnabled()) return;
     // Held here, since a host may destroy the plug-in that it closes.
     ZebHost& host = *m_host;
+    const QPointer<PLG_Common> alive(this);
+    const QString name = m_name;
     // This runs inside the window's close event, and Qt does not bear an exception there.
     try {
         if (needsLivePause()) restartLiveAfterEnd();
         const auto update = qScopeGuard([&host] { host.updateUI(zeb::UpdateAll, true); });
         const DeterScope deter(host);
-        hideDialog();
-        host.appStatus().closePlugin(m_name);
+        if (alive) hideDialog();
+        host.appStatus().closePlugin(name);
     } catch (const std::exception& e) {
         logFailure([&host, &e] { host.errorHandler(e); });
     }

@@ -35,15 +35,20 @@ PLG_wren::~PLG_wren() {
 }
 
 void PLG_wren::activate() {
-    m_host->appStatus().setWrenRunning(true);
-    PLG_Button::activate();
-    m_host->updateUI(zeb::UpdateAll, true);
+    setRunningInHost(true);
 }
 
 void PLG_wren::deactivate() {
-    m_host->appStatus().setWrenRunning(false);
-    PLG_Button::deactivate();
-    m_host->updateUI(zeb::UpdateAll, true);
+    setRunningInHost(false);
+}
+
+/// A host may destroy the plug-in when it hears of this.
+void PLG_wren::setRunningInHost(bool running) {
+    ZebHost& host = *m_host;
+    const QPointer<PLG_wren> alive(this);
+    host.appStatus().setWrenRunning(running);
+    if (alive) running ? PLG_Button::activate() : PLG_Button::deactivate();
+    host.updateUI(zeb::UpdateAll, true);
 }
 
 bool PLG_wren::isButtonEnabled() const {

@@ -31,6 +31,7 @@ public Q_SLOTS:
     void slotScreenShot(const QString& path) override;
 
 private:
+    void setRunningInHost(bool running);
     /// Null while there is no table.
     JS_Mediator_WrenTableDialog* table();
     /// Null unless the table is the active window.

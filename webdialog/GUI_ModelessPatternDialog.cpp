@@ -11,6 +11,7 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QScopedValueRollback>
 #include <QScreen>
 
 #include <utility>
@@ -19,6 +20,25 @@ GUI_ModelessPatternDialog::GUI_ModelessPatternDialog(ZebHost* host, const QStrin
                                                      JS_Mediator_Dialog* bridge, PLG_Interface* plugin, QWidget* parent)
     : GUI_WebViewDialog(host, title, url, bridge, parent), m_plugin(plugin) {
     installEventFilter(this);
+}
+
+void GUI_ModelessPatternDialog::discard() {
+    if (m_telling == 0) {
+        delete this;
+        return;
+    }
+    endPage();
+    setAttribute(Qt::WA_DontShowOnScreen);
+    hide();
+    deleteLater();
+}
+
+void GUI_ModelessPatternDialog::openPage() {
+    Q_EMIT getBridge()->open();
+}
+
+void GUI_ModelessPatternDialog::closePage() {
+    Q_EMIT getBridge()->close();
 }
 
 void GUI_ModelessPatternDialog::updatePage() {
@@ -34,16 +54,21 @@ void GUI_ModelessPatternDialog::centerOnMainScreen() {
 void GUI_ModelessPatternDialog::closeEvent(QCloseEvent*) {
     const QPointer<GUI_ModelessPatternDialog> self(this);
     host().appStatus().notifyPluginClosed(m_plugin);
-    Q_EMIT getBridge()->close();
+    if (self) closePage();
     // The page's answer may have waited for the user, and the dialog be gone by now.
     if (self) Q_EMIT closed();
 }
 
 void GUI_ModelessPatternDialog::showEvent(QShowEvent* event) {
     GUI_WebViewDialog::showEvent(event);
+    tellShown();
+    if (m_plugin) QApplication::setActiveWindow(this);
+    if (m_plugin) Q_EMIT shown();
+}
+
+void GUI_ModelessPatternDialog::tellShown() {
+    const QScopedValueRollback telling(m_telling, m_telling + 1);
     host().appStatus().notifyPluginShown(m_plugin);
-    QApplication::setActiveWindow(this);
-    Q_EMIT shown();
 }
 
 bool GUI_ModelessPatternDialog::eventFilter(QObject* watched, QEvent* event) {
@@ -69,8 +94,9 @@ bool GUI_ModelessPatternDialog::deferClose(QEvent* event) {
 }
 
 void GUI_ModelessPatternDialog::tellActivated() {
+    if (!m_plugin) return;
     logFailure([this] {
         if (m_plugin->isReselectOnActivate()) host().docManager().setQuickTool(m_plugin->getName(), false);
     });
-    host().appStatus().notifyPluginShown(m_plugin);
+    tellShown();
 }

@@ -2,6 +2,7 @@
 
 #include "GUI_WebView.h"
 #include "JS_Mediator_Dialog.h"
+#include "LogFailure.h"
 #include "PageEnd.h"
 #include "TraceScope.h"
 #include "TraceText.h"
@@ -10,6 +11,8 @@
 
 #include <QCloseEvent>
 #include <QVBoxLayout>
+
+#include <utility>
 
 namespace {
 
@@ -48,9 +51,19 @@ void GUI_WebViewDialog::connectSignals() {
 }
 
 GUI_WebViewDialog::~GUI_WebViewDialog() {
-    if (m_viewerSuspended && !m_host->isApplicationClosing()) m_host->resumeViewer();
-    destroyPage(m_view, bridges());
+    endPage();
     delete m_layout;
+}
+
+void GUI_WebViewDialog::endPage() {
+    if (!m_view) return;
+    disconnect(m_view, nullptr, this, nullptr);  // a load that is cut off ends once more
+    if (m_viewerSuspended && !m_host->isApplicationClosing()) m_host->resumeViewer();
+    const QList<JS_Mediator*> owned = bridges();
+    m_bridge = nullptr;
+    m_extraBridges.clear();
+    destroyPage(std::exchange(m_view, nullptr), owned);
+    m_loading.reset();
 }
 
 void GUI_WebViewDialog::addBridge(JS_Mediator* bridge) {
@@ -82,7 +95,7 @@ void GUI_WebViewDialog::loadProgress(int) {}
 
 void GUI_WebViewDialog::loadFinished(bool ok) {
     const TraceScope trace(QStringLiteral("GUI_WebViewDialog::loadFinished"), traceArg(QStringLiteral("ok"), ok));
-    centerWithoutMainWindow(*m_host, *this);
+    logFailure([this] { centerWithoutMainWindow(*m_host, *this); });
     fadeIn();
     m_loading.reset();
     if (m_updateOnLoad) m_host->updateUI(zeb::UpdateAll, true);

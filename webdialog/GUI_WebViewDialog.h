@@ -48,6 +48,8 @@ protected:
     JS_Mediator* busyBridge() const;
     /// False: no update cycle is asked for at the end of a load.
     void setUpdateOnLoad(bool update) { m_updateOnLoad = update; }
+    /// Destroys the page and ends all that the dialog has with the host. An empty window is left.
+    void endPage();
 
 private:
     void connectSignals();
@@ -55,7 +57,7 @@ private:
     void fadeIn();
 
     ZebHost* const m_host;
-    JS_Mediator_Dialog* const m_bridge;
+    JS_Mediator_Dialog* m_bridge;
     QList<JS_Mediator*> m_extraBridges;
     QVBoxLayout* m_layout;
     GUI_WebView* m_view;

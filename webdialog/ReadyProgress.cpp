@@ -12,6 +12,7 @@ GUI_ProgressDialog* makeReadyProgressDialog(const QString& label, ZebHost& host)
     PLG_Interface* wren = host.appStatus().getPlugin(QStringLiteral("wren"));
     QWidget* table = wren ? wren->getDialog(false) : nullptr;
     QWidget* parent = table ? table : host.getMainWindow();
+    const QString colour = host.getPrefString(QStringLiteral("wren/settings/recreadyTableColor"));
     auto* progress = new GUI_ProgressDialog(label, QString(), 0, 0, parent, Qt::FramelessWindowHint, true);
     progress->setModal(false);
     // The host's keys are for the active window, and the trigger may be one of them.
@@ -21,8 +22,7 @@ GUI_ProgressDialog* makeReadyProgressDialog(const QString& label, ZebHost& host)
     progress->setStyleSheet(QStringLiteral("*{ color: #333333; background: #a1a7ad; font-size: 45px; font-weight:bold;}"
                                            "QProgressBar {color: black; text-align: center; height: 80px;}"
                                            "QProgressBar::chunk {color: black; background: ") %
-                            host.getPrefString(QStringLiteral("wren/settings/recreadyTableColor")) %
-                            QStringLiteral(";}"));
+                            colour % QStringLiteral(";}"));
     progress->resize(800, 150);
     centerWithoutMainWindow(host, *progress);
     return progress;
