@@ -14,6 +14,8 @@
 #include <QPointer>
 #include <QScreen>
 
+#include <utility>
+
 namespace {
 
 constexpr QSize MinimumSize(1200, 400);
@@ -58,6 +60,22 @@ bool GUI_WrenTableDialog::isPartitionBoxShown() const {
     return m_selectBox->isVisible();
 }
 
+void GUI_WrenTableDialog::openPage() {
+    const QPointer<GUI_WrenTableDialog> self(this);
+    GUI_ModelessPatternDialog::openPage();
+    if (self) {
+        m_table->ensureSession();
+    }
+}
+
+void GUI_WrenTableDialog::closePage() {
+    const QPointer<GUI_WrenTableDialog> self(this);
+    GUI_ModelessPatternDialog::closePage();
+    if (self) {
+        m_table->endSession();
+    }
+}
+
 void GUI_WrenTableDialog::updatePage() {
     logFailure([this] { GUI_ModelessPatternDialog::updatePage(); });
 }
@@ -69,7 +87,10 @@ void GUI_WrenTableDialog::closeEvent(QCloseEvent* event) {
     const QPointer<GUI_WrenTableDialog> self(this);
     const bool ticking = m_table->isTicking();
     bridgeCall(*m_table, [this] { storePlacement(); });
-    QCoreApplication::processEvents();
+    // The host may take the plug-in away in each of these calls, and the window with it.
+    if (self) {
+        QCoreApplication::processEvents();
+    }
     if (!self || !mayClose()) {
         if (self && !ticking) {
             m_table->stopAutoUpdate();  // the end of our calls has started them
@@ -78,7 +99,9 @@ void GUI_WrenTableDialog::closeEvent(QCloseEvent* event) {
         return;
     }
     bridgeCall(*m_table, [this] { host().setPrefBool(ReadyPref, host().isApplicationClosing()); });
-    GUI_ModelessPatternDialog::closeEvent(event);
+    if (self) {
+        GUI_ModelessPatternDialog::closeEvent(event);
+    }
 }
 
 void GUI_WrenTableDialog::moveEvent(QMoveEvent* event) {
@@ -113,14 +136,17 @@ void GUI_WrenTableDialog::storePlacement() {
     if (host().isWindowStateSaveSuppressed()) {
         return;
     }
-    const auto store = [this](const char* name, int value) { host().setPrefInt(placementPref(name), value); };
+    ZebHost& store = host();
     const QRect normal = normalGeometry();
-    store("x", normal.left());
-    store("y", normal.top());
-    store("w", normal.width());
-    store("h", normal.height());
-    store("scrno", QApplication::desktop()->screenNumber(this));
-    store("stat", int(windowState()));
+    const std::pair<const char*, int> values[] = {{"x", normal.left()},
+                                                  {"y", normal.top()},
+                                                  {"w", normal.width()},
+                                                  {"h", normal.height()},
+                                                  {"scrno", QApplication::desktop()->screenNumber(this)},
+                                                  {"stat", int(windowState())}};
+    for (const auto& [name, value] : values) {
+        store.setPrefInt(placementPref(name), value);
+    }
 }
 
 /// The question counts as a call of the bridge: no tick comes while it stands and no camera is changed behind it.

@@ -12,7 +12,7 @@ class GUI_WrenTableDialog : public GUI_ModelessPatternDialog {
     Q_OBJECT
 
 public:
-    /// `bridge` is owned from here on; `host` and `plugin` outlive the dialog.
+    /// `bridge` is owned from here on.
     GUI_WrenTableDialog(ZebHost* host, const QString& title, const QString& url, JS_Mediator_WrenTableDialog* bridge,
                         PLG_Interface* plugin);
     ~GUI_WrenTableDialog() override;
@@ -22,10 +22,14 @@ public:
     void hidePartitionBox();
     bool isPartitionBoxShown() const;
 
+    /// The session is open afterwards, page or not.
+    void openPage() override;
     /// A failure of the page goes to the log and no further.
     void updatePage() override;
 
 protected:
+    /// The session is over afterwards, page or not.
+    void closePage() override;
     /// Asks the user, unless the host itself is closing.
     void closeEvent(QCloseEvent* event) override;
     void moveEvent(QMoveEvent* event) override;

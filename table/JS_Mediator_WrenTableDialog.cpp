@@ -30,10 +30,14 @@
 
 #include <QCoreApplication>
 
+#include <utility>
+
 namespace {
 
 /// Selections that follow each other within this time make one update. Milliseconds.
 constexpr int SelectionWait = 500;
+/// Between two updates while the preference can't be read. Milliseconds.
+constexpr int DefaultInterval = 500;
 
 QString methodName(const char* method) {
     return QStringLiteral("JS_Mediator_WrenTableDialog::") % QLatin1String(method);
@@ -61,14 +65,13 @@ JS_Mediator_WrenTableDialog::JS_Mediator_WrenTableDialog(ZebHost* host, const QS
     });
     QObject::connect(&m_timers, &UpdateTimers::selected, this, &JS_Mediator_WrenTableDialog::slotSelectForUpdate);
     bridgeCall(*this, [this] {
-        openSession();
-        deleteReadyProgress();
         m_timers.stop();  // ticks begin with the first call of the page
+        openSession();
     });
 }
 
 JS_Mediator_WrenTableDialog::~JS_Mediator_WrenTableDialog() {
-    delete m_readyProgress;
+    logFailure([this] { closeSession(); });
     logFailure([this] {
         if (m_state.sync.generator) {
             m_state.sync.generator->disconnect();
@@ -98,23 +101,39 @@ void JS_Mediator_WrenTableDialog::onOpen() {
 }
 
 void JS_Mediator_WrenTableDialog::openSession() {
-    m_timers.renew(host().getPrefInt(QStringLiteral("wren/table/interval")));
-    TableSession session(host(), m_state);
-    // A failure in these keeps nobody from following a recording that runs.
-    bridgeCall(*this, [&session] { session.open(); });
-    session.takeAllConnected();
-    bridgeCall(*this, [&session] { session.loadDefaultSettings(); });
-    session.followConnectedDocs();
+    m_sessionOpen = true;
+    int interval = DefaultInterval;
+    logFailure([&] { interval = host().getPrefInt(QStringLiteral("wren/table/interval")); });
+    m_timers.renew(interval);
+    TableSession(host(), m_state).open();
+}
+
+void JS_Mediator_WrenTableDialog::ensureSession() {
+    if (!m_sessionOpen) {
+        onOpen();
+    }
 }
 
 void JS_Mediator_WrenTableDialog::onClose() {
     bridgeCall(*this, [this] {
         const TraceScope scope(methodName("onClose"));
-        m_timers.remove();
-        TableSession(host(), m_state).close();
-        deleteReadyProgress();
+        endSession();
         JS_Mediator_ModelessPatternDialog::onClose();
     });
+}
+
+void JS_Mediator_WrenTableDialog::endSession() {
+    bridgeCall(*this, [this] { closeSession(); });
+}
+
+void JS_Mediator_WrenTableDialog::closeSession() {
+    if (!std::exchange(m_sessionOpen, false)) {
+        return;
+    }
+    delete m_readyProgress;
+    m_timers.remove();
+    releaseTextBox();
+    TableSession(host(), m_state).close();
 }
 
 QString JS_Mediator_WrenTableDialog::getRecords(const QString& json) {
@@ -451,7 +470,8 @@ void JS_Mediator_WrenTableDialog::enterMemoryMode() {
 
 void JS_Mediator_WrenTableDialog::showReadyProgress() {
     queryCall(*this, __func__, [this] {
-        if (m_readyProgress || !host().appStatus().isWrenRunning() || m_state.loadingRigx) {
+        const bool following = m_sessionOpen && host().appStatus().isWrenRunning();
+        if (m_readyProgress || !following || m_state.loadingRigx) {
             return;
         }
         m_readyProgress = makeReadyProgressDialog(host().translate(QStringLiteral("Ready...")), host());

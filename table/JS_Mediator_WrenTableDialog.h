@@ -25,6 +25,9 @@ public:
     void clearRecordRunning() override { m_state.recordRunning = false; }
 
     TableState& state() { return m_state; }
+    /// Open and end the session where the page has not done so, as one that has not loaded.
+    void ensureSession();
+    void endSession();
     /// Whether ticks come, now that no call runs.
     bool isTicking() const { return m_timers.isTicking(); }
 
@@ -128,11 +131,13 @@ private:
     void edit(const char* method, const QVariantList& keys, const char* name, const QVariant& value, Work&& work);
 
     void openSession();
+    void closeSession();
     bool _setSyncSettings();
     GUI_WrenTableDialog* tableDialog() const;
     void activateTable();
 
     TableState m_state;
+    bool m_sessionOpen = false;
     UpdateTimers m_timers;
     QPointer<GUI_ProgressDialog> m_readyProgress;
 };

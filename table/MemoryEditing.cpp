@@ -6,6 +6,7 @@
 #include "DOC_Interface.h"
 #include "GatheredFailures.h"
 #include "LogFailure.h"
+#include "NamedFailure.h"
 #include "ZebDocManager.h"
 #include "ZebHost.h"
 
@@ -35,7 +36,7 @@ int clampedEnd(long long asked, int selectedStart, int last) {
 void clearRecordChecks(ZebHost& host, GatheredFailures& failures) {
     for (const DOCKEY key : host.docManager().getDocKeys()) {
         if (DOC_Interface* doc = host.docManager().getDocAny(key)) {
-            failures.attempt([doc] { doc->frames().setRecordCheck(false); });
+            failures.attempt([doc] { onCamera(*doc, [doc] { doc->frames().setRecordCheck(false); }); });
         }
     }
 }

@@ -6,9 +6,8 @@
 #include "DOC_Lock.h"
 #include "DocKeys.h"
 #include "DocumentGuard.h"
-#include "GatheredFailures.h"
-#include "LogFailure.h"
 #include "MemoryEditing.h"
+#include "NamedFailure.h"
 #include "SignalSources.h"
 #include "TableState.h"
 #include "ZebDocManager.h"
@@ -21,10 +20,13 @@
 
 void TableSession::open() {
     m_state.group = QLatin1String(UnreadGroup);
-    GatheredFailures failures;
-    clearLocks(false, failures);
-    clearRecordChecks(m_host, failures);
-    failures.rethrow();
+    clearLocks(false);
+    m_failures.attempt([this] { clearRecordChecks(m_host, m_failures); });
+    m_failures.attempt([this] { takeAllConnected(); });
+    m_failures.attempt([this] { loadDefaultSettings(); });
+    // As one that connects now; a recording that runs is followed.
+    m_failures.attempt([this] { CameraManagement(m_host, m_state).prepareConnectedDocs(connected()); });
+    m_failures.rethrow();
 }
 
 void TableSession::takeAllConnected() {
@@ -35,22 +37,18 @@ void TableSession::takeAllConnected() {
 }
 
 /// One that does not tell whether it is connected says so in its row.
-DocList TableSession::connected() const {
+DocList TableSession::connected() {
     ZebDocManager& documents = m_host.docManager();
     GatheredFailures unread;
     return connectedDocs(documents, documents.getConnectedDocKeys(), unread);
 }
 
-void TableSession::followConnectedDocs() {
-    CameraManagement(m_host, m_state).prepareConnectedDocs(connected());
-}
-
 void TableSession::loadDefaultSettings() {
     const DocList docs = connected();
     DocumentGuard guard(m_host, false, false);
-    const bool busy = std::any_of(docs.begin(), docs.end(), [](DOC_Interface* doc) {
+    const bool busy = std::any_of(docs.begin(), docs.end(), [this](DOC_Interface* doc) {
         bool armed = false;
-        logFailure([&] { armed = isArmed(*doc); });
+        m_failures.attempt([&] { onCamera(*doc, [&] { armed = isArmed(*doc); }); });
         return armed;
     });
     if (!m_host.isFileMode() && !busy) {
@@ -76,27 +74,31 @@ void TableSession::connectSignalSources() {
 }
 
 void TableSession::close() {
-    GatheredFailures failures;
-    failures.attempt([this] { m_host.setPrefInt(QStringLiteral("wren/table/filter"), m_state.filter); });
-    failures.attempt([this] { m_host.setPrefString(QStringLiteral("wren/table/group"), m_state.group); });
-    if (const auto saved = std::exchange(m_state.savedRecAllConnected, std::nullopt)) {
-        failures.attempt([this, saved] { m_host.setPrefBool(RecAllConnectedPref, *saved); });
+    // A page that has never come has chosen neither.
+    if (m_state.group != QLatin1String(UnreadGroup)) {
+        m_failures.attempt([this] { m_host.setPrefInt(QStringLiteral("wren/table/filter"), m_state.filter); });
+        m_failures.attempt([this] { m_host.setPrefString(QStringLiteral("wren/table/group"), m_state.group); });
     }
-    clearLocks(true, failures);
-    clearRecordChecks(m_host, failures);
-    failures.rethrow();
+    if (const auto saved = std::exchange(m_state.savedRecAllConnected, std::nullopt)) {
+        m_failures.attempt([this, saved] { m_host.setPrefBool(RecAllConnectedPref, *saved); });
+    }
+    clearLocks(true);
+    m_failures.attempt([this] { clearRecordChecks(m_host, m_failures); });
+    m_failures.rethrow();
 }
 
-void TableSession::clearLocks(bool recordingToo, GatheredFailures& failures) {
-    for (const DOCKEY key : m_host.docManager().getDocKeys()) {
-        DOC_Interface* doc = m_host.docManager().getDocAny(key);
-        if (doc == nullptr) {
-            continue;
+void TableSession::clearLocks(bool recordingToo) {
+    ZebDocManager& documents = m_host.docManager();
+    const auto clear = [recordingToo](DOC_Interface& doc) {
+        if (recordingToo || !isArmed(doc)) {
+            doc.lock().setParamLock(false);
         }
-        failures.attempt([&] {
-            if (recordingToo || !isArmed(*doc)) {
-                doc->lock().setParamLock(false);
+    };
+    m_failures.attempt([&] {
+        for (const DOCKEY key : documents.getDocKeys()) {
+            if (DOC_Interface* doc = documents.getDocAny(key)) {
+                m_failures.attempt([&] { onCamera(*doc, [&] { clear(*doc); }); });
             }
-        });
-    }
+        }
+    });
 }

@@ -1,32 +1,32 @@
 #pragma once
 
+#include "GatheredFailures.h"
 #include "ZebTypes.h"
 
-class GatheredFailures;
 class ZebHost;
 struct TableState;
 
-/// What an open table sets on host and cameras, and takes back when it closes. May throw what the host throws. Opening
-/// and closing go over all cameras, whatever one of them fails at, and throw at their end.
+/// What an open table sets on host and cameras, and takes back when it closes.
+///
+/// No step and no camera keeps the others from being done. What has failed is thrown at the end, a line each.
 class TableSession {
 public:
     TableSession(ZebHost& host, TableState& state) : m_host(host), m_state(state) {}
 
-    /// Heads that are ready or recording keep their lock.
+    /// Runs event loops. Heads that are ready or recording keep their lock, and the default settings are not read then.
+    /// Opening twice is closing once.
     void open();
-    /// From now on a recording takes all connected cameras. Doing so twice is closing once.
-    void takeAllConnected();
     void close();
-    /// Reads the default settings. A camera that is ready or recording keeps the table as it is.
-    void loadDefaultSettings();
-    /// The cameras that are connected already come into the table as one that connects does.
-    void followConnectedDocs();
 
 private:
-    void clearLocks(bool recordingToo, GatheredFailures& failures);
+    /// From now on a recording takes all connected cameras.
+    void takeAllConnected();
+    void loadDefaultSettings();
     void connectSignalSources();
-    DocList connected() const;
+    void clearLocks(bool recordingToo);
+    DocList connected();
 
     ZebHost& m_host;
     TableState& m_state;
+    GatheredFailures m_failures;
 };

@@ -14,5 +14,12 @@ void JS_Mediator_ModelessPatternDialog::onClose() {
 }
 
 void JS_Mediator_ModelessPatternDialog::setTextBoxFocusState(bool focused) {
-    bridgeCall(*this, [&] { host().setTextBoxFocusState(focused); });
+    bridgeCall(*this, [&] {
+        m_textBoxFocused = focused;
+        host().setTextBoxFocusState(focused);
+    });
+}
+
+void JS_Mediator_ModelessPatternDialog::releaseTextBox() {
+    if (m_textBoxFocused) setTextBoxFocusState(false);
 }

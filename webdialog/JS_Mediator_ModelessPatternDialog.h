@@ -22,9 +22,12 @@ public Q_SLOTS:
     void setTextBoxFocusState(bool focused);
 
 protected:
+    /// A text box of the page does not keep the keyboard beyond the page.
+    void releaseTextBox();
     /// Null once the plug-in is gone.
     PLG_Interface* plugin() const { return m_plugin; }
 
 private:
+    bool m_textBoxFocused = false;
     const QPointer<PLG_Interface> m_plugin;
 };

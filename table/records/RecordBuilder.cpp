@@ -8,6 +8,7 @@
 #include "DeviceAlerts.h"
 #include "FailureText.h"
 #include "GatheredFailures.h"
+#include "NamedFailure.h"
 #include "TableState.h"
 #include "ZebDocManager.h"
 #include "ZebHost.h"
@@ -21,19 +22,6 @@
 namespace {
 
 const QString Signal = QStringLiteral("signal");
-
-/// The text names the camera, whose exception may not do so by itself.
-QString named(const QString& failure, DOC_Interface& doc) {
-    for (const auto& nameOf : {&DOC_Control::getCameraName, &DOC_Control::getAddress}) {
-        try {
-            const QString name = (doc.control().*nameOf)(1);
-            return failure.contains(name) ? failure : QString(name % QStringLiteral(": ") % failure);
-        } catch (...) {
-            continue;
-        }
-    }
-    return failure;
-}
 
 }  // namespace
 
@@ -110,7 +98,7 @@ RecordBuilder::Row RecordBuilder::build(DOC_Interface& doc, DOCKEY key, int reci
     row.whole = failure.isEmpty();
     row.record.setText(QLatin1String("alert"), row.whole ? alert : failure);
     if (!row.whole) {
-        m_failures.failed(sourceOf(key), named(failure, doc));
+        m_failures.failed(sourceOf(key), namedFailure(failure, doc));
     } else if (!m_failures.isEmpty()) {
         m_failures.whole(sourceOf(key));
     }

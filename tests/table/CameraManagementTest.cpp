@@ -185,8 +185,6 @@ TEST_F(CameraManagementTest, aSessionTakesBackWhatItSet) {
     TableSession session(host, state);
 
     session.open();
-    session.takeAllConnected();
-    session.followConnectedDocs();
     EXPECT_EQ(state.group, QLatin1String(UnreadGroup));
     EXPECT_FALSE(stateOf(1, "locked").toBool());
     EXPECT_TRUE(stateOf(2, "locked").toBool()) << "a head that records keeps its lock";
@@ -195,7 +193,6 @@ TEST_F(CameraManagementTest, aSessionTakesBackWhatItSet) {
     EXPECT_TRUE(host.getPrefBool("recording/RecAllConnectedCamera"));
 
     session.open();  // a minimised table is restored
-    session.takeAllConnected();
     change(2, {{"recordState", 0}});
     state.group = QStringLiteral("Front");
     session.close();

@@ -1,0 +1,21 @@
+#pragma once
+
+#include "FailureText.h"
+
+#include <stdexcept>
+
+class DOC_Interface;
+
+/// `failure` with the name of the camera that it is about, or its address. It stays as it is when it is empty, has the
+/// name already, or the camera tells neither.
+QString namedFailure(const QString& failure, DOC_Interface& doc);
+
+/// Runs `step` on a camera; what it throws says which camera it was.
+template <typename Step>
+void onCamera(DOC_Interface& doc, Step&& step) {
+    try {
+        step();
+    } catch (...) {
+        throw std::runtime_error(namedFailure(currentFailureText(), doc).toStdString());
+    }
+}
