@@ -9,6 +9,7 @@
 #include "DocumentGuard.h"
 #include "GUI_ProgressDialog.h"
 #include "GUI_WrenTableDialog.h"
+#include "GatheredFailures.h"
 #include "LogFailure.h"
 #include "MemoryEditing.h"
 #include "PLG_Interface.h"
@@ -102,10 +103,12 @@ void JS_Mediator_WrenTableDialog::onOpen() {
 
 void JS_Mediator_WrenTableDialog::openSession() {
     m_sessionOpen = true;
+    GatheredFailures failures;
     int interval = DefaultInterval;
-    logFailure([&] { interval = host().getPrefInt(QStringLiteral("wren/table/interval")); });
+    failures.attempt([&] { interval = host().getPrefInt(QStringLiteral("wren/table/interval")); });
     m_timers.renew(interval);
-    TableSession(host(), m_state).open();
+    failures.attempt([this] { TableSession(host(), m_state).open(); });
+    failures.rethrow();
 }
 
 void JS_Mediator_WrenTableDialog::ensureSession() {
@@ -180,7 +183,7 @@ DOCKEY JS_Mediator_WrenTableDialog::getBatchDocKey() {
 
 bool JS_Mediator_WrenTableDialog::isSuspendReduceMode(DOCKEY dockey) {
     return queryCall(*this, {__func__, dockey}, false,
-                     [&] { return RecordModel(host(), m_state).isSuspendReduceMode(dockey); });
+                     [&] { return RecordModel(host(), m_state).isSuspendReduceMode(dockey, cycleFailures()); });
 }
 
 PARTITIONNUMBER JS_Mediator_WrenTableDialog::getCurrentPartition() {

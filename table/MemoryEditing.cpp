@@ -12,19 +12,6 @@
 
 #include <algorithm>
 
-namespace {
-
-/// A camera that does not answer has not been looked at, and keeps nobody from saving the others.
-bool needsNoQuestion(DOC_Interface& doc) {
-    bool confirmed = false;
-    logFailure([&] {
-        confirmed = !doc.isConnected() || doc.frames().getFrameCount(0, 0) == 0 || doc.frames().isRecordCheck();
-    });
-    return confirmed;
-}
-
-}  // namespace
-
 int clampedStart(long long asked, int first, int selectedEnd) {
     return int(std::min<long long>(std::max<long long>(asked, first), selectedEnd));
 }
@@ -114,14 +101,19 @@ void MemoryEditing::saveLayout() {
     }
 }
 
+/// A camera that does not answer has not been looked at, and keeps nobody from saving the others.
 bool MemoryEditing::userTakesUnchecked() {
     ZebDocManager& documents = m_host.docManager();
-    const DocKeyList keys = documents.getConnectedDocKeys();
-    const bool complete = std::all_of(keys.begin(), keys.end(), [&documents](DOCKEY key) {
-        DOC_Interface* doc = documents.getDoc(key, 1);
-        return doc == nullptr || needsNoQuestion(*doc);
-    });
-    return complete || (m_host.confirm(m_host.translate(QStringLiteral(
-                            "Do you want to save even though playback confirmation has not been completed?"))) &&
-                        m_host.isMemoryMode());
+    GatheredFailures unread;
+    bool complete = true;
+    for (DOC_Interface* doc : connectedDocs(documents, documents.getConnectedDocKeys(), unread)) {
+        unread.attempt(
+            [&] { complete = (doc->frames().getFrameCount(0, 0) == 0 || doc->frames().isRecordCheck()) && complete; });
+    }
+    if (complete && unread.isEmpty()) {
+        return true;
+    }
+    const QStringList question{m_host.translate(
+        QStringLiteral("Do you want to save even though playback confirmation has not been completed?"))};
+    return m_host.confirm((question + unread.lines()).join(QLatin1Char('\n'))) && m_host.isMemoryMode();
 }

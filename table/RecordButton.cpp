@@ -45,10 +45,19 @@ void RecordButton::press(const std::function<bool()>& synchronise) {
         clearRecordChecks(m_host, failures);
         setAreas(failures);
         arm();
-        // The cameras are armed, and nobody may be kept from their trigger.
-        if (!failures.isEmpty()) {
-            m_host.errorHandler(ZebCycleFailure(failures.text().toStdString()));
-        }
+        tell(failures);
+    }
+}
+
+/// The cameras are armed, and nobody may be kept from their trigger. What the user has read before comes no second
+/// time.
+void RecordButton::tell(const GatheredFailures& failures) {
+    QStringList lines = failures.lines();
+    for (const QString& line : m_read) {
+        lines.removeAll(line);
+    }
+    if (!lines.isEmpty()) {
+        m_host.errorHandler(ZebCycleFailure(lines.join(QLatin1Char('\n')).toStdString()));
     }
 }
 
@@ -62,11 +71,9 @@ void RecordButton::cancel() {
     }
 }
 
-/// One that does not tell whether it is connected is left to the problems.
-DocList RecordButton::connected() const {
+DocList RecordButton::connected(GatheredFailures& failures) const {
     ZebDocManager& documents = m_host.docManager();
-    GatheredFailures unread;
-    return connectedDocs(documents, documents.getConnectedDocKeys(1), unread);
+    return connectedDocs(documents, documents.getConnectedDocKeys(1), failures);
 }
 
 bool RecordButton::canArm() const {
@@ -79,7 +86,8 @@ bool RecordButton::areCamerasLocked() {
     }
     GatheredFailures unread;
     bool locked = true;
-    for (DOC_Interface* doc : connected()) {
+    GatheredFailures unknown;  // is a problem, later
+    for (DOC_Interface* doc : connected(unknown)) {
         unread.attempt([&] { locked = doc->lock().isParamLocked() && locked; });
     }
     if (locked && unread.isEmpty()) {
@@ -93,7 +101,7 @@ bool RecordButton::areCamerasLocked() {
     return false;
 }
 
-QStringList RecordButton::problems() const {
+QStringList RecordButton::problems() {
     ZebDocManager& documents = m_host.docManager();
     const SignalSources signal(m_host, m_state.sync);
     const bool hasSignal = signal.givesFrequency();
@@ -114,6 +122,7 @@ QStringList RecordButton::problems() const {
             }
         });
         camera.own += unread.lines();
+        m_read += unread.lines();
         cameras.append(camera);
     }
     return problemLines(cameras, m_host.translate(SignalDiffersText));
@@ -142,7 +151,7 @@ bool RecordButton::prepareSignal(const std::function<bool()>& synchronise, Gathe
         }
     }
     if (m_host.getPrefBool(QStringLiteral("wren/settings/deviceSpeedPlaying")) &&
-        !setDeviceSpeedPlaying(m_host, m_state.sync, connected(), failures)) {
+        !setDeviceSpeedPlaying(m_host, m_state.sync, connected(failures), failures)) {
         m_host.warn(m_host.translate(QStringLiteral(
                         "There are some cameras that are not synchronized shooting because the shooting speed of the "
                         "device is faster than the sync frequency.")),
@@ -155,7 +164,7 @@ void RecordButton::setAreas(GatheredFailures& failures) {
     if (m_state.areas.isEmpty() || !m_host.docManager().isRecordAreaEnabled()) {
         return;
     }
-    for (DOC_Interface* doc : connected()) {
+    for (DOC_Interface* doc : connected(failures)) {
         failures.attempt([&] {
             const auto area = m_state.areas.constFind(int(doc->control().getRecordRate(0)));
             if (area != m_state.areas.constEnd()) {

@@ -28,17 +28,21 @@ public:
     void cancel();
 
 private:
-    DocList connected() const;
+    /// Without those that do not tell whether they are connected.
+    DocList connected(GatheredFailures& failures) const;
     /// Whether the cameras still wait for the button, after a question or the like.
     bool canArm() const;
     bool areCamerasLocked();
     bool userTakesProblems();
-    QStringList problems() const;
+    QStringList problems();
     bool prepareSignal(const std::function<bool()>& synchronise, GatheredFailures& failures);
     void setAreas(GatheredFailures& failures);
     void arm();
+    void tell(const GatheredFailures& failures);
 
     ZebHost& m_host;
     TableState& m_state;
     const QPointer<QWidget> m_parent;
+    /// What the cameras did not answer and the user has been told.
+    QStringList m_read;
 };

@@ -36,11 +36,9 @@ void TableSession::takeAllConnected() {
     m_host.setPrefBool(RecAllConnectedPref, true);
 }
 
-/// One that does not tell whether it is connected says so in its row.
 DocList TableSession::connected() {
     ZebDocManager& documents = m_host.docManager();
-    GatheredFailures unread;
-    return connectedDocs(documents, documents.getConnectedDocKeys(), unread);
+    return connectedDocs(documents, documents.getConnectedDocKeys(), m_failures);
 }
 
 void TableSession::loadDefaultSettings() {

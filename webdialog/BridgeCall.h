@@ -23,6 +23,7 @@ void bridgeCall(JS_Mediator& bridge, Work&& work) {
     } catch (...) {
         bridge.reportCurrentFailure();
     }
+    bridge.tellCycleFailures();
 }
 
 /// The same for a call that answers: what `work` returns, or `fallback` after a failure.

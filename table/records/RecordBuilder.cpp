@@ -7,7 +7,6 @@
 #include "DOC_Interface.h"
 #include "DeviceAlerts.h"
 #include "FailureText.h"
-#include "GatheredFailures.h"
 #include "NamedFailure.h"
 #include "TableState.h"
 #include "ZebDocManager.h"
@@ -115,17 +114,26 @@ void RecordBuilder::addMembers(Record& record, DOC_Interface& doc, bool connecte
 }
 
 QString RecordBuilder::alertOf(DOC_Interface& doc) const {
-    // What the device does not answer is its own row's matter.
-    const DOC_Interface* device = doc.getParentDoc();
-    GatheredFailures ofDevice;
-    QStringList alerts;
-    ofDevice.attempt([&] { alerts = alertsOfDevice(device); });
-    alerts += ofDevice.lines() + doc.getAlerts();
+    QStringList alerts = alertsOfParent(doc) + doc.getAlerts();
     alerts.removeDuplicates();
     if (m_signalGivesFrequency && !m_signal.agreesWith(doc)) {
         alerts += m_host.translate(SignalDiffersText);
     }
     return alerts.join(QLatin1Char('\n'));
+}
+
+/// A device that does not answer leaves the row of its head whole, which shows why.
+QStringList RecordBuilder::alertsOfParent(DOC_Interface& doc) const {
+    const DOC_Interface* device = doc.getParentDoc();
+    const QString source = sourceOf(doc.getKey()) % QStringLiteral(", its device");
+    try {
+        const QStringList alerts = alertsOfDevice(device);
+        m_failures.whole(source);
+        return alerts;
+    } catch (...) {
+        m_failures.failed(source, currentFailureText());
+        return {currentFailureText()};
+    }
 }
 
 void RecordBuilder::addLive(Record& record, DOC_Interface& doc, bool connected) {

@@ -43,6 +43,7 @@ private:
     bool signalGivesFrequency() const;
     void addMembers(Record& record, DOC_Interface& doc, bool connected);
     QString alertOf(DOC_Interface& doc) const;
+    QStringList alertsOfParent(DOC_Interface& doc) const;
     void addLive(Record& record, DOC_Interface& doc, bool connected);
     void addMemory(Record& record, DOC_Interface& doc, bool connected);
 

@@ -136,19 +136,26 @@ int RecordModel::getFilter() const {
     return m_host.isFileMode() ? -1 : m_host.getPrefInt(FilterPref);
 }
 
-bool RecordModel::isSuspendReduceMode(DOCKEY key) const {
+bool RecordModel::isSuspendReduceMode(DOCKEY key, CycleFailures& failures) const {
     ZebDocManager& documents = m_host.docManager();
-    const bool any = key == zeb::NoDocKey;
-    const DocKeyList keys = any ? documents.getLiveDocKeys(0, 0) : DocKeyList{key};
-    return std::any_of(keys.begin(), keys.end(), [&](DOCKEY each) {
+    const auto isSuspended = [&documents](DOCKEY each) {
         DOC_Interface* doc = documents.getDocAny(each);
-        if (doc == nullptr) {
-            return false;
+        return doc != nullptr && doc->activity().isSuspendReduce();
+    };
+    if (key != zeb::NoDocKey) {
+        return isSuspended(key);
+    }
+    bool any = false;
+    for (const DOCKEY each : documents.getLiveDocKeys(0, 0)) {
+        const QString source = QStringLiteral("live speed of %1").arg(each);
+        try {
+            any = isSuspended(each) || any;
+            failures.whole(source);
+        } catch (...) {
+            failures.failed(source, currentFailureText());
         }
-        const auto isSuspended = [doc] { return doc->activity().isSuspendReduce(); };
-        // Of many each answers for itself in its own row.
-        return any ? answerOr(false, isSuspended) : isSuspended();
-    });
+    }
+    return any;
 }
 
 void RecordModel::store(const RecordRequest& request) const {

@@ -40,8 +40,9 @@ public:
     /// -1 in file mode.
     int getFilter() const;
 
-    /// Whether the choice of live speed is suspended; with `zeb::NoDocKey` on any live camera.
-    bool isSuspendReduceMode(DOCKEY key) const;
+    /// Whether the choice of live speed is suspended; with `zeb::NoDocKey` on any live camera, of which those that do
+    /// not answer go into `failures`.
+    bool isSuspendReduceMode(DOCKEY key, CycleFailures& failures) const;
 
 private:
     void store(const RecordRequest& request) const;

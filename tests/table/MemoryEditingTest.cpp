@@ -171,7 +171,7 @@ TEST_F(MemoryEditingTest, savingAsksForWhatNobodyHasLookedAt) {
          [&] {
              check(true), host.faults().plant(3, "isRecordCheck", Fault{"The link is down", 0, false});
          },
-         {question},
+         {question + "\nCamera 3: The link is down"},
          true},
         {"in live mode", [] {}, {}, false},
     };

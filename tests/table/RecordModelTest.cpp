@@ -540,10 +540,10 @@ TEST_F(RecordModelTest, aListThatCameToNothingSelectsNobodyAndTheNextOneDoes) {
 
 TEST_F(RecordModelTest, reduceModeIsSuspendedForOneOrForAny) {
     change(5, {{"suspendReduce", true}});
-    EXPECT_TRUE(model.isSuspendReduceMode(5));
-    EXPECT_FALSE(model.isSuspendReduceMode(4));
-    EXPECT_FALSE(model.isSuspendReduceMode(99));
-    EXPECT_TRUE(model.isSuspendReduceMode(zeb::NoDocKey));
+    EXPECT_TRUE(model.isSuspendReduceMode(5, failures));
+    EXPECT_FALSE(model.isSuspendReduceMode(4, failures));
+    EXPECT_FALSE(model.isSuspendReduceMode(99, failures));
+    EXPECT_TRUE(model.isSuspendReduceMode(zeb::NoDocKey, failures));
 }
 
 TEST(SyncMembersTest, inputsAreOnThePortsOfTheCamerasClass) {

@@ -37,15 +37,15 @@ void FaultPlan::insertGone(DOCKEY key) {
 
 void FaultPlan::plantAt(int call, const Fault& fault) {
     const std::lock_guard lock(m_mutex);
-    m_call = 0;
+    m_calls.clear();
     m_faultyCall = call;
     m_callFault = fault;
     updateAny();
 }
 
-int FaultPlan::callCount() const {
+QVector<FaultPlan::Call> FaultPlan::calls() const {
     const std::lock_guard lock(m_mutex);
-    return m_call;
+    return m_calls;
 }
 
 void FaultPlan::updateAny() {
@@ -65,8 +65,9 @@ Fault FaultPlan::meet(DOCKEY key, const char* operation) {
     const auto faults = m_faults.value(key);
     const QString name = QString::fromLatin1(operation);
     Fault fault = faults.contains(name) ? faults.value(name) : faults.value(everyOperation);
-    if (++m_call == m_faultyCall) {
-        fault = m_callFault;
+    if (m_faultyCall > 0) {
+        m_calls.append({key, operation});
+        fault = m_calls.size() == m_faultyCall ? m_callFault : fault;
     }
     if (fault.gone) {
         insertGone(key);

@@ -2,8 +2,10 @@
 
 #include "ZebTypes.h"
 
+#include <QByteArray>
 #include <QHash>
 #include <QSet>
+#include <QVector>
 
 #include <atomic>
 #include <functional>
@@ -41,8 +43,14 @@ public:
     /// Plants a fault on the call number `call` of those that cameras, hubs and the host get from now on, counted
     /// from 1.
     void plantAt(int call, const Fault& fault);
-    /// Those calls since `plantAt`.
-    int callCount() const;
+    /// One of those calls.
+    struct Call {
+        DOCKEY key = Host;
+        QByteArray operation;
+    };
+    /// Those since `plantAt`, in their order.
+    QVector<Call> calls() const;
+    int callCount() const { return calls().size(); }
     void clear();
 
     /// An operation meets its fault, with the time it takes; from then on the camera is gone if the fault says so.
@@ -61,7 +69,7 @@ private:
     mutable std::mutex m_mutex;
     QHash<DOCKEY, QHash<QString, Fault>> m_faults;
     QSet<DOCKEY> m_gone;
-    int m_call = 0;
+    QVector<Call> m_calls;
     int m_faultyCall = 0;
     Fault m_callFault;
 };
