@@ -4,11 +4,13 @@
 #include "Style.h"
 #include "ZebHost.h"
 
+#include <QCloseEvent>
 #include <QThread>
 
 GUI_MarqueeProgressDialog::GUI_MarqueeProgressDialog(ZebHost* host, const QString& label, const QString& cancelText,
                                                      bool modal)
-    : GUI_ProgressDialog(label, cancelText, 0, 0, host->getMainWindow(), Qt::Tool | Qt::FramelessWindowHint, true) {
+    : GUI_ProgressDialog(label, cancelText, 0, 0, host->getMainWindow(), Qt::Tool | Qt::FramelessWindowHint, true),
+      m_cancellable(!cancelText.isEmpty()) {
     setWindowModality(modal ? Qt::ApplicationModal : Qt::NonModal);
     setAutoClose(true);
     setAutoReset(true);
@@ -18,9 +20,23 @@ GUI_MarqueeProgressDialog::GUI_MarqueeProgressDialog(ZebHost* host, const QStrin
 int GUI_MarqueeProgressDialog::execThread(RUN_ProgressThreadInterface& worker) {
     QThread* thread = worker.thread();
     thread->start(QThread::InheritPriority);
+    m_running = true;
     const int result = exec();
+    m_running = false;
     worker.requestStop();
     thread->wait();
     reset();
     return result;
+}
+
+void GUI_MarqueeProgressDialog::reject() {
+    if (mayClose()) GUI_ProgressDialog::reject();
+}
+
+void GUI_MarqueeProgressDialog::closeEvent(QCloseEvent* event) {
+    if (mayClose()) {
+        GUI_ProgressDialog::closeEvent(event);
+    } else {
+        event->ignore();
+    }
 }

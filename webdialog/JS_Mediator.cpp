@@ -37,8 +37,7 @@
 
 #include <optional>
 
-JS_Mediator::JS_Mediator(ZebHost* host, const QString& name, QObject* parent)
-    : PageBridge(name, parent), m_host(host) {
+JS_Mediator::JS_Mediator(ZebHost* host, const QString& name, QObject* parent) : PageBridge(name, parent), m_host(host) {
     connect(this, &JS_Mediator::update, this, [this] { m_cycleFailures.nextCycle(); });
 }
 

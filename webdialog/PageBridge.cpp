@@ -5,7 +5,9 @@
 
 #include <utility>
 
-PageBridge::PageBridge(const QString& name, QObject* parent) : ZebPageBridge(parent), m_name(name) {}
+PageBridge::PageBridge(const QString& name, QObject* parent) : ZebPageBridge(parent), m_name(name) {
+    setObjectName(name);
+}
 
 void PageBridge::setView(QWebView* view) {
     m_view = view;

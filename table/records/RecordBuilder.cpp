@@ -115,10 +115,10 @@ void RecordBuilder::addMembers(Record& record, DOC_Interface& doc, bool connecte
 
 QString RecordBuilder::alertOf(DOC_Interface& doc) const {
     QStringList alerts = alertsOfParent(doc) + doc.getAlerts();
-    alerts.removeDuplicates();
     if (m_signalGivesFrequency && !m_signal.agreesWith(doc)) {
         alerts += m_host.translate(SignalDiffersText);
     }
+    alerts.removeDuplicates();
     return alerts.join(QLatin1Char('\n'));
 }
 

@@ -198,7 +198,7 @@ bool RecordModel::deselectOutside(const GroupFilter& group, CycleFailures& failu
         }
         try {
             documents.deselectDoc(key);
-            changed = true;
+            changed = changed || !doc->isSelected();
         } catch (...) {
             failures.failed(RecordBuilder::sourceOf(key), currentFailureText());
         }

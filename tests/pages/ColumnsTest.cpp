@@ -51,7 +51,7 @@ TEST(PageColumns, AreHiddenByTheirDisplayKeyAndKeepTheirPlace) {
     EXPECT_EQ(page.tick(), QStringList()) << "a hidden column is no change of the order";
 
     test.host.prefs().setValue("wren/display/frameRate", true);
-    page.run("wrentabledialog_obj.refreshAllControls()");
+    page.tick();
     EXPECT_EQ(page.list(FirstRow),
               QStringList({"wren_alert", "wren_livecontrol_framerate", "wren_button_edit_camera_name", "wren_sync",
                            "wren_livecontrol_trigger"}));

@@ -56,6 +56,16 @@ TEST(PageEditing, OneCallForARowAndOneForAll) {
     }
 }
 
+TEST(PageEditing, TheSecondClickOfADoubleClickTakesNothingBack) {
+    TestHost test(Rig::standard(3));
+    connectCameras(test, 1, 3);
+    TablePage page(test, 1);
+    const char* clicks = R"(['unlock', 'lock'].forEach((word, index) => document
+        .getElementById(`wren_livecontrol_button_lockStatus_${word}_2`)
+        .dispatchEvent(new MouseEvent('click', { bubbles: true, cancelable: true, detail: index + 1 }))); return 0)";
+    EXPECT_EQ(commands(test, page, [&] { page.run(clicks); }), QStringList{"setParamLock [2,true]"});
+}
+
 TEST(PageEditing, ABatchOfLockedRowsReachesNoCamera) {
     TestHost test(Rig::standard(2));
     connectCameras(test, 1, 2);

@@ -22,6 +22,8 @@ const char* Look = R"js(
 const char* Locked = "$('.w2ui-lock:visible').length > 0";
 const char* Unlocked = "$('.w2ui-lock:visible').length === 0";
 
+const char* ActiveTab = "$('#tabs').tabs('option', 'active')";
+
 const QString LiveParts =
     QStringLiteral("shown .exec-recording .option-recording #wren_related_settings #wrenBatchLowlightBlock");
 const QString MemoryOff =
@@ -125,6 +127,19 @@ TEST(PageModes, TheGridTakesTheRoomThatIsLeft) {
     page.settle();
     EXPECT_EQ(page.number(over), 220 + 70 + 60);
     EXPECT_EQ(page.text("$('#wren-save-container').attr('fixed')"), "true");
+}
+
+TEST(PageModes, NoHiddenTabComesToTheFront) {
+    TestHost test(Rig::standard(4));
+    TablePage page(test, 6);
+    page.show(2);
+    for (const char* key : {"wren/display/syncTab", "wren/display/memoryPluginTab"})
+        test.host.prefs().setValue(QString::fromLatin1(key), false);
+    page.tick();
+    EXPECT_EQ(page.number(ActiveTab), 0) << "its header has gone";
+    test.host.appStatus().enterMode(zeb::MemoryMode);
+    page.settle();
+    EXPECT_EQ(page.number(ActiveTab), 5) << "the tab that was in front last is hidden";
 }
 
 }  // namespace

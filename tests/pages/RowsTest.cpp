@@ -1,7 +1,7 @@
 #include "TablePage.h"
-
 #include "ZebTypes.h"
 
+#include <QDialog>
 #include <QJsonObject>
 
 #include <gmock/gmock.h>
@@ -160,6 +160,28 @@ void vary(TestHost& test, int cameras, int turn) {
         }
         test.camera(DOCKEY(i + 1)).change(state);
     }
+}
+
+TEST(PageTick, WhatFloatsOverARowFollowsItOrGoes) {
+    TestHost test(Rig::standard(3));
+    connectCameras(test, 1, 3);
+    TablePage page(test, 1);
+    const char* tip = "$('.ui-tooltip-content').text()";
+    test.camera(2).change({{"alerts", QStringList{"The fan turns slowly"}}});
+    page.tick();
+    page.run("$('#wren_livecontrol_alert_2').trigger('mouseover'); return 0");
+    EXPECT_EQ(page.text(tip), "The fan turns slowly");
+    test.camera(2).change({{"alerts", QStringList{"<b>hot</b>"}}});
+    page.tick();
+    EXPECT_EQ(page.text(tip), "<b>hot</b>");
+    test.camera(2).change({{"alerts", QStringList()}});
+    page.tick();
+    EXPECT_EQ(page.text(tip), "") << "there is nothing to tell any more";
+
+    page.click(".SumoSelect[dockey=\"2\"] p.wren_livecontrol_framerate");
+    EXPECT_EQ(page.number("$('.wren-dropdown').length"), 1);
+    page.window().resize(1500, 900);
+    EXPECT_TRUE(page.until("$('.wren-dropdown').length === 0")) << "the row is elsewhere now";
 }
 
 TEST(PageRows, RowsUsedAgainEqualRowsDrawnNew) {

@@ -252,6 +252,42 @@ TEST_F(SynchronisingTest, theTableComingBackWhileAGeneratorIsSoughtConnectsNothi
     EXPECT_EQ(desk.texts(), QStringList());
 }
 
+TEST_F(SynchronisingTest, whatBecomesOfTheCamerasWhileAGeneratorIsSoughtIsSeen) {
+    VisaFile visa;
+    host.setPrefBool("sync/external", true);
+    host.setPrefString("sync/generator/address", "192.168.0.200");
+    const struct {
+        const char* sentence;
+        QVariantMap change;
+        QString handedOver;
+    } cases[] = {
+        {"one begins to record", {{"recordState", zeb::RecordRecording}}, {}},
+        {"one goes into low light", {{"lowLight", true}}, {}},
+        {"one is disconnected", {{"connected", false}}, "ZebCameraOps::syncCameras [[1,3],1,0,true,true,0,-1,0]"},
+    };
+    for (const auto& each : cases) {
+        visa.script(R"({"viOpen": {"hold": true}})");
+        QTimer::singleShot(0, bridge.get(), [&] {
+            ASSERT_TRUE(QTest::qWaitFor([&] { return !visa.journal().filter("viOpen ").isEmpty(); }));
+            change(2, each.change);
+            visa.release();
+        });
+        calls();
+        bridge->setSyncSettings();
+        EXPECT_EQ(handedOver().join(""), each.handedOver) << each.sentence;
+        change(2, {{"recordState", zeb::RecordLive}, {"lowLight", false}, {"connected", true}});
+        bridge->state().sync.generator.reset();
+    }
+}
+
+TEST_F(SynchronisingTest, theFirstHeadThatIsOnLeadsItsDevice) {
+    host.setRig(Rig::fromFile("eight-mixed"));
+    host.faults().plant(8, "*", {{}, 0, true});  // a dummy
+    change(4, {{"connected", true}});
+    EXPECT_TRUE(bridge->setSyncSettings()) << desk.texts().join('\n').toStdString();
+    EXPECT_EQ(bridge->state().sync.masterCamera, 4U) << "the first head of its device is off";
+}
+
 TEST_F(SynchronisingTest, theDefaultSettingsOfferTheCamerasThatCanLead) {
     JS_Mediator_WrenDefaultSettingsDialog settings(&host);
     change(2, {{"name", "The \"second\""}});

@@ -145,7 +145,17 @@ TEST_F(Messages, MarqueeStandsUntilTheWorkHasEnded) {
     EXPECT_FALSE(progress.isVisible());
     EXPECT_EQ(course.take().count("requestStop"), 2);
 
-    const GUI_MarqueeProgressDialog endless(&host, "wait", "", false);
+    GUI_MarqueeProgressDialog endless(&host, "wait", "", false);
+    FakeWorker last(true);
+    last.attachDialog(&endless);
+    QTimer::singleShot(0, &endless, [&] {
+        EXPECT_FALSE(endless.close());
+        endless.reject();
+        EXPECT_TRUE(endless.isVisible()) << "nothing but the work ends it";
+        last.requestInterruption();
+    });
+    endless.execThread(last);
+    EXPECT_FALSE(endless.isVisible());
     EXPECT_FALSE(endless.findChild<QAbstractButton*>());
     EXPECT_EQ(endless.windowModality(), Qt::NonModal);
 }
