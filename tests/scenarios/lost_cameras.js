@@ -49,7 +49,7 @@ check(zeb.open(), 'the table opens');
 start();
 zeb.fault(VICTIM, 'arm', { throws: 'the memory is not ready' });
 arm();
-told(/^Nozzle: the memory is not ready/, 'one that can not be armed is named');
+told(/^Nozzle: the memory is not ready. It does not take part/, 'one that can not be armed is named');
 check(zeb.camera(VICTIM).recordState === 4, 'and is in error');
 trigger();
 recorded(OTHERS, 'the others have recorded');
@@ -82,6 +82,19 @@ arm();
 trigger();
 told(/^Nozzle: the memory is faulty.*ended early with \d+ frames/, 'one that ends early is named, and what there is');
 recorded(OTHERS, 'the others have recorded');
+
+start();
+zeb.setCamera(VICTIM, { recordState: 3 });
+zeb.setCamera(4, { recordState: 2 });
+arm();    // neither speaks for the button
+zeb.wait(200);
+zeb.setCamera(5, { recordState: 3 });
+told(/^Track: the camera has triggered itself/, 'one that triggers itself is named');
+check(zeb.page(STATUS) === 2, 'and the others still wait');
+trigger();
+told(/^Nozzle: the camera records by itself. It does not take part/, 'one that records by itself is named at the trigger');
+recorded(OTHERS, 'the others have recorded');
+check(zeb.camera(VICTIM).recordState === 3, 'and it is left alone');
 
 start();
 arm();

@@ -150,9 +150,10 @@ TEST_F(AppSaving, TellsOfCamerasThatAreNotThere) {
                                                                         testing::StartsWith("Camera 1: 3 frames"))));
     host.cameras().find(1)->set(&CameraState::connected, false);
     host.saveFiles();
-    EXPECT_EQ(messages(), QStringList("No connected camera has recorded images.\n"
-                                      "Camera 1: the camera was disconnected. Its recording is not saved.\n" +
-                                      lost));
+    EXPECT_EQ(messages().last(),
+              "No connected camera has recorded images.\n"
+              "Camera 1: the camera was disconnected. Its recording is not saved.\n" +
+                  lost);
 }
 
 TEST_F(AppSaving, ShowsTheProgressOfMoreFramesThanAnIntCounts) {

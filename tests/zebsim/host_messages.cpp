@@ -172,16 +172,6 @@ TEST_F(Messages, SelectionHasACurrentDocument) {
     EXPECT_EQ(docs.getDocKeys(), DocKeyList{1});
 }
 
-TEST_F(Messages, RecordStatusIsTheFurthestOfTheCamerasAskedAbout) {
-    host.docManager().connectDocs({1, 2});
-    test.camera(2).set(&CameraState::recordState, 3);
-    EXPECT_EQ(host.recorder().getRecStatus({1}), zeb::RecordLive);
-    EXPECT_EQ(host.recorder().getRecStatus({1, 2}), zeb::RecordRecording);
-    host.flags().set(QStringLiteral("IsRecordingError"), true);
-    EXPECT_EQ(host.recorder().getRecStatus({1}), zeb::RecordError);
-    EXPECT_THROW(host.flags().set(QStringLiteral("IsNothing"), true), std::invalid_argument);
-}
-
 TEST_F(Messages, StatesOfTheHostFollowItsCameras) {
     const ZebCameraOps& cameras = host.cameraOps();
     const auto states = [&] {

@@ -290,12 +290,14 @@ TEST_F(RecordingTest, GoesOnWithoutTheCamerasThatFail) {
     plant(1, "arm", {QStringLiteral("no answer"), 0, false});
     plant(2, "arm", {QStringLiteral("too hot"), 0, false});
     armAll();
-    EXPECT_EQ(messages(), "Camera 1: no answer\nCamera 2: too hot");
+    EXPECT_EQ(messages(),
+              "Camera 1: no answer. It does not take part in the recording.\n"
+              "Camera 2: too hot. It does not take part in the recording.");
     EXPECT_EQ(states(), "4 4 2 - 2");
     plant(3, "trigger", {QStringLiteral("no signal"), 0, false});
     host.recorder().triggerRecording();
-    EXPECT_EQ(messages(), "Impact: no signal");
-    EXPECT_EQ(states(), "4 4 4 - 4");
+    EXPECT_EQ(messages(), "Impact: no signal. It does not take part in the recording.");
+    EXPECT_EQ(states(), "4 4 4 - 0");
     EXPECT_EQ(ends, 1);
     EXPECT_TRUE(host.isLiveMode()) << "nothing was recorded";
     host.recorder().cancelRecording(false);
@@ -316,16 +318,27 @@ TEST_F(RecordingTest, MissesCamerasThatGo) {
     EXPECT_EQ(recorded(1), "0..199 trigger 0");
     EXPECT_EQ(host.recorder().lost(), (QStringList{"Camera 2: the camera has disappeared. Its recording is lost.",
                                                    "Impact: the camera was disconnected. Its recording is lost."}));
-    EXPECT_EQ(states(), "4 0 - 4");
+    EXPECT_EQ(states(), "4 0 - 0") << "it is over";
     EXPECT_EQ(ends, 1);
     EXPECT_TRUE(host.isMemoryMode());
     pass(100000);
     EXPECT_EQ(messages(), "") << "told once";
     plant(2, "*", {});
     EXPECT_EQ(recorded(2), "nothing");
-    EXPECT_EQ(states(), "4 0 0 - 0") << "those that have not failed can record";
+    EXPECT_EQ(states(), "4 0 0 - 0");
     host.recorder().startRecReady();
     EXPECT_EQ(states(), "2 2 0 - 2");
+    for (const DOCKEY key : {1, 2}) plant(key, "*", {{}, 0, true});
+    pass(1);
+    messages();
+    EXPECT_EQ(host.recorder().lost().size(), 2) << "what there is to save is of the last that was triggered";
+    for (const DOCKEY key : {1, 2}) plant(key, "*", {});
+    triggerAll();
+    for (const DOCKEY key : {1, 2}) plant(key, "*", {{}, 0, true});
+    pass(1);
+    EXPECT_EQ(host.recorder().lost(), (QStringList{"Camera 1: the camera has disappeared. Its recording is lost.",
+                                                   "Camera 2: the camera has disappeared. Its recording is lost."}))
+        << "nothing of the one before";
 }
 
 TEST_F(RecordingTest, MissesReadyCamerasAndEndsWhenNoneIsLeft) {
@@ -360,17 +373,109 @@ TEST_F(RecordingTest, TellsOfCamerasThatWereAwayBetweenTwoLooks) {
     EXPECT_EQ(states(), "0 0 3 - 3");
 }
 
-TEST_F(RecordingTest, ACameraThatOthersHaveStartedIsStoppedOrTold) {
-    test.camera(1).set(&CameraState::recordState, zeb::RecordRecording);
-    plant(1, "stop", {QStringLiteral("no answer"), 0, false});
-    host.recorder().stopRecording();
-    pass(1);
-    EXPECT_EQ(messages(), "Camera 1: no answer");
-    EXPECT_EQ(states(), "3 0 0 - 3");
-    plant(1, "stop", {});
-    host.recorder().stopRecording();
-    pass(0);
+TEST_F(RecordingTest, ACameraThatIsBusyByItselfSpeaksForItselfAlone) {
+    const DocList docs = test.docs({1, 2});
+    for (const int state : {zeb::RecordCtsReady, zeb::RecordReady, zeb::RecordRecording}) {
+        test.camera(1).change({{"recordState", state}, {"recorded", true}});
+        test.camera(2).change({{"recorded", true}});
+        EXPECT_EQ(states(), std::to_string(state) + " 0 0 - 0");
+        EXPECT_EQ(host.recorder().isRecording(), state == zeb::RecordRecording);
+        EXPECT_TRUE(host.recorder().isUnderWay()) << "whoever closes or disconnects is asked";
+        EXPECT_FALSE(host.cameraOps().canSync(docs));
+        EXPECT_TRUE(host.cameraOps().canSync(test.docs({2})));
+        EXPECT_FALSE(test.doc(1)->control().hasRecordedData());
+        EXPECT_THROW(test.doc(1)->control().eraseRecordedData(0), std::runtime_error);
+        EXPECT_TRUE(test.doc(2)->control().hasRecordedData());
+        EXPECT_THROW(host.docManager().deleteAllDocs(0, 0), std::runtime_error);
+        host.recorder().triggerRecording();
+        host.recorder().stopRecording();
+        pass(100000);
+        EXPECT_EQ(states(), std::to_string(state) + " 0 0 - 0") << "nobody has begun a recording";
+    }
+    host.recorder().cancelRecording(false);
+    EXPECT_EQ(states(), "3 0 0 - 0");
+    test.camera(1).set(&CameraState::recordState, zeb::RecordReady);
+    host.recorder().cancelRecording(false);
     EXPECT_EQ(states(), "0 0 0 - 0");
+    EXPECT_EQ(ends, 0);
+    EXPECT_EQ(messages(), "");
+}
+
+TEST_F(RecordingTest, ThePressTakesInWhatIsArmedAndLeavesAloneWhatRecords) {
+    test.camera(1).set(&CameraState::recordState, zeb::RecordReady);
+    test.camera(2).set(&CameraState::recordState, zeb::RecordRecording);
+    armAll();
+    EXPECT_EQ(states(), "2 3 2 - 2");
+    EXPECT_FALSE(test.doc(3)->control().hasRecordedData());
+    host.recorder().triggerRecording();
+    const char* notice = "Camera 2: the camera records by itself. It does not take part in the recording.";
+    EXPECT_EQ(messages(), notice);
+    pass(100);
+    host.recorder().stopRecording();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(states(), "0 3 0 - 0");
+    EXPECT_EQ(recorded(1), "0..99 trigger 0");
+    EXPECT_EQ(recorded(2), "nothing");
+    EXPECT_EQ(host.recorder().lost(), QStringList{notice});
+    EXPECT_EQ(ends, 1);
+    host.appStatus().enterMode(zeb::LiveMode);
+    test.camera(2).set(&CameraState::recordState, zeb::RecordLive);
+    pass(1);
+    EXPECT_TRUE(host.isLiveMode()) << "its end is not that of the host's recording";
+    EXPECT_EQ(ends, 1);
+}
+
+TEST_F(RecordingTest, TheTriggerNamesThoseThatAreNotReady) {
+    host.docManager().disconnectDocs({2});
+    host.recorder().startRecReady();
+    test.camera(2).set(&CameraState::connected, true);
+    host.recorder().triggerRecording();
+    EXPECT_EQ(messages(),
+              "Camera 2: the camera is not ready. It does not take part in the recording.\n"
+              "Impact: the camera is not ready. It does not take part in the recording.");
+    EXPECT_EQ(states(), "3 0 0 - 3") << "the one that still waited for CTS is put back";
+    pass(100000);
+    EXPECT_EQ(recorded(1), "0..8191 trigger 0");
+    EXPECT_EQ(host.recorder().lost().size(), 2);
+    EXPECT_EQ(ends, 1);
+}
+
+TEST_F(RecordingTest, ACameraThatTriggersItselfKeepsWhatItRecords) {
+    for (const qint64 early : {100, 9000}) {
+        host.appStatus().enterMode(zeb::LiveMode);
+        ends = 0;
+        armAll();
+        test.camera(1).set(&CameraState::recordState, zeb::RecordRecording);
+        pass(0);
+        EXPECT_EQ(messages(), "Camera 1: the camera has triggered itself. It records on.");
+        pass(early);
+        EXPECT_EQ(states(), early == 100 ? "3 2 2 - 2" : "0 2 2 - 2") << "the others wait for their trigger";
+        EXPECT_TRUE(host.isLiveMode());
+        host.recorder().triggerRecording();
+        pass(50);
+        host.recorder().stopRecording();
+        QCoreApplication::processEvents();
+        EXPECT_EQ(states(), "0 0 0 - 0");
+        EXPECT_EQ(recorded(1), early == 100 ? "0..149 trigger 0" : "0..8191 trigger 0");
+        EXPECT_EQ(recorded(2), "0..49 trigger 0");
+        EXPECT_EQ(messages(), "");
+        EXPECT_EQ(host.recorder().lost(), QStringList());
+        EXPECT_EQ(ends, 1);
+    }
+}
+
+TEST_F(RecordingTest, TellsOfACameraThatVanishesAtRest) {
+    plant(2, "*", {{}, 0, true});
+    pass(1);
+    EXPECT_EQ(messages(), "Camera 2: the camera has disappeared.");
+    pass(1);
+    EXPECT_EQ(messages(), "") << "told once";
+    plant(2, "*", {});
+    host.docManager().disconnectDocs({2});
+    pass(1);
+    plant(2, "*", {{}, 0, true});
+    pass(1);
+    EXPECT_EQ(messages(), "") << "nobody works with it";
 }
 
 TEST_F(RecordingTest, ACameraThatCannotBeStoppedFillsItsMemory) {
@@ -392,9 +497,8 @@ TEST_F(RecordingTest, EachPartitionKeepsItsOwn) {
     EXPECT_EQ(test.doc(1)->frames().getFrameCount(0, 0), 2048u) << "the memory is divided";
     triggerAll();
     EXPECT_THROW(host.cameraOps().setPartition(2, 0), std::exception) << "not while it records";
-    pass(3000);
+    pass(100000);
     EXPECT_EQ(recorded(1), "0..2047 trigger 0");
-    pass(0);
     test.doc(1)->control().setSelectRange(0, 0);
     test.doc(1)->frames().setRecordCheck(true);
     host.cameraOps().setPartition(2, 0);

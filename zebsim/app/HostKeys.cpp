@@ -24,8 +24,6 @@ QString recordText(int state) {
             return uiText("Trigger");
         case zeb::RecordRecording:
             return uiText("Stop");
-        case zeb::RecordError:
-            return uiText("Clear error");
         default:
             return uiText("Record");
     }
@@ -42,6 +40,12 @@ bool isPluginInFront(SimHost& host) {
         }
     }
     return false;
+}
+
+/// It is armed or has failed; one that records by itself is left alone.
+bool isHeldUp(const Camera* camera) {
+    const int state = camera->get(&CameraState::recordState);
+    return state != zeb::RecordLive && state != zeb::RecordRecording;
 }
 
 bool hasOpenDialog(PLG_Interface* plugin) {
@@ -78,9 +82,6 @@ void HostKeys::record() {
     const int state = recorder.state();
     if (state != m_shownState) {
         refresh();
-    } else if (state == zeb::RecordError) {
-        // Only the host has a way out of it.
-        recorder.cancel();
     } else if (!sendToActivePlugin(m_host.appStatus(), "signalRecord") && !isPluginInFront(m_host)) {
         recorder.press();
     }
@@ -112,10 +113,8 @@ void HostKeys::refresh() {
     const bool isLive = m_host.isLiveMode();
     const bool hasCameras = !m_host.cameras().connected().empty();
     m_record->setText(recordText(isLive ? state : int(zeb::RecordLive)));
-    m_record->setEnabled(isLive && hasCameras && state != zeb::RecordCtsReady);
-    const auto cameras = m_host.cameras().all();
-    m_cancel->setEnabled(std::any_of(cameras.begin(), cameras.end(), [](const Camera* camera) {
-        return camera->get(&CameraState::connected) && camera->get(&CameraState::recordState) != zeb::RecordLive;
-    }));
+    m_record->setEnabled(isLive && hasCameras && state != zeb::RecordCtsReady && state != zeb::RecordError);
+    const auto cameras = m_host.cameras().connected();
+    m_cancel->setEnabled(state != zeb::RecordLive || std::any_of(cameras.begin(), cameras.end(), isHeldUp));
     m_disconnect->setEnabled(hasCameras);
 }

@@ -43,6 +43,11 @@ bool Camera::isGone() const {
     return m_device.faults().isGone(m_key);
 }
 
+bool Camera::isUnderWay() const {
+    const int recordState = get(&CameraState::recordState);
+    return recordState != zeb::RecordLive && recordState != zeb::RecordError;
+}
+
 CameraState Camera::state() const {
     const std::lock_guard lock(m_device.mutex());
     return m_state;
@@ -257,6 +262,9 @@ void Camera::eraseRecordedData() {
     if (!commandConnected("eraseRecordedData")) {
         return;
     }
+    if (isUnderWay()) {
+        refuse(QStringLiteral("nothing can be erased while the camera is ready or records"));
+    }
     set(&CameraState::recorded, false);
 }
 
@@ -267,8 +275,7 @@ void Camera::setPartition(PARTITIONNUMBER partition) {
     if (partition < 1 || partition > get(&CameraState::partitions)) {
         throw CameraError(name(), QStringLiteral("there is no partition %1").arg(partition));
     }
-    const int recordState = get(&CameraState::recordState);
-    if (recordState != zeb::RecordLive && recordState != zeb::RecordError) {
+    if (isUnderWay()) {
         refuse(QStringLiteral("the partition can't be changed while the camera is ready or records"));
     }
     const std::lock_guard lock(m_device.mutex());

@@ -28,6 +28,9 @@ public:
     /// The camera has vanished: it does nothing more, and the host has no document for it.
     bool isGone() const;
 
+    /// It is armed or records.
+    bool isUnderWay() const;
+
     /// One member of the state, as `get(&CameraState::rate)`.
     template <typename T, typename Owner>
     T get(T Owner::*member) const;

@@ -5,6 +5,7 @@ class ImageTools;
 class Preferences;
 class SimAppStatus;
 class SimDocManager;
+class SimRecorder;
 class SyncSignal;
 class Translator;
 
@@ -16,5 +17,6 @@ struct DocContext {
     const SimAppStatus& appStatus;
     const Translator& translator;
     const SyncSignal& sync;
+    const SimRecorder& recorder;
     SimDocManager& docs;
 };

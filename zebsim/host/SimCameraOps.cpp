@@ -100,7 +100,7 @@ bool SimCameraOps::canSync(const DocList& docs) {
     return !m_saver.isSaving() && m_recorder.stateOf(keys) == zeb::RecordLive &&
            std::all_of(keys.begin(), keys.end(), [this](DOCKEY key) {
                const Camera* camera = m_cameras.find(key);
-               return camera && camera->get(&CameraState::connected);
+               return camera && camera->get(&CameraState::connected) && !camera->isUnderWay();
            });
 }
 

@@ -4,6 +4,7 @@
 #include "host/DocContext.h"
 #include "host/HostCalls.h"
 #include "host/ShutterText.h"
+#include "host/SimRecorder.h"
 #include "signals/SyncSignal.h"
 
 #include <algorithm>
@@ -276,7 +277,7 @@ void SimControl::setSelectRange(int start, int end) {
 
 bool SimControl::hasRecordedData() const {
     m_camera.askConnected("hasRecordedData");
-    return m_camera.get(&CameraState::recorded);
+    return m_camera.get(&CameraState::recorded) && !m_camera.isUnderWay() && !m_context.recorder.isRunning();
 }
 
 void SimControl::eraseRecordedData(int mode) {

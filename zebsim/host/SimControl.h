@@ -61,6 +61,7 @@ public:
     void setTriggerOffsetEnabled(bool enabled) override;
     void setTriggerOffset(int frame) override;
     void setSelectRange(int start, int end) override;
+    /// Not of a camera that is armed or records, and of none while the host records: nothing may be erased then.
     bool hasRecordedData() const override;
     void eraseRecordedData(int mode) override;
 

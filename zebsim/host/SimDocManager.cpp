@@ -6,7 +6,9 @@
 #include "host/Journal.h"
 #include "host/Preferences.h"
 #include "host/SimDocument.h"
+#include "host/SimRecorder.h"
 #include "host/StatusFlags.h"
+#include "host/Translator.h"
 #include "host/UpdateCycle.h"
 
 #include <QThread>
@@ -15,14 +17,14 @@
 
 SimDocManager::SimDocManager(const HostCalls& calls, CameraBank& cameras, const Preferences& prefs,
                              const SimAppStatus& appStatus, const StatusFlags& flags, const Translator& translator,
-                             const SyncSignal& sync, UpdateCycle& updates,
+                             const SyncSignal& sync, const SimRecorder& recorder, UpdateCycle& updates,
                              std::function<void(const std::exception&)> tellFailure)
     : m_calls(calls),
       m_cameras(cameras),
       m_flags(flags),
       m_updates(updates),
       m_tellFailure(std::move(tellFailure)),
-      m_context{calls, m_tools, prefs, appStatus, translator, sync, *this} {}
+      m_context{calls, m_tools, prefs, appStatus, translator, sync, recorder, *this} {}
 
 std::size_t SimDocManager::handedOut() const {
     const auto turn = m_turns.find(QThread::currentThread()->loopLevel());
@@ -234,6 +236,10 @@ void SimDocManager::forEachKey(const DocKeyList& keys, const std::function<void(
 
 void SimDocManager::deleteAllDocs(int kind, int mode) {
     m_calls.change("ZebDocManager::deleteAllDocs", {kind, mode});
+    if (m_context.recorder.isUnderWay()) {
+        const QString text = QStringLiteral("Cameras are armed or recording. None was deleted.");
+        throw std::runtime_error(m_context.translator.translate(text).toStdString());
+    }
     m_cameras.forgetAll();
     m_current = zeb::NoDocKey;
     m_updates.request();

@@ -12,6 +12,7 @@
 
 class Camera;
 class CameraBank;
+class SimRecorder;
 class StatusFlags;
 class SyncSignal;
 class Translator;
@@ -22,7 +23,8 @@ class SimDocManager : public ZebDocManager {
 public:
     /// `tellFailure` shows why cameras did not connect or disconnect.
     SimDocManager(const HostCalls& calls, CameraBank& cameras, const Preferences& prefs, const SimAppStatus& appStatus,
-                  const StatusFlags& flags, const Translator& translator, const SyncSignal& sync, UpdateCycle& updates,
+                  const StatusFlags& flags, const Translator& translator, const SyncSignal& sync,
+                  const SimRecorder& recorder, UpdateCycle& updates,
                   std::function<void(const std::exception&)> tellFailure);
 
     /// As `getCurrentDockey`, for the host itself.
@@ -64,6 +66,7 @@ public:
     void selectAllDocs(QObject* sender) override;
     void connectDocs(const DocKeyList& keys) override;
     void disconnectDocs(const DocKeyList& keys) override;
+    /// Throws while a connected camera is armed or records.
     void deleteAllDocs(int kind, int mode) override;
     void editDoc(DOCKEY key) override;
     bool sharesDeviceWithLockedHead(DOC_Interface* doc, bool shutter, bool resolution) override;

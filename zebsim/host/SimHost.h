@@ -218,10 +218,10 @@ private:
     SimAppStatus m_appStatus;
     SimSignalDevices m_signalDevices;
     SyncSignal m_syncSignal;
+    SimRecorder m_recorder;
     SimDocManager m_docManager;
     SimLiveLoop m_liveLoop;
     SimPlayer m_player;
-    SimRecorder m_recorder;
     SimSaver m_saver;
     SimCameraOps m_cameraOps;
     SimViewOps m_viewOps;

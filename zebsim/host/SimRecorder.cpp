@@ -15,21 +15,6 @@
 #include <algorithm>
 #include <utility>
 
-namespace {
-
-/// A camera that waits for CTS makes the others wait with their trigger, or it would be left behind. An error only when
-/// all have failed, for the others can record.
-int statusOfAll(const QList<int>& each) {
-    for (const int status : {zeb::RecordRecording, zeb::RecordCtsReady, zeb::RecordReady, zeb::RecordLive}) {
-        if (each.contains(status)) {
-            return status;
-        }
-    }
-    return each.isEmpty() ? zeb::RecordLive : zeb::RecordError;
-}
-
-}  // namespace
-
 SimRecorder::SimRecorder(const HostCalls& calls, const Clock& clock, const CameraBank& cameras,
                          const Preferences& prefs, const StatusFlags& flags, SimAppStatus& appStatus,
                          HostEvents& events, UpdateCycle& updates, const Translator& translator, Notices& notices)
@@ -65,7 +50,12 @@ int SimRecorder::getRecordingState() const {
 
 bool SimRecorder::isRecording() const {
     m_calls.ask("isRecording");
-    return state() == zeb::RecordRecording;
+    return state() == zeb::RecordRecording ||
+           isAny([](const Camera& camera) { return camera.get(&CameraState::recordState) == zeb::RecordRecording; });
+}
+
+int SimRecorder::state() const {
+    return stateOf(m_cameras.keys());
 }
 
 int SimRecorder::stateOf(const DocKeyList& keys) const {
@@ -81,23 +71,18 @@ int SimRecorder::stateOf(const DocKeyList& keys) const {
             return status;
         }
     }
-    QList<int> each;
-    for (const DOCKEY key : keys) {
-        const Camera* camera = m_cameras.find(key);
-        if (camera && camera->get(&CameraState::connected)) {
-            each.append(camera->get(&CameraState::recordState));
-        }
-    }
-    return statusOfAll(each);
-}
-
-int SimRecorder::state() const {
-    return stateOf(m_cameras.keys());
+    return m_run.statusOf(keys);
 }
 
 bool SimRecorder::isUnderWay() const {
     const int whole = state();
-    return whole != zeb::RecordLive && whole != zeb::RecordError;
+    return (whole != zeb::RecordLive && whole != zeb::RecordError) ||
+           isAny([](const Camera& camera) { return camera.isUnderWay(); });
+}
+
+bool SimRecorder::isAny(const std::function<bool(const Camera&)>& wanted) const {
+    const auto cameras = m_cameras.connected();
+    return std::any_of(cameras.begin(), cameras.end(), [&](const Camera* camera) { return wanted(*camera); });
 }
 
 void SimRecorder::startRecReady() {
@@ -167,7 +152,8 @@ void SimRecorder::press() {
         return;
     }
     switch (state()) {
-        case zeb::RecordCtsReady:
+        case zeb::RecordLive:
+            arm();
             break;
         case zeb::RecordReady:
             trigger();
@@ -176,7 +162,7 @@ void SimRecorder::press() {
             m_run.stop();
             break;
         default:
-            arm();
+            break;
     }
 }
 

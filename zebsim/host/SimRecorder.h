@@ -29,23 +29,24 @@ public:
 
     int getRecStatus(const DocKeyList& keys) const override;
     int getRecordingState() const override;
+    bool isRecording() const override;
     void startRecReady() override;
-    /// During a trigger test nothing records, and `HostEvents` tells that the trigger has come.
+    /// During a trigger test nothing records, and a notice tells that the trigger has come.
     void triggerRecording() override;
     void stopRecording() override;
     void cancelRecording(bool recording) override;
-    bool isRecording() const override;
 
-    /// As `getRecordingState`, for the host itself. Recording until its end is told; else as the flags tell, and
-    /// without one as the cameras asked about stand together when the recording was last brought up to the clock: a
-    /// question alone ends nothing.
+    /// As `getRecordingState` and `getRecStatus`, for the host itself. Recording until the end is told; else as the
+    /// flags tell, and without one as the cameras that take part stood when the recording was last brought up to the
+    /// clock: a question alone ends nothing.
     int state() const;
-    /// As `getRecStatus`.
     int stateOf(const DocKeyList& keys) const;
-    /// A line for each camera that has nothing of the last recording in which others have something.
-    const QStringList& lost() const { return m_run.lost(); }
-    /// Whether cameras are armed or record.
+    /// Whether a recording that the host has begun is under way, or its end not told yet.
+    bool isRunning() const { return m_owedEnd.has_value() || m_run.isUnderWay(); }
+    /// Whether a connected camera is armed or records, in that recording or by itself.
     bool isUnderWay() const;
+    /// A line for each camera that has nothing of the last recording.
+    const QStringList& lost() const { return m_run.lost(); }
 
     /// The host's own record key: arms, triggers or stops, as the state is. Only in live mode.
     void press();
@@ -64,6 +65,8 @@ private:
     /// Whether the recording has ended and nobody knew yet; they do now.
     bool hasEnded();
     void deliverEnd();
+    /// Of the connected cameras.
+    bool isAny(const std::function<bool(const Camera&)>& wanted) const;
 
     const HostCalls& m_calls;
     const CameraBank& m_cameras;

@@ -1136,6 +1136,22 @@
         <translation>%1: the camera has left the recording.</translation>
     </message>
     <message>
+        <source>%1: the camera records by itself.</source>
+        <translation>%1: the camera records by itself.</translation>
+    </message>
+    <message>
+        <source>%1: the camera is not ready.</source>
+        <translation>%1: the camera is not ready.</translation>
+    </message>
+    <message>
+        <source>%1: the camera has triggered itself. It records on.</source>
+        <translation>%1: the camera has triggered itself. It records on.</translation>
+    </message>
+    <message>
+        <source>Cameras are armed or recording. None was deleted.</source>
+        <translation>Cameras are armed or recording. None was deleted.</translation>
+    </message>
+    <message>
         <source>Its recording is lost.</source>
         <translation>Its recording is lost.</translation>
     </message>
@@ -1154,10 +1170,6 @@
     <message>
         <source>Trigger test: the trigger has come. Nothing is recorded.</source>
         <translation>Trigger test: the trigger has come. Nothing is recorded.</translation>
-    </message>
-    <message>
-        <source>Clear error</source>
-        <translation>Clear error</translation>
     </message>
     <message>
         <source>%1: no frame of its record area was recorded.</source>

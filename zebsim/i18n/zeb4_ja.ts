@@ -1136,6 +1136,22 @@
         <translation>%1: カメラが撮影から外れました。</translation>
     </message>
     <message>
+        <source>%1: the camera records by itself.</source>
+        <translation>%1: カメラが単独で撮影中です。</translation>
+    </message>
+    <message>
+        <source>%1: the camera is not ready.</source>
+        <translation>%1: カメラの準備ができていません。</translation>
+    </message>
+    <message>
+        <source>%1: the camera has triggered itself. It records on.</source>
+        <translation>%1: カメラが自らトリガを受けました。撮影は続きます。</translation>
+    </message>
+    <message>
+        <source>Cameras are armed or recording. None was deleted.</source>
+        <translation>準備中または撮影中のカメラがあります。削除しませんでした。</translation>
+    </message>
+    <message>
         <source>Its recording is lost.</source>
         <translation>記録は失われました。</translation>
     </message>
@@ -1154,10 +1170,6 @@
     <message>
         <source>Trigger test: the trigger has come. Nothing is recorded.</source>
         <translation>トリガテスト: トリガが入力されました。撮影はしていません。</translation>
-    </message>
-    <message>
-        <source>Clear error</source>
-        <translation>エラー解除</translation>
     </message>
     <message>
         <source>%1: no frame of its record area was recorded.</source>

@@ -37,15 +37,36 @@ RecordRun::Cameras RecordRun::camerasIn(const std::function<bool(int state)>& wa
     return cameras;
 }
 
-/// A camera that somebody else has armed takes part from the time it is needed.
-RecordRun::Part& RecordRun::partOf(const std::shared_ptr<Camera>& camera) {
-    const auto known =
-        std::find_if(m_parts.begin(), m_parts.end(), [&](const Part& part) { return part.camera == camera; });
-    if (known != m_parts.end()) {
-        return *known;
+RecordRun::Cameras RecordRun::camerasOf(const std::function<bool(const Part& part)>& wanted) const {
+    Cameras cameras;
+    for (const Part& part : m_parts) {
+        if (wanted(part)) {
+            cameras.push_back(part.camera);
+        }
     }
-    m_parts.push_back({camera, {}, 0, 0, false, false});
-    return m_parts.back();
+    return cameras;
+}
+
+/// Null when it takes no part and has taken none.
+RecordRun::Part* RecordRun::findPart(const Camera& camera) {
+    const auto known =
+        std::find_if(m_parts.begin(), m_parts.end(), [&](const Part& part) { return part.camera.get() == &camera; });
+    return known == m_parts.end() ? nullptr : &*known;
+}
+
+/// The camera takes part, whatever has become of it before. The answer is good until the next one.
+RecordRun::Part& RecordRun::takeIn(const std::shared_ptr<Camera>& camera) {
+    const bool waits = camera->get(&CameraState::recordState) == zeb::RecordCtsReady;
+    Part* part = findPart(*camera);
+    if (part == nullptr) {
+        m_parts.emplace_back();
+        part = &m_parts.back();
+    }
+    *part = Part();
+    part->camera = camera;
+    part->readyAt = m_clock.now() + (waits ? camera->model().ctsReady : 0);
+    m_losses.remove(camera->key());
+    return *part;
 }
 
 /// The cameras take their time side by side. Answers what was wrong with each; nothing when it has done it.
@@ -70,21 +91,49 @@ QStringList RecordRun::commandAll(const Cameras& cameras, void (Camera::*command
     QStringList reasons;
     for (auto& answer : answers) {
         reasons.append(answer.get());
-        if (!reasons.last().isEmpty()) {
-            m_failures.append(reasons.last());
-        }
     }
     return reasons;
 }
 
+int RecordRun::statusOf(const DocKeyList& keys) const {
+    const QSet<DOCKEY> asked(keys.begin(), keys.end());
+    QList<int> each;
+    for (const Part& part : m_parts) {
+        const int state = part.camera->get(&CameraState::recordState);
+        if (asked.contains(part.camera->key()) && !part.camera->isGone() && part.camera->get(&CameraState::connected)) {
+            each.append(part.over && state != zeb::RecordError ? int(zeb::RecordLive) : state);
+        }
+    }
+    // One that waits for CTS makes the others wait with their trigger, or it would be left behind; one that has
+    // triggered itself must not keep it from the others. An error only when all have failed, for the others can record.
+    for (const int status : {zeb::RecordCtsReady, zeb::RecordReady, zeb::RecordRecording, zeb::RecordLive}) {
+        if (each.contains(status)) {
+            return status;
+        }
+    }
+    return each.isEmpty() ? zeb::RecordLive : zeb::RecordError;
+}
+
+bool RecordRun::isRecording() const {
+    const auto goesOn = [](const Part& part) { return !part.over; };
+    const auto waits = [](const Part& part) { return !part.over && !part.triggered; };
+    return std::any_of(m_parts.begin(), m_parts.end(), goesOn) && std::none_of(m_parts.begin(), m_parts.end(), waits);
+}
+
 void RecordRun::arm() {
+    if (isRecording()) {
+        return;
+    }
+    for (const auto& camera : camerasIn(isArmed)) {
+        const Part* part = findPart(*camera);
+        if (part == nullptr || part->over) {
+            takeIn(camera);
+        }
+    }
     const Cameras cameras = camerasIn([](int state) { return !isArmed(state) && state != zeb::RecordRecording; });
     const QStringList reasons = commandAll(cameras, &Camera::arm);
     for (std::size_t i = 0; i < cameras.size(); ++i) {
-        Part& part = partOf(cameras[i]);
-        part = {cameras[i], {}, 0, 0, false, false};
-        part.readyAt = m_clock.now() + cameras[i]->model().ctsReady;
-        drop(part, reasons.at(int(i)));
+        drop(takeIn(cameras[i]), reasons.at(int(i)));
     }
     m_changed = true;
     const bool isEmpty = m_parts.empty();
@@ -96,29 +145,60 @@ void RecordRun::arm() {
 
 void RecordRun::trigger(bool withAreas) {
     proceed();
-    const qint64 now = m_clock.now();
+    const Cameras late = camerasIn([](int state) { return state != zeb::RecordReady; });
     const Cameras cameras = camerasIn([](int state) { return state == zeb::RecordReady; });
+    if (m_parts.empty() || cameras.empty()) {
+        return;
+    }
     for (const auto& camera : cameras) {
-        Part& part = partOf(camera);
-        part.settings = RecordSettings::of(camera->state(), camera->model());
-        if (!withAreas) {
-            part.settings.area = {};
-        }
-        part.triggeredAt = now;
-        part.triggered = true;
+        const Part* part = findPart(*camera);
+        begin(part == nullptr || part->over ? takeIn(camera) : *findPart(*camera), withAreas);
     }
     const QStringList reasons = commandAll(cameras, &Camera::trigger);
     for (std::size_t i = 0; i < cameras.size(); ++i) {
-        drop(partOf(cameras[i]), reasons.at(int(i)));
+        m_triggered = m_triggered || reasons.at(int(i)).isEmpty();
+        drop(*findPart(*cameras[i]), reasons.at(int(i)));
     }
+    leaveBehind(late);
     m_changed = true;
     tell();
+}
+
+void RecordRun::begin(Part& part, bool withAreas) {
+    part.settings = RecordSettings::of(part.camera->state(), part.camera->model());
+    if (!withAreas) {
+        part.settings.area = {};
+    }
+    part.triggeredAt = m_clock.now();
+    part.triggered = true;
+}
+
+/// Those that have triggered themselves record already, and what became of the failed ones has been told.
+void RecordRun::leaveBehind(const Cameras& late) {
+    Cameras waiting;
+    for (const auto& camera : late) {
+        Part* part = findPart(*camera);
+        if (part != nullptr && (part->over || part->triggered)) {
+            continue;
+        }
+        const bool records = camera->get(&CameraState::recordState) == zeb::RecordRecording;
+        lose(*camera, m_listener
+                              .translate(records ? QStringLiteral("%1: the camera records by itself.")
+                                                 : QStringLiteral("%1: the camera is not ready."))
+                              .arg(camera->name()) %
+                          QLatin1Char(' ') % m_listener.translate(TakesNoPart));
+        if (part != nullptr) {
+            part->over = true;
+            waiting.push_back(camera);
+        }
+    }
+    addFailures(commandAll(waiting, &Camera::disarm));
 }
 
 /// A camera with which something was wrong, for a `reason`, takes no part.
 void RecordRun::drop(Part& part, const QString& reason) {
     if (!reason.isEmpty()) {
-        m_losses.append(reason % QStringLiteral(". ") % m_listener.translate(TakesNoPart));
+        lose(*part.camera, reason % QStringLiteral(". ") % m_listener.translate(TakesNoPart));
         part.over = true;
         part.triggered = false;
         enter(part, zeb::RecordError);
@@ -128,12 +208,13 @@ void RecordRun::drop(Part& part, const QString& reason) {
 void RecordRun::stop() {
     proceed();
     const qint64 now = m_clock.now();
-    const Cameras cameras = camerasIn([](int state) { return state == zeb::RecordRecording; });
+    const Cameras cameras = camerasOf([](const Part& part) { return !part.over && part.triggered; });
     const QStringList reasons = commandAll(cameras, &Camera::stop);
+    addFailures(reasons);
     for (std::size_t i = 0; i < cameras.size(); ++i) {
         // One that can't be stopped goes on until its memory is full.
         if (reasons.at(int(i)).isEmpty() && !cameras[i]->isGone()) {
-            end(partOf(cameras[i]), now, zeb::RecordLive);
+            end(*findPart(*cameras[i]), now, zeb::RecordLive);
         }
     }
     tell();
@@ -141,15 +222,25 @@ void RecordRun::stop() {
 
 void RecordRun::cancel() {
     const qint64 now = m_clock.now();
-    const Cameras cameras = camerasIn([](int state) { return state != zeb::RecordLive; });
+    Cameras cameras = camerasOf([](const Part& part) {
+        const Camera& camera = *part.camera;
+        return !part.over && camera.get(&CameraState::connected) &&
+               camera.get(&CameraState::recordState) != zeb::RecordLive;
+    });
+    for (const auto& camera : camerasIn([](int state) { return isArmed(state) || state == zeb::RecordError; })) {
+        if (std::find(cameras.begin(), cameras.end(), camera) == cameras.end()) {
+            cameras.push_back(camera);
+        }
+    }
     const QStringList reasons = commandAll(cameras, &Camera::cancel);
+    addFailures(reasons);
     for (std::size_t i = 0; i < cameras.size(); ++i) {
-        Part& part = partOf(cameras[i]);
         const int state = reasons.at(int(i)).isEmpty() ? zeb::RecordLive : zeb::RecordError;
-        if (part.over) {
-            enter(part, state);
+        Part* part = findPart(*cameras[i]);
+        if (part == nullptr || part->over) {
+            cameras[i]->enterRecordState(state);
         } else if (!cameras[i]->isGone()) {
-            end(part, now, state);
+            end(*part, now, state);
         }
     }
     // Those that the command has not reached.
@@ -164,21 +255,21 @@ void RecordRun::cancel() {
 void RecordRun::abandon() {
     m_lost.clear();
     m_losses.clear();
+    m_vanished.clear();
+    m_triggered = false;
     if (!std::exchange(m_parts, {}).empty()) {
         m_listener.ended(false);
     }
 }
 
 void RecordRun::proceed() {
-    if (m_parts.empty()) {
-        return;
-    }
     const qint64 now = m_clock.now();
     for (Part& part : m_parts) {
         if (!part.over) {
             proceed(part, now);
         }
     }
+    missOthers();
     tell();
 }
 
@@ -192,6 +283,9 @@ void RecordRun::proceed(Part& part, qint64 now) {
         miss(part, QStringLiteral("%1: the camera was disconnected."));
         enter(part, zeb::RecordLive);
     } else if (state == zeb::RecordRecording) {
+        if (!part.triggered) {
+            followItsTrigger(part);
+        }
         record(part, now);
     } else if (part.triggered || !isArmed(state)) {
         // Somebody else has put it back, or it was disconnected for a while.
@@ -199,6 +293,16 @@ void RecordRun::proceed(Part& part, qint64 now) {
     } else if (state == zeb::RecordCtsReady && now >= part.readyAt) {
         enter(part, zeb::RecordReady);
     }
+}
+
+/// A camera that has triggered itself records on and keeps what it records.
+void RecordRun::followItsTrigger(Part& part) {
+    begin(part, false);
+    part.camera->keep(std::nullopt);
+    m_triggered = true;
+    m_changed = true;
+    m_failures.append(m_listener.translate(QStringLiteral("%1: the camera has triggered itself. It records on."))
+                          .arg(part.camera->name()));
 }
 
 void RecordRun::record(Part& part, qint64 now) {
@@ -210,26 +314,51 @@ void RecordRun::record(Part& part, qint64 now) {
         end(part, std::min(now, full), zeb::RecordError);
         const auto kept = camera.recording();
         m_failures.append(m_listener.translate(QStringLiteral("%1. The recording ended early with %2 frames."))
-                              .arg(QString::fromUtf8(failure.what()))
-                              .arg(kept ? kept->frameCount() : 0));
+                              .arg(QString::fromUtf8(failure.what()), QString::number(kept ? kept->frameCount() : 0)));
         return;
     }
     if (camera.isGone()) {
         miss(part, HasDisappeared);
         enter(part, zeb::RecordLive);
-    } else if (part.triggered && now >= full) {
+    } else if (now >= full) {
         end(part, full, zeb::RecordLive);
+    }
+}
+
+/// Connected cameras that vanish while they take no part.
+void RecordRun::missOthers() {
+    for (const Camera* camera : m_cameras.known()) {
+        if (!camera->isGone()) {
+            m_vanished.remove(camera->key());
+        } else if (!m_vanished.contains(camera->key())) {
+            m_vanished.insert(camera->key());
+            if (camera->get(&CameraState::connected)) {
+                m_failures.append(m_listener.translate(HasDisappeared).arg(camera->name()));
+            }
+        }
     }
 }
 
 void RecordRun::miss(Part& part, const QString& why) {
     const QString loss = part.triggered ? QStringLiteral("Its recording is lost.") : TakesNoPart;
-    m_failures.append(m_listener.translate(why).arg(part.camera->name()) + QLatin1Char(' ') +
-                      m_listener.translate(loss));
-    m_losses.append(m_failures.last());
+    lose(*part.camera,
+         m_listener.translate(why).arg(part.camera->name()) % QLatin1Char(' ') % m_listener.translate(loss));
     part.over = true;
     part.triggered = false;
     m_changed = true;
+    if (part.camera->isGone()) {
+        m_vanished.insert(part.camera->key());
+    }
+}
+
+void RecordRun::lose(const Camera& camera, const QString& line) {
+    m_failures.append(line);
+    m_losses.insert(camera.key(), line);
+}
+
+void RecordRun::addFailures(const QStringList& reasons) {
+    m_failures.append(reasons);
+    m_failures.removeAll(QString());
 }
 
 void RecordRun::end(Part& part, qint64 now, int recordState) {
@@ -238,8 +367,7 @@ void RecordRun::end(Part& part, qint64 now, int recordState) {
         part.camera->keep(recording);
         if (!recording) {
             const QString text = QStringLiteral("%1: no frame of its record area was recorded.");
-            m_failures.append(m_listener.translate(text).arg(part.camera->name()));
-            m_losses.append(m_failures.last());
+            lose(*part.camera, m_listener.translate(text).arg(part.camera->name()));
         }
     }
     part.over = true;
@@ -269,8 +397,9 @@ void RecordRun::finish() {
         return part.triggered && part.camera->get(&CameraState::recorded);
     });
     m_parts.clear();
-    const QStringList losses = std::exchange(m_losses, {});
-    if (recorded) {
+    const QStringList losses = std::exchange(m_losses, {}).values();
+    // Without a trigger what there is to save is still that of the last recording.
+    if (std::exchange(m_triggered, false)) {
         m_lost = losses;
     }
     m_changed = true;

@@ -3,6 +3,8 @@
 #include "ZebTypes.h"
 #include "camera/RecordSettings.h"
 
+#include <QMap>
+#include <QSet>
 #include <QStringList>
 
 #include <functional>
@@ -33,20 +35,28 @@ public:
     RecordRun(const CameraBank& cameras, const Clock& clock, Listener listener);
     ~RecordRun();
 
-    /// Arms the connected cameras that are not under way. Those that fail are told of, the others go on.
+    /// Arms the connected cameras that are at rest and takes in those that are armed already; one that records by
+    /// itself is left alone. Those that fail are told of, the others go on. No effect while the recording runs.
     void arm();
-    /// Triggers the cameras that are ready, all at this time of the clock. `withAreas`: they keep the record area
-    /// alone.
+    /// Triggers the cameras that are ready, all at this time of the clock. Those that are not take no part, and are
+    /// told of. `withAreas`: they keep the record area alone. No effect while none
+    /// takes part or is ready.
     void trigger(bool withAreas);
-    /// Ends the recording of the cameras that record; they keep what they have.
+    /// Ends the recording of the cameras that take part; they keep what they have.
     void stop();
-    /// Puts all cameras back to live. Those that record keep what they have, and what others have recorded stays.
+    /// Puts back to live the cameras that take part, and others that are armed or have failed. Those that record keep
+    /// what they have, and what others have recorded stays.
     void cancel();
     /// The cameras are no more.
     void abandon();
-    /// Does what was due up to this time of the clock: cameras become ready, fill their memory, or are missed.
+    /// Does what was due up to this time of the clock: cameras become ready, fill their memory, or are missed, and so
+    /// are those that take no part.
     void proceed();
-    /// A line for each camera that has nothing of the last recording in which others have something.
+
+    bool isUnderWay() const { return !m_parts.empty(); }
+    /// A `zeb::RecordStatus`, of the recording on those of these cameras that take part; live when none does.
+    int statusOf(const DocKeyList& keys) const;
+    /// A line for each camera that has nothing of the last recording.
     const QStringList& lost() const { return m_lost; }
 
 private:
@@ -62,13 +72,24 @@ private:
     using Cameras = std::vector<std::shared_ptr<Camera>>;
 
     Cameras camerasIn(const std::function<bool(int state)>& wanted) const;
-    Part& partOf(const std::shared_ptr<Camera>& camera);
+    Cameras camerasOf(const std::function<bool(const Part& part)>& wanted) const;
+    Part* findPart(const Camera& camera);
+    Part& takeIn(const std::shared_ptr<Camera>& camera);
+    /// All that take part have had their trigger.
+    bool isRecording() const;
     QStringList commandAll(const Cameras& cameras, void (Camera::*command)());
+    void begin(Part& part, bool withAreas);
+    void leaveBehind(const Cameras& late);
     void drop(Part& part, const QString& reason);
     void proceed(Part& part, qint64 now);
+    void followItsTrigger(Part& part);
     void record(Part& part, qint64 now);
+    void missOthers();
     /// The camera takes no part any more and keeps nothing of this recording. `why` has its place for the name.
     void miss(Part& part, const QString& why);
+    /// What the user is told now, and again at a save.
+    void lose(const Camera& camera, const QString& line);
+    void addFailures(const QStringList& reasons);
     /// The camera keeps what it has recorded until `now`, and takes no part any more.
     void end(Part& part, qint64 now, int recordState);
     void enter(Part& part, int recordState);
@@ -82,8 +103,12 @@ private:
     const Listener m_listener;
     std::vector<Part> m_parts;
     QStringList m_failures;
-    /// Of the run under way, and of the last one that left something.
-    QStringList m_losses;
+    /// Of the run under way, by the camera's key, and of the last one that was triggered.
+    QMap<DOCKEY, QString> m_losses;
     QStringList m_lost;
+    /// Cameras that are gone, which has been told.
+    QSet<DOCKEY> m_vanished;
+    /// A camera of the run under way has recorded.
+    bool m_triggered = false;
     bool m_changed = false;
 };
