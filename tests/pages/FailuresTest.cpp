@@ -1,8 +1,15 @@
 #include "TablePage.h"
 #include "camera/FaultOperations.h"
-#include "camera/FaultPlan.h"
+#include "support/FaultChoice.h"
+
+#include <QApplication>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTimer>
 
 #include <gtest/gtest.h>
+
+#include <climits>
 
 // What the table shows of a camera that does not answer, and of all others meanwhile.
 
@@ -134,6 +141,53 @@ TEST_F(PageFailures, WhatTheUserAsksForIsToldAlthoughTheTicksHaveToldIt) {
     page->run("wrentabledialog.record(); return 0");
     page->run("wrentabledialog.record(); return 0");
     EXPECT_EQ(told().size(), 2);
+}
+
+TEST_F(PageFailures, APressThatMeetsAFaultIsToldAndLeavesTheTableWhole) {
+    test.host.prefs().setValue("wren/display/lock", false);
+    open(0);
+    QStringList warnings;
+    QTimer user;  // takes every warning
+    QObject::connect(&user, &QTimer::timeout, [&warnings] {
+        if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
+            warnings << box->text();
+            box->button(QMessageBox::Ok)->click();
+        }
+    });
+    user.start(0);
+    for (const auto& [tab, button] :
+         {std::make_pair(0, "#timeline_rec_exec"), std::make_pair(5, "button.save-files")}) {
+        page->show(tab);
+        page->update();
+        const auto press = [&, button = button] {
+            page->click(button);
+            page->run("wrentabledialog.cancelRecord(); return 0");
+            page->update();
+        };
+        press();  // clears the record checks
+        page->run("probe.before = probe.shapes(); return 0");
+        test.host.faults().plantAt(INT_MAX, {});
+        press();
+        const QVector<FaultPlan::Call> calls = test.host.faults().calls();
+        EXPECT_GT(calls.size(), 100);
+        for (const int n : callsToFail(calls, 8)) {
+            SCOPED_TRACE(testing::Message()
+                         << button << ", call " << n << ", " << calls[n - 1].operation.toStdString());
+            warnings.clear();
+            told();
+            test.host.faults().plantAt(n, Fault{"no answer"});
+            press();
+            test.host.faults().clear();
+            // A cancel that failed has left them as they were.
+            for (Camera* camera : test.host.cameras().all()) camera->enterRecordState(zeb::RecordLive);
+            test.host.recorder().proceed();
+            page->update();
+            page->tick();
+            EXPECT_LE((told() + warnings).filter("no answer").size(), 1);
+            EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+            EXPECT_EQ(page->list(Changed), QStringList());
+        }
+    }
 }
 
 TEST_F(PageFailures, AnExceptionInWhatTheBackEndRaisesEndsInTheLog) {

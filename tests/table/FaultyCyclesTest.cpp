@@ -1,6 +1,6 @@
 #include "FaultyCall.h"
 #include "GUI_ProgressDialog.h"
-#include "camera/FaultPlan.h"
+#include "support/FaultChoice.h"
 
 #include <QApplication>
 #include <QJsonArray>
@@ -13,7 +13,6 @@
 #include <climits>
 #include <functional>
 #include <iostream>
-#include <random>
 
 // Everything that a page or the host calls, with a fault at one question or command of all that it asks.
 
@@ -159,23 +158,6 @@ private:
     QStringList m_warnings;
 };
 
-/// The numbers of the calls to fail: all of them, or of each operation the first, the last and one between.
-QList<int> chosen(const QVector<FaultPlan::Call>& calls) {
-    static const bool all = qEnvironmentVariableIsSet("WREN_ALL_FAULTS");
-    QMap<QByteArray, QList<int>> places;
-    for (int n = 0; n < calls.size(); ++n)
-        places[(calls[n].key == FaultPlan::Host ? "host " : "") + calls[n].operation] << n + 1;
-    std::mt19937 random(14);
-    QSet<int> numbers;
-    for (const QList<int>& each : places) {
-        if (all)
-            numbers += QSet<int>(each.begin(), each.end());
-        else
-            numbers += {each.first(), each.last(), each.at(int(random() % unsigned(each.size())))};
-    }
-    return numbers.values();
-}
-
 /// The end of a connection that has failed, of which the user is told, and the telling itself: a line in the log.
 bool maySayNothing(const FaultPlan::Call& call) {
     return call.operation == "close" || call.operation == "errorHandler";
@@ -198,7 +180,7 @@ QVector<FaultPlan::Call> callsOf(const Action& action) {
 
 int tryFaults(const Action& action) {
     const QVector<FaultPlan::Call> calls = callsOf(action);
-    const QList<int> numbers = chosen(calls);
+    const QList<int> numbers = callsToFail(calls);
     for (const int n : numbers) {
         const FaultPlan::Call& call = calls[n - 1];
         SCOPED_TRACE(testing::Message() << action.name << " in mode " << action.mode << ", call " << n << " of "
