@@ -15,18 +15,17 @@ Object.assign(wrentabledialog_obj, {
         });
     },
 
-    // The known fields of the stored order, each once.
+    // The known fields of the stored order, each once; one that names none stands for all that the tab has.
     storedFields(tab, preferenceKey) {
         const stored = wrentabledialog.getPrefString(preferenceKey).split(',');
-        return stored.filter((field, index) => tab.fields.includes(field) && stored.indexOf(field) === index);
+        const known = stored.filter((field, index) => tab.fields.includes(field) && stored.indexOf(field) === index);
+        return known.length > 0 ? known : tab.fields;
     },
 
     isChangedColumns(number) {
         const tab = TABS[number];
-        const columns = viewAt(number).grid.columns;
-        return this.storedFields(tab, tab.orderKey)
-            .filter(field => columns.some(column => column.field === field))
-            .some((field, index) => columns[index].field !== field);
+        const shown = viewAt(number).grid.columns.map(column => column.field);
+        return shown.join() !== this.storedFields(tab, tab.orderKey).join();
     },
 
     resetAllColumns(number) {

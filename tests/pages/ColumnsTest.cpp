@@ -27,6 +27,11 @@ TEST(PageColumns, FollowAnOrderThatWasStoredBehindThePage) {
                   "lock,nonsense,comment,lock,,cameraName,comment",
                   {"Lock", "Comment", "Camera name"},
                   {"wren_button_lockStatus_lock", "wren_cameraInfo_comment", "wren_button_edit_camera_name"}},
+             Case{"one field more",
+                  "lock,comment,cameraName,alert",
+                  {"Lock", "Comment", "Camera name", "Alert"},
+                  {"wren_button_lockStatus_lock", "wren_cameraInfo_comment", "wren_button_edit_camera_name",
+                   "wren_alert"}},
          }) {
         SCOPED_TRACE(c.what);
         test.host.prefs().setValue(Order, c.stored);
