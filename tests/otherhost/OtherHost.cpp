@@ -1,0 +1,323 @@
+#include "OtherHost.h"
+
+#include "HostPages.h"
+
+#include <QApplication>
+#include <QDialog>
+#include <QEventLoop>
+#include <QFileDialog>
+#include <QFutureWatcher>
+#include <QLibrary>
+#include <QTest>
+#include <QThread>
+#include <QWebFrame>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+OtherHost* current = nullptr;
+
+/// A page that takes longer hangs. Milliseconds.
+constexpr int GiveUp = 60000;
+
+}  // namespace
+
+void called(const char* operation, bool mayThrow) {
+    if (current && current->onCall && QThread::currentThread() == qApp->thread()) current->onCall(operation, mayThrow);
+}
+
+OtherHost::OtherHost() {
+    current = this;
+    initHostPages();
+    prepareModes();
+    prepareDocuments();
+    for (const DOCKEY key : {1, 2, 3}) addCamera(key);
+    prepareRecords();
+    preparePrefs();
+    prepareBoxes();
+    prepareWorkers();
+    preparePages();
+    QObject::connect(&m_modals, &QTimer::timeout, [this] { lookForModal(); });
+    m_modals.start(1);
+}
+
+OtherHost::~OtherHost() {
+    onCall = nullptr;
+    unload();
+    QCoreApplication::processEvents();  // what the plug-in still had to clear away
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    if (current == this) current = nullptr;
+}
+
+void OtherHost::load() {
+    QLibrary library(QStringLiteral(WREN_LIBRARY));
+    const auto make = reinterpret_cast<PLG_Interface* (*)()>(library.resolve("makeButtonPlugin"));
+    ASSERT_TRUE(make) << library.errorString().toStdString();
+    plugin.reset(make());
+    plugin->setHost(this);
+}
+
+void OtherHost::open() {
+    const std::function<void()> steps[] = {[this] { plugin->prepareOpen(); }, [this] { plugin->activate(); },
+                                           [this] { plugin->getDialog(true); }, [this] { plugin->showDialog(); }};
+    try {
+        for (const auto& step : steps) {
+            if (plugin) step();
+        }
+    } catch (const std::exception& e) {
+        if (*e.what()) errorHandler(e);
+    }
+}
+
+void OtherHost::openWhole() {
+    open();
+    EXPECT_TRUE(QTest::qWaitFor([this] { return hasPage(); }, GiveUp));
+    update();
+}
+
+void OtherHost::update() {
+    updateUI(zeb::UpdateAll, true);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return !m_owed; }, GiveUp));
+}
+
+QString OtherHost::run(const QString& script) {
+    return view ? view->page()->mainFrame()->evaluateJavaScript(script).toString() : QString();
+}
+
+QStringList OtherHost::rows() {
+    const QString rows =
+        run(QStringLiteral("TABS.map((tab, number) => {"
+                           "    $('#tabs').tabs('option', 'active', number);"
+                           "    const drawn = document.querySelectorAll(`#grid_${tab.gridName}_records tr[recid]`);"
+                           "    return Array.from(drawn, row => `${tab.name} ${row.innerHTML}`).join('\\n');"
+                           "}).join('\\n')"));
+    run(QStringLiteral("void $('#tabs').tabs('option', 'active', 0)"));
+    update();
+    return rows.split(QLatin1Char('\n'));
+}
+
+void OtherHost::rest() {
+    for (const auto& camera : cameras) camera->state = {};
+    mode = zeb::LiveMode;
+}
+
+QStringList OtherHost::windows() const {
+    QStringList names;
+    for (const QWidget* widget : QApplication::topLevelWidgets()) {
+        if (widget->isVisible()) names.append(QLatin1String(widget->metaObject()->className()));
+    }
+    return names;
+}
+
+void OtherHost::prepareModes() {
+    onGetOperatingMode = [this] { return mode; };
+    onIsLiveMode = [this] { return mode == zeb::LiveMode; };
+    onIsMemoryMode = [this] { return mode == zeb::MemoryMode; };
+    onIsFileMode = [this] { return mode == zeb::FileMode; };
+    const auto enter = [this](int wanted) {
+        mode = wanted;
+        updateUI(zeb::UpdateAll, true);
+    };
+    appStatusPart.onEnterLiveMode = [enter] { enter(zeb::LiveMode); };
+    appStatusPart.onEnterMemoryMode = [enter] { enter(zeb::MemoryMode); };
+    appStatusPart.onSetWrenRunning = [this](bool on) { running = on; };
+    appStatusPart.onIsWrenRunning = [this] { return running; };
+    appStatusPart.onGetPlugin = [this](const QString& name) {
+        return name == QLatin1String("wren") ? plugin.get() : nullptr;
+    };
+    appStatusPart.onClosePlugin = [this](const QString& name) {
+        if (plugin && plugin->getName() == name) plugin->deactivate();
+    };
+}
+
+DocKeyList OtherHost::keys(bool Camera::State::*which) const {
+    DocKeyList found;
+    for (const auto& camera : cameras) {
+        if (!which || camera->state.*which) found.append(camera->doc.onGetKey());
+    }
+    return found;
+}
+
+void OtherHost::prepareDocuments() {
+    OtherZebDocManager& docs = docManagerPart;
+    const auto find = [this](DOCKEY key) { return key - 1 < cameras.size() ? cameras[key - 1].get() : nullptr; };
+    const auto docOf = [find](DOCKEY key) { return find(key) ? &find(key)->doc : nullptr; };
+    docs.onGetDoc = [docOf](DOCKEY key, int) { return docOf(key); };
+    docs.onGetDocAny = docOf;
+    docs.onGetCurrentDoc = [docOf] { return docOf(1); };
+    docs.onIsCurrentDoc = [](DOCKEY key) { return key == 1; };
+    docs.onGetCurrentDockey = [](int) { return 1; };
+    docs.onGetDocKeys = docs.onGetConnectedDocKeys = [this](int) { return keys(nullptr); };
+    docs.onGetConnectedDocKeys = [this](int) { return keys(&Camera::State::connected); };
+    docs.onGetSelectedDocKeys = [this](int) { return keys(&Camera::State::selected); };
+    docs.onGetLiveDocKeys = [this](int, int) { return keys(nullptr); };
+    docs.onGetDocCount = [this] { return int(cameras.size()); };
+    docs.onGetSelectedDocCount = [this] { return keys(&Camera::State::selected).size(); };
+    docs.onGetCameraDocs = [this] {
+        DocList list;
+        for (const auto& camera : cameras) list.append(&camera->doc);
+        return list;
+    };
+    docs.onGetSyncableDocs = [this](int) { return docManagerPart.onGetCameraDocs(); };
+    docs.onSelectDoc = [find](DOCKEY key) { find(key)->state.selected = true; };
+    docs.onDeselectDoc = [find](DOCKEY key) { find(key)->state.selected = false; };
+    docs.onConnectDocs = [find](const DocKeyList& list) {
+        for (const DOCKEY key : list) find(key)->state.connected = true;
+    };
+    docs.onDisconnectDocs = [find](const DocKeyList& list) {
+        for (const DOCKEY key : list) find(key)->state.connected = false;
+    };
+    docs.onSharesDeviceWithLockedHead = [](DOC_Interface*, bool, bool) { return true; };
+    docs.onGetDocMutex = [this] { return &m_docMutex; };
+}
+
+void OtherHost::addCamera(DOCKEY key) {
+    cameras.push_back(std::make_unique<Camera>());
+    Camera& camera = *cameras.back();
+    camera.doc.onGetKey = [key] { return key; };
+    camera.doc.onIsConnected = [&camera] { return camera.state.connected; };
+    camera.doc.onIsSelected = [&camera] { return camera.state.selected; };
+    camera.doc.onGetAlerts = [] { return QStringList{QStringLiteral("Hot")}; };
+    camera.doc.onGetHeadDocs = [&camera](int) { return DocList{&camera.doc}; };
+    camera.doc.onGetPartitionName = [](PARTITIONNUMBER number) { return QStringLiteral("Part %1").arg(number); };
+    camera.doc.lockPart.onIsParamLocked = [&camera] { return camera.state.locked; };
+    camera.doc.lockPart.onSetParamLock = [&camera](bool lock) { camera.state.locked = lock; };
+    camera.doc.framesPart.onGetFrameCount = [](int, int) { return 100; };
+    camera.doc.framesPart.onGetLastFrame = camera.doc.framesPart.onGetFrameCount;
+    camera.doc.framesPart.onIsRecordCheck = [&camera] { return camera.state.checked; };
+    camera.doc.framesPart.onSetRecordCheck = [&camera](bool check) { camera.state.checked = check; };
+    camera.doc.storagePart.onGetPluginNames = [] { return QStringList{QStringLiteral("lut")}; };
+    prepareControl(key, camera.doc.controlPart);
+}
+
+void OtherHost::prepareControl(DOCKEY key, OtherDOC_Control& control) {
+    control.onGetCameraName = [key](int) { return QStringLiteral("Camera %1").arg(key); };
+    control.onGetAddress = [key](int) { return QStringLiteral("10.0.0.%1").arg(key); };
+    control.onIsFunctionSupported = [](int, int) { return true; };
+    control.onHasSyncStatus = [] { return true; };
+    control.onGetSyncStatusText = [] { return QStringLiteral("Sync In"); };
+    control.onGetPortList = [](int) { return QList<int>{1, 2}; };
+    control.onGetPortSignal = [](int index) { return index == 1 ? zeb::SignalOnCamPos : zeb::SignalTrigPos; };
+    control.onGetRecordRate = [](int) { return 2000; };
+    control.onGetRecordRateList = [] { return QList<unsigned int>{1000, 2000}; };
+    control.onGetResolution = [] { return QSize(512, 512); };
+    control.onGetResolutionList = [] { return QList<QSize>{{512, 512}, {1024, 1024}}; };
+    control.onGetShutterSpeed = [] { return 2000; };
+    control.onGetShutterSpeedEntries = [] { return QStringList{QStringLiteral("2000;1/2000 sec;1")}; };
+    control.onGetTriggerModeList = [] { return QList<int>{zeb::TriggerStart, zeb::TriggerManual}; };
+    control.onGetPartitionCount = [](int, int) { return 2; };
+    control.onGetCurrentPartition = [](int) { return 1; };
+}
+
+void OtherHost::prepareRecords() {
+    cameraOpsPart.onCanSync = [](const DocList&) { return true; };
+    viewOpsPart.onGetZoom = [](DOCKEY) { return 1.0; };
+    mdiPart.onCountMdiWindow = [](bool, int) { return 1; };
+    onGetSyncCapableCameraTypes = [] { return QList<int>{0}; };
+}
+
+QVariant OtherHost::pref(const QString& key, const QVariant& defaultValue) const {
+    if (key.startsWith(QLatin1String("wren/display/"))) return true;
+    return prefs.value(key, defaultValue);
+}
+
+void OtherHost::preparePrefs() {
+    prefs = {{QStringLiteral("alert/setsynchronization"), true},
+             {QStringLiteral("alert/wren/multiheadlockalert"), true},
+             {QStringLiteral("main/scrno"), -1},
+             {QStringLiteral("wren/column_order/cameraInfo"), QStringLiteral("cameraName,lock,comment")},
+             {QStringLiteral("wren/settings/done"), true},
+             {QStringLiteral("wren/table/h"), 700},
+             {QStringLiteral("wren/table/interval"), 5},
+             {QStringLiteral("wren/table/w"), 1300}};
+    onGetPref = [this](const QString& key, const QVariant& value) { return pref(key, value); };
+    onGetPrefInt = [this](const QString& key, const QVariant& value) { return pref(key, value).toInt(); };
+    onGetPrefBool = [this](const QString& key, const QVariant& value) { return pref(key, value).toBool(); };
+    onGetPrefFloat = [this](const QString& key, const QVariant& value) { return pref(key, value).toFloat(); };
+    onGetPrefString = [this](const QString& key, const QVariant& value) { return pref(key, value).toString(); };
+    onSetPref = [this](const QString& key, const QVariant& value) { prefs[key] = value; };
+    onSetPrefInt = onSetPref;
+    onSetPrefBool = onSetPref;
+    onSetPrefFloat = onSetPref;
+    onSetPrefString = onSetPref;
+    onTranslate = [](const QString& text) { return text; };
+}
+
+void OtherHost::prepareBoxes() {
+    onConfirm = [this](const QString&) { return agrees; };
+    onConfirmModal = [this](const QString&, QWidget*, const ButtonTexts&) { return agrees; };
+    onConfirmWithDontShowAgain = [this](const QString&, const QString&, QWidget*, const ButtonTexts&) {
+        return agrees;
+    };
+    onErrorHandler = [this](const std::exception& e) { errors.append(QString::fromUtf8(e.what())); };
+    onGetPrefsDialog = [this] { return &m_prefsDialog; };
+    onIsReady = [] { return true; };
+    onSetTextBoxFocusState = [this](bool focused) { textBoxFocused = focused; };
+}
+
+void OtherHost::prepareWorkers() {
+    onExecProgress = [this](const QString&, QFutureWatcherBase& watcher) {
+        m_watched.release();
+        QEventLoop loop;
+        QObject::connect(&watcher, &QFutureWatcherBase::finished, &loop, &QEventLoop::quit);
+        if (!watcher.isFinished()) loop.exec();
+    };
+    onExportSupportFile = [this](const QString&, const ZebSupportFile&) {
+        m_watched.acquire();
+        return true;
+    };
+    cameraOpsPart.onSyncCameras = [this](const DocList&, DOC_Interface*, int, bool, bool, int, int, int) {
+        m_watched.acquire();
+    };
+}
+
+/// The modal windows that the plug-in opens by itself.
+void OtherHost::lookForModal() {
+    QWidget* modal = QApplication::activeModalWidget();
+    if (modal == m_modal) return;
+    m_modal = modal;
+    if (!m_modal) return;
+    const QByteArray name = modal->metaObject()->className();
+    if (onCall) onCall(name, false);
+    if (name == "GUI_SyncProgress") {
+        m_watched.release();
+    } else if (auto* dialog = qobject_cast<QDialog*>(m_modal)) {
+        if (auto* files = qobject_cast<QFileDialog*>(dialog)) files->selectFile(QStringLiteral("/tmp/support.zip"));
+        agrees ? dialog->accept() : dialog->reject();
+    }
+}
+
+void OtherHost::preparePages() {
+    onGetAppObject = [this] { return &m_pageObject; };
+    onGetMainObject = onGetAppObject;
+    onAttachBridge = [this](QWebView* of, ZebPageBridge* attached) {
+        attached->setView(of);
+        QWebFrame* frame = of->page()->mainFrame();
+        QObject::connect(frame, &QWebFrame::javaScriptWindowObjectCleared, attached, [frame, attached] {
+            frame->addToJavaScriptWindowObject(attached->bridgeName(), attached, QWebFrame::QtOwnership);
+            attached->addPrefsJSObject();
+        });
+        view = of;
+        bridge = attached;
+    };
+    onUpdateUI = [this](unsigned int, bool) {
+        if (std::exchange(m_owed, true)) return;
+        QMetaObject::invokeMethod(
+            &m_pageObject, [this] { runCycle(); }, Qt::QueuedConnection);
+    };
+    onDeterUpdateUI = [this](bool deter) {
+        m_deterred += deter ? 1 : -1;
+        if (m_deterred == 0 && std::exchange(m_owed, false)) onUpdateUI(zeb::UpdateAll, true);
+    };
+}
+
+void OtherHost::runCycle() {
+    if (m_deterred > 0) return;
+    m_owed = false;
+    try {
+        if (plugin) plugin->updateDialog(mode);
+    } catch (const std::exception& e) {
+        onErrorHandler(e);
+    }
+}

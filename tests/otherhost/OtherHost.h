@@ -1,0 +1,93 @@
+#pragma once
+
+#include "HostParts.h"
+#include "PLG_Interface.h"
+#include "ZebPageBridge.h"
+
+#include <QMap>
+#include <QMutex>
+#include <QPointer>
+#include <QSemaphore>
+#include <QTimer>
+#include <QWebView>
+
+#include <memory>
+#include <vector>
+
+/// A host that has nothing in common with the stand-in host but the headers of the boundary and the resources of its
+/// pages. It has three cameras. What is not told here it answers with nothing.
+class OtherHost : public OtherZebHost {
+public:
+    struct Camera {
+        OtherDOC_Interface doc;
+        struct State {
+            bool connected = true;
+            bool selected = true;
+            bool locked = false;
+            bool checked = false;
+        } state;
+    };
+
+    OtherHost();
+    ~OtherHost() override;
+
+    /// Loads the plug-in; a second one only after `unload`.
+    void load();
+    void unload() { plugin.reset(); }
+    void close() { plugin->closeDialog(); }
+    /// As the plug-in's button does.
+    void open();
+    /// The same, and waits for the page.
+    void openWhole();
+    /// Asks for an update and waits until it has been made.
+    void update();
+    /// The value of a script in the table's page, as text; empty without a page.
+    QString run(const QString& script);
+    bool hasPage() { return run(QStringLiteral("!wrentabledialog_obj.initialize")) == QLatin1String("true"); }
+    /// The rows of each tab, as they stand in the page, which is left on the first.
+    QStringList rows();
+    /// All cameras connected, selected and open, in live mode.
+    void rest();
+    /// Windows on the screen, by their class.
+    QStringList windows() const;
+
+    std::unique_ptr<PLG_Interface> plugin;
+    std::vector<std::unique_ptr<Camera>> cameras;
+    int mode = zeb::LiveMode;
+    bool running = false;
+    bool textBoxFocused = false;
+    QMap<QString, QVariant> prefs;
+    /// How the user answers.
+    bool agrees = true;
+    QStringList errors;
+    /// Runs at each call of the plug-in, and once for each modal window of its own, by the name of its class. What it
+    /// throws goes to the plug-in. GUI thread.
+    std::function<void(const QByteArray& operation, bool mayThrow)> onCall;
+    QPointer<QWebView> view;
+    QPointer<ZebPageBridge> bridge;
+
+private:
+    void prepareModes();
+    void prepareDocuments();
+    void addCamera(DOCKEY key);
+    void prepareControl(DOCKEY key, OtherDOC_Control& control);
+    void prepareRecords();
+    void preparePrefs();
+    void prepareBoxes();
+    void prepareWorkers();
+    void preparePages();
+    void runCycle();
+    void lookForModal();
+    DocKeyList keys(bool Camera::State::*which) const;
+    QVariant pref(const QString& key, const QVariant& defaultValue) const;
+
+    QMutex m_docMutex;
+    QObject m_pageObject;
+    OtherZebPrefsDialog m_prefsDialog;
+    QTimer m_modals;
+    QPointer<QWidget> m_modal;
+    /// What a worker waits for: that the GUI thread waits for it.
+    QSemaphore m_watched;
+    int m_deterred = 0;
+    bool m_owed = false;
+};

@@ -1,0 +1,315 @@
+#include "Course.h"
+#include "LiveObjects.h"
+#include "OtherHost.h"
+
+#include <QApplication>
+#include <QDialog>
+#include <QMetaMethod>
+#include <QSet>
+#include <QSignalSpy>
+#include <QTest>
+
+#include <gmock/gmock.h>
+
+namespace {
+
+const QString RecAll = QStringLiteral("recording/RecAllConnectedCamera");
+
+using Operations = QSet<QByteArray>;
+
+/// What is done with a table, and where it starts from.
+struct Act {
+    std::string name;
+    std::function<void(OtherHost&)> prepare;
+    std::function<void(OtherHost&)> act;
+};
+
+const Act Opened{"opened", [](OtherHost&) {},
+                 [](OtherHost& host) {
+                     host.open();
+                     EXPECT_TRUE(QTest::qWaitFor([&host] { return !host.view || host.hasPage(); }));
+                 }};
+const Act OpenedAgain{"opened again",
+                      [](OtherHost& host) {
+                          host.openWhole();
+                          host.close();
+                      },
+                      [](OtherHost& host) { host.open(); }};
+const Act Activated{"activated",
+                    [](OtherHost& host) {
+                        host.openWhole();
+                        QApplication::setActiveWindow(nullptr);
+                    },
+                    [](OtherHost& host) { QApplication::setActiveWindow(host.plugin->getDialog(false)); }};
+const Act LookedAt{"looked at", [](OtherHost& host) { host.openWhole(); }, [](OtherHost& host) { host.rows(); }};
+const Act Closed{"closed", LookedAt.prepare, [](OtherHost& host) { host.close(); }};
+
+/// A call of each slot of the table's bridge, as its page makes it, and what needs more than one.
+std::vector<Act> pageActs() {
+    OtherHost host;
+    host.load();
+    host.open();
+    const QMap<QByteArray, QString> values{{"QVariantList", "[1, 2, 3]"},
+                                           {"QStringList", "['a']"},
+                                           {"bool", "true"},
+                                           {"QString", "'2'"},
+                                           {"DOC_Interface*", "null"}};
+    QStringList calls{QStringLiteral("setParamLock([1, 2, 3], true); wrentabledialog.record()"),
+                      QStringLiteral("connect([1, 2, 3], false); wrentabledialog.connect([1, 2, 3], true)"),
+                      QStringLiteral("enterMemoryMode(); wrentabledialog.save()"),
+                      QStringLiteral("enterMemoryMode(); wrentabledialog.saveLayout()")};
+    const QMetaObject& type = *host.bridge->metaObject();
+    for (int i = QObject::staticMetaObject.methodCount(); i < type.methodCount(); ++i) {
+        const QMetaMethod method = type.method(i);
+        if (method.methodType() != QMetaMethod::Slot || method.name() == "deterUpdateUI") continue;
+        QStringList arguments;
+        for (const QByteArray& argument : method.parameterTypes()) arguments << values.value(argument, "1");
+        calls << QString(method.name() % QLatin1Char('(') % arguments.join(", ") % QLatin1Char(')'));
+    }
+    std::vector<Act> acts;
+    for (const QString& call : calls) {
+        acts.push_back({call.toStdString(), LookedAt.prepare,
+                        [call](OtherHost& one) { one.run(QStringLiteral("void wrentabledialog.") % call); }});
+    }
+    return acts;
+}
+
+std::unique_ptr<OtherHost> loaded() {
+    auto host = std::make_unique<OtherHost>();
+    host->prefs[QStringLiteral("wren/settings/syncInEnable")] = true;
+    host->cameraOpsPart.onSetReduceMode = [](const DocList&, bool) { throw std::runtime_error("no answer"); };
+    host->load();
+    return host;
+}
+
+/// Hears the calls of a host while it lives.
+class Ear {
+public:
+    Ear(OtherHost& host, const std::function<void(const QByteArray&, bool)>& hear) : m_host(host) {
+        host.onCall = hear;
+    }
+    ~Ear() { m_host.onCall = nullptr; }
+    Q_DISABLE_COPY(Ear)
+
+private:
+    OtherHost& m_host;
+};
+
+/// The operations that an act calls and that may throw.
+Operations operationsOf(const Act& act) {
+    Operations operations;
+    const std::unique_ptr<OtherHost> host = loaded();
+    act.prepare(*host);
+    const Ear ear(*host, [&operations](const QByteArray& operation, bool mayThrow) {
+        if (mayThrow) operations << operation;
+    });
+    act.act(*host);
+    return operations;
+}
+
+/// What runs an event loop, changes what is stored, or tells of the plug-in: a host may destroy it there. The last ones
+/// are windows of the plug-in.
+const char* const Moments[] = {"ZebHost::info",
+                               "ZebHost::warn",
+                               "ZebHost::warnList",
+                               "ZebHost::alert",
+                               "ZebHost::alertList",
+                               "ZebHost::alertWithDontShowAgain",
+                               "ZebHost::confirm",
+                               "ZebHost::confirmModal",
+                               "ZebHost::confirmWithDontShowAgain",
+                               "ZebHost::errorHandler",
+                               "ZebHost::execProgress",
+                               "ZebHost::openAboutDialog",
+                               "ZebHost::openPrefsEthernetSettings",
+                               "ZebHost::saveFiles",
+                               "ZebHost::saveLayoutFiles",
+                               "ZebHost::setPref",
+                               "ZebHost::setPrefInt",
+                               "ZebHost::setPrefBool",
+                               "ZebHost::setPrefFloat",
+                               "ZebHost::setPrefString",
+                               "ZebPrefsDialog::exec",
+                               "ZebDocManager::connectDocs",
+                               "ZebDocManager::disconnectDocs",
+                               "ZebDocManager::deleteAllDocs",
+                               "ZebDocManager::editDoc",
+                               "ZebCameraOps::searchCamera",
+                               "ZebCameraOps::discoverCameras",
+                               "ZebCameraOps::updateCameras",
+                               "ZebAppStatus::openPlugin",
+                               "ZebAppStatus::closePlugin",
+                               "ZebAppStatus::enterLiveMode",
+                               "ZebAppStatus::enterMemoryMode",
+                               "ZebAppStatus::setWrenRunning",
+                               "ZebAppStatus::notifyPluginShown",
+                               "ZebAppStatus::notifyPluginClosed",
+                               "QFileDialog",
+                               "QMessageBox",
+                               "GUI_SyncProgress"};
+
+class OtherHostTest : public testing::Test {
+protected:
+    /// The rows of a table that nothing has happened to; the first loading starts what lasts.
+    OtherHostTest() {
+        static const QStringList rows = [] {
+            const std::unique_ptr<OtherHost> host = loaded();
+            host->openWhole();
+            return host->rows();
+        }();
+        m_rows = rows;
+        m_before = Leftovers::now();
+    }
+
+    void expectWhole(OtherHost& host) {
+        host.update();
+        EXPECT_EQ(host.rows(), m_rows);
+        EXPECT_EQ(host.windows(), QStringList("GUI_WrenTableDialog"));
+        EXPECT_TRUE(QSignalSpy(host.bridge, SIGNAL(autoUpdate())).wait());
+    }
+
+    /// The table is away and has taken back what it set.
+    void expectOver(OtherHost& host) {
+        EXPECT_EQ(host.windows(), QStringList());
+        EXPECT_FALSE(host.running);
+        EXPECT_FALSE(host.textBoxFocused);
+        EXPECT_FALSE(host.prefs[RecAll].toBool());
+    }
+
+    /// `count` plug-ins have been loaded and are gone. The web engine keeps a little of its own.
+    void expectNothingLeft(int count) {
+        const Leftovers now = Leftovers::now();
+        EXPECT_LT(now.objects, m_before.objects + count) << "after " << count;
+        EXPECT_LT(now.timers, m_before.timers + count) << "after " << count;
+    }
+
+    Course quiet;
+
+private:
+    QStringList m_rows;
+    Leftovers m_before;
+};
+
+class FaultTest : public OtherHostTest, public testing::WithParamInterface<bool> {};
+
+}  // namespace
+
+TEST_F(OtherHostTest, showsItsCamerasOnEachTabAndAgain) {
+    const std::unique_ptr<OtherHost> host = loaded();
+    for (int round = 0; round < 2; ++round) {
+        host->openWhole();
+        for (const char* camera : {">Camera 1<", ">Camera 2<", ">Camera 3<"})
+            EXPECT_EQ(host->rows().filter(camera).size(), 7) << camera;
+        expectWhole(*host);
+        EXPECT_TRUE(host->prefs[RecAll].toBool());
+        host->close();
+        expectOver(*host);
+    }
+}
+
+TEST_P(FaultTest, isOverWhenItIsGone) {
+    const bool always = GetParam();
+    std::unique_ptr<OtherHost> host;
+    for (const Act& act : {Opened, LookedAt, Closed}) {
+        if (!always && act.name == LookedAt.name) continue;
+        for (const QByteArray& operation : operationsOf(act)) {
+            SCOPED_TRACE(act.name + ", " + operation.toStdString());
+            if (!host || act.name == Opened.name) host = loaded();
+            act.prepare(*host);
+            {
+                bool over = false;
+                const Ear ear(*host, [&](const QByteArray& name, bool) {
+                    if (name == operation && (always || !std::exchange(over, true)))
+                        throw std::runtime_error("no answer");
+                });
+                act.act(*host);
+            }
+            if (act.name == Closed.name) {
+                host->close();
+                expectOver(*host);
+            }
+            if (!host->plugin->isDialogVisible()) host->openWhole();
+            expectWhole(*host);
+        }
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(AtTheFirstCallAndAtEach, FaultTest, testing::Bool());
+
+TEST_F(OtherHostTest, bearsEveryRefusal) {
+    const std::unique_ptr<OtherHost> host = loaded();
+    host->agrees = false;
+    host->openWhole();
+    for (const Act& act : pageActs()) {
+        host->rest();
+        act.act(*host);
+        EXPECT_FALSE(QApplication::activeModalWidget()) << act.name;
+    }
+    host->rest();
+    host->run(QStringLiteral("wrentabledialog.onOpen()"));  // one of the calls was the page's answer to a close
+    expectWhole(*host);
+}
+
+TEST_F(OtherHostTest, mayBeDestroyedAtEachOfTheMoments) {
+    std::vector<Act> acts{Opened, OpenedAgain, Activated, Closed};
+    for (const Act& act : pageActs()) acts.push_back(act);
+    Operations missing(std::begin(Moments), std::end(Moments));
+    const Operations moments = missing;
+    std::unique_ptr<OtherHost> host;
+    int loads = 0;
+    for (const Act& act : acts) {
+        bool destroyed = true;
+        for (int count = 1; destroyed; ++count) {
+            if (!host || !host->plugin) {
+                host = loaded();
+                ++loads;
+            }
+            host->rest();
+            act.prepare(*host);
+            int left = count;
+            const Ear ear(*host, [&](const QByteArray& operation, bool) {
+                if (!moments.contains(operation) || --left != 0) return;
+                missing.remove(operation);
+                host->unload();
+            });
+            act.act(*host);
+            QCoreApplication::processEvents();
+            destroyed = left <= 0;
+            EXPECT_TRUE(!destroyed || host->windows().isEmpty()) << act.name << ", " << count;
+        }
+    }
+    host.reset();
+    EXPECT_EQ(missing, Operations());
+    expectNothingLeft(loads);
+}
+
+TEST_F(OtherHostTest, mayBeDestroyedInTheBoxOfItsFailure) {
+    int destroyed = 0;
+    for (const Act& act : {Opened, OpenedAgain, Closed}) {
+        for (const QByteArray& operation : operationsOf(act)) {
+            const std::unique_ptr<OtherHost> host = loaded();
+            act.prepare(*host);
+            const Ear ear(*host, [&](const QByteArray& name, bool) {
+                if (name == operation) throw std::runtime_error("no answer");
+                if (name != "ZebHost::errorHandler") return;
+                ++destroyed;
+                host->unload();
+            });
+            act.act(*host);
+            QCoreApplication::processEvents();
+            EXPECT_TRUE(host->plugin || host->windows().isEmpty()) << act.name << ", " << operation.toStdString();
+        }
+    }
+    expectNothingLeft(destroyed);
+}
+
+TEST_F(OtherHostTest, mayBeDestroyedWhileItsPageLoads) {
+    for (const char* signal : {SIGNAL(loadProgress(int)), SIGNAL(loadFinished(bool))}) {
+        const std::unique_ptr<OtherHost> host = loaded();
+        host->open();
+        EXPECT_TRUE(QSignalSpy(host->view, signal).wait()) << signal;
+        host->unload();
+        EXPECT_EQ(host->windows(), QStringList()) << signal;
+        EXPECT_FALSE(host->prefs[RecAll].toBool()) << signal;
+    }
+}
