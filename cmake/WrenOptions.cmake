@@ -38,6 +38,13 @@ if(CCACHE_PROGRAM)
     set(CMAKE_CXX_COMPILER_LAUNCHER ${CCACHE_PROGRAM})
 endif()
 
+# For each program. It must be an object of the program itself, or the linker leaves it out.
+function(wren_check_leaks program)
+    if(WREN_SANITIZE)
+        target_sources(${program} PRIVATE ${CMAKE_SOURCE_DIR}/cmake/LeakCheck.cpp)
+    endif()
+endfunction()
+
 # A floor of the house: a static library whose headers are seen by those that link it, and by nobody else.
 function(wren_floor name)
     cmake_parse_arguments(FLOOR "" "" "SOURCES;LINKS" ${ARGN})
