@@ -3,6 +3,7 @@
 #include "DOC_Interface.h"
 #include "LiveObjects.h"
 #include "TablePage.h"
+#include "camera/FaultOperations.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -21,7 +22,8 @@
 namespace {
 
 constexpr int Seeds = 20;
-constexpr int Steps = 1000;
+/// A tenth of what `./test long` does.
+const int Steps = qEnvironmentVariableIsSet("WREN_LONG") ? 1000 : 100;
 constexpr int MostVanished = 3;
 constexpr int PatienceMs = 2000;
 
@@ -64,11 +66,18 @@ const char* Shown = R"js((() => {
         const more = tab === 1 ? ['framerate_', 'resolution_'].map(word => value('wren_livecontrol_' + word)) :
             tab === 5 ? ['select_start_frameno', 'select_end_frameno', 'trigger_offset'].map(
                 word => value('wren_spinner_' + word)).concat(check ? String(check.checked) : '-') : [];
-        return [key, row.querySelector('.wren_label_edit_camera_name').textContent,
+        return [key, (row.querySelector('.wren_label_edit_camera_name') || { textContent: '' }).textContent,
             row.classList.contains('w2ui-selected') ? 'selected' : '',
             tab < 5 && row.querySelector('.wren-lock-status') ? 'locked' : ''].concat(more).join(' | ');
     });
 })())js";
+
+/// In an order that a seed repeats.
+const QStringList Operations = [] {
+    QStringList names = cameraOperations().values();
+    names.sort();
+    return names;
+}();
 
 const char* Strays = "String(window.hostile) + $('img[src=x]').length";
 
@@ -105,10 +114,10 @@ public:
 
     void compare() {
         // The page makes some calls a moment later, when it has drawn what it waits for.
-        const auto isRight = [this] { return m_page->list(Shown) == expected(); };
+        const auto isRight = [this] { return shown() == expected(); };
         const auto looksAgain = [&] { return isRight() || (m_page->update(), isRight()); };
         if (!QTest::qWaitFor(looksAgain, PatienceMs)) {
-            ASSERT_EQ(m_page->list(Shown), expected());
+            ASSERT_EQ(shown(), expected());
         }
         ASSERT_EQ(m_page->text(Strays), "undefined0");
         ASSERT_EQ(activeTimers(TablePage::TickMs), 1);
@@ -136,7 +145,7 @@ private:
     Camera& anyCamera() { return *anyOf(m_test.host.cameras().all()); }
 
     QString act() {
-        const int kind = upTo(21);
+        const int kind = upTo(23);
         if (kind < 9) return click();
         if (kind < 13) return changeCamera();
         switch (kind) {
@@ -157,6 +166,10 @@ private:
                 return "types";
             case 19:
                 return plug();
+            case 20:
+                return workAlone();
+            case 21:
+                return fallSilent();
             default:
                 m_page->tick();
                 return "a tick";
@@ -198,6 +211,23 @@ private:
         return QString("camera %1 is %2").arg(device.heads().front()->key()).arg(on ? "plugged in" : "unplugged");
     }
 
+    /// At its own panel.
+    QString workAlone() {
+        Camera& camera = anyCamera();
+        const int state = anyOf(QList<int>{zeb::RecordLive, zeb::RecordReady, zeb::RecordRecording});
+        camera.enterRecordState(state);
+        return QString("camera %1 goes into state %2 by itself").arg(camera.key()).arg(state);
+    }
+
+    /// One question stays without an answer until the next one does.
+    QString fallSilent() {
+        m_test.host.faults().plant(m_silent, m_unanswered, {});
+        m_silent = anyCamera().key();
+        m_unanswered = anyOf(Operations);
+        if (upTo(2) == 0) m_test.host.faults().plant(m_silent, m_unanswered, Fault{"no answer"});
+        return QString("camera %1 falls silent at %2").arg(m_silent).arg(m_unanswered);
+    }
+
     QString letTimePass() {
         m_test.clock.advance(upTo(4000));
         m_test.host.recorder().proceed();
@@ -222,6 +252,16 @@ private:
         return call;
     }
 
+    /// But of the camera that may not have told all of it.
+    QStringList shown() {
+        QStringList lines = m_page->list(Shown);
+        const QString silent = QString::number(m_silent) + " |";
+        lines.erase(
+            std::remove_if(lines.begin(), lines.end(), [&](const QString& line) { return line.startsWith(silent); }),
+            lines.end());
+        return lines;
+    }
+
     /// Key, name, selection and lock of each camera; its settings on the tab that has them, its frames in memory mode.
     QStringList expected() {
         const int tab = m_page->number("$('#tabs').tabs('option', 'active')");
@@ -229,7 +269,7 @@ private:
         QStringList lines;
         for (const DOCKEY key : m_test.host.docManager().getDocKeys()) {
             DOC_Interface* doc = m_test.host.docManager().getDocAny(key);
-            if (doc == nullptr) continue;
+            if (doc == nullptr || key == m_silent) continue;
             const CameraState state = m_test.camera(key).state();
             const bool locked = tab < 5 && state.connected && !state.lowLight && state.locked;
             QStringList line{QString::number(key), state.name,
@@ -265,6 +305,8 @@ private:
     std::unique_ptr<TablePage> m_page;
     QTimer m_user;
     int m_vanished = 0;
+    DOCKEY m_silent = zeb::NoDocKey;
+    QString m_unanswered = "getRecordRate";
 };
 
 class PageWalk : public testing::TestWithParam<unsigned> {};

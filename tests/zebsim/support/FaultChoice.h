@@ -9,9 +9,9 @@
 #include <random>
 
 /// The numbers of the `calls` to fail, for `FaultPlan::plantAt`: of each operation the first, the last and one between,
-/// of these one in `share`; and all calls where somebody wants to wait for that (`./test faults`).
+/// of these one in `share`; and all calls where somebody wants to wait for that (`./test long`).
 inline QList<int> callsToFail(const QVector<FaultPlan::Call>& calls, int share = 1) {
-    static const bool all = qEnvironmentVariableIsSet("WREN_ALL_FAULTS");
+    static const bool all = qEnvironmentVariableIsSet("WREN_LONG");
     QMap<QPair<bool, QByteArray>, QList<int>> places;
     for (int i = 0; i < calls.size(); ++i) {
         places[{calls[i].key == FaultPlan::Host, calls[i].operation}] << i + 1;
