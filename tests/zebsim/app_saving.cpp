@@ -89,7 +89,8 @@ TEST_F(AppSaving, WritesWhatTheDialogShows) {
     const QString target = QDir::toNativeSeparators(folder.filePath("out"));
     const QStringList lines = {"Camera 1: 3 frames saved in " + target, "<b>%2</b>: 3 frames saved in " + target};
     EXPECT_EQ(results(), lines);
-    for (const QString& text : lines) EXPECT_TRUE(simulator.log().since(0).contains(text)) << "for later";
+    for (const QString& text : lines)
+        EXPECT_TRUE(simulator.log().since(0).contains(QString("\"%1\"").arg(text))) << "for later";
     EXPECT_FALSE(host.saver().isSaving());
     EXPECT_EQ(row, QStringList({"<b>%2</b>", "-1", "1", "3"}));
     EXPECT_EQ(filesIn("out").size(), 6);

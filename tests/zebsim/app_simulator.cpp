@@ -1,7 +1,9 @@
 #include "CommandLine.h"
+#include "LogDock.h"
 #include "ScenarioDialogs.h"
 #include "Simulator.h"
 #include "ViewerWindow.h"
+#include "ZebSupportFile.h"
 #include "camera/Camera.h"
 #include "support/StubPlugin.h"
 
@@ -9,6 +11,10 @@
 #include <QApplication>
 #include <QCoreApplication>
 #include <QDialog>
+#include <QPlainTextEdit>
+#include <QRegularExpression>
+#include <QScrollBar>
+#include <QTabWidget>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
@@ -43,6 +49,45 @@ TEST_F(ViewerTest, DrawsItselfWhileAllThatPluginsAskFails) {
     });
     EXPECT_EQ(simulator.run([] {}), 0);
     EXPECT_EQ(simulator.window().property("style"), "light");
+}
+
+TEST_F(ViewerTest, TheLogIsFollowedUntilSomebodyReadsIt) {
+    const auto log = [](const QByteArray& text, int lines) {
+        for (int i = 0; i < lines; ++i) {
+            qInfo("%s", text.constData());
+            QCoreApplication::processEvents();
+        }
+    };
+    // How much of the last line the lower bar covers depends on the height.
+    for (int height = 110; height < 130; ++height) {
+        LogDock dock(simulator.log(), simulator.host().journal(), nullptr);
+        dock.resize(900, height);
+        dock.show();
+        const auto* view = qobject_cast<QPlainTextEdit*>(dock.findChild<QTabWidget*>()->currentWidget());
+        QScrollBar* bar = view->verticalScrollBar();
+        log("a line", 20);
+        log(QByteArray(2000, 'x'), 1);
+        log("a line", 3);
+        EXPECT_EQ(bar->value(), bar->maximum()) << "height " << height;
+        bar->setValue(5);
+        log("a line", 3);
+        EXPECT_EQ(bar->value(), 5);
+    }
+}
+
+TEST_F(ViewerTest, ALineOfTheLogIsOneLine) {
+    const quint64 mark = simulator.log().count();
+    qWarning("a\nb\u001b[1m\u2028c");
+    EXPECT_EQ(simulator.log().since(mark), QStringList("a\\nb\\u001b[1m\\u2028c"));
+    ZebSupportFile file;
+    simulator.host().cameras().find(1)->change({{"name", "Gate\nERROR"}, {"alerts", QStringList{"hot\nAlert: x"}}});
+    simulator.host().prefs().setValue("support/dir", "a\nb = c");
+    simulator.host().prepareSupportFile(file);
+    const QString last = QString::fromUtf8(file.files.value("operation.log")).section('\n', -1);
+    EXPECT_TRUE(
+        QRegularExpression(R"(^\d{4}-\d\d-\d\d [\d:.]{12} WARN a\\nb\\u001b\[1m\\u2028c$)").match(last).hasMatch())
+        << last.toStdString();
+    EXPECT_TRUE(file.files.value("preferences.txt").contains("\nsupport/dir = a\\nb = c\n"));
 }
 
 TEST_F(ViewerTest, EndsTheApplicationWhenItIsClosed) {

@@ -60,7 +60,7 @@ TEST(SupportFile, HoldsTheLogOfEveryCameraThatKeepsOne) {
         models.append(model);
         devices.append(QJsonObject{{"address", QStringLiteral("10.0.0.%1").arg(function)},
                                    {"model", name},
-                                   {"heads", QJsonArray{QJsonObject{{"alerts", QJsonArray{"It is hot"}}}}}});
+                                   {"heads", QJsonArray{QJsonObject{{"alerts", QJsonArray{"It is\nhot"}}}}}});
     }
     QTemporaryDir folder;
     const auto write = [&folder](const char* name, const QJsonObject& object) {
@@ -75,7 +75,7 @@ TEST(SupportFile, HoldsTheLogOfEveryCameraThatKeepsOne) {
     test.host.prepareSupportFile(file);
     EXPECT_EQ(file.files.keys().filter("camera-"), QStringList({"camera-2.log", "camera-3.log"}));
     EXPECT_TRUE(file.files.value("camera-3.log").contains("10.0.0.176"));
-    EXPECT_TRUE(file.files.value("camera-3.log").contains("It is hot"));
+    EXPECT_TRUE(file.files.value("camera-3.log").endsWith("\nAlert: \"It is\\nhot\"\n"));
 }
 
 TEST(SupportFile, LeavesNothingBehindWhereItCannotBeWritten) {

@@ -107,7 +107,7 @@ QImage AppWindows::currentImage() const {
 
 // With `addHostState` this writes what `supportFileContents` has promised the user.
 void AppWindows::addToSupportFile(ZebSupportFile& file) const {
-    file.files.insert(QStringLiteral("operation.log"), m_log.since(0).join(QLatin1Char('\n')).toUtf8());
+    file.files.insert(QStringLiteral("operation.log"), m_log.prefixed().join(QLatin1Char('\n')).toUtf8());
     if (QWidget* window = m_host.getMainWindow())
         file.files.insert(QStringLiteral("viewer.png"), pngOf(window->grab().toImage()));
     for (PLG_Interface* plugin : m_host.appStatus().plugins()) {

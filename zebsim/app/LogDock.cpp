@@ -7,6 +7,7 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QPlainTextEdit>
+#include <QScrollBar>
 #include <QTabWidget>
 
 namespace {
@@ -16,6 +17,14 @@ constexpr int ShownLines = 2000;
 QString asLine(const QString& call, const QVariantList& args) {
     const QByteArray list = QJsonDocument(QJsonArray::fromVariantList(args)).toJson(QJsonDocument::Compact);
     return call % QLatin1Char('(') % QString::fromUtf8(list.mid(1, list.size() - 2)) % QLatin1Char(')');
+}
+
+/// A view that stands at its end stays there, also when a lower bar takes room of it.
+void stayAtEnd(QScrollBar& bar) {
+    QObject::connect(&bar, &QScrollBar::rangeChanged, &bar, [&bar, end = bar.maximum()](int, int maximum) mutable {
+        if (bar.value() >= end) bar.setValue(maximum);
+        end = maximum;
+    });
 }
 
 }  // namespace
@@ -40,5 +49,6 @@ QPlainTextEdit* LogDock::makeView() {
     view->setReadOnly(true);
     view->setMaximumBlockCount(ShownLines);
     view->setLineWrapMode(QPlainTextEdit::NoWrap);
+    stayAtEnd(*view->verticalScrollBar());
     return view;
 }

@@ -1,5 +1,7 @@
 #include "LogStore.h"
 
+#include "host/OneLine.h"
+
 #include <QDateTime>
 
 #include <cstdio>
@@ -43,8 +45,21 @@ void LogStore::handle(QtMsgType type, const QMessageLogContext& context, const Q
 
 void LogStore::add(QtMsgType type, const QString& text) {
     const QString time = QDateTime::currentDateTime().toString(QStringLiteral("yyyy-MM-dd HH:mm:ss.zzz"));
-    const QString prefixed = time % QLatin1Char(' ') % levelName(type) % QLatin1Char(' ') % text;
-    m_lines.add(text);
-    if (type != QtDebugMsg && type != QtInfoMsg) std::fprintf(stderr, "%s\n", qPrintable(prefixed));
-    Q_EMIT added(prefixed);
+    const Line line{time % QLatin1Char(' ') % levelName(type) % QLatin1Char(' '), inOneLine(text)};
+    const QString whole = line.prefix % line.text;
+    m_lines.add(line);
+    if (type != QtDebugMsg && type != QtInfoMsg) std::fprintf(stderr, "%s\n", qPrintable(whole));
+    Q_EMIT added(whole);
+}
+
+QStringList LogStore::since(quint64 mark) const {
+    QStringList texts;
+    for (const Line& line : m_lines.since(mark)) texts << line.text;
+    return texts;
+}
+
+QStringList LogStore::prefixed() const {
+    QStringList lines;
+    for (const Line& line : m_lines.since(0)) lines << line.prefix % line.text;
+    return lines;
 }

@@ -20,16 +20,24 @@ public:
 
     /// Number of lines ever added; a mark for `since`.
     quint64 count() const { return m_lines.count(); }
-    /// The lines after the mark, as they were logged.
-    QStringList since(quint64 mark) const { return m_lines.since(mark); }
+    /// The lines after the mark, as they were logged. What is logged is one line, whatever stands in it.
+    QStringList since(quint64 mark) const;
+    /// All lines that are kept, each with its time and level.
+    QStringList prefixed() const;
 
 Q_SIGNALS:
-    /// `prefixed` is the line with its time and level; raised on the thread that logged.
+    /// As in `prefixed`; raised on the thread that logged.
     void added(const QString& prefixed);
 
 private:
     static void handle(QtMsgType type, const QMessageLogContext& context, const QString& text);
     void add(QtMsgType type, const QString& text);
 
-    Ring<QString> m_lines{Capacity};
+    struct Line {
+        /// Time and level, with the blank behind them.
+        QString prefix;
+        QString text;
+    };
+
+    Ring<Line> m_lines{Capacity};
 };

@@ -107,7 +107,7 @@ void SaveDesk::askToCancel() {
 void SaveDesk::finish() {
     for (const SaveOutcome& outcome : m_job->outcomes()) {
         const QString text = outcomeText(outcome, m_job->orders());
-        outcome.end == SaveOutcome::Saved ? qInfo("%s", qUtf8Printable(text)) : qWarning("%s", qUtf8Printable(text));
+        (outcome.end == SaveOutcome::Saved ? qInfo() : qWarning()) << text;
     }
     m_host.updates().request();
     // A plug-in that has asked while images were saved has not started its timer.

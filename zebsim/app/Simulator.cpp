@@ -14,6 +14,7 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QMdiArea>
+#include <QtDebug>
 
 namespace {
 
@@ -75,13 +76,13 @@ void Simulator::chooseLanguage(const QString& wanted) {
     const QString stored = m_host.prefs().value(QStringLiteral("env/language")).toString();
     const QString language = wanted.isEmpty() ? stored : wanted;
     if (!language.isEmpty() && !m_host.setLanguage(language))
-        qWarning("There is no catalogue for the language %s.", qPrintable(language));
+        qWarning() << "There is no catalogue for the language" << language;
 }
 
 void Simulator::loadPlugin(const CommandLine& line) {
     const QString beside = QDir(QCoreApplication::applicationDirPath()).filePath(QStringLiteral("wren.zeb"));
     if (line.plugin.isEmpty() && !QFileInfo::exists(beside)) {
-        qWarning("There is no plug-in at %s; the viewer runs without it.", qPrintable(beside));
+        qWarning() << "The viewer runs without a plug-in; there is none at" << beside;
         return;
     }
     const QString file = line.plugin.isEmpty() ? beside : line.plugin;

@@ -1,6 +1,7 @@
 #include "host/SupportFile.h"
 
 #include "camera/Camera.h"
+#include "host/OneLine.h"
 #include "host/SimHost.h"
 
 #include <QCoreApplication>
@@ -12,6 +13,7 @@
 #include <QScreen>
 #include <QSysInfo>
 #include <QThread>
+#include <QtDebug>
 
 #include <zip.h>
 
@@ -60,6 +62,14 @@ void close(Archive& archive) {
     static_cast<void>(archive.release());
 }
 
+QByteArray asLines(const QStringList& lines) {
+    QByteArray text;
+    for (const QString& line : lines) {
+        text += inOneLine(line).toUtf8() + '\n';
+    }
+    return text;
+}
+
 QByteArray jsonOf(const QJsonArray& list) {
     return QJsonDocument(list).toJson();
 }
@@ -83,7 +93,7 @@ QByteArray preferences(const Preferences& prefs) {
         lines.append(value.key() % QStringLiteral(" = ") % value->toString());
     }
     lines.sort();
-    return lines.join(QLatin1Char('\n')).toUtf8() + '\n';
+    return asLines(lines);
 }
 
 QByteArray machine() {
@@ -99,7 +109,7 @@ QByteArray machine() {
                          .arg(screen->geometry().height())
                          .arg(screen->devicePixelRatio()));
     }
-    return lines.join(QLatin1Char('\n')).toUtf8() + '\n';
+    return asLines(lines);
 }
 
 QByteArray versions() {
@@ -118,15 +128,15 @@ bool keepsLog(const Camera& camera) {
 QByteArray cameraLog(const Camera& camera) {
     const CameraState state = camera.state();
     QStringList lines = {
-        QStringLiteral("Camera: %1, %2, %3").arg(state.name, camera.model().name, camera.device().address()),
+        QStringLiteral("Camera: \"%1\", %2, %3").arg(state.name, camera.model().name, camera.device().address()),
         QStringLiteral("Status: %1, record state %2, %3")
             .arg(state.status)
             .arg(state.recordState)
             .arg(state.connected ? QLatin1String("connected") : QLatin1String("not connected"))};
     for (const QString& alert : state.alerts) {
-        lines.append(QStringLiteral("Alert: ") % alert);
+        lines.append(QStringLiteral("Alert: \"%1\"").arg(alert));
     }
-    return lines.join(QLatin1Char('\n')).toUtf8() + '\n';
+    return asLines(lines);
 }
 
 }  // namespace
@@ -154,7 +164,7 @@ bool writeSupportFile(const QString& path, const ZebSupportFile& file) {
         close(archive);
         return true;
     } catch (const std::exception& e) {
-        qCritical("The support file %s can't be written: %s", qUtf8Printable(path), e.what());
+        qCritical() << "The support file" << path << "can't be written:" << e.what();
         return false;
     }
 }
