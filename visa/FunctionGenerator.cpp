@@ -71,6 +71,10 @@ QByteArray FunctionGenerator::takeError() {
     return m_errors.isEmpty() ? QByteArrayLiteral("+0,\"No error\"") : m_errors.takeFirst();
 }
 
+double FunctionGenerator::signal() const {
+    return m_values.at(settingOf("OUTP")) == "1" ? m_values.at(settingOf("FREQ")).toDouble() : 0;
+}
+
 void FunctionGenerator::reset() {
     m_values.clear();
     for (const GeneratorSetting& setting : GeneratorSetting::all())

@@ -18,6 +18,8 @@ public:
     void setReply(const QByteArray& reply) { m_reply = reply; }
     /// The answer to the last question, once; empty when there is none, which is an error.
     QByteArray reply();
+    /// Hertz of what it puts out, 0 while its output is off.
+    double signal() const;
     /// Forgets the answer.
     void clear() { m_reply.clear(); }
 

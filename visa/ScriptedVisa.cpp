@@ -104,13 +104,21 @@ void ScriptedVisa::replaceScript(const QByteArray& json) {
     m_counts.clear();
     m_generator = FunctionGenerator();
     if (!behaviour.identity.isNull()) m_generator.setIdentity(behaviour.identity);
-    if (behaviour.frequency) m_generator.take("FREQ " + QByteArray::number(*behaviour.frequency));
+    if (behaviour.frequency) m_generator.take("FREQ " + QByteArray::number(*behaviour.frequency) + "\nOUTP ON");
     m_released.notify_all();
 }
 
 QStringList ScriptedVisa::takeJournal() {
     const Lock lock(m_mutex);
     return std::exchange(m_journal, {});
+}
+
+int ScriptedVisa::signal() {
+    const Lock lock(m_mutex);
+    if (m_scriptCount == 0 && m_lastSession == 0) return -1;
+    const VisaBehaviour::Call opening = m_behaviour.calls.value("viOpen");
+    const bool isOff = opening.status != visastatus::Success && m_counts["viOpen"] + 1 >= opening.from;
+    return isOff ? 0 : qRound(m_generator.signal());
 }
 
 void ScriptedVisa::release() {

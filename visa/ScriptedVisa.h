@@ -28,6 +28,7 @@ public:
     /// See `VisaScript.h`. Throws `std::runtime_error` when the script is not understood.
     void replaceScript(const QByteArray& json);
     QStringList takeJournal();
+    int signal();
     void release();
 
 private:

@@ -74,6 +74,10 @@ VISA_CALL const char* visaJournal() {
     return journal.constData();
 }
 
+VISA_CALL int visaSignal() {
+    return ScriptedVisa::instance().signal();
+}
+
 VISA_CALL void visaRelease() {
     ScriptedVisa::instance().release();
 }

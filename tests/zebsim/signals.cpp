@@ -96,6 +96,8 @@ TEST_F(Signals, ASearchConnectsTheHubsThatAnswer) {
 }
 
 TEST_F(Signals, CamerasSeeTheSignalThatTheyWereSynchronisedWith) {
+    int generator = -1;
+    test.host.syncSignal().setGenerator([&] { return generator; });
     const struct {
         const char* what;
         Handover how;
@@ -108,6 +110,9 @@ TEST_F(Signals, CamerasSeeTheSignalThatTheyWereSynchronisedWith) {
         {"one of which nobody knows the frequency", external(-1), {}, "No Sync"},
         {"a generator wins over the hubs", {zeb::SyncPortHub, true, true, 2000}, {}, "Over Sync"},
         {"the camera gets slower", external(1000), [&] { test.camera(2).setRecordRate(500); }, "Over Sync"},
+        {"the generator is switched on later", external(-1), [&] { generator = 1000; }, "Sync In"},
+        {"it is set faster", external(1000), [&] { generator = 1001; }, "Over Sync"},
+        {"it is switched off", external(1000), [&] { generator = 0; }, "No Sync"},
         {"a hub", throughHubs, {}, "Sync In"},
         {"the hub gets another frequency", throughHubs,
          [&] {
@@ -145,6 +150,7 @@ TEST_F(Signals, CamerasSeeTheSignalThatTheyWereSynchronisedWith) {
     for (const auto& row : cases) {
         test.host.setRig(Rig::fromFile(QStringLiteral("sync")));
         for (const DOCKEY key : {1, 2}) test.camera(key).set(&CameraState::connected, true);
+        generator = -1;
         synchronise({1, 2}, row.how);
         if (row.later) row.later();
         EXPECT_EQ(status(2), row.status) << row.what;

@@ -16,6 +16,8 @@
 #include <QMdiArea>
 #include <QtDebug>
 
+#include <dlfcn.h>
+
 namespace {
 
 const QString FirstRig = QStringLiteral("eight-mixed");
@@ -25,9 +27,23 @@ Rig rigOf(const CommandLine& line) {
     return Rig::fromFile(line.rig.isEmpty() ? FirstRig : line.rig);
 }
 
+/// Of the scripted VISA library, as `SyncSignal::setGenerator` takes it. Whoever uses that has loaded it; to load it
+/// here would bring a generator that nobody has.
+int generatorSignal() {
+    static const QByteArray path =
+        QFile::encodeName(QDir(QCoreApplication::applicationDirPath()).filePath(QStringLiteral("visa64.dll")));
+    void* library = dlopen(path.constData(), RTLD_LAZY | RTLD_NOLOAD);
+    if (library == nullptr) return -1;
+    const auto signal = reinterpret_cast<int (*)()>(dlsym(library, "visaSignal"));
+    const int hertz = signal != nullptr ? signal() : -1;
+    dlclose(library);
+    return hertz;
+}
+
 }  // namespace
 
 Simulator::Simulator(const CommandLine& line) : m_host(m_clock, m_boxes, line.prefs) {
+    m_host.syncSignal().setGenerator(generatorSignal);
     chooseLanguage(line.language);
     m_host.setRig(rigOf(line));
     if (!line.style.isEmpty()) m_host.prefs().setValue(QStringLiteral("env/style"), line.style);

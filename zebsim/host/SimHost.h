@@ -64,6 +64,7 @@ public:
     Preferences& prefs() { return m_prefs; }
     const Preferences& prefs() const { return m_prefs; }
     StatusFlags& flags() { return m_flags; }
+    SyncSignal& syncSignal() { return m_syncSignal; }
     HostEvents& events() { return m_events; }
     UpdateCycle& updates() { return m_updates; }
 

@@ -22,7 +22,12 @@ int SyncSignal::frequencyOf(const QString& source, const Camera& camera) const {
     if (source == QLatin1String(SyncSource::Chain)) {
         return rateOf(camera.get(&CameraState::syncMaster));
     }
-    return source == QLatin1String(SyncSource::Hub) ? m_hubs.signal() : camera.get(&CameraState::syncFrequency);
+    return source == QLatin1String(SyncSource::Hub) ? m_hubs.signal() : externalFrequency(camera);
+}
+
+int SyncSignal::externalFrequency(const Camera& camera) const {
+    const int now = m_generator();
+    return now < 0 ? camera.get(&CameraState::syncFrequency) : now;
 }
 
 /// A master that nobody reaches gives no signal.
