@@ -1,3 +1,4 @@
+#include "Course.h"
 #include "DropDownBoxes.h"
 #include "GUI_SelectBox.h"
 #include "HostPages.h"
@@ -7,6 +8,7 @@
 #include <QApplication>
 #include <QSignalSpy>
 #include <QTest>
+#include <QWebFrame>
 #include <QWebView>
 #include <QWidget>
 
@@ -63,6 +65,33 @@ TEST(DropDownBoxes, TakeNoChoiceThatIsNoPartition) {
     EXPECT_EQ(test.camera(1).get(&CameraState::partition), 2U);
     bridge.slotNotifyPartition("3");
     EXPECT_EQ(test.camera(1).get(&CameraState::partition), 3U);
+}
+
+TEST(DropDownBoxes, BearWhatTheirPageThrows) {
+    initHostPages();
+    TestHost test(Rig::standard(1));
+    JS_Mediator_SelectBox bridge(&test.host);
+    QWebView view;
+    QWebFrame* frame = view.page()->mainFrame();
+    QObject::connect(frame, &QWebFrame::javaScriptWindowObjectCleared, &bridge, [&] {
+        frame->addToJavaScriptWindowObject("app", test.host.getAppObject());
+        frame->addToJavaScriptWindowObject("items", &bridge);
+    });
+    view.load(QUrl("qrc:/selectbox.html"));
+    ASSERT_TRUE(QSignalSpy(&view, &QWebView::loadFinished).wait());
+    for (const char* thrown : {"null", "new Error('no list')"}) {
+        frame->evaluateJavaScript(QStringLiteral("for (const name of ['show', 'setRowHeight', 'update'])"
+                                                 " selectbox[name] = () => { throw %1; };")
+                                      .arg(thrown));
+        Course log;
+        Q_EMIT bridge.signalShowPartition({"1", "2"});
+        Q_EMIT bridge.signalShowVariable("{\"ChannelInfos\": []}");
+        Q_EMIT bridge.signalShowVariableRegist("no JSON");
+        Q_EMIT bridge.signalSetHeight(20);
+        Q_EMIT bridge.update();
+        const QStringList lines = log.take();
+        EXPECT_EQ(lines.filter("[USER][ERROR]").size(), 5) << lines.join('\n').toStdString();
+    }
 }
 
 TEST(DropDownBoxes, AreNotWantedAnyMoreWhenTheListCanNotBeRead) {

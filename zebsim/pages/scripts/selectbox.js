@@ -8,12 +8,24 @@ const selectbox = {
 
     initialize() {
         this.list = document.getElementById('items');
-        items.signalShowPartition.connect(names => this.showPartitions(names));
-        items.signalShowVariable.connect(json => this.showVariables(JSON.parse(json), false));
-        items.signalShowVariableRegist.connect(json => this.showVariables(JSON.parse(json), true));
-        items.signalSetHeight.connect(height => this.setRowHeight(height));
-        items.update.connect(() => this.update());
+        this.hear('signalShowPartition', names => this.showPartitions(names));
+        this.hear('signalShowVariable', json => this.showVariables(JSON.parse(json), false));
+        this.hear('signalShowVariableRegist', json => this.showVariables(JSON.parse(json), true));
+        this.hear('signalSetHeight', height => this.setRowHeight(height));
+        this.hear('update', () => this.update());
         this.list.addEventListener('click', event => this.choose(event.target));
+    },
+
+    // An exception that left a function connected to a signal of the bridge would end the program. Anything can be
+    // thrown, null too.
+    hear(signal, work) {
+        items[signal].connect(argument => {
+            try {
+                work(argument);
+            } catch (error) {
+                items.userOperationErrorLog(signal + ': ' + (error && error.message ? error.message : error));
+            }
+        });
     },
 
     // Nobody tells of the partitions of no camera, so those of the one that has gone must not stay.
