@@ -10,6 +10,7 @@ const dropDown = {
         this.cell = cell;
         const select = document.createElement('select');
         select.className = cell.parts.select.className.replace(' SumoUnder', '');
+        select.setAttribute('data-id', cell.parts.select.id); // for the log: an id stands once in a page
         cell.choices.forEach(choice => {
             const option = document.createElement('option');
             option.value = choice.value;

@@ -29,6 +29,12 @@ function shows(expected, text) {
         `${text}: ${ranges()}`);
 }
 
+// What the user did stands in the log once, before what came of it.
+function operations(user, method, text) {
+    const lines = zeb.log().filter(line => line.includes('[USER]') || line.includes(`[ENTER] "JS_Mediator_WrenTableDialog::${method}"`));
+    check(lines.length === 2 && lines[0].includes(user) && lines[1].startsWith('[ENTER]'), `${text}: ${lines.join(' / ')}`);
+}
+
 zeb.rig('shoot.json');
 check(zeb.open(), 'the table opens');
 zeb.click('#wren_button_connection_disconnect_-1');
@@ -36,7 +42,10 @@ check(zeb.until("$('#wren-cameraInfo-list .wren_button_lockStatus_unlock:visible
 
 zeb.click('a[href="#livecontrolTab"]');
 check(zeb.until("$('.wren_livecontrol_framerate[dockey=\"8\"]').length > 0"), 'the live control tab is drawn');
+zeb.log();
 choose(-1, 'framerate', '2000');
+operations('[ID:wren_livecontrol_framerate_-1] [Control:ComboBox] [Operation:changed] [Value:2000]', 'setFrameRate',
+    'the choice stands in the log');
 check(KEYS.every(key => zeb.camera(key).rate === 2000), 'all record at 2,000 fps');
 
 zeb.click('#timeline_rec_exec');
@@ -47,7 +56,9 @@ KEYS.forEach(key => zeb.click(`#wren_cameraInfo_button_lockStatus_unlock_${key}`
 check(KEYS.every(key => zeb.camera(key).locked), 'all are locked');
 
 zeb.calls();
+zeb.log();
 zeb.click('#timeline_rec_exec');
+operations('[ID:timeline_rec_exec] [Control:Button] [Operation:clicked] [Value:]', 'record', 'so does the press that arms');
 check(zeb.until(`${STATUS} === 2`), 'all are armed');
 check(zeb.calls().filter(call => call.call === 'ZebRecorder::startRecReady').length === 1, 'by one call');
 check(zeb.page("$('#timeline_rec_exec').text()") === 'Ready', 'the button says so');

@@ -35,6 +35,9 @@ const CONTROL_STATES = {
     'HIDE-TRIGGER-TEST': 'HideTriggerTest'
 };
 
+// Buttons that act when they are pressed. By then they may be disabled, and get no click.
+const ACTS_AT_PRESS = '#timeline_rec_exec, #timeline_rec_cancel';
+
 var zeb4func = {
     // element -> { state, own }: who wants it disabled, a control state or the page itself.
     disabledBy: new WeakMap(),
@@ -245,23 +248,30 @@ var zeb4func = {
             const logged = zeb4func.loggedRoots.some(function (other) { return other.contains(root); });
             if (zeb4func.logMediator && !logged) {
                 zeb4func.loggedRoots.push(root);
-                root.addEventListener('click', function (event) { zeb4func.logOperation('clicked', event); }, true);
-                root.addEventListener('change', function (event) { zeb4func.logOperation('changed', event); }, true);
+                ['mousedown', 'click', 'change'].forEach(function (type) {
+                    root.addEventListener(type, function (event) { zeb4func.logOperation(event); }, true);
+                });
             }
         });
     },
 
-    logOperation: function (operation, event) {
+    logOperation: function (event) {
         const element = event.target.closest('a, button, input, select, textarea');
-        const control = element && zeb4func.controlName(element);
+        if (!element) {
+            return;
+        }
+        const control = zeb4func.controlName(element);
         const valued = /^(CheckBox|Radio|TextBox|ComboBox)$/.test(control);
-        if (!element || valued !== (operation === 'changed')) {
+        const done = valued ? 'change' : element.matches(ACTS_AT_PRESS) ? 'mousedown' : 'click';
+        if (event.type !== done || event.button > 0) {
             return;
         }
         const checked = control === 'CheckBox' || control === 'Radio';
         const value = valued ? (checked ? element.checked : element.value) : '';
-        zeb4func.logMediator.userOperationLogWebView(document.URL, operation, control, element.id, element.className,
-            value);
+        // What stands in for an element names it so, as the open list of a drop-down.
+        const id = element.id || element.getAttribute('data-id') || '';
+        zeb4func.logMediator.userOperationLogWebView(document.URL, valued ? 'changed' : 'clicked', control, id,
+            element.className, value);
     },
 
     controlName: function (element) {
