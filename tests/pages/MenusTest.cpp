@@ -1,9 +1,6 @@
 #include "TablePage.h"
 
 #include <QDialog>
-#include <QWebElement>
-#include <QWebFrame>
-#include <QWebView>
 
 #include <gmock/gmock.h>
 
@@ -127,7 +124,9 @@ TEST(PageMenus, ThePartitionBoxOpensAtItsButton) {
         "const spot = $('#btn-recording_partition'); const at = spot.offset();"
         "return [at.left, at.top, spot.width(), spot.height()].map(Math.round).join()");
     EXPECT_EQ(made, QStringList({"hideSelectBox", "showLivePartition " + spot}));
+    EXPECT_TRUE(page.run("wrentabledialog.isShownSelectBox()").toBool());
     page.click(".dummy");
+    EXPECT_FALSE(page.run("wrentabledialog.isShownSelectBox()").toBool());
     EXPECT_EQ(page.text(Open), " 0 false");
 
     test.host.flags().set("IsConflictPartition", true);
@@ -173,46 +172,6 @@ TEST(PagePanels, HandOnWhatIsPressed) {
         EXPECT_FALSE(page.run("$('#timeline_rec_exec').prop('disabled')").toBool()) << "and can be pressed again";
         test.host.flags().set(state, false);
     }
-}
-
-TEST(PageMenus, ThePartitionBoxForgetsACameraThatHasGone) {
-    TestHost test(Rig::standard(2));
-    connectCameras(test, 1, 2);
-    choose(test, {"1"});
-    TablePage page(test);
-    const auto rows = [&page] {
-        QStringList texts;
-        for (const QWebView* view : page.window().findChildren<QWebView*>()) {
-            for (const QWebElement& row : view->page()->mainFrame()->findAllElements("#items > li > a")) {
-                texts << row.toPlainText();
-            }
-        }
-        return texts;
-    };
-    const char* opens = "document.getElementById('btn-recording_partition').click(); return 0";
-    page.run(opens);
-    EXPECT_EQ(rows().size(), 3) << "a partition, and the way to the settings";
-    page.click(".dummy");
-    test.camera(1).change({{"connected", false}});
-    page.update();
-    page.run(opens);
-    EXPECT_EQ(rows(), QStringList());
-    page.click(".dummy");
-}
-
-TEST(PageMenus, LinksLeadToTheSettings) {
-    TestHost test(Rig::standard(2));
-    connectCameras(test, 1, 2);
-    TablePage page(test);
-    const auto clicked = [&page] {
-        page.run("probe.callsBegin(); return 0");
-        page.run("$('#wren_io_setting, #wren_ethernet_setting').click(); return 0");
-        return calls(page, "^openPrefs");
-    };
-    EXPECT_EQ(clicked(), QStringList({"openPrefsDialog s_io", "openPrefsEthernetSettings"}));
-    test.host.flags().set("IsBgSaving", true);
-    page.tick();
-    EXPECT_EQ(clicked(), QStringList()) << "they are disabled";
 }
 
 }  // namespace

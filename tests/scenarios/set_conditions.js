@@ -79,9 +79,27 @@ check(zeb.camera(1).triggerMode === 2 && zeb.camera(2).triggerMode === 2, 'the t
 
 [1, 2].forEach(key => zeb.click(`#wren_livecontrol_button_lockStatus_unlock_${key}`));
 commands();
+zeb.messages();
 choose(-1, 'framerate', '1000');
 checkCommands([`setRecordRate [[${all.slice(2)}],1000]`], 'the two that are locked are left out');
+check(zeb.messages().length === 0, 'and nobody is asked or told');
 check(shown(1, 'framerate') === '2000 fps' && shown(3, 'framerate') === '1000 fps', 'and keep their rate');
+
+// One does not take a rate, and then does not even tell the one it has.
+zeb.setCamera(3, {name: 'Gate <3>'});
+zeb.fault(3, 'setRecordRate', {throws: 'does not answer'});
+choose(3, 'framerate', '500');
+check(shown(3, 'framerate') === '1000 fps', 'its row shows the rate that it has');
+zeb.fault(3, 'setRecordRate', {});
+zeb.messages();
+zeb.fault(3, 'getRecordRate', {throws: 'does not answer'});
+check(zeb.until("$('#wren_livecontrol_alert_3').attr('alerts') === 'Gate <3>: does not answer'"), 'its row says why');
+zeb.wait(10000);
+const news = zeb.messages();
+check(news.length === 1 && news[0].answer === '' && news[0].text === 'Gate <3>: does not answer',
+    'what the ticks meet is told once and beside the work: ' + JSON.stringify(news));
+zeb.fault(3, 'getRecordRate', {});
+commands();
 
 zeb.click('#wren_button_lowlight_on_6');
 checkCommands(['setLowLight [[6],true]'], 'low light for one');
