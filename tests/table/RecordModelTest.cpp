@@ -1,7 +1,6 @@
 #include "CycleFailures.h"
 #include "TableFixture.h"
 #include "TableState.h"
-#include "camera/FaultOperations.h"
 #include "camera/FaultPlan.h"
 #include "records/NumberFormat.h"
 #include "records/RecordModel.h"
@@ -436,57 +435,6 @@ TEST_F(RecordModelTest, listsGroupsAndFindsTheOneToShow) {
     EXPECT_EQ(groupToShow("C", "B", {}), "C") << "without groups nothing is looked up";
 }
 
-/// What a row of `asked` holds although the camera did not tell it: a member that is another than in the whole row.
-QStringList untrueMembers(const QJsonObject& asked, const QJsonObject& whole, const QStringList& stand) {
-    QStringList untrue;
-    for (auto member = asked.begin(); member != asked.end(); ++member) {
-        if (!stand.contains(member.key()) && member.value() != whole.value(member.key())) {
-            untrue.append(member.key());
-        }
-    }
-    return untrue;
-}
-
-TEST_F(RecordModelTest, aCameraThatDoesNotAnswerHasARowOfWhatItToldAndLeavesTheOthersAlone) {
-    bringCamerasIntoUse();
-    giveInputsAndIrig();
-    givePlugins();
-    giveRecordings();
-    const DOCKEY failing = 7;
-    state.batchDocKey = failing;
-    int rowsWithReasons = 0;
-    for (int tab = 0; tab < 7; ++tab) {
-        host.appStatus().enterMode(tab < 5 ? zeb::LiveMode : zeb::MemoryMode);
-        const QByteArray request = R"({"tab":)" + QByteArray::number(tab) + '}';
-        const QString before = records(request.constData());
-        for (const QString& operation : cameraOperations()) {
-            SCOPED_TRACE("tab " + std::to_string(tab) + ", " + operation.toStdString());
-            host.faults().plant(failing, operation, {"no answer", 0, false});
-            const QString meanwhile = records(request.constData());
-            const bool isAsked = meanwhile != before;
-            rowsWithReasons += isAsked ? 1 : 0;
-            for (int i = 0; i < 8; ++i) {
-                const QJsonObject shown = row(meanwhile, i);
-                if (i == failing - 1 && isAsked) {
-                    EXPECT_EQ(shown.value("alert").toString(), "Impact: no answer");
-                    EXPECT_EQ(untrueMembers(shown, row(before, i), {"alert", "connected", "selected", "current"}),
-                              QStringList());
-                } else {
-                    EXPECT_TRUE(shown == row(before, i)) << "row " << i;
-                }
-            }
-            records(request.constData());
-            const QString told = failures.takeNew();
-            EXPECT_EQ(told.right(17), isAsked ? "Impact: no answer" : "") << "told once";
-            EXPECT_FALSE(told.contains('\n'));
-            host.faults().clear();
-            EXPECT_TRUE(records(request.constData()) == before) << "as it was";
-            EXPECT_TRUE(failures.isEmpty());
-        }
-    }
-    EXPECT_GT(rowsWithReasons, 80);
-}
-
 TEST_F(RecordModelTest, whatSteersARowIsReadApart) {
     bringCamerasIntoUse();
     state.groups = {{"Nozzles", {"192.168.0.13"}}};
@@ -536,14 +484,6 @@ TEST_F(RecordModelTest, aListThatCameToNothingSelectsNobodyAndTheNextOneDoes) {
     host.faults().clear();
     EXPECT_TRUE(getRecords(R"({"tab":1})").selectionChanged);
     EXPECT_TRUE(stateOf(8, "selected").toBool());
-}
-
-TEST_F(RecordModelTest, reduceModeIsSuspendedForOneOrForAny) {
-    change(5, {{"suspendReduce", true}});
-    EXPECT_TRUE(model.isSuspendReduceMode(5, failures));
-    EXPECT_FALSE(model.isSuspendReduceMode(4, failures));
-    EXPECT_FALSE(model.isSuspendReduceMode(99, failures));
-    EXPECT_TRUE(model.isSuspendReduceMode(zeb::NoDocKey, failures));
 }
 
 TEST(SyncMembersTest, inputsAreOnThePortsOfTheCamerasClass) {
