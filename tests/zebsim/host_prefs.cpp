@@ -120,23 +120,3 @@ TEST_F(Prefs, AFileThatCantBeOpenedIsToldOf) {
     EXPECT_TRUE(desk.shown.first().text.contains(path));
     EXPECT_EQ(host.getPrefInt(QStringLiteral("wren/table/interval")), 500);
 }
-
-TEST(FactoryValues, AreThoseThatTheTableNeeds) {
-    QStringList displays;
-    QStringList orders;
-    for (const QString& key : factoryValues().keys()) {
-        if (key.startsWith(QStringLiteral("wren/display/"))) {
-            EXPECT_EQ(factoryValues()[key], QVariant(true)) << key.toStdString();
-            EXPECT_FALSE(key.contains(QLatin1Char('_'))) << "pages make element ids of them";
-            displays.append(key);
-        }
-        if (key.startsWith(QStringLiteral("wren/column_order/"))) {
-            EXPECT_FALSE(factoryValues()[key].toString().endsWith(QLatin1Char(',')));
-            orders.append(key);
-        }
-    }
-    EXPECT_EQ(displays.size(), 20);
-    EXPECT_EQ(orders.size(), 7);
-    EXPECT_EQ(factoryValues()[QStringLiteral("wren/column_order/sync")],
-              QStringLiteral("lock,connectIcon,cameraName,alert,cameraStatus,sync,externalSync,triggerIn,triggerSwIn"));
-}
