@@ -66,19 +66,6 @@ TEST(PageEditing, TheSecondClickOfADoubleClickTakesNothingBack) {
     EXPECT_EQ(commands(test, page, [&] { page.run(clicks); }), QStringList{"setParamLock [2,true]"});
 }
 
-TEST(PageEditing, ABatchOfLockedRowsReachesNoCamera) {
-    TestHost test(Rig::standard(2));
-    connectCameras(test, 1, 2);
-    TablePage page(test, 1);
-    for (const DOCKEY key : {1U, 2U}) {
-        test.camera(key).set(&CameraState::locked, true);
-    }
-    // Locked a moment ago: the page has not heard of it.
-    EXPECT_EQ(commands(test, page, [&] { page.pick("-1", "framerate", "2000"); }), QStringList());
-    EXPECT_TRUE(
-        page.run("document.querySelector('.SumoSelect[dockey=\"1\"]').classList.contains('disabled')").toBool());
-}
-
 /// A control that the user touches, and what it must show when the camera did not do as it was told.
 struct Refusal {
     const char* operation;

@@ -156,15 +156,6 @@ TEST_F(SynchronisingTest, camerasThatAreNotSynchronisedAreArmedAllTheSame) {
     EXPECT_EQ(calls().filter("startRecReady"), QStringList()) << "what is told before they are handed over stops it";
 }
 
-TEST_F(SynchronisingTest, aCameraThatFailsIsToldByTheHostAndTheTableGoesOn) {
-    host.faults().plant(2, "synchronise", {"no lock on the signal", 0, false});
-    EXPECT_TRUE(bridge->setSyncSettings()) << "the cameras were handed over";
-    EXPECT_TRUE(QTest::qWaitFor([this] { return !desk.shown.isEmpty(); }));
-    ASSERT_EQ(desk.shown.size(), 1) << "the notice does not come";
-    EXPECT_TRUE(desk.texts().first().contains("Camera 2"));
-    EXPECT_TRUE(desk.texts().first().contains("no lock on the signal"));
-}
-
 TEST_F(SynchronisingTest, whileTheCamerasAreHandedOverNothingElseReachesThem) {
     host.setPrefBool("alert/setsynchronization", false);
     QSemaphore handOver;
@@ -190,18 +181,6 @@ TEST_F(SynchronisingTest, whileTheCamerasAreHandedOverNothingElseReachesThem) {
     EXPECT_FALSE(progress);
     EXPECT_TRUE(QTest::qWaitFor([this] { return !stateOf(1, "connected").toBool(); })) << "and is not lost";
     EXPECT_EQ(stateOf(1, "rate").toInt(), 1000) << "a click of the page is refused";
-}
-
-TEST_F(SynchronisingTest, withoutADriverTheGeneratorIsNotOffered) {
-    host.setPrefBool("sync/external", true);
-    host.setPrefString("sync/generator/address", "192.168.0.200");
-    Course course;
-    bridge->connectSignalGenerator();
-    EXPECT_EQ(course.take().filter("visa64.dll").size(), 1);
-    EXPECT_EQ(settings("signalGeneratorAvailable"), "[false]");
-    EXPECT_TRUE(bridge->setSyncSettings());
-    EXPECT_EQ(handedOver(), QStringList{"ZebCameraOps::syncCameras [[1,2,3],1,0,true,false,0,-1,0]"});
-    EXPECT_TRUE(desk.texts().filter("Could not connect").isEmpty());
 }
 
 TEST_F(SynchronisingTest, aListOfManyRecordsAsksTheGeneratorOnce) {

@@ -137,14 +137,4 @@ TEST_F(TableWindowTest, noCameraIsChangedBehindTheQuestion) {
     EXPECT_FALSE(stateOf(1, "connected").toBool());
 }
 
-TEST_F(TableWindowTest, aWindowOnAScreenThatIsGoneComesToTheMainScreen) {
-    host.setPrefInt("wren/table/x", 4000);
-    host.setPrefInt("wren/table/scrno", 3);
-    host.setPrefInt("wren/table/stat", Qt::WindowMaximized);
-    const GUI_WrenTableDialog& dialog = open();
-    EXPECT_EQ(dialog.size(), QSize(1200, 599));
-    EXPECT_EQ(dialog.pos(), QPoint(360, 300)) << "in the middle of 1920 by 1200";
-    EXPECT_FALSE(dialog.isMaximized());
-}
-
 }  // namespace
