@@ -7,8 +7,6 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <thread>
-
 namespace {
 
 /// What `work` throws; empty when it does not.
@@ -201,23 +199,4 @@ TEST_F(MixedCameras, OfferShutterSpeedsAsThePreferenceSays) {
     EXPECT_EQ(control.getShutterSpeedEntries().last(), QStringLiteral("200000;200 \u00b5s;2"));
     EXPECT_EQ(test.doc(5)->formatShutterSpeed(2000000, 0), QStringLiteral("2 ms"));
     EXPECT_EQ(control.getShutterSpeedList(1).indexOf(5000), control.getShutterSpeedList(2).indexOf(200000));
-}
-
-TEST(SteppedClock, BooksAWaitForEachThreadByItself) {
-    SteppedClock clock;
-    clock.advance(1000);
-    clock.wait(20);
-    clock.wait(-5);
-    qint64 seen = 0;
-    std::thread other([&] {
-        clock.wait(30);
-        clock.wait(30);
-        seen = clock.now();
-    });
-    other.join();
-    EXPECT_EQ(seen, 1060);
-    EXPECT_EQ(clock.now(), 1020);
-    EXPECT_EQ(clock.join(), 60) << "the longest, not the sum";
-    EXPECT_EQ(clock.now(), 1060);
-    EXPECT_EQ(clock.join(), 0);
 }

@@ -110,32 +110,6 @@ TEST_F(RigFile, MayBringModelsOfItsOwn) {
     EXPECT_EQ(complaint("{" + devices + "}"), QStringLiteral("x.json: devices[0].model: no model \"slow\""));
 }
 
-TEST(Rig, ShippedOnesHoldWhatTheirNamesSay) {
-    EXPECT_EQ(Rig::names(),
-              (QStringList{QStringLiteral("eight-mixed"), QStringLiteral("one"), QStringLiteral("sync")}));
-    EXPECT_EQ(Rig::fromFile(QStringLiteral("one")).devices.size(), 1);
-
-    int hidden = 0;
-    int heads = 0;
-    int twoHeaded = 0;
-    int dummies = 0;
-    int withoutLowLight = 0;
-    int withoutIrig = 0;
-    for (const RigDevice& device : Rig::fromFile(QStringLiteral("eight-mixed")).devices) {
-        if (!device.found) {
-            ++hidden;
-            continue;
-        }
-        heads += device.heads.size();
-        twoHeaded += device.heads.size() == 2;
-        dummies += device.model->dummy;
-        withoutLowLight += !device.model->dummy && !device.model->functions.contains(15);
-        withoutIrig += !device.model->dummy && !device.model->functions.contains(7);
-    }
-    EXPECT_EQ((QList<int>{heads, twoHeaded, dummies, withoutLowLight, withoutIrig}), (QList<int>{8, 1, 1, 1, 1}));
-    EXPECT_EQ(hidden, 2) << "for a search to find";
-}
-
 TEST(Rig, OfAThousandHasAnAddressForEach) {
     QSet<QString> addresses;
     const Rig rig = Rig::standard(1024);
