@@ -1,5 +1,10 @@
-#include "FaultyCall.h"
 #include "GUI_ProgressDialog.h"
+#include "JS_Mediator_WrenTableDialog.h"
+#include "PLG_wren.h"
+#include "SlotCall.h"
+#include "TableFixture.h"
+#include "camera/Camera.h"
+#include "camera/Rig.h"
 #include "support/FaultChoice.h"
 
 #include <QApplication>
@@ -13,6 +18,9 @@
 #include <climits>
 #include <functional>
 #include <iostream>
+#include <memory>
+#include <optional>
+#include <random>
 
 // Everything that a page or the host calls, with a fault at one question or command of all that it asks.
 
@@ -20,16 +28,20 @@ namespace {
 
 const QString NoAnswer = "no answer";
 
+/// What each camera is set to, by its key; a camera that is gone has no entry.
+using States = QMap<DOCKEY, QVariantMap>;
+
+class FaultyWorld;
+
 /// What is called, in the mode that it is for.
 struct Action {
-    const char* name;
+    std::string name;
     int mode;
-    std::function<void(FaultyCall&)> act;
+    std::function<void(FaultyWorld&)> act;
 };
 
 /// What the page asks in one cycle. Answers the rows.
-QJsonArray cycle(FaultyCall& call, int tab) {
-    JS_Mediator_WrenTableDialog& bridge = *call.bridge;
+QJsonArray cycle(JS_Mediator_WrenTableDialog& bridge, int tab) {
     bridge.isLiveMode();
     bridge.getRecStatus();
     bridge.getControlStatus();
@@ -51,58 +63,19 @@ QJsonArray cycle(FaultyCall& call, int tab) {
     return QJsonDocument::fromJson(rows.toUtf8())["records"].toArray();
 }
 
-QList<Action> actions() {
-    QList<Action> list;
-    for (int tab = 0; tab < 7; ++tab)
-        list.append({"a cycle", tab < 5 ? zeb::LiveMode : zeb::MemoryMode, [tab](FaultyCall& c) { cycle(c, tab); }});
-    for (const int mode : {zeb::LiveMode, zeb::MemoryMode}) {
-        list += {
-            {"onOpen", mode, [](FaultyCall& c) { c.bridge->onOpen(); }},
-            {"onClose", mode, [](FaultyCall& c) { c.bridge->onClose(); }},
-            {"the host's disconnect", mode,
-             [](FaultyCall& c) {
-                 c.bridge->connect({1, 2, 3}, false, true);
-             }},
-            {"the lists of the page's start", mode,
-             [](FaultyCall& c) {
-                 c.bridge->getGroups();
-                 c.bridge->getGroup();
-                 c.bridge->getFilter();
-                 c.bridge->getSearchAddress();
-             }},
-        };
-    }
-    list += {
-        {"record", zeb::LiveMode, [](FaultyCall& c) { c.bridge->record(); }},
-        {"trigger and stop", zeb::LiveMode,
-         [](FaultyCall& c) {
-             for (int presses = 0; presses < 3; ++presses) c.bridge->record();
-         }},
-        {"cancelRecord", zeb::LiveMode, [](FaultyCall& c) { c.bridge->cancelRecord(); }},
-        {"setSyncSettings", zeb::LiveMode, [](FaultyCall& c) { c.bridge->setSyncSettings(); }},
-        {"connectSignalDistributors", zeb::LiveMode, [](FaultyCall& c) { c.bridge->connectSignalDistributors(); }},
-        {"setSignalFrequency", zeb::LiveMode, [](FaultyCall& c) { c.bridge->setSignalFrequency(1000); }},
-        {"searchCamera", zeb::LiveMode, [](FaultyCall& c) { c.bridge->searchCamera("192.168.0.0"); }},
-        {"discoverysearch", zeb::LiveMode, [](FaultyCall& c) { c.bridge->discoverysearch(); }},
-        {"updateCamera", zeb::LiveMode, [](FaultyCall& c) { c.bridge->updateCamera(); }},
-        {"stopLive", zeb::LiveMode, [](FaultyCall& c) { c.bridge->stopLive(true); }},
-        {"updateLive", zeb::LiveMode, [](FaultyCall& c) { c.bridge->updateLive(); }},
-        {"snapShot", zeb::LiveMode, [](FaultyCall& c) { c.bridge->snapShot(1); }},
-        {"enterMemoryMode", zeb::LiveMode, [](FaultyCall& c) { c.bridge->enterMemoryMode(); }},
-        {"enterLiveMode", zeb::MemoryMode, [](FaultyCall& c) { c.bridge->enterLiveMode(); }},
-        {"save", zeb::MemoryMode, [](FaultyCall& c) { c.bridge->save(); }},
-        {"saveLayout", zeb::MemoryMode, [](FaultyCall& c) { c.bridge->saveLayout(); }},
-    };
-    return list;
-}
-
 /// Hubs and cameras on a signal from outside, recordings in all; whoever reads a warning agrees.
-class FaultyWorld : public FaultyCall {
+class FaultyWorld : public TableFixture {
 public:
-    explicit FaultyWorld(int mode) {
-        change(4, {{"locked", false}});
-        change(2, {{"lowLight", false}});
-        change(5, {{"connected", true}});
+    using TableFixture::change;
+    using TableFixture::desk;
+    using TableFixture::host;
+
+    /// With the cameras of the fixture, or with so many of the standard model.
+    explicit FaultyWorld(int mode, int standard = 0) {
+        if (standard > 0) host.setRig(Rig::standard(standard));
+        connectAll();
+        plugin.setHost(&host);
+        bridge = std::make_unique<JS_Mediator_WrenTableDialog>(&host, "wrentabledialog", &plugin);
         change(8, {{"connected", false}});
         for (const auto& [key, value] :
              std::initializer_list<std::pair<const char*, QVariant>>{{"wren/settings/syncInEnable", true},
@@ -111,7 +84,8 @@ public:
                                                                      {"sync/lport/ipaddress", "192.168.0.91"},
                                                                      {"wren/display/lock", false},
                                                                      {"wren/settings/deviceSpeedPlaying", true},
-                                                                     {"recording/area", true}})
+                                                                     {"recording/area", true},
+                                                                     {"wren/settings/triggerEnable", true}})
             host.setPref(key, value);
         for (const Camera* camera : host.cameras().all()) {
             change(camera->key(), {{"selected", true},
@@ -123,7 +97,7 @@ public:
         bridge->state().areas = {{1000, {0, 10}}};
         bridge->state().sync.frequency = 1000;
         host.appStatus().enterMode(mode);
-        cycle(*this, firstTab());
+        cycle(*bridge, firstTab());
         desk.shown.clear();
         QObject::connect(&m_user, &QTimer::timeout, [this] {
             auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
@@ -132,6 +106,30 @@ public:
             box->button(QMessageBox::Ok)->click();
         });
         m_user.start(0);
+    }
+
+    void TestBody() override {}
+
+    /// All flags of the slot are `on`.
+    void call(const QMetaMethod& method, bool on, const QVariantList& keys) {
+        const QByteArray name = method.name();
+        callSlot(*bridge, method,
+                 {{QMetaType::QVariantList, keys},
+                  {QMetaType::QString, name == "setResolution"    ? "512 x 512"
+                                       : name == "setTriggerMode" ? "3"
+                                                                  : "2000"},
+                  {QMetaType::Bool, on},
+                  {QMetaType::Int, on ? 50 : -50}});
+    }
+
+    States states() {
+        States states;
+        for (const Camera* camera : host.cameras().all()) {
+            QVariantMap state = camera->state().toPlain();
+            state.remove("triggerOffsetEnabled");  // it and the offset are set one after the other
+            states.insert(camera->key(), state);
+        }
+        return states;
     }
 
     int firstTab() const { return host.isMemoryMode() ? 5 : 0; }
@@ -153,33 +151,108 @@ public:
         return names;
     }
 
+    PLG_wren plugin;
+    std::unique_ptr<JS_Mediator_WrenTableDialog> bridge;
+
 private:
     QTimer m_user;
     QStringList m_warnings;
 };
 
-/// The end of a connection that has failed, of which the user is told, and the telling itself: a line in the log.
-bool maySayNothing(const FaultPlan::Call& call) {
-    return call.operation == "close" || call.operation == "errorHandler";
+QList<QMetaMethod> slotsWithKeys() {
+    QList<QMetaMethod> found;
+    for (const QMetaMethod& method : slotsOf(JS_Mediator_WrenTableDialog::staticMetaObject)) {
+        if (method.parameterTypes().contains("QVariantList")) found.append(method);
+    }
+    return found;
+}
+
+int modeOf(const QMetaMethod& method) {
+    const QList<QByteArray> ofMemory{"setRecordCheck", "setSelectStartFrameNo", "setSelectEndFrameNo",
+                                     "setTriggerOffset"};
+    return ofMemory.contains(method.name()) ? zeb::MemoryMode : zeb::LiveMode;
+}
+
+/// The last one shares its device with a locked head, so that the question comes where it may.
+const QVariantList Keys{1, 2, 5, 6, 3};
+
+QList<Action> actions() {
+    QList<Action> list;
+    for (int tab = 0; tab < 7; ++tab)
+        list.append(
+            {"a cycle", tab < 5 ? zeb::LiveMode : zeb::MemoryMode, [tab](FaultyWorld& c) { cycle(*c.bridge, tab); }});
+    for (const int mode : {zeb::LiveMode, zeb::MemoryMode}) {
+        list += {
+            {"onOpen", mode, [](FaultyWorld& c) { c.bridge->onOpen(); }},
+            {"onClose", mode, [](FaultyWorld& c) { c.bridge->onClose(); }},
+            {"the host's disconnect", mode,
+             [](FaultyWorld& c) {
+                 c.bridge->connect({1, 2, 3}, false, true);
+             }},
+            {"the lists of the page's start", mode,
+             [](FaultyWorld& c) {
+                 c.bridge->getGroups();
+                 c.bridge->getGroup();
+                 c.bridge->getFilter();
+                 c.bridge->getSearchAddress();
+             }},
+        };
+    }
+    list += {
+        {"record", zeb::LiveMode, [](FaultyWorld& c) { c.bridge->record(); }},
+        {"trigger and stop", zeb::LiveMode,
+         [](FaultyWorld& c) {
+             for (int presses = 0; presses < 3; ++presses) c.bridge->record();
+         }},
+        {"cancelRecord", zeb::LiveMode, [](FaultyWorld& c) { c.bridge->cancelRecord(); }},
+        {"setSyncSettings", zeb::LiveMode, [](FaultyWorld& c) { c.bridge->setSyncSettings(); }},
+        {"connectSignalDistributors", zeb::LiveMode, [](FaultyWorld& c) { c.bridge->connectSignalDistributors(); }},
+        {"setSignalFrequency", zeb::LiveMode, [](FaultyWorld& c) { c.bridge->setSignalFrequency(1000); }},
+        {"searchCamera", zeb::LiveMode, [](FaultyWorld& c) { c.bridge->searchCamera("192.168.0.0"); }},
+        {"discoverysearch", zeb::LiveMode, [](FaultyWorld& c) { c.bridge->discoverysearch(); }},
+        {"updateCamera", zeb::LiveMode, [](FaultyWorld& c) { c.bridge->updateCamera(); }},
+        {"stopLive", zeb::LiveMode, [](FaultyWorld& c) { c.bridge->stopLive(true); }},
+        {"updateLive", zeb::LiveMode, [](FaultyWorld& c) { c.bridge->updateLive(); }},
+        {"snapShot", zeb::LiveMode, [](FaultyWorld& c) { c.bridge->snapShot(1); }},
+        {"enterMemoryMode", zeb::LiveMode, [](FaultyWorld& c) { c.bridge->enterMemoryMode(); }},
+        {"enterLiveMode", zeb::MemoryMode, [](FaultyWorld& c) { c.bridge->enterLiveMode(); }},
+        {"save", zeb::MemoryMode, [](FaultyWorld& c) { c.bridge->save(); }},
+        {"saveLayout", zeb::MemoryMode, [](FaultyWorld& c) { c.bridge->saveLayout(); }},
+    };
+    for (const QMetaMethod& method : slotsWithKeys()) {
+        for (const bool on : {true, false}) {
+            list.append({method.methodSignature().toStdString() + (on ? " on" : " off"), modeOf(method),
+                         [method, on](FaultyWorld& c) {
+                             c.change(4, {{"locked", true}});
+                             c.call(method, on, Keys);
+                         }});
+        }
+    }
+    return list;
+}
+
+/// The end of a connection that has failed, of which the user is told, and the telling itself: a line in the log. So is
+/// what a mere question meets.
+bool maySayNothing(const Action& action, const FaultPlan::Call& call) {
+    return call.operation == "close" || call.operation == "errorHandler" || action.name.find("confirmDis") == 0;
 }
 
 void expectWholeCycle(FaultyWorld& world) {
     const int tab = world.firstTab();
     for (int i = 0; i < 3; ++i) world.bridge->cycleFailures().nextCycle();
-    EXPECT_EQ(cycle(world, tab).size(), world.host.docManager().getDocKeys().size());
+    EXPECT_EQ(cycle(*world.bridge, tab).size(), world.host.docManager().getDocKeys().size());
     EXPECT_TRUE(world.bridge->cycleFailures().isEmpty());
     EXPECT_EQ(world.told(), QStringList());
 }
 
-QVector<FaultPlan::Call> callsOf(const Action& action) {
-    FaultyWorld world(action.mode);
-    world.host.faults().plantAt(INT_MAX, {});
-    action.act(world);
-    return world.host.faults().calls();
-}
-
 int tryFaults(const Action& action) {
-    const QVector<FaultPlan::Call> calls = callsOf(action);
+    std::optional<FaultyWorld> whole(action.mode);
+    const States before = whole->states();
+    whole->host.faults().plantAt(INT_MAX, {});
+    action.act(*whole);
+    const QVector<FaultPlan::Call> calls = whole->host.faults().calls();
+    const States after = whole->states();
+    whole.reset();
     const QList<int> numbers = callsToFail(calls);
     for (const int n : numbers) {
         const FaultPlan::Call& call = calls[n - 1];
@@ -190,10 +263,17 @@ int tryFaults(const Action& action) {
         world.host.faults().plantAt(n, {NoAnswer, 0, false});
         EXPECT_NO_THROW(action.act(world));
         const QStringList told = world.told();
-        EXPECT_TRUE(told.size() == 1 || (told.isEmpty() && maySayNothing(call))) << told.join('\n').toStdString();
+        EXPECT_TRUE(told.size() == 1 || (told.isEmpty() && maySayNothing(action, call)))
+            << told.join('\n').toStdString();
         // Cameras are armed side by side, so that another one may have met the fault.
         if (call.key <= 8 && call.operation != "arm") {
-            EXPECT_TRUE(told.join("").contains(world.host.cameras().find(call.key)->name()));
+            EXPECT_TRUE(told.join("").contains(world.host.cameras().find(call.key)->name()) || told.isEmpty());
+        }
+        const States states = world.states();
+        for (const QVariant& key : action.name.find("(QVariantList") != std::string::npos ? Keys : QVariantList()) {
+            const QVariantMap state = states.value(key.toUInt());
+            EXPECT_TRUE(state == before.value(key.toUInt()) || state == after.value(key.toUInt()))
+                << "camera " << key.toInt() << " stands as it was or as it was to be";
         }
         world.host.faults().clear();
         EXPECT_FALSE(world.bridge->isInCall());
@@ -215,5 +295,54 @@ TEST_P(FaultyActions, FailAtAnyCallAndNothingElseDoes) {
 }
 
 INSTANTIATE_TEST_SUITE_P(All, FaultyActions, testing::Range(0, int(actions().size())));
+
+/// What becomes of many cameras when a slot is called for all of them: the commands that each got, and its state.
+struct Outcome {
+    QMap<DOCKEY, int> commands;
+    States states;
+    QStringList told;
+    QVector<FaultPlan::Call> calls;
+};
+
+constexpr DOCKEY Crowd = 64;
+
+Outcome outcomeOf(const QMetaMethod& method, bool on, const QVector<FaultPlan::Call>& vanishing) {
+    FaultyWorld world(modeOf(method), int(Crowd));
+    world.host.faults().plantAt(INT_MAX, {});
+    for (const FaultPlan::Call& call : vanishing) world.host.faults().plant(call.key, call.operation, {{}, 0, true});
+    QVariantList keys;
+    for (DOCKEY key = 1; key <= Crowd; ++key) keys.append(key);
+    const quint64 mark = world.host.journal().count();
+    world.call(method, on, keys);
+    Outcome outcome{{}, world.states(), world.desk.texts(), world.host.faults().calls()};
+    for (const QVariant& entry : world.host.journal().since(mark)) {
+        const QVariant asked = entry.toMap()["args"].toList().value(0);
+        for (const QVariant& key : asked.type() == QVariant::List ? asked.toList() : QVariantList{asked})
+            ++outcome.commands[key.toUInt()];
+    }
+    return outcome;
+}
+
+TEST(FaultyCrowd, TheOthersGetTheirCommandsWhenSomeVanishInTheMidstOfACall) {
+    std::mt19937 random(1);
+    for (const QMetaMethod& method : slotsWithKeys()) {
+        for (const bool on : {true, false}) {
+            SCOPED_TRACE(method.methodSignature().toStdString() + (on ? " on" : " off"));
+            const Outcome whole = outcomeOf(method, on, {});
+            QVector<FaultPlan::Call> vanishing;
+            while (vanishing.size() < int(Crowd) / 8) {
+                const FaultPlan::Call& call = whole.calls.at(int(random() % unsigned(whole.calls.size())));
+                if (call.key <= Crowd) vanishing.append(call);
+            }
+            const Outcome outcome = outcomeOf(method, on, vanishing);
+            EXPECT_LT(outcome.states.size(), int(Crowd));
+            for (auto state = outcome.states.begin(); state != outcome.states.end(); ++state) {
+                EXPECT_EQ(state.value(), whole.states.value(state.key())) << "camera " << state.key();
+                EXPECT_EQ(outcome.commands[state.key()], whole.commands[state.key()]) << "camera " << state.key();
+            }
+            EXPECT_EQ(outcome.told, whole.told) << "nobody is told of a camera that is gone";
+        }
+    }
+}
 
 }  // namespace
