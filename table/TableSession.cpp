@@ -16,7 +16,6 @@
 #include <QDebug>
 
 #include <algorithm>
-#include <utility>
 
 void TableSession::open() {
     m_state.group = QLatin1String(UnreadGroup);
@@ -34,6 +33,14 @@ void TableSession::takeAllConnected() {
         m_state.savedRecAllConnected = m_host.getPrefBool(RecAllConnectedPref);
     }
     m_host.setPrefBool(RecAllConnectedPref, true);
+}
+
+/// What could not be stored is held for the next closing.
+void TableSession::giveBackAllConnected() {
+    if (m_state.savedRecAllConnected) {
+        m_host.setPrefBool(RecAllConnectedPref, *m_state.savedRecAllConnected);
+        m_state.savedRecAllConnected.reset();
+    }
 }
 
 DocList TableSession::connected() {
@@ -77,9 +84,7 @@ void TableSession::close() {
         m_failures.attempt([this] { m_host.setPrefInt(QStringLiteral("wren/table/filter"), m_state.filter); });
         m_failures.attempt([this] { m_host.setPrefString(QStringLiteral("wren/table/group"), m_state.group); });
     }
-    if (const auto saved = std::exchange(m_state.savedRecAllConnected, std::nullopt)) {
-        m_failures.attempt([this, saved] { m_host.setPrefBool(RecAllConnectedPref, *saved); });
-    }
+    m_failures.attempt([this] { giveBackAllConnected(); });
     clearLocks(true);
     m_failures.attempt([this] { clearRecordChecks(m_host, m_failures); });
     m_failures.rethrow();

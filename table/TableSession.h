@@ -21,6 +21,7 @@ public:
 private:
     /// From now on a recording takes all connected cameras.
     void takeAllConnected();
+    void giveBackAllConnected();
     void loadDefaultSettings();
     void connectSignalSources();
     void clearLocks(bool recordingToo);
