@@ -28,6 +28,7 @@ void called(const char* operation, bool mayThrow) {
 }
 
 OtherHost::OtherHost() {
+    EXPECT_FALSE(current) << "one at a time is called";
     current = this;
     initHostPages();
     prepareModes();
@@ -47,7 +48,7 @@ OtherHost::~OtherHost() {
     unload();
     QCoreApplication::processEvents();  // what the plug-in still had to clear away
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    if (current == this) current = nullptr;
+    current = nullptr;
 }
 
 void OtherHost::load() {
@@ -85,16 +86,23 @@ QString OtherHost::run(const QString& script) {
     return view ? view->page()->mainFrame()->evaluateJavaScript(script).toString() : QString();
 }
 
-QStringList OtherHost::rows() {
-    const QString rows =
-        run(QStringLiteral("TABS.map((tab, number) => {"
-                           "    $('#tabs').tabs('option', 'active', number);"
-                           "    const drawn = document.querySelectorAll(`#grid_${tab.gridName}_records tr[recid]`);"
-                           "    return Array.from(drawn, row => `${tab.name} ${row.innerHTML}`).join('\\n');"
-                           "}).join('\\n')"));
-    run(QStringLiteral("void $('#tabs').tabs('option', 'active', 0)"));
+void OtherHost::show(int tab) {
+    run(QStringLiteral("void $('#tabs').tabs('option', 'active', %1)").arg(tab));
     update();
-    return rows.split(QLatin1Char('\n'));
+}
+
+QStringList OtherHost::rows() {
+    QStringList rows;
+    for (int tab = 0; tab < Tabs; ++tab) {
+        show(tab);
+        rows +=
+            run(QStringLiteral("Array.from(document.querySelectorAll(`#grid_${TABS[%1].gridName}_records tr[recid]`),"
+                               "           row => `${TABS[%1].name} ${row.innerHTML}`).join('\\n')")
+                    .arg(tab))
+                .split(QLatin1Char('\n'));
+    }
+    show(0);
+    return rows;
 }
 
 void OtherHost::rest() {
@@ -127,7 +135,9 @@ void OtherHost::prepareModes() {
         return name == QLatin1String("wren") ? plugin.get() : nullptr;
     };
     appStatusPart.onClosePlugin = [this](const QString& name) {
-        if (plugin && plugin->getName() == name) plugin->deactivate();
+        const bool isWren =
+            QString(name) == QLatin1String("wren");  // read here, as a host may that has destroyed the plug-in
+        if (isWren && plugin) plugin->deactivate();
     };
 }
 
@@ -229,7 +239,7 @@ void OtherHost::preparePrefs() {
              {QStringLiteral("wren/column_order/cameraInfo"), QStringLiteral("cameraName,lock,comment")},
              {QStringLiteral("wren/settings/done"), true},
              {QStringLiteral("wren/table/h"), 700},
-             {QStringLiteral("wren/table/interval"), 5},
+             {QStringLiteral("wren/table/interval"), 7},
              {QStringLiteral("wren/table/w"), 1300}};
     onGetPref = [this](const QString& key, const QVariant& value) { return pref(key, value); };
     onGetPrefInt = [this](const QString& key, const QVariant& value) { return pref(key, value).toInt(); };

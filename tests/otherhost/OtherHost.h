@@ -18,6 +18,8 @@
 /// pages. It has three cameras. What is not told here it answers with nothing.
 class OtherHost : public OtherZebHost {
 public:
+    static constexpr int Tabs = 7;
+
     struct Camera {
         OtherDOC_Interface doc;
         struct State {
@@ -43,6 +45,7 @@ public:
     void update();
     /// The value of a script in the table's page, as text; empty without a page.
     QString run(const QString& script);
+    void show(int tab);
     bool hasPage() { return run(QStringLiteral("!wrentabledialog_obj.initialize")) == QLatin1String("true"); }
     /// The rows of each tab, as they stand in the page, which is left on the first.
     QStringList rows();
