@@ -9,8 +9,9 @@
 
 /// Settings and state of a camera. GUI thread.
 ///
-/// A getter answers what the camera has, not what was asked of it. The integers that a getter takes are the
-/// host's; callers pass what the contract tells.
+/// A getter answers what the camera has, not what was asked of it. `mode` and `head` are the host's: a getter is called
+/// with 1 and 0, but `getCameraName` with 0 too, and `getPartitionCount`, `applyPartition` and `eraseRecordedData` with
+/// `mode` 0.
 class DOC_Control {
 public:
     virtual ~DOC_Control() = default;

@@ -17,16 +17,30 @@ class ZebPageBridge;
 
 /// A plug-in as the host sees it. GUI thread.
 ///
-/// The order of the operations is the contract: the host calls them by their place. Those whose purpose is the
-/// host's alone are called `reserved`. Signals are raised by name (`QMetaObject::invokeMethod`): `signalRecord`,
-/// `signalSaveFile`, `signalSaveLayout`, `signalEndRecording`, `signalDisconnect`, `signalStartAutoUpdate`,
-/// `signalStopAutoUpdate`, and `signalScreenShot(QString)`, which waits for the GUI thread and so must be raised
-/// from another one, by a direct call.
+/// The host calls the operations by their place, so their order stays as it is. Those whose purpose is the host's alone
+/// are called `reserved`. Signals are raised by name (`QMetaObject::invokeMethod`): `signalRecord`, `signalSaveFile`,
+/// `signalSaveLayout`, `signalEndRecording`, `signalDisconnect`, `signalStartAutoUpdate`, `signalStopAutoUpdate`, and
+/// `signalScreenShot(QString)`, which waits for the GUI thread and so must be raised from another one, by a direct
+/// call.
+///
+/// What a host calls, in this order: `setHost`; to open, `prepareOpen`, `activate`, `getDialog(true)` and `showDialog`,
+/// of which each may throw and end the opening; at every update cycle `updateDialog`; to close, `closeDialog`, which
+/// may ask the user. When the dialog has closed, by whomever, the plug-in calls `ZebAppStatus::closePlugin`, and the
+/// host answers with `deactivate`. A dialog that was closed is kept, and opened again in the same way.
+///
+/// The host's boxes and dialogs are modal for the application. What changes cameras is refused while the plug-in waits
+/// for one; a user who reached the table beneath it would press in vain.
+///
+/// A host may destroy the plug-in from its event loop and in any call of the plug-in that runs one: boxes, dialogs,
+/// searches, connecting, saving, changes of mode. Also where it stores a preference and where it hears of the plug-in:
+/// `setWrenRunning`, `notifyPluginShown`, `notifyPluginClosed`, `openPlugin`, `closePlugin`. From then on `getPlugin`
+/// answers null. What the plug-in can't clear away beneath such a call it clears away when the event loop is back;
+/// until then host and documents must live.
 class PLG_Interface : public QObject {
 public:
     using NoHandle = QPair<DOC_Interface*, int>;
 
-    /// Called once, before any other use.
+    /// Called once, before any other use. The host outlives the plug-in.
     virtual void setHost(ZebHost* host) = 0;
     virtual void closeByType() = 0;
     virtual void updatePanel() = 0;
@@ -35,6 +49,7 @@ public:
     virtual void reserved3() = 0;
     /// Text of the plug-in's page; empty when it has none.
     virtual QString getPageHtml() = 0;
+    /// The plug-in is being opened, and has been closed.
     virtual void activate() = 0;
     virtual void deactivate() = 0;
 
@@ -109,8 +124,10 @@ public:
     /// The plug-in's dialog, made when `create` says so; null when there is none, and while it is being made, which
     /// may run an event loop. Owned by the plug-in.
     virtual QDialog* getDialog(bool create) = 0;
+    /// Does nothing unless the dialog is hidden or minimised.
     virtual void showDialog() = 0;
     virtual void hideDialog() = 0;
+    /// Asks the user, unless the host itself is closing. A dialog whose page waits for something closes after that.
     virtual void closeDialog() = 0;
     /// Part of an update cycle; `mode` as in `isAvailableInMode`.
     virtual void updateDialog(int mode) = 0;

@@ -5,12 +5,13 @@
 class DOC_Interface;
 class PLG_Interface;
 
-/// Plug-ins, modes and status flags of the host. GUI thread.
+/// Plug-ins, modes and status flags of the host. GUI thread. `PLG_Interface` tells what a host may do to a plug-in in
+/// these calls.
 class ZebAppStatus {
 public:
     virtual ~ZebAppStatus() = default;
 
-    /// The plug-in of that name; null when none is loaded. Does not throw.
+    /// The plug-in of that name; null when none is loaded, and once its destruction has begun. Does not throw.
     virtual PLG_Interface* getPlugin(const QString& name) const = 0;
     /// The plug-in that works on the images now; null when there is none. Does not throw.
     virtual PLG_Interface* getCurrentPlugin() const = 0;
@@ -20,6 +21,7 @@ public:
     virtual bool isPluginEnabledFor(const QString& name, DOC_Interface* doc) const = 0;
     /// Opens the plug-in, or the panel of the image plug-in, of that name. Throws when there is none.
     virtual void openPlugin(const QString& name) = 0;
+    /// Ends the use of the plug-in, by `PLG_Interface::deactivate`; a dialog that has closed asks for it.
     virtual void closePlugin(const QString& name) = 0;
     /// No plug-in works on the images any more; its panel stays.
     virtual void clearCurrentPlugin() = 0;
@@ -29,7 +31,7 @@ public:
     /// Whether the camera table is in use. Does not throw.
     virtual void setWrenRunning(bool running) = 0;
     virtual bool isWrenRunning() const = 0;
-    /// Told when the dialog of a plug-in was shown or became active, and when it was closed. Do not throw.
+    /// Told when the dialog of a plug-in is shown or has become active, and when it is about to close. Do not throw.
     virtual void notifyPluginShown(PLG_Interface* plugin) = 0;
     virtual void notifyPluginClosed(PLG_Interface* plugin) = 0;
 

@@ -9,7 +9,8 @@ class QObject;
 /// The camera documents of the host. GUI thread.
 ///
 /// Lists of keys are in the order in which the host shows its cameras. A key whose camera is gone is taken by
-/// every operation and has no effect. The last integers are the host's; callers pass what the contract tells.
+/// every operation and has no effect. `mode`, `order` and `kind` are the host's and called with 0, but with 1 in
+/// `getDoc`, `setCurrentDoc`, `isConflictPartition`, `refreshDocList` and `toolBegin`.
 class ZebDocManager {
 public:
     virtual ~ZebDocManager() = default;

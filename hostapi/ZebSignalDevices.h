@@ -25,7 +25,7 @@ public:
 
     /// Ends the connections to all hubs.
     virtual void close() = 0;
-    /// `mode` and the arguments of the search are the host's; callers pass what the contract tells.
+    /// `mode` and the arguments of the search are the host's: 1, and `kind` 3 with `mode` 1.
     virtual void open(int mode) = 0;
     /// Connects the hubs that answer, and tells how many did.
     virtual int search(int kind, int mode) = 0;
