@@ -116,8 +116,7 @@ TEST(PageCells, ShowTheImagePlugins) {
 }
 
 TEST(PageCells, TakeAnyNameForAPlugin) {
-    TestHost test(Rig::standard(1));
-    connectCameras(test, 1, 1);
+    TestHost test(connected(1));
     TablePage page(test, 4);
     page.run(R"js(
         views[4].newest.get('1').plugins =

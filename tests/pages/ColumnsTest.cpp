@@ -8,8 +8,7 @@ const char* Order = "wren/column_order/cameraInfo";
 const char* FirstRow = "probe.cells(probe.drawn()[0])";
 
 TEST(PageColumns, FollowAnOrderThatWasStoredBehindThePage) {
-    TestHost test(Rig::standard(3));
-    connectCameras(test, 1, 3);
+    TestHost test(connected(3));
     TablePage page(test);
     EXPECT_EQ(page.list("probe.captions()").mid(0, 4), QStringList({"Lock", "", "Camera name", "Alert"}));
     struct Case {
@@ -45,8 +44,7 @@ TEST(PageColumns, FollowAnOrderThatWasStoredBehindThePage) {
 }
 
 TEST(PageColumns, AreHiddenByTheirDisplayKeyAndKeepTheirPlace) {
-    TestHost test(Rig::standard(3));
-    connectCameras(test, 1, 3);
+    TestHost test(connected(3));
     test.host.prefs().setValue("wren/column_order/livecontrol", "alert,frameRate,cameraName,lock,sync,trigger");
     test.host.prefs().setValue("wren/display/frameRate", false);
     test.host.prefs().setValue("wren/display/lock", false);
@@ -65,8 +63,7 @@ TEST(PageColumns, AreHiddenByTheirDisplayKeyAndKeepTheirPlace) {
 
 TEST(PageColumns, AreDraggedToAnotherPlace) {
     const char* liveOrder = "wren/column_order/livecontrol";
-    TestHost test(Rig::standard(3));
-    connectCameras(test, 1, 3);
+    TestHost test(connected(3));
     test.host.prefs().setValue(liveOrder, "lock,cameraName,alert,frameRate,nonsense,trigger,resolution");
     test.host.prefs().setValue("wren/display/alert", false);
     TablePage page(test, 1);

@@ -145,8 +145,7 @@ int progressDialogs() {
 /// A page on which all can be used but "Cancel" and "OFF": nothing records, and no camera is in low light mode.
 class PageControls : public testing::Test {
 protected:
-    PageControls() : test(Rig::standard(2)) {
-        connectCameras(test, 1, 2);
+    PageControls() : test(connected(2)) {
         test.camera(1).change({{"selected", true}, {"stopLive", true}});
         page = std::make_unique<TablePage>(test);
         page->run("$('<input type=\"button\" class=\"groupButton\">').appendTo('#wrenGroupBox')");

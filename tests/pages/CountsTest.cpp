@@ -22,8 +22,7 @@ struct Size {
 };
 
 Size sizeWith(int cameras, int tab) {
-    TestHost test(Rig::standard(cameras));
-    connectCameras(test, 1, DOCKEY(cameras));
+    TestHost test(connected(cameras));
     TablePage page(test, tab);
     // What is recorded in live mode would have to be erased first.
     for (Camera* camera : test.host.cameras().all()) {
@@ -66,8 +65,7 @@ void checkHandlers(TablePage& page, const QString& refresh) {
 }
 
 TEST(PageCounts, HandlersDoNotGrowWithRefreshes) {
-    TestHost test(Rig::standard(8));
-    connectCameras(test, 1, 8);
+    TestHost test(connected(8));
     TablePage page(test, 1);
     checkHandlers(page,
                   "$('.SumoSelect[dockey=\"2\"]')[0].click(); var open = $('.wren-dropdown').length;"

@@ -57,8 +57,7 @@ TEST(PageEditing, OneCallForARowAndOneForAll) {
 }
 
 TEST(PageEditing, TheSecondClickOfADoubleClickTakesNothingBack) {
-    TestHost test(Rig::standard(3));
-    connectCameras(test, 1, 3);
+    TestHost test(connected(3));
     TablePage page(test, 1);
     const char* clicks = R"(['unlock', 'lock'].forEach((word, index) => document
         .getElementById(`wren_livecontrol_button_lockStatus_${word}_2`)
@@ -115,8 +114,7 @@ TEST(PageEditing, ARefusedChangeShowsWhatTheCameraAnswers) {
               "$('[id^=wren_button_connection_][dockey=1]:visible')[0].id", "wren_button_connection_connect_1"},
          }) {
         SCOPED_TRACE(std::string(c.operation) + (c.clamped ? ", clamped" : ""));
-        TestHost test(Rig::standard(2));
-        connectCameras(test, 1, 2);
+        TestHost test(connected(2));
         TablePage page(test, c.tab);
         test.camera(2).change({{"lowLight", true}});
         page.update();

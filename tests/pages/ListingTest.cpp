@@ -21,8 +21,7 @@ QString address(TestHost& test, DOCKEY key) {
 }
 
 TEST(PageListing, FollowsTheGroup) {
-    TestHost test(Rig::standard(4));
-    connectCameras(test, 1, 4);
+    TestHost test(connected(4));
     const QString hostile = "<b onclick='x'>\"Gate\" & more";
     setGroups(test, {"Ramp|" + address(test, 1), hostile + '|' + address(test, 2) + '|' + address(test, 4)});
     test.host.prefs().setValue("wren/table/group", "a group that is gone");

@@ -19,8 +19,7 @@ QStringList calls(TablePage& page, const char* names) {
 }
 
 TEST(PageMenus, CloseByAChoiceOrAClickElsewhere) {
-    TestHost test(Rig::standard(3));
-    connectCameras(test, 1, 3);
+    TestHost test(connected(3));
     TablePage page(test);
     EXPECT_EQ(page.text(Open), " 0 false");
     for (const char* way : {".dummy", "#btn-snapshot a.snapshot-clip"}) {
@@ -41,8 +40,7 @@ TEST(PageMenus, CloseByAChoiceOrAClickElsewhere) {
 }
 
 TEST(PageMenus, SaveFilesOrLayout) {
-    TestHost test(Rig::standard(2));
-    connectCameras(test, 1, 2);
+    TestHost test(connected(2));
     test.host.appStatus().enterMode(zeb::MemoryMode);
     TablePage page(test, 5);
     const auto clicked = [&page](const QString& target) {
@@ -73,8 +71,7 @@ TEST(PageMenus, SaveFilesOrLayout) {
 }
 
 TEST(PageMenus, GoWithTheirButton) {
-    TestHost test(Rig::standard(3));
-    connectCameras(test, 1, 3);
+    TestHost test(connected(3));
     TablePage page(test);
     struct Case {
         zeb::OperatingMode mode;
@@ -113,8 +110,7 @@ TEST(PageMenus, GoWithTheirButton) {
 }
 
 TEST(PageMenus, ThePartitionBoxOpensAtItsButton) {
-    TestHost test(Rig::standard(2));
-    connectCameras(test, 1, 2);
+    TestHost test(connected(2));
     choose(test, {"1"});
     TablePage page(test);
     page.run("probe.callsBegin(); return 0");
@@ -136,8 +132,7 @@ TEST(PageMenus, ThePartitionBoxOpensAtItsButton) {
 }
 
 TEST(PagePanels, HandOnWhatIsPressed) {
-    TestHost test(Rig::standard(2));
-    connectCameras(test, 1, 2);
+    TestHost test(connected(2));
     choose(test, {"1"});
     TablePage page(test);
     const auto made = [&page](const std::function<void()>& work) {

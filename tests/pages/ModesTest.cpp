@@ -34,8 +34,7 @@ QStringList live(const char* tab, const char* rows) {
 }
 
 TEST(PageModes, FollowTheHost) {
-    TestHost test(Rig::standard(4));
-    connectCameras(test, 1, 4);
+    TestHost test(connected(4));
     TablePage page(test, 1);
     EXPECT_EQ(page.list(Look), live("tab 1", "rows 4"));
 
@@ -59,8 +58,7 @@ TEST(PageModes, FollowTheHost) {
 }
 
 TEST(PageModes, OnlyAFullUpdateFillsTheGridAfterFileMode) {
-    TestHost test(Rig::standard(4));
-    connectCameras(test, 1, 4);
+    TestHost test(connected(4));
     TablePage page(test);
     test.host.appStatus().enterMode(zeb::FileMode);
     page.settle();
@@ -76,8 +74,7 @@ TEST(PageModes, OnlyAFullUpdateFillsTheGridAfterFileMode) {
 }
 
 TEST(PageModes, MayBeAnyWhenTheTableOpens) {
-    TestHost test(Rig::standard(3));
-    connectCameras(test, 1, 3);
+    TestHost test(connected(3));
     test.host.appStatus().enterMode(zeb::FileMode);
     {
         TablePage page(test);

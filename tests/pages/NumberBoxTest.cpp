@@ -309,8 +309,7 @@ TEST_F(PageNumbers, StandStillAfterAMessage) {
 }
 
 TEST(PageNumber, ThatWasTypedGoesToItsCameraWhenItIsScrolledAway) {
-    TestHost test(Rig::standard(60));
-    connectCameras(test, 1, 60);
+    TestHost test(connected(60));
     test.host.appStatus().enterMode(zeb::MemoryMode);
     for (Camera* camera : test.host.cameras().all()) {
         camera->change({{"recorded", true}, {"recordedRange", QVariantList{0, 99}}});
@@ -329,8 +328,7 @@ TEST(PageNumber, ThatWasTypedGoesToItsCameraWhenItIsScrolledAway) {
 }
 
 TEST(PageRecordCheck, OfSelectedCamerasOnly) {
-    TestHost test(Rig::standard(3));
-    connectCameras(test, 1, 3);
+    TestHost test(connected(3));
     for (const DOCKEY key : {1U, 2U, 3U}) {
         test.camera(key).change({{"recorded", true}, {"recordedRange", QVariantList{0, 99}}});
     }

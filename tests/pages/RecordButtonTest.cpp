@@ -7,19 +7,17 @@ namespace {
 /// A page over two cameras that are free to record.
 class PageRecordButton : public testing::Test {
 protected:
-    PageRecordButton() : test(Rig::standard(2)) {
-        connectCameras(test, 1, 2);
+    PageRecordButton() : test(connected(2)) {
         test.host.prefs().setValue("wren/display/lock", false);
         page = std::make_unique<TablePage>(test);
     }
 
     /// What the recorder and the page hear of `work`.
     QStringList orders(const std::function<void()>& work) {
-        QStringList names;
-        for (const QVariant& call : test.callsOf([&] { work(), page->settle(); })) {
-            names << call.toMap().value("call").toString();
-        }
-        return names.filter("ZebRecorder::").replaceInStrings("ZebRecorder::", "");
+        test.calls();
+        work();
+        page->settle();
+        return test.calls().filter("ZebRecorder::");
     }
     /// How often a click, before which `prepare` runs, would reach the back end.
     int presses(const QString& prepare = "") {
@@ -37,9 +35,10 @@ protected:
 };
 
 TEST_F(PageRecordButton, TakesADoubleClickForOnePress) {
-    EXPECT_EQ(orders([&] { page->doubleClick(button); }), QStringList("startRecReady"));
+    EXPECT_EQ(orders([&] { page->doubleClick(button); }), QStringList("ZebRecorder::startRecReady []"));
     EXPECT_EQ(face(), "Ready");
-    EXPECT_EQ(orders([&] { page->doubleClick("#timeline_rec_cancel"); }), QStringList("cancelRecording"));
+    EXPECT_EQ(orders([&] { page->doubleClick("#timeline_rec_cancel"); }),
+              QStringList("ZebRecorder::cancelRecording [false]"));
 }
 
 TEST_F(PageRecordButton, MeansWhatItShows) {

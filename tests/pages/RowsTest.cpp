@@ -18,8 +18,7 @@ struct TickCase {
 
 /// Each case changes a camera of its own behind the table's back.
 void checkTicks(int tab, const QList<TickCase>& cases) {
-    TestHost test(Rig::standard(64));
-    connectCameras(test, 1, 64);
+    TestHost test(connected(64));
     // The first camera in low light mode switches controls outside the rows.
     test.camera(64).change({{"lowLight", true}});
     TablePage page(test, tab);
@@ -116,8 +115,7 @@ TEST(PageTick, WritesWhatChangedInTheLiveControl) {
 }
 
 TEST(PageTick, LeavesAnOpenListAlone) {
-    TestHost test(Rig::standard(60));
-    connectCameras(test, 1, 60);
+    TestHost test(connected(60));
     TablePage page(test, 1);
     const auto open = [&] {
         page.click(".SumoSelect[dockey=\"2\"] p.wren_livecontrol_framerate");
@@ -163,8 +161,7 @@ void vary(TestHost& test, int cameras, int turn) {
 }
 
 TEST(PageTick, WhatFloatsOverARowFollowsItOrGoes) {
-    TestHost test(Rig::standard(3));
-    connectCameras(test, 1, 3);
+    TestHost test(connected(3));
     TablePage page(test, 1);
     const char* tip = "$('.ui-tooltip-content').text()";
     test.camera(2).change({{"alerts", QStringList{"The fan turns slowly"}}});
@@ -189,8 +186,7 @@ TEST(PageRows, RowsUsedAgainEqualRowsDrawnNew) {
     for (int tab = 0; tab < 7; ++tab) {
         // This page comes from the other mode, so that the tab has never been drawn.
         const bool memory = tab >= 5;
-        TestHost fresh(Rig::standard(Cameras));
-        connectCameras(fresh, 1, Cameras);
+        TestHost fresh(connected(Cameras));
         fresh.host.appStatus().enterMode(memory ? zeb::LiveMode : zeb::MemoryMode);
         const QVariantMap drawn = [&] {
             TablePage page(fresh, memory ? 0 : 5);
@@ -199,8 +195,7 @@ TEST(PageRows, RowsUsedAgainEqualRowsDrawnNew) {
             return page.run("probe.shapes()").toObject().toVariantMap();
         }();
 
-        TestHost used(Rig::standard(Cameras));
-        connectCameras(used, 1, Cameras);
+        TestHost used(connected(Cameras));
         TablePage page(used, tab);
         vary(used, Cameras, 0);
         page.update();
@@ -225,8 +220,7 @@ TEST(PageRows, RowsUsedAgainEqualRowsDrawnNew) {
 }
 
 TEST(PageRows, ARowThatComesIntoViewIsUpToDate) {
-    TestHost test(Rig::standard(100));
-    connectCameras(test, 1, 100);
+    TestHost test(connected(100));
     TablePage page(test, 0);
     test.camera(100).change({{"comment", "changed"}, {"name", "changed"}});
     page.tick();
@@ -249,8 +243,7 @@ void vanish(TestHost& test, DOCKEY key) {
 }
 
 TEST(PageRows, TheKeyboardStaysWithItsCamera) {
-    TestHost test(Rig::standard(60));
-    connectCameras(test, 1, 60);
+    TestHost test(connected(60));
     TablePage page(test, 1);
     page.run("$('.SumoSelect[dockey=5] .wren_livecontrol_framerate').parent().focus()");
     EXPECT_EQ(page.text(FocusedKey), "5");
@@ -271,8 +264,7 @@ TEST(PageRows, TheKeyboardStaysWithItsCamera) {
 }
 
 TEST(PageRows, AnOpenListSendsToTheCameraItWasOpenedFor) {
-    TestHost test(Rig::standard(60));
-    connectCameras(test, 1, 60);
+    TestHost test(connected(60));
     TablePage page(test, 1);
     page.click(".SumoSelect[dockey=\"5\"] p.wren_livecontrol_framerate");
     test.host.flags().set("IsUpdateIgnore", true);  // a full update would close the list

@@ -22,8 +22,7 @@ QStringList selectedCameras(TestHost& test) {
 }
 
 TEST(PageSelection, StaysWithItsCameraWhenAnotherGoes) {
-    TestHost test(Rig::standard(5));
-    connectCameras(test, 1, 5);
+    TestHost test(connected(5));
     TablePage page(test);
     choose(test, {"2", "4"});
     page.update();
@@ -44,8 +43,7 @@ TEST(PageSelection, StaysWithItsCameraWhenAnotherGoes) {
 }
 
 TEST(PageSelection, TheNameOfTheBatchRowSelectsAllConnectedInOneCall) {
-    TestHost test(Rig::standard(100));
-    connectCameras(test, 1, 100);
+    TestHost test(connected(100));
     QJsonArray keys;
     for (int key = 1; key <= 100; ++key) {
         if (key == 3 || key == 90) {
@@ -78,8 +76,7 @@ TEST(PageSelection, FollowsTheMouse) {
     const auto cell = [](int key, const char* inner) {
         return QStringLiteral("#wren-cameraInfo-list #%1_%2").arg(QLatin1String(inner)).arg(key);
     };
-    TestHost test(Rig::standard(5));
-    connectCameras(test, 1, 5);
+    TestHost test(connected(5));
     TablePage page(test);
     for (const Case& c : {
              Case{"a row", {}, row(2), {}, {"2"}},
@@ -115,8 +112,7 @@ TEST(PageSelection, ARubberBandTakesTheRowsItCrosses) {
         QStringList after;
     };
     const auto control = [](const char* id) { return QString("#wren-cameraInfo-list #%1").arg(id); };
-    TestHost test(Rig::standard(6));
-    connectCameras(test, 1, 6);
+    TestHost test(connected(6));
     TablePage page(test);
     for (const Case& c : {
              Case{"from a row", row(2), {"2", "3", "4"}},

@@ -7,7 +7,6 @@
 #include <QDialog>
 #include <QEventLoop>
 #include <QFile>
-#include <QJsonDocument>
 #include <QJsonObject>
 #include <QRegularExpression>
 #include <QTest>
@@ -215,28 +214,25 @@ void PrintTo(const QStringList& list, std::ostream* out) {
 }
 
 QStringList commands(TestHost& test, TablePage& page, const std::function<void()>& work) {
-    const QVariantList calls = test.callsOf([&] {
-        work();
-        page.settle();
-    });
+    test.calls();
+    work();
+    page.settle();
     // Not what brings the images up to date.
-    const QRegularExpression wanted("^ZebCameraOps::|^DOC_.*::set|Docs$");
-    QStringList lines;
-    for (const QVariant& call : calls) {
-        const QString name = call.toMap().value("call").toString();
-        const QJsonArray args = QJsonArray::fromVariantList(call.toMap().value("args").toList());
-        if (name.contains(wanted)) {
-            lines << name.section("::", 1) + ' ' +
-                         QString::fromUtf8(QJsonDocument(args).toJson(QJsonDocument::Compact));
-        }
-    }
-    return lines;
+    return test.calls()
+        .filter(QRegularExpression("^ZebCameraOps::|^DOC_.*::set|Docs "))
+        .replaceInStrings(QRegularExpression("^.*?::"), "");
 }
 
 void choose(TestHost& test, const QStringList& keys) {
     for (Camera* camera : test.host.cameras().all()) {
         camera->set(&CameraState::selected, keys.contains(QString::number(camera->key())));
     }
+}
+
+Rig connected(int cameras) {
+    Rig rig = Rig::standard(cameras);
+    for (RigDevice& device : rig.devices) device.heads.first().connected = true;
+    return rig;
 }
 
 void connectCameras(TestHost& test, DOCKEY first, DOCKEY last) {

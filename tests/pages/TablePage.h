@@ -80,6 +80,8 @@ private:
 
 /// Selects these cameras and no others, behind the table's back.
 void choose(TestHost& test, const QStringList& keys);
+/// Cameras of the standard model, all of them connected.
+Rig connected(int cameras);
 /// Connects cameras `first` to `last`.
 void connectCameras(TestHost& test, DOCKEY first, DOCKEY last);
 

@@ -4,13 +4,10 @@
 #include "GUI_MarqueeProgressDialog.h"
 #include "VisaFile.h"
 #include "VisaLibrary.h"
-#include "host/MessageDesk.h"
-#include "host/SimHost.h"
-#include "recording/SteppedClock.h"
+#include "support/TestHost.h"
 #include "vi.h"
 
 #include <QApplication>
-#include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
 
@@ -40,11 +37,6 @@ const QStringList StepsOf2000{
 
 const QStringList Look{"viPrintf FREQ?\n", "viScanf"};
 
-class SilentDesk : public MessageDesk {
-public:
-    Answer show(const Message&) override { return {}; }
-};
-
 /// Counts the progress dialogs that are shown, and how often they are painted.
 class DialogWatch : public QObject {
 public:
@@ -62,7 +54,7 @@ public:
     int painted = 0;
 };
 
-class SignalGeneratorTest : public testing::Test {
+class SignalGeneratorTest : public testing::Test, public TestHost {
 protected:
     void connect() {
         ASSERT_TRUE(generator->loadDriver());
@@ -73,10 +65,6 @@ protected:
         return QByteArray(R"({"replies": {")") + question + "\": " + reply + "}}";
     }
 
-    QTemporaryDir folder;
-    SteppedClock clock;
-    SilentDesk desk;
-    SimHost host{clock, desk, folder.filePath(QStringLiteral("prefs.ini"))};
     VisaFile file;
     std::unique_ptr<DOC_SignalGenerator> generator = std::make_unique<DOC_VIGen>(&host);
 };

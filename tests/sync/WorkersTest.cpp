@@ -4,16 +4,11 @@
 #include "VIGenThread.h"
 #include "VisaFile.h"
 #include "VisaLibrary.h"
-#include "camera/Camera.h"
-#include "camera/Rig.h"
-#include "host/SimHost.h"
-#include "recording/SteppedClock.h"
-#include "support/ScriptedDesk.h"
+#include "support/TestHost.h"
 #include "vi.h"
 
 #include <QCoreApplication>
 #include <QProgressDialog>
-#include <QTemporaryDir>
 
 #include <gtest/gtest.h>
 
@@ -55,11 +50,8 @@ TEST(VIGenThreadTest, WorkThatThrowsHasFailed) {
 }
 
 TEST(RUN_SyncingThreadTest, WorksWhileTheHostAnswersOthers) {
-    SteppedClock clock;
-    ScriptedDesk desk;
-    QTemporaryDir folder;
-    SimHost host(clock, desk, folder.filePath(QStringLiteral("prefs.ini")));
-    host.setRig(Rig::standard(8));
+    TestHost test(Rig::standard(8));
+    SimHost& host = test.host;
     for (Camera* camera : host.cameras().all()) camera->set(&CameraState::connected, true);
     host.faults().plant(5, "synchronise", {QStringLiteral("no lock on the signal"), 0, false});
 

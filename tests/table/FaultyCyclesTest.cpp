@@ -67,8 +67,6 @@ QJsonArray cycle(JS_Mediator_WrenTableDialog& bridge, int tab) {
 class FaultyWorld : public TableFixture {
 public:
     using TableFixture::change;
-    using TableFixture::desk;
-    using TableFixture::host;
 
     /// With the cameras of the fixture, or with so many of the standard model.
     explicit FaultyWorld(int mode, int standard = 0) {

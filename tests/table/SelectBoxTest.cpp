@@ -1,6 +1,7 @@
 #include "GUI_SelectBox.h"
 #include "GUI_WebView.h"
 #include "HostPages.h"
+#include "JS_Mediator_SelectBox.h"
 #include "TableFixture.h"
 
 #include <QSignalSpy>
@@ -43,6 +44,10 @@ protected:
     void choose(int row) const { eval(QString("document.querySelectorAll('#items>li>a')[%1].click()").arg(row)); }
     void show(SelectBoxType type = SelectBoxType::Partition, const QString& value = {}) const {
         box->showBox(int(type), Anchor, value);
+    }
+    static void send(QWidget* widget, QEvent::Type type) {
+        QEvent event(type);
+        QApplication::sendEvent(widget, &event);
     }
     /// What was asked of cameras; new images, which follow any change, are left out.
     QStringList changes() {
@@ -107,6 +112,8 @@ TEST_F(SelectBoxTest, behindTheLastPartitionAreTheSettingsInLiveMode) {
     choose(5);
     EXPECT_FALSE(box->isVisible());
     EXPECT_EQ(changes(), QStringList{"ZebCameraOps::stopForPrefs []"});
+    for (const char* value : {"", "0", "-1", "one"}) eval(QString("items.slotNotifyPartition('%1')").arg(value));
+    EXPECT_EQ(changes(), QStringList()) << "they are no partitions";
 
     host.appStatus().enterMemoryMode();
     show();
@@ -183,6 +190,34 @@ TEST_F(SelectBoxTest, aListThatCanNotBeReadIsNotShown) {
     host.faults().plant(1, "getPartitionName", {"no answer", 0, false});
     EXPECT_THROW(show(), std::exception);
     EXPECT_FALSE(box->isVisible());
+
+    host.faults().clear();
+    box = std::make_unique<GUI_SelectBox>(&host, "qrc:selectbox.html", &window);
+    show();
+    host.faults().plant(1, "getPartitionName", {"no answer", 0, false});
+    ASSERT_TRUE(QSignalSpy(box->findChild<GUI_WebView*>(), &QWebView::loadFinished).wait());
+    EXPECT_EQ(desk.shown.size(), 1);
+    EXPECT_FALSE(box->isVisible());
+    calls();
+    send(&window, QEvent::WindowDeactivate);
+    EXPECT_EQ(calls(), QStringList()) << "there is nothing to hide";
+}
+
+TEST_F(SelectBoxTest, bearsWhatItsPageThrows) {
+    auto* bridge = qobject_cast<JS_Mediator_SelectBox*>(eval("items").value<QObject*>());
+    ASSERT_NE(bridge, nullptr);
+    for (const char* thrown : {"null", "new Error('no list')"}) {
+        eval(QString("['show', 'setRowHeight', 'update'].forEach(name => selectbox[name] = () => { throw %1; })")
+                 .arg(thrown));
+        Course log;
+        Q_EMIT bridge->signalShowPartition({"1", "2"});
+        Q_EMIT bridge->signalShowVariable("{\"ChannelInfos\": []}");
+        Q_EMIT bridge->signalShowVariableRegist("no JSON");
+        Q_EMIT bridge->signalSetHeight(20);
+        Q_EMIT bridge->update();
+        const QStringList lines = log.take();
+        EXPECT_EQ(lines.filter("[USER][ERROR]").size(), 5) << lines.join('\n').toStdString();
+    }
 }
 
 TEST_F(SelectBoxTest, waitsForItsPage) {
@@ -200,17 +235,13 @@ TEST_F(SelectBoxTest, waitsForItsPage) {
 }
 
 TEST_F(SelectBoxTest, hidesWithItsWindow) {
-    const auto sent = [](QWidget* widget, QEvent::Type type) {
-        QEvent event(type);
-        QApplication::sendEvent(widget, &event);
-    };
     show();
-    sent(box.get(), QEvent::WindowDeactivate);
+    send(box.get(), QEvent::WindowDeactivate);
     EXPECT_FALSE(box->isVisible());
     EXPECT_EQ(calls(), QStringList{"ZebHost::hideSelectBox []"});
 
     show();
-    sent(&window, QEvent::WindowDeactivate);
+    send(&window, QEvent::WindowDeactivate);
     EXPECT_FALSE(box->isVisible());
     EXPECT_EQ(calls(), QStringList{"ZebHost::hideSelectBox []"});
 
@@ -224,15 +255,12 @@ TEST_F(SelectBoxTest, hidesWithItsWindow) {
 }
 
 TEST_F(SelectBoxTest, aCloseByTheUserStandsInTheLog) {
-    static QStringList lines;
     show();
-    const QtMessageHandler previous = qInstallMessageHandler(
-        [](QtMsgType, const QMessageLogContext&, const QString& line) { lines.append(line.trimmed()); });
+    Course log;
     box->close();
-    qInstallMessageHandler(previous);
     EXPECT_FALSE(box->isVisible());
-    EXPECT_EQ(lines.filter("[USER]"),
-              QStringList{R"([USER] "[URL:GUI_SelectBox] [ID:close] [Control:Button] [Operation:clicked] [Value:] ")"});
+    EXPECT_TRUE(log.take().contains(
+        R"(info: [USER] "[URL:GUI_SelectBox] [ID:close] [Control:Button] [Operation:clicked] [Value:] ")"));
 }
 
 TEST_F(SelectBoxTest, takesTheStyleOfTheUser) {

@@ -98,18 +98,12 @@ TEST_F(MixedCameras, TellWhetherAChangeReachesALockedHead) {
 TEST_F(MixedCameras, ABatchReachesTheOthersAndNamesThoseThatFail) {
     plant(2, "setRecordRate", throwing("no answer"));
     plant(6, "*", throwing("\u30ab\u30e1\u30e9 <b>off</b>"));
-    const QVariantList calls = test.callsOf([this] {
-        EXPECT_EQ(thrownBy([this] {
-                      setRate({1, 2, 6, 5}, 1000);
-                  }),
-                  "Ramp: no answer\nTrack: \u30ab\u30e1\u30e9 <b>off</b>");
-    });
+    const auto work = [this] { setRate({1, 2, 6, 5}, 1000); };
+    EXPECT_EQ(thrownBy(work), "Ramp: no answer\nTrack: \u30ab\u30e1\u30e9 <b>off</b>");
     EXPECT_EQ(rate(1), 1000u);
     EXPECT_EQ(rate(2), 2000u);
     EXPECT_EQ(rate(5), 1000u);
-    EXPECT_EQ(calls,
-              (QVariantList{QVariantMap{{QStringLiteral("call"), QStringLiteral("ZebCameraOps::setRecordRate")},
-                                        {QStringLiteral("args"), QVariantList{QVariantList{1u, 2u, 6u, 5u}, 1000u}}}}));
+    EXPECT_EQ(test.calls().last(), "ZebCameraOps::setRecordRate [[1,2,6,5],1000]");
 }
 
 TEST_F(MixedCameras, TakeTheirTimeOnTheClock) {

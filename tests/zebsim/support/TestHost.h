@@ -7,6 +7,9 @@
 #include "recording/SteppedClock.h"
 
 #include <QCoreApplication>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QStringBuilder>
 #include <QTemporaryDir>
 
 /// A host without windows, with preferences of its own, on a clock that the test steps.
@@ -27,16 +30,26 @@ struct TestHost {
         }
         return list;
     }
-    /// The changing calls that `work` makes, as "call args" in one line each.
-    template <typename Work>
-    QVariantList callsOf(Work work) {
-        const quint64 mark = host.journal().count();
-        work();
-        return host.journal().since(mark);
+    /// What the host was asked to change since the last asking, as `ZebDocManager::selectDoc [3]`. Requests for an
+    /// update are left out.
+    QStringList calls() {
+        QStringList texts;
+        for (const QVariant& entry : host.journal().since(m_mark)) {
+            const QString name = entry.toMap().value(QStringLiteral("call")).toString();
+            const QJsonArray args = QJsonArray::fromVariantList(entry.toMap().value(QStringLiteral("args")).toList());
+            if (name != QLatin1String("ZebHost::updateUI"))
+                texts +=
+                    name % QLatin1Char(' ') % QString::fromUtf8(QJsonDocument(args).toJson(QJsonDocument::Compact));
+        }
+        m_mark = host.journal().count();
+        return texts;
     }
 
     QTemporaryDir folder;
     SteppedClock clock;
     ScriptedDesk desk;
     SimHost host{clock, desk, folder.filePath(QStringLiteral("prefs.ini"))};
+
+private:
+    quint64 m_mark = 0;
 };
