@@ -1,7 +1,6 @@
 #include "TablePage.h"
 
 #include <QApplication>
-#include <QLibrary>
 
 #include <gtest/gtest.h>
 
@@ -32,13 +31,6 @@ Rig laboratory() {
     Rig rig = Rig::standard(2);
     rig.hubs = {{Hub, {zeb::HubRoleMaster, 1000, {500, 1000, 2000}}}, {Passing, {1, 1000, {500, 1000, 2000}}}};
     return rig;
-}
-
-void scriptGenerator(const char* script) {
-    using VisaScript = const char* (*)(const char*);
-    const auto visaScript = reinterpret_cast<VisaScript>(QLibrary::resolve(VISA_LIBRARY, "visaScript"));
-    ASSERT_NE(visaScript, nullptr) << VISA_LIBRARY;
-    EXPECT_STREQ(visaScript(script), nullptr);
 }
 
 class PageSync : public testing::Test {
@@ -156,21 +148,6 @@ TEST_F(PageSync, ShowsWhatCanBeDone) {
     }
 }
 
-TEST_F(PageSync, ConnectsTheGenerator) {
-    scriptGenerator(R"({"viOpen": {"status": -1}})");
-    pref("sync/generator/address", "192.168.0.90");
-    useHubs();
-    open();
-    EXPECT_EQ(boxes(), QStringList("Could not connect with signal generator"));
-    EXPECT_EQ(shown(), "generator go") << "it goes before the hubs";
-    scriptGenerator(R"({"frequency": 3000})");
-    EXPECT_EQ(made([this] { page->click("#connect_signal_generator"); }), QStringList("connectSignalGenerator"));
-    EXPECT_EQ(shown(), "generator+ 1000,2000,[3000],4000,5000,6000,7000,8000,9000,10000 go");
-    EXPECT_EQ(page->tick(), QStringList());
-    scriptGenerator(R"({"viScanf": {"status": -1}})");
-    EXPECT_EQ(shown(), "generator go") << "it is lost";
-}
-
 TEST_F(PageSync, PassesEachChoiceOnOnce) {
     useHubs();
     open();
@@ -243,22 +220,6 @@ TEST_F(PageSync, TakesFrequenciesForText) {
     open();
     EXPECT_EQ(shown(), "hub+ <b>1</b>,[1000],\"><img src=x onerror=alert(1)> go");
     EXPECT_EQ(page->number("$('#externalSyncSelector').find('b, img').length"), 0);
-}
-
-TEST_F(PageSync, OffersNothingWhenTheHubThrows) {
-    useHubs();
-    open();
-    ASSERT_EQ(shown(), "hub+ 500,[1000],2000 go");
-    SignalHub& hub = *test.host.signalDevices().hub(Hub);
-    test.host.faults().plant(hub.key(), "getFrequencies", Fault{"is busy"});
-    page->tick();
-    EXPECT_EQ(page->number("$('#externalSyncSelector option').length"), 0);
-    EXPECT_EQ(boxes().size(), 1);
-    page->tick();
-    EXPECT_EQ(page->number("probe.drawn().length"), 2) << "the table goes on";
-    test.host.faults().plant(hub.key(), "getFrequencies", {});
-    EXPECT_EQ(shown(), "hub+ 500,[1000],2000 go");
-    EXPECT_EQ(boxes(), QStringList());
 }
 
 }  // namespace

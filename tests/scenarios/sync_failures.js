@@ -50,8 +50,7 @@ zeb.calls();
 expect('synchronising tells it too', '#sync_execute', 'error', 'Failed to connect to Sync Hub');
 check(synchronised() === 1, 'and goes on with the cameras');
 
-zeb.setPref('sync/lport', 0);
-zeb.setPref('sync/generator/address', '192.168.0.90');
+zeb.setPref('sync/generator/address', '192.168.0.90');    // and goes before the hubs
 zeb.visa({viOpen: {status: 0xBFFF0011}});
 expect('the generator can not be reached', '#sync_execute', 'error', 'Could not connect with signal generator');
 check(!isConnected('#connect_signal_generator'), 'it is shown for what it is');
