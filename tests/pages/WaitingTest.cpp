@@ -87,20 +87,4 @@ TEST_F(PageWaiting, ticksUpdatesModesAndAClosePassAQuestion) {
     EXPECT_EQ(page.number("$('#tabs').tabs('option', 'active')"), 1);
 }
 
-TEST_F(PageWaiting, theHostMayGoWhileAQuestionStands) {
-    const QPointer<QWebView> view = page.window().findChild<QWebView*>();
-    onFirstBox([&] {
-        test.host.flags().set(QStringLiteral("IsApplicationClosing"), true);
-        page.window().close();
-        letTimePass();
-        EXPECT_TRUE(view) << "the call still runs";
-    });
-    test.desk.answers = {{false, false}};
-    page.run("wrentabledialog.confirm('Sure?')");
-    EXPECT_TRUE(QTest::qWaitFor([this] { return !page.window().isVisible(); }));
-    EXPECT_EQ(test.desk.texts(), QStringList{"Sure?"}) << "a host that closes asks nothing";
-    test.desk.shown.clear();
-    test.host.flags().set(QStringLiteral("IsApplicationClosing"), false);
-}
-
 }  // namespace

@@ -12,39 +12,6 @@ protected:
     CameraManagement cameras{host, state};
 };
 
-TEST_F(CameraManagementTest, connectsWhatIsNotConnectedAndDisconnectsWhatNoLockKeeps) {
-    change(1, {{"connected", true}});
-    change(2, {{"connected", true}, {"locked", true}});
-    host.faults().plant(7, "*", {{}, 0, true});
-    const struct {
-        const char* sentence;
-        int mode;
-        bool connect;
-        bool force;
-        QStringList calls;
-    } cases[] = {
-        {"a locked camera stays", zeb::LiveMode, false, false, {"ZebDocManager::disconnectDocs [[1]]"}},
-        {"force takes it too", zeb::LiveMode, false, true, {"ZebDocManager::disconnectDocs [[1,2]]"}},
-        {"in memory mode nothing is disconnected", zeb::MemoryMode, false, false, {}},
-        {"but by force", zeb::MemoryMode, false, true, {"ZebDocManager::disconnectDocs [[1,2]]"}},
-        {"a connected one is not connected again, one that is gone is skipped",
-         zeb::LiveMode,
-         true,
-         false,
-         {"ZebDocManager::connectDocs [[5]]"}},
-    };
-    for (const auto& each : cases) {
-        SCOPED_TRACE(each.sentence);
-        host.appStatus().enterMode(each.mode);
-        for (const DOCKEY key : {1, 2}) {
-            change(key, {{"connected", true}});
-        }
-        calls();
-        cameras.connect({1, 2, 7, 5}, each.connect, each.force);
-        EXPECT_EQ(calls(), each.calls);
-    }
-}
-
 TEST_F(CameraManagementTest, followsACameraThatComesInWhileItRecords) {
     change(1, {{"recordState", zeb::RecordReady}});
     change(2, {{"recordState", zeb::RecordCtsReady}});
@@ -164,15 +131,6 @@ TEST_F(CameraManagementTest, allCamerasGoOnlyWhenTheUserAgrees) {
     cameras.discover();
     EXPECT_EQ(host.docManager().getDocKeys().size(), 11);
     EXPECT_TRUE(host.docManager().getConnectedDocKeys().isEmpty());
-}
-
-TEST_F(CameraManagementTest, aCommentOfTwoLinesIsKeptAsTheHostKeepsIt) {
-    connectAll();
-    change(2, {{"locked", true}});
-    cameras.setComment({1, 2, 99}, "wet\n<b>50 mm</b>");
-    EXPECT_EQ(calls(), QStringList{R"(DOC_Image::setComment [1,"wet{Separator}<b>50 mm</b>"])"});
-    cameras.setCameraName({1, 2}, "Left");
-    EXPECT_EQ(calls(), QStringList{R"(DOC_Control::setCameraName [1,"Left"])"});
 }
 
 TEST_F(CameraManagementTest, aSessionTakesBackWhatItSet) {

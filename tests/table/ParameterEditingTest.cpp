@@ -23,15 +23,6 @@ protected:
     ParameterEditing editing{host};
 };
 
-TEST_F(ParameterEditingTest, oneCallReachesEveryCameraThatMayBeChanged) {
-    change(2, {{"locked", true}});
-    change(5, {{"connected", false}});
-    host.faults().plant(6, "*", {{}, 0, true});
-    editing.setFrameRate({7, 2, 5, 6, 1, 99}, "2000");
-    EXPECT_EQ(calls(), QStringList{"ZebCameraOps::setRecordRate [[7,1],2000]"});
-    EXPECT_EQ(stateOf(1, "rate").toInt(), 2000);
-}
-
 TEST_F(ParameterEditingTest, nothingIsAskedOrChangedWhereNothingMayBe) {
     change(2, {{"locked", true}});
     editing.setFrameRate({2}, "2000");

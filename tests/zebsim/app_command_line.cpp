@@ -27,16 +27,6 @@ TEST(CommandLine, TakesAllItsOptions) {
     EXPECT_TRUE(brief.openTable);
 }
 
-TEST(CommandLine, AnswersWhatNeedsNoWindow) {
-    const CommandLine help = parse("zebsim --help");
-    EXPECT_EQ(help.exitStatus, 0);
-    EXPECT_THAT(help.printout.toStdString(),
-                testing::AllOf(testing::HasSubstr("--rig <FILE|N>"), testing::HasSubstr("--scenario <FILE.js>")));
-    const CommandLine version = parse("zebsim --version");
-    EXPECT_EQ(version.exitStatus, 0);
-    EXPECT_NE(version.printout, QString());
-}
-
 TEST(CommandLine, NamesAMistakeAndTellsTheUsage) {
     struct Case {
         const char* arguments;

@@ -71,16 +71,6 @@ TEST_F(Prefs, AKeyThatChangesItsTypeComesBackAsTheNewOne) {
     EXPECT_STREQ(Preferences(copied()).value(QStringLiteral("my/key")).typeName(), "QString");
 }
 
-TEST_F(Prefs, AnUnwrittenKeyAnswersFactoryThenDefaultThenNothing) {
-    const SimHost host(clock, desk, path);
-    EXPECT_EQ(host.getPrefInt(QStringLiteral("wren/table/interval"), 7), 500);
-    EXPECT_EQ(host.getPrefInt(QStringLiteral("my/key"), 7), 7);
-    EXPECT_EQ(host.getPrefInt(QStringLiteral("my/key")), 0);
-    EXPECT_FALSE(host.getPrefBool(QStringLiteral("my/key")));
-    EXPECT_EQ(host.getPrefFloat(QStringLiteral("my/key"), 0.5), 0.5f);
-    EXPECT_EQ(host.getPrefString(QStringLiteral("my/key")), QString());
-}
-
 TEST_F(Prefs, AnUnreadableValueInAGoodFileIsItsFactoryType) {
     write("[wren]\ntable\\interval=soon\ndisplay\\lock=false\n");
     const Preferences prefs(path);
