@@ -1,6 +1,4 @@
 #include "GUI_ProgressDialog.h"
-#include "JS_Mediator_WrenTableDialog.h"
-#include "PLG_wren.h"
 #include "SlotCall.h"
 #include "TableFixture.h"
 #include "camera/Camera.h"
@@ -64,16 +62,16 @@ QJsonArray cycle(JS_Mediator_WrenTableDialog& bridge, int tab) {
 }
 
 /// Hubs and cameras on a signal from outside, recordings in all; whoever reads a warning agrees.
-class FaultyWorld : public TableFixture {
+class FaultyWorld : public BridgeFixture {
 public:
-    using TableFixture::change;
+    using BridgeFixture::bridge;
+    using BridgeFixture::change;
 
     /// With the cameras of the fixture, or with so many of the standard model.
     explicit FaultyWorld(int mode, int standard = 0) {
         if (standard > 0) host.setRig(Rig::standard(standard));
         connectAll();
-        plugin.setHost(&host);
-        bridge = std::make_unique<JS_Mediator_WrenTableDialog>(&host, "wrentabledialog", &plugin);
+        makeBridge();
         change(8, {{"connected", false}});
         for (const auto& [key, value] :
              std::initializer_list<std::pair<const char*, QVariant>>{{"wren/settings/syncInEnable", true},
@@ -148,9 +146,6 @@ public:
         }
         return names;
     }
-
-    PLG_wren plugin;
-    std::unique_ptr<JS_Mediator_WrenTableDialog> bridge;
 
 private:
     QTimer m_user;

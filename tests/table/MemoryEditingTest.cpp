@@ -1,8 +1,6 @@
 #include "DOC_Control.h"
 #include "DOC_Frames.h"
 #include "DOC_Interface.h"
-#include "JS_Mediator_WrenTableDialog.h"
-#include "PLG_wren.h"
 #include "TableFixture.h"
 #include "camera/Rig.h"
 
@@ -17,7 +15,7 @@ namespace {
 
 /// Four cameras that have recorded, of different lengths and triggers; the fifth has nothing, the sixth is not
 /// connected.
-class MemoryEditingTest : public TableFixture {
+class MemoryEditingTest : public BridgeFixture {
 protected:
     MemoryEditingTest() {
         host.setRig(Rig::standard(6));
@@ -29,8 +27,7 @@ protected:
         record(6, 0, 999, 500);
         change(6, {{"connected", false}});
         host.appStatus().enterMode(zeb::MemoryMode);
-        plugin.setHost(&host);
-        bridge = std::make_unique<JS_Mediator_WrenTableDialog>(&host, "wrentabledialog", &plugin);
+        makeBridge();
         calls();
     }
 
@@ -53,9 +50,6 @@ protected:
             .arg(frames.getSelectEndFrame(0) - trigger);
     }
     QStringList ranges() { return {range(1), range(2), range(3), range(4)}; }
-
-    PLG_wren plugin;
-    std::unique_ptr<JS_Mediator_WrenTableDialog> bridge;
 };
 
 TEST_F(MemoryEditingTest, eachCameraTakesANumberAsFarAsItsFramesGo) {

@@ -1,6 +1,4 @@
 #include "GUI_ProgressDialog.h"
-#include "JS_Mediator_WrenTableDialog.h"
-#include "PLG_wren.h"
 #include "TableFixture.h"
 #include "camera/Rig.h"
 
@@ -17,12 +15,11 @@ namespace {
 const QStringList Armed{"ZebRecorder::startRecReady []"};
 
 /// Four connected cameras: two alone, and one with two heads, of which the second has the first for its device.
-class RecordingTest : public TableFixture {
+class RecordingTest : public BridgeFixture {
 protected:
     RecordingTest() {
         host.setPrefBool("wren/display/lock", false);
-        plugin.setHost(&host);
-        bridge = std::make_unique<JS_Mediator_WrenTableDialog>(&host, "wrentabledialog", &plugin);
+        makeBridge();
         connectAll();
         for (const DOCKEY key : {1, 2, 3, 4}) change(key, {{"alerts", QStringList()}, {"locked", false}});
         for (const DOCKEY key : {5, 6, 7, 8}) change(key, {{"connected", false}});
@@ -55,8 +52,6 @@ protected:
         });
     }
 
-    PLG_wren plugin;
-    std::unique_ptr<JS_Mediator_WrenTableDialog> bridge;
     QString warning;
 };
 

@@ -1,8 +1,6 @@
 #include "DOC_Control.h"
 #include "DOC_Interface.h"
 #include "JS_Mediator_WrenDefaultSettingsDialog.h"
-#include "JS_Mediator_WrenTableDialog.h"
-#include "PLG_wren.h"
 #include "TableFixture.h"
 #include "VisaFile.h"
 #include "camera/Rig.h"
@@ -20,15 +18,14 @@
 namespace {
 
 /// Three cameras of one model, in a chain. There is no driver for a signal generator beside this program.
-class SynchronisingTest : public TableFixture {
+class SynchronisingTest : public BridgeFixture {
 protected:
     SynchronisingTest() {
         host.setRig(Rig::standard(3));
         connectAll();
         host.setPrefBool("wren/settings/syncInEnable", true);
         host.setPrefBool("alert/setsynchronization", true);
-        plugin.setHost(&host);
-        bridge = std::make_unique<JS_Mediator_WrenTableDialog>(&host, "wrentabledialog", &plugin);
+        makeBridge();
         calls();
     }
 
@@ -39,9 +36,6 @@ protected:
 
     /// What the cameras got since the last asking.
     QStringList handedOver() { return calls().filter("syncCameras"); }
-
-    PLG_wren plugin;
-    std::unique_ptr<JS_Mediator_WrenTableDialog> bridge;
 };
 
 TEST_F(SynchronisingTest, aChainShowsNoFrequenciesAndOtherModesNothing) {

@@ -1,5 +1,3 @@
-#include "JS_Mediator_WrenTableDialog.h"
-#include "PLG_wren.h"
 #include "SlotCall.h"
 #include "TableFixture.h"
 
@@ -11,12 +9,11 @@
 
 namespace {
 
-class TableBridgeTest : public TableFixture {
+class TableBridgeTest : public BridgeFixture {
 protected:
     TableBridgeTest() {
         host.setPrefInt("wren/table/interval", 1);
-        plugin.setHost(&host);
-        bridge = std::make_unique<JS_Mediator_WrenTableDialog>(&host, "wrentabledialog", &plugin);
+        makeBridge();
         ticks = std::make_unique<QSignalSpy>(bridge.get(), &JS_Mediator_WrenTableDialog::autoUpdate);
         QObject::connect(&host.journal(), &Journal::recorded, [](const QString& call) {
             if (call == QLatin1String("ZebHost::updateUI")) {
@@ -42,8 +39,6 @@ protected:
         return ticks->wait();
     }
 
-    PLG_wren plugin;
-    std::unique_ptr<JS_Mediator_WrenTableDialog> bridge;
     std::unique_ptr<QSignalSpy> ticks;
 };
 
