@@ -9,7 +9,7 @@
 #include "camera/Camera.h"
 #include "saving/SaveJob.h"
 #include "saving/SaveNames.h"
-#include "support/SavingPlugin.h"
+#include "support/StubPlugin.h"
 
 #include <QAction>
 #include <QClipboard>
@@ -211,11 +211,11 @@ TEST_F(AppSaving, IsCancelledByItsButtonAlone) {
 }
 
 TEST_F(AppSaving, KeysMeanThePluginInFront) {
-    SavingPlugin plugin;
+    StubPlugin plugin;
     QStringList raised;
-    QObject::connect(&plugin, &SavingPlugin::signalSaveFile, [&] { raised << "file"; });
-    QObject::connect(&plugin, &SavingPlugin::signalSaveLayout, [&] { raised << "layout"; });
-    QObject::connect(&plugin, &SavingPlugin::signalStartAutoUpdate, [&] { raised << "start"; });
+    QObject::connect(&plugin, &StubPlugin::signalSaveFile, [&] { raised << "file"; });
+    QObject::connect(&plugin, &StubPlugin::signalSaveLayout, [&] { raised << "layout"; });
+    QObject::connect(&plugin, &StubPlugin::signalStartAutoUpdate, [&] { raised << "start"; });
     plugin.dialog = std::make_unique<QDialog>();
     host.appStatus().registerPlugin(&plugin);
     EXPECT_FALSE(action("save").isEnabled()) << "there is nothing recorded to be seen";

@@ -1,6 +1,6 @@
 #include "HostSignal.h"
 #include "ScenarioError.h"
-#include "support/ShotPlugin.h"
+#include "support/StubPlugin.h"
 
 #include <QCoreApplication>
 
@@ -8,18 +8,28 @@
 
 namespace {
 
-TEST(HostSignal, IsServedBeforeTheCallReturns) {
-    ShotPlugin plugin;
-    raiseHostSignal(plugin, "signalShot", "/tmp/a.png", [] { return false; });
-    EXPECT_EQ(plugin.path, "/tmp/a.png");
+class HostSignal : public testing::Test {
+protected:
+    HostSignal() {
+        QObject::connect(
+            &plugin, &StubPlugin::signalScreenShot, &plugin, [this](const QString& wanted) { path = wanted; },
+            Qt::BlockingQueuedConnection);
+    }
+
+    StubPlugin plugin;
+    QString path;
+};
+
+TEST_F(HostSignal, IsServedBeforeTheCallReturns) {
+    raiseHostSignal(plugin, "signalScreenShot", "/tmp/a.png", [] { return false; });
+    EXPECT_EQ(path, "/tmp/a.png");
     EXPECT_THROW(raiseHostSignal(plugin, "signalNothing", {}, [] { return false; }), ScenarioError);
 }
 
-TEST(HostSignal, IsGivenUpWithTheScenario) {
-    ShotPlugin plugin;
-    EXPECT_THROW(raiseHostSignal(plugin, "signalShot", "/tmp/a.png", [] { return true; }), ScenarioError);
+TEST_F(HostSignal, IsGivenUpWithTheScenario) {
+    EXPECT_THROW(raiseHostSignal(plugin, "signalScreenShot", "/tmp/a.png", [] { return true; }), ScenarioError);
     // The thread that raised it is served when there is time again.
-    while (plugin.path.isEmpty()) QCoreApplication::processEvents();
+    while (path.isEmpty()) QCoreApplication::processEvents();
 }
 
 }  // namespace
