@@ -87,8 +87,11 @@ TEST(PageListing, KeepsTheFilterThroughFileMode) {
     test.host.prefs().setValue("wren/table/filter", 1);
     test.host.appStatus().enterMode(zeb::FileMode);
     TablePage page(test);
+    EXPECT_TRUE(page.until("$('.w2ui-lock:visible').length > 0"));
+    EXPECT_TRUE(page.run("$('#tabs').tabs('option', 'disabled')").toBool());
     test.host.appStatus().enterMode(zeb::LiveMode);
     page.settle();
+    EXPECT_TRUE(page.until("$('.w2ui-lock:visible').length === 0"));
     EXPECT_EQ(page.list(Listed), QStringList({"2", "3"}));
     EXPECT_EQ(page.text("$('#tabs .inTabItems p.CaptionCont').text().trim()"), "Connected");
     EXPECT_EQ(test.host.prefs().value("wren/table/filter").toInt(), 1);

@@ -12,12 +12,6 @@ const char* Open = R"js(
         ' ' + $('.dummy').length + ' ' + wrentabledialog_obj.isSnapshotListShown;
 )js";
 
-/// The calls of these names since `callsBegin`.
-QStringList calls(TablePage& page, const char* names) {
-    return page.list(
-        QString("probe.callsEnd().filter(call => /%1/.test(call[0])).map(call => call.join(' ').trim())").arg(names));
-}
-
 TEST(PageMenus, CloseByAChoiceOrAClickElsewhere) {
     TestHost test(connected(3));
     TablePage page(test);
@@ -44,9 +38,7 @@ TEST(PageMenus, SaveFilesOrLayout) {
     test.host.appStatus().enterMode(zeb::MemoryMode);
     TablePage page(test, 5);
     const auto clicked = [&page](const QString& target) {
-        page.run("probe.callsBegin(); return 0");
-        page.click(target);
-        return calls(page, "^save|hideSelectBox");
+        return page.made("^save|hideSelectBox", [&] { page.click(target); });
     };
     const auto chosen = [&page, &clicked](const QString& entry) {
         page.run("$('#btn-save li a').addClass('active'); return 0");
@@ -104,21 +96,19 @@ TEST(PageMenus, GoWithTheirButton) {
     page.settle();
     page.click("#btn-snapshot .miscfuncs button");
     // In the moment before the page's next look.
-    page.run("zeb4func.disable('#btn-snapshot button', true); probe.callsBegin(); return 0");
-    page.click("#btn-snapshot a.snapshot-clip");
-    EXPECT_EQ(calls(page, "^snapShot"), QStringList());
+    page.run("zeb4func.disable('#btn-snapshot button', true); return 0");
+    EXPECT_EQ(page.made("^snapShot", [&] { page.click("#btn-snapshot a.snapshot-clip"); }), QStringList());
 }
 
 TEST(PageMenus, ThePartitionBoxOpensAtItsButton) {
     TestHost test(connected(2));
     choose(test, {"1"});
     TablePage page(test);
-    page.run("probe.callsBegin(); return 0");
-    page.click("#recording_partition_span_button");
-    const QStringList made = calls(page, "hideSelectBox|showLivePartition");
+    const char* names = "hideSelectBox|showLivePartition";
+    const QStringList made = page.made(names, [&] { page.click("#recording_partition_span_button"); });
     const QString spot = page.text(
         "const spot = $('#btn-recording_partition'); const at = spot.offset();"
-        "return [at.left, at.top, spot.width(), spot.height()].map(Math.round).join()");
+        "return [at.left, at.top, spot.width(), spot.height()].map(Math.round).join(' ')");
     EXPECT_EQ(made, QStringList({"hideSelectBox", "showLivePartition " + spot}));
     EXPECT_TRUE(page.run("wrentabledialog.isShownSelectBox()").toBool());
     page.click(".dummy");
@@ -127,8 +117,8 @@ TEST(PageMenus, ThePartitionBoxOpensAtItsButton) {
 
     test.host.flags().set("IsConflictPartition", true);
     page.tick();
-    page.run("probe.callsBegin(); document.getElementById('btn-recording_partition').click(); return 0");
-    EXPECT_EQ(calls(page, "hideSelectBox|showLivePartition"), QStringList()) << "the button is disabled";
+    const auto clicked = [&] { page.run("document.getElementById('btn-recording_partition').click(); return 0"); };
+    EXPECT_EQ(page.made(names, clicked), QStringList()) << "the button is disabled";
 }
 
 TEST(PagePanels, HandOnWhatIsPressed) {
@@ -136,9 +126,7 @@ TEST(PagePanels, HandOnWhatIsPressed) {
     choose(test, {"1"});
     TablePage page(test);
     const auto made = [&page](const std::function<void()>& work) {
-        page.run("probe.callsBegin(); return 0");
-        work();
-        return calls(page, "^(record|cancelRecord|snapShot|stopLive|updateLive|setTriggerTesting)$");
+        return page.made("^(record|cancelRecord|snapShot|stopLive|updateLive|setTriggerTesting)$", work);
     };
     const auto clicked = [&](const QString& target) { return made([&] { page.click(target); }); };
     EXPECT_EQ(clicked("#btn-snapshot > button"), QStringList("snapShot 1"));

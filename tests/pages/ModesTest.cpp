@@ -73,23 +73,6 @@ TEST(PageModes, OnlyAFullUpdateFillsTheGridAfterFileMode) {
     EXPECT_EQ(page.list(Look), live("tab 0", "rows 4"));
 }
 
-TEST(PageModes, MayBeAnyWhenTheTableOpens) {
-    TestHost test(connected(3));
-    test.host.appStatus().enterMode(zeb::FileMode);
-    {
-        TablePage page(test);
-        EXPECT_TRUE(page.until(Locked));
-        EXPECT_EQ(page.list(Look).mid(0, 2), QStringList({"tab 0 of none", "rows 0 locked"}));
-        test.host.appStatus().enterMode(zeb::LiveMode);
-        page.settle();
-        EXPECT_TRUE(page.until(Unlocked));
-        EXPECT_EQ(page.list(Look), live("tab 0", "rows 3"));
-    }
-    test.host.appStatus().enterMode(zeb::MemoryMode);
-    TablePage page(test, 5);
-    EXPECT_EQ(page.list(Look).mid(0, 2), QStringList({"tab 5", "rows 3"}));
-}
-
 TEST(PageModes, AreSwitchedByTheTabs) {
     TestHost test(Rig::standard(2));
     TablePage page(test);

@@ -40,14 +40,7 @@ protected:
     }
 
     /// The calls of the bridge that `work` and the update after it make.
-    QStringList sent(const std::function<void()>& work) {
-        page.run("probe.callsBegin(); return 0");
-        work();
-        page.settle();
-        return page.list(
-            "probe.callsEnd().filter(call => /^set/.test(call[0]))"
-            ".map(call => [call[0], call[1][0].join(), String(call[1][1])].join(' '))");
-    }
+    QStringList sent(const std::function<void()>& work) { return page.made("^set", work); }
     QString shown(const QString& number) { return page.text(QString("$('%1').val()").arg(number)); }
     /// What a camera keeps, as "first to last".
     QString kept(DOCKEY key) {
@@ -171,9 +164,7 @@ TEST_F(PageNumbers, KeepWhatIsBeingTyped) {
     EXPECT_EQ(shown(end), "-1");
     page.update();
     EXPECT_EQ(shown(end), "-1") << "an update";
-    Fault gone;
-    gone.gone = true;
-    test.host.faults().plant(2, "*", gone);
+    test.host.faults().plant(2, "*", {{}, 0, true});
     page.update();
     EXPECT_EQ(page.number("probe.grid().records.length"), 3) << "the frame of the table is a new one";
     EXPECT_EQ(shown(end), "-1");
@@ -181,7 +172,7 @@ TEST_F(PageNumbers, KeepWhatIsBeingTyped) {
     EXPECT_EQ(kept(1), "200 to 500");
 
     type(box(End, "-1"), "-");
-    test.host.faults().plant(4, "*", gone);
+    test.host.faults().plant(4, "*", {{}, 0, true});
     page.update();
     EXPECT_EQ(sent([&] { page.type("50\n"); }), QStringList("setSelectEndFrameNo 1,3 -50")) << "of the batch row too";
     EXPECT_EQ(kept(1), "200 to 550");
@@ -203,9 +194,7 @@ TEST_F(PageNumbers, OfTheBatchRowGoToAllCamerasEachWithItsLimits) {
 }
 
 TEST_F(PageNumbers, ShowWhatTheCameraAnswers) {
-    Fault fault;
-    fault.throws = "no";
-    test.host.faults().plant(1, "setSelectRange", fault);
+    test.host.faults().plant(1, "setSelectRange", Fault{"no"});
     // The update after the change does not reach the page, so that the tick is what mends the box.
     page.run("wrentabledialog_obj.update = () => undefined; return 0");
     type(box(Start, "1"), "0\n");
@@ -227,8 +216,6 @@ TEST_F(PageNumbers, SendNothingWhenTheyAreCutOff) {
         const char* what;
         std::function<void()> happens;
     };
-    Fault gone;
-    gone.gone = true;
     for (const Case& c : QList<Case>{
              {"another plug-in", [&] { test.host.flags().set("IsOtherPluginOpen", true), page.tick(); }},
              {"the camera gone quiet",
@@ -249,7 +236,10 @@ TEST_F(PageNumbers, SendNothingWhenTheyAreCutOff) {
                       "originalStartFrameNo,originalEndFrameNo,totalFrame,triggerOffset");
                   page.run("wrentabledialog_obj.autoUpdate(); return 0");
               }},
-             {"the camera gone", [&] { test.host.faults().plant(1, "*", gone), page.update(); }},
+             {"the camera gone",
+              [&] {
+                  test.host.faults().plant(1, "*", {{}, 0, true}), page.update();
+              }},
          }) {
         SCOPED_TRACE(c.what);
         test.host.flags().set("IsOtherPluginOpen", false);
@@ -275,9 +265,7 @@ TEST_F(PageNumbers, SendNothingWhenTheyAreCutOff) {
 TEST_F(PageNumbers, StandStillAfterAMessage) {
     watchRepeats();
     const auto pressUnderAMessage = [this](const char* message, const QString& number) {
-        Fault fault;
-        fault.throws = message;
-        test.host.faults().plant(1, "setSelectRange", fault);
+        test.host.faults().plant(1, "setSelectRange", Fault{message});
         int beforeIt = -1;
         test.desk.whileStanding = [&] {
             beforeIt = repeats();

@@ -237,9 +237,7 @@ TEST(PageRows, ARowThatComesIntoViewIsUpToDate) {
 const char* FocusedKey = "(document.activeElement.closest('[dockey]') || document.body).getAttribute('dockey') || ''";
 
 void vanish(TestHost& test, DOCKEY key) {
-    Fault gone;
-    gone.gone = true;
-    test.host.faults().plant(key, "*", gone);
+    test.host.faults().plant(key, "*", {{}, 0, true});
 }
 
 TEST(PageRows, TheKeyboardStaysWithItsCamera) {

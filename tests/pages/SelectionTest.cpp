@@ -28,9 +28,7 @@ TEST(PageSelection, StaysWithItsCameraWhenAnotherGoes) {
     page.update();
     EXPECT_EQ(page.list("probe.selected()"), QStringList({"2", "4"}));
 
-    Fault gone;
-    gone.gone = true;
-    test.host.faults().plant(2, "*", gone);
+    test.host.faults().plant(2, "*", {{}, 0, true});
     test.camera(4).set(&CameraState::syncStatus, QStringLiteral("Over Sync"));
     EXPECT_EQ(page.tick(), QStringList({"2/row", "4/sync"})) << "a tick takes no row away, nor moves a value";
     EXPECT_EQ(page.list("probe.selected()"), QStringList("4"));

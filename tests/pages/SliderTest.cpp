@@ -122,9 +122,7 @@ TEST_F(PageSlider, SendsNothingWhenItIsCutOff) {
               }},
              {"the camera gone",
               [&] {
-                  Fault gone;
-                  gone.gone = true;
-                  test.host.faults().plant(1, "*", gone);
+                  test.host.faults().plant(1, "*", {{}, 0, true});
                   page.update();
               }},
          }) {

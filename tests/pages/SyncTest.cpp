@@ -57,12 +57,7 @@ protected:
         return texts;
     }
     /// The calls that change something and that the page makes while `work` lasts.
-    QStringList made(const std::function<void()>& work) {
-        page->run("probe.callsBegin(); return 0");
-        work();
-        return page->list(
-            "probe.callsEnd().filter(call => /^(connect|set)/.test(call[0])).map(call => call.join(' ').trim())");
-    }
+    QStringList made(const std::function<void()>& work) { return page->made("^(connect|set)", work); }
     /// Opens the list of frequencies by the mouse.
     void openList() {
         page->click("#externalSyncSelector");
@@ -80,7 +75,15 @@ TEST_F(PageSync, ShowsWhatCanBeDone) {
         std::function<void()> change;
         const char* shown;
     };
-    SignalHub& hub = *test.host.signalDevices().hub(Hub);
+    const auto hubIs = [this](const char* member, const QVariant& value) {
+        return [=] { test.host.signalDevices().hub(Hub)->change({{QLatin1String(member), value}}); };
+    };
+    const auto inMode = [this](zeb::OperatingMode mode) {
+        return [=] {
+            test.host.appStatus().enterMode(mode);
+            page->settle();
+        };
+    };
     const Case cases[] = {
         {"without a source the cameras have the port's signal", [] {}, "go"},
         {"one camera is enough for a signal from outside",
@@ -94,26 +97,10 @@ TEST_F(PageSync, ShowsWhatCanBeDone) {
          },
          "hub go"},
         {"a connected hub", [this] { page->click("#connect_signal_distributor"); }, "hub+ 500,[1000],2000 go"},
-        {"it runs at another frequency",
-         [&] {
-             hub.change({{"frequency", 2000}});
-         },
-         "hub+ 500,1000,[2000] go"},
-        {"it makes no signal",
-         [&] {
-             hub.change({{"frequency", 0}});
-         },
-         "hub+ 500,1000,2000 go"},
-        {"it offers others",
-         [&] {
-             hub.change({{"frequencies", QVariantList{700, 800}}});
-         },
-         "hub+ 700,800 go"},
-        {"it is unplugged",
-         [&] {
-             hub.change({{"found", false}});
-         },
-         "hub+ go"},
+        {"it runs at another frequency", hubIs("frequency", 2000), "hub+ 500,1000,[2000] go"},
+        {"it makes no signal", hubIs("frequency", 0), "hub+ 500,1000,2000 go"},
+        {"it offers others", hubIs("frequencies", QVariantList{700, 800}), "hub+ 700,800 go"},
+        {"it is unplugged", hubIs("found", false), "hub+ go"},
         {"both are",
          [this] {
              test.host.signalDevices().hub(Passing)->change({{"found", false}});
@@ -126,18 +113,8 @@ TEST_F(PageSync, ShowsWhatCanBeDone) {
          "hub"},
         {"the user does not want to see it", [this] { pref("wren/display/externalSync", false); }, "hidden"},
         {"he does again", [this] { pref("wren/display/externalSync", true); }, "hub"},
-        {"in memory mode there is no signal",
-         [this] {
-             test.host.appStatus().enterMode(zeb::MemoryMode);
-             page->settle();
-         },
-         "hidden"},
-        {"in live mode again",
-         [this] {
-             test.host.appStatus().enterMode(zeb::LiveMode);
-             page->settle();
-         },
-         "hub"},
+        {"in memory mode there is no signal", inMode(zeb::MemoryMode), "hidden"},
+        {"in live mode again", inMode(zeb::LiveMode), "hub"},
         {"synchronisation is out of use", [this] { pref("wren/settings/syncInEnable", false); }, "hidden"},
     };
     open();

@@ -197,6 +197,15 @@ void TablePage::pick(const char* key, const char* word, const char* value) {
     click(QStringLiteral(".wren-dropdown .options li:nth-child(%1)").arg(place + 1));
 }
 
+QStringList TablePage::made(const QString& names, const std::function<void()>& work) {
+    run(QStringLiteral("probe.callsBegin(); return 0"));
+    work();
+    settle();
+    return list(QStringLiteral("probe.callsEnd().filter(call => /%1/.test(call[0]))"
+                               ".map(call => [call[0]].concat(call[1]).join(' '))")
+                    .arg(names));
+}
+
 QWindow& TablePage::handle() {
     return *window().windowHandle();
 }

@@ -63,6 +63,10 @@ public:
     /// Chooses in the drop-down of a row, by its list. `word` ends the name of the class of its select.
     void pick(const char* key, const char* word, const char* value);
 
+    /// The calls of the bridge that `work` and the update after it make and whose names match, as "setFrameRate 1,3
+    /// 500".
+    QStringList made(const QString& names, const std::function<void()>& work);
+
     QDialog& window() { return *m_loader.plugin().getDialog(false); }
 
 private:
