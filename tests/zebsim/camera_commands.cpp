@@ -9,17 +9,6 @@
 
 namespace {
 
-/// What `work` throws; empty when it does not.
-template <typename Work>
-std::string thrownBy(Work work) {
-    try {
-        work();
-        return {};
-    } catch (const std::exception& e) {
-        return e.what();
-    }
-}
-
 /// Keys: 1 Gate, 2 Ramp, 3 and 4 the nozzle heads, 5 Roof, 6 Track, 7 Impact, 8 Stand-in.
 class MixedCameras : public testing::Test {
 protected:
@@ -39,18 +28,6 @@ protected:
 
     TestHost test{Rig::fromFile(QStringLiteral("eight-mixed"))};
 };
-
-Fault throwing(const char* text) {
-    Fault fault;
-    fault.throws = QString::fromUtf8(text);
-    return fault;
-}
-
-Fault gone() {
-    Fault fault;
-    fault.gone = true;
-    return fault;
-}
 
 }  // namespace
 
@@ -96,8 +73,8 @@ TEST_F(MixedCameras, TellWhetherAChangeReachesALockedHead) {
 }
 
 TEST_F(MixedCameras, ABatchReachesTheOthersAndNamesThoseThatFail) {
-    plant(2, "setRecordRate", throwing("no answer"));
-    plant(6, "*", throwing("\u30ab\u30e1\u30e9 <b>off</b>"));
+    plant(2, "setRecordRate", Fault{"no answer"});
+    plant(6, "*", Fault{"\u30ab\u30e1\u30e9 <b>off</b>"});
     const auto work = [this] { setRate({1, 2, 6, 5}, 1000); };
     EXPECT_EQ(thrownBy(work), "Ramp: no answer\nTrack: \u30ab\u30e1\u30e9 <b>off</b>");
     EXPECT_EQ(rate(1), 1000u);
@@ -111,16 +88,14 @@ TEST_F(MixedCameras, TakeTheirTimeOnTheClock) {
     setRate({1, 5}, 1000);
     EXPECT_EQ(test.clock.join(), 2 + 8);
 
-    Fault slow;
-    slow.delay = 300;
-    plant(1, "getRecordRate", slow);
+    plant(1, "getRecordRate", {{}, 300, false});
     rate(1);
     rate(5);
     EXPECT_EQ(test.clock.join(), 300);
 }
 
 TEST_F(MixedCameras, AGoneCameraHasNoDocument) {
-    plant(2, "*", gone());
+    plant(2, "*", {{}, 0, true});
     EXPECT_EQ(test.doc(2), nullptr);
     EXPECT_EQ(test.host.docManager().getDocKeys(), (DocKeyList{1, 3, 4, 5, 6, 7, 8}));
     test.host.docManager().selectDoc(2);
@@ -131,7 +106,7 @@ TEST_F(MixedCameras, AGoneCameraHasNoDocument) {
 }
 
 TEST_F(MixedCameras, ACameraMayVanishInTheMiddleOfACall) {
-    plant(1, "setRecordRate", gone());
+    plant(1, "setRecordRate", {{}, 0, true});
     const DocList docs = test.docs({1, 2});
     EXPECT_EQ(thrownBy([&] { test.host.cameraOps().setRecordRate(docs, 1000); }), "");
     EXPECT_EQ(test.doc(1), nullptr);
@@ -150,8 +125,8 @@ TEST_F(MixedCameras, OnesThatAreNotConnectedAnswerOnlyWhatTheHostKnows) {
 
 TEST_F(MixedCameras, FailuresToConnectAreShownInOneBox) {
     test.host.docManager().disconnectDocs({1, 2, 3});
-    plant(1, "connectDocs", throwing("refused"));
-    plant(3, "connectDocs", throwing("no route"));
+    plant(1, "connectDocs", Fault{"refused"});
+    plant(3, "connectDocs", Fault{"no route"});
     test.host.docManager().connectDocs({1, 2, 3});
     EXPECT_EQ(test.desk.texts(), QStringList{QStringLiteral("Gate: refused\nNozzle left: no route")});
     EXPECT_EQ(test.host.docManager().getConnectedDocKeys(), (DocKeyList{2, 5, 6, 7, 8}));

@@ -54,9 +54,7 @@ TEST_F(Messages, AFailureIsABoxAndALineEachTimeAndOneOfTheCycleOnlyANotice) {
     Course log;
     host.docManager().connectDocs({1});
     test.camera(1).set(&CameraState::name, QStringLiteral("Gate\nERROR forged"));
-    Fault fault;
-    fault.throws = QStringLiteral("no \"answer\"");
-    host.faults().plant(1, QStringLiteral("getRecordRate"), fault);
+    host.faults().plant(1, QStringLiteral("getRecordRate"), Fault{"no \"answer\""});
     for (int i = 0; i < 2; ++i) {
         try {
             test.doc(1)->control().getRecordRate(0);
@@ -138,9 +136,7 @@ TEST_F(Messages, FaultsAndJournalBearManyThreads) {
     const quint64 mark = host.journal().count();
     auto work = [this](DOCKEY key) {
         for (int i = 0; i < 500; ++i) {
-            Fault fault;
-            fault.throws = QStringLiteral("no");
-            host.faults().plant(key, QStringLiteral("getRecordRate"), i % 2 ? Fault() : fault);
+            host.faults().plant(key, QStringLiteral("getRecordRate"), i % 2 ? Fault() : Fault{"no"});
             host.journal().record("call", {key});
             try {
                 test.camera(key).setRecordRate(50);

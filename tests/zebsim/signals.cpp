@@ -15,16 +15,6 @@ namespace {
 const QString MasterHub = QStringLiteral("192.168.0.61");
 const QString OtherHub = QStringLiteral("192.168.0.62");
 
-template <typename Work>
-std::string thrownBy(Work work) {
-    try {
-        work();
-        return {};
-    } catch (const std::exception& e) {
-        return e.what();
-    }
-}
-
 /// Hands the cameras over as the table does: external by its frequency or by the hubs, or a chain.
 struct Handover {
     int lport = zeb::SyncPortNone;
@@ -57,9 +47,7 @@ protected:
         return hubs.search(3, 1);
     }
     void plant(DOCKEY key, const char* operation, const char* text) {
-        Fault fault;
-        fault.throws = QString::fromUtf8(text);
-        test.host.faults().plant(key, QString::fromLatin1(operation), fault);
+        test.host.faults().plant(key, QString::fromLatin1(operation), Fault{QString::fromUtf8(text)});
     }
     SignalHub& hub(const QString& address) { return *hubs.hub(address); }
 
@@ -98,6 +86,10 @@ TEST_F(Signals, ASearchConnectsTheHubsThatAnswer) {
 TEST_F(Signals, CamerasSeeTheSignalThatTheyWereSynchronisedWith) {
     int generator = -1;
     test.host.syncSignal().setGenerator([&] { return generator; });
+    const Fault Gone{{}, 0, true};
+    const auto hubIs = [this](const char* member, const QVariant& value) {
+        return [=] { hub(MasterHub).change({{QLatin1String(member), value}}); };
+    };
     const struct {
         const char* what;
         Handover how;
@@ -114,36 +106,14 @@ TEST_F(Signals, CamerasSeeTheSignalThatTheyWereSynchronisedWith) {
         {"it is set faster", external(1000), [&] { generator = 1001; }, "Over Sync"},
         {"it is switched off", external(1000), [&] { generator = 0; }, "No Sync"},
         {"a hub", throughHubs, {}, "Sync In"},
-        {"the hub gets another frequency", throughHubs,
-         [&] {
-             hub(MasterHub).change({{"frequency", 2000}});
-         },
-         "Over Sync"},
-        {"the hub is unplugged", throughHubs,
-         [&] {
-             hub(MasterHub).change({{"found", false}});
-         },
-         "No Sync"},
-        {"the hub falls silent", throughHubs,
-         [&] {
-             hub(MasterHub).change({{"frequency", 0}});
-         },
-         "No Sync"},
-        {"the hub only passes on", throughHubs,
-         [&] {
-             hub(MasterHub).change({{"role", 1}});
-         },
-         "No Sync"},
+        {"the hub gets another frequency", throughHubs, hubIs("frequency", 2000), "Over Sync"},
+        {"the hub is unplugged", throughHubs, hubIs("found", false), "No Sync"},
+        {"the hub falls silent", throughHubs, hubIs("frequency", 0), "No Sync"},
+        {"the hub only passes on", throughHubs, hubIs("role", 1), "No Sync"},
         {"a chain", chain, {}, "Sync In"},
         {"the master of the chain gets faster", chain, [&] { test.camera(1).setRecordRate(2000); }, "Over Sync"},
         {"the master is disconnected", chain, [&] { test.camera(1).disconnect(); }, "No Sync"},
-        {"the master is gone", chain,
-         [&] {
-             Fault gone;
-             gone.gone = true;
-             test.host.faults().plant(1, "*", gone);
-         },
-         "No Sync"},
+        {"the master is gone", chain, [&] { test.host.faults().plant(1, "*", Gone); }, "No Sync"},
     };
     test.camera(2).change({{"syncStatus", "Not supported"}});
     EXPECT_EQ(status(2), "Not supported") << "never synchronised";
@@ -172,9 +142,7 @@ TEST_F(Signals, OnlyCamerasThatAreThereCanBeSynchronised) {
     EXPECT_FALSE(canSync()) << "saving";
     test.host.flags().set("IsSaving", false);
     const DocList docs = test.docs({1, 2});
-    Fault gone;
-    gone.gone = true;
-    test.host.faults().plant(2, "*", gone);
+    test.host.faults().plant(2, "*", {{}, 0, true});
     EXPECT_FALSE(ops.canSync(docs)) << "gone";
     test.host.faults().clear();
     test.camera(1).disconnect();

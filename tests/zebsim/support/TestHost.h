@@ -12,6 +12,17 @@
 #include <QStringBuilder>
 #include <QTemporaryDir>
 
+/// What `work` throws; empty when it does not.
+template <typename Work>
+std::string thrownBy(Work work) {
+    try {
+        work();
+        return {};
+    } catch (const std::exception& e) {
+        return e.what();
+    }
+}
+
 /// A host without windows, with preferences of its own, on a clock that the test steps.
 struct TestHost {
     explicit TestHost(const Rig& rig = Rig::standard(0)) {
