@@ -7,7 +7,6 @@
 #include <QEventLoop>
 #include <QFileDialog>
 #include <QFutureWatcher>
-#include <QLibrary>
 #include <QTest>
 #include <QThread>
 #include <QWebFrame>
@@ -34,13 +33,13 @@ OtherHost::OtherHost() {
     prepareModes();
     prepareDocuments();
     for (const DOCKEY key : {1, 2, 3}) addCamera(key);
-    prepareRecords();
     preparePrefs();
     prepareBoxes();
     prepareWorkers();
     preparePages();
     QObject::connect(&m_modals, &QTimer::timeout, [this] { lookForModal(); });
     m_modals.start(1);
+    load();
 }
 
 OtherHost::~OtherHost() {
@@ -48,13 +47,13 @@ OtherHost::~OtherHost() {
     unload();
     QCoreApplication::processEvents();  // what the plug-in still had to clear away
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_TRUE(m_library.unload());  // the texts that `prefs` has from it go later
     current = nullptr;
 }
 
 void OtherHost::load() {
-    QLibrary library(QStringLiteral(WREN_LIBRARY));
-    const auto make = reinterpret_cast<PLG_Interface* (*)()>(library.resolve("makeButtonPlugin"));
-    ASSERT_TRUE(make) << library.errorString().toStdString();
+    const auto make = reinterpret_cast<PLG_Interface* (*)()>(m_library.resolve("makeButtonPlugin"));
+    ASSERT_TRUE(make) << m_library.errorString().toStdString();
     plugin.reset(make());
     plugin->setHost(this);
 }
@@ -87,19 +86,18 @@ QString OtherHost::run(const QString& script) {
 }
 
 void OtherHost::show(int tab) {
-    run(QStringLiteral("void $('#tabs').tabs('option', 'active', %1)").arg(tab));
+    run(QString("void $('#tabs').tabs('option', 'active', %1)").arg(tab));
     update();
 }
 
 QStringList OtherHost::rows() {
+    const QString script =
+        "Array.from(document.querySelectorAll(`#grid_${TABS[%1].gridName}_records tr[recid]`),"
+        "           row => `${TABS[%1].name} ${row.innerHTML}`).join('\\n')";
     QStringList rows;
     for (int tab = 0; tab < Tabs; ++tab) {
         show(tab);
-        rows +=
-            run(QStringLiteral("Array.from(document.querySelectorAll(`#grid_${TABS[%1].gridName}_records tr[recid]`),"
-                               "           row => `${TABS[%1].name} ${row.innerHTML}`).join('\\n')")
-                    .arg(tab))
-                .split(QLatin1Char('\n'));
+        rows += run(script.arg(tab)).split('\n');
     }
     show(0);
     return rows;
@@ -124,20 +122,19 @@ void OtherHost::prepareModes() {
     onIsMemoryMode = [this] { return mode == zeb::MemoryMode; };
     onIsFileMode = [this] { return mode == zeb::FileMode; };
     const auto enter = [this](int wanted) {
-        mode = wanted;
-        updateUI(zeb::UpdateAll, true);
+        return [this, wanted] {
+            mode = wanted;
+            updateUI(zeb::UpdateAll, true);
+        };
     };
-    appStatusPart.onEnterLiveMode = [enter] { enter(zeb::LiveMode); };
-    appStatusPart.onEnterMemoryMode = [enter] { enter(zeb::MemoryMode); };
+    appStatusPart.onEnterLiveMode = enter(zeb::LiveMode);
+    appStatusPart.onEnterMemoryMode = enter(zeb::MemoryMode);
     appStatusPart.onSetWrenRunning = [this](bool on) { running = on; };
     appStatusPart.onIsWrenRunning = [this] { return running; };
-    appStatusPart.onGetPlugin = [this](const QString& name) {
-        return name == QLatin1String("wren") ? plugin.get() : nullptr;
-    };
+    appStatusPart.onGetPlugin = [this](const QString& name) { return name == "wren" ? plugin.get() : nullptr; };
     appStatusPart.onClosePlugin = [this](const QString& name) {
-        const bool isWren =
-            QString(name) == QLatin1String("wren");  // read here, as a host may that has destroyed the plug-in
-        if (isWren && plugin) plugin->deactivate();
+        const QString closed = name;  // read here, as a host may that has destroyed the plug-in
+        if (closed == "wren" && plugin) plugin->deactivate();
     };
 }
 
@@ -156,14 +153,9 @@ void OtherHost::prepareDocuments() {
     docs.onGetDoc = [docOf](DOCKEY key, int) { return docOf(key); };
     docs.onGetDocAny = docOf;
     docs.onGetCurrentDoc = [docOf] { return docOf(1); };
-    docs.onIsCurrentDoc = [](DOCKEY key) { return key == 1; };
-    docs.onGetCurrentDockey = [](int) { return 1; };
-    docs.onGetDocKeys = docs.onGetConnectedDocKeys = [this](int) { return keys(nullptr); };
+    docs.onGetDocKeys = [this](int) { return keys(nullptr); };
     docs.onGetConnectedDocKeys = [this](int) { return keys(&Camera::State::connected); };
-    docs.onGetSelectedDocKeys = [this](int) { return keys(&Camera::State::selected); };
     docs.onGetLiveDocKeys = [this](int, int) { return keys(nullptr); };
-    docs.onGetDocCount = [this] { return int(cameras.size()); };
-    docs.onGetSelectedDocCount = [this] { return keys(&Camera::State::selected).size(); };
     docs.onGetCameraDocs = [this] {
         DocList list;
         for (const auto& camera : cameras) list.append(&camera->doc);
@@ -188,25 +180,26 @@ void OtherHost::addCamera(DOCKEY key) {
     camera.doc.onGetKey = [key] { return key; };
     camera.doc.onIsConnected = [&camera] { return camera.state.connected; };
     camera.doc.onIsSelected = [&camera] { return camera.state.selected; };
-    camera.doc.onGetAlerts = [] { return QStringList{QStringLiteral("Hot")}; };
+    camera.doc.onGetAlerts = [] { return QStringList{"Hot"}; };
     camera.doc.onGetHeadDocs = [&camera](int) { return DocList{&camera.doc}; };
-    camera.doc.onGetPartitionName = [](PARTITIONNUMBER number) { return QStringLiteral("Part %1").arg(number); };
     camera.doc.lockPart.onIsParamLocked = [&camera] { return camera.state.locked; };
     camera.doc.lockPart.onSetParamLock = [&camera](bool lock) { camera.state.locked = lock; };
     camera.doc.framesPart.onGetFrameCount = [](int, int) { return 100; };
     camera.doc.framesPart.onGetLastFrame = camera.doc.framesPart.onGetFrameCount;
     camera.doc.framesPart.onIsRecordCheck = [&camera] { return camera.state.checked; };
     camera.doc.framesPart.onSetRecordCheck = [&camera](bool check) { camera.state.checked = check; };
-    camera.doc.storagePart.onGetPluginNames = [] { return QStringList{QStringLiteral("lut")}; };
+    camera.doc.storagePart.onGetPluginNames = [] { return QStringList{"lut"}; };
+    camera.doc.controlPart.onHasRecordedData = [&camera] { return camera.state.recorded; };
+    camera.doc.controlPart.onEraseRecordedData = [&camera](int) { camera.state.recorded = false; };
     prepareControl(key, camera.doc.controlPart);
 }
 
 void OtherHost::prepareControl(DOCKEY key, OtherDOC_Control& control) {
-    control.onGetCameraName = [key](int) { return QStringLiteral("Camera %1").arg(key); };
-    control.onGetAddress = [key](int) { return QStringLiteral("10.0.0.%1").arg(key); };
+    control.onGetCameraName = [key](int) { return QString("Camera %1").arg(key); };
+    control.onGetAddress = [key](int) { return QString("10.0.0.%1").arg(key); };
     control.onIsFunctionSupported = [](int, int) { return true; };
     control.onHasSyncStatus = [] { return true; };
-    control.onGetSyncStatusText = [] { return QStringLiteral("Sync In"); };
+    control.onGetSyncStatusText = [] { return "Sync In"; };
     control.onGetPortList = [](int) { return QList<int>{1, 2}; };
     control.onGetPortSignal = [](int index) { return index == 1 ? zeb::SignalOnCamPos : zeb::SignalTrigPos; };
     control.onGetRecordRate = [](int) { return 2000; };
@@ -214,33 +207,25 @@ void OtherHost::prepareControl(DOCKEY key, OtherDOC_Control& control) {
     control.onGetResolution = [] { return QSize(512, 512); };
     control.onGetResolutionList = [] { return QList<QSize>{{512, 512}, {1024, 1024}}; };
     control.onGetShutterSpeed = [] { return 2000; };
-    control.onGetShutterSpeedEntries = [] { return QStringList{QStringLiteral("2000;1/2000 sec;1")}; };
+    control.onGetShutterSpeedEntries = [] { return QStringList{"2000;1/2000 sec;1"}; };
     control.onGetTriggerModeList = [] { return QList<int>{zeb::TriggerStart, zeb::TriggerManual}; };
-    control.onGetPartitionCount = [](int, int) { return 2; };
-    control.onGetCurrentPartition = [](int) { return 1; };
-}
-
-void OtherHost::prepareRecords() {
-    cameraOpsPart.onCanSync = [](const DocList&) { return true; };
-    viewOpsPart.onGetZoom = [](DOCKEY) { return 1.0; };
-    mdiPart.onCountMdiWindow = [](bool, int) { return 1; };
-    onGetSyncCapableCameraTypes = [] { return QList<int>{0}; };
 }
 
 QVariant OtherHost::pref(const QString& key, const QVariant& defaultValue) const {
-    if (key.startsWith(QLatin1String("wren/display/"))) return true;
+    if (key.startsWith("wren/display/")) return true;
     return prefs.value(key, defaultValue);
 }
 
 void OtherHost::preparePrefs() {
-    prefs = {{QStringLiteral("alert/setsynchronization"), true},
-             {QStringLiteral("alert/wren/multiheadlockalert"), true},
-             {QStringLiteral("main/scrno"), -1},
-             {QStringLiteral("wren/column_order/cameraInfo"), QStringLiteral("cameraName,lock,comment")},
-             {QStringLiteral("wren/settings/done"), true},
-             {QStringLiteral("wren/table/h"), 700},
-             {QStringLiteral("wren/table/interval"), 7},
-             {QStringLiteral("wren/table/w"), 1300}};
+    prefs = {{"alert/setsynchronization", true},
+             {"alert/wren/multiheadlockalert", true},
+             {"main/scrno", -1},
+             {"wren/column_order/cameraInfo", "cameraName,lock,comment"},
+             {"wren/settings/done", true},
+             {"wren/settings/syncInEnable", true},
+             {"wren/table/h", 700},
+             {"wren/table/interval", 7},
+             {"wren/table/w", 1300}};
     onGetPref = [this](const QString& key, const QVariant& value) { return pref(key, value); };
     onGetPrefInt = [this](const QString& key, const QVariant& value) { return pref(key, value).toInt(); };
     onGetPrefBool = [this](const QString& key, const QVariant& value) { return pref(key, value).toBool(); };
@@ -262,11 +247,11 @@ void OtherHost::prepareBoxes() {
     };
     onErrorHandler = [this](const std::exception& e) { errors.append(QString::fromUtf8(e.what())); };
     onGetPrefsDialog = [this] { return &m_prefsDialog; };
-    onIsReady = [] { return true; };
     onSetTextBoxFocusState = [this](bool focused) { textBoxFocused = focused; };
 }
 
 void OtherHost::prepareWorkers() {
+    cameraOpsPart.onSetReduceMode = [](const DocList&, bool) { throw std::runtime_error("no answer"); };
     onExecProgress = [this](const QString&, QFutureWatcherBase& watcher) {
         m_watched.release();
         QEventLoop loop;
@@ -277,6 +262,8 @@ void OtherHost::prepareWorkers() {
         m_watched.acquire();
         return true;
     };
+    onGetSyncCapableCameraTypes = [] { return QList<int>{0}; };
+    cameraOpsPart.onCanSync = [](const DocList&) { return true; };
     cameraOpsPart.onSyncCameras = [this](const DocList&, DOC_Interface*, int, bool, bool, int, int, int) {
         m_watched.acquire();
     };
@@ -293,7 +280,7 @@ void OtherHost::lookForModal() {
     if (name == "GUI_SyncProgress") {
         m_watched.release();
     } else if (auto* dialog = qobject_cast<QDialog*>(m_modal)) {
-        if (auto* files = qobject_cast<QFileDialog*>(dialog)) files->selectFile(QStringLiteral("/tmp/support.zip"));
+        if (auto* files = qobject_cast<QFileDialog*>(dialog)) files->selectFile("/tmp/support.zip");
         agrees ? dialog->accept() : dialog->reject();
     }
 }

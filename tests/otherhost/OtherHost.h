@@ -4,6 +4,7 @@
 #include "PLG_Interface.h"
 #include "ZebPageBridge.h"
 
+#include <QLibrary>
 #include <QMap>
 #include <QMutex>
 #include <QPointer>
@@ -15,7 +16,8 @@
 #include <vector>
 
 /// A host that has nothing in common with the stand-in host but the headers of the boundary and the resources of its
-/// pages. It has three cameras. What is not told here it answers with nothing.
+/// pages. It has loaded the plug-in and has three cameras. What is not told here it answers with nothing. One at a
+/// time.
 class OtherHost : public OtherZebHost {
 public:
     static constexpr int Tabs = 7;
@@ -27,14 +29,13 @@ public:
             bool selected = true;
             bool locked = false;
             bool checked = false;
+            bool recorded = true;
         } state;
     };
 
     OtherHost();
     ~OtherHost() override;
 
-    /// Loads the plug-in; a second one only after `unload`.
-    void load();
     void unload() { plugin.reset(); }
     void close() { plugin->closeDialog(); }
     /// As the plug-in's button does.
@@ -70,11 +71,11 @@ public:
     QPointer<ZebPageBridge> bridge;
 
 private:
+    void load();
     void prepareModes();
     void prepareDocuments();
     void addCamera(DOCKEY key);
     void prepareControl(DOCKEY key, OtherDOC_Control& control);
-    void prepareRecords();
     void preparePrefs();
     void prepareBoxes();
     void prepareWorkers();
@@ -84,6 +85,7 @@ private:
     DocKeyList keys(bool Camera::State::*which) const;
     QVariant pref(const QString& key, const QVariant& defaultValue) const;
 
+    QLibrary m_library{WREN_LIBRARY};
     QMutex m_docMutex;
     QObject m_pageObject;
     OtherZebPrefsDialog m_prefsDialog;

@@ -11,9 +11,11 @@
 
 #include <gmock/gmock.h>
 
+#include <optional>
+
 namespace {
 
-const QString RecAll = QStringLiteral("recording/RecAllConnectedCamera");
+const QString RecAll = "recording/RecAllConnectedCamera";
 
 using Operations = QSet<QByteArray>;
 
@@ -55,63 +57,40 @@ const Act Closed{"closed", LookedAt.prepare, [](OtherHost& host) { host.close();
 /// A call of each slot of the table's bridge, as its page makes it, and what needs more than one.
 std::vector<Act> pageActs() {
     OtherHost host;
-    host.load();
     host.open();
     const QMap<QByteArray, QString> values{{"QVariantList", "[1, 2, 3]"},
                                            {"QStringList", "['a']"},
                                            {"bool", "true"},
                                            {"QString", "'2'"},
                                            {"DOC_Interface*", "null"}};
-    QStringList calls{QStringLiteral("setParamLock([1, 2, 3], true); wrentabledialog.record()"),
-                      QStringLiteral("connect([1, 2, 3], false); wrentabledialog.connect([1, 2, 3], true)"),
-                      QStringLiteral("enterMemoryMode(); wrentabledialog.save()"),
-                      QStringLiteral("enterMemoryMode(); wrentabledialog.saveLayout()")};
+    QStringList calls{"setParamLock([1, 2, 3], true); wrentabledialog.record()",
+                      "connect([1, 2, 3], false); wrentabledialog.connect([1, 2, 3], true)",
+                      "enterMemoryMode(); wrentabledialog.save()", "enterMemoryMode(); wrentabledialog.saveLayout()"};
     const QMetaObject& type = *host.bridge->metaObject();
     for (int i = QObject::staticMetaObject.methodCount(); i < type.methodCount(); ++i) {
         const QMetaMethod method = type.method(i);
         if (method.methodType() != QMetaMethod::Slot || method.name() == "deterUpdateUI") continue;
         QStringList arguments;
         for (const QByteArray& argument : method.parameterTypes()) arguments << values.value(argument, "1");
-        calls << QString(method.name() % QLatin1Char('(') % arguments.join(", ") % QLatin1Char(')'));
+        calls << QString("%1(%2)").arg(method.name(), arguments.join(", "));
     }
     std::vector<Act> acts;
     for (const QString& call : calls) {
         acts.push_back({call.toStdString(), LookedAt.prepare,
-                        [call](OtherHost& one) { one.run(QStringLiteral("void wrentabledialog.") % call); }});
+                        [call](OtherHost& one) { one.run("void wrentabledialog." % call); }});
     }
     return acts;
 }
 
-std::unique_ptr<OtherHost> loaded() {
-    auto host = std::make_unique<OtherHost>();
-    host->prefs[QStringLiteral("wren/settings/syncInEnable")] = true;
-    host->cameraOpsPart.onSetReduceMode = [](const DocList&, bool) { throw std::runtime_error("no answer"); };
-    host->load();
-    return host;
-}
-
-/// Hears the calls of a host while it lives.
-class Ear {
-public:
-    Ear(OtherHost& host, const std::function<void(const QByteArray&, bool)>& hear) : m_host(host) {
-        host.onCall = hear;
-    }
-    ~Ear() { m_host.onCall = nullptr; }
-    Q_DISABLE_COPY(Ear)
-
-private:
-    OtherHost& m_host;
-};
-
 /// The operations that an act calls and that may throw.
 Operations operationsOf(const Act& act) {
     Operations operations;
-    const std::unique_ptr<OtherHost> host = loaded();
-    act.prepare(*host);
-    const Ear ear(*host, [&operations](const QByteArray& operation, bool mayThrow) {
+    OtherHost host;
+    act.prepare(host);
+    host.onCall = [&operations](const QByteArray& operation, bool mayThrow) {
         if (mayThrow) operations << operation;
-    });
-    act.act(*host);
+    };
+    act.act(host);
     return operations;
 }
 
@@ -137,9 +116,9 @@ protected:
     /// The rows of a table that nothing has happened to; the first loading starts what lasts.
     OtherHostTest() {
         static const QStringList rows = [] {
-            const std::unique_ptr<OtherHost> host = loaded();
-            host->openWhole();
-            return host->rows();
+            OtherHost host;
+            host.openWhole();
+            return host.rows();
         }();
         m_rows = rows;
         m_before = Leftovers::now();
@@ -165,6 +144,7 @@ protected:
         const Leftovers now = Leftovers::now();
         EXPECT_LT(now.objects, m_before.objects + count) << "after " << count;
         EXPECT_LT(now.timers, m_before.timers + count) << "after " << count;
+        EXPECT_LT(now.threads, m_before.threads + count) << "after " << count;
     }
 
     Course quiet;
@@ -179,37 +159,34 @@ class FaultTest : public OtherHostTest, public testing::WithParamInterface<bool>
 }  // namespace
 
 TEST_F(OtherHostTest, showsItsCamerasOnEachTabAndAgain) {
-    const std::unique_ptr<OtherHost> host = loaded();
+    OtherHost host;
     for (int round = 0; round < 2; ++round) {
-        host->openWhole();
+        host.openWhole();
         for (const char* camera : {">Camera 1<", ">Camera 2<", ">Camera 3<"})
-            EXPECT_EQ(host->rows().filter(camera).size(), 7) << camera;
-        expectWhole(*host);
-        EXPECT_TRUE(host->prefs[RecAll].toBool());
-        host->close();
-        expectOver(*host);
+            EXPECT_EQ(host.rows().filter(camera).size(), OtherHost::Tabs) << camera;
+        expectWhole(host);
+        EXPECT_TRUE(host.prefs[RecAll].toBool());
+        host.close();
+        expectOver(host);
     }
 }
 
 TEST_P(FaultTest, isOverWhenItIsGone) {
     const bool always = GetParam();
-    std::unique_ptr<OtherHost> host;
     for (const Act& act : {Opened, LookedAt, Closed}) {
         if (!always && act.name == LookedAt.name) continue;
-        host.reset();
-        for (const QByteArray& operation : operationsOf(act)) {
+        const Operations operations = operationsOf(act);
+        std::optional<OtherHost> host;
+        for (const QByteArray& operation : operations) {
             SCOPED_TRACE(act.name + ", " + operation.toStdString());
-            if (act.name == Opened.name) host.reset();
-            if (!host) host = loaded();
+            if (!host || act.name == Opened.name) host.emplace();
             act.prepare(*host);
-            {
-                bool over = false;
-                const Ear ear(*host, [&](const QByteArray& name, bool) {
-                    if (name == operation && (always || !std::exchange(over, true)))
-                        throw std::runtime_error("no answer");
-                });
-                act.act(*host);
-            }
+            bool over = false;
+            host->onCall = [&](const QByteArray& name, bool) {
+                if (name == operation && (always || !std::exchange(over, true))) throw std::runtime_error("no answer");
+            };
+            act.act(*host);
+            host->onCall = nullptr;
             if (act.name == Closed.name) {
                 host->openWhole();  // a close that failed is made up for by the next one
                 host->close();
@@ -225,45 +202,44 @@ INSTANTIATE_TEST_SUITE_P(AtTheFirstCallAndAtEach, FaultTest, testing::Bool());
 
 TEST_F(OtherHostTest, bearsEveryRefusal) {
     const std::vector<Act> acts = pageActs();
-    const std::unique_ptr<OtherHost> host = loaded();
-    host->agrees = false;
-    host->openWhole();
+    OtherHost host;
+    host.openWhole();
+    host.agrees = false;
     for (const Act& act : acts) {
-        host->rest();
-        act.act(*host);
+        host.rest();
+        act.act(host);
         EXPECT_FALSE(QApplication::activeModalWidget()) << act.name;
     }
-    host->rest();
-    host->run(QStringLiteral("wrentabledialog.onOpen()"));  // one of the calls was the page's answer to a close
-    expectWhole(*host);
+    host.rest();
+    host.run("wrentabledialog.onOpen()");  // one of the calls was the page's answer to a close
+    expectWhole(host);
 }
 
 TEST_F(OtherHostTest, mayBeDestroyedAtEachOfTheMoments) {
     std::vector<Act> acts{Opened, OpenedAgain, Activated, Closed};
     for (const Act& act : pageActs()) acts.push_back(act);
     Operations missing(Moments.begin(), Moments.end());
-    std::unique_ptr<OtherHost> host;
+    std::optional<OtherHost> host;
     int loads = 0;
     for (const Act& act : acts) {
-        bool destroyed = true;
-        for (int count = 1; destroyed; ++count) {
+        int left = 0;
+        for (int count = 1; left <= 0; ++count) {
             if (!host || !host->plugin) {
-                host.reset();
-                host = loaded();
+                host.emplace();
                 ++loads;
             }
             host->rest();
             act.prepare(*host);
-            int left = count;
-            const Ear ear(*host, [&](const QByteArray& operation, bool) {
+            left = count;
+            host->onCall = [&](const QByteArray& operation, bool) {
                 if (!Moments.contains(operation) || --left != 0) return;
                 missing.remove(operation);
                 host->unload();
-            });
+            };
             act.act(*host);
             QCoreApplication::processEvents();
-            destroyed = left <= 0;
-            EXPECT_TRUE(!destroyed || host->windows().isEmpty()) << act.name << ", " << count;
+            host->onCall = nullptr;
+            EXPECT_TRUE(left > 0 || host->windows().isEmpty()) << act.name << ", " << count;
         }
     }
     host.reset();
@@ -275,92 +251,100 @@ TEST_F(OtherHostTest, mayBeDestroyedInTheBoxOfItsFailure) {
     int destroyed = 0;
     for (const Act& act : {Opened, OpenedAgain, Closed}) {
         for (const QByteArray& operation : operationsOf(act)) {
-            const std::unique_ptr<OtherHost> host = loaded();
-            act.prepare(*host);
-            const Ear ear(*host, [&](const QByteArray& name, bool) {
+            OtherHost host;
+            act.prepare(host);
+            host.onCall = [&](const QByteArray& name, bool) {
                 if (name == operation) throw std::runtime_error("no answer");
                 if (name != "ZebHost::errorHandler") return;
                 ++destroyed;
-                host->unload();
-            });
-            act.act(*host);
+                host.unload();
+            };
+            act.act(host);
             QCoreApplication::processEvents();
-            EXPECT_TRUE(host->plugin || host->windows().isEmpty()) << act.name << ", " << operation.toStdString();
+            EXPECT_TRUE(host.plugin || host.windows().isEmpty()) << act.name << ", " << operation.toStdString();
         }
     }
+    EXPECT_GT(destroyed, 50);
     expectNothingLeft(destroyed);
 }
 
 TEST_F(OtherHostTest, mayBeDestroyedWhileItsPageLoads) {
     for (const char* signal : {SIGNAL(loadProgress(int)), SIGNAL(loadFinished(bool))}) {
-        const std::unique_ptr<OtherHost> host = loaded();
-        host->open();
-        EXPECT_TRUE(QSignalSpy(host->view, signal).wait()) << signal;
-        host->unload();
-        EXPECT_EQ(host->windows(), QStringList()) << signal;
-        EXPECT_FALSE(host->prefs[RecAll].toBool()) << signal;
+        OtherHost host;
+        host.open();
+        EXPECT_TRUE(QSignalSpy(host.view, signal).wait()) << signal;
+        host.unload();
+        EXPECT_EQ(host.windows(), QStringList()) << signal;
+        EXPECT_FALSE(host.prefs[RecAll].toBool()) << signal;
     }
 }
 
+namespace {
+
+/// How a table stands that is to end.
+struct Standing {
+    const char* sentence;
+    std::function<void(OtherHost&)> open;
+    /// What the user is told at the opening, and at the end.
+    QStringList told;
+    bool hasPage = true;
+};
+
+const Standing Standings[] = {
+    {"before its page has loaded", [](OtherHost& host) { host.open(); }, {}},
+    {"when its page has failed",
+     [](OtherHost& host) {
+         host.open();
+         host.view->stop();
+     },
+     {},
+     false},
+    {"while a text box has the keyboard",
+     [](OtherHost& host) {
+         host.openWhole();
+         host.run("wrentabledialog.setTextBoxFocusState(true)");
+         EXPECT_TRUE(host.textBoxFocused);
+     },
+     {}},
+    {"with cameras that fail and the bar on the screen",
+     [](OtherHost& host) {
+         for (const int camera : {0, 2}) {
+             const auto fails = [](bool) { throw std::runtime_error("no answer"); };
+             host.cameras[camera]->doc.lockPart.onSetParamLock = fails;
+             host.cameras[camera]->doc.framesPart.onSetRecordCheck = fails;
+         }
+         host.openWhole();
+         host.run("wrentabledialog.showReadyProgress()");
+         EXPECT_EQ(host.windows().size(), 2);
+     },
+     {"Camera 1: no answer\nCamera 3: no answer"}},
+};
+
+}  // namespace
+
 TEST_F(OtherHostTest, endsItsSessionHoweverItCloses) {
-    const auto fail = [](OtherHost::Camera& camera) {
-        const auto throws = [](bool) { throw std::runtime_error("no answer"); };
-        camera.doc.lockPart.onSetParamLock = throws;
-        camera.doc.framesPart.onSetRecordCheck = throws;
-    };
-    const auto focusTextBox = [](OtherHost& host) {
-        host.openWhole();
-        host.run(QStringLiteral("wrentabledialog.setTextBoxFocusState(true)"));
-        EXPECT_TRUE(host.textBoxFocused);
-    };
-    const auto failWithBar = [&](OtherHost& host) {
-        fail(*host.cameras[0]);
-        fail(*host.cameras[2]);
-        host.openWhole();
-        host.run(QStringLiteral("wrentabledialog.showReadyProgress()"));
-        EXPECT_EQ(host.windows().size(), 2);
-    };
-    const struct {
-        const char* sentence;
-        std::function<void(OtherHost&)> open;
-        bool hasPage;
-        QStringList told;
-    } rows[] = {
-        {"before its page has loaded", [](OtherHost& host) { host.open(); }, true, {}},
-        {"when its page has failed",
-         [](OtherHost& host) {
-             host.open();
-             host.view->stop();
-         },
-         false,
-         {}},
-        {"while a text box has the keyboard", focusTextBox, true, {}},
-        {"with cameras that fail and the bar on the screen",
-         failWithBar,
-         true,
-         {QStringLiteral("Camera 1: no answer\nCamera 3: no answer")}},
-    };
-    for (const auto& row : rows) {
+    for (const Standing& standing : Standings) {
         for (const bool destroyed : {false, true}) {
-            SCOPED_TRACE(std::string(row.sentence) + (destroyed ? ", destroyed" : ", closed"));
-            const std::unique_ptr<OtherHost> host = loaded();
-            host->cameras[1]->state.locked = true;
-            row.open(*host);
-            EXPECT_FALSE(host->cameras[1]->state.locked);
-            EXPECT_TRUE(host->prefs[RecAll].toBool());
-            EXPECT_EQ(host->errors, row.told);
-            host->errors.clear();
-            host->cameras[1]->state.locked = host->cameras[1]->state.checked = true;
-            destroyed ? host->unload() : host->close();
-            EXPECT_FALSE(host->cameras[1]->state.locked || host->cameras[1]->state.checked);
-            host->running = host->running && !destroyed;
-            expectOver(*host);
-            EXPECT_EQ(activeTimers(host->prefs[QStringLiteral("wren/table/interval")].toInt()), 0);
+            SCOPED_TRACE(std::string(standing.sentence) + (destroyed ? ", destroyed" : ", closed"));
+            OtherHost host;
+            OtherHost::Camera::State& healthy = host.cameras[1]->state;
+            healthy.locked = true;
+            standing.open(host);
+            EXPECT_FALSE(healthy.locked);
+            EXPECT_TRUE(host.prefs[RecAll].toBool());
+            EXPECT_EQ(host.errors, standing.told);
+            host.errors.clear();
+            healthy.locked = healthy.checked = true;
+            destroyed ? host.unload() : host.close();
+            EXPECT_FALSE(healthy.locked || healthy.checked);
+            host.running = host.running && !destroyed;
+            expectOver(host);
+            EXPECT_EQ(activeTimers(host.prefs["wren/table/interval"].toInt()), 0);
             if (destroyed) continue;
-            EXPECT_EQ(host->errors, row.told);
-            row.hasPage ? host->openWhole() : host->open();
-            EXPECT_TRUE(host->prefs[RecAll].toBool());
-            if (row.hasPage) expectWhole(*host);
+            EXPECT_EQ(host.errors, standing.told);
+            standing.hasPage ? host.openWhole() : host.open();
+            EXPECT_TRUE(host.prefs[RecAll].toBool());
+            if (standing.hasPage) expectWhole(host);
         }
     }
 }

@@ -14,7 +14,6 @@
 #include <QTest>
 #include <QThread>
 #include <QTimer>
-#include <QWebView>
 
 #include <gmock/gmock.h>
 
@@ -242,24 +241,4 @@ TEST_F(PLG_wrenTest, makesOneTableThoughItsBridgeAsksFirst) {
     EXPECT_THAT(taken(), Contains("errorHandler setPrefBool")) << "a box stood while the bridge was made";
     EXPECT_NE(first, nullptr);
     EXPECT_EQ(second, nullptr);
-}
-
-TEST_F(PLG_wrenTest, goesWhileItsTableIsMade) {
-    host.failing = QStringLiteral("setPrefBool");
-    host.desk.whileStanding = [&] { plugin.reset(); };
-    EXPECT_EQ(plugin->getDialog(true), nullptr);
-    EXPECT_FALSE(plugin);
-    EXPECT_THAT(QApplication::topLevelWidgets(), IsEmpty());
-}
-
-TEST_F(PLG_wrenTest, leavesNothingBehind) {
-    openTable();
-    QPointer<QDialog> dialog = plugin->getDialog(false);
-    QPointer<JS_Mediator> bridge = static_cast<GUI_WrenTableDialog*>(dialog.data())->getBridge();
-    QPointer<QWidget> view = dialog->findChild<QWebView*>();
-    plugin.reset();
-    EXPECT_FALSE(dialog);
-    EXPECT_FALSE(bridge);
-    EXPECT_FALSE(view);
-    EXPECT_THAT(QApplication::topLevelWidgets(), IsEmpty());
 }
