@@ -1,7 +1,5 @@
 #include "TablePage.h"
 
-#include <gmock/gmock.h>
-
 // What stands in the cells of the plug-in and memory tabs.
 
 namespace {

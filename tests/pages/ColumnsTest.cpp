@@ -1,7 +1,5 @@
 #include "TablePage.h"
 
-#include <gmock/gmock.h>
-
 namespace {
 
 const char* Order = "wren/column_order/cameraInfo";

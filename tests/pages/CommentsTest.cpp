@@ -2,8 +2,6 @@
 
 #include "ZebTypes.h"
 
-#include <gmock/gmock.h>
-
 // The dialog of the comment column.
 
 namespace {

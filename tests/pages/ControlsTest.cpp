@@ -3,8 +3,6 @@
 #include <QApplication>
 #include <QRegularExpression>
 
-#include <gtest/gtest.h>
-
 #include <algorithm>
 #include <memory>
 

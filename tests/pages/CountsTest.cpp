@@ -1,7 +1,5 @@
 #include "TablePage.h"
 
-#include <gmock/gmock.h>
-
 // What must not grow with the number of cameras or of refreshes.
 
 namespace {

@@ -7,8 +7,6 @@
 #include <QPushButton>
 #include <QTimer>
 
-#include <gtest/gtest.h>
-
 #include <climits>
 
 // What the table shows of a camera that does not answer, and of all others meanwhile.
@@ -37,9 +35,9 @@ const char* Changed =
 /// The cells that show something else than before because the camera did not tell an `operation`.
 QString standing(const QString& operation) {
     if (operation == "isConnected") return "['connectIcon', 'connectionStatus', 'cameraName']";
-    // The pencil beside the name is there when the camera has told what rules its controls.
-    const QStringList ruling{"isParamLocked", "isMobileSelected", "isRecordCheck"};
-    return ruling.contains(operation) ? "['cameraName']" : "[]";
+    // The pencil beside the name is there, and the switch open, when the camera has told what rules its controls.
+    const QStringList ruling{"getCameraName", "isParamLocked", "isMobileSelected", "isRecordCheck"};
+    return ruling.contains(operation) ? "['cameraName', 'connectionStatus']" : "[]";
 }
 
 class PageFailures : public testing::Test {

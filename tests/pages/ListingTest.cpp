@@ -2,8 +2,6 @@
 #include "DOC_Interface.h"
 #include "TablePage.h"
 
-#include <gmock/gmock.h>
-
 // Which cameras the table lists.
 
 namespace {

@@ -1,7 +1,5 @@
 #include "TablePage.h"
 
-#include <gmock/gmock.h>
-
 // The panel by which cameras come into the table and go, and the one that switches low light for all of them.
 
 namespace {

@@ -2,8 +2,6 @@
 
 #include <QDialog>
 
-#include <gmock/gmock.h>
-
 namespace {
 
 /// What a user sees of the mode, in one line.

@@ -4,8 +4,6 @@
 #include <QTest>
 #include <QTimer>
 
-#include <gmock/gmock.h>
-
 // The frame numbers of the memory tab, typed and stepped.
 
 namespace {
@@ -324,15 +322,7 @@ TEST(PageRecordCheck, OfSelectedCamerasOnly) {
     TablePage page(test, 5);
     choose(test, {"1", "3"});
     page.update();
-    const auto checked = [&test] {
-        QStringList keys;
-        for (const Camera* camera : test.host.cameras().all()) {
-            if (camera->get(&CameraState::recordCheck)) {
-                keys << QString::number(camera->key());
-            }
-        }
-        return keys.join(',');
-    };
+    const auto checked = [&test] { return camerasWith(test, &CameraState::recordCheck).join(','); };
     for (const QString& tab : {QStringLiteral("memoryInfo"), QStringLiteral("memoryPlugin")}) {
         page.show(tab == "memoryInfo" ? 5 : 6);
         const QString check = "#wren_" + tab + "_recordCheck_";

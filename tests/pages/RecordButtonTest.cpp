@@ -1,7 +1,5 @@
 #include "TablePage.h"
 
-#include <gmock/gmock.h>
-
 namespace {
 
 /// A page over two cameras that are free to record.

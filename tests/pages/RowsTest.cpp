@@ -4,8 +4,6 @@
 #include <QDialog>
 #include <QJsonObject>
 
-#include <gmock/gmock.h>
-
 namespace {
 
 struct TickCase {

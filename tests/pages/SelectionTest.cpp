@@ -1,7 +1,5 @@
 #include "TablePage.h"
 
-#include <gmock/gmock.h>
-
 namespace {
 
 /// The test clicks faster than a person.
@@ -9,16 +7,6 @@ const char* NoDoubleClick = "probe.grid().last.click_time = 0";
 
 QString row(int key) {
     return QStringLiteral("#wren-cameraInfo-list tr .wren_label_edit_camera_name[dockey=\"%1\"]").arg(key);
-}
-
-QStringList selectedCameras(TestHost& test) {
-    QStringList keys;
-    for (Camera* camera : test.host.cameras().all()) {
-        if (camera->get(&CameraState::selected)) {
-            keys << QString::number(camera->key());
-        }
-    }
-    return keys;
 }
 
 TEST(PageSelection, StaysWithItsCameraWhenAnotherGoes) {
@@ -37,7 +25,7 @@ TEST(PageSelection, StaysWithItsCameraWhenAnotherGoes) {
     EXPECT_EQ(page.list("probe.drawn().map(row => row.getAttribute('recid') + ':' + probe.keyOf(row))"),
               QStringList({"1:1", "2:3", "3:4", "4:5"}));
     EXPECT_EQ(page.list("probe.selected()"), QStringList("4"));
-    EXPECT_EQ(selectedCameras(test), QStringList("4"));
+    EXPECT_EQ(camerasWith(test, &CameraState::selected), QStringList("4"));
 }
 
 TEST(PageSelection, TheNameOfTheBatchRowSelectsAllConnectedInOneCall) {
@@ -58,7 +46,7 @@ TEST(PageSelection, TheNameOfTheBatchRowSelectsAllConnectedInOneCall) {
     const QJsonArray calls =
         page.run("probe.callsEnd().filter(call => call[0] === 'select').map(call => call[1])").toArray();
     EXPECT_EQ(calls, QJsonArray{QJsonValue(QJsonArray{QJsonValue(keys), true})});
-    EXPECT_EQ(selectedCameras(test).size(), 98);
+    EXPECT_EQ(camerasWith(test, &CameraState::selected).size(), 98);
     const QStringList shown = page.list("probe.selected()");
     EXPECT_TRUE(shown.contains("2") && !shown.contains("3")) << shown.join(" ").toStdString();
 }
@@ -94,13 +82,13 @@ TEST(PageSelection, FollowsTheMouse) {
         page.update();
         page.run(NoDoubleClick);
         page.click(c.target, c.keys);
-        EXPECT_EQ(selectedCameras(test), c.after);
+        EXPECT_EQ(camerasWith(test, &CameraState::selected), c.after);
         EXPECT_EQ(page.list("probe.selected()"), c.after);
     }
     page.run(NoDoubleClick);
     page.click(row(4));
     page.click(row(2), Qt::ShiftModifier);
-    EXPECT_EQ(selectedCameras(test), QStringList({"2", "3", "4"})) << "a range with Shift";
+    EXPECT_EQ(camerasWith(test, &CameraState::selected), QStringList({"2", "3", "4"})) << "a range with Shift";
 }
 
 TEST(PageSelection, ARubberBandTakesTheRowsItCrosses) {
@@ -128,7 +116,7 @@ TEST(PageSelection, ARubberBandTakesTheRowsItCrosses) {
         page.move(row(3));
         page.move(row(4));
         page.release();
-        EXPECT_EQ(selectedCameras(test), c.after);
+        EXPECT_EQ(camerasWith(test, &CameraState::selected), c.after);
         EXPECT_EQ(page.list("probe.selected()"), c.after);
         EXPECT_FALSE(test.camera(2).get(&CameraState::locked));
     }

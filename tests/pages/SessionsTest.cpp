@@ -4,8 +4,6 @@
 #include <QDialog>
 #include <QTest>
 
-#include <gtest/gtest.h>
-
 #include <iostream>
 
 namespace {

@@ -2,8 +2,6 @@
 
 #include <QApplication>
 
-#include <gtest/gtest.h>
-
 #include <memory>
 
 // The area of the signal from outside, with hubs of the host, and with the scripted generator behind the real library.

@@ -15,8 +15,6 @@
 #include <QWebView>
 #include <QWindow>
 
-#include <gtest/gtest.h>
-
 #include <iostream>
 
 namespace {
@@ -236,6 +234,14 @@ void choose(TestHost& test, const QStringList& keys) {
     for (Camera* camera : test.host.cameras().all()) {
         camera->set(&CameraState::selected, keys.contains(QString::number(camera->key())));
     }
+}
+
+QStringList camerasWith(TestHost& test, bool CameraState::*property) {
+    QStringList keys;
+    for (const Camera* camera : test.host.cameras().all()) {
+        if (camera->get(property)) keys << QString::number(camera->key());
+    }
+    return keys;
 }
 
 Rig connected(int cameras) {

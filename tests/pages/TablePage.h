@@ -8,6 +8,8 @@
 #include <QJsonArray>
 #include <QJsonValue>
 
+#include <gtest/gtest.h>
+
 #include <functional>
 #include <ostream>
 
@@ -84,6 +86,8 @@ private:
 
 /// Selects these cameras and no others, behind the table's back.
 void choose(TestHost& test, const QStringList& keys);
+/// The keys of the cameras that have a property.
+QStringList camerasWith(TestHost& test, bool CameraState::*property);
 /// Cameras of the standard model, all of them connected.
 Rig connected(int cameras);
 /// Connects cameras `first` to `last`.

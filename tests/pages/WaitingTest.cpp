@@ -6,8 +6,6 @@
 #include <QTimer>
 #include <QWebView>
 
-#include <gtest/gtest.h>
-
 #include <functional>
 #include <utility>
 

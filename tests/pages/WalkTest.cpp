@@ -12,8 +12,6 @@
 #include <QTest>
 #include <QTimer>
 
-#include <gtest/gtest.h>
-
 #include <random>
 
 // A user without a plan, cameras that change and vanish by themselves, and texts that would like to be markup. After
