@@ -185,7 +185,8 @@ TEST_F(TableBridgeTest, noFailureLeavesASlot) {
     for (const bool hostToo : {false, true}) {
         if (hostToo) host.faults().plant(FaultPlan::Host, "*", {"no answer", 0, false});
         for (const QMetaMethod& method : slotsOf(*bridge->metaObject(), true)) {
-            if (method.name() == "errorHandler" || method.name() == "openExportSupportFileDialog") continue;
+            // A host that works would show its file dialog.
+            if (method.name() == "errorHandler" || (!hostToo && method.name().endsWith("FileDialog"))) continue;
             EXPECT_NO_THROW(callSlot(*bridge, method, values)) << method.methodSignature().toStdString();
             EXPECT_FALSE(bridge->isInCall()) << method.methodSignature().toStdString();
         }

@@ -96,4 +96,18 @@ TEST_F(BridgeCall, WhatWaitsForTheEndRunsWhenNoCallRuns) {
     EXPECT_EQ(course.take(), QStringList()) << "what was to come behind is forgotten with the bridge";
 }
 
+TEST_F(BridgeCall, NoSlotLetsAnExceptionOut) {
+    FakePlugin plugin;
+    JS_Mediator_ModelessPatternDialog victim(&host, "victim", &plugin);
+    host.failing = "*";
+    int slots = 0;
+    for (const QMetaMethod& method : slotsOf(*victim.metaObject(), true)) {
+        if (method.name() == "errorHandler") continue;
+        EXPECT_NO_THROW(callSlot(victim, method)) << method.methodSignature().toStdString();
+        EXPECT_FALSE(victim.isInCall());
+        ++slots;
+    }
+    EXPECT_GE(slots, 85);
+}
+
 }  // namespace
