@@ -1,10 +1,12 @@
 #include "PLG_wren.h"
 
 #include "APP_Exception.h"
+#include "ConnectedDocs.h"
 #include "DOC_Control.h"
 #include "DOC_Interface.h"
 #include "GUI_WrenTableDialog.h"
 #include "JS_Mediator_WrenTableDialog.h"
+#include "NamedFailure.h"
 #include "ZebAppStatus.h"
 #include "ZebDocManager.h"
 #include "ZebHost.h"
@@ -60,24 +62,25 @@ void PLG_wren::prepareOpen() {
     if (!host.isLiveMode() || host.appStatus().isWrenRunning()) return;
 
     ZebDocManager& docs = host.docManager();
-    const auto connected = [&docs](DOCKEY key) {
-        DOC_Interface* doc = docs.getDoc(key, 1);
-        return doc && doc->isConnected() ? doc : nullptr;
-    };
+    // One that does not tell whether it holds images keeps them, and the others are opened all the same.
+    GatheredFailures unread;
     DocKeyList recorded;
-    const DocKeyList keys = docs.getConnectedDocKeys();
-    for (const DOCKEY key : keys) {
-        DOC_Interface* doc = connected(key);
-        if (doc && doc->control().hasRecordedData()) recorded.append(key);
-    }
+    for (DOC_Interface* doc : connectedDocs(docs, docs.getConnectedDocKeys(), unread))
+        attemptOn(*doc, unread, [&] {
+            if (doc->control().hasRecordedData()) recorded.append(doc->getKey());
+        });
+    unread.log();
     if (recorded.isEmpty()) return;
 
     if (!host.confirm(QStringLiteral("There are cameras that need to erase the image data recorded to continue the "
                                      "operation. Would you like to erase the data and continue the operation?")))
         throw APP_Exception(QString());
     // A camera may have gone while the question stood.
-    for (const DOCKEY key : qAsConst(recorded))
-        if (DOC_Interface* doc = connected(key)) doc->control().eraseRecordedData(0);
+    GatheredFailures failures;
+    for (DOC_Interface* doc : connectedDocs(docs, recorded, failures))
+        attemptOn(*doc, failures, [&] { doc->control().eraseRecordedData(0); });
+    failures.log();
+    if (!failures.isEmpty()) host.alert(failures.text(), host.getMainWindow());
 }
 
 QDialog* PLG_wren::createDialog(bool) {

@@ -1,17 +1,14 @@
 #include "CameraManagement.h"
 
+#include "ChangeableDocs.h"
 #include "ConnectedDocs.h"
 #include "DOC_Control.h"
 #include "DOC_Image.h"
-#include "DOC_Interface.h"
 #include "DOC_Lock.h"
 #include "DocKeys.h"
-#include "GatheredFailures.h"
 #include "LogFailure.h"
 #include "TableState.h"
 #include "ZebCameraOps.h"
-#include "ZebDocManager.h"
-#include "ZebHost.h"
 
 namespace {
 
@@ -78,14 +75,12 @@ bool CameraManagement::confirmDisconnect(const DocKeyList& keys) const {
 QString CameraManagement::disconnectQuestion(const DocKeyList& keys) const {
     int unlocked = 0;
     bool anyMultiHead = false;
-    for (const DOCKEY key : keys) {
-        DOC_Interface* doc = m_host.docManager().getDocAny(key);
-        if (doc == nullptr || !doc->isConnected()) {
-            continue;
-        }
-        unlocked += doc->lock().isParamLocked() ? 0 : 1;
-        anyMultiHead = anyMultiHead || doc->control().isMultiHead();
-    }
+    GatheredFailures failures;
+    forEachConnected(m_host, keys, failures, [&](DOC_Interface& doc) {
+        unlocked += doc.lock().isParamLocked() ? 0 : 1;
+        anyMultiHead = anyMultiHead || doc.control().isMultiHead();
+    });
+    failures.log();
     return disconnectQuestionFor(anyMultiHead, unlocked);
 }
 
@@ -102,16 +97,16 @@ void CameraManagement::connect(const DocKeyList& keys, bool connect, bool force)
         return;
     }
     ZebDocManager& documents = m_host.docManager();
-    const DocKeyList affected = connect ? keysToConnect(keys) : keysToDisconnect(keys, force);
-    if (affected.isEmpty()) {
-        return;
+    GatheredFailures failures;
+    const DocKeyList affected = connect ? keysToConnect(keys, failures) : keysToDisconnect(keys, force, failures);
+    if (!affected.isEmpty()) {
+        failures.attempt([&] { connect ? documents.connectDocs(affected) : documents.disconnectDocs(affected); });
     }
-    if (connect) {
-        documents.connectDocs(affected);
-        prepareConnectedDocs(connectedDocs(documents, affected));
-    } else {
-        documents.disconnectDocs(affected);
+    if (!affected.isEmpty() && connect) {
+        const DocList docs = connectedDocs(documents, affected, failures);
+        failures.attempt([&] { prepareConnectedDocs(docs); });
     }
+    failures.rethrow();
 }
 
 bool CameraManagement::select(const DocKeyList& keys, bool select) {
@@ -119,36 +114,34 @@ bool CameraManagement::select(const DocKeyList& keys, bool select) {
         return false;
     }
     ZebDocManager& documents = m_host.docManager();
-    for (const DOCKEY key : keys) {
-        DOC_Interface* doc = documents.getDocAny(key);
-        if (doc == nullptr || !doc->isConnected() || !mayBeSelected(*doc)) {
-            continue;
+    GatheredFailures failures;
+    forEachConnected(m_host, keys, failures, [&](DOC_Interface& doc) {
+        if (!mayBeSelected(doc)) {
+            return;
         }
-        if (select != doc->isSelected()) {
+        const DOCKEY key = doc.getKey();
+        if (select != doc.isSelected()) {
             select ? documents.selectDoc(key) : documents.deselectDoc(key);
         }
-        m_state.batchDocKey = doc->isSelected() ? key : zeb::NoDocKey;
+        m_state.batchDocKey = doc.isSelected() ? key : zeb::NoDocKey;
         m_state.unreadBatchDocKey = zeb::NoDocKey;
-    }
+    });
+    failures.rethrow();
     return true;
 }
 
 template <typename Change>
-void CameraManagement::forEachConnected(const DocKeyList& keys, Change&& change) {
-    if (m_host.isFileMode()) {
-        return;
-    }
-    for (const DOCKEY key : keys) {
-        DOC_Interface* doc = m_host.docManager().getDocAny(key);
-        if (doc != nullptr && doc->isConnected()) {
-            change(*doc);
-        }
+void CameraManagement::change(const DocKeyList& keys, Change&& change) {
+    if (!m_host.isFileMode()) {
+        GatheredFailures failures;
+        forEachConnected(m_host, keys, failures, change);
+        failures.rethrow();
     }
 }
 
 void CameraManagement::setCameraName(const DocKeyList& keys, const QString& name) {
     const bool live = m_host.isLiveMode();
-    forEachConnected(keys, [&](DOC_Interface& doc) {
+    change(keys, [&](DOC_Interface& doc) {
         if (!live || !doc.lock().isParamLocked()) {
             doc.control().setCameraName(name);
         }
@@ -157,7 +150,7 @@ void CameraManagement::setCameraName(const DocKeyList& keys, const QString& name
 
 void CameraManagement::setComment(const DocKeyList& keys, const QString& comment) {
     const QString text = QString(comment).replace(QLatin1Char('\n'), QLatin1String(zeb::CommentSeparator));
-    forEachConnected(keys, [&](DOC_Interface& doc) {
+    change(keys, [&](DOC_Interface& doc) {
         if (!doc.lock().isParamLocked()) {
             doc.image().setComment(text);
         }
@@ -175,7 +168,7 @@ void CameraManagement::prepareConnectedDocs(const DocList& docs) {
     const bool lockColumn = m_host.getPrefBool(QStringLiteral("wren/display/lock"));
     GatheredFailures failures;
     for (DOC_Interface* doc : docs) {
-        failures.attempt([&] {
+        attemptOn(*doc, failures, [&] {
             if (!doc->isConnected() || !isArmed(*doc)) {
                 return;
             }
@@ -192,24 +185,22 @@ bool CameraManagement::mayBeSelected(DOC_Interface& doc) const {
     return m_host.isLiveMode() ? doc.lock().getRecordState() == zeb::RecordLive : m_host.isMemoryMode();
 }
 
-DocKeyList CameraManagement::keysToConnect(const DocKeyList& keys) const {
+DocKeyList CameraManagement::keysToConnect(const DocKeyList& keys, GatheredFailures& failures) const {
     DocKeyList connecting;
     for (const DOCKEY key : keys) {
-        const DOC_Interface* doc = m_host.docManager().getDocAny(key);
-        if (doc != nullptr && !doc->isConnected()) {
-            connecting.append(key);
+        if (DOC_Interface* doc = m_host.docManager().getDocAny(key)) {
+            attemptOn(*doc, failures, [&] { connecting += doc->isConnected() ? DocKeyList() : DocKeyList{key}; });
         }
     }
     return connecting;
 }
 
-DocKeyList CameraManagement::keysToDisconnect(const DocKeyList& keys, bool force) const {
+DocKeyList CameraManagement::keysToDisconnect(const DocKeyList& keys, bool force, GatheredFailures& failures) const {
     DocKeyList disconnecting;
-    for (const DOCKEY key : keys) {
-        DOC_Interface* doc = m_host.docManager().getDocAny(key);
-        if (doc != nullptr && doc->isConnected() && (force || !doc->lock().isParamLocked())) {
-            disconnecting.append(key);
+    forEachConnected(m_host, keys, failures, [&](DOC_Interface& doc) {
+        if (force || !doc.lock().isParamLocked()) {
+            disconnecting.append(doc.getKey());
         }
-    }
+    });
     return disconnecting;
 }

@@ -4,6 +4,7 @@
 
 #include <QString>
 
+class GatheredFailures;
 class ZebHost;
 struct TableState;
 
@@ -49,11 +50,11 @@ private:
     template <typename Search>
     void search(Search&& run);
     template <typename Change>
-    void forEachConnected(const DocKeyList& keys, Change&& change);
+    void change(const DocKeyList& keys, Change&& change);
     QString disconnectQuestion(const DocKeyList& keys) const;
     bool mayBeSelected(DOC_Interface& doc) const;
-    DocKeyList keysToConnect(const DocKeyList& keys) const;
-    DocKeyList keysToDisconnect(const DocKeyList& keys, bool force) const;
+    DocKeyList keysToConnect(const DocKeyList& keys, GatheredFailures& failures) const;
+    DocKeyList keysToDisconnect(const DocKeyList& keys, bool force, GatheredFailures& failures) const;
 
     ZebHost& m_host;
     TableState& m_state;

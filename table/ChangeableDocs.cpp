@@ -1,9 +1,6 @@
 #include "ChangeableDocs.h"
 
-#include "DOC_Interface.h"
 #include "DOC_Lock.h"
-#include "ZebDocManager.h"
-#include "ZebHost.h"
 
 namespace {
 
@@ -29,21 +26,21 @@ bool userAgrees(ZebHost& host, const SharedParameter& parameter) {
 
 }  // namespace
 
-DocList changeableDocs(ZebHost& host, const DocKeyList& keys) {
+DocList changeableDocs(ZebHost& host, const DocKeyList& keys, GatheredFailures& failures) {
     DocList docs;
-    for (const DOCKEY key : keys) {
-        DOC_Interface* doc = host.docManager().getDocAny(key);
-        if (doc != nullptr && doc->isConnected() && !doc->lock().isParamLocked()) {
-            docs.append(doc);
+    forEachConnected(host, keys, failures, [&docs](DOC_Interface& doc) {
+        if (!doc.lock().isParamLocked()) {
+            docs.append(&doc);
         }
-    }
+    });
     return docs;
 }
 
-DocList changeableDocs(ZebHost& host, const DocKeyList& keys, const SharedParameter& parameter) {
-    const DocList docs = changeableDocs(host, keys);
+DocList changeableDocs(ZebHost& host, const DocKeyList& keys, const SharedParameter& parameter,
+                       GatheredFailures& failures) {
+    const DocList docs = changeableDocs(host, keys, failures);
     if (!host.getPrefBool(HeadAlertPref) || !reachesLockedHead(host, docs, parameter)) {
         return docs;
     }
-    return userAgrees(host, parameter) && host.isLiveMode() ? changeableDocs(host, keys) : DocList();
+    return userAgrees(host, parameter) && host.isLiveMode() ? changeableDocs(host, keys, failures) : DocList();
 }

@@ -2,12 +2,9 @@
 
 #include "ChangeableDocs.h"
 #include "DOC_Control.h"
-#include "DOC_Interface.h"
 #include "DOC_Lock.h"
 #include "DocumentGuard.h"
 #include "ZebCameraOps.h"
-#include "ZebDocManager.h"
-#include "ZebHost.h"
 
 #include <limits>
 
@@ -24,12 +21,13 @@ void ParameterEditing::setParamLock(const DocKeyList& keys, bool lock) {
     if (!m_host.isLiveMode()) {
         return;
     }
-    for (const DOCKEY key : keys) {
-        DOC_Interface* doc = m_host.docManager().getDocAny(key);
-        if (doc != nullptr && doc->isConnected() && !doc->control().isLowLightMode()) {
-            doc->lock().setParamLock(lock);
+    GatheredFailures failures;
+    forEachConnected(m_host, keys, failures, [lock](DOC_Interface& doc) {
+        if (!doc.control().isLowLightMode()) {
+            doc.lock().setParamLock(lock);
         }
-    }
+    });
+    failures.rethrow();
 }
 
 void ParameterEditing::setFrameRate(const DocKeyList& keys, const QString& val) {
@@ -73,10 +71,8 @@ void ParameterEditing::change(const DocKeyList& keys, const Setter& set) {
     if (!m_host.isLiveMode()) {
         return;
     }
-    const DocList docs = changeableDocs(m_host, keys);
-    if (!docs.isEmpty()) {
-        set(docs);
-    }
+    GatheredFailures failures;
+    setOn(changeableDocs(m_host, keys, failures), failures, set);
 }
 
 void ParameterEditing::changeShared(const DocKeyList& keys, const SharedParameter& parameter, const QString& val,
@@ -84,10 +80,16 @@ void ParameterEditing::changeShared(const DocKeyList& keys, const SharedParamete
     if (!m_host.isLiveMode() || val.isEmpty()) {
         return;
     }
-    const DocList docs = changeableDocs(m_host, keys, parameter);
+    GatheredFailures failures;
+    setOn(changeableDocs(m_host, keys, parameter, failures), failures, set);
+}
+
+/// Cameras that are left out because they failed before are named beside those that fail now.
+void ParameterEditing::setOn(const DocList& docs, GatheredFailures& failures, const Setter& set) {
     if (!docs.isEmpty()) {
-        set(docs);
+        failures.attempt([&] { set(docs); });
     }
+    failures.rethrow();
 }
 
 DocKeyList ParameterEditing::orAllConnected(const DocKeyList& keys) const {

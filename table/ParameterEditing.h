@@ -7,6 +7,7 @@
 #include <functional>
 
 struct SharedParameter;
+class GatheredFailures;
 class ZebHost;
 
 /// Changes parameters of many cameras at once: one call of the host for all of them. A locked camera keeps its
@@ -33,6 +34,8 @@ public:
 
 private:
     using Setter = std::function<void(const DocList&)>;
+    /// Throws what has gone wrong before and in the setting.
+    static void setOn(const DocList& docs, GatheredFailures& failures, const Setter& set);
 
     /// Hands over the documents that may be changed, unless there are none.
     void change(const DocKeyList& keys, const Setter& set);

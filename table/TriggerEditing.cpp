@@ -39,11 +39,15 @@ void TriggerEditing::setTriggerMode(const DocKeyList& keys, const QString& val) 
         return;
     }
     const int mode = val.toInt();
+    GatheredFailures failures;
     if (m_host.getPrefBool(settingsPref("triggerEnable"))) {
-        applyTriggerMode(changeableDocs(m_host, keys, TriggerMode), mode);
+        const DocList docs = changeableDocs(m_host, keys, TriggerMode, failures);
+        failures.attempt([&] { applyTriggerMode(docs, mode); });
     } else {
-        setWithHostSettings(changeableDocs(m_host, keys), mode);
+        const DocList docs = changeableDocs(m_host, keys, failures);
+        failures.attempt([&] { setWithHostSettings(docs, mode); });
     }
+    failures.rethrow();
 }
 
 void TriggerEditing::setWithHostSettings(const DocList& docs, int mode) {

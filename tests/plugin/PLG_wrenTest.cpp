@@ -106,6 +106,15 @@ TEST_F(PLG_wrenTest, asksBeforeItErases) {
              host.desk.whileStanding = [this] { host.camera(3).set(&CameraState::connected, false); };
          },
          {EraseQuestion, "eraseRecordedData 1 0"}},
+        {"one that does not answer is named and keeps nobody from it",
+         [&] {
+             host.camera(3).set(&CameraState::connected, true);
+             record();
+             host.faults().plant(2, "isConnected", {"no answer"});
+             host.desk.whileStanding = [this] { host.faults().plant(1, "isConnected", {"no answer"}); };
+         },
+         {R"(critical: "Camera 2: no answer")", EraseQuestion, "eraseRecordedData 3 0",
+          R"(critical: "Camera 1: no answer")", "alert <Camera 1: no answer>"}},
         {"while the table runs it asks nothing",
          [&] {
              record();

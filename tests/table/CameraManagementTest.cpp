@@ -53,7 +53,9 @@ TEST_F(CameraManagementTest, asksBeforeDisconnectingByWhatGoesWithIt) {
     EXPECT_EQ(desk.texts().last(), cases[4].second) << "a locked head counts too";
     desk.shown.clear();
     host.faults().plant(1, "isParamLocked", {"no answer", 0, false});
-    EXPECT_FALSE(cameras.confirmDisconnect({1}));
+    EXPECT_TRUE(cameras.confirmDisconnect({1, 5}));
+    EXPECT_EQ(desk.texts(), QStringList{cases[0].second}) << "of those that tell";
+    desk.shown.clear();
     host.appStatus().enterMemoryMode();
     EXPECT_FALSE(cameras.confirmDisconnect({5}));
     EXPECT_EQ(desk.texts(), QStringList());

@@ -51,6 +51,20 @@ TEST_F(ParameterEditingTest, asksBeforeALockedHeadOfTheDeviceIsChanged) {
     EXPECT_EQ(desk.texts(), QStringList()) << "the user wants no question";
 }
 
+TEST_F(ParameterEditingTest, aCameraThatDoesNotAnswerKeepsTheOthersFromNothing) {
+    for (const char* operation : {"isConnected", "isParamLocked"}) {
+        host.faults().plant(2, operation, {"no answer", 0, false});
+        EXPECT_TRUE(refused([&] { editing.setFrameRate({1, 2, 5}, "500"); }));
+        EXPECT_TRUE(refused([&] { editing.setLowLight({1, 2, 5}, true); }));
+        EXPECT_EQ(calls(),
+                  (QStringList{"ZebCameraOps::setRecordRate [[1,5],500]", "ZebCameraOps::setLowLight [[1,5],true]"}));
+        host.faults().plant(2, operation, {});
+    }
+    host.faults().plant(2, "isLowLightMode", {"no answer", 0, false});
+    EXPECT_TRUE(refused([&] { editing.setParamLock({2, 5}, true); }));
+    EXPECT_TRUE(stateOf(5, "locked").toBool());
+}
+
 TEST_F(ParameterEditingTest, looksAgainAfterTheQuestion) {
     change(4, {{"locked", true}});
     desk.whileStanding = [this] {
