@@ -3,7 +3,8 @@
 // What a cell may show is told by its kind, one a column:
 //   markup          the elements. `part` names one for the writers below, `dockey` and an `id` that begins with
 //                   `wren_` are completed by the row's key, `{short}` is the tab's short name.
-//   needs           the members of a record without which the cell has no elements either: the camera did not tell them
+//   needs           the members of a record without which the cell has no elements either: the camera did not tell
+//                   them. Every kind has it, be it empty
 //   empty(record)   whether the cell has no elements at all; asked when the row is rebuilt
 //   rebuild(...)    what only a full refresh brings
 //   tick(...)       what every refresh brings; a full refresh runs it after `rebuild`
@@ -42,7 +43,7 @@ class Cell {
 
     // Whether the record tells what the cell shows.
     reads(record) {
-        return isBatch(record) || this.kind.needs.every(name => record[name] !== undefined);
+        return this.kind.needs.every(name => record[name] !== undefined);
     }
 
     tick(record, status) {

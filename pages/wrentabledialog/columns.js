@@ -17,7 +17,7 @@ Object.assign(wrentabledialog_obj, {
 
     // The known fields of the stored order, each once; one that names none stands for all that the tab has.
     storedFields(tab, preferenceKey) {
-        const stored = wrentabledialog.getPrefString(preferenceKey).split(',');
+        const stored = wrentabledialog.getPrefString(preferenceKey).split(',').map(field => field.trim());
         const known = stored.filter((field, index) => tab.fields.includes(field) && stored.indexOf(field) === index);
         return known.length > 0 ? known : tab.fields;
     },

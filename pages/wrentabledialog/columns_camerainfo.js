@@ -10,7 +10,9 @@ COLUMNS.connectionStatus = {
         <a class="wren_button_connection_disconnect" part="off" id="wren_button_connection_disconnect_" dockey></a>
         </div>`,
     tick(cell, record, status) {
-        const disabled = status.disabled || (isBatch(record) ? status.allLocked : Boolean(record.lock));
+        // Whether a camera that does not tell its lock is locked nobody knows.
+        const locked = isBatch(record) ? status.allLocked : record.lock === undefined || record.lock;
+        const disabled = status.disabled || locked;
         cell.swap(Boolean(record.connected), 'on', 'off');
         cell.flag('on', 'disabled', disabled);
         cell.flag('off', 'disabled', disabled);

@@ -3,7 +3,7 @@ const isBatch = record => record.key === wrentabledialog_obj.batchDocKey;
 const isOff = record => !record.connected;
 const isOffOrBatch = record => isOff(record) || isBatch(record);
 // Whether the camera has told what rules its controls: its lock in live mode, its check in memory mode.
-const isSteered = record => isBatch(record) || record.lock !== undefined || record.check !== undefined;
+const isSteered = record => record.lock !== undefined || record.check !== undefined;
 const LISTS = ['frameRates', 'shutterSpeeds', 'resolutions', 'triggerModes'];
 const hasDropDowns = record => record.connected && LISTS.every(list => Array.isArray(record[list]));
 

@@ -24,7 +24,7 @@ function dropDownColumn(options) {
             <p class="CaptionCont SelectBox ${name}" dockey><span part="text" dockey></span></p>
             </div>`,
         rebuild(cell, record) {
-            cell.choices = record.connected ? options.choices(record) : [];
+            cell.choices = options.choices(record);
             showChoice(cell, options.value(record), true);
         },
         tick(cell, record, status) {
@@ -58,7 +58,7 @@ function showChoice(cell, value, full) {
 COLUMNS.frameRate = dropDownColumn({
     caption: 'Frame rate',
     word: 'framerate',
-    needs: ['frameRates', 'frameRate'],
+    needs: ['lock', 'frameRates', 'frameRate'],
     choices: record => record.frameRates,
     value: record => record.frameRate,
     locked: record => Boolean(record.lock || record.lowLightMode),
@@ -68,7 +68,7 @@ COLUMNS.frameRate = dropDownColumn({
 COLUMNS.shutterSpeed = dropDownColumn({
     caption: 'Shutter speed',
     word: 'shutterSpeed',
-    needs: ['shutterSpeeds', 'shutterSpeed'],
+    needs: ['lock', 'shutterSpeeds', 'shutterSpeed'],
     choices: record => record.shutterSpeeds,
     value: record => record.shutterSpeed,
     locked: record => Boolean(record.lock),
@@ -78,7 +78,7 @@ COLUMNS.shutterSpeed = dropDownColumn({
 COLUMNS.resolution = dropDownColumn({
     caption: 'Resolution',
     word: 'resolution',
-    needs: ['resolutions', 'resolution'],
+    needs: ['lock', 'resolutions', 'resolution'],
     choices: record => record.resolutions.map(text => ({ value: text, name: text })),
     value: record => record.resolution,
     locked: record => Boolean(record.lock || record.lowLightMode),
@@ -88,7 +88,7 @@ COLUMNS.resolution = dropDownColumn({
 COLUMNS.trigger = dropDownColumn({
     caption: 'Trigger mode',
     word: 'trigger',
-    needs: ['triggerModes', 'triggerMode'],
+    needs: ['lock', 'triggerModes', 'triggerMode'],
     choices: record => record.triggerModes,
     value: record => record.triggerMode,
     locked: record => Boolean(record.lock || record.lowLightMode),
@@ -99,7 +99,7 @@ COLUMNS.reduce = {
     caption: () => translate('Live speed'),
     size: '60px',
     align: 'center',
-    needs: ['reduceModeSupported', 'reduceMode'],
+    needs: ['lock', 'reduceModeSupported', 'reduceMode'],
     empty: record => isOff(record) || record.reduceModeSupported === false,
     markup: () => `<div class="flexWrapper" part="wrapper" dockey>
         <a class="wren_button_reduce reduceON" part="on"
@@ -122,7 +122,7 @@ COLUMNS.lowlight = {
     caption: () => translate('Lowlight'),
     size: '200px',
     align: 'left',
-    needs: ['lowLightMode', 'lowLightType', 'shutterSpeeds', 'shutterSpeed'],
+    needs: ['lock', 'lowLightMode', 'lowLightType', 'shutterSpeeds', 'shutterSpeed'],
     empty: isOff,
     markup: () => `<div class="flexWrapper" part="wrapper" dockey>
         <a class="wren_button_lowlight lowlightON" part="on"

@@ -180,9 +180,14 @@ Object.assign(wrentabledialog_obj, {
     moveTo(memory, number) {
         if (this.tabsExist() && TABS[this.activeTab()].memory !== memory) {
             const shown = (memory ? MEMORY : LIVE).filter(tab => !tabHeader(tab).hidden);
-            this.disableTabs(false);
-            $('#tabs').tabs('option', 'active', shown.length === 0 || shown.includes(number) ? number : shown[0]);
+            this.bringToFront(shown.length === 0 || shown.includes(number) ? number : shown[0]);
         }
+    },
+
+    // jQuery UI brings no tab to the front that is disabled.
+    bringToFront(number) {
+        this.disableTabs(false);
+        $('#tabs').tabs('option', 'active', number);
     },
 
     // `off`: all of them, none, or the numbers of those.

@@ -82,7 +82,7 @@ Object.assign(wrentabledialog_obj, {
         const active = this.activeTab();
         if (tabHeader(active).hidden) {
             const home = TABS[active].memory ? MEMORY[0] : LIVE[0];
-            $('#tabs').tabs('option', 'active', home);
+            this.bringToFront(home);
         }
     }
 });

@@ -103,7 +103,7 @@ function textTip(box, items, textOf) {
 // Shows the text as it is by now.
 function followTip() {
     const shown = document.querySelector('.ui-tooltip-content');
-    const text = tipOwner && shown ? tipText(tipOwner) : '';
+    const text = shown && document.contains(tipOwner) ? tipText(tipOwner) : '';
     if (text !== '') {
         setText(shown, text);
     } else {

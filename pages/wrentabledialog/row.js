@@ -32,15 +32,21 @@ class DrawnRow {
     // Draws the record as a full refresh does. `line` counts from 1.
     rebuild(record, line, status) {
         this.bind(record, line);
-        this.isSteered = isSteered(record);
+        this.redraw(record, sourceOf(record), status);
+    }
+
+    redraw(record, source, status) {
+        this.source = source;
         this.style(status.style);
         this.cells.forEach(cell => cell.rebuild(record, status));
     }
 
-    // A row whose camera has ceased to tell something, or tells it again, is built anew.
+    // A row whose camera has ceased to tell something, or tells it again, is built anew, and so is the batch row when
+    // it shows another camera. It stays bound to the grid's record: only a full refresh brings new ones.
     tick(record, status) {
-        if (isSteered(record) !== this.isSteered || this.cells.some(cell => cell.reads(record) !== cell.isRead)) {
-            this.rebuild(record, this.line, status);
+        const source = sourceOf(record);
+        if (source !== this.source || this.cells.some(cell => cell.reads(record) !== cell.isRead)) {
+            this.redraw(record, source, status);
             return;
         }
         this.style(status.style);
@@ -92,4 +98,11 @@ class DrawnRow {
         const td = element.closest('td');
         return this.cells.find(cell => cell.box.parentNode === td);
     }
+}
+
+// What a drawn row is built from, beside what its cells need.
+function sourceOf(record) {
+    return isBatch(record)
+        ? String(wrentabledialog.getBatchDocKey())
+        : `${isSteered(record)} ${isOff(record) && record.alert !== ''}`;
 }

@@ -1,5 +1,6 @@
 #include "records/CommonMembers.h"
 
+#include "DOC_Activity.h"
 #include "DOC_Control.h"
 #include "DOC_Interface.h"
 #include "DOC_Lock.h"
@@ -22,11 +23,6 @@ QString statusText(int cameraStatus) {
     }
 }
 
-void addAlways(Record& record, DOC_Interface& doc) {
-    record.setText(QLatin1String("cameraName"), doc.control().getCameraName(1));
-    record.setFlag(QLatin1String("mobileSelected"), doc.isMobileSelected());
-}
-
 bool addLive(Record& record, DOC_Interface& doc, bool connected) {
     const DOC_Control& camera = doc.control();
     record.setFlag(QLatin1String("lock"), connected && doc.lock().isParamLocked());
@@ -37,7 +33,11 @@ bool addLive(Record& record, DOC_Interface& doc, bool connected) {
                    connected && camera.hasSyncStatus() ? camera.getSyncStatusText() : QString());
     record.setFlag(QLatin1String("reduceModeSupported"),
                    connected && camera.isFunctionSupported(zeb::FunctionReduceMode, 1));
-    record.setFlag(QLatin1String("reduceMode"), connected && camera.getReduceMode(0));
+    const bool reduce = connected && camera.getReduceMode(0);
+    if (connected) {
+        doc.activity().isSuspendReduce();  // one that does not tell whether its switch is open shows none
+    }
+    record.setFlag(QLatin1String("reduceMode"), reduce);
     record.setFlag(QLatin1String("lowLightModeSupported"),
                    connected && camera.isFunctionSupported(zeb::FunctionLowLight, 1));
     record.setFlag(QLatin1String("lowLightType"), connected && camera.getLowLightType() == zeb::LowLightTypeFast);
