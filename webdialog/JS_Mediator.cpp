@@ -186,20 +186,30 @@ void JS_Mediator::addPrefsJSObject() {
     if (view()) view()->page()->mainFrame()->addToJavaScriptWindowObject(QStringLiteral("prefs"), this);
 }
 
+template <typename Read>
+auto JS_Mediator::readPref(const char* method, const QString& name, Read read) {
+    using Value = decltype(read());
+    return queryCall(*this, {method, name}, m_lastRead.value(name).template value<Value>(), [&] {
+        const Value value = read();
+        m_lastRead[name] = QVariant::fromValue(value);
+        return value;
+    });
+}
+
 int JS_Mediator::getPrefInt(const QString& name, const QVariant& defaultValue) {
-    return queryCall(*this, {__func__, name}, 0, [&] { return host().getPrefInt(name, defaultValue); });
+    return readPref(__func__, name, [&] { return host().getPrefInt(name, defaultValue); });
 }
 
 bool JS_Mediator::getPrefBool(const QString& name, const QVariant& defaultValue) {
-    return queryCall(*this, {__func__, name}, false, [&] { return host().getPrefBool(name, defaultValue); });
+    return readPref(__func__, name, [&] { return host().getPrefBool(name, defaultValue); });
 }
 
 float JS_Mediator::getPrefFloat(const QString& name, const QVariant& defaultValue) {
-    return queryCall(*this, {__func__, name}, 0.0F, [&] { return host().getPrefFloat(name, defaultValue); });
+    return readPref(__func__, name, [&] { return host().getPrefFloat(name, defaultValue); });
 }
 
 QString JS_Mediator::getPrefString(const QString& name, const QVariant& defaultValue) {
-    return queryCall(*this, {__func__, name}, QString(), [&] { return host().getPrefString(name, defaultValue); });
+    return readPref(__func__, name, [&] { return host().getPrefString(name, defaultValue); });
 }
 
 template <typename Store>

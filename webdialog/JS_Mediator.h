@@ -4,6 +4,7 @@
 #include "FrameSkip.h"
 #include "PageBridge.h"
 
+#include <QHash>
 #include <QList>
 #include <QStringList>
 #include <QVariant>
@@ -172,6 +173,8 @@ protected:
     void setUpdateMask(unsigned int mask) { m_updateMask = mask; }
 
 private:
+    template <typename Read>
+    auto readPref(const char* method, const QString& name, Read read);
     template <typename Store>
     void storePref(const QString& method, const QString& name, const QVariant& value, bool update, Store store);
 
@@ -183,4 +186,6 @@ private:
     unsigned int m_updateMask = AllParts;
     FrameSkip m_skip;
     CycleFailures m_cycleFailures;
+    /// Preferences as last read, which stand for those that can't be read now: the page takes a change for the user's.
+    QHash<QString, QVariant> m_lastRead;
 };
