@@ -16,8 +16,13 @@ bool syncprefs::usesHubs(const ZebHost& host) {
 }
 
 QStringList syncprefs::hubAddresses(const ZebHost& host) {
-    const QString addresses = host.getPrefString(QStringLiteral("sync/lport/ipaddress"));
-    return addresses.isEmpty() ? QStringList() : addresses.split(QLatin1Char(','));
+    QStringList addresses;
+    for (const QString& each : host.getPrefString(QStringLiteral("sync/lport/ipaddress")).split(QLatin1Char(','))) {
+        if (const QString address = each.trimmed(); !address.isEmpty()) {
+            addresses.append(address);
+        }
+    }
+    return addresses;
 }
 
 QString syncprefs::generatorAddress(const ZebHost& host) {
