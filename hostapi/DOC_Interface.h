@@ -43,7 +43,7 @@ public:
     /// The document of the device that this head belongs to; null when it has none.
     virtual DOC_Interface* getParentDoc() const = 0;
 
-    /// The documents of all heads of the device, the master first.
+    /// The documents of all heads of the device, the master first; null for one that is gone.
     virtual DocList getHeadDocs(int mode) = 0;
 
     /// Name of a memory partition, from 1.

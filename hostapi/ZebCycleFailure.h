@@ -2,10 +2,10 @@
 
 #include <stdexcept>
 
-/// What an update cycle could not read, a line for each camera or source, each named. It comes when a failure is new
-/// and not again until that could be read once more.
+/// What has failed beside the work that goes on, a line for each camera or source: what an update cycle could not read,
+/// once when it is new, and settings that an arming could not make on a camera.
 ///
-/// Nobody waits for an answer to it, so a host may show it beside the work that goes on.
+/// Nobody waits for an answer to it, so a host may show it in a way that keeps nobody from working. It stands in the log.
 class ZebCycleFailure : public std::runtime_error {
 public:
     using std::runtime_error::runtime_error;

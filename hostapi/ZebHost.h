@@ -97,7 +97,7 @@ public:
     /// As `confirmModal`, with a box "don't show again" that stores false under `prefKey`.
     virtual bool confirmWithDontShowAgain(const QString& message, const QString& prefKey, QWidget* parent,
                                           const ButtonTexts& buttons) = 0;
-    /// Shows `e.what()` (UTF-8) to the user; nothing for an empty text.
+    /// Shows `e.what()` (UTF-8) to the user; nothing for an empty text. A `ZebCycleFailure` need not be waited for.
     virtual void errorHandler(const std::exception& e) = 0;
 
     /// Windows of the host, each with an event loop of its own until it is closed. The dialog of preferences is null

@@ -59,8 +59,8 @@ DOC_Interface* chooseMaster(ZebHost& host, const DocList& docs) {
         DOC_Interface* first = candidates.isEmpty() ? docs.first() : docOf(candidates.first().key);
         const DocList heads = first->getHeadDocs(0);
         // A head that is off leads nobody.
-        const auto on =
-            std::find_if(heads.begin(), heads.end(), [](DOC_Interface* head) { return head->isConnected(); });
+        const auto on = std::find_if(heads.begin(), heads.end(),
+                                     [](DOC_Interface* head) { return head != nullptr && head->isConnected(); });
         master = on != heads.end() ? *on : first;
     }
     if (master != nullptr) qInfo() << "masterAddress" << master->control().getAddress(1);

@@ -5,6 +5,7 @@
 #include "DOC_Interface.h"
 #include "DOC_VIGen.h"
 #include "FailureText.h"
+#include "GatheredFailures.h"
 #include "LogFailure.h"
 #include "SyncCamera.h"
 #include "SyncPreferences.h"
@@ -17,6 +18,7 @@
 #include <QScopedValueRollback>
 
 #include <algorithm>
+#include <stdexcept>
 
 template <typename Work, typename CleanUp>
 void SignalSources::attempt(Work&& work, CleanUp&& cleanUp) {
@@ -73,6 +75,30 @@ void SignalSources::dropGenerator() {
     m_state.generator.reset();
 }
 
+/// What it throws says which hub it was.
+template <typename Work>
+void SignalSources::onHub(const QString& address, Work&& work) const {
+    try {
+        ZebSignalDevice* hub = m_host.signalDevices().findByAddress(address);
+        if (hub != nullptr && hub->isConnected()) work(*hub);
+    } catch (...) {
+        throw std::runtime_error(withName(currentFailureText(), address).toStdString());
+    }
+}
+
+template <typename Work>
+void SignalSources::onMasterHubs(Work&& work) {
+    GatheredFailures failures;
+    for (const QString& address : syncprefs::hubAddresses(m_host)) {
+        failures.attempt([&] {
+            onHub(address, [&work](ZebSignalDevice& hub) {
+                if (hub.getRole() == zeb::HubRoleMaster) work(hub);
+            });
+        });
+    }
+    failures.rethrow();
+}
+
 void SignalSources::connectHubs() {
     attempt([this] { openHubs(); }, [this] { m_host.signalDevices().close(); });
 }
@@ -90,10 +116,10 @@ void SignalSources::openHubs() {
                             (missing.isEmpty() ? wanted : missing).join(QStringLiteral(", ")) % QLatin1Char(')'));
     }
     if (m_state.frequency < 1) return;
-    for (ZebSignalDevice* hub : masterHubs()) {
-        if (needsFrequency(m_state.frequency, SignalOffer::of(hub->getFrequency(), hub->getFrequencies())))
-            hub->setFrequency(m_state.frequency);
-    }
+    onMasterHubs([this](ZebSignalDevice& hub) {
+        if (needsFrequency(m_state.frequency, SignalOffer::of(hub.getFrequency(), hub.getFrequencies())))
+            hub.setFrequency(m_state.frequency);
+    });
 }
 
 void SignalSources::setFrequency(int hertz) {
@@ -102,7 +128,7 @@ void SignalSources::setFrequency(int hertz) {
     if (isGeneratorConnected()) {
         m_state.generator->setFrequency(hertz);
     } else if (syncprefs::usesHubs(m_host)) {
-        for (ZebSignalDevice* hub : masterHubs()) hub->setFrequency(hertz);
+        onMasterHubs([hertz](ZebSignalDevice& hub) { hub.setFrequency(hertz); });
     }
 }
 
@@ -112,18 +138,17 @@ bool SignalSources::isGeneratorConnected() const {
 
 template <typename Ask>
 bool SignalSources::ask(const QString& address, const char* question, Ask&& ask) const {
-    const QString source = QStringLiteral("hub %1 %2").arg(address, QLatin1String(question));
-    try {
-        ZebSignalDevice* hub = m_host.signalDevices().findByAddress(address);
-        if (hub != nullptr && hub->isConnected()) ask(*hub);
-        if (m_state.failures != nullptr) m_state.failures->whole(source);
-        return true;
-    } catch (...) {
-        const QString text = currentFailureText();
-        const QString named = text.contains(address) ? text : QString(address % QStringLiteral(": ") % text);
-        if (m_state.failures != nullptr) m_state.failures->failed(source, named);
-        return false;
+    bool answered = false;
+    const auto work = [&] {
+        onHub(address, ask);
+        answered = true;
+    };
+    if (m_state.failures != nullptr) {
+        m_state.failures->attempt(QStringLiteral("hub %1 %2").arg(address, QLatin1String(question)), work);
+    } else {
+        logFailure(work);
     }
+    return answered;
 }
 
 bool SignalSources::isHubConnected() const {
@@ -140,16 +165,6 @@ QStringList SignalSources::missingHubs() const {
     for (const QString& address : syncprefs::hubAddresses(m_host))
         ask(address, "connection", [&](ZebSignalDevice&) { missing.removeAll(address); });
     return missing;
-}
-
-QList<ZebSignalDevice*> SignalSources::masterHubs() const {
-    QList<ZebSignalDevice*> hubs;
-    for (const QString& address : syncprefs::hubAddresses(m_host)) {
-        ask(address, "role", [&hubs](ZebSignalDevice& hub) {
-            if (hub.getRole() == zeb::HubRoleMaster) hubs.append(&hub);
-        });
-    }
-    return hubs;
 }
 
 SignalOffer SignalSources::readGenerator() const {

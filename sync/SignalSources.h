@@ -17,7 +17,7 @@ inline const QString SignalDiffersText = QStringLiteral("External sync signal an
 
 /// Where the common signal comes from: a signal generator, or the Sync Hub that makes it. GUI thread.
 ///
-/// A look at the generator costs a question to the instrument. A hub that does not answer a question counts as not
+/// A look at the generator costs a question to the instrument. A hub that does not answer a look counts as not
 /// connected, and its failure goes into the state's `failures`. All operations but the two that connect may throw what
 /// the host and its devices throw.
 class SignalSources {
@@ -58,8 +58,12 @@ private:
     /// question to a hub from another.
     template <typename Ask>
     bool ask(const QString& address, const char* question, Ask&& ask) const;
-    /// The hubs that are there and make the signal, in the order of their addresses.
-    QList<ZebSignalDevice*> masterHubs() const;
+    /// Works on the hub with that address, if it is there and connected. Throws what it throws, with the address.
+    template <typename Work>
+    void onHub(const QString& address, Work&& work) const;
+    /// The same on those that make the signal, in the order of their addresses; one that fails keeps no other from it.
+    template <typename Work>
+    void onMasterHubs(Work&& work);
     /// Of the hubs that the preferences name those that are not there or not connected.
     QStringList missingHubs() const;
 

@@ -3,8 +3,8 @@
 #include "DOC_Control.h"
 #include "DOC_Frames.h"
 #include "DOC_Interface.h"
-#include "GatheredFailures.h"
 #include "MasterChoice.h"
+#include "NamedFailure.h"
 #include "SyncPreferences.h"
 #include "SyncState.h"
 #include "SyncableDocs.h"
@@ -41,11 +41,12 @@ FrameSkipChoice chooseFrameSkip(unsigned int rate, int frequency) {
 }
 
 bool setDeviceSpeedPlaying(ZebHost& host, const SyncState& sync, const DocList& docs, GatheredFailures& failures) {
-    int frequency = sync.frequency;
+    // Without its master a chain has no frequency to play by.
+    int frequency = 0;
     failures.attempt([&] { frequency = referenceFrequency(host, sync); });
     bool fits = true;
     for (DOC_Interface* doc : docs) {
-        failures.attempt([&] {
+        attemptOn(*doc, failures, [&] {
             DOC_Frames& frames = doc->frames();
             const FrameSkipChoice choice = chooseFrameSkip(doc->control().getRecordRate(0), frequency);
             if (choice.skip) {

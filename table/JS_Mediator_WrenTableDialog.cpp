@@ -30,6 +30,8 @@
 #include "records/RecordModel.h"
 
 #include <QCoreApplication>
+#include <QJsonDocument>
+#include <QJsonObject>
 
 #include <utility>
 
@@ -141,7 +143,13 @@ void JS_Mediator_WrenTableDialog::closeSession() {
 
 QString JS_Mediator_WrenTableDialog::getRecords(const QString& json) {
     return queryCall(*this, __func__, QString(), [&] {
-        const RecordModel::Answer answer = RecordModel(host(), m_state).getRecords(json, cycleFailures());
+        RecordModel model(host(), m_state);
+        // A call that is under way may be the one that arms.
+        if (m_state.recordRunning && !isNested()) {
+            cycleFailures().attempt(QStringLiteral("recording"),
+                                    [&] { m_state.recordRunning = !model.isRecordingOver(); });
+        }
+        const RecordModel::Answer answer = model.getRecords(json, cycleFailures());
         if (answer.selectionChanged) {
             updateUI();
             activateTable();
@@ -151,8 +159,9 @@ QString JS_Mediator_WrenTableDialog::getRecords(const QString& json) {
 }
 
 QString JS_Mediator_WrenTableDialog::getRecStatus() {
-    return queryCall(*this, __func__, QStringLiteral("{}"),
-                     [this] { return RecordModel(host(), m_state).getRecStatus(); });
+    QJsonObject status;
+    queryCall(*this, __func__, [&] { RecordModel(host(), m_state).addRecStatus(status); });
+    return QString::fromUtf8(QJsonDocument(status).toJson(QJsonDocument::Compact));
 }
 
 bool JS_Mediator_WrenTableDialog::isRecReady() {

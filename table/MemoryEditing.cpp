@@ -107,9 +107,11 @@ bool MemoryEditing::userTakesUnchecked() {
     GatheredFailures unread;
     bool complete = true;
     for (DOC_Interface* doc : connectedDocs(documents, documents.getConnectedDocKeys(), unread)) {
-        unread.attempt(
-            [&] { complete = (doc->frames().getFrameCount(0, 0) == 0 || doc->frames().isRecordCheck()) && complete; });
+        attemptOn(*doc, unread, [&] {
+            complete = (doc->frames().getFrameCount(0, 0) == 0 || doc->frames().isRecordCheck()) && complete;
+        });
     }
+    unread.log();
     if (complete && unread.isEmpty()) {
         return true;
     }

@@ -7,8 +7,8 @@
 #include "DOC_Lock.h"
 #include "DeviceAlerts.h"
 #include "DeviceSpeed.h"
-#include "GatheredFailures.h"
 #include "MemoryEditing.h"
+#include "NamedFailure.h"
 #include "RecordProblems.h"
 #include "SignalSources.h"
 #include "SyncPreferences.h"
@@ -44,7 +44,12 @@ void RecordButton::press(const std::function<bool()>& synchronise) {
     if (areCamerasLocked() && userTakesProblems() && prepareSignal(synchronise, failures) && canArm()) {
         clearRecordChecks(m_host, failures);
         setAreas(failures);
-        arm();
+        try {
+            arm();
+        } catch (...) {
+            tell(failures);
+            throw;
+        }
         tell(failures);
     }
 }
@@ -52,8 +57,9 @@ void RecordButton::press(const std::function<bool()>& synchronise) {
 /// The cameras are armed, and nobody may be kept from their trigger. What the user has read before comes no second
 /// time.
 void RecordButton::tell(const GatheredFailures& failures) {
+    failures.log();
     QStringList lines = failures.lines();
-    for (const QString& line : m_read) {
+    for (const QString& line : m_told) {
         lines.removeAll(line);
     }
     if (!lines.isEmpty()) {
@@ -86,18 +92,16 @@ bool RecordButton::areCamerasLocked() {
     }
     GatheredFailures unread;
     bool locked = true;
-    GatheredFailures unknown;  // is a problem, later
+    GatheredFailures unknown;  // named among the problems
     for (DOC_Interface* doc : connected(unknown)) {
-        unread.attempt([&] { locked = doc->lock().isParamLocked() && locked; });
+        attemptOn(*doc, unread, [&] { locked = doc->lock().isParamLocked() && locked; });
     }
     if (locked && unread.isEmpty()) {
         return true;
     }
-    QStringList lines{m_host.translate(QStringLiteral("Lock all connected cameras."))};
-    if (!unread.isEmpty()) {
-        lines.append(unread.text());
-    }
-    m_host.alert(lines.join(QLatin1Char('\n')), m_parent);
+    unread.log();
+    const QStringList lines{m_host.translate(QStringLiteral("Lock all connected cameras."))};
+    m_host.alert((lines + unread.lines()).join(QLatin1Char('\n')), m_parent);
     return false;
 }
 
@@ -113,16 +117,17 @@ QStringList RecordButton::problems() {
         }
         CameraAlerts camera;
         GatheredFailures unread;
-        unread.attempt([&] {
-            if (doc->isConnected()) {
-                camera.cameraName = doc->control().getCameraName(1);
-                camera.device = alertsOfDevice(doc->getParentDoc());
-                camera.own = doc->getAlerts();
-                camera.differsFromSignal = hasSignal && !signal.agreesWith(*doc);
-            }
-        });
+        bool connected = false;
+        attemptOn(*doc, unread, [&] { connected = doc->isConnected(); });
+        if (connected) {
+            attemptOn(*doc, unread, [&] { camera.cameraName = doc->control().getCameraName(1); });
+            attemptOn(*doc, unread, [&] { camera.device = alertsOfDevice(doc->getParentDoc()); });
+            attemptOn(*doc, unread, [&] { camera.differsFromSignal = hasSignal && !signal.agreesWith(*doc); });
+            attemptOn(*doc, unread, [&] { camera.own = doc->getAlerts(); });
+        }
+        unread.log();
         camera.own += unread.lines();
-        m_read += unread.lines();
+        m_told += unread.lines();
         cameras.append(camera);
     }
     return problemLines(cameras, m_host.translate(SignalDiffersText));
@@ -165,7 +170,7 @@ void RecordButton::setAreas(GatheredFailures& failures) {
         return;
     }
     for (DOC_Interface* doc : connected(failures)) {
-        failures.attempt([&] {
+        attemptOn(*doc, failures, [&] {
             const auto area = m_state.areas.constFind(int(doc->control().getRecordRate(0)));
             if (area != m_state.areas.constEnd()) {
                 doc->frames().setRecordAreaStart(area->first);

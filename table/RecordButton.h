@@ -43,6 +43,6 @@ private:
     ZebHost& m_host;
     TableState& m_state;
     const QPointer<QWidget> m_parent;
-    /// What the cameras did not answer and the user has been told.
-    QStringList m_read;
+    /// Failures that the user has been told of by the problems.
+    QStringList m_told;
 };

@@ -2,7 +2,6 @@
 
 #include "BridgePause.h"
 #include "CycleFailures.h"
-#include "FailureText.h"
 #include "JS_Mediator.h"
 #include "OperationEventHandler.h"
 #include "TraceScope.h"
@@ -49,13 +48,7 @@ struct Query {
 template <typename Result, typename Work>
 Result queryCall(JS_Mediator& bridge, const Query& query, Result fallback, Work&& work) {
     const BridgePause pause(bridge);
-    CycleFailures& failures = bridge.cycleFailures();
-    try {
-        fallback = std::forward<Work>(work)();
-        if (!failures.isEmpty()) failures.whole(query.source());
-    } catch (...) {
-        failures.failed(query.source(), currentFailureText());
-    }
+    bridge.cycleFailures().attempt(query.source(), [&] { fallback = std::forward<Work>(work)(); });
     bridge.tellCycleFailures();
     return fallback;
 }

@@ -1,7 +1,7 @@
 #include "ConnectedDocs.h"
 
 #include "DOC_Interface.h"
-#include "GatheredFailures.h"
+#include "NamedFailure.h"
 #include "ZebDocManager.h"
 
 DocList connectedDocs(ZebDocManager& documents, const DocKeyList& keys) {
@@ -14,12 +14,14 @@ DocList connectedDocs(ZebDocManager& documents, const DocKeyList& keys) {
 DocList connectedDocs(ZebDocManager& documents, const DocKeyList& keys, GatheredFailures& failures) {
     DocList docs;
     for (const DOCKEY key : keys) {
-        failures.attempt([&] {
-            DOC_Interface* doc = documents.getDoc(key, 1);
-            if (doc != nullptr && doc->isConnected()) {
-                docs.append(doc);
-            }
-        });
+        DOC_Interface* doc = documents.getDoc(key, 1);
+        bool connected = false;
+        if (doc != nullptr) {
+            attemptOn(*doc, failures, [&] { connected = doc->isConnected(); });
+        }
+        if (connected) {
+            docs.append(doc);
+        }
     }
     return docs;
 }

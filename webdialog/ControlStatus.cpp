@@ -5,7 +5,7 @@
 #include "DOC_Interface.h"
 #include "DOC_Lock.h"
 #include "DOC_Storage.h"
-#include "FailureText.h"
+#include "NamedFailure.h"
 #include "PLG_Interface.h"
 #include "ZebAppStatus.h"
 #include "ZebCameraOps.h"
@@ -134,13 +134,11 @@ QJsonObject controlStatus(ZebHost& host, DOC_Interface* doc, CycleFailures& fail
     addWorks(status, host);
     addPlugins(status, host);
     addWindows(status, host);
-    const QString source = QStringLiteral("current document");
-    try {
-        addDocument(status, host, doc ? doc : host.docManager().getCurrentDoc());
-        failures.whole(source);
-    } catch (...) {
-        // One camera that does not answer rules no control of the others.
-        failures.failed(source, currentFailureText());
-    }
+    // One camera that does not answer rules no control of the others.
+    failures.attempt(QStringLiteral("current document"), [&] {
+        DOC_Interface* shown = doc ? doc : host.docManager().getCurrentDoc();
+        if (!shown) return addDocument(status, host, nullptr);
+        onCamera(*shown, [&] { addDocument(status, host, shown); });
+    });
     return status;
 }

@@ -17,6 +17,8 @@ public:
 
     /// Whether a call runs. The bridge and its view must not be destroyed then.
     bool isInCall() const { return m_callDepth > 0; }
+    /// Whether the call that runs was made inside another one, from an event loop of that.
+    bool isNested() const { return m_callDepth > 1; }
     /// Runs `action` from the event loop as soon as no call runs. Forgotten if the bridge goes before.
     void afterCalls(const std::function<void()>& action);
 

@@ -24,6 +24,8 @@ void writeFile(ZebHost* host, const QString& path, const ZebSupportFile& file) {
         if (!host->exportSupportFile(path, file)) throw APP_Exception(QStringLiteral("Failed to save support file."));
     } catch (const APP_Exception& e) {
         throw APP_ConcurrentException(e);
+    } catch (const std::exception& e) {  // else the worker would drop the text
+        throw APP_ConcurrentException(APP_Exception(QString::fromUtf8(e.what())));
     }
 }
 

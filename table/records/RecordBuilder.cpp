@@ -21,6 +21,7 @@
 namespace {
 
 const QString Signal = QStringLiteral("signal");
+const QString Current = QStringLiteral("current document of the host");
 
 }  // namespace
 
@@ -44,68 +45,67 @@ QString RecordBuilder::sourceOf(DOCKEY key) {
 
 /// A source that does not answer gives none.
 bool RecordBuilder::signalGivesFrequency() const {
-    try {
-        const bool gives = m_signal.givesFrequency();
-        m_failures.whole(Signal);
-        return gives;
-    } catch (...) {
-        m_failures.failed(Signal, currentFailureText());
-        return false;
-    }
+    bool gives = false;
+    m_failures.attempt(Signal, [&] { gives = m_signal.givesFrequency(); });
+    return gives;
 }
 
-RecordBuilder::Row RecordBuilder::build(DOC_Interface& doc, DOCKEY key, int recid, bool select) {
+RecordBuilder::Row RecordBuilder::build(DOC_Interface& doc, DOCKEY key, int recid, bool select, QString failure) {
     Row row;
-    QString failure;
     const auto attempt = [&failure](auto&& ask) {
         try {
             ask();
+            return true;
         } catch (...) {
-            if (failure.isEmpty()) {
-                failure = currentFailureText();
-            }
+            failure = failure.isEmpty() ? currentFailureText() : failure;
+            return false;
         }
     };
     bool connected = false;
     bool selected = false;
     bool current = false;
-    QString alert;
-    attempt([&] { connected = doc.isConnected(); });
-    const bool isKnown = failure.isEmpty();
+    QString name;
+    const bool isKnown = attempt([&] { connected = doc.isConnected(); });
     attempt([&] { selected = (connected || select) && doc.isSelected(); });
     if (select && !selected) {
         attempt([&] {
             m_host.docManager().selectDoc(key);
-            selected = row.newlySelected = true;
+            row.newlySelected = true;
+            selected = doc.isSelected();
         });
     }
-    attempt([&] { current = connected && m_host.docManager().isCurrentDoc(key); });
+    // The host's own answer, and no camera's fault.
+    m_failures.attempt(Current, [&] { current = connected && m_host.docManager().isCurrentDoc(key); });
     row.selected = connected && selected;
     row.record.setNumber(QLatin1String("recid"), recid);
     row.record.setText(QLatin1String("key"), QString::number(key));
     row.record.setFlag(QLatin1String("connected"), connected);
     row.record.setFlag(QLatin1String("selected"), row.selected);
     row.record.setFlag(QLatin1String("current"), current);
-    if (isKnown) {
-        attempt([&] { addMembers(row.record, doc, connected); });
-    } else {
-        attempt([&] { commonmembers::addAlways(row.record, doc); });
-    }
-    if (failure.isEmpty()) {
-        attempt([&] { alert = connected ? alertOf(doc) : QString(); });
-    }
-    row.whole = failure.isEmpty();
+    QString alert;
+    const bool whole = attempt([&] {
+        name = doc.control().getCameraName(1);
+        row.record.setText(QLatin1String("cameraName"), name);
+        if (isKnown) {
+            addMembers(row.record, doc, connected);
+            alert = connected ? alertOf(doc) : QString();
+        }
+    });
+    row.whole = whole && failure.isEmpty();
     row.record.setText(QLatin1String("alert"), row.whole ? alert : failure);
-    if (!row.whole) {
-        m_failures.failed(sourceOf(key), namedFailure(failure, doc));
-    } else if (!m_failures.isEmpty()) {
-        m_failures.whole(sourceOf(key));
-    }
+    note(row, doc, key, name, failure);
     return row;
 }
 
+void RecordBuilder::note(const Row& row, DOC_Interface& doc, DOCKEY key, const QString& name, const QString& failure) {
+    if (row.whole) {
+        m_failures.answered(sourceOf(key));
+    } else {
+        m_failures.failed(sourceOf(key), name.isEmpty() ? namedFailure(failure, doc) : withName(failure, name));
+    }
+}
+
 void RecordBuilder::addMembers(Record& record, DOC_Interface& doc, bool connected) {
-    commonmembers::addAlways(record, doc);
     if (m_live) {
         addLive(record, doc, connected);
     } else {
@@ -124,20 +124,25 @@ QString RecordBuilder::alertOf(DOC_Interface& doc) const {
 
 /// A device that does not answer leaves the row of its head whole, which shows why.
 QStringList RecordBuilder::alertsOfParent(DOC_Interface& doc) const {
-    const DOC_Interface* device = doc.getParentDoc();
-    const QString source = sourceOf(doc.getKey()) % QStringLiteral(", its device");
-    try {
-        const QStringList alerts = alertsOfDevice(device);
-        m_failures.whole(source);
-        return alerts;
-    } catch (...) {
-        m_failures.failed(source, currentFailureText());
-        return {currentFailureText()};
+    DOC_Interface* device = doc.getParentDoc();
+    QStringList alerts;
+    const auto ask = [&] { onCamera(*device, [&] { alerts = alertsOfDevice(device); }); };
+    if (device != nullptr) {
+        m_failures.attempt(sourceOf(doc.getKey()) % QStringLiteral(", its device"), [&] {
+            try {
+                ask();
+            } catch (const std::exception& failure) {
+                alerts.append(QString::fromUtf8(failure.what()));
+                throw;
+            }
+        });
     }
+    return alerts;
 }
 
 void RecordBuilder::addLive(Record& record, DOC_Interface& doc, bool connected) {
     const bool lowLight = commonmembers::addLive(record, doc, connected);
+    record.setFlag(QLatin1String("mobileSelected"), doc.isMobileSelected());
     switch (m_tab) {
         case CameraInfoTab:
             camerainfo::add(record, doc);
@@ -161,6 +166,7 @@ void RecordBuilder::addLive(Record& record, DOC_Interface& doc, bool connected) 
 
 void RecordBuilder::addMemory(Record& record, DOC_Interface& doc, bool connected) {
     record.setFlag(QLatin1String("check"), doc.frames().isRecordCheck());
+    record.setFlag(QLatin1String("mobileSelected"), doc.isMobileSelected());
     if (m_memoryInfo) {
         m_memoryInfo->add(record, doc, connected);
         return;

@@ -5,7 +5,7 @@
 #include "DOC_Control.h"
 #include "DOC_Interface.h"
 #include "DocKeys.h"
-#include "FailureText.h"
+#include "NamedFailure.h"
 #include "TableState.h"
 #include "ZebDocManager.h"
 #include "ZebHost.h"
@@ -70,9 +70,14 @@ public:
 
     /// Whether it stands for all cameras.
     bool isAll() const { return m_all; }
-    /// Whether the camera belongs to it; `unknown` when its address can't be read.
-    bool has(DOC_Interface& doc, bool unknown) const {
-        return m_all || answerOr(unknown, [&] { return m_members.contains(doc.control().getAddress(1)); });
+    /// Whether the camera belongs to it, or may: when its address can't be read, `unread` says why.
+    bool mayHave(DOC_Interface& doc, QString& unread) const {
+        try {
+            return m_all || m_members.contains(doc.control().getAddress(1));
+        } catch (...) {
+            unread = currentFailureText();
+            return true;
+        }
     }
 
 private:
@@ -86,9 +91,6 @@ RecordModel::Answer RecordModel::getRecords(const QString& request, CycleFailure
     }
     const RecordRequest asked = RecordRequest::parse(request);
     store(asked);
-    if (m_state.recordRunning && isRecordingOver()) {
-        m_state.recordRunning = false;
-    }
     const GroupFilter group(asked.group, m_state.groups);
     const bool deselected =
         !group.isAll() && !m_state.recordRunning && !m_state.loadingRigx && deselectOutside(group, failures);
@@ -100,14 +102,12 @@ RecordModel::Answer RecordModel::getRecords(const QString& request, CycleFailure
     return answer;
 }
 
-QString RecordModel::getRecStatus() const {
-    QJsonObject status;
+void RecordModel::addRecStatus(QJsonObject& status) const {
     if (m_host.isLiveMode()) {
         const int state = recordState();
         status.insert(QLatin1String("recStatus"), state);
         status.insert(QLatin1String("recStatusLabel"), m_host.translate(recordLabel(state)));
     }
-    return compact(QJsonDocument(status));
 }
 
 int RecordModel::recordState() const {
@@ -140,20 +140,18 @@ bool RecordModel::isSuspendReduceMode(DOCKEY key, CycleFailures& failures) const
     ZebDocManager& documents = m_host.docManager();
     const auto isSuspended = [&documents](DOCKEY each) {
         DOC_Interface* doc = documents.getDocAny(each);
-        return doc != nullptr && doc->activity().isSuspendReduce();
+        bool suspended = false;
+        if (doc != nullptr) {
+            onCamera(*doc, [&] { suspended = doc->activity().isSuspendReduce(); });
+        }
+        return suspended;
     };
     if (key != zeb::NoDocKey) {
         return isSuspended(key);
     }
     bool any = false;
     for (const DOCKEY each : documents.getLiveDocKeys(0, 0)) {
-        const QString source = QStringLiteral("live speed of %1").arg(each);
-        try {
-            any = isSuspended(each) || any;
-            failures.whole(source);
-        } catch (...) {
-            failures.failed(source, currentFailureText());
-        }
+        failures.attempt(QStringLiteral("live speed of %1").arg(each), [&] { any = isSuspended(each) || any; });
     }
     return any;
 }
@@ -167,7 +165,6 @@ void RecordModel::store(const RecordRequest& request) const {
     }
 }
 
-/// A recording whose end nobody told, as that of a camera that came into the table ready and has gone again.
 bool RecordModel::isRecordingOver() const {
     if (!m_host.isLiveMode() || recordState() != zeb::RecordLive) {
         return false;
@@ -190,18 +187,19 @@ bool RecordModel::deselectOutside(const GroupFilter& group, CycleFailures& failu
     bool changed = false;
     for (const DOCKEY key : documents.getDocKeys()) {
         DOC_Interface* doc = documents.getDocAny(key);
+        QString unread;
         const auto isOutside = [&] {
-            return !(live && doc->isMobileSelected()) && !group.has(*doc, true) && doc->isSelected();
+            return !(live && doc->isMobileSelected()) && !group.mayHave(*doc, unread) && doc->isSelected();
         };
         if (doc == nullptr || !answerOr(false, isOutside)) {
             continue;
         }
-        try {
-            documents.deselectDoc(key);
-            changed = changed || !doc->isSelected();
-        } catch (...) {
-            failures.failed(RecordBuilder::sourceOf(key), currentFailureText());
-        }
+        failures.attempt(RecordBuilder::sourceOf(key) % QStringLiteral(", its selection"), [&] {
+            onCamera(*doc, [&] {
+                documents.deselectDoc(key);
+                changed = changed || !doc->isSelected();
+            });
+        });
     }
     return changed;
 }
@@ -235,11 +233,12 @@ RecordModel::Answer RecordModel::build(const RecordRequest& request, const Group
     int recid = 0;
     for (const DOCKEY key : keysFor(request.filter)) {
         DOC_Interface* doc = documents.getDocAny(key);
-        if (doc == nullptr || !group.has(*doc, true)) {
+        QString unread;
+        if (doc == nullptr || !group.mayHave(*doc, unread)) {
             continue;
         }
-        const bool select = selectListed && group.has(*doc, false);
-        const RecordBuilder::Row row = builder.build(*doc, key, ++recid, select);
+        const bool select = selectListed && unread.isEmpty();
+        const RecordBuilder::Row row = builder.build(*doc, key, ++recid, select, unread);
         answer.selectionChanged = answer.selectionChanged || row.newlySelected;
         rows += recid > 1 ? QLatin1String(",") : QLatin1String();
         row.record.appendTo(rows);

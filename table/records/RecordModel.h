@@ -7,12 +7,13 @@
 
 class CycleFailures;
 class GroupFilter;
+class QJsonObject;
 class ZebHost;
 struct TableState;
 
 /// What the page shows of the cameras, asked anew from the host at each call.
 ///
-/// All operations may throw what the host throws; what a camera throws stays in its row.
+/// All operations may throw what the host throws. What a camera throws stays in its row, where there is one.
 class RecordModel {
 public:
     RecordModel(ZebHost& host, TableState& state) : m_host(host), m_state(state) {}
@@ -29,8 +30,12 @@ public:
     /// It is noted in `failures`, as are the cameras that have answered.
     Answer getRecords(const QString& request, CycleFailures& failures);
 
-    /// JSON with state and label of the record button; without members outside live mode.
-    QString getRecStatus() const;
+    /// Whether there is no recording, whatever was told of its end: as after a camera that came into the table ready
+    /// and has gone again. Live mode only. A camera that does not answer may record.
+    bool isRecordingOver() const;
+
+    /// Adds state and label of the record button to `status`, in live mode only. What was added before a failure stays.
+    void addRecStatus(QJsonObject& status) const;
     /// A `zeb::RecordStatus` of the live cameras.
     int recordState() const;
 
@@ -46,7 +51,6 @@ public:
 
 private:
     void store(const RecordRequest& request) const;
-    bool isRecordingOver() const;
     bool deselectOutside(const GroupFilter& group, CycleFailures& failures) const;
     DocKeyList keysFor(int filter) const;
     Answer build(const RecordRequest& request, const GroupFilter& group, CycleFailures& failures);

@@ -246,7 +246,7 @@ TEST_F(RecordingTest, aCameraThatDoesNotAnswerIsNamedAndTheOthersAreArmed) {
         QStringList toldAfterwards;
     } cases[] = {
         {"isConnected", problem + "Ramp: no answer", {}},
-        {"getCameraName", problem + "Ramp: no answer", {}},
+        {"getCameraName", problem + "192.168.0.12: Ramp: no answer", {}},
         {"getAlerts", problem + "Ramp・・Ramp: no answer", {}},
         {"setRecordCheck", {}, {"Ramp: no answer"}},
         {"getRecordRate", {}, {"Ramp: no answer"}},

@@ -2,6 +2,8 @@
 
 #include "FailureText.h"
 
+#include <QDebug>
+
 #include <stdexcept>
 
 void GatheredFailures::noteCurrent() {
@@ -9,6 +11,10 @@ void GatheredFailures::noteCurrent() {
     for (const QString& line : currentFailureText().split(QLatin1Char('\n'), Qt::SkipEmptyParts)) {
         if (!m_texts.contains(line)) m_texts.append(line);
     }
+}
+
+void GatheredFailures::log() const {
+    for (const QString& text : m_texts) qCritical() << text;
 }
 
 void GatheredFailures::rethrow() const {

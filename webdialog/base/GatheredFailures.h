@@ -22,6 +22,8 @@ public:
     const QStringList& lines() const { return m_texts; }
     /// The same as one text, a line each.
     QString text() const { return m_texts.join(QLatin1Char('\n')); }
+    /// A line of the log for each.
+    void log() const;
     /// Throws them as one `std::runtime_error`, if there are any.
     void rethrow() const;
 
