@@ -119,6 +119,31 @@ TEST_F(PageFailures, TheOtherRowsFollowAndKeepTheirOpenLists) {
     EXPECT_EQ(told(), QStringList{"Nozzle left: no answer"});
 }
 
+TEST_F(PageFailures, ARowBuiltAnewAtATickKeepsItsPlace) {
+    test.host.prefs().setValue("wren/table/filter", 1);
+    open(0);
+    test.camera(3).change({{"connected", false}});
+    plant(5, "getComment");
+    page->tick();
+    page->click("[dockey=\"5\"].wren_label_edit_camera_name");
+    EXPECT_EQ(camerasWith(test, &CameraState::selected), QStringList("5"));
+    EXPECT_EQ(told(), QStringList{"Roof: no answer"});
+}
+
+TEST_F(PageFailures, TheBatchRowShowsWhatIsReadOfItsCamera) {
+    open(1);
+    choose(test, {"6", "7"});
+    page->update();
+    const QString rates = "$('#grid_wren-liveControl-list_summary select.wren_livecontrol_framerate').val()";
+    test.camera(6).set(&CameraState::rate, 500);
+    page->tick();
+    EXPECT_NE(page->text(rates), "500");
+    plant(7, "getRecordRate");
+    page->tick();
+    EXPECT_EQ(page->text(rates), "500");
+    told();
+}
+
 TEST_F(PageFailures, ARefreshThatGotNoListIsMadeUpFor) {
     open(0);
     page->show(5);
