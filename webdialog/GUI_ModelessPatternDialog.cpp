@@ -54,7 +54,7 @@ void GUI_ModelessPatternDialog::centerOnMainScreen() {
 void GUI_ModelessPatternDialog::closeEvent(QCloseEvent*) {
     const QPointer<GUI_ModelessPatternDialog> self(this);
     host().appStatus().notifyPluginClosed(m_plugin);
-    if (self) closePage();
+    if (self && getBridge()) closePage();
     // The page's answer may have waited for the user, and the dialog be gone by now.
     if (self) Q_EMIT closed();
 }

@@ -72,7 +72,7 @@ void GUI_WebViewDialog::addBridge(JS_Mediator* bridge) {
 }
 
 QList<JS_Mediator*> GUI_WebViewDialog::bridges() const {
-    return QList<JS_Mediator*>{m_bridge} + m_extraBridges;
+    return m_bridge ? QList<JS_Mediator*>{m_bridge} + m_extraBridges : QList<JS_Mediator*>();
 }
 
 JS_Mediator* GUI_WebViewDialog::busyBridge() const {
