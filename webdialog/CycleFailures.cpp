@@ -52,7 +52,8 @@ bool CycleFailures::isMet(const Failing& failing) const {
 }
 
 void CycleFailures::end(const QString& text, Failing& failing) {
-    if (const int count = std::exchange(failing.count, 0)) qCritical() << text << "is over, met" << count << "times.";
+    if (const int count = std::exchange(failing.count, 0))
+        qCritical() << text << "is no longer met, after" << count << "times.";
 }
 
 QString CycleFailures::takeNew() {

@@ -150,7 +150,7 @@ TEST_F(ControlStatusTest, AFailureIsToldOnceUntilTheStatesAreWholeAgain) {
     change(1, "selected", true);
     const QString whole = bridge.getControlStatus();
     const QStringList told{"pause", "critical: \"Camera 1: no answer\"", "errorHandler Camera 1: no answer", "resume"};
-    const QStringList over{"pause", "critical: \"Camera 1: no answer\" is over, met 2 times.", "resume"};
+    const QStringList over{"pause", "critical: \"Camera 1: no answer\" is no longer met, after 2 times.", "resume"};
     for (int i = 0; i < 2; ++i) {
         host.faults().plant(1, "isSuspendReduce", {"no answer", 0, false});
         course.take();

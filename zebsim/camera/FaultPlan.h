@@ -50,7 +50,6 @@ public:
     };
     /// Those since `plantAt`, in their order.
     QVector<Call> calls() const;
-    int callCount() const { return calls().size(); }
     void clear();
 
     /// An operation meets its fault, with the time it takes; from then on the camera is gone if the fault says so.
