@@ -86,21 +86,17 @@ QString OtherHost::run(const QString& script) {
 }
 
 void OtherHost::show(int tab) {
-    run(QString("void $('#tabs').tabs('option', 'active', %1)").arg(tab));
+    const QString active = "$('#tabs').tabs('option', 'active'%1)";
+    if (run(active.arg("")).toInt() == tab) return;
+    run(QString("void " + active).arg(", %1").arg(tab));
     update();
 }
 
 QStringList OtherHost::rows() {
-    const QString script =
-        "Array.from(document.querySelectorAll(`#grid_${TABS[%1].gridName}_records tr[recid]`),"
-        "           row => `${TABS[%1].name} ${row.innerHTML}`).join('\\n')";
-    QStringList rows;
-    for (int tab = 0; tab < Tabs; ++tab) {
-        show(tab);
-        rows += run(script.arg(tab)).split('\n');
-    }
-    show(0);
-    return rows;
+    return run("Array.from(document.querySelectorAll(`#grid_${wrentabledialog_obj.activeGrid().name}_records "
+               "tr[recid]`),"
+               "           row => row.innerHTML).join('\\n')")
+        .split('\n');
 }
 
 void OtherHost::rest() {
@@ -133,8 +129,8 @@ void OtherHost::prepareModes() {
     appStatusPart.onIsWrenRunning = [this] { return running; };
     appStatusPart.onGetPlugin = [this](const QString& name) { return name == "wren" ? plugin.get() : nullptr; };
     appStatusPart.onClosePlugin = [this](const QString& name) {
-        const QString closed = name;  // read here, as a host may that has destroyed the plug-in
-        if (closed == "wren" && plugin) plugin->deactivate();
+        // Read here too, as a host may that has destroyed the plug-in.
+        if (name.size() == 4 && plugin) plugin->deactivate();
     };
 }
 

@@ -46,9 +46,10 @@ public:
     void update();
     /// The value of a script in the table's page, as text; empty without a page.
     QString run(const QString& script);
+    /// Brings a tab to the front and has it updated, if it is not there.
     void show(int tab);
     bool hasPage() { return run(QStringLiteral("!wrentabledialog_obj.initialize")) == QLatin1String("true"); }
-    /// The rows of each tab, as they stand in the page, which is left on the first.
+    /// The rows of the tab in front, as they stand in the page.
     QStringList rows();
     /// All cameras connected, selected and open, in live mode.
     void rest();
