@@ -27,10 +27,13 @@ struct Act {
     std::function<void(OtherHost&)> act;
 };
 
+const Act Loading{
+    "loading", [](OtherHost& host) { host.open(); },
+    [](OtherHost& host) { EXPECT_TRUE(QTest::qWaitFor([&host] { return !host.view || host.hasPage(); })); }};
 const Act Opened{"opened", [](OtherHost&) {},
                  [](OtherHost& host) {
                      host.open();
-                     EXPECT_TRUE(QTest::qWaitFor([&host] { return !host.view || host.hasPage(); }));
+                     Loading.act(host);
                  }};
 const Act OpenedAgain{"opened again",
                       [](OtherHost& host) {
@@ -199,15 +202,18 @@ TEST_F(OtherHostTest, showsItsCamerasOnEachTabAndAgain) {
 }
 
 TEST_F(OtherHostTest, isWholeAgainAfterAFaultAtItsOpening) {
+    const auto expectWholeAfter = [this](const Act& act, const QByteArray& operation, bool always) {
+        SCOPED_TRACE(act.name + ", " + operation.toStdString() + (always ? ", always" : ", at first"));
+        OtherHost host;
+        fail(host, act, operation, always);
+        if (!host.plugin->isDialogVisible()) host.openWhole();
+        expectWhole(host);
+    };
     for (const QByteArray& operation : operationsOf(Opened)) {
-        for (const bool always : {false, true}) {
-            SCOPED_TRACE(operation.toStdString() + (always ? ", always" : ", at first"));
-            OtherHost host;
-            fail(host, Opened, operation, always);
-            if (!host.plugin->isDialogVisible()) host.openWhole();
-            expectWhole(host);
-        }
+        expectWholeAfter(Opened, operation, false);
+        expectWholeAfter(Opened, operation, true);
     }
+    for (const QByteArray& operation : operationsOf(Loading)) expectWholeAfter(Loading, operation, true);
 }
 
 TEST_F(OtherHostTest, isWholeAgainAfterAFaultOnATab) {
