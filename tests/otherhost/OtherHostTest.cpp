@@ -151,7 +151,7 @@ protected:
     }
 
     /// At the next cycle the tab in front is whole, and then each of the others.
-    void expectWhole(OtherHost& host, QList<int> tabs = {0, 1, 2, 3, 4, 5, 6}) {
+    void expectWhole(OtherHost& host, const QList<int>& tabs = {0, 1, 2, 3, 4, 5, 6}) {
         host.update();
         for (const int tab : tabs) {
             host.show(tab);
