@@ -151,8 +151,8 @@ void RecordRun::trigger(bool withAreas) {
         return;
     }
     for (const auto& camera : cameras) {
-        const Part* part = findPart(*camera);
-        begin(part == nullptr || part->over ? takeIn(camera) : *findPart(*camera), withAreas);
+        Part* part = findPart(*camera);
+        begin(part == nullptr || part->over ? takeIn(camera) : *part, withAreas);
     }
     const QStringList reasons = commandAll(cameras, &Camera::trigger);
     for (std::size_t i = 0; i < cameras.size(); ++i) {
