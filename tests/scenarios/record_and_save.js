@@ -6,13 +6,6 @@ const STATUS = "$('#timeline_rec_exec').data('status')";
 const START = '#wren_spinner_select_start_frameno';
 const END = '#wren_spinner_select_end_frameno';
 
-function choose(key, word, value) {
-    zeb.click(`.SumoSelect[dockey="${key}"] p.wren_livecontrol_${word}`);
-    const place = zeb.page("$('.wren-dropdown option').map((index, option) => option.value).get()").indexOf(value);
-    check(place >= 0, `${value} is on offer`);
-    zeb.click(`.wren-dropdown .options li:nth-child(${place + 1})`);
-}
-
 function setNumber(spinner, number) {
     zeb.click(spinner);
     zeb.page(`document.querySelector('${spinner}').select(); return 0`);
@@ -43,7 +36,7 @@ check(zeb.until("$('#wren-cameraInfo-list .wren_button_lockStatus_unlock:visible
 zeb.click('a[href="#livecontrolTab"]');
 check(zeb.until("$('.wren_livecontrol_framerate[dockey=\"8\"]').length > 0"), 'the live control tab is drawn');
 zeb.log();
-choose(-1, 'framerate', '2000');
+zeb.choose('.SumoSelect[dockey="-1"] p.wren_livecontrol_framerate', '2000');
 operations('[ID:wren_livecontrol_framerate_-1] [Control:ComboBox] [Operation:changed] [Value:2000]', 'setFrameRate',
     'the choice stands in the log');
 check(KEYS.every(key => zeb.camera(key).rate === 2000), 'all record at 2,000 fps');

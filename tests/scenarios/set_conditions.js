@@ -7,12 +7,8 @@ function shown(key, word) {
     return zeb.page(`$('.SumoSelect[dockey="${key}"] p.wren_livecontrol_${word} span').text()`);
 }
 
-// Chooses in a drop-down by its list.
 function choose(key, word, value) {
-    zeb.click(`.SumoSelect[dockey="${key}"] p.wren_livecontrol_${word}`);
-    const values = zeb.page("$('.wren-dropdown option').map(function () { return this.value; }).get()");
-    check(values.includes(value), `${word} ${value} is on offer`);
-    zeb.click(`.wren-dropdown .options li:nth-child(${values.indexOf(value) + 1})`);
+    zeb.choose(`.SumoSelect[dockey="${key}"] p.wren_livecontrol_${word}`, value);
 }
 
 // The commands that the cameras got since the last asking.

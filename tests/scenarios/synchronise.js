@@ -46,14 +46,11 @@ function checkDiffering(keys, text) {
 }
 
 function chooseFrequency(hertz) {
-    zeb.click('#externalSyncSelector');
-    zeb.type(`${hertz}\n`);
+    zeb.choose('#externalSyncSelector', String(hertz));
 }
 
 function chooseRate(key, value) {
-    zeb.click(`.SumoSelect[dockey="${key}"] p.wren_livecontrol_framerate`);
-    const place = zeb.page("$('.wren-dropdown option').map((index, option) => option.value).get()").indexOf(value);
-    zeb.click(`.wren-dropdown .options li:nth-child(${place + 1})`);
+    zeb.choose(`.SumoSelect[dockey="${key}"] p.wren_livecontrol_framerate`, value);
 }
 
 // Synchronises by the button and answers how the cameras were handed over. `notice` runs while the notice stands.

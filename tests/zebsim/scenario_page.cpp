@@ -1,3 +1,4 @@
+#include "KeyInput.h"
 #include "PageInput.h"
 #include "PageScript.h"
 #include "ScenarioError.h"
@@ -148,10 +149,24 @@ TEST_F(Page, DragsFromOneElementToAnother) {
     EXPECT_THAT(events, testing::HasSubstr("field mouseup"));
 }
 
-TEST_F(Page, TypesTextAndTheKeysBetween) {
+TEST_F(Page, TypesTextAndPressesKeysByName) {
     input.click(QStringLiteral("#field"), {});
     typeText(*view.windowHandle(), QStringLiteral("aX 9+日本\b\"<"));
     EXPECT_EQ(run("document.getElementById('field').value").toString(), QStringLiteral("aX 9+日\"<"));
+    const auto never = [] { return false; };
+    for (const char* name : {"Shift+Home", "Ctrl+X", "Shift+B", "8"}) pressKey(QString::fromUtf8(name), 0, never);
+    EXPECT_EQ(run("document.getElementById('field').value").toString(), QStringLiteral("B8"));
+    EXPECT_THROW(pressKey(QStringLiteral("Shift+Nothing"), 0, never), ScenarioError);
+}
+
+TEST_F(Page, ChoosesInAListByValueAndByText) {
+    run("document.body.innerHTML = '<select id=list><option value=1>one<option value=2>two</select>'");
+    const QString list = QStringLiteral("#list");
+    input.choose(list, QStringLiteral("2"));
+    EXPECT_EQ(run("document.getElementById('list').value").toString(), QStringLiteral("2"));
+    input.choose(list, QStringLiteral("one"));
+    EXPECT_EQ(run("document.getElementById('list').value").toString(), QStringLiteral("1"));
+    EXPECT_THROW(input.choose(list, QStringLiteral("3")), ScenarioError);
 }
 
 }  // namespace

@@ -4,6 +4,8 @@
 #include "PageScript.h"
 #include "ScenarioError.h"
 
+#include <QAbstractItemView>
+#include <QApplication>
 #include <QElapsedTimer>
 #include <QTest>
 #include <QWebView>
@@ -63,6 +65,24 @@ const QString Look = QStringLiteral(R"js((function (selector, step) {
         : {fault: 'the element lies under ' + describe(hit), covered: true};
 })(%1, %2))js");
 
+// What the open list offers: {at, native} of the wanted entry, from 0 on, or {offers}.
+const QString FindEntry = QStringLiteral(R"js((function (selector, value) {
+    var box = document.querySelector('.SumoSelect.open') || document.querySelector(selector);
+    var entries = Array.prototype.slice.call(box.querySelectorAll('option'));
+    var at = entries.findIndex(function (entry) { return entry.value === value || entry.textContent === value; });
+    return at < 0 ? {offers: entries.map(function (entry) { return entry.textContent; }).join(', ')}
+        : {at: at, native: box.tagName === 'SELECT'};
+})(%1, %2))js");
+
+/// In the list that a native one of the page has opened beside it.
+void chooseInPopup(const QString& selector, int row) {
+    QWidget* popup = QApplication::activePopupWidget();
+    auto* list = popup ? popup->findChild<QAbstractItemView*>() : nullptr;
+    if (list == nullptr) throw ScenarioError(selector % QStringLiteral(": no list has opened"));
+    list->setCurrentIndex(list->model()->index(row, 0));
+    QTest::keyClick(list, Qt::Key_Return);
+}
+
 const QString StartTurn = QStringLiteral(
     "window.zebTurned = false; setTimeout(function () { setTimeout(function () { window.zebTurned = true; }, 0); }, "
     "0)");
@@ -90,6 +110,24 @@ void PageInput::drag(const QString& from, const QString& to) {
     letPass(DragHoldMs, m_givenUp);
     for (int step = 1; step <= DragSteps; ++step) QTest::mouseMove(&window(), start + (end - start) * step / DragSteps);
     QTest::mouseRelease(&window(), Qt::LeftButton, {}, end);
+}
+
+void PageInput::choose(const QString& selector, const QString& value) {
+    click(selector, {});
+    const QString script = FindEntry.arg(scriptString(selector), scriptString(value));
+    const QJsonObject entry = PageScript(script).run(m_view).toObject();
+    if (!entry.contains(QLatin1String("at")))
+        throw ScenarioError(QStringLiteral("%1 offers no \"%2\" but: %3")
+                                .arg(selector, value, entry.value(QLatin1String("offers")).toString()));
+    const int at = entry.value(QLatin1String("at")).toInt();
+    if (!entry.value(QLatin1String("native")).toBool()) {
+        click(QStringLiteral(".SumoSelect.open .options li:nth-child(%1)").arg(at + 1), {});
+        return;
+    }
+    chooseInPopup(selector, at);
+    // The page hears of it from its event loop.
+    const PageScript chosen(QStringLiteral("document.querySelector(%1).selectedIndex").arg(scriptString(selector)));
+    waitUntil([&] { return chosen.run(m_view).toInt() == at; }, m_givenUp);
 }
 
 QPoint PageInput::aim(const QString& selector) {
@@ -137,19 +175,4 @@ QWindow& PageInput::window() const {
     QWindow* handle = m_view.window()->windowHandle();
     if (handle == nullptr || !m_view.isVisible()) throw ScenarioError(QStringLiteral("the page is not on the screen"));
     return *handle;
-}
-
-void typeText(QWindow& window, const QString& text) {
-    static const QHash<QChar, Qt::Key> keys = {{QLatin1Char('\n'), Qt::Key_Return},
-                                               {QLatin1Char('\t'), Qt::Key_Tab},
-                                               {QLatin1Char('\b'), Qt::Key_Backspace},
-                                               {QLatin1Char('\x1b'), Qt::Key_Escape}};
-    for (const QChar letter : text) {
-        if (keys.contains(letter))
-            QTest::keyClick(&window, keys.value(letter));
-        else if (letter.unicode() < 128)
-            QTest::keyClick(&window, letter.toLatin1());
-        else
-            QTest::sendKeyEvent(QTest::Click, &window, Qt::Key_unknown, QString(letter), Qt::NoModifier);
-    }
 }

@@ -30,6 +30,8 @@ public:
     void click(const QString& selector, const ClickOptions& options);
     /// Presses on one element, holds, moves to the other and lets go there.
     void drag(const QString& from, const QString& to);
+    /// Opens the drop-down by a click and clicks the entry of that value, or of that text. Throws too when it has none.
+    void choose(const QString& selector, const QString& value);
 
 private:
     /// Moves the mouse to the element, until it lies still under it. Answers where that is.
@@ -43,6 +45,3 @@ private:
     QWebView& m_view;
     std::function<bool()> m_givenUp;
 };
-
-/// Types into the window; line feed, tab, backspace and escape characters are the keys of that name.
-void typeText(QWindow& window, const QString& text);

@@ -2,6 +2,7 @@
 
 #include "EventWait.h"
 #include "HostSignal.h"
+#include "KeyInput.h"
 #include "PageInput.h"
 #include "PageScript.h"
 #include "ScenarioError.h"
@@ -19,12 +20,16 @@ const QStringList& modeNames() {
     return names;
 }
 
-ClickOptions clickOptions(const QVariantMap& members) {
-    static const QStringList known = {QStringLiteral("ctrl"), QStringLiteral("shift"), QStringLiteral("double"),
-                                      QStringLiteral("right"), QStringLiteral("down")};
-    for (auto member = members.keyBegin(); member != members.keyEnd(); ++member) {
-        if (!known.contains(*member)) throw ScenarioError(QStringLiteral("a click has no option %1").arg(*member));
+void checkOptions(const QString& call, const QVariantMap& options, const QStringList& known) {
+    for (auto option = options.keyBegin(); option != options.keyEnd(); ++option) {
+        if (!known.contains(*option)) throw ScenarioError(QStringLiteral("a %1 has no option %2").arg(call, *option));
     }
+}
+
+ClickOptions clickOptions(const QVariantMap& members) {
+    checkOptions(QStringLiteral("click"), members,
+                 {QStringLiteral("ctrl"), QStringLiteral("shift"), QStringLiteral("double"), QStringLiteral("right"),
+                  QStringLiteral("down")});
     ClickOptions options;
     options.modifiers.setFlag(Qt::ControlModifier, members.value(QStringLiteral("ctrl")).toBool());
     options.modifiers.setFlag(Qt::ShiftModifier, members.value(QStringLiteral("shift")).toBool());
@@ -137,8 +142,24 @@ void ScenarioApi::drag(const QString& from, const QString& to) {
     guarded([&] { m_table.drag(from, to); });
 }
 
+void ScenarioApi::choose(const QString& selector, const QString& value) {
+    guarded([&] { m_table.choose(selector, value); });
+}
+
 void ScenarioApi::type(const QString& text) {
     guarded([&] { m_table.type(text); });
+}
+
+void ScenarioApi::key(const QString& name, const QVariantMap& options) {
+    guarded([&] {
+        checkOptions(QStringLiteral("key"), options, {QStringLiteral("hold")});
+        pressKey(name, options.value(QStringLiteral("hold")).toInt(), m_givenUp);
+        m_table.settle();
+    });
+}
+
+QString ScenarioApi::active() {
+    return activeTitle();
 }
 
 void ScenarioApi::window(const QString& what) {
@@ -192,6 +213,10 @@ void ScenarioApi::save(const QVariantMap& target) {
 
 QJSValue ScenarioApi::results() {
     return guarded([&] { return plain(SaveScripting::results(m_givenUp)); });
+}
+
+void ScenarioApi::notices(bool stand) {
+    m_dialogs.letNoticesStand(stand);
 }
 
 QJSValue ScenarioApi::messages() {

@@ -46,7 +46,10 @@ public:
     Q_INVOKABLE QJSValue dialog(const QString& text);
     Q_INVOKABLE void click(const QString& selector, const QVariantMap& options = {});
     Q_INVOKABLE void drag(const QString& from, const QString& to);
+    Q_INVOKABLE void choose(const QString& selector, const QString& value);
     Q_INVOKABLE void type(const QString& text);
+    Q_INVOKABLE void key(const QString& name, const QVariantMap& options = {});
+    Q_INVOKABLE QString active();
     Q_INVOKABLE void window(const QString& what);
     Q_INVOKABLE QString shot(const QString& path);
 
@@ -59,6 +62,7 @@ public:
     Q_INVOKABLE void answers(const QStringList& texts);
     Q_INVOKABLE void save(const QVariantMap& target = {});
     Q_INVOKABLE QJSValue results();
+    Q_INVOKABLE void notices(bool stand);
     Q_INVOKABLE QJSValue messages();
     Q_INVOKABLE QJSValue log();
     Q_INVOKABLE QJSValue calls();

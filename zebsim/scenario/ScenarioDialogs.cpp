@@ -31,8 +31,14 @@ ScenarioDialogs::ScenarioDialogs() {
     connect(&m_watcher, &ModalWatcher::stands, this, &ScenarioDialogs::dialogStands);
     connect(&m_watcher, &ModalWatcher::noticed, this, [this](QMessageBox* box) {
         writeDown(*box);
-        box->accept();
+        m_notice = box;
+        if (!m_noticesStand) box->accept();
     });
+}
+
+void ScenarioDialogs::letNoticesStand(bool stand) {
+    m_noticesStand = stand;
+    if (!stand && m_notice) m_notice->accept();
 }
 
 void ScenarioDialogs::expect(const QJSValue& function) {

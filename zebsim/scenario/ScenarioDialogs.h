@@ -6,6 +6,7 @@
 #include <QJSValue>
 #include <QList>
 #include <QObject>
+#include <QPointer>
 #include <QStringList>
 #include <QVariantList>
 
@@ -30,6 +31,8 @@ public:
     void queueAnswers(const QStringList& answers);
     /// The orders for save dialogs, which come before the functions.
     SaveScripting& saves() { return m_saves; }
+    /// Notices stand as a user would see them until they are not to stand any more; or else each is closed at once.
+    void letNoticesStand(bool stand);
     /// The boxes since the last call, each a map with `kind`, `text` and `answer`.
     QVariantList takeMessages();
     /// Functions, answers and orders that no dialog took, in words; empty when there are none.
@@ -54,4 +57,6 @@ private:
     QStringList m_answers;
     SaveScripting m_saves;
     QVariantList m_messages;
+    bool m_noticesStand = false;
+    QPointer<QMessageBox> m_notice;
 };

@@ -1,6 +1,7 @@
 #include "TableDriver.h"
 
 #include "EventWait.h"
+#include "KeyInput.h"
 #include "ModalWatcher.h"
 #include "PLG_Interface.h"
 #include "PageInput.h"
@@ -77,6 +78,11 @@ void TableDriver::click(const QString& selector, const ClickOptions& options) {
 
 void TableDriver::drag(const QString& from, const QString& to) {
     PageInput(view(), m_givenUp).drag(from, to);
+    settle();
+}
+
+void TableDriver::choose(const QString& selector, const QString& value) {
+    PageInput(view(), m_givenUp).choose(selector, value);
     settle();
 }
 

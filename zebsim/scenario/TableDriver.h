@@ -30,6 +30,8 @@ public:
     bool isTrue(const PageScript& script) const;
     void click(const QString& selector, const ClickOptions& options);
     void drag(const QString& from, const QString& to);
+    /// As `PageInput::choose`.
+    void choose(const QString& selector, const QString& value);
     /// Types into the modal dialog that stands, or else into the table.
     void type(const QString& text);
 
