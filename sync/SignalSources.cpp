@@ -11,6 +11,7 @@
 #include "SyncPreferences.h"
 #include "SyncState.h"
 #include "UTL_Exception.h"
+#include "VisaLibrary.h"
 #include "ZebHost.h"
 #include "ZebSignalDevices.h"
 
@@ -53,6 +54,8 @@ void SignalSources::openGenerator() {
         auto generator = std::make_unique<DOC_VIGen>(&m_host);
         if (!generator->loadDriver()) {
             qCritical() << "visa64.dll not found.";
+            qWarning() << "No signal generator is offered without a VISA library. Looked for"
+                       << VisaLibrary::instance().files().join(QStringLiteral(", "));
             return;
         }
         m_state.generator = std::move(generator);

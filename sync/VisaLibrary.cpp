@@ -48,9 +48,13 @@ bool VisaLibrary::load() {
     return true;
 }
 
+QStringList VisaLibrary::files() const {
+    return m_files.isEmpty() ? usualFiles() : m_files;
+}
+
 bool VisaLibrary::loadFile() {
-    const QStringList files = m_files.isEmpty() ? usualFiles() : m_files;
-    return std::any_of(files.begin(), files.end(), [this](const QString& file) {
+    const QStringList wanted = files();
+    return std::any_of(wanted.begin(), wanted.end(), [this](const QString& file) {
         m_library.setFileName(file);
         return m_library.load();
     });

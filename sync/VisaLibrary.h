@@ -38,6 +38,8 @@ public:
     void unload();
     const Calls& calls() const { return m_calls; }
 
+    /// What `load` tries, in that order: a plain name is the system's to find.
+    QStringList files() const;
     /// Files to try in place of the usual ones, for tests; empty for the usual ones.
     void setFiles(const QStringList& files) { m_files = files; }
 

@@ -11,7 +11,9 @@ zeb.rig('sync_lab.json');
 zeb.log();
 check(zeb.open(), 'the table opens');
 check(zeb.messages().length === 0, 'without a message');
-check(zeb.log().filter(line => line.includes('visa64.dll not found.')).length === 1, 'the log says so once');
+const told = zeb.log().filter(line => line.includes('visa64.dll'));
+check(told.length === 2 && told[0].includes('visa64.dll not found.') && /Looked for .*\/bin\/visa64\.dll/.test(told[1]),
+    'the log says so, and where one was looked for: ' + told.join(' / '));
 check(zeb.until("$('#connect_signal_distributor').is(':visible.connected')") &&
     zeb.page("$('#connect_signal_generator').is(':hidden')"), 'the hubs are connected, and no generator is shown');
 check(zeb.page("$('#externalSyncSelector option').get().map(option => option.text).join()") === '500,1000,2000' &&

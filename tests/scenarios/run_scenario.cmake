@@ -1,6 +1,5 @@
-# Runs SCENARIO with ZEBSIM, from the factory preferences. With ALONE the plug-in stands in a folder of its own, without
-# the files that are built beside it. With READER the folder of saved files is a fresh one, and holds afterwards what
-# stands in FRAMES, recorded at RATE; NAMES are cameras that are called otherwise than their files.
+# Runs SCENARIO with ZEBSIM, from the factory preferences. With READER the folder of saved files is a fresh one, and
+# holds afterwards what stands in FRAMES, recorded at RATE; NAMES are cameras that are called otherwise than their files.
 file(REMOVE ${PREFS})
 if(READER)
     set(folder ${PREFS}.saved)
@@ -8,13 +7,7 @@ if(READER)
     file(MAKE_DIRECTORY ${folder})
     file(WRITE ${PREFS} "[save]\nfolder=${folder}\n")
 endif()
-set(plugin)
-if(ALONE)
-    file(COPY ${ALONE} DESTINATION ${PREFS}.alone)
-    get_filename_component(name ${ALONE} NAME)
-    set(plugin --plugin ${PREFS}.alone/${name})
-endif()
-execute_process(COMMAND ${ZEBSIM} --prefs ${PREFS} --scenario ${SCENARIO} ${plugin} RESULT_VARIABLE status)
+execute_process(COMMAND ${ZEBSIM} --prefs ${PREFS} --scenario ${SCENARIO} RESULT_VARIABLE status)
 if(NOT status EQUAL 0)
     message(FATAL_ERROR "${SCENARIO} ended with ${status}")
 endif()

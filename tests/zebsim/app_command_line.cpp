@@ -11,7 +11,7 @@ CommandLine parse(const char* arguments) {
 TEST(CommandLine, TakesAllItsOptions) {
     const CommandLine line = parse(
         "zebsim --rig my.json --prefs p.ini --scenario s.js --timeout 7 --plugin w.zeb --style dark --lang ja "
-        "--no-table");
+        "--scripted-visa --no-table");
     EXPECT_EQ(line.printout, QString());
     EXPECT_EQ(line.rig, QStringLiteral("my.json"));
     EXPECT_EQ(line.cameraCount, 0);
@@ -22,9 +22,11 @@ TEST(CommandLine, TakesAllItsOptions) {
     EXPECT_EQ(line.style, QStringLiteral("dark"));
     EXPECT_EQ(line.language, QStringLiteral("ja"));
     EXPECT_FALSE(line.openTable);
+    EXPECT_TRUE(line.scriptedVisa);
     const CommandLine brief = parse("zebsim --rig 64");
     EXPECT_EQ(brief.cameraCount, 64);
     EXPECT_TRUE(brief.openTable);
+    EXPECT_FALSE(brief.scriptedVisa);
 }
 
 TEST(CommandLine, NamesAMistakeAndTellsTheUsage) {

@@ -29,6 +29,9 @@ struct Options {
                              QStringLiteral("light|dark")};
     QCommandLineOption language{QStringLiteral("lang"), QStringLiteral("Speak this language."),
                                 QStringLiteral("en|ja")};
+    QCommandLineOption scriptedVisa{
+        QStringLiteral("scripted-visa"),
+        QStringLiteral("Bring a simulated signal generator, by a VISA library of the program's own.")};
     QCommandLineOption noTable{QStringLiteral("no-table"), QStringLiteral("Leave the camera table closed at first.")};
 };
 
@@ -71,7 +74,7 @@ CommandLine CommandLine::parse(const QStringList& arguments) {
     const QCommandLineOption help = parser.addHelpOption();
     const QCommandLineOption version = parser.addVersionOption();
     parser.addOptions({options.rig, options.prefs, options.scenario, options.timeout, options.plugin, options.style,
-                       options.language, options.noTable});
+                       options.language, options.scriptedVisa, options.noTable});
     if (!parser.parse(arguments)) return mistake(parser, parser.errorText());
 
     CommandLine line;
@@ -87,6 +90,7 @@ CommandLine CommandLine::parse(const QStringList& arguments) {
         line.plugin = parser.value(options.plugin);
         line.style = parser.value(options.style);
         line.language = parser.value(options.language);
+        line.scriptedVisa = parser.isSet(options.scriptedVisa);
         line.openTable = !parser.isSet(options.noTable);
         const QString wrong = wrongValue(parser, options, line);
         if (!wrong.isEmpty()) return mistake(parser, wrong);

@@ -24,6 +24,8 @@ struct CommandLine {
     /// "en", "ja", or empty for English.
     QString language;
     bool openTable = true;
+    /// Load the scripted VISA library, behind which a generator answers.
+    bool scriptedVisa = false;
 
     /// `arguments` as `QCoreApplication::arguments` answers them. Needs no display.
     static CommandLine parse(const QStringList& arguments);

@@ -4,6 +4,7 @@
 #include "CameraWindows.h"
 #include "CommandLine.h"
 #include "RecordingGuard.h"
+#include "ScriptedVisa.h"
 #include "UiText.h"
 #include "ViewerWindow.h"
 #include "camera/Rig.h"
@@ -16,7 +17,7 @@
 #include <QMdiArea>
 #include <QtDebug>
 
-#include <dlfcn.h>
+#include <stdexcept>
 
 namespace {
 
@@ -27,23 +28,12 @@ Rig rigOf(const CommandLine& line) {
     return Rig::fromFile(line.rig.isEmpty() ? FirstRig : line.rig);
 }
 
-/// Of the scripted VISA library, as `SyncSignal::setGenerator` takes it. Whoever uses that has loaded it; to load it
-/// here would bring a generator that nobody has.
-int generatorSignal() {
-    static const QByteArray path =
-        QFile::encodeName(QDir(QCoreApplication::applicationDirPath()).filePath(QStringLiteral("visa64.dll")));
-    void* library = dlopen(path.constData(), RTLD_LAZY | RTLD_NOLOAD);
-    if (library == nullptr) return -1;
-    const auto signal = reinterpret_cast<int (*)()>(dlsym(library, "visaSignal"));
-    const int hertz = signal != nullptr ? signal() : -1;
-    dlclose(library);
-    return hertz;
-}
-
 }  // namespace
 
 Simulator::Simulator(const CommandLine& line) : m_host(m_clock, m_boxes, line.prefs) {
-    m_host.syncSignal().setGenerator(generatorSignal);
+    m_host.syncSignal().setGenerator(ScriptedVisa::signal);
+    ScriptedVisa visa;
+    if (line.scriptedVisa && !visa.load()) throw std::runtime_error(visa.errorString().toStdString());
     chooseLanguage(line.language);
     m_host.setRig(rigOf(line));
     if (!line.style.isEmpty()) m_host.prefs().setValue(QStringLiteral("env/style"), line.style);
@@ -53,9 +43,11 @@ Simulator::Simulator(const CommandLine& line) : m_host(m_clock, m_boxes, line.pr
     m_host.setMdiWidget(m_window->mdiArea());
     m_desk = std::make_unique<AppWindows>(m_host, m_log, m_window->images());
     m_window->addDialogs(*m_desk);
+    QObject::connect(&m_host.events(), &HostEvents::updateFinished, m_window.get(), [this] { m_boxes.followStyle(); });
     m_host.docManager().setEditor([this](DOCKEY key) { m_desk->editCamera(key); });
     QObject::connect(m_window.get(), &ViewerWindow::closeAsked, m_window.get(), [this] {
-        if (mayLetGoOfRecording(m_host, uiText("Cameras are armed or recording. Close the viewer all the same?")))
+        if (mayLetGoOfRecording(m_host, uiText("Cameras are armed or recording. Close the viewer all the same?")) &&
+            m_host.unsavedGuard().mayClose())
             quit();
     });
     loadPlugin(line);

@@ -11,6 +11,7 @@
 #include <QApplication>
 
 #include <cstdio>
+#include <cstdlib>
 
 namespace {
 
@@ -20,6 +21,16 @@ constexpr int CannotStart = 2;
 CommandLine parseWithoutDisplay(int argc, char** argv) {
     const QCoreApplication core(argc, argv);
     return CommandLine::parse(QCoreApplication::arguments());
+}
+
+/// Qt ends the process when it finds no display.
+void tellMissingDisplay(QtMsgType type, const QMessageLogContext& /*context*/, const QString& /*text*/) {
+    if (type != QtFatalMsg) return;
+    std::fputs(
+        "zebsim needs a display, and there is none to be had: DISPLAY names no X server that answers. To run without "
+        "one, as for a scenario, set QT_QPA_PLATFORM=offscreen, or start it by xvfb-run.\n",
+        stderr);
+    std::_Exit(CannotStart);
 }
 
 int runScenario(Simulator& simulator, const CommandLine& line) {
@@ -52,7 +63,9 @@ int main(int argc, char** argv) {
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
     // The options are ours; Qt has a meaning of its own for some of their names.
     int ownName = 1;
+    const QtMessageHandler handler = qInstallMessageHandler(tellMissingDisplay);
     const QApplication app(ownName, argv);
+    qInstallMessageHandler(handler);
     QApplication::setQuitOnLastWindowClosed(false);
     enlargeOffscreenScreen(QSize(1920, 1200));
     initHostPages();

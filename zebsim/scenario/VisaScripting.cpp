@@ -2,17 +2,12 @@
 
 #include "ScenarioError.h"
 
-#include <QCoreApplication>
-#include <QDir>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 
-VisaScripting::VisaScripting()
-    : m_library(QDir(QCoreApplication::applicationDirPath()).filePath(QStringLiteral("visa64.dll"))) {}
-
 VisaScripting::~VisaScripting() {
-    if (m_library.isLoaded()) release();
+    if (m_isUsed) release();
 }
 
 void VisaScripting::script(const QVariantMap& members) {
@@ -31,11 +26,9 @@ void VisaScripting::release() {
 
 template <typename Function>
 Function VisaScripting::find(const char* name) {
-    if (!m_library.load())
-        throw ScenarioError(QStringLiteral("there is no scripted VISA library: ") % m_library.errorString());
+    m_isUsed = m_library.load();
+    if (!m_isUsed) throw ScenarioError(QStringLiteral("there is no scripted VISA library: ") % m_library.errorString());
     const auto function = reinterpret_cast<Function>(m_library.resolve(name));
-    if (function == nullptr)
-        throw ScenarioError(
-            QStringLiteral("%1 can't be scripted, it exports no %2").arg(m_library.fileName(), QLatin1String(name)));
+    if (function == nullptr) throw ScenarioError(QStringLiteral("the VISA library exports no ") % QLatin1String(name));
     return function;
 }

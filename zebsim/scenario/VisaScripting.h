@@ -1,6 +1,7 @@
 #pragma once
 
-#include <QLibrary>
+#include "ScriptedVisa.h"
+
 #include <QString>
 #include <QVariant>
 
@@ -8,7 +9,7 @@
 /// loaded at the first call, and stays. Throws `ScenarioError` when it is not there.
 class VisaScripting {
 public:
-    VisaScripting();
+    VisaScripting() = default;
     /// Lets go whoever still waits for an answer.
     ~VisaScripting();
     VisaScripting(const VisaScripting&) = delete;
@@ -25,5 +26,6 @@ private:
     template <typename Function>
     Function find(const char* name);
 
-    QLibrary m_library;
+    ScriptedVisa m_library;
+    bool m_isUsed = false;
 };
