@@ -147,6 +147,8 @@ struct TriggerSettings {
 
 /// Preference `display/ShutterSpeed` with this value shows speeds by the camera's second list.
 constexpr int ShutterDisplaySecondList = 2;
+/// The second list holds exposure times, in nanoseconds.
+constexpr int NanosecondsPerSecond = 1000000000;
 
 /// What separates the lines of a camera's comment where the host keeps it.
 constexpr auto CommentSeparator = "{Separator}";

@@ -307,22 +307,22 @@ void JS_Mediator_WrenTableDialog::edit(const char* method, const QVariantList& k
 
 void JS_Mediator_WrenTableDialog::setParamLock(const QVariantList& keys, bool lock) {
     edit("setParamLock", keys, "lock", lock,
-         [&](const DocKeyList& docKeys) { ParameterEditing(host()).setParamLock(docKeys, lock); });
+         [&](const DocKeyList& docKeys) { ParameterEditing(host(), m_state.allowed).setParamLock(docKeys, lock); });
 }
 
 void JS_Mediator_WrenTableDialog::setFrameRate(const QVariantList& keys, const QString& val) {
     edit("setFrameRate", keys, "val", val,
-         [&](const DocKeyList& docKeys) { ParameterEditing(host()).setFrameRate(docKeys, val); });
+         [&](const DocKeyList& docKeys) { ParameterEditing(host(), m_state.allowed).setFrameRate(docKeys, val); });
 }
 
 void JS_Mediator_WrenTableDialog::setShutterSpeed(const QVariantList& keys, const QString& val) {
     edit("setShutterSpeed", keys, "val", val,
-         [&](const DocKeyList& docKeys) { ParameterEditing(host()).setShutterSpeed(docKeys, val); });
+         [&](const DocKeyList& docKeys) { ParameterEditing(host(), m_state.allowed).setShutterSpeed(docKeys, val); });
 }
 
 void JS_Mediator_WrenTableDialog::setResolution(const QVariantList& keys, const QString& val) {
     edit("setResolution", keys, "val", val,
-         [&](const DocKeyList& docKeys) { ParameterEditing(host()).setResolution(docKeys, val); });
+         [&](const DocKeyList& docKeys) { ParameterEditing(host(), m_state.allowed).setResolution(docKeys, val); });
 }
 
 void JS_Mediator_WrenTableDialog::setTriggerMode(const QVariantList& keys, const QString& val) {
@@ -332,17 +332,17 @@ void JS_Mediator_WrenTableDialog::setTriggerMode(const QVariantList& keys, const
 
 void JS_Mediator_WrenTableDialog::setReduceMode(const QVariantList& keys, bool on) {
     edit("setReduceMode", keys, "on", on,
-         [&](const DocKeyList& docKeys) { ParameterEditing(host()).setReduceMode(docKeys, on); });
+         [&](const DocKeyList& docKeys) { ParameterEditing(host(), m_state.allowed).setReduceMode(docKeys, on); });
 }
 
 void JS_Mediator_WrenTableDialog::setLowLight(const QVariantList& keys, bool on) {
     edit("setLowLight", keys, "on", on,
-         [&](const DocKeyList& docKeys) { ParameterEditing(host()).setLowLight(docKeys, on); });
+         [&](const DocKeyList& docKeys) { ParameterEditing(host(), m_state.allowed).setLowLight(docKeys, on); });
 }
 
 void JS_Mediator_WrenTableDialog::setLowLightType(const QVariantList& keys, bool check) {
     edit("setLowLightType", keys, "check", check,
-         [&](const DocKeyList& docKeys) { ParameterEditing(host()).setLowLightType(docKeys, check); });
+         [&](const DocKeyList& docKeys) { ParameterEditing(host(), m_state.allowed).setLowLightType(docKeys, check); });
 }
 
 QString JS_Mediator_WrenTableDialog::getSyncSettings() {

@@ -4,6 +4,7 @@
 #include "DOC_Control.h"
 #include "DOC_Lock.h"
 #include "DocumentGuard.h"
+#include "NamedFailure.h"
 #include "ZebCameraOps.h"
 
 #include <limits>
@@ -13,6 +14,12 @@ namespace {
 /// 0 for what is no number.
 int toNumber(const QString& val) {
     return int(qMin(val.toUInt(), unsigned(std::numeric_limits<int>::max())));
+}
+
+/// n of the 1/n second that the camera offers as this time, in nanoseconds; 0 when it does not.
+int fractionAt(DOC_Interface& doc, int time) {
+    const int index = doc.control().getShutterSpeedList(2).indexOf(time);
+    return index >= 0 ? doc.control().getShutterSpeedList(1).value(index) : 0;
 }
 
 }  // namespace
@@ -96,15 +103,28 @@ DocKeyList ParameterEditing::orAllConnected(const DocKeyList& keys) const {
     return keys.isEmpty() ? m_host.docManager().getConnectedDocKeys(0) : keys;
 }
 
-/// Cameras take n of 1/n second, whatever list the user sees.
+/// Cameras take n of 1/n second, whatever list the user sees. Throws when nobody knows the n of a time, which must not
+/// go out as one itself.
 int ParameterEditing::shutterFraction(const DocList& docs, int value) const {
     if (m_host.getPrefInt(QStringLiteral("display/ShutterSpeed")) != zeb::ShutterDisplaySecondList) {
         return value;
     }
-    DOC_Interface* doc = docs.size() == 1 ? docs.first() : m_host.docManager().getCurrentDoc();
-    if (doc == nullptr || !doc->isConnected()) {
-        return value;
+    DOC_Interface* current = docs.size() > 1 ? m_host.docManager().getCurrentDoc() : nullptr;
+    const DocList asked = current != nullptr ? DocList{current} + docs : docs;
+    GatheredFailures unread;
+    int fraction = 0;
+    for (DOC_Interface* doc : value > 0 ? asked : DocList()) {
+        attemptOn(*doc, unread, [&] {
+            if (fraction <= 0 && doc->isConnected()) fraction = fractionAt(*doc, value);
+        });
     }
-    const int index = doc->control().getShutterSpeedList(2).indexOf(value);
-    return index >= 0 ? doc->control().getShutterSpeedList(1).value(index, value) : value;
+    unread.log();
+    for (const QString& allowed : value > 0 && fraction <= 0 ? m_allowed.shutterSpeeds : QStringList()) {
+        const int n = allowed.toInt();
+        if (n > 0 && zeb::NanosecondsPerSecond / n == value) fraction = n;
+    }
+    if (fraction > 0) return fraction;
+    throw std::runtime_error(m_host.translate(QStringLiteral("No camera offers the shutter speed %1."))
+                                 .arg(docs.first()->formatShutterSpeed(value, 0))
+                                 .toStdString());
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "DefaultSettings.h"
 #include "ZebTypes.h"
 
 #include <QString>
@@ -15,7 +16,8 @@ class ZebHost;
 /// throw what the host throws.
 class ParameterEditing {
 public:
-    explicit ParameterEditing(ZebHost& host) : m_host(host) {}
+    /// `allowed` are the values to which the default settings limit what cameras offer.
+    ParameterEditing(ZebHost& host, const AllowedValues& allowed) : m_host(host), m_allowed(allowed) {}
 
     /// A camera in low light mode keeps its lock as it is.
     void setParamLock(const DocKeyList& keys, bool lock);
@@ -45,4 +47,5 @@ private:
     int shutterFraction(const DocList& docs, int value) const;
 
     ZebHost& m_host;
+    const AllowedValues& m_allowed;
 };

@@ -30,8 +30,6 @@ constexpr const char* TriggerNames[] = {"Start Trg",         "Center Trg",      
 
 constexpr int LastTriggerName = int(std::size(TriggerNames)) - 1;
 
-constexpr int NanosecondsPerSecond = 1000000000;
-
 /// Types of a shutter entry, its third field.
 enum ShutterEntryType { ShutterAsFraction = 1, ShutterAsTime = 2 };
 
@@ -74,7 +72,7 @@ Choices shutterChoices(const QStringList& entries) {
 /// Exposure time of 1/`fraction` second, by the camera's own pairs where it has one.
 int exposureTime(int fraction, const QList<int>& fractions, const QList<int>& times) {
     const int index = fractions.indexOf(fraction);
-    return index >= 0 && index < times.size() ? times.at(index) : NanosecondsPerSecond / fraction;
+    return index >= 0 && index < times.size() ? times.at(index) : zeb::NanosecondsPerSecond / fraction;
 }
 
 }  // namespace

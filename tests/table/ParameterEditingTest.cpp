@@ -20,7 +20,8 @@ protected:
         }
     }
 
-    ParameterEditing editing{host};
+    AllowedValues allowed;
+    ParameterEditing editing{host, allowed};
 };
 
 TEST_F(ParameterEditingTest, nothingIsAskedOrChangedWhereNothingMayBe) {
@@ -131,16 +132,33 @@ TEST_F(ParameterEditingTest, sendsAShutterSpeedAsAFraction) {
     editing.setShutterSpeed({1}, "200000");
     EXPECT_EQ(calls(), QStringList{"ZebCameraOps::setShutterSpeed [[1],5000]"}) << "200,000 ns";
     EXPECT_EQ(stateOf(1, "shutter").toInt(), 5000);
-    EXPECT_TRUE(refused([this] { editing.setShutterSpeed({1, 2}, "200000"); }));
-    EXPECT_EQ(calls(), QStringList{"ZebCameraOps::setShutterSpeed [[1,2],200000]"})
-        << "several cameras and no current one to look it up in";
-    change(5, {{"connected", false}, {"selected", true}});
-    EXPECT_TRUE(refused([this] { editing.setShutterSpeed({1, 2}, "200000"); })) << "the current one is away";
-    change(5, {{"selected", false}});
-    host.docManager().selectDoc(1);
-    calls();
-    editing.setShutterSpeed({1, 2}, "200000");
-    EXPECT_EQ(calls(), QStringList{"ZebCameraOps::setShutterSpeed [[1,2],5000]"});
+
+    // Camera 7 alone offers 1/1,000,000 second, and 1/3 second is nowhere but in the default settings.
+    allowed.shutterSpeeds = QStringList{"x", "0", "3"};
+    struct Case {
+        const char* what;
+        DocKeyList keys;
+        const char* value;
+        QStringList sent;
+    };
+    for (const Case& c :
+         {Case{"one that does not offer it", {1}, "1000", {}},
+          Case{
+              "another of the batch offers it", {1, 2, 7}, "1000", {"ZebCameraOps::setShutterSpeed [[1,2,7],1000000]"}},
+          Case{"the current one offers it, whoever is set",
+               {1, 2},
+               "1000",
+               {"ZebCameraOps::setShutterSpeed [[1,2],1000000]"}},
+          Case{"the default settings do", {1, 2}, "333333333", {"ZebCameraOps::setShutterSpeed [[1,2],3]"}},
+          Case{"nobody does", {1, 2}, "1001", {}}, Case{"no time at all", {1, 2}, "0", {}}}) {
+        const bool isCurrent = QString::fromUtf8(c.what).startsWith("the current");
+        change(1, {{"selected", !isCurrent}});
+        change(7, {{"selected", isCurrent}});
+        calls();
+        const bool isRefused = refused([&] { editing.setShutterSpeed(c.keys, c.value); });
+        EXPECT_EQ(calls().filter("setShutterSpeed"), c.sent) << c.what;
+        EXPECT_TRUE(isRefused || !c.sent.isEmpty()) << c.what << ": it is told";
+    }
 }
 
 TEST_F(ParameterEditingTest, noKeysAreAllConnectedCamerasWhereThatIsMeant) {

@@ -3,17 +3,11 @@
 #include "ZebTypes.h"
 #include "host/Preferences.h"
 
-namespace {
-
-constexpr int nanosecondsPerSecond = 1000000000;
-
-}
-
 ShutterText::ShutterText(const Preferences& prefs)
     : m_list(prefs.value(QStringLiteral("display/ShutterSpeed")).toInt() == zeb::ShutterDisplaySecondList ? 2 : 1) {}
 
 int ShutterText::valueIn(int list, int fraction) {
-    return list == 2 && fraction > 0 ? nanosecondsPerSecond / fraction : fraction;
+    return list == 2 && fraction > 0 ? zeb::NanosecondsPerSecond / fraction : fraction;
 }
 
 QString ShutterText::label(int value) const {
