@@ -4,6 +4,7 @@
 #include "ConnectedDocs.h"
 #include "DOC_Control.h"
 #include "DOC_Interface.h"
+#include "GUI_WebView.h"
 #include "GUI_WrenTableDialog.h"
 #include "JS_Mediator_WrenTableDialog.h"
 #include "NamedFailure.h"
@@ -99,8 +100,14 @@ JS_Mediator_WrenTableDialog* PLG_wren::table() {
 }
 
 JS_Mediator_WrenTableDialog* PLG_wren::activeTable() {
-    const QDialog* dialog = getDialog(false);
-    return dialog && dialog->isActiveWindow() ? table() : nullptr;
+    auto* dialog = static_cast<GUI_WrenTableDialog*>(getDialog(false));
+    if (!dialog || !dialog->isActiveWindow()) return nullptr;
+    // What is sent may end in a question, and the plug-in be gone by the answer.
+    const QPointer<PLG_wren> alive(this);
+    const QPointer<QWidget> view(dialog->getWebView());
+    view->clearFocus();
+    if (view) view->setFocus();
+    return alive ? table() : nullptr;
 }
 
 void PLG_wren::slotRecord() {

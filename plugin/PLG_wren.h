@@ -34,6 +34,7 @@ private:
     void setRunningInHost(bool running);
     /// Null while there is no table.
     JS_Mediator_WrenTableDialog* table();
-    /// Null unless the table is the active window.
+    /// Null unless the table is the active window. What the user was typing in has been left, as by a click elsewhere:
+    /// the page would send it only after the call that is to follow had begun, which refuses it.
     JS_Mediator_WrenTableDialog* activeTable();
 };
