@@ -1,11 +1,11 @@
 #include "host/SupportFile.h"
 
+#include "WholeFile.h"
 #include "camera/Camera.h"
 #include "host/OneLine.h"
 #include "host/SimHost.h"
 
 #include <QCoreApplication>
-#include <QFile>
 #include <QGuiApplication>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -33,14 +33,24 @@ using Archive = std::unique_ptr<zip_t, Discard>;
     throw std::runtime_error(text);
 }
 
-Archive openArchive(const QString& path) {
-    int code = 0;
-    Archive archive(zip_open(QFile::encodeName(path).constData(), ZIP_CREATE | ZIP_TRUNCATE, &code));
-    if (!archive) {
-        zip_error_t error;
-        zip_error_init_with_code(&error, code);
-        fail(&error);
-    }
+/// What the archive is written into.
+using Bytes = std::unique_ptr<zip_source_t, decltype(&zip_source_free)>;
+
+Bytes makeBytes() {
+    zip_error_t error;
+    zip_error_init(&error);
+    Bytes bytes(zip_source_buffer_create(nullptr, 0, 0, &error), zip_source_free);
+    if (!bytes) fail(&error);
+    return bytes;
+}
+
+Archive openArchive(zip_source_t* bytes) {
+    zip_error_t error;
+    zip_error_init(&error);
+    Archive archive(zip_open_from_source(bytes, ZIP_CREATE | ZIP_TRUNCATE, &error));
+    if (!archive) fail(&error);
+    // The archive takes one hold on it, and the bytes are read when that is closed.
+    zip_source_keep(bytes);
     return archive;
 }
 
@@ -54,12 +64,21 @@ void add(zip_t* archive, const QString& name, const QByteArray& content) {
     }
 }
 
-/// Writes a file beside the wanted one and renames it.
 void close(Archive& archive) {
     if (zip_close(archive.get()) != 0) {
         throw std::runtime_error(zip_strerror(archive.get()));
     }
     static_cast<void>(archive.release());
+}
+
+QByteArray read(zip_source_t* bytes) {
+    zip_stat_t stat;
+    if (zip_source_open(bytes) != 0 || zip_source_stat(bytes, &stat) != 0) fail(zip_source_error(bytes));
+    QByteArray content(static_cast<int>(stat.size), Qt::Uninitialized);
+    if (zip_source_read(bytes, content.data(), stat.size) != static_cast<zip_int64_t>(stat.size))
+        fail(zip_source_error(bytes));
+    zip_source_close(bytes);
+    return content;
 }
 
 QByteArray asLines(const QStringList& lines) {
@@ -157,11 +176,14 @@ void addHostState(ZebSupportFile& file, const SimHost& host) {
 
 bool writeSupportFile(const QString& path, const ZebSupportFile& file) {
     try {
-        Archive archive = openArchive(path);
+        const Bytes bytes = makeBytes();
+        Archive archive = openArchive(bytes.get());
         for (auto entry = file.files.begin(); entry != file.files.end(); ++entry) {
             add(archive.get(), entry.key(), entry.value());
         }
         close(archive);
+        const QString reason = writeWholeFile(path, read(bytes.get()));
+        if (!reason.isEmpty()) throw std::runtime_error(reason.toStdString());
         return true;
     } catch (const std::exception& e) {
         qCritical() << "The support file" << path << "can't be written:" << e.what();

@@ -1,0 +1,62 @@
+#include "WholeFile.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+#include <sys/resource.h>
+
+#include <csignal>
+
+namespace {
+
+/// No file can grow past `bytes` while it lives, as on a disk that is full by then.
+class FullDisk {
+public:
+    explicit FullDisk(rlim_t bytes) : m_signal(std::signal(SIGXFSZ, SIG_IGN)) {
+        getrlimit(RLIMIT_FSIZE, &m_before);
+        const rlimit limit{bytes, m_before.rlim_max};
+        setrlimit(RLIMIT_FSIZE, &limit);
+    }
+    ~FullDisk() {
+        setrlimit(RLIMIT_FSIZE, &m_before);
+        std::signal(SIGXFSZ, m_signal);
+    }
+
+private:
+    rlimit m_before{};
+    void (*m_signal)(int);
+};
+
+TEST(WholeFile, IsTheNewOneOrTheOldOneWithTheReason) {
+    struct Case {
+        const char* what;
+        int size;
+        rlim_t disk;
+        bool isWritten;
+    };
+    for (const Case& c :
+         {Case{"nothing at all", 0, RLIM_INFINITY, true}, Case{"much", 200'000, RLIM_INFINITY, true},
+          Case{"as much as there is", 5'000, 5'000, true}, Case{"less than is written at once", 5'000, 4'096, false},
+          Case{"more than is written at once", 200'000, 100'000, false}}) {
+        const QTemporaryDir folder;
+        const QString path = folder.filePath(QStringLiteral("picture.png"));
+        ASSERT_EQ(writeWholeFile(path, "old"), QString());
+        const QByteArray bytes(c.size, 'x');
+        QString reason;
+        {
+            const FullDisk disk(c.disk);
+            reason = writeWholeFile(path, bytes);
+        }
+        EXPECT_EQ(reason.isEmpty(), c.isWritten) << c.what << ": " << reason.toStdString();
+        QFile file(path);
+        ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+        EXPECT_EQ(file.readAll(), c.isWritten ? bytes : QByteArray("old")) << c.what;
+        EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files | QDir::Hidden).size(), 1) << c.what;
+    }
+    EXPECT_NE(writeWholeFile(QStringLiteral("/no/such/folder/picture.png"), "new"), QString());
+}
+
+}  // namespace
