@@ -17,6 +17,12 @@ GUI_ProgressDialog::GUI_ProgressDialog(const QString& label, const QString& canc
     setCancelButtonText(cancelText.isEmpty() ? QString() : cancelText);
 }
 
+void GUI_ProgressDialog::setVisible(bool visible) {
+    if (visible && isModal() && !m_over) m_over.emplace(*this);
+    QProgressDialog::setVisible(visible);
+    if (!visible) m_over.reset();
+}
+
 bool GUI_ProgressDialog::event(QEvent* event) {
     // The cancel button has a shortcut of its own, which would take Escape before it is a key here.
     if (m_ignoreEscape && event->type() == QEvent::ShortcutOverride &&

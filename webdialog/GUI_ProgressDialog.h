@@ -1,8 +1,13 @@
 #pragma once
 
+#include "OverActiveWindow.h"
+
 #include <QProgressDialog>
 
-/// A progress dialog whose label is plain text and whose Escape key can be taken away. GUI thread.
+#include <optional>
+
+/// A progress dialog whose label is plain text and whose Escape key can be taken away. A modal one stands over the
+/// window that the user works in. GUI thread.
 class GUI_ProgressDialog : public QProgressDialog {
     Q_OBJECT
 
@@ -11,10 +16,13 @@ public:
     GUI_ProgressDialog(const QString& label, const QString& cancelText, int minimum, int maximum, QWidget* parent,
                        Qt::WindowFlags windowFlags, bool ignoreEscape);
 
+    void setVisible(bool visible) override;
+
 protected:
     bool event(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
     const bool m_ignoreEscape;
+    std::optional<OverActiveWindow> m_over;
 };

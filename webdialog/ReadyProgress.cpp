@@ -13,9 +13,10 @@ GUI_ProgressDialog* makeReadyProgressDialog(const QString& label, ZebHost& host)
     QWidget* table = wren ? wren->getDialog(false) : nullptr;
     QWidget* parent = table ? table : host.getMainWindow();
     const QString colour = host.getPrefString(QStringLiteral("wren/settings/recreadyTableColor"));
-    auto* progress = new GUI_ProgressDialog(label, QString(), 0, 0, parent, Qt::FramelessWindowHint, true);
+    auto* progress = new GUI_ProgressDialog(label, QString(), 0, 0, parent,
+                                            Qt::FramelessWindowHint | Qt::WindowDoesNotAcceptFocus, true);
     progress->setModal(false);
-    // The host's keys are for the active window, and the trigger may be one of them.
+    // The host's keys are for the active window, and the trigger may be one of them; a click must not take it either.
     progress->setAttribute(Qt::WA_ShowWithoutActivating);
     progress->setAutoClose(true);
     progress->setAutoReset(true);

@@ -1,6 +1,7 @@
 #include "UTL_Messages.h"
 
 #include "BoxText.h"
+#include "OverActiveWindow.h"
 #include "PlainText.h"
 #include "Style.h"
 #include "TraceScope.h"
@@ -13,6 +14,8 @@
 #include <QMessageBox>
 #include <QPointer>
 #include <QPushButton>
+
+#include <optional>
 
 namespace {
 
@@ -69,10 +72,15 @@ bool UTL_Messages::warnOkCancel(const QString& text, ZebHost& host, QWidget* par
     const QPointer<QMessageBox> box = makeWarning(shown, host, parent ? parent : host.getMainWindow(), buttonTexts);
     const bool suspended = host.isViewerRunning();
     if (suspended) host.suspendViewer();
-    box->show();
-    centerWithoutMainWindow(host, *box);
-    const int result = box->exec();
-    delete box;
+    int result = QMessageBox::Cancel;
+    {
+        std::optional<OverActiveWindow> over;
+        if (parent == nullptr || parent == host.getMainWindow()) over.emplace(*box);
+        box->show();
+        centerWithoutMainWindow(host, *box);
+        result = box->exec();
+        delete box;
+    }
     if (suspended) host.resumeViewer();
     qInfo() << QString(QLatin1Char('[') % shown % QStringLiteral("][result:") % buttonName(result) % QLatin1Char(']'));
     return result == QMessageBox::Ok;

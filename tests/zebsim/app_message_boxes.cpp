@@ -8,6 +8,8 @@
 #include <QLabel>
 #include <QMessageBox>
 #include <QSignalSpy>
+#include <QTest>
+#include <QWindow>
 
 #include <gmock/gmock.h>
 
@@ -34,10 +36,16 @@ protected:
         return lines.join("; ").toStdString();
     }
 
+    static void activate(QWidget& window) {
+        window.show();
+        window.activateWindow();
+        while (!window.isActiveWindow()) QCoreApplication::processEvents();
+    }
+
     /// Runs while a box stands, before it is answered.
-    void onStanding(const std::function<void(QMessageBox&)>& look) {
-        QObject::connect(&watcher, &ModalWatcher::stands,
-                         [look](QDialog* dialog) { look(*qobject_cast<QMessageBox*>(dialog)); });
+    QMetaObject::Connection onStanding(const std::function<void(QMessageBox&)>& look) {
+        return QObject::connect(&watcher, &ModalWatcher::stands,
+                                [look](QDialog* dialog) { look(*qobject_cast<QMessageBox*>(dialog)); });
     }
 
     TestHost test;
@@ -71,17 +79,72 @@ TEST_F(Boxes, AreAcceptedUnlessAnAnswerWasQueued) {
     EXPECT_EQ(shown(), "warn|w|OK; confirm|c|OK; confirm|c|Cancel; confirm|c|OK; confirm|c|Later; confirm|c|No");
 }
 
+TEST_F(Boxes, AreRefusedByEnterAndEscapeUnlessTheCallerPrefersAnother) {
+    const ButtonTexts yesNo = {{QMessageBox::Yes, "Yes"}, {QMessageBox::No, "No"}};
+    const ButtonTexts four = {{QMessageBox::Yes, "Overwrite"},
+                              {QMessageBox::YesToAll, "All"},
+                              {QMessageBox::No, "Skip"},
+                              {QMessageBox::Cancel, "Cancel"}};
+    struct Case {
+        const char* what;
+        ButtonTexts buttons;
+        int preferred;
+        const char* byEnter;
+        const char* byEscape;
+    };
+    for (const Case& c : {Case{"the usual buttons", {}, 0, "Cancel", "Cancel"},
+                          Case{"named ones", {{QMessageBox::Ok, "Erase"}}, 0, "Cancel", "Cancel"},
+                          Case{"yes and no", yesNo, 0, "No", "No"}, Case{"four of them", four, 0, "Cancel", "Cancel"},
+                          Case{"one is preferred", four, QMessageBox::No, "Skip", "Cancel"}}) {
+        for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Escape}) {
+            Message question = message(Message::Confirm, "c", c.buttons);
+            question.preferred = c.preferred;
+            const auto pressing = onStanding([key](QMessageBox& box) { QTest::keyClick(&box, key); });
+            boxes.show(question);
+            QObject::disconnect(pressing);
+            const char* answer = key == Qt::Key_Return ? c.byEnter : c.byEscape;
+            EXPECT_EQ(shown(), std::string("confirm|c|") + answer) << c.what;
+        }
+    }
+}
+
+TEST_F(Boxes, StandOverTheWindowInWhichTheUserIsAndGiveItTheKeyboardBack) {
+    QWidget viewer;
+    test.host.setMainWindow(&viewer);
+    viewer.show();
+    QDialog table(&viewer);
+    activate(table);
+    for (QWidget* parent : {static_cast<QWidget*>(nullptr), &viewer}) {
+        Message told = message(Message::Alert, "a");
+        told.parent = parent;
+        onStanding([&](QMessageBox& box) {
+            EXPECT_EQ(box.windowHandle()->transientParent(), table.windowHandle());
+            EXPECT_TRUE(table.frameGeometry().contains(box.frameGeometry().center()));
+            activate(viewer);
+        });
+        boxes.show(told);
+        EXPECT_TRUE(table.isActiveWindow());
+    }
+}
+
 TEST_F(Boxes, OfANoticeKeepNobodyFromWorking) {
     QWidget window;
-    window.show();
-    window.activateWindow();
-    while (!window.isActiveWindow()) QCoreApplication::processEvents();
+    activate(window);
     boxes.notify(message(Message::Info, "one"));
     boxes.notify(message(Message::Error, "two"));
     EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
     EXPECT_TRUE(window.isActiveWindow()) << "keys go where they went";
     QCoreApplication::processEvents();
     EXPECT_EQ(shown(), "error|one\ntwo|") << "in one box";
+    for (int i = 0; i < 40; ++i) boxes.notify(message(Message::Error, QStringLiteral("news %1").arg(i)));
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    const bool isLastSeen = std::any_of(windows.begin(), windows.end(), [](QWidget* standing) {
+        const auto* notice = qobject_cast<QMessageBox*>(standing);
+        return notice != nullptr && notice->text().endsWith(QStringLiteral("news 39"));
+    });
+    EXPECT_TRUE(isLastSeen);
+    QCoreApplication::processEvents();
+    EXPECT_THAT(shown(), testing::HasSubstr("news 0\n")) << "the whole stands behind its details";
     boxes.notify(message(Message::Error, "three"));
     boxes.rejectAll();
     boxes.notify(message(Message::Error, "four"));

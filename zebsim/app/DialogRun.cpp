@@ -1,5 +1,6 @@
 #include "DialogRun.h"
 
+#include "OverActiveWindow.h"
 #include "Style.h"
 #include "host/SimHost.h"
 
@@ -14,6 +15,7 @@ int runDialog(SimHost& host, QDialog* dialog) {
         applyNativeStyle(host, *dialog);
     }
     host.docManager().endTurn();
+    const OverActiveWindow over(*dialog);
     const int result = dialog->exec();
     delete standing;
     return result;

@@ -1,6 +1,7 @@
 #include "MessageBoxes.h"
 
 #include "BoxText.h"
+#include "OverActiveWindow.h"
 #include "Style.h"
 #include "ZebHost.h"
 #include "host/HostCalls.h"
@@ -11,12 +12,16 @@
 #include <QMessageBox>
 #include <QPointer>
 #include <QScreen>
+#include <QWindow>
 
+#include <optional>
 #include <utility>
 
 namespace {
 
 constexpr int CornerMargin = 24;
+/// Lines of a notice.
+constexpr int MostNews = 12;
 
 struct Looks {
     QLatin1String kind;
@@ -50,6 +55,20 @@ QMessageBox::StandardButtons buttonsOf(const Message& message) {
     return buttons;
 }
 
+/// The one that leaves all as it is; none for a message that only tells.
+QMessageBox::StandardButton refusalAmong(QMessageBox::StandardButtons buttons) {
+    for (const auto refusal : {QMessageBox::Cancel, QMessageBox::No})
+        if (buttons.testFlag(refusal)) return refusal;
+    return QMessageBox::NoButton;
+}
+
+/// The last of the news; what was told before them has been seen.
+QString newest(const QString& whole) {
+    const QStringList lines = whole.split(QLatin1Char('\n'));
+    if (lines.size() <= MostNews) return whole;
+    return QStringLiteral("…\n") % lines.mid(lines.size() - MostNews).join(QLatin1Char('\n'));
+}
+
 /// The least width of a style sheet would let the box cut a long text.
 void showWhole(const QList<QAbstractButton*>& buttons) {
     for (QAbstractButton* button : buttons) {
@@ -65,6 +84,17 @@ void moveToCorner(QWidget& notice) {
 }
 
 }  // namespace
+
+MessageBoxes::MessageBoxes() {
+    m_watch = QObject::connect(qApp, &QGuiApplication::focusWindowChanged, [this] {
+        if (QApplication::activeWindow() != nullptr) m_lastActive = QApplication::activeWindow();
+    });
+}
+
+MessageBoxes::~MessageBoxes() {
+    QObject::disconnect(m_watch);
+    delete m_notice;
+}
 
 void MessageBoxes::showHeld() {
     const QList<Message> held = std::exchange(m_held, {});
@@ -90,6 +120,8 @@ Answer MessageBoxes::show(const Message& message) {
     }
     // The box goes with its parent, which may be destroyed while it stands.
     const QPointer<QMessageBox> box = makeBox(message);
+    std::optional<OverActiveWindow> over;
+    if (message.parent == nullptr || message.parent == m_host->getMainWindow()) over.emplace(*box, m_lastActive);
     box->exec();
     if (box.isNull()) return {false};
     QAbstractButton* chosen = box->clickedButton();
@@ -107,12 +139,17 @@ void MessageBoxes::notify(const Message& message) {
         return;
     }
     if (m_notice && m_notice->isVisible()) {
-        setTexts(*m_notice, m_notice->property(TextProperty).toString() % QLatin1Char('\n') % message.text);
-        if (message.kind == Message::Error) setKind(*m_notice, message.kind);
-        moveToCorner(*m_notice);
+        join(*m_notice, message);
         return;
     }
-    m_notice = makeBox(message);
+    Message alone = message;
+    // As a window of the viewer it would be minimised with that.
+    alone.parent = nullptr;
+    m_notice = makeBox(alone);
+    {
+        const HostCalls::Own own;
+        m_noticeStyle = styleName(*m_host);
+    }
     m_notice->setModal(false);
     // The table, where people work on, would cover it, and the record key belongs to the table while that is active.
     m_notice->setWindowFlags(m_notice->windowFlags() | Qt::WindowStaysOnTopHint | Qt::WindowDoesNotAcceptFocus);
@@ -122,15 +159,35 @@ void MessageBoxes::notify(const Message& message) {
     moveToCorner(*m_notice);
 }
 
+/// The notice stays where the user has moved it.
+void MessageBoxes::join(QMessageBox& notice, const Message& message) const {
+    const QPoint corner = notice.frameGeometry().topRight();
+    const QString whole = notice.property(TextProperty).toString() % QLatin1Char('\n') % message.text;
+    setTexts(notice, whole, newest(whole));
+    if (message.kind == Message::Error) setKind(notice, message.kind);
+    notice.move(corner.x() - notice.frameGeometry().width() + 1, corner.y());
+}
+
+void MessageBoxes::followStyle() {
+    if (!m_notice) return;
+    const HostCalls::Own own;
+    const QString style = styleName(*m_host);
+    if (std::exchange(m_noticeStyle, style) != style) applyMessageBoxStyle(*m_host, *m_notice);
+}
+
 QMessageBox* MessageBoxes::makeBox(const Message& message) const {
     const HostCalls::Own own;
     const QString whole = (QStringList(message.text) << message.list).join(QLatin1Char('\n'));
-    auto* box = new QMessageBox(QMessageBox::NoIcon, {}, {}, buttonsOf(message), message.parent);
+    const QMessageBox::StandardButtons buttons = buttonsOf(message);
+    auto* box = new QMessageBox(QMessageBox::NoIcon, {}, {}, buttons, message.parent);
     setKind(*box, message.kind);
     box->setTextFormat(Qt::PlainText);
-    setTexts(*box, whole);
+    setTexts(*box, whole, whole);
     nameButtons(*box, message.buttons);
-    if (message.preferred != 0) box->setDefaultButton(static_cast<QMessageBox::StandardButton>(message.preferred));
+    const QMessageBox::StandardButton refusal = refusalAmong(buttons);
+    box->setEscapeButton(refusal);
+    box->setDefaultButton(message.preferred != 0 ? static_cast<QMessageBox::StandardButton>(message.preferred)
+                                                 : refusal);
     if (message.offersSilence) box->setCheckBox(new QCheckBox(translated(QStringLiteral("Don't show again"))));
     applyMessageBoxStyle(*m_host, *box);
     showWhole(box->buttons());
@@ -144,10 +201,10 @@ void MessageBoxes::setKind(QMessageBox& box, Message::Kind kind) const {
     box.setProperty(KindProperty, QString(looks.kind));
 }
 
-void MessageBoxes::setTexts(QMessageBox& box, const QString& whole) {
-    const BoxText text = fitIntoBox(whole);
+void MessageBoxes::setTexts(QMessageBox& box, const QString& whole, const QString& shown) {
+    const BoxText text = fitIntoBox(shown);
     box.setText(text.head);
-    if (text.cut) box.setDetailedText(whole);
+    if (text.cut || shown != whole) box.setDetailedText(whole);
     box.setProperty(TextProperty, whole);
 }
 

@@ -7,9 +7,13 @@
 class QMessageBox;
 class ZebHost;
 
-/// Shows the host's messages as message boxes.
+/// Shows the host's messages as message boxes. Those of the main window or of nobody stand over the window that the
+/// user works in.
 class MessageBoxes : public MessageDesk {
 public:
+    MessageBoxes();
+    ~MessageBoxes() override;
+
     /// Name of a box's property that tells what kind of message it is: "info", "warn", "alert", "confirm" or "error".
     static constexpr auto KindProperty = "messageKind";
     /// Name of a box's property that holds the whole text, as it was before it was made to fit.
@@ -21,21 +25,29 @@ public:
     void showHeld();
     /// From now on no box is shown; those that stand and those to come are rejected.
     void rejectAll();
+    /// Gives the notice that stands the style of the host, which may have changed.
+    void followStyle();
 
+    /// Enter and Escape refuse a question, unless its caller prefers another button.
     Answer show(const Message& message) override;
-    /// The box is not modal and leaves the keyboard where it is. While it stands, further texts join it, and one of an
-    /// error makes it one.
+    /// The box is not modal, leaves the keyboard where it is, and stands also while the viewer is minimised. While it
+    /// stands, further texts join it, and one of an error makes it one.
     void notify(const Message& message) override;
 
 private:
     QMessageBox* makeBox(const Message& message) const;
     void setKind(QMessageBox& box, Message::Kind kind) const;
-    static void setTexts(QMessageBox& box, const QString& whole);
+    void join(QMessageBox& notice, const Message& message) const;
+    static void setTexts(QMessageBox& box, const QString& whole, const QString& shown);
     void nameButtons(QMessageBox& box, const ButtonTexts& texts) const;
     QString translated(const QString& text) const;
 
     const ZebHost* m_host = nullptr;
     QList<Message> m_held;
     QPointer<QMessageBox> m_notice;
+    QString m_noticeStyle;
+    /// Where the user was last; null while that is gone.
+    QPointer<QWidget> m_lastActive;
+    QMetaObject::Connection m_watch;
     bool m_rejecting = false;
 };

@@ -19,7 +19,7 @@ struct Message {
     QWidget* parent = nullptr;
     /// Texts for the buttons; empty for the usual ones.
     ButtonTexts buttons;
-    /// The one of them that Enter means; 0 for the usual one.
+    /// The one of them that Enter means; 0 for the one that refuses.
     int preferred = 0;
     /// Whether the box offers "don't show again".
     bool offersSilence = false;
