@@ -80,7 +80,7 @@ module.exports = [
     },
     {
         // Scenarios run in the stand-in host's own engine, not in a page.
-        files: ['demo/**/*.js', 'tests/**/*.js'],
+        files: ['demo/**/*.js', 'docs/**/*.js', 'tests/**/*.js'],
         languageOptions: { ecmaVersion: 2016, sourceType: 'script', globals: readonly(['zeb', 'print', 'check']) },
         rules: { 'no-unused-vars': ['error', { vars: 'local' }] }
     },
@@ -96,8 +96,8 @@ module.exports = [
     },
     {
         // Run by Node.
-        files: ['eslint.config.js', 'tests/otherhost/*.js'],
-        languageOptions: { sourceType: 'commonjs', globals: readonly(['require', 'module', 'process']) },
+        files: ['eslint.config.js', 'tests/docs/*.js', 'tests/otherhost/*.js'],
+        languageOptions: { sourceType: 'commonjs', globals: readonly(['require', 'module', 'process', 'console']) },
         rules: { 'max-len': ['error', 120] }
     }
 ];
