@@ -91,15 +91,22 @@ TEST_F(ViewerTest, ALineOfTheLogIsOneLine) {
 }
 
 TEST_F(ViewerTest, EndsTheApplicationWhenItIsClosed) {
-    simulator.host().cameras().find(1)->change({{"connected", true}, {"recordState", zeb::RecordReady}});
-    {
+    Camera& camera = *simulator.host().cameras().find(1);
+    camera.change({{"connected", true}, {"recordState", zeb::RecordReady}});
+    const auto closeBy = [&](Qt::Key key) {
         ModalWatcher watcher;
-        QObject::connect(&watcher, &ModalWatcher::stands, [](QDialog* box) { QTest::keyClick(box, Qt::Key_Return); });
+        QObject::connect(&watcher, &ModalWatcher::stands, [key](QDialog* box) { QTest::keyClick(box, key); });
         simulator.window().close();
-    }
-    EXPECT_FALSE(simulator.host().isApplicationClosing()) << "a camera is armed, and Enter leaves it";
-    const ScenarioDialogs dialogs;
+        return simulator.host().isApplicationClosing();
+    };
+    EXPECT_FALSE(closeBy(Qt::Key_Return)) << "a camera is armed, and Enter leaves it";
+    camera.change({{"recordState", zeb::RecordLive}, {"recorded", true}, {"recordedRange", QVariantList{0, 63}}});
+    camera.keep(camera.recording());
+    EXPECT_FALSE(closeBy(Qt::Key_Return) || closeBy(Qt::Key_Escape)) << "nobody has saved what it has recorded";
+    ScenarioDialogs dialogs;
     EXPECT_EQ(simulator.run([&] { simulator.window().close(); }), 0);
+    EXPECT_EQ(dialogs.takeMessages().first().toMap().value("text"),
+              "Cameras hold images that nobody has saved. Close the viewer all the same?\nCamera 1: 64 frames");
     EXPECT_TRUE(simulator.host().isApplicationClosing());
 }
 

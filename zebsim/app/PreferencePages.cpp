@@ -48,6 +48,7 @@ QList<PreferenceField> recordingFields() {
         box("recording/AutoDownload", "Save after recording"),
         box("recording/useTriggerTest", "Offer the trigger test"),
         box("recording/RecAllConnectedCamera", "Record on all connected cameras"),
+        box("alert/unsavedrecording", "Ask before images that nobody has saved are lost"),
     };
 }
 

@@ -39,6 +39,17 @@ const CameraModel& Camera::model() const {
     return m_device.model();
 }
 
+int Camera::headNumber() const {
+    const auto& heads = m_device.heads();
+    const auto self = std::find_if(heads.begin(), heads.end(), [this](const auto& head) { return head.get() == this; });
+    return int(self - heads.begin()) + 1;
+}
+
+QString Camera::address() const {
+    const QString& address = m_device.address();
+    return m_device.heads().size() == 1 ? address : QString(address % QLatin1Char('-') % QString::number(headNumber()));
+}
+
 bool Camera::isGone() const {
     return m_device.faults().isGone(m_key);
 }
@@ -62,8 +73,35 @@ std::optional<Recording> Camera::recordingOf(PARTITIONNUMBER partition) const {
     if (partition != asked.partition) {
         const std::lock_guard lock(m_device.mutex());
         static_cast<PartitionMemory&>(asked) = m_otherPartitions.value(partition);
+        asked.partition = partition;
     }
     return Recording::of(asked, model());
+}
+
+std::vector<Recording> Camera::recordings() const {
+    QList<PARTITIONNUMBER> partitions;
+    {
+        const std::lock_guard lock(m_device.mutex());
+        partitions = m_otherPartitions.keys();
+        partitions.append(m_state.partition);
+    }
+    std::sort(partitions.begin(), partitions.end());
+    std::vector<Recording> recordings;
+    for (const PARTITIONNUMBER partition : partitions) {
+        if (const auto recording = recordingOf(partition)) {
+            recordings.push_back(*recording);
+        }
+    }
+    return recordings;
+}
+
+void Camera::noteSaved(const Recording& recording) {
+    const std::lock_guard lock(m_device.mutex());
+    PartitionMemory& memory =
+        recording.partition == m_state.partition ? m_state : m_otherPartitions[recording.partition];
+    if (memory.serial == recording.serial) {
+        memory.savedRanges.append({recording.selectedFirst, recording.selectedLast});
+    }
 }
 
 void Camera::change(const QVariantMap& members) {

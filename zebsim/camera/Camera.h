@@ -25,6 +25,10 @@ public:
     CameraDevice& device() const { return m_device; }
     const CameraModel& model() const;
     QString name() const { return get(&CameraState::name); }
+    /// That of its device; of a device with several heads with the number of its own, as "192.168.0.13-2".
+    QString address() const;
+    /// From 1 on.
+    int headNumber() const;
     /// The camera has vanished: it does nothing more, and the host has no document for it.
     bool isGone() const;
 
@@ -41,6 +45,10 @@ public:
     std::optional<Recording> recording() const;
     /// Of another partition than the present one too.
     std::optional<Recording> recordingOf(PARTITIONNUMBER partition) const;
+    /// Of all partitions, in their order.
+    std::vector<Recording> recordings() const;
+    /// The selected range of `recording` stands in files, if the camera still has that recording.
+    void noteSaved(const Recording& recording);
     /// Changes the state behind the camera's back: no latency, no limits, no other heads. A change of the partition
     /// comes before that of what is in it. Throws `StateError`.
     void change(const QVariantMap& members);

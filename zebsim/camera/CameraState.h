@@ -2,6 +2,7 @@
 
 #include "ZebTypes.h"
 
+#include <QList>
 #include <QMetaType>
 #include <QPoint>
 #include <QSize>
@@ -36,6 +37,8 @@ public:
     bool recordCheck = false;
     /// As `Recording::serial`; only a recording changes it.
     quint64 serial = 0;
+    /// First and last frame of each selected range of this recording that stands in files; only a save adds one.
+    QList<QPoint> savedRanges;
 };
 
 /// Everything about a camera or head that can change. The property names are the members of a head in a rig file and of

@@ -31,5 +31,10 @@ std::optional<Recording> Recording::of(const CameraState& state, const CameraMod
     recording.serial = state.serial;
     recording.selectedFirst = std::clamp(selected.x(), range.x(), range.y());
     recording.selectedLast = std::clamp(selected.y(), range.x(), range.y());
+    recording.saved =
+        std::any_of(state.savedRanges.begin(), state.savedRanges.end(), [&recording](const QPoint& saved) {
+            return saved.x() <= recording.selectedFirst && recording.selectedLast <= saved.y();
+        });
+    recording.partition = state.partition;
     return recording;
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "ZebTypes.h"
+
 #include <QSize>
 
 #include <optional>
@@ -24,6 +26,10 @@ struct Recording {
     /// What is to be kept: first <= selectedFirst <= selectedLast <= last.
     int selectedFirst = 0;
     int selectedLast = 0;
+    /// All that is to be kept stands in files.
+    bool saved = false;
+    /// The partition that it lies in.
+    PARTITIONNUMBER partition = 1;
 
     /// What the state does not tell is as a recording with the camera's settings would be: it fills the memory and is
     /// kept whole. Nothing when nothing is recorded.

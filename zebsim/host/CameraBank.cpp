@@ -36,7 +36,7 @@ void CameraBank::replace(const Rig& rig) {
     m_cameras.swap(cameras);
 }
 
-void CameraBank::search(const QString& network) {
+int CameraBank::search(const QString& network) {
     std::vector<const CameraDevice*> answering;
     for (const auto& device : m_devices) {
         if (network.isEmpty() || device->address().section(QLatin1Char('.'), 0, 2) == network) {
@@ -45,6 +45,7 @@ void CameraBank::search(const QString& network) {
         }
     }
     waitFor(answering);
+    return int(answering.size());
 }
 
 void CameraBank::searchListed() {
@@ -129,6 +130,13 @@ std::vector<Camera*> CameraBank::known() const {
         cameras.push_back(camera.get());
     }
     return cameras;
+}
+
+QString CameraBank::labelOf(const Camera& camera) const {
+    const QString name = camera.name();
+    const auto alike =
+        std::count_if(m_cameras.begin(), m_cameras.end(), [&name](const auto& known) { return known->name() == name; });
+    return alike < 2 ? name : QString(name % QStringLiteral(" (") % camera.address() % QLatin1Char(')'));
 }
 
 void CameraBank::forEach(const DocKeyList& keys, const std::function<void(Camera&)>& work) const {

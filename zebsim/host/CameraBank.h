@@ -2,6 +2,8 @@
 
 #include "ZebTypes.h"
 
+#include <QString>
+
 #include <functional>
 #include <memory>
 #include <mutex>
@@ -24,8 +26,8 @@ public:
     void replace(const Rig& rig);
 
     /// Finds the devices whose address begins with `network`, three octets; empty: all. It takes the time that the
-    /// slowest of them takes to answer.
-    void search(const QString& network);
+    /// slowest of them takes to answer. Answers how many there are.
+    int search(const QString& network);
     /// Asks the devices that are known once more.
     void searchListed();
     /// Forgets all cameras, after they were disconnected; a search finds them again.
@@ -45,6 +47,8 @@ public:
     std::vector<Camera*> connected() const;
     /// With those that are gone or not found.
     std::vector<Camera*> known() const;
+    /// The camera's name, with its address where a known one is called alike.
+    QString labelOf(const Camera& camera) const;
     /// Keys of `all`, and of those of them that are so, as `keysOf(&CameraState::selected)`.
     DocKeyList keys() const;
     DocKeyList keysOf(bool CameraState::*member) const;

@@ -2,6 +2,7 @@
 
 class HostCalls;
 class ImageTools;
+class Notices;
 class Preferences;
 class SimAppStatus;
 class SimDocManager;
@@ -18,5 +19,6 @@ struct DocContext {
     const Translator& translator;
     const SyncSignal& sync;
     const SimRecorder& recorder;
+    Notices& notices;
     SimDocManager& docs;
 };

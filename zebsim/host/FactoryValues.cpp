@@ -24,6 +24,7 @@ QList<FactoryValue> table() {
     const QString pictures = QStandardPaths::writableLocation(QStandardPaths::PicturesLocation);
     return {
         {"alert/setsynchronization", true},
+        {"alert/unsavedrecording", true},
         {"alert/wren/multiheadlockalert", true},
         {"customize/unitSystem", 1},
         {"devicemanager/connectedCameraOnlyShowing", false},

@@ -1,13 +1,14 @@
 #include "host/SimControl.h"
 
 #include "camera/Camera.h"
+#include "camera/CameraError.h"
 #include "host/DocContext.h"
 #include "host/HostCalls.h"
+#include "host/Notices.h"
 #include "host/ShutterText.h"
 #include "host/SimRecorder.h"
+#include "host/Translator.h"
 #include "signals/SyncSignal.h"
-
-#include <algorithm>
 
 QString SimControl::getCameraName(int /*mode*/) const {
     m_camera.ask("getCameraName");
@@ -36,10 +37,7 @@ QString SimControl::getDeviceName(int /*mode*/) const {
 
 int SimControl::getHeadNumber() const {
     m_camera.ask("getHeadNumber");
-    const auto& heads = m_camera.device().heads();
-    const auto self =
-        std::find_if(heads.begin(), heads.end(), [this](const auto& head) { return head.get() == &m_camera; });
-    return int(self - heads.begin()) + 1;
+    return m_camera.headNumber();
 }
 
 bool SimControl::isDummy() const {
@@ -282,5 +280,14 @@ bool SimControl::hasRecordedData() const {
 
 void SimControl::eraseRecordedData(int mode) {
     m_context.calls.note("DOC_Control::eraseRecordedData", {m_camera.key(), mode});
+    if (m_context.recorder.isRunning()) {
+        throw CameraError(m_camera.name(), QStringLiteral("nothing can be erased while a recording is under way"));
+    }
+    const auto recording = m_camera.recording();
     m_camera.eraseRecordedData();
+    if (recording && !m_camera.recording()) {
+        m_context.notices.add(Message::Info,
+                              m_context.translator.translate(QStringLiteral("%1: %2 frames were erased."))
+                                  .arg(m_camera.name(), QString::number(recording->frameCount())));
+    }
 }

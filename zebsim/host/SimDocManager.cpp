@@ -4,11 +4,13 @@
 #include "host/CameraBank.h"
 #include "host/HostCalls.h"
 #include "host/Journal.h"
+#include "host/Notices.h"
 #include "host/Preferences.h"
 #include "host/SimDocument.h"
 #include "host/SimRecorder.h"
 #include "host/StatusFlags.h"
 #include "host/Translator.h"
+#include "host/UnsavedGuard.h"
 #include "host/UpdateCycle.h"
 
 #include <QThread>
@@ -18,13 +20,15 @@
 SimDocManager::SimDocManager(const HostCalls& calls, CameraBank& cameras, const Preferences& prefs,
                              const SimAppStatus& appStatus, const StatusFlags& flags, const Translator& translator,
                              const SyncSignal& sync, const SimRecorder& recorder, UpdateCycle& updates,
+                             Notices& notices, const UnsavedGuard& unsaved,
                              std::function<void(const std::exception&)> tellFailure)
     : m_calls(calls),
       m_cameras(cameras),
       m_flags(flags),
       m_updates(updates),
+      m_unsaved(unsaved),
       m_tellFailure(std::move(tellFailure)),
-      m_context{calls, m_tools, prefs, appStatus, translator, sync, recorder, *this} {}
+      m_context{calls, m_tools, prefs, appStatus, translator, sync, recorder, notices, *this} {}
 
 std::size_t SimDocManager::handedOut() const {
     const auto turn = m_turns.find(QThread::currentThread()->loopLevel());
@@ -241,6 +245,12 @@ void SimDocManager::deleteAllDocs(int kind, int mode) {
         throw std::runtime_error(m_context.translator.translate(text).toStdString());
     }
     m_cameras.forgetAll();
+    const QStringList unsaved = m_unsaved.lines(lostByClosing(heldRecordings(m_cameras)));
+    if (!unsaved.isEmpty()) {
+        const QString text = QStringLiteral("Images that nobody has saved are out of reach until a search:");
+        m_context.notices.add(
+            Message::Warn, m_context.translator.translate(text) % QLatin1Char('\n') % unsaved.join(QLatin1Char('\n')));
+    }
     m_current = zeb::NoDocKey;
     m_updates.request();
 }

@@ -12,10 +12,12 @@
 
 class Camera;
 class CameraBank;
+class Notices;
 class SimRecorder;
 class StatusFlags;
 class SyncSignal;
 class Translator;
+class UnsavedGuard;
 class UpdateCycle;
 
 /// Documents by key, the selection, connections, image tools.
@@ -24,7 +26,7 @@ public:
     /// `tellFailure` shows why cameras did not connect or disconnect.
     SimDocManager(const HostCalls& calls, CameraBank& cameras, const Preferences& prefs, const SimAppStatus& appStatus,
                   const StatusFlags& flags, const Translator& translator, const SyncSignal& sync,
-                  const SimRecorder& recorder, UpdateCycle& updates,
+                  const SimRecorder& recorder, UpdateCycle& updates, Notices& notices, const UnsavedGuard& unsaved,
                   std::function<void(const std::exception&)> tellFailure);
 
     /// As `getCurrentDockey`, for the host itself.
@@ -66,7 +68,7 @@ public:
     void selectAllDocs(QObject* sender) override;
     void connectDocs(const DocKeyList& keys) override;
     void disconnectDocs(const DocKeyList& keys) override;
-    /// Throws while a connected camera is armed or records.
+    /// Throws while a connected camera is armed or records. A notice names those that hold images nobody has saved.
     void deleteAllDocs(int kind, int mode) override;
     void editDoc(DOCKEY key) override;
     bool sharesDeviceWithLockedHead(DOC_Interface* doc, bool shutter, bool resolution) override;
@@ -98,6 +100,7 @@ private:
     CameraBank& m_cameras;
     const StatusFlags& m_flags;
     UpdateCycle& m_updates;
+    const UnsavedGuard& m_unsaved;
     const std::function<void(const std::exception&)> m_tellFailure;
     QMutex m_mutex;
     ImageTools m_tools;

@@ -22,6 +22,7 @@
 #include "host/SimViewOps.h"
 #include "host/StatusFlags.h"
 #include "host/Translator.h"
+#include "host/UnsavedGuard.h"
 #include "host/UpdateCycle.h"
 #include "signals/SimSignalDevices.h"
 #include "signals/SyncSignal.h"
@@ -66,6 +67,7 @@ public:
     StatusFlags& flags() { return m_flags; }
     SyncSignal& syncSignal() { return m_syncSignal; }
     HostEvents& events() { return m_events; }
+    const UnsavedGuard& unsavedGuard() const { return m_unsavedGuard; }
     UpdateCycle& updates() { return m_updates; }
 
     SimAppStatus& appStatus() override { return m_appStatus; }
@@ -106,7 +108,8 @@ public:
     void tellFailure(const std::exception& e);
     /// Asks a question with answers of its own, of which Enter means `preferred`; answers the chosen one of `buttons`,
     /// 0 when the box was left.
-    int choose(const QString& text, QWidget* parent, const ButtonTexts& buttons, int preferred);
+    int choose(const QString& text, QWidget* parent, const ButtonTexts& buttons, int preferred,
+               const QStringList& list = {});
 
     void info(const QString& message, QWidget* parent) override;
     void warn(const QString& message, QWidget* parent) override;
@@ -188,6 +191,7 @@ private:
     void notify(Message::Kind kind, const QString& text);
     bool isInPluginDialog(const QWidget* widget) const;
     Answer show(const Message& box);
+    bool mayLose(const QString& question, const QStringList& lines);
     bool showSilenceable(Message box, const QString& prefKey);
     Message message(int kind, const QString& text, QWidget* parent) const;
     void storePref(const char* call, const QString& key, const QVariant& value);
@@ -216,6 +220,7 @@ private:
     QStringList m_cycleFailures;
 
     Notices m_notices;
+    const UnsavedGuard m_unsavedGuard;
     SimAppStatus m_appStatus;
     SimSignalDevices m_signalDevices;
     SyncSignal m_syncSignal;

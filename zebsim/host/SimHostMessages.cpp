@@ -4,6 +4,7 @@
 #include "host/MessageDesk.h"
 #include "host/SimHost.h"
 
+#include <QMessageBox>
 #include <QtDebug>
 
 Message SimHost::message(int kind, const QString& text, QWidget* parent) const {
@@ -40,11 +41,19 @@ void SimHost::notify(Message::Kind kind, const QString& text) {
     m_desk.notify(notice);
 }
 
-int SimHost::choose(const QString& text, QWidget* parent, const ButtonTexts& buttons, int preferred) {
+int SimHost::choose(const QString& text, QWidget* parent, const ButtonTexts& buttons, int preferred,
+                    const QStringList& list) {
     Message box = message(Message::Confirm, text, parent);
+    box.list = list;
     box.buttons = buttons;
     box.preferred = preferred;
     return show(box).button;
+}
+
+bool SimHost::mayLose(const QString& question, const QStringList& lines) {
+    const ButtonTexts answers{{QMessageBox::Yes, translate(QStringLiteral("Yes"))},
+                              {QMessageBox::No, translate(QStringLiteral("No"))}};
+    return choose(question, nullptr, answers, QMessageBox::No, lines) == QMessageBox::Yes;
 }
 
 void SimHost::info(const QString& text, QWidget* parent) {

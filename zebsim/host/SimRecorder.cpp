@@ -10,6 +10,7 @@
 #include "host/SimAppStatus.h"
 #include "host/StatusFlags.h"
 #include "host/Translator.h"
+#include "host/UnsavedGuard.h"
 #include "host/UpdateCycle.h"
 
 #include <algorithm>
@@ -17,7 +18,8 @@
 
 SimRecorder::SimRecorder(const HostCalls& calls, const Clock& clock, const CameraBank& cameras,
                          const Preferences& prefs, const StatusFlags& flags, SimAppStatus& appStatus,
-                         HostEvents& events, UpdateCycle& updates, const Translator& translator, Notices& notices)
+                         HostEvents& events, UpdateCycle& updates, const Translator& translator, Notices& notices,
+                         const UnsavedGuard& unsaved)
     : m_calls(calls),
       m_cameras(cameras),
       m_prefs(prefs),
@@ -26,6 +28,7 @@ SimRecorder::SimRecorder(const HostCalls& calls, const Clock& clock, const Camer
       m_events(events),
       m_updates(updates),
       m_notices(notices),
+      m_unsaved(unsaved),
       m_run(cameras, clock,
             RecordRun::Listener{
                 [&updates] { updates.request(); },
@@ -91,7 +94,14 @@ void SimRecorder::startRecReady() {
 }
 
 void SimRecorder::arm() {
-    if (!hasEnded()) {
+    if (hasEnded()) {
+        return;
+    }
+    if (!m_unsaved.mayRecordOver([this] { return m_run.keysToArm(); })) {
+        m_updates.request();
+        sendToPlugins(m_appStatus, "signalEndRecording");
+    } else if (!hasEnded()) {
+        // A recording may have come and gone while the question stood.
         m_run.arm();
     }
 }

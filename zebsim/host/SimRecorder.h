@@ -15,6 +15,7 @@ class SimAppStatus;
 class Preferences;
 class StatusFlags;
 class Translator;
+class UnsavedGuard;
 class UpdateCycle;
 class Notices;
 
@@ -25,11 +26,13 @@ class SimRecorder : public ZebRecorder {
 public:
     SimRecorder(const HostCalls& calls, const Clock& clock, const CameraBank& cameras, const Preferences& prefs,
                 const StatusFlags& flags, SimAppStatus& appStatus, HostEvents& events, UpdateCycle& updates,
-                const Translator& translator, Notices& notices);
+                const Translator& translator, Notices& notices, const UnsavedGuard& unsaved);
 
     int getRecStatus(const DocKeyList& keys) const override;
     int getRecordingState() const override;
     bool isRecording() const override;
+    /// Asks first when cameras would record over images that nobody has saved. When that is refused nothing is armed,
+    /// and plug-ins hear that the recording is at its end.
     void startRecReady() override;
     /// During a trigger test nothing records, and a notice tells that the trigger has come.
     void triggerRecording() override;
@@ -76,6 +79,7 @@ private:
     HostEvents& m_events;
     UpdateCycle& m_updates;
     Notices& m_notices;
+    const UnsavedGuard& m_unsaved;
     RecordRun m_run;
     /// An end that is still to be told, and whether something was recorded.
     std::optional<bool> m_owedEnd;

@@ -1180,6 +1180,42 @@
         <translation>The recording has ended meanwhile. Nothing was done.</translation>
     </message>
     <message>
+        <source>%1: %2 frames</source>
+        <translation>%1: %2 frames</translation>
+    </message>
+    <message>
+        <source>%1: %2 frames in partition %3</source>
+        <translation>%1: %2 frames in partition %3</translation>
+    </message>
+    <message>
+        <source>Cameras hold images that nobody has saved. Record over them all the same?</source>
+        <translation>Cameras hold images that nobody has saved. Record over them all the same?</translation>
+    </message>
+    <message>
+        <source>Cameras hold images that nobody has saved. Close the viewer all the same?</source>
+        <translation>Cameras hold images that nobody has saved. Close the viewer all the same?</translation>
+    </message>
+    <message>
+        <source>Ask before images that nobody has saved are lost</source>
+        <translation>Ask before images that nobody has saved are lost</translation>
+    </message>
+    <message>
+        <source>%1: %2 frames were erased.</source>
+        <translation>%1: %2 frames were erased.</translation>
+    </message>
+    <message>
+        <source>Images that nobody has saved are out of reach until a search:</source>
+        <translation>Images that nobody has saved are out of reach until a search:</translation>
+    </message>
+    <message>
+        <source>%1: the camera has disappeared. %2 frames of it are not saved.</source>
+        <translation>%1: the camera has disappeared. %2 frames of it are not saved.</translation>
+    </message>
+    <message>
+        <source>%1: the last recording lies in partition %2. It is not saved.</source>
+        <translation>%1: the last recording lies in partition %2. It is not saved.</translation>
+    </message>
+    <message>
         <source>%1 (earlier recording)</source>
         <translation>%1 (earlier recording)</translation>
     </message>
@@ -1362,6 +1398,26 @@
     <message>
         <source>There is no image to take.</source>
         <translation>There is no image to take.</translation>
+    </message>
+    <message>
+        <source>No camera offers the shutter speed %1.</source>
+        <translation>No camera offers the shutter speed %1.</translation>
+    </message>
+    <message>
+        <source>the whole network</source>
+        <translation>the whole network</translation>
+    </message>
+    <message>
+        <source>Search in %1: found %2.</source>
+        <translation>Search in %1: found %2.</translation>
+    </message>
+    <message>
+        <source>Search in %1: no further camera; those that answer are listed already.</source>
+        <translation>Search in %1: no further camera; those that answer are listed already.</translation>
+    </message>
+    <message>
+        <source>Search in %1: no camera answers.</source>
+        <translation>Search in %1: no camera answers.</translation>
     </message>
 </context>
 </TS>

@@ -1180,6 +1180,42 @@
         <translation>その間に撮影が終了しました。何も行いませんでした。</translation>
     </message>
     <message>
+        <source>%1: %2 frames</source>
+        <translation>%1: %2 フレーム</translation>
+    </message>
+    <message>
+        <source>%1: %2 frames in partition %3</source>
+        <translation>%1: %2 フレーム（パーティション %3）</translation>
+    </message>
+    <message>
+        <source>Cameras hold images that nobody has saved. Record over them all the same?</source>
+        <translation>保存されていない画像がカメラに残っています。上書きして撮影しますか？</translation>
+    </message>
+    <message>
+        <source>Cameras hold images that nobody has saved. Close the viewer all the same?</source>
+        <translation>保存されていない画像がカメラに残っています。ビューアを閉じますか？</translation>
+    </message>
+    <message>
+        <source>Ask before images that nobody has saved are lost</source>
+        <translation>保存されていない画像が失われる前に確認する</translation>
+    </message>
+    <message>
+        <source>%1: %2 frames were erased.</source>
+        <translation>%1: %2 フレームを消去しました。</translation>
+    </message>
+    <message>
+        <source>Images that nobody has saved are out of reach until a search:</source>
+        <translation>保存されていない画像があります。検索するまで読み出せません：</translation>
+    </message>
+    <message>
+        <source>%1: the camera has disappeared. %2 frames of it are not saved.</source>
+        <translation>%1: カメラが見つからなくなりました。%2 フレームが保存されていません。</translation>
+    </message>
+    <message>
+        <source>%1: the last recording lies in partition %2. It is not saved.</source>
+        <translation>%1: 最後の撮影はパーティション %2 にあります。保存されません。</translation>
+    </message>
+    <message>
         <source>%1 (earlier recording)</source>
         <translation>%1（以前の撮影）</translation>
     </message>
@@ -1362,6 +1398,26 @@
     <message>
         <source>There is no image to take.</source>
         <translation>取り込む画像がありません。</translation>
+    </message>
+    <message>
+        <source>No camera offers the shutter speed %1.</source>
+        <translation>シャッター速度 %1 を設定できるカメラがありません。</translation>
+    </message>
+    <message>
+        <source>the whole network</source>
+        <translation>ネットワーク全体</translation>
+    </message>
+    <message>
+        <source>Search in %1: found %2.</source>
+        <translation>%1 の検索: %2 が見つかりました。</translation>
+    </message>
+    <message>
+        <source>Search in %1: no further camera; those that answer are listed already.</source>
+        <translation>%1 の検索: 新しいカメラはありません。応答したカメラは既に一覧にあります。</translation>
+    </message>
+    <message>
+        <source>Search in %1: no camera answers.</source>
+        <translation>%1 の検索: 応答するカメラがありません。</translation>
     </message>
 </context>
 </TS>

@@ -120,17 +120,34 @@ bool RecordRun::isRecording() const {
     return std::any_of(m_parts.begin(), m_parts.end(), goesOn) && std::none_of(m_parts.begin(), m_parts.end(), waits);
 }
 
+RecordRun::Cameras RecordRun::camerasToArm() {
+    Cameras cameras = camerasIn([](int state) { return state != zeb::RecordRecording; });
+    const auto takesPart = [this](const std::shared_ptr<Camera>& camera) {
+        const Part* part = findPart(*camera);
+        return part != nullptr && !part->over && isArmed(camera->get(&CameraState::recordState));
+    };
+    cameras.erase(std::remove_if(cameras.begin(), cameras.end(), takesPart), cameras.end());
+    return isRecording() ? Cameras() : cameras;
+}
+
+DocKeyList RecordRun::keysToArm() {
+    DocKeyList keys;
+    for (const auto& camera : camerasToArm()) {
+        keys.append(camera->key());
+    }
+    return keys;
+}
+
 void RecordRun::arm() {
     if (isRecording()) {
         return;
     }
-    for (const auto& camera : camerasIn(isArmed)) {
-        const Part* part = findPart(*camera);
-        if (part == nullptr || part->over) {
-            takeIn(camera);
-        }
-    }
-    const Cameras cameras = camerasIn([](int state) { return !isArmed(state) && state != zeb::RecordRecording; });
+    Cameras cameras = camerasToArm();
+    const auto atRest = std::stable_partition(cameras.begin(), cameras.end(), [](const auto& camera) {
+        return isArmed(camera->get(&CameraState::recordState));
+    });
+    std::for_each(cameras.begin(), atRest, [this](const auto& camera) { takeIn(camera); });
+    cameras.erase(cameras.begin(), atRest);
     const QStringList reasons = commandAll(cameras, &Camera::arm);
     for (std::size_t i = 0; i < cameras.size(); ++i) {
         drop(takeIn(cameras[i]), reasons.at(int(i)));
@@ -185,7 +202,7 @@ void RecordRun::leaveBehind(const Cameras& late) {
         lose(*camera, m_listener
                               .translate(records ? QStringLiteral("%1: the camera records by itself.")
                                                  : QStringLiteral("%1: the camera is not ready."))
-                              .arg(camera->name()) %
+                              .arg(m_cameras.labelOf(*camera)) %
                           QLatin1Char(' ') % m_listener.translate(TakesNoPart));
         if (part != nullptr) {
             part->over = true;
@@ -302,7 +319,7 @@ void RecordRun::followItsTrigger(Part& part) {
     m_triggered = true;
     m_changed = true;
     m_failures.append(m_listener.translate(QStringLiteral("%1: the camera has triggered itself. It records on."))
-                          .arg(part.camera->name()));
+                          .arg(m_cameras.labelOf(*part.camera)));
 }
 
 void RecordRun::record(Part& part, qint64 now) {
@@ -325,24 +342,35 @@ void RecordRun::record(Part& part, qint64 now) {
     }
 }
 
-/// Connected cameras that vanish while they take no part.
+/// Cameras that vanish while they take no part.
 void RecordRun::missOthers() {
     for (const Camera* camera : m_cameras.known()) {
         if (!camera->isGone()) {
             m_vanished.remove(camera->key());
         } else if (!m_vanished.contains(camera->key())) {
             m_vanished.insert(camera->key());
-            if (camera->get(&CameraState::connected)) {
-                m_failures.append(m_listener.translate(HasDisappeared).arg(camera->name()));
-            }
+            tellGone(*camera);
         }
+    }
+}
+
+void RecordRun::tellGone(const Camera& camera) {
+    unsigned int unsaved = 0;
+    for (const Recording& recording : camera.recordings()) {
+        unsaved += recording.saved ? 0 : recording.frameCount();
+    }
+    if (unsaved > 0) {
+        const QString text = QStringLiteral("%1: the camera has disappeared. %2 frames of it are not saved.");
+        m_failures.append(m_listener.translate(text).arg(m_cameras.labelOf(camera), QString::number(unsaved)));
+    } else if (camera.get(&CameraState::connected)) {
+        m_failures.append(m_listener.translate(HasDisappeared).arg(m_cameras.labelOf(camera)));
     }
 }
 
 void RecordRun::miss(Part& part, const QString& why) {
     const QString loss = part.triggered ? QStringLiteral("Its recording is lost.") : TakesNoPart;
-    lose(*part.camera,
-         m_listener.translate(why).arg(part.camera->name()) % QLatin1Char(' ') % m_listener.translate(loss));
+    lose(*part.camera, m_listener.translate(why).arg(m_cameras.labelOf(*part.camera)) % QLatin1Char(' ') %
+                           m_listener.translate(loss));
     part.over = true;
     part.triggered = false;
     m_changed = true;
@@ -367,7 +395,7 @@ void RecordRun::end(Part& part, qint64 now, int recordState) {
         part.camera->keep(recording);
         if (!recording) {
             const QString text = QStringLiteral("%1: no frame of its record area was recorded.");
-            lose(*part.camera, m_listener.translate(text).arg(part.camera->name()));
+            lose(*part.camera, m_listener.translate(text).arg(m_cameras.labelOf(*part.camera)));
         }
     }
     part.over = true;

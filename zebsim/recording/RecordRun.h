@@ -35,6 +35,8 @@ public:
     RecordRun(const CameraBank& cameras, const Clock& clock, Listener listener);
     ~RecordRun();
 
+    /// The cameras that `arm` would take in.
+    DocKeyList keysToArm();
     /// Arms the connected cameras that are at rest and takes in those that are armed already; one that records by
     /// itself is left alone. Those that fail are told of, the others go on. No effect while the recording runs.
     void arm();
@@ -73,6 +75,7 @@ private:
 
     Cameras camerasIn(const std::function<bool(int state)>& wanted) const;
     Cameras camerasOf(const std::function<bool(const Part& part)>& wanted) const;
+    Cameras camerasToArm();
     Part* findPart(const Camera& camera);
     Part& takeIn(const std::shared_ptr<Camera>& camera);
     /// All that take part have had their trigger.
@@ -85,6 +88,8 @@ private:
     void followItsTrigger(Part& part);
     void record(Part& part, qint64 now);
     void missOthers();
+    /// One that nobody works with and that holds nothing is not missed.
+    void tellGone(const Camera& camera);
     /// The camera takes no part any more and keeps nothing of this recording. `why` has its place for the name.
     void miss(Part& part, const QString& why);
     /// What the user is told now, and again at a save.

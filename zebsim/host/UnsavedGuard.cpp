@@ -1,0 +1,57 @@
+#include "host/UnsavedGuard.h"
+
+#include "host/Preferences.h"
+#include "host/Translator.h"
+
+#include <QtDebug>
+
+#include <utility>
+
+UnsavedGuard::UnsavedGuard(const CameraBank& cameras, const Preferences& prefs, const Translator& translator,
+                           std::function<bool(const QString&, const QStringList&)> ask)
+    : m_cameras(cameras), m_prefs(prefs), m_translator(translator), m_ask(std::move(ask)) {}
+
+bool UnsavedGuard::mayRecordOver(const std::function<DocKeyList()>& toArm) const {
+    return mayLose(m_translator.translate(
+                       QStringLiteral("Cameras hold images that nobody has saved. Record over them all the same?")),
+                   [&] { return lostByRecording(heldRecordings(m_cameras, toArm())); });
+}
+
+bool UnsavedGuard::mayClose() const {
+    return mayLose(m_translator.translate(
+                       QStringLiteral("Cameras hold images that nobody has saved. Close the viewer all the same?")),
+                   [&] { return lostByClosing(heldRecordings(m_cameras)); });
+}
+
+bool UnsavedGuard::mayLose(const QString& question, const std::function<HeldRecordings()>& lost) const {
+    QStringList givenUp;
+    const auto remaining = [&] {
+        QStringList left = lines(lost());
+        for (const QString& line : givenUp) {
+            left.removeOne(line);
+        }
+        return left;
+    };
+    for (QStringList asked = remaining(); !asked.isEmpty(); asked = remaining()) {
+        if (m_prefs.value(QStringLiteral("alert/unsavedrecording")).toBool() && !m_ask(question, asked)) {
+            return false;
+        }
+        givenUp += asked;
+    }
+    if (!givenUp.isEmpty()) {
+        qWarning() << "Unsaved images were given up:" << givenUp;
+    }
+    return true;
+}
+
+QStringList UnsavedGuard::lines(const HeldRecordings& recordings) const {
+    const QString whole = m_translator.translate(QStringLiteral("%1: %2 frames"));
+    const QString part = m_translator.translate(QStringLiteral("%1: %2 frames in partition %3"));
+    QStringList lines;
+    for (const HeldRecording& held : recordings) {
+        const QString frames = QString::number(held.recording.frameCount());
+        lines.append(held.isDivided ? part.arg(held.camera, frames, QString::number(held.recording.partition))
+                                    : whole.arg(held.camera, frames));
+    }
+    return lines;
+}
