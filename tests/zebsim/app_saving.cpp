@@ -7,6 +7,8 @@
 #include "Simulator.h"
 #include "ViewerWindow.h"
 #include "camera/Camera.h"
+#include "image/FramePicture.h"
+#include "saving/FileNames.h"
 #include "saving/SaveJob.h"
 #include "saving/SaveNames.h"
 #include "support/StubPlugin.h"
@@ -157,12 +159,48 @@ TEST_F(AppSaving, TellsOfCamerasThatAreNotThere) {
                   lost);
 }
 
+TEST_F(AppSaving, TellsWhichFramesAreNotOfTheLastRecording) {
+    Camera& first = *host.cameras().find(1);
+    Camera& second = *host.cameras().find(2);
+    const auto shoot = [&](Camera& camera) {
+        camera.keep(camera.recording());
+        Q_EMIT host.events().somethingRecorded();
+    };
+    shoot(first);
+    shoot(second);
+    second.set(&CameraState::partitions, 2);
+    second.setPartition(2);
+    second.change({{"recorded", true}, {"recordedRange", QVariantList{0, 2}}});
+    const QString away = "Camera 2: the last recording lies in partition 1. It is not saved.";
+    const QString earlier = "Camera 1 (earlier recording)";
+    ModalWatcher watcher;
+    QStringList names;
+    QObject::connect(&watcher, &ModalWatcher::stands, [&](QDialog* dialog) {
+        const auto* table = dialog->findChild<QTableWidget*>("cameras");
+        for (int row = 0; table && row < 3; ++row) names << table->item(row, 0)->text();
+    });
+    dialogs.saves().order({});
+    host.saveLayoutFiles();
+    EXPECT_EQ(results().first(), away);
+    EXPECT_EQ(names, QStringList({away, earlier, "Camera 2 (earlier recording)"}));
+    const QImage picture(folder.filePath("out/Layout_00000.png"));
+    const QImage tile = picture.copy(60, 0, 360, 360).convertToFormat(QImage::Format_RGB32);
+    EXPECT_EQ(tile, drawFrame({earlier, {64, 64}, -1, -1000}, {360, 360})) << "where its number stands too";
+    EXPECT_EQ(heldRecordings(host.cameras()).size(), 3U);
+    EXPECT_EQ(lostByClosing(heldRecordings(host.cameras())).size(), 2U) << "a layout shows less than they hold";
+    dialogs.saves().order({});
+    host.saveFiles();
+    results();
+    EXPECT_EQ(lostByClosing(heldRecordings(host.cameras())).size(), 1U);
+}
+
 TEST_F(AppSaving, ShowsTheProgressOfMoreFramesThanAnIntCounts) {
     for (DOCKEY key = 1; key <= 2; ++key) {
         host.cameras().find(key)->change({{"recordedRange", QVariantList{0, 2000000000}}});
         host.cameras().find(key)->change({{"selectedRange", QVariantList{key == 1 ? 2000000000 : 0, 2000000000}}});
     }
-    SaveOrders orders{folder.filePath("out"), saveFormat("jpeg"), tracksOfEach(saveSources(host.cameras())), {}};
+    FileNames names;
+    SaveOrders orders{folder.filePath("out"), saveFormat("jpeg"), tracksOfEach(saveSources(host.cameras(), names)), {}};
     orders.tracks.push_back(orders.tracks.back());
     SaveJob job(host.cameras(), orders, [](const QString&) { return std::numeric_limits<qint64>::max(); });
     const SaveProgress progress(job, nullptr);

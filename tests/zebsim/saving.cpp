@@ -2,6 +2,8 @@
 #include "DOC_Frames.h"
 #include "DOC_Interface.h"
 #include "image/FramePicture.h"
+#include "saving/FileNames.h"
+#include "saving/LastShoot.h"
 #include "saving/SaveJob.h"
 #include "saving/SaveNames.h"
 #include "support/TestHost.h"
@@ -33,12 +35,13 @@ protected:
         host.camera(key).change(
             {{"recordedRange", QVariantList{0, 499}}, {"selectedRange", QVariantList{first, last}}});
     }
+    SaveSources sources() { return saveSources(host.host.cameras(), fileNames); }
     SaveOrders orders(const char* format = "png") {
         const auto ask = [this](const QString& file) {
             asked << QFileInfo(file).fileName();
             return answer;
         };
-        return {path(""), saveFormat(format), tracksOfEach(saveSources(host.host.cameras())), ask};
+        return {path(""), saveFormat(format), tracksOfEach(sources()), ask};
     }
     /// What became of each track, as "Gate: 2 of 2 up to 0, saved".
     QStringList run(const SaveOrders& wanted, const std::function<void(SaveJob&)>& atEachTurn = {}) {
@@ -75,6 +78,7 @@ protected:
 
     TestHost host{Rig::standard(3)};
     QTemporaryDir folder;
+    FileNames fileNames{{"Layout"}};
     Overwrite answer = Overwrite::This;
     QStringList asked;
     QString failedFile;
@@ -126,10 +130,49 @@ TEST_F(Saving, NamesFilesSoThatEverySystemTakesThem) {
     EXPECT_EQ(fileNameOf(" ../.. "), "_..");
     EXPECT_EQ(fileNameOf(" . "), "camera");
     EXPECT_EQ(fileNameOf(QString(100, QChar(0x9AD8))).toUtf8().size(), 198);
-    EXPECT_EQ(distinctFileNames({"Gate", "gate", "Gate-2", "Gate"}),
-              QStringList({"Gate", "gate-2", "Gate-2-2", "Gate-3"}));
     EXPECT_EQ(frameNumberText(-512), "-00512");
     EXPECT_EQ(frameNumberText(1234567), "1234567");
+}
+
+TEST_F(Saving, CallsTheFilesOfNoTwoCamerasAlike) {
+    FileNames names({"Layout"});
+    const struct {
+        const char* what;
+        QStringList cameras, names;
+    } rows[] = {
+        {"alike whatever the case, or once they are cleaned",
+         {"Gate", "gATE", "a/b", "a:b", "Roof"},
+         {"Gate_0", "gATE_1", "a_b_2", "a_b_3", "Roof"}},
+        {"one is called as another with its address", {"Gate", "Gate", "Gate_0"}, {"Gate_0", "Gate_1", "Gate_0_2"}},
+        {"a name that others have had", {"Door", "Roof", "Track", "Roof"}, {"Door", "Roof_1", "Track", "Roof_3"}},
+        {"one that has had it before",
+         {"Door", "Wall", "Hall", "Gate", "Roof"},
+         {"Door", "Wall", "Hall", "Gate", "Roof"}},
+        {"the name of another camera's files", {"Track", "Door"}, {"Track_0", "Door_1"}},
+        {"what a layout's files are called", {"layout"}, {"layout_0"}},
+    };
+    for (const auto& row : rows) {
+        QList<NamedCamera> cameras;
+        for (const QString& name : row.cameras) cameras.append({name, QString::number(cameras.size())});
+        EXPECT_EQ(names.of(cameras), row.names) << row.what;
+    }
+}
+
+TEST_F(Saving, NeverWritesOverAnotherCamerasFrames) {
+    host.camera(3).set(&CameraState::name, "gate");
+    answer = Overwrite::All;
+    run(orders());
+    const auto written = [this](const char* name) { return QImage(path(name)); };
+    const QImage first = written("Gate_192.168.0.11_00000.png");
+    ASSERT_FALSE(first.isNull());
+    host.host.faults().plant(1, "*", {{}, 0, true});
+    EXPECT_EQ(run(orders()), QStringList("gate: 3 of 3 up to 2, saved"));
+    EXPECT_EQ(written("Gate_192.168.0.11_00000.png"), first);
+    host.camera(3).set(&CameraState::name, "GATE_192.168.0.11");
+    run(orders());
+    EXPECT_EQ(written("Gate_192.168.0.11_00000.png"), first) << "nor does one that is called as those files";
+    EXPECT_EQ(asked.size(), 1);
+    EXPECT_EQ(files().size(), 2 + 3 + 3);
 }
 
 TEST_F(Saving, AsksBeforeItOverwrites) {
@@ -223,6 +266,7 @@ TEST_F(Saving, LosesACameraAtAnyFrameAndNoOther) {
 }
 
 TEST_F(Saving, KnowsWhoHasRecordedAndIsNotThereAnyMore) {
+    host.host.prefs().setValue("alert/unsavedrecording", false);
     const LastShoot last(host.host.cameras(), host.host.events());
     SimRecorder& recorder = host.host.recorder();
     const auto shoot = [&] {
@@ -254,13 +298,20 @@ TEST_F(Saving, KnowsWhoHasRecordedAndIsNotThereAnyMore) {
          {"Gate is gone", "Camera 2"}},
         {"one comes back", [&] { connect(2, true); }, {"Gate is gone"}},
         {"a new shoot without it", [&] { connect(3, true), shoot(); }, {}},
+        {"one uses another partition",
+         [&] { host.camera(2).set(&CameraState::partitions, 2), host.camera(2).setPartition(2); },
+         {"Camera 2 recorded in 1"}},
+        {"and what it used before again", [&] { host.camera(2).setPartition(1); }, {}},
         {"all are deleted", [&] { host.host.cameras().forgetAll(); }, {"Camera 2", "Nozzle/2"}},
         {"another rig", [&] { host.host.setRig(Rig::standard(3)); }, {}},
     };
     for (const auto& one : cases) {
         one.happens();
         QStringList absent;
-        for (const AbsentCamera& camera : last.absent()) absent << camera.name + (camera.gone ? " is gone" : "");
+        for (const AbsentCamera& camera : last.absent()) {
+            const QString partition = QStringLiteral(" recorded in %1").arg(camera.partition);
+            absent << camera.name + QStringList({" is gone", "", partition}).at(camera.why);
+        }
         EXPECT_EQ(absent, one.absent) << one.what;
     }
 }
@@ -273,7 +324,7 @@ TEST_F(Saving, IsCancelledBetweenFrames) {
 
 TEST_F(Saving, LaysTheCamerasSideBySide) {
     SaveOrders layout = orders();
-    layout.tracks = tracksOfLayout(saveSources(host.host.cameras()), "Layout");
+    layout.tracks = tracksOfLayout(sources(), "Layout");
     host.host.faults().plant(1, "readFrame", {"it is too hot", 0, false});
     EXPECT_EQ(run(layout), QStringList({"Gate: 0 of 2 up to -1, lost", "Layout: 3 of 3 up to 2, saved"}));
     EXPECT_EQ(files(), QStringList({"Layout_00000.png", "Layout_00001.png", "Layout_00002.png"}));

@@ -15,7 +15,8 @@
 #include <QMessageBox>
 #include <QtDebug>
 
-SaveDesk::SaveDesk(SimHost& host) : m_host(host), m_shoot(host.cameras(), host.events()) {}
+SaveDesk::SaveDesk(SimHost& host)
+    : m_host(host), m_shoot(host.cameras(), host.events()), m_fileNames({uiText("Layout")}) {}
 
 SaveDesk::~SaveDesk() = default;
 
@@ -28,18 +29,16 @@ void SaveDesk::save(bool layout) {
         m_host.tell(Message::Info, uiText("Images are being saved already."));
         return;
     }
-    const SaveSources sources = saveSources(m_host.cameras());
-    std::vector<SaveTrack> tracks = layout ? tracksOfLayout(sources, uiText("Layout")) : tracksOfEach(sources);
-    for (SaveTrack& track : tracks) {
-        const bool isEarlier = !layout && m_shoot.isEarlier(track.sources.front().recording());
-        if (isEarlier) track.name = uiText("%1 (earlier recording)").arg(track.name);
+    SaveSources sources = saveSources(m_host.cameras(), m_fileNames);
+    for (SaveSource& source : sources) {
+        if (m_shoot.isEarlier(source.recording())) source.setName(uiText("%1 (earlier recording)").arg(source.name()));
     }
-    QList<AbsentCamera> absent = m_shoot.absent();
-    for (const QString& line : m_host.recorder().lost()) absent.append({{}, false, line});
+    const auto tracks = layout ? tracksOfLayout(sources, uiText("Layout")) : tracksOfEach(sources);
+    QStringList absent;
+    for (const AbsentCamera& camera : m_shoot.absent()) absent << absentText(camera);
+    absent << m_host.recorder().lost();
     if (tracks.empty()) {
-        QStringList lines;
-        for (const AbsentCamera& camera : absent) lines << absentText(camera);
-        m_host.tell(Message::Warn, uiText("No connected camera has recorded images."), lines);
+        m_host.tell(Message::Warn, uiText("No connected camera has recorded images."), absent);
         return;
     }
     const QPointer<QWidget> before = QApplication::activeWindow();

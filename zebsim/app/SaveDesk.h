@@ -1,5 +1,6 @@
 #pragma once
 
+#include "saving/FileNames.h"
 #include "saving/LastShoot.h"
 
 #include <QPointer>
@@ -36,6 +37,7 @@ private:
 
     SimHost& m_host;
     const LastShoot m_shoot;
+    FileNames m_fileNames;
     std::unique_ptr<SaveJob> m_job;
     QPointer<SaveProgress> m_progress;
     /// The save dialog stands.

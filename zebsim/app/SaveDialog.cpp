@@ -1,9 +1,7 @@
 #include "SaveDialog.h"
 
 #include "DialogButtons.h"
-#include "SaveTexts.h"
 #include "TargetFields.h"
-#include "saving/LastShoot.h"
 #include "saving/SaveNames.h"
 #include "saving/SaveTrack.h"
 
@@ -24,7 +22,7 @@ constexpr int MostCounted = 1000;
 
 }  // namespace
 
-SaveDialog::SaveDialog(Preferences& prefs, const std::vector<SaveTrack>& tracks, const QList<AbsentCamera>& absent,
+SaveDialog::SaveDialog(Preferences& prefs, const std::vector<SaveTrack>& tracks, const QStringList& absent,
                        QWidget* parent)
     : QDialog(parent),
       m_target(new TargetFields(prefs, QStringLiteral("save"), true, this)),
@@ -90,12 +88,12 @@ QTableWidget* SaveDialog::makeTable() {
     return table;
 }
 
-void SaveDialog::addAbsent(QTableWidget& table, const QList<AbsentCamera>& absent) {
+void SaveDialog::addAbsent(QTableWidget& table, const QStringList& absent) {
     const QIcon warning = table.style()->standardIcon(QStyle::SP_MessageBoxWarning);
-    for (const AbsentCamera& camera : absent) {
+    for (const QString& line : absent) {
         const int row = table.rowCount();
         table.insertRow(row);
-        table.setItem(row, 0, new QTableWidgetItem(warning, absentText(camera)));
+        table.setItem(row, 0, new QTableWidgetItem(warning, line));
         table.setSpan(row, 0, 1, table.columnCount());
     }
 }
@@ -105,7 +103,7 @@ void SaveDialog::addTracks(QTableWidget& table, const std::vector<SaveTrack>& tr
         for (const SaveSource& source : track.sources) {
             const int row = table.rowCount();
             table.insertRow(row);
-            table.setItem(row, 0, new QTableWidgetItem(track.isLayout ? source.name() : track.name));
+            table.setItem(row, 0, new QTableWidgetItem(source.name()));
             const QList<qint64> numbers = {source.frame(0).number, source.frame(source.frames() - 1).number,
                                            source.frames()};
             for (int i = 0; i < numbers.size(); ++i) {

@@ -1,7 +1,7 @@
 #pragma once
 
 #include <QDialog>
-#include <QList>
+#include <QStringList>
 
 #include <vector>
 
@@ -10,10 +10,9 @@ class QLabel;
 class QPushButton;
 class QTableWidget;
 class TargetFields;
-struct AbsentCamera;
 struct SaveTrack;
 
-/// What is to be saved, each camera with its range, and where to; and above, what can't be saved.
+/// What is to be saved, each camera with its range, and where to; and above, what can't be saved, a line each.
 /// A folder with files in it is told of, and another one offered. Save stores folder
 /// and format as preferences.
 class SaveDialog : public QDialog {
@@ -21,14 +20,13 @@ class SaveDialog : public QDialog {
 
 public:
     /// `prefs` must outlive the dialog.
-    SaveDialog(Preferences& prefs, const std::vector<SaveTrack>& tracks, const QList<AbsentCamera>& absent,
-               QWidget* parent);
+    SaveDialog(Preferences& prefs, const std::vector<SaveTrack>& tracks, const QStringList& absent, QWidget* parent);
 
     void accept() override;
 
 private:
     QTableWidget* makeTable();
-    static void addAbsent(QTableWidget& table, const QList<AbsentCamera>& absent);
+    static void addAbsent(QTableWidget& table, const QStringList& absent);
     static void addTracks(QTableWidget& table, const std::vector<SaveTrack>& tracks);
 
     void fillNotice();

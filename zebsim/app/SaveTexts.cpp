@@ -1,6 +1,7 @@
 #include "SaveTexts.h"
 
 #include "UiText.h"
+#include "saving/LastShoot.h"
 #include "saving/SaveJob.h"
 
 #include <QDir>
@@ -11,9 +12,8 @@ QString outcomeText(const SaveOutcome& outcome, const SaveOrders& orders) {
     const QString saved = QString::number(outcome.saved);
     const QString left = QString::number(outcome.frames - outcome.saved);
     switch (outcome.end) {
-        case SaveOutcome::Gone:
-        case SaveOutcome::Disconnected:
-            return absentText({name, outcome.end == SaveOutcome::Gone, outcome.reason});
+        case SaveOutcome::Absent:
+            return outcome.reason;
         case SaveOutcome::Saved:
             return uiText("%1: %2 frames saved in %3").arg(name, saved, QDir::toNativeSeparators(orders.folder));
         case SaveOutcome::CameraLost:
@@ -34,9 +34,11 @@ QString outcomeText(const SaveOutcome& outcome, const SaveOrders& orders) {
 }
 
 QString absentText(const AbsentCamera& camera) {
-    if (!camera.lost.isEmpty()) return camera.lost;
-    const QString text =
-        camera.gone ? uiText("%1: the camera has disappeared.") : uiText("%1: the camera was disconnected.");
+    if (camera.why == AbsentCamera::OtherPartition)
+        return uiText("%1: the last recording lies in partition %2. It is not saved.")
+            .arg(camera.name, QString::number(camera.partition));
+    const QString text = camera.why == AbsentCamera::Gone ? uiText("%1: the camera has disappeared.")
+                                                          : uiText("%1: the camera was disconnected.");
     return text.arg(camera.name) % QLatin1Char(' ') % uiText("Its recording is not saved.");
 }
 

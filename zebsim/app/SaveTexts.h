@@ -11,7 +11,7 @@ struct SaveRefusal;
 ///
 /// One line of what became of a camera.
 QString outcomeText(const SaveOutcome& outcome, const SaveOrders& orders);
-/// What is lost with a camera that is not there.
+/// Why a camera's last recording is not saved.
 QString absentText(const AbsentCamera& camera);
 /// Why nothing was saved.
 QString refusalText(const SaveRefusal& refusal, const SaveOrders& orders);

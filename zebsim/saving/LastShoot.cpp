@@ -13,7 +13,9 @@ LastShoot::LastShoot(const CameraBank& cameras, const HostEvents& events) : m_ca
 void LastShoot::begin() {
     m_before = m_last;
     for (const Camera* camera : m_cameras.known()) {
-        m_last = std::max(m_last, camera->get(&CameraState::serial));
+        for (const Recording& recording : camera->recordings()) {
+            m_last = std::max(m_last, recording.serial);
+        }
     }
 }
 
@@ -24,10 +26,16 @@ bool LastShoot::isEarlier(const Recording& recording) const {
 QList<AbsentCamera> LastShoot::absent() const {
     QList<AbsentCamera> absent;
     for (const Camera* camera : m_cameras.known()) {
-        const auto recording = camera->recording();
         const bool isThere = m_cameras.find(camera->key()) != nullptr && camera->get(&CameraState::connected);
-        if (recording && recording->serial > m_before && !isThere) {
-            absent.append({camera->name(), camera->isGone()});
+        const PARTITIONNUMBER inUse = camera->get(&CameraState::partition);
+        const auto why = camera->isGone() ? AbsentCamera::Gone
+                         : isThere        ? AbsentCamera::OtherPartition
+                                          : AbsentCamera::Disconnected;
+        for (const Recording& recording : camera->recordings()) {
+            const bool canBeFetched = isThere && recording.partition == inUse;
+            if (recording.serial > m_before && !canBeFetched) {
+                absent.append({m_cameras.labelOf(*camera), why, recording.partition});
+            }
         }
     }
     return absent;

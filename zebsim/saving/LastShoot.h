@@ -1,5 +1,7 @@
 #pragma once
 
+#include "ZebTypes.h"
+
 #include <QList>
 #include <QObject>
 #include <QString>
@@ -8,13 +10,14 @@ struct Recording;
 class CameraBank;
 class HostEvents;
 
-/// A camera whose recording can't be fetched.
+/// A camera whose last recording can't be fetched.
 struct AbsentCamera {
+    enum Why { Gone, Disconnected, OtherPartition };
+
     QString name;
-    /// It has vanished; else it was disconnected.
-    bool gone = false;
-    /// Nothing was recorded at all, and why, with the name.
-    QString lost = {};
+    Why why = Gone;
+    /// Where the recording lies.
+    PARTITIONNUMBER partition = 1;
 };
 
 /// What the cameras kept of the last recording, wherever they are by now. GUI thread.
@@ -27,7 +30,8 @@ public:
 
     /// Whether `recording` was there before the last one that this object knows of.
     bool isEarlier(const Recording& recording) const;
-    /// The cameras that hold something of it and are not connected any more, in the order of their keys.
+    /// The cameras that hold something of it, but are not connected any more or use another partition, in the order of
+    /// their keys.
     QList<AbsentCamera> absent() const;
 
 private:

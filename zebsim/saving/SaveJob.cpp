@@ -27,9 +27,8 @@ qint64 pixelsOf(const QSize& size) {
 
 SaveJob::SaveJob(const CameraBank& cameras, SaveOrders orders, std::function<qint64(const QString& folder)> freeSpace)
     : m_cameras(cameras), m_orders(std::move(orders)), m_freeSpace(std::move(freeSpace)), m_claims(m_orders.ask) {
-    for (const AbsentCamera& camera : m_orders.absent) {
-        const auto end = camera.gone ? SaveOutcome::Gone : SaveOutcome::Disconnected;
-        m_outcomes.append({camera.name, end, 0, 0, 0, {}, camera.lost});
+    for (const QString& line : m_orders.absent) {
+        m_outcomes.append({{}, SaveOutcome::Absent, 0, 0, 0, {}, line});
     }
     m_timer.setSingleShot(true);
     connect(&m_timer, &QTimer::timeout, this, &SaveJob::turn);
@@ -165,6 +164,10 @@ void SaveJob::endKept() {
 void SaveJob::endTrack(SaveOutcome::End end) {
     m_sink.reset();
     m_outcome.end = end;
+    // A layout shows less than the cameras hold.
+    if (end == SaveOutcome::Saved && !track().isLayout) {
+        track().sources.front().noteSaved();
+    }
     // A video is there as a whole, or not at all.
     if (m_orders.format.isVideo() && end != SaveOutcome::Saved && end != SaveOutcome::CameraLost) {
         m_outcome.saved = 0;

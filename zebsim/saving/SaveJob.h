@@ -1,12 +1,12 @@
 #pragma once
 
 #include "saving/FileClaims.h"
-#include "saving/LastShoot.h"
 #include "saving/SaveFormat.h"
 #include "saving/SaveTrack.h"
 #include "saving/VideoEncoder.h"
 
 #include <QObject>
+#include <QStringList>
 #include <QTimer>
 
 #include <optional>
@@ -22,8 +22,8 @@ struct SaveOrders {
     /// Asks about a file that is there already.
     std::function<Overwrite(const QString& file)> ask;
     VideoEncoder encoder = {};
-    /// What can't be saved, for the list of results.
-    QList<AbsentCamera> absent = {};
+    /// What can't be saved, a line each for the list of results.
+    QStringList absent = {};
 };
 
 /// Why a save can't begin.
@@ -35,8 +35,8 @@ struct SaveRefusal {
 
 /// What became of a camera, or of a layout.
 struct SaveOutcome {
-    /// The last two: the camera was not there when the save began.
-    enum End { Saved, CameraLost, FileFailed, Skipped, Cancelled, Gone, Disconnected };
+    /// The last: there was nothing to be had when the save began, and `reason` says all.
+    enum End { Saved, CameraLost, FileFailed, Skipped, Cancelled, Absent };
 
     QString name;
     End end = Saved;

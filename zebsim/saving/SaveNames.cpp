@@ -2,7 +2,6 @@
 
 #include <QDir>
 #include <QRegularExpression>
-#include <QSet>
 
 namespace {
 
@@ -21,21 +20,6 @@ QString fileNameOf(const QString& name) {
         clean.chop(clean.at(clean.size() - 1).isLowSurrogate() ? 2 : 1);
     }
     return clean.isEmpty() ? QStringLiteral("camera") : clean;
-}
-
-QStringList distinctFileNames(const QStringList& names) {
-    QSet<QString> taken;
-    QStringList distinct;
-    for (const QString& name : names) {
-        const QString plain = fileNameOf(name);
-        QString wanted = plain;
-        for (int number = 2; taken.contains(wanted.toCaseFolded()); ++number) {
-            wanted = plain % QStringLiteral("-%1").arg(number);
-        }
-        taken.insert(wanted.toCaseFolded());
-        distinct.append(wanted);
-    }
-    return distinct;
 }
 
 QString newSubfolder(const QString& folder, const QDateTime& time) {

@@ -3,9 +3,18 @@
 #include "camera/Camera.h"
 #include "camera/CameraError.h"
 #include "host/CameraBank.h"
+#include "saving/FileNames.h"
 
-SaveSource::SaveSource(std::shared_ptr<const Camera> camera, const Recording& recording)
-    : m_camera(std::move(camera)), m_key(m_camera->key()), m_state(m_camera->state()), m_recording(recording) {}
+#include <utility>
+
+SaveSource::SaveSource(std::shared_ptr<Camera> camera, const Recording& recording, QString name, QString fileName)
+    : m_camera(std::move(camera)),
+      m_key(m_camera->key()),
+      m_state(m_camera->state()),
+      m_recording(recording),
+      m_fileName(std::move(fileName)) {
+    m_state.name = std::move(name);
+}
 
 CameraFrame SaveSource::frame(int index) const {
     return CameraFrame::recorded(m_state, m_recording, m_recording.selectedFirst + index);
@@ -24,12 +33,23 @@ void SaveSource::read(const CameraBank& cameras, int index) const {
     }
 }
 
-SaveSources saveSources(const CameraBank& cameras) {
+void SaveSource::noteSaved() const {
+    m_camera->noteSaved(m_recording);
+}
+
+SaveSources saveSources(const CameraBank& cameras, FileNames& names) {
+    const std::vector<Camera*> known = cameras.known();
+    QList<NamedCamera> named;
+    for (const Camera* camera : known) {
+        named.append({camera->name(), camera->address()});
+    }
+    const QStringList fileNames = names.of(named);
     SaveSources sources;
-    for (const Camera* listed : cameras.all()) {
-        const auto recording = listed->recording();
-        if (recording && listed->get(&CameraState::connected)) {
-            sources.emplace_back(cameras.hold(listed->key()), *recording);
+    for (std::size_t i = 0; i < known.size(); ++i) {
+        const auto camera = cameras.hold(known[i]->key());
+        const auto recording = known[i]->recording();
+        if (camera && recording && camera->get(&CameraState::connected)) {
+            sources.emplace_back(camera, *recording, cameras.labelOf(*camera), fileNames.at(int(i)));
         }
     }
     return sources;

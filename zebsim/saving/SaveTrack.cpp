@@ -67,14 +67,9 @@ QImage SaveTrack::picture(int index, const QSet<DOCKEY>& lost) const {
 }
 
 std::vector<SaveTrack> tracksOfEach(const SaveSources& sources) {
-    QStringList names;
-    for (const SaveSource& source : sources) {
-        names.append(source.name());
-    }
-    const QStringList fileNames = distinctFileNames(names);
     std::vector<SaveTrack> tracks;
-    for (std::size_t i = 0; i < sources.size(); ++i) {
-        tracks.push_back({names.at(int(i)), fileNames.at(int(i)), false, {sources[i]}});
+    for (const SaveSource& source : sources) {
+        tracks.push_back({source.name(), source.fileName(), false, {source}});
     }
     return tracks;
 }

@@ -7,7 +7,7 @@
 
 /// A row of pictures to be saved: the frames of one camera, or of several side by side.
 struct SaveTrack {
-    /// The camera's name, or what the layout is called; and the part of it that stands in the names of files.
+    /// The camera's name, or what the layout is called; and the first part of its files' names.
     QString name;
     QString fileName;
     bool isLayout = false;
