@@ -1,6 +1,7 @@
 #include "DOC_Control.h"
 #include "DOC_Frames.h"
 #include "DOC_Interface.h"
+#include "FullDisk.h"
 #include "image/FramePicture.h"
 #include "saving/FileNames.h"
 #include "saving/LastShoot.h"
@@ -226,6 +227,23 @@ TEST_F(Saving, GoesOnAfterAFileThatCannotBeWritten) {
     EXPECT_EQ(run(orders()), QStringList({"Gate: 1 of 2 up to -1, failed", NozzleSaved}));
     EXPECT_EQ(failedFile, "Gate_00000.png");
     EXPECT_EQ(files().size(), 4);
+}
+
+TEST_F(Saving, LeavesOldPicturesWholeOnAFullDisk) {
+    writeOld(AllFiles[1]);
+    {
+        const FullDisk disk(100);
+        EXPECT_EQ(run(orders()), QStringList({"Gate: 0 of 2 up to 0, failed", "Nozzle/2: 0 of 3 up to 0, failed"}));
+        EXPECT_FALSE(reason.isEmpty());
+        host.camera(1).set(&CameraState::selectedRange, {100, 100});
+        run(orders());
+    }
+    EXPECT_EQ(asked, QStringList(AllFiles[1]));
+    EXPECT_TRUE(isOld(AllFiles[1]));
+    EXPECT_EQ(files(), QStringList(AllFiles[1])) << "and nothing half done beside them";
+    EXPECT_FALSE(host.camera(1).recording()->saved);
+    run(orders());
+    EXPECT_TRUE(host.camera(1).recording()->saved);
 }
 
 TEST_F(Saving, LosesACameraAtAnyFrameAndNoOther) {

@@ -1,9 +1,22 @@
 #include "saving/PictureSink.h"
 
+#include "WholeFile.h"
 #include "saving/FileClaims.h"
 #include "saving/FileError.h"
 
-#include <QSaveFile>
+namespace {
+
+void writeWhole(const QString& file, const QByteArray& bytes) {
+    if (bytes.isEmpty()) {
+        throw FileError(file, QStringLiteral("the picture has no such form"));
+    }
+    const QString reason = writeWholeFile(file, bytes);
+    if (!reason.isEmpty()) {
+        throw FileError(file, reason);
+    }
+}
+
+}  // namespace
 
 PictureSink::PictureSink(FileClaims& claims, SaveFormat format, QString stem)
     : m_claims(claims), m_format(std::move(format)), m_stem(std::move(stem)) {}
@@ -14,21 +27,11 @@ bool PictureSink::write(const QImage& picture, const QString& number) {
         return false;
     }
     try {
-        replaceFile(file, m_format.encoded(picture));
+        writeWhole(file, m_format.encoded(picture));
     } catch (...) {
         m_claims.release();
         throw;
     }
     m_claims.keep();
     return true;
-}
-
-void replaceFile(const QString& file, const QByteArray& bytes) {
-    if (bytes.isEmpty()) {
-        throw FileError(file, QStringLiteral("the picture has no such form"));
-    }
-    QSaveFile target(file);
-    if (!target.open(QIODevice::WriteOnly) || target.write(bytes) != bytes.size() || !target.commit()) {
-        throw FileError(file, target.errorString());
-    }
 }

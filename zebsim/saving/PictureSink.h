@@ -18,6 +18,3 @@ private:
     const SaveFormat m_format;
     const QString m_stem;
 };
-
-/// Puts `bytes` in the place of `file` all at once. Throws `FileError`.
-void replaceFile(const QString& file, const QByteArray& bytes);
