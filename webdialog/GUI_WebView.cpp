@@ -2,6 +2,10 @@
 
 #include "GUI_WebPage.h"
 
+#include <QFocusEvent>
+#include <QWebElement>
+#include <QWebFrame>
+
 GUI_WebView::GUI_WebView(ZebHost* host, QWidget* parent) : QWebView(parent), m_page(new GUI_WebPage(host, this)) {
     setPage(m_page);
     setContextMenuPolicy(Qt::NoContextMenu);
@@ -12,6 +16,13 @@ GUI_WebView::~GUI_WebView() {
     if (!m_inspector) return;
     m_inspector->close();
     delete m_inspector;
+}
+
+void GUI_WebView::focusOutEvent(QFocusEvent* event) {
+    const bool windowIsLeft = event->reason() == Qt::ActiveWindowFocusReason || event->reason() == Qt::PopupFocusReason;
+    QWebFrame& frame = *page()->mainFrame();
+    if (!windowIsLeft) frame.findFirstElement(QStringLiteral(":focus")).evaluateJavaScript(QStringLiteral("this.blur()"));
+    QWebView::focusOutEvent(event);
 }
 
 void GUI_WebView::showCustomContextMenu(QPoint pos) {

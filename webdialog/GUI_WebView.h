@@ -7,6 +7,9 @@ class GUI_WebPage;
 class ZebHost;
 
 /// The view of a page: no context menu of its own, nothing can be dropped on it. GUI thread.
+///
+/// When the keyboard goes to another place of its window, or nowhere, its page's element loses the focus for good, as
+/// when the user goes on to another element. When the window is left for another one, the element keeps it.
 class GUI_WebView : public QWebView {
     Q_OBJECT
 
@@ -19,6 +22,9 @@ public Q_SLOTS:
     void showCustomContextMenu(QPoint pos);
     /// Opens the web inspector, if there is one.
     void execWebInspector();
+
+protected:
+    void focusOutEvent(QFocusEvent* event) override;
 
 private:
     GUI_WebPage* const m_page;

@@ -21,6 +21,8 @@ class ZebHost;
 /// and other slots inside it; those that change cameras or the host, or open a window, are refused there.
 class JS_Mediator : public PageBridge {
     Q_OBJECT
+    /// For the page: while a call runs, another one that changes something is refused.
+    Q_PROPERTY(bool inCall READ isInCall)
 
 public:
     /// `host` is not owned and outlives the bridge. `name` is how the page knows the bridge.

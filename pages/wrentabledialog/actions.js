@@ -62,8 +62,15 @@ function placeUnder(view, element, selector) {
     return row ? { row, cell: row.cellOf(element) } : null;
 }
 
+// The button that went down on a number box is still to choose a place in the text, until it is released.
 function onGridFocus(view, event) {
-    const number = numberBoxUnder(view, event.target);
+    if (!wrentabledialog_obj.isCursorDown) {
+        holdNumber(view, event.target);
+    }
+}
+
+function holdNumber(view, element) {
+    const number = numberBoxUnder(view, element);
     if (number) {
         numberBox.hold(view, number.row, number.cell);
     }
@@ -71,19 +78,16 @@ function onGridFocus(view, event) {
 
 // The widget has heard of it by then, and has handed out what was typed.
 function onGridBlur(event) {
-    if (isNumberBox(event.target)) {
+    if (numberBox.isInput(event.target) && !numberBox.isLeftByWindow()) {
+        numberBox.finish();
         numberBox.drop();
     }
 }
 
 function onGridInput(event) {
-    if (isNumberBox(event.target)) {
-        numberBox.held.typed = true;
+    if (numberBox.isInput(event.target)) {
+        numberBox.typed();
     }
-}
-
-function isNumberBox(element) {
-    return numberBox.held !== null && numberBox.held.cell.parts.input === element;
 }
 
 function onGridChange(view, event) {
@@ -148,7 +152,8 @@ function onGridKey(view, event) {
         lowLightSlider.hold(view, slider.row, slider.cell, false);
         return;
     }
-    if (isNumberBox(event.target)) {
+    holdNumber(view, event.target);
+    if (numberBox.isInput(event.target)) {
         onNumberKey(event);
         return;
     }
@@ -164,7 +169,7 @@ function onGridKey(view, event) {
 // The widget does the rest. The engine takes Escape for a letter, so that the box would count as typed in once more.
 function onNumberKey(event) {
     if (event.keyCode === 13) {
-        numberBox.settle();
+        numberBox.finish();
     } else if (event.keyCode === 27) {
         event.preventDefault();
         numberBox.revert();

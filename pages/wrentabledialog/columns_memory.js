@@ -59,9 +59,13 @@ function spinnerColumn(options) {
                 }
             }
         },
+        // A camera that is silent for a moment leaves the draft to the box that comes back.
         leave(cell) {
             if (numberBox.isHeld(cell)) {
                 numberBox.drop();
+            }
+            if (cell.isRead) {
+                numberBox.giveUp((draft, id) => id === cell.parts.input.id);
             }
         }
     };

@@ -6,6 +6,7 @@ Object.assign(wrentabledialog_obj, {
     },
 
     close() {
+        numberBox.giveUpAll();
         wrentabledialog.onClose();
     },
 
@@ -20,6 +21,7 @@ Object.assign(wrentabledialog_obj, {
 
     updateCommon(isAuto) {
         let automatic = isAuto;
+        numberBox.sendDue();
         if (wrentabledialog.isLiveMode()) {
             this.showRecStatus();
         }

@@ -68,6 +68,7 @@ Object.assign(wrentabledialog_obj, {
     },
 
     lockGrids() {
+        numberBox.giveUpAll();
         this.activeGrid().clear();
         this.activeGrid().lock('');
         this.gridLock = true;

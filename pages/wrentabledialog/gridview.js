@@ -1,6 +1,5 @@
 // What a grid has on the screen. w2ui gives the frame, the header and the selection; the rows are drawn here, and
 // only those that can be seen, so that a table of a thousand cameras costs what one of thirty does.
-const OVERSCAN = 4; // rows drawn beyond each edge, against a glimpse of nothing while scrolling
 
 class GridView {
     constructor(grid, tab, onScroll) {
@@ -18,6 +17,7 @@ class GridView {
         this.height = 0; // of the visible part, in pixels
         this.held = 0; // while above 0, w2ui's refresh waits
         this.owed = false;
+        this.focusedKey = null; // of the row that had the keyboard, while its frame is exchanged
         this.override();
     }
 
@@ -33,7 +33,7 @@ class GridView {
     frameMarkup() {
         const spacer = place => `<tr line="${place}"><td colspan="200" style="padding: 0; border: 0"></td></tr>`;
         const height = this.grid.records.length * this.grid.recordHeight;
-        return `<table>${this.grid.getRecordHTML(-1, 0)}${spacer('top')}${spacer('bottom')}</table>`
+        return `<table>${this.grid.getRecordHTML(-1, 0)}${['top', 'gap', 'bottom'].map(spacer).join('')}</table>`
             .replace('line="bottom"', `line="bottom" style="height: ${height}px"`);
     }
 
@@ -53,25 +53,36 @@ class GridView {
         }
         this.onScroll(); // w2ui takes the widgets of its markup away, so what is held is let go before
         const { scrollTop, scrollLeft } = this.grid.last;
-        const focus = document.activeElement;
-        const key = focus && focus.getAttribute('dockey');
-        const typeOn = numberBox.pause();
+        const focus = document.activeElement || document.body;
+        const { id } = focus;
+        const key = focus.getAttribute('dockey');
+        const caret = caretOf(focus);
+        this.focusedKey = this.keyWithFocus();
+        numberBox.drop();
         const took = draw();
         this.grid.last.scrollTop = scrollTop;
         this.grid.last.scrollLeft = scrollLeft;
         this.mount();
-        this.focus(focus, key);
-        typeOn();
+        this.focusedKey = null;
+        // Other columns bring other elements.
+        this.focus(this.grid.box.contains(focus) ? focus : document.getElementById(id), key, caret);
         return took;
     }
 
     // The keyboard follows its camera's row into the new frame.
-    focus(element, key) {
-        if (this.box && element && element !== document.activeElement && this.grid.box.contains(element) &&
+    focus(element, key, caret) {
+        if (this.box && key && element && element !== document.activeElement && this.grid.box.contains(element) &&
             element.getAttribute('dockey') === key) {
             element.focus();
+            placeCaret(element, caret);
             this.box.scrollTop = this.grid.last.scrollTop;
         }
+    }
+
+    // The key of the camera whose row has the keyboard; null when none has.
+    keyWithFocus() {
+        const row = this.rows.find(other => other.element.contains(document.activeElement));
+        return row ? row.key : null;
     }
 
     // Runs changes of columns, each of which w2ui would answer with a refresh, and refreshes once.
@@ -102,6 +113,7 @@ class GridView {
         }
         this.body = this.box.querySelector('tbody');
         this.top = this.body.querySelector('tr[line="top"]');
+        this.gap = this.body.querySelector('tr[line="gap"]');
         this.bottom = this.body.querySelector('tr[line="bottom"]');
         this.height = this.box.clientHeight;
         this.box.scrollTop = this.grid.last.scrollTop;
@@ -178,25 +190,14 @@ class GridView {
         this.draw(false);
     }
 
-    // The lines to draw, counted from 0, the last one not included.
-    range() {
-        const total = this.grid.records.length;
-        const rowHeight = this.grid.recordHeight;
-        const count = Math.min(total, Math.ceil(this.height / rowHeight) + 1 + 2 * OVERSCAN);
-        const first = Math.floor(this.grid.last.scrollTop / rowHeight) - OVERSCAN;
-        const start = Math.max(0, Math.min(first, total - count));
-        return { start, end: this.height > 0 ? start + count : start };
-    }
-
     // Puts a row on each line of the range. `full` draws all of them anew, else only those that come into view. A row
     // stays with its camera as long as that is in view, wherever it moves to.
     draw(full) {
         if (!this.status) {
             return;
         }
-        const { start, end } = this.range();
-        const records = this.grid.records.slice(start, end);
-        const keys = new Set(records.map(record => record.key));
+        const lines = linesToDraw(this);
+        const keys = new Set(lines.map(line => this.grid.records[line].key));
         const drawn = new Map();
         this.rows.forEach(row => {
             if (keys.has(row.key)) {
@@ -205,20 +206,24 @@ class GridView {
                 this.putAway(row);
             }
         });
-        this.rows = records.map((record, index) => {
+        this.rows = lines.map(line => {
+            const record = this.grid.records[line];
             const known = drawn.get(record.key);
             const row = known || this.spare.pop() || new DrawnRow(this.grid, this.tab);
-            row.index = start + index;
+            row.index = line;
             if (full || !known) {
                 this.rebuildRow(row, record);
             }
             return row;
         });
-        this.place(start, end);
+        placeRows(this);
         this.showSelection();
     }
 
     putAway(row) {
+        if (numberBox.isIn(row)) {
+            numberBox.drop();
+        }
         row.blur();
         row.element.parentNode.removeChild(row.element);
         this.spare.push(row);
@@ -230,20 +235,6 @@ class GridView {
         if (this.newest.get(record.key) !== record) {
             this.tickRow(row);
         }
-    }
-
-    place(start, end) {
-        let next = this.top.nextSibling;
-        this.rows.forEach(row => {
-            if (row.element === next) {
-                next = next.nextSibling;
-            } else {
-                this.body.insertBefore(row.element, next);
-            }
-        });
-        const rowHeight = this.grid.recordHeight;
-        setStyle(this.top, 'height', `${start * rowHeight}px`);
-        setStyle(this.bottom, 'height', `${(this.grid.records.length - end) * rowHeight}px`);
     }
 
     drawBatch() {
@@ -278,16 +269,4 @@ class GridView {
         const tr = element.closest('tr[recid]');
         return tr && (this.batch && this.batch.element === tr ? this.batch : this.rows.find(row => row.element === tr));
     }
-}
-
-// The places of the records that have one of the keys. This and its like run over every camera at every refresh, and
-// iterators are slow in this engine.
-function indexesOf(records, keys) {
-    const indexes = [];
-    for (let index = 0; keys.size > 0 && index < records.length; index++) {
-        if (keys.has(records[index].key)) {
-            indexes.push(index);
-        }
-    }
-    return indexes;
 }

@@ -14,6 +14,7 @@ Object.assign(wrentabledialog_obj, {
         view.setNewest(data.records, data.batch);
         if (!autoUpdate) {
             this.closeFloating();
+            numberBox.giveUp(draft => !isBatch(draft) && !view.newest.has(draft.key));
             this.refreshRecords_w2ui(data.records, data.batch, view.grid);
         }
         this.refreshSelectedRecords(data.records, view.grid);

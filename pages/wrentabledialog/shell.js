@@ -25,7 +25,10 @@ Object.assign(wrentabledialog_obj, {
             position: { my: 'center top', at: 'center bottom' }
         });
         zeb4func.enableUserOperationLog(wrentabledialog, '#wren-root-block');
-        document.addEventListener('mouseup', () => this.endDrag(), true);
+        document.addEventListener('mouseup', () => {
+            this.endDrag();
+            holdNumber(viewAt(this.activeTab()), document.activeElement);
+        }, true);
         // A message box keeps the release for itself.
         window.addEventListener('blur', () => this.endDrag());
     },
@@ -77,7 +80,7 @@ Object.assign(wrentabledialog_obj, {
         this.disableTabs(true);
         this.preventSelect = false;
         this.closeFloating();
-        numberBox.letGo();
+        numberBox.giveUpAll();
         if (TABS[number].memory) {
             this.activeMemoryTabNumber = number;
             if (wrentabledialog.isLiveMode()) {

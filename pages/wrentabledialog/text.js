@@ -68,6 +68,11 @@ function logged(action) {
     }
 }
 
+// A line in the log for what the user did that came to nothing.
+function logUnused(how, control, id, value) {
+    wrentabledialog.userOperationLogWebView(document.URL, how, control, id, '', value);
+}
+
 // Anything can be thrown, null too.
 function textOfError(error) {
     return error && error.message ? error.message : String(error);

@@ -1,8 +1,12 @@
 #include "TablePage.h"
 
+#include <QApplication>
 #include <QDialog>
 #include <QTest>
 #include <QTimer>
+#include <QWebView>
+
+#include <gmock/gmock.h>
 
 // The frame numbers of the memory tab, typed and stepped.
 
@@ -39,6 +43,11 @@ protected:
 
     /// The calls of the bridge that `work` and the update after it make.
     QStringList sent(const std::function<void()>& work) { return page.made("^set", work); }
+    /// How a box shows that what stands in it is not the camera's number.
+    QString mark(const QString& number) {
+        return page.text(
+            QString("(document.querySelector('%1').className.match(/wren-\\w+/g) || []).join()").arg(number));
+    }
     QString shown(const QString& number) { return page.text(QString("$('%1').val()").arg(number)); }
     /// What a camera keeps, as "first to last".
     QString kept(DOCKEY key) {
@@ -52,6 +61,17 @@ protected:
         page.click(number);
         page.run(QString("$('%1')[0].select(); return 0").arg(number));
         page.type(text);
+    }
+    /// Another window is the active one for a moment.
+    void leaveWindow() {
+        QDialog other(&page.window());
+        QTimer::singleShot(0, &other, [&other] {
+            EXPECT_TRUE(QTest::qWaitForWindowActive(&other));
+            other.accept();
+        });
+        other.exec();
+        page.window().activateWindow();
+        EXPECT_TRUE(QTest::qWaitFor([] { return QApplication::focusWidget() != nullptr; }));
     }
     /// From here on `repeats` counts the arrows that are about to go on.
     void watchRepeats() {
@@ -143,7 +163,9 @@ TEST_F(PageNumbers, GoOutWhenTheirTextIsFinished) {
              {End, "499.9\n", {"setSelectEndFrameNo 1 499"}, "499"},
              {Offset, "-20\n", {"setTriggerOffset 1 -20"}, "-20"},
              {Offset, "0\n", {"setTriggerOffset 1 0"}, "0"},
-             {Offset, "some\n", {}, "0"},
+             {End, "5-400\n", {}, "5-400"},
+             {Offset, "some\t", {}, "some"},
+             {Offset, "12 13\x1b", {}, "0"},
              {Offset, "\t", {}, "0"},
              {Offset, "7\x1b\t", {}, "0"},
          }) {
@@ -151,23 +173,76 @@ TEST_F(PageNumbers, GoOutWhenTheirTextIsFinished) {
         EXPECT_EQ(sent([&] { type(box(c.word, "1"), c.text); }), c.calls);
         page.tick();
         EXPECT_EQ(shown(box(c.word, "1")), c.answer);
+        bool isNumber = false;
+        c.answer.toInt(&isNumber);
+        EXPECT_EQ(mark(box(c.word, "1")), isNumber ? "" : "wren-wrong");
     }
     EXPECT_EQ(kept(1), "900 to 1099");
 }
 
+/// What was entered goes out, and nothing else does.
 TEST_F(PageNumbers, KeepWhatIsBeingTyped) {
+    struct Case {
+        const char* what;
+        std::function<void()> happens;
+    };
+    const auto inReverse = [&](const char* run) {
+        page.run(QString("const fetch = wrentabledialog_obj.fetchRecords;"
+                         "wrentabledialog_obj.fetchRecords = function (tab) {"
+                         "    const data = JSON.parse(JSON.stringify(fetch.call(this, tab)));"
+                         "    data.records.reverse().forEach((record, index) => { record.recid = index + 1; });"
+                         "    return data; };"
+                         "%1; wrentabledialog_obj.fetchRecords = fetch; return 0")
+                     .arg(run));
+    };
     const QString end = box(End, "1");
-    type(end, "-1");
-    EXPECT_EQ(sent([&] { page.tick(); }), QStringList());
-    EXPECT_EQ(shown(end), "-1");
-    page.update();
-    EXPECT_EQ(shown(end), "-1") << "an update";
-    test.host.faults().plant(2, "*", {{}, 0, true});
-    page.update();
-    EXPECT_EQ(page.number("probe.grid().records.length"), 3) << "the frame of the table is a new one";
-    EXPECT_EQ(shown(end), "-1");
-    EXPECT_EQ(sent([&] { page.type("00\n"); }), QStringList("setSelectEndFrameNo 1 -100"));
-    EXPECT_EQ(kept(1), "200 to 500");
+    const auto comeBack = [&] {
+        page.run("const at = document.querySelector('" + end + "'); at.focus(), at.setSelectionRange(2, 2); return 0");
+    };
+    for (const Case& c : QList<Case>{
+             {"a tick", [&] { page.tick(); }},
+             {"an update", [&] { page.update(); }},
+             {"another order of the cameras", [&] { inReverse("wrentabledialog_obj.update()"); }},
+             {"a camera less",
+              [&] {
+                  test.host.faults().plant(2, "*", {{}, 0, true}), page.update();
+              }},
+             {"another order of the columns",
+              [&] {
+                  test.host.prefs().setValue("wren/column_order/memoryInfo", "cameraName,selectEndFrameNo");
+                  page.run("wrentabledialog_obj.autoUpdate(); return 0");
+              }},
+             {"its camera silent for a moment",
+              [&] {
+                  test.host.faults().plant(1, "getSelectEndFrame", Fault{"silent"}), page.tick();
+                  EXPECT_EQ(page.number("$('" + end + "').length"), 0);
+                  test.host.faults().plant(1, "getSelectEndFrame", Fault()), page.tick();
+                  test.desk.shown.clear();
+                  comeBack();
+              }},
+             {"a box", [&] { leaveWindow(); }},
+             {"the window minimised",
+              [&] { page.window().showMinimized(), leaveWindow(), page.window().showNormal(); }},
+             {"another plug-in",
+              [&] {
+                  for (const bool on : {true, false}) {
+                      test.host.flags().set("IsOtherPluginOpen", on), page.tick();
+                  }
+                  comeBack();
+              }},
+         }) {
+        SCOPED_TRACE(c.what);
+        EXPECT_EQ(sent([&] {
+                      type(end, "-10");
+                      page.key(Qt::Key_Left);
+                      c.happens();
+                  }),
+                  QStringList());
+        EXPECT_EQ(shown(end) + ' ' + mark(end), "-10 wren-typed");
+        EXPECT_EQ(sent([&] { page.type("5\n"); }), QStringList("setSelectEndFrameNo 1 -150")) << "where the caret was";
+        EXPECT_EQ(mark(end), "");
+    }
+    EXPECT_EQ(kept(1), "200 to 450");
 
     type(box(End, "-1"), "-");
     test.host.faults().plant(4, "*", {{}, 0, true});
@@ -175,6 +250,38 @@ TEST_F(PageNumbers, KeepWhatIsBeingTyped) {
     EXPECT_EQ(sent([&] { page.type("50\n"); }), QStringList("setSelectEndFrameNo 1,3 -50")) << "of the batch row too";
     EXPECT_EQ(kept(1), "200 to 550");
     EXPECT_EQ(kept(3), "0 to 450");
+}
+
+TEST_F(PageNumbers, GoOutWhenTheKeyboardIsTakenFromThePageOrWhenTheyMay) {
+    const QString end = box(End, "1");
+    type(end, "-100");
+    EXPECT_EQ(sent([&] { page.window().findChild<QWebView*>()->clearFocus(); }),
+              QStringList("setSelectEndFrameNo 1 -100"));
+    test.desk.whileStanding = [&] {
+        type(end, "-90\t");
+        EXPECT_EQ(mark(end), "wren-typed") << "under a question nothing is changed";
+        page.update();
+        EXPECT_EQ(shown(end) + ' ' + mark(end), "-90 wren-typed");
+        EXPECT_EQ(kept(1), "200 to 500");
+    };
+    page.run("wrentabledialog.confirm('Sure?')");
+    test.desk.shown.clear();
+    page.tick();
+    EXPECT_EQ(kept(1), "200 to 510");
+    page.settle();
+    EXPECT_EQ(mark(end), "");
+}
+
+TEST_F(PageNumbers, TakeTheCaretToWhereTheyAreClicked) {
+    const QString end = box(End, "1");  // 300, at the right end before the arrows
+    for (const bool again : {false, true}) {
+        page.pressAt(end, 0.85, 0.5);
+        page.release();
+        page.type("5");
+        EXPECT_EQ(shown(end), "3005") << again;
+        EXPECT_EQ(widgets(), 1);
+        page.key(Qt::Key_Escape);
+    }
 }
 
 TEST_F(PageNumbers, OfTheBatchRowGoToAllCamerasEachWithItsLimits) {
@@ -212,50 +319,52 @@ TEST_F(PageNumbers, ShowWhatTheCameraAnswers) {
 TEST_F(PageNumbers, SendNothingWhenTheyAreCutOff) {
     struct Case {
         const char* what;
-        std::function<void()> happens;
+        std::function<void(DOCKEY key)> happens;
     };
-    for (const Case& c : QList<Case>{
-             {"another plug-in", [&] { test.host.flags().set("IsOtherPluginOpen", true), page.tick(); }},
-             {"the camera gone quiet",
-              [&] {
-                  test.camera(1).change({{"connected", false}}), page.update();
-              }},
-             {"its frames erased",
-              [&] {
-                  test.camera(1).change({{"recorded", false}}), page.update();
-              }},
-             {"another mode", [&] { test.host.appStatus().enterMode(zeb::LiveMode), page.settle(); }},
-             {"file mode", [&] { test.host.appStatus().enterMode(zeb::FileMode), page.settle(); }},
-             {"an order of columns that was stored behind the page",
-              [&] {
-                  test.host.prefs().setValue(
-                      "wren/column_order/memoryInfo",
-                      "selectEndFrameNo,selectStartFrameNo,recordCheck,connectIcon,cameraName,alert,frameRate,"
-                      "originalStartFrameNo,originalEndFrameNo,totalFrame,triggerOffset");
-                  page.run("wrentabledialog_obj.autoUpdate(); return 0");
-              }},
-             {"the camera gone",
-              [&] {
-                  test.host.faults().plant(1, "*", {{}, 0, true}), page.update();
-              }},
-         }) {
-        SCOPED_TRACE(c.what);
-        test.host.flags().set("IsOtherPluginOpen", false);
-        test.camera(1).change({{"connected", true}, {"recorded", true}, {"selectedRange", QVariantList{200, 900}}});
+    const auto becomes = [&](const QVariantMap& values) {
+        return [this, values](DOCKEY key) { test.camera(key).change(values), page.update(); };
+    };
+    const auto enters = [&](zeb::OperatingMode mode) {
+        return [this, mode](DOCKEY) { test.host.appStatus().enterMode(mode), page.settle(); };
+    };
+    const auto begin = [&](DOCKEY key) {
+        test.camera(key).change({{"connected", true}, {"recorded", true}, {"selectedRange", QVariantList{200, 900}}});
         test.host.appStatus().enterMode(zeb::MemoryMode);
         page.settle();
         page.update();
         EXPECT_TRUE(page.until("$('link.replaced, .w2ui-lock').length === 0")) << "what covers the rows fades out";
+    };
+    for (const Case& c : QList<Case>{
+             {"the camera gone quiet", becomes({{"connected", false}})},
+             {"its frames erased", becomes({{"recorded", false}})},
+             {"another mode", enters(zeb::LiveMode)},
+             {"file mode", enters(zeb::FileMode)},
+             {"the camera gone",
+              [&](DOCKEY key) {
+                  test.host.faults().plant(key, "*", {{}, 0, true}), page.update();
+              }},
+         }) {
+        SCOPED_TRACE(c.what);
+        begin(1);
         watchRepeats();
         const QStringList calls = sent([&] {
             pressArrow(box(Start, "1"), true);
             EXPECT_EQ(repeats(), 1) << "the arrow is about to go on";
-            c.happens();
+            c.happens(1);
             EXPECT_EQ(widgets(), 0);
             EXPECT_EQ(repeats(), 0);
             page.releaseOutside();
         });
         EXPECT_EQ(calls, QStringList("setSelectStartFrameNo 1 -399"));
+
+        begin(3);
+        const QStringList typed = page.made("^set|^userOperationLog", [&] {
+            type(box(Start, "3"), "-35");
+            c.happens(3);
+        });
+        EXPECT_EQ(typed.filter("setSelect"), QStringList());
+        EXPECT_THAT(typed.join('\n').toStdString(),
+                    testing::HasSubstr("not sent TextBox wren_spinner_select_start_frameno3  -35"));
     }
 }
 
@@ -267,12 +376,7 @@ TEST_F(PageNumbers, StandStillAfterAMessage) {
         int beforeIt = -1;
         test.desk.whileStanding = [&] {
             beforeIt = repeats();
-            QDialog box(&page.window());
-            QTimer::singleShot(0, &box, [&box] {
-                EXPECT_TRUE(QTest::qWaitForWindowActive(&box));
-                box.accept();
-            });
-            box.exec();
+            leaveWindow();
         };
         const QStringList calls = sent([&] { pressArrow(number, true); });
         EXPECT_EQ(test.desk.texts().size(), 1);
@@ -294,23 +398,30 @@ TEST_F(PageNumbers, StandStillAfterAMessage) {
         << "of its own step";
 }
 
-TEST(PageNumber, ThatWasTypedGoesToItsCameraWhenItIsScrolledAway) {
+TEST(PageNumber, ThatIsBeingTypedStaysWithItsRowWhenThatIsScrolledAway) {
     TestHost test(connected(60));
     test.host.appStatus().enterMode(zeb::MemoryMode);
     for (Camera* camera : test.host.cameras().all()) {
         camera->change({{"recorded", true}, {"recordedRange", QVariantList{0, 99}}});
     }
     TablePage page(test, 5);
-    page.click(box(Start, "3"));
+    const QString start = box(Start, "3");
+    page.pressAt(start, 0.85, 0.5);
+    page.release();
     page.type("1");
-    page.number("probe.scrollTo(100000)");
-    page.settle();
-    for (const Camera* camera : test.host.cameras().all()) {
-        EXPECT_EQ(camera->get(&CameraState::selectedRange).x(), camera->key() == 3 ? 10 : 0) << camera->key();
-    }
-    EXPECT_EQ(page.number("$('.ui-spinner').length"), 0);
-    page.number("probe.scrollTo(0)");
-    EXPECT_EQ(page.text("$('" + box(Start, "3") + "').val()"), "10");
+    const auto keys = [&page] { return page.list("probe.drawn().map(probe.keyOf)"); };
+    EXPECT_EQ(page.made("^set",
+                        [&] {
+                            EXPECT_GT(page.number("probe.scrollTo(100000)"), 0);
+                            page.update();
+                            EXPECT_EQ(keys().mid(0, 1) + keys().mid(keys().size() - 1), QStringList({"3", "60"}));
+                            EXPECT_EQ(page.number("$('tr[recid=60]')[0].offsetTop - $('tr[recid=3]')[0].offsetTop"),
+                                      57 * 34);
+                            page.number("probe.scrollTo(0)");
+                        }),
+              QStringList());
+    EXPECT_EQ(keys().mid(0, 4), QStringList({"1", "2", "3", "4"}));
+    EXPECT_EQ(page.made("^set", [&] { page.type("2\n"); }), QStringList("setSelectStartFrameNo 3 12"));
 }
 
 TEST(PageRecordCheck, OfSelectedCamerasOnly) {

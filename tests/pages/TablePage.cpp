@@ -1,6 +1,7 @@
 #include "TablePage.h"
 
 #include "HostPages.h"
+#include "KeyInput.h"
 #include "PageScript.h"
 #include "ScenarioError.h"
 

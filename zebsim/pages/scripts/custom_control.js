@@ -3,7 +3,8 @@
 // Number boxes with two arrows. `options.callback(value)` gets each new whole number. `spinnerRealtimeFire` hands out
 // every step of the arrows, `spinnerStopFire` the last one, when the arrow is let go. A number that was typed is handed
 // out when it is finished, by Enter or by leaving the box, even when it is the one that stood there before; it may lie
-// beyond `min` and `max`, which bound the arrows. What a script writes to the box is never handed out.
+// beyond `min` and `max`, which bound the arrows. A text that is no number is not handed out, and the arrows do not
+// count on from it; nor is leaving the window leaving the box. What a script writes to the box is never handed out.
 // `natural` true allows no number below zero; `decimal` true allows fractions.
 
 (function ($) {
@@ -23,7 +24,7 @@
                 return events.keydown.call(this, event);
             },
             blur: function (event) {
-                const stays = this.cancelBlur;
+                const stays = this.cancelBlur || document.activeElement === this.element[0];
                 events.blur.call(this, event);
                 if (!stays) {
                     this._finish();
@@ -38,10 +39,11 @@
         },
 
         _parse: function (value) {
-            const number = typeof value === 'number' ? value : parseFloat(String(value).replace(/,/g, ''));
-            if (isNaN(number)) {
+            const text = String(value).replace(/,/g, '').trim();
+            if (!/^[+-]?\d+(\.\d*)?$/.test(text)) {
                 return null;
             }
+            const number = Number(text);
             const whole = this.options.decimal ? number : Math.trunc(number);
             return this.options.natural ? Math.max(0, whole) : whole;
         },
@@ -54,14 +56,19 @@
 
         _fire: function () {
             const value = this.value();
-            this.typed = false;
-            if (value !== null && this.options.callback) {
-                this.options.callback.call(this.element[0], value);
+            if (value !== null) {
+                this.typed = false;
+                if (this.options.callback) {
+                    this.options.callback.call(this.element[0], value);
+                }
             }
         },
 
         _spin: function (step, event) {
             const before = this.value();
+            if (before === null) {
+                return;
+            }
             this._super(step, event);
             if (this.value() !== before) {
                 this._stepped();
