@@ -51,7 +51,7 @@ int measureHere(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication app(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
-    enlargeOffscreenScreen(QSize(1920, 1200));
+    setUpOffscreen(QSize(1920, 1200));
     initHostPages();
     const QJsonObject numbers = measure(QString::fromLocal8Bit(argv[1]), QByteArray(argv[2]).toInt());
     std::printf("%s\n", QJsonDocument(numbers).toJson(QJsonDocument::Compact).constData());

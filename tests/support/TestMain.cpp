@@ -8,6 +8,6 @@ int main(int argc, char** argv) {
     testing::InitGoogleMock(&argc, argv);
     QApplication app(argc, argv);
     app.setQuitOnLastWindowClosed(false);
-    enlargeOffscreenScreen(QSize(1920, 1200));
+    setUpOffscreen(QSize(1920, 1200));
     return RUN_ALL_TESTS();
 }

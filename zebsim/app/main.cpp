@@ -67,7 +67,7 @@ int main(int argc, char** argv) {
     const QApplication app(ownName, argv);
     qInstallMessageHandler(handler);
     QApplication::setQuitOnLastWindowClosed(false);
-    enlargeOffscreenScreen(QSize(1920, 1200));
+    setUpOffscreen(QSize(1920, 1200));
     initHostPages();
     try {
         Simulator simulator(line);
