@@ -57,17 +57,13 @@ bool hasOpenDialog(PLG_Interface* plugin) {
 HostKeys::HostKeys(SimHost& host, QToolBar& bar)
     : QObject(&bar),
       m_host(host),
-      m_record(bar.addAction(QString())),
+      m_record(bar, recordText(zeb::RecordLive), Qt::Key_F12, [this] { return recordRefusal(); }),
       m_cancel(bar.addAction(uiText("Cancel recording"))),
       m_disconnect(bar.addAction(uiText("Disconnect all"))) {
-    m_record->setObjectName(QStringLiteral("record"));
-    m_record->setShortcut(Qt::Key_F12);
-    // The table is a window of its own.
-    m_record->setShortcutContext(Qt::ApplicationShortcut);
-    m_record->setAutoRepeat(false);
+    m_record.action().setObjectName(QStringLiteral("record"));
     m_cancel->setObjectName(QStringLiteral("cancelRecording"));
     m_disconnect->setObjectName(QStringLiteral("disconnectAll"));
-    connect(m_record, &QAction::triggered, this, &HostKeys::record);
+    connect(&m_record, &BarKey::pressed, this, &HostKeys::record);
     connect(m_cancel, &QAction::triggered, this, [this] { m_host.recorder().cancel(); });
     connect(m_disconnect, &QAction::triggered, this, &HostKeys::disconnectAll);
     connect(&host.events(), &HostEvents::updateFinished, this, &HostKeys::refresh);
@@ -77,11 +73,15 @@ HostKeys::HostKeys(SimHost& host, QToolBar& bar)
 }
 
 void HostKeys::record() {
-    if (m_sinceRecord.isValid() && m_sinceRecord.elapsed() < QApplication::doubleClickInterval()) return;
+    if (m_sinceRecord.isValid() && m_sinceRecord.elapsed() < QApplication::doubleClickInterval()) {
+        m_record.refuse(uiText("It was pressed twice."));
+        return;
+    }
     SimRecorder& recorder = m_host.recorder();
     const int state = recorder.state();
     if (state != m_shownState) {
         refresh();
+        m_record.refuse(uiText("It has just changed."));
     } else if (!sendToActivePlugin(m_host.appStatus(), "signalRecord") && !isPluginInFront(m_host)) {
         recorder.press();
     }
@@ -107,14 +107,21 @@ void HostKeys::disconnectAll() {
     m_host.updates().request();
 }
 
+QString HostKeys::recordRefusal() const {
+    if (!m_host.isLiveMode()) return uiText("Cameras record in live mode.");
+    if (m_host.cameras().connected().empty()) return uiText("No camera is connected.");
+    const int state = m_host.recorder().state();
+    if (state == zeb::RecordCtsReady) return uiText("The cameras wait for their CTS signal.");
+    if (state == zeb::RecordError) return uiText("All cameras have failed; cancel the recording first.");
+    return {};
+}
+
 void HostKeys::refresh() {
     const int state = m_host.recorder().state();
     m_shownState = state;
-    const bool isLive = m_host.isLiveMode();
-    const bool hasCameras = !m_host.cameras().connected().empty();
-    m_record->setText(recordText(isLive ? state : int(zeb::RecordLive)));
-    m_record->setEnabled(isLive && hasCameras && state != zeb::RecordCtsReady && state != zeb::RecordError);
+    m_record.action().setText(recordText(m_host.isLiveMode() ? state : int(zeb::RecordLive)));
+    m_record.refresh();
     const auto cameras = m_host.cameras().connected();
     m_cancel->setEnabled(state != zeb::RecordLive || std::any_of(cameras.begin(), cameras.end(), isHeldUp));
-    m_disconnect->setEnabled(hasCameras);
+    m_disconnect->setEnabled(!cameras.empty());
 }

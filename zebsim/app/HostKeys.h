@@ -1,5 +1,7 @@
 #pragma once
 
+#include "BarKey.h"
+
 #include <QElapsedTimer>
 #include <QObject>
 
@@ -8,7 +10,8 @@ class QToolBar;
 class SimHost;
 
 /// The viewer's keys that work all cameras: record, cancel, disconnect. The record key means the table while that is
-/// the window in front. It does what it shows, once: a second press of a double one is no other.
+/// the window in front. It does what it shows, once, and shows that it does not: a second press of a double one is no
+/// other.
 class HostKeys : public QObject {
     Q_OBJECT
 
@@ -20,9 +23,10 @@ private:
     void record();
     void disconnectAll();
     void refresh();
+    QString recordRefusal() const;
 
     SimHost& m_host;
-    QAction* m_record;
+    BarKey m_record;
     QAction* m_cancel;
     QAction* m_disconnect;
     int m_shownState = 0;

@@ -1,9 +1,8 @@
 #pragma once
 
-#include <QObject>
+#include "BarKey.h"
 
 class AppDesk;
-class QAction;
 class QToolBar;
 class SimHost;
 
@@ -17,9 +16,10 @@ public:
     SaveKeys(SimHost& host, AppDesk& desk, QToolBar& bar);
 
 private:
+    QString refusal() const;
     void refresh();
 
     SimHost& m_host;
-    QAction* m_save;
-    QAction* m_layout;
+    BarKey m_save;
+    BarKey m_layout;
 };

@@ -1419,5 +1419,37 @@
         <source>Search in %1: no camera answers.</source>
         <translation>Search in %1: no camera answers.</translation>
     </message>
+    <message>
+        <source>%1: not done. %2</source>
+        <translation>%1: not done. %2</translation>
+    </message>
+    <message>
+        <source>It was pressed twice.</source>
+        <translation>It was pressed twice.</translation>
+    </message>
+    <message>
+        <source>It has just changed.</source>
+        <translation>It has just changed.</translation>
+    </message>
+    <message>
+        <source>Cameras record in live mode.</source>
+        <translation>Cameras record in live mode.</translation>
+    </message>
+    <message>
+        <source>No camera is connected.</source>
+        <translation>No camera is connected.</translation>
+    </message>
+    <message>
+        <source>The cameras wait for their CTS signal.</source>
+        <translation>The cameras wait for their CTS signal.</translation>
+    </message>
+    <message>
+        <source>All cameras have failed; cancel the recording first.</source>
+        <translation>All cameras have failed; cancel the recording first.</translation>
+    </message>
+    <message>
+        <source>Images are saved in memory mode.</source>
+        <translation>Images are saved in memory mode.</translation>
+    </message>
 </context>
 </TS>

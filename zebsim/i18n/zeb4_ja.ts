@@ -1419,5 +1419,37 @@
         <source>Search in %1: no camera answers.</source>
         <translation>%1 の検索: 応答するカメラがありません。</translation>
     </message>
+    <message>
+        <source>%1: not done. %2</source>
+        <translation>%1: 実行されませんでした。%2</translation>
+    </message>
+    <message>
+        <source>It was pressed twice.</source>
+        <translation>2 回押されました。</translation>
+    </message>
+    <message>
+        <source>It has just changed.</source>
+        <translation>状態が変わった直後です。</translation>
+    </message>
+    <message>
+        <source>Cameras record in live mode.</source>
+        <translation>撮影はライブモードで行います。</translation>
+    </message>
+    <message>
+        <source>No camera is connected.</source>
+        <translation>カメラが接続されていません。</translation>
+    </message>
+    <message>
+        <source>The cameras wait for their CTS signal.</source>
+        <translation>カメラは CTS 信号を待っています。</translation>
+    </message>
+    <message>
+        <source>All cameras have failed; cancel the recording first.</source>
+        <translation>すべてのカメラが失敗しました。先に撮影をキャンセルしてください。</translation>
+    </message>
+    <message>
+        <source>Images are saved in memory mode.</source>
+        <translation>画像はメモリモードで保存します。</translation>
+    </message>
 </context>
 </TS>
