@@ -34,6 +34,7 @@ function listenToGrid(view) {
 // A click on a control ends here, so what closes on a click elsewhere is closed beforehand.
 function onGridPress(view, event) {
     wrentabledialog_obj.isCursorDown = true;
+    wrentabledialog_obj.beginPress(view, event);
     wrentabledialog_obj.closeFloating();
     document.getElementById('recordFilter').sumo.hideOpts();
     onGridMove(view, event);
@@ -118,7 +119,7 @@ function onGridClick(view, event) {
             wrentabledialog_obj.selectAll();
         }
     } else {
-        wrentabledialog_obj.gesture(() => view.grid.click(row.recid, event));
+        view.grid.click(row.recid, event);
     }
 }
 

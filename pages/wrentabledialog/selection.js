@@ -4,7 +4,7 @@ Object.assign(wrentabledialog_obj, {
     refreshSelectedRecords(records, grid) {
         const view = viewOf(grid);
         const disabled = view.status.disabled;
-        if (!disabled && (this.RecordSelection || this.RecordUnSelection)) {
+        if (!disabled && (this.RecordSelection || this.RecordUnSelection || this.bandOf)) {
             return;
         }
         const selected = new Set();
@@ -18,7 +18,7 @@ Object.assign(wrentabledialog_obj, {
     onSelect(tab, event) {
         if (this.preventSelect) {
             event.preventDefault();
-        } else if (event.recid !== undefined) {
+        } else if (event.recid !== undefined && !this.bandOf) {
             this.handSelection([keyOf(tab, event.recid)], true);
             event.onComplete = () => this.selectionChanged();
         }
@@ -27,11 +27,13 @@ Object.assign(wrentabledialog_obj, {
     onUnselect(tab, event) {
         if (this.preventSelect) {
             event.preventDefault();
+        } else if (this.bandOf) {
+            return;
         } else if (event.recid !== undefined) {
             this.handSelection([keyOf(tab, event.recid)], false);
             event.onComplete = () => this.selectionChanged();
         } else {
-            event.onComplete = () => this.handSelection(this.droppedKeys(tab), false);
+            event.onComplete = () => this.handSelection(keysThatDiffer(viewAt(tab.number), false), false);
         }
     },
 
@@ -51,35 +53,19 @@ Object.assign(wrentabledialog_obj, {
         }
     },
 
-    // Rows that the back end has selected and the grid has not.
-    droppedKeys(tab) {
-        const view = viewAt(tab.number);
-        const kept = new Set(view.grid.last.selection.indexes);
-        return view.grid.records
-            .filter((record, index) => !kept.has(index) && (view.newest.get(record.key) || record).selected)
-            .map(record => record.key);
-    },
-
-    // One gesture of the user may select and unselect many rows; the rows are fetched once, at its end.
-    gesture(action) {
-        this.gestureOpen = true;
-        this.gestureChanged = false;
-        try {
-            action();
-        } finally {
-            this.gestureOpen = false;
-        }
-        if (this.gestureChanged) {
+    // Hands what a gesture of the user has made of the grid's selection to the back end, as one call for the rows that
+    // came and one for those that went, and fetches the rows once.
+    handGesture(view) {
+        const [came, went] = [keysThatDiffer(view, true), keysThatDiffer(view, false)];
+        this.handSelection(went, false);
+        this.handSelection(came, true);
+        if (came.length + went.length > 0) {
             this.selectionChanged();
         }
     },
 
     selectionChanged() {
-        if (this.gestureOpen) {
-            this.gestureChanged = true;
-        } else {
-            this.refreshRecords(this.activeTab(), false);
-        }
+        this.refreshRecords(this.activeTab(), false);
     },
 
     // Selects each connected row.
@@ -96,23 +82,49 @@ Object.assign(wrentabledialog_obj, {
         this.selectionChanged();
     },
 
-    // A click on a control, or on the one selected row itself, leaves the selection as it is.
+    // A click on a control leaves the selection as it is.
     clickRecordFunc(tab, event) {
         this.preventSelect = false;
-        const grid = viewAt(tab.number).grid;
-        const column = grid.columns[event.column];
-        const alone = grid.getSelection().length === 1 && String(grid.getSelection()[0]) === String(event.recid);
-        if (column && tab.still.includes(column.field) || alone && !event.originalEvent.ctrlKey) {
-            event.preventDefault();
-            return;
+        this.recordiconClick = false;
+        event.preventDefault();
+        const view = viewAt(tab.number);
+        const column = view.grid.columns[event.column];
+        if (!column || !tab.still.includes(column.field)) {
+            this.pickRow(view.grid, view.grid.get(event.recid, true), event.originalEvent);
+            this.handGesture(view);
         }
-        event.onComplete = () => {
-            this.preventSelect = false;
-            this.recordiconClick = false;
-        };
+    },
+
+    // With Shift the rows from the first selected one to this one join the selection, with Ctrl this one joins or
+    // leaves it; else it is this one alone.
+    pickRow(grid, line, event) {
+        const { selection } = grid.last;
+        const picked = new Set(selection.indexes);
+        if (event.shiftKey && picked.size > 0) {
+            const first = selection.indexes[0];
+            for (let index = Math.min(first, line); index <= Math.max(first, line); index++) {
+                picked.add(index);
+            }
+        } else if (!event.shiftKey && !event.ctrlKey && !event.metaKey) {
+            picked.clear();
+            picked.add(line);
+        } else if (!picked.delete(line)) {
+            picked.add(line);
+        }
+        selection.indexes = Array.from(picked).sort((a, b) => a - b);
+        viewOf(grid).showSelection();
     }
 });
 
 function keyOf(tab, recid) {
     return viewAt(tab.number).grid.get(recid).key;
+}
+
+// Rows that the grid has selected and the back end has not, or the other way round.
+function keysThatDiffer(view, on) {
+    const shown = new Set(view.grid.last.selection.indexes);
+    return view.grid.records
+        .filter((record, index) => shown.has(index) === on &&
+            Boolean((view.newest.get(record.key) || record).selected) !== on)
+        .map(record => record.key);
 }

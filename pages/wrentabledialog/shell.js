@@ -25,17 +25,13 @@ Object.assign(wrentabledialog_obj, {
             position: { my: 'center top', at: 'center bottom' }
         });
         zeb4func.enableUserOperationLog(wrentabledialog, '#wren-root-block');
-        document.addEventListener('mouseup', () => {
-            this.endDrag();
+        document.addEventListener('mousemove', event => this.movePress(event), true);
+        document.addEventListener('mouseup', event => {
+            this.releasePress(event);
             holdNumber(viewAt(this.activeTab()), document.activeElement);
         }, true);
         // A message box keeps the release for itself.
         window.addEventListener('blur', () => this.endDrag());
-    },
-
-    endDrag() {
-        this.isCursorDown = false;
-        this.preventSelect = false;
     },
 
     initializeAccordion() {

@@ -22,8 +22,8 @@ var wrentabledialog_obj = {
     isPressed: false, // a press on the record button is being worked, or has just been
     isStarting: false, // the call that arms the cameras runs, and may be asking the user
     isCtsReady: false, // the last record status was CTS ready
-    gestureOpen: false, // one gesture of the user selects and unselects; the rows are fetched at its end
-    gestureChanged: false, // it has
+    bandOf: null, // the view over which the user draws a rubber band; what it selects is handed on at its end
+    rowPress: null, // where the button went down on a row: its view, key and element
     lastReply: null, // of `getRecords`: its tab, its text and the data in it
     shownStyle: null, // style and mode that the style sheet was last put in for
     // What the control states make of tabs and colours; `armed` from ready on until the recording has ended.

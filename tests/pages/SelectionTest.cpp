@@ -28,10 +28,11 @@ TEST(PageSelection, StaysWithItsCameraWhenAnotherGoes) {
     EXPECT_EQ(camerasWith(test, &CameraState::selected), QStringList("4"));
 }
 
-TEST(PageSelection, TheNameOfTheBatchRowSelectsAllConnectedInOneCall) {
-    TestHost test(connected(100));
+TEST(PageSelection, OfManyRowsIsOneCall) {
+    constexpr int Cameras = 721;
+    TestHost test(connected(Cameras));
     QJsonArray keys;
-    for (int key = 1; key <= 100; ++key) {
+    for (int key = 1; key <= Cameras; ++key) {
         if (key == 3 || key == 90) {
             test.camera(DOCKEY(key)).set(&CameraState::connected, false);
         } else {
@@ -41,14 +42,27 @@ TEST(PageSelection, TheNameOfTheBatchRowSelectsAllConnectedInOneCall) {
     TablePage page(test);
     choose(test, {"7"});
     page.update();
-    page.run("probe.callsBegin(); return 0");
-    page.click("#grid_wren-cameraInfo-list_summary .wren_label_edit_camera_name");
-    const QJsonArray calls =
-        page.run("probe.callsEnd().filter(call => call[0] === 'select').map(call => call[1])").toArray();
-    EXPECT_EQ(calls, QJsonArray{QJsonValue(QJsonArray{QJsonValue(keys), true})});
-    EXPECT_EQ(camerasWith(test, &CameraState::selected).size(), 98);
+    const auto selects = [&page](const std::function<void()>& work) {
+        page.run("probe.callsBegin(); return 0");
+        work();
+        return page.run("probe.callsEnd().filter(call => call[0] === 'select').map(call => call[1])").toArray();
+    };
+    EXPECT_EQ(selects([&] { page.click("#grid_wren-cameraInfo-list_summary .wren_label_edit_camera_name"); }),
+              QJsonArray{QJsonValue(QJsonArray{QJsonValue(keys), true})})
+        << "the name of the batch row, all that are connected";
+    EXPECT_EQ(camerasWith(test, &CameraState::selected).size(), Cameras - 2);
     const QStringList shown = page.list("probe.selected()");
     EXPECT_TRUE(shown.contains("2") && !shown.contains("3")) << shown.join(" ").toStdString();
+
+    const QJsonArray one = selects([&] { page.click(row(1)); });
+    EXPECT_EQ(one.size(), 1);
+    EXPECT_EQ(one.first().toArray().first().toArray().size(), Cameras - 3) << "the others go";
+    const QJsonArray range = selects([&] {
+        page.number("probe.scrollTo(100000)");
+        page.click(row(Cameras), Qt::ShiftModifier);
+    });
+    EXPECT_EQ(range.size(), 1);
+    EXPECT_EQ(range.first().toArray().first().toArray().size(), Cameras - 1) << "those that come";
 }
 
 TEST(PageSelection, FollowsTheMouse) {
@@ -85,10 +99,35 @@ TEST(PageSelection, FollowsTheMouse) {
         EXPECT_EQ(camerasWith(test, &CameraState::selected), c.after);
         EXPECT_EQ(page.list("probe.selected()"), c.after);
     }
-    page.run(NoDoubleClick);
-    page.click(row(4));
-    page.click(row(2), Qt::ShiftModifier);
-    EXPECT_EQ(camerasWith(test, &CameraState::selected), QStringList({"2", "3", "4"})) << "a range with Shift";
+}
+
+TEST(PageSelection, TakesAClickOfAHandThatMovesForAClick) {
+    struct Case {
+        const char* what;
+        QStringList before;
+        Qt::KeyboardModifiers keys;
+        QStringList after;
+    };
+    TestHost test(connected(5));
+    TablePage page(test);
+    for (const Case& c : {
+             Case{"one of several", {"1", "2", "5"}, {}, {"2"}},
+             Case{"one more", {"4"}, Qt::ControlModifier, {"2", "4"}},
+             Case{"one less", {"2", "4"}, Qt::ControlModifier, {"4"}},
+             Case{"a range", {"4"}, Qt::ShiftModifier, {"2", "3", "4"}},
+             Case{"a longer range", {"3", "4"}, Qt::ShiftModifier, {"2", "3", "4"}},
+             Case{"with Alt", {"3", "4"}, Qt::AltModifier, {"3", "4"}},
+         }) {
+        for (const int pixels : {0, 3, 8, 14}) {
+            SCOPED_TRACE(std::string(c.what) + " " + std::to_string(pixels));
+            choose(test, c.before);
+            page.update();
+            page.run(NoDoubleClick);
+            page.clickMoving(row(2), pixels, c.keys);
+            EXPECT_EQ(camerasWith(test, &CameraState::selected), c.after);
+            EXPECT_EQ(page.list("probe.selected()"), c.after);
+        }
+    }
 }
 
 TEST(PageSelection, ARubberBandTakesTheRowsItCrosses) {

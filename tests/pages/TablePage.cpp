@@ -155,6 +155,17 @@ void TablePage::pressAt(const QString& selector, double right, double down) {
     settle();
 }
 
+void TablePage::clickMoving(const QString& selector, int pixels, Qt::KeyboardModifiers modifiers) {
+    const QPoint from = spotOf(selector, 0.99);
+    QTest::mouseMove(&handle(), from);
+    QTest::mousePress(&handle(), Qt::LeftButton, modifiers, from);
+    for (int x = 1; x <= pixels; ++x) {
+        QTest::mouseMove(&handle(), from + QPoint(x, 0));
+    }
+    QTest::mouseRelease(&handle(), Qt::LeftButton, modifiers, from + QPoint(pixels, 0));
+    settle();
+}
+
 void TablePage::move(const QString& selector, double share) {
     m_spot = spotOf(selector, share);
     QTest::mouseMove(&handle(), m_spot);

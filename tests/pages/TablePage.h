@@ -54,6 +54,8 @@ public:
     void press(const QString& selector);
     /// Presses on a point of an element that is in view, by its shares of the width and of the height.
     void pressAt(const QString& selector, double right, double down);
+    /// A click by a hand that moves so many pixels to the right meanwhile, from near the right end of an element.
+    void clickMoving(const QString& selector, int pixels, Qt::KeyboardModifiers modifiers);
     /// Moves the mouse, its button as it is, to the middle of an element, or to `share` of its width.
     void move(const QString& selector, double share = 0.5);
     /// Lets go of the button where the mouse was moved to, or beyond the edge of the window.
