@@ -201,8 +201,10 @@ function rowKeys(view, row) {
     return row === view.batch ? view.grid.records.map(record => record.key) : [row.key];
 }
 
+// Of the rows that stand, those of cameras that are connected by now.
 function connectedKeys(view) {
-    return Array.from(view.newest.values()).filter(record => record.connected).map(record => record.key);
+    return view.grid.records.map(record => record.key)
+        .filter(key => view.newest.has(key) && view.newest.get(key).connected);
 }
 
 function onGridDoubleClick(view, event) {
