@@ -196,3 +196,16 @@ TEST_F(Messages, StatesOfTheHostFollowItsCameras) {
     EXPECT_EQ(host.docManager().getSelectedDocCount(), 1);
     EXPECT_EQ(host.docManager().getDocCount(), int(host.docManager().getDocKeys().size()));
 }
+
+TEST(Search, TellsWhereItLookedAndWhatItFound) {
+    TestHost test(Rig::fromFile(QStringLiteral("eight-mixed")));
+    for (const char* network : {"192.168.7.0", "192.168.7.0", "10.1.255.0"})
+        test.host.cameraOps().searchCamera(QString::fromLatin1(network));
+    test.host.cameraOps().discoverCameras();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(test.desk.beside.join(QLatin1Char('\n')).toStdString(),
+              "Search in 192.168.7.xxx: found Hall left, Hall right.\n"
+              "Search in 192.168.7.xxx: no further camera; those that answer are listed already.\n"
+              "Search in 10.1.255.xxx: no camera answers.\n"
+              "Search in the whole network: found Spare.");
+}

@@ -12,12 +12,13 @@
 #include "host/SimRecorder.h"
 #include "host/SimSaver.h"
 #include "host/StatusFlags.h"
+#include "host/Translator.h"
 
 #include <algorithm>
 
 SimCameraOps::SimCameraOps(const HostCalls& calls, CameraBank& cameras, const SimDocManager& docs,
                            const SimRecorder& recorder, const SimSaver& saver, const Preferences& prefs,
-                           const StatusFlags& flags, Notices& notices)
+                           const StatusFlags& flags, const Translator& translator, Notices& notices)
     : m_calls(calls),
       m_cameras(cameras),
       m_docs(docs),
@@ -25,16 +26,35 @@ SimCameraOps::SimCameraOps(const HostCalls& calls, CameraBank& cameras, const Si
       m_saver(saver),
       m_prefs(prefs),
       m_flags(flags),
+      m_translator(translator),
       m_notices(notices) {}
 
 void SimCameraOps::searchCamera(const QString& address) {
     m_calls.change("ZebCameraOps::searchCamera", {address});
-    m_cameras.search(address.section(QLatin1Char('.'), 0, 2));
+    search(address.section(QLatin1Char('.'), 0, 2));
 }
 
 void SimCameraOps::discoverCameras() {
     m_calls.change("ZebCameraOps::discoverCameras");
-    m_cameras.search({});
+    search({});
+}
+
+/// An empty `network` stands for all.
+void SimCameraOps::search(const QString& network) {
+    const auto before = m_cameras.all();
+    const int answering = m_cameras.search(network);
+    QStringList found;
+    for (const Camera* camera : m_cameras.all()) {
+        if (std::find(before.begin(), before.end(), camera) == before.end()) found.append(camera->name());
+    }
+    const QString where = network.isEmpty() ? m_translator.translate(QStringLiteral("the whole network"))
+                                            : QString(network % QStringLiteral(".xxx"));
+    const QString told =
+        !found.isEmpty() ? m_translator.translate(QStringLiteral("Search in %1: found %2."))
+        : answering > 0  ? m_translator.translate(
+                               QStringLiteral("Search in %1: no further camera; those that answer are listed already."))
+                        : m_translator.translate(QStringLiteral("Search in %1: no camera answers."));
+    m_notices.add(Message::Info, found.isEmpty() ? told.arg(where) : told.arg(where, found.join(QStringLiteral(", "))));
 }
 
 void SimCameraOps::updateCameras() {

@@ -10,6 +10,7 @@ class HostCalls;
 class Preferences;
 class StatusFlags;
 class Notices;
+class Translator;
 class SimDocManager;
 class SimRecorder;
 class SimSaver;
@@ -19,7 +20,8 @@ struct SyncSource;
 class SimCameraOps : public ZebCameraOps {
 public:
     SimCameraOps(const HostCalls& calls, CameraBank& cameras, const SimDocManager& docs, const SimRecorder& recorder,
-                 const SimSaver& saver, const Preferences& prefs, const StatusFlags& flags, Notices& notices);
+                 const SimSaver& saver, const Preferences& prefs, const StatusFlags& flags,
+                 const Translator& translator, Notices& notices);
 
     void searchCamera(const QString& address) override;
     void discoverCameras() override;
@@ -51,6 +53,7 @@ public:
     bool isAllWrenLockDevice() const override;
 
 private:
+    void search(const QString& network);
     static DocKeyList keysOf(const DocList& docs);
     /// A command to every camera of the list, in the journal as one call with its keys and `args`.
     void command(const char* call, const DocList& docs, const QVariantList& args,
@@ -63,5 +66,6 @@ private:
     const SimSaver& m_saver;
     const Preferences& m_prefs;
     const StatusFlags& m_flags;
+    const Translator& m_translator;
     Notices& m_notices;
 };
