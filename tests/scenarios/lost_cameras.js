@@ -69,6 +69,7 @@ trigger();
 zeb.mode('live');
 check(zeb.until("$('#tabs').tabs('option', 'active') < 5 && $('#timeline_rec_exec:enabled').length === 1"), 'once more');
 zeb.fault(5, 'arm', { throws: 'too hot' });
+zeb.answer('yes');    // nobody has saved the recording before
 arm();
 trigger();
 OTHERS.concat(VICTIM).forEach(key => zeb.setCamera(key, { recordCheck: true }));
