@@ -21,7 +21,7 @@ const table = readonly([
     'dropDown', 'listenToGrid', 'rowKeys', 'connectedKeys', 'controls',
     'lowLightSlider', 'showSlider', 'sliderValue', 'sliderMax', 'markupOf',
     'numberBox', 'showNumber', 'keepingFocus', 'caretOf', 'placeCaret', 'holdNumber', 'logUnused', 'linesToDraw',
-    'placeRows'
+    'placeRows', 'refusePress'
 ]);
 
 const host = readonly(['zeb4func', 'plugin_obj', 'pluginIcons', 'SliderProperty',

@@ -1,4 +1,5 @@
 const LATE_PRESS = 200; // ms
+const REFUSAL_MS = 800; // for so long a button shows that it did not take a press
 
 // The panels around the table: what is done with all cameras at once.
 Object.assign(wrentabledialog_obj, {
@@ -28,7 +29,8 @@ Object.assign(wrentabledialog_obj, {
     initializeRecordingContainer() {
         // At the press already, not at the click: recording can't wait.
         onPress('#timeline_rec_exec', button => this.pressRecord(button));
-        onPress('#timeline_rec_cancel', () => wrentabledialog.cancelRecord());
+        onPress('#timeline_rec_cancel', button => this.pressCancel(button));
+        document.querySelector('.exec-recording').addEventListener('mousedown', event => this.pressBeside(event));
         onSwitch('#timeline_trigger_test', on => wrentabledialog.setTriggerTesting(on));
         onSwitch('#timeline_stopLiveCheckbox', on => wrentabledialog.stopLive(on));
         onClick('#timeline_updateLiveButton', () => wrentabledialog.updateLive());
@@ -41,12 +43,12 @@ Object.assign(wrentabledialog_obj, {
     // A press means what the button shows. Where the recording has moved on since, the press goes for nothing: who
     // stops one that has just ended must not arm the cameras. Without a status it is left to the back end.
     pressRecord(button) {
-        if (this.isPressed) {
-            return;
-        }
         const shown = $(button).data('status');
-        const status = this.showRecStatus();
-        if (status !== null && status !== shown) {
+        const text = button.textContent;
+        const waits = this.isPressed || wrentabledialog.inCall;
+        const status = waits ? null : this.showRecStatus();
+        if (waits || (status !== null && status !== shown)) {
+            refusePress(button, text);
             return;
         }
         const began = Date.now();
@@ -58,6 +60,25 @@ Object.assign(wrentabledialog_obj, {
         } finally {
             this.isStarting = false;
             this.endPress(Date.now() - began);
+        }
+    },
+
+    pressCancel(button) {
+        if (wrentabledialog.inCall) {
+            refusePress(button, button.textContent);
+        } else {
+            wrentabledialog.cancelRecord();
+        }
+    },
+
+    // While the record button is disabled, a press on it falls on what it stands in.
+    pressBeside(event) {
+        const button = document.getElementById('timeline_rec_exec');
+        const { left, right, top, bottom } = button.getBoundingClientRect();
+        const { clientX: x, clientY: y } = event;
+        const beside = !event.button && !button.contains(event.target);
+        if (button.disabled && beside && x >= left && x < right && y >= top && y < bottom) {
+            refusePress(button, button.textContent);
         }
     },
 
@@ -158,6 +179,13 @@ Object.assign(wrentabledialog_obj, {
         setText(partition, wrentabledialog.getCurrentPartitionName());
     }
 });
+
+// Shows for a moment that a press was not taken. `text` is what the button showed then.
+function refusePress(button, text) {
+    logUnused('not taken', 'Button', button.id, text);
+    button.setAttribute('refused', '');
+    window.setTimeout(() => button.removeAttribute('refused'), REFUSAL_MS);
+}
 
 // A button's contents: a mark, which the style sheet draws, and a text.
 function showButton(id, look) {

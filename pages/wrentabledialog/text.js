@@ -42,12 +42,15 @@ function isDisabled(element) {
     return (list ? list.previousElementSibling : element).hasAttribute('disabled');
 }
 
-// Runs `work` with the element when the main button goes down on it. The second press of a double click does nothing:
-// it may already meet another meaning of the element, which nobody has read yet.
+// Runs `work` with the element when the main button goes down on it. The second press of a double click is refused: it
+// may already meet another meaning of the element, which nobody has read yet.
 function onPress(selector, work) {
     $(selector).on('mousedown', event => {
-        if (!event.button && !(event.detail > 1)) {
-            guarded(() => work(event.currentTarget));
+        const button = event.currentTarget;
+        if (!event.button && event.detail > 1) {
+            refusePress(button, button.textContent);
+        } else if (!event.button) {
+            guarded(() => work(button));
         }
     });
 }

@@ -24,6 +24,13 @@ protected:
         page->click(button);
         return page->number("probe.callsEnd().filter(call => call[0] === 'record').length");
     }
+    /// Whether the button shows that it took no press, of which the log tells, with what it showed then. Once only.
+    QString refused() {
+        return page->text(
+            "const refusal = probe.made.find(call => call[1] && call[1].includes('not taken'));"
+            "const shows = $('[refused]').removeAttr('refused').get().map(one => one.id).join();"
+            "return refusal || shows ? shows + (refusal ? ': ' + refusal[1][5] : '') : ''");
+    }
     QString face() { return page->text("$('#timeline_rec_exec').text()"); }
     bool isDisabled() { return page->run("$('#timeline_rec_exec').prop('disabled')").toBool(); }
 
@@ -33,8 +40,10 @@ protected:
 };
 
 TEST_F(PageRecordButton, TakesADoubleClickForOnePress) {
+    page->run("probe.callsBegin(); return 0");
     EXPECT_EQ(orders([&] { page->doubleClick(button); }), QStringList("ZebRecorder::startRecReady []"));
-    EXPECT_EQ(face(), "Ready");
+    page->run("probe.callsEnd(); return 0");
+    EXPECT_EQ(refused(), "timeline_rec_exec: Ready");
     EXPECT_EQ(orders([&] { page->doubleClick("#timeline_rec_cancel"); }),
               QStringList("ZebRecorder::cancelRecording [false]"));
 }
@@ -58,9 +67,12 @@ TEST_F(PageRecordButton, MeansWhatItShows) {
         becomes(c.shown);
         page->tick();
         becomes(c.now);
+        const QString before = face();
         EXPECT_EQ(presses(), 0);
+        EXPECT_EQ(refused(), "timeline_rec_exec: " + before);
         EXPECT_EQ(face(), c.face);
         EXPECT_EQ(presses(), 1) << "what is seen now is meant";
+        EXPECT_EQ(refused(), "");
     }
 }
 
@@ -73,6 +85,7 @@ TEST_F(PageRecordButton, TakesNoPressThatMayHaveWaitedForItsCall) {
         "const button = document.getElementById('timeline_rec_exec');"
         "wrentabledialog_obj.pressRecord(button); wrentabledialog_obj.pressRecord(button); return 0");
     EXPECT_EQ(page->number("probe.callsEnd().filter(call => call[0] === 'record').length"), 1);
+    EXPECT_EQ(refused(), "timeline_rec_exec: Ready");
     EXPECT_TRUE(page->until("!wrentabledialog_obj.isPressed"));
     EXPECT_EQ(presses(), 1);
 }
@@ -94,6 +107,8 @@ TEST_F(PageRecordButton, IsOutOfReachWhileItsCallAsks) {
         page->update();
         page->tick();
         EXPECT_TRUE(isDisabled()) << "under the question";
+        EXPECT_EQ(presses(), 0);
+        EXPECT_EQ(refused(), "timeline_rec_exec: Record");
     };
     page->press(button);
     EXPECT_EQ(test.desk.texts(), QStringList("Lock all connected cameras."));
