@@ -11,15 +11,19 @@
 #include "ZebHost.h"
 
 #include <QApplication>
-#include <QEvent>
+#include <QKeyEvent>
 #include <QVBoxLayout>
 #include <QWebFrame>
 #include <QWebPage>
 
+#include <algorithm>
+#include <array>
 #include <utility>
 
 namespace {
 
+/// Keys that the box's page answers.
+constexpr std::array ListKeys{Qt::Key_Up, Qt::Key_Down, Qt::Key_Home, Qt::Key_End, Qt::Key_Return, Qt::Key_Enter};
 constexpr float Opacity = 0.9F;
 const QString RowSelector = QStringLiteral("#items>li>a");
 
@@ -140,12 +144,16 @@ void GUI_SelectBox::setParentRect(const QRect& rect) {
 
 void GUI_SelectBox::setVisible(bool visible) {
     m_wantVisible = visible;
+    if (m_keyboard) m_keyboard->removeEventFilter(this);
+    m_keyboard = nullptr;
     if (!visible) {
         QWidget::setVisible(false);
     } else if (m_pageLoaded) {
         place();
         QWidget::setVisible(true);
         scrollToSelected();
+        m_keyboard = parentWidget()->focusWidget();
+        if (m_keyboard) m_keyboard->installEventFilter(this);
     }
 }
 
@@ -181,6 +189,8 @@ bool GUI_SelectBox::eventFilter(QObject* watched, QEvent* event) {
     if (watched == this) {
         if (event->type() == QEvent::WindowDeactivate && m_wantVisible) leave();
         if (event->type() == QEvent::Close) logUserClose(*this);
+    } else if (watched == m_keyboard && event->type() == QEvent::KeyPress) {
+        return takesKey(static_cast<QKeyEvent&>(*event));
     } else if (m_wantVisible && watched == parentWidget()) {
         onParentEvent(*parentWidget(), *event);
     }
@@ -193,6 +203,14 @@ void GUI_SelectBox::onParentEvent(const QWidget& parent, const QEvent& event) {
         event.type() == QEvent::Hide || (event.type() == QEvent::WindowStateChange && parent.isMinimized());
     const bool leftForOther = event.type() == QEvent::WindowDeactivate && QApplication::activeWindow() != this;
     if (goesAway || leftForOther) leave();
+}
+
+/// Escape goes on to the parent's page, which takes away what it has laid over itself.
+bool GUI_SelectBox::takesKey(QKeyEvent& event) {
+    if (event.key() == Qt::Key_Escape) leave();
+    if (std::find(ListKeys.begin(), ListKeys.end(), event.key()) == ListKeys.end()) return false;
+    QApplication::sendEvent(m_view, &event);
+    return true;
 }
 
 void GUI_SelectBox::leave() {

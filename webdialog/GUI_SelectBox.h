@@ -2,12 +2,14 @@
 
 #include "SelectBoxPlacement.h"
 
+#include <QPointer>
 #include <QWebElement>
 #include <QWidget>
 
 class GUI_WebView;
 class JS_Mediator;
 class JS_Mediator_SelectBox;
+class QKeyEvent;
 class QVBoxLayout;
 class QWebFrame;
 class ZebHost;
@@ -17,8 +19,10 @@ enum class SelectBoxType { Partition = 0, OtherPartition = 1, Variable = 2, Vari
 
 /// A floating list, itself a page, that opens beside a control of its parent's page. GUI thread.
 ///
-/// It keeps its page between two uses. It hides after a choice, and when its parent is hidden, minimised or no longer
-/// the active window. It may be destroyed at any time: view and bridge live on until a call that runs in them ends.
+/// The keyboard stays with the parent. While the box is shown it hands the arrows, Home, End and Enter to its own page,
+/// and hides at Escape. It keeps its page between two uses. It hides after a choice, and when its parent is hidden,
+/// minimised or no longer the active window. It may be destroyed at any time: view and bridge live on until a call that
+/// runs in them ends.
 class GUI_SelectBox : public QWidget {
     Q_OBJECT
 
@@ -56,6 +60,8 @@ private:
     void place();
     void scrollToSelected();
     void onParentEvent(const QWidget& parent, const QEvent& event);
+    /// Whether the key is the box's alone.
+    bool takesKey(QKeyEvent& event);
     void leave();
 
     ZebHost* const m_host;
@@ -64,6 +70,7 @@ private:
     QVBoxLayout* const m_layout;
     int m_boxType = 0;
     QString m_value;
+    QPointer<QWidget> m_keyboard;  // what has the keyboard while the box is shown
     bool m_wantVisible = false;
     bool m_pageLoaded = false;
     QRect m_anchor{QPoint(0, 0), QPoint(-1, -1)};

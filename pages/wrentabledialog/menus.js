@@ -8,6 +8,7 @@ Object.assign(wrentabledialog_obj, {
             window.setTimeout(() => event.currentTarget.classList.remove('active'), 10);
         });
         $('.miscfuncs > button').on('click', event => guarded(() => this.toggleMenu(event.currentTarget)));
+        document.addEventListener('keydown', event => guarded(() => this.onMenuKey(event)), true);
         $('#btn-recording_partition').on('click', event => guarded(() => this.showPartitions(event.currentTarget)));
     },
 
@@ -25,6 +26,31 @@ Object.assign(wrentabledialog_obj, {
         } else {
             zeb4func.removeDummy();
         }
+    },
+
+    // The keyboard in an open menu. The box of partitions knows its keys by itself.
+    onMenuKey(event) {
+        const list = document.querySelector('.miscfuncs ul:not([hidden])');
+        const entries = list ? Array.from(list.querySelectorAll('a')) : [];
+        const now = entries.indexOf(document.activeElement);
+        const next = { 35: entries.length - 1, 36: 0, 38: Math.max(now, 0) - 1, 40: now + 1 }[event.keyCode];
+        if (list && next !== undefined) {
+            const entry = entries[(next + entries.length) % entries.length];
+            entry.tabIndex = -1; // so that it can have the focus
+            entry.focus();
+        } else if (now >= 0 && event.keyCode === 13) {
+            list.previousElementSibling.focus();
+            entries[now].click();
+        } else if (event.keyCode === 27 && document.querySelector('p.dummy')) {
+            if (list) {
+                list.previousElementSibling.focus();
+            }
+            this.hideSelectBox();
+        } else {
+            return;
+        }
+        event.preventDefault();
+        event.stopPropagation();
     },
 
     showPartitions(group) {

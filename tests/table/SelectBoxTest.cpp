@@ -4,6 +4,7 @@
 #include "JS_Mediator_SelectBox.h"
 #include "TableFixture.h"
 
+#include <QLineEdit>
 #include <QSignalSpy>
 #include <QTest>
 #include <QWebFrame>
@@ -103,6 +104,26 @@ TEST_F(SelectBoxTest, aChosenPartitionReachesTheSelectedCameras) {
     EXPECT_EQ(stateOf(1, "partition").toInt(), 3);
     EXPECT_TRUE(host.updates().isPending()) << "the pages are told";
     host.updates().deter(false);
+}
+
+TEST_F(SelectBoxTest, isWorkedByTheKeysOfItsWindow) {
+    QLineEdit field(&window);
+    field.show();
+    field.setFocus();
+    const auto keys = [&](std::initializer_list<Qt::Key> all) {
+        show();
+        for (const Qt::Key key : all) QTest::keyClick(&field, key);
+        return stateOf(1, "partition").toInt();
+    };
+    EXPECT_EQ(keys({Qt::Key_Down, Qt::Key_Return}), 3);
+    EXPECT_FALSE(box->isVisible());
+    EXPECT_EQ(keys({Qt::Key_Home, Qt::Key_Up, Qt::Key_Enter}), 1);
+    EXPECT_EQ(keys({Qt::Key_End, Qt::Key_Up, Qt::Key_Return}), 4) << "not the line between";
+    EXPECT_EQ(keys({Qt::Key_Up, Qt::Key_Escape}), 4);
+    EXPECT_FALSE(box->isVisible());
+    QTest::keyClick(&field, Qt::Key_Home);
+    QTest::keyClicks(&field, "a");
+    EXPECT_EQ(field.text(), "a");
 }
 
 TEST_F(SelectBoxTest, behindTheLastPartitionAreTheSettingsInLiveMode) {

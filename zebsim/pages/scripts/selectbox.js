@@ -5,6 +5,7 @@ const selectbox = {
     // Pixels.
     rowHeight: 24,
     holdsPartitions: false,
+    current: -1, // the row that the keyboard stands on
 
     initialize() {
         this.list = document.getElementById('items');
@@ -13,7 +14,8 @@ const selectbox = {
         this.hear('signalShowVariableRegist', json => this.showVariables(JSON.parse(json), true));
         this.hear('signalSetHeight', height => this.setRowHeight(height));
         this.hear('update', () => this.update());
-        this.list.addEventListener('click', event => this.choose(event.target));
+        this.list.addEventListener('click', event => this.choose(this.rowOf(event.target)));
+        document.addEventListener('keydown', event => this.onKey(event));
     },
 
     // An exception that left a function connected to a signal of the bridge would end the program. Anything can be
@@ -77,6 +79,7 @@ const selectbox = {
         rows.forEach((row, index) => this.list.appendChild(this.rowElement(row, index)));
         this.setRowHeight(this.rowHeight);
         this.applyStyle();
+        this.current = rows.findIndex(row => row.isSelected);
     },
 
     rowElement(row, index) {
@@ -99,11 +102,43 @@ const selectbox = {
         });
     },
 
-    choose(target) {
-        const row = target.tagName === 'A' ? this.rows[Number(target.getAttribute('index'))] : null;
-        if (row && !row.isOff && !row.isDivider) {
+    rowOf(target) {
+        return target.tagName === 'A' ? this.rows[Number(target.getAttribute('index'))] : undefined;
+    },
+
+    isFree: row => row !== undefined && !row.isOff && !row.isDivider,
+
+    choose(row) {
+        if (this.isFree(row)) {
             row.choose();
         }
+    },
+
+    // Arrows, Home and End go to the next free row, as far as there is one; Enter chooses.
+    onKey(event) {
+        const end = this.rows.length - 1;
+        const ways = { 35: [end, -1], 36: [0, 1], 38: [this.current - 1, -1], 40: [this.current + 1, 1] };
+        if (event.keyCode === 13) {
+            this.choose(this.rows[this.current]);
+        } else if (ways[event.keyCode]) {
+            this.goTo(...ways[event.keyCode]);
+            event.preventDefault();
+        }
+    },
+
+    goTo(start, step) {
+        let index = start;
+        while (this.rows[index] && !this.isFree(this.rows[index])) {
+            index += step;
+        }
+        if (!this.rows[index]) {
+            return;
+        }
+        this.current = index;
+        Array.from(this.list.children).forEach((item, at) => {
+            item.firstElementChild.classList.toggle('current', at === index);
+        });
+        this.list.children[index].scrollIntoViewIfNeeded(false);
     }
 };
 
