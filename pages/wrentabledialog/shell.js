@@ -50,6 +50,11 @@ Object.assign(wrentabledialog_obj, {
     },
 
     initializeTabs() {
+        // A click takes the keyboard to no tab, whose arrows would change tab and mode, but away from where it was.
+        $('#tabs > ul').on('mousedown', event => {
+            event.preventDefault();
+            document.activeElement.blur();
+        });
         $('#tabs').tabs({
             beforeActivate: (event, ui) => this.leaveTab(ui.newTab.index()),
             activate: (event, ui) => this.enterTab(ui.newTab)

@@ -83,6 +83,8 @@ TEST(PageModes, AreSwitchedByTheTabs) {
     test.host.appStatus().enterMode(zeb::MemoryMode);
     page.settle();
     EXPECT_EQ(page.list(Look).first(), "tab 6") << "the last memory tab";
+    page.click("a[href=\"#memoryPluginTab\"]");
+    EXPECT_EQ(page.text("document.activeElement.tagName"), "BODY") << "no arrow changes tab or mode after a click";
 }
 
 TEST(PageModes, TheGridTakesTheRoomThatIsLeft) {

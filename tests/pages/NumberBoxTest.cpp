@@ -257,12 +257,14 @@ TEST_F(PageNumbers, GoOutWhenTheKeyboardIsTakenFromThePageOrWhenTheyMay) {
     type(end, "-100");
     EXPECT_EQ(sent([&] { page.window().findChild<QWebView*>()->clearFocus(); }),
               QStringList("setSelectEndFrameNo 1 -100"));
+    type(end, "-110");
+    EXPECT_EQ(sent([&] { page.click("a[href=\"#memoryInfoTab\"]"); }), QStringList("setSelectEndFrameNo 1 -110"));
     test.desk.whileStanding = [&] {
         type(end, "-90\t");
         EXPECT_EQ(mark(end), "wren-typed") << "under a question nothing is changed";
         page.update();
         EXPECT_EQ(shown(end) + ' ' + mark(end), "-90 wren-typed");
-        EXPECT_EQ(kept(1), "200 to 500");
+        EXPECT_EQ(kept(1), "200 to 490");
     };
     page.run("wrentabledialog.confirm('Sure?')");
     test.desk.shown.clear();
