@@ -17,12 +17,23 @@ namespace {
 // As a keyboard's usual setting.
 constexpr int RepeatAfterMs = 500;
 constexpr int RepeatEachMs = 33;
+constexpr int ActivationMs = 2000;
 
 /// What a key writes; nothing for one that does not.
 QString textOf(int key, Qt::KeyboardModifiers modifiers) {
     if (key > 0x7f || (modifiers & ~Qt::ShiftModifier) != 0) return {};
     const QChar letter(key);
     return modifiers.testFlag(Qt::ShiftModifier) ? letter : letter.toLower();
+}
+
+/// A modal dialog that has just come up becomes active a moment later; nobody presses before that.
+void awaitModal(const std::function<bool()>& stop) {
+    QElapsedTimer asked;
+    asked.start();
+    const QWidget* modal = QApplication::activeModalWidget();
+    if (modal == nullptr) return;
+    waitUntil([&] { return QApplication::activeWindow() == modal || QApplication::activeModalWidget() != modal; },
+              [&] { return stop() || asked.hasExpired(ActivationMs); });
 }
 
 }  // namespace
@@ -48,6 +59,7 @@ void pressKey(const QString& name, int hold, const std::function<bool()>& stop) 
     const int key = code & ~int(Qt::KeyboardModifierMask);
     if (sequence.count() != 1 || key == Qt::Key_unknown) throw ScenarioError(QStringLiteral("there is no key ") % name);
     const Qt::KeyboardModifiers modifiers(code & int(Qt::KeyboardModifierMask));
+    awaitModal(stop);
     const QPointer<QWindow> window = QGuiApplication::focusWindow();
     if (window == nullptr) throw ScenarioError(QStringLiteral("no window is active, so no key goes anywhere"));
     const auto send = [&](bool press, bool repeated) {
