@@ -85,5 +85,12 @@ function runDocument(name) {
 fs.rmSync(folder, { recursive: true, force: true });
 fs.mkdirSync(path.join(folder, 'docs'), { recursive: true });
 docs.filter(name => name.endsWith('.js')).forEach(name => write(name, read(name)));
+write('members.js', `zeb.rig('sync');
+    for (const name in Object.assign(zeb.hub('192.168.0.61'), zeb.camera(1))) print(name)`);
+const told = read('docs/rigs.md');
+const untold = run('members', ['--scenario', 'members.js']).filter(name => name && !told.includes(`\`${name}\``));
+if (untold.length > 0) {
+    fail(`docs/rigs.md does not tell of ${untold}`);
+}
 ['README.md', ...docs.filter(name => name.endsWith('.md'))].forEach(runDocument);
 commands.forEach(line => run(line, line.replace(/ +#.*/, '').split(' ').slice(1)));
