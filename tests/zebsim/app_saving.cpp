@@ -134,7 +134,7 @@ TEST_F(AppSaving, OffersAnotherFolderThanOneWithFiles) {
 
 TEST_F(AppSaving, TellsOfCamerasThatAreNotThere) {
     for (DOCKEY key = 1; key <= 2; ++key) host.cameras().find(key)->keep(host.cameras().find(key)->recording());
-    Q_EMIT host.events().somethingRecorded();
+    Q_EMIT host.events().shootEnded();
     host.faults().plant(2, "*", {{}, 0, true});
     const QString lost = "Camera 2: the camera has disappeared. Its recording is not saved.";
     ModalWatcher watcher;
@@ -164,7 +164,7 @@ TEST_F(AppSaving, TellsWhichFramesAreNotOfTheLastRecording) {
     Camera& second = *host.cameras().find(2);
     const auto shoot = [&](Camera& camera) {
         camera.keep(camera.recording());
-        Q_EMIT host.events().somethingRecorded();
+        Q_EMIT host.events().shootEnded();
     };
     shoot(first);
     shoot(second);

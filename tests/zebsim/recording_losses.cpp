@@ -16,6 +16,7 @@ TEST_F(RecordingTest, GoesOnWithoutTheCamerasThatFail) {
     EXPECT_EQ(states(), "4 4 4 - 0");
     EXPECT_EQ(ends, 1);
     EXPECT_TRUE(host.isLiveMode()) << "nothing was recorded";
+    EXPECT_EQ(host.recorder().lost().size(), 3) << "the next save names them all";
     host.recorder().cancelRecording(false);
     EXPECT_EQ(states(), "0 0 0 - 0");
 }

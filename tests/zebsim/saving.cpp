@@ -295,7 +295,7 @@ TEST_F(Saving, KnowsWhoHasRecordedAndIsNotThereAnyMore) {
         host.clock.advance(100);
         recorder.stopRecording();
         QCoreApplication::processEvents();
-        EXPECT_TRUE(host.host.isMemoryMode());
+        EXPECT_EQ(host.host.isMemoryMode(), recorder.lost().isEmpty());
     };
     const auto connect = [&](DOCKEY key, bool on) { host.camera(key).set(&CameraState::connected, on); };
     const struct {
@@ -320,6 +320,16 @@ TEST_F(Saving, KnowsWhoHasRecordedAndIsNotThereAnyMore) {
          [&] { host.camera(2).set(&CameraState::partitions, 2), host.camera(2).setPartition(2); },
          {"Camera 2 recorded in 1"}},
         {"and what it used before again", [&] { host.camera(2).setPartition(1); }, {}},
+        {"a shoot that fails on all cameras",
+         [&] {
+             for (const DOCKEY key : {2, 3}) host.host.faults().plant(key, "trigger", {"no answer", 0, false});
+             shoot();
+             for (const DOCKEY key : {2, 3}) host.host.faults().plant(key, "trigger", {});
+             EXPECT_TRUE(last.isEarlier(*host.camera(2).recording()));
+             host.camera(2).set(&CameraState::connected, false);
+         },
+         {}},
+        {"one that works again", [&] { connect(2, true), shoot(); }, {}},
         {"all are deleted", [&] { host.host.cameras().forgetAll(); }, {"Camera 2", "Nozzle/2"}},
         {"another rig", [&] { host.host.setRig(Rig::standard(3)); }, {}},
     };

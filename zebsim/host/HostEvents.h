@@ -19,6 +19,8 @@ Q_SIGNALS:
     void pluginWanted(const QString& name);
     void pluginShown(const QString& name);
     void pluginClosed(const QString& name);
+    /// A recording that was triggered has ended, with or without images.
+    void shootEnded();
     /// A recording has ended that left something in a camera's memory.
     void somethingRecorded();
     /// One new live image of each camera is wanted while they stand.

@@ -13,6 +13,7 @@
 #include <QEventLoop>
 #include <QFutureWatcher>
 #include <QWebView>
+#include <QtDebug>
 
 SimHost::SimHost(Clock& clock, MessageDesk& desk, const QString& prefsPath)
     : m_clock(clock),
@@ -36,8 +37,7 @@ SimHost::SimHost(Clock& clock, MessageDesk& desk, const QString& prefsPath)
       m_liveLoop(m_calls, m_cameras, m_events),
       m_player(m_calls),
       m_saver(m_calls, m_flags, [this] { return m_appDesk; }),
-      m_cameraOps(m_calls, m_cameras, m_docManager, m_recorder, m_saver, m_prefs, m_flags, m_translator,
-                  m_notices),
+      m_cameraOps(m_calls, m_cameras, m_docManager, m_recorder, m_saver, m_prefs, m_flags, m_translator, m_notices),
       m_viewOps(m_cameras, m_flags),
       m_mdi(m_cameras, m_appStatus, m_flags),
       m_undo(m_calls) {
@@ -55,6 +55,10 @@ SimHost::SimHost(Clock& clock, MessageDesk& desk, const QString& prefsPath)
 }
 
 void SimHost::setRig(const Rig& rig) {
+    const QStringList unsaved = m_unsavedGuard.lines(lostByClosing(heldRecordings(m_cameras)));
+    if (!unsaved.isEmpty()) {
+        qWarning() << "Unsaved images go with their cameras:" << unsaved;
+    }
     m_recorder.abandon();
     m_docManager.forgetDocs();
     m_faults.clear();

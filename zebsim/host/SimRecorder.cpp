@@ -33,6 +33,7 @@ SimRecorder::SimRecorder(const HostCalls& calls, const Clock& clock, const Camer
             RecordRun::Listener{
                 [&updates] { updates.request(); },
                 [&notices](const QString& text) { notices.add(Message::Error, text); },
+                [&events] { Q_EMIT events.shootEnded(); },
                 [this](bool recorded) {
                     m_owedEnd = recorded;
                     QMetaObject::invokeMethod(

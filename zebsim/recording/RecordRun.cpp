@@ -172,8 +172,8 @@ void RecordRun::trigger(bool withAreas) {
         begin(part == nullptr || part->over ? takeIn(camera) : *part, withAreas);
     }
     const QStringList reasons = commandAll(cameras, &Camera::trigger);
+    m_triggered = true;
     for (std::size_t i = 0; i < cameras.size(); ++i) {
-        m_triggered = m_triggered || reasons.at(int(i)).isEmpty();
         drop(*findPart(*cameras[i]), reasons.at(int(i)));
     }
     leaveBehind(late);
@@ -429,6 +429,7 @@ void RecordRun::finish() {
     // Without a trigger what there is to save is still that of the last recording.
     if (std::exchange(m_triggered, false)) {
         m_lost = losses;
+        m_listener.shot();
     }
     m_changed = true;
     tell();

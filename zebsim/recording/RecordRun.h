@@ -26,6 +26,8 @@ public:
         std::function<void()> changed;
         /// Something went wrong, a line for each camera.
         std::function<void(const QString&)> failed;
+        /// A recording that was triggered is over, whatever it has left; `ended` comes next.
+        std::function<void()> shot;
         /// No camera takes part any more. `recorded`: at least one has something in its memory.
         std::function<void(bool recorded)> ended;
         /// A text in the user's language.
@@ -113,7 +115,7 @@ private:
     QStringList m_lost;
     /// Cameras that are gone, which has been told.
     QSet<DOCKEY> m_vanished;
-    /// A camera of the run under way has recorded.
+    /// The run under way has had a trigger.
     bool m_triggered = false;
     bool m_changed = false;
 };

@@ -7,7 +7,7 @@
 #include <algorithm>
 
 LastShoot::LastShoot(const CameraBank& cameras, const HostEvents& events) : m_cameras(cameras) {
-    connect(&events, &HostEvents::somethingRecorded, this, &LastShoot::begin);
+    connect(&events, &HostEvents::shootEnded, this, &LastShoot::begin);
 }
 
 void LastShoot::begin() {

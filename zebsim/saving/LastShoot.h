@@ -20,7 +20,7 @@ struct AbsentCamera {
     PARTITIONNUMBER partition = 1;
 };
 
-/// What the cameras kept of the last recording, wherever they are by now. GUI thread.
+/// What the cameras kept of the last recording that was triggered, wherever they are by now. GUI thread.
 class LastShoot : public QObject {
     Q_OBJECT
 
