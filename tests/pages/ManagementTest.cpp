@@ -53,9 +53,11 @@ TEST_F(PageManagement, FindsCamerasWhileTheTableIsOpen) {
     fill(2, "168");
     EXPECT_EQ(commands(test, page, [&] { page.click("#livecontrol_search"); }),
               QStringList("searchCamera [\"192.168.7.0\"]"));
+    EXPECT_EQ(boxes(), QStringList("Search in 192.168.7.xxx: found Hall left, Hall right."));
     EXPECT_EQ(rows(), before + 2);
     EXPECT_EQ(page.text("probe.drawn().map(row => row.textContent).join()").contains("Hall right"), true);
     EXPECT_EQ(commands(test, page, [&] { page.click("#livecontrol_discovery"); }), QStringList("discoverCameras []"));
+    EXPECT_EQ(boxes(), QStringList("Search in the whole network: found Spare."));
     EXPECT_EQ(rows(), before + 3);
     EXPECT_EQ(commands(test, page, [&] { page.click("#livecontrol_update"); }), QStringList("updateCameras []"));
     EXPECT_EQ(rows(), before + 3);
