@@ -44,7 +44,7 @@ zeb.until("$('#wren-cameraInfo-list .wren_label_edit_camera_name').length > 8");
 shot('6-camera-info-dark');
 
 [1, 3, 4, 6, 7, 8].forEach(key => zeb.click(`#wren_cameraInfo_button_lockStatus_unlock_${key}`));
-zeb.modal(() => zeb.type('\n'));    // two cameras have a problem, and it is known
+zeb.answer('Yes', 'Yes');    // what is wrong with some cameras is known, and what they hold may go
 zeb.click('#timeline_rec_exec');
 zeb.until("$('#timeline_rec_exec').data('status') === 2");
 shot('7-armed-dark');
