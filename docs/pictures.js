@@ -33,6 +33,8 @@ function toTab(name) {
 }
 
 // The table at work.
+zeb.setPref('env/style', 'light');
+zeb.setPref('wren/settings/syncInEnable', false);
 begin('eight-mixed');
 connect();
 lock([2, 5]);

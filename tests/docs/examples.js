@@ -28,8 +28,8 @@ function fail(text) {
 
 function run(place, args) {
     fs.rmSync(path.join(folder, 'prefs.ini'), { force: true });
-    const { status, stdout, stderr } = spawnSync(zebsim, ['--prefs', 'prefs.ini', ...args],
-        { cwd: folder, encoding: 'utf8' });
+    const { status, stdout, stderr } = spawnSync(zebsim, [...args, '--prefs', 'prefs.ini'],
+        { cwd: folder, encoding: 'utf8' }); // an example's own preferences give way
     if (status !== 0) {
         fail(`${place}: zebsim ${args.join(' ')} ended with ${status}\n${stdout}${stderr}`);
     }
