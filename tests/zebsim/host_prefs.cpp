@@ -1,3 +1,5 @@
+#include "Course.h"
+#include "FullDisk.h"
 #include "host/FactoryValues.h"
 #include "host/Preferences.h"
 #include "support/TestHost.h"
@@ -109,4 +111,22 @@ TEST_F(Prefs, AFileThatCantBeOpenedIsToldOf) {
     ASSERT_EQ(desk.shown.size(), 1);
     EXPECT_TRUE(desk.shown.first().text.contains(path));
     EXPECT_EQ(host.getPrefInt(QStringLiteral("wren/table/interval")), 500);
+}
+
+TEST_F(Prefs, OnAFullDiskStayAsTheyWere) {
+    Course log;
+    {
+        Preferences prefs(path);
+        prefs.setValue(QStringLiteral("my/text"), QStringLiteral("before"));
+    }
+    {
+        const FullDisk disk(10);
+        Preferences prefs(path);
+        prefs.setValue(QStringLiteral("my/text"), QStringLiteral("after"));
+        QCoreApplication::sendPostedEvents();
+        prefs.setValue(QStringLiteral("my/other"), QStringLiteral("after"));
+    }
+    EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files), QStringList{QStringLiteral("prefs.ini")});
+    EXPECT_EQ(Preferences(copied()).value(QStringLiteral("my/text")), QStringLiteral("before"));
+    EXPECT_THAT(log.take().join(QLatin1Char('\n')).toStdString(), testing::HasSubstr("prefs.ini"));
 }

@@ -27,15 +27,9 @@ QVariant convertedTo(int type, QVariant value, const QVariant& otherwise) {
     return value.convert(type) ? value : otherwise;
 }
 
-std::unique_ptr<QSettings> openSettings(const QString& path) {
-    auto settings = std::make_unique<QSettings>(path, QSettings::IniFormat);
-    settings->setIniCodec("UTF-8");
-    return settings;
-}
-
 }  // namespace
 
-Preferences::Preferences(const QString& path) : m_settings(openSettings(path.isEmpty() ? defaultPath() : path)) {
+Preferences::Preferences(const QString& path) : m_settings(std::make_unique<WholeSettings>(path.isEmpty() ? defaultPath() : path)) {
     // A section is parsed, and may show its damage, only when somebody asks for it.
     m_settings->allKeys();
     if (m_settings->status() == QSettings::FormatError) {
@@ -61,7 +55,7 @@ void Preferences::keepCorruptFileAside() {
                             "are in use.")
                             .arg(file, kept)
                       : QStringLiteral("The preference file %1 is damaged and could not be renamed.").arg(file);
-    m_settings = openSettings(file);
+    m_settings = std::make_unique<WholeSettings>(file);
 }
 
 QVariant Preferences::stored(const QString& key) const {

@@ -1,7 +1,8 @@
 #pragma once
 
+#include "host/WholeSettings.h"
+
 #include <QHash>
-#include <QSettings>
 #include <QVariant>
 
 #include <memory>
@@ -29,7 +30,7 @@ private:
     void keepCorruptFileAside();
     QVariant stored(const QString& key) const;
 
-    std::unique_ptr<QSettings> m_settings;
+    std::unique_ptr<WholeSettings> m_settings;
     /// All that is known; the file is written through.
     QHash<QString, QVariant> m_values;
     QString m_problem;
