@@ -1,6 +1,7 @@
 #include "GUI_Dialog.h"
 
 #include "TraceText.h"
+#include "WholePicture.h"
 
 #include <QEvent>
 #include <QKeyEvent>
@@ -14,7 +15,7 @@ GUI_Dialog::GUI_Dialog(QWidget* parent, Qt::WindowFlags windowFlags, bool ignore
 }
 
 bool GUI_Dialog::saveGrab(QWidget* widget, const QString& path) {
-    return widget->grab().save(path);
+    return writeWholePicture(path, widget->grab().toImage()).isEmpty();
 }
 
 void GUI_Dialog::userOperationLogWebView(const QString& url, const QString& operation, const QString& control,

@@ -9,6 +9,7 @@
 #include "ScenarioError.h"
 #include "Simulator.h"
 #include "ViewerWindow.h"
+#include "WholePicture.h"
 #include "host/PluginSlot.h"
 
 #include <QDialog>
@@ -125,7 +126,9 @@ void TableDriver::place(const QString& geometry) {
 QString TableDriver::shot(const QString& path) {
     const QFileInfo file(path);
     QDir().mkpath(file.absolutePath());
-    if (!stillPicture().save(path)) throw ScenarioError(QStringLiteral("%1: the picture can't be written").arg(path));
+    const QString reason = writeWholePicture(path, stillPicture());
+    if (!reason.isEmpty())
+        throw ScenarioError(QStringLiteral("%1: the picture can't be written: %2").arg(path, reason));
     return file.absoluteFilePath();
 }
 
