@@ -62,7 +62,9 @@ void SignalSources::openGenerator() {
     }
     DOC_SignalGenerator& generator = *m_state.generator;
     if (generator.isConnected()) return;
-    generator.connect(0, addressNumber(address));
+    const quint32 number = addressNumber(address);
+    if (number == 0) qCritical() << "The address of the signal generator is no IPv4 address:" << address;
+    generator.connect(0, number);
     if (!generator.isConnected())
         throw UTL_Exception(m_host.translate(QStringLiteral("Could not connect with signal generator")));
     if (!generator.isSupported())

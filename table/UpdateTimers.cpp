@@ -3,13 +3,20 @@
 #include "ZebHost.h"
 #include "ZebSaver.h"
 
+namespace {
+/// In milliseconds.
+constexpr int UsualInterval = 500;
+}  // namespace
+
 void UpdateTimers::renew(int interval) {
+    // A timer of 0 would leave no time for anything else.
+    interval = interval > 0 ? interval : UsualInterval;
     remove();
     m_update.reset(new QTimer);
-    m_update->setInterval(qMax(1, interval));
+    m_update->setInterval(interval);
     connect(m_update.data(), &QTimer::timeout, this, &UpdateTimers::tick);
     m_selection.reset(new QTimer);
-    m_selection->setInterval(qMax(1, interval));
+    m_selection->setInterval(interval);
     m_selection->setSingleShot(true);
     connect(m_selection.data(), &QTimer::timeout, this, &UpdateTimers::selected);
 }

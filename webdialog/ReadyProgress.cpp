@@ -24,7 +24,7 @@ GUI_ProgressDialog* makeReadyProgressDialog(const QString& label, ZebHost& host)
                                            "QProgressBar {color: black; text-align: center; height: 80px;}"
                                            "QProgressBar::chunk {color: black; background: ") %
                             colour % QStringLiteral(";}"));
-    progress->resize(800, 150);
+    progress->setFixedSize(800, 150);
     centerWithoutMainWindow(host, *progress);
     return progress;
 }

@@ -44,7 +44,9 @@ void CameraWindows::follow() {
     const QScopedValueRollback<bool> changing(m_changing, true);
     addAndRemove();
     forEach([](const Camera& camera, CameraWindow& window) {
-        if (window.windowTitle() != camera.name()) window.setWindowTitle(camera.name());
+        // Alone the three letters are Qt's mark of a changed document.
+        const QString title = QString(camera.name()).replace(QLatin1String("[*]"), QLatin1String("[*][*]"));
+        if (window.windowTitle() != title) window.setWindowTitle(title);
         window.view().setMarked(camera.get(&CameraState::selected));
     });
     activateCurrent();
