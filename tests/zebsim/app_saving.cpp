@@ -151,12 +151,13 @@ TEST_F(AppSaving, TellsOfCamerasThatAreNotThere) {
     EXPECT_EQ(progress->findChild<QLabel*>()->text(), "Not everything is saved.");
     EXPECT_THAT(results(), testing::ElementsAre(lost, testing::Property(&QString::toStdString,
                                                                         testing::StartsWith("Camera 1: 3 frames"))));
+    const QString none = "No connected camera has recorded images.\n";
     host.cameras().find(1)->set(&CameraState::connected, false);
     host.saveFiles();
-    EXPECT_EQ(messages().last(),
-              "No connected camera has recorded images.\n"
-              "Camera 1: the camera was disconnected. Its recording is not saved.\n" +
-                  lost);
+    EXPECT_EQ(messages().last(), none + lost) << "the other one is saved";
+    host.cameras().find(1)->change({{"selectedRange", QVariantList{8, 11}}});
+    host.saveFiles();
+    EXPECT_EQ(messages().last(), none + "Camera 1: the camera was disconnected. Its recording is not saved.\n" + lost);
 }
 
 TEST_F(AppSaving, TellsWhichFramesAreNotOfTheLastRecording) {

@@ -33,7 +33,7 @@ QList<AbsentCamera> LastShoot::absent() const {
                                           : AbsentCamera::Disconnected;
         for (const Recording& recording : camera->recordings()) {
             const bool canBeFetched = isThere && recording.partition == inUse;
-            if (recording.serial > m_before && !canBeFetched) {
+            if (recording.serial > m_before && !recording.saved && !canBeFetched) {
                 absent.append({m_cameras.labelOf(*camera), why, recording.partition});
             }
         }

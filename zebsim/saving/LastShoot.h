@@ -30,8 +30,8 @@ public:
 
     /// Whether `recording` was there before the last one that this object knows of.
     bool isEarlier(const Recording& recording) const;
-    /// The cameras that hold something of it, but are not connected any more or use another partition, in the order of
-    /// their keys.
+    /// The cameras that hold something of it that nobody has saved, but are not connected any more or use another
+    /// partition, in the order of their keys.
     QList<AbsentCamera> absent() const;
 
 private:
