@@ -11,7 +11,8 @@ function synchronised() {
 function expect(told, button, kind, wanted) {
     zeb.messages();
     zeb.click(button);
-    const shown = zeb.messages();
+    // What a search has found is told a moment later.
+    const shown = zeb.messages().filter(message => !message.text.startsWith('Search in'));
     check(shown.length === 1 && shown[0].kind === kind && shown[0].text.includes(wanted),
         `${told}: ${JSON.stringify(shown)}`);
 }
