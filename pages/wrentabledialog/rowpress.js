@@ -8,8 +8,10 @@ Object.assign(wrentabledialog_obj, {
             return;
         }
         const row = view.rowOf(event.target);
-        const isControl = event.target.closest('a, input, label[for], .SumoSelect, .wren_slider_lowlight') !== null;
-        this.rowPress = row && row !== view.batch && !isControl ? { view, key: row.key, target: event.target } : null;
+        const cell = row && row.cellOf(event.target);
+        const selects = cell && row !== view.batch && !view.tab.still.includes(cell.field) &&
+            !event.target.closest('a[dockey]');
+        this.rowPress = selects ? { view, key: row.key, target: event.target } : null;
         if (event.altKey || event.ctrlKey || event.shiftKey || event.metaKey) {
             view.grid.last.move = { type: 'expand' };
         }

@@ -65,6 +65,7 @@ TEST(PageSelection, OfManyRowsIsOneCall) {
     EXPECT_EQ(range.first().toArray().first().toArray().size(), Cameras - 1) << "those that come";
 }
 
+/// As without it when the hand moves a little.
 TEST(PageSelection, FollowsTheMouse) {
     struct Case {
         const char* what;
@@ -73,57 +74,27 @@ TEST(PageSelection, FollowsTheMouse) {
         Qt::KeyboardModifiers keys;
         QStringList after;
     };
-    const auto cell = [](int key, const char* inner) {
-        return QStringLiteral("#wren-cameraInfo-list #%1_%2").arg(QLatin1String(inner)).arg(key);
-    };
     TestHost test(connected(5));
     TablePage page(test);
     for (const Case& c : {
              Case{"a row", {}, row(2), {}, {"2"}},
-             Case{"another row", {"1", "3"}, row(2), {}, {"2"}},
+             Case{"one of several", {"1", "2", "5"}, row(2), {}, {"2"}},
              Case{"the one selected row", {"2"}, row(2), {}, {"2"}},
-             Case{"the one selected row with Ctrl", {"2"}, row(2), Qt::ControlModifier, {}},
-             Case{"one more row with Ctrl", {"2"}, row(4), Qt::ControlModifier, {"2", "4"}},
-             Case{"the comment",
-                  {"1"},
-                  QStringLiteral("#wren-cameraInfo-list tr[recid=\"2\"] td[col=\"8\"]"),
-                  {},
-                  {"1"}},
-             Case{"the lock", {"1"}, cell(2, "wren_cameraInfo_button_lockStatus_unlock"), {}, {"1"}},
+             Case{"one more", {"4"}, row(2), Qt::ControlModifier, {"2", "4"}},
+             Case{"one less", {"2", "4"}, row(2), Qt::ControlModifier, {"4"}},
+             Case{"the last one less", {"2"}, row(2), Qt::ControlModifier, {}},
+             Case{"a range", {"3", "4"}, row(2), Qt::ShiftModifier, {"2", "3", "4"}},
+             Case{"with Alt", {"3", "4"}, row(2), Qt::AltModifier, {"3", "4"}},
+             Case{"the comment", {"1"}, "#wren-cameraInfo-list tr[recid=\"2\"] td[col=\"8\"]", {}, {"1"}},
+             Case{"the lock", {"1"}, "#wren_cameraInfo_button_lockStatus_unlock_2", {}, {"1"}},
          }) {
-        SCOPED_TRACE(c.what);
-        choose(test, c.before);
-        page.update();
-        page.run(NoDoubleClick);
-        page.click(c.target, c.keys);
-        EXPECT_EQ(camerasWith(test, &CameraState::selected), c.after);
-        EXPECT_EQ(page.list("probe.selected()"), c.after);
-    }
-}
-
-TEST(PageSelection, TakesAClickOfAHandThatMovesForAClick) {
-    struct Case {
-        const char* what;
-        QStringList before;
-        Qt::KeyboardModifiers keys;
-        QStringList after;
-    };
-    TestHost test(connected(5));
-    TablePage page(test);
-    for (const Case& c : {
-             Case{"one of several", {"1", "2", "5"}, {}, {"2"}},
-             Case{"one more", {"4"}, Qt::ControlModifier, {"2", "4"}},
-             Case{"one less", {"2", "4"}, Qt::ControlModifier, {"4"}},
-             Case{"a range", {"4"}, Qt::ShiftModifier, {"2", "3", "4"}},
-             Case{"a longer range", {"3", "4"}, Qt::ShiftModifier, {"2", "3", "4"}},
-             Case{"with Alt", {"3", "4"}, Qt::AltModifier, {"3", "4"}},
-         }) {
-        for (const int pixels : {0, 3, 8, 14}) {
+        for (const int pixels : {0, 3, 8}) {
             SCOPED_TRACE(std::string(c.what) + " " + std::to_string(pixels));
             choose(test, c.before);
+            test.camera(2).set(&CameraState::locked, false);
             page.update();
             page.run(NoDoubleClick);
-            page.clickMoving(row(2), pixels, c.keys);
+            page.clickMoving(c.target, pixels, c.keys);
             EXPECT_EQ(camerasWith(test, &CameraState::selected), c.after);
             EXPECT_EQ(page.list("probe.selected()"), c.after);
         }
