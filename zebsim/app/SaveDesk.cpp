@@ -30,10 +30,10 @@ void SaveDesk::save(bool layout) {
         return;
     }
     SaveSources sources = saveSources(m_host.cameras(), m_fileNames);
-    for (SaveSource& source : sources) {
-        if (m_shoot.isEarlier(source.recording())) source.setName(uiText("%1 (earlier recording)").arg(source.name()));
-    }
-    const auto tracks = layout ? tracksOfLayout(sources, uiText("Layout")) : tracksOfEach(sources);
+    const QStringList earlier = markEarlier(sources);
+    auto tracks = layout ? tracksOfLayout(sources, uiText("Layout")) : tracksOfEach(sources);
+    if (layout && !earlier.isEmpty())
+        tracks.front().name = uiText("%1 with %2").arg(tracks.front().name, earlier.join(QStringLiteral(", ")));
     QStringList absent;
     for (const AbsentCamera& camera : m_shoot.absent()) absent << absentText(camera);
     absent << m_host.recorder().lost();
@@ -51,6 +51,16 @@ void SaveDesk::save(bool layout) {
            saveFormat(prefs.value(QStringLiteral("save/format")).toString()), tracks,
            [this](const QString& file) { return ask(file); }, VideoEncoder::installed(), absent},
           before);
+}
+
+QStringList SaveDesk::markEarlier(SaveSources& sources) const {
+    QStringList marked;
+    for (SaveSource& source : sources) {
+        if (!m_shoot.isEarlier(source.recording())) continue;
+        source.setName(uiText("%1 (earlier recording)").arg(source.name()));
+        marked << source.name();
+    }
+    return marked;
 }
 
 void SaveDesk::begin(const SaveOrders& orders, QWidget* before) {

@@ -2,15 +2,16 @@
 
 #include "saving/FileNames.h"
 #include "saving/LastShoot.h"
+#include "saving/SaveSource.h"
 
 #include <QPointer>
+#include <QStringList>
 
 #include <memory>
 
 class SaveJob;
 class SaveProgress;
 class SimHost;
-class QString;
 class QWidget;
 enum class Overwrite;
 struct SaveOrders;
@@ -28,6 +29,8 @@ public:
     bool isSaving() const;
 
 private:
+    /// Names those that are not of the last shoot so, and answers the names.
+    QStringList markEarlier(SaveSources& sources) const;
     /// `before` is the window that the user was in.
     void begin(const SaveOrders& orders, QWidget* before);
     void showProgress(QWidget* before);

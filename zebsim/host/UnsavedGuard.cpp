@@ -12,18 +12,22 @@ UnsavedGuard::UnsavedGuard(const CameraBank& cameras, const Preferences& prefs, 
     : m_cameras(cameras), m_prefs(prefs), m_translator(translator), m_ask(std::move(ask)) {}
 
 bool UnsavedGuard::mayRecordOver(const std::function<DocKeyList()>& toArm) const {
-    return mayLose(m_translator.translate(
-                       QStringLiteral("Cameras hold images that nobody has saved. Record over them all the same?")),
-                   [&] { return lostByRecording(heldRecordings(m_cameras, toArm())); });
+    const QString question = m_translator.translate(
+        QStringLiteral("Cameras hold images that nobody has saved. Record over them all the same?"));
+    return mayLose(question, "Unsaved images may be recorded over:", [&] {
+        return lostByRecording(heldRecordings(m_cameras, toArm()));
+    });
 }
 
 bool UnsavedGuard::mayClose() const {
-    return mayLose(m_translator.translate(
-                       QStringLiteral("Cameras hold images that nobody has saved. Close the viewer all the same?")),
-                   [&] { return lostByClosing(heldRecordings(m_cameras)); });
+    const QString question = m_translator.translate(
+        QStringLiteral("Cameras hold images that nobody has saved. Close the viewer all the same?"));
+    return mayLose(
+        question, "Unsaved images are lost with the viewer:", [&] { return lostByClosing(heldRecordings(m_cameras)); });
 }
 
-bool UnsavedGuard::mayLose(const QString& question, const std::function<HeldRecordings()>& lost) const {
+bool UnsavedGuard::mayLose(const QString& question, const char* log,
+                           const std::function<HeldRecordings()>& lost) const {
     QStringList givenUp;
     const auto remaining = [&] {
         QStringList left = lines(lost());
@@ -39,7 +43,7 @@ bool UnsavedGuard::mayLose(const QString& question, const std::function<HeldReco
         givenUp += asked;
     }
     if (!givenUp.isEmpty()) {
-        qWarning() << "Unsaved images were given up:" << givenUp;
+        qWarning() << log << givenUp;
     }
     return true;
 }

@@ -26,7 +26,8 @@ public:
     QStringList lines(const HeldRecordings& recordings) const;
 
 private:
-    bool mayLose(const QString& question, const std::function<HeldRecordings()>& lost) const;
+    /// `log` tells in the log what becomes of what was given up.
+    bool mayLose(const QString& question, const char* log, const std::function<HeldRecordings()>& lost) const;
 
     const CameraBank& m_cameras;
     const Preferences& m_prefs;

@@ -1216,6 +1216,10 @@
         <translation>%1: the last recording lies in partition %2. It is not saved.</translation>
     </message>
     <message>
+        <source>%1 with %2</source>
+        <translation>%1 with %2</translation>
+    </message>
+    <message>
         <source>%1 (earlier recording)</source>
         <translation>%1 (earlier recording)</translation>
     </message>

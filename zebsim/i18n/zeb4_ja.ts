@@ -1216,6 +1216,10 @@
         <translation>%1: 最後の撮影はパーティション %2 にあります。保存されません。</translation>
     </message>
     <message>
+        <source>%1 with %2</source>
+        <translation>%1（%2 を含む）</translation>
+    </message>
+    <message>
         <source>%1 (earlier recording)</source>
         <translation>%1（以前の撮影）</translation>
     </message>
