@@ -63,21 +63,12 @@ protected:
     std::unique_ptr<DOC_SignalGenerator> generator = std::make_unique<DOC_VIGen>(&host);
 };
 
-TEST_F(SignalGeneratorTest, AFrequencyIsElevenStepsInTheirOrder) {
-    connect();
-    generator->setFrequency(2000);
-    EXPECT_EQ(file.journal(), StepsOf2000);
-    EXPECT_EQ(generator->getFrequency(), 2000);
-    vi::sendCommandString(QStringLiteral("SYST:ERR?\n"));
-    EXPECT_EQ(vi::recvString(), "+0,\"No error\"\n");
-}
-
 TEST_F(SignalGeneratorTest, AStepThatIsRefusedIsTheLast) {
     connect();
     for (int n = 1; n <= 10; ++n) {
         file.script(R"({"viPrintf": {"status": -1, "from": )" + QByteArray::number(n) + "}}");
         EXPECT_THROW(generator->setFrequency(2000), DOC_Exception);
-        // The second step is no command.
+        // The second step is no command; at the tenth command all eleven steps have been made.
         EXPECT_EQ(file.journal(), StepsOf2000.mid(0, n == 1 ? 1 : n + 1));
     }
     file.script(R"({"viClear": {"status": -1}})");

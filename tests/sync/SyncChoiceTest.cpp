@@ -7,26 +7,25 @@
 
 namespace {
 
-/// A camera as "B 192.168.0.12": its class and its address.
-SyncCamera camera(const QString& text) {
-    SyncCamera camera;
-    camera.address = text.section(QLatin1Char(' '), 1);
-    const QString exposure = text.section(QLatin1Char(' '), 0, 0);
-    camera.delayed = exposure == QLatin1String("B") || exposure == QLatin1String("A*");
-    camera.exposure = exposureClassOf(exposure.startsWith(QLatin1Char('A')) ? 1 : 0, camera.delayed ? 2 : 0);
-    return camera;
-}
-
-QList<SyncCamera> cameras(const QStringList& texts) {
+/// Cameras as "B2 A*200.0.0.1": class and address each, of which 10.0.0. is left out.
+QList<SyncCamera> cameras(const char* texts) {
     QList<SyncCamera> all;
-    for (const QString& text : texts) all.append(camera(text));
+    for (const QString& text : QString(texts).split(' ', Qt::SkipEmptyParts)) {
+        const bool delayedA = text.startsWith("A*");
+        SyncCamera camera;
+        camera.address = text.mid(delayedA ? 2 : 1);
+        if (!camera.address.contains('.')) camera.address.prepend("10.0.0.");
+        camera.delayed = delayedA || text.startsWith('B');
+        camera.exposure = exposureClassOf(text.startsWith('A') ? 1 : 0, camera.delayed ? 2 : 0);
+        all.append(camera);
+    }
     return all;
 }
 
-QStringList addresses(const QList<SyncCamera>& cameras) {
+std::string addresses(const QList<SyncCamera>& cameras) {
     QStringList all;
-    for (const SyncCamera& camera : cameras) all.append(camera.address);
-    return all;
+    for (const SyncCamera& camera : cameras) all.append(QString(camera.address).remove("10.0.0."));
+    return all.join(' ').toStdString();
 }
 
 }  // namespace
@@ -38,97 +37,49 @@ TEST(SyncChoice, AddressesAreNumbersOfFourOctetsTheFirstTheHighest) {
 }
 
 TEST(SyncChoice, CandidatesForTheMaster) {
-    struct Case {
+    const struct {
         const char* sentence;
-        QStringList cameras;
+        const char* cameras;
         int triggerMode;
-        QStringList candidates;
+        const char* candidates;
+    } cases[] = {
+        {"without cameras nobody leads", "", zeb::TriggerStart, ""},
+        {"class A leads before N", "N1 A2 A3", zeb::TriggerStart, "2 3"},
+        {"class N leads when there is no A", "N2 N1", zeb::TriggerManual, "2 1"},
+        {"class B leads when there is nothing else", "B1 B2", zeb::TriggerStart, "1 2"},
+        {"a class A with a delay is still A", "A*1 B2", zeb::TriggerCenter, "1"},
+        {"mixed, post-trigger: B leads", "A1 B2 N3", zeb::TriggerCenter, "2"},
+        {"mixed, post-trigger without a pure B: nobody", "A*1 N2", zeb::TriggerEnd, ""},
+        {"mixed, start: A leads", "N3 B2 A1", zeb::TriggerStart, "1"},
+        {"mixed, random is no post-trigger mode: N when there is no A", "B2 N3", zeb::TriggerRandom, "3"},
     };
-    const Case cases[] = {
-        {"without cameras nobody leads", {}, zeb::TriggerStart, {}},
-        {"class A leads before N",
-         {"N 10.0.0.1", "A 10.0.0.2", "A 10.0.0.3"},
-         zeb::TriggerStart,
-         {"10.0.0.2", "10.0.0.3"}},
-        {"class N leads when there is no A",
-         {"N 10.0.0.2", "N 10.0.0.1"},
-         zeb::TriggerManual,
-         {"10.0.0.2", "10.0.0.1"}},
-        {"class B leads when there is nothing else",
-         {"B 10.0.0.1", "B 10.0.0.2"},
-         zeb::TriggerStart,
-         {"10.0.0.1", "10.0.0.2"}},
-        {"a class A with a delay is still A", {"A* 10.0.0.1", "B 10.0.0.2"}, zeb::TriggerCenter, {"10.0.0.1"}},
-        {"mixed, post-trigger: B leads", {"A 10.0.0.1", "B 10.0.0.2", "N 10.0.0.3"}, zeb::TriggerCenter, {"10.0.0.2"}},
-        {"mixed, post-trigger without a pure B: nobody", {"A* 10.0.0.1", "N 10.0.0.2"}, zeb::TriggerEnd, {}},
-        {"mixed, start: A leads", {"N 10.0.0.3", "B 10.0.0.2", "A 10.0.0.1"}, zeb::TriggerStart, {"10.0.0.1"}},
-        {"mixed, random is no post-trigger mode: N when there is no A",
-         {"B 10.0.0.2", "N 10.0.0.3"},
-         zeb::TriggerRandom,
-         {"10.0.0.3"}}};
-    for (const Case& each : cases) {
+    for (const auto& each : cases)
         EXPECT_EQ(addresses(masterCandidates(cameras(each.cameras), each.triggerMode)), each.candidates)
             << each.sentence;
-    }
 }
 
 TEST(SyncChoice, OrderOfTheCameras) {
-    struct Case {
+    const char* const mixed = "N9 B4 A200.0.0.1 A7 B2 N1";
+    const struct {
         const char* sentence;
-        QStringList cameras;
+        const char* cameras;
         bool external;
-        QString master;
+        const char* master;
         int triggerMode;
-        QStringList order;
+        const char* order;
+    } cases[] = {
+        {"external: by address, unsigned", mixed, true, "10.0.0.9", zeb::TriggerCenter, "1 2 4 7 9 200.0.0.1"},
+        {"chain, start: A, N, B behind it", mixed, false, "10.0.0.1", zeb::TriggerStart, "1 7 200.0.0.1 9 2 4"},
+        {"chain, post-trigger: B, A, N", mixed, false, "10.0.0.4", zeb::TriggerManual, "4 2 7 200.0.0.1 1 9"},
+        {"all with a delay: not mixed, A before B", "B1 A*2", false, "10.0.0.2", zeb::TriggerCenter, "2 1"},
+        {"the master is found by its number", "N1 N2", false, "10.00.0.02", zeb::TriggerStart, "2 1"},
+        {"of two heads of the master the first moves", "N1 N2 N2", false, "10.0.0.2", zeb::TriggerStart, "2 1 2"},
+        {"a master from elsewhere moves nobody", "N2 N1", false, "10.0.0.3", zeb::TriggerStart, "1 2"},
     };
-    const QStringList mixed{"N 10.0.0.9", "B 10.0.0.4", "A 200.0.0.1", "A 10.0.0.7", "B 10.0.0.2", "N 10.0.0.1"};
-    const Case cases[] = {{"external: by address, unsigned, and the master stays",
-                           mixed,
-                           true,
-                           "10.0.0.9",
-                           zeb::TriggerCenter,
-                           {"10.0.0.1", "10.0.0.2", "10.0.0.4", "10.0.0.7", "10.0.0.9", "200.0.0.1"}},
-                          {"chain, mixed, start: A, N, B behind the master",
-                           mixed,
-                           false,
-                           "10.0.0.1",
-                           zeb::TriggerStart,
-                           {"10.0.0.1", "10.0.0.7", "200.0.0.1", "10.0.0.9", "10.0.0.2", "10.0.0.4"}},
-                          {"chain, mixed, post-trigger: B, A, N behind the master",
-                           mixed,
-                           false,
-                           "10.0.0.4",
-                           zeb::TriggerManual,
-                           {"10.0.0.4", "10.0.0.2", "10.0.0.7", "200.0.0.1", "10.0.0.1", "10.0.0.9"}},
-                          {"chain, all with a delay, post-trigger: not mixed, A before B",
-                           {"B 10.0.0.1", "A* 10.0.0.2"},
-                           false,
-                           "10.0.0.2",
-                           zeb::TriggerCenter,
-                           {"10.0.0.2", "10.0.0.1"}},
-                          {"the master is found by its number",
-                           {"N 10.0.0.1", "N 10.0.0.2"},
-                           false,
-                           "10.00.0.02",
-                           zeb::TriggerStart,
-                           {"10.0.0.2", "10.0.0.1"}},
-                          {"of two heads with the master's address the first moves",
-                           {"N 10.0.0.1", "N 10.0.0.2", "N 10.0.0.2"},
-                           false,
-                           "10.0.0.2",
-                           zeb::TriggerStart,
-                           {"10.0.0.2", "10.0.0.1", "10.0.0.2"}},
-                          {"a master from elsewhere moves nobody",
-                           {"N 10.0.0.2", "N 10.0.0.1"},
-                           false,
-                           "10.0.0.3",
-                           zeb::TriggerStart,
-                           {"10.0.0.1", "10.0.0.2"}}};
-    for (const Case& each : cases) {
+    for (const auto& each : cases)
         EXPECT_EQ(addresses(sortForSync(cameras(each.cameras), each.external, each.master, each.triggerMode)),
                   each.order)
             << each.sentence;
-    }
 }
 
 TEST(SyncChoice, FrequencyThatTheTableShows) {
@@ -160,30 +111,12 @@ TEST(SyncChoice, FrequencyThatTheTableShows) {
     EXPECT_FALSE(needsFrequency(500, {1000, source})) << "it does not offer that";
 }
 
-TEST(SyncChoice, WhatKeepsCamerasFromSharingASignal) {
-    const QString type = "The selected camera does not support sync setting";
-    const QString modes = "Sync setting is possible only when all cameras are in the same trigger mode.";
-    const QString lowLight = "Synchronization setting is impossible due to the presence of low light camera.";
-    const QString mixed =
-        "Since the cameras with different exposure timings are mixed, the trigger mode of the start system can not be "
-        "used. Consider using manual mode.";
-    struct Case {
-        const char* sentence;
-        SyncFitness camera;
-        QString obstacle;
-    };
-    const Case cases[] = {
-        {"a camera in the mode of the others is fit", {true, zeb::TriggerManual, false}, {}},
-        {"another mode", {true, zeb::TriggerStart, false}, modes},
-        {"low light", {true, zeb::TriggerManual, true}, lowLight},
-        {"the type comes before the mode, the mode before low light", {false, zeb::TriggerStart, true}, type},
-        {"the mode comes before low light", {true, zeb::TriggerStart, true}, modes},
-    };
-    for (const Case& each : cases) {
-        EXPECT_EQ(syncObstacle(each.camera, zeb::TriggerManual), each.obstacle) << each.sentence;
-    }
+TEST(SyncChoice, TheFirstObstacleOfACameraIsTold) {
+    EXPECT_TRUE(
+        syncObstacle({false, zeb::TriggerStart, true}, zeb::TriggerManual).endsWith("not support sync setting"));
+    EXPECT_TRUE(syncObstacle({true, zeb::TriggerStart, true}, zeb::TriggerManual).endsWith("the same trigger mode."));
     for (int mode = zeb::TriggerStart; mode <= zeb::TriggerNoneError; ++mode) {
         const bool suits = QList<int>{1, 2, 3, 4, 6, 7, 13, 14}.contains(mode);
-        EXPECT_EQ(mixedExposureObstacle(mode), suits ? QString() : mixed) << mode;
+        EXPECT_EQ(mixedExposureObstacle(mode).isEmpty(), suits) << mode;
     }
 }
