@@ -14,11 +14,6 @@ constexpr auto Unchanged = "(100,50)-(299,149)";
 
 constexpr Tool::View Plain{0, false, false, 1.0};
 constexpr Tool::View Turned90{90, false, false, 1.0};
-constexpr Tool::View Turned180{180, false, false, 1.0};
-constexpr Tool::View Turned270{270, false, false, 1.0};
-constexpr Tool::View FlippedH{0, true, false, 1.0};
-constexpr Tool::View FlippedV{0, false, true, 1.0};
-constexpr Tool::View FlippedHTurned90{90, true, false, 1.0};
 
 Tool::Rules free() {
     Tool::Rules rules;
@@ -38,66 +33,59 @@ std::string text(const QRect& rect) {
 
 }  // namespace
 
-TEST(ToolRectangle, findsTheHandleUnderAPoint) {
+TEST(ToolRectangle, goesTheWayThatTheUserSees) {
+    // By the side of the rectangle: above, beside, below.
+    constexpr int handles[3][3] = {{Tool::TopLeftCorner, Tool::TopEdge, Tool::TopRightCorner},
+                                   {Tool::LeftEdge, Tool::Inside, Tool::RightEdge},
+                                   {Tool::BottomLeftCorner, Tool::BottomEdge, Tool::BottomRightCorner}};
+    constexpr Qt::CursorShape shapes[3][3] = {{Qt::SizeFDiagCursor, Qt::SizeVerCursor, Qt::SizeBDiagCursor},
+                                              {Qt::SizeHorCursor, Qt::SizeAllCursor, Qt::SizeHorCursor},
+                                              {Qt::SizeBDiagCursor, Qt::SizeVerCursor, Qt::SizeFDiagCursor}};
+    constexpr int keys[3][3] = {{0, Qt::Key_Up, 0}, {Qt::Key_Left, 0, Qt::Key_Right}, {0, Qt::Key_Down, 0}};
+    const QPoint points[3] = {Rect.topLeft(), Rect.center(), Rect.bottomRight()};
+    for (int i = 0; i < 16 * 9; ++i) {
+        SCOPED_TRACE(i);
+        const Tool::View view{90 * (i % 4), (i & 4) != 0, (i & 8) != 0, 1.0};
+        const QPoint side(i / 16 % 3 - 1, i / 48 - 1);
+        const QPoint seen = QTransform()
+                                .rotate(view.rotation)
+                                .scale(view.horizontalFlip ? -1 : 1, view.verticalFlip ? -1 : 1)
+                                .map(side);
+        const int key = keys[seen.y() + 1][seen.x() + 1];
+        const QPoint named = key != 0 ? seen : side;  // a corner is named by its place in the image
+        const int handle = handles[named.y() + 1][named.x() + 1];
+        const QPoint at(points[side.x() + 1].x(), points[side.y() + 1].y());
+        const bool all = side.isNull();
+        const QRect moved = Rect.adjusted(7 * (side.x() < 0 || all), 9 * (side.y() < 0 || all),
+                                          7 * (side.x() > 0 || all), 9 * (side.y() > 0 || all));
+        const Tool tool(Image, view, free());
+        EXPECT_EQ(tool.handleAt(Rect, at), handle);
+        EXPECT_EQ(tool.cursorFor(handle), shapes[seen.y() + 1][seen.x() + 1]);
+        EXPECT_EQ(text(tool.dragged(Rect, handle, at, at + QPoint(7, 9))), text(moved));
+        EXPECT_EQ(tool.stepped(Rect, key, {}).value_or(Rect), Rect.translated(key != 0 ? side : QPoint()));
+    }
+    EXPECT_EQ(Tool(Image, Plain, free()).cursorFor(Tool::Outside), std::nullopt);
+}
+
+TEST(ToolRectangle, findsTheHandleNearAPoint) {
     const struct {
         const char* sentence;
         QPoint point;
-        Tool::View view;
+        double zoom;
         int handle;
     } rows[] = {
-        {"a point on the upper edge", {200, 50}, Plain, Tool::TopEdge},
-        {"a point on the lower edge", {200, 149}, Plain, Tool::BottomEdge},
-        {"a point on the left edge", {100, 100}, Plain, Tool::LeftEdge},
-        {"a point on the right edge", {299, 100}, Plain, Tool::RightEdge},
-        {"a point at the top left corner", {100, 50}, Plain, Tool::TopLeftCorner},
-        {"a point at the top right corner", {299, 50}, Plain, Tool::TopRightCorner},
-        {"a point at the bottom left corner", {100, 149}, Plain, Tool::BottomLeftCorner},
-        {"a point at the bottom right corner", {299, 149}, Plain, Tool::BottomRightCorner},
-        {"a point well inside", {200, 100}, Plain, Tool::Inside},
-        {"five pixels out still hit the edge", {200, 45}, Plain, Tool::TopEdge},
-        {"six pixels out do not", {200, 44}, Plain, Tool::Outside},
-        {"five pixels in hit the edge, six are inside", {105, 100}, Plain, Tool::LeftEdge},
-        {"six pixels in are inside", {106, 100}, Plain, Tool::Inside},
-        {"beside the line of an edge is outside", {306, 50}, Plain, Tool::Outside},
-        {"at zoom 2 the tolerance is two pixels", {200, 47}, {0, false, false, 2.0}, Tool::Outside},
-        {"at zoom 0.5 the tolerance is ten pixels", {200, 40}, {0, false, false, 0.5}, Tool::TopEdge},
-        {"at zoom 8 one pixel of tolerance is left", {200, 49}, {0, false, false, 8.0}, Tool::TopEdge},
-        {"turned by 90 degrees, the upper edge is seen right", {200, 50}, Turned90, Tool::RightEdge},
-        {"turned by 180 degrees it is seen below", {200, 50}, Turned180, Tool::BottomEdge},
-        {"turned by 270 degrees it is seen on the left", {200, 50}, Turned270, Tool::LeftEdge},
-        {"flipped sideways, the left edge is seen right", {100, 100}, FlippedH, Tool::RightEdge},
-        {"flipped sideways the upper edge stays above", {200, 50}, FlippedH, Tool::TopEdge},
-        {"flipped upside down the upper edge is seen below", {200, 50}, FlippedV, Tool::BottomEdge},
-        {"flipped, then turned, the left edge is seen below", {100, 100}, FlippedHTurned90, Tool::BottomEdge},
-        {"a corner keeps its place in the image", {100, 50}, Turned90, Tool::TopLeftCorner},
+        {"five pixels out still hit the edge", {200, 45}, 1.0, Tool::TopEdge},
+        {"six pixels out do not", {200, 44}, 1.0, Tool::Outside},
+        {"five pixels in hit the edge, six are inside", {105, 100}, 1.0, Tool::LeftEdge},
+        {"six pixels in are inside", {106, 100}, 1.0, Tool::Inside},
+        {"beside the line of an edge is outside", {306, 50}, 1.0, Tool::Outside},
+        {"at zoom 2 the tolerance is two pixels", {200, 47}, 2.0, Tool::Outside},
+        {"at zoom 0.5 the tolerance is ten pixels", {200, 40}, 0.5, Tool::TopEdge},
+        {"at zoom 8 one pixel of tolerance is left", {200, 49}, 8.0, Tool::TopEdge},
     };
     for (const auto& row : rows)
-        EXPECT_EQ(Tool(Image, row.view, free()).handleAt(Rect, row.point), row.handle) << row.sentence;
-}
-
-TEST(ToolRectangle, showsTheWayAHandleGoesOnTheScreen) {
-    const struct {
-        const char* sentence;
-        int handle;
-        Tool::View view;
-        int shape;
-    } rows[] = {
-        {"the edge seen above goes up and down", Tool::TopEdge, Turned90, Qt::SizeVerCursor},
-        {"the edge seen on the right goes sideways", Tool::RightEdge, Turned90, Qt::SizeHorCursor},
-        {"the top left corner goes along the falling diagonal", Tool::TopLeftCorner, Plain, Qt::SizeFDiagCursor},
-        {"the bottom left corner goes along the rising one", Tool::BottomLeftCorner, Plain, Qt::SizeBDiagCursor},
-        {"a quarter turn swaps the diagonals", Tool::TopLeftCorner, Turned270, Qt::SizeBDiagCursor},
-        {"half a turn does not", Tool::TopLeftCorner, Turned180, Qt::SizeFDiagCursor},
-        {"a flip swaps them", Tool::TopRightCorner, FlippedV, Qt::SizeFDiagCursor},
-        {"a flip and a quarter turn do not", Tool::TopRightCorner, FlippedHTurned90, Qt::SizeBDiagCursor},
-        {"the inside goes everywhere", Tool::Inside, Plain, Qt::SizeAllCursor},
-        {"the outside has no cursor", Tool::Outside, Plain, -1},
-        {"no handle has no cursor", -1, Plain, -1},
-    };
-    for (const auto& row : rows) {
-        const auto shape = Tool(Image, row.view, free()).cursorFor(row.handle);
-        EXPECT_EQ(shape ? int(*shape) : -1, row.shape) << row.sentence;
-    }
+        EXPECT_EQ(Tool(Image, {0, false, false, row.zoom}, free()).handleAt(Rect, row.point), row.handle)
+            << row.sentence;
 }
 
 TEST(ToolRectangle, followsTheMouse) {
@@ -115,40 +103,25 @@ TEST(ToolRectangle, followsTheMouse) {
         const char* sentence;
         int handle;
         QPoint to;
-        Tool::View view;
         Tool::Rules rules;
         const char* result;
     } rows[] = {
-        {"an edge goes to the mouse", Tool::LeftEdge, {120, 9}, Plain, free(), "(120,50)-(299,149)"},
-        {"a corner takes two edges", Tool::BottomRightCorner, {400, 90}, Plain, free(), "(100,50)-(400,90)"},
-        {"the inside takes the whole rectangle", Tool::Inside, {210, 95}, Plain, free(), "(110,45)-(309,144)"},
-        {"a move stops at the image's border", Tool::Inside, {900, 100}, Plain, free(), "(440,50)-(639,149)"},
-        {"an edge stops there too", Tool::TopEdge, {200, -30}, Plain, free(), "(100,0)-(299,149)"},
-        {"an edge may go to the least size", Tool::RightEdge, {149, 0}, Plain, least, "(100,50)-(149,149)"},
-        {"an edge that would come closer stays", Tool::RightEdge, {148, 0}, Plain, least, Unchanged},
-        {"of a corner, only the edge too close stays",
-         Tool::TopLeftCorner,
-         {260, 60},
-         Plain,
-         least,
-         "(100,60)-(299,149)"},
-        {"an edge never passes its opposite", Tool::BottomEdge, {200, 10}, Plain, free(), Unchanged},
-        {"a mirrored edge moves its opposite too", Tool::LeftEdge, {200, 0}, Plain, mirrored, "(200,50)-(439,149)"},
-        {"mirrored edges keep the least size", Tool::LeftEdge, {300, 0}, Plain, mirroredAcross, Unchanged},
-        {"each axis is mirrored by itself",
-         Tool::TopLeftCorner,
-         {200, 60},
-         Plain,
-         mirroredAcross,
-         "(200,60)-(439,149)"},
-        {"mirroring does not touch a move", Tool::Inside, {210, 100}, Plain, mirrored, "(110,50)-(309,149)"},
-        {"turned, the right edge is the upper one", Tool::RightEdge, {0, 70}, Turned90, free(), "(100,70)-(299,149)"},
-        {"a resized one lies on the grid", Tool::BottomRightCorner, {250, 120}, Plain, grid, "(96,48)-(239,119)"},
-        {"a moved one begins on the grid", Tool::Inside, {230, 100}, Plain, grid, "(128,48)-(327,147)"},
-        {"the outside takes nothing", Tool::Outside, {0, 0}, Plain, free(), Unchanged},
+        {"a move stops at the image's border", Tool::Inside, {900, 100}, free(), "(440,50)-(639,149)"},
+        {"an edge stops there too", Tool::TopEdge, {200, -30}, free(), "(100,0)-(299,149)"},
+        {"an edge may go to the least size", Tool::RightEdge, {149, 0}, least, "(100,50)-(149,149)"},
+        {"an edge that would come closer stays", Tool::RightEdge, {148, 0}, least, Unchanged},
+        {"of a corner, only the edge too close stays", Tool::TopLeftCorner, {260, 60}, least, "(100,60)-(299,149)"},
+        {"an edge never passes its opposite", Tool::BottomEdge, {200, 10}, free(), Unchanged},
+        {"a mirrored edge moves its opposite too", Tool::LeftEdge, {200, 0}, mirrored, "(200,50)-(439,149)"},
+        {"mirrored edges keep the least size", Tool::LeftEdge, {300, 0}, mirroredAcross, Unchanged},
+        {"each axis is mirrored by itself", Tool::TopLeftCorner, {200, 60}, mirroredAcross, "(200,60)-(439,149)"},
+        {"mirroring does not touch a move", Tool::Inside, {210, 100}, mirrored, "(110,50)-(309,149)"},
+        {"a resized one lies on the grid", Tool::BottomRightCorner, {250, 120}, grid, "(96,48)-(239,119)"},
+        {"a moved one begins on the grid", Tool::Inside, {230, 100}, grid, "(128,48)-(327,147)"},
+        {"the outside takes nothing", Tool::Outside, {0, 0}, free(), Unchanged},
     };
     for (const auto& row : rows) {
-        const Tool tool(Image, row.view, row.rules);
+        const Tool tool(Image, Plain, row.rules);
         EXPECT_EQ(text(tool.dragged(Rect, row.handle, QPoint(200, 100), row.to)), row.result) << row.sentence;
     }
 }
@@ -175,18 +148,13 @@ TEST(ToolRectangle, followsTheArrowKeys) {
         Tool::Rules rules;
         const char* result;
     } rows[] = {
-        {"left moves it by one step", Qt::Key_Left, {}, Plain, steps, "(90,50)-(289,149)"},
-        {"down moves it by the other step", Qt::Key_Down, {}, Plain, steps, "(100,70)-(299,169)"},
+        {"an arrow moves it by its step", Qt::Key_Down, {}, Plain, steps, "(100,70)-(299,169)"},
         {"shift brings the right edge in", Qt::Key_Left, shift, Plain, steps, "(100,50)-(291,149)"},
         {"shift and control put the left edge out", Qt::Key_Left, both, Plain, steps, "(92,50)-(299,149)"},
         {"shift brings the upper edge in", Qt::Key_Down, shift, Plain, steps, "(100,54)-(299,149)"},
+        {"the right edge as it is seen", Qt::Key_Up, shift, Turned90, steps, "(100,50)-(291,149)"},
         {"mirrored, both edges move by half", Qt::Key_Right, shift, Plain, mirrored, "(105,50)-(294,149)"},
         {"at its least size it gets no smaller", Qt::Key_Right, shift, Plain, least, Unchanged},
-        {"turned by 90 degrees, up is left", Qt::Key_Up, {}, Turned90, steps, "(90,50)-(289,149)"},
-        {"turned by 270 degrees, up is right", Qt::Key_Up, {}, Turned270, steps, "(110,50)-(309,149)"},
-        {"turned by 180 degrees, left is right", Qt::Key_Left, {}, Turned180, steps, "(110,50)-(309,149)"},
-        {"flipped, left is right", Qt::Key_Left, {}, FlippedH, steps, "(110,50)-(309,149)"},
-        {"flipped, then turned, up is right", Qt::Key_Up, {}, FlippedHTurned90, steps, "(110,50)-(309,149)"},
     };
     for (const auto& row : rows) {
         const auto result = Tool(Image, row.view, row.rules).stepped(Rect, row.key, row.modifiers);
@@ -194,7 +162,6 @@ TEST(ToolRectangle, followsTheArrowKeys) {
         EXPECT_EQ(text(*result), row.result) << row.sentence;
     }
     EXPECT_FALSE(Tool(Image, Plain, steps).stepped(Rect, Qt::Key_Return, shift));
-
     const QRect atBorder(0, 0, 100, 100);
     EXPECT_EQ(Tool(Image, Plain, steps).stepped(atBorder, Qt::Key_Up, {}), atBorder);
 }
