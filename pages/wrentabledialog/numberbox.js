@@ -48,6 +48,7 @@ const numberBox = {
         const draft = this.draftOf(cell);
         keepingFocus(input, () => {
             $(input).spinnerRealtimeFire({ natural: false, decimal: false, callback: value => this.send(value) });
+            $(input).siblings('a').attr('data-id', input.id); // for the log
             this.held = { view, row, cell };
             if (draft) {
                 input.value = draft.text; // the widget tidies what it finds
