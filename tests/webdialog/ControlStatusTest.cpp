@@ -93,26 +93,28 @@ TEST_F(ControlStatusTest, CountsAndModes) {
     EXPECT_EQ(changes(), QStringList({"+IsMemoryMode", "+IsWren", "-IsLiveMode", "-IsNotCurrentAutoFocus"}));
 }
 
-TEST_F(ControlStatusTest, TriggerTestTakesBothPreferences) {
-    host.prefs().setValue("recording/useTriggerTest", false);
-    EXPECT_EQ(changes(), QStringList("+HideTriggerTest"));
-    host.prefs().setValue("recording/AutoDownload", false);
-    EXPECT_EQ(changes(), QStringList({"+HideTriggerTest", "+IsLiveNoAutoDownloadSetting"}));
-    host.prefs().setValue("recording/useTriggerTest", true);
-    EXPECT_EQ(changes(), QStringList({"+HideTriggerTest", "+IsLiveNoAutoDownloadSetting"}));
+TEST_F(ControlStatusTest, PreferencesAndTheCurrentPlugin) {
+    FakePlugin lens("lenscalib");
+    FakePlugin overlay("imageoverlay");
+    FakePlugin other("rotate");
+    const auto pref = [&](const char* key, bool on) { host.prefs().setValue(QLatin1String("recording/") + key, on); };
+    const std::pair<std::function<void()>, const char*> steps[] = {
+        {[&] { pref("useTriggerTest", false); }, "+HideTriggerTest"},
+        {[&] { pref("AutoDownload", false); }, "+HideTriggerTest +IsLiveNoAutoDownloadSetting"},
+        {[&] { pref("useTriggerTest", true); }, "+HideTriggerTest +IsLiveNoAutoDownloadSetting"},
+        {[&] { pref("AutoDownload", true); }, ""},
+        {[&] { host.appStatus().setCurrentPlugin(&lens); }, "+IsActiveLensCalibration"},
+        {[&] { lens.dragging = true; }, "+IsActiveLensCalibration +IsMouseDragging"},
+        {[&] { host.appStatus().setCurrentPlugin(&overlay); }, "+IsImageOverlay"},
+        {[&] { host.appStatus().setCurrentPlugin(&other); }, ""},
+    };
+    for (const auto& [step, expected] : steps) {
+        step();
+        EXPECT_EQ(changes().join(' '), expected);
+    }
+    pref("AutoDownload", false);
     host.enterMode(zeb::MemoryMode);
     EXPECT_FALSE(changes().contains("+IsLiveNoAutoDownloadSetting"));
-}
-
-TEST_F(ControlStatusTest, CurrentPlugin) {
-    for (const auto& [name, expected] : QList<QPair<QString, QStringList>>{
-             {"lenscalib", {"+IsActiveLensCalibration"}}, {"imageoverlay", {"+IsImageOverlay"}}, {"rotate", {}}}) {
-        FakePlugin plugin(name);
-        host.appStatus().setCurrentPlugin(&plugin);
-        EXPECT_EQ(changes(), expected);
-        plugin.dragging = true;
-        EXPECT_EQ(changes(), expected + QStringList("+IsMouseDragging"));
-    }
 }
 
 TEST_F(ControlStatusTest, DocumentIsTheCurrentOneOrTheOneGiven) {

@@ -20,6 +20,8 @@ protected:
 };
 
 const QStringList Refreshed = {"refresh 1 true", "refresh 2 true", "refresh 3 true"};
+const QStringList Restarted = {"beginDocEdit", "beginDocEditNotify", "restartLive 0 1 1"};
+const QStringList Committed = {"endDocEdit", "commitDocEdit"};
 
 TEST_F(Guard, UndoesWhatItDidWhateverTheModeIsByThen) {
     const struct {
@@ -32,12 +34,7 @@ TEST_F(Guard, UndoesWhatItDidWhateverTheModeIsByThen) {
     } cases[] = {
         {"live", 0, 0, false, true, QStringList("pauseLive 0") + Refreshed + QStringList("resumeLive")},
         {"live, no new images", 0, 0, false, false, {"pauseLive 0", "resumeLive"}},
-        {"live, with a restart",
-         0,
-         0,
-         true,
-         false,
-         {"beginDocEdit", "beginDocEditNotify", "restartLive 0 1 1", "resumeLive", "endDocEdit", "commitDocEdit"}},
+        {"live, with a restart", 0, 0, true, false, Restarted + QStringList{"resumeLive"} + Committed},
         {"memory", 1, 1, true, true, {"pausePlayer", "resumePlayer"}},
         {"from live to memory", 0, 1, false, false, {"pauseLive 0", "resumeLive"}},
         {"from memory to live", 1, 0, true, true, {"pausePlayer", "resumePlayer"}},
@@ -76,8 +73,7 @@ TEST_F(Guard, FailureLeavesNothingPaused) {
 
     host.failing = "restartLive";
     EXPECT_THROW(DocumentGuard(host, true), std::runtime_error);
-    EXPECT_EQ(course.take(),
-              QStringList({"beginDocEdit", "beginDocEditNotify", "restartLive 0 1 1", "endDocEdit", "commitDocEdit"}));
+    EXPECT_EQ(course.take(), Restarted + Committed);
     EXPECT_TRUE(mutexIsFree());
 }
 

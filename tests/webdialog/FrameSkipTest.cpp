@@ -6,11 +6,12 @@
 
 namespace {
 
+/// With all decimals that there are.
 QString text(double value) {
-    return QString::number(value, 'f', 4);
+    return QString::number(value, 'g', 15);
 }
 
-/// "least-most: offers", the numbers with four decimals.
+/// "least-most: offers".
 QString text(const FrameSkip& skip) {
     QStringList offers;
     for (const double value : skip.list) offers.append(text(value));
@@ -29,17 +30,17 @@ TEST(FrameSkip, ByTime) {
         int rate;
         const char* skip;
     } cases[] = {
-        {"steps of a frame's time", {}, {1000}, 4, 1000, "1.0000-4.0000: 1.0000 2.0000 3.0000 4.0000"},
-        {"rates share their divisor", {}, {2000, 3000, 2000}, 2, 1000, "1.0000-2.0000: 1.0000 2.0000"},
+        {"steps of a frame's time", {}, {1000}, 4, 1000, "1-4: 1 2 3 4"},
+        {"rates share their divisor", {}, {2000, 3000, 2000}, 2, 1000, "1-2: 1 2"},
         {"four decimals", {}, {30}, 3, 30, "33.3333-99.9999: 33.3333 66.6666 99.9999"},
         {"half a place goes up", {}, {32000}, 1, 32000, "0.0313-0.0313: 0.0313"},
         {"up goes into the whole part", {}, {600}, 3, 600, "1.6667-5.0001: 1.6667 3.3334 5.0001"},
-        {"without frames the shortest time alone", {}, {500}, NoFrameCount, 500, "2.0000-2.0000: 2.0000"},
-        {"offers stay while the rate stays", before, {1000}, 5, 1000, "1.0000-5.0000: 1.0000 2.0000 3.0000 5.0000"},
-        {"no second offer of the longest", before, {1000}, 2, 1000, "1.0000-2.0000: 1.0000 2.0000 3.0000"},
-        {"another rate makes other offers", before, {500}, 2, 500, "2.0000-4.0000: 2.0000 4.0000"},
-        {"a frame that takes no time", {}, {30000000}, 7, 30000000, "0.0000-0.0000: 0.0000"},
-        {"no rate at all", {}, {}, 2, 0, "1.0000-2.0000: 1.0000 2.0000"},
+        {"without frames the shortest time alone", {}, {500}, NoFrameCount, 500, "2-2: 2"},
+        {"offers stay while the rate stays", before, {1000}, 5, 1000, "1-5: 1 2 3 5"},
+        {"no second offer of the longest", before, {1000}, 2, 1000, "1-2: 1 2 3"},
+        {"another rate makes other offers", before, {500}, 2, 500, "2-4: 2 4"},
+        {"a frame that takes no time", {}, {30000000}, 7, 30000000, "0-0: 0"},
+        {"no rate at all", {}, {}, 2, 0, "1-2: 1 2"},
     };
     for (const auto& row : cases) {
         const FrameSkip skip = skipByTime(row.before, row.rates, row.frames);
@@ -48,7 +49,7 @@ TEST(FrameSkip, ByTime) {
     }
     QStringList ten;
     for (int i = 1; i <= 10; ++i) ten.append(text(double(i)));
-    EXPECT_EQ(text(skipByTime({}, {1000}, 10)), QString("1.0000-10.0000: " + ten.join(' ')));
+    EXPECT_EQ(text(skipByTime({}, {1000}, 10)), QString("1-10: " + ten.join(' ')));
 }
 
 /// The bridge of an export.
@@ -75,6 +76,7 @@ QVariantMap recording(int rate, int recordedRate, int last) {
 
 TEST(FrameSkip, FollowsWhatIsExported) {
     const QMap<DOCKEY, QList<PARTITIONNUMBER>> Both = {{1, {1, 2}}, {2, {1}}};
+    const QMap<DOCKEY, QList<PARTITIONNUMBER>> Blank = {{3, {1}}};  // has recorded nothing
     const struct {
         const char* sentence;
         QMap<DOCKEY, QList<PARTITIONNUMBER>> targets;
@@ -85,28 +87,14 @@ TEST(FrameSkip, FollowsWhatIsExported) {
         int offers;
         QStringList calls;
     } cases[] = {
-        {"nothing to export", {}, SkipByTime, zeb::LiveMode, 9, "1.0000 1.0000", 0, {}},
-        {"frames of the shortest", Both, SkipByFrames, zeb::MemoryMode, 5, "1.0000 6.0000", 0, {"apply 5.0000"}},
-        {"a value above", Both, SkipByFrames, zeb::MemoryMode, 7, "1.0000 6.0000", 0, {"apply 1.0000"}},
-        {"the bounds belong to it", {{1, {1}}}, SkipByFrames, zeb::MemoryMode, 8, "1.0000 8.0000", 0, {"apply 8.0000"}},
-        {"no frames known",
-         {{3, {1}}},
-         SkipByFrames,
-         zeb::MemoryMode,
-         9,
-         "1.0000 4294967295.0000",
-         0,
-         {"apply 9.0000"}},
-        {"rates of the cameras", Both, SkipByTime, zeb::LiveMode, 4, "2.0000 16384.0000", 8192, {"apply 4.0000"}},
-        {"rates of the recordings", Both, SkipByTime, zeb::MemoryMode, 4, "40.0000 240.0000", 6, {"apply 40.0000"}},
-        {"no rate known",
-         {{3, {1}}},
-         SkipByTime,
-         zeb::MemoryMode,
-         9,
-         "1.0000 4294967295.0000",
-         0,
-         {"mode 0", "apply 9.0000"}},
+        {"nothing to export", {}, SkipByTime, zeb::LiveMode, 9, "1 1", 0, {}},
+        {"frames of the shortest", Both, SkipByFrames, zeb::MemoryMode, 5, "1 6", 0, {"apply 5"}},
+        {"a value above", Both, SkipByFrames, zeb::MemoryMode, 7, "1 6", 0, {"apply 1"}},
+        {"the bounds belong to it", {{1, {1}}}, SkipByFrames, zeb::MemoryMode, 8, "1 8", 0, {"apply 8"}},
+        {"no frames known", Blank, SkipByFrames, zeb::MemoryMode, 9, "1 4294967295", 0, {"apply 9"}},
+        {"rates of the cameras", Both, SkipByTime, zeb::LiveMode, 4, "2 16384", 8192, {"apply 4"}},
+        {"rates of the recordings", Both, SkipByTime, zeb::MemoryMode, 4, "40 240", 6, {"apply 40"}},
+        {"no rate known", Blank, SkipByTime, zeb::MemoryMode, 9, "1 4294967295", 0, {"mode 0", "apply 9"}},
     };
     for (const auto& row : cases) {
         FaultyHost host{3};
