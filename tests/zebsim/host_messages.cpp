@@ -171,17 +171,12 @@ TEST_F(Messages, SelectionHasACurrentDocument) {
 TEST_F(Messages, StatesOfTheHostFollowItsCameras) {
     const ZebCameraOps& cameras = host.cameraOps();
     const auto states = [&] {
+        const QList<QPair<QString, bool>> all{
+            {"chosen", cameras.isLowlight()},          {"one", cameras.existLowlight()},
+            {"all on", cameras.isAllLowlight(true)},   {"all off", cameras.isAllLowlight(false)},
+            {"locked", cameras.isAllWrenLockDevice()}, {"recording", host.recorder().isRecording()}};
         QStringList on;
-        for (const auto& [state, isOn] : QList<QPair<QString, bool>>{{"chosen", cameras.isLowlight()},
-                                                                     {"one", cameras.existLowlight()},
-                                                                     {"all on", cameras.isAllLowlight(true)},
-                                                                     {"all off", cameras.isAllLowlight(false)},
-                                                                     {"locked", cameras.isAllWrenLockDevice()},
-                                                                     {"recording", host.recorder().isRecording()}}) {
-            if (isOn) {
-                on.append(state);
-            }
-        }
+        for (const auto& [state, isOn] : all) on += isOn ? QStringList(state) : QStringList();
         return on.join(QStringLiteral(", "));
     };
     EXPECT_EQ(states(), "all on, all off") << "there is no connected camera that would have to be switched";

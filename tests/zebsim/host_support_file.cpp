@@ -5,7 +5,6 @@
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
-#include <QJsonObject>
 #include <QProcess>
 
 #include <gtest/gtest.h>
@@ -48,34 +47,13 @@ TEST(SupportFile, IsAZipThatAnotherProgramReads) {
 }
 
 TEST(SupportFile, HoldsTheLogOfEveryCameraThatKeepsOne) {
-    const QByteArray shipped = contentOf(QStringLiteral(SOURCE_FOLDER "/zebsim/rigs/models.json"));
-    QJsonObject model = QJsonDocument::fromJson(shipped)["models"][0].toObject();
-    QJsonArray models;
-    QJsonArray devices = {
-        QJsonObject{{"address", "10.0.0.1"}, {"model", "standard"}, {"heads", QJsonArray{QJsonObject()}}}};
-    for (const int function : {158, 176}) {
-        const QString name = QStringLiteral("logs %1").arg(function);
-        model["name"] = name;
-        model["functions"] = QJsonArray{function};
-        models.append(model);
-        devices.append(QJsonObject{{"address", QStringLiteral("10.0.0.%1").arg(function)},
-                                   {"model", name},
-                                   {"heads", QJsonArray{QJsonObject{{"alerts", QJsonArray{"It is\nhot"}}}}}});
-    }
-    QTemporaryDir folder;
-    const auto write = [&folder](const char* name, const QJsonObject& object) {
-        QFile file(folder.filePath(name));
-        file.open(QIODevice::WriteOnly);
-        file.write(QJsonDocument(object).toJson());
-        return file.fileName();
-    };
-    write("m.json", {{"models", models}});
-    TestHost test(Rig::fromFile(write("r.json", {{"models", "m.json"}, {"devices", devices}})));
+    TestHost test(Rig::fromFile(QStringLiteral(SOURCE_FOLDER "/tests/webdialog/rigs/functions.json")));
+    test.camera(4).change({{"alerts", QStringList{"It is\nhot"}}});
     ZebSupportFile file;
     test.host.prepareSupportFile(file);
-    EXPECT_EQ(file.files.keys().filter("camera-"), QStringList({"camera-2.log", "camera-3.log"}));
-    EXPECT_TRUE(file.files.value("camera-3.log").contains("10.0.0.176"));
-    EXPECT_TRUE(file.files.value("camera-3.log").endsWith("\nAlert: \"It is\\nhot\"\n"));
+    EXPECT_EQ(file.files.keys().filter("camera-"), QStringList({"camera-3.log", "camera-4.log"}));
+    EXPECT_TRUE(file.files.value("camera-4.log").contains("192.168.0.12"));
+    EXPECT_TRUE(file.files.value("camera-4.log").endsWith("\nAlert: \"It is\\nhot\"\n"));
 }
 
 TEST(SupportFile, LeavesNothingBehindWhereItCannotBeWritten) {

@@ -4,7 +4,6 @@
 
 #include <QDialog>
 #include <QJSEngine>
-#include <QQmlEngine>
 #include <QVBoxLayout>
 #include <QWebView>
 
@@ -33,24 +32,6 @@ TEST(ModalDialogs, StandOnceTheirPageHasLoaded) {
     EXPECT_EQ(wordsOf(dialog), "loaded");
     EXPECT_EQ(wordsOf(dialog), "loaded") << "and each time they are shown";
     EXPECT_THROW(ScenarioDialogs::pageOfStanding(), ScenarioError) << "none stands now";
-}
-
-TEST(ModalDialogs, RunOneFunctionEach) {
-    ScenarioDialogs dialogs;
-    QJSEngine engine;
-    QDialog first;
-    engine.globalObject().setProperty("first", engine.newQObject(&first));
-    QQmlEngine::setObjectOwnership(&first, QQmlEngine::CppOwnership);
-    engine.evaluate("var runs = 0");
-    dialogs.expect(engine.evaluate("(function () { runs += 1; first.accept(); })"));
-    dialogs.expect(engine.evaluate("(function () { runs += 10; first.reject(); })"));
-    QDialog modeless;
-    modeless.show();
-    EXPECT_EQ(first.exec(), QDialog::Accepted);
-    EXPECT_EQ(engine.evaluate("runs").toInt(), 1);
-    EXPECT_EQ(first.exec(), QDialog::Rejected);
-    EXPECT_EQ(engine.evaluate("runs").toInt(), 11);
-    EXPECT_EQ(dialogs.leftOver(), QString());
 }
 
 TEST(ModalDialogs, TellWhatAFunctionThrew) {

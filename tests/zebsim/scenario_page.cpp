@@ -102,27 +102,25 @@ TEST_F(Page, TellsWhatIsWrongWithAScript) {
 }
 
 TEST_F(Page, ClicksAsTheWindowSystemDoes) {
-    input.click(QStringLiteral("#top"), {});
-    EXPECT_EQ(seen(), QStringLiteral("top mousedown, top mouseup, top click"));
-    ClickOptions options;
-    options.modifiers = Qt::ControlModifier | Qt::ShiftModifier;
-    input.click(QStringLiteral("#top"), options);
-    EXPECT_EQ(seen(), QStringLiteral("top mousedown ctrl shift, top mouseup ctrl shift, top click ctrl shift"));
-    options = {};
-    options.twice = true;
-    input.click(QStringLiteral("#top"), options);
-    EXPECT_THAT(seen().toStdString(), testing::EndsWith("top dblclick"));
-    options = {};
-    options.button = Qt::RightButton;
-    input.click(QStringLiteral("#top"), options);
-    EXPECT_THAT(seen().toStdString(), testing::StartsWith("top mousedown"));
-    options = {};
-    options.part = ClickOptions::PressOnly;
-    input.click(QStringLiteral("#top"), options);
-    EXPECT_EQ(seen(), QStringLiteral("top mousedown"));
-    options.part = ClickOptions::ReleaseOnly;
-    input.click(QStringLiteral("#top"), options);
-    EXPECT_EQ(seen(), QStringLiteral("top mouseup, top click"));
+    const auto with = [](const std::function<void(ClickOptions&)>& set) {
+        ClickOptions options;
+        set(options);
+        return options;
+    };
+    const std::pair<ClickOptions, const char*> clicks[] = {
+        {{}, "top mousedown, top mouseup, top click"},
+        {with([](ClickOptions& o) { o.modifiers = Qt::ControlModifier | Qt::ShiftModifier; }),
+         "top mousedown ctrl shift, top mouseup ctrl shift, top click ctrl shift"},
+        {with([](ClickOptions& o) { o.twice = true; }),
+         "top mousedown, top mouseup, top click, top mousedown, top mouseup, top click, top dblclick"},
+        {with([](ClickOptions& o) { o.part = ClickOptions::PressOnly; }), "top mousedown"},
+        {with([](ClickOptions& o) { o.part = ClickOptions::ReleaseOnly; }), "top mouseup, top click"},
+        {with([](ClickOptions& o) { o.button = Qt::RightButton; }), "top mousedown, top mouseup"},
+    };
+    for (const auto& [options, events] : clicks) {
+        input.click(QStringLiteral("#top"), options);
+        EXPECT_EQ(seen(), events);
+    }
 }
 
 TEST_F(Page, ScrollsToWhatIsNotInViewAndToWhatIsNotDrawnYet) {
@@ -141,14 +139,6 @@ TEST_F(Page, RefusesWhatAPersonCouldNotClick) {
     EXPECT_THAT(fault(QStringLiteral("#a'b\"[")), testing::HasSubstr("in the page"));
 }
 
-TEST_F(Page, DragsFromOneElementToAnother) {
-    input.drag(QStringLiteral("#top"), QStringLiteral("#field"));
-    const std::string events = seen().toStdString();
-    EXPECT_THAT(events, testing::StartsWith("top mousedown, top mousemove"));
-    EXPECT_THAT(events, testing::HasSubstr("room mousemove"));
-    EXPECT_THAT(events, testing::HasSubstr("field mouseup"));
-}
-
 TEST_F(Page, TypesTextAndPressesKeysByName) {
     input.click(QStringLiteral("#field"), {});
     typeText(*view.windowHandle(), QStringLiteral("aX 9+日本\b\"<"));
@@ -157,16 +147,6 @@ TEST_F(Page, TypesTextAndPressesKeysByName) {
     for (const char* name : {"Shift+Home", "Ctrl+X", "Shift+B", "8"}) pressKey(QString::fromUtf8(name), 0, never);
     EXPECT_EQ(run("document.getElementById('field').value").toString(), QStringLiteral("B8"));
     EXPECT_THROW(pressKey(QStringLiteral("Shift+Nothing"), 0, never), ScenarioError);
-}
-
-TEST_F(Page, ChoosesInAListByValueAndByText) {
-    run("document.body.innerHTML = '<select id=list><option value=1>one<option value=2>two</select>'");
-    const QString list = QStringLiteral("#list");
-    input.choose(list, QStringLiteral("2"));
-    EXPECT_EQ(run("document.getElementById('list').value").toString(), QStringLiteral("2"));
-    input.choose(list, QStringLiteral("one"));
-    EXPECT_EQ(run("document.getElementById('list').value").toString(), QStringLiteral("1"));
-    EXPECT_THROW(input.choose(list, QStringLiteral("3")), ScenarioError);
 }
 
 }  // namespace

@@ -40,8 +40,10 @@ protected:
 };
 
 TEST_F(Runner, TellsByItsStatusWhetherAllChecksHeld) {
-    const Outcome good = run("print('hello'); print([1, {a: 'x'}]); check(1 < 2, 'small');");
+    const Outcome good =
+        run("print('hello'); print([1, {a: 'x'}]); check(1 < 2, 'small'); zeb.status('IsSaving', true)");
     EXPECT_EQ(good.status, 0);
+    EXPECT_TRUE(simulator.host().saver().isSaving());
     EXPECT_EQ(good.output, "hello\n[1,{\"a\":\"x\"}]\nok: small\n");
     const Outcome bad = run("\nfunction f(x) {\n  check(x, 'held');\n}\nf(0);\ncheck(true, 'after');\n");
     EXPECT_EQ(bad.status, 1);
@@ -107,17 +109,6 @@ TEST_F(Runner, ClosesADialogThatNobodyAnswersInTime) {
     QTimer::singleShot(0, &dialog, [&] { answer = dialog.exec(); });
     EXPECT_EQ(run("zeb.wait(1e9)", 1).status, 1);
     EXPECT_EQ(answer, QDialog::Rejected);
-}
-
-TEST_F(Runner, SwitchesAStateOfTheHost) {
-    EXPECT_EQ(run("zeb.status('IsSaving', true)").status, 0);
-    EXPECT_TRUE(simulator.host().saver().isSaving());
-}
-
-TEST_F(Runner, LetsTheHostsTimePass) {
-    const qint64 start = simulator.clock().now();
-    EXPECT_EQ(run("zeb.speed(1000); zeb.wait(20000);").status, 0);
-    EXPECT_GE(simulator.clock().now() - start, 20000);
 }
 
 }  // namespace
