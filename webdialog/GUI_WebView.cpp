@@ -21,7 +21,8 @@ GUI_WebView::~GUI_WebView() {
 void GUI_WebView::focusOutEvent(QFocusEvent* event) {
     const bool windowIsLeft = event->reason() == Qt::ActiveWindowFocusReason || event->reason() == Qt::PopupFocusReason;
     QWebFrame& frame = *page()->mainFrame();
-    if (!windowIsLeft) frame.findFirstElement(QStringLiteral(":focus")).evaluateJavaScript(QStringLiteral("this.blur()"));
+    if (!windowIsLeft)
+        frame.findFirstElement(QStringLiteral(":focus")).evaluateJavaScript(QStringLiteral("this.blur()"));
     QWebView::focusOutEvent(event);
 }
 
