@@ -38,13 +38,10 @@ zeb.click('#timeline_rec_exec');
 check(zeb.until(`${STATUS} === 2`), 'all are armed');
 zeb.click('#timeline_rec_exec');
 check(zeb.until("$('#tabs').tabs('option', 'active') === 5"), 'the first shoot');
-check(zeb.messages().length === 0, 'a first one asks nothing');
-
 live();
 const lines = keeps(() => zeb.click('#timeline_rec_exec'), 'Return', OVER);
 check(lines.length === 8 && lines[0] === 'Gate (192.168.0.11): 64 frames' && lines[1] === 'Ramp: 64 frames',
     'each camera is named with its frames');
-check(zeb.page(STATUS) === 0, 'the button still arms');
 keeps(() => zeb.key('F12'), 'Esc', OVER);
 
 zeb.mode('memory');

@@ -174,27 +174,15 @@ TEST_F(AppSaving, TellsWhichFramesAreNotOfTheLastRecording) {
     second.change({{"recorded", true}, {"recordedRange", QVariantList{0, 2}}});
     const QString away = "Camera 2: the last recording lies in partition 1. It is not saved.";
     const QString earlier = "Camera 1 (earlier recording)";
-    ModalWatcher watcher;
-    QStringList names;
-    QObject::connect(&watcher, &ModalWatcher::stands, [&](QDialog* dialog) {
-        const auto* table = dialog->findChild<QTableWidget*>("cameras");
-        for (int row = 0; table && row < 3; ++row) names << table->item(row, 0)->text();
-    });
     dialogs.saves().order({});
     host.saveLayoutFiles();
     EXPECT_EQ(results(),
               QStringList({away, "Layout with " + earlier + ", Camera 2 (earlier recording): 3 frames saved in " +
                                      QDir::toNativeSeparators(folder.filePath("out"))}));
-    EXPECT_EQ(names, QStringList({away, earlier, "Camera 2 (earlier recording)"}));
     const QImage picture(folder.filePath("out/Layout_00000.png"));
     const QImage tile = picture.copy(60, 0, 360, 360).convertToFormat(QImage::Format_RGB32);
     EXPECT_EQ(tile, drawFrame({earlier, {64, 64}, -1, -1000}, {360, 360})) << "where its number stands too";
-    EXPECT_EQ(heldRecordings(host.cameras()).size(), 3U);
     EXPECT_EQ(lostByClosing(heldRecordings(host.cameras())).size(), 2U) << "a layout shows less than they hold";
-    dialogs.saves().order({});
-    host.saveFiles();
-    results();
-    EXPECT_EQ(lostByClosing(heldRecordings(host.cameras())).size(), 1U);
 }
 
 TEST_F(AppSaving, ShowsTheProgressOfMoreFramesThanAnIntCounts) {

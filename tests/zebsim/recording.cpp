@@ -166,6 +166,7 @@ TEST_F(RecordingTest, ThePressTakesInWhatIsArmedAndLeavesAloneWhatRecords) {
     armAll();
     EXPECT_EQ(states(), "2 3 2 - 2");
     EXPECT_FALSE(test.doc(3)->control().hasRecordedData());
+    EXPECT_THROW(test.doc(3)->control().eraseRecordedData(0), std::runtime_error);
     host.recorder().triggerRecording();
     const char* notice = "Camera 2: the camera records by itself. It does not take part in the recording.";
     EXPECT_EQ(messages(), notice);

@@ -137,25 +137,14 @@ TEST_F(Saving, NamesFilesSoThatEverySystemTakesThem) {
 
 TEST_F(Saving, CallsTheFilesOfNoTwoCamerasAlike) {
     FileNames names({"Layout"});
-    const struct {
-        const char* what;
-        QStringList cameras, names;
-    } rows[] = {
-        {"alike whatever the case, or once they are cleaned",
-         {"Gate", "gATE", "a/b", "a:b", "Roof"},
-         {"Gate_0", "gATE_1", "a_b_2", "a_b_3", "Roof"}},
-        {"one is called as another with its address", {"Gate", "Gate", "Gate_0"}, {"Gate_0", "Gate_1", "Gate_0_2"}},
-        {"a name that others have had", {"Door", "Roof", "Track", "Roof"}, {"Door", "Roof_1", "Track", "Roof_3"}},
-        {"one that has had it before",
-         {"Door", "Wall", "Hall", "Gate", "Roof"},
-         {"Door", "Wall", "Hall", "Gate", "Roof"}},
-        {"the name of another camera's files", {"Track", "Door"}, {"Track_0", "Door_1"}},
-        {"what a layout's files are called", {"layout"}, {"layout_0"}},
-    };
-    for (const auto& row : rows) {
-        QList<NamedCamera> cameras;
-        for (const QString& name : row.cameras) cameras.append({name, QString::number(cameras.size())});
-        EXPECT_EQ(names.of(cameras), row.names) << row.what;
+    for (const auto& [cameras, called] : std::initializer_list<std::pair<const char*, const char*>>{
+             {"Gate gATE a/b a:b Roof", "Gate_0 gATE_1 a_b_2 a_b_3 Roof"},
+             {"Gate Gate Gate_0", "Gate_0 Gate_1 Gate_0_2"},
+             {"Door Roof Track Wall Roof", "Door Roof_1 Track Wall Roof_4"},
+             {"Track Layout Door Hall Roof", "Track_0 Layout_1 Door_2 Hall Roof"}}) {
+        QList<NamedCamera> known;
+        for (const QString& name : QString(cameras).split(' ')) known.append({name, QString::number(known.size())});
+        EXPECT_EQ(names.of(known).join(' ').toStdString(), called) << "as some of them were called before";
     }
 }
 
@@ -163,16 +152,15 @@ TEST_F(Saving, NeverWritesOverAnotherCamerasFrames) {
     host.camera(3).set(&CameraState::name, "gate");
     answer = Overwrite::All;
     run(orders());
-    const auto written = [this](const char* name) { return QImage(path(name)); };
-    const QImage first = written("Gate_192.168.0.11_00000.png");
-    ASSERT_FALSE(first.isNull());
+    const QString first = path("Gate_192.168.0.11_00000.png");
+    const QImage written(first);
+    ASSERT_FALSE(written.isNull());
     host.host.faults().plant(1, "*", {{}, 0, true});
-    EXPECT_EQ(run(orders()), QStringList("gate: 3 of 3 up to 2, saved"));
-    EXPECT_EQ(written("Gate_192.168.0.11_00000.png"), first);
-    host.camera(3).set(&CameraState::name, "GATE_192.168.0.11");
-    run(orders());
-    EXPECT_EQ(written("Gate_192.168.0.11_00000.png"), first) << "nor does one that is called as those files";
-    EXPECT_EQ(asked.size(), 1);
+    for (const char* name : {"gate", "GATE_192.168.0.11"}) {
+        host.camera(3).set(&CameraState::name, name);
+        run(orders());
+        EXPECT_EQ(QImage(first), written) << name;
+    }
     EXPECT_EQ(files().size(), 2 + 3 + 3);
 }
 
@@ -231,17 +219,12 @@ TEST_F(Saving, GoesOnAfterAFileThatCannotBeWritten) {
 
 TEST_F(Saving, LeavesOldPicturesWholeOnAFullDisk) {
     writeOld(AllFiles[1]);
+    host.camera(1).set(&CameraState::selectedRange, {100, 100});
     {
         const FullDisk disk(100);
-        EXPECT_EQ(run(orders()), QStringList({"Gate: 0 of 2 up to 0, failed", "Nozzle/2: 0 of 3 up to 0, failed"}));
-        EXPECT_FALSE(reason.isEmpty());
-        host.camera(1).set(&CameraState::selectedRange, {100, 100});
-        run(orders());
+        EXPECT_EQ(run(orders()), QStringList({"Gate: 0 of 1 up to 0, failed", "Nozzle/2: 0 of 3 up to 0, failed"}));
     }
-    EXPECT_EQ(asked, QStringList(AllFiles[1]));
-    EXPECT_TRUE(isOld(AllFiles[1]));
-    EXPECT_EQ(files(), QStringList(AllFiles[1])) << "and nothing half done beside them";
-    EXPECT_FALSE(host.camera(1).recording()->saved);
+    EXPECT_TRUE(isOld(AllFiles[1]) && files().size() == 1 && !host.camera(1).recording()->saved);
     run(orders());
     EXPECT_TRUE(host.camera(1).recording()->saved);
 }

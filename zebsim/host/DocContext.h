@@ -1,5 +1,6 @@
 #pragma once
 
+class CameraBank;
 class HostCalls;
 class ImageTools;
 class Notices;
@@ -13,6 +14,7 @@ class Translator;
 /// What the topics of a document reach of the host.
 struct DocContext {
     const HostCalls& calls;
+    const CameraBank& cameras;
     ImageTools& tools;
     const Preferences& prefs;
     const SimAppStatus& appStatus;

@@ -2,6 +2,7 @@
 
 #include "camera/Camera.h"
 #include "camera/CameraError.h"
+#include "host/CameraBank.h"
 #include "host/DocContext.h"
 #include "host/HostCalls.h"
 #include "host/Notices.h"
@@ -288,6 +289,6 @@ void SimControl::eraseRecordedData(int mode) {
     if (recording && !m_camera.recording()) {
         m_context.notices.add(Message::Info,
                               m_context.translator.translate(QStringLiteral("%1: %2 frames were erased."))
-                                  .arg(m_camera.name(), QString::number(recording->frameCount())));
+                                  .arg(m_context.cameras.labelOf(m_camera), QString::number(recording->frameCount())));
     }
 }

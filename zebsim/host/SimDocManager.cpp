@@ -28,7 +28,7 @@ SimDocManager::SimDocManager(const HostCalls& calls, CameraBank& cameras, const 
       m_updates(updates),
       m_unsaved(unsaved),
       m_tellFailure(std::move(tellFailure)),
-      m_context{calls, m_tools, prefs, appStatus, translator, sync, recorder, notices, *this} {}
+      m_context{calls, cameras, m_tools, prefs, appStatus, translator, sync, recorder, notices, *this} {}
 
 std::size_t SimDocManager::handedOut() const {
     const auto turn = m_turns.find(QThread::currentThread()->loopLevel());
