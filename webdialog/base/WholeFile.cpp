@@ -4,12 +4,11 @@
 
 QString writeWholeFile(const QString& path, const QByteArray& bytes) {
     QSaveFile file(path);
+    if (!file.open(QIODevice::WriteOnly)) return file.errorString();
     // On a full disk the bytes may still fit the buffer, and the commit says yes to an empty file.
-    const bool isOnDisk = file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.flush();
-    if (!isOnDisk) {
-        const QString reason = file.errorString();
-        if (file.isOpen()) file.cancelWriting();
-        return reason;
+    if (file.write(bytes) != bytes.size() || !file.flush()) {
+        file.cancelWriting();
+        return QStringLiteral("only a part of it could be written; the disk may be full");
     }
     return file.commit() ? QString() : file.errorString();
 }

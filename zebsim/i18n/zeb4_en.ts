@@ -1455,5 +1455,9 @@
         <source>Images are saved in memory mode.</source>
         <translation>Images are saved in memory mode.</translation>
     </message>
+    <message>
+        <source>only a part of it could be written; the disk may be full</source>
+        <translation>only a part of it could be written; the disk may be full</translation>
+    </message>
 </context>
 </TS>

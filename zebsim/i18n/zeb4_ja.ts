@@ -1455,5 +1455,9 @@
         <source>Images are saved in memory mode.</source>
         <translation>画像はメモリモードで保存します。</translation>
     </message>
+    <message>
+        <source>only a part of it could be written; the disk may be full</source>
+        <translation>一部しか書き込めませんでした。ディスクがいっぱいの可能性があります</translation>
+    </message>
 </context>
 </TS>
