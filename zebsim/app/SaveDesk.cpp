@@ -83,8 +83,9 @@ void SaveDesk::showProgress(QWidget* before) {
     m_progress->setAttribute(Qt::WA_DeleteOnClose);
     m_progress->setModal(true);
     applyNativeStyle(m_host, *m_progress);
+    m_over.emplace(*m_progress, before);
+    QObject::connect(m_progress, &QDialog::finished, m_progress, [this] { m_over.reset(); });
     m_progress->show();
-    if (before != nullptr) QObject::connect(m_progress, &QDialog::finished, before, &QWidget::activateWindow);
 }
 
 Overwrite SaveDesk::ask(const QString& file) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "OverActiveWindow.h"
 #include "saving/FileNames.h"
 #include "saving/LastShoot.h"
 #include "saving/SaveSource.h"
@@ -8,6 +9,7 @@
 #include <QStringList>
 
 #include <memory>
+#include <optional>
 
 class SaveJob;
 class SaveProgress;
@@ -43,6 +45,7 @@ private:
     FileNames m_fileNames;
     std::unique_ptr<SaveJob> m_job;
     QPointer<SaveProgress> m_progress;
+    std::optional<OverActiveWindow> m_over;
     /// The save dialog stands.
     bool m_asking = false;
 };
