@@ -175,9 +175,16 @@ QList<Action> actions() {
         list.append(
             {"a cycle", tab < 5 ? zeb::LiveMode : zeb::MemoryMode, [tab](FaultyWorld& c) { cycle(*c.bridge, tab); }});
     for (const int mode : {zeb::LiveMode, zeb::MemoryMode}) {
+        QList<QByteArray> plain{"onOpen", "onClose"};
+        plain +=
+            mode == zeb::MemoryMode
+                ? QList<QByteArray>{"enterLiveMode", "save", "saveLayout"}
+                : QList<QByteArray>{"record",          "cancelRecord", "setSyncSettings", "connectSignalDistributors",
+                                    "discoverysearch", "updateCamera", "updateLive",      "enterMemoryMode"};
+        for (const QByteArray& slot : plain)
+            list.append({slot.toStdString(), mode,
+                         [slot](FaultyWorld& c) { QMetaObject::invokeMethod(c.bridge.get(), slot); }});
         list += {
-            {"onOpen", mode, [](FaultyWorld& c) { c.bridge->onOpen(); }},
-            {"onClose", mode, [](FaultyWorld& c) { c.bridge->onClose(); }},
             {"the host's disconnect", mode,
              [](FaultyWorld& c) {
                  c.bridge->connect({1, 2, 3}, false, true);
@@ -192,25 +199,14 @@ QList<Action> actions() {
         };
     }
     list += {
-        {"record", zeb::LiveMode, [](FaultyWorld& c) { c.bridge->record(); }},
         {"trigger and stop", zeb::LiveMode,
          [](FaultyWorld& c) {
              for (int presses = 0; presses < 3; ++presses) c.bridge->record();
          }},
-        {"cancelRecord", zeb::LiveMode, [](FaultyWorld& c) { c.bridge->cancelRecord(); }},
-        {"setSyncSettings", zeb::LiveMode, [](FaultyWorld& c) { c.bridge->setSyncSettings(); }},
-        {"connectSignalDistributors", zeb::LiveMode, [](FaultyWorld& c) { c.bridge->connectSignalDistributors(); }},
         {"setSignalFrequency", zeb::LiveMode, [](FaultyWorld& c) { c.bridge->setSignalFrequency(1000); }},
         {"searchCamera", zeb::LiveMode, [](FaultyWorld& c) { c.bridge->searchCamera("192.168.0.0"); }},
-        {"discoverysearch", zeb::LiveMode, [](FaultyWorld& c) { c.bridge->discoverysearch(); }},
-        {"updateCamera", zeb::LiveMode, [](FaultyWorld& c) { c.bridge->updateCamera(); }},
         {"stopLive", zeb::LiveMode, [](FaultyWorld& c) { c.bridge->stopLive(true); }},
-        {"updateLive", zeb::LiveMode, [](FaultyWorld& c) { c.bridge->updateLive(); }},
         {"snapShot", zeb::LiveMode, [](FaultyWorld& c) { c.bridge->snapShot(1); }},
-        {"enterMemoryMode", zeb::LiveMode, [](FaultyWorld& c) { c.bridge->enterMemoryMode(); }},
-        {"enterLiveMode", zeb::MemoryMode, [](FaultyWorld& c) { c.bridge->enterLiveMode(); }},
-        {"save", zeb::MemoryMode, [](FaultyWorld& c) { c.bridge->save(); }},
-        {"saveLayout", zeb::MemoryMode, [](FaultyWorld& c) { c.bridge->saveLayout(); }},
     };
     for (const QMetaMethod& method : slotsWithKeys()) {
         for (const bool on : {true, false}) {

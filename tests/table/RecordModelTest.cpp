@@ -91,59 +91,13 @@ class RecordModelTest : public TableFixture {
 protected:
     RecordModelTest() { state.group.clear(); }
 
-    /// Six cameras in the states that a row can show.
-    void bringCamerasIntoUse() {
-        for (const DOCKEY key : {1, 2, 3, 4, 5, 7}) {
-            change(key, {{"connected", true}});
+    /// Brings the cameras into states of `cameras.json`: "use" has six of them in those that a row can show.
+    void bring(const QStringList& states) {
+        const QJsonObject all = readJson(QStringLiteral("cameras"));
+        for (const QString& name : states) {
+            const QJsonObject cameras = all[name].toObject();
+            for (const QString& key : cameras.keys()) change(key.toUInt(), cameras[key].toObject().toVariantMap());
         }
-        change(1, {{"lowLight", true}, {"reduce", true}, {"triggerMode", zeb::TriggerManual}});
-        change(2, {{"locked", true}, {"selected", true}, {"status", zeb::CameraRecReady}});
-        change(3, {{"selected", true}, {"status", zeb::CameraTriggerReady}, {"lowLightType", 3}});
-        change(4, {{"status", 16},
-                   {"rate", 750},
-                   {"shutter", 333},
-                   {"resolution", QVariantList{100, 100}},
-                   {"triggerMode", zeb::TriggerRandomManual}});
-        change(5, {{"status", zeb::CameraRecording}});
-        change(7, {{"status", zeb::CameraEndlessReady}});
-        change(8, {{"mobile", true}});
-    }
-
-    void giveInputsAndIrig() {
-        change(6, {{"connected", true}, {"irig", true}, {"irigSync", true}});
-        change(1, {{"irig", true}, {"irigStampAtEnd", true}, {"irigSync", true}});
-        change(3, {{"irig", true}});
-        change(4, {{"irigStampAtEnd", true}, {"irigSync", true}});
-        change(5, {{"irig", true}, {"irigStampAtEnd", true}, {"irigSync", true}});
-        change(7, {{"irig", true}, {"irigSync", true}});
-        change(8, {{"irig", true}, {"irigSync", true}});
-    }
-
-    void givePlugins() {
-        change(1, {{"plugins", QStringList{"lut", "unheardof", "filter", "mosaic"}},
-                   {"effectivePlugins", QStringList{"filter", "unheardof"}},
-                   {"blockedPlugins", QStringList{"mosaic"}}});
-        change(2, {{"plugins", QStringList{"unheardof"}}});
-        change(3, {{"plugins", QStringList{"scale"}}, {"effectivePlugins", QStringList{"scale", "lut"}}});
-        change(8, {{"plugins", QStringList{"lut"}}});
-    }
-
-    void giveRecordings() {
-        change(1, {{"recorded", true},
-                   {"recordedRange", QVariantList{1000, 5999}},
-                   {"recordedTrigger", 1500},
-                   {"recordedRate", 2000},
-                   {"selectedRange", QVariantList{1200, 2199}},
-                   {"triggerOffsetEnabled", true},
-                   {"triggerOffset", 1450}});
-        change(2, {{"recordCheck", true}, {"recordedRange", QVariantList{0, 99}}});
-        change(3, {{"recorded", true}, {"triggerOffset", 7}});
-        change(5, {{"recorded", true},
-                   {"recordedRange", QVariantList{10, 10}},
-                   {"recordedTrigger", 10},
-                   {"recordedRate", 240},
-                   {"selectedRange", QVariantList{5, 99}}});
-        change(6, {{"recorded", true}});
     }
 
     RecordModel::Answer getRecords(const char* request) {
@@ -157,7 +111,7 @@ protected:
 };
 
 TEST_F(RecordModelTest, showsEachTabAndModeAsTheCamerasAre) {
-    bringCamerasIntoUse();
+    bring({"use"});
     expectJson(records(R"({"group":"","filter":0,"tab":1})"), toText(expected("livecontrol")));
     expectJson(records(R"({"group":"","filter":0,"tab":0})"), toText(expected("camerainfo")));
     host.appStatus().enterMemoryMode();
@@ -169,9 +123,7 @@ TEST_F(RecordModelTest, showsEachTabAndModeAsTheCamerasAre) {
 }
 
 TEST_F(RecordModelTest, showsInputsIrigAndPluginsOfLiveCameras) {
-    bringCamerasIntoUse();
-    giveInputsAndIrig();
-    givePlugins();
+    bring({"use", "irig", "plugins"});
     const QJsonObject live = readJson("live");
     expectJson(records(R"({"tab":2})"), toText(with(live, "sync")));
     expectJson(records(R"({"tab":3})"), toText(with(live, "irig")));
@@ -180,9 +132,7 @@ TEST_F(RecordModelTest, showsInputsIrigAndPluginsOfLiveCameras) {
 }
 
 TEST_F(RecordModelTest, showsRecordingsAndPluginsInMemoryMode) {
-    bringCamerasIntoUse();
-    givePlugins();
-    giveRecordings();
+    bring({"use", "plugins", "recordings"});
     host.appStatus().enterMemoryMode();
     const QJsonObject memory = readJson("memory");
     expectJson(records(R"({"tab":5})"), toText(with(memory, "memoryinfo")));
@@ -191,7 +141,7 @@ TEST_F(RecordModelTest, showsRecordingsAndPluginsInMemoryMode) {
 }
 
 TEST_F(RecordModelTest, filtersRowsAndNumbersThemAnew) {
-    bringCamerasIntoUse();
+    bring({"use"});
     const auto listed = [this](const char* request) {
         state.batchDocKey = zeb::NoDocKey;
         const QJsonDocument answer = QJsonDocument::fromJson(records(request).toUtf8());
@@ -207,7 +157,7 @@ TEST_F(RecordModelTest, filtersRowsAndNumbersThemAnew) {
 }
 
 TEST_F(RecordModelTest, takesAMalformedRequestForAnEmptyOne) {
-    bringCamerasIntoUse();
+    bring({"use"});
     for (const char* request : {"", "{", "[]", R"({"group":7,"filter":"2","tab":null})"}) {
         SCOPED_TRACE(request);
         expectJson(records(request), toText(expected("camerainfo")));
@@ -240,7 +190,7 @@ TEST_F(RecordModelTest, withoutCamerasIsABatchRowOfEmptyLists) {
 }
 
 TEST_F(RecordModelTest, batchRowCopiesTheChosenCameraElseTheLastSelected) {
-    bringCamerasIntoUse();
+    bring({"use"});
     const auto source = [this](DOCKEY chosen, const char* request) {
         state.batchDocKey = chosen;
         records(request);
@@ -252,7 +202,7 @@ TEST_F(RecordModelTest, batchRowCopiesTheChosenCameraElseTheLastSelected) {
 }
 
 TEST_F(RecordModelTest, changeOfGroupSelectsTheGroupAndNothingElse) {
-    bringCamerasIntoUse();
+    bring({"use"});
     change(8, {{"selected", true}});
     change(1, {{"selected", true}});
     state.groups = {{"Nozzles", {"192.168.0.13"}}, {"Front", {"192.168.0.11", "192.168.0.12"}}};
@@ -278,7 +228,7 @@ TEST_F(RecordModelTest, changeOfGroupSelectsTheGroupAndNothingElse) {
 }
 
 TEST_F(RecordModelTest, nothingIsDeselectedWhileRecordingOrWhenTheHostKeepsItsSelection) {
-    bringCamerasIntoUse();
+    bring({"use"});
     state.groups = {{"Nozzles", {"192.168.0.13"}}};
     const QStringList selectsOnly{R"(ZebHost::setPrefString ["wren/table/group","Nozzles"])",
                                   "ZebDocManager::selectDoc [4]"};
@@ -356,8 +306,7 @@ TEST_F(RecordModelTest, numbersReadAsTheUserLikesThem) {
 }
 
 TEST_F(RecordModelTest, framesReadAsTheUserLikesThemWhereTheyAreNotEdited) {
-    bringCamerasIntoUse();
-    giveRecordings();
+    bring({"use", "recordings"});
     host.appStatus().enterMemoryMode();
     host.setPrefBool("display/frameInsertDelimiter", true);
     QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
@@ -426,7 +375,7 @@ TEST_F(RecordModelTest, listsGroupsAndFindsTheOneToShow) {
 }
 
 TEST_F(RecordModelTest, whatSteersARowIsReadApart) {
-    bringCamerasIntoUse();
+    bring({"use"});
     state.groups = {{"Nozzles", {"192.168.0.13"}}};
     const auto rowOf = [this](const char* operation, const char* request) {
         host.faults().plant(1, operation, {"no answer", 0, false});
