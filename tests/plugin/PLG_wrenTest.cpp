@@ -3,8 +3,7 @@
 #include "APP_Exception.h"
 #include "GUI_WrenTableDialog.h"
 #include "JS_Mediator_WrenTableDialog.h"
-#include "camera/Camera.h"
-#include "support/FaultyHost.h"
+#include "TestPlugin.h"
 
 #include <QApplication>
 #include <QImage>
@@ -14,8 +13,6 @@
 #include <QTest>
 #include <QThread>
 #include <QTimer>
-
-#include <gmock/gmock.h>
 
 using testing::Contains;
 using testing::ElementsAre;
@@ -27,21 +24,12 @@ constexpr auto EraseQuestion =
     "confirm <There are cameras that need to erase the image data recorded to continue the operation. Would you "
     "like to erase the data and continue the operation?>";
 
-class PLG_wrenTest : public testing::Test {
+class PLG_wrenTest : public PluginHost {
 protected:
-    PLG_wrenTest() {
-        host.suspendViewer();
-        host.flags().set(QStringLiteral("IsUpdateIgnore"), true);
+    PLG_wrenTest() : PluginHost(3) {
         plugin->setHost(&host);
         host.appStatus().registerPlugin(plugin.get());
         taken();
-    }
-
-    std::vector<std::string> taken() {
-        std::vector<std::string> entries;
-        for (const QString& entry : course.take())
-            if (!entry.startsWith(QLatin1String("info: "))) entries.push_back(entry.toStdString());
-        return entries;
     }
 
     JS_Mediator_WrenTableDialog* openTable() {
@@ -53,8 +41,6 @@ protected:
     /// As a host raises a signal: by its name.
     bool raise(const char* signal) { return QMetaObject::invokeMethod(plugin.get(), signal); }
 
-    FaultyHost host{3};
-    Course course;
     std::unique_ptr<PLG_wren> plugin = std::make_unique<PLG_wren>();
 };
 
@@ -159,13 +145,6 @@ TEST_F(PLG_wrenTest, bearsEverySignalWithoutATable) {
     EXPECT_THAT(taken(), IsEmpty());
 }
 
-TEST_F(PLG_wrenTest, disconnectsAllCamerasThoughLocked) {
-    openTable();
-    host.camera(2).set(&CameraState::locked, true);
-    ASSERT_TRUE(raise("signalDisconnect"));
-    EXPECT_THAT(taken(), Contains("disconnectDocs 1,2,3"));
-}
-
 TEST_F(PLG_wrenTest, startsAndStopsTheTicks) {
     host.prefs().setValue(QStringLiteral("wren/table/interval"), 1);
     auto* bridge = openTable();
@@ -180,11 +159,14 @@ TEST_F(PLG_wrenTest, startsAndStopsTheTicks) {
     EXPECT_EQ(ticks.count(), 0) << "a tick a millisecond would have come by now";
 }
 
-TEST_F(PLG_wrenTest, endsARecordingOnTheBridge) {
+TEST_F(PLG_wrenTest, endsARecordingAndDisconnectsAllCamerasThoughLocked) {
     auto* bridge = openTable();
     bridge->setRecordRunning();
     ASSERT_TRUE(raise("signalEndRecording"));
     EXPECT_FALSE(bridge->state().recordRunning);
+    host.camera(2).set(&CameraState::locked, true);
+    ASSERT_TRUE(raise("signalDisconnect"));
+    EXPECT_THAT(taken(), Contains("disconnectDocs 1,2,3"));
 }
 
 TEST_F(PLG_wrenTest, takesTheHostsKeysWhileItsTableIsInFront) {
@@ -224,13 +206,9 @@ TEST_F(PLG_wrenTest, keepsWhoAsksForAPictureWaitingUntilItIsWritten) {
     asking->wait();
     EXPECT_TRUE(written);
     EXPECT_EQ(QImage(path).size(), plugin->getDialog(false)->size());
-}
-
-TEST_F(PLG_wrenTest, warnsOfAPictureThatCannotBeWritten) {
-    openTable();
     taken();
     plugin->slotScreenShot(QStringLiteral("/nowhere/a.png"));
-    EXPECT_THAT(taken(), Contains(testing::HasSubstr("/nowhere/a.png")));
+    EXPECT_THAT(taken(), Contains(testing::HasSubstr("/nowhere/a.png"))) << "it warns of one that cannot be written";
 }
 
 TEST_F(PLG_wrenTest, keepsTheTableOpenInFileMode) {

@@ -58,21 +58,15 @@ public:
     }
 };
 
-/// A plug-in's host with one camera, whose image has 640 x 480 pixels. Update cycles pass without effect.
-class PLG_CommonTest : public testing::Test {
+/// A plug-in's host with cameras. Update cycles pass without effect.
+class PluginHost : public testing::Test {
 protected:
-    PLG_CommonTest() {
+    explicit PluginHost(int cameras) : host(cameras) {
         host.suspendViewer();
         host.flags().set(QStringLiteral("IsUpdateIgnore"), true);
-        change({{"selected", true}, {"resolution", QVariantList{640, 480}}});
-        taken();
+        course.take();
     }
 
-    void change(const QVariantMap& members) { host.camera(1).change(members); }
-    void setToolRect(const QRect& rect) {
-        host.doc(1)->image().setToolRect(QStringLiteral("tool"), rect);
-        taken();
-    }
     /// What the host was asked, in order; texts for a readable difference.
     std::vector<std::string> taken() {
         std::vector<std::string> entries;
@@ -82,6 +76,21 @@ protected:
         return entries;
     }
 
-    FaultyHost host{1};
+    FaultyHost host;
     Course course;
+};
+
+/// With one camera, whose image has 640 x 480 pixels.
+class PLG_CommonTest : public PluginHost {
+protected:
+    PLG_CommonTest() : PluginHost(1) {
+        change({{"selected", true}, {"resolution", QVariantList{640, 480}}});
+        taken();
+    }
+
+    void change(const QVariantMap& members) { host.camera(1).change(members); }
+    void setToolRect(const QRect& rect) {
+        host.doc(1)->image().setToolRect(QStringLiteral("tool"), rect);
+        taken();
+    }
 };
