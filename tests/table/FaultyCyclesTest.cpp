@@ -40,24 +40,14 @@ struct Action {
 
 /// What the page asks in one cycle. Answers the rows.
 QJsonArray cycle(JS_Mediator_WrenTableDialog& bridge, int tab) {
-    bridge.isLiveMode();
-    bridge.getRecStatus();
-    bridge.getControlStatus();
-    bridge.getTriggerTesting();
-    bridge.isStopLive();
-    bridge.getCurrentPartitionName();
+    for (const char* question : {"isLiveMode", "getRecStatus", "getControlStatus", "getTriggerTesting", "isStopLive",
+                                 "getCurrentPartitionName", "getSyncSettings", "isRecReady", "isRecording",
+                                 "isOtherPluginOpen", "isRecordDuringExporting", "countMdiWindow", "getStyle"})
+        EXPECT_TRUE(QMetaObject::invokeMethod(&bridge, question)) << question;
     bridge.getPrefBool("wren/display/lock");
     bridge.getPrefString("wren/column_order/cameraInfo");
-    bridge.getSyncSettings();
+    for (const DOCKEY key : {DOCKEY(2), zeb::NoDocKey}) bridge.isSuspendReduceMode(key);
     const QString rows = bridge.getRecords(QStringLiteral(R"({"tab":%1})").arg(tab));
-    bridge.isRecReady();
-    bridge.isRecording();
-    bridge.isOtherPluginOpen();
-    bridge.isRecordDuringExporting();
-    bridge.isSuspendReduceMode(2);
-    bridge.isSuspendReduceMode(zeb::NoDocKey);
-    bridge.countMdiWindow();
-    bridge.getStyle();
     return QJsonDocument::fromJson(rows.toUtf8())["records"].toArray();
 }
 

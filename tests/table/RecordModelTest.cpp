@@ -26,20 +26,13 @@ QString toText(const QJsonObject& object) {
     return QString::fromUtf8(QJsonDocument(object).toJson(QJsonDocument::Compact));
 }
 
-/// An expected answer; a text "@name" stands for the list of that name.
-QJsonObject expected(const QString& name) {
-    const QJsonObject lists = readJson(QStringLiteral("lists"));
-    QJsonObject answer = readJson(name);
+/// The answer with each of its rows as `work` makes it; `work` gets the row's part and its number there too.
+QJsonObject eachRow(QJsonObject answer, const std::function<void(QJsonObject& row, const QString& part, int i)>& work) {
     for (const auto& part : {QStringLiteral("records"), QStringLiteral("batch")}) {
         QJsonArray rows;
         for (const auto& each : answer.value(part).toArray()) {
             QJsonObject row = each.toObject();
-            for (auto member = row.begin(); member != row.end(); ++member) {
-                const QString text = member.value().toString();
-                if (text.startsWith(QLatin1Char('@'))) {
-                    member.value() = lists.value(text.mid(1));
-                }
-            }
+            work(row, part, rows.size());
             rows.append(row);
         }
         answer.insert(part, rows);
@@ -47,24 +40,23 @@ QJsonObject expected(const QString& name) {
     return answer;
 }
 
-/// The answer with what a tab adds to its rows, row by row.
-QJsonObject with(QJsonObject answer, const QString& name) {
-    const QJsonObject added = readJson(name);
-    for (const auto& part : {QStringLiteral("records"), QStringLiteral("batch")}) {
-        const QJsonArray additions = added.value(part).toArray();
-        QJsonArray rows = answer.value(part).toArray();
-        EXPECT_EQ(rows.size(), additions.size()) << name.toStdString();
-        for (int i = 0; i < rows.size(); ++i) {
-            QJsonObject row = rows.at(i).toObject();
-            const QJsonObject members = additions.at(i).toObject();
-            for (auto member = members.begin(); member != members.end(); ++member) {
-                row.insert(member.key(), member.value());
-            }
-            rows.replace(i, row);
+/// An expected answer; a text "@name" stands for the list of that name.
+QJsonObject expected(const QString& name) {
+    return eachRow(readJson(name), [lists = readJson("lists")](QJsonObject& row, const QString&, int) {
+        for (auto member = row.begin(); member != row.end(); ++member) {
+            const QString text = member.value().toString();
+            if (text.startsWith(QLatin1Char('@'))) member.value() = lists.value(text.mid(1));
         }
-        answer.insert(part, rows);
-    }
-    return answer;
+    });
+}
+
+/// The answer with what a tab adds to its rows, row by row.
+QJsonObject with(const QJsonObject& answer, const QString& name) {
+    return eachRow(answer, [name, added = readJson(name)](QJsonObject& row, const QString& part, int i) {
+        const QJsonObject members = added[part].toArray().at(i).toObject();
+        EXPECT_LT(i, added[part].toArray().size()) << name.toStdString();
+        for (const QString& member : members.keys()) row.insert(member, members[member]);
+    });
 }
 
 QJsonObject row(const QString& answer, int index) {

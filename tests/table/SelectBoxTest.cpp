@@ -256,15 +256,12 @@ TEST_F(SelectBoxTest, waitsForItsPage) {
 }
 
 TEST_F(SelectBoxTest, hidesWithItsWindow) {
-    show();
-    send(box.get(), QEvent::WindowDeactivate);
-    EXPECT_FALSE(box->isVisible());
-    EXPECT_EQ(calls(), QStringList{"ZebHost::hideSelectBox []"});
-
-    show();
-    send(&window, QEvent::WindowDeactivate);
-    EXPECT_FALSE(box->isVisible());
-    EXPECT_EQ(calls(), QStringList{"ZebHost::hideSelectBox []"});
+    for (QWidget* left : {static_cast<QWidget*>(box.get()), &window}) {
+        show();
+        send(left, QEvent::WindowDeactivate);
+        EXPECT_FALSE(box->isVisible());
+        EXPECT_EQ(calls(), QStringList{"ZebHost::hideSelectBox []"});
+    }
 
     show();
     window.hide();

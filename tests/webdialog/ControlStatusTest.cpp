@@ -51,23 +51,17 @@ TEST_F(ControlStatusTest, NamesEveryState) {
 TEST_F(ControlStatusTest, AStateOfTheHostSwitchesTheOneOfItsName) {
     QWidget window;
     host.setMainWindow(&window);
-    const QMap<QString, QStringList> others = {{"IsAllLowlightOFF", {}},  // they are off
-                                               {"IsAllWrenLockDevice", {}},
-                                               {"IsApplicationClosing", {}},
-                                               {"IsCTSReady", {"+IsCTSReady", "-IsNotRecording"}},
-                                               {"IsCurrentAutoFocus", {"-IsNotCurrentAutoFocus"}},
-                                               {"IsCycleViewBlocked", {}},
-                                               {"IsMVersion", {}},
-                                               {"IsNoneWindow", {"+IsNoneWindow", "-IsMultiWindow"}},
-                                               {"IsReady", {"+IsReady", "-IsNotRecording"}},
-                                               {"IsRecording", {"+IsRecording", "-IsNotRecording"}},
-                                               {"IsRecordingError", {"+IsRecordingError", "-IsNotRecording"}},
-                                               {"IsSaving", {"+IsAutoExpoting"}},
-                                               {"IsSelectionKept", {}},
-                                               {"IsTriggerTesting", {}},
-                                               {"IsUpdateIgnore", {}},
-                                               {"IsWaveDataAcquisition", {}},
-                                               {"IsWindowStateSaveSuppressed", {}}};
+    QMap<QString, QStringList> others = {{"IsCTSReady", {"+IsCTSReady", "-IsNotRecording"}},
+                                         {"IsCurrentAutoFocus", {"-IsNotCurrentAutoFocus"}},
+                                         {"IsNoneWindow", {"+IsNoneWindow", "-IsMultiWindow"}},
+                                         {"IsReady", {"+IsReady", "-IsNotRecording"}},
+                                         {"IsRecording", {"+IsRecording", "-IsNotRecording"}},
+                                         {"IsRecordingError", {"+IsRecordingError", "-IsNotRecording"}},
+                                         {"IsSaving", {"+IsAutoExpoting"}}};
+    for (const char* silent : {"IsAllLowlightOFF", "IsAllWrenLockDevice", "IsApplicationClosing", "IsCycleViewBlocked",
+                               "IsMVersion", "IsSelectionKept", "IsTriggerTesting", "IsUpdateIgnore",
+                               "IsWaveDataAcquisition", "IsWindowStateSaveSuppressed"})
+        others.insert(silent, {});
     for (const QString& flag : host.flags().names()) {
         host.flags().set(flag, true);
         EXPECT_EQ(changes(), others.value(flag, {'+' + flag})) << flag.toStdString();
