@@ -174,6 +174,9 @@ function onNumberKey(event) {
     } else if (event.keyCode === 27) {
         event.preventDefault();
         numberBox.revert();
+    } else if (event.keyCode === 65 && event.ctrlKey) { // the grid keeps texts from being marked
+        event.preventDefault();
+        event.target.select();
     }
 }
 

@@ -31,6 +31,9 @@ const dropDown = {
         this.limit(select.sumo);
         select.addEventListener('change', () => { chosen = select.value; });
         $(select).on('sumo:closed', () => {
+            if (this.select !== select) {
+                return; // it closes once more when the keyboard leaves what was removed
+            }
             if (this.holder.contains(document.activeElement)) {
                 cell.parts.frame.focus();
             }

@@ -104,5 +104,5 @@ class DrawnRow {
 function sourceOf(record) {
     return isBatch(record)
         ? String(wrentabledialog.getBatchDocKey())
-        : `${isSteered(record)} ${isOff(record) && record.alert !== ''}`;
+        : `${isSteered(record)} ${isOff(record)} ${isOff(record) && record.alert !== ''}`;
 }

@@ -1,3 +1,4 @@
+#include "KeyInput.h"
 #include "TablePage.h"
 
 #include <QApplication>
@@ -405,6 +406,8 @@ TEST(PageNumber, ThatIsBeingTypedStaysWithItsRowWhenThatIsScrolledAway) {
     EXPECT_EQ(page.made("^set", scrollingBack), QStringList());
     EXPECT_EQ(page.list("probe.drawn().map(probe.keyOf)").mid(0, 4), QStringList({"1", "2", "3", "4"}));
     EXPECT_EQ(page.made("^set", [&] { page.type("2\n"); }), QStringList("setSelectStartFrameNo 3 12"));
+    pressKey(QStringLiteral("Ctrl+A"), 0, [] { return false; });
+    EXPECT_EQ(page.made("^set", [&] { page.type("7\n"); }), QStringList("setSelectStartFrameNo 3 7"));
 }
 
 TEST(PageRecordCheck, OfSelectedCamerasOnly) {

@@ -73,9 +73,10 @@ TEST(PageTick, WritesWhatChangedInTheCameraInformation) {
           "Camera 9"},
          {"disconnected",
           {{"connected", false}},
-          {"cameraStatus", "connectIcon", "connectionStatus", "sync"},
-          "$('[id^=wren_button_connection_][id$=_%1]:visible').attr('class')",
-          "wren_button_connection_disconnect"}});
+          {"alert", "cameraName", "cameraStatus", "connectIcon", "connectionStatus", "lock", "sync"},
+          "$('[id^=wren_button_connection_][id$=_%1]:visible').attr('class') + "
+          "$('.wren-lock-status[dockey=%1]').length",
+          "wren_button_connection_disconnect0"}});
 }
 
 TEST(PageTick, WritesWhatChangedInTheLiveControl) {
