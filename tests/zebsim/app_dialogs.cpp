@@ -48,26 +48,16 @@ protected:
     QMetaObject::Connection connection;
 };
 
-TEST_F(Dialogs, StorePreferencesOnOkAndNoneOnCancel) {
+TEST_F(Dialogs, StorePreferencesOfEachKind) {
     host.prefs().setValue("wren/settings/recreadyTableColor", "no such colour");
-    const auto change = [&](QDialog& dialog) {
+    next([&](QDialog& dialog) {
         EXPECT_TRUE(host.isPrefDialogOpening());
         dialog.findChild<QCheckBox*>("recording/AutoDownload")->click();
         dialog.findChild<QSpinBox*>("wren/table/interval")->setValue(900);
         QComboBox& style = *dialog.findChild<QComboBox*>("env/style");
         style.setCurrentIndex(style.findData("dark"));
         dialog.findChild<QLineEdit*>("sync/generator/address")->setText("192.168.0.9");
-    };
-    next([&](QDialog& dialog) {
-        change(dialog);
-        dialog.reject();
-    });
-    EXPECT_EQ(host.getPrefsDialog()->exec(), QDialog::Rejected);
-    EXPECT_EQ(pref("recording/AutoDownload"), true);
-    EXPECT_EQ(pref("wren/table/interval"), 500);
-    EXPECT_EQ(pref("sync/generator/address"), "");
-    next([&](QDialog& dialog) {
-        change(dialog);
+        EXPECT_EQ(pref("wren/table/interval"), 500) << "not yet";
         dialog.accept();
     });
     EXPECT_EQ(host.getPrefsDialog()->exec(), QDialog::Accepted);
