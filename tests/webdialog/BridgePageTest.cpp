@@ -1,9 +1,9 @@
-#include "FakePlugin.h"
 #include "GUI_WebPage.h"
 #include "GUI_WebView.h"
 #include "ProbeBridge.h"
 #include "camera/Camera.h"
 #include "support/FaultyHost.h"
+#include "support/StubPlugin.h"
 
 #include <QLabel>
 #include <QRegularExpression>
@@ -202,11 +202,11 @@ TEST_F(BridgePage, ObjectElementsGetTheHostsWidgets) {
     for (const auto& [classId, name] : panels) {
         EXPECT_EQ(page.createPlugin(classId, {}, {}, {}), nullptr) << classId.toStdString();
         QWidget panel;
-        FakePlugin plugin(name);
+        StubPlugin plugin(name);
         plugin.panel = &panel;
         host.appStatus().registerPlugin(&plugin);
         EXPECT_EQ(page.createPlugin(classId, {}, {}, {}), &panel) << classId.toStdString();
-        EXPECT_TRUE(course.take().contains("preparePanel"));
+        EXPECT_EQ(plugin.log, QStringList("preparePanel"));
     }
 
     auto* inPage = new QLabel("panel");

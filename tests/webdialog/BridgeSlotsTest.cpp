@@ -1,10 +1,10 @@
-#include "FakePlugin.h"
 #include "ProbeBridge.h"
 #include "RangeMax.h"
 #include "ZebPrefsDialog.h"
 #include "camera/Camera.h"
 #include "camera/Rig.h"
 #include "support/FaultyHost.h"
+#include "support/StubPlugin.h"
 
 #include <QDialog>
 
@@ -51,7 +51,7 @@ protected:
 
     Course course;
     DialogHost host{3};
-    FakePlugin binning{QStringLiteral("binning")};
+    StubPlugin binning{QStringLiteral("binning")};
     NarrowBridge bridge{&host};
 };
 

@@ -1,8 +1,8 @@
 #include "ControlStatus.h"
-#include "FakePlugin.h"
 #include "ProbeBridge.h"
 #include "camera/Camera.h"
 #include "support/FaultyHost.h"
+#include "support/StubPlugin.h"
 
 #include <QFile>
 #include <QJsonDocument>
@@ -88,9 +88,9 @@ TEST_F(ControlStatusTest, CountsAndModes) {
 }
 
 TEST_F(ControlStatusTest, PreferencesAndTheCurrentPlugin) {
-    FakePlugin lens("lenscalib");
-    FakePlugin overlay("imageoverlay");
-    FakePlugin other("rotate");
+    StubPlugin lens("lenscalib");
+    StubPlugin overlay("imageoverlay");
+    StubPlugin other("rotate");
     const auto pref = [&](const char* key, bool on) { host.prefs().setValue(QLatin1String("recording/") + key, on); };
     const std::pair<std::function<void()>, const char*> steps[] = {
         {[&] { pref("useTriggerTest", false); }, "+HideTriggerTest"},

@@ -1,4 +1,3 @@
-#include "FakePlugin.h"
 #include "GUI_MarqueeProgressDialog.h"
 #include "PlainText.h"
 #include "RUN_ProgressThreadInterface.h"
@@ -6,6 +5,7 @@
 #include "UTL_CustomAction.h"
 #include "UTL_Messages.h"
 #include "support/FaultyHost.h"
+#include "support/StubPlugin.h"
 
 #include <QApplication>
 #include <QLabel>
@@ -161,13 +161,12 @@ TEST_F(Messages, MarqueeStandsUntilTheWorkHasEnded) {
 }
 
 TEST_F(Messages, ReadyProgressStandsOverTheTable) {
-    QDialog table;
-    FakePlugin wren;
-    wren.dialog = &table;
+    StubPlugin wren("wren");
+    wren.dialog = std::make_unique<QDialog>();
     host.appStatus().registerPlugin(&wren);
     host.prefs().setValue("wren/settings/recreadyTableColor", "orange");
     const QScopedPointer<GUI_ProgressDialog> progress(makeReadyProgressDialog("Ready...", host));
-    EXPECT_EQ(progress->parent(), &table);
+    EXPECT_EQ(progress->parent(), wren.dialog.get());
     EXPECT_EQ(progress->size(), QSize(800, 150));
     EXPECT_FALSE(progress->isModal());
     EXPECT_TRUE(progress->styleSheet().endsWith("QProgressBar::chunk {color: black; background: orange;}"));

@@ -1,10 +1,10 @@
-#include "FakePlugin.h"
 #include "GUI_ModelessPatternDialog.h"
 #include "GUI_WebView.h"
 #include "ProbeBridge.h"
 #include "UTL_Messages.h"
 #include "WindowPlacement.h"
 #include "support/FaultyHost.h"
+#include "support/StubPlugin.h"
 
 #include <QPushButton>
 #include <QScreen>
@@ -31,7 +31,7 @@ protected:
     }
     GUI_ModelessPatternDialog* makeModeless() {
         auto* dialog = new GUI_ModelessPatternDialog(&host, "Title", ProbePage, bridge, &plugin);
-        plugin.dialog = dialog;
+        plugin.dialog.reset(dialog);
         QObject::connect(dialog, &GUI_ModelessPatternDialog::shown, [] { Course::note("shown"); });
         QObject::connect(dialog, &GUI_ModelessPatternDialog::closed, [] { Course::note("closed"); });
         return dialog;
@@ -45,7 +45,7 @@ protected:
 
     Course course;
     FaultyHost host;
-    FakePlugin plugin;
+    StubPlugin plugin{QStringLiteral("wren")};
     ProbeBridge* bridge = new ProbeBridge(&host);  // the dialog's
 };
 
@@ -134,7 +134,7 @@ TEST_F(WebDialog, EscapeDoesNothingAndEnterReachesTheDialog) {
 }
 
 TEST_F(WebDialog, CloseButtonIsSwitchedOnce) {
-    const QScopedPointer<GUI_ModelessPatternDialog> dialog(makeModeless());
+    auto* dialog = makeModeless();
     dialog->show();
     for (const bool on : {false, true}) {
         course.take();
@@ -165,7 +165,7 @@ TEST_F(WebDialog, PageClosesTheDialogAndHearsOfARejection) {
 }
 
 TEST_F(WebDialog, ModelessDialogLivesOnAfterAClose) {
-    const QScopedPointer<GUI_ModelessPatternDialog> dialog(makeModeless());
+    auto* dialog = makeModeless();
     ASSERT_TRUE(waitForLoad(*dialog));
     EXPECT_TRUE(dialog->isPluginCloseEnabled());
     for (int round = 1; round <= 2; ++round) {
@@ -184,20 +184,20 @@ TEST_F(WebDialog, ModelessDialogLivesOnAfterAClose) {
 }
 
 TEST_F(WebDialog, ActivationTellsTheHostAndReselectsTheTool) {
-    const QScopedPointer<GUI_ModelessPatternDialog> dialog(makeModeless());
+    auto* dialog = makeModeless();
     QEvent activate(QEvent::WindowActivate);
     course.take();
-    QCoreApplication::sendEvent(dialog.data(), &activate);
+    QCoreApplication::sendEvent(dialog, &activate);
     EXPECT_EQ(course.take(), QStringList("notifyPluginShown"));
     plugin.reselect = true;
     host.failing = "setQuickTool";
-    QCoreApplication::sendEvent(dialog.data(), &activate);
+    QCoreApplication::sendEvent(dialog, &activate);
     EXPECT_EQ(course.take(),
               QStringList({"setQuickTool wren false", "critical: \"setQuickTool\"", "notifyPluginShown"}));
 }
 
 TEST_F(WebDialog, CloseDuringACallComesOnceWhenTheCallHasEnded) {
-    const QScopedPointer<GUI_ModelessPatternDialog> dialog(makeModeless());
+    auto* dialog = makeModeless();
     ASSERT_TRUE(waitForLoad(*dialog));
     dialog->show();
     host.desk.whileStanding = [&] {
@@ -214,10 +214,10 @@ TEST_F(WebDialog, CloseDuringACallComesOnceWhenTheCallHasEnded) {
 }
 
 TEST_F(WebDialog, ClosingHostDismissesOurBox) {
-    const QScopedPointer<GUI_ModelessPatternDialog> dialog(makeModeless());
+    auto* dialog = makeModeless();
     dialog->show();
     bridge->work = [&] {
-        QTimer::singleShot(0, dialog.data(), [&] {
+        QTimer::singleShot(0, dialog, [&] {
             host.flags().set("IsApplicationClosing", true);
             dialog->close();
             QWidget* box = QApplication::activeModalWidget();

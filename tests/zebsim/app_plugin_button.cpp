@@ -9,19 +9,9 @@
 
 namespace {
 
-/// Says itself how its button stands.
-class ToldPlugin : public StubPlugin {
-public:
-    bool isChecked(DOC_Interface* doc, int) override { return doc != nullptr && checked; }
-    bool isButtonEnabled() const override { return enabled; }
-
-    bool checked = false;
-    bool enabled = true;
-};
-
 TEST(PluginButton, StandsAsThePluginSays) {
     TestHost test(Rig::standard(1));
-    ToldPlugin plugin;
+    StubPlugin plugin;
     PluginSlot slot(test.host, plugin);
     PluginButton button(test.host, slot, nullptr);
     EXPECT_EQ(button.text(), "STUB");

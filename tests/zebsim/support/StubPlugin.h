@@ -9,10 +9,10 @@
 #include <optional>
 #include <stdexcept>
 
-/// A plug-in that notes how the host drives it.
+/// A plug-in that notes how the host drives it, and stands as a test says.
 class StubPlugin : public PLG_Common {
 public:
-    StubPlugin() { m_name = QStringLiteral("stub"); }
+    explicit StubPlugin(const QString& name = QStringLiteral("stub")) { m_name = name; }
 
     void prepareOpen() override {
         log.append(QStringLiteral("prepareOpen"));
@@ -38,8 +38,20 @@ public:
         }
     }
 
+    void preparePanel() override { log.append(QStringLiteral("preparePanel")); }
+    QWidget* getPanelWidget() const override { return panel; }
+    bool isReselectOnActivate() const override { return reselect; }
+    bool isDragging() const override { return dragging; }
+    bool isChecked(DOC_Interface* doc, int) override { return doc != nullptr && checked; }
+    bool isButtonEnabled() const override { return enabled; }
+
     QStringList log;
     std::unique_ptr<QDialog> dialog;
+    QWidget* panel = nullptr;
+    bool reselect = false;
+    bool dragging = false;
+    bool checked = false;
+    bool enabled = true;
     /// What `prepareOpen` throws.
     std::optional<std::string> refusal;
     int updates = 0;
