@@ -100,9 +100,9 @@ TEST_F(BridgePage, DevicesAndKeysArriveAsTheyAre) {
 }
 
 TEST_F(BridgePage, FailureLooksLikeANormalReturn) {
-    host.failing = "getPref";
+    host.faults().plant(FaultPlan::Host, "*", {"no answer"});
     EXPECT_EQ(json("[prefs.getPrefInt('a', 3), prefs.getPrefString('a', 'x'), probe.getStyle()]"), R"([0,"",""])");
-    EXPECT_EQ(course.take().count("errorHandler getPref"), 1) << "three questions have met one failure";
+    EXPECT_EQ(course.take().count("errorHandler no answer"), 1) << "three questions have met one failure";
     // A slot that does not exist, and one with arguments missing, are the page's own faults.
     eval("probe.noSuchSlot()");
     eval("probe.setPrefInt('a')");

@@ -202,7 +202,7 @@ TEST_F(BridgeSlots, RangeOfPixels) {
     host.camera(1).change({{"connected", true}, {"selected", true}});
     EXPECT_EQ(bridge.getRangeMax(), 4095);
     EXPECT_EQ(bridge.lastRangeMax(), 4095);
-    host.failing = "getPref";
+    host.faults().plant(FaultPlan::Host, "*", {"no answer"});
     EXPECT_EQ(bridge.getRangeMax(), 0);
 }
 
@@ -241,7 +241,7 @@ TEST_F(BridgeSlots, FlipAndRotation) {
         EXPECT_EQ(bridge.getFlip(), row.flip);
         EXPECT_EQ(bridge.getRotate(), row.rotate);
     }
-    host.failing = "*";
+    host.faults().plant(FaultPlan::Host, "*", {"no answer"});
     EXPECT_EQ(bridge.getRotate(), "0");
 }
 

@@ -159,7 +159,7 @@ TEST_F(ControlStatusTest, AFailureIsToldOnceUntilTheStatesAreWholeAgain) {
         EXPECT_EQ(bridge.getControlStatus(), whole);
         EXPECT_EQ(course.take(), over);
     }
-    host.failing = "*";
+    host.faults().plant(FaultPlan::Host, "*", {"no answer"});
     EXPECT_EQ(bridge.getControlStatus(), QString()) << "nothing can be said of a host that fails";
 }
 

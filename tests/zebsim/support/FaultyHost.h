@@ -25,39 +25,18 @@ struct HostParts {
 };
 
 /// The host with cameras of the standard model, all of them connected. What it is asked to do stands in the course, as
-/// "setPrefInt a/b 5", and all of it can fail. A text that it has translated reads "<text>".
+/// "setPrefInt a/b 5", and can fail then. A text that it has translated reads "<text>".
 class FaultyHost : public HostParts, public SimHost {
 public:
     explicit FaultyHost(int cameras = 0);
 
-    /// Name of an operation that throws its name; "*": everything does.
+    /// Name of an operation that throws its name.
     QString failing;
 
     Camera& camera(DOCKEY key) { return *cameras().find(key); }
-    DOC_Interface* doc(DOCKEY key) { return SimHost::docManager().getDoc(key, 1); }
-    void enterMode(int mode) { SimHost::appStatus().enterMode(mode); }
+    DOC_Interface* doc(DOCKEY key) { return docManager().getDoc(key, 1); }
+    void enterMode(int mode) { appStatus().enterMode(mode); }
 
-    SimAppStatus& appStatus() override { return healthy(SimHost::appStatus()); }
-    SimDocManager& docManager() override { return healthy(SimHost::docManager()); }
-    SimLiveLoop& liveLoop() override { return healthy(SimHost::liveLoop()); }
-    SimPlayer& player() override { return healthy(SimHost::player()); }
-    SimRecorder& recorder() override { return healthy(SimHost::recorder()); }
-    SimCameraOps& cameraOps() override { return healthy(SimHost::cameraOps()); }
-    SimSaver& saver() override { return healthy(SimHost::saver()); }
-    SimViewOps& viewOps() override { return healthy(SimHost::viewOps()); }
-    SimMdi& mdi() override { return healthy(SimHost::mdi()); }
-    SimUndo& undo() override { return healthy(SimHost::undo()); }
-
-    QVariant getPref(const QString& key, const QVariant& defaultValue = {}) const override;
-    int getPrefInt(const QString& key, const QVariant& other = {}) const override {
-        return getPref(key, other).toInt();
-    }
-    bool getPrefBool(const QString& key, const QVariant& other = {}) const override {
-        return getPref(key, other).toBool();
-    }
-    QString getPrefString(const QString& key, const QVariant& other = {}) const override {
-        return getPref(key, other).toString();
-    }
     QString translate(const QString& text) const override;
     void errorHandler(const std::exception& e) override;
     void showDropDownBox(const QString& key, const QRect& anchor) override;
@@ -65,14 +44,6 @@ public:
     void hideDropDownBoxAt(const QString& key, const QPoint& point) override;
 
 protected:
-    /// Notes an operation, or throws when it is the one that fails.
+    /// Notes an operation, and throws when it is the one that fails.
     void tell(const QString& operation, const QVariantList& args = {}) const;
-
-private:
-    void failIf(const QString& operation) const;
-    template <typename Part>
-    Part& healthy(Part& part) const {
-        failIf({});
-        return part;
-    }
 };
