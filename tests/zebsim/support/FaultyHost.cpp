@@ -25,7 +25,7 @@ Answer ToldDesk::show(const Message& message) {
 
 FaultyHost::FaultyHost(int cameras) : SimHost(stepped, desk, folder.filePath(QStringLiteral("prefs.ini"))) {
     setRig(Rig::standard(cameras));
-    for (Camera* camera : cameras().all()) camera->set(&CameraState::connected, true);
+    for (Camera* camera : SimHost::cameras().all()) camera->set(&CameraState::connected, true);
     desk.tell = [this](const char* kind, const QString& text) { tell(QLatin1String(kind), {text}); };
     QObject::connect(&journal(), &Journal::recorded, [this](const QString& call, const QVariantList& args) {
         tell(call.section(QStringLiteral("::"), 1), args);
