@@ -149,4 +149,11 @@ TEST_F(Page, TypesTextAndPressesKeysByName) {
     EXPECT_THROW(pressKey(QStringLiteral("Shift+Nothing"), 0, never), ScenarioError);
 }
 
+TEST_F(Page, ChoosesInAListByTheText) {
+    run("document.body.innerHTML = '<select id=list><option value=1>one<option value=2>two</select>'");
+    input.choose(QStringLiteral("#list"), QStringLiteral("two"));
+    EXPECT_EQ(run("document.getElementById('list').value").toString(), QStringLiteral("2"));
+    EXPECT_THROW(input.choose(QStringLiteral("#list"), QStringLiteral("3")), ScenarioError);
+}
+
 }  // namespace
