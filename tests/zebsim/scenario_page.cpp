@@ -139,6 +139,14 @@ TEST_F(Page, RefusesWhatAPersonCouldNotClick) {
     EXPECT_THAT(fault(QStringLiteral("#a'b\"[")), testing::HasSubstr("in the page"));
 }
 
+TEST_F(Page, DragsFromOneElementToAnother) {
+    input.drag(QStringLiteral("#top"), QStringLiteral("#field"));
+    const std::string events = seen().toStdString();
+    EXPECT_THAT(events, testing::StartsWith("top mousedown, top mousemove"));
+    EXPECT_THAT(events, testing::HasSubstr("room mousemove"));
+    EXPECT_THAT(events, testing::HasSubstr("field mouseup"));
+}
+
 TEST_F(Page, TypesTextAndPressesKeysByName) {
     input.click(QStringLiteral("#field"), {});
     typeText(*view.windowHandle(), QStringLiteral("aX 9+日本\b\"<"));
