@@ -68,6 +68,10 @@ TEST_F(PLG_wrenTest, asksBeforeItErases) {
     const auto record = [this] {
         for (const DOCKEY key : {1, 3}) host.camera(key).set(&CameraState::recorded, true);
     };
+    const auto recordAndMeanwhile = [&](const std::function<void()>& work) {
+        return [&, work] { record(), host.desk.whileStanding = work; };
+    };
+    const Fault gone{{}, 0, true};
     const struct {
         const char* sentence;
         std::function<void()> arrange;
@@ -78,17 +82,10 @@ TEST_F(PLG_wrenTest, asksBeforeItErases) {
          record,
          {EraseQuestion, "eraseRecordedData 1 0", "eraseRecordedData 3 0"}},
         {"a camera that goes while the question stands is passed over",
-         [&] {
-             record();
-             host.desk.whileStanding = [this] { host.faults().plant(1, "*", {{}, 0, true}); };
-         },
+         recordAndMeanwhile([&] { host.faults().plant(1, "*", gone); }),
          {EraseQuestion, "eraseRecordedData 3 0"}},
         {"so is one that loses its connection",
-         [&] {
-             host.faults().plant(1, "*", {});
-             record();
-             host.desk.whileStanding = [this] { host.camera(3).set(&CameraState::connected, false); };
-         },
+         recordAndMeanwhile([this] { host.camera(3).set(&CameraState::connected, false); }),
          {EraseQuestion, "eraseRecordedData 1 0"}},
         {"one that does not answer is named and keeps nobody from it",
          [&] {
@@ -113,6 +110,7 @@ TEST_F(PLG_wrenTest, asksBeforeItErases) {
          {}},
     };
     for (const auto& row : rows) {
+        host.faults().clear();
         row.arrange();
         taken();
         plugin->prepareOpen();

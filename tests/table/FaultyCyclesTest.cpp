@@ -175,10 +175,7 @@ QList<Action> actions() {
             list.append({slot.toStdString(), mode,
                          [slot](FaultyWorld& c) { QMetaObject::invokeMethod(c.bridge.get(), slot); }});
         list += {
-            {"the host's disconnect", mode,
-             [](FaultyWorld& c) {
-                 c.bridge->connect({1, 2, 3}, false, true);
-             }},
+            {"the host's disconnect", mode, [](FaultyWorld& c) { c.bridge->connect(Keys, false, true); }},
             {"the lists of the page's start", mode,
              [](FaultyWorld& c) {
                  c.bridge->getGroups();

@@ -137,6 +137,8 @@ TEST_F(MemoryEditingTest, aCheckNeedsAConnectedAndSelectedCamera) {
 
 TEST_F(MemoryEditingTest, savingAsksForWhatNobodyHasLookedAt) {
     const QString question = "Do you want to save even though playback confirmation has not been completed?";
+    const Answer no{false, false};
+    const Fault down{"The link is down", 0, false};
     const auto check = [this](bool checked) {
         for (const DOCKEY key : {1, 2, 3, 4}) change(key, {{"recordCheck", checked}});
     };
@@ -151,9 +153,7 @@ TEST_F(MemoryEditingTest, savingAsksForWhatNobodyHasLookedAt) {
          {},
          true},
         {"one is not, and the user does not want that",
-         [&] {
-             change(3, {{"recordCheck", false}}), desk.answers = {{false, false}};
-         },
+         [&] { camera(3).set(&CameraState::recordCheck, false), desk.answers = {no}; },
          {question},
          false},
         {"he does", [] {}, {question}, true},
@@ -162,9 +162,7 @@ TEST_F(MemoryEditingTest, savingAsksForWhatNobodyHasLookedAt) {
          {question},
          false},
         {"one does not answer, and the others are to be saved",
-         [&] {
-             check(true), host.faults().plant(3, "isRecordCheck", Fault{"The link is down", 0, false});
-         },
+         [&] { check(true), host.faults().plant(3, "isRecordCheck", down); },
          {question + "\nCamera 3: The link is down"},
          true},
         {"in live mode", [] {}, {}, false},

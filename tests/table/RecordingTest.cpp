@@ -132,6 +132,7 @@ TEST_F(RecordingTest, problemsAreListedOnceAndTheUserDecides) {
 
 TEST_F(RecordingTest, whatHappensWhileTheUserReadsIsSeen) {
     change(1, {{"alerts", QStringList{"The fan turns slowly"}}});
+    const Fault gone{{}, 0, true};
     const struct {
         const char* sentence;
         std::function<void()> meanwhile;
@@ -139,11 +140,7 @@ TEST_F(RecordingTest, whatHappensWhileTheUserReadsIsSeen) {
     } cases[] = {
         {"a second press is refused", [this] { bridge->record(); }, Armed},
         {"the host's record key too", [this] { plugin.slotRecord(); }, Armed},
-        {"a camera is disconnected",
-         [this] {
-             change(2, {{"connected", false}});
-         },
-         Armed},
+        {"a camera is disconnected", [this] { camera(2).set(&CameraState::connected, false); }, Armed},
         {"somebody has armed", [this] { setState(zeb::RecordReady); }, {}},
         {"the host has gone to memory mode",
          [this] {
@@ -151,11 +148,7 @@ TEST_F(RecordingTest, whatHappensWhileTheUserReadsIsSeen) {
              host.appStatus().enterMode(zeb::MemoryMode);
          },
          {}},
-        {"a camera is gone",
-         [this] {
-             host.faults().plant(2, "*", Fault{{}, 0, true});
-         },
-         Armed},
+        {"a camera is gone", [&] { host.faults().plant(2, "*", gone); }, Armed},
     };
     for (const auto& each : cases) {
         setState(zeb::RecordLive);
