@@ -57,12 +57,9 @@ TEST_F(DeviceInfo, OnlyTheShortListInLiveModeLeavesOut) {
 
 TEST_F(DeviceInfo, TellsNamesAndMarks) {
     host.setRig(Rig::fromFile(":/webdialog/rigs/functions.json"));
-    host.camera(2).change({{"alias", "alias"},
-                           {"connected", true},
-                           {"mobile", true},
-                           {"selected", true},
-                           {"slowLink", true},
-                           {"wifi", true}});
+    host.camera(2).change({{"alias", "alias"}});
+    for (const char* mark : {"connected", "mobile", "selected", "slowLink", "wifi"})
+        host.camera(2).change({{mark, true}});
     EXPECT_EQ(entry(1).keys().join(' '),
               "cameraname con-wifi devicename dummy found headno ipaddress key mobile selected shutdown sup-linkspeed "
               "sup-wifi");
