@@ -17,7 +17,9 @@ public:
     virtual bool isRecording() const = 0;
 
     /// Arms the connected cameras: they become ready, by way of waiting for CTS where a camera has that. One that is
-    /// armed already takes part as it is, one that records by itself is left alone.
+    /// armed already takes part as it is, one that records by itself is left alone. The host may ask its user first, as
+    /// when images would be lost; when that one refuses, nothing is armed and `PLG_Interface::signalEndRecording` is
+    /// raised.
     virtual void startRecReady() = 0;
     /// Gives the cameras that are ready their trigger; those that are not take no part, which the host tells.
     virtual void triggerRecording() = 0;

@@ -29,7 +29,8 @@ QVariant convertedTo(int type, QVariant value, const QVariant& otherwise) {
 
 }  // namespace
 
-Preferences::Preferences(const QString& path) : m_settings(std::make_unique<WholeSettings>(path.isEmpty() ? defaultPath() : path)) {
+Preferences::Preferences(const QString& path)
+    : m_settings(std::make_unique<WholeSettings>(path.isEmpty() ? defaultPath() : path)) {
     // A section is parsed, and may show its damage, only when somebody asks for it.
     m_settings->allKeys();
     if (m_settings->status() == QSettings::FormatError) {

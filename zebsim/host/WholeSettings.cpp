@@ -5,6 +5,7 @@
 #include <QtDebug>
 
 #include <filesystem>
+#include <utility>
 
 WholeSettings::WholeSettings(const QString& path) : QSettings(path, QSettings::IniFormat) {
     setIniCodec("UTF-8");
@@ -30,11 +31,12 @@ void WholeSettings::syncWhole() {
     std::filesystem::create_hard_link(file, before, failure);
     const bool isKept = !failure;
     sync();
-    if (isKept && !isOnDisk()) {
-        std::filesystem::rename(before, file, failure);
-        qCritical() << "The preferences can't be written; what the file held before stays:" << fileName();
-    }
+    const bool isCut = !isOnDisk();
+    if (isCut && isKept) std::filesystem::rename(before, file, failure);
     std::filesystem::remove(before, failure);
+    // The status stays as it is once something has failed.
+    if (isCut || (status() == AccessError && !std::exchange(m_isTold, true)))
+        qCritical() << "The preferences can't be written:" << fileName();
 }
 
 /// Each key has a line of its own. Settings that were opened anew would show what is still in memory.

@@ -2,8 +2,8 @@
 
 #include <QSettings>
 
-/// Settings in an INI file that is the new one or the old one, whole: on a full disk Qt's own leave an empty one. What
-/// could not be written is a line in the log. GUI thread.
+/// Settings in an INI file. On a full disk Qt's own leave an empty one; here what the file held before stays, where the
+/// file system can give it a second name for that long. That it could not be written is a line in the log. GUI thread.
 class WholeSettings : public QSettings {
     Q_OBJECT
 
@@ -17,4 +17,6 @@ protected:
 private:
     void syncWhole();
     bool isOnDisk() const;
+
+    bool m_isTold = false;
 };

@@ -20,7 +20,7 @@ struct ClickOptions {
     Part part = Whole;
 };
 
-/// Mouse and keys on a page as they come from the window system. Every operation throws `ScenarioError` when the
+/// The mouse on a page as it comes from the window system. Every operation throws `ScenarioError` when the
 /// element is not there, is not shown, or stays under something else.
 class PageInput {
 public:
