@@ -397,6 +397,9 @@ TEST_F(SavingVideo, LeavesNoHalfFile) {
     }
     program("#!/bin/sh\necho 'no such encoder' >&2; exit 1\n");
     EXPECT_EQ(run(video()), QStringList({"Gate: 0 of 2 up to 0, failed", "Nozzle/2: 0 of 3 up to 2, failed"}));
+    program(QByteArray(Encoder) + "echo 'No space left on device' >&2\n");
+    EXPECT_EQ(run(video()), QStringList({"Gate: 0 of 2 up to 0, failed", "Nozzle/2: 0 of 3 up to 2, failed"}));
+    EXPECT_EQ(reason, "No space left on device");
     EXPECT_EQ(files(), QStringList("Gate.mp4"));
     EXPECT_TRUE(isOld("Gate.mp4"));
 }

@@ -37,6 +37,7 @@ bool VideoSink::begin(const QSize& size) {
     }
     m_growing.close();
     m_process.setStandardOutputFile(QProcess::nullDevice());
+    m_process.setReadChannel(QProcess::StandardError);
     m_process.start(m_encoder.program, m_encoder.arguments(size, m_growing.fileName()));
     m_begun = true;
     return true;
@@ -71,8 +72,9 @@ bool VideoSink::complete() {
     if (!m_begun) {
         return true;
     }
+    // It ends well even when the end of the file could not be written, but says nothing unless something is wrong.
     if (m_process.exitStatus() != QProcess::NormalExit || m_process.exitCode() != 0 ||
-        m_process.error() == QProcess::FailedToStart) {
+        m_process.error() == QProcess::FailedToStart || m_process.bytesAvailable() > 0) {
         fail();
     }
     // Somebody else may have taken the name meanwhile.
