@@ -4,7 +4,6 @@
 #include "ConnectedDocs.h"
 #include "DOC_Control.h"
 #include "DOC_Interface.h"
-#include "GUI_WebView.h"
 #include "GUI_WrenTableDialog.h"
 #include "JS_Mediator_WrenTableDialog.h"
 #include "NamedFailure.h"
@@ -99,27 +98,25 @@ JS_Mediator_WrenTableDialog* PLG_wren::table() {
     return dialog ? qobject_cast<JS_Mediator_WrenTableDialog*>(dialog->getBridge()) : nullptr;
 }
 
-JS_Mediator_WrenTableDialog* PLG_wren::activeTable() {
+JS_Mediator_WrenTableDialog* PLG_wren::tableForKey() {
     auto* dialog = static_cast<GUI_WrenTableDialog*>(getDialog(false));
     if (!dialog || !dialog->isActiveWindow()) return nullptr;
     // What is sent may end in a question, and the plug-in be gone by the answer.
     const QPointer<PLG_wren> alive(this);
-    const QPointer<QWidget> view(dialog->getWebView());
-    view->clearFocus();
-    if (view) view->setFocus();
+    dialog->finishTyping();
     return alive ? table() : nullptr;
 }
 
 void PLG_wren::slotRecord() {
-    if (auto* bridge = activeTable()) bridge->record();
+    if (auto* bridge = tableForKey()) bridge->record();
 }
 
 void PLG_wren::slotSaveFile() {
-    if (auto* bridge = activeTable()) bridge->save();
+    if (auto* bridge = tableForKey()) bridge->save();
 }
 
 void PLG_wren::slotSaveLayout() {
-    if (auto* bridge = activeTable()) bridge->saveLayout();
+    if (auto* bridge = tableForKey()) bridge->saveLayout();
 }
 
 void PLG_wren::slotEndRecording() {

@@ -34,7 +34,7 @@ private:
     void setRunningInHost(bool running);
     /// Null while there is no table.
     JS_Mediator_WrenTableDialog* table();
-    /// Null unless the table is the active window. What the user was typing in has been left, as by a click elsewhere:
-    /// the page would send it only after the call that is to follow had begun, which refuses it.
-    JS_Mediator_WrenTableDialog* activeTable();
+    /// The table for a key of the host, after a number that is being typed in it has gone out; the call that is to
+    /// follow would refuse that. Null unless the table is the active window.
+    JS_Mediator_WrenTableDialog* tableForKey();
 };

@@ -2,6 +2,7 @@
 
 #include "BridgeCall.h"
 #include "GUI_SelectBox.h"
+#include "GUI_WebView.h"
 #include "JS_Mediator_WrenTableDialog.h"
 #include "LogFailure.h"
 #include "TablePlacement.h"
@@ -13,6 +14,7 @@
 #include <QGuiApplication>
 #include <QPointer>
 #include <QScreen>
+#include <QWebFrame>
 
 #include <utility>
 
@@ -47,6 +49,11 @@ GUI_WrenTableDialog::GUI_WrenTableDialog(ZebHost* host, const QString& title, co
 }
 
 GUI_WrenTableDialog::~GUI_WrenTableDialog() = default;
+
+void GUI_WrenTableDialog::finishTyping() {
+    getWebView()->page()->mainFrame()->evaluateJavaScript(
+        QStringLiteral("typeof numberBox === 'object' && guarded(() => numberBox.finishTyping())"));
+}
 
 void GUI_WrenTableDialog::showPartitionBox(const QRect& anchor) {
     m_selectBox->showBox(int(SelectBoxType::Partition), anchor, {});

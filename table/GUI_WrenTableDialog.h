@@ -22,6 +22,9 @@ public:
     void hidePartitionBox();
     bool isPartitionBoxShown() const;
 
+    /// Sends the number that the user is typing, who may type on; nothing when he is not. It may end in a question.
+    void finishTyping();
+
     /// The session is open afterwards, page or not.
     void openPage() override;
     /// A failure of the page goes to the log and no further.

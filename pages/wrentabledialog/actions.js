@@ -211,6 +211,9 @@ function connectedKeys(view) {
 }
 
 function onGridDoubleClick(view, event) {
+    if (numberBox.isInput(event.target)) {
+        event.target.select(); // with its sign, which is no part of the word that the engine marks
+    }
     const row = view.rowOf(event.target);
     const cell = row && row.cellOf(event.target);
     if (cell && cell.field === 'comment') {

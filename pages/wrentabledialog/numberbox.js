@@ -98,6 +98,17 @@ const numberBox = {
         }
     },
 
+    // A key of the host is to be done: what is being typed goes out before, and the typing goes on where it was.
+    finishTyping() {
+        const input = document.activeElement;
+        if (this.isInput(input)) {
+            const caret = caretOf(input);
+            input.blur();
+            input.focus();
+            placeCaret(input, caret);
+        }
+    },
+
     // Takes a number from the widget. What the camera makes of it is shown by the next refresh.
     send(value) {
         if (!this.held || wrentabledialog_obj.isRebuilding || this.isLeftByWindow()) {

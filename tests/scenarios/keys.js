@@ -69,6 +69,7 @@ zeb.key('Ctrl+S');
 const calls = zeb.calls().map(call => call.call.replace(/.*::/, ''));
 check(calls.indexOf('setSelectRange') >= 0 && calls.indexOf('setSelectRange') < calls.indexOf('saveFiles') &&
     zeb.camera(1).selectedRange[0] === range[1] - 2, 'a number that was being typed is in the range that is saved: ' + calls);
-check(zeb.active() === table, 'the save dialog gives the keyboard back');
+check(zeb.active() === table && zeb.page("'#' + document.activeElement.id") === START,
+    'the save dialog gives the keyboard back, and the box still has it');
 zeb.notices(false);
 check(zeb.messages().some(message => /no answer/.test(message.text) && message.answer === ''), 'the notice stood to the end');
