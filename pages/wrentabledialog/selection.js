@@ -59,7 +59,8 @@ Object.assign(wrentabledialog_obj, {
         const [came, went] = [keysThatDiffer(view, true), keysThatDiffer(view, false)];
         this.handSelection(went, false);
         this.handSelection(came, true);
-        if (came.length + went.length > 0) {
+        // While the list is disabled nothing is handed on, and the rows show what the cameras have.
+        if (came.length + went.length > 0 || this.getListDisableStatus()) {
             this.selectionChanged();
         }
     },
