@@ -16,6 +16,12 @@ QWidget* lastingWindow(QWidget* window) {
     return window != nullptr && window->isVisible() && !window->isMinimized() ? window : nullptr;
 }
 
+/// Where the user was last, and stays when a dialog goes; null while that is gone.
+QPointer<QWidget>& lastWindow() {
+    static QPointer<QWidget> last;
+    return last;
+}
+
 QPoint keptOn(const QRect& screen, const QPoint& topLeft, const QSize& size) {
     return {qMax(screen.left(), qMin(topLeft.x(), screen.right() - size.width())),
             qMax(screen.top(), qMin(topLeft.y(), screen.bottom() - size.height()))};
@@ -23,9 +29,17 @@ QPoint keptOn(const QRect& screen, const QPoint& topLeft, const QSize& size) {
 
 }  // namespace
 
-OverActiveWindow::OverActiveWindow(QWidget& dialog, QWidget* last)
-    : m_before(lastingWindow(QApplication::activeWindow() ? QApplication::activeWindow() : last)) {
+void OverActiveWindow::rememberWindows() {
+    QObject::connect(qApp, &QGuiApplication::focusWindowChanged, qApp, [] {
+        QWidget* window = QApplication::activeWindow();
+        if (window != nullptr && !window->isModal()) lastWindow() = window;
+    });
+}
+
+OverActiveWindow::OverActiveWindow(QWidget& dialog)
+    : m_before(lastingWindow(QApplication::activeWindow() ? QApplication::activeWindow() : lastWindow().data())) {
     if (m_before == nullptr) return;
+    if (!m_before->isModal()) lastWindow() = m_before;
     // The parent stays the owner; what the dialog stands over is the native window's matter.
     dialog.winId();
     dialog.windowHandle()->setTransientParent(m_before->windowHandle());

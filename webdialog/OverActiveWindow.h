@@ -4,12 +4,16 @@
 #include <QWidget>
 
 /// Keeps a dialog over the window that the user works in, and gives that one the keyboard back at the end of the scope.
-/// For a dialog of the main window or of nobody: the window system would raise the main window with it, and leave the
-/// keyboard there. GUI thread.
+/// The window system would go by its parent: it would raise the main window with a dialog of that or of nobody, and
+/// leave the keyboard there. GUI thread.
 class OverActiveWindow {
 public:
-    /// Before `dialog` is shown. `last` is where the user was last, for while he is in another program; it may be null.
-    explicit OverActiveWindow(QWidget& dialog, QWidget* last = nullptr);
+    /// From now on a program knows where its user was last, for while he is in another program or between two dialogs.
+    /// Once; a library that a program loads goes without.
+    static void rememberWindows();
+
+    /// Before `dialog` is shown.
+    explicit OverActiveWindow(QWidget& dialog);
     /// When the dialog is gone.
     ~OverActiveWindow();
     OverActiveWindow(const OverActiveWindow&) = delete;

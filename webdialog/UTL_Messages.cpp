@@ -1,6 +1,7 @@
 #include "UTL_Messages.h"
 
 #include "BoxText.h"
+#include "NoHastyPress.h"
 #include "OverActiveWindow.h"
 #include "PlainText.h"
 #include "Style.h"
@@ -14,8 +15,6 @@
 #include <QMessageBox>
 #include <QPointer>
 #include <QPushButton>
-
-#include <optional>
 
 namespace {
 
@@ -60,6 +59,7 @@ QMessageBox* makeWarning(const QString& text, const ZebHost& host, QWidget* pare
         applyNativeStyle(host, *box);
     else
         applyMessageBoxStyle(host, *box);
+    new NoHastyPress(*box);
     return box;
 }
 
@@ -74,8 +74,7 @@ bool UTL_Messages::warnOkCancel(const QString& text, ZebHost& host, QWidget* par
     if (suspended) host.suspendViewer();
     int result = QMessageBox::Cancel;
     {
-        std::optional<OverActiveWindow> over;
-        if (parent == nullptr || parent == host.getMainWindow()) over.emplace(*box);
+        const OverActiveWindow over(*box);
         box->show();
         centerWithoutMainWindow(host, *box);
         result = box->exec();

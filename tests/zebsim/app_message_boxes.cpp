@@ -110,6 +110,16 @@ TEST_F(Boxes, AreRefusedByEnterAndEscapeUnlessTheCallerPrefersAnother) {
     }
 }
 
+TEST_F(Boxes, AreNotAnsweredByThePressThatBroughtThemUp) {
+    onStanding([](QMessageBox& box) {
+        QTest::mouseClick(box.button(QMessageBox::Ok), Qt::LeftButton);
+        QTest::mouseDClick(box.button(QMessageBox::Ok), Qt::LeftButton);
+        EXPECT_TRUE(box.isVisible());
+    });
+    dialogs.queueAnswers({"cancel"});
+    EXPECT_FALSE(boxes.show(message(Message::Confirm, "c")).accepted);
+}
+
 TEST_F(Boxes, StandOverTheWindowInWhichTheUserIsAndGiveItTheKeyboardBack) {
     QWidget viewer;
     test.host.setMainWindow(&viewer);

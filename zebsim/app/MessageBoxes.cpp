@@ -1,6 +1,7 @@
 #include "MessageBoxes.h"
 
 #include "BoxText.h"
+#include "NoHastyPress.h"
 #include "OverActiveWindow.h"
 #include "Style.h"
 #include "ZebHost.h"
@@ -14,7 +15,6 @@
 #include <QScreen>
 #include <QWindow>
 
-#include <optional>
 #include <utility>
 
 namespace {
@@ -85,14 +85,7 @@ void moveToCorner(QWidget& notice) {
 
 }  // namespace
 
-MessageBoxes::MessageBoxes() {
-    m_watch = QObject::connect(qApp, &QGuiApplication::focusWindowChanged, [this] {
-        if (QApplication::activeWindow() != nullptr) m_lastActive = QApplication::activeWindow();
-    });
-}
-
 MessageBoxes::~MessageBoxes() {
-    QObject::disconnect(m_watch);
     delete m_notice;
 }
 
@@ -120,8 +113,7 @@ Answer MessageBoxes::show(const Message& message) {
     }
     // The box goes with its parent, which may be destroyed while it stands.
     const QPointer<QMessageBox> box = makeBox(message);
-    std::optional<OverActiveWindow> over;
-    if (message.parent == nullptr || message.parent == m_host->getMainWindow()) over.emplace(*box, m_lastActive);
+    const OverActiveWindow over(*box);
     box->exec();
     if (box.isNull()) return {false};
     QAbstractButton* chosen = box->clickedButton();
@@ -191,6 +183,7 @@ QMessageBox* MessageBoxes::makeBox(const Message& message) const {
     if (message.offersSilence) box->setCheckBox(new QCheckBox(translated(QStringLiteral("Don't show again"))));
     applyMessageBoxStyle(*m_host, *box);
     showWhole(box->buttons());
+    new NoHastyPress(*box);
     return box;
 }
 

@@ -7,12 +7,13 @@
 class QMessageBox;
 class ZebHost;
 
-/// Shows the host's messages as message boxes. Those of the main window or of nobody stand over the window that the
-/// user works in.
+/// Shows the host's messages as message boxes, over the window that the user works in.
 class MessageBoxes : public MessageDesk {
 public:
-    MessageBoxes();
+    MessageBoxes() = default;
     ~MessageBoxes() override;
+    MessageBoxes(const MessageBoxes&) = delete;
+    MessageBoxes& operator=(const MessageBoxes&) = delete;
 
     /// Name of a box's property that tells what kind of message it is: "info", "warn", "alert", "confirm" or "error".
     static constexpr auto KindProperty = "messageKind";
@@ -46,8 +47,5 @@ private:
     QList<Message> m_held;
     QPointer<QMessageBox> m_notice;
     QString m_noticeStyle;
-    /// Where the user was last; null while that is gone.
-    QPointer<QWidget> m_lastActive;
-    QMetaObject::Connection m_watch;
     bool m_rejecting = false;
 };

@@ -10,7 +10,6 @@
 #include "host/SimHost.h"
 #include "saving/SaveJob.h"
 
-#include <QApplication>
 #include <QDir>
 #include <QMessageBox>
 #include <QtDebug>
@@ -41,7 +40,6 @@ void SaveDesk::save(bool layout) {
         m_host.tell(Message::Warn, uiText("No connected camera has recorded images."), absent);
         return;
     }
-    const QPointer<QWidget> before = QApplication::activeWindow();
     Preferences& prefs = m_host.prefs();
     m_asking = true;
     const int answer = runDialog(m_host, new SaveDialog(prefs, tracks, absent, m_host.getMainWindow()));
@@ -49,8 +47,7 @@ void SaveDesk::save(bool layout) {
     if (answer != QDialog::Accepted) return;
     begin({prefs.value(QStringLiteral("save/folder")).toString(),
            saveFormat(prefs.value(QStringLiteral("save/format")).toString()), tracks,
-           [this](const QString& file) { return ask(file); }, VideoEncoder::installed(), absent},
-          before);
+           [this](const QString& file) { return ask(file); }, VideoEncoder::installed(), absent});
 }
 
 QStringList SaveDesk::markEarlier(SaveSources& sources) const {
@@ -63,7 +60,7 @@ QStringList SaveDesk::markEarlier(SaveSources& sources) const {
     return marked;
 }
 
-void SaveDesk::begin(const SaveOrders& orders, QWidget* before) {
+void SaveDesk::begin(const SaveOrders& orders) {
     auto job = std::make_unique<SaveJob>(m_host.cameras(), orders);
     if (const auto refusal = job->start()) {
         m_host.tell(Message::Alert, refusalText(*refusal, orders));
@@ -71,10 +68,10 @@ void SaveDesk::begin(const SaveOrders& orders, QWidget* before) {
     }
     m_job = std::move(job);
     QObject::connect(m_job.get(), &SaveJob::finished, m_job.get(), [this] { finish(); });
-    showProgress(before);
+    showProgress();
 }
 
-void SaveDesk::showProgress(QWidget* before) {
+void SaveDesk::showProgress() {
     const HostCalls::Own own;
     // Nobody has closed the last one's list of results.
     delete m_progress;
@@ -83,7 +80,7 @@ void SaveDesk::showProgress(QWidget* before) {
     m_progress->setAttribute(Qt::WA_DeleteOnClose);
     m_progress->setModal(true);
     applyNativeStyle(m_host, *m_progress);
-    m_over.emplace(*m_progress, before);
+    m_over.emplace(*m_progress);
     QObject::connect(m_progress, &QDialog::finished, m_progress, [this] { m_over.reset(); });
     m_progress->show();
 }

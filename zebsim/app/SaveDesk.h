@@ -14,7 +14,6 @@
 class SaveJob;
 class SaveProgress;
 class SimHost;
-class QWidget;
 enum class Overwrite;
 struct SaveOrders;
 
@@ -33,9 +32,8 @@ public:
 private:
     /// Names those that are not of the last shoot so, and answers the names.
     QStringList markEarlier(SaveSources& sources) const;
-    /// `before` is the window that the user was in.
-    void begin(const SaveOrders& orders, QWidget* before);
-    void showProgress(QWidget* before);
+    void begin(const SaveOrders& orders);
+    void showProgress();
     Overwrite ask(const QString& file);
     void askToCancel();
     void finish();

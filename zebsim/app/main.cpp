@@ -1,6 +1,7 @@
 #include "CommandLine.h"
 #include "HostPages.h"
 #include "OffscreenScreen.h"
+#include "OverActiveWindow.h"
 #include "ScenarioRunner.h"
 #include "Simulator.h"
 #include "ViewerWindow.h"
@@ -24,12 +25,12 @@ CommandLine parseWithoutDisplay(int argc, char** argv) {
 }
 
 /// Qt ends the process when it finds no display.
-void tellMissingDisplay(QtMsgType type, const QMessageLogContext& /*context*/, const QString& /*text*/) {
+void tellMissingDisplay(QtMsgType type, const QMessageLogContext& /*context*/, const QString& text) {
     if (type != QtFatalMsg) return;
-    std::fputs(
-        "zebsim needs a display, and there is none to be had: DISPLAY names no X server that answers. To run without "
-        "one, as for a scenario, set QT_QPA_PLATFORM=offscreen, or start it by xvfb-run.\n",
-        stderr);
+    std::fprintf(stderr,
+                 "zebsim needs a display, and there is none to be had. To run without one, as for a scenario, set "
+                 "QT_QPA_PLATFORM=offscreen, or start it by xvfb-run.\n%s\n",
+                 qUtf8Printable(text));
     std::_Exit(CannotStart);
 }
 
@@ -68,6 +69,7 @@ int main(int argc, char** argv) {
     qInstallMessageHandler(handler);
     QApplication::setQuitOnLastWindowClosed(false);
     setUpOffscreen(QSize(1920, 1200));
+    OverActiveWindow::rememberWindows();
     initHostPages();
     try {
         Simulator simulator(line);
