@@ -118,9 +118,10 @@ void ViewerWindow::refresh() {
     const auto connected = std::count_if(cameras.begin(), cameras.end(),
                                          [](const Camera* camera) { return camera->get(&CameraState::connected); });
     m_cameras->setText(uiText("%1 cameras, %2 connected").arg(cameras.size()).arg(connected));
-    m_modes->actions().at(m_host.getOperatingMode())->setChecked(true);
-    // In another mode nobody could stop the cameras.
-    m_modes->setEnabled(!m_host.recorder().isUnderWay());
+    const QList<QAction*> modes = m_modes->actions();
+    modes.at(m_host.getOperatingMode())->setChecked(true);
+    // In another mode than live nobody could stop the cameras.
+    for (QAction* mode : modes) mode->setEnabled(mode == modes.at(zeb::LiveMode) || !m_host.recorder().isUnderWay());
     const QString style = styleName(m_host);
     const QList<QAction*> styles = m_styles->actions();
     for (QAction* action : styles) action->setChecked(action->objectName() == style);
