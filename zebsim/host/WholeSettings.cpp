@@ -42,7 +42,7 @@ void WholeSettings::syncWhole() {
 /// Each key has a line of its own. Settings that were opened anew would show what is still in memory.
 bool WholeSettings::isOnDisk() const {
     QFile file(fileName());
-    if (!file.open(QIODevice::ReadOnly)) return false;
+    if (!file.open(QIODevice::ReadOnly)) return allKeys().isEmpty();
     int keys = 0;
     while (!file.atEnd()) {
         const QByteArray line = file.readLine();
