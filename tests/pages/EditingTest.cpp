@@ -49,6 +49,18 @@ TEST(PageEditing, OneCallForARowAndOneForAll) {
     }
 }
 
+TEST(PageEditing, AChoiceByKeysIsMadeOnce) {
+    TestHost test(connected(3));
+    TablePage page(test, 1);
+    const auto byKeys = [&] {
+        page.click(".SumoSelect[dockey=\"1\"] p.wren_livecontrol_framerate");
+        page.key(Qt::Key_Down);
+        page.key(Qt::Key_Return);
+    };
+    EXPECT_EQ(page.made("^set", byKeys), QStringList("setFrameRate 1 2000"));
+    EXPECT_EQ(page.made("^set", [&] { page.pick("2", "trigger", "2"); }), QStringList("setTriggerMode 2 2"));
+}
+
 TEST(PageEditing, TheBatchRowStandsForTheRowsThatAreShown) {
     TestHost test(Rig::standard(4));
     connectCameras(test, 1, 3);

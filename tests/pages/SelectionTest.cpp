@@ -65,6 +65,18 @@ TEST(PageSelection, OfManyRowsIsOneCall) {
     EXPECT_EQ(range.first().toArray().first().toArray().size(), Cameras - 1) << "those that come";
 }
 
+TEST(PageSelection, ShowsNothingThatTheCamerasDoNotHave) {
+    TestHost test(connected(2));
+    TablePage page(test);
+    choose(test, {"2"});
+    for (const DOCKEY key : {1U, 2U}) test.camera(key).set(&CameraState::recordState, int(zeb::RecordReady));
+    test.host.recorder().startRecReady();
+    page.update();
+    EXPECT_EQ(page.list("probe.selected()"), QStringList());
+    page.click(row(2));
+    EXPECT_EQ(page.list("probe.selected()"), QStringList()) << "while they are ready no row is";
+}
+
 /// As without it when the hand moves a little.
 TEST(PageSelection, FollowsTheMouse) {
     struct Case {
