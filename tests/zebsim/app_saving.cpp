@@ -133,7 +133,7 @@ TEST_F(AppSaving, OffersAnotherFolderThanOneWithFiles) {
 }
 
 TEST_F(AppSaving, TellsOfCamerasThatAreNotThere) {
-    for (DOCKEY key = 1; key <= 2; ++key) host.cameras().find(key)->keep(host.cameras().find(key)->recording());
+    for (DOCKEY key = 1; key <= 2; ++key) host.cameras().find(key)->keep(1, host.cameras().find(key)->recording());
     Q_EMIT host.events().shootEnded();
     host.faults().plant(2, "*", {{}, 0, true});
     const QString lost = "Camera 2: the camera has disappeared. Its recording is not saved.";
@@ -164,7 +164,7 @@ TEST_F(AppSaving, TellsWhichFramesAreNotOfTheLastRecording) {
     Camera& first = *host.cameras().find(1);
     Camera& second = *host.cameras().find(2);
     const auto shoot = [&](Camera& camera) {
-        camera.keep(camera.recording());
+        camera.keep(1, camera.recording());
         Q_EMIT host.events().shootEnded();
     };
     shoot(first);

@@ -101,7 +101,7 @@ TEST_F(ViewerTest, EndsTheApplicationWhenItIsClosed) {
     };
     EXPECT_FALSE(closeBy(Qt::Key_Return)) << "a camera is armed, and Enter leaves it";
     camera.change({{"recordState", zeb::RecordLive}, {"recorded", true}, {"recordedRange", QVariantList{0, 63}}});
-    camera.keep(camera.recording());
+    camera.keep(1, camera.recording());
     EXPECT_FALSE(closeBy(Qt::Key_Return) || closeBy(Qt::Key_Escape)) << "nobody has saved what it has recorded";
     ScenarioDialogs dialogs;
     EXPECT_EQ(simulator.run([&] { simulator.window().close(); }), 0);

@@ -253,7 +253,7 @@ TEST_F(Saving, LosesACameraAtAnyFrameAndNoOther) {
             if (job.outcomes().isEmpty() && job.frame() == 1) work();
         };
     };
-    const auto anew = [&] { host.camera(1).keep(host.camera(1).recording()); };
+    const auto anew = [&] { host.camera(1).keep(1, host.camera(1).recording()); };
     EXPECT_EQ(run(orders(), afterOne(anew)).first(), "Gate: 1 of 2 up to -1, lost");
     EXPECT_EQ(
         run(orders(), afterOne([&] { host.host.setRig(Rig::standard(3)); })),

@@ -97,8 +97,7 @@ std::vector<Recording> Camera::recordings() const {
 
 void Camera::noteSaved(const Recording& recording) {
     const std::lock_guard lock(m_device.mutex());
-    PartitionMemory& memory =
-        recording.partition == m_state.partition ? m_state : m_otherPartitions[recording.partition];
+    PartitionMemory& memory = memoryOf(recording.partition);
     if (memory.serial == recording.serial) {
         memory.savedRanges.append({recording.selectedFirst, recording.selectedLast});
     }
@@ -328,6 +327,10 @@ void Camera::changePartition(PARTITIONNUMBER partition) {
     }
 }
 
+PartitionMemory& Camera::memoryOf(PARTITIONNUMBER partition) {
+    return partition == m_state.partition ? m_state : m_otherPartitions[partition];
+}
+
 void Camera::setVariable(unsigned int channel) {
     if (!commandConnected("setVariable")) {
         return;
@@ -346,7 +349,7 @@ void Camera::arm() {
 
 void Camera::trigger() {
     if (commandConnected("trigger")) {
-        keep(std::nullopt);
+        keep(get(&CameraState::partition), std::nullopt);
         enterRecordState(zeb::RecordRecording);
     }
 }
@@ -374,7 +377,7 @@ void Camera::enterRecordState(int recordState) {
     m_state.status = statusOf(recordState, recordsBefore);
 }
 
-void Camera::keep(const std::optional<Recording>& recording) {
+void Camera::keep(PARTITIONNUMBER partition, const std::optional<Recording>& recording) {
     static std::atomic<quint64> lastSerial{0};
     PartitionMemory kept;
     if (recording) {
@@ -387,7 +390,7 @@ void Camera::keep(const std::optional<Recording>& recording) {
         kept.selectedRange = {recording->selectedFirst, recording->selectedLast};
     }
     const std::lock_guard lock(m_device.mutex());
-    static_cast<PartitionMemory&>(m_state) = kept;
+    memoryOf(partition) = kept;
 }
 
 template <typename T>

@@ -91,9 +91,10 @@ public:
     /// A camera that waits for a trigger goes back to live.
     void disarm();
 
-    /// What the camera does by itself: it goes into a `zeb::RecordStatus`, and keeps what it has recorded.
+    /// What the camera does by itself: it goes into a `zeb::RecordStatus`, and keeps what it has recorded in a
+    /// partition, which need not be the present one any more.
     void enterRecordState(int recordState);
-    void keep(const std::optional<Recording>& recording);
+    void keep(PARTITIONNUMBER partition, const std::optional<Recording>& recording);
 
 private:
     [[noreturn]] void refuse(const QString& reason) const;
@@ -105,6 +106,7 @@ private:
     void requireConnected() const;
     /// The mutex is held.
     void changePartition(PARTITIONNUMBER partition);
+    PartitionMemory& memoryOf(PARTITIONNUMBER partition);
     template <typename T>
     void onAllHeads(T CameraState::*member, T value);
 

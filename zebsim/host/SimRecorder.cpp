@@ -116,7 +116,7 @@ void SimRecorder::trigger() {
     if (m_flags.isOn(QStringLiteral("IsTriggerTesting"))) {
         m_notices.add(Message::Info, QStringLiteral("Trigger test: the trigger has come. Nothing is recorded."));
     } else {
-        m_run.trigger(m_prefs.value(QStringLiteral("recording/area")).toBool());
+        m_run.trigger(m_prefs.value(QStringLiteral("recording/area")).toBool(), m_unsaved.isOn());
     }
 }
 

@@ -11,6 +11,10 @@ UnsavedGuard::UnsavedGuard(const CameraBank& cameras, const Preferences& prefs, 
                            std::function<bool(const QString&, const QStringList&)> ask)
     : m_cameras(cameras), m_prefs(prefs), m_translator(translator), m_ask(std::move(ask)) {}
 
+bool UnsavedGuard::isOn() const {
+    return m_prefs.value(QStringLiteral("alert/unsavedrecording")).toBool();
+}
+
 bool UnsavedGuard::mayRecordOver(const std::function<DocKeyList()>& toArm) const {
     const QString question = m_translator.translate(
         QStringLiteral("Cameras hold images that nobody has saved. Record over them all the same?"));
@@ -37,7 +41,7 @@ bool UnsavedGuard::mayLose(const QString& question, const char* log,
         return left;
     };
     for (QStringList asked = remaining(); !asked.isEmpty(); asked = remaining()) {
-        if (m_prefs.value(QStringLiteral("alert/unsavedrecording")).toBool() && !m_ask(question, asked)) {
+        if (isOn() && !m_ask(question, asked)) {
             return false;
         }
         givenUp += asked;

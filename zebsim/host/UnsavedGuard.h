@@ -17,6 +17,8 @@ public:
     UnsavedGuard(const CameraBank& cameras, const Preferences& prefs, const Translator& translator,
                  std::function<bool(const QString& question, const QStringList& lines)> ask);
 
+    /// As the preference tells.
+    bool isOn() const;
     /// Whether the cameras that `toArm` tells may record over what they hold. It is asked again after each question,
     /// for cameras come and go while one stands.
     bool mayRecordOver(const std::function<DocKeyList()>& toArm) const;

@@ -1459,5 +1459,13 @@
         <source>only a part of it could be written; the disk may be full</source>
         <translation>only a part of it could be written; the disk may be full</translation>
     </message>
+    <message>
+        <source>%1: the camera holds images that nobody has saved.</source>
+        <translation>%1: the camera holds images that nobody has saved.</translation>
+    </message>
+    <message>
+        <source>%1: the camera has changed to a partition with images that nobody has saved.</source>
+        <translation>%1: the camera has changed to a partition with images that nobody has saved.</translation>
+    </message>
 </context>
 </TS>

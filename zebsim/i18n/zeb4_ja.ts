@@ -1459,5 +1459,13 @@
         <source>only a part of it could be written; the disk may be full</source>
         <translation>一部しか書き込めませんでした。ディスクがいっぱいの可能性があります</translation>
     </message>
+    <message>
+        <source>%1: the camera holds images that nobody has saved.</source>
+        <translation>%1: 保存されていない画像がカメラにあります。</translation>
+    </message>
+    <message>
+        <source>%1: the camera has changed to a partition with images that nobody has saved.</source>
+        <translation>%1: カメラが、保存されていない画像のあるパーティションに切り替わりました。</translation>
+    </message>
 </context>
 </TS>

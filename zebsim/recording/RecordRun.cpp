@@ -4,6 +4,8 @@
 #include "host/CameraBank.h"
 #include "recording/Clock.h"
 
+#include <QtDebug>
+
 #include <algorithm>
 #include <exception>
 #include <future>
@@ -17,6 +19,20 @@ const QString HasDisappeared = QStringLiteral("%1: the camera has disappeared.")
 
 bool isArmed(int state) {
     return state == zeb::RecordCtsReady || state == zeb::RecordReady;
+}
+
+/// `waits`: it was armed here. One that is ready holds images that nobody has saved.
+QString whyLeftBehind(int state, bool waits) {
+    switch (state) {
+        case zeb::RecordReady:
+            return waits
+                       ? QStringLiteral("%1: the camera has changed to a partition with images that nobody has saved.")
+                       : QStringLiteral("%1: the camera holds images that nobody has saved.");
+        case zeb::RecordRecording:
+            return QStringLiteral("%1: the camera records by itself.");
+        default:
+            return QStringLiteral("%1: the camera is not ready.");
+    }
 }
 
 }  // namespace
@@ -64,6 +80,7 @@ RecordRun::Part& RecordRun::takeIn(const std::shared_ptr<Camera>& camera) {
     }
     *part = Part();
     part->camera = camera;
+    part->partition = camera->get(&CameraState::partition);
     part->readyAt = m_clock.now() + (waits ? camera->model().ctsReady : 0);
     m_losses.remove(camera->key());
     return *part;
@@ -160,19 +177,28 @@ void RecordRun::arm() {
     }
 }
 
-void RecordRun::trigger(bool withAreas) {
+void RecordRun::trigger(bool withAreas, bool sparesUnsaved) {
     proceed();
-    const Cameras late = camerasIn([](int state) { return state != zeb::RecordReady; });
-    const Cameras cameras = camerasIn([](int state) { return state == zeb::RecordReady; });
+    Cameras late = camerasIn([](int state) { return state != zeb::RecordReady; });
+    Cameras cameras = camerasIn([](int state) { return state == zeb::RecordReady; });
     if (m_parts.empty() || cameras.empty()) {
         return;
     }
+    const auto spared = std::stable_partition(cameras.begin(), cameras.end(), [&](const auto& camera) {
+        return !sparesUnsaved || !wouldLoseUnsaved(*camera);
+    });
+    late.insert(late.end(), spared, cameras.end());
+    cameras.erase(spared, cameras.end());
     for (const auto& camera : cameras) {
         Part* part = findPart(*camera);
-        begin(part == nullptr || part->over ? takeIn(camera) : *part, withAreas);
+        if (part == nullptr || part->over) {
+            qInfo() << "A camera that has armed itself takes part:" << m_cameras.labelOf(*camera);
+            part = &takeIn(camera);
+        }
+        begin(*part, withAreas);
     }
     const QStringList reasons = commandAll(cameras, &Camera::trigger);
-    m_triggered = true;
+    m_triggered = m_triggered || !cameras.empty();
     for (std::size_t i = 0; i < cameras.size(); ++i) {
         drop(*findPart(*cameras[i]), reasons.at(int(i)));
     }
@@ -181,11 +207,19 @@ void RecordRun::trigger(bool withAreas) {
     tell();
 }
 
+bool RecordRun::wouldLoseUnsaved(const Camera& camera) {
+    const Part* part = findPart(camera);
+    const auto held = camera.recording();
+    const bool isAgreed = part != nullptr && !part->over && held && held->partition == part->partition;
+    return held && !held->saved && !isAgreed;
+}
+
 void RecordRun::begin(Part& part, bool withAreas) {
     part.settings = RecordSettings::of(part.camera->state(), part.camera->model());
     if (!withAreas) {
         part.settings.area = {};
     }
+    part.partition = part.camera->get(&CameraState::partition);
     part.triggeredAt = m_clock.now();
     part.triggered = true;
 }
@@ -195,16 +229,14 @@ void RecordRun::leaveBehind(const Cameras& late) {
     Cameras waiting;
     for (const auto& camera : late) {
         Part* part = findPart(*camera);
-        if (part != nullptr && (part->over || part->triggered)) {
+        const int state = camera->get(&CameraState::recordState);
+        const bool waits = part != nullptr && !part->over && !part->triggered;
+        if (part != nullptr && !waits && state != zeb::RecordReady) {
             continue;
         }
-        const bool records = camera->get(&CameraState::recordState) == zeb::RecordRecording;
-        lose(*camera, m_listener
-                              .translate(records ? QStringLiteral("%1: the camera records by itself.")
-                                                 : QStringLiteral("%1: the camera is not ready."))
-                              .arg(m_cameras.labelOf(*camera)) %
+        lose(*camera, m_listener.translate(whyLeftBehind(state, waits)).arg(m_cameras.labelOf(*camera)) %
                           QLatin1Char(' ') % m_listener.translate(TakesNoPart));
-        if (part != nullptr) {
+        if (waits) {
             part->over = true;
             waiting.push_back(camera);
         }
@@ -314,8 +346,13 @@ void RecordRun::proceed(Part& part, qint64 now) {
 
 /// A camera that has triggered itself records on and keeps what it records.
 void RecordRun::followItsTrigger(Part& part) {
+    if (wouldLoseUnsaved(*part.camera)) {
+        qWarning()
+            << "Unsaved images were recorded over by a camera that has changed its partition and triggered itself:"
+            << m_cameras.labelOf(*part.camera);
+    }
     begin(part, false);
-    part.camera->keep(std::nullopt);
+    part.camera->keep(part.partition, std::nullopt);
     m_triggered = true;
     m_changed = true;
     m_failures.append(m_listener.translate(QStringLiteral("%1: the camera has triggered itself. It records on."))
@@ -329,7 +366,7 @@ void RecordRun::record(Part& part, qint64 now) {
         camera.ask("record");
     } catch (const std::exception& failure) {
         end(part, std::min(now, full), zeb::RecordError);
-        const auto kept = camera.recording();
+        const auto kept = camera.recordingOf(part.partition);
         m_failures.append(m_listener.translate(QStringLiteral("%1. The recording ended early with %2 frames."))
                               .arg(QString::fromUtf8(failure.what()), QString::number(kept ? kept->frameCount() : 0)));
         return;
@@ -392,7 +429,7 @@ void RecordRun::addFailures(const QStringList& reasons) {
 void RecordRun::end(Part& part, qint64 now, int recordState) {
     if (part.triggered) {
         const auto recording = part.settings.recording(part.triggeredAt - part.readyAt, now - part.triggeredAt);
-        part.camera->keep(recording);
+        part.camera->keep(part.partition, recording);
         if (!recording) {
             const QString text = QStringLiteral("%1: no frame of its record area was recorded.");
             lose(*part.camera, m_listener.translate(text).arg(m_cameras.labelOf(*part.camera)));
@@ -422,7 +459,7 @@ void RecordRun::tell() {
 
 void RecordRun::finish() {
     const bool recorded = std::any_of(m_parts.begin(), m_parts.end(), [](const Part& part) {
-        return part.triggered && part.camera->get(&CameraState::recorded);
+        return part.triggered && part.camera->recordingOf(part.partition);
     });
     m_parts.clear();
     const QStringList losses = std::exchange(m_losses, {}).values();

@@ -43,9 +43,10 @@ public:
     /// itself is left alone. Those that fail are told of, the others go on. No effect while the recording runs.
     void arm();
     /// Triggers the cameras that are ready, all at this time of the clock. Those that are not take no part, and are
-    /// told of. `withAreas`: they keep the record area alone. No effect while none
+    /// told of. `withAreas`: they keep the record area alone. `sparesUnsaved`: nor do those that would record over
+    /// images which nobody has saved and which were not in their way when they were armed here. No effect while none
     /// takes part or is ready.
-    void trigger(bool withAreas);
+    void trigger(bool withAreas, bool sparesUnsaved);
     /// Ends the recording of the cameras that take part; they keep what they have.
     void stop();
     /// Puts back to live the cameras that take part, and others that are armed or have failed. Those that record keep
@@ -67,6 +68,8 @@ private:
     struct Part {
         std::shared_ptr<Camera> camera;
         RecordSettings settings;
+        /// In use when the camera was taken in, and from the trigger on the one that it records into.
+        PARTITIONNUMBER partition = 1;
         qint64 readyAt = 0;
         qint64 triggeredAt = 0;
         bool triggered = false;
@@ -83,6 +86,8 @@ private:
     /// All that take part have had their trigger.
     bool isRecording() const;
     QStringList commandAll(const Cameras& cameras, void (Camera::*command)());
+    /// It holds, where it would record, what nobody has agreed to lose by arming it.
+    bool wouldLoseUnsaved(const Camera& camera);
     void begin(Part& part, bool withAreas);
     void leaveBehind(const Cameras& late);
     void drop(Part& part, const QString& reason);
