@@ -1,5 +1,4 @@
 const LATE_PRESS = 200; // ms
-const REFUSAL_MS = 800; // for so long a button shows that it did not take a press
 
 // The panels around the table: what is done with all cameras at once.
 Object.assign(wrentabledialog_obj, {
@@ -179,13 +178,6 @@ Object.assign(wrentabledialog_obj, {
         setText(partition, wrentabledialog.getCurrentPartitionName());
     }
 });
-
-// Shows for a moment that a press was not taken. `text` is what the button showed then.
-function refusePress(button, text) {
-    logUnused('not taken', 'Button', button.id, text);
-    button.setAttribute('refused', '');
-    window.setTimeout(() => button.removeAttribute('refused'), REFUSAL_MS);
-}
 
 // A button's contents: a mark, which the style sheet draws, and a text.
 function showButton(id, look) {

@@ -1,3 +1,5 @@
+const REFUSAL_MS = 800; // for so long a button shows that it did not take a press
+
 // Texts from cameras, files and users are text. Where one must pass through markup, it passes through here.
 function escapeMarkup(text) {
     return String(text).replace(/[&<>"'`]/g, letter => `&#${letter.charCodeAt(0)};`);
@@ -40,6 +42,13 @@ function onClick(selector, work) {
 function isDisabled(element) {
     const list = element.closest('.miscfuncs ul');
     return (list ? list.previousElementSibling : element).hasAttribute('disabled');
+}
+
+// Shows for a moment that a press was not taken. `text` is what the button showed then.
+function refusePress(button, text) {
+    logUnused('not taken', 'Button', button.id, text);
+    button.setAttribute('refused', '');
+    window.setTimeout(() => button.removeAttribute('refused'), REFUSAL_MS);
 }
 
 // Runs `work` with the element when the main button goes down on it. The second press of a double click is refused: it
