@@ -4,7 +4,7 @@
 #include "CameraWindows.h"
 #include "CommandLine.h"
 #include "RecordingGuard.h"
-#include "ScriptedVisa.h"
+#include "ScriptedVisaLoader.h"
 #include "UiText.h"
 #include "ViewerWindow.h"
 #include "camera/Rig.h"
@@ -31,8 +31,8 @@ Rig rigOf(const CommandLine& line) {
 }  // namespace
 
 Simulator::Simulator(const CommandLine& line) : m_host(m_clock, m_boxes, line.prefs) {
-    m_host.syncSignal().setGenerator(ScriptedVisa::signal);
-    ScriptedVisa visa;
+    m_host.syncSignal().setGenerator(ScriptedVisaLoader::signal);
+    ScriptedVisaLoader visa;
     if (line.scriptedVisa && !visa.load()) throw std::runtime_error(visa.errorString().toStdString());
     chooseLanguage(line.language);
     m_host.setRig(rigOf(line));

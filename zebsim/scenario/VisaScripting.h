@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ScriptedVisa.h"
+#include "ScriptedVisaLoader.h"
 
 #include <QString>
 #include <QVariant>
@@ -26,6 +26,6 @@ private:
     template <typename Function>
     Function find(const char* name);
 
-    ScriptedVisa m_library;
+    ScriptedVisaLoader m_library;
     bool m_isUsed = false;
 };

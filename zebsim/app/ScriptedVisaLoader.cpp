@@ -1,4 +1,4 @@
-#include "ScriptedVisa.h"
+#include "ScriptedVisaLoader.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -7,16 +7,16 @@
 
 namespace {
 
-QString file() {
+QString libraryPath() {
     return QDir(QCoreApplication::applicationDirPath()).filePath(QStringLiteral("scripted/visa64.dll"));
 }
 
 }  // namespace
 
-ScriptedVisa::ScriptedVisa() : m_library(file()) {}
+ScriptedVisaLoader::ScriptedVisaLoader() : m_library(libraryPath()) {}
 
-int ScriptedVisa::signal() {
-    static const QByteArray path = QFile::encodeName(file());
+int ScriptedVisaLoader::signal() {
+    static const QByteArray path = QFile::encodeName(libraryPath());
     // To load it here would bring a generator that nobody has.
     void* library = dlopen(path.constData(), RTLD_LAZY | RTLD_NOLOAD);
     if (library == nullptr) return -1;

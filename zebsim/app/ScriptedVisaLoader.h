@@ -4,9 +4,9 @@
 
 /// The VISA library that ships: a scripted generator in place of one on the network. Once it is loaded, whoever looks
 /// for a VISA library by its plain name finds this one. GUI thread.
-class ScriptedVisa {
+class ScriptedVisaLoader {
 public:
-    ScriptedVisa();
+    ScriptedVisaLoader();
 
     /// Stays loaded for as long as the program runs. False when it can't be; see `errorString`.
     bool load() { return m_library.load(); }
