@@ -102,7 +102,9 @@ TEST_F(ViewerTest, EndsTheApplicationWhenItIsClosed) {
     EXPECT_FALSE(closeBy(Qt::Key_Return)) << "a camera is armed, and Enter leaves it";
     camera.change({{"recordState", zeb::RecordLive}, {"recorded", true}, {"recordedRange", QVariantList{0, 63}}});
     camera.keep(1, camera.recording());
+    const quint64 mark = simulator.log().count();
     EXPECT_FALSE(closeBy(Qt::Key_Return) || closeBy(Qt::Key_Escape)) << "nobody has saved what it has recorded";
+    EXPECT_EQ(simulator.log().since(mark).filter(R"(Unsaved images are kept: ("Camera 1: 64 frames"))").size(), 2);
     ScenarioDialogs dialogs;
     EXPECT_EQ(simulator.run([&] { simulator.window().close(); }), 0);
     EXPECT_EQ(dialogs.takeMessages().first().toMap().value("text"),
@@ -169,6 +171,8 @@ TEST_F(ViewerTest, RecordsByItsOwnKeyUnlessAPluginIsInFront) {
     dialogs.queueAnswers({"no"});
     key("disconnectAll")->trigger();
     EXPECT_EQ(host.docManager().getConnectedDocKeys(), DocKeyList{1}) << "asked first";
+    EXPECT_EQ(dialogs.takeMessages().first().toMap().value("text"),
+              "Cameras are armed or recording. Disconnect all the same?\nCamera 1: records");
     simulator.clock().setSpeed(1000);
     while (!host.isMemoryMode()) QCoreApplication::processEvents();
     EXPECT_EQ(host.cameras().find(1)->recording()->frameCount(), 8192U);
@@ -191,7 +195,9 @@ TEST_F(ViewerTest, RecordsByItsOwnKeyUnlessAPluginIsInFront) {
     key("record")->trigger();
     settle();
     EXPECT_FALSE(key("mode1")->isEnabled()) << "nobody could stop the cameras from there";
-    host.cameras().find(1)->disconnect();
+    const quint64 mark = simulator.log().count();
+    key("disconnectAll")->trigger();
+    EXPECT_TRUE(simulator.log().since(mark).join("").contains("Camera 1: is armed"));
     EXPECT_TRUE(QTest::qWaitFor([&] { return key("record")->text() == "Record"; })) << "nothing is left of it";
     EXPECT_TRUE(key("mode1")->isEnabled());
     QApplication::setDoubleClickInterval(usual);

@@ -37,6 +37,7 @@ protected:
 
 TEST_F(UnsavedImages, AreLostByWhatTakesThemAlone) {
     const auto vanish = [this](DOCKEY key, bool gone) { plant(key, "*", {{}, 0, gone}), pass(1); };
+    const auto erase = [this](DOCKEY key) { test.doc(key)->control().eraseRecordedData(0); };
     test.camera(1).set(&CameraState::partitions, 4);
     const struct {
         const char* what;
@@ -60,7 +61,7 @@ TEST_F(UnsavedImages, AreLostByWhatTakesThemAlone) {
          "2: 20; Impact (192.168.0.16): 1200"},
         {"they come back", [&] { vanish(3, false), test.camera(2).connect(); }, "2: 20; Impact (192.168.0.16): 1200",
          "2: 20; Impact (192.168.0.16): 1200"},
-        {"one is erased", [&] { test.doc(3)->control().eraseRecordedData(0); }, "2: 20", "2: 20"},
+        {"two are erased", [&] { erase(1), erase(3); }, "2: 20", "2: 20"},
         {"all are deleted", [&] { host.docManager().deleteAllDocs(0, 0); }, "", "2: 20"},
     };
     const auto told = [this](const HeldRecordings& lost) {
@@ -75,6 +76,7 @@ TEST_F(UnsavedImages, AreLostByWhatTakesThemAlone) {
     }
     EXPECT_EQ(messages(),
               "Impact (192.168.0.16): the camera has disappeared. 1200 frames of it are not saved. | "
+              "Impact (192.168.0.11): 50 frames in partition 1 were erased. | "
               "Impact (192.168.0.16): 1200 frames were erased. | "
               "Images that nobody has saved are out of reach until a search:\nCamera 2: 20 frames");
 }

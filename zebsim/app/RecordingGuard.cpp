@@ -1,16 +1,37 @@
 #include "RecordingGuard.h"
 
 #include "UiText.h"
+#include "camera/Camera.h"
 #include "host/SimHost.h"
 
 #include <QMessageBox>
+#include <QtDebug>
+
+namespace {
+
+/// A line for each camera that is armed or records.
+QStringList camerasUnderWay(const CameraBank& cameras) {
+    QStringList lines;
+    for (const Camera* camera : cameras.connected()) {
+        if (!camera->isUnderWay()) continue;
+        const bool records = camera->get(&CameraState::recordState) == zeb::RecordRecording;
+        lines.append((records ? uiText("%1: records") : uiText("%1: is armed")).arg(cameras.labelOf(*camera)));
+    }
+    return lines;
+}
+
+}  // namespace
 
 bool mayLetGoOfRecording(SimHost& host, const QString& question) {
     if (!host.recorder().isUnderWay()) return true;
     const ButtonTexts answers{{QMessageBox::Yes, uiText("Yes")}, {QMessageBox::No, uiText("No")}};
-    if (host.choose(question, nullptr, answers, QMessageBox::No) != QMessageBox::Yes) return false;
+    const QStringList asked = camerasUnderWay(host.cameras());
+    if (host.choose(question, nullptr, answers, QMessageBox::No, asked) != QMessageBox::Yes) return false;
     // What has been recorded by now was not what the question was about.
-    if (host.recorder().isUnderWay()) return true;
+    if (host.recorder().isUnderWay()) {
+        qInfo() << "Cameras are let go that were armed or recording:" << camerasUnderWay(host.cameras());
+        return true;
+    }
     host.tell(Message::Info, uiText("The recording has ended meanwhile. Nothing was done."));
     return false;
 }

@@ -3,6 +3,6 @@
 class QString;
 class SimHost;
 
-/// Whether cameras that are armed or record may be let go: asks `question`, and Enter means no. True when there are
-/// none.
+/// Whether cameras that are armed or record may be let go: asks `question` and names them, and Enter means no. Who has
+/// agreed is told in the log. True when there are none.
 bool mayLetGoOfRecording(SimHost& host, const QString& question);

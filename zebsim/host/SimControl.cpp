@@ -287,8 +287,13 @@ void SimControl::eraseRecordedData(int mode) {
     const auto recording = m_camera.recording();
     m_camera.eraseRecordedData();
     if (recording && !m_camera.recording()) {
-        m_context.notices.add(Message::Info,
-                              m_context.translator.translate(QStringLiteral("%1: %2 frames were erased."))
-                                  .arg(m_context.cameras.labelOf(m_camera), QString::number(recording->frameCount())));
+        const QString label = m_context.cameras.labelOf(m_camera);
+        const QString frames = QString::number(recording->frameCount());
+        const QString whole = m_context.translator.translate(QStringLiteral("%1: %2 frames were erased."));
+        const QString part =
+            m_context.translator.translate(QStringLiteral("%1: %2 frames in partition %3 were erased."));
+        m_context.notices.add(Message::Info, m_camera.get(&CameraState::partitions) > 1
+                                                 ? part.arg(label, frames, QString::number(recording->partition))
+                                                 : whole.arg(label, frames));
     }
 }

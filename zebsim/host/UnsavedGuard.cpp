@@ -42,6 +42,7 @@ bool UnsavedGuard::mayLose(const QString& question, const char* log,
     };
     for (QStringList asked = remaining(); !asked.isEmpty(); asked = remaining()) {
         if (isOn() && !m_ask(question, asked)) {
+            qInfo() << "Unsaved images are kept:" << asked;
             return false;
         }
         givenUp += asked;

@@ -10,7 +10,7 @@ class Preferences;
 class Translator;
 
 /// Asks before recordings are lost that nobody has saved, unless the preference `alert/unsavedrecording` is off. Who
-/// refuses, or leaves the box, keeps them. What was given up stands in the log. GUI thread.
+/// refuses, or leaves the box, keeps them. What was given up, or kept, stands in the log. GUI thread.
 class UnsavedGuard {
 public:
     /// `ask` shows a question with a list and answers whether the user has agreed. All must outlive the guard.

@@ -1467,5 +1467,17 @@
         <source>%1: the camera has changed to a partition with images that nobody has saved.</source>
         <translation>%1: the camera has changed to a partition with images that nobody has saved.</translation>
     </message>
+    <message>
+        <source>%1: is armed</source>
+        <translation>%1: is armed</translation>
+    </message>
+    <message>
+        <source>%1: records</source>
+        <translation>%1: records</translation>
+    </message>
+    <message>
+        <source>%1: %2 frames in partition %3 were erased.</source>
+        <translation>%1: %2 frames in partition %3 were erased.</translation>
+    </message>
 </context>
 </TS>

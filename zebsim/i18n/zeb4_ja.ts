@@ -1467,5 +1467,17 @@
         <source>%1: the camera has changed to a partition with images that nobody has saved.</source>
         <translation>%1: カメラが、保存されていない画像のあるパーティションに切り替わりました。</translation>
     </message>
+    <message>
+        <source>%1: is armed</source>
+        <translation>%1: 待機中</translation>
+    </message>
+    <message>
+        <source>%1: records</source>
+        <translation>%1: 撮影中</translation>
+    </message>
+    <message>
+        <source>%1: %2 frames in partition %3 were erased.</source>
+        <translation>%1: パーティション %3 の %2 フレームを消去しました。</translation>
+    </message>
 </context>
 </TS>
