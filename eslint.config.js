@@ -20,7 +20,8 @@ const table = readonly([
     'DrawnRow', 'columnKind', 'GridView', 'LIVE', 'MEMORY', 'views', 'viewAt', 'viewOf', 'tabHeader',
     'dropDown', 'listenToGrid', 'rowKeys', 'connectedKeys', 'controls',
     'lowLightSlider', 'showSlider', 'sliderValue', 'sliderMax', 'markupOf',
-    'numberBox', 'showNumber', 'keepingFocus', 'caretOf', 'placeCaret', 'holdNumber', 'logUnused', 'linesToDraw',
+    'numberBox', 'showNumber', 'keepingFocus', 'caretOf', 'placeCaret', 'holdNumber', 'logUnused', 'isOutOfSight',
+    'linesToDraw',
     'placeRows', 'refusePress'
 ]);
 

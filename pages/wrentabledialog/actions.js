@@ -167,8 +167,20 @@ function onGridKey(view, event) {
     }
 }
 
+// Enter, Page Up and Down and the arrows: they would change a camera that nobody sees. The first one shows it.
+const UNSEEN_KEYS = [13, 33, 34, 38, 40];
+
 // The widget does the rest. The engine takes Escape for a letter, so that the box would count as typed in once more.
 function onNumberKey(event) {
+    const { view, row } = numberBox.held;
+    if (isOutOfSight(view, row)) {
+        row.element.scrollIntoViewIfNeeded(true);
+        if (UNSEEN_KEYS.includes(event.keyCode)) {
+            event.preventDefault();
+            event.stopPropagation();
+            return;
+        }
+    }
     if (event.keyCode === 13) {
         numberBox.finish();
     } else if (event.keyCode === 27) {

@@ -29,6 +29,11 @@ function linesInSight(view) {
     return { start, end: view.height > 0 ? start + count : start };
 }
 
+function isOutOfSight(view, row) {
+    const [box, place] = [view.box, row.element].map(element => element.getBoundingClientRect());
+    return row !== view.batch && (place.bottom <= box.top || place.top >= box.bottom);
+}
+
 // Puts the rows in their order around the one with the keyboard, which would lose that if it moved.
 function placeRows(view) {
     const elements = view.rows.map(row => row.element);

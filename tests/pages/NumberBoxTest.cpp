@@ -403,6 +403,9 @@ TEST(PageNumber, ThatIsBeingTypedStaysWithItsRowWhenThatIsScrolledAway) {
         EXPECT_EQ(page.number("$('tr[recid=60]')[0].offsetTop - $('tr[recid=3]')[0].offsetTop"), 57 * 34);
         page.number("probe.scrollTo(0)");
     };
+    EXPECT_EQ(page.made("^set", [&] { page.key(Qt::Key_PageDown); }), QStringList()) << "it shows the box";
+    EXPECT_LT(page.number("probe.grid().last.scrollTop"), 200);
+    page.number("probe.scrollTo(100000)");
     EXPECT_EQ(page.made("^set", scrollingBack), QStringList());
     EXPECT_EQ(page.list("probe.drawn().map(probe.keyOf)").mid(0, 4), QStringList({"1", "2", "3", "4"}));
     EXPECT_EQ(page.made("^set", [&] { page.type("2\n"); }), QStringList("setSelectStartFrameNo 3 12"));
