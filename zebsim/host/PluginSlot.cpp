@@ -22,8 +22,10 @@ PluginSlot::~PluginSlot() {
 void PluginSlot::open() {
     try {
         if (m_plugin.isDialogVisible()) {
-            m_plugin.showDialog();
-            m_plugin.getDialog(false)->activateWindow();
+            // `showDialog` would open a minimised one anew, which takes locks and ticks away.
+            QDialog& dialog = *m_plugin.getDialog(false);
+            dialog.setWindowState(dialog.windowState() & ~Qt::WindowMinimized);
+            dialog.activateWindow();
             return;
         }
         m_plugin.prepareOpen();
