@@ -122,6 +122,7 @@ TEST_F(UnsavedImages, AreSparedByATriggerThatNobodyWasAskedAbout) {
     pass(20);
     host.recorder().stopRecording();
     EXPECT_EQ(told(test.camera(1).recordingOf(3)), "0..19 trigger 0") << "where it was triggered";
+    EXPECT_NE(messages().find("in partition 3, and another one is in use."), std::string::npos);
     EXPECT_EQ(recorded(1), "0..49 trigger 0");
 }
 

@@ -26,10 +26,13 @@ bool mayLetGoOfRecording(SimHost& host, const QString& question) {
     if (!host.recorder().isUnderWay()) return true;
     const ButtonTexts answers{{QMessageBox::Yes, uiText("Yes")}, {QMessageBox::No, uiText("No")}};
     const QStringList asked = camerasUnderWay(host.cameras());
-    if (host.choose(question, nullptr, answers, QMessageBox::No, asked) != QMessageBox::Yes) return false;
+    if (host.choose(question, nullptr, answers, QMessageBox::No, asked) != QMessageBox::Yes) {
+        qInfo() << "Cameras that are armed or recording are kept:" << asked;
+        return false;
+    }
     // What has been recorded by now was not what the question was about.
     if (host.recorder().isUnderWay()) {
-        qInfo() << "Cameras are let go that were armed or recording:" << camerasUnderWay(host.cameras());
+        qInfo() << "Cameras that are armed or recording may be let go:" << camerasUnderWay(host.cameras());
         return true;
     }
     host.tell(Message::Info, uiText("The recording has ended meanwhile. Nothing was done."));

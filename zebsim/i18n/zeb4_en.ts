@@ -1479,5 +1479,9 @@
         <source>%1: %2 frames in partition %3 were erased.</source>
         <translation>%1: %2 frames in partition %3 were erased.</translation>
     </message>
+    <message>
+        <source>%1: its recording lies in partition %2, and another one is in use.</source>
+        <translation>%1: its recording lies in partition %2, and another one is in use.</translation>
+    </message>
 </context>
 </TS>

@@ -1479,5 +1479,9 @@
         <source>%1: %2 frames in partition %3 were erased.</source>
         <translation>%1: パーティション %3 の %2 フレームを消去しました。</translation>
     </message>
+    <message>
+        <source>%1: its recording lies in partition %2, and another one is in use.</source>
+        <translation>%1: 撮影はパーティション %2 にあり、現在は別のパーティションが使われています。</translation>
+    </message>
 </context>
 </TS>

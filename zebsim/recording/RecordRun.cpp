@@ -433,6 +433,10 @@ void RecordRun::end(Part& part, qint64 now, int recordState) {
         if (!recording) {
             const QString text = QStringLiteral("%1: no frame of its record area was recorded.");
             lose(*part.camera, m_listener.translate(text).arg(m_cameras.labelOf(*part.camera)));
+        } else if (part.camera->get(&CameraState::partition) != part.partition) {
+            const QString text = QStringLiteral("%1: its recording lies in partition %2, and another one is in use.");
+            m_failures.append(
+                m_listener.translate(text).arg(m_cameras.labelOf(*part.camera), QString::number(part.partition)));
         }
     }
     part.over = true;
