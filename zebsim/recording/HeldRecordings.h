@@ -25,9 +25,8 @@ using HeldRecordings = std::vector<HeldRecording>;
 /// Of all cameras that the host knows, gone ones too; the cameras of `toArm` are about to be armed. GUI thread.
 HeldRecordings heldRecordings(const CameraBank& cameras, const DocKeyList& toArm = {});
 
-/// What is lost and stands in no file. Pure.
-///
-/// Once the cameras that are about to be armed record.
+/// What stands in no file and is lost once the cameras that are about to be armed record. Pure.
 HeldRecordings lostByRecording(const HeldRecordings& held);
-/// With the program: what was recorded by it. What a camera held before comes with the camera again.
+/// What stands in no file and is lost with the program: what was recorded by it, for what a camera held before comes
+/// with the camera again. Pure.
 HeldRecordings lostByClosing(const HeldRecordings& held);
