@@ -32,8 +32,8 @@ std::optional<Recording> Recording::of(const CameraState& state, const CameraMod
     recording.selectedFirst = std::clamp(selected.x(), range.x(), range.y());
     recording.selectedLast = std::clamp(selected.y(), range.x(), range.y());
     recording.saved =
-        std::any_of(state.savedRanges.begin(), state.savedRanges.end(), [&recording](const QPoint& saved) {
-            return saved.x() <= recording.selectedFirst && recording.selectedLast <= saved.y();
+        std::any_of(state.savedRanges.begin(), state.savedRanges.end(), [&recording](const QPoint& frames) {
+            return frames.x() <= recording.selectedFirst && recording.selectedLast <= frames.y();
         });
     recording.partition = state.partition;
     return recording;
