@@ -13,8 +13,8 @@ const browser = readonly(['window', 'document', 'location', 'Node', 'Event', 'Mo
 const table = readonly([
     'wrentabledialog',
     'wrentabledialog_obj', 'wrentabledialog_const_obj', 'wrentabledialog_column_obj', 'TABS',
-    'escapeMarkup', 'translate', 'parseReply', 'guarded', 'logged', 'onClick', 'isDisabled', 'onPress', 'onSwitch',
-    'textTip', 'closeTip', 'followTip', 'showElement', 'setText', 'setClass', 'setStyle',
+    'escapeMarkup', 'textKey', 'translate', 'parseReply', 'guarded', 'logged', 'onClick', 'isDisabled', 'onPress',
+    'onSwitch', 'textTip', 'closeTip', 'followTip', 'showElement', 'setText', 'setClass', 'setStyle',
     'Cell', 'COLUMNS', 'isBatch', 'isOff', 'isOffOrBatch', 'isSteered', 'hasDropDowns', 'indexesOf', 'showChoice',
     'plainColumn',
     'DrawnRow', 'columnKind', 'GridView', 'LIVE', 'MEMORY', 'views', 'viewAt', 'viewOf', 'tabHeader',

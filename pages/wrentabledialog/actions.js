@@ -236,12 +236,12 @@ function onGridDoubleClick(view, event) {
 Object.assign(wrentabledialog_obj, {
     disconnectRows(cell, keys) {
         if (wrentabledialog.confirmDisconnect(keys)) {
-            this.changeConnection(cell, keys, false, 'Disconnecting');
+            this.changeConnection(cell, keys, false, textKey('Disconnecting'));
         }
     },
 
     connectRows(cell, keys) {
-        this.changeConnection(cell, keys, true, 'Connecting');
+        this.changeConnection(cell, keys, true, textKey('Connecting'));
     },
 
     changeConnection(cell, keys, connect, message) {

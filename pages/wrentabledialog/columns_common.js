@@ -87,7 +87,7 @@ function pictureColumn(options) {
 }
 
 COLUMNS.alert = pictureColumn({
-    caption: 'Alert',
+    caption: textKey('Alert'),
     word: 'alert',
     size: '5%',
     needs: [],
@@ -97,7 +97,7 @@ COLUMNS.alert = pictureColumn({
 });
 
 COLUMNS.cameraStatus = pictureColumn({
-    caption: 'State of the camera',
+    caption: textKey('State of the camera'),
     word: 'cameraStatus',
     size: '10%',
     needs: ['cameraStatus'],
@@ -106,7 +106,7 @@ COLUMNS.cameraStatus = pictureColumn({
 });
 
 COLUMNS.sync = pictureColumn({
-    caption: 'Sync signal input state',
+    caption: textKey('Sync signal input state'),
     word: 'sync',
     size: '10%',
     needs: ['syncStatus'],
@@ -128,9 +128,9 @@ function plainColumn(caption, field) {
     };
 }
 
-COLUMNS.ipAddress = Object.assign(plainColumn('IP address', 'ipAddress'), { align: 'right' });
-COLUMNS.externalSync = plainColumn('ExternalSync', 'externalSync');
-COLUMNS.triggerIn = plainColumn('TriggerIn', 'triggerIn');
-COLUMNS.triggerSwIn = plainColumn('TriggerSwIn', 'triggerSwIn');
-COLUMNS.irigTimeStamp = plainColumn('IRIG Time Stamp', 'irigTimeStamp');
-COLUMNS.irigSync = plainColumn('IRIG Sync', 'irigSync');
+COLUMNS.ipAddress = Object.assign(plainColumn(textKey('IP address'), 'ipAddress'), { align: 'right' });
+COLUMNS.externalSync = plainColumn(textKey('ExternalSync'), 'externalSync');
+COLUMNS.triggerIn = plainColumn(textKey('TriggerIn'), 'triggerIn');
+COLUMNS.triggerSwIn = plainColumn(textKey('TriggerSwIn'), 'triggerSwIn');
+COLUMNS.irigTimeStamp = plainColumn(textKey('IRIG Time Stamp'), 'irigTimeStamp');
+COLUMNS.irigSync = plainColumn(textKey('IRIG Sync'), 'irigSync');

@@ -56,7 +56,7 @@ function showChoice(cell, value, full) {
 }
 
 COLUMNS.frameRate = dropDownColumn({
-    caption: 'Frame rate',
+    caption: textKey('Frame rate'),
     word: 'framerate',
     needs: ['lock', 'frameRates', 'frameRate'],
     choices: record => record.frameRates,
@@ -66,7 +66,7 @@ COLUMNS.frameRate = dropDownColumn({
 });
 
 COLUMNS.shutterSpeed = dropDownColumn({
-    caption: 'Shutter speed',
+    caption: textKey('Shutter speed'),
     word: 'shutterSpeed',
     needs: ['lock', 'shutterSpeeds', 'shutterSpeed'],
     choices: record => record.shutterSpeeds,
@@ -76,7 +76,7 @@ COLUMNS.shutterSpeed = dropDownColumn({
 });
 
 COLUMNS.resolution = dropDownColumn({
-    caption: 'Resolution',
+    caption: textKey('Resolution'),
     word: 'resolution',
     needs: ['lock', 'resolutions', 'resolution'],
     choices: record => record.resolutions.map(text => ({ value: text, name: text })),
@@ -86,7 +86,7 @@ COLUMNS.resolution = dropDownColumn({
 });
 
 COLUMNS.trigger = dropDownColumn({
-    caption: 'Trigger mode',
+    caption: textKey('Trigger mode'),
     word: 'trigger',
     needs: ['lock', 'triggerModes', 'triggerMode'],
     choices: record => record.triggerModes,
@@ -101,12 +101,15 @@ COLUMNS.reduce = {
     align: 'center',
     needs: ['lock', 'reduceModeSupported', 'reduceMode'],
     empty: record => isOff(record) || record.reduceModeSupported === false,
-    markup: () => `<div class="flexWrapper" part="wrapper" dockey>
+    markup() {
+        const priority = escapeMarkup(translate('_Priority'));
+        return `<div class="flexWrapper" part="wrapper" dockey>
         <a class="wren_button_reduce reduceON" part="on"
-            id="wren_button_reduce_on_" dockey>${caption('_Priority')}</a>
+            id="wren_button_reduce_on_" dockey>${priority}</a>
         <a class="wren_button_reduce reduceOFF" part="off"
-            id="wren_button_reduce_off_" dockey>${caption('_Priority')}</a>
-        </div>`,
+            id="wren_button_reduce_off_" dockey>${priority}</a>
+        </div>`;
+    },
     tick(cell, record, status) {
         const disabled = Boolean(record.lock) || status.disabled || wrentabledialog.isSuspendReduceMode(record.key);
         cell.classes('wrapper', record.reduceMode ? 'flexWrapper wren-reduce-status' : 'flexWrapper');
@@ -124,17 +127,20 @@ COLUMNS.lowlight = {
     align: 'left',
     needs: ['lock', 'lowLightMode', 'lowLightType', 'shutterSpeeds', 'shutterSpeed'],
     empty: isOff,
-    markup: () => `<div class="flexWrapper" part="wrapper" dockey>
+    markup() {
+        const [on, dark, bright] = [translate('ON'), translate('dark'), translate('bright')].map(escapeMarkup);
+        return `<div class="flexWrapper" part="wrapper" dockey>
         <a class="wren_button_lowlight lowlightON" part="on"
-            id="wren_button_lowlight_on_" dockey>${caption('ON')}</a>
+            id="wren_button_lowlight_on_" dockey>${on}</a>
         <a class="wren_button_lowlight lowlightOFF" part="off"
-            id="wren_button_lowlight_off_" dockey>${caption('ON')}</a>
-        <span class="wren-slider-container" dockey><label dockey>${caption('dark')}</label>
+            id="wren_button_lowlight_off_" dockey>${on}</a>
+        <span class="wren-slider-container" dockey><label dockey>${dark}</label>
         <div class="wren_slider_lowlight ui-slider ui-slider-horizontal ui-widget ui-widget-content ui-corner-all"
             part="slider" id="wren_slider_lowlight_" dockey
             ><span class="ui-slider-handle ui-state-default ui-corner-all" part="handle" dockey></span></div>
-        <label dockey>${caption('bright')}</label><span class="slider-result" part="result" dockey>0</span></span>
-        </div>`,
+        <label dockey>${bright}</label><span class="slider-result" part="result" dockey>0</span></span>
+        </div>`;
+    },
     rebuild(cell, record) {
         placeSlider(cell, record);
     },
@@ -160,9 +166,4 @@ COLUMNS.lowlight = {
 function placeSlider(cell, record) {
     cell.differs('slider', 'speed', record.shutterSpeed);
     showSlider(cell, sliderValue(record), sliderMax(record));
-}
-
-// A translated text inside markup.
-function caption(key) {
-    return escapeMarkup(translate(key));
 }

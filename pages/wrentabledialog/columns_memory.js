@@ -1,8 +1,8 @@
 // Columns of the memory information tab. The record check stands on both memory tabs.
-COLUMNS.recordedFrameRate = plainColumn('Frame rate', 'frameRate');
-COLUMNS.originalStartFrameNo = plainColumn('Start frame', 'originalStartFrameNo');
-COLUMNS.originalEndFrameNo = plainColumn('End frame', 'originalEndFrameNo');
-COLUMNS.totalFrame = plainColumn('Save frame', 'totalFrame');
+COLUMNS.recordedFrameRate = plainColumn(textKey('Frame rate'), 'frameRate');
+COLUMNS.originalStartFrameNo = plainColumn(textKey('Start frame'), 'originalStartFrameNo');
+COLUMNS.originalEndFrameNo = plainColumn(textKey('End frame'), 'originalEndFrameNo');
+COLUMNS.totalFrame = plainColumn(textKey('Save frame'), 'totalFrame');
 
 COLUMNS.recordCheck = {
     caption: () => translate('recordCheck'),
@@ -73,7 +73,7 @@ function spinnerColumn(options) {
 
 // Start and end bound each other, so that they cannot cross.
 COLUMNS.selectStartFrameNo = spinnerColumn({
-    caption: 'selectStartFrameNo',
+    caption: textKey('selectStartFrameNo'),
     word: 'select_start_frameno',
     needs: ['selectStartMinFrameNo', 'selectStartFrameNo', 'selectEndFrameNo'],
     min: record => record.selectStartMinFrameNo,
@@ -83,7 +83,7 @@ COLUMNS.selectStartFrameNo = spinnerColumn({
 });
 
 COLUMNS.selectEndFrameNo = spinnerColumn({
-    caption: 'selectEndFrameNo',
+    caption: textKey('selectEndFrameNo'),
     word: 'select_end_frameno',
     needs: ['selectStartFrameNo', 'selectEndFrameNo', 'selectEndMaxFrameNo'],
     min: record => record.selectStartFrameNo,
@@ -93,7 +93,7 @@ COLUMNS.selectEndFrameNo = spinnerColumn({
 });
 
 COLUMNS.triggerOffset = spinnerColumn({
-    caption: 'triggerOffset',
+    caption: textKey('triggerOffset'),
     word: 'trigger_offset',
     needs: ['triggerOffset'],
     min: record => record.minTriggerOffset,

@@ -6,7 +6,7 @@ Object.assign(wrentabledialog_obj, {
         box.addEventListener('focus', () => wrentabledialog.setTextBoxFocusState(true));
         box.addEventListener('blur', () => wrentabledialog.setTextBoxFocusState(false));
         const button = (text, word, work) => ({
-            text: translate(text),
+            text,
             class: 'ui-dialog-buttons ' + word,
             click: () => this.leaveCommentDialog(work)
         });
@@ -19,9 +19,9 @@ Object.assign(wrentabledialog_obj, {
             height: 'auto',
             title: translate('Comment'),
             buttons: [
-                button('OK', 'ok', () => wrentabledialog.setComment([this.commentOf.key], box.value)),
-                button('Cancel', 'close', () => undefined),
-                button('Batch setting', 'caution', () => {
+                button(translate('OK'), 'ok', () => wrentabledialog.setComment([this.commentOf.key], box.value)),
+                button(translate('Cancel'), 'close', () => undefined),
+                button(translate('Batch setting'), 'caution', () => {
                     const keys = this.commentOf.view.grid.records.map(record => record.key);
                     wrentabledialog.setComment(keys, box.value);
                 })

@@ -24,7 +24,7 @@ Object.assign(wrentabledialog_obj, {
         if (values.every(value => zeb4func.ipCheck(value))) {
             wrentabledialog.searchCamera(values.concat('0').join('.'));
         } else {
-            wrentabledialog.alert('Input IPAddress');
+            wrentabledialog.alert(textKey('Input IPAddress'));
         }
     }
 });

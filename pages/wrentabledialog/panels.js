@@ -124,18 +124,18 @@ Object.assign(wrentabledialog_obj, {
         });
         const armed = (classes, cancel) => ({
             record: { classes, mark: false, text: label },
-            cancel: { classes: 'rec-cancel huge stat-pause', mark: true, text: translate(cancel) }
+            cancel: { classes: 'rec-cancel huge stat-pause', mark: true, text: cancel }
         });
         const base = 'rec-exec huge strong';
         switch (status) {
         case this.RECORD_STATUS_LIVE:
             return idle(label);
         case this.RECORD_STATUS_CTS_READY:
-            return armed('rec-exec stat-ctsready huge strong', 'Cancel');
+            return armed('rec-exec stat-ctsready huge strong', translate('Cancel'));
         case this.RECORD_STATUS_READY:
-            return armed(base + coloured(PREF_KEY_WREN_SETTINGS_TABLE_COLOR_RECREADY), 'Cancel');
+            return armed(base + coloured(PREF_KEY_WREN_SETTINGS_TABLE_COLOR_RECREADY), translate('Cancel'));
         case this.RECORD_STATUS_RECORDING:
-            return armed(base + coloured(PREF_KEY_WREN_SETTINGS_TABLE_COLOR_RECORDING), 'Stop');
+            return armed(base + coloured(PREF_KEY_WREN_SETTINGS_TABLE_COLOR_RECORDING), translate('Stop'));
         default:
             return idle(translate('Record'));
         }
@@ -158,7 +158,7 @@ Object.assign(wrentabledialog_obj, {
     },
 
     saveButtonChange(status) {
-        const text = translate(status === PREF_VAL_SAVE_STATUS_LAYOUT ? 'Save layout' : 'Save');
+        const text = status === PREF_VAL_SAVE_STATUS_LAYOUT ? translate('Save layout') : translate('Save');
         setText(document.querySelector('button.save-files').lastChild, text);
     },
 
@@ -166,7 +166,7 @@ Object.assign(wrentabledialog_obj, {
         const testing = wrentabledialog.getTriggerTesting();
         document.getElementById('timeline_trigger_test').checked = testing;
         setText(document.getElementById('caption_trigger_test'), translate('Trigger Test'));
-        setText(document.getElementById('caption_on_off'), translate(testing ? 'ON' : 'OFF'));
+        setText(document.getElementById('caption_on_off'), testing ? translate('ON') : translate('OFF'));
 
         const stopped = wrentabledialog.isStopLive();
         document.getElementById('timeline_stopLiveCheckbox').checked = stopped;

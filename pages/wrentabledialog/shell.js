@@ -43,7 +43,7 @@ Object.assign(wrentabledialog_obj, {
             heightStyle: 'content',
             activate: (event, ui) => {
                 this.accordionOpen = ui.newPanel.length > 0;
-                label.textContent = translate(this.accordionOpen ? 'Close' : 'Open');
+                label.textContent = this.accordionOpen ? translate('Close') : translate('Open');
                 this.update();
             }
         });

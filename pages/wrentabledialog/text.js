@@ -5,6 +5,11 @@ function escapeMarkup(text) {
     return String(text).replace(/[&<>"'`]/g, letter => `&#${letter.charCodeAt(0)};`);
 }
 
+// A key of the catalogues that is kept, or that another translates. It marks the text for `lupdate`.
+function textKey(key) {
+    return key;
+}
+
 function translate(key) {
     return wrentabledialog.translate(key);
 }
