@@ -7,6 +7,7 @@
 #include "GUI_WrenTableDialog.h"
 #include "JS_Mediator_WrenTableDialog.h"
 #include "NamedFailure.h"
+#include "TextKey.h"
 #include "ZebAppStatus.h"
 #include "ZebDocManager.h"
 #include "ZebHost.h"
@@ -72,8 +73,8 @@ void PLG_wren::prepareOpen() {
     unread.log();
     if (recorded.isEmpty()) return;
 
-    if (!host.confirm(QStringLiteral("There are cameras that need to erase the image data recorded to continue the "
-                                     "operation. Would you like to erase the data and continue the operation?")))
+    if (!host.confirm(TextKey("There are cameras that need to erase the image data recorded to continue the "
+                              "operation. Would you like to erase the data and continue the operation?")))
         throw APP_Exception(QString());
     // A camera may have gone while the question stood.
     GatheredFailures failures;
@@ -89,8 +90,8 @@ QDialog* PLG_wren::createDialog(bool) {
     auto bridge = std::make_unique<JS_Mediator_WrenTableDialog>(host, QStringLiteral("wrentabledialog"), this);
     // The bridge may have asked its user something, and the plug-in be gone by now.
     if (!alive) return nullptr;
-    return new GUI_WrenTableDialog(host, QStringLiteral("WREN"), QStringLiteral("qrc:/wrentabledialog.html"),
-                                   bridge.release(), this);
+    return new GUI_WrenTableDialog(host, TextKey("WREN"), QStringLiteral("qrc:/wrentabledialog.html"), bridge.release(),
+                                   this);
 }
 
 JS_Mediator_WrenTableDialog* PLG_wren::table() {

@@ -2,6 +2,7 @@
 
 #include "DOC_Exception.h"
 #include "GUI_MarqueeProgressDialog.h"
+#include "TextKey.h"
 #include "VIGenThread.h"
 #include "VisaLibrary.h"
 #include "ZebHost.h"
@@ -49,7 +50,7 @@ bool DOC_VIGen::connect(int type, unsigned int address) {
     if (isConnected()) return true;
     disconnect();
     m_resource = type == 0 ? tcpResource(address) : QString();
-    GUI_MarqueeProgressDialog dialog(m_host, m_host->translate(QStringLiteral("Searching")) % QStringLiteral("..."), {},
+    GUI_MarqueeProgressDialog dialog(m_host, m_host->translate(TextKey("Searching")) % QStringLiteral("..."), {},
                                      false);
     VIGenThread thread([resource = m_resource] { return vi::open(resource); });
     thread.attachDialog(&dialog);
@@ -88,7 +89,7 @@ QString DOC_VIGen::getIdentity() const {
 
 void DOC_VIGen::setFrequency(int hertz) {
     if (!m_connected) return;
-    talk(QStringLiteral("Failed sync to signal generator"), m_resource, [hertz] {
+    talk(TextKey("Failed sync to signal generator"), m_resource, [hertz] {
         vi::sendCommandString(QStringLiteral("*RST\n"));
         vi::clear();
         for (const QString& command : {
@@ -125,7 +126,7 @@ QList<int> DOC_VIGen::getFrequencies() const {
 
 int DOC_VIGen::getFrequency() const {
     if (!m_connected) return 0;
-    return talk(QStringLiteral("Failed getFrequency"), m_resource, [] {
+    return talk(TextKey("Failed getFrequency"), m_resource, [] {
         vi::sendCommandString(QStringLiteral("FREQ?\n"));
         return wholeHertz(vi::recvString());
     });

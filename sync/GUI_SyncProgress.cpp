@@ -2,6 +2,7 @@
 
 #include "RUN_SyncingThread.h"
 #include "Style.h"
+#include "TextKey.h"
 #include "ZebHost.h"
 
 #include <QCloseEvent>
@@ -10,7 +11,7 @@
 GUI_SyncProgress::GUI_SyncProgress(ZebHost* host)
     : GUI_ProgressDialog({}, {}, 0, 0, host->getMainWindow(), Qt::FramelessWindowHint, true) {
     applyNativeStyle(*host, *this);
-    setLabelText(host->translate(QStringLiteral("Syncing")));
+    setLabelText(host->translate(TextKey("Syncing")));
 }
 
 bool GUI_SyncProgress::run(RUN_SyncingThread& thread) {

@@ -10,6 +10,7 @@
 #include "SyncCamera.h"
 #include "SyncPreferences.h"
 #include "SyncState.h"
+#include "TextKey.h"
 #include "UTL_Exception.h"
 #include "VisaLibrary.h"
 #include "ZebHost.h"
@@ -66,9 +67,9 @@ void SignalSources::openGenerator() {
     if (number == 0) qCritical() << "The address of the signal generator is no IPv4 address:" << address;
     generator.connect(0, number);
     if (!generator.isConnected())
-        throw UTL_Exception(m_host.translate(QStringLiteral("Could not connect with signal generator")));
+        throw UTL_Exception(m_host.translate(TextKey("Could not connect with signal generator")));
     if (!generator.isSupported())
-        throw UTL_Exception(m_host.translate(QStringLiteral("can not be connected because unsupported device.")) %
+        throw UTL_Exception(m_host.translate(TextKey("can not be connected because unsupported device.")) %
                             QStringLiteral(" (") % generator.getIdentity().trimmed() % QLatin1Char(')'));
     if (m_state.frequency < 1) return;
     const SignalOffer offer = SignalOffer::of(generator.getFrequency(), generator.getFrequencies());
@@ -117,7 +118,7 @@ void SignalSources::openHubs() {
     devices.open(1);
     if (devices.search(3, 1) != wanted.size()) {
         const QStringList missing = missingHubs();
-        throw UTL_Exception(m_host.translate(QStringLiteral("Failed to connect to Sync Hub")) % QStringLiteral(" (") %
+        throw UTL_Exception(m_host.translate(TextKey("Failed to connect to Sync Hub")) % QStringLiteral(" (") %
                             (missing.isEmpty() ? wanted : missing).join(QStringLiteral(", ")) % QLatin1Char(')'));
     }
     if (m_state.frequency < 1) return;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "SignalChoice.h"
+#include "TextKey.h"
 
 #include <QList>
 #include <QStringList>
@@ -13,7 +14,7 @@ class ZebSignalDevice;
 struct SyncState;
 
 /// The alert of a camera whose record rate is not the frequency of the signal; a key for translation.
-inline const QString SignalDiffersText = QStringLiteral("External sync signal and cameras recordrate are different");
+inline const QString SignalDiffersText = TextKey("External sync signal and cameras recordrate are different");
 
 /// Where the common signal comes from: a signal generator, or the Sync Hub that makes it. GUI thread.
 ///

@@ -4,6 +4,7 @@
 #include "DOC_Interface.h"
 #include "SyncCamera.h"
 #include "SyncableDocs.h"
+#include "TextKey.h"
 #include "UTL_Exception.h"
 #include "ZebDocManager.h"
 #include "ZebHost.h"
@@ -38,7 +39,7 @@ void failIf(bool unfit, const ZebHost& host, const QString& reason) {
 
 void checkDummies(ZebHost& host, const DocList& docs) {
     for (DOC_Interface* doc : docs)
-        failIf(doc->control().isDummy(), host, QStringLiteral("Dummy camera can not set synchronization"));
+        failIf(doc->control().isDummy(), host, TextKey("Dummy camera can not set synchronization"));
 }
 
 /// One camera after the other: a later one that does not answer hides no reason of an earlier one.
@@ -62,27 +63,27 @@ void checkExposureControl(ZebHost& host) {
         DOC_Interface* doc = host.docManager().getDocAny(key);
         if (doc == nullptr || !doc->isConnected()) continue;
         failIf(doc->control().isDualSlopeShutter() != 0, host,
-               QStringLiteral("Synchronization setting can not be done because there is a dual slope shutter camera."));
+               TextKey("Synchronization setting can not be done because there is a dual slope shutter camera."));
         failIf(doc->control().isAutoExposure(), host,
-               QStringLiteral("Synchronization setting is impossible because there is a camera with automatic exposure "
-                              "control."));
+               TextKey("Synchronization setting is impossible because there is a camera with automatic exposure "
+                       "control."));
     }
 }
 
 }  // namespace
 
 QString syncObstacle(const SyncFitness& camera, int reference) {
-    if (!camera.supported) return QStringLiteral("The selected camera does not support sync setting");
+    if (!camera.supported) return TextKey("The selected camera does not support sync setting");
     if (camera.triggerMode != reference)
-        return QStringLiteral("Sync setting is possible only when all cameras are in the same trigger mode.");
+        return TextKey("Sync setting is possible only when all cameras are in the same trigger mode.");
     if (camera.lowLight)
-        return QStringLiteral("Synchronization setting is impossible due to the presence of low light camera.");
+        return TextKey("Synchronization setting is impossible due to the presence of low light camera.");
     return {};
 }
 
 QString mixedExposureObstacle(int triggerMode) {
     if (suitsMixedExposure(triggerMode)) return {};
-    return QStringLiteral(
+    return TextKey(
         "Since the cameras with different exposure timings are mixed, the trigger mode of the start system can not be "
         "used. Consider using manual mode.");
 }

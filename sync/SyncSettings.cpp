@@ -11,6 +11,7 @@
 #include "SyncPreferences.h"
 #include "SyncState.h"
 #include "SyncableDocs.h"
+#include "TextKey.h"
 #include "TraceScope.h"
 #include "TraceText.h"
 #include "ZebCameraOps.h"
@@ -148,7 +149,7 @@ DocList SyncSettings::sorted(const DocList& docs, DOC_Interface& master, bool ex
 void SyncSettings::remindOfWiring() {
     if (!m_host.getPrefBool(WiringPref, true)) return;
     m_host.alertWithDontShowAgain(
-        m_host.translate(QStringLiteral("When using the software trigger, please check the wiring of the TRIG IN "
-                                        "terminal and enable 'Do not input software trigger to slave camera'")),
+        m_host.translate(TextKey("When using the software trigger, please check the wiring of the TRIG IN "
+                                 "terminal and enable 'Do not input software trigger to slave camera'")),
         WiringPref, m_host.getMainWindow(), {});
 }

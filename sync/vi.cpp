@@ -37,7 +37,7 @@ void require(std::int32_t status, const QString& function, const QString& rest =
     throw std::runtime_error(text.toStdString());
 }
 
-void warn(const QString& function, const QString& viCall, const QString& rest = {}) {
+void logWarning(const QString& function, const QString& viCall, const QString& rest = {}) {
     qWarning().noquote() << QStringLiteral("visa.dll error, function: %1 vifunc: %2 error: %3%4")
                                 .arg(function, viCall, statusText(), rest);
 }
@@ -49,11 +49,11 @@ namespace vi {
 bool open(const QString& resource) {
     VisaLibrary& visa = VisaLibrary::instance();
     if (!isDone(call(visa.calls().openDefaultRM, &visa.manager))) {
-        warn(QStringLiteral("vi::open"), QStringLiteral("viOpenDefaultRM"));
+        logWarning(QStringLiteral("vi::open"), QStringLiteral("viOpenDefaultRM"));
         return false;
     }
     if (!isDone(call(visa.calls().open, visa.manager, resource.toUtf8().constData(), 0, 0, &visa.session))) {
-        warn(QStringLiteral("vi::open"), QStringLiteral("viOpen"), QStringLiteral(" constr: ") % resource);
+        logWarning(QStringLiteral("vi::open"), QStringLiteral("viOpen"), QStringLiteral(" constr: ") % resource);
         return false;
     }
     return true;
@@ -63,7 +63,8 @@ void close() {
     VisaLibrary& visa = VisaLibrary::instance();
     const auto closeOne = [&visa](std::uint32_t& object, const QString& viCall) {
         if (object == 0) return;
-        if (!isDone(call(visa.calls().close, std::exchange(object, 0)))) warn(QStringLiteral("vi::close"), viCall);
+        if (!isDone(call(visa.calls().close, std::exchange(object, 0))))
+            logWarning(QStringLiteral("vi::close"), viCall);
     };
     closeOne(visa.session, QStringLiteral("viClose (1)"));
     closeOne(visa.manager, QStringLiteral("viClose (2)"));

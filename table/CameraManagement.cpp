@@ -8,6 +8,7 @@
 #include "DocKeys.h"
 #include "LogFailure.h"
 #include "TableState.h"
+#include "TextKey.h"
 #include "ZebCameraOps.h"
 
 namespace {
@@ -58,7 +59,7 @@ void CameraManagement::update() {
 }
 
 void CameraManagement::deleteAll() {
-    if (m_host.isLiveMode() && m_host.confirmModal(QStringLiteral("Delete all Cameras?"), nullptr, {}) &&
+    if (m_host.isLiveMode() && m_host.confirmModal(TextKey("Delete all Cameras?"), nullptr, {}) &&
         m_host.isLiveMode()) {
         m_host.docManager().deleteAllDocs(0, 0);
     }
@@ -86,10 +87,9 @@ QString CameraManagement::disconnectQuestion(const DocKeyList& keys) const {
 
 QString CameraManagement::disconnectQuestionFor(bool anyMultiHead, int unlocked) {
     if (anyMultiHead) {
-        return QStringLiteral("Heads connected to the same device are also disconnected. Is it OK?");
+        return TextKey("Heads connected to the same device are also disconnected. Is it OK?");
     }
-    return unlocked < 2 ? QStringLiteral("Disconnect this device. Is it OK?")
-                        : QStringLiteral("Bulk disconnect devices. Is it OK?");
+    return unlocked < 2 ? TextKey("Disconnect this device. Is it OK?") : TextKey("Bulk disconnect devices. Is it OK?");
 }
 
 void CameraManagement::connect(const DocKeyList& keys, bool connect, bool force) {

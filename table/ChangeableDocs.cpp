@@ -1,6 +1,7 @@
 #include "ChangeableDocs.h"
 
 #include "DOC_Lock.h"
+#include "TextKey.h"
 
 namespace {
 
@@ -18,8 +19,8 @@ bool reachesLockedHead(ZebHost& host, const DocList& docs, const SharedParameter
 }
 
 bool userAgrees(ZebHost& host, const SharedParameter& parameter) {
-    const QString question = host.translate(
-        QStringLiteral("%1 of locked heads will be changed at the same time.<br>Do you want to continue?"));
+    const QString question =
+        host.translate(TextKey("%1 of locked heads will be changed at the same time.<br>Do you want to continue?"));
     return host.confirmWithDontShowAgain(question.arg(host.translate(QLatin1String(parameter.label))), HeadAlertPref,
                                          host.getMainWindow(), {});
 }

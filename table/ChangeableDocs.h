@@ -14,10 +14,10 @@ struct SharedParameter {
     bool anyHeadAsks;
 };
 
-constexpr SharedParameter RecordRate{false, false, "Shooting speed", false};
-constexpr SharedParameter ShutterSpeed{true, false, "Shutter speed", true};
-constexpr SharedParameter Resolution{false, true, "Resolution", false};
-constexpr SharedParameter TriggerMode{false, false, "Trigger mode", false};
+constexpr SharedParameter RecordRate{false, false, QT_TR_NOOP("Shooting speed"), false};
+constexpr SharedParameter ShutterSpeed{true, false, QT_TR_NOOP("Shutter speed"), true};
+constexpr SharedParameter Resolution{false, true, QT_TR_NOOP("Resolution"), false};
+constexpr SharedParameter TriggerMode{false, false, QT_TR_NOOP("Trigger mode"), false};
 
 /// Runs `step` on each document of `keys` that is there and connected, in the order of the keys. Those that fail go
 /// into `failures` and keep no other from its step.

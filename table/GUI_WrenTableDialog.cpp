@@ -6,6 +6,7 @@
 #include "JS_Mediator_WrenTableDialog.h"
 #include "LogFailure.h"
 #include "TablePlacement.h"
+#include "TextKey.h"
 #include "ZebHost.h"
 
 #include <QApplication>
@@ -160,7 +161,7 @@ void GUI_WrenTableDialog::storePlacement() {
 bool GUI_WrenTableDialog::mayClose() {
     const QPointer<GUI_WrenTableDialog> self(this);
     const bool agreed = host().isApplicationClosing() || bridgeCall(*m_table, false, [this] {
-                            return host().confirmModal(QStringLiteral("Quit WREN?"), this, {});
+                            return host().confirmModal(TextKey("Quit WREN?"), this, {});
                         });
     return self && (agreed || host().isApplicationClosing());
 }

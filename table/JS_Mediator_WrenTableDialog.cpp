@@ -18,6 +18,7 @@
 #include "RecordButton.h"
 #include "SyncSettings.h"
 #include "TableSession.h"
+#include "TextKey.h"
 #include "TraceScope.h"
 #include "TraceText.h"
 #include "TriggerEditing.h"
@@ -486,7 +487,7 @@ void JS_Mediator_WrenTableDialog::showReadyProgress() {
         if (m_readyProgress || !following || m_state.loadingRigx) {
             return;
         }
-        m_readyProgress = makeReadyProgressDialog(host().translate(QStringLiteral("Ready...")), host());
+        m_readyProgress = makeReadyProgressDialog(host().translate(TextKey("Ready...")), host());
         m_readyProgress->show();
         // A press that is under way keeps until this call has ended; in here it would be refused.
         QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);

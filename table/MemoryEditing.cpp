@@ -7,6 +7,7 @@
 #include "GatheredFailures.h"
 #include "LogFailure.h"
 #include "NamedFailure.h"
+#include "TextKey.h"
 #include "ZebDocManager.h"
 #include "ZebHost.h"
 
@@ -115,7 +116,7 @@ bool MemoryEditing::userTakesUnchecked() {
     if (complete && unread.isEmpty()) {
         return true;
     }
-    const QStringList question{m_host.translate(
-        QStringLiteral("Do you want to save even though playback confirmation has not been completed?"))};
+    const QStringList question{
+        m_host.translate(TextKey("Do you want to save even though playback confirmation has not been completed?"))};
     return m_host.confirm((question + unread.lines()).join(QLatin1Char('\n'))) && m_host.isMemoryMode();
 }

@@ -5,6 +5,7 @@
 #include "DOC_Lock.h"
 #include "DocumentGuard.h"
 #include "NamedFailure.h"
+#include "TextKey.h"
 #include "ZebCameraOps.h"
 
 #include <limits>
@@ -124,7 +125,7 @@ int ParameterEditing::shutterFraction(const DocList& docs, int value) const {
         if (n > 0 && zeb::NanosecondsPerSecond / n == value) fraction = n;
     }
     if (fraction > 0) return fraction;
-    throw std::runtime_error(m_host.translate(QStringLiteral("No camera offers the shutter speed %1."))
+    throw std::runtime_error(m_host.translate(TextKey("No camera offers the shutter speed %1."))
                                  .arg(docs.first()->formatShutterSpeed(value, 0))
                                  .toStdString());
 }

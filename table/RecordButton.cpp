@@ -14,6 +14,7 @@
 #include "SyncPreferences.h"
 #include "SyncSettings.h"
 #include "TableState.h"
+#include "TextKey.h"
 #include "UTL_Messages.h"
 #include "ZebCycleFailure.h"
 #include "ZebDocManager.h"
@@ -100,7 +101,7 @@ bool RecordButton::areCamerasLocked() {
         return true;
     }
     unread.log();
-    const QStringList lines{m_host.translate(QStringLiteral("Lock all connected cameras."))};
+    const QStringList lines{m_host.translate(TextKey("Lock all connected cameras."))};
     m_host.alert((lines + unread.lines()).join(QLatin1Char('\n')), m_parent);
     return false;
 }
@@ -138,9 +139,9 @@ bool RecordButton::userTakesProblems() {
     if (lines.isEmpty()) {
         return true;
     }
-    lines.prepend(m_host.translate(QStringLiteral("Problem with camera.")));
-    const ButtonTexts buttons{{QMessageBox::Ok, m_host.translate(QStringLiteral("Yes"))},
-                              {QMessageBox::Cancel, m_host.translate(QStringLiteral("No"))}};
+    lines.prepend(m_host.translate(TextKey("Problem with camera.")));
+    const ButtonTexts buttons{{QMessageBox::Ok, m_host.translate(TextKey("Yes"))},
+                              {QMessageBox::Cancel, m_host.translate(TextKey("No"))}};
     return UTL_Messages::warnOkCancel(lines.join(QLatin1Char('\n')), m_host, m_parent, buttons) && canArm();
 }
 
@@ -157,7 +158,7 @@ bool RecordButton::prepareSignal(const std::function<bool()>& synchronise, Gathe
     }
     if (m_host.getPrefBool(QStringLiteral("wren/settings/deviceSpeedPlaying")) &&
         !setDeviceSpeedPlaying(m_host, m_state.sync, connected(failures), failures)) {
-        m_host.warn(m_host.translate(QStringLiteral(
+        m_host.warn(m_host.translate(TextKey(
                         "There are some cameras that are not synchronized shooting because the shooting speed of the "
                         "device is faster than the sync frequency.")),
                     m_parent);

@@ -4,6 +4,7 @@
 #include "DOC_Control.h"
 #include "DOC_Frames.h"
 #include "DOC_Interface.h"
+#include "TextKey.h"
 #include "ZebCameraOps.h"
 #include "ZebHost.h"
 
@@ -64,7 +65,7 @@ void TriggerEditing::applyTriggerMode(const DocList& docs, int mode) {
     settings.randomFrames = m_host.getPrefInt(settingsPref("triggerRandomFrame"));
 
     const QString reason =
-        m_host.translate(QStringLiteral("%1 is invalid.")).arg(m_host.translate(QStringLiteral("Trigger Parameter")));
+        m_host.translate(TextKey("%1 is invalid.")).arg(m_host.translate(TextKey("Trigger Parameter")));
     DocList valid;
     QStringList invalid;
     for (DOC_Interface* doc : docs) {

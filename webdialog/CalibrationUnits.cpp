@@ -13,8 +13,10 @@ struct Unit {
     const char* shortName;
 };
 
-constexpr Unit Metric[] = {{"Micro (µm)", "µm"}, {"Milimeters (mm)", "mm"}, {"Meters (m)", "m"}};
-constexpr Unit Imperial[] = {{"Inches (in)", "inch"}, {"Feet (ft)", "feet"}, {"Yard (yd)", "yard"}};
+constexpr Unit Metric[] = {
+    {"Micro (µm)", QT_TR_NOOP("µm")}, {"Milimeters (mm)", QT_TR_NOOP("mm")}, {"Meters (m)", QT_TR_NOOP("m")}};
+constexpr Unit Imperial[] = {
+    {"Inches (in)", QT_TR_NOOP("inch")}, {"Feet (ft)", QT_TR_NOOP("feet")}, {"Yard (yd)", QT_TR_NOOP("yard")}};
 
 }  // namespace
 

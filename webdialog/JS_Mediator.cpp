@@ -16,6 +16,7 @@
 #include "RangeMax.h"
 #include "Style.h"
 #include "SupportFileExport.h"
+#include "TextKey.h"
 #include "TextResource.h"
 #include "TraceText.h"
 #include "ZebAppStatus.h"
@@ -55,7 +56,7 @@ void JS_Mediator::reportCurrentFailure() noexcept {
         } catch (std::exception& e) {
             errorHandler(e);
         } catch (...) {
-            APP_Exception unknown(QStringLiteral("Unknown failure."));
+            APP_Exception unknown(TextKey("Unknown failure."));
             errorHandler(unknown);
         }
     });

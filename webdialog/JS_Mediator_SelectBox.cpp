@@ -6,6 +6,7 @@
 #include "DOC_Interface.h"
 #include "DocumentGuard.h"
 #include "PrefsDialog.h"
+#include "TextKey.h"
 #include "TraceText.h"
 #include "ZebCameraOps.h"
 #include "ZebDocManager.h"
@@ -44,7 +45,7 @@ void JS_Mediator_SelectBox::showPartitions() {
     QVariantList names;
     const PARTITIONNUMBER count = doc->control().getPartitionCount(0, 0);
     for (PARTITIONNUMBER i = 1; i <= count; ++i) names.append(doc->getPartitionName(i));
-    if (host().isLiveMode()) names << QString() << host().translate(QStringLiteral("Setting..."));
+    if (host().isLiveMode()) names << QString() << host().translate(TextKey("Setting..."));
     Q_EMIT signalShowPartition(names);
 }
 

@@ -3,6 +3,7 @@
 #include "APP_ConcurrentException.h"
 #include "DOC_Control.h"
 #include "DOC_Interface.h"
+#include "TextKey.h"
 #include "ZebDocManager.h"
 #include "ZebHost.h"
 #include "ZebSupportFile.h"
@@ -21,7 +22,7 @@ constexpr auto LastDirectory = "support/dir";
 /// Runs on a worker's thread.
 void writeFile(ZebHost* host, const QString& path, const ZebSupportFile& file) {
     try {
-        if (!host->exportSupportFile(path, file)) throw APP_Exception(QStringLiteral("Failed to save support file."));
+        if (!host->exportSupportFile(path, file)) throw APP_Exception(TextKey("Failed to save support file."));
     } catch (const APP_Exception& e) {
         throw APP_ConcurrentException(e);
     } catch (const std::exception& e) {  // else the worker would drop the text
@@ -49,13 +50,12 @@ private:
 
 // The stand-in host writes these in `addHostState` and `AppWindows::addToSupportFile`.
 QStringList supportFileContents(bool cameraLog, bool tableWindow) {
-    QStringList contents = {QStringLiteral("- Camera setting values"), QStringLiteral("- ZEB setting values"),
-                            QStringLiteral("- ZEB operation log"), QStringLiteral("- SDK operation log")};
-    if (cameraLog) contents += QStringLiteral("- Camera log");
-    contents += {QStringLiteral("- PC environment"), QStringLiteral("- ZEB version"),
-                 QStringLiteral("- ZEB full screen capture")};
-    if (tableWindow) contents += QStringLiteral("- WREN window screen capture");
-    contents += QStringLiteral("- Currently displayed image data (1 frame)");
+    QStringList contents = {TextKey("- Camera setting values"), TextKey("- ZEB setting values"),
+                            TextKey("- ZEB operation log"), TextKey("- SDK operation log")};
+    if (cameraLog) contents += TextKey("- Camera log");
+    contents += {TextKey("- PC environment"), TextKey("- ZEB version"), TextKey("- ZEB full screen capture")};
+    if (tableWindow) contents += TextKey("- WREN window screen capture");
+    contents += TextKey("- Currently displayed image data (1 frame)");
     return contents;
 }
 
@@ -64,14 +64,14 @@ void SupportFileExport::run() {
     const QString path = askPath();
     if (path.isEmpty()) return;
     write(path);
-    m_host.info(m_host.translate(QStringLiteral("Please attach preserved file to a mail.")), nullptr);
+    m_host.info(m_host.translate(TextKey("Please attach preserved file to a mail.")), nullptr);
     m_host.setPref(QLatin1String(LastDirectory), QFileInfo(path).path());
 }
 
 bool SupportFileExport::userAgrees() {
-    QString question = m_host.translate(QStringLiteral(
-                           "The information below will be output in ZIP file format. Do you want to proceed?")) %
-                       QStringLiteral("<br>");
+    QString question =
+        m_host.translate(TextKey("The information below will be output in ZIP file format. Do you want to proceed?")) %
+        QStringLiteral("<br>");
     for (const QString& content : supportFileContents(hasCameraLog(), m_host.hasWrenWindow()))
         question += QStringLiteral("<br>") % m_host.translate(content);
     return m_host.confirmModal(question, m_host.getMainWindow(), {});
@@ -86,7 +86,7 @@ bool SupportFileExport::hasCameraLog() {
 }
 
 QString SupportFileExport::askPath() {
-    return QFileDialog::getSaveFileName(m_host.getMainWindow(), m_host.translate(QStringLiteral("Export support file")),
+    return QFileDialog::getSaveFileName(m_host.getMainWindow(), m_host.translate(TextKey("Export support file")),
                                         m_host.getPref(QLatin1String(LastDirectory)).toString(),
                                         QStringLiteral("zip (*.zip)"), nullptr, QFileDialog::DontConfirmOverwrite);
 }
@@ -97,7 +97,7 @@ void SupportFileExport::write(const QString& path) {
     QFutureWatcher<void> watcher;
     watcher.setFuture(QtConcurrent::run(writeFile, &m_host, path, file));
     const WorkerEnd end(watcher.future());
-    m_host.execProgress(QStringLiteral("Saving..."), watcher);
+    m_host.execProgress(TextKey("Saving..."), watcher);
     // Asked here and not by the host, which must not meet an exception of ours.
     watcher.waitForFinished();
 }

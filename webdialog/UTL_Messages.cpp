@@ -5,6 +5,7 @@
 #include "OverActiveWindow.h"
 #include "PlainText.h"
 #include "Style.h"
+#include "TextKey.h"
 #include "TraceScope.h"
 #include "TraceText.h"
 #include "WindowPlacement.h"
@@ -29,13 +30,13 @@ QString buttonName(int button) {
         case QMessageBox::Ok:
             return QStringLiteral("Ok");
         case QMessageBox::Save:
-            return QStringLiteral("Save");
+            return TextKey("Save");
         case QMessageBox::Yes:
-            return QStringLiteral("Yes");
+            return TextKey("Yes");
         case QMessageBox::No:
-            return QStringLiteral("No");
+            return TextKey("No");
         case QMessageBox::Cancel:
-            return QStringLiteral("Cancel");
+            return TextKey("Cancel");
         default:
             return {};
     }
@@ -44,13 +45,13 @@ QString buttonName(int button) {
 QMessageBox* makeWarning(const QString& text, const ZebHost& host, QWidget* parent, const ButtonTexts& buttonTexts) {
     const QString whole = plainText(text);
     const BoxText fitting = fitIntoBox(whole);
-    auto* box = new QMessageBox(QMessageBox::Warning, translated(QStringLiteral("Warning")), fitting.head,
+    auto* box = new QMessageBox(QMessageBox::Warning, translated(TextKey("Warning")), fitting.head,
                                 QMessageBox::Ok | QMessageBox::Cancel, parent);
     if (fitting.cut) box->setDetailedText(whole);
     box->setObjectName(QLatin1String(BoxName));
     box->setTextFormat(Qt::PlainText);
     box->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
-    box->button(QMessageBox::Cancel)->setText(host.translate(QStringLiteral("Cancel")));
+    box->button(QMessageBox::Cancel)->setText(host.translate(TextKey("Cancel")));
     for (auto it = buttonTexts.begin(); it != buttonTexts.end(); ++it) {
         QAbstractButton* button = box->button(static_cast<QMessageBox::StandardButton>(it.key()));
         if (button) button->setText(translated(it.value()));

@@ -1,5 +1,6 @@
 #include "records/BatchRecord.h"
 
+#include "TextKey.h"
 #include "ZebHost.h"
 
 namespace {
@@ -56,7 +57,7 @@ Record BatchRecord::build(const ZebHost& host) const {
                                                       : emptyRecord();
     record.setNumber(QLatin1String("recid"), -1);
     record.setNumber(QLatin1String("key"), -1);
-    record.setText(QLatin1String("cameraName"), host.translate(QStringLiteral("All camera")));
+    record.setText(QLatin1String("cameraName"), host.translate(TextKey("All camera")));
     record.setJson(QLatin1String("alert"), EmptyList);
     record.setNumber(QLatin1String("recordCount"), m_count);
     if (host.isLiveMode()) {

@@ -2,6 +2,7 @@
 
 #include "DOC_Control.h"
 #include "DOC_Interface.h"
+#include "TextKey.h"
 #include "ZebHost.h"
 #include "records/Record.h"
 
@@ -13,7 +14,7 @@ namespace {
 const QString NoSetting = QStringLiteral("-");
 
 QString onOrOff(bool on) {
-    return on ? QStringLiteral("ON") : QStringLiteral("OFF");
+    return on ? TextKey("ON") : TextKey("OFF");
 }
 
 /// Key of the text for a camera with IRIG.
@@ -22,8 +23,7 @@ QString timeStamp(const DOC_Control& camera) {
     if (!enabled || !camera.isFunctionSupported(zeb::FunctionIrigTimeStampPosition, 1)) {
         return onOrOff(enabled);
     }
-    return camera.getIrigTimeStampPosition() != 0 ? QStringLiteral("END OF EXPOSURE")
-                                                  : QStringLiteral("START OF EXPOSURE");
+    return camera.getIrigTimeStampPosition() != 0 ? TextKey("END OF EXPOSURE") : TextKey("START OF EXPOSURE");
 }
 
 }  // namespace

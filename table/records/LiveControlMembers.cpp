@@ -4,6 +4,7 @@
 #include "DOC_Frames.h"
 #include "DOC_Interface.h"
 #include "TableState.h"
+#include "TextKey.h"
 #include "ZebHost.h"
 #include "records/JsonText.h"
 #include "records/NumberFormat.h"
@@ -21,12 +22,13 @@ static uint qHash(const QSize& size, uint seed = 0) {
 
 namespace {
 
-constexpr const char* TriggerNames[] = {"Start Trg",         "Center Trg",           "End Trg",
-                                        "Random Trg",        "Manual Trg",           "Random Reset Trg",
-                                        "Random Center Trg", "Random Manual Trg",    "Twostage Trg",
-                                        "Twostage Half Trg", "Twostage Quarter Trg", "Twostage Oneeighth Trg",
-                                        "Reset Trg",         "Rec on cmd Trg",       "Random Loop Trg",
-                                        "None Error Trg"};
+constexpr const char* TriggerNames[] = {
+    QT_TR_NOOP("Start Trg"),         QT_TR_NOOP("Center Trg"),           QT_TR_NOOP("End Trg"),
+    QT_TR_NOOP("Random Trg"),        QT_TR_NOOP("Manual Trg"),           QT_TR_NOOP("Random Reset Trg"),
+    QT_TR_NOOP("Random Center Trg"), QT_TR_NOOP("Random Manual Trg"),    QT_TR_NOOP("Twostage Trg"),
+    QT_TR_NOOP("Twostage Half Trg"), QT_TR_NOOP("Twostage Quarter Trg"), QT_TR_NOOP("Twostage Oneeighth Trg"),
+    QT_TR_NOOP("Reset Trg"),         QT_TR_NOOP("Rec on cmd Trg"),       QT_TR_NOOP("Random Loop Trg"),
+    QT_TR_NOOP("None Error Trg")};
 
 constexpr int LastTriggerName = int(std::size(TriggerNames)) - 1;
 
@@ -86,7 +88,7 @@ LiveControlMembers::LiveControlMembers(ZebHost& host, const TableState& state)
       m_delimitRates(host.getPrefBool(QStringLiteral("display/recordRateInsertDelimiter"))),
       m_shutterByTime(host.getPrefInt(QStringLiteral("display/ShutterSpeed")) == zeb::ShutterDisplaySecondList),
       m_allowedRates(toRates(state.allowed.frameRates)),
-      m_rateUnit(host.translate(QStringLiteral("fps"))) {}
+      m_rateUnit(host.translate(TextKey("fps"))) {}
 
 void LiveControlMembers::add(Record& record, DOC_Interface& doc, bool connected, bool lowLight) {
     if (connected) {

@@ -4,6 +4,7 @@
 #include "DOC_Frames.h"
 #include "DOC_Head.h"
 #include "DOC_Interface.h"
+#include "TextKey.h"
 #include "ZebHost.h"
 #include "records/NumberFormat.h"
 #include "records/Record.h"
@@ -19,7 +20,7 @@ int triggerOffset(const DOC_Control& camera) {
 MemoryInfoMembers::MemoryInfoMembers(const ZebHost& host)
     : m_delimitFrames(host.getPrefBool(QStringLiteral("display/frameInsertDelimiter"))),
       m_delimitRates(host.getPrefBool(QStringLiteral("display/recordRateInsertDelimiter"))),
-      m_rateUnit(host.translate(QStringLiteral("fps"))) {}
+      m_rateUnit(host.translate(TextKey("fps"))) {}
 
 void MemoryInfoMembers::add(Record& record, DOC_Interface& doc, bool connected) const {
     if (connected && doc.frames().getFrameCount(0, 0) != 0) {

@@ -7,6 +7,7 @@
 #include "DocKeys.h"
 #include "NamedFailure.h"
 #include "TableState.h"
+#include "TextKey.h"
 #include "ZebDocManager.h"
 #include "ZebHost.h"
 #include "ZebRecorder.h"
@@ -33,15 +34,15 @@ QString compact(const QJsonDocument& document) {
 QString recordLabel(int state) {
     switch (state) {
         case zeb::RecordLive:
-            return QStringLiteral("Record");
+            return TextKey("Record");
         case zeb::RecordCtsReady:
-            return QStringLiteral("Waiting For CTS Signal");
+            return TextKey("Waiting For CTS Signal");
         case zeb::RecordReady:
-            return QStringLiteral("Ready");
+            return TextKey("Ready");
         case zeb::RecordRecording:
-            return QStringLiteral("Recording...");
+            return TextKey("Recording...");
         default:
-            return QStringLiteral("Error");
+            return TextKey("Error");
     }
 }
 
@@ -123,7 +124,7 @@ QString RecordModel::getGroups() const {
         append(group.name, group.name);
     }
     if (!groups.isEmpty()) {
-        append({}, m_host.translate(QStringLiteral("All Group")));
+        append({}, m_host.translate(TextKey("All Group")));
     }
     return compact(QJsonDocument(groups));
 }

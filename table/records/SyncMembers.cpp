@@ -2,6 +2,7 @@
 
 #include "DOC_Control.h"
 #include "DOC_Interface.h"
+#include "TextKey.h"
 #include "ZebHost.h"
 #include "records/Record.h"
 
@@ -61,26 +62,26 @@ InputPorts inputPorts(int cameraType) {
 }
 
 QString signalName(int signal) {
-    static const QHash<int, QString> names{{zeb::SignalOff, QStringLiteral("OFF")},
-                                           {zeb::SignalOnCamPos, QStringLiteral("ON CAM POS")},
-                                           {zeb::SignalOnCamNeg, QStringLiteral("ON CAM NEG")},
-                                           {zeb::SignalOnOthersPos, QStringLiteral("ON OTHERS POS")},
-                                           {zeb::SignalOnOthersNeg, QStringLiteral("ON OTHERS NEG")},
-                                           {zeb::SignalEventPos, QStringLiteral("EVENT POS")},
-                                           {zeb::SignalEventNeg, QStringLiteral("EVENT NEG")},
-                                           {zeb::SignalTrigPos, QStringLiteral("TRIG POS")},
-                                           {zeb::SignalTrigNeg, QStringLiteral("TRIG NEG")},
-                                           {zeb::SignalReadyPos, QStringLiteral("READY POS")},
-                                           {zeb::SignalReadyNeg, QStringLiteral("READY NEG")},
-                                           {zeb::SignalSyncPos, QStringLiteral("SYNC POS")},
-                                           {zeb::SignalSyncNeg, QStringLiteral("SYNC NEG")},
-                                           {zeb::SignalOnCam, QStringLiteral("ON CAM")},
-                                           {zeb::SignalOnOthers, QStringLiteral("ON OTHERS")},
-                                           {zeb::SignalNormallyOpen, QStringLiteral("NORMALLY OPEN")},
-                                           {zeb::SignalNormallyClose, QStringLiteral("NORMALLY CLOSE")},
-                                           {zeb::SignalPowerOffPos, QStringLiteral("POWER OFF POS")},
-                                           {zeb::SignalPowerOffNeg, QStringLiteral("POWER OFF NEG")},
-                                           {zeb::SignalRemoteOn, QStringLiteral("REMOTE ON")}};
+    static const QHash<int, QString> names{{zeb::SignalOff, TextKey("OFF")},
+                                           {zeb::SignalOnCamPos, TextKey("ON CAM POS")},
+                                           {zeb::SignalOnCamNeg, TextKey("ON CAM NEG")},
+                                           {zeb::SignalOnOthersPos, TextKey("ON OTHERS POS")},
+                                           {zeb::SignalOnOthersNeg, TextKey("ON OTHERS NEG")},
+                                           {zeb::SignalEventPos, TextKey("EVENT POS")},
+                                           {zeb::SignalEventNeg, TextKey("EVENT NEG")},
+                                           {zeb::SignalTrigPos, TextKey("TRIG POS")},
+                                           {zeb::SignalTrigNeg, TextKey("TRIG NEG")},
+                                           {zeb::SignalReadyPos, TextKey("READY POS")},
+                                           {zeb::SignalReadyNeg, TextKey("READY NEG")},
+                                           {zeb::SignalSyncPos, TextKey("SYNC POS")},
+                                           {zeb::SignalSyncNeg, TextKey("SYNC NEG")},
+                                           {zeb::SignalOnCam, TextKey("ON CAM")},
+                                           {zeb::SignalOnOthers, TextKey("ON OTHERS")},
+                                           {zeb::SignalNormallyOpen, TextKey("NORMALLY OPEN")},
+                                           {zeb::SignalNormallyClose, TextKey("NORMALLY CLOSE")},
+                                           {zeb::SignalPowerOffPos, TextKey("POWER OFF POS")},
+                                           {zeb::SignalPowerOffNeg, TextKey("POWER OFF NEG")},
+                                           {zeb::SignalRemoteOn, TextKey("REMOTE ON")}};
     return names.value(signal);
 }
 

@@ -1,9 +1,10 @@
-#include "PreferencePages.h"
-
 #include <QDirIterator>
 #include <QFile>
+#include <QLocale>
 #include <QMap>
+#include <QProcess>
 #include <QRegularExpression>
+#include <QTemporaryDir>
 #include <QXmlStreamReader>
 
 #include <gtest/gtest.h>
@@ -12,6 +13,8 @@ namespace {
 
 /// Where each key was found first.
 using Keys = QMap<QString, QString>;
+/// The texts of a catalogue by key.
+using Texts = QMap<QString, QString>;
 
 QString contentOf(const QString& path) {
     QFile file(path);
@@ -19,123 +22,108 @@ QString contentOf(const QString& path) {
     return QString::fromUtf8(file.readAll());
 }
 
-/// The literals in what `pattern` captures first.
-void collect(Keys& keys, const QString& file, const QString& text, const char* pattern) {
-    static const QRegularExpression literal(QStringLiteral(R"re("((?:[^"\\]|\\.)*)"|'((?:[^'\\]|\\.)*)')re"));
-    const QRegularExpression wanted(QString::fromLatin1(pattern), QRegularExpression::DotMatchesEverythingOption);
-    for (auto call = wanted.globalMatch(text); call.hasNext();) {
-        QString key;
-        // Literals side by side are one.
-        QString part = call.next().captured(1).replace(QRegularExpression(QStringLiteral("\"\\s+\"")), QString());
-        for (auto found = literal.globalMatch(part); found.hasNext();) {
-            const QRegularExpressionMatch match = found.next();
-            key = match.captured(1) + match.captured(2);
-            if (!key.isEmpty()) keys.insert(key.replace(QStringLiteral("\\\""), QStringLiteral("\"")), file);
-        }
+/// Those of the product, in whatever folder they lie.
+QStringList filesLike(const QStringList& names) {
+    const QStringList others = {"bench", "build", "demo", "docs", "node_modules", "tests"};
+    QStringList files;
+    for (const QString& folder : QDir(SOURCE_FOLDER).entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
+        QDirIterator each(SOURCE_FOLDER "/" + folder, names, QDir::Files, QDirIterator::Subdirectories);
+        while (!others.contains(folder) && each.hasNext()) files << each.next();
     }
+    return files;
 }
 
-void collectCpp(Keys& keys, const QString& file, QString text) {
-    text.remove(QRegularExpression(QStringLiteral("^#include.*$"), QRegularExpression::MultilineOption));
-    collect(keys, file, text, R"re(\b(?:translated?|uiText)\(((?:QStringLiteral\()?\s*"[^;]*?")\s*\))re");
-    collect(
-        keys, file, text,
-        R"re(\b(?:confirm|confirmModal|warn|alert|info|warnOkCancel)\(\s*((?:QStringLiteral\()?\s*"[^;]*?")\s*[,)])re");
-    // The short names of units, and the texts of failures.
-    if (file.endsWith(QLatin1String("CalibrationUnits.cpp"))) collect(keys, file, text, R"re(,\s*("[^"]*"))re");
-    collect(keys, file, text, R"re(Exception(?: \w+)?\((QStringLiteral\("[^"]*"\)))re");
-    // Why files or cameras fail while they are saved.
-    if (file.contains(QLatin1String("/saving/")))
-        collect(keys, file, text, R"re(Error\([^;"]*QStringLiteral\(("[^"]*")\))re");
-    // What stands in a support file.
-    collect(keys, file, text, R"re(("- [^"]*"))re");
-    // What a record shows begins with a capital; its members do not.
-    if (file.contains(QLatin1String("/records/"))) collect(keys, file, text, R"re(("[A-Z][A-Za-z_ .]{2,}"))re");
-}
-
-void collectScript(Keys& keys, const QString& file, const QString& text) {
-    collect(keys, file, text, R"re(\b(?:translate|alert|warn|info|confirm)\(([^()]*)\))re");
-    collect(keys, file, text, R"re(\bcaption: ('[^']*'))re");
-}
-
-void collectMarkup(Keys& keys, const QString& file, const QString& text) {
-    static const QRegularExpression element(
-        QStringLiteral(R"re(<\w+\b([^>]*\bclass="[^"]*\blocalize\b[^"]*"[^>]*)>(?:<span></span>)?\s*([^<]*))re"));
-    static const QRegularExpression attribute(QStringLiteral(R"re(\b(?:title|value)="([^"]*)")re"));
-    for (auto found = element.globalMatch(text); found.hasNext();) {
-        const QRegularExpressionMatch match = found.next();
-        const bool isChoice = match.captured(0).startsWith(QLatin1String("<option"));
-        QStringList texts = {match.captured(2).simplified()};
-        if (!isChoice) texts << attribute.match(match.captured(1)).captured(1);
-        for (const QString& key : qAsConst(texts)) {
-            if (!key.isEmpty()) keys.insert(key, file);
-        }
-    }
-}
-
-Keys keysInSources() {
+/// What `lupdate` finds. To it the keys are ids: a `tr` needs a class around it, and many marks have none. It writes
+/// them to a .po file, since its .ts does not quote an id.
+Keys markedKeys() {
+    const QTemporaryDir folder;
+    QFile list(folder.filePath("sources"));
+    EXPECT_TRUE(list.open(QIODevice::WriteOnly));
+    list.write(filesLike({"*.cpp", "*.h", "*.js"}).join('\n').toUtf8());
+    list.close();
+    QProcess lupdate;
+    lupdate.start(LUPDATE, {"-silent", "-tr-function-alias",
+                            "QT_TRID_NOOP=TextKey,QT_TRID_NOOP+=QT_TR_NOOP,QT_TRID_NOOP+=uiText,"
+                            "qsTrId=textKey,qsTrId+=translate",
+                            "@" + list.fileName(), "-ts", folder.filePath("keys.po")});
+    EXPECT_TRUE(lupdate.waitForFinished()) << lupdate.errorString().toStdString();
+    for (const QByteArray& line : lupdate.readAllStandardError().split('\n'))
+        EXPECT_TRUE(line.isEmpty() || line.contains("has no source")) << line.toStdString();
     Keys keys;
-    for (const char* folder : {"webdialog", "export", "documents", "sync", "table", "plugin", "pages", "zebsim"}) {
-        QDirIterator files(QStringLiteral(SOURCE_FOLDER "/") + QLatin1String(folder),
-                           {"*.cpp", "*.h", "*.js", "*.html"}, QDir::Files, QDirIterator::Subdirectories);
-        while (files.hasNext()) {
-            const QString file = files.next();
-            const QString text = contentOf(file);
-            if (file.endsWith(QLatin1String(".js")))
-                collectScript(keys, file, text);
-            else if (file.endsWith(QLatin1String(".html")))
-                collectMarkup(keys, file, text);
-            else
-                collectCpp(keys, file, text);
-        }
-    }
-    for (const PreferencePage& page : preferencePages()) {
-        keys.insert(page.id, "PreferencePages.cpp");
-        for (const PreferenceField& field : page.fields) {
-            keys.insert(field.label, "PreferencePages.cpp");
-            for (const PreferenceChoice& choice : field.choices) keys.insert(choice.label, "PreferencePages.cpp");
-        }
+    QString key;
+    for (const QString& line : contentOf(folder.filePath("keys.po")).split('\n')) {
+        if (line.startsWith("#. ts-id ")) key = line.mid(9);
+        if (line.startsWith("#: ")) keys.insert(key, line.mid(3));
     }
     return keys;
 }
 
-/// The finished texts of a catalogue by key.
-QMap<QString, QString> catalogue(const QString& language) {
-    QMap<QString, QString> texts;
-    QXmlStreamReader xml(contentOf(QStringLiteral(SOURCE_FOLDER "/zebsim/i18n/zeb4_%1.ts").arg(language)));
-    QString key;
-    while (!xml.atEnd()) {
-        if (xml.readNext() != QXmlStreamReader::StartElement) continue;
-        if (xml.name() == QLatin1String("source")) key = xml.readElementText();
-        if (xml.name() == QLatin1String("translation") && xml.attributes().value("type").isEmpty()) {
-            EXPECT_FALSE(texts.contains(key)) << language.toStdString() << " has two texts for " << key.toStdString();
-            texts.insert(key, xml.readElementText());
+/// Elements of the class "localize" have their text and their title translated.
+void collectMarkup(Keys& keys, const QString& file) {
+    static const QRegularExpression element(
+        R"re(<\w+\b([^>]*\bclass="[^"]*\blocalize\b[^"]*"[^>]*)>(?:<span></span>)?\s*([^<]*))re");
+    static const QRegularExpression attribute(R"re(\b(?:title|value)="([^"]*)")re");
+    static const QRegularExpression letter("[A-Za-z]");
+    for (auto found = element.globalMatch(contentOf(file)); found.hasNext();) {
+        const QRegularExpressionMatch match = found.next();
+        const bool isChoice = match.captured(0).startsWith("<option");
+        QStringList texts = {match.captured(2).simplified()};
+        if (!isChoice) texts << attribute.match(match.captured(1)).captured(1);
+        for (const QString& key : texts.filter(letter)) keys.insert(key, file);
+    }
+}
+
+/// The catalogues by language.
+QMap<QString, Texts> catalogues() {
+    QMap<QString, Texts> all;
+    for (const QString& file : filesLike({"zeb4_*.ts"})) {
+        Texts& texts = all[QFileInfo(file).baseName().section('_', 1)];
+        QXmlStreamReader xml(contentOf(file));
+        QString key;
+        while (!xml.atEnd()) {
+            if (xml.readNext() != QXmlStreamReader::StartElement) continue;
+            if (xml.name() == QLatin1String("source")) key = xml.readElementText();
+            if (xml.name() == QLatin1String("translation") && xml.attributes().value("type").isEmpty()) {
+                EXPECT_FALSE(texts.contains(key)) << file.toStdString() << " has two texts for " << key.toStdString();
+                texts.insert(key, xml.readElementText());
+            }
         }
+        EXPECT_FALSE(xml.hasError()) << file.toStdString() << ": " << xml.errorString().toStdString();
     }
-    EXPECT_FALSE(xml.hasError()) << xml.errorString().toStdString();
-    return texts;
+    return all;
 }
 
-/// What comes before a name that is known only when the program runs, and what every language writes alike.
-bool needsNoText(const QString& key) {
-    static const QRegularExpression plain(QStringLiteral("^(p_|LIVE|vi::\\w+|[^A-Za-z]*)$"));
-    return plain.match(key).hasMatch();
+TEST(Texts, StandInEveryLanguageForEveryKeyOfTheSources) {
+    const QMap<QString, Texts> languages = catalogues();
+    Keys keys = markedKeys();
+    for (const QString& file : filesLike({"*.html"})) collectMarkup(keys, file);
+    for (const QString& language : languages.keys())
+        keys.insert(QLocale::languageToString(QLocale(language).language()), "the list of languages");
+    for (auto texts = languages.begin(); texts != languages.end(); ++texts) {
+        for (auto key = keys.begin(); key != keys.end(); ++key)
+            EXPECT_FALSE(texts->value(key.key()).isEmpty())
+                << '"' << key.key().toStdString() << "\" of " << key->toStdString() << " has no text in "
+                << texts.key().toStdString();
+        for (const QString& key : texts->keys())
+            EXPECT_TRUE(keys.contains(key))
+                << '"' << key.toStdString() << "\" of " << texts.key().toStdString() << " is asked for by no source";
+    }
 }
 
-TEST(Texts, StandInBothLanguagesForEveryKeyOfTheSources) {
-    const Keys keys = keysInSources();
-    const QMap<QString, QString> english = catalogue("en");
-    const QMap<QString, QString> japanese = catalogue("ja");
-    ASSERT_TRUE(keys.contains("Quit WREN?") && keys.contains("Show all") && keys.contains("Camera name") &&
-                keys.contains("Start Trg") && keys.contains("Preferences"))
-        << "the search finds keys of each kind";
-    for (auto key = keys.begin(); key != keys.end(); ++key) {
-        if (needsNoText(key.key())) continue;
-        const std::string where = "\"" + key.key().toStdString() + "\" of " + key.value().toStdString();
-        EXPECT_FALSE(english.value(key.key()).isEmpty()) << where << " has no English text";
-        EXPECT_FALSE(japanese.value(key.key()).isEmpty()) << where << " has no Japanese text";
+TEST(Texts, AreMarkedWhereTheyReachTheUser) {
+    // A literal among the first argument, or one that says why a file could not be written.
+    const QRegularExpression bareInCpp(
+        R"re(\b(?:(?:translated?|confirm\w*|warn\w*|alert|info|execProgress|\w+Exception(?: \w+)?)\((?!"zeb4"))re"
+        R"re(|uiText\((?!\s*")|tell\(Message|add\(Message|FileError\()[^()";]*(?:Q\w+\()?")re");
+    // No literal to a call of the bridge; a key alone, outside of a template, to what `lupdate` reads.
+    const QRegularExpression bareInScript(
+        R"re(\b(?:alert|warn|info|confirm)\(\s*['"`]|\bcaption: '|\$\{[^}]*\b(?:translate|textKey)\()re"
+        R"re(|\b(?:translate|textKey)\((?!'[^']*'\)|[\w.]+(?:\(\))?\)|'p_' \+))re");
+    for (const QString& file : filesLike({"*.cpp", "*.h", "*.js"})) {
+        const bool isScript = file.endsWith(".js");
+        for (auto bare = (isScript ? bareInScript : bareInCpp).globalMatch(contentOf(file)); bare.hasNext();)
+            ADD_FAILURE() << file.toStdString() << ": " << bare.next().captured().toStdString();
     }
-    EXPECT_EQ(english.keys(), japanese.keys());
 }
 
 }  // namespace

@@ -1,12 +1,13 @@
 #include "FailureText.h"
 
 #include "APP_ConcurrentException.h"
+#include "TextKey.h"
 
 #include <QRegularExpression>
 
 namespace {
 
-const QString Unknown = QStringLiteral("Unknown failure.");
+const QString Unknown = TextKey("Unknown failure.");
 
 QString orUnknown(const char* text) {
     const QString said = QString::fromUtf8(text);

@@ -1,5 +1,7 @@
 #include "WholeFile.h"
 
+#include "TextKey.h"
+
 #include <QSaveFile>
 
 QString writeWholeFile(const QString& path, const QByteArray& bytes) {
@@ -8,7 +10,7 @@ QString writeWholeFile(const QString& path, const QByteArray& bytes) {
     // On a full disk the bytes may still fit the buffer, and the commit says yes to an empty file.
     if (file.write(bytes) != bytes.size() || !file.flush()) {
         file.cancelWriting();
-        return QStringLiteral("only a part of it could be written; the disk may be full");
+        return TextKey("only a part of it could be written; the disk may be full");
     }
     return file.commit() ? QString() : file.errorString();
 }

@@ -4,6 +4,7 @@
 #include "NoHastyPress.h"
 #include "OverActiveWindow.h"
 #include "Style.h"
+#include "TextKey.h"
 #include "ZebHost.h"
 #include "host/HostCalls.h"
 
@@ -25,24 +26,24 @@ constexpr int MostNews = 12;
 
 struct Looks {
     QLatin1String kind;
-    QLatin1String title;
+    QString title;
     QMessageBox::Icon icon;
 };
 
 Looks looksOf(Message::Kind kind) {
     switch (kind) {
         case Message::Info:
-            return {QLatin1String("info"), QLatin1String("Information"), QMessageBox::Information};
+            return {QLatin1String("info"), TextKey("Information"), QMessageBox::Information};
         case Message::Warn:
-            return {QLatin1String("warn"), QLatin1String("Warning"), QMessageBox::Warning};
+            return {QLatin1String("warn"), TextKey("Warning"), QMessageBox::Warning};
         case Message::Alert:
-            return {QLatin1String("alert"), QLatin1String("Alert"), QMessageBox::Critical};
+            return {QLatin1String("alert"), TextKey("Alert"), QMessageBox::Critical};
         case Message::Confirm:
-            return {QLatin1String("confirm"), QLatin1String("Confirmation"), QMessageBox::Question};
+            return {QLatin1String("confirm"), TextKey("Confirmation"), QMessageBox::Question};
         case Message::Error:
             break;
     }
-    return {QLatin1String("error"), QLatin1String("Error"), QMessageBox::Critical};
+    return {QLatin1String("error"), TextKey("Error"), QMessageBox::Critical};
 }
 
 QMessageBox::StandardButtons buttonsOf(const Message& message) {
@@ -180,7 +181,7 @@ QMessageBox* MessageBoxes::makeBox(const Message& message) const {
     box->setEscapeButton(refusal);
     box->setDefaultButton(message.preferred != 0 ? static_cast<QMessageBox::StandardButton>(message.preferred)
                                                  : refusal);
-    if (message.offersSilence) box->setCheckBox(new QCheckBox(translated(QStringLiteral("Don't show again"))));
+    if (message.offersSilence) box->setCheckBox(new QCheckBox(translated(TextKey("Don't show again"))));
     applyMessageBoxStyle(*m_host, *box);
     showWhole(box->buttons());
     new NoHastyPress(*box);
@@ -208,9 +209,9 @@ void MessageBoxes::nameButtons(QMessageBox& box, const ButtonTexts& texts) const
         if (texts.contains(standard))
             button->setText(texts.value(standard));
         else if (standard == QMessageBox::Ok)
-            button->setText(translated(QStringLiteral("OK")));
+            button->setText(translated(TextKey("OK")));
         else if (standard == QMessageBox::Cancel)
-            button->setText(translated(QStringLiteral("Cancel")));
+            button->setText(translated(TextKey("Cancel")));
     }
 }
 

@@ -7,7 +7,7 @@
 /// One value that can be chosen for a preference. The texts of all of these are keys of the catalogue.
 struct PreferenceChoice {
     QVariant value;
-    const char* label = nullptr;
+    QString label;
 };
 
 /// A preference that the user can set. What it is until then is the factory's.
@@ -15,7 +15,7 @@ struct PreferenceField {
     enum Editor { Box, Number, Text, Choice };
 
     QString key;
-    const char* label = nullptr;
+    QString label;
     Editor editor = Text;
     /// Of a choice.
     QList<PreferenceChoice> choices = {};
@@ -26,7 +26,7 @@ struct PreferenceField {
 
 /// A page of the preference dialog. Its id is the key of its title too.
 struct PreferencePage {
-    const char* id = nullptr;
+    QString id;
     QList<PreferenceField> fields;
 };
 

@@ -34,7 +34,7 @@ PreferencesDialog::PreferencesDialog(Preferences& prefs, QWidget* parent)
 
 void PreferencesDialog::openAt(const QString& page) {
     for (int i = 0; i < preferencePages().size(); ++i) {
-        const bool isWanted = page == QLatin1String(preferencePages().at(i).id) || page == m_titles->item(i)->text();
+        const bool isWanted = page == preferencePages().at(i).id || page == m_titles->item(i)->text();
         if (isWanted) m_titles->setCurrentRow(i);
     }
 }

@@ -99,9 +99,9 @@ void ViewerWindow::addDialogs(AppDesk& desk) {
         action->setObjectName(QLatin1String(name));
         connect(action, &QAction::triggered, this, open);
     };
-    add("Preferences", "preferences", [&desk] { desk.openPreferences(); });
-    add("Ethernet", "ethernet", [&desk] { desk.openEthernetSettings(); });
-    add("About ZEB", "about", [&desk] { desk.openAbout(); });
+    add(QT_TR_NOOP("Preferences"), "preferences", [&desk] { desk.openPreferences(); });
+    add(QT_TR_NOOP("Ethernet"), "ethernet", [&desk] { desk.openEthernetSettings(); });
+    add(QT_TR_NOOP("About ZEB"), "about", [&desk] { desk.openAbout(); });
 }
 
 QAction* ViewerWindow::addChoice(QActionGroup* group, const QString& text, const QString& name) {

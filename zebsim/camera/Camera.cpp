@@ -1,5 +1,6 @@
 #include "camera/Camera.h"
 
+#include "TextKey.h"
 #include "camera/CameraError.h"
 #include "camera/FaultPlan.h"
 #include "camera/RecordSettings.h"
@@ -125,7 +126,7 @@ void Camera::askConnected(const char* operation) const {
 
 void Camera::requireConnected() const {
     if (!get(&CameraState::connected)) {
-        refuse(QStringLiteral("the camera is not connected"));
+        refuse(TextKey("the camera is not connected"));
     }
 }
 

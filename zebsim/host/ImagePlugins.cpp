@@ -1,28 +1,34 @@
 #include "host/ImagePlugins.h"
 
+#include "TextKey.h"
+
 #include <QHash>
 
 namespace imageplugins {
 
 namespace {
 
-/// By name: whether it needs an OK.
+/// By the key of its text, which is "p_" and its name: whether it needs an OK.
 const QHash<QString, bool>& table() {
-    static const QHash<QString, bool> plugins{
-        {QStringLiteral("lut"), false},   {QStringLiteral("colorcorrection"), false}, {QStringLiteral("filter"), true},
-        {QStringLiteral("scale"), false}, {QStringLiteral("histogram"), false},       {QStringLiteral("mosaic"), true},
-        {QStringLiteral("addtext"), true}};
+    static const QHash<QString, bool> plugins{{TextKey("p_lut"), false},       {TextKey("p_colorcorrection"), false},
+                                              {TextKey("p_filter"), true},     {TextKey("p_scale"), false},
+                                              {TextKey("p_histogram"), false}, {TextKey("p_mosaic"), true},
+                                              {TextKey("p_addtext"), true}};
     return plugins;
+}
+
+QString keyOf(const QString& name) {
+    return QLatin1String("p_") % name;
 }
 
 }  // namespace
 
 bool has(const QString& name) {
-    return table().contains(name);
+    return table().contains(keyOf(name));
 }
 
 bool needsOk(const QString& name) {
-    return table().value(name);
+    return table().value(keyOf(name));
 }
 
 }  // namespace imageplugins

@@ -1,6 +1,7 @@
 #include "host/SimCameraOps.h"
 
 #include "DOC_Interface.h"
+#include "TextKey.h"
 #include "camera/Camera.h"
 #include "camera/SyncSource.h"
 #include "host/CameraBank.h"
@@ -47,13 +48,13 @@ void SimCameraOps::search(const QString& network) {
     for (const Camera* camera : m_cameras.all()) {
         if (std::find(before.begin(), before.end(), camera) == before.end()) found.append(camera->name());
     }
-    const QString where = network.isEmpty() ? m_translator.translate(QStringLiteral("the whole network"))
+    const QString where = network.isEmpty() ? m_translator.translate(TextKey("the whole network"))
                                             : QString(network % QStringLiteral(".xxx"));
     const QString told =
-        !found.isEmpty() ? m_translator.translate(QStringLiteral("Search in %1: found %2."))
-        : answering > 0  ? m_translator.translate(
-                               QStringLiteral("Search in %1: no further camera; those that answer are listed already."))
-                        : m_translator.translate(QStringLiteral("Search in %1: no camera answers."));
+        !found.isEmpty() ? m_translator.translate(TextKey("Search in %1: found %2."))
+        : answering > 0
+            ? m_translator.translate(TextKey("Search in %1: no further camera; those that answer are listed already."))
+            : m_translator.translate(TextKey("Search in %1: no camera answers."));
     m_notices.add(Message::Info, found.isEmpty() ? told.arg(where) : told.arg(where, found.join(QStringLiteral(", "))));
 }
 

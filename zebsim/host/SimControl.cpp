@@ -1,5 +1,6 @@
 #include "host/SimControl.h"
 
+#include "TextKey.h"
 #include "camera/Camera.h"
 #include "camera/CameraError.h"
 #include "host/CameraBank.h"
@@ -289,9 +290,8 @@ void SimControl::eraseRecordedData(int mode) {
     if (recording && !m_camera.recording()) {
         const QString label = m_context.cameras.labelOf(m_camera);
         const QString frames = QString::number(recording->frameCount());
-        const QString whole = m_context.translator.translate(QStringLiteral("%1: %2 frames were erased."));
-        const QString part =
-            m_context.translator.translate(QStringLiteral("%1: %2 frames in partition %3 were erased."));
+        const QString whole = m_context.translator.translate(TextKey("%1: %2 frames were erased."));
+        const QString part = m_context.translator.translate(TextKey("%1: %2 frames in partition %3 were erased."));
         m_context.notices.add(Message::Info, m_camera.get(&CameraState::partitions) > 1
                                                  ? part.arg(label, frames, QString::number(recording->partition))
                                                  : whole.arg(label, frames));

@@ -1,5 +1,6 @@
 #include "host/SimDocManager.h"
 
+#include "TextKey.h"
 #include "camera/Camera.h"
 #include "host/CameraBank.h"
 #include "host/HostCalls.h"
@@ -241,13 +242,13 @@ void SimDocManager::forEachKey(const DocKeyList& keys, const std::function<void(
 void SimDocManager::deleteAllDocs(int kind, int mode) {
     m_calls.change("ZebDocManager::deleteAllDocs", {kind, mode});
     if (m_context.recorder.isUnderWay()) {
-        const QString text = QStringLiteral("Cameras are armed or recording. None was deleted.");
+        const QString text = TextKey("Cameras are armed or recording. None was deleted.");
         throw std::runtime_error(m_context.translator.translate(text).toStdString());
     }
     m_cameras.forgetAll();
     const QStringList unsaved = m_unsaved.lines(lostByClosing(heldRecordings(m_cameras)));
     if (!unsaved.isEmpty()) {
-        const QString text = QStringLiteral("Images that nobody has saved are out of reach until a search:");
+        const QString text = TextKey("Images that nobody has saved are out of reach until a search:");
         m_context.notices.add(
             Message::Warn, m_context.translator.translate(text) % QLatin1Char('\n') % unsaved.join(QLatin1Char('\n')));
     }

@@ -1,5 +1,6 @@
 #include "host/SimDocument.h"
 
+#include "TextKey.h"
 #include "camera/Camera.h"
 #include "host/ShutterText.h"
 #include "host/SimDocManager.h"
@@ -65,7 +66,7 @@ DocList SimDocument::getHeadDocs(int /*mode*/) {
 QString SimDocument::getPartitionName(PARTITIONNUMBER partition) const {
     m_camera.askConnected("getPartitionName");
     const QString name = m_camera.get(&CameraState::partitionNames).value(int(partition) - 1);
-    return name.isEmpty() ? m_context.translator.translate(QStringLiteral("Partition %1")).arg(partition) : name;
+    return name.isEmpty() ? m_context.translator.translate(TextKey("Partition %1")).arg(partition) : name;
 }
 
 QStringList SimDocument::getAlerts() const {

@@ -1,5 +1,6 @@
 // The boxes and notices of the host.
 
+#include "TextKey.h"
 #include "ZebCycleFailure.h"
 #include "host/MessageDesk.h"
 #include "host/SimHost.h"
@@ -51,8 +52,8 @@ int SimHost::choose(const QString& text, QWidget* parent, const ButtonTexts& but
 }
 
 bool SimHost::mayLose(const QString& question, const QStringList& lines) {
-    const ButtonTexts answers{{QMessageBox::Yes, translate(QStringLiteral("Yes"))},
-                              {QMessageBox::No, translate(QStringLiteral("No"))}};
+    const ButtonTexts answers{{QMessageBox::Yes, translate(TextKey("Yes"))},
+                              {QMessageBox::No, translate(TextKey("No"))}};
     return choose(question, nullptr, answers, QMessageBox::No, lines) == QMessageBox::Yes;
 }
 

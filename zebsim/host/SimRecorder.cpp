@@ -1,5 +1,6 @@
 #include "host/SimRecorder.h"
 
+#include "TextKey.h"
 #include "camera/Camera.h"
 #include "host/CameraBank.h"
 #include "host/HostCalls.h"
@@ -114,7 +115,7 @@ void SimRecorder::triggerRecording() {
 
 void SimRecorder::trigger() {
     if (m_flags.isOn(QStringLiteral("IsTriggerTesting"))) {
-        m_notices.add(Message::Info, QStringLiteral("Trigger test: the trigger has come. Nothing is recorded."));
+        m_notices.add(Message::Info, TextKey("Trigger test: the trigger has come. Nothing is recorded."));
     } else {
         m_run.trigger(m_prefs.value(QStringLiteral("recording/area")).toBool(), m_unsaved.isOn());
     }
@@ -144,9 +145,8 @@ bool SimRecorder::endByCancel() {
     // Whoever cancels knows that it is over.
     if (std::exchange(m_owedEnd, std::nullopt).value_or(false)) {
         Q_EMIT m_events.somethingRecorded();
-        m_notices.add(
-            Message::Info,
-            QStringLiteral("The recording was ended. The cameras keep what they have; memory mode shows it."));
+        m_notices.add(Message::Info,
+                      TextKey("The recording was ended. The cameras keep what they have; memory mode shows it."));
     }
     return true;
 }

@@ -1,5 +1,6 @@
 #include "host/UnsavedGuard.h"
 
+#include "TextKey.h"
 #include "host/Preferences.h"
 #include "host/Translator.h"
 
@@ -16,16 +17,16 @@ bool UnsavedGuard::isOn() const {
 }
 
 bool UnsavedGuard::mayRecordOver(const std::function<DocKeyList()>& toArm) const {
-    const QString question = m_translator.translate(
-        QStringLiteral("Cameras hold images that nobody has saved. Record over them all the same?"));
+    const QString question =
+        m_translator.translate(TextKey("Cameras hold images that nobody has saved. Record over them all the same?"));
     return mayLose(question, "Unsaved images may be recorded over:", [&] {
         return lostByRecording(heldRecordings(m_cameras, toArm()));
     });
 }
 
 bool UnsavedGuard::mayClose() const {
-    const QString question = m_translator.translate(
-        QStringLiteral("Cameras hold images that nobody has saved. Close the viewer all the same?"));
+    const QString question =
+        m_translator.translate(TextKey("Cameras hold images that nobody has saved. Close the viewer all the same?"));
     return mayLose(
         question, "Unsaved images are lost with the viewer:", [&] { return lostByClosing(heldRecordings(m_cameras)); });
 }
@@ -54,8 +55,8 @@ bool UnsavedGuard::mayLose(const QString& question, const char* log,
 }
 
 QStringList UnsavedGuard::lines(const HeldRecordings& recordings) const {
-    const QString whole = m_translator.translate(QStringLiteral("%1: %2 frames"));
-    const QString part = m_translator.translate(QStringLiteral("%1: %2 frames in partition %3"));
+    const QString whole = m_translator.translate(TextKey("%1: %2 frames"));
+    const QString part = m_translator.translate(TextKey("%1: %2 frames in partition %3"));
     QStringList lines;
     for (const HeldRecording& held : recordings) {
         const QString frames = QString::number(held.recording.frameCount());

@@ -1,5 +1,6 @@
 #include "recording/RecordRun.h"
 
+#include "TextKey.h"
 #include "camera/Camera.h"
 #include "host/CameraBank.h"
 #include "recording/Clock.h"
@@ -14,8 +15,8 @@
 
 namespace {
 
-const QString TakesNoPart = QStringLiteral("It does not take part in the recording.");
-const QString HasDisappeared = QStringLiteral("%1: the camera has disappeared.");
+const QString TakesNoPart = TextKey("It does not take part in the recording.");
+const QString HasDisappeared = TextKey("%1: the camera has disappeared.");
 
 bool isArmed(int state) {
     return state == zeb::RecordCtsReady || state == zeb::RecordReady;
@@ -25,13 +26,12 @@ bool isArmed(int state) {
 QString whyLeftBehind(int state, bool waits) {
     switch (state) {
         case zeb::RecordReady:
-            return waits
-                       ? QStringLiteral("%1: the camera has changed to a partition with images that nobody has saved.")
-                       : QStringLiteral("%1: the camera holds images that nobody has saved.");
+            return waits ? TextKey("%1: the camera has changed to a partition with images that nobody has saved.")
+                         : TextKey("%1: the camera holds images that nobody has saved.");
         case zeb::RecordRecording:
-            return QStringLiteral("%1: the camera records by itself.");
+            return TextKey("%1: the camera records by itself.");
         default:
-            return QStringLiteral("%1: the camera is not ready.");
+            return TextKey("%1: the camera is not ready.");
     }
 }
 
@@ -329,7 +329,7 @@ void RecordRun::proceed(Part& part, qint64 now) {
         miss(part, HasDisappeared);
         enter(part, zeb::RecordLive);
     } else if (!camera.get(&CameraState::connected)) {
-        miss(part, QStringLiteral("%1: the camera was disconnected."));
+        miss(part, TextKey("%1: the camera was disconnected."));
         enter(part, zeb::RecordLive);
     } else if (state == zeb::RecordRecording) {
         if (!part.triggered) {
@@ -338,7 +338,7 @@ void RecordRun::proceed(Part& part, qint64 now) {
         record(part, now);
     } else if (part.triggered || !isArmed(state)) {
         // Somebody else has put it back, or it was disconnected for a while.
-        miss(part, QStringLiteral("%1: the camera has left the recording."));
+        miss(part, TextKey("%1: the camera has left the recording."));
     } else if (state == zeb::RecordCtsReady && now >= part.readyAt) {
         enter(part, zeb::RecordReady);
     }
@@ -355,7 +355,7 @@ void RecordRun::followItsTrigger(Part& part) {
     part.camera->keep(part.partition, std::nullopt);
     m_triggered = true;
     m_changed = true;
-    m_failures.append(m_listener.translate(QStringLiteral("%1: the camera has triggered itself. It records on."))
+    m_failures.append(m_listener.translate(TextKey("%1: the camera has triggered itself. It records on."))
                           .arg(m_cameras.labelOf(*part.camera)));
 }
 
@@ -367,7 +367,7 @@ void RecordRun::record(Part& part, qint64 now) {
     } catch (const std::exception& failure) {
         end(part, std::min(now, full), zeb::RecordError);
         const auto kept = camera.recordingOf(part.partition);
-        m_failures.append(m_listener.translate(QStringLiteral("%1. The recording ended early with %2 frames."))
+        m_failures.append(m_listener.translate(TextKey("%1. The recording ended early with %2 frames."))
                               .arg(QString::fromUtf8(failure.what()), QString::number(kept ? kept->frameCount() : 0)));
         return;
     }
@@ -397,7 +397,7 @@ void RecordRun::tellGone(const Camera& camera) {
         unsaved += recording.saved ? 0 : recording.frameCount();
     }
     if (unsaved > 0) {
-        const QString text = QStringLiteral("%1: the camera has disappeared. %2 frames of it are not saved.");
+        const QString text = TextKey("%1: the camera has disappeared. %2 frames of it are not saved.");
         m_failures.append(m_listener.translate(text).arg(m_cameras.labelOf(camera), QString::number(unsaved)));
     } else if (camera.get(&CameraState::connected)) {
         m_failures.append(m_listener.translate(HasDisappeared).arg(m_cameras.labelOf(camera)));
@@ -405,7 +405,7 @@ void RecordRun::tellGone(const Camera& camera) {
 }
 
 void RecordRun::miss(Part& part, const QString& why) {
-    const QString loss = part.triggered ? QStringLiteral("Its recording is lost.") : TakesNoPart;
+    const QString loss = part.triggered ? TextKey("Its recording is lost.") : TakesNoPart;
     lose(*part.camera, m_listener.translate(why).arg(m_cameras.labelOf(*part.camera)) % QLatin1Char(' ') %
                            m_listener.translate(loss));
     part.over = true;
@@ -431,10 +431,10 @@ void RecordRun::end(Part& part, qint64 now, int recordState) {
         const auto recording = part.settings.recording(part.triggeredAt - part.readyAt, now - part.triggeredAt);
         part.camera->keep(part.partition, recording);
         if (!recording) {
-            const QString text = QStringLiteral("%1: no frame of its record area was recorded.");
+            const QString text = TextKey("%1: no frame of its record area was recorded.");
             lose(*part.camera, m_listener.translate(text).arg(m_cameras.labelOf(*part.camera)));
         } else if (part.camera->get(&CameraState::partition) != part.partition) {
-            const QString text = QStringLiteral("%1: its recording lies in partition %2, and another one is in use.");
+            const QString text = TextKey("%1: its recording lies in partition %2, and another one is in use.");
             m_failures.append(
                 m_listener.translate(text).arg(m_cameras.labelOf(*part.camera), QString::number(part.partition)));
         }

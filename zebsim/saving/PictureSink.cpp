@@ -1,5 +1,6 @@
 #include "saving/PictureSink.h"
 
+#include "TextKey.h"
 #include "WholeFile.h"
 #include "saving/FileClaims.h"
 #include "saving/FileError.h"
@@ -8,7 +9,7 @@ namespace {
 
 void writeWhole(const QString& file, const QByteArray& bytes) {
     if (bytes.isEmpty()) {
-        throw FileError(file, QStringLiteral("the picture has no such form"));
+        throw FileError(file, TextKey("the picture has no such form"));
     }
     const QString reason = writeWholeFile(file, bytes);
     if (!reason.isEmpty()) {

@@ -1,5 +1,6 @@
 #include "saving/SaveSource.h"
 
+#include "TextKey.h"
 #include "camera/Camera.h"
 #include "camera/CameraError.h"
 #include "host/CameraBank.h"
@@ -24,12 +25,12 @@ void SaveSource::read(const CameraBank& cameras, int index) const {
     m_camera->askConnected("readFrame");
     // Another rig may have a camera of the same key.
     if (cameras.hold(m_key) != m_camera) {
-        throw CameraError(name(), QStringLiteral("the camera is gone"));
+        throw CameraError(name(), TextKey("the camera is gone"));
     }
     const int frame = m_recording.selectedFirst + index;
     const auto recording = m_camera->recording();
     if (!recording || recording->serial != m_recording.serial || frame < recording->first || frame > recording->last) {
-        throw CameraError(name(), QStringLiteral("the recording is gone"));
+        throw CameraError(name(), TextKey("the recording is gone"));
     }
 }
 

@@ -1,5 +1,6 @@
 #include "saving/SnapShotFile.h"
 
+#include "TextKey.h"
 #include "saving/FileClaims.h"
 #include "saving/FileError.h"
 #include "saving/PictureSink.h"
@@ -11,7 +12,7 @@ void writeSnapShot(const QString& folder, const QString& camera, const QDateTime
                    const QImage& image) {
     const QDir target(folder);
     if (!target.mkpath(QStringLiteral("."))) {
-        throw FileError(folder, QStringLiteral("there can't be such a folder"));
+        throw FileError(folder, TextKey("there can't be such a folder"));
     }
     FileClaims claims([](const QString& /*file*/) { return Overwrite::SkipCamera; });
     const QString name = fileNameOf(camera) % time.toString(QStringLiteral("'_'yyyyMMdd-HHmmss"));
