@@ -122,7 +122,7 @@ TEST(Texts, StandInEveryLanguageForEveryKeyOfTheSources) {
 }
 
 TEST(Texts, AreMarkedWhereTheyReachTheUser) {
-    // A literal among the first argument, or one that says why a file could not be written.
+    // A literal in the first argument, or what a notice or a failed file tells.
     const QRegularExpression bareInCpp(
         R"re(\b(?:(?:translated?|confirm\w*|warn\w*|alert|info|execProgress|\w+Exception(?: \w+)?)\((?!"zeb4"))re"
         R"re(|uiText\((?!\s*")|tell\(Message|add\(Message|FileError\()[^()";]*(?:Q\w+\()?")re");

@@ -1,5 +1,7 @@
 #include "CommandLine.h"
 
+#include "host/Translator.h"
+
 #include <QCommandLineParser>
 
 namespace {
@@ -28,7 +30,7 @@ struct Options {
     QCommandLineOption style{QStringLiteral("style"), QStringLiteral("Start in this style."),
                              QStringLiteral("light|dark")};
     QCommandLineOption language{QStringLiteral("lang"), QStringLiteral("Speak this language."),
-                                QStringLiteral("en|ja")};
+                                Translator::languages().join(QLatin1Char('|'))};
     QCommandLineOption scriptedVisa{
         QStringLiteral("scripted-visa"),
         QStringLiteral("Bring a simulated signal generator, by a VISA library of the program's own.")};
@@ -51,8 +53,9 @@ QString wrongValue(const QCommandLineParser& parser, const Options& options, Com
         return QStringLiteral("Unexpected argument '%1'.").arg(parser.positionalArguments().constFirst());
     if (!isOneOf(line.style, {QStringLiteral("light"), QStringLiteral("dark")}))
         return QStringLiteral("--style takes light or dark, not '%1'.").arg(line.style);
-    if (!isOneOf(line.language, {QStringLiteral("en"), QStringLiteral("ja")}))
-        return QStringLiteral("--lang takes en or ja, not '%1'.").arg(line.language);
+    if (!isOneOf(line.language, Translator::languages()))
+        return QStringLiteral("--lang takes %1, not '%2'.")
+            .arg(Translator::languages().join(QStringLiteral(" or ")), line.language);
     line.scenarioTimeout = parser.value(options.timeout).toInt();
     if (line.scenarioTimeout < 1)
         return QStringLiteral("--timeout takes a number of seconds, not '%1'.").arg(parser.value(options.timeout));

@@ -21,7 +21,7 @@ struct CommandLine {
     QString plugin;
     /// "light", "dark", or empty for what the preferences say.
     QString style;
-    /// "en", "ja", or empty for what the preferences say.
+    /// One of `Translator::languages`, or empty for what the preferences say.
     QString language;
     bool openTable = true;
     /// Load the scripted VISA library, behind which a generator answers.

@@ -1,6 +1,9 @@
 #include "PreferencePages.h"
 
 #include "TextKey.h"
+#include "host/Translator.h"
+
+#include <QLocale>
 
 namespace {
 
@@ -26,12 +29,19 @@ QList<PreferenceChoice> tableColours() {
             {QStringLiteral("blue"), TextKey("Blue")},     {QStringLiteral("skyblue"), TextKey("Sky blue")}};
 }
 
+/// By their English names, which are keys too.
+QList<PreferenceChoice> languages() {
+    QList<PreferenceChoice> choices;
+    for (const QString& code : Translator::languages())
+        choices.append({code, QLocale::languageToString(QLocale(code).language())});
+    return choices;
+}
+
 QList<PreferenceField> generalFields() {
     return {
         choice("env/style", TextKey("Style"),
                {{QStringLiteral("light"), TextKey("Light")}, {QStringLiteral("dark"), TextKey("Dark")}}),
-        choice("env/language", TextKey("Language (from the next start on)"),
-               {{QStringLiteral("en"), TextKey("English")}, {QStringLiteral("ja"), TextKey("Japanese")}}),
+        choice("env/language", TextKey("Language (from the next start on)"), languages()),
         choice("customize/unitSystem", TextKey("Units of length"), {{1, TextKey("Metric")}, {0, TextKey("Imperial")}}),
         box("devicemanager/connectedCameraOnlyShowing", TextKey("List connected cameras only")),
     };

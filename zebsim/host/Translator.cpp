@@ -2,6 +2,10 @@
 
 #include <QCoreApplication>
 
+QStringList Translator::languages() {
+    return QStringLiteral(LANGUAGES).split(QLatin1Char(','));
+}
+
 bool Translator::load(const QString& language) {
     auto catalogue = std::make_unique<QTranslator>();
     if (!catalogue->load(QStringLiteral(":/i18n/zeb4_%1.qm").arg(language))) {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QString>
+#include <QStringList>
 #include <QTranslator>
 
 #include <memory>
@@ -9,6 +9,9 @@
 /// thread.
 class Translator {
 public:
+    /// Those that there is a catalogue for, as "en". Any thread.
+    static QStringList languages();
+
     /// Takes the catalogue of a language, as "en"; false when there is none, and nothing has changed then.
     bool load(const QString& language);
     /// A text without a translation comes back as it is.
