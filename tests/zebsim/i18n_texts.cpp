@@ -11,6 +11,10 @@
 
 namespace {
 
+/// To `lupdate` the keys are ids: a `tr` needs a class around it, and many marks have none.
+constexpr auto Marks =
+    "QT_TRID_NOOP=TextKey,QT_TRID_NOOP+=QT_TR_NOOP,QT_TRID_NOOP+=uiText,qsTrId=textKey,qsTrId+=translate";
+
 /// Where each key was found first.
 using Keys = QMap<QString, QString>;
 /// The texts of a catalogue by key.
@@ -33,8 +37,7 @@ QStringList filesLike(const QStringList& names) {
     return files;
 }
 
-/// What `lupdate` finds. To it the keys are ids: a `tr` needs a class around it, and many marks have none. It writes
-/// them to a .po file, since its .ts does not quote an id.
+/// What `lupdate` finds, by way of a .po file: its .ts does not quote an id.
 Keys markedKeys() {
     const QTemporaryDir folder;
     QFile list(folder.filePath("sources"));
@@ -42,10 +45,8 @@ Keys markedKeys() {
     list.write(filesLike({"*.cpp", "*.h", "*.js"}).join('\n').toUtf8());
     list.close();
     QProcess lupdate;
-    lupdate.start(LUPDATE, {"-silent", "-tr-function-alias",
-                            "QT_TRID_NOOP=TextKey,QT_TRID_NOOP+=QT_TR_NOOP,QT_TRID_NOOP+=uiText,"
-                            "qsTrId=textKey,qsTrId+=translate",
-                            "@" + list.fileName(), "-ts", folder.filePath("keys.po")});
+    lupdate.start(LUPDATE,
+                  {"-silent", "-tr-function-alias", Marks, "@" + list.fileName(), "-ts", folder.filePath("keys.po")});
     EXPECT_TRUE(lupdate.waitForFinished()) << lupdate.errorString().toStdString();
     for (const QByteArray& line : lupdate.readAllStandardError().split('\n'))
         EXPECT_TRUE(line.isEmpty() || line.contains("has no source")) << line.toStdString();
