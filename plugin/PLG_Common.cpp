@@ -40,19 +40,27 @@ PLG_Common::~PLG_Common() {
     PLG_Common::resetCursor();
     m_panelBridge.reset();
     // What the host asks while the dialog goes finds no dialog any more.
-    if (auto* dialog = std::exchange(m_dialog, nullptr)) dialog->discard();
+    if (auto* dialog = std::exchange(m_dialog, nullptr)) {
+        dialog->discard();
+    }
 }
 
 QString PLG_Common::getPageHtml() {
     const QString path = QStringLiteral(":/") % m_name % QStringLiteral(".html");
     const std::optional<QString> text = readTextResource(path);
-    if (!text) qWarning() << "Not Found" << path;
+    if (!text) {
+        qWarning() << "Not Found" << path;
+    }
     return text.value_or(QString());
 }
 
 void PLG_Common::updatePanel() {
-    if (m_panelWidget && m_panelWidget->isActiveWindow()) m_panelWidget->update();
-    if (m_panelBridge) m_panelBridge->raiseUpdate();
+    if (m_panelWidget && m_panelWidget->isActiveWindow()) {
+        m_panelWidget->update();
+    }
+    if (m_panelBridge) {
+        m_panelBridge->raiseUpdate();
+    }
 }
 
 // Availability and the button
@@ -78,7 +86,9 @@ bool PLG_Common::isAvailable() const {
 }
 
 bool PLG_Common::isChecked(DOC_Interface* doc, int) {
-    if (!doc || !isAvailable()) return false;
+    if (!doc || !isAvailable()) {
+        return false;
+    }
     switch (m_buttonType) {
         case 1:
         case 5:
@@ -101,11 +111,15 @@ bool PLG_Common::isChecked(DOC_Interface* doc, int) {
 
 QDialog* PLG_Common::getDialog(bool create) {
     // Making a dialog may ask its user something; what is clicked meanwhile must not make a second one.
-    if (m_dialog || !create || m_creatingDialog) return m_dialog;
+    if (m_dialog || !create || m_creatingDialog) {
+        return m_dialog;
+    }
     const QPointer<PLG_Common> alive(this);
     m_creatingDialog = true;
     const auto done = qScopeGuard([this, &alive] {
-        if (alive) m_creatingDialog = false;
+        if (alive) {
+            m_creatingDialog = false;
+        }
     });
     QDialog* made = createDialog(create);
     if (!alive) {
@@ -121,13 +135,21 @@ QDialog* PLG_Common::getDialog(bool create) {
 }
 
 void PLG_Common::showDialog() {
-    if (!m_dialog || !(m_dialog->isHidden() || m_dialog->isMinimized())) return;
+    if (!m_dialog || !(m_dialog->isHidden() || m_dialog->isMinimized())) {
+        return;
+    }
     const QPointer<PLG_Common> alive(this);
-    if (m_dialog->isMinimized()) m_dialog->setWindowState(Qt::WindowNoState);
+    if (m_dialog->isMinimized()) {
+        m_dialog->setWindowState(Qt::WindowNoState);
+    }
     m_dialog->openPage();
     // The page may have waited for its user, and the plug-in be gone by now.
-    if (alive) m_dialog->show();
-    if (alive && needsLivePause()) restartLiveAfterTool();
+    if (alive) {
+        m_dialog->show();
+    }
+    if (alive && needsLivePause()) {
+        restartLiveAfterTool();
+    }
     if (alive && getQuickKind() == 1) {
         m_host->docManager().setActiveQuickTool(QString());
         m_host->docManager().setQuickTool(m_name, true);
@@ -135,22 +157,32 @@ void PLG_Common::showDialog() {
 }
 
 void PLG_Common::hideDialog() {
-    if (isDialogVisible()) m_dialog->hide();
+    if (isDialogVisible()) {
+        m_dialog->hide();
+    }
 }
 
 void PLG_Common::closeDialog() {
-    if (m_dialog && !m_dialog->isHidden()) m_dialog->close();
+    if (m_dialog && !m_dialog->isHidden()) {
+        m_dialog->close();
+    }
 }
 
 void PLG_Common::closeByType() {
-    if (m_buttonType == DialogButton) closeDialog();
+    if (m_buttonType == DialogButton) {
+        closeDialog();
+    }
 }
 
 void PLG_Common::updateDialog(int mode) {
-    if (!isDialogVisible()) return;
+    if (!isDialogVisible()) {
+        return;
+    }
     const QPointer<PLG_Common> alive(this);
     m_dialog->updatePage();
-    if (alive && !isAvailableInMode(mode) && m_closeOnModeChange) closeDialog();
+    if (alive && !isAvailableInMode(mode) && m_closeOnModeChange) {
+        closeDialog();
+    }
 }
 
 bool PLG_Common::isDialogVisible() const {
@@ -158,17 +190,23 @@ bool PLG_Common::isDialogVisible() const {
 }
 
 void PLG_Common::slotModelessPatternDialogClosed() {
-    if (m_dialog && !m_dialog->isPluginCloseEnabled()) return;
+    if (m_dialog && !m_dialog->isPluginCloseEnabled()) {
+        return;
+    }
     // Held here, since a host may destroy the plug-in that it closes.
     ZebHost& host = *m_host;
     const QPointer<PLG_Common> alive(this);
     const QString name = m_name;
     // This runs inside the window's close event, and Qt does not bear an exception there.
     try {
-        if (needsLivePause()) restartLiveAfterEnd();
+        if (needsLivePause()) {
+            restartLiveAfterEnd();
+        }
         const auto update = qScopeGuard([&host] { host.updateUI(zeb::UpdateAll, true); });
         const DeterScope deter(host);
-        if (alive) hideDialog();
+        if (alive) {
+            hideDialog();
+        }
         host.appStatus().closePlugin(name);
     } catch (const std::exception& e) {
         logFailure([&host, &e] { host.errorHandler(e); });
@@ -179,7 +217,9 @@ void PLG_Common::slotModelessPatternDialogClosed() {
 
 void PLG_Common::activate() {
     selectToolOnActivate();
-    if (m_buttonType != DialogButton && needsLivePause()) restartLiveAfterTool();
+    if (m_buttonType != DialogButton && needsLivePause()) {
+        restartLiveAfterTool();
+    }
 }
 
 void PLG_Common::selectToolOnActivate() {
@@ -189,13 +229,19 @@ void PLG_Common::selectToolOnActivate() {
     if (!multilock && m_toolKind != 0) {
         docs.setQuickTool(m_name, true);
     } else if (!multilock && isToolActive()) {
-        if (quick) docs.setActiveQuickTool(QString());
+        if (quick) {
+            docs.setActiveQuickTool(QString());
+        }
         docs.setQuickTool(m_name, quick);
     }
 
     if (isToolActive()) {
-        if (!selectsDocuments()) return;
-        if (m_selectKind == 0 || m_selectKind == 1) docs.toolSelectAll(m_name, m_selectKind == 0, true);
+        if (!selectsDocuments()) {
+            return;
+        }
+        if (m_selectKind == 0 || m_selectKind == 1) {
+            docs.toolSelectAll(m_name, m_selectKind == 0, true);
+        }
         m_toolPending = true;
     } else if (!multilock && (m_toolKind == 1 || m_toolKind == 4)) {
         docs.toolSelect(m_name, true);
@@ -213,19 +259,24 @@ void PLG_Common::deactivate() {
 
 void PLG_Common::closeToolPanel() {
     setRunning(false);
-    if (getAttributeL())
+    if (getAttributeL()) {
         m_host->appStatus().closePanel();
-    else
+    } else {
         m_host->appStatus().closeAuxiliaryPanel();
+    }
 }
 
 void PLG_Common::endTool() {
     if (isToolActive()) {
         clearPanelWidget();
         m_host->undo().clear();
-        if (selectsDocuments() && std::exchange(m_toolPending, false)) m_host->docManager().toolEnd(m_name);
+        if (selectsDocuments() && std::exchange(m_toolPending, false)) {
+            m_host->docManager().toolEnd(m_name);
+        }
     }
-    if (needsLivePause()) restartLiveAfterEnd();
+    if (needsLivePause()) {
+        restartLiveAfterEnd();
+    }
 }
 
 void PLG_Common::confirmTool() {
@@ -237,7 +288,9 @@ void PLG_Common::applyTool() {
 }
 
 void PLG_Common::acceptTool() {
-    if (!isToolActive()) return;
+    if (!isToolActive()) {
+        return;
+    }
     if (selectsDocuments()) {
         m_host->docManager().toolBegin(1, m_name);
         m_toolPending = false;
@@ -246,7 +299,9 @@ void PLG_Common::acceptTool() {
 }
 
 void PLG_Common::cancelTool() {
-    if (!isToolActive()) return;
+    if (!isToolActive()) {
+        return;
+    }
     if (selectsDocuments()) {
         m_host->docManager().toolEnd(m_name);
         m_toolPending = false;
@@ -255,33 +310,51 @@ void PLG_Common::cancelTool() {
 }
 
 void PLG_Common::resetTool() {
-    if (!isToolActive()) return;
+    if (!isToolActive()) {
+        return;
+    }
     setRunning(false);
     m_host->undo().clear();
 }
 
 void PLG_Common::resetToolGuarded(bool guarded) {
-    if (!isToolActive()) return;
+    if (!isToolActive()) {
+        return;
+    }
     std::optional<DocumentGuard> guard;
-    if (guarded) guard.emplace(*m_host);
+    if (guarded) {
+        guard.emplace(*m_host);
+    }
     resetTool();
-    if (guard) guard->release();
+    if (guard) {
+        guard->release();
+    }
 }
 
 void PLG_Common::previewTool() {
-    if (isToolActive()) m_host->docManager().toolApply(m_name);
+    if (isToolActive()) {
+        m_host->docManager().toolApply(m_name);
+    }
 }
 
 void PLG_Common::previewToolGuarded(bool guarded) {
-    if (!isToolActive()) return;
+    if (!isToolActive()) {
+        return;
+    }
     std::optional<DocumentGuard> guard;
-    if (guarded) guard.emplace(*m_host);
+    if (guarded) {
+        guard.emplace(*m_host);
+    }
     previewTool();
-    if (guard) guard->release();
+    if (guard) {
+        guard->release();
+    }
 }
 
 void PLG_Common::repeatTool() {
-    if (isToolActive() && getQuickKind() == 1) m_host->docManager().setActiveQuickTool(m_name);
+    if (isToolActive() && getQuickKind() == 1) {
+        m_host->docManager().setActiveQuickTool(m_name);
+    }
 }
 
 void PLG_Common::restartLiveAfterTool() {
@@ -320,17 +393,23 @@ ToolRectangle PLG_Common::toolRectangleOn(DOC_Interface& doc) const {
 }
 
 void PLG_Common::setToolRectOn(DOC_Interface& doc, const QRect& rect) {
-    if (!rect.isEmpty()) doc.image().setToolRect(m_name, rect);
+    if (!rect.isEmpty()) {
+        doc.image().setToolRect(m_name, rect);
+    }
 }
 
 void PLG_Common::mousePress(const QPoint& point, DOCKEY key) {
-    if (std::exchange(m_dragging, true)) return;
+    if (std::exchange(m_dragging, true)) {
+        return;
+    }
     m_host->undo().beginMacro(QString());
     m_dragStart = point;
     m_lastPoint = point;
     DOC_Interface* doc = m_host->docManager().getDoc(key, 1);
     const QRect rect = doc ? doc->image().getToolRect(m_name) : QRect();
-    if (rect.isNull() || m_host->isToolActive(QStringLiteral("t_crosscursor"))) return;
+    if (rect.isNull() || m_host->isToolActive(QStringLiteral("t_crosscursor"))) {
+        return;
+    }
     m_dragRect = rect;
     m_dragHandle = toolRectangleOn(*doc).handleAt(rect, point);
 }
@@ -338,16 +417,24 @@ void PLG_Common::mousePress(const QPoint& point, DOCKEY key) {
 void PLG_Common::mouseMove(const QPoint& point, DOCKEY key) {
     m_lastPoint = point;
     DOC_Interface* doc = m_host->docManager().getDoc(key, 1);
-    if (!doc) return;
-    if (!m_dragging) {
-        const QRect rect = doc->image().getToolRect(m_name);
-        if (!rect.isNull()) setCursorForHandle(doc, toolRectangleOn(*doc).handleAt(rect, point));
+    if (!doc) {
         return;
     }
-    if (m_dragHandle == ToolRectangle::Outside) return;
+    if (!m_dragging) {
+        const QRect rect = doc->image().getToolRect(m_name);
+        if (!rect.isNull()) {
+            setCursorForHandle(doc, toolRectangleOn(*doc).handleAt(rect, point));
+        }
+        return;
+    }
+    if (m_dragHandle == ToolRectangle::Outside) {
+        return;
+    }
     const QRect rect = toolRectangleOn(*doc).dragged(m_dragRect, m_dragHandle, m_dragStart, point);
     // An edge that stops follows from where it is; a move is measured from its start.
-    if (m_dragHandle != ToolRectangle::Inside && !rect.isEmpty()) m_dragRect = rect;
+    if (m_dragHandle != ToolRectangle::Inside && !rect.isEmpty()) {
+        m_dragRect = rect;
+    }
     setToolRectOn(*doc, rect);
 }
 
@@ -357,7 +444,9 @@ void PLG_Common::mouseRelease(DOCKEY key) {
 
 void PLG_Common::mouseReleaseAt(const QPoint& point, DOCKEY) {
     m_lastPoint = point;
-    if (!std::exchange(m_dragging, false)) return;
+    if (!std::exchange(m_dragging, false)) {
+        return;
+    }
     m_dragHandle = ToolRectangle::Outside;
     resetCursor();
     m_host->undo().endMacro();
@@ -366,9 +455,13 @@ void PLG_Common::mouseReleaseAt(const QPoint& point, DOCKEY) {
 void PLG_Common::keyPress(QKeyEvent* event) {
     DOC_Interface* doc = m_host->docManager().getCurrentDoc();
     const QRect rect = doc ? doc->image().getToolRect(m_name) : QRect();
-    if (rect.isNull()) return;
+    if (rect.isNull()) {
+        return;
+    }
     const auto stepped = toolRectangleOn(*doc).stepped(rect, event->key(), event->modifiers());
-    if (!stepped) return;
+    if (!stepped) {
+        return;
+    }
     setToolRectOn(*doc, *stepped);
     m_keyStepped = true;
 }
@@ -379,27 +472,36 @@ void PLG_Common::setCursorForHandle(DOC_Interface* doc, int handle) {
         resetCursor();
         return;
     }
-    if (m_cursorHandle < 0)
+    if (m_cursorHandle < 0) {
         QApplication::setOverrideCursor(*shape);
-    else
+    } else {
         QApplication::changeOverrideCursor(*shape);
+    }
     m_cursorHandle = handle;
 }
 
 void PLG_Common::resetCursor() {
     // Only our own: below it may lie a cursor of the host's.
-    if (std::exchange(m_cursorHandle, -1) >= 0) QApplication::restoreOverrideCursor();
+    if (std::exchange(m_cursorHandle, -1) >= 0) {
+        QApplication::restoreOverrideCursor();
+    }
 }
 
 QRect PLG_Common::toSensorRect(DOC_Interface* doc, const QRect& rect) {
     double factor = 1.0;
-    if (doc && m_host->isCapable(QStringLiteral("binning"), doc, 0)) factor = 1 << doc->image().getBinningPower();
-    if (doc && doc->image().getScale() > 0.0) factor *= doc->image().getScale();
+    if (doc && m_host->isCapable(QStringLiteral("binning"), doc, 0)) {
+        factor = 1 << doc->image().getBinningPower();
+    }
+    if (doc && doc->image().getScale() > 0.0) {
+        factor *= doc->image().getScale();
+    }
     return ToolRectangle::toSensor(rect, factor);
 }
 
 QVariantMap PLG_Common::getRectParameters(DOC_Interface* doc, bool shown) {
-    if (!doc) return ToolRectangle(QSize(0, 0), {}, m_rules).parameters(m_rect, false);
+    if (!doc) {
+        return ToolRectangle(QSize(0, 0), {}, m_rules).parameters(m_rect, false);
+    }
     const QRect rect = doc->image().getToolRect(m_name);
     return toolRectangleOn(*doc).parameters(rect.isNull() ? m_rect : rect, shown);
 }

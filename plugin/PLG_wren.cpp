@@ -50,7 +50,9 @@ void PLG_wren::setRunningInHost(bool running) {
     ZebHost& host = *m_host;
     const QPointer<PLG_wren> alive(this);
     host.appStatus().setWrenRunning(running);
-    if (alive) running ? PLG_Button::activate() : PLG_Button::deactivate();
+    if (alive) {
+        running ? PLG_Button::activate() : PLG_Button::deactivate();
+    }
     host.updateUI(zeb::UpdateAll, true);
 }
 
@@ -60,28 +62,39 @@ bool PLG_wren::isButtonEnabled() const {
 
 void PLG_wren::prepareOpen() {
     ZebHost& host = *m_host;
-    if (!host.isLiveMode() || host.appStatus().isWrenRunning()) return;
+    if (!host.isLiveMode() || host.appStatus().isWrenRunning()) {
+        return;
+    }
 
     ZebDocManager& docs = host.docManager();
     // One that does not tell whether it holds images keeps them, and the others are opened all the same.
     GatheredFailures unread;
     DocKeyList recorded;
-    for (DOC_Interface* doc : connectedDocs(docs, docs.getConnectedDocKeys(), unread))
+    for (DOC_Interface* doc : connectedDocs(docs, docs.getConnectedDocKeys(), unread)) {
         attemptOn(*doc, unread, [&] {
-            if (doc->control().hasRecordedData()) recorded.append(doc->getKey());
+            if (doc->control().hasRecordedData()) {
+                recorded.append(doc->getKey());
+            }
         });
+    }
     unread.log();
-    if (recorded.isEmpty()) return;
+    if (recorded.isEmpty()) {
+        return;
+    }
 
     if (!host.confirm(TextKey("There are cameras that need to erase the image data recorded to continue the "
-                              "operation. Would you like to erase the data and continue the operation?")))
+                              "operation. Would you like to erase the data and continue the operation?"))) {
         throw APP_Exception(QString());
+    }
     // A camera may have gone while the question stood.
     GatheredFailures failures;
-    for (DOC_Interface* doc : connectedDocs(docs, recorded, failures))
+    for (DOC_Interface* doc : connectedDocs(docs, recorded, failures)) {
         attemptOn(*doc, failures, [&] { doc->control().eraseRecordedData(0); });
+    }
     failures.log();
-    if (!failures.isEmpty()) host.alert(failures.text(), host.getMainWindow());
+    if (!failures.isEmpty()) {
+        host.alert(failures.text(), host.getMainWindow());
+    }
 }
 
 QDialog* PLG_wren::createDialog(bool) {
@@ -89,7 +102,9 @@ QDialog* PLG_wren::createDialog(bool) {
     const QPointer<PLG_wren> alive(this);
     auto bridge = std::make_unique<JS_Mediator_WrenTableDialog>(host, QStringLiteral("wrentabledialog"), this);
     // The bridge may have asked its user something, and the plug-in be gone by now.
-    if (!alive) return nullptr;
+    if (!alive) {
+        return nullptr;
+    }
     return new GUI_WrenTableDialog(host, TextKey("WREN"), QStringLiteral("qrc:/wrentabledialog.html"), bridge.release(),
                                    this);
 }
@@ -101,7 +116,9 @@ JS_Mediator_WrenTableDialog* PLG_wren::table() {
 
 JS_Mediator_WrenTableDialog* PLG_wren::tableForKey() {
     auto* dialog = static_cast<GUI_WrenTableDialog*>(getDialog(false));
-    if (!dialog || !dialog->isActiveWindow()) return nullptr;
+    if (!dialog || !dialog->isActiveWindow()) {
+        return nullptr;
+    }
     // What is sent may end in a question, and the plug-in be gone by the answer.
     const QPointer<PLG_wren> alive(this);
     dialog->finishTyping();
@@ -109,40 +126,57 @@ JS_Mediator_WrenTableDialog* PLG_wren::tableForKey() {
 }
 
 void PLG_wren::slotRecord() {
-    if (auto* bridge = tableForKey()) bridge->record();
+    if (auto* bridge = tableForKey()) {
+        bridge->record();
+    }
 }
 
 void PLG_wren::slotSaveFile() {
-    if (auto* bridge = tableForKey()) bridge->save();
+    if (auto* bridge = tableForKey()) {
+        bridge->save();
+    }
 }
 
 void PLG_wren::slotSaveLayout() {
-    if (auto* bridge = tableForKey()) bridge->saveLayout();
+    if (auto* bridge = tableForKey()) {
+        bridge->saveLayout();
+    }
 }
 
 void PLG_wren::slotEndRecording() {
-    if (auto* bridge = table()) bridge->clearRecordRunning();
+    if (auto* bridge = table()) {
+        bridge->clearRecordRunning();
+    }
 }
 
 void PLG_wren::slotDisconnect() {
     auto* bridge = table();
-    if (!bridge) return;
+    if (!bridge) {
+        return;
+    }
     const DocKeyList connected = m_host->docManager().getConnectedDocKeys();
     QVariantList keys;
-    for (const DOCKEY key : connected) keys.append(key);
+    for (const DOCKEY key : connected) {
+        keys.append(key);
+    }
     bridge->connect(keys, false, true);
 }
 
 void PLG_wren::slotStartAutoUpdate() {
-    if (auto* bridge = table()) bridge->startAutoUpdate();
+    if (auto* bridge = table()) {
+        bridge->startAutoUpdate();
+    }
 }
 
 void PLG_wren::slotStopAutoUpdate() {
-    if (auto* bridge = table()) bridge->stopAutoUpdate();
+    if (auto* bridge = table()) {
+        bridge->stopAutoUpdate();
+    }
 }
 
 void PLG_wren::slotScreenShot(const QString& path) {
     QDialog* dialog = getDialog(false);
-    if (dialog && !GUI_Dialog::saveGrab(dialog, path))
+    if (dialog && !GUI_Dialog::saveGrab(dialog, path)) {
         qWarning() << "The picture of the table could not be saved:" << path;
+    }
 }

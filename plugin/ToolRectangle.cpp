@@ -30,7 +30,9 @@ QRect rectOf(const Span& x, const Span& y) {
 int endAt(const Span& span, int at, int tolerance) {
     const int toFirst = std::abs(at - span.first);
     const int toLast = std::abs(at - span.last);
-    if (std::min(toFirst, toLast) > tolerance) return 0;
+    if (std::min(toFirst, toLast) > tolerance) {
+        return 0;
+    }
     return toFirst < toLast ? -1 : 1;
 }
 
@@ -38,7 +40,9 @@ int endAt(const Span& span, int at, int tolerance) {
 Span withEnd(const Span& span, int side, int to, int mirrorLength) {
     Span result = span;
     (side < 0 ? result.first : result.last) = to;
-    if (mirrorLength > 0) (side < 0 ? result.last : result.first) = mirrorLength - 1 - to;
+    if (mirrorLength > 0) {
+        (side < 0 ? result.last : result.first) = mirrorLength - 1 - to;
+    }
     return result;
 }
 
@@ -95,29 +99,47 @@ ToolRectangle::ToolRectangle(const QSize& imageSize, const View& view, const Rul
     : m_imageSize(imageSize), m_view(view), m_rules(rules) {}
 
 QPoint ToolRectangle::seenFromImage(QPoint direction) const {
-    if (m_view.horizontalFlip) direction.rx() *= -1;
-    if (m_view.verticalFlip) direction.ry() *= -1;
-    for (int turned = 0; turned < m_view.rotation; turned += 90) direction = QPoint(-direction.y(), direction.x());
+    if (m_view.horizontalFlip) {
+        direction.rx() *= -1;
+    }
+    if (m_view.verticalFlip) {
+        direction.ry() *= -1;
+    }
+    for (int turned = 0; turned < m_view.rotation; turned += 90) {
+        direction = QPoint(-direction.y(), direction.x());
+    }
     return direction;
 }
 
 QPoint ToolRectangle::imageFromSeen(QPoint direction) const {
-    for (int turned = 0; turned < m_view.rotation; turned += 90) direction = QPoint(direction.y(), -direction.x());
-    if (m_view.horizontalFlip) direction.rx() *= -1;
-    if (m_view.verticalFlip) direction.ry() *= -1;
+    for (int turned = 0; turned < m_view.rotation; turned += 90) {
+        direction = QPoint(direction.y(), -direction.x());
+    }
+    if (m_view.horizontalFlip) {
+        direction.rx() *= -1;
+    }
+    if (m_view.verticalFlip) {
+        direction.ry() *= -1;
+    }
     return direction;
 }
 
 QPoint ToolRectangle::sidesOf(int handle) const {
-    for (int y = -1; y <= 1; ++y)
-        for (int x = -1; x <= 1; ++x)
-            if (handleOfSides({x, y}) == handle) return isEdge({x, y}) ? imageFromSeen({x, y}) : QPoint(x, y);
+    for (int y = -1; y <= 1; ++y) {
+        for (int x = -1; x <= 1; ++x) {
+            if (handleOfSides({x, y}) == handle) {
+                return isEdge({x, y}) ? imageFromSeen({x, y}) : QPoint(x, y);
+            }
+        }
+    }
     return {};
 }
 
 ToolRectangle::Handle ToolRectangle::handleAt(const QRect& rect, const QPoint& point) const {
     const int tolerance = std::max(1, static_cast<int>(5.0 / m_view.zoom));
-    if (!rect.adjusted(-tolerance, -tolerance, tolerance, tolerance).contains(point)) return Outside;
+    if (!rect.adjusted(-tolerance, -tolerance, tolerance, tolerance).contains(point)) {
+        return Outside;
+    }
     const QPoint sides(endAt(horizontal(rect), point.x(), tolerance), endAt(vertical(rect), point.y(), tolerance));
     return handleOfSides(isEdge(sides) ? seenFromImage(sides) : sides);
 }
@@ -146,7 +168,9 @@ std::optional<Qt::CursorShape> ToolRectangle::cursorFor(int handle) const {
 }
 
 QRect ToolRectangle::dragged(const QRect& rect, int handle, const QPoint& from, const QPoint& to) const {
-    if (handle == Inside) return limited(rect.translated(to - from), Change::Moved);
+    if (handle == Inside) {
+        return limited(rect.translated(to - from), Change::Moved);
+    }
     const QPoint sides = sidesOf(handle);
     Span x = horizontal(rect);
     Span y = vertical(rect);
@@ -163,22 +187,30 @@ QRect ToolRectangle::dragged(const QRect& rect, int handle, const QPoint& from, 
 
 std::optional<QRect> ToolRectangle::stepped(const QRect& rect, int key, Qt::KeyboardModifiers modifiers) const {
     const std::optional<QPoint> arrow = arrowDirection(key);
-    if (!arrow) return std::nullopt;
+    if (!arrow) {
+        return std::nullopt;
+    }
     const QPoint direction = imageFromSeen(*arrow);
-    if (modifiers & Qt::ShiftModifier) return keyResized(rect, direction, modifiers & Qt::ControlModifier);
+    if (modifiers & Qt::ShiftModifier) {
+        return keyResized(rect, direction, modifiers & Qt::ControlModifier);
+    }
     const QPoint step(direction.x() * m_rules.xStep, direction.y() * m_rules.yStep);
     return limited(rect.translated(step), Change::Moved);
 }
 
 QRect ToolRectangle::keyResized(const QRect& rect, const QPoint& direction, bool outward) const {
     const auto resized = [outward](const Span& span, int way, int step, bool mirrored, int minLength) {
-        if (way == 0) return span;
+        if (way == 0) {
+            return span;
+        }
         // Half of an odd step is rounded up, or a step of 1 would do nothing.
         const int distance = way * (mirrored ? (step + 1) / 2 : step);
         const bool movesFirst = (way < 0) == outward;
         Span result = span;
         (movesFirst ? result.first : result.last) += distance;
-        if (mirrored) (movesFirst ? result.last : result.first) -= distance;
+        if (mirrored) {
+            (movesFirst ? result.last : result.first) -= distance;
+        }
         return unlessTooShort(result, span, minLength);
     };
     const QRect result =
@@ -207,7 +239,9 @@ QVariantMap ToolRectangle::parameters(const QRect& rect, bool shown) const {
     put(QStringLiteral("PosY"), rect.top(), 0, m_imageSize.height() - rect.height(), m_rules.yStep);
     result.insert(QStringLiteral("AspectRatio"), aspectOf(rect.size()));
     result.insert(QStringLiteral("FixAspect"), false);
-    if (!shown) return result;
+    if (!shown) {
+        return result;
+    }
 
     const QSize zoomed = rect.size() * m_view.zoom;
     result.insert(QStringLiteral("OriginalAspect"), aspectOf(m_imageSize));

@@ -10,7 +10,7 @@ packages=(
     fonts-dejavu-core fonts-noto-cjk
 )
 run_packages=(xvfb xauth openbox)
-lint_packages=(clang-format clang-tidy)
+lint_packages=(clang-format-16 clang-tidy)
 thread_sanitizer_packages=(clang libclang-rt-14-dev)
 
 # install_missing PACKAGE...: as root or by sudo; otherwise names what is missing and fails.

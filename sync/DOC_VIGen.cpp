@@ -25,7 +25,9 @@ int wholeHertz(QString reply) {
     bool isNumber = false;
     const float hertz = reply.remove(QLatin1Char('\n')).toFloat(&isNumber);
     const bool isFrequency = isNumber && hertz >= 0 && double(hertz) <= std::numeric_limits<int>::max();
-    if (!isFrequency) throw std::runtime_error(QString("The answer to FREQ? is no frequency: " % reply).toStdString());
+    if (!isFrequency) {
+        throw std::runtime_error(QString("The answer to FREQ? is no frequency: " % reply).toStdString());
+    }
     return static_cast<int>(hertz);
 }
 
@@ -47,7 +49,9 @@ DOC_VIGen::~DOC_VIGen() {
 }
 
 bool DOC_VIGen::connect(int type, unsigned int address) {
-    if (isConnected()) return true;
+    if (isConnected()) {
+        return true;
+    }
     disconnect();
     m_resource = type == 0 ? tcpResource(address) : QString();
     GUI_MarqueeProgressDialog dialog(m_host, m_host->translate(TextKey("Searching")) % QStringLiteral("..."), {},
@@ -61,11 +65,15 @@ bool DOC_VIGen::connect(int type, unsigned int address) {
 
 void DOC_VIGen::disconnect() {
     m_connected = false;
-    if (m_driverLoaded) vi::close();
+    if (m_driverLoaded) {
+        vi::close();
+    }
 }
 
 bool DOC_VIGen::isConnected() {
-    if (!m_connected) return false;
+    if (!m_connected) {
+        return false;
+    }
     try {
         getFrequency();
     } catch (const std::exception&) {
@@ -82,13 +90,17 @@ bool DOC_VIGen::isSupported() const {
 }
 
 QString DOC_VIGen::getIdentity() const {
-    if (!m_connected) return {};
+    if (!m_connected) {
+        return {};
+    }
     vi::sendCommandString(QStringLiteral("*IDN?\n"));
     return vi::recvString();
 }
 
 void DOC_VIGen::setFrequency(int hertz) {
-    if (!m_connected) return;
+    if (!m_connected) {
+        return;
+    }
     talk(TextKey("Failed sync to signal generator"), m_resource, [hertz] {
         vi::sendCommandString(QStringLiteral("*RST\n"));
         vi::clear();
@@ -109,12 +121,16 @@ void DOC_VIGen::setFrequency(int hertz) {
 }
 
 bool DOC_VIGen::loadDriver() {
-    if (!m_driverLoaded) m_driverLoaded = VisaLibrary::instance().load();
+    if (!m_driverLoaded) {
+        m_driverLoaded = VisaLibrary::instance().load();
+    }
     return m_driverLoaded;
 }
 
 void DOC_VIGen::unloadDriver() {
-    if (!m_driverLoaded) return;
+    if (!m_driverLoaded) {
+        return;
+    }
     disconnect();  // one that is lost has sessions too
     VisaLibrary::instance().unload();
     m_driverLoaded = false;
@@ -125,7 +141,9 @@ QList<int> DOC_VIGen::getFrequencies() const {
 }
 
 int DOC_VIGen::getFrequency() const {
-    if (!m_connected) return 0;
+    if (!m_connected) {
+        return 0;
+    }
     return talk(TextKey("Failed getFrequency"), m_resource, [] {
         vi::sendCommandString(QStringLiteral("FREQ?\n"));
         return wholeHertz(vi::recvString());

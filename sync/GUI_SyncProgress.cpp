@@ -32,7 +32,9 @@ void GUI_SyncProgress::complete(bool result) {
 }
 
 void GUI_SyncProgress::reject() {
-    if (!m_running) GUI_ProgressDialog::reject();
+    if (!m_running) {
+        GUI_ProgressDialog::reject();
+    }
 }
 
 void GUI_SyncProgress::closeEvent(QCloseEvent* event) {

@@ -23,7 +23,9 @@ QList<SyncCamera> firstOf(std::initializer_list<ExposureClass> classes, const QL
     for (const ExposureClass exposure : classes) {
         std::copy_if(cameras.begin(), cameras.end(), std::back_inserter(found),
                      [exposure](const SyncCamera& camera) { return camera.exposure == exposure; });
-        if (!found.isEmpty()) break;
+        if (!found.isEmpty()) {
+            break;
+        }
     }
     return found;
 }
@@ -31,8 +33,12 @@ QList<SyncCamera> firstOf(std::initializer_list<ExposureClass> classes, const QL
 }  // namespace
 
 QList<SyncCamera> masterCandidates(const QList<SyncCamera>& cameras, int triggerMode) {
-    if (!areMixed(cameras)) return firstOf({ExposureClass::A, ExposureClass::N, ExposureClass::B}, cameras);
-    if (isPostTrigger(triggerMode)) return firstOf({ExposureClass::B}, cameras);
+    if (!areMixed(cameras)) {
+        return firstOf({ExposureClass::A, ExposureClass::N, ExposureClass::B}, cameras);
+    }
+    if (isPostTrigger(triggerMode)) {
+        return firstOf({ExposureClass::B}, cameras);
+    }
     return firstOf({ExposureClass::A, ExposureClass::N}, cameras);
 }
 
@@ -43,7 +49,9 @@ QList<SyncCamera> masterCandidates(const DocList& docs) {
 }
 
 DOC_Interface* chooseMaster(ZebHost& host, const DocList& docs) {
-    if (docs.isEmpty() || !host.isLiveMode()) return nullptr;
+    if (docs.isEmpty() || !host.isLiveMode()) {
+        return nullptr;
+    }
     const QList<SyncCamera> candidates = masterCandidates(docs);
     const auto docOf = [&docs](DOCKEY key) {
         return *std::find_if(docs.begin(), docs.end(), [key](DOC_Interface* doc) { return doc->getKey() == key; });
@@ -63,17 +71,23 @@ DOC_Interface* chooseMaster(ZebHost& host, const DocList& docs) {
                                      [](DOC_Interface* head) { return head != nullptr && head->isConnected(); });
         master = on != heads.end() ? *on : first;
     }
-    if (master != nullptr) qInfo() << "masterAddress" << master->control().getAddress(1);
+    if (master != nullptr) {
+        qInfo() << "masterAddress" << master->control().getAddress(1);
+    }
     return master;
 }
 
 QString masterCameraList(ZebHost& host) {
     const DocList docs = withoutDummies(host.docManager().getCameraDocs());
-    if (docs.size() < 2) qWarning() << "Not enough devices to sync settings.";
+    if (docs.size() < 2) {
+        qWarning() << "Not enough devices to sync settings.";
+    }
     QJsonArray devices;
     for (const SyncCamera& candidate : masterCandidates(docs)) {
         DOC_Interface* doc = host.docManager().getDocAny(candidate.key);
-        if (doc == nullptr) continue;
+        if (doc == nullptr) {
+            continue;
+        }
         devices.append(QJsonObject{{QStringLiteral("address"), candidate.address},
                                    {QStringLiteral("name"), doc->control().getCameraName(1)}});
     }

@@ -3,7 +3,9 @@
 SignalOffer SignalOffer::of(int frequency, const QList<int>& frequencies) {
     SignalOffer offer;
     offer.frequency = frequency;
-    for (const int each : frequencies) offer.frequencies.append(QString::number(each));
+    for (const int each : frequencies) {
+        offer.frequencies.append(QString::number(each));
+    }
     return offer;
 }
 
@@ -13,7 +15,9 @@ QString SignalChoice::text() const {
 }
 
 SignalChoice chooseSignal(const QStringList& configured, int frequency, const SignalOffer& source) {
-    if (configured.isEmpty()) return {source.frequency, source.frequencies};
+    if (configured.isEmpty()) {
+        return {source.frequency, source.frequencies};
+    }
     return {source.frequency != 0 ? source.frequency : frequency, configured};
 }
 

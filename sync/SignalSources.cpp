@@ -36,16 +36,22 @@ void SignalSources::attempt(Work&& work, CleanUp&& cleanUp) {
 }
 
 void SignalSources::connectGenerator() {
-    if (m_state.connecting) return;  // the worker has the instrument
+    if (m_state.connecting) {
+        return;  // the worker has the instrument
+    }
     const QScopedValueRollback busy(m_state.connecting, true);
     attempt([this] { openGenerator(); },
             [this] {
-                if (m_state.generator) m_state.generator->disconnect();
+                if (m_state.generator) {
+                    m_state.generator->disconnect();
+                }
             });
 }
 
 void SignalSources::openGenerator() {
-    if (!syncprefs::isExternal(m_host)) return;
+    if (!syncprefs::isExternal(m_host)) {
+        return;
+    }
     const QString address = syncprefs::generatorAddress(m_host);
     if (address.isEmpty()) {
         dropGenerator();
@@ -62,22 +68,34 @@ void SignalSources::openGenerator() {
         m_state.generator = std::move(generator);
     }
     DOC_SignalGenerator& generator = *m_state.generator;
-    if (generator.isConnected()) return;
+    if (generator.isConnected()) {
+        return;
+    }
     const quint32 number = addressNumber(address);
-    if (number == 0) qCritical() << "The address of the signal generator is no IPv4 address:" << address;
+    if (number == 0) {
+        qCritical() << "The address of the signal generator is no IPv4 address:" << address;
+    }
     generator.connect(0, number);
-    if (!generator.isConnected())
+    if (!generator.isConnected()) {
         throw UTL_Exception(m_host.translate(TextKey("Could not connect with signal generator")));
-    if (!generator.isSupported())
+    }
+    if (!generator.isSupported()) {
         throw UTL_Exception(m_host.translate(TextKey("can not be connected because unsupported device.")) %
                             QStringLiteral(" (") % generator.getIdentity().trimmed() % QLatin1Char(')'));
-    if (m_state.frequency < 1) return;
+    }
+    if (m_state.frequency < 1) {
+        return;
+    }
     const SignalOffer offer = SignalOffer::of(generator.getFrequency(), generator.getFrequencies());
-    if (needsFrequency(m_state.frequency, offer)) generator.setFrequency(m_state.frequency);
+    if (needsFrequency(m_state.frequency, offer)) {
+        generator.setFrequency(m_state.frequency);
+    }
 }
 
 void SignalSources::dropGenerator() {
-    if (m_state.generator) m_state.generator->disconnect();
+    if (m_state.generator) {
+        m_state.generator->disconnect();
+    }
     m_state.generator.reset();
 }
 
@@ -86,7 +104,9 @@ template <typename Work>
 void SignalSources::onHub(const QString& address, Work&& work) const {
     try {
         ZebSignalDevice* hub = m_host.signalDevices().findByAddress(address);
-        if (hub != nullptr && hub->isConnected()) work(*hub);
+        if (hub != nullptr && hub->isConnected()) {
+            work(*hub);
+        }
     } catch (...) {
         throw std::runtime_error(withName(currentFailureText(), address).toStdString());
     }
@@ -98,7 +118,9 @@ void SignalSources::onMasterHubs(Work&& work) {
     for (const QString& address : syncprefs::hubAddresses(m_host)) {
         failures.attempt([&] {
             onHub(address, [&work](ZebSignalDevice& hub) {
-                if (hub.getRole() == zeb::HubRoleMaster) work(hub);
+                if (hub.getRole() == zeb::HubRoleMaster) {
+                    work(hub);
+                }
             });
         });
     }
@@ -110,26 +132,35 @@ void SignalSources::connectHubs() {
 }
 
 void SignalSources::openHubs() {
-    if (!syncprefs::isExternal(m_host) || m_state.generator || syncprefs::port(m_host) != zeb::SyncPortHub) return;
+    if (!syncprefs::isExternal(m_host) || m_state.generator || syncprefs::port(m_host) != zeb::SyncPortHub) {
+        return;
+    }
     ZebSignalDevices& devices = m_host.signalDevices();
     devices.close();
     const QStringList wanted = syncprefs::hubAddresses(m_host);
-    if (wanted.isEmpty()) return;
+    if (wanted.isEmpty()) {
+        return;
+    }
     devices.open(1);
     if (devices.search(3, 1) != wanted.size()) {
         const QStringList missing = missingHubs();
         throw UTL_Exception(m_host.translate(TextKey("Failed to connect to Sync Hub")) % QStringLiteral(" (") %
                             (missing.isEmpty() ? wanted : missing).join(QStringLiteral(", ")) % QLatin1Char(')'));
     }
-    if (m_state.frequency < 1) return;
+    if (m_state.frequency < 1) {
+        return;
+    }
     onMasterHubs([this](ZebSignalDevice& hub) {
-        if (needsFrequency(m_state.frequency, SignalOffer::of(hub.getFrequency(), hub.getFrequencies())))
+        if (needsFrequency(m_state.frequency, SignalOffer::of(hub.getFrequency(), hub.getFrequencies()))) {
             hub.setFrequency(m_state.frequency);
+        }
     });
 }
 
 void SignalSources::setFrequency(int hertz) {
-    if (hertz < 1 || !syncprefs::isExternal(m_host)) return;
+    if (hertz < 1 || !syncprefs::isExternal(m_host)) {
+        return;
+    }
     m_state.frequency = hertz;
     if (isGeneratorConnected()) {
         m_state.generator->setFrequency(hertz);
@@ -168,8 +199,9 @@ bool SignalSources::isHubConnected() const {
 
 QStringList SignalSources::missingHubs() const {
     QStringList missing = syncprefs::hubAddresses(m_host);
-    for (const QString& address : syncprefs::hubAddresses(m_host))
+    for (const QString& address : syncprefs::hubAddresses(m_host)) {
         ask(address, "connection", [&](ZebSignalDevice&) { missing.removeAll(address); });
+    }
     return missing;
 }
 
@@ -178,14 +210,20 @@ SignalOffer SignalSources::readGenerator() const {
 }
 
 std::optional<SignalOffer> SignalSources::readHub() const {
-    if (!syncprefs::isExternal(m_host) || !syncprefs::usesHubs(m_host)) return SignalOffer();
+    if (!syncprefs::isExternal(m_host) || !syncprefs::usesHubs(m_host)) {
+        return SignalOffer();
+    }
     bool all = true;
     for (const QString& address : syncprefs::hubAddresses(m_host)) {
         std::optional<SignalOffer> offer;
         const bool answered = ask(address, "signal", [&offer](ZebSignalDevice& hub) {
-            if (hub.getRole() == zeb::HubRoleMaster) offer = SignalOffer::of(hub.getFrequency(), hub.getFrequencies());
+            if (hub.getRole() == zeb::HubRoleMaster) {
+                offer = SignalOffer::of(hub.getFrequency(), hub.getFrequencies());
+            }
         });
-        if (offer) return offer;
+        if (offer) {
+            return offer;
+        }
         all = all && answered;
     }
     return all ? std::optional(SignalOffer()) : std::nullopt;

@@ -14,12 +14,16 @@ SyncCamera SyncCamera::read(DOC_Interface& doc) {
 
 QList<SyncCamera> SyncCamera::readAll(const DocList& docs) {
     QList<SyncCamera> cameras;
-    for (DOC_Interface* doc : docs) cameras.append(read(*doc));
+    for (DOC_Interface* doc : docs) {
+        cameras.append(read(*doc));
+    }
     return cameras;
 }
 
 ExposureClass exposureClassOf(int timingClass, int delayClass) {
-    if (timingClass == zeb::ExposureTimingLeads) return ExposureClass::A;
+    if (timingClass == zeb::ExposureTimingLeads) {
+        return ExposureClass::A;
+    }
     return delayClass != 0 ? ExposureClass::B : ExposureClass::N;
 }
 
@@ -36,6 +40,8 @@ bool isPostTrigger(int mode) {
 
 quint32 addressNumber(const QString& address) {
     quint32 number = 0;
-    for (const QString& part : address.split(QLatin1Char('.'))) number = number * 256 + part.toUInt();
+    for (const QString& part : address.split(QLatin1Char('.'))) {
+        number = number * 256 + part.toUInt();
+    }
     return number;
 }

@@ -26,11 +26,15 @@ QList<SyncCamera> sortForSync(QList<SyncCamera> cameras, bool external, const QS
     };
     std::stable_sort(cameras.begin(), cameras.end(),
                      [&place](const SyncCamera& left, const SyncCamera& right) { return place(left) < place(right); });
-    if (external) return cameras;
+    if (external) {
+        return cameras;
+    }
     const quint32 master = addressNumber(masterAddress);
     const auto found = std::find_if(cameras.begin(), cameras.end(), [master](const SyncCamera& camera) {
         return addressNumber(camera.address) == master;
     });
-    if (found != cameras.end()) std::rotate(cameras.begin(), found, found + 1);
+    if (found != cameras.end()) {
+        std::rotate(cameras.begin(), found, found + 1);
+    }
     return cameras;
 }

@@ -29,7 +29,9 @@ const QString WiringPref = QStringLiteral("alert/setsynchronization");
 
 DocKeyList keysOf(const DocList& docs) {
     DocKeyList keys;
-    for (const DOC_Interface* doc : docs) keys.append(doc->getKey());
+    for (const DOC_Interface* doc : docs) {
+        keys.append(doc->getKey());
+    }
     return keys;
 }
 
@@ -49,7 +51,9 @@ void logParams(const SYNC_PARAMS& params) {
 
 void logOrder(const QList<SyncCamera>& cameras) {
     QString line = QStringLiteral("Sorted : ");
-    for (const SyncCamera& camera : cameras) line += QStringLiteral("%1 -> ").arg(camera.address);
+    for (const SyncCamera& camera : cameras) {
+        line += QStringLiteral("%1 -> ").arg(camera.address);
+    }
     qInfo().noquote() << line;
 }
 
@@ -70,39 +74,57 @@ QString SyncView::toJson() const {
 SyncView SyncSettings::look() {
     SyncView view;
     view.inUse = syncprefs::isInUse(m_host);
-    if (!view.inUse) return view;
+    if (!view.inUse) {
+        return view;
+    }
     const bool external = syncprefs::isExternal(m_host);
     view.executable = m_host.docManager().getSyncableDocs(0).size() >= (external ? 1 : 2);
-    if (!external) return view;
+    if (!external) {
+        return view;
+    }
     view.generatorAvailable = m_state.generator && !syncprefs::generatorAddress(m_host).isEmpty();
     view.generatorConnected = view.generatorAvailable && m_sources.isGeneratorConnected();
     view.hubAvailable = !view.generatorAvailable && syncprefs::usesHubs(m_host);
     view.hubConnected = view.hubAvailable && m_sources.isHubConnected();
-    if (!view.generatorConnected && !view.hubConnected) return view;
+    if (!view.generatorConnected && !view.hubConnected) {
+        return view;
+    }
     const std::optional<SignalOffer> offer = view.generatorConnected ? m_sources.readGenerator() : m_sources.readHub();
     view.signal = chooseSignal(m_state.offered, m_state.frequency, offer.value_or(SignalOffer()));
     // A hub that did not answer for once takes nothing from what the user has chosen.
-    if (offer) m_state.frequency = view.signal.frequency;
+    if (offer) {
+        m_state.frequency = view.signal.frequency;
+    }
     return view;
 }
 
 SyncSettings::Outcome SyncSettings::synchronise() {
-    if (!syncprefs::isInUse(m_host)) return Outcome::NotStarted;
+    if (!syncprefs::isInUse(m_host)) {
+        return Outcome::NotStarted;
+    }
     checkSyncCapability(m_host);
     DocList docs = withoutDummies(m_host.docManager().getCameraDocs());
-    if (!canSync(docs)) return Outcome::NotStarted;
+    if (!canSync(docs)) {
+        return Outcome::NotStarted;
+    }
 
     const DocKeyList keys = keysOf(docs);
     step("connectSignalGenerator", {}, [this] { m_sources.connectGenerator(); });
     step("connectSignalDistributors", {}, [this] { m_sources.connectHubs(); });
     // Both may have waited for an answer, and the cameras are others meanwhile, or record by now.
-    if (!syncprefs::isInUse(m_host)) return Outcome::NotStarted;
+    if (!syncprefs::isInUse(m_host)) {
+        return Outcome::NotStarted;
+    }
     checkSyncCapability(m_host);
     docs = connectedDocs(m_host.docManager(), keys);
-    if (!canSync(docs)) return Outcome::NotStarted;
+    if (!canSync(docs)) {
+        return Outcome::NotStarted;
+    }
     DOC_Interface* master = chooseMaster(m_host, docs);
     m_state.masterCamera = master != nullptr ? master->getKey() : zeb::NoDocKey;
-    if (master == nullptr) return Outcome::NotStarted;
+    if (master == nullptr) {
+        return Outcome::NotStarted;
+    }
 
     const SYNC_PARAMS params = readParams();
     step("setSignalFrequency", traceArg(QStringLiteral("freq"), m_state.frequency),
@@ -116,9 +138,13 @@ SyncSettings::Outcome SyncSettings::synchronise() {
 }
 
 bool SyncSettings::canSync(const DocList& docs) const {
-    if (docs.isEmpty()) return false;
+    if (docs.isEmpty()) {
+        return false;
+    }
     const bool can = m_host.cameraOps().canSync(docs);
-    if (!can) qWarning() << "Cameras can't be synchronised:" << keysOf(docs);
+    if (!can) {
+        qWarning() << "Cameras can't be synchronised:" << keysOf(docs);
+    }
     return can;
 }
 
@@ -141,13 +167,17 @@ DocList SyncSettings::sorted(const DocList& docs, DOC_Interface& master, bool ex
     logOrder(cameras);
     DocList inOrder;
     for (const SyncCamera& camera : cameras) {
-        if (DOC_Interface* doc = m_host.docManager().getDocAny(camera.key)) inOrder.append(doc);
+        if (DOC_Interface* doc = m_host.docManager().getDocAny(camera.key)) {
+            inOrder.append(doc);
+        }
     }
     return inOrder;
 }
 
 void SyncSettings::remindOfWiring() {
-    if (!m_host.getPrefBool(WiringPref, true)) return;
+    if (!m_host.getPrefBool(WiringPref, true)) {
+        return;
+    }
     m_host.alertWithDontShowAgain(
         m_host.translate(TextKey("When using the software trigger, please check the wiring of the TRIG IN "
                                  "terminal and enable 'Do not input software trigger to slave camera'")),

@@ -38,7 +38,9 @@ VisaLibrary& VisaLibrary::instance() {
 
 bool VisaLibrary::load() {
     // The file alone may be loaded by somebody else.
-    if (m_calls.clear != nullptr) return true;
+    if (m_calls.clear != nullptr) {
+        return true;
+    }
     Calls calls;
     if (!loadFile() || !resolve(calls)) {
         unload();

@@ -32,7 +32,9 @@ bool isDone(std::int32_t status) {
 /// The same for commands and replies, which have come through when there is a warning.
 void require(std::int32_t status, const QString& function, const QString& rest = {}) {
     VisaLibrary::instance().status = status;
-    if (status >= 0) return;
+    if (status >= 0) {
+        return;
+    }
     const QString text = QStringLiteral("visa.dll error, function: %1 error:%2%3").arg(function, statusText(), rest);
     throw std::runtime_error(text.toStdString());
 }
@@ -62,9 +64,12 @@ bool open(const QString& resource) {
 void close() {
     VisaLibrary& visa = VisaLibrary::instance();
     const auto closeOne = [&visa](std::uint32_t& object, const QString& viCall) {
-        if (object == 0) return;
-        if (!isDone(call(visa.calls().close, std::exchange(object, 0))))
+        if (object == 0) {
+            return;
+        }
+        if (!isDone(call(visa.calls().close, std::exchange(object, 0)))) {
             logWarning(QStringLiteral("vi::close"), viCall);
+        }
     };
     closeOne(visa.session, QStringLiteral("viClose (1)"));
     closeOne(visa.manager, QStringLiteral("viClose (2)"));

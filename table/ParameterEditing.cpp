@@ -116,15 +116,21 @@ int ParameterEditing::shutterFraction(const DocList& docs, int value) const {
     int fraction = 0;
     for (DOC_Interface* doc : value > 0 ? asked : DocList()) {
         attemptOn(*doc, unread, [&] {
-            if (fraction <= 0 && doc->isConnected()) fraction = fractionAt(*doc, value);
+            if (fraction <= 0 && doc->isConnected()) {
+                fraction = fractionAt(*doc, value);
+            }
         });
     }
     unread.log();
     for (const QString& allowed : value > 0 && fraction <= 0 ? m_allowed.shutterSpeeds : QStringList()) {
         const int n = allowed.toInt();
-        if (n > 0 && zeb::NanosecondsPerSecond / n == value) fraction = n;
+        if (n > 0 && zeb::NanosecondsPerSecond / n == value) {
+            fraction = n;
+        }
     }
-    if (fraction > 0) return fraction;
+    if (fraction > 0) {
+        return fraction;
+    }
     throw std::runtime_error(m_host.translate(TextKey("No camera offers the shutter speed %1."))
                                  .arg(docs.first()->formatShutterSpeed(value, 0))
                                  .toStdString());

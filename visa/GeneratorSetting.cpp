@@ -10,7 +10,9 @@ const QList<QPair<const char*, const char*>> switchWords{{"OFF", "0"}, {"ON", "1
 QByteArray shortForm(const char* mnemonic) {
     QByteArray letters;
     for (const char* letter = mnemonic; *letter != '\0'; ++letter) {
-        if (*letter < 'a' || *letter > 'z') letters.append(*letter);
+        if (*letter < 'a' || *letter > 'z') {
+            letters.append(*letter);
+        }
     }
     return letters;
 }
@@ -47,7 +49,9 @@ bool GeneratorSetting::isForm(const QByteArray& given, const char* mnemonic) {
 }
 
 GeneratorSetting::Reading GeneratorSetting::read(const QByteArray& argument) const {
-    if (argument.isEmpty()) return {{}, "-109,\"Missing parameter\""};
+    if (argument.isEmpty()) {
+        return {{}, "-109,\"Missing parameter\""};
+    }
     switch (kind) {
         case Number:
             return readNumber(argument);
@@ -61,7 +65,9 @@ GeneratorSetting::Reading GeneratorSetting::read(const QByteArray& argument) con
 GeneratorSetting::Reading GeneratorSetting::readNumber(const QByteArray& argument) const {
     bool isNumber = false;
     const double number = argument.toDouble(&isNumber);
-    if (!isNumber || std::isnan(number)) return {{}, "-104,\"Data type error\""};
+    if (!isNumber || std::isnan(number)) {
+        return {{}, "-104,\"Data type error\""};
+    }
     const double taken = std::clamp(number, lowest, highest);
     const QByteArray value = (taken < 0 ? "" : "+") + QByteArray::number(taken, 'E', 13);
     return {value, taken == number ? nullptr : "-222,\"Data out of range\""};
@@ -70,6 +76,8 @@ GeneratorSetting::Reading GeneratorSetting::readNumber(const QByteArray& argumen
 GeneratorSetting::Reading GeneratorSetting::readWord(const QByteArray& argument) const {
     const auto word = std::find_if(words.begin(), words.end(),
                                    [&argument](const auto& candidate) { return isForm(argument, candidate.first); });
-    if (word == words.end()) return {{}, "-224,\"Illegal parameter value\""};
+    if (word == words.end()) {
+        return {{}, "-224,\"Illegal parameter value\""};
+    }
     return {word->second};
 }

@@ -15,7 +15,9 @@ namespace {
 }
 
 void require(bool isRight, const QString& member, const char* kind) {
-    if (!isRight) refuse('"' % member % "\" is to be " % kind % '.');
+    if (!isRight) {
+        refuse('"' % member % "\" is to be " % kind % '.');
+    }
 }
 
 QJsonObject object(const QString& member, const QJsonValue& value) {
@@ -47,7 +49,9 @@ VisaBehaviour::Call call(const QJsonObject& members) {
         if (name == QLatin1String("status")) {
             call.status = status(name, *member);
         } else if (name == QLatin1String("never")) {
-            if (yes(name, *member)) call.status = visastatus::TimeOut;
+            if (yes(name, *member)) {
+                call.status = visastatus::TimeOut;
+            }
         } else if (name == QLatin1String("hold")) {
             call.holds = yes(name, *member);
         } else if (name == QLatin1String("from")) {
@@ -95,10 +99,13 @@ void take(VisaBehaviour& behaviour, const QString& name, const QJsonValue& value
 VisaBehaviour VisaBehaviour::fromJson(const QByteArray& json) {
     QJsonParseError error;
     const QJsonDocument document = QJsonDocument::fromJson(json, &error);
-    if (!document.isObject())
+    if (!document.isObject()) {
         refuse(document.isNull() ? error.errorString() : QStringLiteral("it is to be an object."));
+    }
     VisaBehaviour behaviour;
     const QJsonObject members = document.object();
-    for (auto member = members.begin(); member != members.end(); ++member) take(behaviour, member.key(), *member);
+    for (auto member = members.begin(); member != members.end(); ++member) {
+        take(behaviour, member.key(), *member);
+    }
     return behaviour;
 }

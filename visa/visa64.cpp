@@ -31,7 +31,9 @@ VISA_CALL std::int32_t viPrintf(std::uint32_t session, const char* format, ...) 
     va_start(arguments, format);
     const int length = std::vsnprintf(text.data(), text.size(), format, arguments);
     va_end(arguments);
-    if (length < 0 || length >= static_cast<int>(text.size())) return visastatus::InvalidFormat;
+    if (length < 0 || length >= static_cast<int>(text.size())) {
+        return visastatus::InvalidFormat;
+    }
     return ScriptedVisa::instance().print(session, text.data());
 }
 
@@ -40,7 +42,9 @@ VISA_CALL std::int32_t viPrintf(std::uint32_t session, const char* format, ...) 
 VISA_CALL std::int32_t viScanf(std::uint32_t session, const char* format, ...) {
     char* end = nullptr;
     const unsigned long size = *format == '%' ? std::strtoul(format + 1, &end, 10) : 0;
-    if (size == 0 || QByteArray(end) != "t") return visastatus::InvalidFormat;
+    if (size == 0 || QByteArray(end) != "t") {
+        return visastatus::InvalidFormat;
+    }
     va_list arguments;
     va_start(arguments, format);
     char* buffer = va_arg(arguments, char*);

@@ -16,7 +16,9 @@ int lengthThatFits(const QString& text) {
         column = isNewLine ? 0 : column + 1;
         if (isNewLine || column > LineLength) {
             column = isNewLine ? 0 : 1;
-            if (++line > MostLines) return i;
+            if (++line > MostLines) {
+                return i;
+            }
         }
     }
     return text.size();

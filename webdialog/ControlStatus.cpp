@@ -137,7 +137,9 @@ QJsonObject controlStatus(ZebHost& host, DOC_Interface* doc, CycleFailures& fail
     // One camera that does not answer rules no control of the others.
     failures.attempt(QStringLiteral("current document"), [&] {
         DOC_Interface* shown = doc ? doc : host.docManager().getCurrentDoc();
-        if (!shown) return addDocument(status, host, nullptr);
+        if (!shown) {
+            return addDocument(status, host, nullptr);
+        }
         onCamera(*shown, [&] { addDocument(status, host, shown); });
     });
     return status;

@@ -14,8 +14,12 @@ constexpr int Memory = 1000;
 
 void CycleFailures::failed(const QString& source, const QString& text) {
     Failing& failing = m_failing[text];
-    if (!failing.sources.contains(source) && !isMet(failing)) m_new.append(text);
-    if (failing.count == 0) qCritical() << text;
+    if (!failing.sources.contains(source) && !isMet(failing)) {
+        m_new.append(text);
+    }
+    if (failing.count == 0) {
+        qCritical() << text;
+    }
     failing.sources[source] = m_cycle;
     ++failing.count;
 }
@@ -34,7 +38,9 @@ void CycleFailures::answered(const QString& source) {
 void CycleFailures::nextCycle() {
     ++m_cycle;
     for (auto failing = m_failing.begin(); failing != m_failing.end();) {
-        if (!isMet(*failing)) end(failing.key(), *failing);
+        if (!isMet(*failing)) {
+            end(failing.key(), *failing);
+        }
         const auto isRemembered = [this](int cycle) { return cycle > m_cycle - Memory; };
         const auto& sources = failing->sources;
         failing =
@@ -52,8 +58,9 @@ bool CycleFailures::isMet(const Failing& failing) const {
 }
 
 void CycleFailures::end(const QString& text, Failing& failing) {
-    if (const int count = std::exchange(failing.count, 0))
+    if (const int count = std::exchange(failing.count, 0)) {
         qCritical() << text << "is no longer met, after" << count << "times.";
+    }
 }
 
 QString CycleFailures::takeNew() {

@@ -17,12 +17,16 @@ QVariantMap emptyEntry(DOCKEY key) {
         QStringLiteral("dummy"),      QStringLiteral("shutdown"),     QStringLiteral("sup-wifi"),
         QStringLiteral("con-wifi"),   QStringLiteral("sup-linkspeed")};
     QVariantMap entry{{QStringLiteral("key"), QString::number(key)}, {QStringLiteral("headno"), 0}};
-    for (const QString& member : texts) entry[member] = QStringLiteral("");
+    for (const QString& member : texts) {
+        entry[member] = QStringLiteral("");
+    }
     return entry;
 }
 
 void mark(QVariantMap& entry, const QString& member, const QString& text, bool set) {
-    if (set) entry[member] = text;
+    if (set) {
+        entry[member] = text;
+    }
 }
 
 void readNames(QVariantMap& entry, const DOC_Control& camera) {
@@ -68,7 +72,9 @@ void appendDeviceInfo(QVariantList& devices, ZebHost& host, bool isMinilist) {
     ZebDocManager& docs = host.docManager();
     for (const DOCKEY key : docs.getDocKeys(1)) {
         DOC_Interface* doc = docs.getDoc(key, 1);
-        if (!doc || (connectedOnly && !doc->isConnected())) continue;
+        if (!doc || (connectedOnly && !doc->isConnected())) {
+            continue;
+        }
         appendEntry(devices, *doc, key);
     }
 }

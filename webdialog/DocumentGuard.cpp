@@ -49,28 +49,40 @@ void DocumentGuard::release() {
         try {
             step();
         } catch (...) {
-            if (!failure) failure = std::current_exception();
+            if (!failure) {
+                failure = std::current_exception();
+            }
         }
     };
 
     const Paused paused = std::exchange(m_paused, Paused::Nothing);
-    if (paused == Paused::Player) m_host.player().resumePlayer();
+    if (paused == Paused::Player) {
+        m_host.player().resumePlayer();
+    }
     if (paused == Paused::Live) {
-        if (m_refreshDocs && m_host.liveLoop().isLivePaused()) undo([this] { refreshConnectedDocs(); });
+        if (m_refreshDocs && m_host.liveLoop().isLivePaused()) {
+            undo([this] { refreshConnectedDocs(); });
+        }
         m_host.liveLoop().resumeLive();
     }
     if (std::exchange(m_editing, false)) {
         undo([this] { m_host.docManager().endDocEdit(); });
         undo([this] { m_host.docManager().commitDocEdit(); });
     }
-    if (std::exchange(m_locked, false)) m_host.docManager().getDocMutex()->unlock();
+    if (std::exchange(m_locked, false)) {
+        m_host.docManager().getDocMutex()->unlock();
+    }
 
-    if (failure) std::rethrow_exception(failure);
+    if (failure) {
+        std::rethrow_exception(failure);
+    }
 }
 
 void DocumentGuard::refreshConnectedDocs() {
     ZebDocManager& docs = m_host.docManager();
     for (DOCKEY key : docs.getConnectedDocKeys(0)) {
-        if (DOC_Interface* doc = docs.getDoc(key, 1)) doc->activity().refresh(true);
+        if (DOC_Interface* doc = docs.getDoc(key, 1)) {
+            doc->activity().refresh(true);
+        }
     }
 }

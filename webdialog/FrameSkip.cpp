@@ -22,8 +22,12 @@ double toFourDecimals(double value) {
 
 QList<double> multiples(double step, double last) {
     QList<double> values;
-    if (step <= 0.0) return values;  // rates so high that a frame takes no time
-    for (unsigned int i = 1; toFourDecimals(i * step) <= last; ++i) values.append(toFourDecimals(i * step));
+    if (step <= 0.0) {
+        return values;  // rates so high that a frame takes no time
+    }
+    for (unsigned int i = 1; toFourDecimals(i * step) <= last; ++i) {
+        values.append(toFourDecimals(i * step));
+    }
     return values;
 }
 
@@ -41,14 +45,22 @@ FrameSkip skipByFrames(FrameSkip skip, unsigned int leastFrames) {
 
 FrameSkip skipByTime(FrameSkip skip, const QList<unsigned int>& rates, unsigned int leastFrames) {
     unsigned int divisor = 0;
-    for (const unsigned int rate : rates) divisor = std::gcd(divisor, rate);
+    for (const unsigned int rate : rates) {
+        divisor = std::gcd(divisor, rate);
+    }
     const int rate = static_cast<int>(divisor);
-    if (std::exchange(skip.rate, rate) != rate) skip.list.clear();
+    if (std::exchange(skip.rate, rate) != rate) {
+        skip.list.clear();
+    }
 
     skip.minFrames = rate == 0 ? 1.0 : toFourDecimals(MillisecondsPerSecond / rate);
     skip.maxFrames = leastFrames == NoFrameCount ? skip.minFrames : toFourDecimals(leastFrames * skip.minFrames);
-    if (skip.list.isEmpty()) skip.list = multiples(skip.minFrames, skip.maxFrames);
-    if (!skip.list.contains(skip.maxFrames)) skip.list.append(skip.maxFrames);
+    if (skip.list.isEmpty()) {
+        skip.list = multiples(skip.minFrames, skip.maxFrames);
+    }
+    if (!skip.list.contains(skip.maxFrames)) {
+        skip.list.append(skip.maxFrames);
+    }
     return skip;
 }
 
@@ -57,7 +69,9 @@ unsigned int leastFrameCount(const ExportTargets& targets) {
     for (auto target = targets.begin(); target != targets.end(); ++target) {
         for (const PARTITIONNUMBER partition : target.value()) {
             const unsigned int count = target.key()->frames().getFrameCount(static_cast<int>(partition), 0);
-            if (count > 0) least = std::min(least, count);
+            if (count > 0) {
+                least = std::min(least, count);
+            }
         }
     }
     return least;
@@ -66,12 +80,16 @@ unsigned int leastFrameCount(const ExportTargets& targets) {
 QList<unsigned int> recordRates(const ZebHost& host, const ExportTargets& targets) {
     QList<unsigned int> rates;
     const auto add = [&rates](unsigned int rate) {
-        if (rate > 0) rates.append(rate);
+        if (rate > 0) {
+            rates.append(rate);
+        }
     };
     for (auto target = targets.begin(); target != targets.end(); ++target) {
         const DOC_Control& camera = target.key()->control();
         if (host.isMemoryMode()) {
-            for (const PARTITIONNUMBER partition : target.value()) add(camera.getRecordedRateOfPartition(partition));
+            for (const PARTITIONNUMBER partition : target.value()) {
+                add(camera.getRecordedRateOfPartition(partition));
+            }
         } else {
             add(camera.getRecordRate(0));
         }

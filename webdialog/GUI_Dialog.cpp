@@ -36,17 +36,23 @@ void GUI_Dialog::slotDisableCloseButton() {
 }
 
 void GUI_Dialog::setCloseButton(bool enabled) {
-    if (windowFlags().testFlag(Qt::WindowCloseButtonHint) == enabled) return;
+    if (windowFlags().testFlag(Qt::WindowCloseButtonHint) == enabled) {
+        return;
+    }
     setWindowFlag(Qt::WindowCloseButtonHint, enabled);
     show();  // a change of the flags hides the window
 }
 
 void GUI_Dialog::keyPressEvent(QKeyEvent* event) {
-    if (m_ignoreEscape && event->key() == Qt::Key_Escape) return;
+    if (m_ignoreEscape && event->key() == Qt::Key_Escape) {
+        return;
+    }
     QDialog::keyPressEvent(event);
 }
 
 bool GUI_Dialog::eventFilter(QObject* watched, QEvent* event) {
-    if (watched == this && event->type() == QEvent::Close) logUserClose(*this);
+    if (watched == this && event->type() == QEvent::Close) {
+        logUserClose(*this);
+    }
     return QDialog::eventFilter(watched, event);
 }

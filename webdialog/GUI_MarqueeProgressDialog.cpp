@@ -30,7 +30,9 @@ int GUI_MarqueeProgressDialog::execThread(RUN_ProgressThreadInterface& worker) {
 }
 
 void GUI_MarqueeProgressDialog::reject() {
-    if (mayClose()) GUI_ProgressDialog::reject();
+    if (mayClose()) {
+        GUI_ProgressDialog::reject();
+    }
 }
 
 void GUI_MarqueeProgressDialog::closeEvent(QCloseEvent* event) {

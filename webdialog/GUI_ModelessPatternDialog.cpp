@@ -54,16 +54,24 @@ void GUI_ModelessPatternDialog::centerOnMainScreen() {
 void GUI_ModelessPatternDialog::closeEvent(QCloseEvent*) {
     const QPointer<GUI_ModelessPatternDialog> self(this);
     host().appStatus().notifyPluginClosed(m_plugin);
-    if (self && getBridge()) closePage();
+    if (self && getBridge()) {
+        closePage();
+    }
     // The page's answer may have waited for the user, and the dialog be gone by now.
-    if (self) Q_EMIT closed();
+    if (self) {
+        Q_EMIT closed();
+    }
 }
 
 void GUI_ModelessPatternDialog::showEvent(QShowEvent* event) {
     GUI_WebViewDialog::showEvent(event);
     tellShown();
-    if (m_plugin) QApplication::setActiveWindow(this);
-    if (m_plugin) Q_EMIT shown();
+    if (m_plugin) {
+        QApplication::setActiveWindow(this);
+    }
+    if (m_plugin) {
+        Q_EMIT shown();
+    }
 }
 
 void GUI_ModelessPatternDialog::tellShown() {
@@ -73,20 +81,32 @@ void GUI_ModelessPatternDialog::tellShown() {
 
 bool GUI_ModelessPatternDialog::eventFilter(QObject* watched, QEvent* event) {
     if (watched == this) {
-        if (event->type() == QEvent::Close && deferClose(event)) return true;
-        if (event->type() == QEvent::WindowActivate) tellActivated();
+        if (event->type() == QEvent::Close && deferClose(event)) {
+            return true;
+        }
+        if (event->type() == QEvent::WindowActivate) {
+            tellActivated();
+        }
     }
     return GUI_WebViewDialog::eventFilter(watched, event);
 }
 
 bool GUI_ModelessPatternDialog::deferClose(QEvent* event) {
     JS_Mediator* busy = busyBridge();
-    if (!busy) return false;
+    if (!busy) {
+        return false;
+    }
     event->ignore();
-    if (host().isApplicationClosing()) UTL_Messages::rejectAll();
-    if (std::exchange(m_closePosted, true)) return true;
+    if (host().isApplicationClosing()) {
+        UTL_Messages::rejectAll();
+    }
+    if (std::exchange(m_closePosted, true)) {
+        return true;
+    }
     busy->afterCalls([dialog = QPointer<GUI_ModelessPatternDialog>(this)] {
-        if (!dialog) return;
+        if (!dialog) {
+            return;
+        }
         dialog->m_closePosted = false;
         dialog->close();
     });
@@ -94,9 +114,13 @@ bool GUI_ModelessPatternDialog::deferClose(QEvent* event) {
 }
 
 void GUI_ModelessPatternDialog::tellActivated() {
-    if (!m_plugin) return;
+    if (!m_plugin) {
+        return;
+    }
     logFailure([this] {
-        if (m_plugin->isReselectOnActivate()) host().docManager().setQuickTool(m_plugin->getName(), false);
+        if (m_plugin->isReselectOnActivate()) {
+            host().docManager().setQuickTool(m_plugin->getName(), false);
+        }
     });
     tellShown();
 }

@@ -18,9 +18,13 @@ GUI_ProgressDialog::GUI_ProgressDialog(const QString& label, const QString& canc
 }
 
 void GUI_ProgressDialog::setVisible(bool visible) {
-    if (visible && isModal() && !m_over) m_over.emplace(*this);
+    if (visible && isModal() && !m_over) {
+        m_over.emplace(*this);
+    }
     QProgressDialog::setVisible(visible);
-    if (!visible) m_over.reset();
+    if (!visible) {
+        m_over.reset();
+    }
 }
 
 bool GUI_ProgressDialog::event(QEvent* event) {
@@ -34,6 +38,8 @@ bool GUI_ProgressDialog::event(QEvent* event) {
 }
 
 void GUI_ProgressDialog::keyPressEvent(QKeyEvent* event) {
-    if (m_ignoreEscape && event->key() == Qt::Key_Escape) return;
+    if (m_ignoreEscape && event->key() == Qt::Key_Escape) {
+        return;
+    }
     QProgressDialog::keyPressEvent(event);
 }

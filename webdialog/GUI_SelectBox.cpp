@@ -97,7 +97,9 @@ void GUI_SelectBox::onLoadFinish(bool ok) {
         onUpdate();
         // A list that can't be read is not shown, and so not wanted any more.
         const bool wanted = std::exchange(m_wantVisible, false);
-        if (wanted) fill();
+        if (wanted) {
+            fill();
+        }
         setVisible(wanted);
     });
 }
@@ -144,7 +146,9 @@ void GUI_SelectBox::setParentRect(const QRect& rect) {
 
 void GUI_SelectBox::setVisible(bool visible) {
     m_wantVisible = visible;
-    if (m_keyboard) m_keyboard->removeEventFilter(this);
+    if (m_keyboard) {
+        m_keyboard->removeEventFilter(this);
+    }
     m_keyboard = nullptr;
     if (!visible) {
         QWidget::setVisible(false);
@@ -153,7 +157,9 @@ void GUI_SelectBox::setVisible(bool visible) {
         QWidget::setVisible(true);
         scrollToSelected();
         m_keyboard = parentWidget()->focusWidget();
-        if (m_keyboard) m_keyboard->installEventFilter(this);
+        if (m_keyboard) {
+            m_keyboard->installEventFilter(this);
+        }
     }
 }
 
@@ -165,8 +171,9 @@ void GUI_SelectBox::place() {
     const QWebElementCollection items = rows();
     layout.rows = items.count();
     if (growsWithText(m_direction)) {
-        for (const QWebElement& row : items)
+        for (const QWebElement& row : items) {
             layout.textWidth = qMax(layout.textWidth, selectBoxTextWidth(row.toPlainText()));
+        }
     }
     Q_EMIT m_bridge->signalSetHeight(m_anchor.height());
     setGeometry(placeSelectBox(layout));
@@ -175,8 +182,9 @@ void GUI_SelectBox::place() {
 void GUI_SelectBox::scrollToSelected() {
     const QWebElement selected = frame()->findFirstElement(RowSelector % QStringLiteral(".selected"));
     const int index = selected.isNull() ? -1 : selected.attribute(QStringLiteral("index")).toInt();
-    if (const auto target = selectBoxScroll(rows().count(), m_anchor.height(), index))
+    if (const auto target = selectBoxScroll(rows().count(), m_anchor.height(), index)) {
         frame()->scroll(0, *target - frame()->scrollBarValue(Qt::Vertical));
+    }
 }
 
 void GUI_SelectBox::resizeEvent(QResizeEvent* event) {
@@ -187,8 +195,12 @@ void GUI_SelectBox::resizeEvent(QResizeEvent* event) {
 
 bool GUI_SelectBox::eventFilter(QObject* watched, QEvent* event) {
     if (watched == this) {
-        if (event->type() == QEvent::WindowDeactivate && m_wantVisible) leave();
-        if (event->type() == QEvent::Close) logUserClose(*this);
+        if (event->type() == QEvent::WindowDeactivate && m_wantVisible) {
+            leave();
+        }
+        if (event->type() == QEvent::Close) {
+            logUserClose(*this);
+        }
     } else if (watched == m_keyboard && event->type() == QEvent::KeyPress) {
         return takesKey(static_cast<QKeyEvent&>(*event));
     } else if (m_wantVisible && watched == parentWidget()) {
@@ -202,13 +214,19 @@ void GUI_SelectBox::onParentEvent(const QWidget& parent, const QEvent& event) {
     const bool goesAway =
         event.type() == QEvent::Hide || (event.type() == QEvent::WindowStateChange && parent.isMinimized());
     const bool leftForOther = event.type() == QEvent::WindowDeactivate && QApplication::activeWindow() != this;
-    if (goesAway || leftForOther) leave();
+    if (goesAway || leftForOther) {
+        leave();
+    }
 }
 
 /// Escape goes on to the parent's page, which takes away what it has laid over itself.
 bool GUI_SelectBox::takesKey(QKeyEvent& event) {
-    if (event.key() == Qt::Key_Escape) leave();
-    if (std::find(ListKeys.begin(), ListKeys.end(), event.key()) == ListKeys.end()) return false;
+    if (event.key() == Qt::Key_Escape) {
+        leave();
+    }
+    if (std::find(ListKeys.begin(), ListKeys.end(), event.key()) == ListKeys.end()) {
+        return false;
+    }
     QApplication::sendEvent(m_view, &event);
     return true;
 }

@@ -57,10 +57,14 @@ void GUI_WebPage::keepFromSockets(QWebFrame* frame) {
 }
 
 QObject* GUI_WebPage::createPlugin(const QString& classid, const QUrl&, const QStringList&, const QStringList&) {
-    if (classid == QLatin1String("mdi")) return m_host->getMdiWidget();
+    if (classid == QLatin1String("mdi")) {
+        return m_host->getMdiWidget();
+    }
     const QString name = panelPlugin(classid);
     PLG_Interface* plugin = name.isEmpty() ? nullptr : m_host->appStatus().getPlugin(name);
-    if (!plugin) return nullptr;
+    if (!plugin) {
+        return nullptr;
+    }
     plugin->preparePanel();
     return plugin->getPanelWidget();
 }
@@ -71,17 +75,20 @@ bool GUI_WebPage::acceptNavigationRequest(QWebFrame* frame, const QNetworkReques
     const bool followsUser = type == NavigationTypeLinkClicked || type == NavigationTypeFormSubmitted ||
                              type == NavigationTypeFormResubmitted;
     const bool accepted = !opensWindow && (followsUser ? isWithinDocument(frame, url) : isOwnPage(url));
-    if (!accepted) qWarning() << "Page link refused:" << url.toString();
+    if (!accepted) {
+        qWarning() << "Page link refused:" << url.toString();
+    }
     return accepted;
 }
 
 void GUI_WebPage::logConsoleMessage(MessageSource, MessageLevel level, const QString& message, int line,
                                     const QString& sourceId) {
     const QString text = sourceId % QLatin1Char(':') % QString::number(line) % QStringLiteral(": ") % message;
-    if (level == ErrorMessageLevel)
+    if (level == ErrorMessageLevel) {
         qCritical() << text;
-    else if (level == WarningMessageLevel)
+    } else if (level == WarningMessageLevel) {
         qWarning() << text;
-    else
+    } else {
         qInfo() << text;
+    }
 }

@@ -13,7 +13,9 @@ GUI_WebView::GUI_WebView(ZebHost* host, QWidget* parent) : QWebView(parent), m_p
 }
 
 GUI_WebView::~GUI_WebView() {
-    if (!m_inspector) return;
+    if (!m_inspector) {
+        return;
+    }
     m_inspector->close();
     delete m_inspector;
 }
@@ -21,15 +23,20 @@ GUI_WebView::~GUI_WebView() {
 void GUI_WebView::focusOutEvent(QFocusEvent* event) {
     const bool windowIsLeft = event->reason() == Qt::ActiveWindowFocusReason || event->reason() == Qt::PopupFocusReason;
     QWebFrame& frame = *page()->mainFrame();
-    if (!windowIsLeft)
+    if (!windowIsLeft) {
         frame.findFirstElement(QStringLiteral(":focus")).evaluateJavaScript(QStringLiteral("this.blur()"));
+    }
     QWebView::focusOutEvent(event);
 }
 
 void GUI_WebView::showCustomContextMenu(QPoint pos) {
-    if (!m_menu.isEmpty()) m_menu.exec(mapToGlobal(pos));
+    if (!m_menu.isEmpty()) {
+        m_menu.exec(mapToGlobal(pos));
+    }
 }
 
 void GUI_WebView::execWebInspector() {
-    if (m_inspector) m_page->triggerAction(QWebPage::InspectElement);
+    if (m_inspector) {
+        m_page->triggerAction(QWebPage::InspectElement);
+    }
 }

@@ -56,9 +56,13 @@ GUI_WebViewDialog::~GUI_WebViewDialog() {
 }
 
 void GUI_WebViewDialog::endPage() {
-    if (!m_view) return;
+    if (!m_view) {
+        return;
+    }
     disconnect(m_view, nullptr, this, nullptr);  // a load that is cut off ends once more
-    if (m_viewerSuspended && !m_host->isApplicationClosing()) m_host->resumeViewer();
+    if (m_viewerSuspended && !m_host->isApplicationClosing()) {
+        m_host->resumeViewer();
+    }
     const QList<JS_Mediator*> owned = bridges();
     m_bridge = nullptr;
     m_extraBridges.clear();
@@ -98,7 +102,9 @@ void GUI_WebViewDialog::loadFinished(bool ok) {
     logFailure([this] { centerWithoutMainWindow(*m_host, *this); });
     fadeIn();
     m_loading.reset();
-    if (m_updateOnLoad) m_host->updateUI(zeb::UpdateAll, true);
+    if (m_updateOnLoad) {
+        m_host->updateUI(zeb::UpdateAll, true);
+    }
 }
 
 void GUI_WebViewDialog::fadeIn() {

@@ -64,7 +64,9 @@ void JS_Mediator::reportCurrentFailure() noexcept {
 
 void JS_Mediator::tellCycleFailures() noexcept {
     const QString news = m_cycleFailures.takeNew();
-    if (!news.isEmpty()) logFailure([&] { host().errorHandler(ZebCycleFailure(news.toStdString())); });
+    if (!news.isEmpty()) {
+        logFailure([&] { host().errorHandler(ZebCycleFailure(news.toStdString())); });
+    }
 }
 
 void JS_Mediator::errorHandler(std::exception& e) {
@@ -75,9 +77,12 @@ void JS_Mediator::setStyle(const QString& style) {
     operationCall(*this, QStringLiteral("JS_Mediator::setStyle"), traceArg(QStringLiteral("style"), style), [&] {
         host().setPref(QStringLiteral("env/style"), style);
         QWidget* mainWindow = host().getMainWindow();
-        if (!mainWindow) return;
-        if (auto* mobile = mainWindow->findChild<QDialog*>(QStringLiteral("GUI_MobileDialog")))
+        if (!mainWindow) {
+            return;
+        }
+        if (auto* mobile = mainWindow->findChild<QDialog*>(QStringLiteral("GUI_MobileDialog"))) {
             applyNativeStyle(host(), *mobile);
+        }
     });
 }
 
@@ -88,9 +93,13 @@ QString JS_Mediator::getStyle() {
 void JS_Mediator::openPlugin(const QString& name) {
     operationCall(*this, QStringLiteral("JS_Mediator::openPlugin"), traceArg(QStringLiteral("name"), name), [&] {
         std::optional<DocumentGuard> guard;
-        if (name == QLatin1String("binning")) guard.emplace(host());
+        if (name == QLatin1String("binning")) {
+            guard.emplace(host());
+        }
         host().appStatus().openPlugin(name);
-        if (guard) guard->release();
+        if (guard) {
+            guard->release();
+        }
     });
 }
 
@@ -171,7 +180,9 @@ bool JS_Mediator::isConnected() {
 QString JS_Mediator::load(const QString& fileName) {
     const QString path = QStringLiteral(":/") + fileName;
     const std::optional<QString> text = readTextResource(path);
-    if (!text) qWarning() << "not found" << path;
+    if (!text) {
+        qWarning() << "not found" << path;
+    }
     return text.value_or(QString());
 }
 
@@ -184,7 +195,9 @@ void JS_Mediator::deterUpdateUI(bool deter) {
 }
 
 void JS_Mediator::addPrefsJSObject() {
-    if (view()) view()->page()->mainFrame()->addToJavaScriptWindowObject(QStringLiteral("prefs"), this);
+    if (view()) {
+        view()->page()->mainFrame()->addToJavaScriptWindowObject(QStringLiteral("prefs"), this);
+    }
 }
 
 template <typename Read>
@@ -218,9 +231,10 @@ void JS_Mediator::storePref(const QString& method, const QString& name, const QV
                             Store store) {
     bridgeCall(*this, [&] {
         std::optional<OperationEventHandler> scope;
-        if (update)
+        if (update) {
             scope.emplace(*this, method,
                           traceArg(QStringLiteral("name"), name) + traceArg(QStringLiteral("value"), value));
+        }
         store();
     });
 }
@@ -294,7 +308,9 @@ QVariantList JS_Mediator::getDeviceInfoList(bool isMinilist) {
 QVariantList JS_Mediator::getSelectedDockey() {
     return queryCall(*this, __func__, QVariantList(), [&] {
         QVariantList keys;
-        for (const DOCKEY key : host().docManager().getSelectedDocKeys(0)) keys.append(QString::number(key));
+        for (const DOCKEY key : host().docManager().getSelectedDocKeys(0)) {
+            keys.append(QString::number(key));
+        }
         return keys;
     });
 }
@@ -321,7 +337,9 @@ void JS_Mediator::selectAllDocs() {
             const DeterScope deter(host());
             docs.selectAllDocs(this);
         }
-        if (current != zeb::NoDocKey) docs.setCurrentDoc(current, 1);
+        if (current != zeb::NoDocKey) {
+            docs.setCurrentDoc(current, 1);
+        }
     });
 }
 
@@ -383,7 +401,9 @@ bool JS_Mediator::isWrenRunning() {
 
 void JS_Mediator::checkRestoredPrefs() {
     bridgeCall(*this, [&] {
-        if (host().isPrefsRestored()) host().setPrefsRestored(1);
+        if (host().isPrefsRestored()) {
+            host().setPrefsRestored(1);
+        }
     });
 }
 
@@ -427,11 +447,15 @@ QString JS_Mediator::getRotate() {
 }
 
 void JS_Mediator::refreshSkipFrames(const ExportTargets& targets) {
-    if (targets.isEmpty()) return;
+    if (targets.isEmpty()) {
+        return;
+    }
     const unsigned int frames = leastFrameCount(targets);
     const QList<unsigned int> rates =
         getSkipMode() == SkipByTime ? recordRates(host(), targets) : QList<unsigned int>();
-    if (getSkipMode() == SkipByTime && rates.isEmpty()) setSkipMode(SkipByFrames);
+    if (getSkipMode() == SkipByTime && rates.isEmpty()) {
+        setSkipMode(SkipByFrames);
+    }
     m_skip = rates.isEmpty() ? skipByFrames(m_skip, frames) : skipByTime(m_skip, rates, frames);
     applySkipFrames(m_skip.clamped(getSkipFrames()));
 }

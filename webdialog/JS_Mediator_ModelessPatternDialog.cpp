@@ -9,7 +9,9 @@ JS_Mediator_ModelessPatternDialog::JS_Mediator_ModelessPatternDialog(ZebHost* ho
 
 void JS_Mediator_ModelessPatternDialog::onClose() {
     bridgeCall(*this, [&] {
-        if (m_plugin) m_plugin->closeDialog();
+        if (m_plugin) {
+            m_plugin->closeDialog();
+        }
     });
 }
 
@@ -21,5 +23,7 @@ void JS_Mediator_ModelessPatternDialog::setTextBoxFocusState(bool focused) {
 }
 
 void JS_Mediator_ModelessPatternDialog::releaseTextBox() {
-    if (m_textBoxFocused) setTextBoxFocusState(false);
+    if (m_textBoxFocused) {
+        setTextBoxFocusState(false);
+    }
 }

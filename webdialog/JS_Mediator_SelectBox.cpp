@@ -41,11 +41,17 @@ JS_Mediator_SelectBox::JS_Mediator_SelectBox(ZebHost* host, QObject* parent)
 
 void JS_Mediator_SelectBox::showPartitions() {
     DOC_Interface* doc = currentCamera(host());
-    if (!doc) return;
+    if (!doc) {
+        return;
+    }
     QVariantList names;
     const PARTITIONNUMBER count = doc->control().getPartitionCount(0, 0);
-    for (PARTITIONNUMBER i = 1; i <= count; ++i) names.append(doc->getPartitionName(i));
-    if (host().isLiveMode()) names << QString() << host().translate(TextKey("Setting..."));
+    for (PARTITIONNUMBER i = 1; i <= count; ++i) {
+        names.append(doc->getPartitionName(i));
+    }
+    if (host().isLiveMode()) {
+        names << QString() << host().translate(TextKey("Setting..."));
+    }
     Q_EMIT signalShowPartition(names);
 }
 
@@ -80,22 +86,28 @@ void JS_Mediator_SelectBox::choice(const char* method, const QString& value, Wor
             work();
         });
     };
-    if (m_owner)
+    if (m_owner) {
         changingCall(*m_owner, name, args, call);
-    else
+    } else {
         call();
+    }
 }
 
 void JS_Mediator_SelectBox::slotNotifyPartition(const QString& value) {
     choice("slotNotifyPartition", value, [&] {
         DOC_Interface* doc = currentCamera(host());
-        if (!doc) return;
+        if (!doc) {
+            return;
+        }
         const PARTITIONNUMBER number = value.toUInt();
-        if (number < 1) return;
-        if (number <= doc->control().getPartitionCount(0, 0))
+        if (number < 1) {
+            return;
+        }
+        if (number <= doc->control().getPartitionCount(0, 0)) {
             choosePartition(number);
-        else if (host().isLiveMode())
+        } else if (host().isLiveMode()) {
             runPrefsDialog(host(), QStringLiteral("s_record"));
+        }
     });
 }
 
@@ -103,14 +115,18 @@ void JS_Mediator_SelectBox::choosePartition(PARTITIONNUMBER number) {
     host().cameraOps().setPartition(number, 1);
     ZebDocManager& docs = host().docManager();
     for (const DOCKEY key : docs.getSelectedDocKeys(0)) {
-        if (DOC_Interface* doc = docs.getDoc(key, 1)) doc->control().applyPartition(0);
+        if (DOC_Interface* doc = docs.getDoc(key, 1)) {
+            doc->control().applyPartition(0);
+        }
     }
 }
 
 void JS_Mediator_SelectBox::slotNotifyVariable(const QString& value) {
     choice("slotNotifyVariable", value, [&] {
         // The settings of variable recording are a page of the plug-in `livecontrol`, which offers no way to it here.
-        if (value == GoVariable) return;
+        if (value == GoVariable) {
+            return;
+        }
         DocumentGuard guard(host());
         host().cameraOps().setVariable(value.toUInt());
         guard.release();

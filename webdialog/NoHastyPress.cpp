@@ -8,11 +8,15 @@
 NoHastyPress::NoHastyPress(QMessageBox& box) : QObject(&box) {
     m_shown.start();
     const QList<QAbstractButton*> buttons = box.buttons();
-    for (QAbstractButton* button : buttons) button->installEventFilter(this);
+    for (QAbstractButton* button : buttons) {
+        button->installEventFilter(this);
+    }
 }
 
 bool NoHastyPress::eventFilter(QObject* button, QEvent* event) {
     const bool isPress = event->type() == QEvent::MouseButtonPress || event->type() == QEvent::MouseButtonDblClick;
-    if (isPress && !m_shown.hasExpired(QApplication::doubleClickInterval())) return true;
+    if (isPress && !m_shown.hasExpired(QApplication::doubleClickInterval())) {
+        return true;
+    }
     return QObject::eventFilter(button, event);
 }

@@ -32,14 +32,20 @@ QPoint keptOn(const QRect& screen, const QPoint& topLeft, const QSize& size) {
 void OverActiveWindow::rememberWindows() {
     QObject::connect(qApp, &QGuiApplication::focusWindowChanged, qApp, [] {
         QWidget* window = QApplication::activeWindow();
-        if (window != nullptr && !window->isModal()) lastWindow() = window;
+        if (window != nullptr && !window->isModal()) {
+            lastWindow() = window;
+        }
     });
 }
 
 OverActiveWindow::OverActiveWindow(QWidget& dialog)
     : m_before(lastingWindow(QApplication::activeWindow() ? QApplication::activeWindow() : lastWindow().data())) {
-    if (m_before == nullptr) return;
-    if (!m_before->isModal()) lastWindow() = m_before;
+    if (m_before == nullptr) {
+        return;
+    }
+    if (!m_before->isModal()) {
+        lastWindow() = m_before;
+    }
     // The parent stays the owner; what the dialog stands over is the native window's matter.
     dialog.winId();
     dialog.windowHandle()->setTransientParent(m_before->windowHandle());
@@ -52,8 +58,9 @@ OverActiveWindow::OverActiveWindow(QWidget& dialog)
 OverActiveWindow::~OverActiveWindow() {
     // A box that came over the dialog goes on.
     QWidget* modal = QApplication::activeModalWidget();
-    if (modal != nullptr)
+    if (modal != nullptr) {
         modal->activateWindow();
-    else if (m_before != nullptr && m_before->isVisible())
+    } else if (m_before != nullptr && m_before->isVisible()) {
         m_before->activateWindow();
+    }
 }

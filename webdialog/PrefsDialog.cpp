@@ -8,9 +8,13 @@
 
 int runPrefsDialog(ZebHost& host, const QString& page) {
     const TraceScope trace(QStringLiteral("JS_Mediator::openPrefsDialog"), traceArg(QStringLiteral("page"), page));
-    if (host.isLiveMode()) host.cameraOps().stopForPrefs();
+    if (host.isLiveMode()) {
+        host.cameraOps().stopForPrefs();
+    }
     ZebPrefsDialog* dialog = host.getPrefsDialog();
-    if (!dialog) return 0;
+    if (!dialog) {
+        return 0;
+    }
     dialog->setPage(host.translate(page));
     return dialog->exec();
 }

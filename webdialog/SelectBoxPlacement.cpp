@@ -26,6 +26,8 @@ QRect placeSelectBox(const SelectBoxLayout& layout) {
 }
 
 std::optional<int> selectBoxScroll(int rows, int rowHeight, int selected) {
-    if (selected < 0 || rows * rowHeight <= SelectBoxMaxHeight) return std::nullopt;
+    if (selected < 0 || rows * rowHeight <= SelectBoxMaxHeight) {
+        return std::nullopt;
+    }
     return selected * rowHeight;
 }

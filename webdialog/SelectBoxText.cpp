@@ -29,9 +29,15 @@ bool isIdeograph(uint character) {
 SelectBoxFont selectBoxFont(uint character) {
     const QString latin = QStringLiteral("Segoe UI");
     const QString meiryo = QStringLiteral("\u30E1\u30A4\u30EA\u30AA");
-    if (isLower(character)) return {latin, 15, 15};
-    if (isUpper(character)) return {latin, 16, 16};
-    if (isIdeograph(character)) return {meiryo, 14, 14};
+    if (isLower(character)) {
+        return {latin, 15, 15};
+    }
+    if (isUpper(character)) {
+        return {latin, 16, 16};
+    }
+    if (isIdeograph(character)) {
+        return {meiryo, 14, 14};
+    }
     return {meiryo, 17, 17};
 }
 

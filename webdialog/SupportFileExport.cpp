@@ -22,7 +22,9 @@ constexpr auto LastDirectory = "support/dir";
 /// Runs on a worker's thread.
 void writeFile(ZebHost* host, const QString& path, const ZebSupportFile& file) {
     try {
-        if (!host->exportSupportFile(path, file)) throw APP_Exception(TextKey("Failed to save support file."));
+        if (!host->exportSupportFile(path, file)) {
+            throw APP_Exception(TextKey("Failed to save support file."));
+        }
     } catch (const APP_Exception& e) {
         throw APP_ConcurrentException(e);
     } catch (const std::exception& e) {  // else the worker would drop the text
@@ -52,17 +54,25 @@ private:
 QStringList supportFileContents(bool cameraLog, bool tableWindow) {
     QStringList contents = {TextKey("- Camera setting values"), TextKey("- ZEB setting values"),
                             TextKey("- ZEB operation log"), TextKey("- SDK operation log")};
-    if (cameraLog) contents += TextKey("- Camera log");
+    if (cameraLog) {
+        contents += TextKey("- Camera log");
+    }
     contents += {TextKey("- PC environment"), TextKey("- ZEB version"), TextKey("- ZEB full screen capture")};
-    if (tableWindow) contents += TextKey("- WREN window screen capture");
+    if (tableWindow) {
+        contents += TextKey("- WREN window screen capture");
+    }
     contents += TextKey("- Currently displayed image data (1 frame)");
     return contents;
 }
 
 void SupportFileExport::run() {
-    if (!userAgrees()) return;
+    if (!userAgrees()) {
+        return;
+    }
     const QString path = askPath();
-    if (path.isEmpty()) return;
+    if (path.isEmpty()) {
+        return;
+    }
     write(path);
     m_host.info(m_host.translate(TextKey("Please attach preserved file to a mail.")), nullptr);
     m_host.setPref(QLatin1String(LastDirectory), QFileInfo(path).path());
@@ -72,8 +82,9 @@ bool SupportFileExport::userAgrees() {
     QString question =
         m_host.translate(TextKey("The information below will be output in ZIP file format. Do you want to proceed?")) %
         QStringLiteral("<br>");
-    for (const QString& content : supportFileContents(hasCameraLog(), m_host.hasWrenWindow()))
+    for (const QString& content : supportFileContents(hasCameraLog(), m_host.hasWrenWindow())) {
         question += QStringLiteral("<br>") % m_host.translate(content);
+    }
     return m_host.confirmModal(question, m_host.getMainWindow(), {});
 }
 

@@ -5,6 +5,8 @@
 
 std::optional<QString> readTextResource(const QString& path) {
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly | QIODevice::Text)) return std::nullopt;
+    if (!file.open(QIODevice::ReadOnly | QIODevice::Text)) {
+        return std::nullopt;
+    }
     return QString::fromUtf8(file.readAll());
 }

@@ -7,8 +7,9 @@ UTL_CustomAction::UTL_CustomAction(const QString& text, const QVariant& variant,
 }
 
 void UTL_CustomAction::slotTriggered() {
-    if (m_map.isEmpty())
+    if (m_map.isEmpty()) {
         Q_EMIT signalTriggered(m_variant);
-    else
+    } else {
         Q_EMIT signalTriggeredMap(m_map);
+    }
 }

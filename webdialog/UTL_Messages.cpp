@@ -47,19 +47,24 @@ QMessageBox* makeWarning(const QString& text, const ZebHost& host, QWidget* pare
     const BoxText fitting = fitIntoBox(whole);
     auto* box = new QMessageBox(QMessageBox::Warning, translated(TextKey("Warning")), fitting.head,
                                 QMessageBox::Ok | QMessageBox::Cancel, parent);
-    if (fitting.cut) box->setDetailedText(whole);
+    if (fitting.cut) {
+        box->setDetailedText(whole);
+    }
     box->setObjectName(QLatin1String(BoxName));
     box->setTextFormat(Qt::PlainText);
     box->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     box->button(QMessageBox::Cancel)->setText(host.translate(TextKey("Cancel")));
     for (auto it = buttonTexts.begin(); it != buttonTexts.end(); ++it) {
         QAbstractButton* button = box->button(static_cast<QMessageBox::StandardButton>(it.key()));
-        if (button) button->setText(translated(it.value()));
+        if (button) {
+            button->setText(translated(it.value()));
+        }
     }
-    if (buttonTexts.isEmpty())
+    if (buttonTexts.isEmpty()) {
         applyNativeStyle(host, *box);
-    else
+    } else {
         applyMessageBoxStyle(host, *box);
+    }
     new NoHastyPress(*box);
     return box;
 }
@@ -72,7 +77,9 @@ bool UTL_Messages::warnOkCancel(const QString& text, ZebHost& host, QWidget* par
     // The box goes with its parent, which may be destroyed while it stands.
     const QPointer<QMessageBox> box = makeWarning(shown, host, parent ? parent : host.getMainWindow(), buttonTexts);
     const bool suspended = host.isViewerRunning();
-    if (suspended) host.suspendViewer();
+    if (suspended) {
+        host.suspendViewer();
+    }
     int result = QMessageBox::Cancel;
     {
         const OverActiveWindow over(*box);
@@ -81,7 +88,9 @@ bool UTL_Messages::warnOkCancel(const QString& text, ZebHost& host, QWidget* par
         result = box->exec();
         delete box;
     }
-    if (suspended) host.resumeViewer();
+    if (suspended) {
+        host.resumeViewer();
+    }
     qInfo() << QString(QLatin1Char('[') % shown % QStringLiteral("][result:") % buttonName(result) % QLatin1Char(']'));
     return result == QMessageBox::Ok;
 }
@@ -89,6 +98,8 @@ bool UTL_Messages::warnOkCancel(const QString& text, ZebHost& host, QWidget* par
 void UTL_Messages::rejectAll() {
     const QWidgetList windows = QApplication::topLevelWidgets();
     for (QWidget* window : windows) {
-        if (window->objectName() == QLatin1String(BoxName)) qobject_cast<QDialog*>(window)->reject();
+        if (window->objectName() == QLatin1String(BoxName)) {
+            qobject_cast<QDialog*>(window)->reject();
+        }
     }
 }

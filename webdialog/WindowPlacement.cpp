@@ -11,7 +11,9 @@ QPoint centeredTopLeft(const QRect& area, const QSize& frame) {
 }
 
 void centerWithoutMainWindow(const ZebHost& host, QWidget& window) {
-    if (host.getMainWindow()) return;
+    if (host.getMainWindow()) {
+        return;
+    }
     const QList<QScreen*> screens = QGuiApplication::screens();
     const QScreen* screen = screens.value(host.getPrefInt(QStringLiteral("main/scrno")), window.screen());
     window.move(centeredTopLeft(screen->geometry(), window.frameGeometry().size()));

@@ -23,7 +23,9 @@ constexpr int GiveUp = 60000;
 }  // namespace
 
 void called(const char* operation, bool mayThrow) {
-    if (current && current->onCall && QThread::currentThread() == qApp->thread()) current->onCall(operation, mayThrow);
+    if (current && current->onCall && QThread::currentThread() == qApp->thread()) {
+        current->onCall(operation, mayThrow);
+    }
 }
 
 OtherHost::OtherHost() {
@@ -32,7 +34,9 @@ OtherHost::OtherHost() {
     initHostPages();
     prepareModes();
     prepareDocuments();
-    for (const DOCKEY key : {1, 2, 3}) addCamera(key);
+    for (const DOCKEY key : {1, 2, 3}) {
+        addCamera(key);
+    }
     preparePrefs();
     prepareBoxes();
     prepareWorkers();
@@ -63,10 +67,14 @@ void OtherHost::open() {
                                            [this] { plugin->getDialog(true); }, [this] { plugin->showDialog(); }};
     try {
         for (const auto& step : steps) {
-            if (plugin) step();
+            if (plugin) {
+                step();
+            }
         }
     } catch (const std::exception& e) {
-        if (*e.what()) errorHandler(e);
+        if (*e.what()) {
+            errorHandler(e);
+        }
     }
 }
 
@@ -87,7 +95,9 @@ QString OtherHost::run(const QString& script) {
 
 void OtherHost::show(int tab) {
     const QString active = "$('#tabs').tabs('option', 'active'%1)";
-    if (run(active.arg("")).toInt() == tab) return;
+    if (run(active.arg("")).toInt() == tab) {
+        return;
+    }
     run(QString("void " + active).arg(", %1").arg(tab));
     update();
 }
@@ -100,14 +110,18 @@ QStringList OtherHost::rows() {
 }
 
 void OtherHost::rest() {
-    for (const auto& camera : cameras) camera->state = {};
+    for (const auto& camera : cameras) {
+        camera->state = {};
+    }
     mode = zeb::LiveMode;
 }
 
 QStringList OtherHost::windows() const {
     QStringList names;
     for (const QWidget* widget : QApplication::topLevelWidgets()) {
-        if (widget->isVisible()) names.append(QLatin1String(widget->metaObject()->className()));
+        if (widget->isVisible()) {
+            names.append(QLatin1String(widget->metaObject()->className()));
+        }
     }
     return names;
 }
@@ -130,14 +144,18 @@ void OtherHost::prepareModes() {
     appStatusPart.onGetPlugin = [this](const QString& name) { return name == "wren" ? plugin.get() : nullptr; };
     appStatusPart.onClosePlugin = [this](const QString& name) {
         // Read here too, as a host may that has destroyed the plug-in.
-        if (name.size() == 4 && plugin) plugin->deactivate();
+        if (name.size() == 4 && plugin) {
+            plugin->deactivate();
+        }
     };
 }
 
 DocKeyList OtherHost::keys(bool Camera::State::*which) const {
     DocKeyList found;
     for (const auto& camera : cameras) {
-        if (!which || camera->state.*which) found.append(camera->doc.onGetKey());
+        if (!which || camera->state.*which) {
+            found.append(camera->doc.onGetKey());
+        }
     }
     return found;
 }
@@ -154,17 +172,23 @@ void OtherHost::prepareDocuments() {
     docs.onGetLiveDocKeys = [this](int, int) { return keys(nullptr); };
     docs.onGetCameraDocs = [this] {
         DocList list;
-        for (const auto& camera : cameras) list.append(&camera->doc);
+        for (const auto& camera : cameras) {
+            list.append(&camera->doc);
+        }
         return list;
     };
     docs.onGetSyncableDocs = [this](int) { return docManagerPart.onGetCameraDocs(); };
     docs.onSelectDoc = [find](DOCKEY key) { find(key)->state.selected = true; };
     docs.onDeselectDoc = [find](DOCKEY key) { find(key)->state.selected = false; };
     docs.onConnectDocs = [find](const DocKeyList& list) {
-        for (const DOCKEY key : list) find(key)->state.connected = true;
+        for (const DOCKEY key : list) {
+            find(key)->state.connected = true;
+        }
     };
     docs.onDisconnectDocs = [find](const DocKeyList& list) {
-        for (const DOCKEY key : list) find(key)->state.connected = false;
+        for (const DOCKEY key : list) {
+            find(key)->state.connected = false;
+        }
     };
     docs.onSharesDeviceWithLockedHead = [](DOC_Interface*, bool, bool) { return true; };
     docs.onGetDocMutex = [this] { return &m_docMutex; };
@@ -208,7 +232,9 @@ void OtherHost::prepareControl(DOCKEY key, OtherDOC_Control& control) {
 }
 
 QVariant OtherHost::pref(const QString& key, const QVariant& defaultValue) const {
-    if (key.startsWith("wren/display/")) return true;
+    if (key.startsWith("wren/display/")) {
+        return true;
+    }
     return prefs.value(key, defaultValue);
 }
 
@@ -252,7 +278,9 @@ void OtherHost::prepareWorkers() {
         m_watched.release();
         QEventLoop loop;
         QObject::connect(&watcher, &QFutureWatcherBase::finished, &loop, &QEventLoop::quit);
-        if (!watcher.isFinished()) loop.exec();
+        if (!watcher.isFinished()) {
+            loop.exec();
+        }
     };
     onExportSupportFile = [this](const QString&, const ZebSupportFile&) {
         m_watched.acquire();
@@ -268,15 +296,23 @@ void OtherHost::prepareWorkers() {
 /// The modal windows that the plug-in opens by itself.
 void OtherHost::lookForModal() {
     QWidget* modal = QApplication::activeModalWidget();
-    if (modal == m_modal) return;
+    if (modal == m_modal) {
+        return;
+    }
     m_modal = modal;
-    if (!m_modal) return;
+    if (!m_modal) {
+        return;
+    }
     const QByteArray name = modal->metaObject()->className();
-    if (onCall) onCall(name, false);
+    if (onCall) {
+        onCall(name, false);
+    }
     if (name == "GUI_SyncProgress") {
         m_watched.release();
     } else if (auto* dialog = qobject_cast<QDialog*>(m_modal)) {
-        if (auto* files = qobject_cast<QFileDialog*>(dialog)) files->selectFile("/tmp/support.zip");
+        if (auto* files = qobject_cast<QFileDialog*>(dialog)) {
+            files->selectFile("/tmp/support.zip");
+        }
         agrees ? dialog->accept() : dialog->reject();
     }
 }
@@ -295,21 +331,29 @@ void OtherHost::preparePages() {
         bridge = attached;
     };
     onUpdateUI = [this](unsigned int, bool) {
-        if (std::exchange(m_owed, true)) return;
+        if (std::exchange(m_owed, true)) {
+            return;
+        }
         QMetaObject::invokeMethod(
             &m_pageObject, [this] { runCycle(); }, Qt::QueuedConnection);
     };
     onDeterUpdateUI = [this](bool deter) {
         m_deterred += deter ? 1 : -1;
-        if (m_deterred == 0 && std::exchange(m_owed, false)) onUpdateUI(zeb::UpdateAll, true);
+        if (m_deterred == 0 && std::exchange(m_owed, false)) {
+            onUpdateUI(zeb::UpdateAll, true);
+        }
     };
 }
 
 void OtherHost::runCycle() {
-    if (m_deterred > 0) return;
+    if (m_deterred > 0) {
+        return;
+    }
     m_owed = false;
     try {
-        if (plugin) plugin->updateDialog(mode);
+        if (plugin) {
+            plugin->updateDialog(mode);
+        }
     } catch (const std::exception& e) {
         onErrorHandler(e);
     }

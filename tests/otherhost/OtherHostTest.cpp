@@ -53,7 +53,9 @@ const Act Closed{"closed", [](OtherHost& host) { host.openWhole(); }, [](OtherHo
 Act lookedAt(int tab) {
     return {"tab " + std::to_string(tab),
             [tab](OtherHost& host) {
-                if (!host.view) host.openWhole();
+                if (!host.view) {
+                    host.openWhole();
+                }
                 host.show(tab == 0 ? 1 : 0);
             },
             [tab](OtherHost& host) {
@@ -79,9 +81,13 @@ std::vector<Act> pageActs() {
     const QMetaObject& type = *host.bridge->metaObject();
     for (int i = QObject::staticMetaObject.methodCount(); i < type.methodCount(); ++i) {
         const QMetaMethod method = type.method(i);
-        if (method.methodType() != QMetaMethod::Slot || method.name() == "deterUpdateUI") continue;
+        if (method.methodType() != QMetaMethod::Slot || method.name() == "deterUpdateUI") {
+            continue;
+        }
         QStringList arguments;
-        for (const QByteArray& argument : method.parameterTypes()) arguments << values.value(argument, "1");
+        for (const QByteArray& argument : method.parameterTypes()) {
+            arguments << values.value(argument, "1");
+        }
         calls << QString("%1(%2)").arg(method.name(), arguments.join(", "));
     }
     std::vector<Act> acts;
@@ -98,7 +104,9 @@ Operations operationsOf(const Act& act) {
     OtherHost host;
     act.prepare(host);
     host.onCall = [&operations](const QByteArray& operation, bool mayThrow) {
-        if (mayThrow) operations << operation;
+        if (mayThrow) {
+            operations << operation;
+        }
     };
     act.act(host);
     return operations;
@@ -109,7 +117,9 @@ void fail(OtherHost& host, const Act& act, const QByteArray& operation, bool alw
     act.prepare(host);
     bool over = false;
     host.onCall = [&](const QByteArray& name, bool) {
-        if (name == operation && (always || !std::exchange(over, true))) throw std::runtime_error("no answer");
+        if (name == operation && (always || !std::exchange(over, true))) {
+            throw std::runtime_error("no answer");
+        }
     };
     act.act(host);
     host.onCall = nullptr;
@@ -206,14 +216,18 @@ TEST_F(OtherHostTest, isWholeAgainAfterAFaultAtItsOpening) {
         SCOPED_TRACE(act.name + ", " + operation.toStdString() + (always ? ", always" : ", at first"));
         OtherHost host;
         fail(host, act, operation, always);
-        if (!host.plugin->isDialogVisible()) host.openWhole();
+        if (!host.plugin->isDialogVisible()) {
+            host.openWhole();
+        }
         expectWhole(host);
     };
     for (const QByteArray& operation : operationsOf(Opened)) {
         expectWholeAfter(Opened, operation, false);
         expectWholeAfter(Opened, operation, true);
     }
-    for (const QByteArray& operation : operationsOf(Loading)) expectWholeAfter(Loading, operation, true);
+    for (const QByteArray& operation : operationsOf(Loading)) {
+        expectWholeAfter(Loading, operation, true);
+    }
 }
 
 TEST_F(OtherHostTest, isWholeAgainAfterAFaultOnATab) {
@@ -249,7 +263,9 @@ TEST_F(OtherHostTest, letsNoFailureOutOfACallOfItsPage) {
     host.openWhole();
     for (const Act& act : acts) {
         host.onCall = [](const QByteArray&, bool mayThrow) {
-            if (mayThrow) throw std::runtime_error("no answer");
+            if (mayThrow) {
+                throw std::runtime_error("no answer");
+            }
         };
         EXPECT_NO_THROW(act.act(host)) << act.name;
     }
@@ -273,7 +289,9 @@ TEST_F(OtherHostTest, bearsEveryRefusal) {
 
 TEST_F(OtherHostTest, mayBeDestroyedAtEachOfTheMoments) {
     std::vector<Act> acts{Opened, OpenedAgain, Activated, Closed};
-    for (const Act& act : pageActs()) acts.push_back(act);
+    for (const Act& act : pageActs()) {
+        acts.push_back(act);
+    }
     Operations missing(Moments.begin(), Moments.end());
     std::optional<OtherHost> host;
     int loads = 0;
@@ -288,7 +306,9 @@ TEST_F(OtherHostTest, mayBeDestroyedAtEachOfTheMoments) {
             act.prepare(*host);
             left = count;
             host->onCall = [&](const QByteArray& operation, bool) {
-                if (!Moments.contains(operation) || --left != 0) return;
+                if (!Moments.contains(operation) || --left != 0) {
+                    return;
+                }
                 missing.remove(operation);
                 host->unload();
             };
@@ -310,8 +330,12 @@ TEST_F(OtherHostTest, mayBeDestroyedInTheBoxOfItsFailure) {
             OtherHost host;
             act.prepare(host);
             host.onCall = [&](const QByteArray& name, bool) {
-                if (name == operation) throw std::runtime_error("no answer");
-                if (name != "ZebHost::errorHandler") return;
+                if (name == operation) {
+                    throw std::runtime_error("no answer");
+                }
+                if (name != "ZebHost::errorHandler") {
+                    return;
+                }
                 ++destroyed;
                 host.unload();
             };
@@ -396,11 +420,15 @@ TEST_F(OtherHostTest, endsItsSessionHoweverItCloses) {
             host.running = host.running && !destroyed;
             expectOver(host);
             EXPECT_EQ(activeTimers(host.prefs["wren/table/interval"].toInt()), 0);
-            if (destroyed) continue;
+            if (destroyed) {
+                continue;
+            }
             EXPECT_EQ(host.errors, standing.told);
             standing.hasPage ? host.openWhole() : host.open();
             EXPECT_TRUE(host.prefs[RecAll].toBool());
-            if (standing.hasPage) expectWhole(host);
+            if (standing.hasPage) {
+                expectWhole(host);
+            }
         }
     }
 }

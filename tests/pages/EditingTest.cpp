@@ -139,7 +139,9 @@ TEST(PageEditing, ARefusedChangeShowsWhatTheCameraAnswers) {
         test.camera(2).change({{"lowLight", true}});
         page.update();
         if (!c.clamped) {
-            for (const DOCKEY key : {1, 2}) test.host.faults().plant(key, c.operation, Fault{"no"});
+            for (const DOCKEY key : {1, 2}) {
+                test.host.faults().plant(key, c.operation, Fault{"no"});
+            }
         }
         EXPECT_EQ(page.text(c.shown), c.answer);
         // The update after the change does not reach the page, so that the tick is what mends the cell.

@@ -34,7 +34,9 @@ const char* Changed =
 
 /// The cells that show something else than before because the camera did not tell an `operation`.
 QString standing(const QString& operation) {
-    if (operation == "isConnected") return "['connectIcon', 'connectionStatus', 'cameraName']";
+    if (operation == "isConnected") {
+        return "['connectIcon', 'connectionStatus', 'cameraName']";
+    }
     // The pencil beside the name is there, and the switch open, when the camera has told what rules its controls.
     const QStringList ruling{"getCameraName", "isParamLocked", "isMobileSelected", "isRecordCheck"};
     return ruling.contains(operation) ? "['cameraName', 'connectionStatus']" : "[]";
@@ -206,7 +208,9 @@ TEST_F(PageFailures, APressThatMeetsAFaultIsToldAndLeavesTheTableWhole) {
             press();
             test.host.faults().clear();
             // A cancel that failed has left them as they were.
-            for (Camera* camera : test.host.cameras().all()) camera->enterRecordState(zeb::RecordLive);
+            for (Camera* camera : test.host.cameras().all()) {
+                camera->enterRecordState(zeb::RecordLive);
+            }
             test.host.recorder().proceed();
             page->update();
             page->tick();

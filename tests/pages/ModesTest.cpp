@@ -113,8 +113,9 @@ TEST(PageModes, NoHiddenTabComesToTheFront) {
     TestHost test(Rig::standard(4));
     TablePage page(test, 6);
     page.show(2);
-    for (const char* key : {"wren/display/syncTab", "wren/display/memoryPluginTab"})
+    for (const char* key : {"wren/display/syncTab", "wren/display/memoryPluginTab"}) {
         test.host.prefs().setValue(QString::fromLatin1(key), false);
+    }
     page.tick();
     EXPECT_EQ(page.number(ActiveTab), 0) << "its header has gone";
     test.host.appStatus().enterMode(zeb::MemoryMode);

@@ -69,7 +69,9 @@ TEST(PageSelection, ShowsNothingThatTheCamerasDoNotHave) {
     TestHost test(connected(2));
     TablePage page(test);
     choose(test, {"2"});
-    for (const DOCKEY key : {1U, 2U}) test.camera(key).set(&CameraState::recordState, int(zeb::RecordReady));
+    for (const DOCKEY key : {1U, 2U}) {
+        test.camera(key).set(&CameraState::recordState, int(zeb::RecordReady));
+    }
     test.host.recorder().startRecReady();
     page.update();
     EXPECT_EQ(page.list("probe.selected()"), QStringList());

@@ -21,12 +21,16 @@ TEST(PageSessions, leaveNothingBehind) {
         ASSERT_EQ(page.number("probe.drawn().length"), 8) << round;
     };
     Leftovers::now();
-    for (int round = 0; round < 10; ++round) session(round);
+    for (int round = 0; round < 10; ++round) {
+        session(round);
+    }
     test.desk.shown.clear();
     const Leftovers first = Leftovers::now();
     constexpr int Sessions = 200;
     constexpr double Others = 20;
-    for (int round = 0; round < Sessions; ++round) session(round);
+    for (int round = 0; round < Sessions; ++round) {
+        session(round);
+    }
     const Leftovers last = Leftovers::now();
     std::cout << "after " << Sessions << " sessions: ";
     PrintTo(last, &std::cout);

@@ -106,7 +106,9 @@ TEST_F(PageSync, ShowsWhatCanBeDone) {
          "hub go"},
         {"no camera can be synchronised",
          [this] {
-             for (const DOCKEY key : {1U, 2U}) test.camera(key).set(&CameraState::connected, false);
+             for (const DOCKEY key : {1U, 2U}) {
+                 test.camera(key).set(&CameraState::connected, false);
+             }
          },
          "hub"},
         {"the user does not want to see it", [this] { pref("wren/display/externalSync", false); }, "hidden"},

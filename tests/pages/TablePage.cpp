@@ -99,7 +99,9 @@ void TablePage::settle() {
     const auto done = [this] { return !m_test.host.updates().isPending(); };
     QEventLoop loop;
     const auto quitWhenDone = [&] {
-        if (done()) loop.exit();
+        if (done()) {
+            loop.exit();
+        }
     };
     QObject::connect(&m_test.host.events(), &HostEvents::updateFinished, &loop, quitWhenDone, Qt::QueuedConnection);
     QTimer patience;
@@ -251,14 +253,18 @@ void choose(TestHost& test, const QStringList& keys) {
 QStringList camerasWith(TestHost& test, bool CameraState::*property) {
     QStringList keys;
     for (const Camera* camera : test.host.cameras().all()) {
-        if (camera->get(property)) keys << QString::number(camera->key());
+        if (camera->get(property)) {
+            keys << QString::number(camera->key());
+        }
     }
     return keys;
 }
 
 Rig connected(int cameras) {
     Rig rig = Rig::standard(cameras);
-    for (RigDevice& device : rig.devices) device.heads.first().connected = true;
+    for (RigDevice& device : rig.devices) {
+        device.heads.first().connected = true;
+    }
     return rig;
 }
 

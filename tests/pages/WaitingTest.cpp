@@ -29,7 +29,9 @@ protected:
     /// Runs `work` while the next box stands, and nothing while later ones do.
     void onFirstBox(const std::function<void()>& work) {
         test.desk.whileStanding = [this, work] {
-            if (!std::exchange(m_boxSeen, true)) work();
+            if (!std::exchange(m_boxSeen, true)) {
+                work();
+            }
         };
     }
     bool comesATick() {

@@ -84,21 +84,30 @@ public:
     explicit Walk(unsigned seed) : m_random(seed) {
         Leftovers::now();
         m_test.host.prefs().setValue("wren/display/lock", true);
-        for (DOCKEY key = 1; key <= 8; ++key) m_test.camera(key).set(&CameraState::connected, key != 5);
+        for (DOCKEY key = 1; key <= 8; ++key) {
+            m_test.camera(key).set(&CameraState::connected, key != 5);
+        }
         m_page = std::make_unique<TablePage>(m_test, 1);
         // The user reads the boxes of the plug-in itself and presses something.
         QObject::connect(&m_user, &QTimer::timeout, [this] {
-            if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget()))
+            if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
                 box->buttons().at(upTo(box->buttons().size()))->click();
-            if (QWidget* popup = QApplication::activePopupWidget()) popup->close();
+            }
+            if (QWidget* popup = QApplication::activePopupWidget()) {
+                popup->close();
+            }
         });
         m_user.start(2);
     }
 
     /// What was done, for the reader of a failure.
     QString step() {
-        if (upTo(6) == 0) m_test.host.faults().plantAt(1 + upTo(60), Fault{"no answer", 0, false});
-        for (int n = upTo(3); n > 0; --n) m_test.desk.answers.append({upTo(3) != 0, upTo(8) == 0});
+        if (upTo(6) == 0) {
+            m_test.host.faults().plantAt(1 + upTo(60), Fault{"no answer", 0, false});
+        }
+        for (int n = upTo(3); n > 0; --n) {
+            m_test.desk.answers.append({upTo(3) != 0, upTo(8) == 0});
+        }
         const QString done = act();
         m_page->settle();
         m_test.host.faults().plantAt(0, {});
@@ -144,8 +153,12 @@ private:
 
     QString act() {
         const int kind = upTo(23);
-        if (kind < 9) return click();
-        if (kind < 13) return changeCamera();
+        if (kind < 9) {
+            return click();
+        }
+        if (kind < 13) {
+            return changeCamera();
+        }
         switch (kind) {
             case 13:
                 return letTimePass();
@@ -176,7 +189,9 @@ private:
 
     QString click() {
         const QString control = m_page->text(QString(MarkControl).arg(upTo(1000000)));
-        if (control.isEmpty()) return "nothing to click";
+        if (control.isEmpty()) {
+            return "nothing to click";
+        }
         m_page->click("[walk]", upTo(4) == 0 ? Qt::ControlModifier : Qt::NoModifier);
         m_page->run("$('[walk]').removeAttr('walk'); return 0");
         return "clicks " + control;
@@ -205,7 +220,9 @@ private:
     QString plug() {
         const bool on = upTo(4) != 0;
         const CameraDevice& device = anyCamera().device();
-        for (const auto& head : device.heads()) head->set(&CameraState::connected, on);
+        for (const auto& head : device.heads()) {
+            head->set(&CameraState::connected, on);
+        }
         return QString("camera %1 is %2").arg(device.heads().front()->key()).arg(on ? "plugged in" : "unplugged");
     }
 
@@ -222,7 +239,9 @@ private:
         m_test.host.faults().plant(m_silent, m_unanswered, {});
         m_silent = anyCamera().key();
         m_unanswered = anyOf(Operations);
-        if (upTo(2) == 0) m_test.host.faults().plant(m_silent, m_unanswered, Fault{"no answer"});
+        if (upTo(2) == 0) {
+            m_test.host.faults().plant(m_silent, m_unanswered, Fault{"no answer"});
+        }
         return QString("camera %1 falls silent at %2").arg(m_silent).arg(m_unanswered);
     }
 
@@ -233,7 +252,9 @@ private:
     }
 
     QString vanish() {
-        if (++m_vanished > MostVanished) return "nothing";
+        if (++m_vanished > MostVanished) {
+            return "nothing";
+        }
         Camera& camera = anyCamera();
         const QString operation = anyOf(QStringList{"*", "setRecordRate", "getRecordRate", "arm", "trigger"});
         m_test.host.faults().plant(camera.key(), operation, Fault{{}, 0, true});
@@ -267,27 +288,37 @@ private:
         QStringList lines;
         for (const DOCKEY key : m_test.host.docManager().getDocKeys()) {
             DOC_Interface* doc = m_test.host.docManager().getDocAny(key);
-            if (doc == nullptr || key == m_silent) continue;
+            if (doc == nullptr || key == m_silent) {
+                continue;
+            }
             const CameraState state = m_test.camera(key).state();
             const bool locked = tab < 5 && state.connected && !state.lowLight && state.locked;
             QStringList line{QString::number(key), state.name,
                              !disabled && state.connected && doc->isSelected() ? "selected" : "",
                              locked ? "locked" : ""};
-            if (tab == 1) line << settings(state);
-            if (tab == 5) line << frames(*doc);
+            if (tab == 1) {
+                line << settings(state);
+            }
+            if (tab == 5) {
+                line << frames(*doc);
+            }
             lines << line.join(" | ");
         }
         return lines;
     }
 
     static QStringList settings(const CameraState& state) {
-        if (!state.connected) return {"-", "-"};
+        if (!state.connected) {
+            return {"-", "-"};
+        }
         return {QString::number(state.rate),
                 QString("%1 x %2").arg(state.resolution.width()).arg(state.resolution.height())};
     }
 
     static QStringList frames(DOC_Interface& doc) {
-        if (!doc.isConnected() || doc.frames().getFrameCount(0, 0) == 0) return {"-", "-", "-", "-"};
+        if (!doc.isConnected() || doc.frames().getFrameCount(0, 0) == 0) {
+            return {"-", "-", "-", "-"};
+        }
         const DOC_Frames& frames = doc.frames();
         const DOC_Control& control = doc.control();
         const int trigger = frames.getTriggerFrame(0);

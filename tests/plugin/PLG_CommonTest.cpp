@@ -164,7 +164,9 @@ TEST_F(PLG_CommonTest, isAvailableInTheModesOfItsMask) {
     TestPlugin plugin(&host);
     plugin.m_modeMask = 5;
     std::vector<bool> available;
-    for (int mode = -1; mode <= 3; ++mode) available.push_back(plugin.isAvailableInMode(mode));
+    for (int mode = -1; mode <= 3; ++mode) {
+        available.push_back(plugin.isAvailableInMode(mode));
+    }
     EXPECT_THAT(available, ElementsAre(false, true, false, true, false));
 
     plugin.setOptionForMode(true);

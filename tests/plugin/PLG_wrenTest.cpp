@@ -66,7 +66,9 @@ TEST_F(PLG_wrenTest, tellsTheHostThatItRuns) {
 
 TEST_F(PLG_wrenTest, asksBeforeItErases) {
     const auto record = [this] {
-        for (const DOCKEY key : {1, 3}) host.camera(key).set(&CameraState::recorded, true);
+        for (const DOCKEY key : {1, 3}) {
+            host.camera(key).set(&CameraState::recorded, true);
+        }
     };
     const auto recordAndMeanwhile = [&](const std::function<void()>& work) {
         return [&, work] { record(), host.desk.whileStanding = work; };
@@ -134,8 +136,9 @@ TEST_F(PLG_wrenTest, endsTheOpeningWithoutATextWhenTheUserRefuses) {
 TEST_F(PLG_wrenTest, bearsEverySignalWithoutATable) {
     int raised = 0;
     for (const char* signal : {"signalRecord", "signalSaveFile", "signalSaveLayout", "signalEndRecording",
-                               "signalDisconnect", "signalStartAutoUpdate", "signalStopAutoUpdate"})
+                               "signalDisconnect", "signalStartAutoUpdate", "signalStopAutoUpdate"}) {
         raised += raise(signal);
+    }
     plugin->slotScreenShot(QStringLiteral("/nowhere/a.png"));
     EXPECT_EQ(raised, 7);
     EXPECT_THAT(taken(), IsEmpty());
@@ -165,7 +168,9 @@ TEST_F(PLG_wrenTest, takesTheHostsKeysWhileItsTableIsInFront) {
     QStringList asked;
     const QObject untilTheEnd;
     QObject::connect(&host.journal(), &Journal::recorded, &untilTheEnd, [&](const QString& call) {
-        if (ofTheKeys.contains(call)) asked << call;
+        if (ofTheKeys.contains(call)) {
+            asked << call;
+        }
     });
     openTable();
     host.prefs().setValue("wren/display/lock", false);

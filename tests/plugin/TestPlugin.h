@@ -70,9 +70,11 @@ protected:
     /// What the host was asked, in order; texts for a readable difference.
     std::vector<std::string> taken() {
         std::vector<std::string> entries;
-        for (const QString& entry : course.take())
-            if (!entry.startsWith(QLatin1String("info: ")) && entry != QLatin1String("notifyPluginShown"))
+        for (const QString& entry : course.take()) {
+            if (!entry.startsWith(QLatin1String("info: ")) && entry != QLatin1String("notifyPluginShown")) {
                 entries.push_back(entry.toStdString());
+            }
+        }
         return entries;
     }
 

@@ -83,9 +83,10 @@ TEST(ToolRectangle, findsTheHandleNearAPoint) {
         {"at zoom 0.5 the tolerance is ten pixels", {200, 40}, 0.5, Tool::TopEdge},
         {"at zoom 8 one pixel of tolerance is left", {200, 49}, 8.0, Tool::TopEdge},
     };
-    for (const auto& row : rows)
+    for (const auto& row : rows) {
         EXPECT_EQ(Tool(Image, {0, false, false, row.zoom}, free()).handleAt(Rect, row.point), row.handle)
             << row.sentence;
+    }
 }
 
 TEST(ToolRectangle, followsTheMouse) {

@@ -19,10 +19,13 @@ bool showsFrame(const QImage& picture, const QString& camera, qint64 number, qin
 
 /// As "-4..3"; numbers that do not follow each other stand one by one.
 QString rangeText(const QList<qint64>& numbers) {
-    if (numbers.last() - numbers.first() + 1 == numbers.size())
+    if (numbers.last() - numbers.first() + 1 == numbers.size()) {
         return QStringLiteral("%1..%2").arg(numbers.first()).arg(numbers.last());
+    }
     QStringList texts;
-    for (const qint64 number : numbers) texts << QString::number(number);
+    for (const qint64 number : numbers) {
+        texts << QString::number(number);
+    }
     return texts.join(QLatin1Char(' '));
 }
 

@@ -20,7 +20,9 @@ QString levelName(QtMsgType level) {
 }
 
 void noteLogLine(QtMsgType level, const QMessageLogContext&, const QString& line) {
-    if (line.startsWith(QLatin1String("This plugin does not support"))) return;  // the offscreen platform's own
+    if (line.startsWith(QLatin1String("This plugin does not support"))) {
+        return;  // the offscreen platform's own
+    }
     Course::note(levelName(level) % line);
 }
 
@@ -37,7 +39,9 @@ Course::~Course() {
 }
 
 void Course::note(const QString& entry) {
-    if (current) current->m_entries.append(entry);
+    if (current) {
+        current->m_entries.append(entry);
+    }
 }
 
 QStringList Course::take() {

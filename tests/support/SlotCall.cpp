@@ -19,7 +19,9 @@ QList<QMetaMethod> slotsOf(const QMetaObject& type, bool withBases) {
     QList<QMetaMethod> found;
     for (int i = withBases ? QObject::staticMetaObject.methodCount() : type.methodOffset(); i < type.methodCount();
          ++i) {
-        if (type.method(i).methodType() == QMetaMethod::Slot) found.append(type.method(i));
+        if (type.method(i).methodType() == QMetaMethod::Slot) {
+            found.append(type.method(i));
+        }
     }
     return found;
 }

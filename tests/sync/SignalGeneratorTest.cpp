@@ -41,7 +41,9 @@ public:
     DialogWatch() { qApp->installEventFilter(this); }
 
     bool eventFilter(QObject* object, QEvent* event) override {
-        if (qobject_cast<GUI_MarqueeProgressDialog*>(object) != nullptr && event->type() == QEvent::Show) ++shown;
+        if (qobject_cast<GUI_MarqueeProgressDialog*>(object) != nullptr && event->type() == QEvent::Show) {
+            ++shown;
+        }
         return QObject::eventFilter(object, event);
     }
 
@@ -182,7 +184,9 @@ TEST_F(SignalGeneratorTest, ALibraryIsLoadedWholeOrNotAtAll) {
     const QString good = QStringLiteral(WREN_VISA_FILE);
     const auto isInMemory = [](const char* path) {
         void* handle = dlopen(path, RTLD_LAZY | RTLD_NOLOAD);
-        if (handle != nullptr) dlclose(handle);
+        if (handle != nullptr) {
+            dlclose(handle);
+        }
         return handle != nullptr;
     };
     visa.setFiles({QStringLiteral("/nowhere/visa64.dll")});

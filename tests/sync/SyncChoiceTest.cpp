@@ -14,7 +14,9 @@ QList<SyncCamera> cameras(const char* texts) {
         const bool delayedA = text.startsWith("A*");
         SyncCamera camera;
         camera.address = text.mid(delayedA ? 2 : 1);
-        if (!camera.address.contains('.')) camera.address.prepend("10.0.0.");
+        if (!camera.address.contains('.')) {
+            camera.address.prepend("10.0.0.");
+        }
         camera.delayed = delayedA || text.startsWith('B');
         camera.exposure = exposureClassOf(text.startsWith('A') ? 1 : 0, camera.delayed ? 2 : 0);
         all.append(camera);
@@ -24,7 +26,9 @@ QList<SyncCamera> cameras(const char* texts) {
 
 std::string addresses(const QList<SyncCamera>& cameras) {
     QStringList all;
-    for (const SyncCamera& camera : cameras) all.append(QString(camera.address).remove("10.0.0."));
+    for (const SyncCamera& camera : cameras) {
+        all.append(QString(camera.address).remove("10.0.0."));
+    }
     return all.join(' ').toStdString();
 }
 
@@ -53,9 +57,10 @@ TEST(SyncChoice, CandidatesForTheMaster) {
         {"mixed, start: A leads", "N3 B2 A1", zeb::TriggerStart, "1"},
         {"mixed, random is no post-trigger mode: N when there is no A", "B2 N3", zeb::TriggerRandom, "3"},
     };
-    for (const auto& each : cases)
+    for (const auto& each : cases) {
         EXPECT_EQ(addresses(masterCandidates(cameras(each.cameras), each.triggerMode)), each.candidates)
             << each.sentence;
+    }
 }
 
 TEST(SyncChoice, OrderOfTheCameras) {
@@ -76,10 +81,11 @@ TEST(SyncChoice, OrderOfTheCameras) {
         {"of two heads of the master the first moves", "N1 N2 N2", false, "10.0.0.2", zeb::TriggerStart, "2 1 2"},
         {"a master from elsewhere moves nobody", "N2 N1", false, "10.0.0.3", zeb::TriggerStart, "1 2"},
     };
-    for (const auto& each : cases)
+    for (const auto& each : cases) {
         EXPECT_EQ(addresses(sortForSync(cameras(each.cameras), each.external, each.master, each.triggerMode)),
                   each.order)
             << each.sentence;
+    }
 }
 
 TEST(SyncChoice, FrequencyThatTheTableShows) {

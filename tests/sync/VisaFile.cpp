@@ -24,13 +24,17 @@ VisaFile::~VisaFile() {
 template <typename Function>
 Function* VisaFile::function(const char* name) {
     const auto found = reinterpret_cast<Function*>(m_library.resolve(name));
-    if (found == nullptr) throw std::runtime_error(m_library.errorString().toStdString());
+    if (found == nullptr) {
+        throw std::runtime_error(m_library.errorString().toStdString());
+    }
     return found;
 }
 
 void VisaFile::script(const QByteArray& json) {
     const char* wrong = function<decltype(visaScript)>("visaScript")(json.constData());
-    if (wrong != nullptr) throw std::runtime_error(wrong);
+    if (wrong != nullptr) {
+        throw std::runtime_error(wrong);
+    }
 }
 
 QStringList VisaFile::journal() {

@@ -52,7 +52,9 @@ TEST(VIGenThreadTest, WorkThatThrowsHasFailed) {
 TEST(RUN_SyncingThreadTest, WorksWhileTheHostAnswersOthers) {
     TestHost test(Rig::standard(8));
     SimHost& host = test.host;
-    for (Camera* camera : host.cameras().all()) camera->set(&CameraState::connected, true);
+    for (Camera* camera : host.cameras().all()) {
+        camera->set(&CameraState::connected, true);
+    }
     host.faults().plant(5, "synchronise", {QStringLiteral("no lock on the signal"), 0, false});
 
     int failed = 0;

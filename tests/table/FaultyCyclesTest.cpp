@@ -42,11 +42,14 @@ struct Action {
 QJsonArray cycle(JS_Mediator_WrenTableDialog& bridge, int tab) {
     for (const char* question : {"isLiveMode", "getRecStatus", "getControlStatus", "getTriggerTesting", "isStopLive",
                                  "getCurrentPartitionName", "getSyncSettings", "isRecReady", "isRecording",
-                                 "isOtherPluginOpen", "isRecordDuringExporting", "countMdiWindow", "getStyle"})
+                                 "isOtherPluginOpen", "isRecordDuringExporting", "countMdiWindow", "getStyle"}) {
         EXPECT_TRUE(QMetaObject::invokeMethod(&bridge, question)) << question;
+    }
     bridge.getPrefBool("wren/display/lock");
     bridge.getPrefString("wren/column_order/cameraInfo");
-    for (const DOCKEY key : {DOCKEY(2), zeb::NoDocKey}) bridge.isSuspendReduceMode(key);
+    for (const DOCKEY key : {DOCKEY(2), zeb::NoDocKey}) {
+        bridge.isSuspendReduceMode(key);
+    }
     const QString rows = bridge.getRecords(QStringLiteral(R"({"tab":%1})").arg(tab));
     return QJsonDocument::fromJson(rows.toUtf8())["records"].toArray();
 }
@@ -59,7 +62,9 @@ public:
 
     /// With the cameras of the fixture, or with so many of the standard model.
     explicit FaultyWorld(int mode, int standard = 0) {
-        if (standard > 0) host.setRig(Rig::standard(standard));
+        if (standard > 0) {
+            host.setRig(Rig::standard(standard));
+        }
         connectAll();
         makeBridge();
         change(8, {{"connected", false}});
@@ -71,8 +76,9 @@ public:
                                                                      {"wren/display/lock", false},
                                                                      {"wren/settings/deviceSpeedPlaying", true},
                                                                      {"recording/area", true},
-                                                                     {"wren/settings/triggerEnable", true}})
+                                                                     {"wren/settings/triggerEnable", true}}) {
             host.setPref(key, value);
+        }
         for (const Camera* camera : host.cameras().all()) {
             change(camera->key(), {{"selected", true},
                                    {"recorded", true},
@@ -87,7 +93,9 @@ public:
         desk.shown.clear();
         QObject::connect(&m_user, &QTimer::timeout, [this] {
             auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-            if (box == nullptr) return;
+            if (box == nullptr) {
+                return;
+            }
             m_warnings.append(box->text());
             box->button(QMessageBox::Ok)->click();
         });
@@ -132,7 +140,9 @@ public:
     static QStringList standingWindows() {
         QStringList names;
         for (QWidget* window : QApplication::topLevelWidgets()) {
-            if (window->isVisible()) names.append(window->metaObject()->className());
+            if (window->isVisible()) {
+                names.append(window->metaObject()->className());
+            }
         }
         return names;
     }
@@ -145,7 +155,9 @@ private:
 QList<QMetaMethod> slotsWithKeys() {
     QList<QMetaMethod> found;
     for (const QMetaMethod& method : slotsOf(JS_Mediator_WrenTableDialog::staticMetaObject)) {
-        if (method.parameterTypes().contains("QVariantList")) found.append(method);
+        if (method.parameterTypes().contains("QVariantList")) {
+            found.append(method);
+        }
     }
     return found;
 }
@@ -161,9 +173,10 @@ const QVariantList Keys{1, 2, 5, 6, 3};
 
 QList<Action> actions() {
     QList<Action> list;
-    for (int tab = 0; tab < 7; ++tab)
+    for (int tab = 0; tab < 7; ++tab) {
         list.append(
             {"a cycle", tab < 5 ? zeb::LiveMode : zeb::MemoryMode, [tab](FaultyWorld& c) { cycle(*c.bridge, tab); }});
+    }
     for (const int mode : {zeb::LiveMode, zeb::MemoryMode}) {
         QList<QByteArray> plain{"onOpen", "onClose"};
         plain +=
@@ -171,9 +184,10 @@ QList<Action> actions() {
                 ? QList<QByteArray>{"enterLiveMode", "save", "saveLayout"}
                 : QList<QByteArray>{"record",          "cancelRecord", "setSyncSettings", "connectSignalDistributors",
                                     "discoverysearch", "updateCamera", "updateLive",      "enterMemoryMode"};
-        for (const QByteArray& slot : plain)
+        for (const QByteArray& slot : plain) {
             list.append({slot.toStdString(), mode,
                          [slot](FaultyWorld& c) { QMetaObject::invokeMethod(c.bridge.get(), slot); }});
+        }
         list += {
             {"the host's disconnect", mode, [](FaultyWorld& c) { c.bridge->connect(Keys, false, true); }},
             {"the lists of the page's start", mode,
@@ -188,7 +202,9 @@ QList<Action> actions() {
     list += {
         {"trigger and stop", zeb::LiveMode,
          [](FaultyWorld& c) {
-             for (int presses = 0; presses < 3; ++presses) c.bridge->record();
+             for (int presses = 0; presses < 3; ++presses) {
+                 c.bridge->record();
+             }
          }},
         {"setSignalFrequency", zeb::LiveMode, [](FaultyWorld& c) { c.bridge->setSignalFrequency(1000); }},
         {"searchCamera", zeb::LiveMode, [](FaultyWorld& c) { c.bridge->searchCamera("192.168.0.0"); }},
@@ -215,7 +231,9 @@ bool maySayNothing(const Action& action, const FaultPlan::Call& call) {
 
 void expectWholeCycle(FaultyWorld& world) {
     const int tab = world.firstTab();
-    for (int i = 0; i < 3; ++i) world.bridge->cycleFailures().nextCycle();
+    for (int i = 0; i < 3; ++i) {
+        world.bridge->cycleFailures().nextCycle();
+    }
     EXPECT_EQ(cycle(*world.bridge, tab).size(), world.host.docManager().getDocKeys().size());
     EXPECT_TRUE(world.bridge->cycleFailures().isEmpty());
     EXPECT_EQ(world.told(), QStringList());
@@ -285,16 +303,21 @@ constexpr DOCKEY Crowd = 64;
 Outcome outcomeOf(const QMetaMethod& method, bool on, const QVector<FaultPlan::Call>& vanishing) {
     FaultyWorld world(modeOf(method), int(Crowd));
     world.host.faults().plantAt(INT_MAX, {});
-    for (const FaultPlan::Call& call : vanishing) world.host.faults().plant(call.key, call.operation, {{}, 0, true});
+    for (const FaultPlan::Call& call : vanishing) {
+        world.host.faults().plant(call.key, call.operation, {{}, 0, true});
+    }
     QVariantList keys;
-    for (DOCKEY key = 1; key <= Crowd; ++key) keys.append(key);
+    for (DOCKEY key = 1; key <= Crowd; ++key) {
+        keys.append(key);
+    }
     const quint64 mark = world.host.journal().count();
     world.call(method, on, keys);
     Outcome outcome{{}, world.states(), world.desk.texts(), world.host.faults().calls()};
     for (const QVariant& entry : world.host.journal().since(mark)) {
         const QVariant asked = entry.toMap()["args"].toList().value(0);
-        for (const QVariant& key : asked.type() == QVariant::List ? asked.toList() : QVariantList{asked})
+        for (const QVariant& key : asked.type() == QVariant::List ? asked.toList() : QVariantList{asked}) {
             ++outcome.commands[key.toUInt()];
+        }
     }
     return outcome;
 }
@@ -308,7 +331,9 @@ TEST(FaultyCrowd, TheOthersGetTheirCommandsWhenSomeVanishInTheMidstOfACall) {
             QVector<FaultPlan::Call> vanishing;
             while (vanishing.size() < int(Crowd) / 8) {
                 const FaultPlan::Call& call = whole.calls.at(int(random() % unsigned(whole.calls.size())));
-                if (call.key <= Crowd) vanishing.append(call);
+                if (call.key <= Crowd) {
+                    vanishing.append(call);
+                }
             }
             const Outcome outcome = outcomeOf(method, on, vanishing);
             EXPECT_LT(outcome.states.size(), int(Crowd));

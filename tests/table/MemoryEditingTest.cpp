@@ -140,7 +140,9 @@ TEST_F(MemoryEditingTest, savingAsksForWhatNobodyHasLookedAt) {
     const Answer no{false, false};
     const Fault down{"The link is down", 0, false};
     const auto check = [this](bool checked) {
-        for (const DOCKEY key : {1, 2, 3, 4}) change(key, {{"recordCheck", checked}});
+        for (const DOCKEY key : {1, 2, 3, 4}) {
+            change(key, {{"recordCheck", checked}});
+        }
     };
     const struct {
         const char* sentence;
@@ -187,7 +189,9 @@ TEST_F(MemoryEditingTest, whateverIsEditedNoRangeTurnsRound) {
         const auto upTo = [&random](int count) { return int(random() % unsigned(count)); };
         for (int step = 0; step < 4000; ++step) {
             QVariantList keys;
-            for (int n = upTo(3); n >= 0; --n) keys.append(1 + upTo(7));
+            for (int n = upTo(3); n >= 0; --n) {
+                keys.append(1 + upTo(7));
+            }
             const int number = upTo(10) == 0 ? int(random()) : upTo(6000) - 3000;
             switch (upTo(6)) {
                 case 0:

@@ -133,7 +133,9 @@ TEST_F(ParameterEditingTest, sendsAShutterSpeedAsAFraction) {
         {"no time at all", 1, {1, 2}, "0", {}},
     };
     for (const auto& c : cases) {
-        for (const DOCKEY key : {1U, 7U}) change(key, {{"selected", key == c.current}});
+        for (const DOCKEY key : {1U, 7U}) {
+            change(key, {{"selected", key == c.current}});
+        }
         calls();
         const bool isRefused = refused([&] { editing.setShutterSpeed(c.keys, c.value); });
         EXPECT_EQ(calls().filter("setShutterSpeed").join("").section(' ', 1), c.sent) << c.what;

@@ -45,7 +45,9 @@ QJsonObject expected(const QString& name) {
     return eachRow(readJson(name), [lists = readJson("lists")](QJsonObject& row, const QString&, int) {
         for (auto member = row.begin(); member != row.end(); ++member) {
             const QString text = member.value().toString();
-            if (text.startsWith(QLatin1Char('@'))) member.value() = lists.value(text.mid(1));
+            if (text.startsWith(QLatin1Char('@'))) {
+                member.value() = lists.value(text.mid(1));
+            }
         }
     });
 }
@@ -55,7 +57,9 @@ QJsonObject with(const QJsonObject& answer, const QString& name) {
     return eachRow(answer, [name, added = readJson(name)](QJsonObject& row, const QString& part, int i) {
         const QJsonObject members = added[part].toArray().at(i).toObject();
         EXPECT_LT(i, added[part].toArray().size()) << name.toStdString();
-        for (const QString& member : members.keys()) row.insert(member, members[member]);
+        for (const QString& member : members.keys()) {
+            row.insert(member, members[member]);
+        }
     });
 }
 
@@ -88,7 +92,9 @@ protected:
         const QJsonObject all = readJson(QStringLiteral("cameras"));
         for (const QString& name : states) {
             const QJsonObject cameras = all[name].toObject();
-            for (const QString& key : cameras.keys()) change(key.toUInt(), cameras[key].toObject().toVariantMap());
+            for (const QString& key : cameras.keys()) {
+                change(key.toUInt(), cameras[key].toObject().toVariantMap());
+            }
         }
     }
 
@@ -138,8 +144,9 @@ TEST_F(RecordModelTest, filtersRowsAndNumbersThemAnew) {
         state.batchDocKey = zeb::NoDocKey;
         const QJsonDocument answer = QJsonDocument::fromJson(records(request).toUtf8());
         QString rows = QStringLiteral("%1 rows:").arg(answer["batch"][0]["recordCount"].toInt());
-        for (const QJsonValue row : answer["records"].toArray())
+        for (const QJsonValue row : answer["records"].toArray()) {
             rows += QStringLiteral(" %1 is %2").arg(row["recid"].toInt()).arg(row["key"].toString());
+        }
         return rows;
     };
     EXPECT_EQ(listed(R"({"filter":9,"tab":1})"), "8 rows: 1 is 1 2 is 2 3 is 3 4 is 4 5 is 5 6 is 6 7 is 7 8 is 8");

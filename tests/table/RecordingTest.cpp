@@ -21,8 +21,12 @@ protected:
         host.setPrefBool("wren/display/lock", false);
         makeBridge();
         connectAll();
-        for (const DOCKEY key : {1, 2, 3, 4}) change(key, {{"alerts", QStringList()}, {"locked", false}});
-        for (const DOCKEY key : {5, 6, 7, 8}) change(key, {{"connected", false}});
+        for (const DOCKEY key : {1, 2, 3, 4}) {
+            change(key, {{"alerts", QStringList()}, {"locked", false}});
+        }
+        for (const DOCKEY key : {5, 6, 7, 8}) {
+            change(key, {{"connected", false}});
+        }
         calls();
     }
 
@@ -35,7 +39,9 @@ protected:
 
     void setState(int state) {
         const char* const flags[] = {"IsCTSReady", "IsReady", "IsRecording", "IsRecordingError"};
-        for (int i = 1; i <= 4; ++i) host.flags().set(flags[i - 1], i == state);
+        for (int i = 1; i <= 4; ++i) {
+            host.flags().set(flags[i - 1], i == state);
+        }
     }
 
     /// The user reads the warning that comes, and says yes or no.
@@ -102,12 +108,16 @@ TEST_F(RecordingTest, aCancelWhileFilesAreSavedInTheBackgroundLeavesTheRecording
 TEST_F(RecordingTest, armingPreparesEveryConnectedCamera) {
     host.setPrefBool("wren/display/lock", true);
     host.setPrefBool("recording/RecAllConnectedCamera", false);
-    for (const DOCKEY key : {1, 2, 3, 4}) change(key, {{"locked", true}, {"recordCheck", true}});
+    for (const DOCKEY key : {1, 2, 3, 4}) {
+        change(key, {{"locked", true}, {"recordCheck", true}});
+    }
     change(7, {{"recordCheck", true}});
     calls();
     bridge->record();
     QStringList expected;
-    for (int key = 1; key <= 8; ++key) expected << QString("DOC_Frames::setRecordCheck [%1,false]").arg(key);
+    for (int key = 1; key <= 8; ++key) {
+        expected << QString("DOC_Frames::setRecordCheck [%1,false]").arg(key);
+    }
     expected << R"(ZebHost::setPrefBool ["recording/RecAllConnectedCamera",true])" << Armed;
     EXPECT_EQ(calls(), expected);
     EXPECT_TRUE(bridge->state().recordRunning);
@@ -173,7 +183,9 @@ TEST_F(RecordingTest, playingInStepFollowsTheSignal) {
                            "DOC_Frames::setFrameSkipMode [" + arguments + ",0]",
                            "DOC_Frames::setFrameSkip [" + arguments + "," + QString::number(skip) + "]"};
     };
-    for (const DOCKEY key : {2, 3, 4}) change(key, {{"connected", false}});
+    for (const DOCKEY key : {2, 3, 4}) {
+        change(key, {{"connected", false}});
+    }
     const struct {
         const char* sentence;
         bool external;
@@ -248,7 +260,9 @@ TEST_F(RecordingTest, aCameraThatDoesNotAnswerIsNamedAndTheOthersAreArmed) {
         desk.shown.clear();
         warning.clear();
         host.faults().plant(2, each.operation, {"no answer", 0, false});
-        if (!each.warned.isEmpty()) answerWarning(true);
+        if (!each.warned.isEmpty()) {
+            answerWarning(true);
+        }
         EXPECT_EQ(press(), Armed);
         EXPECT_EQ(warning, each.warned);
         EXPECT_EQ(desk.texts(), each.toldAfterwards);
@@ -260,7 +274,9 @@ TEST_F(RecordingTest, aCameraThatDoesNotAnswerIsNamedAndTheOthersAreArmed) {
     }
 
     host.setPrefBool("wren/display/lock", true);
-    for (const DOCKEY key : {1, 2, 3, 4}) change(key, {{"locked", true}});
+    for (const DOCKEY key : {1, 2, 3, 4}) {
+        change(key, {{"locked", true}});
+    }
     host.faults().plant(2, "isParamLocked", {"no answer", 0, false});
     desk.shown.clear();
     EXPECT_EQ(press(), QStringList()) << "nobody knows whether it is locked";

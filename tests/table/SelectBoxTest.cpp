@@ -112,7 +112,9 @@ TEST_F(SelectBoxTest, isWorkedByTheKeysOfItsWindow) {
     field.setFocus();
     const auto keys = [&](std::initializer_list<Qt::Key> all) {
         show();
-        for (const Qt::Key key : all) QTest::keyClick(&field, key);
+        for (const Qt::Key key : all) {
+            QTest::keyClick(&field, key);
+        }
         return stateOf(1, "partition").toInt();
     };
     EXPECT_EQ(keys({Qt::Key_Down, Qt::Key_Return}), 3);
@@ -133,7 +135,9 @@ TEST_F(SelectBoxTest, behindTheLastPartitionAreTheSettingsInLiveMode) {
     choose(5);
     EXPECT_FALSE(box->isVisible());
     EXPECT_EQ(changes(), QStringList{"ZebCameraOps::stopForPrefs []"});
-    for (const char* value : {"", "0", "-1", "one"}) eval(QString("items.slotNotifyPartition('%1')").arg(value));
+    for (const char* value : {"", "0", "-1", "one"}) {
+        eval(QString("items.slotNotifyPartition('%1')").arg(value));
+    }
     EXPECT_EQ(changes(), QStringList()) << "they are no partitions";
 
     host.appStatus().enterMemoryMode();

@@ -108,7 +108,9 @@ TEST_F(SynchronisingTest, whileTheCamerasAreHandedOverNothingElseReachesThem) {
     QObject::connect(
         &host.journal(), &Journal::recorded, &host.journal(),
         [&handOver](const QString& call) {
-            if (call == QLatin1String("ZebCameraOps::syncCameras")) handOver.acquire();
+            if (call == QLatin1String("ZebCameraOps::syncCameras")) {
+                handOver.acquire();
+            }
         },
         Qt::DirectConnection);
     QPointer<QWidget> progress;
@@ -222,7 +224,9 @@ TEST_F(SynchronisingTest, theDefaultSettingsOfferTheCamerasThatCanLead) {
     ASSERT_EQ(devices().size(), 3);
     EXPECT_EQ(devices()[1].toObject(), (QJsonObject{{"address", address}, {"name", "The \"second\""}}));
     Course course;
-    for (const DOCKEY key : {2, 3}) change(key, {{"connected", false}});
+    for (const DOCKEY key : {2, 3}) {
+        change(key, {{"connected", false}});
+    }
     EXPECT_EQ(devices().size(), 1);
     EXPECT_EQ(course.take(), QStringList{"warning: Not enough devices to sync settings."});
 }

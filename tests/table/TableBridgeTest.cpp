@@ -157,12 +157,18 @@ TEST_F(TableBridgeTest, noFailureLeavesASlot) {
                                      {QMetaType::QString, "1"},
                                      {QMetaType::Bool, true},
                                      {QMetaType::UInt, 1U}};
-    for (DOCKEY key = 1; key <= 8; ++key) host.faults().plant(key, "*", {"no answer", 0, false});
+    for (DOCKEY key = 1; key <= 8; ++key) {
+        host.faults().plant(key, "*", {"no answer", 0, false});
+    }
     for (const bool hostToo : {false, true}) {
-        if (hostToo) host.faults().plant(FaultPlan::Host, "*", {"no answer", 0, false});
+        if (hostToo) {
+            host.faults().plant(FaultPlan::Host, "*", {"no answer", 0, false});
+        }
         for (const QMetaMethod& method : slotsOf(*bridge->metaObject(), true)) {
             // A host that works would show its file dialog.
-            if (method.name() == "errorHandler" || (!hostToo && method.name().endsWith("FileDialog"))) continue;
+            if (method.name() == "errorHandler" || (!hostToo && method.name().endsWith("FileDialog"))) {
+                continue;
+            }
             EXPECT_NO_THROW(callSlot(*bridge, method, values)) << method.methodSignature().toStdString();
             EXPECT_FALSE(bridge->isInCall()) << method.methodSignature().toStdString();
         }

@@ -120,7 +120,9 @@ TEST_F(BridgeSlots, OneLineOfTheHost) {
         {[&] { bridge.hideSelectBox(); }, {"hideSelectBox", "hideDropDownBox"}},
         {[&] { bridge.showDropDownBox("a\"<b>", -3, 4, 10, 20); }, {"showDropDownBox a\"<b> -3 4 10 20"}},
     };
-    for (const auto& row : cases) EXPECT_EQ(during(row.act), row.calls);
+    for (const auto& row : cases) {
+        EXPECT_EQ(during(row.act), row.calls);
+    }
     host.setPrefsRestored(0);
     EXPECT_EQ(during([&] { bridge.checkRestoredPrefs(); }), QStringList("setPrefsRestored 1"));
 }
@@ -137,7 +139,9 @@ TEST_F(BridgeSlots, YesAndNo) {
     };
     for (const auto& row : cases) {
         host.flags().set(row.flag, true);
-        for (const auto& asked : cases) EXPECT_EQ(asked.ask(), &asked == &row) << asked.flag;
+        for (const auto& asked : cases) {
+            EXPECT_EQ(asked.ask(), &asked == &row) << asked.flag;
+        }
         host.flags().set(row.flag, false);
     }
     EXPECT_FALSE(bridge.isConnected());
@@ -193,7 +197,9 @@ TEST_F(BridgeSlots, RangeOfPixels) {
         int max;
     } cases[] = {{{}, 255},       {{{8, 7}}, 255},       {{{4, 12}}, 15},       {{{16, 12}}, 4095}, {{{16, 10}}, 1023},
                  {{{9, 8}}, 255}, {{{32, 31}}, INT_MAX}, {{{64, 64}}, INT_MAX}, {{{-5, -5}}, 0}};
-    for (const auto& row : cases) EXPECT_EQ(largestPixelValue(row.format), row.max);
+    for (const auto& row : cases) {
+        EXPECT_EQ(largestPixelValue(row.format), row.max);
+    }
 
     EXPECT_EQ(bridge.getRangeMax(), 255);
     host.prefs().setValue("display/DisplayWithRealBitDepth", true);

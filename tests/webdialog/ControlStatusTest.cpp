@@ -27,7 +27,9 @@ protected:
         QStringList changed;
         for (const bool on : {true, false}) {
             for (const QString& name : now.keys()) {
-                if (now[name].toBool() == on && idle[name].toBool() != on) changed.append((on ? '+' : '-') + name);
+                if (now[name].toBool() == on && idle[name].toBool() != on) {
+                    changed.append((on ? '+' : '-') + name);
+                }
             }
         }
         return changed;
@@ -60,8 +62,9 @@ TEST_F(ControlStatusTest, AStateOfTheHostSwitchesTheOneOfItsName) {
                                          {"IsSaving", {"+IsAutoExpoting"}}};
     for (const char* silent : {"IsAllLowlightOFF", "IsAllWrenLockDevice", "IsApplicationClosing", "IsCycleViewBlocked",
                                "IsMVersion", "IsSelectionKept", "IsTriggerTesting", "IsUpdateIgnore",
-                               "IsWaveDataAcquisition", "IsWindowStateSaveSuppressed"})
+                               "IsWaveDataAcquisition", "IsWindowStateSaveSuppressed"}) {
         others.insert(silent, {});
+    }
     for (const QString& flag : host.flags().names()) {
         host.flags().set(flag, true);
         EXPECT_EQ(changes(), others.value(flag, {'+' + flag})) << flag.toStdString();
@@ -78,8 +81,9 @@ TEST_F(ControlStatusTest, CountsAndModes) {
     change(2, "selected", true);
     EXPECT_EQ(changes(), QStringList());
 
-    for (const char* flag : {"IsSaving", "IsCycleView", "IsCycleViewBlocked", "IsAllWrenLockDevice"})
+    for (const char* flag : {"IsSaving", "IsCycleView", "IsCycleViewBlocked", "IsAllWrenLockDevice"}) {
         host.flags().set(flag, true);
+    }
     EXPECT_EQ(changes(), QStringList("+IsAutoExpoting")) << "cycling is blocked, the table does not run";
     host.appStatus().setWrenRunning(true);
     EXPECT_EQ(changes(), QStringList({"+IsAllWrenLockDevice", "+IsAutoExpoting", "+IsWren"}));

@@ -16,7 +16,9 @@ protected:
 
     QString keys(bool isMinilist) {
         QStringList texts;
-        for (const QVariant& device : bridge.getDeviceInfoList(isMinilist)) texts += device.toMap()["key"].toString();
+        for (const QVariant& device : bridge.getDeviceInfoList(isMinilist)) {
+            texts += device.toMap()["key"].toString();
+        }
         return texts.join(' ');
     }
     QJsonObject entry(int index) {
@@ -25,7 +27,9 @@ protected:
 
     QString values(int index) {
         QStringList texts;
-        for (const QVariant& value : entry(index).toVariantMap()) texts += value.toString();
+        for (const QVariant& value : entry(index).toVariantMap()) {
+            texts += value.toString();
+        }
         return texts.join('|');
     }
 
@@ -58,8 +62,9 @@ TEST_F(DeviceInfo, OnlyTheShortListInLiveModeLeavesOut) {
 TEST_F(DeviceInfo, TellsNamesAndMarks) {
     host.setRig(Rig::fromFile(":/webdialog/rigs/functions.json"));
     host.camera(2).change({{"alias", "alias"}});
-    for (const char* mark : {"connected", "mobile", "selected", "slowLink", "wifi"})
+    for (const char* mark : {"connected", "mobile", "selected", "slowLink", "wifi"}) {
         host.camera(2).change({{mark, true}});
+    }
     EXPECT_EQ(entry(1).keys().join(' '),
               "cameraname con-wifi devicename dummy found headno ipaddress key mobile selected shutdown sup-linkspeed "
               "sup-wifi");

@@ -11,7 +11,9 @@ protected:
     bool mutexIsFree() {
         QMutex* mutex = host.docManager().getDocMutex();
         const bool free = mutex->tryLock();
-        if (free) mutex->unlock();
+        if (free) {
+            mutex->unlock();
+        }
         return free;
     }
 

@@ -14,7 +14,9 @@ QString text(double value) {
 /// "least-most: offers".
 QString text(const FrameSkip& skip) {
     QStringList offers;
-    for (const double value : skip.list) offers.append(text(value));
+    for (const double value : skip.list) {
+        offers.append(text(value));
+    }
     return QStringLiteral("%1-%2: %3").arg(text(skip.minFrames), text(skip.maxFrames), offers.join(' '));
 }
 
@@ -48,7 +50,9 @@ TEST(FrameSkip, ByTime) {
         EXPECT_EQ(skip.rate, row.rate) << row.sentence;
     }
     QStringList ten;
-    for (int i = 1; i <= 10; ++i) ten.append(text(double(i)));
+    for (int i = 1; i <= 10; ++i) {
+        ten.append(text(double(i)));
+    }
     EXPECT_EQ(text(skipByTime({}, {1000}, 10)), QString("1-10: " + ten.join(' ')));
 }
 
@@ -102,8 +106,9 @@ TEST(FrameSkip, FollowsWhatIsExported) {
         host.camera(2).change(recording(1500, 75, 5));
         host.enterMode(row.operatingMode);
         ExportTargets targets;
-        for (auto target = row.targets.begin(); target != row.targets.end(); ++target)
+        for (auto target = row.targets.begin(); target != row.targets.end(); ++target) {
             targets.insert(host.doc(target.key()), target.value());
+        }
         Course course;
         ExportBridge bridge(&host);
         bridge.mode = row.mode;

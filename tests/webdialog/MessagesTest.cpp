@@ -77,7 +77,9 @@ TEST_F(Messages, WarningWithOwnButtonTexts) {
 
 TEST_F(Messages, AWarningOfManyLinesLeavesItsButtonsOnTheScreen) {
     QStringList lines;
-    for (int n = 1; n <= 256; ++n) lines << "Camera with a name of usual length・・The fan turns slowly";
+    for (int n = 1; n <= 256; ++n) {
+        lines << "Camera with a name of usual length・・The fan turns slowly";
+    }
     whenModal<QMessageBox>([&](QMessageBox* box) {
         EXPECT_LT(box->height(), 800);
         EXPECT_EQ(box->detailedText(), lines.join('\n'));
@@ -109,7 +111,9 @@ public:
 
 protected:
     void run() override {
-        while (m_waits && !isInterruptionRequested()) yieldCurrentThread();
+        while (m_waits && !isInterruptionRequested()) {
+            yieldCurrentThread();
+        }
     }
 
 private:

@@ -14,7 +14,9 @@ QString methods(const QMetaObject& type, QMetaMethod::MethodType kind, const cha
     QString text = QStringLiteral("%1, %2:\n").arg(type.className(), name);
     for (int i = type.methodOffset(); i < type.methodCount(); ++i) {
         const QMetaMethod method = type.method(i);
-        if (method.methodType() != kind) continue;
+        if (method.methodType() != kind) {
+            continue;
+        }
         EXPECT_EQ(method.access(), QMetaMethod::Public) << method.methodSignature().toStdString();
         text += QStringLiteral("    %1 %2\n").arg(method.typeName(), QString::fromLatin1(method.methodSignature()));
     }

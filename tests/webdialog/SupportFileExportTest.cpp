@@ -30,7 +30,9 @@ public:
 
     bool hasWrenWindow() const override { return tableStands; }
     void execProgress(const QString& text, QFutureWatcherBase& watcher) override {
-        if (!onProgress) return FaultyHost::execProgress(text, watcher);
+        if (!onProgress) {
+            return FaultyHost::execProgress(text, watcher);
+        }
         tell("execProgress", {text});
         onProgress(watcher);
     }
@@ -58,7 +60,9 @@ protected:
     /// The calls of the host but for the question and the ends of the bridge's call.
     QStringList calls() {
         QStringList entries = course.take();
-        for (const char* frame : {"pause", "resume"}) entries.removeAll(frame);
+        for (const char* frame : {"pause", "resume"}) {
+            entries.removeAll(frame);
+        }
         return entries.filter(QRegularExpression("^(?!confirm|info: )"));
     }
 
@@ -88,7 +92,9 @@ TEST_F(SupportFile, TellsWhatItHolds) {
         {4, true, start + log + middle + table + end},
     };
     for (const auto& row : cases) {
-        for (DOCKEY key = 1; key <= 4; ++key) host.faults().plant(key, "*", {{}, 0, key != row.camera});
+        for (DOCKEY key = 1; key <= 4; ++key) {
+            host.faults().plant(key, "*", {{}, 0, key != row.camera});
+        }
         host.tableStands = row.wren;
         host.desk.answers = {{false, false}};
         bridge.openExportSupportFileDialog();
@@ -168,7 +174,9 @@ TEST_F(SupportFile, NoWorkerOutlivesTheCall) {
     std::atomic<bool> ended{false};
     host.onExport = [&](const QString&, const ZebSupportFile&) {
         left.acquire();
-        for (int i = 0; i < 10000; ++i) QThread::yieldCurrentThread();
+        for (int i = 0; i < 10000; ++i) {
+            QThread::yieldCurrentThread();
+        }
         ended = true;
         return true;
     };
@@ -176,7 +184,9 @@ TEST_F(SupportFile, NoWorkerOutlivesTheCall) {
         ended = false;
         host.onProgress = [&](QFutureWatcherBase&) {
             left.release();
-            if (fails) throw 42;
+            if (fails) {
+                throw 42;
+            }
         };
         exportTo(dir.filePath("late.zip"));
         EXPECT_TRUE(ended) << fails;

@@ -138,7 +138,9 @@ TEST_F(WebDialog, CloseButtonIsSwitchedOnce) {
     dialog->show();
     for (const bool on : {false, true}) {
         course.take();
-        for (int i = 0; i < 2; ++i) on ? dialog->signalEnableCloseButton() : dialog->signalDisableCloseButton();
+        for (int i = 0; i < 2; ++i) {
+            on ? dialog->signalEnableCloseButton() : dialog->signalDisableCloseButton();
+        }
         EXPECT_EQ(dialog->windowFlags().testFlag(Qt::WindowCloseButtonHint), on);
         EXPECT_EQ(course.take().count("shown"), 1);
         EXPECT_TRUE(dialog->isVisible());
@@ -222,7 +224,9 @@ TEST_F(WebDialog, ClosingHostDismissesOurBox) {
             dialog->close();
             QWidget* box = QApplication::activeModalWidget();
             EXPECT_FALSE(box);
-            if (box) box->close();
+            if (box) {
+                box->close();
+            }
         });
         EXPECT_FALSE(UTL_Messages::warnOkCancel("go on?", host));
     };

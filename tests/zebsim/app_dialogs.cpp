@@ -71,7 +71,9 @@ TEST_F(Dialogs, StorePreferencesOfEachKind) {
 
 TEST_F(Dialogs, ShowEveryPreferenceAsTheHostAnswersIt) {
     const auto shownBy = [](QWidget& editor) {
-        if (auto* choice = qobject_cast<QComboBox*>(&editor)) return choice->currentData();
+        if (auto* choice = qobject_cast<QComboBox*>(&editor)) {
+            return choice->currentData();
+        }
         return editor.metaObject()->userProperty().read(&editor);
     };
     int fields = 0;
@@ -112,7 +114,9 @@ TEST_F(Dialogs, ShowAddressesAndRefuseOneThatIsNone) {
     next([&](QDialog& dialog) {
         const auto* table = dialog.findChild<QTableWidget*>("cameras");
         QStringList row;
-        for (int column = 0; column < 4; ++column) row << table->item(1, column)->text();
+        for (int column = 0; column < 4; ++column) {
+            row << table->item(1, column)->text();
+        }
         EXPECT_EQ(row, QStringList({"192.168.0.12", "<i>x</i>", "standard", "Connected, slow link"}));
         QLineEdit& search = *dialog.findChild<QLineEdit*>("cameraconnection/SearchIP");
         search.setText("192.168.300");

@@ -23,15 +23,18 @@ class Images : public testing::Test {
 protected:
     Images() {
         viewer.show();
-        for (DOCKEY key = 1; key <= 3; ++key) camera(key).set(&CameraState::connected, true);
+        for (DOCKEY key = 1; key <= 3; ++key) {
+            camera(key).set(&CameraState::connected, true);
+        }
         images.showNow();
     }
 
     Camera& camera(DOCKEY key) { return *host.cameras().find(key); }
     std::string titles() const {
         QStringList list;
-        for (const QMdiSubWindow* window : viewer.mdiArea()->subWindowList(QMdiArea::CreationOrder))
+        for (const QMdiSubWindow* window : viewer.mdiArea()->subWindowList(QMdiArea::CreationOrder)) {
             list << window->windowTitle();
+        }
         return list.join('|').toStdString();
     }
     qint64 shown(DOCKEY key) const { return images.find(key)->view().frame()->number; }
@@ -39,7 +42,9 @@ protected:
     qint64 shownLater(DOCKEY key) {
         simulator.clock().setSpeed(1000);
         const qint64 start = simulator.clock().now();
-        while (simulator.clock().now() < start + 200) QCoreApplication::processEvents();
+        while (simulator.clock().now() < start + 200) {
+            QCoreApplication::processEvents();
+        }
         images.showNow();
         return shown(key);
     }

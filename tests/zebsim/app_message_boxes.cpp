@@ -39,7 +39,9 @@ protected:
     static void activate(QWidget& window) {
         window.show();
         window.activateWindow();
-        while (!window.isActiveWindow()) QCoreApplication::processEvents();
+        while (!window.isActiveWindow()) {
+            QCoreApplication::processEvents();
+        }
     }
 
     /// Runs while a box stands, before it is answered.
@@ -57,7 +59,9 @@ protected:
 TEST_F(Boxes, ShowTheWholeTextsOfTheirButtons) {
     qApp->setStyleSheet("QPushButton { min-width: 20px; }");
     onStanding([](const QMessageBox& box) {
-        for (const QAbstractButton* button : box.buttons()) EXPECT_GE(button->width(), button->sizeHint().width());
+        for (const QAbstractButton* button : box.buttons()) {
+            EXPECT_GE(button->width(), button->sizeHint().width());
+        }
     });
     boxes.show(message(Message::Confirm, "c",
                        {{QMessageBox::Yes, "Overwrite all of them"},
@@ -149,7 +153,9 @@ TEST_F(Boxes, OfANoticeKeepNobodyFromWorking) {
     EXPECT_TRUE(window.isActiveWindow()) << "keys go where they went";
     QCoreApplication::processEvents();
     EXPECT_EQ(shown(), "error|one\ntwo|") << "in one box";
-    for (int i = 0; i < 40; ++i) boxes.notify(message(Message::Error, QStringLiteral("news %1").arg(i)));
+    for (int i = 0; i < 40; ++i) {
+        boxes.notify(message(Message::Error, QStringLiteral("news %1").arg(i)));
+    }
     const QWidgetList windows = QApplication::topLevelWidgets();
     const bool isLastSeen = std::any_of(windows.begin(), windows.end(), [](QWidget* standing) {
         const auto* notice = qobject_cast<QMessageBox*>(standing);
@@ -196,7 +202,9 @@ TEST_F(Boxes, ShowMarkupAsItStandsAndFitTheScreen) {
 
 TEST_F(Boxes, FitALongListBehindDetails) {
     QStringList many;
-    for (int i = 0; i < 256; ++i) many << QStringLiteral("Camera %1: no answer").arg(i);
+    for (int i = 0; i < 256; ++i) {
+        many << QStringLiteral("Camera %1: no answer").arg(i);
+    }
     Message tall = message(Message::Alert, "Failed");
     tall.list = many;
     QString details;

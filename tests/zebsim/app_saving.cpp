@@ -50,7 +50,9 @@ protected:
     static void comeToFront(QWidget& window) {
         window.show();
         window.activateWindow();
-        while (!window.isActiveWindow()) QCoreApplication::processEvents();
+        while (!window.isActiveWindow()) {
+            QCoreApplication::processEvents();
+        }
     }
     QStringList filesIn(const char* name) const {
         return QDir(folder.filePath(name)).entryList(QDir::Files, QDir::Name);
@@ -61,7 +63,9 @@ protected:
     }
     QStringList messages() {
         QStringList texts;
-        for (const QVariant& message : dialogs.takeMessages()) texts << message.toMap().value("text").toString();
+        for (const QVariant& message : dialogs.takeMessages()) {
+            texts << message.toMap().value("text").toString();
+        }
         return texts;
     }
 
@@ -78,8 +82,12 @@ TEST_F(AppSaving, WritesWhatTheDialogShows) {
     QStringList row;
     const auto once = QObject::connect(&watcher, &ModalWatcher::stands, [&](QDialog* dialog) {
         const auto* table = dialog->findChild<QTableWidget*>("cameras");
-        for (int column = 0; table && column < 4; ++column) row << table->item(1, column)->text();
-        if (table) host.saveFiles();
+        for (int column = 0; table && column < 4; ++column) {
+            row << table->item(1, column)->text();
+        }
+        if (table) {
+            host.saveFiles();
+        }
     });
     dialogs.saves().order({{"format", "jpeg"}});
     host.saveFiles();
@@ -91,8 +99,9 @@ TEST_F(AppSaving, WritesWhatTheDialogShows) {
     const QString target = QDir::toNativeSeparators(folder.filePath("out"));
     const QStringList lines = {"Camera 1: 3 frames saved in " + target, "<b>%2</b>: 3 frames saved in " + target};
     EXPECT_EQ(results(), lines);
-    for (const QString& text : lines)
+    for (const QString& text : lines) {
         EXPECT_TRUE(simulator.log().since(0).contains(QString("\"%1\"").arg(text))) << "for later";
+    }
     EXPECT_FALSE(host.saver().isSaving());
     EXPECT_EQ(row, QStringList({"<b>%2</b>", "-1", "1", "3"}));
     EXPECT_EQ(filesIn("out").size(), 6);
@@ -133,7 +142,9 @@ TEST_F(AppSaving, OffersAnotherFolderThanOneWithFiles) {
 }
 
 TEST_F(AppSaving, TellsOfCamerasThatAreNotThere) {
-    for (DOCKEY key = 1; key <= 2; ++key) host.cameras().find(key)->keep(1, host.cameras().find(key)->recording());
+    for (DOCKEY key = 1; key <= 2; ++key) {
+        host.cameras().find(key)->keep(1, host.cameras().find(key)->recording());
+    }
     Q_EMIT host.events().shootEnded();
     host.faults().plant(2, "*", {{}, 0, true});
     const QString lost = "Camera 2: the camera has disappeared. Its recording is not saved.";
@@ -141,13 +152,17 @@ TEST_F(AppSaving, TellsOfCamerasThatAreNotThere) {
     QStringList first;
     QObject::connect(&watcher, &ModalWatcher::stands, [&](QDialog* dialog) {
         const auto* table = dialog->findChild<QTableWidget*>("cameras");
-        if (table) first << table->item(0, 0)->text();
+        if (table) {
+            first << table->item(0, 0)->text();
+        }
     });
     dialogs.saves().order({});
     host.saveFiles();
     EXPECT_EQ(first, QStringList(lost)) << "before it begins";
     const auto* progress = simulator.window().findChild<SaveProgress*>();
-    while (!progress->isFinished()) QCoreApplication::processEvents();
+    while (!progress->isFinished()) {
+        QCoreApplication::processEvents();
+    }
     EXPECT_EQ(progress->findChild<QLabel*>()->text(), "Not everything is saved.");
     EXPECT_THAT(results(), testing::ElementsAre(lost, testing::Property(&QString::toStdString,
                                                                         testing::StartsWith("Camera 1: 3 frames"))));
@@ -196,7 +211,9 @@ TEST_F(AppSaving, ShowsTheProgressOfMoreFramesThanAnIntCounts) {
     SaveJob job(host.cameras(), orders, [](const QString&) { return std::numeric_limits<qint64>::max(); });
     const SaveProgress progress(job, nullptr);
     ASSERT_FALSE(job.start());
-    while (job.outcomes().isEmpty()) QCoreApplication::processEvents();
+    while (job.outcomes().isEmpty()) {
+        QCoreApplication::processEvents();
+    }
     const auto* bar = progress.findChild<QProgressBar*>();
     EXPECT_EQ(bar->value(), 0) << "one frame of four thousand million";
     EXPECT_GT(bar->maximum(), 0);
@@ -210,7 +227,9 @@ TEST_F(AppSaving, EndsWithTheApplication) {
     ModalWatcher watcher;
     QObject::connect(&watcher, &ModalWatcher::stands, [&](QDialog* dialog) {
         const auto* box = qobject_cast<QMessageBox*>(dialog);
-        if (box == nullptr) return;
+        if (box == nullptr) {
+            return;
+        }
         EXPECT_EQ(box->defaultButton()->text(), "Skip camera");
         simulator.quit();
     });

@@ -141,7 +141,9 @@ TEST_F(ViewerTest, RecordsByItsOwnKeyUnlessAPluginIsInFront) {
     host.appStatus().registerPlugin(&plugin);
     const auto key = [&](const char* name) { return simulator.window().findChild<QAction*>(name); };
     const auto settle = [&] {
-        while (host.updates().isPending()) QCoreApplication::processEvents();
+        while (host.updates().isPending()) {
+            QCoreApplication::processEvents();
+        }
     };
     settle();
     const int usual = QApplication::doubleClickInterval();
@@ -174,7 +176,9 @@ TEST_F(ViewerTest, RecordsByItsOwnKeyUnlessAPluginIsInFront) {
     EXPECT_EQ(dialogs.takeMessages().first().toMap().value("text"),
               "Cameras are armed or recording. Disconnect all the same?\nCamera 1: records");
     simulator.clock().setSpeed(1000);
-    while (!host.isMemoryMode()) QCoreApplication::processEvents();
+    while (!host.isMemoryMode()) {
+        QCoreApplication::processEvents();
+    }
     EXPECT_EQ(host.cameras().find(1)->recording()->frameCount(), 8192U);
     EXPECT_FALSE(key("record")->isEnabled());
 
@@ -182,7 +186,9 @@ TEST_F(ViewerTest, RecordsByItsOwnKeyUnlessAPluginIsInFront) {
     plugin.dialog = std::make_unique<QDialog>();
     plugin.dialog->show();
     plugin.dialog->activateWindow();
-    while (!plugin.dialog->isActiveWindow()) QCoreApplication::processEvents();
+    while (!plugin.dialog->isActiveWindow()) {
+        QCoreApplication::processEvents();
+    }
     key("record")->trigger();
     EXPECT_EQ(records, 1);
     EXPECT_EQ(host.recorder().getRecordingState(), zeb::RecordLive) << "the plug-in decides";

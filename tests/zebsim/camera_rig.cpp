@@ -34,7 +34,9 @@ protected:
 QByteArray with(const QByteArray& object, const QByteArray& members) {
     QJsonObject whole = QJsonDocument::fromJson(object).object();
     const QJsonObject given = QJsonDocument::fromJson('{' + members + '}').object();
-    for (auto member = given.begin(); member != given.end(); ++member) whole.insert(member.key(), member.value());
+    for (auto member = given.begin(); member != given.end(); ++member) {
+        whole.insert(member.key(), member.value());
+    }
     return QJsonDocument(whole).toJson(QJsonDocument::Compact);
 }
 

@@ -23,8 +23,9 @@ QSet<QString> inSources(const QStringList& rooms, const char* begin) {
         QDirIterator files(QStringLiteral(SOURCE_FOLDER "/zebsim/") + room, {"*.cpp"}, QDir::Files);
         while (files.hasNext()) {
             const QString text = contentOf(files.next());
-            for (auto found = QRegularExpression(begin).globalMatch(text); found.hasNext();)
+            for (auto found = QRegularExpression(begin).globalMatch(text); found.hasNext();) {
                 names << found.next().captured(1);
+            }
         }
     }
     return names;
@@ -51,8 +52,9 @@ TEST(FaultOperations, NameEveryOperationThatCanFailAndStandInTheManual) {
         EXPECT_EQ((row.names - row.sources).values(), QStringList()) << "nowhere in the sources of " << row.whose;
         told += row.names;
     }
-    for (const QString& name : told)
+    for (const QString& name : told) {
         EXPECT_TRUE(manual.contains(QRegularExpression("\\b" + name + "\\b"))) << name.toStdString();
+    }
 }
 
 }  // namespace

@@ -16,7 +16,9 @@ protected:
         QEventLoop loop;
         std::size_t next = 0;
         const std::function<void()> step = [&] {
-            if (next == turns.size()) return loop.quit();
+            if (next == turns.size()) {
+                return loop.quit();
+            }
             turns[next++]();
             QTimer::singleShot(0, &loop, step);
         };

@@ -176,7 +176,9 @@ TEST_F(Messages, StatesOfTheHostFollowItsCameras) {
             {"all on", cameras.isAllLowlight(true)},   {"all off", cameras.isAllLowlight(false)},
             {"locked", cameras.isAllWrenLockDevice()}, {"recording", host.recorder().isRecording()}};
         QStringList on;
-        for (const auto& [state, isOn] : all) on += isOn ? QStringList(state) : QStringList();
+        for (const auto& [state, isOn] : all) {
+            on += isOn ? QStringList(state) : QStringList();
+        }
         return on.join(QStringLiteral(", "));
     };
     EXPECT_EQ(states(), "all on, all off") << "there is no connected camera that would have to be switched";
@@ -194,8 +196,9 @@ TEST_F(Messages, StatesOfTheHostFollowItsCameras) {
 
 TEST(Search, TellsWhereItLookedAndWhatItFound) {
     TestHost test(Rig::fromFile(QStringLiteral("eight-mixed")));
-    for (const char* network : {"192.168.7.0", "192.168.7.0", "10.1.255.0"})
+    for (const char* network : {"192.168.7.0", "192.168.7.0", "10.1.255.0"}) {
         test.host.cameraOps().searchCamera(QString::fromLatin1(network));
+    }
     test.host.cameraOps().discoverCameras();
     QCoreApplication::processEvents();
     EXPECT_EQ(test.desk.beside.join(QLatin1Char('\n')).toStdString(),

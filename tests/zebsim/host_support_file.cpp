@@ -36,8 +36,9 @@ TEST(SupportFile, IsAZipThatAnotherProgramReads) {
     unpack.start(QStringLiteral(CMAKE_PROGRAM), {"-E", "tar", "xf", path});
     ASSERT_TRUE(unpack.waitForFinished());
     ASSERT_EQ(unpack.exitCode(), 0) << unpack.readAllStandardError().toStdString();
-    for (auto entry = file.files.begin(); entry != file.files.end(); ++entry)
+    for (auto entry = file.files.begin(); entry != file.files.end(); ++entry) {
         EXPECT_EQ(contentOf(test.folder.filePath(entry.key())), entry.value()) << entry.key().toStdString();
+    }
     const QJsonArray cameras = QJsonDocument::fromJson(file.files.value("cameras.json")).array();
     ASSERT_EQ(cameras.size(), 2);
     EXPECT_EQ(cameras.at(1)["name"].toString(), QStringLiteral("Düse \"日本\""));

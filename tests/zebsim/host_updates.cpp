@@ -153,7 +153,9 @@ TEST_F(Updates, AFailureOfOneIsToldOnceBesideTheWorkAndTheOthersGetTheirs) {
     StubPlugin good;
     std::string failure = "page is broken";
     bad.onUpdate = [&] {
-        if (!failure.empty()) throw std::runtime_error(failure);
+        if (!failure.empty()) {
+            throw std::runtime_error(failure);
+        }
     };
     const PluginSlot badSlot(host, bad);
     const PluginSlot goodSlot(host, good);

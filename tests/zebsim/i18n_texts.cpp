@@ -32,7 +32,9 @@ QStringList filesLike(const QStringList& names) {
     QStringList files;
     for (const QString& folder : QDir(SOURCE_FOLDER).entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
         QDirIterator each(SOURCE_FOLDER "/" + folder, names, QDir::Files, QDirIterator::Subdirectories);
-        while (!others.contains(folder) && each.hasNext()) files << each.next();
+        while (!others.contains(folder) && each.hasNext()) {
+            files << each.next();
+        }
     }
     return files;
 }
@@ -48,13 +50,18 @@ Keys markedKeys() {
     lupdate.start(LUPDATE,
                   {"-silent", "-tr-function-alias", Marks, "@" + list.fileName(), "-ts", folder.filePath("keys.po")});
     EXPECT_TRUE(lupdate.waitForFinished()) << lupdate.errorString().toStdString();
-    for (const QByteArray& line : lupdate.readAllStandardError().split('\n'))
+    for (const QByteArray& line : lupdate.readAllStandardError().split('\n')) {
         EXPECT_TRUE(line.isEmpty() || line.contains("has no source")) << line.toStdString();
+    }
     Keys keys;
     QString key;
     for (const QString& line : contentOf(folder.filePath("keys.po")).split('\n')) {
-        if (line.startsWith("#. ts-id ")) key = line.mid(9);
-        if (line.startsWith("#: ")) keys.insert(key, line.mid(3));
+        if (line.startsWith("#. ts-id ")) {
+            key = line.mid(9);
+        }
+        if (line.startsWith("#: ")) {
+            keys.insert(key, line.mid(3));
+        }
     }
     return keys;
 }
@@ -69,8 +76,12 @@ void collectMarkup(Keys& keys, const QString& file) {
         const QRegularExpressionMatch match = found.next();
         const bool isChoice = match.captured(0).startsWith("<option");
         QStringList texts = {match.captured(2).simplified()};
-        if (!isChoice) texts << attribute.match(match.captured(1)).captured(1);
-        for (const QString& key : texts.filter(letter)) keys.insert(key, file);
+        if (!isChoice) {
+            texts << attribute.match(match.captured(1)).captured(1);
+        }
+        for (const QString& key : texts.filter(letter)) {
+            keys.insert(key, file);
+        }
     }
 }
 
@@ -82,8 +93,12 @@ QMap<QString, Texts> catalogues() {
         QXmlStreamReader xml(contentOf(file));
         QString key;
         while (!xml.atEnd()) {
-            if (xml.readNext() != QXmlStreamReader::StartElement) continue;
-            if (xml.name() == QLatin1String("source")) key = xml.readElementText();
+            if (xml.readNext() != QXmlStreamReader::StartElement) {
+                continue;
+            }
+            if (xml.name() == QLatin1String("source")) {
+                key = xml.readElementText();
+            }
             if (xml.name() == QLatin1String("translation") && xml.attributes().value("type").isEmpty()) {
                 EXPECT_FALSE(texts.contains(key)) << file.toStdString() << " has two texts for " << key.toStdString();
                 texts.insert(key, xml.readElementText());
@@ -103,9 +118,12 @@ bool readsLikeAName(const QString& key) {
 TEST(Texts, StandInEveryLanguageForEveryKeyOfTheSources) {
     const QMap<QString, Texts> languages = catalogues();
     Keys keys = markedKeys();
-    for (const QString& file : filesLike({"*.html"})) collectMarkup(keys, file);
-    for (const QString& language : languages.keys())
+    for (const QString& file : filesLike({"*.html"})) {
+        collectMarkup(keys, file);
+    }
+    for (const QString& language : languages.keys()) {
         keys.insert(QLocale::languageToString(QLocale(language).language()), "the list of languages");
+    }
     for (auto texts = languages.begin(); texts != languages.end(); ++texts) {
         const bool isEnglish = texts.key() == "en";
         for (auto key = keys.begin(); key != keys.end(); ++key) {
@@ -116,9 +134,10 @@ TEST(Texts, StandInEveryLanguageForEveryKeyOfTheSources) {
             EXPECT_FALSE(!isNeeded && texts->value(key.key()) == key.key())
                 << '"' << key.key().toStdString() << "\" is its own English text without an entry";
         }
-        for (const QString& key : texts->keys())
+        for (const QString& key : texts->keys()) {
             EXPECT_TRUE(keys.contains(key))
                 << '"' << key.toStdString() << "\" of " << texts.key().toStdString() << " is asked for by no source";
+        }
     }
 }
 
@@ -133,8 +152,9 @@ TEST(Texts, AreMarkedWhereTheyReachTheUser) {
         R"re(|\b(?:translate|textKey)\((?!'[^']*'\)|[\w.]+(?:\(\))?\)|'p_' \+))re");
     for (const QString& file : filesLike({"*.cpp", "*.h", "*.js"})) {
         const bool isScript = file.endsWith(".js");
-        for (auto bare = (isScript ? bareInScript : bareInCpp).globalMatch(contentOf(file)); bare.hasNext();)
+        for (auto bare = (isScript ? bareInScript : bareInCpp).globalMatch(contentOf(file)); bare.hasNext();) {
             ADD_FAILURE() << file.toStdString() << ": " << bare.next().captured().toStdString();
+        }
     }
 }
 

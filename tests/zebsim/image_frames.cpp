@@ -53,7 +53,9 @@ TEST(Playback, GoesThroughTheFramesToKeep) {
     EXPECT_EQ(playback.frame(1, recording), 100);
     playback.advance(1, recording, 1000);
     EXPECT_EQ(playback.frame(1, recording), 130);
-    for (int i = 0; i < 90; ++i) playback.advance(1, recording, 11);
+    for (int i = 0; i < 90; ++i) {
+        playback.advance(1, recording, 11);
+    }
     EXPECT_EQ(playback.frame(1, recording), 159) << "parts of a frame add up";
     playback.advance(1, recording, 40);
     EXPECT_EQ(playback.frame(1, recording), 100) << "it begins again";

@@ -90,7 +90,9 @@ TEST_F(RecordingTest, APressThatMeetsTheEndIsNoMoreThanTheEnd) {
             ends = 0;
             triggerAll();
             test.clock.advance(100000);
-            if (timerSawIt) host.recorder().proceed();
+            if (timerSawIt) {
+                host.recorder().proceed();
+            }
             row.press();
             EXPECT_EQ(states(), "0 0 0 - 0") << row.what;
             EXPECT_EQ(recorded(1), "0..8191 trigger 0") << row.what;

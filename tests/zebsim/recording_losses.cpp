@@ -45,13 +45,19 @@ TEST_F(RecordingTest, MissesCamerasThatGo) {
     EXPECT_EQ(states(), "4 0 0 - 0");
     host.recorder().startRecReady();
     EXPECT_EQ(states(), "2 2 0 - 2");
-    for (const DOCKEY key : {1, 2}) plant(key, "*", {{}, 0, true});
+    for (const DOCKEY key : {1, 2}) {
+        plant(key, "*", {{}, 0, true});
+    }
     pass(1);
     messages();
     EXPECT_EQ(host.recorder().lost().size(), 2) << "what there is to save is of the last that was triggered";
-    for (const DOCKEY key : {1, 2}) plant(key, "*", {});
+    for (const DOCKEY key : {1, 2}) {
+        plant(key, "*", {});
+    }
     triggerAll();
-    for (const DOCKEY key : {1, 2}) plant(key, "*", {{}, 0, true});
+    for (const DOCKEY key : {1, 2}) {
+        plant(key, "*", {{}, 0, true});
+    }
     pass(1);
     EXPECT_EQ(host.recorder().lost(), (QStringList{"Camera 1: the camera has disappeared. Its recording is lost.",
                                                    "Camera 2: the camera has disappeared. Its recording is lost."}))

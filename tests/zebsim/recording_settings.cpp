@@ -53,8 +53,9 @@ TEST(RecordSettings, MakeTheRangeOfARecording) {
         {"an area that ends before it starts is none", settingsOf(zeb::TriggerStart, 0, 0, {5, 4}), Long, Long,
          "0..999 trigger 0"},
     };
-    for (const auto& row : rows)
+    for (const auto& row : rows) {
         EXPECT_EQ(told(row.settings.recording(row.ready, row.recorded)), row.range) << row.what;
+    }
     RecordSettings none = settingsOf(zeb::TriggerCenter);
     none.capacity = 0;
     EXPECT_EQ(told(none.recording(Long, Long)), "nothing") << "no memory";

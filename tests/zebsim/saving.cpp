@@ -49,10 +49,14 @@ protected:
         static const QStringList ends = {"saved", "lost", "failed", "skipped", "cancelled"};
         SaveJob job(host.host.cameras(), wanted);
         QObject::connect(&job, &SaveJob::progressed, [&] {
-            if (atEachTurn) atEachTurn(job);
+            if (atEachTurn) {
+                atEachTurn(job);
+            }
         });
         EXPECT_FALSE(job.start());
-        while (job.isRunning()) QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+        while (job.isRunning()) {
+            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+        }
         QStringList texts;
         for (const SaveOutcome& outcome : job.outcomes()) {
             texts << QStringLiteral("%1: %2 of %3 up to %4, %5")
@@ -94,7 +98,9 @@ const QString NozzleSaved = "Nozzle/2: 3 of 3 up to 2, saved";
 TEST_F(Saving, WritesTheChosenFramesAndNoOthers) {
     int atNext = -1;
     const auto follow = [&atNext](const SaveJob& job) {
-        if (job.isRunning() && job.outcomes().size() == 1 && atNext < 0) atNext = job.frame();
+        if (job.isRunning() && job.outcomes().size() == 1 && atNext < 0) {
+            atNext = job.frame();
+        }
     };
     for (const char* format : {"png", "tiff", "jpeg"}) {
         EXPECT_EQ(run(orders(format), follow), QStringList({"Gate: 2 of 2 up to 0, saved", NozzleSaved})) << format;
@@ -143,7 +149,9 @@ TEST_F(Saving, CallsTheFilesOfNoTwoCamerasAlike) {
              {"Door Roof Track Wall Roof", "Door Roof_1 Track Wall Roof_4"},
              {"Track Layout Door Hall Roof", "Track_0 Layout_1 Door_2 Hall Roof"}}) {
         QList<NamedCamera> known;
-        for (const QString& name : QString(cameras).split(' ')) known.append({name, QString::number(known.size())});
+        for (const QString& name : QString(cameras).split(' ')) {
+            known.append({name, QString::number(known.size())});
+        }
         EXPECT_EQ(names.of(known).join(' ').toStdString(), called) << "as some of them were called before";
     }
 }
@@ -187,8 +195,12 @@ TEST_F(Saving, AsksBeforeItOverwrites) {
         asked.clear();
         EXPECT_EQ(run(orders()), one.outcomes);
         EXPECT_EQ(asked, one.asked);
-        for (const QString& name : {AllFiles[1], AllFiles[2]}) EXPECT_EQ(isOld(name), one.old.contains(name));
-        for (const QString& name : files()) QFile::remove(path(name));
+        for (const QString& name : {AllFiles[1], AllFiles[2]}) {
+            EXPECT_EQ(isOld(name), one.old.contains(name));
+        }
+        for (const QString& name : files()) {
+            QFile::remove(path(name));
+        }
     }
 }
 
@@ -239,7 +251,9 @@ TEST_F(Saving, LosesACameraAtAnyFrameAndNoOther) {
             EXPECT_EQ(run(orders()), QStringList({"Gate: 2 of 2 up to 0, saved", ramp[frame], NozzleSaved}));
             EXPECT_EQ(files().size(), 5 + frame);
             host.host.faults().clear();
-            for (const QString& name : files()) QFile::remove(path(name));
+            for (const QString& name : files()) {
+                QFile::remove(path(name));
+            }
         }
     }
     host.host.faults().plant(3, "readFrame", {"it is too hot", 0, false});
@@ -250,7 +264,9 @@ TEST_F(Saving, LosesACameraAtAnyFrameAndNoOther) {
     // The memory is filled anew, or the cameras are others now.
     const auto afterOne = [](const std::function<void()>& work) {
         return [work](SaveJob& job) {
-            if (job.outcomes().isEmpty() && job.frame() == 1) work();
+            if (job.outcomes().isEmpty() && job.frame() == 1) {
+                work();
+            }
         };
     };
     const auto anew = [&] { host.camera(1).keep(1, host.camera(1).recording()); };
@@ -302,9 +318,13 @@ TEST_F(Saving, KnowsWhoHasRecordedAndIsNotThereAnyMore) {
         {"and what it used before again", [&] { host.camera(2).setPartition(1); }, {}},
         {"a shoot that fails on all cameras",
          [&] {
-             for (const DOCKEY key : {2, 3}) host.host.faults().plant(key, "trigger", {"no answer", 0, false});
+             for (const DOCKEY key : {2, 3}) {
+                 host.host.faults().plant(key, "trigger", {"no answer", 0, false});
+             }
              shoot();
-             for (const DOCKEY key : {2, 3}) host.host.faults().plant(key, "trigger", {});
+             for (const DOCKEY key : {2, 3}) {
+                 host.host.faults().plant(key, "trigger", {});
+             }
              EXPECT_TRUE(last.isEarlier(*host.camera(2).recording()));
              host.camera(2).set(&CameraState::connected, false);
          },
@@ -393,7 +413,9 @@ TEST_F(SavingVideo, LeavesNoHalfFile) {
     {
         SaveJob job(host.host.cameras(), video());
         EXPECT_FALSE(job.start());
-        while (job.frame() == 0) QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+        while (job.frame() == 0) {
+            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+        }
     }
     program("#!/bin/sh\necho 'no such encoder' >&2; exit 1\n");
     EXPECT_EQ(run(video()), QStringList({"Gate: 0 of 2 up to 0, failed", "Nozzle/2: 0 of 3 up to 2, failed"}));
@@ -422,7 +444,9 @@ TEST_F(SavingVideo, AsksOnceAboutAFileThatStandsInTheWay) {
 
 TEST_F(SavingVideo, HoldsAllFramesForAnotherReader) {
     const QString reader = QStandardPaths::findExecutable("ffprobe");
-    if (reader.isEmpty() || !VideoEncoder::installed().isUsable()) GTEST_SKIP() << "ffmpeg is not installed";
+    if (reader.isEmpty() || !VideoEncoder::installed().isUsable()) {
+        GTEST_SKIP() << "ffmpeg is not installed";
+    }
     SaveOrders wanted = video();
     wanted.encoder = VideoEncoder::installed();
     run(wanted);

@@ -29,7 +29,9 @@ TEST_F(HostSignal, IsServedBeforeTheCallReturns) {
 TEST_F(HostSignal, IsGivenUpWithTheScenario) {
     EXPECT_THROW(raiseHostSignal(plugin, "signalScreenShot", "/tmp/a.png", [] { return true; }), ScenarioError);
     // The thread that raised it is served when there is time again.
-    while (path.isEmpty()) QCoreApplication::processEvents();
+    while (path.isEmpty()) {
+        QCoreApplication::processEvents();
+    }
 }
 
 }  // namespace

@@ -56,7 +56,9 @@ protected:
     QString seen() {
         const QJsonArray events = run("seen.splice(0)").toArray();
         QStringList list;
-        for (const QJsonValue& event : events) list << event.toString();
+        for (const QJsonValue& event : events) {
+            list << event.toString();
+        }
         return list.join(QStringLiteral(", "));
     }
 
@@ -152,7 +154,9 @@ TEST_F(Page, TypesTextAndPressesKeysByName) {
     typeText(*view.windowHandle(), QStringLiteral("aX 9+日本\b\"<"));
     EXPECT_EQ(run("document.getElementById('field').value").toString(), QStringLiteral("aX 9+日\"<"));
     const auto never = [] { return false; };
-    for (const char* name : {"Shift+Home", "Ctrl+X", "Shift+B", "8"}) pressKey(QString::fromUtf8(name), 0, never);
+    for (const char* name : {"Shift+Home", "Ctrl+X", "Shift+B", "8"}) {
+        pressKey(QString::fromUtf8(name), 0, never);
+    }
     EXPECT_EQ(run("document.getElementById('field').value").toString(), QStringLiteral("B8"));
     EXPECT_THROW(pressKey(QStringLiteral("Shift+Nothing"), 0, never), ScenarioError);
 }

@@ -34,7 +34,9 @@ Handover external(int frequency) {
 class Signals : public testing::Test {
 protected:
     Signals() {
-        for (DOCKEY key = 1; key <= 8; ++key) test.camera(key).set(&CameraState::connected, true);
+        for (DOCKEY key = 1; key <= 8; ++key) {
+            test.camera(key).set(&CameraState::connected, true);
+        }
         test.clock.join();
     }
 
@@ -119,10 +121,14 @@ TEST_F(Signals, CamerasSeeTheSignalThatTheyWereSynchronisedWith) {
     EXPECT_EQ(status(2), "Not supported") << "never synchronised";
     for (const auto& row : cases) {
         test.host.setRig(Rig::fromFile(QStringLiteral("sync")));
-        for (const DOCKEY key : {1, 2}) test.camera(key).set(&CameraState::connected, true);
+        for (const DOCKEY key : {1, 2}) {
+            test.camera(key).set(&CameraState::connected, true);
+        }
         generator = -1;
         synchronise({1, 2}, row.how);
-        if (row.later) row.later();
+        if (row.later) {
+            row.later();
+        }
         EXPECT_EQ(status(2), row.status) << row.what;
     }
 }
@@ -190,7 +196,9 @@ TEST(Synchronising, OutlivesTheRigThatItBeganWith) {
     HeldClock clock;
     SimHost host(clock, desk, folder.filePath(QStringLiteral("prefs.ini")));
     host.setRig(Rig::standard(3));
-    for (Camera* camera : host.cameras().all()) camera->set(&CameraState::connected, true);
+    for (Camera* camera : host.cameras().all()) {
+        camera->set(&CameraState::connected, true);
+    }
     const DocList docs = host.docManager().getCameraDocs();
     std::string thrown;
     std::thread worker([&] {

@@ -9,14 +9,20 @@
 void GatheredFailures::noteCurrent() {
     // A host that was asked about many cameras answers with a line for each.
     for (const QString& line : currentFailureText().split(QLatin1Char('\n'), Qt::SkipEmptyParts)) {
-        if (!m_texts.contains(line)) m_texts.append(line);
+        if (!m_texts.contains(line)) {
+            m_texts.append(line);
+        }
     }
 }
 
 void GatheredFailures::log() const {
-    for (const QString& text : m_texts) qCritical() << text;
+    for (const QString& text : m_texts) {
+        qCritical() << text;
+    }
 }
 
 void GatheredFailures::rethrow() const {
-    if (!isEmpty()) throw std::runtime_error(text().toStdString());
+    if (!isEmpty()) {
+        throw std::runtime_error(text().toStdString());
+    }
 }

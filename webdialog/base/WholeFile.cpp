@@ -6,7 +6,9 @@
 
 QString writeWholeFile(const QString& path, const QByteArray& bytes) {
     QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly)) return file.errorString();
+    if (!file.open(QIODevice::WriteOnly)) {
+        return file.errorString();
+    }
     // On a full disk the bytes may still fit the buffer, and the commit says yes to an empty file.
     if (file.write(bytes) != bytes.size() || !file.flush()) {
         file.cancelWriting();

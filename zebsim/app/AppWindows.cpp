@@ -72,7 +72,9 @@ void AppWindows::openAbout() {
 
 void AppWindows::editCamera(DOCKEY key) {
     const Camera* camera = m_host.cameras().find(key);
-    if (camera == nullptr) return;
+    if (camera == nullptr) {
+        return;
+    }
     auto* dialog = new CameraDialog(m_host.cameras(), *camera, m_host.getMainWindow());
     // Another camera may bear the key from now on.
     QObject::connect(&m_host.events(), &HostEvents::camerasReplaced, dialog, &CameraDialog::reject);
@@ -100,7 +102,9 @@ void AppWindows::runProgress(const QString& text, QFutureWatcherBase& watcher) {
 
 QImage AppWindows::currentImage() const {
     const CameraWindow* window = m_images.find(m_host.docManager().currentKey());
-    if (window == nullptr || !window->view().frame()) return {};
+    if (window == nullptr || !window->view().frame()) {
+        return {};
+    }
     const CameraFrame& frame = *window->view().frame();
     return drawFrame(frame, frame.resolution);
 }
@@ -108,15 +112,19 @@ QImage AppWindows::currentImage() const {
 // With `addHostState` this writes what `supportFileContents` has promised the user.
 void AppWindows::addToSupportFile(ZebSupportFile& file) const {
     file.files.insert(QStringLiteral("operation.log"), m_log.prefixed().join(QLatin1Char('\n')).toUtf8());
-    if (QWidget* window = m_host.getMainWindow())
+    if (QWidget* window = m_host.getMainWindow()) {
         file.files.insert(QStringLiteral("viewer.png"), pngOf(window->grab().toImage()));
+    }
     for (PLG_Interface* plugin : m_host.appStatus().plugins()) {
-        if (plugin->isDialogVisible())
+        if (plugin->isDialogVisible()) {
             file.files.insert(plugin->getName() % QStringLiteral(".png"),
                               pngOf(plugin->getDialog(false)->grab().toImage()));
+        }
     }
     const QImage image = currentImage();
-    if (!image.isNull()) file.files.insert(QStringLiteral("image.png"), pngOf(image));
+    if (!image.isNull()) {
+        file.files.insert(QStringLiteral("image.png"), pngOf(image));
+    }
 }
 
 void AppWindows::showDropDownBox(const QString& key, const QRect& anchor) {

@@ -27,16 +27,19 @@ void BarKey::refresh() {
 
 void BarKey::press() {
     const QString why = m_refusal();
-    if (why.isEmpty())
+    if (why.isEmpty()) {
         Q_EMIT pressed();
-    else
+    } else {
         refuse(why);
+    }
 }
 
 void BarKey::refuse(const QString& why) const {
     const QString text = uiText("%1: not done. %2").arg(m_action->text(), why);
     qInfo() << "[USER]" << text;
     QWidget* window = QApplication::activeWindow();
-    if (window == nullptr) return;
+    if (window == nullptr) {
+        return;
+    }
     QToolTip::showText(window->mapToGlobal(QPoint(window->width() / 2, window->height() / 3)), text, window);
 }

@@ -31,7 +31,9 @@ CameraDialog::CameraDialog(const CameraBank& cameras, const Camera& camera, QWid
 
 void CameraDialog::accept() {
     Camera* camera = m_cameras.find(m_key);
-    if (camera == nullptr) return reject();
+    if (camera == nullptr) {
+        return reject();
+    }
     camera->set(&CameraState::name, m_name->text());
     camera->set(&CameraState::comment,
                 m_comment->toPlainText().replace(QLatin1Char('\n'), QLatin1String(zeb::CommentSeparator)));
@@ -39,5 +41,7 @@ void CameraDialog::accept() {
 }
 
 void CameraDialog::follow() {
-    if (m_cameras.find(m_key) == nullptr) reject();
+    if (m_cameras.find(m_key) == nullptr) {
+        reject();
+    }
 }

@@ -24,7 +24,9 @@ CameraView::CameraView(QWidget* parent) : QWidget(parent) {
 }
 
 void CameraView::showFrame(const std::optional<CameraFrame>& frame, const ImagePose& pose, const QString& text) {
-    if (m_frame == frame && m_pose == pose && m_text == text) return;
+    if (m_frame == frame && m_pose == pose && m_text == text) {
+        return;
+    }
     m_frame = frame;
     m_pose = pose;
     m_text = text;
@@ -32,7 +34,9 @@ void CameraView::showFrame(const std::optional<CameraFrame>& frame, const ImageP
 }
 
 void CameraView::setMarked(bool marked) {
-    if (m_marked == marked) return;
+    if (m_marked == marked) {
+        return;
+    }
     m_marked = marked;
     update();
 }
@@ -59,7 +63,9 @@ void CameraView::drawImage(QPainter& painter) const {
     pose.scale(m_pose.flipHorizontal ? -1 : 1, m_pose.flipVertical ? -1 : 1);
     const QRectF posed = pose.mapRect(QRectF({}, m_frame->resolution));
     const QSize shown = fitInto(size(), posed.size().toSize());
-    if (shown.isEmpty()) return;
+    if (shown.isEmpty()) {
+        return;
+    }
     const double scale = shown.width() / posed.width();
     const QSizeF plain = QSizeF(m_frame->resolution) * scale;
     const QImage image = drawFrame(*m_frame, (plain * devicePixelRatioF()).toSize());

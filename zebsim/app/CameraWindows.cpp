@@ -40,13 +40,17 @@ CameraWindows::CameraWindows(SimHost& host, ImageArea& area) : m_host(host), m_a
 }
 
 void CameraWindows::follow() {
-    if (m_changing) return;
+    if (m_changing) {
+        return;
+    }
     const QScopedValueRollback<bool> changing(m_changing, true);
     addAndRemove();
     forEach([](const Camera& camera, CameraWindow& window) {
         // Alone the three letters are Qt's mark of a changed document.
         const QString title = QString(camera.name()).replace(QLatin1String("[*]"), QLatin1String("[*][*]"));
-        if (window.windowTitle() != title) window.setWindowTitle(title);
+        if (window.windowTitle() != title) {
+            window.setWindowTitle(title);
+        }
         window.view().setMarked(camera.get(&CameraState::selected));
     });
     activateCurrent();
@@ -56,16 +60,22 @@ void CameraWindows::follow() {
 void CameraWindows::addAndRemove() {
     const DocKeyList wanted = m_host.isFileMode() ? DocKeyList() : m_host.cameras().keysOf(&CameraState::connected);
     const DocKeyList present = m_windows.keys();
-    if (wanted == present) return;
+    if (wanted == present) {
+        return;
+    }
     for (const DOCKEY key : present) {
-        if (wanted.contains(key)) continue;
+        if (wanted.contains(key)) {
+            continue;
+        }
         CameraWindow* window = m_windows.take(key);
         m_area.removeSubWindow(window);
         // This may run inside an event of the window.
         window->deleteLater();
     }
     for (const DOCKEY key : wanted) {
-        if (m_windows.contains(key)) continue;
+        if (m_windows.contains(key)) {
+            continue;
+        }
         auto* window = new CameraWindow(key);
         m_windows.insert(key, window);
         m_area.addSubWindow(window);
@@ -77,25 +87,35 @@ void CameraWindows::addAndRemove() {
     m_active = m_area.activeSubWindow();
     m_current = nullptr;
     QList<QMdiSubWindow*> inOrder;
-    for (CameraWindow* window : qAsConst(m_windows)) inOrder << window;
+    for (CameraWindow* window : qAsConst(m_windows)) {
+        inOrder << window;
+    }
     m_area.tile(inOrder);
     m_timer.setInterval(std::max(LeastInterval, m_windows.size() * IntervalForEach));
 }
 
 void CameraWindows::activateCurrent() {
     CameraWindow* current = find(m_host.docManager().currentKey());
-    if (current == m_current) return;
+    if (current == m_current) {
+        return;
+    }
     m_current = current;
-    if (current != nullptr) m_area.setActiveSubWindow(current);
+    if (current != nullptr) {
+        m_area.setActiveSubWindow(current);
+    }
     m_active = m_area.activeSubWindow();
 }
 
 void CameraWindows::windowActivated(QMdiSubWindow* window) {
     // The area also raises windows by itself: a new one, and the old one when the application comes to the front.
-    if (m_changing || window == nullptr || window == m_active) return;
+    if (m_changing || window == nullptr || window == m_active) {
+        return;
+    }
     m_active = window;
     const DOCKEY chosen = static_cast<CameraWindow*>(window)->key();
-    if (chosen == m_host.docManager().currentKey()) return;
+    if (chosen == m_host.docManager().currentKey()) {
+        return;
+    }
     m_host.docManager().selectOnly({chosen});
     m_host.updates().request();
 }
@@ -116,26 +136,33 @@ void CameraWindows::showFresh() {
 
 void CameraWindows::forEach(const std::function<void(const Camera&, CameraWindow&)>& work) const {
     for (CameraWindow* window : m_windows) {
-        if (const Camera* camera = m_host.cameras().find(window->key())) work(*camera, *window);
+        if (const Camera* camera = m_host.cameras().find(window->key())) {
+            work(*camera, *window);
+        }
     }
 }
 
 void CameraWindows::showImage(const Camera& camera, CameraWindow& window, qint64 passed) {
     const CameraState state = camera.state();
     std::optional<CameraFrame> frame;
-    if (m_host.isMemoryMode())
+    if (m_host.isMemoryMode()) {
         frame = recordedFrame(camera, passed);
-    else if (window.view().frame() && !m_fresh && (state.stopLive || m_host.liveLoop().isLivePaused()))
+    } else if (window.view().frame() && !m_fresh && (state.stopLive || m_host.liveLoop().isLivePaused())) {
         frame = window.view().frame();
-    else
+    } else {
         frame = CameraFrame::live(state, m_shownAt);
+    }
     window.view().showFrame(frame, poseOf(state), uiText("Nothing is recorded"));
 }
 
 std::optional<CameraFrame> CameraWindows::recordedFrame(const Camera& camera, qint64 passed) {
     const std::optional<Recording> recording = camera.recording();
-    if (!recording) return std::nullopt;
-    if (camera.get(&CameraState::playing)) m_playback.advance(camera.key(), *recording, passed);
+    if (!recording) {
+        return std::nullopt;
+    }
+    if (camera.get(&CameraState::playing)) {
+        m_playback.advance(camera.key(), *recording, passed);
+    }
     return CameraFrame::recorded(camera.state(), *recording, m_playback.frame(camera.key(), *recording));
 }
 

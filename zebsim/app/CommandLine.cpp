@@ -49,20 +49,25 @@ QString wrongValue(const QCommandLineParser& parser, const Options& options, Com
     const auto isOneOf = [](const QString& value, const QStringList& choices) {
         return value.isEmpty() || choices.contains(value);
     };
-    if (!parser.positionalArguments().isEmpty())
+    if (!parser.positionalArguments().isEmpty()) {
         return QStringLiteral("Unexpected argument '%1'.").arg(parser.positionalArguments().constFirst());
-    if (!isOneOf(line.style, {QStringLiteral("light"), QStringLiteral("dark")}))
+    }
+    if (!isOneOf(line.style, {QStringLiteral("light"), QStringLiteral("dark")})) {
         return QStringLiteral("--style takes light or dark, not '%1'.").arg(line.style);
-    if (!isOneOf(line.language, Translator::languages()))
+    }
+    if (!isOneOf(line.language, Translator::languages())) {
         return QStringLiteral("--lang takes %1, not '%2'.")
             .arg(Translator::languages().join(QStringLiteral(" or ")), line.language);
+    }
     line.scenarioTimeout = parser.value(options.timeout).toInt();
-    if (line.scenarioTimeout < 1)
+    if (line.scenarioTimeout < 1) {
         return QStringLiteral("--timeout takes a number of seconds, not '%1'.").arg(parser.value(options.timeout));
+    }
     bool isCount = false;
     const int count = line.rig.toInt(&isCount);
-    if (isCount && (count < 1 || count > LargestRig))
+    if (isCount && (count < 1 || count > LargestRig)) {
         return QStringLiteral("--rig takes 1 to %1 cameras, not %2.").arg(LargestRig).arg(count);
+    }
     line.cameraCount = isCount ? count : 0;
     return {};
 }
@@ -78,7 +83,9 @@ CommandLine CommandLine::parse(const QStringList& arguments) {
     const QCommandLineOption version = parser.addVersionOption();
     parser.addOptions({options.rig, options.prefs, options.scenario, options.timeout, options.plugin, options.style,
                        options.language, options.scriptedVisa, options.noTable});
-    if (!parser.parse(arguments)) return mistake(parser, parser.errorText());
+    if (!parser.parse(arguments)) {
+        return mistake(parser, parser.errorText());
+    }
 
     CommandLine line;
     if (parser.isSet(help)) {
@@ -96,7 +103,9 @@ CommandLine CommandLine::parse(const QStringList& arguments) {
         line.scriptedVisa = parser.isSet(options.scriptedVisa);
         line.openTable = !parser.isSet(options.noTable);
         const QString wrong = wrongValue(parser, options, line);
-        if (!wrong.isEmpty()) return mistake(parser, wrong);
+        if (!wrong.isEmpty()) {
+            return mistake(parser, wrong);
+        }
     }
     return line;
 }

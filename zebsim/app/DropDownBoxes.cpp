@@ -12,9 +12,15 @@
 namespace {
 
 std::optional<SelectBoxType> typeOf(const QString& key) {
-    if (key == QLatin1String("partition")) return SelectBoxType::Partition;
-    if (key == QLatin1String("variable")) return SelectBoxType::Variable;
-    if (key == QLatin1String("variableRegist")) return SelectBoxType::VariableRegist;
+    if (key == QLatin1String("partition")) {
+        return SelectBoxType::Partition;
+    }
+    if (key == QLatin1String("variable")) {
+        return SelectBoxType::Variable;
+    }
+    if (key == QLatin1String("variableRegist")) {
+        return SelectBoxType::VariableRegist;
+    }
     return std::nullopt;
 }
 
@@ -23,7 +29,9 @@ std::optional<SelectBoxType> typeOf(const QString& key) {
 DropDownBoxes::DropDownBoxes(SimHost& host, QWidget& window) : m_host(host), m_window(window) {
     window.installEventFilter(this);
     connect(&host.events(), &HostEvents::updateFinished, this, [this] {
-        for (const auto& entry : m_boxes) entry.second->onUpdate();
+        for (const auto& entry : m_boxes) {
+            entry.second->onUpdate();
+        }
     });
 }
 
@@ -31,14 +39,18 @@ DropDownBoxes::~DropDownBoxes() = default;
 
 void DropDownBoxes::showDropDownBox(const QString& key, const QRect& anchor) {
     const std::optional<SelectBoxType> type = typeOf(key);
-    if (!type) return;
+    if (!type) {
+        return;
+    }
     hideDropDownBox({});
     box(key).showBox(int(*type), anchor, {});
 }
 
 void DropDownBoxes::hideDropDownBox(const QString& key) {
     for (const auto& entry : m_boxes) {
-        if (key.isEmpty() || entry.first == key) entry.second->hide();
+        if (key.isEmpty() || entry.first == key) {
+            entry.second->hide();
+        }
     }
 }
 
@@ -48,19 +60,25 @@ bool DropDownBoxes::isDropDownBoxShown() const {
 
 QRect DropDownBoxes::dropDownBoxRect(const QString& key) const {
     const auto found = m_boxes.find(key);
-    if (found == m_boxes.end() || !found->second->isVisible()) return {};
+    if (found == m_boxes.end() || !found->second->isVisible()) {
+        return {};
+    }
     return found->second->geometry().translated(-m_window.geometry().topLeft());
 }
 
 bool DropDownBoxes::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::Move || event->type() == QEvent::Resize) {
-        for (const auto& entry : m_boxes) entry.second->setParentRect(m_window.geometry());
+        for (const auto& entry : m_boxes) {
+            entry.second->setParentRect(m_window.geometry());
+        }
     }
     return QObject::eventFilter(watched, event);
 }
 
 GUI_SelectBox& DropDownBoxes::box(const QString& key) {
     std::unique_ptr<GUI_SelectBox>& box = m_boxes[key];
-    if (!box) box = std::make_unique<GUI_SelectBox>(&m_host, QStringLiteral("qrc:selectbox.html"), &m_window);
+    if (!box) {
+        box = std::make_unique<GUI_SelectBox>(&m_host, QStringLiteral("qrc:selectbox.html"), &m_window);
+    }
     return *box;
 }

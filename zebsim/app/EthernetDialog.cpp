@@ -25,8 +25,12 @@ bool isNetwork(const QString& text) {
 }
 
 QString linkOf(const CameraState& state) {
-    if (!state.connected) return uiText("Not connected");
-    if (state.wifi) return uiText("Connected by radio");
+    if (!state.connected) {
+        return uiText("Not connected");
+    }
+    if (state.wifi) {
+        return uiText("Connected by radio");
+    }
     return state.slowLink ? uiText("Connected, slow link") : uiText("Connected");
 }
 
@@ -57,8 +61,9 @@ QWidget* EthernetDialog::makeTable(const CameraBank& cameras) {
         const Camera& camera = *all[static_cast<std::size_t>(row)];
         const QStringList cells = {camera.device().address(), camera.name(), camera.model().name,
                                    linkOf(camera.state())};
-        for (int column = 0; column < cells.size(); ++column)
+        for (int column = 0; column < cells.size(); ++column) {
             table->setItem(row, column, new QTableWidgetItem(cells.at(column)));
+        }
     }
     table->resizeColumnsToContents();
     table->horizontalHeader()->setStretchLastSection(true);
@@ -74,6 +79,8 @@ void EthernetDialog::accept() {
         m_search->setFocus();
         return;
     }
-    if (network != m_prefs.value(SearchKey).toString()) m_prefs.setValue(SearchKey, network);
+    if (network != m_prefs.value(SearchKey).toString()) {
+        m_prefs.setValue(SearchKey, network);
+    }
     QDialog::accept();
 }

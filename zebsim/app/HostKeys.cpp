@@ -90,7 +90,9 @@ void HostKeys::record() {
 }
 
 void HostKeys::disconnectAll() {
-    if (!mayLetGoOfRecording(m_host, uiText("Cameras are armed or recording. Disconnect all the same?"))) return;
+    if (!mayLetGoOfRecording(m_host, uiText("Cameras are armed or recording. Disconnect all the same?"))) {
+        return;
+    }
     const QList<PLG_Interface*> plugins = m_host.appStatus().plugins();
     if (std::any_of(plugins.begin(), plugins.end(), hasOpenDialog)) {
         sendToPlugins(m_host.appStatus(), "signalDisconnect");
@@ -99,7 +101,9 @@ void HostKeys::disconnectAll() {
     try {
         m_host.cameras().forEach(m_host.cameras().keysOf(&CameraState::connected), [](Camera& camera) {
             // Its heads go together.
-            if (camera.get(&CameraState::connected)) camera.disconnect();
+            if (camera.get(&CameraState::connected)) {
+                camera.disconnect();
+            }
         });
     } catch (const std::exception& e) {
         m_host.tellFailure(e);
@@ -108,11 +112,19 @@ void HostKeys::disconnectAll() {
 }
 
 QString HostKeys::recordRefusal() const {
-    if (!m_host.isLiveMode()) return uiText("Cameras record in live mode.");
-    if (m_host.cameras().connected().empty()) return uiText("No camera is connected.");
+    if (!m_host.isLiveMode()) {
+        return uiText("Cameras record in live mode.");
+    }
+    if (m_host.cameras().connected().empty()) {
+        return uiText("No camera is connected.");
+    }
     const int state = m_host.recorder().state();
-    if (state == zeb::RecordCtsReady) return uiText("The cameras wait for their CTS signal.");
-    if (state == zeb::RecordError) return uiText("All cameras have failed; cancel the recording first.");
+    if (state == zeb::RecordCtsReady) {
+        return uiText("The cameras wait for their CTS signal.");
+    }
+    if (state == zeb::RecordError) {
+        return uiText("All cameras have failed; cancel the recording first.");
+    }
     return {};
 }
 

@@ -22,7 +22,9 @@ QString asLine(const QString& call, const QVariantList& args) {
 /// A view that stands at its end stays there, also when a lower bar takes room of it.
 void stayAtEnd(QScrollBar& bar) {
     QObject::connect(&bar, &QScrollBar::rangeChanged, &bar, [&bar, end = bar.maximum()](int, int maximum) mutable {
-        if (bar.value() >= end) bar.setValue(maximum);
+        if (bar.value() >= end) {
+            bar.setValue(maximum);
+        }
         end = maximum;
     });
 }

@@ -39,7 +39,9 @@ LogStore::~LogStore() {
 }
 
 void LogStore::handle(QtMsgType type, const QMessageLogContext& context, const QString& text) {
-    if (type == QtFatalMsg) earlier(type, context, text);
+    if (type == QtFatalMsg) {
+        earlier(type, context, text);
+    }
     current->add(type, text);
 }
 
@@ -48,18 +50,24 @@ void LogStore::add(QtMsgType type, const QString& text) {
     const Line line{time % QLatin1Char(' ') % levelName(type) % QLatin1Char(' '), inOneLine(text)};
     const QString whole = line.prefix % line.text;
     m_lines.add(line);
-    if (type != QtDebugMsg && type != QtInfoMsg) std::fprintf(stderr, "%s\n", qPrintable(whole));
+    if (type != QtDebugMsg && type != QtInfoMsg) {
+        std::fprintf(stderr, "%s\n", qPrintable(whole));
+    }
     Q_EMIT added(whole);
 }
 
 QStringList LogStore::since(quint64 mark) const {
     QStringList texts;
-    for (const Line& line : m_lines.since(mark)) texts << line.text;
+    for (const Line& line : m_lines.since(mark)) {
+        texts << line.text;
+    }
     return texts;
 }
 
 QStringList LogStore::prefixed() const {
     QStringList lines;
-    for (const Line& line : m_lines.since(0)) lines << line.prefix % line.text;
+    for (const Line& line : m_lines.since(0)) {
+        lines << line.prefix % line.text;
+    }
     return lines;
 }

@@ -47,26 +47,36 @@ Looks looksOf(Message::Kind kind) {
 }
 
 QMessageBox::StandardButtons buttonsOf(const Message& message) {
-    if (message.kind != Message::Confirm) return QMessageBox::Ok;
+    if (message.kind != Message::Confirm) {
+        return QMessageBox::Ok;
+    }
     QMessageBox::StandardButtons buttons;
-    for (auto button = message.buttons.keyBegin(); button != message.buttons.keyEnd(); ++button)
+    for (auto button = message.buttons.keyBegin(); button != message.buttons.keyEnd(); ++button) {
         buttons |= static_cast<QMessageBox::StandardButton>(*button);
+    }
     // Texts for one of the usual buttons leave the other as it is.
-    if ((buttons & ~(QMessageBox::Ok | QMessageBox::Cancel)) == 0) buttons = QMessageBox::Ok | QMessageBox::Cancel;
+    if ((buttons & ~(QMessageBox::Ok | QMessageBox::Cancel)) == 0) {
+        buttons = QMessageBox::Ok | QMessageBox::Cancel;
+    }
     return buttons;
 }
 
 /// The one that leaves all as it is; none for a message that only tells.
 QMessageBox::StandardButton refusalAmong(QMessageBox::StandardButtons buttons) {
-    for (const auto refusal : {QMessageBox::Cancel, QMessageBox::No})
-        if (buttons.testFlag(refusal)) return refusal;
+    for (const auto refusal : {QMessageBox::Cancel, QMessageBox::No}) {
+        if (buttons.testFlag(refusal)) {
+            return refusal;
+        }
+    }
     return QMessageBox::NoButton;
 }
 
 /// The last of the news; what was told before them has been seen.
 QString newest(const QString& whole) {
     const QStringList lines = whole.split(QLatin1Char('\n'));
-    if (lines.size() <= MostNews) return whole;
+    if (lines.size() <= MostNews) {
+        return whole;
+    }
     return QStringLiteral("…\n") % lines.mid(lines.size() - MostNews).join(QLatin1Char('\n'));
 }
 
@@ -102,12 +112,16 @@ void MessageBoxes::rejectAll() {
     m_rejecting = true;
     const QWidgetList windows = QApplication::topLevelWidgets();
     for (QWidget* window : windows) {
-        if (auto* box = qobject_cast<QMessageBox*>(window); box && box->isVisible()) box->reject();
+        if (auto* box = qobject_cast<QMessageBox*>(window); box && box->isVisible()) {
+            box->reject();
+        }
     }
 }
 
 Answer MessageBoxes::show(const Message& message) {
-    if (m_rejecting) return {false};
+    if (m_rejecting) {
+        return {false};
+    }
     if (m_host == nullptr) {
         m_held << message;
         return {};
@@ -116,7 +130,9 @@ Answer MessageBoxes::show(const Message& message) {
     const QPointer<QMessageBox> box = makeBox(message);
     const OverActiveWindow over(*box);
     box->exec();
-    if (box.isNull()) return {false};
+    if (box.isNull()) {
+        return {false};
+    }
     QAbstractButton* chosen = box->clickedButton();
     const QMessageBox::ButtonRole role = chosen ? box->buttonRole(chosen) : QMessageBox::RejectRole;
     const Answer answer{role == QMessageBox::AcceptRole || role == QMessageBox::YesRole,
@@ -157,15 +173,21 @@ void MessageBoxes::join(QMessageBox& notice, const Message& message) const {
     const QPoint corner = notice.frameGeometry().topRight();
     const QString whole = notice.property(TextProperty).toString() % QLatin1Char('\n') % message.text;
     setTexts(notice, whole, newest(whole));
-    if (message.kind == Message::Error) setKind(notice, message.kind);
+    if (message.kind == Message::Error) {
+        setKind(notice, message.kind);
+    }
     notice.move(corner.x() - notice.frameGeometry().width() + 1, corner.y());
 }
 
 void MessageBoxes::followStyle() {
-    if (!m_notice) return;
+    if (!m_notice) {
+        return;
+    }
     const HostCalls::Own own;
     const QString style = styleName(*m_host);
-    if (std::exchange(m_noticeStyle, style) != style) applyMessageBoxStyle(*m_host, *m_notice);
+    if (std::exchange(m_noticeStyle, style) != style) {
+        applyMessageBoxStyle(*m_host, *m_notice);
+    }
 }
 
 QMessageBox* MessageBoxes::makeBox(const Message& message) const {
@@ -181,7 +203,9 @@ QMessageBox* MessageBoxes::makeBox(const Message& message) const {
     box->setEscapeButton(refusal);
     box->setDefaultButton(message.preferred != 0 ? static_cast<QMessageBox::StandardButton>(message.preferred)
                                                  : refusal);
-    if (message.offersSilence) box->setCheckBox(new QCheckBox(translated(TextKey("Don't show again"))));
+    if (message.offersSilence) {
+        box->setCheckBox(new QCheckBox(translated(TextKey("Don't show again"))));
+    }
     applyMessageBoxStyle(*m_host, *box);
     showWhole(box->buttons());
     new NoHastyPress(*box);
@@ -198,7 +222,9 @@ void MessageBoxes::setKind(QMessageBox& box, Message::Kind kind) const {
 void MessageBoxes::setTexts(QMessageBox& box, const QString& whole, const QString& shown) {
     const BoxText text = fitIntoBox(shown);
     box.setText(text.head);
-    if (text.cut || shown != whole) box.setDetailedText(whole);
+    if (text.cut || shown != whole) {
+        box.setDetailedText(whole);
+    }
     box.setProperty(TextProperty, whole);
 }
 
@@ -206,12 +232,13 @@ void MessageBoxes::nameButtons(QMessageBox& box, const ButtonTexts& texts) const
     const QList<QAbstractButton*> buttons = box.buttons();
     for (QAbstractButton* button : buttons) {
         const int standard = box.standardButton(button);
-        if (texts.contains(standard))
+        if (texts.contains(standard)) {
             button->setText(texts.value(standard));
-        else if (standard == QMessageBox::Ok)
+        } else if (standard == QMessageBox::Ok) {
             button->setText(translated(TextKey("OK")));
-        else if (standard == QMessageBox::Cancel)
+        } else if (standard == QMessageBox::Cancel) {
             button->setText(translated(TextKey("Cancel")));
+        }
     }
 }
 

@@ -44,20 +44,26 @@ Camera* PlayerBar::current() const {
 void PlayerBar::modeChanged(int mode) {
     setVisible(mode == zeb::MemoryMode);
     if (mode != zeb::MemoryMode) {
-        for (Camera* camera : m_host.cameras().all()) camera->set(&CameraState::playing, false);
+        for (Camera* camera : m_host.cameras().all()) {
+            camera->set(&CameraState::playing, false);
+        }
     }
     refresh();
 }
 
 void PlayerBar::play(bool on) {
-    if (Camera* camera = current()) camera->set(&CameraState::playing, on);
+    if (Camera* camera = current()) {
+        camera->set(&CameraState::playing, on);
+    }
     m_host.updates().request();
     refresh();
 }
 
 void PlayerBar::seek(int frame) {
     const Camera* camera = current();
-    if (camera == nullptr) return;
+    if (camera == nullptr) {
+        return;
+    }
     m_windows.playback().seek(camera->key(), frame);
     m_windows.showNow();
 }
@@ -71,7 +77,9 @@ void PlayerBar::refresh() {
     m_play->setText(isPlaying ? uiText("Pause") : uiText("Play"));
     m_play->setIcon(style()->standardIcon(isPlaying ? QStyle::SP_MediaPause : QStyle::SP_MediaPlay));
     m_frame->clear();
-    if (camera == nullptr) return;
+    if (camera == nullptr) {
+        return;
+    }
     const Recording recording = *camera->recording();
     const int frame = m_windows.playback().frame(camera->key(), recording);
     const QSignalBlocker ownChange(m_position);

@@ -32,8 +32,9 @@ QList<PreferenceChoice> tableColours() {
 /// By their English names, which are keys too.
 QList<PreferenceChoice> languages() {
     QList<PreferenceChoice> choices;
-    for (const QString& code : Translator::languages())
+    for (const QString& code : Translator::languages()) {
         choices.append({code, QLocale::languageToString(QLocale(code).language())});
+    }
     return choices;
 }
 

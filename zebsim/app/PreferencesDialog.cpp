@@ -35,7 +35,9 @@ PreferencesDialog::PreferencesDialog(Preferences& prefs, QWidget* parent)
 void PreferencesDialog::openAt(const QString& page) {
     for (int i = 0; i < preferencePages().size(); ++i) {
         const bool isWanted = page == preferencePages().at(i).id || page == m_titles->item(i)->text();
-        if (isWanted) m_titles->setCurrentRow(i);
+        if (isWanted) {
+            m_titles->setCurrentRow(i);
+        }
     }
 }
 
@@ -43,7 +45,9 @@ QWidget* PreferencesDialog::makePage(const PreferencePage& page) {
     auto* widget = new QWidget(m_pages);
     auto* form = new QFormLayout(widget);
     form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
-    for (const PreferenceField& field : page.fields) addEditor(*form, field);
+    for (const PreferenceField& field : page.fields) {
+        addEditor(*form, field);
+    }
     return widget;
 }
 
@@ -78,7 +82,9 @@ QWidget* PreferencesDialog::makeEditor(const PreferenceField& field, const QVari
         }
         case PreferenceField::Choice: {
             auto* box = new QComboBox(this);
-            for (const PreferenceChoice& choice : field.choices) box->addItem(uiText(choice.label), choice.value);
+            for (const PreferenceChoice& choice : field.choices) {
+                box->addItem(uiText(choice.label), choice.value);
+            }
             box->setCurrentIndex(box->findData(value));
             reader = [box] { return box->currentData(); };
             return box;
@@ -95,7 +101,9 @@ void PreferencesDialog::accept() {
     for (const Editor& editor : qAsConst(m_editors)) {
         const QVariant value = editor.value();
         // A value that none of the choices stands for stays unless the user has made a choice.
-        if (value != editor.before) m_prefs.setValue(editor.key, value);
+        if (value != editor.before) {
+            m_prefs.setValue(editor.key, value);
+        }
     }
     QDialog::accept();
 }

@@ -15,7 +15,9 @@ namespace {
 class StayOpen : public QObject {
 public:
     bool eventFilter(QObject* object, QEvent* event) override {
-        if (event->type() != QEvent::Close) return QObject::eventFilter(object, event);
+        if (event->type() != QEvent::Close) {
+            return QObject::eventFilter(object, event);
+        }
         event->ignore();
         return true;
     }
@@ -24,7 +26,9 @@ public:
 }  // namespace
 
 void waitWithProgress(ZebHost& host, const QString& text, QFutureWatcherBase& watcher) {
-    if (watcher.isFinished()) return;
+    if (watcher.isFinished()) {
+        return;
+    }
     QEventLoop loop;
     QObject::connect(&watcher, &QFutureWatcherBase::finished, &loop, &QEventLoop::quit);
     StayOpen stayOpen;

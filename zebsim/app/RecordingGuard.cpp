@@ -13,7 +13,9 @@ namespace {
 QStringList camerasUnderWay(const CameraBank& cameras) {
     QStringList lines;
     for (const Camera* camera : cameras.connected()) {
-        if (!camera->isUnderWay()) continue;
+        if (!camera->isUnderWay()) {
+            continue;
+        }
         const bool records = camera->get(&CameraState::recordState) == zeb::RecordRecording;
         lines.append((records ? uiText("%1: records") : uiText("%1: is armed")).arg(cameras.labelOf(*camera)));
     }
@@ -23,7 +25,9 @@ QStringList camerasUnderWay(const CameraBank& cameras) {
 }  // namespace
 
 bool mayLetGoOfRecording(SimHost& host, const QString& question) {
-    if (!host.recorder().isUnderWay()) return true;
+    if (!host.recorder().isUnderWay()) {
+        return true;
+    }
     const ButtonTexts answers{{QMessageBox::Yes, uiText("Yes")}, {QMessageBox::No, uiText("No")}};
     const QStringList asked = camerasUnderWay(host.cameras());
     if (host.choose(question, nullptr, answers, QMessageBox::No, asked) != QMessageBox::Yes) {

@@ -31,10 +31,13 @@ void SaveDesk::save(bool layout) {
     SaveSources sources = saveSources(m_host.cameras(), m_fileNames);
     const QStringList earlier = markEarlier(sources);
     auto tracks = layout ? tracksOfLayout(sources, uiText("Layout")) : tracksOfEach(sources);
-    if (layout && !earlier.isEmpty())
+    if (layout && !earlier.isEmpty()) {
         tracks.front().name = uiText("%1 with %2").arg(tracks.front().name, earlier.join(QStringLiteral(", ")));
+    }
     QStringList absent;
-    for (const AbsentCamera& camera : m_shoot.absent()) absent << absentText(camera);
+    for (const AbsentCamera& camera : m_shoot.absent()) {
+        absent << absentText(camera);
+    }
     absent << m_host.recorder().lost();
     if (tracks.empty()) {
         m_host.tell(Message::Warn, uiText("No connected camera has recorded images."), absent);
@@ -44,7 +47,9 @@ void SaveDesk::save(bool layout) {
     m_asking = true;
     const int answer = runDialog(m_host, new SaveDialog(prefs, tracks, absent, m_host.getMainWindow()));
     m_asking = false;
-    if (answer != QDialog::Accepted) return;
+    if (answer != QDialog::Accepted) {
+        return;
+    }
     begin({prefs.value(QStringLiteral("save/folder")).toString(),
            saveFormat(prefs.value(QStringLiteral("save/format")).toString()), tracks,
            [this](const QString& file) { return ask(file); }, VideoEncoder::installed(), absent});
@@ -53,7 +58,9 @@ void SaveDesk::save(bool layout) {
 QStringList SaveDesk::markEarlier(SaveSources& sources) const {
     QStringList marked;
     for (SaveSource& source : sources) {
-        if (!m_shoot.isEarlier(source.recording())) continue;
+        if (!m_shoot.isEarlier(source.recording())) {
+            continue;
+        }
         source.setName(uiText("%1 (earlier recording)").arg(source.name()));
         marked << source.name();
     }
@@ -108,7 +115,9 @@ void SaveDesk::askToCancel() {
     const int answer =
         m_host.choose(uiText("Stop saving? Complete files stay."), m_progress,
                       {{QMessageBox::Yes, uiText("Stop")}, {QMessageBox::No, uiText("Go on")}}, QMessageBox::No);
-    if (answer == QMessageBox::Yes && isSaving()) m_job->cancel();
+    if (answer == QMessageBox::Yes && isSaving()) {
+        m_job->cancel();
+    }
 }
 
 void SaveDesk::finish() {

@@ -16,10 +16,14 @@ SaveKeys::SaveKeys(SimHost& host, AppDesk& desk, QToolBar& bar)
     m_save.action().setObjectName(QStringLiteral("save"));
     m_layout.action().setObjectName(QStringLiteral("saveLayout"));
     connect(&m_save, &BarKey::pressed, this, [this, &desk] {
-        if (!sendToActivePlugin(m_host.appStatus(), "signalSaveFile")) desk.save(false);
+        if (!sendToActivePlugin(m_host.appStatus(), "signalSaveFile")) {
+            desk.save(false);
+        }
     });
     connect(&m_layout, &BarKey::pressed, this, [this, &desk] {
-        if (!sendToActivePlugin(m_host.appStatus(), "signalSaveLayout")) desk.save(true);
+        if (!sendToActivePlugin(m_host.appStatus(), "signalSaveLayout")) {
+            desk.save(true);
+        }
     });
     connect(&host.events(), &HostEvents::modeChanged, this, &SaveKeys::refresh);
     refresh();

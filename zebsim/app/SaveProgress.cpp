@@ -42,7 +42,9 @@ SaveProgress::SaveProgress(SaveJob& job, QWidget* parent)
     layout->addWidget(m_bar);
     layout->addWidget(m_lines);
     layout->addWidget(m_button, 0, Qt::AlignRight);
-    for (const SaveTrack& track : job.orders().tracks) m_frames += track.frames();
+    for (const SaveTrack& track : job.orders().tracks) {
+        m_frames += track.frames();
+    }
     m_bar->setMaximum(Steps);
     connect(m_button, &QPushButton::clicked, this, &SaveProgress::press);
     connect(&job, &SaveJob::progressed, this, &SaveProgress::follow);
@@ -56,19 +58,24 @@ bool SaveProgress::isFinished() const {
 
 QStringList SaveProgress::lines() const {
     QStringList lines;
-    for (int row = 0; row < m_lines->count(); ++row) lines << m_lines->item(row)->text();
+    for (int row = 0; row < m_lines->count(); ++row) {
+        lines << m_lines->item(row)->text();
+    }
     return lines;
 }
 
 void SaveProgress::reject() {
-    if (isFinished()) QDialog::reject();
+    if (isFinished()) {
+        QDialog::reject();
+    }
 }
 
 void SaveProgress::press() {
-    if (isFinished())
+    if (isFinished()) {
         reject();
-    else
+    } else {
         Q_EMIT cancelWanted();
+    }
 }
 
 void SaveProgress::follow() {
@@ -83,7 +90,9 @@ void SaveProgress::follow() {
     }
     const bool isAllSaved = std::all_of(outcomes.begin(), outcomes.end(),
                                         [](const SaveOutcome& outcome) { return outcome.end == SaveOutcome::Saved; });
-    if (isAllSaved) m_bar->setValue(m_bar->maximum());
+    if (isAllSaved) {
+        m_bar->setValue(m_bar->maximum());
+    }
     m_at->setText(isAllSaved ? uiText("Everything is saved.") : uiText("Not everything is saved."));
     m_button->setText(uiText("Close"));
     m_button->setDefault(true);
@@ -93,7 +102,9 @@ void SaveProgress::showFrame() {
     const auto& tracks = m_job->orders().tracks;
     const std::size_t number = m_job->trackNumber();
     qint64 done = m_job->frame();
-    for (std::size_t i = 0; i < number; ++i) done += tracks[i].frames();
+    for (std::size_t i = 0; i < number; ++i) {
+        done += tracks[i].frames();
+    }
     m_bar->setValue(int(done * Steps / m_frames));
     m_at->setText(uiText("%1 of %2: %3, frame %4 of %5")
                       .arg(QString::number(number + 1), QString::number(tracks.size()), m_job->track().name,

@@ -24,7 +24,9 @@ namespace {
 const QString FirstRig = QStringLiteral("eight-mixed");
 
 Rig rigOf(const CommandLine& line) {
-    if (line.cameraCount > 0) return Rig::standard(line.cameraCount);
+    if (line.cameraCount > 0) {
+        return Rig::standard(line.cameraCount);
+    }
     return Rig::fromFile(line.rig.isEmpty() ? FirstRig : line.rig);
 }
 
@@ -33,10 +35,14 @@ Rig rigOf(const CommandLine& line) {
 Simulator::Simulator(const CommandLine& line) : m_host(m_clock, m_boxes, line.prefs) {
     m_host.syncSignal().setGenerator(ScriptedVisaLoader::signal);
     ScriptedVisaLoader visa;
-    if (line.scriptedVisa && !visa.load()) throw std::runtime_error(visa.errorString().toStdString());
+    if (line.scriptedVisa && !visa.load()) {
+        throw std::runtime_error(visa.errorString().toStdString());
+    }
     chooseLanguage(line.language);
     m_host.setRig(rigOf(line));
-    if (!line.style.isEmpty()) m_host.prefs().setValue(QStringLiteral("env/style"), line.style);
+    if (!line.style.isEmpty()) {
+        m_host.prefs().setValue(QStringLiteral("env/style"), line.style);
+    }
     m_window = std::make_unique<ViewerWindow>(m_host, m_log);
     m_host.setMainWindow(m_window.get());
     m_boxes.setHost(&m_host);
@@ -47,8 +53,9 @@ Simulator::Simulator(const CommandLine& line) : m_host(m_clock, m_boxes, line.pr
     m_host.docManager().setEditor([this](DOCKEY key) { m_desk->editCamera(key); });
     QObject::connect(m_window.get(), &ViewerWindow::closeAsked, m_window.get(), [this] {
         if (mayLetGoOfRecording(m_host, uiText("Cameras are armed or recording. Close the viewer all the same?")) &&
-            m_host.unsavedGuard().mayClose())
+            m_host.unsavedGuard().mayClose()) {
             quit();
+        }
     });
     loadPlugin(line);
     QObject::connect(&m_recorderTimer, &QTimer::timeout, m_window.get(), [this] { m_host.recorder().proceed(); });
@@ -57,7 +64,9 @@ Simulator::Simulator(const CommandLine& line) : m_host(m_clock, m_boxes, line.pr
 
 Simulator::~Simulator() {
     beginClosing();
-    if (m_slot) m_slot->close();
+    if (m_slot) {
+        m_slot->close();
+    }
     m_desk.reset();
     m_window.reset();
     m_slot.reset();
@@ -83,8 +92,9 @@ void Simulator::beginClosing() {
 void Simulator::chooseLanguage(const QString& wanted) {
     const QString stored = m_host.prefs().value(QStringLiteral("env/language")).toString();
     const QString language = wanted.isEmpty() ? stored : wanted;
-    if (!language.isEmpty() && !m_host.setLanguage(language))
+    if (!language.isEmpty() && !m_host.setLanguage(language)) {
         qWarning() << "There is no catalogue for the language" << language;
+    }
 }
 
 void Simulator::loadPlugin(const CommandLine& line) {

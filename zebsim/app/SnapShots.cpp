@@ -59,6 +59,10 @@ void takeSnapShot(SimHost& host, const QImage& image, int mode) {
         host.tell(Message::Info, uiText("There is no image to take."));
         return;
     }
-    if (mode == ToClipboard || mode == ToBoth) QGuiApplication::clipboard()->setImage(image);
-    if (mode == ToFile || mode == ToBoth) writeFile(host, image);
+    if (mode == ToClipboard || mode == ToBoth) {
+        QGuiApplication::clipboard()->setImage(image);
+    }
+    if (mode == ToFile || mode == ToBoth) {
+        writeFile(host, image);
+    }
 }

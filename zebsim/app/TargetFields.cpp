@@ -23,10 +23,16 @@ QString labelOf(const SaveFormat& format) {
 
 /// What there must be for files of that format; empty when there is.
 QString missingFor(const SaveFormat& format) {
-    if (format.isPictureThatCanBeWritten()) return {};
-    if (!format.isVideo()) return uiText("%1 needs the package qt5-image-formats-plugins.").arg(labelOf(format));
+    if (format.isPictureThatCanBeWritten()) {
+        return {};
+    }
+    if (!format.isVideo()) {
+        return uiText("%1 needs the package qt5-image-formats-plugins.").arg(labelOf(format));
+    }
     const VideoEncoder& encoder = VideoEncoder::installed();
-    if (encoder.program.isEmpty()) return uiText("Video needs the program ffmpeg, which is not installed.");
+    if (encoder.program.isEmpty()) {
+        return uiText("Video needs the program ffmpeg, which is not installed.");
+    }
     return encoder.isUsable() ? QString() : uiText("The installed ffmpeg has no encoder for MP4.");
 }
 
@@ -42,7 +48,9 @@ TargetFields::TargetFields(Preferences& prefs, const QString& topic, bool withVi
     form->addRow(uiText("Folder"), makeFolder(prefs.value(topic % QStringLiteral("/folder")).toString()));
     form->addRow(uiText("Format"), m_format);
     const QString missing = addFormats(withVideo);
-    if (!missing.isEmpty()) form->addRow(new QLabel(missing, this));
+    if (!missing.isEmpty()) {
+        form->addRow(new QLabel(missing, this));
+    }
     chooseFormat(prefs.value(topic % QStringLiteral("/format")).toString());
 }
 
@@ -66,10 +74,14 @@ QString TargetFields::addFormats(bool withVideo) {
     QStringList lacks;
     const auto* model = qobject_cast<QStandardItemModel*>(m_format->model());
     for (const SaveFormat& format : saveFormats()) {
-        if (format.isVideo() && !withVideo) continue;
+        if (format.isVideo() && !withVideo) {
+            continue;
+        }
         m_format->addItem(labelOf(format), format.id);
         const QString missing = missingFor(format);
-        if (missing.isEmpty()) continue;
+        if (missing.isEmpty()) {
+            continue;
+        }
         model->item(m_format->count() - 1)->setEnabled(false);
         lacks << missing;
     }
@@ -84,7 +96,9 @@ void TargetFields::chooseFormat(const QString& id) {
 
 void TargetFields::browse() {
     const QString folder = QFileDialog::getExistingDirectory(this, uiText("Folder"), m_folder->text());
-    if (!folder.isEmpty()) setFolder(folder);
+    if (!folder.isEmpty()) {
+        setFolder(folder);
+    }
 }
 
 bool TargetFields::isComplete() const {

@@ -121,10 +121,14 @@ void ViewerWindow::refresh() {
     const QList<QAction*> modes = m_modes->actions();
     modes.at(m_host.getOperatingMode())->setChecked(true);
     // In another mode than live nobody could stop the cameras.
-    for (QAction* mode : modes) mode->setEnabled(mode == modes.at(zeb::LiveMode) || !m_host.recorder().isUnderWay());
+    for (QAction* mode : modes) {
+        mode->setEnabled(mode == modes.at(zeb::LiveMode) || !m_host.recorder().isUnderWay());
+    }
     const QString style = styleName(m_host);
     const QList<QAction*> styles = m_styles->actions();
-    for (QAction* action : styles) action->setChecked(action->objectName() == style);
+    for (QAction* action : styles) {
+        action->setChecked(action->objectName() == style);
+    }
     if (property("style").toString() != style) {
         setProperty("style", style);
         applyNativeStyle(m_host, *this);

@@ -26,7 +26,9 @@ CommandLine parseWithoutDisplay(int argc, char** argv) {
 
 /// Qt ends the process when it finds no display.
 void tellMissingDisplay(QtMsgType type, const QMessageLogContext& /*context*/, const QString& text) {
-    if (type != QtFatalMsg) return;
+    if (type != QtFatalMsg) {
+        return;
+    }
     std::fprintf(stderr,
                  "zebsim needs a display, and there is none to be had. To run without one, as for a scenario, set "
                  "QT_QPA_PLATFORM=offscreen, or start it by xvfb-run.\n%s\n",
@@ -45,7 +47,9 @@ int runScenario(Simulator& simulator, const CommandLine& line) {
 
 int runViewer(Simulator& simulator, const CommandLine& line) {
     return simulator.run([&] {
-        if (line.openTable && simulator.plugin() != nullptr) simulator.plugin()->open();
+        if (line.openTable && simulator.plugin() != nullptr) {
+            simulator.plugin()->open();
+        }
     });
 }
 

@@ -46,7 +46,9 @@ void SimCameraOps::search(const QString& network) {
     const int answering = m_cameras.search(network);
     QStringList found;
     for (const Camera* camera : m_cameras.all()) {
-        if (std::find(before.begin(), before.end(), camera) == before.end()) found.append(camera->name());
+        if (std::find(before.begin(), before.end(), camera) == before.end()) {
+            found.append(camera->name());
+        }
     }
     const QString where = network.isEmpty() ? m_translator.translate(TextKey("the whole network"))
                                             : QString(network % QStringLiteral(".xxx"));

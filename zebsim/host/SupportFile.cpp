@@ -40,7 +40,9 @@ Bytes makeBytes() {
     zip_error_t error;
     zip_error_init(&error);
     Bytes bytes(zip_source_buffer_create(nullptr, 0, 0, &error), zip_source_free);
-    if (!bytes) fail(&error);
+    if (!bytes) {
+        fail(&error);
+    }
     return bytes;
 }
 
@@ -48,7 +50,9 @@ Archive openArchive(zip_source_t* bytes) {
     zip_error_t error;
     zip_error_init(&error);
     Archive archive(zip_open_from_source(bytes, ZIP_CREATE | ZIP_TRUNCATE, &error));
-    if (!archive) fail(&error);
+    if (!archive) {
+        fail(&error);
+    }
     // The archive takes one hold on it, and the bytes are read when that is closed.
     zip_source_keep(bytes);
     return archive;
@@ -73,10 +77,13 @@ void close(Archive& archive) {
 
 QByteArray read(zip_source_t* bytes) {
     zip_stat_t stat;
-    if (zip_source_open(bytes) != 0 || zip_source_stat(bytes, &stat) != 0) fail(zip_source_error(bytes));
-    QByteArray content(static_cast<int>(stat.size), Qt::Uninitialized);
-    if (zip_source_read(bytes, content.data(), stat.size) != static_cast<zip_int64_t>(stat.size))
+    if (zip_source_open(bytes) != 0 || zip_source_stat(bytes, &stat) != 0) {
         fail(zip_source_error(bytes));
+    }
+    QByteArray content(static_cast<int>(stat.size), Qt::Uninitialized);
+    if (zip_source_read(bytes, content.data(), stat.size) != static_cast<zip_int64_t>(stat.size)) {
+        fail(zip_source_error(bytes));
+    }
     zip_source_close(bytes);
     return content;
 }
@@ -183,7 +190,9 @@ bool writeSupportFile(const QString& path, const ZebSupportFile& file) {
         }
         close(archive);
         const QString reason = writeWholeFile(path, read(bytes.get()));
-        if (!reason.isEmpty()) throw std::runtime_error(reason.toStdString());
+        if (!reason.isEmpty()) {
+            throw std::runtime_error(reason.toStdString());
+        }
         return true;
     } catch (const std::exception& e) {
         qCritical() << "The support file" << path << "can't be written:" << e.what();

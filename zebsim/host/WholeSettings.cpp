@@ -16,7 +16,9 @@ WholeSettings::~WholeSettings() {
 }
 
 bool WholeSettings::event(QEvent* event) {
-    if (event->type() != QEvent::UpdateRequest) return QSettings::event(event);
+    if (event->type() != QEvent::UpdateRequest) {
+        return QSettings::event(event);
+    }
     syncWhole();
     return true;
 }
@@ -32,21 +34,28 @@ void WholeSettings::syncWhole() {
     const bool isKept = !failure;
     sync();
     const bool isCut = !isOnDisk();
-    if (isCut && isKept) std::filesystem::rename(before, file, failure);
+    if (isCut && isKept) {
+        std::filesystem::rename(before, file, failure);
+    }
     std::filesystem::remove(before, failure);
     // The status stays as it is once something has failed.
-    if (isCut || (status() == AccessError && !std::exchange(m_isTold, true)))
+    if (isCut || (status() == AccessError && !std::exchange(m_isTold, true))) {
         qCritical() << "The preferences can't be written:" << fileName();
+    }
 }
 
 /// Each key has a line of its own. Settings that were opened anew would show what is still in memory.
 bool WholeSettings::isOnDisk() const {
     QFile file(fileName());
-    if (!file.open(QIODevice::ReadOnly)) return allKeys().isEmpty();
+    if (!file.open(QIODevice::ReadOnly)) {
+        return allKeys().isEmpty();
+    }
     int keys = 0;
     while (!file.atEnd()) {
         const QByteArray line = file.readLine();
-        if (line.size() > 1 && line.endsWith('\n') && !line.startsWith('[')) ++keys;
+        if (line.size() > 1 && line.endsWith('\n') && !line.startsWith('[')) {
+            ++keys;
+        }
     }
     return keys >= allKeys().size();
 }

@@ -17,7 +17,9 @@ constexpr int SmallestText = 9;
 /// A colour of the camera's own, the same at every start of the program.
 QColor groundOf(const QString& camera) {
     unsigned int sum = 7;
-    for (const QChar letter : camera) sum = sum * 31 + letter.unicode();
+    for (const QChar letter : camera) {
+        sum = sum * 31 + letter.unicode();
+    }
     return QColor::fromHsv(int(sum % 360), 90, 96);
 }
 
@@ -73,15 +75,18 @@ void drawTexts(QPainter& painter, const CameraFrame& frame, const QSize& size) {
     const int left = painter.fontMetrics().horizontalAdvance(number) + 2 * margin;
     const QString time = timeText(frame.time);
     // Half a number would be a wrong one.
-    if (painter.fontMetrics().horizontalAdvance(time) <= place.width() - left)
+    if (painter.fontMetrics().horizontalAdvance(time) <= place.width() - left) {
         drawLine(painter, place, Qt::AlignRight | Qt::AlignBottom, time);
+    }
 }
 
 }  // namespace
 
 QImage drawFrame(const CameraFrame& frame, const QSize& size) {
     QImage picture(size, QImage::Format_RGB32);
-    if (picture.isNull()) return picture;
+    if (picture.isNull()) {
+        return picture;
+    }
     QPainter painter(&picture);
     painter.setRenderHint(QPainter::Antialiasing);
     const QColor colour = groundOf(frame.camera);

@@ -24,7 +24,9 @@ public:
         }
         const auto last =
             std::find_if(m_order.rbegin(), m_order.rend(), [](const auto& window) { return window->isVisible(); });
-        if (last != m_order.rend()) (*last)->requestActivate();
+        if (last != m_order.rend()) {
+            (*last)->requestActivate();
+        }
     }
 
 private:
@@ -35,7 +37,9 @@ private:
 }  // namespace
 
 void setUpOffscreen(const QSize& size) {
-    if (QGuiApplication::platformName() != QLatin1String("offscreen")) return;
+    if (QGuiApplication::platformName() != QLatin1String("offscreen")) {
+        return;
+    }
     const QRect geometry(QPoint(0, 0), size);
     QWindowSystemInterface::handleScreenGeometryChange(QGuiApplication::primaryScreen(), geometry, geometry);
     QCoreApplication::processEvents();

@@ -22,7 +22,9 @@ void CameraScripting::rig(const QJSValue& pathOrCount) {
 
 QVariantList CameraScripting::keys() const {
     QVariantList list;
-    for (const Camera* camera : m_host.cameras().all()) list << camera->key();
+    for (const Camera* camera : m_host.cameras().all()) {
+        list << camera->key();
+    }
     return list;
 }
 
@@ -33,7 +35,9 @@ QVariant CameraScripting::camera(unsigned int key) const {
 
 void CameraScripting::setCamera(unsigned int key, const QVariantMap& members) {
     Camera* camera = m_host.cameras().find(key);
-    if (camera == nullptr) throw ScenarioError(QStringLiteral("there is no camera %1").arg(key));
+    if (camera == nullptr) {
+        throw ScenarioError(QStringLiteral("there is no camera %1").arg(key));
+    }
     try {
         camera->change(members);
     } catch (const StateError& e) {

@@ -11,8 +11,12 @@ constexpr int LookAgainMs = 5;
 }
 
 bool waitUntil(const std::function<bool()>& done, const std::function<bool()>& givenUp) {
-    if (done()) return true;
-    if (givenUp()) return false;
+    if (done()) {
+        return true;
+    }
+    if (givenUp()) {
+        return false;
+    }
     QEventLoop loop;
     QTimer timer;
     bool reached = false;
@@ -23,12 +27,16 @@ bool waitUntil(const std::function<bool()>& done, const std::function<bool()>& g
         } catch (...) {
             failure = std::current_exception();
         }
-        if (reached || failure || givenUp()) loop.quit();
+        if (reached || failure || givenUp()) {
+            loop.quit();
+        }
     });
     timer.start(LookAgainMs);
     // A loop of its own, and not processEvents: only a loop deletes what was given to deleteLater inside it.
     loop.exec();
-    if (failure) std::rethrow_exception(failure);
+    if (failure) {
+        std::rethrow_exception(failure);
+    }
     return reached;
 }
 

@@ -9,14 +9,15 @@ namespace {
 Fault faultOf(const QVariantMap& members) {
     Fault fault;
     for (auto member = members.begin(); member != members.end(); ++member) {
-        if (member.key() == QLatin1String("throws"))
+        if (member.key() == QLatin1String("throws")) {
             fault.throws = member->toString();
-        else if (member.key() == QLatin1String("delay"))
+        } else if (member.key() == QLatin1String("delay")) {
             fault.delay = member->toInt();
-        else if (member.key() == QLatin1String("gone"))
+        } else if (member.key() == QLatin1String("gone")) {
             fault.gone = member->toBool();
-        else
+        } else {
             throw ScenarioError(QStringLiteral("a fault has throws, delay or gone, not %1").arg(member.key()));
+        }
     }
     return fault;
 }
@@ -25,10 +26,13 @@ Fault faultOf(const QVariantMap& members) {
 
 void FaultScripting::plant(const QJSValue& target, const QString& operation, const QVariantMap& members) {
     const Target found = find(target);
-    if (operation != QLatin1String("*") && !found.operations.contains(operation))
+    if (operation != QLatin1String("*") && !found.operations.contains(operation)) {
         throw ScenarioError(QStringLiteral("%1 has no operation \"%2\" that can fail").arg(found.name, operation));
+    }
     const Fault fault = faultOf(members);
-    if (fault.gone && found.key == FaultPlan::Host) throw ScenarioError(QStringLiteral("the host can't be gone"));
+    if (fault.gone && found.key == FaultPlan::Host) {
+        throw ScenarioError(QStringLiteral("the host can't be gone"));
+    }
     m_host.faults().plant(found.key, operation, fault);
 }
 
@@ -36,12 +40,17 @@ FaultScripting::Target FaultScripting::find(const QJSValue& target) const {
     if (!target.isString()) {
         const DOCKEY key = target.toUInt();
         // One that a fault has made gone comes back by an empty fault.
-        if (!m_host.cameras().has(key)) throw ScenarioError(QStringLiteral("there is no camera %1").arg(key));
+        if (!m_host.cameras().has(key)) {
+            throw ScenarioError(QStringLiteral("there is no camera %1").arg(key));
+        }
         return {key, QStringLiteral("a camera"), cameraOperations()};
     }
-    if (target.toString() == QLatin1String("host"))
+    if (target.toString() == QLatin1String("host")) {
         return {FaultPlan::Host, QStringLiteral("the host"), hostOperations()};
+    }
     const SignalHub* hub = m_host.signalDevices().hub(target.toString());
-    if (hub == nullptr) throw ScenarioError(QStringLiteral("there is no Sync Hub %1").arg(target.toString()));
+    if (hub == nullptr) {
+        throw ScenarioError(QStringLiteral("there is no Sync Hub %1").arg(target.toString()));
+    }
     return {hub->key(), QStringLiteral("a Sync Hub"), hubOperations()};
 }

@@ -12,9 +12,12 @@
 void raiseHostSignal(PLG_Interface& plugin, const QString& name, const QString& argument,
                      const std::function<bool()>& givenUp) {
     const QByteArray plain = name.toLatin1();
-    if (raisePluginSignal(plugin, plain)) return;
-    if (!hasPluginSignal(plugin, plain + "(QString)"))
+    if (raisePluginSignal(plugin, plain)) {
+        return;
+    }
+    if (!hasPluginSignal(plugin, plain + "(QString)")) {
         throw ScenarioError(QStringLiteral("the plug-in has no signal %1").arg(name));
+    }
     // Shared with the thread, which may outlive this call.
     const auto served = std::make_shared<std::atomic<bool>>(false);
     std::thread raiser([served, plain, argument, plugin = &plugin] {

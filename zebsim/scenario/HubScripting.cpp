@@ -6,7 +6,9 @@
 
 SignalHub& HubScripting::find(const QString& address) const {
     SignalHub* hub = m_host.signalDevices().hub(address);
-    if (hub == nullptr) throw ScenarioError(QStringLiteral("there is no Sync Hub %1").arg(address));
+    if (hub == nullptr) {
+        throw ScenarioError(QStringLiteral("there is no Sync Hub %1").arg(address));
+    }
     return *hub;
 }
 

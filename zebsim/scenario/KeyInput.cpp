@@ -21,7 +21,9 @@ constexpr int ActivationMs = 2000;
 
 /// What a key writes; nothing for one that does not.
 QString textOf(int key, Qt::KeyboardModifiers modifiers) {
-    if (key > 0x7f || (modifiers & ~Qt::ShiftModifier) != 0) return {};
+    if (key > 0x7f || (modifiers & ~Qt::ShiftModifier) != 0) {
+        return {};
+    }
     const QChar letter(key);
     return modifiers.testFlag(Qt::ShiftModifier) ? letter : letter.toLower();
 }
@@ -31,7 +33,9 @@ void awaitModal(const std::function<bool()>& stop) {
     QElapsedTimer asked;
     asked.start();
     const QWidget* modal = QApplication::activeModalWidget();
-    if (modal == nullptr) return;
+    if (modal == nullptr) {
+        return;
+    }
     waitUntil([&] { return QApplication::activeWindow() == modal || QApplication::activeModalWidget() != modal; },
               [&] { return stop() || asked.hasExpired(ActivationMs); });
 }
@@ -44,12 +48,13 @@ void typeText(QWindow& window, const QString& text) {
                                                {QLatin1Char('\b'), Qt::Key_Backspace},
                                                {QLatin1Char('\x1b'), Qt::Key_Escape}};
     for (const QChar letter : text) {
-        if (keys.contains(letter))
+        if (keys.contains(letter)) {
             QTest::keyClick(&window, keys.value(letter));
-        else if (letter.unicode() < 128)
+        } else if (letter.unicode() < 128) {
             QTest::keyClick(&window, letter.toLatin1());
-        else
+        } else {
             QTest::sendKeyEvent(QTest::Click, &window, Qt::Key_unknown, QString(letter), Qt::NoModifier);
+        }
     }
 }
 
@@ -57,14 +62,20 @@ void pressKey(const QString& name, int hold, const std::function<bool()>& stop) 
     const QKeySequence sequence(name, QKeySequence::PortableText);
     const int code = sequence[0];
     const int key = code & ~int(Qt::KeyboardModifierMask);
-    if (sequence.count() != 1 || key == Qt::Key_unknown) throw ScenarioError(QStringLiteral("there is no key ") % name);
+    if (sequence.count() != 1 || key == Qt::Key_unknown) {
+        throw ScenarioError(QStringLiteral("there is no key ") % name);
+    }
     const Qt::KeyboardModifiers modifiers(code & int(Qt::KeyboardModifierMask));
     awaitModal(stop);
     const QPointer<QWindow> window = QGuiApplication::focusWindow();
-    if (window == nullptr) throw ScenarioError(QStringLiteral("no window is active, so no key goes anywhere"));
+    if (window == nullptr) {
+        throw ScenarioError(QStringLiteral("no window is active, so no key goes anywhere"));
+    }
     const auto send = [&](bool press, bool repeated) {
         // The key's work may have closed the window.
-        if (window) QTest::simulateEvent(window, press, key, modifiers, textOf(key, modifiers), repeated);
+        if (window) {
+            QTest::simulateEvent(window, press, key, modifiers, textOf(key, modifiers), repeated);
+        }
     };
     send(true, false);
     QElapsedTimer held;
@@ -74,7 +85,9 @@ void pressKey(const QString& name, int hold, const std::function<bool()>& stop) 
         send(false, true);
         send(true, true);
     }
-    if (held.elapsed() < hold) letPass(int(hold - held.elapsed()), stop);
+    if (held.elapsed() < hold) {
+        letPass(int(hold - held.elapsed()), stop);
+    }
     send(false, false);
 }
 

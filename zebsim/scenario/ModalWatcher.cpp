@@ -31,17 +31,22 @@ QDialog* ModalWatcher::standing() {
 
 bool ModalWatcher::eventFilter(QObject* object, QEvent* event) {
     if (event->type() == QEvent::Show && object->isWidgetType()) {
-        if (auto* dialog = qobject_cast<QDialog*>(object))
+        if (auto* dialog = qobject_cast<QDialog*>(object)) {
             QTimer::singleShot(0, this, [this, dialog = QPointer<QDialog>(dialog)] { lookAt(dialog); });
+        }
     }
     return QObject::eventFilter(object, event);
 }
 
 void ModalWatcher::lookAt(const QPointer<QDialog>& dialog) {
     // By now the dialog may have become modal, for some are shown before they are executed.
-    if (dialog.isNull() || !dialog->isVisible()) return;
+    if (dialog.isNull() || !dialog->isVisible()) {
+        return;
+    }
     if (!dialog->isModal()) {
-        if (auto* box = qobject_cast<QMessageBox*>(dialog)) Q_EMIT noticed(box);
+        if (auto* box = qobject_cast<QMessageBox*>(dialog)) {
+            Q_EMIT noticed(box);
+        }
         return;
     }
     auto* view = dialog->findChild<QWebView*>();

@@ -78,7 +78,9 @@ const QString FindEntry = QStringLiteral(R"js((function (selector, value) {
 void chooseInPopup(const QString& selector, int row) {
     QWidget* popup = QApplication::activePopupWidget();
     auto* list = popup ? popup->findChild<QAbstractItemView*>() : nullptr;
-    if (list == nullptr) throw ScenarioError(selector % QStringLiteral(": no list has opened"));
+    if (list == nullptr) {
+        throw ScenarioError(selector % QStringLiteral(": no list has opened"));
+    }
     list->setCurrentIndex(list->model()->index(row, 0));
     QTest::keyClick(list, Qt::Key_Return);
 }
@@ -93,14 +95,15 @@ PageInput::PageInput(QWebView& page, std::function<bool()> stop) : m_view(page),
 
 void PageInput::click(const QString& selector, const ClickOptions& options) {
     const QPoint at = aim(selector);
-    if (options.twice)
+    if (options.twice) {
         QTest::mouseDClick(&window(), options.button, options.modifiers, at);
-    else if (options.part == ClickOptions::PressOnly)
+    } else if (options.part == ClickOptions::PressOnly) {
         QTest::mousePress(&window(), options.button, options.modifiers, at);
-    else if (options.part == ClickOptions::ReleaseOnly)
+    } else if (options.part == ClickOptions::ReleaseOnly) {
         QTest::mouseRelease(&window(), options.button, options.modifiers, at);
-    else
+    } else {
         QTest::mouseClick(&window(), options.button, options.modifiers, at);
+    }
 }
 
 void PageInput::drag(const QString& from, const QString& to) {
@@ -108,7 +111,9 @@ void PageInput::drag(const QString& from, const QString& to) {
     const QPoint start = aim(from);
     QTest::mousePress(&window(), Qt::LeftButton, {}, start);
     letPass(DragHoldMs, m_givenUp);
-    for (int step = 1; step <= DragSteps; ++step) QTest::mouseMove(&window(), start + (end - start) * step / DragSteps);
+    for (int step = 1; step <= DragSteps; ++step) {
+        QTest::mouseMove(&window(), start + (end - start) * step / DragSteps);
+    }
     QTest::mouseRelease(&window(), Qt::LeftButton, {}, end);
 }
 
@@ -116,9 +121,10 @@ void PageInput::choose(const QString& selector, const QString& value) {
     click(selector, {});
     const QString script = FindEntry.arg(scriptString(selector), scriptString(value));
     const QJsonObject entry = PageScript(script).run(m_view).toObject();
-    if (!entry.contains(QLatin1String("at")))
+    if (!entry.contains(QLatin1String("at"))) {
         throw ScenarioError(QStringLiteral("%1 offers no \"%2\" but: %3")
                                 .arg(selector, value, entry.value(QLatin1String("offers")).toString()));
+    }
     const int at = entry.value(QLatin1String("at")).toInt();
     if (!entry.value(QLatin1String("native")).toBool()) {
         click(QStringLiteral(".SumoSelect.open .options li:nth-child(%1)").arg(at + 1), {});
@@ -149,9 +155,12 @@ QPoint PageInput::locate(const QString& selector) {
             return m_view.mapTo(m_view.window(), inView);
         }
         const bool isCovered = seen.value(QLatin1String("covered")).toBool();
-        if (isCovered && !covered.isValid()) covered.start();
-        if (seen.contains(QLatin1String("fault")) && !(isCovered && !covered.hasExpired(CoveredMs)))
+        if (isCovered && !covered.isValid()) {
+            covered.start();
+        }
+        if (seen.contains(QLatin1String("fault")) && !(isCovered && !covered.hasExpired(CoveredMs))) {
             throw ScenarioError(selector % QLatin1String(": ") % seen.value(QLatin1String("fault")).toString());
+        }
         turn(selector);
     }
 }
@@ -168,11 +177,15 @@ void PageInput::turn(const QString& selector) {
     PageScript(StartTurn).run(m_view);
     const PageScript hasTurned(QStringLiteral("window.zebTurned"));
     const auto turned = [&] { return hasTurned.run(m_view).toBool(); };
-    if (!waitUntil(turned, m_givenUp) || m_givenUp()) throw ScenarioError(selector % QStringLiteral(": given up"));
+    if (!waitUntil(turned, m_givenUp) || m_givenUp()) {
+        throw ScenarioError(selector % QStringLiteral(": given up"));
+    }
 }
 
 QWindow& PageInput::window() const {
     QWindow* handle = m_view.window()->windowHandle();
-    if (handle == nullptr || !m_view.isVisible()) throw ScenarioError(QStringLiteral("the page is not on the screen"));
+    if (handle == nullptr || !m_view.isVisible()) {
+        throw ScenarioError(QStringLiteral("the page is not on the screen"));
+    }
     return *handle;
 }

@@ -39,8 +39,9 @@ PageScript::PageScript(const QString& text) {
     if (parser.evaluate(body).isError()) {
         body = filled(Body, text);
         const QJSValue asStatements = parser.evaluate(body);
-        if (asStatements.isError())
+        if (asStatements.isError()) {
             throw ScenarioError(QStringLiteral("this is no script: %1: %2").arg(text, asStatements.toString()));
+        }
     }
     m_program = filled(Frame, body);
 }
@@ -48,8 +49,9 @@ PageScript::PageScript(const QString& text) {
 QJsonValue PageScript::run(QWebView& view) const {
     const QString answer = view.page()->mainFrame()->evaluateJavaScript(m_program).toString();
     const QJsonObject object = QJsonDocument::fromJson(answer.toUtf8()).object();
-    if (object.contains(QLatin1String("error")))
+    if (object.contains(QLatin1String("error"))) {
         throw ScenarioError(QStringLiteral("in the page: ") % object.value(QLatin1String("error")).toString());
+    }
     return object.value(QLatin1String("value"));
 }
 

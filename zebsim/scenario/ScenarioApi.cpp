@@ -22,7 +22,9 @@ const QStringList& modeNames() {
 
 void checkOptions(const QString& call, const QVariantMap& options, const QStringList& known) {
     for (auto option = options.keyBegin(); option != options.keyEnd(); ++option) {
-        if (!known.contains(*option)) throw ScenarioError(QStringLiteral("a %1 has no option %2").arg(call, *option));
+        if (!known.contains(*option)) {
+            throw ScenarioError(QStringLiteral("a %1 has no option %2").arg(call, *option));
+        }
     }
 }
 
@@ -34,9 +36,13 @@ ClickOptions clickOptions(const QVariantMap& members) {
     options.modifiers.setFlag(Qt::ControlModifier, members.value(QStringLiteral("ctrl")).toBool());
     options.modifiers.setFlag(Qt::ShiftModifier, members.value(QStringLiteral("shift")).toBool());
     options.twice = members.value(QStringLiteral("double")).toBool();
-    if (members.value(QStringLiteral("right")).toBool()) options.button = Qt::RightButton;
+    if (members.value(QStringLiteral("right")).toBool()) {
+        options.button = Qt::RightButton;
+    }
     const QVariant down = members.value(QStringLiteral("down"));
-    if (down.isValid()) options.part = down.toBool() ? ClickOptions::PressOnly : ClickOptions::ReleaseOnly;
+    if (down.isValid()) {
+        options.part = down.toBool() ? ClickOptions::PressOnly : ClickOptions::ReleaseOnly;
+    }
     return options;
 }
 
@@ -56,7 +62,9 @@ ScenarioApi::ScenarioApi(QJSEngine& engine, Simulator& simulator, const QString&
 template <typename Work>
 auto ScenarioApi::guarded(Work work) -> decltype(work()) {
     try {
-        if (m_givenUp()) throw ScenarioError(QStringLiteral("the scenario has run for too long"));
+        if (m_givenUp()) {
+            throw ScenarioError(QStringLiteral("the scenario has run for too long"));
+        }
         return work();
     } catch (const std::exception& e) {
         m_engine.throwError(QString::fromUtf8(e.what()));
@@ -194,7 +202,9 @@ bool ScenarioApi::until(const QString& text, double ms) {
 
 void ScenarioApi::speed(double factor) {
     guarded([&] {
-        if (factor <= 0) throw ScenarioError(QStringLiteral("the clock's speed must be above 0"));
+        if (factor <= 0) {
+            throw ScenarioError(QStringLiteral("the clock's speed must be above 0"));
+        }
         m_simulator.clock().setSpeed(factor);
     });
 }
@@ -253,7 +263,9 @@ QString ScenarioApi::mode() {
 void ScenarioApi::mode(const QString& name) {
     guarded([&] {
         const int mode = modeNames().indexOf(name);
-        if (mode < 0) throw ScenarioError(QStringLiteral("the modes are live, memory and file, not \"%1\"").arg(name));
+        if (mode < 0) {
+            throw ScenarioError(QStringLiteral("the modes are live, memory and file, not \"%1\"").arg(name));
+        }
         m_simulator.host().appStatus().enterMode(mode);
         m_table.settle();
     });
@@ -261,7 +273,9 @@ void ScenarioApi::mode(const QString& name) {
 
 void ScenarioApi::signal(const QString& name, const QString& argument) {
     guarded([&] {
-        if (m_simulator.plugin() == nullptr) throw ScenarioError(QStringLiteral("no plug-in is loaded"));
+        if (m_simulator.plugin() == nullptr) {
+            throw ScenarioError(QStringLiteral("no plug-in is loaded"));
+        }
         raiseHostSignal(m_simulator.plugin()->plugin(), name, argument, m_givenUp);
         m_table.settle();
     });

@@ -15,7 +15,9 @@ namespace {
 
 QString kindOf(const QMessageBox& box) {
     const QVariant kind = box.property(MessageBoxes::KindProperty);
-    if (kind.isValid()) return kind.toString();
+    if (kind.isValid()) {
+        return kind.toString();
+    }
     // One of the plug-in's own.
     return box.icon() == QMessageBox::Warning ? QStringLiteral("warn") : QStringLiteral("info");
 }
@@ -32,17 +34,23 @@ ScenarioDialogs::ScenarioDialogs() {
     connect(&m_watcher, &ModalWatcher::noticed, this, [this](QMessageBox* box) {
         writeDown(*box);
         m_notice = box;
-        if (!m_noticesStand) box->accept();
+        if (!m_noticesStand) {
+            box->accept();
+        }
     });
 }
 
 void ScenarioDialogs::letNoticesStand(bool stand) {
     m_noticesStand = stand;
-    if (!stand && m_notice) m_notice->accept();
+    if (!stand && m_notice) {
+        m_notice->accept();
+    }
 }
 
 void ScenarioDialogs::expect(const QJSValue& function) {
-    if (!function.isCallable()) throw ScenarioError(QStringLiteral("zeb.modal takes a function"));
+    if (!function.isCallable()) {
+        throw ScenarioError(QStringLiteral("zeb.modal takes a function"));
+    }
     m_functions.append(function);
 }
 
@@ -55,16 +63,24 @@ QVariantList ScenarioDialogs::takeMessages() {
 }
 
 QString ScenarioDialogs::leftOver() const {
-    if (!m_functions.isEmpty()) return QStringLiteral("a function still waits for a modal dialog");
-    if (!m_answers.isEmpty()) return QStringLiteral("no box took the answer ") % m_answers.join(QLatin1String(", "));
-    if (m_saves.isOrderLeft()) return QStringLiteral("no save dialog took an order");
+    if (!m_functions.isEmpty()) {
+        return QStringLiteral("a function still waits for a modal dialog");
+    }
+    if (!m_answers.isEmpty()) {
+        return QStringLiteral("no box took the answer ") % m_answers.join(QLatin1String(", "));
+    }
+    if (m_saves.isOrderLeft()) {
+        return QStringLiteral("no save dialog took an order");
+    }
     return {};
 }
 
 QWebView& ScenarioDialogs::pageOfStanding() {
     const QDialog* dialog = ModalWatcher::standing();
     auto* view = dialog ? dialog->findChild<QWebView*>() : nullptr;
-    if (view == nullptr) throw ScenarioError(QStringLiteral("no modal dialog with a page stands"));
+    if (view == nullptr) {
+        throw ScenarioError(QStringLiteral("no modal dialog with a page stands"));
+    }
     return *view;
 }
 
@@ -74,13 +90,19 @@ void ScenarioDialogs::dialogStands(QDialog* dialog) {
         return;
     }
     const QPointer<QMessageBox> box = qobject_cast<QMessageBox*>(dialog);
-    if (box) writeDown(*box);
+    if (box) {
+        writeDown(*box);
+    }
     if (!m_functions.isEmpty()) {
         const QJSValue result = m_functions.takeFirst().call();
-        if (result.isError()) Q_EMIT threw(result);
+        if (result.isError()) {
+            Q_EMIT threw(result);
+        }
     }
     // The function may have answered the box itself.
-    if (box && box->isVisible()) answer(*box);
+    if (box && box->isVisible()) {
+        answer(*box);
+    }
 }
 
 void ScenarioDialogs::serveSave(QDialog& dialog) {

@@ -48,17 +48,19 @@ int ScenarioRunner::run(const QString& path, const QString& program) {
     QQmlEngine::setObjectOwnership(&api, QQmlEngine::CppOwnership);
     QQmlEngine::setObjectOwnership(this, QQmlEngine::CppOwnership);
     const QJSValue self = m_engine.newQObject(this);
-    for (const char* name : {"print", "check"})
+    for (const char* name : {"print", "check"}) {
         m_engine.globalObject().setProperty(QLatin1String(name), self.property(QLatin1String(name)));
+    }
     QJSValue extend = m_engine.evaluate(Extension);
     m_engine.globalObject().setProperty(QStringLiteral("zeb"), extend.call({m_engine.newQObject(&api)}));
 
     const ScriptWatchdog watchdog(m_timeout, [this] { expired(); });
     const QJSValue end = m_engine.evaluate(program % QLatin1String("\n;'") % EndMark % QLatin1Char('\''), path);
-    if (end.isError() || end.toString() != EndMark)
+    if (end.isError() || end.toString() != EndMark) {
         reportError(end);
-    else if (!api.dialogs().leftOver().isEmpty())
+    } else if (!api.dialogs().leftOver().isEmpty()) {
         fail(api.dialogs().leftOver());
+    }
     return m_failed ? 1 : 0;
 }
 
@@ -72,10 +74,11 @@ void ScenarioRunner::print(const QJSValue& value) {
 }
 
 void ScenarioRunner::check(const QJSValue& condition, const QString& text) {
-    if (condition.toBool())
+    if (condition.toBool()) {
         printLine(stdout, QLatin1String("ok: ") % text);
-    else
+    } else {
         fail(callerPlace() % QLatin1String(": ") % text);
+    }
 }
 
 void ScenarioRunner::expired() {
@@ -89,7 +92,9 @@ void ScenarioRunner::rejectDialogs() {
     const QWidgetList windows = QApplication::topLevelWidgets();
     for (QWidget* window : windows) {
         auto* dialog = qobject_cast<QDialog*>(window);
-        if (dialog != nullptr && dialog->isVisible() && dialog->isModal()) dialog->reject();
+        if (dialog != nullptr && dialog->isVisible() && dialog->isModal()) {
+            dialog->reject();
+        }
     }
 }
 

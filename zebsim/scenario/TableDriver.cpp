@@ -39,7 +39,9 @@ TableDriver::TableDriver(Simulator& simulator, std::function<bool()> stop)
 
 bool TableDriver::open() {
     pressButton();
-    if (dialog() == nullptr || !dialog()->isVisible()) return false;
+    if (dialog() == nullptr || !dialog()->isVisible()) {
+        return false;
+    }
     // An update has been asked for by now, and is owed until the page has loaded. A message that stood before the page
     // has let it pass.
     const PageScript loaded(QStringLiteral("document.URL !== 'about:blank' && document.readyState === 'complete'"));
@@ -47,7 +49,9 @@ bool TableDriver::open() {
 }
 
 void TableDriver::pressButton() {
-    if (m_simulator.plugin() == nullptr) throw ScenarioError(QStringLiteral("no plug-in is loaded"));
+    if (m_simulator.plugin() == nullptr) {
+        throw ScenarioError(QStringLiteral("no plug-in is loaded"));
+    }
     ViewerWindow& viewer = m_simulator.window();
     const auto* button = viewer.findChild<QToolButton*>(m_simulator.plugin()->plugin().getName());
     const QPoint middle = button->mapTo(&viewer, button->rect().center());
@@ -101,24 +105,26 @@ void TableDriver::type(const QString& text) {
 
 void TableDriver::window(const QString& what) {
     QDialog& table = shownDialog();
-    if (what == QLatin1String("minimise"))
+    if (what == QLatin1String("minimise")) {
         table.showMinimized();
-    else if (what == QLatin1String("restore"))
+    } else if (what == QLatin1String("restore")) {
         table.showNormal();
-    else if (what == QLatin1String("activate"))
+    } else if (what == QLatin1String("activate")) {
         table.activateWindow();
-    else
+    } else {
         place(what);
+    }
     settle();
 }
 
 void TableDriver::place(const QString& geometry) {
     static const QRegularExpression pattern(QStringLiteral("^(-?\\d+),(-?\\d+),(\\d+),(\\d+)$"));
     const QRegularExpressionMatch numbers = pattern.match(geometry);
-    if (!numbers.hasMatch())
+    if (!numbers.hasMatch()) {
         throw ScenarioError(
             QStringLiteral("zeb.window takes \"minimise\", \"restore\", \"activate\" or \"x,y,w,h\", not \"%1\"")
                 .arg(geometry));
+    }
     const auto number = [&](int group) { return numbers.captured(group).toInt(); };
     shownDialog().setGeometry(number(1), number(2), number(3), number(4));
 }
@@ -127,8 +133,9 @@ QString TableDriver::shot(const QString& path) {
     const QFileInfo file(path);
     QDir().mkpath(file.absolutePath());
     const QString reason = writeWholePicture(path, stillPicture());
-    if (!reason.isEmpty())
+    if (!reason.isEmpty()) {
         throw ScenarioError(QStringLiteral("%1: the picture can't be written: %2").arg(path, reason));
+    }
     return file.absoluteFilePath();
 }
 
@@ -153,13 +160,17 @@ QDialog* TableDriver::dialog() const {
 }
 
 QDialog& TableDriver::shownDialog() const {
-    if (dialog() == nullptr || !dialog()->isVisible()) throw ScenarioError(QStringLiteral("the table is not open"));
+    if (dialog() == nullptr || !dialog()->isVisible()) {
+        throw ScenarioError(QStringLiteral("the table is not open"));
+    }
     return *dialog();
 }
 
 QWebView& TableDriver::view() const {
     // The page lives on behind a closed window.
     auto* found = dialog() ? dialog()->findChild<QWebView*>() : nullptr;
-    if (found == nullptr) throw ScenarioError(QStringLiteral("the table was never open"));
+    if (found == nullptr) {
+        throw ScenarioError(QStringLiteral("the table was never open"));
+    }
     return *found;
 }

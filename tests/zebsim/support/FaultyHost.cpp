@@ -9,7 +9,9 @@ namespace {
 
 QString textOf(const QVariant& value) {
     QStringList members;
-    for (const QVariant& member : value.toList()) members.append(member.toString());
+    for (const QVariant& member : value.toList()) {
+        members.append(member.toString());
+    }
     return value.type() == QVariant::List ? members.join(QLatin1Char(',')) : value.toString();
 }
 
@@ -18,14 +20,17 @@ QString textOf(const QVariant& value) {
 Answer ToldDesk::show(const Message& message) {
     static constexpr const char* Kinds[] = {"info", "warn", "alert", "confirm", "error"};
     // Of an error the host itself has told.
-    if (message.kind != Message::Error)
+    if (message.kind != Message::Error) {
         tell(Kinds[message.kind], (QStringList(message.text) + message.list).join(QLatin1Char('|')));
+    }
     return ScriptedDesk::show(message);
 }
 
 FaultyHost::FaultyHost(int cameras) : SimHost(stepped, desk, folder.filePath(QStringLiteral("prefs.ini"))) {
     setRig(Rig::standard(cameras));
-    for (Camera* camera : SimHost::cameras().all()) camera->set(&CameraState::connected, true);
+    for (Camera* camera : SimHost::cameras().all()) {
+        camera->set(&CameraState::connected, true);
+    }
     desk.tell = [this](const char* kind, const QString& text) { tell(QLatin1String(kind), {text}); };
     QObject::connect(&journal(), &Journal::recorded, [this](const QString& call, const QVariantList& args) {
         tell(call.section(QStringLiteral("::"), 1), args);
@@ -36,9 +41,13 @@ FaultyHost::FaultyHost(int cameras) : SimHost(stepped, desk, folder.filePath(QSt
 
 void FaultyHost::tell(const QString& operation, const QVariantList& args) const {
     QStringList words(operation);
-    for (const QVariant& arg : args) words.append(textOf(arg));
+    for (const QVariant& arg : args) {
+        words.append(textOf(arg));
+    }
     Course::note(words.join(QLatin1Char(' ')).trimmed());
-    if (failing == operation) throw std::runtime_error(operation.toStdString());
+    if (failing == operation) {
+        throw std::runtime_error(operation.toStdString());
+    }
 }
 
 QString FaultyHost::translate(const QString& text) const {
@@ -51,7 +60,9 @@ void FaultyHost::errorHandler(const std::exception& e) {
     Message box;
     box.kind = Message::Error;
     box.text = QString::fromUtf8(e.what());
-    if (!box.text.isEmpty()) desk.show(box);
+    if (!box.text.isEmpty()) {
+        desk.show(box);
+    }
 }
 
 void FaultyHost::showDropDownBox(const QString& key, const QRect& anchor) {

@@ -11,7 +11,9 @@
 
 /// "first..last trigger t", or "nothing".
 inline std::string told(const std::optional<Recording>& recording) {
-    if (!recording) return "nothing";
+    if (!recording) {
+        return "nothing";
+    }
     return QStringLiteral("%1..%2 trigger %3")
         .arg(recording->first)
         .arg(recording->last)
@@ -24,7 +26,9 @@ inline std::string told(const std::optional<Recording>& recording) {
 class RecordingTest : public testing::Test {
 protected:
     RecordingTest() : test(rig()) {
-        for (Camera* camera : host.cameras().all()) camera->set(&CameraState::connected, true);
+        for (Camera* camera : host.cameras().all()) {
+            camera->set(&CameraState::connected, true);
+        }
         host.appStatus().registerPlugin(&plugin);
         // Most tests record again and again.
         host.prefs().setValue("alert/unsavedrecording", false);
@@ -53,8 +57,9 @@ protected:
     std::string states() {
         const int whole = host.recorder().getRecordingState();
         QString list;
-        for (const Camera* camera : host.cameras().all())
+        for (const Camera* camera : host.cameras().all()) {
             list += QString::number(camera->get(&CameraState::recordState)) + QLatin1Char(' ');
+        }
         return QStringLiteral("%1- %2").arg(list).arg(whole).toStdString();
     }
     std::string recorded(DOCKEY key) { return told(test.camera(key).recording()); }

@@ -48,9 +48,10 @@ struct TestHost {
         for (const QVariant& entry : host.journal().since(m_mark)) {
             const QString name = entry.toMap().value(QStringLiteral("call")).toString();
             const QJsonArray args = QJsonArray::fromVariantList(entry.toMap().value(QStringLiteral("args")).toList());
-            if (name != QLatin1String("ZebHost::updateUI"))
+            if (name != QLatin1String("ZebHost::updateUI")) {
                 texts +=
                     name % QLatin1Char(' ') % QString::fromUtf8(QJsonDocument(args).toJson(QJsonDocument::Compact));
+            }
         }
         m_mark = host.journal().count();
         return texts;

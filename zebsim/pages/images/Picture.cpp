@@ -24,5 +24,7 @@ void Picture::roundedBox(const QRectF& box, qreal radius) {
 
 void Picture::save(const QString& path) {
     m_painter.end();
-    if (!m_image.save(path, "PNG")) throw std::runtime_error("Cannot write the picture " + path.toStdString());
+    if (!m_image.save(path, "PNG")) {
+        throw std::runtime_error("Cannot write the picture " + path.toStdString());
+    }
 }
