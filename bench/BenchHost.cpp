@@ -1,7 +1,7 @@
 #include "BenchHost.h"
 
-#include "camera/Camera.h"
-#include "camera/Rig.h"
+#include "Camera.h"
+#include "Rig.h"
 
 namespace {
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "host/MessageDesk.h"
-#include "host/SimHost.h"
-#include "recording/SteppedClock.h"
+#include "MessageDesk.h"
+#include "SimHost.h"
+#include "SteppedClock.h"
 
 #include <QTemporaryDir>
 

@@ -1,6 +1,6 @@
 #include "OpenTable.h"
 
-#include "host/SimHost.h"
+#include "SimHost.h"
 
 #include <QCoreApplication>
 #include <QDialog>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "host/PluginLoader.h"
-#include "host/PluginSlot.h"
+#include "PluginLoader.h"
+#include "PluginSlot.h"
 
 #include <QVariant>
 

@@ -6,9 +6,9 @@
 #include "DOC_Interface.h"
 #include "DOC_Lock.h"
 #include "Median.h"
+#include "RecordModel.h"
 #include "TableState.h"
 #include "ZebDocManager.h"
-#include "records/RecordModel.h"
 
 #include <QJsonDocument>
 

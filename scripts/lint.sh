@@ -14,7 +14,7 @@ changed_sources() {
 }
 
 lint_text() {
-    cpp_sources | xargs -d "\n" clang-format-16 --dry-run --Werror
+    cpp_sources | xargs -d '\n' clang-format-16 --dry-run --Werror
     npx --no-install eslint .
     npx --no-install stylelint --allow-empty-input 'pages/**/*.css' 'zebsim/pages/**/*.css'
 }

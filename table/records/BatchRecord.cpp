@@ -1,4 +1,4 @@
-#include "records/BatchRecord.h"
+#include "BatchRecord.h"
 
 #include "TextKey.h"
 #include "ZebHost.h"

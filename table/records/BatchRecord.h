@@ -1,7 +1,7 @@
 #pragma once
 
+#include "Record.h"
 #include "ZebTypes.h"
-#include "records/Record.h"
 
 class ZebHost;
 

@@ -1,9 +1,9 @@
-#include "records/CameraInfoMembers.h"
+#include "CameraInfoMembers.h"
 
 #include "DOC_Control.h"
 #include "DOC_Image.h"
 #include "DOC_Interface.h"
-#include "records/Record.h"
+#include "Record.h"
 
 namespace camerainfo {
 

@@ -1,10 +1,10 @@
-#include "records/CommonMembers.h"
+#include "CommonMembers.h"
 
 #include "DOC_Activity.h"
 #include "DOC_Control.h"
 #include "DOC_Interface.h"
 #include "DOC_Lock.h"
-#include "records/Record.h"
+#include "Record.h"
 
 namespace commonmembers {
 

@@ -1,10 +1,10 @@
-#include "records/IrigMembers.h"
+#include "IrigMembers.h"
 
 #include "DOC_Control.h"
 #include "DOC_Interface.h"
+#include "Record.h"
 #include "TextKey.h"
 #include "ZebHost.h"
-#include "records/Record.h"
 
 namespace irigmembers {
 

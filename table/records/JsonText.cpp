@@ -1,4 +1,4 @@
-#include "records/JsonText.h"
+#include "JsonText.h"
 
 namespace jsontext {
 

@@ -1,14 +1,14 @@
-#include "records/LiveControlMembers.h"
+#include "LiveControlMembers.h"
 
 #include "DOC_Control.h"
 #include "DOC_Frames.h"
 #include "DOC_Interface.h"
+#include "JsonText.h"
+#include "NumberFormat.h"
+#include "Record.h"
 #include "TableState.h"
 #include "TextKey.h"
 #include "ZebHost.h"
-#include "records/JsonText.h"
-#include "records/NumberFormat.h"
-#include "records/Record.h"
 
 #include <QHash>
 

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "Choices.h"
 #include "ZebTypes.h"
-#include "records/Choices.h"
 
 #include <QList>
 #include <QPair>

@@ -1,13 +1,13 @@
-#include "records/MemoryInfoMembers.h"
+#include "MemoryInfoMembers.h"
 
 #include "DOC_Control.h"
 #include "DOC_Frames.h"
 #include "DOC_Head.h"
 #include "DOC_Interface.h"
+#include "NumberFormat.h"
+#include "Record.h"
 #include "TextKey.h"
 #include "ZebHost.h"
-#include "records/NumberFormat.h"
-#include "records/Record.h"
 
 namespace {
 

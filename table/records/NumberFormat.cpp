@@ -1,4 +1,4 @@
-#include "records/NumberFormat.h"
+#include "NumberFormat.h"
 
 #include <cmath>
 

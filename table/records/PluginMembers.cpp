@@ -1,11 +1,11 @@
-#include "records/PluginMembers.h"
+#include "PluginMembers.h"
 
 #include "DOC_Interface.h"
 #include "DOC_Storage.h"
+#include "JsonText.h"
+#include "Record.h"
 #include "ZebAppStatus.h"
 #include "ZebHost.h"
-#include "records/JsonText.h"
-#include "records/Record.h"
 
 namespace pluginmembers {
 

@@ -1,6 +1,6 @@
-#include "records/Record.h"
+#include "Record.h"
 
-#include "records/JsonText.h"
+#include "JsonText.h"
 
 #include <algorithm>
 

@@ -1,5 +1,7 @@
-#include "records/RecordBuilder.h"
+#include "RecordBuilder.h"
 
+#include "CameraInfoMembers.h"
+#include "CommonMembers.h"
 #include "CycleFailures.h"
 #include "DOC_Control.h"
 #include "DOC_Frames.h"
@@ -7,16 +9,14 @@
 #include "DOC_Interface.h"
 #include "DeviceAlerts.h"
 #include "FailureText.h"
+#include "IrigMembers.h"
 #include "NamedFailure.h"
+#include "PluginMembers.h"
+#include "RecordRequest.h"
+#include "SyncMembers.h"
 #include "TableState.h"
 #include "ZebDocManager.h"
 #include "ZebHost.h"
-#include "records/CameraInfoMembers.h"
-#include "records/CommonMembers.h"
-#include "records/IrigMembers.h"
-#include "records/PluginMembers.h"
-#include "records/RecordRequest.h"
-#include "records/SyncMembers.h"
 
 namespace {
 

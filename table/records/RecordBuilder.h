@@ -1,10 +1,10 @@
 #pragma once
 
+#include "LiveControlMembers.h"
+#include "MemoryInfoMembers.h"
+#include "Record.h"
 #include "SignalSources.h"
 #include "ZebTypes.h"
-#include "records/LiveControlMembers.h"
-#include "records/MemoryInfoMembers.h"
-#include "records/Record.h"
 
 #include <optional>
 

@@ -1,18 +1,18 @@
-#include "records/RecordModel.h"
+#include "RecordModel.h"
 
+#include "BatchRecord.h"
 #include "CycleFailures.h"
 #include "DOC_Activity.h"
 #include "DOC_Control.h"
 #include "DOC_Interface.h"
 #include "DocKeys.h"
 #include "NamedFailure.h"
+#include "RecordBuilder.h"
 #include "TableState.h"
 #include "TextKey.h"
 #include "ZebDocManager.h"
 #include "ZebHost.h"
 #include "ZebRecorder.h"
-#include "records/BatchRecord.h"
-#include "records/RecordBuilder.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>

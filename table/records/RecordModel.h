@@ -1,7 +1,7 @@
 #pragma once
 
+#include "RecordRequest.h"
 #include "ZebTypes.h"
-#include "records/RecordRequest.h"
 
 #include <QString>
 

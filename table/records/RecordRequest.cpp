@@ -1,4 +1,4 @@
-#include "records/RecordRequest.h"
+#include "RecordRequest.h"
 
 #include <QJsonDocument>
 #include <QJsonObject>

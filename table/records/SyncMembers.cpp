@@ -1,10 +1,10 @@
-#include "records/SyncMembers.h"
+#include "SyncMembers.h"
 
 #include "DOC_Control.h"
 #include "DOC_Interface.h"
+#include "Record.h"
 #include "TextKey.h"
 #include "ZebHost.h"
-#include "records/Record.h"
 
 #include <QHash>
 

@@ -1,5 +1,5 @@
+#include "FaultOperations.h"
 #include "TablePage.h"
-#include "camera/FaultOperations.h"
 #include "support/FaultChoice.h"
 
 #include <QApplication>

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "PageInput.h"
-#include "host/PluginLoader.h"
-#include "host/PluginSlot.h"
+#include "PluginLoader.h"
+#include "PluginSlot.h"
 #include "support/TestHost.h"
 
 #include <QJsonArray>

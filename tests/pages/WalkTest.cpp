@@ -1,9 +1,9 @@
 #include "DOC_Control.h"
 #include "DOC_Frames.h"
 #include "DOC_Interface.h"
+#include "FaultOperations.h"
 #include "LiveObjects.h"
 #include "TablePage.h"
-#include "camera/FaultOperations.h"
 
 #include <QAbstractButton>
 #include <QApplication>

@@ -1,5 +1,5 @@
+#include "Rig.h"
 #include "TestPlugin.h"
-#include "camera/Rig.h"
 
 #include <QApplication>
 #include <QKeyEvent>

@@ -2,11 +2,11 @@
 
 #include "PLG_Common.h"
 
+#include "Camera.h"
 #include "DOC_Image.h"
 #include "DOC_Interface.h"
 #include "GUI_ModelessPatternDialog.h"
 #include "JS_Mediator_ModelessPatternDialog.h"
-#include "camera/Camera.h"
 #include "support/FaultyHost.h"
 
 #include <gmock/gmock.h>

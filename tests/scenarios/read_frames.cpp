@@ -1,6 +1,6 @@
 // Reads the pictures of a folder, `read_frames FOLDER RATE NAME=CAMERA...`: whether each shows what its name says.
 // `NAME=CAMERA` for a camera that is called otherwise than its files. Prints a line for each camera and its numbers.
-#include "image/FramePicture.h"
+#include "FramePicture.h"
 
 #include <QDir>
 #include <QGuiApplication>

@@ -1,8 +1,8 @@
 #include "CameraManagement.h"
+#include "Rig.h"
 #include "TableFixture.h"
 #include "TableSession.h"
 #include "TableState.h"
-#include "camera/Rig.h"
 
 namespace {
 

@@ -1,8 +1,8 @@
+#include "Camera.h"
 #include "GUI_ProgressDialog.h"
+#include "Rig.h"
 #include "SlotCall.h"
 #include "TableFixture.h"
-#include "camera/Camera.h"
-#include "camera/Rig.h"
 #include "support/FaultChoice.h"
 
 #include <QApplication>

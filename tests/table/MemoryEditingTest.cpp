@@ -1,8 +1,8 @@
 #include "DOC_Control.h"
 #include "DOC_Frames.h"
 #include "DOC_Interface.h"
+#include "Rig.h"
 #include "TableFixture.h"
-#include "camera/Rig.h"
 
 #include <QRegularExpression>
 

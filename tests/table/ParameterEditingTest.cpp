@@ -1,8 +1,8 @@
 #include "DocKeys.h"
 #include "ParameterEditing.h"
+#include "Rig.h"
 #include "TableFixture.h"
 #include "TriggerEditing.h"
-#include "camera/Rig.h"
 
 namespace {
 

@@ -4,8 +4,8 @@
 #include "HostPages.h"
 #include "JS_Mediator_WrenTableDialog.h"
 #include "PLG_wren.h"
+#include "PluginSlot.h"
 #include "TableFixture.h"
-#include "host/PluginSlot.h"
 
 #include <QSignalSpy>
 #include <QTest>

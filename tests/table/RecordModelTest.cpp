@@ -1,10 +1,10 @@
 #include "CycleFailures.h"
+#include "FaultPlan.h"
+#include "NumberFormat.h"
+#include "RecordModel.h"
+#include "SyncMembers.h"
 #include "TableFixture.h"
 #include "TableState.h"
-#include "camera/FaultPlan.h"
-#include "records/NumberFormat.h"
-#include "records/RecordModel.h"
-#include "records/SyncMembers.h"
 
 #include <QFile>
 #include <QJsonArray>

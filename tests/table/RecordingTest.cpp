@@ -1,6 +1,6 @@
 #include "GUI_ProgressDialog.h"
+#include "Rig.h"
 #include "TableFixture.h"
-#include "camera/Rig.h"
 
 #include <QApplication>
 #include <QMessageBox>

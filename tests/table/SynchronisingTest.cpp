@@ -1,9 +1,9 @@
 #include "DOC_Control.h"
 #include "DOC_Interface.h"
 #include "JS_Mediator_WrenDefaultSettingsDialog.h"
+#include "Rig.h"
 #include "TableFixture.h"
 #include "VisaFile.h"
-#include "camera/Rig.h"
 
 #include <QApplication>
 #include <QJsonArray>

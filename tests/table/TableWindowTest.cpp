@@ -1,8 +1,8 @@
 #include "GUI_WrenTableDialog.h"
 #include "JS_Mediator_WrenTableDialog.h"
 #include "PLG_wren.h"
+#include "PluginSlot.h"
 #include "TableFixture.h"
-#include "host/PluginSlot.h"
 
 #include <QSignalSpy>
 #include <QTest>

@@ -1,7 +1,7 @@
+#include "Camera.h"
 #include "GUI_WebPage.h"
 #include "GUI_WebView.h"
 #include "ProbeBridge.h"
-#include "camera/Camera.h"
 #include "support/FaultyHost.h"
 #include "support/StubPlugin.h"
 

@@ -1,8 +1,8 @@
+#include "Camera.h"
 #include "ProbeBridge.h"
 #include "RangeMax.h"
+#include "Rig.h"
 #include "ZebPrefsDialog.h"
-#include "camera/Camera.h"
-#include "camera/Rig.h"
 #include "support/FaultyHost.h"
 #include "support/StubPlugin.h"
 

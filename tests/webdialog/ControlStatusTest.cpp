@@ -1,6 +1,6 @@
+#include "Camera.h"
 #include "ControlStatus.h"
 #include "ProbeBridge.h"
-#include "camera/Camera.h"
 #include "support/FaultyHost.h"
 #include "support/StubPlugin.h"
 

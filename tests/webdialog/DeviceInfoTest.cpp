@@ -1,6 +1,6 @@
+#include "Camera.h"
 #include "ProbeBridge.h"
-#include "camera/Camera.h"
-#include "camera/Rig.h"
+#include "Rig.h"
 #include "support/FaultyHost.h"
 
 #include <QJsonObject>

@@ -1,5 +1,5 @@
+#include "Camera.h"
 #include "ProbeBridge.h"
-#include "camera/Camera.h"
 #include "support/FaultyHost.h"
 
 #include <gtest/gtest.h>

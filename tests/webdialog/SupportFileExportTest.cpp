@@ -1,8 +1,8 @@
+#include "Camera.h"
 #include "ProbeBridge.h"
+#include "Rig.h"
 #include "SupportFileExport.h"
 #include "ZebSupportFile.h"
-#include "camera/Camera.h"
-#include "camera/Rig.h"
 #include "support/FaultyHost.h"
 
 #include <QApplication>

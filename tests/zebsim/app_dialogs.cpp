@@ -1,3 +1,5 @@
+#include "AppDesk.h"
+#include "Camera.h"
 #include "CameraWindows.h"
 #include "CommandLine.h"
 #include "ModalWatcher.h"
@@ -6,8 +8,6 @@
 #include "ViewerWindow.h"
 #include "ZebPrefsDialog.h"
 #include "ZebSupportFile.h"
-#include "camera/Camera.h"
-#include "host/AppDesk.h"
 
 #include <QAction>
 #include <QCheckBox>

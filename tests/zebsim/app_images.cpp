@@ -1,3 +1,4 @@
+#include "Camera.h"
 #include "CameraView.h"
 #include "CameraWindow.h"
 #include "CameraWindows.h"
@@ -7,7 +8,6 @@
 #include "PlayerBar.h"
 #include "Simulator.h"
 #include "ViewerWindow.h"
-#include "camera/Camera.h"
 
 #include <QAction>
 #include <QCoreApplication>

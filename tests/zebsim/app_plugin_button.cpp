@@ -1,5 +1,5 @@
 #include "PluginButton.h"
-#include "host/PluginSlot.h"
+#include "PluginSlot.h"
 #include "support/StubPlugin.h"
 #include "support/TestHost.h"
 

@@ -1,10 +1,10 @@
+#include "Camera.h"
 #include "CommandLine.h"
 #include "LogDock.h"
 #include "ScenarioDialogs.h"
 #include "Simulator.h"
 #include "ViewerWindow.h"
 #include "ZebSupportFile.h"
-#include "camera/Camera.h"
 #include "support/StubPlugin.h"
 
 #include <QAction>

@@ -1,7 +1,7 @@
 #include "DOC_Control.h"
 #include "DOC_Interface.h"
 #include "DOC_Lock.h"
-#include "camera/PlainState.h"
+#include "PlainState.h"
 #include "support/TestHost.h"
 
 #include <gmock/gmock.h>

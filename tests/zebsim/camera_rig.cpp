@@ -1,6 +1,6 @@
-#include "camera/ModelCatalogue.h"
-#include "camera/Rig.h"
-#include "host/CameraBank.h"
+#include "CameraBank.h"
+#include "ModelCatalogue.h"
+#include "Rig.h"
 
 #include <QFile>
 #include <QJsonDocument>

@@ -1,6 +1,6 @@
 #include "Course.h"
-#include "camera/FaultOperations.h"
-#include "host/StatusFlags.h"
+#include "FaultOperations.h"
+#include "StatusFlags.h"
 
 #include <QDirIterator>
 #include <QFile>
@@ -20,7 +20,8 @@ QString contentOf(const QString& path) {
 QSet<QString> inSources(const QStringList& rooms, const char* begin) {
     QSet<QString> names;
     for (const QString& room : rooms) {
-        QDirIterator files(QStringLiteral(SOURCE_FOLDER "/zebsim/") + room, {"*.cpp"}, QDir::Files);
+        QDirIterator files(QStringLiteral(SOURCE_FOLDER "/zebsim/") + room, {"*.cpp"}, QDir::Files,
+                           QDirIterator::Subdirectories);
         while (files.hasNext()) {
             const QString text = contentOf(files.next());
             for (auto found = QRegularExpression(begin).globalMatch(text); found.hasNext();) {

@@ -1,5 +1,5 @@
 #include "PLG_Interface.h"
-#include "host/PluginLoader.h"
+#include "PluginLoader.h"
 #include "support/TestHost.h"
 
 #include <QCoreApplication>

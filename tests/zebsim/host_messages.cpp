@@ -1,8 +1,8 @@
+#include "CameraError.h"
 #include "Course.h"
 #include "DOC_Control.h"
 #include "DOC_Interface.h"
 #include "ZebCycleFailure.h"
-#include "camera/CameraError.h"
 #include "support/TestHost.h"
 
 #include <QSignalSpy>

@@ -1,7 +1,7 @@
 #include "Course.h"
+#include "FactoryValues.h"
 #include "FullDisk.h"
-#include "host/FactoryValues.h"
-#include "host/Preferences.h"
+#include "Preferences.h"
 #include "support/TestHost.h"
 
 #include <QDir>

@@ -1,4 +1,4 @@
-#include "host/SupportFile.h"
+#include "SupportFile.h"
 #include "support/TestHost.h"
 
 #include <QDir>

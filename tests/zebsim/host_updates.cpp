@@ -1,6 +1,6 @@
 #include "Course.h"
+#include "PluginSlot.h"
 #include "ZebPageBridge.h"
-#include "host/PluginSlot.h"
 #include "support/StubPlugin.h"
 #include "support/TestHost.h"
 

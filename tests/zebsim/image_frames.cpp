@@ -1,7 +1,7 @@
-#include "camera/CameraState.h"
-#include "camera/Recording.h"
-#include "image/FramePicture.h"
-#include "recording/Playback.h"
+#include "CameraState.h"
+#include "FramePicture.h"
+#include "Playback.h"
+#include "Recording.h"
 
 #include <gtest/gtest.h>
 

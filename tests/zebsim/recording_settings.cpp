@@ -1,4 +1,4 @@
-#include "camera/RecordSettings.h"
+#include "RecordSettings.h"
 #include "support/RecordingTest.h"
 
 namespace {

@@ -1,12 +1,12 @@
 #include "DOC_Control.h"
 #include "DOC_Frames.h"
 #include "DOC_Interface.h"
+#include "FileNames.h"
+#include "FramePicture.h"
 #include "FullDisk.h"
-#include "image/FramePicture.h"
-#include "saving/FileNames.h"
-#include "saving/LastShoot.h"
-#include "saving/SaveJob.h"
-#include "saving/SaveNames.h"
+#include "LastShoot.h"
+#include "SaveJob.h"
+#include "SaveNames.h"
 #include "support/TestHost.h"
 
 #include <QDir>

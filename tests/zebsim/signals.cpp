@@ -1,6 +1,6 @@
 #include "DOC_Control.h"
 #include "DOC_Interface.h"
-#include "signals/SignalHub.h"
+#include "SignalHub.h"
 #include "support/TestHost.h"
 
 #include <QTest>

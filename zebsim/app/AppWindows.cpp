@@ -7,13 +7,13 @@
 #include "CameraWindows.h"
 #include "DialogRun.h"
 #include "EthernetDialog.h"
+#include "FramePicture.h"
 #include "LogStore.h"
 #include "PreferencesDialog.h"
 #include "ProgressWait.h"
+#include "SimHost.h"
 #include "SnapShots.h"
 #include "ZebSupportFile.h"
-#include "host/SimHost.h"
-#include "image/FramePicture.h"
 
 #include <QBuffer>
 #include <QDialog>

@@ -1,10 +1,10 @@
 #pragma once
 
+#include "AppDesk.h"
 #include "DropDownBoxes.h"
 #include "SaveDesk.h"
 #include "ZebPrefsDialog.h"
 #include "ZebTypes.h"
-#include "host/AppDesk.h"
 
 class CameraWindows;
 class LogStore;

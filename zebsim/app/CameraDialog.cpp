@@ -1,9 +1,9 @@
 #include "CameraDialog.h"
 
+#include "Camera.h"
+#include "CameraBank.h"
 #include "DialogButtons.h"
 #include "UiText.h"
-#include "camera/Camera.h"
-#include "host/CameraBank.h"
 
 #include <QDialogButtonBox>
 #include <QFormLayout>

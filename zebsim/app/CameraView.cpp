@@ -1,6 +1,6 @@
 #include "CameraView.h"
 
-#include "image/FramePicture.h"
+#include "FramePicture.h"
 
 #include <QPainter>
 

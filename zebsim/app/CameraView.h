@@ -1,6 +1,6 @@
 #pragma once
 
-#include "image/CameraFrame.h"
+#include "CameraFrame.h"
 
 #include <QWidget>
 

@@ -1,12 +1,12 @@
 #include "CameraWindows.h"
 
+#include "Camera.h"
 #include "CameraView.h"
 #include "CameraWindow.h"
+#include "Clock.h"
 #include "ImageArea.h"
+#include "SimHost.h"
 #include "UiText.h"
-#include "camera/Camera.h"
-#include "host/SimHost.h"
-#include "recording/Clock.h"
 
 #include <QScopedValueRollback>
 

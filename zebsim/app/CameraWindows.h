@@ -1,7 +1,7 @@
 #pragma once
 
+#include "Playback.h"
 #include "ZebTypes.h"
-#include "recording/Playback.h"
 
 #include <QMap>
 #include <QObject>

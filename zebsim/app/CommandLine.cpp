@@ -1,6 +1,6 @@
 #include "CommandLine.h"
 
-#include "host/Translator.h"
+#include "Translator.h"
 
 #include <QCommandLineParser>
 

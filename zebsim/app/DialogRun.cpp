@@ -1,8 +1,8 @@
 #include "DialogRun.h"
 
 #include "OverActiveWindow.h"
+#include "SimHost.h"
 #include "Style.h"
-#include "host/SimHost.h"
 
 #include <QDialog>
 #include <QPointer>

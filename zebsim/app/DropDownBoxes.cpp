@@ -1,7 +1,7 @@
 #include "DropDownBoxes.h"
 
 #include "GUI_SelectBox.h"
-#include "host/SimHost.h"
+#include "SimHost.h"
 
 #include <QEvent>
 #include <QWidget>

@@ -1,10 +1,10 @@
 #include "EthernetDialog.h"
 
+#include "Camera.h"
+#include "CameraBank.h"
 #include "DialogButtons.h"
+#include "Preferences.h"
 #include "UiText.h"
-#include "camera/Camera.h"
-#include "host/CameraBank.h"
-#include "host/Preferences.h"
 
 #include <QDialogButtonBox>
 #include <QFormLayout>

@@ -1,10 +1,10 @@
 #include "HostKeys.h"
 
+#include "Camera.h"
+#include "PluginSignal.h"
 #include "RecordingGuard.h"
+#include "SimHost.h"
 #include "UiText.h"
-#include "camera/Camera.h"
-#include "host/PluginSignal.h"
-#include "host/SimHost.h"
 
 #include <QAction>
 #include <QApplication>

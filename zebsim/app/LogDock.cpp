@@ -1,8 +1,8 @@
 #include "LogDock.h"
 
+#include "Journal.h"
 #include "LogStore.h"
 #include "UiText.h"
-#include "host/Journal.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>

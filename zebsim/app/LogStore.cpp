@@ -1,6 +1,6 @@
 #include "LogStore.h"
 
-#include "host/OneLine.h"
+#include "OneLine.h"
 
 #include <QDateTime>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/Ring.h"
+#include "Ring.h"
 
 #include <QObject>
 #include <QStringList>

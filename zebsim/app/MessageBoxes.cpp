@@ -1,12 +1,12 @@
 #include "MessageBoxes.h"
 
 #include "BoxText.h"
+#include "HostCalls.h"
 #include "NoHastyPress.h"
 #include "OverActiveWindow.h"
 #include "Style.h"
 #include "TextKey.h"
 #include "ZebHost.h"
-#include "host/HostCalls.h"
 
 #include <QAbstractButton>
 #include <QApplication>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/MessageDesk.h"
+#include "MessageDesk.h"
 
 #include <QPointer>
 

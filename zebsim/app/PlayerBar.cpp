@@ -1,10 +1,10 @@
 #include "PlayerBar.h"
 
+#include "Camera.h"
+#include "CameraFrame.h"
 #include "CameraWindows.h"
+#include "SimHost.h"
 #include "UiText.h"
-#include "camera/Camera.h"
-#include "host/SimHost.h"
-#include "image/CameraFrame.h"
 
 #include <QLabel>
 #include <QSignalBlocker>

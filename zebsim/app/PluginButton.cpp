@@ -1,8 +1,8 @@
 #include "PluginButton.h"
 
 #include "PLG_Interface.h"
-#include "host/PluginSlot.h"
-#include "host/SimHost.h"
+#include "PluginSlot.h"
+#include "SimHost.h"
 
 PluginButton::PluginButton(SimHost& host, PluginSlot& slot, QWidget* parent) : QToolButton(parent), m_slot(slot) {
     setObjectName(slot.plugin().getName());

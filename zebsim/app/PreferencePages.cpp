@@ -1,7 +1,7 @@
 #include "PreferencePages.h"
 
 #include "TextKey.h"
-#include "host/Translator.h"
+#include "Translator.h"
 
 #include <QLocale>
 

@@ -2,8 +2,8 @@
 
 #include "DialogButtons.h"
 #include "PreferencePages.h"
+#include "Preferences.h"
 #include "UiText.h"
-#include "host/Preferences.h"
 
 #include <QCheckBox>
 #include <QComboBox>

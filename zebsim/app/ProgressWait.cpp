@@ -1,8 +1,8 @@
 #include "ProgressWait.h"
 
 #include "GUI_MarqueeProgressDialog.h"
+#include "HostCalls.h"
 #include "ZebHost.h"
-#include "host/HostCalls.h"
 
 #include <QCloseEvent>
 #include <QEventLoop>

@@ -1,8 +1,8 @@
 #include "RecordingGuard.h"
 
+#include "Camera.h"
+#include "SimHost.h"
 #include "UiText.h"
-#include "camera/Camera.h"
-#include "host/SimHost.h"
 
 #include <QMessageBox>
 #include <QtDebug>

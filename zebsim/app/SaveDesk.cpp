@@ -1,14 +1,14 @@
 #include "SaveDesk.h"
 
 #include "DialogRun.h"
+#include "PluginSignal.h"
 #include "SaveDialog.h"
+#include "SaveJob.h"
 #include "SaveProgress.h"
 #include "SaveTexts.h"
+#include "SimHost.h"
 #include "Style.h"
 #include "UiText.h"
-#include "host/PluginSignal.h"
-#include "host/SimHost.h"
-#include "saving/SaveJob.h"
 
 #include <QDir>
 #include <QMessageBox>

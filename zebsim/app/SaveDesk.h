@@ -1,9 +1,9 @@
 #pragma once
 
+#include "FileNames.h"
+#include "LastShoot.h"
 #include "OverActiveWindow.h"
-#include "saving/FileNames.h"
-#include "saving/LastShoot.h"
-#include "saving/SaveSource.h"
+#include "SaveSource.h"
 
 #include <QPointer>
 #include <QStringList>

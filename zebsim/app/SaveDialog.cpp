@@ -1,9 +1,9 @@
 #include "SaveDialog.h"
 
 #include "DialogButtons.h"
+#include "SaveNames.h"
+#include "SaveTrack.h"
 #include "TargetFields.h"
-#include "saving/SaveNames.h"
-#include "saving/SaveTrack.h"
 
 #include <QDialogButtonBox>
 #include <QDirIterator>

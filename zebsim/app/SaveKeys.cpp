@@ -1,9 +1,9 @@
 #include "SaveKeys.h"
 
+#include "AppDesk.h"
+#include "PluginSignal.h"
+#include "SimHost.h"
 #include "UiText.h"
-#include "host/AppDesk.h"
-#include "host/PluginSignal.h"
-#include "host/SimHost.h"
 
 #include <QAction>
 #include <QToolBar>

@@ -1,8 +1,8 @@
 #include "SaveProgress.h"
 
+#include "SaveJob.h"
 #include "SaveTexts.h"
 #include "UiText.h"
-#include "saving/SaveJob.h"
 
 #include <QLabel>
 #include <QListWidget>

@@ -1,8 +1,8 @@
 #include "SaveTexts.h"
 
+#include "LastShoot.h"
+#include "SaveJob.h"
 #include "UiText.h"
-#include "saving/LastShoot.h"
-#include "saving/SaveJob.h"
 
 #include <QDir>
 #include <QLocale>

@@ -3,13 +3,13 @@
 #include "AppWindows.h"
 #include "CameraWindows.h"
 #include "CommandLine.h"
+#include "PluginLoader.h"
+#include "PluginSlot.h"
 #include "RecordingGuard.h"
+#include "Rig.h"
 #include "ScriptedVisaLoader.h"
 #include "UiText.h"
 #include "ViewerWindow.h"
-#include "camera/Rig.h"
-#include "host/PluginLoader.h"
-#include "host/PluginSlot.h"
 
 #include <QApplication>
 #include <QDir>

@@ -2,8 +2,8 @@
 
 #include "LogStore.h"
 #include "MessageBoxes.h"
-#include "host/SimHost.h"
-#include "recording/RealClock.h"
+#include "RealClock.h"
+#include "SimHost.h"
 
 #include <QTimer>
 

@@ -1,12 +1,12 @@
 #include "SnapShots.h"
 
+#include "Camera.h"
 #include "DialogButtons.h"
 #include "DialogRun.h"
+#include "FileError.h"
+#include "SimHost.h"
+#include "SnapShotFile.h"
 #include "TargetFields.h"
-#include "camera/Camera.h"
-#include "host/SimHost.h"
-#include "saving/FileError.h"
-#include "saving/SnapShotFile.h"
 
 #include <QClipboard>
 #include <QDialog>

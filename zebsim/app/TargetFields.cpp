@@ -1,9 +1,9 @@
 #include "TargetFields.h"
 
+#include "Preferences.h"
+#include "SaveFormat.h"
 #include "UiText.h"
-#include "host/Preferences.h"
-#include "saving/SaveFormat.h"
-#include "saving/VideoEncoder.h"
+#include "VideoEncoder.h"
 
 #include <QComboBox>
 #include <QDir>

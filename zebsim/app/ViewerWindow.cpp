@@ -1,5 +1,7 @@
 #include "ViewerWindow.h"
 
+#include "AppDesk.h"
+#include "Camera.h"
 #include "CameraWindows.h"
 #include "HostKeys.h"
 #include "ImageArea.h"
@@ -7,11 +9,9 @@
 #include "PlayerBar.h"
 #include "PluginButton.h"
 #include "SaveKeys.h"
+#include "SimHost.h"
 #include "Style.h"
 #include "UiText.h"
-#include "camera/Camera.h"
-#include "host/AppDesk.h"
-#include "host/SimHost.h"
 
 #include <QActionGroup>
 #include <QCloseEvent>

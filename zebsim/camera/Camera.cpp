@@ -1,11 +1,11 @@
-#include "camera/Camera.h"
+#include "Camera.h"
 
+#include "CameraError.h"
+#include "Clock.h"
+#include "FaultPlan.h"
+#include "RecordSettings.h"
+#include "SyncSource.h"
 #include "TextKey.h"
-#include "camera/CameraError.h"
-#include "camera/FaultPlan.h"
-#include "camera/RecordSettings.h"
-#include "camera/SyncSource.h"
-#include "recording/Clock.h"
 
 #include <algorithm>
 #include <atomic>

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "camera/CameraModel.h"
-#include "camera/CameraState.h"
-#include "camera/Recording.h"
+#include "CameraModel.h"
+#include "CameraState.h"
+#include "Recording.h"
 
 #include <QHash>
 
@@ -117,7 +117,7 @@ private:
     QHash<PARTITIONNUMBER, PartitionMemory> m_otherPartitions;
 };
 
-#include "camera/CameraDevice.h"
+#include "CameraDevice.h"
 
 template <typename T, typename Owner>
 T Camera::get(T Owner::*member) const {

@@ -1,6 +1,6 @@
-#include "camera/CameraDevice.h"
+#include "CameraDevice.h"
 
-#include "camera/Camera.h"
+#include "Camera.h"
 
 CameraDevice::CameraDevice(const RigDevice& device, DOCKEY firstKey, Clock& clock, FaultPlan& faults)
     : m_address(device.address),

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "camera/Rig.h"
+#include "Rig.h"
 
 #include <atomic>
 #include <memory>

@@ -1,7 +1,7 @@
-#include "camera/CameraModel.h"
+#include "CameraModel.h"
 
-#include "camera/PlainState.h"
-#include "camera/SyncSource.h"
+#include "PlainState.h"
+#include "SyncSource.h"
 
 #include <algorithm>
 #include <limits>

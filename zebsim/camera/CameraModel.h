@@ -1,6 +1,6 @@
 #pragma once
 
-#include "camera/CameraState.h"
+#include "CameraState.h"
 
 #include <QList>
 #include <QMap>

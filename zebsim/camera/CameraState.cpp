@@ -1,6 +1,6 @@
-#include "camera/CameraState.h"
+#include "CameraState.h"
 
-#include "camera/PlainState.h"
+#include "PlainState.h"
 
 QVariantMap CameraState::toPlain() const {
     return readMembers(staticMetaObject, this);

@@ -1,4 +1,4 @@
-#include "camera/PlainState.h"
+#include "PlainState.h"
 
 #include <QMetaProperty>
 #include <QPoint>

@@ -1,6 +1,6 @@
-#include "camera/RecordSettings.h"
+#include "RecordSettings.h"
 
-#include "camera/CameraModel.h"
+#include "CameraModel.h"
 
 #include <algorithm>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "camera/Recording.h"
+#include "Recording.h"
 
 #include <QPoint>
 #include <QSize>

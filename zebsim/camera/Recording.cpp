@@ -1,7 +1,7 @@
-#include "camera/Recording.h"
+#include "Recording.h"
 
-#include "camera/CameraModel.h"
-#include "camera/CameraState.h"
+#include "CameraModel.h"
+#include "CameraState.h"
 
 #include <algorithm>
 

@@ -1,7 +1,7 @@
-#include "host/AppObject.h"
+#include "AppObject.h"
 
-#include "host/Preferences.h"
-#include "host/Translator.h"
+#include "Preferences.h"
+#include "Translator.h"
 
 QString AppObject::style() const {
     return m_prefs.value(QStringLiteral("env/style")).toString();

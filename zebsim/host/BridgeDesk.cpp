@@ -1,4 +1,4 @@
-#include "host/BridgeDesk.h"
+#include "BridgeDesk.h"
 
 #include "ZebPageBridge.h"
 

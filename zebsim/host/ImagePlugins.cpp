@@ -1,4 +1,4 @@
-#include "host/ImagePlugins.h"
+#include "ImagePlugins.h"
 
 #include "TextKey.h"
 

@@ -1,6 +1,6 @@
-#include "host/PluginSignal.h"
+#include "PluginSignal.h"
 
-#include "host/SimAppStatus.h"
+#include "SimAppStatus.h"
 
 #include <QDialog>
 #include <QMetaMethod>

@@ -1,6 +1,6 @@
-#include "host/PluginSlot.h"
+#include "PluginSlot.h"
 
-#include "host/SimHost.h"
+#include "SimHost.h"
 
 #include <QDialog>
 

@@ -1,13 +1,13 @@
-#include "host/SimAppStatus.h"
+#include "SimAppStatus.h"
 
+#include "Camera.h"
+#include "CameraBank.h"
 #include "DOC_Interface.h"
-#include "camera/Camera.h"
-#include "host/CameraBank.h"
-#include "host/HostCalls.h"
-#include "host/HostEvents.h"
-#include "host/ImagePlugins.h"
-#include "host/StatusFlags.h"
-#include "host/UpdateCycle.h"
+#include "HostCalls.h"
+#include "HostEvents.h"
+#include "ImagePlugins.h"
+#include "StatusFlags.h"
+#include "UpdateCycle.h"
 
 #include <stdexcept>
 

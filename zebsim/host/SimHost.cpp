@@ -1,12 +1,12 @@
-#include "host/SimHost.h"
+#include "SimHost.h"
 
+#include "AppDesk.h"
+#include "Camera.h"
 #include "DOC_Interface.h"
+#include "ImagePlugins.h"
+#include "Rig.h"
+#include "SupportFile.h"
 #include "ZebPageBridge.h"
-#include "camera/Camera.h"
-#include "camera/Rig.h"
-#include "host/AppDesk.h"
-#include "host/ImagePlugins.h"
-#include "host/SupportFile.h"
 
 #include <QApplication>
 #include <QDialog>

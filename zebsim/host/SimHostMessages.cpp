@@ -1,9 +1,9 @@
 // The boxes and notices of the host.
 
+#include "MessageDesk.h"
+#include "SimHost.h"
 #include "TextKey.h"
 #include "ZebCycleFailure.h"
-#include "host/MessageDesk.h"
-#include "host/SimHost.h"
 
 #include <QMessageBox>
 #include <QtDebug>

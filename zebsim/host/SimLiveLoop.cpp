@@ -1,9 +1,9 @@
-#include "host/SimLiveLoop.h"
+#include "SimLiveLoop.h"
 
-#include "camera/Camera.h"
-#include "host/CameraBank.h"
-#include "host/HostCalls.h"
-#include "host/HostEvents.h"
+#include "Camera.h"
+#include "CameraBank.h"
+#include "HostCalls.h"
+#include "HostEvents.h"
 
 void SimLiveLoop::pauseLive(int mode) {
     m_calls.note("ZebLiveLoop::pauseLive", {mode});

@@ -1,9 +1,9 @@
-#include "host/SimMdi.h"
+#include "SimMdi.h"
 
-#include "camera/Camera.h"
-#include "host/CameraBank.h"
-#include "host/SimAppStatus.h"
-#include "host/StatusFlags.h"
+#include "Camera.h"
+#include "CameraBank.h"
+#include "SimAppStatus.h"
+#include "StatusFlags.h"
 
 #include <algorithm>
 

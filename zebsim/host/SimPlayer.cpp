@@ -1,6 +1,6 @@
-#include "host/SimPlayer.h"
+#include "SimPlayer.h"
 
-#include "host/HostCalls.h"
+#include "HostCalls.h"
 
 void SimPlayer::pausePlayer() {
     m_calls.note("ZebPlayer::pausePlayer");

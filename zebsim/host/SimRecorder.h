@@ -1,7 +1,7 @@
 #pragma once
 
+#include "RecordRun.h"
 #include "ZebRecorder.h"
-#include "recording/RecordRun.h"
 
 #include <QObject>
 

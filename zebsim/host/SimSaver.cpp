@@ -1,8 +1,8 @@
-#include "host/SimSaver.h"
+#include "SimSaver.h"
 
-#include "host/AppDesk.h"
-#include "host/HostCalls.h"
-#include "host/StatusFlags.h"
+#include "AppDesk.h"
+#include "HostCalls.h"
+#include "StatusFlags.h"
 
 #include <QClipboard>
 #include <QGuiApplication>

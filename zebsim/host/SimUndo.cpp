@@ -1,6 +1,6 @@
-#include "host/SimUndo.h"
+#include "SimUndo.h"
 
-#include "host/HostCalls.h"
+#include "HostCalls.h"
 
 void SimUndo::clear() {
     m_calls.change("ZebUndo::clear");

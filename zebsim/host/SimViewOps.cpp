@@ -1,8 +1,8 @@
-#include "host/SimViewOps.h"
+#include "SimViewOps.h"
 
-#include "camera/Camera.h"
-#include "host/CameraBank.h"
-#include "host/StatusFlags.h"
+#include "Camera.h"
+#include "CameraBank.h"
+#include "StatusFlags.h"
 
 namespace {
 

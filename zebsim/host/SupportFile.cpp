@@ -1,9 +1,9 @@
-#include "host/SupportFile.h"
+#include "SupportFile.h"
 
+#include "Camera.h"
+#include "OneLine.h"
+#include "SimHost.h"
 #include "WholeFile.h"
-#include "camera/Camera.h"
-#include "host/OneLine.h"
-#include "host/SimHost.h"
 
 #include <QCoreApplication>
 #include <QGuiApplication>

@@ -1,8 +1,8 @@
-#include "host/UnsavedGuard.h"
+#include "UnsavedGuard.h"
 
+#include "Preferences.h"
 #include "TextKey.h"
-#include "host/Preferences.h"
-#include "host/Translator.h"
+#include "Translator.h"
 
 #include <QtDebug>
 

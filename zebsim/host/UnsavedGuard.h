@@ -1,6 +1,6 @@
 #pragma once
 
-#include "recording/HeldRecordings.h"
+#include "HeldRecordings.h"
 
 #include <QStringList>
 

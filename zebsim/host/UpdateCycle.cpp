@@ -1,4 +1,4 @@
-#include "host/UpdateCycle.h"
+#include "UpdateCycle.h"
 
 UpdateCycle::UpdateCycle(std::function<void()> work) : m_work(std::move(work)) {}
 

@@ -1,7 +1,7 @@
-#include "image/CameraFrame.h"
+#include "CameraFrame.h"
 
-#include "camera/CameraState.h"
-#include "camera/Recording.h"
+#include "CameraState.h"
+#include "Recording.h"
 
 bool CameraFrame::operator==(const CameraFrame& other) const {
     return camera == other.camera && resolution == other.resolution && number == other.number && time == other.time;

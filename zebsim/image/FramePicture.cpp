@@ -1,4 +1,4 @@
-#include "image/FramePicture.h"
+#include "FramePicture.h"
 
 #include <QFontMetrics>
 #include <QPainter>

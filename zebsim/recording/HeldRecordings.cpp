@@ -1,7 +1,7 @@
-#include "recording/HeldRecordings.h"
+#include "HeldRecordings.h"
 
-#include "camera/Camera.h"
-#include "host/CameraBank.h"
+#include "Camera.h"
+#include "CameraBank.h"
 
 #include <algorithm>
 #include <iterator>

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "Recording.h"
 #include "ZebTypes.h"
-#include "camera/Recording.h"
 
 #include <QString>
 

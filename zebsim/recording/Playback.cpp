@@ -1,6 +1,6 @@
-#include "recording/Playback.h"
+#include "Playback.h"
 
-#include "camera/Recording.h"
+#include "Recording.h"
 
 #include <algorithm>
 

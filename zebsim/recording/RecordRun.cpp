@@ -1,9 +1,9 @@
-#include "recording/RecordRun.h"
+#include "RecordRun.h"
 
+#include "Camera.h"
+#include "CameraBank.h"
+#include "Clock.h"
 #include "TextKey.h"
-#include "camera/Camera.h"
-#include "host/CameraBank.h"
-#include "recording/Clock.h"
 
 #include <QtDebug>
 

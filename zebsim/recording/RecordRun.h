@@ -1,7 +1,7 @@
 #pragma once
 
+#include "RecordSettings.h"
 #include "ZebTypes.h"
-#include "camera/RecordSettings.h"
 
 #include <QMap>
 #include <QSet>

@@ -1,6 +1,6 @@
-#include "saving/FileClaims.h"
+#include "FileClaims.h"
 
-#include "saving/FileError.h"
+#include "FileError.h"
 
 #include <QFile>
 #include <QFileInfo>

@@ -1,6 +1,6 @@
-#include "saving/FileNames.h"
+#include "FileNames.h"
 
-#include "saving/SaveNames.h"
+#include "SaveNames.h"
 
 FileNames::FileNames(const QStringList& reserved) {
     for (const QString& name : reserved) {

@@ -1,8 +1,8 @@
-#include "saving/LastShoot.h"
+#include "LastShoot.h"
 
-#include "camera/Camera.h"
-#include "host/CameraBank.h"
-#include "host/HostEvents.h"
+#include "Camera.h"
+#include "CameraBank.h"
+#include "HostEvents.h"
 
 #include <algorithm>
 

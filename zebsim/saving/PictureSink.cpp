@@ -1,9 +1,9 @@
-#include "saving/PictureSink.h"
+#include "PictureSink.h"
 
+#include "FileClaims.h"
+#include "FileError.h"
 #include "TextKey.h"
 #include "WholeFile.h"
-#include "saving/FileClaims.h"
-#include "saving/FileError.h"
 
 namespace {
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "saving/FrameSink.h"
-#include "saving/SaveFormat.h"
+#include "FrameSink.h"
+#include "SaveFormat.h"
 
 class FileClaims;
 

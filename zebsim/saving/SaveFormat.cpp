@@ -1,4 +1,4 @@
-#include "saving/SaveFormat.h"
+#include "SaveFormat.h"
 
 #include <QBuffer>
 #include <QImageWriter>

@@ -1,10 +1,10 @@
-#include "saving/SaveJob.h"
+#include "SaveJob.h"
 
-#include "camera/CameraError.h"
-#include "saving/FileError.h"
-#include "saving/PictureSink.h"
-#include "saving/SaveNames.h"
-#include "saving/VideoSink.h"
+#include "CameraError.h"
+#include "FileError.h"
+#include "PictureSink.h"
+#include "SaveNames.h"
+#include "VideoSink.h"
 
 #include <QDir>
 #include <QStorageInfo>

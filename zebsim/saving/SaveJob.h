@@ -1,9 +1,9 @@
 #pragma once
 
-#include "saving/FileClaims.h"
-#include "saving/SaveFormat.h"
-#include "saving/SaveTrack.h"
-#include "saving/VideoEncoder.h"
+#include "FileClaims.h"
+#include "SaveFormat.h"
+#include "SaveTrack.h"
+#include "VideoEncoder.h"
 
 #include <QObject>
 #include <QStringList>

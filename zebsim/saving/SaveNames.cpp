@@ -1,4 +1,4 @@
-#include "saving/SaveNames.h"
+#include "SaveNames.h"
 
 #include <QDir>
 #include <QRegularExpression>

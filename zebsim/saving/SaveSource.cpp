@@ -1,10 +1,10 @@
-#include "saving/SaveSource.h"
+#include "SaveSource.h"
 
+#include "Camera.h"
+#include "CameraBank.h"
+#include "CameraError.h"
+#include "FileNames.h"
 #include "TextKey.h"
-#include "camera/Camera.h"
-#include "camera/CameraError.h"
-#include "host/CameraBank.h"
-#include "saving/FileNames.h"
 
 #include <utility>
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "camera/CameraState.h"
-#include "camera/Recording.h"
-#include "image/CameraFrame.h"
+#include "CameraFrame.h"
+#include "CameraState.h"
+#include "Recording.h"
 
 #include <memory>
 #include <vector>

@@ -1,7 +1,7 @@
-#include "saving/SaveTrack.h"
+#include "SaveTrack.h"
 
-#include "image/FramePicture.h"
-#include "saving/SaveNames.h"
+#include "FramePicture.h"
+#include "SaveNames.h"
 
 #include <QPainter>
 

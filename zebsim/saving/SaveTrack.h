@@ -1,6 +1,6 @@
 #pragma once
 
-#include "saving/SaveSource.h"
+#include "SaveSource.h"
 
 #include <QImage>
 #include <QSet>

@@ -1,10 +1,10 @@
-#include "saving/SnapShotFile.h"
+#include "SnapShotFile.h"
 
+#include "FileClaims.h"
+#include "FileError.h"
+#include "PictureSink.h"
+#include "SaveNames.h"
 #include "TextKey.h"
-#include "saving/FileClaims.h"
-#include "saving/FileError.h"
-#include "saving/PictureSink.h"
-#include "saving/SaveNames.h"
 
 #include <QDir>
 

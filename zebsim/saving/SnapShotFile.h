@@ -1,6 +1,6 @@
 #pragma once
 
-#include "saving/SaveFormat.h"
+#include "SaveFormat.h"
 
 #include <QDateTime>
 

@@ -1,4 +1,4 @@
-#include "saving/VideoEncoder.h"
+#include "VideoEncoder.h"
 
 #include <QProcess>
 #include <QRegularExpression>

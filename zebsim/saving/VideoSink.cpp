@@ -1,7 +1,7 @@
-#include "saving/VideoSink.h"
+#include "VideoSink.h"
 
-#include "saving/FileClaims.h"
-#include "saving/FileError.h"
+#include "FileClaims.h"
+#include "FileError.h"
 
 #include <QFileInfo>
 #include <QImage>

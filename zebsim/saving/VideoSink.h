@@ -1,7 +1,7 @@
 #pragma once
 
-#include "saving/FrameSink.h"
-#include "saving/VideoEncoder.h"
+#include "FrameSink.h"
+#include "VideoEncoder.h"
 
 #include <QProcess>
 #include <QTemporaryFile>

@@ -1,10 +1,10 @@
 #include "CameraScripting.h"
 
+#include "Camera.h"
+#include "PlainState.h"
+#include "Rig.h"
 #include "ScenarioError.h"
-#include "camera/Camera.h"
-#include "camera/PlainState.h"
-#include "camera/Rig.h"
-#include "host/SimHost.h"
+#include "SimHost.h"
 
 #include <QDir>
 #include <QFileInfo>

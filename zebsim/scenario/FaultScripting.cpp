@@ -1,8 +1,8 @@
 #include "FaultScripting.h"
 
+#include "FaultOperations.h"
 #include "ScenarioError.h"
-#include "camera/FaultOperations.h"
-#include "host/SimHost.h"
+#include "SimHost.h"
 
 namespace {
 

@@ -2,8 +2,8 @@
 
 #include "EventWait.h"
 #include "PLG_Interface.h"
+#include "PluginSignal.h"
 #include "ScenarioError.h"
-#include "host/PluginSignal.h"
 
 #include <atomic>
 #include <memory>

@@ -1,8 +1,8 @@
 #include "HubScripting.h"
 
+#include "PlainState.h"
 #include "ScenarioError.h"
-#include "camera/PlainState.h"
-#include "host/SimHost.h"
+#include "SimHost.h"
 
 SignalHub& HubScripting::find(const QString& address) const {
     SignalHub* hub = m_host.signalDevices().hub(address);

@@ -5,9 +5,9 @@
 #include "KeyInput.h"
 #include "PageInput.h"
 #include "PageScript.h"
+#include "PluginSlot.h"
 #include "ScenarioError.h"
 #include "Simulator.h"
-#include "host/PluginSlot.h"
 
 #include <QJSEngine>
 

@@ -6,11 +6,11 @@
 #include "PLG_Interface.h"
 #include "PageInput.h"
 #include "PageScript.h"
+#include "PluginSlot.h"
 #include "ScenarioError.h"
 #include "Simulator.h"
 #include "ViewerWindow.h"
 #include "WholePicture.h"
-#include "host/PluginSlot.h"
 
 #include <QDialog>
 #include <QDir>

@@ -1,9 +1,9 @@
-#include "signals/SignalHub.h"
+#include "SignalHub.h"
 
-#include "camera/CameraError.h"
-#include "camera/FaultPlan.h"
-#include "host/HostCalls.h"
-#include "recording/Clock.h"
+#include "CameraError.h"
+#include "Clock.h"
+#include "FaultPlan.h"
+#include "HostCalls.h"
 
 SignalHub::SignalHub(DOCKEY key, const QString& address, const HubState& state, const HubContext& context)
     : m_key(key), m_address(address), m_state(state), m_context(context) {}

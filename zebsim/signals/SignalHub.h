@@ -1,8 +1,8 @@
 #pragma once
 
+#include "HubState.h"
 #include "ZebSignalDevices.h"
 #include "ZebTypes.h"
-#include "signals/HubState.h"
 
 class Clock;
 class FaultPlan;

@@ -1,8 +1,8 @@
-#include "signals/SimSignalDevices.h"
+#include "SimSignalDevices.h"
 
-#include "camera/Rig.h"
-#include "host/HostCalls.h"
-#include "recording/Clock.h"
+#include "Clock.h"
+#include "HostCalls.h"
+#include "Rig.h"
 
 #include <algorithm>
 

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "SignalHub.h"
 #include "ZebSignalDevices.h"
-#include "signals/SignalHub.h"
 
 #include <memory>
 #include <vector>

@@ -1,9 +1,9 @@
-#include "signals/SyncSignal.h"
+#include "SyncSignal.h"
 
-#include "camera/Camera.h"
-#include "camera/SyncSource.h"
-#include "host/CameraBank.h"
-#include "signals/SimSignalDevices.h"
+#include "Camera.h"
+#include "CameraBank.h"
+#include "SimSignalDevices.h"
+#include "SyncSource.h"
 
 QString SyncSignal::statusOf(const Camera& camera) const {
     const QString source = camera.get(&CameraState::syncSource);

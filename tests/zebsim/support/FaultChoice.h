@@ -1,6 +1,6 @@
 #pragma once
 
-#include "camera/FaultPlan.h"
+#include "FaultPlan.h"
 
 #include <QMap>
 #include <QSet>

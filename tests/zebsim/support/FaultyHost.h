@@ -2,8 +2,8 @@
 
 #include "Course.h"
 #include "ScriptedDesk.h"
-#include "host/SimHost.h"
-#include "recording/SteppedClock.h"
+#include "SimHost.h"
+#include "SteppedClock.h"
 
 #include <QTemporaryDir>
 

@@ -3,7 +3,7 @@
 #include "DOC_Control.h"
 #include "DOC_Frames.h"
 #include "DOC_Interface.h"
-#include "camera/Recording.h"
+#include "Recording.h"
 #include "support/StubPlugin.h"
 #include "support/TestHost.h"
 

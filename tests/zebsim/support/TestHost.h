@@ -1,10 +1,10 @@
 #pragma once
 
+#include "Camera.h"
+#include "Rig.h"
 #include "ScriptedDesk.h"
-#include "camera/Camera.h"
-#include "camera/Rig.h"
-#include "host/SimHost.h"
-#include "recording/SteppedClock.h"
+#include "SimHost.h"
+#include "SteppedClock.h"
 
 #include <QCoreApplication>
 #include <QJsonArray>

@@ -1,0 +1,119 @@
+#include "FactoryValues.h"
+
+#include "ZebTypes.h"
+
+#include <QStandardPaths>
+
+namespace {
+
+struct FactoryValue {
+    const char* key;
+    QVariant value;
+};
+
+QVariant text(const char* value) {
+    return QString::fromLatin1(value);
+}
+
+/// The columns that every tab of the live mode begins with, and its own.
+QVariant liveColumns(const char* own) {
+    return QString(QStringLiteral("lock,connectIcon,cameraName,alert,cameraStatus,sync,") % QLatin1String(own));
+}
+
+QList<FactoryValue> table() {
+    const QString pictures = QStandardPaths::writableLocation(QStandardPaths::PicturesLocation);
+    return {
+        {"alert/setsynchronization", true},
+        {"alert/unsavedrecording", true},
+        {"alert/wren/multiheadlockalert", true},
+        {"customize/unitSystem", 1},
+        {"devicemanager/connectedCameraOnlyShowing", false},
+        {"display/DisplayWithRealBitDepth", false},
+        {"display/ShutterSpeed", 1},
+        {"display/frameInsertDelimiter", false},
+        {"display/recordRateInsertDelimiter", false},
+        {"env/language", text("en")},
+        {"env/style", text("light")},
+        {"main/scrno", -1},
+        {"recording/AutoDownload", true},
+        {"recording/RecAllConnectedCamera", false},
+        {"recording/useTriggerTest", true},
+        {"save/folder", pictures},
+        {"save/format", text("png")},
+        {"snapshot/folder", pictures},
+        {"snapshot/format", text("png")},
+        {"sync/external", false},
+        {"sync/generator/address", text("")},
+        {"sync/generator/input", 0},
+        {"sync/lport", int(zeb::SyncPortNone)},
+        {"sync/lport/ipaddress", text("")},
+        {"sync/masterCamera", text("")},
+        {"trigger/manualBeforePercent", 50.0},
+        {"trigger/randomFrames", 100},
+        {"trigger/randomTimes", 10},
+        {"wren/column_order/cameraInfo", liveColumns("connectionStatus,ipAddress,comment")},
+        {"wren/column_order/livecontrol", liveColumns("frameRate,shutterSpeed,resolution,trigger,reduce,lowlight")},
+        {"wren/column_order/sync", liveColumns("externalSync,triggerIn,triggerSwIn")},
+        {"wren/column_order/irig", liveColumns("irigTimeStamp,irigSync")},
+        {"wren/column_order/plugin", liveColumns("plugin")},
+        {"wren/column_order/memoryInfo",
+         text("recordCheck,connectIcon,cameraName,alert,frameRate,originalStartFrameNo,originalEndFrameNo,"
+              "selectStartFrameNo,selectEndFrameNo,totalFrame,triggerOffset")},
+        {"wren/column_order/memoryPlugin", text("recordCheck,connectIcon,cameraName,alert,plugin")},
+        {"wren/display/alert", true},
+        {"wren/display/cameraSettings", true},
+        {"wren/display/customSettings", true},
+        {"wren/display/externalSync", true},
+        {"wren/display/frameRate", true},
+        {"wren/display/irigTab", true},
+        {"wren/display/lock", true},
+        {"wren/display/memoryPluginTab", true},
+        {"wren/display/pluginTab", true},
+        {"wren/display/recordCheck", true},
+        {"wren/display/recordedEndFrame", true},
+        {"wren/display/recordedFrameRate", true},
+        {"wren/display/recordedStartFrame", true},
+        {"wren/display/reduceMode", true},
+        {"wren/display/resolution", true},
+        {"wren/display/shutterSpeed", true},
+        {"wren/display/syncStatus", true},
+        {"wren/display/syncTab", true},
+        {"wren/display/triggerMode", true},
+        {"wren/display/triggerOffset", true},
+        {"wren/ready", false},
+        {"wren/settings/deviceSpeedPlaying", false},
+        // The dialog that asks for the default settings is not to come by itself at the first opening.
+        {"wren/settings/done", true},
+        {"wren/settings/externalSyncSignal", -1},
+        {"wren/settings/externalSyncSignals", text("")},
+        {"wren/settings/externalSyncSignalsEnable", false},
+        {"wren/settings/memoryTableColor", text("skyblue")},
+        {"wren/settings/recordingSync", false},
+        {"wren/settings/recordingTableColor", text("orange")},
+        {"wren/settings/recreadyTableColor", text("green")},
+        {"wren/settings/syncInEnable", false},
+        {"wren/settings/triggerIn", int(zeb::SignalTrigPos)},
+        {"wren/table/filter", 0},
+        {"wren/table/group", text("*")},
+        {"wren/table/h", 600},
+        {"wren/table/interval", 500},
+        {"wren/table/scrno", 0},
+        {"wren/table/stat", 0},
+        {"wren/table/w", 1200},
+        {"wren/table/x", 100},
+        {"wren/table/y", 80},
+    };
+}
+
+}  // namespace
+
+const QHash<QString, QVariant>& factoryValues() {
+    static const QHash<QString, QVariant> values = [] {
+        QHash<QString, QVariant> byKey;
+        for (const FactoryValue& entry : table()) {
+            byKey.insert(QString::fromLatin1(entry.key), entry.value);
+        }
+        return byKey;
+    }();
+    return values;
+}

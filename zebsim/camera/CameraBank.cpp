@@ -1,0 +1,158 @@
+#include "CameraBank.h"
+
+#include "Camera.h"
+#include "Clock.h"
+#include "Rig.h"
+
+#include <QStringList>
+
+#include <algorithm>
+#include <stdexcept>
+
+namespace {
+
+bool isListed(const Camera& camera) {
+    return camera.device().isFound() && !camera.isGone();
+}
+
+}  // namespace
+
+CameraBank::CameraBank(Clock& clock, FaultPlan& faults) : m_clock(clock), m_faults(faults) {}
+
+CameraBank::~CameraBank() = default;
+
+void CameraBank::replace(const Rig& rig) {
+    std::vector<std::shared_ptr<CameraDevice>> devices;
+    std::vector<std::shared_ptr<Camera>> cameras;
+    for (const RigDevice& device : rig.devices) {
+        const DOCKEY firstKey = static_cast<DOCKEY>(cameras.size() + 1);
+        devices.push_back(std::make_shared<CameraDevice>(device, firstKey, m_clock, m_faults));
+        for (const auto& head : devices.back()->heads()) {
+            cameras.emplace_back(devices.back(), head.get());
+        }
+    }
+    const std::lock_guard lock(m_mutex);
+    m_devices.swap(devices);
+    m_cameras.swap(cameras);
+}
+
+int CameraBank::search(const QString& network) {
+    std::vector<const CameraDevice*> answering;
+    for (const auto& device : m_devices) {
+        if (network.isEmpty() || device->address().section(QLatin1Char('.'), 0, 2) == network) {
+            device->setFound(true);
+            answering.push_back(device.get());
+        }
+    }
+    waitFor(answering);
+    return int(answering.size());
+}
+
+void CameraBank::searchListed() {
+    std::vector<const CameraDevice*> known;
+    for (const auto& device : m_devices) {
+        if (device->isFound()) {
+            known.push_back(device.get());
+        }
+    }
+    waitFor(known);
+}
+
+void CameraBank::waitFor(const std::vector<const CameraDevice*>& devices) {
+    int longest = 0;
+    for (const CameraDevice* device : devices) {
+        longest = std::max(longest, device->latency());
+    }
+    m_clock.wait(longest);
+}
+
+void CameraBank::forgetAll() {
+    for (const auto& device : m_devices) {
+        device->setFound(false);
+        for (const auto& head : device->heads()) {
+            head->set(&CameraState::connected, false);
+            head->set(&CameraState::selected, false);
+            head->set(&CameraState::locked, false);
+            head->set(&CameraState::recordCheck, false);
+        }
+    }
+}
+
+Camera* CameraBank::find(DOCKEY key) const {
+    Camera* camera = has(key) ? m_cameras[key - 1].get() : nullptr;
+    return camera && isListed(*camera) ? camera : nullptr;
+}
+
+std::shared_ptr<Camera> CameraBank::hold(DOCKEY key) const {
+    const std::lock_guard lock(m_mutex);
+    return find(key) ? m_cameras[key - 1] : nullptr;
+}
+
+std::vector<Camera*> CameraBank::all() const {
+    std::vector<Camera*> cameras;
+    for (const auto& camera : m_cameras) {
+        if (isListed(*camera)) {
+            cameras.push_back(camera.get());
+        }
+    }
+    return cameras;
+}
+
+std::vector<Camera*> CameraBank::connected() const {
+    std::vector<Camera*> cameras = all();
+    cameras.erase(std::remove_if(cameras.begin(), cameras.end(),
+                                 [](const Camera* camera) { return !camera->get(&CameraState::connected); }),
+                  cameras.end());
+    return cameras;
+}
+
+DocKeyList CameraBank::keys() const {
+    DocKeyList keys;
+    for (const Camera* camera : all()) {
+        keys.append(camera->key());
+    }
+    return keys;
+}
+
+DocKeyList CameraBank::keysOf(bool CameraState::*member) const {
+    DocKeyList keys;
+    for (const Camera* camera : all()) {
+        if (camera->get(member)) {
+            keys.append(camera->key());
+        }
+    }
+    return keys;
+}
+
+std::vector<Camera*> CameraBank::known() const {
+    std::vector<Camera*> cameras;
+    for (const auto& camera : m_cameras) {
+        cameras.push_back(camera.get());
+    }
+    return cameras;
+}
+
+QString CameraBank::labelOf(const Camera& camera) const {
+    const QString name = camera.name();
+    const auto alike =
+        std::count_if(m_cameras.begin(), m_cameras.end(), [&name](const auto& known) { return known->name() == name; });
+    return alike < 2 ? name : QString(name % QStringLiteral(" (") % camera.address() % QLatin1Char(')'));
+}
+
+void CameraBank::forEach(const DocKeyList& keys, const std::function<void(Camera&)>& work) const {
+    QStringList failures;
+    for (const DOCKEY key : keys) {
+        const auto camera = hold(key);
+        if (!camera) {
+            continue;
+        }
+        try {
+            work(*camera);
+        } catch (const std::exception& e) {
+            failures.append(QString::fromUtf8(e.what()));
+        }
+    }
+    if (!failures.isEmpty()) {
+        throw std::runtime_error(failures.join(QLatin1Char('\n')).toStdString());
+    }
+}

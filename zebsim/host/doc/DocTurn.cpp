@@ -1,0 +1,23 @@
+#include "DocTurn.h"
+
+#include "Camera.h"
+#include "SimDocument.h"
+
+#include <QThread>
+
+DocTurn::DocTurn(QObject* parent) : QObject(parent) {
+    // Outside of all event loops no turn ends; there the first loop inside would take the documents away.
+    if (thread()->loopLevel() > 0) {
+        deleteLater();
+    }
+}
+
+DocTurn::~DocTurn() = default;
+
+SimDocument* DocTurn::document(Camera& camera, const DocContext& context) {
+    auto& doc = m_docs[camera.key()];
+    if (!doc) {
+        doc = std::make_unique<SimDocument>(camera, context);
+    }
+    return doc.get();
+}

@@ -1,0 +1,52 @@
+#pragma once
+
+#include "DOC_Interface.h"
+#include "SimActivity.h"
+#include "SimControl.h"
+#include "SimFrames.h"
+#include "SimHead.h"
+#include "SimImage.h"
+#include "SimLock.h"
+#include "SimStorage.h"
+
+/// A camera's document: a view on the `Camera`, which holds all that there is to know.
+class SimDocument : public DOC_Interface {
+public:
+    SimDocument(Camera& camera, const DocContext& context);
+
+    SimActivity& activity() override { return m_activity; }
+    SimLock& lock() override { return m_lock; }
+    SimFrames& frames() override { return m_frames; }
+    SimImage& image() override { return m_image; }
+    SimControl& control() override { return m_control; }
+    SimHead& head() override { return m_head; }
+    SimStorage& storage() override { return m_storage; }
+
+    /// Also when the rig was replaced, and on any thread.
+    DOCKEY getKey() const override { return m_key; }
+    bool isConnected() const override;
+    bool isSelected() const override;
+    bool isMobileSelected() const override;
+    bool isSdSelected() const override;
+    bool isQuikDriveSelected() const override;
+    bool isCFastSelected() const override;
+    /// The document of the master head; null for the master and for a camera of one head.
+    DOC_Interface* getParentDoc() const override;
+    DocList getHeadDocs(int mode) override;
+    /// "Partition 2", in the user's language, for one without a name.
+    QString getPartitionName(PARTITIONNUMBER partition) const override;
+    QStringList getAlerts() const override;
+    QString formatShutterSpeed(int value, int head) const override;
+
+private:
+    const DOCKEY m_key;
+    Camera& m_camera;
+    const DocContext& m_context;
+    SimActivity m_activity;
+    SimLock m_lock;
+    SimFrames m_frames;
+    SimImage m_image;
+    SimControl m_control;
+    SimHead m_head;
+    SimStorage m_storage;
+};

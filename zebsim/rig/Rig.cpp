@@ -1,0 +1,141 @@
+#include "Rig.h"
+
+#include "JsonNode.h"
+#include "ModelCatalogue.h"
+#include "PlainState.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QRegularExpression>
+
+namespace {
+
+const QString shippedFolder = QStringLiteral(":/zebsim/rigs/");
+constexpr int longestLatency = 60000;
+constexpr int standardLatency = 2;
+
+QString defaultName(int camera) {
+    return QStringLiteral("Camera %1").arg(camera);
+}
+
+/// Reads the devices and hubs of one rig file; knows what was read so far.
+class RigReader {
+public:
+    explicit RigReader(const ModelCatalogue& models) : m_models(models) {}
+
+    RigDevice readDevice(const JsonNode& node) {
+        node.allowOnly({QStringLiteral("address"), QStringLiteral("model"), QStringLiteral("latency"),
+                        QStringLiteral("found"), QStringLiteral("heads")});
+        RigDevice device;
+        device.address = readAddress(node);
+        const JsonNode model = node.member(QStringLiteral("model"));
+        device.model = m_models.find(model.text());
+        if (!device.model) {
+            model.fail(QStringLiteral("no model \"%1\"").arg(model.text()));
+        }
+        if (node.has(QStringLiteral("latency"))) {
+            device.latency = node.member(QStringLiteral("latency")).number(0, longestLatency);
+        }
+        device.found = !node.has(QStringLiteral("found")) || node.member(QStringLiteral("found")).flag();
+        device.heads = readHeads(node.member(QStringLiteral("heads")), *device.model);
+        return device;
+    }
+
+    RigHub readHub(const JsonNode& node) {
+        RigHub hub;
+        hub.address = readAddress(node);
+        QVariantMap members = node.plain();
+        members.remove(QStringLiteral("address"));
+        try {
+            hub.state.apply(members);
+        } catch (const StateError& error) {
+            node.failAt(error.member, error.reason);
+        }
+        return hub;
+    }
+
+private:
+    /// The address of what `owner` describes, which nothing else may have.
+    QString readAddress(const JsonNode& owner) {
+        static const QRegularExpression ipv4(
+            QStringLiteral("^((25[0-5]|2[0-4]\\d|1?\\d?\\d)\\.){3}(25[0-5]|2[0-4]\\d|1?\\d?\\d)$"));
+        const JsonNode node = owner.member(QStringLiteral("address"));
+        const QString address = node.text();
+        if (!ipv4.match(address).hasMatch()) {
+            node.fail(QStringLiteral("\"%1\" is no IPv4 address").arg(address));
+        }
+        if (m_owners.contains(address)) {
+            node.fail(QStringLiteral("%1 is the address of %2").arg(address, m_owners.value(address)));
+        }
+        m_owners.insert(address, owner.path());
+        return address;
+    }
+
+    QList<CameraState> readHeads(const JsonNode& node, const CameraModel& model) {
+        QList<CameraState> heads;
+        for (const JsonNode& item : node.items()) {
+            heads.append(ModelCatalogue::readState(item, model));
+            ++m_cameras;
+            if (heads.last().name.isEmpty()) {
+                heads.last().name = defaultName(m_cameras);
+            }
+        }
+        if (heads.isEmpty()) {
+            node.fail(QStringLiteral("a device has at least one head"));
+        }
+        return heads;
+    }
+
+    const ModelCatalogue& m_models;
+    /// What has an address already.
+    QHash<QString, QString> m_owners;
+    int m_cameras = 0;
+};
+
+}  // namespace
+
+Rig Rig::fromFile(const QString& pathOrName) {
+    ModelCatalogue models = ModelCatalogue::shipped();
+    const QString path =
+        names().contains(pathOrName) ? QString(shippedFolder % pathOrName % QStringLiteral(".json")) : pathOrName;
+    const JsonNode file = JsonNode::fromFile(path);
+    file.allowOnly({QStringLiteral("models"), QStringLiteral("devices"), QStringLiteral("hubs")});
+    if (file.has(QStringLiteral("models"))) {
+        models.addFile(QFileInfo(path).dir().filePath(file.member(QStringLiteral("models")).text()));
+    }
+    Rig rig;
+    RigReader reader(models);
+    for (const JsonNode& node : file.member(QStringLiteral("devices")).items()) {
+        rig.devices.append(reader.readDevice(node));
+    }
+    if (file.has(QStringLiteral("hubs"))) {
+        for (const JsonNode& node : file.member(QStringLiteral("hubs")).items()) {
+            rig.hubs.append(reader.readHub(node));
+        }
+    }
+    return rig;
+}
+
+Rig Rig::standard(int count) {
+    const auto model = ModelCatalogue::shipped().find(QStringLiteral("standard"));
+    Rig rig;
+    for (int i = 0; i < count; ++i) {
+        const QString address = QStringLiteral("192.168.%1.%2").arg(i / 200).arg(11 + i % 200);
+        CameraState state = model->initial;
+        state.name = defaultName(i + 1);
+        rig.devices.append(RigDevice{address, model, standardLatency, true, {state}});
+    }
+    return rig;
+}
+
+QStringList Rig::names() {
+    // The catalogue brings the resources.
+    ModelCatalogue::shipped();
+    QStringList names;
+    for (const QString& file : QDir(shippedFolder).entryList(QDir::Files, QDir::Name)) {
+        if (file != QStringLiteral("models.json")) {
+            names.append(QFileInfo(file).completeBaseName());
+        }
+    }
+    return names;
+}
