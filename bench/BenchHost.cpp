@@ -1,12 +1,12 @@
 #include "BenchHost.h"
 
 #include "Camera.h"
-#include "Rig.h"
+#include "RigFile.h"
 
 namespace {
 
 Rig connectedRig(int cameras) {
-    Rig rig = Rig::standard(cameras);
+    Rig rig = standardRig(cameras);
     for (RigDevice& device : rig.devices) {
         for (CameraState& head : device.heads) {
             head.connected = true;

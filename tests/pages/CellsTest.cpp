@@ -49,7 +49,7 @@ QVariantMap recorded(int first, int last, int trigger) {
 }
 
 TEST(PageCells, ShowTheRecordedFrames) {
-    TestHost test(Rig::standard(4));
+    TestHost test(standardRig(4));
     connectCameras(test, 2, 4);
     test.camera(1).change(recorded(0, 49, 0));  // and is not connected
     test.camera(3).change(recorded(0, 49, 0));
@@ -86,7 +86,7 @@ TEST(PageCells, ShowTheRecordedFrames) {
 }
 
 TEST(PageCells, ShowTheImagePlugins) {
-    TestHost test(Rig::standard(4));
+    TestHost test(standardRig(4));
     connectCameras(test, 1, 3);
     test.camera(1).change({{"plugins", QStringList{"lut", "mosaic"}}, {"effectivePlugins", QStringList{"mosaic"}}});
     test.camera(2).change({{"plugins", QStringList{"histogram"}}, {"blockedPlugins", QStringList{"histogram"}}});

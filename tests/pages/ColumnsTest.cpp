@@ -97,7 +97,7 @@ TEST(PageColumns, AreDraggedToAnotherPlace) {
 }
 
 TEST(PageColumns, ATabThatIsHiddenIsLeft) {
-    TestHost test(Rig::standard(1));
+    TestHost test(standardRig(1));
     TablePage page(test, 2);
     test.host.prefs().setValue("wren/display/syncTab", false);
     page.run("wrentabledialog_obj.refreshAllControls()");

@@ -22,7 +22,7 @@ protected:
     bool isOpen() { return page.run(Open).toBool(); }
     QString comment(DOCKEY key) { return test.camera(key).get(&CameraState::comment); }
 
-    TestHost test{Rig::standard(4)};
+    TestHost test{standardRig(4)};
     TablePage page{test};
 };
 

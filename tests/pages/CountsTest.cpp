@@ -76,7 +76,7 @@ TEST(PageCounts, HandlersDoNotGrowWithRefreshes) {
 }
 
 TEST(PageCounts, ATickWithNothingChangedWritesNothing) {
-    TestHost test(Rig::fromFile("eight-mixed"));
+    TestHost test(readRig("eight-mixed"));
     connectCameras(test, 1, 7);
     // What is recorded would have to be erased first.
     for (Camera* camera : test.host.cameras().all()) {

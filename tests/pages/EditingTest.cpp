@@ -7,7 +7,7 @@
 namespace {
 
 TEST(PageEditing, OneCallForARowAndOneForAll) {
-    TestHost test(Rig::standard(4));
+    TestHost test(standardRig(4));
     connectCameras(test, 1, 3);
     TablePage page(test, 1);
     test.camera(2).change({{"locked", true}});
@@ -62,7 +62,7 @@ TEST(PageEditing, AChoiceByKeysIsMadeOnce) {
 }
 
 TEST(PageEditing, TheBatchRowStandsForTheRowsThatAreShown) {
-    TestHost test(Rig::standard(4));
+    TestHost test(standardRig(4));
     connectCameras(test, 1, 3);
     TablePage page(test, 1);
     page.run(

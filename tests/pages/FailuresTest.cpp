@@ -69,7 +69,7 @@ protected:
         return texts;
     }
 
-    TestHost test{Rig::fromFile(QStringLiteral("eight-mixed"))};
+    TestHost test{readRig(QStringLiteral("eight-mixed"))};
     std::unique_ptr<TablePage> page;
 };
 

@@ -55,14 +55,14 @@ TEST(PageListing, FollowsTheGroup) {
 }
 
 TEST(PageListing, WithoutGroupsHasNoGroupBox) {
-    TestHost test(Rig::standard(2));
+    TestHost test(standardRig(2));
     TablePage page(test);
     EXPECT_FALSE(page.run("$('#wrenGroupBlock').is(':visible')").toBool());
     EXPECT_EQ(page.list(Listed), QStringList({"1", "2"}));
 }
 
 TEST(PageListing, FollowsTheFilterAndSelectsWhatIsConnected) {
-    TestHost test(Rig::standard(4));
+    TestHost test(standardRig(4));
     connectCameras(test, 2, 3);
     test.host.prefs().setValue("wren/table/filter", 2);
     TablePage page(test);
@@ -80,7 +80,7 @@ TEST(PageListing, FollowsTheFilterAndSelectsWhatIsConnected) {
 }
 
 TEST(PageListing, KeepsTheFilterThroughFileMode) {
-    TestHost test(Rig::standard(4));
+    TestHost test(standardRig(4));
     connectCameras(test, 2, 3);
     test.host.prefs().setValue("wren/table/filter", 1);
     test.host.appStatus().enterMode(zeb::FileMode);

@@ -24,7 +24,7 @@ protected:
         return texts;
     }
 
-    TestHost test{Rig::fromFile("eight-mixed")};
+    TestHost test{readRig("eight-mixed")};
     TablePage page{test};
 };
 

@@ -72,7 +72,7 @@ TEST(PageModes, OnlyAFullUpdateFillsTheGridAfterFileMode) {
 }
 
 TEST(PageModes, AreSwitchedByTheTabs) {
-    TestHost test(Rig::standard(2));
+    TestHost test(standardRig(2));
     TablePage page(test);
     page.click("a[href=\"#memoryPluginTab\"]");
     EXPECT_TRUE(test.host.isMemoryMode());
@@ -88,7 +88,7 @@ TEST(PageModes, AreSwitchedByTheTabs) {
 }
 
 TEST(PageModes, TheGridTakesTheRoomThatIsLeft) {
-    TestHost test(Rig::standard(2));
+    TestHost test(standardRig(2));
     TablePage page(test);
     // Window less accordion, upper area, margins and the buttons below.
     const QString over = QStringLiteral(
@@ -110,7 +110,7 @@ TEST(PageModes, TheGridTakesTheRoomThatIsLeft) {
 }
 
 TEST(PageModes, NoHiddenTabComesToTheFront) {
-    TestHost test(Rig::standard(4));
+    TestHost test(standardRig(4));
     TablePage page(test, 6);
     page.show(2);
     for (const char* key : {"wren/display/syncTab", "wren/display/memoryPluginTab"}) {

@@ -92,7 +92,7 @@ protected:
     int repeats() { return page.number("probe.timers.size"); }
     int widgets() { return page.number("$('.ui-spinner').length"); }
 
-    TestHost test{Rig::standard(4)};
+    TestHost test{standardRig(4)};
     TablePage page{test, 5};
 };
 

@@ -144,7 +144,7 @@ void vary(TestHost& test, int cameras, int turn) {
         {{"rate", 7}, {"shutter", 7}, {"effectivePlugins", QStringList{"lut"}}},  // not in the lists
         {{"plugins", QStringList{"mosaic", "lut"}}, {"selectedRange", QVariantList{20, 80}}},
     };
-    const CameraState plain = Rig::standard(1).devices.first().heads.first();
+    const CameraState plain = standardRig(1).devices.first().heads.first();
     for (int i = 0; i < cameras; ++i) {
         QVariantMap state = plain.toPlain();
         state.insert("name", QStringLiteral("Camera %1 of turn %2").arg(i).arg(turn));

@@ -9,7 +9,7 @@
 namespace {
 
 TEST(PageSessions, leaveNothingBehind) {
-    TestHost test(Rig::fromFile(QStringLiteral("eight-mixed")));
+    TestHost test(readRig(QStringLiteral("eight-mixed")));
     connectCameras(test, 1, 8);
     TablePage page(test, 1);
     const auto session = [&](int round) {

@@ -41,7 +41,7 @@ protected:
     }
     int widgets() { return page.number("$('.ui-slider-range').length"); }
 
-    TestHost test{Rig::standard(4)};
+    TestHost test{standardRig(4)};
     TablePage page{test, 1};
 };
 

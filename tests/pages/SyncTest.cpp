@@ -26,7 +26,7 @@ const char* Shown = R"js(
 )js";
 
 Rig laboratory() {
-    Rig rig = Rig::standard(2);
+    Rig rig = standardRig(2);
     rig.hubs = {{Hub, {zeb::HubRoleMaster, 1000, {500, 1000, 2000}}}, {Passing, {1, 1000, {500, 1000, 2000}}}};
     return rig;
 }

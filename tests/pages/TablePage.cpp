@@ -261,7 +261,7 @@ QStringList camerasWith(TestHost& test, bool CameraState::*property) {
 }
 
 Rig connected(int cameras) {
-    Rig rig = Rig::standard(cameras);
+    Rig rig = standardRig(cameras);
     for (RigDevice& device : rig.devices) {
         device.heads.first().connected = true;
     }

@@ -47,7 +47,7 @@ protected:
         ASSERT_TRUE(QTest::qWaitFor([&rounds] { return rounds > 20; }));
     }
 
-    TestHost test{Rig::standard(4)};
+    TestHost test{standardRig(4)};
     TablePage page{test, 1};
 
 private:

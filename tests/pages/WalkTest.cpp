@@ -330,7 +330,7 @@ private:
     }
 
     std::mt19937 m_random;
-    TestHost m_test{Rig::fromFile(QStringLiteral("eight-mixed"))};
+    TestHost m_test{readRig(QStringLiteral("eight-mixed"))};
     std::unique_ptr<TablePage> m_page;
     QTimer m_user;
     int m_vanished = 0;

@@ -1,4 +1,4 @@
-#include "Rig.h"
+#include "RigFile.h"
 #include "TestPlugin.h"
 
 #include <QApplication>
@@ -188,7 +188,7 @@ TEST_F(ImageTool, answersForDocumentsThatMayBeGone) {
     setToolRect(QRect(3, 4, 5, 6));
     EXPECT_EQ(plugin.getRectParameters(host.doc(1), true).value(QStringLiteral("PosX")), 3);
     EXPECT_FALSE(plugin.getRectParameters(nullptr, true).contains(QStringLiteral("ZoomRate")));
-    host.setRig(Rig::fromFile("eight-mixed"));
+    host.setRig(readRig("eight-mixed"));
     host.camera(5).change({{"connected", true}, {"binningPower", 2}, {"scale", 2.0}});
     EXPECT_EQ(plugin.toSensorRect(host.doc(5), rect), QRect(QPoint(8, 4), QPoint(15, 7))) << "it cannot bin";
     plugin.resetRect();

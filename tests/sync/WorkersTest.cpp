@@ -50,7 +50,7 @@ TEST(VIGenThreadTest, WorkThatThrowsHasFailed) {
 }
 
 TEST(RUN_SyncingThreadTest, WorksWhileTheHostAnswersOthers) {
-    TestHost test(Rig::standard(8));
+    TestHost test(standardRig(8));
     SimHost& host = test.host;
     for (Camera* camera : host.cameras().all()) {
         camera->set(&CameraState::connected, true);

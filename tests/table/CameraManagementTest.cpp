@@ -1,5 +1,5 @@
 #include "CameraManagement.h"
-#include "Rig.h"
+#include "RigFile.h"
 #include "TableFixture.h"
 #include "TableSession.h"
 #include "TableState.h"
@@ -87,7 +87,7 @@ TEST_F(CameraManagementTest, selectionSetsTheCameraBehindTheBatchRow) {
 }
 
 TEST_F(CameraManagementTest, aSearchBringsCamerasThatAreNew) {
-    host.setRig(Rig::fromFile(":/table/rigs/recording-elsewhere.json"));
+    host.setRig(readRig(":/table/rigs/recording-elsewhere.json"));
     calls();
     EXPECT_EQ(host.docManager().getDocKeys(), DocKeyList{1});
 

@@ -1,6 +1,6 @@
 #include "Camera.h"
 #include "GUI_ProgressDialog.h"
-#include "Rig.h"
+#include "RigFile.h"
 #include "SlotCall.h"
 #include "TableFixture.h"
 #include "support/FaultChoice.h"
@@ -63,7 +63,7 @@ public:
     /// With the cameras of the fixture, or with so many of the standard model.
     explicit FaultyWorld(int mode, int standard = 0) {
         if (standard > 0) {
-            host.setRig(Rig::standard(standard));
+            host.setRig(standardRig(standard));
         }
         connectAll();
         makeBridge();

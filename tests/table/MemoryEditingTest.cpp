@@ -1,7 +1,7 @@
 #include "DOC_Control.h"
 #include "DOC_Frames.h"
 #include "DOC_Interface.h"
-#include "Rig.h"
+#include "RigFile.h"
 #include "TableFixture.h"
 
 #include <QRegularExpression>
@@ -18,7 +18,7 @@ namespace {
 class MemoryEditingTest : public BridgeFixture {
 protected:
     MemoryEditingTest() {
-        host.setRig(Rig::standard(6));
+        host.setRig(standardRig(6));
         connectAll();
         record(1, 0, 999, 500);
         record(2, 0, 4095, 1000);

@@ -1,6 +1,6 @@
 #include "DocKeys.h"
 #include "ParameterEditing.h"
-#include "Rig.h"
+#include "RigFile.h"
 #include "TableFixture.h"
 #include "TriggerEditing.h"
 
@@ -93,7 +93,7 @@ TEST_F(ParameterEditingTest, asksForEachParameterInItsOwnWay) {
         {"the trigger asks too", "eight-mixed", trigger, {3}, "Trigger mode"},
     };
     for (const auto& each : cases) {
-        host.setRig(Rig::fromFile(each.rig));
+        host.setRig(readRig(each.rig));
         connectAll();
         change(4, {{"locked", true}});
         host.setPrefBool("wren/settings/triggerEnable", true);

@@ -1,7 +1,7 @@
 #include "DOC_Control.h"
 #include "DOC_Interface.h"
 #include "JS_Mediator_WrenDefaultSettingsDialog.h"
-#include "Rig.h"
+#include "RigFile.h"
 #include "TableFixture.h"
 #include "VisaFile.h"
 
@@ -21,7 +21,7 @@ namespace {
 class SynchronisingTest : public BridgeFixture {
 protected:
     SynchronisingTest() {
-        host.setRig(Rig::standard(3));
+        host.setRig(standardRig(3));
         connectAll();
         host.setPrefBool("wren/settings/syncInEnable", true);
         host.setPrefBool("alert/setsynchronization", true);
@@ -133,7 +133,7 @@ TEST_F(SynchronisingTest, whileTheCamerasAreHandedOverNothingElseReachesThem) {
 
 TEST_F(SynchronisingTest, aListOfManyRecordsAsksTheGeneratorOnce) {
     VisaFile visa;
-    host.setRig(Rig::standard(64));
+    host.setRig(standardRig(64));
     connectAll();
     change(9, {{"rate", 500}});
     useGenerator();
@@ -207,7 +207,7 @@ TEST_F(SynchronisingTest, whatBecomesOfTheCamerasWhileAGeneratorIsSoughtIsSeen) 
 }
 
 TEST_F(SynchronisingTest, theFirstHeadThatIsOnLeadsItsDevice) {
-    host.setRig(Rig::fromFile("eight-mixed"));
+    host.setRig(readRig("eight-mixed"));
     host.faults().plant(8, "*", {{}, 0, true});  // a dummy
     change(4, {{"connected", true}});
     EXPECT_TRUE(bridge->setSyncSettings()) << desk.texts().join('\n').toStdString();

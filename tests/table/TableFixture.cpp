@@ -1,6 +1,6 @@
 #include "TableFixture.h"
 
-TableFixture::TableFixture() : TestHost(Rig::fromFile(QStringLiteral("eight-mixed"))) {
+TableFixture::TableFixture() : TestHost(readRig(QStringLiteral("eight-mixed"))) {
     // A test says itself what is recorded.
     for (Camera* camera : host.cameras().all()) {
         camera->change({{QStringLiteral("recorded"), false},

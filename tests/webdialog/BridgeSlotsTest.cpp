@@ -1,7 +1,7 @@
 #include "Camera.h"
 #include "ProbeBridge.h"
 #include "RangeMax.h"
-#include "Rig.h"
+#include "RigFile.h"
 #include "ZebPrefsDialog.h"
 #include "support/FaultyHost.h"
 #include "support/StubPlugin.h"
@@ -204,7 +204,7 @@ TEST_F(BridgeSlots, RangeOfPixels) {
     EXPECT_EQ(bridge.getRangeMax(), 255);
     host.prefs().setValue("display/DisplayWithRealBitDepth", true);
     EXPECT_EQ(bridge.getRangeMax(), 255) << "no document";
-    host.setRig(Rig::fromFile(":/webdialog/rigs/functions.json"));
+    host.setRig(readRig(":/webdialog/rigs/functions.json"));
     host.camera(1).change({{"connected", true}, {"selected", true}});
     EXPECT_EQ(bridge.getRangeMax(), 4095);
     EXPECT_EQ(bridge.lastRangeMax(), 4095);

@@ -1,6 +1,6 @@
 #include "Camera.h"
 #include "ProbeBridge.h"
-#include "Rig.h"
+#include "RigFile.h"
 #include "support/FaultyHost.h"
 
 #include <QJsonObject>
@@ -60,7 +60,7 @@ TEST_F(DeviceInfo, OnlyTheShortListInLiveModeLeavesOut) {
 }
 
 TEST_F(DeviceInfo, TellsNamesAndMarks) {
-    host.setRig(Rig::fromFile(":/webdialog/rigs/functions.json"));
+    host.setRig(readRig(":/webdialog/rigs/functions.json"));
     host.camera(2).change({{"alias", "alias"}});
     for (const char* mark : {"connected", "mobile", "selected", "slowLink", "wifi"}) {
         host.camera(2).change({{mark, true}});

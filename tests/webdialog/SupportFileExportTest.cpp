@@ -1,6 +1,6 @@
 #include "Camera.h"
 #include "ProbeBridge.h"
-#include "Rig.h"
+#include "RigFile.h"
 #include "SupportFileExport.h"
 #include "ZebSupportFile.h"
 #include "support/FaultyHost.h"
@@ -73,7 +73,7 @@ protected:
 };
 
 TEST_F(SupportFile, TellsWhatItHolds) {
-    host.setRig(Rig::fromFile(":/webdialog/rigs/functions.json"));
+    host.setRig(readRig(":/webdialog/rigs/functions.json"));
     const QString start =
         "confirm <The information below will be output in ZIP file format. Do you want to proceed?>\n"
         "\n<- Camera setting values>\n<- ZEB setting values>\n<- ZEB operation log>\n<- SDK operation log>";

@@ -4,6 +4,7 @@
 #include "CommandLine.h"
 #include "ModalWatcher.h"
 #include "PreferencePages.h"
+#include "RigFile.h"
 #include "Simulator.h"
 #include "ViewerWindow.h"
 #include "ZebPrefsDialog.h"
@@ -146,7 +147,7 @@ TEST_F(Dialogs, GiveACameraItsNameAndComment) {
     EXPECT_EQ(name(), "Gate");
     EXPECT_EQ(host.cameras().find(1)->get(&CameraState::comment), "left{Separator}lens");
     edit([&](QDialog& dialog) {
-        host.setRig(Rig::standard(1));
+        host.setRig(standardRig(1));
         EXPECT_FALSE(dialog.isVisible());
         dialog.reject();
     });

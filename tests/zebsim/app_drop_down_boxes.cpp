@@ -11,7 +11,7 @@ namespace {
 
 TEST(DropDownBoxes, FloatOverTheWindowOneAtATime) {
     initHostPages();
-    TestHost test(Rig::standard(1));
+    TestHost test(standardRig(1));
     test.camera(1).change({{"connected", true}, {"partitions", 3}});
     test.host.docManager().setSelectedDocs({1}, 0);
     QWidget window;

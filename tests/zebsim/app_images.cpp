@@ -6,6 +6,7 @@
 #include "DOC_Frames.h"
 #include "DOC_Interface.h"
 #include "PlayerBar.h"
+#include "RigFile.h"
 #include "Simulator.h"
 #include "ViewerWindow.h"
 
@@ -73,7 +74,7 @@ TEST_F(Images, ComeAndGoWithTheCameras) {
     images.find(4)->close();
     EXPECT_TRUE(images.find(4)->isVisible()) << "none can be closed";
     EXPECT_EQ(host.mdi().countMdiWindow(true, 2), 2);
-    host.setRig(Rig::standard(1));
+    host.setRig(standardRig(1));
     EXPECT_EQ(titles(), "");
 }
 

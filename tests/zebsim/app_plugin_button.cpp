@@ -10,7 +10,7 @@
 namespace {
 
 TEST(PluginButton, StandsAsThePluginSays) {
-    TestHost test(Rig::standard(1));
+    TestHost test(standardRig(1));
     StubPlugin plugin;
     PluginSlot slot(test.host, plugin);
     PluginButton button(test.host, slot, nullptr);

@@ -4,6 +4,7 @@
 #include "FileNames.h"
 #include "FramePicture.h"
 #include "ModalWatcher.h"
+#include "RigFile.h"
 #include "SaveDialog.h"
 #include "SaveJob.h"
 #include "SaveNames.h"
@@ -112,7 +113,7 @@ TEST_F(AppSaving, TellsWhyThereIsNothingToSave) {
     host.prefs().setValue("save/folder", folder.filePath("p.ini/below"));
     dialogs.saves().order({});
     host.saveLayoutFiles();
-    host.setRig(Rig::standard(1));
+    host.setRig(standardRig(1));
     host.saveFiles();
     EXPECT_EQ(messages(), QStringList({"There can't be a folder " + folder.filePath("p.ini/below") + ".",
                                        "No connected camera has recorded images."}));

@@ -26,7 +26,7 @@ protected:
         test.host.faults().plant(key, QString::fromLatin1(operation), fault);
     }
 
-    TestHost test{Rig::fromFile(QStringLiteral("eight-mixed"))};
+    TestHost test{readRig(QStringLiteral("eight-mixed"))};
 };
 
 }  // namespace

@@ -1,6 +1,7 @@
 #include "CameraBank.h"
 #include "ModelCatalogue.h"
-#include "Rig.h"
+#include "RigError.h"
+#include "RigFile.h"
 
 #include <QFile>
 #include <QJsonDocument>
@@ -20,7 +21,7 @@ protected:
         file.write(text);
         file.close();
         try {
-            Rig::fromFile(file.fileName());
+            readRig(file.fileName());
             return {};
         } catch (const RigError& error) {
             return QString::fromUtf8(error.what()).remove(folder.path() + QLatin1Char('/'));
@@ -93,7 +94,7 @@ TEST_F(RigFile, IsRefusedWithItsNameAndTheMember) {
     for (const auto& row : cases) {
         EXPECT_EQ(complaint(row.text), QString("x.json: ") + row.complaint) << row.text.toStdString();
     }
-    EXPECT_THROW(Rig::fromFile(QStringLiteral("no-such-rig")), RigError);
+    EXPECT_THROW(readRig(QStringLiteral("no-such-rig")), RigError);
 }
 
 TEST_F(RigFile, MayBringModelsOfItsOwn) {
@@ -111,7 +112,7 @@ TEST_F(RigFile, MayBringModelsOfItsOwn) {
 
 TEST(Rig, OfAThousandHasAnAddressForEach) {
     QSet<QString> addresses;
-    const Rig rig = Rig::standard(1024);
+    const Rig rig = standardRig(1024);
     for (const RigDevice& device : rig.devices) {
         addresses.insert(device.address);
     }

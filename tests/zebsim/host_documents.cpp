@@ -26,7 +26,7 @@ protected:
         loop.exec();
     }
 
-    TestHost test{Rig::standard(3)};
+    TestHost test{standardRig(3)};
 };
 
 TEST_F(Documents, LiveForOneTurnOfTheirEventLoop) {

@@ -15,7 +15,7 @@ namespace {
 
 class Messages : public testing::Test {
 protected:
-    TestHost test{Rig::standard(2)};
+    TestHost test{standardRig(2)};
     SimHost& host = test.host;
     ScriptedDesk& desk = test.desk;
 };
@@ -74,7 +74,7 @@ TEST_F(Messages, AFailureIsABoxAndALineEachTimeAndOneOfTheCycleOnlyANotice) {
 
 TEST_F(Messages, AFaultIsMetByTheCallThatItIsPlantedOn) {
     const QString address = QStringLiteral("192.168.0.61");
-    host.setRig(Rig::fromFile(QStringLiteral("sync")));
+    host.setRig(readRig(QStringLiteral("sync")));
     host.signalDevices().open(1);
     host.signalDevices().search(3, 1);
     const QList<std::function<void()>> calls{[&] { host.getPrefBool(QStringLiteral("a")); },
@@ -163,7 +163,7 @@ TEST_F(Messages, SelectionHasACurrentDocument) {
     EXPECT_TRUE(docs.isCurrentDoc(2)) << "the first that was selected";
     docs.deselectDoc(2);
     EXPECT_TRUE(docs.isCurrentDoc(1));
-    host.setRig(Rig::standard(1));
+    host.setRig(standardRig(1));
     EXPECT_EQ(docs.getCurrentDoc(), nullptr);
     EXPECT_EQ(docs.getDocKeys(), DocKeyList{1});
 }
@@ -195,7 +195,7 @@ TEST_F(Messages, StatesOfTheHostFollowItsCameras) {
 }
 
 TEST(Search, TellsWhereItLookedAndWhatItFound) {
-    TestHost test(Rig::fromFile(QStringLiteral("eight-mixed")));
+    TestHost test(readRig(QStringLiteral("eight-mixed")));
     for (const char* network : {"192.168.7.0", "192.168.7.0", "10.1.255.0"}) {
         test.host.cameraOps().searchCamera(QString::fromLatin1(network));
     }

@@ -17,7 +17,7 @@ QByteArray contentOf(const QString& path) {
 }
 
 TEST(SupportFile, IsAZipThatAnotherProgramReads) {
-    TestHost test(Rig::standard(2));
+    TestHost test(standardRig(2));
     test.camera(2).set(&CameraState::name, QStringLiteral("Düse \"日本\""));
     test.host.setPref(QStringLiteral("support/dir"), QStringLiteral("/there"));
     ZebSupportFile file;
@@ -48,7 +48,7 @@ TEST(SupportFile, IsAZipThatAnotherProgramReads) {
 }
 
 TEST(SupportFile, HoldsTheLogOfEveryCameraThatKeepsOne) {
-    TestHost test(Rig::fromFile(QStringLiteral(SOURCE_FOLDER "/tests/webdialog/rigs/functions.json")));
+    TestHost test(readRig(QStringLiteral(SOURCE_FOLDER "/tests/webdialog/rigs/functions.json")));
     test.camera(4).change({{"alerts", QStringList{"It is\nhot"}}});
     ZebSupportFile file;
     test.host.prepareSupportFile(file);

@@ -257,7 +257,7 @@ TEST_F(RecordingTest, TheHostsKeyArmsTriggersAndStops) {
     EXPECT_EQ(ends, 1);
     host.appStatus().enterMode(zeb::LiveMode);
     host.recorder().press();
-    host.setRig(Rig::standard(1));
+    host.setRig(standardRig(1));
     QCoreApplication::processEvents();
     EXPECT_EQ(ends, 2) << "its cameras are no more";
 }

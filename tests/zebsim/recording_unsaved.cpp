@@ -139,7 +139,7 @@ TEST_F(UnsavedImages, AreAskedAboutAgainWhenCamerasComeMeanwhile) {
     EXPECT_EQ(states(), "2 0 - 2");
     host.recorder().cancelRecording(false);
     test.desk.answers = {Yes};
-    test.desk.whileStanding = [this] { host.setRig(Rig::standard(1)); };
+    test.desk.whileStanding = [this] { host.setRig(standardRig(1)); };
     host.recorder().startRecReady();
     QCoreApplication::processEvents();
     EXPECT_EQ(states(), "0 - 0") << "the cameras are no more";

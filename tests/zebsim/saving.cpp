@@ -81,7 +81,7 @@ protected:
         return file.open(QIODevice::ReadOnly) && file.readAll() == "old";
     }
 
-    TestHost host{Rig::standard(3)};
+    TestHost host{standardRig(3)};
     QTemporaryDir folder;
     FileNames fileNames{{"Layout"}};
     Overwrite answer = Overwrite::This;
@@ -272,7 +272,7 @@ TEST_F(Saving, LosesACameraAtAnyFrameAndNoOther) {
     const auto anew = [&] { host.camera(1).keep(1, host.camera(1).recording()); };
     EXPECT_EQ(run(orders(), afterOne(anew)).first(), "Gate: 1 of 2 up to -1, lost");
     EXPECT_EQ(
-        run(orders(), afterOne([&] { host.host.setRig(Rig::standard(3)); })),
+        run(orders(), afterOne([&] { host.host.setRig(standardRig(3)); })),
         QStringList({"Gate: 1 of 2 up to -1, lost", "Ramp: 0 of 3 up to 0, lost", "Nozzle/2: 0 of 3 up to 0, lost"}));
 }
 
@@ -331,7 +331,7 @@ TEST_F(Saving, KnowsWhoHasRecordedAndIsNotThereAnyMore) {
          {}},
         {"one that works again", [&] { connect(2, true), shoot(); }, {}},
         {"all are deleted", [&] { host.host.cameras().forgetAll(); }, {"Camera 2", "Nozzle/2"}},
-        {"another rig", [&] { host.host.setRig(Rig::standard(3)); }, {}},
+        {"another rig", [&] { host.host.setRig(standardRig(3)); }, {}},
     };
     for (const auto& one : cases) {
         one.happens();

@@ -53,7 +53,7 @@ protected:
     }
     SignalHub& hub(const QString& address) { return *hubs.hub(address); }
 
-    TestHost test{Rig::fromFile(QStringLiteral("sync"))};
+    TestHost test{readRig(QStringLiteral("sync"))};
     SimSignalDevices& hubs = test.host.signalDevices();
     ZebCameraOps& ops = test.host.cameraOps();
 };
@@ -81,7 +81,7 @@ TEST_F(Signals, ASearchConnectsTheHubsThatAnswer) {
     EXPECT_NE(hubs.findByAddress(MasterHub), nullptr);
     hubs.close();
     EXPECT_EQ(hubs.findByAddress(MasterHub), nullptr);
-    test.host.setRig(Rig::standard(1));
+    test.host.setRig(standardRig(1));
     EXPECT_EQ(openAndSearch(), 0);
 }
 
@@ -120,7 +120,7 @@ TEST_F(Signals, CamerasSeeTheSignalThatTheyWereSynchronisedWith) {
     test.camera(2).change({{"syncStatus", "Not supported"}});
     EXPECT_EQ(status(2), "Not supported") << "never synchronised";
     for (const auto& row : cases) {
-        test.host.setRig(Rig::fromFile(QStringLiteral("sync")));
+        test.host.setRig(readRig(QStringLiteral("sync")));
         for (const DOCKEY key : {1, 2}) {
             test.camera(key).set(&CameraState::connected, true);
         }
@@ -195,7 +195,7 @@ TEST(Synchronising, OutlivesTheRigThatItBeganWith) {
     ScriptedDesk desk;
     HeldClock clock;
     SimHost host(clock, desk, folder.filePath(QStringLiteral("prefs.ini")));
-    host.setRig(Rig::standard(3));
+    host.setRig(standardRig(3));
     for (Camera* camera : host.cameras().all()) {
         camera->set(&CameraState::connected, true);
     }
@@ -206,7 +206,7 @@ TEST(Synchronising, OutlivesTheRigThatItBeganWith) {
     });
     clock.reached.get_future().wait();
     host.cameras().forgetAll();
-    host.setRig(Rig::standard(1));
+    host.setRig(standardRig(1));
     EXPECT_EQ(docs.last()->getKey(), 3u) << "documents that are worked with tell their keys";
     clock.letGo.set_value();
     worker.join();

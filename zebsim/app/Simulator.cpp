@@ -6,7 +6,7 @@
 #include "PluginLoader.h"
 #include "PluginSlot.h"
 #include "RecordingGuard.h"
-#include "Rig.h"
+#include "RigFile.h"
 #include "ScriptedVisaLoader.h"
 #include "UiText.h"
 #include "ViewerWindow.h"
@@ -25,9 +25,9 @@ const QString FirstRig = QStringLiteral("eight-mixed");
 
 Rig rigOf(const CommandLine& line) {
     if (line.cameraCount > 0) {
-        return Rig::standard(line.cameraCount);
+        return standardRig(line.cameraCount);
     }
-    return Rig::fromFile(line.rig.isEmpty() ? FirstRig : line.rig);
+    return readRig(line.rig.isEmpty() ? FirstRig : line.rig);
 }
 
 }  // namespace

@@ -1,6 +1,6 @@
 #include "JsonNode.h"
 
-#include "Rig.h"
+#include "RigError.h"
 
 #include <QFile>
 #include <QJsonArray>

@@ -2,7 +2,7 @@
 
 #include "Camera.h"
 #include "PlainState.h"
-#include "Rig.h"
+#include "RigFile.h"
 #include "ScenarioError.h"
 #include "SimHost.h"
 
@@ -13,11 +13,11 @@ CameraScripting::CameraScripting(SimHost& host, const QString& folder) : m_host(
 
 void CameraScripting::rig(const QJSValue& pathOrCount) {
     if (pathOrCount.isNumber()) {
-        m_host.setRig(Rig::standard(pathOrCount.toInt()));
+        m_host.setRig(standardRig(pathOrCount.toInt()));
         return;
     }
     const QString near = QDir(m_folder).filePath(pathOrCount.toString());
-    m_host.setRig(Rig::fromFile(QFileInfo(near).isFile() ? near : pathOrCount.toString()));
+    m_host.setRig(readRig(QFileInfo(near).isFile() ? near : pathOrCount.toString()));
 }
 
 QVariantList CameraScripting::keys() const {

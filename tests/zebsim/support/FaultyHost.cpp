@@ -1,7 +1,7 @@
 #include "FaultyHost.h"
 
 #include "Camera.h"
-#include "Rig.h"
+#include "RigFile.h"
 
 #include <stdexcept>
 
@@ -27,7 +27,7 @@ Answer ToldDesk::show(const Message& message) {
 }
 
 FaultyHost::FaultyHost(int cameras) : SimHost(stepped, desk, folder.filePath(QStringLiteral("prefs.ini"))) {
-    setRig(Rig::standard(cameras));
+    setRig(standardRig(cameras));
     for (Camera* camera : SimHost::cameras().all()) {
         camera->set(&CameraState::connected, true);
     }

@@ -36,8 +36,8 @@ protected:
     }
 
     static Rig rig() {
-        Rig rig = Rig::standard(2);
-        Rig fast = Rig::fromFile(QStringLiteral("eight-mixed"));
+        Rig rig = standardRig(2);
+        Rig fast = readRig(QStringLiteral("eight-mixed"));
         rig.devices.append(fast.devices.at(5));
         rig.devices.last().heads.first().triggerFrame = 98304;
         for (RigDevice& device : rig.devices) {

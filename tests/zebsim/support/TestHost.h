@@ -1,7 +1,7 @@
 #pragma once
 
 #include "Camera.h"
-#include "Rig.h"
+#include "RigFile.h"
 #include "ScriptedDesk.h"
 #include "SimHost.h"
 #include "SteppedClock.h"
@@ -25,7 +25,7 @@ std::string thrownBy(Work work) {
 
 /// A host without windows, with preferences of its own, on a clock that the test steps.
 struct TestHost {
-    explicit TestHost(const Rig& rig = Rig::standard(0)) {
+    explicit TestHost(const Rig& rig = standardRig(0)) {
         host.setRig(rig);
         while (host.updates().isPending()) {
             QCoreApplication::processEvents();

@@ -8,7 +8,6 @@
 #include <QString>
 
 #include <memory>
-#include <stdexcept>
 
 /// A device as a rig describes it.
 struct RigDevice {
@@ -32,17 +31,4 @@ struct RigHub {
 struct Rig {
     QList<RigDevice> devices;
     QList<RigHub> hubs;
-
-    /// Reads a rig file: a path, or the name of a rig that ships (as "eight-mixed"). Throws `RigError`.
-    static Rig fromFile(const QString& pathOrName);
-    /// `count` cameras of the model "standard", found and not connected, named "Camera 1" and so on.
-    static Rig standard(int count);
-    /// Names of the rigs that ship.
-    static QStringList names();
-};
-
-/// A rig or models file that can't be used. The text names the file and the member.
-class RigError : public std::runtime_error {
-public:
-    explicit RigError(const QString& text) : std::runtime_error(text.toStdString()) {}
 };

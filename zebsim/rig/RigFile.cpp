@@ -1,8 +1,9 @@
-#include "Rig.h"
+#include "RigFile.h"
 
 #include "JsonNode.h"
 #include "ModelCatalogue.h"
 #include "PlainState.h"
+#include "RigError.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -94,10 +95,10 @@ private:
 
 }  // namespace
 
-Rig Rig::fromFile(const QString& pathOrName) {
+Rig readRig(const QString& pathOrName) {
     ModelCatalogue models = ModelCatalogue::shipped();
     const QString path =
-        names().contains(pathOrName) ? QString(shippedFolder % pathOrName % QStringLiteral(".json")) : pathOrName;
+        shippedRigs().contains(pathOrName) ? QString(shippedFolder % pathOrName % QStringLiteral(".json")) : pathOrName;
     const JsonNode file = JsonNode::fromFile(path);
     file.allowOnly({QStringLiteral("models"), QStringLiteral("devices"), QStringLiteral("hubs")});
     if (file.has(QStringLiteral("models"))) {
@@ -116,7 +117,7 @@ Rig Rig::fromFile(const QString& pathOrName) {
     return rig;
 }
 
-Rig Rig::standard(int count) {
+Rig standardRig(int count) {
     const auto model = ModelCatalogue::shipped().find(QStringLiteral("standard"));
     Rig rig;
     for (int i = 0; i < count; ++i) {
@@ -128,7 +129,7 @@ Rig Rig::standard(int count) {
     return rig;
 }
 
-QStringList Rig::names() {
+QStringList shippedRigs() {
     // The catalogue brings the resources.
     ModelCatalogue::shipped();
     QStringList names;

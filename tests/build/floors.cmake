@@ -1,0 +1,32 @@
+# Every floor has a row among the wrong ways, and every source lies in a folder of a floor.
+cmake_minimum_required(VERSION 3.25)
+include(${LISTS})
+foreach(floor ${FLOORS})
+    if(NOT ROWS MATCHES "(^|;)${floor}_to_")
+        message(SEND_ERROR "${floor} has no row that shows its wall")
+    endif()
+endforeach()
+
+# Programs, libraries that are no floor, and the boundary.
+list(APPEND FOLDERS ${ROOT}/hostapi ${ROOT}/visa ${ROOT}/zebsim ${ROOT}/zebsim/offscreen ${ROOT}/zebsim/pages/images)
+
+# No source includes by a path: one that leads upwards, or from the root, would get around the walls.
+set(count 0)
+foreach(top hostapi webdialog sync table plugin zebsim visa)
+    file(GLOB_RECURSE sources ${ROOT}/${top}/*.h ${ROOT}/${top}/*.cpp)
+    foreach(source ${sources})
+        math(EXPR count "${count} + 1")
+        get_filename_component(folder ${source} DIRECTORY)
+        if(NOT folder IN_LIST FOLDERS)
+            message(SEND_ERROR "${source} lies in no floor")
+        endif()
+        file(STRINGS ${source} lines REGEX "^ *# *include *\"[^\"]*/")
+        foreach(line ${lines})
+            message(SEND_ERROR "${source} includes by a path: ${line}")
+        endforeach()
+    endforeach()
+endforeach()
+if(count EQUAL 0)
+    message(FATAL_ERROR "No sources under ${ROOT}")
+endif()
+message(STATUS "${count} files")
