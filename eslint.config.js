@@ -2,6 +2,9 @@
 
 // Page scripts run in a web view whose engine knows ES2015 and no more: what is newer must not slip in.
 
+const fs = require('fs');
+const path = require('path');
+
 const js = require('@eslint/js');
 
 const readonly = names => Object.assign({}, ...names.map(name => ({ [name]: 'readonly' })));
@@ -9,30 +12,19 @@ const readonly = names => Object.assign({}, ...names.map(name => ({ [name]: 'rea
 const browser = readonly(['window', 'document', 'location', 'Node', 'Event', 'MouseEvent', 'clearTimeout', '$',
     'jQuery', 'w2ui', 'w2utils']);
 
-// The topics of a page are joined into one script, so what one defines the others see.
-const table = readonly([
-    'wrentabledialog',
-    'wrentabledialog_obj', 'wrentabledialog_const_obj', 'wrentabledialog_column_obj', 'TABS',
-    'escapeMarkup', 'textKey', 'translate', 'parseReply', 'guarded', 'logged', 'onClick', 'isDisabled', 'onPress',
-    'onSwitch', 'textTip', 'closeTip', 'followTip', 'showElement', 'setText', 'setClass', 'setStyle',
-    'Cell', 'COLUMNS', 'isBatch', 'isOff', 'isOffOrBatch', 'isSteered', 'hasDropDowns', 'indexesOf', 'showChoice',
-    'plainColumn',
-    'DrawnRow', 'columnKind', 'GridView', 'LIVE', 'MEMORY', 'views', 'viewAt', 'viewOf', 'tabHeader',
-    'dropDown', 'listenToGrid', 'rowKeys', 'connectedKeys', 'controls',
-    'lowLightSlider', 'showSlider', 'sliderValue', 'sliderMax', 'markupOf',
-    'numberBox', 'showNumber', 'keepingFocus', 'caretOf', 'placeCaret', 'holdNumber', 'logUnused', 'isOutOfSight',
-    'linesToDraw',
-    'placeRows', 'refusePress'
-]);
+// What scripts that a page loads define for those that it loads too.
+const definedBy = (...scripts) => readonly(scripts.reduce((names, script) => names.concat(
+    Array.from(fs.readFileSync(script, 'utf8').matchAll(/^(?:var|let|const|function|class) (\w+)/gm), found => found[1])
+), []));
 
-const host = readonly(['zeb4func', 'plugin_obj', 'pluginIcons', 'SliderProperty',
-    'PREF_KEY_SAVE_STATUS_ONLIVEMEMORYMODE', 'PREF_VAL_SAVE_STATUS_DEFAULT', 'PREF_VAL_SAVE_STATUS_LAYOUT',
-    'PREF_KEY_WREN_SETTINGS_TABLE_COLOR_RECREADY', 'PREF_KEY_WREN_SETTINGS_TABLE_COLOR_RECORDING',
-    'PREF_KEY_WREN_SETTINGS_TABLE_COLOR_MEMORY',
-    ...['CAMERA_SETTINGS', 'CUSTOM_SETTINGS', 'EXTERNAL_SYNC', 'ALERT', 'LOCK', 'SYNC_STATUS', 'FRAMERATE', 'SHUTTER',
-        'RESOLUTION', 'TRIGGER_MODE', 'REDUCE_MODE', 'SYNC_TAB', 'IRIG_TAB', 'PLUGIN_TAB', 'MEMORYPLUGIN_TAB',
-        'RECORD_CHECK', 'RECORDED_FRAMERATE', 'RECORDED_STARTFRAME', 'RECORDED_ENDFRAME', 'TRIGGER_OFFSET'
-    ].map(name => 'PREF_KEY_WREN_DISPLAY_' + name)]);
+const hostScripts = 'zebsim/pages/scripts';
+const host = definedBy(...fs.readdirSync(hostScripts).map(name => path.join(hostScripts, name)));
+
+// The topics of a page are joined into one script at build time.
+const joined = 'build/dev/pages';
+const joinedScripts = fs.existsSync(joined) ? fs.readdirSync(joined).filter(name => name.endsWith('.js')) : [];
+const page = definedBy(...joinedScripts.map(name => path.join(joined, name)));
+const bridges = readonly(joinedScripts.map(name => path.basename(name, '.js')));
 
 // Calls of later editions that parse like any other.
 const missing = ['entries', 'values', 'fromEntries', 'getOwnPropertyDescriptors']
@@ -44,7 +36,6 @@ const missing = ['entries', 'values', 'fromEntries', 'getOwnPropertyDescriptors'
 const pageRules = {
     'no-undef': 'error',
     'no-unused-vars': ['error', { vars: 'local', args: 'after-used', caughtErrors: 'none' }],
-    // A topic defines what the list above tells the others.
     'no-redeclare': ['error', { builtinGlobals: false }],
     'no-restricted-properties': ['error', ...missing],
     'no-restricted-syntax': ['error', {
@@ -64,12 +55,28 @@ const pageRules = {
 };
 
 module.exports = [
-    { ignores: ['build/', 'node_modules/'] },
+    {
+        ignores: ['node_modules/', 'build/*', '!build/dev/', 'build/dev/*', `!${joined}/`, `${joined}/*`,
+            `!${joined}/*.js`]
+    },
     js.configs.recommended,
     {
+        // A topic alone: what it shares with the others is looked at where they are one.
         files: ['pages/**/*.js'],
-        languageOptions: { ecmaVersion: 2015, sourceType: 'script', globals: Object.assign({}, browser, host, table) },
-        rules: pageRules
+        languageOptions: { ecmaVersion: 2015, sourceType: 'script', globals: browser },
+        rules: Object.assign({}, pageRules, { 'no-undef': 'off' })
+    },
+    {
+        files: [`${joined}/*.js`],
+        languageOptions: {
+            ecmaVersion: 2015,
+            sourceType: 'script',
+            globals: Object.assign({}, browser, host, bridges)
+        },
+        rules: Object.assign({}, pageRules, {
+            'no-unused-vars': ['error', { vars: 'all', args: 'after-used', caughtErrors: 'none' }],
+            'max-lines': 'off'
+        })
     },
     {
         files: ['zebsim/pages/**/*.js'],
@@ -92,7 +99,7 @@ module.exports = [
         languageOptions: {
             ecmaVersion: 2015,
             sourceType: 'script',
-            globals: Object.assign({}, browser, table, readonly(['MutationObserver', 'bench']))
+            globals: Object.assign({}, browser, host, page, bridges, readonly(['MutationObserver', 'bench']))
         },
         rules: pageRules
     },

@@ -52,12 +52,12 @@ var probe = {
                 return bridge[name].apply(bridge, arguments);
             };
         }
-        window.wrentabledialog = counting;
+        window.wrentabledialog = window.bridge = counting;
         return made;
     },
 
     callsEnd() {
-        window.wrentabledialog = probe.bridge;
+        window.wrentabledialog = window.bridge = probe.bridge;
         return probe.made;
     },
 

@@ -4,6 +4,7 @@ COLUMNS.connectionStatus = {
     size: '5%',
     align: 'left',
     needs: [],
+    still: true,
     empty: record => isBatch(record) && record.recordCount < 1,
     markup: `<div class="flexWrapper" dockey>
         <a class="wren_button_connection_connect" part="on" id="wren_button_connection_connect_" dockey></a>
@@ -16,19 +17,49 @@ COLUMNS.connectionStatus = {
         cell.swap(Boolean(record.connected), 'on', 'off');
         cell.flag('on', 'disabled', disabled);
         cell.flag('off', 'disabled', disabled);
+    },
+    click({ view, row, cell }, part) {
+        const keys = rowKeys(view, row);
+        if (part === 'off') {
+            changeConnection(cell, keys, true, translate('Connecting'));
+        } else if (wrentabledialog.confirmDisconnect(keys)) {
+            changeConnection(cell, keys, false, translate('Disconnecting'));
+        }
     }
 };
+
+const PAINT_MS = 20; // by then the page has drawn what was changed
+
+function changeConnection(cell, keys, connect, message) {
+    const grid = wrentabledialog_obj.activeGrid();
+    const key = cell.key;
+    lockAtOnce(grid, message);
+    window.setTimeout(() => {
+        try {
+            guarded(() => {
+                wrentabledialog.connect(keys, connect);
+                if (cell.key === key) {
+                    cell.swap(connect, 'on', 'off');
+                }
+            });
+        } finally {
+            wrentabledialog_obj.releaseGrid(grid);
+        }
+    }, PAINT_MS);
+}
 
 COLUMNS.comment = {
     caption: () => translate('Comment'),
     size: '10%',
     align: 'left',
     needs: ['comment', 'comments'],
+    still: true,
     empty: isBatch,
     markup: '<div class="wren_cameraInfo_comment" part="comment" id="wren_cameraInfo_comment_" dockey></div>',
     tick(cell, record, status) {
         cell.text('comment', record.comment || '');
         cell.attribute('comment', 'comments', record.comments || '');
         cell.attribute('comment', 'cursorDisable', String(Boolean(record.lock) || status.disabled));
-    }
+    },
+    doubleClick: (view, key) => wrentabledialog_obj.editComment(view, key)
 };

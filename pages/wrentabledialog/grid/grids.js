@@ -79,41 +79,19 @@ Object.assign(wrentabledialog_obj, {
             views.forEach(view => view.grid.unlock());
             this.gridLock = false;
         }
+    },
+
+    // The grid unlocks from a timer of its own, so clicks that came while the page stood still meet the lock yet.
+    releaseGrid(grid) {
+        if (!this.gridLock) {
+            grid.unlock();
+        }
     }
 });
 
-// Texts that are longer than their place stand whole in a tip.
-let tipOwner = null;
-let tipText = () => '';
-
-function textTip(box, items, textOf) {
-    $(box).tooltip({
-        items,
-        content() {
-            return escapeMarkup(textOf(this));
-        },
-        open: event => {
-            tipOwner = event.originalEvent.target.closest(items);
-            tipText = textOf;
-        },
-        close: () => { tipOwner = null; },
-        hide: false
-    });
-}
-
-// Shows the text as it is by now.
-function followTip() {
-    const shown = document.querySelector('.ui-tooltip-content');
-    const text = shown && document.contains(tipOwner) ? tipText(tipOwner) : '';
-    if (text !== '') {
-        setText(shown, text);
-    } else {
-        closeTip();
-    }
-}
-
-function closeTip() {
-    if (tipOwner) {
-        $(tipOwner).trigger('mouseleave');
-    }
+// The grid's own `lock` waits for a timer and fades in, and a call that blocks the page comes before both.
+function lockAtOnce(grid, message) {
+    const box = grid.box.firstElementChild;
+    w2utils.lock(box, { msg: escapeMarkup(message), spinner: true });
+    $(box).find('.w2ui-lock, .w2ui-lock-msg').finish();
 }

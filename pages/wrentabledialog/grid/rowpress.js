@@ -9,8 +9,7 @@ Object.assign(wrentabledialog_obj, {
         }
         const row = view.rowOf(event.target);
         const cell = row && row.cellOf(event.target);
-        const selects = cell && row !== view.batch && !view.tab.still.includes(cell.field) &&
-            !event.target.closest('a[dockey]');
+        const selects = cell && row !== view.batch && !cell.kind.still && !event.target.closest('a[dockey]');
         this.rowPress = selects ? { view, key: row.key, target: event.target } : null;
         if (event.altKey || event.ctrlKey || event.shiftKey || event.metaKey) {
             view.grid.last.move = { type: 'expand' };

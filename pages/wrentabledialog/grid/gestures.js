@@ -1,22 +1,8 @@
 // What the user does in the cells. One listener a kind of event stands on each grid's box, in the capture phase.
 // The rows have no handler of their own, so nothing is bound anew when they are drawn.
 
-// class of a control -> what a click on it does; `keys` are those of the row, or of all rows for the batch row, and
-// `connected` those of connected rows only.
-const CLICKS = {
-    wren_button_connection_connect: (row, cell, keys) => wrentabledialog_obj.disconnectRows(cell, keys),
-    wren_button_connection_disconnect: (row, cell, keys) => wrentabledialog_obj.connectRows(cell, keys),
-    wren_button_lockStatus_lock: (row, cell, keys) => wrentabledialog_obj.lockRow(cell, keys, false),
-    wren_button_lockStatus_unlock: (row, cell, keys) => wrentabledialog_obj.lockRow(cell, keys, true),
-    wren_button_edit_camera_name: row => wrentabledialog_obj.editCamera(row.key),
-    reduceON: (row, cell, keys, connected) => wrentabledialog_obj.switchReduceMode(cell, connected, false),
-    reduceOFF: (row, cell, keys, connected) => wrentabledialog_obj.switchReduceMode(cell, connected, true),
-    lowlightON: (row, cell, keys, connected) => wrentabledialog_obj.switchLowLight(cell, connected, true),
-    lowlightOFF: (row, cell, keys, connected) => wrentabledialog_obj.switchLowLight(cell, connected, false)
-};
-
-const SLIDER_KEYS = [33, 34, 35, 36, 37, 38, 39, 40]; // page up and down, end, home, arrows
-const PAINT_MS = 20; // by then the page has drawn what was changed
+const SLIDER_KEYS = [KEY.PAGE_UP, KEY.PAGE_DOWN, KEY.END, KEY.HOME, KEY.LEFT, KEY.UP, KEY.RIGHT, KEY.DOWN];
+const OPENING_KEYS = [KEY.ENTER, KEY.SPACE, KEY.UP, KEY.DOWN];
 
 function listenToGrid(view) {
     const box = view.grid.box;
@@ -115,8 +101,8 @@ function onGridClick(view, event) {
             useControl(view, row, cell, control);
         }
     } else if (row === view.batch) {
-        if (cell && cell.field === 'cameraName') {
-            wrentabledialog_obj.selectAll();
+        if (cell && cell.kind.clickBatch) {
+            cell.kind.clickBatch();
         }
     } else {
         view.grid.click(row.recid, event);
@@ -124,26 +110,10 @@ function onGridClick(view, event) {
 }
 
 function useControl(view, row, cell, control) {
-    if (control.classList.contains('SumoSelect')) {
-        if (cell.choices.length > 0) {
-            openList(view, row, cell);
-        }
-        return;
+    const part = Object.keys(cell.parts).find(name => cell.parts[name] === control);
+    if (part && cell.kind.click) {
+        guarded(() => cell.kind.click({ view, row, cell }, part));
     }
-    const name = Array.from(control.classList).find(word => CLICKS[word]);
-    if (name) {
-        const connected = row === view.batch ? connectedKeys(view) : [row.key];
-        // To the bridge no keys would be all cameras, those of other groups too.
-        if (connected.length > 0 || !/reduce|lowlight/.test(name)) {
-            guarded(() => CLICKS[name](row, cell, rowKeys(view, row), connected));
-        }
-    }
-}
-
-function openList(view, row, cell) {
-    const up = row === view.batch || view.dropDownsBefore(row.index) >= 2;
-    const keys = rowKeys(view, row);
-    dropDown.open(cell, up, value => guarded(() => cell.kind.send(keys, value)));
 }
 
 // Space, Enter and the arrows open the list of the drop-down that has the focus. A slider knows its keys by itself.
@@ -161,14 +131,14 @@ function onGridKey(view, event) {
     const row = view.rowOf(event.target);
     const cell = row && row.cellOf(event.target);
     const closed = event.target.matches('.SumoSelect[dockey]:not(.disabled)');
-    if (cell && closed && [13, 32, 38, 40].includes(event.keyCode)) {
+    if (cell && closed && OPENING_KEYS.includes(event.keyCode)) {
         event.preventDefault();
         useControl(view, row, cell, event.target);
     }
 }
 
-// Enter, Page Up and Down and the arrows: they would change a camera that nobody sees. The first one shows it.
-const UNSEEN_KEYS = [13, 33, 34, 38, 40];
+// They would change a camera that nobody sees. The first one shows it.
+const UNSEEN_KEYS = [KEY.ENTER, KEY.PAGE_UP, KEY.PAGE_DOWN, KEY.UP, KEY.DOWN];
 
 // The widget does the rest. The engine takes Escape for a letter, so that the box would count as typed in once more.
 function onNumberKey(event) {
@@ -181,9 +151,9 @@ function onNumberKey(event) {
             return;
         }
     }
-    if (event.keyCode === 13) {
+    if (event.keyCode === KEY.ENTER) {
         numberBox.finish();
-    } else if (event.keyCode === 27) {
+    } else if (event.keyCode === KEY.ESCAPE) {
         event.preventDefault();
         numberBox.revert();
     } else if (event.keyCode === 65 && event.ctrlKey) { // the grid keeps texts from being marked
@@ -200,16 +170,9 @@ function onGridMove(view, event) {
     const row = view.rowOf(event.target);
     const cell = row && row.cellOf(event.target);
     // w2ui takes the batch row for the first one.
-    if (cell && (row === view.batch || view.tab.still.includes(cell.field))) {
+    if (cell && (row === view.batch || cell.kind.still)) {
         wrentabledialog_obj.preventSelect = true;
     }
-}
-
-// The grid's own `lock` waits for a timer and fades in, and a call that blocks the page comes before both.
-function lockAtOnce(grid, message) {
-    const box = grid.box.firstElementChild;
-    w2utils.lock(box, { msg: escapeMarkup(message), spinner: true });
-    $(box).find('.w2ui-lock, .w2ui-lock-msg').finish();
 }
 
 function rowKeys(view, row) {
@@ -228,65 +191,7 @@ function onGridDoubleClick(view, event) {
     }
     const row = view.rowOf(event.target);
     const cell = row && row.cellOf(event.target);
-    if (cell && cell.field === 'comment') {
-        guarded(() => wrentabledialog_obj.editComment(view, row.key));
+    if (cell && cell.kind.doubleClick) {
+        guarded(() => cell.kind.doubleClick(view, row.key));
     }
 }
-
-Object.assign(wrentabledialog_obj, {
-    disconnectRows(cell, keys) {
-        if (wrentabledialog.confirmDisconnect(keys)) {
-            this.changeConnection(cell, keys, false, textKey('Disconnecting'));
-        }
-    },
-
-    connectRows(cell, keys) {
-        this.changeConnection(cell, keys, true, textKey('Connecting'));
-    },
-
-    changeConnection(cell, keys, connect, message) {
-        const grid = this.activeGrid();
-        const key = cell.key;
-        lockAtOnce(grid, translate(message));
-        window.setTimeout(() => {
-            try {
-                guarded(() => {
-                    wrentabledialog.connect(keys, connect);
-                    if (cell.key === key) {
-                        cell.swap(connect, 'on', 'off');
-                    }
-                });
-            } finally {
-                this.releaseGrid(grid);
-            }
-        }, PAINT_MS);
-    },
-
-    // The grid unlocks from a timer of its own, so clicks that came while the page stood still meet the lock yet.
-    releaseGrid(grid) {
-        if (!this.gridLock) {
-            grid.unlock();
-        }
-    },
-
-    lockRow(cell, keys, lock) {
-        cell.swap(lock, 'locked', 'open');
-        wrentabledialog.setParamLock(keys, lock);
-    },
-
-    switchReduceMode(cell, keys, on) {
-        cell.swap(on, 'on', 'off');
-        wrentabledialog.setReduceMode(keys, on);
-    },
-
-    // The anchor that stands says what a click makes of it: the first one while the mode is off.
-    switchLowLight(cell, keys, on) {
-        cell.swap(!on, 'on', 'off');
-        wrentabledialog.setLowLight(keys, on);
-    },
-
-    editCamera(key) {
-        this.recordiconClick = true;
-        wrentabledialog.editDoc(key);
-    }
-});

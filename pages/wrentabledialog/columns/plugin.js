@@ -4,6 +4,7 @@ COLUMNS.plugin = {
     size: '50%',
     align: 'left',
     needs: ['plugins'],
+    still: true,
     empty: isOff,
     markup: `<div id="effects" dockey>
         <div class="flexWrapper wren_effect_icons" part="icons" id="wren_{short}_effect_icons_" dockey></div>

@@ -9,6 +9,7 @@ COLUMNS.recordCheck = {
     size: '10%',
     align: 'right',
     needs: ['check', 'totalFrame'],
+    still: true,
     empty: record => isOffOrBatch(record) || record.totalFrame < 1,
     markup: `<div class="flexWrapper" part="wrapper" dockey>
         <input type="checkbox" class="wren_checkbox_recordCheck" part="box" id="wren_{short}_recordCheck_" dockey>
@@ -36,6 +37,7 @@ function spinnerColumn(options) {
         align: 'left',
         send: options.send,
         needs: options.needs.concat('totalFrame'),
+        still: true,
         empty: record => isOff(record) || !record.totalFrame,
         markup: `<input type="text" class="spinner" part="input" id="wren_spinner_${options.word}" dockey>`,
         rebuild(cell, record) {

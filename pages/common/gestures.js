@@ -1,35 +1,13 @@
+// What the user does to a page, and what becomes of it: an action that fails is shown, a press that is not taken too.
+const KEY = $.ui.keyCode;
 const REFUSAL_MS = 800; // for so long a button shows that it did not take a press
-
-// Texts from cameras, files and users are text. Where one must pass through markup, it passes through here.
-function escapeMarkup(text) {
-    return String(text).replace(/[&<>"'`]/g, letter => `&#${letter.charCodeAt(0)};`);
-}
-
-// A key of the catalogues that is kept, or that another translates. It marks the text for `lupdate`.
-function textKey(key) {
-    return key;
-}
-
-function translate(key) {
-    return wrentabledialog.translate(key);
-}
-
-// The data of a JSON reply; null when it is not an object.
-function parseReply(text) {
-    try {
-        const data = JSON.parse(text);
-        return typeof data === 'object' ? data : null;
-    } catch (error) {
-        return null;
-    }
-}
 
 // Runs an action of the user; what it throws is shown.
 function guarded(action) {
     try {
         return action();
     } catch (error) {
-        wrentabledialog.alert(textOfError(error));
+        bridge.alert(textOfError(error));
         return undefined;
     }
 }
@@ -81,41 +59,16 @@ function logged(action) {
         action();
     } catch (error) {
         const line = error && error.line ? ` (line ${error.line})` : '';
-        wrentabledialog.userOperationErrorLog(textOfError(error) + line);
+        bridge.userOperationErrorLog(textOfError(error) + line);
     }
 }
 
 // A line in the log for what the user did that came to nothing.
 function logUnused(how, control, id, value) {
-    wrentabledialog.userOperationLogWebView(document.URL, how, control, id, '', value);
+    bridge.userOperationLogWebView(document.URL, how, control, id, '', value);
 }
 
 // Anything can be thrown, null too.
 function textOfError(error) {
     return error && error.message ? error.message : String(error);
-}
-
-// Writes to elements that other code writes too: only where the element differs.
-function showElement(element, shown) {
-    if (element.hidden === shown) {
-        element.hidden = !shown;
-    }
-}
-
-function setText(node, text) {
-    if (node.textContent !== text) {
-        node.textContent = text;
-    }
-}
-
-function setClass(element, names) {
-    if (element.className !== names) {
-        element.className = names;
-    }
-}
-
-function setStyle(element, name, value) {
-    if (element.style[name] !== value) {
-        element.style[name] = value;
-    }
 }

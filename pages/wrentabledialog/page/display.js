@@ -1,28 +1,31 @@
 // What the display keys show and hide.
 
-// key -> the column it shows on the tabs named, the tab whose header it shows, or the block.
+// A display key -> the column it shows on the tabs named, the tab whose header it shows, or the block; in the order of
+// their boxes.
 const DISPLAY = {
-    [PREF_KEY_WREN_DISPLAY_CAMERA_SETTINGS]: { block: 'camera_setting_container' },
-    [PREF_KEY_WREN_DISPLAY_CUSTOM_SETTINGS]: { block: 'custom_info_container' },
-    [PREF_KEY_WREN_DISPLAY_EXTERNAL_SYNC]: {}, // that area has its own test
-    [PREF_KEY_WREN_DISPLAY_ALERT]: { field: 'alert', tabs: LIVE.concat(MEMORY) },
-    [PREF_KEY_WREN_DISPLAY_LOCK]: { field: 'lock', tabs: LIVE },
-    [PREF_KEY_WREN_DISPLAY_SYNC_STATUS]: { field: 'sync', tabs: LIVE },
-    [PREF_KEY_WREN_DISPLAY_FRAMERATE]: { field: 'frameRate', tabs: [1] },
-    [PREF_KEY_WREN_DISPLAY_SHUTTER]: { field: 'shutterSpeed', tabs: [1] },
-    [PREF_KEY_WREN_DISPLAY_RESOLUTION]: { field: 'resolution', tabs: [1] },
-    [PREF_KEY_WREN_DISPLAY_TRIGGER_MODE]: { field: 'trigger', tabs: [1] },
-    [PREF_KEY_WREN_DISPLAY_REDUCE_MODE]: { field: 'reduce', tabs: [1] },
-    [PREF_KEY_WREN_DISPLAY_SYNC_TAB]: { header: 2 },
-    [PREF_KEY_WREN_DISPLAY_IRIG_TAB]: { header: 3 },
-    [PREF_KEY_WREN_DISPLAY_PLUGIN_TAB]: { header: 4 },
-    [PREF_KEY_WREN_DISPLAY_MEMORYPLUGIN_TAB]: { header: 6 },
-    [PREF_KEY_WREN_DISPLAY_RECORD_CHECK]: { field: 'recordCheck', tabs: MEMORY },
-    [PREF_KEY_WREN_DISPLAY_RECORDED_FRAMERATE]: { field: 'frameRate', tabs: [5] },
-    [PREF_KEY_WREN_DISPLAY_RECORDED_STARTFRAME]: { field: 'originalStartFrameNo', tabs: [5] },
-    [PREF_KEY_WREN_DISPLAY_RECORDED_ENDFRAME]: { field: 'originalEndFrameNo', tabs: [5] },
-    [PREF_KEY_WREN_DISPLAY_TRIGGER_OFFSET]: { field: 'triggerOffset', tabs: [5] }
+    'wren/display/cameraSettings': { block: 'camera_setting_container' },
+    'wren/display/customSettings': { block: 'custom_info_container' },
+    'wren/display/externalSync': {}, // that area has its own test
+    'wren/display/alert': { field: 'alert', tabs: LIVE.concat(MEMORY) },
+    'wren/display/lock': { field: 'lock', tabs: LIVE },
+    'wren/display/syncStatus': { field: 'sync', tabs: LIVE },
+    'wren/display/frameRate': { field: 'frameRate', tabs: [1] },
+    'wren/display/shutterSpeed': { field: 'shutterSpeed', tabs: [1] },
+    'wren/display/resolution': { field: 'resolution', tabs: [1] },
+    'wren/display/triggerMode': { field: 'trigger', tabs: [1] },
+    'wren/display/reduceMode': { field: 'reduce', tabs: [1] },
+    'wren/display/syncTab': { header: 2 },
+    'wren/display/irigTab': { header: 3 },
+    'wren/display/pluginTab': { header: 4 },
+    'wren/display/memoryPluginTab': { header: 6 },
+    'wren/display/recordCheck': { field: 'recordCheck', tabs: MEMORY },
+    'wren/display/recordedFrameRate': { field: 'frameRate', tabs: [5] },
+    'wren/display/recordedStartFrame': { field: 'originalStartFrameNo', tabs: [5] },
+    'wren/display/recordedEndFrame': { field: 'originalEndFrameNo', tabs: [5] },
+    'wren/display/triggerOffset': { field: 'triggerOffset', tabs: [5] }
 };
+
+wrentabledialog_const_obj.displaySettingsArray = Object.keys(DISPLAY);
 
 Object.assign(wrentabledialog_obj, {
     // Whether the display keys let a tab show a column.

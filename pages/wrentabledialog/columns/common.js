@@ -14,6 +14,7 @@ COLUMNS.lock = {
     size: '5%',
     align: 'right',
     needs: ['lock', 'lowLightMode'],
+    still: true,
     empty: record => isOffOrBatch(record) || record.lowLightMode,
     markup: `<div class="flexWrapper" part="wrapper" dockey>
         <a class="wren_button_lockStatus_lock" part="locked" id="wren_{short}_button_lockStatus_lock_" dockey></a>
@@ -24,6 +25,11 @@ COLUMNS.lock = {
         cell.swap(Boolean(record.lock), 'locked', 'open');
         cell.flag('locked', 'disabled', status.disabled);
         cell.flag('open', 'disabled', status.disabled);
+    },
+    click({ view, row, cell }, part) {
+        const lock = part === 'open';
+        cell.swap(lock, 'locked', 'open');
+        wrentabledialog.setParamLock(rowKeys(view, row), lock);
     }
 };
 
@@ -64,7 +70,12 @@ COLUMNS.cameraName = {
     tick(cell, record, status) {
         cell.flag('edit', 'disabled', Boolean(record.lock) || status.disabled);
         cell.attribute('label', 'cursorDisable', String(status.disabled));
-    }
+    },
+    click({ row }) {
+        wrentabledialog_obj.recordiconClick = true;
+        wrentabledialog.editDoc(row.key);
+    },
+    clickBatch: () => wrentabledialog_obj.selectAll()
 };
 
 // A picture that the style sheet chooses by the attributes of the element.

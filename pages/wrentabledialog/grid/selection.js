@@ -90,7 +90,7 @@ Object.assign(wrentabledialog_obj, {
         event.preventDefault();
         const view = viewAt(tab.number);
         const column = view.grid.columns[event.column];
-        if (!column || !tab.still.includes(column.field)) {
+        if (!column || !columnKind(tab, column.field).still) {
             this.pickRow(view.grid, view.grid.get(event.recid, true), event.originalEvent);
             this.handGesture(view);
         }

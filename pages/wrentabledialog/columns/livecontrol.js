@@ -17,6 +17,7 @@ function dropDownColumn(options) {
         value: options.value,
         send: options.send,
         needs: options.needs,
+        still: true,
         empty: isOff,
         markup: `<div class="SumoSelect compact" part="frame" dockey>
             <select class="${name} SumoUnder" part="select" id="${name}_" tabindex="-1" dockey>
@@ -36,8 +37,17 @@ function dropDownColumn(options) {
             cell.attribute('frame', 'tabindex', disabled ? '-1' : '0');
             cell.flag('select', 'disabled', disabled);
         },
-        leave: cell => dropDown.closeOf(cell)
+        leave: cell => dropDown.closeOf(cell),
+        click: openList
     };
+}
+
+function openList({ view, row, cell }) {
+    const up = row === view.batch || view.dropDownsBefore(row.index) >= 2;
+    const keys = rowKeys(view, row);
+    if (cell.choices.length > 0) {
+        dropDown.open(cell, up, value => guarded(() => cell.kind.send(keys, value)));
+    }
 }
 
 // Shows the choice of that value. One that is not in the list, or none, empties the caption at a full refresh only.
@@ -100,6 +110,7 @@ COLUMNS.reduce = {
     size: '60px',
     align: 'center',
     needs: ['lock', 'reduceModeSupported', 'reduceMode'],
+    still: true,
     empty: record => isOff(record) || record.reduceModeSupported === false,
     markup() {
         const priority = escapeMarkup(translate('_Priority'));
@@ -116,8 +127,24 @@ COLUMNS.reduce = {
         cell.swap(Boolean(record.reduceMode), 'on', 'off');
         cell.flag('on', 'disabled', disabled);
         cell.flag('off', 'disabled', disabled);
+    },
+    click(place, part) {
+        const on = part === 'off';
+        withConnected(place, keys => {
+            place.cell.swap(on, 'on', 'off');
+            wrentabledialog.setReduceMode(keys, on);
+        });
     }
 };
+
+// A change of the cameras of a row that are connected. To the bridge no keys would be all cameras, those of other
+// groups too.
+function withConnected({ view, row }, change) {
+    const keys = row === view.batch ? connectedKeys(view) : [row.key];
+    if (keys.length > 0) {
+        change(keys);
+    }
+}
 
 // The container is no `div`: for one of those the library asks for the element before it, and so the engine would work
 // out everything in it again whenever a button before it changes.
@@ -126,6 +153,7 @@ COLUMNS.lowlight = {
     size: '200px',
     align: 'left',
     needs: ['lock', 'lowLightMode', 'lowLightType', 'shutterSpeeds', 'shutterSpeed'],
+    still: true,
     empty: isOff,
     markup() {
         const [on, dark, bright] = [translate('ON'), translate('dark'), translate('bright')].map(escapeMarkup);
@@ -160,6 +188,14 @@ COLUMNS.lowlight = {
         cell.flag('off', 'disabled', disabled);
         cell.flag('slider', 'disabled', still);
         cell.attribute('handle', 'tabindex', still ? '-1' : '0');
+    },
+    // The button that stands says what a click makes of it: the first one while the mode is off.
+    click(place, part) {
+        const on = part === 'on';
+        withConnected(place, keys => {
+            place.cell.swap(!on, 'on', 'off');
+            wrentabledialog.setLowLight(keys, on);
+        });
     }
 };
 

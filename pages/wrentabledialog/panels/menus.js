@@ -33,15 +33,20 @@ Object.assign(wrentabledialog_obj, {
         const list = document.querySelector('.miscfuncs ul:not([hidden])');
         const entries = list ? Array.from(list.querySelectorAll('a')) : [];
         const now = entries.indexOf(document.activeElement);
-        const next = { 35: entries.length - 1, 36: 0, 38: Math.max(now, 0) - 1, 40: now + 1 }[event.keyCode];
+        const next = {
+            [KEY.END]: entries.length - 1,
+            [KEY.HOME]: 0,
+            [KEY.UP]: Math.max(now, 0) - 1,
+            [KEY.DOWN]: now + 1
+        }[event.keyCode];
         if (list && next !== undefined) {
             const entry = entries[(next + entries.length) % entries.length];
             entry.tabIndex = -1; // so that it can have the focus
             entry.focus();
-        } else if (now >= 0 && event.keyCode === 13) {
+        } else if (now >= 0 && event.keyCode === KEY.ENTER) {
             list.previousElementSibling.focus();
             entries[now].click();
-        } else if (event.keyCode === 27 && document.querySelector('p.dummy')) {
+        } else if (event.keyCode === KEY.ESCAPE && document.querySelector('p.dummy')) {
             if (list) {
                 list.previousElementSibling.focus();
             }
