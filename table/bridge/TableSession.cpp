@@ -4,6 +4,7 @@
 #include "ConnectedDocs.h"
 #include "DOC_Interface.h"
 #include "DOC_Lock.h"
+#include "DefaultSettings.h"
 #include "DocKeys.h"
 #include "DocumentGuard.h"
 #include "MemoryEditing.h"

@@ -1,5 +1,6 @@
 #include "ParameterEditing.h"
 
+#include "AllowedValues.h"
 #include "ChangeableDocs.h"
 #include "DOC_Control.h"
 #include "DOC_Lock.h"

@@ -1,15 +1,15 @@
 #pragma once
 
-#include "DefaultSettings.h"
 #include "ZebTypes.h"
 
 #include <QString>
 
 #include <functional>
 
-struct SharedParameter;
 class GatheredFailures;
 class ZebHost;
+struct AllowedValues;
+struct SharedParameter;
 
 /// Changes parameters of many cameras at once: one call of the host for all of them. A locked camera keeps its
 /// parameters. In live mode only. `val` is a value that the table has offered; nothing happens for an empty one. May

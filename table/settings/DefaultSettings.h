@@ -1,28 +1,16 @@
 #pragma once
 
+#include "AllowedValues.h"
 #include "CameraGroup.h"
+#include "RecordAreas.h"
 
 #include <QList>
-#include <QMap>
-#include <QPair>
 #include <QString>
 #include <QStringList>
 
 #include <optional>
 
 class ZebHost;
-
-/// Values to which the default settings limit what a camera offers; an empty list limits nothing.
-struct AllowedValues {
-    /// Decimal texts.
-    QStringList frameRates;
-    QStringList shutterSpeeds;
-    /// Texts as "1280 x 800".
-    QStringList resolutions;
-};
-
-/// First and last frame of a recording, by the record rate in frames a second.
-using RecordAreas = QMap<int, QPair<int, int>>;
 
 /// What the default settings say of the table as a whole.
 struct DefaultSettings {

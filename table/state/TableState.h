@@ -1,6 +1,8 @@
 #pragma once
 
-#include "DefaultSettings.h"
+#include "AllowedValues.h"
+#include "CameraGroup.h"
+#include "RecordAreas.h"
 #include "SyncState.h"
 #include "ZebTypes.h"
 
