@@ -8,7 +8,6 @@
 #include "DocKeys.h"
 #include "DocumentGuard.h"
 #include "GUI_ProgressDialog.h"
-#include "GUI_WrenTableDialog.h"
 #include "GatheredFailures.h"
 #include "LogFailure.h"
 #include "MemoryEditing.h"
@@ -19,6 +18,7 @@
 #include "RecordModel.h"
 #include "SyncSettings.h"
 #include "TableSession.h"
+#include "TableView.h"
 #include "TextKey.h"
 #include "TraceScope.h"
 #include "TraceText.h"
@@ -31,6 +31,7 @@
 #include "ZebSignalDevices.h"
 
 #include <QCoreApplication>
+#include <QDialog>
 #include <QJsonDocument>
 #include <QJsonObject>
 
@@ -206,24 +207,24 @@ QString JS_Mediator_WrenTableDialog::getCurrentPartitionName() {
 
 void JS_Mediator_WrenTableDialog::showLivePartition(int x, int y, int width, int height) {
     bridgeCall(*this, [&] {
-        if (GUI_WrenTableDialog* dialog = tableDialog()) {
-            dialog->showPartitionBox({x, y, width, height});
+        if (TableView* table = tableView()) {
+            table->showPartitionBox({x, y, width, height});
         }
     });
 }
 
 void JS_Mediator_WrenTableDialog::hideSelectBox() {
     bridgeCall(*this, [this] {
-        if (GUI_WrenTableDialog* dialog = tableDialog()) {
-            dialog->hidePartitionBox();
+        if (TableView* table = tableView()) {
+            table->hidePartitionBox();
         }
     });
 }
 
 bool JS_Mediator_WrenTableDialog::isShownSelectBox() {
     return queryCall(*this, __func__, false, [this] {
-        const GUI_WrenTableDialog* dialog = tableDialog();
-        return dialog != nullptr && dialog->isPartitionBoxShown();
+        const TableView* table = tableView();
+        return table != nullptr && table->isPartitionBoxShown();
     });
 }
 
@@ -394,7 +395,7 @@ bool JS_Mediator_WrenTableDialog::checkDifferenceRecordRateAndExternalFrequency(
 void JS_Mediator_WrenTableDialog::record() {
     traced("record", {}, [this] {
         try {
-            RecordButton(host(), m_state, tableDialog()).press([this] { return _setSyncSettings(); });
+            RecordButton(host(), m_state, tableWindow()).press([this] { return _setSyncSettings(); });
         } catch (...) {
             m_state.recordRunning = false;
             throw;
@@ -403,7 +404,7 @@ void JS_Mediator_WrenTableDialog::record() {
 }
 
 void JS_Mediator_WrenTableDialog::cancelRecord() {
-    operation("cancelRecord", {}, [this] { RecordButton(host(), m_state, tableDialog()).cancel(); });
+    operation("cancelRecord", {}, [this] { RecordButton(host(), m_state, tableWindow()).cancel(); });
 }
 
 void JS_Mediator_WrenTableDialog::setTriggerTesting(bool value) {
@@ -514,13 +515,18 @@ void JS_Mediator_WrenTableDialog::slotSelectForUpdate() {
 }
 
 /// Null while there is none, as in the constructor.
-GUI_WrenTableDialog* JS_Mediator_WrenTableDialog::tableDialog() const {
+TableView* JS_Mediator_WrenTableDialog::tableView() const {
     PLG_Interface* wren = host().appStatus().getPlugin(QStringLiteral("wren"));
-    return wren != nullptr ? qobject_cast<GUI_WrenTableDialog*>(wren->getDialog(false)) : nullptr;
+    return wren != nullptr ? dynamic_cast<TableView*>(wren->getDialog(false)) : nullptr;
+}
+
+QWidget* JS_Mediator_WrenTableDialog::tableWindow() const {
+    TableView* table = tableView();
+    return table != nullptr ? &table->widget() : nullptr;
 }
 
 void JS_Mediator_WrenTableDialog::activateTable() {
-    if (GUI_WrenTableDialog* dialog = tableDialog()) {
-        dialog->activateWindow();
+    if (QWidget* window = tableWindow()) {
+        window->activateWindow();
     }
 }

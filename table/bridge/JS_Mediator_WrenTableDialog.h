@@ -7,7 +7,7 @@
 #include <QPointer>
 
 class GUI_ProgressDialog;
-class GUI_WrenTableDialog;
+class TableView;
 
 /// What the page of the table can ask and do: one slot a request. GUI thread.
 ///
@@ -133,7 +133,8 @@ private:
     void openSession();
     void closeSession();
     bool _setSyncSettings();
-    GUI_WrenTableDialog* tableDialog() const;
+    TableView* tableView() const;
+    QWidget* tableWindow() const;
     void activateTable();
 
     TableState m_state;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "GUI_ModelessPatternDialog.h"
+#include "TableView.h"
 
 #include <memory>
 
@@ -8,7 +9,7 @@ class GUI_SelectBox;
 class JS_Mediator_WrenTableDialog;
 
 /// The window of the camera table. It opens where it was closed. GUI thread.
-class GUI_WrenTableDialog : public GUI_ModelessPatternDialog {
+class GUI_WrenTableDialog : public GUI_ModelessPatternDialog, public TableView {
     Q_OBJECT
 
 public:
@@ -17,10 +18,10 @@ public:
                         PLG_Interface* plugin);
     ~GUI_WrenTableDialog() override;
 
-    /// The list of partitions floats beside `anchor`, in the pixels of the page. Throws what the cameras throw.
-    void showPartitionBox(const QRect& anchor);
-    void hidePartitionBox();
-    bool isPartitionBoxShown() const;
+    void showPartitionBox(const QRect& anchor) override;
+    void hidePartitionBox() override;
+    bool isPartitionBoxShown() const override;
+    QWidget& widget() override { return *this; }
 
     /// Sends the number that the user is typing, who may type on; nothing when he is not. It may end in a question.
     void finishTyping();
