@@ -1,5 +1,6 @@
 #include "SyncSettings.h"
 
+#include "BridgeCall.h"
 #include "ConnectedDocs.h"
 #include "DOC_Control.h"
 #include "DOC_Interface.h"
@@ -98,7 +99,20 @@ SyncView SyncSettings::look() {
     return view;
 }
 
-SyncSettings::Outcome SyncSettings::synchronise() {
+bool SyncSettings::synchronise(JS_Mediator& bridge) {
+    bool handedOver = false;
+    bridgeCall(bridge, [&] {
+        const TraceScope scope(QStringLiteral("JS_Mediator_WrenTableDialog::_setSyncSettings"));
+        const Outcome outcome = handOver();
+        handedOver = outcome != Outcome::NotStarted;
+        if (outcome == Outcome::Done) {
+            remindOfWiring();
+        }
+    });
+    return handedOver;
+}
+
+SyncSettings::Outcome SyncSettings::handOver() {
     if (!syncprefs::isInUse(m_host)) {
         return Outcome::NotStarted;
     }

@@ -6,6 +6,7 @@
 
 #include <QString>
 
+class JS_Mediator;
 struct SyncState;
 
 /// What the table shows of the common signal.
@@ -31,14 +32,17 @@ public:
     /// Asks host and sources; may throw what they throw. A frequency that the source makes becomes the chosen one.
     SyncView look();
 
-    enum class Outcome { NotStarted, Failed, Done };
-    /// Looks whether the cameras are fit for it, connects the source of the signal, and hands the cameras over; runs an
-    /// event loop meanwhile. `Failed`: the host has told the user why. Throws before anything is changed on a camera.
-    Outcome synchronise();
-    /// Reminds the user of the wiring, until the user has had enough of it. May throw what the host throws.
-    void remindOfWiring();
+    /// Puts the cameras on the signal, as a call of `bridge` of its own: looks whether they are fit for it, connects
+    /// the source of the signal, hands them over and reminds the user of the wiring. Runs an event loop meanwhile.
+    /// Whether they were handed over, whatever came then; the user has been told what went wrong. Does not throw.
+    bool synchronise(JS_Mediator& bridge);
 
 private:
+    enum class Outcome { NotStarted, Failed, Done };
+    /// `Failed`: the host has told the user why. Throws before anything is changed on a camera.
+    Outcome handOver();
+    /// Until the user has had enough of it.
+    void remindOfWiring();
     /// Whether the host takes these cameras; never none.
     bool canSync(const DocList& docs) const;
     SYNC_PARAMS readParams() const;

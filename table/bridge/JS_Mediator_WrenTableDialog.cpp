@@ -353,22 +353,7 @@ QString JS_Mediator_WrenTableDialog::getSyncSettings() {
 
 bool JS_Mediator_WrenTableDialog::setSyncSettings() {
     bool handedOver = false;
-    traced("setSyncSettings", {}, [&] { handedOver = _setSyncSettings(); });
-    return handedOver;
-}
-
-/// Reports its own failure: once the cameras were handed over, it answers true whatever comes then.
-bool JS_Mediator_WrenTableDialog::_setSyncSettings() {
-    bool handedOver = false;
-    bridgeCall(*this, [&] {
-        const TraceScope scope(methodName("_setSyncSettings"));
-        SyncSettings settings(host(), m_state.sync);
-        const SyncSettings::Outcome outcome = settings.synchronise();
-        handedOver = outcome != SyncSettings::Outcome::NotStarted;
-        if (outcome == SyncSettings::Outcome::Done) {
-            settings.remindOfWiring();
-        }
-    });
+    traced("setSyncSettings", {}, [&] { handedOver = SyncSettings(host(), m_state.sync).synchronise(*this); });
     return handedOver;
 }
 
@@ -395,7 +380,7 @@ bool JS_Mediator_WrenTableDialog::checkDifferenceRecordRateAndExternalFrequency(
 void JS_Mediator_WrenTableDialog::record() {
     traced("record", {}, [this] {
         try {
-            RecordButton(host(), m_state, tableWindow()).press([this] { return _setSyncSettings(); });
+            RecordButton(*this, host(), m_state, tableWindow()).press();
         } catch (...) {
             m_state.recordRunning = false;
             throw;
@@ -404,7 +389,7 @@ void JS_Mediator_WrenTableDialog::record() {
 }
 
 void JS_Mediator_WrenTableDialog::cancelRecord() {
-    operation("cancelRecord", {}, [this] { RecordButton(host(), m_state, tableWindow()).cancel(); });
+    operation("cancelRecord", {}, [this] { RecordButton(*this, host(), m_state, tableWindow()).cancel(); });
 }
 
 void JS_Mediator_WrenTableDialog::setTriggerTesting(bool value) {

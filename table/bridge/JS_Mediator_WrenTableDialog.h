@@ -132,7 +132,6 @@ private:
 
     void openSession();
     void closeSession();
-    bool _setSyncSettings();
     TableView* tableView() const;
     QWidget* tableWindow() const;
     void activateTable();

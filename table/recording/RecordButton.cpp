@@ -24,7 +24,7 @@
 
 #include <QMessageBox>
 
-void RecordButton::press(const std::function<bool()>& synchronise) {
+void RecordButton::press() {
     if (!m_host.isLiveMode()) {
         return;
     }
@@ -42,7 +42,7 @@ void RecordButton::press(const std::function<bool()>& synchronise) {
             return;
     }
     GatheredFailures failures;
-    if (areCamerasLocked() && userTakesProblems() && prepareSignal(synchronise, failures) && canArm()) {
+    if (areCamerasLocked() && userTakesProblems() && prepareSignal(failures) && canArm()) {
         clearRecordChecks(m_host, failures);
         setAreas(failures);
         try {
@@ -145,14 +145,16 @@ bool RecordButton::userTakesProblems() {
     return UTL_Messages::warnOkCancel(lines.join(QLatin1Char('\n')), m_host, m_parent, buttons) && canArm();
 }
 
-bool RecordButton::prepareSignal(const std::function<bool()>& synchronise, GatheredFailures& failures) {
+/// False when the cameras should go on the common signal and were not handed over.
+bool RecordButton::prepareSignal(GatheredFailures& failures) {
     if (!syncprefs::isInUse(m_host)) {
         return true;
     }
     if (m_host.getPrefBool(QStringLiteral("wren/settings/recordingSync"))) {
         m_host.docManager().selectAllDocs(nullptr);
-        const SyncView view = SyncSettings(m_host, m_state.sync).look();
-        if (view.inUse && view.executable && !synchronise()) {
+        SyncSettings settings(m_host, m_state.sync);
+        const SyncView view = settings.look();
+        if (view.inUse && view.executable && !settings.synchronise(m_bridge)) {
             return false;
         }
     }

@@ -5,9 +5,8 @@
 #include <QPointer>
 #include <QWidget>
 
-#include <functional>
-
 class GatheredFailures;
+class JS_Mediator;
 class ZebHost;
 struct TableState;
 
@@ -18,13 +17,13 @@ struct TableState;
 /// setting.
 class RecordButton {
 public:
-    /// `parent` of the questions; null is the host's main window.
-    RecordButton(ZebHost& host, TableState& state, QWidget* parent) : m_host(host), m_state(state), m_parent(parent) {}
+    /// `bridge` of the page that has the button. `parent` of the questions; null is the host's main window.
+    RecordButton(JS_Mediator& bridge, ZebHost& host, TableState& state, QWidget* parent)
+        : m_bridge(bridge), m_host(host), m_state(state), m_parent(parent) {}
 
     /// By the state of the recording it arms, triggers or stops. Before it arms it looks whether every camera is locked
-    /// and fit and asks the user what to do with the problems. `synchronise` puts the cameras on the common signal;
-    /// false: they were not handed over, and nothing is armed.
-    void press(const std::function<bool()>& synchronise);
+    /// and fit, asks the user what to do with the problems, and puts the cameras on the common signal.
+    void press();
     void cancel();
 
 private:
@@ -35,11 +34,12 @@ private:
     bool areCamerasLocked();
     bool userTakesProblems();
     QStringList problems();
-    bool prepareSignal(const std::function<bool()>& synchronise, GatheredFailures& failures);
+    bool prepareSignal(GatheredFailures& failures);
     void setAreas(GatheredFailures& failures);
     void arm();
     void tell(const GatheredFailures& failures);
 
+    JS_Mediator& m_bridge;
     ZebHost& m_host;
     TableState& m_state;
     const QPointer<QWidget> m_parent;
