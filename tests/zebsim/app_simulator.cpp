@@ -44,7 +44,7 @@ TEST_F(ViewerTest, DrawsItselfWhileAllThatPluginsAskFails) {
         EXPECT_TRUE(record->isEnabled());
         record->trigger();
         EXPECT_EQ(host.recorder().state(), zeb::RecordReady);
-        host.tell(Message::Info, "a box");
+        host.messages().tell(Message::Info, "a box");
         simulator.quit();
     });
     EXPECT_EQ(simulator.run([] {}), 0);

@@ -20,7 +20,7 @@ QString contentOf(const QString& path) {
 QSet<QString> inSources(const QStringList& rooms, const char* begin) {
     QSet<QString> names;
     for (const QString& room : rooms) {
-        QDirIterator files(QStringLiteral(SOURCE_FOLDER "/zebsim/") + room, {"*.cpp"}, QDir::Files,
+        QDirIterator files(QStringLiteral(SOURCE_FOLDER "/zebsim/") + room, {"*.cpp", "*.h"}, QDir::Files,
                            QDirIterator::Subdirectories);
         while (files.hasNext()) {
             const QString text = contentOf(files.next());
@@ -43,7 +43,8 @@ TEST(FaultOperations, NameEveryOperationThatCanFailAndStandInTheManual) {
                    R"re((?<!calls\.)\b(?:command|commandConnected|ask\w*)\("(\w+)")re")},
         {"a Sync Hub", hubOperations(), inSources({"signals"}, R"re((?:(?<!calls\.)ask\w*\(|m_key, )"(\w+)")re")},
         {"the host", hostOperations(),
-         inSources({"host", "signals", "app"}, R"re((?:calls(?:\(\))?\.ask\("|(?<!note\()"Zeb\w+::)(\w+)")re")},
+         inSources({"host", "signals", "app"},
+                   R"re((?:(?:calls(?:\(\))?\.ask|pluginBox|Prefs\.get)\("|(?<!note\()"Zeb\w+::)(\w+)")re")},
     };
     const QString manual = contentOf(QStringLiteral(SOURCE_FOLDER "/docs/scenarios.md"));
     const QStringList states = StatusFlags().names();

@@ -109,7 +109,7 @@ TEST_F(Messages, AFaultIsMetByTheCallThatItIsPlantedOn) {
     EXPECT_EQ(failing(), QList<int>{2});
     host.faults().plant(FaultPlan::Host, QStringLiteral("*"), fault);
     EXPECT_EQ(failing(), (QList<int>{0, 1, 2, 3, 4, 5, 7}));
-    EXPECT_NO_THROW(host.tell(Message::Info, QStringLiteral("the host's own")));
+    EXPECT_NO_THROW(host.messages().tell(Message::Info, QStringLiteral("the host's own")));
 }
 
 TEST_F(Messages, JournalIsARingWithMarks) {

@@ -106,7 +106,7 @@ void HostKeys::disconnectAll() {
             }
         });
     } catch (const std::exception& e) {
-        m_host.tellFailure(e);
+        m_host.messages().tellFailure(e);
     }
     m_host.updates().request();
 }

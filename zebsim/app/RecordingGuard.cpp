@@ -30,7 +30,7 @@ bool mayLetGoOfRecording(SimHost& host, const QString& question) {
     }
     const ButtonTexts answers{{QMessageBox::Yes, uiText("Yes")}, {QMessageBox::No, uiText("No")}};
     const QStringList asked = camerasUnderWay(host.cameras());
-    if (host.choose(question, nullptr, answers, QMessageBox::No, asked) != QMessageBox::Yes) {
+    if (host.messages().choose(question, nullptr, answers, QMessageBox::No, asked) != QMessageBox::Yes) {
         qInfo() << "Cameras that are armed or recording are kept:" << asked;
         return false;
     }
@@ -39,6 +39,6 @@ bool mayLetGoOfRecording(SimHost& host, const QString& question) {
         qInfo() << "Cameras that are armed or recording may be let go:" << camerasUnderWay(host.cameras());
         return true;
     }
-    host.tell(Message::Info, uiText("The recording has ended meanwhile. Nothing was done."));
+    host.messages().tell(Message::Info, uiText("The recording has ended meanwhile. Nothing was done."));
     return false;
 }

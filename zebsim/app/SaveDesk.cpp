@@ -25,7 +25,7 @@ bool SaveDesk::isSaving() const {
 
 void SaveDesk::save(bool layout) {
     if (isSaving() || m_asking) {
-        m_host.tell(Message::Info, uiText("Images are being saved already."));
+        m_host.messages().tell(Message::Info, uiText("Images are being saved already."));
         return;
     }
     SaveSources sources = saveSources(m_host.cameras(), m_fileNames);
@@ -40,7 +40,7 @@ void SaveDesk::save(bool layout) {
     }
     absent << m_host.recorder().lost();
     if (tracks.empty()) {
-        m_host.tell(Message::Warn, uiText("No connected camera has recorded images."), absent);
+        m_host.messages().tell(Message::Warn, uiText("No connected camera has recorded images."), absent);
         return;
     }
     Preferences& prefs = m_host.prefs();
@@ -70,7 +70,7 @@ QStringList SaveDesk::markEarlier(SaveSources& sources) const {
 void SaveDesk::begin(const SaveOrders& orders) {
     auto job = std::make_unique<SaveJob>(m_host.cameras(), orders);
     if (const auto refusal = job->start()) {
-        m_host.tell(Message::Alert, refusalText(*refusal, orders));
+        m_host.messages().tell(Message::Alert, refusalText(*refusal, orders));
         return;
     }
     m_job = std::move(job);
@@ -93,12 +93,13 @@ void SaveDesk::showProgress() {
 }
 
 Overwrite SaveDesk::ask(const QString& file) {
-    const int answer = m_host.choose(uiText("%1 exists already.").arg(QDir::toNativeSeparators(file)), m_progress,
-                                     {{QMessageBox::Yes, uiText("Overwrite")},
-                                      {QMessageBox::YesToAll, uiText("Overwrite all")},
-                                      {QMessageBox::No, uiText("Skip camera")},
-                                      {QMessageBox::Cancel, uiText("Cancel")}},
-                                     QMessageBox::No);
+    const int answer =
+        m_host.messages().choose(uiText("%1 exists already.").arg(QDir::toNativeSeparators(file)), m_progress,
+                                 {{QMessageBox::Yes, uiText("Overwrite")},
+                                  {QMessageBox::YesToAll, uiText("Overwrite all")},
+                                  {QMessageBox::No, uiText("Skip camera")},
+                                  {QMessageBox::Cancel, uiText("Cancel")}},
+                                 QMessageBox::No);
     switch (answer) {
         case QMessageBox::Yes:
             return Overwrite::This;
@@ -112,9 +113,9 @@ Overwrite SaveDesk::ask(const QString& file) {
 }
 
 void SaveDesk::askToCancel() {
-    const int answer =
-        m_host.choose(uiText("Stop saving? Complete files stay."), m_progress,
-                      {{QMessageBox::Yes, uiText("Stop")}, {QMessageBox::No, uiText("Go on")}}, QMessageBox::No);
+    const int answer = m_host.messages().choose(
+        uiText("Stop saving? Complete files stay."), m_progress,
+        {{QMessageBox::Yes, uiText("Stop")}, {QMessageBox::No, uiText("Go on")}}, QMessageBox::No);
     if (answer == QMessageBox::Yes && isSaving()) {
         m_job->cancel();
     }

@@ -43,8 +43,9 @@ void writeFile(SimHost& host, const QImage& image) {
     try {
         writeSnapShot(folder, camera ? camera->name() : QString(), QDateTime::currentDateTime(), format, image);
     } catch (const FileError& e) {
-        host.tell(Message::Alert, uiText("%1 can't be written: %2")
-                                      .arg(QDir::toNativeSeparators(e.file()), uiText(QString::fromUtf8(e.what()))));
+        host.messages().tell(Message::Alert,
+                             uiText("%1 can't be written: %2")
+                                 .arg(QDir::toNativeSeparators(e.file()), uiText(QString::fromUtf8(e.what()))));
     }
 }
 
@@ -56,7 +57,7 @@ void takeSnapShot(SimHost& host, const QImage& image, int mode) {
         return;
     }
     if (image.isNull()) {
-        host.tell(Message::Info, uiText("There is no image to take."));
+        host.messages().tell(Message::Info, uiText("There is no image to take."));
         return;
     }
     if (mode == ToClipboard || mode == ToBoth) {

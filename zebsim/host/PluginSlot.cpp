@@ -36,7 +36,7 @@ void PluginSlot::open() {
         m_plugin.getDialog(true);
         m_plugin.showDialog();
     } catch (const std::exception& e) {
-        m_host.tellFailure(e);
+        m_host.messages().tellFailure(e);
     }
 }
 

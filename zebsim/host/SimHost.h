@@ -1,11 +1,15 @@
 #pragma once
 
 #include "AppObject.h"
-#include "BridgeDesk.h"
 #include "CameraBank.h"
 #include "FaultPlan.h"
 #include "HostCalls.h"
 #include "HostEvents.h"
+#include "HostMessages.h"
+#include "HostPrefs.h"
+#include "HostStates.h"
+#include "HostUpdates.h"
+#include "ImagePlugins.h"
 #include "Journal.h"
 #include "Notices.h"
 #include "Preferences.h"
@@ -33,7 +37,6 @@
 class AppDesk;
 class Clock;
 class MessageDesk;
-struct Answer;
 struct Rig;
 
 /// The stand-in for the host application: what `ZebHost` promises, on simulated cameras.
@@ -69,6 +72,7 @@ public:
     HostEvents& events() { return m_events; }
     const UnsavedGuard& unsavedGuard() const { return m_unsavedGuard; }
     UpdateCycle& updates() { return m_updates; }
+    HostMessages& messages() { return m_messages; }
 
     SimAppStatus& appStatus() override { return m_appStatus; }
     SimDocManager& docManager() override { return m_docManager; }
@@ -87,42 +91,66 @@ public:
     bool isMemoryMode() const override { return m_appStatus.mode() == zeb::MemoryMode; }
     bool isFileMode() const override { return m_appStatus.mode() == zeb::FileMode; }
 
-    QVariant getPref(const QString& key, const QVariant& defaultValue = {}) const override;
-    int getPrefInt(const QString& key, const QVariant& defaultValue = {}) const override;
-    bool getPrefBool(const QString& key, const QVariant& defaultValue = {}) const override;
-    float getPrefFloat(const QString& key, const QVariant& defaultValue = {}) const override;
-    QString getPrefString(const QString& key, const QVariant& defaultValue = {}) const override;
-    void setPref(const QString& key, const QVariant& value) override;
-    void setPrefInt(const QString& key, int value) override;
-    void setPrefBool(const QString& key, bool value) override;
-    void setPrefFloat(const QString& key, float value) override;
-    void setPrefString(const QString& key, const QString& value) override;
+    QVariant getPref(const QString& key, const QVariant& defaultValue = {}) const override {
+        return m_hostPrefs.get("getPref", key, defaultValue);
+    }
+    int getPrefInt(const QString& key, const QVariant& defaultValue = {}) const override {
+        return m_hostPrefs.get("getPrefInt", key, defaultValue).toInt();
+    }
+    bool getPrefBool(const QString& key, const QVariant& defaultValue = {}) const override {
+        return m_hostPrefs.get("getPrefBool", key, defaultValue).toBool();
+    }
+    float getPrefFloat(const QString& key, const QVariant& defaultValue = {}) const override {
+        return m_hostPrefs.get("getPrefFloat", key, defaultValue).toFloat();
+    }
+    QString getPrefString(const QString& key, const QVariant& defaultValue = {}) const override {
+        return m_hostPrefs.get("getPrefString", key, defaultValue).toString();
+    }
+    void setPref(const QString& key, const QVariant& value) override {
+        m_hostPrefs.set("ZebHost::setPref", key, value);
+    }
+    void setPrefInt(const QString& key, int value) override { m_hostPrefs.set("ZebHost::setPrefInt", key, value); }
+    void setPrefBool(const QString& key, bool value) override { m_hostPrefs.set("ZebHost::setPrefBool", key, value); }
+    void setPrefFloat(const QString& key, float value) override {
+        m_hostPrefs.set("ZebHost::setPrefFloat", key, value);
+    }
+    void setPrefString(const QString& key, const QString& value) override {
+        m_hostPrefs.set("ZebHost::setPrefString", key, value);
+    }
 
-    bool isPrefsRestored() const override;
-    void setPrefsRestored(int state) override;
+    bool isPrefsRestored() const override { return m_hostPrefs.isRestored(); }
+    void setPrefsRestored(int state) override { m_hostPrefs.setRestored(state); }
 
-    QString translate(const QString& text) const override;
+    QString translate(const QString& text) const override { return m_translator.translate(text); }
 
-    /// Boxes of the host's own: a text with a list, a failure with its line in the log.
-    void tell(Message::Kind kind, const QString& text, const QStringList& list = {}, QWidget* parent = nullptr);
-    void tellFailure(const std::exception& e);
-    /// Asks a question with answers of its own, of which Enter means `preferred`; answers the chosen one of `buttons`,
-    /// 0 when the box was left.
-    int choose(const QString& text, QWidget* parent, const ButtonTexts& buttons, int preferred,
-               const QStringList& list = {});
-
-    void info(const QString& message, QWidget* parent) override;
-    void warn(const QString& message, QWidget* parent) override;
-    void warnList(const QString& message, const QStringList& messages, QWidget* parent) override;
-    void alert(const QString& message, QWidget* parent) override;
-    void alertWithDontShowAgain(const QString& message, const QString& prefKey, QWidget* parent,
-                                const ButtonTexts& buttons) override;
-    void alertList(const QString& message, const QStringList& messages, QWidget* parent) override;
-    bool confirm(const QString& message) override;
-    bool confirmModal(const QString& message, QWidget* parent, const ButtonTexts& buttons) override;
-    bool confirmWithDontShowAgain(const QString& message, const QString& prefKey, QWidget* parent,
-                                  const ButtonTexts& buttons) override;
-    void errorHandler(const std::exception& e) override;
+    void info(const QString& text, QWidget* parent) override {
+        pluginBox("info").tell(Message::Info, text, {}, parent);
+    }
+    void warn(const QString& text, QWidget* parent) override {
+        pluginBox("warn").tell(Message::Warn, text, {}, parent);
+    }
+    void warnList(const QString& text, const QStringList& list, QWidget* parent) override {
+        pluginBox("warnList").tell(Message::Warn, text, list, parent);
+    }
+    void alert(const QString& text, QWidget* parent) override {
+        pluginBox("alert").tell(Message::Alert, text, {}, parent);
+    }
+    void alertWithDontShowAgain(const QString& text, const QString& prefKey, QWidget* parent,
+                                const ButtonTexts& buttons) override {
+        pluginBox("alertWithDontShowAgain").showSilenceable(Message::Alert, text, prefKey, parent, buttons);
+    }
+    void alertList(const QString& text, const QStringList& list, QWidget* parent) override {
+        pluginBox("alertList").tell(Message::Alert, text, list, parent);
+    }
+    bool confirm(const QString& text) override { return pluginBox("confirm").confirm(text); }
+    bool confirmModal(const QString& text, QWidget* parent, const ButtonTexts& buttons) override {
+        return pluginBox("confirmModal").confirm(text, parent, buttons);
+    }
+    bool confirmWithDontShowAgain(const QString& text, const QString& prefKey, QWidget* parent,
+                                  const ButtonTexts& buttons) override {
+        return pluginBox("confirmWithDontShowAgain").showSilenceable(Message::Confirm, text, prefKey, parent, buttons);
+    }
+    void errorHandler(const std::exception& e) override { pluginBox("errorHandler").tellFailureOrNews(e); }
 
     ZebPrefsDialog* getPrefsDialog() override;
     void openPrefsEthernetSettings() override;
@@ -144,60 +172,81 @@ public:
 
     QWidget* getMainWindow() const override { return m_mainWindow; }
     QWidget* getMdiWidget() const override { return m_mdiWidget; }
-    void attachBridge(QWebView* view, ZebPageBridge* bridge) override;
+    void attachBridge(QWebView* view, ZebPageBridge* bridge) override { m_hostUpdates.attachBridge(view, bridge); }
 
-    void updateUI(unsigned int mask, bool refresh) override;
-    void deterUpdateUI(bool deter) override;
-    bool isUpdateIgnore() const override;
-    void refreshTools() override;
+    void updateUI(unsigned int mask, bool refresh) override {
+        m_calls.note("ZebHost::updateUI", {mask, refresh});
+        m_updates.request();
+    }
+    void deterUpdateUI(bool deter) override {
+        m_calls.note("ZebHost::deterUpdateUI", {deter});
+        m_updates.deter(deter);
+    }
+    bool isUpdateIgnore() const override { return m_flags.isOn(QStringLiteral("IsUpdateIgnore")); }
+    void refreshTools() override {
+        m_calls.change("ZebHost::refreshTools");
+        m_updates.request();
+    }
 
     /// Shows as the state "IsModalessDialogTextFocussing".
-    void setTextBoxFocusState(bool focused) override;
+    void setTextBoxFocusState(bool focused) override {
+        m_calls.note("ZebHost::setTextBoxFocusState", {focused});
+        m_flags.set(QStringLiteral("IsModalessDialogTextFocussing"), focused);
+    }
 
-    bool isViewerRunning() const override { return m_viewerSuspended == 0; }
-    void suspendViewer() override;
-    void resumeViewer() override;
+    bool isViewerRunning() const override { return m_hostUpdates.isViewerRunning(); }
+    void suspendViewer() override {
+        m_calls.note("ZebHost::suspendViewer");
+        m_hostUpdates.suspendViewer();
+    }
+    void resumeViewer() override {
+        m_calls.note("ZebHost::resumeViewer");
+        m_hostUpdates.resumeViewer();
+    }
 
     bool isReady() const override { return !isApplicationClosing(); }
-    bool isApplicationClosing() const override;
-    bool isWindowStateSaveSuppressed() const override;
-    bool isOtherPluginOpen() const override;
-    bool isSelectionKept() const override;
-    bool getTriggerTesting() const override;
-    void setTriggerTesting(bool on) override;
-    bool isTracking() const override;
-    bool isShading() const override;
-    bool isAutoFocussing() const override;
-    bool isCurrentAutoFocus(int mode) const override;
-    bool isCycleViewBlocked() const override;
-    bool isNotLivePage(bool orDeviceSettings) const override;
-    bool isPrefDialogOpening() const override;
-    bool isModalDialogOpening() const override;
-    bool isZebActive() const override;
-    QWidget* getFullScreenWidget() const override;
-    bool isTextBoxFocussing() const override;
-    bool isToolActive(const QString& tool) const override;
-    bool isPluginAvailable(const QString& name) const override;
-    bool isPluginOkPattern(const QString& name) const override;
-    QList<int> getSyncCapableCameraTypes() const override;
-    bool isCapable(const QString& capability, DOC_Interface* doc, int head) const override;
+    bool isApplicationClosing() const override { return m_flags.isOn(QStringLiteral("IsApplicationClosing")); }
+    bool isWindowStateSaveSuppressed() const override {
+        return m_flags.isOn(QStringLiteral("IsWindowStateSaveSuppressed"));
+    }
+    bool isOtherPluginOpen() const override { return m_flags.isOn(QStringLiteral("IsOtherPluginOpen")); }
+    bool isSelectionKept() const override { return m_flags.isOn(QStringLiteral("IsSelectionKept")); }
+    bool getTriggerTesting() const override { return m_flags.isOn(QStringLiteral("IsTriggerTesting")); }
+    void setTriggerTesting(bool on) override {
+        m_calls.note("ZebHost::setTriggerTesting", {on});
+        m_flags.set(QStringLiteral("IsTriggerTesting"), on);
+    }
+    bool isTracking() const override { return m_flags.isOn(QStringLiteral("IsTracking")); }
+    bool isShading() const override { return m_flags.isOn(QStringLiteral("IsShading")); }
+    bool isAutoFocussing() const override { return m_flags.isOn(QStringLiteral("IsAutoFocussing")); }
+    bool isCurrentAutoFocus(int /*mode*/) const override { return m_flags.isOn(QStringLiteral("IsCurrentAutoFocus")); }
+    bool isCycleViewBlocked() const override { return m_flags.isOn(QStringLiteral("IsCycleViewBlocked")); }
+    bool isNotLivePage(bool orDeviceSettings) const override {
+        return m_flags.isOn(orDeviceSettings ? QStringLiteral("IsNotLiveAndDeviceSettingPage")
+                                             : QStringLiteral("IsNotlivePage"));
+    }
+    bool isPrefDialogOpening() const override { return m_flags.isOn(QStringLiteral("IsPrefDialogOpening")); }
+    bool isModalDialogOpening() const override { return m_states.isModalDialogOpening(); }
+    bool isZebActive() const override { return m_states.isZebActive(m_mainWindow); }
+    QWidget* getFullScreenWidget() const override { return m_states.fullScreenWidget(m_mainWindow); }
+    bool isTextBoxFocussing() const override { return m_flags.isOn(QStringLiteral("IsModalessDialogTextFocussing")); }
+    bool isToolActive(const QString& tool) const override { return m_docManager.isToolActive(tool); }
+    bool isPluginAvailable(const QString& name) const override { return imageplugins::has(name); }
+    bool isPluginOkPattern(const QString& name) const override { return imageplugins::needsOk(name); }
+    QList<int> getSyncCapableCameraTypes() const override { return m_states.syncCapableCameraTypes(); }
+    bool isCapable(const QString& capability, DOC_Interface* doc, int /*head*/) const override {
+        return m_states.isCapable(capability, doc);
+    }
 
 private:
-    void runUpdateCycle();
-    /// No exception reaches the event loop; a failure is one of this cycle's.
-    void guarded(QStringList& failures, const std::function<void()>& work);
-    void tellNew(const QStringList& failures);
-    /// Says something beside the work that goes on, and in the log.
-    void notify(Message::Kind kind, const QString& text);
-    bool isInPluginDialog(const QWidget* widget) const;
-    Answer show(const Message& box);
+    /// What a box of the plug-in's begins with.
+    HostMessages& pluginBox(const char* operation) {
+        m_calls.ask(operation);
+        return m_messages;
+    }
     bool mayLose(const QString& question, const QStringList& lines);
-    bool showSilenceable(Message box, const QString& prefKey);
-    Message message(int kind, const QString& text, QWidget* parent) const;
-    void storePref(const char* call, const QString& key, const QVariant& value);
 
     Clock& m_clock;
-    MessageDesk& m_desk;
     Preferences m_prefs;
     Journal m_journal;
     FaultPlan m_faults;
@@ -206,7 +255,6 @@ private:
     StatusFlags m_flags;
     HostEvents m_events;
     UpdateCycle m_updates;
-    BridgeDesk m_bridges;
     Translator m_translator;
     AppObject m_appObject;
     /// The main window as pages see it: they can name it, no more.
@@ -214,11 +262,11 @@ private:
     AppDesk* m_appDesk = nullptr;
     QPointer<QWidget> m_mainWindow;
     QPointer<QWidget> m_mdiWidget;
-    int m_viewerSuspended = 0;
-    bool m_prefsRestored;
-    /// What the last update cycle met.
-    QStringList m_cycleFailures;
 
+    HostMessages m_messages;
+    HostPrefs m_hostPrefs;
+    HostStates m_states;
+    HostUpdates m_hostUpdates;
     Notices m_notices;
     const UnsavedGuard m_unsavedGuard;
     SimAppStatus m_appStatus;

@@ -1,0 +1,36 @@
+#pragma once
+
+#include "HostCalls.h"
+#include "Preferences.h"
+
+/// The preferences as plug-ins read and write them. GUI thread.
+class HostPrefs {
+public:
+    /// Both must outlive the object.
+    HostPrefs(const HostCalls& calls, Preferences& prefs)
+        : m_calls(calls), m_prefs(prefs), m_isRestored(!prefs.problem().isEmpty()) {}
+
+    QVariant get(const char* call, const QString& key, const QVariant& defaultValue) const {
+        m_calls.ask(call);
+        return m_prefs.value(key, defaultValue);
+    }
+    void set(const char* call, const QString& key, const QVariant& value) {
+        m_calls.change(call, {key, value});
+        m_prefs.setValue(key, value);
+    }
+
+    /// As `ZebHost::isPrefsRestored` and `ZebHost::setPrefsRestored`.
+    bool isRestored() const {
+        m_calls.ask("isPrefsRestored");
+        return m_isRestored;
+    }
+    void setRestored(int state) {
+        m_calls.change("ZebHost::setPrefsRestored", {state});
+        m_isRestored = state == 0;
+    }
+
+private:
+    const HostCalls& m_calls;
+    Preferences& m_prefs;
+    bool m_isRestored;
+};
