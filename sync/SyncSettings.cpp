@@ -1,10 +1,10 @@
 #include "SyncSettings.h"
 
-#include "BridgeCall.h"
 #include "ConnectedDocs.h"
 #include "DOC_Control.h"
 #include "DOC_Interface.h"
 #include "GUI_SyncProgress.h"
+#include "JS_Mediator.h"
 #include "MasterChoice.h"
 #include "RUN_SyncingThread.h"
 #include "SyncChecks.h"
@@ -38,8 +38,8 @@ DocKeyList keysOf(const DocList& docs) {
 
 /// A part of the work that leaves the lines of the call that does it alone.
 template <typename Work>
-void step(const char* call, const QString& args, Work&& work) {
-    const TraceScope scope(QStringLiteral("JS_Mediator_WrenTableDialog::") % QLatin1String(call), args);
+void step(const char* method, TraceArgs args, Work&& work) {
+    const TraceScope scope(QStringLiteral("JS_Mediator_WrenTableDialog::") % QLatin1String(method), args);
     work();
 }
 
@@ -101,8 +101,7 @@ SyncView SyncSettings::look() {
 
 bool SyncSettings::synchronise(JS_Mediator& bridge) {
     bool handedOver = false;
-    bridgeCall(bridge, [&] {
-        const TraceScope scope(QStringLiteral("JS_Mediator_WrenTableDialog::_setSyncSettings"));
+    bridge.runCall(JS_Mediator::Traced, QStringLiteral("JS_Mediator_WrenTableDialog::_setSyncSettings"), {}, [&] {
         const Outcome outcome = handOver();
         handedOver = outcome != Outcome::NotStarted;
         if (outcome == Outcome::Done) {
@@ -141,8 +140,7 @@ SyncSettings::Outcome SyncSettings::handOver() {
     }
 
     const SYNC_PARAMS params = readParams();
-    step("setSignalFrequency", traceArg(QStringLiteral("freq"), m_state.frequency),
-         [this] { m_sources.setFrequency(m_state.frequency); });
+    step("setSignalFrequency", {{"freq", m_state.frequency}}, [this] { m_sources.setFrequency(m_state.frequency); });
     docs = sorted(docs, *master, params.external);
     logParams(params);
     RUN_SyncingThread thread(&m_host, docs, master, params);

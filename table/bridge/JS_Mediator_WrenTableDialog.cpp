@@ -20,8 +20,6 @@
 #include "TableSession.h"
 #include "TableView.h"
 #include "TextKey.h"
-#include "TraceScope.h"
-#include "TraceText.h"
 #include "TriggerEditing.h"
 #include "ZebAppStatus.h"
 #include "ZebDocManager.h"
@@ -44,18 +42,6 @@ constexpr int SelectionWait = 500;
 /// Between two updates while the preference can't be read. Milliseconds.
 constexpr int DefaultInterval = 500;
 
-QString methodName(const char* method) {
-    return QStringLiteral("JS_Mediator_WrenTableDialog::") % QLatin1String(method);
-}
-
-QString keysArg(const QVariantList& keys) {
-    return traceArg(QStringLiteral("keys"), keyText(keys));
-}
-
-QString docKeyArg(DOCKEY dockey) {
-    return traceArg(QStringLiteral("docKey"), dockey);
-}
-
 }  // namespace
 
 JS_Mediator_WrenTableDialog::JS_Mediator_WrenTableDialog(ZebHost* host, const QString& name, PLG_Interface* plugin,
@@ -69,7 +55,7 @@ JS_Mediator_WrenTableDialog::JS_Mediator_WrenTableDialog(ZebHost* host, const QS
         Q_EMIT autoUpdate();
     });
     QObject::connect(&m_timers, &UpdateTimers::selected, this, &JS_Mediator_WrenTableDialog::slotSelectForUpdate);
-    bridgeCall(*this, [this] {
+    call(*this, Plain, __func__, {}, [this] {
         m_timers.stop();  // ticks begin with the first call of the page
         openSession();
     });
@@ -86,23 +72,41 @@ JS_Mediator_WrenTableDialog::~JS_Mediator_WrenTableDialog() {
     });
 }
 
-/// A call that is refused while another waits and leaves its lines in the log.
-template <typename Work>
-void JS_Mediator_WrenTableDialog::traced(const char* method, const QString& args, Work&& work) {
-    tracedCall(*this, methodName(method), args, std::forward<Work>(work));
+template <>
+ParameterEditing JS_Mediator_WrenTableDialog::topic() {
+    return {host(), m_state.allowed};
 }
 
-/// The same, and its end asks for an update.
-template <typename Work>
-void JS_Mediator_WrenTableDialog::operation(const char* method, const QString& args, Work&& work) {
-    operationCall(*this, methodName(method), args, std::forward<Work>(work));
+template <>
+TriggerEditing JS_Mediator_WrenTableDialog::topic() {
+    return TriggerEditing(host());
+}
+
+template <>
+MemoryEditing JS_Mediator_WrenTableDialog::topic() {
+    return MemoryEditing(host());
+}
+
+template <>
+CameraManagement JS_Mediator_WrenTableDialog::topic() {
+    return {host(), m_state};
+}
+
+/// A change of many cameras to the value that stands in the log as `name`.
+template <typename Topic, typename Param, typename Value>
+void JS_Mediator_WrenTableDialog::edit(const char* method, const QVariantList& keys, const char* name,
+                                       const Value& value, void (Topic::*set)(const DocKeyList&, Param)) {
+    call(*this, Change, method, {{"keys", keyText(keys)}, {name, value}}, [&] {
+        const DocKeyList docKeys = toDocKeys(keys);
+        // No keys stand for all cameras in some of these; a list without one good key does not.
+        if (keys.isEmpty() || !docKeys.isEmpty()) {
+            (topic<Topic>().*set)(docKeys, value);
+        }
+    });
 }
 
 void JS_Mediator_WrenTableDialog::onOpen() {
-    bridgeCall(*this, [this] {
-        const TraceScope scope(methodName("onOpen"));
-        openSession();
-    });
+    call(*this, Traced, __func__, {}, [this] { openSession(); });
 }
 
 void JS_Mediator_WrenTableDialog::openSession() {
@@ -122,15 +126,14 @@ void JS_Mediator_WrenTableDialog::ensureSession() {
 }
 
 void JS_Mediator_WrenTableDialog::onClose() {
-    bridgeCall(*this, [this] {
-        const TraceScope scope(methodName("onClose"));
+    call(*this, Traced, __func__, {}, [this] {
         endSession();
         JS_Mediator_ModelessPatternDialog::onClose();
     });
 }
 
 void JS_Mediator_WrenTableDialog::endSession() {
-    bridgeCall(*this, [this] { closeSession(); });
+    call(*this, Plain, __func__, {}, [this] { closeSession(); });
 }
 
 void JS_Mediator_WrenTableDialog::closeSession() {
@@ -144,7 +147,7 @@ void JS_Mediator_WrenTableDialog::closeSession() {
 }
 
 QString JS_Mediator_WrenTableDialog::getRecords(const QString& json) {
-    return queryCall(*this, __func__, QString(), [&] {
+    return call(*this, Query, __func__, {}, [&] {
         RecordModel model(host(), m_state);
         // A call that is under way may be the one that arms.
         if (m_state.recordRunning && !isNested()) {
@@ -162,30 +165,30 @@ QString JS_Mediator_WrenTableDialog::getRecords(const QString& json) {
 
 QString JS_Mediator_WrenTableDialog::getRecStatus() {
     QJsonObject status;
-    queryCall(*this, __func__, [&] { RecordModel(host(), m_state).addRecStatus(status); });
+    call(*this, Query, __func__, {}, [&] { RecordModel(host(), m_state).addRecStatus(status); });
     return QString::fromUtf8(QJsonDocument(status).toJson(QJsonDocument::Compact));
 }
 
 bool JS_Mediator_WrenTableDialog::isRecReady() {
-    return queryCall(*this, __func__, false,
-                     [this] { return RecordModel(host(), m_state).recordState() == zeb::RecordReady; });
+    return call(*this, Query, __func__, {},
+                [this] { return RecordModel(host(), m_state).recordState() == zeb::RecordReady; });
 }
 
 bool JS_Mediator_WrenTableDialog::isRecording() {
-    return queryCall(*this, __func__, false,
-                     [this] { return RecordModel(host(), m_state).recordState() == zeb::RecordRecording; });
+    return call(*this, Query, __func__, {},
+                [this] { return RecordModel(host(), m_state).recordState() == zeb::RecordRecording; });
 }
 
 QString JS_Mediator_WrenTableDialog::getGroups() {
-    return queryCall(*this, __func__, QString(), [this] { return RecordModel(host(), m_state).getGroups(); });
+    return call(*this, Query, __func__, {}, [this] { return RecordModel(host(), m_state).getGroups(); });
 }
 
 QString JS_Mediator_WrenTableDialog::getGroup() {
-    return queryCall(*this, __func__, QString(), [this] { return RecordModel(host(), m_state).getGroup(); });
+    return call(*this, Query, __func__, {}, [this] { return RecordModel(host(), m_state).getGroup(); });
 }
 
 int JS_Mediator_WrenTableDialog::getFilter() {
-    return queryCall(*this, __func__, 0, [this] { return RecordModel(host(), m_state).getFilter(); });
+    return call(*this, Query, __func__, {}, [this] { return RecordModel(host(), m_state).getFilter(); });
 }
 
 DOCKEY JS_Mediator_WrenTableDialog::getBatchDocKey() {
@@ -193,20 +196,20 @@ DOCKEY JS_Mediator_WrenTableDialog::getBatchDocKey() {
 }
 
 bool JS_Mediator_WrenTableDialog::isSuspendReduceMode(DOCKEY dockey) {
-    return queryCall(*this, {__func__, dockey}, false,
-                     [&] { return RecordModel(host(), m_state).isSuspendReduceMode(dockey, cycleFailures()); });
+    return call(*this, Query, __func__, {{"dockey", dockey}},
+                [&] { return RecordModel(host(), m_state).isSuspendReduceMode(dockey, cycleFailures()); });
 }
 
 PARTITIONNUMBER JS_Mediator_WrenTableDialog::getCurrentPartition() {
-    return queryCall(*this, __func__, PARTITIONNUMBER(0), [this] { return currentPartition(host()); });
+    return call(*this, Query, __func__, {}, [this] { return currentPartition(host()); });
 }
 
 QString JS_Mediator_WrenTableDialog::getCurrentPartitionName() {
-    return queryCall(*this, __func__, QString(), [this] { return currentPartitionName(host()); });
+    return call(*this, Query, __func__, {}, [this] { return currentPartitionName(host()); });
 }
 
 void JS_Mediator_WrenTableDialog::showLivePartition(int x, int y, int width, int height) {
-    bridgeCall(*this, [&] {
+    call(*this, Plain, __func__, {}, [&] {
         if (TableView* table = tableView()) {
             table->showPartitionBox({x, y, width, height});
         }
@@ -214,7 +217,7 @@ void JS_Mediator_WrenTableDialog::showLivePartition(int x, int y, int width, int
 }
 
 void JS_Mediator_WrenTableDialog::hideSelectBox() {
-    bridgeCall(*this, [this] {
+    call(*this, Plain, __func__, {}, [this] {
         if (TableView* table = tableView()) {
             table->hidePartitionBox();
         }
@@ -222,42 +225,36 @@ void JS_Mediator_WrenTableDialog::hideSelectBox() {
 }
 
 bool JS_Mediator_WrenTableDialog::isShownSelectBox() {
-    return queryCall(*this, __func__, false, [this] {
+    return call(*this, Query, __func__, {}, [this] {
         const TableView* table = tableView();
         return table != nullptr && table->isPartitionBoxShown();
     });
 }
 
 QString JS_Mediator_WrenTableDialog::getSearchAddress() {
-    return bridgeCall(*this, QString(), [this] {
-        const TraceScope scope(methodName("getSearchAddress"));
-        return CameraManagement(host(), m_state).getSearchAddress();
-    });
+    return call(*this, Traced, __func__, {}, [this] { return CameraManagement(host(), m_state).getSearchAddress(); });
 }
 
 void JS_Mediator_WrenTableDialog::searchCamera(const QString& ipAddress) {
-    operation("searchCamera", traceArg(QStringLiteral("ipAddress"), ipAddress),
-              [&] { CameraManagement(host(), m_state).searchCamera(ipAddress); });
+    call(*this, Change, __func__, {{"ipAddress", ipAddress}},
+         [&] { CameraManagement(host(), m_state).searchCamera(ipAddress); });
 }
 
 void JS_Mediator_WrenTableDialog::discoverysearch() {
-    operation("discoverysearch", {}, [this] { CameraManagement(host(), m_state).discover(); });
+    call(*this, Change, __func__, {}, [this] { CameraManagement(host(), m_state).discover(); });
 }
 
 void JS_Mediator_WrenTableDialog::updateCamera() {
-    operation("updateCamera", {}, [this] { CameraManagement(host(), m_state).update(); });
+    call(*this, Change, __func__, {}, [this] { CameraManagement(host(), m_state).update(); });
 }
 
 void JS_Mediator_WrenTableDialog::deleteAllCamera() {
-    operation("deleteAllCamera", {}, [this] { CameraManagement(host(), m_state).deleteAll(); });
+    call(*this, Change, __func__, {}, [this] { CameraManagement(host(), m_state).deleteAll(); });
 }
 
 bool JS_Mediator_WrenTableDialog::confirmDisconnect(const QVariantList& keys) {
-    bool agreed = false;
-    const QString args = keysArg(keys);
-    traced("confirmDisconnect", args,
-           [&] { agreed = CameraManagement(host(), m_state).confirmDisconnect(toDocKeys(keys)); });
-    return agreed;
+    return call(*this, Action, __func__, {{"keys", keyText(keys)}},
+                [&] { return CameraManagement(host(), m_state).confirmDisconnect(toDocKeys(keys)); });
 }
 
 void JS_Mediator_WrenTableDialog::connect(const QVariantList& keys, bool connect, bool force) {
@@ -265,14 +262,12 @@ void JS_Mediator_WrenTableDialog::connect(const QVariantList& keys, bool connect
         afterCalls([this, keys, connect] { this->connect(keys, connect, true); });
         return;
     }
-    const QString args =
-        keysArg(keys) % traceArg(QStringLiteral("connect"), connect) % traceArg(QStringLiteral("force"), force);
-    operation("connect", args, [&] { CameraManagement(host(), m_state).connect(toDocKeys(keys), connect, force); });
+    call(*this, Change, __func__, {{"keys", keyText(keys)}, {"connect", connect}, {"force", force}},
+         [&] { CameraManagement(host(), m_state).connect(toDocKeys(keys), connect, force); });
 }
 
 void JS_Mediator_WrenTableDialog::select(const QVariantList& keys, bool select) {
-    const QString args = keysArg(keys) % traceArg(QStringLiteral("select"), select);
-    traced("select", args, [&] {
+    call(*this, Action, __func__, {{"keys", keyText(keys)}, {"select", select}}, [&] {
         if (CameraManagement(host(), m_state).select(toDocKeys(keys), select)) {
             m_timers.waitForSelection(SelectionWait);
             activateTable();
@@ -281,104 +276,80 @@ void JS_Mediator_WrenTableDialog::select(const QVariantList& keys, bool select) 
 }
 
 void JS_Mediator_WrenTableDialog::setCameraName(const QVariantList& keys, const QString& cameraName) {
-    operation("setCameraName", keysArg(keys) % traceArg(QStringLiteral("cameraName"), cameraName),
-              [&] { CameraManagement(host(), m_state).setCameraName(toDocKeys(keys), cameraName); });
+    edit(__func__, keys, "cameraName", cameraName, &CameraManagement::setCameraName);
 }
 
 void JS_Mediator_WrenTableDialog::setComment(const QVariantList& keys, const QString& comment) {
-    operation("setComment", keysArg(keys) % traceArg(QStringLiteral("comment"), comment),
-              [&] { CameraManagement(host(), m_state).setComment(toDocKeys(keys), comment); });
+    edit(__func__, keys, "comment", comment, &CameraManagement::setComment);
 }
 
 void JS_Mediator_WrenTableDialog::editDoc(DOCKEY dockey) {
-    operation("editDoc", docKeyArg(dockey), [&] { CameraManagement(host(), m_state).editDoc(dockey); });
-}
-
-/// A change of one parameter of many cameras, to the value that stands in the log.
-template <typename Work>
-void JS_Mediator_WrenTableDialog::edit(const char* method, const QVariantList& keys, const char* name,
-                                       const QVariant& value, Work&& work) {
-    operation(method, keysArg(keys) % traceArg(QLatin1String(name), value), [&] {
-        const DocKeyList docKeys = toDocKeys(keys);
-        // No keys stand for all cameras in some of these; a list without one good key does not.
-        if (keys.isEmpty() || !docKeys.isEmpty()) {
-            work(docKeys);
-        }
-    });
+    call(*this, Change, __func__, {{"docKey", dockey}}, [&] { CameraManagement(host(), m_state).editDoc(dockey); });
 }
 
 void JS_Mediator_WrenTableDialog::setParamLock(const QVariantList& keys, bool lock) {
-    edit("setParamLock", keys, "lock", lock,
-         [&](const DocKeyList& docKeys) { ParameterEditing(host(), m_state.allowed).setParamLock(docKeys, lock); });
+    edit(__func__, keys, "lock", lock, &ParameterEditing::setParamLock);
 }
 
 void JS_Mediator_WrenTableDialog::setFrameRate(const QVariantList& keys, const QString& val) {
-    edit("setFrameRate", keys, "val", val,
-         [&](const DocKeyList& docKeys) { ParameterEditing(host(), m_state.allowed).setFrameRate(docKeys, val); });
+    edit(__func__, keys, "val", val, &ParameterEditing::setFrameRate);
 }
 
 void JS_Mediator_WrenTableDialog::setShutterSpeed(const QVariantList& keys, const QString& val) {
-    edit("setShutterSpeed", keys, "val", val,
-         [&](const DocKeyList& docKeys) { ParameterEditing(host(), m_state.allowed).setShutterSpeed(docKeys, val); });
+    edit(__func__, keys, "val", val, &ParameterEditing::setShutterSpeed);
 }
 
 void JS_Mediator_WrenTableDialog::setResolution(const QVariantList& keys, const QString& val) {
-    edit("setResolution", keys, "val", val,
-         [&](const DocKeyList& docKeys) { ParameterEditing(host(), m_state.allowed).setResolution(docKeys, val); });
+    edit(__func__, keys, "val", val, &ParameterEditing::setResolution);
 }
 
 void JS_Mediator_WrenTableDialog::setTriggerMode(const QVariantList& keys, const QString& val) {
-    edit("setTriggerMode", keys, "val", val,
-         [&](const DocKeyList& docKeys) { TriggerEditing(host()).setTriggerMode(docKeys, val); });
+    edit(__func__, keys, "val", val, &TriggerEditing::setTriggerMode);
 }
 
 void JS_Mediator_WrenTableDialog::setReduceMode(const QVariantList& keys, bool on) {
-    edit("setReduceMode", keys, "on", on,
-         [&](const DocKeyList& docKeys) { ParameterEditing(host(), m_state.allowed).setReduceMode(docKeys, on); });
+    edit(__func__, keys, "on", on, &ParameterEditing::setReduceMode);
 }
 
 void JS_Mediator_WrenTableDialog::setLowLight(const QVariantList& keys, bool on) {
-    edit("setLowLight", keys, "on", on,
-         [&](const DocKeyList& docKeys) { ParameterEditing(host(), m_state.allowed).setLowLight(docKeys, on); });
+    edit(__func__, keys, "on", on, &ParameterEditing::setLowLight);
 }
 
 void JS_Mediator_WrenTableDialog::setLowLightType(const QVariantList& keys, bool check) {
-    edit("setLowLightType", keys, "check", check,
-         [&](const DocKeyList& docKeys) { ParameterEditing(host(), m_state.allowed).setLowLightType(docKeys, check); });
+    edit(__func__, keys, "check", check, &ParameterEditing::setLowLightType);
 }
 
 QString JS_Mediator_WrenTableDialog::getSyncSettings() {
-    return queryCall(*this, __func__, QString(), [this] { return SyncSettings(host(), m_state.sync).look().toJson(); });
+    return call(*this, Query, __func__, {}, [this] { return SyncSettings(host(), m_state.sync).look().toJson(); });
 }
 
 bool JS_Mediator_WrenTableDialog::setSyncSettings() {
-    bool handedOver = false;
-    traced("setSyncSettings", {}, [&] { handedOver = SyncSettings(host(), m_state.sync).synchronise(*this); });
-    return handedOver;
+    return call(*this, Action, __func__, {}, [this] { return SyncSettings(host(), m_state.sync).synchronise(*this); });
 }
 
 void JS_Mediator_WrenTableDialog::connectSignalGenerator() {
-    traced("connectSignalGenerator", {}, [this] { SignalSources(host(), m_state.sync).connectGenerator(); });
+    call(*this, Action, __func__, {}, [this] { SignalSources(host(), m_state.sync).connectGenerator(); });
 }
 
 void JS_Mediator_WrenTableDialog::connectSignalDistributors() {
-    traced("connectSignalDistributors", {}, [this] { SignalSources(host(), m_state.sync).connectHubs(); });
+    call(*this, Action, __func__, {}, [this] { SignalSources(host(), m_state.sync).connectHubs(); });
 }
 
 void JS_Mediator_WrenTableDialog::setSignalFrequency(int freq) {
-    traced("setSignalFrequency", traceArg(QStringLiteral("freq"), freq),
-           [&] { SignalSources(host(), m_state.sync).setFrequency(freq); });
+    call(*this, Action, __func__, {{"freq", freq}}, [&] { SignalSources(host(), m_state.sync).setFrequency(freq); });
 }
 
 bool JS_Mediator_WrenTableDialog::checkDifferenceRecordRateAndExternalFrequency(DOC_Interface* doc) {
-    return queryCall(*this, __func__, true, [&] {
+    bool agrees = true;
+    call(*this, Query, __func__, {}, [&] {
         const SignalSources signal(host(), m_state.sync);
-        return doc == nullptr || !signal.givesFrequency() || signal.agreesWith(*doc);
+        agrees = doc == nullptr || !signal.givesFrequency() || signal.agreesWith(*doc);
     });
+    return agrees;
 }
 
 void JS_Mediator_WrenTableDialog::record() {
-    traced("record", {}, [this] {
+    call(*this, Action, __func__, {}, [this] {
         try {
             RecordButton(*this, host(), m_state, tableWindow()).press();
         } catch (...) {
@@ -389,15 +360,15 @@ void JS_Mediator_WrenTableDialog::record() {
 }
 
 void JS_Mediator_WrenTableDialog::cancelRecord() {
-    operation("cancelRecord", {}, [this] { RecordButton(*this, host(), m_state, tableWindow()).cancel(); });
+    call(*this, Change, __func__, {}, [this] { RecordButton(*this, host(), m_state, tableWindow()).cancel(); });
 }
 
 void JS_Mediator_WrenTableDialog::setTriggerTesting(bool value) {
-    operation("setTriggerTesting", traceArg(QStringLiteral("value"), value), [&] { host().setTriggerTesting(value); });
+    call(*this, Change, __func__, {{"value", value}}, [&] { host().setTriggerTesting(value); });
 }
 
 void JS_Mediator_WrenTableDialog::stopLive(bool stop) {
-    operation("stopLive", traceArg(QStringLiteral("stop"), stop), [&] {
+    call(*this, Change, __func__, {{"stop", stop}}, [&] {
         DocumentGuard guard(host(), false, false);
         host().liveLoop().setStopLive(stop, 1);
         guard.release();
@@ -405,70 +376,66 @@ void JS_Mediator_WrenTableDialog::stopLive(bool stop) {
 }
 
 void JS_Mediator_WrenTableDialog::updateLive() {
-    operation("updateLive", {}, [this] { host().liveLoop().updateLive(); });
+    call(*this, Change, __func__, {}, [this] { host().liveLoop().updateLive(); });
 }
 
 void JS_Mediator_WrenTableDialog::snapShot(int mode) {
-    traced("snapShot", traceArg(QStringLiteral("mode"), mode), [&] { host().saver().snapShot(mode); });
+    call(*this, Action, __func__, {{"mode", mode}}, [&] { host().saver().snapShot(mode); });
 }
 
 void JS_Mediator_WrenTableDialog::setRecordCheck(const QVariantList& keys, bool check) {
-    edit("setRecordCheck", keys, "check", check,
-         [&](const DocKeyList& docKeys) { MemoryEditing(host()).setRecordCheck(docKeys, check); });
+    edit(__func__, keys, "check", check, &MemoryEditing::setRecordCheck);
 }
 
 void JS_Mediator_WrenTableDialog::setSelectStartFrameNo(const QVariantList& keys, int frameNo) {
-    edit("setSelectStartFrameNo", keys, "frameNo", frameNo,
-         [&](const DocKeyList& docKeys) { MemoryEditing(host()).setSelectStartFrameNo(docKeys, frameNo); });
+    edit(__func__, keys, "frameNo", frameNo, &MemoryEditing::setSelectStartFrameNo);
 }
 
 void JS_Mediator_WrenTableDialog::setSelectEndFrameNo(const QVariantList& keys, int frameNo) {
-    edit("setSelectEndFrameNo", keys, "frameNo", frameNo,
-         [&](const DocKeyList& docKeys) { MemoryEditing(host()).setSelectEndFrameNo(docKeys, frameNo); });
+    edit(__func__, keys, "frameNo", frameNo, &MemoryEditing::setSelectEndFrameNo);
 }
 
 void JS_Mediator_WrenTableDialog::setTriggerOffset(const QVariantList& keys, int offset) {
-    edit("setTriggerOffset", keys, "offset", offset,
-         [&](const DocKeyList& docKeys) { MemoryEditing(host()).setTriggerOffset(docKeys, offset); });
+    edit(__func__, keys, "offset", offset, &MemoryEditing::setTriggerOffset);
 }
 
 void JS_Mediator_WrenTableDialog::save() {
-    operation("save", {}, [this] { MemoryEditing(host()).save(); });
+    call(*this, Change, __func__, {}, [this] { MemoryEditing(host()).save(); });
 }
 
 void JS_Mediator_WrenTableDialog::saveLayout() {
-    operation("saveLayout", {}, [this] { MemoryEditing(host()).saveLayout(); });
+    call(*this, Change, __func__, {}, [this] { MemoryEditing(host()).saveLayout(); });
 }
 
 bool JS_Mediator_WrenTableDialog::isRecordDuringExporting() {
-    return queryCall(*this, __func__, false, [this] { return host().saver().isBgSaving(); });
+    return call(*this, Query, __func__, {}, [this] { return host().saver().isBgSaving(); });
 }
 
 bool JS_Mediator_WrenTableDialog::isOtherPluginOpen() {
-    return queryCall(*this, __func__, false, [this] { return host().isOtherPluginOpen(); });
+    return call(*this, Query, __func__, {}, [this] { return host().isOtherPluginOpen(); });
 }
 
 bool JS_Mediator_WrenTableDialog::getTriggerTesting() {
-    return queryCall(*this, __func__, false, [this] { return host().getTriggerTesting(); });
+    return call(*this, Query, __func__, {}, [this] { return host().getTriggerTesting(); });
 }
 
 bool JS_Mediator_WrenTableDialog::isStopLive() {
-    return queryCall(*this, __func__, false, [this] {
+    return call(*this, Query, __func__, {}, [this] {
         DOC_Interface* doc = host().docManager().getCurrentDoc();
         return doc != nullptr && doc->activity().isStopLive();
     });
 }
 
 void JS_Mediator_WrenTableDialog::enterLiveMode() {
-    operation("enterLiveMode", {}, [this] { host().appStatus().enterLiveMode(); });
+    call(*this, Change, __func__, {}, [this] { host().appStatus().enterLiveMode(); });
 }
 
 void JS_Mediator_WrenTableDialog::enterMemoryMode() {
-    operation("enterMemoryMode", {}, [this] { host().appStatus().enterMemoryMode(); });
+    call(*this, Change, __func__, {}, [this] { host().appStatus().enterMemoryMode(); });
 }
 
 void JS_Mediator_WrenTableDialog::showReadyProgress() {
-    queryCall(*this, __func__, [this] {
+    call(*this, Query, __func__, {}, [this] {
         const bool following = m_sessionOpen && host().appStatus().isWrenRunning();
         if (m_readyProgress || !following || m_state.loadingRigx) {
             return;
@@ -481,7 +448,7 @@ void JS_Mediator_WrenTableDialog::showReadyProgress() {
 }
 
 void JS_Mediator_WrenTableDialog::deleteReadyProgress() {
-    queryCall(*this, __func__, [this] { delete m_readyProgress; });
+    call(*this, Query, __func__, {}, [this] { delete m_readyProgress; });
 }
 
 void JS_Mediator_WrenTableDialog::startAutoUpdate() {
@@ -493,7 +460,7 @@ void JS_Mediator_WrenTableDialog::stopAutoUpdate() {
 }
 
 void JS_Mediator_WrenTableDialog::slotSelectForUpdate() {
-    bridgeCall(*this, [this] {
+    call(*this, Plain, __func__, {}, [this] {
         updateUI();
         activateTable();
     });

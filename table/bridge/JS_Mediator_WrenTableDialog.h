@@ -123,12 +123,11 @@ protected:
     void endCall() override { m_timers.resume(); }
 
 private:
-    template <typename Work>
-    void traced(const char* method, const QString& args, Work&& work);
-    template <typename Work>
-    void operation(const char* method, const QString& args, Work&& work);
-    template <typename Work>
-    void edit(const char* method, const QVariantList& keys, const char* name, const QVariant& value, Work&& work);
+    template <typename Topic>
+    Topic topic();
+    template <typename Topic, typename Param, typename Value>
+    void edit(const char* method, const QVariantList& keys, const char* name, const Value& value,
+              void (Topic::*set)(const DocKeyList&, Param));
 
     void openSession();
     void closeSession();

@@ -7,5 +7,5 @@ JS_Mediator_WrenDefaultSettingsDialog::JS_Mediator_WrenDefaultSettingsDialog(Zeb
     : JS_Mediator_Dialog(host, QStringLiteral("wrendefaultsettingsdialog"), parent) {}
 
 QString JS_Mediator_WrenDefaultSettingsDialog::getMasterCameraList() {
-    return bridgeCall(*this, QString(), [this] { return masterCameraList(host()); });
+    return call(*this, Plain, __func__, {}, [this] { return masterCameraList(host()); });
 }

@@ -94,7 +94,7 @@ void GUI_WrenTableDialog::closeEvent(QCloseEvent* event) {
     }
     const QPointer<GUI_WrenTableDialog> self(this);
     const bool ticking = m_table->isTicking();
-    bridgeCall(*m_table, [this] { storePlacement(); });
+    call(*m_table, JS_Mediator::Plain, __func__, {}, [this] { storePlacement(); });
     // The host may take the plug-in away in each of these calls, and the window with it.
     if (self) {
         QCoreApplication::processEvents();
@@ -106,7 +106,8 @@ void GUI_WrenTableDialog::closeEvent(QCloseEvent* event) {
         event->ignore();
         return;
     }
-    bridgeCall(*m_table, [this] { host().setPrefBool(ReadyPref, host().isApplicationClosing()); });
+    call(*m_table, JS_Mediator::Plain, __func__, {},
+         [this] { host().setPrefBool(ReadyPref, host().isApplicationClosing()); });
     if (self) {
         GUI_ModelessPatternDialog::closeEvent(event);
     }
@@ -160,7 +161,7 @@ void GUI_WrenTableDialog::storePlacement() {
 /// The question counts as a call of the bridge: no tick comes while it stands and no camera is changed behind it.
 bool GUI_WrenTableDialog::mayClose() {
     const QPointer<GUI_WrenTableDialog> self(this);
-    const bool agreed = host().isApplicationClosing() || bridgeCall(*m_table, false, [this] {
+    const bool agreed = host().isApplicationClosing() || call(*m_table, JS_Mediator::Plain, __func__, {}, [this] {
                             return host().confirmModal(TextKey("Quit WREN?"), this, {});
                         });
     return self && (agreed || host().isApplicationClosing());

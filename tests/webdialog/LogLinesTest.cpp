@@ -1,9 +1,9 @@
 #include "APP_ConcurrentException.h"
 #include "DOC_ReadFileException.h"
 #include "DOC_WriteFileException.h"
+#include "OperationEventHandler.h"
 #include "ProbeBridge.h"
 #include "TraceScope.h"
-#include "TraceText.h"
 #include "UTL_Exception.h"
 #include "support/FaultyHost.h"
 
@@ -30,23 +30,30 @@ void expectLines(const QList<LogCase>& cases) {
 TEST(LogLines, ScopesTellNameAndArguments) {
     FaultyHost host;
     ProbeBridge bridge(&host);
-    const QString noKey = traceArg("docKey", 0xFFFFFFFFU) + traceArg("other docKey", 4294967295U);
     expectLines({
         {"a scope without arguments",
          [] { TraceScope scope("A::b"); },
          {"info: [ENTER] \"A::b\" \"\"", "info: [LEAVE] \"A::b\""}},
         {"arguments are joined and trimmed",
-         [] { TraceScope scope("A::b", traceArg("key", 3) + traceArg("text", " x ")); },
+         [] {
+             TraceScope scope("A::b", {{"key", 3}, {"text", " x "}});
+         },
          {"info: [ENTER] \"A::b\" \"[key:3] [text: x ]\"", "info: [LEAVE] \"A::b\""}},
         {"a trace scope tells an invalid key by a word",
-         [&] { TraceScope scope("A::b", noKey); },
+         [] {
+             TraceScope scope("A::b", {{"docKey", 0xFFFFFFFFU}, {"other docKey", 4294967295U}});
+         },
          {"info: [ENTER] \"A::b\" \"[docKey:Invalid] [other docKey:Invalid]\"", "info: [LEAVE] \"A::b\""}},
         {"an operation tells the number",
-         [&] { OperationEventHandler scope(bridge, "A::b", traceArg("docKey", 0xFFFFFFFFU)); },
+         [&] {
+             OperationEventHandler scope(bridge, "A::b", {{"docKey", 0xFFFFFFFFU}});
+         },
          {"info: [ENTER] \"A::b\" \"[docKey:4294967295]\"", "pause", "updateUI 63 true", "resume",
           "info: [LEAVE] \"A::b\""}},
         {"quotes and line feeds cannot forge a line",
-         [] { TraceScope scope("A::b", traceArg("name", "x\"\n[LEAVE]")); },
+         [] {
+             TraceScope scope("A::b", {{"name", "x\"\n[LEAVE]"}});
+         },
          {"info: [ENTER] \"A::b\" \"[name:x\\\"\\n[LEAVE]]\"", "info: [LEAVE] \"A::b\""}},
     });
 }

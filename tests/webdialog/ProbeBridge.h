@@ -3,7 +3,6 @@
 #include "BridgeCall.h"
 #include "Course.h"
 #include "JS_Mediator_Dialog.h"
-#include "OperationEventHandler.h"
 
 /// A bridge whose one slot does what the test says. Its pause stands in the course.
 class ProbeBridge : public JS_Mediator_Dialog {
@@ -16,12 +15,13 @@ public:
 
 public Q_SLOTS:
     QString run() {
-        return bridgeCall(*this, QStringLiteral("fallback"), [this] {
-            const OperationEventHandler scope(*this, QStringLiteral("ProbeBridge::run"));
+        QString answer = QStringLiteral("fallback");
+        call(*this, Updating, __func__, {}, [&] {
             const std::function<void()> now = work;  // which may set another
             now();
-            return QStringLiteral("done");
+            answer = QStringLiteral("done");
         });
+        return answer;
     }
 
 protected:

@@ -6,6 +6,5 @@
 
 APP_Exception::APP_Exception(const QString& message, int code)
     : std::runtime_error(message.toStdString()), m_errorCode(code) {
-    qCritical() << QString(QStringLiteral("APP_Exception:") % traceArg(QStringLiteral("message"), message) %
-                           traceArg(QStringLiteral("errorCode"), code));
+    qCritical() << QString(QLatin1String("APP_Exception:") % traceText({{"message", message}, {"errorCode", code}}));
 }

@@ -6,6 +6,6 @@
 
 DOC_FileException::DOC_FileException(const QString& message, const QString& path, int code)
     : DOC_Exception(message, code) {
-    qCritical() << QString(QStringLiteral("DOC_FileException:") % traceArg(QStringLiteral("message"), message) %
-                           traceArg(QStringLiteral("path"), path) % traceArg(QStringLiteral("errorCode"), code));
+    qCritical() << QString(QLatin1String("DOC_FileException:") %
+                           traceText({{"message", message}, {"path", path}, {"errorCode", code}}));
 }

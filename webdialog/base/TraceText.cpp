@@ -3,8 +3,13 @@
 #include <QDebug>
 #include <QObject>
 
-QString traceArg(const QString& key, const QVariant& value) {
-    return QLatin1Char('[') % key % QLatin1Char(':') % value.toString() % QStringLiteral("] ");
+QString traceText(TraceArgs args) {
+    QString text;
+    for (const TraceArg& arg : args) {
+        text +=
+            QLatin1Char('[') % QLatin1String(arg.name) % QLatin1Char(':') % arg.value.toString() % QLatin1String("] ");
+    }
+    return text;
 }
 
 void logEnter(const QString& name, const QString& args) {
@@ -18,12 +23,12 @@ void logLeave(const QString& name) {
 void logUserOperation(const QString& url, const QString& operation, const QString& control, const QString& id,
                       const QString& className, const QVariant& value) {
     const bool byClass = id.isEmpty() && !className.isEmpty();
-    const QString identifier =
-        byClass ? traceArg(QStringLiteral("Class"), className) : traceArg(QStringLiteral("ID"), id);
     qInfo() << "[USER]"
-            << QString(traceArg(QStringLiteral("URL"), url) % identifier %
-                       traceArg(QStringLiteral("Control"), control) % traceArg(QStringLiteral("Operation"), operation) %
-                       traceArg(QStringLiteral("Value"), value));
+            << traceText({{"URL", url},
+                          byClass ? TraceArg{"Class", className} : TraceArg{"ID", id},
+                          {"Control", control},
+                          {"Operation", operation},
+                          {"Value", value}});
 }
 
 void logUserClose(const QObject& window) {

@@ -3,10 +3,19 @@
 #include <QString>
 #include <QVariant>
 
+#include <initializer_list>
+
 class QObject;
 
-/// One argument of a log line, `[key:value] `. Arguments are joined by putting one behind the other.
-QString traceArg(const QString& key, const QVariant& value);
+/// An argument of a log line.
+struct TraceArg {
+    const char* name;
+    QVariant value;
+};
+using TraceArgs = std::initializer_list<TraceArg>;
+
+/// `[name:value] ` of each, one behind the other.
+QString traceText(TraceArgs args);
 
 /// The lines at the start and the end of a traced method.
 void logEnter(const QString& name, const QString& args);

@@ -4,7 +4,7 @@
 
 class PageBridge;
 
-/// Marks that a call of the bridge runs. `bridgeCall` makes it; nobody else needs to.
+/// Marks that a call of the bridge runs. `JS_Mediator::runCall` makes it; nobody else needs to.
 class BridgePause {
 public:
     explicit BridgePause(PageBridge& bridge);

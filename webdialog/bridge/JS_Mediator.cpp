@@ -1,7 +1,5 @@
 #include "JS_Mediator.h"
 
-#include "APP_ConcurrentException.h"
-#include "APP_Exception.h"
 #include "BridgeCall.h"
 #include "CalibrationUnits.h"
 #include "ControlStatus.h"
@@ -10,17 +8,13 @@
 #include "DeterScope.h"
 #include "DeviceInfo.h"
 #include "DocumentGuard.h"
-#include "LogFailure.h"
 #include "OperationEventHandler.h"
 #include "PrefsDialog.h"
 #include "RangeMax.h"
 #include "Style.h"
 #include "SupportFileExport.h"
-#include "TextKey.h"
 #include "TextResource.h"
-#include "TraceText.h"
 #include "ZebAppStatus.h"
-#include "ZebCycleFailure.h"
 #include "ZebDocManager.h"
 #include "ZebHost.h"
 #include "ZebMdi.h"
@@ -46,35 +40,12 @@ void JS_Mediator::raiseUpdate() {
     Q_EMIT update();
 }
 
-void JS_Mediator::reportCurrentFailure() noexcept {
-    logFailure([this] {
-        try {
-            throw;
-        } catch (const APP_ConcurrentException& e) {
-            APP_Exception inner = e.inner();
-            errorHandler(inner);
-        } catch (std::exception& e) {
-            errorHandler(e);
-        } catch (...) {
-            APP_Exception unknown(TextKey("Unknown failure."));
-            errorHandler(unknown);
-        }
-    });
-}
-
-void JS_Mediator::tellCycleFailures() noexcept {
-    const QString news = m_cycleFailures.takeNew();
-    if (!news.isEmpty()) {
-        logFailure([&] { host().errorHandler(ZebCycleFailure(news.toStdString())); });
-    }
-}
-
 void JS_Mediator::errorHandler(std::exception& e) {
     host().errorHandler(e);
 }
 
 void JS_Mediator::setStyle(const QString& style) {
-    operationCall(*this, QStringLiteral("JS_Mediator::setStyle"), traceArg(QStringLiteral("style"), style), [&] {
+    call(*this, Change, __func__, {{"style", style}}, [&] {
         host().setPref(QStringLiteral("env/style"), style);
         QWidget* mainWindow = host().getMainWindow();
         if (!mainWindow) {
@@ -87,11 +58,11 @@ void JS_Mediator::setStyle(const QString& style) {
 }
 
 QString JS_Mediator::getStyle() {
-    return queryCall(*this, __func__, QString(), [&] { return styleName(host()); });
+    return call(*this, Query, __func__, {}, [&] { return styleName(host()); });
 }
 
 void JS_Mediator::openPlugin(const QString& name) {
-    operationCall(*this, QStringLiteral("JS_Mediator::openPlugin"), traceArg(QStringLiteral("name"), name), [&] {
+    call(*this, Change, __func__, {{"name", name}}, [&] {
         std::optional<DocumentGuard> guard;
         if (name == QLatin1String("binning")) {
             guard.emplace(host());
@@ -104,74 +75,74 @@ void JS_Mediator::openPlugin(const QString& name) {
 }
 
 void JS_Mediator::closePlugin() {
-    operationCall(*this, QStringLiteral("JS_Mediator::closePlugin"), {}, [&] { host().appStatus().closePanel(); });
+    call(*this, Change, __func__, {}, [&] { host().appStatus().closePanel(); });
 }
 
 void JS_Mediator::closePlugin(const QString& name) {
-    operationCall(*this, QStringLiteral("JS_Mediator::closePlugin"), traceArg(QStringLiteral("name"), name), [&] {
+    call(*this, Change, __func__, {{"name", name}}, [&] {
         const DeterScope deter(host());
         host().appStatus().closePlugin(name);
     });
 }
 
 void JS_Mediator::info(const QString& message) {
-    bridgeCall(*this, [&] { host().info(message, nullptr); });
+    call(*this, Plain, __func__, {}, [&] { host().info(message, nullptr); });
 }
 
 void JS_Mediator::warn(const QString& message) {
-    bridgeCall(*this, [&] { host().warn(message, nullptr); });
+    call(*this, Plain, __func__, {}, [&] { host().warn(message, nullptr); });
 }
 
 void JS_Mediator::warn(const QString& message, const QStringList& messages) {
-    bridgeCall(*this, [&] { host().warnList(message, messages, nullptr); });
+    call(*this, Plain, __func__, {}, [&] { host().warnList(message, messages, nullptr); });
 }
 
 void JS_Mediator::alert(const QString& message) {
-    bridgeCall(*this, [&] { host().alert(message, nullptr); });
+    call(*this, Plain, __func__, {}, [&] { host().alert(message, nullptr); });
 }
 
 void JS_Mediator::alert(const QString& message, const QStringList& messages) {
-    bridgeCall(*this, [&] { host().alertList(message, messages, nullptr); });
+    call(*this, Plain, __func__, {}, [&] { host().alertList(message, messages, nullptr); });
 }
 
 bool JS_Mediator::confirm(const QString& message) {
-    return bridgeCall(*this, false, [&] { return host().confirmModal(message, nullptr, {}); });
+    return call(*this, Plain, __func__, {}, [&] { return host().confirmModal(message, nullptr, {}); });
 }
 
 QString JS_Mediator::translate(const QString& string) {
-    return queryCall(*this, {__func__, string}, QString(), [&] { return host().translate(string); });
+    return call(*this, Query, __func__, {{"string", string}}, [&] { return host().translate(string); });
 }
 
 QString JS_Mediator::translate(const QString& string, const QString& arg) {
-    return queryCall(*this, {__func__, string}, QString(),
-                     [&] { return host().translate(string).arg(host().translate(arg)); });
+    return call(*this, Query, __func__, {{"string", string}},
+                [&] { return host().translate(string).arg(host().translate(arg)); });
 }
 
 bool JS_Mediator::isReady() {
-    return queryCall(*this, __func__, false, [&] { return host().isReady(); });
+    return call(*this, Query, __func__, {}, [&] { return host().isReady(); });
 }
 
 bool JS_Mediator::isLiveMode() {
-    return queryCall(*this, __func__, false, [&] { return host().isLiveMode(); });
+    return call(*this, Query, __func__, {}, [&] { return host().isLiveMode(); });
 }
 
 bool JS_Mediator::isMemoryMode() {
-    return queryCall(*this, __func__, false, [&] { return host().isMemoryMode(); });
+    return call(*this, Query, __func__, {}, [&] { return host().isMemoryMode(); });
 }
 
 bool JS_Mediator::isFileMode() {
-    return queryCall(*this, __func__, false, [&] { return host().isFileMode(); });
+    return call(*this, Query, __func__, {}, [&] { return host().isFileMode(); });
 }
 
 bool JS_Mediator::isPlaying() {
-    return queryCall(*this, __func__, false, [&] {
+    return call(*this, Query, __func__, {}, [&] {
         DOC_Interface* doc = host().docManager().getCurrentDoc();
         return doc && doc->frames().isPlaying();
     });
 }
 
 bool JS_Mediator::isConnected() {
-    return queryCall(*this, __func__, false, [&] {
+    return call(*this, Query, __func__, {}, [&] {
         const DOC_Interface* doc = host().docManager().getCurrentDoc();
         return doc && doc->isConnected();
     });
@@ -187,11 +158,11 @@ QString JS_Mediator::load(const QString& fileName) {
 }
 
 void JS_Mediator::updateUI() {
-    bridgeCall(*this, [&] { host().updateUI(m_updateMask, true); });
+    call(*this, Plain, __func__, {}, [&] { host().updateUI(m_updateMask, true); });
 }
 
 void JS_Mediator::deterUpdateUI(bool deter) {
-    bridgeCall(*this, [&] { host().deterUpdateUI(deter); });
+    call(*this, Plain, __func__, {}, [&] { host().deterUpdateUI(deter); });
 }
 
 void JS_Mediator::addPrefsJSObject() {
@@ -202,12 +173,12 @@ void JS_Mediator::addPrefsJSObject() {
 
 template <typename Read>
 auto JS_Mediator::readPref(const char* method, const QString& name, Read read) {
-    using Value = decltype(read());
-    return queryCall(*this, {method, name}, m_lastRead.value(name).template value<Value>(), [&] {
-        const Value value = read();
+    auto value = m_lastRead.value(name).template value<decltype(read())>();
+    call(*this, Query, method, {{"name", name}}, [&] {
+        value = read();
         m_lastRead[name] = QVariant::fromValue(value);
-        return value;
     });
+    return value;
 }
 
 int JS_Mediator::getPrefInt(const QString& name, const QVariant& defaultValue) {
@@ -227,61 +198,44 @@ QString JS_Mediator::getPrefString(const QString& name, const QVariant& defaultV
 }
 
 template <typename Store>
-void JS_Mediator::storePref(const QString& method, const QString& name, const QVariant& value, bool update,
-                            Store store) {
-    bridgeCall(*this, [&] {
-        std::optional<OperationEventHandler> scope;
-        if (update) {
-            scope.emplace(*this, method,
-                          traceArg(QStringLiteral("name"), name) + traceArg(QStringLiteral("value"), value));
-        }
-        store();
-    });
+void JS_Mediator::storePref(const char* method, const QString& name, const QVariant& value, bool update, Store store) {
+    call(*this, update ? Updating : Plain, method, {{"name", name}, {"value", value}}, store);
 }
 
 void JS_Mediator::setPrefInt(const QString& name, int value, bool update) {
-    storePref(QStringLiteral("JS_Mediator::setPrefInt"), name, value, update, [&] { host().setPrefInt(name, value); });
+    storePref(__func__, name, value, update, [&] { host().setPrefInt(name, value); });
 }
 
 void JS_Mediator::setPrefBool(const QString& name, bool value, bool update) {
-    storePref(QStringLiteral("JS_Mediator::setPrefBool"), name, value, update,
-              [&] { host().setPrefBool(name, value); });
+    storePref(__func__, name, value, update, [&] { host().setPrefBool(name, value); });
 }
 
 void JS_Mediator::setPrefFloat(const QString& name, float value, bool update) {
-    storePref(QStringLiteral("JS_Mediator::setPrefFloat"), name, value, update,
-              [&] { host().setPrefFloat(name, value); });
+    storePref(__func__, name, value, update, [&] { host().setPrefFloat(name, value); });
 }
 
 void JS_Mediator::setPrefString(const QString& name, const QString& value, bool update) {
-    storePref(QStringLiteral("JS_Mediator::setPrefString"), name, value, update,
-              [&] { host().setPrefString(name, value); });
+    storePref(__func__, name, value, update, [&] { host().setPrefString(name, value); });
 }
 
 void JS_Mediator::setPrefDQString(const QString& name, const QString& value, bool update) {
-    storePref(QStringLiteral("JS_Mediator::setPrefDQString"), name, value, update,
-              [&] { host().setPref(name, QVariant(value)); });
+    storePref(__func__, name, value, update, [&] { host().setPref(name, QVariant(value)); });
 }
 
 int JS_Mediator::openPrefsDialog(const QString& page) {
-    int result = 0;
-    changingCall(*this, QStringLiteral("JS_Mediator::openPrefsDialog"), traceArg(QStringLiteral("page"), page),
-                 [&] { result = runPrefsDialog(host(), page); });
-    return result;
+    return call(*this, Exclusive, __func__, {{"page", page}}, [&] { return runPrefsDialog(host(), page); });
 }
 
 void JS_Mediator::openPrefsEthernetSettings() {
-    tracedCall(*this, QStringLiteral("JS_Mediator::openPrefsEthernetSettings"), {},
-               [&] { host().openPrefsEthernetSettings(); });
+    call(*this, Action, __func__, {}, [&] { host().openPrefsEthernetSettings(); });
 }
 
 void JS_Mediator::openExportSupportFileDialog() {
-    tracedCall(*this, QStringLiteral("JS_Mediator::openExportSupportFileDialog"), {},
-               [&] { SupportFileExport(host()).run(); });
+    call(*this, Action, __func__, {}, [&] { SupportFileExport(host()).run(); });
 }
 
 void JS_Mediator::openAbouZebDialog() {
-    tracedCall(*this, QStringLiteral("JS_Mediator::openAbouZebDialog"), {}, [&] { host().openAboutDialog(); });
+    call(*this, Action, __func__, {}, [&] { host().openAboutDialog(); });
 }
 
 void JS_Mediator::infoLog(const QString& msg) {
@@ -293,7 +247,7 @@ void JS_Mediator::errorLog(const QString& msg) {
 }
 
 QString JS_Mediator::getControlStatus(DOC_Interface* pDoc) {
-    return queryCall(*this, __func__, QString(), [&] {
+    return call(*this, Query, __func__, {}, [&] {
         return QString::fromUtf8(
             QJsonDocument(controlStatus(host(), pDoc, m_cycleFailures)).toJson(QJsonDocument::Compact));
     });
@@ -301,12 +255,12 @@ QString JS_Mediator::getControlStatus(DOC_Interface* pDoc) {
 
 QVariantList JS_Mediator::getDeviceInfoList(bool isMinilist) {
     QVariantList devices;
-    bridgeCall(*this, [&] { appendDeviceInfo(devices, host(), isMinilist); });
+    call(*this, Plain, __func__, {}, [&] { appendDeviceInfo(devices, host(), isMinilist); });
     return devices;
 }
 
 QVariantList JS_Mediator::getSelectedDockey() {
-    return queryCall(*this, __func__, QVariantList(), [&] {
+    return call(*this, Query, __func__, {}, [&] {
         QVariantList keys;
         for (const DOCKEY key : host().docManager().getSelectedDocKeys(0)) {
             keys.append(QString::number(key));
@@ -317,17 +271,16 @@ QVariantList JS_Mediator::getSelectedDockey() {
 
 void JS_Mediator::setSelectDoc(const QString& docKey) {
     const QScopedValueRollback<unsigned int> mask(m_updateMask, AllParts);
-    operationCall(*this, QStringLiteral("JS_Mediator::setSelectDocSub"), traceArg(QStringLiteral("docKey"), docKey),
-                  [&] {
-                      const DeterScope deter(host());
-                      bool isKey = false;
-                      const DOCKEY key = docKey.toUInt(&isKey);
-                      host().docManager().setSelectedDocs(isKey ? DocKeyList{key} : DocKeyList(), 0);
-                  });
+    call(*this, Change, "setSelectDocSub", {{"docKey", docKey}}, [&] {
+        const DeterScope deter(host());
+        bool isKey = false;
+        const DOCKEY key = docKey.toUInt(&isKey);
+        host().docManager().setSelectedDocs(isKey ? DocKeyList{key} : DocKeyList(), 0);
+    });
 }
 
 void JS_Mediator::selectAllDocs() {
-    changingCall(*this, QStringLiteral("JS_Mediator::selectAllDocs"), {}, [&] {
+    call(*this, Exclusive, __func__, {}, [&] {
         host().appStatus().clearCurrentPlugin();
         const QScopedValueRollback<unsigned int> mask(m_updateMask, AllParts);
         ZebDocManager& docs = host().docManager();
@@ -345,28 +298,27 @@ void JS_Mediator::selectAllDocs() {
 
 void JS_Mediator::copySelectAreaToClipboard() {
     constexpr int SelectedArea = 2;
-    tracedCall(*this, QStringLiteral("JS_Mediator::copySelectAreaToClipboard"), {},
-               [&] { host().saver().copyToClipboard(SelectedArea); });
+    call(*this, Action, __func__, {}, [&] { host().saver().copyToClipboard(SelectedArea); });
 }
 
 bool JS_Mediator::isWaveDataAcquisition() {
-    return queryCall(*this, __func__, false, [&] { return host().docManager().isWaveDataAcquisition(); });
+    return call(*this, Query, __func__, {}, [&] { return host().docManager().isWaveDataAcquisition(); });
 }
 
 QString JS_Mediator::getCalibrationUnits() {
-    return queryCall(*this, __func__, QString(), [&] { return calibrationUnits(host()); });
+    return call(*this, Query, __func__, {}, [&] { return calibrationUnits(host()); });
 }
 
 int JS_Mediator::getRangeMax() {
-    return queryCall(*this, __func__, 0, [&] { return m_rangeMax = rangeMax(host()); });
+    return call(*this, Query, __func__, {}, [&] { return m_rangeMax = rangeMax(host()); });
 }
 
 bool JS_Mediator::isUpdateIgnore() {
-    return queryCall(*this, __func__, false, [&] { return host().isUpdateIgnore(); });
+    return call(*this, Query, __func__, {}, [&] { return host().isUpdateIgnore(); });
 }
 
 void JS_Mediator::setDisableAllQuickTool() {
-    tracedCall(*this, QStringLiteral("JS_Mediator::setDisableAllQuickTool"), {}, [&] {
+    call(*this, Action, __func__, {}, [&] {
         host().docManager().setActiveQuickTool(QString());
         host().docManager().refreshDocList(1);
         host().refreshTools();
@@ -383,24 +335,24 @@ void JS_Mediator::userOperationErrorLog(const QString& message) {
 }
 
 void JS_Mediator::setConnectedCameraShowing(bool check) {
-    bridgeCall(*this, [&] { host().setPrefBool(QLatin1String(ConnectedCameraOnlyPref), check); });
+    call(*this, Plain, __func__, {}, [&] { host().setPrefBool(QLatin1String(ConnectedCameraOnlyPref), check); });
 }
 
 bool JS_Mediator::getConnectedCameraShowing() {
-    return queryCall(*this, __func__, false,
-                     [&] { return host().getPrefBool(QLatin1String(ConnectedCameraOnlyPref), false); });
+    return call(*this, Query, __func__, {},
+                [&] { return host().getPrefBool(QLatin1String(ConnectedCameraOnlyPref), false); });
 }
 
 int JS_Mediator::countMdiWindow(bool visible) {
-    return queryCall(*this, __func__, 0, [&] { return host().mdi().countMdiWindow(visible, 2); });
+    return call(*this, Query, __func__, {}, [&] { return host().mdi().countMdiWindow(visible, 2); });
 }
 
 bool JS_Mediator::isWrenRunning() {
-    return queryCall(*this, __func__, false, [&] { return host().appStatus().isWrenRunning(); });
+    return call(*this, Query, __func__, {}, [&] { return host().appStatus().isWrenRunning(); });
 }
 
 void JS_Mediator::checkRestoredPrefs() {
-    bridgeCall(*this, [&] {
+    call(*this, Plain, __func__, {}, [&] {
         if (host().isPrefsRestored()) {
             host().setPrefsRestored(1);
         }
@@ -408,31 +360,31 @@ void JS_Mediator::checkRestoredPrefs() {
 }
 
 void JS_Mediator::hideSelectBox() {
-    bridgeCall(*this, [&] { host().hideSelectBox(); });
+    call(*this, Plain, __func__, {}, [&] { host().hideSelectBox(); });
 }
 
 bool JS_Mediator::isShownDropBox() {
-    return queryCall(*this, __func__, false, [&] { return host().isShownDropBox(); });
+    return call(*this, Query, __func__, {}, [&] { return host().isShownDropBox(); });
 }
 
 void JS_Mediator::showDropDownBox(const QString& key, int x, int y, int width, int height) {
-    bridgeCall(*this, [&] { host().showDropDownBox(key, QRect(x, y, width, height)); });
+    call(*this, Plain, __func__, {}, [&] { host().showDropDownBox(key, QRect(x, y, width, height)); });
 }
 
 void JS_Mediator::hideDropDownBox(const QString& key) {
-    bridgeCall(*this, [&] { host().hideDropDownBox(key); });
+    call(*this, Plain, __func__, {}, [&] { host().hideDropDownBox(key); });
 }
 
 void JS_Mediator::hideDropDownBox(const QString& key, int x, int y) {
-    bridgeCall(*this, [&] { host().hideDropDownBoxAt(key, QPoint(x, y)); });
+    call(*this, Plain, __func__, {}, [&] { host().hideDropDownBoxAt(key, QPoint(x, y)); });
 }
 
 bool JS_Mediator::isMVersion() {
-    return queryCall(*this, __func__, false, [&] { return host().appStatus().isMVersion(); });
+    return call(*this, Query, __func__, {}, [&] { return host().appStatus().isMVersion(); });
 }
 
 QString JS_Mediator::getFlip() {
-    return queryCall(*this, __func__, QString(), [&] {
+    return call(*this, Query, __func__, {}, [&] {
         const DOCKEY key = host().docManager().getCurrentDockey(0);
         const ZebViewOps& views = host().viewOps();
         return QString::number((views.isHorizontalFlip(key) ? 1 : 0) + (views.isVerticalFlip(key) ? 2 : 0));
@@ -440,10 +392,10 @@ QString JS_Mediator::getFlip() {
 }
 
 QString JS_Mediator::getRotate() {
-    return queryCall(*this, __func__, QStringLiteral("0"), [&] {
-        const DOCKEY key = host().docManager().getCurrentDockey(0);
-        return QString::number(qRound(host().viewOps().getRotation(key) * 360));
-    });
+    int degrees = 0;
+    call(*this, Query, __func__, {},
+         [&] { degrees = qRound(host().viewOps().getRotation(host().docManager().getCurrentDockey(0)) * 360); });
+    return QString::number(degrees);
 }
 
 void JS_Mediator::refreshSkipFrames(const ExportTargets& targets) {

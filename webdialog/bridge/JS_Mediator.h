@@ -3,6 +3,7 @@
 #include "CycleFailures.h"
 #include "FrameSkip.h"
 #include "PageBridge.h"
+#include "TraceText.h"
 
 #include <QHash>
 #include <QList>
@@ -10,13 +11,14 @@
 #include <QVariant>
 
 #include <exception>
+#include <functional>
 
 class DOC_Interface;
 class ZebHost;
 
 /// Base of all bridges: what a page can ask of the application. GUI thread.
 ///
-/// Slots are the page's interface, and their order is part of it. They run in the frame of `bridgeCall`, so none
+/// Slots are the page's interface, and their order is part of it. They run in the frame of `call`, so none
 /// throws; after a failure, which the user has been shown, a slot answers its default. A slot may run an event loop,
 /// and other slots inside it; those that change cameras or the host, or open a window, are refused there.
 class JS_Mediator : public PageBridge {
@@ -30,13 +32,32 @@ public:
 
     void raiseUpdate() override;
 
-    /// Shows the exception that is being handled to the user. Only inside a `catch`; does not throw.
-    void reportCurrentFailure() noexcept;
+    /// What a call of the page is to user and log.
+    enum CallKind {
+        /// A failure is told each time it comes. No lines in the log.
+        Plain = 0,
+        /// What the update cycle asks. Its failure comes again at every cycle while it lasts, so it is told when it is
+        /// new and not again until the same method with the same arguments has had an answer. No lines in the log.
+        Query = 1,
+        /// As a plain one, with lines in the log where it begins and ends.
+        Traced = 2,
+        /// The same, and its end asks for an update.
+        Updating = 4,
+        /// Changes cameras or the host, or opens a window. The page can get to it inside another call only from an
+        /// event
+        /// loop that this call runs, over a box or a dialog: what the user decides there must not find other cameras
+        /// than the user saw. So it is refused there, with a line in the log.
+        Exclusive = 8,
+        Action = Exclusive | Traced,
+        Change = Exclusive | Updating,
+    };
+    /// The frame of every call: runs `work` while the bridge counts as busy. No exception leaves it, for one that
+    /// reaches the page's script ends the process; the bridge is busy until the box that tells it is gone. `name` is
+    /// class and method. Slots are framed by `call`.
+    void runCall(CallKind kind, const QString& name, TraceArgs args, const std::function<void()>& work);
 
     /// What the update cycles of the page could not read.
     CycleFailures& cycleFailures() { return m_cycleFailures; }
-    /// Tells the user what of it is new, as one `ZebCycleFailure`. Does not throw.
-    void tellCycleFailures() noexcept;
 
     /// What a bridge of an export does with the values that its page chooses.
     virtual void setSkipMode(int mode) { Q_UNUSED(mode) }
@@ -175,10 +196,13 @@ protected:
     void setUpdateMask(unsigned int mask) { m_updateMask = mask; }
 
 private:
+    void runTraced(CallKind kind, const QString& name, TraceArgs args, const std::function<void()>& work);
+    void reportCurrentFailure() noexcept;
+    void tellCycleFailures() noexcept;
     template <typename Read>
     auto readPref(const char* method, const QString& name, Read read);
     template <typename Store>
-    void storePref(const QString& method, const QString& name, const QVariant& value, bool update, Store store);
+    void storePref(const char* method, const QString& name, const QVariant& value, bool update, Store store);
 
     /// Mask of an update of everything that stands in pages.
     static constexpr unsigned int AllParts = 63;

@@ -8,7 +8,7 @@ JS_Mediator_ModelessPatternDialog::JS_Mediator_ModelessPatternDialog(ZebHost* ho
     : JS_Mediator_Dialog(host, name, parent), m_plugin(plugin) {}
 
 void JS_Mediator_ModelessPatternDialog::onClose() {
-    bridgeCall(*this, [&] {
+    call(*this, Plain, __func__, {}, [&] {
         if (m_plugin) {
             m_plugin->closeDialog();
         }
@@ -16,7 +16,7 @@ void JS_Mediator_ModelessPatternDialog::onClose() {
 }
 
 void JS_Mediator_ModelessPatternDialog::setTextBoxFocusState(bool focused) {
-    bridgeCall(*this, [&] {
+    call(*this, Plain, __func__, {}, [&] {
         m_textBoxFocused = focused;
         host().setTextBoxFocusState(focused);
     });

@@ -7,7 +7,7 @@
 #include "ZebPrefsDialog.h"
 
 int runPrefsDialog(ZebHost& host, const QString& page) {
-    const TraceScope trace(QStringLiteral("JS_Mediator::openPrefsDialog"), traceArg(QStringLiteral("page"), page));
+    const TraceScope trace(QStringLiteral("JS_Mediator::openPrefsDialog"), {{"page", page}});
     if (host.isLiveMode()) {
         host.cameraOps().stopForPrefs();
     }

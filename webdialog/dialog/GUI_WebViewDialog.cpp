@@ -98,7 +98,7 @@ void GUI_WebViewDialog::loadStarted() {
 void GUI_WebViewDialog::loadProgress(int) {}
 
 void GUI_WebViewDialog::loadFinished(bool ok) {
-    const TraceScope trace(QStringLiteral("GUI_WebViewDialog::loadFinished"), traceArg(QStringLiteral("ok"), ok));
+    const TraceScope trace(QStringLiteral("GUI_WebViewDialog::loadFinished"), {{"ok", ok}});
     logFailure([this] { centerWithoutMainWindow(*m_host, *this); });
     fadeIn();
     m_loading.reset();

@@ -73,7 +73,7 @@ QMessageBox* makeWarning(const QString& text, const ZebHost& host, QWidget* pare
 
 bool UTL_Messages::warnOkCancel(const QString& text, ZebHost& host, QWidget* parent, const ButtonTexts& buttonTexts) {
     const QString shown = translated(text);
-    const TraceScope trace(QStringLiteral("UTL_Messages::warnOkCancel"), traceArg(QStringLiteral("text"), shown));
+    const TraceScope trace(QStringLiteral("UTL_Messages::warnOkCancel"), {{"text", shown}});
     // The box goes with its parent, which may be destroyed while it stands.
     const QPointer<QMessageBox> box = makeWarning(shown, host, parent ? parent : host.getMainWindow(), buttonTexts);
     const bool suspended = host.isViewerRunning();

@@ -1,11 +1,10 @@
 #include "OperationEventHandler.h"
 
 #include "JS_Mediator.h"
-#include "TraceText.h"
 
-OperationEventHandler::OperationEventHandler(JS_Mediator& bridge, const QString& name, const QString& args)
+OperationEventHandler::OperationEventHandler(JS_Mediator& bridge, const QString& name, TraceArgs args)
     : m_bridge(bridge), m_name(name) {
-    logEnter(m_name, args.trimmed());
+    logEnter(m_name, traceText(args).trimmed());
 }
 
 OperationEventHandler::~OperationEventHandler() {

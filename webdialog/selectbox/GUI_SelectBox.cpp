@@ -92,7 +92,7 @@ void GUI_SelectBox::addJSObject() {
 
 /// A list that was asked for while the page loaded has reached nobody: it is told again.
 void GUI_SelectBox::onLoadFinish(bool ok) {
-    bridgeCall(*m_bridge, [&] {
+    call(*m_bridge, JS_Mediator::Plain, __func__, {}, [&] {
         m_pageLoaded = ok;
         onUpdate();
         // A list that can't be read is not shown, and so not wanted any more.

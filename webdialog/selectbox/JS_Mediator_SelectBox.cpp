@@ -7,7 +7,6 @@
 #include "DocumentGuard.h"
 #include "PrefsDialog.h"
 #include "TextKey.h"
-#include "TraceText.h"
 #include "ZebCameraOps.h"
 #include "ZebDocManager.h"
 #include "ZebHost.h"
@@ -78,18 +77,17 @@ QString JS_Mediator_SelectBox::variablesJson(const QString& value) const {
 /// The frame of all choices.
 template <typename Work>
 void JS_Mediator_SelectBox::choice(const char* method, const QString& value, Work&& work) {
-    const QString name = QStringLiteral("JS_Mediator_SelectBox::") % QLatin1String(method);
-    const QString args = traceArg(QStringLiteral("value"), value);
-    const auto call = [&] {
-        operationCall(*this, name, args, [&] {
+    const auto choose = [&] {
+        call(*this, Change, method, {{"value", value}}, [&] {
             Q_EMIT close();
             work();
         });
     };
     if (m_owner) {
-        changingCall(*m_owner, name, args, call);
+        const QString name = QLatin1String("JS_Mediator_SelectBox::") % QLatin1String(method);
+        m_owner->runCall(Exclusive, name, {{"value", value}}, choose);
     } else {
-        call();
+        choose();
     }
 }
 
@@ -134,7 +132,7 @@ void JS_Mediator_SelectBox::slotNotifyVariable(const QString& value) {
 }
 
 PARTITIONNUMBER JS_Mediator_SelectBox::getCurrentPartition() {
-    return bridgeCall(*this, PARTITIONNUMBER(0), [this] { return currentPartition(host()); });
+    return call(*this, Plain, __func__, {}, [this] { return currentPartition(host()); });
 }
 
 void JS_Mediator_SelectBox::slotNotifyVariableRegist(const QString& value) {
