@@ -1,4 +1,3 @@
-#include "AppDesk.h"
 #include "Camera.h"
 #include "CameraWindows.h"
 #include "CommandLine.h"

@@ -20,28 +20,28 @@ TEST(DropDownBoxes, FloatOverTheWindowOneAtATime) {
     DropDownBoxes boxes(test.host, window);
     const QRect anchor(20, 300, 120, 24);
     const auto waitFor = [&boxes](const char* key) {
-        return QTest::qWaitFor([&] { return !boxes.dropDownBoxRect(key).isNull(); });
+        return QTest::qWaitFor([&] { return !boxes.rect(key).isNull(); });
     };
 
-    boxes.showDropDownBox("nothing", anchor);
-    EXPECT_FALSE(boxes.isDropDownBoxShown());
-    boxes.showDropDownBox("partition", anchor);
+    boxes.show("nothing", anchor);
+    EXPECT_FALSE(boxes.isShown());
+    boxes.show("partition", anchor);
     ASSERT_TRUE(waitFor("partition"));
     // Three partitions, a line and the settings, above the control.
     const QRect place(20, 300 - 5 * 24, 120, 5 * 24);
-    EXPECT_EQ(boxes.dropDownBoxRect("partition"), place);
+    EXPECT_EQ(boxes.rect("partition"), place);
     window.move(300, 200);
-    EXPECT_EQ(boxes.dropDownBoxRect("partition"), place) << "it moves with the window";
+    EXPECT_EQ(boxes.rect("partition"), place) << "it moves with the window";
 
     test.camera(1).change({{"partitions", 1}});
-    boxes.showDropDownBox("variable", anchor);
-    EXPECT_TRUE(boxes.dropDownBoxRect("partition").isNull());
-    boxes.showDropDownBox("partition", anchor);
-    boxes.hideDropDownBox("variable");
-    EXPECT_TRUE(boxes.isDropDownBoxShown());
-    EXPECT_EQ(boxes.dropDownBoxRect("partition").height(), 3 * 24);
-    boxes.hideDropDownBox({});
-    EXPECT_FALSE(boxes.isDropDownBoxShown());
+    boxes.show("variable", anchor);
+    EXPECT_TRUE(boxes.rect("partition").isNull());
+    boxes.show("partition", anchor);
+    boxes.hide("variable");
+    EXPECT_TRUE(boxes.isShown());
+    EXPECT_EQ(boxes.rect("partition").height(), 3 * 24);
+    boxes.hide({});
+    EXPECT_FALSE(boxes.isShown());
 }
 
 }  // namespace

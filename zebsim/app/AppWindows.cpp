@@ -34,11 +34,11 @@ QByteArray pngOf(const QImage& image) {
 
 AppWindows::AppWindows(SimHost& host, const LogStore& log, const CameraWindows& images)
     : m_host(host), m_log(log), m_images(images), m_boxes(host, *host.getMainWindow()), m_saving(host) {
-    host.setAppDesk(this);
+    host.setWindows(this);
 }
 
 AppWindows::~AppWindows() {
-    m_host.setAppDesk(nullptr);
+    m_host.setWindows(nullptr);
 }
 
 void AppWindows::setPage(const QString& page) {
@@ -83,20 +83,11 @@ void AppWindows::editCamera(DOCKEY key) {
     runDialog(m_host, dialog);
 }
 
-void AppWindows::save(bool layout) {
-    m_saving.save(layout);
-}
-
-bool AppWindows::isSaving() const {
-    return m_saving.isSaving();
-}
-
 void AppWindows::snapShot(int mode) {
     takeSnapShot(m_host, currentImage(), mode);
 }
 
 void AppWindows::runProgress(const QString& text, QFutureWatcherBase& watcher) {
-    m_host.docManager().endTurn();
     waitWithProgress(m_host, text, watcher);
 }
 
@@ -125,20 +116,4 @@ void AppWindows::addToSupportFile(ZebSupportFile& file) const {
     if (!image.isNull()) {
         file.files.insert(QStringLiteral("image.png"), pngOf(image));
     }
-}
-
-void AppWindows::showDropDownBox(const QString& key, const QRect& anchor) {
-    m_boxes.showDropDownBox(key, anchor);
-}
-
-void AppWindows::hideDropDownBox(const QString& key) {
-    m_boxes.hideDropDownBox(key);
-}
-
-bool AppWindows::isDropDownBoxShown() const {
-    return m_boxes.isDropDownBoxShown();
-}
-
-QRect AppWindows::dropDownBoxRect(const QString& key) const {
-    return m_boxes.dropDownBoxRect(key);
 }

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "AppDesk.h"
 #include "DropDownBoxes.h"
+#include "HostWindows.h"
 #include "SaveDesk.h"
 #include "ZebPrefsDialog.h"
 #include "ZebTypes.h"
@@ -11,7 +11,7 @@ class LogStore;
 class SimHost;
 
 /// The application's windows behind the host: dialogs, the image in front, pictures for a support file.
-class AppWindows : public AppDesk, private ZebPrefsDialog {
+class AppWindows : public HostWindows, private ZebPrefsDialog {
 public:
     /// All must outlive the object, and so must the host's main window.
     AppWindows(SimHost& host, const LogStore& log, const CameraWindows& images);
@@ -21,23 +21,24 @@ public:
 
     /// Name and comment of a camera. Left when the camera goes, or when others take its place.
     void editCamera(DOCKEY key);
+    /// The dialog of preferences; runs until it is closed.
+    void openPreferences() { runPreferences(); }
     /// The plug-in's file; empty for none.
     void setPluginFile(const QString& path) { m_pluginFile = path; }
 
     ZebPrefsDialog* prefsDialog() override { return this; }
-    void openPreferences() override { runPreferences(); }
     void openEthernetSettings() override;
     void openAbout() override;
     void runProgress(const QString& text, QFutureWatcherBase& watcher) override;
-    void save(bool layout) override;
-    bool isSaving() const override;
+    void save(bool layout) override { m_saving.save(layout); }
+    bool isSaving() const override { return m_saving.isSaving(); }
     void snapShot(int mode) override;
     QImage currentImage() const override;
     void addToSupportFile(ZebSupportFile& file) const override;
-    void showDropDownBox(const QString& key, const QRect& anchor) override;
-    void hideDropDownBox(const QString& key) override;
-    bool isDropDownBoxShown() const override;
-    QRect dropDownBoxRect(const QString& key) const override;
+    void showDropDownBox(const QString& key, const QRect& anchor) override { m_boxes.show(key, anchor); }
+    void hideDropDownBox(const QString& key) override { m_boxes.hide(key); }
+    bool isDropDownBoxShown() const override { return m_boxes.isShown(); }
+    QRect dropDownBoxRect(const QString& key) const override { return m_boxes.rect(key); }
 
 private:
     void setPage(const QString& page) override;

@@ -37,16 +37,16 @@ DropDownBoxes::DropDownBoxes(SimHost& host, QWidget& window) : m_host(host), m_w
 
 DropDownBoxes::~DropDownBoxes() = default;
 
-void DropDownBoxes::showDropDownBox(const QString& key, const QRect& anchor) {
+void DropDownBoxes::show(const QString& key, const QRect& anchor) {
     const std::optional<SelectBoxType> type = typeOf(key);
     if (!type) {
         return;
     }
-    hideDropDownBox({});
+    hide({});
     box(key).showBox(int(*type), anchor, {});
 }
 
-void DropDownBoxes::hideDropDownBox(const QString& key) {
+void DropDownBoxes::hide(const QString& key) {
     for (const auto& entry : m_boxes) {
         if (key.isEmpty() || entry.first == key) {
             entry.second->hide();
@@ -54,11 +54,11 @@ void DropDownBoxes::hideDropDownBox(const QString& key) {
     }
 }
 
-bool DropDownBoxes::isDropDownBoxShown() const {
+bool DropDownBoxes::isShown() const {
     return std::any_of(m_boxes.begin(), m_boxes.end(), [](const auto& entry) { return entry.second->isVisible(); });
 }
 
-QRect DropDownBoxes::dropDownBoxRect(const QString& key) const {
+QRect DropDownBoxes::rect(const QString& key) const {
     const auto found = m_boxes.find(key);
     if (found == m_boxes.end() || !found->second->isVisible()) {
         return {};

@@ -25,12 +25,12 @@ public:
 
     /// Opens the list of that key beside `anchor`; an unknown key is ignored. Throws what the cameras throw; the list
     /// is hidden then.
-    void showDropDownBox(const QString& key, const QRect& anchor);
+    void show(const QString& key, const QRect& anchor);
     /// An empty key hides all of them.
-    void hideDropDownBox(const QString& key);
-    bool isDropDownBoxShown() const;
+    void hide(const QString& key);
+    bool isShown() const;
     /// Where the list of that key stands; a null rectangle while it is hidden.
-    QRect dropDownBoxRect(const QString& key) const;
+    QRect rect(const QString& key) const;
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;

@@ -1,6 +1,6 @@
 #include "SaveKeys.h"
 
-#include "AppDesk.h"
+#include "HostWindows.h"
 #include "PluginSignal.h"
 #include "SimHost.h"
 #include "UiText.h"
@@ -8,21 +8,21 @@
 #include <QAction>
 #include <QToolBar>
 
-SaveKeys::SaveKeys(SimHost& host, AppDesk& desk, QToolBar& bar)
+SaveKeys::SaveKeys(SimHost& host, HostWindows& windows, QToolBar& bar)
     : QObject(&bar),
       m_host(host),
       m_save(bar, uiText("Save"), QStringLiteral("Ctrl+S"), [this] { return refusal(); }),
       m_layout(bar, uiText("Save layout"), QStringLiteral("Ctrl+Shift+S"), [this] { return refusal(); }) {
     m_save.action().setObjectName(QStringLiteral("save"));
     m_layout.action().setObjectName(QStringLiteral("saveLayout"));
-    connect(&m_save, &BarKey::pressed, this, [this, &desk] {
+    connect(&m_save, &BarKey::pressed, this, [this, &windows] {
         if (!sendToActivePlugin(m_host.appStatus(), "signalSaveFile")) {
-            desk.save(false);
+            windows.save(false);
         }
     });
-    connect(&m_layout, &BarKey::pressed, this, [this, &desk] {
+    connect(&m_layout, &BarKey::pressed, this, [this, &windows] {
         if (!sendToActivePlugin(m_host.appStatus(), "signalSaveLayout")) {
-            desk.save(true);
+            windows.save(true);
         }
     });
     connect(&host.events(), &HostEvents::modeChanged, this, &SaveKeys::refresh);

@@ -2,7 +2,7 @@
 
 #include "BarKey.h"
 
-class AppDesk;
+class HostWindows;
 class QToolBar;
 class SimHost;
 
@@ -12,8 +12,8 @@ class SaveKeys : public QObject {
     Q_OBJECT
 
 public:
-    /// The object goes with the bar. Host and desk must live until the application's event loop has ended.
-    SaveKeys(SimHost& host, AppDesk& desk, QToolBar& bar);
+    /// The object goes with the bar. Host and windows must live until the application's event loop has ended.
+    SaveKeys(SimHost& host, HostWindows& windows, QToolBar& bar);
 
 private:
     QString refusal() const;

@@ -47,10 +47,10 @@ Simulator::Simulator(const CommandLine& line) : m_host(m_clock, m_boxes, line.pr
     m_host.setMainWindow(m_window.get());
     m_boxes.setHost(&m_host);
     m_host.setMdiWidget(m_window->mdiArea());
-    m_desk = std::make_unique<AppWindows>(m_host, m_log, m_window->images());
-    m_window->addDialogs(*m_desk);
+    m_windows = std::make_unique<AppWindows>(m_host, m_log, m_window->images());
+    m_window->addDialogs(*m_windows);
     QObject::connect(&m_host.events(), &HostEvents::updateFinished, m_window.get(), [this] { m_boxes.followStyle(); });
-    m_host.docManager().setEditor([this](DOCKEY key) { m_desk->editCamera(key); });
+    m_host.docManager().setEditor([this](DOCKEY key) { m_windows->editCamera(key); });
     QObject::connect(m_window.get(), &ViewerWindow::closeAsked, m_window.get(), [this] {
         if (mayLetGoOfRecording(m_host, uiText("Cameras are armed or recording. Close the viewer all the same?")) &&
             m_host.unsavedGuard().mayClose()) {
@@ -67,7 +67,7 @@ Simulator::~Simulator() {
     if (m_slot) {
         m_slot->close();
     }
-    m_desk.reset();
+    m_windows.reset();
     m_window.reset();
     m_slot.reset();
     m_loader.reset();
@@ -105,7 +105,7 @@ void Simulator::loadPlugin(const CommandLine& line) {
     }
     const QString file = line.plugin.isEmpty() ? beside : line.plugin;
     m_loader = std::make_unique<PluginLoader>(file, m_host);
-    m_desk->setPluginFile(file);
+    m_windows->setPluginFile(file);
     m_slot = std::make_unique<PluginSlot>(m_host, m_loader->plugin());
     m_window->addPlugin(*m_slot);
 }

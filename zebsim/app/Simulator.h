@@ -53,6 +53,6 @@ private:
     std::unique_ptr<PluginLoader> m_loader;
     std::unique_ptr<PluginSlot> m_slot;
     std::unique_ptr<ViewerWindow> m_window;
-    std::unique_ptr<AppWindows> m_desk;
+    std::unique_ptr<AppWindows> m_windows;
     QTimer m_recorderTimer;
 };

@@ -1,6 +1,6 @@
 #include "ViewerWindow.h"
 
-#include "AppDesk.h"
+#include "AppWindows.h"
 #include "Camera.h"
 #include "CameraWindows.h"
 #include "HostKeys.h"
@@ -90,18 +90,18 @@ void ViewerWindow::addStyleSwitch() {
     }
 }
 
-void ViewerWindow::addDialogs(AppDesk& desk) {
+void ViewerWindow::addDialogs(AppWindows& windows) {
     m_bar->addSeparator();
-    new SaveKeys(m_host, desk, *m_bar);
+    new SaveKeys(m_host, windows, *m_bar);
     m_bar->addSeparator();
     const auto add = [this](const char* text, const char* name, const std::function<void()>& open) {
         QAction* action = m_bar->addAction(uiText(text));
         action->setObjectName(QLatin1String(name));
         connect(action, &QAction::triggered, this, open);
     };
-    add(QT_TR_NOOP("Preferences"), "preferences", [&desk] { desk.openPreferences(); });
-    add(QT_TR_NOOP("Ethernet"), "ethernet", [&desk] { desk.openEthernetSettings(); });
-    add(QT_TR_NOOP("About ZEB"), "about", [&desk] { desk.openAbout(); });
+    add(QT_TR_NOOP("Preferences"), "preferences", [&windows] { windows.openPreferences(); });
+    add(QT_TR_NOOP("Ethernet"), "ethernet", [&windows] { windows.openEthernetSettings(); });
+    add(QT_TR_NOOP("About ZEB"), "about", [&windows] { windows.openAbout(); });
 }
 
 QAction* ViewerWindow::addChoice(QActionGroup* group, const QString& text, const QString& name) {

@@ -4,7 +4,7 @@
 
 #include <memory>
 
-class AppDesk;
+class AppWindows;
 class CameraWindows;
 class ImageArea;
 class LogStore;
@@ -26,9 +26,9 @@ public:
 
     /// Gives the plug-in a button of its name in the tool bar. The slot must outlive the window.
     void addPlugin(PluginSlot& slot);
-    /// Buttons that save, and those for the application's dialogs. The desk must live until the application's event
-    /// loop has ended.
-    void addDialogs(AppDesk& desk);
+    /// Buttons that save, and those for the application's dialogs. They must live until the application's event loop
+    /// has ended.
+    void addDialogs(AppWindows& windows);
     QMdiArea* mdiArea() const;
     CameraWindows& images() { return *m_images; }
 

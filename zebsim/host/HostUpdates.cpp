@@ -1,6 +1,5 @@
 #include "HostUpdates.h"
 
-#include "HostCalls.h"
 #include "HostEvents.h"
 #include "HostMessages.h"
 #include "SimAppStatus.h"

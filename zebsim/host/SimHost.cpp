@@ -1,12 +1,9 @@
 #include "SimHost.h"
 
-#include "AppDesk.h"
 #include "Rig.h"
 #include "SupportFile.h"
 #include "TextKey.h"
 
-#include <QEventLoop>
-#include <QFutureWatcher>
 #include <QMessageBox>
 #include <QtDebug>
 
@@ -24,7 +21,7 @@ SimHost::SimHost(Clock& clock, MessageDesk& desk, const QString& prefsPath)
       m_messages(*this, desk, m_prefs, m_docManager),
       m_hostPrefs(m_calls, m_prefs),
       m_states(m_flags, m_cameras),
-      m_hostUpdates(m_appStatus, m_events, m_messages),
+      m_hostUpdates(m_calls, m_updates, m_appStatus, m_events, m_messages),
       m_notices([this](Message::Kind kind, const QString& text) { m_messages.notify(kind, text); }),
       m_unsavedGuard(m_cameras, m_prefs, m_translator,
                      [this](const QString& question, const QStringList& lines) { return mayLose(question, lines); }),
@@ -37,7 +34,7 @@ SimHost::SimHost(Clock& clock, MessageDesk& desk, const QString& prefsPath)
                    m_notices, m_unsavedGuard, [this](const std::exception& e) { m_messages.tellFailure(e); }),
       m_liveLoop(m_calls, m_cameras, m_events),
       m_player(m_calls),
-      m_saver(m_calls, m_flags, [this] { return m_appDesk; }),
+      m_saver(m_calls, m_flags, m_windows),
       m_cameraOps(m_calls, m_cameras, m_docManager, m_recorder, m_saver, m_prefs, m_flags, m_translator, m_notices),
       m_viewOps(m_cameras, m_flags),
       m_mdi(m_cameras, m_appStatus, m_flags),
@@ -69,45 +66,10 @@ void SimHost::setRig(const Rig& rig) {
     m_updates.request();
 }
 
-ZebPrefsDialog* SimHost::getPrefsDialog() {
-    m_calls.ask("getPrefsDialog");
-    return m_appDesk ? m_appDesk->prefsDialog() : nullptr;
-}
-
-void SimHost::openPrefsEthernetSettings() {
-    m_calls.change("ZebHost::openPrefsEthernetSettings");
-    if (m_appDesk) {
-        m_appDesk->openEthernetSettings();
-    }
-}
-
-void SimHost::openAboutDialog() {
-    m_calls.change("ZebHost::openAboutDialog");
-    if (m_appDesk) {
-        m_appDesk->openAbout();
-    }
-}
-
-void SimHost::execProgress(const QString& text, QFutureWatcherBase& watcher) {
-    m_calls.change("ZebHost::execProgress", {text});
-    if (m_appDesk) {
-        m_appDesk->runProgress(text, watcher);
-        return;
-    }
-    m_docManager.endTurn();
-    QEventLoop loop;
-    QObject::connect(&watcher, &QFutureWatcherBase::finished, &loop, &QEventLoop::quit);
-    if (!watcher.isFinished()) {
-        loop.exec();
-    }
-}
-
 void SimHost::prepareSupportFile(ZebSupportFile& file) {
     m_calls.ask("prepareSupportFile");
     addHostState(file, *this);
-    if (m_appDesk) {
-        m_appDesk->addToSupportFile(file);
-    }
+    m_windows->addToSupportFile(file);
 }
 
 bool SimHost::exportSupportFile(const QString& path, const ZebSupportFile& file) {
@@ -117,51 +79,6 @@ bool SimHost::exportSupportFile(const QString& path, const ZebSupportFile& file)
 bool SimHost::hasWrenWindow() const {
     PLG_Interface* wren = m_appStatus.getPlugin(QStringLiteral("wren"));
     return wren && wren->isDialogVisible();
-}
-
-void SimHost::hideSelectBox() {
-    m_calls.change("ZebHost::hideSelectBox");
-    hideDropDownBox({});
-}
-
-bool SimHost::isShownDropBox() const {
-    m_calls.ask("isShownDropBox");
-    return m_appDesk && m_appDesk->isDropDownBoxShown();
-}
-
-void SimHost::showDropDownBox(const QString& key, const QRect& anchor) {
-    m_calls.change("ZebHost::showDropDownBox", {key});
-    if (m_appDesk) {
-        m_appDesk->showDropDownBox(key, anchor);
-    }
-}
-
-void SimHost::hideDropDownBox(const QString& key) {
-    m_calls.ask("hideDropDownBox");
-    if (m_appDesk) {
-        m_appDesk->hideDropDownBox(key);
-    }
-}
-
-void SimHost::hideDropDownBoxAt(const QString& key, const QPoint& point) {
-    m_calls.ask("hideDropDownBoxAt");
-    if (m_appDesk && !m_appDesk->dropDownBoxRect(key).contains(point)) {
-        m_appDesk->hideDropDownBox(key);
-    }
-}
-
-void SimHost::saveFiles() {
-    m_calls.change("ZebHost::saveFiles");
-    if (m_appDesk) {
-        m_appDesk->save(false);
-    }
-}
-
-void SimHost::saveLayoutFiles() {
-    m_calls.change("ZebHost::saveLayoutFiles");
-    if (m_appDesk) {
-        m_appDesk->save(true);
-    }
 }
 
 bool SimHost::mayLose(const QString& question, const QStringList& lines) {

@@ -9,6 +9,7 @@
 #include "HostPrefs.h"
 #include "HostStates.h"
 #include "HostUpdates.h"
+#include "HostWindows.h"
 #include "ImagePlugins.h"
 #include "Journal.h"
 #include "Notices.h"
@@ -34,7 +35,6 @@
 #include <QPointer>
 #include <QWidget>
 
-class AppDesk;
 class Clock;
 class MessageDesk;
 struct Rig;
@@ -51,8 +51,8 @@ public:
     /// The windows; null at first, not owned.
     void setMainWindow(QWidget* window) { m_mainWindow = window; }
     void setMdiWidget(QWidget* widget) { m_mdiWidget = widget; }
-    /// The windows that the host opens by itself; null at first, not owned.
-    void setAppDesk(AppDesk* desk) { m_appDesk = desk; }
+    /// The windows that the host opens by itself, not owned; null, as at first, for none.
+    void setWindows(HostWindows* windows) { m_windows = windows ? windows : &m_noWindows; }
     /// Speaks another language, as "ja"; false when there is no catalogue for it. English at first.
     bool setLanguage(const QString& language) { return m_translator.load(language); }
     /// Replaces all cameras and hubs. Keys count from 1 again; documents of the old ones are dead.
@@ -152,21 +152,56 @@ public:
     }
     void errorHandler(const std::exception& e) override { pluginBox("errorHandler").tellFailureOrNews(e); }
 
-    ZebPrefsDialog* getPrefsDialog() override;
-    void openPrefsEthernetSettings() override;
-    void openAboutDialog() override;
-    /// Without an application's windows it only waits.
-    void execProgress(const QString& text, QFutureWatcherBase& watcher) override;
+    ZebPrefsDialog* getPrefsDialog() override {
+        m_calls.ask("getPrefsDialog");
+        return m_windows->prefsDialog();
+    }
+    void openPrefsEthernetSettings() override {
+        m_calls.change("ZebHost::openPrefsEthernetSettings");
+        m_windows->openEthernetSettings();
+    }
+    void openAboutDialog() override {
+        m_calls.change("ZebHost::openAboutDialog");
+        m_windows->openAbout();
+    }
+    void execProgress(const QString& text, QFutureWatcherBase& watcher) override {
+        m_calls.change("ZebHost::execProgress", {text});
+        m_docManager.endTurn();
+        m_windows->runProgress(text, watcher);
+    }
     void prepareSupportFile(ZebSupportFile& file) override;
     bool exportSupportFile(const QString& path, const ZebSupportFile& file) override;
-    void saveFiles() override;
-    void saveLayoutFiles() override;
+    void saveFiles() override {
+        m_calls.change("ZebHost::saveFiles");
+        m_windows->save(false);
+    }
+    void saveLayoutFiles() override {
+        m_calls.change("ZebHost::saveLayoutFiles");
+        m_windows->save(true);
+    }
     bool hasWrenWindow() const override;
-    void hideSelectBox() override;
-    bool isShownDropBox() const override;
-    void showDropDownBox(const QString& key, const QRect& anchor) override;
-    void hideDropDownBox(const QString& key) override;
-    void hideDropDownBoxAt(const QString& key, const QPoint& point) override;
+    void hideSelectBox() override {
+        m_calls.change("ZebHost::hideSelectBox");
+        hideDropDownBox({});
+    }
+    bool isShownDropBox() const override {
+        m_calls.ask("isShownDropBox");
+        return m_windows->isDropDownBoxShown();
+    }
+    void showDropDownBox(const QString& key, const QRect& anchor) override {
+        m_calls.change("ZebHost::showDropDownBox", {key});
+        m_windows->showDropDownBox(key, anchor);
+    }
+    void hideDropDownBox(const QString& key) override {
+        m_calls.ask("hideDropDownBox");
+        m_windows->hideDropDownBox(key);
+    }
+    void hideDropDownBoxAt(const QString& key, const QPoint& point) override {
+        m_calls.ask("hideDropDownBoxAt");
+        if (!m_windows->dropDownBoxRect(key).contains(point)) {
+            m_windows->hideDropDownBox(key);
+        }
+    }
     QObject* getAppObject() override { return &m_appObject; }
     QObject* getMainObject() override { return &m_mainObject; }
 
@@ -174,19 +209,10 @@ public:
     QWidget* getMdiWidget() const override { return m_mdiWidget; }
     void attachBridge(QWebView* view, ZebPageBridge* bridge) override { m_hostUpdates.attachBridge(view, bridge); }
 
-    void updateUI(unsigned int mask, bool refresh) override {
-        m_calls.note("ZebHost::updateUI", {mask, refresh});
-        m_updates.request();
-    }
-    void deterUpdateUI(bool deter) override {
-        m_calls.note("ZebHost::deterUpdateUI", {deter});
-        m_updates.deter(deter);
-    }
+    void updateUI(unsigned int mask, bool refresh) override { m_hostUpdates.updateUI(mask, refresh); }
+    void deterUpdateUI(bool deter) override { m_hostUpdates.deterUpdateUI(deter); }
     bool isUpdateIgnore() const override { return m_flags.isOn(QStringLiteral("IsUpdateIgnore")); }
-    void refreshTools() override {
-        m_calls.change("ZebHost::refreshTools");
-        m_updates.request();
-    }
+    void refreshTools() override { m_hostUpdates.refreshTools(); }
 
     /// Shows as the state "IsModalessDialogTextFocussing".
     void setTextBoxFocusState(bool focused) override {
@@ -195,14 +221,8 @@ public:
     }
 
     bool isViewerRunning() const override { return m_hostUpdates.isViewerRunning(); }
-    void suspendViewer() override {
-        m_calls.note("ZebHost::suspendViewer");
-        m_hostUpdates.suspendViewer();
-    }
-    void resumeViewer() override {
-        m_calls.note("ZebHost::resumeViewer");
-        m_hostUpdates.resumeViewer();
-    }
+    void suspendViewer() override { m_hostUpdates.suspendViewer(); }
+    void resumeViewer() override { m_hostUpdates.resumeViewer(); }
 
     bool isReady() const override { return !isApplicationClosing(); }
     bool isApplicationClosing() const override { return m_flags.isOn(QStringLiteral("IsApplicationClosing")); }
@@ -259,7 +279,8 @@ private:
     AppObject m_appObject;
     /// The main window as pages see it: they can name it, no more.
     QObject m_mainObject;
-    AppDesk* m_appDesk = nullptr;
+    HostWindows m_noWindows;
+    HostWindows* m_windows = &m_noWindows;
     QPointer<QWidget> m_mainWindow;
     QPointer<QWidget> m_mdiWidget;
 

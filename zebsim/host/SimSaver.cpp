@@ -1,19 +1,14 @@
 #include "SimSaver.h"
 
-#include "AppDesk.h"
 #include "HostCalls.h"
+#include "HostWindows.h"
 #include "StatusFlags.h"
 
 #include <QClipboard>
 #include <QGuiApplication>
 
-#include <utility>
-
-SimSaver::SimSaver(const HostCalls& calls, const StatusFlags& flags, std::function<AppDesk*()> desk)
-    : m_calls(calls), m_flags(flags), m_desk(std::move(desk)) {}
-
 bool SimSaver::isSaving() const {
-    return m_flags.isOn(QStringLiteral("IsSaving")) || (m_desk() && m_desk()->isSaving());
+    return m_flags.isOn(QStringLiteral("IsSaving")) || m_windows->isSaving();
 }
 
 bool SimSaver::isBgSaving() const {
@@ -26,7 +21,7 @@ bool SimSaver::isBgConverting() const {
 
 void SimSaver::copyToClipboard(int what) {
     m_calls.change("ZebSaver::copyToClipboard", {what});
-    const QImage image = m_desk() ? m_desk()->currentImage() : QImage();
+    const QImage image = m_windows->currentImage();
     if (!image.isNull()) {
         QGuiApplication::clipboard()->setImage(image);
     }
@@ -34,7 +29,5 @@ void SimSaver::copyToClipboard(int what) {
 
 void SimSaver::snapShot(int mode) {
     m_calls.change("ZebSaver::snapShot", {mode});
-    if (m_desk()) {
-        m_desk()->snapShot(mode);
-    }
+    m_windows->snapShot(mode);
 }

@@ -2,17 +2,16 @@
 
 #include "ZebSaver.h"
 
-#include <functional>
-
-class AppDesk;
 class HostCalls;
+class HostWindows;
 class StatusFlags;
 
 /// Whether images are being saved, and the way to the clipboard.
 class SimSaver : public ZebSaver {
 public:
-    /// `desk` answers the application's windows, null without an application.
-    SimSaver(const HostCalls& calls, const StatusFlags& flags, std::function<AppDesk*()> desk);
+    /// The windows may be others from call to call.
+    SimSaver(const HostCalls& calls, const StatusFlags& flags, HostWindows* const& windows)
+        : m_calls(calls), m_flags(flags), m_windows(windows) {}
 
     bool isSaving() const override;
     bool isBgSaving() const override;
@@ -23,5 +22,5 @@ public:
 private:
     const HostCalls& m_calls;
     const StatusFlags& m_flags;
-    const std::function<AppDesk*()> m_desk;
+    HostWindows* const& m_windows;
 };

@@ -1,0 +1,45 @@
+#pragma once
+
+#include <QImage>
+#include <QRect>
+#include <QString>
+
+class QFutureWatcherBase;
+class ZebPrefsDialog;
+struct ZebSupportFile;
+
+/// The application's own windows, as the host reaches them. These are the ones of a host without an application:
+/// nothing happens. GUI thread.
+class HostWindows {
+public:
+    virtual ~HostWindows() = default;
+
+    /// The dialog of preferences; null without an application.
+    virtual ZebPrefsDialog* prefsDialog() { return nullptr; }
+    /// Each runs until the user has closed it.
+    virtual void openEthernetSettings() {}
+    virtual void openAbout() {}
+    /// A modal progress with `text` until `watcher` has finished; nothing cancels it. Without an application it only
+    /// waits.
+    virtual void runProgress(const QString& text, QFutureWatcherBase& watcher);
+
+    /// Asks what is to be saved of the recordings and where, each camera for itself or all in one picture, and begins.
+    virtual void save(bool /*layout*/) {}
+    virtual bool isSaving() const { return false; }
+    /// As `ZebSaver::snapShot`.
+    virtual void snapShot(int /*mode*/) {}
+
+    /// The image in front as it is shown; a null image without one.
+    virtual QImage currentImage() const { return {}; }
+    /// Adds what only the application knows: its log, pictures of its windows and of its plug-ins' dialogs.
+    virtual void addToSupportFile(ZebSupportFile& /*file*/) const {}
+
+    /// The floating lists beside a control of the viewer's page, by key: "partition", "variable", "variableRegist". An
+    /// unknown key is ignored.
+    virtual void showDropDownBox(const QString& /*key*/, const QRect& /*anchor*/) {}
+    /// Without a key all of them.
+    virtual void hideDropDownBox(const QString& /*key*/) {}
+    virtual bool isDropDownBoxShown() const { return false; }
+    /// Where the list of that key stands, in the pixels of the page; a null rectangle while it is hidden.
+    virtual QRect dropDownBoxRect(const QString& /*key*/) const { return {}; }
+};
