@@ -1,4 +1,4 @@
-#include "FaultOperations.h"
+#include "Operation.h"
 #include "TablePage.h"
 #include "support/FaultChoice.h"
 
@@ -79,7 +79,7 @@ TEST_F(PageFailures, AGetterThatFailsEmptiesItsCellsAndNoOtherRow) {
     for (int tab = 0; tab < 7; ++tab) {
         page->show(tab);
         page->run("probe.before = probe.shapes(); return 0");
-        for (const QString& operation : cameraOperations()) {
+        for (const QString& operation : CameraOperation::names()) {
             SCOPED_TRACE("tab " + std::to_string(tab) + ", " + operation.toStdString());
             plant(7, operation);
             const QStringList writes = page->tick();

@@ -1,8 +1,8 @@
 #include "DOC_Control.h"
 #include "DOC_Frames.h"
 #include "DOC_Interface.h"
-#include "FaultOperations.h"
 #include "LiveObjects.h"
+#include "Operation.h"
 #include "TablePage.h"
 
 #include <QAbstractButton>
@@ -71,11 +71,11 @@ const char* Shown = R"js((() => {
 })())js";
 
 /// In an order that a seed repeats.
-const QStringList Operations = [] {
-    QStringList names = cameraOperations().values();
+QStringList operations() {
+    QStringList names = CameraOperation::names().values();
     names.sort();
     return names;
-}();
+}
 
 const char* Strays = "String(window.hostile) + $('img[src=x]').length";
 
@@ -238,7 +238,7 @@ private:
     QString fallSilent() {
         m_test.host.faults().plant(m_silent, m_unanswered, {});
         m_silent = anyCamera().key();
-        m_unanswered = anyOf(Operations);
+        m_unanswered = anyOf(operations());
         if (upTo(2) == 0) {
             m_test.host.faults().plant(m_silent, m_unanswered, Fault{"no answer"});
         }

@@ -140,7 +140,7 @@ TEST_F(Messages, FaultsAndJournalBearManyThreads) {
             host.journal().record("call", {key});
             try {
                 test.camera(key).setRecordRate(50);
-                test.camera(key).askConnected("getRecordRate");
+                test.camera(key).askConnected(OPERATION("getRecordRate"));
             } catch (const CameraError&) {
                 ASSERT_EQ(i % 2, 0);
             }

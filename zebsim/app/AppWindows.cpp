@@ -42,12 +42,12 @@ AppWindows::~AppWindows() {
 }
 
 void AppWindows::setPage(const QString& page) {
-    m_host.calls().ask("setPage");
+    m_host.calls().ask(OPERATION("setPage"));
     m_page = page;
 }
 
 int AppWindows::exec() {
-    m_host.calls().ask("exec");
+    m_host.calls().ask(OPERATION("exec"));
     return runPreferences();
 }
 

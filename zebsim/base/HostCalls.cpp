@@ -3,7 +3,6 @@
 #include "FaultPlan.h"
 #include "Journal.h"
 
-#include <cstring>
 #include <stdexcept>
 
 namespace {
@@ -20,19 +19,19 @@ HostCalls::Own::~Own() {
     --ownWork;
 }
 
-void HostCalls::ask(const char* operation) const {
+void HostCalls::ask(HostOperation operation) const {
     if (ownWork > 0) {
         return;
     }
-    const QString reason = m_faults.suffer(FaultPlan::Host, operation, m_clock);
+    const QString reason = m_faults.suffer(FaultPlan::Host, operation.name(), m_clock);
     if (!reason.isEmpty()) {
         throw std::runtime_error(reason.toStdString());
     }
 }
 
-void HostCalls::change(const char* call, const QVariantList& args) const {
-    note(call, args);
-    ask(std::strrchr(call, ':') + 1);
+void HostCalls::change(HostOperation operation, const QVariantList& args) const {
+    note(operation.call(), args);
+    ask(operation);
 }
 
 void HostCalls::note(const char* call, const QVariantList& args) const {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Operation.h"
+
 #include <QVariantList>
 
 class Clock;
@@ -14,10 +16,10 @@ public:
         : m_journal(journal), m_faults(faults), m_clock(clock) {}
 
     /// A question begins with this; it takes the time that a planted fault says. Throws `std::runtime_error`.
-    void ask(const char* operation) const;
-    /// The same for what changes something, as "ZebHost::setPref".
-    void change(const char* call, const QVariantList& args = {}) const;
-    /// A change that can't fail.
+    void ask(HostOperation operation) const;
+    /// The same for what changes something.
+    void change(HostOperation operation, const QVariantList& args = {}) const;
+    /// A change that can't fail, as "ZebHost::updateUI".
     void note(const char* call, const QVariantList& args = {}) const;
 
     /// While one lives, what is asked on its thread is the host's own and meets no fault.

@@ -112,14 +112,14 @@ void Camera::change(const QVariantMap& members) {
     m_state.apply(members);
 }
 
-void Camera::ask(const char* operation) const {
-    const QString reason = m_device.faults().suffer(m_key, operation, m_device.clock());
+void Camera::ask(CameraOperation operation) const {
+    const QString reason = m_device.faults().suffer(m_key, operation.name(), m_device.clock());
     if (!reason.isEmpty()) {
         refuse(reason);
     }
 }
 
-void Camera::askConnected(const char* operation) const {
+void Camera::askConnected(CameraOperation operation) const {
     requireConnected();
     ask(operation);
 }
@@ -130,30 +130,30 @@ void Camera::requireConnected() const {
     }
 }
 
-bool Camera::command(const char* operation) {
+bool Camera::command(CameraOperation operation) {
     ask(operation);
     m_device.clock().wait(m_device.latency());
     return !isGone();
 }
 
-bool Camera::commandConnected(const char* operation) {
+bool Camera::commandConnected(CameraOperation operation) {
     requireConnected();
     const bool there = command(operation);
-    if (there && get(&CameraState::lowLight) && model().lowLightRefuses.contains(QLatin1String(operation))) {
+    if (there && get(&CameraState::lowLight) && model().lowLightRefuses.contains(QLatin1String(operation.name()))) {
         refuse(QStringLiteral("this can't be changed in low light mode"));
     }
     return there;
 }
 
 void Camera::connect() {
-    if (!command("connectDocs")) {
+    if (!command(OPERATION("connectDocs"))) {
         return;
     }
     onAllHeads(&CameraState::connected, true);
 }
 
 void Camera::disconnect() {
-    if (!command("disconnectDocs")) {
+    if (!command(OPERATION("disconnectDocs"))) {
         return;
     }
     for (const auto& head : m_device.heads()) {
@@ -173,7 +173,7 @@ void Camera::require(int function, const char* mode) const {
 }
 
 void Camera::setRecordRate(unsigned int rate) {
-    if (!commandConnected("setRecordRate")) {
+    if (!commandConnected(OPERATION("setRecordRate"))) {
         return;
     }
     try {
@@ -194,7 +194,7 @@ void Camera::fitShutter() {
 }
 
 void Camera::setShutterSpeed(int speed) {
-    if (!commandConnected("setShutterSpeed")) {
+    if (!commandConnected(OPERATION("setShutterSpeed"))) {
         return;
     }
     if (!model().shutters.contains(speed)) {
@@ -209,7 +209,7 @@ void Camera::setShutterSpeed(int speed) {
 }
 
 void Camera::setResolution(const QSize& resolution) {
-    if (!commandConnected("setResolution")) {
+    if (!commandConnected(OPERATION("setResolution"))) {
         return;
     }
     if (!model().resolutions.contains(resolution)) {
@@ -223,7 +223,7 @@ void Camera::setResolution(const QSize& resolution) {
 }
 
 void Camera::setTriggerMode(int mode, const zeb::TriggerSettings& settings) {
-    if (!commandConnected("setTriggerMode")) {
+    if (!commandConnected(OPERATION("setTriggerMode"))) {
         return;
     }
     if (!model().triggerModes.contains(mode)) {
@@ -241,14 +241,14 @@ void Camera::setTriggerMode(int mode, const zeb::TriggerSettings& settings) {
 }
 
 void Camera::setRandomTriggerPhase(bool counted) {
-    if (!commandConnected("setRandomTriggerPhase")) {
+    if (!commandConnected(OPERATION("setRandomTriggerPhase"))) {
         return;
     }
     onAllHeads(&CameraState::randomCounted, counted);
 }
 
 void Camera::setReduceMode(bool on) {
-    if (!commandConnected("setReduceMode")) {
+    if (!commandConnected(OPERATION("setReduceMode"))) {
         return;
     }
     require(zeb::FunctionReduceMode, "live speed to choose");
@@ -256,7 +256,7 @@ void Camera::setReduceMode(bool on) {
 }
 
 void Camera::synchronise(const SyncSource& source) {
-    if (!commandConnected("synchronise")) {
+    if (!commandConnected(OPERATION("synchronise"))) {
         return;
     }
     const std::lock_guard lock(m_device.mutex());
@@ -266,7 +266,7 @@ void Camera::synchronise(const SyncSource& source) {
 }
 
 void Camera::setLowLight(bool on) {
-    if (!commandConnected("setLowLight")) {
+    if (!commandConnected(OPERATION("setLowLight"))) {
         return;
     }
     require(zeb::FunctionLowLight, "low light mode");
@@ -275,7 +275,7 @@ void Camera::setLowLight(bool on) {
 }
 
 void Camera::setLowLightType(int type) {
-    if (!commandConnected("setLowLightType")) {
+    if (!commandConnected(OPERATION("setLowLightType"))) {
         return;
     }
     require(zeb::FunctionLowLight, "low light mode");
@@ -283,21 +283,21 @@ void Camera::setLowLightType(int type) {
 }
 
 void Camera::setName(const QString& name) {
-    if (!commandConnected("setCameraName")) {
+    if (!commandConnected(OPERATION("setCameraName"))) {
         return;
     }
     set(&CameraState::name, name);
 }
 
 void Camera::setComment(const QString& comment) {
-    if (!commandConnected("setComment")) {
+    if (!commandConnected(OPERATION("setComment"))) {
         return;
     }
     set(&CameraState::comment, comment);
 }
 
 void Camera::eraseRecordedData() {
-    if (!commandConnected("eraseRecordedData")) {
+    if (!commandConnected(OPERATION("eraseRecordedData"))) {
         return;
     }
     if (isUnderWay()) {
@@ -307,7 +307,7 @@ void Camera::eraseRecordedData() {
 }
 
 void Camera::setPartition(PARTITIONNUMBER partition) {
-    if (!commandConnected("setPartition")) {
+    if (!commandConnected(OPERATION("setPartition"))) {
         return;
     }
     if (partition < 1 || partition > get(&CameraState::partitions)) {
@@ -333,7 +333,7 @@ PartitionMemory& Camera::memoryOf(PARTITIONNUMBER partition) {
 }
 
 void Camera::setVariable(unsigned int channel) {
-    if (!commandConnected("setVariable")) {
+    if (!commandConnected(OPERATION("setVariable"))) {
         return;
     }
     if (get(&CameraState::variableChannels).value(int(channel) - 1).isEmpty()) {
@@ -343,30 +343,30 @@ void Camera::setVariable(unsigned int channel) {
 }
 
 void Camera::arm() {
-    if (commandConnected("arm")) {
+    if (commandConnected(OPERATION("arm"))) {
         enterRecordState(model().ctsReady > 0 ? zeb::RecordCtsReady : zeb::RecordReady);
     }
 }
 
 void Camera::trigger() {
-    if (commandConnected("trigger")) {
+    if (commandConnected(OPERATION("trigger"))) {
         keep(get(&CameraState::partition), std::nullopt);
         enterRecordState(zeb::RecordRecording);
     }
 }
 
 void Camera::stop() {
-    commandConnected("stop");
+    commandConnected(OPERATION("stop"));
 }
 
 void Camera::cancel() {
-    if (commandConnected("cancel")) {
+    if (commandConnected(OPERATION("cancel"))) {
         enterRecordState(zeb::RecordLive);
     }
 }
 
 void Camera::disarm() {
-    if (commandConnected("disarm")) {
+    if (commandConnected(OPERATION("disarm"))) {
         enterRecordState(zeb::RecordLive);
     }
 }

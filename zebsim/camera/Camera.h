@@ -2,6 +2,7 @@
 
 #include "CameraModel.h"
 #include "CameraState.h"
+#include "Operation.h"
 #include "Recording.h"
 
 #include <QHash>
@@ -56,8 +57,8 @@ public:
     /// Every question of a document to its camera, and what it does there that takes no time, begins with one of these;
     /// they take the time that a planted fault says. They throw `CameraError`, the second also when the camera is not
     /// connected. A camera that is gone answers what was last known of it.
-    void ask(const char* operation) const;
-    void askConnected(const char* operation) const;
+    void ask(CameraOperation operation) const;
+    void askConnected(CameraOperation operation) const;
 
     /// Commands. Each takes the camera's latency, or throws `CameraError`. A camera that is gone does nothing more.
     ///
@@ -101,8 +102,8 @@ private:
     void require(int function, const char* mode) const;
     void fitShutter();
     /// Whether the camera is there to do it.
-    bool command(const char* operation);
-    bool commandConnected(const char* operation);
+    bool command(CameraOperation operation);
+    bool commandConnected(CameraOperation operation);
     void requireConnected() const;
     /// The mutex is held.
     void changePartition(PARTITIONNUMBER partition);

@@ -10,22 +10,22 @@ public:
     HostPrefs(const HostCalls& calls, Preferences& prefs)
         : m_calls(calls), m_prefs(prefs), m_isRestored(!prefs.problem().isEmpty()) {}
 
-    QVariant get(const char* call, const QString& key, const QVariant& defaultValue) const {
-        m_calls.ask(call);
+    QVariant get(HostOperation operation, const QString& key, const QVariant& defaultValue) const {
+        m_calls.ask(operation);
         return m_prefs.value(key, defaultValue);
     }
-    void set(const char* call, const QString& key, const QVariant& value) {
-        m_calls.change(call, {key, value});
+    void set(HostOperation operation, const QString& key, const QVariant& value) {
+        m_calls.change(operation, {key, value});
         m_prefs.setValue(key, value);
     }
 
     /// As `ZebHost::isPrefsRestored` and `ZebHost::setPrefsRestored`.
     bool isRestored() const {
-        m_calls.ask("isPrefsRestored");
+        m_calls.ask(OPERATION("isPrefsRestored"));
         return m_isRestored;
     }
     void setRestored(int state) {
-        m_calls.change("ZebHost::setPrefsRestored", {state});
+        m_calls.change(OPERATION("ZebHost::setPrefsRestored"), {state});
         m_isRestored = state == 0;
     }
 

@@ -34,7 +34,7 @@ public:
         m_cycle.deter(deter);
     }
     void refreshTools() {
-        m_calls.change("ZebHost::refreshTools");
+        m_calls.change(OPERATION("ZebHost::refreshTools"));
         m_cycle.request();
     }
     bool isViewerRunning() const { return m_suspended == 0; }

@@ -51,7 +51,7 @@ PLG_Interface* SimAppStatus::getPlugin(const QString& name) const {
 }
 
 bool SimAppStatus::isPluginEnabledFor(const QString& name, DOC_Interface* doc) const {
-    m_calls.ask("isPluginEnabledFor");
+    m_calls.ask(OPERATION("isPluginEnabledFor"));
     const Camera* camera = doc ? m_cameras.find(doc->getKey()) : nullptr;
     return camera && camera->get(&CameraState::plugins).contains(name) &&
            !camera->get(&CameraState::blockedPlugins).contains(name);
@@ -73,7 +73,7 @@ void SimAppStatus::setCurrentPlugin(PLG_Interface* plugin) {
 }
 
 void SimAppStatus::openPlugin(const QString& name) {
-    m_calls.change("ZebAppStatus::openPlugin", {name});
+    m_calls.change(OPERATION("ZebAppStatus::openPlugin"), {name});
     if (getPlugin(name)) {
         Q_EMIT m_events.pluginWanted(name);
     } else if (imageplugins::has(name)) {
@@ -86,12 +86,12 @@ void SimAppStatus::openPlugin(const QString& name) {
 }
 
 void SimAppStatus::clearCurrentPlugin() {
-    m_calls.change("ZebAppStatus::clearCurrentPlugin");
+    m_calls.change(OPERATION("ZebAppStatus::clearCurrentPlugin"));
     setCurrentPlugin(nullptr);
 }
 
 void SimAppStatus::closePlugin(const QString& name) {
-    m_calls.change("ZebAppStatus::closePlugin", {name});
+    m_calls.change(OPERATION("ZebAppStatus::closePlugin"), {name});
     if (m_panel == name) {
         m_panel.clear();
     }
@@ -106,12 +106,12 @@ void SimAppStatus::closePlugin(const QString& name) {
 }
 
 void SimAppStatus::closePanel() {
-    m_calls.change("ZebAppStatus::closePanel");
+    m_calls.change(OPERATION("ZebAppStatus::closePanel"));
     setCurrentPlugin(nullptr);
 }
 
 void SimAppStatus::closeAuxiliaryPanel() {
-    m_calls.change("ZebAppStatus::closeAuxiliaryPanel");
+    m_calls.change(OPERATION("ZebAppStatus::closeAuxiliaryPanel"));
 }
 
 void SimAppStatus::setWrenRunning(bool running) {
@@ -128,12 +128,12 @@ void SimAppStatus::notifyPluginClosed(PLG_Interface* plugin) {
 }
 
 void SimAppStatus::enterLiveMode() {
-    m_calls.change("ZebAppStatus::enterLiveMode");
+    m_calls.change(OPERATION("ZebAppStatus::enterLiveMode"));
     enterMode(zeb::LiveMode);
 }
 
 void SimAppStatus::enterMemoryMode() {
-    m_calls.change("ZebAppStatus::enterMemoryMode");
+    m_calls.change(OPERATION("ZebAppStatus::enterMemoryMode"));
     enterMode(zeb::MemoryMode);
 }
 

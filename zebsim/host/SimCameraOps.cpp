@@ -31,12 +31,12 @@ SimCameraOps::SimCameraOps(const HostCalls& calls, CameraBank& cameras, const Si
       m_notices(notices) {}
 
 void SimCameraOps::searchCamera(const QString& address) {
-    m_calls.change("ZebCameraOps::searchCamera", {address});
+    m_calls.change(OPERATION("ZebCameraOps::searchCamera"), {address});
     search(address.section(QLatin1Char('.'), 0, 2));
 }
 
 void SimCameraOps::discoverCameras() {
-    m_calls.change("ZebCameraOps::discoverCameras");
+    m_calls.change(OPERATION("ZebCameraOps::discoverCameras"));
     search({});
 }
 
@@ -61,26 +61,28 @@ void SimCameraOps::search(const QString& network) {
 }
 
 void SimCameraOps::updateCameras() {
-    m_calls.change("ZebCameraOps::updateCameras");
+    m_calls.change(OPERATION("ZebCameraOps::updateCameras"));
     m_cameras.searchListed();
 }
 
 void SimCameraOps::setRecordRate(const DocList& docs, unsigned int rate) {
-    command("ZebCameraOps::setRecordRate", docs, {rate}, [rate](Camera& camera) { camera.setRecordRate(rate); });
+    command(OPERATION("ZebCameraOps::setRecordRate"), docs, {rate},
+            [rate](Camera& camera) { camera.setRecordRate(rate); });
 }
 
 void SimCameraOps::setShutterSpeed(const DocList& docs, int speed) {
-    command("ZebCameraOps::setShutterSpeed", docs, {speed}, [speed](Camera& camera) { camera.setShutterSpeed(speed); });
+    command(OPERATION("ZebCameraOps::setShutterSpeed"), docs, {speed},
+            [speed](Camera& camera) { camera.setShutterSpeed(speed); });
 }
 
 void SimCameraOps::setResolution(const DocList& docs, int width, int height) {
-    command("ZebCameraOps::setResolution", docs, {width, height}, [&](Camera& camera) {
+    command(OPERATION("ZebCameraOps::setResolution"), docs, {width, height}, [&](Camera& camera) {
         camera.setResolution({width, height});
     });
 }
 
 zeb::TriggerSettings SimCameraOps::getTriggerSettings() const {
-    m_calls.ask("getTriggerSettings");
+    m_calls.ask(OPERATION("getTriggerSettings"));
     zeb::TriggerSettings settings;
     settings.kind = 1;
     settings.manualBeforePercent = m_prefs.value(QStringLiteral("trigger/manualBeforePercent")).toFloat();
@@ -95,30 +97,31 @@ void SimCameraOps::setTriggerMode(const DocList& docs, int kind, int mode, int r
     settings.manualBeforePercent = manualBeforePercent;
     settings.randomFrames = randomFrames;
     settings.randomTimes = randomTimes;
-    command("ZebCameraOps::setTriggerMode", docs,
+    command(OPERATION("ZebCameraOps::setTriggerMode"), docs,
             {kind, mode, reserved1, reserved2, double(manualBeforePercent), randomFrames, randomTimes},
             [&](Camera& camera) { camera.setTriggerMode(mode, settings); });
 }
 
 void SimCameraOps::setRandomTriggerPhase(const DocList& docs, bool counted) {
-    command("ZebCameraOps::setRandomTriggerPhase", docs, {counted},
+    command(OPERATION("ZebCameraOps::setRandomTriggerPhase"), docs, {counted},
             [counted](Camera& camera) { camera.setRandomTriggerPhase(counted); });
 }
 
 void SimCameraOps::setReduceMode(const DocList& docs, bool on) {
-    command("ZebCameraOps::setReduceMode", docs, {on}, [on](Camera& camera) { camera.setReduceMode(on); });
+    command(OPERATION("ZebCameraOps::setReduceMode"), docs, {on}, [on](Camera& camera) { camera.setReduceMode(on); });
 }
 
 void SimCameraOps::setLowLight(const DocList& docs, bool on) {
-    command("ZebCameraOps::setLowLight", docs, {on}, [on](Camera& camera) { camera.setLowLight(on); });
+    command(OPERATION("ZebCameraOps::setLowLight"), docs, {on}, [on](Camera& camera) { camera.setLowLight(on); });
 }
 
 void SimCameraOps::setLowLightType(const DocList& docs, int type) {
-    command("ZebCameraOps::setLowLightType", docs, {type}, [type](Camera& camera) { camera.setLowLightType(type); });
+    command(OPERATION("ZebCameraOps::setLowLightType"), docs, {type},
+            [type](Camera& camera) { camera.setLowLightType(type); });
 }
 
 bool SimCameraOps::canSync(const DocList& docs) {
-    m_calls.ask("canSync");
+    m_calls.ask(OPERATION("canSync"));
     const DocKeyList keys = keysOf(docs);
     return !m_saver.isSaving() && m_recorder.stateOf(keys) == zeb::RecordLive &&
            std::all_of(keys.begin(), keys.end(), [this](DOCKEY key) {
@@ -138,7 +141,7 @@ void SimCameraOps::syncCameras(const DocList& docs, DOC_Interface* master, int l
         source.name = SyncSource::Hub;
     }
     try {
-        command("ZebCameraOps::syncCameras", docs,
+        command(OPERATION("ZebCameraOps::syncCameras"), docs,
                 {source.master, lport, external, generator, input, frequency, polarity},
                 [&source](Camera& camera) { camera.synchronise(source); });
     } catch (const std::exception& failure) {
@@ -148,25 +151,25 @@ void SimCameraOps::syncCameras(const DocList& docs, DOC_Interface* master, int l
 }
 
 void SimCameraOps::setPartition(PARTITIONNUMBER number, int mode) {
-    m_calls.change("ZebCameraOps::setPartition", {number, mode});
+    m_calls.change(OPERATION("ZebCameraOps::setPartition"), {number, mode});
     m_cameras.forEach(m_cameras.keysOf(&CameraState::selected),
                       [number](Camera& camera) { camera.setPartition(number); });
 }
 
 unsigned int SimCameraOps::getCurrentVariable() const {
-    m_calls.ask("getCurrentVariable");
+    m_calls.ask(OPERATION("getCurrentVariable"));
     const Camera* camera = m_cameras.find(m_docs.currentKey());
     return camera ? camera->get(&CameraState::variable) : 0;
 }
 
 void SimCameraOps::setVariable(unsigned int channel) {
-    m_calls.change("ZebCameraOps::setVariable", {channel});
+    m_calls.change(OPERATION("ZebCameraOps::setVariable"), {channel});
     m_cameras.forEach(m_cameras.keysOf(&CameraState::selected),
                       [channel](Camera& camera) { camera.setVariable(channel); });
 }
 
 void SimCameraOps::stopForPrefs() {
-    m_calls.change("ZebCameraOps::stopForPrefs");
+    m_calls.change(OPERATION("ZebCameraOps::stopForPrefs"));
     DocKeyList armed;
     for (const Camera* camera : m_cameras.connected()) {
         const int state = camera->get(&CameraState::recordState);
@@ -178,7 +181,7 @@ void SimCameraOps::stopForPrefs() {
 }
 
 bool SimCameraOps::isLowlight() const {
-    m_calls.ask("isLowlight");
+    m_calls.ask(OPERATION("isLowlight"));
     const auto cameras = m_cameras.connected();
     return m_flags.isOn(QStringLiteral("IsLowlight")) ||
            std::any_of(cameras.begin(), cameras.end(), [](const Camera* camera) {
@@ -187,7 +190,7 @@ bool SimCameraOps::isLowlight() const {
 }
 
 bool SimCameraOps::existLowlight() const {
-    m_calls.ask("existLowlight");
+    m_calls.ask(OPERATION("existLowlight"));
     const auto cameras = m_cameras.connected();
     return m_flags.isOn(QStringLiteral("ExistLowlight")) ||
            std::any_of(cameras.begin(), cameras.end(),
@@ -195,7 +198,7 @@ bool SimCameraOps::existLowlight() const {
 }
 
 bool SimCameraOps::isAllLowlight(bool on) const {
-    m_calls.ask("isAllLowlight");
+    m_calls.ask(OPERATION("isAllLowlight"));
     const auto cameras = m_cameras.connected();
     return m_flags.isOn(on ? QStringLiteral("IsAllLowlightON") : QStringLiteral("IsAllLowlightOFF")) ||
            std::all_of(cameras.begin(), cameras.end(), [on](const Camera* camera) {
@@ -205,17 +208,17 @@ bool SimCameraOps::isAllLowlight(bool on) const {
 }
 
 bool SimCameraOps::isLensCalibration() const {
-    m_calls.ask("isLensCalibration");
+    m_calls.ask(OPERATION("isLensCalibration"));
     return m_flags.isOn(QStringLiteral("IsLensCalibration"));
 }
 
 bool SimCameraOps::isDirectSaving(int /*mode*/) const {
-    m_calls.ask("isDirectSaving");
+    m_calls.ask(OPERATION("isDirectSaving"));
     return m_flags.isOn(QStringLiteral("IsDirectSaving"));
 }
 
 bool SimCameraOps::isAllWrenLockDevice() const {
-    m_calls.ask("isAllWrenLockDevice");
+    m_calls.ask(OPERATION("isAllWrenLockDevice"));
     const auto cameras = m_cameras.connected();
     const bool all = !cameras.empty() && std::all_of(cameras.begin(), cameras.end(), [](const Camera* camera) {
         return camera->get(&CameraState::locked);
@@ -231,9 +234,9 @@ DocKeyList SimCameraOps::keysOf(const DocList& docs) {
     return keys;
 }
 
-void SimCameraOps::command(const char* call, const DocList& docs, const QVariantList& args,
+void SimCameraOps::command(HostOperation operation, const DocList& docs, const QVariantList& args,
                            const std::function<void(Camera&)>& work) {
     const DocKeyList keys = keysOf(docs);
-    m_calls.change(call, QVariantList{Journal::keyList(keys)} + args);
+    m_calls.change(operation, QVariantList{Journal::keyList(keys)} + args);
     m_cameras.forEach(keys, work);
 }

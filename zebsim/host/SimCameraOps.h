@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Operation.h"
 #include "ZebCameraOps.h"
 
 #include <functional>
@@ -56,7 +57,7 @@ private:
     void search(const QString& network);
     static DocKeyList keysOf(const DocList& docs);
     /// A command to every camera of the list, in the journal as one call with its keys and `args`.
-    void command(const char* call, const DocList& docs, const QVariantList& args,
+    void command(HostOperation operation, const DocList& docs, const QVariantList& args,
                  const std::function<void(Camera&)>& work);
 
     const HostCalls& m_calls;

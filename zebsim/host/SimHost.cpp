@@ -67,7 +67,7 @@ void SimHost::setRig(const Rig& rig) {
 }
 
 void SimHost::prepareSupportFile(ZebSupportFile& file) {
-    m_calls.ask("prepareSupportFile");
+    m_calls.ask(OPERATION("prepareSupportFile"));
     addHostState(file, *this);
     m_windows->addToSupportFile(file);
 }

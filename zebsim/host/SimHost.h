@@ -92,30 +92,34 @@ public:
     bool isFileMode() const override { return m_appStatus.mode() == zeb::FileMode; }
 
     QVariant getPref(const QString& key, const QVariant& defaultValue = {}) const override {
-        return m_hostPrefs.get("getPref", key, defaultValue);
+        return m_hostPrefs.get(OPERATION("getPref"), key, defaultValue);
     }
     int getPrefInt(const QString& key, const QVariant& defaultValue = {}) const override {
-        return m_hostPrefs.get("getPrefInt", key, defaultValue).toInt();
+        return m_hostPrefs.get(OPERATION("getPrefInt"), key, defaultValue).toInt();
     }
     bool getPrefBool(const QString& key, const QVariant& defaultValue = {}) const override {
-        return m_hostPrefs.get("getPrefBool", key, defaultValue).toBool();
+        return m_hostPrefs.get(OPERATION("getPrefBool"), key, defaultValue).toBool();
     }
     float getPrefFloat(const QString& key, const QVariant& defaultValue = {}) const override {
-        return m_hostPrefs.get("getPrefFloat", key, defaultValue).toFloat();
+        return m_hostPrefs.get(OPERATION("getPrefFloat"), key, defaultValue).toFloat();
     }
     QString getPrefString(const QString& key, const QVariant& defaultValue = {}) const override {
-        return m_hostPrefs.get("getPrefString", key, defaultValue).toString();
+        return m_hostPrefs.get(OPERATION("getPrefString"), key, defaultValue).toString();
     }
     void setPref(const QString& key, const QVariant& value) override {
-        m_hostPrefs.set("ZebHost::setPref", key, value);
+        m_hostPrefs.set(OPERATION("ZebHost::setPref"), key, value);
     }
-    void setPrefInt(const QString& key, int value) override { m_hostPrefs.set("ZebHost::setPrefInt", key, value); }
-    void setPrefBool(const QString& key, bool value) override { m_hostPrefs.set("ZebHost::setPrefBool", key, value); }
+    void setPrefInt(const QString& key, int value) override {
+        m_hostPrefs.set(OPERATION("ZebHost::setPrefInt"), key, value);
+    }
+    void setPrefBool(const QString& key, bool value) override {
+        m_hostPrefs.set(OPERATION("ZebHost::setPrefBool"), key, value);
+    }
     void setPrefFloat(const QString& key, float value) override {
-        m_hostPrefs.set("ZebHost::setPrefFloat", key, value);
+        m_hostPrefs.set(OPERATION("ZebHost::setPrefFloat"), key, value);
     }
     void setPrefString(const QString& key, const QString& value) override {
-        m_hostPrefs.set("ZebHost::setPrefString", key, value);
+        m_hostPrefs.set(OPERATION("ZebHost::setPrefString"), key, value);
     }
 
     bool isPrefsRestored() const override { return m_hostPrefs.isRestored(); }
@@ -124,80 +128,81 @@ public:
     QString translate(const QString& text) const override { return m_translator.translate(text); }
 
     void info(const QString& text, QWidget* parent) override {
-        pluginBox("info").tell(Message::Info, text, {}, parent);
+        pluginBox(OPERATION("info")).tell(Message::Info, text, {}, parent);
     }
     void warn(const QString& text, QWidget* parent) override {
-        pluginBox("warn").tell(Message::Warn, text, {}, parent);
+        pluginBox(OPERATION("warn")).tell(Message::Warn, text, {}, parent);
     }
     void warnList(const QString& text, const QStringList& list, QWidget* parent) override {
-        pluginBox("warnList").tell(Message::Warn, text, list, parent);
+        pluginBox(OPERATION("warnList")).tell(Message::Warn, text, list, parent);
     }
     void alert(const QString& text, QWidget* parent) override {
-        pluginBox("alert").tell(Message::Alert, text, {}, parent);
+        pluginBox(OPERATION("alert")).tell(Message::Alert, text, {}, parent);
     }
     void alertWithDontShowAgain(const QString& text, const QString& prefKey, QWidget* parent,
                                 const ButtonTexts& buttons) override {
-        pluginBox("alertWithDontShowAgain").showSilenceable(Message::Alert, text, prefKey, parent, buttons);
+        pluginBox(OPERATION("alertWithDontShowAgain")).showSilenceable(Message::Alert, text, prefKey, parent, buttons);
     }
     void alertList(const QString& text, const QStringList& list, QWidget* parent) override {
-        pluginBox("alertList").tell(Message::Alert, text, list, parent);
+        pluginBox(OPERATION("alertList")).tell(Message::Alert, text, list, parent);
     }
-    bool confirm(const QString& text) override { return pluginBox("confirm").confirm(text); }
+    bool confirm(const QString& text) override { return pluginBox(OPERATION("confirm")).confirm(text); }
     bool confirmModal(const QString& text, QWidget* parent, const ButtonTexts& buttons) override {
-        return pluginBox("confirmModal").confirm(text, parent, buttons);
+        return pluginBox(OPERATION("confirmModal")).confirm(text, parent, buttons);
     }
     bool confirmWithDontShowAgain(const QString& text, const QString& prefKey, QWidget* parent,
                                   const ButtonTexts& buttons) override {
-        return pluginBox("confirmWithDontShowAgain").showSilenceable(Message::Confirm, text, prefKey, parent, buttons);
+        return pluginBox(OPERATION("confirmWithDontShowAgain"))
+            .showSilenceable(Message::Confirm, text, prefKey, parent, buttons);
     }
-    void errorHandler(const std::exception& e) override { pluginBox("errorHandler").tellFailureOrNews(e); }
+    void errorHandler(const std::exception& e) override { pluginBox(OPERATION("errorHandler")).tellFailureOrNews(e); }
 
     ZebPrefsDialog* getPrefsDialog() override {
-        m_calls.ask("getPrefsDialog");
+        m_calls.ask(OPERATION("getPrefsDialog"));
         return m_windows->prefsDialog();
     }
     void openPrefsEthernetSettings() override {
-        m_calls.change("ZebHost::openPrefsEthernetSettings");
+        m_calls.change(OPERATION("ZebHost::openPrefsEthernetSettings"));
         m_windows->openEthernetSettings();
     }
     void openAboutDialog() override {
-        m_calls.change("ZebHost::openAboutDialog");
+        m_calls.change(OPERATION("ZebHost::openAboutDialog"));
         m_windows->openAbout();
     }
     void execProgress(const QString& text, QFutureWatcherBase& watcher) override {
-        m_calls.change("ZebHost::execProgress", {text});
+        m_calls.change(OPERATION("ZebHost::execProgress"), {text});
         m_docManager.endTurn();
         m_windows->runProgress(text, watcher);
     }
     void prepareSupportFile(ZebSupportFile& file) override;
     bool exportSupportFile(const QString& path, const ZebSupportFile& file) override;
     void saveFiles() override {
-        m_calls.change("ZebHost::saveFiles");
+        m_calls.change(OPERATION("ZebHost::saveFiles"));
         m_windows->save(false);
     }
     void saveLayoutFiles() override {
-        m_calls.change("ZebHost::saveLayoutFiles");
+        m_calls.change(OPERATION("ZebHost::saveLayoutFiles"));
         m_windows->save(true);
     }
     bool hasWrenWindow() const override;
     void hideSelectBox() override {
-        m_calls.change("ZebHost::hideSelectBox");
+        m_calls.change(OPERATION("ZebHost::hideSelectBox"));
         hideDropDownBox({});
     }
     bool isShownDropBox() const override {
-        m_calls.ask("isShownDropBox");
+        m_calls.ask(OPERATION("isShownDropBox"));
         return m_windows->isDropDownBoxShown();
     }
     void showDropDownBox(const QString& key, const QRect& anchor) override {
-        m_calls.change("ZebHost::showDropDownBox", {key});
+        m_calls.change(OPERATION("ZebHost::showDropDownBox"), {key});
         m_windows->showDropDownBox(key, anchor);
     }
     void hideDropDownBox(const QString& key) override {
-        m_calls.ask("hideDropDownBox");
+        m_calls.ask(OPERATION("hideDropDownBox"));
         m_windows->hideDropDownBox(key);
     }
     void hideDropDownBoxAt(const QString& key, const QPoint& point) override {
-        m_calls.ask("hideDropDownBoxAt");
+        m_calls.ask(OPERATION("hideDropDownBoxAt"));
         if (!m_windows->dropDownBoxRect(key).contains(point)) {
             m_windows->hideDropDownBox(key);
         }
@@ -260,7 +265,7 @@ public:
 
 private:
     /// What a box of the plug-in's begins with.
-    HostMessages& pluginBox(const char* operation) {
+    HostMessages& pluginBox(HostOperation operation) {
         m_calls.ask(operation);
         return m_messages;
     }

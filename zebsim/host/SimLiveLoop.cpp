@@ -16,26 +16,26 @@ void SimLiveLoop::resumeLive() {
 }
 
 void SimLiveLoop::restartLive(int mode, int reload, int keepView) {
-    m_calls.change("ZebLiveLoop::restartLive", {mode, reload, keepView});
+    m_calls.change(OPERATION("ZebLiveLoop::restartLive"), {mode, reload, keepView});
     ++m_pauses;
 }
 
 void SimLiveLoop::restartLiveAfterTool(int mode) {
-    m_calls.change("ZebLiveLoop::restartLiveAfterTool", {mode});
+    m_calls.change(OPERATION("ZebLiveLoop::restartLiveAfterTool"), {mode});
 }
 
 void SimLiveLoop::restartLiveAfterEnd(int mode) {
-    m_calls.change("ZebLiveLoop::restartLiveAfterEnd", {mode});
+    m_calls.change(OPERATION("ZebLiveLoop::restartLiveAfterEnd"), {mode});
 }
 
 void SimLiveLoop::setStopLive(bool stop, int mode) {
-    m_calls.change("ZebLiveLoop::setStopLive", {stop, mode});
+    m_calls.change(OPERATION("ZebLiveLoop::setStopLive"), {stop, mode});
     for (Camera* camera : m_cameras.all()) {
         camera->set(&CameraState::stopLive, stop);
     }
 }
 
 void SimLiveLoop::updateLive() {
-    m_calls.change("ZebLiveLoop::updateLive");
+    m_calls.change(OPERATION("ZebLiveLoop::updateLive"));
     Q_EMIT m_events.liveImageWanted();
 }

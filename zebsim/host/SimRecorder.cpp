@@ -44,17 +44,17 @@ SimRecorder::SimRecorder(const HostCalls& calls, const Clock& clock, const Camer
             }) {}
 
 int SimRecorder::getRecStatus(const DocKeyList& keys) const {
-    m_calls.ask("getRecStatus");
+    m_calls.ask(OPERATION("getRecStatus"));
     return stateOf(keys);
 }
 
 int SimRecorder::getRecordingState() const {
-    m_calls.ask("getRecordingState");
+    m_calls.ask(OPERATION("getRecordingState"));
     return state();
 }
 
 bool SimRecorder::isRecording() const {
-    m_calls.ask("isRecording");
+    m_calls.ask(OPERATION("isRecording"));
     return state() == zeb::RecordRecording ||
            isAny([](const Camera& camera) { return camera.get(&CameraState::recordState) == zeb::RecordRecording; });
 }
@@ -91,7 +91,7 @@ bool SimRecorder::isAny(const std::function<bool(const Camera&)>& wanted) const 
 }
 
 void SimRecorder::startRecReady() {
-    m_calls.change("ZebRecorder::startRecReady");
+    m_calls.change(OPERATION("ZebRecorder::startRecReady"));
     arm();
 }
 
@@ -109,7 +109,7 @@ void SimRecorder::arm() {
 }
 
 void SimRecorder::triggerRecording() {
-    m_calls.change("ZebRecorder::triggerRecording");
+    m_calls.change(OPERATION("ZebRecorder::triggerRecording"));
     trigger();
 }
 
@@ -122,12 +122,12 @@ void SimRecorder::trigger() {
 }
 
 void SimRecorder::stopRecording() {
-    m_calls.change("ZebRecorder::stopRecording");
+    m_calls.change(OPERATION("ZebRecorder::stopRecording"));
     m_run.stop();
 }
 
 void SimRecorder::cancelRecording(bool recording) {
-    m_calls.change("ZebRecorder::cancelRecording", {recording});
+    m_calls.change(OPERATION("ZebRecorder::cancelRecording"), {recording});
     endByCancel();
 }
 

@@ -20,7 +20,7 @@ bool SimSaver::isBgConverting() const {
 }
 
 void SimSaver::copyToClipboard(int what) {
-    m_calls.change("ZebSaver::copyToClipboard", {what});
+    m_calls.change(OPERATION("ZebSaver::copyToClipboard"), {what});
     const QImage image = m_windows->currentImage();
     if (!image.isNull()) {
         QGuiApplication::clipboard()->setImage(image);
@@ -28,6 +28,6 @@ void SimSaver::copyToClipboard(int what) {
 }
 
 void SimSaver::snapShot(int mode) {
-    m_calls.change("ZebSaver::snapShot", {mode});
+    m_calls.change(OPERATION("ZebSaver::snapShot"), {mode});
     m_windows->snapShot(mode);
 }

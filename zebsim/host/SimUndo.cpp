@@ -3,23 +3,23 @@
 #include "HostCalls.h"
 
 void SimUndo::clear() {
-    m_calls.change("ZebUndo::clear");
+    m_calls.change(OPERATION("ZebUndo::clear"));
 }
 
 bool SimUndo::canUndo() const {
-    m_calls.ask("canUndo");
+    m_calls.ask(OPERATION("canUndo"));
     return false;
 }
 
 bool SimUndo::canRedo() const {
-    m_calls.ask("canRedo");
+    m_calls.ask(OPERATION("canRedo"));
     return false;
 }
 
 void SimUndo::beginMacro(const QString& text) {
-    m_calls.change("ZebUndo::beginMacro", {text});
+    m_calls.change(OPERATION("ZebUndo::beginMacro"), {text});
 }
 
 void SimUndo::endMacro() {
-    m_calls.change("ZebUndo::endMacro");
+    m_calls.change(OPERATION("ZebUndo::endMacro"));
 }

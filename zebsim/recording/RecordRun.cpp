@@ -363,7 +363,7 @@ void RecordRun::record(Part& part, qint64 now) {
     const qint64 full = part.triggeredAt + part.settings.duration();
     const Camera& camera = *part.camera;
     try {
-        camera.ask("record");
+        camera.ask(OPERATION("record"));
     } catch (const std::exception& failure) {
         end(part, std::min(now, full), zeb::RecordError);
         const auto kept = camera.recordingOf(part.partition);

@@ -1,7 +1,7 @@
 #include "ModelCatalogue.h"
 
-#include "FaultOperations.h"
 #include "JsonNode.h"
+#include "Operation.h"
 #include "PlainState.h"
 
 #include <limits>
@@ -95,7 +95,7 @@ CameraModel readModel(const JsonNode& node) {
         const JsonNode refused = node.member(QStringLiteral("lowLightRefuses"));
         model.lowLightRefuses = refused.texts();
         for (const QString& operation : qAsConst(model.lowLightRefuses)) {
-            if (!cameraOperations().contains(operation)) {
+            if (!CameraOperation::names().contains(operation)) {
                 refused.fail(QStringLiteral("there is no operation \"%1\"").arg(operation));
             }
         }

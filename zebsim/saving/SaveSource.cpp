@@ -22,7 +22,7 @@ CameraFrame SaveSource::frame(int index) const {
 }
 
 void SaveSource::read(const CameraBank& cameras, int index) const {
-    m_camera->askConnected("readFrame");
+    m_camera->askConnected(OPERATION("readFrame"));
     // Another rig may have a camera of the same key.
     if (cameras.hold(m_key) != m_camera) {
         throw CameraError(name(), TextKey("the camera is gone"));

@@ -1,6 +1,6 @@
 #include "FaultScripting.h"
 
-#include "FaultOperations.h"
+#include "Operation.h"
 #include "ScenarioError.h"
 #include "SimHost.h"
 
@@ -43,14 +43,14 @@ FaultScripting::Target FaultScripting::find(const QJSValue& target) const {
         if (!m_host.cameras().has(key)) {
             throw ScenarioError(QStringLiteral("there is no camera %1").arg(key));
         }
-        return {key, QStringLiteral("a camera"), cameraOperations()};
+        return {key, QStringLiteral("a camera"), CameraOperation::names()};
     }
     if (target.toString() == QLatin1String("host")) {
-        return {FaultPlan::Host, QStringLiteral("the host"), hostOperations()};
+        return {FaultPlan::Host, QStringLiteral("the host"), HostOperation::names()};
     }
     const SignalHub* hub = m_host.signalDevices().hub(target.toString());
     if (hub == nullptr) {
         throw ScenarioError(QStringLiteral("there is no Sync Hub %1").arg(target.toString()));
     }
-    return {hub->key(), QStringLiteral("a Sync Hub"), hubOperations()};
+    return {hub->key(), QStringLiteral("a Sync Hub"), HubOperation::names()};
 }

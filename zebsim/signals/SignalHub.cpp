@@ -21,18 +21,21 @@ int SignalHub::signal() const {
 }
 
 void SignalHub::search() {
-    const QString reason = m_context.faults.suffer(m_key, "search", m_context.clock);
-    m_found = reason.isEmpty() && isThere();
+    m_found = suffer(OPERATION("search")).isEmpty() && isThere();
 }
 
-void SignalHub::ask(const char* operation) const {
-    const QString reason = m_context.faults.suffer(m_key, operation, m_context.clock);
+QString SignalHub::suffer(HubOperation operation) const {
+    return m_context.faults.suffer(m_key, operation.name(), m_context.clock);
+}
+
+void SignalHub::ask(HubOperation operation) const {
+    const QString reason = suffer(operation);
     if (!reason.isEmpty()) {
         throw CameraError(name(), reason);
     }
 }
 
-void SignalHub::askConnected(const char* operation) const {
+void SignalHub::askConnected(HubOperation operation) const {
     ask(operation);
     if (!m_found || !isThere()) {
         throw CameraError(name(), QStringLiteral("the hub is not connected"));
@@ -40,28 +43,29 @@ void SignalHub::askConnected(const char* operation) const {
 }
 
 bool SignalHub::isConnected() const {
-    ask("isConnected");
+    ask(OPERATION("isConnected"));
     return m_found && isThere();
 }
 
 int SignalHub::getRole() const {
-    askConnected("getRole");
+    askConnected(OPERATION("getRole"));
     return m_state.role;
 }
 
 int SignalHub::getFrequency() const {
-    askConnected("getFrequency");
+    askConnected(OPERATION("getFrequency"));
     return m_state.frequency;
 }
 
 void SignalHub::setFrequency(int hertz) {
-    m_context.calls.note("ZebSignalDevice::setFrequency", {m_address, hertz});
-    askConnected("setFrequency");
+    const HubOperation operation = OPERATION("ZebSignalDevice::setFrequency");
+    m_context.calls.note(operation.call(), {m_address, hertz});
+    askConnected(operation);
     m_context.clock.wait(m_state.latency);
     m_state.frequency = hertz;
 }
 
 QList<int> SignalHub::getFrequencies() const {
-    askConnected("getFrequencies");
+    askConnected(OPERATION("getFrequencies"));
     return m_state.frequencies;
 }

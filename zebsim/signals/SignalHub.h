@@ -1,6 +1,7 @@
 #pragma once
 
 #include "HubState.h"
+#include "Operation.h"
 #include "ZebSignalDevices.h"
 #include "ZebTypes.h"
 
@@ -46,8 +47,10 @@ public:
     QList<int> getFrequencies() const override;
 
 private:
-    void ask(const char* operation) const;
-    void askConnected(const char* operation) const;
+    /// Why it fails; empty when it does not.
+    QString suffer(HubOperation operation) const;
+    void ask(HubOperation operation) const;
+    void askConnected(HubOperation operation) const;
     QString name() const;
 
     const DOCKEY m_key;

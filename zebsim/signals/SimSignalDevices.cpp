@@ -34,7 +34,7 @@ int SimSignalDevices::signal() const {
 }
 
 void SimSignalDevices::close() {
-    m_context.calls.change("ZebSignalDevices::close");
+    m_context.calls.change(OPERATION("ZebSignalDevices::close"));
     m_open = false;
     for (const auto& hub : m_hubs) {
         hub->disconnect();
@@ -42,13 +42,13 @@ void SimSignalDevices::close() {
 }
 
 void SimSignalDevices::open(int mode) {
-    m_context.calls.change("ZebSignalDevices::open", {mode});
+    m_context.calls.change(OPERATION("ZebSignalDevices::open"), {mode});
     waitForAnswers();
     m_open = true;
 }
 
 int SimSignalDevices::search(int kind, int mode) {
-    m_context.calls.change("ZebSignalDevices::search", {kind, mode});
+    m_context.calls.change(OPERATION("ZebSignalDevices::search"), {kind, mode});
     if (!m_open) {
         return 0;
     }
@@ -70,7 +70,7 @@ void SimSignalDevices::waitForAnswers() {
 }
 
 ZebSignalDevice* SimSignalDevices::findByAddress(const QString& address) {
-    m_context.calls.ask("findByAddress");
+    m_context.calls.ask(OPERATION("findByAddress"));
     SignalHub* known = hub(address);
     return known && known->wasFound() ? known : nullptr;
 }

@@ -13,7 +13,7 @@
 #include "Translator.h"
 
 QString SimControl::getCameraName(int /*mode*/) const {
-    m_camera.ask("getCameraName");
+    m_camera.ask(OPERATION("getCameraName"));
     return m_camera.name();
 }
 
@@ -23,142 +23,142 @@ void SimControl::setCameraName(const QString& name) {
 }
 
 QString SimControl::getAddress(int /*mode*/) const {
-    m_camera.ask("getAddress");
+    m_camera.ask(OPERATION("getAddress"));
     return m_camera.device().address();
 }
 
 QString SimControl::getDeviceAlias(int /*mode*/) const {
-    m_camera.ask("getDeviceAlias");
+    m_camera.ask(OPERATION("getDeviceAlias"));
     return m_camera.get(&CameraState::alias);
 }
 
 QString SimControl::getDeviceName(int /*mode*/) const {
-    m_camera.ask("getDeviceName");
+    m_camera.ask(OPERATION("getDeviceName"));
     return m_camera.model().name;
 }
 
 int SimControl::getHeadNumber() const {
-    m_camera.ask("getHeadNumber");
+    m_camera.ask(OPERATION("getHeadNumber"));
     return m_camera.headNumber();
 }
 
 bool SimControl::isDummy() const {
-    m_camera.ask("isDummy");
+    m_camera.ask(OPERATION("isDummy"));
     return m_camera.model().dummy;
 }
 
 int SimControl::getWifiState() const {
-    m_camera.ask("getWifiState");
+    m_camera.ask(OPERATION("getWifiState"));
     return m_camera.get(&CameraState::wifi) ? 1 : 0;
 }
 
 int SimControl::getLinkSpeedState() const {
-    m_camera.ask("getLinkSpeedState");
+    m_camera.ask(OPERATION("getLinkSpeedState"));
     return m_camera.get(&CameraState::slowLink) ? 1 : 0;
 }
 
 int SimControl::getCameraType() const {
-    m_camera.askConnected("getCameraType");
+    m_camera.askConnected(OPERATION("getCameraType"));
     return m_camera.model().type;
 }
 
 int SimControl::getCameraStatus() const {
-    m_camera.askConnected("getCameraStatus");
+    m_camera.askConnected(OPERATION("getCameraStatus"));
     return m_camera.get(&CameraState::status);
 }
 
 bool SimControl::isFunctionSupported(int function, int /*mode*/) const {
-    m_camera.ask("isFunctionSupported");
+    m_camera.ask(OPERATION("isFunctionSupported"));
     return m_camera.model().functions.contains(function);
 }
 
 bool SimControl::isMultiHead() const {
-    m_camera.ask("isMultiHead");
+    m_camera.ask(OPERATION("isMultiHead"));
     return m_camera.device().heads().size() > 1;
 }
 
 bool SimControl::hasSyncStatus() const {
-    m_camera.askConnected("hasSyncStatus");
+    m_camera.askConnected(OPERATION("hasSyncStatus"));
     return m_camera.model().hasSyncStatus;
 }
 
 QString SimControl::getSyncStatusText() const {
-    m_camera.askConnected("getSyncStatusText");
+    m_camera.askConnected(OPERATION("getSyncStatusText"));
     return m_context.sync.statusOf(m_camera);
 }
 
 int SimControl::getExposureTimingClass() const {
-    m_camera.askConnected("getExposureTimingClass");
+    m_camera.askConnected(OPERATION("getExposureTimingClass"));
     return m_camera.model().exposureTiming;
 }
 
 int SimControl::getExposureDelayClass() const {
-    m_camera.askConnected("getExposureDelayClass");
+    m_camera.askConnected(OPERATION("getExposureDelayClass"));
     return m_camera.model().exposureDelay;
 }
 
 int SimControl::isDualSlopeShutter() const {
-    m_camera.askConnected("isDualSlopeShutter");
+    m_camera.askConnected(OPERATION("isDualSlopeShutter"));
     return m_camera.get(&CameraState::dualSlope);
 }
 
 bool SimControl::isAutoExposure() const {
-    m_camera.askConnected("isAutoExposure");
+    m_camera.askConnected(OPERATION("isAutoExposure"));
     return m_camera.get(&CameraState::autoExposure);
 }
 
 QList<int> SimControl::getPortList(int /*mode*/) const {
-    m_camera.askConnected("getPortList");
+    m_camera.askConnected(OPERATION("getPortList"));
     return m_camera.model().ports.keys();
 }
 
 int SimControl::getPortSignal(int index) const {
-    m_camera.askConnected("getPortSignal");
+    m_camera.askConnected(OPERATION("getPortSignal"));
     return m_camera.model().ports.values().value(index - 1);
 }
 
 bool SimControl::isIrigEnabled() const {
-    m_camera.askConnected("isIrigEnabled");
+    m_camera.askConnected(OPERATION("isIrigEnabled"));
     return m_camera.get(&CameraState::irig);
 }
 
 int SimControl::getIrigTimeStampPosition() const {
-    m_camera.askConnected("getIrigTimeStampPosition");
+    m_camera.askConnected(OPERATION("getIrigTimeStampPosition"));
     return m_camera.get(&CameraState::irigStampAtEnd) ? 1 : 0;
 }
 
 bool SimControl::isIrigSync() const {
-    m_camera.askConnected("isIrigSync");
+    m_camera.askConnected(OPERATION("isIrigSync"));
     return m_camera.get(&CameraState::irigSync);
 }
 
 unsigned int SimControl::getRecordRate(int /*head*/) const {
-    m_camera.askConnected("getRecordRate");
+    m_camera.askConnected(OPERATION("getRecordRate"));
     return m_camera.get(&CameraState::rate);
 }
 
 QList<unsigned int> SimControl::getRecordRateList() const {
-    m_camera.askConnected("getRecordRateList");
+    m_camera.askConnected(OPERATION("getRecordRateList"));
     return m_camera.model().rates;
 }
 
 QSize SimControl::getResolution() const {
-    m_camera.askConnected("getResolution");
+    m_camera.askConnected(OPERATION("getResolution"));
     return m_camera.get(&CameraState::resolution);
 }
 
 QList<QSize> SimControl::getResolutionList() const {
-    m_camera.askConnected("getResolutionList");
+    m_camera.askConnected(OPERATION("getResolutionList"));
     return m_camera.model().resolutions;
 }
 
 int SimControl::getShutterSpeed() const {
-    m_camera.askConnected("getShutterSpeed");
+    m_camera.askConnected(OPERATION("getShutterSpeed"));
     return ShutterText::valueIn(ShutterText(m_context.prefs).list(), m_camera.get(&CameraState::shutter));
 }
 
 QList<int> SimControl::getShutterSpeedList(int list) const {
-    m_camera.askConnected("getShutterSpeedList");
+    m_camera.askConnected(OPERATION("getShutterSpeedList"));
     QList<int> speeds;
     for (const int fraction : m_camera.model().shutters) {
         speeds.append(ShutterText::valueIn(list, fraction));
@@ -167,7 +167,7 @@ QList<int> SimControl::getShutterSpeedList(int list) const {
 }
 
 QStringList SimControl::getShutterSpeedEntries() const {
-    m_camera.askConnected("getShutterSpeedEntries");
+    m_camera.askConnected(OPERATION("getShutterSpeedEntries"));
     const ShutterText text(m_context.prefs);
     QStringList entries;
     for (const int fraction : m_camera.model().shutters) {
@@ -177,106 +177,106 @@ QStringList SimControl::getShutterSpeedEntries() const {
 }
 
 int SimControl::getTriggerMode() const {
-    m_camera.askConnected("getTriggerMode");
+    m_camera.askConnected(OPERATION("getTriggerMode"));
     return m_camera.get(&CameraState::triggerMode);
 }
 
 QList<int> SimControl::getTriggerModeList() const {
-    m_camera.askConnected("getTriggerModeList");
+    m_camera.askConnected(OPERATION("getTriggerModeList"));
     return m_camera.model().triggerModes;
 }
 
 zeb::ManualTriggerParameters SimControl::getManualTriggerParameters() const {
-    m_camera.askConnected("getManualTriggerParameters");
+    m_camera.askConnected(OPERATION("getManualTriggerParameters"));
     zeb::ManualTriggerParameters parameters;
     parameters.triggerFrame = m_camera.get(&CameraState::triggerFrame);
     return parameters;
 }
 
 bool SimControl::getReduceMode(int /*head*/) const {
-    m_camera.askConnected("getReduceMode");
+    m_camera.askConnected(OPERATION("getReduceMode"));
     return m_camera.get(&CameraState::reduce);
 }
 
 bool SimControl::isLowLightMode() const {
-    m_camera.askConnected("isLowLightMode");
+    m_camera.askConnected(OPERATION("isLowLightMode"));
     return m_camera.get(&CameraState::lowLight);
 }
 
 int SimControl::getLowLightType() const {
-    m_camera.askConnected("getLowLightType");
+    m_camera.askConnected(OPERATION("getLowLightType"));
     return m_camera.get(&CameraState::lowLightType);
 }
 
 PARTITIONNUMBER SimControl::getPartitionCount(int /*mode*/, int /*head*/) const {
-    m_camera.askConnected("getPartitionCount");
+    m_camera.askConnected(OPERATION("getPartitionCount"));
     return m_camera.get(&CameraState::partitions);
 }
 
 PARTITIONNUMBER SimControl::getCurrentPartition(int /*mode*/) const {
-    m_camera.askConnected("getCurrentPartition");
+    m_camera.askConnected(OPERATION("getCurrentPartition"));
     return m_camera.get(&CameraState::partition);
 }
 
 void SimControl::applyPartition(int mode) {
     m_context.calls.note("DOC_Control::applyPartition", {m_camera.key(), mode});
-    m_camera.askConnected("applyPartition");
+    m_camera.askConnected(OPERATION("applyPartition"));
 }
 
 zeb::VariableChannelInfo SimControl::getVariableChannelInfo(int channel) const {
-    m_camera.askConnected("getVariableChannelInfo");
+    m_camera.askConnected(OPERATION("getVariableChannelInfo"));
     const QString text = m_camera.get(&CameraState::variableChannels).value(channel - 1);
     return {text, !text.isEmpty()};
 }
 
 unsigned int SimControl::getRecordedRateOfPartition(PARTITIONNUMBER partition) const {
-    m_camera.askConnected("getRecordedRateOfPartition");
+    m_camera.askConnected(OPERATION("getRecordedRateOfPartition"));
     const auto recording = m_camera.recordingOf(partition);
     return recording ? recording->rate : 0;
 }
 
 unsigned int SimControl::getRecordedRate() const {
-    m_camera.askConnected("getRecordedRate");
+    m_camera.askConnected(OPERATION("getRecordedRate"));
     const auto recording = m_camera.recording();
     return recording ? recording->rate : 0;
 }
 
 bool SimControl::isTriggerOffsetEnabled() const {
-    m_camera.askConnected("isTriggerOffsetEnabled");
+    m_camera.askConnected(OPERATION("isTriggerOffsetEnabled"));
     return m_camera.get(&CameraState::triggerOffsetEnabled);
 }
 
 int SimControl::getTriggerOffset() const {
-    m_camera.askConnected("getTriggerOffset");
+    m_camera.askConnected(OPERATION("getTriggerOffset"));
     return m_camera.get(&CameraState::triggerOffset);
 }
 
 int SimControl::getTriggerOffsetBase() const {
-    m_camera.askConnected("getTriggerOffsetBase");
+    m_camera.askConnected(OPERATION("getTriggerOffsetBase"));
     const auto recording = m_camera.recording();
     return recording ? recording->trigger : 0;
 }
 
 void SimControl::setTriggerOffsetEnabled(bool enabled) {
     m_context.calls.note("DOC_Control::setTriggerOffsetEnabled", {m_camera.key(), enabled});
-    m_camera.askConnected("setTriggerOffsetEnabled");
+    m_camera.askConnected(OPERATION("setTriggerOffsetEnabled"));
     m_camera.set(&CameraState::triggerOffsetEnabled, enabled);
 }
 
 void SimControl::setTriggerOffset(int frame) {
     m_context.calls.note("DOC_Control::setTriggerOffset", {m_camera.key(), frame});
-    m_camera.askConnected("setTriggerOffset");
+    m_camera.askConnected(OPERATION("setTriggerOffset"));
     m_camera.set(&CameraState::triggerOffset, frame);
 }
 
 void SimControl::setSelectRange(int start, int end) {
     m_context.calls.note("DOC_Control::setSelectRange", {m_camera.key(), start, end});
-    m_camera.askConnected("setSelectRange");
+    m_camera.askConnected(OPERATION("setSelectRange"));
     m_camera.set(&CameraState::selectedRange, {start, end});
 }
 
 bool SimControl::hasRecordedData() const {
-    m_camera.askConnected("hasRecordedData");
+    m_camera.askConnected(OPERATION("hasRecordedData"));
     return m_camera.get(&CameraState::recorded) && !m_camera.isUnderWay() && !m_context.recorder.isRunning();
 }
 

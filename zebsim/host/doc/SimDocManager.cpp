@@ -64,12 +64,12 @@ DOC_Interface* SimDocManager::getDocAny(DOCKEY key) {
 }
 
 DOC_Interface* SimDocManager::getCurrentDoc() {
-    m_calls.ask("getCurrentDoc");
+    m_calls.ask(OPERATION("getCurrentDoc"));
     return getDocAny(currentKey());
 }
 
 bool SimDocManager::isCurrentDoc(DOCKEY key) const {
-    m_calls.ask("isCurrentDoc");
+    m_calls.ask(OPERATION("isCurrentDoc"));
     const Camera* camera = m_cameras.find(key);
     return camera && camera->get(&CameraState::selected) && key == currentKey();
 }
@@ -90,12 +90,12 @@ DOCKEY SimDocManager::currentKey() const {
 }
 
 DOCKEY SimDocManager::getCurrentDockey(int /*mode*/) const {
-    m_calls.ask("getCurrentDockey");
+    m_calls.ask(OPERATION("getCurrentDockey"));
     return currentKey();
 }
 
 void SimDocManager::setCurrentDoc(DOCKEY key, int mode) {
-    m_calls.change("ZebDocManager::setCurrentDoc", {key, mode});
+    m_calls.change(OPERATION("ZebDocManager::setCurrentDoc"), {key, mode});
     const Camera* camera = m_cameras.find(key);
     if (camera && camera->get(&CameraState::selected)) {
         m_current = key;
@@ -103,27 +103,27 @@ void SimDocManager::setCurrentDoc(DOCKEY key, int mode) {
 }
 
 DocKeyList SimDocManager::getDocKeys(int /*mode*/) const {
-    m_calls.ask("getDocKeys");
+    m_calls.ask(OPERATION("getDocKeys"));
     return m_cameras.keys();
 }
 
 DocKeyList SimDocManager::getConnectedDocKeys(int /*mode*/) const {
-    m_calls.ask("getConnectedDocKeys");
+    m_calls.ask(OPERATION("getConnectedDocKeys"));
     return m_cameras.keysOf(&CameraState::connected);
 }
 
 DocKeyList SimDocManager::getSelectedDocKeys(int /*mode*/) const {
-    m_calls.ask("getSelectedDocKeys");
+    m_calls.ask(OPERATION("getSelectedDocKeys"));
     return m_cameras.keysOf(&CameraState::selected);
 }
 
 DocKeyList SimDocManager::getLiveDocKeys(int /*mode*/, int /*order*/) const {
-    m_calls.ask("getLiveDocKeys");
+    m_calls.ask(OPERATION("getLiveDocKeys"));
     return m_cameras.keys();
 }
 
 DocList SimDocManager::getCameraDocs() {
-    m_calls.ask("getCameraDocs");
+    m_calls.ask(OPERATION("getCameraDocs"));
     DocList docs;
     for (const DOCKEY key : m_cameras.keys()) {
         docs.append(getDocAny(key));
@@ -132,7 +132,7 @@ DocList SimDocManager::getCameraDocs() {
 }
 
 DocList SimDocManager::getSyncableDocs(int /*mode*/) {
-    m_calls.ask("getSyncableDocs");
+    m_calls.ask(OPERATION("getSyncableDocs"));
     DocList docs;
     for (const Camera* camera : m_cameras.all()) {
         if (camera->get(&CameraState::connected) && camera->model().syncCapable) {
@@ -143,44 +143,44 @@ DocList SimDocManager::getSyncableDocs(int /*mode*/) {
 }
 
 int SimDocManager::getDocCount() const {
-    m_calls.ask("getDocCount");
+    m_calls.ask(OPERATION("getDocCount"));
     return m_flags.isOn(QStringLiteral("IsNoneDocument")) ? 0 : int(m_cameras.all().size());
 }
 
 int SimDocManager::getSelectedDocCount() const {
-    m_calls.ask("getSelectedDocCount");
+    m_calls.ask(OPERATION("getSelectedDocCount"));
     return m_cameras.keysOf(&CameraState::selected).size();
 }
 
 bool SimDocManager::hasWaveformData() const {
-    m_calls.ask("hasWaveformData");
+    m_calls.ask(OPERATION("hasWaveformData"));
     return false;
 }
 
 bool SimDocManager::isWaveDataAcquisition() const {
-    m_calls.ask("isWaveDataAcquisition");
+    m_calls.ask(OPERATION("isWaveDataAcquisition"));
     return m_flags.isOn(QStringLiteral("IsWaveDataAcquisition"));
 }
 
 bool SimDocManager::isConflictPartition(int /*mode*/) const {
-    m_calls.ask("isConflictPartition");
+    m_calls.ask(OPERATION("isConflictPartition"));
     return m_flags.isOn(QStringLiteral("IsConflictPartition"));
 }
 
 bool SimDocManager::isPhaseAdjusting() const {
-    m_calls.ask("isPhaseAdjusting");
+    m_calls.ask(OPERATION("isPhaseAdjusting"));
     return m_flags.isOn(QStringLiteral("IsPhaseAdjusting"));
 }
 
 bool SimDocManager::isRecordAreaEnabled() const {
-    m_calls.ask("isRecordAreaEnabled");
+    m_calls.ask(OPERATION("isRecordAreaEnabled"));
     return m_context.prefs.value(QStringLiteral("recording/area")).toBool();
 }
 
 void SimDocManager::selectDoc(DOCKEY key) {
-    m_calls.change("ZebDocManager::selectDoc", {key});
+    m_calls.change(OPERATION("ZebDocManager::selectDoc"), {key});
     if (Camera* camera = m_cameras.find(key)) {
-        camera->ask("selectDoc");
+        camera->ask(OPERATION("selectDoc"));
         const DOCKEY current = currentKey();
         camera->set(&CameraState::selected, true);
         m_current = current == zeb::NoDocKey ? key : current;
@@ -188,15 +188,15 @@ void SimDocManager::selectDoc(DOCKEY key) {
 }
 
 void SimDocManager::deselectDoc(DOCKEY key) {
-    m_calls.change("ZebDocManager::deselectDoc", {key});
+    m_calls.change(OPERATION("ZebDocManager::deselectDoc"), {key});
     if (Camera* camera = m_cameras.find(key)) {
-        camera->ask("deselectDoc");
+        camera->ask(OPERATION("deselectDoc"));
         camera->set(&CameraState::selected, false);
     }
 }
 
 void SimDocManager::setSelectedDocs(const DocKeyList& keys, int mode) {
-    m_calls.change("ZebDocManager::setSelectedDocs", {Journal::keyList(keys), mode});
+    m_calls.change(OPERATION("ZebDocManager::setSelectedDocs"), {Journal::keyList(keys), mode});
     selectOnly(keys);
 }
 
@@ -207,14 +207,14 @@ void SimDocManager::selectOnly(const DocKeyList& keys) {
 }
 
 void SimDocManager::selectAllDocs(QObject* /*sender*/) {
-    m_calls.change("ZebDocManager::selectAllDocs");
+    m_calls.change(OPERATION("ZebDocManager::selectAllDocs"));
     for (Camera* camera : m_cameras.all()) {
         camera->set(&CameraState::selected, true);
     }
 }
 
 void SimDocManager::connectDocs(const DocKeyList& keys) {
-    m_calls.change("ZebDocManager::connectDocs", {Journal::keyList(keys)});
+    m_calls.change(OPERATION("ZebDocManager::connectDocs"), {Journal::keyList(keys)});
     forEachKey(keys, [](Camera& camera) {
         if (!camera.get(&CameraState::connected)) {
             camera.connect();
@@ -223,7 +223,7 @@ void SimDocManager::connectDocs(const DocKeyList& keys) {
 }
 
 void SimDocManager::disconnectDocs(const DocKeyList& keys) {
-    m_calls.change("ZebDocManager::disconnectDocs", {Journal::keyList(keys)});
+    m_calls.change(OPERATION("ZebDocManager::disconnectDocs"), {Journal::keyList(keys)});
     forEachKey(keys, [](Camera& camera) {
         if (camera.get(&CameraState::connected)) {
             camera.disconnect();
@@ -240,7 +240,7 @@ void SimDocManager::forEachKey(const DocKeyList& keys, const std::function<void(
 }
 
 void SimDocManager::deleteAllDocs(int kind, int mode) {
-    m_calls.change("ZebDocManager::deleteAllDocs", {kind, mode});
+    m_calls.change(OPERATION("ZebDocManager::deleteAllDocs"), {kind, mode});
     if (m_context.recorder.isUnderWay()) {
         const QString text = TextKey("Cameras are armed or recording. None was deleted.");
         throw std::runtime_error(m_context.translator.translate(text).toStdString());
@@ -257,14 +257,14 @@ void SimDocManager::deleteAllDocs(int kind, int mode) {
 }
 
 void SimDocManager::editDoc(DOCKEY key) {
-    m_calls.change("ZebDocManager::editDoc", {key});
+    m_calls.change(OPERATION("ZebDocManager::editDoc"), {key});
     if (m_editor && m_cameras.find(key)) {
         m_editor(key);
     }
 }
 
 bool SimDocManager::sharesDeviceWithLockedHead(DOC_Interface* doc, bool shutter, bool resolution) {
-    m_calls.ask("sharesDeviceWithLockedHead");
+    m_calls.ask(OPERATION("sharesDeviceWithLockedHead"));
     const Camera* camera = m_cameras.find(doc->getKey());
     if (!camera) {
         return false;
@@ -279,56 +279,56 @@ bool SimDocManager::sharesDeviceWithLockedHead(DOC_Interface* doc, bool shutter,
 }
 
 void SimDocManager::beginDocEdit() {
-    m_calls.change("ZebDocManager::beginDocEdit");
+    m_calls.change(OPERATION("ZebDocManager::beginDocEdit"));
 }
 
 void SimDocManager::beginDocEditNotify() {
-    m_calls.change("ZebDocManager::beginDocEditNotify");
+    m_calls.change(OPERATION("ZebDocManager::beginDocEditNotify"));
 }
 
 void SimDocManager::endDocEdit() {
-    m_calls.change("ZebDocManager::endDocEdit");
+    m_calls.change(OPERATION("ZebDocManager::endDocEdit"));
 }
 
 void SimDocManager::commitDocEdit() {
-    m_calls.change("ZebDocManager::commitDocEdit");
+    m_calls.change(OPERATION("ZebDocManager::commitDocEdit"));
 }
 
 void SimDocManager::refreshDocList(int mode) {
-    m_calls.change("ZebDocManager::refreshDocList", {mode});
+    m_calls.change(OPERATION("ZebDocManager::refreshDocList"), {mode});
     m_updates.request();
 }
 
 void SimDocManager::setQuickTool(const QString& tool, bool on) {
-    m_calls.change("ZebDocManager::setQuickTool", {tool, on});
+    m_calls.change(OPERATION("ZebDocManager::setQuickTool"), {tool, on});
     m_tools.setQuick(tool, on);
 }
 
 void SimDocManager::setActiveQuickTool(const QString& tool) {
-    m_calls.change("ZebDocManager::setActiveQuickTool", {tool});
+    m_calls.change(OPERATION("ZebDocManager::setActiveQuickTool"), {tool});
     m_tools.setActive(tool);
 }
 
 void SimDocManager::toolSelect(const QString& tool, bool on) {
-    m_calls.change("ZebDocManager::toolSelect", {tool, on});
+    m_calls.change(OPERATION("ZebDocManager::toolSelect"), {tool, on});
     m_tools.choose(tool, currentKey(), on);
 }
 
 void SimDocManager::toolSelectAll(const QString& tool, bool all, bool on) {
-    m_calls.change("ZebDocManager::toolSelectAll", {tool, all, on});
+    m_calls.change(OPERATION("ZebDocManager::toolSelectAll"), {tool, all, on});
     for (const DOCKEY key : all ? m_cameras.keys() : DocKeyList{currentKey()}) {
         m_tools.choose(tool, key, on);
     }
 }
 
 void SimDocManager::toolBegin(int mode, const QString& tool) {
-    m_calls.change("ZebDocManager::toolBegin", {mode, tool});
+    m_calls.change(OPERATION("ZebDocManager::toolBegin"), {mode, tool});
 }
 
 void SimDocManager::toolEnd(const QString& tool) {
-    m_calls.change("ZebDocManager::toolEnd", {tool});
+    m_calls.change(OPERATION("ZebDocManager::toolEnd"), {tool});
 }
 
 void SimDocManager::toolApply(const QString& tool) {
-    m_calls.change("ZebDocManager::toolApply", {tool});
+    m_calls.change(OPERATION("ZebDocManager::toolApply"), {tool});
 }

@@ -7,7 +7,7 @@
 #include "SimAppStatus.h"
 
 unsigned int SimFrames::getFrameCount(int /*partition*/, int /*head*/) const {
-    m_camera.askConnected("getFrameCount");
+    m_camera.askConnected(OPERATION("getFrameCount"));
     if (m_context.appStatus.mode() == zeb::LiveMode) {
         return m_camera.model().frameCapacity(m_camera.state());
     }
@@ -16,82 +16,82 @@ unsigned int SimFrames::getFrameCount(int /*partition*/, int /*head*/) const {
 }
 
 int SimFrames::getFirstFrame(int /*partition*/, int /*head*/) const {
-    return ask("getFirstFrame").first;
+    return ask(OPERATION("getFirstFrame")).first;
 }
 
 int SimFrames::getLastFrame(int /*partition*/, int /*head*/) const {
-    return ask("getLastFrame").last;
+    return ask(OPERATION("getLastFrame")).last;
 }
 
 int SimFrames::getTriggerFrame(int /*head*/) const {
-    return ask("getTriggerFrame").zero;
+    return ask(OPERATION("getTriggerFrame")).zero;
 }
 
 int SimFrames::getSelectStartFrame(int /*head*/) const {
-    return ask("getSelectStartFrame").selectedFirst;
+    return ask(OPERATION("getSelectStartFrame")).selectedFirst;
 }
 
 int SimFrames::getSelectEndFrame(int /*head*/) const {
-    return ask("getSelectEndFrame").selectedLast;
+    return ask(OPERATION("getSelectEndFrame")).selectedLast;
 }
 
 bool SimFrames::isPlaying() const {
-    m_camera.ask("isPlaying");
+    m_camera.ask(OPERATION("isPlaying"));
     return m_camera.get(&CameraState::playing);
 }
 
 bool SimFrames::isRecordCheck() const {
-    m_camera.ask("isRecordCheck");
+    m_camera.ask(OPERATION("isRecordCheck"));
     return m_camera.get(&CameraState::recordCheck);
 }
 
 void SimFrames::setRecordCheck(bool check) {
     m_context.calls.note("DOC_Frames::setRecordCheck", {m_camera.key(), check});
-    m_camera.ask("setRecordCheck");
+    m_camera.ask(OPERATION("setRecordCheck"));
     m_camera.set(&CameraState::recordCheck, check);
 }
 
 bool SimFrames::isFrameSkipEnabled() const {
-    m_camera.ask("isFrameSkipEnabled");
+    m_camera.ask(OPERATION("isFrameSkipEnabled"));
     return m_camera.get(&CameraState::frameSkipEnabled);
 }
 
 void SimFrames::setFrameSkipEnabled(bool enabled) {
     m_context.calls.note("DOC_Frames::setFrameSkipEnabled", {m_camera.key(), enabled});
-    m_camera.ask("setFrameSkipEnabled");
+    m_camera.ask(OPERATION("setFrameSkipEnabled"));
     m_camera.set(&CameraState::frameSkipEnabled, enabled);
 }
 
 void SimFrames::setFrameSkipMode(int mode) {
     m_context.calls.note("DOC_Frames::setFrameSkipMode", {m_camera.key(), mode});
-    m_camera.ask("setFrameSkipMode");
+    m_camera.ask(OPERATION("setFrameSkipMode"));
     m_camera.set(&CameraState::frameSkipMode, mode);
 }
 
 int SimFrames::getFrameSkip() const {
-    m_camera.ask("getFrameSkip");
+    m_camera.ask(OPERATION("getFrameSkip"));
     return m_camera.get(&CameraState::frameSkip);
 }
 
 void SimFrames::setFrameSkip(int frames) {
     m_context.calls.note("DOC_Frames::setFrameSkip", {m_camera.key(), frames});
-    m_camera.ask("setFrameSkip");
+    m_camera.ask(OPERATION("setFrameSkip"));
     m_camera.set(&CameraState::frameSkip, frames);
 }
 
 void SimFrames::setRecordAreaStart(int frame) {
     m_context.calls.note("DOC_Frames::setRecordAreaStart", {m_camera.key(), frame});
-    m_camera.ask("setRecordAreaStart");
+    m_camera.ask(OPERATION("setRecordAreaStart"));
     m_camera.set(&CameraState::recordArea, {frame, m_camera.get(&CameraState::recordArea).y()});
 }
 
 void SimFrames::setRecordAreaEnd(int frame) {
     m_context.calls.note("DOC_Frames::setRecordAreaEnd", {m_camera.key(), frame});
-    m_camera.ask("setRecordAreaEnd");
+    m_camera.ask(OPERATION("setRecordAreaEnd"));
     m_camera.set(&CameraState::recordArea, {m_camera.get(&CameraState::recordArea).x(), frame});
 }
 
-Recording SimFrames::ask(const char* operation) const {
+Recording SimFrames::ask(CameraOperation operation) const {
     m_camera.askConnected(operation);
     return m_camera.recording().value_or(Recording());
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "DOC_Frames.h"
+#include "Operation.h"
 
 class Camera;
 struct Recording;
@@ -30,7 +31,7 @@ public:
 
 private:
     /// All zero when nothing is recorded.
-    Recording ask(const char* operation) const;
+    Recording ask(CameraOperation operation) const;
 
     Camera& m_camera;
     const DocContext& m_context;

@@ -6,7 +6,7 @@
 #include "ImageTools.h"
 
 QString SimImage::getComment() const {
-    m_camera.ask("getComment");
+    m_camera.ask(OPERATION("getComment"));
     return m_camera.get(&CameraState::comment);
 }
 
@@ -16,7 +16,7 @@ void SimImage::setComment(const QString& comment) {
 }
 
 std::optional<zeb::ImageFormat> SimImage::getImageFormat(int /*kind*/, int /*head*/) const {
-    m_camera.ask("getImageFormat");
+    m_camera.ask(OPERATION("getImageFormat"));
     if (!m_camera.get(&CameraState::connected)) {
         return std::nullopt;
     }
@@ -25,38 +25,38 @@ std::optional<zeb::ImageFormat> SimImage::getImageFormat(int /*kind*/, int /*hea
 }
 
 QSize SimImage::getImageSize() const {
-    m_camera.ask("getImageSize");
+    m_camera.ask(OPERATION("getImageSize"));
     return m_camera.get(&CameraState::resolution);
 }
 
 double SimImage::getScale() const {
-    m_camera.ask("getScale");
+    m_camera.ask(OPERATION("getScale"));
     return m_camera.get(&CameraState::scale);
 }
 
 int SimImage::getBinningPower() const {
-    m_camera.ask("getBinningPower");
+    m_camera.ask(OPERATION("getBinningPower"));
     return m_camera.get(&CameraState::binningPower);
 }
 
 QPoint SimImage::getPoint() const {
-    m_camera.ask("getPoint");
+    m_camera.ask(OPERATION("getPoint"));
     return m_camera.get(&CameraState::point);
 }
 
 QRect SimImage::getToolRect(const QString& tool) const {
-    m_camera.ask("getToolRect");
+    m_camera.ask(OPERATION("getToolRect"));
     return m_context.tools.rect(tool, m_camera.key());
 }
 
 void SimImage::setToolRect(const QString& tool, const QRect& rect) {
     const QVariantList plainRect{rect.x(), rect.y(), rect.width(), rect.height()};
     m_context.calls.note("DOC_Image::setToolRect", {m_camera.key(), tool, plainRect});
-    m_camera.ask("setToolRect");
+    m_camera.ask(OPERATION("setToolRect"));
     m_context.tools.setRect(tool, m_camera.key(), rect);
 }
 
 bool SimImage::isToolChecked(const QString& tool) const {
-    m_camera.ask("isToolChecked");
+    m_camera.ask(OPERATION("isToolChecked"));
     return m_context.tools.isChosen(tool, m_camera.key());
 }
