@@ -36,9 +36,13 @@ public:
     /// It is armed or records.
     bool isUnderWay() const;
 
-    /// One member of the state, as `get(&CameraState::rate)`.
+    /// One member of the state, as `get(&CameraState::rate)`, or of the model.
     template <typename T, typename Owner>
     T get(T Owner::*member) const;
+    template <typename T>
+    T get(T CameraModel::*member) const {
+        return model().*member;
+    }
     template <typename T, typename Owner>
     void set(T Owner::*member, std::common_type_t<T> value);
     CameraState state() const;

@@ -21,8 +21,10 @@ bool ImageTools::isActive(const QString& tool) const {
     return m_active == tool || m_quick.contains(tool);
 }
 
-void ImageTools::choose(const QString& tool, DOCKEY key, bool on) {
-    setMember(m_chosen[tool], key, on);
+void ImageTools::choose(const QString& tool, const DocKeyList& keys, bool on) {
+    for (const DOCKEY key : keys) {
+        setMember(m_chosen[tool], key, on);
+    }
 }
 
 bool ImageTools::isChosen(const QString& tool, DOCKEY key) const {

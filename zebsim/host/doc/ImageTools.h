@@ -13,7 +13,8 @@ public:
     void setActive(const QString& tool) { m_active = tool; }
     bool isActive(const QString& tool) const;
 
-    void choose(const QString& tool, DOCKEY key, bool on);
+    /// On these documents.
+    void choose(const QString& tool, const DocKeyList& keys, bool on);
     bool isChosen(const QString& tool, DOCKEY key) const;
 
     void setRect(const QString& tool, DOCKEY key, const QRect& rect);

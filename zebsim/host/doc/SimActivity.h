@@ -1,20 +1,14 @@
 #pragma once
 
 #include "DOC_Activity.h"
-
-class Camera;
-struct DocContext;
+#include "DocTopic.h"
 
 /// What a document is busy with.
-class SimActivity : public DOC_Activity {
+class SimActivity : public DocTopic<DOC_Activity> {
 public:
-    SimActivity(Camera& camera, const DocContext& context) : m_camera(camera), m_context(context) {}
+    using DocTopic::DocTopic;
 
-    bool isSuspendReduce() const override;
-    bool isStopLive() const override;
-    void refresh(bool force) override;
-
-private:
-    Camera& m_camera;
-    const DocContext& m_context;
+    bool isSuspendReduce() const override { return ask(OPERATION("isSuspendReduce"), &CameraState::suspendReduce); }
+    bool isStopLive() const override { return ask(OPERATION("isStopLive"), &CameraState::stopLive); }
+    void refresh(bool force) override { changeConnected(OPERATION("DOC_Activity::refresh"), {force}); }
 };

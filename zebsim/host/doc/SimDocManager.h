@@ -1,20 +1,19 @@
 #pragma once
 
+#include "CameraBank.h"
+#include "CameraState.h"
 #include "DocContext.h"
-#include "DocTurn.h"
+#include "DocSelection.h"
+#include "DocTurns.h"
+#include "HostCalls.h"
 #include "ImageTools.h"
+#include "StatusFlags.h"
 #include "ZebDocManager.h"
 
-#include <QPointer>
-
 #include <functional>
-#include <map>
 
-class Camera;
-class CameraBank;
 class Notices;
 class SimRecorder;
-class StatusFlags;
 class SyncSignal;
 class Translator;
 class UnsavedGuard;
@@ -30,70 +29,128 @@ public:
                   std::function<void(const std::exception&)> tellFailure);
 
     /// As `getCurrentDockey`, for the host itself.
-    DOCKEY currentKey() const;
+    DOCKEY currentKey() const { return m_selection.current(); }
     /// What `editDoc` opens; nothing at first. It is called for a camera that is there and runs until it is closed.
     void setEditor(std::function<void(DOCKEY)> editor) { m_editor = std::move(editor); }
     /// As `setSelectedDocs`, by the host itself.
-    void selectOnly(const DocKeyList& keys);
+    void selectOnly(const DocKeyList& keys) { m_selection.selectOnly(keys); }
     /// Documents handed out in this turn of the event loop.
-    std::size_t handedOut() const;
+    std::size_t handedOut() const { return m_turns.handedOut(); }
     /// The host is about to run an event loop: the documents of this turn are dead.
-    void endTurn();
+    void endTurn() { m_turns.endTurn(); }
     /// Hands out none of the present documents any more, and forgets the current one. Those that somebody works with
     /// still tell their keys.
     void forgetDocs();
     /// Whether an image tool is the active one or a quick tool that is on.
     bool isToolActive(const QString& tool) const { return m_tools.isActive(tool); }
 
-    DOC_Interface* getDoc(DOCKEY key, int mode) override;
+    DOC_Interface* getDoc(DOCKEY key, int /*mode*/) override { return getDocAny(key); }
     DOC_Interface* getDocAny(DOCKEY key) override;
-    /// The first that was selected and still is.
-    DOC_Interface* getCurrentDoc() override;
-    bool isCurrentDoc(DOCKEY key) const override;
-    DOCKEY getCurrentDockey(int mode) const override;
+    DOC_Interface* getCurrentDoc() override {
+        m_calls.ask(OPERATION("getCurrentDoc"));
+        return getDocAny(currentKey());
+    }
+    bool isCurrentDoc(DOCKEY key) const override {
+        m_calls.ask(OPERATION("isCurrentDoc"));
+        return m_selection.isCurrent(key);
+    }
+    DOCKEY getCurrentDockey(int /*mode*/) const override {
+        m_calls.ask(OPERATION("getCurrentDockey"));
+        return currentKey();
+    }
     /// Of a selected camera only.
-    void setCurrentDoc(DOCKEY key, int mode) override;
-    DocKeyList getDocKeys(int mode = 0) const override;
-    DocKeyList getConnectedDocKeys(int mode = 0) const override;
-    DocKeyList getLiveDocKeys(int mode, int order) const override;
+    void setCurrentDoc(DOCKEY key, int mode) override {
+        m_calls.change(OPERATION("ZebDocManager::setCurrentDoc"), {key, mode});
+        m_selection.setCurrent(key);
+    }
+    DocKeyList getDocKeys(int /*mode*/ = 0) const override { return ask(OPERATION("getDocKeys")).keys(); }
+    DocKeyList getConnectedDocKeys(int /*mode*/ = 0) const override {
+        return ask(OPERATION("getConnectedDocKeys")).keysOf(&CameraState::connected);
+    }
+    DocKeyList getLiveDocKeys(int /*mode*/, int /*order*/) const override {
+        return ask(OPERATION("getLiveDocKeys")).keys();
+    }
+    DocKeyList getSelectedDocKeys(int /*mode*/) const override {
+        return ask(OPERATION("getSelectedDocKeys")).keysOf(&CameraState::selected);
+    }
     DocList getCameraDocs() override;
     /// Those that are connected and can run on a common signal.
     DocList getSyncableDocs(int mode) override;
-    int getDocCount() const override;
-    int getSelectedDocCount() const override;
+    int getDocCount() const override {
+        return isOn(OPERATION("getDocCount"), QStringLiteral("IsNoneDocument")) ? 0 : int(m_cameras.all().size());
+    }
+    int getSelectedDocCount() const override {
+        return ask(OPERATION("getSelectedDocCount")).keysOf(&CameraState::selected).size();
+    }
+
     void selectDoc(DOCKEY key) override;
     void deselectDoc(DOCKEY key) override;
-    DocKeyList getSelectedDocKeys(int mode) const override;
     void setSelectedDocs(const DocKeyList& keys, int mode) override;
-    void selectAllDocs(QObject* sender) override;
+    void selectAllDocs(QObject* /*sender*/) override {
+        m_calls.change(OPERATION("ZebDocManager::selectAllDocs"));
+        m_selection.selectAll();
+    }
     void connectDocs(const DocKeyList& keys) override;
     void disconnectDocs(const DocKeyList& keys) override;
     /// Throws while a connected camera is armed or records. A notice names those that hold images nobody has saved.
     void deleteAllDocs(int kind, int mode) override;
     void editDoc(DOCKEY key) override;
     bool sharesDeviceWithLockedHead(DOC_Interface* doc, bool shutter, bool resolution) override;
+
     /// There is none: cameras bring images only.
-    bool hasWaveformData() const override;
-    bool isWaveDataAcquisition() const override;
-    bool isConflictPartition(int mode) const override;
-    bool isPhaseAdjusting() const override;
+    bool hasWaveformData() const override {
+        m_calls.ask(OPERATION("hasWaveformData"));
+        return false;
+    }
+    bool isWaveDataAcquisition() const override {
+        return isOn(OPERATION("isWaveDataAcquisition"), QStringLiteral("IsWaveDataAcquisition"));
+    }
+    bool isConflictPartition(int /*mode*/) const override {
+        return isOn(OPERATION("isConflictPartition"), QStringLiteral("IsConflictPartition"));
+    }
+    bool isPhaseAdjusting() const override {
+        return isOn(OPERATION("isPhaseAdjusting"), QStringLiteral("IsPhaseAdjusting"));
+    }
     bool isRecordAreaEnabled() const override;
+
     QMutex* getDocMutex() override { return &m_mutex; }
-    void beginDocEdit() override;
-    void beginDocEditNotify() override;
-    void endDocEdit() override;
-    void commitDocEdit() override;
+    void beginDocEdit() override { m_calls.change(OPERATION("ZebDocManager::beginDocEdit")); }
+    void beginDocEditNotify() override { m_calls.change(OPERATION("ZebDocManager::beginDocEditNotify")); }
+    void endDocEdit() override { m_calls.change(OPERATION("ZebDocManager::endDocEdit")); }
+    void commitDocEdit() override { m_calls.change(OPERATION("ZebDocManager::commitDocEdit")); }
     void refreshDocList(int mode) override;
-    void setQuickTool(const QString& tool, bool on) override;
-    void setActiveQuickTool(const QString& tool) override;
-    void toolSelect(const QString& tool, bool on) override;
-    void toolSelectAll(const QString& tool, bool all, bool on) override;
-    void toolBegin(int mode, const QString& tool) override;
-    void toolEnd(const QString& tool) override;
-    void toolApply(const QString& tool) override;
+
+    void setQuickTool(const QString& tool, bool on) override {
+        m_calls.change(OPERATION("ZebDocManager::setQuickTool"), {tool, on});
+        m_tools.setQuick(tool, on);
+    }
+    void setActiveQuickTool(const QString& tool) override {
+        m_calls.change(OPERATION("ZebDocManager::setActiveQuickTool"), {tool});
+        m_tools.setActive(tool);
+    }
+    void toolSelect(const QString& tool, bool on) override {
+        m_calls.change(OPERATION("ZebDocManager::toolSelect"), {tool, on});
+        m_tools.choose(tool, {currentKey()}, on);
+    }
+    void toolSelectAll(const QString& tool, bool all, bool on) override {
+        m_calls.change(OPERATION("ZebDocManager::toolSelectAll"), {tool, all, on});
+        m_tools.choose(tool, all ? m_cameras.keys() : DocKeyList{currentKey()}, on);
+    }
+    void toolBegin(int mode, const QString& tool) override {
+        m_calls.change(OPERATION("ZebDocManager::toolBegin"), {mode, tool});
+    }
+    void toolEnd(const QString& tool) override { m_calls.change(OPERATION("ZebDocManager::toolEnd"), {tool}); }
+    void toolApply(const QString& tool) override { m_calls.change(OPERATION("ZebDocManager::toolApply"), {tool}); }
 
 private:
-    DocTurn& turn();
+    const CameraBank& ask(HostOperation operation) const {
+        m_calls.ask(operation);
+        return m_cameras;
+    }
+    bool isOn(HostOperation operation, const QString& flag) const {
+        m_calls.ask(operation);
+        return m_flags.isOn(flag);
+    }
     void forEachKey(const DocKeyList& keys, const std::function<void(Camera&)>& work);
 
     const HostCalls& m_calls;
@@ -104,11 +161,8 @@ private:
     const std::function<void(const std::exception&)> m_tellFailure;
     QMutex m_mutex;
     ImageTools m_tools;
+    DocSelection m_selection;
     const DocContext m_context;
+    DocTurns m_turns;
     std::function<void(DOCKEY)> m_editor;
-    QObject m_turnOwner;
-    /// By the level of their event loop.
-    std::map<int, QPointer<DocTurn>> m_turns;
-    /// May have lost its selection meanwhile.
-    mutable DOCKEY m_current = zeb::NoDocKey;
 };

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "DOC_Interface.h"
+#include "DocTopic.h"
 #include "SimActivity.h"
 #include "SimControl.h"
 #include "SimFrames.h"
@@ -10,7 +11,7 @@
 #include "SimStorage.h"
 
 /// A camera's document: a view on the `Camera`, which holds all that there is to know.
-class SimDocument : public DOC_Interface {
+class SimDocument : public DocTopic<DOC_Interface> {
 public:
     SimDocument(Camera& camera, const DocContext& context);
 
@@ -24,24 +25,22 @@ public:
 
     /// Also when the rig was replaced, and on any thread.
     DOCKEY getKey() const override { return m_key; }
-    bool isConnected() const override;
-    bool isSelected() const override;
-    bool isMobileSelected() const override;
-    bool isSdSelected() const override;
-    bool isQuikDriveSelected() const override;
-    bool isCFastSelected() const override;
+    bool isConnected() const override { return ask(OPERATION("isConnected"), &CameraState::connected); }
+    bool isSelected() const override { return ask(OPERATION("isSelected"), &CameraState::selected); }
+    bool isMobileSelected() const override { return ask(OPERATION("isMobileSelected"), &CameraState::mobile); }
+    bool isSdSelected() const override { return ask(OPERATION("isSdSelected"), &CameraState::sd); }
+    bool isQuikDriveSelected() const override { return ask(OPERATION("isQuikDriveSelected"), &CameraState::quikDrive); }
+    bool isCFastSelected() const override { return ask(OPERATION("isCFastSelected"), &CameraState::cfast); }
     /// The document of the master head; null for the master and for a camera of one head.
     DOC_Interface* getParentDoc() const override;
     DocList getHeadDocs(int mode) override;
     /// "Partition 2", in the user's language, for one without a name.
     QString getPartitionName(PARTITIONNUMBER partition) const override;
-    QStringList getAlerts() const override;
+    QStringList getAlerts() const override { return askConnected(OPERATION("getAlerts"), &CameraState::alerts); }
     QString formatShutterSpeed(int value, int head) const override;
 
 private:
     const DOCKEY m_key;
-    Camera& m_camera;
-    const DocContext& m_context;
     SimActivity m_activity;
     SimLock m_lock;
     SimFrames m_frames;

@@ -1,38 +1,43 @@
 #pragma once
 
 #include "DOC_Frames.h"
-#include "Operation.h"
-
-class Camera;
-struct Recording;
-struct DocContext;
+#include "DocTopic.h"
 
 /// Recorded frames of a document.
-class SimFrames : public DOC_Frames {
+class SimFrames : public DocTopic<DOC_Frames> {
 public:
-    SimFrames(Camera& camera, const DocContext& context) : m_camera(camera), m_context(context) {}
+    using DocTopic::DocTopic;
 
     unsigned int getFrameCount(int partition, int head) const override;
-    int getFirstFrame(int partition, int head) const override;
-    int getLastFrame(int partition, int head) const override;
-    int getTriggerFrame(int head) const override;
-    int getSelectStartFrame(int head) const override;
-    int getSelectEndFrame(int head) const override;
-    bool isPlaying() const override;
-    bool isRecordCheck() const override;
-    void setRecordCheck(bool check) override;
-    bool isFrameSkipEnabled() const override;
-    void setFrameSkipEnabled(bool enabled) override;
-    void setFrameSkipMode(int mode) override;
-    int getFrameSkip() const override;
-    void setFrameSkip(int frames) override;
+    int getFirstFrame(int, int) const override { return askRecording(OPERATION("getFirstFrame")).first; }
+    int getLastFrame(int, int) const override { return askRecording(OPERATION("getLastFrame")).last; }
+    int getTriggerFrame(int) const override { return askRecording(OPERATION("getTriggerFrame")).zero; }
+    int getSelectStartFrame(int) const override { return askRecording(OPERATION("getSelectStartFrame")).selectedFirst; }
+    int getSelectEndFrame(int) const override { return askRecording(OPERATION("getSelectEndFrame")).selectedLast; }
+    bool isPlaying() const override { return ask(OPERATION("isPlaying"), &CameraState::playing); }
+    bool isRecordCheck() const override { return ask(OPERATION("isRecordCheck"), &CameraState::recordCheck); }
+    void setRecordCheck(bool check) override {
+        change(OPERATION("DOC_Frames::setRecordCheck"), {check}).set(&CameraState::recordCheck, check);
+    }
+    bool isFrameSkipEnabled() const override {
+        return ask(OPERATION("isFrameSkipEnabled"), &CameraState::frameSkipEnabled);
+    }
+    void setFrameSkipEnabled(bool enabled) override {
+        change(OPERATION("DOC_Frames::setFrameSkipEnabled"), {enabled}).set(&CameraState::frameSkipEnabled, enabled);
+    }
+    void setFrameSkipMode(int mode) override {
+        change(OPERATION("DOC_Frames::setFrameSkipMode"), {mode}).set(&CameraState::frameSkipMode, mode);
+    }
+    int getFrameSkip() const override { return ask(OPERATION("getFrameSkip"), &CameraState::frameSkip); }
+    void setFrameSkip(int frames) override {
+        change(OPERATION("DOC_Frames::setFrameSkip"), {frames}).set(&CameraState::frameSkip, frames);
+    }
     void setRecordAreaStart(int frame) override;
     void setRecordAreaEnd(int frame) override;
 
 private:
     /// All zero when nothing is recorded.
-    Recording ask(CameraOperation operation) const;
-
-    Camera& m_camera;
-    const DocContext& m_context;
+    Recording askRecording(CameraOperation operation) const {
+        return askConnected(operation).recording().value_or(Recording());
+    }
 };

@@ -1,16 +1,15 @@
 #pragma once
 
 #include "DOC_Head.h"
-
-class Camera;
+#include "DocTopic.h"
 
 /// A document as a head of its device.
-class SimHead : public DOC_Head {
+class SimHead : public DocTopic<DOC_Head> {
 public:
-    explicit SimHead(Camera& camera) : m_camera(camera) {}
+    using DocTopic::DocTopic;
 
-    unsigned int getFrameTotal(int mode, int head) const override;
-
-private:
-    Camera& m_camera;
+    unsigned int getFrameTotal(int /*mode*/, int /*head*/) const override {
+        const auto recording = askConnected(OPERATION("getFrameTotal")).recording();
+        return recording ? recording->selectedCount() : 0;
+    }
 };

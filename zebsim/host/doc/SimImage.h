@@ -1,27 +1,26 @@
 #pragma once
 
 #include "DOC_Image.h"
-
-class Camera;
-struct DocContext;
+#include "DocTopic.h"
+#include "ImageTools.h"
 
 /// The image of a document and what is written to it.
-class SimImage : public DOC_Image {
+class SimImage : public DocTopic<DOC_Image> {
 public:
-    SimImage(Camera& camera, const DocContext& context) : m_camera(camera), m_context(context) {}
+    using DocTopic::DocTopic;
 
-    QString getComment() const override;
-    void setComment(const QString& comment) override;
+    QString getComment() const override { return ask(OPERATION("getComment"), &CameraState::comment); }
+    void setComment(const QString& comment) override { note("DOC_Image::setComment", {comment}).setComment(comment); }
     std::optional<zeb::ImageFormat> getImageFormat(int kind, int head) const override;
-    QSize getImageSize() const override;
-    double getScale() const override;
-    int getBinningPower() const override;
-    QPoint getPoint() const override;
-    QRect getToolRect(const QString& tool) const override;
+    QSize getImageSize() const override { return ask(OPERATION("getImageSize"), &CameraState::resolution); }
+    double getScale() const override { return ask(OPERATION("getScale"), &CameraState::scale); }
+    int getBinningPower() const override { return ask(OPERATION("getBinningPower"), &CameraState::binningPower); }
+    QPoint getPoint() const override { return ask(OPERATION("getPoint"), &CameraState::point); }
+    QRect getToolRect(const QString& tool) const override {
+        return m_context.tools.rect(tool, ask(OPERATION("getToolRect")).key());
+    }
     void setToolRect(const QString& tool, const QRect& rect) override;
-    bool isToolChecked(const QString& tool) const override;
-
-private:
-    Camera& m_camera;
-    const DocContext& m_context;
+    bool isToolChecked(const QString& tool) const override {
+        return m_context.tools.isChosen(tool, ask(OPERATION("isToolChecked")).key());
+    }
 };

@@ -1,20 +1,20 @@
 #pragma once
 
 #include "DOC_Lock.h"
-
-class Camera;
-struct DocContext;
+#include "DocTopic.h"
 
 /// The table's lock on a document.
-class SimLock : public DOC_Lock {
+class SimLock : public DocTopic<DOC_Lock> {
 public:
-    SimLock(Camera& camera, const DocContext& context) : m_camera(camera), m_context(context) {}
+    using DocTopic::DocTopic;
 
-    int getRecordState() const override;
-    bool isParamLocked() const override;
-    void setParamLock(bool lock) override;
-
-private:
-    Camera& m_camera;
-    const DocContext& m_context;
+    int getRecordState() const override { return ask(OPERATION("getRecordState"), &CameraState::recordState); }
+    bool isParamLocked() const override { return ask(OPERATION("isParamLocked"), &CameraState::locked); }
+    void setParamLock(bool lock) override {
+        Camera& camera = change(OPERATION("DOC_Lock::setParamLock"), {lock});
+        const int recordState = camera.get(&CameraState::recordState);
+        if (lock || (recordState != zeb::RecordReady && recordState != zeb::RecordRecording)) {
+            camera.set(&CameraState::locked, lock);
+        }
+    }
 };

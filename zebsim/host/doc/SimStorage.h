@@ -1,18 +1,18 @@
 #pragma once
 
 #include "DOC_Storage.h"
-
-class Camera;
+#include "DocTopic.h"
 
 /// Image plug-ins of a document, and the curve of its images.
-class SimStorage : public DOC_Storage {
+class SimStorage : public DocTopic<DOC_Storage> {
 public:
-    explicit SimStorage(Camera& camera) : m_camera(camera) {}
+    using DocTopic::DocTopic;
 
-    QStringList getPluginNames() const override;
-    bool isPluginEffective(const QString& name, int head) const override;
-    bool isLutCurve() const override;
-
-private:
-    Camera& m_camera;
+    QStringList getPluginNames() const override {
+        return askConnected(OPERATION("getPluginNames"), &CameraState::plugins);
+    }
+    bool isPluginEffective(const QString& name, int /*head*/) const override {
+        return askConnected(OPERATION("isPluginEffective"), &CameraState::effectivePlugins).contains(name);
+    }
+    bool isLutCurve() const override { return ask(OPERATION("isLutCurve"), &CameraState::lutCurve); }
 };
