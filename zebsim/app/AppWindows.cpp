@@ -21,7 +21,7 @@
 
 namespace {
 
-const QString DialogState = QStringLiteral("IsPrefDialogOpening");
+constexpr StatusFlags::Flag DialogState = StatusFlags::IsPrefDialogOpening;
 
 QByteArray pngOf(const QImage& image) {
     QBuffer buffer;

@@ -85,7 +85,7 @@ void Simulator::quit() {
 }
 
 void Simulator::beginClosing() {
-    m_host.flags().set(QStringLiteral("IsApplicationClosing"), true);
+    m_host.flags().set(StatusFlags::IsApplicationClosing, true);
     m_boxes.rejectAll();
 }
 

@@ -1,71 +1,24 @@
 #include "StatusFlags.h"
 
+#include <QMetaEnum>
+
 #include <stdexcept>
 
-StatusFlags::StatusFlags() {
-    for (const char* name : {"ExistLowlight",
-                             "IsActiveLensCalibration",
-                             "IsActiveZebOnWren",
-                             "IsAdjustingImage",
-                             "IsAllLowlightOFF",
-                             "IsAllLowlightON",
-                             "IsAllWrenLockDevice",
-                             "IsApplicationClosing",
-                             "IsAutoExposureSetting",
-                             "IsAutoFocussing",
-                             "IsBgConverting",
-                             "IsBgSaving",
-                             "IsConflictPartition",
-                             "IsCTSReady",
-                             "IsCurrentAutoFocus",
-                             "IsCycleView",
-                             "IsCycleViewBlocked",
-                             "IsDetectingPixelDefect",
-                             "IsDirectSaving",
-                             "IsFullScreen",
-                             "IsHwTriggerSetting",
-                             "IsImageOverlay",
-                             "IsImageTriggerCapturing",
-                             "IsImageTriggerDetecting",
-                             "IsLensCalibration",
-                             "IsLowlight",
-                             "IsModalDialogOpening",
-                             "IsModalessDialogTextFocussing",
-                             "IsMVersion",
-                             "IsNoneDocument",
-                             "IsNoneWindow",
-                             "IsNotLiveAndDeviceSettingPage",
-                             "IsNotlivePage",
-                             "IsOtherPluginOpen",
-                             "IsPhaseAdjusting",
-                             "IsPrefDialogOpening",
-                             "IsReady",
-                             "IsRecording",
-                             "IsRecordingError",
-                             "IsSaving",
-                             "IsSelectionKept",
-                             "IsSendingNodeCommand",
-                             "IsShading",
-                             "IsTracking",
-                             "IsTriggerTesting",
-                             "IsUpdateIgnore",
-                             "IsVariableSetting",
-                             "IsWaveDataAcquisition",
-                             "IsWindowStateSaveSuppressed"}) {
-        m_flags.insert(QString::fromLatin1(name), false);
+QStringList StatusFlags::names() {
+    const QMetaEnum flags = QMetaEnum::fromType<Flag>();
+    QStringList names;
+    for (int i = 0; i < flags.keyCount(); ++i) {
+        names.append(QString::fromLatin1(flags.key(i)));
     }
+    return names;
 }
 
 void StatusFlags::set(const QString& name, bool on) {
-    const auto flag = m_flags.find(name);
-    if (flag == m_flags.end()) {
+    const int flag = names().indexOf(name);
+    if (flag < 0) {
         throw std::invalid_argument(QStringLiteral("the host has no state \"%1\"; it has %2")
                                         .arg(name, names().join(QStringLiteral(", ")))
                                         .toStdString());
     }
-    *flag = on;
-}
-
-bool StatusFlags::isOn(const QString& name) const {
-    return m_flags.value(name);
+    set(Flag(flag), on);
 }

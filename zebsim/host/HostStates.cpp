@@ -9,15 +9,15 @@
 #include <QWidget>
 
 bool HostStates::isModalDialogOpening() const {
-    return QApplication::activeModalWidget() || m_flags.isOn(QStringLiteral("IsModalDialogOpening"));
+    return QApplication::activeModalWidget() || m_flags.isOn(StatusFlags::IsModalDialogOpening);
 }
 
 bool HostStates::isZebActive(const QWidget* window) const {
-    return (window && window->isActiveWindow()) || m_flags.isOn(QStringLiteral("IsActiveZebOnWren"));
+    return (window && window->isActiveWindow()) || m_flags.isOn(StatusFlags::IsActiveZebOnWren);
 }
 
 QWidget* HostStates::fullScreenWidget(QWidget* window) const {
-    const bool full = window && (window->isFullScreen() || m_flags.isOn(QStringLiteral("IsFullScreen")));
+    const bool full = window && (window->isFullScreen() || m_flags.isOn(StatusFlags::IsFullScreen));
     return full ? window : nullptr;
 }
 

@@ -58,10 +58,10 @@ bool SimAppStatus::isPluginEnabledFor(const QString& name, DOC_Interface* doc) c
 }
 
 QString SimAppStatus::getCurrentPluginName() const {
-    if (m_flags.isOn(QStringLiteral("IsActiveLensCalibration"))) {
+    if (m_flags.isOn(StatusFlags::IsActiveLensCalibration)) {
         return QStringLiteral("lenscalib");
     }
-    if (m_flags.isOn(QStringLiteral("IsImageOverlay"))) {
+    if (m_flags.isOn(StatusFlags::IsImageOverlay)) {
         return QStringLiteral("imageoverlay");
     }
     return m_current ? m_current->getName() : m_panel;
@@ -138,37 +138,37 @@ void SimAppStatus::enterMemoryMode() {
 }
 
 bool SimAppStatus::isMVersion() const {
-    return m_flags.isOn(QStringLiteral("IsMVersion"));
+    return m_flags.isOn(StatusFlags::IsMVersion);
 }
 
 bool SimAppStatus::isAutoExposureSetting() const {
-    return m_flags.isOn(QStringLiteral("IsAutoExposureSetting"));
+    return m_flags.isOn(StatusFlags::IsAutoExposureSetting);
 }
 
 bool SimAppStatus::isHwTriggerSetting() const {
-    return m_flags.isOn(QStringLiteral("IsHwTriggerSetting"));
+    return m_flags.isOn(StatusFlags::IsHwTriggerSetting);
 }
 
 bool SimAppStatus::isVariableSetting() const {
-    return m_flags.isOn(QStringLiteral("IsVariableSetting"));
+    return m_flags.isOn(StatusFlags::IsVariableSetting);
 }
 
 bool SimAppStatus::isSendingNodeCommand() const {
-    return m_flags.isOn(QStringLiteral("IsSendingNodeCommand"));
+    return m_flags.isOn(StatusFlags::IsSendingNodeCommand);
 }
 
 bool SimAppStatus::isAdjustingImage() const {
-    return m_flags.isOn(QStringLiteral("IsAdjustingImage"));
+    return m_flags.isOn(StatusFlags::IsAdjustingImage);
 }
 
 bool SimAppStatus::isDetectingPixelDefect() const {
-    return m_flags.isOn(QStringLiteral("IsDetectingPixelDefect"));
+    return m_flags.isOn(StatusFlags::IsDetectingPixelDefect);
 }
 
 bool SimAppStatus::isImageTriggerCapturing() const {
-    return m_flags.isOn(QStringLiteral("IsImageTriggerCapturing"));
+    return m_flags.isOn(StatusFlags::IsImageTriggerCapturing);
 }
 
 bool SimAppStatus::isImageTriggerDetecting() const {
-    return m_flags.isOn(QStringLiteral("IsImageTriggerDetecting"));
+    return m_flags.isOn(StatusFlags::IsImageTriggerDetecting);
 }

@@ -183,7 +183,7 @@ void SimCameraOps::stopForPrefs() {
 bool SimCameraOps::isLowlight() const {
     m_calls.ask(OPERATION("isLowlight"));
     const auto cameras = m_cameras.connected();
-    return m_flags.isOn(QStringLiteral("IsLowlight")) ||
+    return m_flags.isOn(StatusFlags::IsLowlight) ||
            std::any_of(cameras.begin(), cameras.end(), [](const Camera* camera) {
                return camera->get(&CameraState::selected) && camera->get(&CameraState::lowLight);
            });
@@ -192,7 +192,7 @@ bool SimCameraOps::isLowlight() const {
 bool SimCameraOps::existLowlight() const {
     m_calls.ask(OPERATION("existLowlight"));
     const auto cameras = m_cameras.connected();
-    return m_flags.isOn(QStringLiteral("ExistLowlight")) ||
+    return m_flags.isOn(StatusFlags::ExistLowlight) ||
            std::any_of(cameras.begin(), cameras.end(),
                        [](const Camera* camera) { return camera->get(&CameraState::lowLight); });
 }
@@ -200,7 +200,7 @@ bool SimCameraOps::existLowlight() const {
 bool SimCameraOps::isAllLowlight(bool on) const {
     m_calls.ask(OPERATION("isAllLowlight"));
     const auto cameras = m_cameras.connected();
-    return m_flags.isOn(on ? QStringLiteral("IsAllLowlightON") : QStringLiteral("IsAllLowlightOFF")) ||
+    return m_flags.isOn(on ? StatusFlags::IsAllLowlightON : StatusFlags::IsAllLowlightOFF) ||
            std::all_of(cameras.begin(), cameras.end(), [on](const Camera* camera) {
                return !camera->model().functions.contains(zeb::FunctionLowLight) ||
                       camera->get(&CameraState::lowLight) == on;
@@ -209,12 +209,12 @@ bool SimCameraOps::isAllLowlight(bool on) const {
 
 bool SimCameraOps::isLensCalibration() const {
     m_calls.ask(OPERATION("isLensCalibration"));
-    return m_flags.isOn(QStringLiteral("IsLensCalibration"));
+    return m_flags.isOn(StatusFlags::IsLensCalibration);
 }
 
 bool SimCameraOps::isDirectSaving(int /*mode*/) const {
     m_calls.ask(OPERATION("isDirectSaving"));
-    return m_flags.isOn(QStringLiteral("IsDirectSaving"));
+    return m_flags.isOn(StatusFlags::IsDirectSaving);
 }
 
 bool SimCameraOps::isAllWrenLockDevice() const {
@@ -223,7 +223,7 @@ bool SimCameraOps::isAllWrenLockDevice() const {
     const bool all = !cameras.empty() && std::all_of(cameras.begin(), cameras.end(), [](const Camera* camera) {
         return camera->get(&CameraState::locked);
     });
-    return all || m_flags.isOn(QStringLiteral("IsAllWrenLockDevice"));
+    return all || m_flags.isOn(StatusFlags::IsAllWrenLockDevice);
 }
 
 DocKeyList SimCameraOps::keysOf(const DocList& docs) {

@@ -216,13 +216,13 @@ public:
 
     void updateUI(unsigned int mask, bool refresh) override { m_hostUpdates.updateUI(mask, refresh); }
     void deterUpdateUI(bool deter) override { m_hostUpdates.deterUpdateUI(deter); }
-    bool isUpdateIgnore() const override { return m_flags.isOn(QStringLiteral("IsUpdateIgnore")); }
+    bool isUpdateIgnore() const override { return m_flags.isOn(StatusFlags::IsUpdateIgnore); }
     void refreshTools() override { m_hostUpdates.refreshTools(); }
 
     /// Shows as the state "IsModalessDialogTextFocussing".
     void setTextBoxFocusState(bool focused) override {
         m_calls.note("ZebHost::setTextBoxFocusState", {focused});
-        m_flags.set(QStringLiteral("IsModalessDialogTextFocussing"), focused);
+        m_flags.set(StatusFlags::IsModalessDialogTextFocussing, focused);
     }
 
     bool isViewerRunning() const override { return m_hostUpdates.isViewerRunning(); }
@@ -230,31 +230,28 @@ public:
     void resumeViewer() override { m_hostUpdates.resumeViewer(); }
 
     bool isReady() const override { return !isApplicationClosing(); }
-    bool isApplicationClosing() const override { return m_flags.isOn(QStringLiteral("IsApplicationClosing")); }
-    bool isWindowStateSaveSuppressed() const override {
-        return m_flags.isOn(QStringLiteral("IsWindowStateSaveSuppressed"));
-    }
-    bool isOtherPluginOpen() const override { return m_flags.isOn(QStringLiteral("IsOtherPluginOpen")); }
-    bool isSelectionKept() const override { return m_flags.isOn(QStringLiteral("IsSelectionKept")); }
-    bool getTriggerTesting() const override { return m_flags.isOn(QStringLiteral("IsTriggerTesting")); }
+    bool isApplicationClosing() const override { return m_flags.isOn(StatusFlags::IsApplicationClosing); }
+    bool isWindowStateSaveSuppressed() const override { return m_flags.isOn(StatusFlags::IsWindowStateSaveSuppressed); }
+    bool isOtherPluginOpen() const override { return m_flags.isOn(StatusFlags::IsOtherPluginOpen); }
+    bool isSelectionKept() const override { return m_flags.isOn(StatusFlags::IsSelectionKept); }
+    bool getTriggerTesting() const override { return m_flags.isOn(StatusFlags::IsTriggerTesting); }
     void setTriggerTesting(bool on) override {
         m_calls.note("ZebHost::setTriggerTesting", {on});
-        m_flags.set(QStringLiteral("IsTriggerTesting"), on);
+        m_flags.set(StatusFlags::IsTriggerTesting, on);
     }
-    bool isTracking() const override { return m_flags.isOn(QStringLiteral("IsTracking")); }
-    bool isShading() const override { return m_flags.isOn(QStringLiteral("IsShading")); }
-    bool isAutoFocussing() const override { return m_flags.isOn(QStringLiteral("IsAutoFocussing")); }
-    bool isCurrentAutoFocus(int /*mode*/) const override { return m_flags.isOn(QStringLiteral("IsCurrentAutoFocus")); }
-    bool isCycleViewBlocked() const override { return m_flags.isOn(QStringLiteral("IsCycleViewBlocked")); }
+    bool isTracking() const override { return m_flags.isOn(StatusFlags::IsTracking); }
+    bool isShading() const override { return m_flags.isOn(StatusFlags::IsShading); }
+    bool isAutoFocussing() const override { return m_flags.isOn(StatusFlags::IsAutoFocussing); }
+    bool isCurrentAutoFocus(int /*mode*/) const override { return m_flags.isOn(StatusFlags::IsCurrentAutoFocus); }
+    bool isCycleViewBlocked() const override { return m_flags.isOn(StatusFlags::IsCycleViewBlocked); }
     bool isNotLivePage(bool orDeviceSettings) const override {
-        return m_flags.isOn(orDeviceSettings ? QStringLiteral("IsNotLiveAndDeviceSettingPage")
-                                             : QStringLiteral("IsNotlivePage"));
+        return m_flags.isOn(orDeviceSettings ? StatusFlags::IsNotLiveAndDeviceSettingPage : StatusFlags::IsNotlivePage);
     }
-    bool isPrefDialogOpening() const override { return m_flags.isOn(QStringLiteral("IsPrefDialogOpening")); }
+    bool isPrefDialogOpening() const override { return m_flags.isOn(StatusFlags::IsPrefDialogOpening); }
     bool isModalDialogOpening() const override { return m_states.isModalDialogOpening(); }
     bool isZebActive() const override { return m_states.isZebActive(m_mainWindow); }
     QWidget* getFullScreenWidget() const override { return m_states.fullScreenWidget(m_mainWindow); }
-    bool isTextBoxFocussing() const override { return m_flags.isOn(QStringLiteral("IsModalessDialogTextFocussing")); }
+    bool isTextBoxFocussing() const override { return m_flags.isOn(StatusFlags::IsModalessDialogTextFocussing); }
     bool isToolActive(const QString& tool) const override { return m_docManager.isToolActive(tool); }
     bool isPluginAvailable(const QString& name) const override { return imageplugins::has(name); }
     bool isPluginOkPattern(const QString& name) const override { return imageplugins::needsOk(name); }

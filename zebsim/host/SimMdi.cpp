@@ -8,7 +8,7 @@
 #include <algorithm>
 
 int SimMdi::countMdiWindow(bool /*visible*/, int /*kind*/) const {
-    if (m_flags.isOn(QStringLiteral("IsNoneWindow")) || m_appStatus.mode() == zeb::FileMode) {
+    if (m_flags.isOn(StatusFlags::IsNoneWindow) || m_appStatus.mode() == zeb::FileMode) {
         return 0;
     }
     const auto cameras = m_cameras.all();

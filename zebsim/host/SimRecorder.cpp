@@ -67,10 +67,10 @@ int SimRecorder::stateOf(const DocKeyList& keys) const {
     if (m_owedEnd) {
         return zeb::RecordRecording;
     }
-    const QList<QPair<QString, zeb::RecordStatus>> states{{QStringLiteral("IsRecordingError"), zeb::RecordError},
-                                                          {QStringLiteral("IsRecording"), zeb::RecordRecording},
-                                                          {QStringLiteral("IsReady"), zeb::RecordReady},
-                                                          {QStringLiteral("IsCTSReady"), zeb::RecordCtsReady}};
+    const QList<QPair<StatusFlags::Flag, zeb::RecordStatus>> states{{StatusFlags::IsRecordingError, zeb::RecordError},
+                                                                    {StatusFlags::IsRecording, zeb::RecordRecording},
+                                                                    {StatusFlags::IsReady, zeb::RecordReady},
+                                                                    {StatusFlags::IsCTSReady, zeb::RecordCtsReady}};
     for (const auto& [flag, status] : states) {
         if (m_flags.isOn(flag)) {
             return status;
@@ -114,7 +114,7 @@ void SimRecorder::triggerRecording() {
 }
 
 void SimRecorder::trigger() {
-    if (m_flags.isOn(QStringLiteral("IsTriggerTesting"))) {
+    if (m_flags.isOn(StatusFlags::IsTriggerTesting)) {
         m_notices.add(Message::Info, TextKey("Trigger test: the trigger has come. Nothing is recorded."));
     } else {
         m_run.trigger(m_prefs.value(QStringLiteral("recording/area")).toBool(), m_unsaved.isOn());

@@ -8,15 +8,15 @@
 #include <QGuiApplication>
 
 bool SimSaver::isSaving() const {
-    return m_flags.isOn(QStringLiteral("IsSaving")) || m_windows->isSaving();
+    return m_flags.isOn(StatusFlags::IsSaving) || m_windows->isSaving();
 }
 
 bool SimSaver::isBgSaving() const {
-    return m_flags.isOn(QStringLiteral("IsBgSaving"));
+    return m_flags.isOn(StatusFlags::IsBgSaving);
 }
 
 bool SimSaver::isBgConverting() const {
-    return m_flags.isOn(QStringLiteral("IsBgConverting"));
+    return m_flags.isOn(StatusFlags::IsBgConverting);
 }
 
 void SimSaver::copyToClipboard(int what) {

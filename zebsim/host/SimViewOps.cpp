@@ -30,5 +30,5 @@ double SimViewOps::getZoom(DOCKEY key) const {
 }
 
 bool SimViewOps::isCycleView() const {
-    return m_flags.isOn(QStringLiteral("IsCycleView"));
+    return m_flags.isOn(StatusFlags::IsCycleView);
 }

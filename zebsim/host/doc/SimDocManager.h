@@ -77,7 +77,7 @@ public:
     /// Those that are connected and can run on a common signal.
     DocList getSyncableDocs(int mode) override;
     int getDocCount() const override {
-        return isOn(OPERATION("getDocCount"), QStringLiteral("IsNoneDocument")) ? 0 : int(m_cameras.all().size());
+        return isOn(OPERATION("getDocCount"), StatusFlags::IsNoneDocument) ? 0 : int(m_cameras.all().size());
     }
     int getSelectedDocCount() const override {
         return ask(OPERATION("getSelectedDocCount")).keysOf(&CameraState::selected).size();
@@ -103,13 +103,13 @@ public:
         return false;
     }
     bool isWaveDataAcquisition() const override {
-        return isOn(OPERATION("isWaveDataAcquisition"), QStringLiteral("IsWaveDataAcquisition"));
+        return isOn(OPERATION("isWaveDataAcquisition"), StatusFlags::IsWaveDataAcquisition);
     }
     bool isConflictPartition(int /*mode*/) const override {
-        return isOn(OPERATION("isConflictPartition"), QStringLiteral("IsConflictPartition"));
+        return isOn(OPERATION("isConflictPartition"), StatusFlags::IsConflictPartition);
     }
     bool isPhaseAdjusting() const override {
-        return isOn(OPERATION("isPhaseAdjusting"), QStringLiteral("IsPhaseAdjusting"));
+        return isOn(OPERATION("isPhaseAdjusting"), StatusFlags::IsPhaseAdjusting);
     }
     bool isRecordAreaEnabled() const override;
 
@@ -147,7 +147,7 @@ private:
         m_calls.ask(operation);
         return m_cameras;
     }
-    bool isOn(HostOperation operation, const QString& flag) const {
+    bool isOn(HostOperation operation, StatusFlags::Flag flag) const {
         m_calls.ask(operation);
         return m_flags.isOn(flag);
     }
