@@ -34,11 +34,7 @@ void SaveDesk::save(bool layout) {
     if (layout && !earlier.isEmpty()) {
         tracks.front().name = uiText("%1 with %2").arg(tracks.front().name, earlier.join(QStringLiteral(", ")));
     }
-    QStringList absent;
-    for (const AbsentCamera& camera : m_shoot.absent()) {
-        absent << absentText(camera);
-    }
-    absent << m_host.recorder().lost();
+    const QStringList absent = absentCameras();
     if (tracks.empty()) {
         m_host.messages().tell(Message::Warn, uiText("No connected camera has recorded images."), absent);
         return;
@@ -53,6 +49,14 @@ void SaveDesk::save(bool layout) {
     begin({prefs.value(QStringLiteral("save/folder")).toString(),
            saveFormat(prefs.value(QStringLiteral("save/format")).toString()), tracks,
            [this](const QString& file) { return ask(file); }, VideoEncoder::installed(), absent});
+}
+
+QStringList SaveDesk::absentCameras() const {
+    QStringList lines;
+    for (const AbsentCamera& camera : m_shoot.absent()) {
+        lines << absentText(camera);
+    }
+    return lines + m_host.recorder().lost();
 }
 
 QStringList SaveDesk::markEarlier(SaveSources& sources) const {

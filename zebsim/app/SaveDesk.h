@@ -30,6 +30,8 @@ public:
     bool isSaving() const;
 
 private:
+    /// A line for each camera whose last recording can't be saved.
+    QStringList absentCameras() const;
     /// Names those that are not of the last shoot so, and answers the names.
     QStringList markEarlier(SaveSources& sources) const;
     void begin(const SaveOrders& orders);

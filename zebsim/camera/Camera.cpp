@@ -4,12 +4,10 @@
 #include "Clock.h"
 #include "FaultPlan.h"
 #include "RecordSettings.h"
-#include "SyncSource.h"
 #include "TextKey.h"
 
 #include <algorithm>
 #include <atomic>
-#include <cmath>
 
 namespace {
 
@@ -55,9 +53,14 @@ bool Camera::isGone() const {
     return m_device.faults().isGone(m_key);
 }
 
+bool Camera::isArmed() const {
+    const int state = recordState();
+    return state == zeb::RecordCtsReady || state == zeb::RecordReady;
+}
+
 bool Camera::isUnderWay() const {
-    const int recordState = get(&CameraState::recordState);
-    return recordState != zeb::RecordLive && recordState != zeb::RecordError;
+    const int state = recordState();
+    return state != zeb::RecordLive && state != zeb::RecordError;
 }
 
 CameraState Camera::state() const {
@@ -145,179 +148,8 @@ bool Camera::commandConnected(CameraOperation operation) {
     return there;
 }
 
-void Camera::connect() {
-    if (!command(OPERATION("connectDocs"))) {
-        return;
-    }
-    onAllHeads(&CameraState::connected, true);
-}
-
-void Camera::disconnect() {
-    if (!command(OPERATION("disconnectDocs"))) {
-        return;
-    }
-    for (const auto& head : m_device.heads()) {
-        head->set(&CameraState::connected, false);
-        head->enterRecordState(zeb::RecordLive);
-    }
-}
-
 void Camera::refuse(const QString& reason) const {
     throw CameraError(name(), reason);
-}
-
-void Camera::require(int function, const char* mode) const {
-    if (!model().functions.contains(function)) {
-        refuse(QStringLiteral("the camera has no %1").arg(QLatin1String(mode)));
-    }
-}
-
-void Camera::setRecordRate(unsigned int rate) {
-    if (!commandConnected(OPERATION("setRecordRate"))) {
-        return;
-    }
-    try {
-        onAllHeads(&CameraState::rate, model().acceptedRate(rate));
-    } catch (const std::invalid_argument& refusal) {
-        refuse(QString::fromUtf8(refusal.what()));
-    }
-    for (const auto& head : m_device.heads()) {
-        head->fitShutter();
-    }
-}
-
-/// No exposure lasts longer than a frame; low light mode is there to lift that.
-void Camera::fitShutter() {
-    if (!get(&CameraState::lowLight)) {
-        set(&CameraState::shutter, model().fittingShutter(get(&CameraState::shutter), get(&CameraState::rate)));
-    }
-}
-
-void Camera::setShutterSpeed(int speed) {
-    if (!commandConnected(OPERATION("setShutterSpeed"))) {
-        return;
-    }
-    if (!model().shutters.contains(speed)) {
-        refuse(QStringLiteral("a shutter speed of 1/%1 s is not supported").arg(speed));
-    }
-    for (const auto& head : m_device.heads()) {
-        if (head.get() == this || model().sharesShutter) {
-            head->set(&CameraState::shutter, speed);
-            head->fitShutter();
-        }
-    }
-}
-
-void Camera::setResolution(const QSize& resolution) {
-    if (!commandConnected(OPERATION("setResolution"))) {
-        return;
-    }
-    if (!model().resolutions.contains(resolution)) {
-        refuse(QStringLiteral("%1 x %2 is not supported").arg(resolution.width()).arg(resolution.height()));
-    }
-    for (const auto& head : m_device.heads()) {
-        if (head.get() == this || model().sharesResolution) {
-            head->set(&CameraState::resolution, resolution);
-        }
-    }
-}
-
-void Camera::setTriggerMode(int mode, const zeb::TriggerSettings& settings) {
-    if (!commandConnected(OPERATION("setTriggerMode"))) {
-        return;
-    }
-    if (!model().triggerModes.contains(mode)) {
-        refuse(QStringLiteral("the trigger mode is not supported"));
-    }
-    for (const auto& head : m_device.heads()) {
-        const double asked = settings.manualBeforePercent;
-        const double before = std::isfinite(asked) ? std::clamp(asked, 0.0, 100.0) : 0.0;
-        const unsigned int capacity = model().frameCapacity(head->state());
-        head->set(&CameraState::triggerMode, mode);
-        head->set(&CameraState::triggerFrame, int(capacity * (100.0 - before) / 100.0));
-        head->set(&CameraState::randomFrames, settings.randomFrames);
-        head->set(&CameraState::randomTimes, settings.randomTimes);
-    }
-}
-
-void Camera::setRandomTriggerPhase(bool counted) {
-    if (!commandConnected(OPERATION("setRandomTriggerPhase"))) {
-        return;
-    }
-    onAllHeads(&CameraState::randomCounted, counted);
-}
-
-void Camera::setReduceMode(bool on) {
-    if (!commandConnected(OPERATION("setReduceMode"))) {
-        return;
-    }
-    require(zeb::FunctionReduceMode, "live speed to choose");
-    set(&CameraState::reduce, on);
-}
-
-void Camera::synchronise(const SyncSource& source) {
-    if (!commandConnected(OPERATION("synchronise"))) {
-        return;
-    }
-    const std::lock_guard lock(m_device.mutex());
-    m_state.syncSource = QString::fromLatin1(source.name);
-    m_state.syncFrequency = source.frequency;
-    m_state.syncMaster = source.master;
-}
-
-void Camera::setLowLight(bool on) {
-    if (!commandConnected(OPERATION("setLowLight"))) {
-        return;
-    }
-    require(zeb::FunctionLowLight, "low light mode");
-    set(&CameraState::lowLight, on);
-    fitShutter();
-}
-
-void Camera::setLowLightType(int type) {
-    if (!commandConnected(OPERATION("setLowLightType"))) {
-        return;
-    }
-    require(zeb::FunctionLowLight, "low light mode");
-    set(&CameraState::lowLightType, type);
-}
-
-void Camera::setName(const QString& name) {
-    if (!commandConnected(OPERATION("setCameraName"))) {
-        return;
-    }
-    set(&CameraState::name, name);
-}
-
-void Camera::setComment(const QString& comment) {
-    if (!commandConnected(OPERATION("setComment"))) {
-        return;
-    }
-    set(&CameraState::comment, comment);
-}
-
-void Camera::eraseRecordedData() {
-    if (!commandConnected(OPERATION("eraseRecordedData"))) {
-        return;
-    }
-    if (isUnderWay()) {
-        refuse(QStringLiteral("nothing can be erased while the camera is ready or records"));
-    }
-    set(&CameraState::recorded, false);
-}
-
-void Camera::setPartition(PARTITIONNUMBER partition) {
-    if (!commandConnected(OPERATION("setPartition"))) {
-        return;
-    }
-    if (partition < 1 || partition > get(&CameraState::partitions)) {
-        throw CameraError(name(), QStringLiteral("there is no partition %1").arg(partition));
-    }
-    if (isUnderWay()) {
-        refuse(QStringLiteral("the partition can't be changed while the camera is ready or records"));
-    }
-    const std::lock_guard lock(m_device.mutex());
-    changePartition(partition);
 }
 
 void Camera::changePartition(PARTITIONNUMBER partition) {
@@ -330,45 +162,6 @@ void Camera::changePartition(PARTITIONNUMBER partition) {
 
 PartitionMemory& Camera::memoryOf(PARTITIONNUMBER partition) {
     return partition == m_state.partition ? m_state : m_otherPartitions[partition];
-}
-
-void Camera::setVariable(unsigned int channel) {
-    if (!commandConnected(OPERATION("setVariable"))) {
-        return;
-    }
-    if (get(&CameraState::variableChannels).value(int(channel) - 1).isEmpty()) {
-        throw CameraError(name(), QStringLiteral("there is no variable channel %1").arg(channel));
-    }
-    set(&CameraState::variable, channel);
-}
-
-void Camera::arm() {
-    if (commandConnected(OPERATION("arm"))) {
-        enterRecordState(model().ctsReady > 0 ? zeb::RecordCtsReady : zeb::RecordReady);
-    }
-}
-
-void Camera::trigger() {
-    if (commandConnected(OPERATION("trigger"))) {
-        keep(get(&CameraState::partition), std::nullopt);
-        enterRecordState(zeb::RecordRecording);
-    }
-}
-
-void Camera::stop() {
-    commandConnected(OPERATION("stop"));
-}
-
-void Camera::cancel() {
-    if (commandConnected(OPERATION("cancel"))) {
-        enterRecordState(zeb::RecordLive);
-    }
-}
-
-void Camera::disarm() {
-    if (commandConnected(OPERATION("disarm"))) {
-        enterRecordState(zeb::RecordLive);
-    }
 }
 
 void Camera::enterRecordState(int recordState) {
@@ -392,11 +185,4 @@ void Camera::keep(PARTITIONNUMBER partition, const std::optional<Recording>& rec
     }
     const std::lock_guard lock(m_device.mutex());
     memoryOf(partition) = kept;
-}
-
-template <typename T>
-void Camera::onAllHeads(T CameraState::*member, T value) {
-    for (const auto& head : m_device.heads()) {
-        head->set(member, value);
-    }
 }

@@ -33,6 +33,10 @@ public:
     /// The camera has vanished: it does nothing more, and the host has no document for it.
     bool isGone() const;
 
+    /// A `zeb::RecordStatus`.
+    int recordState() const { return get(&CameraState::recordState); }
+    /// It waits for a trigger, or for CTS before that.
+    bool isArmed() const;
     /// It is armed or records.
     bool isUnderWay() const;
 

@@ -30,7 +30,7 @@ SimRecorder::SimRecorder(const HostCalls& calls, const Clock& clock, const Camer
       m_updates(updates),
       m_notices(notices),
       m_unsaved(unsaved),
-      m_run(cameras, clock,
+      m_run(cameras, clock, translator,
             RecordRun::Listener{
                 [&updates] { updates.request(); },
                 [&notices](const QString& text) { notices.add(Message::Error, text); },
@@ -40,7 +40,6 @@ SimRecorder::SimRecorder(const HostCalls& calls, const Clock& clock, const Camer
                     QMetaObject::invokeMethod(
                         &m_turn, [this] { deliverEnd(); }, Qt::QueuedConnection);
                 },
-                [&translator](const QString& text) { return translator.translate(text); },
             }) {}
 
 int SimRecorder::getRecStatus(const DocKeyList& keys) const {

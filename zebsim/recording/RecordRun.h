@@ -1,18 +1,10 @@
 #pragma once
 
-#include "RecordSettings.h"
-#include "ZebTypes.h"
-
-#include <QMap>
-#include <QSet>
-#include <QStringList>
+#include "RecordParts.h"
+#include "RecordingLosses.h"
 
 #include <functional>
-#include <memory>
-#include <vector>
 
-class Camera;
-class CameraBank;
 class Clock;
 
 /// A recording on the cameras of the host, from arming to its end. It moves on only when it is told to. GUI thread.
@@ -30,12 +22,9 @@ public:
         std::function<void()> shot;
         /// No camera takes part any more. `recorded`: at least one has something in its memory.
         std::function<void(bool recorded)> ended;
-        /// A text in the user's language.
-        std::function<QString(const QString&)> translate;
     };
 
-    RecordRun(const CameraBank& cameras, const Clock& clock, Listener listener);
-    ~RecordRun();
+    RecordRun(const CameraBank& cameras, const Clock& clock, const Translator& translator, Listener listener);
 
     /// The cameras that `arm` would take in.
     DocKeyList keysToArm();
@@ -58,53 +47,26 @@ public:
     /// are those that take no part.
     void proceed();
 
-    bool isUnderWay() const { return !m_parts.empty(); }
+    bool isUnderWay() const { return !m_parts.isEmpty(); }
     /// A `zeb::RecordStatus`, of the recording on those of these cameras that take part; live when none does.
-    int statusOf(const DocKeyList& keys) const;
+    int statusOf(const DocKeyList& keys) const { return m_parts.statusOf(keys); }
     /// A line for each camera that has nothing of the last recording.
-    const QStringList& lost() const { return m_lost; }
+    const QStringList& lost() const { return m_losses.lost(); }
 
 private:
-    struct Part {
-        std::shared_ptr<Camera> camera;
-        RecordSettings settings;
-        /// In use when the camera was taken in, and from the trigger on the one that it records into.
-        PARTITIONNUMBER partition = 1;
-        qint64 readyAt = 0;
-        qint64 triggeredAt = 0;
-        bool triggered = false;
-        bool over = false;
-    };
-
-    using Cameras = std::vector<std::shared_ptr<Camera>>;
-
-    Cameras camerasIn(const std::function<bool(int state)>& wanted) const;
-    Cameras camerasOf(const std::function<bool(const Part& part)>& wanted) const;
-    Cameras camerasToArm();
-    Part* findPart(const Camera& camera);
-    Part& takeIn(const std::shared_ptr<Camera>& camera);
-    /// All that take part have had their trigger.
-    bool isRecording() const;
-    QStringList commandAll(const Cameras& cameras, void (Camera::*command)());
-    /// It holds, where it would record, what nobody has agreed to lose by arming it.
-    bool wouldLoseUnsaved(const Camera& camera);
-    void begin(Part& part, bool withAreas);
-    void leaveBehind(const Cameras& late);
-    void drop(Part& part, const QString& reason);
-    void proceed(Part& part, qint64 now);
-    void followItsTrigger(Part& part);
-    void record(Part& part, qint64 now);
-    void missOthers();
-    /// One that nobody works with and that holds nothing is not missed.
-    void tellGone(const Camera& camera);
-    /// The camera takes no part any more and keeps nothing of this recording. `why` has its place for the name.
-    void miss(Part& part, const QString& why);
-    /// What the user is told now, and again at a save.
-    void lose(const Camera& camera, const QString& line);
-    void addFailures(const QStringList& reasons);
+    /// As `RecordParts::takeIn`, now.
+    RecordPart& takeIn(const std::shared_ptr<Camera>& camera);
+    void leaveBehind(const HeldCameras& late);
+    void drop(RecordPart& part, const QString& reason);
+    void proceedAll(qint64 now);
+    void proceed(RecordPart& part, qint64 now);
+    void followItsTrigger(RecordPart& part);
+    void record(RecordPart& part, qint64 now);
+    /// The camera takes no part any more and keeps nothing of this recording.
+    void miss(RecordPart& part, RecordingLosses::Why why);
     /// The camera keeps what it has recorded until `now`, and takes no part any more.
-    void end(Part& part, qint64 now, int recordState);
-    void enter(Part& part, int recordState);
+    void end(RecordPart& part, qint64 now, int recordState);
+    void enter(RecordPart& part, int recordState);
     /// Tells what has gathered.
     void tell();
     /// No part goes on.
@@ -113,13 +75,8 @@ private:
     const CameraBank& m_cameras;
     const Clock& m_clock;
     const Listener m_listener;
-    std::vector<Part> m_parts;
-    QStringList m_failures;
-    /// Of the run under way, by the camera's key, and of the last one that was triggered.
-    QMap<DOCKEY, QString> m_losses;
-    QStringList m_lost;
-    /// Cameras that are gone, which has been told.
-    QSet<DOCKEY> m_vanished;
+    RecordParts m_parts;
+    RecordingLosses m_losses;
     /// The run under way has had a trigger.
     bool m_triggered = false;
     bool m_changed = false;

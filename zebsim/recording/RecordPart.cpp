@@ -1,0 +1,30 @@
+#include "RecordPart.h"
+
+#include "Camera.h"
+
+#include <utility>
+
+RecordPart::RecordPart(std::shared_ptr<Camera> taken, qint64 now)
+    : camera(std::move(taken)), partition(camera->get(&CameraState::partition)), readyAt(now) {
+    if (camera->recordState() == zeb::RecordCtsReady) {
+        readyAt += camera->model().ctsReady;
+    }
+}
+
+void RecordPart::begin(qint64 now, bool withAreas) {
+    settings = RecordSettings::of(camera->state(), camera->model());
+    if (!withAreas) {
+        settings.area = {};
+    }
+    partition = camera->get(&CameraState::partition);
+    triggeredAt = now;
+    triggered = true;
+}
+
+std::optional<Recording> RecordPart::recording(qint64 now) const {
+    return settings.recording(triggeredAt - readyAt, now - triggeredAt);
+}
+
+bool RecordPart::isKept() const {
+    return triggered && camera->recordingOf(partition);
+}
