@@ -11,8 +11,9 @@ class TableView;
 
 /// What the page of the table can ask and do: one slot a request. GUI thread.
 ///
-/// The slots name the work and the topic classes do it. A slot that changes something is refused while another
-/// call runs, for then a message box or the like stands that the user has to answer first.
+/// The slots name the work and the topic classes do it; they stand in `CameraSlots.cpp` and its like. One that changes
+/// something is refused while another call runs, for then a message box or the like stands that the user has to answer
+/// first.
 class JS_Mediator_WrenTableDialog : public JS_Mediator_ModelessPatternDialog {
     Q_OBJECT
 
@@ -123,8 +124,10 @@ protected:
     void endCall() override { m_timers.resume(); }
 
 private:
+    /// The class that does the work of a topic, made where the slots of the topic stand.
     template <typename Topic>
     Topic topic();
+    /// Defined in `CameraEdit.h`.
     template <typename Topic, typename Param, typename Value>
     void edit(const char* method, const QVariantList& keys, const char* name, const Value& value,
               void (Topic::*set)(const DocKeyList&, Param));
