@@ -18,9 +18,9 @@ class ZebHost;
 
 /// Base of all bridges: what a page can ask of the application. GUI thread.
 ///
-/// Slots are the page's interface, and their order is part of it. They run in the frame of `call`, so none
-/// throws; after a failure, which the user has been shown, a slot answers its default. A slot may run an event loop,
-/// and other slots inside it; those that change cameras or the host, or open a window, are refused there.
+/// Slots are the page's interface, and their order is part of it. They run in the frame of `call`, so none throws;
+/// after a failure, which the user has been shown, a slot answers its default. A slot may run an event loop, and other
+/// slots inside it; those that change cameras or the host, or open a window, are refused there.
 class JS_Mediator : public PageBridge {
     Q_OBJECT
     /// For the page: while a call runs, another one that changes something is refused.
@@ -44,9 +44,8 @@ public:
         /// The same, and its end asks for an update.
         Updating = 4,
         /// Changes cameras or the host, or opens a window. The page can get to it inside another call only from an
-        /// event
-        /// loop that this call runs, over a box or a dialog: what the user decides there must not find other cameras
-        /// than the user saw. So it is refused there, with a line in the log.
+        /// event loop that this call runs, over a box or a dialog: what the user decides there must not find other
+        /// cameras than the user saw. So it is refused there, with a line in the log.
         Exclusive = 8,
         Action = Exclusive | Traced,
         Change = Exclusive | Updating,
