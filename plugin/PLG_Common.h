@@ -12,7 +12,8 @@
 class GUI_ModelessPatternDialog;
 
 /// What all plug-ins of the host have in common: a dialog that is made on demand, and the behaviour of image tools,
-/// for which a tool sets the fields below in its constructor. GUI thread.
+/// for which a tool sets the fields below in its constructor; that stands in `ToolLife.cpp` and `ToolGestures.cpp`. GUI
+/// thread.
 class PLG_Common : public PLG_Interface {
     Q_OBJECT
 
@@ -204,6 +205,7 @@ protected:
     ToolRectangle::Rules m_rules;
 
 private:
+    static constexpr int DialogButton = 6;
     bool selectsDocuments() const { return m_buttonType == 2 || m_buttonType == 3; }
     void selectToolOnActivate();
     void closeToolPanel();
