@@ -6,6 +6,7 @@
 #include "LogFailure.h"
 #include "PLG_Interface.h"
 #include "RecordModel.h"
+#include "RecordingStatus.h"
 #include "TableSession.h"
 #include "TableView.h"
 #include "ZebAppStatus.h"
@@ -98,7 +99,7 @@ QString JS_Mediator_WrenTableDialog::getRecords(const QString& json) {
         // A call that is under way may be the one that arms.
         if (m_state.recordRunning && !isNested()) {
             cycleFailures().attempt(QStringLiteral("recording"),
-                                    [&] { m_state.recordRunning = !model.isRecordingOver(); });
+                                    [&] { m_state.recordRunning = !RecordingStatus(host()).isOver(); });
         }
         const RecordModel::Answer answer = model.getRecords(json, cycleFailures());
         if (answer.selectionChanged) {

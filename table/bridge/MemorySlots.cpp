@@ -1,6 +1,7 @@
 #include "CameraEdit.h"
 #include "CurrentCamera.h"
 #include "MemoryEditing.h"
+#include "RecordChecks.h"
 #include "TableView.h"
 
 #include <QRect>
@@ -8,6 +9,11 @@
 template <>
 MemoryEditing JS_Mediator_WrenTableDialog::topic() {
     return MemoryEditing(host());
+}
+
+template <>
+RecordChecks JS_Mediator_WrenTableDialog::topic() {
+    return RecordChecks(host());
 }
 
 PARTITIONNUMBER JS_Mediator_WrenTableDialog::getCurrentPartition() {
@@ -42,7 +48,7 @@ bool JS_Mediator_WrenTableDialog::isShownSelectBox() {
 }
 
 void JS_Mediator_WrenTableDialog::setRecordCheck(const QVariantList& keys, bool check) {
-    edit(__func__, keys, "check", check, &MemoryEditing::setRecordCheck);
+    edit(__func__, keys, "check", check, &RecordChecks::set);
 }
 
 void JS_Mediator_WrenTableDialog::setSelectStartFrameNo(const QVariantList& keys, int frameNo) {

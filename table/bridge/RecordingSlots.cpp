@@ -6,7 +6,7 @@
 #include "JS_Mediator_WrenTableDialog.h"
 #include "ReadyProgress.h"
 #include "RecordButton.h"
-#include "RecordModel.h"
+#include "RecordingStatus.h"
 #include "TextKey.h"
 #include "ZebAppStatus.h"
 #include "ZebDocManager.h"
@@ -20,18 +20,16 @@
 
 QString JS_Mediator_WrenTableDialog::getRecStatus() {
     QJsonObject status;
-    call(*this, Query, __func__, {}, [&] { RecordModel(host(), m_state).addRecStatus(status); });
+    call(*this, Query, __func__, {}, [&] { RecordingStatus(host()).addTo(status); });
     return QString::fromUtf8(QJsonDocument(status).toJson(QJsonDocument::Compact));
 }
 
 bool JS_Mediator_WrenTableDialog::isRecReady() {
-    return call(*this, Query, __func__, {},
-                [this] { return RecordModel(host(), m_state).recordState() == zeb::RecordReady; });
+    return call(*this, Query, __func__, {}, [this] { return RecordingStatus(host()).state() == zeb::RecordReady; });
 }
 
 bool JS_Mediator_WrenTableDialog::isRecording() {
-    return call(*this, Query, __func__, {},
-                [this] { return RecordModel(host(), m_state).recordState() == zeb::RecordRecording; });
+    return call(*this, Query, __func__, {}, [this] { return RecordingStatus(host()).state() == zeb::RecordRecording; });
 }
 
 void JS_Mediator_WrenTableDialog::record() {

@@ -7,8 +7,8 @@
 #include "DefaultSettings.h"
 #include "DocKeys.h"
 #include "DocumentGuard.h"
-#include "MemoryEditing.h"
 #include "NamedFailure.h"
+#include "RecordChecks.h"
 #include "SignalSources.h"
 #include "TableState.h"
 #include "ZebDocManager.h"
@@ -21,7 +21,7 @@
 void TableSession::open() {
     m_state.group = QLatin1String(UnreadGroup);
     clearLocks(false);
-    m_failures.attempt([this] { clearRecordChecks(m_host, m_failures); });
+    m_failures.attempt([this] { RecordChecks(m_host).clear(m_failures); });
     m_failures.attempt([this] { takeAllConnected(); });
     m_failures.attempt([this] { loadDefaultSettings(); });
     // As one that connects now; a recording that runs is followed.
@@ -87,7 +87,7 @@ void TableSession::close() {
     }
     m_failures.attempt([this] { giveBackAllConnected(); });
     clearLocks(true);
-    m_failures.attempt([this] { clearRecordChecks(m_host, m_failures); });
+    m_failures.attempt([this] { RecordChecks(m_host).clear(m_failures); });
     m_failures.rethrow();
 }
 

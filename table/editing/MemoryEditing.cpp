@@ -6,7 +6,7 @@
 #include "DOC_Interface.h"
 #include "GatheredFailures.h"
 #include "LogFailure.h"
-#include "NamedFailure.h"
+#include "RecordChecks.h"
 #include "TextKey.h"
 #include "ZebDocManager.h"
 #include "ZebHost.h"
@@ -19,25 +19,6 @@ int clampedStart(long long asked, int first, int selectedEnd) {
 
 int clampedEnd(long long asked, int selectedStart, int last) {
     return int(std::min<long long>(std::max<long long>(asked, selectedStart), last));
-}
-
-void clearRecordChecks(ZebHost& host, GatheredFailures& failures) {
-    for (const DOCKEY key : host.docManager().getDocKeys()) {
-        if (DOC_Interface* doc = host.docManager().getDocAny(key)) {
-            failures.attempt([doc] { onCamera(*doc, [doc] { doc->frames().setRecordCheck(false); }); });
-        }
-    }
-}
-
-void MemoryEditing::setRecordCheck(const DocKeyList& keys, bool check) {
-    if (!m_host.isMemoryMode()) {
-        return;
-    }
-    for (DOC_Interface* doc : connectedDocs(m_host.docManager(), keys)) {
-        if (doc->isSelected()) {
-            doc->frames().setRecordCheck(check);
-        }
-    }
 }
 
 void MemoryEditing::setRange(const DocKeyList& keys, const std::function<QPair<int, int>(DOC_Frames&)>& rangeOf) {
@@ -102,16 +83,10 @@ void MemoryEditing::saveLayout() {
     }
 }
 
-/// A camera that does not answer has not been looked at, and keeps nobody from saving the others.
+/// A camera that does not answer keeps nobody from saving the others.
 bool MemoryEditing::userTakesUnchecked() {
-    ZebDocManager& documents = m_host.docManager();
     GatheredFailures unread;
-    bool complete = true;
-    for (DOC_Interface* doc : connectedDocs(documents, documents.getConnectedDocKeys(), unread)) {
-        attemptOn(*doc, unread, [&] {
-            complete = (doc->frames().getFrameCount(0, 0) == 0 || doc->frames().isRecordCheck()) && complete;
-        });
-    }
+    const bool complete = RecordChecks(m_host).areComplete(unread);
     unread.log();
     if (complete && unread.isEmpty()) {
         return true;

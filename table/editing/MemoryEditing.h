@@ -5,7 +5,6 @@
 #include <functional>
 
 class DOC_Frames;
-class GatheredFailures;
 class ZebHost;
 
 /// What is to be kept of each camera's recording, and its saving. Memory mode only. GUI thread.
@@ -16,8 +15,6 @@ class MemoryEditing {
 public:
     explicit MemoryEditing(ZebHost& host) : m_host(host) {}
 
-    /// Of the connected cameras that are selected.
-    void setRecordCheck(const DocKeyList& keys, bool check);
     void setSelectStartFrameNo(const DocKeyList& keys, int frameNo);
     void setSelectEndFrameNo(const DocKeyList& keys, int frameNo);
     /// Moves the zero point; 0 puts it back to the camera's own.
@@ -37,6 +34,3 @@ private:
 /// The nearest range in a recording for a start, or an end, that was asked for. All are numbers of frames.
 int clampedStart(long long asked, int first, int selectedEnd);
 int clampedEnd(long long asked, int selectedStart, int last);
-
-/// No recording counts as checked any more. A camera that fails keeps no other from it.
-void clearRecordChecks(ZebHost& host, GatheredFailures& failures);

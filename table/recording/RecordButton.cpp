@@ -7,8 +7,8 @@
 #include "DOC_Lock.h"
 #include "DeviceAlerts.h"
 #include "DeviceSpeed.h"
-#include "MemoryEditing.h"
 #include "NamedFailure.h"
+#include "RecordChecks.h"
 #include "RecordProblems.h"
 #include "SignalSources.h"
 #include "SyncPreferences.h"
@@ -43,7 +43,7 @@ void RecordButton::press() {
     }
     GatheredFailures failures;
     if (areCamerasLocked() && userTakesProblems() && prepareSignal(failures) && canArm()) {
-        clearRecordChecks(m_host, failures);
+        RecordChecks(m_host).clear(failures);
         setAreas(failures);
         try {
             arm();

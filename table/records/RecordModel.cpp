@@ -5,14 +5,12 @@
 #include "DOC_Activity.h"
 #include "DOC_Control.h"
 #include "DOC_Interface.h"
-#include "DocKeys.h"
 #include "NamedFailure.h"
 #include "RecordBuilder.h"
 #include "TableState.h"
 #include "TextKey.h"
 #include "ZebDocManager.h"
 #include "ZebHost.h"
-#include "ZebRecorder.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -28,22 +26,6 @@ const QString FilterPref = QStringLiteral("wren/table/filter");
 
 QString compact(const QJsonDocument& document) {
     return QString::fromUtf8(document.toJson(QJsonDocument::Compact));
-}
-
-/// Key of the text on the record button.
-QString recordLabel(int state) {
-    switch (state) {
-        case zeb::RecordLive:
-            return TextKey("Record");
-        case zeb::RecordCtsReady:
-            return TextKey("Waiting For CTS Signal");
-        case zeb::RecordReady:
-            return TextKey("Ready");
-        case zeb::RecordRecording:
-            return TextKey("Recording...");
-        default:
-            return TextKey("Error");
-    }
 }
 
 /// What `ask` answers; `fallback` from a camera that does not.
@@ -103,18 +85,6 @@ RecordModel::Answer RecordModel::getRecords(const QString& request, CycleFailure
     return answer;
 }
 
-void RecordModel::addRecStatus(QJsonObject& status) const {
-    if (m_host.isLiveMode()) {
-        const int state = recordState();
-        status.insert(QLatin1String("recStatus"), state);
-        status.insert(QLatin1String("recStatusLabel"), m_host.translate(recordLabel(state)));
-    }
-}
-
-int RecordModel::recordState() const {
-    return m_host.recorder().getRecStatus(m_host.docManager().getLiveDocKeys(0, 0));
-}
-
 QString RecordModel::getGroups() const {
     QJsonArray groups;
     const auto append = [&groups](const QString& key, const QString& name) {
@@ -164,18 +134,6 @@ void RecordModel::store(const RecordRequest& request) const {
     if (request.filter != m_state.filter) {
         m_host.setPrefInt(FilterPref, request.filter);
     }
-}
-
-bool RecordModel::isRecordingOver() const {
-    if (!m_host.isLiveMode() || recordState() != zeb::RecordLive) {
-        return false;
-    }
-    ZebDocManager& documents = m_host.docManager();
-    const DocKeyList keys = documents.getDocKeys();
-    return std::none_of(keys.begin(), keys.end(), [&documents](DOCKEY key) {
-        DOC_Interface* doc = documents.getDocAny(key);
-        return doc != nullptr && answerOr(true, [doc] { return doc->isConnected() && isArmed(*doc); });
-    });
 }
 
 /// A camera that does not tell whether it belongs to the group keeps its selection.

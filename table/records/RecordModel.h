@@ -7,7 +7,6 @@
 
 class CycleFailures;
 class GroupFilter;
-class QJsonObject;
 class ZebHost;
 struct TableState;
 
@@ -29,15 +28,6 @@ public:
     /// A camera that does not answer has a row all the same: the members that were read, and the reason as its alert.
     /// It is noted in `failures`, as are the cameras that have answered.
     Answer getRecords(const QString& request, CycleFailures& failures);
-
-    /// Whether there is no recording, whatever was told of its end: as after a camera that came into the table ready
-    /// and has gone again. Live mode only. A camera that does not answer may record.
-    bool isRecordingOver() const;
-
-    /// Adds state and label of the record button to `status`, in live mode only. What was added before a failure stays.
-    void addRecStatus(QJsonObject& status) const;
-    /// A `zeb::RecordStatus` of the live cameras.
-    int recordState() const;
 
     /// JSON list of the groups, the last one standing for all; empty without groups.
     QString getGroups() const;

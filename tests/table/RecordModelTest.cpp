@@ -2,6 +2,7 @@
 #include "FaultPlan.h"
 #include "NumberFormat.h"
 #include "RecordModel.h"
+#include "RecordingStatus.h"
 #include "SyncMembers.h"
 #include "TableFixture.h"
 #include "TableState.h"
@@ -337,7 +338,7 @@ TEST_F(RecordModelTest, askedForItsStateItNamesIt) {
     connectAll();
     const auto status = [&] {
         QJsonObject json;
-        model.addRecStatus(json);
+        RecordingStatus(host).addTo(json);
         return toText(json);
     };
     host.flags().set("IsCTSReady", true);
