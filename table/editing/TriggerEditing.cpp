@@ -4,6 +4,7 @@
 #include "DOC_Control.h"
 #include "DOC_Frames.h"
 #include "DOC_Interface.h"
+#include "SettingsKeys.h"
 #include "TextKey.h"
 #include "ZebCameraOps.h"
 #include "ZebHost.h"
@@ -14,10 +15,6 @@ namespace {
 
 /// Kind of the parameters that the default settings give.
 constexpr int DefaultSettingsKind = 2;
-
-QString settingsPref(const char* name) {
-    return QStringLiteral("wren/settings/") % QLatin1String(name);
-}
 
 /// Modes that record a number of frames at each trigger into what memory there is. Recording on command takes any.
 bool isBoundedByMemory(int mode) {
@@ -41,7 +38,7 @@ void TriggerEditing::setTriggerMode(const DocKeyList& keys, const QString& val) 
     }
     const int mode = val.toInt();
     GatheredFailures failures;
-    if (m_host.getPrefBool(settingsPref("triggerEnable"))) {
+    if (m_host.getPrefBool(settingskeys::TriggerEnable)) {
         const DocList docs = changeableDocs(m_host, keys, TriggerMode, failures);
         failures.attempt([&] { applyTriggerMode(docs, mode); });
     } else {
@@ -60,9 +57,9 @@ void TriggerEditing::setWithHostSettings(const DocList& docs, int mode) {
 void TriggerEditing::applyTriggerMode(const DocList& docs, int mode) {
     zeb::TriggerSettings settings;
     settings.kind = DefaultSettingsKind;
-    settings.manualBeforePercent = m_host.getPrefFloat(settingsPref("triggerManualBeforePer"));
-    settings.randomTimes = m_host.getPrefInt(settingsPref("triggerRandomTriggerTimes"));
-    settings.randomFrames = m_host.getPrefInt(settingsPref("triggerRandomFrame"));
+    settings.manualBeforePercent = m_host.getPrefFloat(settingskeys::TriggerManualBeforePer);
+    settings.randomTimes = m_host.getPrefInt(settingskeys::TriggerRandomTriggerTimes);
+    settings.randomFrames = m_host.getPrefInt(settingskeys::TriggerRandomFrame);
 
     const QString reason =
         m_host.translate(TextKey("%1 is invalid.")).arg(m_host.translate(TextKey("Trigger Parameter")));

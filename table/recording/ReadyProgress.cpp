@@ -2,6 +2,7 @@
 
 #include "GUI_ProgressDialog.h"
 #include "PLG_Interface.h"
+#include "SettingsKeys.h"
 #include "WindowPlacement.h"
 #include "ZebAppStatus.h"
 #include "ZebHost.h"
@@ -12,7 +13,7 @@ GUI_ProgressDialog* makeReadyProgressDialog(const QString& label, ZebHost& host)
     PLG_Interface* wren = host.appStatus().getPlugin(QStringLiteral("wren"));
     QWidget* table = wren ? wren->getDialog(false) : nullptr;
     QWidget* parent = table ? table : host.getMainWindow();
-    const QString colour = host.getPrefString(QStringLiteral("wren/settings/recreadyTableColor"));
+    const QString colour = host.getPrefString(settingskeys::RecReadyTableColor);
     auto* progress = new GUI_ProgressDialog(label, QString(), 0, 0, parent,
                                             Qt::FramelessWindowHint | Qt::WindowDoesNotAcceptFocus, true);
     progress->setModal(false);

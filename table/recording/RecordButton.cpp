@@ -10,6 +10,7 @@
 #include "NamedFailure.h"
 #include "RecordChecks.h"
 #include "RecordProblems.h"
+#include "SettingsKeys.h"
 #include "SignalSources.h"
 #include "SyncPreferences.h"
 #include "SyncSettings.h"
@@ -150,7 +151,7 @@ bool RecordButton::prepareSignal(GatheredFailures& failures) {
     if (!syncprefs::isInUse(m_host)) {
         return true;
     }
-    if (m_host.getPrefBool(QStringLiteral("wren/settings/recordingSync"))) {
+    if (m_host.getPrefBool(settingskeys::RecordingSync)) {
         m_host.docManager().selectAllDocs(nullptr);
         SyncSettings settings(m_host, m_state.sync);
         const SyncView view = settings.look();
@@ -158,7 +159,7 @@ bool RecordButton::prepareSignal(GatheredFailures& failures) {
             return false;
         }
     }
-    if (m_host.getPrefBool(QStringLiteral("wren/settings/deviceSpeedPlaying")) &&
+    if (m_host.getPrefBool(settingskeys::DeviceSpeedPlaying) &&
         !setDeviceSpeedPlaying(m_host, m_state.sync, connected(failures), failures)) {
         m_host.warn(m_host.translate(TextKey(
                         "There are some cameras that are not synchronized shooting because the shooting speed of the "

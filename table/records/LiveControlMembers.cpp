@@ -6,6 +6,8 @@
 #include "JsonText.h"
 #include "NumberFormat.h"
 #include "Record.h"
+#include "SettingsKeys.h"
+#include "SyncPreferences.h"
 #include "TableState.h"
 #include "TextKey.h"
 #include "ZebHost.h"
@@ -82,9 +84,8 @@ int exposureTime(int fraction, const QList<int>& fractions, const QList<int>& ti
 LiveControlMembers::LiveControlMembers(ZebHost& host, const TableState& state)
     : m_host(host),
       m_state(state),
-      m_inStepOnly(state.sync.frequency > 0 && host.isLiveMode() &&
-                   host.getPrefBool(QStringLiteral("wren/settings/deviceSpeedPlaying")) &&
-                   host.getPrefBool(QStringLiteral("wren/settings/syncInEnable"))),
+      m_inStepOnly(state.sync.frequency > 0 && syncprefs::isInUse(host) &&
+                   host.getPrefBool(settingskeys::DeviceSpeedPlaying)),
       m_delimitRates(host.getPrefBool(QStringLiteral("display/recordRateInsertDelimiter"))),
       m_shutterByTime(host.getPrefInt(QStringLiteral("display/ShutterSpeed")) == zeb::ShutterDisplaySecondList),
       m_allowedRates(toRates(state.allowed.frameRates)),

@@ -1,19 +1,15 @@
 #include "DefaultSettings.h"
 
+#include "SettingsKeys.h"
 #include "ZebHost.h"
 
 #include <QDebug>
 
 namespace {
 
-QString settingsPref(const char* name) {
-    return QStringLiteral("wren/settings/") % QLatin1String(name);
-}
-
 /// The text of a list, empty when the list is switched off.
-QString listText(const ZebHost& host, const char* name) {
-    const QString key = settingsPref(name);
-    return host.getPrefBool(key % QLatin1String("Enable")) ? host.getPrefString(key) : QString();
+QString listText(const ZebHost& host, const QString& key) {
+    return host.getPrefBool(key % settingskeys::SwitchSuffix) ? host.getPrefString(key) : QString();
 }
 
 template <typename... Words>
@@ -26,21 +22,21 @@ void log(const Words&... words) {
 DefaultSettings DefaultSettings::read(const ZebHost& host) {
     using namespace defaultsettings;
     DefaultSettings settings;
-    settings.groups = readGroups(host.getPrefString(settingsPref("groups")));
+    settings.groups = readGroups(host.getPrefString(settingskeys::Groups));
     log("groups");
-    if (host.getPrefBool(settingsPref("externalSyncSignalsEnable"))) {
-        settings.syncFrequency = host.getPrefInt(settingsPref("externalSyncSignal"));
-        settings.syncSignals = readList(host.getPrefString(settingsPref("externalSyncSignals")));
+    if (host.getPrefBool(settingskeys::ExternalSyncSignals % settingskeys::SwitchSuffix)) {
+        settings.syncFrequency = host.getPrefInt(settingskeys::ExternalSyncSignal);
+        settings.syncSignals = readList(host.getPrefString(settingskeys::ExternalSyncSignals));
     }
     log("syncSignal", settings.syncFrequency.value_or(0));
     log("syncSignals", settings.syncSignals);
-    settings.allowed.frameRates = readList(listText(host, "frameRates"));
+    settings.allowed.frameRates = readList(listText(host, settingskeys::FrameRates));
     log("framerate", settings.allowed.frameRates);
-    settings.allowed.shutterSpeeds = readList(listText(host, "shutterSpeeds"));
+    settings.allowed.shutterSpeeds = readList(listText(host, settingskeys::ShutterSpeeds));
     log("shutter", settings.allowed.shutterSpeeds);
-    settings.allowed.resolutions = readResolutions(listText(host, "resolutions"));
+    settings.allowed.resolutions = readResolutions(listText(host, settingskeys::Resolutions));
     log("resolution", settings.allowed.resolutions);
-    settings.areas = readAreas(listText(host, "areas"));
+    settings.areas = readAreas(listText(host, settingskeys::Areas));
     log("area");
     return settings;
 }

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QString>
+
+/// Preferences that hold the default settings. `syncprefs` reads those of the common signal.
+namespace settingskeys {
+
+inline const QString Groups = QStringLiteral("wren/settings/groups");
+
+/// Behind the key of a list: the key of its switch.
+inline const QString SwitchSuffix = QStringLiteral("Enable");
+inline const QString FrameRates = QStringLiteral("wren/settings/frameRates");
+inline const QString ShutterSpeeds = QStringLiteral("wren/settings/shutterSpeeds");
+inline const QString Resolutions = QStringLiteral("wren/settings/resolutions");
+inline const QString Areas = QStringLiteral("wren/settings/areas");
+inline const QString ExternalSyncSignals = QStringLiteral("wren/settings/externalSyncSignals");
+
+/// Hertz of the external sync signal, of use with the switch of its list.
+inline const QString ExternalSyncSignal = QStringLiteral("wren/settings/externalSyncSignal");
+
+/// The parameters of the triggers come from here and not from the host.
+inline const QString TriggerEnable = QStringLiteral("wren/settings/triggerEnable");
+inline const QString TriggerManualBeforePer = QStringLiteral("wren/settings/triggerManualBeforePer");
+inline const QString TriggerRandomTriggerTimes = QStringLiteral("wren/settings/triggerRandomTriggerTimes");
+inline const QString TriggerRandomFrame = QStringLiteral("wren/settings/triggerRandomFrame");
+
+/// The cameras are put on the common signal before they are armed, and played at its speed.
+inline const QString RecordingSync = QStringLiteral("wren/settings/recordingSync");
+inline const QString DeviceSpeedPlaying = QStringLiteral("wren/settings/deviceSpeedPlaying");
+
+/// Colour of the table while cameras get ready.
+inline const QString RecReadyTableColor = QStringLiteral("wren/settings/recreadyTableColor");
+
+}  // namespace settingskeys
