@@ -19,8 +19,6 @@ public:
     AppWindows(const AppWindows&) = delete;
     AppWindows& operator=(const AppWindows&) = delete;
 
-    /// Name and comment of a camera. Left when the camera goes, or when others take its place.
-    void editCamera(DOCKEY key);
     /// The dialog of preferences; runs until it is closed.
     void openPreferences() { runPreferences(); }
     /// The plug-in's file; empty for none.
@@ -29,6 +27,8 @@ public:
     ZebPrefsDialog* prefsDialog() override { return this; }
     void openEthernetSettings() override;
     void openAbout() override;
+    /// Left when the camera goes, or when others take its place.
+    void editCamera(DOCKEY key) override;
     void runProgress(const QString& text, QFutureWatcherBase& watcher) override;
     void save(bool layout) override { m_saving.save(layout); }
     bool isSaving() const override { return m_saving.isSaving(); }

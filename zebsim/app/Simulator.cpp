@@ -50,7 +50,6 @@ Simulator::Simulator(const CommandLine& line) : m_host(m_clock, m_boxes, line.pr
     m_windows = std::make_unique<AppWindows>(m_host, m_log, m_window->images());
     m_window->addDialogs(*m_windows);
     QObject::connect(&m_host.events(), &HostEvents::updateFinished, m_window.get(), [this] { m_boxes.followStyle(); });
-    m_host.docManager().setEditor([this](DOCKEY key) { m_windows->editCamera(key); });
     QObject::connect(m_window.get(), &ViewerWindow::closeAsked, m_window.get(), [this] {
         if (mayLetGoOfRecording(m_host, uiText("Cameras are armed or recording. Close the viewer all the same?")) &&
             m_host.unsavedGuard().mayClose()) {

@@ -17,9 +17,9 @@ void HostUpdates::runCycle() {
             failures.append(QString::fromUtf8(e.what()));
         }
     };
-    for (const QPointer<PLG_Interface> plugin : m_appStatus.plugins()) {
+    for (const QPointer<PLG_Interface> plugin : m_host.appStatus.plugins()) {
         if (plugin) {
-            guarded([&] { plugin->updateDialog(m_appStatus.mode()); });
+            guarded([&] { plugin->updateDialog(m_host.appStatus.mode()); });
         }
     }
     for (const BridgeDesk::Attached& attached : m_bridges.loaded()) {
@@ -30,20 +30,20 @@ void HostUpdates::runCycle() {
     }
     tellNew(failures);
     const HostCalls::Own own;
-    Q_EMIT m_events.updateFinished();
+    Q_EMIT m_host.events.updateFinished();
 }
 
 void HostUpdates::tellNew(const QStringList& failures) {
     for (const QString& text : failures) {
         if (!text.isEmpty() && !m_failures.contains(text)) {
-            m_messages.notify(Message::Error, text);
+            m_host.messages.notify(Message::Error, text);
         }
     }
     m_failures = failures;
 }
 
 bool HostUpdates::isInPluginDialog(const QWidget* widget) const {
-    for (PLG_Interface* plugin : m_appStatus.plugins()) {
+    for (PLG_Interface* plugin : m_host.appStatus.plugins()) {
         const QDialog* dialog = plugin->getDialog(false);
         if (dialog && dialog->isAncestorOf(widget)) {
             return true;

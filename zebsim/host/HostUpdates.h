@@ -2,23 +2,18 @@
 
 #include "BridgeDesk.h"
 #include "HostCalls.h"
+#include "HostContext.h"
 #include "UpdateCycle.h"
 
 #include <QStringList>
 
-class HostEvents;
-class HostMessages;
 class QWidget;
-class SimAppStatus;
 
 /// Whom an update cycle reaches: plug-ins, and pages that stand outside their dialogs. And the viewer's pauses. GUI
 /// thread.
 class HostUpdates {
 public:
-    /// All must outlive the object.
-    HostUpdates(const HostCalls& calls, UpdateCycle& cycle, const SimAppStatus& appStatus, HostEvents& events,
-                HostMessages& messages)
-        : m_calls(calls), m_cycle(cycle), m_appStatus(appStatus), m_events(events), m_messages(messages) {}
+    explicit HostUpdates(const HostContext& host) : m_host(host) {}
 
     void attachBridge(QWebView* view, ZebPageBridge* bridge) { m_bridges.attach(view, bridge); }
     /// One cycle. No exception leaves it; a failure is told unless the cycle before has met it too.
@@ -26,24 +21,24 @@ public:
 
     /// As `ZebHost` has them.
     void updateUI(unsigned int mask, bool refresh) {
-        m_calls.note("ZebHost::updateUI", {mask, refresh});
-        m_cycle.request();
+        m_host.calls.note("ZebHost::updateUI", {mask, refresh});
+        m_host.updates.request();
     }
     void deterUpdateUI(bool deter) {
-        m_calls.note("ZebHost::deterUpdateUI", {deter});
-        m_cycle.deter(deter);
+        m_host.calls.note("ZebHost::deterUpdateUI", {deter});
+        m_host.updates.deter(deter);
     }
     void refreshTools() {
-        m_calls.change(OPERATION("ZebHost::refreshTools"));
-        m_cycle.request();
+        m_host.calls.change(OPERATION("ZebHost::refreshTools"));
+        m_host.updates.request();
     }
     bool isViewerRunning() const { return m_suspended == 0; }
     void suspendViewer() {
-        m_calls.note("ZebHost::suspendViewer");
+        m_host.calls.note("ZebHost::suspendViewer");
         ++m_suspended;
     }
     void resumeViewer() {
-        m_calls.note("ZebHost::resumeViewer");
+        m_host.calls.note("ZebHost::resumeViewer");
         m_suspended = qMax(0, m_suspended - 1);
     }
 
@@ -51,11 +46,7 @@ private:
     void tellNew(const QStringList& failures);
     bool isInPluginDialog(const QWidget* widget) const;
 
-    const HostCalls& m_calls;
-    UpdateCycle& m_cycle;
-    const SimAppStatus& m_appStatus;
-    HostEvents& m_events;
-    HostMessages& m_messages;
+    const HostContext& m_host;
     BridgeDesk m_bridges;
     int m_suspended = 0;
     /// What the last cycle met.

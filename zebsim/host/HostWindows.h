@@ -1,5 +1,7 @@
 #pragma once
 
+#include "ZebTypes.h"
+
 #include <QImage>
 #include <QRect>
 #include <QString>
@@ -19,6 +21,8 @@ public:
     /// Each runs until the user has closed it.
     virtual void openEthernetSettings() {}
     virtual void openAbout() {}
+    /// Name and comment of a camera that is there.
+    virtual void editCamera(DOCKEY /*key*/) {}
     /// A modal progress with `text` until `watcher` has finished; nothing cancels it. Without an application it only
     /// waits.
     virtual void runProgress(const QString& text, QFutureWatcherBase& watcher);

@@ -4,16 +4,13 @@
 #include "CameraBank.h"
 #include "DOC_Interface.h"
 #include "HostCalls.h"
+#include "HostContext.h"
 #include "HostEvents.h"
 #include "ImagePlugins.h"
 #include "StatusFlags.h"
 #include "UpdateCycle.h"
 
 #include <stdexcept>
-
-SimAppStatus::SimAppStatus(const HostCalls& calls, HostEvents& events, UpdateCycle& updates, const CameraBank& cameras,
-                           const StatusFlags& flags)
-    : m_calls(calls), m_events(events), m_updates(updates), m_cameras(cameras), m_flags(flags) {}
 
 void SimAppStatus::registerPlugin(PLG_Interface* plugin) {
     m_plugins.append(plugin);
@@ -36,9 +33,9 @@ QList<PLG_Interface*> SimAppStatus::plugins() const {
 void SimAppStatus::enterMode(int mode) {
     if (mode != m_mode) {
         m_mode = mode;
-        Q_EMIT m_events.modeChanged(mode);
+        Q_EMIT m_host.events.modeChanged(mode);
     }
-    m_updates.request();
+    m_host.updates.request();
 }
 
 PLG_Interface* SimAppStatus::getPlugin(const QString& name) const {
@@ -51,17 +48,17 @@ PLG_Interface* SimAppStatus::getPlugin(const QString& name) const {
 }
 
 bool SimAppStatus::isPluginEnabledFor(const QString& name, DOC_Interface* doc) const {
-    m_calls.ask(OPERATION("isPluginEnabledFor"));
-    const Camera* camera = doc ? m_cameras.find(doc->getKey()) : nullptr;
+    m_host.calls.ask(OPERATION("isPluginEnabledFor"));
+    const Camera* camera = doc ? m_host.cameras.find(doc->getKey()) : nullptr;
     return camera && camera->get(&CameraState::plugins).contains(name) &&
            !camera->get(&CameraState::blockedPlugins).contains(name);
 }
 
 QString SimAppStatus::getCurrentPluginName() const {
-    if (m_flags.isOn(StatusFlags::IsActiveLensCalibration)) {
+    if (m_host.flags.isOn(StatusFlags::IsActiveLensCalibration)) {
         return QStringLiteral("lenscalib");
     }
-    if (m_flags.isOn(StatusFlags::IsImageOverlay)) {
+    if (m_host.flags.isOn(StatusFlags::IsImageOverlay)) {
         return QStringLiteral("imageoverlay");
     }
     return m_current ? m_current->getName() : m_panel;
@@ -73,25 +70,25 @@ void SimAppStatus::setCurrentPlugin(PLG_Interface* plugin) {
 }
 
 void SimAppStatus::openPlugin(const QString& name) {
-    m_calls.change(OPERATION("ZebAppStatus::openPlugin"), {name});
+    m_host.calls.change(OPERATION("ZebAppStatus::openPlugin"), {name});
     if (getPlugin(name)) {
-        Q_EMIT m_events.pluginWanted(name);
+        Q_EMIT m_host.events.pluginWanted(name);
     } else if (imageplugins::has(name)) {
         setCurrentPlugin(nullptr);
         m_panel = name;
-        m_updates.request();
+        m_host.updates.request();
     } else {
         throw std::invalid_argument(QStringLiteral("There is no plug-in \"%1\".").arg(name).toStdString());
     }
 }
 
 void SimAppStatus::clearCurrentPlugin() {
-    m_calls.change(OPERATION("ZebAppStatus::clearCurrentPlugin"));
+    m_host.calls.change(OPERATION("ZebAppStatus::clearCurrentPlugin"));
     setCurrentPlugin(nullptr);
 }
 
 void SimAppStatus::closePlugin(const QString& name) {
-    m_calls.change(OPERATION("ZebAppStatus::closePlugin"), {name});
+    m_host.calls.change(OPERATION("ZebAppStatus::closePlugin"), {name});
     if (m_panel == name) {
         m_panel.clear();
     }
@@ -106,69 +103,69 @@ void SimAppStatus::closePlugin(const QString& name) {
 }
 
 void SimAppStatus::closePanel() {
-    m_calls.change(OPERATION("ZebAppStatus::closePanel"));
+    m_host.calls.change(OPERATION("ZebAppStatus::closePanel"));
     setCurrentPlugin(nullptr);
 }
 
 void SimAppStatus::closeAuxiliaryPanel() {
-    m_calls.change(OPERATION("ZebAppStatus::closeAuxiliaryPanel"));
+    m_host.calls.change(OPERATION("ZebAppStatus::closeAuxiliaryPanel"));
 }
 
 void SimAppStatus::setWrenRunning(bool running) {
-    m_calls.note("ZebAppStatus::setWrenRunning", {running});
+    m_host.calls.note("ZebAppStatus::setWrenRunning", {running});
     m_wrenRunning = running;
 }
 
 void SimAppStatus::notifyPluginShown(PLG_Interface* plugin) {
-    Q_EMIT m_events.pluginShown(plugin->getName());
+    Q_EMIT m_host.events.pluginShown(plugin->getName());
 }
 
 void SimAppStatus::notifyPluginClosed(PLG_Interface* plugin) {
-    Q_EMIT m_events.pluginClosed(plugin->getName());
+    Q_EMIT m_host.events.pluginClosed(plugin->getName());
 }
 
 void SimAppStatus::enterLiveMode() {
-    m_calls.change(OPERATION("ZebAppStatus::enterLiveMode"));
+    m_host.calls.change(OPERATION("ZebAppStatus::enterLiveMode"));
     enterMode(zeb::LiveMode);
 }
 
 void SimAppStatus::enterMemoryMode() {
-    m_calls.change(OPERATION("ZebAppStatus::enterMemoryMode"));
+    m_host.calls.change(OPERATION("ZebAppStatus::enterMemoryMode"));
     enterMode(zeb::MemoryMode);
 }
 
 bool SimAppStatus::isMVersion() const {
-    return m_flags.isOn(StatusFlags::IsMVersion);
+    return m_host.flags.isOn(StatusFlags::IsMVersion);
 }
 
 bool SimAppStatus::isAutoExposureSetting() const {
-    return m_flags.isOn(StatusFlags::IsAutoExposureSetting);
+    return m_host.flags.isOn(StatusFlags::IsAutoExposureSetting);
 }
 
 bool SimAppStatus::isHwTriggerSetting() const {
-    return m_flags.isOn(StatusFlags::IsHwTriggerSetting);
+    return m_host.flags.isOn(StatusFlags::IsHwTriggerSetting);
 }
 
 bool SimAppStatus::isVariableSetting() const {
-    return m_flags.isOn(StatusFlags::IsVariableSetting);
+    return m_host.flags.isOn(StatusFlags::IsVariableSetting);
 }
 
 bool SimAppStatus::isSendingNodeCommand() const {
-    return m_flags.isOn(StatusFlags::IsSendingNodeCommand);
+    return m_host.flags.isOn(StatusFlags::IsSendingNodeCommand);
 }
 
 bool SimAppStatus::isAdjustingImage() const {
-    return m_flags.isOn(StatusFlags::IsAdjustingImage);
+    return m_host.flags.isOn(StatusFlags::IsAdjustingImage);
 }
 
 bool SimAppStatus::isDetectingPixelDefect() const {
-    return m_flags.isOn(StatusFlags::IsDetectingPixelDefect);
+    return m_host.flags.isOn(StatusFlags::IsDetectingPixelDefect);
 }
 
 bool SimAppStatus::isImageTriggerCapturing() const {
-    return m_flags.isOn(StatusFlags::IsImageTriggerCapturing);
+    return m_host.flags.isOn(StatusFlags::IsImageTriggerCapturing);
 }
 
 bool SimAppStatus::isImageTriggerDetecting() const {
-    return m_flags.isOn(StatusFlags::IsImageTriggerDetecting);
+    return m_host.flags.isOn(StatusFlags::IsImageTriggerDetecting);
 }

@@ -6,17 +6,12 @@
 #include <QList>
 #include <QPointer>
 
-class CameraBank;
-class HostEvents;
-class HostCalls;
-class StatusFlags;
-class UpdateCycle;
+struct HostContext;
 
 /// Plug-ins by name, running flags, and the mode.
 class SimAppStatus : public ZebAppStatus {
 public:
-    SimAppStatus(const HostCalls& calls, HostEvents& events, UpdateCycle& updates, const CameraBank& cameras,
-                 const StatusFlags& flags);
+    explicit SimAppStatus(const HostContext& host) : m_host(host) {}
 
     /// A registered plug-in takes part in update cycles.
     void registerPlugin(PLG_Interface* plugin);
@@ -56,11 +51,7 @@ public:
     bool isImageTriggerDetecting() const override;
 
 private:
-    const HostCalls& m_calls;
-    HostEvents& m_events;
-    UpdateCycle& m_updates;
-    const CameraBank& m_cameras;
-    const StatusFlags& m_flags;
+    const HostContext& m_host;
     QList<QPointer<PLG_Interface>> m_plugins;
     QPointer<PLG_Interface> m_current;
     /// The image plug-in whose panel is open; empty for none.

@@ -4,6 +4,7 @@
 #include "CameraBank.h"
 #include "DOC_Interface.h"
 #include "HostCalls.h"
+#include "HostContext.h"
 #include "Journal.h"
 #include "Notices.h"
 #include "Preferences.h"
@@ -17,52 +18,40 @@
 
 #include <algorithm>
 
-SimCameraOps::SimCameraOps(const HostCalls& calls, CameraBank& cameras, const SimDocManager& docs,
-                           const SimRecorder& recorder, const SimSaver& saver, const Preferences& prefs,
-                           const StatusFlags& flags, const Translator& translator, Notices& notices)
-    : m_calls(calls),
-      m_cameras(cameras),
-      m_docs(docs),
-      m_recorder(recorder),
-      m_saver(saver),
-      m_prefs(prefs),
-      m_flags(flags),
-      m_translator(translator),
-      m_notices(notices) {}
-
 void SimCameraOps::searchCamera(const QString& address) {
-    m_calls.change(OPERATION("ZebCameraOps::searchCamera"), {address});
+    m_host.calls.change(OPERATION("ZebCameraOps::searchCamera"), {address});
     search(address.section(QLatin1Char('.'), 0, 2));
 }
 
 void SimCameraOps::discoverCameras() {
-    m_calls.change(OPERATION("ZebCameraOps::discoverCameras"));
+    m_host.calls.change(OPERATION("ZebCameraOps::discoverCameras"));
     search({});
 }
 
 /// An empty `network` stands for all.
 void SimCameraOps::search(const QString& network) {
-    const auto before = m_cameras.all();
-    const int answering = m_cameras.search(network);
+    const auto before = m_host.cameras.all();
+    const int answering = m_host.cameras.search(network);
     QStringList found;
-    for (const Camera* camera : m_cameras.all()) {
+    for (const Camera* camera : m_host.cameras.all()) {
         if (std::find(before.begin(), before.end(), camera) == before.end()) {
             found.append(camera->name());
         }
     }
-    const QString where = network.isEmpty() ? m_translator.translate(TextKey("the whole network"))
+    const QString where = network.isEmpty() ? m_host.translator.translate(TextKey("the whole network"))
                                             : QString(network % QStringLiteral(".xxx"));
-    const QString told =
-        !found.isEmpty() ? m_translator.translate(TextKey("Search in %1: found %2."))
-        : answering > 0
-            ? m_translator.translate(TextKey("Search in %1: no further camera; those that answer are listed already."))
-            : m_translator.translate(TextKey("Search in %1: no camera answers."));
-    m_notices.add(Message::Info, found.isEmpty() ? told.arg(where) : told.arg(where, found.join(QStringLiteral(", "))));
+    const QString told = !found.isEmpty() ? m_host.translator.translate(TextKey("Search in %1: found %2."))
+                         : answering > 0
+                             ? m_host.translator.translate(
+                                   TextKey("Search in %1: no further camera; those that answer are listed already."))
+                             : m_host.translator.translate(TextKey("Search in %1: no camera answers."));
+    m_host.notices.add(Message::Info,
+                       found.isEmpty() ? told.arg(where) : told.arg(where, found.join(QStringLiteral(", "))));
 }
 
 void SimCameraOps::updateCameras() {
-    m_calls.change(OPERATION("ZebCameraOps::updateCameras"));
-    m_cameras.searchListed();
+    m_host.calls.change(OPERATION("ZebCameraOps::updateCameras"));
+    m_host.cameras.searchListed();
 }
 
 void SimCameraOps::setRecordRate(const DocList& docs, unsigned int rate) {
@@ -82,12 +71,12 @@ void SimCameraOps::setResolution(const DocList& docs, int width, int height) {
 }
 
 zeb::TriggerSettings SimCameraOps::getTriggerSettings() const {
-    m_calls.ask(OPERATION("getTriggerSettings"));
+    m_host.calls.ask(OPERATION("getTriggerSettings"));
     zeb::TriggerSettings settings;
     settings.kind = 1;
-    settings.manualBeforePercent = m_prefs.value(QStringLiteral("trigger/manualBeforePercent")).toFloat();
-    settings.randomFrames = m_prefs.value(QStringLiteral("trigger/randomFrames")).toInt();
-    settings.randomTimes = m_prefs.value(QStringLiteral("trigger/randomTimes")).toInt();
+    settings.manualBeforePercent = m_host.prefs.value(QStringLiteral("trigger/manualBeforePercent")).toFloat();
+    settings.randomFrames = m_host.prefs.value(QStringLiteral("trigger/randomFrames")).toInt();
+    settings.randomTimes = m_host.prefs.value(QStringLiteral("trigger/randomTimes")).toInt();
     return settings;
 }
 
@@ -121,11 +110,11 @@ void SimCameraOps::setLowLightType(const DocList& docs, int type) {
 }
 
 bool SimCameraOps::canSync(const DocList& docs) {
-    m_calls.ask(OPERATION("canSync"));
+    m_host.calls.ask(OPERATION("canSync"));
     const DocKeyList keys = keysOf(docs);
-    return !m_saver.isSaving() && m_recorder.stateOf(keys) == zeb::RecordLive &&
+    return !m_host.saver.isSaving() && m_host.recorder.stateOf(keys) == zeb::RecordLive &&
            std::all_of(keys.begin(), keys.end(), [this](DOCKEY key) {
-               const Camera* camera = m_cameras.find(key);
+               const Camera* camera = m_host.cameras.find(key);
                return camera && camera->get(&CameraState::connected) && !camera->isUnderWay();
            });
 }
@@ -145,62 +134,62 @@ void SimCameraOps::syncCameras(const DocList& docs, DOC_Interface* master, int l
                 {source.master, lport, external, generator, input, frequency, polarity},
                 [&source](Camera& camera) { camera.synchronise(source); });
     } catch (const std::exception& failure) {
-        m_notices.add(Message::Error, QString::fromUtf8(failure.what()));
+        m_host.notices.add(Message::Error, QString::fromUtf8(failure.what()));
         throw;
     }
 }
 
 void SimCameraOps::setPartition(PARTITIONNUMBER number, int mode) {
-    m_calls.change(OPERATION("ZebCameraOps::setPartition"), {number, mode});
-    m_cameras.forEach(m_cameras.keysOf(&CameraState::selected),
-                      [number](Camera& camera) { camera.setPartition(number); });
+    m_host.calls.change(OPERATION("ZebCameraOps::setPartition"), {number, mode});
+    m_host.cameras.forEach(m_host.cameras.keysOf(&CameraState::selected),
+                           [number](Camera& camera) { camera.setPartition(number); });
 }
 
 unsigned int SimCameraOps::getCurrentVariable() const {
-    m_calls.ask(OPERATION("getCurrentVariable"));
-    const Camera* camera = m_cameras.find(m_docs.currentKey());
+    m_host.calls.ask(OPERATION("getCurrentVariable"));
+    const Camera* camera = m_host.cameras.find(m_host.docs.currentKey());
     return camera ? camera->get(&CameraState::variable) : 0;
 }
 
 void SimCameraOps::setVariable(unsigned int channel) {
-    m_calls.change(OPERATION("ZebCameraOps::setVariable"), {channel});
-    m_cameras.forEach(m_cameras.keysOf(&CameraState::selected),
-                      [channel](Camera& camera) { camera.setVariable(channel); });
+    m_host.calls.change(OPERATION("ZebCameraOps::setVariable"), {channel});
+    m_host.cameras.forEach(m_host.cameras.keysOf(&CameraState::selected),
+                           [channel](Camera& camera) { camera.setVariable(channel); });
 }
 
 void SimCameraOps::stopForPrefs() {
-    m_calls.change(OPERATION("ZebCameraOps::stopForPrefs"));
+    m_host.calls.change(OPERATION("ZebCameraOps::stopForPrefs"));
     DocKeyList armed;
-    for (const Camera* camera : m_cameras.connected()) {
+    for (const Camera* camera : m_host.cameras.connected()) {
         const int state = camera->get(&CameraState::recordState);
         if (state == zeb::RecordCtsReady || state == zeb::RecordReady) {
             armed.append(camera->key());
         }
     }
-    m_cameras.forEach(armed, [](Camera& camera) { camera.disarm(); });
+    m_host.cameras.forEach(armed, [](Camera& camera) { camera.disarm(); });
 }
 
 bool SimCameraOps::isLowlight() const {
-    m_calls.ask(OPERATION("isLowlight"));
-    const auto cameras = m_cameras.connected();
-    return m_flags.isOn(StatusFlags::IsLowlight) ||
+    m_host.calls.ask(OPERATION("isLowlight"));
+    const auto cameras = m_host.cameras.connected();
+    return m_host.flags.isOn(StatusFlags::IsLowlight) ||
            std::any_of(cameras.begin(), cameras.end(), [](const Camera* camera) {
                return camera->get(&CameraState::selected) && camera->get(&CameraState::lowLight);
            });
 }
 
 bool SimCameraOps::existLowlight() const {
-    m_calls.ask(OPERATION("existLowlight"));
-    const auto cameras = m_cameras.connected();
-    return m_flags.isOn(StatusFlags::ExistLowlight) ||
+    m_host.calls.ask(OPERATION("existLowlight"));
+    const auto cameras = m_host.cameras.connected();
+    return m_host.flags.isOn(StatusFlags::ExistLowlight) ||
            std::any_of(cameras.begin(), cameras.end(),
                        [](const Camera* camera) { return camera->get(&CameraState::lowLight); });
 }
 
 bool SimCameraOps::isAllLowlight(bool on) const {
-    m_calls.ask(OPERATION("isAllLowlight"));
-    const auto cameras = m_cameras.connected();
-    return m_flags.isOn(on ? StatusFlags::IsAllLowlightON : StatusFlags::IsAllLowlightOFF) ||
+    m_host.calls.ask(OPERATION("isAllLowlight"));
+    const auto cameras = m_host.cameras.connected();
+    return m_host.flags.isOn(on ? StatusFlags::IsAllLowlightON : StatusFlags::IsAllLowlightOFF) ||
            std::all_of(cameras.begin(), cameras.end(), [on](const Camera* camera) {
                return !camera->model().functions.contains(zeb::FunctionLowLight) ||
                       camera->get(&CameraState::lowLight) == on;
@@ -208,22 +197,22 @@ bool SimCameraOps::isAllLowlight(bool on) const {
 }
 
 bool SimCameraOps::isLensCalibration() const {
-    m_calls.ask(OPERATION("isLensCalibration"));
-    return m_flags.isOn(StatusFlags::IsLensCalibration);
+    m_host.calls.ask(OPERATION("isLensCalibration"));
+    return m_host.flags.isOn(StatusFlags::IsLensCalibration);
 }
 
 bool SimCameraOps::isDirectSaving(int /*mode*/) const {
-    m_calls.ask(OPERATION("isDirectSaving"));
-    return m_flags.isOn(StatusFlags::IsDirectSaving);
+    m_host.calls.ask(OPERATION("isDirectSaving"));
+    return m_host.flags.isOn(StatusFlags::IsDirectSaving);
 }
 
 bool SimCameraOps::isAllWrenLockDevice() const {
-    m_calls.ask(OPERATION("isAllWrenLockDevice"));
-    const auto cameras = m_cameras.connected();
+    m_host.calls.ask(OPERATION("isAllWrenLockDevice"));
+    const auto cameras = m_host.cameras.connected();
     const bool all = !cameras.empty() && std::all_of(cameras.begin(), cameras.end(), [](const Camera* camera) {
         return camera->get(&CameraState::locked);
     });
-    return all || m_flags.isOn(StatusFlags::IsAllWrenLockDevice);
+    return all || m_host.flags.isOn(StatusFlags::IsAllWrenLockDevice);
 }
 
 DocKeyList SimCameraOps::keysOf(const DocList& docs) {
@@ -237,6 +226,6 @@ DocKeyList SimCameraOps::keysOf(const DocList& docs) {
 void SimCameraOps::command(HostOperation operation, const DocList& docs, const QVariantList& args,
                            const std::function<void(Camera&)>& work) {
     const DocKeyList keys = keysOf(docs);
-    m_calls.change(operation, QVariantList{Journal::keyList(keys)} + args);
-    m_cameras.forEach(keys, work);
+    m_host.calls.change(operation, QVariantList{Journal::keyList(keys)} + args);
+    m_host.cameras.forEach(keys, work);
 }

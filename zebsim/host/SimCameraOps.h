@@ -6,23 +6,13 @@
 #include <functional>
 
 class Camera;
-class CameraBank;
-class HostCalls;
-class Preferences;
-class StatusFlags;
-class Notices;
-class Translator;
-class SimDocManager;
-class SimRecorder;
-class SimSaver;
+struct HostContext;
 struct SyncSource;
 
 /// Operations on many cameras: each one is tried, and the failures come as one exception.
 class SimCameraOps : public ZebCameraOps {
 public:
-    SimCameraOps(const HostCalls& calls, CameraBank& cameras, const SimDocManager& docs, const SimRecorder& recorder,
-                 const SimSaver& saver, const Preferences& prefs, const StatusFlags& flags,
-                 const Translator& translator, Notices& notices);
+    explicit SimCameraOps(const HostContext& host) : m_host(host) {}
 
     void searchCamera(const QString& address) override;
     void discoverCameras() override;
@@ -60,13 +50,5 @@ private:
     void command(HostOperation operation, const DocList& docs, const QVariantList& args,
                  const std::function<void(Camera&)>& work);
 
-    const HostCalls& m_calls;
-    CameraBank& m_cameras;
-    const SimDocManager& m_docs;
-    const SimRecorder& m_recorder;
-    const SimSaver& m_saver;
-    const Preferences& m_prefs;
-    const StatusFlags& m_flags;
-    const Translator& m_translator;
-    Notices& m_notices;
+    const HostContext& m_host;
 };

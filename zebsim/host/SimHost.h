@@ -4,6 +4,7 @@
 #include "CameraBank.h"
 #include "FaultPlan.h"
 #include "HostCalls.h"
+#include "HostContext.h"
 #include "HostEvents.h"
 #include "HostMessages.h"
 #include "HostPrefs.h"
@@ -157,18 +158,11 @@ public:
     }
     void errorHandler(const std::exception& e) override { pluginBox(OPERATION("errorHandler")).tellFailureOrNews(e); }
 
-    ZebPrefsDialog* getPrefsDialog() override {
-        m_calls.ask(OPERATION("getPrefsDialog"));
-        return m_windows->prefsDialog();
-    }
+    ZebPrefsDialog* getPrefsDialog() override { return askWindows(OPERATION("getPrefsDialog")).prefsDialog(); }
     void openPrefsEthernetSettings() override {
-        m_calls.change(OPERATION("ZebHost::openPrefsEthernetSettings"));
-        m_windows->openEthernetSettings();
+        tellWindows(OPERATION("ZebHost::openPrefsEthernetSettings")).openEthernetSettings();
     }
-    void openAboutDialog() override {
-        m_calls.change(OPERATION("ZebHost::openAboutDialog"));
-        m_windows->openAbout();
-    }
+    void openAboutDialog() override { tellWindows(OPERATION("ZebHost::openAboutDialog")).openAbout(); }
     void execProgress(const QString& text, QFutureWatcherBase& watcher) override {
         m_calls.change(OPERATION("ZebHost::execProgress"), {text});
         m_docManager.endTurn();
@@ -176,31 +170,18 @@ public:
     }
     void prepareSupportFile(ZebSupportFile& file) override;
     bool exportSupportFile(const QString& path, const ZebSupportFile& file) override;
-    void saveFiles() override {
-        m_calls.change(OPERATION("ZebHost::saveFiles"));
-        m_windows->save(false);
-    }
-    void saveLayoutFiles() override {
-        m_calls.change(OPERATION("ZebHost::saveLayoutFiles"));
-        m_windows->save(true);
-    }
+    void saveFiles() override { tellWindows(OPERATION("ZebHost::saveFiles")).save(false); }
+    void saveLayoutFiles() override { tellWindows(OPERATION("ZebHost::saveLayoutFiles")).save(true); }
     bool hasWrenWindow() const override;
     void hideSelectBox() override {
         m_calls.change(OPERATION("ZebHost::hideSelectBox"));
         hideDropDownBox({});
     }
-    bool isShownDropBox() const override {
-        m_calls.ask(OPERATION("isShownDropBox"));
-        return m_windows->isDropDownBoxShown();
-    }
+    bool isShownDropBox() const override { return askWindows(OPERATION("isShownDropBox")).isDropDownBoxShown(); }
     void showDropDownBox(const QString& key, const QRect& anchor) override {
-        m_calls.change(OPERATION("ZebHost::showDropDownBox"), {key});
-        m_windows->showDropDownBox(key, anchor);
+        tellWindows(OPERATION("ZebHost::showDropDownBox"), {key}).showDropDownBox(key, anchor);
     }
-    void hideDropDownBox(const QString& key) override {
-        m_calls.ask(OPERATION("hideDropDownBox"));
-        m_windows->hideDropDownBox(key);
-    }
+    void hideDropDownBox(const QString& key) override { askWindows(OPERATION("hideDropDownBox")).hideDropDownBox(key); }
     void hideDropDownBoxAt(const QString& key, const QPoint& point) override {
         m_calls.ask(OPERATION("hideDropDownBoxAt"));
         if (!m_windows->dropDownBoxRect(key).contains(point)) {
@@ -261,6 +242,15 @@ public:
     }
 
 private:
+    /// What the plug-in asks of the windows, and what it tells them to do.
+    HostWindows& askWindows(HostOperation operation) const {
+        m_calls.ask(operation);
+        return *m_windows;
+    }
+    HostWindows& tellWindows(HostOperation operation, const QVariantList& args = {}) const {
+        m_calls.change(operation, args);
+        return *m_windows;
+    }
     /// What a box of the plug-in's begins with.
     HostMessages& pluginBox(HostOperation operation) {
         m_calls.ask(operation);
@@ -286,6 +276,9 @@ private:
     QPointer<QWidget> m_mainWindow;
     QPointer<QWidget> m_mdiWidget;
 
+    const HostContext m_context{m_clock,      m_calls,      m_cameras,    m_prefs,   m_flags,        m_events,
+                                m_updates,    m_translator, m_messages,   m_notices, m_unsavedGuard, m_appStatus,
+                                m_syncSignal, m_recorder,   m_docManager, m_saver,   m_windows};
     HostMessages m_messages;
     HostPrefs m_hostPrefs;
     HostStates m_states;

@@ -3,6 +3,7 @@
 #include "Camera.h"
 #include "CameraBank.h"
 #include "HostCalls.h"
+#include "HostContext.h"
 #include "HostEvents.h"
 #include "Notices.h"
 #include "PluginSignal.h"
@@ -17,24 +18,13 @@
 #include <algorithm>
 #include <utility>
 
-SimRecorder::SimRecorder(const HostCalls& calls, const Clock& clock, const CameraBank& cameras,
-                         const Preferences& prefs, const StatusFlags& flags, SimAppStatus& appStatus,
-                         HostEvents& events, UpdateCycle& updates, const Translator& translator, Notices& notices,
-                         const UnsavedGuard& unsaved)
-    : m_calls(calls),
-      m_cameras(cameras),
-      m_prefs(prefs),
-      m_flags(flags),
-      m_appStatus(appStatus),
-      m_events(events),
-      m_updates(updates),
-      m_notices(notices),
-      m_unsaved(unsaved),
-      m_run(cameras, clock, translator,
+SimRecorder::SimRecorder(const HostContext& host)
+    : m_host(host),
+      m_run(host.cameras, host.clock, host.translator,
             RecordRun::Listener{
-                [&updates] { updates.request(); },
-                [&notices](const QString& text) { notices.add(Message::Error, text); },
-                [&events] { Q_EMIT events.shootEnded(); },
+                [&host] { host.updates.request(); },
+                [&host](const QString& text) { host.notices.add(Message::Error, text); },
+                [&host] { Q_EMIT host.events.shootEnded(); },
                 [this](bool recorded) {
                     m_owedEnd = recorded;
                     QMetaObject::invokeMethod(
@@ -43,23 +33,23 @@ SimRecorder::SimRecorder(const HostCalls& calls, const Clock& clock, const Camer
             }) {}
 
 int SimRecorder::getRecStatus(const DocKeyList& keys) const {
-    m_calls.ask(OPERATION("getRecStatus"));
+    m_host.calls.ask(OPERATION("getRecStatus"));
     return stateOf(keys);
 }
 
 int SimRecorder::getRecordingState() const {
-    m_calls.ask(OPERATION("getRecordingState"));
+    m_host.calls.ask(OPERATION("getRecordingState"));
     return state();
 }
 
 bool SimRecorder::isRecording() const {
-    m_calls.ask(OPERATION("isRecording"));
+    m_host.calls.ask(OPERATION("isRecording"));
     return state() == zeb::RecordRecording ||
            isAny([](const Camera& camera) { return camera.get(&CameraState::recordState) == zeb::RecordRecording; });
 }
 
 int SimRecorder::state() const {
-    return stateOf(m_cameras.keys());
+    return stateOf(m_host.cameras.keys());
 }
 
 int SimRecorder::stateOf(const DocKeyList& keys) const {
@@ -71,7 +61,7 @@ int SimRecorder::stateOf(const DocKeyList& keys) const {
                                                                     {StatusFlags::IsReady, zeb::RecordReady},
                                                                     {StatusFlags::IsCTSReady, zeb::RecordCtsReady}};
     for (const auto& [flag, status] : states) {
-        if (m_flags.isOn(flag)) {
+        if (m_host.flags.isOn(flag)) {
             return status;
         }
     }
@@ -85,12 +75,12 @@ bool SimRecorder::isUnderWay() const {
 }
 
 bool SimRecorder::isAny(const std::function<bool(const Camera&)>& wanted) const {
-    const auto cameras = m_cameras.connected();
+    const auto cameras = m_host.cameras.connected();
     return std::any_of(cameras.begin(), cameras.end(), [&](const Camera* camera) { return wanted(*camera); });
 }
 
 void SimRecorder::startRecReady() {
-    m_calls.change(OPERATION("ZebRecorder::startRecReady"));
+    m_host.calls.change(OPERATION("ZebRecorder::startRecReady"));
     arm();
 }
 
@@ -98,9 +88,9 @@ void SimRecorder::arm() {
     if (hasEnded()) {
         return;
     }
-    if (!m_unsaved.mayRecordOver([this] { return m_run.keysToArm(); })) {
-        m_updates.request();
-        sendToPlugins(m_appStatus, "signalEndRecording");
+    if (!m_host.unsaved.mayRecordOver([this] { return m_run.keysToArm(); })) {
+        m_host.updates.request();
+        sendToPlugins(m_host.appStatus, "signalEndRecording");
     } else if (!hasEnded()) {
         // A recording may have come and gone while the question stood.
         m_run.arm();
@@ -108,31 +98,31 @@ void SimRecorder::arm() {
 }
 
 void SimRecorder::triggerRecording() {
-    m_calls.change(OPERATION("ZebRecorder::triggerRecording"));
+    m_host.calls.change(OPERATION("ZebRecorder::triggerRecording"));
     trigger();
 }
 
 void SimRecorder::trigger() {
-    if (m_flags.isOn(StatusFlags::IsTriggerTesting)) {
-        m_notices.add(Message::Info, TextKey("Trigger test: the trigger has come. Nothing is recorded."));
+    if (m_host.flags.isOn(StatusFlags::IsTriggerTesting)) {
+        m_host.notices.add(Message::Info, TextKey("Trigger test: the trigger has come. Nothing is recorded."));
     } else {
-        m_run.trigger(m_prefs.value(QStringLiteral("recording/area")).toBool(), m_unsaved.isOn());
+        m_run.trigger(m_host.prefs.value(QStringLiteral("recording/area")).toBool(), m_host.unsaved.isOn());
     }
 }
 
 void SimRecorder::stopRecording() {
-    m_calls.change(OPERATION("ZebRecorder::stopRecording"));
+    m_host.calls.change(OPERATION("ZebRecorder::stopRecording"));
     m_run.stop();
 }
 
 void SimRecorder::cancelRecording(bool recording) {
-    m_calls.change(OPERATION("ZebRecorder::cancelRecording"), {recording});
+    m_host.calls.change(OPERATION("ZebRecorder::cancelRecording"), {recording});
     endByCancel();
 }
 
 void SimRecorder::cancel() {
     if (endByCancel()) {
-        sendToPlugins(m_appStatus, "signalEndRecording");
+        sendToPlugins(m_host.appStatus, "signalEndRecording");
     }
 }
 
@@ -143,9 +133,9 @@ bool SimRecorder::endByCancel() {
     m_run.cancel();
     // Whoever cancels knows that it is over.
     if (std::exchange(m_owedEnd, std::nullopt).value_or(false)) {
-        Q_EMIT m_events.somethingRecorded();
-        m_notices.add(Message::Info,
-                      TextKey("The recording was ended. The cameras keep what they have; memory mode shows it."));
+        Q_EMIT m_host.events.somethingRecorded();
+        m_host.notices.add(Message::Info,
+                           TextKey("The recording was ended. The cameras keep what they have; memory mode shows it."));
     }
     return true;
 }
@@ -158,7 +148,7 @@ bool SimRecorder::hasEnded() {
 }
 
 void SimRecorder::press() {
-    if (m_appStatus.mode() != zeb::LiveMode || hasEnded()) {
+    if (m_host.appStatus.mode() != zeb::LiveMode || hasEnded()) {
         return;
     }
     switch (state()) {
@@ -182,12 +172,12 @@ void SimRecorder::deliverEnd() {
         return;
     }
     // It has been a recording for whoever asked.
-    m_updates.request();
-    sendToPlugins(m_appStatus, "signalEndRecording");
+    m_host.updates.request();
+    sendToPlugins(m_host.appStatus, "signalEndRecording");
     if (*recorded) {
-        Q_EMIT m_events.somethingRecorded();
-        if (m_appStatus.mode() == zeb::LiveMode) {
-            m_appStatus.enterMode(zeb::MemoryMode);
+        Q_EMIT m_host.events.somethingRecorded();
+        if (m_host.appStatus.mode() == zeb::LiveMode) {
+            m_host.appStatus.enterMode(zeb::MemoryMode);
         }
     }
 }

@@ -7,26 +7,14 @@
 
 #include <optional>
 
-class CameraBank;
-class Clock;
-class HostEvents;
-class HostCalls;
-class SimAppStatus;
-class Preferences;
-class StatusFlags;
-class Translator;
-class UnsavedGuard;
-class UpdateCycle;
-class Notices;
+struct HostContext;
 
 /// The recording on the host's cameras. Its end comes from the event loop: plug-ins get their signal, and the host goes
 /// into memory mode when something was recorded. Whoever presses before has meant the recording that has just ended:
 /// then the end comes at once, and the press does nothing else.
 class SimRecorder : public ZebRecorder {
 public:
-    SimRecorder(const HostCalls& calls, const Clock& clock, const CameraBank& cameras, const Preferences& prefs,
-                const StatusFlags& flags, SimAppStatus& appStatus, HostEvents& events, UpdateCycle& updates,
-                const Translator& translator, Notices& notices, const UnsavedGuard& unsaved);
+    explicit SimRecorder(const HostContext& host);
 
     int getRecStatus(const DocKeyList& keys) const override;
     int getRecordingState() const override;
@@ -71,15 +59,7 @@ private:
     /// Of the connected cameras.
     bool isAny(const std::function<bool(const Camera&)>& wanted) const;
 
-    const HostCalls& m_calls;
-    const CameraBank& m_cameras;
-    const Preferences& m_prefs;
-    const StatusFlags& m_flags;
-    SimAppStatus& m_appStatus;
-    HostEvents& m_events;
-    UpdateCycle& m_updates;
-    Notices& m_notices;
-    const UnsavedGuard& m_unsaved;
+    const HostContext& m_host;
     RecordRun m_run;
     /// An end that is still to be told, and whether something was recorded.
     std::optional<bool> m_owedEnd;

@@ -1,6 +1,7 @@
 #include "SimSaver.h"
 
 #include "HostCalls.h"
+#include "HostContext.h"
 #include "HostWindows.h"
 #include "StatusFlags.h"
 
@@ -8,26 +9,26 @@
 #include <QGuiApplication>
 
 bool SimSaver::isSaving() const {
-    return m_flags.isOn(StatusFlags::IsSaving) || m_windows->isSaving();
+    return m_host.flags.isOn(StatusFlags::IsSaving) || m_host.windows->isSaving();
 }
 
 bool SimSaver::isBgSaving() const {
-    return m_flags.isOn(StatusFlags::IsBgSaving);
+    return m_host.flags.isOn(StatusFlags::IsBgSaving);
 }
 
 bool SimSaver::isBgConverting() const {
-    return m_flags.isOn(StatusFlags::IsBgConverting);
+    return m_host.flags.isOn(StatusFlags::IsBgConverting);
 }
 
 void SimSaver::copyToClipboard(int what) {
-    m_calls.change(OPERATION("ZebSaver::copyToClipboard"), {what});
-    const QImage image = m_windows->currentImage();
+    m_host.calls.change(OPERATION("ZebSaver::copyToClipboard"), {what});
+    const QImage image = m_host.windows->currentImage();
     if (!image.isNull()) {
         QGuiApplication::clipboard()->setImage(image);
     }
 }
 
 void SimSaver::snapShot(int mode) {
-    m_calls.change(OPERATION("ZebSaver::snapShot"), {mode});
-    m_windows->snapShot(mode);
+    m_host.calls.change(OPERATION("ZebSaver::snapShot"), {mode});
+    m_host.windows->snapShot(mode);
 }

@@ -2,16 +2,12 @@
 
 #include "ZebSaver.h"
 
-class HostCalls;
-class HostWindows;
-class StatusFlags;
+struct HostContext;
 
 /// Whether images are being saved, and the way to the clipboard.
 class SimSaver : public ZebSaver {
 public:
-    /// The windows may be others from call to call.
-    SimSaver(const HostCalls& calls, const StatusFlags& flags, HostWindows* const& windows)
-        : m_calls(calls), m_flags(flags), m_windows(windows) {}
+    explicit SimSaver(const HostContext& host) : m_host(host) {}
 
     bool isSaving() const override;
     bool isBgSaving() const override;
@@ -20,7 +16,5 @@ public:
     void snapShot(int mode) override;
 
 private:
-    const HostCalls& m_calls;
-    const StatusFlags& m_flags;
-    HostWindows* const& m_windows;
+    const HostContext& m_host;
 };

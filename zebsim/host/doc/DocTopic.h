@@ -1,15 +1,15 @@
 #pragma once
 
 #include "Camera.h"
-#include "DocContext.h"
 #include "HostCalls.h"
+#include "HostContext.h"
 
 /// A topic of a document. What is asked of its camera takes the time that a planted fault says, and throws
 /// `CameraError`; "connected" in a name: also when the camera is not.
 template <typename Topic>
 class DocTopic : public Topic {
 public:
-    DocTopic(Camera& camera, const DocContext& context) : m_camera(camera), m_context(context) {}
+    DocTopic(Camera& camera, const HostContext& host) : m_camera(camera), m_host(host) {}
 
 protected:
     /// A question to the camera, which answers it.
@@ -42,10 +42,10 @@ protected:
         return m_camera;
     }
     Camera& note(const char* call, const QVariantList& args) const {
-        m_context.calls.note(call, QVariantList{m_camera.key()} + args);
+        m_host.calls.note(call, QVariantList{m_camera.key()} + args);
         return m_camera;
     }
 
     Camera& m_camera;
-    const DocContext& m_context;
+    const HostContext& m_host;
 };

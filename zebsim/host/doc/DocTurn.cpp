@@ -14,10 +14,10 @@ DocTurn::DocTurn(QObject* parent) : QObject(parent) {
 
 DocTurn::~DocTurn() = default;
 
-SimDocument* DocTurn::document(Camera& camera, const DocContext& context) {
+SimDocument* DocTurn::document(Camera& camera, const HostContext& host) {
     auto& doc = m_docs[camera.key()];
     if (!doc) {
-        doc = std::make_unique<SimDocument>(camera, context);
+        doc = std::make_unique<SimDocument>(camera, host);
     }
     return doc.get();
 }

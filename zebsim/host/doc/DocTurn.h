@@ -9,7 +9,7 @@
 
 class Camera;
 class SimDocument;
-struct DocContext;
+struct HostContext;
 
 /// The documents that were handed out in one turn of an event loop. It goes when its loop takes the next turn, not in a
 /// loop inside that one: whoever still has a document then is found out. GUI thread.
@@ -19,7 +19,7 @@ public:
     explicit DocTurn(QObject* parent);
     ~DocTurn() override;
 
-    SimDocument* document(Camera& camera, const DocContext& context);
+    SimDocument* document(Camera& camera, const HostContext& host);
     std::size_t count() const { return m_docs.size(); }
 
 private:

@@ -10,9 +10,9 @@
 class DocTurns {
 public:
     /// Must outlive the object.
-    explicit DocTurns(const DocContext& context) : m_context(context) {}
+    explicit DocTurns(const HostContext& host) : m_host(host) {}
 
-    SimDocument* document(Camera& camera) { return turn().document(camera, m_context); }
+    SimDocument* document(Camera& camera) { return turn().document(camera, m_host); }
     /// Documents handed out in this turn of the event loop.
     std::size_t handedOut() const;
     /// The documents of this turn are dead.
@@ -23,7 +23,7 @@ public:
 private:
     DocTurn& turn();
 
-    const DocContext& m_context;
+    const HostContext& m_host;
     QObject m_owner;
     std::map<int, QPointer<DocTurn>> m_turns;
 };

@@ -10,12 +10,12 @@
 #include "Translator.h"
 
 QString SimControl::getSyncStatusText() const {
-    return m_context.sync.statusOf(askConnected(OPERATION("getSyncStatusText")));
+    return m_host.sync.statusOf(askConnected(OPERATION("getSyncStatusText")));
 }
 
 int SimControl::getShutterSpeed() const {
     const int fraction = askConnected(OPERATION("getShutterSpeed"), &CameraState::shutter);
-    return ShutterText::valueIn(ShutterText(m_context.prefs).list(), fraction);
+    return ShutterText::valueIn(ShutterText(m_host.prefs).list(), fraction);
 }
 
 QList<int> SimControl::getShutterSpeedList(int list) const {
@@ -27,7 +27,7 @@ QList<int> SimControl::getShutterSpeedList(int list) const {
 }
 
 QStringList SimControl::getShutterSpeedEntries() const {
-    const ShutterText text(m_context.prefs);
+    const ShutterText text(m_host.prefs);
     QStringList entries;
     for (const int fraction : askConnected(OPERATION("getShutterSpeedEntries"), &CameraModel::shutters)) {
         entries.append(text.entry(fraction));
@@ -64,23 +64,23 @@ int SimControl::getTriggerOffsetBase() const {
 
 bool SimControl::hasRecordedData() const {
     const Camera& camera = askConnected(OPERATION("hasRecordedData"));
-    return camera.get(&CameraState::recorded) && !camera.isUnderWay() && !m_context.recorder.isRunning();
+    return camera.get(&CameraState::recorded) && !camera.isUnderWay() && !m_host.recorder.isRunning();
 }
 
 void SimControl::eraseRecordedData(int mode) {
     Camera& camera = note("DOC_Control::eraseRecordedData", {mode});
-    if (m_context.recorder.isRunning()) {
+    if (m_host.recorder.isRunning()) {
         throw CameraError(camera.name(), QStringLiteral("nothing can be erased while a recording is under way"));
     }
     const auto recording = camera.recording();
     camera.eraseRecordedData();
     if (recording && !camera.recording()) {
-        const QString label = m_context.cameras.labelOf(camera);
+        const QString label = m_host.cameras.labelOf(camera);
         const QString frames = QString::number(recording->frameCount());
-        const QString whole = m_context.translator.translate(TextKey("%1: %2 frames were erased."));
-        const QString part = m_context.translator.translate(TextKey("%1: %2 frames in partition %3 were erased."));
-        m_context.notices.add(Message::Info, camera.get(&CameraState::partitions) > 1
-                                                 ? part.arg(label, frames, QString::number(recording->partition))
-                                                 : whole.arg(label, frames));
+        const QString whole = m_host.translator.translate(TextKey("%1: %2 frames were erased."));
+        const QString part = m_host.translator.translate(TextKey("%1: %2 frames in partition %3 were erased."));
+        m_host.notices.add(Message::Info, camera.get(&CameraState::partitions) > 1
+                                              ? part.arg(label, frames, QString::number(recording->partition))
+                                              : whole.arg(label, frames));
     }
 }

@@ -1,6 +1,8 @@
 #include "SimDocManager.h"
 
 #include "Camera.h"
+#include "HostMessages.h"
+#include "HostWindows.h"
 #include "Journal.h"
 #include "Notices.h"
 #include "Preferences.h"
@@ -13,21 +15,6 @@
 
 #include <algorithm>
 
-SimDocManager::SimDocManager(const HostCalls& calls, CameraBank& cameras, const Preferences& prefs,
-                             const SimAppStatus& appStatus, const StatusFlags& flags, const Translator& translator,
-                             const SyncSignal& sync, const SimRecorder& recorder, UpdateCycle& updates,
-                             Notices& notices, const UnsavedGuard& unsaved,
-                             std::function<void(const std::exception&)> tellFailure)
-    : m_calls(calls),
-      m_cameras(cameras),
-      m_flags(flags),
-      m_updates(updates),
-      m_unsaved(unsaved),
-      m_tellFailure(std::move(tellFailure)),
-      m_selection(cameras),
-      m_context{calls, cameras, m_tools, prefs, appStatus, translator, sync, recorder, notices, *this},
-      m_turns(m_context) {}
-
 void SimDocManager::forgetDocs() {
     m_turns.forget();
     m_tools.forgetDocs();
@@ -35,23 +22,23 @@ void SimDocManager::forgetDocs() {
 }
 
 DOC_Interface* SimDocManager::getDocAny(DOCKEY key) {
-    Camera* camera = m_cameras.find(key);
+    Camera* camera = m_host.cameras.find(key);
     return camera ? m_turns.document(*camera) : nullptr;
 }
 
 DocList SimDocManager::getCameraDocs() {
-    m_calls.ask(OPERATION("getCameraDocs"));
+    m_host.calls.ask(OPERATION("getCameraDocs"));
     DocList docs;
-    for (const DOCKEY key : m_cameras.keys()) {
+    for (const DOCKEY key : m_host.cameras.keys()) {
         docs.append(getDocAny(key));
     }
     return docs;
 }
 
 DocList SimDocManager::getSyncableDocs(int /*mode*/) {
-    m_calls.ask(OPERATION("getSyncableDocs"));
+    m_host.calls.ask(OPERATION("getSyncableDocs"));
     DocList docs;
-    for (const Camera* camera : m_cameras.all()) {
+    for (const Camera* camera : m_host.cameras.all()) {
         if (camera->get(&CameraState::connected) && camera->model().syncCapable) {
             docs.append(getDocAny(camera->key()));
         }
@@ -60,33 +47,33 @@ DocList SimDocManager::getSyncableDocs(int /*mode*/) {
 }
 
 bool SimDocManager::isRecordAreaEnabled() const {
-    m_calls.ask(OPERATION("isRecordAreaEnabled"));
-    return m_context.prefs.value(QStringLiteral("recording/area")).toBool();
+    m_host.calls.ask(OPERATION("isRecordAreaEnabled"));
+    return m_host.prefs.value(QStringLiteral("recording/area")).toBool();
 }
 
 void SimDocManager::selectDoc(DOCKEY key) {
-    m_calls.change(OPERATION("ZebDocManager::selectDoc"), {key});
-    if (Camera* camera = m_cameras.find(key)) {
+    m_host.calls.change(OPERATION("ZebDocManager::selectDoc"), {key});
+    if (Camera* camera = m_host.cameras.find(key)) {
         camera->ask(OPERATION("selectDoc"));
         m_selection.select(*camera);
     }
 }
 
 void SimDocManager::deselectDoc(DOCKEY key) {
-    m_calls.change(OPERATION("ZebDocManager::deselectDoc"), {key});
-    if (Camera* camera = m_cameras.find(key)) {
+    m_host.calls.change(OPERATION("ZebDocManager::deselectDoc"), {key});
+    if (Camera* camera = m_host.cameras.find(key)) {
         camera->ask(OPERATION("deselectDoc"));
         m_selection.deselect(*camera);
     }
 }
 
 void SimDocManager::setSelectedDocs(const DocKeyList& keys, int mode) {
-    m_calls.change(OPERATION("ZebDocManager::setSelectedDocs"), {Journal::keyList(keys), mode});
+    m_host.calls.change(OPERATION("ZebDocManager::setSelectedDocs"), {Journal::keyList(keys), mode});
     m_selection.selectOnly(keys);
 }
 
 void SimDocManager::connectDocs(const DocKeyList& keys) {
-    m_calls.change(OPERATION("ZebDocManager::connectDocs"), {Journal::keyList(keys)});
+    m_host.calls.change(OPERATION("ZebDocManager::connectDocs"), {Journal::keyList(keys)});
     forEachKey(keys, [](Camera& camera) {
         if (!camera.get(&CameraState::connected)) {
             camera.connect();
@@ -95,7 +82,7 @@ void SimDocManager::connectDocs(const DocKeyList& keys) {
 }
 
 void SimDocManager::disconnectDocs(const DocKeyList& keys) {
-    m_calls.change(OPERATION("ZebDocManager::disconnectDocs"), {Journal::keyList(keys)});
+    m_host.calls.change(OPERATION("ZebDocManager::disconnectDocs"), {Journal::keyList(keys)});
     forEachKey(keys, [](Camera& camera) {
         if (camera.get(&CameraState::connected)) {
             camera.disconnect();
@@ -105,39 +92,39 @@ void SimDocManager::disconnectDocs(const DocKeyList& keys) {
 
 void SimDocManager::forEachKey(const DocKeyList& keys, const std::function<void(Camera&)>& work) {
     try {
-        m_cameras.forEach(keys, work);
+        m_host.cameras.forEach(keys, work);
     } catch (const std::exception& e) {
-        m_tellFailure(e);
+        m_host.messages.tellFailure(e);
     }
 }
 
 void SimDocManager::deleteAllDocs(int kind, int mode) {
-    m_calls.change(OPERATION("ZebDocManager::deleteAllDocs"), {kind, mode});
-    if (m_context.recorder.isUnderWay()) {
+    m_host.calls.change(OPERATION("ZebDocManager::deleteAllDocs"), {kind, mode});
+    if (m_host.recorder.isUnderWay()) {
         const QString text = TextKey("Cameras are armed or recording. None was deleted.");
-        throw std::runtime_error(m_context.translator.translate(text).toStdString());
+        throw std::runtime_error(m_host.translator.translate(text).toStdString());
     }
-    m_cameras.forgetAll();
-    const QStringList unsaved = m_unsaved.lines(lostByClosing(heldRecordings(m_cameras)));
+    m_host.cameras.forgetAll();
+    const QStringList unsaved = m_host.unsaved.lines(lostByClosing(heldRecordings(m_host.cameras)));
     if (!unsaved.isEmpty()) {
         const QString text = TextKey("Images that nobody has saved are out of reach until a search:");
-        m_context.notices.add(
-            Message::Warn, m_context.translator.translate(text) % QLatin1Char('\n') % unsaved.join(QLatin1Char('\n')));
+        m_host.notices.add(Message::Warn,
+                           m_host.translator.translate(text) % QLatin1Char('\n') % unsaved.join(QLatin1Char('\n')));
     }
     m_selection.forget();
-    m_updates.request();
+    m_host.updates.request();
 }
 
 void SimDocManager::editDoc(DOCKEY key) {
-    m_calls.change(OPERATION("ZebDocManager::editDoc"), {key});
-    if (m_editor && m_cameras.find(key)) {
-        m_editor(key);
+    m_host.calls.change(OPERATION("ZebDocManager::editDoc"), {key});
+    if (m_host.cameras.find(key)) {
+        m_host.windows->editCamera(key);
     }
 }
 
 bool SimDocManager::sharesDeviceWithLockedHead(DOC_Interface* doc, bool shutter, bool resolution) {
-    m_calls.ask(OPERATION("sharesDeviceWithLockedHead"));
-    const Camera* camera = m_cameras.find(doc->getKey());
+    m_host.calls.ask(OPERATION("sharesDeviceWithLockedHead"));
+    const Camera* camera = m_host.cameras.find(doc->getKey());
     if (!camera) {
         return false;
     }
@@ -151,6 +138,6 @@ bool SimDocManager::sharesDeviceWithLockedHead(DOC_Interface* doc, bool shutter,
 }
 
 void SimDocManager::refreshDocList(int mode) {
-    m_calls.change(OPERATION("ZebDocManager::refreshDocList"), {mode});
-    m_updates.request();
+    m_host.calls.change(OPERATION("ZebDocManager::refreshDocList"), {mode});
+    m_host.updates.request();
 }

@@ -2,36 +2,23 @@
 
 #include "CameraBank.h"
 #include "CameraState.h"
-#include "DocContext.h"
 #include "DocSelection.h"
 #include "DocTurns.h"
 #include "HostCalls.h"
+#include "HostContext.h"
 #include "ImageTools.h"
 #include "StatusFlags.h"
 #include "ZebDocManager.h"
 
 #include <functional>
 
-class Notices;
-class SimRecorder;
-class SyncSignal;
-class Translator;
-class UnsavedGuard;
-class UpdateCycle;
-
 /// Documents by key, the selection, connections, image tools.
 class SimDocManager : public ZebDocManager {
 public:
-    /// `tellFailure` shows why cameras did not connect or disconnect.
-    SimDocManager(const HostCalls& calls, CameraBank& cameras, const Preferences& prefs, const SimAppStatus& appStatus,
-                  const StatusFlags& flags, const Translator& translator, const SyncSignal& sync,
-                  const SimRecorder& recorder, UpdateCycle& updates, Notices& notices, const UnsavedGuard& unsaved,
-                  std::function<void(const std::exception&)> tellFailure);
+    explicit SimDocManager(const HostContext& host) : m_host(host), m_selection(host.cameras), m_turns(host) {}
 
     /// As `getCurrentDockey`, for the host itself.
     DOCKEY currentKey() const { return m_selection.current(); }
-    /// What `editDoc` opens; nothing at first. It is called for a camera that is there and runs until it is closed.
-    void setEditor(std::function<void(DOCKEY)> editor) { m_editor = std::move(editor); }
     /// As `setSelectedDocs`, by the host itself.
     void selectOnly(const DocKeyList& keys) { m_selection.selectOnly(keys); }
     /// Documents handed out in this turn of the event loop.
@@ -41,26 +28,27 @@ public:
     /// Hands out none of the present documents any more, and forgets the current one. Those that somebody works with
     /// still tell their keys.
     void forgetDocs();
+    ImageTools& tools() { return m_tools; }
     /// Whether an image tool is the active one or a quick tool that is on.
     bool isToolActive(const QString& tool) const { return m_tools.isActive(tool); }
 
     DOC_Interface* getDoc(DOCKEY key, int /*mode*/) override { return getDocAny(key); }
     DOC_Interface* getDocAny(DOCKEY key) override;
     DOC_Interface* getCurrentDoc() override {
-        m_calls.ask(OPERATION("getCurrentDoc"));
+        m_host.calls.ask(OPERATION("getCurrentDoc"));
         return getDocAny(currentKey());
     }
     bool isCurrentDoc(DOCKEY key) const override {
-        m_calls.ask(OPERATION("isCurrentDoc"));
+        m_host.calls.ask(OPERATION("isCurrentDoc"));
         return m_selection.isCurrent(key);
     }
     DOCKEY getCurrentDockey(int /*mode*/) const override {
-        m_calls.ask(OPERATION("getCurrentDockey"));
+        m_host.calls.ask(OPERATION("getCurrentDockey"));
         return currentKey();
     }
     /// Of a selected camera only.
     void setCurrentDoc(DOCKEY key, int mode) override {
-        m_calls.change(OPERATION("ZebDocManager::setCurrentDoc"), {key, mode});
+        m_host.calls.change(OPERATION("ZebDocManager::setCurrentDoc"), {key, mode});
         m_selection.setCurrent(key);
     }
     DocKeyList getDocKeys(int /*mode*/ = 0) const override { return ask(OPERATION("getDocKeys")).keys(); }
@@ -77,7 +65,7 @@ public:
     /// Those that are connected and can run on a common signal.
     DocList getSyncableDocs(int mode) override;
     int getDocCount() const override {
-        return isOn(OPERATION("getDocCount"), StatusFlags::IsNoneDocument) ? 0 : int(m_cameras.all().size());
+        return isOn(OPERATION("getDocCount"), StatusFlags::IsNoneDocument) ? 0 : int(m_host.cameras.all().size());
     }
     int getSelectedDocCount() const override {
         return ask(OPERATION("getSelectedDocCount")).keysOf(&CameraState::selected).size();
@@ -87,9 +75,10 @@ public:
     void deselectDoc(DOCKEY key) override;
     void setSelectedDocs(const DocKeyList& keys, int mode) override;
     void selectAllDocs(QObject* /*sender*/) override {
-        m_calls.change(OPERATION("ZebDocManager::selectAllDocs"));
+        m_host.calls.change(OPERATION("ZebDocManager::selectAllDocs"));
         m_selection.selectAll();
     }
+    /// The user is told why some did not connect or disconnect.
     void connectDocs(const DocKeyList& keys) override;
     void disconnectDocs(const DocKeyList& keys) override;
     /// Throws while a connected camera is armed or records. A notice names those that hold images nobody has saved.
@@ -99,7 +88,7 @@ public:
 
     /// There is none: cameras bring images only.
     bool hasWaveformData() const override {
-        m_calls.ask(OPERATION("hasWaveformData"));
+        m_host.calls.ask(OPERATION("hasWaveformData"));
         return false;
     }
     bool isWaveDataAcquisition() const override {
@@ -114,55 +103,48 @@ public:
     bool isRecordAreaEnabled() const override;
 
     QMutex* getDocMutex() override { return &m_mutex; }
-    void beginDocEdit() override { m_calls.change(OPERATION("ZebDocManager::beginDocEdit")); }
-    void beginDocEditNotify() override { m_calls.change(OPERATION("ZebDocManager::beginDocEditNotify")); }
-    void endDocEdit() override { m_calls.change(OPERATION("ZebDocManager::endDocEdit")); }
-    void commitDocEdit() override { m_calls.change(OPERATION("ZebDocManager::commitDocEdit")); }
+    void beginDocEdit() override { m_host.calls.change(OPERATION("ZebDocManager::beginDocEdit")); }
+    void beginDocEditNotify() override { m_host.calls.change(OPERATION("ZebDocManager::beginDocEditNotify")); }
+    void endDocEdit() override { m_host.calls.change(OPERATION("ZebDocManager::endDocEdit")); }
+    void commitDocEdit() override { m_host.calls.change(OPERATION("ZebDocManager::commitDocEdit")); }
     void refreshDocList(int mode) override;
 
     void setQuickTool(const QString& tool, bool on) override {
-        m_calls.change(OPERATION("ZebDocManager::setQuickTool"), {tool, on});
+        m_host.calls.change(OPERATION("ZebDocManager::setQuickTool"), {tool, on});
         m_tools.setQuick(tool, on);
     }
     void setActiveQuickTool(const QString& tool) override {
-        m_calls.change(OPERATION("ZebDocManager::setActiveQuickTool"), {tool});
+        m_host.calls.change(OPERATION("ZebDocManager::setActiveQuickTool"), {tool});
         m_tools.setActive(tool);
     }
     void toolSelect(const QString& tool, bool on) override {
-        m_calls.change(OPERATION("ZebDocManager::toolSelect"), {tool, on});
+        m_host.calls.change(OPERATION("ZebDocManager::toolSelect"), {tool, on});
         m_tools.choose(tool, {currentKey()}, on);
     }
     void toolSelectAll(const QString& tool, bool all, bool on) override {
-        m_calls.change(OPERATION("ZebDocManager::toolSelectAll"), {tool, all, on});
-        m_tools.choose(tool, all ? m_cameras.keys() : DocKeyList{currentKey()}, on);
+        m_host.calls.change(OPERATION("ZebDocManager::toolSelectAll"), {tool, all, on});
+        m_tools.choose(tool, all ? m_host.cameras.keys() : DocKeyList{currentKey()}, on);
     }
     void toolBegin(int mode, const QString& tool) override {
-        m_calls.change(OPERATION("ZebDocManager::toolBegin"), {mode, tool});
+        m_host.calls.change(OPERATION("ZebDocManager::toolBegin"), {mode, tool});
     }
-    void toolEnd(const QString& tool) override { m_calls.change(OPERATION("ZebDocManager::toolEnd"), {tool}); }
-    void toolApply(const QString& tool) override { m_calls.change(OPERATION("ZebDocManager::toolApply"), {tool}); }
+    void toolEnd(const QString& tool) override { m_host.calls.change(OPERATION("ZebDocManager::toolEnd"), {tool}); }
+    void toolApply(const QString& tool) override { m_host.calls.change(OPERATION("ZebDocManager::toolApply"), {tool}); }
 
 private:
     const CameraBank& ask(HostOperation operation) const {
-        m_calls.ask(operation);
-        return m_cameras;
+        m_host.calls.ask(operation);
+        return m_host.cameras;
     }
     bool isOn(HostOperation operation, StatusFlags::Flag flag) const {
-        m_calls.ask(operation);
-        return m_flags.isOn(flag);
+        m_host.calls.ask(operation);
+        return m_host.flags.isOn(flag);
     }
     void forEachKey(const DocKeyList& keys, const std::function<void(Camera&)>& work);
 
-    const HostCalls& m_calls;
-    CameraBank& m_cameras;
-    const StatusFlags& m_flags;
-    UpdateCycle& m_updates;
-    const UnsavedGuard& m_unsaved;
-    const std::function<void(const std::exception&)> m_tellFailure;
+    const HostContext& m_host;
     QMutex m_mutex;
     ImageTools m_tools;
     DocSelection m_selection;
-    const DocContext m_context;
     DocTurns m_turns;
-    std::function<void(DOCKEY)> m_editor;
 };

@@ -5,26 +5,26 @@
 #include "TextKey.h"
 #include "Translator.h"
 
-SimDocument::SimDocument(Camera& camera, const DocContext& context)
-    : DocTopic(camera, context),
+SimDocument::SimDocument(Camera& camera, const HostContext& host)
+    : DocTopic(camera, host),
       m_key(camera.key()),
-      m_activity(camera, context),
-      m_lock(camera, context),
-      m_frames(camera, context),
-      m_image(camera, context),
-      m_control(camera, context),
-      m_head(camera, context),
-      m_storage(camera, context) {}
+      m_activity(camera, host),
+      m_lock(camera, host),
+      m_frames(camera, host),
+      m_image(camera, host),
+      m_control(camera, host),
+      m_head(camera, host),
+      m_storage(camera, host) {}
 
 DOC_Interface* SimDocument::getParentDoc() const {
     const DOCKEY master = ask(OPERATION("getParentDoc")).device().heads().front()->key();
-    return master == getKey() ? nullptr : m_context.docs.getDocAny(master);
+    return master == getKey() ? nullptr : m_host.docs.getDocAny(master);
 }
 
 DocList SimDocument::getHeadDocs(int /*mode*/) {
     DocList docs;
     for (const auto& head : ask(OPERATION("getHeadDocs")).device().heads()) {
-        docs.append(m_context.docs.getDocAny(head->key()));
+        docs.append(m_host.docs.getDocAny(head->key()));
     }
     return docs;
 }
@@ -32,10 +32,10 @@ DocList SimDocument::getHeadDocs(int /*mode*/) {
 QString SimDocument::getPartitionName(PARTITIONNUMBER partition) const {
     const QString name =
         askConnected(OPERATION("getPartitionName"), &CameraState::partitionNames).value(int(partition) - 1);
-    return name.isEmpty() ? m_context.translator.translate(TextKey("Partition %1")).arg(partition) : name;
+    return name.isEmpty() ? m_host.translator.translate(TextKey("Partition %1")).arg(partition) : name;
 }
 
 QString SimDocument::formatShutterSpeed(int value, int /*head*/) const {
     ask(OPERATION("formatShutterSpeed"));
-    return ShutterText(m_context.prefs).label(value);
+    return ShutterText(m_host.prefs).label(value);
 }

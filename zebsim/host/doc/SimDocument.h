@@ -13,7 +13,7 @@
 /// A camera's document: a view on the `Camera`, which holds all that there is to know.
 class SimDocument : public DocTopic<DOC_Interface> {
 public:
-    SimDocument(Camera& camera, const DocContext& context);
+    SimDocument(Camera& camera, const HostContext& host);
 
     SimActivity& activity() override { return m_activity; }
     SimLock& lock() override { return m_lock; }

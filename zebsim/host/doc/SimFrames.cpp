@@ -4,7 +4,7 @@
 
 unsigned int SimFrames::getFrameCount(int /*partition*/, int /*head*/) const {
     const Camera& camera = askConnected(OPERATION("getFrameCount"));
-    if (m_context.appStatus.mode() == zeb::LiveMode) {
+    if (m_host.appStatus.mode() == zeb::LiveMode) {
         return camera.model().frameCapacity(camera.state());
     }
     const auto recording = camera.recording();

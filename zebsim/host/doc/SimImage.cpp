@@ -12,5 +12,5 @@ std::optional<zeb::ImageFormat> SimImage::getImageFormat(int /*kind*/, int /*hea
 void SimImage::setToolRect(const QString& tool, const QRect& rect) {
     const QVariantList plainRect{rect.x(), rect.y(), rect.width(), rect.height()};
     const Camera& camera = change(OPERATION("DOC_Image::setToolRect"), {tool, QVariant(plainRect)});
-    m_context.tools.setRect(tool, camera.key(), rect);
+    m_host.docs.tools().setRect(tool, camera.key(), rect);
 }

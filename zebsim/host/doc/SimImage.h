@@ -2,7 +2,7 @@
 
 #include "DOC_Image.h"
 #include "DocTopic.h"
-#include "ImageTools.h"
+#include "SimDocManager.h"
 
 /// The image of a document and what is written to it.
 class SimImage : public DocTopic<DOC_Image> {
@@ -17,10 +17,10 @@ public:
     int getBinningPower() const override { return ask(OPERATION("getBinningPower"), &CameraState::binningPower); }
     QPoint getPoint() const override { return ask(OPERATION("getPoint"), &CameraState::point); }
     QRect getToolRect(const QString& tool) const override {
-        return m_context.tools.rect(tool, ask(OPERATION("getToolRect")).key());
+        return m_host.docs.tools().rect(tool, ask(OPERATION("getToolRect")).key());
     }
     void setToolRect(const QString& tool, const QRect& rect) override;
     bool isToolChecked(const QString& tool) const override {
-        return m_context.tools.isChosen(tool, ask(OPERATION("isToolChecked")).key());
+        return m_host.docs.tools().isChosen(tool, ask(OPERATION("isToolChecked")).key());
     }
 };

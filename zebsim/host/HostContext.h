@@ -1,0 +1,42 @@
+#pragma once
+
+class CameraBank;
+class Clock;
+class HostCalls;
+class HostEvents;
+class HostMessages;
+class HostWindows;
+class Notices;
+class Preferences;
+class SimAppStatus;
+class SimDocManager;
+class SimRecorder;
+class SimSaver;
+class StatusFlags;
+class SyncSignal;
+class Translator;
+class UnsavedGuard;
+class UpdateCycle;
+
+/// What the parts of the host reach of each other. It is handed to each of them before all are made, and lives as long
+/// as the host.
+struct HostContext {
+    const Clock& clock;
+    const HostCalls& calls;
+    CameraBank& cameras;
+    const Preferences& prefs;
+    const StatusFlags& flags;
+    HostEvents& events;
+    UpdateCycle& updates;
+    const Translator& translator;
+    HostMessages& messages;
+    Notices& notices;
+    const UnsavedGuard& unsaved;
+    SimAppStatus& appStatus;
+    const SyncSignal& sync;
+    const SimRecorder& recorder;
+    SimDocManager& docs;
+    const SimSaver& saver;
+    /// Those of the application come and go; never null.
+    HostWindows* const& windows;
+};
