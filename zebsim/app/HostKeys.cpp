@@ -44,7 +44,7 @@ bool isPluginInFront(SimHost& host) {
 
 /// It is armed or has failed; one that records by itself is left alone.
 bool isHeldUp(const Camera* camera) {
-    const int state = camera->get(&CameraState::recordState);
+    const int state = camera->recordState();
     return state != zeb::RecordLive && state != zeb::RecordRecording;
 }
 

@@ -4,7 +4,6 @@
 #include "SimHost.h"
 #include "UiText.h"
 
-#include <QMessageBox>
 #include <QtDebug>
 
 namespace {
@@ -16,7 +15,7 @@ QStringList camerasUnderWay(const CameraBank& cameras) {
         if (!camera->isUnderWay()) {
             continue;
         }
-        const bool records = camera->get(&CameraState::recordState) == zeb::RecordRecording;
+        const bool records = camera->recordState() == zeb::RecordRecording;
         lines.append((records ? uiText("%1: records") : uiText("%1: is armed")).arg(cameras.labelOf(*camera)));
     }
     return lines;
@@ -28,9 +27,8 @@ bool mayLetGoOfRecording(SimHost& host, const QString& question) {
     if (!host.recorder().isUnderWay()) {
         return true;
     }
-    const ButtonTexts answers{{QMessageBox::Yes, uiText("Yes")}, {QMessageBox::No, uiText("No")}};
     const QStringList asked = camerasUnderWay(host.cameras());
-    if (host.messages().choose(question, nullptr, answers, QMessageBox::No, asked) != QMessageBox::Yes) {
+    if (!host.messages().agrees(question, asked)) {
         qInfo() << "Cameras that are armed or recording are kept:" << asked;
         return false;
     }

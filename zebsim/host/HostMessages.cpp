@@ -2,9 +2,11 @@
 
 #include "Preferences.h"
 #include "SimDocManager.h"
+#include "TextKey.h"
 #include "ZebCycleFailure.h"
 #include "ZebHost.h"
 
+#include <QMessageBox>
 #include <QtDebug>
 
 Message HostMessages::message(Message::Kind kind, const QString& text, QWidget* parent) const {
@@ -74,4 +76,10 @@ int HostMessages::choose(const QString& text, QWidget* parent, const ButtonTexts
     box.buttons = buttons;
     box.preferred = preferred;
     return show(box).button;
+}
+
+bool HostMessages::agrees(const QString& question, const QStringList& list) {
+    const ButtonTexts answers{{QMessageBox::Yes, m_host.translate(TextKey("Yes"))},
+                              {QMessageBox::No, m_host.translate(TextKey("No"))}};
+    return choose(question, nullptr, answers, QMessageBox::No, list) == QMessageBox::Yes;
 }

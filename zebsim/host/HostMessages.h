@@ -34,6 +34,9 @@ public:
     int choose(const QString& text, QWidget* parent, const ButtonTexts& buttons, int preferred,
                const QStringList& list = {});
 
+    /// Asks with Yes and No, of which Enter means no. Whether the user said yes.
+    bool agrees(const QString& question, const QStringList& list);
+
 private:
     Message message(Message::Kind kind, const QString& text, QWidget* parent) const;
     Answer show(const Message& box);

@@ -161,8 +161,7 @@ void SimCameraOps::stopForPrefs() {
     m_host.calls.change(OPERATION("ZebCameraOps::stopForPrefs"));
     DocKeyList armed;
     for (const Camera* camera : m_host.cameras.connected()) {
-        const int state = camera->get(&CameraState::recordState);
-        if (state == zeb::RecordCtsReady || state == zeb::RecordReady) {
+        if (camera->isArmed()) {
             armed.append(camera->key());
         }
     }

@@ -2,9 +2,7 @@
 
 #include "Rig.h"
 #include "SupportFile.h"
-#include "TextKey.h"
 
-#include <QMessageBox>
 #include <QtDebug>
 
 SimHost::SimHost(Clock& clock, MessageDesk& desk, const QString& prefsPath)
@@ -23,8 +21,7 @@ SimHost::SimHost(Clock& clock, MessageDesk& desk, const QString& prefsPath)
       m_states(m_flags, m_cameras),
       m_hostUpdates(m_context),
       m_notices([this](Message::Kind kind, const QString& text) { m_messages.notify(kind, text); }),
-      m_unsavedGuard(m_cameras, m_prefs, m_translator,
-                     [this](const QString& question, const QStringList& lines) { return mayLose(question, lines); }),
+      m_unsavedGuard(m_cameras, m_prefs, m_translator, m_messages),
       m_appStatus(m_context),
       m_signalDevices(m_calls, clock, m_faults),
       m_syncSignal(m_cameras, m_signalDevices),
@@ -77,10 +74,4 @@ bool SimHost::exportSupportFile(const QString& path, const ZebSupportFile& file)
 bool SimHost::hasWrenWindow() const {
     PLG_Interface* wren = m_appStatus.getPlugin(QStringLiteral("wren"));
     return wren && wren->isDialogVisible();
-}
-
-bool SimHost::mayLose(const QString& question, const QStringList& lines) {
-    const ButtonTexts answers{{QMessageBox::Yes, translate(TextKey("Yes"))},
-                              {QMessageBox::No, translate(TextKey("No"))}};
-    return m_messages.choose(question, nullptr, answers, QMessageBox::No, lines) == QMessageBox::Yes;
 }

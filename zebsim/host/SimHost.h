@@ -256,7 +256,6 @@ private:
         m_calls.ask(operation);
         return m_messages;
     }
-    bool mayLose(const QString& question, const QStringList& lines);
 
     Clock& m_clock;
     Preferences m_prefs;

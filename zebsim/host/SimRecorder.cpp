@@ -45,7 +45,7 @@ int SimRecorder::getRecordingState() const {
 bool SimRecorder::isRecording() const {
     m_host.calls.ask(OPERATION("isRecording"));
     return state() == zeb::RecordRecording ||
-           isAny([](const Camera& camera) { return camera.get(&CameraState::recordState) == zeb::RecordRecording; });
+           isAny([](const Camera& camera) { return camera.recordState() == zeb::RecordRecording; });
 }
 
 int SimRecorder::state() const {

@@ -33,7 +33,7 @@ public:
     int state() const;
     int stateOf(const DocKeyList& keys) const;
     /// Whether a recording that the host has begun is under way, or its end not told yet.
-    bool isRunning() const { return m_owedEnd.has_value() || m_run.isUnderWay(); }
+    bool isRunning() const { return m_owedEnd.has_value() || m_run.isRunning(); }
     /// Whether a connected camera is armed or records, in that recording or by itself.
     bool isUnderWay() const;
     /// A line for each camera that has nothing of the last recording.

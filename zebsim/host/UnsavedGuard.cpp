@@ -1,16 +1,11 @@
 #include "UnsavedGuard.h"
 
+#include "HostMessages.h"
 #include "Preferences.h"
 #include "TextKey.h"
 #include "Translator.h"
 
 #include <QtDebug>
-
-#include <utility>
-
-UnsavedGuard::UnsavedGuard(const CameraBank& cameras, const Preferences& prefs, const Translator& translator,
-                           std::function<bool(const QString&, const QStringList&)> ask)
-    : m_cameras(cameras), m_prefs(prefs), m_translator(translator), m_ask(std::move(ask)) {}
 
 bool UnsavedGuard::isOn() const {
     return m_prefs.value(QStringLiteral("alert/unsavedrecording")).toBool();
@@ -42,7 +37,7 @@ bool UnsavedGuard::mayLose(const QString& question, const char* log,
         return left;
     };
     for (QStringList asked = remaining(); !asked.isEmpty(); asked = remaining()) {
-        if (isOn() && !m_ask(question, asked)) {
+        if (isOn() && !m_messages.agrees(question, asked)) {
             qInfo() << "Unsaved images are kept:" << asked;
             return false;
         }

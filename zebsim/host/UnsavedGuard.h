@@ -6,6 +6,7 @@
 
 #include <functional>
 
+class HostMessages;
 class Preferences;
 class Translator;
 
@@ -13,9 +14,10 @@ class Translator;
 /// refuses, or leaves the box, keeps them. What was given up, or kept, stands in the log. GUI thread.
 class UnsavedGuard {
 public:
-    /// `ask` shows a question with a list and answers whether the user has agreed. All must outlive the guard.
+    /// All must outlive the guard.
     UnsavedGuard(const CameraBank& cameras, const Preferences& prefs, const Translator& translator,
-                 std::function<bool(const QString& question, const QStringList& lines)> ask);
+                 HostMessages& messages)
+        : m_cameras(cameras), m_prefs(prefs), m_translator(translator), m_messages(messages) {}
 
     /// As the preference tells.
     bool isOn() const;
@@ -34,5 +36,5 @@ private:
     const CameraBank& m_cameras;
     const Preferences& m_prefs;
     const Translator& m_translator;
-    const std::function<bool(const QString&, const QStringList&)> m_ask;
+    HostMessages& m_messages;
 };

@@ -47,7 +47,7 @@ public:
     /// are those that take no part.
     void proceed();
 
-    bool isUnderWay() const { return !m_parts.isEmpty(); }
+    bool isRunning() const { return !m_parts.isEmpty(); }
     /// A `zeb::RecordStatus`, of the recording on those of these cameras that take part; live when none does.
     int statusOf(const DocKeyList& keys) const { return m_parts.statusOf(keys); }
     /// A line for each camera that has nothing of the last recording.

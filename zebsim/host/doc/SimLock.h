@@ -12,7 +12,7 @@ public:
     bool isParamLocked() const override { return ask(OPERATION("isParamLocked"), &CameraState::locked); }
     void setParamLock(bool lock) override {
         Camera& camera = change(OPERATION("DOC_Lock::setParamLock"), {lock});
-        const int recordState = camera.get(&CameraState::recordState);
+        const int recordState = camera.recordState();
         if (lock || (recordState != zeb::RecordReady && recordState != zeb::RecordRecording)) {
             camera.set(&CameraState::locked, lock);
         }
