@@ -1,7 +1,6 @@
 #include "PrefsDialog.h"
 
 #include "TraceScope.h"
-#include "TraceText.h"
 #include "ZebCameraOps.h"
 #include "ZebHost.h"
 #include "ZebPrefsDialog.h"

@@ -5,7 +5,6 @@
 #include "LogFailure.h"
 #include "PageEnd.h"
 #include "TraceScope.h"
-#include "TraceText.h"
 #include "WindowPlacement.h"
 #include "ZebHost.h"
 

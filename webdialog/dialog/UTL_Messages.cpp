@@ -7,7 +7,6 @@
 #include "Style.h"
 #include "TextKey.h"
 #include "TraceScope.h"
-#include "TraceText.h"
 #include "WindowPlacement.h"
 #include "ZebHost.h"
 
