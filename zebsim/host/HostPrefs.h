@@ -10,6 +10,7 @@ public:
     HostPrefs(const HostCalls& calls, Preferences& prefs)
         : m_calls(calls), m_prefs(prefs), m_isRestored(!prefs.problem().isEmpty()) {}
 
+    /// As `ZebHost::getPref` and `ZebHost::setPref`, by the operation that the plug-in called.
     QVariant get(HostOperation operation, const QString& key, const QVariant& defaultValue) const {
         m_calls.ask(operation);
         return m_prefs.value(key, defaultValue);
