@@ -105,8 +105,12 @@ module.exports = [
     },
     {
         // Run by Node.
-        files: ['eslint.config.js', 'tests/docs/*.js', 'tests/otherhost/*.js'],
-        languageOptions: { sourceType: 'commonjs', globals: readonly(['require', 'module', 'process', 'console']) },
+        files: ['eslint.config.js', 'tests/docs/*.js', 'tests/otherhost/*.js', 'tests/zebsim/*.js'],
+        languageOptions: {
+            ecmaVersion: 2022,
+            sourceType: 'commonjs',
+            globals: readonly(['require', 'module', 'process', 'console'])
+        },
         rules: { 'max-len': ['error', 120] }
     }
 ];

@@ -24,5 +24,17 @@ zeb.modal(() => zeb.type('10.0.7\n'));
 zeb.click('#wren_ethernet_setting');
 check(zeb.pref('cameraconnection/SearchIP') === '10.0.7', 'the network is stored');
 
+// The viewer's floating lists: of three partitions, a line and the settings, above the control; one list at a time.
+zeb.setCamera(1, {selected: true, partitions: 3});
+const box = (...call) => zeb.page(`wrentabledialog.${call[0]}(${JSON.stringify(call.slice(1)).slice(1, -1)});
+    return wrentabledialog.isShownDropBox()`);
+check(!box('showDropDownBox', 'nothing', 20, 300, 120, 24), 'an unknown list is none');
+box('showDropDownBox', 'partition', 20, 300, 120, 24);
+check(zeb.until('wrentabledialog.isShownDropBox()'), 'the partitions are shown');
+[[20, 300 - 5 * 24], [139, 299]].forEach(at =>
+    check(box('hideDropDownBox', 'partition', ...at), `${at} is on the list`));
+check(box('hideDropDownBox', 'variable'), 'another one is hidden');
+check(!box('hideDropDownBox', 'partition', 20, 299 - 5 * 24), 'this is not');
+
 zeb.mode('file');
 check(status().IsNoneWindow, 'without images there is no window');

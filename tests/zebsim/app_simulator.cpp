@@ -75,6 +75,12 @@ TEST_F(ViewerTest, TheLogIsFollowedUntilSomebodyReadsIt) {
     }
 }
 
+TEST(CommandLine, TakesItsSwitches) {
+    const CommandLine line = CommandLine::parse({"zebsim", "--no-table", "--scripted-visa"});
+    EXPECT_TRUE(!line.openTable && line.scriptedVisa);
+    EXPECT_TRUE(CommandLine::parse({"zebsim"}).openTable);
+}
+
 TEST_F(ViewerTest, ALineOfTheLogIsOneLine) {
     const quint64 mark = simulator.log().count();
     qWarning("a\nb\u001b[1m\u2028c");

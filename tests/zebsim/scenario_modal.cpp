@@ -3,7 +3,6 @@
 #include "ScenarioError.h"
 
 #include <QDialog>
-#include <QJSEngine>
 #include <QVBoxLayout>
 #include <QWebView>
 
@@ -32,20 +31,6 @@ TEST(ModalDialogs, StandOnceTheirPageHasLoaded) {
     EXPECT_EQ(wordsOf(dialog), "loaded");
     EXPECT_EQ(wordsOf(dialog), "loaded") << "and each time they are shown";
     EXPECT_THROW(ScenarioDialogs::pageOfStanding(), ScenarioError) << "none stands now";
-}
-
-TEST(ModalDialogs, TellWhatAFunctionThrew) {
-    ScenarioDialogs dialogs;
-    QJSEngine engine;
-    QString error;
-    QDialog dialog;
-    QObject::connect(&dialogs, &ScenarioDialogs::threw, [&](const QJSValue& value) {
-        error = value.toString();
-        dialog.reject();
-    });
-    dialogs.expect(engine.evaluate("(function () { throw new Error('mine'); })"));
-    dialog.exec();
-    EXPECT_EQ(error, "Error: mine");
 }
 
 }  // namespace

@@ -29,6 +29,12 @@ public:
         }
         return list;
     }
+    /// The texts, which are forgotten then.
+    QStringList take() {
+        const QStringList list = texts();
+        shown.clear();
+        return list;
+    }
 
     QList<Message> shown;
     /// Those of them that were notices.
