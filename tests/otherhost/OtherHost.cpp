@@ -1,13 +1,13 @@
 #include "OtherHost.h"
 
 #include "HostPages.h"
+#include "Until.h"
 
 #include <QApplication>
 #include <QDialog>
 #include <QEventLoop>
 #include <QFileDialog>
 #include <QFutureWatcher>
-#include <QTest>
 #include <QThread>
 #include <QWebFrame>
 
@@ -16,9 +16,6 @@
 namespace {
 
 OtherHost* current = nullptr;
-
-/// A page that takes longer hangs. Milliseconds.
-constexpr int GiveUp = 60000;
 
 }  // namespace
 
@@ -80,13 +77,13 @@ void OtherHost::open() {
 
 void OtherHost::openWhole() {
     open();
-    EXPECT_TRUE(QTest::qWaitFor([this] { return hasPage(); }, GiveUp));
+    EXPECT_TRUE(until([this] { return hasPage(); }));
     update();
 }
 
 void OtherHost::update() {
     updateUI(zeb::UpdateAll, true);
-    EXPECT_TRUE(QTest::qWaitFor([this] { return !m_owed; }, GiveUp));
+    EXPECT_TRUE(until([this] { return !m_owed; }));
 }
 
 QString OtherHost::run(const QString& script) {
@@ -114,16 +111,6 @@ void OtherHost::rest() {
         camera->state = {};
     }
     mode = zeb::LiveMode;
-}
-
-QStringList OtherHost::windows() const {
-    QStringList names;
-    for (const QWidget* widget : QApplication::topLevelWidgets()) {
-        if (widget->isVisible()) {
-            names.append(QLatin1String(widget->metaObject()->className()));
-        }
-    }
-    return names;
 }
 
 void OtherHost::prepareModes() {

@@ -53,8 +53,6 @@ public:
     QStringList rows();
     /// All cameras connected, selected and open, in live mode.
     void rest();
-    /// Windows on the screen, by their class.
-    QStringList windows() const;
 
     std::unique_ptr<PLG_Interface> plugin;
     std::vector<std::unique_ptr<Camera>> cameras;

@@ -1,6 +1,8 @@
 #include "Course.h"
 #include "LiveObjects.h"
 #include "OtherHost.h"
+#include "Until.h"
+#include "VisibleWindows.h"
 
 #include <QApplication>
 #include <QDialog>
@@ -8,7 +10,6 @@
 #include <QRegularExpression>
 #include <QSet>
 #include <QSignalSpy>
-#include <QTest>
 
 #include <gmock/gmock.h>
 
@@ -27,9 +28,8 @@ struct Act {
     std::function<void(OtherHost&)> act;
 };
 
-const Act Loading{
-    "loading", [](OtherHost& host) { host.open(); },
-    [](OtherHost& host) { EXPECT_TRUE(QTest::qWaitFor([&host] { return !host.view || host.hasPage(); })); }};
+const Act Loading{"loading", [](OtherHost& host) { host.open(); },
+                  [](OtherHost& host) { EXPECT_TRUE(until([&host] { return !host.view || host.hasPage(); })); }};
 const Act Opened{"opened", [](OtherHost&) {},
                  [](OtherHost& host) {
                      host.open();
@@ -167,13 +167,13 @@ protected:
             host.show(tab);
             EXPECT_EQ(host.rows(), m_rows[tab]) << tab;
         }
-        EXPECT_EQ(host.windows(), QStringList("GUI_WrenTableDialog"));
+        EXPECT_EQ(visibleWindows(), QStringList("GUI_WrenTableDialog"));
         EXPECT_TRUE(QSignalSpy(host.bridge, SIGNAL(autoUpdate())).wait());
     }
 
     /// The table is away and has taken back what it set.
     void expectOver(OtherHost& host) {
-        EXPECT_EQ(host.windows(), QStringList());
+        EXPECT_EQ(visibleWindows(), QStringList());
         EXPECT_FALSE(host.running);
         EXPECT_FALSE(host.textBoxFocused);
         EXPECT_FALSE(host.prefs[RecAll].toBool());
@@ -315,7 +315,7 @@ TEST_F(OtherHostTest, mayBeDestroyedAtEachOfTheMoments) {
             act.act(*host);
             QCoreApplication::processEvents();
             host->onCall = nullptr;
-            EXPECT_TRUE(left > 0 || host->windows().isEmpty()) << act.name << ", " << count;
+            EXPECT_TRUE(left > 0 || visibleWindows().isEmpty()) << act.name << ", " << count;
         }
     }
     host.reset();
@@ -341,7 +341,7 @@ TEST_F(OtherHostTest, mayBeDestroyedInTheBoxOfItsFailure) {
             };
             act.act(host);
             QCoreApplication::processEvents();
-            EXPECT_TRUE(host.plugin || host.windows().isEmpty()) << act.name << ", " << operation.toStdString();
+            EXPECT_TRUE(host.plugin || visibleWindows().isEmpty()) << act.name << ", " << operation.toStdString();
         }
     }
     EXPECT_GT(destroyed, 50);
@@ -354,7 +354,7 @@ TEST_F(OtherHostTest, mayBeDestroyedWhileItsPageLoads) {
         host.open();
         EXPECT_TRUE(QSignalSpy(host.view, signal).wait()) << signal;
         host.unload();
-        EXPECT_EQ(host.windows(), QStringList()) << signal;
+        EXPECT_EQ(visibleWindows(), QStringList()) << signal;
         EXPECT_FALSE(host.prefs[RecAll].toBool()) << signal;
     }
 }
@@ -395,7 +395,7 @@ const Standing Standings[] = {
          }
          host.openWhole();
          host.run("wrentabledialog.showReadyProgress()");
-         EXPECT_EQ(host.windows().size(), 2);
+         EXPECT_EQ(visibleWindows().size(), 2);
      },
      {"Camera 1: no answer\nCamera 3: no answer"}},
 };

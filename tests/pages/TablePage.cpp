@@ -4,14 +4,13 @@
 #include "KeyInput.h"
 #include "PageScript.h"
 #include "ScenarioError.h"
+#include "Until.h"
 
 #include <QDialog>
-#include <QEventLoop>
 #include <QFile>
 #include <QJsonObject>
 #include <QRegularExpression>
 #include <QTest>
-#include <QTimer>
 #include <QWebFrame>
 #include <QWebView>
 #include <QWindow>
@@ -19,9 +18,6 @@
 #include <iostream>
 
 namespace {
-
-/// A page that takes longer hangs.
-constexpr int GiveUpMs = 60000;
 
 QStringList* expectedErrors = nullptr;
 
@@ -92,26 +88,16 @@ void TablePage::expectErrors(QStringList* lines) {
 }
 
 bool TablePage::until(const QString& script) {
-    return QTest::qWaitFor([&] { return run(script).toBool(); }, GiveUpMs);
+    return ::until([&] { return run(script).toBool(); });
 }
 
 void TablePage::settle() {
-    const auto done = [this] { return !m_test.host.updates().isPending(); };
-    QEventLoop loop;
-    const auto quitWhenDone = [&] {
-        if (done()) {
-            loop.exit();
-        }
-    };
-    QObject::connect(&m_test.host.events(), &HostEvents::updateFinished, &loop, quitWhenDone, Qt::QueuedConnection);
-    QTimer patience;
-    QObject::connect(&patience, &QTimer::timeout, &loop, [&loop] { loop.exit(1); });
-    patience.start(GiveUpMs);
-    // A host that holds its updates back tells of no end.
-    QTimer others;
-    QObject::connect(&others, &QTimer::timeout, &loop, quitWhenDone);
-    others.start(10);
-    EXPECT_TRUE(done() || loop.exec() == 0) << "no end of the updates";
+    EXPECT_TRUE(::until([this] { return !m_test.host.updates().isPending(); })) << "no end of the updates";
+}
+
+void TablePage::enter(zeb::OperatingMode mode) {
+    m_test.host.appStatus().enterMode(mode);
+    settle();
 }
 
 void TablePage::update() {
@@ -224,14 +210,6 @@ QWindow& TablePage::handle() {
 
 QWebView& TablePage::view() {
     return *window().findChild<QWebView*>();
-}
-
-void PrintTo(const QString& text, std::ostream* out) {
-    *out << '"' << text.toStdString() << '"';
-}
-
-void PrintTo(const QStringList& list, std::ostream* out) {
-    *out << "\n" << list.join(QLatin1Char('\n')).toStdString() << "\n";
 }
 
 QStringList commands(TestHost& test, TablePage& page, const std::function<void()>& work) {

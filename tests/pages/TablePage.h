@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Course.h"
 #include "PageInput.h"
 #include "PluginLoader.h"
 #include "PluginSlot.h"
@@ -11,7 +12,7 @@
 #include <gtest/gtest.h>
 
 #include <functional>
-#include <ostream>
+#include <utility>
 
 class QDialog;
 class QWebView;
@@ -45,6 +46,8 @@ public:
     bool until(const QString& script);
     /// Waits for the update that was asked for.
     void settle();
+    /// Lets the host go into a mode, and the page follow.
+    void enter(zeb::OperatingMode mode);
     /// An update cycle of the host.
     void update();
     /// A click by the mouse and the update that it asks for.
@@ -86,6 +89,9 @@ private:
     PluginSlot m_slot;
 };
 
+/// What comes between, in a table of cases.
+using Happening = std::pair<const char*, std::function<void()>>;
+
 /// Selects these cameras and no others, behind the table's back.
 void choose(TestHost& test, const QStringList& keys);
 /// The keys of the cameras that have a property.
@@ -97,7 +103,3 @@ void connectCameras(TestHost& test, DOCKEY first, DOCKEY last);
 
 /// The commands to cameras that `work` and the update after it bring about, as "setRecordRate [[1,3],2000]".
 QStringList commands(TestHost& test, TablePage& page, const std::function<void()>& work);
-
-/// A failure shows texts as they read.
-void PrintTo(const QString& text, std::ostream* out);
-void PrintTo(const QStringList& list, std::ostream* out);

@@ -5,9 +5,12 @@
 
 #include <ostream>
 
-/// How a failed comparison shows a text.
+/// How a failed comparison shows texts.
 inline void PrintTo(const QString& text, std::ostream* out) {
-    *out << text.toStdString();
+    *out << '"' << text.toStdString() << '"';
+}
+inline void PrintTo(const QStringList& list, std::ostream* out) {
+    *out << '\n' << list.join(QLatin1Char('\n')).toStdString() << '\n';
 }
 
 /// The course of a test: lines of the log and what is noted, in one order. While a course lives it takes the log.

@@ -43,19 +43,16 @@ TEST_F(CameraManagementTest, asksBeforeDisconnectingByWhatGoesWithIt) {
     for (const auto& [keys, question] : cases) {
         desk.answers = {{false, false}};
         EXPECT_FALSE(cameras.confirmDisconnect(keys));
-        EXPECT_EQ(desk.texts(), QStringList{question});
-        desk.shown.clear();
+        EXPECT_EQ(desk.take(), QStringList{question});
     }
     EXPECT_TRUE(cameras.confirmDisconnect({1}));
 
     change(4, {{"locked", true}});
     cameras.confirmDisconnect({4});
-    EXPECT_EQ(desk.texts().last(), cases[4].second) << "a locked head counts too";
-    desk.shown.clear();
+    EXPECT_EQ(desk.take().last(), cases[4].second) << "a locked head counts too";
     host.faults().plant(1, "isParamLocked", {"no answer", 0, false});
     EXPECT_TRUE(cameras.confirmDisconnect({1, 5}));
-    EXPECT_EQ(desk.texts(), QStringList{cases[0].second}) << "of those that tell";
-    desk.shown.clear();
+    EXPECT_EQ(desk.take(), QStringList{cases[0].second}) << "of those that tell";
     host.appStatus().enterMemoryMode();
     EXPECT_FALSE(cameras.confirmDisconnect({5}));
     EXPECT_EQ(desk.texts(), QStringList());

@@ -3,6 +3,7 @@
 #include "RigFile.h"
 #include "SlotCall.h"
 #include "TableFixture.h"
+#include "VisibleWindows.h"
 #include "support/FaultChoice.h"
 
 #include <QApplication>
@@ -19,6 +20,7 @@
 #include <memory>
 #include <optional>
 #include <random>
+#include <utility>
 
 // Everything that a page or the host calls, with a fault at one question or command of all that it asks.
 
@@ -131,20 +133,7 @@ public:
     /// What the user was told of the fault, boxes and notices alike.
     QStringList told() {
         QCoreApplication::sendPostedEvents();
-        const QStringList texts = desk.texts() + m_warnings;
-        desk.shown.clear();
-        m_warnings.clear();
-        return texts.filter(NoAnswer);
-    }
-
-    static QStringList standingWindows() {
-        QStringList names;
-        for (QWidget* window : QApplication::topLevelWidgets()) {
-            if (window->isVisible()) {
-                names.append(window->metaObject()->className());
-            }
-        }
-        return names;
+        return (desk.take() + std::exchange(m_warnings, {})).filter(NoAnswer);
     }
 
 private:
@@ -273,7 +262,7 @@ int tryFaults(const Action& action) {
         EXPECT_FALSE(world.bridge->isInCall());
         EXPECT_FALSE(world.host.liveLoop().isLivePaused());
         EXPECT_FALSE(world.host.updates().isDeterred());
-        EXPECT_EQ(FaultyWorld::standingWindows(), QStringList());
+        EXPECT_EQ(visibleWindows(), QStringList());
         expectWholeCycle(world);
     }
     return numbers.size();

@@ -1,6 +1,6 @@
-#include "GUI_ProgressDialog.h"
 #include "Rig.h"
 #include "TableFixture.h"
+#include "VisibleWindows.h"
 
 #include <QApplication>
 #include <QMessageBox>
@@ -312,13 +312,7 @@ TEST_F(RecordingTest, liveControlsGoToTheHost) {
 }
 
 TEST_F(RecordingTest, oneReadyDialogStandsAndNoneWhileSettingsAreLoaded) {
-    const auto dialogs = [] {
-        int count = 0;
-        for (QWidget* window : QApplication::topLevelWidgets()) {
-            count += qobject_cast<GUI_ProgressDialog*>(window) != nullptr && window->isVisible();
-        }
-        return count;
-    };
+    const auto dialogs = [] { return visibleWindows().count("GUI_ProgressDialog"); };
     bridge->showReadyProgress();
     EXPECT_EQ(dialogs(), 0) << "the table does not run";
     host.appStatus().setWrenRunning(true);
