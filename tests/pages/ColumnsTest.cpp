@@ -96,13 +96,4 @@ TEST(PageColumns, AreDraggedToAnotherPlace) {
     EXPECT_EQ(commands(test, page, [&] { page.pick("2", "trigger", "1"); }).size(), 1) << "its control works";
 }
 
-TEST(PageColumns, ATabThatIsHiddenIsLeft) {
-    TestHost test(standardRig(1));
-    TablePage page(test, 2);
-    test.host.prefs().setValue("wren/display/syncTab", false);
-    page.run("wrentabledialog_obj.refreshAllControls()");
-    EXPECT_EQ(page.number("$('#tabs').tabs('option', 'active')"), 0);
-    EXPECT_FALSE(page.run("$('a[href=\"#syncTab\"]').is(':visible')").toBool());
-}
-
 }  // namespace

@@ -1,6 +1,6 @@
 #include "TablePage.h"
+#include "VisibleWindows.h"
 
-#include <QApplication>
 #include <QRegularExpression>
 
 #include <algorithm>
@@ -133,13 +133,6 @@ QStringList expected(const QList<State>& states) {
     return {together(disabled), together(hidden), off, QString("%1 %1").arg(colour)};
 }
 
-int progressDialogs() {
-    const QWidgetList windows = QApplication::topLevelWidgets();
-    return int(std::count_if(windows.begin(), windows.end(), [](const QWidget* window) {
-        return window->isVisible() && window->inherits("QProgressDialog");
-    }));
-}
-
 /// A page on which all can be used but "Cancel" and "OFF": nothing records, and no camera is in low light mode.
 class PageControls : public testing::Test {
 protected:
@@ -166,10 +159,10 @@ TEST_F(PageControls, FollowEachState) {
     EXPECT_EQ(described(), expected({Live}));
     for (const State& state : States) {
         EXPECT_EQ(with(state.name, true), expected({Live, state})) << state.name;
-        EXPECT_EQ(progressDialogs(), QString(state.name) == "IsReady" ? 1 : 0) << state.name;
+        EXPECT_EQ(visibleWindows().count("GUI_ProgressDialog"), QString(state.name) == "IsReady" ? 1 : 0) << state.name;
         EXPECT_EQ(with(state.name, false), expected({Live})) << state.name << " is over";
     }
-    EXPECT_EQ(progressDialogs(), 0);
+    EXPECT_EQ(visibleWindows().count("GUI_ProgressDialog"), 0);
 
     test.host.prefs().setValue("recording/useTriggerTest", false);
     EXPECT_EQ(described(), expected({Live, {"", "", "#trigger_test"}}));
@@ -186,6 +179,10 @@ TEST_F(PageControls, FollowStatesThatMeet) {
              {zeb::LiveMode, {"IsReady", "IsRecording"}},
              {zeb::LiveMode, {"IsReady", "IsTracking"}},
              {zeb::LiveMode, {"IsReady", "ExistLowlight"}, "snapshot"},
+             {zeb::LiveMode, {"ExistLowlight", "IsNoneWindow"}},
+             {zeb::LiveMode, {"ExistLowlight", "IsLensCalibration"}},
+             {zeb::LiveMode, {"ExistLowlight", "IsAdjustingImage"}},
+             {zeb::LiveMode, {"ExistLowlight", "IsConflictPartition"}},
              {zeb::LiveMode, {"IsRecording", "IsDirectSaving"}},
              {zeb::LiveMode, {"IsRecording", "IsOtherPluginOpen"}},
              {zeb::LiveMode, {"IsRecording", "IsConflictPartition"}},
@@ -206,11 +203,11 @@ TEST_F(PageControls, FollowStatesThatMeet) {
              {zeb::FileMode, {"IsOtherPluginOpen"}},
              {zeb::FileMode, {"IsBgSaving"}},
              {zeb::FileMode, {"IsTracking"}},
+             {zeb::LiveMode, {}},
          }) {
         const QString what = QString::number(meeting.mode) + ' ' + meeting.states.join(" and ");
         const State& mode = meeting.mode == zeb::LiveMode ? Live : meeting.mode == zeb::MemoryMode ? Memory : File;
-        test.host.appStatus().enterMode(meeting.mode);
-        page->settle();
+        page->enter(meeting.mode);
         QList<State> states = {mode};
         for (const QString& name : meeting.states) {
             states << named(name);
@@ -280,16 +277,7 @@ TEST_F(PageControls, AreRightAgainAfterTheNextCycle) {
     }
 }
 
-TEST_F(PageControls, OverrideEachOther) {
-    with("ExistLowlight", true);
-    EXPECT_TRUE(with("IsNoneWindow", true)[0].contains("snapshot")) << "there is no view to take one of";
-    EXPECT_FALSE(with("IsNoneWindow", false)[0].contains("snapshot"));
-    for (const char* later : {"IsLensCalibration", "IsAdjustingImage", "IsConflictPartition"}) {
-        EXPECT_TRUE(with(later, true)[0].contains("snapshot")) << later << " stands further down";
-        EXPECT_FALSE(with(later, false)[0].contains("snapshot"));
-    }
-    with("ExistLowlight", false);
-
+TEST_F(PageControls, OfLowLightFollowTheCameras) {
     test.camera(2).change({{"lowLight", true}});
     EXPECT_EQ(described()[0], together({"partition record cancel test save defaults execute links"}))
         << "either button of the low light has something to do";

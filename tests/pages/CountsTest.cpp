@@ -101,8 +101,7 @@ TEST(PageCounts, ATickWithNothingChangedWritesNothing) {
     }
     test.host.prefs().setValue("env/style", "dark");
     quiet("dark");
-    test.host.appStatus().enterMode(zeb::MemoryMode);
-    page.settle();
+    page.enter(zeb::MemoryMode);
     test.camera(1).change({{"recorded", true}, {"recordCheck", true}});
     test.camera(3).change({{"recorded", true}, {"selectedRange", QVariantList{10, 90}}});
     for (const int tab : {6, 5}) {

@@ -92,7 +92,6 @@ struct Refusal {
     int tab;
     std::function<void(TablePage& page)> act;
     const char* shown;
-    QString answer;
 };
 
 TEST(PageEditing, ARefusedChangeShowsWhatTheCameraAnswers) {
@@ -105,33 +104,31 @@ TEST(PageEditing, ARefusedChangeShowsWhatTheCameraAnswers) {
         "$('p.wren_livecontrol_shutterSpeed[dockey=2]').text()";
     for (const Refusal& c : QList<Refusal>{
              {"setRecordRate", false, 1, picked("framerate", "2000"),
-              "$('p.wren_livecontrol_framerate[dockey=1]').text()", "1000 fps"},
+              "$('p.wren_livecontrol_framerate[dockey=1]').text()"},
              {"setShutterSpeed", true, 1, picked("shutterSpeed", "500"),
-              "$('p.wren_livecontrol_shutterSpeed[dockey=1]').text()", "1/1000 sec"},
-             {"setResolution", false, 1, picked("resolution", "512 x 256"), "$('#wren_livecontrol_resolution_1').val()",
-              "1024 x 1024"},
-             {"setTriggerMode", false, 1, picked("trigger", "2"), "$('#wren_livecontrol_trigger_1').val()", "0"},
+              "$('p.wren_livecontrol_shutterSpeed[dockey=1]').text()"},
+             {"setResolution", false, 1, picked("resolution", "512 x 256"),
+              "$('#wren_livecontrol_resolution_1').val()"},
+             {"setTriggerMode", false, 1, picked("trigger", "2"), "$('#wren_livecontrol_trigger_1').val()"},
              {"setReduceMode", false, 1, clicked("#wren_button_reduce_off_1"),
-              "$('.wren_button_reduce[dockey=1]:visible').get().map(one => one.id).join()", "wren_button_reduce_off_1"},
+              "$('.wren_button_reduce[dockey=1]:visible').get().map(one => one.id).join()"},
              {"setLowLight", false, 1, clicked("#wren_button_lowlight_on_1"),
-              "$('.wren_button_lowlight[dockey=1]:visible').get().map(one => one.id).join()",
-              "wren_button_lowlight_on_1"},
+              "$('.wren_button_lowlight[dockey=1]:visible').get().map(one => one.id).join()"},
              {"setShutterSpeed", false, 1,
               [](TablePage& page) {
                   page.press("#wren_slider_lowlight_2 .ui-slider-handle");
                   page.move("#wren_slider_lowlight_2", 0.95);
                   page.releaseOutside();
               },
-              low, "101/1000 sec"},
+              low},
              {"setParamLock", false, 0, clicked("#wren_cameraInfo_button_lockStatus_unlock_1"),
-              "$('#wren-cameraInfo-list [class*=wren_button_lockStatus][dockey=1]:visible')[0].id",
-              "wren_cameraInfo_button_lockStatus_unlock_1"},
+              "$('#wren-cameraInfo-list [class*=wren_button_lockStatus][dockey=1]:visible')[0].id"},
              {"disconnectDocs", false, 0,
               [](TablePage& page) {
                   page.click("#wren_button_connection_connect_1");
                   EXPECT_TRUE(page.until("$('.w2ui-lock:visible').length === 0"));
               },
-              "$('[id^=wren_button_connection_][dockey=1]:visible')[0].id", "wren_button_connection_connect_1"},
+              "$('[id^=wren_button_connection_][dockey=1]:visible')[0].id"},
          }) {
         SCOPED_TRACE(std::string(c.operation) + (c.clamped ? ", clamped" : ""));
         TestHost test(connected(2));
@@ -143,16 +140,15 @@ TEST(PageEditing, ARefusedChangeShowsWhatTheCameraAnswers) {
                 test.host.faults().plant(key, c.operation, Fault{"no"});
             }
         }
-        EXPECT_EQ(page.text(c.shown), c.answer);
+        const QString answer = page.text(c.shown);
         // The update after the change does not reach the page, so that the tick is what mends the cell.
         page.run("wrentabledialog_obj.update = () => undefined; return 0");
         c.act(page);
-        EXPECT_NE(page.text(c.shown), c.answer) << "the user's wish stands for a moment";
+        EXPECT_NE(page.text(c.shown), answer) << "the user's wish stands for a moment";
         page.tick();
-        EXPECT_EQ(page.text(c.shown), c.answer);
+        EXPECT_EQ(page.text(c.shown), answer);
         EXPECT_EQ(page.tick(), QStringList());
-        EXPECT_EQ(test.desk.texts().filter(": no").size(), c.clamped ? 0 : 1) << "who is told of the refusal";
-        test.desk.shown.clear();
+        EXPECT_EQ(test.desk.take().filter(": no").size(), c.clamped ? 0 : 1) << "who is told of the refusal";
         test.host.faults().clear();  // the table's end unlocks too
     }
 }

@@ -1,13 +1,5 @@
 #include "Operation.h"
 #include "TablePage.h"
-#include "support/FaultChoice.h"
-
-#include <QApplication>
-#include <QMessageBox>
-#include <QPushButton>
-#include <QTimer>
-
-#include <climits>
 
 // What the table shows of a camera that does not answer, and of all others meanwhile.
 
@@ -64,9 +56,7 @@ protected:
     void takeAway(DOCKEY key, const QString& operation) { test.host.faults().plant(key, operation, {}); }
     QStringList told() {
         page->settle();
-        const QStringList texts = test.desk.texts();
-        test.desk.shown.clear();
-        return texts;
+        return test.desk.take();
     }
 
     TestHost test{readRig(QStringLiteral("eight-mixed"))};
@@ -104,23 +94,6 @@ TEST_F(PageFailures, AGetterThatFailsEmptiesItsCellsAndNoOtherRow) {
     EXPECT_GT(shown, 80);
 }
 
-TEST_F(PageFailures, TheOtherRowsFollowAndKeepTheirOpenLists) {
-    open(1);
-    page->click(".SumoSelect[dockey=\"2\"] p.wren_livecontrol_resolution");
-    plant(3, "getRecordRate");
-    test.camera(4).set(&CameraState::locked, true);
-    page->tick();
-    EXPECT_EQ(page->text("$('#wren_livecontrol_alert_3').attr('alerts')"), "Nozzle left: no answer");
-    EXPECT_EQ(page->number("$('#wren_livecontrol_framerate_3').length"), 0);
-    EXPECT_EQ(page->number("$('#wren_livecontrol_button_lockStatus_lock_4:visible').length"), 1);
-    takeAway(3, "getRecordRate");
-    page->tick();
-    EXPECT_EQ(page->text("$('#wren_livecontrol_framerate_3').val()"),
-              QString::number(test.camera(3).get(&CameraState::rate)));
-    EXPECT_EQ(page->number("$('.wren-dropdown .options li').length > 0 ? 1 : 0"), 1) << "the list of camera 2";
-    EXPECT_EQ(told(), QStringList{"Nozzle left: no answer"});
-}
-
 TEST_F(PageFailures, ARowBuiltAnewAtATickKeepsItsPlace) {
     test.host.prefs().setValue("wren/table/filter", 1);
     open(0);
@@ -131,20 +104,6 @@ TEST_F(PageFailures, ARowBuiltAnewAtATickKeepsItsPlace) {
     page->click("[dockey=\"5\"].wren_label_edit_camera_name");
     EXPECT_EQ(camerasWith(test, &CameraState::selected), QStringList("5"));
     EXPECT_EQ(told(), QStringList{"Roof: no answer"});
-}
-
-TEST_F(PageFailures, TheBatchRowShowsWhatIsReadOfItsCamera) {
-    open(1);
-    choose(test, {"7"});
-    page->update();
-    const auto rateOf = [this](const QString& key) {
-        return page->text(QString("$('p.wren_livecontrol_framerate[dockey=\"%1\"]').text()").arg(key));
-    };
-    EXPECT_EQ(rateOf("-1"), rateOf("8"));
-    plant(8, "getRecordRate");
-    page->tick();
-    EXPECT_EQ(rateOf("-1"), "10000 fps") << "the selected one's";
-    EXPECT_EQ(told(), QStringList{"Stand-in: no answer"});
 }
 
 TEST_F(PageFailures, ARefreshThatGotNoListIsMadeUpFor) {
@@ -170,55 +129,6 @@ TEST_F(PageFailures, WhatTheUserAsksForIsToldAlthoughTheTicksHaveToldIt) {
     page->run("wrentabledialog.record(); return 0");
     page->run("wrentabledialog.record(); return 0");
     EXPECT_EQ(told().size(), 2);
-}
-
-TEST_F(PageFailures, APressThatMeetsAFaultIsToldAndLeavesTheTableWhole) {
-    test.host.prefs().setValue("wren/display/lock", false);
-    open(0);
-    QStringList warnings;
-    QTimer user;  // takes every warning
-    QObject::connect(&user, &QTimer::timeout, [&warnings] {
-        if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
-            warnings << box->text();
-            box->button(QMessageBox::Ok)->click();
-        }
-    });
-    user.start(0);
-    for (const auto& [tab, button] :
-         {std::make_pair(0, "#timeline_rec_exec"), std::make_pair(5, "button.save-files")}) {
-        page->show(tab);
-        page->update();
-        const auto press = [&, button = button] {
-            page->click(button);
-            page->run("wrentabledialog.cancelRecord(); return 0");
-            page->update();
-        };
-        press();  // clears the record checks
-        page->run("probe.before = probe.shapes(); return 0");
-        test.host.faults().plantAt(INT_MAX, {});
-        press();
-        const QVector<FaultPlan::Call> calls = test.host.faults().calls();
-        EXPECT_GT(calls.size(), 100);
-        for (const int n : callsToFail(calls, 8)) {
-            SCOPED_TRACE(testing::Message()
-                         << button << ", call " << n << ", " << calls[n - 1].operation.toStdString());
-            warnings.clear();
-            told();
-            test.host.faults().plantAt(n, Fault{"no answer"});
-            press();
-            test.host.faults().clear();
-            // A cancel that failed has left them as they were.
-            for (Camera* camera : test.host.cameras().all()) {
-                camera->enterRecordState(zeb::RecordLive);
-            }
-            test.host.recorder().proceed();
-            page->update();
-            page->tick();
-            EXPECT_LE((told() + warnings).filter("no answer").size(), 1);
-            EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
-            EXPECT_EQ(page->list(Changed), QStringList());
-        }
-    }
 }
 
 TEST_F(PageFailures, AnExceptionInWhatTheBackEndRaisesEndsInTheLog) {

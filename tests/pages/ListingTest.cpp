@@ -79,7 +79,7 @@ TEST(PageListing, FollowsTheFilterAndSelectsWhatIsConnected) {
     EXPECT_EQ(test.host.prefs().value("wren/table/filter").toInt(), 0);
 }
 
-TEST(PageListing, KeepsTheFilterThroughFileMode) {
+TEST(PageListing, KeepsTheFilterThroughFileModeAndIsFilledByAFullUpdate) {
     TestHost test(standardRig(4));
     connectCameras(test, 2, 3);
     test.host.prefs().setValue("wren/table/filter", 1);
@@ -88,6 +88,8 @@ TEST(PageListing, KeepsTheFilterThroughFileMode) {
     EXPECT_TRUE(page.until("$('.w2ui-lock:visible').length > 0"));
     EXPECT_TRUE(page.run("$('#tabs').tabs('option', 'disabled')").toBool());
     test.host.appStatus().enterMode(zeb::LiveMode);
+    page.tick();
+    EXPECT_EQ(page.list(Listed), QStringList()) << "a tick fills nothing";
     page.settle();
     EXPECT_TRUE(page.until("$('.w2ui-lock:visible').length === 0"));
     EXPECT_EQ(page.list(Listed), QStringList({"2", "3"}));

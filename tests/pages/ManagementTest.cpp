@@ -18,11 +18,6 @@ protected:
         page.type(QLatin1String(text));
     }
     int rows() { return page.number("probe.grid().records.length"); }
-    QStringList boxes() {
-        const QStringList texts = test.desk.texts();
-        test.desk.shown.clear();
-        return texts;
-    }
 
     TestHost test{readRig("eight-mixed")};
     TablePage page{test};
@@ -49,15 +44,15 @@ TEST_F(PageManagement, FindsCamerasWhileTheTableIsOpen) {
     page.show(0);
     fill(2, "\b\t");
     EXPECT_EQ(commands(test, page, [&] { page.click("#livecontrol_search"); }), QStringList());
-    EXPECT_EQ(boxes(), QStringList("Enter three numbers from 0 to 255 for the address."));
+    EXPECT_EQ(test.desk.take(), QStringList("Enter three numbers from 0 to 255 for the address."));
     fill(2, "168");
     EXPECT_EQ(commands(test, page, [&] { page.click("#livecontrol_search"); }),
               QStringList("searchCamera [\"192.168.7.0\"]"));
-    EXPECT_EQ(boxes(), QStringList("Search in 192.168.7.xxx: found Hall left, Hall right."));
+    EXPECT_EQ(test.desk.take(), QStringList("Search in 192.168.7.xxx: found Hall left, Hall right."));
     EXPECT_EQ(rows(), before + 2);
     EXPECT_EQ(page.text("probe.drawn().map(row => row.textContent).join()").contains("Hall right"), true);
     EXPECT_EQ(commands(test, page, [&] { page.click("#livecontrol_discovery"); }), QStringList("discoverCameras []"));
-    EXPECT_EQ(boxes(), QStringList("Search in the whole network: found Spare."));
+    EXPECT_EQ(test.desk.take(), QStringList("Search in the whole network: found Spare."));
     EXPECT_EQ(rows(), before + 3);
     EXPECT_EQ(commands(test, page, [&] { page.click("#livecontrol_update"); }), QStringList("updateCameras []"));
     EXPECT_EQ(rows(), before + 3);
@@ -67,10 +62,10 @@ TEST_F(PageManagement, DeletesAllWhenTheUserAgrees) {
     const int before = rows();
     test.desk.answers = {{false, false}};
     page.click("#livecontrol_deleteall");
-    EXPECT_EQ(boxes(), QStringList("Delete all cameras?"));
+    EXPECT_EQ(test.desk.take(), QStringList("Delete all cameras?"));
     EXPECT_EQ(rows(), before);
     page.click("#livecontrol_deleteall");
-    EXPECT_EQ(boxes(), QStringList("Delete all cameras?"));
+    EXPECT_EQ(test.desk.take(), QStringList("Delete all cameras?"));
     EXPECT_EQ(rows(), 0);
     EXPECT_FALSE(page.run("$('[id^=wren_button_connection_]').is(':visible')").toBool()) << "nothing to connect";
 }

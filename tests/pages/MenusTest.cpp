@@ -1,6 +1,7 @@
 #include "TablePage.h"
 
 #include <QDialog>
+#include <QRegularExpression>
 
 namespace {
 
@@ -101,8 +102,7 @@ TEST(PageMenus, GoWithTheirButton) {
                                      {zeb::MemoryMode, "btn-save", state("IsAdjustingImage")},
                                      {zeb::MemoryMode, "btn-save", enters(zeb::LiveMode, zeb::MemoryMode)},
                                      {zeb::MemoryMode, "btn-save", enters(zeb::FileMode, zeb::MemoryMode)}}) {
-        test.host.appStatus().enterMode(c.mode);
-        page.settle();
+        page.enter(c.mode);
         page.click(QString("#%1 .miscfuncs button").arg(c.menu));
         EXPECT_EQ(page.text(Open).section(' ', 0, 1), QString("%1 1").arg(c.menu));
         for (const bool on : {true, false}) {
@@ -112,8 +112,7 @@ TEST(PageMenus, GoWithTheirButton) {
         }
     }
 
-    test.host.appStatus().enterMode(zeb::LiveMode);
-    page.settle();
+    page.enter(zeb::LiveMode);
     page.click("#btn-snapshot .miscfuncs button");
     // In the moment before the page's next look.
     page.run("zeb4func.disable('#btn-snapshot button', true); return 0");
@@ -145,25 +144,31 @@ TEST(PagePanels, HandOnWhatIsPressed) {
     TestHost test(connected(2));
     choose(test, {"1"});
     TablePage page(test);
-    const auto made = [&page](const std::function<void()>& work) {
-        return page.made("^(record|cancelRecord|snapShot|stopLive|updateLive|setTriggerTesting)$", work);
-    };
+    const auto made = [&page](const std::function<void()>& work) { return page.made("^(record|cancelRecord)$", work); };
     const auto clicked = [&](const QString& target) { return made([&] { page.click(target); }); };
-    EXPECT_EQ(clicked("#btn-snapshot > button"), QStringList("snapShot 1"));
+    const auto asked = [&](const QString& target) {
+        test.calls();
+        page.click(target);
+        return test.calls().filter(QRegularExpression("snapShot|LiveLoop|Testing"));
+    };
+    EXPECT_EQ(asked("#btn-snapshot > button"), QStringList("ZebSaver::snapShot [1]"));
     const QStringList entries = {"file", "clip", "both", "setting"};
     for (const QString& entry : entries) {
         page.click("#btn-snapshot .miscfuncs button");
-        EXPECT_EQ(clicked("#btn-snapshot a.snapshot-" + entry),
-                  QStringList(QString("snapShot %1").arg(entries.indexOf(entry) + 1)));
+        EXPECT_EQ(asked("#btn-snapshot a.snapshot-" + entry),
+                  QStringList(QString("ZebSaver::snapShot [%1]").arg(entries.indexOf(entry) + 1)));
     }
-    EXPECT_EQ(clicked("#timeline_updateLiveButton"), QStringList()) << "the image moves by itself";
-    EXPECT_EQ(clicked("#timeline_stopLiveCheckbox"), QStringList("stopLive true"));
-    EXPECT_TRUE(test.camera(1).get(&CameraState::stopLive));
-    EXPECT_EQ(clicked("#timeline_updateLiveButton"), QStringList("updateLive"));
-    EXPECT_EQ(clicked("#timeline_stopLiveCheckbox"), QStringList("stopLive false"));
-    EXPECT_EQ(clicked("#timeline_trigger_test"), QStringList("setTriggerTesting true"));
+    const auto stopsLive = [](const char* arguments) {
+        return QStringList({"ZebLiveLoop::pauseLive [0]", QString("ZebLiveLoop::setStopLive [%1]").arg(arguments),
+                            "ZebLiveLoop::resumeLive []"});
+    };
+    EXPECT_EQ(asked("#timeline_updateLiveButton"), QStringList()) << "the image moves by itself";
+    EXPECT_EQ(asked("#timeline_stopLiveCheckbox"), stopsLive("true,1"));
+    EXPECT_EQ(asked("#timeline_updateLiveButton"), QStringList("ZebLiveLoop::updateLive []"));
+    EXPECT_EQ(asked("#timeline_stopLiveCheckbox"), stopsLive("false,1"));
+    EXPECT_EQ(asked("#timeline_trigger_test"), QStringList("ZebHost::setTriggerTesting [true]"));
     EXPECT_EQ(page.text("$('label[for=timeline_trigger_test]').text()"), "Trigger test ON");
-    EXPECT_EQ(clicked("#timeline_trigger_test"), QStringList("setTriggerTesting false"));
+    EXPECT_EQ(asked("#timeline_trigger_test"), QStringList("ZebHost::setTriggerTesting [false]"));
 
     EXPECT_EQ(clicked("#timeline_rec_cancel"), QStringList()) << "there is nothing to cancel";
     for (const char* state : {"IsReady", "IsRecording"}) {

@@ -57,6 +57,13 @@ protected:
     }
     /// Presses the mouse on the upper or lower arrow of a box that may be plain.
     void pressArrow(const QString& number, bool up) { page.pressAt(number, 0.93, up ? 0.25 : 0.75); }
+    /// The calls that a click on an arrow makes.
+    QStringList stepped(const QString& number, bool up) {
+        return sent([&] {
+            pressArrow(number, up);
+            page.release();
+        });
+    }
     /// Replaces what stands in a box.
     void type(const QString& number, const QString& text) {
         page.click(number);
@@ -108,18 +115,10 @@ TEST_F(PageNumbers, GoOutWhenTheyAreStepped) {
     EXPECT_EQ(shown(start), "-409");
 
     const QString offset = box(Offset, "2");
-    EXPECT_EQ(sent([&] {
-                  pressArrow(offset, true);
-                  page.release();
-              }),
-              QStringList("setTriggerOffset 2 1"))
+    EXPECT_EQ(stepped(offset, true), QStringList("setTriggerOffset 2 1"))
         << "the first press on a plain box is one on its arrow already";
     EXPECT_EQ(test.camera(2).get(&CameraState::triggerOffset), 1);
-    EXPECT_EQ(sent([&] {
-                  pressArrow(offset, false);
-                  page.release();
-              }),
-              QStringList("setTriggerOffset 2 0"));
+    EXPECT_EQ(stepped(offset, false), QStringList("setTriggerOffset 2 0"));
     EXPECT_FALSE(test.camera(2).get(&CameraState::triggerOffsetEnabled));
     EXPECT_EQ(sent([&] { page.key(Qt::Key_Down); }), QStringList()) << "at its limit";
     page.click(box(Offset, "1"));
@@ -187,10 +186,6 @@ TEST_F(PageNumbers, GoOutWhenTheirTextIsFinished) {
 
 /// What was entered goes out, and nothing else does.
 TEST_F(PageNumbers, KeepWhatIsBeingTyped) {
-    struct Case {
-        const char* what;
-        std::function<void()> happens;
-    };
     const char* inReverse = R"(
         const fetch = wrentabledialog_obj.fetchRecords;
         wrentabledialog_obj.fetchRecords = function (tab) {
@@ -204,7 +199,7 @@ TEST_F(PageNumbers, KeepWhatIsBeingTyped) {
     const auto comeBack = [&] {
         page.run("const at = document.querySelector('" + end + "'); at.focus(), at.setSelectionRange(2, 2); return 0");
     };
-    for (const Case& c : QList<Case>{
+    for (const auto& [what, happens] : QList<Happening>{
              {"a tick", [&] { page.tick(); }},
              {"an update", [&] { page.update(); }},
              {"another order of the cameras", [&] { page.run(inReverse); }},
@@ -233,11 +228,11 @@ TEST_F(PageNumbers, KeepWhatIsBeingTyped) {
                   comeBack();
               }},
          }) {
-        SCOPED_TRACE(c.what);
-        EXPECT_EQ(sent([&] {
+        SCOPED_TRACE(what);
+        EXPECT_EQ(sent([&, happens = happens] {
                       type(end, "-10");
                       page.key(Qt::Key_Left);
-                      c.happens();
+                      happens();
                   }),
                   QStringList());
         EXPECT_EQ(shown(end) + ' ' + mark(end), "-10 wren-typed");
@@ -268,7 +263,7 @@ TEST_F(PageNumbers, GoOutWhenTheKeyboardIsTakenFromThePageOrWhenTheyMay) {
         EXPECT_EQ(kept(1), "200 to 490");
     };
     page.run("wrentabledialog.confirm('Sure?')");
-    test.desk.shown.clear();
+    EXPECT_EQ(test.desk.take(), QStringList("Sure?"));
     page.tick();
     EXPECT_EQ(kept(1), "200 to 510");
     page.settle();
@@ -294,8 +289,7 @@ TEST_F(PageNumbers, ShowWhatTheCameraAnswers) {
     // The update after the change does not reach the page, so that the tick is what mends the box.
     page.run("wrentabledialog_obj.update = () => undefined; return 0");
     type(box(Start, "1"), "0\n");
-    EXPECT_EQ(test.desk.texts().filter(": no").size(), 1);
-    test.desk.shown.clear();
+    EXPECT_EQ(test.desk.take().filter(": no").size(), 1);
     EXPECT_EQ(shown(box(Start, "1")), "0");
     page.tick();
     EXPECT_EQ(shown(box(Start, "1")), "-400");
@@ -315,13 +309,10 @@ TEST_F(PageNumbers, SendNothingWhenTheyAreCutOff) {
     const auto becomes = [&](const QVariantMap& values) {
         return [this, values](DOCKEY key) { test.camera(key).change(values), page.update(); };
     };
-    const auto enters = [&](zeb::OperatingMode mode) {
-        return [this, mode](DOCKEY) { test.host.appStatus().enterMode(mode), page.settle(); };
-    };
+    const auto enters = [&](zeb::OperatingMode mode) { return [this, mode](DOCKEY) { page.enter(mode); }; };
     const auto begin = [&](DOCKEY key) {
         test.camera(key).change({{"connected", true}, {"recorded", true}, {"selectedRange", QVariantList{200, 900}}});
-        test.host.appStatus().enterMode(zeb::MemoryMode);
-        page.settle();
+        page.enter(zeb::MemoryMode);
         page.update();
         EXPECT_TRUE(page.until("$('link.replaced, .w2ui-lock').length === 0")) << "what covers the rows fades out";
     };
@@ -367,10 +358,9 @@ TEST_F(PageNumbers, StandStillAfterAMessage) {
             leaveWindow();
         };
         const QStringList calls = sent([&] { pressArrow(number, true); });
-        EXPECT_EQ(test.desk.texts().size(), 1);
+        EXPECT_EQ(test.desk.take().size(), 1);
         EXPECT_EQ(beforeIt, 0) << "no step is due before the last one has been taken";
         EXPECT_EQ(repeats(), 0);
-        test.desk.shown.clear();
         page.release();
         return calls;
     };

@@ -9,25 +9,6 @@ QString row(int key) {
     return QStringLiteral("#wren-cameraInfo-list tr .wren_label_edit_camera_name[dockey=\"%1\"]").arg(key);
 }
 
-TEST(PageSelection, StaysWithItsCameraWhenAnotherGoes) {
-    TestHost test(connected(5));
-    TablePage page(test);
-    choose(test, {"2", "4"});
-    page.update();
-    EXPECT_EQ(page.list("probe.selected()"), QStringList({"2", "4"}));
-
-    test.host.faults().plant(2, "*", {{}, 0, true});
-    test.camera(4).set(&CameraState::syncStatus, QStringLiteral("Over Sync"));
-    EXPECT_EQ(page.tick(), QStringList({"2/row", "4/sync"})) << "a tick takes no row away, nor moves a value";
-    EXPECT_EQ(page.list("probe.selected()"), QStringList("4"));
-
-    page.update();
-    EXPECT_EQ(page.list("probe.drawn().map(row => row.getAttribute('recid') + ':' + probe.keyOf(row))"),
-              QStringList({"1:1", "2:3", "3:4", "4:5"}));
-    EXPECT_EQ(page.list("probe.selected()"), QStringList("4"));
-    EXPECT_EQ(camerasWith(test, &CameraState::selected), QStringList("4"));
-}
-
 TEST(PageSelection, OfManyRowsIsOneCall) {
     constexpr int Cameras = 721;
     TestHost test(connected(Cameras));

@@ -6,12 +6,6 @@
 
 namespace {
 
-/// The calls of the bridge since `callsBegin` that have to do with a move.
-const char* Made = R"js(
-    probe.callsEnd().filter(call => /AutoUpdate$|^setShutterSpeed$/.test(call[0]))
-        .map(call => [call[0]].concat(call[1]).join(' '))
-)js";
-
 QString slider(const char* key) {
     return QString("#wren_slider_lowlight_%1").arg(key);
 }
@@ -28,8 +22,8 @@ protected:
         }
     }
 
-    void begin() { page.run("probe.callsBegin(); return 0"); }
-    QStringList made() { return page.list(Made); }
+    /// The calls of the bridge that have to do with a move.
+    QStringList made(const std::function<void()>& work) { return page.made("AutoUpdate$|^setShutterSpeed$", work); }
     /// What a row shows of its speed: the number at the slider, where its handle stands, and the drop-down.
     QString shown(const char* key) {
         return page.text(QString("const rail = $('%1')[0].getBoundingClientRect();"
@@ -48,8 +42,8 @@ protected:
 TEST_F(PageSlider, MovesTheShutterSpeedWithItAndSendsOnce) {
     page.update();
     EXPECT_EQ(shown("1"), "10 at 10 1/1000 sec");
-    begin();
-    const QStringList sent = commands(test, page, [&] {
+    QStringList sent;
+    const auto drag = [&] {
         page.press(handle("1"));
         EXPECT_EQ(shown("1"), "10 at 10 1/1000 sec") << "a press on the handle moves nothing";
         page.move(slider("1"), 0.8);
@@ -63,9 +57,10 @@ TEST_F(PageSlider, MovesTheShutterSpeedWithItAndSendsOnce) {
         EXPECT_EQ(shown("1"), "0 at 0 1/100000 sec") << "beyond the end is the end";
         page.move(slider("1"), 0.4);
         page.release();
-    });
+    };
+    EXPECT_EQ(made([&] { sent = commands(test, page, drag); }),
+              QStringList({"stopAutoUpdate", "setShutterSpeed 1 5000", "startAutoUpdate"}));
     EXPECT_EQ(sent, QStringList("setShutterSpeed [[1],5000]"));
-    EXPECT_EQ(made(), QStringList({"stopAutoUpdate", "setShutterSpeed 1 5000", "startAutoUpdate"}));
     EXPECT_EQ(shown("1"), "6 at 6 1/5000 sec");
     EXPECT_EQ(widgets(), 0) << "it is plain again";
     EXPECT_EQ(page.list("probe.selected()"), QStringList({"1", "2", "3", "4"})) << "no row was selected by the way";
@@ -73,18 +68,19 @@ TEST_F(PageSlider, MovesTheShutterSpeedWithItAndSendsOnce) {
     page.click(slider("1"));
     EXPECT_THAT(test.camera(1).get(&CameraState::shutter), testing::AnyOf(3000, 4000))
         << "a click in the middle brings the handle there";
-    begin();
-    page.press(handle("1"));
-    page.releaseOutside();
-    EXPECT_EQ(made(), QStringList({"stopAutoUpdate", "setShutterSpeed 1 100000", "startAutoUpdate"}))
+    EXPECT_EQ(made([&] {
+                  page.press(handle("1"));
+                  page.releaseOutside();
+              }),
+              QStringList({"stopAutoUpdate", "setShutterSpeed 1 100000", "startAutoUpdate"}))
         << "let go beyond the window";
 }
 
 TEST_F(PageSlider, OfTheBatchRowSetsAllConnectedCameras) {
     test.camera(2).change({{"connected", false}});
     page.update();
-    begin();
-    const QStringList sent = commands(test, page, [&] {
+    QStringList sent;
+    const auto drag = [&] {
         page.press(handle("-1"));
         page.move(slider("-1"), 0.95);
         EXPECT_EQ(shown("-1"), "14 at 14 1/60 sec");
@@ -93,18 +89,15 @@ TEST_F(PageSlider, OfTheBatchRowSetsAllConnectedCameras) {
             "const stands = views[1].newest.get('4');"
             "stands.shutterSpeeds = stands.shutterSpeeds.slice().reverse(); return 0");
         page.release();
-    });
+    };
+    EXPECT_EQ(made([&] { sent = commands(test, page, drag); }),
+              QStringList({"stopAutoUpdate", "setShutterSpeed 1,3,4 50000", "startAutoUpdate"}));
     EXPECT_EQ(sent, QStringList("setShutterSpeed [[1,3,4],50000]"));
-    EXPECT_EQ(made(), QStringList({"stopAutoUpdate", "setShutterSpeed 1,3,4 50000", "startAutoUpdate"}));
 }
 
 TEST_F(PageSlider, SendsNothingWhenItIsCutOff) {
-    struct Case {
-        const char* what;
-        std::function<void()> happens;
-    };
     const auto low = [this](bool on) { test.camera(1).change({{"lowLight", on}}); };
-    for (const Case& c : QList<Case>{
+    for (const auto& [what, happens] : QList<Happening>{
              {"a full update", [&] { page.update(); }},
              {"low light ended", [&] { low(false), page.tick(); }},
              {"locked",
@@ -113,8 +106,8 @@ TEST_F(PageSlider, SendsNothingWhenItIsCutOff) {
               }},
              {"the window lost the keyboard", [&] { page.run("window.dispatchEvent(new Event('blur')); return 0"); }},
              {"another tab", [&] { page.show(0); }},
-             {"another mode", [&] { test.host.appStatus().enterMode(zeb::MemoryMode), page.settle(); }},
-             {"file mode", [&] { test.host.appStatus().enterMode(zeb::FileMode), page.settle(); }},
+             {"another mode", [&] { page.enter(zeb::MemoryMode); }},
+             {"file mode", [&] { page.enter(zeb::FileMode); }},
              {"an order of columns that was stored behind the page",
               [&] {
                   test.host.prefs().setValue("wren/column_order/livecontrol", "lowlight,shutterSpeed,lock,cameraName");
@@ -126,23 +119,21 @@ TEST_F(PageSlider, SendsNothingWhenItIsCutOff) {
                   page.update();
               }},
          }) {
-        SCOPED_TRACE(c.what);
+        SCOPED_TRACE(what);
         test.camera(1).change({{"lowLight", true}, {"locked", false}});
-        test.host.appStatus().enterMode(zeb::LiveMode);
-        page.settle();
+        page.enter(zeb::LiveMode);
         page.show(1);
         page.update();
-        begin();
-        const QStringList sent = commands(test, page, [&] {
+        const auto drag = [&, happens = happens] {
             page.press(handle("1"));
             page.move(slider("1"), 0.8);
             EXPECT_EQ(widgets(), 1);
-            c.happens();
+            happens();
             EXPECT_EQ(widgets(), 0);
             page.releaseOutside();
-        });
-        EXPECT_EQ(sent, QStringList());
-        EXPECT_EQ(made(), QStringList({"stopAutoUpdate", "startAutoUpdate"}));
+        };
+        EXPECT_EQ(made([&] { EXPECT_EQ(commands(test, page, drag), QStringList()); }),
+                  QStringList({"stopAutoUpdate", "startAutoUpdate"}));
     }
 }
 

@@ -49,11 +49,6 @@ protected:
         page->tick();
         return page->text(Shown);
     }
-    QStringList boxes() {
-        const QStringList texts = test.desk.texts();
-        test.desk.shown.clear();
-        return texts;
-    }
     /// The calls that change something and that the page makes while `work` lasts.
     QStringList made(const std::function<void()>& work) { return page->made("^(connect|set)", work); }
     /// Opens the list of frequencies by the mouse.
@@ -76,12 +71,7 @@ TEST_F(PageSync, ShowsWhatCanBeDone) {
     const auto hubIs = [this](const char* member, const QVariant& value) {
         return [=] { test.host.signalDevices().hub(Hub)->change({{QLatin1String(member), value}}); };
     };
-    const auto inMode = [this](zeb::OperatingMode mode) {
-        return [=] {
-            test.host.appStatus().enterMode(mode);
-            page->settle();
-        };
-    };
+    const auto inMode = [this](zeb::OperatingMode mode) { return [=] { page->enter(mode); }; };
     const Case cases[] = {
         {"without a source the cameras have the port's signal", [] {}, "go"},
         {"one camera is enough for a signal from outside",
@@ -141,7 +131,7 @@ TEST_F(PageSync, PassesEachChoiceOnOnce) {
     EXPECT_EQ(choose("500\x1b"), QStringList()) << "the list is left without a choice";
     EXPECT_EQ(shown(), "hub+ 500,1000,[2000] go");
     EXPECT_EQ(made([this] { page->click("#sync_execute"); }), QStringList("setSyncSettings"));
-    EXPECT_EQ(boxes().size(), 1) << "about the wiring";
+    EXPECT_EQ(test.desk.take().size(), 1) << "about the wiring";
 
     test.host.flags().set("IsRecording", true);
     page->tick();
