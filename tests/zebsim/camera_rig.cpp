@@ -1,9 +1,9 @@
 #include "CameraBank.h"
+#include "Files.h"
 #include "ModelCatalogue.h"
 #include "RigError.h"
 #include "RigFile.h"
 
-#include <QFile>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QTemporaryDir>
@@ -16,12 +16,10 @@ class RigFile : public testing::Test {
 protected:
     /// What a rig file with this text is refused with, without the folder's name; empty when it is taken.
     QString complaint(const QByteArray& text) {
-        QFile file(folder.filePath(QStringLiteral("x.json")));
-        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(text);
-        file.close();
+        const QString path = folder.filePath(QStringLiteral("x.json"));
+        write(path, text);
         try {
-            readRig(file.fileName());
+            readRig(path);
             return {};
         } catch (const RigError& error) {
             return QString::fromUtf8(error.what()).remove(folder.path() + QLatin1Char('/'));
@@ -98,13 +96,10 @@ TEST_F(RigFile, IsRefusedWithItsNameAndTheMember) {
 }
 
 TEST_F(RigFile, MayBringModelsOfItsOwn) {
-    QFile models(folder.filePath(QStringLiteral("own.json")));
-    ASSERT_TRUE(models.open(QIODevice::WriteOnly));
-    models.write(
-        R"({"models": [{"name": "slow", "type": 5, "otherRates": "refuse", "rates": [1], "resolutions": [[8, 8]],
+    write(folder.filePath(QStringLiteral("own.json")),
+          R"({"models": [{"name": "slow", "type": 5, "otherRates": "refuse", "rates": [1], "resolutions": [[8, 8]],
         "shutters": [1], "triggerModes": [2], "ports": {"3": 8}, "functions": [], "capabilities": [], "memory": 1,
         "initial": {"rate": 1, "resolution": [8, 8], "shutter": 1, "triggerMode": 2}}]})");
-    models.close();
     const QByteArray devices = R"("devices": [{"address": "10.0.0.1", "model": "slow", "heads": [{}]}])";
     EXPECT_EQ(complaint(R"({"models": "own.json", )" + devices + "}"), QString());
     EXPECT_EQ(complaint("{" + devices + "}"), QStringLiteral("x.json: devices[0].model: no model \"slow\""));

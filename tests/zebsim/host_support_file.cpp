@@ -1,8 +1,7 @@
+#include "Files.h"
 #include "SupportFile.h"
 #include "support/TestHost.h"
 
-#include <QDir>
-#include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QProcess>
@@ -10,11 +9,6 @@
 #include <gtest/gtest.h>
 
 namespace {
-
-QByteArray contentOf(const QString& path) {
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
 
 TEST(SupportFile, IsAZipThatAnotherProgramReads) {
     TestHost test(standardRig(2));
@@ -24,11 +18,7 @@ TEST(SupportFile, IsAZipThatAnotherProgramReads) {
     test.host.prepareSupportFile(file);
     file.files.insert(QStringLiteral("empty.txt"), {});
     const QString path = test.folder.filePath(QStringLiteral("s.zip"));
-    // What stood there before goes as a whole.
-    QFile before(path);
-    before.open(QIODevice::WriteOnly);
-    before.write("no archive");
-    before.close();
+    write(path, "what stood there before goes as a whole");
     ASSERT_TRUE(test.host.exportSupportFile(path, file));
 
     QProcess unpack;
@@ -55,15 +45,6 @@ TEST(SupportFile, HoldsTheLogOfEveryCameraThatKeepsOne) {
     EXPECT_EQ(file.files.keys().filter("camera-"), QStringList({"camera-3.log", "camera-4.log"}));
     EXPECT_TRUE(file.files.value("camera-4.log").contains("192.168.0.12"));
     EXPECT_TRUE(file.files.value("camera-4.log").endsWith("\nAlert: \"It is\\nhot\"\n"));
-}
-
-TEST(SupportFile, LeavesNothingBehindWhereItCannotBeWritten) {
-    ZebSupportFile file;
-    file.files.insert(QStringLiteral("a.txt"), "a");
-    QTemporaryDir folder;
-    EXPECT_FALSE(writeSupportFile(folder.filePath(QStringLiteral("no/such/folder/s.zip")), file));
-    EXPECT_FALSE(writeSupportFile(folder.path(), file)) << "a folder of that name";
-    EXPECT_TRUE(QDir(folder.path()).isEmpty());
 }
 
 }  // namespace

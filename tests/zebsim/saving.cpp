@@ -2,11 +2,13 @@
 #include "DOC_Frames.h"
 #include "DOC_Interface.h"
 #include "FileNames.h"
+#include "Files.h"
 #include "FramePicture.h"
 #include "FullDisk.h"
 #include "LastShoot.h"
 #include "SaveJob.h"
 #include "SaveNames.h"
+#include "Until.h"
 #include "support/TestHost.h"
 
 #include <QDir>
@@ -54,9 +56,7 @@ protected:
             }
         });
         EXPECT_FALSE(job.start());
-        while (job.isRunning()) {
-            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
-        }
+        EXPECT_TRUE(until([&job] { return !job.isRunning(); }));
         QStringList texts;
         for (const SaveOutcome& outcome : job.outcomes()) {
             texts << QStringLiteral("%1: %2 of %3 up to %4, %5")
@@ -72,14 +72,8 @@ protected:
     }
     QString path(const QString& name) const { return QDir(folder.path()).filePath(name); }
     QStringList files() const { return QDir(folder.path()).entryList(QDir::Files | QDir::Hidden, QDir::Name); }
-    void writeOld(const QString& name) const {
-        QFile file(path(name));
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write("old") == 3);
-    }
-    bool isOld(const QString& name) const {
-        QFile file(path(name));
-        return file.open(QIODevice::ReadOnly) && file.readAll() == "old";
-    }
+    void writeOld(const QString& name) const { write(path(name), "old"); }
+    bool isOld(const QString& name) const { return contentOf(path(name)) == "old"; }
 
     TestHost host{standardRig(3)};
     QTemporaryDir folder;
@@ -375,9 +369,8 @@ protected:
     SavingVideo() { program(Encoder); }
 
     void program(const QByteArray& script) {
-        QFile file(programs.filePath("encoder"));
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write(script) == script.size());
-        file.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+        write(programs.filePath("encoder"), script);
+        QFile::setPermissions(programs.filePath("encoder"), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     }
     SaveOrders video() {
         SaveOrders wanted = orders("video");
@@ -413,9 +406,7 @@ TEST_F(SavingVideo, LeavesNoHalfFile) {
     {
         SaveJob job(host.host.cameras(), video());
         EXPECT_FALSE(job.start());
-        while (job.frame() == 0) {
-            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
-        }
+        EXPECT_TRUE(until([&job] { return job.frame() > 0; }));
     }
     program("#!/bin/sh\necho 'no such encoder' >&2; exit 1\n");
     EXPECT_EQ(run(video()), QStringList({"Gate: 0 of 2 up to 0, failed", "Nozzle/2: 0 of 3 up to 2, failed"}));
