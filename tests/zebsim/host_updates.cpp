@@ -1,5 +1,6 @@
 #include "Course.h"
 #include "PluginSlot.h"
+#include "Until.h"
 #include "ZebPageBridge.h"
 #include "support/StubPlugin.h"
 #include "support/TestHost.h"
@@ -7,7 +8,6 @@
 #include <QDialog>
 #include <QPointer>
 #include <QSignalSpy>
-#include <QTest>
 #include <QWebFrame>
 #include <QWebView>
 
@@ -43,9 +43,7 @@ protected:
     }
     /// Lets what was asked for happen.
     void settle() {
-        while (host.updates().isPending()) {
-            QCoreApplication::processEvents();
-        }
+        EXPECT_TRUE(until([this] { return !host.updates().isPending(); }));
     }
 
     TestHost test;
@@ -55,49 +53,39 @@ protected:
 
 }  // namespace
 
-TEST_F(Updates, ManyRequestsAreOneCycleFromTheEventLoop) {
-    for (int i = 0; i < 10; ++i) {
-        host.updateUI(zeb::UpdateAll, true);
-    }
-    EXPECT_EQ(cycles.count(), 0);
-    QCoreApplication::processEvents();
-    EXPECT_EQ(cycles.count(), 1);
-    QCoreApplication::processEvents();
-    EXPECT_EQ(cycles.count(), 1);
-}
-
-TEST_F(Updates, NoneWhileDeterredAndOneAfterTheLastEnd) {
-    host.updateUI(63, true);
-    host.deterUpdateUI(true);
-    host.deterUpdateUI(true);
-    QCoreApplication::processEvents();
-    EXPECT_EQ(cycles.count(), 0) << "asked for before, held back";
-    host.updateUI(63, true);
-    host.deterUpdateUI(false);
-    QCoreApplication::processEvents();
-    EXPECT_EQ(cycles.count(), 0) << "still deterred once";
-    host.deterUpdateUI(false);
-    EXPECT_EQ(cycles.count(), 0) << "not inside the call";
-    QCoreApplication::processEvents();
-    EXPECT_EQ(cycles.count(), 1);
-
-    host.deterUpdateUI(true);
-    host.deterUpdateUI(false);
-    QCoreApplication::processEvents();
-    EXPECT_EQ(cycles.count(), 1) << "nothing was asked for";
-}
-
-TEST_F(Updates, ARequestInsideACycleIsTheNextOne) {
+TEST_F(Updates, AreOneCycleFromTheEventLoopUnlessTheyAreDeterred) {
     StubPlugin plugin;
-    plugin.onUpdate = [&] {
-        if (plugin.updates == 1) {
-            host.updateUI(63, true);
-        }
-    };
     const PluginSlot slot(host, plugin);
-    host.updateUI(63, true);
-    settle();
-    EXPECT_EQ(plugin.updates, 2);
+    const auto request = [this] { host.updateUI(zeb::UpdateAll, true); };
+    const struct {
+        const char* what;
+        std::function<void()> act;
+        int cycles;
+    } rows[] = {
+        {"two requests", [&] { request(), request(); }, 1},
+        {"asked for before, held back", [&] { request(), host.deterUpdateUI(true), host.deterUpdateUI(true); }, 0},
+        {"still deterred once", [&] { request(), host.deterUpdateUI(false); }, 0},
+        {"after the last end", [&] { host.deterUpdateUI(false); }, 1},
+        {"nothing was asked for", [&] { host.deterUpdateUI(true), host.deterUpdateUI(false); }, 0},
+        {"a request inside a cycle is the next one",
+         [&] {
+             plugin.onUpdate = [&] {
+                 plugin.onUpdate = nullptr;
+                 request();
+             };
+             request();
+         },
+         2},
+    };
+    for (const auto& row : rows) {
+        cycles.clear();
+        row.act();
+        EXPECT_EQ(cycles.count(), 0) << row.what << ": not inside the call";
+        for (int turn = 0; turn < 4; ++turn) {
+            QCoreApplication::processEvents();
+        }
+        EXPECT_EQ(cycles.count(), row.cycles) << row.what;
+    }
 }
 
 TEST_F(Updates, ReachPluginsAndLoadedBridgesOnceEach) {

@@ -2,98 +2,116 @@
 
 namespace {
 
-TEST_F(RecordingTest, GoesOnWithoutTheCamerasThatFail) {
-    plant(1, "arm", {QStringLiteral("no answer"), 0, false});
-    plant(2, "arm", {QStringLiteral("too hot"), 0, false});
-    armAll();
-    EXPECT_EQ(messages(),
-              "Camera 1: no answer. It does not take part in the recording.\n"
-              "Camera 2: too hot. It does not take part in the recording.");
-    EXPECT_EQ(states(), "4 4 2 - 2");
-    plant(3, "trigger", {QStringLiteral("no signal"), 0, false});
-    host.recorder().triggerRecording();
-    EXPECT_EQ(messages(), "Impact: no signal. It does not take part in the recording.");
-    EXPECT_EQ(states(), "4 4 4 - 0");
-    EXPECT_EQ(ends, 1);
-    EXPECT_TRUE(host.isLiveMode()) << "nothing was recorded";
-    EXPECT_EQ(host.recorder().lost().size(), 3) << "the next save names them all";
-    host.recorder().cancelRecording(false);
-    EXPECT_EQ(states(), "0 0 0 - 0");
-}
-
-TEST_F(RecordingTest, MissesCamerasThatGo) {
-    triggerAll();
-    pass(100);
-    plant(1, "record", {QStringLiteral("the memory is broken"), 0, false});
-    plant(2, "*", {{}, 0, true});
-    host.docManager().disconnectDocs({3});
-    pass(100);
-    EXPECT_EQ(messages(),
-              "Camera 1: the memory is broken. The recording ended early with 200 frames.\n"
-              "Camera 2: the camera has disappeared. Its recording is lost.\n"
-              "Impact: the camera was disconnected. Its recording is lost.");
-    EXPECT_EQ(recorded(1), "0..199 trigger 0");
-    EXPECT_EQ(host.recorder().lost(), (QStringList{"Camera 2: the camera has disappeared. Its recording is lost.",
-                                                   "Impact: the camera was disconnected. Its recording is lost."}));
-    EXPECT_EQ(states(), "4 0 - 0") << "it is over";
-    EXPECT_EQ(ends, 1);
-    EXPECT_TRUE(host.isMemoryMode());
-    pass(100000);
-    EXPECT_EQ(messages(), "") << "told once";
-    plant(2, "*", {});
-    EXPECT_EQ(recorded(2), "nothing");
-    EXPECT_EQ(states(), "4 0 0 - 0");
-    host.recorder().startRecReady();
-    EXPECT_EQ(states(), "2 2 0 - 2");
-    for (const DOCKEY key : {1, 2}) {
-        plant(key, "*", {{}, 0, true});
-    }
-    pass(1);
-    messages();
-    EXPECT_EQ(host.recorder().lost().size(), 2) << "what there is to save is of the last that was triggered";
-    for (const DOCKEY key : {1, 2}) {
-        plant(key, "*", {});
-    }
-    triggerAll();
-    for (const DOCKEY key : {1, 2}) {
-        plant(key, "*", {{}, 0, true});
-    }
-    pass(1);
-    EXPECT_EQ(host.recorder().lost(), (QStringList{"Camera 1: the camera has disappeared. Its recording is lost.",
-                                                   "Camera 2: the camera has disappeared. Its recording is lost."}))
-        << "nothing of the one before";
-}
-
-TEST_F(RecordingTest, MissesReadyCamerasAndEndsWhenNoneIsLeft) {
-    armAll();
-    plant(1, "*", {{}, 0, true});
-    host.docManager().disconnectDocs({2, 3});
-    pass(1);
-    EXPECT_EQ(messages(),
-              "Camera 1: the camera has disappeared. It does not take part in the recording.\n"
-              "Camera 2: the camera was disconnected. It does not take part in the recording.\n"
-              "Impact: the camera was disconnected. It does not take part in the recording.");
-    EXPECT_EQ(ends, 1);
-    EXPECT_TRUE(host.isLiveMode());
-    host.recorder().startRecReady();
-    QCoreApplication::processEvents();
-    EXPECT_EQ(ends, 2) << "there is no camera to arm";
-}
-
-TEST_F(RecordingTest, TellsOfCamerasThatWereAwayBetweenTwoLooks) {
-    const auto reconnect = [this](DOCKEY key) {
-        host.docManager().disconnectDocs({key});
-        test.camera(key).set(&CameraState::connected, true);
+TEST_F(RecordingTest, TellsOnceOfEachCameraThatFailsOrGoes) {
+    enum Phase { AtRest, Armed, Recording };
+    const auto fail = [this](DOCKEY key, const char* operation) { plant(key, operation, {"no answer", 0, false}); };
+    const auto vanish = [this](DOCKEY key) { plant(key, "*", {{}, 0, true}); };
+    const auto leave = [this](const DocKeyList& keys) { host.docManager().disconnectDocs(keys); };
+    const auto comeBack = [&](DOCKEY key) { leave({key}), test.camera(key).set(&CameraState::connected, true); };
+    const struct {
+        const char* what;
+        Phase phase;
+        std::function<void()> happens;
+        QStringList told;
+        const char* states;
+        /// So many of the last that are told have lost the recording that has ended.
+        int lost;
+    } rows[] = {
+        {"one vanishes", AtRest, [&] { vanish(2); }, {"Camera 2: the camera has disappeared."}, "0 0 - 0 live", 0},
+        {"nobody works with one that vanishes", AtRest, [&] { leave({2}), vanish(2); }, {}, "0 0 - 0 live", 0},
+        {"there is no camera to arm",
+         AtRest,
+         [&] {
+             leave({1, 2, 3}), host.recorder().startRecReady();
+         },
+         {},
+         "0 0 0 - 0 live, told of the end",
+         0},
+        {"two can't be armed",
+         AtRest,
+         [&] { fail(1, "arm"), fail(2, "arm"), armAll(); },
+         {"Camera 1: no answer. It does not take part in the recording.",
+          "Camera 2: no answer. It does not take part in the recording."},
+         "4 4 2 - 2 live",
+         0},
+        {"one of them vanishes, the others are disconnected",
+         Armed,
+         [&] {
+             vanish(1), leave({2, 3});
+         },
+         {"Camera 1: the camera has disappeared. It does not take part in the recording.",
+          "Camera 2: the camera was disconnected. It does not take part in the recording.",
+          "Impact: the camera was disconnected. It does not take part in the recording."},
+         "0 0 - 0 live, told of the end",
+         0},
+        {"one was away between two looks",
+         Armed,
+         [&] { comeBack(1); },
+         {"Camera 1: the camera has left the recording. It does not take part in the recording."},
+         "0 2 2 - 2 live",
+         0},
+        {"none can be triggered",
+         Armed,
+         [&] { fail(1, "trigger"), fail(2, "trigger"), fail(3, "trigger"), host.recorder().triggerRecording(); },
+         {"Camera 1: no answer. It does not take part in the recording.",
+          "Camera 2: no answer. It does not take part in the recording.",
+          "Impact: no answer. It does not take part in the recording."},
+         "4 4 4 - 0 live, told of the end",
+         3},
+        {"one was away between two looks",
+         Recording,
+         [&] { comeBack(2); },
+         {"Camera 2: the camera has left the recording. Its recording is lost."},
+         "3 0 3 - 3 live",
+         0},
+        {"one breaks, one vanishes, one is disconnected",
+         Recording,
+         [&] { fail(1, "record"), vanish(2), leave({3}); },
+         {"Camera 1: no answer. The recording ended early with 1 frames.",
+          "Camera 2: the camera has disappeared. Its recording is lost.",
+          "Impact: the camera was disconnected. Its recording is lost."},
+         "4 0 - 0 memory, told of the end",
+         2},
     };
+    for (const auto& row : rows) {
+        begin();
+        if (row.phase != AtRest) {
+            armAll();
+        }
+        if (row.phase == Recording) {
+            host.recorder().triggerRecording();
+        }
+        row.happens();
+        pass(1);
+        EXPECT_EQ(messages(), row.told.join('\n').toStdString()) << row.what;
+        EXPECT_EQ(states() + (host.isMemoryMode() ? " memory" : " live") + (ends == 1 ? ", told of the end" : ""),
+                  row.states)
+            << row.what;
+        EXPECT_EQ(host.recorder().lost(), row.told.mid(row.told.size() - row.lost)) << row.what;
+        pass(1);
+        EXPECT_EQ(messages(), "") << row.what << ": told once";
+    }
+}
+
+TEST_F(RecordingTest, WhatIsLostBelongsToTheLastThatWasTriggered) {
+    const auto lose = [this](const QList<DOCKEY>& keys) {
+        for (const bool gone : {true, false}) {
+            for (const DOCKEY key : keys) {
+                plant(key, "*", {{}, 0, gone});
+            }
+            pass(1);
+        }
+    };
+    triggerAll();
+    lose({1, 2, 3});
+    EXPECT_EQ(recorded(2), "nothing");
     armAll();
-    reconnect(1);
-    pass(1);
-    EXPECT_EQ(messages(), "Camera 1: the camera has left the recording. It does not take part in the recording.");
-    host.recorder().triggerRecording();
-    reconnect(2);
-    pass(1);
-    EXPECT_EQ(messages(), "Camera 2: the camera has left the recording. Its recording is lost.");
-    EXPECT_EQ(states(), "0 0 3 - 3");
+    lose({1, 2, 3});
+    EXPECT_EQ(host.recorder().lost().filter("Its recording is lost.").size(), 3) << "not those that were only armed";
+    triggerAll();
+    lose({2});
+    host.recorder().stopRecording();
+    EXPECT_EQ(host.recorder().lost(), QStringList("Camera 2: the camera has disappeared. Its recording is lost."));
 }
 
 TEST_F(RecordingTest, TheTriggerNamesThoseThatAreNotReady) {
@@ -109,20 +127,6 @@ TEST_F(RecordingTest, TheTriggerNamesThoseThatAreNotReady) {
     EXPECT_EQ(recorded(1), "0..8191 trigger 0");
     EXPECT_EQ(host.recorder().lost().size(), 2);
     EXPECT_EQ(ends, 1);
-}
-
-TEST_F(RecordingTest, TellsOfACameraThatVanishesAtRest) {
-    plant(2, "*", {{}, 0, true});
-    pass(1);
-    EXPECT_EQ(messages(), "Camera 2: the camera has disappeared.");
-    pass(1);
-    EXPECT_EQ(messages(), "") << "told once";
-    plant(2, "*", {});
-    host.docManager().disconnectDocs({2});
-    pass(1);
-    plant(2, "*", {{}, 0, true});
-    pass(1);
-    EXPECT_EQ(messages(), "") << "nobody works with it";
 }
 
 TEST_F(RecordingTest, ACameraThatCannotBeStoppedFillsItsMemory) {

@@ -25,16 +25,25 @@ inline std::string told(const std::optional<Recording>& recording) {
 /// has the trigger a quarter into 131072 frames at 10000 a second.
 class RecordingTest : public testing::Test {
 protected:
-    RecordingTest() : test(rig()) {
-        for (Camera* camera : host.cameras().all()) {
-            camera->set(&CameraState::connected, true);
-        }
+    RecordingTest() {
+        begin();
         host.appStatus().registerPlugin(&plugin);
         // Most tests record again and again.
         host.prefs().setValue("alert/unsavedrecording", false);
         QObject::connect(&plugin, &StubPlugin::signalEndRecording, &plugin, [this] { ++ends; });
     }
 
+    /// With new cameras, all of them connected.
+    void begin() {
+        host.faults().clear();
+        host.setRig(rig());
+        for (Camera* camera : host.cameras().all()) {
+            camera->set(&CameraState::connected, true);
+        }
+        host.appStatus().enterMode(zeb::LiveMode);
+        QCoreApplication::processEvents();
+        ends = 0;
+    }
     static Rig rig() {
         Rig rig = standardRig(2);
         Rig fast = readRig(QStringLiteral("eight-mixed"));
