@@ -69,6 +69,7 @@ TEST(RUN_SyncingThreadTest, WorksWhileTheHostAnswersOthers) {
                 doc->control().getRecordRate(0);
             }
             host.journal().since(0);
+            host.faults().plant(4, "getRecordRate", i % 2 ? Fault() : Fault{{}, 1, false});
         }
         thread.wait();
         QCoreApplication::processEvents();

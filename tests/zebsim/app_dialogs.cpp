@@ -2,8 +2,11 @@
 #include "CameraWindows.h"
 #include "CommandLine.h"
 #include "ModalWatcher.h"
+#include "PageScript.h"
 #include "PreferencePages.h"
 #include "RigFile.h"
+#include "ScenarioDialogs.h"
+#include "ScenarioError.h"
 #include "Simulator.h"
 #include "ViewerWindow.h"
 #include "ZebPrefsDialog.h"
@@ -15,13 +18,14 @@
 #include <QFutureWatcher>
 #include <QLabel>
 #include <QLineEdit>
-#include <QListWidget>
 #include <QMetaProperty>
 #include <QPlainTextEdit>
 #include <QProgressDialog>
 #include <QSpinBox>
 #include <QTableWidget>
 #include <QTemporaryDir>
+#include <QVBoxLayout>
+#include <QWebView>
 
 #include <gtest/gtest.h>
 
@@ -91,22 +95,6 @@ TEST_F(Dialogs, ShowEveryPreferenceAsTheHostAnswersIt) {
     });
     host.getPrefsDialog()->exec();
     EXPECT_GE(fields, 19);
-}
-
-TEST_F(Dialogs, OpenPreferencesAtThePageThatIsAskedFor) {
-    const auto pageAfter = [&](const QString& page) {
-        int row = -1;
-        next([&](QDialog& dialog) {
-            row = dialog.findChild<QListWidget*>("pages")->currentRow();
-            dialog.reject();
-        });
-        host.getPrefsDialog()->setPage(page);
-        host.getPrefsDialog()->exec();
-        return row;
-    };
-    EXPECT_EQ(pageAfter("s_io"), 3);
-    EXPECT_EQ(pageAfter(host.translate("s_record")), 2);
-    EXPECT_EQ(pageAfter("no such page"), 0);
 }
 
 TEST_F(Dialogs, ShowAddressesAndRefuseOneThatIsNone) {
@@ -205,6 +193,25 @@ TEST_F(Dialogs, GivePicturesAndTheLogToTheSupportFile) {
     simulator.window().images().showNow();
     host.prepareSupportFile(file);
     EXPECT_EQ(QImage::fromData(file.files.value("image.png")).size(), QSize(1024, 1024));
+}
+
+TEST(ModalDialogs, StandOnceTheirPageHasLoaded) {
+    QDialog dialog;
+    QVBoxLayout layout(&dialog);
+    QWebView view;
+    layout.addWidget(&view);
+    view.load(QUrl("data:text/html,<body>loaded"));
+    ModalWatcher watcher;
+    QString words;
+    QObject::connect(&watcher, &ModalWatcher::stands, [&words](QDialog* standing) {
+        words += PageScript("document.body.textContent").run(ScenarioDialogs::pageOfStanding()).toString();
+        standing->reject();
+    });
+    dialog.exec();
+    EXPECT_EQ(words, "loaded");
+    dialog.exec();
+    EXPECT_EQ(words, "loadedloaded") << "and each time they are shown";
+    EXPECT_THROW(ScenarioDialogs::pageOfStanding(), ScenarioError) << "none stands now";
 }
 
 }  // namespace

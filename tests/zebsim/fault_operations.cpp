@@ -1,7 +1,7 @@
+#include "Files.h"
 #include "Operation.h"
 #include "StatusFlags.h"
 
-#include <QFile>
 #include <QRegularExpression>
 
 #include <gtest/gtest.h>
@@ -13,12 +13,15 @@ TEST(FaultOperations, AreKnownBeforeTheyRunAndStandInTheManual) {
     EXPECT_TRUE(HubOperation::names().contains("search"));
     EXPECT_TRUE(HostOperation::names().contains("setPage"));
     EXPECT_FALSE(HostOperation::names().contains("updateUI")) << "a change that can't fail";
-    QFile file(QStringLiteral(SOURCE_FOLDER "/docs/scenarios.md"));
-    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-    const QString manual = QString::fromUtf8(file.readAll());
+    const QString manual = QString::fromUtf8(contentOf(SOURCE_FOLDER "/docs/scenarios.md"));
     const QSet<QString> operations = CameraOperation::names() + HubOperation::names() + HostOperation::names();
     for (const QString& name : operations.values() + StatusFlags().names()) {
         EXPECT_TRUE(manual.contains(QRegularExpression("\\b" + name + "\\b"))) << name.toStdString();
+    }
+    const QString faults = manual.section("\n## Faults\n", 1).section("\n## ", 0, 0);
+    for (auto named = QRegularExpression("`(\\w+)`").globalMatch(faults); named.hasNext();) {
+        const QString name = named.next().captured(1);
+        EXPECT_TRUE(operations.contains(name)) << name.toStdString() << " can't fail";
     }
 }
 

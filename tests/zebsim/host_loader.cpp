@@ -1,9 +1,6 @@
-#include "PLG_Interface.h"
+#include "Files.h"
 #include "PluginLoader.h"
 #include "support/TestHost.h"
-
-#include <QCoreApplication>
-#include <QFile>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -28,23 +25,10 @@ std::string refusal(const QString& path) {
 
 }  // namespace
 
-TEST(PluginLoader, MakesThePluginAndGivesItTheHostThenDeletesIt) {
-    TestHost test;
-    {
-        const PluginLoader loader(library("good.zeb"), test.host);
-        EXPECT_EQ(loader.plugin().getName(), QStringLiteral("good"));
-        EXPECT_TRUE(qApp->property("goodPluginHasHost").toBool());
-    }
-    EXPECT_TRUE(qApp->property("goodPluginDeleted").toBool());
-}
-
 TEST(PluginLoader, NamesTheFileThatIsNoPlugin) {
     TestHost test;
     const QString text = test.folder.filePath(QStringLiteral("text.zeb"));
-    QFile file(text);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write("no library");
-    file.close();
+    write(text, "no library");
     for (const QString& path : {QStringLiteral("/no/such/wren.zeb"), text}) {
         EXPECT_THAT(refusal(path), StartsWith(path.toStdString() + ": "));
     }

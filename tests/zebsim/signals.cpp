@@ -3,8 +3,6 @@
 #include "SignalHub.h"
 #include "support/TestHost.h"
 
-#include <QTest>
-
 #include <gtest/gtest.h>
 
 #include <future>
@@ -153,23 +151,6 @@ TEST_F(Signals, OnlyCamerasThatAreThereCanBeSynchronised) {
     test.host.faults().clear();
     test.camera(1).disconnect();
     EXPECT_FALSE(canSync()) << "disconnected";
-}
-
-TEST_F(Signals, AWorkersFailureIsToldFromTheEventLoop) {
-    plant(2, "synchronise", "no signal at the input");
-    test.camera(5).set(&CameraState::connected, false);
-    const DocList docs = test.docs({1, 2, 5, 7});
-    DOC_Interface* master = test.doc(1);
-    std::string thrown;
-    std::thread worker([&] { thrown = thrownBy([&] { ops.syncCameras(docs, master, 0, false, false, 0, -1, 1); }); });
-    worker.join();
-    EXPECT_TRUE(test.desk.shown.isEmpty()) << "in the worker";
-    const char* reasons = "Ramp: no signal at the input\nRoof: the camera is not connected";
-    EXPECT_EQ(thrown, reasons);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return !test.desk.shown.isEmpty(); }));
-    EXPECT_EQ(test.desk.texts(), QStringList{reasons});
-    EXPECT_EQ(status(7), "Sync In") << "the others are synchronised";
-    EXPECT_EQ(status(2), "No Sync");
 }
 
 /// A clock on which the first wait of a thread lasts until it is let go.
