@@ -8,10 +8,10 @@
 #include "PlayerBar.h"
 #include "RigFile.h"
 #include "Simulator.h"
+#include "Until.h"
 #include "ViewerWindow.h"
 
 #include <QAction>
-#include <QCoreApplication>
 #include <QMdiArea>
 #include <QSlider>
 #include <QTemporaryDir>
@@ -43,9 +43,7 @@ protected:
     qint64 shownLater(DOCKEY key) {
         simulator.clock().setSpeed(1000);
         const qint64 start = simulator.clock().now();
-        while (simulator.clock().now() < start + 200) {
-            QCoreApplication::processEvents();
-        }
+        EXPECT_TRUE(until([&] { return simulator.clock().now() >= start + 200; }));
         images.showNow();
         return shown(key);
     }

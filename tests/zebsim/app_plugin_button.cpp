@@ -1,5 +1,6 @@
 #include "PluginButton.h"
 #include "PluginSlot.h"
+#include "Until.h"
 #include "support/StubPlugin.h"
 #include "support/TestHost.h"
 
@@ -29,7 +30,7 @@ TEST(PluginButton, StandsAsThePluginSays) {
     plugin.checked = false;
     test.host.appStatus().notifyPluginClosed(&plugin);
     test.host.updates().request();
-    ASSERT_TRUE(QTest::qWaitFor([&] { return !button.isChecked(); }));
+    ASSERT_TRUE(until([&] { return !button.isChecked(); }));
 
     plugin.enabled = false;
     test.host.appStatus().enterMode(zeb::FileMode);

@@ -1,7 +1,9 @@
 #include "Camera.h"
 #include "CameraWindows.h"
+#include "ComeToFront.h"
 #include "CommandLine.h"
 #include "FileNames.h"
+#include "Files.h"
 #include "FramePicture.h"
 #include "ModalWatcher.h"
 #include "RigFile.h"
@@ -48,13 +50,6 @@ protected:
         host.prefs().setValue("snapshot/folder", folder.filePath("snap"));
     }
 
-    static void comeToFront(QWidget& window) {
-        window.show();
-        window.activateWindow();
-        while (!window.isActiveWindow()) {
-            QCoreApplication::processEvents();
-        }
-    }
     QStringList filesIn(const char* name) const {
         return QDir(folder.filePath(name)).entryList(QDir::Files, QDir::Name);
     }
@@ -122,8 +117,7 @@ TEST_F(AppSaving, TellsWhyThereIsNothingToSave) {
 
 TEST_F(AppSaving, OffersAnotherFolderThanOneWithFiles) {
     ASSERT_TRUE(QDir(folder.path()).mkpath("out/older"));
-    QFile old(folder.filePath("out/Gate.mp4"));
-    ASSERT_TRUE(old.open(QIODevice::WriteOnly));
+    write(folder.filePath("out/Gate.mp4"), {});
     ModalWatcher watcher;
     QObject::connect(&watcher, &ModalWatcher::stands, [&](QDialog* dialog) {
         auto* button = dialog->findChild<QPushButton*>("newSubfolder");
@@ -161,9 +155,7 @@ TEST_F(AppSaving, TellsOfCamerasThatAreNotThere) {
     host.saveFiles();
     EXPECT_EQ(first, QStringList(lost)) << "before it begins";
     const auto* progress = simulator.window().findChild<SaveProgress*>();
-    while (!progress->isFinished()) {
-        QCoreApplication::processEvents();
-    }
+    EXPECT_TRUE(until([progress] { return progress->isFinished(); }));
     EXPECT_EQ(progress->findChild<QLabel*>()->text(), "Not everything is saved.");
     EXPECT_THAT(results(), testing::ElementsAre(lost, testing::Property(&QString::toStdString,
                                                                         testing::StartsWith("Camera 1: 3 frames"))));
@@ -212,9 +204,7 @@ TEST_F(AppSaving, ShowsTheProgressOfMoreFramesThanAnIntCounts) {
     SaveJob job(host.cameras(), orders, [](const QString&) { return std::numeric_limits<qint64>::max(); });
     const SaveProgress progress(job, nullptr);
     ASSERT_FALSE(job.start());
-    while (job.outcomes().isEmpty()) {
-        QCoreApplication::processEvents();
-    }
+    EXPECT_TRUE(until([&job] { return !job.outcomes().isEmpty(); }));
     const auto* bar = progress.findChild<QProgressBar*>();
     EXPECT_EQ(bar->value(), 0) << "one frame of four thousand million";
     EXPECT_GT(bar->maximum(), 0);
@@ -222,8 +212,8 @@ TEST_F(AppSaving, ShowsTheProgressOfMoreFramesThanAnIntCounts) {
 
 TEST_F(AppSaving, EndsWithTheApplication) {
     QDir(folder.path()).mkdir("out");
-    QFile old(folder.filePath("out/Camera 1_-00001.png"));
-    ASSERT_TRUE(old.open(QIODevice::WriteOnly));
+    const QString old = folder.filePath("out/Camera 1_-00001.png");
+    write(old, "old");
     dialogs.saves().order({});
     ModalWatcher watcher;
     QObject::connect(&watcher, &ModalWatcher::stands, [&](QDialog* dialog) {
@@ -236,7 +226,7 @@ TEST_F(AppSaving, EndsWithTheApplication) {
     });
     simulator.run([&] { host.saveFiles(); });
     EXPECT_EQ(filesIn("out").size(), 1);
-    EXPECT_EQ(old.size(), 0) << "a question that nobody has answered overwrites nothing";
+    EXPECT_EQ(contentOf(old), "old") << "a question that nobody has answered overwrites nothing";
 }
 
 TEST_F(AppSaving, IsCancelledByItsButtonAlone) {
@@ -265,19 +255,24 @@ TEST_F(AppSaving, KeysMeanThePluginInFront) {
     QObject::connect(&plugin, &StubPlugin::signalSaveFile, [&] { raised << "file"; });
     QObject::connect(&plugin, &StubPlugin::signalSaveLayout, [&] { raised << "layout"; });
     QObject::connect(&plugin, &StubPlugin::signalStartAutoUpdate, [&] { raised << "start"; });
+    QObject::connect(&plugin, &StubPlugin::signalRecord, [&] { raised << "record"; });
     plugin.dialog = std::make_unique<QDialog>();
     host.appStatus().registerPlugin(&plugin);
     EXPECT_FALSE(action("save").isEnabled()) << "there is nothing recorded to be seen";
-    host.appStatus().enterMode(zeb::MemoryMode);
     comeToFront(*plugin.dialog);
+    host.updates().request();
+    EXPECT_TRUE(until([this] { return action("record").isEnabled(); }));
+    action("record").trigger();
+    EXPECT_EQ(host.recorder().getRecordingState(), zeb::RecordLive) << "the plug-in decides";
+    host.appStatus().enterMode(zeb::MemoryMode);
     action("save").trigger();
     action("saveLayout").trigger();
-    EXPECT_EQ(raised, QStringList({"file", "layout"}));
+    EXPECT_EQ(raised, QStringList({"record", "file", "layout"}));
     comeToFront(simulator.window());
     dialogs.saves().order({});
     action("saveLayout").trigger();
     results();
-    EXPECT_EQ(raised, QStringList({"file", "layout", "start"})) << "its timer rests while images are saved";
+    EXPECT_EQ(raised, QStringList({"record", "file", "layout", "start"})) << "its timer rests while images are saved";
     EXPECT_EQ(filesIn("out"), QStringList({"Layout_00000.png", "Layout_00001.png", "Layout_00002.png"}));
     host.appStatus().unregisterPlugin(&plugin);
 }
