@@ -1,19 +1,12 @@
 // A VISA library that lacks the last of the six calls.
 
-#define CALL extern "C" __attribute__((visibility("default"))) int
+#define CALL(name)                                                 \
+    extern "C" __attribute__((visibility("default"))) int name() { \
+        return 0;                                                  \
+    }
 
-CALL viOpenDefaultRM() {
-    return 0;
-}
-CALL viOpen() {
-    return 0;
-}
-CALL viPrintf() {
-    return 0;
-}
-CALL viScanf() {
-    return 0;
-}
-CALL viClose() {
-    return 0;
-}
+CALL(viOpenDefaultRM)
+CALL(viOpen)
+CALL(viPrintf)
+CALL(viScanf)
+CALL(viClose)
