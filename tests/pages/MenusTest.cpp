@@ -1,7 +1,10 @@
 #include "TablePage.h"
+#include "Until.h"
 
 #include <QDialog>
 #include <QRegularExpression>
+#include <QWebFrame>
+#include <QWebView>
 
 namespace {
 
@@ -138,6 +141,81 @@ TEST(PageMenus, ThePartitionBoxOpensAtItsButton) {
     page.tick();
     const auto clicked = [&] { page.run("document.getElementById('btn-recording_partition').click(); return 0"); };
     EXPECT_EQ(page.made(names, clicked), QStringList()) << "the button is disabled";
+}
+
+/// The list of partitions floats over the table; camera 1 is the current one.
+class PagePartitions : public testing::Test {
+protected:
+    PagePartitions() {
+        test.camera(1).change(
+            {{"partitions", 4}, {"partition", 2}, {"partitionNames", QStringList{"Warm-up", "Shot"}}});
+        choose(test, {"1"});
+        page.update();
+        for (QWidget* child : page.window().findChildren<QWidget*>()) {
+            box = child->inherits("GUI_SelectBox") ? child : box;
+        }
+        EXPECT_TRUE(until([this] { return inBox("document.readyState") == "complete"; }));
+    }
+
+    void open() {
+        page.run("wrentabledialog.showLivePartition(30, 400, 120, 24); return 0");
+        EXPECT_TRUE(box->isVisible());
+    }
+    QVariant inBox(const QString& script) {
+        return box->findChild<QWebView*>()->page()->mainFrame()->evaluateJavaScript(script);
+    }
+    QVariant rows() { return inBox("document.querySelectorAll('#items a').length"); }
+
+    TestHost test{connected(2)};
+    TablePage page{test};
+    QWidget* box = nullptr;
+};
+
+TEST_F(PagePartitions, StandOverTheirPlaceAndGoWithTheTable) {
+    open();
+    page.window().setGeometry(260, 140, 1300, 620);
+    EXPECT_EQ(box->geometry(), QRect(260 + 30, 140 + 400 - 6 * 24, 120, 6 * 24));
+    test.calls();
+    page.run("wrentabledialog.hideSelectBox(); return 0");
+    EXPECT_FALSE(box->isVisible());
+    EXPECT_EQ(test.calls(), QStringList()) << "the table hides its own box, not the host's";
+
+    open();
+    page.window().close();
+    EXPECT_TRUE(until([this] { return !page.window().isVisible(); }));
+    EXPECT_FALSE(box->isVisible());
+    page.open();
+    EXPECT_FALSE(box->isVisible()) << "a table that opens again has no list";
+    EXPECT_EQ(test.desk.take(), QStringList("Quit WREN?"));
+    page.settle();
+    choose(test, {"1"});
+    open();
+}
+
+TEST_F(PagePartitions, ShowAChoiceInTheTableAtTheNextUpdate) {
+    const char* name = "wrentabledialog.getCurrentPartition() + wrentabledialog.getCurrentPartitionName()";
+    open();
+    inBox("items.slotNotifyPartition('3')");
+    page.settle();
+    EXPECT_EQ(page.text("$('#recording_partition').text()"), "Partition 3");
+    EXPECT_EQ(page.text(name), "3Partition 3");
+    EXPECT_EQ(rows(), 6);
+    test.camera(1).change({{"connected", false}});
+    EXPECT_EQ(page.text(name), "0");
+    page.update();
+    EXPECT_TRUE(until([this] { return rows() == 0; }));
+}
+
+TEST_F(PagePartitions, WaitForAQuestionOfTheTableAndTheOtherWayRound) {
+    test.desk.whileStanding = [this] { inBox("items.slotNotifyPartition('3')"); };
+    page.run("wrentabledialog.confirm('Sure?')");
+    EXPECT_EQ(test.camera(1).get(&CameraState::partition), 2);
+
+    test.host.faults().plant(1, "setPartition", Fault{"no answer"});
+    test.desk.whileStanding = [this] { page.run("wrentabledialog.setParamLock(['1'], true); return 0"); };
+    inBox("items.slotNotifyPartition('3')");
+    EXPECT_EQ(test.desk.take(), QStringList({"Sure?", "Camera 1: no answer"}));
+    EXPECT_FALSE(test.camera(1).get(&CameraState::locked));
 }
 
 TEST(PagePanels, HandOnWhatIsPressed) {

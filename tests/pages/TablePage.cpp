@@ -238,14 +238,6 @@ QStringList camerasWith(TestHost& test, bool CameraState::*property) {
     return keys;
 }
 
-Rig connected(int cameras) {
-    Rig rig = standardRig(cameras);
-    for (RigDevice& device : rig.devices) {
-        device.heads.first().connected = true;
-    }
-    return rig;
-}
-
 void connectCameras(TestHost& test, DOCKEY first, DOCKEY last) {
     for (DOCKEY key = first; key <= last; ++key) {
         test.camera(key).set(&CameraState::connected, true);

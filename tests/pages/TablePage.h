@@ -96,8 +96,6 @@ using Happening = std::pair<const char*, std::function<void()>>;
 void choose(TestHost& test, const QStringList& keys);
 /// The keys of the cameras that have a property.
 QStringList camerasWith(TestHost& test, bool CameraState::*property);
-/// Cameras of the standard model, all of them connected.
-Rig connected(int cameras);
 /// Connects cameras `first` to `last`.
 void connectCameras(TestHost& test, DOCKEY first, DOCKEY last);
 

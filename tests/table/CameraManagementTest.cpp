@@ -73,12 +73,6 @@ TEST_F(CameraManagementTest, selectionSetsTheCameraBehindTheBatchRow) {
     EXPECT_EQ(calls(), QStringList{"ZebDocManager::deselectDoc [1]"});
     EXPECT_EQ(state.batchDocKey, zeb::NoDocKey);
 
-    host.appStatus().enterMemoryMode();
-    cameras.select({3}, true);
-    EXPECT_EQ(state.batchDocKey, 3U) << "in memory mode the record state does not matter";
-    host.appStatus().enterMode(zeb::FileMode);
-    EXPECT_FALSE(cameras.select({3}, false));
-    host.appStatus().enterLiveMode();
     host.flags().set("IsApplicationClosing", true);
     EXPECT_FALSE(cameras.select({1}, true));
 }

@@ -1,11 +1,5 @@
 #include "DefaultSettings.h"
-#include "JS_Mediator_WrenTableDialog.h"
-#include "PLG_wren.h"
 #include "TableFixture.h"
-
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
 
 using namespace defaultsettings;
 
@@ -49,10 +43,8 @@ TEST(DefaultSettings, listsAndAreas) {
     EXPECT_EQ(areas, (RecordAreas{{1000, {5, 50}}, {2000, {10, 20}}})) << "the later entry of a rate wins";
 }
 
-class DefaultSettingsTest : public TableFixture {
+class DefaultSettingsTest : public BridgeFixture {
 protected:
-    DefaultSettingsTest() { plugin.setHost(&host); }
-
     void store(const QMap<QString, QVariant>& settings) {
         for (auto entry = settings.begin(); entry != settings.end(); ++entry) {
             host.setPref(QStringLiteral("wren/settings/") % entry.key(), entry.value());
@@ -74,61 +66,48 @@ protected:
                {"areasEnable", on},
                {"areas", "1000|0|99"}});
     }
-
-    QJsonObject firstRecord(JS_Mediator_WrenTableDialog& bridge) {
-        const QString reply = bridge.getRecords(R"({"group":"","filter":1,"tab":1})");
-        return QJsonDocument::fromJson(reply.toUtf8()).object()["records"].toArray().first().toObject();
-    }
-
-    static QStringList values(const QJsonValue& list) {
-        QStringList values;
-        for (const auto& entry : list.toArray()) {
-            values.append(entry.isObject() ? entry.toObject()["value"].toVariant().toString() : entry.toString());
-        }
-        return values;
-    }
-
-    PLG_wren plugin;
 };
 
 TEST_F(DefaultSettingsTest, everyOpeningReadsThemAnew) {
     connectAll();
     storeAll(true);
-    JS_Mediator_WrenTableDialog bridge(&host, "wrentabledialog", &plugin);
-    EXPECT_EQ(shown(bridge.state().groups), (QStringList{"Gates=192.168.0.11,192.168.0.12", "Roof=192.168.0.14"}));
-    EXPECT_EQ(bridge.getGroup(), "Gates");
-    EXPECT_EQ(values(firstRecord(bridge)["frameRates"]), (QStringList{"500", "1000"}));
-    EXPECT_EQ(values(firstRecord(bridge)["resolutions"]), (QStringList{"1024 x 1024", "512 x 512"}));
-    EXPECT_EQ(values(firstRecord(bridge)["shutterSpeeds"]), (QStringList{"1000", "5000"}));
-    EXPECT_EQ(bridge.state().sync.frequency, 250);
-    EXPECT_EQ(bridge.state().sync.offered, (QStringList{"125", "250"}));
-    EXPECT_EQ(bridge.state().areas, (RecordAreas{{1000, {0, 99}}}));
+    makeBridge();
+    const TableState& state = bridge->state();
+    EXPECT_EQ(shown(state.groups), (QStringList{"Gates=192.168.0.11,192.168.0.12", "Roof=192.168.0.14"}));
+    EXPECT_EQ(bridge->getGroup(), "Gates");
+    EXPECT_EQ(state.allowed.frameRates, (QStringList{"500", "1000"}));
+    EXPECT_EQ(state.allowed.resolutions, (QStringList{"1024 x 1024", "512 x 512"}));
+    EXPECT_EQ(state.allowed.shutterSpeeds, (QStringList{"1000", "5000"}));
+    EXPECT_EQ(state.sync.frequency, 250);
+    EXPECT_EQ(state.sync.offered, (QStringList{"125", "250"}));
+    EXPECT_EQ(state.areas, (RecordAreas{{1000, {0, 99}}}));
 
-    bridge.onClose();
+    bridge->onClose();
     storeAll(false);
-    bridge.onOpen();
-    EXPECT_EQ(values(firstRecord(bridge)["frameRates"]).size(), 13) << "the camera's own";
-    EXPECT_EQ(values(firstRecord(bridge)["resolutions"]).size(), 5);
-    EXPECT_TRUE(bridge.state().sync.offered.isEmpty());
-    EXPECT_TRUE(bridge.state().areas.isEmpty());
-    EXPECT_EQ(bridge.state().sync.frequency, 250) << "the frequency stays as it was";
-    EXPECT_EQ(bridge.state().groups.size(), 2) << "groups have no switch";
+    bridge->onOpen();
+    EXPECT_EQ(state.allowed.frameRates + state.allowed.resolutions + state.allowed.shutterSpeeds, QStringList());
+    EXPECT_TRUE(state.sync.offered.isEmpty());
+    EXPECT_TRUE(state.areas.isEmpty());
+    EXPECT_EQ(state.sync.frequency, 250) << "the frequency stays as it was";
+    EXPECT_EQ(state.groups.size(), 2) << "groups have no switch";
 }
 
 TEST_F(DefaultSettingsTest, aCameraThatIsArmedKeepsTheTableAsItIs) {
     connectAll();
     storeAll(true);
-    for (const int state : {2, 3}) {
-        change(2, {{"recordState", state}});
-        JS_Mediator_WrenTableDialog bridge(&host, "wrentabledialog", &plugin);
-        EXPECT_TRUE(bridge.state().groups.isEmpty());
-        EXPECT_TRUE(bridge.state().allowed.frameRates.isEmpty());
+    for (const int recordState : {2, 3}) {
+        change(2, {{"recordState", recordState}});
+        makeBridge();
+        EXPECT_TRUE(bridge->state().groups.isEmpty());
+        EXPECT_TRUE(bridge->state().allowed.frameRates.isEmpty());
     }
     change(2, {{"recordState", 1}});
-    EXPECT_EQ(JS_Mediator_WrenTableDialog(&host, "wrentabledialog", &plugin).state().groups.size(), 2);
+    makeBridge();
+    EXPECT_EQ(bridge->state().groups.size(), 2);
 
     host.appStatus().enterMode(zeb::FileMode);
-    EXPECT_TRUE(JS_Mediator_WrenTableDialog(&host, "wrentabledialog", &plugin).state().groups.isEmpty());
+    makeBridge();
+    EXPECT_TRUE(bridge->state().groups.isEmpty());
     EXPECT_FALSE(host.liveLoop().isLivePaused()) << "the loop goes on, whichever way the reading ends";
 }
 

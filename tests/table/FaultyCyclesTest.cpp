@@ -60,6 +60,7 @@ QJsonArray cycle(JS_Mediator_WrenTableDialog& bridge, int tab) {
 class FaultyWorld : public BridgeFixture {
 public:
     using BridgeFixture::bridge;
+    using BridgeFixture::camera;
     using BridgeFixture::change;
 
     /// With the cameras of the fixture, or with so many of the standard model.
@@ -255,8 +256,11 @@ int tryFaults(const Action& action) {
         const States states = world.states();
         for (const QVariant& key : action.name.find("(QVariantList") != std::string::npos ? Keys : QVariantList()) {
             const QVariantMap state = states.value(key.toUInt());
-            EXPECT_TRUE(state == before.value(key.toUInt()) || state == after.value(key.toUInt()))
-                << "camera " << key.toInt() << " stands as it was or as it was to be";
+            // One question about the memory decides on the trigger of all.
+            const bool isSpared = action.mode == zeb::LiveMode && call.key <= 8 && call.operation != "getFrameCount" &&
+                                  &world.camera(key.toUInt()).device() != &world.camera(call.key).device();
+            EXPECT_TRUE(state == after.value(key.toUInt()) || (!isSpared && state == before.value(key.toUInt())))
+                << "camera " << key.toInt() << " stands as it was to be, or as it was when it may meet the fault";
         }
         world.host.faults().clear();
         EXPECT_FALSE(world.bridge->isInCall());

@@ -1,5 +1,3 @@
-#include "JS_Mediator_WrenTableDialog.h"
-#include "PLG_wren.h"
 #include "TableFixture.h"
 
 namespace {
@@ -53,10 +51,8 @@ const Operation Operations[] = {
      ""},
 };
 
-class PermissionsTest : public TableFixture {
+class PermissionsTest : public BridgeFixture {
 protected:
-    PermissionsTest() { plugin.setHost(&host); }
-
     /// The states of the camera in which the operation reaches the host, by name in one line.
     QString allowed(const Operation& operation, int mode) {
         QStringList allowed;
@@ -65,11 +61,11 @@ protected:
             change(
                 1,
                 {{"connected", true}, {"selected", false}, {"locked", false}, {"lowLight", false}, {"recordState", 0}});
-            Bridge bridge(&host, "wrentabledialog", &plugin);
+            makeBridge();
             host.appStatus().enterMode(mode);
             change(1, state.value());
             calls();
-            operation.call(bridge);
+            operation.call(*bridge);
             const QString command = QStringLiteral("::%1 ").arg(QLatin1String(operation.command));
             if (!calls().filter(command).isEmpty()) {
                 allowed.append(state.key());
@@ -77,8 +73,6 @@ protected:
         }
         return allowed.join(' ');
     }
-
-    PLG_wren plugin;
 };
 
 TEST_F(PermissionsTest, whatMayBeChangedWhen) {

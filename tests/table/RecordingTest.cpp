@@ -207,12 +207,11 @@ TEST_F(RecordingTest, playingInStepFollowsTheSignal) {
         host.setPrefBool("sync/external", each.external);
         bridge->state().sync.frequency = each.frequency;
         change(1, each.camera);
-        desk.shown.clear();
         calls();
         bridge->record();
         const QStringList made = calls();
         EXPECT_EQ(made.filter(QRegularExpression("FrameSkip|setPref \\[")), each.asked) << each.sentence;
-        EXPECT_EQ(desk.texts(), each.messages) << each.sentence;
+        EXPECT_EQ(desk.take(), each.messages) << each.sentence;
         EXPECT_EQ(made.filter("ZebRecorder"), Armed) << each.sentence;
         host.recorder().cancelRecording(false);
     }
@@ -257,7 +256,6 @@ TEST_F(RecordingTest, aCameraThatDoesNotAnswerIsNamedAndTheOthersAreArmed) {
         for (const DOCKEY key : {1, 2, 3}) {
             change(key, {{"rate", 1000}, {"recordCheck", true}, {"recordArea", QVariantList{0, 0}}});
         }
-        desk.shown.clear();
         warning.clear();
         host.faults().plant(2, each.operation, {"no answer", 0, false});
         if (!each.warned.isEmpty()) {
@@ -265,7 +263,7 @@ TEST_F(RecordingTest, aCameraThatDoesNotAnswerIsNamedAndTheOthersAreArmed) {
         }
         EXPECT_EQ(press(), Armed);
         EXPECT_EQ(warning, each.warned);
-        EXPECT_EQ(desk.texts(), each.toldAfterwards);
+        EXPECT_EQ(desk.take(), each.toldAfterwards);
         EXPECT_TRUE(bridge->state().recordRunning);
         EXPECT_EQ(stateOf(3, "recordArea").toList(), (QVariantList{-100, 200})) << "the camera behind it";
         EXPECT_FALSE(stateOf(3, "recordCheck").toBool());
@@ -278,37 +276,8 @@ TEST_F(RecordingTest, aCameraThatDoesNotAnswerIsNamedAndTheOthersAreArmed) {
         change(key, {{"locked", true}});
     }
     host.faults().plant(2, "isParamLocked", {"no answer", 0, false});
-    desk.shown.clear();
     EXPECT_EQ(press(), QStringList()) << "nobody knows whether it is locked";
     EXPECT_EQ(desk.texts(), QStringList{"Lock all connected cameras.\nRamp: no answer"});
-}
-
-TEST_F(RecordingTest, aFailureAtTheOpeningKeepsNobodyFromRecording) {
-    bridge->onClose();
-    host.faults().plant(2, "setRecordCheck", {"no answer", 0, false});
-    host.setPrefBool("recording/RecAllConnectedCamera", false);
-    desk.shown.clear();
-    bridge->onOpen();
-    EXPECT_EQ(desk.texts(), QStringList{"Ramp: no answer"});
-    EXPECT_TRUE(host.getPrefBool("recording/RecAllConnectedCamera"));
-    host.faults().clear();
-    EXPECT_EQ(press(), Armed);
-    bridge->onClose();
-    EXPECT_FALSE(host.getPrefBool("recording/RecAllConnectedCamera"));
-}
-
-TEST_F(RecordingTest, liveControlsGoToTheHost) {
-    bridge->stopLive(true);
-    EXPECT_EQ(
-        calls().filter("ZebLiveLoop"),
-        (QStringList{"ZebLiveLoop::pauseLive [0]", "ZebLiveLoop::setStopLive [true,1]", "ZebLiveLoop::resumeLive []"}));
-    bridge->updateLive();
-    bridge->setTriggerTesting(true);
-    bridge->snapShot(3);
-    EXPECT_EQ(
-        calls().filter(QRegularExpression("updateLive|Testing|snapShot")),
-        (QStringList{"ZebLiveLoop::updateLive []", "ZebHost::setTriggerTesting [true]", "ZebSaver::snapShot [3]"}));
-    EXPECT_TRUE(bridge->getTriggerTesting());
 }
 
 TEST_F(RecordingTest, oneReadyDialogStandsAndNoneWhileSettingsAreLoaded) {

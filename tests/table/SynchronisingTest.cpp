@@ -151,12 +151,6 @@ TEST_F(SynchronisingTest, aListOfManyRecordsAsksTheGeneratorOnce) {
     visa.journal();
     EXPECT_EQ(settings("signalGeneratorConnected"), "[true]");
     EXPECT_EQ(visa.journal().filter("FREQ?").size(), 2) << "whether it answers, and what it makes";
-
-    visa.script(R"({"viScanf": {"never": true}})");
-    EXPECT_EQ(alerts(), 0) << "a generator that is lost gives no frequency to compare with";
-    EXPECT_EQ(settings("signalGeneratorAvailable"), "[true]");
-    EXPECT_EQ(settings("signalGeneratorConnected"), "[false]");
-    EXPECT_EQ(desk.texts(), QStringList());
 }
 
 TEST_F(SynchronisingTest, theTableComingBackWhileAGeneratorIsSoughtConnectsNothingTwice) {

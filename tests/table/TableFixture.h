@@ -27,8 +27,10 @@ protected:
 /// With the table's bridge, which a test makes when the host stands as it is to find it.
 class BridgeFixture : public TableFixture {
 protected:
+    BridgeFixture() { plugin.setHost(&host); }
+
     void makeBridge() {
-        plugin.setHost(&host);
+        bridge.reset();  // ends its session before the next one begins
         bridge = std::make_unique<JS_Mediator_WrenTableDialog>(&host, QStringLiteral("wrentabledialog"), &plugin);
     }
 
