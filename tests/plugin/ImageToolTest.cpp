@@ -15,17 +15,10 @@ TEST_F(ImageTool, selectsDocumentsForAToolAsItSaysItself) {
         std::function<void(TestPlugin&)> arrange;
         std::vector<std::string> calls;
     } rows[] = {
-        {"an inactive plug-in changes nothing", [](TestPlugin&) {}, {}},
         {"a tool with a kind becomes the quick tool and is selected",
          [](TestPlugin& p) { p.m_toolKind = 4; },
          {"setQuickTool tool true", "toolSelect tool true"}},
-        {"an active tool selects all documents",
-         [](TestPlugin& p) {
-             p.m_toolActive = true;
-             p.m_buttonType = 2;
-         },
-         {"setQuickTool tool false", "toolSelectAll tool true true"}},
-        {"or the chosen ones, as a quick tool",
+        {"an active tool selects the chosen documents, as a quick tool",
          [](TestPlugin& p) {
              p.m_toolActive = true;
              p.m_buttonType = 3;
@@ -139,12 +132,12 @@ TEST_F(ImageTool, takesItsCursorAlongAndNoOther) {
     {
         TestPlugin plugin(&host);
         plugin.resetCursor();
-        plugin.setCursorForHandle(host.doc(1), ToolRectangle::Inside);
-        plugin.setCursorForHandle(host.doc(1), ToolRectangle::LeftEdge);
+        plugin.setCursorForHandle(doc(1), ToolRectangle::Inside);
+        plugin.setCursorForHandle(doc(1), ToolRectangle::LeftEdge);
         EXPECT_EQ(QApplication::overrideCursor()->shape(), Qt::SizeHorCursor);
-        plugin.setCursorForHandle(host.doc(1), ToolRectangle::Outside);
+        plugin.setCursorForHandle(doc(1), ToolRectangle::Outside);
         EXPECT_EQ(QApplication::overrideCursor()->shape(), Qt::WaitCursor);
-        plugin.setCursorForHandle(host.doc(1), ToolRectangle::Inside);
+        plugin.setCursorForHandle(doc(1), ToolRectangle::Inside);
     }
     ASSERT_NE(QApplication::overrideCursor(), nullptr);
     EXPECT_EQ(QApplication::overrideCursor()->shape(), Qt::WaitCursor);
@@ -179,18 +172,18 @@ TEST_F(ImageTool, answersForDocumentsThatMayBeGone) {
     EXPECT_EQ(plugin.getDocPoint(9), QPoint());
 
     const QRect rect(QPoint(16, 8), QPoint(31, 15));
-    EXPECT_EQ(plugin.toSensorRect(host.doc(1), rect), QRect(QPoint(2, 1), QPoint(3, 1)));
+    EXPECT_EQ(plugin.toSensorRect(doc(1), rect), QRect(QPoint(2, 1), QPoint(3, 1)));
     change({{"scale", 0.0}});
-    EXPECT_EQ(plugin.toSensorRect(host.doc(1), rect), QRect(QPoint(4, 2), QPoint(7, 3))) << "it was not scaled";
+    EXPECT_EQ(plugin.toSensorRect(doc(1), rect), QRect(QPoint(4, 2), QPoint(7, 3))) << "it was not scaled";
 
     plugin.setRect(rect);
-    EXPECT_EQ(plugin.getRectParameters(host.doc(1), true).value(QStringLiteral("PosX")), 16);
+    EXPECT_EQ(plugin.getRectParameters(doc(1), true).value(QStringLiteral("PosX")), 16);
     setToolRect(QRect(3, 4, 5, 6));
-    EXPECT_EQ(plugin.getRectParameters(host.doc(1), true).value(QStringLiteral("PosX")), 3);
+    EXPECT_EQ(plugin.getRectParameters(doc(1), true).value(QStringLiteral("PosX")), 3);
     EXPECT_FALSE(plugin.getRectParameters(nullptr, true).contains(QStringLiteral("ZoomRate")));
     host.setRig(readRig("eight-mixed"));
-    host.camera(5).change({{"connected", true}, {"binningPower", 2}, {"scale", 2.0}});
-    EXPECT_EQ(plugin.toSensorRect(host.doc(5), rect), QRect(QPoint(8, 4), QPoint(15, 7))) << "it cannot bin";
+    camera(5).change({{"connected", true}, {"binningPower", 2}, {"scale", 2.0}});
+    EXPECT_EQ(plugin.toSensorRect(doc(5), rect), QRect(QPoint(8, 4), QPoint(15, 7))) << "it cannot bin";
     plugin.resetRect();
     EXPECT_EQ(plugin.getRect(), QRect(QPoint(0, 0), QPoint(-1, -1)));
 }

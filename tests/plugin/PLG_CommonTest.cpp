@@ -78,11 +78,11 @@ TEST_F(PLG_CommonTest, closesInOrder) {
 
     plugin.m_pauseLiveForDialog = false;
     plugin.showDialog();
-    host.failing = QStringLiteral("closePlugin");
+    fail("closePlugin");
     taken();
     EXPECT_NO_THROW(plugin.slotModelessPatternDialogClosed());
     auto expected = andClosing({});
-    expected.push_back("errorHandler closePlugin");
+    expected.insert(expected.end(), {"critical: \"no answer\"", "error <no answer>"});
     EXPECT_EQ(taken(), expected) << "the deterrence ends when closing fails";
     EXPECT_FALSE(dialog->isVisible());
 }
@@ -154,7 +154,7 @@ TEST_F(PLG_CommonTest, standsPressedByItsType) {
     for (const auto& row : rows) {
         plugin.m_buttonType = row.type;
         row.arrange();
-        EXPECT_EQ(plugin.isChecked(host.doc(1), 0), row.pressed) << row.sentence;
+        EXPECT_EQ(plugin.isChecked(doc(1), 0), row.pressed) << row.sentence;
     }
     plugin.m_modeMask = 7;
     EXPECT_FALSE(plugin.isChecked(nullptr, 0));
@@ -170,9 +170,9 @@ TEST_F(PLG_CommonTest, isAvailableInTheModesOfItsMask) {
     EXPECT_THAT(available, ElementsAre(false, true, false, true, false));
 
     plugin.setOptionForMode(true);
-    host.enterMode(zeb::FileMode);
+    host.appStatus().enterMode(zeb::FileMode);
     EXPECT_FALSE(plugin.getOptionForMode());
-    host.enterMode(zeb::MemoryMode);
+    host.appStatus().enterMode(zeb::MemoryMode);
     EXPECT_TRUE(plugin.getOptionForMode());
 }
 

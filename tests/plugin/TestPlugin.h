@@ -7,7 +7,7 @@
 #include "DOC_Interface.h"
 #include "GUI_ModelessPatternDialog.h"
 #include "JS_Mediator_ModelessPatternDialog.h"
-#include "support/FaultyHost.h"
+#include "support/TestHost.h"
 
 #include <gmock/gmock.h>
 
@@ -26,7 +26,7 @@ public:
     using PLG_Common::m_toolActive;
     using PLG_Common::m_toolKind;
 
-    explicit TestPlugin(FaultyHost* host) {
+    explicit TestPlugin(SimHost* host) {
         setHost(host);
         m_name = QStringLiteral("tool");
         host->appStatus().registerPlugin(this);
@@ -59,9 +59,9 @@ public:
 };
 
 /// A plug-in's host with cameras. Update cycles pass without effect.
-class PluginHost : public testing::Test {
+class PluginHost : public testing::Test, public TestHost {
 protected:
-    explicit PluginHost(int cameras) : host(cameras) {
+    explicit PluginHost(int cameras) : TestHost(connected(cameras)) {
         host.suspendViewer();
         host.flags().set(QStringLiteral("IsUpdateIgnore"), true);
         course.take();
@@ -78,7 +78,7 @@ protected:
         return entries;
     }
 
-    FaultyHost host;
+    MarkedTexts marked;
     Course course;
 };
 
@@ -90,9 +90,9 @@ protected:
         taken();
     }
 
-    void change(const QVariantMap& members) { host.camera(1).change(members); }
+    void change(const QVariantMap& members) { camera(1).change(members); }
     void setToolRect(const QRect& rect) {
-        host.doc(1)->image().setToolRect(QStringLiteral("tool"), rect);
+        doc(1)->image().setToolRect(QStringLiteral("tool"), rect);
         taken();
     }
 };

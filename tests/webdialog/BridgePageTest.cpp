@@ -2,7 +2,6 @@
 #include "GUI_WebPage.h"
 #include "GUI_WebView.h"
 #include "ProbeBridge.h"
-#include "support/FaultyHost.h"
 #include "support/StubPlugin.h"
 
 #include <QLabel>
@@ -17,7 +16,7 @@
 namespace {
 
 /// The real page with a bridge in it.
-class BridgePage : public testing::Test {
+class BridgePage : public BridgeTest {
 protected:
     void SetUp() override {
         host.attachBridge(&view, &bridge);
@@ -31,9 +30,6 @@ protected:
         return eval(QStringLiteral("JSON.stringify(") % script % QStringLiteral(")")).toString().toStdString();
     }
 
-    Course course;
-    FaultyHost host{3};
-    ProbeBridge bridge{&host};
     GUI_WebView view{&host};
 };
 
@@ -58,7 +54,7 @@ TEST_F(BridgePage, PreferencesWithAndWithoutDefaults) {
 }
 
 TEST_F(BridgePage, StateTextsAndBoxes) {
-    host.enterMode(zeb::MemoryMode);
+    host.appStatus().enterMode(zeb::MemoryMode);
     host.appStatus().setWrenRunning(true);
     EXPECT_EQ(json("[JSON.parse(probe.getControlStatus()).IsMemoryMode, probe.countMdiWindow()]"), "[true,3]");
     EXPECT_EQ(json("[probe.isLiveMode(), probe.isMemoryMode(), probe.isFileMode(), probe.isWrenRunning()]"),
@@ -70,7 +66,7 @@ TEST_F(BridgePage, StateTextsAndBoxes) {
 
     EXPECT_EQ(json("probe.load('no.txt')"), "\"\"");
     eval("probe.info('i'); probe.warn('w'); probe.warn('w', ['1', '2']); probe.alert('a'); probe.alert('a', ['3'])");
-    host.desk.answers = {{false, false}};
+    desk.answers = {{false, false}};
     EXPECT_EQ(json("probe.confirm('c')"), "false");
     eval("probe.deterUpdateUI(true); probe.updateUI()");
     QStringList entries = course.take();
@@ -82,7 +78,7 @@ TEST_F(BridgePage, StateTextsAndBoxes) {
 }
 
 TEST_F(BridgePage, DevicesAndKeysArriveAsTheyAre) {
-    host.camera(2).change({{"alias", "</script><b>\"'"}, {"selected", true}});
+    camera(2).change({{"alias", "</script><b>\"'"}, {"selected", true}});
     eval("var device = probe.getDeviceInfoList(false)[1]");
     EXPECT_EQ(json("[device.key, device.devicename, device.cameraname, device.headno, device['con-wifi']]"),
               R"(["2","</script><b>\"'","Camera 2",1,""])");
@@ -90,19 +86,22 @@ TEST_F(BridgePage, DevicesAndKeysArriveAsTheyAre) {
     EXPECT_EQ(json("JSON.parse(probe.getCalibrationUnits())[1].view"), R"("<mm>")");
 
     // As often as not a page hands over numbers for texts, and fractions of pixels.
+    windows.listRect = {5, 6, 1, 1};
     course.take();
     eval(
         "probe.setSelectDoc(4294967294); probe.showDropDownBox('a', 1.6, 2, 3, 4);"
-        "probe.hideDropDownBox('a'); probe.hideDropDownBox('a', 5, 6); probe.closePlugin(); probe.closePlugin('lut')");
-    const QStringList calls = course.take().filter(QRegularExpression("^(setSel|showDrop|hideDrop|closeP)"));
-    EXPECT_EQ(calls, QStringList({"setSelectedDocs 4294967294 0", "showDropDownBox a 2 2 3 4", "hideDropDownBox a",
-                                  "hideDropDownBoxAt a 5 6", "closePanel", "closePlugin lut"}));
+        "probe.hideDropDownBox('a'); probe.hideDropDownBox('b', 5, 6); probe.hideDropDownBox('c', 6, 5); "
+        "probe.closePlugin(); probe.closePlugin('lut')");
+    const QStringList calls = course.take().filter(QRegularExpression("^(setSel|list|hide|closeP)"));
+    EXPECT_EQ(calls, QStringList({"setSelectedDocs 4294967294 0", "list a 2 2 3 4", "hide a", "hide c", "closePanel",
+                                  "closePlugin lut"}));
 }
 
 TEST_F(BridgePage, FailureLooksLikeANormalReturn) {
-    host.faults().plant(FaultPlan::Host, "*", {"no answer"});
+    fail("getPrefInt");
+    fail("getPrefString");
     EXPECT_EQ(json("[prefs.getPrefInt('a', 3), prefs.getPrefString('a', 'x'), probe.getStyle()]"), R"([0,"",""])");
-    EXPECT_EQ(course.take().count("errorHandler no answer"), 1) << "three questions have met one failure";
+    EXPECT_EQ(course.take().count("error <no answer>"), 1) << "three questions have met one failure";
     // A slot that does not exist, and one with arguments missing, are the page's own faults.
     eval("probe.noSuchSlot()");
     eval("probe.setPrefInt('a')");
@@ -186,15 +185,8 @@ TEST_F(BridgePage, ObjectElementsGetTheHostsWidgets) {
     host.setMdiWidget(&area);
     const QList<QPair<QString, QString>> panels = {
         {"histogram", "histogram"},
-        {"lineprofile", "lineprofile"},
-        {"lut", "lut"},
         {"sensorlut", "m_sensorlut"},
         {"livecontrol_hwimage_trigger_histogram", "livecontrol"},
-        {"livecontrol_auto_exposure_histogram", "livecontrol"},
-        {"imagetrigger_histogram", "imagetrigger"},
-        {"analoggain", "m_analoggain"},
-        {"focuscheck", "m_focuscheck"},
-        {"colorcorrection_histgram", "colorcorrection"},
     };
     OpenPage page(&host);
     EXPECT_EQ(page.createPlugin("mdi", {}, {}, {}), &area);

@@ -1,10 +1,9 @@
 #include "Camera.h"
 #include "ControlStatus.h"
+#include "Files.h"
 #include "ProbeBridge.h"
-#include "support/FaultyHost.h"
 #include "support/StubPlugin.h"
 
-#include <QFile>
 #include <QJsonDocument>
 #include <QJsonObject>
 
@@ -13,8 +12,13 @@
 namespace {
 
 /// A host in live mode with two cameras, where nothing goes on.
-class ControlStatusTest : public testing::Test {
+class ControlStatusTest : public BridgeTest {
 protected:
+    ControlStatusTest() {
+        change(3, "connected", false);
+        idle = status();
+    }
+
     QJsonObject status(DOC_Interface* doc = nullptr) {
         const QByteArray text = bridge.getControlStatus(doc).toUtf8();
         const QJsonObject object = QJsonDocument::fromJson(text).object();
@@ -35,19 +39,15 @@ protected:
         return changed;
     }
     void change(DOCKEY key, const char* member, const QVariant& value) {
-        host.camera(key).change({{QLatin1String(member), value}});
+        camera(key).change({{QLatin1String(member), value}});
     }
 
-    Course course;
-    FaultyHost host{2};
-    ProbeBridge bridge{&host};
-    QJsonObject idle = status();
+    QJsonObject idle;
 };
 
 TEST_F(ControlStatusTest, NamesEveryState) {
-    QFile file(":/webdialog/expected/controlstatus.json");
-    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-    EXPECT_EQ(QJsonDocument(idle).toJson().toStdString(), file.readAll().toStdString());
+    EXPECT_EQ(QJsonDocument(idle).toJson().toStdString(),
+              contentOf(":/webdialog/expected/controlstatus.json").toStdString());
 }
 
 TEST_F(ControlStatusTest, AStateOfTheHostSwitchesTheOneOfItsName) {
@@ -87,7 +87,7 @@ TEST_F(ControlStatusTest, CountsAndModes) {
     EXPECT_EQ(changes(), QStringList("+IsAutoExpoting")) << "cycling is blocked, the table does not run";
     host.appStatus().setWrenRunning(true);
     EXPECT_EQ(changes(), QStringList({"+IsAllWrenLockDevice", "+IsAutoExpoting", "+IsWren"}));
-    host.enterMode(zeb::MemoryMode);
+    host.appStatus().enterMode(zeb::MemoryMode);
     EXPECT_EQ(changes(), QStringList({"+IsMemoryMode", "+IsWren", "-IsLiveMode", "-IsNotCurrentAutoFocus"}));
 }
 
@@ -111,7 +111,7 @@ TEST_F(ControlStatusTest, PreferencesAndTheCurrentPlugin) {
         EXPECT_EQ(changes().join(' '), expected);
     }
     pref("AutoDownload", false);
-    host.enterMode(zeb::MemoryMode);
+    host.appStatus().enterMode(zeb::MemoryMode);
     EXPECT_FALSE(changes().contains("+IsLiveNoAutoDownloadSetting"));
 }
 
@@ -125,7 +125,7 @@ TEST_F(ControlStatusTest, DocumentIsTheCurrentOneOrTheOneGiven) {
                                                                              {"cfast", "+IsExternalMediaSelected"}}) {
         change(1, member, true);
         EXPECT_EQ(changes(), QStringList(expected));
-        EXPECT_EQ(changes(host.doc(2)), QStringList());
+        EXPECT_EQ(changes(doc(2)), QStringList());
         change(1, member, false);
     }
     change(1, "connected", false);
@@ -133,12 +133,12 @@ TEST_F(ControlStatusTest, DocumentIsTheCurrentOneOrTheOneGiven) {
     change(1, "connected", true);
 
     change(2, "locked", true);
-    EXPECT_EQ(changes(host.doc(2)), QStringList()) << "only the table locks";
+    EXPECT_EQ(changes(doc(2)), QStringList()) << "only the table locks";
     host.appStatus().setWrenRunning(true);
-    EXPECT_EQ(changes(host.doc(2)), QStringList({"+IsWren", "+IsWrenLockDevice"}));
+    EXPECT_EQ(changes(doc(2)), QStringList({"+IsWren", "+IsWrenLockDevice"}));
     EXPECT_EQ(changes(), QStringList("+IsWren"));
-    host.enterMode(zeb::FileMode);
-    EXPECT_FALSE(changes(host.doc(2)).contains("+IsWrenLockDevice"));
+    host.appStatus().enterMode(zeb::FileMode);
+    EXPECT_FALSE(changes(doc(2)).contains("+IsWrenLockDevice"));
 }
 
 QSet<QString> keysOf(const QString& json) {
@@ -149,7 +149,7 @@ QSet<QString> keysOf(const QString& json) {
 TEST_F(ControlStatusTest, AFailureIsToldOnceUntilTheStatesAreWholeAgain) {
     change(1, "selected", true);
     const QString whole = bridge.getControlStatus();
-    const QStringList told{"pause", "critical: \"Camera 1: no answer\"", "errorHandler Camera 1: no answer", "resume"};
+    const QStringList told{"pause", "critical: \"Camera 1: no answer\"", "error <Camera 1: no answer>", "resume"};
     const QStringList over{"pause", "critical: \"Camera 1: no answer\" is no longer met, after 2 times.", "resume"};
     for (int i = 0; i < 2; ++i) {
         host.faults().plant(1, "isSuspendReduce", {"no answer", 0, false});
@@ -165,6 +165,83 @@ TEST_F(ControlStatusTest, AFailureIsToldOnceUntilTheStatesAreWholeAgain) {
     }
     host.faults().plant(FaultPlan::Host, "*", {"no answer"});
     EXPECT_EQ(bridge.getControlStatus(), QString()) << "nothing can be said of a host that fails";
+}
+
+/// Three cameras, the second not connected.
+class DeviceInfo : public BridgeTest {
+protected:
+    void SetUp() override { camera(2).set(&CameraState::connected, false); }
+
+    QString keys(bool isMinilist) {
+        QStringList texts;
+        for (const QVariant& device : bridge.getDeviceInfoList(isMinilist)) {
+            texts += device.toMap()["key"].toString();
+        }
+        return texts.join(' ');
+    }
+    QJsonObject entry(int index) {
+        return QJsonObject::fromVariantMap(bridge.getDeviceInfoList(false).value(index).toMap());
+    }
+
+    QString values(int index) {
+        QStringList texts;
+        for (const QVariant& value : entry(index).toVariantMap()) {
+            texts += value.toString();
+        }
+        return texts.join('|');
+    }
+};
+
+TEST_F(DeviceInfo, OnlyTheShortListInLiveModeLeavesOut) {
+    EXPECT_FALSE(bridge.getConnectedCameraShowing());
+    const struct {
+        int mode;
+        bool mini;
+        bool onlyConnected;
+        const char* keys;
+    } cases[] = {
+        {zeb::LiveMode, false, false, "1 2 3"},  {zeb::LiveMode, false, true, "1 2 3"},
+        {zeb::LiveMode, true, false, "1 2 3"},   {zeb::LiveMode, true, true, "1 3"},
+        {zeb::MemoryMode, true, true, "1 2 3"},  {zeb::FileMode, true, true, "1 2 3"},
+        {zeb::MemoryMode, false, true, "1 2 3"},
+    };
+    for (const auto& row : cases) {
+        host.appStatus().enterMode(row.mode);
+        bridge.setConnectedCameraShowing(row.onlyConnected);
+        EXPECT_EQ(bridge.getConnectedCameraShowing(), row.onlyConnected);
+        EXPECT_EQ(keys(row.mini), row.keys) << row.mini << row.mode << row.onlyConnected;
+    }
+}
+
+TEST_F(DeviceInfo, TellsNamesAndMarks) {
+    host.setRig(readRig(":/webdialog/rigs/functions.json"));
+    camera(2).change({{"alias", "alias"}});
+    for (const char* mark : {"connected", "mobile", "selected", "slowLink", "wifi"}) {
+        camera(2).change({{mark, true}});
+    }
+    EXPECT_EQ(entry(1).keys().join(' '),
+              "cameraname con-wifi devicename dummy found headno ipaddress key mobile selected shutdown sup-linkspeed "
+              "sup-wifi");
+    EXPECT_EQ(values(1), QString(camera(2).name() + "|connected|alias|dummy|found|2|192.168.0.10|2|mobile|"
+                                                    "ui-selected|sup-shutdown|sup-linkspeed|sup-wifi"));
+    EXPECT_EQ(values(2), "\"><img src=x>||log|||1|192.168.0.11|3|||||");
+}
+
+TEST_F(DeviceInfo, ACameraThatFailsEndsTheList) {
+    camera(2).set(&CameraState::connected, true);
+    host.faults().plant(2, "isFunctionSupported", {"no answer", 0, false});
+    EXPECT_EQ(keys(false), "1 2");
+    EXPECT_EQ(course.take(),
+              QStringList({"pause", "critical: \"Camera 2: no answer\"", "error <Camera 2: no answer>", "resume"}));
+    EXPECT_EQ(entry(0)["found"], "found");
+    EXPECT_EQ(entry(1)["cameraname"], "Camera 2");
+    EXPECT_EQ(entry(1)["found"], "");
+    EXPECT_EQ(entry(1)["sup-linkspeed"], "");
+}
+
+TEST_F(DeviceInfo, SelectedKeysAreDecimalTexts) {
+    host.docManager().setSelectedDocs({1, 3}, 0);
+    EXPECT_EQ(bridge.getSelectedDockey(), QVariantList({"1", "3"}));
 }
 
 }  // namespace

@@ -1,12 +1,14 @@
 #include "DocumentGuard.h"
-#include "support/FaultyHost.h"
+#include "support/TestHost.h"
 
 #include <gtest/gtest.h>
 
 namespace {
 
-class Guard : public testing::Test {
+class Guard : public testing::Test, public TestHost {
 protected:
+    Guard() : TestHost(connected(3)) { course.take(); }
+
     /// Whether the mutex of document work is free, as another thread would see it.
     bool mutexIsFree() {
         QMutex* mutex = host.docManager().getDocMutex();
@@ -18,7 +20,6 @@ protected:
     }
 
     Course course;
-    FaultyHost host{3};
 };
 
 const QStringList Refreshed = {"refresh 1 true", "refresh 2 true", "refresh 3 true"};
@@ -42,10 +43,10 @@ TEST_F(Guard, UndoesWhatItDidWhateverTheModeIsByThen) {
         {"from memory to live", 1, 0, true, true, {"pausePlayer", "resumePlayer"}},
     };
     for (const auto& row : cases) {
-        host.enterMode(row.modeBefore);
+        host.appStatus().enterMode(row.modeBefore);
         DocumentGuard guard(host, row.restart, row.refresh);
         EXPECT_FALSE(mutexIsFree());
-        host.enterMode(row.modeAfter);
+        host.appStatus().enterMode(row.modeAfter);
         guard.release();
         EXPECT_TRUE(mutexIsFree());
         guard.release();
@@ -64,16 +65,16 @@ TEST_F(Guard, NestsAndLeavesAMutexThatItDidNotGet) {
 }
 
 TEST_F(Guard, FailureLeavesNothingPaused) {
-    host.failing = "refresh";
+    host.faults().plant(1, "refresh", {"no answer"});
     DocumentGuard guard(host);
     EXPECT_THROW(guard.release(), std::runtime_error);
     EXPECT_EQ(course.take(), QStringList({"pauseLive 0", "refresh 1 true", "resumeLive"}));
     EXPECT_TRUE(mutexIsFree());
 
     { const DocumentGuard forgotten(host); }
-    EXPECT_EQ(course.take().last(), "critical: \"refresh\"");
+    EXPECT_EQ(course.take().last(), "critical: \"Camera 1: no answer\"");
 
-    host.failing = "restartLive";
+    fail("restartLive");
     EXPECT_THROW(DocumentGuard(host, true), std::runtime_error);
     EXPECT_EQ(course.take(), Restarted + Committed);
     EXPECT_TRUE(mutexIsFree());

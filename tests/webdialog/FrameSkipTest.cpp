@@ -1,6 +1,5 @@
 #include "Camera.h"
 #include "ProbeBridge.h"
-#include "support/FaultyHost.h"
 
 #include <gtest/gtest.h>
 
@@ -101,16 +100,16 @@ TEST(FrameSkip, FollowsWhatIsExported) {
         {"no rate known", Blank, SkipByTime, zeb::MemoryMode, 9, "1 4294967295", 0, {"mode 0", "apply 9"}},
     };
     for (const auto& row : cases) {
-        FaultyHost host{3};
-        host.camera(1).change(recording(500, 50, 7));
-        host.camera(2).change(recording(1500, 75, 5));
-        host.enterMode(row.operatingMode);
+        TestHost test(connected(3));
+        test.camera(1).change(recording(500, 50, 7));
+        test.camera(2).change(recording(1500, 75, 5));
+        test.host.appStatus().enterMode(row.operatingMode);
         ExportTargets targets;
         for (auto target = row.targets.begin(); target != row.targets.end(); ++target) {
-            targets.insert(host.doc(target.key()), target.value());
+            targets.insert(test.doc(target.key()), target.value());
         }
         Course course;
-        ExportBridge bridge(&host);
+        ExportBridge bridge(&test.host);
         bridge.mode = row.mode;
         bridge.frames = row.frames;
         bridge.refreshSkipFrames(targets);

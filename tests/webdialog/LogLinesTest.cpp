@@ -5,7 +5,6 @@
 #include "ProbeBridge.h"
 #include "TraceScope.h"
 #include "UTL_Exception.h"
-#include "support/FaultyHost.h"
 
 #include <QtConcurrent>
 
@@ -28,8 +27,8 @@ void expectLines(const QList<LogCase>& cases) {
 }
 
 TEST(LogLines, ScopesTellNameAndArguments) {
-    FaultyHost host;
-    ProbeBridge bridge(&host);
+    TestHost test;
+    ProbeBridge bridge(&test.host);
     expectLines({
         {"a scope without arguments",
          [] { TraceScope scope("A::b"); },
@@ -59,8 +58,8 @@ TEST(LogLines, ScopesTellNameAndArguments) {
 }
 
 TEST(LogLines, UserOperations) {
-    FaultyHost host;
-    ProbeBridge bridge(&host);
+    TestHost test;
+    ProbeBridge bridge(&test.host);
     expectLines({
         {"the id tells the element, and the class is dropped",
          [&] { bridge.userOperationLogWebView("qrc:/a.html", "change", "select", "rate", "list", 2000); },

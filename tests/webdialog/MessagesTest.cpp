@@ -2,16 +2,14 @@
 #include "PlainText.h"
 #include "RUN_ProgressThreadInterface.h"
 #include "ReadyProgress.h"
-#include "UTL_CustomAction.h"
 #include "UTL_Messages.h"
-#include "support/FaultyHost.h"
 #include "support/StubPlugin.h"
+#include "support/TestHost.h"
 
 #include <QApplication>
 #include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
-#include <QSignalSpy>
 #include <QTest>
 #include <QThread>
 #include <QTimer>
@@ -22,7 +20,7 @@ namespace {
 
 const char* const Markup = "<img src=x> & \"it\"<br>second line";
 
-class Messages : public testing::Test {
+class Messages : public testing::Test, public TestHost {
 protected:
     /// What the user does as soon as a modal dialog stands.
     template <typename Dialog>
@@ -34,8 +32,8 @@ protected:
         });
     }
 
+    MarkedTexts marked;
     Course course;
-    FaultyHost host;
     QWidget mainWindow;
 };
 
@@ -45,7 +43,7 @@ TEST_F(Messages, WarningShowsPlainTextAndAnswers) {
         EXPECT_EQ(box->parent(), &mainWindow);
         EXPECT_EQ(box->textFormat(), Qt::PlainText);
         EXPECT_EQ(box->text(), "<img src=x> & \"it\"\nsecond line");
-        EXPECT_EQ(box->windowTitle(), "Warning");
+        EXPECT_EQ(box->windowTitle(), "<Warning>");
         EXPECT_EQ(box->icon(), QMessageBox::Warning);
         EXPECT_EQ(box->button(QMessageBox::Cancel)->text(), "<Cancel>");
         EXPECT_EQ(box->styleSheet(), "QDialog { color: #010101; }\n");
@@ -65,14 +63,14 @@ TEST_F(Messages, WarningWithOwnButtonTexts) {
     QWidget parent;
     whenModal<QMessageBox>([&](QMessageBox* box) {
         EXPECT_EQ(box->parent(), &parent);
-        EXPECT_EQ(box->button(QMessageBox::Ok)->text(), "Yes");
-        EXPECT_EQ(box->button(QMessageBox::Cancel)->text(), "No");
+        EXPECT_EQ(box->button(QMessageBox::Ok)->text(), "<Yes>");
+        EXPECT_EQ(box->button(QMessageBox::Cancel)->text(), "<No>");
         EXPECT_EQ(box->styleSheet(), "QMessageBox { color: #030303; }\n");
         QTest::keyClick(box, Qt::Key_Escape);
     });
     EXPECT_FALSE(UTL_Messages::warnOkCancel("go on?", host, &parent,
                                             {{QMessageBox::Ok, "Yes"}, {QMessageBox::Cancel, "No"}, {7, "odd"}}));
-    EXPECT_TRUE(course.take().contains("info: \"[go on?][result:Cancel]\""));
+    EXPECT_TRUE(course.take().contains("info: \"[<go on?>][result:Cancel]\""));
 }
 
 TEST_F(Messages, AWarningOfManyLinesLeavesItsButtonsOnTheScreen) {
@@ -82,7 +80,7 @@ TEST_F(Messages, AWarningOfManyLinesLeavesItsButtonsOnTheScreen) {
     }
     whenModal<QMessageBox>([&](QMessageBox* box) {
         EXPECT_LT(box->height(), 800);
-        EXPECT_EQ(box->detailedText(), lines.join('\n'));
+        EXPECT_EQ(box->detailedText(), QString('<' + lines.join('\n') + '>'));
         box->button(QMessageBox::Ok)->click();
     });
     EXPECT_TRUE(UTL_Messages::warnOkCancel(lines.join('\n'), host));
@@ -179,20 +177,6 @@ TEST_F(Messages, ReadyProgressStandsOverTheTable) {
     host.setMainWindow(&mainWindow);
     const QScopedPointer<GUI_ProgressDialog> alone(makeReadyProgressDialog("Ready...", host));
     EXPECT_EQ(alone->parent(), &mainWindow);
-}
-
-TEST_F(Messages, ActionHandsOverItsMapOrItsValue) {
-    UTL_CustomAction byValue("Delete", 5, {}, nullptr);
-    QSignalSpy value(&byValue, &UTL_CustomAction::signalTriggered);
-    byValue.trigger();
-    EXPECT_EQ(value.value(0).value(0).toInt(), 5);
-
-    UTL_CustomAction byMap("Delete", 5, {{"key", 3}}, nullptr);
-    QSignalSpy noValue(&byMap, &UTL_CustomAction::signalTriggered);
-    QSignalSpy map(&byMap, &UTL_CustomAction::signalTriggeredMap);
-    byMap.trigger();
-    EXPECT_EQ(map.value(0).value(0).toMap().value("key"), 3);
-    EXPECT_TRUE(noValue.isEmpty());
 }
 
 }  // namespace

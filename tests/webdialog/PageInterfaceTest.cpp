@@ -1,8 +1,8 @@
 #include "Course.h"
+#include "Files.h"
 #include "JS_Mediator_ModelessPatternDialog.h"
 #include "JS_Mediator_Plugin.h"
 
-#include <QFile>
 #include <QMetaMethod>
 
 #include <gtest/gtest.h>
@@ -24,8 +24,6 @@ QString methods(const QMetaObject& type, QMetaMethod::MethodType kind, const cha
 }
 
 TEST(PageInterface, SlotsAndSignalsOfEveryBridge) {
-    QFile file(":/webdialog/expected/pageinterface.txt");
-    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
     const QStringList found = {
         methods(JS_Mediator::staticMetaObject, QMetaMethod::Slot, "slots"),
         methods(JS_Mediator_Dialog::staticMetaObject, QMetaMethod::Slot, "slots"),
@@ -34,7 +32,7 @@ TEST(PageInterface, SlotsAndSignalsOfEveryBridge) {
         methods(JS_Mediator::staticMetaObject, QMetaMethod::Signal, "signals"),
         methods(JS_Mediator_Dialog::staticMetaObject, QMetaMethod::Signal, "signals"),
     };
-    EXPECT_EQ(found.join('\n').toStdString(), file.readAll().toStdString());
+    EXPECT_EQ(found.join('\n').toStdString(), contentOf(":/webdialog/expected/pageinterface.txt").toStdString());
 }
 
 }  // namespace

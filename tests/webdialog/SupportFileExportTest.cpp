@@ -3,7 +3,6 @@
 #include "RigFile.h"
 #include "SupportFileExport.h"
 #include "ZebSupportFile.h"
-#include "support/FaultyHost.h"
 
 #include <QApplication>
 #include <QEventLoop>
@@ -20,28 +19,27 @@
 
 namespace {
 
-/// Says how long its progress stands and how the writing ends.
-class ExportHost : public FaultyHost {
+/// Says how the writing ends.
+class ExportHost : public SimHost {
 public:
+    using SimHost::SimHost;
+
     bool tableStands = false;
-    std::function<void(QFutureWatcherBase&)> onProgress;
     /// Runs on the worker's thread.
     std::function<bool(const QString&, const ZebSupportFile&)> onExport;
 
     bool hasWrenWindow() const override { return tableStands; }
-    void execProgress(const QString& text, QFutureWatcherBase& watcher) override {
-        if (!onProgress) {
-            return FaultyHost::execProgress(text, watcher);
-        }
-        tell("execProgress", {text});
-        onProgress(watcher);
-    }
     bool exportSupportFile(const QString& path, const ZebSupportFile& file) override { return onExport(path, file); }
 };
 
 class SupportFile : public testing::Test {
 protected:
-    void SetUp() override { host.prefs().setValue("support/dir", dir.path()); }
+    SupportFile() {
+        noteCalls(host);
+        host.setWindows(&windows);
+        host.prefs().setValue("support/dir", dir.path());
+    }
+
     /// What the user does with the file dialog as soon as it stands.
     static void inFileDialog(const std::function<void(QFileDialog*)>& action) {
         QTimer::singleShot(0, qApp, [action] {
@@ -67,8 +65,13 @@ protected:
     }
 
     QTemporaryDir dir;
+    QTemporaryDir own;
+    SteppedClock clock;
+    ScriptedDesk desk;
+    ExportHost host{clock, desk, own.filePath("prefs.ini")};
+    MarkedTexts marked;
     Course course;
-    ExportHost host;
+    NotedWindows windows;
     ProbeBridge bridge{&host};
 };
 
@@ -96,7 +99,7 @@ TEST_F(SupportFile, TellsWhatItHolds) {
             host.faults().plant(key, "*", {{}, 0, key != row.camera});
         }
         host.tableStands = row.wren;
-        host.desk.answers = {{false, false}};
+        desk.answers = {{false, false}};
         bridge.openExportSupportFileDialog();
         EXPECT_EQ(course.take(),
                   QStringList({"pause", "info: [ENTER] \"JS_Mediator::openExportSupportFileDialog\" \"\"", row.question,
@@ -139,33 +142,35 @@ TEST_F(SupportFile, IsNotWrittenWithoutAName) {
 }
 
 TEST_F(SupportFile, AFailureIsShownOnceAndNothingIsStored) {
-    const QString shown = "errorHandler Failed to save support file.";
+    const QString failure = "Failed to save support file.";
     const QString logged = "critical: \"APP_Exception:[message:Failed to save support file.] [errorCode:0] \"";
     const struct {
         const char* sentence;
         bool written;
         std::function<void(QFutureWatcherBase&)> progress;
-        QString box;
+        QString told;
     } cases[] = {
-        {"it is told behind the progress", false, {}, shown},
-        {"and if the progress left early", false, [](QFutureWatcherBase&) {}, shown},
+        {"it is told behind the progress", false, {}, failure},
+        {"and if the progress left early", false, [](QFutureWatcherBase&) {}, failure},
         {"a progress that fails is told itself", false,
-         [](QFutureWatcherBase&) { throw std::runtime_error("no window"); }, "errorHandler no window"},
+         [](QFutureWatcherBase&) { throw std::runtime_error("no window"); }, "no window"},
         {"though the file is written", true, [](QFutureWatcherBase&) { throw std::runtime_error("no window"); },
-         "errorHandler no window"},
+         "no window"},
     };
     for (const auto& row : cases) {
-        host.onProgress = row.progress;
+        windows.onProgress = row.progress;
         host.onExport = [&row](const QString&, const ZebSupportFile&) { return row.written; };
         exportTo(dir.filePath("elsewhere.zip"));
         QStringList entries = calls();
         EXPECT_EQ(entries.removeAll(logged), row.written ? 0 : 1) << row.sentence;
-        EXPECT_EQ(entries, QStringList({"execProgress Saving...", row.box})) << row.sentence;
+        EXPECT_EQ(entries,
+                  QStringList({"execProgress Saving...", "critical: \"" + row.told + '"', "error <" + row.told + '>'}))
+            << row.sentence;
     }
-    host.onProgress = nullptr;
+    windows.onProgress = nullptr;
     host.onExport = [](const QString&, const ZebSupportFile&) -> bool { throw std::runtime_error("disk"); };
     exportTo(dir.filePath("elsewhere.zip"));
-    EXPECT_EQ(calls().filter("errorHandler"), QStringList("errorHandler disk"));
+    EXPECT_EQ(calls().filter("error "), QStringList("error <disk>"));
     EXPECT_EQ(host.prefs().value("support/dir"), dir.path());
 }
 
@@ -182,7 +187,7 @@ TEST_F(SupportFile, NoWorkerOutlivesTheCall) {
     };
     for (const bool fails : {false, true}) {
         ended = false;
-        host.onProgress = [&](QFutureWatcherBase&) {
+        windows.onProgress = [&](QFutureWatcherBase&) {
             left.release();
             if (fails) {
                 throw 42;
@@ -190,7 +195,7 @@ TEST_F(SupportFile, NoWorkerOutlivesTheCall) {
         };
         exportTo(dir.filePath("late.zip"));
         EXPECT_TRUE(ended) << fails;
-        EXPECT_EQ(course.take().contains("errorHandler Unknown failure."), fails);
+        EXPECT_EQ(course.take().contains("error <Unknown failure.>"), fails);
     }
 }
 

@@ -3,7 +3,6 @@
 #include "ProbeBridge.h"
 #include "UTL_Messages.h"
 #include "WindowPlacement.h"
-#include "support/FaultyHost.h"
 #include "support/StubPlugin.h"
 
 #include <QPushButton>
@@ -19,7 +18,7 @@ namespace {
 
 const QString ProbePage = QStringLiteral("qrc:/probe.html");
 
-class WebDialog : public testing::Test {
+class WebDialog : public testing::Test, public TestHost {
 protected:
     void SetUp() override {
         host.appStatus().registerPlugin(&plugin);
@@ -43,8 +42,8 @@ protected:
         return dialog.getWebView()->page()->mainFrame()->evaluateJavaScript(script);
     }
 
+    MarkedTexts marked;
     Course course;
-    FaultyHost host;
     StubPlugin plugin{QStringLiteral("wren")};
     ProbeBridge* bridge = new ProbeBridge(&host);  // the dialog's
 };
@@ -192,17 +191,16 @@ TEST_F(WebDialog, ActivationTellsTheHostAndReselectsTheTool) {
     QCoreApplication::sendEvent(dialog, &activate);
     EXPECT_EQ(course.take(), QStringList("notifyPluginShown"));
     plugin.reselect = true;
-    host.failing = "setQuickTool";
+    fail("setQuickTool");
     QCoreApplication::sendEvent(dialog, &activate);
-    EXPECT_EQ(course.take(),
-              QStringList({"setQuickTool wren false", "critical: \"setQuickTool\"", "notifyPluginShown"}));
+    EXPECT_EQ(course.take(), QStringList({"setQuickTool wren false", "critical: \"no answer\"", "notifyPluginShown"}));
 }
 
 TEST_F(WebDialog, CloseDuringACallComesOnceWhenTheCallHasEnded) {
     auto* dialog = makeModeless();
     ASSERT_TRUE(waitForLoad(*dialog));
     dialog->show();
-    host.desk.whileStanding = [&] {
+    desk.whileStanding = [&] {
         EXPECT_FALSE(dialog->close());
         EXPECT_FALSE(dialog->close());
         QCoreApplication::processEvents();
@@ -242,7 +240,7 @@ TEST_F(WebDialog, PageOutlivesItsDialogUntilTheCallHasEnded) {
     const QPointer<ProbeBridge> main(bridge);
     const QPointer<ProbeBridge> second(extra);
     ASSERT_TRUE(waitForLoad(*dialog));
-    host.desk.whileStanding = [&] {
+    desk.whileStanding = [&] {
         delete dialog;
         QCoreApplication::processEvents();
         EXPECT_TRUE(view && main && second);

@@ -1,8 +1,8 @@
+#include "Files.h"
 #include "FullDisk.h"
 #include "WholeFile.h"
 
 #include <QDir>
-#include <QFile>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
@@ -30,9 +30,7 @@ TEST(WholeFile, IsTheNewOneOrTheOldOneWithTheReason) {
             reason = writeWholeFile(path, bytes);
         }
         EXPECT_EQ(reason.isEmpty(), c.isWritten) << c.what << ": " << reason.toStdString();
-        QFile file(path);
-        ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-        EXPECT_EQ(file.readAll(), c.isWritten ? bytes : QByteArray("old")) << c.what;
+        EXPECT_EQ(contentOf(path), c.isWritten ? bytes : QByteArray("old")) << c.what;
         EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files | QDir::Hidden).size(), 1) << c.what;
     }
     EXPECT_NE(writeWholeFile(QStringLiteral("/no/such/folder/picture.png"), "new"), QString());

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Course.h"
 #include "MessageDesk.h"
 
 #include <QList>
@@ -7,18 +8,19 @@
 #include <functional>
 #include <utility>
 
-/// Keeps the message boxes and notices, and answers boxes from a queue; without an answer one is accepted.
+/// Keeps the message boxes and notices, which stand in the course too, and answers boxes from a queue; without an
+/// answer one is accepted.
 class ScriptedDesk : public MessageDesk {
 public:
     Answer show(const Message& message) override {
-        shown.append(message);
+        keep(message);
         if (const auto work = std::exchange(whileStanding, nullptr)) {
             work();
         }
         return answers.isEmpty() ? Answer() : answers.takeFirst();
     }
     void notify(const Message& message) override {
-        shown.append(message);
+        keep(message);
         beside.append(message.text);
     }
 
@@ -42,4 +44,11 @@ public:
     QList<Answer> answers;
     /// Runs while the next box stands.
     std::function<void()> whileStanding;
+
+private:
+    void keep(const Message& message) {
+        static constexpr const char* Kinds[] = {"info ", "warn ", "alert ", "confirm ", "error "};
+        Course::note(Kinds[message.kind] + (QStringList(message.text) + message.list).join(QLatin1Char('|')));
+        shown.append(message);
+    }
 };
