@@ -7,7 +7,7 @@ const COUNT = `
     wrentabledialog.autoUpdate.connect(function () { mine.ticks++; });`;
 
 function stored() {
-    return ['x', 'y', 'w', 'h'].map(edge => zeb.pref('wren/table/' + edge)).join();
+    return ['x', 'y', 'w', 'h', 'scrno'].map(edge => zeb.pref('wren/table/' + edge)).join();
 }
 
 zeb.rig(2);
@@ -37,7 +37,7 @@ zeb.window('100,50,1250,640');
 zeb.setCamera(1, {connected: true, locked: true});
 zeb.answer('ok');
 check(zeb.close(), 'it closes when the user agrees');
-check(stored() === '100,50,1250,640', 'its place is stored: ' + stored());
+check(stored() === '100,50,1250,640,0', 'its place is stored: ' + stored());
 check(zeb.pref('wren/ready') === false, 'the user closed it, not the host');
 check(zeb.camera(1).locked === false, 'no camera stays locked');
 const ticks = zeb.page('mine.ticks');
