@@ -8,9 +8,9 @@
 #include <algorithm>
 #include <random>
 
-/// The numbers of the `calls` to fail, for `FaultPlan::plantAt`: of each operation the first, the last and one between,
-/// of these one in `share`; and all calls where somebody wants to wait for that (`./test long`).
-inline QList<int> callsToFail(const QVector<FaultPlan::Call>& calls, int share = 1) {
+/// The numbers of the `calls` to fail, for `FaultPlan::plantAt`: of each operation the first, the last and one between;
+/// all calls where somebody wants to wait for that (`./test long`).
+inline QList<int> callsToFail(const QVector<FaultPlan::Call>& calls) {
     static const bool all = qEnvironmentVariableIsSet("WREN_LONG");
     QMap<QPair<bool, QByteArray>, QList<int>> places;
     for (int i = 0; i < calls.size(); ++i) {
@@ -24,10 +24,5 @@ inline QList<int> callsToFail(const QVector<FaultPlan::Call>& calls, int share =
     }
     QList<int> inOrder = numbers.values();
     std::sort(inOrder.begin(), inOrder.end());
-    for (int i = inOrder.size() - 1; i >= 0 && !all; --i) {
-        if (i % share != 0) {
-            inOrder.removeAt(i);
-        }
-    }
     return inOrder;
 }
