@@ -60,7 +60,7 @@ TEST_F(PageComments, GoToTheCameraOrToAll) {
     };
     page.run("probe.callsBegin(); return 0");
     EXPECT_EQ(left("close"), QStringList());
-    EXPECT_EQ(left("ok"), QStringList("setComment [2,\"one{Separator}two\"]"));
+    EXPECT_EQ(left("ok"), QStringList("setComment 2 one{Separator}two"));
     EXPECT_EQ(page.text("$('#wren_cameraInfo_comment_2').text()"), "one");
     EXPECT_EQ(page.text("$('#wren_cameraInfo_comment_2').attr('comments')"), "one\ntwo");
     test.camera(3).change({{"locked", true}});

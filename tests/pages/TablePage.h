@@ -99,5 +99,5 @@ QStringList camerasWith(TestHost& test, bool CameraState::*property);
 /// Connects cameras `first` to `last`.
 void connectCameras(TestHost& test, DOCKEY first, DOCKEY last);
 
-/// The commands to cameras that `work` and the update after it bring about, as "setRecordRate [[1,3],2000]".
+/// The commands to cameras that `work` and the update after it bring about, as "setRecordRate 1,3 2000".
 QStringList commands(TestHost& test, TablePage& page, const std::function<void()>& work);

@@ -84,7 +84,7 @@ TEST_F(MemoryEditingTest, eachCameraTakesANumberAsFarAsItsFramesGo) {
         EXPECT_EQ(ranges(), each.ranges) << each.sentence;
     }
     const QStringList asked = calls();
-    EXPECT_TRUE(asked.filter(QRegularExpression("Range \\[[56],")).isEmpty())
+    EXPECT_TRUE(asked.filter(QRegularExpression("Range [56] ")).isEmpty())
         << "without frames, or not connected: " << asked.join('\n').toStdString();
     EXPECT_EQ(desk.texts(), QStringList());
 
@@ -94,7 +94,7 @@ TEST_F(MemoryEditingTest, eachCameraTakesANumberAsFarAsItsFramesGo) {
     bridge->setSelectEndFrameNo(all, 0);
     bridge->setTriggerOffset(all, 1);
     bridge->setRecordCheck(all, true);
-    EXPECT_EQ(calls().filter("DOC_"), QStringList()) << "in memory mode only";
+    EXPECT_EQ(calls("^DOC_"), QStringList()) << "in memory mode only";
 }
 
 TEST_F(MemoryEditingTest, anOffsetOfNothingSwitchesItOff) {
@@ -103,14 +103,10 @@ TEST_F(MemoryEditingTest, anOffsetOfNothingSwitchesItOff) {
         int offset;
         QStringList calls;
     } cases[] = {
-        {"moved", 20, {"DOC_Control::setTriggerOffsetEnabled [1,true]", "DOC_Control::setTriggerOffset [1,520]"}},
-        {"back", 0, {"DOC_Control::setTriggerOffsetEnabled [1,false]", "DOC_Control::setTriggerOffset [1,0]"}},
-        {"before the first frame",
-         -700,
-         {"DOC_Control::setTriggerOffsetEnabled [1,true]", "DOC_Control::setTriggerOffset [1,0]"}},
-        {"behind the last",
-         700,
-         {"DOC_Control::setTriggerOffsetEnabled [1,true]", "DOC_Control::setTriggerOffset [1,999]"}},
+        {"moved", 20, {"setTriggerOffsetEnabled 1 true", "setTriggerOffset 1 520"}},
+        {"back", 0, {"setTriggerOffsetEnabled 1 false", "setTriggerOffset 1 0"}},
+        {"before the first frame", -700, {"setTriggerOffsetEnabled 1 true", "setTriggerOffset 1 0"}},
+        {"behind the last", 700, {"setTriggerOffsetEnabled 1 true", "setTriggerOffset 1 999"}},
     };
     for (const auto& each : cases) {
         bridge->setTriggerOffset({1}, each.offset);
@@ -132,7 +128,7 @@ TEST_F(MemoryEditingTest, halfAnOffsetIsNone) {
 TEST_F(MemoryEditingTest, aCheckNeedsAConnectedAndSelectedCamera) {
     change(2, {{"selected", false}});
     bridge->setRecordCheck({1, 2, 3, 6, 77}, true);
-    EXPECT_EQ(calls(), (QStringList{"DOC_Frames::setRecordCheck [1,true]", "DOC_Frames::setRecordCheck [3,true]"}));
+    EXPECT_EQ(calls(), (QStringList{"setRecordCheck 1 true", "setRecordCheck 3 true"}));
 }
 
 TEST_F(MemoryEditingTest, savingAsksForWhatNobodyHasLookedAt) {
@@ -176,8 +172,8 @@ TEST_F(MemoryEditingTest, savingAsksForWhatNobodyHasLookedAt) {
             calls();
             layout ? bridge->saveLayout() : bridge->save();
             EXPECT_EQ(desk.take(), each.questions) << each.sentence;
-            const QStringList saved{layout ? "ZebHost::saveLayoutFiles []" : "ZebHost::saveFiles []"};
-            EXPECT_EQ(calls().filter("ZebHost::save"), each.saves ? saved : QStringList()) << each.sentence;
+            const QStringList saved{layout ? "saveLayoutFiles" : "saveFiles"};
+            EXPECT_EQ(calls("^ZebHost::save"), each.saves ? saved : QStringList()) << each.sentence;
         }
     }
 }

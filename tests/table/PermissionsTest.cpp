@@ -66,8 +66,7 @@ protected:
             change(1, state.value());
             calls();
             operation.call(*bridge);
-            const QString command = QStringLiteral("::%1 ").arg(QLatin1String(operation.command));
-            if (!calls().filter(command).isEmpty()) {
+            if (!calls(QStringLiteral("::%1$").arg(QLatin1String(operation.command))).isEmpty()) {
                 allowed.append(state.key());
             }
         }

@@ -188,8 +188,7 @@ TEST_F(RecordModelTest, changeOfGroupSelectsTheGroupAndNothingElse) {
     EXPECT_TRUE(row(answer.json, 1).value("selected").toBool());
     // The mobile camera 8 keeps its selection.
     EXPECT_EQ(calls(),
-              (QStringList{R"(ZebHost::setPrefString ["wren/table/group","Nozzles"])", "ZebDocManager::deselectDoc [1]",
-                           "ZebDocManager::deselectDoc [2]", "ZebDocManager::selectDoc [4]"}));
+              (QStringList{"setPrefString wren/table/group Nozzles", "deselectDoc 1", "deselectDoc 2", "selectDoc 4"}));
 
     answer = getRecords(R"({"group":"Nozzles","tab":0})");
     EXPECT_FALSE(answer.selectionChanged);
@@ -197,15 +196,13 @@ TEST_F(RecordModelTest, changeOfGroupSelectsTheGroupAndNothingElse) {
 
     answer = getRecords(R"({"group":"Nobody","tab":0})");
     EXPECT_EQ(keysOf(answer.json), QStringList());
-    EXPECT_EQ(calls(), (QStringList{R"(ZebHost::setPrefString ["wren/table/group","Nobody"])",
-                                    "ZebDocManager::deselectDoc [3]", "ZebDocManager::deselectDoc [4]"}));
+    EXPECT_EQ(calls(), (QStringList{"setPrefString wren/table/group Nobody", "deselectDoc 3", "deselectDoc 4"}));
 }
 
 TEST_F(RecordModelTest, nothingIsDeselectedWhileRecordingOrWhenTheHostKeepsItsSelection) {
     bring({"use"});
     state.groups = {{"Nozzles", {"192.168.0.13"}}};
-    const QStringList selectsOnly{R"(ZebHost::setPrefString ["wren/table/group","Nozzles"])",
-                                  "ZebDocManager::selectDoc [4]"};
+    const QStringList selectsOnly{"setPrefString wren/table/group Nozzles", "selectDoc 4"};
     calls();
     state.recordRunning = true;
     change(5, {{"recordState", zeb::RecordReady}});

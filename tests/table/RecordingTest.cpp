@@ -12,7 +12,7 @@
 
 namespace {
 
-const QStringList Armed{"ZebRecorder::startRecReady []"};
+const QStringList Armed{"startRecReady"};
 
 /// Four connected cameras: two alone, and one with two heads, of which the second has the first for its device.
 class RecordingTest : public BridgeFixture {
@@ -34,7 +34,7 @@ protected:
     QStringList press() {
         calls();
         bridge->record();
-        return calls().filter("ZebRecorder::");
+        return calls("ZebRecorder");
     }
 
     void setState(int state) {
@@ -68,11 +68,11 @@ TEST_F(RecordingTest, theButtonArmsTriggersOrStopsByTheState) {
         QStringList pressed;
         QStringList cancelled;
     } cases[] = {
-        {zeb::RecordLive, {}, {"ZebRecorder::cancelRecording [false]"}},
-        {zeb::RecordCtsReady, {}, {"ZebRecorder::cancelRecording [false]"}},
-        {zeb::RecordReady, {"ZebRecorder::triggerRecording []"}, {"ZebRecorder::cancelRecording [false]"}},
-        {zeb::RecordRecording, {"ZebRecorder::stopRecording []"}, {"ZebRecorder::cancelRecording [true]"}},
-        {zeb::RecordError, {}, {"ZebRecorder::cancelRecording [false]"}},
+        {zeb::RecordLive, {}, {"cancelRecording false"}},
+        {zeb::RecordCtsReady, {}, {"cancelRecording false"}},
+        {zeb::RecordReady, {"triggerRecording"}, {"cancelRecording false"}},
+        {zeb::RecordRecording, {"stopRecording"}, {"cancelRecording true"}},
+        {zeb::RecordError, {}, {"cancelRecording false"}},
     };
     for (const auto& each : cases) {
         SCOPED_TRACE(each.state);
@@ -81,7 +81,7 @@ TEST_F(RecordingTest, theButtonArmsTriggersOrStopsByTheState) {
         setState(each.state);
         bridge->setRecordRunning();
         bridge->cancelRecord();
-        EXPECT_EQ(calls().filter("ZebRecorder::"), each.cancelled);
+        EXPECT_EQ(calls("ZebRecorder"), each.cancelled);
         EXPECT_FALSE(bridge->state().recordRunning);
     }
     EXPECT_EQ(desk.texts(), QStringList{"Lock all connected cameras."}) << "asked at the start only";
@@ -93,7 +93,7 @@ TEST_F(RecordingTest, theButtonArmsTriggersOrStopsByTheState) {
         EXPECT_EQ(press(), QStringList());
         bridge->setRecordRunning();
         bridge->cancelRecord();
-        EXPECT_EQ(calls().filter("ZebRecorder::"), QStringList());
+        EXPECT_EQ(calls("ZebRecorder"), QStringList());
         EXPECT_FALSE(bridge->state().recordRunning) << "in any mode";
     }
 }
@@ -116,9 +116,9 @@ TEST_F(RecordingTest, armingPreparesEveryConnectedCamera) {
     bridge->record();
     QStringList expected;
     for (int key = 1; key <= 8; ++key) {
-        expected << QString("DOC_Frames::setRecordCheck [%1,false]").arg(key);
+        expected << QString("setRecordCheck %1 false").arg(key);
     }
-    expected << R"(ZebHost::setPrefBool ["recording/RecAllConnectedCamera",true])" << Armed;
+    expected << "setPrefBool recording/RecAllConnectedCamera true" << Armed;
     EXPECT_EQ(calls(), expected);
     EXPECT_TRUE(bridge->state().recordRunning);
     EXPECT_EQ(desk.texts(), QStringList());
@@ -177,11 +177,9 @@ TEST_F(RecordingTest, playingInStepFollowsTheSignal) {
         "There are some cameras that are not synchronized shooting because the shooting speed of the device is faster "
         "than the sync frequency.";
     const auto skips = [](int key, int skip) {
-        const QString arguments = QString::number(key);
-        return QStringList{"DOC_Frames::setFrameSkipEnabled [" + arguments + ",true]",
-                           R"(ZebHost::setPref ["play/syncMode","0"])",
-                           "DOC_Frames::setFrameSkipMode [" + arguments + ",0]",
-                           "DOC_Frames::setFrameSkip [" + arguments + "," + QString::number(skip) + "]"};
+        const QString number = QString::number(key);
+        return QStringList{"setFrameSkipEnabled " + number + " true", "setPref play/syncMode 0",
+                           "setFrameSkipMode " + number + " 0", "setFrameSkip " + number + " " + QString::number(skip)};
     };
     for (const DOCKEY key : {2, 3, 4}) {
         change(key, {{"connected", false}});
@@ -210,9 +208,9 @@ TEST_F(RecordingTest, playingInStepFollowsTheSignal) {
         calls();
         bridge->record();
         const QStringList made = calls();
-        EXPECT_EQ(made.filter(QRegularExpression("FrameSkip|setPref \\[")), each.asked) << each.sentence;
+        EXPECT_EQ(made.filter(QRegularExpression("FrameSkip|setPref ")), each.asked) << each.sentence;
         EXPECT_EQ(desk.take(), each.messages) << each.sentence;
-        EXPECT_EQ(made.filter("ZebRecorder"), Armed) << each.sentence;
+        EXPECT_EQ(made.filter("startRecReady"), Armed) << each.sentence;
         host.recorder().cancelRecording(false);
     }
 }
@@ -230,9 +228,8 @@ TEST_F(RecordingTest, anAreaGoesToTheCamerasOfItsRate) {
     host.setPrefBool("recording/area", true);
     calls();
     bridge->record();
-    EXPECT_EQ(calls().filter("RecordArea"),
-              (QStringList{"DOC_Frames::setRecordAreaStart [1,-100]", "DOC_Frames::setRecordAreaEnd [1,200]",
-                           "DOC_Frames::setRecordAreaStart [2,-5]", "DOC_Frames::setRecordAreaEnd [2,5]"}));
+    EXPECT_EQ(calls().filter("RecordArea"), (QStringList{"setRecordAreaStart 1 -100", "setRecordAreaEnd 1 200",
+                                                         "setRecordAreaStart 2 -5", "setRecordAreaEnd 2 5"}));
 }
 
 TEST_F(RecordingTest, aCameraThatDoesNotAnswerIsNamedAndTheOthersAreArmed) {
@@ -293,7 +290,7 @@ TEST_F(RecordingTest, oneReadyDialogStandsAndNoneWhileSettingsAreLoaded) {
     bridge->showReadyProgress();
     EXPECT_EQ(dialogs(), 1);
     setState(zeb::RecordReady);
-    EXPECT_EQ(press(), QStringList{"ZebRecorder::triggerRecording []"}) << "it is not modal";
+    EXPECT_EQ(press(), QStringList{"triggerRecording"}) << "it is not modal";
     bridge->deleteReadyProgress();
     bridge->deleteReadyProgress();
     EXPECT_EQ(dialogs(), 0);

@@ -66,13 +66,13 @@ TEST_F(SynchronisingTest, handsTheCamerasOverAndRemindsOfTheWiring) {
         "When using the software trigger, please check the wiring of the TRIG IN terminal and enable 'Do not input "
         "software trigger to slave camera'";
     EXPECT_TRUE(bridge->setSyncSettings());
-    EXPECT_EQ(handedOver(), QStringList{"ZebCameraOps::syncCameras [[2,1,3],2,1,false,false,1,-1,0]"});
+    EXPECT_EQ(handedOver(), QStringList{"syncCameras 2,1,3 2 1 false false 1 -1 0"});
     EXPECT_EQ(desk.texts(), QStringList{notice});
 
     host.setPrefInt("wren/settings/triggerIn", zeb::SignalTrigNeg);
     host.setPrefString("sync/masterCamera", "10.9.8.7");
     EXPECT_TRUE(bridge->setSyncSettings());
-    EXPECT_EQ(handedOver(), QStringList{"ZebCameraOps::syncCameras [[1,2,3],1,1,false,false,1,-1,1]"});
+    EXPECT_EQ(handedOver(), QStringList{"syncCameras 1,2,3 1 1 false false 1 -1 1"});
     EXPECT_EQ(desk.texts(), (QStringList{notice, notice}));
 }
 
@@ -89,10 +89,8 @@ TEST_F(SynchronisingTest, camerasThatAreNotSynchronisedAreArmedAllTheSame) {
     host.setPrefBool("wren/display/lock", false);
     host.faults().plant(2, "synchronise", {"no lock on the signal", 0, false});
     bridge->record();
-    EXPECT_EQ(
-        calls().filter(QRegularExpression("syncCameras|selectAllDocs|startRecReady")),
-        (QStringList{"ZebDocManager::selectAllDocs []", "ZebCameraOps::syncCameras [[1,2,3],1,0,false,false,0,-1,0]",
-                     "ZebRecorder::startRecReady []"}));
+    EXPECT_EQ(calls().filter(QRegularExpression("syncCameras|selectAllDocs|startRecReady")),
+              (QStringList{"selectAllDocs", "syncCameras 1,2,3 1 0 false false 0 -1 0", "startRecReady"}));
     EXPECT_TRUE(QTest::qWaitFor([this] { return !desk.shown.isEmpty(); }));
     EXPECT_TRUE(desk.texts().first().contains("Camera 2"));
 
@@ -181,9 +179,7 @@ TEST_F(SynchronisingTest, whatBecomesOfTheCamerasWhileAGeneratorIsSoughtIsSeen) 
     } cases[] = {
         {"one begins to record", {{"recordState", zeb::RecordRecording}}, {}},
         {"one goes into low light", {{"lowLight", true}}, {}},
-        {"one is disconnected",
-         {{"lowLight", true}, {"connected", false}},
-         "ZebCameraOps::syncCameras [[1,3],1,0,true,true,0,-1,0]"},
+        {"one is disconnected", {{"lowLight", true}, {"connected", false}}, "syncCameras 1,3 1 0 true true 0 -1 0"},
     };
     for (const auto& each : cases) {
         visa.script(R"({"viOpen": {"hold": true}})");

@@ -1,5 +1,7 @@
 #include "TableFixture.h"
 
+#include <QJsonDocument>
+
 TableFixture::TableFixture() : TestHost(readRig(QStringLiteral("eight-mixed"))) {
     // A test says itself what is recorded.
     for (Camera* camera : host.cameras().all()) {

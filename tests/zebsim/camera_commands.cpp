@@ -70,7 +70,7 @@ TEST_F(MixedCameras, ABatchReachesTheOthersAndNamesThoseThatFail) {
     EXPECT_EQ(rate(1), 1000u);
     EXPECT_EQ(rate(2), 2000u);
     EXPECT_EQ(rate(5), 1000u);
-    EXPECT_EQ(test.calls().last(), "ZebCameraOps::setRecordRate [[1,2,6,5],1000]");
+    EXPECT_EQ(test.calls().last(), "setRecordRate 1,2,6,5 1000");
 }
 
 TEST_F(MixedCameras, TakeTheirTimeOnTheClock) {
@@ -100,16 +100,6 @@ TEST_F(MixedCameras, FailuresToConnectAreShownInOneBox) {
     test.host.docManager().connectDocs({1, 2, 3});
     EXPECT_EQ(test.desk.texts(), QStringList{QStringLiteral("Gate: refused\nNozzle left: no route")});
     EXPECT_EQ(test.host.docManager().getConnectedDocKeys(), (DocKeyList{2, 5, 6, 7, 8}));
-}
-
-TEST_F(MixedCameras, AHeadThatRecordsKeepsItsLock) {
-    for (const int state : {0, 1, 2, 3}) {
-        test.camera(1).change({{QStringLiteral("recordState"), state}, {QStringLiteral("locked"), true}});
-        test.doc(1)->lock().setParamLock(false);
-        EXPECT_EQ(test.doc(1)->lock().isParamLocked(), state >= 2) << state;
-        test.doc(1)->lock().setParamLock(true);
-        EXPECT_TRUE(test.doc(1)->lock().isParamLocked()) << state;
-    }
 }
 
 TEST_F(MixedCameras, ChangeBehindTheBackIsAllOrNothing) {

@@ -134,7 +134,7 @@ TEST_F(Signals, CamerasSeeTheSignalThatTheyWereSynchronisedWith) {
 TEST_F(Signals, SynchronisingTakesItsTimeAndOneCall) {
     synchronise({7, 1, 5}, external(1000), 7);
     EXPECT_EQ(test.clock.join(), 20 + 40 + 80) << "one camera after the other";
-    EXPECT_EQ(test.calls(), QStringList{"ZebCameraOps::syncCameras [[7,1,5],7,0,true,false,0,1000,1]"});
+    EXPECT_EQ(test.calls(), QStringList{"syncCameras 7,1,5 7 0 true false 0 1000 1"});
 }
 
 TEST_F(Signals, OnlyCamerasThatAreThereCanBeSynchronised) {

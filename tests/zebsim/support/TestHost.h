@@ -8,8 +8,7 @@
 #include "SteppedClock.h"
 
 #include <QCoreApplication>
-#include <QJsonArray>
-#include <QJsonDocument>
+#include <QRegularExpression>
 #include <QStringBuilder>
 #include <QTemporaryDir>
 #include <QTranslator>
@@ -85,16 +84,15 @@ struct TestHost {
     /// From here on an operation of the host itself throws "no answer".
     void fail(const char* operation) { host.faults().plant(FaultPlan::Host, operation, {"no answer"}); }
 
-    /// What the host was asked to change since the last asking, as `ZebDocManager::selectDoc [3]`. Requests for an
-    /// update are left out.
-    QStringList calls() {
+    /// What the host was asked to change since the last asking, as "selectDoc 3": what is `like` that by its whole
+    /// name, as "ZebDocManager::selectDoc". Requests for an update are left out.
+    QStringList calls(const QString& like = {}) {
+        const QRegularExpression wanted(like);
         QStringList texts;
         for (const QVariant& entry : host.journal().since(m_mark)) {
             const QString name = entry.toMap().value(QStringLiteral("call")).toString();
-            const QJsonArray args = QJsonArray::fromVariantList(entry.toMap().value(QStringLiteral("args")).toList());
-            if (name != QLatin1String("ZebHost::updateUI")) {
-                texts +=
-                    name % QLatin1Char(' ') % QString::fromUtf8(QJsonDocument(args).toJson(QJsonDocument::Compact));
+            if (name != QLatin1String("ZebHost::updateUI") && name.contains(wanted)) {
+                texts += callText(name, entry.toMap().value(QStringLiteral("args")).toList());
             }
         }
         m_mark = host.journal().count();
