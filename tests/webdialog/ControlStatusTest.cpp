@@ -72,73 +72,63 @@ TEST_F(ControlStatusTest, AStateOfTheHostSwitchesTheOneOfItsName) {
     }
 }
 
-TEST_F(ControlStatusTest, CountsAndModes) {
-    change(2, "connected", false);
-    EXPECT_EQ(changes(), QStringList({"+IsSingleWindow", "-IsMultiWindow"}));
-    change(2, "connected", true);
-    change(1, "selected", true);
-    EXPECT_EQ(changes(), QStringList("+IsSingleSelectedDocument"));
-    change(2, "selected", true);
-    EXPECT_EQ(changes(), QStringList());
-
-    for (const char* flag : {"IsSaving", "IsCycleView", "IsCycleViewBlocked", "IsAllWrenLockDevice"}) {
-        host.flags().set(flag, true);
-    }
-    EXPECT_EQ(changes(), QStringList("+IsAutoExpoting")) << "cycling is blocked, the table does not run";
-    host.appStatus().setWrenRunning(true);
-    EXPECT_EQ(changes(), QStringList({"+IsAllWrenLockDevice", "+IsAutoExpoting", "+IsWren"}));
-    host.appStatus().enterMode(zeb::MemoryMode);
-    EXPECT_EQ(changes(), QStringList({"+IsMemoryMode", "+IsWren", "-IsLiveMode", "-IsNotCurrentAutoFocus"}));
-}
-
-TEST_F(ControlStatusTest, PreferencesAndTheCurrentPlugin) {
+TEST_F(ControlStatusTest, FollowsWhatHappens) {
     StubPlugin lens("lenscalib");
     StubPlugin overlay("imageoverlay");
     StubPlugin other("rotate");
     const auto pref = [&](const char* key, bool on) { host.prefs().setValue(QLatin1String("recording/") + key, on); };
-    const std::pair<std::function<void()>, const char*> steps[] = {
-        {[&] { pref("useTriggerTest", false); }, "+HideTriggerTest"},
-        {[&] { pref("AutoDownload", false); }, "+HideTriggerTest +IsLiveNoAutoDownloadSetting"},
-        {[&] { pref("useTriggerTest", true); }, "+HideTriggerTest +IsLiveNoAutoDownloadSetting"},
-        {[&] { pref("AutoDownload", true); }, ""},
-        {[&] { host.appStatus().setCurrentPlugin(&lens); }, "+IsActiveLensCalibration"},
-        {[&] { lens.dragging = true; }, "+IsActiveLensCalibration +IsMouseDragging"},
-        {[&] { host.appStatus().setCurrentPlugin(&overlay); }, "+IsImageOverlay"},
-        {[&] { host.appStatus().setCurrentPlugin(&other); }, ""},
+    const auto flags = [&](bool on) {
+        for (const char* flag : {"IsSaving", "IsCycleView", "IsCycleViewBlocked", "IsAllWrenLockDevice"}) {
+            host.flags().set(flag, on);
+        }
     };
-    for (const auto& [step, expected] : steps) {
-        step();
+    const auto enter = [&](int mode) { host.appStatus().enterMode(mode); };
+    const auto plugin = [&](PLG_Interface* current) { host.appStatus().setCurrentPlugin(current); };
+    const struct {
+        std::function<void()> happens;
+        const char* changes;
+    } steps[] = {
+        {[&] { change(2, "connected", false); }, "+IsSingleWindow -IsMultiWindow"},
+        {[&] { change(2, "connected", true); }, "+IsMultiWindow -IsSingleWindow"},
+        {[&] { change(2, "selected", true); }, "+IsSingleSelectedDocument"},
+        {[&] { change(1, "selected", true); }, "-IsSingleSelectedDocument"},
+        {[&] { flags(true); }, "+IsAutoExpoting"},  // cycling is blocked, the table does not run
+        {[&] { host.appStatus().setWrenRunning(true); }, "+IsAllWrenLockDevice +IsWren"},
+        {[&] { enter(zeb::MemoryMode); },
+         "+IsMemoryMode -IsAllWrenLockDevice -IsAutoExpoting -IsLiveMode -IsNotCurrentAutoFocus"},
+        {[&] { flags(false), enter(zeb::LiveMode); }, "+IsLiveMode +IsNotCurrentAutoFocus -IsMemoryMode"},
+        {[&] { pref("useTriggerTest", false); }, "+HideTriggerTest"},
+        {[&] { pref("AutoDownload", false); }, "+IsLiveNoAutoDownloadSetting"},
+        {[&] { pref("useTriggerTest", true); }, ""},
+        {[&] { enter(zeb::MemoryMode); },
+         "+IsMemoryMode -IsLiveMode -IsLiveNoAutoDownloadSetting -IsNotCurrentAutoFocus"},
+        {[&] { enter(zeb::LiveMode), pref("AutoDownload", true); },
+         "+IsLiveMode +IsNotCurrentAutoFocus -HideTriggerTest -IsMemoryMode"},
+        {[&] { plugin(&lens); }, "+IsActiveLensCalibration"},
+        {[&] { lens.dragging = true; }, "+IsMouseDragging"},
+        {[&] { plugin(&overlay); }, "+IsImageOverlay -IsActiveLensCalibration -IsMouseDragging"},
+        {[&] { plugin(&other); }, "-IsImageOverlay"},
+        {[&] { change(2, "lutCurve", true); }, "+IsLutCurve"},
+        {[&] { change(2, "suspendReduce", true); }, "+IsSuspendReduce"},
+        {[&] { change(2, "sd", true); }, "+IsExternalMediaSelected"},
+        {[&] { change(2, "sd", false), change(2, "quikDrive", true); }, ""},
+        {[&] { change(2, "quikDrive", false), change(2, "cfast", true); }, ""},
+        {[&] { change(2, "cfast", false); }, "-IsExternalMediaSelected"},
+        {[&] { change(2, "locked", true); }, "+IsWrenLockDevice"},
+        {[&] { enter(zeb::FileMode); },
+         "+IsFileMode +IsNoneWindow -IsLiveMode -IsMultiWindow -IsNotCurrentAutoFocus -IsWrenLockDevice"},
+        {[&] { enter(zeb::LiveMode), host.appStatus().setWrenRunning(false); },
+         "+IsLiveMode +IsMultiWindow +IsNotCurrentAutoFocus -IsFileMode -IsNoneWindow -IsWren"},
+        {[&] { change(2, "connected", false); }, "+IsCurrentDisconnected +IsSingleWindow -IsMultiWindow"},
+        {[&] { host.appStatus().setWrenRunning(true); }, "+IsWren +IsWrenLockDevice"},
+    };
+    for (const auto& [happens, expected] : steps) {
+        happens();
         EXPECT_EQ(changes().join(' '), expected);
+        idle = status();
     }
-    pref("AutoDownload", false);
-    host.appStatus().enterMode(zeb::MemoryMode);
-    EXPECT_FALSE(changes().contains("+IsLiveNoAutoDownloadSetting"));
-}
-
-TEST_F(ControlStatusTest, DocumentIsTheCurrentOneOrTheOneGiven) {
-    change(1, "selected", true);
-    idle = status();
-    for (const auto& [member, expected] : QList<QPair<const char*, QString>>{{"lutCurve", "+IsLutCurve"},
-                                                                             {"suspendReduce", "+IsSuspendReduce"},
-                                                                             {"sd", "+IsExternalMediaSelected"},
-                                                                             {"quikDrive", "+IsExternalMediaSelected"},
-                                                                             {"cfast", "+IsExternalMediaSelected"}}) {
-        change(1, member, true);
-        EXPECT_EQ(changes(), QStringList(expected));
-        EXPECT_EQ(changes(doc(2)), QStringList());
-        change(1, member, false);
-    }
-    change(1, "connected", false);
-    EXPECT_EQ(changes(), QStringList({"+IsCurrentDisconnected", "+IsSingleWindow", "-IsMultiWindow"}));
-    change(1, "connected", true);
-
-    change(2, "locked", true);
-    EXPECT_EQ(changes(doc(2)), QStringList()) << "only the table locks";
-    host.appStatus().setWrenRunning(true);
-    EXPECT_EQ(changes(doc(2)), QStringList({"+IsWren", "+IsWrenLockDevice"}));
-    EXPECT_EQ(changes(), QStringList("+IsWren"));
-    host.appStatus().enterMode(zeb::FileMode);
-    EXPECT_FALSE(changes(doc(2)).contains("+IsWrenLockDevice"));
+    EXPECT_EQ(changes(doc(1)).join(' '), "-IsCurrentDisconnected -IsLutCurve -IsSuspendReduce -IsWrenLockDevice")
+        << "of the one given in place of the current one";
 }
 
 QSet<QString> keysOf(const QString& json) {
