@@ -87,6 +87,7 @@ TEST(PageListing, KeepsTheFilterThroughFileModeAndIsFilledByAFullUpdate) {
     TablePage page(test);
     EXPECT_TRUE(page.until("$('.w2ui-lock:visible').length > 0"));
     EXPECT_TRUE(page.run("$('#tabs').tabs('option', 'disabled')").toBool());
+    EXPECT_EQ(page.number("wrentabledialog.getFilter()"), -1);
     test.host.appStatus().enterMode(zeb::LiveMode);
     page.tick();
     EXPECT_EQ(page.list(Listed), QStringList()) << "a tick fills nothing";

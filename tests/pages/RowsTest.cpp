@@ -240,9 +240,11 @@ TEST(PageRows, TheKeyboardStaysWithItsCamera) {
     TablePage page(test, 1);
     page.run("$('.SumoSelect[dockey=5] .wren_livecontrol_framerate').parent().focus()");
     EXPECT_EQ(page.text(FocusedKey), "5");
+    choose(test, {"4"});
     vanish(test, 2);
     page.tick();
     EXPECT_EQ(page.text(FocusedKey), "5");
+    EXPECT_EQ(page.list("probe.selected()"), QStringList("4")) << "nor does a selection move to another row";
     page.update();
     EXPECT_EQ(page.text(FocusedKey), "5") << "the row is one line higher now";
     EXPECT_EQ(page.text("$(document.activeElement).closest('tr').attr('recid')"), "4");

@@ -73,6 +73,9 @@ TEST_F(CameraManagementTest, selectionSetsTheCameraBehindTheBatchRow) {
     EXPECT_EQ(calls(), QStringList{"deselectDoc 1"});
     EXPECT_EQ(state.batchDocKey, zeb::NoDocKey);
 
+    host.appStatus().enterMode(zeb::FileMode);
+    EXPECT_FALSE(cameras.select({1}, true));
+    host.appStatus().enterLiveMode();
     host.flags().set("IsApplicationClosing", true);
     EXPECT_FALSE(cameras.select({1}, true));
 }
