@@ -35,6 +35,8 @@ check(zeb.until('wrentabledialog.isShownDropBox()'), 'the partitions are shown')
     check(box('hideDropDownBox', 'partition', ...at), `${at} is on the list`));
 check(box('hideDropDownBox', 'variable'), 'another one is hidden');
 check(!box('hideDropDownBox', 'partition', 20, 299 - 5 * 24), 'this is not');
+['partition', 'variable'].forEach(key => box('showDropDownBox', key, 20, 300, 120, 24));
+check(!box('hideDropDownBox', 'variable'), 'the second has taken the place of the first');
 
 zeb.mode('file');
 check(status().IsNoneWindow, 'without images there is no window');
