@@ -4,12 +4,12 @@
 #include "GUI_WrenTableDialog.h"
 #include "JS_Mediator_WrenTableDialog.h"
 #include "TestPlugin.h"
+#include "Until.h"
 
 #include <QApplication>
 #include <QImage>
 #include <QMetaMethod>
 #include <QRegularExpression>
-#include <QTest>
 #include <QThread>
 
 using testing::Contains;
@@ -166,7 +166,7 @@ TEST_F(PLG_wrenTest, keepsWhoAsksForAPictureWaitingUntilItIsWritten) {
         written = !QImage(path).isNull();
     }));
     asking->start();
-    EXPECT_TRUE(QTest::qWaitFor([&] { return asking->isFinished(); }));
+    EXPECT_TRUE(until([&] { return asking->isFinished(); }));
     asking->wait();
     EXPECT_TRUE(written);
     EXPECT_EQ(QImage(path).size(), plugin->getDialog(false)->size());

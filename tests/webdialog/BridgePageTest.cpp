@@ -2,13 +2,13 @@
 #include "GUI_WebPage.h"
 #include "GUI_WebView.h"
 #include "ProbeBridge.h"
+#include "Until.h"
 #include "support/StubPlugin.h"
 
 #include <QLabel>
 #include <QRegularExpression>
 #include <QSignalSpy>
 #include <QTcpServer>
-#include <QTest>
 #include <QWebFrame>
 
 #include <gtest/gtest.h>
@@ -144,7 +144,7 @@ TEST_F(BridgePage, NothingGoesOut) {
              "var f = document.createElement('form'); f.action = out; f.method = 'post';"
              "document.body.appendChild(f); f.submit();")
              .arg(outside));
-    const bool allFailed = QTest::qWaitFor([&] { return eval("failed.length").toInt() >= 7; });
+    const bool allFailed = until([&] { return eval("failed.length").toInt() >= 7; });
     EXPECT_TRUE(allFailed) << json("failed");
     EXPECT_FALSE(server.waitForNewConnection(0));
     eval("var inner = document.createElement('iframe'); document.body.appendChild(inner);");
@@ -160,13 +160,13 @@ TEST_F(BridgePage, ImagesOfThePageItselfAreServed) {
     eval(
         "var loaded = 0, i = new Image(); i.onload = function () { loaded = i.width; };"
         "i.src = 'data:image/gif;base64,R0lGODlhAQABAAAAACwAAAAAAQABAAACAkQBADs=';");
-    EXPECT_TRUE(QTest::qWaitFor([&] { return eval("loaded") == 1; }));
+    EXPECT_TRUE(until([&] { return eval("loaded") == 1; }));
 }
 
 TEST_F(BridgePage, ScriptFaultsStandInTheLog) {
     eval("setTimeout(function () { missing.member = 1; }, 0); console.warn('careful'); console.log('seen')");
     QStringList lines;
-    EXPECT_TRUE(QTest::qWaitFor([&] { return (lines += course.take()).size() >= 3; }));
+    EXPECT_TRUE(until([&] { return (lines += course.take()).size() >= 3; }));
     EXPECT_EQ(lines.filter("critical: ").filter("Can't find variable: missing").size(), 1)
         << lines.join('\n').toStdString();
     EXPECT_EQ(lines.filter("warning: ").filter("careful").size(), 1);
@@ -205,7 +205,7 @@ TEST_F(BridgePage, ObjectElementsGetTheHostsWidgets) {
     host.setMdiWidget(inPage);
     const QPointer<QLabel> embedded(inPage);
     eval("document.body.innerHTML = '<object type=\"application/x-qt-plugin\" classid=\"mdi\"></object>'");
-    EXPECT_TRUE(QTest::qWaitFor([&] { return embedded && embedded->window() == &view; }));
+    EXPECT_TRUE(until([&] { return embedded && embedded->window() == &view; }));
 }
 
 }  // namespace

@@ -2,6 +2,7 @@
 #include "GUI_WebView.h"
 #include "ProbeBridge.h"
 #include "UTL_Messages.h"
+#include "Until.h"
 #include "WindowPlacement.h"
 #include "support/StubPlugin.h"
 
@@ -208,7 +209,7 @@ TEST_F(WebDialog, CloseDuringACallComesOnceWhenTheCallHasEnded) {
     };
     course.take();
     eval(*dialog, "probe.warn('a box')");
-    EXPECT_TRUE(QTest::qWaitFor([&] { return !dialog->isVisible(); }));
+    EXPECT_TRUE(until([&] { return !dialog->isVisible(); }));
     QCoreApplication::processEvents();
     EXPECT_EQ(course.take().filter("close", Qt::CaseInsensitive).size(), 3);  // user's line, host, `closed`
 }
@@ -229,7 +230,7 @@ TEST_F(WebDialog, ClosingHostDismissesOurBox) {
         EXPECT_FALSE(UTL_Messages::warnOkCancel("go on?", host));
     };
     bridge->run();
-    EXPECT_TRUE(QTest::qWaitFor([&] { return !dialog->isVisible(); }));
+    EXPECT_TRUE(until([&] { return !dialog->isVisible(); }));
 }
 
 TEST_F(WebDialog, PageOutlivesItsDialogUntilTheCallHasEnded) {
@@ -248,7 +249,7 @@ TEST_F(WebDialog, PageOutlivesItsDialogUntilTheCallHasEnded) {
     view->page()->mainFrame()->evaluateJavaScript("document.title = probe.confirm('go on?')");
     ASSERT_TRUE(view);
     EXPECT_EQ(view->title(), "true");
-    EXPECT_TRUE(QTest::qWaitFor([&] { return !view && !main && !second; }));
+    EXPECT_TRUE(until([&] { return !view && !main && !second; }));
 }
 
 }  // namespace

@@ -2,6 +2,7 @@
 #include "ComeToFront.h"
 #include "MessageBoxes.h"
 #include "ScenarioDialogs.h"
+#include "Until.h"
 #include "support/TestHost.h"
 
 #include <QApplication>
@@ -129,7 +130,7 @@ TEST_F(Boxes, StandOverTheWindowInWhichTheUserIsAndGiveItTheKeyboardBack) {
         });
         boxes.show(told);
         QObject::disconnect(looking);
-        EXPECT_TRUE(QTest::qWaitFor([&] { return table.isActiveWindow(); }));
+        EXPECT_TRUE(until([&] { return table.isActiveWindow(); }));
     }
 }
 
