@@ -197,7 +197,7 @@ private:
 
 }  // namespace
 
-TEST_F(OtherHostTest, isWholeAgainAfterAFaultAtItsOpening) {
+TEST_F(OtherHostTest, IsWholeAgainAfterAFaultAtItsOpening) {
     const auto expectWholeAfter = [this](const Act& act, const QByteArray& operation, bool always) {
         SCOPED_TRACE(act.name + ", " + operation.toStdString() + (always ? ", always" : ", at first"));
         OtherHost host;
@@ -216,7 +216,7 @@ TEST_F(OtherHostTest, isWholeAgainAfterAFaultAtItsOpening) {
     }
 }
 
-TEST_F(OtherHostTest, isWholeAgainAfterAFaultOnATab) {
+TEST_F(OtherHostTest, IsWholeAgainAfterAFaultOnATab) {
     for (int tab = 0; tab < OtherHost::Tabs; ++tab) {
         const Operations operations = operationsOf(lookedAt(tab));
         OtherHost host;
@@ -228,7 +228,7 @@ TEST_F(OtherHostTest, isWholeAgainAfterAFaultOnATab) {
     }
 }
 
-TEST_F(OtherHostTest, makesUpForAFaultAtItsCloseAtTheNext) {
+TEST_F(OtherHostTest, MakesUpForAFaultAtItsCloseAtTheNext) {
     const Operations operations = operationsOf(Closed);
     OtherHost host;
     for (const QByteArray& operation : operations) {
@@ -243,7 +243,7 @@ TEST_F(OtherHostTest, makesUpForAFaultAtItsCloseAtTheNext) {
     }
 }
 
-TEST_F(OtherHostTest, letsNoFailureOutOfACallOfItsPage) {
+TEST_F(OtherHostTest, LetsNoFailureOutOfACallOfItsPage) {
     const std::vector<Act> acts = pageActs();
     OtherHost host;
     host.openWhole();
@@ -264,7 +264,7 @@ TEST_F(OtherHostTest, letsNoFailureOutOfACallOfItsPage) {
     expectWhole(host);
 }
 
-TEST_F(OtherHostTest, bearsEveryRefusal) {
+TEST_F(OtherHostTest, BearsEveryRefusal) {
     const std::vector<Act> acts = pageActs();
     OtherHost host;
     host.openWhole();
@@ -279,7 +279,7 @@ TEST_F(OtherHostTest, bearsEveryRefusal) {
     expectWhole(host);
 }
 
-TEST_F(OtherHostTest, mayBeDestroyedAtEachOfTheMoments) {
+TEST_F(OtherHostTest, MayBeDestroyedAtEachOfTheMoments) {
     std::vector<Act> acts{Opened, OpenedAgain, Activated, Closed};
     for (const Act& act : pageActs()) {
         acts.push_back(act);
@@ -315,7 +315,7 @@ TEST_F(OtherHostTest, mayBeDestroyedAtEachOfTheMoments) {
     expectNothingLeft(loads);
 }
 
-TEST_F(OtherHostTest, mayBeDestroyedInTheBoxOfItsFailure) {
+TEST_F(OtherHostTest, MayBeDestroyedInTheBoxOfItsFailure) {
     int destroyed = 0;
     for (const Act& act : {Opened, OpenedAgain, Closed}) {
         for (const QByteArray& operation : operationsOf(act)) {
@@ -340,7 +340,7 @@ TEST_F(OtherHostTest, mayBeDestroyedInTheBoxOfItsFailure) {
     expectNothingLeft(destroyed);
 }
 
-TEST_F(OtherHostTest, mayBeDestroyedWhileItsPageLoads) {
+TEST_F(OtherHostTest, MayBeDestroyedWhileItsPageLoads) {
     for (const char* signal : {SIGNAL(loadProgress(int)), SIGNAL(loadFinished(bool))}) {
         OtherHost host;
         host.open();
@@ -394,7 +394,7 @@ const Standing Standings[] = {
 
 }  // namespace
 
-TEST_F(OtherHostTest, endsItsSessionHoweverItCloses) {
+TEST_F(OtherHostTest, EndsItsSessionHoweverItCloses) {
     for (const Standing& standing : Standings) {
         for (const bool destroyed : {false, true}) {
             SCOPED_TRACE(std::string(standing.sentence) + (destroyed ? ", destroyed" : ", closed"));

@@ -6,7 +6,7 @@
 
 namespace {
 
-TEST(PageSessions, leaveNothingBehind) {
+TEST(PageSessions, LeaveNothingBehind) {
     TestHost test(readRig(QStringLiteral("eight-mixed")));
     connectCameras(test, 1, 8);
     TablePage page(test, 1);

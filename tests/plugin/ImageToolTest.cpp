@@ -9,7 +9,7 @@ using testing::IsEmpty;
 
 using ImageTool = PLG_CommonTest;
 
-TEST_F(ImageTool, selectsDocumentsForAToolAsItSaysItself) {
+TEST_F(ImageTool, SelectsDocumentsForAToolAsItSaysItself) {
     const struct {
         const char* sentence;
         std::function<void(TestPlugin&)> arrange;
@@ -50,7 +50,7 @@ TEST_F(ImageTool, selectsDocumentsForAToolAsItSaysItself) {
     }
 }
 
-TEST_F(ImageTool, livesTheLifeOfATool) {
+TEST_F(ImageTool, LivesTheLifeOfATool) {
     TestPlugin plugin(&host);
     const auto liveThrough = [&] {
         plugin.activate();
@@ -93,7 +93,7 @@ TEST_F(ImageTool, livesTheLifeOfATool) {
     EXPECT_THAT(taken(), ElementsAre("closePanel"));
 }
 
-TEST_F(ImageTool, dragsTheRectangleOfADocument) {
+TEST_F(ImageTool, DragsTheRectangleOfADocument) {
     TestPlugin plugin(&host);
     plugin.setAttributeO(false);
     plugin.setAttributeP(false);
@@ -127,7 +127,7 @@ TEST_F(ImageTool, dragsTheRectangleOfADocument) {
     EXPECT_THAT(taken(), ElementsAre("beginMacro", "endMacro")) << "the cross cursor has the mouse";
 }
 
-TEST_F(ImageTool, takesItsCursorAlongAndNoOther) {
+TEST_F(ImageTool, TakesItsCursorAlongAndNoOther) {
     QApplication::setOverrideCursor(Qt::WaitCursor);
     {
         TestPlugin plugin(&host);
@@ -145,7 +145,7 @@ TEST_F(ImageTool, takesItsCursorAlongAndNoOther) {
     EXPECT_EQ(QApplication::overrideCursor(), nullptr);
 }
 
-TEST_F(ImageTool, movesTheRectangleByKeys) {
+TEST_F(ImageTool, MovesTheRectangleByKeys) {
     TestPlugin plugin(&host);
     setToolRect(QRect(100, 50, 200, 100));
     change({{"rotation", 0.25}});
@@ -163,7 +163,7 @@ TEST_F(ImageTool, movesTheRectangleByKeys) {
     EXPECT_FALSE(plugin.isKeyStepped()) << "there is no rectangle";
 }
 
-TEST_F(ImageTool, answersForDocumentsThatMayBeGone) {
+TEST_F(ImageTool, AnswersForDocumentsThatMayBeGone) {
     TestPlugin plugin(&host);
     change({{"point", QVariantList{11, 22}}, {"binningPower", 2}, {"scale", 2.0}});
     EXPECT_TRUE(plugin.hasDoc(1));

@@ -6,7 +6,7 @@
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-TEST_F(PLG_CommonTest, makesItsDialogOnceAndWhenAsked) {
+TEST_F(PLG_CommonTest, MakesItsDialogOnceAndWhenAsked) {
     TestPlugin plugin(&host);
     EXPECT_EQ(plugin.getDialog(false), nullptr);
     plugin.showDialog();
@@ -26,7 +26,7 @@ TEST_F(PLG_CommonTest, makesItsDialogOnceAndWhenAsked) {
     EXPECT_FALSE(plugin.isDialogVisible());
 }
 
-TEST_F(PLG_CommonTest, tellsThePageOnlyOfARealOpening) {
+TEST_F(PLG_CommonTest, TellsThePageOnlyOfARealOpening) {
     TestPlugin plugin(&host);
     auto* dialog = static_cast<GUI_ModelessPatternDialog*>(plugin.getDialog(true));
     QSignalSpy opened(dialog->getBridge(), &JS_Mediator::open);
@@ -45,7 +45,7 @@ TEST_F(PLG_CommonTest, tellsThePageOnlyOfARealOpening) {
     EXPECT_EQ(opened.count(), 3) << "it was hidden";
 }
 
-TEST_F(PLG_CommonTest, restartsTheLiveViewAndItsQuickToolOnOpening) {
+TEST_F(PLG_CommonTest, RestartsTheLiveViewAndItsQuickToolOnOpening) {
     TestPlugin plugin(&host);
     plugin.m_pauseLiveForDialog = true;
     plugin.m_quickKind = 1;
@@ -63,7 +63,7 @@ std::vector<std::string> andClosing(std::vector<std::string> calls) {
     return calls;
 }
 
-TEST_F(PLG_CommonTest, closesInOrder) {
+TEST_F(PLG_CommonTest, ClosesInOrder) {
     TestPlugin plugin(&host);
     plugin.m_pauseLiveForDialog = true;
     auto* dialog = plugin.shownDialog();
@@ -87,7 +87,7 @@ TEST_F(PLG_CommonTest, closesInOrder) {
     EXPECT_FALSE(dialog->isVisible());
 }
 
-TEST_F(PLG_CommonTest, closesByTheWindowToo) {
+TEST_F(PLG_CommonTest, ClosesByTheWindowToo) {
     TestPlugin plugin(&host);
     auto* dialog = plugin.shownDialog();
     dialog->setPluginCloseEnabled(false);
@@ -104,7 +104,7 @@ TEST_F(PLG_CommonTest, closesByTheWindowToo) {
     EXPECT_FALSE(plugin.isDialogVisible());
 }
 
-TEST_F(PLG_CommonTest, updatesAVisibleDialogAndClosesItInAForeignMode) {
+TEST_F(PLG_CommonTest, UpdatesAVisibleDialogAndClosesItInAForeignMode) {
     TestPlugin plugin(&host);
     plugin.m_modeMask = 3;
     auto* dialog = plugin.shownDialog();
@@ -123,7 +123,7 @@ TEST_F(PLG_CommonTest, updatesAVisibleDialogAndClosesItInAForeignMode) {
     EXPECT_EQ(updated.count(), 3) << "a hidden dialog is not updated";
 }
 
-TEST_F(PLG_CommonTest, mayGoAtAnUpdateOfItsPage) {
+TEST_F(PLG_CommonTest, MayGoAtAnUpdateOfItsPage) {
     QPointer<TestPlugin> plugin = new TestPlugin(&host);
     QObject::connect(plugin->shownDialog()->getBridge(), &JS_Mediator::update, [&plugin] { delete plugin; });
     plugin->updateDialog(zeb::LiveMode);
@@ -131,7 +131,7 @@ TEST_F(PLG_CommonTest, mayGoAtAnUpdateOfItsPage) {
     EXPECT_THAT(QApplication::topLevelWidgets(), IsEmpty());
 }
 
-TEST_F(PLG_CommonTest, standsPressedByItsType) {
+TEST_F(PLG_CommonTest, StandsPressedByItsType) {
     TestPlugin plugin(&host);
     TestPlugin other(&host);
     const struct {
@@ -160,7 +160,7 @@ TEST_F(PLG_CommonTest, standsPressedByItsType) {
     EXPECT_FALSE(plugin.isChecked(nullptr, 0));
 }
 
-TEST_F(PLG_CommonTest, isAvailableInTheModesOfItsMask) {
+TEST_F(PLG_CommonTest, IsAvailableInTheModesOfItsMask) {
     TestPlugin plugin(&host);
     plugin.m_modeMask = 5;
     std::vector<bool> available;
@@ -176,7 +176,7 @@ TEST_F(PLG_CommonTest, isAvailableInTheModesOfItsMask) {
     EXPECT_TRUE(plugin.getOptionForMode());
 }
 
-TEST_F(PLG_CommonTest, warnsOfAPageThatIsNotThere) {
+TEST_F(PLG_CommonTest, WarnsOfAPageThatIsNotThere) {
     TestPlugin plugin(&host);
     EXPECT_EQ(plugin.getPageHtml(), QString());
     EXPECT_THAT(taken(), ElementsAre("warning: Not Found \":/tool.html\""));

@@ -44,7 +44,7 @@ protected:
 
 }  // namespace
 
-TEST_F(PLG_wrenTest, asksBeforeItErases) {
+TEST_F(PLG_wrenTest, AsksBeforeItErases) {
     const auto record = [this] {
         for (const DOCKEY key : {1, 3}) {
             camera(key).set(&CameraState::recorded, true);
@@ -100,7 +100,7 @@ TEST_F(PLG_wrenTest, asksBeforeItErases) {
     }
 }
 
-TEST_F(PLG_wrenTest, endsTheOpeningWithoutATextWhenTheUserRefuses) {
+TEST_F(PLG_wrenTest, EndsTheOpeningWithoutATextWhenTheUserRefuses) {
     camera(2).set(&CameraState::recorded, true);
     desk.answers = {{false, false}};
     try {
@@ -113,7 +113,7 @@ TEST_F(PLG_wrenTest, endsTheOpeningWithoutATextWhenTheUserRefuses) {
     EXPECT_THAT(taken(), testing::Not(Contains("eraseRecordedData 2 0")));
 }
 
-TEST_F(PLG_wrenTest, bearsEverySignalWithoutATable) {
+TEST_F(PLG_wrenTest, BearsEverySignalWithoutATable) {
     int raised = 0;
     for (const char* signal : {"signalRecord", "signalSaveFile", "signalSaveLayout", "signalEndRecording",
                                "signalDisconnect", "signalStartAutoUpdate", "signalStopAutoUpdate"}) {
@@ -124,7 +124,7 @@ TEST_F(PLG_wrenTest, bearsEverySignalWithoutATable) {
     EXPECT_THAT(taken(), IsEmpty());
 }
 
-TEST_F(PLG_wrenTest, servesTheSignalsOfTheHost) {
+TEST_F(PLG_wrenTest, ServesTheSignalsOfTheHost) {
     auto* bridge = openTable();
     EXPECT_FALSE(bridge->isTicking());
     ASSERT_TRUE(raise("signalStartAutoUpdate"));
@@ -139,7 +139,7 @@ TEST_F(PLG_wrenTest, servesTheSignalsOfTheHost) {
     EXPECT_THAT(taken(), Contains("disconnectDocs 1,2,3")) << "though one is locked";
 }
 
-TEST_F(PLG_wrenTest, takesTheHostsKeysWhileItsTableIsInFront) {
+TEST_F(PLG_wrenTest, TakesTheHostsKeysWhileItsTableIsInFront) {
     const QStringList ofTheKeys{"startRecReady", "saveFiles", "saveLayoutFiles"};
     openTable();
     host.prefs().setValue("wren/display/lock", false);
@@ -157,7 +157,7 @@ TEST_F(PLG_wrenTest, takesTheHostsKeysWhileItsTableIsInFront) {
     }
 }
 
-TEST_F(PLG_wrenTest, keepsWhoAsksForAPictureWaitingUntilItIsWritten) {
+TEST_F(PLG_wrenTest, KeepsWhoAsksForAPictureWaitingUntilItIsWritten) {
     openTable();
     const QString path = folder.filePath(QStringLiteral("table.png"));
     bool written = false;
@@ -175,7 +175,7 @@ TEST_F(PLG_wrenTest, keepsWhoAsksForAPictureWaitingUntilItIsWritten) {
     EXPECT_THAT(taken(), Contains(testing::HasSubstr("/nowhere/a.png"))) << "it warns of one that cannot be written";
 }
 
-TEST_F(PLG_wrenTest, keepsTheTableOpenInFileMode) {
+TEST_F(PLG_wrenTest, KeepsTheTableOpenInFileMode) {
     openTable();
     EXPECT_TRUE(plugin->isChecked(doc(1), 0) && plugin->isButtonEnabled());
     host.appStatus().enterMode(zeb::FileMode);
@@ -184,7 +184,7 @@ TEST_F(PLG_wrenTest, keepsTheTableOpenInFileMode) {
     EXPECT_FALSE(plugin->isChecked(doc(1), 0) || plugin->isButtonEnabled());
 }
 
-TEST_F(PLG_wrenTest, makesOneTableThoughItsBridgeAsksFirst) {
+TEST_F(PLG_wrenTest, MakesOneTableThoughItsBridgeAsksFirst) {
     fail("setPrefBool");
     QDialog* second = nullptr;
     desk.whileStanding = [&] { second = plugin->getDialog(true); };

@@ -33,7 +33,7 @@ std::string text(const QRect& rect) {
 
 }  // namespace
 
-TEST(ToolRectangle, goesTheWayThatTheUserSees) {
+TEST(ToolRectangle, GoesTheWayThatTheUserSees) {
     // By the side of the rectangle: above, beside, below.
     constexpr int handles[3][3] = {{Tool::TopLeftCorner, Tool::TopEdge, Tool::TopRightCorner},
                                    {Tool::LeftEdge, Tool::Inside, Tool::RightEdge},
@@ -67,7 +67,7 @@ TEST(ToolRectangle, goesTheWayThatTheUserSees) {
     EXPECT_EQ(Tool(Image, Plain, free()).cursorFor(Tool::Outside), std::nullopt);
 }
 
-TEST(ToolRectangle, findsTheHandleNearAPoint) {
+TEST(ToolRectangle, FindsTheHandleNearAPoint) {
     const struct {
         const char* sentence;
         QPoint point;
@@ -89,7 +89,7 @@ TEST(ToolRectangle, findsTheHandleNearAPoint) {
     }
 }
 
-TEST(ToolRectangle, followsTheMouse) {
+TEST(ToolRectangle, FollowsTheMouse) {
     Tool::Rules least = free();
     least.minSize = QSize(50, 40);
     Tool::Rules mirrored;
@@ -127,7 +127,7 @@ TEST(ToolRectangle, followsTheMouse) {
     }
 }
 
-TEST(ToolRectangle, followsTheArrowKeys) {
+TEST(ToolRectangle, FollowsTheArrowKeys) {
     Tool::Rules steps = free();
     steps.widthStep = 8;
     steps.heightStep = 4;
@@ -167,12 +167,12 @@ TEST(ToolRectangle, followsTheArrowKeys) {
     EXPECT_EQ(Tool(Image, Plain, steps).stepped(atBorder, Qt::Key_Up, {}), atBorder);
 }
 
-TEST(ToolRectangle, hasNoPlaceOnAnEmptyImage) {
+TEST(ToolRectangle, HasNoPlaceOnAnEmptyImage) {
     EXPECT_TRUE(Tool(QSize(0, 0), Plain, free()).dragged(Rect, Tool::Inside, {0, 0}, {5, 5}).isEmpty());
     EXPECT_TRUE(Tool(QSize(0, 0), Plain, free()).stepped(Rect, Qt::Key_Left, Qt::ShiftModifier)->isEmpty());
 }
 
-TEST(ToolRectangle, describesItselfToThePanel) {
+TEST(ToolRectangle, DescribesItselfToThePanel) {
     Tool::Rules rules = free();
     rules.minSize = QSize(4, 2);
     rules.pixelStepX = 16;
@@ -195,7 +195,7 @@ TEST(ToolRectangle, describesItselfToThePanel) {
     EXPECT_EQ(tool.parameters(Rect, true), shown);
 }
 
-TEST(ToolRectangle, fitsTheSensor) {
+TEST(ToolRectangle, FitsTheSensor) {
     EXPECT_EQ(text(Tool::toSensor(Rect, 2.0)), "(50,25)-(149,74)");
     EXPECT_EQ(text(Tool::toSensor(Rect, 1.0)), text(Rect));
     EXPECT_EQ(text(Tool::toSensor(QRect(6, 6, 2, 2), 4.0)), "(1,1)-(1,1)");

@@ -12,7 +12,7 @@ protected:
     CameraManagement cameras{host, state};
 };
 
-TEST_F(CameraManagementTest, followsACameraThatComesInWhileItRecords) {
+TEST_F(CameraManagementTest, FollowsACameraThatComesInWhileItRecords) {
     change(1, {{"recordState", zeb::RecordReady}});
     change(2, {{"recordState", zeb::RecordCtsReady}});
     cameras.connect({1, 2}, true, false);
@@ -29,7 +29,7 @@ TEST_F(CameraManagementTest, followsACameraThatComesInWhileItRecords) {
     EXPECT_EQ(calls(), (QStringList{"connectDocs 1"})) << "without the lock column no lock";
 }
 
-TEST_F(CameraManagementTest, asksBeforeDisconnectingByWhatGoesWithIt) {
+TEST_F(CameraManagementTest, AsksBeforeDisconnectingByWhatGoesWithIt) {
     connectAll();
     change(2, {{"locked", true}});
     change(6, {{"connected", false}});
@@ -58,7 +58,7 @@ TEST_F(CameraManagementTest, asksBeforeDisconnectingByWhatGoesWithIt) {
     EXPECT_EQ(desk.texts(), QStringList());
 }
 
-TEST_F(CameraManagementTest, selectionSetsTheCameraBehindTheBatchRow) {
+TEST_F(CameraManagementTest, SelectionSetsTheCameraBehindTheBatchRow) {
     for (const DOCKEY key : {1, 2, 3}) {
         change(key, {{"connected", true}});
     }
@@ -80,7 +80,7 @@ TEST_F(CameraManagementTest, selectionSetsTheCameraBehindTheBatchRow) {
     EXPECT_FALSE(cameras.select({1}, true));
 }
 
-TEST_F(CameraManagementTest, aSearchBringsCamerasThatAreNew) {
+TEST_F(CameraManagementTest, ASearchBringsCamerasThatAreNew) {
     host.setRig(readRig(":/table/rigs/recording-elsewhere.json"));
     calls();
     EXPECT_EQ(host.docManager().getDocKeys(), DocKeyList{1});
@@ -103,7 +103,7 @@ TEST_F(CameraManagementTest, aSearchBringsCamerasThatAreNew) {
     EXPECT_EQ(desk.texts(), QStringList());
 }
 
-TEST_F(CameraManagementTest, allCamerasGoWhileTheHostStaysInLiveMode) {
+TEST_F(CameraManagementTest, AllCamerasGoWhileTheHostStaysInLiveMode) {
     connectAll();
     desk.whileStanding = [this] { host.appStatus().enterMode(zeb::MemoryMode); };
     cameras.deleteAll();
@@ -114,7 +114,7 @@ TEST_F(CameraManagementTest, allCamerasGoWhileTheHostStaysInLiveMode) {
     EXPECT_EQ(desk.texts().count("Delete all Cameras?"), 2);
 }
 
-TEST_F(CameraManagementTest, aSessionTakesBackWhatItSet) {
+TEST_F(CameraManagementTest, ASessionTakesBackWhatItSet) {
     connectAll();
     change(1, {{"locked", true}});
     change(2, {{"locked", true}, {"recordState", zeb::RecordRecording}});

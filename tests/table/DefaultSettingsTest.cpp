@@ -14,7 +14,7 @@ QStringList shown(const QList<CameraGroup>& groups) {
     return texts;
 }
 
-TEST(DefaultSettings, groups) {
+TEST(DefaultSettings, Groups) {
     struct Case {
         const char* told;
         const char* text;
@@ -35,7 +35,7 @@ TEST(DefaultSettings, groups) {
     }
 }
 
-TEST(DefaultSettings, listsAndAreas) {
+TEST(DefaultSettings, ListsAndAreas) {
     EXPECT_EQ(readList("500:1000"), (QStringList{"500", "1000"}));
     EXPECT_EQ(readResolutions("1280|800:640|480:320"), (QStringList{"1280 x 800", "640 x 480"}))
         << "an entry without a height is none";
@@ -68,7 +68,7 @@ protected:
     }
 };
 
-TEST_F(DefaultSettingsTest, everyOpeningReadsThemAnew) {
+TEST_F(DefaultSettingsTest, EveryOpeningReadsThemAnew) {
     connectAll();
     storeAll(true);
     makeBridge();
@@ -92,7 +92,7 @@ TEST_F(DefaultSettingsTest, everyOpeningReadsThemAnew) {
     EXPECT_EQ(state.groups.size(), 2) << "groups have no switch";
 }
 
-TEST_F(DefaultSettingsTest, aCameraThatIsArmedKeepsTheTableAsItIs) {
+TEST_F(DefaultSettingsTest, ACameraThatIsArmedKeepsTheTableAsItIs) {
     connectAll();
     storeAll(true);
     for (const int recordState : {2, 3}) {

@@ -52,7 +52,7 @@ protected:
     QStringList ranges() { return {range(1), range(2), range(3), range(4)}; }
 };
 
-TEST_F(MemoryEditingTest, eachCameraTakesANumberAsFarAsItsFramesGo) {
+TEST_F(MemoryEditingTest, EachCameraTakesANumberAsFarAsItsFramesGo) {
     const QVariantList all{1, 2, 3, 4, 5, 6, 77};
     const struct {
         const char* sentence;
@@ -97,7 +97,7 @@ TEST_F(MemoryEditingTest, eachCameraTakesANumberAsFarAsItsFramesGo) {
     EXPECT_EQ(calls("^DOC_"), QStringList()) << "in memory mode only";
 }
 
-TEST_F(MemoryEditingTest, anOffsetOfNothingSwitchesItOff) {
+TEST_F(MemoryEditingTest, AnOffsetOfNothingSwitchesItOff) {
     const struct {
         const char* sentence;
         int offset;
@@ -117,7 +117,7 @@ TEST_F(MemoryEditingTest, anOffsetOfNothingSwitchesItOff) {
     EXPECT_EQ(calls(), QStringList());
 }
 
-TEST_F(MemoryEditingTest, halfAnOffsetIsNone) {
+TEST_F(MemoryEditingTest, HalfAnOffsetIsNone) {
     host.faults().plant(1, "setTriggerOffset", Fault{"no answer", 0, false});
     const int zero = host.docManager().getDocAny(1)->frames().getTriggerFrame(0);
     bridge->setTriggerOffset({1}, 30);
@@ -125,13 +125,13 @@ TEST_F(MemoryEditingTest, halfAnOffsetIsNone) {
     EXPECT_EQ(host.docManager().getDocAny(1)->frames().getTriggerFrame(0), zero);
 }
 
-TEST_F(MemoryEditingTest, aCheckNeedsAConnectedAndSelectedCamera) {
+TEST_F(MemoryEditingTest, ACheckNeedsAConnectedAndSelectedCamera) {
     change(2, {{"selected", false}});
     bridge->setRecordCheck({1, 2, 3, 6, 77}, true);
     EXPECT_EQ(calls(), (QStringList{"setRecordCheck 1 true", "setRecordCheck 3 true"}));
 }
 
-TEST_F(MemoryEditingTest, savingAsksForWhatNobodyHasLookedAt) {
+TEST_F(MemoryEditingTest, SavingAsksForWhatNobodyHasLookedAt) {
     const QString question = "Do you want to save even though playback confirmation has not been completed?";
     const Answer no{false, false};
     const Fault down{"The link is down", 0, false};
@@ -178,7 +178,7 @@ TEST_F(MemoryEditingTest, savingAsksForWhatNobodyHasLookedAt) {
     }
 }
 
-TEST_F(MemoryEditingTest, whateverIsEditedNoRangeTurnsRound) {
+TEST_F(MemoryEditingTest, WhateverIsEditedNoRangeTurnsRound) {
     for (const unsigned seed : {1U, 2U, 3U}) {
         std::mt19937 random(seed);
         const auto upTo = [&random](int count) { return int(random() % unsigned(count)); };

@@ -27,7 +27,7 @@ protected:
     TriggerEditing triggers{host};
 };
 
-TEST_F(ParameterEditingTest, asksBeforeALockedHeadOfTheDeviceIsChanged) {
+TEST_F(ParameterEditingTest, AsksBeforeALockedHeadOfTheDeviceIsChanged) {
     change(4, {{"locked", true}});
     const QString question =
         "Shooting speed of locked heads will be changed at the same time.\nDo you want to continue?";
@@ -48,7 +48,7 @@ TEST_F(ParameterEditingTest, asksBeforeALockedHeadOfTheDeviceIsChanged) {
     EXPECT_EQ(desk.texts(), QStringList()) << "the user wants no question";
 }
 
-TEST_F(ParameterEditingTest, looksAgainAfterTheQuestion) {
+TEST_F(ParameterEditingTest, LooksAgainAfterTheQuestion) {
     change(4, {{"locked", true}});
     desk.whileStanding = [this] {
         host.faults().plant(1, "*", {{}, 0, true});
@@ -62,7 +62,7 @@ TEST_F(ParameterEditingTest, looksAgainAfterTheQuestion) {
     EXPECT_EQ(calls(), QStringList());
 }
 
-TEST_F(ParameterEditingTest, asksForEachParameterInItsOwnWay) {
+TEST_F(ParameterEditingTest, AsksForEachParameterInItsOwnWay) {
     const auto shutter = [this](const DocKeyList& keys) { editing.setShutterSpeed(keys, "2000"); };
     const auto size = [this](const DocKeyList& keys) { editing.setResolution(keys, "640 x 400"); };
     const auto trigger = [&](const DocKeyList& keys) { triggers.setTriggerMode(keys, "1"); };
@@ -93,7 +93,7 @@ TEST_F(ParameterEditingTest, asksForEachParameterInItsOwnWay) {
     }
 }
 
-TEST_F(ParameterEditingTest, sendsAShutterSpeedAsAFraction) {
+TEST_F(ParameterEditingTest, SendsAShutterSpeedAsAFraction) {
     editing.setShutterSpeed({1, 2}, "5000");
     EXPECT_EQ(calls(), QStringList{"setShutterSpeed 1,2 5000"});
 
@@ -130,7 +130,7 @@ TEST_F(ParameterEditingTest, sendsAShutterSpeedAsAFraction) {
     }
 }
 
-TEST_F(ParameterEditingTest, noKeysAreAllConnectedCamerasWhereThatIsMeant) {
+TEST_F(ParameterEditingTest, NoKeysAreAllConnectedCamerasWhereThatIsMeant) {
     change(2, {{"locked", true}});
     change(5, {{"connected", false}});
     EXPECT_TRUE(refused([this] { editing.setLowLight({}, true); })) << "it is the camera that has no such mode";
@@ -146,7 +146,7 @@ TEST_F(ParameterEditingTest, noKeysAreAllConnectedCamerasWhereThatIsMeant) {
     EXPECT_EQ(desk.texts(), QStringList());
 }
 
-TEST_F(ParameterEditingTest, setsTheTriggerWithTheParametersOfTheHost) {
+TEST_F(ParameterEditingTest, SetsTheTriggerWithTheParametersOfTheHost) {
     host.setPref("trigger/manualBeforePercent", 30.0);
     host.setPref("trigger/randomTimes", 0);
     calls();
@@ -160,14 +160,14 @@ TEST_F(ParameterEditingTest, setsTheTriggerWithTheParametersOfTheHost) {
                                     "setTriggerMode 1 1 3 0 0 30 100 0"}));
 }
 
-TEST_F(ParameterEditingTest, aCameraThatRefusesTheTriggerHidesNoOtherThatIsTooSmall) {
+TEST_F(ParameterEditingTest, ACameraThatRefusesTheTriggerHidesNoOtherThatIsTooSmall) {
     storeTrigger();
     change(2, {{"lowLight", true}, {"resolution", QVariantList{512, 512}}});
     EXPECT_TRUE(refused([&] { triggers.setTriggerMode({1, 2}, "3"); }));
     EXPECT_EQ(desk.texts(), QStringList{"Gate・・Trigger Parameter is invalid."}) << "told all the same";
 }
 
-TEST_F(ParameterEditingTest, namesTheCamerasWhoseMemoryIsTooSmallForTheTrigger) {
+TEST_F(ParameterEditingTest, NamesTheCamerasWhoseMemoryIsTooSmallForTheTrigger) {
     storeTrigger();
     change(2, {{"resolution", QVariantList{512, 512}}});
     triggers.setTriggerMode({1, 2, 6}, "3");
@@ -183,7 +183,7 @@ TEST_F(ParameterEditingTest, namesTheCamerasWhoseMemoryIsTooSmallForTheTrigger) 
     EXPECT_EQ(calls(), QStringList{"setTriggerMode 1 2 2 0 0 25 1000 10"});
 }
 
-TEST_F(ParameterEditingTest, readsKeysAsAPageHandsThemOver) {
+TEST_F(ParameterEditingTest, ReadsKeysAsAPageHandsThemOver) {
     EXPECT_EQ(toDocKeys({"3", 5, 7.0, "", "x", -1, "-1", "4294967297", 4294967297.0, QVariant()}),
               (DocKeyList{3, 5, 7}));
 }

@@ -74,7 +74,7 @@ protected:
     }
 };
 
-TEST_F(PermissionsTest, whatMayBeChangedWhen) {
+TEST_F(PermissionsTest, WhatMayBeChangedWhen) {
     for (const Operation& operation : Operations) {
         EXPECT_EQ(allowed(operation, zeb::LiveMode), operation.live) << operation.told << ", live";
         EXPECT_EQ(allowed(operation, zeb::MemoryMode), operation.memory) << operation.told << ", memory";

@@ -100,7 +100,7 @@ protected:
     RecordModel model{host, state};
 };
 
-TEST_F(RecordModelTest, showsEachTabAndModeAsTheCamerasAre) {
+TEST_F(RecordModelTest, ShowsEachTabAndModeAsTheCamerasAre) {
     bring({"use"});
     expectJson(records(R"({"group":"","filter":0,"tab":1})"), expected("livecontrol"));
     expectJson(records(R"({"group":"","filter":0,"tab":0})"), expected("camerainfo"));
@@ -112,7 +112,7 @@ TEST_F(RecordModelTest, showsEachTabAndModeAsTheCamerasAre) {
     expectJson(records(R"({"group":"","filter":0,"tab":1})"), R"({"records":[],"batch":[]})");
 }
 
-TEST_F(RecordModelTest, showsInputsIrigAndPluginsOfLiveCameras) {
+TEST_F(RecordModelTest, ShowsInputsIrigAndPluginsOfLiveCameras) {
     bring({"use", "irig", "plugins"});
     const QJsonObject live = readJson("live");
     expectJson(records(R"({"tab":2})"), toText(with(live, "sync")));
@@ -121,7 +121,7 @@ TEST_F(RecordModelTest, showsInputsIrigAndPluginsOfLiveCameras) {
     expectJson(records(R"({"tab":6})"), toText(live));
 }
 
-TEST_F(RecordModelTest, showsRecordingsAndPluginsInMemoryMode) {
+TEST_F(RecordModelTest, ShowsRecordingsAndPluginsInMemoryMode) {
     bring({"use", "plugins", "recordings"});
     host.appStatus().enterMemoryMode();
     const QJsonObject memory = readJson("memory");
@@ -130,7 +130,7 @@ TEST_F(RecordModelTest, showsRecordingsAndPluginsInMemoryMode) {
     expectJson(records(R"({"tab":4})"), toText(memory));
 }
 
-TEST_F(RecordModelTest, takesAMalformedRequestForAnEmptyOne) {
+TEST_F(RecordModelTest, TakesAMalformedRequestForAnEmptyOne) {
     bring({"use"});
     for (const char* request : {"", "{", "[]", R"({"group":7,"filter":"2","tab":null})"}) {
         SCOPED_TRACE(request);
@@ -139,7 +139,7 @@ TEST_F(RecordModelTest, takesAMalformedRequestForAnEmptyOne) {
     }
 }
 
-TEST_F(RecordModelTest, textArrivesAsItWasWritten) {
+TEST_F(RecordModelTest, TextArrivesAsItWasWritten) {
     QString awkward =
         QStringLiteral("<img src=x onerror=alert(1)> \"'\\/ \u30ab\u30e1\u30e9 \u2028 \U0001F3A5 %1 {}[],:");
     for (char16_t control = 1; control < 0x20; ++control) {
@@ -155,7 +155,7 @@ TEST_F(RecordModelTest, textArrivesAsItWasWritten) {
     EXPECT_EQ(gate.value("comments").toString(), QString(awkward % QLatin1Char('\n') % awkward));
 }
 
-TEST_F(RecordModelTest, withoutCamerasIsABatchRowOfEmptyLists) {
+TEST_F(RecordModelTest, WithoutCamerasIsABatchRowOfEmptyLists) {
     for (DOCKEY key = 1; key <= 8; ++key) {
         host.faults().plant(key, "*", {{}, 0, true});
     }
@@ -163,7 +163,7 @@ TEST_F(RecordModelTest, withoutCamerasIsABatchRowOfEmptyLists) {
     expectJson(records(R"({"tab":1})"), toText(empty));
 }
 
-TEST_F(RecordModelTest, batchRowCopiesTheChosenCameraElseTheLastSelected) {
+TEST_F(RecordModelTest, BatchRowCopiesTheChosenCameraElseTheLastSelected) {
     bring({"use"});
     const auto source = [this](DOCKEY chosen, const char* request) {
         state.batchDocKey = chosen;
@@ -175,7 +175,7 @@ TEST_F(RecordModelTest, batchRowCopiesTheChosenCameraElseTheLastSelected) {
     EXPECT_EQ(source(3, R"({"tab":1,"filter":2})"), 3U) << "nothing listed is selected: it is kept";
 }
 
-TEST_F(RecordModelTest, changeOfGroupSelectsTheGroupAndNothingElse) {
+TEST_F(RecordModelTest, ChangeOfGroupSelectsTheGroupAndNothingElse) {
     bring({"use"});
     change(8, {{"selected", true}});
     change(1, {{"selected", true}});
@@ -199,7 +199,7 @@ TEST_F(RecordModelTest, changeOfGroupSelectsTheGroupAndNothingElse) {
     EXPECT_EQ(calls(), (QStringList{"setPrefString wren/table/group Nobody", "deselectDoc 3", "deselectDoc 4"}));
 }
 
-TEST_F(RecordModelTest, nothingIsDeselectedWhileRecordingOrWhenTheHostKeepsItsSelection) {
+TEST_F(RecordModelTest, NothingIsDeselectedWhileRecordingOrWhenTheHostKeepsItsSelection) {
     bring({"use"});
     state.groups = {{"Nozzles", {"192.168.0.13"}}};
     const QStringList selectsOnly{"setPrefString wren/table/group Nozzles", "selectDoc 4"};
@@ -221,7 +221,7 @@ TEST_F(RecordModelTest, nothingIsDeselectedWhileRecordingOrWhenTheHostKeepsItsSe
     EXPECT_EQ(calls(), selectsOnly);
 }
 
-TEST_F(RecordModelTest, firstListAfterOpeningSelectsEveryCamera) {
+TEST_F(RecordModelTest, FirstListAfterOpeningSelectsEveryCamera) {
     state.group = QLatin1String(UnreadGroup);
     EXPECT_FALSE(getRecords(R"({"group":"","filter":1})").selectionChanged) << "none is listed";
     state.group = QLatin1String(UnreadGroup);
@@ -233,7 +233,7 @@ TEST_F(RecordModelTest, firstListAfterOpeningSelectsEveryCamera) {
     EXPECT_TRUE(stateOf(2, "selected").toBool());
 }
 
-TEST_F(RecordModelTest, defaultSettingsLimitWhatIsOffered) {
+TEST_F(RecordModelTest, DefaultSettingsLimitWhatIsOffered) {
     connectAll();
     state.allowed = {{"300", "1000", "2000"}, {"50", "70"}, {"512 x 512"}};
     QJsonObject gate = row(records(R"({"tab":1})"), 0);
@@ -257,7 +257,7 @@ TEST_F(RecordModelTest, defaultSettingsLimitWhatIsOffered) {
     EXPECT_EQ(gate.value("resolutions").toArray().size(), 5);
 }
 
-TEST_F(RecordModelTest, numbersReadAsTheUserLikesThem) {
+TEST_F(RecordModelTest, NumbersReadAsTheUserLikesThem) {
     connectAll();
     QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
     host.setPrefBool("display/recordRateInsertDelimiter", true);
@@ -276,7 +276,7 @@ TEST_F(RecordModelTest, numbersReadAsTheUserLikesThem) {
     }
 }
 
-TEST_F(RecordModelTest, framesReadAsTheUserLikesThemWhereTheyAreNotEdited) {
+TEST_F(RecordModelTest, FramesReadAsTheUserLikesThemWhereTheyAreNotEdited) {
     bring({"use", "recordings"});
     host.appStatus().enterMemoryMode();
     host.setPrefBool("display/frameInsertDelimiter", true);
@@ -292,7 +292,7 @@ TEST_F(RecordModelTest, framesReadAsTheUserLikesThemWhereTheyAreNotEdited) {
     EXPECT_EQ(gateOfPlugins.value("totalFrame"), "1000");
 }
 
-TEST_F(RecordModelTest, ratesFollowTheSyncSignal) {
+TEST_F(RecordModelTest, RatesFollowTheSyncSignal) {
     connectAll();
     state.allowed.frameRates = QStringList{"0", "250", "300", "1000", "2000"};
     state.sync.frequency = 1000;
@@ -305,7 +305,7 @@ TEST_F(RecordModelTest, ratesFollowTheSyncSignal) {
     EXPECT_EQ(offered(), QStringList{"1000"}) << "the current rate stands in for an empty list";
 }
 
-TEST_F(RecordModelTest, findsTheGroupToShow) {
+TEST_F(RecordModelTest, FindsTheGroupToShow) {
     EXPECT_EQ(model.getGroup(), "");
     state.groups = {{"A", {}}, {"B", {}}};
     const struct {
@@ -324,7 +324,7 @@ TEST_F(RecordModelTest, findsTheGroupToShow) {
     EXPECT_EQ(groupToShow("C", "B", {}), "C") << "without groups nothing is looked up";
 }
 
-TEST_F(RecordModelTest, whatSteersARowIsReadApart) {
+TEST_F(RecordModelTest, WhatSteersARowIsReadApart) {
     bring({"use"});
     state.groups = {{"Nozzles", {"192.168.0.13"}}};
     const auto rowOf = [this](const char* operation, const char* request) {
@@ -358,14 +358,14 @@ TEST_F(RecordModelTest, whatSteersARowIsReadApart) {
     EXPECT_TRUE(batch.contains("frameRate"));
 }
 
-TEST_F(RecordModelTest, aDeviceWhoseFirstHeadIsOffHasNoAlerts) {
+TEST_F(RecordModelTest, ADeviceWhoseFirstHeadIsOffHasNoAlerts) {
     connectAll();
     change(3, {{"connected", false}, {"alerts", QStringList{"The device is warm"}}});
     EXPECT_EQ(row(records(R"({"tab":1})"), 3).value("alert"), "The lens is missing");
     EXPECT_TRUE(failures.isEmpty());
 }
 
-TEST(SyncMembersTest, inputsAreOnThePortsOfTheCamerasClass) {
+TEST(SyncMembersTest, InputsAreOnThePortsOfTheCamerasClass) {
     // A signal of its own on each port tells which one was taken.
     const QMap<int, int> all{{1, 1}, {2, 8}, {3, 9}, {4, 6}, {5, 7}, {7, 16}, {8, 10}, {10, 11}};
     const struct {
@@ -387,7 +387,7 @@ TEST(SyncMembersTest, inputsAreOnThePortsOfTheCamerasClass) {
     }
 }
 
-TEST(SyncMembersTest, polarityRefinesTheSyncInput) {
+TEST(SyncMembersTest, PolarityRefinesTheSyncInput) {
     const struct {
         const char* sentence;
         int type;

@@ -61,7 +61,7 @@ protected:
     QString warning;
 };
 
-TEST_F(RecordingTest, theButtonArmsTriggersOrStopsByTheState) {
+TEST_F(RecordingTest, TheButtonArmsTriggersOrStopsByTheState) {
     host.setPrefBool("wren/display/lock", true);  // what is no start skips every check
     const struct {
         int state;
@@ -98,14 +98,14 @@ TEST_F(RecordingTest, theButtonArmsTriggersOrStopsByTheState) {
     }
 }
 
-TEST_F(RecordingTest, aCancelWhileFilesAreSavedInTheBackgroundLeavesTheRecordingFollowed) {
+TEST_F(RecordingTest, ACancelWhileFilesAreSavedInTheBackgroundLeavesTheRecordingFollowed) {
     bridge->setRecordRunning();
     host.flags().set("IsBgSaving", true);
     bridge->cancelRecord();
     EXPECT_TRUE(bridge->state().recordRunning);
 }
 
-TEST_F(RecordingTest, armingPreparesEveryConnectedCamera) {
+TEST_F(RecordingTest, ArmingPreparesEveryConnectedCamera) {
     host.setPrefBool("wren/display/lock", true);
     host.setPrefBool("recording/RecAllConnectedCamera", false);
     for (const DOCKEY key : {1, 2, 3, 4}) {
@@ -124,7 +124,7 @@ TEST_F(RecordingTest, armingPreparesEveryConnectedCamera) {
     EXPECT_EQ(desk.texts(), QStringList());
 }
 
-TEST_F(RecordingTest, problemsAreListedOnceAndTheUserDecides) {
+TEST_F(RecordingTest, ProblemsAreListedOnceAndTheUserDecides) {
     change(1, {{"alerts", QStringList{"The fan turns slowly", "<b>hot</b>"}}});
     change(3, {{"alerts", QStringList{"The device is warm"}}});
     change(4, {{"alerts", QStringList{"The device is warm", "The lens is missing"}}});
@@ -140,7 +140,7 @@ TEST_F(RecordingTest, problemsAreListedOnceAndTheUserDecides) {
     EXPECT_TRUE(bridge->state().recordRunning);
 }
 
-TEST_F(RecordingTest, whatHappensWhileTheUserReadsIsSeen) {
+TEST_F(RecordingTest, WhatHappensWhileTheUserReadsIsSeen) {
     change(1, {{"alerts", QStringList{"The fan turns slowly"}}});
     const Fault gone{{}, 0, true};
     const struct {
@@ -170,7 +170,7 @@ TEST_F(RecordingTest, whatHappensWhileTheUserReadsIsSeen) {
     EXPECT_EQ(desk.texts(), QStringList());
 }
 
-TEST_F(RecordingTest, playingInStepFollowsTheSignal) {
+TEST_F(RecordingTest, PlayingInStepFollowsTheSignal) {
     host.setPrefBool("wren/settings/syncInEnable", true);
     host.setPrefBool("wren/settings/deviceSpeedPlaying", true);
     const QString tooFast =
@@ -215,7 +215,7 @@ TEST_F(RecordingTest, playingInStepFollowsTheSignal) {
     }
 }
 
-TEST_F(RecordingTest, anAreaGoesToTheCamerasOfItsRate) {
+TEST_F(RecordingTest, AnAreaGoesToTheCamerasOfItsRate) {
     bridge->state().areas = {{1000, {-100, 200}}, {2000, {-5, 5}}};
     change(1, {{"rate", 1000}});
     change(2, {{"rate", 2000}});
@@ -232,7 +232,7 @@ TEST_F(RecordingTest, anAreaGoesToTheCamerasOfItsRate) {
                                                          "setRecordAreaStart 2 -5", "setRecordAreaEnd 2 5"}));
 }
 
-TEST_F(RecordingTest, aCameraThatDoesNotAnswerIsNamedAndTheOthersAreArmed) {
+TEST_F(RecordingTest, ACameraThatDoesNotAnswerIsNamedAndTheOthersAreArmed) {
     host.setPrefBool("recording/area", true);
     bridge->state().areas = {{1000, {-100, 200}}};
     const QString problem = "Problem with camera.\n";
@@ -277,7 +277,7 @@ TEST_F(RecordingTest, aCameraThatDoesNotAnswerIsNamedAndTheOthersAreArmed) {
     EXPECT_EQ(desk.texts(), QStringList{"Lock all connected cameras.\nRamp: no answer"});
 }
 
-TEST_F(RecordingTest, oneReadyDialogStandsAndNoneWhileSettingsAreLoaded) {
+TEST_F(RecordingTest, OneReadyDialogStandsAndNoneWhileSettingsAreLoaded) {
     const auto dialogs = [] { return visibleWindows().count("GUI_ProgressDialog"); };
     bridge->showReadyProgress();
     EXPECT_EQ(dialogs(), 0) << "the table does not run";

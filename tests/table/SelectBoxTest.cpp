@@ -58,7 +58,7 @@ protected:
     GUI_WebView* view = nullptr;
 };
 
-TEST_F(SelectBoxTest, listsThePartitionsOverTheControl) {
+TEST_F(SelectBoxTest, ListsThePartitionsOverTheControl) {
     show();
     EXPECT_TRUE(box->isVisible());
     EXPECT_EQ(rows(), (QStringList{"Warm-up", "Shot", "Partition 3", "Partition 4", "", "Settings..."}));
@@ -77,7 +77,7 @@ TEST_F(SelectBoxTest, listsThePartitionsOverTheControl) {
     EXPECT_EQ(eval("items.getCurrentPartition()").toInt(), 0);
 }
 
-TEST_F(SelectBoxTest, scrollsToTheChosenRow) {
+TEST_F(SelectBoxTest, ScrollsToTheChosenRow) {
     change(1, {{"partitions", 30}, {"partition", 20}});
     show();
     EXPECT_EQ(box->height(), 300);
@@ -86,7 +86,7 @@ TEST_F(SelectBoxTest, scrollsToTheChosenRow) {
     EXPECT_LE(eval("document.documentElement.scrollWidth").toInt(), 160);
 }
 
-TEST_F(SelectBoxTest, aChosenPartitionReachesTheSelectedCameras) {
+TEST_F(SelectBoxTest, AChosenPartitionReachesTheSelectedCameras) {
     show();
     host.updates().deter(true);
     choose(2);
@@ -97,7 +97,7 @@ TEST_F(SelectBoxTest, aChosenPartitionReachesTheSelectedCameras) {
     host.updates().deter(false);
 }
 
-TEST_F(SelectBoxTest, isWorkedByTheKeysOfItsWindow) {
+TEST_F(SelectBoxTest, IsWorkedByTheKeysOfItsWindow) {
     QLineEdit field(&window);
     field.show();
     field.setFocus();
@@ -119,7 +119,7 @@ TEST_F(SelectBoxTest, isWorkedByTheKeysOfItsWindow) {
     EXPECT_EQ(field.text(), "a");
 }
 
-TEST_F(SelectBoxTest, behindTheLastPartitionAreTheSettingsInLiveMode) {
+TEST_F(SelectBoxTest, BehindTheLastPartitionAreTheSettingsInLiveMode) {
     show();
     choose(4);
     EXPECT_TRUE(box->isVisible()) << "the line between is no choice";
@@ -143,7 +143,7 @@ TEST_F(SelectBoxTest, behindTheLastPartitionAreTheSettingsInLiveMode) {
     EXPECT_EQ(changes(), QStringList()) << "there is no current camera";
 }
 
-TEST_F(SelectBoxTest, listsTheVariableChannels) {
+TEST_F(SelectBoxTest, ListsTheVariableChannels) {
     eval(
         "items.signalShowVariable.connect(json => last = json);"
         "items.signalShowVariableRegist.connect(json => last = 'registration: ' + json)");
@@ -182,7 +182,7 @@ TEST_F(SelectBoxTest, listsTheVariableChannels) {
     EXPECT_EQ(changes(), QStringList());
 }
 
-TEST_F(SelectBoxTest, namesAreTextAndNothingElse) {
+TEST_F(SelectBoxTest, NamesAreTextAndNothingElse) {
     const QString hostile = R"(<img src=x onerror="window.ran=1"><b>'"&amp;)";
     change(1, {{"partitionNames", QStringList{hostile}}});
     show();
@@ -190,7 +190,7 @@ TEST_F(SelectBoxTest, namesAreTextAndNothingElse) {
     EXPECT_EQ(eval("document.querySelectorAll('#items img, #items b').length").toInt(), 0);
 }
 
-TEST_F(SelectBoxTest, aRefusedPartitionIsToldOnceWithTheListGone) {
+TEST_F(SelectBoxTest, ARefusedPartitionIsToldOnceWithTheListGone) {
     host.faults().plant(2, "setPartition", {"no answer", 0, false});
     show();
     bool shown = true;
@@ -201,7 +201,7 @@ TEST_F(SelectBoxTest, aRefusedPartitionIsToldOnceWithTheListGone) {
     EXPECT_TRUE(changes().filter("applyPartition").isEmpty());
 }
 
-TEST_F(SelectBoxTest, aListThatCanNotBeReadIsNotShown) {
+TEST_F(SelectBoxTest, AListThatCanNotBeReadIsNotShown) {
     host.faults().plant(1, "getPartitionName", {"no answer", 0, false});
     EXPECT_THROW(show(), std::exception);
     EXPECT_FALSE(box->isVisible());
@@ -218,7 +218,7 @@ TEST_F(SelectBoxTest, aListThatCanNotBeReadIsNotShown) {
     EXPECT_EQ(calls(), QStringList()) << "there is nothing to hide";
 }
 
-TEST_F(SelectBoxTest, bearsWhatItsPageThrows) {
+TEST_F(SelectBoxTest, BearsWhatItsPageThrows) {
     auto* bridge = qobject_cast<JS_Mediator_SelectBox*>(eval("items").value<QObject*>());
     ASSERT_NE(bridge, nullptr);
     for (const char* thrown : {"null", "new Error('no list')"}) {
@@ -235,7 +235,7 @@ TEST_F(SelectBoxTest, bearsWhatItsPageThrows) {
     }
 }
 
-TEST_F(SelectBoxTest, waitsForItsPage) {
+TEST_F(SelectBoxTest, WaitsForItsPage) {
     box = std::make_unique<GUI_SelectBox>(&host, "qrc:selectbox.html", &window);
     view = box->findChild<GUI_WebView*>();
     show();
@@ -249,7 +249,7 @@ TEST_F(SelectBoxTest, waitsForItsPage) {
     EXPECT_FALSE(box->isVisible()) << "for good";
 }
 
-TEST_F(SelectBoxTest, hidesWithItsWindow) {
+TEST_F(SelectBoxTest, HidesWithItsWindow) {
     for (QWidget* left : {static_cast<QWidget*>(box.get()), &window}) {
         show();
         send(left, QEvent::WindowDeactivate);
@@ -266,7 +266,7 @@ TEST_F(SelectBoxTest, hidesWithItsWindow) {
     EXPECT_FALSE(box->isVisible());
 }
 
-TEST_F(SelectBoxTest, aCloseByTheUserStandsInTheLog) {
+TEST_F(SelectBoxTest, ACloseByTheUserStandsInTheLog) {
     show();
     Course log;
     box->close();
@@ -275,7 +275,7 @@ TEST_F(SelectBoxTest, aCloseByTheUserStandsInTheLog) {
         R"(info: [USER] "[URL:GUI_SelectBox] [ID:close] [Control:Button] [Operation:clicked] [Value:] ")"));
 }
 
-TEST_F(SelectBoxTest, takesTheStyleOfTheUser) {
+TEST_F(SelectBoxTest, TakesTheStyleOfTheUser) {
     show();
     const auto styleOf = [this](const char* style) {
         host.prefs().setValue("env/style", style);
@@ -287,7 +287,7 @@ TEST_F(SelectBoxTest, takesTheStyleOfTheUser) {
 }
 
 /// The page goes on in its call while the box is destroyed under it.
-TEST_F(SelectBoxTest, destroyedInsideItsOwnCallItEndsTheCall) {
+TEST_F(SelectBoxTest, DestroyedInsideItsOwnCallItEndsTheCall) {
     host.faults().plant(1, "setPartition", {"no answer", 0, false});
     show();
     const QPointer<GUI_WebView> page = view;

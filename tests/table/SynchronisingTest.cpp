@@ -43,7 +43,7 @@ protected:
     QStringList handedOver() { return calls().filter("syncCameras"); }
 };
 
-TEST_F(SynchronisingTest, aChainShowsNoFrequenciesAndOtherModesNothing) {
+TEST_F(SynchronisingTest, AChainShowsNoFrequenciesAndOtherModesNothing) {
     expectJson(bridge->getSyncSettings(),
                R"({"syncEnable":true,"syncExecuteEnable":true,"syncSignal":"","syncSignals":[],
                    "signalGeneratorAvailable":false,"signalGeneratorConnected":false,"masterHubAvailable":false,
@@ -57,7 +57,7 @@ TEST_F(SynchronisingTest, aChainShowsNoFrequenciesAndOtherModesNothing) {
     EXPECT_EQ(desk.texts(), QStringList());
 }
 
-TEST_F(SynchronisingTest, handsTheCamerasOverAndRemindsOfTheWiring) {
+TEST_F(SynchronisingTest, HandsTheCamerasOverAndRemindsOfTheWiring) {
     host.setPrefString("sync/masterCamera", host.docManager().getDocAny(2)->control().getAddress(1));
     host.setPrefInt("sync/lport", 1);
     host.setPrefInt("sync/generator/input", 1);
@@ -76,7 +76,7 @@ TEST_F(SynchronisingTest, handsTheCamerasOverAndRemindsOfTheWiring) {
     EXPECT_EQ(desk.texts(), (QStringList{notice, notice}));
 }
 
-TEST_F(SynchronisingTest, aCameraThatDoesNotAnswerHidesNoReasonOfAnEarlierOne) {
+TEST_F(SynchronisingTest, ACameraThatDoesNotAnswerHidesNoReasonOfAnEarlierOne) {
     change(1, {{"lowLight", true}});
     host.faults().plant(2, "getTriggerMode", {"no answer", 0, false});
     EXPECT_FALSE(bridge->setSyncSettings());
@@ -84,7 +84,7 @@ TEST_F(SynchronisingTest, aCameraThatDoesNotAnswerHidesNoReasonOfAnEarlierOne) {
               QStringList{"Synchronization setting is impossible due to the presence of low light camera."});
 }
 
-TEST_F(SynchronisingTest, camerasThatAreNotSynchronisedAreArmedAllTheSame) {
+TEST_F(SynchronisingTest, CamerasThatAreNotSynchronisedAreArmedAllTheSame) {
     host.setPrefBool("wren/settings/recordingSync", true);
     host.setPrefBool("wren/display/lock", false);
     host.faults().plant(2, "synchronise", {"no lock on the signal", 0, false});
@@ -100,7 +100,7 @@ TEST_F(SynchronisingTest, camerasThatAreNotSynchronisedAreArmedAllTheSame) {
     EXPECT_EQ(calls().filter("startRecReady"), QStringList()) << "what is told before they are handed over stops it";
 }
 
-TEST_F(SynchronisingTest, whileTheCamerasAreHandedOverNothingElseReachesThem) {
+TEST_F(SynchronisingTest, WhileTheCamerasAreHandedOverNothingElseReachesThem) {
     host.setPrefBool("alert/setsynchronization", false);
     QSemaphore handOver;
     QObject::connect(
@@ -129,7 +129,7 @@ TEST_F(SynchronisingTest, whileTheCamerasAreHandedOverNothingElseReachesThem) {
     EXPECT_EQ(stateOf(1, "rate").toInt(), 1000) << "a click of the page is refused";
 }
 
-TEST_F(SynchronisingTest, aListOfManyRecordsAsksTheGeneratorOnce) {
+TEST_F(SynchronisingTest, AListOfManyRecordsAsksTheGeneratorOnce) {
     VisaFile visa;
     host.setRig(standardRig(64));
     connectAll();
@@ -151,7 +151,7 @@ TEST_F(SynchronisingTest, aListOfManyRecordsAsksTheGeneratorOnce) {
     EXPECT_EQ(visa.journal().filter("FREQ?").size(), 2) << "whether it answers, and what it makes";
 }
 
-TEST_F(SynchronisingTest, theTableComingBackWhileAGeneratorIsSoughtConnectsNothingTwice) {
+TEST_F(SynchronisingTest, TheTableComingBackWhileAGeneratorIsSoughtConnectsNothingTwice) {
     VisaFile visa;
     useGenerator();
     visa.script(R"({"viOpen": {"hold": true}})");
@@ -169,7 +169,7 @@ TEST_F(SynchronisingTest, theTableComingBackWhileAGeneratorIsSoughtConnectsNothi
     EXPECT_EQ(desk.texts(), QStringList());
 }
 
-TEST_F(SynchronisingTest, whatBecomesOfTheCamerasWhileAGeneratorIsSoughtIsSeen) {
+TEST_F(SynchronisingTest, WhatBecomesOfTheCamerasWhileAGeneratorIsSoughtIsSeen) {
     VisaFile visa;
     useGenerator();
     const struct {
@@ -196,7 +196,7 @@ TEST_F(SynchronisingTest, whatBecomesOfTheCamerasWhileAGeneratorIsSoughtIsSeen) 
     }
 }
 
-TEST_F(SynchronisingTest, theFirstHeadThatIsOnLeadsItsDevice) {
+TEST_F(SynchronisingTest, TheFirstHeadThatIsOnLeadsItsDevice) {
     host.setRig(readRig("eight-mixed"));
     host.faults().plant(8, "*", {{}, 0, true});  // a dummy
     change(4, {{"connected", true}});
@@ -204,7 +204,7 @@ TEST_F(SynchronisingTest, theFirstHeadThatIsOnLeadsItsDevice) {
     EXPECT_EQ(bridge->state().sync.masterCamera, 4U) << "the first head of its device is off";
 }
 
-TEST_F(SynchronisingTest, theDefaultSettingsOfferTheCamerasThatCanLead) {
+TEST_F(SynchronisingTest, TheDefaultSettingsOfferTheCamerasThatCanLead) {
     JS_Mediator_WrenDefaultSettingsDialog settings(&host);
     change(2, {{"name", "The \"second\""}});
     const QString address = host.docManager().getDocAny(2)->control().getAddress(1);

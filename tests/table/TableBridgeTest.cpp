@@ -36,7 +36,7 @@ protected:
     std::unique_ptr<QSignalSpy> ticks;
 };
 
-TEST_F(TableBridgeTest, whileABoxStandsThePageIsAnsweredButChangesNothing) {
+TEST_F(TableBridgeTest, WhileABoxStandsThePageIsAnsweredButChangesNothing) {
     QString records;
     Course course;
     desk.whileStanding = [&] {
@@ -62,7 +62,7 @@ TEST_F(TableBridgeTest, whileABoxStandsThePageIsAnsweredButChangesNothing) {
     EXPECT_FALSE(stateOf(1, "connected").toBool());
 }
 
-TEST_F(TableBridgeTest, ticksBeginWithTheFirstCallAndStandStillInACall) {
+TEST_F(TableBridgeTest, TicksBeginWithTheFirstCallAndStandStillInACall) {
     EXPECT_EQ(ticksMeanwhile(), 0) << "nobody has asked for anything yet";
     bridge->isLiveMode();
     EXPECT_TRUE(comesATick());
@@ -88,7 +88,7 @@ TEST_F(TableBridgeTest, ticksBeginWithTheFirstCallAndStandStillInACall) {
     EXPECT_TRUE(comesATick());
 }
 
-TEST_F(TableBridgeTest, noTicksInFileModeNorWhileTheHostSaves) {
+TEST_F(TableBridgeTest, NoTicksInFileModeNorWhileTheHostSaves) {
     desk.whileStanding = [&] { host.flags().set("IsSaving", true); };
     bridge->info("saving begins inside the call");
     EXPECT_EQ(ticksMeanwhile(), 0);
@@ -107,7 +107,7 @@ TEST_F(TableBridgeTest, noTicksInFileModeNorWhileTheHostSaves) {
     EXPECT_EQ(ticksMeanwhile(), 0) << "a closed table has none";
 }
 
-TEST_F(TableBridgeTest, aRunOfSelectionsMakesOneUpdateAndAListThatChangesThemToo) {
+TEST_F(TableBridgeTest, ARunOfSelectionsMakesOneUpdateAndAListThatChangesThemToo) {
     Course course;
     const auto updatesMade = [&course] { return course.take().filter("updateUI ").size(); };
     bridge->getRecords(R"({"group":"","filter":0,"tab":0})");
@@ -124,7 +124,7 @@ TEST_F(TableBridgeTest, aRunOfSelectionsMakesOneUpdateAndAListThatChangesThemToo
     EXPECT_EQ(updates, 1);
 }
 
-TEST_F(TableBridgeTest, keysCrossThePageAsNumbersAndTexts) {
+TEST_F(TableBridgeTest, KeysCrossThePageAsNumbersAndTexts) {
     QWebPage page;
     page.mainFrame()->addToJavaScriptWindowObject("bridge", bridge.get());
     const auto run = [&page](const char* script) { return page.mainFrame()->evaluateJavaScript(script); };

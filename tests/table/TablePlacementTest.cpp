@@ -12,7 +12,7 @@ const QRect FarPlace(2000, 0, 1300, 600);
 /// Half of the first screen, but not below the least size.
 const QRect Half(0, 0, 1200, 599);
 
-TEST(TablePlacement, opensWhereItWasUnlessThatIsNoScreen) {
+TEST(TablePlacement, OpensWhereItWasUnlessThatIsNoScreen) {
     const struct {
         const char* sentence;
         QPoint position;

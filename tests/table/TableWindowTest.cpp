@@ -30,7 +30,7 @@ protected:
     PluginSlot slot{host, plugin};
 };
 
-TEST_F(TableWindowTest, aDeclinedCloseLeavesTheTableAsItIs) {
+TEST_F(TableWindowTest, ADeclinedCloseLeavesTheTableAsItIs) {
     GUI_WrenTableDialog& dialog = open();
     EXPECT_EQ(dialog.windowTitle(), "WREN");
     EXPECT_EQ(dialog.geometry(), QRect(100, 80, 1200, 600));
@@ -52,7 +52,7 @@ TEST_F(TableWindowTest, aDeclinedCloseLeavesTheTableAsItIs) {
     EXPECT_FALSE(stateOf(1, "connected").toBool()) << "no camera is changed behind the question";
 }
 
-TEST_F(TableWindowTest, aClosingHostAsksNothing) {
+TEST_F(TableWindowTest, AClosingHostAsksNothing) {
     GUI_WrenTableDialog& dialog = open();
     host.flags().set("IsApplicationClosing", true);
     host.flags().set("IsWindowStateSaveSuppressed", true);
@@ -63,7 +63,7 @@ TEST_F(TableWindowTest, aClosingHostAsksNothing) {
     EXPECT_TRUE(calls().filter("wren/table/x").isEmpty());
 }
 
-TEST_F(TableWindowTest, aHostThatBeginsToCloseUnderTheQuestionWins) {
+TEST_F(TableWindowTest, AHostThatBeginsToCloseUnderTheQuestionWins) {
     GUI_WrenTableDialog& dialog = open();
     desk.answers = {{false, false}};
     desk.whileStanding = [this] { host.flags().set("IsApplicationClosing", true); };
@@ -72,7 +72,7 @@ TEST_F(TableWindowTest, aHostThatBeginsToCloseUnderTheQuestionWins) {
     EXPECT_TRUE(host.getPrefBool("wren/ready"));
 }
 
-TEST_F(TableWindowTest, aCloseUnderABoxIsForgottenWithTheTable) {
+TEST_F(TableWindowTest, ACloseUnderABoxIsForgottenWithTheTable) {
     GUI_WrenTableDialog& dialog = open();
     desk.whileStanding = [&] {
         dialog.close();
