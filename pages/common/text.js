@@ -1,6 +1,7 @@
 'use strict';
 
 // Texts on their way to the page.
+
 // Texts from cameras, files and users are text. Where one must pass through markup, it passes through here.
 function escapeMarkup(text) {
     return String(text).replace(/[&<>"'`]/g, letter => `&#${letter.charCodeAt(0)};`);
