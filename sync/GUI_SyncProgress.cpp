@@ -5,7 +5,6 @@
 #include "TextKey.h"
 #include "ZebHost.h"
 
-#include <QCloseEvent>
 #include <QCoreApplication>
 
 GUI_SyncProgress::GUI_SyncProgress(ZebHost* host)
@@ -15,7 +14,7 @@ GUI_SyncProgress::GUI_SyncProgress(ZebHost* host)
 }
 
 bool GUI_SyncProgress::run(RUN_SyncingThread& thread) {
-    m_running = true;
+    hold(true);
     connect(&thread, &RUN_SyncingThread::complete, this, &GUI_SyncProgress::complete);
     thread.start(QThread::InheritPriority);
     exec();
@@ -26,21 +25,7 @@ bool GUI_SyncProgress::run(RUN_SyncingThread& thread) {
 }
 
 void GUI_SyncProgress::complete(bool result) {
-    m_running = false;
+    hold(false);
     m_result = result;
     close();
-}
-
-void GUI_SyncProgress::reject() {
-    if (!m_running) {
-        GUI_ProgressDialog::reject();
-    }
-}
-
-void GUI_SyncProgress::closeEvent(QCloseEvent* event) {
-    if (m_running) {
-        event->ignore();
-    } else {
-        GUI_ProgressDialog::closeEvent(event);
-    }
 }

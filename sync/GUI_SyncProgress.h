@@ -15,15 +15,9 @@ public:
     /// Starts the work and runs an event loop until it has ended, thread and all. Whether it went well.
     bool run(RUN_SyncingThread& thread);
 
-    void reject() override;
-
 public Q_SLOTS:
     void complete(bool result);
 
-protected:
-    void closeEvent(QCloseEvent* event) override;
-
 private:
-    bool m_running = false;
     bool m_result = true;
 };

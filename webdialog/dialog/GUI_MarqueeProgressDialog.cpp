@@ -4,7 +4,6 @@
 #include "Style.h"
 #include "ZebHost.h"
 
-#include <QCloseEvent>
 #include <QThread>
 
 GUI_MarqueeProgressDialog::GUI_MarqueeProgressDialog(ZebHost* host, const QString& label, const QString& cancelText,
@@ -20,25 +19,12 @@ GUI_MarqueeProgressDialog::GUI_MarqueeProgressDialog(ZebHost* host, const QStrin
 int GUI_MarqueeProgressDialog::execThread(RUN_ProgressThreadInterface& worker) {
     QThread* thread = worker.thread();
     thread->start(QThread::InheritPriority);
-    m_running = true;
+    // Without a cancel button the wait for its end would be unseen.
+    hold(!m_cancellable);
     const int result = exec();
-    m_running = false;
+    hold(false);
     worker.requestStop();
     thread->wait();
     reset();
     return result;
-}
-
-void GUI_MarqueeProgressDialog::reject() {
-    if (mayClose()) {
-        GUI_ProgressDialog::reject();
-    }
-}
-
-void GUI_MarqueeProgressDialog::closeEvent(QCloseEvent* event) {
-    if (mayClose()) {
-        GUI_ProgressDialog::closeEvent(event);
-    } else {
-        event->ignore();
-    }
 }

@@ -17,15 +17,6 @@ public:
     /// thread has ended. Answers the dialog's result.
     int execThread(RUN_ProgressThreadInterface& worker);
 
-    /// While the worker runs a dialog without a cancel button can't be closed: the wait for its end would be unseen.
-    void reject() override;
-
-protected:
-    void closeEvent(QCloseEvent* event) override;
-
 private:
-    bool mayClose() const { return m_cancellable || !m_running; }
-
     const bool m_cancellable;
-    bool m_running = false;
 };

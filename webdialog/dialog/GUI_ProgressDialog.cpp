@@ -2,6 +2,7 @@
 
 #include "PlainText.h"
 
+#include <QCloseEvent>
 #include <QKeyEvent>
 #include <QLabel>
 
@@ -15,6 +16,29 @@ GUI_ProgressDialog::GUI_ProgressDialog(const QString& label, const QString& canc
     setRange(minimum, maximum);
     // Only a null text takes the button away.
     setCancelButtonText(cancelText.isEmpty() ? QString() : cancelText);
+}
+
+void GUI_ProgressDialog::hold(bool held) {
+    m_held = held;
+    // As Qt has connected it; pointers to the functions find no connection that was made by their names.
+    disconnect(this, SIGNAL(canceled()), this, SLOT(cancel()));
+    if (!held) {
+        connect(this, SIGNAL(canceled()), this, SLOT(cancel()));
+    }
+}
+
+void GUI_ProgressDialog::reject() {
+    if (!m_held) {
+        QProgressDialog::reject();
+    }
+}
+
+void GUI_ProgressDialog::closeEvent(QCloseEvent* event) {
+    if (m_held) {
+        event->ignore();
+    } else {
+        QProgressDialog::closeEvent(event);
+    }
 }
 
 void GUI_ProgressDialog::setVisible(bool visible) {

@@ -16,13 +16,18 @@ public:
     GUI_ProgressDialog(const QString& label, const QString& cancelText, int minimum, int maximum, QWidget* parent,
                        Qt::WindowFlags windowFlags, bool ignoreEscape);
 
+    /// A held one stands until it is let go: no key, no window manager, and no press of its cancel button closes it.
+    void hold(bool held);
+    void reject() override;
     void setVisible(bool visible) override;
 
 protected:
+    void closeEvent(QCloseEvent* event) override;
     bool event(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
     const bool m_ignoreEscape;
+    bool m_held = false;
     std::optional<OverActiveWindow> m_over;
 };
