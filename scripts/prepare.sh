@@ -11,7 +11,7 @@ packages=(
 )
 run_packages=(xvfb xauth openbox)
 lint_packages=(clang-format-16 clang-tidy)
-thread_sanitizer_packages=(clang libclang-rt-14-dev)
+thread_sanitizer_packages=(clang libclang-rt-14-dev libomp-14-dev)
 
 # install_missing PACKAGE...: as root or by sudo; otherwise names what is missing and fails.
 install_missing() {
