@@ -73,30 +73,31 @@ std::optional<Recording> Camera::recording() const {
 }
 
 std::optional<Recording> Camera::recordingOf(PARTITIONNUMBER partition) const {
-    CameraState asked = state();
-    if (partition != asked.partition) {
-        const std::lock_guard lock(m_device.mutex());
-        static_cast<PartitionMemory&>(asked) = m_otherPartitions.value(partition);
-        asked.partition = partition;
-    }
-    return Recording::of(asked, model());
+    const std::lock_guard lock(m_device.mutex());
+    return recordingIn(partition);
 }
 
 std::vector<Recording> Camera::recordings() const {
-    QList<PARTITIONNUMBER> partitions;
-    {
-        const std::lock_guard lock(m_device.mutex());
-        partitions = m_otherPartitions.keys();
-        partitions.append(m_state.partition);
-    }
+    const std::lock_guard lock(m_device.mutex());
+    QList<PARTITIONNUMBER> partitions = m_otherPartitions.keys();
+    partitions.append(m_state.partition);
     std::sort(partitions.begin(), partitions.end());
     std::vector<Recording> recordings;
     for (const PARTITIONNUMBER partition : partitions) {
-        if (const auto recording = recordingOf(partition)) {
+        if (const auto recording = recordingIn(partition)) {
             recordings.push_back(*recording);
         }
     }
     return recordings;
+}
+
+std::optional<Recording> Camera::recordingIn(PARTITIONNUMBER partition) const {
+    CameraState asked = m_state;
+    if (partition != asked.partition) {
+        static_cast<PartitionMemory&>(asked) = m_otherPartitions.value(partition);
+        asked.partition = partition;
+    }
+    return Recording::of(asked, model());
 }
 
 void Camera::noteSaved(const Recording& recording) {
@@ -108,9 +109,9 @@ void Camera::noteSaved(const Recording& recording) {
 }
 
 void Camera::change(const QVariantMap& members) {
-    CameraState checked = state();
-    checked.apply(members);
     const std::lock_guard lock(m_device.mutex());
+    CameraState checked = m_state;
+    checked.apply(members);
     changePartition(checked.partition);
     m_state.apply(members);
 }

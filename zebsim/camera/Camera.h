@@ -15,7 +15,8 @@
 class CameraDevice;
 struct SyncSource;
 
-/// A camera, or one head of a device with several: the one truth of its settings. Any thread.
+/// A camera, or one head of a device with several: the one truth of its settings. Any thread; who looks while a command
+/// is carried out may see a part of it.
 class Camera {
 public:
     Camera(DOCKEY key, CameraDevice& device, CameraState state);
@@ -113,7 +114,8 @@ private:
     bool command(CameraOperation operation);
     bool commandConnected(CameraOperation operation);
     void requireConnected() const;
-    /// The mutex is held.
+    /// The device's mutex is held.
+    std::optional<Recording> recordingIn(PARTITIONNUMBER partition) const;
     void changePartition(PARTITIONNUMBER partition);
     PartitionMemory& memoryOf(PARTITIONNUMBER partition);
     template <typename T>
