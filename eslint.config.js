@@ -24,6 +24,9 @@ const host = definedBy(...fs.readdirSync(hostScripts).map(name => path.join(host
 const joined = 'build/dev/pages';
 const joinedScripts = fs.existsSync(joined) ? fs.readdirSync(joined).filter(name => name.endsWith('.js')) : [];
 const page = definedBy(...joinedScripts.map(name => path.join(joined, name)));
+// What all pages share: no page uses all of it.
+const sharedScripts = 'pages/common';
+const shared = Object.keys(definedBy(...fs.readdirSync(sharedScripts).map(name => path.join(sharedScripts, name))));
 const bridges = readonly(joinedScripts.map(name => path.basename(name, '.js')));
 
 // Calls of later editions that parse like any other.
@@ -74,7 +77,9 @@ module.exports = [
             globals: Object.assign({}, browser, host, bridges)
         },
         rules: Object.assign({}, pageRules, {
-            'no-unused-vars': ['error', { vars: 'all', args: 'after-used', caughtErrors: 'none' }],
+            'no-unused-vars': ['error', {
+                vars: 'all', varsIgnorePattern: `^(${shared.join('|')})$`, args: 'after-used', caughtErrors: 'none'
+            }],
             'max-lines': 'off'
         })
     },

@@ -8,6 +8,7 @@
 #include <QEventLoop>
 #include <QFileDialog>
 #include <QFutureWatcher>
+#include <QMessageBox>
 #include <QThread>
 #include <QWebFrame>
 
@@ -300,7 +301,13 @@ void OtherHost::lookForModal() {
         if (auto* files = qobject_cast<QFileDialog*>(dialog)) {
             files->selectFile("/tmp/support.zip");
         }
-        agrees ? dialog->accept() : dialog->reject();
+        if (!agrees) {
+            dialog->reject();
+        } else if (qobject_cast<QMessageBox*>(dialog)) {
+            dialog->done(QMessageBox::Ok);
+        } else {
+            dialog->accept();
+        }
     }
 }
 
@@ -314,8 +321,10 @@ void OtherHost::preparePages() {
             frame->addToJavaScriptWindowObject(attached->bridgeName(), attached, QWebFrame::QtOwnership);
             attached->addPrefsJSObject();
         });
-        view = of;
-        bridge = attached;
+        if (!view) {  // the first is the table's
+            view = of;
+            bridge = attached;
+        }
     };
     onUpdateUI = [this](unsigned int, bool) {
         if (std::exchange(m_owed, true)) {

@@ -15,11 +15,6 @@ QVariant text(const char* value) {
     return QString::fromLatin1(value);
 }
 
-/// The columns that every tab of the live mode begins with, and its own.
-QVariant liveColumns(const char* own) {
-    return QString(QStringLiteral("lock,connectIcon,cameraName,alert,cameraStatus,sync,") % QLatin1String(own));
-}
-
 QList<FactoryValue> table() {
     const QString pictures = QStandardPaths::writableLocation(QStandardPaths::PicturesLocation);
     return {
@@ -51,15 +46,14 @@ QList<FactoryValue> table() {
         {"trigger/manualBeforePercent", 50.0},
         {"trigger/randomFrames", 100},
         {"trigger/randomTimes", 10},
-        {"wren/column_order/cameraInfo", liveColumns("connectionStatus,ipAddress,comment")},
-        {"wren/column_order/livecontrol", liveColumns("frameRate,shutterSpeed,resolution,trigger,reduce,lowlight")},
-        {"wren/column_order/sync", liveColumns("externalSync,triggerIn,triggerSwIn")},
-        {"wren/column_order/irig", liveColumns("irigTimeStamp,irigSync")},
-        {"wren/column_order/plugin", liveColumns("plugin")},
-        {"wren/column_order/memoryInfo",
-         text("recordCheck,connectIcon,cameraName,alert,frameRate,originalStartFrameNo,originalEndFrameNo,"
-              "selectStartFrameNo,selectEndFrameNo,totalFrame,triggerOffset")},
-        {"wren/column_order/memoryPlugin", text("recordCheck,connectIcon,cameraName,alert,plugin")},
+        // All that a tab has, in its own order.
+        {"wren/column_order/cameraInfo", text("")},
+        {"wren/column_order/livecontrol", text("")},
+        {"wren/column_order/sync", text("")},
+        {"wren/column_order/irig", text("")},
+        {"wren/column_order/plugin", text("")},
+        {"wren/column_order/memoryInfo", text("")},
+        {"wren/column_order/memoryPlugin", text("")},
         {"wren/display/alert", true},
         {"wren/display/cameraSettings", true},
         {"wren/display/customSettings", true},
