@@ -39,6 +39,7 @@ public:
     /// Whether the document is a head of a device with several.
     virtual bool isMultiHead() const = 0;
 
+    /// Whether the camera knows the state of its sync input.
     virtual bool hasSyncStatus() const = 0;
     /// State of the signal on the sync input, as "Sync In".
     virtual QString getSyncStatusText() const = 0;
@@ -49,6 +50,7 @@ public:
     virtual int getExposureDelayClass() const = 0;
     /// Not 0 while the camera blends two exposures.
     virtual int isDualSlopeShutter() const = 0;
+    /// Whether the camera chooses its exposure itself.
     virtual bool isAutoExposure() const = 0;
 
     /// Numbers of the ports that the camera has.
@@ -84,6 +86,7 @@ public:
 
     /// Live speed before image quality.
     virtual bool getReduceMode(int head) const = 0;
+    /// The mode in which exposures last longer than a frame.
     virtual bool isLowLightMode() const = 0;
     /// A `zeb::LowLightType`.
     virtual int getLowLightType() const = 0;
@@ -110,6 +113,7 @@ public:
     virtual void setTriggerOffset(int frame) = 0;
     /// The frames to keep of what is recorded, as frame numbers: first <= start <= end <= last.
     virtual void setSelectRange(int start, int end) = 0;
+    /// Whether the partition in use holds a recording; what erases it.
     virtual bool hasRecordedData() const = 0;
     virtual void eraseRecordedData(int mode) = 0;
 };

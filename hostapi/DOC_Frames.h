@@ -18,13 +18,14 @@ public:
     virtual int getSelectEndFrame(int head) const = 0;
     /// Whether the recording is being played.
     virtual bool isPlaying() const = 0;
-    /// Whether the recording is marked for saving.
+    /// Whether the user has marked the recording as looked through.
     virtual bool isRecordCheck() const = 0;
     virtual void setRecordCheck(bool check) = 0;
 
     /// While a camera is played in step with a faster signal, it shows a frame of its own for this many of the signal.
     virtual bool isFrameSkipEnabled() const = 0;
     virtual void setFrameSkipEnabled(bool enabled) = 0;
+    /// How the frames are counted; 0, by the signal.
     virtual void setFrameSkipMode(int mode) = 0;
     virtual int getFrameSkip() const = 0;
     virtual void setFrameSkip(int frames) = 0;

@@ -33,6 +33,7 @@ public:
 
     virtual DOCKEY getKey() const = 0;
     virtual bool isConnected() const = 0;
+    /// Whether the user has selected it in the host; commands without a list of cameras go to the selected ones.
     virtual bool isSelected() const = 0;
     /// Whether the mobile device is the current medium.
     virtual bool isMobileSelected() const = 0;

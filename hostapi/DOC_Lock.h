@@ -5,9 +5,10 @@ class DOC_Lock {
 public:
     virtual ~DOC_Lock() = default;
 
-    /// 0 none, 1 CTS ready, 2 ready, 3 recording.
+    /// A `zeb::RecordStatus`.
     virtual int getRecordState() const = 0;
+    /// Whether nobody may change the camera's parameters.
     virtual bool isParamLocked() const = 0;
-    /// A head in record state 2 or 3 is not unlocked.
+    /// A head that is ready or records is not unlocked.
     virtual void setParamLock(bool lock) = 0;
 };

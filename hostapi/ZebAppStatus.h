@@ -25,6 +25,7 @@ public:
     virtual void closePlugin(const QString& name) = 0;
     /// No plug-in works on the images any more; its panel stays.
     virtual void clearCurrentPlugin() = 0;
+    /// Close the panel of the plug-in that works on the images, and the smaller one beside the images.
     virtual void closePanel() = 0;
     virtual void closeAuxiliaryPanel() = 0;
 
@@ -42,7 +43,9 @@ public:
     /// Whether this is the host's edition of that name. Does not throw.
     virtual bool isMVersion() const = 0;
 
-    /// Works that the host is busy with, a flag each. None throws.
+    /// Works that the host is busy with, a flag each: settings that are on their way to the cameras (exposure, hardware
+    /// trigger, variable channel), a command of a network of cameras, images that are adjusted or searched for dead
+    /// pixels, and the trigger by image, which records or watches. None throws.
     virtual bool isAutoExposureSetting() const = 0;
     virtual bool isHwTriggerSetting() const = 0;
     virtual bool isVariableSetting() const = 0;

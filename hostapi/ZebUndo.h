@@ -7,6 +7,7 @@ class ZebUndo {
 public:
     virtual ~ZebUndo() = default;
 
+    /// Forgets all steps.
     virtual void clear() = 0;
     /// What is done until `endMacro` is one step of the stack.
     virtual void beginMacro(const QString& text) = 0;

@@ -55,6 +55,7 @@ void MemoryInfoMembers::addRecording(Record& record, DOC_Interface& doc) const {
     setPlain("selectEndMaxFrameNo", last - base);
     setFormatted("totalFrame", doc.head().getFrameTotal(1, 0));
     setPlain("triggerOffset", triggerOffset(doc.control()));
+    // Counted from the recording's first frame, unlike the offset itself.
     setPlain("minTriggerOffset", first);
     setPlain("maxTriggerOffset", last);
 }

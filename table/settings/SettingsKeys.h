@@ -2,7 +2,7 @@
 
 #include <QString>
 
-/// Preferences that hold the default settings. `syncprefs` reads those of the common signal.
+/// Preferences that hold the default settings. What decides on the common signal is read by `syncprefs`.
 namespace settingskeys {
 
 inline const QString Groups = QStringLiteral("wren/settings/groups");

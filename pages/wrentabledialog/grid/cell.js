@@ -10,7 +10,7 @@
 //   tick(...)       what every refresh brings; a full refresh runs it after `rebuild`
 //   leave(cell)     before the elements go
 //   still           whether a click or a drag on it leaves the selection as it is
-//   click(place, part)     what a click on a control, an element with a `part`, does; `place` is view, row and cell
+//   click(place, part)     what a click on a link or a list of the cell does; `place` is view, row and cell
 //   clickBatch()           what a click on the batch row does that meets no control
 //   doubleClick(view, key)
 //   change(key, element)   what a change by the user does
