@@ -13,13 +13,14 @@
 
 #include <algorithm>
 
-int clampedStart(long long asked, int first, int selectedEnd) {
-    return int(std::min<long long>(std::max<long long>(asked, first), selectedEnd));
+namespace {
+
+/// The nearest number of a frame to one that was asked for.
+int clamped(long long asked, int first, int last) {
+    return int(std::min<long long>(std::max<long long>(asked, first), last));
 }
 
-int clampedEnd(long long asked, int selectedStart, int last) {
-    return int(std::min<long long>(std::max<long long>(asked, selectedStart), last));
-}
+}  // namespace
 
 void MemoryEditing::setRange(const DocKeyList& keys, const std::function<QPair<int, int>(DOC_Frames&)>& rangeOf) {
     if (!m_host.isMemoryMode()) {
@@ -37,7 +38,7 @@ void MemoryEditing::setSelectStartFrameNo(const DocKeyList& keys, int frameNo) {
     setRange(keys, [frameNo](DOC_Frames& frames) {
         const int end = frames.getSelectEndFrame(0);
         const long long asked = static_cast<long long>(frameNo) + frames.getTriggerFrame(0);
-        return qMakePair(clampedStart(asked, frames.getFirstFrame(0, 0), end), end);
+        return qMakePair(clamped(asked, frames.getFirstFrame(0, 0), end), end);
     });
 }
 
@@ -45,7 +46,7 @@ void MemoryEditing::setSelectEndFrameNo(const DocKeyList& keys, int frameNo) {
     setRange(keys, [frameNo](DOC_Frames& frames) {
         const int start = frames.getSelectStartFrame(0);
         const long long asked = static_cast<long long>(frameNo) + frames.getTriggerFrame(0);
-        return qMakePair(start, clampedEnd(asked, start, frames.getLastFrame(0, 0)));
+        return qMakePair(start, clamped(asked, start, frames.getLastFrame(0, 0)));
     });
 }
 
@@ -58,7 +59,7 @@ void MemoryEditing::setTriggerOffset(const DocKeyList& keys, int offset) {
         const int base = control.getTriggerOffsetBase();
         const long long asked = static_cast<long long>(base) + offset;
         const int last = doc->frames().getLastFrame(0, 0);
-        const int value = clampedStart(asked, doc->frames().getFirstFrame(0, 0), last);
+        const int value = clamped(asked, doc->frames().getFirstFrame(0, 0), last);
         const bool wasEnabled = control.isTriggerOffsetEnabled();
         control.setTriggerOffsetEnabled(value != base);
         try {

@@ -10,7 +10,8 @@ class ZebHost;
 /// What is to be kept of each camera's recording, and its saving. Memory mode only. GUI thread.
 ///
 /// Frames are counted from each camera's own trigger. A value out of a camera's range becomes the nearest that it can
-/// have; the same value for many cameras so comes to each one's own limit. All may throw what host and documents throw.
+/// have; the same value for many cameras so comes to each one's own limit. All may throw what host and documents throw,
+/// at the first camera that fails: those after it stay as they are.
 class MemoryEditing {
 public:
     explicit MemoryEditing(ZebHost& host) : m_host(host) {}
@@ -30,7 +31,3 @@ private:
 
     ZebHost& m_host;
 };
-
-/// The nearest range in a recording for a start, or an end, that was asked for. All are numbers of frames.
-int clampedStart(long long asked, int first, int selectedEnd);
-int clampedEnd(long long asked, int selectedStart, int last);
