@@ -40,10 +40,12 @@ Course::~Course() {
 
 void Course::note(const QString& entry) {
     if (current) {
+        const QMutexLocker lock(&current->m_mutex);
         current->m_entries.append(entry);
     }
 }
 
 QStringList Course::take() {
+    const QMutexLocker lock(&m_mutex);
     return std::exchange(m_entries, {});
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QMutex>
 #include <QString>
 #include <QStringList>
 
@@ -13,7 +14,8 @@ inline void PrintTo(const QStringList& list, std::ostream* out) {
     *out << '\n' << list.join(QLatin1Char('\n')).toStdString() << '\n';
 }
 
-/// The course of a test: lines of the log and what is noted, in one order. While a course lives it takes the log.
+/// The course of a test: lines of the log and what is noted, in one order. While a course lives it takes the log. Notes
+/// may come on any thread.
 class Course {
 public:
     Course();
@@ -26,5 +28,6 @@ public:
     QStringList take();
 
 private:
+    QMutex m_mutex;
     QStringList m_entries;
 };
