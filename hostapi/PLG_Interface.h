@@ -32,17 +32,19 @@ class ZebPageBridge;
 /// for one; a user who reached the table beneath it would press in vain.
 ///
 /// A host may destroy the plug-in from its event loop and in any call of the plug-in that runs one: boxes, dialogs,
-/// searches, connecting, saving, changes of mode. Also where it stores a preference and where it hears of the plug-in:
-/// `setWrenRunning`, `notifyPluginShown`, `notifyPluginClosed`, `openPlugin`, `closePlugin`. From then on `getPlugin`
-/// answers null. What the plug-in can't clear away beneath such a call it clears away when the event loop is back;
-/// until then host and documents must live.
+/// searches, connecting, commands to cameras, saving, changes of mode. Also where it stores a preference and where it
+/// hears of the plug-in: `setWrenRunning`, `notifyPluginShown`, `notifyPluginClosed`, `openPlugin`, `closePlugin`. From
+/// then on `getPlugin` answers null. What the plug-in can't clear away beneath such a call it clears away when the
+/// event loop is back; until then host and documents must live.
 class PLG_Interface : public QObject {
 public:
     using NoHandle = QPair<DOC_Interface*, int>;
 
     /// Called once, before any other use. The host outlives the plug-in.
     virtual void setHost(ZebHost* host) = 0;
+    /// Closes the dialog of a plug-in whose button opens one.
     virtual void closeByType() = 0;
+    /// Draws the panel anew when it is in the active window.
     virtual void updatePanel() = 0;
     virtual void reserved1() = 0;
     virtual void reserved2() = 0;
@@ -70,23 +72,29 @@ public:
     /// Bridge of the side panel; null when there is none. Owned by the plug-in.
     virtual ZebPageBridge* getPanelBridge() = 0;
     virtual QString getName() const = 0;
+    /// How the host sorts its plug-ins; numbers of its own, as those of `getGroupNumber`, `getSizeGroup` and the
+    /// further attributes.
     virtual int getCategory() const = 0;
     virtual int getAttributeA() const = 0;
     virtual int getAttributeB() const = 0;
     virtual int getAttributeC() const = 0;
     virtual bool isStandardPlugin() const = 0;
+    /// An option of the plug-in, kept apart for file mode and for the others; it has a second one that is only read.
     virtual void setOptionForMode(bool on) = 0;
+    /// Whether the plug-in is in use.
     virtual void setRunning(bool running) = 0;
     virtual bool isRunning() const = 0;
     /// `mode` 0 live, 1 memory, 2 file.
     virtual bool isAvailableInMode(int mode) const = 0;
     virtual bool isAvailable() const = 0;
+    /// Whether a change of mode closes the dialog.
     virtual bool getCloseOnModeChange() const = 0;
     virtual void setCloseOnModeChange(bool close) = 0;
     virtual bool getOptionForMode() const = 0;
     virtual bool isToolActive() const = 0;
     virtual bool getOption2ForMode() const = 0;
 
+    /// The panel is about to be shown, and has been given up.
     virtual void preparePanel() = 0;
     virtual void clearPanelWidget() = 0;
     /// Side panel widget; null when there is none. Owned by the page that shows it.
@@ -108,6 +116,8 @@ public:
     virtual QPoint getDocPoint(DOCKEY key) = 0;
     virtual QPoint getLastPoint() const = 0;
     virtual int getCursorHandle() const = 0;
+    /// 6: the button opens a dialog; 2 and 3: it is that of a tool on the images. How such a tool takes documents is
+    /// told by the kinds that follow.
     virtual int getButtonType() const = 0;
     virtual int getSelectKind() const = 0;
     virtual bool isButtonEnabled() const = 0;
@@ -116,6 +126,7 @@ public:
     virtual int getSizeGroup() const = 0;
     virtual int getAttributeG() const = 0;
     virtual bool reserved11() const = 0;
+    /// A mutex of the plug-in. A thread that holds it may take it again.
     virtual void lock() = 0;
     virtual void unlock() = 0;
 
@@ -135,7 +146,9 @@ public:
     virtual void reserved12() = 0;
     virtual int getAttributeH() const = 0;
     virtual void reserved13() = 0;
+    /// A text that was dropped on the images.
     virtual void dropString(const QString& text) = 0;
+    /// A key that the viewer has got; `isKeyStepped` tells whether the plug-in has moved by it.
     virtual void keyPress(QKeyEvent* event) = 0;
     virtual void clearKeyStepped() = 0;
     virtual QString getConfirmText() const = 0;
@@ -182,9 +195,11 @@ public:
     virtual void setAttributeM(int value) = 0;
     virtual void reserved30() = 0;
     virtual void reserved31() = 0;
+    /// Whether the live loop rests while the dialog is open.
     virtual bool needsLivePause() const = 0;
     virtual bool getAttributeN() const = 0;
     virtual void reserved32() = 0;
+    /// Whether there is such a document.
     virtual bool hasDoc(DOCKEY key) = 0;
     virtual void setCursorForHandle(DOC_Interface* doc, int handle) = 0;
     virtual bool isDialogVisible() const = 0;

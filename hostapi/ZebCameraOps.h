@@ -4,8 +4,9 @@
 
 /// Operations on many cameras at once. GUI thread.
 ///
-/// Each call goes to every camera of its list. Those that fail do not keep it from the others; they are
-/// gathered, and one exception at the end names each camera with its reason.
+/// Each call goes to every camera of its list, side by side. Those that fail do not keep it from the others; they are
+/// gathered, and one exception at the end names each camera with its reason. While slow cameras take a command the host
+/// may run an event loop: documents are to be fetched anew after each.
 class ZebCameraOps {
 public:
     virtual ~ZebCameraOps() = default;

@@ -46,7 +46,8 @@ public:
     /// Selects all. `sender` asks for it; may be null.
     virtual void selectAllDocs(QObject* sender) = 0;
 
-    /// Connect and disconnect cameras; back when all have answered or failed. Failures are shown by the host.
+    /// Connect and disconnect cameras, side by side; back when all have answered or failed. Failures are shown by the
+    /// host. Like `ZebCameraOps` they may run an event loop.
     virtual void connectDocs(const DocKeyList& keys) = 0;
     virtual void disconnectDocs(const DocKeyList& keys) = 0;
     /// Forgets all cameras; a search finds them again.
@@ -64,13 +65,15 @@ public:
     virtual bool isWaveDataAcquisition() const = 0;
     /// Whether the cameras stand at memory partitions that do not go together.
     virtual bool isConflictPartition(int mode) const = 0;
+    /// Whether the cameras' clocks are being put into step.
     virtual bool isPhaseAdjusting() const = 0;
     /// Whether a recording keeps only the area that is set on each document.
     virtual bool isRecordAreaEnabled() const = 0;
 
     /// The mutex of document work; never null, not recursive. Does not throw.
     virtual QMutex* getDocMutex() = 0;
-    /// Bracket of a change that restarts the live loop.
+    /// Bracket of a change that restarts the live loop: it begins, those who show images hear of it, it ends, and what
+    /// has changed takes effect.
     virtual void beginDocEdit() = 0;
     virtual void beginDocEditNotify() = 0;
     virtual void endDocEdit() = 0;
@@ -80,10 +83,13 @@ public:
     virtual void refreshDocList(int mode) = 0;
 
     /// Image tools, by the name of their plug-in.
+    /// A quick tool works while its button is down, one of them at a time is the active one; "" for none.
     virtual void setQuickTool(const QString& tool, bool on) = 0;
     virtual void setActiveQuickTool(const QString& tool) = 0;
+    /// The tool takes the current document in or leaves it out; `all`: every document.
     virtual void toolSelect(const QString& tool, bool on) = 0;
     virtual void toolSelectAll(const QString& tool, bool all, bool on) = 0;
+    /// What the tool has made is kept, is thrown away, or is shown as it would be.
     virtual void toolBegin(int mode, const QString& tool) = 0;
     virtual void toolEnd(const QString& tool) = 0;
     virtual void toolApply(const QString& tool) = 0;

@@ -158,31 +158,39 @@ public:
     /// Flags of the host. None throws.
     /// Whether it has started up and takes commands.
     virtual bool isReady() const = 0;
+    /// Whether its user is leaving it: nothing may keep it open any more.
     virtual bool isApplicationClosing() const = 0;
+    /// While windows must not store where they stand, as while the host arranges them itself.
     virtual bool isWindowStateSaveSuppressed() const = 0;
+    /// Whether the dialog of a plug-in that excludes recording is open.
     virtual bool isOtherPluginOpen() const = 0;
     /// True while the host keeps its selection, whatever the group of a table says.
     virtual bool isSelectionKept() const = 0;
+    /// Whether the trigger is tested: one that comes is shown and starts no recording.
     virtual bool getTriggerTesting() const = 0;
-    /// While the trigger is tested a trigger that comes is shown and starts no recording.
     virtual void setTriggerTesting(bool on) = 0;
+    /// Works on the images that are under way: marks are followed, the shading is measured, a lens is focussed.
     virtual bool isTracking() const = 0;
     virtual bool isShading() const = 0;
     virtual bool isAutoFocussing() const = 0;
+    /// Whether the current camera has a lens that focusses by itself. `mode` is 1.
     virtual bool isCurrentAutoFocus(int mode) const = 0;
     /// The views do not take turns, whatever `ZebViewOps::isCycleView` says.
     virtual bool isCycleViewBlocked() const = 0;
     /// Whether the page in front is another than the live one or, with the flag, than that and the device settings.
     virtual bool isNotLivePage(bool orDeviceSettings) const = 0;
+    /// Whether the dialog of preferences, or any modal dialog, stands.
     virtual bool isPrefDialogOpening() const = 0;
     virtual bool isModalDialogOpening() const = 0;
     /// Whether the host's own window is the active one.
     virtual bool isZebActive() const = 0;
     /// What fills the screen; null when nothing does.
     virtual QWidget* getFullScreenWidget() const = 0;
+    /// Whether a text box has the focus, as `setTextBoxFocusState` tells.
     virtual bool isTextBoxFocussing() const = 0;
     /// While a text box of a page has the focus, the host's shortcut keys belong to it. Does not throw.
     virtual void setTextBoxFocusState(bool focused) = 0;
+    /// Whether the image tool of the plug-in `tool` is the active one.
     virtual bool isToolActive(const QString& tool) const = 0;
     /// Whether the host has the image plug-in of that name.
     virtual bool isPluginAvailable(const QString& name) const = 0;

@@ -2,7 +2,7 @@
 
 #include "ZebTypes.h"
 
-/// Recording on the cameras of the host. GUI thread.
+/// Recording on the cameras of the host. What commands them may run an event loop, as in `ZebCameraOps`. GUI thread.
 class ZebRecorder {
 public:
     virtual ~ZebRecorder() = default;

@@ -28,14 +28,6 @@ namespace {
 
 const QString WiringPref = QStringLiteral("alert/setsynchronization");
 
-DocKeyList keysOf(const DocList& docs) {
-    DocKeyList keys;
-    for (const DOC_Interface* doc : docs) {
-        keys.append(doc->getKey());
-    }
-    return keys;
-}
-
 /// A part of the work that leaves the lines of the call that does it alone.
 template <typename Work>
 void step(const char* method, TraceArgs args, Work&& work) {

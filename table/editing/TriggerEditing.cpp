@@ -1,12 +1,14 @@
 #include "TriggerEditing.h"
 
 #include "ChangeableDocs.h"
+#include "ConnectedDocs.h"
 #include "DOC_Control.h"
 #include "DOC_Frames.h"
 #include "DOC_Interface.h"
 #include "SettingsKeys.h"
 #include "TextKey.h"
 #include "ZebCameraOps.h"
+#include "ZebDocManager.h"
 #include "ZebHost.h"
 
 #include <QStringList>
@@ -83,15 +85,18 @@ void TriggerEditing::applyTriggerMode(const DocList& docs, int mode) {
 /// Each command goes to all cameras, whatever one of them says to an earlier one; answers what they have refused.
 GatheredFailures TriggerEditing::send(const DocList& docs, int mode, const zeb::TriggerSettings& settings) {
     ZebCameraOps& cameras = m_host.cameraOps();
+    const DocKeyList keys = keysOf(docs);
     GatheredFailures refusals;
-    const auto setMode = [&] {
-        cameras.setTriggerMode(docs, settings.kind, mode, settings.reserved1, settings.reserved2,
+    const auto setMode = [&](const DocList& there) {
+        cameras.setTriggerMode(there, settings.kind, mode, settings.reserved1, settings.reserved2,
                                settings.manualBeforePercent, settings.randomFrames, settings.randomTimes);
     };
-    refusals.attempt(setMode);
+    refusals.attempt([&] { setMode(docs); });
     if (mode == zeb::TriggerRandom || mode == zeb::TriggerRandomReset) {
-        refusals.attempt([&] { cameras.setRandomTriggerPhase(docs, settings.randomTimes > 0); });
-        refusals.attempt(setMode);
+        // The mode takes its numbers anew once the camera knows how it counts. Documents are others after a command.
+        ZebDocManager& documents = m_host.docManager();
+        refusals.attempt([&] { cameras.setRandomTriggerPhase(docsOf(documents, keys), settings.randomTimes > 0); });
+        refusals.attempt([&] { setMode(docsOf(documents, keys)); });
     }
     return refusals;
 }

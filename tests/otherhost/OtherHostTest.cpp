@@ -77,7 +77,8 @@ std::vector<Act> pageActs() {
                                            {"DOC_Interface*", "null"}};
     QStringList calls{"setParamLock([1, 2, 3], true); wrentabledialog.record()",
                       "connect([1, 2, 3], false); wrentabledialog.connect([1, 2, 3], true)",
-                      "enterMemoryMode(); wrentabledialog.save()", "enterMemoryMode(); wrentabledialog.saveLayout()"};
+                      "setTriggerMode([1, 2, 3], '5')", "enterMemoryMode(); wrentabledialog.save()",
+                      "enterMemoryMode(); wrentabledialog.saveLayout()"};
     const QMetaObject& type = *host.bridge->metaObject();
     for (int i = QObject::staticMetaObject.methodCount(); i < type.methodCount(); ++i) {
         const QMetaMethod method = type.method(i);
@@ -136,7 +137,11 @@ const QByteArrayList Moments =
         "ZebHost::setPref ZebHost::setPrefInt ZebHost::setPrefBool ZebHost::setPrefFloat "
         "ZebHost::setPrefString ZebDocManager::connectDocs ZebDocManager::disconnectDocs "
         "ZebDocManager::deleteAllDocs ZebDocManager::editDoc ZebCameraOps::searchCamera "
-        "ZebCameraOps::discoverCameras ZebCameraOps::updateCameras ZebAppStatus::openPlugin "
+        "ZebCameraOps::discoverCameras ZebCameraOps::updateCameras ZebCameraOps::setRecordRate "
+        "ZebCameraOps::setShutterSpeed ZebCameraOps::setResolution ZebCameraOps::setTriggerMode "
+        "ZebCameraOps::setRandomTriggerPhase ZebCameraOps::setReduceMode ZebCameraOps::setLowLight "
+        "ZebCameraOps::setLowLightType ZebCameraOps::stopForPrefs "
+        "ZebRecorder::startRecReady ZebRecorder::cancelRecording ZebAppStatus::openPlugin "
         "ZebAppStatus::closePlugin ZebAppStatus::enterLiveMode ZebAppStatus::enterMemoryMode "
         "ZebAppStatus::setWrenRunning ZebAppStatus::notifyPluginShown ZebAppStatus::notifyPluginClosed "
         "QFileDialog QMessageBox GUI_SyncProgress")

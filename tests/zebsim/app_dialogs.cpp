@@ -3,11 +3,14 @@
 #include "CommandLine.h"
 #include "ModalWatcher.h"
 #include "PageScript.h"
+#include "ParallelRows.h"
 #include "PreferencePages.h"
+#include "ProgressWait.h"
 #include "RigFile.h"
 #include "ScenarioDialogs.h"
 #include "ScenarioError.h"
 #include "Simulator.h"
+#include "Until.h"
 #include "ViewerWindow.h"
 #include "ZebPrefsDialog.h"
 #include "ZebSupportFile.h"
@@ -21,6 +24,7 @@
 #include <QMetaProperty>
 #include <QPlainTextEdit>
 #include <QProgressDialog>
+#include <QPushButton>
 #include <QSpinBox>
 #include <QTableWidget>
 #include <QTemporaryDir>
@@ -28,6 +32,8 @@
 #include <QWebView>
 
 #include <gtest/gtest.h>
+
+#include <future>
 
 namespace {
 
@@ -180,6 +186,31 @@ TEST_F(Dialogs, WaitForAWorkerThatNobodyCanLeave) {
     EXPECT_TRUE(stood && watched.isFinished());
     EXPECT_EQ(ModalWatcher::standing(), nullptr);
     host.execProgress("again", watched);
+}
+
+TEST_F(Dialogs, NameWhoHasNotAnsweredAndLeaveOutWhoWasNotReached) {
+    std::promise<void> answer;
+    ParallelRows rows(
+        12, [answered = answer.get_future().share()](int) { answered.wait(); }, 10);
+    ASSERT_TRUE(until([&] { return rows.waiting().size() == 2; }));
+    const QStringList names{"<b>", "b", "c", "d", "e", "f", "g", "h", "i", "j", "k", "l"};
+    QTimer look;
+    next([&](QDialog& dialog) {
+        const auto* label = dialog.findChild<QLabel*>();
+        EXPECT_EQ(label->text(), "No answer yet: <b>, b, c, d, e, f, g, h and 4 more");
+        dialog.findChild<QPushButton*>()->click();
+        QObject::connect(&look, &QTimer::timeout, label, [&, label] {
+            if (dialog.findChild<QPushButton*>() == nullptr && label->text().endsWith("and 2 more")) {
+                look.stop();
+                EXPECT_TRUE(dialog.isVisible()) << "the others still take the command";
+                answer.set_value();
+            }
+        });
+        look.start(10);
+    });
+    waitWithProgress(host, rows, names);
+    EXPECT_EQ(rows.leftOut(), (std::vector<int>{10, 11}));
+    EXPECT_EQ(ModalWatcher::standing(), nullptr);
 }
 
 TEST_F(Dialogs, GivePicturesAndTheLogToTheSupportFile) {

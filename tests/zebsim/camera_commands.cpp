@@ -76,7 +76,7 @@ TEST_F(MixedCameras, ABatchReachesTheOthersAndNamesThoseThatFail) {
 TEST_F(MixedCameras, TakeTheirTimeOnTheClock) {
     test.clock.join();
     setRate({1, 5}, 1000);
-    EXPECT_EQ(test.clock.join(), 2 + 8);
+    EXPECT_EQ(test.clock.join(), 8) << "as long as the slower of the two";
 
     plant(1, "getRecordRate", {{}, 300, false});
     rate(1);

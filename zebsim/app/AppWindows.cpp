@@ -91,6 +91,10 @@ void AppWindows::runProgress(const QString& text, QFutureWatcherBase& watcher) {
     waitWithProgress(m_host, text, watcher);
 }
 
+void AppWindows::waitForRows(ParallelRows& rows, const QStringList& names) {
+    waitWithProgress(m_host, rows, names);
+}
+
 QImage AppWindows::currentImage() const {
     const CameraWindow* window = m_images.find(m_host.docManager().currentKey());
     if (window == nullptr || !window->view().frame()) {

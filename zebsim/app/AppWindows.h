@@ -30,6 +30,7 @@ public:
     /// Left when the camera goes, or when others take its place.
     void editCamera(DOCKEY key) override;
     void runProgress(const QString& text, QFutureWatcherBase& watcher) override;
+    void waitForRows(ParallelRows& rows, const QStringList& names) override;
     void save(bool layout) override { m_saving.save(layout); }
     bool isSaving() const override { return m_saving.isSaving(); }
     void snapShot(int mode) override;

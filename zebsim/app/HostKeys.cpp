@@ -99,12 +99,9 @@ void HostKeys::disconnectAll() {
         return;
     }
     try {
-        m_host.cameras().forEach(m_host.cameras().keysOf(&CameraState::connected), [](Camera& camera) {
-            // Its heads go together.
-            if (camera.get(&CameraState::connected)) {
-                camera.disconnect();
-            }
-        });
+        CameraBank& cameras = m_host.cameras();
+        m_host.batch().runOrThrow(cameras.holdDevices(cameras.keysOf(&CameraState::connected)),
+                                  [](Camera& camera) { camera.disconnect(); });
     } catch (const std::exception& e) {
         m_host.messages().tellFailure(e);
     }

@@ -2,26 +2,43 @@
 
 #include "GUI_MarqueeProgressDialog.h"
 #include "HostCalls.h"
+#include "ParallelRows.h"
+#include "UiText.h"
 #include "ZebHost.h"
 
-#include <QCloseEvent>
 #include <QEventLoop>
 #include <QFutureWatcher>
 #include <QPointer>
+#include <QTimer>
 
 namespace {
 
-/// A window manager may close any window.
-class StayOpen : public QObject {
-public:
-    bool eventFilter(QObject* object, QEvent* event) override {
-        if (event->type() != QEvent::Close) {
-            return QObject::eventFilter(object, event);
-        }
-        event->ignore();
-        return true;
+/// Milliseconds between two looks at the rows.
+constexpr int LookAgain = 50;
+/// More names than these are counted.
+constexpr int MostNames = 8;
+
+/// Nobody closes it, but it goes with the main window, which may be destroyed meanwhile.
+QPointer<GUI_MarqueeProgressDialog> show(ZebHost& host, const QString& text, const QString& cancelText) {
+    const HostCalls::Own own;
+    auto* progress = new GUI_MarqueeProgressDialog(&host, text, cancelText, true);
+    progress->hold(true);
+    progress->show();
+    return progress;
+}
+
+/// Who has not answered.
+QString awaited(const ParallelRows& rows, const QStringList& names) {
+    QStringList who;
+    const std::vector<int> unfinished = rows.unfinished();
+    for (const int row : unfinished) {
+        who << names.at(row);
     }
-};
+    const QString shown = who.mid(0, MostNames).join(QStringLiteral(", "));
+    return who.size() > MostNames
+               ? uiText("No answer yet: %1 and %2 more").arg(shown, QString::number(who.size() - MostNames))
+               : uiText("No answer yet: %1").arg(shown);
+}
 
 }  // namespace
 
@@ -31,14 +48,32 @@ void waitWithProgress(ZebHost& host, const QString& text, QFutureWatcherBase& wa
     }
     QEventLoop loop;
     QObject::connect(&watcher, &QFutureWatcherBase::finished, &loop, &QEventLoop::quit);
-    StayOpen stayOpen;
-    // It goes with the main window, which may be destroyed meanwhile.
-    const QPointer<GUI_MarqueeProgressDialog> progress = [&] {
-        const HostCalls::Own own;
-        return new GUI_MarqueeProgressDialog(&host, host.translate(text), {}, true);
-    }();
-    progress->installEventFilter(&stayOpen);
-    progress->show();
+    const QPointer<GUI_MarqueeProgressDialog> progress = show(host, host.translate(text), {});
     loop.exec();
+    delete progress;
+}
+
+void waitWithProgress(ZebHost& host, ParallelRows& rows, const QStringList& names) {
+    const QString cancelText = rows.waiting().empty() ? QString() : uiText("Cancel");
+    const QPointer<GUI_MarqueeProgressDialog> progress = show(host, awaited(rows, names), cancelText);
+    QObject::connect(progress, &QProgressDialog::canceled, progress, [&rows] { rows.leaveOutWaiting(); });
+    QEventLoop loop;
+    QTimer look;
+    QObject::connect(&look, &QTimer::timeout, &loop, [&] {
+        if (rows.waitFor(0)) {
+            loop.quit();
+        } else if (progress) {
+            progress->setLabelText(awaited(rows, names));
+            if (rows.waiting().empty()) {
+                progress->setCancelButton(nullptr);
+            }
+        }
+    });
+    look.start(LookAgain);
+    loop.exec();
+    // The application may be ending its event loops.
+    rows.leaveOutWaiting();
+    while (!rows.waitFor(1000)) {
+    }
     delete progress;
 }

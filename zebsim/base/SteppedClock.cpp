@@ -15,6 +15,21 @@ void SteppedClock::wait(qint64 ms) {
     }
 }
 
+void SteppedClock::beginRow() {
+    const std::lock_guard lock(m_mutex);
+    qint64& booked = m_booked[std::this_thread::get_id()];
+    auto& [before, longest] = m_rows.try_emplace(std::this_thread::get_id(), booked, booked).first->second;
+    longest = std::max(longest, booked);
+    booked = before;
+}
+
+void SteppedClock::endRows() {
+    beginRow();
+    const std::lock_guard lock(m_mutex);
+    m_booked[std::this_thread::get_id()] = m_rows.at(std::this_thread::get_id()).second;
+    m_rows.erase(std::this_thread::get_id());
+}
+
 void SteppedClock::advance(qint64 ms) {
     const std::lock_guard lock(m_mutex);
     m_time += ms;

@@ -7,7 +7,8 @@
 #include <QStringList>
 
 #include <algorithm>
-#include <stdexcept>
+#include <set>
+#include <utility>
 
 namespace {
 
@@ -139,20 +140,20 @@ QString CameraBank::labelOf(const Camera& camera) const {
     return alike < 2 ? name : QString(name % QStringLiteral(" (") % camera.address() % QLatin1Char(')'));
 }
 
-void CameraBank::forEach(const DocKeyList& keys, const std::function<void(Camera&)>& work) const {
-    QStringList failures;
+HeldCameras CameraBank::hold(const DocKeyList& keys) const {
+    HeldCameras cameras;
     for (const DOCKEY key : keys) {
-        const auto camera = hold(key);
-        if (!camera) {
-            continue;
-        }
-        try {
-            work(*camera);
-        } catch (const std::exception& e) {
-            failures.append(QString::fromUtf8(e.what()));
+        if (auto camera = hold(key)) {
+            cameras.push_back(std::move(camera));
         }
     }
-    if (!failures.isEmpty()) {
-        throw std::runtime_error(failures.join(QLatin1Char('\n')).toStdString());
-    }
+    return cameras;
+}
+
+HeldCameras CameraBank::holdDevices(const DocKeyList& keys) const {
+    HeldCameras cameras = hold(keys);
+    std::set<const CameraDevice*> devices;
+    const auto isFurtherHead = [&](const auto& camera) { return !devices.insert(&camera->device()).second; };
+    cameras.erase(std::remove_if(cameras.begin(), cameras.end(), isFurtherHead), cameras.end());
+    return cameras;
 }

@@ -16,7 +16,11 @@ class FaultPlan;
 struct CameraState;
 struct Rig;
 
+/// They live for as long as they are held, whatever becomes of the rig.
+using HeldCameras = std::vector<std::shared_ptr<Camera>>;
+
 /// The cameras of the host, each with its key. Keys count from 1 in the order of the rig. GUI thread.
+
 class CameraBank {
 public:
     CameraBank(Clock& clock, FaultPlan& faults);
@@ -39,9 +43,10 @@ public:
     std::shared_ptr<Camera> hold(DOCKEY key) const;
     /// Whether the rig has such a camera, gone or not found yet.
     bool has(DOCKEY key) const { return key >= 1 && key <= m_cameras.size(); }
-    /// Does `work` on each of these cameras that is there; when it failed on some, throws a `std::runtime_error` at the
-    /// end, a line for each. Any thread.
-    void forEach(const DocKeyList& keys, const std::function<void(Camera&)>& work) const;
+    /// Those of these cameras that are there, in the order of `keys`. Any thread.
+    HeldCameras hold(const DocKeyList& keys) const;
+    /// The same with the first head only of each device, for what reaches the heads together.
+    HeldCameras holdDevices(const DocKeyList& keys) const;
     /// In the order of their keys, without those that are gone or not found yet.
     std::vector<Camera*> all() const;
     std::vector<Camera*> connected() const;

@@ -208,6 +208,7 @@ void Camera::trigger() {
     }
 }
 
+/// Its recording is over when whoever runs it says so.
 void Camera::stop() {
     commandConnected(OPERATION("stop"));
 }

@@ -2,6 +2,7 @@
 
 class CameraBank;
 class Clock;
+class HostBatch;
 class HostCalls;
 class HostEvents;
 class HostMessages;
@@ -21,9 +22,10 @@ class UpdateCycle;
 /// What the parts of the host reach of each other. It is handed to each of them before all are made, and lives as long
 /// as the host.
 struct HostContext {
-    const Clock& clock;
+    Clock& clock;
     const HostCalls& calls;
     CameraBank& cameras;
+    HostBatch& batch;
     const Preferences& prefs;
     const StatusFlags& flags;
     HostEvents& events;

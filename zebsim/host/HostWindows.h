@@ -5,7 +5,9 @@
 #include <QImage>
 #include <QRect>
 #include <QString>
+#include <QStringList>
 
+class ParallelRows;
 class QFutureWatcherBase;
 class ZebPrefsDialog;
 struct ZebSupportFile;
@@ -26,6 +28,9 @@ public:
     /// A modal progress with `text` until `watcher` has finished; nothing cancels it. Without an application it only
     /// waits.
     virtual void runProgress(const QString& text, QFutureWatcherBase& watcher);
+    /// Waits for a command to cameras of these names, a row for each, and tells who has not answered. The user may
+    /// leave out those that have not got it. Without an application it only waits.
+    virtual void waitForRows(ParallelRows& rows, const QStringList& names);
 
     /// Asks what is to be saved of the recordings and where, each camera for itself or all in one picture, and begins.
     virtual void save(bool /*layout*/) {}

@@ -3,6 +3,8 @@
 #include "Camera.h"
 #include "CameraBank.h"
 #include "DOC_Interface.h"
+#include "GatheredFailures.h"
+#include "HostBatch.h"
 #include "HostCalls.h"
 #include "HostContext.h"
 #include "Journal.h"
@@ -130,9 +132,17 @@ void SimCameraOps::syncCameras(const DocList& docs, DOC_Interface* master, int l
         source.name = SyncSource::Hub;
     }
     try {
-        command(OPERATION("ZebCameraOps::syncCameras"), docs,
-                {source.master, lport, external, generator, input, frequency, polarity},
-                [&source](Camera& camera) { camera.synchronise(source); });
+        const DocKeyList keys = keysOf(docs);
+        m_host.calls.change(OPERATION("ZebCameraOps::syncCameras"), {Journal::keyList(keys), source.master, lport,
+                                                                     external, generator, input, frequency, polarity});
+        // One after the other, for a chain is put together from its master on.
+        GatheredFailures failures;
+        for (const DOCKEY key : keys) {
+            if (const auto camera = m_host.cameras.hold(key)) {
+                failures.attempt([&] { camera->synchronise(source); });
+            }
+        }
+        failures.rethrow();
     } catch (const std::exception& failure) {
         m_host.notices.add(Message::Error, QString::fromUtf8(failure.what()));
         throw;
@@ -141,8 +151,8 @@ void SimCameraOps::syncCameras(const DocList& docs, DOC_Interface* master, int l
 
 void SimCameraOps::setPartition(PARTITIONNUMBER number, int mode) {
     m_host.calls.change(OPERATION("ZebCameraOps::setPartition"), {number, mode});
-    m_host.cameras.forEach(m_host.cameras.keysOf(&CameraState::selected),
-                           [number](Camera& camera) { camera.setPartition(number); });
+    m_host.batch.runOrThrow(m_host.cameras.hold(m_host.cameras.keysOf(&CameraState::selected)),
+                            [number](Camera& camera) { camera.setPartition(number); });
 }
 
 unsigned int SimCameraOps::getCurrentVariable() const {
@@ -153,8 +163,8 @@ unsigned int SimCameraOps::getCurrentVariable() const {
 
 void SimCameraOps::setVariable(unsigned int channel) {
     m_host.calls.change(OPERATION("ZebCameraOps::setVariable"), {channel});
-    m_host.cameras.forEach(m_host.cameras.keysOf(&CameraState::selected),
-                           [channel](Camera& camera) { camera.setVariable(channel); });
+    m_host.batch.runOrThrow(m_host.cameras.hold(m_host.cameras.keysOf(&CameraState::selected)),
+                            [channel](Camera& camera) { camera.setVariable(channel); });
 }
 
 void SimCameraOps::stopForPrefs() {
@@ -165,7 +175,7 @@ void SimCameraOps::stopForPrefs() {
             armed.append(camera->key());
         }
     }
-    m_host.cameras.forEach(armed, [](Camera& camera) { camera.disarm(); });
+    m_host.batch.runOrThrow(m_host.cameras.hold(armed), [](Camera& camera) { camera.disarm(); });
 }
 
 bool SimCameraOps::isLowlight() const {
@@ -226,5 +236,5 @@ void SimCameraOps::command(HostOperation operation, const DocList& docs, const Q
                            const std::function<void(Camera&)>& work) {
     const DocKeyList keys = keysOf(docs);
     m_host.calls.change(operation, QVariantList{Journal::keyList(keys)} + args);
-    m_host.cameras.forEach(keys, work);
+    m_host.batch.runOrThrow(m_host.cameras.hold(keys), work);
 }

@@ -16,6 +16,7 @@ SimHost::SimHost(Clock& clock, MessageDesk& desk, const QString& prefsPath)
           }
       }),
       m_appObject(m_prefs, m_translator),
+      m_batch(m_context),
       m_messages(*this, desk, m_prefs, m_docManager),
       m_hostPrefs(m_calls, m_prefs),
       m_states(m_flags, m_cameras),

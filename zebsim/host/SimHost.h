@@ -3,6 +3,7 @@
 #include "AppObject.h"
 #include "CameraBank.h"
 #include "FaultPlan.h"
+#include "HostBatch.h"
 #include "HostCalls.h"
 #include "HostContext.h"
 #include "HostEvents.h"
@@ -40,7 +41,8 @@ class Clock;
 class MessageDesk;
 struct Rig;
 
-/// The stand-in for the host application: what `ZebHost` promises, on simulated cameras.
+/// The stand-in for the host application: what `ZebHost` promises, on simulated cameras. It is as long as `ZebHost` has
+/// operations. GUI thread, but what says "any thread".
 ///
 /// Works with and without windows. The operations of `ZebHost` are the plug-in's, and the changing ones stand in the
 /// journal; the host's own parts use what is behind them (`prefs`, `cameras`, `updates`) and leave no trace there.
@@ -65,6 +67,7 @@ public:
     FaultPlan& faults() { return m_faults; }
     CameraBank& cameras() { return m_cameras; }
     const CameraBank& cameras() const { return m_cameras; }
+    HostBatch& batch() { return m_batch; }
     const Journal& journal() const { return m_journal; }
     Preferences& prefs() { return m_prefs; }
     const Preferences& prefs() const { return m_prefs; }
@@ -275,9 +278,10 @@ private:
     QPointer<QWidget> m_mainWindow;
     QPointer<QWidget> m_mdiWidget;
 
-    const HostContext m_context{m_clock,      m_calls,      m_cameras,    m_prefs,   m_flags,        m_events,
-                                m_updates,    m_translator, m_messages,   m_notices, m_unsavedGuard, m_appStatus,
-                                m_syncSignal, m_recorder,   m_docManager, m_saver,   m_windows};
+    const HostContext m_context{m_clock,     m_calls,      m_cameras,    m_batch,      m_prefs,   m_flags,
+                                m_events,    m_updates,    m_translator, m_messages,   m_notices, m_unsavedGuard,
+                                m_appStatus, m_syncSignal, m_recorder,   m_docManager, m_saver,   m_windows};
+    HostBatch m_batch;
     HostMessages m_messages;
     HostPrefs m_hostPrefs;
     HostStates m_states;

@@ -2,6 +2,7 @@
 
 #include "Camera.h"
 #include "CameraBank.h"
+#include "HostBatch.h"
 #include "HostCalls.h"
 #include "HostContext.h"
 #include "HostEvents.h"
@@ -20,7 +21,7 @@
 
 SimRecorder::SimRecorder(const HostContext& host)
     : m_host(host),
-      m_run(host.cameras, host.clock, host.translator,
+      m_run(host.cameras, host.batch, host.clock, host.translator,
             RecordRun::Listener{
                 [&host] { host.updates.request(); },
                 [&host](const QString& text) { host.notices.add(Message::Error, text); },
@@ -84,8 +85,16 @@ void SimRecorder::startRecReady() {
     arm();
 }
 
+/// The cameras have not answered the last command, and the user is told so.
+bool SimRecorder::isBusy() {
+    if (m_run.isCommanding()) {
+        m_host.notices.add(Message::Info, TextKey("The cameras have not answered the last command yet."));
+    }
+    return m_run.isCommanding();
+}
+
 void SimRecorder::arm() {
-    if (hasEnded()) {
+    if (isBusy() || hasEnded()) {
         return;
     }
     if (!m_host.unsaved.mayRecordOver([this] { return m_run.keysToArm(); })) {
@@ -103,6 +112,9 @@ void SimRecorder::triggerRecording() {
 }
 
 void SimRecorder::trigger() {
+    if (isBusy()) {
+        return;
+    }
     if (m_host.flags.isOn(StatusFlags::IsTriggerTesting)) {
         m_host.notices.add(Message::Info, TextKey("Trigger test: the trigger has come. Nothing is recorded."));
     } else {
@@ -112,7 +124,13 @@ void SimRecorder::trigger() {
 
 void SimRecorder::stopRecording() {
     m_host.calls.change(OPERATION("ZebRecorder::stopRecording"));
-    m_run.stop();
+    stop();
+}
+
+void SimRecorder::stop() {
+    if (!isBusy()) {
+        m_run.stop();
+    }
 }
 
 void SimRecorder::cancelRecording(bool recording) {
@@ -127,7 +145,7 @@ void SimRecorder::cancel() {
 }
 
 bool SimRecorder::endByCancel() {
-    if (hasEnded()) {
+    if (isBusy() || hasEnded()) {
         return false;
     }
     m_run.cancel();
@@ -159,7 +177,7 @@ void SimRecorder::press() {
             trigger();
             break;
         case zeb::RecordRecording:
-            m_run.stop();
+            stop();
             break;
         default:
             break;

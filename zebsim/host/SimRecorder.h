@@ -51,8 +51,10 @@ public:
 private:
     void arm();
     void trigger();
+    void stop();
     /// False when the recording had ended already.
     bool endByCancel();
+    bool isBusy();
     /// Whether the recording has ended and nobody knew yet; they do now.
     bool hasEnded();
     void deliverEnd();

@@ -1483,5 +1483,21 @@
         <source>%1: its recording lies in partition %2, and another one is in use.</source>
         <translation>%1: 撮影はパーティション %2 にあり、現在は別のパーティションが使われています。</translation>
     </message>
+    <message>
+        <source>No answer yet: %1</source>
+        <translation>応答待ち: %1</translation>
+    </message>
+    <message>
+        <source>No answer yet: %1 and %2 more</source>
+        <translation>応答待ち: %1、ほか %2 台</translation>
+    </message>
+    <message>
+        <source>The cameras have not answered the last command yet.</source>
+        <translation>直前のコマンドにカメラがまだ応答していません。</translation>
+    </message>
+    <message>
+        <source>%1: the command was cancelled before it.</source>
+        <translation>%1: コマンドは送信前にキャンセルされました。</translation>
+    </message>
 </context>
 </TS>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "CommandAll.h"
+#include "CameraBatch.h"
 #include "RecordPart.h"
 
 #include <functional>

@@ -3,20 +3,29 @@
 #include "Camera.h"
 #include "CameraBank.h"
 #include "Clock.h"
-#include "CommandAll.h"
 
+#include <QScopedValueRollback>
 #include <QtDebug>
 
 #include <algorithm>
 #include <exception>
 #include <utility>
 
-RecordRun::RecordRun(const CameraBank& cameras, const Clock& clock, const Translator& translator, Listener listener)
+RecordRun::RecordRun(const CameraBank& cameras, CameraBatch& batch, const Clock& clock, const Translator& translator,
+                     Listener listener)
     : m_cameras(cameras),
+      m_batch(batch),
       m_clock(clock),
       m_listener(std::move(listener)),
       m_parts(cameras),
       m_losses(cameras, translator) {}
+
+std::optional<QStringList> RecordRun::command(const HeldCameras& cameras, void (Camera::*give)()) {
+    const int before = m_abandoned;
+    const QScopedValueRollback<bool> commanding(m_commanding, true);
+    QStringList reasons = m_batch.run(cameras, [give](Camera& camera) { (camera.*give)(); });
+    return before == m_abandoned ? std::optional(std::move(reasons)) : std::nullopt;
+}
 
 RecordPart& RecordRun::takeIn(const std::shared_ptr<Camera>& camera) {
     m_losses.takeBack(*camera);
@@ -40,9 +49,9 @@ void RecordRun::arm() {
         std::stable_partition(cameras.begin(), cameras.end(), [](const auto& camera) { return camera->isArmed(); });
     std::for_each(cameras.begin(), atRest, [this](const auto& camera) { takeIn(camera); });
     cameras.erase(cameras.begin(), atRest);
-    const QStringList reasons = commandAll(cameras, &Camera::arm);
-    for (std::size_t i = 0; i < cameras.size(); ++i) {
-        drop(takeIn(cameras[i]), reasons.at(int(i)));
+    const auto reasons = command(cameras, &Camera::arm);
+    for (std::size_t i = 0; reasons && i < cameras.size(); ++i) {
+        drop(takeIn(cameras[i]), reasons->at(int(i)));
     }
     m_changed = true;
     const bool isEmpty = m_parts.isEmpty();
@@ -73,10 +82,13 @@ void RecordRun::trigger(bool withAreas, bool sparesUnsaved) {
         }
         part->begin(m_clock.now(), withAreas);
     }
-    const QStringList reasons = commandAll(cameras, &Camera::trigger);
+    const auto reasons = command(cameras, &Camera::trigger);
+    if (!reasons) {
+        return;
+    }
     m_triggered = m_triggered || !cameras.empty();
     for (std::size_t i = 0; i < cameras.size(); ++i) {
-        drop(*m_parts.find(*cameras[i]), reasons.at(int(i)));
+        drop(*m_parts.find(*cameras[i]), reasons->at(int(i)));
     }
     leaveBehind(late);
     m_changed = true;
@@ -98,7 +110,7 @@ void RecordRun::leaveBehind(const HeldCameras& late) {
             waiting.push_back(camera);
         }
     }
-    m_losses.tellReasons(commandAll(waiting, &Camera::disarm));
+    m_losses.tellReasons(command(waiting, &Camera::disarm).value_or(QStringList()));
 }
 
 /// A camera with which something was wrong, for a `reason`, takes no part.
@@ -115,11 +127,14 @@ void RecordRun::stop() {
     proceed();
     const qint64 now = m_clock.now();
     const HeldCameras cameras = m_parts.toStop();
-    const QStringList reasons = commandAll(cameras, &Camera::stop);
-    m_losses.tellReasons(reasons);
+    const auto reasons = command(cameras, &Camera::stop);
+    if (!reasons) {
+        return;
+    }
+    m_losses.tellReasons(*reasons);
     for (std::size_t i = 0; i < cameras.size(); ++i) {
         // One that can't be stopped goes on until its memory is full.
-        if (reasons.at(int(i)).isEmpty() && !cameras[i]->isGone()) {
+        if (reasons->at(int(i)).isEmpty() && !cameras[i]->isGone()) {
             end(*m_parts.find(*cameras[i]), now, zeb::RecordLive);
         }
     }
@@ -129,10 +144,13 @@ void RecordRun::stop() {
 void RecordRun::cancel() {
     const qint64 now = m_clock.now();
     const HeldCameras cameras = m_parts.toCancel();
-    const QStringList reasons = commandAll(cameras, &Camera::cancel);
-    m_losses.tellReasons(reasons);
+    const auto reasons = command(cameras, &Camera::cancel);
+    if (!reasons) {
+        return;
+    }
+    m_losses.tellReasons(*reasons);
     for (std::size_t i = 0; i < cameras.size(); ++i) {
-        const int state = reasons.at(int(i)).isEmpty() ? zeb::RecordLive : zeb::RecordError;
+        const int state = reasons->at(int(i)).isEmpty() ? zeb::RecordLive : zeb::RecordError;
         RecordPart* part = m_parts.find(*cameras[i]);
         if (part == nullptr || part->over) {
             cameras[i]->enterRecordState(state);
@@ -146,6 +164,7 @@ void RecordRun::cancel() {
 }
 
 void RecordRun::abandon() {
+    ++m_abandoned;
     m_losses.clear();
     m_triggered = false;
     if (!m_parts.isEmpty()) {
@@ -155,6 +174,9 @@ void RecordRun::abandon() {
 }
 
 void RecordRun::proceed() {
+    if (m_commanding) {
+        return;
+    }
     proceedAll(m_clock.now());
     m_losses.tellVanished();
     tell();

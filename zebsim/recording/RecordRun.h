@@ -4,12 +4,15 @@
 #include "RecordingLosses.h"
 
 #include <functional>
+#include <optional>
 
 class Clock;
 
 /// A recording on the cameras of the host, from arming to its end. It moves on only when it is told to. GUI thread.
 ///
 /// Where the cameras stand is their own `recordState`; here stands since when, and what the recording makes of them.
+/// While cameras take a command, which may run an event loop, `proceed` does nothing and no other command may come;
+/// `abandon` may.
 class RecordRun {
 public:
     /// Whom the run tells; none of them may work the run, and none may run an event loop.
@@ -24,7 +27,8 @@ public:
         std::function<void(bool recorded)> ended;
     };
 
-    RecordRun(const CameraBank& cameras, const Clock& clock, const Translator& translator, Listener listener);
+    RecordRun(const CameraBank& cameras, CameraBatch& batch, const Clock& clock, const Translator& translator,
+              Listener listener);
 
     /// The cameras that `arm` would take in.
     DocKeyList keysToArm();
@@ -47,6 +51,8 @@ public:
     /// are those that take no part.
     void proceed();
 
+    /// Cameras take a command.
+    bool isCommanding() const { return m_commanding; }
     bool isRunning() const { return !m_parts.isEmpty(); }
     /// A `zeb::RecordStatus`, of the recording on those of these cameras that take part; live when none does.
     int statusOf(const DocKeyList& keys) const { return m_parts.statusOf(keys); }
@@ -54,6 +60,8 @@ public:
     const QStringList& lost() const { return m_losses.lost(); }
 
 private:
+    /// What was wrong with each camera; nothing when the recording was abandoned meanwhile.
+    std::optional<QStringList> command(const HeldCameras& cameras, void (Camera::*give)());
     /// As `RecordParts::takeIn`, now.
     RecordPart& takeIn(const std::shared_ptr<Camera>& camera);
     void leaveBehind(const HeldCameras& late);
@@ -73,6 +81,7 @@ private:
     void finish();
 
     const CameraBank& m_cameras;
+    CameraBatch& m_batch;
     const Clock& m_clock;
     const Listener m_listener;
     RecordParts m_parts;
@@ -80,4 +89,7 @@ private:
     /// The run under way has had a trigger.
     bool m_triggered = false;
     bool m_changed = false;
+    bool m_commanding = false;
+    /// How often the cameras were replaced.
+    int m_abandoned = 0;
 };

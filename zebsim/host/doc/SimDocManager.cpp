@@ -1,6 +1,7 @@
 #include "SimDocManager.h"
 
 #include "Camera.h"
+#include "HostBatch.h"
 #include "HostMessages.h"
 #include "HostWindows.h"
 #include "Journal.h"
@@ -74,7 +75,7 @@ void SimDocManager::setSelectedDocs(const DocKeyList& keys, int mode) {
 
 void SimDocManager::connectDocs(const DocKeyList& keys) {
     m_host.calls.change(OPERATION("ZebDocManager::connectDocs"), {Journal::keyList(keys)});
-    forEachKey(keys, [](Camera& camera) {
+    onDevices(keys, [](Camera& camera) {
         if (!camera.get(&CameraState::connected)) {
             camera.connect();
         }
@@ -83,16 +84,16 @@ void SimDocManager::connectDocs(const DocKeyList& keys) {
 
 void SimDocManager::disconnectDocs(const DocKeyList& keys) {
     m_host.calls.change(OPERATION("ZebDocManager::disconnectDocs"), {Journal::keyList(keys)});
-    forEachKey(keys, [](Camera& camera) {
+    onDevices(keys, [](Camera& camera) {
         if (camera.get(&CameraState::connected)) {
             camera.disconnect();
         }
     });
 }
 
-void SimDocManager::forEachKey(const DocKeyList& keys, const std::function<void(Camera&)>& work) {
+void SimDocManager::onDevices(const DocKeyList& keys, const std::function<void(Camera&)>& work) {
     try {
-        m_host.cameras.forEach(keys, work);
+        m_host.batch.runOrThrow(m_host.cameras.holdDevices(keys), work);
     } catch (const std::exception& e) {
         m_host.messages.tellFailure(e);
     }

@@ -140,7 +140,7 @@ private:
         m_host.calls.ask(operation);
         return m_host.flags.isOn(flag);
     }
-    void forEachKey(const DocKeyList& keys, const std::function<void(Camera&)>& work);
+    void onDevices(const DocKeyList& keys, const std::function<void(Camera&)>& work);
 
     const HostContext& m_host;
     QMutex m_mutex;

@@ -1,0 +1,96 @@
+#include "HostBatch.h"
+
+#include "Camera.h"
+#include "CameraBank.h"
+#include "Clock.h"
+#include "FailureText.h"
+#include "HostContext.h"
+#include "HostWindows.h"
+#include "ParallelRows.h"
+#include "SimDocManager.h"
+#include "TextKey.h"
+#include "Translator.h"
+
+#include <stdexcept>
+
+namespace {
+
+/// Until the user is told whom a command waits for, in milliseconds of the host's time.
+constexpr int Patience = 1000;
+/// Milliseconds between two looks at that time.
+constexpr int LookAgain = 10;
+
+/// What was wrong; empty for nothing.
+QString reasonOf(const std::exception_ptr& failure) {
+    if (!failure) {
+        return {};
+    }
+    try {
+        std::rethrow_exception(failure);
+    } catch (...) {
+        return currentFailureText();
+    }
+}
+
+}  // namespace
+
+QStringList HostBatch::run(const HeldCameras& cameras, const std::function<void(Camera&)>& command) {
+    if (cameras.empty()) {
+        return {};
+    }
+    // An event loop may run, in which they would go.
+    m_host.docs.endTurn();
+    return m_host.clock.isStepped() ? runInOrder(cameras, command) : runAtOnce(cameras, command);
+}
+
+QStringList HostBatch::runInOrder(const HeldCameras& cameras, const std::function<void(Camera&)>& command) {
+    QStringList reasons;
+    for (const auto& camera : cameras) {
+        m_host.clock.beginRow();
+        std::exception_ptr failure;
+        try {
+            command(*camera);
+        } catch (...) {
+            failure = std::current_exception();
+        }
+        reasons << reasonOf(failure);
+    }
+    m_host.clock.endRows();
+    return reasons;
+}
+
+QStringList HostBatch::runAtOnce(const HeldCameras& cameras, const std::function<void(Camera&)>& command) {
+    ParallelRows rows(int(cameras.size()), [&](int row) { command(*cameras[std::size_t(row)]); });
+    const qint64 end = m_host.clock.now() + Patience;
+    while (!rows.waitFor(LookAgain)) {
+        if (m_host.clock.now() >= end) {
+            showWait(rows, cameras);
+        }
+    }
+    QStringList reasons;
+    for (int row = 0; row < int(cameras.size()); ++row) {
+        reasons << reasonOf(rows.failureOf(row));
+    }
+    const QString leftOut = m_host.translator.translate(TextKey("%1: the command was cancelled before it."));
+    for (const int row : rows.leftOut()) {
+        reasons[row] = leftOut.arg(m_host.cameras.labelOf(*cameras[std::size_t(row)]));
+    }
+    return reasons;
+}
+
+/// Back when the rows have ended.
+void HostBatch::showWait(ParallelRows& rows, const HeldCameras& cameras) {
+    QStringList names;
+    for (const auto& camera : cameras) {
+        names << m_host.cameras.labelOf(*camera);
+    }
+    m_host.windows->waitForRows(rows, names);
+}
+
+void HostBatch::runOrThrow(const HeldCameras& cameras, const std::function<void(Camera&)>& command) {
+    QStringList reasons = run(cameras, command);
+    reasons.removeAll(QString());
+    if (!reasons.isEmpty()) {
+        throw std::runtime_error(reasons.join(QLatin1Char('\n')).toStdString());
+    }
+}
