@@ -1,3 +1,4 @@
+#include "CommandBench.h"
 #include "HostPages.h"
 #include "Measurements.h"
 #include "MemoryBench.h"
@@ -44,7 +45,10 @@ QJsonObject measure(const QString& name, int cameras) {
     if (name == QLatin1String("memory")) {
         return MemoryBench(cameras).run();
     }
-    throw std::runtime_error("The measurements are table, text, start and memory.");
+    if (name == QLatin1String("commands")) {
+        return CommandBench(cameras).run();
+    }
+    throw std::runtime_error("The measurements are table, text, start, memory and commands.");
 }
 
 int measureHere(int argc, char** argv) {
@@ -97,6 +101,22 @@ Line compareMemory(const Numbers& memory) {
     return {"memory after 10,000 ticks less that after 1,000, MiB", memory[QStringLiteral("growth")], 5, 12};
 }
 
+QVector<Line> compareCommands(const Numbers& commands) {
+    QVector<Line> lines;
+    const std::pair<const char*, const char*> names[] = {
+        {"connect", "connecting 64 cameras of 50 ms, over one of them"},
+        {"rate", "the record rate of these"},
+        {"arm", "arming these"}};
+    for (const auto& [name, what] : names) {
+        const QString key = QLatin1String(name);
+        std::printf("%s: %.1f, %.1f\n", what, commands[key], commands[key % QLatin1String("One")]);
+        lines.append({what, commands[key] / commands[key % QLatin1String("One")], 1.3, 2});
+    }
+    // A lock asks no camera, so neither takes any time worth a ratio.
+    std::printf("Locking these: %.1f, %.1f\n", commands[QStringLiteral("lock")], commands[QStringLiteral("lockOne")]);
+    return lines;
+}
+
 int print(const QVector<Line>& lines) {
     std::printf("\n%-62s %8s %6s %6s\n", "", "measured", "goal", "limit");
     bool held = true;
@@ -117,6 +137,7 @@ int measureAndCompare(const QString& program) {
     lines += compareText(measured("text", Many));
     lines += compareStart("first painted rows over a plain page, 64 cameras", measured("start", Few));
     lines += compareStart("first painted rows over a plain page, 1,024 cameras", measured("start", Many));
+    lines += compareCommands(measured("commands", Few));
     lines += compareMemory(measured("memory", Few, 1));
     return print(lines);
 }

@@ -1,0 +1,87 @@
+#include "CommandBench.h"
+
+#include "ConnectedDocs.h"
+#include "DOC_Interface.h"
+#include "DOC_Lock.h"
+#include "Median.h"
+#include "MessageDesk.h"
+#include "RealClock.h"
+#include "RigFile.h"
+#include "SimHost.h"
+
+#include <QElapsedTimer>
+#include <QTemporaryDir>
+
+#include <functional>
+#include <stdexcept>
+
+namespace {
+
+constexpr int Runs = 9;
+constexpr int Latency = 50;
+
+struct FailingDesk : MessageDesk {
+    Answer show(const Message& box) override { throw std::runtime_error(box.text.toStdString()); }
+};
+
+struct Command {
+    const char* name;
+    std::function<void(SimHost&, const DocKeyList&)> give;
+    /// Brings the cameras back to where they were.
+    std::function<void(SimHost&, const DocKeyList&)> undo;
+};
+
+const Command Commands[] = {
+    {"connect", [](SimHost& host, const DocKeyList& keys) { host.docManager().connectDocs(keys); },
+     [](SimHost& host, const DocKeyList& keys) { host.docManager().disconnectDocs(keys); }},
+    {"rate",
+     [](SimHost& host, const DocKeyList& keys) {
+         host.cameraOps().setRecordRate(docsOf(host.docManager(), keys), 500);
+     },
+     [](SimHost&, const DocKeyList&) {}},
+    {"lock",
+     [](SimHost& host, const DocKeyList& keys) {
+         for (DOC_Interface* doc : docsOf(host.docManager(), keys)) {
+             doc->lock().setParamLock(true);
+         }
+     },
+     [](SimHost&, const DocKeyList&) {}},
+    {"arm", [](SimHost& host, const DocKeyList&) { host.recorder().startRecReady(); },
+     [](SimHost& host, const DocKeyList&) { host.recorder().cancelRecording(false); }},
+};
+
+double medianOf(SimHost& host, const DocKeyList& keys, const Command& command) {
+    QVector<double> times;
+    for (int run = 0; run < Runs; ++run) {
+        QElapsedTimer clock;
+        clock.start();
+        command.give(host, keys);
+        times.append(double(clock.nsecsElapsed()) / 1e6);
+        command.undo(host, keys);
+    }
+    return median(times);
+}
+
+}  // namespace
+
+QJsonObject CommandBench::run() {
+    QJsonObject numbers;
+    for (const int count : {1, m_cameras}) {
+        const QTemporaryDir folder;
+        RealClock clock;
+        FailingDesk desk;
+        SimHost host(clock, desk, folder.filePath(QStringLiteral("bench.ini")));
+        Rig rig = standardRig(count);
+        for (RigDevice& device : rig.devices) {
+            device.latency = Latency;
+        }
+        host.setRig(rig);
+        const DocKeyList keys = host.cameras().keys();
+        for (const Command& command : Commands) {
+            const QString name = QString::fromLatin1(command.name) % (count == 1 ? "One" : "");
+            numbers.insert(name, medianOf(host, keys, command));
+            host.docManager().connectDocs(keys);
+        }
+    }
+    return numbers;
+}

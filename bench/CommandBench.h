@@ -1,0 +1,15 @@
+#pragma once
+
+#include <QJsonObject>
+
+/// What a command to many cameras that take 50 ms takes, and to one of them. GUI thread.
+class CommandBench {
+public:
+    explicit CommandBench(int cameras) : m_cameras(cameras) {}
+
+    /// Milliseconds of each command, as `connect` for all cameras and `connectOne` for one.
+    QJsonObject run();
+
+private:
+    const int m_cameras;
+};
