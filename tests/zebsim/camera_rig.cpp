@@ -99,9 +99,10 @@ TEST_F(RigFile, MayBringModelsOfItsOwn) {
     write(folder.filePath(QStringLiteral("own.json")),
           R"({"models": [{"name": "slow", "type": 5, "otherRates": "refuse", "rates": [1], "resolutions": [[8, 8]],
         "shutters": [1], "triggerModes": [2], "ports": {"3": 8}, "functions": [], "capabilities": [], "memory": 1,
-        "initial": {"rate": 1, "resolution": [8, 8], "shutter": 1, "triggerMode": 2}}]})");
+        "exposureDelay": 1, "initial": {"rate": 1, "resolution": [8, 8], "shutter": 1, "triggerMode": 2}}]})");
     const QByteArray devices = R"("devices": [{"address": "10.0.0.1", "model": "slow", "heads": [{}]}])";
     EXPECT_EQ(complaint(R"({"models": "own.json", )" + devices + "}"), QString());
+    EXPECT_EQ(readRig(folder.filePath(QStringLiteral("x.json"))).devices.first().model->exposureDelay, 1);
     EXPECT_EQ(complaint("{" + devices + "}"), QStringLiteral("x.json: devices[0].model: no model \"slow\""));
 }
 
