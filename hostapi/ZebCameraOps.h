@@ -6,7 +6,8 @@
 ///
 /// Each call goes to every camera of its list, side by side. Those that fail do not keep it from the others; they are
 /// gathered, and one exception at the end names each camera with its reason. While slow cameras take a command the host
-/// may run an event loop: documents are to be fetched anew after each.
+/// may run an event loop: documents are to be fetched anew after each. A user who cancels a command leaves out the
+/// cameras that it has not reached: a `ZebLeftOut`, after which a further command of the same work is not theirs.
 class ZebCameraOps {
 public:
     virtual ~ZebCameraOps() = default;

@@ -10,6 +10,7 @@
 #include "ZebCameraOps.h"
 #include "ZebDocManager.h"
 #include "ZebHost.h"
+#include "ZebLeftOut.h"
 
 #include <QStringList>
 
@@ -85,18 +86,30 @@ void TriggerEditing::applyTriggerMode(const DocList& docs, int mode) {
 /// Each command goes to all cameras, whatever one of them says to an earlier one; answers what they have refused.
 GatheredFailures TriggerEditing::send(const DocList& docs, int mode, const zeb::TriggerSettings& settings) {
     ZebCameraOps& cameras = m_host.cameraOps();
-    const DocKeyList keys = keysOf(docs);
+    DocKeyList keys = keysOf(docs);
     GatheredFailures refusals;
+    const auto attempt = [&](auto&& command) {
+        refusals.attempt([&] {
+            try {
+                command();
+            } catch (const ZebLeftOut& cancelled) {
+                for (const DOCKEY key : cancelled.keys()) {
+                    keys.removeAll(key);
+                }
+                throw;
+            }
+        });
+    };
     const auto setMode = [&](const DocList& there) {
         cameras.setTriggerMode(there, settings.kind, mode, settings.reserved1, settings.reserved2,
                                settings.manualBeforePercent, settings.randomFrames, settings.randomTimes);
     };
-    refusals.attempt([&] { setMode(docs); });
+    attempt([&] { setMode(docs); });
     if (mode == zeb::TriggerRandom || mode == zeb::TriggerRandomReset) {
         // The mode takes its numbers anew once the camera knows how it counts. Documents are others after a command.
         ZebDocManager& documents = m_host.docManager();
-        refusals.attempt([&] { cameras.setRandomTriggerPhase(docsOf(documents, keys), settings.randomTimes > 0); });
-        refusals.attempt([&] { setMode(docsOf(documents, keys)); });
+        attempt([&] { cameras.setRandomTriggerPhase(docsOf(documents, keys), settings.randomTimes > 0); });
+        attempt([&] { setMode(docsOf(documents, keys)); });
     }
     return refusals;
 }

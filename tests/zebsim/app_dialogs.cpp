@@ -197,7 +197,7 @@ TEST_F(Dialogs, NameWhoHasNotAnsweredAndLeaveOutWhoWasNotReached) {
     QTimer look;
     next([&](QDialog& dialog) {
         const auto* label = dialog.findChild<QLabel*>();
-        EXPECT_EQ(label->text(), "No answer yet: <b>, b, c, d, e, f, g, h and 4 more");
+        EXPECT_EQ(label->text(), "No answer yet: <b>, b, c, d,\ne, f, g, h and 4 more");
         dialog.findChild<QPushButton*>()->click();
         QObject::connect(&look, &QTimer::timeout, label, [&, label] {
             if (dialog.findChild<QPushButton*>() == nullptr && label->text().endsWith("and 2 more")) {

@@ -3,6 +3,7 @@
 #include "HostWindows.h"
 #include "ParallelRows.h"
 #include "RigFile.h"
+#include "ZebLeftOut.h"
 #include "support/TestHost.h"
 
 #include <gtest/gtest.h>
@@ -119,6 +120,54 @@ TEST_F(SlowCommands, ReachTheCamerasThatAreLeft) {
             EXPECT_TRUE(row.done(*camera)) << camera->name().toStdString();
         }
     }
+}
+
+TEST_F(SlowCommands, LeaveWhoWasNotReachedAsItWas) {
+    struct Cancelling : HostWindows {
+        GatedClock* clock;
+        void waitForRows(ParallelRows& rows, const QStringList& names) override {
+            while (rows.waiting().size() > 2) {
+                std::this_thread::yield();
+            }
+            rows.leaveOutWaiting();
+            clock->set(true);
+            HostWindows::waitForRows(rows, names);
+        }
+    } cancelling;
+    cancelling.clock = &clock;
+    host.setWindows(&cancelling);
+    host.setRig(connected(130));
+    const auto slowly = [&](auto&& command) {
+        clock.set(false);
+        command();
+    };
+    const auto lastState = [&] { return host.cameras().find(130)->recordState(); };
+
+    DocKeyList leftOut;
+    slowly([&] {
+        try {
+            host.cameraOps().setRecordRate(docs(), 500);
+        } catch (const ZebLeftOut& cancelled) {
+            leftOut = cancelled.keys();
+        }
+    });
+    EXPECT_EQ(leftOut, (DocKeyList{129, 130}));
+    EXPECT_EQ(host.cameras().find(128)->get(&CameraState::rate), 500u);
+    EXPECT_EQ(host.cameras().find(129)->get(&CameraState::rate), 1000u);
+
+    slowly([&] { host.recorder().startRecReady(); });
+    EXPECT_EQ(lastState(), zeb::RecordLive);
+    host.recorder().cancelRecording(false);
+    QCoreApplication::processEvents();
+    armAll();
+    slowly([&] { host.recorder().cancelRecording(false); });
+    EXPECT_EQ(lastState(), zeb::RecordReady);
+    EXPECT_EQ(host.recorder().getRecordingState(), zeb::RecordReady) << "there is something to cancel still";
+    armAll();
+    slowly([&] { host.recorder().triggerRecording(); });
+    EXPECT_EQ(lastState(), zeb::RecordReady);
+    EXPECT_EQ(host.cameras().find(1)->recordState(), zeb::RecordRecording);
+    host.setWindows(nullptr);
 }
 
 TEST_F(SlowCommands, EndWellWhenTheRigIsAnother) {

@@ -21,8 +21,8 @@ void ParallelRows::run(int atOnce) {
     const int threads = std::max(1, std::min(rows, atOnce));
     omp_set_dynamic(0);
 #pragma omp parallel for schedule(dynamic, 1) num_threads(threads)
-    for (int row = 0; row < rows; ++row) {
-        runRow(std::size_t(row));
+    for (int i = 0; i < rows; ++i) {
+        runNext();
     }
     const std::lock_guard lock(m_mutex);
     m_over = true;
@@ -30,10 +30,12 @@ void ParallelRows::run(int atOnce) {
 }
 
 /// Nothing may be thrown out of a parallel region.
-void ParallelRows::runRow(std::size_t row) {
-    if (!begin(row)) {
+void ParallelRows::runNext() {
+    const std::optional<std::size_t> next = beginNext();
+    if (!next) {
         return;
     }
+    const std::size_t row = *next;
     std::exception_ptr failure;
     try {
         m_work(int(row));
@@ -45,11 +47,15 @@ void ParallelRows::runRow(std::size_t row) {
     m_states[row] = State::Ended;
 }
 
-bool ParallelRows::begin(std::size_t row) {
+/// In the order of the rows, whatever share of them the region gives to a thread.
+std::optional<std::size_t> ParallelRows::beginNext() {
     const std::lock_guard lock(m_mutex);
-    const bool isWaiting = m_states[row] == State::Waiting;
-    m_states[row] = isWaiting ? State::Running : m_states[row];
-    return isWaiting;
+    const auto waiting = std::find(m_states.begin(), m_states.end(), State::Waiting);
+    if (waiting == m_states.end()) {
+        return std::nullopt;
+    }
+    *waiting = State::Running;
+    return std::size_t(waiting - m_states.begin());
 }
 
 bool ParallelRows::waitFor(int ms) const {

@@ -5,6 +5,7 @@
 #include <functional>
 #include <initializer_list>
 #include <mutex>
+#include <optional>
 #include <thread>
 #include <vector>
 
@@ -37,8 +38,8 @@ private:
     enum class State { Waiting, Running, Ended, LeftOut };
 
     void run(int atOnce);
-    void runRow(std::size_t row);
-    bool begin(std::size_t row);
+    void runNext();
+    std::optional<std::size_t> beginNext();
     std::vector<int> rowsThatAre(std::initializer_list<State> wanted) const;
 
     const std::function<void(int)> m_work;

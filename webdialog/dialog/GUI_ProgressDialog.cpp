@@ -5,6 +5,7 @@
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QWindow>
 
 GUI_ProgressDialog::GUI_ProgressDialog(const QString& label, const QString& cancelText, int minimum, int maximum,
                                        QWidget* parent, Qt::WindowFlags windowFlags, bool ignoreEscape)
@@ -16,6 +17,11 @@ GUI_ProgressDialog::GUI_ProgressDialog(const QString& label, const QString& canc
     setRange(minimum, maximum);
     // Only a null text takes the button away.
     setCancelButtonText(cancelText.isEmpty() ? QString() : cancelText);
+}
+
+/// The window beneath gets the keyboard back while there still is a window to take it from.
+GUI_ProgressDialog::~GUI_ProgressDialog() {
+    GUI_ProgressDialog::setVisible(false);
 }
 
 void GUI_ProgressDialog::hold(bool held) {
@@ -44,10 +50,31 @@ void GUI_ProgressDialog::closeEvent(QCloseEvent* event) {
 void GUI_ProgressDialog::setVisible(bool visible) {
     if (visible && isModal() && !m_over) {
         m_over.emplace(*this);
+        if (m_over->window() != nullptr) {
+            m_over->window()->installEventFilter(this);
+        }
     }
     QProgressDialog::setVisible(visible);
     if (!visible) {
         m_over.reset();
+    }
+}
+
+/// A window manager minimises any window, and the one over it goes with it: the user would see no reason why nothing
+/// takes a press.
+bool GUI_ProgressDialog::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::WindowStateChange && isVisible() && static_cast<QWidget*>(watched)->isMinimized()) {
+        QMetaObject::invokeMethod(
+            this, [this] { comeAlone(); }, Qt::QueuedConnection);
+    }
+    return QProgressDialog::eventFilter(watched, event);
+}
+
+void GUI_ProgressDialog::comeAlone() {
+    if (isVisible()) {
+        windowHandle()->hide();
+        windowHandle()->setTransientParent(nullptr);
+        windowHandle()->show();
     }
 }
 

@@ -60,7 +60,7 @@ OverActiveWindow::~OverActiveWindow() {
     QWidget* modal = QApplication::activeModalWidget();
     if (modal != nullptr) {
         modal->activateWindow();
-    } else if (m_before != nullptr && m_before->isVisible()) {
+    } else if (m_before != nullptr && m_before->isVisible() && !m_before->isMinimized()) {
         m_before->activateWindow();
     }
 }

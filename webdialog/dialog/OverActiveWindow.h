@@ -19,6 +19,9 @@ public:
     OverActiveWindow(const OverActiveWindow&) = delete;
     OverActiveWindow& operator=(const OverActiveWindow&) = delete;
 
+    /// Where the user was; null when nobody knows, or when it is gone.
+    QWidget* window() const { return m_before; }
+
 private:
     const QPointer<QWidget> m_before;
 };

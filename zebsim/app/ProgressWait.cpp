@@ -6,7 +6,9 @@
 #include "UiText.h"
 #include "ZebHost.h"
 
+#include <QApplication>
 #include <QEventLoop>
+#include <QFontMetrics>
 #include <QFutureWatcher>
 #include <QPointer>
 #include <QTimer>
@@ -15,8 +17,10 @@ namespace {
 
 /// Milliseconds between two looks at the rows.
 constexpr int LookAgain = 50;
-/// More names than these are counted.
+/// More names than these are counted. Each has so many pixels, four a line.
 constexpr int MostNames = 8;
+constexpr int NamesALine = 4;
+constexpr int NameWidth = 150;
 
 /// Nobody closes it, but it goes with the main window, which may be destroyed meanwhile.
 QPointer<GUI_MarqueeProgressDialog> show(ZebHost& host, const QString& text, const QString& cancelText) {
@@ -34,7 +38,12 @@ QString awaited(const ParallelRows& rows, const QStringList& names) {
     for (const int row : unfinished) {
         who << names.at(row);
     }
-    const QString shown = who.mid(0, MostNames).join(QStringLiteral(", "));
+    const QFontMetrics metrics(QApplication::font());
+    QString shown;
+    for (int i = 0; i < qMin(who.size(), MostNames); ++i) {
+        shown += i == 0 ? QString() : i % NamesALine == 0 ? QStringLiteral(",\n") : QStringLiteral(", ");
+        shown += metrics.elidedText(who.at(i).simplified(), Qt::ElideRight, NameWidth);
+    }
     return who.size() > MostNames
                ? uiText("No answer yet: %1 and %2 more").arg(shown, QString::number(who.size() - MostNames))
                : uiText("No answer yet: %1").arg(shown);

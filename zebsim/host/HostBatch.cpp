@@ -10,6 +10,7 @@
 #include "SimDocManager.h"
 #include "TextKey.h"
 #include "Translator.h"
+#include "ZebLeftOut.h"
 
 #include <stdexcept>
 
@@ -34,7 +35,7 @@ QString reasonOf(const std::exception_ptr& failure) {
 
 }  // namespace
 
-QStringList HostBatch::run(const HeldCameras& cameras, const std::function<void(Camera&)>& command) {
+std::vector<CameraAnswer> HostBatch::run(const HeldCameras& cameras, const std::function<void(Camera&)>& command) {
     if (cameras.empty()) {
         return {};
     }
@@ -43,8 +44,9 @@ QStringList HostBatch::run(const HeldCameras& cameras, const std::function<void(
     return m_host.clock.isStepped() ? runInOrder(cameras, command) : runAtOnce(cameras, command);
 }
 
-QStringList HostBatch::runInOrder(const HeldCameras& cameras, const std::function<void(Camera&)>& command) {
-    QStringList reasons;
+std::vector<CameraAnswer> HostBatch::runInOrder(const HeldCameras& cameras,
+                                                const std::function<void(Camera&)>& command) {
+    std::vector<CameraAnswer> answers;
     for (const auto& camera : cameras) {
         m_host.clock.beginRow();
         std::exception_ptr failure;
@@ -53,13 +55,14 @@ QStringList HostBatch::runInOrder(const HeldCameras& cameras, const std::functio
         } catch (...) {
             failure = std::current_exception();
         }
-        reasons << reasonOf(failure);
+        answers.push_back({reasonOf(failure)});
     }
     m_host.clock.endRows();
-    return reasons;
+    return answers;
 }
 
-QStringList HostBatch::runAtOnce(const HeldCameras& cameras, const std::function<void(Camera&)>& command) {
+std::vector<CameraAnswer> HostBatch::runAtOnce(const HeldCameras& cameras,
+                                               const std::function<void(Camera&)>& command) {
     ParallelRows rows(int(cameras.size()), [&](int row) { command(*cameras[std::size_t(row)]); });
     const qint64 end = m_host.clock.now() + Patience;
     while (!rows.waitFor(LookAgain)) {
@@ -67,15 +70,15 @@ QStringList HostBatch::runAtOnce(const HeldCameras& cameras, const std::function
             showWait(rows, cameras);
         }
     }
-    QStringList reasons;
+    std::vector<CameraAnswer> answers;
     for (int row = 0; row < int(cameras.size()); ++row) {
-        reasons << reasonOf(rows.failureOf(row));
+        answers.push_back({reasonOf(rows.failureOf(row))});
     }
-    const QString leftOut = m_host.translator.translate(TextKey("%1: the command was cancelled before it."));
+    const QString leftOut = m_host.translator.translate(TextKey("%1: the command was cancelled before it"));
     for (const int row : rows.leftOut()) {
-        reasons[row] = leftOut.arg(m_host.cameras.labelOf(*cameras[std::size_t(row)]));
+        answers[std::size_t(row)] = {leftOut.arg(m_host.cameras.labelOf(*cameras[std::size_t(row)])), true};
     }
-    return reasons;
+    return answers;
 }
 
 /// Back when the rows have ended.
@@ -88,9 +91,22 @@ void HostBatch::showWait(ParallelRows& rows, const HeldCameras& cameras) {
 }
 
 void HostBatch::runOrThrow(const HeldCameras& cameras, const std::function<void(Camera&)>& command) {
-    QStringList reasons = run(cameras, command);
-    reasons.removeAll(QString());
+    QStringList reasons;
+    DocKeyList leftOut;
+    const std::vector<CameraAnswer> answers = run(cameras, command);
+    for (std::size_t i = 0; i < answers.size(); ++i) {
+        if (!answers[i].reason.isEmpty()) {
+            reasons << answers[i].reason;
+        }
+        if (answers[i].isLeftOut) {
+            leftOut << cameras[i]->key();
+        }
+    }
+    const std::string text = reasons.join(QLatin1Char('\n')).toStdString();
+    if (!leftOut.isEmpty()) {
+        throw ZebLeftOut(text, leftOut);
+    }
     if (!reasons.isEmpty()) {
-        throw std::runtime_error(reasons.join(QLatin1Char('\n')).toStdString());
+        throw std::runtime_error(text);
     }
 }

@@ -11,13 +11,14 @@ class HostBatch : public CameraBatch {
 public:
     explicit HostBatch(const HostContext& host) : m_host(host) {}
 
-    QStringList run(const HeldCameras& cameras, const std::function<void(Camera&)>& command) override;
-    /// The same; when some have failed, throws a `std::runtime_error`, a line for each.
+    std::vector<CameraAnswer> run(const HeldCameras& cameras, const std::function<void(Camera&)>& command) override;
+    /// The same; when some have failed, throws a `std::runtime_error`, a line for each, which is a `ZebLeftOut` when
+    /// the user has left some out.
     void runOrThrow(const HeldCameras& cameras, const std::function<void(Camera&)>& command);
 
 private:
-    QStringList runInOrder(const HeldCameras& cameras, const std::function<void(Camera&)>& command);
-    QStringList runAtOnce(const HeldCameras& cameras, const std::function<void(Camera&)>& command);
+    std::vector<CameraAnswer> runInOrder(const HeldCameras& cameras, const std::function<void(Camera&)>& command);
+    std::vector<CameraAnswer> runAtOnce(const HeldCameras& cameras, const std::function<void(Camera&)>& command);
 
     void showWait(ParallelRows& rows, const HeldCameras& cameras);
 

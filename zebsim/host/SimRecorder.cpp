@@ -139,7 +139,7 @@ void SimRecorder::cancelRecording(bool recording) {
 }
 
 void SimRecorder::cancel() {
-    if (endByCancel()) {
+    if (endByCancel() && !m_run.isRunning()) {
         sendToPlugins(m_host.appStatus, "signalEndRecording");
     }
 }

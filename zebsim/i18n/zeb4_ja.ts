@@ -1496,8 +1496,8 @@
         <translation>直前のコマンドにカメラがまだ応答していません。</translation>
     </message>
     <message>
-        <source>%1: the command was cancelled before it.</source>
-        <translation>%1: コマンドは送信前にキャンセルされました。</translation>
+        <source>%1: the command was cancelled before it</source>
+        <translation>%1: コマンドは送信前にキャンセルされました</translation>
     </message>
 </context>
 </TS>

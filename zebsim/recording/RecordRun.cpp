@@ -20,11 +20,11 @@ RecordRun::RecordRun(const CameraBank& cameras, CameraBatch& batch, const Clock&
       m_parts(cameras),
       m_losses(cameras, translator) {}
 
-std::optional<QStringList> RecordRun::command(const HeldCameras& cameras, void (Camera::*give)()) {
+std::optional<std::vector<CameraAnswer>> RecordRun::command(const HeldCameras& cameras, void (Camera::*give)()) {
     const int before = m_abandoned;
     const QScopedValueRollback<bool> commanding(m_commanding, true);
-    QStringList reasons = m_batch.run(cameras, [give](Camera& camera) { (camera.*give)(); });
-    return before == m_abandoned ? std::optional(std::move(reasons)) : std::nullopt;
+    auto answers = m_batch.run(cameras, [give](Camera& camera) { (camera.*give)(); });
+    return before == m_abandoned ? std::optional(std::move(answers)) : std::nullopt;
 }
 
 RecordPart& RecordRun::takeIn(const std::shared_ptr<Camera>& camera) {
@@ -49,9 +49,9 @@ void RecordRun::arm() {
         std::stable_partition(cameras.begin(), cameras.end(), [](const auto& camera) { return camera->isArmed(); });
     std::for_each(cameras.begin(), atRest, [this](const auto& camera) { takeIn(camera); });
     cameras.erase(cameras.begin(), atRest);
-    const auto reasons = command(cameras, &Camera::arm);
-    for (std::size_t i = 0; reasons && i < cameras.size(); ++i) {
-        drop(takeIn(cameras[i]), reasons->at(int(i)));
+    const auto answers = command(cameras, &Camera::arm);
+    for (std::size_t i = 0; answers && i < cameras.size(); ++i) {
+        drop(takeIn(cameras[i]), answers->at(i));
     }
     m_changed = true;
     const bool isEmpty = m_parts.isEmpty();
@@ -82,13 +82,13 @@ void RecordRun::trigger(bool withAreas, bool sparesUnsaved) {
         }
         part->begin(m_clock.now(), withAreas);
     }
-    const auto reasons = command(cameras, &Camera::trigger);
-    if (!reasons) {
+    const auto answers = command(cameras, &Camera::trigger);
+    if (!answers) {
         return;
     }
     m_triggered = m_triggered || !cameras.empty();
     for (std::size_t i = 0; i < cameras.size(); ++i) {
-        drop(*m_parts.find(*cameras[i]), reasons->at(int(i)));
+        drop(*m_parts.find(*cameras[i]), answers->at(i));
     }
     leaveBehind(late);
     m_changed = true;
@@ -110,15 +110,26 @@ void RecordRun::leaveBehind(const HeldCameras& late) {
             waiting.push_back(camera);
         }
     }
-    m_losses.tellReasons(command(waiting, &Camera::disarm).value_or(QStringList()));
+    if (const auto answers = command(waiting, &Camera::disarm)) {
+        tellReasons(*answers);
+    }
 }
 
-/// A camera with which something was wrong, for a `reason`, takes no part.
-void RecordRun::drop(RecordPart& part, const QString& reason) {
-    if (!reason.isEmpty()) {
-        m_losses.fail(*part.camera, reason);
-        part.over = true;
-        part.triggered = false;
+void RecordRun::tellReasons(const std::vector<CameraAnswer>& answers) {
+    for (const CameraAnswer& answer : answers) {
+        m_losses.tellReason(answer.reason);
+    }
+}
+
+/// A camera with which something was wrong takes no part; one that was left out stays as it was.
+void RecordRun::drop(RecordPart& part, const CameraAnswer& answer) {
+    if (answer.reason.isEmpty()) {
+        return;
+    }
+    m_losses.fail(*part.camera, answer.reason);
+    part.over = true;
+    part.triggered = false;
+    if (!answer.isLeftOut) {
         enter(part, zeb::RecordError);
     }
 }
@@ -127,14 +138,14 @@ void RecordRun::stop() {
     proceed();
     const qint64 now = m_clock.now();
     const HeldCameras cameras = m_parts.toStop();
-    const auto reasons = command(cameras, &Camera::stop);
-    if (!reasons) {
+    const auto answers = command(cameras, &Camera::stop);
+    if (!answers) {
         return;
     }
-    m_losses.tellReasons(*reasons);
+    tellReasons(*answers);
     for (std::size_t i = 0; i < cameras.size(); ++i) {
         // One that can't be stopped goes on until its memory is full.
-        if (reasons->at(int(i)).isEmpty() && !cameras[i]->isGone()) {
+        if (answers->at(i).reason.isEmpty() && !cameras[i]->isGone()) {
             end(*m_parts.find(*cameras[i]), now, zeb::RecordLive);
         }
     }
@@ -144,13 +155,16 @@ void RecordRun::stop() {
 void RecordRun::cancel() {
     const qint64 now = m_clock.now();
     const HeldCameras cameras = m_parts.toCancel();
-    const auto reasons = command(cameras, &Camera::cancel);
-    if (!reasons) {
+    const auto answers = command(cameras, &Camera::cancel);
+    if (!answers) {
         return;
     }
-    m_losses.tellReasons(*reasons);
+    tellReasons(*answers);
     for (std::size_t i = 0; i < cameras.size(); ++i) {
-        const int state = reasons->at(int(i)).isEmpty() ? zeb::RecordLive : zeb::RecordError;
+        if (answers->at(i).isLeftOut) {
+            continue;
+        }
+        const int state = answers->at(i).reason.isEmpty() ? zeb::RecordLive : zeb::RecordError;
         RecordPart* part = m_parts.find(*cameras[i]);
         if (part == nullptr || part->over) {
             cameras[i]->enterRecordState(state);
@@ -160,7 +174,11 @@ void RecordRun::cancel() {
     }
     // Those that the command has not reached.
     proceedAll(now);
-    finish();
+    if (m_parts.areOver()) {
+        finish();
+    } else {
+        tell();
+    }
 }
 
 void RecordRun::abandon() {

@@ -60,12 +60,13 @@ public:
     const QStringList& lost() const { return m_losses.lost(); }
 
 private:
-    /// What was wrong with each camera; nothing when the recording was abandoned meanwhile.
-    std::optional<QStringList> command(const HeldCameras& cameras, void (Camera::*give)());
+    /// What each camera has said; nothing when the recording was abandoned meanwhile.
+    std::optional<std::vector<CameraAnswer>> command(const HeldCameras& cameras, void (Camera::*give)());
     /// As `RecordParts::takeIn`, now.
     RecordPart& takeIn(const std::shared_ptr<Camera>& camera);
     void leaveBehind(const HeldCameras& late);
-    void drop(RecordPart& part, const QString& reason);
+    void tellReasons(const std::vector<CameraAnswer>& answers);
+    void drop(RecordPart& part, const CameraAnswer& answer);
     void proceedAll(qint64 now);
     void proceed(RecordPart& part, qint64 now);
     void followItsTrigger(RecordPart& part);

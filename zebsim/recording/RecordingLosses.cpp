@@ -71,9 +71,10 @@ void RecordingLosses::missArea(const Camera& camera) {
     lose(camera, line(TextKey("%1: no frame of its record area was recorded."), camera));
 }
 
-void RecordingLosses::tellReasons(const QStringList& reasons) {
-    m_news.append(reasons);
-    m_news.removeAll(QString());
+void RecordingLosses::tellReason(const QString& reason) {
+    if (!reason.isEmpty()) {
+        m_news.append(reason);
+    }
 }
 
 void RecordingLosses::tellOwnTrigger(const Camera& camera) {

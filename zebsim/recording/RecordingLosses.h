@@ -31,8 +31,8 @@ public:
     /// ... no frame of its record area was recorded.
     void missArea(const Camera& camera);
 
-    /// Nothing is lost: what was wrong with each camera, empty for one that has done it; ...
-    void tellReasons(const QStringList& reasons);
+    /// Nothing is lost: what was wrong with a camera, empty for one that has done it; ...
+    void tellReason(const QString& reason);
     void tellOwnTrigger(const Camera& camera);
     /// ... a recording that has ended for a `reason` which names the camera; ...
     void tellEarlyEnd(const QString& reason, unsigned int frames);
