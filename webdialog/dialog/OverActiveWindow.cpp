@@ -4,9 +4,13 @@
 
 #include <QApplication>
 #include <QScreen>
+#include <QTimer>
 #include <QWindow>
 
 namespace {
+
+/// Milliseconds in which a window manager has given the keyboard to a window.
+constexpr int SettlingMs = 100;
 
 /// A list beside a control, or a progress, goes before the dialog does.
 QWidget* lastingWindow(QWidget* window) {
@@ -20,6 +24,15 @@ QWidget* lastingWindow(QWidget* window) {
 QPointer<QWidget>& lastWindow() {
     static QPointer<QWidget> last;
     return last;
+}
+
+/// A window manager may put a notice first that came meanwhile, and then leave the keyboard to nobody.
+void insistOn(QWidget& window) {
+    QTimer::singleShot(SettlingMs, &window, [&window] {
+        if (QApplication::activeWindow() == nullptr && QApplication::activeModalWidget() == nullptr) {
+            window.activateWindow();
+        }
+    });
 }
 
 QPoint keptOn(const QRect& screen, const QPoint& topLeft, const QSize& size) {
@@ -60,7 +73,10 @@ OverActiveWindow::~OverActiveWindow() {
     QWidget* modal = QApplication::activeModalWidget();
     if (modal != nullptr) {
         modal->activateWindow();
-    } else if (m_before != nullptr && m_before->isVisible() && !m_before->isMinimized()) {
+    } else if (lastingWindow(m_before) != nullptr) {
         m_before->activateWindow();
+        if (QGuiApplication::focusWindow() != nullptr) {
+            insistOn(*m_before);
+        }
     }
 }
