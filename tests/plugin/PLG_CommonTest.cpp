@@ -137,19 +137,19 @@ TEST_F(PLG_CommonTest, StandsPressedByItsType) {
     const struct {
         const char* sentence;
         int type;
-        std::function<void()> arrange;
         bool pressed;
+        std::function<void()> arrange;
     } rows[] = {
-        {"type 1 always", 1, [] {}, true},
-        {"type 2 not unless the document says so", 2, [] {}, false},
-        {"type 3 when the document says so", 3, [&] { host.docManager().toolSelect("tool", true); }, true},
-        {"type 4 not without a current plug-in", 4, [] {}, false},
-        {"type 4 while it is the current plug-in", 4, [&] { host.appStatus().setCurrentPlugin(&other); }, true},
-        {"type 4 not while another is", 4, [&] { other.m_name = QStringLiteral("other"); }, false},
-        {"type 6 not while it has no dialog", 6, [] {}, false},
-        {"type 6 while its dialog is visible", 6, [&] { plugin.shownDialog(); }, true},
-        {"type 6 not once it is hidden", 6, [&] { plugin.hideDialog(); }, false},
-        {"type 1 not in a foreign mode", 1, [&] { plugin.m_modeMask = 6; }, false},
+        {"type 1 always", 1, true, [] {}},
+        {"type 2 not unless the document says so", 2, false, [] {}},
+        {"type 3 when the document says so", 3, true, [&] { host.docManager().toolSelect("tool", true); }},
+        {"type 4 not without a current plug-in", 4, false, [] {}},
+        {"type 4 while it is the current plug-in", 4, true, [&] { host.appStatus().setCurrentPlugin(&other); }},
+        {"type 4 not while another is", 4, false, [&] { other.m_name = QStringLiteral("other"); }},
+        {"type 6 not while it has no dialog", 6, false, [] {}},
+        {"type 6 while its dialog is visible", 6, true, [&] { plugin.shownDialog(); }},
+        {"type 6 not once it is hidden", 6, false, [&] { plugin.hideDialog(); }},
+        {"type 1 not in a foreign mode", 1, false, [&] { plugin.m_modeMask = 6; }},
     };
     for (const auto& row : rows) {
         plugin.m_buttonType = row.type;

@@ -13,7 +13,6 @@
 #include <QThread>
 
 using testing::Contains;
-using testing::ElementsAre;
 using testing::IsEmpty;
 
 namespace {
