@@ -18,9 +18,8 @@ ParallelRows::~ParallelRows() {
 /// The rows wait for others, not for a core: how many threads there are is not left to the cores or the environment.
 void ParallelRows::run(int atOnce) {
     const int rows = int(m_states.size());
-    const int threads = std::max(1, std::min(rows, atOnce));
     omp_set_dynamic(0);
-#pragma omp parallel for schedule(dynamic, 1) num_threads(threads)
+#pragma omp parallel for schedule(dynamic, 1) num_threads(std::max(1, std::min(rows, atOnce)))
     for (int i = 0; i < rows; ++i) {
         runNext();
     }

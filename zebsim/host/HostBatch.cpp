@@ -71,6 +71,7 @@ std::vector<CameraAnswer> HostBatch::runAtOnce(const HeldCameras& cameras,
         }
     }
     std::vector<CameraAnswer> answers;
+    answers.reserve(cameras.size());
     for (int row = 0; row < int(cameras.size()); ++row) {
         answers.push_back({reasonOf(rows.failureOf(row))});
     }
