@@ -76,6 +76,8 @@ TEST_F(RigFile, IsRefusedWithItsNameAndTheMember) {
         {head(R"("locked": "yes")"), "devices[1].heads[1].locked: true or false is expected"},
         {head(R"("rate": 0.5)"), "devices[1].heads[1].rate: a whole number is expected, 0.5 is none that fits"},
         {head(R"("alerts": [1])"), "devices[1].heads[1].alerts: a list of texts is expected"},
+        {head(R"("ports": [1])"), "devices[1].heads[1].ports: an object is expected"},
+        {head(R"("ports": {"a": 1})"), "devices[1].heads[1].ports: \"a\" is no whole number"},
         {head(R"("colour": 1)"), "devices[1].heads[1].colour: there is no such member"},
         {head(R"("syncSource": "moon")"),
          "devices[1].heads[1].syncSource: \"external\", \"hub\", \"chain\" or an empty text is expected"},

@@ -3,7 +3,6 @@
 #include "CameraState.h"
 
 #include <QList>
-#include <QMap>
 #include <QSet>
 #include <QSize>
 #include <QString>
@@ -25,8 +24,6 @@ struct CameraModel {
     QList<QSize> resolutions;
     QList<int> shutters;
     QList<int> triggerModes;
-    /// Signal at each port, by the port's number.
-    QMap<int, int> ports;
     /// `zeb::CameraFunction`s.
     QSet<int> functions;
     /// Capabilities of the image, as "binning".

@@ -3,6 +3,7 @@
 #include "ZebTypes.h"
 
 #include <QList>
+#include <QMap>
 #include <QMetaType>
 #include <QPoint>
 #include <QSize>
@@ -65,6 +66,7 @@ struct CameraState : PartitionMemory {
     Q_PROPERTY(QString syncSource MEMBER syncSource)
     Q_PROPERTY(int syncFrequency MEMBER syncFrequency)
     Q_PROPERTY(uint syncMaster MEMBER syncMaster)
+    Q_PROPERTY(QMap<int, int> ports MEMBER ports)
     Q_PROPERTY(int dualSlope MEMBER dualSlope)
     Q_PROPERTY(bool autoExposure MEMBER autoExposure)
     Q_PROPERTY(uint rate MEMBER rate)
@@ -131,6 +133,8 @@ public:
     QString syncSource;
     int syncFrequency = 0;
     unsigned int syncMaster = 0;
+    /// The `zeb::PortSignal` at each of its ports, by the port's number.
+    QMap<int, int> ports;
     /// Not 0 while the camera blends two exposures.
     int dualSlope = 0;
     bool autoExposure = false;
@@ -185,7 +189,7 @@ public:
     double rotation = 0;
     double zoom = 1;
 
-    /// All members as plain data: texts, numbers, bools and lists of them; sizes and points are lists of two numbers.
+    /// All members as plain data, as `readMembers` tells.
     QVariantMap toPlain() const;
     /// Sets the members that `members` names, or none of them and throws `StateError`.
     void apply(const QVariantMap& members);

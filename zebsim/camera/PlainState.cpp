@@ -1,5 +1,6 @@
 #include "PlainState.h"
 
+#include <QMap>
 #include <QMetaProperty>
 #include <QPoint>
 #include <QSize>
@@ -9,6 +10,9 @@
 #include <limits>
 
 namespace {
+
+/// Unlike a list, Qt does not register a map by itself, and a property of an unknown type can't be read.
+const int Numbered = qMetaTypeId<QMap<int, int>>();
 
 [[noreturn]] void fail(const QString& reason) {
     throw StateError{{}, reason};
@@ -82,9 +86,29 @@ QList<int> readInts(const QVariant& value) {
     return numbers;
 }
 
+QMap<int, int> readNumbered(const QVariant& value) {
+    if (value.type() != QVariant::Map) {
+        fail(QStringLiteral("an object is expected"));
+    }
+    QMap<int, int> numbered;
+    const QVariantMap members = value.toMap();
+    for (auto member = members.begin(); member != members.end(); ++member) {
+        bool isNumber = false;
+        const int number = member.key().toInt(&isNumber);
+        if (!isNumber) {
+            fail(QStringLiteral("\"%1\" is no whole number").arg(member.key()));
+        }
+        numbered.insert(number, readInt(member.value()));
+    }
+    return numbered;
+}
+
 QVariant readAs(int type, const QVariant& value) {
     if (type == qMetaTypeId<QList<int>>()) {
         return QVariant::fromValue(readInts(value));
+    }
+    if (type == Numbered) {
+        return QVariant::fromValue(readNumbered(value));
     }
     switch (type) {
         case QMetaType::Bool:
@@ -114,9 +138,20 @@ QVariant readAs(int type, const QVariant& value) {
     }
 }
 
+QVariantMap plainNumbered(const QMap<int, int>& numbered) {
+    QVariantMap members;
+    for (auto number = numbered.begin(); number != numbered.end(); ++number) {
+        members.insert(QString::number(number.key()), number.value());
+    }
+    return members;
+}
+
 QVariant plain(const QVariant& value) {
     if (value.userType() == qMetaTypeId<QList<int>>()) {
         return value.value<QVariantList>();
+    }
+    if (value.userType() == Numbered) {
+        return plainNumbered(value.value<QMap<int, int>>());
     }
     switch (static_cast<QMetaType::Type>(value.type())) {
         case QMetaType::QSize:

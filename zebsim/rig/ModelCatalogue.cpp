@@ -22,14 +22,6 @@ QList<QSize> readSizes(const JsonNode& node) {
     return sizes;
 }
 
-QMap<int, int> readPorts(const JsonNode& node) {
-    QMap<int, int> ports;
-    for (const QString& port : node.plain().keys()) {
-        ports.insert(port.toInt(), node.member(port).number(0, highest));
-    }
-    return ports;
-}
-
 CameraModel::RateRule readRateRule(const JsonNode& node) {
     const QString rule = node.text();
     if (rule != QStringLiteral("clamp") && rule != QStringLiteral("refuse")) {
@@ -55,6 +47,17 @@ QList<int> readNumbers(const JsonNode& node, const QString& member) {
     return numbers;
 }
 
+/// The signals at the ports stand beside the rest.
+CameraState readInitial(const JsonNode& node, CameraModel model) {
+    const QString ports = QStringLiteral("ports");
+    try {
+        model.initial.apply({{ports, node.member(ports).plain()}});
+    } catch (const StateError& error) {
+        node.failAt(error.member, error.reason);
+    }
+    return ModelCatalogue::readState(node.member(QStringLiteral("initial")), model);
+}
+
 CameraModel readModel(const JsonNode& node) {
     node.allowOnly({QStringLiteral("name"),          QStringLiteral("type"),
                     QStringLiteral("dummy"),         QStringLiteral("otherRates"),
@@ -78,7 +81,6 @@ CameraModel readModel(const JsonNode& node) {
     model.resolutions = readSizes(node.member(QStringLiteral("resolutions")));
     model.shutters = readNumbers(node, QStringLiteral("shutters"));
     model.triggerModes = readNumbers(node, QStringLiteral("triggerModes"));
-    model.ports = readPorts(node.member(QStringLiteral("ports")));
     const QList<int> functions = node.member(QStringLiteral("functions")).numbers(0, highest);
     model.functions = QSet<int>(functions.begin(), functions.end());
     model.capabilities = node.member(QStringLiteral("capabilities")).texts();
@@ -102,7 +104,7 @@ CameraModel readModel(const JsonNode& node) {
     }
     model.ctsReady = readNumber(node, QStringLiteral("ctsReady"));
     model.memory = node.member(QStringLiteral("memory")).number(0, 1 << 24);
-    model.initial = ModelCatalogue::readState(node.member(QStringLiteral("initial")), model);
+    model.initial = readInitial(node, model);
     return model;
 }
 

@@ -45,10 +45,10 @@ public:
         return askConnected(OPERATION("isAutoExposure"), &CameraState::autoExposure);
     }
     QList<int> getPortList(int /*mode*/) const override {
-        return askConnected(OPERATION("getPortList"), &CameraModel::ports).keys();
+        return askConnected(OPERATION("getPortList"), &CameraState::ports).keys();
     }
     int getPortSignal(int index) const override {
-        return askConnected(OPERATION("getPortSignal"), &CameraModel::ports).values().value(index - 1);
+        return askConnected(OPERATION("getPortSignal"), &CameraState::ports).values().value(index - 1);
     }
     bool isIrigEnabled() const override { return askConnected(OPERATION("isIrigEnabled"), &CameraState::irig); }
     int getIrigTimeStampPosition() const override {
