@@ -7,7 +7,7 @@
 #include <QString>
 #include <QStringList>
 
-/// Settings and state of a camera. GUI thread.
+/// Settings and state of a camera. GUI thread; loops where it says so, as `DOC_Interface` tells.
 ///
 /// A getter answers what the camera has, not what was asked of it. `mode` and `head` are the host's: a getter is called
 /// with 1 and 0, but `getCameraName` with 0 too, and `getPartitionCount`, `applyPartition` and `eraseRecordedData` with
@@ -30,11 +30,11 @@ public:
     /// 1 when the camera is reached by radio, and when its link is slower than it should be.
     virtual int getWifiState() const = 0;
     virtual int getLinkSpeedState() const = 0;
-    /// Number of the camera's type; the types fall into classes by what their ports are for.
+    /// Number of the camera's type; the types fall into classes by what their ports are for. Loops.
     virtual int getCameraType() const = 0;
     /// A `zeb::CameraStatus`; other values are states without a name.
     virtual int getCameraStatus() const = 0;
-    /// Whether the camera can do a `zeb::CameraFunction`.
+    /// Whether the camera can do a `zeb::CameraFunction`. Loops.
     virtual bool isFunctionSupported(int function, int mode) const = 0;
     /// Whether the document is a head of a device with several.
     virtual bool isMultiHead() const = 0;
@@ -53,10 +53,12 @@ public:
     /// Whether the camera chooses its exposure itself.
     virtual bool isAutoExposure() const = 0;
 
-    /// Numbers of the ports that the camera has.
+    /// Numbers of the ports that the camera has. Loops.
     virtual QList<int> getPortList(int mode) const = 0;
     /// The `zeb::PortSignal` on the port that stands at `index` in the list, counted from 1.
     virtual int getPortSignal(int index) const = 0;
+    /// Puts another one there. Loops.
+    virtual void setPortSignal(int index, int signal) = 0;
 
     /// Whether recorded frames are stamped with IRIG time.
     virtual bool isIrigEnabled() const = 0;
@@ -86,10 +88,17 @@ public:
 
     /// Live speed before image quality.
     virtual bool getReduceMode(int head) const = 0;
-    /// The mode in which exposures last longer than a frame.
+    /// The mode in which exposures last longer than a frame. It is set on cameras that support it only. Loops.
     virtual bool isLowLightMode() const = 0;
+    virtual void setLowLightMode(bool on) = 0;
     /// A `zeb::LowLightType`.
     virtual int getLowLightType() const = 0;
+    /// Of cameras that support low light only. Loops.
+    virtual void setLowLightType(int type) = 0;
+
+    /// Locks of the camera's own, on its resolution and on its shutter speed. Loops.
+    virtual void setResolutionLock(bool lock) = 0;
+    virtual void setShutterSpeedLock(bool lock) = 0;
 
     /// Partitions of the memory, and the one in use, from 1.
     virtual PARTITIONNUMBER getPartitionCount(int mode, int head) const = 0;

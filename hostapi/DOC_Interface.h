@@ -18,11 +18,15 @@ class DOC_Storage;
 /// What holds for all its topics: a call on a connected document may ask the camera and then takes the
 /// camera's latency; it throws what derives from `std::exception` when the camera does not answer. A document
 /// that is not connected answers no camera calls: test `isConnected` first. GUI thread unless said otherwise.
+///
+/// "Loops": the call may also be made on other threads, on each document by one of them at a time. The caller has
+/// fetched the documents on the GUI thread and waits there until all have ended, in an event loop of its own or
+/// without one. It calls nothing of `ZebHost` in the loop.
 class DOC_Interface {
 public:
     virtual ~DOC_Interface() = default;
 
-    /// Topics; each lives as long as the document and none throws.
+    /// Topics; each lives as long as the document and none throws. Loops.
     virtual DOC_Activity& activity() = 0;
     virtual DOC_Lock& lock() = 0;
     virtual DOC_Frames& frames() = 0;
@@ -32,6 +36,7 @@ public:
     virtual DOC_Storage& storage() = 0;
 
     virtual DOCKEY getKey() const = 0;
+    /// Whether the host is connected to the camera. Loops.
     virtual bool isConnected() const = 0;
     /// Whether the user has selected it in the host; commands without a list of cameras go to the selected ones.
     virtual bool isSelected() const = 0;

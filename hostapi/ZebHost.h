@@ -73,6 +73,10 @@ public:
     virtual void setPrefFloat(const QString& key, float value) = 0;
     virtual void setPrefString(const QString& key, const QString& value) = 0;
 
+    /// The order of columns that the table's tab `tab`, counted from 0, has before anyone changes it, in the form of
+    /// the preferences `wren/column_order/`: their names with commas between, empty for the tab's own order.
+    virtual QString getDefaultColumnOrder(int tab) const = 0;
+
     /// Whether the store was found damaged and the factory values stand in it, which nobody has taken note of yet.
     virtual bool isPrefsRestored() const = 0;
     /// 1: somebody has.

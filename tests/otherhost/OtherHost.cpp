@@ -21,7 +21,7 @@ OtherHost* current = nullptr;
 }  // namespace
 
 void called(const char* operation, bool mayThrow) {
-    if (current && current->onCall && QThread::currentThread() == qApp->thread()) {
+    if (QThread::currentThread() == qApp->thread() && current && current->onCall) {
         current->onCall(operation, mayThrow);
     }
 }
@@ -199,6 +199,12 @@ void OtherHost::addCamera(DOCKEY key) {
     camera.doc.storagePart.onGetPluginNames = [] { return QStringList{"lut"}; };
     camera.doc.controlPart.onHasRecordedData = [&camera] { return camera.state.recorded; };
     camera.doc.controlPart.onEraseRecordedData = [&camera](int) { camera.state.recorded = false; };
+    camera.doc.controlPart.onIsLowLightMode = [&camera] { return camera.state.lowLight; };
+    camera.doc.controlPart.onSetLowLightMode = [&camera](bool on) { camera.state.lowLight = on; };
+    camera.doc.controlPart.onGetPortSignal = [&camera](int index) {
+        return index == 1 ? int(zeb::SignalOnCamPos) : camera.state.trigger;
+    };
+    camera.doc.controlPart.onSetPortSignal = [&camera](int, int signal) { camera.state.trigger = signal; };
     prepareControl(key, camera.doc.controlPart);
 }
 
@@ -209,7 +215,6 @@ void OtherHost::prepareControl(DOCKEY key, OtherDOC_Control& control) {
     control.onHasSyncStatus = [] { return true; };
     control.onGetSyncStatusText = [] { return "Sync In"; };
     control.onGetPortList = [](int) { return QList<int>{1, 2}; };
-    control.onGetPortSignal = [](int index) { return index == 1 ? zeb::SignalOnCamPos : zeb::SignalTrigPos; };
     control.onGetRecordRate = [](int) { return 2000; };
     control.onGetRecordRateList = [] { return QList<unsigned int>{1000, 2000}; };
     control.onGetResolution = [] { return QSize(512, 512); };
@@ -246,6 +251,7 @@ void OtherHost::preparePrefs() {
     onSetPrefBool = onSetPref;
     onSetPrefFloat = onSetPref;
     onSetPrefString = onSetPref;
+    onGetDefaultColumnOrder = [](int tab) { return tab == 0 ? "lock,cameraName" : ""; };
     onTranslate = [](const QString& text) { return text; };
 }
 

@@ -30,6 +30,8 @@ public:
             bool locked = false;
             bool checked = false;
             bool recorded = true;
+            bool lowLight = false;
+            int trigger = zeb::SignalTrigPos;
         } state;
     };
 

@@ -83,8 +83,14 @@ public:
     void setRandomTriggerPhase(bool counted);
     void setReduceMode(bool on);
     void synchronise(const SyncSource& source);
-    void setLowLight(bool on);
+    /// The same, by the two calls that the host has for it.
+    void setLowLight(bool on) { switchLowLight(OPERATION("setLowLight"), on); }
+    void setLowLightMode(bool on) { switchLowLight(OPERATION("setLowLightMode"), on); }
     void setLowLightType(int type);
+    void setResolutionLock(bool lock);
+    void setShutterSpeedLock(bool lock);
+    /// `index` counts the ports from 1, in the order of their numbers.
+    void setPortSignal(int index, int signal);
     void setName(const QString& name);
     void setComment(const QString& comment);
     void eraseRecordedData();
@@ -110,6 +116,7 @@ private:
     [[noreturn]] void refuse(const QString& reason) const;
     void require(int function, const char* mode) const;
     void fitShutter();
+    void switchLowLight(CameraOperation operation, bool on);
     /// Whether the camera is there to do it.
     bool command(CameraOperation operation);
     bool commandConnected(CameraOperation operation);

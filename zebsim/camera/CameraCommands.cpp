@@ -130,8 +130,8 @@ void Camera::synchronise(const SyncSource& source) {
     m_state.syncMaster = source.master;
 }
 
-void Camera::setLowLight(bool on) {
-    if (!commandConnected(OPERATION("setLowLight"))) {
+void Camera::switchLowLight(CameraOperation operation, bool on) {
+    if (!commandConnected(operation)) {
         return;
     }
     require(zeb::FunctionLowLight, "low light mode");
@@ -145,6 +145,30 @@ void Camera::setLowLightType(int type) {
     }
     require(zeb::FunctionLowLight, "low light mode");
     set(&CameraState::lowLightType, type);
+}
+
+void Camera::setResolutionLock(bool lock) {
+    if (commandConnected(OPERATION("setResolutionLock"))) {
+        set(&CameraState::resolutionLock, lock);
+    }
+}
+
+void Camera::setShutterSpeedLock(bool lock) {
+    if (commandConnected(OPERATION("setShutterSpeedLock"))) {
+        set(&CameraState::shutterSpeedLock, lock);
+    }
+}
+
+void Camera::setPortSignal(int index, int signal) {
+    if (!commandConnected(OPERATION("setPortSignal"))) {
+        return;
+    }
+    QMap<int, int> ports = get(&CameraState::ports);
+    if (index < 1 || index > ports.size()) {
+        refuse(QStringLiteral("there is no port at place %1").arg(index));
+    }
+    ports[ports.keys().at(index - 1)] = signal;
+    set(&CameraState::ports, ports);
 }
 
 void Camera::setName(const QString& name) {

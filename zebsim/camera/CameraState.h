@@ -80,6 +80,8 @@ struct CameraState : PartitionMemory {
     Q_PROPERTY(bool reduce MEMBER reduce)
     Q_PROPERTY(bool lowLight MEMBER lowLight)
     Q_PROPERTY(int lowLightType MEMBER lowLightType)
+    Q_PROPERTY(bool resolutionLock MEMBER resolutionLock)
+    Q_PROPERTY(bool shutterSpeedLock MEMBER shutterSpeedLock)
     Q_PROPERTY(bool irig MEMBER irig)
     Q_PROPERTY(bool irigStampAtEnd MEMBER irigStampAtEnd)
     Q_PROPERTY(bool irigSync MEMBER irigSync)
@@ -153,6 +155,9 @@ public:
     bool reduce = false;
     bool lowLight = false;
     int lowLightType = zeb::LowLightTypeFast;
+    /// The camera's own locks, beside the table's.
+    bool resolutionLock = false;
+    bool shutterSpeedLock = false;
     /// Frames are stamped with IRIG time, at the end of the exposure or at its start; the camera runs in step with
     /// IRIG.
     bool irig = false;

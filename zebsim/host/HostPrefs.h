@@ -1,7 +1,10 @@
 #pragma once
 
+#include "FactoryValues.h"
 #include "HostCalls.h"
 #include "Preferences.h"
+
+#include <QStringList>
 
 /// The preferences as plug-ins read and write them. GUI thread.
 class HostPrefs {
@@ -18,6 +21,14 @@ public:
     void set(HostOperation operation, const QString& key, const QVariant& value) {
         m_calls.change(operation, {key, value});
         m_prefs.setValue(key, value);
+    }
+
+    /// As `ZebHost::getDefaultColumnOrder`.
+    QString defaultColumnOrder(int tab) const {
+        static const QStringList tabs =
+            QStringLiteral("cameraInfo,livecontrol,sync,irig,plugin,memoryInfo,memoryPlugin").split(QLatin1Char(','));
+        m_calls.ask(OPERATION("getDefaultColumnOrder"));
+        return factoryValues().value(QStringLiteral("wren/column_order/") % tabs.value(tab)).toString();
     }
 
     /// As `ZebHost::isPrefsRestored` and `ZebHost::setPrefsRestored`.

@@ -126,6 +126,8 @@ public:
         m_hostPrefs.set(OPERATION("ZebHost::setPrefString"), key, value);
     }
 
+    QString getDefaultColumnOrder(int tab) const override { return m_hostPrefs.defaultColumnOrder(tab); }
+
     bool isPrefsRestored() const override { return m_hostPrefs.isRestored(); }
     void setPrefsRestored(int state) override { m_hostPrefs.setRestored(state); }
 

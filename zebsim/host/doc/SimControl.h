@@ -50,6 +50,9 @@ public:
     int getPortSignal(int index) const override {
         return askConnected(OPERATION("getPortSignal"), &CameraState::ports).values().value(index - 1);
     }
+    void setPortSignal(int index, int signal) override {
+        note("DOC_Control::setPortSignal", {index, signal}).setPortSignal(index, signal);
+    }
     bool isIrigEnabled() const override { return askConnected(OPERATION("isIrigEnabled"), &CameraState::irig); }
     int getIrigTimeStampPosition() const override {
         return askConnected(OPERATION("getIrigTimeStampPosition"), &CameraState::irigStampAtEnd) ? 1 : 0;
@@ -77,8 +80,16 @@ public:
         return askConnected(OPERATION("getReduceMode"), &CameraState::reduce);
     }
     bool isLowLightMode() const override { return askConnected(OPERATION("isLowLightMode"), &CameraState::lowLight); }
+    void setLowLightMode(bool on) override { note("DOC_Control::setLowLightMode", {on}).setLowLightMode(on); }
     int getLowLightType() const override {
         return askConnected(OPERATION("getLowLightType"), &CameraState::lowLightType);
+    }
+    void setLowLightType(int type) override { note("DOC_Control::setLowLightType", {type}).setLowLightType(type); }
+    void setResolutionLock(bool lock) override {
+        note("DOC_Control::setResolutionLock", {lock}).setResolutionLock(lock);
+    }
+    void setShutterSpeedLock(bool lock) override {
+        note("DOC_Control::setShutterSpeedLock", {lock}).setShutterSpeedLock(lock);
     }
     PARTITIONNUMBER getPartitionCount(int /*mode*/, int /*head*/) const override {
         return askConnected(OPERATION("getPartitionCount"), &CameraState::partitions);
