@@ -1,10 +1,15 @@
 #include "Camera.h"
+#include "DOC_Control.h"
+#include "DOC_Interface.h"
 #include "HostBatch.h"
 #include "HostWindows.h"
 #include "ParallelRows.h"
 #include "RigFile.h"
 #include "ZebLeftOut.h"
 #include "support/TestHost.h"
+
+#include <QEventLoop>
+#include <QTimer>
 
 #include <gtest/gtest.h>
 
@@ -168,6 +173,30 @@ TEST_F(SlowCommands, LeaveWhoWasNotReachedAsItWas) {
     EXPECT_EQ(lastState(), zeb::RecordReady);
     EXPECT_EQ(host.cameras().find(1)->recordState(), zeb::RecordRecording);
     host.setWindows(nullptr);
+}
+
+TEST_F(SlowCommands, DocumentsAnswerOtherThreadsWhateverTheHostDoesMeanwhile) {
+    host.setRig(connected(8));
+    const DocList documents = docs();
+    clock.set(false);
+    ParallelRows rows(documents.size(), [&documents](int row) {
+        DOC_Control& control = documents.at(row)->control();
+        control.setPortSignal(control.getPortList(1).size(), zeb::SignalNormallyClose);
+        control.setLowLightMode(documents.at(row)->isConnected() && control.isFunctionSupported(15, 1));
+    });
+    QEventLoop loop;
+    QTimer::singleShot(0, &loop, [&] {
+        host.info("a box", nullptr);
+        host.setRig(connected(2));
+        clock.set(true);
+        loop.quit();
+    });
+    loop.exec();
+    EXPECT_TRUE(rows.waitFor(60000));
+    for (int row = 0; row < documents.size(); ++row) {
+        EXPECT_FALSE(rows.failureOf(row));
+        EXPECT_TRUE(documents.at(row)->control().isLowLightMode()) << row;
+    }
 }
 
 TEST_F(SlowCommands, EndWellWhenTheRigIsAnother) {

@@ -5,7 +5,8 @@
 #include "HostContext.h"
 
 /// A topic of a document. What is asked of its camera takes the time that a planted fault says, and throws
-/// `CameraError`; "connected" in a name: also when the camera is not.
+/// `CameraError`; "connected" in a name: also when the camera is not. Any thread, where the boundary says "loops": its
+/// camera, the plan of faults, the clock and the journal may be used from several, and nothing else is.
 template <typename Topic>
 class DocTopic : public Topic {
 public:

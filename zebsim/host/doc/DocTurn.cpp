@@ -14,8 +14,8 @@ DocTurn::DocTurn(QObject* parent) : QObject(parent) {
 
 DocTurn::~DocTurn() = default;
 
-SimDocument* DocTurn::document(Camera& camera, const HostContext& host) {
-    auto& doc = m_docs[camera.key()];
+SimDocument* DocTurn::document(const std::shared_ptr<Camera>& camera, const HostContext& host) {
+    auto& doc = m_docs[camera->key()];
     if (!doc) {
         doc = std::make_unique<SimDocument>(camera, host);
     }

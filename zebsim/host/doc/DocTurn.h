@@ -19,7 +19,7 @@ public:
     explicit DocTurn(QObject* parent);
     ~DocTurn() override;
 
-    SimDocument* document(Camera& camera, const HostContext& host);
+    SimDocument* document(const std::shared_ptr<Camera>& camera, const HostContext& host);
     std::size_t count() const { return m_docs.size(); }
 
 private:

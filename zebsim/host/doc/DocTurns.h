@@ -12,7 +12,7 @@ public:
     /// Must outlive the object.
     explicit DocTurns(const HostContext& host) : m_host(host) {}
 
-    SimDocument* document(Camera& camera) { return turn().document(camera, m_host); }
+    SimDocument* document(const std::shared_ptr<Camera>& camera) { return turn().document(camera, m_host); }
     /// Documents handed out in this turn of the event loop.
     std::size_t handedOut() const;
     /// The documents of this turn are dead.

@@ -23,8 +23,8 @@ void SimDocManager::forgetDocs() {
 }
 
 DOC_Interface* SimDocManager::getDocAny(DOCKEY key) {
-    Camera* camera = m_host.cameras.find(key);
-    return camera ? m_turns.document(*camera) : nullptr;
+    const auto camera = m_host.cameras.hold(key);
+    return camera ? m_turns.document(camera) : nullptr;
 }
 
 DocList SimDocManager::getCameraDocs() {

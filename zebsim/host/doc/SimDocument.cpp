@@ -5,16 +5,17 @@
 #include "TextKey.h"
 #include "Translator.h"
 
-SimDocument::SimDocument(Camera& camera, const HostContext& host)
-    : DocTopic(camera, host),
-      m_key(camera.key()),
-      m_activity(camera, host),
-      m_lock(camera, host),
-      m_frames(camera, host),
-      m_image(camera, host),
-      m_control(camera, host),
-      m_head(camera, host),
-      m_storage(camera, host) {}
+SimDocument::SimDocument(std::shared_ptr<Camera> camera, const HostContext& host)
+    : DocTopic(*camera, host),
+      m_held(std::move(camera)),
+      m_key(m_camera.key()),
+      m_activity(m_camera, host),
+      m_lock(m_camera, host),
+      m_frames(m_camera, host),
+      m_image(m_camera, host),
+      m_control(m_camera, host),
+      m_head(m_camera, host),
+      m_storage(m_camera, host) {}
 
 DOC_Interface* SimDocument::getParentDoc() const {
     const DOCKEY master = ask(OPERATION("getParentDoc")).device().heads().front()->key();

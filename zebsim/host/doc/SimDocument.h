@@ -10,10 +10,13 @@
 #include "SimLock.h"
 #include "SimStorage.h"
 
-/// A camera's document: a view on the `Camera`, which holds all that there is to know.
+#include <memory>
+
+/// A camera's document: a view on the `Camera`, which holds all that there is to know. The camera lives as long, for
+/// the rig may be replaced while other threads wait for its answers.
 class SimDocument : public DocTopic<DOC_Interface> {
 public:
-    SimDocument(Camera& camera, const HostContext& host);
+    SimDocument(std::shared_ptr<Camera> camera, const HostContext& host);
 
     SimActivity& activity() override { return m_activity; }
     SimLock& lock() override { return m_lock; }
@@ -40,6 +43,7 @@ public:
     QString formatShutterSpeed(int value, int head) const override;
 
 private:
+    const std::shared_ptr<Camera> m_held;
     const DOCKEY m_key;
     SimActivity m_activity;
     SimLock m_lock;
