@@ -50,7 +50,11 @@ TEST_F(Prefs, KeepValueAndTypeOverARestart) {
         for (auto value = values.begin(); value != values.end(); ++value) {
             host.setPref(value.key(), value.value());
         }
+        host.setPrefFloat(QStringLiteral("wren/settings/triggerManualBeforePer"), 33.33F);
+        host.setPrefInt(QStringLiteral("sync/external"), 1);
     }
+    EXPECT_THAT(contentOf(path).toStdString(), testing::HasSubstr("triggerManualBeforePer=33.33\n"));
+    EXPECT_THAT(contentOf(path).toStdString(), testing::HasSubstr("external=true\n"));
     SimHost host(clock, desk, copied());
     for (auto value = values.begin(); value != values.end(); ++value) {
         const QVariant read = host.getPref(value.key());

@@ -2,8 +2,12 @@
 
 #include "FactoryValues.h"
 
+#include <QByteArray>
 #include <QFile>
 #include <QStandardPaths>
+
+#include <array>
+#include <charconv>
 
 namespace {
 
@@ -25,6 +29,13 @@ QString freeCorruptName(const QString& path) {
 /// `value` as a value of this type; `otherwise` when it can't be one.
 QVariant convertedTo(int type, QVariant value, const QVariant& otherwise) {
     return value.convert(type) ? value : otherwise;
+}
+
+/// The shortest number that reads as `value`: 33.33, and not the 33.3300018310547 that the nearest `float` stands for.
+double decimalOf(float value) {
+    std::array<char, 32> text{};
+    const char* end = std::to_chars(text.data(), text.data() + text.size(), value).ptr;
+    return QByteArray(text.data(), int(end - text.data())).toDouble();
 }
 
 }  // namespace
@@ -74,9 +85,12 @@ QVariant Preferences::value(const QString& key, const QVariant& defaultValue) co
 }
 
 void Preferences::setValue(const QString& key, const QVariant& value) {
+    // A float would be stored as a binary blob.
+    QVariant storable = value.userType() == QMetaType::Float ? decimalOf(value.toFloat()) : value;
     const auto factory = factoryValues().find(key);
     if (factory != factoryValues().end()) {
-        m_values.insert(key, convertedTo(factory->userType(), value, *factory));
+        storable = convertedTo(factory->userType(), storable, *factory);
+        m_values.insert(key, storable);
     } else {
         m_values.insert(key, value);
         if (value.type() != QVariant::String) {
@@ -85,6 +99,5 @@ void Preferences::setValue(const QString& key, const QVariant& value) {
             m_settings->remove(typeGroup % key);
         }
     }
-    // A float would be stored as a binary blob.
-    m_settings->setValue(key, value.userType() == QMetaType::Float ? QVariant(value.toDouble()) : value);
+    m_settings->setValue(key, storable);
 }
