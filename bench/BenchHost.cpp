@@ -27,6 +27,7 @@ BenchHost::BenchHost(int cameras)
     prefs.setValue(QStringLiteral("wren/table/interval"), 1000000);
     prefs.setValue(QStringLiteral("wren/table/w"), 1800);
     prefs.setValue(QStringLiteral("wren/table/h"), 1000);
+    prefs.setValue(QStringLiteral("wren/settings/done"), true);
 }
 
 void BenchHost::change(int step, int run) {

@@ -18,6 +18,8 @@ public:
     /// it was written with; that of a key with a factory value has the type of that.
     QVariant value(const QString& key, const QVariant& defaultValue = {}) const;
     void setValue(const QString& key, const QVariant& value);
+    /// The key has this value until another is set; the file keeps its own.
+    void assume(const QString& key, const QVariant& value) { m_values.insert(key, value); }
 
     /// All keys that have a value.
     const QHash<QString, QVariant>& values() const { return m_values; }

@@ -2,6 +2,7 @@
 
 #include "ScenarioApi.h"
 #include "ScriptWatchdog.h"
+#include "Simulator.h"
 
 #include <QApplication>
 #include <QDialog>
@@ -40,6 +41,8 @@ int ScenarioRunner::run(const QString& path) {
 }
 
 int ScenarioRunner::run(const QString& path, const QString& program) {
+    // Nobody would answer the dialog that comes at the first opening of the table.
+    m_simulator.host().prefs().assume(QStringLiteral("wren/settings/done"), true);
     const QString folder = QFileInfo(path).absolutePath();
     ScenarioApi api(m_engine, m_simulator, folder, [this] { return m_stop.load(); });
     connect(&api.dialogs(), &ScenarioDialogs::threw, this, &ScenarioRunner::reportError);
