@@ -13,11 +13,11 @@ zeb.modal(() => {
     zeb.type('\t \u001b');
 });
 zeb.click('#wren_io_setting');
-check(!zeb.pref('wren/settings/syncInEnable'), 'Escape stores nothing');
+check(!zeb.pref('wren/settings/deviceSpeedPlaying'), 'Escape stores nothing');
 check(!status().IsPrefDialogOpening, 'the dialog is gone');
 zeb.modal(() => zeb.type('\t \n'));
 zeb.click('#wren_io_setting');
-check(zeb.pref('wren/settings/syncInEnable'), 'Enter stores what was ticked');
+check(zeb.pref('wren/settings/deviceSpeedPlaying'), 'Enter stores what was ticked');
 
 // The page of addresses takes a network and hands it to the search of the table.
 zeb.modal(() => zeb.type('10.0.7\n'));

@@ -11,22 +11,12 @@ PreferenceField box(const char* key, const QString& label) {
     return {QLatin1String(key), label, PreferenceField::Box};
 }
 
-PreferenceField text(const char* key, const QString& label) {
-    return {QLatin1String(key), label, PreferenceField::Text};
-}
-
 PreferenceField number(const char* key, const QString& label, int lowest, int highest) {
     return {QLatin1String(key), label, PreferenceField::Number, {}, lowest, highest};
 }
 
 PreferenceField choice(const char* key, const QString& label, const QList<PreferenceChoice>& choices) {
     return {QLatin1String(key), label, PreferenceField::Choice, choices};
-}
-
-QList<PreferenceChoice> tableColours() {
-    return {{QStringLiteral("red"), TextKey("Red")},       {QStringLiteral("green"), TextKey("Green")},
-            {QStringLiteral("yellow"), TextKey("Yellow")}, {QStringLiteral("orange"), TextKey("Orange")},
-            {QStringLiteral("blue"), TextKey("Blue")},     {QStringLiteral("skyblue"), TextKey("Sky blue")}};
 }
 
 /// By their English names, which are keys too.
@@ -69,15 +59,7 @@ QList<PreferenceField> recordingFields() {
 
 QList<PreferenceField> ioFields() {
     return {
-        box("wren/settings/syncInEnable", TextKey("Synchronise the cameras")),
-        box("sync/external", TextKey("Synchronise on an external signal")),
-        text("sync/masterCamera", TextKey("Address of the master camera")),
-        text("sync/generator/address", TextKey("Address of the signal generator")),
-        choice("sync/generator/input", TextKey("Port that the signal comes in by"),
-               {{0, TextKey("ON CAM POS")}, {1, TextKey("ON OTHERS POS")}}),
-        choice("sync/lport", TextKey("Between signal and cameras"),
-               {{0, TextKey("Nothing")}, {1, TextKey("L-PORT")}, {2, TextKey("Sync Hub")}}),
-        text("sync/lport/ipaddress", TextKey("Addresses of Sync Hubs, with commas between")),
+        box("wren/settings/deviceSpeedPlaying", TextKey("Play each camera in step with the common signal")),
         box("alert/setsynchronization", TextKey("Remind of the wiring after a synchronisation")),
     };
 }
@@ -85,10 +67,6 @@ QList<PreferenceField> ioFields() {
 QList<PreferenceField> tableFields() {
     return {
         number("wren/table/interval", TextKey("Interval of the table in ms"), 50, 60000),
-        choice("wren/settings/recreadyTableColor", TextKey("Colour while ready"), tableColours()),
-        choice("wren/settings/recordingTableColor", TextKey("Colour while recording"), tableColours()),
-        choice("wren/settings/memoryTableColor", TextKey("Colour of the memory mode"), tableColours()),
-        box("alert/wren/multiheadlockalert", TextKey("Ask before locked heads are changed")),
     };
 }
 

@@ -10,13 +10,14 @@ struct PreferenceChoice {
     QString label;
 };
 
-/// A preference that the user can set. What it is until then is the factory's.
+/// A preference that the user can set. What it is until then is the factory's. What a dialog of the plug-in edits has its
+/// place there alone.
 struct PreferenceField {
-    enum Editor { Box, Number, Text, Choice };
+    enum Editor { Box, Number, Choice };
 
     QString key;
     QString label;
-    Editor editor = Text;
+    Editor editor = Box;
     /// Of a choice.
     QList<PreferenceChoice> choices = {};
     /// Of a number.

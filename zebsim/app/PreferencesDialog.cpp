@@ -9,7 +9,6 @@
 #include <QComboBox>
 #include <QDialogButtonBox>
 #include <QFormLayout>
-#include <QLineEdit>
 #include <QListWidget>
 #include <QSpinBox>
 #include <QStackedWidget>
@@ -80,21 +79,16 @@ QWidget* PreferencesDialog::makeEditor(const PreferenceField& field, const QVari
             reader = [box] { return box->value(); };
             return box;
         }
-        case PreferenceField::Choice: {
-            auto* box = new QComboBox(this);
-            for (const PreferenceChoice& choice : field.choices) {
-                box->addItem(uiText(choice.label), choice.value);
-            }
-            box->setCurrentIndex(box->findData(value));
-            reader = [box] { return box->currentData(); };
-            return box;
-        }
-        case PreferenceField::Text:
+        case PreferenceField::Choice:
             break;
     }
-    auto* line = new QLineEdit(value.toString(), this);
-    reader = [line] { return line->text(); };
-    return line;
+    auto* box = new QComboBox(this);
+    for (const PreferenceChoice& choice : field.choices) {
+        box->addItem(uiText(choice.label), choice.value);
+    }
+    box->setCurrentIndex(box->findData(value));
+    reader = [box] { return box->currentData(); };
+    return box;
 }
 
 void PreferencesDialog::accept() {

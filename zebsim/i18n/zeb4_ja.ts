@@ -612,10 +612,6 @@
         <translation>信号発生器のアドレス</translation>
     </message>
     <message>
-        <source>Addresses of Sync Hubs, with commas between</source>
-        <translation>Sync Hub のアドレス (コンマ区切り)</translation>
-    </message>
-    <message>
         <source>As a fraction</source>
         <translation>分数</translation>
     </message>
@@ -760,6 +756,10 @@
         <translation>再生</translation>
     </message>
     <message>
+        <source>Play each camera in step with the common signal</source>
+        <translation>共通の信号に同期して各カメラを再生する</translation>
+    </message>
+    <message>
         <source>Player</source>
         <translation>プレーヤー</translation>
     </message>
@@ -798,10 +798,6 @@
     <message>
         <source>Style</source>
         <translation>スタイル</translation>
-    </message>
-    <message>
-        <source>Synchronise on an external signal</source>
-        <translation>外部信号で同期する</translation>
     </message>
     <message>
         <source>The information below will be output in ZIP file format. Do you want to proceed?</source>
@@ -1090,10 +1086,6 @@
     <message>
         <source>Between signal and cameras</source>
         <translation>信号とカメラの間</translation>
-    </message>
-    <message>
-        <source>Nothing</source>
-        <translation>なし</translation>
     </message>
     <message>
         <source>L-PORT</source>
