@@ -28,7 +28,11 @@ void SignalSources::attempt(Work&& work, CleanUp&& cleanUp) {
         work();
         return;
     } catch (const std::exception& e) {
-        logFailure([&] { m_host.errorHandler(e); });
+        if (m_failures != nullptr) {
+            m_failures->noteCurrent();
+        } else {
+            logFailure([&] { m_host.errorHandler(e); });
+        }
     } catch (...) {
         logCurrentFailure();
     }

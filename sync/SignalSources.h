@@ -9,6 +9,7 @@
 #include <optional>
 
 class DOC_Interface;
+class GatheredFailures;
 class ZebHost;
 class ZebSignalDevice;
 struct SyncState;
@@ -23,10 +24,12 @@ inline const QString SignalDiffersText = TextKey("External sync signal and camer
 /// the host and its devices throw.
 class SignalSources {
 public:
-    SignalSources(ZebHost& host, SyncState& state) : m_host(host), m_state(state) {}
+    /// What fails while it connects goes into `failures`, and no box shows it; without them the host shows it at once.
+    SignalSources(ZebHost& host, SyncState& state, GatheredFailures* failures = nullptr)
+        : m_host(host), m_state(state), m_failures(failures) {}
 
-    /// Connect the source that the preferences name and set it to the chosen frequency, if it offers that. They show
-    /// their own failures; the first runs an event loop while it waits for the instrument, and does nothing when it is
+    /// Connect the source that the preferences name and set it to the chosen frequency, if it offers that. They throw
+    /// nothing; the first runs an event loop while it waits for the instrument, and does nothing when it is
     /// called in there. Without an address the generator goes.
     void connectGenerator();
     void connectHubs();
@@ -70,4 +73,5 @@ private:
 
     ZebHost& m_host;
     SyncState& m_state;
+    GatheredFailures* const m_failures;
 };

@@ -62,7 +62,7 @@ void JS_Mediator_WrenTableDialog::openSession() {
     int interval = DefaultInterval;
     failures.attempt([&] { interval = host().getPrefInt(QStringLiteral("wren/table/interval")); });
     m_timers.renew(interval);
-    failures.attempt([this] { TableSession(host(), m_state).open(); });
+    failures.attempt([this] { TableSession(host(), m_state).open(tableWindow()); });
     failures.rethrow();
 }
 

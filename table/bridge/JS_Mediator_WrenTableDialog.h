@@ -71,6 +71,9 @@ public Q_SLOTS:
     void setComment(const QVariantList& keys, const QString& comment);
     void editDoc(DOCKEY dockey);
 
+    /// Brings the default settings to all cameras when the dialog is accepted.
+    void openDefaultSettingsDialog();
+
     // Parameters.
     void setParamLock(const QVariantList& keys, bool lock);
     void setFrameRate(const QVariantList& keys, const QString& val);

@@ -4,26 +4,24 @@
 #include "ConnectedDocs.h"
 #include "DOC_Interface.h"
 #include "DOC_Lock.h"
-#include "DefaultSettings.h"
+#include "DefaultsLoad.h"
 #include "DocKeys.h"
-#include "DocumentGuard.h"
+#include "GUI_WrenDefaultSettingsDialog.h"
 #include "NamedFailure.h"
 #include "RecordChecks.h"
-#include "SignalSources.h"
+#include "SettingsKeys.h"
 #include "TableState.h"
 #include "ZebDocManager.h"
 #include "ZebHost.h"
 
-#include <QDebug>
-
 #include <algorithm>
 
-void TableSession::open() {
+void TableSession::open(QWidget* window) {
     m_state.group = QLatin1String(UnreadGroup);
     clearLocks(false);
     m_failures.attempt([this] { RecordChecks(m_host).clear(m_failures); });
     m_failures.attempt([this] { takeAllConnected(); });
-    m_failures.attempt([this] { loadDefaultSettings(); });
+    m_failures.attempt([&] { openDefaults(window); });
     // As one that connects now; a recording that runs is followed.
     m_failures.attempt([this] { CameraManagement(m_host, m_state).prepareConnectedDocs(connected()); });
     m_failures.rethrow();
@@ -49,34 +47,27 @@ DocList TableSession::connected() {
     return connectedDocs(documents, documents.getConnectedDocKeys(), m_failures);
 }
 
-void TableSession::loadDefaultSettings() {
+void TableSession::openDefaults(QWidget* window) {
+    if (areDefaultsAskedFor()) {
+        if (!GUI_WrenDefaultSettingsDialog::run(m_host, window)) {
+            return;
+        }
+        m_host.setPrefBool(settingskeys::Done, true);
+    }
+    DefaultsLoad(m_host, m_state, m_failures).loadAll();
+}
+
+/// Nobody is kept from a recording by a dialog.
+bool TableSession::areDefaultsAskedFor() {
+    if (m_host.getPrefBool(settingskeys::Done) || !m_host.isLiveMode()) {
+        return false;
+    }
     const DocList docs = connected();
-    DocumentGuard guard(m_host, false, false);
-    const bool busy = std::any_of(docs.begin(), docs.end(), [this](DOC_Interface* doc) {
+    return std::none_of(docs.begin(), docs.end(), [this](DOC_Interface* doc) {
         bool armed = false;
         m_failures.attempt([&] { onCamera(*doc, [&] { armed = isArmed(*doc); }); });
         return armed;
     });
-    if (!m_host.isFileMode() && !busy) {
-        const DefaultSettings settings = DefaultSettings::read(m_host);
-        m_state.groups = settings.groups;
-        m_state.sync.frequency = settings.syncFrequency.value_or(m_state.sync.frequency);
-        m_state.sync.offered = settings.syncSignals;
-        m_state.allowed = settings.allowed;
-        m_state.areas = settings.areas;
-        connectSignalSources();
-    }
-    guard.release();
-}
-
-void TableSession::connectSignalSources() {
-    SignalSources sources(m_host, m_state.sync);
-    sources.connectGenerator();
-    qInfo() << "loadDefaultSettings"
-            << "connectSignalGenerator";
-    sources.connectHubs();
-    qInfo() << "loadDefaultSettings"
-            << "connectSignalDistributors";
 }
 
 void TableSession::close() {

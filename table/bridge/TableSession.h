@@ -3,6 +3,7 @@
 #include "GatheredFailures.h"
 #include "ZebTypes.h"
 
+class QWidget;
 class ZebHost;
 struct TableState;
 
@@ -13,17 +14,18 @@ class TableSession {
 public:
     TableSession(ZebHost& host, TableState& state) : m_host(host), m_state(state) {}
 
-    /// Runs event loops. Heads that are ready or recording keep their lock, and the default settings are not read then.
+    /// Runs event loops. Heads that are ready or recording keep their lock, and the default settings are not loaded
+    /// then. As long as they have never been accepted their dialog opens instead, over `window`, which may be null.
     /// Opening twice is closing once.
-    void open();
+    void open(QWidget* window);
     void close();
 
 private:
     /// From now on a recording takes all connected cameras.
     void takeAllConnected();
     void giveBackAllConnected();
-    void loadDefaultSettings();
-    void connectSignalSources();
+    void openDefaults(QWidget* window);
+    bool areDefaultsAskedFor();
     void clearLocks(bool recordingToo);
     DocList connected();
 

@@ -5,6 +5,7 @@
 #include "DOC_Control.h"
 #include "DOC_Image.h"
 #include "DOC_Lock.h"
+#include "DefaultsLoad.h"
 #include "DocKeys.h"
 #include "LogFailure.h"
 #include "TableState.h"
@@ -14,6 +15,17 @@
 namespace {
 
 const QString SearchAddressPref = QStringLiteral("cameraconnection/SearchIP");
+
+/// Those of `keys` that are not in `others`.
+DocKeyList keysBeside(const DocKeyList& others, const DocKeyList& keys) {
+    DocKeyList beside;
+    for (const DOCKEY key : keys) {
+        if (!others.contains(key)) {
+            beside << key;
+        }
+    }
+    return beside;
+}
 
 }  // namespace
 
@@ -30,14 +42,9 @@ void CameraManagement::search(Search&& run) {
     ZebDocManager& documents = m_host.docManager();
     const DocKeyList before = documents.getLiveDocKeys(0, 0);
     run();
-    DocList found;
-    for (const DOCKEY key : documents.getLiveDocKeys(0, 0)) {
-        DOC_Interface* doc = before.contains(key) ? nullptr : documents.getDoc(key, 1);
-        if (doc != nullptr) {
-            found.append(doc);
-        }
-    }
-    prepareConnectedDocs(found);
+    GatheredFailures failures;
+    join(keysBeside(before, documents.getLiveDocKeys(0, 0)), failures);
+    failures.rethrow();
 }
 
 void CameraManagement::searchCamera(const QString& address) {
@@ -99,12 +106,13 @@ void CameraManagement::connect(const DocKeyList& keys, bool connect, bool force)
     ZebDocManager& documents = m_host.docManager();
     GatheredFailures failures;
     const DocKeyList affected = connect ? keysToConnect(keys, failures) : keysToDisconnect(keys, force, failures);
-    if (!affected.isEmpty()) {
-        failures.attempt([&] { connect ? documents.connectDocs(affected) : documents.disconnectDocs(affected); });
-    }
     if (!affected.isEmpty() && connect) {
-        const DocList docs = connectedDocs(documents, affected, failures);
-        failures.attempt([&] { prepareConnectedDocs(docs); });
+        const DocKeyList before = documents.getConnectedDocKeys(0);
+        failures.attempt([&] { documents.connectDocs(affected); });
+        // Heads come along with others of their device.
+        join(keysBeside(before, documents.getConnectedDocKeys(0)), failures);
+    } else if (!affected.isEmpty()) {
+        failures.attempt([&] { documents.disconnectDocs(affected); });
     }
     failures.rethrow();
 }
@@ -159,6 +167,15 @@ void CameraManagement::setComment(const DocKeyList& keys, const QString& comment
 
 void CameraManagement::editDoc(DOCKEY key) {
     m_host.docManager().editDoc(key);
+}
+
+/// Those of `keys` that are connected get the default settings; a recording that they are in is followed.
+void CameraManagement::join(const DocKeyList& keys, GatheredFailures& failures) {
+    if (!keys.isEmpty()) {
+        const DocList docs = docsOf(m_host.docManager(), keys);
+        failures.attempt([&] { prepareConnectedDocs(docs); });
+        DefaultsLoad(m_host, m_state, failures).loadOnto(keys);
+    }
 }
 
 void CameraManagement::prepareConnectedDocs(const DocList& docs) {

@@ -42,11 +42,12 @@ public:
     void setComment(const DocKeyList& keys, const QString& comment);
     void editDoc(DOCKEY key);
 
-    /// Every road by which a camera comes into the table ends here: one that records already is followed, and
-    /// locked while the lock column is in use.
+    /// A camera that records already is followed, and locked while the lock column is in use.
     void prepareConnectedDocs(const DocList& docs);
 
 private:
+    /// Every road by which a camera comes into an open table ends here.
+    void join(const DocKeyList& keys, GatheredFailures& failures);
     template <typename Search>
     void search(Search&& run);
     template <typename Change>

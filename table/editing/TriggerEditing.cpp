@@ -43,7 +43,14 @@ void TriggerEditing::setTriggerMode(const DocKeyList& keys, const QString& val) 
     GatheredFailures failures;
     if (m_host.getPrefBool(settingskeys::TriggerEnable)) {
         const DocList docs = changeableDocs(m_host, keys, TriggerMode, failures);
-        failures.attempt([&] { applyTriggerMode(docs, mode); });
+        failures.attempt([&] {
+            const Outcome outcome = applyTriggerMode(docs, mode);
+            // From here on documents may be others: a box stands.
+            if (!outcome.invalid.isEmpty()) {
+                m_host.alert(outcome.invalid.join(QLatin1Char('\n')), nullptr);
+            }
+            outcome.refusals.rethrow();
+        });
     } else {
         const DocList docs = changeableDocs(m_host, keys, failures);
         failures.attempt([&] { setWithHostSettings(docs, mode); });
@@ -57,7 +64,7 @@ void TriggerEditing::setWithHostSettings(const DocList& docs, int mode) {
     }
 }
 
-void TriggerEditing::applyTriggerMode(const DocList& docs, int mode) {
+TriggerEditing::Outcome TriggerEditing::applyTriggerMode(const DocList& docs, int mode) {
     zeb::TriggerSettings settings;
     settings.kind = DefaultSettingsKind;
     settings.manualBeforePercent = m_host.getPrefFloat(settingskeys::TriggerManualBeforePer);
@@ -66,21 +73,19 @@ void TriggerEditing::applyTriggerMode(const DocList& docs, int mode) {
 
     const QString reason =
         m_host.translate(TextKey("%1 is invalid.")).arg(m_host.translate(TextKey("Trigger Parameter")));
+    Outcome outcome;
     DocList valid;
-    QStringList invalid;
     for (DOC_Interface* doc : docs) {
         if (fits(*doc, mode, settings)) {
             valid.append(doc);
         } else {
-            invalid.append(doc->control().getCameraName(1) % QStringLiteral("・・") % reason);
+            outcome.invalid.append(doc->control().getCameraName(1) % QStringLiteral("・・") % reason);
         }
     }
-    const GatheredFailures refusals = valid.isEmpty() ? GatheredFailures() : send(valid, mode, settings);
-    // From here on documents may be others: a box stands.
-    if (!invalid.isEmpty()) {
-        m_host.alert(invalid.join(QLatin1Char('\n')), nullptr);
+    if (!valid.isEmpty()) {
+        outcome.refusals = send(valid, mode, settings);
     }
-    refusals.rethrow();
+    return outcome;
 }
 
 /// Each command goes to all cameras, whatever one of them says to an earlier one; answers what they have refused.

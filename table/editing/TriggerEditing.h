@@ -4,6 +4,7 @@
 #include "ZebTypes.h"
 
 #include <QString>
+#include <QStringList>
 
 class ZebHost;
 
@@ -16,9 +17,16 @@ public:
     /// As the setters of `ParameterEditing`. `val` is a decimal `zeb::TriggerMode`.
     void setTriggerMode(const DocKeyList& keys, const QString& val);
 
+    /// Whom a mode has not reached.
+    struct Outcome {
+        /// A line for the user about each camera whose memory is too small for it.
+        QStringList invalid;
+        GatheredFailures refusals;
+    };
+
     /// A mode with the parameters of the default settings. Cameras whose memory is too small for them keep the mode
-    /// they have, and the user is told which.
-    void applyTriggerMode(const DocList& docs, int mode);
+    /// they have. May run an event loop.
+    Outcome applyTriggerMode(const DocList& docs, int mode);
 
 private:
     void setWithHostSettings(const DocList& docs, int mode);

@@ -2,6 +2,7 @@
 
 #include "DOC_Control.h"
 #include "DOC_Interface.h"
+#include "InputPorts.h"
 #include "Record.h"
 #include "TextKey.h"
 #include "ZebHost.h"
@@ -14,52 +15,8 @@ namespace {
 
 const QString NoInput = QStringLiteral("-");
 
-/// No camera has a port of this number.
-constexpr int NoPort = 0;
-
 /// Where the polarity of the sync input stands, for cameras that have it apart.
 constexpr int PolarityPort = 1;
-
-/// Ports of the inputs; they differ from one class of cameras to the other.
-struct InputPorts {
-    int externalSync;
-    /// The name of the sync input comes from its signal and that of the polarity port.
-    bool refined;
-    int triggerIn;
-    int triggerSwIn;
-};
-
-InputPorts inputPorts(int cameraType) {
-    switch (cameraType) {
-        case 23:
-        case 25:
-        case 28:
-        case 29:
-        case 30:
-        case 31:
-        case 32:
-            return {5, true, 2, NoPort};
-        case 35:
-            return {4, false, 8, NoPort};
-        case 36:
-        case 37:
-        case 38:
-        case 39:
-        case 40:
-        case 42:
-        case 43:
-        case 44:
-        case 46:
-        case 47:
-        case 50:
-        case 51:
-            return {5, true, 2, 7};
-        case 49:
-            return {5, true, 10, 7};
-        default:
-            return {4, false, 3, 7};
-    }
-}
 
 QString signalName(int signal) {
     static const QHash<int, QString> names{{zeb::SignalOff, TextKey("OFF")},
@@ -117,7 +74,7 @@ QString shown(const QString& name, const ZebHost& host) {
 }  // namespace
 
 InputNames inputNames(int cameraType, const QMap<int, int>& ports) {
-    const InputPorts inputs = inputPorts(cameraType);
+    const InputPorts inputs = InputPorts::of(cameraType);
     const auto nameAt = [&ports](int port, bool refined) {
         if (!ports.contains(port)) {
             return NoInput;

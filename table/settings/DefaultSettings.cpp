@@ -3,18 +3,11 @@
 #include "SettingsKeys.h"
 #include "ZebHost.h"
 
-#include <QDebug>
-
 namespace {
 
 /// The text of a list, empty when the list is switched off.
 QString listText(const ZebHost& host, const QString& key) {
     return host.getPrefBool(key % settingskeys::SwitchSuffix) ? host.getPrefString(key) : QString();
-}
-
-template <typename... Words>
-void log(const Words&... words) {
-    ((qInfo() << "loadDefaultSettings") << ... << words);
 }
 
 }  // namespace
@@ -23,21 +16,14 @@ DefaultSettings DefaultSettings::read(const ZebHost& host) {
     using namespace defaultsettings;
     DefaultSettings settings;
     settings.groups = readGroups(host.getPrefString(settingskeys::Groups));
-    log("groups");
     if (host.getPrefBool(settingskeys::ExternalSyncSignals % settingskeys::SwitchSuffix)) {
         settings.syncFrequency = host.getPrefInt(settingskeys::ExternalSyncSignal);
         settings.syncSignals = readList(host.getPrefString(settingskeys::ExternalSyncSignals));
     }
-    log("syncSignal", settings.syncFrequency.value_or(0));
-    log("syncSignals", settings.syncSignals);
     settings.allowed.frameRates = readList(listText(host, settingskeys::FrameRates));
-    log("framerate", settings.allowed.frameRates);
     settings.allowed.shutterSpeeds = readList(listText(host, settingskeys::ShutterSpeeds));
-    log("shutter", settings.allowed.shutterSpeeds);
     settings.allowed.resolutions = readResolutions(listText(host, settingskeys::Resolutions));
-    log("resolution", settings.allowed.resolutions);
     settings.areas = readAreas(listText(host, settingskeys::Areas));
-    log("area");
     return settings;
 }
 

@@ -12,4 +12,9 @@ public:
 public Q_SLOTS:
     /// The cameras that can lead a chain, as JSON with the members of each, `address` and `name`.
     QString getMasterCameraList();
+    /// End the dialog, accepted or rejected.
+    void ok();
+    void cancel();
+    /// Every tab has its columns in the host's own order again; stored at once.
+    void resetSortTable();
 };

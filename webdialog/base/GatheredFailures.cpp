@@ -6,13 +6,17 @@
 
 #include <stdexcept>
 
-void GatheredFailures::noteCurrent() {
+void GatheredFailures::note(const QString& text) {
     // A host that was asked about many cameras answers with a line for each.
-    for (const QString& line : currentFailureText().split(QLatin1Char('\n'), Qt::SkipEmptyParts)) {
+    for (const QString& line : text.split(QLatin1Char('\n'), Qt::SkipEmptyParts)) {
         if (!m_texts.contains(line)) {
             m_texts.append(line);
         }
     }
+}
+
+void GatheredFailures::noteCurrent() {
+    note(currentFailureText());
 }
 
 void GatheredFailures::log() const {

@@ -14,6 +14,8 @@ public:
         }
     }
 
+    /// Keeps a text of one line or more.
+    void note(const QString& text);
     /// Keeps the exception that is being handled. Only inside a `catch`.
     void noteCurrent();
 

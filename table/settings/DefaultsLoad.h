@@ -1,0 +1,50 @@
+#pragma once
+
+#include "CameraSteps.h"
+#include "ZebTypes.h"
+
+#include <QStringList>
+
+class GatheredFailures;
+class ZebHost;
+struct CameraDefaults;
+struct DefaultSettings;
+struct TableState;
+
+/// Brings the default settings to cameras, and to the table, once. Runs event loops, in which no press arrives. GUI
+/// thread.
+///
+/// Nothing is changed while one of the cameras is ready or records. A camera that is locked gets nothing, and one that
+/// fails nothing more; the others go on. No box stands before all is done.
+class DefaultsLoad {
+public:
+    /// What fails goes into `failures`, of a camera as "camera: step: reason".
+    DefaultsLoad(ZebHost& host, TableState& state, GatheredFailures& failures)
+        : m_host(host), m_state(state), m_failures(failures), m_steps(host, failures) {}
+
+    /// For all connected cameras, and the table's groups, lists and sources of the signal.
+    void loadAll();
+    /// For cameras that have joined: they alone get the settings. Those that are not connected are left out.
+    void loadOnto(const DocKeyList& joined);
+
+private:
+    void load(const DocKeyList& keys, const DefaultSettings* table);
+    bool areAtRest(const DocKeyList& keys);
+    void darken();
+    void lightUp();
+    void setCameras(const CameraDefaults& defaults);
+    void setTrigger(int mode);
+    void takeLists(const DefaultSettings& settings);
+    void connectSignalSources();
+
+    ZebHost& m_host;
+    TableState& m_state;
+    GatheredFailures& m_failures;
+    CameraSteps m_steps;
+    /// Connected, and those of them that are not locked.
+    DocKeyList m_connected;
+    DocKeyList m_open;
+    /// In low light mode before.
+    DocKeyList m_lowLight;
+    QStringList m_invalidTriggers;
+};
