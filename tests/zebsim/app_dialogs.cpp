@@ -2,6 +2,7 @@
 #include "CameraWindows.h"
 #include "CommandLine.h"
 #include "ModalWatcher.h"
+#include "PageInput.h"
 #include "PageScript.h"
 #include "ParallelRows.h"
 #include "PreferencePages.h"
@@ -10,6 +11,7 @@
 #include "ScenarioDialogs.h"
 #include "ScenarioError.h"
 #include "Simulator.h"
+#include "TableDriver.h"
 #include "Until.h"
 #include "ViewerWindow.h"
 #include "ZebPrefsDialog.h"
@@ -222,6 +224,31 @@ TEST_F(Dialogs, GivePicturesAndTheLogToTheSupportFile) {
     simulator.window().images().showNow();
     host.prepareSupportFile(file);
     EXPECT_EQ(QImage::fromData(file.files.value("image.png")).size(), QSize(1024, 1024));
+}
+
+TEST_F(Dialogs, WithAPageAreWorkedByMouseAndKeysOfAScenario) {
+    QDialog dialog(&simulator.window());
+    QVBoxLayout layout(&dialog);
+    QWebView view;
+    layout.addWidget(&view);
+    view.setHtml("<select><option>a<option>b</select><input><p>put<p>by");
+    QString value;
+    next([&](QDialog&) {
+        TableDriver user(simulator, [] { return false; });
+        user.choose("select", "b");
+        user.click("input", {});
+        user.paste("12:");
+        user.type("a");
+        user.drag("p", "p + p");
+        value = PageScript(
+                    "document.querySelector('select').value + document.querySelector('input').value + "
+                    "getSelection().isCollapsed")
+                    .run(view)
+                    .toString();
+        dialog.reject();
+    });
+    dialog.exec();
+    EXPECT_EQ(value, "b12:afalse") << "the last selects text";
 }
 
 TEST(ModalDialogs, StandOnceTheirPageHasLoaded) {

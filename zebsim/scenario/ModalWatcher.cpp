@@ -29,6 +29,11 @@ QDialog* ModalWatcher::standing() {
     return qobject_cast<QDialog*>(QApplication::activeModalWidget());
 }
 
+QWebView* ModalWatcher::standingPage() {
+    const QDialog* dialog = standing();
+    return dialog ? dialog->findChild<QWebView*>() : nullptr;
+}
+
 bool ModalWatcher::eventFilter(QObject* object, QEvent* event) {
     if (event->type() == QEvent::Show && object->isWidgetType()) {
         if (auto* dialog = qobject_cast<QDialog*>(object)) {

@@ -7,6 +7,7 @@
 
 class QDialog;
 class QMessageBox;
+class QWebView;
 
 /// Tells when a modal dialog stands, or a message box that is not modal. GUI thread.
 ///
@@ -19,6 +20,8 @@ public:
 
     /// The modal dialog that the user would have to answer now; null when there is none.
     static QDialog* standing();
+    /// Its page; null when there is none.
+    static QWebView* standingPage();
 
     bool eventFilter(QObject* object, QEvent* event) override;
 

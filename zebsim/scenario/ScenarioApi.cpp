@@ -158,6 +158,10 @@ void ScenarioApi::type(const QString& text) {
     guarded([&] { m_table.type(text); });
 }
 
+void ScenarioApi::paste(const QString& text) {
+    guarded([&] { m_table.paste(text); });
+}
+
 void ScenarioApi::key(const QString& name, const QVariantMap& options) {
     guarded([&] {
         checkOptions(QStringLiteral("key"), options, {QStringLiteral("hold")});

@@ -48,6 +48,7 @@ public:
     Q_INVOKABLE void drag(const QString& from, const QString& to);
     Q_INVOKABLE void choose(const QString& selector, const QString& value);
     Q_INVOKABLE void type(const QString& text);
+    Q_INVOKABLE void paste(const QString& text);
     Q_INVOKABLE void key(const QString& name, const QVariantMap& options = {});
     Q_INVOKABLE QString active();
     Q_INVOKABLE void window(const QString& what);

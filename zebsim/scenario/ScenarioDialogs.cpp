@@ -76,8 +76,7 @@ QString ScenarioDialogs::leftOver() const {
 }
 
 QWebView& ScenarioDialogs::pageOfStanding() {
-    const QDialog* dialog = ModalWatcher::standing();
-    auto* view = dialog ? dialog->findChild<QWebView*>() : nullptr;
+    QWebView* view = ModalWatcher::standingPage();
     if (view == nullptr) {
         throw ScenarioError(QStringLiteral("no modal dialog with a page stands"));
     }

@@ -12,10 +12,12 @@
 #include "ViewerWindow.h"
 #include "WholePicture.h"
 
+#include <QClipboard>
 #include <QDialog>
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFileInfo>
+#include <QGuiApplication>
 #include <QImage>
 #include <QPixmap>
 #include <QRegularExpression>
@@ -77,29 +79,28 @@ bool TableDriver::isTrue(const PageScript& script) const {
 }
 
 void TableDriver::click(const QString& selector, const ClickOptions& options) {
-    PageInput(view(), m_givenUp).click(selector, options);
+    PageInput(front(), m_givenUp).click(selector, options);
     settle();
 }
 
 void TableDriver::drag(const QString& from, const QString& to) {
-    PageInput(view(), m_givenUp).drag(from, to);
+    PageInput(front(), m_givenUp).drag(from, to);
     settle();
 }
 
 void TableDriver::choose(const QString& selector, const QString& value) {
-    PageInput(view(), m_givenUp).choose(selector, value);
+    PageInput(front(), m_givenUp).choose(selector, value);
     settle();
 }
 
 void TableDriver::type(const QString& text) {
-    QDialog* modal = ModalWatcher::standing();
-    QDialog& target = modal ? *modal : shownDialog();
-    // Keys go to the active window, which a dialog that has just come up is not yet.
-    target.activateWindow();
-    QElapsedTimer asked;
-    asked.start();
-    waitUntil([&] { return target.isActiveWindow(); }, [&] { return m_givenUp() || asked.hasExpired(ActivationMs); });
-    typeText(*target.windowHandle(), text);
+    typeText(keyWindow(), text);
+    settle();
+}
+
+void TableDriver::paste(const QString& text) {
+    QGuiApplication::clipboard()->setText(text);
+    QTest::keyClick(&keyWindow(), Qt::Key_V, Qt::ControlModifier);
     settle();
 }
 
@@ -164,6 +165,22 @@ QDialog& TableDriver::shownDialog() const {
         throw ScenarioError(QStringLiteral("the table is not open"));
     }
     return *dialog();
+}
+
+QWindow& TableDriver::keyWindow() const {
+    QDialog* modal = ModalWatcher::standing();
+    QDialog& target = modal ? *modal : shownDialog();
+    // Keys go to the active window, which a dialog that has just come up is not yet.
+    target.activateWindow();
+    QElapsedTimer asked;
+    asked.start();
+    waitUntil([&] { return target.isActiveWindow(); }, [&] { return m_givenUp() || asked.hasExpired(ActivationMs); });
+    return *target.windowHandle();
+}
+
+QWebView& TableDriver::front() const {
+    QWebView* modal = ModalWatcher::standingPage();
+    return modal ? *modal : view();
 }
 
 QWebView& TableDriver::view() const {

@@ -9,11 +9,13 @@ class QDialog;
 class QImage;
 class PageScript;
 class QWebView;
+class QWindow;
 class Simulator;
 struct ClickOptions;
 
 /// The plug-in's table as a user has it before him. Every operation but `open` throws `ScenarioError` while there is
-/// no table. GUI thread.
+/// no table. What the user does by mouse and keyboard he does to the page of the modal dialog that stands, if there is
+/// one. GUI thread.
 class TableDriver {
 public:
     /// `stop` ends waits that would never end by themselves.
@@ -32,8 +34,9 @@ public:
     void drag(const QString& from, const QString& to);
     /// As `PageInput::choose`.
     void choose(const QString& selector, const QString& value);
-    /// Types into the modal dialog that stands, or else into the table.
     void type(const QString& text);
+    /// Brings the text to the clipboard and pastes it by the keys.
+    void paste(const QString& text);
 
     /// "minimise", "restore", "activate", or a geometry as "x,y,w,h".
     void window(const QString& what);
@@ -47,6 +50,10 @@ private:
     QDialog* dialog() const;
     QDialog& shownDialog() const;
     QWebView& view() const;
+    /// Of the page that the user's mouse works.
+    QWebView& front() const;
+    /// The window that the user's keys go to.
+    QWindow& keyWindow() const;
     void pressButton();
     void place(const QString& geometry);
     QImage stillPicture() const;
