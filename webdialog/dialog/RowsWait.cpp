@@ -5,9 +5,10 @@
 #include "TextKey.h"
 #include "ZebHost.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QElapsedTimer>
 #include <QEventLoop>
+#include <QFontMetrics>
 #include <QPointer>
 #include <QTimer>
 
@@ -16,13 +17,15 @@ namespace {
 /// Milliseconds until the user is told, and between two looks at the rows.
 constexpr int Patience = 1000;
 constexpr int LookAgain = 10;
-/// More names than these are counted.
+/// More names than these are counted. Each has so many pixels, four a line.
 constexpr int MostNames = 8;
+constexpr int NamesALine = 4;
+constexpr int NameWidth = 150;
 
 /// What the user presses meanwhile was meant for what stood there before.
 class NoInput : public QObject {
 public:
-    NoInput() { QCoreApplication::instance()->installEventFilter(this); }
+    NoInput() { qApp->installEventFilter(this); }
 
     bool eventFilter(QObject* /*object*/, QEvent* event) override {
         switch (event->type()) {
@@ -48,7 +51,12 @@ QString awaitedText(const ZebHost& host, const ParallelRows& rows, const QString
     for (const int row : rows.unfinished()) {
         who << names.at(row);
     }
-    const QString shown = who.mid(0, MostNames).join(QStringLiteral(", "));
+    const QFontMetrics metrics(QApplication::font());
+    QString shown;
+    for (int i = 0; i < qMin(who.size(), MostNames); ++i) {
+        shown += i == 0 ? QString() : i % NamesALine == 0 ? QStringLiteral(",\n") : QStringLiteral(", ");
+        shown += metrics.elidedText(who.at(i).simplified(), Qt::ElideRight, NameWidth);
+    }
     return who.size() > MostNames ? host.translate(TextKey("No answer yet: %1 and %2 more"))
                                         .arg(shown, QString::number(who.size() - MostNames))
                                   : host.translate(TextKey("No answer yet: %1")).arg(shown);

@@ -3,12 +3,11 @@
 #include "GUI_MarqueeProgressDialog.h"
 #include "HostCalls.h"
 #include "ParallelRows.h"
+#include "RowsWait.h"
 #include "UiText.h"
 #include "ZebHost.h"
 
-#include <QApplication>
 #include <QEventLoop>
-#include <QFontMetrics>
 #include <QFutureWatcher>
 #include <QPointer>
 #include <QTimer>
@@ -17,10 +16,6 @@ namespace {
 
 /// Milliseconds between two looks at the rows.
 constexpr int LookAgain = 50;
-/// More names than these are counted. Each has so many pixels, four a line.
-constexpr int MostNames = 8;
-constexpr int NamesALine = 4;
-constexpr int NameWidth = 150;
 
 /// Nobody closes it, but it goes with the main window, which may be destroyed meanwhile.
 QPointer<GUI_MarqueeProgressDialog> show(ZebHost& host, const QString& text, const QString& cancelText) {
@@ -29,24 +24,6 @@ QPointer<GUI_MarqueeProgressDialog> show(ZebHost& host, const QString& text, con
     progress->hold(true);
     progress->show();
     return progress;
-}
-
-/// Who has not answered.
-QString awaited(const ParallelRows& rows, const QStringList& names) {
-    QStringList who;
-    const std::vector<int> unfinished = rows.unfinished();
-    for (const int row : unfinished) {
-        who << names.at(row);
-    }
-    const QFontMetrics metrics(QApplication::font());
-    QString shown;
-    for (int i = 0; i < qMin(who.size(), MostNames); ++i) {
-        shown += i == 0 ? QString() : i % NamesALine == 0 ? QStringLiteral(",\n") : QStringLiteral(", ");
-        shown += metrics.elidedText(who.at(i).simplified(), Qt::ElideRight, NameWidth);
-    }
-    return who.size() > MostNames
-               ? uiText("No answer yet: %1 and %2 more").arg(shown, QString::number(who.size() - MostNames))
-               : uiText("No answer yet: %1").arg(shown);
 }
 
 }  // namespace
@@ -64,7 +41,7 @@ void waitWithProgress(ZebHost& host, const QString& text, QFutureWatcherBase& wa
 
 void waitWithProgress(ZebHost& host, ParallelRows& rows, const QStringList& names) {
     const QString cancelText = rows.waiting().empty() ? QString() : uiText("Cancel");
-    const QPointer<GUI_MarqueeProgressDialog> progress = show(host, awaited(rows, names), cancelText);
+    const QPointer<GUI_MarqueeProgressDialog> progress = show(host, awaitedText(host, rows, names), cancelText);
     QObject::connect(progress, &QProgressDialog::canceled, progress, [&rows] { rows.leaveOutWaiting(); });
     QEventLoop loop;
     QTimer look;
@@ -72,7 +49,7 @@ void waitWithProgress(ZebHost& host, ParallelRows& rows, const QStringList& name
         if (rows.waitFor(0)) {
             loop.quit();
         } else if (progress) {
-            progress->setLabelText(awaited(rows, names));
+            progress->setLabelText(awaitedText(host, rows, names));
             if (rows.waiting().empty()) {
                 progress->setCancelButton(nullptr);
             }
