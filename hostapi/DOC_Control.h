@@ -16,6 +16,7 @@ class DOC_Control {
 public:
     virtual ~DOC_Control() = default;
 
+    /// As the user has named it. Loops.
     virtual QString getCameraName(int mode) const = 0;
     virtual void setCameraName(const QString& name) = 0;
     /// IPv4 address as dotted text.

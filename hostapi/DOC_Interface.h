@@ -35,6 +35,7 @@ public:
     virtual DOC_Head& head() = 0;
     virtual DOC_Storage& storage() = 0;
 
+    /// Loops.
     virtual DOCKEY getKey() const = 0;
     /// Whether the host is connected to the camera. Loops.
     virtual bool isConnected() const = 0;
