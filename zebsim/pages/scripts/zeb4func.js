@@ -195,42 +195,11 @@ var zeb4func = {
         this.elementsOf('.dummy').forEach(function (element) { element.parentNode.removeChild(element); });
     },
 
-    // Makes a drop-down of each `select`. `up` opens it upward, `search` adds a box to find an item by, `compact`
-    // makes it as low as a table's row.
-    initSumoSelect: function (selector, width, up, search, compact) {
-        this.elementsOf(selector).forEach(function (select) {
-            $(select).SumoSelect({ up: up, search: search, placeholder: '', floatWidth: 0, showTitle: false });
-            select.sumo.select.width(width).toggleClass('compact', compact === true);
-            // The widget follows the window's size for the sake of small screens only, and never lets go of it.
-            $(window).off('resize.sumo');
-        });
-    },
-
-    addItemSumoSelect: function (selector, value, name) {
-        const markup = $('<i>').text(name).html();
-        this.elementsOf(selector).forEach(function (select) { select.sumo.add(value, markup); });
-    },
-
-    emptySumoSelect: function (selector) {
-        this.elementsOf(selector).forEach(function (select) {
-            while (select.options.length > 0) {
-                select.sumo.remove(0);
-            }
-        });
-    },
-
-    // Shows the item of that value, without the event of a user's choice. Unknown values change nothing.
-    selectItemSumoSelect: function (selector, value) {
-        this.elementsOf(selector).forEach(function (select) {
-            const values = Array.from(select.options).map(function (option) { return option.value; });
-            const index = values.indexOf(String(value));
-            if (index < 0) {
-                return;
-            }
-            select.selectedIndex = index;
-            select.sumo.ul.find('li.opt').removeClass('selected').eq(index).addClass('selected');
-            select.sumo.setText();
-        });
+    // A line in the log of the page that has its operations logged.
+    log: function (text) {
+        if (this.logMediator) {
+            this.logMediator.infoLog(text);
+        }
     },
 
     // Writes a line for each operation of the user below the root, and one for each error of the page's scripts.
@@ -283,6 +252,21 @@ var zeb4func = {
     // Whether `text` is what one octet of an address may be.
     ipCheck: function (text) {
         return /^\d{1,3}$/.test(text) && Number(text) <= 255;
+    },
+
+    // Whether `text` is what one field of an address may hold: an octet or, with `dummy`, what stands in the fields of
+    // the address of a camera that is none.
+    inputIpCheck: function (text, dummy) {
+        return this.ipCheck(text) || (dummy && text === '999');
+    },
+
+    // Puts objects in the order of the numbers in their `ipaddress`; what is no number comes first.
+    ipSort: function (a, b) {
+        const [first, second] = [a, b].map(function (item) {
+            return item.ipaddress.split('.').map(function (part) { return /^\d+$/.test(part) ? Number(part) : -1; });
+        });
+        const at = first.findIndex(function (number, index) { return number !== second[index]; });
+        return at < 0 ? first.length - second.length : at < second.length ? first[at] - second[at] : 1;
     },
 
     // The same data with the members of each object in the order of their names.
