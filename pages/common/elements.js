@@ -22,3 +22,11 @@ function setStyle(element, name, value) {
         element.style[name] = value;
     }
 }
+
+// None of the options is chosen when `value` is not among them.
+function chooseOption(select, value) {
+    const index = Array.from(select.options).findIndex(option => option.value === value);
+    if (select.selectedIndex !== index) {
+        select.selectedIndex = index;
+    }
+}

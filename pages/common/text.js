@@ -12,8 +12,9 @@ function textKey(key) {
     return key;
 }
 
-function translate(key) {
-    return bridge.translate(key);
+// With a second key, whose text stands in place of the first one's `%1`.
+function translate(...keys) {
+    return bridge.translate(...keys);
 }
 
 // The data of a JSON reply; null when it is not an object.

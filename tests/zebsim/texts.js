@@ -79,7 +79,7 @@ const BARE = {
         /(?:\b\w+Exception(?: \w+)?\(|uiText\((?!\s*")|tell\(Message|add\(Message|FileError\()[^()";]*(?:Q\w+\()?"/g],
     // No literal to a call of the bridge; a key alone, outside of a template, to what `lupdate` reads.
     js: [/\b(?:alert|warn|info|confirm)\(\s*['"`]|\bcaption: '|\$\{[^}]*\b(?:translate|textKey)\(/g,
-        /\b(?:translate|textKey)\((?!'[^']*'\)|[\w.]+(?:\(\))?\)|'p_' \+)/g]
+        /\b(?:translate|textKey)\((?!'[^']*'\)|[\w.]+(?:\(\)|, [\w.[\]]+)?\)|'p_' \+)/g]
 };
 like(/\.(cpp|h|js)$/).forEach(file => BARE[file.endsWith('.js') ? 'js' : 'cpp'].forEach(pattern =>
     (read(file).match(pattern) || []).forEach(bare => faults.push(`${file}: ${bare}`))));

@@ -413,11 +413,43 @@
     </message>
     <message>
         <source>Input IPAddress</source>
-        <translation>Enter three numbers from 0 to 255 for the address.</translation>
+        <translation>The address is not whole: each of its numbers is one from 0 to 255.</translation>
     </message>
     <message>
         <source>Batch setting</source>
         <translation>Set on all</translation>
+    </message>
+    <message>
+        <source>s_alert</source>
+        <translation>Alerts</translation>
+    </message>
+    <message>
+        <source>input %1</source>
+        <translation>Input: %1</translation>
+    </message>
+    <message>
+        <source>wren_display_frameRate</source>
+        <translation>Frame rate</translation>
+    </message>
+    <message>
+        <source>wren_display_shutterSpeed</source>
+        <translation>Shutter speed</translation>
+    </message>
+    <message>
+        <source>wren_display_resolution</source>
+        <translation>Resolution</translation>
+    </message>
+    <message>
+        <source>wren_display_recordedFrameRate</source>
+        <translation>Frame rate</translation>
+    </message>
+    <message>
+        <source>wren_display_recordedStartFrame</source>
+        <translation>First frame</translation>
+    </message>
+    <message>
+        <source>wren_display_recordedEndFrame</source>
+        <translation>Last frame</translation>
     </message>
 </context>
 </TS>

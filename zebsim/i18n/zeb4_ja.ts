@@ -1005,7 +1005,7 @@
     </message>
     <message>
         <source>Input IPAddress</source>
-        <translation>アドレスに 0 から 255 までの数字を 3 つ入力してください。</translation>
+        <translation>アドレスが正しくありません。それぞれ 0 から 255 までの数字を入力してください。</translation>
     </message>
     <message>
         <source>Batch setting</source>
@@ -1490,6 +1490,262 @@
     <message>
         <source>%1: the command was cancelled before it</source>
         <translation>%1: コマンドは送信前にキャンセルされました</translation>
+    </message>
+    <message>
+        <source>Device Group</source>
+        <translation>カメラグループ</translation>
+    </message>
+    <message>
+        <source>Camera Settings</source>
+        <translation>カメラ設定</translation>
+    </message>
+    <message>
+        <source>SyncControl Settings</source>
+        <translation>同期設定</translation>
+    </message>
+    <message>
+        <source>WREN List 1</source>
+        <translation>WREN リスト 1</translation>
+    </message>
+    <message>
+        <source>WREN List 2</source>
+        <translation>WREN リスト 2</translation>
+    </message>
+    <message>
+        <source>s_alert</source>
+        <translation>警告</translation>
+    </message>
+    <message>
+        <source>Other Settings</source>
+        <translation>その他の設定</translation>
+    </message>
+    <message>
+        <source>Add Groups</source>
+        <translation>グループを追加</translation>
+    </message>
+    <message>
+        <source>Edit group</source>
+        <translation>グループを編集</translation>
+    </message>
+    <message>
+        <source>Add Device</source>
+        <translation>カメラを追加</translation>
+    </message>
+    <message>
+        <source>Edit Device</source>
+        <translation>カメラを編集</translation>
+    </message>
+    <message>
+        <source>Dummy camera</source>
+        <translation>ダミーカメラ</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>追加</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>削除</translation>
+    </message>
+    <message>
+        <source>Enter a group name.</source>
+        <translation>グループ名を入力してください。</translation>
+    </message>
+    <message>
+        <source>group name contains characters that cannot be used.</source>
+        <translation>グループ名に使えない文字が含まれています。</translation>
+    </message>
+    <message>
+        <source>Duplicate group names.</source>
+        <translation>同じ名前のグループがあります。</translation>
+    </message>
+    <message>
+        <source>Duplicate IPAddress.</source>
+        <translation>同じ IP アドレスがあります。</translation>
+    </message>
+    <message>
+        <source>Do you want to delete the group?</source>
+        <translation>グループを削除しますか?</translation>
+    </message>
+    <message>
+        <source>Delete this Camera?</source>
+        <translation>このカメラを削除しますか?</translation>
+    </message>
+    <message>
+        <source>Delete all Groups?</source>
+        <translation>すべてのグループを削除しますか?</translation>
+    </message>
+    <message>
+        <source>Set the trigger mode</source>
+        <translation>トリガモードを設定する</translation>
+    </message>
+    <message>
+        <source>Before the trigger (%)</source>
+        <translation>トリガ前 (%)</translation>
+    </message>
+    <message>
+        <source>After the trigger (%)</source>
+        <translation>トリガ後 (%)</translation>
+    </message>
+    <message>
+        <source>Frames of each recording</source>
+        <translation>1 回の撮影フレーム数</translation>
+    </message>
+    <message>
+        <source>Limit the number of recordings</source>
+        <translation>撮影回数を制限する</translation>
+    </message>
+    <message>
+        <source>Number of recordings</source>
+        <translation>撮影回数</translation>
+    </message>
+    <message>
+        <source>Terminals</source>
+        <translation>端子</translation>
+    </message>
+    <message>
+        <source>Set by the use of a Sync Hub</source>
+        <translation>Sync Hub の使用により固定</translation>
+    </message>
+    <message>
+        <source>Locked Resolution</source>
+        <translation>解像度をロックする</translation>
+    </message>
+    <message>
+        <source>Locked Shutter Speed</source>
+        <translation>シャッター速度をロックする</translation>
+    </message>
+    <message>
+        <source>Show low light at the maximum resolution</source>
+        <translation>低照度モードを最大解像度で表示する</translation>
+    </message>
+    <message>
+        <source>Do Not Use</source>
+        <translation>使用しない</translation>
+    </message>
+    <message>
+        <source>Use L-PORT</source>
+        <translation>L-PORT を使用</translation>
+    </message>
+    <message>
+        <source>Use Sync Hub</source>
+        <translation>Sync Hub を使用</translation>
+    </message>
+    <message>
+        <source>The L-PORT passes the signal on to the cameras.</source>
+        <translation>L-PORT が信号をカメラに分配します。</translation>
+    </message>
+    <message>
+        <source>On an external signal</source>
+        <translation>外部信号に同期</translation>
+    </message>
+    <message>
+        <source>On the first camera of a chain</source>
+        <translation>先頭のカメラに同期 (チェーン)</translation>
+    </message>
+    <message>
+        <source>When connecting to %1, use the camera connected to the CAM 1 connector as the master</source>
+        <translation>%1 に接続する場合は、CAM 1 コネクタに接続したカメラをマスターにしてください。</translation>
+    </message>
+    <message>
+        <source>Frame rates on offer</source>
+        <translation>選択できる撮影速度</translation>
+    </message>
+    <message>
+        <source>Shutter speeds on offer</source>
+        <translation>選択できるシャッター速度</translation>
+    </message>
+    <message>
+        <source>Resolutions on offer</source>
+        <translation>選択できる解像度</translation>
+    </message>
+    <message>
+        <source>Sync frequencies on offer</source>
+        <translation>選択できる同期周波数</translation>
+    </message>
+    <message>
+        <source>Record areas, by frame rate</source>
+        <translation>撮影速度ごとの記録範囲</translation>
+    </message>
+    <message>
+        <source>Width</source>
+        <translation>幅</translation>
+    </message>
+    <message>
+        <source>Height</source>
+        <translation>高さ</translation>
+    </message>
+    <message>
+        <source>External sync signal freq</source>
+        <translation>外部同期信号周波数</translation>
+    </message>
+    <message>
+        <source>Set as default</source>
+        <translation>既定値にする</translation>
+    </message>
+    <message>
+        <source>Default (Hz)</source>
+        <translation>既定値 (Hz)</translation>
+    </message>
+    <message>
+        <source>Clear the list. Is it OK?</source>
+        <translation>リストをすべて削除します。よろしいですか?</translation>
+    </message>
+    <message>
+        <source>Cannot add because there is a duplicate %1.</source>
+        <translation>同じ%1がすでにあるため追加できません。</translation>
+    </message>
+    <message>
+        <source>input %1</source>
+        <translation>%1を入力してください。</translation>
+    </message>
+    <message>
+        <source>End frame must always be greater than the Start frame.</source>
+        <translation>最終フレームは先頭フレーム以上にしてください。</translation>
+    </message>
+    <message>
+        <source>wren_display_frameRate</source>
+        <translation>撮影速度</translation>
+    </message>
+    <message>
+        <source>wren_display_shutterSpeed</source>
+        <translation>シャッター速度</translation>
+    </message>
+    <message>
+        <source>wren_display_resolution</source>
+        <translation>解像度</translation>
+    </message>
+    <message>
+        <source>wren_display_recordedFrameRate</source>
+        <translation>撮影速度</translation>
+    </message>
+    <message>
+        <source>wren_display_recordedStartFrame</source>
+        <translation>先頭フレーム</translation>
+    </message>
+    <message>
+        <source>wren_display_recordedEndFrame</source>
+        <translation>最終フレーム</translation>
+    </message>
+    <message>
+        <source>Perform synchronization at the start of recording</source>
+        <translation>撮影開始時に同期を実行する</translation>
+    </message>
+    <message>
+        <source>Colours of the table</source>
+        <translation>テーブルの色</translation>
+    </message>
+    <message>
+        <source>Usual colours</source>
+        <translation>標準の色に戻す</translation>
+    </message>
+    <message>
+        <source>Columns of the table</source>
+        <translation>テーブルの列</translation>
+    </message>
+    <message>
+        <source>Usual order of the columns</source>
+        <translation>標準の列順に戻す</translation>
     </message>
 </context>
 </TS>

@@ -33,24 +33,10 @@ function octets() {
     return Array.from(document.querySelectorAll('input.nNumOnly'));
 }
 
-// Takes digits only. Text that was pasted shows for a moment; a number out of the limits goes to the nearer one.
 function listenToOctet(octet) {
-    octet.addEventListener('keypress', event => {
-        const typed = event.charCode >= 32 && !event.ctrlKey && !event.metaKey;
-        if (typed && !/[0-9]/.test(String.fromCharCode(event.charCode))) {
-            event.preventDefault();
-        }
-    });
-    octet.addEventListener('keyup', () => {
-        const digits = octet.value.replace(/[^0-9]/g, '');
-        if (octet.value !== digits) {
-            octet.value = digits;
-        }
-    });
+    takeDigits(octet);
     octet.addEventListener('change', () => {
-        if (octet.value !== '') {
-            const [min, max] = ['min', 'max'].map(limit => Number(octet.getAttribute(limit)));
-            octet.value = String(Math.min(max, Math.max(min, Number(octet.value) || 0)));
-        }
+        const [min, max] = ['min', 'max'].map(limit => Number(octet.getAttribute(limit)));
+        limitOctet(octet, min, max);
     });
 }

@@ -29,7 +29,7 @@ Object.assign(wrentabledialog_obj, {
         const selector = document.getElementById('externalSyncSelector');
         zeb4func.disable('#sync_execute', !settings.syncExecuteEnable);
         showElement(selector, settings.syncSignals.length > 0);
-        chooseFrequency(selector, Number(settings.syncSignal) === 0 ? null : settings.syncSignal);
+        chooseOption(selector, Number(settings.syncSignal) === 0 ? null : settings.syncSignal);
         showSource('connect_signal_generator', settings.signalGeneratorAvailable, settings.signalGeneratorConnected);
         showSource('connect_signal_distributor', settings.masterHubAvailable, settings.masterHubConnected);
     }
@@ -54,14 +54,6 @@ function offerFrequencies(frequencies) {
         option.textContent = frequency;
         selector.appendChild(option);
     });
-}
-
-// None of the options is chosen when `frequency` is not among them.
-function chooseFrequency(selector, frequency) {
-    const index = Array.from(selector.options).findIndex(option => option.value === frequency);
-    if (selector.selectedIndex !== index) {
-        selector.selectedIndex = index;
-    }
 }
 
 function showSource(id, available, connected) {
