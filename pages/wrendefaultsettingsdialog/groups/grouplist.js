@@ -21,7 +21,11 @@ Object.assign(wrendefaultsettingsdialog_obj, {
         });
     },
 
+    // While a rubber band is drawn, the list stays.
     createGroupCameraList() {
+        if (this.groupSelecting) {
+            return;
+        }
         const list = document.getElementById('md_device_group_list');
         const top = list.scrollTop;
         closeTip();
@@ -64,7 +68,7 @@ Object.assign(wrendefaultsettingsdialog_obj, {
                 this.last_select_group = group.groupname;
             }
         });
-        this.drawSelection();
+        this.createGroupCameraList();
     },
 
     unselectItem(key) {
@@ -74,14 +78,7 @@ Object.assign(wrendefaultsettingsdialog_obj, {
         } else {
             mark(this.groupOfCamera(key).cameras.find(camera => camera.dockey === key), false);
         }
-        this.drawSelection();
-    },
-
-    // While a rubber band is drawn, the list must stay.
-    drawSelection() {
-        if (!this.groupSelecting) {
-            this.createGroupCameraList();
-        }
+        this.createGroupCameraList();
     },
 
     clickIcon(target) {

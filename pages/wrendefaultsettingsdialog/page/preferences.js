@@ -114,9 +114,7 @@ Object.assign(wrendefaultsettingsdialog_obj, {
         this.isLoaded = false;
         this.loadMasterCameras();
         this.settings.forEach(setting => setting.load());
-        const mode = this.settings.get('wren/settings/triggerMode').stored;
-        this.dispTriggerParam(mode);
-        this.limitTimes(mode, false);
+        this.dispTriggerParam(this.settings.get('wren/settings/triggerMode').stored);
         this.showDistributor(false);
         this.enableSyncInput();
         this.isLoaded = true;

@@ -34,10 +34,7 @@ Object.assign(wrendefaultsettingsdialog_obj, {
             }
         }));
         const trigger = document.getElementById('md_trigger');
-        trigger.addEventListener('change', () => guarded(() => {
-            this.dispTriggerParam(Number(trigger.value));
-            this.limitTimes(Number(trigger.value), true);
-        }));
+        trigger.addEventListener('change', () => guarded(() => this.dispTriggerParam(Number(trigger.value), true)));
         onSwitch('#md_trigger_random_trigger_times_enable', () => this.limitTimes(Number(trigger.value), true));
         onClick('.switch-expand', () => {
             const panel = document.getElementById('md_trigger_param');
@@ -46,11 +43,12 @@ Object.assign(wrendefaultsettingsdialog_obj, {
     },
 
     // Shows what the mode has parameters for.
-    dispTriggerParam(value) {
+    dispTriggerParam(value, byUser) {
         const parts = TRIGGER_PARTS[value];
         zeb4func.disable('.switch-expand', !parts);
         this.openTriggerPanel(Boolean(parts));
         TRIGGER_ROWS.forEach(([part, id]) => showElement(document.getElementById(id), (parts || []).includes(part)));
+        this.limitTimes(value, Boolean(byUser));
     },
 
     openTriggerPanel(open) {

@@ -4,6 +4,7 @@ const LATE_PRESS = 200; // ms
 Object.assign(wrentabledialog_obj, {
     initializeCommonParts() {
         textTip('#wrenGroupBox', '.groupButton', button => button.getAttribute('group-name'));
+        onClick('#wrentabledialog_defaultsettings', () => this.editDefaultSettings());
         onClick('#wren_io_setting', () => wrentabledialog.openPrefsDialog('s_io'));
         onClick('#wren_ethernet_setting', () => wrentabledialog.openPrefsEthernetSettings());
         onClick('#wrenBatchLowlightBlock_ON', () => wrentabledialog.setLowLight([], true));
@@ -11,6 +12,17 @@ Object.assign(wrentabledialog_obj, {
         this.initializeCameraManagementContainer();
         this.initializeExternalSyncArea();
         this.initializeMenus();
+    },
+
+    // What the dialog has changed shows at once.
+    editDefaultSettings() {
+        this.preventSelect = false;
+        wrentabledialog.openDefaultSettingsDialog();
+        this.initializeGroupBox();
+        this.updateExternalSyncArea();
+        this.refreshDisplayElement();
+        this.refreshRecords(this.activeTab(), false);
+        this.resizeTableElements();
     },
 
     initializeSaveContainer() {
