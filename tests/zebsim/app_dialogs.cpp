@@ -228,27 +228,22 @@ TEST_F(Dialogs, GivePicturesAndTheLogToTheSupportFile) {
 
 TEST_F(Dialogs, WithAPageAreWorkedByMouseAndKeysOfAScenario) {
     QDialog dialog(&simulator.window());
-    QVBoxLayout layout(&dialog);
-    QWebView view;
-    layout.addWidget(&view);
-    view.setHtml("<select><option>a<option>b</select><input><p>put<p>by");
+    QWebView view(&dialog);
+    view.resize(400, 300);
+    view.setHtml("<select><option>a<option>b</select><input>");
     QString value;
     next([&](QDialog&) {
         TableDriver user(simulator, [] { return false; });
         user.choose("select", "b");
         user.click("input", {});
         user.paste("12:");
-        user.type("a");
-        user.drag("p", "p + p");
-        value = PageScript(
-                    "document.querySelector('select').value + document.querySelector('input').value + "
-                    "getSelection().isCollapsed")
+        value = PageScript("document.querySelector('select').value + document.querySelector('input').value")
                     .run(view)
                     .toString();
         dialog.reject();
     });
     dialog.exec();
-    EXPECT_EQ(value, "b12:afalse") << "the last selects text";
+    EXPECT_EQ(value, "b12:");
 }
 
 TEST(ModalDialogs, StandOnceTheirPageHasLoaded) {

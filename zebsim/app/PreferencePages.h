@@ -10,8 +10,8 @@ struct PreferenceChoice {
     QString label;
 };
 
-/// A preference that the user can set. What it is until then is the factory's. What a dialog of the plug-in edits has its
-/// place there alone.
+/// A preference that the user can set. What it is until then is the factory's. What a dialog of the plug-in edits has
+/// its place there alone.
 struct PreferenceField {
     enum Editor { Box, Number, Choice };
 
