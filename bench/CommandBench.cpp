@@ -3,11 +3,15 @@
 #include "ConnectedDocs.h"
 #include "DOC_Interface.h"
 #include "DOC_Lock.h"
+#include "DefaultsLoad.h"
+#include "GatheredFailures.h"
 #include "Median.h"
 #include "MessageDesk.h"
+#include "OpenTable.h"
 #include "RealClock.h"
 #include "RigFile.h"
 #include "SimHost.h"
+#include "TableState.h"
 
 #include <QElapsedTimer>
 #include <QTemporaryDir>
@@ -31,6 +35,13 @@ struct Command {
     std::function<void(SimHost&, const DocKeyList&)> undo;
 };
 
+void load(SimHost& host, const DocKeyList& keys) {
+    TableState state;
+    GatheredFailures failures;
+    DefaultsLoad(host, state, failures).loadOnto(keys);
+    failures.rethrow();
+}
+
 const Command Commands[] = {
     {"connect", [](SimHost& host, const DocKeyList& keys) { host.docManager().connectDocs(keys); },
      [](SimHost& host, const DocKeyList& keys) { host.docManager().disconnectDocs(keys); }},
@@ -48,6 +59,7 @@ const Command Commands[] = {
      [](SimHost&, const DocKeyList&) {}},
     {"arm", [](SimHost& host, const DocKeyList&) { host.recorder().startRecReady(); },
      [](SimHost& host, const DocKeyList&) { host.recorder().cancelRecording(false); }},
+    {"load", load, [](SimHost&, const DocKeyList&) {}},
 };
 
 double medianOf(SimHost& host, const DocKeyList& keys, const Command& command) {
@@ -76,11 +88,23 @@ QJsonObject CommandBench::run() {
             device.latency = Latency;
         }
         host.setRig(rig);
+        const OpenTable plugin(host);
+        for (const char* setting : {"triggerEnable", "triggerSwInEnable", "triggerInEnable"}) {
+            host.setPrefBool(QLatin1String("wren/settings/") % QLatin1String(setting), true);
+        }
         const DocKeyList keys = host.cameras().keys();
         for (const Command& command : Commands) {
             const QString name = QString::fromLatin1(command.name) % (count == 1 ? "One" : "");
             numbers.insert(name, medianOf(host, keys, command));
             host.docManager().connectDocs(keys);
+        }
+        if (count > 1) {
+            QElapsedTimer time;
+            time.start();
+            for (const DOCKEY key : keys) {
+                load(host, {key});
+            }
+            numbers.insert(QStringLiteral("loadEach"), double(time.elapsed()));
         }
     }
     return numbers;

@@ -7,7 +7,8 @@ class CommandBench {
 public:
     explicit CommandBench(int cameras) : m_cameras(cameras) {}
 
-    /// Milliseconds of each command, as `connect` for all cameras and `connectOne` for one.
+    /// Milliseconds of each command, as `connect` for all cameras and `connectOne` for one; `loadEach` is a load of the
+    /// default settings onto one after the other.
     QJsonObject run();
 
 private:

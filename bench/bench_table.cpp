@@ -106,12 +106,16 @@ QVector<Line> compareCommands(const Numbers& commands) {
     const std::pair<const char*, const char*> names[] = {
         {"connect", "connecting 64 cameras of 50 ms, over one of them"},
         {"rate", "the record rate of these"},
-        {"arm", "arming these"}};
+        {"arm", "arming these"},
+        {"load", "loading their default settings"}};
     for (const auto& [name, what] : names) {
         const QString key = QLatin1String(name);
         std::printf("%s: %.1f, %.1f\n", what, commands[key], commands[key % QLatin1String("One")]);
         lines.append({what, commands[key] / commands[key % QLatin1String("One")], 1.3, 2});
     }
+    const double each = commands[QStringLiteral("loadEach")];
+    std::printf("load, one camera after the other: %.0f\n", each);
+    lines.append({"the same, over one camera after the other", commands[QStringLiteral("load")] / each, 0.03, 0.1});
     // A lock asks no camera, so neither takes any time worth a ratio.
     std::printf("Locking these: %.1f, %.1f\n", commands[QStringLiteral("lock")], commands[QStringLiteral("lockOne")]);
     return lines;

@@ -5,6 +5,7 @@
 #include "DOC_Control.h"
 #include "DOC_Frames.h"
 #include "DOC_Interface.h"
+#include "NamedFailure.h"
 #include "SettingsKeys.h"
 #include "TextKey.h"
 #include "ZebCameraOps.h"
@@ -76,14 +77,16 @@ TriggerEditing::Outcome TriggerEditing::applyTriggerMode(const DocList& docs, in
     Outcome outcome;
     DocList valid;
     for (DOC_Interface* doc : docs) {
-        if (fits(*doc, mode, settings)) {
-            valid.append(doc);
-        } else {
-            outcome.invalid.append(doc->control().getCameraName(1) % QStringLiteral("・・") % reason);
-        }
+        attemptOn(*doc, outcome.refusals, [&] {
+            if (fits(*doc, mode, settings)) {
+                valid.append(doc);
+            } else {
+                outcome.invalid.append(doc->control().getCameraName(1) % QStringLiteral("・・") % reason);
+            }
+        });
     }
     if (!valid.isEmpty()) {
-        outcome.refusals = send(valid, mode, settings);
+        outcome.refusals.note(send(valid, mode, settings).text());
     }
     return outcome;
 }

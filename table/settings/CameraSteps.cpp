@@ -5,12 +5,20 @@
 #include "FailureText.h"
 #include "ParallelRows.h"
 #include "RowsWait.h"
+#include "ZebAppStatus.h"
 #include "ZebDocManager.h"
 #include "ZebHost.h"
 
 #include <QMutex>
 
 #include <vector>
+
+namespace {
+
+/// Between the name of a camera, a step, and what went wrong.
+const QLatin1String Separator(": ");
+
+}  // namespace
 
 struct CameraSteps::Row {
     DOCKEY key;
@@ -19,10 +27,15 @@ struct CameraSteps::Row {
     QString failure;
 };
 
+bool CameraSteps::isPluginThere() const {
+    return m_host.appStatus().getPlugin(QStringLiteral("wren")) != nullptr;
+}
+
 DocKeyList CameraSteps::left(const DocKeyList& keys) const {
     DocKeyList left;
+    const bool pluginThere = isPluginThere();
     for (const DOCKEY key : keys) {
-        if (!m_failed.contains(key)) {
+        if (pluginThere && !m_failed.contains(key)) {
             left << key;
         }
     }
@@ -82,14 +95,39 @@ DocKeyList CameraSteps::runOn(const QString& label, const DocKeyList& keys, cons
     DocKeyList yes;
     for (const Row& row : rows) {
         if (!row.failure.isEmpty()) {
-            const QString name = nameOf(row.key);
-            const QString prefix = name % QLatin1String(": ");
-            const QString reason = row.failure.startsWith(prefix) ? row.failure.mid(prefix.size()) : row.failure;
-            m_failures.note(name % QLatin1String(": ") % label % QLatin1String(": ") % reason);
-            m_failed << row.key;
+            noteOf(row.key, label, row.failure);
         } else if (row.answer) {
             yes << row.key;
         }
     }
     return yes;
+}
+
+/// One that has not told its name has it from the host's own words, if they begin with it.
+void CameraSteps::noteOf(DOCKEY key, const QString& label, const QString& failure) {
+    const bool isNamed = !m_names.contains(key) && failure.contains(Separator);
+    const QString prefix = (isNamed ? failure.section(Separator, 0, 0) : nameOf(key)) % Separator;
+    const QString reason = failure.startsWith(prefix) ? failure.mid(prefix.size()) : failure;
+    m_failures.note(prefix % label % Separator % reason);
+    m_failed << key;
+}
+
+/// A line is of the camera with the longest name that it begins with; of none while two have that name.
+void CameraSteps::note(const QString& label, const DocKeyList& keys, const GatheredFailures& refusals) {
+    for (const QString& line : refusals.lines()) {
+        DocKeyList named;
+        int longest = 0;
+        for (const DOCKEY key : keys) {
+            const int length = nameOf(key).size();
+            if (length >= longest && line.startsWith(nameOf(key) % Separator)) {
+                named = length > longest ? DocKeyList{key} : named << key;
+                longest = length;
+            }
+        }
+        if (named.size() == 1) {
+            noteOf(named.first(), label, line);
+        } else {
+            m_failures.note(line);
+        }
+    }
 }

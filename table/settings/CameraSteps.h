@@ -28,8 +28,12 @@ public:
     /// The same, whether they have failed before or not.
     void runOnAll(const QString& label, const DocKeyList& keys, const Step& step);
 
-    /// Those that have not failed.
+    /// Whether the host still has the plug-in; without it no step but `runOnAll` reaches a camera.
+    bool isPluginThere() const;
+    /// Those that have not failed; none without the plug-in.
     DocKeyList left(const DocKeyList& keys) const;
+    /// What a command of the host to `keys` has met: lines that begin with the name of a camera.
+    void note(const QString& label, const DocKeyList& keys, const GatheredFailures& refusals);
 
     /// Asks the cameras how they are called. Until then, and where one does not tell, its key stands for its name.
     void readNames(const QString& label, const DocKeyList& keys);
@@ -40,6 +44,7 @@ private:
 
     QString nameOf(DOCKEY key) const;
     DocKeyList runOn(const QString& label, const DocKeyList& keys, const Step& step);
+    void noteOf(DOCKEY key, const QString& label, const QString& failure);
 
     ZebHost& m_host;
     GatheredFailures& m_failures;

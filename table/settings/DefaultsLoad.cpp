@@ -58,7 +58,7 @@ void DefaultsLoad::load(const DocKeyList& keys, const DefaultSettings* table) {
                 log("groups");
             }
             setCameras(defaults);
-            if (table != nullptr) {
+            if (table != nullptr && m_steps.isPluginThere()) {
                 takeLists(*table);
                 connectSignalSources();
             }
@@ -66,14 +66,14 @@ void DefaultsLoad::load(const DocKeyList& keys, const DefaultSettings* table) {
         m_failures.attempt([this] { lightUp(); });
     }
     guard.release();
-    if (!m_invalidTriggers.isEmpty()) {
+    if (!m_invalidTriggers.isEmpty() && m_steps.isPluginThere()) {
         m_host.alert(m_invalidTriggers.join(QLatin1Char('\n')), nullptr);
     }
 }
 
 /// Looks at all of them before anything is changed.
 bool DefaultsLoad::areAtRest(const DocKeyList& keys) {
-    const QString label = m_host.translate(TextKey("State"));
+    const QString label = m_host.translate(TextKey("State of the camera"));
     m_connected = m_steps.run(label, keys, [](DOC_Interface& doc) { return doc.isConnected(); });
     m_steps.readNames(label, m_connected);
     const DocKeyList armed = m_steps.run(label, m_connected, [](DOC_Interface& doc) { return isArmed(doc); });
@@ -86,7 +86,7 @@ bool DefaultsLoad::areAtRest(const DocKeyList& keys) {
 
 void DefaultsLoad::darken() {
     if (m_host.isLiveMode()) {
-        const QString label = m_host.translate(TextKey("Low light"));
+        const QString label = m_host.translate(TextKey("Lowlight"));
         m_lowLight = m_steps.run(label, m_connected, [](DOC_Interface& doc) { return doc.control().isLowLightMode(); });
         m_steps.run(label, m_lowLight, [](DOC_Interface& doc) {
             doc.control().setLowLightMode(false);
@@ -99,7 +99,7 @@ void DefaultsLoad::darken() {
 
 /// Also where a step has failed on the camera: it may have been switched off all the same.
 void DefaultsLoad::lightUp() {
-    m_steps.runOnAll(m_host.translate(TextKey("Low light")), m_lowLight, [](DOC_Interface& doc) {
+    m_steps.runOnAll(m_host.translate(TextKey("Lowlight")), m_lowLight, [](DOC_Interface& doc) {
         doc.control().setLowLightMode(true);
         return true;
     });
@@ -119,12 +119,12 @@ void DefaultsLoad::setCameras(const CameraDefaults& defaults) {
     }
     log("triggers");
     if (defaults.triggerSwIn) {
-        inLiveMode(QT_TR_NOOP("TRIG SW IN"), [&](DOC_Interface& doc) {
+        inLiveMode(QT_TR_NOOP("TriggerSwIn"), [&](DOC_Interface& doc) {
             setSignal(doc.control(), InputPorts::of(doc.control().getCameraType()).triggerSwIn, *defaults.triggerSwIn);
         });
     }
     if (defaults.triggerIn) {
-        inLiveMode(QT_TR_NOOP("TRIG TTL IN"), [&](DOC_Interface& doc) {
+        inLiveMode(QT_TR_NOOP("TriggerIn"), [&](DOC_Interface& doc) {
             setSignal(doc.control(), InputPorts::of(doc.control().getCameraType()).triggerIn, *defaults.triggerIn);
         });
     }
@@ -134,7 +134,7 @@ void DefaultsLoad::setCameras(const CameraDefaults& defaults) {
         doc.control().setShutterSpeedLock(defaults.shutterSpeedLock);
     });
     log("locks");
-    inLiveMode(QT_TR_NOOP("Low light"), [&](DOC_Interface& doc) {
+    inLiveMode(QT_TR_NOOP("Lowlight"), [&](DOC_Interface& doc) {
         DOC_Control& camera = doc.control();
         if (camera.isFunctionSupported(zeb::FunctionLowLight, 1) && !camera.isLowLightMode()) {
             camera.setLowLightType(defaults.lowLightType);
@@ -148,7 +148,7 @@ void DefaultsLoad::setTrigger(int mode) {
     const TriggerEditing::Outcome outcome =
         TriggerEditing(m_host).applyTriggerMode(docsOf(m_host.docManager(), left), mode);
     m_invalidTriggers = outcome.invalid;
-    m_failures.note(outcome.refusals.text());
+    m_steps.note(m_host.translate(TextKey("Trigger")), left, outcome.refusals);
 }
 
 void DefaultsLoad::takeLists(const DefaultSettings& settings) {

@@ -144,7 +144,7 @@ const QByteArrayList Moments =
         "ZebRecorder::startRecReady ZebRecorder::cancelRecording ZebAppStatus::openPlugin "
         "ZebAppStatus::closePlugin ZebAppStatus::enterLiveMode ZebAppStatus::enterMemoryMode "
         "ZebAppStatus::setWrenRunning ZebAppStatus::notifyPluginShown ZebAppStatus::notifyPluginClosed "
-        "QFileDialog QMessageBox GUI_SyncProgress")
+        "QFileDialog QMessageBox GUI_SyncProgress GUI_WrenDefaultSettingsDialog")
         .split(' ');
 
 class OtherHostTest : public testing::Test {

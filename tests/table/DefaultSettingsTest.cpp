@@ -1,5 +1,9 @@
 #include "DefaultSettings.h"
+#include "GUI_WrenDefaultSettingsDialog.h"
 #include "TableFixture.h"
+
+#include <QApplication>
+#include <QTimer>
 
 using namespace defaultsettings;
 
@@ -109,6 +113,48 @@ TEST_F(DefaultSettingsTest, ACameraThatIsArmedKeepsTheTableAsItIs) {
     makeBridge();
     EXPECT_TRUE(bridge->state().groups.isEmpty());
     EXPECT_FALSE(host.liveLoop().isLivePaused()) << "the loop goes on, whichever way the reading ends";
+}
+
+TEST_F(DefaultSettingsTest, AreAskedForUntilTheyAreAccepted) {
+    const QString done = "wren/settings/done";
+    connectAll();
+    storeAll(true);
+    host.setPrefBool(done, false);
+    int asked = 0;
+    std::function<void(QDialog&)> answer = [](QDialog& dialog) { dialog.reject(); };
+    QTimer look;
+    QObject::connect(&look, &QTimer::timeout, [&] {
+        if (auto* dialog = qobject_cast<GUI_WrenDefaultSettingsDialog*>(QApplication::activeModalWidget())) {
+            ++asked;
+            answer(*dialog);
+        }
+    });
+    look.start(1);
+    makeBridge();
+    EXPECT_EQ(asked, 1);
+    EXPECT_TRUE(bridge->state().groups.isEmpty());
+    EXPECT_FALSE(host.getPrefBool(done));
+
+    change(2, {{"recordState", zeb::RecordReady}});
+    makeBridge();
+    EXPECT_EQ(asked, 1) << "a dialog keeps nobody from a recording";
+    change(2, {{"recordState", zeb::RecordLive}});
+
+    answer = [this](QDialog& dialog) {
+        host.appStatus().enterMemoryMode();
+        dialog.accept();
+    };
+    makeBridge();
+    EXPECT_EQ(asked, 2);
+    EXPECT_EQ(bridge->state().groups.size(), 2);
+    EXPECT_TRUE(host.getPrefBool(done));
+    EXPECT_NE(stateOf(1, "lowLightType").toInt(), zeb::LowLightTypeFine) << "it is not live mode any more";
+
+    bridge->openDefaultSettingsDialog();
+    EXPECT_EQ(asked, 3);
+    host.appStatus().enterMode(zeb::FileMode);
+    bridge->openDefaultSettingsDialog();
+    EXPECT_EQ(asked, 3) << "not in file mode";
 }
 
 }  // namespace

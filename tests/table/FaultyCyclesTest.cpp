@@ -239,27 +239,30 @@ int tryFaults(const Action& action) {
     whole.reset();
     const QList<int> numbers = callsToFail(calls);
     for (const int n : numbers) {
-        const FaultPlan::Call& call = calls[n - 1];
-        SCOPED_TRACE(testing::Message() << action.name << " in mode " << action.mode << ", call " << n << " of "
-                                        << calls.size() << ": " << call.operation.toStdString() << " of "
-                                        << (call.key == FaultPlan::Host ? -1 : int(call.key)));
         FaultyWorld world(action.mode);
         world.host.faults().plantAt(n, {NoAnswer, 0, false});
         EXPECT_NO_THROW(action.act(world));
+        // Cameras work side by side, so that another one than before may have met the fault.
+        const FaultPlan::Call call = world.host.faults().calls().value(n - 1);
+        SCOPED_TRACE(testing::Message() << action.name << " in mode " << action.mode << ", call " << n << " of "
+                                        << calls.size() << ": " << call.operation.toStdString() << " of "
+                                        << (call.key == FaultPlan::Host ? -1 : int(call.key)));
         const QStringList told = world.told();
         EXPECT_TRUE(told.size() == 1 || (told.isEmpty() && maySayNothing(action, call)))
             << told.join('\n').toStdString();
-        // Cameras are armed side by side, so that another one may have met the fault.
-        if (call.key <= 8 && call.operation != "arm") {
+        if (call.key <= 8) {
             EXPECT_TRUE(told.join("").contains(world.host.cameras().find(call.key)->name()) || told.isEmpty());
         }
+        // The mode that goes before the phase has been set by then.
+        const bool isHalfSet = call.operation == "setRandomTriggerPhase";
         const States states = world.states();
         for (const QVariant& key : action.name.find("(QVariantList") != std::string::npos ? Keys : QVariantList()) {
             const QVariantMap state = states.value(key.toUInt());
             // One question about the memory decides on the trigger of all.
             const bool isSpared = action.mode == zeb::LiveMode && call.key <= 8 && call.operation != "getFrameCount" &&
                                   &world.camera(key.toUInt()).device() != &world.camera(call.key).device();
-            EXPECT_TRUE(state == after.value(key.toUInt()) || (!isSpared && state == before.value(key.toUInt())))
+            EXPECT_TRUE(isHalfSet || state == after.value(key.toUInt()) ||
+                        (!isSpared && state == before.value(key.toUInt())))
                 << "camera " << key.toInt() << " stands as it was to be, or as it was when it may meet the fault";
         }
         world.host.faults().clear();

@@ -3,6 +3,8 @@
 #include <QJsonDocument>
 
 TableFixture::TableFixture() : TestHost(readRig(QStringLiteral("eight-mixed"))) {
+    plugin.setHost(&host);
+    host.appStatus().registerPlugin(&plugin);
     // A test says itself what is recorded.
     for (Camera* camera : host.cameras().all()) {
         camera->change({{QStringLiteral("recorded"), false},

@@ -22,19 +22,18 @@ protected:
     QVariant stateOf(DOCKEY key, const char* member) {
         return camera(key).state().toPlain().value(QLatin1String(member));
     }
+
+    PLG_wren plugin;
 };
 
 /// With the table's bridge, which a test makes when the host stands as it is to find it.
 class BridgeFixture : public TableFixture {
 protected:
-    BridgeFixture() { plugin.setHost(&host); }
-
     void makeBridge() {
         bridge.reset();  // ends its session before the next one begins
         bridge = std::make_unique<JS_Mediator_WrenTableDialog>(&host, QStringLiteral("wrentabledialog"), &plugin);
     }
 
-    PLG_wren plugin;
     std::unique_ptr<JS_Mediator_WrenTableDialog> bridge;
 };
 
