@@ -9,7 +9,7 @@ const js = require('@eslint/js');
 
 const readonly = names => Object.assign({}, ...names.map(name => ({ [name]: 'readonly' })));
 
-const browser = readonly(['window', 'document', 'location', 'Node', 'Event', 'MouseEvent', 'clearTimeout', '$',
+const browser = readonly(['window', 'document', 'location', 'Node', 'Event', 'MouseEvent', 'clearTimeout', '$', 'Hogan',
     'jQuery', 'w2ui', 'w2utils']);
 
 // What scripts that a page loads define for those that it loads too.

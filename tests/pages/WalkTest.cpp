@@ -11,6 +11,7 @@
 #include <QMessageBox>
 #include <QTest>
 #include <QTimer>
+#include <QWebView>
 
 #include <random>
 
@@ -90,8 +91,11 @@ public:
         m_page = std::make_unique<TablePage>(m_test, 1);
         // The user reads the boxes of the plug-in itself and presses something.
         QObject::connect(&m_user, &QTimer::timeout, [this] {
-            if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
+            QWidget* modal = QApplication::activeModalWidget();
+            if (auto* box = qobject_cast<QMessageBox*>(modal)) {
                 box->buttons().at(upTo(box->buttons().size()))->click();
+            } else if (auto* dialog = qobject_cast<QDialog*>(modal); dialog && dialog->findChild<QWebView*>()) {
+                dialog->done(upTo(2));
             }
             if (QWidget* popup = QApplication::activePopupWidget()) {
                 popup->close();
@@ -99,6 +103,8 @@ public:
         });
         m_user.start(2);
     }
+
+    ~Walk() { m_test.host.faults().clear(); }
 
     /// What was done, for the reader of a failure.
     QString step() {

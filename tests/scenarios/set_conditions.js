@@ -28,6 +28,7 @@ check(zeb.open(), 'the table opens');
 zeb.click('#accordion h3');
 ['192', '168', '7'].forEach((octet, index) => {
     zeb.click(`#livecontrol_ip${index + 1}`);
+    zeb.key('Ctrl+A');
     zeb.type(octet);
 });
 const before = zeb.keys();

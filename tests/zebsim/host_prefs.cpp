@@ -54,7 +54,7 @@ TEST_F(Prefs, KeepValueAndTypeOverARestart) {
         host.setPrefInt(QStringLiteral("sync/external"), 1);
     }
     EXPECT_THAT(contentOf(path).toStdString(), testing::HasSubstr("triggerManualBeforePer=33.33\n"));
-    EXPECT_THAT(contentOf(path).toStdString(), testing::HasSubstr("external=true\n"));
+    EXPECT_THAT(contentOf(path).toStdString(), testing::HasSubstr("external=1\n"));
     SimHost host(clock, desk, copied());
     for (auto value = values.begin(); value != values.end(); ++value) {
         const QVariant read = host.getPref(value.key());

@@ -38,7 +38,7 @@ QList<FactoryValue> table() {
         {"save/format", text("png")},
         {"snapshot/folder", pictures},
         {"snapshot/format", text("png")},
-        {"sync/external", false},
+        {"sync/external", 0},
         {"sync/generator/address", text("")},
         {"sync/generator/input", 0},
         {"sync/lport", int(zeb::SyncPortNone)},

@@ -36,7 +36,7 @@ function numberIn(box) {
 }
 
 // The four fields of an address. While they hold none, the value is empty.
-function address(head) {
+function addressIn(head) {
     return {
         show: value => wrendefaultsettingsdialog_obj.setIp(head, value),
         value: () => wrendefaultsettingsdialog_obj.concatIp(head, false),

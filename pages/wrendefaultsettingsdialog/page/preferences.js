@@ -41,7 +41,7 @@ Object.assign(wrendefaultsettingsdialog_obj, {
             ['sync/lport', 'int', choice('md_signal_distributor', Number)],
             ['sync/external', 'bit', this.syncInputControl()],
             ['sync/generator/input', 'int', choice('md_sync_in', Number)],
-            ['sync/generator/address', 'text', address('md_signal_generator')],
+            ['sync/generator/address', 'text', addressIn('md_signal_generator')],
             ['sync/masterCamera', 'text', this.masterCameraControl()],
             ['sync/lport/ipaddress', 'text', listText('synchub', ',', distinctHubs)]
         ];
