@@ -21,7 +21,11 @@ OtherHost* current = nullptr;
 }  // namespace
 
 void called(const char* operation, bool mayThrow) {
-    if (QThread::currentThread() == qApp->thread() && current && current->onCall) {
+    if (QThread::currentThread() != qApp->thread()) {
+        if (current && current->onWorkerCall) {
+            current->onWorkerCall(operation);
+        }
+    } else if (current && current->onCall) {
         current->onCall(operation, mayThrow);
     }
 }

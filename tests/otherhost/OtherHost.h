@@ -68,6 +68,8 @@ public:
     /// Runs at each call of the plug-in, and once for each modal window of its own, by the name of its class. What it
     /// throws goes to the plug-in. GUI thread.
     std::function<void(const QByteArray& operation, bool mayThrow)> onCall;
+    /// Runs at each call on another thread, and there.
+    std::function<void(const QByteArray& operation)> onWorkerCall;
     QPointer<QWebView> view;
     QPointer<ZebPageBridge> bridge;
 

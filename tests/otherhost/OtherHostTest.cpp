@@ -8,11 +8,15 @@
 #include <QDialog>
 #include <QMetaMethod>
 #include <QRegularExpression>
+#include <QSemaphore>
 #include <QSet>
 #include <QSignalSpy>
+#include <QTimer>
 
 #include <gmock/gmock.h>
 
+#include <atomic>
+#include <mutex>
 #include <optional>
 
 namespace {
@@ -318,6 +322,45 @@ TEST_F(OtherHostTest, MayBeDestroyedAtEachOfTheMoments) {
     host.reset();
     EXPECT_EQ(missing, Operations());
     expectNothingLeft(loads);
+}
+
+/// A camera keeps the plug-in waiting, at each call of the load; no later step goes to a camera then.
+TEST_F(OtherHostTest, MayBeDestroyedWhileItWaitsForACamera) {
+    int waits = 0;
+    for (bool tried = true; tried; ++waits) {
+        OtherHost host;
+        host.cameras[0]->state.lowLight = true;
+        host.prefs["wren/settings/triggerInEnable"] = true;
+        std::atomic<int> calls{0};
+        QSemaphore gone;
+        QByteArray waiting;
+        std::mutex mutex;
+        Operations later;
+        host.onWorkerCall = [&](const QByteArray& operation) {
+            const int call = ++calls;
+            if (call == waits + 1) {
+                waiting = operation;
+                QTimer::singleShot(0, qApp, [&] {
+                    host.unload();
+                    gone.release();
+                });
+                gone.acquire();
+            } else if (call > waits + 1 && !host.plugin) {
+                const std::lock_guard lock(mutex);
+                later << operation;
+            }
+        };
+        host.open();
+        tried = calls > waits;
+        const Operations steps{"DOC_Control::setPortSignal", "DOC_Control::setResolutionLock",
+                               "DOC_Control::setLowLightType"};
+        EXPECT_LE(later.intersect(steps).size(), 1) << "none after that of " << waiting.toStdString();
+        EXPECT_TRUE(host.cameras[0]->state.lowLight);
+        EXPECT_TRUE(!tried || visibleWindows().isEmpty()) << waiting.toStdString();
+        host.onWorkerCall = nullptr;
+    }
+    EXPECT_GT(waits, 20);
+    expectNothingLeft(waits);
 }
 
 TEST_F(OtherHostTest, MayBeDestroyedInTheBoxOfItsFailure) {
