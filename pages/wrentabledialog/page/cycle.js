@@ -1,8 +1,10 @@
 // How the page keeps itself current: it asks for everything, at each tick of the back end's timer and after each
 // change.
 Object.assign(wrentabledialog_obj, {
+    // The default settings, and with them the groups, may be read in there.
     open() {
         wrentabledialog.onOpen();
+        this.initializeGroupBox();
     },
 
     close() {
