@@ -148,6 +148,14 @@ same(over(MADE, () => {
     zeb.until("false", 100);
     zeb.click('#md_cancel');
 }), { externalSyncSignal: -1, externalSyncSignals: '' }, 'what an update has stored stays');
+[['delete', 1000, '500'], ['clear', 7, '']].forEach(([button, frequency, left]) => {
+    same(over({ externalSyncSignal: frequency, externalSyncSignals: '500:01000' }, () => {
+        tab(4);
+        zeb.click('#md_externalsyncsigfreq_list tr[line="2"]');
+        zeb.click(`#md_${button}_externalsyncsigfreq`);
+        zeb.click('#md_ok');
+    }), { externalSyncSignal: -1, externalSyncSignals: left }, button + ' takes the default along');
+});
 
 over({ triggerRandomTriggerTimesEnable: false }, () => {
     tab(1);

@@ -52,7 +52,7 @@ class GridList {
         };
     }
 
-    // `hear` gets the rows that have gone.
+    // `hear` gets the rows that have gone, and whether the user has cleared the list.
     onEdit(hear) {
         this.hearers.push(hear);
     }
@@ -111,11 +111,15 @@ class GridList {
         }
     }
 
-    edit(rows) {
+    edit(rows, isCleared = false) {
         const kept = new Set(rows);
         const gone = this.rows.filter(row => !kept.has(row));
         this.setRows(rows);
-        this.hearers.forEach(hear => hear(gone));
+        this.hearers.forEach(hear => hear(gone, isCleared));
+    }
+
+    clear() {
+        this.edit([], true);
     }
 
     // `compare` puts the rows in order.

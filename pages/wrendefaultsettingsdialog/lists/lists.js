@@ -92,7 +92,7 @@ Object.assign(wrendefaultsettingsdialog_obj, {
         onClick(`#md_delete_${list.name}`, () => list.removeSelected());
         onClick(`#md_clear_${list.name}`, () => {
             if (bridge.confirm(translate('Clear the list. Is it OK?'))) {
-                list.edit([]);
+                list.clear();
             }
         });
     },
@@ -120,16 +120,18 @@ Object.assign(wrendefaultsettingsdialog_obj, {
     // The default frequency is one of the list, and goes when that does.
     initializeDefaultFrequency() {
         const list = gridLists.externalsyncsigfreq;
+        const box = document.getElementById('md_default_value');
+        const isDefault = text => box.value !== '' && isFrequency(text) && Number(text) === Number(box.value);
         const button = document.getElementById('md_default_externalsyncsigfreq');
         onClick('#md_default_externalsyncsigfreq', () => {
             if (isFrequency(list.selected().frequency)) {
-                this.putDefaultFrequency(list.selected().frequency);
+                this.putDefaultFrequency(String(Number(list.selected().frequency)));
             } else {
                 refuse(button);
             }
         });
-        list.onEdit(gone => {
-            if (gone.some(row => row.frequency === document.getElementById('md_default_value').value)) {
+        list.onEdit((gone, isCleared) => {
+            if (isCleared || gone.some(row => isDefault(row.frequency))) {
                 this.putDefaultFrequency('');
             }
         });
