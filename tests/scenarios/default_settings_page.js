@@ -93,6 +93,7 @@ same(over(HAND_MADE, () => {
     zeb.mode(mode);
     same(over(master, () => {
         zeb.mode('live');
+        same(value('md_master_camera'), mode === 'live' ? '192.168.0.11' : '', 'the first stands for it');
         zeb.click('#md_ok');
     }), {}, 'a master that is not there stays, opened in mode ' + mode);
 });

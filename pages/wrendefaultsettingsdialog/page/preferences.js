@@ -96,9 +96,17 @@ Object.assign(wrendefaultsettingsdialog_obj, {
         };
     },
 
+    // Shows the first candidate for one that is not among them.
     masterCameraControl() {
-        const isUnknown = () => bridge.isMemoryMode() || document.getElementById('md_master_camera').length === 0;
-        return Object.assign(choice('md_master_camera', String), { isUnknown });
+        const select = document.getElementById('md_master_camera');
+        const control = choice('md_master_camera', String);
+        return Object.assign({}, control, {
+            show: address => {
+                control.show(address);
+                select.selectedIndex = Math.max(0, select.selectedIndex);
+            },
+            isUnknown: () => bridge.isMemoryMode() || select.length === 0
+        });
     },
 
     defaultFrequencyControl() {
