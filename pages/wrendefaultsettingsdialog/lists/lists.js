@@ -77,10 +77,10 @@ Object.assign(wrendefaultsettingsdialog_obj, {
             });
             const boxes = spec.boxes.map(box => new NumberBox(box.id, Object.assign({ mayBeEmpty: true }, box)));
             const add = () => this.addEntry(spec, list, boxes);
-            onSeenPress(`md_add_${spec.name}`, add);
+            onFinalPress(`md_add_${spec.name}`, add);
             boxes.forEach(box => box.input.addEventListener('keydown', event => {
                 if (event.keyCode === KEY.ENTER) {
-                    guarded(() => pressSeen(document.getElementById(`md_add_${spec.name}`), add));
+                    guarded(() => workUnlessCorrected(document.getElementById(`md_add_${spec.name}`), add));
                 }
             }));
             this.initializeListButtons(list);
@@ -103,7 +103,7 @@ Object.assign(wrendefaultsettingsdialog_obj, {
         const parts = numbers.map(String);
         const empty = numbers.indexOf(null);
         const fault = spec.fault && spec.fault(numbers);
-        if (wasUnseen() || (empty >= 0 && !spec.needs)) {
+        if (takeCorrection() || (empty >= 0 && !spec.needs)) {
             refuse(document.getElementById(`md_add_${spec.name}`));
         } else if (empty >= 0) {
             bridge.alert(translate(NEEDS, spec.needs[empty]));

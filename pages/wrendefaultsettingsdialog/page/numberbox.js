@@ -57,7 +57,9 @@ class NumberBox {
         const { min, max } = this.options;
         const text = this.input.value;
         this.show(Number(this.textOf(Math.min(max, Math.max(min, typed)))));
-        isUnseen = isUnseen || Number(text.replace(/,/g, '')) !== this.number;
+        if (Number(text.replace(/,/g, '')) !== this.number) {
+            noteCorrection();
+        }
         this.hearers.forEach(hear => hear(this.number));
     }
 
@@ -66,7 +68,7 @@ class NumberBox {
             this.number = null;
             this.input.classList.toggle('md-wrong', this.input.value !== '');
         } else {
-            isUnseen = true;
+            noteCorrection();
             this.show(this.number);
         }
     }

@@ -31,7 +31,7 @@ Object.assign(wrendefaultsettingsdialog_obj, {
         this.initializeSync();
         this.initializeOthers();
         this.initializeSettings();
-        onSeenPress('md_ok', () => this.accept());
+        onFinalPress('md_ok', () => this.accept());
         onClick('#md_cancel', () => bridge.cancel());
         guarded(() => this.load());
         zeb4func.disableDefaultShortcut();
