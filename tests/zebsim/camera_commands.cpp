@@ -74,18 +74,11 @@ TEST_F(MixedCameras, ABatchReachesTheOthersAndNamesThoseThatFail) {
 }
 
 TEST_F(MixedCameras, TakeWhatADocumentIsTold) {
-    DOC_Control& control = test.doc(1)->control();
-    test.clock.join();
-    control.setPortSignal(4, zeb::SignalNormallyClose);
-    control.setResolutionLock(true);
-    control.setShutterSpeedLock(true);
-    control.setLowLightType(zeb::LowLightTypeFine);
-    control.setLowLightMode(true);
-    EXPECT_EQ(test.clock.join(), 5 * 2) << "each takes the camera's latency";
-    const QVariantMap state = test.camera(1).state().toPlain();
-    EXPECT_EQ(state["ports"].toMap(), (QVariantMap{{"1", 12}, {"2", 8}, {"5", 14}, {"7", 17}}));
-    EXPECT_TRUE(state["resolutionLock"].toBool() && state["shutterSpeedLock"].toBool());
-    EXPECT_TRUE(control.isLowLightMode() && control.getLowLightType() == zeb::LowLightTypeFine);
+    test.camera(1).change({{"lowLight", true}, {"shutter", 50}});
+    test.doc(1)->control().setLowLightMode(false);
+    EXPECT_EQ(test.camera(1).get(&CameraState::shutter), 1000) << "no longer than a frame";
+    test.doc(1)->control().setLowLightMode(true);
+    EXPECT_EQ(test.camera(1).get(&CameraState::shutter), 50);
     DOC_Control& roof = test.doc(5)->control();
     EXPECT_EQ(thrownBy([&] { roof.setPortSignal(4, 9); }), "Roof: there is no port at place 4");
     EXPECT_EQ(thrownBy([&] { roof.setLowLightType(2); }), "Roof: the camera has no low light mode");

@@ -131,6 +131,8 @@ private:
     const DOCKEY m_key;
     CameraDevice& m_device;
     CameraState m_state;
+    /// What the end of low light mode has made of a shutter speed, for its return.
+    std::pair<int, int> m_shortened{0, 0};
     /// What the partitions hold that are not the present one.
     QHash<PARTITIONNUMBER, PartitionMemory> m_otherPartitions;
 };

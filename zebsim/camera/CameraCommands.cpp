@@ -135,8 +135,13 @@ void Camera::switchLowLight(CameraOperation operation, bool on) {
         return;
     }
     require(zeb::FunctionLowLight, "low light mode");
+    const int before = get(&CameraState::shutter);
     set(&CameraState::lowLight, on);
+    if (on && before == m_shortened.second) {
+        set(&CameraState::shutter, m_shortened.first);
+    }
     fitShutter();
+    m_shortened = {before, get(&CameraState::shutter)};
 }
 
 void Camera::setLowLightType(int type) {
