@@ -2,6 +2,7 @@
 
 #include "DOC_Control.h"
 #include "DOC_Interface.h"
+#include "NamedFailure.h"
 #include "SyncPreferences.h"
 #include "SyncableDocs.h"
 #include "ZebDocManager.h"
@@ -78,7 +79,19 @@ DOC_Interface* chooseMaster(ZebHost& host, const DocList& docs) {
 }
 
 QString masterCameraList(ZebHost& host) {
-    const DocList docs = withoutDummies(host.docManager().getCameraDocs());
+    // One that does not answer leads nobody, and keeps nobody from the choice.
+    GatheredFailures unread;
+    DocList docs;
+    for (DOC_Interface* doc : host.docManager().getCameraDocs()) {
+        attemptOn(*doc, unread, [&] {
+            if (!withoutDummies({doc}).isEmpty()) {
+                SyncCamera::read(*doc);
+                doc->control().getCameraName(1);
+                docs << doc;
+            }
+        });
+    }
+    unread.log();
     if (docs.size() < 2) {
         qWarning() << "Not enough devices to sync settings.";
     }

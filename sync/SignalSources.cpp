@@ -34,7 +34,7 @@ void SignalSources::attempt(Work&& work, CleanUp&& cleanUp) {
             logFailure([&] { m_host.errorHandler(e); });
         }
     } catch (...) {
-        logCurrentFailure();
+        m_failures != nullptr ? m_failures->noteCurrent() : logCurrentFailure();
     }
     logFailure(cleanUp);
 }
