@@ -18,25 +18,25 @@ DefaultSettings DefaultSettings::read(const ZebHost& host) {
     settings.groups = readGroups(host.getPrefString(settingskeys::Groups));
     if (host.getPrefBool(settingskeys::ExternalSyncSignals % settingskeys::SwitchSuffix)) {
         settings.syncFrequency = host.getPrefInt(settingskeys::ExternalSyncSignal);
-        settings.syncSignals = readList(host.getPrefString(settingskeys::ExternalSyncSignals));
+        settings.syncSignals = readNumbers(host.getPrefString(settingskeys::ExternalSyncSignals));
     }
-    settings.allowed.frameRates = readList(listText(host, settingskeys::FrameRates));
-    settings.allowed.shutterSpeeds = readList(listText(host, settingskeys::ShutterSpeeds));
+    settings.allowed.frameRates = readNumbers(listText(host, settingskeys::FrameRates));
+    settings.allowed.shutterSpeeds = readNumbers(listText(host, settingskeys::ShutterSpeeds));
     settings.allowed.resolutions = readResolutions(listText(host, settingskeys::Resolutions));
     settings.areas = readAreas(listText(host, settingskeys::Areas));
     return settings;
 }
 
-QStringList defaultsettings::readList(const QString& text) {
-    return text.split(QLatin1Char(':'), Qt::SkipEmptyParts);
-}
-
 namespace {
+
+bool isNumber(const QString& text) {
+    return text.toInt() > 0;
+}
 
 /// The entries of a list that have at least `least` parts.
 QList<QStringList> readEntries(const QString& text, int least) {
     QList<QStringList> entries;
-    for (const QString& entry : defaultsettings::readList(text)) {
+    for (const QString& entry : text.split(QLatin1Char(':'), Qt::SkipEmptyParts)) {
         const QStringList parts = entry.split(QLatin1Char('|'));
         if (parts.size() >= least && !parts.first().isEmpty()) {
             entries.append(parts);
@@ -46,6 +46,16 @@ QList<QStringList> readEntries(const QString& text, int least) {
 }
 
 }  // namespace
+
+QStringList defaultsettings::readNumbers(const QString& text) {
+    QStringList numbers;
+    for (const QStringList& parts : readEntries(text, 1)) {
+        if (isNumber(parts.first())) {
+            numbers.append(parts.first());
+        }
+    }
+    return numbers;
+}
 
 QList<CameraGroup> defaultsettings::readGroups(const QString& text) {
     QList<CameraGroup> groups;
@@ -58,7 +68,9 @@ QList<CameraGroup> defaultsettings::readGroups(const QString& text) {
 QStringList defaultsettings::readResolutions(const QString& text) {
     QStringList resolutions;
     for (const QStringList& parts : readEntries(text, 2)) {
-        resolutions.append(parts.at(0) % QLatin1String(" x ") % parts.at(1));
+        if (isNumber(parts.at(0)) && isNumber(parts.at(1))) {
+            resolutions.append(parts.at(0) % QLatin1String(" x ") % parts.at(1));
+        }
     }
     return resolutions;
 }

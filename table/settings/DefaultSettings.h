@@ -27,10 +27,11 @@ struct DefaultSettings {
 };
 
 /// The forms in which the preferences keep lists: entries joined by ":", the parts of an entry by "|". An entry that
-/// lacks a part is left out.
+/// lacks a part, or has none for a number, is left out.
 namespace defaultsettings {
 
-QStringList readList(const QString& text);
+/// Those that are numbers above 0.
+QStringList readNumbers(const QString& text);
 /// Of each entry the name, then the addresses.
 QList<CameraGroup> readGroups(const QString& text);
 /// Of each entry width and height.

@@ -40,7 +40,7 @@ TEST(DefaultSettings, Groups) {
 }
 
 TEST(DefaultSettings, ListsAndAreas) {
-    EXPECT_EQ(readList("500:1000"), (QStringList{"500", "1000"}));
+    EXPECT_EQ(readNumbers("500::fast:0:1000|"), (QStringList{"500", "1000"}));
     EXPECT_EQ(readResolutions("1280|800:640|480:320"), (QStringList{"1280 x 800", "640 x 480"}))
         << "an entry without a height is none";
     const RecordAreas areas = readAreas("1000|0|99:2000|10|20:1000|5|50:500|1");
