@@ -3,13 +3,11 @@
 #include "GUI_WrenDefaultSettingsDialog.h"
 #include "GatheredFailures.h"
 #include "JS_Mediator_WrenTableDialog.h"
-#include "SettingsKeys.h"
 #include "ZebHost.h"
 
 void JS_Mediator_WrenTableDialog::openDefaultSettingsDialog() {
     call(*this, Change, __func__, {}, [this] {
         if (GUI_WrenDefaultSettingsDialog::run(host(), tableWindow())) {
-            host().setPrefBool(settingskeys::Done, true);
             GatheredFailures failures;
             DefaultsLoad(host(), m_state, failures).loadAll();
             failures.rethrow();

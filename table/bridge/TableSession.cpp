@@ -21,7 +21,7 @@ void TableSession::open(QWidget* window) {
     clearLocks(false);
     m_failures.attempt([this] { RecordChecks(m_host).clear(m_failures); });
     m_failures.attempt([this] { takeAllConnected(); });
-    m_failures.attempt([&] { openDefaults(window); });
+    m_failures.attempt([&] { loadDefaults(window); });
     // As one that connects now; a recording that runs is followed.
     m_failures.attempt([this] { CameraManagement(m_host, m_state).prepareConnectedDocs(connected()); });
     m_failures.rethrow();
@@ -47,23 +47,23 @@ DocList TableSession::connected() {
     return connectedDocs(documents, documents.getConnectedDocKeys(), m_failures);
 }
 
-void TableSession::openDefaults(QWidget* window) {
-    if (areDefaultsAskedFor()) {
-        if (!GUI_WrenDefaultSettingsDialog::run(m_host, window)) {
-            return;
-        }
-        m_host.setPrefBool(settingskeys::Done, true);
+/// Settings that were never accepted are not loaded in live mode; the table has no groups and no limits then.
+void TableSession::loadDefaults(QWidget* window) {
+    const bool ask = !m_host.getPrefBool(settingskeys::Done) && m_host.isLiveMode();
+    if (!ask || (!isAnyArmed() && GUI_WrenDefaultSettingsDialog::run(m_host, window))) {
+        DefaultsLoad(m_host, m_state, m_failures).loadAll();
+    } else {
+        m_state.groups.clear();
+        m_state.allowed = {};
+        m_state.areas.clear();
+        m_state.sync.offered.clear();
     }
-    DefaultsLoad(m_host, m_state, m_failures).loadAll();
 }
 
 /// Nobody is kept from a recording by a dialog.
-bool TableSession::areDefaultsAskedFor() {
-    if (m_host.getPrefBool(settingskeys::Done) || !m_host.isLiveMode()) {
-        return false;
-    }
+bool TableSession::isAnyArmed() {
     const DocList docs = connected();
-    return std::none_of(docs.begin(), docs.end(), [this](DOC_Interface* doc) {
+    return std::any_of(docs.begin(), docs.end(), [this](DOC_Interface* doc) {
         bool armed = false;
         m_failures.attempt([&] { onCamera(*doc, [&] { armed = isArmed(*doc); }); });
         return armed;

@@ -24,8 +24,8 @@ private:
     /// From now on a recording takes all connected cameras.
     void takeAllConnected();
     void giveBackAllConnected();
-    void openDefaults(QWidget* window);
-    bool areDefaultsAskedFor();
+    void loadDefaults(QWidget* window);
+    bool isAnyArmed();
     void clearLocks(bool recordingToo);
     DocList connected();
 

@@ -44,14 +44,7 @@ void TriggerEditing::setTriggerMode(const DocKeyList& keys, const QString& val) 
     GatheredFailures failures;
     if (m_host.getPrefBool(settingskeys::TriggerEnable)) {
         const DocList docs = changeableDocs(m_host, keys, TriggerMode, failures);
-        failures.attempt([&] {
-            const Outcome outcome = applyTriggerMode(docs, mode);
-            // From here on documents may be others: a box stands.
-            if (!outcome.invalid.isEmpty()) {
-                m_host.alert(outcome.invalid.join(QLatin1Char('\n')), nullptr);
-            }
-            outcome.refusals.rethrow();
-        });
+        failures.attempt([&] { setWithDefaults(docs, mode, failures); });
     } else {
         const DocList docs = changeableDocs(m_host, keys, failures);
         failures.attempt([&] { setWithHostSettings(docs, mode); });
@@ -65,30 +58,40 @@ void TriggerEditing::setWithHostSettings(const DocList& docs, int mode) {
     }
 }
 
-TriggerEditing::Outcome TriggerEditing::applyTriggerMode(const DocList& docs, int mode) {
+void TriggerEditing::setWithDefaults(const DocList& docs, int mode, GatheredFailures& failures) {
+    const zeb::TriggerSettings settings = defaultParameters();
+    QStringList misfits;
+    DocList fitting;
+    for (DOC_Interface* doc : docs) {
+        attemptOn(*doc, failures, [&] {
+            if (fits(*doc, mode, settings)) {
+                fitting << doc;
+            } else {
+                misfits << misfitText(doc->control().getCameraName(1));
+            }
+        });
+    }
+    if (!fitting.isEmpty()) {
+        failures.note(send(fitting, mode, settings).text());
+    }
+    // From here on documents may be others: a box stands.
+    if (!misfits.isEmpty()) {
+        m_host.alert(misfits.join(QLatin1Char('\n')), nullptr);
+    }
+}
+
+zeb::TriggerSettings TriggerEditing::defaultParameters() const {
     zeb::TriggerSettings settings;
     settings.kind = DefaultSettingsKind;
     settings.manualBeforePercent = m_host.getPrefFloat(settingskeys::TriggerManualBeforePer);
     settings.randomTimes = m_host.getPrefInt(settingskeys::TriggerRandomTriggerTimes);
     settings.randomFrames = m_host.getPrefInt(settingskeys::TriggerRandomFrame);
+    return settings;
+}
 
-    const QString reason =
-        m_host.translate(TextKey("%1 is invalid.")).arg(m_host.translate(TextKey("Trigger Parameter")));
-    Outcome outcome;
-    DocList valid;
-    for (DOC_Interface* doc : docs) {
-        attemptOn(*doc, outcome.refusals, [&] {
-            if (fits(*doc, mode, settings)) {
-                valid.append(doc);
-            } else {
-                outcome.invalid.append(doc->control().getCameraName(1) % QStringLiteral("・・") % reason);
-            }
-        });
-    }
-    if (!valid.isEmpty()) {
-        outcome.refusals.note(send(valid, mode, settings).text());
-    }
-    return outcome;
+QString TriggerEditing::misfitText(const QString& camera) const {
+    const QString parameter = m_host.translate(TextKey("Trigger Parameter"));
+    return camera % QStringLiteral("・・") % m_host.translate(TextKey("%1 is invalid.")).arg(parameter);
 }
 
 /// Each command goes to all cameras, whatever one of them says to an earlier one; answers what they have refused.
@@ -123,7 +126,7 @@ GatheredFailures TriggerEditing::send(const DocList& docs, int mode, const zeb::
 }
 
 /// A camera that does not offer the mode is left to say so itself.
-bool TriggerEditing::fits(DOC_Interface& doc, int mode, const zeb::TriggerSettings& settings) const {
+bool TriggerEditing::fits(DOC_Interface& doc, int mode, const zeb::TriggerSettings& settings) {
     if (!isBoundedByMemory(mode)) {
         return true;
     }

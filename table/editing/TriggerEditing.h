@@ -4,7 +4,6 @@
 #include "ZebTypes.h"
 
 #include <QString>
-#include <QStringList>
 
 class ZebHost;
 
@@ -17,21 +16,18 @@ public:
     /// As the setters of `ParameterEditing`. `val` is a decimal `zeb::TriggerMode`.
     void setTriggerMode(const DocKeyList& keys, const QString& val);
 
-    /// Whom a mode has not reached.
-    struct Outcome {
-        /// A line for the user about each camera whose memory is too small for it.
-        QStringList invalid;
-        GatheredFailures refusals;
-    };
-
-    /// A mode with the parameters of the default settings. Cameras whose memory is too small for them keep the mode
-    /// they have. May run an event loop.
-    Outcome applyTriggerMode(const DocList& docs, int mode);
+    /// The parameters of the default settings.
+    zeb::TriggerSettings defaultParameters() const;
+    /// Whether the camera's memory takes what a mode records with these parameters. One that does not fit keeps the
+    /// mode that it has, and the user is told by `misfitText`. Any thread.
+    static bool fits(DOC_Interface& doc, int mode, const zeb::TriggerSettings& settings);
+    QString misfitText(const QString& camera) const;
+    /// Sets the mode; answers what cameras have refused. May run an event loop.
+    GatheredFailures send(const DocList& docs, int mode, const zeb::TriggerSettings& settings);
 
 private:
+    void setWithDefaults(const DocList& docs, int mode, GatheredFailures& failures);
     void setWithHostSettings(const DocList& docs, int mode);
-    GatheredFailures send(const DocList& docs, int mode, const zeb::TriggerSettings& settings);
-    bool fits(DOC_Interface& doc, int mode, const zeb::TriggerSettings& settings) const;
 
     ZebHost& m_host;
 };

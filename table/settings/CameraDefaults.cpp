@@ -1,8 +1,8 @@
 #include "CameraDefaults.h"
 
 #include "SettingsKeys.h"
+#include "TriggerEditing.h"
 #include "ZebHost.h"
-#include "ZebTypes.h"
 
 namespace {
 
@@ -13,10 +13,11 @@ std::optional<int> switched(const ZebHost& host, const QString& key, const QStri
 
 }  // namespace
 
-CameraDefaults CameraDefaults::read(const ZebHost& host) {
+CameraDefaults CameraDefaults::read(ZebHost& host) {
     using namespace settingskeys;
     CameraDefaults defaults;
     defaults.triggerMode = switched(host, TriggerMode, TriggerEnable);
+    defaults.trigger = TriggerEditing(host).defaultParameters();
     defaults.triggerSwIn = switched(host, TriggerSwIn, TriggerSwIn % SwitchSuffix);
     defaults.triggerIn = switched(host, TriggerIn, TriggerIn % SwitchSuffix);
     defaults.resolutionLock = host.getPrefBool(ResolutionLock);

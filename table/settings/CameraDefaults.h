@@ -1,5 +1,7 @@
 #pragma once
 
+#include "ZebTypes.h"
+
 #include <optional>
 
 class ZebHost;
@@ -7,10 +9,11 @@ class ZebHost;
 /// What the default settings say of each camera.
 struct CameraDefaults {
     /// Reads the preferences; nothing where the settings leave the camera as it is.
-    static CameraDefaults read(const ZebHost& host);
+    static CameraDefaults read(ZebHost& host);
 
-    /// A `zeb::TriggerMode`; its parameters are read where it is applied.
+    /// A `zeb::TriggerMode`, and its parameters.
     std::optional<int> triggerMode;
+    zeb::TriggerSettings trigger;
     /// Signals at the inputs.
     std::optional<int> triggerSwIn;
     std::optional<int> triggerIn;

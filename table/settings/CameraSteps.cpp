@@ -4,14 +4,9 @@
 #include "DOC_Interface.h"
 #include "FailureText.h"
 #include "ParallelRows.h"
-#include "RowsWait.h"
 #include "ZebAppStatus.h"
 #include "ZebDocManager.h"
 #include "ZebHost.h"
-
-#include <QMutex>
-
-#include <vector>
 
 namespace {
 
@@ -25,6 +20,7 @@ struct CameraSteps::Row {
     DOC_Interface* doc;
     bool answer = false;
     QString failure;
+    QString name;
 };
 
 bool CameraSteps::isPluginThere() const {
@@ -42,22 +38,30 @@ DocKeyList CameraSteps::left(const DocKeyList& keys) const {
     return left;
 }
 
-DocKeyList CameraSteps::run(const QString& label, const DocKeyList& keys, const Step& step) {
-    return runOn(label, left(keys), step);
+DocKeyList CameraSteps::ask(const QString& label, const DocKeyList& keys, const Question& question) {
+    return askAll(label, left(keys), question);
+}
+
+void CameraSteps::run(const QString& label, const DocKeyList& keys, const Step& step) {
+    runOnAll(label, left(keys), step);
 }
 
 void CameraSteps::runOnAll(const QString& label, const DocKeyList& keys, const Step& step) {
-    runOn(label, keys, step);
+    askAll(label, keys, [&step](DOC_Interface& doc) {
+        step(doc);
+        return true;
+    });
 }
 
 void CameraSteps::readNames(const QString& label, const DocKeyList& keys) {
-    QMutex mutex;
-    run(label, keys, [&](DOC_Interface& doc) {
-        const QString name = doc.control().getCameraName(1);
-        const QMutexLocker lock(&mutex);
-        m_names.insert(doc.getKey(), name);
-        return true;
-    });
+    const auto read = [](Row& row) { row.name = row.doc->control().getCameraName(1); };
+    for (const Row& row : runRows(left(keys), read)) {
+        if (!row.failure.isEmpty()) {
+            m_failures.note(lineOf(row.key, label, row.failure));
+        } else if (!row.name.isEmpty()) {
+            m_names.insert(row.key, row.name);
+        }
+    }
 }
 
 QStringList CameraSteps::namesOf(const DocKeyList& keys) const {
@@ -72,28 +76,34 @@ QString CameraSteps::nameOf(DOCKEY key) const {
     return m_names.value(key, QString::number(key));
 }
 
-DocKeyList CameraSteps::runOn(const QString& label, const DocKeyList& keys, const Step& step) {
+/// Documents are fetched here, for those from before the last step are dead.
+std::vector<CameraSteps::Row> CameraSteps::runRows(const DocKeyList& keys, const std::function<void(Row&)>& work) {
     std::vector<Row> rows;
     QStringList names;
     for (const DOCKEY key : keys) {
         if (DOC_Interface* doc = m_host.docManager().getDoc(key, 1)) {
-            rows.push_back({key, doc, false, {}});
+            rows.push_back({key, doc, false, {}, {}});
             names << nameOf(key);
         }
     }
     {
-        const ParallelRows work(int(rows.size()), [&](int index) {
+        const ParallelRows running(int(rows.size()), [&](int index) {
             Row& row = rows[std::size_t(index)];
             try {
-                row.answer = step(*row.doc);
+                work(row);
             } catch (...) {
                 row.failure = currentFailureText();
             }
         });
-        waitForRows(m_host, work, names);
+        m_wait.waitFor(running, names);
     }
+    return rows;
+}
+
+DocKeyList CameraSteps::askAll(const QString& label, const DocKeyList& keys, const Question& question) {
+    const auto ask = [&question](Row& row) { row.answer = question(*row.doc); };
     DocKeyList yes;
-    for (const Row& row : rows) {
+    for (const Row& row : runRows(keys, ask)) {
         if (!row.failure.isEmpty()) {
             noteOf(row.key, label, row.failure);
         } else if (row.answer) {
@@ -103,13 +113,17 @@ DocKeyList CameraSteps::runOn(const QString& label, const DocKeyList& keys, cons
     return yes;
 }
 
-/// One that has not told its name has it from the host's own words, if they begin with it.
 void CameraSteps::noteOf(DOCKEY key, const QString& label, const QString& failure) {
+    m_failures.note(lineOf(key, label, failure));
+    m_failed << key;
+}
+
+/// One that has not told its name has it from the host's own words, if they begin with it.
+QString CameraSteps::lineOf(DOCKEY key, const QString& label, const QString& failure) const {
     const bool isNamed = !m_names.contains(key) && failure.contains(Separator);
     const QString prefix = (isNamed ? failure.section(Separator, 0, 0) : nameOf(key)) % Separator;
     const QString reason = failure.startsWith(prefix) ? failure.mid(prefix.size()) : failure;
-    m_failures.note(prefix % label % Separator % reason);
-    m_failed << key;
+    return prefix % label % Separator % reason;
 }
 
 /// A line is of the camera with the longest name that it begins with; of none while two have that name.

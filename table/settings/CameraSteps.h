@@ -1,6 +1,7 @@
 #pragma once
 
 #include "GatheredFailures.h"
+#include "RowsWait.h"
 #include "ZebTypes.h"
 
 #include <QHash>
@@ -9,6 +10,7 @@
 #include <QStringList>
 
 #include <functional>
+#include <vector>
 
 class ZebHost;
 
@@ -16,15 +18,17 @@ class ZebHost;
 /// later ones, so that one that does not answer costs its time-out once. Made and run on the GUI thread.
 class CameraSteps {
 public:
-    /// Runs on a thread of its own, where only `DOC_` operations may be called.
-    using Step = std::function<bool(DOC_Interface&)>;
+    /// Run on a thread for each camera, where only `DOC_` operations may be called.
+    using Question = std::function<bool(DOC_Interface&)>;
+    using Step = std::function<void(DOC_Interface&)>;
 
     /// Failures go into `failures`, a line "camera: step: reason" each.
-    CameraSteps(ZebHost& host, GatheredFailures& failures) : m_host(host), m_failures(failures) {}
+    CameraSteps(ZebHost& host, GatheredFailures& failures) : m_host(host), m_failures(failures), m_wait(host) {}
 
-    /// `step` on those of `keys` that are there and have not failed before; `label` is its name to the user. Answers
-    /// those for which it has answered true. Runs an event loop: documents from before are dead afterwards.
-    DocKeyList run(const QString& label, const DocKeyList& keys, const Step& step);
+    /// Those of `keys` that are there, have not failed before and answer true; `label` is the step's name to the user.
+    /// Runs an event loop, as the others do: documents from before are dead afterwards.
+    DocKeyList ask(const QString& label, const DocKeyList& keys, const Question& question);
+    void run(const QString& label, const DocKeyList& keys, const Step& step);
     /// The same, whether they have failed before or not.
     void runOnAll(const QString& label, const DocKeyList& keys, const Step& step);
 
@@ -34,20 +38,26 @@ public:
     DocKeyList left(const DocKeyList& keys) const;
     /// What a command of the host to `keys` has met: lines that begin with the name of a camera.
     void note(const QString& label, const DocKeyList& keys, const GatheredFailures& refusals);
+    /// After the last step: the user may press again.
+    void finish() { m_wait.finish(); }
 
-    /// Asks the cameras how they are called. Until then, and where one does not tell, its key stands for its name.
+    /// Asks the cameras how they are called. Until then, and where one does not tell, the key stands for the name; that
+    /// is no failure that leaves it out.
     void readNames(const QString& label, const DocKeyList& keys);
     QStringList namesOf(const DocKeyList& keys) const;
+    QString nameOf(DOCKEY key) const;
 
 private:
     struct Row;
 
-    QString nameOf(DOCKEY key) const;
-    DocKeyList runOn(const QString& label, const DocKeyList& keys, const Step& step);
+    std::vector<Row> runRows(const DocKeyList& keys, const std::function<void(Row&)>& work);
+    DocKeyList askAll(const QString& label, const DocKeyList& keys, const Question& question);
     void noteOf(DOCKEY key, const QString& label, const QString& failure);
+    QString lineOf(DOCKEY key, const QString& label, const QString& failure) const;
 
     ZebHost& m_host;
     GatheredFailures& m_failures;
+    RowsWait m_wait;
     QHash<DOCKEY, QString> m_names;
     QSet<DOCKEY> m_failed;
 };

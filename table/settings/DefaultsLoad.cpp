@@ -6,6 +6,7 @@
 #include "DOC_Interface.h"
 #include "DOC_Lock.h"
 #include "DefaultSettings.h"
+#include "DeterScope.h"
 #include "DocKeys.h"
 #include "DocumentGuard.h"
 #include "InputPorts.h"
@@ -18,7 +19,11 @@
 
 #include <QDebug>
 
+#include <optional>
+
 namespace {
+
+const QString CameraState = TextKey("State of the camera");
 
 template <typename... Words>
 void log(const Words&... words) {
@@ -50,33 +55,40 @@ void DefaultsLoad::loadOnto(const DocKeyList& joined) {
 void DefaultsLoad::load(const DocKeyList& keys, const DefaultSettings* table) {
     const CameraDefaults defaults = CameraDefaults::read(m_host);
     DocumentGuard guard(m_host, false, false);
-    if (!m_host.isFileMode() && areAtRest(keys)) {
-        m_failures.attempt([&] {
-            darken();
-            if (table != nullptr) {
-                m_state.groups = table->groups;
-                log("groups");
-            }
-            setCameras(defaults);
-            if (table != nullptr && m_steps.isPluginThere()) {
-                takeLists(*table);
-                connectSignalSources();
-            }
-        });
-        m_failures.attempt([this] { lightUp(); });
+    std::optional<DeterScope> noCycles(m_host);
+    if (!m_host.isFileMode() && readCameras(keys) && (table != nullptr || !m_connected.isEmpty())) {
+        m_failures.attempt([&] { apply(defaults, table); });
+        m_failures.attempt([this] { returnToLowLight(); });
     }
+    m_steps.finish();
+    noCycles.reset();
     guard.release();
-    if (!m_invalidTriggers.isEmpty() && m_steps.isPluginThere()) {
-        m_host.alert(m_invalidTriggers.join(QLatin1Char('\n')), nullptr);
+    if (!m_misfits.isEmpty() && m_steps.isPluginThere()) {
+        m_host.alert(m_misfits.join(QLatin1Char('\n')), nullptr);
     }
 }
 
-/// Looks at all of them before anything is changed.
-bool DefaultsLoad::areAtRest(const DocKeyList& keys) {
-    const QString label = m_host.translate(TextKey("State of the camera"));
-    m_connected = m_steps.run(label, keys, [](DOC_Interface& doc) { return doc.isConnected(); });
+void DefaultsLoad::apply(const CameraDefaults& defaults, const DefaultSettings* table) {
+    leaveLowLight();
+    m_open = m_steps.ask(m_host.translate(CameraState), m_connected,
+                         [](DOC_Interface& doc) { return !doc.lock().isParamLocked(); });
+    if (table != nullptr) {
+        m_state.groups = table->groups;
+        log("groups");
+    }
+    setCameras(defaults);
+    if (table != nullptr && m_steps.isPluginThere()) {
+        takeLists(*table);
+        connectSignalSources();
+    }
+}
+
+/// Looks at all of them before anything is changed; whether they may be.
+bool DefaultsLoad::readCameras(const DocKeyList& keys) {
+    const QString label = m_host.translate(CameraState);
+    m_connected = m_steps.ask(label, keys, [](DOC_Interface& doc) { return doc.isConnected(); });
+    const DocKeyList armed = m_steps.ask(label, m_connected, [](DOC_Interface& doc) { return isArmed(doc); });
     m_steps.readNames(label, m_connected);
-    const DocKeyList armed = m_steps.run(label, m_connected, [](DOC_Interface& doc) { return isArmed(doc); });
     if (!armed.isEmpty()) {
         qInfo() << "The default settings were not loaded. Ready or recording:" << m_steps.namesOf(armed)
                 << "without them:" << m_steps.namesOf(m_connected);
@@ -84,38 +96,29 @@ bool DefaultsLoad::areAtRest(const DocKeyList& keys) {
     return armed.isEmpty();
 }
 
-void DefaultsLoad::darken() {
+void DefaultsLoad::leaveLowLight() {
     if (m_host.isLiveMode()) {
-        const QString label = m_host.translate(TextKey("Lowlight"));
-        m_lowLight = m_steps.run(label, m_connected, [](DOC_Interface& doc) { return doc.control().isLowLightMode(); });
-        m_steps.run(label, m_lowLight, [](DOC_Interface& doc) {
-            doc.control().setLowLightMode(false);
-            return true;
-        });
+        m_lowLight = m_steps.ask(m_host.translate(CameraState), m_connected,
+                                 [](DOC_Interface& doc) { return doc.control().isLowLightMode(); });
+        m_steps.run(m_host.translate(TextKey("Low light off")), m_lowLight,
+                    [](DOC_Interface& doc) { doc.control().setLowLightMode(false); });
     }
-    m_open = m_steps.run(m_host.translate(TextKey("Lock")), m_connected,
-                         [](DOC_Interface& doc) { return !doc.lock().isParamLocked(); });
 }
 
 /// Also where a step has failed on the camera: it may have been switched off all the same.
-void DefaultsLoad::lightUp() {
-    m_steps.runOnAll(m_host.translate(TextKey("Lowlight")), m_lowLight, [](DOC_Interface& doc) {
-        doc.control().setLowLightMode(true);
-        return true;
-    });
+void DefaultsLoad::returnToLowLight() {
+    m_steps.runOnAll(m_host.translate(TextKey("Low light on again")), m_lowLight,
+                     [](DOC_Interface& doc) { doc.control().setLowLightMode(true); });
 }
 
 void DefaultsLoad::setCameras(const CameraDefaults& defaults) {
-    const auto inLiveMode = [this](const char* label, const std::function<void(DOC_Interface&)>& step) {
+    const auto inLiveMode = [this](const char* label, const CameraSteps::Step& step) {
         if (m_host.isLiveMode()) {
-            m_steps.run(m_host.translate(QLatin1String(label)), m_open, [&step](DOC_Interface& doc) {
-                step(doc);
-                return true;
-            });
+            m_steps.run(m_host.translate(QLatin1String(label)), m_open, step);
         }
     };
     if (defaults.triggerMode && m_host.isLiveMode()) {
-        setTrigger(*defaults.triggerMode);
+        setTrigger(*defaults.triggerMode, defaults.trigger);
     }
     log("triggers");
     if (defaults.triggerSwIn) {
@@ -143,18 +146,29 @@ void DefaultsLoad::setCameras(const CameraDefaults& defaults) {
     log("lowlight");
 }
 
-void DefaultsLoad::setTrigger(int mode) {
-    const DocKeyList left = m_steps.left(m_open);
-    const TriggerEditing::Outcome outcome =
-        TriggerEditing(m_host).applyTriggerMode(docsOf(m_host.docManager(), left), mode);
-    m_invalidTriggers = outcome.invalid;
-    m_steps.note(m_host.translate(TextKey("Trigger")), left, outcome.refusals);
+void DefaultsLoad::setTrigger(int mode, const zeb::TriggerSettings& parameters) {
+    const QString label = m_host.translate(TextKey("Trigger"));
+    DocKeyList fitting = m_steps.left(m_open);
+    const DocKeyList misfits =
+        m_steps.ask(label, m_open, [&](DOC_Interface& doc) { return !TriggerEditing::fits(doc, mode, parameters); });
+    TriggerEditing triggers(m_host);
+    for (const DOCKEY key : misfits) {
+        fitting.removeAll(key);
+        // One that has gone has told nothing.
+        if (m_host.docManager().getDoc(key, 1) != nullptr) {
+            m_misfits << triggers.misfitText(m_steps.nameOf(key));
+        }
+    }
+    const DocList docs = docsOf(m_host.docManager(), m_steps.left(fitting));
+    if (!docs.isEmpty()) {
+        m_steps.note(label, fitting, triggers.send(docs, mode, parameters));
+    }
 }
 
 void DefaultsLoad::takeLists(const DefaultSettings& settings) {
     m_state.sync.frequency = settings.syncFrequency.value_or(m_state.sync.frequency);
     m_state.sync.offered = settings.syncSignals;
-    log("syncSignal", settings.syncFrequency.value_or(0));
+    log("syncSignal", m_state.sync.frequency);
     log("syncSignals", settings.syncSignals);
     m_state.allowed = settings.allowed;
     log("framerate", settings.allowed.frameRates);

@@ -11,8 +11,8 @@ struct CameraDefaults;
 struct DefaultSettings;
 struct TableState;
 
-/// Brings the default settings to cameras, and to the table, once. Runs event loops, in which no press arrives. GUI
-/// thread.
+/// Brings the default settings to cameras, and to the table, once. Runs event loops, in which no press arrives but in
+/// boxes, and no update. GUI thread.
 ///
 /// Nothing is changed while one of the cameras is ready or records. A camera that is locked gets nothing, and one that
 /// fails nothing more; the others go on. No box stands before all is done.
@@ -29,11 +29,12 @@ public:
 
 private:
     void load(const DocKeyList& keys, const DefaultSettings* table);
-    bool areAtRest(const DocKeyList& keys);
-    void darken();
-    void lightUp();
+    bool readCameras(const DocKeyList& keys);
+    void apply(const CameraDefaults& defaults, const DefaultSettings* table);
+    void leaveLowLight();
+    void returnToLowLight();
     void setCameras(const CameraDefaults& defaults);
-    void setTrigger(int mode);
+    void setTrigger(int mode, const zeb::TriggerSettings& parameters);
     void takeLists(const DefaultSettings& settings);
     void connectSignalSources();
 
@@ -46,5 +47,5 @@ private:
     DocKeyList m_open;
     /// In low light mode before.
     DocKeyList m_lowLight;
-    QStringList m_invalidTriggers;
+    QStringList m_misfits;
 };

@@ -1,6 +1,7 @@
 #include "GUI_WrenDefaultSettingsDialog.h"
 
 #include "JS_Mediator_WrenDefaultSettingsDialog.h"
+#include "SettingsKeys.h"
 #include "TextKey.h"
 #include "ZebAppStatus.h"
 #include "ZebHost.h"
@@ -40,5 +41,9 @@ bool GUI_WrenDefaultSettingsDialog::run(ZebHost& host, QWidget* parent) {
     const int result = dialog->exec();
     const bool accepted = dialog && result == QDialog::Accepted;
     delete dialog;
-    return accepted && host.appStatus().getPlugin(QStringLiteral("wren")) != nullptr;
+    if (!accepted || host.appStatus().getPlugin(QStringLiteral("wren")) == nullptr) {
+        return false;
+    }
+    host.setPrefBool(settingskeys::Done, true);
+    return true;
 }

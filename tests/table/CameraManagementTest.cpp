@@ -7,7 +7,7 @@
 namespace {
 
 /// The live loop stands still while the default settings are brought to who comes in.
-const QString Commands = "^(?!.*(pause|resume)Live)";
+const QString Commands = "^(?!.*(Live$|deterUpdateUI))";
 
 class CameraManagementTest : public TableFixture {
 protected:
@@ -94,6 +94,7 @@ TEST_F(CameraManagementTest, ASearchBringsCamerasThatAreNew) {
                                             "setParamLock 2 true"}))
         << "a camera that records already is followed and locked";
     EXPECT_TRUE(state.recordRunning);
+    EXPECT_EQ(desk.take(), QStringList{"Search in 192.168.0.xxx: found There."});
 
     cameras.searchCamera("");
     host.appStatus().enterMemoryMode();

@@ -311,6 +311,9 @@ Outcome outcomeOf(const QMetaMethod& method, bool on, const QVector<FaultPlan::C
     Outcome outcome{{}, world.states(), world.desk.texts(), world.host.faults().calls()};
     for (const QVariant& entry : world.host.journal().since(mark)) {
         const QVariant asked = entry.toMap()["args"].toList().value(0);
+        if (asked.type() == QVariant::Bool) {
+            continue;  // of no camera
+        }
         for (const QVariant& key : asked.type() == QVariant::List ? asked.toList() : QVariantList{asked}) {
             ++outcome.commands[key.toUInt()];
         }

@@ -2,7 +2,6 @@
 #include "CameraWindows.h"
 #include "CommandLine.h"
 #include "ModalWatcher.h"
-#include "PageInput.h"
 #include "PageScript.h"
 #include "ParallelRows.h"
 #include "PreferencePages.h"
@@ -11,7 +10,6 @@
 #include "ScenarioDialogs.h"
 #include "ScenarioError.h"
 #include "Simulator.h"
-#include "TableDriver.h"
 #include "Until.h"
 #include "ViewerWindow.h"
 #include "ZebPrefsDialog.h"
@@ -224,26 +222,6 @@ TEST_F(Dialogs, GivePicturesAndTheLogToTheSupportFile) {
     simulator.window().images().showNow();
     host.prepareSupportFile(file);
     EXPECT_EQ(QImage::fromData(file.files.value("image.png")).size(), QSize(1024, 1024));
-}
-
-TEST_F(Dialogs, WithAPageAreWorkedByMouseAndKeysOfAScenario) {
-    QDialog dialog(&simulator.window());
-    QWebView view(&dialog);
-    view.resize(400, 300);
-    view.setHtml("<select><option>a<option>b</select><input>");
-    QString value;
-    next([&](QDialog&) {
-        TableDriver user(simulator, [] { return false; });
-        user.choose("select", "b");
-        user.click("input", {});
-        user.paste("12:");
-        value = PageScript("document.querySelector('select').value + document.querySelector('input').value")
-                    .run(view)
-                    .toString();
-        dialog.reject();
-    });
-    dialog.exec();
-    EXPECT_EQ(value, "b12:");
 }
 
 TEST(ModalDialogs, StandOnceTheirPageHasLoaded) {

@@ -1,16 +1,18 @@
 #include "RowsWait.h"
 
 #include "GUI_MarqueeProgressDialog.h"
+#include "LogFailure.h"
 #include "ParallelRows.h"
 #include "TextKey.h"
 #include "ZebHost.h"
 
 #include <QApplication>
-#include <QElapsedTimer>
+#include <QDebug>
 #include <QEventLoop>
 #include <QFontMetrics>
-#include <QPointer>
 #include <QTimer>
+
+#include <utility>
 
 namespace {
 
@@ -21,28 +23,6 @@ constexpr int LookAgain = 10;
 constexpr int MostNames = 8;
 constexpr int NamesALine = 4;
 constexpr int NameWidth = 150;
-
-/// What the user presses meanwhile was meant for what stood there before.
-class NoInput : public QObject {
-public:
-    NoInput() { qApp->installEventFilter(this); }
-
-    bool eventFilter(QObject* /*object*/, QEvent* event) override {
-        switch (event->type()) {
-            case QEvent::MouseButtonPress:
-            case QEvent::MouseButtonRelease:
-            case QEvent::MouseButtonDblClick:
-            case QEvent::KeyPress:
-            case QEvent::KeyRelease:
-            case QEvent::ShortcutOverride:
-            case QEvent::Shortcut:
-            case QEvent::Wheel:
-                return true;
-            default:
-                return false;
-        }
-    }
-};
 
 }  // namespace
 
@@ -62,25 +42,28 @@ QString awaitedText(const ZebHost& host, const ParallelRows& rows, const QString
                                   : host.translate(TextKey("No answer yet: %1")).arg(shown);
 }
 
-void waitForRows(ZebHost& host, const ParallelRows& rows, const QStringList& names) {
+RowsWait::RowsWait(ZebHost& host) : m_host(host), m_before(QApplication::activeModalWidget()) {
+    m_waited.start();
+    qApp->installEventFilter(this);
+}
+
+RowsWait::~RowsWait() {
+    delete m_progress;
+}
+
+void RowsWait::waitFor(const ParallelRows& rows, const QStringList& names) {
     if (rows.waitFor(LookAgain)) {
         return;
     }
-    const NoInput noInput;
-    QPointer<GUI_MarqueeProgressDialog> progress;
-    QElapsedTimer waited;
-    waited.start();
     QEventLoop loop;
     QTimer look;
     QObject::connect(&look, &QTimer::timeout, &loop, [&] {
         if (rows.waitFor(0)) {
+            // A box may stand in this loop, which then ends only after it.
+            look.stop();
             loop.quit();
-        } else if (progress) {
-            progress->setLabelText(awaitedText(host, rows, names));
-        } else if (waited.elapsed() > Patience) {
-            progress = new GUI_MarqueeProgressDialog(&host, awaitedText(host, rows, names), {}, true);
-            progress->hold(true);
-            progress->show();
+        } else if (m_waited.elapsed() > Patience) {
+            logFailure([&] { show(awaitedText(m_host, rows, names)); });
         }
     });
     look.start(LookAgain);
@@ -88,5 +71,56 @@ void waitForRows(ZebHost& host, const ParallelRows& rows, const QStringList& nam
     // The application may be ending its event loops.
     while (!rows.waitFor(Patience)) {
     }
-    delete progress;
+}
+
+/// Not over a box, which could not be answered then.
+void RowsWait::show(const QString& text) {
+    if (isBoxUp()) {
+        delete m_progress;
+        m_shown = false;
+    } else if (m_progress) {
+        m_progress->setLabelText(text);
+    } else if (!std::exchange(m_shown, true)) {
+        m_progress = new GUI_MarqueeProgressDialog(&m_host, text, {}, true);
+        m_progress->hold(true);
+        m_progress->show();
+    }
+}
+
+void RowsWait::finish() {
+    QCoreApplication::processEvents();
+    qApp->removeEventFilter(this);
+    delete m_progress;
+}
+
+bool RowsWait::isBoxUp() const {
+    const QWidget* modal = QApplication::activeModalWidget();
+    return modal != nullptr && modal != m_before && modal != m_progress;
+}
+
+/// What is pressed was meant for what stood there before. The log tells of it.
+bool RowsWait::eventFilter(QObject* /*object*/, QEvent* event) {
+    switch (event->type()) {
+        case QEvent::MouseButtonPress:
+        case QEvent::KeyPress:
+            if (!isBoxUp()) {
+                qInfo() << "A press was not taken: cameras are being set.";
+            }
+            [[fallthrough]];
+        case QEvent::MouseButtonRelease:
+        case QEvent::MouseButtonDblClick:
+        case QEvent::KeyRelease:
+        case QEvent::ShortcutOverride:
+        case QEvent::Shortcut:
+        case QEvent::InputMethod:
+        case QEvent::Wheel:
+        case QEvent::TouchBegin:
+        case QEvent::TouchUpdate:
+        case QEvent::TouchEnd:
+        case QEvent::TabletPress:
+        case QEvent::TabletRelease:
+            return !isBoxUp();
+        default:
+            return false;
+    }
 }

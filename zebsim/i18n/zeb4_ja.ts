@@ -276,6 +276,14 @@
         <translation>警告</translation>
     </message>
     <message>
+        <source>Low light off</source>
+        <translation>ローライトをオフ</translation>
+    </message>
+    <message>
+        <source>Low light on again</source>
+        <translation>ローライトを再びオン</translation>
+    </message>
+    <message>
         <source>State of the camera</source>
         <translation>状態</translation>
     </message>
