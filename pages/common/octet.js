@@ -13,17 +13,22 @@ function takeDigits(octet) {
 
 // Answers whether anything else stood there.
 function keepDigits(octet) {
-    const digits = octet.value.replace(/[^0-9]/g, '');
-    const differs = octet.value !== digits;
-    if (differs) {
-        octet.value = digits;
-    }
-    return differs;
+    return correctOctet(octet, octet.value.replace(/[^0-9]/g, ''));
 }
 
 // The number goes to the nearer limit; an empty field stays empty.
 function limitOctet(octet, min, max) {
     if (octet.value !== '') {
-        octet.value = String(Math.min(max, Math.max(min, Number(octet.value) || 0)));
+        correctOctet(octet, String(Math.min(max, Math.max(min, Number(octet.value) || 0))));
     }
+}
+
+// Who listens hears of it as of what the user types. Answers whether it differs from what stood there.
+function correctOctet(octet, text) {
+    const differs = octet.value !== text;
+    if (differs) {
+        octet.value = text;
+        octet.dispatchEvent(new Event('input'));
+    }
+    return differs;
 }

@@ -88,6 +88,17 @@ same(over(HAND_MADE, () => {
     zeb.click('#md_ok');
 }), { triggerInEnable: true, triggerIn: 9, resolutionLock: true }, 'only what was touched, and what a hub needs');
 
+same(over({ 'sync/external': 1, 'sync/generator/address': '300.lab.1.1' }, () => {
+    tab(2);
+    zeb.click('#md_signal_generator_ip1');
+    zeb.click('#md_ok');
+    zeb.click('#md_signal_generator_ip1');
+    zeb.type('\t');
+    same([1, 2].map(number => value('md_signal_generator_ip' + number)), ['255', ''], 'a press that limits only shows it');
+    zeb.type('0');
+    zeb.click('#md_ok');
+}), { 'sync/generator/address': '255.0.1.1' }, 'what the page makes of an address is stored');
+
 ['live', 'memory'].forEach(mode => {
     const master = { 'sync/masterCamera': '10.99.0.1' };
     zeb.mode(mode);
@@ -208,6 +219,9 @@ over({ groups: 'a|10.0.0.1:b', areas: '1000|0|9', 'sync/external': 1, 'sync/lpor
     zeb.click('#md_dummy');
     zeb.type('\n');
     same(told(), ADDRESS, 'of a stand-in without a number');
+    fill('md_camera_ip4', '0');
+    zeb.click('[aria-describedby=add_camera_dialog] .ok');
+    same(value('md_camera_ip4'), '1', 'a press that limits the number only shows it');
     fill('md_camera_ip4', '03\n');
     same(groups(), 'a|10.0.0.1:b:x|999.999.999.3', 'added');
     tab(4);

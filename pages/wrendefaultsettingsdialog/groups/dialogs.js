@@ -73,7 +73,8 @@ Object.assign(wrendefaultsettingsdialog_obj, {
 });
 
 // Enter in a field of the dialog is its OK.
-function makeDialog(selector, height, accept) {
+function makeDialog(selector, height, work) {
+    const accept = () => workUnlessCorrected($(selector).dialog('widget').find('.ok').get(0), work);
     const button = (text, word, click) => ({ text, class: 'ui-dialog-buttons ' + word, click: () => guarded(click) });
     $(selector).dialog({
         autoOpen: false,

@@ -8,10 +8,10 @@ Object.assign(wrendefaultsettingsdialog_obj, {
             hasFiller: true
         });
         const add = () => this.addSyncHub(list);
-        onClick('#md_add_synchub', add);
+        onFinalPress('md_add_synchub', add);
         octetsOf('md_synchub').forEach(octet => octet.addEventListener('keydown', event => {
             if (event.keyCode === KEY.ENTER) {
-                guarded(add);
+                guarded(() => workUnlessCorrected(document.getElementById('md_add_synchub'), add));
             }
         }));
         this.initializeListButtons(list);

@@ -52,12 +52,26 @@ function listenToField(octet, head, number) {
     });
     octet.addEventListener('input', () => keepDigits(octet));
     octet.addEventListener('blur', () => {
-        // What was stored by hand need not be a number.
-        if (keepDigits(octet)) {
+        if (settleField(octet, head, number)) {
             window.setTimeout(() => octet.focus(), 0);
         }
-        const isLast = number === 4;
-        const isBelow192168 = isPrivate(octetsOf(head).map(other => Number(other.value)));
-        limitOctet(octet, isLast ? 1 : 0, isLast && isBelow192168 ? 254 : 255);
     });
+    octet.addEventListener('keydown', event => {
+        if (event.keyCode === KEY.ENTER) {
+            settleField(octet, head, number);
+        }
+    });
+}
+
+// Answers whether something else than digits stood there, for what was stored by hand need not be a number.
+function settleField(octet, head, number) {
+    const before = octet.value;
+    const isLast = number === 4;
+    const wasText = keepDigits(octet);
+    const isBelow192168 = isPrivate(octetsOf(head).map(other => Number(other.value)));
+    limitOctet(octet, isLast ? 1 : 0, isLast && isBelow192168 ? 254 : 255);
+    if (wasText || Number(before) !== Number(octet.value)) {
+        noteCorrection();
+    }
+    return wasText;
 }
