@@ -245,7 +245,7 @@ over({ groups: 'a|10.0.0.1:b', areas: '1000|0|9', 'sync/external': 1, 'sync/lpor
 });
 
 const RATES = Array.from({ length: 10000 }, (_, index) => index + 1);
-same(Object.keys(over({ groups: 'Group_10|10.0.0.2:Group_2', frameRates: RATES.join(':'), externalSyncSignals: '30:10:20' },
+same(Object.keys(over({ groups: 'Group_10|10.0.0.2|10.0.0.3:Group_2', frameRates: RATES.join(':'), externalSyncSignals: '30:10:20' },
     () => {
         const keys = (names, name) => names.map(key => {
             zeb.key(key);
@@ -264,7 +264,12 @@ same(Object.keys(over({ groups: 'Group_10|10.0.0.2:Group_2', frameRates: RATES.j
         fill('md_groupname', 'Group_3\n');
         ['Right', 'Down', 'Return'].forEach(key => zeb.key(key));
         fill('md_camera_ip4', '9\n');
-        same(groups(), 'Group_3|10.0.0.9', 'edited by keys');
+        same(groups(), 'Group_3|10.0.0.3|10.0.0.9', 'edited by keys');
+        zeb.click('#md_device_group_list .childs li', { down: true });
+        zeb.key('Delete');
+        zeb.click('#md_addgroup', { down: false });
+        same(zeb.dialog("Array.from(document.querySelectorAll('#md_device_group_list .name')).map(name => name.textContent)"),
+            ['Group_3', '10.0.0.3'], 'a row that goes while the mouse is down');
         tab(4);
         zeb.click('#md_externalsyncsigfreq_list .w2ui-grid-records tr[recid]');
         fill('md_external_sync_sig_freq', '25\n');

@@ -10,6 +10,8 @@ Object.assign(wrendefaultsettingsdialog_obj, {
         list.addEventListener('click', event => guarded(() => this.clickIcon(event.target)));
         list.addEventListener('keydown', event => guarded(() => this.onGroupKey(event)));
         textTip(list, '.name', name => name.scrollWidth > name.clientWidth ? name.textContent : '');
+        // A message box keeps the release for itself.
+        window.addEventListener('blur', () => this.endBand());
         onClick('#md_addgroup', () => this.openGroupDialog('add'));
         onClick('#md_addcamera', () => this.openCameraDialog('add'));
         onClick('#md_all_clear', () => {
@@ -39,7 +41,8 @@ Object.assign(wrendefaultsettingsdialog_obj, {
         zeb4func.disable('#md_addcamera', !this.selectedGroup());
     },
 
-    // A list of the page gets its mouse handling when the mouse first goes down on it, for there may be thousands.
+    // A list of the page gets its mouse handling when the mouse first goes down on it, for there may be thousands. A row
+    // may have gone by the time the mouse comes up.
     makeSelectable(list) {
         if (!list || $(list).selectable('instance')) {
             return;
@@ -58,8 +61,17 @@ Object.assign(wrendefaultsettingsdialog_obj, {
         });
     },
 
+    endBand() {
+        if (this.groupSelecting) {
+            $(document).trigger('mouseup');
+        }
+    },
+
     // Selects a group, or a camera with its group, and nothing else.
     selectItem(key) {
+        if (!this.groupByKey(key) && !this.groupOfCamera(key)) {
+            return;
+        }
         this.cameraList.forEach(group => {
             const isTouched = group.dockey === key || group.cameras.some(camera => camera.dockey === key);
             mark(group, isTouched);
@@ -73,11 +85,10 @@ Object.assign(wrendefaultsettingsdialog_obj, {
 
     unselectItem(key) {
         const group = this.groupByKey(key);
-        if (group) {
-            [group].concat(group.cameras).forEach(item => mark(item, false));
-        } else {
-            mark(this.groupOfCamera(key).cameras.find(camera => camera.dockey === key), false);
-        }
+        const owner = this.groupOfCamera(key);
+        const items = group ? [group].concat(group.cameras)
+            : owner ? owner.cameras.filter(camera => camera.dockey === key) : [];
+        items.forEach(item => mark(item, false));
         this.createGroupCameraList();
     },
 
