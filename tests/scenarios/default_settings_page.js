@@ -198,7 +198,8 @@ over({ triggerRandomTriggerTimesEnable: false }, () => {
     zeb.click('#md_cancel');
 });
 
-const ADDRESS = 'The address is not whole: each of its numbers is one from 0 to 255.';
+const ADDRESS = 'The address is not whole: each of its numbers is one from 0 to 255, the last at least 1, and at most ' +
+    '254 in 192.168.';
 over({ groups: 'a|10.0.0.1:b', areas: '1000|0|9', 'sync/external': 1, 'sync/lport': 2,
     'sync/lport/ipaddress': '10.0.0.1' }, () => {
     zeb.click('#md_addgroup');
@@ -225,7 +226,7 @@ over({ groups: 'a|10.0.0.1:b', areas: '1000|0|9', 'sync/external': 1, 'sync/lpor
     fill('md_camera_ip4', '03\n');
     same(groups(), 'a|10.0.0.1:b:x|999.999.999.3', 'added');
     tab(4);
-    [['1', 'End frame must always be greater than the Start frame.'], ['', 'Input: First frame'],
+    [['1', 'The last frame must not be before the first.'], ['', 'Input: First frame'],
         ['0', 'Cannot add because there is a duplicate Frame rate.']].forEach(([start, refusal]) => {
         fill('md_range_start', start + '\n');
         same(told(), refusal, `a range from "${start}"`);

@@ -412,8 +412,12 @@
         <translation>Trigger parameter</translation>
     </message>
     <message>
+        <source>End frame must always be greater than the Start frame.</source>
+        <translation>The last frame must not be before the first.</translation>
+    </message>
+    <message>
         <source>Input IPAddress</source>
-        <translation>The address is not whole: each of its numbers is one from 0 to 255.</translation>
+        <translation>The address is not whole: each of its numbers is one from 0 to 255, the last at least 1, and at most 254 in 192.168.</translation>
     </message>
     <message>
         <source>Batch setting</source>

@@ -1013,7 +1013,7 @@
     </message>
     <message>
         <source>Input IPAddress</source>
-        <translation>アドレスが正しくありません。それぞれ 0 から 255 までの数字を入力してください。</translation>
+        <translation>アドレスが正しくありません。それぞれ 0 から 255 までの数字を入力してください。最後の数字は 1 以上、192.168 では 254 以下です。</translation>
     </message>
     <message>
         <source>Batch setting</source>
