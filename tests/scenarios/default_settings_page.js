@@ -99,6 +99,13 @@ same(over({ 'sync/external': 1, 'sync/generator/address': '300.lab.1.1' }, () =>
     zeb.click('#md_ok');
 }), { 'sync/generator/address': '255.0.1.1' }, 'what the page makes of an address is stored');
 
+same(over({ 'sync/lport': 2 }, () => {
+    tab(2);
+    zeb.choose('#md_signal_distributor', '0');
+    zeb.page('wrentabledialog.updateUI()');
+    zeb.click('#md_cancel');
+}), { triggerInEnable: true, triggerIn: 9, 'sync/lport': 0 }, 'left by a Sync Hub');
+
 ['live', 'memory'].forEach(mode => {
     const master = { 'sync/masterCamera': '10.99.0.1' };
     zeb.mode(mode);
@@ -119,6 +126,9 @@ const MADE = {
 same(over({}, () => {
     zeb.click('#md_addgroup');
     zeb.type('\n');
+    zeb.dialog("document.getElementById('md_addgroup').focus()");
+    zeb.key('Return', { hold: 500 });
+    zeb.click('[aria-describedby=add_group_dialog] .close');
     zeb.click('#md_device_group_list .groupes li');
     zeb.click('#md_addcamera');
     fill('md_camera_ip4', '7\n');

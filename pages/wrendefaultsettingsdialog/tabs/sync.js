@@ -20,7 +20,6 @@ Object.assign(wrendefaultsettingsdialog_obj, {
     distributor: () => Number(document.getElementById('md_signal_distributor').value) || NO_DISTRIBUTOR,
     syncInput: () => document.querySelector('[name="sync_in_radio"]:checked').value,
 
-    // A Sync Hub needs one certain signal at the trigger terminal.
     showDistributor(byUser) {
         const distributor = this.distributor();
         const isHub = distributor === SYNC_HUB;
@@ -29,11 +28,21 @@ Object.assign(wrendefaultsettingsdialog_obj, {
         gridLists.synchub.draw();
         zeb4func.disable('#md_enable_trig_ttl_in_enable, #md_enable_trig_ttl_in', isHub);
         if (isHub) {
-            document.getElementById('md_enable_trig_ttl_in_enable').checked = true;
-            chooseOption(document.getElementById('md_enable_trig_ttl_in'), TRIG_NEG);
-            this.settings.get('wren/settings/triggerInEnable').force(byUser);
-            this.settings.get('wren/settings/triggerIn').force(byUser);
+            this.forceHubTrigger(byUser);
+        } else if (byUser) {
+            this.hubTrigger().forEach(setting => setting.accept());
         }
+    },
+
+    // A Sync Hub needs one certain signal at the trigger terminal.
+    forceHubTrigger(byUser) {
+        document.getElementById('md_enable_trig_ttl_in_enable').checked = true;
+        chooseOption(document.getElementById('md_enable_trig_ttl_in'), TRIG_NEG);
+        this.hubTrigger().forEach(setting => setting.force(byUser));
+    },
+
+    hubTrigger() {
+        return ['triggerInEnable', 'triggerIn'].map(name => this.settings.get('wren/settings/' + name));
     },
 
     enableSyncInput() {
