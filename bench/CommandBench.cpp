@@ -35,6 +35,12 @@ struct Command {
     std::function<void(SimHost&, const DocKeyList&)> undo;
 };
 
+void lock(SimHost& host, const DocKeyList& keys, bool on) {
+    for (DOC_Interface* doc : docsOf(host.docManager(), keys)) {
+        doc->lock().setParamLock(on);
+    }
+}
+
 void load(SimHost& host, const DocKeyList& keys) {
     TableState state;
     GatheredFailures failures;
@@ -50,13 +56,8 @@ const Command Commands[] = {
          host.cameraOps().setRecordRate(docsOf(host.docManager(), keys), 500);
      },
      [](SimHost&, const DocKeyList&) {}},
-    {"lock",
-     [](SimHost& host, const DocKeyList& keys) {
-         for (DOC_Interface* doc : docsOf(host.docManager(), keys)) {
-             doc->lock().setParamLock(true);
-         }
-     },
-     [](SimHost&, const DocKeyList&) {}},
+    {"lock", [](SimHost& host, const DocKeyList& keys) { lock(host, keys, true); },
+     [](SimHost& host, const DocKeyList& keys) { lock(host, keys, false); }},
     {"arm", [](SimHost& host, const DocKeyList&) { host.recorder().startRecReady(); },
      [](SimHost& host, const DocKeyList&) { host.recorder().cancelRecording(false); }},
     {"load", load, [](SimHost&, const DocKeyList&) {}},
