@@ -2,6 +2,7 @@
 Object.assign(wrendefaultsettingsdialog_obj, {
     initializeGroupList() {
         const list = document.getElementById('md_device_group_list');
+        this.groupCursor = new ListCursor();
         this.groupTemplate = Hogan.compile(document.getElementById('md_device_group_template').textContent);
         list.addEventListener('mousedown', event => {
             list.focus();
@@ -41,8 +42,8 @@ Object.assign(wrendefaultsettingsdialog_obj, {
         zeb4func.disable('#md_addcamera', !this.selectedGroup());
     },
 
-    // A list of the page gets its mouse handling when the mouse first goes down on it, for there may be thousands. A row
-    // may have gone by the time the mouse comes up.
+    // A list of the page gets its mouse handling when the mouse first goes down on it, for there may be thousands. By
+    // the time it comes up a row may have gone.
     makeSelectable(list) {
         if (!list || $(list).selectable('instance')) {
             return;
@@ -151,13 +152,14 @@ Object.assign(wrendefaultsettingsdialog_obj, {
     onGroupKey(event) {
         const items = this.shownItems();
         const selected = items.filter(item => item.selected !== '').pop(); // of a group and its camera the camera
-        const at = selected ? items.indexOf(selected) : this.groupAt;
-        const place = placeByKey(event.keyCode, at, items.length, 10);
+        const cursor = this.groupCursor;
+        cursor.place = selected ? items.indexOf(selected) : cursor.place;
+        const place = cursor.target(event.keyCode, items.length, 10);
         if (place !== undefined) {
             this.selectByKey(items[place]);
         } else if (event.keyCode === KEY.SPACE) {
-            this.toggleItem(selected, items[Math.floor(Math.max(0, at))]);
-        } else if (!selected || !this.workByKey(event.keyCode, selected, at)) {
+            this.toggleItem(selected, items[cursor.row]);
+        } else if (!selected || !this.workByKey(event.keyCode, selected)) {
             return;
         }
         event.preventDefault();
@@ -178,11 +180,11 @@ Object.assign(wrendefaultsettingsdialog_obj, {
     },
 
     // What a key does to the row that is selected. Answers whether it does anything.
-    workByKey(keyCode, item, at) {
+    workByKey(keyCode, item) {
         const group = item.cameras ? item : this.groupOfCamera(item.dockey);
         const works = {
             [KEY.DELETE]: () => {
-                this.groupAt = at - 0.5;
+                this.groupCursor.leave(this.groupCursor.place);
                 this.deleteItem(item.dockey);
             },
             [KEY.ENTER]: () => this.editItem(item.dockey),
@@ -194,9 +196,7 @@ Object.assign(wrendefaultsettingsdialog_obj, {
             works[keyCode]();
         }
         return Boolean(works[keyCode]);
-    },
-
-    groupAt: -0.5 // where the keyboard stands when nothing is selected
+    }
 });
 
 const KEY_F2 = 113;

@@ -1,26 +1,12 @@
 const LIST_ROW = 24;
 const gridLists = {}; // short name -> GridList
 
-// Where a key takes the keyboard in a list of `count` rows, of which `page` are seen at once, from the row `at`;
-// undefined when it does not. Where a row has gone, `at` stands between two.
-function placeByKey(keyCode, at, count, page) {
-    const place = {
-        [KEY.UP]: Math.ceil(at - 1),
-        [KEY.DOWN]: Math.floor(at + 1),
-        [KEY.PAGE_UP]: Math.ceil(at - page),
-        [KEY.PAGE_DOWN]: Math.floor(at + page),
-        [KEY.HOME]: 0,
-        [KEY.END]: count - 1
-    }[keyCode];
-    return place === undefined || count === 0 ? undefined : Math.max(0, Math.min(place, count - 1));
-}
-
 // A list of entries in a grid. A row holds the parts of its entry as they were stored, be there too many or too few.
 class GridList {
     // `columns`: { field, caption }, the caption only with `hasHeader`; `hasFiller`: empty rows fill the grid up.
     constructor({ name, columns, hasHeader, hasFiller }) {
         this.name = name;
-        this.cursor = -0.5; // the row where the keyboard stands
+        this.cursor = new ListCursor();
         this.hearers = [];
         const gridName = `md_${name}_list`;
         this.box = document.getElementById(gridName);
@@ -78,7 +64,7 @@ class GridList {
         this.grid.records = rows;
         this.grid.total = rows.length;
         this.grid.last.selection = { indexes: selected < 0 ? [] : [selected], columns: {} };
-        this.cursor = selected < 0 ? Math.min(this.cursor, rows.length - 0.5) : selected;
+        this.cursor.place = selected < 0 ? Math.min(this.cursor.place, rows.length - 0.5) : selected;
         this.draw();
         wrendefaultsettingsdialog_obj.gridListChange(this.name);
     }
@@ -135,21 +121,21 @@ class GridList {
         if (row) {
             const place = this.rows.indexOf(row);
             this.edit(this.rows.filter(other => other !== row));
-            this.cursor = place - 0.5;
+            this.cursor.leave(place);
         }
     }
 
     onSelection(event) {
         event.onComplete = () => {
             const row = this.selected();
-            this.cursor = row ? this.rows.indexOf(row) : this.cursor;
+            this.cursor.place = row ? this.rows.indexOf(row) : this.cursor.place;
             wrendefaultsettingsdialog_obj.gridListChange(this.name);
         };
     }
 
     onKey(event) {
         const page = Math.max(1, Math.floor(this.recordsBox().clientHeight / LIST_ROW));
-        const place = placeByKey(event.keyCode, this.cursor, this.rows.length, page);
+        const place = this.cursor.target(event.keyCode, this.rows.length, page);
         if (isDisabled(this.box)) {
             return;
         }
@@ -171,11 +157,10 @@ class GridList {
     }
 
     toggle() {
-        const index = Math.floor(Math.max(0, this.cursor));
         if (this.selected()) {
             this.grid.selectNone();
-        } else if (index < this.rows.length) {
-            this.select(index);
+        } else if (this.cursor.row < this.rows.length) {
+            this.select(this.cursor.row);
         }
     }
 }

@@ -2,7 +2,9 @@
 // that press only shows it.
 let isCorrected = false; // this press has corrected a number
 
-['mousedown', 'keydown', 'keyup'].forEach(type => document.addEventListener(type, () => { isCorrected = false; }, true));
+['mousedown', 'keydown', 'keyup'].forEach(type => {
+    document.addEventListener(type, () => { isCorrected = false; }, true);
+});
 
 function noteCorrection() {
     isCorrected = true;

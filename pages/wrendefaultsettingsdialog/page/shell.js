@@ -13,8 +13,6 @@ const LISTS_OF_TAB = {
 
 // The page's life from load on. Topics only define; this is the one place where something starts.
 Object.assign(wrendefaultsettingsdialog_obj, {
-    slots: {}, // name of a signal -> what it is connected to
-
     initializePage() {
         this.applyStyle();
         ['open', 'update', 'close'].forEach(name => {
