@@ -1,3 +1,5 @@
+const groupsSetting = setting('groups');
+
 // The groups and their cameras as data.
 Object.assign(wrendefaultsettingsdialog_obj, {
     newItem(members) {
@@ -128,7 +130,7 @@ Object.assign(wrendefaultsettingsdialog_obj, {
     },
 
     listEdited() {
-        this.settings.get('wren/settings/groups').touch();
+        groupsSetting.touch();
         this.createGroupCameraList();
     }
 });

@@ -1,3 +1,5 @@
+const defaultFrequency = setting('externalSyncSignal');
+
 // The lists of what the table may offer. An entry is told from the others by its first `unique` columns, and their
 // numbers give the order, from the lowest on or, with `descending`, from the highest. `word` names what must not come
 // twice; with `needs` an empty box is told, by its name.
@@ -139,7 +141,7 @@ Object.assign(wrendefaultsettingsdialog_obj, {
 
     putDefaultFrequency(text) {
         document.getElementById('md_default_value').value = text;
-        this.settings.get('wren/settings/externalSyncSignal').touch();
+        defaultFrequency.touch();
     }
 });
 

@@ -1,69 +1,69 @@
-// The preferences that the dialog edits.
+// The preferences that the dialog edits, in the order in which they are stored: name, kind, and what makes the control.
+// A name is a key, or its end after `wren/settings/`.
+const SETTINGS = [
+    ['groups', 'groups', page => page.groupsControl()],
+    ['triggerEnable', 'bool', () => checkBox('md_use_trigger')],
+    ['triggerMode', 'int', () => choice('md_trigger', Number)],
+    ['triggerManualBeforePer', 'float', page => page.beforeControl()],
+    ['triggerManualAfterPer', 'float', page => page.afterControl()],
+    ['triggerRandomFrame', 'int', page => numberIn(page.randomFrame)],
+    ['triggerRandomTriggerTimesEnable', 'bool', () => checkBox('md_trigger_random_trigger_times_enable')],
+    ['triggerRandomTriggerTimes', 'int', page => numberIn(page.randomTimes)],
+    ['triggerSwInEnable', 'bool', () => checkBox('md_enable_trig_sw_in_enable')],
+    ['triggerSwIn', 'int', () => choice('md_enable_trig_sw_in', Number)],
+    ['triggerInEnable', 'bool', () => checkBox('md_enable_trig_ttl_in_enable')],
+    ['triggerIn', 'int', () => choice('md_enable_trig_ttl_in', Number)],
+    ['resolutionLock', 'bool', () => checkBox('md_locked_resolution')],
+    ['shutterSpeedLock', 'bool', () => checkBox('md_locked_shutter_speed')],
+    ['lowlightMaxResolution', 'bool', () => checkBox('md_lowlight_max_resolution')],
+    ['syncInEnable', 'bool', () => checkBox('md_use_synccontrol')],
+    ['sync/lport', 'int', () => choice('md_signal_distributor', Number)],
+    ['sync/external', 'bit', page => page.syncInputControl()],
+    ['sync/generator/input', 'int', () => choice('md_sync_in', Number)],
+    ['sync/generator/address', 'text', () => addressIn('md_signal_generator')],
+    ['sync/masterCamera', 'text', page => page.masterCameraControl()],
+    ['sync/lport/ipaddress', 'text', () => listText('synchub', ',', distinctHubs)],
+    ['frameRatesEnable', 'bool', () => checkBox('md_framerates_enable')],
+    ['frameRates', 'text', () => listText('framerate', ':')],
+    ['shutterSpeedsEnable', 'bool', () => checkBox('md_shutter_speeds_enable')],
+    ['shutterSpeeds', 'text', () => listText('shutterspeed', ':')],
+    ['resolutionsEnable', 'bool', () => checkBox('md_resolutions_enable')],
+    ['resolutions', 'text', () => listText('resolution', ':')],
+    ['externalSyncSignalsEnable', 'bool', () => checkBox('md_external_sync_signals_enable')],
+    ['externalSyncSignal', 'int', page => page.defaultFrequencyControl()],
+    ['externalSyncSignals', 'text', () => listText('externalsyncsigfreq', ':')],
+    ['areasEnable', 'bool', () => checkBox('md_disp_range_enable')],
+    ['areas', 'text', () => listText('disp_range', ':')],
+    ['alert/wren/multiheadlockalert', 'bool', () => checkBox('md_confirm_multiheadlockalert')],
+    ['recordingSync', 'bool', () => checkBox('md_recording_sync')],
+    ['recreadyTableColor', 'text', () => radio('tablecolor_recready')],
+    ['recordingTableColor', 'text', () => radio('tablecolor_recording')],
+    ['memoryTableColor', 'text', () => radio('tablecolor_memory')]
+];
+
+SETTINGS.forEach(([name, kind, makeControl]) => {
+    const key = wholeKey(name);
+    wrendefaultsettingsdialog_obj.settings.set(key, new Setting(key, kind, makeControl));
+});
+
+function wholeKey(name) {
+    return name.includes('/') ? name : 'wren/settings/' + name;
+}
+
+// The setting of that name. Topics that change one name it at their heads, so that a wrong name shows at load.
+function setting(name) {
+    const found = wrendefaultsettingsdialog_obj.settings.get(wholeKey(name));
+    if (!found) {
+        throw new Error(`There is no setting ${name}.`);
+    }
+    return found;
+}
+
 Object.assign(wrendefaultsettingsdialog_obj, {
     initializeSettings() {
-        this.tableOfSettings().forEach(([key, kind, control]) => {
-            this.settings.set(key, new Setting(key, kind, control));
-        });
+        this.settings.forEach(each => each.bind(this));
     },
 
-    // In the order in which they are stored.
-    tableOfSettings() {
-        return [
-            ['wren/settings/groups', 'groups', this.groupsControl()]
-        ].concat(this.cameraSettings(), this.syncSettings(), this.listSettings(), [
-            ['alert/wren/multiheadlockalert', 'bool', checkBox('md_confirm_multiheadlockalert')],
-            ['wren/settings/recordingSync', 'bool', checkBox('md_recording_sync')]
-        ], Object.keys(TABLE_COLOUR_OF).map(name => [TABLE_COLOUR_OF[name].key, 'text', radio(name)]));
-    },
-
-    cameraSettings() {
-        return [
-            ['triggerEnable', 'bool', checkBox('md_use_trigger')],
-            ['triggerMode', 'int', choice('md_trigger', Number)],
-            ['triggerManualBeforePer', 'float', this.triggerPointControl()],
-            ['triggerManualAfterPer', 'float', numberIn(this.after)],
-            ['triggerRandomFrame', 'int', numberIn(this.randomFrame)],
-            ['triggerRandomTriggerTimesEnable', 'bool', checkBox('md_trigger_random_trigger_times_enable')],
-            ['triggerRandomTriggerTimes', 'int', numberIn(this.randomTimes)],
-            ['triggerSwInEnable', 'bool', checkBox('md_enable_trig_sw_in_enable')],
-            ['triggerSwIn', 'int', choice('md_enable_trig_sw_in', Number)],
-            ['triggerInEnable', 'bool', checkBox('md_enable_trig_ttl_in_enable')],
-            ['triggerIn', 'int', choice('md_enable_trig_ttl_in', Number)],
-            ['resolutionLock', 'bool', checkBox('md_locked_resolution')],
-            ['shutterSpeedLock', 'bool', checkBox('md_locked_shutter_speed')],
-            ['lowlightMaxResolution', 'bool', checkBox('md_lowlight_max_resolution')]
-        ].map(inSettings);
-    },
-
-    syncSettings() {
-        return [
-            ['wren/settings/syncInEnable', 'bool', checkBox('md_use_synccontrol')],
-            ['sync/lport', 'int', choice('md_signal_distributor', Number)],
-            ['sync/external', 'bit', this.syncInputControl()],
-            ['sync/generator/input', 'int', choice('md_sync_in', Number)],
-            ['sync/generator/address', 'text', addressIn('md_signal_generator')],
-            ['sync/masterCamera', 'text', this.masterCameraControl()],
-            ['sync/lport/ipaddress', 'text', listText('synchub', ',', distinctHubs)]
-        ];
-    },
-
-    listSettings() {
-        return [
-            ['frameRatesEnable', 'bool', checkBox('md_framerates_enable')],
-            ['frameRates', 'text', listText('framerate', ':')],
-            ['shutterSpeedsEnable', 'bool', checkBox('md_shutter_speeds_enable')],
-            ['shutterSpeeds', 'text', listText('shutterspeed', ':')],
-            ['resolutionsEnable', 'bool', checkBox('md_resolutions_enable')],
-            ['resolutions', 'text', listText('resolution', ':')],
-            ['externalSyncSignalsEnable', 'bool', checkBox('md_external_sync_signals_enable')],
-            ['externalSyncSignal', 'int', this.defaultFrequencyControl()],
-            ['externalSyncSignals', 'text', listText('externalsyncsigfreq', ':')],
-            ['areasEnable', 'bool', checkBox('md_disp_range_enable')],
-            ['areas', 'text', listText('disp_range', ':')]
-        ].map(inSettings);
-    },
-
-    // They say themselves when they are touched.
     groupsControl() {
         return {
             show: text => {
@@ -71,20 +71,26 @@ Object.assign(wrendefaultsettingsdialog_obj, {
                 this.last_select_group = '';
                 this.createGroupCameraList();
             },
-            value: () => this.concatGroups(this.cameraList),
-            listen: () => undefined
+            value: () => this.concatGroups(this.cameraList)
         };
     },
 
-    // The two percentages move together, so what touches one touches both.
-    triggerPointControl() {
-        const control = numberIn(this.before);
-        return Object.assign({}, control, {
+    // The two percentages move together; `putTriggerPoint` touches both.
+    beforeControl() {
+        return {
             show: percent => {
-                control.show(percent);
+                this.before.show(percent);
                 $('#md_trig_slider').slider('value', percent);
-            }
-        });
+            },
+            value: () => this.before.number
+        };
+    },
+
+    afterControl() {
+        return {
+            show: percent => this.after.show(percent),
+            value: () => this.after.number
+        };
     },
 
     syncInputControl() {
@@ -113,16 +119,15 @@ Object.assign(wrendefaultsettingsdialog_obj, {
         const box = document.getElementById('md_default_value');
         return {
             show: number => { box.value = number < 0 ? '' : String(number); },
-            value: () => box.value === '' ? -1 : Number(box.value),
-            listen: () => undefined
+            value: () => box.value === '' ? -1 : Number(box.value)
         };
     },
 
     load() {
         this.isLoaded = false;
         this.loadMasterCameras();
-        this.settings.forEach(setting => setting.load());
-        this.dispTriggerParam(this.settings.get('wren/settings/triggerMode').stored);
+        this.settings.forEach(each => each.load());
+        this.dispTriggerParam(setting('triggerMode').stored);
         this.showDistributor(false);
         this.enableSyncInput();
         this.isLoaded = true;
@@ -131,15 +136,11 @@ Object.assign(wrendefaultsettingsdialog_obj, {
     // All values are there before the first one is stored.
     save() {
         if (this.isLoaded) {
-            const values = Array.from(this.settings.values(), setting => [setting, setting.gather()]);
-            values.forEach(([setting, value]) => setting.store(value));
+            const values = Array.from(this.settings.values(), each => [each, each.gather()]);
+            values.forEach(([each, value]) => each.store(value));
         }
     }
 });
-
-function inSettings([name, kind, control]) {
-    return ['wren/settings/' + name, kind, control];
-}
 
 // `read` makes of the stored text what the list shows.
 function listText(name, delimiter, read = text => text) {

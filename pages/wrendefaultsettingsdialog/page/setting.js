@@ -8,17 +8,25 @@ const ACCESS = {
     groups: ['getPrefString', 'setPrefDQString']
 };
 
-// A preference and the control that shows it. The control has `show(value)`, `value()`, `listen(touch)`, which calls
-// `touch` whenever the user changes it, and may have `isUnknown()`: what it shows says nothing of the preference.
+// A preference and the control that shows it. The control has `show(value)` and `value()`. It may have `listen(touch)`,
+// which calls `touch` whenever the user changes it (where it has none, the page touches the setting), and
+// `isUnknown()`: what it shows says nothing of the preference.
 //
 // The store may hold what the control can't show: an entry made by hand, a number beyond the limits, a camera that is
 // not there today. So what nobody has touched goes back as it came.
 class Setting {
-    constructor(key, kind, control) {
+    constructor(key, kind, makeControl) {
         this.key = key;
         [this.getter, this.setter] = ACCESS[kind];
-        this.control = control;
-        control.listen(() => this.touch());
+        this.makeControl = makeControl;
+    }
+
+    // To be called once the page's elements and boxes are there.
+    bind(page) {
+        this.control = this.makeControl(page);
+        if (this.control.listen) {
+            this.control.listen(() => this.touch());
+        }
     }
 
     load() {

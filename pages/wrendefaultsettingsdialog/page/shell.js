@@ -69,7 +69,7 @@ Object.assign(wrendefaultsettingsdialog_obj, {
         if (!this.isConsistent()) {
             return;
         }
-        this.settings.forEach(setting => setting.accept());
+        this.settings.forEach(each => each.accept());
         this.save();
         bridge.ok();
     }

@@ -6,11 +6,11 @@ const COLOURS = {
     blue: textKey('Blue'),
     skyblue: textKey('Sky blue')
 };
-// Name of the radio buttons -> what is usual, and the preference.
+// Name of the radio buttons -> what is usual, and the setting.
 const TABLE_COLOUR_OF = {
-    tablecolor_recready: { usual: 'green', key: PREF_KEY_WREN_SETTINGS_TABLE_COLOR_RECREADY },
-    tablecolor_recording: { usual: 'orange', key: PREF_KEY_WREN_SETTINGS_TABLE_COLOR_RECORDING },
-    tablecolor_memory: { usual: 'skyblue', key: PREF_KEY_WREN_SETTINGS_TABLE_COLOR_MEMORY }
+    tablecolor_recready: { usual: 'green', chosen: setting('recreadyTableColor') },
+    tablecolor_recording: { usual: 'orange', chosen: setting('recordingTableColor') },
+    tablecolor_memory: { usual: 'skyblue', chosen: setting('memoryTableColor') }
 };
 
 Object.assign(wrendefaultsettingsdialog_obj, {
@@ -21,9 +21,9 @@ Object.assign(wrendefaultsettingsdialog_obj, {
             });
         });
         onClick('#reset_table_color', () => Object.keys(TABLE_COLOUR_OF).forEach(name => {
-            const { usual, key } = TABLE_COLOUR_OF[name];
+            const { usual, chosen } = TABLE_COLOUR_OF[name];
             radio(name).show(usual);
-            this.settings.get(key).touch();
+            chosen.touch();
         }));
         onClick('#md_reset_sort_table', () => bridge.resetSortTable());
     }

@@ -3,6 +3,7 @@ const L_PORT = 1;
 const SYNC_HUB = 2;
 const TRIG_NEG = '9';
 const CHAIN = '1'; // of the two radio buttons
+const hubTrigger = ['triggerInEnable', 'triggerIn'].map(setting);
 
 // How the cameras are synchronised.
 Object.assign(wrendefaultsettingsdialog_obj, {
@@ -30,7 +31,7 @@ Object.assign(wrendefaultsettingsdialog_obj, {
         if (isHub) {
             this.forceHubTrigger(byUser);
         } else if (byUser) {
-            this.hubTrigger().forEach(setting => setting.accept());
+            hubTrigger.forEach(each => each.accept());
         }
     },
 
@@ -38,11 +39,7 @@ Object.assign(wrendefaultsettingsdialog_obj, {
     forceHubTrigger(byUser) {
         document.getElementById('md_enable_trig_ttl_in_enable').checked = true;
         chooseOption(document.getElementById('md_enable_trig_ttl_in'), TRIG_NEG);
-        this.hubTrigger().forEach(setting => setting.force(byUser));
-    },
-
-    hubTrigger() {
-        return ['triggerInEnable', 'triggerIn'].map(name => this.settings.get('wren/settings/' + name));
+        hubTrigger.forEach(each => each.force(byUser));
     },
 
     enableSyncInput() {

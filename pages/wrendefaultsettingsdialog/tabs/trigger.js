@@ -15,6 +15,9 @@ const TRIGGER_ROWS = [
     ['random_times', 'md_trigger_random_times_row']
 ];
 
+const timesSetting = setting('triggerRandomTriggerTimes');
+const percentages = ['triggerManualBeforePer', 'triggerManualAfterPer'].map(setting);
+
 Object.assign(wrendefaultsettingsdialog_obj, {
     initializeTrigger() {
         const percent = { widget: 'spinnerRealtimeFire', min: 0, max: 100, step: 0.01, start: 50 };
@@ -65,7 +68,7 @@ Object.assign(wrendefaultsettingsdialog_obj, {
         const times = isOff ? 0 : Math.max(1, this.randomTimes.number);
         if (parts !== undefined && times !== this.randomTimes.number) {
             this.randomTimes.show(times);
-            this.settings.get('wren/settings/triggerRandomTriggerTimes').force(byUser);
+            timesSetting.force(byUser);
         }
     },
 
@@ -75,7 +78,6 @@ Object.assign(wrendefaultsettingsdialog_obj, {
         this.before.show(before);
         this.after.show(Number((100 - before).toFixed(2)));
         $('#md_trig_slider').slider('value', before);
-        this.settings.get('wren/settings/triggerManualBeforePer').touch();
-        this.settings.get('wren/settings/triggerManualAfterPer').touch();
+        percentages.forEach(each => each.touch());
     }
 });
