@@ -105,17 +105,13 @@ DocKeyList CameraSteps::askAll(const QString& label, const DocKeyList& keys, con
     DocKeyList yes;
     for (const Row& row : runRows(keys, ask)) {
         if (!row.failure.isEmpty()) {
-            noteOf(row.key, label, row.failure);
+            m_failures.note(lineOf(row.key, label, row.failure));
+            m_failed << row.key;
         } else if (row.answer) {
             yes << row.key;
         }
     }
     return yes;
-}
-
-void CameraSteps::noteOf(DOCKEY key, const QString& label, const QString& failure) {
-    m_failures.note(lineOf(key, label, failure));
-    m_failed << key;
 }
 
 /// One that has not told its name has it from the host's own words, if they begin with it.
@@ -127,7 +123,8 @@ QString CameraSteps::lineOf(DOCKEY key, const QString& label, const QString& fai
 }
 
 /// A line is of the camera with the longest name that it begins with; of none while two have that name.
-void CameraSteps::note(const QString& label, const DocKeyList& keys, const GatheredFailures& refusals) {
+void CameraSteps::note(const QString& label, const DocKeyList& keys, const DocKeyList& failing,
+                       const GatheredFailures& refusals) {
     for (const QString& line : refusals.lines()) {
         DocKeyList named;
         int longest = 0;
@@ -138,10 +135,9 @@ void CameraSteps::note(const QString& label, const DocKeyList& keys, const Gathe
                 longest = length;
             }
         }
-        if (named.size() == 1) {
-            noteOf(named.first(), label, line);
-        } else {
-            m_failures.note(line);
+        m_failures.note(named.size() == 1 ? lineOf(named.first(), label, line) : line);
+        if (named.size() == 1 && failing.contains(named.first())) {
+            m_failed << named.first();
         }
     }
 }

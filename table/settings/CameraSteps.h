@@ -36,8 +36,10 @@ public:
     bool isPluginThere() const;
     /// Those that have not failed; none without the plug-in.
     DocKeyList left(const DocKeyList& keys) const;
-    /// What a command of the host to `keys` has met: lines that begin with the name of a camera.
-    void note(const QString& label, const DocKeyList& keys, const GatheredFailures& refusals);
+    /// What a command of the host to `keys` has met: lines that begin with the name of a camera. It has failed if it is
+    /// one of `failing`.
+    void note(const QString& label, const DocKeyList& keys, const DocKeyList& failing,
+              const GatheredFailures& refusals);
     /// After the last step: the user may press again.
     void finish() { m_wait.finish(); }
 
@@ -52,7 +54,6 @@ private:
 
     std::vector<Row> runRows(const DocKeyList& keys, const std::function<void(Row&)>& work);
     DocKeyList askAll(const QString& label, const DocKeyList& keys, const Question& question);
-    void noteOf(DOCKEY key, const QString& label, const QString& failure);
     QString lineOf(DOCKEY key, const QString& label, const QString& failure) const;
 
     ZebHost& m_host;

@@ -159,9 +159,12 @@ void DefaultsLoad::setTrigger(int mode, const zeb::TriggerSettings& parameters) 
             m_misfits << triggers.misfitText(m_steps.nameOf(key));
         }
     }
+    // One that only lacks the mode says so, and is as good as any other for the later steps.
+    const DocKeyList offering = m_steps.ask(
+        label, fitting, [mode](DOC_Interface& doc) { return doc.control().getTriggerModeList().contains(mode); });
     const DocList docs = docsOf(m_host.docManager(), m_steps.left(fitting));
     if (!docs.isEmpty()) {
-        m_steps.note(label, fitting, triggers.send(docs, mode, parameters));
+        m_steps.note(label, fitting, offering, triggers.send(docs, mode, parameters));
     }
 }
 

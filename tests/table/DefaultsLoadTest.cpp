@@ -66,6 +66,7 @@ TEST_F(DefaultsLoadTest, GivesEachCameraWhatItHasAPlaceFor) {
         {5, "2, 3:9 4:2 7:17, 11, 2"},
         {6, locked},
         {7, "2, 1:12 5:14 7:17 10:9, 11, 3"},
+        {8, "0, , 11, 2"},
     };
     for (const auto& [key, set] : cases) {
         EXPECT_EQ(setOn(key), set) << key;
