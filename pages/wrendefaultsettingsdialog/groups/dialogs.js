@@ -99,20 +99,6 @@ function openDialog(selector, key, title) {
     $(selector).attr('typeofkey', key).dialog('option', 'title', title).dialog('open');
 }
 
-// Enter that is held is one press, or it would accept and open a dialog in turn. The engine's `repeat` is not reliable,
-// and a message box keeps the release for itself.
-let isEnterDown = false;
-
-document.addEventListener('keydown', event => {
-    if (event.keyCode === KEY.ENTER && isEnterDown) {
-        event.preventDefault();
-        event.stopPropagation();
-    }
-    isEnterDown = isEnterDown || event.keyCode === KEY.ENTER;
-}, true);
-document.addEventListener('keyup', event => { isEnterDown = isEnterDown && event.keyCode !== KEY.ENTER; }, true);
-window.addEventListener('blur', () => { isEnterDown = false; });
-
 // 'add', or the key of what is edited.
 function keyOfDialog(selector) {
     const key = $(selector).attr('typeofkey');
