@@ -44,8 +44,9 @@ TEST_F(PageManagement, FindsCamerasWhileTheTableIsOpen) {
     page.show(0);
     fill(2, "\b\t");
     EXPECT_EQ(commands(test, page, [&] { page.click("#livecontrol_search"); }), QStringList());
-    EXPECT_EQ(test.desk.take(), QStringList("The address is not whole: each of its numbers is one from 0 to 255, the last "
-                                            "at least 1, and at most 254 in 192.168."));
+    EXPECT_EQ(test.desk.take(),
+              QStringList("The address is not whole: each of its numbers is one from 0 to 255, the last "
+                          "at least 1, and at most 254 in 192.168."));
     fill(2, "168");
     EXPECT_EQ(commands(test, page, [&] { page.click("#livecontrol_search"); }),
               QStringList("searchCamera 192.168.7.0"));
