@@ -18,7 +18,8 @@ DefaultSettings DefaultSettings::read(const ZebHost& host) {
     settings.groups = readGroups(host.getPrefString(settingskeys::Groups));
     if (host.getPrefBool(settingskeys::ExternalSyncSignals % settingskeys::SwitchSuffix)) {
         settings.syncFrequency = host.getPrefInt(settingskeys::ExternalSyncSignal);
-        settings.syncSignals = readNumbers(host.getPrefString(settingskeys::ExternalSyncSignals));
+        settings.syncSignals =
+            host.getPrefString(settingskeys::ExternalSyncSignals).split(QLatin1Char(':'), Qt::SkipEmptyParts);
     }
     settings.allowed.frameRates = readNumbers(listText(host, settingskeys::FrameRates));
     settings.allowed.shutterSpeeds = readNumbers(listText(host, settingskeys::ShutterSpeeds));
