@@ -193,13 +193,6 @@ over({ triggerRandomTriggerTimesEnable: false }, () => {
     fill('md_trigger_random_times', '900');
     zeb.click('#md_ok');
     same(value('md_trigger_random_times'), '100', 'the press that limits it only shows it');
-    const rows = "['manual', 'random_frame_row', 'random_check_row', 'random_times_row'].map(row => " +
-        "document.getElementById('md_trigger_' + row).offsetHeight > 0 ? 'x' : '-').join('')";
-    [['13', '----'], ['7', 'xx-x']]
-        .forEach(([mode, shown]) => {
-            zeb.choose('#md_trigger', mode);
-            same(zeb.dialog(rows), shown, 'rows of mode ' + mode);
-        });
     zeb.choose('#md_trigger', '4');
     zeb.click('#md_trig_slider .ui-slider-handle');
     zeb.key('End');
@@ -247,10 +240,12 @@ over({ groups: 'a|10.0.0.1:b', areas: '1000|0|9', 'sync/external': 1, 'sync/lpor
     same(told(), 'Duplicate IPAddress.', 'of a hub');
     fill('md_signal_generator_ip1', '10');
     zeb.click('#md_ok');
-    for (let looks = 0; looks < 50 && value('md_ok') !== undefined; looks++) {
+    let said = '';
+    for (let looks = 0; looks < 500 && said === ''; looks++) {
         zeb.wait(20);
+        said = told();
     }
-    same(told(), ADDRESS, 'of the generator');
+    same(said, ADDRESS, 'of the generator');
     same(zeb.dialog('document.activeElement.id'), 'md_signal_generator_ip1', 'where it is typed');
     zeb.click('#md_cancel');
 });
