@@ -5,12 +5,12 @@
 #include "DOC_Control.h"
 #include "DOC_Interface.h"
 #include "DOC_Lock.h"
-#include "DefaultSettings.h"
 #include "DeterScope.h"
 #include "DocKeys.h"
 #include "DocumentGuard.h"
 #include "InputPorts.h"
 #include "SignalSources.h"
+#include "TableDefaults.h"
 #include "TableState.h"
 #include "TextKey.h"
 #include "TriggerEditing.h"
@@ -42,7 +42,7 @@ void setSignal(DOC_Control& camera, int port, int signal) {
 
 void DefaultsLoad::loadAll() {
     m_failures.attempt([this] {
-        const DefaultSettings table = DefaultSettings::read(m_host);
+        const TableDefaults table = TableDefaults::read(m_host);
         load(m_host.docManager().getConnectedDocKeys(), &table);
     });
 }
@@ -52,7 +52,7 @@ void DefaultsLoad::loadOnto(const DocKeyList& joined) {
 }
 
 /// Without `table` the cameras alone.
-void DefaultsLoad::load(const DocKeyList& keys, const DefaultSettings* table) {
+void DefaultsLoad::load(const DocKeyList& keys, const TableDefaults* table) {
     const CameraDefaults defaults = CameraDefaults::read(m_host);
     DocumentGuard guard(m_host, false, false);
     std::optional<DeterScope> noCycles(m_host);
@@ -68,7 +68,7 @@ void DefaultsLoad::load(const DocKeyList& keys, const DefaultSettings* table) {
     }
 }
 
-void DefaultsLoad::apply(const CameraDefaults& defaults, const DefaultSettings* table) {
+void DefaultsLoad::apply(const CameraDefaults& defaults, const TableDefaults* table) {
     leaveLowLight();
     m_open = m_steps.ask(m_host.translate(CameraState), m_connected,
                          [](DOC_Interface& doc) { return !doc.lock().isParamLocked(); });
@@ -168,7 +168,7 @@ void DefaultsLoad::setTrigger(int mode, const zeb::TriggerSettings& parameters) 
     }
 }
 
-void DefaultsLoad::takeLists(const DefaultSettings& settings) {
+void DefaultsLoad::takeLists(const TableDefaults& settings) {
     m_state.sync.frequency = settings.syncFrequency.value_or(m_state.sync.frequency);
     m_state.sync.offered = settings.syncSignals;
     log("syncSignal", m_state.sync.frequency);

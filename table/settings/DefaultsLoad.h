@@ -8,7 +8,7 @@
 class GatheredFailures;
 class ZebHost;
 struct CameraDefaults;
-struct DefaultSettings;
+struct TableDefaults;
 struct TableState;
 
 /// Brings the default settings to cameras, and to the table, once. Runs event loops, in which no press arrives but in
@@ -28,14 +28,14 @@ public:
     void loadOnto(const DocKeyList& joined);
 
 private:
-    void load(const DocKeyList& keys, const DefaultSettings* table);
+    void load(const DocKeyList& keys, const TableDefaults* table);
     bool readCameras(const DocKeyList& keys);
-    void apply(const CameraDefaults& defaults, const DefaultSettings* table);
+    void apply(const CameraDefaults& defaults, const TableDefaults* table);
     void leaveLowLight();
     void returnToLowLight();
     void setCameras(const CameraDefaults& defaults);
     void setTrigger(int mode, const zeb::TriggerSettings& parameters);
-    void takeLists(const DefaultSettings& settings);
+    void takeLists(const TableDefaults& settings);
     void connectSignalSources();
 
     ZebHost& m_host;

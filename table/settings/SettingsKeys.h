@@ -2,7 +2,8 @@
 
 #include <QString>
 
-/// Preferences that hold the default settings. What decides on the common signal is read by `syncprefs`.
+/// Preferences of the default settings that C++ reads, and one of the host's own. The dialog's page has them all; what
+/// decides on the common signal is read by `syncprefs`.
 namespace settingskeys {
 
 /// The dialog has been accepted once.
@@ -35,8 +36,9 @@ inline const QString ResolutionLock = QStringLiteral("wren/settings/resolutionLo
 inline const QString ShutterSpeedLock = QStringLiteral("wren/settings/shutterSpeedLock");
 inline const QString LowLightMaxResolution = QStringLiteral("wren/settings/lowlightMaxResolution");
 
-/// The cameras are put on the common signal before they are armed, and played at its speed.
+/// The cameras are put on the common signal before they are armed.
 inline const QString RecordingSync = QStringLiteral("wren/settings/recordingSync");
+/// They are played at its speed; the host's preferences have the box.
 inline const QString DeviceSpeedPlaying = QStringLiteral("wren/settings/deviceSpeedPlaying");
 
 /// Colour of the table while cameras get ready.

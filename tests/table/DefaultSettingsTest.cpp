@@ -1,4 +1,4 @@
-#include "DefaultSettings.h"
+#include "TableDefaults.h"
 #include "GUI_WrenDefaultSettingsDialog.h"
 #include "TableFixture.h"
 
@@ -18,7 +18,7 @@ QStringList shown(const QList<CameraGroup>& groups) {
     return texts;
 }
 
-TEST(DefaultSettings, Groups) {
+TEST(TableDefaults, Groups) {
     struct Case {
         const char* told;
         const char* text;
@@ -39,7 +39,7 @@ TEST(DefaultSettings, Groups) {
     }
 }
 
-TEST(DefaultSettings, ListsAndAreas) {
+TEST(TableDefaults, ListsAndAreas) {
     EXPECT_EQ(readNumbers("500::fast:0:1000|"), (QStringList{"500", "1000"}));
     EXPECT_EQ(readResolutions("1280|800:640|480:320"), (QStringList{"1280 x 800", "640 x 480"}))
         << "an entry without a height is none";

@@ -13,9 +13,9 @@ class QWindow;
 class Simulator;
 struct ClickOptions;
 
-/// The plug-in's table as a user has it before him. Every operation but `open` throws `ScenarioError` while there is
-/// no table. What the user does by mouse and keyboard he does to the page of the modal dialog that stands, if there is
-/// one. GUI thread.
+/// The plug-in's table as a user has it before him. What he does by mouse and keyboard he does to the page of the modal
+/// dialog that stands, if there is one. Every operation but `open` throws `ScenarioError` while there is neither. GUI
+/// thread.
 class TableDriver {
 public:
     /// `stop` ends waits that would never end by themselves.

@@ -61,8 +61,8 @@ inline void noteCalls(SimHost& host) {
     QObject::connect(&host.events(), &HostEvents::pluginClosed, [] { Course::note("notifyPluginClosed"); });
 }
 
-/// A host without windows, with preferences of its own, on a clock that the test steps; the table has been opened on it
-/// before. What it is asked to change, its boxes and the log stand in the course, in one order.
+/// A host without windows, with preferences of its own, on a clock that the test steps; the default settings have been
+/// accepted on it. What it is asked to change, its boxes and the log stand in the course, in one order.
 struct TestHost {
     explicit TestHost(const Rig& rig = standardRig(0)) {
         host.prefs().assume(QStringLiteral("wren/settings/done"), true);

@@ -1,4 +1,4 @@
-#include "DefaultSettings.h"
+#include "TableDefaults.h"
 
 #include "SettingsKeys.h"
 #include "ZebHost.h"
@@ -12,9 +12,9 @@ QString listText(const ZebHost& host, const QString& key) {
 
 }  // namespace
 
-DefaultSettings DefaultSettings::read(const ZebHost& host) {
+TableDefaults TableDefaults::read(const ZebHost& host) {
     using namespace defaultsettings;
-    DefaultSettings settings;
+    TableDefaults settings;
     settings.groups = readGroups(host.getPrefString(settingskeys::Groups));
     if (host.getPrefBool(settingskeys::ExternalSyncSignals % settingskeys::SwitchSuffix)) {
         settings.syncFrequency = host.getPrefInt(settingskeys::ExternalSyncSignal);

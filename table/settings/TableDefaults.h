@@ -13,9 +13,9 @@
 class ZebHost;
 
 /// What the default settings say of the table as a whole.
-struct DefaultSettings {
+struct TableDefaults {
     /// Reads the preferences; a list that is switched off there is empty.
-    static DefaultSettings read(const ZebHost& host);
+    static TableDefaults read(const ZebHost& host);
 
     QList<CameraGroup> groups;
     /// Hertz of the external sync signal; nothing when the settings do not tell it.
