@@ -1,5 +1,5 @@
-#include "TableDefaults.h"
 #include "GUI_WrenDefaultSettingsDialog.h"
+#include "TableDefaults.h"
 #include "TableFixture.h"
 
 #include <QApplication>
