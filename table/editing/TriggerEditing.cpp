@@ -94,15 +94,31 @@ QString TriggerEditing::misfitText(const QString& camera) const {
     return camera % QStringLiteral("・・") % m_host.translate(TextKey("%1 is invalid.")).arg(parameter);
 }
 
+std::vector<TriggerEditing::Command> TriggerEditing::commands(int mode, const zeb::TriggerSettings& settings) const {
+    ZebCameraOps& cameras = m_host.cameraOps();
+    const Command setMode = [=, &cameras](const DocList& docs) {
+        cameras.setTriggerMode(docs, settings.kind, mode, settings.reserved1, settings.reserved2,
+                               settings.manualBeforePercent, settings.randomFrames, settings.randomTimes);
+    };
+    if (mode != zeb::TriggerRandom && mode != zeb::TriggerRandomReset) {
+        return {setMode};
+    }
+    // The mode takes its numbers anew once the camera knows how it counts.
+    const Command setPhase = [=, &cameras](const DocList& docs) {
+        cameras.setRandomTriggerPhase(docs, settings.randomTimes > 0);
+    };
+    return {setMode, setPhase, setMode};
+}
+
 /// Each command goes to all cameras, whatever one of them says to an earlier one; answers what they have refused.
 GatheredFailures TriggerEditing::send(const DocList& docs, int mode, const zeb::TriggerSettings& settings) {
-    ZebCameraOps& cameras = m_host.cameraOps();
     DocKeyList keys = keysOf(docs);
     GatheredFailures refusals;
-    const auto attempt = [&](auto&& command) {
+    for (const Command& command : commands(mode, settings)) {
         refusals.attempt([&] {
             try {
-                command();
+                // Documents are others after a command.
+                command(docsOf(m_host.docManager(), keys));
             } catch (const ZebLeftOut& cancelled) {
                 for (const DOCKEY key : cancelled.keys()) {
                     keys.removeAll(key);
@@ -110,17 +126,6 @@ GatheredFailures TriggerEditing::send(const DocList& docs, int mode, const zeb::
                 throw;
             }
         });
-    };
-    const auto setMode = [&](const DocList& there) {
-        cameras.setTriggerMode(there, settings.kind, mode, settings.reserved1, settings.reserved2,
-                               settings.manualBeforePercent, settings.randomFrames, settings.randomTimes);
-    };
-    attempt([&] { setMode(docs); });
-    if (mode == zeb::TriggerRandom || mode == zeb::TriggerRandomReset) {
-        // The mode takes its numbers anew once the camera knows how it counts. Documents are others after a command.
-        ZebDocManager& documents = m_host.docManager();
-        attempt([&] { cameras.setRandomTriggerPhase(docsOf(documents, keys), settings.randomTimes > 0); });
-        attempt([&] { setMode(docsOf(documents, keys)); });
     }
     return refusals;
 }

@@ -5,6 +5,9 @@
 
 #include <QString>
 
+#include <functional>
+#include <vector>
+
 class ZebHost;
 
 /// Sets the trigger mode of many cameras, with the parameters of the host or with those of the default settings. May
@@ -22,12 +25,15 @@ public:
     /// mode that it has, and the user is told by `misfitText`. Any thread.
     static bool fits(DOC_Interface& doc, int mode, const zeb::TriggerSettings& settings);
     QString misfitText(const QString& camera) const;
-    /// Sets the mode; answers what cameras have refused. May run an event loop.
-    GatheredFailures send(const DocList& docs, int mode, const zeb::TriggerSettings& settings);
+    /// Tells the host to set something on cameras. May run an event loop.
+    using Command = std::function<void(const DocList&)>;
+    /// What sets a mode, one after the other.
+    std::vector<Command> commands(int mode, const zeb::TriggerSettings& settings) const;
 
 private:
     void setWithDefaults(const DocList& docs, int mode, GatheredFailures& failures);
     void setWithHostSettings(const DocList& docs, int mode);
+    GatheredFailures send(const DocList& docs, int mode, const zeb::TriggerSettings& settings);
 
     ZebHost& m_host;
 };

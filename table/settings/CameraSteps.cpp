@@ -123,8 +123,9 @@ QString CameraSteps::lineOf(DOCKEY key, const QString& label, const QString& fai
 }
 
 /// A line is of the camera with the longest name that it begins with; of none while two have that name.
-void CameraSteps::note(const QString& label, const DocKeyList& keys, const DocKeyList& failing,
-                       const GatheredFailures& refusals) {
+DocKeyList CameraSteps::note(const QString& label, const DocKeyList& keys, const DocKeyList& failing,
+                             const GatheredFailures& refusals) {
+    DocKeyList refusing;
     for (const QString& line : refusals.lines()) {
         DocKeyList named;
         int longest = 0;
@@ -136,8 +137,12 @@ void CameraSteps::note(const QString& label, const DocKeyList& keys, const DocKe
             }
         }
         m_failures.note(named.size() == 1 ? lineOf(named.first(), label, line) : line);
-        if (named.size() == 1 && failing.contains(named.first())) {
-            m_failed << named.first();
+        if (named.size() == 1) {
+            refusing << named;
+            if (failing.contains(named.first())) {
+                m_failed << named.first();
+            }
         }
     }
+    return refusing;
 }

@@ -36,10 +36,10 @@ public:
     bool isPluginThere() const;
     /// Those that have not failed; none without the plug-in.
     DocKeyList left(const DocKeyList& keys) const;
-    /// What a command of the host to `keys` has met: lines that begin with the name of a camera. It has failed if it is
-    /// one of `failing`.
-    void note(const QString& label, const DocKeyList& keys, const DocKeyList& failing,
-              const GatheredFailures& refusals);
+    /// What a command of the host to `keys` has met: lines that begin with the name of a camera. Answers these cameras;
+    /// those that are among `failing` have failed.
+    DocKeyList note(const QString& label, const DocKeyList& keys, const DocKeyList& failing,
+                    const GatheredFailures& refusals);
     /// After the last step: the user may press again.
     void finish() { m_wait.finish(); }
 

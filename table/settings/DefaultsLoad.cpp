@@ -162,9 +162,16 @@ void DefaultsLoad::setTrigger(int mode, const zeb::TriggerSettings& parameters) 
     // One that only lacks the mode says so, and is as good as any other for the later steps.
     const DocKeyList offering = m_steps.ask(
         label, fitting, [mode](DOC_Interface& doc) { return doc.control().getTriggerModeList().contains(mode); });
-    const DocList docs = docsOf(m_host.docManager(), m_steps.left(fitting));
-    if (!docs.isEmpty()) {
-        m_steps.note(label, fitting, offering, triggers.send(docs, mode, parameters));
+    for (const TriggerEditing::Command& command : triggers.commands(mode, parameters)) {
+        const DocList docs = docsOf(m_host.docManager(), m_steps.left(fitting));
+        if (docs.isEmpty()) {
+            return;
+        }
+        GatheredFailures refusals;
+        refusals.attempt([&] { command(docs); });
+        for (const DOCKEY refusing : m_steps.note(label, fitting, offering, refusals)) {
+            fitting.removeAll(refusing);
+        }
     }
 }
 

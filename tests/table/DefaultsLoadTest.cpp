@@ -112,6 +112,14 @@ TEST_F(DefaultsLoadTest, TakesAsLongAsTheSlowestAndADeadCameraItsTimeOutOnce) {
     EXPECT_EQ(load(), QStringList{"Camera 2: State of the camera: no answer"});
     EXPECT_LE(clock.join(), 700 + 2 * 400 + 100);
     EXPECT_EQ(setOn(64), Standard);
+
+    host.faults().clear();
+    host.setPrefInt("wren/settings/triggerMode", zeb::TriggerRandom);
+    for (const char* command : {"setTriggerMode", "setRandomTriggerPhase", "setPortSignal"}) {
+        host.faults().plant(2, command, {"no answer", 700});
+    }
+    EXPECT_EQ(load(), QStringList{"Camera 2: Trigger: no answer"});
+    EXPECT_LE(clock.join(), 700 + 100);
 }
 
 TEST_F(DefaultsLoadTest, IsForWhoeverJoins) {
