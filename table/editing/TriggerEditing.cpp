@@ -44,7 +44,7 @@ void TriggerEditing::setTriggerMode(const DocKeyList& keys, const QString& val) 
     GatheredFailures failures;
     if (m_host.getPrefBool(settingskeys::TriggerEnable)) {
         const DocList docs = changeableDocs(m_host, keys, TriggerMode, failures);
-        failures.attempt([&] { setWithDefaults(docs, mode, failures); });
+        failures.attempt([&] { applyTriggerMode(docs, mode, failures); });
     } else {
         const DocList docs = changeableDocs(m_host, keys, failures);
         failures.attempt([&] { setWithHostSettings(docs, mode); });
@@ -58,7 +58,7 @@ void TriggerEditing::setWithHostSettings(const DocList& docs, int mode) {
     }
 }
 
-void TriggerEditing::setWithDefaults(const DocList& docs, int mode, GatheredFailures& failures) {
+void TriggerEditing::applyTriggerMode(const DocList& docs, int mode, GatheredFailures& failures) {
     const zeb::TriggerSettings settings = defaultParameters();
     QStringList misfits;
     DocList fitting;

@@ -31,7 +31,7 @@ public:
     std::vector<Command> commands(int mode, const zeb::TriggerSettings& settings) const;
 
 private:
-    void setWithDefaults(const DocList& docs, int mode, GatheredFailures& failures);
+    void applyTriggerMode(const DocList& docs, int mode, GatheredFailures& failures);
     void setWithHostSettings(const DocList& docs, int mode);
     GatheredFailures send(const DocList& docs, int mode, const zeb::TriggerSettings& settings);
 
