@@ -6,6 +6,7 @@
 #include <QSize>
 #include <QString>
 #include <QStringList>
+#include <QVariantMap>
 
 /// Settings and state of a camera. GUI thread; loops where it says so, as `DOC_Interface` tells.
 ///
@@ -126,4 +127,19 @@ public:
     /// Whether the partition in use holds a recording; what erases it.
     virtual bool hasRecordedData() const = 0;
     virtual void eraseRecordedData(int mode) = 0;
+
+    /// The list of custom information: while recorded images are shown that of the recording, else the one that goes
+    /// with the next. An item is a map of the texts `name`, `value` and `unit` and of the flags `display`, it is shown,
+    /// and `usefilename`, it may stand in names of files: a flag is the text "on" when it is set, else empty. Names are
+    /// compared exactly; an item that is not there can be changed and removed without effect.
+    virtual QList<QVariantMap> getCustomInfoList() const = 0;
+    virtual void clearCustomInfo() = 0;
+    /// At the end of the list, or in the place of the item of that name.
+    virtual void addCustomInfo(const QString& name, const QString& value, const QString& unit, bool display,
+                               bool usefilename) = 0;
+    virtual void updateCustomInfo(const QString& name, const QString& value, const QString& unit, bool display,
+                                  bool usefilename) = 0;
+    virtual void removeCustomInfo(const QString& name) = 0;
+    /// Throws when another item has the new name.
+    virtual void renameCustomInfo(const QString& name, const QString& newName) = 0;
 };

@@ -59,6 +59,9 @@ public:
     /// Both flags false: a parameter that is neither shutter nor resolution.
     virtual bool sharesDeviceWithLockedHead(DOC_Interface* doc, bool shutter, bool resolution) = 0;
 
+    /// Keys of the temporary save list: what is to be saved from media, beside the selection.
+    virtual DocKeyList getTemporarySaveDocKeys() const = 0;
+
     /// States of the documents together.
     virtual bool hasWaveformData() const = 0;
     /// Whether measured signals are taken beside the images.

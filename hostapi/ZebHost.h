@@ -59,6 +59,9 @@ public:
     virtual bool isMemoryMode() const = 0;
     virtual bool isFileMode() const = 0;
 
+    /// The host's version as a text, for files that it writes.
+    virtual QString getVersionText() const = 0;
+
     /// The value stored under a key, a slash path. A key never written answers the host's factory value, and
     /// where it has none `defaultValue`; an invalid default stands for 0, false or the empty text.
     virtual QVariant getPref(const QString& key, const QVariant& defaultValue = {}) const = 0;

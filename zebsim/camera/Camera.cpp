@@ -108,6 +108,22 @@ void Camera::noteSaved(const Recording& recording) {
     }
 }
 
+CustomInfo Camera::customInfo(bool recorded) const {
+    const std::lock_guard lock(m_device.mutex());
+    return recorded && m_state.recorded ? m_state.recordedCustomInfo : m_state.customInfo;
+}
+
+void Camera::editCustomInfo(bool recorded, const std::function<QString(CustomInfo&)>& edit) {
+    QString reason;
+    {
+        const std::lock_guard lock(m_device.mutex());
+        reason = edit(recorded && m_state.recorded ? m_state.recordedCustomInfo : m_state.customInfo);
+    }
+    if (!reason.isEmpty()) {
+        refuse(reason);
+    }
+}
+
 void Camera::change(const QVariantMap& members) {
     const std::lock_guard lock(m_device.mutex());
     CameraState checked = m_state;
@@ -183,6 +199,7 @@ void Camera::keep(PARTITIONNUMBER partition, const std::optional<Recording>& rec
         kept.recordedRange = {recording->first, recording->last};
         kept.recordedTrigger = recording->trigger;
         kept.selectedRange = {recording->selectedFirst, recording->selectedLast};
+        kept.recordedCustomInfo = recording->customInfo;
     }
     const std::lock_guard lock(m_device.mutex());
     memoryOf(partition) = kept;

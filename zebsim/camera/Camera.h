@@ -7,6 +7,7 @@
 
 #include <QHash>
 
+#include <functional>
 #include <memory>
 #include <mutex>
 #include <type_traits>
@@ -59,6 +60,11 @@ public:
     std::vector<Recording> recordings() const;
     /// The selected range of `recording` stands in files, if the camera still has that recording.
     void noteSaved(const Recording& recording);
+    /// The list of custom information: where recorded images are shown that of the recording, if there is one, else
+    /// that which goes with the next.
+    CustomInfo customInfo(bool recorded) const;
+    /// `edit` answers why the list does not take it, or an empty text. Throws `CameraError`.
+    void editCustomInfo(bool recorded, const std::function<QString(CustomInfo&)>& edit);
     /// Changes the state behind the camera's back: no latency, no limits, no other heads. A change of the partition
     /// comes before that of what is in it. Throws `StateError`.
     void change(const QVariantMap& members);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "CustomInfo.h"
 #include "ZebTypes.h"
 
 #include <QList>
@@ -23,6 +24,7 @@ struct PartitionMemory {
     Q_PROPERTY(bool triggerOffsetEnabled MEMBER triggerOffsetEnabled)
     Q_PROPERTY(int triggerOffset MEMBER triggerOffset)
     Q_PROPERTY(bool recordCheck MEMBER recordCheck)
+    Q_PROPERTY(CustomInfo recordedCustomInfo MEMBER recordedCustomInfo)
 public:
     bool recorded = false;
     /// Frames a second, pixels, first and last frame, frame of the trigger, first and last frame to keep. A rate of 0
@@ -36,6 +38,8 @@ public:
     bool triggerOffsetEnabled = false;
     int triggerOffset = 0;
     bool recordCheck = false;
+    /// The camera's list when it was armed for the recording.
+    CustomInfo recordedCustomInfo;
     /// As `Recording::serial`; only a recording changes it.
     quint64 serial = 0;
     /// First and last frame of each selected range of this recording that stands in files; only a save adds one.
@@ -48,6 +52,7 @@ struct CameraState : PartitionMemory {
     Q_GADGET
     Q_PROPERTY(QString name MEMBER name)
     Q_PROPERTY(QString comment MEMBER comment)
+    Q_PROPERTY(CustomInfo customInfo MEMBER customInfo)
     Q_PROPERTY(QString alias MEMBER alias)
     Q_PROPERTY(bool wifi MEMBER wifi)
     Q_PROPERTY(bool slowLink MEMBER slowLink)
@@ -111,6 +116,8 @@ public:
     QString name;
     /// Lines are separated by `zeb::CommentSeparator`.
     QString comment;
+    /// The list that goes with the next recording.
+    CustomInfo customInfo;
     /// The user's name for the device, and how it is reached: by radio, by a link slower than it should be.
     QString alias;
     bool wifi = false;

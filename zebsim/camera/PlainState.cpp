@@ -1,5 +1,7 @@
 #include "PlainState.h"
 
+#include "CustomInfo.h"
+
 #include <QMap>
 #include <QMetaProperty>
 #include <QPoint>
@@ -11,8 +13,9 @@
 
 namespace {
 
-/// Unlike a list, Qt does not register a map by itself, and a property of an unknown type can't be read.
+/// Unlike a list, Qt does not register these by itself, and a property of an unknown type can't be read.
 const int Numbered = qMetaTypeId<QMap<int, int>>();
+const int Custom = qMetaTypeId<CustomInfo>();
 
 [[noreturn]] void fail(const QString& reason) {
     throw StateError{{}, reason};
@@ -110,6 +113,9 @@ QVariant readAs(int type, const QVariant& value) {
     if (type == Numbered) {
         return QVariant::fromValue(readNumbered(value));
     }
+    if (type == Custom) {
+        return QVariant::fromValue(CustomInfo::fromPlain(value));
+    }
     switch (type) {
         case QMetaType::Bool:
             if (value.type() != QVariant::Bool) {
@@ -152,6 +158,9 @@ QVariant plain(const QVariant& value) {
     }
     if (value.userType() == Numbered) {
         return plainNumbered(value.value<QMap<int, int>>());
+    }
+    if (value.userType() == Custom) {
+        return value.value<CustomInfo>().toPlain();
     }
     switch (static_cast<QMetaType::Type>(value.type())) {
         case QMetaType::QSize:

@@ -35,6 +35,7 @@ std::optional<Recording> Recording::of(const CameraState& state, const CameraMod
         std::any_of(state.savedRanges.begin(), state.savedRanges.end(), [&recording](const QPoint& frames) {
             return frames.x() <= recording.selectedFirst && recording.selectedLast <= frames.y();
         });
+    recording.customInfo = state.recordedCustomInfo;
     recording.partition = state.partition;
     return recording;
 }

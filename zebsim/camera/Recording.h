@@ -1,5 +1,6 @@
 #pragma once
 
+#include "CustomInfo.h"
 #include "ZebTypes.h"
 
 #include <QSize>
@@ -28,6 +29,8 @@ struct Recording {
     int selectedLast = 0;
     /// All that is to be kept stands in files.
     bool saved = false;
+    /// The list that it was made with, or has been given since.
+    CustomInfo customInfo;
     /// The partition that it lies in.
     PARTITIONNUMBER partition = 1;
 

@@ -3,6 +3,7 @@
 #include "Rig.h"
 #include "SupportFile.h"
 
+#include <QCoreApplication>
 #include <QtDebug>
 
 SimHost::SimHost(Clock& clock, MessageDesk& desk, const QString& prefsPath)
@@ -46,6 +47,11 @@ SimHost::SimHost(Clock& clock, MessageDesk& desk, const QString& prefsPath)
         message.text = m_prefs.problem();
         desk.show(message);
     }
+}
+
+QString SimHost::getVersionText() const {
+    m_calls.ask(OPERATION("getVersionText"));
+    return QCoreApplication::applicationVersion();
 }
 
 void SimHost::setRig(const Rig& rig) {

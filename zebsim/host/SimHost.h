@@ -95,6 +95,8 @@ public:
     bool isMemoryMode() const override { return m_appStatus.mode() == zeb::MemoryMode; }
     bool isFileMode() const override { return m_appStatus.mode() == zeb::FileMode; }
 
+    QString getVersionText() const override;
+
     QVariant getPref(const QString& key, const QVariant& defaultValue = {}) const override {
         return m_hostPrefs.get(OPERATION("getPref"), key, defaultValue);
     }

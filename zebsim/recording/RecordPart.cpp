@@ -5,7 +5,10 @@
 #include <utility>
 
 RecordPart::RecordPart(std::shared_ptr<Camera> taken, qint64 now)
-    : camera(std::move(taken)), partition(camera->get(&CameraState::partition)), readyAt(now) {
+    : camera(std::move(taken)),
+      customInfo(camera->get(&CameraState::customInfo)),
+      partition(camera->get(&CameraState::partition)),
+      readyAt(now) {
     if (camera->recordState() == zeb::RecordCtsReady) {
         readyAt += camera->model().ctsReady;
     }
@@ -22,7 +25,11 @@ void RecordPart::begin(qint64 now, bool withAreas) {
 }
 
 std::optional<Recording> RecordPart::recording(qint64 now) const {
-    return settings.recording(triggeredAt - readyAt, now - triggeredAt);
+    auto recording = settings.recording(triggeredAt - readyAt, now - triggeredAt);
+    if (recording) {
+        recording->customInfo = customInfo;
+    }
+    return recording;
 }
 
 bool RecordPart::isKept() const {

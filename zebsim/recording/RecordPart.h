@@ -14,6 +14,8 @@ struct RecordPart {
 
     std::shared_ptr<Camera> camera;
     RecordSettings settings;
+    /// The camera's, when it was taken in.
+    CustomInfo customInfo;
     /// In use when the camera was taken in, and from the trigger on the one that it records into.
     PARTITIONNUMBER partition = 1;
     qint64 readyAt = 0;

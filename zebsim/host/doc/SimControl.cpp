@@ -4,6 +4,7 @@
 #include "CameraError.h"
 #include "Notices.h"
 #include "ShutterText.h"
+#include "SimAppStatus.h"
 #include "SimRecorder.h"
 #include "SyncSignal.h"
 #include "TextKey.h"
@@ -83,4 +84,59 @@ void SimControl::eraseRecordedData(int mode) {
                                               ? part.arg(label, frames, QString::number(recording->partition))
                                               : whole.arg(label, frames));
     }
+}
+
+bool SimControl::showsRecorded() const {
+    return m_host.appStatus.mode() == zeb::MemoryMode;
+}
+
+QList<QVariantMap> SimControl::getCustomInfoList() const {
+    const auto flag = [](bool on) { return on ? QStringLiteral("on") : QString(); };
+    QList<QVariantMap> list;
+    const CustomInfo info = ask(OPERATION("getCustomInfoList")).customInfo(showsRecorded());
+    for (const CustomItem& item : info.items()) {
+        list.append({{QStringLiteral("name"), item.name},
+                     {QStringLiteral("value"), item.value},
+                     {QStringLiteral("unit"), item.unit},
+                     {QStringLiteral("display"), flag(item.display)},
+                     {QStringLiteral("usefilename"), flag(item.usefilename)}});
+    }
+    return list;
+}
+
+void SimControl::clearCustomInfo() {
+    change(OPERATION("DOC_Control::clearCustomInfo"), {}).editCustomInfo(showsRecorded(), [](CustomInfo& info) {
+        info = {};
+        return QString();
+    });
+}
+
+void SimControl::addCustomInfo(const QString& name, const QString& value, const QString& unit, bool display,
+                               bool usefilename) {
+    const CustomItem item{name, value, unit, display, usefilename};
+    change(OPERATION("DOC_Control::addCustomInfo"), {name, value, unit, display, usefilename})
+        .editCustomInfo(showsRecorded(), [&item](CustomInfo& info) { return info.put(item); });
+}
+
+void SimControl::updateCustomInfo(const QString& name, const QString& value, const QString& unit, bool display,
+                                  bool usefilename) {
+    const CustomItem item{name, value, unit, display, usefilename};
+    change(OPERATION("DOC_Control::updateCustomInfo"), {name, value, unit, display, usefilename})
+        .editCustomInfo(showsRecorded(), [&item](CustomInfo& info) {
+            info.update(item);
+            return QString();
+        });
+}
+
+void SimControl::removeCustomInfo(const QString& name) {
+    change(OPERATION("DOC_Control::removeCustomInfo"), {name})
+        .editCustomInfo(showsRecorded(), [&name](CustomInfo& info) {
+            info.remove(name);
+            return QString();
+        });
+}
+
+void SimControl::renameCustomInfo(const QString& name, const QString& newName) {
+    change(OPERATION("DOC_Control::renameCustomInfo"), {name, newName})
+        .editCustomInfo(showsRecorded(), [&](CustomInfo& info) { return info.rename(name, newName); });
 }

@@ -123,4 +123,17 @@ public:
     /// Not of a camera that is armed or records, and of none while the host records: nothing may be erased then.
     bool hasRecordedData() const override;
     void eraseRecordedData(int mode) override;
+    QList<QVariantMap> getCustomInfoList() const override;
+    void clearCustomInfo() override;
+    /// Throws also for a 65th item.
+    void addCustomInfo(const QString& name, const QString& value, const QString& unit, bool display,
+                       bool usefilename) override;
+    void updateCustomInfo(const QString& name, const QString& value, const QString& unit, bool display,
+                          bool usefilename) override;
+    void removeCustomInfo(const QString& name) override;
+    void renameCustomInfo(const QString& name, const QString& newName) override;
+
+private:
+    /// Those of the recording are shown.
+    bool showsRecorded() const;
 };

@@ -47,6 +47,14 @@ DocList SimDocManager::getSyncableDocs(int /*mode*/) {
     return docs;
 }
 
+DocKeyList SimDocManager::getTemporarySaveDocKeys() const {
+    m_host.calls.ask(OPERATION("getTemporarySaveDocKeys"));
+    DocKeyList keys = m_temporarySave;
+    keys.erase(std::remove_if(keys.begin(), keys.end(), [this](DOCKEY key) { return !m_host.cameras.find(key); }),
+               keys.end());
+    return keys;
+}
+
 bool SimDocManager::isRecordAreaEnabled() const {
     m_host.calls.ask(OPERATION("isRecordAreaEnabled"));
     return m_host.prefs.value(QStringLiteral("recording/area")).toBool();

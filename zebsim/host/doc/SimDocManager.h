@@ -28,6 +28,8 @@ public:
     /// Hands out none of the present documents any more, and forgets the current one. Those that somebody works with
     /// still tell their keys.
     void forgetDocs();
+    /// The temporary save list, of those cameras that are there.
+    void setTemporarySaveDocs(const DocKeyList& keys) { m_temporarySave = keys; }
     ImageTools& tools() { return m_tools; }
     /// Whether an image tool is the active one or a quick tool that is on.
     bool isToolActive(const QString& tool) const { return m_tools.isActive(tool); }
@@ -85,6 +87,8 @@ public:
     void deleteAllDocs(int kind, int mode) override;
     void editDoc(DOCKEY key) override;
     bool sharesDeviceWithLockedHead(DOC_Interface* doc, bool shutter, bool resolution) override;
+
+    DocKeyList getTemporarySaveDocKeys() const override;
 
     /// There is none: cameras bring images only.
     bool hasWaveformData() const override {
@@ -145,6 +149,7 @@ private:
     const HostContext& m_host;
     QMutex m_mutex;
     ImageTools m_tools;
+    DocKeyList m_temporarySave;
     DocSelection m_selection;
     DocTurns m_turns;
 };
