@@ -2,17 +2,98 @@
 
 #include "TextKey.h"
 
+#include <QFileInfo>
 #include <QSaveFile>
+#include <QTemporaryFile>
 
-QString writeWholeFile(const QString& path, const QByteArray& bytes) {
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly)) {
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstdio>
+
+namespace {
+
+/// A name that is replaced gets six letters and a dot more for a moment.
+constexpr int LongestNameOfSaveFile = 248;
+
+QString diskFull() {
+    return TextKey("only a part of it could be written; the disk may be full");
+}
+
+/// On a full disk bytes may still fit the buffer, and whoever asks no more takes the empty file for a good one.
+bool put(QFileDevice& file, const QByteArray& bytes) {
+    return file.write(bytes) == bytes.size() && file.flush();
+}
+
+/// Does what `QSaveFile` does, with a short name for that moment.
+QString replaceLongName(const QFileInfo& there, const QByteArray& bytes) {
+    QTemporaryFile file(there.canonicalPath() % QLatin1String("/XXXXXX"));
+    if (!file.open()) {
         return file.errorString();
     }
-    // On a full disk the bytes may still fit the buffer, and the commit says yes to an empty file.
-    if (file.write(bytes) != bytes.size() || !file.flush()) {
+    if (!put(file, bytes)) {
+        return diskFull();
+    }
+    file.setPermissions(there.permissions());
+    ::fdatasync(file.handle());
+    if (std::rename(QFile::encodeName(file.fileName()), QFile::encodeName(there.canonicalFilePath())) != 0) {
+        return qt_error_string(errno);
+    }
+    file.setAutoRemove(false);
+    return {};
+}
+
+/// Over the old bytes, which stand until there is room for all of the new ones.
+QString writeInPlace(QFile& file, const QByteArray& bytes) {
+    const qint64 before = file.size();
+    if (!bytes.isEmpty() && ::posix_fallocate(file.handle(), 0, bytes.size()) != 0) {
+        file.resize(before);
+        return diskFull();
+    }
+    return put(file, bytes) && file.resize(bytes.size()) && ::fdatasync(file.handle()) == 0 ? QString() : diskFull();
+}
+
+QString writeWhole(const QString& path, const QByteArray& bytes, bool& isOpened) {
+    const QFileInfo there(path);
+    QFile old(path);
+    if (there.exists()) {
+        QString reason = whyNoPlainFile(path);
+        if (!reason.isEmpty() || !old.open(QIODevice::ReadWrite | QIODevice::ExistingOnly)) {
+            return reason.isEmpty() ? old.errorString() : reason;
+        }
+        if (QFile::encodeName(QFileInfo(there.canonicalFilePath()).fileName()).size() > LongestNameOfSaveFile) {
+            isOpened = true;
+            return replaceLongName(there, bytes);
+        }
+    }
+    QSaveFile file(path);
+    isOpened = file.open(QIODevice::WriteOnly) || old.isOpen();
+    if (!file.isOpen()) {
+        return old.isOpen() ? writeInPlace(old, bytes) : file.errorString();
+    }
+    if (!put(file, bytes)) {
         file.cancelWriting();
-        return TextKey("only a part of it could be written; the disk may be full");
+        return diskFull();
     }
     return file.commit() ? QString() : file.errorString();
+}
+
+}  // namespace
+
+QString writeWholeFile(const QString& path, const QByteArray& bytes, bool* isOpened) {
+    bool opened = false;
+    const QString reason = writeWhole(path, bytes, opened);
+    if (isOpened != nullptr) {
+        *isOpened = opened;
+    }
+    return reason;
+}
+
+QString whyNoPlainFile(const QString& path) {
+    const QFileInfo there(path);
+    if (!there.exists() || there.isFile()) {
+        return {};
+    }
+    return there.isDir() ? qt_error_string(EISDIR) : TextKey("it is not a regular file");
 }

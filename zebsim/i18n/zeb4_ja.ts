@@ -608,6 +608,30 @@
         <translation>%1: フレーム %2</translation>
     </message>
     <message>
+        <source>&amp;Quit</source>
+        <translation>終了(&amp;Q)</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>ヘルプ(&amp;H)</translation>
+    </message>
+    <message>
+        <source>&amp;Settings</source>
+        <translation>設定(&amp;S)</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>表示(&amp;V)</translation>
+    </message>
+    <message>
+        <source>&amp;Camera</source>
+        <translation>カメラ(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>ファイル(&amp;F)</translation>
+    </message>
+    <message>
         <source>A viewer with simulated cameras</source>
         <translation>シミュレートしたカメラのビューアー</translation>
     </message>
@@ -1456,6 +1480,10 @@
         <translation>画像はメモリモードで保存します。</translation>
     </message>
     <message>
+        <source>it is not a regular file</source>
+        <translation>通常のファイルではありません</translation>
+    </message>
+    <message>
         <source>only a part of it could be written; the disk may be full</source>
         <translation>一部しか書き込めませんでした。ディスクがいっぱいの可能性があります</translation>
     </message>
@@ -1754,6 +1782,98 @@
     <message>
         <source>Usual order of the columns</source>
         <translation>標準の列順に戻す</translation>
+    </message>
+    <message>
+        <source>wren_display_cameraSettings</source>
+        <translation>カメラ設定</translation>
+    </message>
+    <message>
+        <source>wren_display_alert</source>
+        <translation>警告</translation>
+    </message>
+    <message>
+        <source>wren_display_lock</source>
+        <translation>ロック</translation>
+    </message>
+    <message>
+        <source>wren_display_syncStatus</source>
+        <translation>信号</translation>
+    </message>
+    <message>
+        <source>wren_display_triggerMode</source>
+        <translation>トリガーモード</translation>
+    </message>
+    <message>
+        <source>wren_display_reduceMode</source>
+        <translation>ライブ速度</translation>
+    </message>
+    <message>
+        <source>wren_display_syncTab</source>
+        <translation>同期タブ</translation>
+    </message>
+    <message>
+        <source>wren_display_irigTab</source>
+        <translation>IRIGタブ</translation>
+    </message>
+    <message>
+        <source>wren_display_pluginTab</source>
+        <translation>プラグインタブ</translation>
+    </message>
+    <message>
+        <source>wren_display_memoryPluginTab</source>
+        <translation>プラグインタブ（メモリ）</translation>
+    </message>
+    <message>
+        <source>wren_display_recordCheck</source>
+        <translation>チェック</translation>
+    </message>
+    <message>
+        <source>wren_display_triggerOffset</source>
+        <translation>トリガーオフセット</translation>
+    </message>
+    <message>
+        <source>Item name</source>
+        <translation>項目名</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>値</translation>
+    </message>
+    <message>
+        <source>Unit</source>
+        <translation>単位</translation>
+    </message>
+    <message>
+        <source>Show info</source>
+        <translation>表示</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>リセット</translation>
+    </message>
+    <message>
+        <source>Input the Item name and the Value at range of 1-256 character.Input the Unit at range of 0-256 character.</source>
+        <translation>項目名と値は1～256文字で入力してください。単位は0～256文字で入力してください。</translation>
+    </message>
+    <message>
+        <source>Tags cannot be registered.</source>
+        <translation>タグは登録できません。</translation>
+    </message>
+    <message>
+        <source>Item name is duplicated. Please change to another item name.</source>
+        <translation>項目名が重複しています。別の項目名に変更してください。</translation>
+    </message>
+    <message>
+        <source>Delete. Is it OK?</source>
+        <translation>削除します。よろしいですか？</translation>
+    </message>
+    <message>
+        <source>Overwrite custom information for the selected camera. Is it OK?</source>
+        <translation>選択したカメラのカスタム情報を上書きします。よろしいですか？</translation>
+    </message>
+    <message>
+        <source>an item of the custom information needs a name</source>
+        <translation>カスタム情報の項目には名前が必要です</translation>
     </message>
 </context>
 </TS>
