@@ -455,5 +455,53 @@
         <source>wren_display_recordedEndFrame</source>
         <translation>Last frame</translation>
     </message>
+    <message>
+        <source>wren_display_cameraSettings</source>
+        <translation>Camera settings</translation>
+    </message>
+    <message>
+        <source>wren_display_alert</source>
+        <translation>Alerts</translation>
+    </message>
+    <message>
+        <source>wren_display_lock</source>
+        <translation>Lock</translation>
+    </message>
+    <message>
+        <source>wren_display_syncStatus</source>
+        <translation>Signal</translation>
+    </message>
+    <message>
+        <source>wren_display_triggerMode</source>
+        <translation>Trigger mode</translation>
+    </message>
+    <message>
+        <source>wren_display_reduceMode</source>
+        <translation>Live speed</translation>
+    </message>
+    <message>
+        <source>wren_display_syncTab</source>
+        <translation>Tab Sync</translation>
+    </message>
+    <message>
+        <source>wren_display_irigTab</source>
+        <translation>Tab IRIG</translation>
+    </message>
+    <message>
+        <source>wren_display_pluginTab</source>
+        <translation>Tab Plug-ins</translation>
+    </message>
+    <message>
+        <source>wren_display_memoryPluginTab</source>
+        <translation>Tab Plug-ins (memory)</translation>
+    </message>
+    <message>
+        <source>wren_display_recordCheck</source>
+        <translation>Checked</translation>
+    </message>
+    <message>
+        <source>wren_display_triggerOffset</source>
+        <translation>Trigger offset</translation>
+    </message>
 </context>
 </TS>

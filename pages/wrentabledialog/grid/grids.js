@@ -69,14 +69,16 @@ Object.assign(wrentabledialog_obj, {
 
     lockGrids() {
         numberBox.giveUpAll();
+        customEditor.end();
+        customMenu.close();
         this.activeGrid().clear();
-        this.activeGrid().lock('');
+        [this.activeGrid(), customList.grid].forEach(grid => grid.lock(''));
         this.gridLock = true;
     },
 
     unlockGrids() {
         if (this.gridLock) {
-            views.forEach(view => view.grid.unlock());
+            views.map(view => view.grid).concat(customList.grid).forEach(grid => grid.unlock());
             this.gridLock = false;
         }
     },

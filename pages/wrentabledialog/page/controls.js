@@ -61,7 +61,7 @@ const controls = {
     'BACKGROUND-SAVING': {
         disabled: DEVICE_SETTINGS.concat(SYNC, CUSTOM, MANAGEMENT, FILTER, DEFAULTS, DISPLAY_SETTINGS, LINKS, OPTIONS,
             SAVE, LOW_LIGHT),
-        func: whenOn('turnAllTabsOff')
+        func: whenOn('enterSavingLook')
     },
     'NONE-DOCUMENT': { disabled: ['#livecontrol_deleteall', '#livecontrol_update', '#sync_execute'] },
     'NONE-WINDOW': {
@@ -136,6 +136,7 @@ Object.assign(wrentabledialog_obj, {
     enterTableLook(colour, memory, tab) {
         this.look = { tabsOff: false, colour, armed: false };
         this.showGroupBlock();
+        this.disableDisplayCheckBox();
         if (this.gridLock) {
             this.showFilter(); // in file mode there is none
         }
@@ -145,6 +146,7 @@ Object.assign(wrentabledialog_obj, {
 
     enterFileLook() {
         this.look = { tabsOff: true, colour: null, armed: false };
+        this.disableDisplayCheckBox();
         if (!this.gridLock && views.length > 0) {
             this.lockGrids();
         }
@@ -162,8 +164,9 @@ Object.assign(wrentabledialog_obj, {
         this.look = { tabsOff: true, colour: wrentabledialog.getPrefString(key), armed: true };
     },
 
-    turnAllTabsOff() {
+    enterSavingLook() {
         this.look.tabsOff = true;
+        this.disableDisplayCheckBox();
     },
 
     // Tabs that are off already stay off.

@@ -9,6 +9,8 @@ Object.assign(wrentabledialog_obj, {
 
     close() {
         numberBox.giveUpAll();
+        customEditor.end();
+        this.cancelDisplayDialog();
         wrentabledialog.onClose();
     },
 
@@ -24,6 +26,9 @@ Object.assign(wrentabledialog_obj, {
     updateCommon(isAuto) {
         let automatic = isAuto;
         numberBox.sendDue();
+        if (this.gridLock && !wrentabledialog.isFileMode()) {
+            this.cancelDisplayDialog();
+        }
         if (wrentabledialog.isLiveMode()) {
             this.showRecStatus();
         }

@@ -1,43 +1,49 @@
 // What the display keys show and hide.
 
-// A display key -> the column it shows on the tabs named, the tab whose header it shows, or the block; in the order of
-// their boxes.
-const DISPLAY = {
-    'wren/display/cameraSettings': { block: 'camera_setting_container' },
-    'wren/display/customSettings': { block: 'custom_info_container' },
-    'wren/display/externalSync': {}, // that area has its own test
-    'wren/display/alert': { field: 'alert', tabs: LIVE.concat(MEMORY) },
-    'wren/display/lock': { field: 'lock', tabs: LIVE },
-    'wren/display/syncStatus': { field: 'sync', tabs: LIVE },
-    'wren/display/frameRate': { field: 'frameRate', tabs: [1] },
-    'wren/display/shutterSpeed': { field: 'shutterSpeed', tabs: [1] },
-    'wren/display/resolution': { field: 'resolution', tabs: [1] },
-    'wren/display/triggerMode': { field: 'trigger', tabs: [1] },
-    'wren/display/reduceMode': { field: 'reduce', tabs: [1] },
-    'wren/display/syncTab': { header: 2 },
-    'wren/display/irigTab': { header: 3 },
-    'wren/display/pluginTab': { header: 4 },
-    'wren/display/memoryPluginTab': { header: 6 },
-    'wren/display/recordCheck': { field: 'recordCheck', tabs: MEMORY },
-    'wren/display/recordedFrameRate': { field: 'frameRate', tabs: [5] },
-    'wren/display/recordedStartFrame': { field: 'originalStartFrameNo', tabs: [5] },
-    'wren/display/recordedEndFrame': { field: 'originalEndFrameNo', tabs: [5] },
-    'wren/display/triggerOffset': { field: 'triggerOffset', tabs: [5] }
-};
+// What a display key shows: a column on the tabs named, the header of a tab, or a block. In the order of their boxes,
+// which stand in groups with a legend, or in none. The key is that of its text with slashes.
+const DISPLAY = [
+    { id: textKey('wren_display_cameraSettings'), block: 'camera_setting_container' },
+    { id: textKey('wren_display_customSettings'), block: 'custom_info_container' },
+    { id: textKey('wren_display_externalSync') }, // that area has its own test
+    { id: textKey('wren_display_alert'), group: 'common', field: 'alert', tabs: LIVE.concat(MEMORY) },
+    { id: textKey('wren_display_lock'), group: 'common', field: 'lock', tabs: LIVE },
+    { id: textKey('wren_display_syncStatus'), group: 'common', field: 'sync', tabs: LIVE },
+    { id: textKey('wren_display_frameRate'), group: 'livecontrol', field: 'frameRate', tabs: [1] },
+    { id: textKey('wren_display_shutterSpeed'), group: 'livecontrol', field: 'shutterSpeed', tabs: [1] },
+    { id: textKey('wren_display_resolution'), group: 'livecontrol', field: 'resolution', tabs: [1] },
+    { id: textKey('wren_display_triggerMode'), group: 'livecontrol', field: 'trigger', tabs: [1] },
+    { id: textKey('wren_display_reduceMode'), group: 'livecontrol', field: 'reduce', tabs: [1] },
+    { id: textKey('wren_display_syncTab'), header: 2 },
+    { id: textKey('wren_display_irigTab'), header: 3 },
+    { id: textKey('wren_display_pluginTab'), header: 4 },
+    { id: textKey('wren_display_memoryPluginTab'), header: 6 },
+    { id: textKey('wren_display_recordCheck'), group: 'memoryInfo', field: 'recordCheck', tabs: MEMORY },
+    { id: textKey('wren_display_recordedFrameRate'), group: 'memoryInfo', field: 'frameRate', tabs: [5] },
+    { id: textKey('wren_display_recordedStartFrame'), group: 'memoryInfo', field: 'originalStartFrameNo', tabs: [5] },
+    { id: textKey('wren_display_recordedEndFrame'), group: 'memoryInfo', field: 'originalEndFrameNo', tabs: [5] },
+    { id: textKey('wren_display_triggerOffset'), group: 'memoryInfo', field: 'triggerOffset', tabs: [5] }
+];
+DISPLAY.forEach(shows => {
+    shows.key = displayKey(shows.id);
+});
 
-wrentabledialog_const_obj.displaySettingsArray = Object.keys(DISPLAY);
+// No key holds an underscore.
+function displayKey(id) {
+    return id.replace(/_/g, '/');
+}
+
+wrentabledialog_const_obj.displaySettingsArray = DISPLAY.map(shows => shows.key);
 
 Object.assign(wrentabledialog_obj, {
     // Whether the display keys let a tab show a column.
     isDisplayed(tab, field) {
-        return Object.keys(DISPLAY).every(key => {
-            const shows = DISPLAY[key];
-            return shows.field !== field || !shows.tabs.includes(tab.number) || wrentabledialog.getPrefBool(key);
-        });
+        return DISPLAY.every(shows =>
+            shows.field !== field || !shows.tabs.includes(tab.number) || wrentabledialog.getPrefBool(shows.key));
     },
 
     displayFlags() {
-        return wrentabledialog_const_obj.displaySettingsArray.map(key => wrentabledialog.getPrefBool(key)).join();
+        return DISPLAY.map(shows => wrentabledialog.getPrefBool(shows.key)).join();
     },
 
     // Whether the display keys are others than those that the page shows.
@@ -50,10 +56,12 @@ Object.assign(wrentabledialog_obj, {
         const active = this.activeTab();
         const view = viewAt(active);
         view.together(() => {
-            wrentabledialog_const_obj.displaySettingsArray.forEach(key => {
-                const flag = wrentabledialog.getPrefBool(key);
-                const shows = DISPLAY[key];
+            DISPLAY.forEach(shows => {
+                const flag = wrentabledialog.getPrefBool(shows.key);
                 if (shows.block) {
+                    if (!flag) { // the engine tells nobody of the focus of an element that is hidden
+                        customEditor.end();
+                    }
                     showElement(document.getElementById(shows.block), flag);
                 } else if (shows.header !== undefined) {
                     showElement(tabHeader(shows.header), flag);
@@ -77,6 +85,7 @@ Object.assign(wrentabledialog_obj, {
     refreshAllControls() {
         this.refreshDisplayElement();
         this.leaveHiddenTab();
+        customList.grid.refresh();
         this.update();
     },
 

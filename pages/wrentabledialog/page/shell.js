@@ -12,6 +12,7 @@ Object.assign(wrentabledialog_obj, {
         this.initializeRecordFilter();
         guarded(() => this.initializeList());
         this.initializeGroupBox();
+        this.initializeDisplaySettings();
         this.initializeCommonParts();
         this.initializeSaveContainer();
         this.initializeRecordingContainer();
@@ -41,9 +42,13 @@ Object.assign(wrentabledialog_obj, {
             active: false,
             animate: false,
             heightStyle: 'content',
+            beforeActivate: () => customEditor.end(),
             activate: (event, ui) => {
                 this.accordionOpen = ui.newPanel.length > 0;
                 label.textContent = this.accordionOpen ? translate('Close') : translate('Open');
+                if (this.accordionOpen) {
+                    customList.show();
+                }
                 this.update();
             }
         });

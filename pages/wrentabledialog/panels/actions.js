@@ -9,6 +9,7 @@ Object.assign(wrentabledialog_obj, {
         onClick('#wren_ethernet_setting', () => wrentabledialog.openPrefsEthernetSettings());
         onClick('#wrenBatchLowlightBlock_ON', () => wrentabledialog.setLowLight([], true));
         onClick('#wrenBatchLowlightBlock_OFF', () => wrentabledialog.setLowLight([], false));
+        this.initializeCustomInfoContainer();
         this.initializeCameraManagementContainer();
         this.initializeExternalSyncArea();
         this.initializeMenus();
@@ -154,10 +155,6 @@ Object.assign(wrentabledialog_obj, {
     },
 
     // The custom information grid is empty, so there is nothing to write.
-    refreshCustomInfoContainer() {
-        zeb4func.disable('.edit-buttons .write', true);
-    },
-
     refreshActionArea() {
         if (wrentabledialog.isFileMode()) {
             return;

@@ -1,0 +1,98 @@
+// The editor in a cell of the list of custom information. One cell's is closed and the next one's opened in the same
+// event, so that no letter of a fast typist, or of a scanner, goes elsewhere.
+const customEditor = {
+    place: null, // the row and the column of the open one
+    input: null,
+    shown: '', // what it showed at first; a text box can't show a line feed
+
+    // `text`: what is typed already, in place of the item's.
+    open(place, text) {
+        const item = customList.grid.records[customList.indexOf(place.recid)];
+        const cell = customList.cell(place.recid, place.column);
+        if (!item || !cell || wrentabledialog_obj.gridLock || wrentabledialog.isFileMode()) {
+            return;
+        }
+        customList.choose([place.recid], place);
+        customList.bringIntoView(place.recid);
+        const input = document.createElement('input');
+        input.type = 'text';
+        input.id = 'wren_custom_editor';
+        input.style.textAlign = cell.style.textAlign;
+        input.value = item[CUSTOM_COLUMNS[place.column]];
+        this.shown = input.value;
+        // While it has the keyboard, the host's keys are letters.
+        input.addEventListener('focus', () => wrentabledialog.setTextBoxFocusState(true));
+        input.addEventListener('blur', () => this.left());
+        this.place = place;
+        this.input = input;
+        cell.firstElementChild.textContent = '';
+        cell.firstElementChild.appendChild(input);
+        input.focus();
+        input.select();
+        if (text !== undefined) {
+            input.value = text;
+        }
+    },
+
+    // The window may have lost the keyboard, and then the editor stands.
+    left() {
+        wrentabledialog.setTextBoxFocusState(false);
+        if (this.input && document.hasFocus()) {
+            guarded(() => this.commit());
+        }
+    },
+
+    // Takes what was typed into the list. A text that can't be taken is told, and the cell has its old one again.
+    // Answers whether the list is as the user wants it.
+    commit() {
+        return this.input === null || this.take(fault => wrentabledialog.alert(fault));
+    },
+
+    // As `commit`, where nobody can be asked: a text that can't be taken leaves a line in the log.
+    end() {
+        if (this.input) {
+            const text = this.input.value;
+            this.take(() => logUnused('not taken', 'TextBox', 'wren_custom_editor', text));
+        }
+    },
+
+    take(refuse) {
+        const { recid, column } = this.place;
+        const field = CUSTOM_COLUMNS[column];
+        const text = this.input.value;
+        const isChanged = text !== this.shown;
+        this.close();
+        const item = customList.grid.records[customList.indexOf(recid)];
+        const fault = isChanged && item ? faultOfText(field, text) : '';
+        if (fault) {
+            customList.drawCell(recid, column);
+            refuse(fault);
+            return false;
+        }
+        if (isChanged && item) {
+            item[field] = text;
+            customList.drawCell(recid, column);
+            customList.keepBlankRow();
+        } else {
+            customList.drawCell(recid, column);
+        }
+        return true;
+    },
+
+    cancel() {
+        const { recid, column } = this.place;
+        this.close();
+        customList.drawCell(recid, column);
+    },
+
+    // The engine tells nobody of the focus of an element that goes.
+    close() {
+        const hadFocus = document.activeElement === this.input;
+        this.input = null;
+        this.place = null;
+        wrentabledialog.setTextBoxFocusState(false);
+        if (hadFocus) {
+            customList.box.focus();
+        }
+    }
+};

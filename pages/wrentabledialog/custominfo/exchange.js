@@ -1,0 +1,118 @@
+// The list of custom information on its way from and to files and cameras.
+Object.assign(wrentabledialog_obj, {
+    initializeCustomInfoContainer() {
+        customList.create(document.querySelector('.custom-data-list'));
+        // What is being typed comes first.
+        const onCustomClick = (name, work) => onClick('.edit-buttons .' + name, () => customEditor.commit() && work());
+        onCustomClick('read', () => this.readCustomInfo());
+        onCustomClick('write', () => this.writeCustomInfo());
+        onCustomClick('apply', () => this.applyCustomInfo());
+        onCustomClick('loadCamera', () => this.loadCurrentCamera());
+    },
+
+    refreshCustomInfoContainer() {
+        zeb4func.disable('.edit-buttons .write', this.gridLock || customList.items().length === 0);
+    },
+
+    appendRecordEnd() {
+        customList.appendRecordEnd();
+    },
+
+    // The items as the bridge takes them.
+    getCustomDatas() {
+        return customList.items().map(({ name, value, unit, display }) => ({ name, value, unit, display }));
+    },
+
+    // Throws with the first fault.
+    validateCustomInfo() {
+        const { records } = customList.grid;
+        customList.items().forEach(item => {
+            const fault = faultOfItem(item, records);
+            if (fault) {
+                throw new Error(fault);
+            }
+        });
+    },
+
+    deleteCustomInfoRecord() {
+        const selected = customList.selected();
+        if (this.gridLock || selected.length === 0 || !wrentabledialog.confirm(textKey('Delete. Is it OK?'))) {
+            return;
+        }
+        const line = customList.indexOf(selected[0].recid);
+        customList.setItems(customList.grid.records.filter(item => !selected.includes(item)));
+        customList.keepBlankRow();
+        const { records } = customList.grid;
+        customList.choose([], { recid: records[Math.min(line, records.length - 1)].recid, column: 0 });
+        customList.bringIntoView(customList.current.recid);
+    },
+
+    // A file that holds nothing has been told of, and leaves the list as it is.
+    readCustomInfo() {
+        const items = itemsOf(wrentabledialog.loadCustomSettingsXml());
+        if (items.length > 0) {
+            this.showCustomInfo(items);
+            this.appendRecordEnd();
+        }
+    },
+
+    writeCustomInfo() {
+        this.validateCustomInfo();
+        const items = this.getCustomDatas();
+        if (items.length > 0) {
+            wrentabledialog.saveCustomSettingsXml(JSON.stringify(items));
+        }
+    },
+
+    applyCustomInfo() {
+        this.validateCustomInfo();
+        const list = JSON.stringify(this.getCustomDatas());
+        const sorted = JSON.stringify(zeb4func.hashSort(JSON.parse(list)));
+        const { records, last } = this.activeGrid();
+        const keys = last.selection.indexes.map(index => records[index].key);
+        const overwrites = keys.some(key => {
+            const present = itemsOf(wrentabledialog.getCustomSettings(key, true));
+            return present.length > 0 && JSON.stringify(zeb4func.hashSort(present)) !== sorted;
+        });
+        const question = textKey('Overwrite custom information for the selected camera. Is it OK?');
+        if (!overwrites || wrentabledialog.confirm(question)) {
+            wrentabledialog.setCustomSettings(keys, list);
+        }
+    },
+
+    loadCurrentCamera() {
+        const view = viewAt(this.activeTab());
+        const current = view.grid.records.find(record => (view.newest.get(record.key) || record).current);
+        if (current) {
+            this.selectDevice(current.key);
+        }
+        customList.keepBlankRow();
+    },
+
+    // Takes over the list of a camera, an empty one too.
+    selectDevice(key) {
+        this.customInfoLoading = true;
+        try {
+            if (key >= 0) {
+                this.showCustomInfo(itemsOf(wrentabledialog.getCustomSettings(key)));
+            }
+            if (customList.grid.records.length === 0) {
+                this.appendRecordEnd();
+            }
+        } catch (error) {
+            wrentabledialog.alert(textOfError(error));
+        } finally {
+            this.customInfoLoading = false;
+        }
+    },
+
+    showCustomInfo(items) {
+        customList.setItems(items.map((item, index) => ({
+            recid: index + 1,
+            name: String(item.name),
+            value: String(item.value),
+            unit: String(item.unit),
+            display: item.display === true
+        })));
+    }
+});

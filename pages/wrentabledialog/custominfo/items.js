@@ -1,0 +1,38 @@
+// Items of custom information as plain data, and what an item may be.
+
+const CUSTOM_TEXTS = ['name', 'value', 'unit'];
+const MAX_CUSTOM_TEXT = 256;
+// eslint-disable-next-line max-len -- a key stands in one piece
+const WRONG_LENGTH = textKey('Input the Item name and the Value at range of 1-256 character.Input the Unit at range of 0-256 character.');
+const HAS_TAG = textKey('Tags cannot be registered.');
+const DOUBLED_NAME = textKey('Item name is duplicated. Please change to another item name.');
+
+function isBlankItem(item) {
+    return CUSTOM_TEXTS.every(field => item[field] === '');
+}
+
+// Why an item can't have that text there; empty when it can.
+function faultOfText(field, text) {
+    if (text.length > MAX_CUSTOM_TEXT || (field !== 'unit' && text === '')) {
+        return WRONG_LENGTH;
+    }
+    return /<.*?>/.test(text) ? HAS_TAG : '';
+}
+
+// The first fault of an item among all of them; empty when there is none.
+function faultOfItem(item, items) {
+    const faults = CUSTOM_TEXTS.map(field => faultOfText(field, item[field]));
+    if (faults.includes(WRONG_LENGTH)) {
+        return WRONG_LENGTH;
+    }
+    if (faults.includes(HAS_TAG)) {
+        return HAS_TAG;
+    }
+    return items.some(other => other !== item && other.name === item.name) ? DOUBLED_NAME : '';
+}
+
+// The rows of a reply; those of a reply that is none, or of another form, are empty.
+function itemsOf(reply) {
+    const items = parseReply(reply);
+    return Array.isArray(items) ? items.filter(item => item !== null && typeof item === 'object') : [];
+}

@@ -1,0 +1,98 @@
+const DISPLAY_LIST = 'wrentabledialog_displaySettings_list';
+
+// The dialog in which the user chooses what the table shows. Each box acts at once; Cancel takes all of them back.
+Object.assign(wrentabledialog_obj, {
+    initializeDisplaySettings() {
+        onClick('#wrentabledialog_displaySettings', () => {
+            this.preventSelect = false;
+            if (displayDialog('instance') === undefined) {
+                this.createDisplayDialog();
+            }
+            this.refreshDisplayCheckBox();
+            displayDialog('open');
+        });
+    },
+
+    createDisplayDialog() {
+        const button = (text, word, click) => ({ text, class: 'ui-dialog-buttons ' + word, click });
+        this.createDisplaySettingElement();
+        displayDialog({
+            autoOpen: false,
+            modal: true,
+            resizable: false,
+            draggable: false,
+            width: 'auto',
+            height: 'auto',
+            title: translate('WREN Display settings'),
+            buttons: [
+                button(translate('OK'), 'ok', () => {
+                    this.displaySettingDialogResult = true;
+                    displayDialog('close');
+                }),
+                button(translate('Cancel'), 'close', () => displayDialog('close')),
+                button(translate('Reset'), 'caution', () => guarded(() => {
+                    this.resetDisplaySettings();
+                    this.refreshAllControls();
+                }))
+            ],
+            open: () => {
+                this.displaySettingDialogResult = false;
+                this.tempDisplaySetting = DISPLAY.map(shows => wrentabledialog.getPrefBool(shows.key));
+            },
+            close: () => guarded(() => this.endDisplayDialog())
+        });
+    },
+
+    createDisplaySettingElement() {
+        DISPLAY.forEach(({ id, group }) => {
+            const line = document.createElement('li');
+            const box = Object.assign(document.createElement('input'), { type: 'checkbox', id });
+            const label = Object.assign(document.createElement('label'), { htmlFor: id, textContent: translate(id) });
+            box.className = 'display_checkbox';
+            line.appendChild(box);
+            line.appendChild(label);
+            document.getElementById(DISPLAY_LIST + (group ? '_' + group : '')).appendChild(line);
+            onSwitch(box, on => {
+                wrentabledialog.setPrefBool(displayKey(id), on, false);
+                this.refreshAllControls();
+            });
+        });
+    },
+
+    endDisplayDialog() {
+        if (!this.displaySettingDialogResult) {
+            DISPLAY.forEach(({ key }, index) =>
+                wrentabledialog.setPrefBool(key, this.tempDisplaySetting[index], false));
+        }
+        this.refreshAllControls();
+    },
+
+    // As the user does who cancels it.
+    cancelDisplayDialog() {
+        if (displayDialog('instance') !== undefined && displayDialog('isOpen')) {
+            displayDialog('close');
+        }
+    },
+
+    refreshDisplayCheckBox() {
+        DISPLAY.forEach(({ id, key }) => {
+            document.getElementById(id).checked = wrentabledialog.getPrefBool(key);
+        });
+    },
+
+    resetDisplaySettings() {
+        DISPLAY.forEach(({ id, key }) => {
+            wrentabledialog.setPrefBool(key, true, false);
+            document.getElementById(id).checked = true;
+        });
+    },
+
+    // The buttons of every dialog of the page.
+    disableDisplayCheckBox() {
+        zeb4func.disable('.display_checkbox, .ui-dialog-buttons', wrentabledialog.isFileMode());
+    }
+});
+
+function displayDialog(option) {
+    return $('#wrentabledialog_displaySettings_dialog').dialog(option);
+}
