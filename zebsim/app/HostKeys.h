@@ -3,6 +3,7 @@
 #include "BarKey.h"
 
 #include <QElapsedTimer>
+#include <QList>
 #include <QObject>
 
 class QAction;
@@ -18,6 +19,8 @@ class HostKeys : public QObject {
 public:
     /// Goes with the bar. The host must outlive it.
     HostKeys(SimHost& host, QToolBar& bar);
+
+    QList<QAction*> actions() { return {&m_record.action(), m_cancel, m_disconnect}; }
 
 private:
     void record();

@@ -2,6 +2,8 @@
 
 #include "BarKey.h"
 
+#include <QList>
+
 class HostWindows;
 class QToolBar;
 class SimHost;
@@ -14,6 +16,8 @@ class SaveKeys : public QObject {
 public:
     /// The object goes with the bar. Host and windows must live until the application's event loop has ended.
     SaveKeys(SimHost& host, HostWindows& windows, QToolBar& bar);
+
+    QList<QAction*> actions() { return {&m_save.action(), &m_layout.action()}; }
 
 private:
     QString refusal() const;

@@ -16,11 +16,12 @@
 #include <QActionGroup>
 #include <QCloseEvent>
 #include <QLabel>
+#include <QMenu>
+#include <QMenuBar>
 #include <QStatusBar>
 #include <QToolBar>
 
 #include <algorithm>
-#include <functional>
 
 namespace {
 
@@ -32,6 +33,9 @@ const QString StyleKey = QStringLiteral("env/style");
 ViewerWindow::ViewerWindow(SimHost& host, const LogStore& log)
     : m_host(host),
       m_area(new ImageArea(this)),
+      m_fileMenu(menuBar()->addMenu(uiText("&File"))),
+      m_cameraMenu(menuBar()->addMenu(uiText("&Camera"))),
+      m_viewMenu(menuBar()->addMenu(uiText("&View"))),
       m_bar(addToolBar(uiText("Tools"))),
       m_modes(new QActionGroup(this)),
       m_styles(new QActionGroup(this)),
@@ -41,9 +45,11 @@ ViewerWindow::ViewerWindow(SimHost& host, const LogStore& log)
     setCentralWidget(m_area);
     m_bar->setObjectName(QStringLiteral("tools"));
     m_bar->setMovable(false);
-    new HostKeys(host, *m_bar);
+    m_cameraMenu->addActions((new HostKeys(host, *m_bar))->actions());
     m_bar->addSeparator();
     addModeSwitch();
+    m_bar->addSeparator();
+    m_viewMenu->addSeparator();
     addStyleSwitch();
     m_images = std::make_unique<CameraWindows>(host, *m_area);
     addToolBarBreak();
@@ -75,7 +81,6 @@ void ViewerWindow::addModeSwitch() {
         QAction* action = addChoice(m_modes, names.at(mode), QStringLiteral("mode%1").arg(mode));
         connect(action, &QAction::triggered, this, [this, mode] { m_host.appStatus().enterMode(mode); });
     }
-    m_bar->addSeparator();
 }
 
 void ViewerWindow::addStyleSwitch() {
@@ -92,16 +97,23 @@ void ViewerWindow::addStyleSwitch() {
 
 void ViewerWindow::addDialogs(AppWindows& windows) {
     m_bar->addSeparator();
-    new SaveKeys(m_host, windows, *m_bar);
+    m_fileMenu->addActions((new SaveKeys(m_host, windows, *m_bar))->actions());
+    m_fileMenu->addSeparator();
+    addEntry(m_fileMenu, uiText("&Quit"), "quit", [this] { Q_EMIT closeAsked(); });
+    QMenu* settings = menuBar()->addMenu(uiText("&Settings"));
+    QMenu* help = menuBar()->addMenu(uiText("&Help"));
     m_bar->addSeparator();
-    const auto add = [this](const char* text, const char* name, const std::function<void()>& open) {
-        QAction* action = m_bar->addAction(uiText(text));
-        action->setObjectName(QLatin1String(name));
-        connect(action, &QAction::triggered, this, open);
-    };
-    add(QT_TR_NOOP("Preferences"), "preferences", [&windows] { windows.openPreferences(); });
-    add(QT_TR_NOOP("Ethernet"), "ethernet", [&windows] { windows.openEthernetSettings(); });
-    add(QT_TR_NOOP("About ZEB"), "about", [&windows] { windows.openAbout(); });
+    m_bar->addActions(
+        {addEntry(settings, uiText("Preferences"), "preferences", [&windows] { windows.openPreferences(); }),
+         addEntry(settings, uiText("Ethernet"), "ethernet", [&windows] { windows.openEthernetSettings(); }),
+         addEntry(help, uiText("About ZEB"), "about", [&windows] { windows.openAbout(); })});
+}
+
+QAction* ViewerWindow::addEntry(QMenu* menu, const QString& text, const char* name, const std::function<void()>& work) {
+    QAction* action = menu->addAction(text);
+    action->setObjectName(QLatin1String(name));
+    connect(action, &QAction::triggered, this, work);
+    return action;
 }
 
 QAction* ViewerWindow::addChoice(QActionGroup* group, const QString& text, const QString& name) {
@@ -109,6 +121,7 @@ QAction* ViewerWindow::addChoice(QActionGroup* group, const QString& text, const
     action->setObjectName(name);
     action->setCheckable(true);
     m_bar->addAction(action);
+    m_viewMenu->addAction(action);
     return action;
 }
 

@@ -2,6 +2,7 @@
 
 #include <QMainWindow>
 
+#include <functional>
 #include <memory>
 
 class AppWindows;
@@ -12,10 +13,11 @@ class PluginSlot;
 class QActionGroup;
 class QLabel;
 class QMdiArea;
+class QMenu;
 class QToolBar;
 class SimHost;
 
-/// The viewer's window: plug-in buttons, mode and style in the tool bar, images in the middle, the log below.
+/// The viewer's window: menus, plug-in buttons, mode and style in the tool bar, images in the middle, the log below.
 class ViewerWindow : public QMainWindow {
     Q_OBJECT
 
@@ -26,8 +28,8 @@ public:
 
     /// Gives the plug-in a button of its name in the tool bar. The slot must outlive the window.
     void addPlugin(PluginSlot& slot);
-    /// Buttons that save, and those for the application's dialogs. They must live until the application's event loop
-    /// has ended.
+    /// Entries that save, and those for the application's dialogs, as buttons too. They must live until the
+    /// application's event loop has ended.
     void addDialogs(AppWindows& windows);
     QMdiArea* mdiArea() const;
     CameraWindows& images() { return *m_images; }
@@ -43,10 +45,14 @@ private:
     void addModeSwitch();
     void addStyleSwitch();
     QAction* addChoice(QActionGroup* group, const QString& text, const QString& name);
+    QAction* addEntry(QMenu* menu, const QString& text, const char* name, const std::function<void()>& work);
     void refresh();
 
     SimHost& m_host;
     ImageArea* m_area;
+    QMenu* m_fileMenu;
+    QMenu* m_cameraMenu;
+    QMenu* m_viewMenu;
     QToolBar* m_bar;
     QActionGroup* m_modes;
     QActionGroup* m_styles;
