@@ -1,12 +1,9 @@
-# Runs SCENARIO with ZEBSIM, from the factory preferences. With READER the folder of saved files is a fresh one, and
-# holds afterwards what stands in FRAMES, recorded at RATE; NAMES are cameras that are called otherwise than their files.
-file(REMOVE ${PREFS})
-if(READER)
-    set(folder ${PREFS}.saved)
-    file(REMOVE_RECURSE ${folder})
-    file(MAKE_DIRECTORY ${folder})
-    file(WRITE ${PREFS} "[save]\nfolder=${folder}\n")
-endif()
+# Runs SCENARIO with ZEBSIM, from the factory preferences and with a fresh folder of saved files. With READER it holds
+# afterwards what stands in FRAMES, recorded at RATE; NAMES are cameras that are called otherwise than their files.
+set(folder ${PREFS}.saved)
+file(REMOVE_RECURSE ${folder})
+file(MAKE_DIRECTORY ${folder})
+file(WRITE ${PREFS} "[save]\nfolder=${folder}\n")
 execute_process(COMMAND ${ZEBSIM} --prefs ${PREFS} --scenario ${SCENARIO} RESULT_VARIABLE status)
 if(NOT status EQUAL 0)
     message(FATAL_ERROR "${SCENARIO} ended with ${status}")

@@ -57,6 +57,8 @@ expectScript("\nfunction f(x) {\n  check(x, 'held');\n}\nf(0);\ncheck(true, 'aft
 expectScript(`zeb.open(); check(zeb.page("wrentabledialog.translate('Open')") === '開く', 'Japanese');
     check(zeb.pref('env/style') === 'dark', 'dark')`, 0, [], ['--style', 'dark', '--lang', 'ja', '--no-table']);
 
+const EXPORT = "zeb.page('wrentabledialog.openExportSupportFileDialog()')";
+
 // The place of what a script throws.
 [
     ['var a;\n\na.b.c;', 'my.js:3: TypeError'],
@@ -66,7 +68,11 @@ expectScript(`zeb.open(); check(zeb.page("wrentabledialog.translate('Open')") ==
     ["\nzeb.page('1')", 'my.js:2: Error: the table was never open'],
     ["zeb.modal(() => { throw new Error('mine'); }); zeb.open(); zeb.close()", 'Error: mine'],
     ["zeb.modal(() => check(true, 'seen'))", 'FAILED: a function still waits'],
-    ["zeb.answer('ok', 'no', 1, 2, 3, 4)", 'FAILED: no box took the answer ok, no, 1, 2, 3, 4']
+    ["zeb.answer('ok', 'no', 1, 2, 3, 4)", 'FAILED: no box took the answer ok, no, 1, 2, 3, 4'],
+    ["zeb.file('a')", 'FAILED: no file dialog took a zeb.file'],
+    [`zeb.open(); ${EXPORT}`, 'FAILED: a file dialog stands, and there is no zeb.file for it'],
+    [`zeb.open(); zeb.file('a"b'); ${EXPORT}`, 'FAILED: no new name with a double quote can be typed into a file dialog'],
+    [`zeb.open(); zeb.file('.'); ${EXPORT}`, 'FAILED: .: the file dialog does not take it']
 ].forEach(([script, words]) => expectScript(script, 1, [words]));
 expect(['--scenario', file('missing.js'), '--prefs', prefs], 1, []);
 
@@ -88,6 +94,14 @@ expectScript(`
         [() => zeb.fault('192.168.0.61', 'connect', {delay: 1}), 'a Sync Hub has no operation "connect"'],
         [() => zeb.rig('none.json'), 'none.json'],
         [() => zeb.speed(0), 'above 0'],
+        [() => zeb.type('a\\u007fb'), 'no key types U+007F'],
+        [() => zeb.key('Shift+Nothing'), 'no key Shift+Nothing'],
+        [() => zeb.readFile('none.txt'), '/none.txt: No such file'],
+        [() => zeb.writeFile('${prefs}/a', ''), '/a: '],
+        [() => zeb.file(7), 'takes a path'],
+        [() => zeb.menu('File > Open'), 'no entry "Open", but Save'],
+        [() => zeb.menu('File > Save'), 'is greyed'],
+        [() => zeb.menu('Help'), 'is a menu'],
         [() => zeb.modal('text'), 'takes a function'],
         [() => zeb.signal('signalNothing'), 'signalNothing']
     ].forEach(([work, words]) => {

@@ -4,6 +4,8 @@
 #include "ScenarioError.h"
 
 #include <QApplication>
+#include <QContextMenuEvent>
+#include <QCursor>
 #include <QElapsedTimer>
 #include <QHash>
 #include <QKeySequence>
@@ -28,13 +30,29 @@ QString textOf(int key, Qt::KeyboardModifiers modifiers) {
     return modifiers.testFlag(Qt::ShiftModifier) ? letter : letter.toLower();
 }
 
+/// What a keyboard sends when that key goes down.
+int keyOf(int key, Qt::KeyboardModifiers modifiers) {
+    return key == Qt::Key_Tab && modifiers.testFlag(Qt::ShiftModifier) ? int(Qt::Key_Backtab) : key;
+}
+
+/// As the window system does for the menu key.
+void askForMenu(QWindow& window, Qt::KeyboardModifiers modifiers) {
+    QContextMenuEvent event(QContextMenuEvent::Keyboard, window.mapFromGlobal(QCursor::pos()), QCursor::pos(),
+                            modifiers);
+    QCoreApplication::sendEvent(&window, &event);
+}
+
 /// A modal dialog that has just come up becomes active a moment later; nobody presses before that.
 void awaitModal(const std::function<bool()>& stop) {
     QElapsedTimer asked;
     asked.start();
-    const QWidget* modal = QApplication::activeModalWidget();
+    QWidget* modal = QApplication::activeModalWidget();
     if (modal == nullptr) {
         return;
+    }
+    // Without a window manager nobody gives it the keyboard back from a dialog that it has opened.
+    if (QApplication::activeWindow() == nullptr) {
+        modal->activateWindow();
     }
     waitUntil([&] { return QApplication::activeWindow() == modal || QApplication::activeModalWidget() != modal; },
               [&] { return stop() || asked.hasExpired(ActivationMs); });
@@ -48,12 +66,21 @@ void typeText(QWindow& window, const QString& text) {
                                                {QLatin1Char('\b'), Qt::Key_Backspace},
                                                {QLatin1Char('\x1b'), Qt::Key_Escape}};
     for (const QChar letter : text) {
+        if (letter.category() == QChar::Other_Control && !keys.contains(letter)) {
+            throw ScenarioError(QStringLiteral("no key types U+%1; zeb.key presses one by its name, as 'Delete'")
+                                    .arg(QString::number(letter.unicode(), 16).toUpper(), 4, QLatin1Char('0')));
+        }
+    }
+    for (int i = 0; i < text.size(); ++i) {
+        const QChar letter = text.at(i);
         if (keys.contains(letter)) {
             QTest::keyClick(&window, keys.value(letter));
         } else if (letter.unicode() < 128) {
             QTest::keyClick(&window, letter.toLatin1());
         } else {
-            QTest::sendKeyEvent(QTest::Click, &window, Qt::Key_unknown, QString(letter), Qt::NoModifier);
+            const int halves = letter.isHighSurrogate() ? 2 : 1;
+            QTest::sendKeyEvent(QTest::Click, &window, Qt::Key_unknown, text.mid(i, halves), Qt::NoModifier);
+            i += halves - 1;
         }
     }
 }
@@ -61,17 +88,20 @@ void typeText(QWindow& window, const QString& text) {
 void pressKey(const QString& name, int hold, const std::function<bool()>& stop) {
     const QKeySequence sequence(name, QKeySequence::PortableText);
     const int code = sequence[0];
-    const int key = code & ~int(Qt::KeyboardModifierMask);
+    const Qt::KeyboardModifiers modifiers(code & int(Qt::KeyboardModifierMask));
+    const int key = keyOf(code & ~int(Qt::KeyboardModifierMask), modifiers);
     if (sequence.count() != 1 || key == Qt::Key_unknown) {
         throw ScenarioError(QStringLiteral("there is no key ") % name);
     }
-    const Qt::KeyboardModifiers modifiers(code & int(Qt::KeyboardModifierMask));
     awaitModal(stop);
     const QPointer<QWindow> window = QGuiApplication::focusWindow();
     if (window == nullptr) {
         throw ScenarioError(QStringLiteral("no window is active, so no key goes anywhere"));
     }
     const auto send = [&](bool press, bool repeated) {
+        if (window && press && key == Qt::Key_Menu) {
+            askForMenu(*window, modifiers);
+        }
         // The key's work may have closed the window.
         if (window) {
             QTest::simulateEvent(window, press, key, modifiers, textOf(key, modifiers), repeated);

@@ -3,11 +3,13 @@
 #include "EventWait.h"
 #include "HostSignal.h"
 #include "KeyInput.h"
+#include "MenuInput.h"
 #include "PageInput.h"
 #include "PageScript.h"
 #include "PluginSlot.h"
 #include "ScenarioError.h"
 #include "Simulator.h"
+#include "ViewerWindow.h"
 
 #include <QJSEngine>
 
@@ -56,6 +58,7 @@ ScenarioApi::ScenarioApi(QJSEngine& engine, Simulator& simulator, const QString&
       m_hubs(simulator.host()),
       m_faults(simulator.host()),
       m_table(simulator, m_givenUp),
+      m_dialogs(folder),
       m_logMark(simulator.log().count()),
       m_callMark(simulator.host().journal().count()) {}
 
@@ -170,6 +173,13 @@ void ScenarioApi::key(const QString& name, const QVariantMap& options) {
     });
 }
 
+void ScenarioApi::menu(const QString& path) {
+    guarded([&] {
+        chooseEntry(m_simulator.window(), path);
+        m_table.settle();
+    });
+}
+
 QString ScenarioApi::active() {
     return activeTitle();
 }
@@ -227,6 +237,23 @@ void ScenarioApi::save(const QVariantMap& target) {
 
 QJSValue ScenarioApi::results() {
     return guarded([&] { return plain(SaveScripting::results(m_givenUp)); });
+}
+
+void ScenarioApi::file(const QJSValue& path) {
+    guarded([&] {
+        if (!path.isString() && !path.isNull()) {
+            throw ScenarioError(QStringLiteral("zeb.file takes a path, or null to leave the dialog"));
+        }
+        m_dialogs.files().order(path.isNull() ? QString() : path.toString());
+    });
+}
+
+QString ScenarioApi::readFile(const QString& path) {
+    return guarded([&] { return m_dialogs.files().read(path); });
+}
+
+void ScenarioApi::writeFile(const QString& path, const QString& text) {
+    guarded([&] { m_dialogs.files().write(path, text); });
 }
 
 void ScenarioApi::notices(bool stand) {

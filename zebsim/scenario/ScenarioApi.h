@@ -50,6 +50,7 @@ public:
     Q_INVOKABLE void type(const QString& text);
     Q_INVOKABLE void paste(const QString& text);
     Q_INVOKABLE void key(const QString& name, const QVariantMap& options = {});
+    Q_INVOKABLE void menu(const QString& path);
     Q_INVOKABLE QString active();
     Q_INVOKABLE void window(const QString& what);
     Q_INVOKABLE QString shot(const QString& path);
@@ -63,6 +64,10 @@ public:
     Q_INVOKABLE void answers(const QStringList& texts);
     Q_INVOKABLE void save(const QVariantMap& target = {});
     Q_INVOKABLE QJSValue results();
+    /// `path` is a text, or null.
+    Q_INVOKABLE void file(const QJSValue& path);
+    Q_INVOKABLE QString readFile(const QString& path);
+    Q_INVOKABLE void writeFile(const QString& path, const QString& text);
     Q_INVOKABLE void notices(bool stand);
     Q_INVOKABLE QJSValue messages();
     Q_INVOKABLE QJSValue log();

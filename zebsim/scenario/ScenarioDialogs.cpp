@@ -5,6 +5,7 @@
 #include "ScenarioError.h"
 
 #include <QAbstractButton>
+#include <QFileDialog>
 #include <QMessageBox>
 #include <QPointer>
 #include <QWebView>
@@ -29,7 +30,7 @@ QString textOf(const QMessageBox& box) {
 
 }  // namespace
 
-ScenarioDialogs::ScenarioDialogs() {
+ScenarioDialogs::ScenarioDialogs(const QString& folder) : m_files(folder) {
     connect(&m_watcher, &ModalWatcher::stands, this, &ScenarioDialogs::dialogStands);
     connect(&m_watcher, &ModalWatcher::noticed, this, [this](QMessageBox* box) {
         writeDown(*box);
@@ -72,6 +73,9 @@ QString ScenarioDialogs::leftOver() const {
     if (m_saves.isOrderLeft()) {
         return QStringLiteral("no save dialog took an order");
     }
+    if (m_files.isOrderLeft()) {
+        return QStringLiteral("no file dialog took a zeb.file");
+    }
     return {};
 }
 
@@ -85,30 +89,42 @@ QWebView& ScenarioDialogs::pageOfStanding() {
 
 void ScenarioDialogs::dialogStands(QDialog* dialog) {
     if (m_saves.isFor(*dialog)) {
-        serveSave(*dialog);
+        serve(m_saves, *dialog);
         return;
     }
     const QPointer<QMessageBox> box = qobject_cast<QMessageBox*>(dialog);
+    const QPointer<QFileDialog> files = qobject_cast<QFileDialog*>(dialog);
     if (box) {
         writeDown(*box);
     }
-    if (!m_functions.isEmpty()) {
-        const QJSValue result = m_functions.takeFirst().call();
-        if (result.isError()) {
-            Q_EMIT threw(result);
-        }
+    // An order comes before the functions.
+    if (!files || !m_files.isOrderLeft()) {
+        runFunction();
     }
-    // The function may have answered the box itself.
+    // The function may have answered the dialog itself.
     if (box && box->isVisible()) {
         answer(*box);
+    } else if (files && files->isVisible()) {
+        serve(m_files, *files);
     }
 }
 
-void ScenarioDialogs::serveSave(QDialog& dialog) {
+void ScenarioDialogs::runFunction() {
+    if (m_functions.isEmpty()) {
+        return;
+    }
+    const QJSValue result = m_functions.takeFirst().call();
+    if (result.isError()) {
+        Q_EMIT threw(result);
+    }
+}
+
+template <typename Orders, typename Dialog>
+void ScenarioDialogs::serve(Orders& orders, Dialog& dialog) {
     try {
-        m_saves.serve(dialog);
+        orders.serve(dialog);
     } catch (const ScenarioError& e) {
-        Q_EMIT unanswerable(QString::fromUtf8(e.what()));
+        Q_EMIT unanswerable(e.text());
     }
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "FileScripting.h"
 #include "ModalWatcher.h"
 #include "SaveScripting.h"
 
@@ -11,6 +12,7 @@
 #include <QVariantList>
 
 class QAbstractButton;
+class QFileDialog;
 class QMessageBox;
 class QWebView;
 
@@ -22,7 +24,8 @@ class ScenarioDialogs : public QObject {
     Q_OBJECT
 
 public:
-    ScenarioDialogs();
+    /// `folder` is the scenario's; empty: the program's.
+    explicit ScenarioDialogs(const QString& folder = {});
 
     /// Runs `function` inside the next modal dialog, one function a dialog.
     void expect(const QJSValue& function);
@@ -31,6 +34,8 @@ public:
     void queueAnswers(const QStringList& answers);
     /// The orders for save dialogs, which come before the functions.
     SaveScripting& saves() { return m_saves; }
+    /// The same for file dialogs. One that stands without an order is left, and counts as unanswerable.
+    FileScripting& files() { return m_files; }
     /// Notices stand as a user would see them until they are not to stand any more; or else each is closed at once.
     void letNoticesStand(bool stand);
     /// The boxes since the last call, each a map with `kind`, `text` and `answer`.
@@ -43,12 +48,15 @@ public:
 Q_SIGNALS:
     /// A function that waited for a dialog has thrown.
     void threw(const QJSValue& error);
-    /// A message box had no button of the given answer, or a save dialog no such format.
+    /// A message box had no button of the given answer, or a save or file dialog could not do as ordered.
     void unanswerable(const QString& text);
 
 private:
     void dialogStands(QDialog* dialog);
-    void serveSave(QDialog& dialog);
+    void runFunction();
+    /// Serves a dialog as ordered.
+    template <typename Orders, typename Dialog>
+    void serve(Orders& orders, Dialog& dialog);
     void writeDown(QMessageBox& box);
     void answer(QMessageBox& box);
 
@@ -56,6 +64,7 @@ private:
     QList<QJSValue> m_functions;
     QStringList m_answers;
     SaveScripting m_saves;
+    FileScripting m_files;
     QVariantList m_messages;
     bool m_noticesStand = false;
     QPointer<QMessageBox> m_notice;

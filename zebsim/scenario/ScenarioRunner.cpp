@@ -43,6 +43,8 @@ int ScenarioRunner::run(const QString& path) {
 int ScenarioRunner::run(const QString& path, const QString& program) {
     // Nobody would answer the dialog that comes at the first opening of the table.
     m_simulator.host().prefs().assume(QStringLiteral("wren/settings/done"), true);
+    // One of the system could not be worked.
+    QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
     const QString folder = QFileInfo(path).absolutePath();
     ScenarioApi api(m_engine, m_simulator, folder, [this] { return m_stop.load(); });
     connect(&api.dialogs(), &ScenarioDialogs::threw, this, &ScenarioRunner::reportError);

@@ -1,0 +1,37 @@
+// A file dialog takes every name that a user could choose in it, and what stands behind it is as it was when he leaves.
+
+const folder = zeb.pref('save/folder');
+const within = name => `${folder}/${name}`;
+zeb.open();
+const save = () => zeb.page('wrentabledialog.openExportSupportFileDialog()');
+const isZip = name => zeb.readFile(within(name)).startsWith('PK');
+
+['Prüfstand.zip', '試験.zip', '📷.zip', "it's.zip", 'no suffix', ' blank ', '$HOME.zip', '~user', '#1 & 2%.zip', '-x.zip',
+    '長'.repeat(85), 'x'.repeat(251) + '.zip'].forEach(name => {
+    zeb.file(within(name));
+    save();
+    check(isZip(name), `"${name}" is written`);
+});
+
+// This dialog asks nothing about a file that is there, and one with such a name can only be picked.
+['Prüfstand.zip', 'a "b" c.zip'].forEach(name => {
+    zeb.writeFile(within(name), 'old');
+    zeb.messages();
+    zeb.file(within(name));
+    save();
+    check(isZip(name) && zeb.messages().length === 2, `${name} is replaced`);
+});
+
+zeb.writeFile(within('kept/old.zip'), 'old');
+zeb.file(null);
+save();
+check(zeb.readFile(within('kept/old.zip')) === 'old', 'nothing is written');
+check(zeb.readFile('files.js').startsWith('// A file'), 'the scenario has its own folder');
+
+// A folder, by the button behind the path of the save dialog.
+zeb.setCamera(zeb.keys()[0], {connected: true, recorded: true, recordedRange: [0, 0]});
+zeb.mode('memory');
+zeb.file(within('kept'));
+zeb.modal(() => ['Tab', 'Tab', 'Space', 'Return'].forEach(name => zeb.key(name)));
+zeb.menu('File > Save');
+check(zeb.results()[0].endsWith('kept'), 'the chosen folder is saved into');
