@@ -12,6 +12,7 @@
 #include "ViewerWindow.h"
 
 #include <QAction>
+#include <QLabel>
 #include <QMdiArea>
 #include <QSlider>
 #include <QTemporaryDir>
@@ -136,6 +137,32 @@ TEST_F(Images, ShowWhatIsRecordedInMemoryModeAndNothingInFileMode) {
     EXPECT_EQ(host.mdi().countMdiWindow(true, 2), 0);
     EXPECT_FALSE(viewer.findChild<PlayerBar*>()->isVisible());
     EXPECT_FALSE(camera(1).get(&CameraState::playing));
+}
+
+TEST_F(Images, StandBelowTheItemsThatAreToBeShown) {
+    const auto list = [](const char* name, bool display) {
+        return QVariantList{QVariantMap{{"name", name}, {"value", "1\n2"}, {"display", display}}};
+    };
+    const auto seen = [&] {
+        images.showNow();
+        return images.find(1)->view().grab().toImage();
+    };
+    camera(1).change({{"stopLive", true}, {"selected", true}, {"customInfo", list("Lot", false)}});
+    const QImage bare = seen();
+    camera(1).change({{"customInfo", list("Lot", true)}});
+    EXPECT_NE(seen(), bare);
+    camera(1).change({{"customInfo", QVariantList()}});
+    EXPECT_EQ(seen(), bare);
+
+    camera(1).change({{"recorded", true}, {"recordedCustomInfo", list("<b>Lot</b>", false)}});
+    host.appStatus().enterMode(zeb::MemoryMode);
+    const QImage recorded = seen();
+    const auto* player = viewer.findChild<QLabel*>("items");
+    EXPECT_EQ(player->text(), "");
+    camera(1).change({{"recordedCustomInfo", list("<b>Lot</b>", true)}});
+    EXPECT_NE(seen(), recorded);
+    EXPECT_EQ(player->text(), "<b>Lot</b>: 1\\n2") << "the recording's own, as text";
+    EXPECT_TRUE(player->toolTip().contains("&lt;b&gt;Lot&lt;/b&gt;: 1<br"));
 }
 
 }  // namespace

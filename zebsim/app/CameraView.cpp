@@ -33,6 +33,12 @@ void CameraView::showFrame(const std::optional<CameraFrame>& frame, const ImageP
     update();
 }
 
+void CameraView::showItems(const CustomInfo& info) {
+    if (m_items.setInfo(info)) {
+        update();
+    }
+}
+
 void CameraView::setMarked(bool marked) {
     if (m_marked == marked) {
         return;
@@ -45,7 +51,8 @@ void CameraView::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     painter.fillRect(rect(), Background);
     if (m_frame) {
-        drawImage(painter);
+        const QRect image = drawImage(painter) & rect();
+        m_items.paint(painter, image, width());
     } else {
         painter.setPen(Qt::lightGray);
         painter.drawText(rect(), Qt::AlignCenter | Qt::TextWordWrap, m_text);
@@ -57,14 +64,14 @@ void CameraView::paintEvent(QPaintEvent* /*event*/) {
     }
 }
 
-void CameraView::drawImage(QPainter& painter) const {
+QRect CameraView::drawImage(QPainter& painter) const {
     QTransform pose;
     pose.rotate(m_pose.rotation * 360);
     pose.scale(m_pose.flipHorizontal ? -1 : 1, m_pose.flipVertical ? -1 : 1);
     const QRectF posed = pose.mapRect(QRectF({}, m_frame->resolution));
     const QSize shown = fitInto(size(), posed.size().toSize());
     if (shown.isEmpty()) {
-        return;
+        return {};
     }
     const double scale = shown.width() / posed.width();
     const QSizeF plain = QSizeF(m_frame->resolution) * scale;
@@ -75,4 +82,7 @@ void CameraView::drawImage(QPainter& painter) const {
     painter.scale(m_pose.zoom, m_pose.zoom);
     painter.drawImage(QRectF(QPointF(-plain.width() / 2, -plain.height() / 2), plain), image);
     painter.restore();
+    QRect place({}, shown);
+    place.moveCenter(rect().center());
+    return place;
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "CameraFrame.h"
+#include "ItemOverlay.h"
 
 #include <QWidget>
 
@@ -27,6 +28,8 @@ public:
 
     /// Nothing: `text` stands in the place of an image.
     void showFrame(const std::optional<CameraFrame>& frame, const ImagePose& pose, const QString& text);
+    /// Whose shown items lie over the image.
+    void showItems(const CustomInfo& info);
     /// Whether the image has the frame of a selected camera.
     void setMarked(bool marked);
     bool isMarked() const { return m_marked; }
@@ -36,10 +39,12 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    void drawImage(QPainter& painter) const;
+    /// Answers where it stands.
+    QRect drawImage(QPainter& painter) const;
 
     std::optional<CameraFrame> m_frame;
     ImagePose m_pose;
     QString m_text;
+    ItemOverlay m_items;
     bool m_marked = false;
 };

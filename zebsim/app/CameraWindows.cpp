@@ -152,6 +152,7 @@ void CameraWindows::showImage(const Camera& camera, CameraWindow& window, qint64
     } else {
         frame = CameraFrame::live(state, m_shownAt);
     }
+    window.view().showItems(camera.customInfo(m_host.isMemoryMode()));
     window.view().showFrame(frame, poseOf(state), uiText("Nothing is recorded"));
 }
 

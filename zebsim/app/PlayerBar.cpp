@@ -3,6 +3,8 @@
 #include "Camera.h"
 #include "CameraFrame.h"
 #include "CameraWindows.h"
+#include "ElidedLabel.h"
+#include "OneLine.h"
 #include "SimHost.h"
 #include "UiText.h"
 
@@ -17,7 +19,8 @@ PlayerBar::PlayerBar(SimHost& host, CameraWindows& windows, QWidget* parent)
       m_windows(windows),
       m_play(addAction(uiText("Play"))),
       m_position(new QSlider(Qt::Horizontal, this)),
-      m_frame(new QLabel(this)) {
+      m_frame(new QLabel(this)),
+      m_items(new ElidedLabel(this)) {
     setObjectName(QStringLiteral("player"));
     setMovable(false);
     m_play->setObjectName(QStringLiteral("play"));
@@ -26,9 +29,13 @@ PlayerBar::PlayerBar(SimHost& host, CameraWindows& windows, QWidget* parent)
     m_frame->setObjectName(QStringLiteral("frame"));
     m_frame->setTextFormat(Qt::PlainText);
     m_frame->setMinimumWidth(30 * fontMetrics().averageCharWidth());
-    m_frame->setStyleSheet(QStringLiteral("background: transparent"));
+    m_items->setObjectName(QStringLiteral("items"));
+    for (QLabel* label : {m_frame, static_cast<QLabel*>(m_items)}) {
+        label->setStyleSheet(QStringLiteral("background: transparent"));
+    }
     addWidget(m_position);
     addWidget(m_frame);
+    addWidget(m_items);
     connect(m_play, &QAction::triggered, this, &PlayerBar::play);
     connect(m_position, &QSlider::valueChanged, this, &PlayerBar::seek);
     connect(&host.events(), &HostEvents::modeChanged, this, &PlayerBar::modeChanged);
@@ -78,6 +85,7 @@ void PlayerBar::refresh() {
     m_play->setIcon(style()->standardIcon(isPlaying ? QStyle::SP_MediaPause : QStyle::SP_MediaPlay));
     m_frame->clear();
     if (camera == nullptr) {
+        m_items->setTexts({}, {});
         return;
     }
     const Recording recording = *camera->recording();
@@ -87,4 +95,6 @@ void PlayerBar::refresh() {
     m_position->setValue(frame);
     const CameraFrame shown = CameraFrame::recorded(camera->state(), recording, frame);
     m_frame->setText(uiText("%1: frame %2").arg(shown.camera, QString::number(shown.number)));
+    const QStringList items = recording.customInfo.shownTexts();
+    m_items->setTexts(inOneLine(items.join(QStringLiteral("   "))), items.join(QLatin1Char('\n')));
 }

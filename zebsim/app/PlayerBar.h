@@ -4,11 +4,13 @@
 
 class Camera;
 class CameraWindows;
+class ElidedLabel;
 class QLabel;
 class QSlider;
 class SimHost;
 
-/// Plays what the current camera has recorded. Stands in the window in memory mode only.
+/// Plays what the current camera has recorded, and tells its shown items of custom information. Stands in the window in
+/// memory mode only.
 class PlayerBar : public QToolBar {
     Q_OBJECT
 
@@ -28,4 +30,5 @@ private:
     QAction* m_play;
     QSlider* m_position;
     QLabel* m_frame;
+    ElidedLabel* m_items;
 };
