@@ -33,6 +33,7 @@ TEST_F(RecordingTest, GoesThroughAllStatesOnTheClock) {
 }
 
 TEST_F(RecordingTest, KeepsWhatThereIsWhenItIsStopped) {
+    test.camera(1).set(&CameraState::shutter, 8000);
     triggerAll();
     pass(500);
     host.recorder().stopRecording();
@@ -41,8 +42,9 @@ TEST_F(RecordingTest, KeepsWhatThereIsWhenItIsStopped) {
     EXPECT_EQ(recorded(1), "0..499 trigger 0");
     EXPECT_EQ(ends, 1);
     host.appStatus().enterMode(zeb::LiveMode);
-    test.camera(1).set(&CameraState::resolution, {512, 512});
+    test.camera(1).change({{"resolution", QVariantList{512, 512}}, {"shutter", 16000}});
     EXPECT_EQ(test.camera(1).recording()->resolution, QSize(1024, 1024)) << "frames stay as they were recorded";
+    EXPECT_EQ(test.camera(1).recording()->shutter, 8000);
 }
 
 TEST_F(RecordingTest, IsCancelledInEachState) {

@@ -195,6 +195,7 @@ void Camera::keep(PARTITIONNUMBER partition, const std::optional<Recording>& rec
         kept.recorded = true;
         kept.serial = ++lastSerial;
         kept.recordedRate = recording->rate;
+        kept.recordedShutter = recording->shutter;
         kept.recordedResolution = recording->resolution;
         kept.recordedRange = {recording->first, recording->last};
         kept.recordedTrigger = recording->trigger;

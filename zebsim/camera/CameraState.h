@@ -17,6 +17,7 @@ struct PartitionMemory {
     Q_GADGET
     Q_PROPERTY(bool recorded MEMBER recorded)
     Q_PROPERTY(uint recordedRate MEMBER recordedRate)
+    Q_PROPERTY(int recordedShutter MEMBER recordedShutter)
     Q_PROPERTY(QSize recordedResolution MEMBER recordedResolution)
     Q_PROPERTY(QPoint recordedRange MEMBER recordedRange)
     Q_PROPERTY(int recordedTrigger MEMBER recordedTrigger)
@@ -27,9 +28,11 @@ struct PartitionMemory {
     Q_PROPERTY(CustomInfo recordedCustomInfo MEMBER recordedCustomInfo)
 public:
     bool recorded = false;
-    /// Frames a second, pixels, first and last frame, frame of the trigger, first and last frame to keep. A rate of 0
-    /// and no pixels: as the camera is set; a range that ends before it begins: all frames.
+    /// Frames a second, n of 1/n second, pixels, first and last frame, frame of the trigger, first and last frame to
+    /// keep. A rate or shutter of 0 and no pixels: as the camera is set; a range that ends before it begins: all
+    /// frames.
     unsigned int recordedRate = 0;
+    int recordedShutter = 0;
     QSize recordedResolution{0, 0};
     QPoint recordedRange{0, -1};
     int recordedTrigger = 0;

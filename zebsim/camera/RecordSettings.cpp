@@ -9,6 +9,7 @@ RecordSettings RecordSettings::of(const CameraState& state, const CameraModel& m
     settings.mode = state.triggerMode;
     settings.capacity = static_cast<int>(model.frameCapacity(state));
     settings.rate = std::max(1U, state.rate);
+    settings.shutter = state.shutter;
     settings.resolution = state.resolution;
     settings.triggerFrame = state.triggerFrame;
     settings.randomFrames = state.randomFrames;
@@ -92,6 +93,7 @@ std::optional<Recording> RecordSettings::recording(qint64 ready, qint64 recorded
     }
     Recording recording;
     recording.rate = rate;
+    recording.shutter = shutter;
     recording.resolution = resolution;
     recording.trigger = static_cast<int>(before);
     recording.first = recording.selectedFirst = static_cast<int>(first);

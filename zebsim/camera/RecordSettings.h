@@ -14,6 +14,8 @@ struct RecordSettings {
     int capacity = 0;
     /// Frames a second; never 0.
     unsigned int rate = 1;
+    /// n of 1/n second.
+    int shutter = 0;
     QSize resolution;
     /// Of the manual modes: frames of the memory that are kept for what comes from the trigger on.
     int triggerFrame = 0;

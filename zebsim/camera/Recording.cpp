@@ -23,6 +23,7 @@ std::optional<Recording> Recording::of(const CameraState& state, const CameraMod
     const QPoint selected = orWhole(state.selectedRange, range);
     Recording recording;
     recording.rate = state.recordedRate != 0 ? state.recordedRate : state.rate;
+    recording.shutter = state.recordedShutter != 0 ? state.recordedShutter : state.shutter;
     recording.resolution = state.recordedResolution.isEmpty() ? state.resolution : state.recordedResolution;
     recording.first = range.x();
     recording.last = range.y();

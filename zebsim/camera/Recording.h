@@ -14,6 +14,8 @@ struct CameraState;
 struct Recording {
     /// Frames a second.
     unsigned int rate = 0;
+    /// n of 1/n second.
+    int shutter = 0;
     /// Of its frames, in pixels.
     QSize resolution;
     int first = 0;
