@@ -6,7 +6,6 @@
 #include <QSaveFile>
 #include <QTemporaryFile>
 
-#include <fcntl.h>
 #include <unistd.h>
 
 #include <cerrno>
@@ -35,8 +34,8 @@ QString replaceLongName(const QFileInfo& there, const QByteArray& bytes) {
     if (!put(file, bytes)) {
         return diskFull();
     }
-    file.setPermissions(there.permissions());
     ::fdatasync(file.handle());
+    file.setPermissions(there.permissions());
     if (std::rename(QFile::encodeName(file.fileName()), QFile::encodeName(there.canonicalFilePath())) != 0) {
         return qt_error_string(errno);
     }
@@ -44,14 +43,18 @@ QString replaceLongName(const QFileInfo& there, const QByteArray& bytes) {
     return {};
 }
 
-/// Over the old bytes, which stand until there is room for all of the new ones.
+/// Over the old bytes, which are put back when there is no room for all of the new ones.
 QString writeInPlace(QFile& file, const QByteArray& bytes) {
     const qint64 before = file.size();
-    if (!bytes.isEmpty() && ::posix_fallocate(file.handle(), 0, bytes.size()) != 0) {
-        file.resize(before);
-        return diskFull();
+    const QByteArray old = file.read(bytes.size());
+    file.seek(0);
+    if (put(file, bytes) && file.resize(bytes.size()) && ::fdatasync(file.handle()) == 0) {
+        return {};
     }
-    return put(file, bytes) && file.resize(bytes.size()) && ::fdatasync(file.handle()) == 0 ? QString() : diskFull();
+    file.seek(0);
+    put(file, old);
+    file.resize(before);
+    return diskFull();
 }
 
 QString writeWhole(const QString& path, const QByteArray& bytes, bool& isOpened) {
@@ -59,7 +62,7 @@ QString writeWhole(const QString& path, const QByteArray& bytes, bool& isOpened)
     QFile old(path);
     if (there.exists()) {
         QString reason = whyNoPlainFile(path);
-        if (!reason.isEmpty() || !old.open(QIODevice::ReadWrite | QIODevice::ExistingOnly)) {
+        if (!reason.isEmpty() || !old.open(QIODevice::ReadWrite | QIODevice::ExistingOnly | QIODevice::Unbuffered)) {
             return reason.isEmpty() ? old.errorString() : reason;
         }
         if (QFile::encodeName(QFileInfo(there.canonicalFilePath()).fileName()).size() > LongestNameOfSaveFile) {

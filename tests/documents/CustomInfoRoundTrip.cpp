@@ -1,0 +1,91 @@
+#include "CustomInfoRoundTrip.h"
+
+#include "CustomInfoReader.h"
+#include "CustomInfoWriter.h"
+
+#include <QStringList>
+
+namespace {
+
+/// Without what XML has no form for, and nothing where nothing but blanks is left.
+QString cleaned(const QString& text) {
+    QString kept;
+    for (int i = 0; i < text.size(); ++i) {
+        const bool isPair = text[i].isHighSurrogate() && i + 1 < text.size() && text[i + 1].isLowSurrogate();
+        const ushort code = text[i].unicode();
+        if (isPair) {
+            kept += text.midRef(i++, 2);
+        } else if (!text[i].isSurrogate() && code < 0xFFFE &&
+                   (code >= ' ' || QByteArray("\t\n\r").contains(char(code)))) {
+            kept += text[i];
+        }
+    }
+    return kept.trimmed().isEmpty() ? QString() : kept;
+}
+
+QList<QVariantMap> asRead(const QList<QVariantMap>& items, const CustomInfoForm& form) {
+    QList<QVariantMap> read;
+    for (const QVariantMap& item : items) {
+        const bool shown = item.value(QLatin1String(form.shownKey)).toBool();
+        QVariantMap expected{{QLatin1String(form.shownKey), shown}};
+        for (const char* field : {"name", "value", "unit"}) {
+            expected.insert(QLatin1String(field), cleaned(item.value(QLatin1String(field)).toString()));
+        }
+        if (form.readsFileNameFlag) {
+            expected.insert(QStringLiteral("usefilename"), shown);
+        }
+        read.append(expected);
+    }
+    return read;
+}
+
+}  // namespace
+
+QString faultOfReading(const QByteArray& bytes) {
+    for (const CustomInfoForm& form : {TableForm, DialogForm}) {
+        const CustomInfoReading reading = readCustomInfo(bytes, form);
+        if (reading.items.isEmpty() == reading.reason.isEmpty()) {
+            return QStringLiteral("neither items nor a reason, or both: ") + reading.reason;
+        }
+        for (const QVariantMap& item : reading.items) {
+            if (!item.contains(QStringLiteral("name"))) {
+                return QStringLiteral("an item without a name");
+            }
+        }
+        const QString fault = faultOfWriting(reading.items, form);
+        if (!fault.isEmpty()) {
+            return fault;
+        }
+    }
+    return {};
+}
+
+QString faultOfWriting(const QList<QVariantMap>& items, const CustomInfoForm& form) {
+    const CustomInfoWriting writing = writeCustomInfo(items, QStringLiteral("1.0"), form);
+    if (writing.bytes.isEmpty() == writing.reason.isEmpty()) {
+        return QStringLiteral("neither a file nor a reason, or both: ") + writing.reason;
+    }
+    if (!writing.reason.isEmpty() || items.isEmpty()) {
+        return {};
+    }
+    const CustomInfoReading reading = readCustomInfo(writing.bytes, form);
+    const QList<QVariantMap> expected = asRead(items, form);
+    if (reading.items == expected) {
+        return {};
+    }
+    return reading.reason + QStringLiteral("\nread ") + textOf(reading.items, form) + QStringLiteral("\nfor  ") +
+           textOf(expected, form);
+}
+
+QString textOf(const QList<QVariantMap>& items, const CustomInfoForm& form) {
+    QStringList lines;
+    for (const QVariantMap& item : items) {
+        QStringList fields;
+        for (const char* key : {"name", "value", "unit", form.shownKey, "usefilename"}) {
+            fields.append(item.contains(QLatin1String(key)) ? item[QLatin1String(key)].toString()
+                                                            : QStringLiteral("-"));
+        }
+        lines.append(fields.join(QLatin1Char('|')));
+    }
+    return lines.join(QLatin1Char(';'));
+}
