@@ -88,7 +88,7 @@ module.exports = [
         languageOptions: {
             ecmaVersion: 2015,
             sourceType: 'script',
-            globals: Object.assign({}, browser, host, readonly(['app', 'items']))
+            globals: Object.assign({}, browser, host, readonly(['app', 'items', 'CustomInfoDialog']))
         },
         rules: pageRules
     },

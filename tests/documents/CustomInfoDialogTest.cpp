@@ -2,6 +2,7 @@
 #include "JS_Mediator_CustomInfoDialog.h"
 #include "support/TestHost.h"
 
+#include <QApplication>
 #include <QFileDialog>
 #include <QTimer>
 
@@ -55,3 +56,110 @@ protected:
     TestHost m_test;
     const QVariantList m_both{1U, 2U};
 };
+
+TEST_F(CustomInfoDialog, TellsOfTheSelectedCamerasOrOfTheSaveList) {
+    auto selected = bridge();
+    EXPECT_EQ(selected.getDeviceInfo(), R"({"InitSelect":{"dockey":1,"name":"Camera 1","recid":1},"Records":[)"
+                                        R"({"dockey":1,"name":"Camera 1","recid":1},)"
+                                        R"({"dockey":2,"name":"Camera 2","recid":2}]})");
+    EXPECT_EQ(selected.getCustomInfo(2),
+              R"([{"dockey":2,"name":"TestNo","recid":1,"selected":true,"unit":"","usefilename":false,"value":"12"},)"
+              R"({"dockey":2,"name":"Gas <b>","recid":2,"selected":false,"unit":"bar","usefilename":true,)"
+              R"("value":"N2 \"x\""}])");
+    EXPECT_EQ(selected.getCustomInfo(99), "[]");
+    m_test.host.docManager().setTemporarySaveDocs({3, 99, 2});
+    EXPECT_EQ(bridge(true).getDeviceInfo(), R"({"InitSelect":{"dockey":3,"name":"Camera 3","recid":1},"Records":[)"
+                                            R"({"dockey":3,"name":"Camera 3","recid":1},)"
+                                            R"({"dockey":2,"name":"Camera 2","recid":2}]})");
+    selected.setSelectedDeviceItems({2});
+    EXPECT_EQ(selected.getCurrentDeviceRecord(), 2);
+    selected.setSelectedDeviceItems({1, 2});
+    EXPECT_EQ(selected.getCurrentDeviceRecord(), 2);
+    selected.setSelectedDeviceItems({});
+    EXPECT_EQ(selected.getCurrentDeviceRecord(), 0);
+    EXPECT_EQ(selected.getCallbackType(), 17);
+}
+
+TEST_F(CustomInfoDialog, ChangesItsTargetsAndPutsThemBack) {
+    auto dialog = bridge();
+    const auto item = [](const char* name, const char* value) {
+        return QVariantMap{{"name", name}, {"value", value}, {"unit", "mm"}};
+    };
+    QVariantMap edited = item("Shot", "13");
+    edited.insert({{"oldname", "TestNo"}, {"display", ""}, {"usefilename", "on"}});
+    QVariantMap shown = item("Gas <b>", "of no matter");
+    shown.insert("selected", true);
+    QVariantMap comment = item("Comments", "two\nlines");
+    struct Case {
+        const char* what;
+        std::function<void(const QVariantList&)> work;
+        const char* list;
+    };
+    const QString before = listOf(m_test.camera(1));
+    m_test.calls();
+    for (const Case& c : {
+             Case{"add", [&](auto& keys) { dialog.addCustomData(keys, item("New", "1")); },
+                  "TestNo: 12 +-, Gas <b>: N2 \"x\" bar -+, New: 1 mm ++"},
+             Case{"edit", [&](auto& keys) { dialog.editCustomData(keys, edited); },
+                  "Shot: 13 mm -+, Gas <b>: N2 \"x\" bar -+, New: 1 mm ++"},
+             Case{"show",
+                  [&](auto& keys) {
+                      dialog.enableCustomData(keys, {shown, item("None", "")});
+                  },
+                  "Shot: 13 mm -+, Gas <b>: N2 \"x\" bar ++, New: 1 mm ++"},
+             Case{"delete",
+                  [&](auto& keys) {
+                      dialog.deleteCustomData(keys, {item("New", ""), item("None", "")});
+                  },
+                  "Shot: 13 mm -+, Gas <b>: N2 \"x\" bar ++"},
+             Case{"restore",
+                  [&](auto& keys) {
+                      dialog.restoreCustomData(keys, {shown, comment});
+                  },
+                  "Gas <b>: of no matter mm ++"},
+         }) {
+        SCOPED_TRACE(c.what);
+        c.work({1U, 99U, 2U});
+        EXPECT_EQ(listOf(m_test.camera(1)), c.list);
+        EXPECT_EQ(listOf(m_test.camera(2)), c.list);
+        EXPECT_EQ(m_test.calls("refreshDocList"), QStringList("refreshDocList 1"));
+    }
+    EXPECT_EQ(m_test.camera(2).get(&CameraState::comment), "two{Separator}lines");
+    m_test.host.faults().plant(1, "clearCustomInfo", {"no answer"});
+    dialog.cancel();
+    EXPECT_EQ(listOf(m_test.camera(1)), "Gas <b>: of no matter mm ++") << "it does not answer";
+    EXPECT_EQ(listOf(m_test.camera(2)), before) << "which is not the other's fault";
+    EXPECT_EQ(m_test.camera(2).get(&CameraState::comment), "as it was");
+    EXPECT_EQ(m_test.desk.take().size(), 1);
+    m_test.calls();
+    dialog.cancel();
+    EXPECT_EQ(m_test.calls("Info$"), QStringList()) << "once";
+}
+
+TEST_F(CustomInfoDialog, ReadsAndWritesFiles) {
+    auto dialog = bridge();
+    const QString file = m_test.folder.filePath("list.xml");
+    write(file, "<job><Cm_Comment>said</Cm_Comment><Speed unit=\"km/h\" display=\"false\">80</Speed></job>");
+    chooseFile(file);
+    dialog.load(m_both);
+    EXPECT_EQ(listOf(m_test.camera(2)), "Speed: 80 km/h -+");
+    EXPECT_EQ(m_test.camera(1).get(&CameraState::comment), "said");
+    EXPECT_EQ(m_test.host.prefs().value("xml/dir").toString(), m_test.folder.path());
+    chooseFile(file);
+    dialog.save({QVariantMap{{"name", "A"}, {"value", "1 < 2"}, {"selected", false}}});
+    EXPECT_EQ(contentOf(file).simplified().mid(contentOf(file).simplified().indexOf("<customItem>")),
+              "<customItem> <name>A</name> <value>1 &lt; 2</value> <unit></unit> <display>false</display> "
+              "<usefilename>true</usefilename> </customItem> </customItems> </custom>");
+    EXPECT_EQ(m_test.desk.take(), QStringList());
+
+    write(file, "<custom/>");
+    chooseFile(file);
+    dialog.load(m_both);
+    EXPECT_EQ(m_test.desk.take(), QStringList("File read failed."));
+    EXPECT_EQ(listOf(m_test.camera(1)), "Speed: 80 km/h -+") << "as it was";
+    chooseFile(m_test.folder.filePath("nowhere/list.xml"));
+    dialog.save({QVariantMap{{"name", "A"}, {"value", "1"}}});
+    EXPECT_EQ(m_test.desk.take(), QStringList()) << "what can't be opened has a line in the log";
+}
+
+}  // namespace

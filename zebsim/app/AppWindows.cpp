@@ -8,6 +8,7 @@
 #include "DialogRun.h"
 #include "EthernetDialog.h"
 #include "FramePicture.h"
+#include "GUI_CustomInfoDialog.h"
 #include "LogStore.h"
 #include "PreferencesDialog.h"
 #include "ProgressWait.h"
@@ -83,8 +84,12 @@ void AppWindows::editCamera(DOCKEY key) {
     runDialog(m_host, dialog);
 }
 
+void AppWindows::editCustomInfo(bool forTemporary) {
+    runDialog(m_host, new GUI_CustomInfoDialog(&m_host, forTemporary, m_host.getMainWindow()));
+}
+
 void AppWindows::snapShot(int mode) {
-    takeSnapShot(m_host, currentImage(), mode);
+    takeSnapShot(m_host, currentFrame(), mode);
 }
 
 void AppWindows::runProgress(const QString& text, QFutureWatcherBase& watcher) {
@@ -95,13 +100,14 @@ void AppWindows::waitForRows(ParallelRows& rows, const QStringList& names) {
     waitWithProgress(m_host, rows, names);
 }
 
-QImage AppWindows::currentImage() const {
+std::optional<CameraFrame> AppWindows::currentFrame() const {
     const CameraWindow* window = m_images.find(m_host.docManager().currentKey());
-    if (window == nullptr || !window->view().frame()) {
-        return {};
-    }
-    const CameraFrame& frame = *window->view().frame();
-    return drawFrame(frame, frame.resolution);
+    return window ? window->view().frame() : std::nullopt;
+}
+
+QImage AppWindows::currentImage() const {
+    const auto frame = currentFrame();
+    return frame ? drawFrame(*frame, frame->resolution) : QImage();
 }
 
 // With `addHostState` this writes what `supportFileContents` has promised the user.

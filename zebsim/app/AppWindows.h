@@ -1,10 +1,13 @@
 #pragma once
 
+#include "CameraFrame.h"
 #include "DropDownBoxes.h"
 #include "HostWindows.h"
 #include "SaveDesk.h"
 #include "ZebPrefsDialog.h"
 #include "ZebTypes.h"
+
+#include <optional>
 
 class CameraWindows;
 class LogStore;
@@ -23,6 +26,9 @@ public:
     void openPreferences() { runPreferences(); }
     /// The plug-in's file; empty for none.
     void setPluginFile(const QString& path) { m_pluginFile = path; }
+
+    /// Custom information of the selected cameras, or of the temporary save list; runs until it is closed.
+    void editCustomInfo(bool forTemporary);
 
     ZebPrefsDialog* prefsDialog() override { return this; }
     void openEthernetSettings() override;
@@ -45,6 +51,7 @@ private:
     void setPage(const QString& page) override;
     int exec() override;
     int runPreferences();
+    std::optional<CameraFrame> currentFrame() const;
 
     SimHost& m_host;
     const LogStore& m_log;

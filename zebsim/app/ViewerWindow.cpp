@@ -100,6 +100,10 @@ void ViewerWindow::addDialogs(AppWindows& windows) {
     m_fileMenu->addActions((new SaveKeys(m_host, windows, *m_bar))->actions());
     m_fileMenu->addSeparator();
     addEntry(m_fileMenu, uiText("&Quit"), "quit", [this] { Q_EMIT closeAsked(); });
+    m_customInfo =
+        addEntry(m_cameraMenu, uiText("Custom info..."), "customInfo", [&windows] { windows.editCustomInfo(false); });
+    m_savedCustomInfo = addEntry(m_cameraMenu, uiText("Custom info of the save list..."), "savedCustomInfo",
+                                 [&windows] { windows.editCustomInfo(true); });
     QMenu* settings = menuBar()->addMenu(uiText("&Settings"));
     QMenu* help = menuBar()->addMenu(uiText("&Help"));
     m_bar->addSeparator();
@@ -131,6 +135,10 @@ void ViewerWindow::refresh() {
     const auto connected = std::count_if(cameras.begin(), cameras.end(),
                                          [](const Camera* camera) { return camera->get(&CameraState::connected); });
     m_cameras->setText(uiText("%1 cameras, %2 connected").arg(cameras.size()).arg(connected));
+    if (m_customInfo != nullptr) {
+        m_customInfo->setEnabled(!m_host.isFileMode() && m_host.docManager().getSelectedDocCount() > 0);
+        m_savedCustomInfo->setEnabled(!m_host.docManager().getTemporarySaveDocKeys().isEmpty());
+    }
     const QList<QAction*> modes = m_modes->actions();
     modes.at(m_host.getOperatingMode())->setChecked(true);
     // In another mode than live nobody could stop the cameras.

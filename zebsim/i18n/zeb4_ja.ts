@@ -1272,10 +1272,6 @@
         <translation>動画 (MP4)</translation>
     </message>
     <message>
-        <source>%1 needs the package qt5-image-formats-plugins.</source>
-        <translation>%1 にはパッケージ qt5-image-formats-plugins が必要です。</translation>
-    </message>
-    <message>
         <source>Video needs the program ffmpeg, which is not installed.</source>
         <translation>動画にはプログラム ffmpeg が必要ですが、インストールされていません。</translation>
     </message>
@@ -1874,6 +1870,26 @@
     <message>
         <source>an item of the custom information needs a name</source>
         <translation>カスタム情報の項目には名前が必要です</translation>
+    </message>
+    <message>
+        <source>Cameras</source>
+        <translation>カメラ</translation>
+    </message>
+    <message>
+        <source>Change</source>
+        <translation>変更</translation>
+    </message>
+    <message>
+        <source>Custom info</source>
+        <translation>カスタム情報</translation>
+    </message>
+    <message>
+        <source>Custom info...</source>
+        <translation>カスタム情報...</translation>
+    </message>
+    <message>
+        <source>Custom info of the save list...</source>
+        <translation>保存リストのカスタム情報...</translation>
     </message>
 </context>
 </TS>

@@ -1,0 +1,256 @@
+#include "JS_Mediator_CustomInfoDialog.h"
+
+#include "BridgeCall.h"
+#include "CustomInfoPath.h"
+#include "DOC_Control.h"
+#include "DOC_Image.h"
+#include "DOC_Interface.h"
+#include "DOC_ReadFileException.h"
+#include "GatheredFailures.h"
+#include "LogFailure.h"
+#include "UTL_Converter.h"
+#include "UTL_Exception.h"
+#include "ZebDocManager.h"
+#include "ZebHost.h"
+
+#include <QHash>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QWebView>
+
+#include <utility>
+
+namespace {
+
+const QString Name = QStringLiteral("name");
+const QString Value = QStringLiteral("value");
+const QString Unit = QStringLiteral("unit");
+const QString Selected = QStringLiteral("selected");
+const QString Display = QStringLiteral("display");
+const QString UseFileName = QStringLiteral("usefilename");
+/// The name of the item that is the camera's comment.
+const QString Comments = QStringLiteral("Comments");
+
+QString text(const QVariantMap& item, const QString& key) {
+    return item.value(key).toString();
+}
+
+bool isOn(const QVariantMap& item, const QString& key) {
+    return text(item, key) == QLatin1String("on");
+}
+
+void add(DOC_Interface& doc, const QVariantMap& item, bool display, bool usefilename) {
+    doc.control().addCustomInfo(text(item, Name), text(item, Value), text(item, Unit), display, usefilename);
+}
+
+QString compact(const QJsonDocument& json) {
+    return QString::fromUtf8(json.toJson(QJsonDocument::Compact));
+}
+
+}  // namespace
+
+JS_Mediator_CustomInfoDialog::JS_Mediator_CustomInfoDialog(ZebHost* host, bool forTemporary, QObject* parent)
+    : JS_Mediator_Dialog(host, QStringLiteral("CustomInfoDialog"), parent), m_forTemporary(forTemporary) {
+    qRegisterMetaType<DOCKEY>("DOCKEY");
+    for (const DOCKEY key : keys()) {
+        logFailure([&] {
+            if (DOC_Interface* doc = host->docManager().getDoc(key, 1)) {
+                m_kept.insert(key, {doc->control().getCustomInfoList(), doc->image().getComment()});
+            }
+        });
+    }
+}
+
+DocKeyList JS_Mediator_CustomInfoDialog::keys() const {
+    const ZebDocManager& docs = host().docManager();
+    return m_forTemporary ? docs.getTemporarySaveDocKeys() : docs.getSelectedDocKeys(0);
+}
+
+template <typename Work>
+void JS_Mediator_CustomInfoDialog::changeEach(const QVariantList& targets, Work work) {
+    GatheredFailures failure;
+    failure.attempt([&] {
+        for (const QVariant& target : targets) {
+            if (DOC_Interface* doc = host().docManager().getDoc(target.toUInt(), 1)) {
+                work(*doc);
+            }
+        }
+    });
+    host().docManager().refreshDocList(1);
+    failure.rethrow();
+}
+
+template <typename Work>
+void JS_Mediator_CustomInfoDialog::change(const char* method, const QVariantList& targets, Work work) {
+    call(*this, Change, method, {{"targets", targets}}, [&] { changeEach(targets, work); });
+}
+
+QString JS_Mediator_CustomInfoDialog::getDeviceInfo() {
+    return call(*this, Plain, __func__, {}, [this] {
+        const DocKeyList cameras = keys();
+        const DOCKEY present =
+            m_forTemporary ? cameras.value(0, zeb::NoDocKey) : host().docManager().getCurrentDockey(0);
+        QJsonArray records;
+        QJsonObject chosen;
+        for (const DOCKEY key : cameras) {
+            DOC_Interface* doc = host().docManager().getDoc(key, 1);
+            if (!doc) {
+                continue;
+            }
+            const QJsonObject record{{QStringLiteral("recid"), records.size() + 1},
+                                     {QStringLiteral("dockey"), qint64(key)},
+                                     {Name, doc->control().getCameraName(1)}};
+            records.append(record);
+            if (key == present) {
+                chosen = record;
+            }
+        }
+        return compact(
+            QJsonDocument(QJsonObject{{QStringLiteral("Records"), records}, {QStringLiteral("InitSelect"), chosen}}));
+    });
+}
+
+QString JS_Mediator_CustomInfoDialog::getCustomInfo(DOCKEY dockey) {
+    return call(*this, Plain, __func__, {}, [&] {
+        QJsonArray items;
+        if (DOC_Interface* doc = host().docManager().getDoc(dockey, 1)) {
+            for (const QVariantMap& item : doc->control().getCustomInfoList()) {
+                items.append(QJsonObject{{QStringLiteral("recid"), items.size() + 1},
+                                         {QStringLiteral("dockey"), qint64(dockey)},
+                                         {Name, text(item, Name)},
+                                         {Value, text(item, Value)},
+                                         {Unit, text(item, Unit)},
+                                         {Selected, isOn(item, Display)},
+                                         {UseFileName, isOn(item, UseFileName)}});
+            }
+        }
+        return compact(QJsonDocument(items));
+    });
+}
+
+void JS_Mediator_CustomInfoDialog::addCustomData(const QVariantList& targets, const QVariantMap& custom) {
+    change(__func__, targets, [&](DOC_Interface& doc) { add(doc, custom, true, true); });
+}
+
+void JS_Mediator_CustomInfoDialog::deleteCustomData(const QVariantList& targets, const QVariantList& customs) {
+    change(__func__, targets, [&](DOC_Interface& doc) {
+        for (const QVariant& custom : customs) {
+            doc.control().removeCustomInfo(text(custom.toMap(), Name));
+        }
+    });
+}
+
+void JS_Mediator_CustomInfoDialog::editCustomData(const QVariantList& targets, const QVariantMap& custom) {
+    const QString old = text(custom, QStringLiteral("oldname"));
+    const QString name = text(custom, Name);
+    change(__func__, targets, [&](DOC_Interface& doc) {
+        if (name != old) {
+            doc.control().renameCustomInfo(old, name);
+        }
+        doc.control().updateCustomInfo(name, text(custom, Value), text(custom, Unit), isOn(custom, Display),
+                                       isOn(custom, UseFileName));
+    });
+}
+
+void JS_Mediator_CustomInfoDialog::enableCustomData(const QVariantList& targets, const QVariantList& customs) {
+    QHash<QString, bool> shown;
+    for (const QVariant& custom : customs) {
+        shown.insert(text(custom.toMap(), Name), custom.toMap().value(Selected).toBool());
+    }
+    change(__func__, targets, [&](DOC_Interface& doc) {
+        for (const QVariantMap& item : doc.control().getCustomInfoList()) {
+            const QString name = text(item, Name);
+            if (shown.contains(name)) {
+                doc.control().updateCustomInfo(name, text(item, Value), text(item, Unit), shown.value(name),
+                                               isOn(item, UseFileName));
+            }
+        }
+    });
+}
+
+void JS_Mediator_CustomInfoDialog::restore(DOC_Interface& doc, const QVariantList& customs) {
+    doc.control().clearCustomInfo();
+    for (const QVariant& custom : customs) {
+        const QVariantMap item = custom.toMap();
+        if (text(item, Name) == Comments) {
+            doc.image().setComment(text(item, Value).replace(QLatin1Char('\n'), QLatin1String(zeb::CommentSeparator)));
+        } else {
+            add(doc, item, item.value(Selected).toBool(), true);
+        }
+    }
+}
+
+void JS_Mediator_CustomInfoDialog::restoreCustomData(const QVariantList& targets, const QVariantList& customs) {
+    change(__func__, targets, [&](DOC_Interface& doc) { restore(doc, customs); });
+}
+
+void JS_Mediator_CustomInfoDialog::load(const QVariantList& targets) {
+    call(*this, Change, __func__, {{"targets", targets}}, [&] {
+        const QString path = chooseCustomInfoToRead(host(), view());
+        if (path.isEmpty()) {
+            return;
+        }
+        QList<QVariantMap> items;
+        try {
+            UTL_Converter::xml2CustomInfo(path, items, DialogForm);
+        } catch (const UTL_Exception&) {
+            throw DOC_ReadFileException(path);
+        }
+        const QVariantList customs(items.begin(), items.end());
+        changeEach(targets, [&](DOC_Interface& doc) { restore(doc, customs); });
+    });
+}
+
+void JS_Mediator_CustomInfoDialog::save(const QVariantList& customs) {
+    call(*this, Action, __func__, {}, [&] {
+        const QString path = chooseCustomInfoToWrite(host(), view());
+        if (path.isEmpty()) {
+            return;
+        }
+        QList<QVariantMap> items;
+        for (const QVariant& custom : customs) {
+            items.append(custom.toMap());
+        }
+        try {
+            UTL_Converter::customInfo2xml(items, path, host().getVersionText(), DialogForm);
+        } catch (const UTL_Exception& failure) {
+            // The log has a line for a file that can't be opened, and nobody is told.
+            if (failure.errorCode() != UTL_Converter::NotOpened) {
+                throw;
+            }
+        }
+    });
+}
+
+void JS_Mediator_CustomInfoDialog::cancel() {
+    call(*this, Updating, __func__, {}, [this] {
+        const QMap<DOCKEY, Kept> kept = std::exchange(m_kept, {});
+        GatheredFailures failures;
+        for (auto camera = kept.begin(); camera != kept.end(); ++camera) {
+            failures.attempt([&] {
+                if (DOC_Interface* doc = host().docManager().getDoc(camera.key(), 1)) {
+                    putBack(*doc, *camera);
+                }
+            });
+        }
+        host().docManager().refreshDocList(1);
+        failures.rethrow();
+    });
+}
+
+void JS_Mediator_CustomInfoDialog::putBack(DOC_Interface& doc, const Kept& kept) {
+    doc.control().clearCustomInfo();
+    for (const QVariantMap& item : kept.items) {
+        add(doc, item, isOn(item, Display), isOn(item, UseFileName));
+    }
+    if (doc.image().getComment() != kept.comment) {
+        doc.image().setComment(kept.comment);
+    }
+}
+
+void JS_Mediator_CustomInfoDialog::setSelectedDeviceItems(const QVariantList& ids) {
+    if (ids.size() <= 1) {
+        m_currentRecord = ids.isEmpty() ? 0 : ids.first().toInt();
+    }
+}
