@@ -4,6 +4,7 @@ option(WREN_BUILD_TESTS "Build the tests" ON)
 option(WREN_BUILD_BENCH "Build the benchmarks" OFF)
 option(WREN_SANITIZE "Build with the address and undefined behaviour sanitizers" OFF)
 option(WREN_SANITIZE_THREADS "Build with the thread sanitizer" OFF)
+option(WREN_FUZZ "Build the fuzz targets; by clang alone" OFF)
 
 set(CMAKE_CXX_STANDARD 17)
 set(CMAKE_CXX_STANDARD_REQUIRED ON)
@@ -31,6 +32,12 @@ endif()
 if(WREN_SANITIZE_THREADS)
     add_compile_options(-fsanitize=thread)
     add_link_options(-fsanitize=thread)
+endif()
+
+if(WREN_FUZZ)
+    add_compile_options(-fsanitize=fuzzer-no-link,address,undefined -fno-sanitize-recover=undefined
+                        -fno-omit-frame-pointer)
+    add_link_options(-fsanitize=address,undefined)
 endif()
 
 find_program(CCACHE_PROGRAM ccache)

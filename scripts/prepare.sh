@@ -5,13 +5,13 @@ packages=(
     g++ cmake ninja-build git
     qtbase5-dev qtbase5-private-dev qtdeclarative5-dev qttools5-dev qttools5-dev-tools libqt5webkit5-dev
     qt5-image-formats-plugins
-    libzip-dev pkg-config
+    libzip-dev libtiff-dev pkg-config
     libgtest-dev libgmock-dev
     fonts-dejavu-core fonts-noto-cjk
 )
 run_packages=(xvfb xauth openbox)
 lint_packages=(clang-format-16 clang-tidy)
-thread_sanitizer_packages=(clang libclang-rt-14-dev libomp-14-dev)
+clang_packages=(clang libclang-rt-14-dev libomp-14-dev)
 
 # install_missing PACKAGE...: as root or by sudo; otherwise names what is missing and fails.
 install_missing() {
