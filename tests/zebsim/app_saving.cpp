@@ -290,7 +290,10 @@ TEST_F(AppSaving, TakesSnapshots) {
     EXPECT_EQ(QGuiApplication::clipboard()->image().size(), QSize(64, 64));
     ASSERT_EQ(filesIn("snap").size(), 2);
     EXPECT_THAT(filesIn("snap").first().toStdString(), testing::MatchesRegex("Gate_1_[0-9]+-[0-9]+_001.png"));
-    EXPECT_EQ(QImage(folder.filePath("snap/" + filesIn("snap").first())).size(), QSize(64, 64));
+    const QImage first(folder.filePath("snap/" + filesIn("snap").first()));
+    EXPECT_EQ(first.size(), QSize(64, 64));
+    EXPECT_TRUE(first.text("Description").startsWith("{\"camera\":\"Gate/1\",\"rate\":1000,\"shutter\":1000,"));
+    EXPECT_TRUE(first.textKeys().contains("frame") && !first.textKeys().contains("time")) << "live has no trigger";
     host.prefs().setValue("snapshot/folder", folder.filePath("p.ini"));
     host.saver().snapShot(1);
     EXPECT_THAT(messages().join("|").toStdString(), testing::StartsWith(folder.filePath("p.ini").toStdString()));

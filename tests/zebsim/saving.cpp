@@ -115,6 +115,36 @@ TEST_F(Saving, WritesTheChosenFramesAndNoOthers) {
     EXPECT_EQ(atNext, 0) << "a camera begins at none, not where the one before has ended";
 }
 
+/// The text in a saved picture. Qt's reader of TIFF files passes over it.
+QString textIn(const QString& file) {
+    if (!file.endsWith(".tif")) {
+        return QImage(file).text("Description");
+    }
+    const QByteArray bytes = contentOf(file);
+    return QString::fromLatin1(bytes.mid(bytes.indexOf("{\"camera")).constData());
+}
+
+TEST_F(Saving, TellsInEachFileWhatItShows) {
+    const auto item = [](const QString& name, const QString& value, bool display) {
+        return QVariantMap{{"name", name}, {"value", value}, {"unit", "bar"}, {"display", display}};
+    };
+    const QString hostile = QString::fromUtf8("<b>\"\\  é\n\xf0\x9f\x93\xb7");
+    host.camera(1).change({{"shutter", 500}, {"recordedShutter", 8000}, {"rate", 60}, {"name", "Gate \"1\""}});
+    host.camera(1).change({{"customInfo", QVariantList{item("next", "1", true)}}});
+    host.camera(1).change({{"recordedCustomInfo", QVariantList{item("hidden", "1", false), item("p", hostile, true)}}});
+    const QString text =
+        "{\"camera\":\"Gate "
+        "\\\"1\\\"\",\"rate\":1000,\"shutter\":8000,\"frame\":-1,\"time\":-0.001000,\"items\":[{\"name\":"
+        "\"p\",\"value\":\"<b>\\\"\\\\  \\u00e9\\u000a\\ud83d\\udcf7\",\"unit\":\"bar\"}]}";
+    for (const char* format : {"png", "tiff", "jpeg"}) {
+        run(orders(format));
+        EXPECT_EQ(textIn(path("Gate _1__-00001." % saveFormat(format).suffix)), text) << format;
+    }
+    host.camera(1).change({{"triggerOffset", 60}, {"triggerOffsetEnabled", true}});
+    EXPECT_TRUE(orders().tracks[0].text(0).description.contains("\"frame\":39,\"time\":-0.001000"))
+        << "from the trigger";
+}
+
 TEST_F(Saving, CountsFramesAsTheTableDoes) {
     for (const bool moved : {false, true}) {
         host.camera(3).change({{"triggerOffset", 60}, {"triggerOffsetEnabled", moved}});
@@ -440,12 +470,22 @@ TEST_F(SavingVideo, HoldsAllFramesForAnotherReader) {
     }
     SaveOrders wanted = video();
     wanted.encoder = VideoEncoder::installed();
+    host.camera(3).change(
+        {{"recordedCustomInfo",
+          QVariantList{QVariantMap{{"name", QString(QChar(0x5727))}, {"value", "a=b\nc"}, {"display", true}}}}});
+    wanted.tracks = tracksOfEach(sources());
     run(wanted);
     QProcess process;
     process.start(reader, {"-v", "error", "-count_frames", "-show_entries", "stream=nb_read_frames,width,height", "-of",
                            "csv=p=0", path("Nozzle_2.mp4")});
     ASSERT_TRUE(process.waitForFinished());
     EXPECT_EQ(process.readAllStandardOutput().trimmed(), "64,48,3");
+    process.start(reader, {"-v", "error", "-show_entries", "format_tags=comment,items", "-of", "default=nk=1:nw=1",
+                           path("Nozzle_2.mp4")});
+    ASSERT_TRUE(process.waitForFinished());
+    const QByteArray description = wanted.tracks[1].textOfAll().description;
+    EXPECT_TRUE(description.contains("\"frame\":0,\"time\":0.000000,\"lastFrame\":2,\"lastTime\":0.002000"));
+    EXPECT_EQ(process.readAllStandardOutput().trimmed(), description + "\n\xe5\x9c\xa7: a=b\nc");
 }
 
 }  // namespace

@@ -4,6 +4,7 @@
 #include "DialogButtons.h"
 #include "DialogRun.h"
 #include "FileError.h"
+#include "FramePicture.h"
 #include "SimHost.h"
 #include "SnapShotFile.h"
 #include "TargetFields.h"
@@ -36,12 +37,18 @@ void openSettings(SimHost& host) {
     runDialog(host, dialog);
 }
 
-void writeFile(SimHost& host, const QImage& image) {
+FileText textOf(const SimHost& host, const Camera& camera, const CameraFrame& frame) {
+    const auto recording = host.isMemoryMode() ? camera.recording() : std::nullopt;
+    return FileText::of(recording ? FrameFacts::recorded(*recording, frame) : FrameFacts::live(camera.state(), frame));
+}
+
+void writeFile(SimHost& host, const CameraFrame& frame, const QImage& image) {
     const Camera* camera = host.cameras().find(host.docManager().currentKey());
     const QString folder = host.prefs().value(Topic % QStringLiteral("/folder")).toString();
     const SaveFormat& format = saveFormat(host.prefs().value(Topic % QStringLiteral("/format")).toString());
     try {
-        writeSnapShot(folder, camera ? camera->name() : QString(), QDateTime::currentDateTime(), format, image);
+        writeSnapShot(folder, camera ? camera->name() : QString(), QDateTime::currentDateTime(), format, image,
+                      camera ? textOf(host, *camera, frame) : FileText());
     } catch (const FileError& e) {
         host.messages().tell(Message::Alert,
                              uiText("%1 can't be written: %2")
@@ -51,19 +58,20 @@ void writeFile(SimHost& host, const QImage& image) {
 
 }  // namespace
 
-void takeSnapShot(SimHost& host, const QImage& image, int mode) {
+void takeSnapShot(SimHost& host, const std::optional<CameraFrame>& frame, int mode) {
     if (mode == Settings) {
         openSettings(host);
         return;
     }
-    if (image.isNull()) {
+    if (!frame) {
         host.messages().tell(Message::Info, uiText("There is no image to take."));
         return;
     }
+    const QImage image = drawFrame(*frame, frame->resolution);
     if (mode == ToClipboard || mode == ToBoth) {
         QGuiApplication::clipboard()->setImage(image);
     }
     if (mode == ToFile || mode == ToBoth) {
-        writeFile(host, image);
+        writeFile(host, *frame, image);
     }
 }

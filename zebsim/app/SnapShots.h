@@ -1,8 +1,9 @@
 #pragma once
 
-class QImage;
-class SimHost;
+#include <optional>
 
-/// Does what `ZebSaver::snapShot` tells with the image in front, a null image when there is none. What goes wrong is
-/// shown. GUI thread.
-void takeSnapShot(SimHost& host, const QImage& image, int mode);
+class SimHost;
+struct CameraFrame;
+
+/// Does what `ZebSaver::snapShot` tells with the image in front, if there is one. What goes wrong is shown. GUI thread.
+void takeSnapShot(SimHost& host, const std::optional<CameraFrame>& frame, int mode);

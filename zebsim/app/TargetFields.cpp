@@ -23,11 +23,8 @@ QString labelOf(const SaveFormat& format) {
 
 /// What there must be for files of that format; empty when there is.
 QString missingFor(const SaveFormat& format) {
-    if (format.isPictureThatCanBeWritten()) {
-        return {};
-    }
     if (!format.isVideo()) {
-        return uiText("%1 needs the package qt5-image-formats-plugins.").arg(labelOf(format));
+        return {};
     }
     const VideoEncoder& encoder = VideoEncoder::installed();
     if (encoder.program.isEmpty()) {

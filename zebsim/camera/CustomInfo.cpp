@@ -6,6 +6,7 @@
 #include <QStringList>
 
 #include <algorithm>
+#include <iterator>
 
 QString CustomItem::text() const {
     return unit.isEmpty() ? QString(name % QStringLiteral(": ") % value)
@@ -17,12 +18,17 @@ bool CustomItem::operator==(const CustomItem& other) const {
            usefilename == other.usefilename;
 }
 
+QList<CustomItem> CustomInfo::shown() const {
+    QList<CustomItem> items;
+    std::copy_if(m_items.begin(), m_items.end(), std::back_inserter(items),
+                 [](const CustomItem& item) { return item.display; });
+    return items;
+}
+
 QStringList CustomInfo::shownTexts() const {
     QStringList texts;
-    for (const CustomItem& item : m_items) {
-        if (item.display) {
-            texts.append(item.text());
-        }
+    for (const CustomItem& item : shown()) {
+        texts.append(item.text());
     }
     return texts;
 }

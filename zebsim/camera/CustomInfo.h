@@ -33,6 +33,7 @@ public:
 
     bool operator!=(const CustomInfo& other) const { return !(m_items == other.m_items); }
     const QList<CustomItem>& items() const { return m_items; }
+    QList<CustomItem> shown() const;
     QStringList shownTexts() const;
 
     /// In the place of the item of that name, or at the end. These two answer why it can't be done, or an empty text.

@@ -1,8 +1,18 @@
 #pragma once
 
+#include "FileText.h"
+
+#include <QImage>
 #include <QString>
 
-class QImage;
+/// A frame as it goes into a file.
+struct SavedFrame {
+    QImage picture;
+    /// A file name's text for it.
+    QString number;
+    /// Of a video, it is nobody's: that has one text for all frames.
+    FileText text;
+};
 
 /// Where the frames of a camera go: a file each, or one file. What is not complete when it is destroyed is removed.
 /// Everything throws `FileError`. GUI thread.
@@ -10,8 +20,8 @@ class FrameSink {
 public:
     virtual ~FrameSink() = default;
 
-    /// Writes a frame with a file name's text for its number. False when the user keeps a file that stands in the way.
-    virtual bool write(const QImage& picture, const QString& number) = 0;
+    /// False when the user keeps a file that stands in the way.
+    virtual bool write(SavedFrame frame) = 0;
     /// Still at work on what it was given; frames are to wait.
     virtual bool isBusy() { return false; }
     /// All frames are written; it may be busy then for a last time.

@@ -5,6 +5,8 @@
 #include "TextKey.h"
 #include "WholeFile.h"
 
+#include <utility>
+
 namespace {
 
 void writeWhole(const QString& file, const QByteArray& bytes) {
@@ -22,13 +24,13 @@ void writeWhole(const QString& file, const QByteArray& bytes) {
 PictureSink::PictureSink(FileClaims& claims, SaveFormat format, QString stem)
     : m_claims(claims), m_format(std::move(format)), m_stem(std::move(stem)) {}
 
-bool PictureSink::write(const QImage& picture, const QString& number) {
-    const QString file = m_stem % QLatin1Char('_') % number % QLatin1Char('.') % m_format.suffix;
+bool PictureSink::write(SavedFrame frame) {
+    const QString file = m_stem % QLatin1Char('_') % frame.number % QLatin1Char('.') % m_format.suffix;
     if (!m_claims.claim(file)) {
         return false;
     }
     try {
-        writeWhole(file, m_format.encoded(picture));
+        writeWhole(file, m_format.encoded(std::move(frame.picture), frame.text));
     } catch (...) {
         m_claims.release();
         throw;

@@ -11,7 +11,7 @@ public:
     /// The files are called `stem`, '_' and the frame's number. `claims` must outlive the sink.
     PictureSink(FileClaims& claims, SaveFormat format, QString stem);
 
-    bool write(const QImage& picture, const QString& number) override;
+    bool write(SavedFrame frame) override;
 
 private:
     FileClaims& m_claims;

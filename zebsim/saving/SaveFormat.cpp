@@ -1,5 +1,7 @@
 #include "SaveFormat.h"
 
+#include "TiffFile.h"
+
 #include <QBuffer>
 #include <QImageWriter>
 
@@ -11,30 +13,34 @@ constexpr int JpegQuality = 95;
 /// Between frames little changes.
 constexpr int FramesInSizeOfOne = 4;
 
+/// The texts that the picture itself has are part of the file.
 QByteArray written(const QImage& picture, const QByteArray& format) {
     QBuffer buffer;
     QImageWriter writer(&buffer, format);
     if (format == "jpeg") {
         writer.setQuality(JpegQuality);
-    } else if (format == "tiff") {
-        // Without loss.
-        writer.setCompression(1);
     }
     return writer.write(picture) ? buffer.data() : QByteArray();
 }
 
 }  // namespace
 
-bool SaveFormat::isPictureThatCanBeWritten() const {
-    return QImageWriter::supportedImageFormats().contains(writer);
-}
-
-QByteArray SaveFormat::encoded(const QImage& picture) const {
+QByteArray SaveFormat::encoded(QImage picture, const FileText& text) const {
+    if (writer == "tiff") {
+        return tiffOf(picture, text.description);
+    }
+    picture.setText(QStringLiteral("Description"), QString::fromLatin1(text.description));
+    // Of several texts in a JPEG file most readers see the last one only.
+    if (writer == "png") {
+        for (const auto& [name, value] : text.parts) {
+            picture.setText(name, value);
+        }
+    }
     return written(picture, writer);
 }
 
-qint64 SaveFormat::expectedSize(const QImage& picture) const {
-    return isVideo() ? written(picture, "jpeg").size() / FramesInSizeOfOne : encoded(picture).size();
+qint64 SaveFormat::expectedSize(const QImage& picture, const FileText& text) const {
+    return isVideo() ? written(picture, "jpeg").size() / FramesInSizeOfOne : encoded(picture, text).size();
 }
 
 const QList<SaveFormat>& saveFormats() {

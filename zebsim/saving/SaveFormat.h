@@ -1,5 +1,7 @@
 #pragma once
 
+#include "FileText.h"
+
 #include <QByteArray>
 #include <QImage>
 #include <QList>
@@ -10,16 +12,14 @@ struct SaveFormat {
     /// As the preferences hold it, and what a file's name ends in.
     QString id;
     QString suffix;
-    /// The name that Qt's writers have for it; empty for video.
+    /// The name that image formats go by; empty for video.
     QByteArray writer;
 
     bool isVideo() const { return writer.isEmpty(); }
-    /// Whether Qt can write it here; a video it can not.
-    bool isPictureThatCanBeWritten() const;
-    /// A picture as such a file holds it; empty when it can't be written.
-    QByteArray encoded(const QImage& picture) const;
-    /// Bytes that a frame takes with a picture like this one; of a video, on average.
-    qint64 expectedSize(const QImage& picture) const;
+    /// A picture with its text as such a file holds them; empty when it can't be written.
+    QByteArray encoded(QImage picture, const FileText& text) const;
+    /// Bytes that a frame takes with a picture and a text like these; of a video, on average.
+    qint64 expectedSize(const QImage& picture, const FileText& text) const;
 };
 
 /// PNG, TIFF, JPEG, video.

@@ -66,6 +66,29 @@ QImage SaveTrack::picture(int index, const QSet<DOCKEY>& lost) const {
     return picture;
 }
 
+FileText SaveTrack::text(int index, const QSet<DOCKEY>& lost) const {
+    if (!isLayout) {
+        return FileText::of(sources.front().facts(index));
+    }
+    QList<FrameFacts> cameras;
+    for (const SaveSource& source : sources) {
+        if (!lost.contains(source.key())) {
+            cameras.append(source.facts(std::min(index, source.frames() - 1)));
+        }
+    }
+    return FileText::ofLayout(cameras);
+}
+
+FileText SaveTrack::textOfAll() const {
+    QList<FrameFacts> cameras;
+    for (const SaveSource& source : sources) {
+        FrameFacts facts = source.facts(0);
+        facts.last = source.facts(source.frames() - 1).first;
+        cameras.append(facts);
+    }
+    return isLayout ? FileText::ofLayout(cameras) : FileText::of(cameras.first());
+}
+
 std::vector<SaveTrack> tracksOfEach(const SaveSources& sources) {
     std::vector<SaveTrack> tracks;
     for (const SaveSource& source : sources) {

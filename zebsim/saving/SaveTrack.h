@@ -1,5 +1,6 @@
 #pragma once
 
+#include "FileText.h"
 #include "SaveSource.h"
 
 #include <QImage>
@@ -21,6 +22,9 @@ struct SaveTrack {
     QSize size() const;
     /// A camera whose range is over keeps its last frame; one of `lost` shows nothing.
     QImage picture(int index, const QSet<DOCKEY>& lost = {}) const;
+    /// What is to be told of that picture, and of all in one.
+    FileText text(int index, const QSet<DOCKEY>& lost = {}) const;
+    FileText textOfAll() const;
 };
 
 /// A track for each camera.

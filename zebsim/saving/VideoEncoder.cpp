@@ -1,5 +1,7 @@
 #include "VideoEncoder.h"
 
+#include "FileText.h"
+
 #include <QProcess>
 #include <QRegularExpression>
 #include <QStandardPaths>
@@ -12,15 +14,21 @@ const QString ShownRate = QStringLiteral("30");
 
 }  // namespace
 
-QStringList VideoEncoder::arguments(const QSize& size, const QString& file) const {
+QStringList VideoEncoder::arguments(const QSize& size, const QString& file, const FileText& text) const {
     const QString sides = QStringLiteral("%1x%2").arg(size.width()).arg(size.height());
-    return {"-hide_banner", "-loglevel", "error", "-y",
-            // What comes in.
-            "-f", "rawvideo", "-pix_fmt", "bgr0", "-video_size", sides, "-framerate", ShownRate, "-i", "-",
-            // Colours are stored for two by two pixels, so sides must be even.
-            "-vf", "pad=ceil(iw/2)*2:ceil(ih/2)*2", "-pix_fmt", "yuv420p", "-c:v", encoder, "-q:v", "3", "-f", "mp4",
-            // A name is not to be taken for an address.
-            QStringLiteral("file:") % file};
+    QStringList arguments = {
+        "-hide_banner", "-loglevel", "error", "-y",
+        // What comes in.
+        "-f", "rawvideo", "-pix_fmt", "bgr0", "-video_size", sides, "-framerate", ShownRate, "-i", "-",
+        // Colours are stored for two by two pixels, so sides must be even.
+        "-vf", "pad=ceil(iw/2)*2:ceil(ih/2)*2", "-pix_fmt", "yuv420p", "-c:v", encoder, "-q:v", "3", "-f", "mp4",
+        // Names that the format does not know are kept too.
+        "-movflags", "use_metadata_tags", "-metadata", "comment=" % QLatin1String(text.description)};
+    for (const auto& [name, value] : text.parts) {
+        arguments << QStringLiteral("-metadata") << name % QLatin1Char('=') % value;
+    }
+    // A name is not to be taken for an address.
+    return arguments << QStringLiteral("file:") % file;
 }
 
 VideoEncoder VideoEncoder::of(const QString& program) {

@@ -4,6 +4,8 @@
 #include <QString>
 #include <QStringList>
 
+struct FileText;
+
 /// The program that makes videos, and which of its encoders.
 struct VideoEncoder {
     /// Path of ffmpeg; empty when it is not installed.
@@ -12,8 +14,8 @@ struct VideoEncoder {
     QString encoder;
 
     bool isUsable() const { return !encoder.isEmpty(); }
-    /// Arguments that make the video `file` of bare frames, 32 bits a pixel, from the standard input.
-    QStringList arguments(const QSize& size, const QString& file) const;
+    /// Arguments that make the video `file` with its text of bare frames, 32 bits a pixel, from the standard input.
+    QStringList arguments(const QSize& size, const QString& file, const FileText& text) const;
 
     /// Asks the program of that path for its encoders. Takes a moment.
     static VideoEncoder of(const QString& program);

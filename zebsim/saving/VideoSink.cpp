@@ -15,10 +15,11 @@ constexpr qint64 MostWaiting = 4;
 
 }  // namespace
 
-VideoSink::VideoSink(FileClaims& claims, VideoEncoder encoder, QString file)
+VideoSink::VideoSink(FileClaims& claims, VideoEncoder encoder, QString file, FileText text)
     : m_claims(claims),
       m_encoder(std::move(encoder)),
       m_file(std::move(file)),
+      m_text(std::move(text)),
       m_growing(QFileInfo(m_file).path() % QStringLiteral("/.zebsim-XXXXXX.mp4")) {}
 
 VideoSink::~VideoSink() {
@@ -38,16 +39,16 @@ bool VideoSink::begin(const QSize& size) {
     m_growing.close();
     m_process.setStandardOutputFile(QProcess::nullDevice());
     m_process.setReadChannel(QProcess::StandardError);
-    m_process.start(m_encoder.program, m_encoder.arguments(size, m_growing.fileName()));
+    m_process.start(m_encoder.program, m_encoder.arguments(size, m_growing.fileName(), m_text));
     m_begun = true;
     return true;
 }
 
-bool VideoSink::write(const QImage& picture, const QString& /*number*/) {
-    if (!m_begun && !begin(picture.size())) {
+bool VideoSink::write(SavedFrame frame) {
+    if (!m_begun && !begin(frame.picture.size())) {
         return false;
     }
-    const QImage plain = picture.convertToFormat(QImage::Format_RGB32);
+    const QImage plain = frame.picture.convertToFormat(QImage::Format_RGB32);
     m_process.write(reinterpret_cast<const char*>(plain.constBits()), plain.sizeInBytes());
     m_frameSize = plain.sizeInBytes();
     return true;

@@ -12,12 +12,12 @@ class FileClaims;
 /// own.
 class VideoSink : public FrameSink {
 public:
-    /// The user is asked about `file` with the first frame, and it is made with the last. `claims` must outlive the
-    /// sink.
-    VideoSink(FileClaims& claims, VideoEncoder encoder, QString file);
+    /// The user is asked about `file` with the first frame, and it is made with the last, with `text` for all of them.
+    /// `claims` must outlive the sink.
+    VideoSink(FileClaims& claims, VideoEncoder encoder, QString file, FileText text);
     ~VideoSink() override;
 
-    bool write(const QImage& picture, const QString& number) override;
+    bool write(SavedFrame frame) override;
     bool isBusy() override;
     void close() override;
     bool complete() override;
@@ -29,6 +29,7 @@ private:
     FileClaims& m_claims;
     const VideoEncoder m_encoder;
     const QString m_file;
+    const FileText m_text;
     QTemporaryFile m_growing;
     QProcess m_process;
     qint64 m_frameSize = 0;

@@ -1,0 +1,43 @@
+#include "FileText.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+QJsonObject read(const FileText& text) {
+    EXPECT_LE(text.description.size(), FileText::MostBytes);
+    return QJsonDocument::fromJson(text.description).object();
+}
+
+FrameFacts factsOf(int items, const QString& text) {
+    FrameFacts facts{text, 1000, 2000, {-512, -512000}, {}, {}};
+    for (int i = 0; i < items; ++i) {
+        EXPECT_EQ(facts.info.put({QString::number(i) % text, text, text, true, false}), "");
+    }
+    return facts;
+}
+
+TEST(FileText, CountsWhatThereIsNoRoomFor) {
+    for (const int letters : {1, 80, 81, 82, 256, 20000}) {
+        const QJsonObject camera = read(FileText::of(factsOf(CustomInfo::MostItems, QString(letters, QChar(0x5727)))));
+        const int items = camera["items"].toArray().size();
+        EXPECT_EQ(items + camera["itemsLeftOut"].toInt(), CustomInfo::MostItems) << letters;
+        EXPECT_EQ(items > 0, letters < 20000);
+        EXPECT_EQ(camera["time"].toDouble(), -0.512);
+    }
+    for (const int cameras : {1, 64, 1024}) {
+        QList<FrameFacts> all;
+        for (int i = 0; i < cameras; ++i) {
+            all.append(factsOf(CustomInfo::MostItems, "Gate"));
+        }
+        const QJsonObject layout = read(FileText::ofLayout(all));
+        EXPECT_EQ(layout["cameras"].toArray().size() + layout["camerasLeftOut"].toInt(), cameras);
+        EXPECT_EQ(layout["cameras"].toArray().last()["items"].toArray().size() == CustomInfo::MostItems, cameras == 1);
+    }
+}
+
+}  // namespace
