@@ -469,7 +469,7 @@
     </message>
     <message>
         <source>wren_display_syncStatus</source>
-        <translation>Signal</translation>
+        <translation>Sync</translation>
     </message>
     <message>
         <source>wren_display_triggerMode</source>
@@ -489,11 +489,11 @@
     </message>
     <message>
         <source>wren_display_pluginTab</source>
-        <translation>Tab Plug-ins</translation>
+        <translation>Tab Tools</translation>
     </message>
     <message>
         <source>wren_display_memoryPluginTab</source>
-        <translation>Tab Plug-ins (memory)</translation>
+        <translation>Tab Memory tools</translation>
     </message>
     <message>
         <source>wren_display_recordCheck</source>

@@ -1793,7 +1793,7 @@
     </message>
     <message>
         <source>wren_display_syncStatus</source>
-        <translation>信号</translation>
+        <translation>同期</translation>
     </message>
     <message>
         <source>wren_display_triggerMode</source>
@@ -1813,11 +1813,11 @@
     </message>
     <message>
         <source>wren_display_pluginTab</source>
-        <translation>プラグインタブ</translation>
+        <translation>ツールタブ</translation>
     </message>
     <message>
         <source>wren_display_memoryPluginTab</source>
-        <translation>プラグインタブ（メモリ）</translation>
+        <translation>メモリツールタブ</translation>
     </message>
     <message>
         <source>wren_display_recordCheck</source>
