@@ -3,6 +3,8 @@
 const folder = zeb.pref('save/folder');
 const within = name => `${folder}/${name}`;
 zeb.open();
+zeb.window('activate');
+const table = zeb.active();
 const save = () => zeb.page('wrentabledialog.openExportSupportFileDialog()');
 const isZip = name => zeb.readFile(within(name)).startsWith('PK');
 
@@ -26,6 +28,8 @@ zeb.writeFile(within('kept/old.zip'), 'old');
 zeb.file(null);
 save();
 check(zeb.readFile(within('kept/old.zip')) === 'old', 'nothing is written');
+zeb.key('Tab');
+check(zeb.active() === table, 'the table has the keyboard again');
 check(zeb.readFile('files.js').startsWith('// A file'), 'the scenario has its own folder');
 
 // A folder, by the button behind the path of the save dialog.

@@ -42,20 +42,17 @@ void askForMenu(QWindow& window, Qt::KeyboardModifiers modifiers) {
     QCoreApplication::sendEvent(&window, &event);
 }
 
-/// A modal dialog that has just come up becomes active a moment later; nobody presses before that.
-void awaitModal(const std::function<bool()>& stop) {
+/// A dialog that has just come up becomes active a moment later, and so does the window behind one that has gone;
+/// nobody presses before that.
+void awaitActivation(const std::function<bool()>& stop) {
     QElapsedTimer asked;
     asked.start();
-    QWidget* modal = QApplication::activeModalWidget();
-    if (modal == nullptr) {
-        return;
-    }
-    // Without a window manager nobody gives it the keyboard back from a dialog that it has opened.
-    if (QApplication::activeWindow() == nullptr) {
-        modal->activateWindow();
-    }
-    waitUntil([&] { return QApplication::activeWindow() == modal || QApplication::activeModalWidget() != modal; },
-              [&] { return stop() || asked.hasExpired(ActivationMs); });
+    const auto isSettled = [] {
+        const QWidget* active = QApplication::activeWindow();
+        const QWidget* modal = QApplication::activeModalWidget();
+        return active != nullptr && (modal == nullptr || active == modal);
+    };
+    waitUntil(isSettled, [&] { return stop() || asked.hasExpired(ActivationMs); });
 }
 
 }  // namespace
@@ -93,7 +90,7 @@ void pressKey(const QString& name, int hold, const std::function<bool()>& stop) 
     if (sequence.count() != 1 || key == Qt::Key_unknown) {
         throw ScenarioError(QStringLiteral("there is no key ") % name);
     }
-    awaitModal(stop);
+    awaitActivation(stop);
     const QPointer<QWindow> window = QGuiApplication::focusWindow();
     if (window == nullptr) {
         throw ScenarioError(QStringLiteral("no window is active, so no key goes anywhere"));
