@@ -57,7 +57,7 @@ TEST(CustomInfoWrite, ComesBackLetterForLetter) {
     }
     const QString half(QChar(0xD83D));
     for (const QString& text : QStringList{"\r", " a\r\n\rb\t ", "]]>]]&gt;<![CDATA[", "\n\n", QStringLiteral("😀"),
-                                           half + "a", "a" + half, " "}) {
+                                           QString(400, QChar::ByteOrderMark), half + "a", "a" + half, " "}) {
         EXPECT_EQ(faultOfWriting({item(text, text, true), item("b" + text)}, DialogForm), "") << text.toStdString();
     }
 }

@@ -24,6 +24,8 @@ QString escaped(QChar letter, const QString& before) {
             return before.endsWith(QLatin1String("]]")) ? QStringLiteral("&gt;") : QString(letter);
         case '\r':  // a reader makes a line feed of a plain one
             return QStringLiteral("&#xd;");
+        case QChar::ByteOrderMark:  // it is dropped where a reader's block begins with it
+            return QStringLiteral("&#xfeff;");
         default:
             return letter;
     }
