@@ -122,6 +122,13 @@ public Q_SLOTS:
     void save();
     void saveLayout();
 
+    // Custom information, as JSON arrays. Empty ones in file mode, and after a failure of a file; an empty text after
+    // one of a camera.
+    QString getCustomSettings(const QVariant& key, bool withoutRecId = false);
+    void setCustomSettings(const QVariantList& keys, const QString& json);
+    QString loadCustomSettingsXml();
+    void saveCustomSettingsXml(const QString& json);
+
 protected:
     void beginCall() override { m_timers.pause(); }
     void endCall() override { m_timers.resume(); }

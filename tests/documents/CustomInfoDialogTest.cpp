@@ -1,10 +1,7 @@
+#include "ChooseFile.h"
 #include "Files.h"
 #include "JS_Mediator_CustomInfoDialog.h"
 #include "support/TestHost.h"
-
-#include <QApplication>
-#include <QFileDialog>
-#include <QTimer>
 
 #include <gtest/gtest.h>
 
@@ -20,16 +17,6 @@ QString listOf(const Camera& camera, bool recorded = false) {
         items << item.text() % QLatin1String(item.display ? " +" : " -") % QLatin1String(item.usefilename ? "+" : "-");
     }
     return items.join(QStringLiteral(", "));
-}
-
-/// Chooses a path in the next file dialog.
-void chooseFile(const QString& path) {
-    QTimer::singleShot(0, [path] {
-        auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
-        ASSERT_NE(dialog, nullptr);
-        dialog->selectFile(path);
-        QMetaObject::invokeMethod(dialog, "accept", Qt::QueuedConnection);
-    });
 }
 
 class CustomInfoDialog : public testing::Test {

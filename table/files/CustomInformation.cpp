@@ -1,0 +1,129 @@
+#include "CustomInformation.h"
+
+#include "CustomInfoPath.h"
+#include "DOC_Control.h"
+#include "DOC_Interface.h"
+#include "DOC_ReadFileException.h"
+#include "LogFailure.h"
+#include "NamedFailure.h"
+#include "UTL_Converter.h"
+#include "UTL_Exception.h"
+#include "ZebDocManager.h"
+#include "ZebHost.h"
+
+#include <QDebug>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+#include <optional>
+
+namespace {
+
+constexpr int MostItems = 64;
+constexpr int LettersInLog = 200;
+
+const QString Name = QStringLiteral("name");
+const QString Value = QStringLiteral("value");
+const QString Unit = QStringLiteral("unit");
+const QString Display = QStringLiteral("display");
+const QString UseFileName = QStringLiteral("usefilename");
+
+QString jsonOf(const QList<QVariantMap>& items, bool withNumbers) {
+    QJsonArray array;
+    for (const QVariantMap& item : items.mid(0, MostItems)) {
+        QJsonObject object{{Name, item.value(Name).toString()},
+                           {Value, item.value(Value).toString()},
+                           {Unit, item.value(Unit).toString()},
+                           {Display, item.value(Display).toBool()}};
+        if (withNumbers) {
+            object.insert(QStringLiteral("recid"), array.size() + 1);
+        }
+        array.append(object);
+    }
+    return QString::fromUtf8(QJsonDocument(array).toJson(QJsonDocument::Compact));
+}
+
+/// Nothing for a text that is no array. The page has one flag for both.
+std::optional<QList<QVariantMap>> itemsOf(const QString& json) {
+    const QJsonDocument document = QJsonDocument::fromJson(json.toUtf8());
+    if (!document.isArray()) {
+        qWarning() << "No list of custom information:" << json.left(LettersInLog);
+        return std::nullopt;
+    }
+    QList<QVariantMap> items;
+    for (const QJsonValue& entry : document.array()) {
+        if (entry.isObject() && items.size() < MostItems) {
+            QVariantMap item = entry.toObject().toVariantMap();
+            const bool isShown = entry.toObject().value(Display).toBool();
+            item.insert(Display, isShown);
+            item.insert(UseFileName, isShown);
+            items.append(item);
+        }
+    }
+    return items;
+}
+
+void fill(DOC_Control& control, const QList<QVariantMap>& items) {
+    control.clearCustomInfo();
+    for (const QVariantMap& item : items) {
+        control.addCustomInfo(item.value(Name).toString(), item.value(Value).toString(), item.value(Unit).toString(),
+                              item.value(Display).toBool(), item.value(UseFileName).toBool());
+    }
+}
+
+}  // namespace
+
+QString CustomInformation::listOf(DOCKEY key, bool withNumbers) const {
+    DOC_Interface* doc = m_host.isFileMode() ? nullptr : m_host.docManager().getDoc(key, 1);
+    return jsonOf(doc && doc->isConnected() ? doc->control().getCustomInfoList() : QList<QVariantMap>(), withNumbers);
+}
+
+void CustomInformation::setLists(const DocKeyList& keys, const QString& json) {
+    const auto items = itemsOf(json);
+    if (m_host.isFileMode() || !items) {
+        return;
+    }
+    for (const DOCKEY key : keys) {
+        DOC_Interface* doc = m_host.docManager().getDoc(key, 1);
+        if (doc) {
+            onCamera(*doc, [&] {
+                if (doc->isConnected()) {
+                    replaceList(doc->control(), *items);
+                }
+            });
+        }
+    }
+}
+
+/// A list that can't be read is not replaced: nobody could have been asked about it.
+void CustomInformation::replaceList(DOC_Control& control, const QList<QVariantMap>& items) {
+    const QList<QVariantMap> before = control.getCustomInfoList();
+    try {
+        fill(control, items);
+    } catch (...) {
+        logFailure([&] { fill(control, before); });
+        throw;
+    }
+}
+
+QString CustomInformation::read(QWidget* parent) {
+    const QString path = m_host.isFileMode() ? QString() : chooseCustomInfoToRead(m_host, parent);
+    QList<QVariantMap> items;
+    if (!path.isEmpty() && !m_host.isFileMode()) {
+        try {
+            UTL_Converter::xml2CustomInfo(path, items);
+        } catch (const UTL_Exception&) {
+            throw DOC_ReadFileException(path);
+        }
+    }
+    return jsonOf(items, true);
+}
+
+void CustomInformation::write(QWidget* parent, const QString& json) {
+    const auto items = itemsOf(json);
+    const QString path = m_host.isFileMode() || !items ? QString() : chooseCustomInfoToWrite(m_host, parent);
+    if (!path.isEmpty() && !m_host.isFileMode()) {
+        UTL_Converter::customInfo2xml(*items, path, m_host.getVersionText());
+    }
+}
