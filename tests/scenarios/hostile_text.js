@@ -39,7 +39,9 @@ function checkHarmless(when) {
 zeb.rig(NAMES.length);
 zeb.keys().forEach(key => zeb.setCamera(key, {connected: true, alerts: ['plain'], comment: 'plain'}));
 check(zeb.open(), 'the table opens');
-// The grid of a tab is made when it is first seen, with handlers of its own.
+// A grid is made when it is first seen, with handlers of its own.
+zeb.click('#accordion h3');
+zeb.click('#accordion h3');
 zeb.click('a[href="#livecontrolTab"]');
 zeb.click('a[href="#cameraInfoTab"]');
 const elementsAtStart = zeb.page(ELEMENTS);
@@ -81,3 +83,36 @@ zeb.click('#wren_livecontrol_button_edit_camera_name_8');
 check(zeb.camera(8).name === TEXTS.image, 'a name is stored as it was typed: ' + zeb.camera(8).name);
 check(text('#wren-livecontrol-list .wren_label_edit_camera_name[dockey="8"]') === TEXTS.image, 'and shown so');
 checkHarmless('dialog of a camera');
+
+// Custom information in the table's list, its editor and tips, and in the viewer's dialog.
+const cell = (recid, column) => `#grid_wren-custom-data-list_rec_${recid} td[col="${column}"]`;
+const oneLine = string => string.replace(/\n/g, '');
+const items = NAMES.map(name => ({name: TEXTS[name], value: TEXTS[name], unit: TEXTS[name], display: true}));
+zeb.setCamera(1, {customInfo: items});
+zeb.page('wrentabledialog.setSelectDoc("1")');
+zeb.click('#accordion h3');
+zeb.click('.edit-buttons .loadCamera');
+NAMES.forEach((name, index) => [0, 1, 2].forEach(column => {
+    check(text(cell(index + 1, column)) === TEXTS[name], `${name}: as text ${column} of an item`);
+    zeb.click(cell(index + 1, column), {double: true});
+    check(zeb.page("$('#wren_custom_editor').val()") === oneLine(TEXTS[name]), `${name}: in the editor`);
+    zeb.type('\x1b');
+}));
+zeb.click('#tabs li:first-child a');
+check(tipOver(cell(keyOf('script'), 1)) === TEXTS.script, 'as the tip of a value');
+zeb.click('#tabs li:first-child a');
+check(zeb.page('JSON.stringify(wrentabledialog_obj.getCustomDatas())') === JSON.stringify(items),
+    'and nothing was changed');
+zeb.modal(() => {
+    const shown = zeb.dialog("Array.from(document.querySelectorAll('#items tbody tr')).map(row =>" +
+        'Array.from(row.cells).slice(1).map(cell => cell.textContent))');
+    check(JSON.stringify(shown) === JSON.stringify(NAMES.map(name => [TEXTS[name], TEXTS[name], TEXTS[name]])),
+        'items in the dialog');
+    check(zeb.dialog("document.querySelectorAll('b, #items img, #items script, [onerror], [onmouseover]').length") === 0,
+        'no element was made in the dialog');
+    zeb.click('#cancel');
+});
+zeb.menu('Camera > Custom info...');
+check(JSON.stringify(zeb.camera(1).customInfo.map(item => item.value)) === JSON.stringify(items.map(item => item.value)),
+    'Cancel leaves the items as they were');
+checkHarmless('custom information');

@@ -9,7 +9,8 @@ const customEditor = {
     open(place, text) {
         const item = customList.grid.records[customList.indexOf(place.recid)];
         const cell = customList.cell(place.recid, place.column);
-        if (!item || !cell || wrentabledialog_obj.gridLock || wrentabledialog.isFileMode()) {
+        const isSeen = cell && cell.offsetWidth > 0;
+        if (!item || !isSeen || wrentabledialog_obj.gridLock || wrentabledialog.isFileMode()) {
             return;
         }
         customList.choose([place.recid], place);

@@ -35,12 +35,13 @@ Object.assign(wrentabledialog_obj, {
     },
 
     deleteCustomInfoRecord() {
-        const selected = customList.selected();
-        if (this.gridLock || selected.length === 0 || !wrentabledialog.confirm(textKey('Delete. Is it OK?'))) {
+        const meant = customList.meant();
+        const isWanted = !this.gridLock && meant.length > 0 && wrentabledialog.confirm(textKey('Delete. Is it OK?'));
+        if (!isWanted || this.gridLock) {
             return;
         }
-        const line = customList.indexOf(selected[0].recid);
-        customList.setItems(customList.grid.records.filter(item => !selected.includes(item)));
+        const line = Math.min(...meant.map(item => customList.indexOf(item.recid)));
+        customList.setItems(customList.grid.records.filter(item => !meant.includes(item)));
         customList.keepBlankRow();
         const { records } = customList.grid;
         customList.choose([], { recid: records[Math.min(line, records.length - 1)].recid, column: 0 });
@@ -50,7 +51,7 @@ Object.assign(wrentabledialog_obj, {
     // A file that holds nothing has been told of, and leaves the list as it is.
     readCustomInfo() {
         const items = itemsOf(wrentabledialog.loadCustomSettingsXml());
-        if (items.length > 0) {
+        if (items && items.length > 0) {
             this.showCustomInfo(items);
             this.appendRecordEnd();
         }
@@ -70,12 +71,13 @@ Object.assign(wrentabledialog_obj, {
         const sorted = JSON.stringify(zeb4func.hashSort(JSON.parse(list)));
         const { records, last } = this.activeGrid();
         const keys = last.selection.indexes.map(index => records[index].key);
-        const overwrites = keys.some(key => {
-            const present = itemsOf(wrentabledialog.getCustomSettings(key, true));
-            return present.length > 0 && JSON.stringify(zeb4func.hashSort(present)) !== sorted;
-        });
+        const present = keys.map(key => itemsOf(wrentabledialog.getCustomSettings(key, true)));
+        if (present.includes(null)) {
+            return;
+        }
+        const differs = items => items.length > 0 && JSON.stringify(zeb4func.hashSort(items)) !== sorted;
         const question = textKey('Overwrite custom information for the selected camera. Is it OK?');
-        if (!overwrites || wrentabledialog.confirm(question)) {
+        if (!present.some(differs) || wrentabledialog.confirm(question)) {
             wrentabledialog.setCustomSettings(keys, list);
         }
     },
@@ -93,8 +95,9 @@ Object.assign(wrentabledialog_obj, {
     selectDevice(key) {
         this.customInfoLoading = true;
         try {
-            if (key >= 0) {
-                this.showCustomInfo(itemsOf(wrentabledialog.getCustomSettings(key)));
+            const items = key >= 0 ? itemsOf(wrentabledialog.getCustomSettings(key)) : null;
+            if (items) {
+                this.showCustomInfo(items);
             }
             if (customList.grid.records.length === 0) {
                 this.appendRecordEnd();
@@ -107,12 +110,7 @@ Object.assign(wrentabledialog_obj, {
     },
 
     showCustomInfo(items) {
-        customList.setItems(items.map((item, index) => ({
-            recid: index + 1,
-            name: String(item.name),
-            value: String(item.value),
-            unit: String(item.unit),
-            display: item.display === true
-        })));
+        customList.setItems(items.map(({ name = '', value = '', unit = '', display }, index) =>
+            ({ recid: index + 1, name, value, unit, display: display === true })));
     }
 });

@@ -9,7 +9,6 @@ function listenToCustomList() {
     box.tabIndex = 0;
     box.addEventListener('mousedown', event => onCustomPress(event), true);
     box.addEventListener('dblclick', event => onCustomDoubleClick(event), true);
-    box.addEventListener('change', event => onCustomSwitch(event), true);
     box.addEventListener('keydown', event => onCustomKey(event), true);
     box.addEventListener('keypress', event => onCustomLetter(event), true);
     box.addEventListener('contextmenu', event => onCustomMenu(event), true);
@@ -29,34 +28,26 @@ function onCustomPress(event) {
     event.preventDefault();
     customList.box.focus();
     const selected = customList.selected().map(item => item.recid);
-    if (event.button === 0 || !selected.includes(place.recid)) {
-        customList.choose(pickedRows(selected, place.recid, event), place);
+    if (event.button !== 0) {
+        customList.choose(selected.includes(place.recid) ? selected : [place.recid], place);
+    } else if (event.shiftKey) {
+        customList.extend(place);
+    } else if (!event.ctrlKey && !event.metaKey) {
+        customList.choose([place.recid], place);
+    } else {
+        const others = selected.filter(recid => recid !== place.recid);
+        customList.choose(others.length < selected.length ? others : selected.concat(place.recid), place);
     }
-}
-
-// With Shift the rows from the current one to this one, with Ctrl this one joins or leaves the others.
-function pickedRows(selected, recid, event) {
-    if (event.shiftKey) {
-        const [from, to] = [customList.current.recid, recid].map(id => customList.indexOf(id));
-        return customList.grid.records.slice(Math.min(from, to), Math.max(from, to) + 1).map(item => item.recid);
+    // The end of an edit may have drawn the rows anew; then no click comes.
+    if (event.button === 0 && event.target.type === 'checkbox') {
+        toggleCustomItem();
     }
-    if (!event.ctrlKey && !event.metaKey) {
-        return [recid];
-    }
-    return selected.includes(recid) ? selected.filter(other => other !== recid) : selected.concat(recid);
 }
 
 function onCustomDoubleClick(event) {
     const place = customList.placeOf(event.target);
     if (place && event.target !== customEditor.input && CUSTOM_COLUMNS[place.column] !== 'display') {
         customEditor.open(place);
-    }
-}
-
-function onCustomSwitch(event) {
-    const place = customList.placeOf(event.target);
-    if (place && event.target.type === 'checkbox') {
-        customList.grid.records[customList.indexOf(place.recid)].display = event.target.checked;
     }
 }
 
@@ -139,8 +130,11 @@ function moveInCustomList([rows, columns], extend) {
     const line = Math.max(0, Math.min(customList.indexOf(customList.current.recid) + rows, records.length - 1));
     const column = Math.max(0, Math.min(customList.current.column + columns, CUSTOM_COLUMNS.length - 1));
     const { recid } = records[line];
-    const selected = customList.selected().map(item => item.recid);
-    customList.choose(extend ? Array.from(new Set(selected.concat(recid))) : [recid], { recid, column });
+    if (extend) {
+        customList.extend({ recid, column });
+    } else {
+        customList.choose([recid], { recid, column });
+    }
     customList.bringIntoView(recid);
 }
 

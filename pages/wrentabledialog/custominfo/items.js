@@ -31,8 +31,8 @@ function faultOfItem(item, items) {
     return items.some(other => other !== item && other.name === item.name) ? DOUBLED_NAME : '';
 }
 
-// The rows of a reply; those of a reply that is none, or of another form, are empty.
+// The items of a reply; null after a failure, which has been told.
 function itemsOf(reply) {
     const items = parseReply(reply);
-    return Array.isArray(items) ? items.filter(item => item !== null && typeof item === 'object') : [];
+    return Array.isArray(items) ? items : null;
 }

@@ -7,6 +7,7 @@ const customList = {
     grid: null,
     box: null, // it has the keyboard only while it has the focus
     current: { recid: 0, column: 0 },
+    anchor: 0, // recid of the row from which Shift selects
 
     create(box) {
         this.box = box;
@@ -65,6 +66,9 @@ const customList = {
         if (!this.grid.box) {
             this.grid.render(this.box);
             listenToCustomList();
+            if (wrentabledialog_obj.gridLock) {
+                this.grid.lock('');
+            }
         }
         this.grid.resize();
         this.grid.refresh();
@@ -141,6 +145,18 @@ const customList = {
 
     choose(recids, current) {
         this.current = current;
+        this.anchor = current.recid;
+        this.select(recids);
+    },
+
+    // All rows from the anchor to this one.
+    extend(current) {
+        const [from, to] = [this.anchor, current.recid].map(recid => Math.max(0, this.indexOf(recid)));
+        this.current = current;
+        this.select(this.grid.records.slice(Math.min(from, to), Math.max(from, to) + 1).map(item => item.recid));
+    },
+
+    select(recids) {
         this.grid.last.selection.indexes = recids.map(recid => this.indexOf(recid)).filter(index => index >= 0);
         this.showSelection();
     },
@@ -149,13 +165,20 @@ const customList = {
         return this.grid.last.selection.indexes.map(index => this.grid.records[index]).filter(Boolean);
     },
 
+    // What is deleted: the selected rows or, where there are none, the current one.
+    meant() {
+        const current = this.grid.records[this.indexOf(this.current.recid)];
+        const selected = this.selected();
+        return selected.length > 0 || !current || isBlankItem(current) ? selected : [current];
+    },
+
     showSelection() {
-        const selected = new Set(this.selected().map(item => String(item.recid)));
+        const selected = new Set(this.grid.last.selection.indexes);
         Array.from(this.box.querySelectorAll('.w2ui-grid-records tr[recid]')).forEach(row => {
-            const recid = row.getAttribute('recid');
-            row.classList.toggle('w2ui-selected', selected.has(recid));
+            const recid = Number(row.getAttribute('recid'));
+            row.classList.toggle('w2ui-selected', selected.has(this.indexOf(recid)));
             Array.from(row.children).forEach((cell, column) => cell.classList.toggle('wren-current',
-                Number(recid) === this.current.recid && column === this.current.column));
+                recid === this.current.recid && column === this.current.column));
         });
     },
 

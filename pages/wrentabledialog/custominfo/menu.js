@@ -6,6 +6,9 @@ const customMenu = {
     openAt(recid) {
         const cell = customList.cell(recid, customList.current.column);
         if (cell) {
+            if (!customList.meant().some(item => item.recid === recid)) {
+                customList.choose([recid], customList.current);
+            }
             const { left, bottom } = cell.getBoundingClientRect();
             this.open(recid, left, bottom);
         }
