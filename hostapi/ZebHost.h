@@ -77,7 +77,8 @@ public:
     virtual void setPrefString(const QString& key, const QString& value) = 0;
 
     /// The order of columns that the table's tab `tab`, counted from 0, has before anyone changes it, in the form of
-    /// the preferences `wren/column_order/`: their names with commas between, empty for the tab's own order.
+    /// the preferences `wren/column_order/`: their names with commas between; a text that names none stands for the
+    /// tab's own order.
     virtual QString getDefaultColumnOrder(int tab) const = 0;
 
     /// Whether the store was found damaged and the factory values stand in it, which nobody has taken note of yet.

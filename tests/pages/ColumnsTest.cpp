@@ -82,6 +82,11 @@ TEST(PageColumns, AreDraggedToAnotherPlace) {
         EXPECT_EQ(page.tick(), QStringList()) << "the stored order is the grid's";
         return test.host.prefs().value(liveOrder).toString();
     };
+    page.press(head("Trigger mode"));
+    EXPECT_TRUE(page.until("$('body > .w2ui-grid').length === 1"));
+    page.release();
+    EXPECT_TRUE(page.until("$('body > .w2ui-grid').length === 0"));
+    EXPECT_EQ(page.list("probe.captions()").value(0), "Lock") << "a hand that holds still moves nothing";
     EXPECT_EQ(dragged("Trigger mode", "Camera name", 0.2), "lock,trigger,cameraName,alert,frameRate,resolution,")
         << "a hidden column keeps its place; one that has no place gets none";
     EXPECT_EQ(page.list("probe.captions()"),

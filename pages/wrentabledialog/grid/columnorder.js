@@ -38,6 +38,20 @@ Object.assign(wrentabledialog_obj, {
         this.refreshColumnNumber(number);
     },
 
+    // A head has been held for a moment. The button may be another one, or have been let go outside of the grid.
+    // Without a move w2ui takes the first place for the one to go to.
+    beginColumnDrag(event) {
+        const press = event.originalEvent;
+        if (press.button !== 0 || !this.isCursorDown) {
+            event.preventDefault();
+            return;
+        }
+        this.isColumnDragged = true;
+        event.onComplete = () => document.dispatchEvent(new MouseEvent('mousemove', {
+            bubbles: true, clientX: press.clientX, clientY: press.clientY
+        }));
+    },
+
     // After the user has dragged a column to another place.
     columnsMoved(number) {
         this.refreshColumnNumber(number);

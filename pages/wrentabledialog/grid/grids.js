@@ -31,7 +31,9 @@ Object.assign(wrentabledialog_obj, {
             onUnselect: (event) => this.onUnselect(tab, event),
             onClick: (event) => this.clickRecordFunc(tab, event),
             onDblClick: (event) => event.preventDefault(),
+            onColumnDragStart: (event) => this.beginColumnDrag(event),
             onColumnDragEnd: (event) => {
+                this.isColumnDragged = false;
                 event.onComplete = () => this.columnsMoved(tab.number);
             }
         });
@@ -69,11 +71,11 @@ Object.assign(wrentabledialog_obj, {
 
     lockGrids() {
         numberBox.giveUpAll();
+        this.gridLock = true;
         customEditor.end();
         customMenu.close();
         this.activeGrid().clear();
         [this.activeGrid(), customList.grid].forEach(grid => grid.lock(''));
-        this.gridLock = true;
     },
 
     unlockGrids() {

@@ -8,9 +8,7 @@ Object.assign(wrentabledialog_obj, {
     },
 
     close() {
-        numberBox.giveUpAll();
-        customEditor.end();
-        this.cancelDisplayDialog();
+        [() => numberBox.giveUpAll(), () => customEditor.end(), () => this.cancelDisplayDialog()].forEach(logged);
         wrentabledialog.onClose();
     },
 
@@ -40,11 +38,12 @@ Object.assign(wrentabledialog_obj, {
         this.refreshActionArea();
         if (this.isChangedDisplay()) {
             this.refreshDisplayElement();
-            this.leaveHiddenTab();
+            this.followDisplayDialog();
             automatic = false;
         }
+        this.leaveHiddenTab();
         const active = this.activeTab();
-        if (this.isChangedColumns(active)) {
+        if (!this.isColumnDragged && this.isChangedColumns(active)) {
             this.resetAllColumns(active);
             automatic = false;
         }

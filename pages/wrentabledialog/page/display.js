@@ -59,10 +59,7 @@ Object.assign(wrentabledialog_obj, {
             DISPLAY.forEach(shows => {
                 const flag = wrentabledialog.getPrefBool(shows.key);
                 if (shows.block) {
-                    if (!flag) { // the engine tells nobody of the focus of an element that is hidden
-                        customEditor.end();
-                    }
-                    showElement(document.getElementById(shows.block), flag);
+                    this.showBlock(document.getElementById(shows.block), flag);
                 } else if (shows.header !== undefined) {
                     showElement(tabHeader(shows.header), flag);
                 } else if (shows.field && shows.tabs.includes(active)) {
@@ -72,6 +69,22 @@ Object.assign(wrentabledialog_obj, {
             this.refreshColumnNumber(active);
             view.grid.refresh();
         });
+    },
+
+    // The engine leaves the keyboard to an element that is hidden, and tells nobody.
+    showBlock(block, flag) {
+        const appears = flag && block.hidden;
+        if (!flag && !block.hidden) {
+            customMenu.close();
+            customEditor.end();
+            if (block.contains(document.activeElement)) {
+                document.activeElement.blur();
+            }
+        }
+        showElement(block, flag);
+        if (appears && this.accordionOpen) {
+            customList.show();
+        }
     },
 
     refreshDisplayColumn(flag, grid, field) {
@@ -89,10 +102,10 @@ Object.assign(wrentabledialog_obj, {
         this.update();
     },
 
-    // Leaves a tab whose header a display key hides.
+    // Leaves a tab whose header a display key hides; in file mode no tab can be left.
     leaveHiddenTab() {
         const active = this.activeTab();
-        if (tabHeader(active).hidden) {
+        if (tabHeader(active).hidden && !this.gridLock) {
             const home = TABS[active].memory ? MEMORY[0] : LIVE[0];
             this.bringToFront(home);
         }

@@ -24,6 +24,7 @@ Object.assign(wrentabledialog_obj, {
             width: 'auto',
             height: 'auto',
             title: translate('WREN Display settings'),
+            closeText: translate('Close'),
             buttons: [
                 button(translate('OK'), 'ok', () => {
                     this.displaySettingDialogResult = true;
@@ -69,8 +70,15 @@ Object.assign(wrentabledialog_obj, {
 
     // As the user does who cancels it.
     cancelDisplayDialog() {
-        if (displayDialog('instance') !== undefined && displayDialog('isOpen')) {
+        if (isDisplayDialogOpen()) {
             displayDialog('close');
+        }
+    },
+
+    // Somebody else has changed a key.
+    followDisplayDialog() {
+        if (isDisplayDialogOpen()) {
+            this.refreshDisplayCheckBox();
         }
     },
 
@@ -89,9 +97,19 @@ Object.assign(wrentabledialog_obj, {
 
     // The buttons of every dialog of the page.
     disableDisplayCheckBox() {
-        zeb4func.disable('.display_checkbox, .ui-dialog-buttons', wrentabledialog.isFileMode());
+        const elements = '.display_checkbox, .ui-dialog-buttons';
+        const off = wrentabledialog.isFileMode();
+        zeb4func.disable(elements, off);
+        // Escape goes to what has the keyboard.
+        if (off && document.activeElement.matches(elements)) {
+            $(document.activeElement).closest('.ui-dialog').find('.ui-dialog-titlebar-close').trigger('focus');
+        }
     }
 });
+
+function isDisplayDialogOpen() {
+    return displayDialog('instance') !== undefined && displayDialog('isOpen');
+}
 
 function displayDialog(option) {
     return $('#wrentabledialog_displaySettings_dialog').dialog(option);

@@ -16,6 +16,7 @@ var wrentabledialog_obj = {
     commentOf: null, // the grid and the camera whose comment is being written
     isSnapshotListShown: false,
     isCursorDown: false, // the mouse button is down over a grid
+    isColumnDragged: false, // the head of a column is held; other columns would not be those that were there
     isRebuilding: false, // a grid's rows are being replaced
     preventSelectGroup: false, // a group button's click is being processed
     iconsDrawn: false, // icons of plug-ins have come whose use is not logged yet
