@@ -80,8 +80,12 @@ const custominfo = {
     },
 
     showCameras() {
-        const info = JSON.parse(CustomInfoDialog.getDeviceInfo() || '{}');
-        const records = info.Records || [];
+        const reply = CustomInfoDialog.getDeviceInfo();
+        if (reply === '') {
+            return; // a camera did not tell its name, which has been told
+        }
+        const info = JSON.parse(reply);
+        const records = info.Records;
         const list = byId('cameras');
         if (JSON.stringify(records) !== JSON.stringify(this.records)) {
             const chosen = this.records.length > 0 ? this.targets() : [(info.InitSelect || {}).dockey];
@@ -121,8 +125,8 @@ const custominfo = {
     },
 
     showItems() {
-        const text = this.shown < 0 ? '[]' : CustomInfoDialog.getCustomInfo(this.shown) || '[]';
-        if (text !== this.itemText) {
+        const text = this.shown < 0 ? '[]' : CustomInfoDialog.getCustomInfo(this.shown);
+        if (text !== '' && text !== this.itemText) {
             this.itemText = text;
             this.items = JSON.parse(text);
             this.current = Math.max(0, Math.min(this.current, this.items.length - 1));
