@@ -52,7 +52,7 @@ std::optional<QList<QVariantMap>> itemsOf(const QString& json) {
         return std::nullopt;
     }
     QList<QVariantMap> items;
-    for (const QJsonValue& entry : document.array()) {
+    for (const QJsonValue entry : document.array()) {
         if (entry.isObject() && items.size() < MostItems) {
             QVariantMap item = entry.toObject().toVariantMap();
             const bool isShown = entry.toObject().value(Display).toBool();
