@@ -3,6 +3,8 @@
 #include "JS_Mediator_CustomInfoDialog.h"
 #include "TextKey.h"
 
+#include <QPointer>
+
 namespace {
 
 constexpr int Width = 510;
@@ -17,6 +19,10 @@ GUI_CustomInfoDialog::GUI_CustomInfoDialog(ZebHost* host, bool forTemporary, QWi
 }
 
 void GUI_CustomInfoDialog::reject() {
+    // What could not be put back is told in a box, and the dialog may go with its parent meanwhile.
+    const QPointer<GUI_CustomInfoDialog> here(this);
     static_cast<JS_Mediator_CustomInfoDialog*>(getBridge())->cancel();
-    GUI_WebViewDialog::reject();
+    if (here) {
+        GUI_WebViewDialog::reject();
+    }
 }

@@ -1,6 +1,7 @@
 #include "JS_Mediator_CustomInfoDialog.h"
 
 #include "BridgeCall.h"
+#include "CustomInfoLists.h"
 #include "CustomInfoPath.h"
 #include "DOC_Control.h"
 #include "DOC_Image.h"
@@ -44,6 +45,10 @@ void add(DOC_Interface& doc, const QVariantMap& item, bool display, bool usefile
     doc.control().addCustomInfo(text(item, Name), text(item, Value), text(item, Unit), display, usefilename);
 }
 
+QString keyText(const QVariantList& targets) {
+    return QVariant(targets).toStringList().join(QLatin1Char(','));
+}
+
 QString compact(const QJsonDocument& json) {
     return QString::fromUtf8(json.toJson(QJsonDocument::Compact));
 }
@@ -53,12 +58,18 @@ QString compact(const QJsonDocument& json) {
 JS_Mediator_CustomInfoDialog::JS_Mediator_CustomInfoDialog(ZebHost* host, bool forTemporary, QObject* parent)
     : JS_Mediator_Dialog(host, QStringLiteral("CustomInfoDialog"), parent), m_forTemporary(forTemporary) {
     qRegisterMetaType<DOCKEY>("DOCKEY");
-    for (const DOCKEY key : keys()) {
-        logFailure([&] {
-            if (DOC_Interface* doc = host->docManager().getDoc(key, 1)) {
-                m_kept.insert(key, {doc->control().getCustomInfoList(), doc->image().getComment()});
-            }
-        });
+    logFailure([this] {
+        for (const DOCKEY key : keys()) {
+            logFailure([this, key] { keep(key); });
+        }
+    });
+}
+
+void JS_Mediator_CustomInfoDialog::keep(DOCKEY key) {
+    if (DOC_Interface* doc = host().docManager().getDoc(key, 1)) {
+        Kept& kept = m_kept[key];
+        logFailure([&] { kept.items = doc->control().getCustomInfoList(); });
+        logFailure([&] { kept.comment = doc->image().getComment(); });
     }
 }
 
@@ -69,25 +80,27 @@ DocKeyList JS_Mediator_CustomInfoDialog::keys() const {
 
 template <typename Work>
 void JS_Mediator_CustomInfoDialog::changeEach(const QVariantList& targets, Work work) {
-    GatheredFailures failure;
-    failure.attempt([&] {
+    GatheredFailures failures;
+    failures.attempt([&] {
         for (const QVariant& target : targets) {
-            if (DOC_Interface* doc = host().docManager().getDoc(target.toUInt(), 1)) {
+            bool isKey = false;
+            const DOCKEY key = target.toString().toUInt(&isKey);
+            if (DOC_Interface* doc = isKey ? host().docManager().getDoc(key, 1) : nullptr) {
                 work(*doc);
             }
         }
     });
-    host().docManager().refreshDocList(1);
-    failure.rethrow();
+    failures.attempt([this] { host().docManager().refreshDocList(1); });
+    failures.rethrow();
 }
 
 template <typename Work>
 void JS_Mediator_CustomInfoDialog::change(const char* method, const QVariantList& targets, Work work) {
-    call(*this, Change, method, {{"targets", targets}}, [&] { changeEach(targets, work); });
+    call(*this, Change, method, {{"targets", keyText(targets)}}, [&] { changeEach(targets, work); });
 }
 
 QString JS_Mediator_CustomInfoDialog::getDeviceInfo() {
-    return call(*this, Plain, __func__, {}, [this] {
+    return call(*this, Query, __func__, {}, [this] {
         const DocKeyList cameras = keys();
         const DOCKEY present =
             m_forTemporary ? cameras.value(0, zeb::NoDocKey) : host().docManager().getCurrentDockey(0);
@@ -112,7 +125,7 @@ QString JS_Mediator_CustomInfoDialog::getDeviceInfo() {
 }
 
 QString JS_Mediator_CustomInfoDialog::getCustomInfo(DOCKEY dockey) {
-    return call(*this, Plain, __func__, {}, [&] {
+    return call(*this, Query, __func__, {{"dockey", dockey}}, [&] {
         QJsonArray items;
         if (DOC_Interface* doc = host().docManager().getDoc(dockey, 1)) {
             for (const QVariantMap& item : doc->control().getCustomInfoList()) {
@@ -170,14 +183,19 @@ void JS_Mediator_CustomInfoDialog::enableCustomData(const QVariantList& targets,
 }
 
 void JS_Mediator_CustomInfoDialog::restore(DOC_Interface& doc, const QVariantList& customs) {
-    doc.control().clearCustomInfo();
-    for (const QVariant& custom : customs) {
-        const QVariantMap item = custom.toMap();
-        if (text(item, Name) == Comments) {
-            doc.image().setComment(text(item, Value).replace(QLatin1Char('\n'), QLatin1String(zeb::CommentSeparator)));
-        } else {
-            add(doc, item, item.value(Selected).toBool(), true);
+    std::optional<QString> comment;
+    replaceCustomInfo(doc.control(), [&] {
+        for (const QVariant& custom : customs) {
+            const QVariantMap item = custom.toMap();
+            if (text(item, Name) == Comments) {
+                comment = text(item, Value);
+            } else {
+                add(doc, item, item.value(Selected).toBool(), true);
+            }
         }
+    });
+    if (comment) {
+        doc.image().setComment(*comment);
     }
 }
 
@@ -186,7 +204,7 @@ void JS_Mediator_CustomInfoDialog::restoreCustomData(const QVariantList& targets
 }
 
 void JS_Mediator_CustomInfoDialog::load(const QVariantList& targets) {
-    call(*this, Change, __func__, {{"targets", targets}}, [&] {
+    call(*this, Change, __func__, {{"targets", keyText(targets)}}, [&] {
         const QString path = chooseCustomInfoToRead(host(), view());
         if (path.isEmpty()) {
             return;
@@ -225,27 +243,29 @@ void JS_Mediator_CustomInfoDialog::save(const QVariantList& customs) {
 
 void JS_Mediator_CustomInfoDialog::cancel() {
     call(*this, Updating, __func__, {}, [this] {
-        const QMap<DOCKEY, Kept> kept = std::exchange(m_kept, {});
         GatheredFailures failures;
-        for (auto camera = kept.begin(); camera != kept.end(); ++camera) {
+        for (const DOCKEY key : m_kept.keys()) {
             failures.attempt([&] {
-                if (DOC_Interface* doc = host().docManager().getDoc(camera.key(), 1)) {
-                    putBack(*doc, *camera);
+                if (DOC_Interface* doc = host().docManager().getDoc(key, 1)) {
+                    putBack(*doc, m_kept.value(key));
                 }
+                m_kept.remove(key);
             });
         }
-        host().docManager().refreshDocList(1);
+        failures.attempt([this] { host().docManager().refreshDocList(1); });
         failures.rethrow();
     });
 }
 
 void JS_Mediator_CustomInfoDialog::putBack(DOC_Interface& doc, const Kept& kept) {
-    doc.control().clearCustomInfo();
-    for (const QVariantMap& item : kept.items) {
-        add(doc, item, isOn(item, Display), isOn(item, UseFileName));
+    if (kept.items) {
+        doc.control().clearCustomInfo();
+        for (const QVariantMap& item : *kept.items) {
+            add(doc, item, isOn(item, Display), isOn(item, UseFileName));
+        }
     }
-    if (doc.image().getComment() != kept.comment) {
-        doc.image().setComment(kept.comment);
+    if (kept.comment && doc.image().getComment() != *kept.comment) {
+        doc.image().setComment(*kept.comment);
     }
 }
 

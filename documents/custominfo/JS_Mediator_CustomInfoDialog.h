@@ -6,6 +6,8 @@
 #include <QMap>
 #include <QVariantMap>
 
+#include <optional>
+
 /// What the page of custom information can ask and do. `targets` are keys of cameras; one that is gone is skipped. An
 /// item of a page is a map of `name`, `value`, `unit` and flags. GUI thread.
 class JS_Mediator_CustomInfoDialog : public JS_Mediator_Dialog {
@@ -32,7 +34,7 @@ public Q_SLOTS:
     void load(const QVariantList& targets);
     /// Into a file that the user chooses.
     void save(const QVariantList& customs);
-    /// Puts back what the cameras had, once.
+    /// Puts back what the cameras had, each once.
     void cancel();
     /// Numbers of the records that are chosen.
     void setSelectedDeviceItems(const QVariantList& ids);
@@ -41,12 +43,14 @@ public Q_SLOTS:
     int getCallbackType() { return 17; }
 
 private:
+    /// Nothing where the camera did not tell.
     struct Kept {
-        QList<QVariantMap> items;
-        QString comment;
+        std::optional<QList<QVariantMap>> items;
+        std::optional<QString> comment;
     };
 
     DocKeyList keys() const;
+    void keep(DOCKEY key);
     /// Runs `work` for the documents of `targets` up to one that fails; the host shows the lists anew either way.
     template <typename Work>
     void changeEach(const QVariantList& targets, Work work);

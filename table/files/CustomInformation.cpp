@@ -1,10 +1,10 @@
 #include "CustomInformation.h"
 
+#include "CustomInfoLists.h"
 #include "CustomInfoPath.h"
 #include "DOC_Control.h"
 #include "DOC_Interface.h"
 #include "DOC_ReadFileException.h"
-#include "LogFailure.h"
 #include "NamedFailure.h"
 #include "UTL_Converter.h"
 #include "UTL_Exception.h"
@@ -64,14 +64,6 @@ std::optional<QList<QVariantMap>> itemsOf(const QString& json) {
     return items;
 }
 
-void fill(DOC_Control& control, const QList<QVariantMap>& items) {
-    control.clearCustomInfo();
-    for (const QVariantMap& item : items) {
-        control.addCustomInfo(item.value(Name).toString(), item.value(Value).toString(), item.value(Unit).toString(),
-                              item.value(Display).toBool(), item.value(UseFileName).toBool());
-    }
-}
-
 }  // namespace
 
 QString CustomInformation::listOf(DOCKEY key, bool withNumbers) const {
@@ -96,15 +88,14 @@ void CustomInformation::setLists(const DocKeyList& keys, const QString& json) {
     }
 }
 
-/// A list that can't be read is not replaced: nobody could have been asked about it.
 void CustomInformation::replaceList(DOC_Control& control, const QList<QVariantMap>& items) {
-    const QList<QVariantMap> before = control.getCustomInfoList();
-    try {
-        fill(control, items);
-    } catch (...) {
-        logFailure([&] { fill(control, before); });
-        throw;
-    }
+    replaceCustomInfo(control, [&] {
+        for (const QVariantMap& item : items) {
+            control.addCustomInfo(item.value(Name).toString(), item.value(Value).toString(),
+                                  item.value(Unit).toString(), item.value(Display).toBool(),
+                                  item.value(UseFileName).toBool());
+        }
+    });
 }
 
 QString CustomInformation::read(QWidget* parent) {

@@ -111,16 +111,22 @@ TEST_F(CustomInfoDialog, ChangesItsTargetsAndPutsThemBack) {
         EXPECT_EQ(listOf(m_test.camera(2)), c.list);
         EXPECT_EQ(m_test.calls("refreshDocList"), QStringList("refreshDocList 1"));
     }
-    EXPECT_EQ(m_test.camera(2).get(&CameraState::comment), "two{Separator}lines");
+    EXPECT_EQ(m_test.camera(2).get(&CameraState::comment), "two\nlines");
     m_test.host.faults().plant(1, "clearCustomInfo", {"no answer"});
     dialog.cancel();
     EXPECT_EQ(listOf(m_test.camera(1)), "Gas <b>: of no matter mm ++") << "it does not answer";
     EXPECT_EQ(listOf(m_test.camera(2)), before) << "which is not the other's fault";
     EXPECT_EQ(m_test.camera(2).get(&CameraState::comment), "as it was");
     EXPECT_EQ(m_test.desk.take().size(), 1);
+    m_test.host.faults().plant(1, "clearCustomInfo", {});
     m_test.calls();
     dialog.cancel();
-    EXPECT_EQ(m_test.calls("Info$"), QStringList()) << "once";
+    EXPECT_EQ(listOf(m_test.camera(1)), before) << "it answers by now";
+    EXPECT_EQ(m_test.calls("clearCustomInfo"), QStringList("clearCustomInfo 1")) << "each camera once";
+
+    dialog.restoreCustomData({1U, 2U}, {item("New", "1"), item("", "no name")});
+    EXPECT_EQ(listOf(m_test.camera(1)), before) << "a list that a camera does not take whole";
+    EXPECT_EQ(m_test.desk.take().size(), 1);
 }
 
 TEST_F(CustomInfoDialog, ReadsAndWritesFiles) {

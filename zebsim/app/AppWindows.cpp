@@ -85,7 +85,11 @@ void AppWindows::editCamera(DOCKEY key) {
 }
 
 void AppWindows::editCustomInfo(bool forTemporary) {
-    runDialog(m_host, new GUI_CustomInfoDialog(&m_host, forTemporary, m_host.getMainWindow()));
+    auto* dialog = new GUI_CustomInfoDialog(&m_host, forTemporary, m_host.getMainWindow());
+    // The keys, or the lists that the cameras show, are others from then on: what is done stays done.
+    QObject::connect(&m_host.events(), &HostEvents::camerasReplaced, dialog, &QDialog::accept);
+    QObject::connect(&m_host.events(), &HostEvents::modeChanged, dialog, &QDialog::accept);
+    runDialog(m_host, dialog);
 }
 
 void AppWindows::snapShot(int mode) {

@@ -136,8 +136,10 @@ void ViewerWindow::refresh() {
                                          [](const Camera* camera) { return camera->get(&CameraState::connected); });
     m_cameras->setText(uiText("%1 cameras, %2 connected").arg(cameras.size()).arg(connected));
     if (m_customInfo != nullptr) {
-        m_customInfo->setEnabled(!m_host.isFileMode() && m_host.docManager().getSelectedDocCount() > 0);
-        m_savedCustomInfo->setEnabled(!m_host.docManager().getTemporarySaveDocKeys().isEmpty());
+        // At its end a recording brings another mode, in which the lists are others.
+        const bool mayEdit = !m_host.isFileMode() && !m_host.recorder().isUnderWay();
+        m_customInfo->setEnabled(mayEdit && m_host.docManager().getSelectedDocCount() > 0);
+        m_savedCustomInfo->setEnabled(mayEdit && !m_host.docManager().getTemporarySaveDocKeys().isEmpty());
     }
     const QList<QAction*> modes = m_modes->actions();
     modes.at(m_host.getOperatingMode())->setChecked(true);

@@ -17,6 +17,7 @@ QVariant text(const char* value) {
 
 QList<FactoryValue> table() {
     const QString pictures = QStandardPaths::writableLocation(QStandardPaths::PicturesLocation);
+    const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
     return {
         {"alert/setsynchronization", true},
         {"alert/unsavedrecording", true},
@@ -123,6 +124,7 @@ QList<FactoryValue> table() {
         {"wren/table/w", 1200},
         {"wren/table/x", 100},
         {"wren/table/y", 80},
+        {"xml/dir", documents},
     };
 }
 

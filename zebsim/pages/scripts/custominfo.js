@@ -125,8 +125,9 @@ const custominfo = {
     },
 
     showItems() {
-        const text = this.shown < 0 ? '[]' : CustomInfoDialog.getCustomInfo(this.shown);
-        if (text !== '' && text !== this.itemText) {
+        // A list that is not told must not be another camera's.
+        const text = this.shown < 0 ? '[]' : CustomInfoDialog.getCustomInfo(this.shown) || '[]';
+        if (text !== this.itemText) {
             this.itemText = text;
             this.items = JSON.parse(text);
             this.current = Math.max(0, Math.min(this.current, this.items.length - 1));
