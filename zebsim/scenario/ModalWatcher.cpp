@@ -48,9 +48,11 @@ bool ModalWatcher::eventFilter(QObject* object, QEvent* event) {
 }
 
 void ModalWatcher::giveKeyboardBack(const QPointer<QWidget>& window) {
+    QWidget* modal = QApplication::activeModalWidget();
+    QWidget* target = modal ? modal : window.data();
     const bool isManaged = QGuiApplication::platformName() != QLatin1String("offscreen");
-    if (!isManaged && QApplication::activeWindow() == nullptr && window && window->isVisible()) {
-        window->activateWindow();
+    if (!isManaged && QApplication::activeWindow() == nullptr && target != nullptr && target->isVisible()) {
+        target->activateWindow();
     }
 }
 
