@@ -66,7 +66,7 @@ function runDocument(name) {
         if (inside) {
             const block = lines.slice(start + 1, index);
             start = -1;
-            return ENDS[kind](block);
+            return kind in ENDS ? ENDS[kind](block) : '';
         }
         start = index;
         const block = lines.slice(index, lines.indexOf('```', index));
