@@ -48,6 +48,11 @@ const ENDS = {
         write('docs/my-lab.json', lines.join('\n'));
         return "zeb.rig('my-lab.json');";
     },
+    xml(lines) {
+        write('docs/list.xml', lines.join('\n'));
+        return "zeb.rig(1); zeb.open(); zeb.file('list.xml'); check(zeb.page('JSON.parse(wrentabledialog" +
+            ".loadCustomSettingsXml())[0].value') === '17', 'the list is read'); zeb.close();";
+    },
     sh(lines) {
         commands.push(...lines.filter(line => line.includes('--scenario')));
         return '';
