@@ -1,5 +1,6 @@
 #include "OtherHost.h"
 
+#include "Files.h"
 #include "HostPages.h"
 #include "Until.h"
 
@@ -8,6 +9,7 @@
 #include <QEventLoop>
 #include <QFileDialog>
 #include <QFutureWatcher>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QThread>
 #include <QWebFrame>
@@ -34,6 +36,7 @@ OtherHost::OtherHost() {
     EXPECT_FALSE(current) << "one at a time is called";
     current = this;
     initHostPages();
+    write(m_folder.filePath("file"), "<job><TestNo>1</TestNo></job>");
     prepareModes();
     prepareDocuments();
     for (const DOCKEY key : {1, 2, 3}) {
@@ -309,7 +312,7 @@ void OtherHost::lookForModal() {
         m_watched.release();
     } else if (auto* dialog = qobject_cast<QDialog*>(m_modal)) {
         if (auto* files = qobject_cast<QFileDialog*>(dialog)) {
-            files->selectFile("/tmp/support.zip");
+            files->findChild<QLineEdit*>("fileNameEdit")->setText(m_folder.filePath("file"));
         }
         if (!agrees) {
             dialog->reject();

@@ -9,6 +9,7 @@
 #include <QMutex>
 #include <QPointer>
 #include <QSemaphore>
+#include <QTemporaryDir>
 #include <QTimer>
 #include <QWebView>
 
@@ -94,6 +95,8 @@ private:
     OtherZebPrefsDialog m_prefsDialog;
     QTimer m_modals;
     QPointer<QWidget> m_modal;
+    /// Of the file that is chosen wherever one is asked for.
+    QTemporaryDir m_folder;
     /// What a worker waits for: that the GUI thread waits for it.
     QSemaphore m_watched;
     int m_deterred = 0;
