@@ -119,7 +119,7 @@ TEST(CustomInfoRead, PaysNothingForHostileFiles) {
         for (const CustomInfoForm& form : {TableForm, DialogForm}) {
             const CustomInfoReading reading = readCustomInfo(bytes, form);
             EXPECT_EQ(reading.reason.isEmpty(), file.holdsItems) << file.name << ": " << reading.reason.toStdString();
-            EXPECT_LE(reading.items.size(), CustomInfoBounds::KeptItems) << file.name;
+            EXPECT_LE(reading.items.size(), CustomInfoBounds::Items) << file.name;
         }
     }
     const struct {

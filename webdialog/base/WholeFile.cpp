@@ -25,24 +25,6 @@ bool put(QFileDevice& file, const QByteArray& bytes) {
     return file.write(bytes) == bytes.size() && file.flush();
 }
 
-/// Does what `QSaveFile` does, with a short name for that moment.
-QString replaceLongName(const QFileInfo& there, const QByteArray& bytes) {
-    QTemporaryFile file(there.canonicalPath() % QLatin1String("/XXXXXX"));
-    if (!file.open()) {
-        return file.errorString();
-    }
-    if (!put(file, bytes)) {
-        return diskFull();
-    }
-    ::fdatasync(file.handle());
-    file.setPermissions(there.permissions());
-    if (std::rename(QFile::encodeName(file.fileName()), QFile::encodeName(there.canonicalFilePath())) != 0) {
-        return qt_error_string(errno);
-    }
-    file.setAutoRemove(false);
-    return {};
-}
-
 /// Over the old bytes, which are put back when there is no room for all of the new ones.
 QString writeInPlace(QFile& file, const QByteArray& bytes) {
     const qint64 before = file.size();
@@ -57,6 +39,25 @@ QString writeInPlace(QFile& file, const QByteArray& bytes) {
     return diskFull();
 }
 
+/// Does what `QSaveFile` does, with a short name for that moment.
+QString replaceLongName(QFile& old, const QByteArray& bytes) {
+    const QFileInfo there(old);
+    QTemporaryFile file(there.canonicalPath() % QLatin1String("/XXXXXX"));
+    if (!file.open()) {
+        return writeInPlace(old, bytes);
+    }
+    if (!put(file, bytes)) {
+        return diskFull();
+    }
+    ::fdatasync(file.handle());
+    file.setPermissions(there.permissions());
+    if (std::rename(QFile::encodeName(file.fileName()), QFile::encodeName(there.canonicalFilePath())) != 0) {
+        return qt_error_string(errno);
+    }
+    file.setAutoRemove(false);
+    return {};
+}
+
 QString writeWhole(const QString& path, const QByteArray& bytes, bool& isOpened) {
     const QFileInfo there(path);
     QFile old(path);
@@ -67,7 +68,7 @@ QString writeWhole(const QString& path, const QByteArray& bytes, bool& isOpened)
         }
         if (QFile::encodeName(QFileInfo(there.canonicalFilePath()).fileName()).size() > LongestNameOfSaveFile) {
             isOpened = true;
-            return replaceLongName(there, bytes);
+            return replaceLongName(old, bytes);
         }
     }
     QSaveFile file(path);

@@ -25,6 +25,6 @@ constexpr int TokenBytes = 16 * 1024;
 /// Of one element: they take time by the square of their number.
 constexpr int Attributes = 64;
 constexpr int Depth = 64;
-/// No bound of the file: as many items are kept, from the first. A camera takes 64.
-constexpr int KeptItems = 1024;
+/// A camera takes 64.
+constexpr int Items = 1024;
 }  // namespace CustomInfoBounds

@@ -96,7 +96,8 @@ private:
                 return startElement();
             case QXmlStreamReader::EndElement:
                 m_items.endElement();
-                break;
+                return m_items.items().size() > CustomInfoBounds::Items ? QStringLiteral("it holds too many items")
+                                                                        : QString();
             case QXmlStreamReader::Characters:
                 m_xml.isCDATA() ? m_items.addCData(m_xml.text()) : m_items.addText(m_xml.text());
                 break;

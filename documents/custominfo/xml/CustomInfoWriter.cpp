@@ -89,7 +89,7 @@ CustomInfoWriting writeCustomInfo(const QList<QVariantMap>& items, const QString
             return refused("a text of the item \"%1\" is too long", item);
         }
         bytes += added;
-        if (++count > KeptItems || bytes.size() + tail.size() > FileBytes) {
+        if (++count > Items || bytes.size() + tail.size() > FileBytes) {
             return refused("with the item \"%1\" the list is too long", item);
         }
     }

@@ -84,7 +84,7 @@ void ItemCollector::endField() {
 }
 
 void ItemCollector::endItem() {
-    if (m_item.contains(QStringLiteral("name")) && m_items.size() < CustomInfoBounds::KeptItems) {
+    if (m_item.contains(QStringLiteral("name"))) {
         m_items.append(m_item);
     }
 }

@@ -31,7 +31,12 @@ void UTL_Converter::xml2CustomInfo(const QString& path, QList<QVariantMap>& list
         throw failure(path, reason, NotOpened);
     }
     // One byte more than is taken tells that there is more.
-    const CustomInfoReading reading = readCustomInfo(file.read(CustomInfoBounds::FileBytes + 1), form);
+    const QByteArray bytes = file.read(CustomInfoBounds::FileBytes + 1);
+    if (file.error() != QFileDevice::NoError) {
+        logNotOpened("UTL_Converter::xml2CustomInfo", file.errorString());
+        throw failure(path, file.errorString(), NotOpened);
+    }
+    const CustomInfoReading reading = readCustomInfo(bytes, form);
     if (!reading.reason.isEmpty()) {
         qCritical() << "No custom information in" << path << "line" << reading.line << "column" << reading.column
                     << reading.reason;
