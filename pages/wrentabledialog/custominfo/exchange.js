@@ -71,13 +71,16 @@ Object.assign(wrentabledialog_obj, {
         const sorted = JSON.stringify(zeb4func.hashSort(JSON.parse(list)));
         const { records, last } = this.activeGrid();
         const keys = last.selection.indexes.map(index => records[index].key);
-        const present = keys.map(key => itemsOf(wrentabledialog.getCustomSettings(key, true)));
-        if (present.includes(null)) {
-            return;
+        let overwrites = false;
+        for (const key of keys) {
+            const present = itemsOf(wrentabledialog.getCustomSettings(key, true));
+            if (present === null) {
+                return;
+            }
+            overwrites = overwrites || present.length > 0 && JSON.stringify(zeb4func.hashSort(present)) !== sorted;
         }
-        const differs = items => items.length > 0 && JSON.stringify(zeb4func.hashSort(items)) !== sorted;
         const question = textKey('Overwrite custom information for the selected camera. Is it OK?');
-        if (!present.some(differs) || wrentabledialog.confirm(question)) {
+        if (!overwrites || wrentabledialog.confirm(question)) {
             wrentabledialog.setCustomSettings(keys, list);
         }
     },
