@@ -25,6 +25,7 @@ const isZip = name => zeb.readFile(within(name)).startsWith('PK');
 });
 
 zeb.writeFile(within('kept/old.zip'), 'old');
+zeb.file(folder);    // a folder is no file to write, and the dialog stays
 zeb.file(null);
 save();
 check(zeb.readFile(within('kept/old.zip')) === 'old', 'nothing is written');
