@@ -23,15 +23,15 @@ QString cleaned(const QString& text) {
     return kept.trimmed().isEmpty() ? QString() : kept;
 }
 
-QList<QVariantMap> asRead(const QList<QVariantMap>& items, const CustomInfoForm& form) {
+QList<QVariantMap> asRead(const QList<QVariantMap>& items, const CustomInfoDialect& dialect) {
     QList<QVariantMap> read;
     for (const QVariantMap& item : items) {
-        const bool shown = item.value(QLatin1String(form.shownKey)).toBool();
-        QVariantMap expected{{QLatin1String(form.shownKey), shown}};
+        const bool shown = item.value(QLatin1String(dialect.shownKey)).toBool();
+        QVariantMap expected{{QLatin1String(dialect.shownKey), shown}};
         for (const char* field : {"name", "value", "unit"}) {
             expected.insert(QLatin1String(field), cleaned(item.value(QLatin1String(field)).toString()));
         }
-        if (form.readsFileNameFlag) {
+        if (dialect.readsFileNameFlag) {
             expected.insert(QStringLiteral("usefilename"), shown);
         }
         read.append(expected);
@@ -42,8 +42,8 @@ QList<QVariantMap> asRead(const QList<QVariantMap>& items, const CustomInfoForm&
 }  // namespace
 
 QString faultOfReading(const QByteArray& bytes) {
-    for (const CustomInfoForm& form : {TableForm, DialogForm}) {
-        const CustomInfoReading reading = readCustomInfo(bytes, form);
+    for (const CustomInfoDialect& dialect : {TableDialect, DialogDialect}) {
+        const CustomInfoReading reading = readCustomInfo(bytes, dialect);
         if (reading.items.isEmpty() == reading.reason.isEmpty()) {
             return QStringLiteral("neither items nor a reason, or both: ") + reading.reason;
         }
@@ -52,7 +52,7 @@ QString faultOfReading(const QByteArray& bytes) {
                 return QStringLiteral("an item without a name");
             }
         }
-        const QString fault = faultOfWriting(reading.items, form);
+        const QString fault = faultOfWriting(reading.items, dialect);
         if (!fault.isEmpty()) {
             return fault;
         }
@@ -60,28 +60,28 @@ QString faultOfReading(const QByteArray& bytes) {
     return {};
 }
 
-QString faultOfWriting(const QList<QVariantMap>& items, const CustomInfoForm& form) {
-    const CustomInfoWriting writing = writeCustomInfo(items, QStringLiteral("1.0"), form);
+QString faultOfWriting(const QList<QVariantMap>& items, const CustomInfoDialect& dialect) {
+    const CustomInfoWriting writing = writeCustomInfo(items, QStringLiteral("1.0"), dialect);
     if (writing.bytes.isEmpty() == writing.reason.isEmpty()) {
         return QStringLiteral("neither a file nor a reason, or both: ") + writing.reason;
     }
     if (!writing.reason.isEmpty() || items.isEmpty()) {
         return {};
     }
-    const CustomInfoReading reading = readCustomInfo(writing.bytes, form);
-    const QList<QVariantMap> expected = asRead(items, form);
+    const CustomInfoReading reading = readCustomInfo(writing.bytes, dialect);
+    const QList<QVariantMap> expected = asRead(items, dialect);
     if (reading.items == expected) {
         return {};
     }
-    return reading.reason + QStringLiteral("\nread ") + textOf(reading.items, form) + QStringLiteral("\nfor  ") +
-           textOf(expected, form);
+    return reading.reason + QStringLiteral("\nread ") + textOf(reading.items, dialect) + QStringLiteral("\nfor  ") +
+           textOf(expected, dialect);
 }
 
-QString textOf(const QList<QVariantMap>& items, const CustomInfoForm& form) {
+QString textOf(const QList<QVariantMap>& items, const CustomInfoDialect& dialect) {
     QStringList lines;
     for (const QVariantMap& item : items) {
         QStringList fields;
-        for (const char* key : {"name", "value", "unit", form.shownKey, "usefilename"}) {
+        for (const char* key : {"name", "value", "unit", dialect.shownKey, "usefilename"}) {
             fields.append(item.contains(QLatin1String(key)) ? item[QLatin1String(key)].toString()
                                                             : QStringLiteral("-"));
         }

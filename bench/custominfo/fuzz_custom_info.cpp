@@ -27,7 +27,7 @@ QList<QVariantMap> itemsOf(const QByteArray& bytes) {
 extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, size_t size) {
     const QByteArray bytes(reinterpret_cast<const char*>(data), int(size));
     const bool isText = size > 0 && data[0] < 8 && data[0] % 2 == 1;
-    const QString fault = isText ? faultOfWriting(itemsOf(bytes.mid(1)), TableForm) : faultOfReading(bytes);
+    const QString fault = isText ? faultOfWriting(itemsOf(bytes.mid(1)), TableDialect) : faultOfReading(bytes);
     if (!fault.isEmpty()) {
         std::fprintf(stderr, "%s\n", qPrintable(fault));
         std::abort();

@@ -24,26 +24,11 @@
 
 namespace {
 
-const QString Name = QStringLiteral("name");
-const QString Value = QStringLiteral("value");
-const QString Unit = QStringLiteral("unit");
-const QString Selected = QStringLiteral("selected");
-const QString Display = QStringLiteral("display");
-const QString UseFileName = QStringLiteral("usefilename");
+using customitem::isOn;
+using customitem::text;
+
 /// The name of the item that is the camera's comment.
 const QString Comments = QStringLiteral("Comments");
-
-QString text(const QVariantMap& item, const QString& key) {
-    return item.value(key).toString();
-}
-
-bool isOn(const QVariantMap& item, const QString& key) {
-    return text(item, key) == QLatin1String("on");
-}
-
-void add(DOC_Interface& doc, const QVariantMap& item, bool display, bool usefilename) {
-    doc.control().addCustomInfo(text(item, Name), text(item, Value), text(item, Unit), display, usefilename);
-}
 
 QString keyText(const QVariantList& targets) {
     return QVariant(targets).toStringList().join(QLatin1Char(','));
@@ -113,7 +98,7 @@ QString JS_Mediator_CustomInfoDialog::getDeviceInfo() {
             }
             const QJsonObject record{{QStringLiteral("recid"), records.size() + 1},
                                      {QStringLiteral("dockey"), qint64(key)},
-                                     {Name, doc->control().getCameraName(1)}};
+                                     {QStringLiteral("name"), doc->control().getCameraName(1)}};
             records.append(record);
             if (key == present) {
                 chosen = record;
@@ -131,11 +116,11 @@ QString JS_Mediator_CustomInfoDialog::getCustomInfo(DOCKEY dockey) {
             for (const QVariantMap& item : doc->control().getCustomInfoList()) {
                 items.append(QJsonObject{{QStringLiteral("recid"), items.size() + 1},
                                          {QStringLiteral("dockey"), qint64(dockey)},
-                                         {Name, text(item, Name)},
-                                         {Value, text(item, Value)},
-                                         {Unit, text(item, Unit)},
-                                         {Selected, isOn(item, Display)},
-                                         {UseFileName, isOn(item, UseFileName)}});
+                                         {QStringLiteral("name"), text(item, "name")},
+                                         {QStringLiteral("value"), text(item, "value")},
+                                         {QStringLiteral("unit"), text(item, "unit")},
+                                         {QStringLiteral("selected"), isOn(item, "display")},
+                                         {QStringLiteral("usefilename"), isOn(item, "usefilename")}});
             }
         }
         return compact(QJsonDocument(items));
@@ -143,57 +128,60 @@ QString JS_Mediator_CustomInfoDialog::getCustomInfo(DOCKEY dockey) {
 }
 
 void JS_Mediator_CustomInfoDialog::addCustomData(const QVariantList& targets, const QVariantMap& custom) {
-    change(__func__, targets, [&](DOC_Interface& doc) { add(doc, custom, true, true); });
+    QVariantMap added = custom;
+    added.insert({{QStringLiteral("display"), true}, {QStringLiteral("usefilename"), true}});
+    change(__func__, targets, [&](DOC_Interface& doc) { customitem::addTo(doc.control(), added); });
 }
 
 void JS_Mediator_CustomInfoDialog::deleteCustomData(const QVariantList& targets, const QVariantList& customs) {
     change(__func__, targets, [&](DOC_Interface& doc) {
         for (const QVariant& custom : customs) {
-            doc.control().removeCustomInfo(text(custom.toMap(), Name));
+            doc.control().removeCustomInfo(text(custom.toMap(), "name"));
         }
     });
 }
 
 void JS_Mediator_CustomInfoDialog::editCustomData(const QVariantList& targets, const QVariantMap& custom) {
-    const QString old = text(custom, QStringLiteral("oldname"));
-    const QString name = text(custom, Name);
+    const QString old = text(custom, "oldname");
+    const QString name = text(custom, "name");
     change(__func__, targets, [&](DOC_Interface& doc) {
         if (name != old) {
             doc.control().renameCustomInfo(old, name);
         }
-        doc.control().updateCustomInfo(name, text(custom, Value), text(custom, Unit), isOn(custom, Display),
-                                       isOn(custom, UseFileName));
+        doc.control().updateCustomInfo(name, text(custom, "value"), text(custom, "unit"), isOn(custom, "display"),
+                                       isOn(custom, "usefilename"));
     });
 }
 
 void JS_Mediator_CustomInfoDialog::enableCustomData(const QVariantList& targets, const QVariantList& customs) {
     QHash<QString, bool> shown;
     for (const QVariant& custom : customs) {
-        shown.insert(text(custom.toMap(), Name), custom.toMap().value(Selected).toBool());
+        shown.insert(text(custom.toMap(), "name"), isOn(custom.toMap(), "selected"));
     }
     change(__func__, targets, [&](DOC_Interface& doc) {
         for (const QVariantMap& item : doc.control().getCustomInfoList()) {
-            const QString name = text(item, Name);
+            const QString name = text(item, "name");
             if (shown.contains(name)) {
-                doc.control().updateCustomInfo(name, text(item, Value), text(item, Unit), shown.value(name),
-                                               isOn(item, UseFileName));
+                doc.control().updateCustomInfo(name, text(item, "value"), text(item, "unit"), shown.value(name),
+                                               isOn(item, "usefilename"));
             }
         }
     });
 }
 
 void JS_Mediator_CustomInfoDialog::restore(DOC_Interface& doc, const QVariantList& customs) {
+    QList<QVariantMap> items;
     std::optional<QString> comment;
-    replaceCustomInfo(doc.control(), [&] {
-        for (const QVariant& custom : customs) {
-            const QVariantMap item = custom.toMap();
-            if (text(item, Name) == Comments) {
-                comment = text(item, Value);
-            } else {
-                add(doc, item, item.value(Selected).toBool(), true);
-            }
+    for (const QVariant& custom : customs) {
+        QVariantMap item = custom.toMap();
+        if (text(item, "name") == Comments) {
+            comment = text(item, "value");
+        } else {
+            item.insert({{QStringLiteral("display"), isOn(item, "selected")}, {QStringLiteral("usefilename"), true}});
+            items.append(item);
         }
-    });
+    }
+    replaceCustomInfo(doc.control(), items);
     if (comment) {
         doc.image().setComment(*comment);
     }
@@ -205,13 +193,15 @@ void JS_Mediator_CustomInfoDialog::restoreCustomData(const QVariantList& targets
 
 void JS_Mediator_CustomInfoDialog::load(const QVariantList& targets) {
     call(*this, Change, __func__, {{"targets", keyText(targets)}}, [&] {
+        // In another mode the lists are others than those that the user has seen.
+        const int mode = host().getOperatingMode();
         const QString path = chooseCustomInfoToRead(host(), view());
-        if (path.isEmpty()) {
+        if (path.isEmpty() || host().getOperatingMode() != mode) {
             return;
         }
         QList<QVariantMap> items;
         try {
-            UTL_Converter::xml2CustomInfo(path, items, DialogForm);
+            UTL_Converter::xml2CustomInfo(path, items, DialogDialect);
         } catch (const UTL_Exception&) {
             throw DOC_ReadFileException(path);
         }
@@ -231,7 +221,7 @@ void JS_Mediator_CustomInfoDialog::save(const QVariantList& customs) {
             items.append(custom.toMap());
         }
         try {
-            UTL_Converter::customInfo2xml(items, path, host().getVersionText(), DialogForm);
+            UTL_Converter::customInfo2xml(items, path, host().getVersionText(), DialogDialect);
         } catch (const UTL_Exception& failure) {
             // The log has a line for a file that can't be opened, and nobody is told.
             if (failure.errorCode() != UTL_Converter::NotOpened) {
@@ -259,10 +249,7 @@ void JS_Mediator_CustomInfoDialog::cancel() {
 
 void JS_Mediator_CustomInfoDialog::putBack(DOC_Interface& doc, const Kept& kept) {
     if (kept.items) {
-        doc.control().clearCustomInfo();
-        for (const QVariantMap& item : *kept.items) {
-            add(doc, item, isOn(item, Display), isOn(item, UseFileName));
-        }
+        replaceCustomInfo(doc.control(), *kept.items);
     }
     if (kept.comment && doc.image().getComment() != *kept.comment) {
         doc.image().setComment(*kept.comment);

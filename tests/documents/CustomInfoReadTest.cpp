@@ -1,4 +1,5 @@
 #include "Course.h"
+#include "CustomInfoBounds.h"
 #include "CustomInfoReader.h"
 #include "CustomInfoRoundTrip.h"
 #include "Files.h"
@@ -22,9 +23,9 @@ QByteArray item(const QByteArray& fields) {
 }
 
 /// The items, or why there are none.
-QString read(const QByteArray& bytes, const CustomInfoForm& form = TableForm) {
-    const CustomInfoReading reading = readCustomInfo(bytes, form);
-    return reading.items.isEmpty() ? reading.reason : textOf(reading.items, form);
+QString read(const QByteArray& bytes, const CustomInfoDialect& dialect = TableDialect) {
+    const CustomInfoReading reading = readCustomInfo(bytes, dialect);
+    return reading.items.isEmpty() ? reading.reason : textOf(reading.items, dialect);
 }
 
 TEST(CustomInfoRead, TakesWhatOthersWrite) {
@@ -78,7 +79,7 @@ TEST(CustomInfoRead, TakesWhatOthersWrite) {
     };
     for (const auto& each : cases) {
         EXPECT_EQ(read(each.bytes), each.table) << each.sentence;
-        EXPECT_EQ(read(each.bytes, DialogForm), each.dialog != nullptr ? each.dialog : each.table) << each.sentence;
+        EXPECT_EQ(read(each.bytes, DialogDialect), each.dialog != nullptr ? each.dialog : each.table) << each.sentence;
     }
 }
 
@@ -109,15 +110,16 @@ TEST(CustomInfoRead, TakesEncodingsThatAreWhatTheySay) {
         {"nobody knows it", encoded("nothing", "UTF-8")},
     };
     for (const auto& each : lies) {
-        EXPECT_NE(readCustomInfo(each.bytes, TableForm).reason, "") << each.sentence << read(each.bytes).toStdString();
+        EXPECT_NE(readCustomInfo(each.bytes, TableDialect).reason, "")
+            << each.sentence << read(each.bytes).toStdString();
     }
 }
 
 TEST(CustomInfoRead, PaysNothingForHostileFiles) {
     for (const HostileFile& file : hostileFiles()) {
         const QByteArray bytes = bytesOf(file, CustomInfoBounds::FileBytes);
-        for (const CustomInfoForm& form : {TableForm, DialogForm}) {
-            const CustomInfoReading reading = readCustomInfo(bytes, form);
+        for (const CustomInfoDialect& dialect : {TableDialect, DialogDialect}) {
+            const CustomInfoReading reading = readCustomInfo(bytes, dialect);
             EXPECT_EQ(reading.reason.isEmpty(), file.holdsItems) << file.name << ": " << reading.reason.toStdString();
             EXPECT_LE(reading.items.size(), CustomInfoBounds::Items) << file.name;
         }
@@ -135,17 +137,17 @@ TEST(CustomInfoRead, PaysNothingForHostileFiles) {
          item("<name>n</name>") + QByteArray(1024 * 1024 + 1 - item("<name>n</name>").size(), '\n')},
     };
     for (const auto& each : bounds) {
-        EXPECT_EQ(readCustomInfo(each.inside, TableForm).reason, "") << each.sentence;
-        EXPECT_NE(readCustomInfo(each.beyond, TableForm).reason, "") << each.sentence;
+        EXPECT_EQ(readCustomInfo(each.inside, TableDialect).reason, "") << each.sentence;
+        EXPECT_NE(readCustomInfo(each.beyond, TableDialect).reason, "") << each.sentence;
     }
 }
 
 TEST(CustomInfoRead, TakesNoPartOfAFileThatWasCut) {
     const QByteArray good = "<?xml version='1.0' encoding='utf-8'?>\n<custom><!--a--><customItems a='b'>" + Named +
                             "<customItem><name>\xE8\xA9\xA6&amp;</name></customItem></customItems></custom>";
-    ASSERT_EQ(readCustomInfo(good, TableForm).items.size(), 2);
+    ASSERT_EQ(readCustomInfo(good, TableDialect).items.size(), 2);
     for (int size = 0; size < good.size(); ++size) {
-        EXPECT_NE(readCustomInfo(good.left(size), TableForm).reason, "") << size;
+        EXPECT_NE(readCustomInfo(good.left(size), TableDialect).reason, "") << size;
         EXPECT_EQ(faultOfReading(good.left(size) + good), "") << size;
     }
 }

@@ -41,9 +41,9 @@ TEST(CustomInfoWrite, HasTheFormOfTheFile) {
         "    </customItem>\n"
         "  </customItems>\n"
         "</custom>\n";
-    EXPECT_EQ(writeCustomInfo(items, "2.0 &", TableForm).bytes, expected);
+    EXPECT_EQ(writeCustomInfo(items, "2.0 &", TableDialect).bytes, expected);
     expected.replace("<usefilename>false", "<usefilename>true");
-    EXPECT_EQ(writeCustomInfo(items, "2.0 &", DialogForm).bytes, expected) << "the dialog's is always in names";
+    EXPECT_EQ(writeCustomInfo(items, "2.0 &", DialogDialect).bytes, expected) << "the dialog's is always in names";
 }
 
 TEST(CustomInfoWrite, ComesBackLetterForLetter) {
@@ -51,14 +51,14 @@ TEST(CustomInfoWrite, ComesBackLetterForLetter) {
     for (uint letter = 0; letter < 0x11000; ++letter) {
         all += letter < 0x10000 ? QString(QChar(letter)) : QString::fromUcs4(&letter, 1);
         if (all.size() >= 1000) {
-            EXPECT_EQ(faultOfWriting({item("n", all)}, TableForm), "") << letter;
+            EXPECT_EQ(faultOfWriting({item("n", all)}, TableDialect), "") << letter;
             all.clear();
         }
     }
     const QString half(QChar(0xD83D));
     for (const QString& text : QStringList{"\r", " a\r\n\rb\t ", "]]>]]&gt;<![CDATA[", "\n\n", QStringLiteral("😀"),
                                            QString(400, QChar::ByteOrderMark), half + "a", "a" + half, " "}) {
-        EXPECT_EQ(faultOfWriting({item(text, text, true), item("b" + text)}, DialogForm), "") << text.toStdString();
+        EXPECT_EQ(faultOfWriting({item(text, text, true), item("b" + text)}, DialogDialect), "") << text.toStdString();
     }
 }
 
@@ -67,12 +67,12 @@ TEST(CustomInfoWrite, RefusesWhatNobodyCouldReadBack) {
     for (int i = 0; i < 1024; ++i) {
         many.append(item(QStringLiteral("n%1").arg(i), QString(400, 'x')));
     }
-    EXPECT_EQ(faultOfWriting(many, TableForm), "");
-    EXPECT_NE(writeCustomInfo(many, "1", TableForm).bytes, "");
+    EXPECT_EQ(faultOfWriting(many, TableDialect), "");
+    EXPECT_NE(writeCustomInfo(many, "1", TableDialect).bytes, "");
     const QList<QVariantMap> more = many + QList<QVariantMap>{item("last")};
     many[700]["unit"] = QString(3300, QChar(0x3042));
     many[900]["unit"] = QString(16384, 'x');
-    EXPECT_EQ(faultOfWriting({many[900]}, TableForm), "");
+    EXPECT_EQ(faultOfWriting({many[900]}, TableDialect), "");
     const struct {
         const char* sentence;
         QList<QVariantMap> items;
@@ -85,7 +85,7 @@ TEST(CustomInfoWrite, RefusesWhatNobodyCouldReadBack) {
         {"a name over the bound", {item(QString(16385, 'y'))}, nullptr},
     };
     for (const auto& each : cases) {
-        const CustomInfoWriting writing = writeCustomInfo(each.items, "1", TableForm);
+        const CustomInfoWriting writing = writeCustomInfo(each.items, "1", TableDialect);
         EXPECT_EQ(writing.bytes, "") << each.sentence;
         EXPECT_LT(writing.reason.size(), 200) << each.sentence;
         if (each.reason != nullptr) {
@@ -112,7 +112,7 @@ TEST(CustomInfoFile, TellsPathAndReason) {
     QList<QVariantMap> list;
     UTL_Converter::customInfo2xml({item("n", "v", true)}, path, "1");
     UTL_Converter::xml2CustomInfo(path, list);
-    EXPECT_EQ(textOf(list, TableForm), "n|v||true|true");
+    EXPECT_EQ(textOf(list, TableDialect), "n|v||true|true");
 
     const QString pipe = folder.filePath("pipe");
     ASSERT_EQ(mkfifo(pipe.toLocal8Bit().constData(), 0600), 0);
@@ -159,7 +159,7 @@ TEST(CustomInfoFile, TellsPathAndReason) {
                   (QStringList{path + ": only a part of it could be written; the disk may be full", "2"}));
     }
     UTL_Converter::xml2CustomInfo(path, list);
-    EXPECT_EQ(textOf(list, TableForm), "n|v||true|true") << "the old file stands";
+    EXPECT_EQ(textOf(list, TableDialect), "n|v||true|true") << "the old file stands";
 }
 
 }  // namespace

@@ -1,5 +1,6 @@
 #include "CustomInfoReader.h"
 
+#include "CustomInfoBounds.h"
 #include "ItemCollector.h"
 
 #include <QIODevice>
@@ -57,7 +58,7 @@ private:
 
 class Reader {
 public:
-    Reader(const QByteArray& bytes, const CustomInfoForm& form) : m_feed(bytes), m_items(form) {
+    Reader(const QByteArray& bytes, const CustomInfoDialect& dialect) : m_feed(bytes), m_items(dialect) {
         m_xml.setDevice(&m_feed);
         m_xml.setEntityResolver(&m_entities);
         m_xml.setNamespaceProcessing(false);
@@ -128,9 +129,9 @@ private:
 
 }  // namespace
 
-CustomInfoReading readCustomInfo(const QByteArray& bytes, const CustomInfoForm& form) {
+CustomInfoReading readCustomInfo(const QByteArray& bytes, const CustomInfoDialect& dialect) {
     if (bytes.size() > CustomInfoBounds::FileBytes) {
         return {{}, QStringLiteral("it is too large")};
     }
-    return Reader(bytes, form).read();
+    return Reader(bytes, dialect).read();
 }

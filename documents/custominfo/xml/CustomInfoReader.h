@@ -1,6 +1,6 @@
 #pragma once
 
-#include "CustomInfoForm.h"
+#include "CustomInfoDialect.h"
 
 #include <QByteArray>
 #include <QList>
@@ -17,4 +17,4 @@ struct CustomInfoReading {
 };
 
 /// Reads the bytes of a file, within `CustomInfoBounds`. Never throws, opens no other file and no address. Any thread.
-CustomInfoReading readCustomInfo(const QByteArray& bytes, const CustomInfoForm& form);
+CustomInfoReading readCustomInfo(const QByteArray& bytes, const CustomInfoDialect& dialect);

@@ -1,5 +1,7 @@
 #include "CustomInfoWriter.h"
 
+#include "CustomInfoBounds.h"
+
 #include <QChar>
 
 namespace {
@@ -51,7 +53,7 @@ QByteArray element(const char* name, const QByteArray& content) {
 }
 
 /// Empty when one of its texts is too long.
-QByteArray elementOf(const QVariantMap& item, const CustomInfoForm& form) {
+QByteArray elementOf(const QVariantMap& item, const CustomInfoDialect& dialect) {
     QByteArray bytes = "    <customItem>\n";
     for (const char* field : {"name", "value", "unit"}) {
         const QByteArray content = contentOf(item.value(QLatin1String(field)).toString());
@@ -60,9 +62,9 @@ QByteArray elementOf(const QVariantMap& item, const CustomInfoForm& form) {
         }
         bytes += "      " + element(field, content);
     }
-    const bool isShown = item.value(QLatin1String(form.shownKey)).toBool();
+    const bool isShown = item.value(QLatin1String(dialect.shownKey)).toBool();
     bytes += "      " + element("display", isShown ? "true" : "false");
-    bytes += "      " + element("usefilename", isShown || form.allInFileNames ? "true" : "false");
+    bytes += "      " + element("usefilename", isShown || dialect.allInFileNames ? "true" : "false");
     return bytes + "    </customItem>\n";
 }
 
@@ -73,7 +75,8 @@ CustomInfoWriting refused(const char* why, const QVariantMap& item) {
 
 }  // namespace
 
-CustomInfoWriting writeCustomInfo(const QList<QVariantMap>& items, const QString& version, const CustomInfoForm& form) {
+CustomInfoWriting writeCustomInfo(const QList<QVariantMap>& items, const QString& version,
+                                  const CustomInfoDialect& dialect) {
     const QByteArray tail = items.isEmpty() ? "  <customItems/>\n</custom>\n" : "  </customItems>\n</custom>\n";
     const QByteArray versionContent = contentOf(version);
     if (versionContent.size() > TokenBytes) {
@@ -84,7 +87,7 @@ CustomInfoWriting writeCustomInfo(const QList<QVariantMap>& items, const QString
     bytes += items.isEmpty() ? "" : "  <customItems>\n";
     int count = 0;
     for (const QVariantMap& item : items) {
-        const QByteArray added = elementOf(item, form);
+        const QByteArray added = elementOf(item, dialect);
         if (added.isEmpty()) {
             return refused("a text of the item \"%1\" is too long", item);
         }

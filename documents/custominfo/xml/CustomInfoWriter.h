@@ -1,6 +1,6 @@
 #pragma once
 
-#include "CustomInfoForm.h"
+#include "CustomInfoDialect.h"
 
 #include <QByteArray>
 #include <QList>
@@ -15,4 +15,5 @@ struct CustomInfoWriting {
 
 /// The file of these items, which the reader takes back as they are. XML has no form for most control characters and
 /// for halves of letters: they are left out. Items that would pass a bound of the reader are refused. Any thread.
-CustomInfoWriting writeCustomInfo(const QList<QVariantMap>& items, const QString& version, const CustomInfoForm& form);
+CustomInfoWriting writeCustomInfo(const QList<QVariantMap>& items, const QString& version,
+                                  const CustomInfoDialect& dialect);

@@ -27,7 +27,7 @@ bool isTrue(const QString& text) {
 }  // namespace
 
 ItemCollector::Section ItemCollector::sectionOf(const QString& name) const {
-    if (name == QLatin1String("customItems") && !(m_isJob && m_form.rootDecides)) {
+    if (name == QLatin1String("customItems") && !(m_isJob && m_dialect.rootDecides)) {
         return Section::Items;
     }
     return m_isJob ? Section::JobItem : Section::Other;
@@ -44,7 +44,7 @@ void ItemCollector::startElement(const QString& name, const QXmlStreamAttributes
             const QString shown = QStringLiteral("display");
             m_item = {{QStringLiteral("name"), knownName(name)},
                       {QStringLiteral("unit"), attributes.value(QLatin1String("unit")).toString()},
-                      {QLatin1String(m_form.shownKey),
+                      {QLatin1String(m_dialect.shownKey),
                        !attributes.hasAttribute(shown) || isTrue(attributes.value(shown).toString())}};
             m_text.clear();
         }
@@ -77,8 +77,8 @@ void ItemCollector::endField() {
     } else if (m_field == QLatin1String("value") || m_field == QLatin1String("unit")) {
         m_item.insert(m_field, m_text);
     } else if (m_field == QLatin1String("display")) {
-        m_item.insert(QLatin1String(m_form.shownKey), isTrue(m_text));
-    } else if (m_field == QLatin1String("usefilename") && m_form.readsFileNameFlag) {
+        m_item.insert(QLatin1String(m_dialect.shownKey), isTrue(m_text));
+    } else if (m_field == QLatin1String("usefilename") && m_dialect.readsFileNameFlag) {
         m_item.insert(m_field, isTrue(m_text));
     }
 }

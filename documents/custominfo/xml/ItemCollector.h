@@ -1,6 +1,6 @@
 #pragma once
 
-#include "CustomInfoForm.h"
+#include "CustomInfoDialect.h"
 
 #include <QList>
 #include <QString>
@@ -15,7 +15,7 @@ class QXmlStreamAttributes;
 /// text ends at whatever is no text.
 class ItemCollector {
 public:
-    explicit ItemCollector(const CustomInfoForm& form) : m_form(form) {}
+    explicit ItemCollector(const CustomInfoDialect& dialect) : m_dialect(dialect) {}
 
     void startElement(const QString& name, const QXmlStreamAttributes& attributes);
     void endElement();
@@ -34,7 +34,7 @@ private:
     void endField();
     void endItem();
 
-    const CustomInfoForm& m_form;
+    const CustomInfoDialect& m_dialect;
     QList<QVariantMap> m_items;
     int m_depth = 0;
     bool m_isJob = false;

@@ -1,5 +1,6 @@
 #include "UTL_Converter.h"
 
+#include "CustomInfoBounds.h"
 #include "CustomInfoReader.h"
 #include "CustomInfoWriter.h"
 #include "UTL_Exception.h"
@@ -22,7 +23,7 @@ void logNotOpened(const char* function, const QString& reason) {
 
 }  // namespace
 
-void UTL_Converter::xml2CustomInfo(const QString& path, QList<QVariantMap>& list, const CustomInfoForm& form) {
+void UTL_Converter::xml2CustomInfo(const QString& path, QList<QVariantMap>& list, const CustomInfoDialect& dialect) {
     QFile file(path);
     QString reason = whyNoPlainFile(path);
     if (!reason.isEmpty() || !file.open(QIODevice::ReadOnly)) {
@@ -36,7 +37,7 @@ void UTL_Converter::xml2CustomInfo(const QString& path, QList<QVariantMap>& list
         logNotOpened("UTL_Converter::xml2CustomInfo", file.errorString());
         throw failure(path, file.errorString(), NotOpened);
     }
-    const CustomInfoReading reading = readCustomInfo(bytes, form);
+    const CustomInfoReading reading = readCustomInfo(bytes, dialect);
     if (!reading.reason.isEmpty()) {
         qCritical() << "No custom information in" << path << "line" << reading.line << "column" << reading.column
                     << reading.reason;
@@ -46,8 +47,8 @@ void UTL_Converter::xml2CustomInfo(const QString& path, QList<QVariantMap>& list
 }
 
 void UTL_Converter::customInfo2xml(const QList<QVariantMap>& list, const QString& path, const QString& version,
-                                   const CustomInfoForm& form) {
-    const CustomInfoWriting writing = writeCustomInfo(list, version, form);
+                                   const CustomInfoDialect& dialect) {
+    const CustomInfoWriting writing = writeCustomInfo(list, version, dialect);
     if (!writing.reason.isEmpty()) {
         throw failure(path, writing.reason, NotDone);
     }
