@@ -153,4 +153,7 @@ constexpr int NanosecondsPerSecond = 1000000000;
 /// What separates the lines of a camera's comment where the host keeps it.
 constexpr auto CommentSeparator = "{Separator}";
 
+/// Items of custom information that a camera takes.
+constexpr int MostCustomItems = 64;
+
 }  // namespace zeb

@@ -1,9 +1,21 @@
 #pragma once
 
-#include <functional>
+#include <QList>
+#include <QVariantMap>
 
 class DOC_Control;
 
-/// Replaces the list of a camera by what `fill` adds to an empty one. When that throws the camera gets back the list it
-/// had, as far as it takes it, and the exception goes on. One whose list can't be read keeps it. GUI thread.
-void replaceCustomInfo(DOC_Control& control, const std::function<void()>& fill);
+/// Custom information between bridges, files and cameras: an item is a map of `name`, `value`, `unit` and flags, as a
+/// camera has it. GUI thread.
+namespace customitem {
+
+QString text(const QVariantMap& item, const char* key);
+/// A flag that is set is the text "on" of a camera, true of a page or a file.
+bool isOn(const QVariantMap& item, const char* key);
+void addTo(DOC_Control& control, const QVariantMap& item);
+
+}  // namespace customitem
+
+/// Clears the list of a camera and adds these. When that throws it gets back the list it had, as far as it takes it,
+/// and the exception goes on. One whose list can't be read keeps it. GUI thread.
+void replaceCustomInfo(DOC_Control& control, const QList<QVariantMap>& items);

@@ -20,22 +20,18 @@
 
 namespace {
 
-constexpr int MostItems = 64;
 constexpr int LettersInLog = 200;
 
-const QString Name = QStringLiteral("name");
-const QString Value = QStringLiteral("value");
-const QString Unit = QStringLiteral("unit");
-const QString Display = QStringLiteral("display");
-const QString UseFileName = QStringLiteral("usefilename");
+using customitem::isOn;
+using customitem::text;
 
 QString jsonOf(const QList<QVariantMap>& items, bool withNumbers) {
     QJsonArray array;
-    for (const QVariantMap& item : items.mid(0, MostItems)) {
-        QJsonObject object{{Name, item.value(Name).toString()},
-                           {Value, item.value(Value).toString()},
-                           {Unit, item.value(Unit).toString()},
-                           {Display, item.value(Display).toBool()}};
+    for (const QVariantMap& item : items.mid(0, zeb::MostCustomItems)) {
+        QJsonObject object{{QStringLiteral("name"), text(item, "name")},
+                           {QStringLiteral("value"), text(item, "value")},
+                           {QStringLiteral("unit"), text(item, "unit")},
+                           {QStringLiteral("display"), isOn(item, "display")}};
         if (withNumbers) {
             object.insert(QStringLiteral("recid"), array.size() + 1);
         }
@@ -53,11 +49,10 @@ std::optional<QList<QVariantMap>> itemsOf(const QString& json) {
     }
     QList<QVariantMap> items;
     for (const QJsonValue entry : document.array()) {
-        if (entry.isObject() && items.size() < MostItems) {
+        if (entry.isObject() && items.size() < zeb::MostCustomItems) {
             QVariantMap item = entry.toObject().toVariantMap();
-            const bool isShown = entry.toObject().value(Display).toBool();
-            item.insert(Display, isShown);
-            item.insert(UseFileName, isShown);
+            const bool isShown = isOn(item, "display");
+            item.insert({{QStringLiteral("display"), isShown}, {QStringLiteral("usefilename"), isShown}});
             items.append(item);
         }
     }
@@ -81,21 +76,11 @@ void CustomInformation::setLists(const DocKeyList& keys, const QString& json) {
         if (doc) {
             onCamera(*doc, [&] {
                 if (doc->isConnected()) {
-                    replaceList(doc->control(), *items);
+                    replaceCustomInfo(doc->control(), *items);
                 }
             });
         }
     }
-}
-
-void CustomInformation::replaceList(DOC_Control& control, const QList<QVariantMap>& items) {
-    replaceCustomInfo(control, [&] {
-        for (const QVariantMap& item : items) {
-            control.addCustomInfo(item.value(Name).toString(), item.value(Value).toString(),
-                                  item.value(Unit).toString(), item.value(Display).toBool(),
-                                  item.value(UseFileName).toBool());
-        }
-    });
 }
 
 QString CustomInformation::read(QWidget* parent) {

@@ -6,7 +6,6 @@
 #include <QString>
 #include <QVariantMap>
 
-class DOC_Control;
 class ZebHost;
 
 /// The lists of custom information of cameras, and their files. The page has a list as a JSON array of objects with
@@ -29,7 +28,5 @@ public:
     void write(QWidget* parent, const QString& json);
 
 private:
-    static void replaceList(DOC_Control& control, const QList<QVariantMap>& items);
-
     ZebHost& m_host;
 };

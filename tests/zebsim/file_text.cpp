@@ -1,4 +1,5 @@
 #include "FileText.h"
+#include "ZebTypes.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -23,20 +24,20 @@ FrameFacts factsOf(int items, const QString& text) {
 
 TEST(FileText, CountsWhatThereIsNoRoomFor) {
     for (const int letters : {1, 80, 81, 82, 256, 20000}) {
-        const QJsonObject camera = read(FileText::of(factsOf(CustomInfo::MostItems, QString(letters, QChar(0x5727)))));
+        const QJsonObject camera = read(FileText::of(factsOf(zeb::MostCustomItems, QString(letters, QChar(0x5727)))));
         const int items = camera["items"].toArray().size();
-        EXPECT_EQ(items + camera["itemsLeftOut"].toInt(), CustomInfo::MostItems) << letters;
+        EXPECT_EQ(items + camera["itemsLeftOut"].toInt(), zeb::MostCustomItems) << letters;
         EXPECT_EQ(items > 0, letters < 20000);
         EXPECT_EQ(camera["time"].toDouble(), -0.512);
     }
     for (const int cameras : {1, 64, 1024}) {
         QList<FrameFacts> all;
         for (int i = 0; i < cameras; ++i) {
-            all.append(factsOf(CustomInfo::MostItems, "Gate"));
+            all.append(factsOf(zeb::MostCustomItems, "Gate"));
         }
         const QJsonObject layout = read(FileText::ofLayout(all));
         EXPECT_EQ(layout["cameras"].toArray().size() + layout["camerasLeftOut"].toInt(), cameras);
-        EXPECT_EQ(layout["cameras"].toArray().last()["items"].toArray().size() == CustomInfo::MostItems, cameras == 1);
+        EXPECT_EQ(layout["cameras"].toArray().last()["items"].toArray().size() == zeb::MostCustomItems, cameras == 1);
     }
 }
 

@@ -84,8 +84,8 @@ void AppWindows::editCamera(DOCKEY key) {
     runDialog(m_host, dialog);
 }
 
-void AppWindows::editCustomInfo(bool forTemporary) {
-    auto* dialog = new GUI_CustomInfoDialog(&m_host, forTemporary, m_host.getMainWindow());
+void AppWindows::editCustomInfo() {
+    auto* dialog = new GUI_CustomInfoDialog(&m_host, false, m_host.getMainWindow());
     // The keys, or the lists that the cameras show, are others from then on: what is done stays done.
     QObject::connect(&m_host.events(), &HostEvents::camerasReplaced, dialog, &QDialog::accept);
     QObject::connect(&m_host.events(), &HostEvents::modeChanged, dialog, &QDialog::accept);

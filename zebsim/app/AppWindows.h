@@ -27,8 +27,8 @@ public:
     /// The plug-in's file; empty for none.
     void setPluginFile(const QString& path) { m_pluginFile = path; }
 
-    /// Custom information of the selected cameras, or of the temporary save list; runs until it is closed.
-    void editCustomInfo(bool forTemporary);
+    /// Custom information of the selected cameras; runs until it is closed.
+    void editCustomInfo();
 
     ZebPrefsDialog* prefsDialog() override { return this; }
     void openEthernetSettings() override;

@@ -101,9 +101,7 @@ void ViewerWindow::addDialogs(AppWindows& windows) {
     m_fileMenu->addSeparator();
     addEntry(m_fileMenu, uiText("&Quit"), "quit", [this] { Q_EMIT closeAsked(); });
     m_customInfo =
-        addEntry(m_cameraMenu, uiText("Custom info..."), "customInfo", [&windows] { windows.editCustomInfo(false); });
-    m_savedCustomInfo = addEntry(m_cameraMenu, uiText("Custom info of the save list..."), "savedCustomInfo",
-                                 [&windows] { windows.editCustomInfo(true); });
+        addEntry(m_cameraMenu, uiText("Custom info..."), "customInfo", [&windows] { windows.editCustomInfo(); });
     QMenu* settings = menuBar()->addMenu(uiText("&Settings"));
     QMenu* help = menuBar()->addMenu(uiText("&Help"));
     m_bar->addSeparator();
@@ -137,9 +135,8 @@ void ViewerWindow::refresh() {
     m_cameras->setText(uiText("%1 cameras, %2 connected").arg(cameras.size()).arg(connected));
     if (m_customInfo != nullptr) {
         // At its end a recording brings another mode, in which the lists are others.
-        const bool mayEdit = !m_host.isFileMode() && !m_host.recorder().isUnderWay();
-        m_customInfo->setEnabled(mayEdit && m_host.docManager().getSelectedDocCount() > 0);
-        m_savedCustomInfo->setEnabled(mayEdit && !m_host.docManager().getTemporarySaveDocKeys().isEmpty());
+        m_customInfo->setEnabled(!m_host.isFileMode() && !m_host.recorder().isUnderWay() &&
+                                 m_host.docManager().getSelectedDocCount() > 0);
     }
     const QList<QAction*> modes = m_modes->actions();
     modes.at(m_host.getOperatingMode())->setChecked(true);

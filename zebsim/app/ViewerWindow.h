@@ -57,7 +57,6 @@ private:
     QActionGroup* m_modes;
     QActionGroup* m_styles;
     QAction* m_customInfo = nullptr;
-    QAction* m_savedCustomInfo = nullptr;
     QLabel* m_cameras;
     std::unique_ptr<CameraWindows> m_images;
 };

@@ -2,6 +2,7 @@
 
 #include "PlainState.h"
 #include "TextKey.h"
+#include "ZebTypes.h"
 
 #include <QStringList>
 
@@ -48,8 +49,9 @@ QString CustomInfo::put(const CustomItem& item) {
         m_items[place] = item;
         return {};
     }
-    if (m_items.size() >= MostItems) {
-        return QStringLiteral("there is no room for the item \"%1\", 64 are the most").arg(item.name);
+    if (m_items.size() >= zeb::MostCustomItems) {
+        return QStringLiteral("there is no room for the item \"%1\", %2 are the most")
+            .arg(item.name, QString::number(zeb::MostCustomItems));
     }
     m_items.append(item);
     return {};

@@ -26,11 +26,10 @@ public:
     bool operator==(const CustomItem& other) const;
 };
 
-/// The list of a camera or of a recording: names are unique and not empty, and there are at most `MostItems`.
+/// The list of a camera or of a recording: names are unique and not empty, and there are at most
+/// `zeb::MostCustomItems`.
 class CustomInfo {
 public:
-    static constexpr int MostItems = 64;
-
     bool operator!=(const CustomInfo& other) const { return !(m_items == other.m_items); }
     const QList<CustomItem>& items() const { return m_items; }
     QList<CustomItem> shown() const;

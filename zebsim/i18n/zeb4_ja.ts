@@ -1887,9 +1887,5 @@
         <source>Custom info...</source>
         <translation>カスタム情報...</translation>
     </message>
-    <message>
-        <source>Custom info of the save list...</source>
-        <translation>保存リストのカスタム情報...</translation>
-    </message>
 </context>
 </TS>
