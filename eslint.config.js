@@ -18,6 +18,8 @@ const definedBy = (...scripts) => readonly(scripts.reduce((names, script) => nam
 ), []));
 
 const hostScripts = 'zebsim/pages/scripts';
+// Joined into a page of the host, and into one of the plug-in.
+const bothPages = definedBy('documents/custominfo/items.js');
 const host = definedBy(...fs.readdirSync(hostScripts).map(name => path.join(hostScripts, name)));
 
 // The topics of a page are joined into one script at build time.
@@ -84,11 +86,11 @@ module.exports = [
         })
     },
     {
-        files: ['zebsim/pages/**/*.js'],
+        files: ['zebsim/pages/**/*.js', 'documents/**/*.js'],
         languageOptions: {
             ecmaVersion: 2015,
             sourceType: 'script',
-            globals: Object.assign({}, browser, host, readonly(['app', 'items', 'CustomInfoDialog']))
+            globals: Object.assign({}, browser, host, bothPages, readonly(['app', 'items', 'CustomInfoDialog']))
         },
         rules: pageRules
     },

@@ -54,7 +54,8 @@ const keys = zeb.page('wrentabledialog_const_obj.displaySettingsArray');
 same(keys.length, 20, 'display keys');
 [0, 1, 2, 3, 4, 5, 6].forEach(tab => {
     zeb.click(`#tabs > ul > li:nth-child(${tab + 1}) a`);
-    zeb.until(`wrentabledialog_obj.activeTab() === ${tab}`);
+    check(zeb.until(`wrentabledialog_obj.activeTab() === ${tab}`), `tab ${tab}`);
+    same(zeb.pref(zeb.page(`TABS[${tab}].orderKey`)), zeb.page(`TABS[${tab}].fields.join()`), 'the order of the factory');
     const whole = look();
     const wrong = [];
     keys.forEach(key => {

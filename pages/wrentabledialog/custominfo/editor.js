@@ -7,7 +7,7 @@ const customEditor = {
 
     // `text`: what is typed already, in place of the item's.
     open(place, text) {
-        const item = customList.grid.records[customList.indexOf(place.recid)];
+        const item = customList.item(place.recid);
         const cell = customList.cell(place.recid, place.column);
         const isSeen = cell && cell.offsetWidth > 0;
         if (!item || !isSeen || wrentabledialog_obj.gridLock || wrentabledialog.isFileMode()) {
@@ -63,7 +63,7 @@ const customEditor = {
         const text = this.input.value;
         const isChanged = text !== this.shown;
         this.close();
-        const item = customList.grid.records[customList.indexOf(recid)];
+        const item = customList.item(recid);
         const fault = isChanged && item ? faultOfText(field, text) : '';
         if (fault) {
             customList.drawCell(recid, column);

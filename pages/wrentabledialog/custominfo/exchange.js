@@ -1,4 +1,11 @@
 // The list of custom information on its way from and to files and cameras.
+
+// The items of a reply; null after a failure, which has been told.
+function itemsOf(reply) {
+    const items = parseReply(reply);
+    return Array.isArray(items) ? items : null;
+}
+
 Object.assign(wrentabledialog_obj, {
     initializeCustomInfoContainer() {
         customList.create(document.querySelector('.custom-data-list'));
@@ -25,7 +32,7 @@ Object.assign(wrentabledialog_obj, {
 
     // Throws with the first fault.
     validateCustomInfo() {
-        const { records } = customList.grid;
+        const records = customList.records();
         customList.items().forEach(item => {
             const fault = faultOfItem(item, records);
             if (fault) {
@@ -41,9 +48,9 @@ Object.assign(wrentabledialog_obj, {
             return;
         }
         const line = Math.min(...meant.map(item => customList.indexOf(item.recid)));
-        customList.setItems(customList.grid.records.filter(item => !meant.includes(item)));
+        customList.setItems(customList.records().filter(item => !meant.includes(item)));
         customList.keepBlankRow();
-        const { records } = customList.grid;
+        const records = customList.records();
         customList.choose([], { recid: records[Math.min(line, records.length - 1)].recid, column: 0 });
         customList.bringIntoView(customList.current.recid);
     },
@@ -102,7 +109,7 @@ Object.assign(wrentabledialog_obj, {
             if (items) {
                 this.showCustomInfo(items);
             }
-            if (customList.grid.records.length === 0) {
+            if (customList.records().length === 0) {
                 this.appendRecordEnd();
             }
         } catch (error) {

@@ -107,12 +107,12 @@ function openCustomMenu() {
 }
 
 function selectAllCustomItems() {
-    customList.choose(customList.grid.records.map(item => item.recid), customList.current);
+    customList.choose(customList.records().map(item => item.recid), customList.current);
 }
 
 // Rows and columns from the current cell; null for a key that does not move.
 function customStep(key) {
-    const end = customList.grid.records.length;
+    const end = customList.records().length;
     return {
         [KEY.UP]: [-1, 0],
         [KEY.DOWN]: [1, 0],
@@ -126,7 +126,7 @@ function customStep(key) {
 }
 
 function moveInCustomList([rows, columns], extend) {
-    const { records } = customList.grid;
+    const records = customList.records();
     const line = Math.max(0, Math.min(customList.indexOf(customList.current.recid) + rows, records.length - 1));
     const column = Math.max(0, Math.min(customList.current.column + columns, CUSTOM_COLUMNS.length - 1));
     const { recid } = records[line];
@@ -140,7 +140,7 @@ function moveInCustomList([rows, columns], extend) {
 
 function toggleCustomItem() {
     const { recid, column } = customList.current;
-    const item = customList.grid.records[customList.indexOf(recid)];
+    const item = customList.item(recid);
     item.display = !item.display;
     customList.drawCell(recid, column);
 }
@@ -183,7 +183,7 @@ function nextCustomCell(recid, column, step) {
 }
 
 function customCellBeside(recid, column, step) {
-    const item = customList.grid.records[customList.indexOf(recid) + step];
+    const item = customList.records()[customList.indexOf(recid) + step];
     return item ? { recid: item.recid, column } : null;
 }
 

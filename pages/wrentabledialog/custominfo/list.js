@@ -39,12 +39,12 @@ const customList = {
             dblClick: () => undefined,
             contextMenu: () => undefined
         });
-        this.keepEditing();
+        this.wrapRefresh();
         this.appendRecordEnd();
     },
 
     // A refresh throws the cells away, and loses the place to which the list was scrolled.
-    keepEditing() {
+    wrapRefresh() {
         const { grid } = this;
         const refresh = grid.refresh;
         grid.refresh = () => {
@@ -100,14 +100,22 @@ const customList = {
         };
     },
 
+    records() {
+        return this.grid.records;
+    },
+
     indexOf(recid) {
-        return this.grid.records.findIndex(item => item.recid === recid);
+        return this.records().findIndex(item => item.recid === recid);
+    },
+
+    item(recid) {
+        return this.records()[this.indexOf(recid)];
     },
 
     drawCell(recid, column) {
         const cell = this.cell(recid, column);
         if (cell) {
-            cell.innerHTML = this.cellMarkup(this.grid.records[this.indexOf(recid)], CUSTOM_COLUMNS[column]);
+            cell.innerHTML = this.cellMarkup(this.item(recid), CUSTOM_COLUMNS[column]);
         }
     },
 
@@ -139,7 +147,7 @@ const customList = {
 
     // The items that have been typed: all rows but a blank one at the end.
     items() {
-        const { records } = this.grid;
+        const records = this.records();
         return records.filter((item, index) => index < records.length - 1 || !isBlankItem(item));
     },
 
@@ -167,7 +175,7 @@ const customList = {
 
     // What is deleted: the selected rows or, where there are none, the current one.
     meant() {
-        const current = this.grid.records[this.indexOf(this.current.recid)];
+        const current = this.item(this.current.recid);
         const selected = this.selected();
         return selected.length > 0 || !current || isBlankItem(current) ? selected : [current];
     },

@@ -15,7 +15,7 @@ const customMenu = {
     },
 
     open(recid, x, y) {
-        const item = customList.grid.records[customList.indexOf(recid)];
+        const item = customList.item(recid);
         this.close();
         if (wrentabledialog_obj.gridLock || !item || isBlankItem(item)) {
             return;

@@ -154,7 +154,6 @@ Object.assign(wrentabledialog_obj, {
         }
     },
 
-    // The custom information grid is empty, so there is nothing to write.
     refreshActionArea() {
         if (wrentabledialog.isFileMode()) {
             return;

@@ -2,11 +2,6 @@
 
 // The lists of custom information of several cameras. What is done reaches all cameras that are chosen on the left; on
 // the right stands the list of one of them.
-const LONGEST_TEXT = 256;
-// eslint-disable-next-line max-len -- a key stands in one piece
-const WRONG_LENGTH = textKey('Input the Item name and the Value at range of 1-256 character.Input the Unit at range of 0-256 character.');
-const HAS_TAG = textKey('Tags cannot be registered.');
-const DOUBLED_NAME = textKey('Item name is duplicated. Please change to another item name.');
 
 // It marks the text for `lupdate`.
 function textKey(key) {
@@ -23,6 +18,7 @@ const custominfo = {
     items: [],
     selected: [], // names of items
     current: 0, // the row that the keyboard stands on
+    anchor: 0, // the row from which Shift selects
 
     initialize() {
         CustomInfoDialog.update.connect(() => this.logged(() => this.update()));
@@ -184,7 +180,7 @@ const custominfo = {
     choose(index, joins, extends_) {
         const { name } = this.items[index];
         if (extends_) {
-            const [first, last] = [Math.min(index, this.current), Math.max(index, this.current)];
+            const [first, last] = [Math.min(index, this.anchor), Math.max(index, this.anchor)];
             this.selected = this.items.slice(first, last + 1).map(item => item.name);
         } else if (joins) {
             const at = this.selected.indexOf(name);
@@ -193,6 +189,7 @@ const custominfo = {
             this.selected = [name];
         }
         this.current = index;
+        this.anchor = extends_ ? this.anchor : index;
         ['name', 'value', 'unit'].forEach(field => { byId(field).value = this.items[index][field]; });
         this.showSelection();
         document.querySelectorAll('#items tbody tr')[index].scrollIntoViewIfNeeded(false);
@@ -209,7 +206,8 @@ const custominfo = {
     },
 
     key(event) {
-        const step = { 38: -1, 40: 1, 33: -8, 34: 8, 36: -64, 35: 64 }[event.keyCode];
+        const all = this.items.length;
+        const step = { 38: -1, 40: 1, 33: -8, 34: 8, 36: -all, 35: all }[event.keyCode];
         const item = this.items[this.current];
         if (!item) {
             return;
@@ -243,15 +241,9 @@ const custominfo = {
     // Throws with the fault of what is typed; `own` is the name that the item has now.
     checked(own) {
         const item = this.typed();
-        const texts = [item.name, item.value, item.unit];
-        if (item.name === '' || item.value === '' || texts.some(text => text.length > LONGEST_TEXT)) {
-            throw new Error(WRONG_LENGTH);
-        }
-        if (texts.some(text => /<.*?>/.test(text))) {
-            throw new Error(HAS_TAG);
-        }
-        if (this.items.some(other => other.name === item.name && other.name !== own)) {
-            throw new Error(DOUBLED_NAME);
+        const fault = faultOfItem(item, this.items.filter(other => other.name !== own));
+        if (fault) {
+            throw new Error(fault);
         }
         return item;
     },

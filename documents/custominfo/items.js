@@ -1,4 +1,4 @@
-// Items of custom information as plain data, and what an item may be.
+// What an item of custom information may be, for every page in which one is typed.
 
 const CUSTOM_TEXTS = ['name', 'value', 'unit'];
 const MAX_CUSTOM_TEXT = 256;
@@ -19,7 +19,7 @@ function faultOfText(field, text) {
     return /<.*?>/.test(text) ? HAS_TAG : '';
 }
 
-// The first fault of an item among all of them; empty when there is none.
+// The first fault of an item among all of them, of which it may be one; empty when there is none.
 function faultOfItem(item, items) {
     const faults = CUSTOM_TEXTS.map(field => faultOfText(field, item[field]));
     if (faults.includes(WRONG_LENGTH)) {
@@ -29,10 +29,4 @@ function faultOfItem(item, items) {
         return HAS_TAG;
     }
     return items.some(other => other !== item && other.name === item.name) ? DOUBLED_NAME : '';
-}
-
-// The items of a reply; null after a failure, which has been told.
-function itemsOf(reply) {
-    const items = parseReply(reply);
-    return Array.isArray(items) ? items : null;
 }
