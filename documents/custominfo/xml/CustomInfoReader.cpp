@@ -70,8 +70,8 @@ public:
         QString reason;
         while (reason.isEmpty() && !m_xml.atEnd()) {
             m_xml.readNext();
-            m_feed.tokenEnds();
             reason = takeToken();
+            m_feed.tokenEnds();
         }
         if (reason.isEmpty() && m_items.items().isEmpty()) {
             reason = QStringLiteral("it holds no item");
