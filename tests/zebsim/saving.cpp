@@ -141,7 +141,7 @@ TEST_F(Saving, TellsInEachFileWhatItShows) {
         EXPECT_EQ(textIn(path("Gate _1__-00001." % saveFormat(format).suffix)), text) << format;
     }
     host.camera(1).change({{"triggerOffset", 60}, {"triggerOffsetEnabled", true}});
-    EXPECT_TRUE(orders().tracks[0].text(0).description.contains("\"frame\":39,\"time\":-0.001000"))
+    EXPECT_TRUE(orders().tracks[0].metadata(0).description.contains("\"frame\":39,\"time\":-0.001000"))
         << "from the trigger";
 }
 
@@ -483,7 +483,7 @@ TEST_F(SavingVideo, HoldsAllFramesForAnotherReader) {
     process.start(reader, {"-v", "error", "-show_entries", "format_tags=comment,items", "-of", "default=nk=1:nw=1",
                            path("Nozzle_2.mp4")});
     ASSERT_TRUE(process.waitForFinished());
-    const QByteArray description = wanted.tracks[1].textOfAll().description;
+    const QByteArray description = wanted.tracks[1].metadataOfAll().description;
     EXPECT_TRUE(description.contains("\"frame\":0,\"time\":0.000000,\"lastFrame\":2,\"lastTime\":0.002000"));
     EXPECT_EQ(process.readAllStandardOutput().trimmed(), description + "\n\xe5\x9c\xa7: a=b\nc");
 }

@@ -37,9 +37,10 @@ void openSettings(SimHost& host) {
     runDialog(host, dialog);
 }
 
-FileText textOf(const SimHost& host, const Camera& camera, const CameraFrame& frame) {
+FileMetadata metadataOf(const SimHost& host, const Camera& camera, const CameraFrame& frame) {
     const auto recording = host.isMemoryMode() ? camera.recording() : std::nullopt;
-    return FileText::of(recording ? FrameFacts::recorded(*recording, frame) : FrameFacts::live(camera.state(), frame));
+    return FileMetadata::of(recording ? FrameMetadata::recorded(*recording, frame)
+                                      : FrameMetadata::live(camera.state(), frame));
 }
 
 void writeFile(SimHost& host, const CameraFrame& frame, const QImage& image) {
@@ -48,7 +49,7 @@ void writeFile(SimHost& host, const CameraFrame& frame, const QImage& image) {
     const SaveFormat& format = saveFormat(host.prefs().value(Topic % QStringLiteral("/format")).toString());
     try {
         writeSnapShot(folder, camera ? camera->name() : QString(), QDateTime::currentDateTime(), format, image,
-                      camera ? textOf(host, *camera, frame) : FileText());
+                      camera ? metadataOf(host, *camera, frame) : FileMetadata());
     } catch (const FileError& e) {
         host.messages().tell(Message::Alert,
                              uiText("%1 can't be written: %2")

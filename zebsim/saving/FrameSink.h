@@ -1,6 +1,6 @@
 #pragma once
 
-#include "FileText.h"
+#include "FileMetadata.h"
 
 #include <QImage>
 #include <QString>
@@ -10,8 +10,8 @@ struct SavedFrame {
     QImage picture;
     /// A file name's text for it.
     QString number;
-    /// Of a video, it is nobody's: that has one text for all frames.
-    FileText text;
+    /// Empty for a video, which has one text for all frames.
+    FileMetadata metadata;
 };
 
 /// Where the frames of a camera go: a file each, or one file. What is not complete when it is destroyed is removed.

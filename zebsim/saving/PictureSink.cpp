@@ -30,7 +30,7 @@ bool PictureSink::write(SavedFrame frame) {
         return false;
     }
     try {
-        writeWhole(file, m_format.encoded(std::move(frame.picture), frame.text));
+        writeWhole(file, m_format.encoded(std::move(frame.picture), frame.metadata));
     } catch (...) {
         m_claims.release();
         throw;

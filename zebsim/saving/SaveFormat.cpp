@@ -25,22 +25,22 @@ QByteArray written(const QImage& picture, const QByteArray& format) {
 
 }  // namespace
 
-QByteArray SaveFormat::encoded(QImage picture, const FileText& text) const {
+QByteArray SaveFormat::encoded(QImage picture, const FileMetadata& metadata) const {
     if (writer == "tiff") {
-        return tiffOf(picture, text.description);
+        return tiffOf(picture, metadata.description);
     }
-    picture.setText(QStringLiteral("Description"), QString::fromLatin1(text.description));
+    picture.setText(QStringLiteral("Description"), QString::fromLatin1(metadata.description));
     // Of several texts in a JPEG file most readers see the last one only.
     if (writer == "png") {
-        for (const auto& [name, value] : text.parts) {
+        for (const auto& [name, value] : metadata.tags) {
             picture.setText(name, value);
         }
     }
     return written(picture, writer);
 }
 
-qint64 SaveFormat::expectedSize(const QImage& picture, const FileText& text) const {
-    return isVideo() ? written(picture, "jpeg").size() / FramesInSizeOfOne : encoded(picture, text).size();
+qint64 SaveFormat::expectedSize(const QImage& picture, const FileMetadata& metadata) const {
+    return isVideo() ? written(picture, "jpeg").size() / FramesInSizeOfOne : encoded(picture, metadata).size();
 }
 
 const QList<SaveFormat>& saveFormats() {

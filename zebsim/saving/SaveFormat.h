@@ -1,6 +1,6 @@
 #pragma once
 
-#include "FileText.h"
+#include "FileMetadata.h"
 
 #include <QByteArray>
 #include <QImage>
@@ -16,10 +16,10 @@ struct SaveFormat {
     QByteArray writer;
 
     bool isVideo() const { return writer.isEmpty(); }
-    /// A picture with its text as such a file holds them; empty when it can't be written.
-    QByteArray encoded(QImage picture, const FileText& text) const;
-    /// Bytes that a frame takes with a picture and a text like these; of a video, on average.
-    qint64 expectedSize(const QImage& picture, const FileText& text) const;
+    /// The file of a picture with its metadata; empty when it can't be written.
+    QByteArray encoded(QImage picture, const FileMetadata& metadata) const;
+    /// Bytes that a frame takes with a picture and metadata like these; of a video, on average.
+    qint64 expectedSize(const QImage& picture, const FileMetadata& metadata) const;
 };
 
 /// PNG, TIFF, JPEG, video.

@@ -56,7 +56,7 @@ std::optional<SaveRefusal> SaveJob::start() {
 qint64 SaveJob::bytesNeeded() const {
     const SaveTrack& first = m_orders.tracks.front();
     const double bytesInPixel =
-        double(m_orders.format.expectedSize(first.picture(0), first.text(0))) / pixelsOf(first.size());
+        double(m_orders.format.expectedSize(first.picture(0), first.metadata(0))) / pixelsOf(first.size());
     double pixels = 0;
     for (const SaveTrack& track : m_orders.tracks) {
         pixels += double(track.frames()) * pixelsOf(track.size());
@@ -112,7 +112,7 @@ void SaveJob::beginTrack() {
     const QString stem = QDir(m_orders.folder).filePath(track().fileName);
     if (m_orders.format.isVideo()) {
         const QString file = stem % QLatin1Char('.') % m_orders.format.suffix;
-        m_sink = std::make_unique<VideoSink>(m_claims, m_orders.encoder, file, track().textOfAll());
+        m_sink = std::make_unique<VideoSink>(m_claims, m_orders.encoder, file, track().metadataOfAll());
     } else {
         m_sink = std::make_unique<PictureSink>(m_claims, m_orders.format, stem);
     }
@@ -125,8 +125,8 @@ void SaveJob::saveFrame() {
     }
     const int index = m_outcome.saved;
     const qint64 number = track().number(index);
-    const FileText text = m_orders.format.isVideo() ? FileText() : track().text(index, m_lost);
-    if (!m_sink->write({track().picture(index, m_lost), frameNumberText(number), text})) {
+    const FileMetadata metadata = m_orders.format.isVideo() ? FileMetadata() : track().metadata(index, m_lost);
+    if (!m_sink->write({track().picture(index, m_lost), frameNumberText(number), metadata})) {
         endKept();
         return;
     }

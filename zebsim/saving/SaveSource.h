@@ -2,7 +2,7 @@
 
 #include "CameraFrame.h"
 #include "CameraState.h"
-#include "FileText.h"
+#include "FrameMetadata.h"
 #include "Recording.h"
 
 #include <memory>
@@ -28,7 +28,7 @@ public:
     int frames() const { return static_cast<int>(m_recording.selectedCount()); }
     /// What the range's frame number `index`, from 0 on, shows.
     CameraFrame frame(int index) const;
-    FrameFacts facts(int index) const { return FrameFacts::recorded(m_recording, frame(index)); }
+    FrameMetadata metadata(int index) const { return FrameMetadata::recorded(m_recording, frame(index)); }
     /// Has the camera hand that frame over. Throws `CameraError` when it is not there any more, does not answer, or has
     /// lost the recording.
     void read(const CameraBank& cameras, int index) const;

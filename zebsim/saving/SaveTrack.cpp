@@ -66,27 +66,27 @@ QImage SaveTrack::picture(int index, const QSet<DOCKEY>& lost) const {
     return picture;
 }
 
-FileText SaveTrack::text(int index, const QSet<DOCKEY>& lost) const {
+FileMetadata SaveTrack::metadata(int index, const QSet<DOCKEY>& lost) const {
     if (!isLayout) {
-        return FileText::of(sources.front().facts(index));
+        return FileMetadata::of(sources.front().metadata(index));
     }
-    QList<FrameFacts> cameras;
+    QList<FrameMetadata> cameras;
     for (const SaveSource& source : sources) {
         if (!lost.contains(source.key())) {
-            cameras.append(source.facts(std::min(index, source.frames() - 1)));
+            cameras.append(source.metadata(std::min(index, source.frames() - 1)));
         }
     }
-    return FileText::ofLayout(cameras);
+    return FileMetadata::ofLayout(cameras);
 }
 
-FileText SaveTrack::textOfAll() const {
-    QList<FrameFacts> cameras;
+FileMetadata SaveTrack::metadataOfAll() const {
+    QList<FrameMetadata> cameras;
     for (const SaveSource& source : sources) {
-        FrameFacts facts = source.facts(0);
-        facts.last = source.facts(source.frames() - 1).first;
-        cameras.append(facts);
+        FrameMetadata metadata = source.metadata(0);
+        metadata.last = source.metadata(source.frames() - 1).first;
+        cameras.append(metadata);
     }
-    return isLayout ? FileText::ofLayout(cameras) : FileText::of(cameras.first());
+    return isLayout ? FileMetadata::ofLayout(cameras) : FileMetadata::of(cameras.first());
 }
 
 std::vector<SaveTrack> tracksOfEach(const SaveSources& sources) {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "FileText.h"
+#include "FileMetadata.h"
 #include "SaveSource.h"
 
 #include <QImage>
@@ -22,9 +22,9 @@ struct SaveTrack {
     QSize size() const;
     /// A camera whose range is over keeps its last frame; one of `lost` shows nothing.
     QImage picture(int index, const QSet<DOCKEY>& lost = {}) const;
-    /// What is to be told of that picture, and of all in one.
-    FileText text(int index, const QSet<DOCKEY>& lost = {}) const;
-    FileText textOfAll() const;
+    /// Of a file with that picture, and of one with all of them.
+    FileMetadata metadata(int index, const QSet<DOCKEY>& lost = {}) const;
+    FileMetadata metadataOfAll() const;
 };
 
 /// A track for each camera.

@@ -9,7 +9,7 @@
 #include <QDir>
 
 void writeSnapShot(const QString& folder, const QString& camera, const QDateTime& time, const SaveFormat& format,
-                   const QImage& image, const FileText& text) {
+                   const QImage& image, const FileMetadata& metadata) {
     const QDir target(folder);
     if (!target.mkpath(QStringLiteral("."))) {
         throw FileError(folder, TextKey("there can't be such a folder"));
@@ -18,7 +18,7 @@ void writeSnapShot(const QString& folder, const QString& camera, const QDateTime
     const QString name = fileNameOf(camera) % time.toString(QStringLiteral("'_'yyyyMMdd-HHmmss"));
     PictureSink sink(claims, format, target.filePath(name));
     int number = 1;
-    while (!sink.write({image, QStringLiteral("%1").arg(number, 3, 10, QLatin1Char('0')), text})) {
+    while (!sink.write({image, QStringLiteral("%1").arg(number, 3, 10, QLatin1Char('0')), metadata})) {
         ++number;
     }
 }

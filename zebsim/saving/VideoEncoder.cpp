@@ -1,6 +1,6 @@
 #include "VideoEncoder.h"
 
-#include "FileText.h"
+#include "FileMetadata.h"
 
 #include <QProcess>
 #include <QRegularExpression>
@@ -14,7 +14,7 @@ const QString ShownRate = QStringLiteral("30");
 
 }  // namespace
 
-QStringList VideoEncoder::arguments(const QSize& size, const QString& file, const FileText& text) const {
+QStringList VideoEncoder::arguments(const QSize& size, const QString& file, const FileMetadata& metadata) const {
     const QString sides = QStringLiteral("%1x%2").arg(size.width()).arg(size.height());
     QStringList arguments = {
         "-hide_banner", "-loglevel", "error", "-y",
@@ -23,8 +23,8 @@ QStringList VideoEncoder::arguments(const QSize& size, const QString& file, cons
         // Colours are stored for two by two pixels, so sides must be even.
         "-vf", "pad=ceil(iw/2)*2:ceil(ih/2)*2", "-pix_fmt", "yuv420p", "-c:v", encoder, "-q:v", "3", "-f", "mp4",
         // Names that the format does not know are kept too.
-        "-movflags", "use_metadata_tags", "-metadata", "comment=" % QLatin1String(text.description)};
-    for (const auto& [name, value] : text.parts) {
+        "-movflags", "use_metadata_tags", "-metadata", "comment=" % QLatin1String(metadata.description)};
+    for (const auto& [name, value] : metadata.tags) {
         arguments << QStringLiteral("-metadata") << name % QLatin1Char('=') % value;
     }
     // A name is not to be taken for an address.

@@ -4,7 +4,7 @@
 #include <QString>
 #include <QStringList>
 
-struct FileText;
+struct FileMetadata;
 
 /// The program that makes videos, and which of its encoders.
 struct VideoEncoder {
@@ -14,8 +14,9 @@ struct VideoEncoder {
     QString encoder;
 
     bool isUsable() const { return !encoder.isEmpty(); }
-    /// Arguments that make the video `file` with its text of bare frames, 32 bits a pixel, from the standard input.
-    QStringList arguments(const QSize& size, const QString& file, const FileText& text) const;
+    /// Arguments that make the video `file`, with its metadata, of bare frames, 32 bits a pixel, from the standard
+    /// input.
+    QStringList arguments(const QSize& size, const QString& file, const FileMetadata& metadata) const;
 
     /// Asks the program of that path for its encoders. Takes a moment.
     static VideoEncoder of(const QString& program);

@@ -15,11 +15,11 @@ constexpr qint64 MostWaiting = 4;
 
 }  // namespace
 
-VideoSink::VideoSink(FileClaims& claims, VideoEncoder encoder, QString file, FileText text)
+VideoSink::VideoSink(FileClaims& claims, VideoEncoder encoder, QString file, FileMetadata metadata)
     : m_claims(claims),
       m_encoder(std::move(encoder)),
       m_file(std::move(file)),
-      m_text(std::move(text)),
+      m_metadata(std::move(metadata)),
       m_growing(QFileInfo(m_file).path() % QStringLiteral("/.zebsim-XXXXXX.mp4")) {}
 
 VideoSink::~VideoSink() {
@@ -39,7 +39,7 @@ bool VideoSink::begin(const QSize& size) {
     m_growing.close();
     m_process.setStandardOutputFile(QProcess::nullDevice());
     m_process.setReadChannel(QProcess::StandardError);
-    m_process.start(m_encoder.program, m_encoder.arguments(size, m_growing.fileName(), m_text));
+    m_process.start(m_encoder.program, m_encoder.arguments(size, m_growing.fileName(), m_metadata));
     m_begun = true;
     return true;
 }

@@ -12,9 +12,9 @@ class FileClaims;
 /// own.
 class VideoSink : public FrameSink {
 public:
-    /// The user is asked about `file` with the first frame, and it is made with the last, with `text` for all of them.
-    /// `claims` must outlive the sink.
-    VideoSink(FileClaims& claims, VideoEncoder encoder, QString file, FileText text);
+    /// The user is asked about `file` with the first frame, and it is made with the last, with `metadata` of all of
+    /// them. `claims` must outlive the sink.
+    VideoSink(FileClaims& claims, VideoEncoder encoder, QString file, FileMetadata metadata);
     ~VideoSink() override;
 
     bool write(SavedFrame frame) override;
@@ -29,7 +29,7 @@ private:
     FileClaims& m_claims;
     const VideoEncoder m_encoder;
     const QString m_file;
-    const FileText m_text;
+    const FileMetadata m_metadata;
     QTemporaryFile m_growing;
     QProcess m_process;
     qint64 m_frameSize = 0;

@@ -1,14 +1,11 @@
-#include "FileText.h"
-
-#include "CameraState.h"
-#include "Recording.h"
+#include "FileMetadata.h"
 
 #include <algorithm>
 #include <functional>
 
 namespace {
 
-using Parts = QList<QPair<QString, QString>>;
+using Tags = QList<QPair<QString, QString>>;
 
 /// Of a camera's name; nobody needs more.
 constexpr int MostLetters = 1000;
@@ -57,31 +54,31 @@ QByteArray itemText(const CustomItem& item) {
            '}';
 }
 
-void addMoment(Parts& parts, const FrameMoment& moment, const char* frame, const char* time) {
-    parts.append({QLatin1String(frame), QString::number(moment.number)});
-    if (moment.time) {
-        parts.append({QLatin1String(time), secondsText(*moment.time)});
+void addTimestamp(Tags& tags, const FrameTimestamp& timestamp, const char* number, const char* time) {
+    tags.append({QLatin1String(number), QString::number(timestamp.number)});
+    if (timestamp.time) {
+        tags.append({QLatin1String(time), secondsText(*timestamp.time)});
     }
 }
 
 /// All that are numbers.
-Parts numbersOf(const FrameFacts& facts) {
-    Parts parts = {{QStringLiteral("rate"), QString::number(facts.rate)},
-                   {QStringLiteral("shutter"), QString::number(facts.shutter)}};
-    addMoment(parts, facts.first, "frame", "time");
-    if (facts.last) {
-        addMoment(parts, *facts.last, "lastFrame", "lastTime");
+Tags numbersOf(const FrameMetadata& frame) {
+    Tags tags = {{QStringLiteral("rate"), QString::number(frame.rate)},
+                 {QStringLiteral("shutter"), QString::number(frame.shutter)}};
+    addTimestamp(tags, frame.first, "frame", "time");
+    if (frame.last) {
+        addTimestamp(tags, *frame.last, "lastFrame", "lastTime");
     }
-    return parts;
+    return tags;
 }
 
-QByteArray objectOf(const FrameFacts& facts, int room) {
-    QByteArray object = "{\"camera\":" + quoted(facts.camera.left(MostLetters));
-    const Parts numbers = numbersOf(facts);
+QByteArray objectOf(const FrameMetadata& frame, int room) {
+    QByteArray object = "{\"camera\":" + quoted(frame.camera.left(MostLetters));
+    const Tags numbers = numbersOf(frame);
     for (const auto& [name, number] : numbers) {
         object += ",\"" + name.toLatin1() + "\":" + number.toLatin1();
     }
-    const QList<CustomItem> items = facts.info.shown();
+    const QList<CustomItem> items = frame.info.shown();
     object += ",\"items\":";
     return object +
            listOf(
@@ -91,25 +88,15 @@ QByteArray objectOf(const FrameFacts& facts, int room) {
 
 }  // namespace
 
-FrameFacts FrameFacts::live(const CameraState& state, const CameraFrame& frame) {
-    return {frame.camera, state.rate, state.shutter, {frame.number, {}}, {}, state.customInfo};
+FileMetadata FileMetadata::of(const FrameMetadata& frame) {
+    FileMetadata metadata{objectOf(frame, MostBytes), numbersOf(frame)};
+    metadata.tags.prepend({QStringLiteral("camera"), frame.camera.left(MostLetters)});
+    metadata.tags.append(
+        {QStringLiteral("items"), frame.info.shownTexts().join(QLatin1Char('\n')).left(MostBytes / LetterBytes)});
+    return metadata;
 }
 
-FrameFacts FrameFacts::recorded(const Recording& recording, const CameraFrame& frame) {
-    const qint64 fromTrigger = frame.number + recording.zero - recording.trigger;
-    const qint64 time = recording.rate > 0 ? fromTrigger * 1000000 / recording.rate : 0;
-    return {frame.camera, recording.rate, recording.shutter, {frame.number, time}, {}, recording.customInfo};
-}
-
-FileText FileText::of(const FrameFacts& facts) {
-    FileText text{objectOf(facts, MostBytes), numbersOf(facts)};
-    text.parts.prepend({QStringLiteral("camera"), facts.camera.left(MostLetters)});
-    text.parts.append(
-        {QStringLiteral("items"), facts.info.shownTexts().join(QLatin1Char('\n')).left(MostBytes / LetterBytes)});
-    return text;
-}
-
-FileText FileText::ofLayout(const QList<FrameFacts>& cameras) {
+FileMetadata FileMetadata::ofLayout(const QList<FrameMetadata>& cameras) {
     const int room = MostBytes / std::max(1, cameras.size());
     const auto text = [&](int i) { return objectOf(cameras.at(i), room); };
     return {"{\"cameras\":" + listOf(cameras.size(), text, MostBytes, "camerasLeftOut") + '}', {}};

@@ -1,4 +1,4 @@
-#include "FileText.h"
+#include "FileMetadata.h"
 #include "ZebTypes.h"
 
 #include <QJsonArray>
@@ -9,33 +9,34 @@
 
 namespace {
 
-QJsonObject read(const FileText& text) {
-    EXPECT_LE(text.description.size(), FileText::MostBytes);
-    return QJsonDocument::fromJson(text.description).object();
+QJsonObject read(const FileMetadata& metadata) {
+    EXPECT_LE(metadata.description.size(), FileMetadata::MostBytes);
+    return QJsonDocument::fromJson(metadata.description).object();
 }
 
-FrameFacts factsOf(int items, const QString& text) {
-    FrameFacts facts{text, 1000, 2000, {-512, -512000}, {}, {}};
+FrameMetadata frameOf(int items, const QString& text) {
+    FrameMetadata frame{text, 1000, 2000, {-512, -512000}, {}, {}};
     for (int i = 0; i < items; ++i) {
-        EXPECT_EQ(facts.info.put({QString::number(i) % text, text, text, true, false}), "");
+        EXPECT_EQ(frame.info.put({QString::number(i) % text, text, text, true, false}), "");
     }
-    return facts;
+    return frame;
 }
 
-TEST(FileText, CountsWhatThereIsNoRoomFor) {
+TEST(FileMetadata, CountsWhatThereIsNoRoomFor) {
     for (const int letters : {1, 80, 81, 82, 256, 20000}) {
-        const QJsonObject camera = read(FileText::of(factsOf(zeb::MostCustomItems, QString(letters, QChar(0x5727)))));
+        const QJsonObject camera =
+            read(FileMetadata::of(frameOf(zeb::MostCustomItems, QString(letters, QChar(0x5727)))));
         const int items = camera["items"].toArray().size();
         EXPECT_EQ(items + camera["itemsLeftOut"].toInt(), zeb::MostCustomItems) << letters;
         EXPECT_EQ(items > 0, letters < 20000);
         EXPECT_EQ(camera["time"].toDouble(), -0.512);
     }
     for (const int cameras : {1, 64, 1024}) {
-        QList<FrameFacts> all;
+        QList<FrameMetadata> all;
         for (int i = 0; i < cameras; ++i) {
-            all.append(factsOf(zeb::MostCustomItems, "Gate"));
+            all.append(frameOf(zeb::MostCustomItems, "Gate"));
         }
-        const QJsonObject layout = read(FileText::ofLayout(all));
+        const QJsonObject layout = read(FileMetadata::ofLayout(all));
         EXPECT_EQ(layout["cameras"].toArray().size() + layout["camerasLeftOut"].toInt(), cameras);
         EXPECT_EQ(layout["cameras"].toArray().last()["items"].toArray().size() == zeb::MostCustomItems, cameras == 1);
     }
