@@ -20,12 +20,6 @@ function hostKeysAreLetters() {
     return focus;
 }
 
-// No window manager gives the table the keyboard back.
-function key(name) {
-    zeb.type('');
-    zeb.key(name);
-}
-
 function same(value, expected, text) {
     const shown = JSON.stringify(value);
     check(shown === JSON.stringify(expected), `${text}: ${shown}`);
@@ -48,8 +42,8 @@ function typeFrom(recid, text) {
 
 function clearList() {
     zeb.click(cell(P("w2ui['wren-custom-data-list'].records[0].recid"), 0));
-    key('Ctrl+A');
-    key('Delete');
+    zeb.key('Ctrl+A');
+    zeb.key('Delete');
     same(told(), ['Delete. Is it OK?'], 'the list is deleted after a question');
     same(rows(), [[0, '']], 'and begins anew');
 }
@@ -135,7 +129,7 @@ const REFUSED = [
 ];
 REFUSED.forEach(([field, column, text, message]) => {
     zeb.click(cell(1, column), {double: true});
-    key('Ctrl+A');
+    zeb.key('Ctrl+A');
     if (text === '') {
         zeb.type('\b');
     } else if (text.length > 50) {
@@ -162,19 +156,19 @@ const hostile = texts(datas());
     zeb.type('\x1b');
     zeb.click(cell(1, column), {double: true});
     zeb.type('q');
-    key('Delete');
+    zeb.key('Delete');
     zeb.type('\x1b');
 });
 same([texts(datas()), told()], [hostile, []], 'looked into and left');
 P("document.querySelector('.edit-buttons .read').focus()");
-key('Delete');
+zeb.key('Delete');
 same(told(), [], 'Delete is nothing outside the list');
 zeb.click(cell(2, 0), {right: true});
 same(P("document.getElementById('wren_custom_menu')"), null, 'no menu on a blank row');
 zeb.click(cell(1, 0));
-key('Shift+F10');
+zeb.key('Shift+F10');
 zeb.answer('cancel');
-key('Return');
+zeb.key('Return');
 same([told(), texts(datas())], [['Delete. Is it OK?'], hostile], 'a no deletes nothing');
 
 // The rows that were meant, by keys and by the mouse; a tick that ends an edit is one too.
@@ -183,9 +177,9 @@ typeFrom(0, 'a\t1\t\tb\t2\t\tc\t3\t\td');
 zeb.click(cell(1, 3) + ' input');
 same(texts(datas()).map(item => item[0] + item[3]), ['atrue', 'bfalse', 'ctrue', 'dtrue'], 'a tick after a name');
 zeb.click(cell(0, 0));
-['Shift+Down', 'Shift+End', 'Shift+Up', 'Shift+Up', 'Delete'].forEach(key);
+['Shift+Down', 'Shift+End', 'Shift+Up', 'Shift+Up', 'Delete'].forEach(name => zeb.key(name));
 same([told(), rows().map(row => row[1])], [['Delete. Is it OK?'], ['d', '']], 'a range shrinks too');
-key('Delete');
+zeb.key('Delete');
 same([told(), rows().map(row => row[1])], [['Delete. Is it OK?'], ['']], 'the current row');
 zeb.setCamera(8, {customInfo: [OTHER]});
 zeb.click('.edit-buttons .loadCamera');
@@ -206,7 +200,7 @@ const ENDS = {
 };
 Object.keys(ENDS).forEach((what, index) => {
     zeb.click(cell(1, 1), {double: true});
-    key('Ctrl+A');
+    zeb.key('Ctrl+A');
     zeb.type('value ' + index);
     same(hostKeysAreLetters(), true, what);
     ENDS[what][0]();
@@ -237,4 +231,33 @@ zeb.writeFile(within('many.xml'), zeb.readFile(within('many.xml')).replace('<cus
 zeb.file(within('many.xml'));
 zeb.click('.edit-buttons .read');
 same([rows().length, datas()[0].name, datas()[63].name], [64, 'first', 'n62'], 'of 65 in a file the first 64');
+
+// The viewer's dialog: what is done reaches both cameras, and OK keeps it.
+const items = number => zeb.camera(number).customInfo.map(item => `${item.name} ${item.value}${item.display ? '+' : ''}`);
+[1, 2].forEach(number => zeb.setCamera(number, {customInfo: [OTHER]}));
+P('wrentabledialog.updateUI()');
+zeb.modal(() => {
+    zeb.dialog("document.getElementById('cameras').focus()");
+    zeb.key('Ctrl+A');
+    zeb.dialog("document.getElementById('name').focus()");
+    zeb.type('New\t5\tmm\n');
+    zeb.key('Ctrl+A');
+    zeb.type('Old\t2\n');
+    same([items(1), items(2)], [['Old 2+', 'New 5+'], ['Old 2+', 'New 5+']], 'added and changed by Enter');
+    zeb.click('#items tbody tr:first-child td:nth-child(2)');
+    zeb.click('#items tbody tr:last-child input');
+    same(items(2), ['Old 2+', 'New 5'], 'a tick');
+    zeb.click('#items tbody tr:last-child td:nth-child(2)');
+    zeb.click('#name', {double: true});
+    zeb.type('Third');
+    zeb.click('#edit');
+    zeb.type('Fourth\n');
+    same(items(2), ['Old 2+', 'Third 5', 'Fourth 5+'], 'a new name, and one more');
+    zeb.click('#items tbody tr:first-child td:nth-child(2)');
+    ['Shift+Down', 'Shift+Down', 'Delete'].forEach(name => zeb.key(name));
+    same([items(1), told()], [[], ['Delete. Is it OK?']], 'a range is deleted');
+    zeb.click('#ok');
+});
+zeb.menu('Camera > Custom info...');
+same([items(1), items(2)], [[], []], 'OK');
 same(told(), [], 'boxes');

@@ -25,6 +25,7 @@ const custominfo = {
         zeb4func.disableDefaultShortcut();
         zeb4func.localize(CustomInfoDialog);
         byId('cameras').addEventListener('change', () => this.guarded(() => this.chooseCameras()));
+        byId('cameras').addEventListener('keydown', event => this.cameraKey(event));
         byId('items').addEventListener('mousedown', event => this.press(event));
         byId('items').addEventListener('change', event => this.guarded(() => this.switchItem(event.target)));
         byId('items').addEventListener('keydown', event => this.key(event));
@@ -59,7 +60,6 @@ const custominfo = {
         }
     },
 
-    // Anything can be thrown, null too.
     textOf(error) {
         return error && error.message ? error.message : String(error);
     },
@@ -104,6 +104,15 @@ const custominfo = {
 
     chosenRecords() {
         return this.records.filter((record, index) => byId('cameras').options[index].selected);
+    },
+
+    // The engine's own list does not know it.
+    cameraKey(event) {
+        if (event.ctrlKey && event.keyCode === 65) {
+            event.preventDefault();
+            Array.from(byId('cameras').options).forEach(option => { option.selected = true; });
+            this.guarded(() => this.chooseCameras());
+        }
     },
 
     targets() {
