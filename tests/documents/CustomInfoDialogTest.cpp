@@ -58,13 +58,6 @@ TEST_F(CustomInfoDialog, TellsOfTheSelectedCamerasOrOfTheSaveList) {
     EXPECT_EQ(bridge(true).getDeviceInfo(), R"({"InitSelect":{"dockey":3,"name":"Camera 3","recid":1},"Records":[)"
                                             R"({"dockey":3,"name":"Camera 3","recid":1},)"
                                             R"({"dockey":2,"name":"Camera 2","recid":2}]})");
-    selected.setSelectedDeviceItems({2});
-    EXPECT_EQ(selected.getCurrentDeviceRecord(), 2);
-    selected.setSelectedDeviceItems({1, 2});
-    EXPECT_EQ(selected.getCurrentDeviceRecord(), 2);
-    selected.setSelectedDeviceItems({});
-    EXPECT_EQ(selected.getCurrentDeviceRecord(), 0);
-    EXPECT_EQ(selected.getCallbackType(), 17);
 }
 
 TEST_F(CustomInfoDialog, ChangesItsTargetsAndPutsThemBack) {

@@ -83,22 +83,7 @@ TEST_F(CustomInformationTest, ReplacesListsUpToACameraThatRefuses) {
     EXPECT_EQ(desk.texts(), QStringList());
 }
 
-TEST_F(CustomInformationTest, GoesThroughAFile) {
-    chooseFile(path);
-    bridge->saveCustomSettingsXml(own);
-    EXPECT_TRUE(contentOf(path).contains("<display>true</display>\n      <usefilename>true</usefilename>"));
-    EXPECT_EQ(host.getPrefString("xml/dir"), folder.path());
-    chooseFile(path);
-    expectJson(bridge->loadCustomSettingsXml(), own);
-    chooseFile(path);
-    bridge->saveCustomSettingsXml(manyItems(70));
-    write(path, contentOf(path).replace("  </customItems>", "<customItem><name>65</name></customItem></customItems>"));
-    chooseFile(path);
-    expectJson(bridge->loadCustomSettingsXml(), [this] {
-        bridge->setCustomSettings({1}, manyItems(64));
-        return bridge->getCustomSettings(1);
-    }());
-
+TEST_F(CustomInformationTest, TellsOfAFileThatIsNone) {
     chooseFile({});
     EXPECT_EQ(bridge->loadCustomSettingsXml(), "[]");
     bridge->saveCustomSettingsXml("no list");
