@@ -1,6 +1,7 @@
 #include "FileMetadata.h"
 #include "ZebTypes.h"
 
+#include <QHash>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -24,12 +25,19 @@ FrameMetadata frameOf(int items, const QString& text) {
 
 TEST(FileMetadata, CountsWhatThereIsNoRoomFor) {
     for (const int letters : {1, 80, 81, 82, 256, 20000}) {
-        const QJsonObject camera =
-            read(FileMetadata::of(frameOf(zeb::MostCustomItems, QString(letters, QChar(0x5727)))));
+        const FrameMetadata frame = frameOf(zeb::MostCustomItems, QString(letters, QChar(0x5727)));
+        const FileMetadata metadata = FileMetadata::of(frame);
+        const QJsonObject camera = read(metadata);
         const int items = camera["items"].toArray().size();
         EXPECT_EQ(items + camera["itemsLeftOut"].toInt(), zeb::MostCustomItems) << letters;
         EXPECT_EQ(items > 0, letters < 20000);
         EXPECT_EQ(camera["time"].toDouble(), -0.512);
+        QHash<QString, QString> tags;
+        for (const auto& [name, value] : metadata.tags) {
+            tags[name] = value;
+        }
+        EXPECT_EQ(tags["items"].split('\n', Qt::SkipEmptyParts), frame.info.shownTexts().mid(0, items)) << letters;
+        EXPECT_EQ(tags["itemsLeftOut"].toInt(), camera["itemsLeftOut"].toInt());
     }
     for (const int cameras : {1, 64, 1024}) {
         QList<FrameMetadata> all;

@@ -129,17 +129,20 @@ TEST_F(Saving, TellsInEachFileWhatItShows) {
         return QVariantMap{{"name", name}, {"value", value}, {"unit", "bar"}, {"display", display}};
     };
     const QString hostile = QString::fromUtf8("<b>\"\\  é\n\xf0\x9f\x93\xb7");
-    host.camera(1).change({{"shutter", 500}, {"recordedShutter", 8000}, {"rate", 60}, {"name", "Gate \"1\""}});
+    const QString name = QString::fromUtf8("圧力 \"1\"");
+    const QString stem = path(QString::fromUtf8("圧力 _1__-00001."));
+    host.camera(1).change({{"shutter", 500}, {"recordedShutter", 8000}, {"rate", 60}, {"name", name}});
     host.camera(1).change({{"customInfo", QVariantList{item("next", "1", true)}}});
     host.camera(1).change({{"recordedCustomInfo", QVariantList{item("hidden", "1", false), item("p", hostile, true)}}});
     const QString text =
-        "{\"camera\":\"Gate "
+        "{\"camera\":\"\\u5727\\u529b "
         "\\\"1\\\"\",\"rate\":1000,\"shutter\":8000,\"frame\":-1,\"time\":-0.001000,\"items\":[{\"name\":"
         "\"p\",\"value\":\"<b>\\\"\\\\  \\u00e9\\u000a\\ud83d\\udcf7\",\"unit\":\"bar\"}]}";
     for (const char* format : {"png", "tiff", "jpeg"}) {
         run(orders(format));
-        EXPECT_EQ(textIn(path("Gate _1__-00001." % saveFormat(format).suffix)), text) << format;
+        EXPECT_EQ(textIn(stem % saveFormat(format).suffix), text) << format;
     }
+    EXPECT_EQ(QImage(stem % "png").text("camera"), name);
     host.camera(1).change({{"triggerOffset", 60}, {"triggerOffsetEnabled", true}});
     EXPECT_TRUE(orders().tracks[0].metadata(0).description.contains("\"frame\":39,\"time\":-0.001000"))
         << "from the trigger";
@@ -485,7 +488,7 @@ TEST_F(SavingVideo, HoldsAllFramesForAnotherReader) {
     ASSERT_TRUE(process.waitForFinished());
     const QByteArray description = wanted.tracks[1].metadataOfAll().description;
     EXPECT_TRUE(description.contains("\"frame\":0,\"time\":0.000000,\"lastFrame\":2,\"lastTime\":0.002000"));
-    EXPECT_EQ(process.readAllStandardOutput().trimmed(), description + "\n\xe5\x9c\xa7: a=b\nc");
+    EXPECT_EQ(process.readAllStandardOutput().trimmed(), description + "\n\xe5\x9c\xa7: a=b\\nc");
 }
 
 }  // namespace

@@ -1,5 +1,9 @@
 #include "FileMetadata.h"
 
+#include "OneLine.h"
+
+#include <QStringList>
+
 #include <algorithm>
 #include <functional>
 
@@ -9,10 +13,8 @@ using Tags = QList<QPair<QString, QString>>;
 
 /// Of a camera's name; nobody needs more.
 constexpr int MostLetters = 1000;
-/// For the ends of a list, and for how many are left out.
+/// For what stands around a list, and for how many are left out.
 constexpr int EndBytes = 40;
-/// That a letter takes in UTF-8.
-constexpr int LetterBytes = 3;
 
 QByteArray quoted(const QString& text) {
     QByteArray json = "\"";
@@ -34,19 +36,27 @@ QString secondsText(qint64 microseconds) {
     return QString::number(double(microseconds) / 1e6, 'f', 6);
 }
 
-/// The first of `count` texts that `room` has bytes for, and how many the others are.
-QByteArray listOf(int count, const std::function<QByteArray(int)>& text, int room, const QByteArray& ofOthers) {
-    QByteArray list;
+struct JsonList {
+    QByteArray json;
+    int count;
+};
+
+/// The first of `count` texts, as many as `room` has bytes for.
+JsonList listOf(int count, const std::function<QByteArray(int)>& text, int room) {
+    QByteArray texts;
     int i = 0;
     for (; i < count; ++i) {
         const QByteArray next = (i > 0 ? "," : "") + text(i);
-        if (list.size() + next.size() > room - EndBytes) {
+        if (texts.size() + next.size() > room - EndBytes) {
             break;
         }
-        list += next;
+        texts += next;
     }
-    const QByteArray others = i < count ? ",\"" + ofOthers + "\":" + QByteArray::number(count - i) : QByteArray();
-    return '[' + list + ']' + others;
+    return {'[' + texts + ']', i};
+}
+
+QByteArray member(const QByteArray& name, const QByteArray& json) {
+    return ",\"" + name + "\":" + json;
 }
 
 QByteArray itemText(const CustomItem& item) {
@@ -72,32 +82,45 @@ Tags numbersOf(const FrameMetadata& frame) {
     return tags;
 }
 
-QByteArray objectOf(const FrameMetadata& frame, int room) {
-    QByteArray object = "{\"camera\":" + quoted(frame.camera.left(MostLetters));
-    const Tags numbers = numbersOf(frame);
-    for (const auto& [name, number] : numbers) {
-        object += ",\"" + name.toLatin1() + "\":" + number.toLatin1();
+/// A description of at most `room` bytes.
+FileMetadata metadataOf(const FrameMetadata& frame, int room) {
+    const QString camera = frame.camera.left(MostLetters);
+    FileMetadata metadata{"{\"camera\":" + quoted(camera), numbersOf(frame)};
+    auto& [description, tags] = metadata;
+    for (const auto& [name, number] : qAsConst(tags)) {
+        description += member(name.toLatin1(), number.toLatin1());
     }
     const QList<CustomItem> items = frame.info.shown();
-    object += ",\"items\":";
-    return object +
-           listOf(
-               items.size(), [&](int i) { return itemText(items.at(i)); }, room - object.size(), "itemsLeftOut") +
-           '}';
+    const auto text = [&](int i) { return itemText(items.at(i)); };
+    const JsonList list = listOf(items.size(), text, room - description.size());
+    description += member("items", list.json);
+    QStringList lines;
+    for (int i = 0; i < list.count; ++i) {
+        lines.append(inOneLine(items.at(i).text()));
+    }
+    tags.prepend({QStringLiteral("camera"), camera});
+    tags.append({QStringLiteral("items"), lines.join(QLatin1Char('\n'))});
+    if (list.count < items.size()) {
+        const QString leftOut = QString::number(items.size() - list.count);
+        description += member("itemsLeftOut", leftOut.toLatin1());
+        tags.append({QStringLiteral("itemsLeftOut"), leftOut});
+    }
+    description += '}';
+    return metadata;
 }
 
 }  // namespace
 
 FileMetadata FileMetadata::of(const FrameMetadata& frame) {
-    FileMetadata metadata{objectOf(frame, MostBytes), numbersOf(frame)};
-    metadata.tags.prepend({QStringLiteral("camera"), frame.camera.left(MostLetters)});
-    metadata.tags.append(
-        {QStringLiteral("items"), frame.info.shownTexts().join(QLatin1Char('\n')).left(MostBytes / LetterBytes)});
-    return metadata;
+    return metadataOf(frame, MostBytes);
 }
 
 FileMetadata FileMetadata::ofLayout(const QList<FrameMetadata>& cameras) {
     const int room = MostBytes / std::max(1, cameras.size());
-    const auto text = [&](int i) { return objectOf(cameras.at(i), room); };
-    return {"{\"cameras\":" + listOf(cameras.size(), text, MostBytes, "camerasLeftOut") + '}', {}};
+    const auto text = [&](int i) { return metadataOf(cameras.at(i), room).description; };
+    const JsonList list = listOf(cameras.size(), text, MostBytes);
+    const int leftOut = cameras.size() - list.count;
+    return {
+        "{\"cameras\":" + list.json + (leftOut > 0 ? member("camerasLeftOut", QByteArray::number(leftOut)) : "") + '}',
+        {}};
 }
