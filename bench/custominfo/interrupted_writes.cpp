@@ -14,6 +14,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <csignal>
 #include <cstdio>
 #include <functional>
@@ -111,7 +112,9 @@ void overwrite(const QString& path, const QList<QVariantMap>& old, const QList<Q
     chmod(QFile::encodeName(path).constData(), 0666);
     const bool written = apart([&] {
                              fill();
-                             return setresuid(Nobody, Nobody, Nobody) == 0 && isWritten(path, list) ? 1 : 0;
+                             // root would find no folder closed
+                             const bool isUser = geteuid() != 0 || setresuid(Nobody, Nobody, Nobody) == 0;
+                             return isUser && isWritten(path, list) ? 1 : 0;
                          }) == 1;
     ++(written ? outcomes.written : outcomes.refused);
     outcomes.wrong += itemsOf(path) == (written ? list.size() : old.size()) ? 0 : 1;
@@ -180,7 +183,6 @@ int main() {
     bool isGood = isGoodWhenKilled("killed 500 times", plain, plain);
     isGood = isGoodWhenKilled("the same with the longest name", longest, longest) && isGood;
     isGood = isGoodWhenKilled("the same by a link", plain, link) && isGood;
-    std::printf("%d files beside them\n", QDir(folder.path()).entryList(QDir::Files | QDir::Hidden).size() - 3);
 
     const QString disk = folder.filePath(QStringLiteral("disk"));
     QDir().mkdir(disk);
