@@ -3,7 +3,7 @@
 #include "CustomInfoReader.h"
 #include "CustomInfoWriter.h"
 
-#include <QStringList>
+#include <QDebug>
 
 namespace {
 
@@ -73,19 +73,7 @@ QString faultOfWriting(const QList<QVariantMap>& items, const CustomInfoDialect&
     if (reading.items == expected) {
         return {};
     }
-    return reading.reason + QStringLiteral("\nread ") + textOf(reading.items, dialect) + QStringLiteral("\nfor  ") +
-           textOf(expected, dialect);
-}
-
-QString textOf(const QList<QVariantMap>& items, const CustomInfoDialect& dialect) {
-    QStringList lines;
-    for (const QVariantMap& item : items) {
-        QStringList fields;
-        for (const char* key : {"name", "value", "unit", dialect.shownKey, "usefilename"}) {
-            fields.append(item.contains(QLatin1String(key)) ? item[QLatin1String(key)].toString()
-                                                            : QStringLiteral("-"));
-        }
-        lines.append(fields.join(QLatin1Char('|')));
-    }
-    return lines.join(QLatin1Char(';'));
+    QString fault;
+    QDebug(&fault) << "read" << reading.items << reading.reason << "for" << expected;
+    return fault;
 }

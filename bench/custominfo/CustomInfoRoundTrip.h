@@ -13,7 +13,3 @@ QString faultOfReading(const QByteArray& bytes);
 /// What is wrong with how items are written, and read again; empty for nothing. No name may be one that files of jobs
 /// have.
 QString faultOfWriting(const QList<QVariantMap>& items, const CustomInfoDialect& dialect);
-
-/// Name, value, unit, whether it is shown and whether it may be in names of files, of each item; "-" where the item has
-/// no such key.
-QString textOf(const QList<QVariantMap>& items, const CustomInfoDialect& dialect);
