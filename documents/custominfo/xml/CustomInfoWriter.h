@@ -13,7 +13,8 @@ struct CustomInfoWriting {
     QString reason;
 };
 
-/// The file of these items, which the reader takes back as they are. XML has no form for most control characters and
-/// for halves of letters: they are left out. Items that would pass a bound of the reader are refused. Any thread.
+/// The file of these items, which the reader takes back as they are, but for names that files of jobs have. XML has no
+/// form for most control characters, halves of letters, U+FFFE and U+FFFF: they are left out. Items that would pass a
+/// bound of the reader are refused. Any thread.
 CustomInfoWriting writeCustomInfo(const QList<QVariantMap>& items, const QString& version,
                                   const CustomInfoDialect& dialect);
