@@ -140,8 +140,8 @@ TEST_F(Images, ShowWhatIsRecordedInMemoryModeAndNothingInFileMode) {
 }
 
 TEST_F(Images, StandBelowTheItemsThatAreToBeShown) {
-    const auto list = [](const char* name, bool display) {
-        return QVariantList{QVariantMap{{"name", name}, {"value", "1\n2"}, {"display", display}}};
+    const auto list = [](const char* name, bool display, const char* value = "1\n2") {
+        return QVariantList{QVariantMap{{"name", name}, {"value", value}, {"display", display}}};
     };
     const auto seen = [&] {
         images.showNow();
@@ -163,6 +163,9 @@ TEST_F(Images, StandBelowTheItemsThatAreToBeShown) {
     EXPECT_NE(seen(), recorded);
     EXPECT_EQ(player->text(), "<b>Lot</b>: 1\\n2") << "the recording's own, as text";
     EXPECT_TRUE(player->toolTip().contains("&lt;b&gt;Lot&lt;/b&gt;: 1<br"));
+    camera(1).change({{"recordedCustomInfo", list("<b>Lot</b>", true, "1\\n2")}});
+    images.showNow();
+    EXPECT_TRUE(player->toolTip().contains("1\\n2")) << "another text in the same line";
 }
 
 }  // namespace

@@ -16,9 +16,6 @@ ElidedLabel::ElidedLabel(QWidget* parent) : QLabel(parent) {
 }
 
 void ElidedLabel::setTexts(const QString& line, const QString& whole) {
-    if (text() == line) {
-        return;
-    }
     setText(line);
     // A tool tip takes a text with marks in it for markup.
     setToolTip(whole.isEmpty() ? QString() : Qt::convertFromPlainText(whole, Qt::WhiteSpaceNormal));

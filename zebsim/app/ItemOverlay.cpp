@@ -24,15 +24,17 @@ constexpr QColor Ground(0, 0, 0, 150);
 }  // namespace
 
 bool ItemOverlay::setInfo(const CustomInfo& info) {
-    if (!(m_info != info)) {
+    if (m_info == info) {
         return false;
     }
     m_info = info;
     const QStringList texts = info.shownTexts();
-    m_room = {};
-    const bool changed = texts != m_texts;
+    if (texts == m_texts) {
+        return false;
+    }
     m_texts = texts;
-    return changed;
+    m_room = {};
+    return true;
 }
 
 void ItemOverlay::paint(QPainter& painter, const QRect& image, int width) {

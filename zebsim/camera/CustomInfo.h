@@ -30,7 +30,8 @@ public:
 /// `zeb::MostCustomItems`.
 class CustomInfo {
 public:
-    bool operator!=(const CustomInfo& other) const { return !(m_items == other.m_items); }
+    bool operator==(const CustomInfo& other) const { return m_items == other.m_items; }
+    bool operator!=(const CustomInfo& other) const { return !(*this == other); }
     const QList<CustomItem>& items() const { return m_items; }
     QList<CustomItem> shown() const;
     QStringList shownTexts() const;
