@@ -37,23 +37,10 @@ QWebView* ModalWatcher::standingPage() {
 bool ModalWatcher::eventFilter(QObject* object, QEvent* event) {
     if (event->type() == QEvent::Show && object->isWidgetType()) {
         if (auto* dialog = qobject_cast<QDialog*>(object)) {
-            m_before.insert(object, QApplication::activeWindow());
             QTimer::singleShot(0, this, [this, dialog = QPointer<QDialog>(dialog)] { lookAt(dialog); });
         }
     }
-    if (event->type() == QEvent::Hide && m_before.contains(object)) {
-        QTimer::singleShot(0, this, [this, window = m_before.take(object)] { giveKeyboardBack(window); });
-    }
     return QObject::eventFilter(object, event);
-}
-
-void ModalWatcher::giveKeyboardBack(const QPointer<QWidget>& window) {
-    QWidget* modal = QApplication::activeModalWidget();
-    QWidget* target = modal ? modal : window.data();
-    const bool isManaged = QGuiApplication::platformName() != QLatin1String("offscreen");
-    if (!isManaged && QApplication::activeWindow() == nullptr && target != nullptr && target->isVisible()) {
-        target->activateWindow();
-    }
 }
 
 void ModalWatcher::lookAt(const QPointer<QDialog>& dialog) {

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QHash>
 #include <QObject>
 #include <QPointer>
 
@@ -9,12 +8,10 @@
 class QDialog;
 class QMessageBox;
 class QWebView;
-class QWidget;
 
 /// Tells when a modal dialog stands, or a message box that is not modal. GUI thread.
 ///
-/// A dialog stands when it is shown, runs its event loop, and the page that it may hold has loaded. Where there is no
-/// window manager, the keyboard goes back from it to the window before.
+/// A dialog stands when it is shown, runs its event loop, and the page that it may hold has loaded.
 class ModalWatcher : public QObject {
     Q_OBJECT
 
@@ -36,8 +33,4 @@ Q_SIGNALS:
 
 private:
     void lookAt(const QPointer<QDialog>& dialog);
-    void giveKeyboardBack(const QPointer<QWidget>& window);
-
-    /// The window that was active when a dialog came up.
-    QHash<QObject*, QPointer<QWidget>> m_before;
 };

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "FileScripting.h"
+#include "KeyboardReturn.h"
 #include "ModalWatcher.h"
 #include "SaveScripting.h"
 
@@ -61,6 +62,7 @@ private:
     void answer(QMessageBox& box);
 
     ModalWatcher m_watcher;
+    KeyboardReturn m_keyboardReturn;
     QList<QJSValue> m_functions;
     QStringList m_answers;
     SaveScripting m_saves;
