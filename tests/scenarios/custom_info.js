@@ -103,7 +103,7 @@ zeb.fault(7, 'addCustomInfo', {throws: 'no answer'});
 zeb.setCamera(8, {customInfo: []});
 zeb.click('.edit-buttons .apply');
 same([1, 2, 5, 6, 8].map(key => texts(zeb.camera(key).customInfo).length), [5, 5, 5, 5, 0], 'up to the one that fails');
-same(told(), [QUESTION, 'Camera 7: no answer'], 'which is told');
+same(told(), [QUESTION, 'Camera 7: no answer\nCamera 7: the custom information could not be put back.'], 'which is told');
 zeb.fault(7, 'addCustomInfo', {});
 
 // A camera that does not tell its list keeps it, and so does the page.
@@ -137,8 +137,11 @@ REFUSED.forEach(([field, column, text, message]) => {
     } else {
         zeb.type(text);
     }
-    zeb.type('\tq');
+    zeb.type('\tq\tr\n');
     same([told(), texts(datas())[0].slice(0, 3)], [[message], ['Old', '1', '']], `${field} "${text.slice(0, 9)}"`);
+    same([editor(), hasKeyboard()], [null, true], 'what follows without a pause falls into no other cell');
+    zeb.until('Date.now() > customEditor.refusedUntil');
+    zeb.type('q');
     same(editor(), 'q', 'the next letter begins anew in the same cell');
     zeb.type('\x1b');
 });

@@ -1,16 +1,20 @@
+const TYPING_PAUSE = 400; // ms
+
 // The editor in a cell of the list of custom information. One cell's is closed and the next one's opened in the same
 // event, so that no letter of a fast typist, or of a scanner, goes elsewhere.
 const customEditor = {
     place: null, // the row and the column of the open one
     input: null,
     shown: '', // what it showed at first; a text box can't show a line feed
+    refusedUntil: 0, // time of the last key that belonged to a text that was refused, and a pause
 
     // `text`: what is typed already, in place of the item's.
     open(place, text) {
         const item = customList.item(place.recid);
         const cell = customList.cell(place.recid, place.column);
         const isSeen = cell && cell.offsetWidth > 0;
-        if (!item || !isSeen || wrentabledialog_obj.gridLock || wrentabledialog.isFileMode()) {
+        const isOff = !item || !isSeen || wrentabledialog_obj.gridLock || wrentabledialog.isFileMode();
+        if (isOff || !this.commit()) {
             return;
         }
         customList.choose([place.recid], place);
@@ -35,10 +39,10 @@ const customEditor = {
         }
     },
 
-    // The window may have lost the keyboard, and then the editor stands.
+    // Where the window has lost the keyboard the editor stands, and goes on when it is back.
     left() {
         wrentabledialog.setTextBoxFocusState(false);
-        if (this.input && document.hasFocus()) {
+        if (this.input && document.activeElement !== this.input) {
             guarded(() => this.commit());
         }
     },
@@ -46,7 +50,19 @@ const customEditor = {
     // Takes what was typed into the list. A text that can't be taken is told, and the cell has its old one again.
     // Answers whether the list is as the user wants it.
     commit() {
-        return this.input === null || this.take(fault => wrentabledialog.alert(fault));
+        return this.input === null || this.take(fault => {
+            wrentabledialog.alert(fault);
+            this.refusedUntil = Date.now() + TYPING_PAUSE;
+        });
+    },
+
+    // Whether a key goes on with a text that was refused. Without a pause its sender has not seen the box, and what
+    // was meant for the cells that follow must not fall into others.
+    isOfRefusedText() {
+        const now = Date.now();
+        const isOf = now < this.refusedUntil;
+        this.refusedUntil = isOf ? now + TYPING_PAUSE : 0;
+        return isOf;
     },
 
     // As `commit`, where nobody can be asked: a text that can't be taken leaves a line in the log.

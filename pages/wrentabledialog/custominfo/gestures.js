@@ -26,6 +26,9 @@ function onCustomPress(event) {
         return;
     }
     event.preventDefault();
+    if (!customEditor.commit()) {
+        return;
+    }
     customList.box.focus();
     const selected = customList.selected().map(item => item.recid);
     if (event.button !== 0) {
@@ -53,16 +56,20 @@ function onCustomDoubleClick(event) {
 
 // A letter in the list begins a new text in the current cell.
 function onCustomLetter(event) {
-    const letter = event.charCode > 32 && !event.ctrlKey && !event.metaKey;
+    const letter = event.charCode >= 32 && !event.ctrlKey && !event.altKey && !event.metaKey;
     if (event.target === customList.box && letter && CUSTOM_COLUMNS[customList.current.column] !== 'display') {
         event.preventDefault();
-        customEditor.open(customList.current, String.fromCharCode(event.charCode));
+        customEditor.open(customList.current, String.fromCodePoint(event.charCode));
     }
 }
 
 function onCustomKey(event) {
     if (event.target === customEditor.input) {
         onCustomEditorKey(event);
+    } else if (event.target === customList.box && customEditor.isOfRefusedText()) {
+        logUnused('not taken', 'TextBox', 'wren_custom_editor', event.key);
+        event.preventDefault();
+        event.stopPropagation();
     } else if (event.target === customList.box && !wrentabledialog_obj.gridLock) {
         const work = customListKey(event);
         if (work) {
@@ -84,7 +91,7 @@ function customListKey(event) {
     return {
         [KEY.ENTER]: isSwitch ? toggleCustomItem : editCustomItem,
         [F2]: isSwitch ? toggleCustomItem : editCustomItem,
-        [KEY.SPACE]: isSwitch ? toggleCustomItem : $.noop, // the page would scroll
+        [KEY.SPACE]: isSwitch && toggleCustomItem,
         [KEY.DELETE]: deleteCustomItems,
         [MENU_KEY]: openCustomMenu,
         [F10]: event.shiftKey && openCustomMenu,
