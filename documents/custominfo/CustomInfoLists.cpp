@@ -1,7 +1,11 @@
 #include "CustomInfoLists.h"
 
 #include "DOC_Control.h"
+#include "DOC_Interface.h"
+#include "GatheredFailures.h"
 #include "LogFailure.h"
+#include "TextKey.h"
+#include "ZebHost.h"
 
 namespace {
 
@@ -28,12 +32,19 @@ void customitem::addTo(DOC_Control& control, const QVariantMap& item) {
                           isOn(item, "usefilename"));
 }
 
-void replaceCustomInfo(DOC_Control& control, const QList<QVariantMap>& items) {
-    const QList<QVariantMap> before = control.getCustomInfoList();
-    try {
-        fill(control, items);
-    } catch (...) {
-        logFailure([&] { fill(control, before); });
-        throw;
+void replaceCustomInfo(ZebHost& host, DOC_Interface& doc, const QList<QVariantMap>& items) {
+    const QString camera = doc.control().getCameraName(0);
+    const QList<QVariantMap> before = doc.control().getCustomInfoList();
+    GatheredFailures failures;
+    failures.attempt([&] { fill(doc.control(), items); });
+    if (failures.isEmpty()) {
+        return;
     }
+    try {
+        fill(doc.control(), before);
+    } catch (...) {
+        logCurrentFailure();
+        failures.note(host.translate(TextKey("%1: the custom information could not be put back.")).arg(camera));
+    }
+    failures.rethrow();
 }

@@ -4,6 +4,8 @@
 #include <QVariantMap>
 
 class DOC_Control;
+class DOC_Interface;
+class ZebHost;
 
 /// Custom information between bridges, files and cameras: an item is a map of `name`, `value`, `unit` and flags, as a
 /// camera has it. GUI thread.
@@ -16,6 +18,6 @@ void addTo(DOC_Control& control, const QVariantMap& item);
 
 }  // namespace customitem
 
-/// Clears the list of a camera and adds these. When that throws it gets back the list it had, as far as it takes it,
-/// and the exception goes on. One whose list can't be read keeps it. GUI thread.
-void replaceCustomInfo(DOC_Control& control, const QList<QVariantMap>& items);
+/// Clears the list of a camera and adds these. When that throws it gets back the list it had, or the exception tells
+/// that it did not. One whose list can't be read keeps it. GUI thread.
+void replaceCustomInfo(ZebHost& host, DOC_Interface& doc, const QList<QVariantMap>& items);

@@ -181,7 +181,7 @@ void JS_Mediator_CustomInfoDialog::restore(DOC_Interface& doc, const QVariantLis
             items.append(item);
         }
     }
-    replaceCustomInfo(doc.control(), items);
+    replaceCustomInfo(host(), doc, items);
     if (comment) {
         doc.image().setComment(*comment);
     }
@@ -248,8 +248,8 @@ void JS_Mediator_CustomInfoDialog::cancel() {
 }
 
 void JS_Mediator_CustomInfoDialog::putBack(DOC_Interface& doc, const Kept& kept) {
-    if (kept.items) {
-        replaceCustomInfo(doc.control(), *kept.items);
+    if (kept.items && doc.control().getCustomInfoList() != *kept.items) {
+        replaceCustomInfo(host(), doc, *kept.items);
     }
     if (kept.comment && doc.image().getComment() != *kept.comment) {
         doc.image().setComment(*kept.comment);

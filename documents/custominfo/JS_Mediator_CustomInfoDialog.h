@@ -57,8 +57,8 @@ private:
     /// The same as the call of a page.
     template <typename Work>
     void change(const char* method, const QVariantList& targets, Work work);
-    static void restore(DOC_Interface& doc, const QVariantList& customs);
-    static void putBack(DOC_Interface& doc, const Kept& kept);
+    void restore(DOC_Interface& doc, const QVariantList& customs);
+    void putBack(DOC_Interface& doc, const Kept& kept);
 
     const bool m_forTemporary;
     QMap<DOCKEY, Kept> m_kept;

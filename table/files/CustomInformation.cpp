@@ -76,7 +76,7 @@ void CustomInformation::setLists(const DocKeyList& keys, const QString& json) {
         if (doc) {
             onCamera(*doc, [&] {
                 if (doc->isConnected()) {
-                    replaceCustomInfo(doc->control(), *items);
+                    replaceCustomInfo(m_host, *doc, *items);
                 }
             });
         }

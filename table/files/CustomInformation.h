@@ -18,7 +18,7 @@ public:
     /// Empty for a camera that is gone or not connected. `withNumbers` gives each item a `recid`, from 1.
     QString listOf(DOCKEY key, bool withNumbers) const;
     /// Replaces the lists of those of `keys` that are connected, up to a camera that refuses an item: that one gets
-    /// back the list it had, as far as it takes it. What is no array changes nothing.
+    /// back the list it had, or it is told that it did not. What is no array changes nothing.
     void setLists(const DocKeyList& keys, const QString& json);
 
     /// The list of a file that the user chooses, with numbers; empty when there is none. Both run an event loop: the

@@ -14,6 +14,7 @@
 #include "ProgressWait.h"
 #include "SimHost.h"
 #include "SnapShots.h"
+#include "UiText.h"
 #include "ZebSupportFile.h"
 
 #include <QBuffer>
@@ -88,7 +89,11 @@ void AppWindows::editCustomInfo() {
     auto* dialog = new GUI_CustomInfoDialog(&m_host, false, m_host.getMainWindow());
     // The keys, or the lists that the cameras show, are others from then on: what is done stays done.
     QObject::connect(&m_host.events(), &HostEvents::camerasReplaced, dialog, &QDialog::accept);
-    QObject::connect(&m_host.events(), &HostEvents::modeChanged, dialog, &QDialog::accept);
+    QObject::connect(&m_host.events(), &HostEvents::modeChanged, dialog, [this, dialog] {
+        m_host.messages().notify(Message::Info,
+                                 uiText("The mode has changed. What was done to the custom information stays."));
+        dialog->accept();
+    });
     runDialog(m_host, dialog);
 }
 

@@ -100,8 +100,12 @@ void ViewerWindow::addDialogs(AppWindows& windows) {
     m_fileMenu->addActions((new SaveKeys(m_host, windows, *m_bar))->actions());
     m_fileMenu->addSeparator();
     addEntry(m_fileMenu, uiText("&Quit"), "quit", [this] { Q_EMIT closeAsked(); });
+    // Opened by a key a menu stands at its first entry, and that must not record.
+    QAction* first = m_cameraMenu->actions().first();
     m_customInfo =
         addEntry(m_cameraMenu, uiText("Custom info..."), "customInfo", [&windows] { windows.editCustomInfo(); });
+    m_cameraMenu->insertAction(first, m_customInfo);
+    m_cameraMenu->insertSeparator(first);
     QMenu* settings = menuBar()->addMenu(uiText("&Settings"));
     QMenu* help = menuBar()->addMenu(uiText("&Help"));
     m_bar->addSeparator();

@@ -1887,5 +1887,17 @@
         <source>Custom info...</source>
         <translation>カスタム情報...</translation>
     </message>
+    <message>
+        <source>What is typed is in no list. Close all the same?</source>
+        <translation>入力した内容はどのリストにもありません。閉じますか？</translation>
+    </message>
+    <message>
+        <source>%1: the custom information could not be put back.</source>
+        <translation>%1: カスタム情報を元に戻せませんでした。</translation>
+    </message>
+    <message>
+        <source>The mode has changed. What was done to the custom information stays.</source>
+        <translation>モードが変わりました。カスタム情報の変更はそのまま残ります。</translation>
+    </message>
 </context>
 </TS>

@@ -36,8 +36,9 @@ const custominfo = {
         onClick('delete', () => this.remove());
         onClick('load', () => this.load());
         onClick('save', () => CustomInfoDialog.save(this.items));
-        onClick('ok', () => CustomInfoDialog.accept());
+        onClick('ok', () => this.accept());
         onClick('cancel', () => CustomInfoDialog.reject());
+        document.addEventListener('keydown', event => event.keyCode === 27 && CustomInfoDialog.reject());
         this.applyStyle();
         this.showCameras();
         byId('name').focus();
@@ -129,111 +130,6 @@ const custominfo = {
         this.showItems();
     },
 
-    showItems() {
-        // A list that is not told must not be another camera's.
-        const text = this.shown < 0 ? '[]' : CustomInfoDialog.getCustomInfo(this.shown) || '[]';
-        if (text !== this.itemText) {
-            this.itemText = text;
-            this.items = JSON.parse(text);
-            this.current = Math.max(0, Math.min(this.current, this.items.length - 1));
-            this.drawItems();
-        }
-        this.showSelection();
-    },
-
-    drawItems() {
-        const body = document.querySelector('#items tbody');
-        body.innerHTML = '';
-        this.items.forEach(item => {
-            const row = body.insertRow();
-            const box = document.createElement('input');
-            box.type = 'checkbox';
-            box.tabIndex = -1;
-            box.checked = item.selected;
-            row.insertCell().appendChild(box);
-            [item.name, item.value, item.unit].forEach(text => {
-                const cell = row.insertCell();
-                cell.textContent = text;
-                cell.title = text;
-            });
-        });
-    },
-
-    showSelection() {
-        const rows = Array.from(document.querySelectorAll('#items tbody tr'));
-        rows.forEach((row, index) => {
-            row.classList.toggle('selected', this.selected.indexOf(this.items[index].name) >= 0);
-            row.classList.toggle('current', index === this.current);
-        });
-        const one = this.chosenItems().length > 0;
-        const any = this.targets().length > 0;
-        ['add', 'load'].forEach(id => zeb4func.disable('#' + id, !any));
-        ['edit', 'delete'].forEach(id => zeb4func.disable('#' + id, !any || !one));
-        zeb4func.disable('#save', this.items.length === 0);
-    },
-
-    chosenItems() {
-        return this.items.filter(item => this.selected.indexOf(item.name) >= 0);
-    },
-
-    press(event) {
-        const row = event.target.closest('tbody tr');
-        if (row) {
-            event.preventDefault(); // a box is drawn anew, and would take the keyboard along
-            byId('items').focus();
-            this.choose(row.sectionRowIndex, event.ctrlKey, event.shiftKey);
-        }
-    },
-
-    // The item comes into the fields too, to be changed there.
-    choose(index, joins, extends_) {
-        const { name } = this.items[index];
-        if (extends_) {
-            const [first, last] = [Math.min(index, this.anchor), Math.max(index, this.anchor)];
-            this.selected = this.items.slice(first, last + 1).map(item => item.name);
-        } else if (joins) {
-            const at = this.selected.indexOf(name);
-            this.selected = at < 0 ? this.selected.concat(name) : this.selected.filter(other => other !== name);
-        } else {
-            this.selected = [name];
-        }
-        this.current = index;
-        this.anchor = extends_ ? this.anchor : index;
-        ['name', 'value', 'unit'].forEach(field => { byId(field).value = this.items[index][field]; });
-        this.showSelection();
-        document.querySelectorAll('#items tbody tr')[index].scrollIntoViewIfNeeded(false);
-    },
-
-    switchItem(box) {
-        const item = this.items[box.closest('tr').sectionRowIndex];
-        this.show(item, box.checked);
-    },
-
-    show(item, on) {
-        CustomInfoDialog.enableCustomData(this.targets(), [Object.assign({}, item, { selected: on })]);
-        this.showItems();
-    },
-
-    key(event) {
-        const all = this.items.length;
-        const step = { 38: -1, 40: 1, 33: -8, 34: 8, 36: -all, 35: all }[event.keyCode];
-        const item = this.items[this.current];
-        if (!item) {
-            return;
-        }
-        if (step) {
-            const index = Math.max(0, Math.min(this.current + step, this.items.length - 1));
-            this.choose(index, false, event.shiftKey);
-        } else if (event.keyCode === 32) {
-            this.guarded(() => this.show(item, !item.selected));
-        } else if (event.keyCode === 46) {
-            this.guarded(() => this.remove());
-        } else {
-            return;
-        }
-        event.preventDefault();
-    },
-
     // Enter in a field changes the item of that name, or adds one.
     fieldKey(event) {
         if (event.keyCode === 13) {
@@ -257,15 +153,38 @@ const custominfo = {
         return item;
     },
 
+    // Whether another camera than the one that is shown has an item of that name.
+    isElsewhere(name) {
+        return this.targets().filter(key => key !== this.shown).some(key =>
+            JSON.parse(CustomInfoDialog.getCustomInfo(key) || '[]').some(item => item.name === name));
+    },
+
     add() {
         const item = this.checked();
-        CustomInfoDialog.addCustomData(this.targets(), item);
-        this.ready(item.name);
+        const question = textKey('Overwrite custom information for the selected camera. Is it OK?');
+        if (!this.isElsewhere(item.name) || CustomInfoDialog.confirm(question)) {
+            CustomInfoDialog.addCustomData(this.targets(), item);
+            this.ready(item.name);
+        }
+    },
+
+    // What is typed and stands in no list would go with the dialog.
+    accept() {
+        const item = this.typed();
+        const isListed = this.items.some(other => ['name', 'value', 'unit'].every(key => other[key] === item[key]));
+        const isEmpty = item.name + item.value + item.unit === '';
+        const question = textKey('What is typed is in no list. Close all the same?');
+        if (isEmpty || isListed || CustomInfoDialog.confirm(question)) {
+            CustomInfoDialog.accept();
+        }
     },
 
     edit(name) {
         const old = name || this.chosenItems()[0].name;
         const item = this.checked(old);
+        if (item.name !== old && this.isElsewhere(item.name)) {
+            throw new Error(DOUBLED_NAME);
+        }
         const before = this.items.filter(other => other.name === old)[0];
         const flag = on => on ? 'on' : '';
         CustomInfoDialog.editCustomData(this.targets(), Object.assign(item, {
@@ -285,6 +204,7 @@ const custominfo = {
         const items = this.chosenItems();
         if (items.length > 0 && CustomInfoDialog.confirm(textKey('Delete. Is it OK?'))) {
             CustomInfoDialog.deleteCustomData(this.targets(), items);
+            ['name', 'value', 'unit'].forEach(field => { byId(field).value = ''; });
             this.selected = [];
             this.showItems();
         }
