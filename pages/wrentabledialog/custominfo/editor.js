@@ -10,11 +10,12 @@ const customEditor = {
 
     // `text`: what is typed already, in place of the item's.
     open(place, text) {
+        if (!this.commit() || wrentabledialog_obj.gridLock || wrentabledialog.isFileMode()) {
+            return;
+        }
         const item = customList.item(place.recid);
         const cell = customList.cell(place.recid, place.column);
-        const isSeen = cell && cell.offsetWidth > 0;
-        const isOff = !item || !isSeen || wrentabledialog_obj.gridLock || wrentabledialog.isFileMode();
-        if (isOff || !this.commit()) {
+        if (!item || !cell || cell.offsetWidth === 0) {
             return;
         }
         customList.choose([place.recid], place);
@@ -81,19 +82,17 @@ const customEditor = {
         this.close();
         const item = customList.item(recid);
         const fault = isChanged && item ? faultOfText(field, text) : '';
-        if (fault) {
-            customList.drawCell(recid, column);
-            refuse(fault);
-            return false;
-        }
-        if (isChanged && item) {
+        const isTaken = isChanged && item && !fault;
+        if (isTaken) {
             item[field] = text;
-            customList.drawCell(recid, column);
-            customList.keepBlankRow();
-        } else {
-            customList.drawCell(recid, column);
         }
-        return true;
+        customList.drawCell(recid, column);
+        if (fault) {
+            refuse(fault);
+        } else if (isTaken) {
+            customList.keepBlankRow();
+        }
+        return !fault;
     },
 
     cancel() {
