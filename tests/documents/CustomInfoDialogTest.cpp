@@ -125,16 +125,16 @@ TEST_F(CustomInfoDialog, ChangesItsTargetsAndPutsThemBack) {
 TEST_F(CustomInfoDialog, ReadsAndWritesFiles) {
     auto dialog = bridge();
     const QString file = m_test.folder.filePath("list.xml");
-    write(file, "<job><Cm_Comment>said</Cm_Comment><Speed unit=\"km/h\" display=\"false\">80</Speed></job>");
+    write(file, "<job><Cm_Comment>said</Cm_Comment><Speed unit=\"km/h\">80</Speed></job>");
     chooseFile(file);
     dialog.load(m_both);
-    EXPECT_EQ(listOf(m_test.camera(2)), "Speed: 80 km/h -+");
+    EXPECT_EQ(listOf(m_test.camera(2)), "Speed: 80 km/h ++");
     EXPECT_EQ(m_test.camera(1).get(&CameraState::comment), "said");
     EXPECT_EQ(m_test.host.prefs().value("xml/dir").toString(), m_test.folder.path());
     chooseFile(file);
-    dialog.save({QVariantMap{{"name", "A"}, {"value", "1 < 2"}, {"selected", false}}});
+    dialog.save({QVariantMap{{"name", "A"}, {"value", "1 < 2"}, {"selected", true}}});
     EXPECT_EQ(contentOf(file).simplified().mid(contentOf(file).simplified().indexOf("<customItem>")),
-              "<customItem> <name>A</name> <value>1 &lt; 2</value> <unit></unit> <display>false</display> "
+              "<customItem> <name>A</name> <value>1 &lt; 2</value> <unit></unit> <display>true</display> "
               "<usefilename>true</usefilename> </customItem> </customItems> </custom>");
     EXPECT_EQ(m_test.desk.take(), QStringList());
 
@@ -142,7 +142,7 @@ TEST_F(CustomInfoDialog, ReadsAndWritesFiles) {
     chooseFile(file);
     dialog.load(m_both);
     EXPECT_EQ(m_test.desk.take(), QStringList("File read failed."));
-    EXPECT_EQ(listOf(m_test.camera(1)), "Speed: 80 km/h -+") << "as it was";
+    EXPECT_EQ(listOf(m_test.camera(1)), "Speed: 80 km/h ++") << "as it was";
     chooseFile(m_test.folder.filePath("nowhere/list.xml"));
     dialog.save({QVariantMap{{"name", "A"}, {"value", "1"}}});
     EXPECT_EQ(m_test.desk.take(), QStringList()) << "what can't be opened has a line in the log";

@@ -17,7 +17,7 @@ QVariantMap item(const QString& name, const QString& value = QString(), bool sho
 }
 
 TEST(CustomInfoWrite, HasThisOrder) {
-    const QList<QVariantMap> items{item("a", QStringLiteral("<1> & \"2\" 試"))};
+    const QList<QVariantMap> items{item("a", QStringLiteral("<1> & \"2\" 試") + QChar(QChar::ByteOrderMark))};
     QByteArray expected =
         "<?xml version=\"1.0\" encoding=\"utf-8\" standalone=\"no\"?>\n"
         "<custom>\n"
@@ -25,7 +25,7 @@ TEST(CustomInfoWrite, HasThisOrder) {
         "  <customItems>\n"
         "    <customItem>\n"
         "      <name>a</name>\n"
-        "      <value>&lt;1> &amp; \"2\" \xE8\xA9\xA6</value>\n"
+        "      <value>&lt;1> &amp; \"2\" \xE8\xA9\xA6&#xfeff;</value>\n"
         "      <unit></unit>\n"
         "      <display>false</display>\n"
         "      <usefilename>false</usefilename>\n"
@@ -35,6 +35,8 @@ TEST(CustomInfoWrite, HasThisOrder) {
     EXPECT_EQ(writeCustomInfo(items, "2.0 &", TableDialect).bytes, expected);
     expected.replace("<usefilename>false", "<usefilename>true");
     EXPECT_EQ(writeCustomInfo(items, "2.0 &", DialogDialect).bytes, expected) << "the dialog's is always in names";
+    EXPECT_EQ(writeCustomInfo({}, "", TableDialect).bytes.mid(64),
+              "  <version></version>\n  <customItems/>\n</custom>\n");
 }
 
 TEST(CustomInfoWrite, ComesBackLetterForLetter) {
@@ -43,7 +45,6 @@ TEST(CustomInfoWrite, ComesBackLetterForLetter) {
     };
     const QString kept =
         text({'\t', '\n', '\r', ' ', 0x7F, 0x85, 0x2028, 0xD7FF, 0xE000, 0xFEFF, 0xFFFD, 0xD83D, 0xDE00});
-    const QString marks(400, QChar::ByteOrderMark);
     const struct {
         QString written;
         QString read;
@@ -53,7 +54,6 @@ TEST(CustomInfoWrite, ComesBackLetterForLetter) {
          text({'a', 'b', 0xE000})},
         {" a\r\n\rb\t ", " a\r\n\rb\t "},
         {"]]>]]&gt;<![CDATA[", "]]>]]&gt;<![CDATA["},
-        {marks, marks},
         {" \r\n", ""},
     };
     for (const auto& each : cases) {
@@ -90,6 +90,7 @@ TEST(CustomInfoWrite, RefusesWhatNobodyCouldReadBack) {
         EXPECT_EQ(writing.bytes, "");
         EXPECT_EQ(writing.reason, each.reason);
     }
+    EXPECT_EQ(writeCustomInfo({}, QString(16385, 'v'), TableDialect).bytes, "");
 }
 
 /// What the log had before the call failed, what the failure says, and its code.
@@ -129,6 +130,9 @@ TEST(CustomInfoFile, TellsPathAndReason) {
     EXPECT_EQ(reading(broken), "critical: No custom information in \"" + broken +
                                    "\" line 3 column 4 \"Opening and ending tag mismatch.\"\n" + broken +
                                    ": Opening and ending tag mismatch.\n2");
+    EXPECT_EQ(reading("/dev/null").section('\n', 1), "/dev/null: it is not a regular file\n1");
+    write(broken, "<job><a/></job>" + QByteArray(1024 * 1024, '\n'));
+    EXPECT_EQ(reading(broken).section('\n', 1), broken + ": it is too large\n2");
     EXPECT_EQ(list, good) << "as it was";
     EXPECT_EQ(writing(path, QString(20000, 'x')), path + ": a text of the item \"n\" is too long\n2");
     {
