@@ -14,24 +14,16 @@ Object.assign(wrentabledialog_obj, {
     },
 
     createDisplayDialog() {
-        const button = (text, word, click) => ({ text, class: 'ui-dialog-buttons ' + word, click });
         this.createDisplaySettingElement();
-        displayDialog({
-            autoOpen: false,
-            modal: true,
-            resizable: false,
-            draggable: false,
-            width: 'auto',
-            height: 'auto',
+        displayDialog(dialogOptions({
             title: translate('WREN Display settings'),
-            closeText: translate('Close'),
             buttons: [
-                button(translate('OK'), 'ok', () => {
+                dialogButton(translate('OK'), 'ok', () => {
                     this.displaySettingDialogResult = true;
                     displayDialog('close');
                 }),
-                button(translate('Cancel'), 'close', () => displayDialog('close')),
-                button(translate('Reset'), 'caution', () => guarded(() => {
+                dialogButton(translate('Cancel'), 'close', () => displayDialog('close')),
+                dialogButton(translate('Reset'), 'caution', () => guarded(() => {
                     this.resetDisplaySettings();
                     this.refreshAllControls();
                 }))
@@ -41,7 +33,7 @@ Object.assign(wrentabledialog_obj, {
                 this.tempDisplaySetting = DISPLAY.map(shows => wrentabledialog.getPrefBool(shows.key));
             },
             close: () => guarded(() => this.endDisplayDialog())
-        });
+        }));
     },
 
     createDisplaySettingElement() {

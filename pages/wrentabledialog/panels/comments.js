@@ -5,18 +5,8 @@ Object.assign(wrentabledialog_obj, {
         // While it has the keyboard, the host's keys are letters.
         box.addEventListener('focus', () => wrentabledialog.setTextBoxFocusState(true));
         box.addEventListener('blur', () => wrentabledialog.setTextBoxFocusState(false));
-        const button = (text, word, work) => ({
-            text,
-            class: 'ui-dialog-buttons ' + word,
-            click: () => this.leaveCommentDialog(work)
-        });
-        commentDialog({
-            autoOpen: false,
-            modal: true,
-            resizable: false,
-            draggable: false,
-            width: 'auto',
-            height: 'auto',
+        const button = (text, word, work) => dialogButton(text, word, () => this.leaveCommentDialog(work));
+        commentDialog(dialogOptions({
             title: translate('Comment'),
             buttons: [
                 button(translate('OK'), 'ok', () => wrentabledialog.setComment([this.commentOf.key], box.value)),
@@ -26,7 +16,7 @@ Object.assign(wrentabledialog_obj, {
                     wrentabledialog.setComment(keys, box.value);
                 })
             ]
-        });
+        }));
     },
 
     leaveCommentDialog(work) {
