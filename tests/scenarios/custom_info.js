@@ -187,6 +187,18 @@ same([told(), rows().map(row => row[1])], [['Delete. Is it OK?'], ['']], 'the cu
 zeb.setCamera(8, {customInfo: [OTHER]});
 zeb.click('.edit-buttons .loadCamera');
 
+// A right click that ends a bad text deletes the row that it was on.
+typeFrom(2, 'Second\t2\t\n');
+zeb.type('\x1b');
+zeb.click(cell(1, 0), {double: true});
+zeb.key('Ctrl+A');
+zeb.type('<b>');
+zeb.click(cell(2, 1), {right: true});
+zeb.until('Date.now() > customEditor.refusedUntil');
+zeb.key('Return');
+same([told(), rows().map(row => row[1])], [['Tags cannot be registered.', 'Delete. Is it OK?'], ['Old', '']],
+    'the row under the menu');
+
 // However an edit ends, what was typed is there or given up, and the host's keys are the host's.
 const ENDS = {
     'the accordion': [() => zeb.click('#accordion h3'), () => zeb.click('#accordion h3')],

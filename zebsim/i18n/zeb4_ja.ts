@@ -1899,5 +1899,9 @@
         <source>The mode has changed. What was done to the custom information stays.</source>
         <translation>モードが変わりました。カスタム情報の変更はそのまま残ります。</translation>
     </message>
+    <message>
+        <source>No camera is selected.</source>
+        <translation>カメラが選択されていません。</translation>
+    </message>
 </context>
 </TS>

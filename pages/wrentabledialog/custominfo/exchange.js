@@ -90,6 +90,9 @@ Object.assign(wrentabledialog_obj, {
         if (!overwrites || wrentabledialog.confirm(question)) {
             wrentabledialog.setCustomSettings(keys, list);
         }
+        if (keys.length === 0) {
+            wrentabledialog.alert(textKey('No camera is selected.'));
+        }
     },
 
     loadCurrentCamera() {

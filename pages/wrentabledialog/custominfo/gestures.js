@@ -26,9 +26,7 @@ function onCustomPress(event) {
         return;
     }
     event.preventDefault();
-    if (!customEditor.commit()) {
-        return;
-    }
+    const isTaken = customEditor.commit();
     customList.box.focus();
     const selected = customList.selected().map(item => item.recid);
     if (event.button !== 0) {
@@ -42,7 +40,7 @@ function onCustomPress(event) {
         customList.choose(others.length < selected.length ? others : selected.concat(place.recid), place);
     }
     // The end of an edit may have drawn the rows anew; then no click comes.
-    if (event.button === 0 && event.target.type === 'checkbox') {
+    if (isTaken && event.button === 0 && event.target.type === 'checkbox') {
         toggleCustomItem();
     }
 }

@@ -6,9 +6,6 @@ const customMenu = {
     openAt(recid) {
         const cell = customList.cell(recid, customList.current.column);
         if (cell) {
-            if (!customList.meant().some(item => item.recid === recid)) {
-                customList.choose([recid], customList.current);
-            }
             const { left, bottom } = cell.getBoundingClientRect();
             this.open(recid, left, bottom);
         }
@@ -19,6 +16,10 @@ const customMenu = {
         this.close();
         if (wrentabledialog_obj.gridLock || !item || isBlankItem(item)) {
             return;
+        }
+        // What it deletes is the row it stands at, or what is selected together with that.
+        if (!customList.meant().includes(item)) {
+            customList.choose([recid], { recid, column: customList.current.column });
         }
         const list = document.createElement('ul');
         list.id = 'wren_custom_menu';
