@@ -124,6 +124,14 @@ public:
     virtual void setTriggerOffset(int frame) = 0;
     /// The frames to keep of what is recorded, as frame numbers: first <= start <= end <= last.
     virtual void setSelectRange(int start, int end) = 0;
+    /// Presets: settings that the device keeps itself, those of all its heads together, by numbers from 1. One that
+    /// `presetNeedsReboot` takes effect only when the device has been started anew. Loading and saving take the
+    /// device's time, and throw for a number that it does not have.
+    virtual zeb::CameraPresetInfo getCameraPresetInfo() const = 0;
+    virtual bool presetNeedsReboot() const = 0;
+    virtual void loadCameraPreset(int number) = 0;
+    virtual void saveCameraPreset(int number) = 0;
+
     /// Whether the partition in use holds a recording; what erases it.
     virtual bool hasRecordedData() const = 0;
     virtual void eraseRecordedData(int mode) = 0;

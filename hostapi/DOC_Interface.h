@@ -50,6 +50,11 @@ public:
     /// The document of the device that this head belongs to; null when it has none.
     virtual DOC_Interface* getParentDoc() const = 0;
 
+    /// The device of the camera `key`, this one, is about to start anew, so that nobody takes it for lost. `mode` is 0.
+    virtual void markRebooting(int mode, DOCKEY key) = 0;
+    /// What the user knows the camera by.
+    virtual QString getDisplayName() const = 0;
+
     /// The documents of all heads of the device, the master first; null for one that is gone.
     virtual DocList getHeadDocs(int mode) = 0;
 

@@ -50,6 +50,8 @@ public:
     /// host. Like `ZebCameraOps` they may run an event loop.
     virtual void connectDocs(const DocKeyList& keys) = 0;
     virtual void disconnectDocs(const DocKeyList& keys) = 0;
+    /// The same of one camera, which a preset takes away. `mode` is 0.
+    virtual void disconnectDoc(DOCKEY key, int mode) = 0;
     /// Forgets all cameras; a search finds them again.
     virtual void deleteAllDocs(int kind, int mode) = 0;
     /// The host's own dialog for a camera; runs an event loop until it is closed.
@@ -81,6 +83,13 @@ public:
     virtual void beginDocEditNotify() = 0;
     virtual void endDocEdit() = 0;
     virtual void commitDocEdit() = 0;
+
+    /// Settings of cameras in a file of the host's own form. Both throw with a text that names the file. Loading shows
+    /// what it will do and asks the user: it runs event loops, cameras may go in them, and one that the user leaves
+    /// alone is no failure. Saving takes all connected cameras, replaces the file whole, and may be called on any
+    /// thread.
+    virtual void loadSettingsFile(const QString& path, int mode, int reserved) = 0;
+    virtual void saveSettingsFile(const QString& path, int mode) = 0;
 
     /// Shows the list of documents anew.
     virtual void refreshDocList(int mode) = 0;

@@ -85,6 +85,8 @@ public:
     virtual bool isPrefsRestored() const = 0;
     /// 1: somebody has.
     virtual void setPrefsRestored(int state) = 0;
+    /// Settings are about to be loaded: what `isPrefsRestored` says from now on comes from that. `mode` is 0.
+    virtual void clearPrefsRestored(int mode) = 0;
 
     /// The text in the user's language; a key without a translation comes back as it is. Does not throw.
     virtual QString translate(const QString& text) const = 0;

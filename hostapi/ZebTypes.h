@@ -124,6 +124,12 @@ struct ImageFormat {
     int realDepth = 8;
 };
 
+/// Presets that a device keeps: which of them it works with, from 1, or 0 for none of them, and how many it has.
+struct CameraPresetInfo {
+    int current = 0;
+    int count = 0;
+};
+
 /// Channels of variable recording settings count from 1 to this.
 constexpr int VariableChannels = 20;
 

@@ -99,6 +99,14 @@ public:
     void setPortSignal(int index, int signal);
     void setName(const QString& name);
     void setComment(const QString& comment);
+    /// Presets of the device, of all its heads. Throw also for a number that it does not have; a preset that nobody has
+    /// saved holds what the model starts with.
+    zeb::CameraPresetInfo presetInfo() const;
+    void loadPreset(int number);
+    void savePreset(int number);
+    /// The device is about to start anew.
+    void markRebooting();
+    void setPluginEffective(const QString& name, bool effective);
     void eraseRecordedData();
     /// Throws also for a partition or channel that the camera does not have.
     void setPartition(PARTITIONNUMBER partition);
@@ -121,6 +129,7 @@ public:
 private:
     [[noreturn]] void refuse(const QString& reason) const;
     void require(int function, const char* mode) const;
+    void requirePreset(int number) const;
     void fitShutter();
     void switchLowLight(CameraOperation operation, bool on);
     /// Whether the camera is there to do it.

@@ -40,6 +40,13 @@ struct CameraModel {
     QStringList lowLightRefuses;
     /// Bits of a pixel that the camera fills.
     int bitDepth = 8;
+    /// Presets that a device keeps; whether it has to start anew to load one, and how long that takes, in milliseconds.
+    int presets = 0;
+    bool presetReboots = false;
+    int bootTime = 0;
+    /// How far a pixel strays from what it should be, in levels of 255, and how many stand at full brightness.
+    int grain = 0;
+    int hotPixels = 0;
     /// How long the camera waits for CTS before it is ready, in milliseconds; 0 when it does not.
     int ctsReady = 0;
     /// Size of the memory in MiB; a pixel takes one byte.

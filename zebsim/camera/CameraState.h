@@ -96,6 +96,9 @@ struct CameraState : PartitionMemory {
     Q_PROPERTY(QStringList plugins MEMBER plugins)
     Q_PROPERTY(QStringList effectivePlugins MEMBER effectivePlugins)
     Q_PROPERTY(QStringList blockedPlugins MEMBER blockedPlugins)
+    Q_PROPERTY(QVariantMap pluginValues MEMBER pluginValues)
+    Q_PROPERTY(QVariantMap presets MEMBER presets)
+    Q_PROPERTY(int preset MEMBER preset)
     Q_PROPERTY(bool suspendReduce MEMBER suspendReduce)
     Q_PROPERTY(bool stopLive MEMBER stopLive)
     Q_PROPERTY(uint partitions MEMBER partitions)
@@ -179,6 +182,12 @@ public:
     QStringList plugins;
     QStringList effectivePlugins;
     QStringList blockedPlugins;
+    /// The numbers of an image plug-in by their names, by its own name.
+    QVariantMap pluginValues;
+    /// What this head has of each preset of its device: settings by their names, by its number. And the number of the
+    /// one that was loaded or saved last, 0 for none.
+    QVariantMap presets;
+    int preset = 0;
     /// Names of the memory's partitions, one without a name goes by its number; how many there are, and the one in
     /// use, from 1.
     QStringList partitionNames;

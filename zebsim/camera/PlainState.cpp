@@ -139,6 +139,11 @@ QVariant readAs(int type, const QVariant& value) {
         }
         case QMetaType::QPoint:
             return readPair(value);
+        case QMetaType::QVariantMap:
+            if (value.type() != QVariant::Map) {
+                fail(QStringLiteral("an object is expected"));
+            }
+            return value;
         default:
             return readTexts(value);
     }

@@ -11,7 +11,7 @@ struct StateError {
 };
 
 /// The members of a gadget as plain data: texts, numbers, bools and lists of them; sizes and points are lists of two
-/// numbers, what goes by number is an object, as `{"5": 14}`, custom information a list of objects.
+/// numbers, what goes by number or name is an object, as `{"5": 14}`, custom information a list of objects.
 QVariantMap readMembers(const QMetaObject& type, const void* gadget);
 
 /// Sets the members that `members` names, one after the other. Throws `StateError` at the first that can't be set.

@@ -31,7 +31,7 @@ public:
         return factoryValues().value(QStringLiteral("wren/column_order/") % tabs.value(tab)).toString();
     }
 
-    /// As `ZebHost::isPrefsRestored` and `ZebHost::setPrefsRestored`.
+    /// As `ZebHost::isPrefsRestored` and what sets it.
     bool isRestored() const {
         m_calls.ask(OPERATION("isPrefsRestored"));
         return m_isRestored;
@@ -39,6 +39,11 @@ public:
     void setRestored(int state) {
         m_calls.change(OPERATION("ZebHost::setPrefsRestored"), {state});
         m_isRestored = state == 0;
+    }
+
+    void clearRestored(int mode) {
+        m_calls.change(OPERATION("ZebHost::clearPrefsRestored"), {mode});
+        m_isRestored = false;
     }
 
 private:

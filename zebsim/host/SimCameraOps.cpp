@@ -187,6 +187,13 @@ bool SimCameraOps::isLowlight() const {
            });
 }
 
+bool SimCameraOps::hasLowLightCamera() const {
+    m_host.calls.ask(OPERATION("hasLowLightCamera"));
+    const auto cameras = m_host.cameras.connected();
+    return std::any_of(cameras.begin(), cameras.end(),
+                       [](const Camera* camera) { return camera->get(&CameraState::lowLight); });
+}
+
 bool SimCameraOps::existLowlight() const {
     m_host.calls.ask(OPERATION("existLowlight"));
     const auto cameras = m_host.cameras.connected();

@@ -37,6 +37,7 @@ public:
     void setVariable(unsigned int channel) override;
     void stopForPrefs() override;
     bool isLowlight() const override;
+    bool hasLowLightCamera() const override;
     bool existLowlight() const override;
     bool isAllLowlight(bool on) const override;
     bool isLensCalibration() const override;

@@ -132,6 +132,7 @@ public:
 
     bool isPrefsRestored() const override { return m_hostPrefs.isRestored(); }
     void setPrefsRestored(int state) override { m_hostPrefs.setRestored(state); }
+    void clearPrefsRestored(int mode) override { m_hostPrefs.clearRestored(mode); }
 
     QString translate(const QString& text) const override { return m_translator.translate(text); }
 

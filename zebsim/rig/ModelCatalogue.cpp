@@ -69,7 +69,10 @@ CameraModel readModel(const JsonNode& node) {
                     QStringLiteral("memory"),        QStringLiteral("ctsReady"),
                     QStringLiteral("bitDepth"),      QStringLiteral("lowLightRefuses"),
                     QStringLiteral("syncCapable"),   QStringLiteral("exposureTiming"),
-                    QStringLiteral("exposureDelay"), QStringLiteral("initial")});
+                    QStringLiteral("exposureDelay"), QStringLiteral("initial"),
+                    QStringLiteral("presets"),       QStringLiteral("presetReboots"),
+                    QStringLiteral("bootTime"),      QStringLiteral("grain"),
+                    QStringLiteral("hotPixels")});
     CameraModel model;
     model.name = node.member(QStringLiteral("name")).text();
     model.type = node.member(QStringLiteral("type")).number(0, highest);
@@ -103,6 +106,13 @@ CameraModel readModel(const JsonNode& node) {
         }
     }
     model.ctsReady = readNumber(node, QStringLiteral("ctsReady"));
+    if (node.has(QStringLiteral("presets"))) {
+        model.presets = node.member(QStringLiteral("presets")).number(0, 7);
+    }
+    model.presetReboots = readFlag(node, QStringLiteral("presetReboots"));
+    model.bootTime = readNumber(node, QStringLiteral("bootTime"));
+    model.grain = readNumber(node, QStringLiteral("grain"));
+    model.hotPixels = readNumber(node, QStringLiteral("hotPixels"));
     model.memory = node.member(QStringLiteral("memory")).number(0, 1 << 24);
     model.initial = readInitial(node, model);
     return model;

@@ -120,6 +120,14 @@ public:
         changeConnected(OPERATION("DOC_Control::setSelectRange"), {start, end})
             .set(&CameraState::selectedRange, {start, end});
     }
+    zeb::CameraPresetInfo getCameraPresetInfo() const override {
+        return askConnected(OPERATION("getCameraPresetInfo")).presetInfo();
+    }
+    bool presetNeedsReboot() const override {
+        return askConnected(OPERATION("presetNeedsReboot"), &CameraModel::presetReboots);
+    }
+    void loadCameraPreset(int number) override { note("DOC_Control::loadCameraPreset", {number}).loadPreset(number); }
+    void saveCameraPreset(int number) override { note("DOC_Control::saveCameraPreset", {number}).savePreset(number); }
     /// Not of a camera that is armed or records, and of none while the host records: nothing may be erased then.
     bool hasRecordedData() const override;
     void eraseRecordedData(int mode) override;

@@ -99,6 +99,13 @@ void SimDocManager::disconnectDocs(const DocKeyList& keys) {
     });
 }
 
+void SimDocManager::disconnectDoc(DOCKEY key, int mode) {
+    m_host.calls.change(OPERATION("ZebDocManager::disconnectDoc"), {key, mode});
+    if (const auto camera = m_host.cameras.hold(key)) {
+        camera->disconnect();
+    }
+}
+
 void SimDocManager::onDevices(const DocKeyList& keys, const std::function<void(Camera&)>& work) {
     try {
         m_host.batch.runOrThrow(m_host.cameras.holdDevices(keys), work);
@@ -144,6 +151,14 @@ bool SimDocManager::sharesDeviceWithLockedHead(DOC_Interface* doc, bool shutter,
     const auto& heads = camera->device().heads();
     return std::any_of(heads.begin(), heads.end(),
                        [camera](const auto& head) { return head.get() != camera && head->get(&CameraState::locked); });
+}
+
+void SimDocManager::loadSettingsFile(const QString& path, int mode, int reserved) {
+    m_host.calls.change(OPERATION("ZebDocManager::loadSettingsFile"), {path, mode, reserved});
+}
+
+void SimDocManager::saveSettingsFile(const QString& path, int mode) {
+    m_host.calls.change(OPERATION("ZebDocManager::saveSettingsFile"), {path, mode});
 }
 
 void SimDocManager::refreshDocList(int mode) {

@@ -83,6 +83,7 @@ public:
     /// The user is told why some did not connect or disconnect.
     void connectDocs(const DocKeyList& keys) override;
     void disconnectDocs(const DocKeyList& keys) override;
+    void disconnectDoc(DOCKEY key, int mode) override;
     /// Throws while a connected camera is armed or records. A notice names those that hold images nobody has saved.
     void deleteAllDocs(int kind, int mode) override;
     void editDoc(DOCKEY key) override;
@@ -111,6 +112,8 @@ public:
     void beginDocEditNotify() override { m_host.calls.change(OPERATION("ZebDocManager::beginDocEditNotify")); }
     void endDocEdit() override { m_host.calls.change(OPERATION("ZebDocManager::endDocEdit")); }
     void commitDocEdit() override { m_host.calls.change(OPERATION("ZebDocManager::commitDocEdit")); }
+    void loadSettingsFile(const QString& path, int mode, int reserved) override;
+    void saveSettingsFile(const QString& path, int mode) override;
     void refreshDocList(int mode) override;
 
     void setQuickTool(const QString& tool, bool on) override {

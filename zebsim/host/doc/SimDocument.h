@@ -36,6 +36,10 @@ public:
     bool isCFastSelected() const override { return ask(OPERATION("isCFastSelected"), &CameraState::cfast); }
     /// The document of the master head; null for the master and for a camera of one head.
     DOC_Interface* getParentDoc() const override;
+    void markRebooting(int mode, DOCKEY key) override {
+        note("DOC_Interface::markRebooting", {mode, key}).markRebooting();
+    }
+    QString getDisplayName() const override { return ask(OPERATION("getDisplayName"), &CameraState::name); }
     DocList getHeadDocs(int mode) override;
     /// "Partition 2", in the user's language, for one without a name.
     QString getPartitionName(PARTITIONNUMBER partition) const override;

@@ -12,4 +12,5 @@ public:
         const auto recording = askConnected(OPERATION("getFrameTotal")).recording();
         return recording ? recording->selectedCount() : 0;
     }
+    void refreshAfterPreset(int mode) override { changeConnected(OPERATION("DOC_Head::refreshAfterPreset"), {mode}); }
 };

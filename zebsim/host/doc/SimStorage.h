@@ -14,5 +14,9 @@ public:
     bool isPluginEffective(const QString& name, int /*head*/) const override {
         return askConnected(OPERATION("isPluginEffective"), &CameraState::effectivePlugins).contains(name);
     }
+    void setPluginEffective(const QString& name, bool effective, int head) override {
+        changeConnected(OPERATION("DOC_Storage::setPluginEffective"), {name, effective, head})
+            .setPluginEffective(name, effective);
+    }
     bool isLutCurve() const override { return ask(OPERATION("isLutCurve"), &CameraState::lutCurve); }
 };

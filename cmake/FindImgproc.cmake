@@ -1,0 +1,11 @@
+# The image filters of OpenCV alone, for which its package brings no file of its own: the target `opencv_imgproc`.
+find_path(IMGPROC_FOLDER opencv2/imgproc.hpp PATH_SUFFIXES opencv4)
+find_library(IMGPROC_CORE opencv_core)
+find_library(IMGPROC_LIBRARY opencv_imgproc)
+include(FindPackageHandleStandardArgs)
+find_package_handle_standard_args(Imgproc REQUIRED_VARS IMGPROC_LIBRARY IMGPROC_CORE IMGPROC_FOLDER)
+if(Imgproc_FOUND AND NOT TARGET opencv_imgproc)
+    add_library(opencv_imgproc INTERFACE IMPORTED)
+    target_include_directories(opencv_imgproc INTERFACE ${IMGPROC_FOLDER})
+    target_link_libraries(opencv_imgproc INTERFACE ${IMGPROC_LIBRARY} ${IMGPROC_CORE})
+endif()
