@@ -1,4 +1,4 @@
-#include "CameraState.h"
+#include "CameraModel.h"
 #include "FramePicture.h"
 #include "Playback.h"
 #include "Recording.h"
@@ -10,7 +10,7 @@ namespace {
 constexpr QSize Size{320, 240};
 
 CameraFrame frameOf(const QString& camera, qint64 number) {
-    return {camera, QSize(640, 480), number, number * 1000};
+    return {camera, QSize(640, 480), number, number * 1000, {}, {}};
 }
 
 TEST(FramePicture, ShowsWhichFrameOfWhichCameraItIs) {
@@ -31,17 +31,17 @@ TEST(CameraFrame, TellsNumberAndTimeFromTheZeroPoint) {
     CameraState state;
     state.name = QStringLiteral("Gate");
     state.rate = 2000;
-    const CameraFrame live = CameraFrame::live(state, 1500);
+    const CameraFrame live = CameraFrame::live(state, {}, 1500);
     EXPECT_EQ(live.number, 3000);
     EXPECT_EQ(live.time, 1500000);
     Recording recording;
     recording.rate = 4000;
     recording.last = 999;
     recording.zero = 400;
-    EXPECT_EQ(CameraFrame::recorded(state, recording, 396).number, -4);
-    EXPECT_EQ(CameraFrame::recorded(state, recording, 396).time, -1000);
+    EXPECT_EQ(CameraFrame::recorded(state, {}, recording, 396).number, -4);
+    EXPECT_EQ(CameraFrame::recorded(state, {}, recording, 396).time, -1000);
     recording.rate = 0;
-    EXPECT_EQ(CameraFrame::recorded(state, recording, 396).time, 0);
+    EXPECT_EQ(CameraFrame::recorded(state, {}, recording, 396).time, 0);
 }
 
 TEST(Playback, GoesThroughTheFramesToKeep) {

@@ -5,8 +5,9 @@
 #include <QMdiSubWindow>
 
 class CameraView;
+class EffectPanel;
 
-/// The window of a camera's image. It comes and goes with the connection; a user can't close it.
+/// The window of a camera's image, with the panel of its image plug-ins, which is hidden at first. It comes and goes with the connection; a user can't close it.
 class CameraWindow : public QMdiSubWindow {
     Q_OBJECT
 
@@ -15,11 +16,14 @@ public:
 
     DOCKEY key() const { return m_key; }
     CameraView& view() const { return *m_view; }
+    EffectPanel& effects() const { return *m_effects; }
 
 protected:
     void closeEvent(QCloseEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
     const DOCKEY m_key;
     CameraView* m_view;
+    EffectPanel* m_effects;
 };

@@ -4,7 +4,9 @@
 #include "CameraView.h"
 #include "CameraWindow.h"
 #include "Clock.h"
+#include "EffectPanel.h"
 #include "ImageArea.h"
+#include "ImageEffects.h"
 #include "SimHost.h"
 #include "UiText.h"
 
@@ -33,6 +35,12 @@ CameraWindows::CameraWindows(SimHost& host, ImageArea& area) : m_host(host), m_a
     connect(&host.events(), &HostEvents::liveImageWanted, this, &CameraWindows::showFresh);
     connect(&host.events(), &HostEvents::modeChanged, this, &CameraWindows::showNow);
     connect(&host.events(), &HostEvents::updateFinished, this, &CameraWindows::follow);
+    connect(&host.events(), &HostEvents::pluginWanted, this, [this](const QString& name) {
+        const CameraWindow* window = find(m_host.docManager().currentKey());
+        if (window != nullptr && findImageEffect(name) != nullptr) {
+            window->effects().show();
+        }
+    });
     connect(&area, &QMdiArea::subWindowActivated, this, &CameraWindows::windowActivated);
     connect(&m_timer, &QTimer::timeout, this, &CameraWindows::showNow);
     m_timer.start(LeastInterval);
@@ -52,6 +60,7 @@ void CameraWindows::follow() {
             window.setWindowTitle(title);
         }
         window.view().setMarked(camera.get(&CameraState::selected));
+        window.effects().follow(camera);
     });
     activateCurrent();
     m_area.setEmptyText(emptyText());
@@ -76,7 +85,7 @@ void CameraWindows::addAndRemove() {
         if (m_windows.contains(key)) {
             continue;
         }
-        auto* window = new CameraWindow(key);
+        CameraWindow* window = makeWindow(key);
         m_windows.insert(key, window);
         m_area.addSubWindow(window);
         // The area has given it buttons to close and to minimise, which leave no room for a name.
@@ -92,6 +101,32 @@ void CameraWindows::addAndRemove() {
     }
     m_area.tile(inOrder);
     m_timer.setInterval(std::max(LeastInterval, m_windows.size() * IntervalForEach));
+}
+
+CameraWindow* CameraWindows::makeWindow(DOCKEY key) {
+    auto* window = new CameraWindow(key);
+    EffectPanel* effects = &window->effects();
+    connect(effects, &EffectPanel::switched, this, [this, key](const QString& plugin, bool on) {
+        if (Camera* camera = m_host.cameras().find(key)) {
+            camera->setPluginEffective(plugin, on);
+        }
+        m_host.updates().request();
+        showNow();
+    });
+    connect(effects, &EffectPanel::changed, this, [this, key](const QString& plugin, const QVector<int>& values) {
+        if (Camera* camera = m_host.cameras().find(key)) {
+            camera->setPluginValues(plugin, findImageEffect(plugin)->plain(values));
+        }
+        showNow();
+    });
+    return window;
+}
+
+void CameraWindows::toggleEffects() {
+    if (const CameraWindow* window = find(m_host.docManager().currentKey())) {
+        EffectPanel& effects = window->effects();
+        effects.setVisible(effects.isHidden());
+    }
 }
 
 void CameraWindows::activateCurrent() {
@@ -149,8 +184,9 @@ void CameraWindows::showImage(const Camera& camera, CameraWindow& window, qint64
         frame = recordedFrame(camera, passed);
     } else if (window.view().frame() && !m_fresh && (state.stopLive || m_host.liveLoop().isLivePaused())) {
         frame = window.view().frame();
+        frame->effects = effectsOf(state, zeb::LiveMode);
     } else {
-        frame = CameraFrame::live(state, m_shownAt);
+        frame = CameraFrame::live(state, camera.model(), m_shownAt);
     }
     window.view().showItems(camera.customInfo(m_host.isMemoryMode()));
     window.view().showFrame(frame, poseOf(state), uiText("Nothing is recorded"));
@@ -164,7 +200,8 @@ std::optional<CameraFrame> CameraWindows::recordedFrame(const Camera& camera, qi
     if (camera.get(&CameraState::playing)) {
         m_playback.advance(camera.key(), *recording, passed);
     }
-    return CameraFrame::recorded(camera.state(), *recording, m_playback.frame(camera.key(), *recording));
+    return CameraFrame::recorded(camera.state(), camera.model(), *recording,
+                                 m_playback.frame(camera.key(), *recording));
 }
 
 QString CameraWindows::emptyText() const {

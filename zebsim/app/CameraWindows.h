@@ -31,6 +31,8 @@ public:
     void follow();
     /// Follows, and shows what the cameras see at this time of the host's clock.
     void showNow();
+    /// Shows the image plug-ins in the window of the current camera, or hides them.
+    void toggleEffects();
     /// Null when the camera has no window.
     CameraWindow* find(DOCKEY key) const { return m_windows.value(key); }
 
@@ -41,6 +43,7 @@ Q_SIGNALS:
 private:
     void forEach(const std::function<void(const Camera&, CameraWindow&)>& work) const;
     void addAndRemove();
+    CameraWindow* makeWindow(DOCKEY key);
     void activateCurrent();
     void windowActivated(QMdiSubWindow* window);
     /// Shows one new image of each camera whose live images stand.

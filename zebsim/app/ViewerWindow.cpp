@@ -52,6 +52,8 @@ ViewerWindow::ViewerWindow(SimHost& host, const LogStore& log)
     m_viewMenu->addSeparator();
     addStyleSwitch();
     m_images = std::make_unique<CameraWindows>(host, *m_area);
+    m_viewMenu->addSeparator();
+    addEntry(m_viewMenu, uiText("Image plug-ins of the camera"), "effects", [this] { m_images->toggleEffects(); });
     addToolBarBreak();
     addToolBar(new PlayerBar(host, *m_images, this));
     addDockWidget(Qt::BottomDockWidgetArea, new LogDock(log, host.journal(), this));

@@ -1,34 +1,36 @@
 #include "ImagePlugins.h"
 
-#include "TextKey.h"
-
-#include <QHash>
-
-namespace imageplugins {
+#include "ImageEffects.h"
+#include "PLG_Common.h"
+#include "SimAppStatus.h"
 
 namespace {
 
-/// By the key of its text, which is "p_" and its name: whether it needs an OK.
-const QHash<QString, bool>& table() {
-    static const QHash<QString, bool> plugins{{TextKey("p_lut"), false},       {TextKey("p_colorcorrection"), false},
-                                              {TextKey("p_filter"), true},     {TextKey("p_scale"), false},
-                                              {TextKey("p_histogram"), false}, {TextKey("p_mosaic"), true},
-                                              {TextKey("p_addtext"), true}};
-    return plugins;
-}
+/// Documents are taken in and left out of it; it works on the images of each.
+constexpr int ToolOfDocuments = 2;
 
-QString keyOf(const QString& name) {
-    return QLatin1String("p_") % name;
-}
+class ImageTool : public PLG_Common {
+public:
+    explicit ImageTool(const ImageEffect& effect) {
+        m_name = effect.name;
+        m_modeMask = effect.modes;
+        m_buttonType = ToolOfDocuments;
+        m_toolActive = true;
+    }
+};
 
 }  // namespace
 
-bool has(const QString& name) {
-    return table().contains(keyOf(name));
+ImagePlugins::ImagePlugins(ZebHost& host, SimAppStatus& appStatus) : m_appStatus(appStatus) {
+    for (const ImageEffect& effect : imageEffects()) {
+        m_plugins.push_back(std::make_unique<ImageTool>(effect));
+        m_plugins.back()->setHost(&host);
+        m_appStatus.registerPlugin(m_plugins.back().get());
+    }
 }
 
-bool needsOk(const QString& name) {
-    return table().value(keyOf(name));
+ImagePlugins::~ImagePlugins() {
+    for (const auto& plugin : m_plugins) {
+        m_appStatus.unregisterPlugin(plugin.get());
+    }
 }
-
-}  // namespace imageplugins

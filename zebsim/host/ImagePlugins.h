@@ -1,13 +1,21 @@
 #pragma once
 
-#include <QString>
+#include <memory>
+#include <vector>
 
-/// The plug-ins of the host that work on the images of a camera.
-namespace imageplugins {
+class PLG_Interface;
+class SimAppStatus;
+class ZebHost;
 
-bool has(const QString& name);
+/// The host's own plug-ins, a tool for each effect on the images of a camera. They have no dialog: their numbers stand
+/// in the camera's window. GUI thread.
+class ImagePlugins {
+public:
+    /// They are registered with `appStatus`; both must outlive the object.
+    ImagePlugins(ZebHost& host, SimAppStatus& appStatus);
+    ~ImagePlugins();
 
-/// Whether its changes take effect only when the user presses OK; false for a plug-in that does not exist.
-bool needsOk(const QString& name);
-
-}  // namespace imageplugins
+private:
+    SimAppStatus& m_appStatus;
+    std::vector<std::unique_ptr<PLG_Interface>> m_plugins;
+};

@@ -6,7 +6,7 @@
 #include "HostCalls.h"
 #include "HostContext.h"
 #include "HostEvents.h"
-#include "ImagePlugins.h"
+#include "ImageEffects.h"
 #include "StatusFlags.h"
 #include "UpdateCycle.h"
 
@@ -71,12 +71,13 @@ void SimAppStatus::setCurrentPlugin(PLG_Interface* plugin) {
 
 void SimAppStatus::openPlugin(const QString& name) {
     m_host.calls.change(OPERATION("ZebAppStatus::openPlugin"), {name});
-    if (getPlugin(name)) {
-        Q_EMIT m_host.events.pluginWanted(name);
-    } else if (imageplugins::has(name)) {
+    if (findImageEffect(name)) {
         setCurrentPlugin(nullptr);
         m_panel = name;
+        Q_EMIT m_host.events.pluginWanted(name);
         m_host.updates.request();
+    } else if (getPlugin(name)) {
+        Q_EMIT m_host.events.pluginWanted(name);
     } else {
         throw std::invalid_argument(QStringLiteral("There is no plug-in \"%1\".").arg(name).toStdString());
     }

@@ -12,6 +12,7 @@
 #include "HostStates.h"
 #include "HostUpdates.h"
 #include "HostWindows.h"
+#include "ImageEffects.h"
 #include "ImagePlugins.h"
 #include "Journal.h"
 #include "Notices.h"
@@ -242,8 +243,11 @@ public:
     QWidget* getFullScreenWidget() const override { return m_states.fullScreenWidget(m_mainWindow); }
     bool isTextBoxFocussing() const override { return m_flags.isOn(StatusFlags::IsModalessDialogTextFocussing); }
     bool isToolActive(const QString& tool) const override { return m_docManager.isToolActive(tool); }
-    bool isPluginAvailable(const QString& name) const override { return imageplugins::has(name); }
-    bool isPluginOkPattern(const QString& name) const override { return imageplugins::needsOk(name); }
+    bool isPluginAvailable(const QString& name) const override { return findImageEffect(name) != nullptr; }
+    bool isPluginOkPattern(const QString& name) const override {
+        const ImageEffect* effect = findImageEffect(name);
+        return effect != nullptr && effect->needsOk;
+    }
     QList<int> getSyncCapableCameraTypes() const override { return m_states.syncCapableCameraTypes(); }
     bool isCapable(const QString& capability, DOC_Interface* doc, int /*head*/) const override {
         return m_states.isCapable(capability, doc);
@@ -305,4 +309,5 @@ private:
     SimViewOps m_viewOps;
     SimMdi m_mdi;
     SimUndo m_undo;
+    const ImagePlugins m_imagePlugins;
 };

@@ -1,18 +1,26 @@
 #include "CameraFrame.h"
 
-#include "CameraState.h"
+#include "CameraModel.h"
 #include "Recording.h"
 
 bool CameraFrame::operator==(const CameraFrame& other) const {
-    return camera == other.camera && resolution == other.resolution && number == other.number && time == other.time;
+    return camera == other.camera && resolution == other.resolution && number == other.number && time == other.time &&
+           noise == other.noise && effects == other.effects;
 }
 
-CameraFrame CameraFrame::live(const CameraState& state, qint64 now) {
-    return {state.name, state.resolution, now * state.rate / 1000, now * 1000};
+CameraFrame CameraFrame::live(const CameraState& state, const CameraModel& model, qint64 now) {
+    return {state.name,
+            state.resolution,
+            now * state.rate / 1000,
+            now * 1000,
+            {model.grain, model.hotPixels},
+            effectsOf(state, zeb::LiveMode)};
 }
 
-CameraFrame CameraFrame::recorded(const CameraState& state, const Recording& recording, int frame) {
+CameraFrame CameraFrame::recorded(const CameraState& state, const CameraModel& model, const Recording& recording,
+                                  int frame) {
     const qint64 number = qint64(frame) - recording.zero;
     const qint64 time = recording.rate > 0 ? number * 1000000 / recording.rate : 0;
-    return {state.name, recording.resolution, number, time};
+    return {state.name, recording.resolution,           number,
+            time,       {model.grain, model.hotPixels}, effectsOf(state, zeb::MemoryMode)};
 }

@@ -1,8 +1,12 @@
 #pragma once
 
+#include "ImageEffects.h"
+#include "SensorNoise.h"
+
 #include <QSize>
 #include <QString>
 
+struct CameraModel;
 struct CameraState;
 struct Recording;
 
@@ -14,11 +18,15 @@ struct CameraFrame {
     qint64 number = 0;
     /// Time of that number, in microseconds.
     qint64 time = 0;
+    SensorNoise noise;
+    /// What plug-ins make of it.
+    FrameEffects effects;
 
     bool operator==(const CameraFrame& other) const;
 
     /// What the camera sees at `now`, a time of the host's clock.
-    static CameraFrame live(const CameraState& state, qint64 now);
+    static CameraFrame live(const CameraState& state, const CameraModel& model, qint64 now);
     /// The frame with this number in the memory.
-    static CameraFrame recorded(const CameraState& state, const Recording& recording, int frame);
+    static CameraFrame recorded(const CameraState& state, const CameraModel& model, const Recording& recording,
+                                int frame);
 };

@@ -14,13 +14,13 @@ constexpr int FramesInTurn = 2400;
 constexpr int TextShare = 14;
 constexpr int SmallestText = 9;
 
-/// A colour of the camera's own, the same at every start of the program.
-QColor groundOf(const QString& camera) {
+/// A number of the camera's own, the same at every start of the program.
+unsigned int numberOf(const QString& camera) {
     unsigned int sum = 7;
     for (const QChar letter : camera) {
         sum = sum * 31 + letter.unicode();
     }
-    return QColor::fromHsv(int(sum % 360), 90, 96);
+    return sum;
 }
 
 void drawGround(QPainter& painter, const QColor& colour, const QSize& size) {
@@ -80,20 +80,31 @@ void drawTexts(QPainter& painter, const CameraFrame& frame, const QSize& size) {
     }
 }
 
-}  // namespace
-
-QImage drawFrame(const CameraFrame& frame, const QSize& size) {
+QImage drawScene(const CameraFrame& frame, const QSize& size) {
     QImage picture(size, QImage::Format_RGB32);
     if (picture.isNull()) {
         return picture;
     }
     QPainter painter(&picture);
     painter.setRenderHint(QPainter::Antialiasing);
-    const QColor colour = groundOf(frame.camera);
+    const QColor colour = QColor::fromHsv(int(numberOf(frame.camera) % 360), 90, 96);
     drawGround(painter, colour, size);
     drawMotion(painter, colour, size, frame.number);
     drawTexts(painter, frame, size);
     return picture;
+}
+
+}  // namespace
+
+QImage drawFrame(const CameraFrame& frame, const QSize& size) {
+    const bool seesNeighbours = std::any_of(frame.effects.begin(), frame.effects.end(),
+                                            [](const auto& effect) { return effect.first->seesNeighbours; });
+    QImage picture = drawScene(frame, seesNeighbours ? frame.resolution : size);
+    frame.noise.addTo(picture, numberOf(frame.camera), frame.number);
+    for (const auto& effect : frame.effects) {
+        effect.first->apply(picture, effect.second);
+    }
+    return picture.size() == size ? picture : picture.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
 }
 
 QSize fitInto(const QSize& bounds, const QSize& resolution) {

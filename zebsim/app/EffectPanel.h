@@ -1,0 +1,47 @@
+#pragma once
+
+#include <QMap>
+#include <QScrollArea>
+#include <QString>
+#include <QVector>
+
+class Camera;
+class QCheckBox;
+class QSpinBox;
+class QVBoxLayout;
+struct ImageEffect;
+
+/// The image plug-ins of a camera, each with its switch and its numbers; of one that needs it the numbers go out by its
+/// OK. On a locked camera those that work on live images stand still. GUI thread.
+class EffectPanel : public QScrollArea {
+    Q_OBJECT
+
+public:
+    explicit EffectPanel(QWidget* parent);
+
+    /// Shows what the camera has now. What is typed and waits for its OK stays.
+    void follow(const Camera& camera);
+
+Q_SIGNALS:
+    void switched(const QString& plugin, bool on);
+    /// A value for each of the plug-in's numbers.
+    void changed(const QString& plugin, const QVector<int>& values);
+
+private:
+    struct Row {
+        const ImageEffect* effect = nullptr;
+        QWidget* box = nullptr;
+        QCheckBox* on = nullptr;
+        QVector<QSpinBox*> numbers;
+        /// As they were last told.
+        QVector<int> values;
+    };
+
+    void build(const QStringList& plugins);
+    Row makeRow(const ImageEffect& effect);
+    void send(const Row& row);
+
+    QVBoxLayout* m_layout;
+    QStringList m_plugins;
+    QMap<QString, Row> m_rows;
+};

@@ -1,0 +1,212 @@
+#include "ImageEffects.h"
+
+#include "CameraState.h"
+#include "TextKey.h"
+
+#include <opencv2/imgproc.hpp>
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+namespace {
+
+constexpr int EveryMode = 1 << zeb::LiveMode | 1 << zeb::MemoryMode | 1 << zeb::FileMode;
+constexpr int Levels = 256;
+
+cv::Mat viewOf(QImage& picture) {
+    // Cameras are worked on side by side; a filter of its own threads would only take turns with them.
+    static const bool single = [] {
+        cv::setNumThreads(1);
+        return true;
+    }();
+    Q_UNUSED(single)
+    return {picture.height(), picture.width(), CV_8UC4, picture.bits(), std::size_t(picture.bytesPerLine())};
+}
+
+/// Filters reckon with the byte beside the colours too.
+void makeOpaque(QImage& picture) {
+    for (int y = 0; y < picture.height(); ++y) {
+        auto* pixel = reinterpret_cast<QRgb*>(picture.scanLine(y));
+        std::for_each(pixel, pixel + picture.width(), [](QRgb& colour) { colour |= 0xFF000000U; });
+    }
+}
+
+template <typename Change>
+void changePixels(QImage& picture, const Change& change) {
+    for (int y = 0; y < picture.height(); ++y) {
+        auto* pixel = reinterpret_cast<QRgb*>(picture.scanLine(y));
+        std::transform(pixel, pixel + picture.width(), pixel, change);
+    }
+}
+
+/// Black and white level, and the exponent in hundredths. A white level that is not above black leaves two colours.
+void applyLevels(QImage& picture, const QVector<int>& values) {
+    std::array<unsigned char, Levels> curve{};
+    const double span = std::max(1, values[1] - values[0]);
+    for (int level = 0; level < Levels; ++level) {
+        const double part = std::clamp((level - values[0]) / span, 0.0, 1.0);
+        curve[std::size_t(level)] = static_cast<unsigned char>(std::lround(255 * std::pow(part, 100.0 / values[2])));
+    }
+    changePixels(picture, [&curve](QRgb colour) {
+        return qRgb(curve[std::size_t(qRed(colour))], curve[std::size_t(qGreen(colour))],
+                    curve[std::size_t(qBlue(colour))]);
+    });
+}
+
+/// First the median, of that many pixels each way, then the sharpening, in percent.
+void applyFilter(QImage& picture, const QVector<int>& values) {
+    cv::Mat pixels = viewOf(picture);
+    if (values[0] > 1) {
+        cv::medianBlur(pixels, pixels, values[0]);
+    }
+    if (values[1] > 0) {
+        const float side = -float(values[1]) / 100;
+        const cv::Mat kernel = (cv::Mat_<float>(3, 3) << 0, side, 0, side, 1 - 4 * side, side, 0, side, 0);
+        cv::filter2D(pixels, pixels, -1, kernel, cv::Point(-1, -1), 0, cv::BORDER_REPLICATE);
+    }
+    makeOpaque(picture);
+}
+
+QRgb heat(double part) {
+    const auto channel = [part](double from) { return int(255 * std::clamp(part * 3 - from, 0.0, 1.0)); };
+    return qRgb(channel(0), channel(1), channel(2));
+}
+
+QRgb rainbow(double part) {
+    return QColor::fromHsvF((1 - part) * 2 / 3, 1, 1).rgb();
+}
+
+/// Brightness as a colour: of glowing iron, or of the rainbow from blue to red.
+void applyFalseColours(QImage& picture, const QVector<int>& values) {
+    std::array<QRgb, Levels> palette{};
+    for (int level = 0; level < Levels; ++level) {
+        palette[std::size_t(level)] = (values[0] == 1 ? heat : rainbow)(level / 255.0);
+    }
+    changePixels(picture, [&palette](QRgb colour) { return palette[std::size_t(qGray(colour))]; });
+}
+
+/// Squares of that many pixels each way, of one colour each.
+void applyMosaic(QImage& picture, const QVector<int>& values) {
+    cv::Mat pixels = viewOf(picture);
+    for (int y = 0; y < pixels.rows; y += values[0]) {
+        for (int x = 0; x < pixels.cols; x += values[0]) {
+            const cv::Rect place(x, y, std::min(values[0], pixels.cols - x), std::min(values[0], pixels.rows - y));
+            cv::Mat square = pixels(place);
+            square.setTo(cv::mean(square));
+        }
+    }
+    makeOpaque(picture);
+}
+
+}  // namespace
+
+const QList<ImageEffect>& imageEffects() {
+    static const QList<ImageEffect> effects{{QStringLiteral("filter"),
+                                             TextKey("p_filter"),
+                                             EveryMode,
+                                             true,
+                                             true,
+                                             {{QStringLiteral("median"), TextKey("Median (pixels)"), 1, 5, 1, 2},
+                                              {QStringLiteral("sharpen"), TextKey("Sharpen (%)"), 0, 200, 100, 1}},
+                                             applyFilter},
+                                            {QStringLiteral("mosaic"),
+                                             TextKey("p_mosaic"),
+                                             1 << zeb::MemoryMode,
+                                             true,
+                                             true,
+                                             {{QStringLiteral("square"), TextKey("Square (pixels)"), 2, 64, 16, 1}},
+                                             applyMosaic},
+                                            {QStringLiteral("lut"),
+                                             TextKey("p_lut"),
+                                             EveryMode,
+                                             false,
+                                             false,
+                                             {{QStringLiteral("black"), TextKey("Black level"), 0, 254, 0, 1},
+                                              {QStringLiteral("white"), TextKey("White level"), 1, 255, 255, 1},
+                                              {QStringLiteral("gamma"), TextKey("Gamma (1/100)"), 10, 500, 100, 1}},
+                                             applyLevels},
+                                            {QStringLiteral("pseudo"),
+                                             TextKey("p_pseudo"),
+                                             EveryMode,
+                                             false,
+                                             false,
+                                             {{QStringLiteral("palette"), TextKey("Palette"), 1, 2, 1, 1}},
+                                             applyFalseColours}};
+    return effects;
+}
+
+const ImageEffect* findImageEffect(const QString& name) {
+    const QList<ImageEffect>& effects = imageEffects();
+    const auto found = std::find_if(effects.begin(), effects.end(),
+                                    [&name](const ImageEffect& effect) { return effect.name == name; });
+    return found == effects.end() ? nullptr : &*found;
+}
+
+QVector<int> ImageEffect::valuesOf(const CameraState& state) const {
+    const QVariantMap stored = state.pluginValues.value(name).toMap();
+    QVector<int> values;
+    for (const EffectNumber& number : numbers) {
+        values.append(stored.value(number.name, number.initial).toInt());
+    }
+    return values;
+}
+
+QVariantMap ImageEffect::plain(const QVector<int>& values) const {
+    QVariantMap members;
+    for (int i = 0; i < numbers.size(); ++i) {
+        members.insert(numbers[i].name, values[i]);
+    }
+    return members;
+}
+
+FrameEffects effectsOf(const CameraState& state, int mode) {
+    FrameEffects effects;
+    if (!state.effectivePlugins.isEmpty()) {
+        for (const ImageEffect& effect : imageEffects()) {
+            if ((effect.modes >> mode & 1) != 0 && state.effectivePlugins.contains(effect.name)) {
+                effects.append({&effect, effect.valuesOf(state)});
+            }
+        }
+    }
+    return effects;
+}
+
+namespace {
+
+QString whyNot(const EffectNumber& number, const QVariant& value) {
+    bool isNumber = false;
+    const double asked = value.toDouble(&isNumber);
+    const bool fits = isNumber && value.type() != QVariant::String && value.type() != QVariant::Bool &&
+                      asked >= number.lowest && asked <= number.highest && asked == std::floor(asked) &&
+                      (int(asked) - number.lowest) % number.step == 0;
+    return fits ? QString()
+                : QStringLiteral("\"%1\" is a whole number from %2 to %3 in steps of %4")
+                      .arg(number.name)
+                      .arg(number.lowest)
+                      .arg(number.highest)
+                      .arg(number.step);
+}
+
+}  // namespace
+
+QString whyNoPluginValues(const QVariantMap& values) {
+    for (auto plugin = values.begin(); plugin != values.end(); ++plugin) {
+        const ImageEffect* effect = findImageEffect(plugin.key());
+        if (effect == nullptr || plugin.value().type() != QVariant::Map) {
+            return QStringLiteral("there is no image plug-in \"%1\" with numbers").arg(plugin.key());
+        }
+        QVariantMap numbers = plugin.value().toMap();
+        for (const EffectNumber& number : effect->numbers) {
+            const QVariant value = numbers.take(number.name);
+            const QString reason = value.isValid() ? whyNot(number, value) : QString();
+            if (!reason.isEmpty()) {
+                return reason;
+            }
+        }
+        if (!numbers.isEmpty()) {
+            return QStringLiteral("\"%1\" has no number \"%2\"").arg(plugin.key(), numbers.firstKey());
+        }
+    }
+    return {};
+}

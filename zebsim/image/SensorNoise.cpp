@@ -1,0 +1,69 @@
+#include "SensorNoise.h"
+
+#include <opencv2/core.hpp>
+
+#include <algorithm>
+#include <map>
+#include <mutex>
+#include <random>
+
+namespace {
+
+constexpr int Block = 1024;
+/// Places at which a block of noise may begin, each way.
+constexpr int Places = 256;
+constexpr unsigned int Seed = 20;
+
+/// Numbers from 0 to `grain`; the byte beside the colours stays as it is.
+cv::Mat noiseOf(int grain) {
+    static std::mutex mutex;
+    static std::map<int, cv::Mat> made;
+    const std::lock_guard lock(mutex);
+    cv::Mat& noise = made[grain];
+    if (noise.empty()) {
+        noise.create(Block + Places, Block + Places, CV_8UC4);
+        cv::RNG(Seed).fill(noise, cv::RNG::UNIFORM, cv::Scalar(0, 0, 0, 0),
+                           cv::Scalar(grain + 1, grain + 1, grain + 1, 1));
+    }
+    return noise;
+}
+
+cv::Mat pieceOf(const cv::Mat& noise, const cv::Size& size, std::minstd_rand& random) {
+    const int x = int(random() % Places);
+    const int y = int(random() % Places);
+    return noise(cv::Rect(cv::Point(x, y), size));
+}
+
+void addGrain(QImage& picture, int grain, std::minstd_rand& random) {
+    const cv::Mat noise = noiseOf(grain);
+    cv::Mat pixels(picture.height(), picture.width(), CV_8UC4, picture.bits(), std::size_t(picture.bytesPerLine()));
+    for (int y = 0; y < pixels.rows; y += Block) {
+        for (int x = 0; x < pixels.cols; x += Block) {
+            const cv::Size size(std::min(Block, pixels.cols - x), std::min(Block, pixels.rows - y));
+            cv::Mat block = pixels(cv::Rect(cv::Point(x, y), size));
+            cv::add(block, pieceOf(noise, size, random), block);
+            cv::subtract(block, pieceOf(noise, size, random), block);
+        }
+    }
+}
+
+}  // namespace
+
+void SensorNoise::addTo(QImage& picture, unsigned int sensor, qint64 frame) const {
+    if (picture.isNull()) {
+        return;
+    }
+    if (grain > 0) {
+        std::minstd_rand random(static_cast<unsigned int>(sensor * 31U + static_cast<quint64>(frame)));
+        random.discard(2);
+        addGrain(picture, grain, random);
+    }
+    std::minstd_rand places(sensor);
+    for (int pixel = 0; pixel < hotPixels; ++pixel) {
+        // As fractions of the picture, which may be drawn at another size than the sensor's.
+        const double x = double(places()) / std::minstd_rand::max();
+        const double y = double(places()) / std::minstd_rand::max();
+        picture.setPixel(std::min(int(x * picture.width()), picture.width() - 1),
+                         std::min(int(y * picture.height()), picture.height() - 1), qRgb(255, 255, 255));
+    }
+}
