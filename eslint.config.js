@@ -90,7 +90,8 @@ module.exports = [
         languageOptions: {
             ecmaVersion: 2015,
             sourceType: 'script',
-            globals: Object.assign({}, browser, host, bothPages, readonly(['app', 'items', 'CustomInfoDialog']))
+            globals: Object.assign({}, browser, host, bothPages,
+                readonly(['app', 'items', 'CustomInfoDialog', 'cameraSettings']))
         },
         rules: pageRules
     },

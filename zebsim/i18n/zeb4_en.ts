@@ -336,28 +336,12 @@
         <translation>Tone curve</translation>
     </message>
     <message>
-        <source>p_colorcorrection</source>
-        <translation>Colour correction</translation>
-    </message>
-    <message>
         <source>p_filter</source>
         <translation>Filter</translation>
     </message>
     <message>
-        <source>p_scale</source>
-        <translation>Scale</translation>
-    </message>
-    <message>
-        <source>p_histogram</source>
-        <translation>Histogram</translation>
-    </message>
-    <message>
         <source>p_mosaic</source>
         <translation>Mosaic</translation>
-    </message>
-    <message>
-        <source>p_addtext</source>
-        <translation>Text</translation>
     </message>
     <message>
         <source>Please attach preserved file to a mail.</source>
@@ -502,6 +486,10 @@
     <message>
         <source>wren_display_triggerOffset</source>
         <translation>Trigger offset</translation>
+    </message>
+    <message>
+        <source>p_pseudo</source>
+        <translation>Pseudo colour</translation>
     </message>
 </context>
 </TS>

@@ -580,28 +580,12 @@
         <translation>トーンカーブ</translation>
     </message>
     <message>
-        <source>p_colorcorrection</source>
-        <translation>色補正</translation>
-    </message>
-    <message>
         <source>p_filter</source>
         <translation>フィルター</translation>
     </message>
     <message>
-        <source>p_scale</source>
-        <translation>スケール</translation>
-    </message>
-    <message>
-        <source>p_histogram</source>
-        <translation>ヒストグラム</translation>
-    </message>
-    <message>
         <source>p_mosaic</source>
         <translation>モザイク</translation>
-    </message>
-    <message>
-        <source>p_addtext</source>
-        <translation>文字入れ</translation>
     </message>
     <message>
         <source>%1: frame %2</source>
@@ -1902,6 +1886,70 @@
     <message>
         <source>No camera is selected.</source>
         <translation>カメラが選択されていません。</translation>
+    </message>
+    <message>
+        <source>p_pseudo</source>
+        <translation>疑似カラー</translation>
+    </message>
+    <message>
+        <source>Median (pixels)</source>
+        <translation>メディアン (画素)</translation>
+    </message>
+    <message>
+        <source>Sharpen (%)</source>
+        <translation>シャープ (%)</translation>
+    </message>
+    <message>
+        <source>Square (pixels)</source>
+        <translation>四角 (画素)</translation>
+    </message>
+    <message>
+        <source>Black level</source>
+        <translation>黒レベル</translation>
+    </message>
+    <message>
+        <source>White level</source>
+        <translation>白レベル</translation>
+    </message>
+    <message>
+        <source>Gamma (1/100)</source>
+        <translation>ガンマ (1/100)</translation>
+    </message>
+    <message>
+        <source>Palette</source>
+        <translation>パレット</translation>
+    </message>
+    <message>
+        <source>Image plug-ins of the camera</source>
+        <translation>カメラの画像プラグイン</translation>
+    </message>
+    <message>
+        <source>Save to a file</source>
+        <translation>ファイルに保存</translation>
+    </message>
+    <message>
+        <source>Name of the first selected camera</source>
+        <translation>最初に選択したカメラの名前</translation>
+    </message>
+    <message>
+        <source>Own name</source>
+        <translation>任意の名前</translation>
+    </message>
+    <message>
+        <source>Add date and time</source>
+        <translation>日時を付ける</translation>
+    </message>
+    <message>
+        <source>Store in presets of the cameras</source>
+        <translation>カメラのプリセットに保存</translation>
+    </message>
+    <message>
+        <source>All cameras</source>
+        <translation>すべてのカメラ</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>なし</translation>
     </message>
 </context>
 </TS>

@@ -19,11 +19,28 @@ COLUMNS.plugin = {
         plugins.forEach(plugin => {
             const icon = iconOf(plugin.name);
             cell.property('box ' + icon, 'checked', plugin.effective);
-            cell.flag('box ' + icon, 'disabled', !this.send || !plugin.enable);
+            cell.flag('box ' + icon, 'disabled', !plugin.enable);
             cell.attribute('label ' + icon, 'cursorDisable', String(status.disabled));
         });
+    },
+    change(key, box) {
+        if (wrentabledialog_obj.isBlocked()) {
+            box.checked = !box.checked;
+        } else {
+            wrentabledialog.togglePlugin([key], pluginOf(box), box.checked);
+        }
+    },
+    menu(key, element, event) {
+        const label = element.closest('label[plgName]');
+        if (label && !wrentabledialog_obj.isBlocked()) {
+            wrentabledialog.effectContextMenu(key, pluginOf(label), event.screenX, event.screenY);
+        }
     }
 };
+
+function pluginOf(element) {
+    return plugin_obj.getPluginName(element.getAttribute('plgName'));
+}
 
 // The name of a plug-in's picture; one that the host has no picture for goes by its own name.
 function iconOf(name) {

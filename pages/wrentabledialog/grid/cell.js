@@ -14,6 +14,7 @@
 //   clickBatch()           what a click on the batch row does that meets no control
 //   doubleClick(view, key)
 //   change(key, element)   what a change by the user does
+//   menu(key, element, event)   what the right button does on it
 // The first two get the cell, the record and the list's status, and write through the cell, which leaves out what the
 // elements show already.
 class Cell {

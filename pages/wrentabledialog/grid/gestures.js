@@ -12,6 +12,7 @@ function listenToGrid(view) {
     box.addEventListener('mousedown', event => onGridPress(view, event), true);
     box.addEventListener('mousemove', event => onGridMove(view, event), true);
     box.addEventListener('change', event => onGridChange(view, event), true);
+    box.addEventListener('contextmenu', event => onGridMenu(view, event), true);
     box.addEventListener('input', event => onGridInput(event), true);
     box.addEventListener('focusin', event => onGridFocus(view, event), true);
     box.addEventListener('focusout', event => onGridBlur(event), true);
@@ -83,6 +84,15 @@ function onGridChange(view, event) {
     if (cell && cell.kind.change) {
         cell.forget();
         guarded(() => cell.kind.change(row.key, event.target));
+    }
+}
+
+function onGridMenu(view, event) {
+    const row = view.rowOf(event.target);
+    const cell = row && row.cellOf(event.target);
+    if (cell && cell.kind.menu) {
+        event.preventDefault();
+        guarded(() => cell.kind.menu(row.key, event.target, event));
     }
 }
 

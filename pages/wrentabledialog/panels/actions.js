@@ -9,6 +9,8 @@ Object.assign(wrentabledialog_obj, {
         onClick('#wren_ethernet_setting', () => wrentabledialog.openPrefsEthernetSettings());
         onClick('#wrenBatchLowlightBlock_ON', () => wrentabledialog.setLowLight([], true));
         onClick('#wrenBatchLowlightBlock_OFF', () => wrentabledialog.setLowLight([], false));
+        onClick('#livecontrol_save_button', () => wrentabledialog.saveRigx());
+        onClick('#livecontrol_load_button', () => this.loadSettings());
         this.initializeCustomInfoContainer();
         this.initializeCameraManagementContainer();
         this.initializeExternalSyncArea();
@@ -24,6 +26,11 @@ Object.assign(wrentabledialog_obj, {
         this.refreshDisplayElement();
         this.refreshRecords(this.activeTab(), false);
         this.resizeTableElements();
+    },
+
+    loadSettings() {
+        this.preventSelect = false;
+        wrentabledialog.loadRigx();
     },
 
     initializeSaveContainer() {

@@ -69,9 +69,13 @@ void mobile(Picture& picture, qreal x, const QColor& colour, const QColor& scree
     picture.painter().drawRect(QRectF(x + 8, 5, 8, 12));
 }
 
-// Connected, disconnected, mobile; 24 pixels each.
+// Connected, disconnected, mobile; 24 pixels each. Below, in the first column, the camera of a list of files.
 void titleBar(const QDir& folder, const Style& style) {
-    Picture picture(72, 24);
+    constexpr int OfList = 306;
+    Picture picture(72, OfList + 24);
+    picture.painter().translate(0, OfList);
+    camera(picture, 0, style.on);
+    picture.painter().translate(0, -OfList);
     camera(picture, 0, style.on);
     camera(picture, 24, style.faint);
     picture.pen(style.line, 1.6);
@@ -101,9 +105,28 @@ void disk(Picture& picture, const Style& style) {
     picture.painter().drawRect(QRectF(52, 9, 8, 5));
 }
 
-// Cells of 16 pixels: a pen, a pen that is disabled, none, a disk.
+void bin(Picture& picture, qreal y, const QColor& colour) {
+    picture.pen(colour, 1.4);
+    QPainterPath path;
+    path.addRoundedRect(QRectF(4, y + 5, 10, 11), 1.5, 1.5);
+    path.moveTo(2.5, y + 5);
+    path.lineTo(15.5, y + 5);
+    path.moveTo(7, y + 4.6);
+    path.lineTo(7, y + 2.5);
+    path.lineTo(11, y + 2.5);
+    path.lineTo(11, y + 4.6);
+    for (const qreal x : {7.4, 10.6}) {
+        path.moveTo(x, y + 8);
+        path.lineTo(x, y + 13);
+    }
+    picture.painter().drawPath(path);
+}
+
+// Cells of 16 pixels: a pen, a pen that is disabled, none, a disk. Below, in the first column, a bin of 18 pixels.
 void common(const QDir& folder, const Style& style) {
-    Picture picture(64, 16);
+    constexpr int Bin = 811;
+    Picture picture(64, Bin + 18);
+    bin(picture, Bin, style.line);
     pen(picture, 0, style.line);
     pen(picture, 16, style.faint);
     disk(picture, style);
