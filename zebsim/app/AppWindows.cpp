@@ -8,10 +8,13 @@
 #include "DialogRun.h"
 #include "EthernetDialog.h"
 #include "FramePicture.h"
+#include "GUI_CameraFileDialog.h"
+#include "GUI_CameraSettingsDialog.h"
 #include "GUI_CustomInfoDialog.h"
 #include "LogStore.h"
 #include "PreferencesDialog.h"
 #include "ProgressWait.h"
+#include "SettingsFolder.h"
 #include "SimHost.h"
 #include "SnapShots.h"
 #include "UiText.h"
@@ -95,6 +98,15 @@ void AppWindows::editCustomInfo() {
         dialog->accept();
     });
     runDialog(m_host, dialog);
+}
+
+void AppWindows::loadSettings() {
+    runDialog(m_host,
+              new GUI_CameraFileDialog(&m_host, m_host.getMainWindow(), uiText("Device Open"), settingsFolder(m_host)));
+}
+
+void AppWindows::saveSettings() {
+    runDialog(m_host, new GUI_CameraSettingsDialog(&m_host, settingsFolder(m_host), m_host.getMainWindow()));
 }
 
 void AppWindows::snapShot(int mode) {

@@ -30,6 +30,11 @@ public:
     /// Custom information of the selected cameras; runs until it is closed.
     void editCustomInfo();
 
+    /// The dialogs that load the settings of the cameras, from a file or from their presets, and that save them. Each
+    /// runs until it is closed.
+    void loadSettings();
+    void saveSettings();
+
     ZebPrefsDialog* prefsDialog() override { return this; }
     void openEthernetSettings() override;
     void openAbout() override;

@@ -19,7 +19,7 @@ struct CommandLine;
 /// The whole application behind its event loop: host, cameras, plug-in and window, made and closed down in order.
 class Simulator {
 public:
-    /// Throws `RigError` and `PluginError`.
+    /// Throws `JsonError` and `PluginError`.
     explicit Simulator(const CommandLine& line);
     /// Closes the plug-in's windows as at the end of the application, then takes everything apart.
     ~Simulator();

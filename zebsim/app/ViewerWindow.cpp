@@ -101,6 +101,11 @@ void ViewerWindow::addDialogs(AppWindows& windows) {
     m_bar->addSeparator();
     m_fileMenu->addActions((new SaveKeys(m_host, windows, *m_bar))->actions());
     m_fileMenu->addSeparator();
+    m_settings = {
+        addEntry(m_fileMenu, uiText("Load camera settings..."), "loadSettings", [&windows] { windows.loadSettings(); }),
+        addEntry(m_fileMenu, uiText("Save camera settings..."), "saveSettings",
+                 [&windows] { windows.saveSettings(); })};
+    m_fileMenu->addSeparator();
     addEntry(m_fileMenu, uiText("&Quit"), "quit", [this] { Q_EMIT closeAsked(); });
     // Opened by a key a menu stands at its first entry, and that must not record.
     QAction* first = m_cameraMenu->actions().first();
@@ -143,6 +148,9 @@ void ViewerWindow::refresh() {
         // At its end a recording brings another mode, in which the lists are others.
         m_customInfo->setEnabled(!m_host.isFileMode() && !m_host.recorder().isUnderWay() &&
                                  m_host.docManager().getSelectedDocCount() > 0);
+    }
+    for (QAction* entry : qAsConst(m_settings)) {
+        entry->setEnabled(m_host.isLiveMode() && !m_host.recorder().isUnderWay() && connected > 0);
     }
     const QList<QAction*> modes = m_modes->actions();
     modes.at(m_host.getOperatingMode())->setChecked(true);

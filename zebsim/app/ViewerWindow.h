@@ -57,6 +57,8 @@ private:
     QActionGroup* m_modes;
     QActionGroup* m_styles;
     QAction* m_customInfo = nullptr;
+    /// Those that load and save the settings of the cameras.
+    QList<QAction*> m_settings;
     QLabel* m_cameras;
     std::unique_ptr<CameraWindows> m_images;
 };

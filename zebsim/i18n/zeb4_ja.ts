@@ -1951,5 +1951,13 @@
         <source>None</source>
         <translation>なし</translation>
     </message>
+    <message>
+        <source>Load camera settings...</source>
+        <translation>カメラ設定を読み込む...</translation>
+    </message>
+    <message>
+        <source>Save camera settings...</source>
+        <translation>カメラ設定を保存...</translation>
+    </message>
 </context>
 </TS>

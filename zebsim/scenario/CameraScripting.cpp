@@ -33,13 +33,21 @@ QVariant CameraScripting::camera(unsigned int key) const {
     return camera ? QVariant(camera->state().toPlain()) : QVariant();
 }
 
-void CameraScripting::setCamera(unsigned int key, const QVariantMap& members) {
+void CameraScripting::reboot(unsigned int key) {
+    there(key).reboot();
+}
+
+Camera& CameraScripting::there(unsigned int key) const {
     Camera* camera = m_host.cameras().find(key);
     if (camera == nullptr) {
         throw ScenarioError(QStringLiteral("there is no camera %1").arg(key));
     }
+    return *camera;
+}
+
+void CameraScripting::setCamera(unsigned int key, const QVariantMap& members) {
     try {
-        camera->change(members);
+        there(key).change(members);
     } catch (const StateError& e) {
         throw ScenarioError(QStringLiteral("camera %1, %2: %3").arg(key).arg(e.member, e.reason));
     }

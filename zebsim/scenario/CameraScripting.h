@@ -4,6 +4,7 @@
 #include <QString>
 #include <QVariant>
 
+class Camera;
 class SimHost;
 
 /// The cameras as a scenario sees them. Every operation throws `ScenarioError` in words for its author.
@@ -18,8 +19,11 @@ public:
     /// Invalid when the camera is gone.
     QVariant camera(unsigned int key) const;
     void setCamera(unsigned int key, const QVariantMap& members);
+    void reboot(unsigned int key);
 
 private:
+    Camera& there(unsigned int key) const;
+
     SimHost& m_host;
     QString m_folder;
 };

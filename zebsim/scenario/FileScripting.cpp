@@ -3,11 +3,13 @@
 #include "ScenarioError.h"
 #include "WholeFile.h"
 
+#include <QCryptographicHash>
 #include <QDir>
 #include <QFile>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QFileSystemModel>
+#include <QImageReader>
 #include <QItemSelectionModel>
 #include <QLineEdit>
 #include <QListView>
@@ -75,6 +77,19 @@ void FileScripting::write(const QString& path, const QString& text) const {
     if (!reason.isEmpty()) {
         throw ScenarioError(file % QStringLiteral(": ") % reason);
     }
+}
+
+QVariantMap FileScripting::pixels(const QString& path) const {
+    QImageReader reader(whole(path));
+    const QImage picture = reader.read().convertToFormat(QImage::Format_RGB32);
+    if (picture.isNull()) {
+        throw ScenarioError(reader.fileName() % QStringLiteral(": ") % reader.errorString());
+    }
+    QCryptographicHash sum(QCryptographicHash::Md5);
+    sum.addData(reinterpret_cast<const char*>(picture.constBits()), int(picture.sizeInBytes()));
+    return {{QStringLiteral("width"), picture.width()},
+            {QStringLiteral("height"), picture.height()},
+            {QStringLiteral("checksum"), QString::fromLatin1(sum.result().toHex())}};
 }
 
 QString FileScripting::whole(const QString& path) const {

@@ -2,6 +2,7 @@
 
 #include <QList>
 #include <QString>
+#include <QVariantMap>
 
 class QFileDialog;
 
@@ -22,6 +23,9 @@ public:
     QString read(const QString& path) const;
     /// Makes folders that are not there.
     void write(const QString& path, const QString& text) const;
+
+    /// Size of a picture in pixels, and a checksum of them, as `{width, height, checksum}`. Throws `ScenarioError`.
+    QVariantMap pixels(const QString& path) const;
 
 private:
     QString whole(const QString& path) const;

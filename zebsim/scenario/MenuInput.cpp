@@ -16,21 +16,6 @@ QString shownText(const QAction& action) {
     return action.text().section(QLatin1Char('\t'), 0, 0).remove(QLatin1Char('&'));
 }
 
-QAction& find(const QList<QAction*>& actions, const QString& text) {
-    QStringList present;
-    for (QAction* action : actions) {
-        if (!action->isVisible() || action->isSeparator()) {
-            continue;
-        }
-        if (shownText(*action) == text) {
-            return *action;
-        }
-        present.append(shownText(*action));
-    }
-    throw ScenarioError(
-        QStringLiteral("there is no entry \"%1\", but %2").arg(text, present.join(QStringLiteral(", "))));
-}
-
 /// What an entry says, and whether it is greyed, may be settled when its menu opens.
 QList<QAction*> opened(QMenu& menu) {
     Q_EMIT menu.aboutToShow();
@@ -39,6 +24,24 @@ QList<QAction*> opened(QMenu& menu) {
 
 }  // namespace
 
+QAction& findEntry(const QList<QAction*>& actions, const QString& text) {
+    QStringList present;
+    for (QAction* action : actions) {
+        if (!action->isVisible() || action->isSeparator()) {
+            continue;
+        }
+        if (shownText(*action) == text) {
+            if (!action->isEnabled()) {
+                throw ScenarioError(QStringLiteral("the entry \"%1\" is greyed").arg(text));
+            }
+            return *action;
+        }
+        present.append(shownText(*action));
+    }
+    throw ScenarioError(
+        QStringLiteral("there is no entry \"%1\", but %2").arg(text, present.join(QStringLiteral(", "))));
+}
+
 void chooseEntry(const QMainWindow& window, const QString& path) {
     if (QApplication::activeModalWidget() != nullptr) {
         throw ScenarioError(QStringLiteral("a modal dialog stands before the menus"));
@@ -46,10 +49,7 @@ void chooseEntry(const QMainWindow& window, const QString& path) {
     QList<QAction*> actions = window.menuBar()->actions();
     const QStringList texts = path.split(QStringLiteral(" > "));
     for (const QString& text : texts) {
-        QAction& action = find(actions, text);
-        if (!action.isEnabled()) {
-            throw ScenarioError(QStringLiteral("the entry \"%1\" is greyed").arg(text));
-        }
+        QAction& action = findEntry(actions, text);
         if (action.menu() == nullptr) {
             action.trigger();
             return;

@@ -1,5 +1,6 @@
 #include "ScenarioApi.h"
 
+#include "DialogInput.h"
 #include "EventWait.h"
 #include "HostSignal.h"
 #include "KeyInput.h"
@@ -99,6 +100,10 @@ QJSValue ScenarioApi::camera(unsigned int key) {
 
 void ScenarioApi::setCamera(unsigned int key, const QVariantMap& members) {
     guarded([&] { m_cameras.setCamera(key, members); });
+}
+
+void ScenarioApi::reboot(unsigned int key) {
+    guarded([&] { m_cameras.reboot(key); });
 }
 
 QJSValue ScenarioApi::hub(const QString& address) {
@@ -254,6 +259,18 @@ QString ScenarioApi::readFile(const QString& path) {
 
 void ScenarioApi::writeFile(const QString& path, const QString& text) {
     guarded([&] { m_dialogs.files().write(path, text); });
+}
+
+QJSValue ScenarioApi::pixels(const QString& path) {
+    return guarded([&] { return plain(m_dialogs.files().pixels(path)); });
+}
+
+void ScenarioApi::popup(const QJSValue& text) {
+    m_dialogs.popups().order(text.isString() ? text.toString() : QString());
+}
+
+void ScenarioApi::push(const QString& text, const QString& row) {
+    guarded([&] { pushButton(ScenarioDialogs::standing(), text, row); });
 }
 
 void ScenarioApi::notices(bool stand) {

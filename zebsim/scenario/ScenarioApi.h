@@ -31,6 +31,7 @@ public:
     Q_INVOKABLE QJSValue keys();
     Q_INVOKABLE QJSValue camera(unsigned int key);
     Q_INVOKABLE void setCamera(unsigned int key, const QVariantMap& members);
+    Q_INVOKABLE void reboot(unsigned int key);
     Q_INVOKABLE QJSValue hub(const QString& address);
     Q_INVOKABLE void setHub(const QString& address, const QVariantMap& members);
     /// `target` is the key of a camera, or the address of a hub.
@@ -68,6 +69,10 @@ public:
     Q_INVOKABLE void file(const QJSValue& path);
     Q_INVOKABLE QString readFile(const QString& path);
     Q_INVOKABLE void writeFile(const QString& path, const QString& text);
+    Q_INVOKABLE QJSValue pixels(const QString& path);
+    /// `text` is a text, or nothing.
+    Q_INVOKABLE void popup(const QJSValue& text = {});
+    Q_INVOKABLE void push(const QString& text, const QString& row = {});
     Q_INVOKABLE void notices(bool stand);
     Q_INVOKABLE QJSValue messages();
     Q_INVOKABLE QJSValue log();

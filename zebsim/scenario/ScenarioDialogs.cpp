@@ -32,6 +32,7 @@ QString textOf(const QMessageBox& box) {
 
 ScenarioDialogs::ScenarioDialogs(const QString& folder) : m_files(folder) {
     connect(&m_watcher, &ModalWatcher::stands, this, &ScenarioDialogs::dialogStands);
+    connect(&m_popups, &PopupScripting::unanswerable, this, &ScenarioDialogs::unanswerable);
     connect(&m_watcher, &ModalWatcher::noticed, this, [this](QMessageBox* box) {
         writeDown(*box);
         m_notice = box;
@@ -76,7 +77,18 @@ QString ScenarioDialogs::leftOver() const {
     if (m_files.isOrderLeft()) {
         return QStringLiteral("no file dialog took a zeb.file");
     }
+    if (m_popups.isOrderLeft()) {
+        return QStringLiteral("no context menu took a zeb.popup");
+    }
     return {};
+}
+
+QDialog& ScenarioDialogs::standing() {
+    QDialog* dialog = ModalWatcher::standing();
+    if (dialog == nullptr) {
+        throw ScenarioError(QStringLiteral("no modal dialog stands"));
+    }
+    return *dialog;
 }
 
 QWebView& ScenarioDialogs::pageOfStanding() {

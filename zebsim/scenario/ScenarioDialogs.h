@@ -3,6 +3,7 @@
 #include "FileScripting.h"
 #include "KeyboardReturn.h"
 #include "ModalWatcher.h"
+#include "PopupScripting.h"
 #include "SaveScripting.h"
 
 #include <QJSValue>
@@ -37,13 +38,16 @@ public:
     SaveScripting& saves() { return m_saves; }
     /// The same for file dialogs. One that stands without an order is left, and counts as unanswerable.
     FileScripting& files() { return m_files; }
+    /// The same for context menus.
+    PopupScripting& popups() { return m_popups; }
     /// Notices stand as a user would see them until they are not to stand any more; or else each is closed at once.
     void letNoticesStand(bool stand);
     /// The boxes since the last call, each a map with `kind`, `text` and `answer`.
     QVariantList takeMessages();
     /// Functions, answers and orders that no dialog took, in words; empty when there are none.
     QString leftOver() const;
-    /// The page of the modal dialog that stands; throws `ScenarioError` when there is none.
+    /// The modal dialog that stands, and its page; throw `ScenarioError` when there is none.
+    static QDialog& standing();
     static QWebView& pageOfStanding();
 
 Q_SIGNALS:
@@ -67,6 +71,7 @@ private:
     QStringList m_answers;
     SaveScripting m_saves;
     FileScripting m_files;
+    PopupScripting m_popups;
     QVariantList m_messages;
     bool m_noticesStand = false;
     QPointer<QMessageBox> m_notice;
