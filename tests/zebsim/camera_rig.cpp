@@ -1,7 +1,8 @@
 #include "CameraBank.h"
+#include "Course.h"
 #include "Files.h"
+#include "JsonError.h"
 #include "ModelCatalogue.h"
-#include "RigError.h"
 #include "RigFile.h"
 
 #include <QJsonDocument>
@@ -21,7 +22,7 @@ protected:
         try {
             readRig(path);
             return {};
-        } catch (const RigError& error) {
+        } catch (const JsonError& error) {
             return QString::fromUtf8(error.what()).remove(folder.path() + QLatin1Char('/'));
         }
     }
@@ -61,45 +62,46 @@ TEST_F(RigFile, IsRefusedWithItsNameAndTheMember) {
         QByteArray text;
         const char* complaint;
     } cases[] = {
-        {"{\n\"devices\": [", "line 2: unterminated array"},
-        {"[]", "an object is expected"},
-        {"{}", "devices: missing"},
-        {R"({"devices": [], "device": 1})", "device: there is no such member"},
-        {R"({"devices": 3})", "devices: a list is expected"},
-        {device(R"("model": "foo")"), "devices[1].model: no model \"foo\""},
-        {R"({"devices": [{"model": "standard", "heads": [{}]}]})", "devices[0].address: missing"},
-        {device(R"("address": "10.0.0.256")"), "devices[1].address: \"10.0.0.256\" is no IPv4 address"},
-        {device(R"("address": "10.0.0.1")"), "devices[1].address: 10.0.0.1 is the address of devices[0]"},
-        {device(R"("latency": -1)"), "devices[1].latency: a whole number from 0 to 60000 is expected"},
-        {device(R"("heads": [])"), "devices[1].heads: a device has at least one head"},
-        {head(R"("rate": 7)"), "devices[1].heads[1].rate: the model \"standard\" does not offer this"},
-        {head(R"("locked": "yes")"), "devices[1].heads[1].locked: true or false is expected"},
-        {head(R"("rate": 0.5)"), "devices[1].heads[1].rate: a whole number is expected, 0.5 is none that fits"},
-        {head(R"("alerts": [1])"), "devices[1].heads[1].alerts: a list of texts is expected"},
-        {head(R"("ports": [1])"), "devices[1].heads[1].ports: an object is expected"},
-        {head(R"("ports": {"a": 1})"), "devices[1].heads[1].ports: \"a\" is no whole number"},
+        {"{\n\"devices\": [", "line 2: invalid value"},
+        {"\xEF\xBB\xBF{\n\"devices\":\n[],\n\"devices\": 1}", "line 4: the member \"devices\" stands twice"},
+        {"[]", "line 1: an object is expected"},
+        {"{}", "line 1: devices: missing"},
+        {R"({"devices": [], "device": 1})", "line 1: device: there is no such member"},
+        {R"({"devices": 3})", "line 1: devices: a list is expected"},
+        {device(R"("model": "foo")"), "line 1: devices[1].model: no model \"foo\""},
+        {R"({"devices": [{"model": "standard", "heads": [{}]}]})", "line 1: devices[0].address: missing"},
+        {device(R"("address": "10.0.0.256")"), "line 1: devices[1].address: \"10.0.0.256\" is no IPv4 address"},
+        {device(R"("address": "10.0.0.1")"), "line 1: devices[1].address: 10.0.0.1 is the address of devices[0]"},
+        {device(R"("latency": -1)"), "line 1: devices[1].latency: a whole number from 0 to 60000 is expected"},
+        {device(R"("heads": [])"), "line 1: devices[1].heads: a device has at least one head"},
+        {head(R"("rate": 7)"), "line 1: devices[1].heads[1].rate: the model \"standard\" does not offer this"},
+        {head(R"("locked": "yes")"), "line 1: devices[1].heads[1].locked: true or false is expected"},
+        {head(R"("rate": 0.5)"), "line 1: devices[1].heads[1].rate: a whole number is expected, 0.5 is none that fits"},
+        {head(R"("alerts": [1])"), "line 1: devices[1].heads[1].alerts: a list of texts is expected"},
+        {head(R"("ports": [1])"), "line 1: devices[1].heads[1].ports: an object is expected"},
+        {head(R"("ports": {"a": 1})"), "line 1: devices[1].heads[1].ports: \"a\" is no whole number"},
         {head(R"("customInfo": [{"name": "a"}, {"name": "a"}])"),
-         "devices[1].heads[1].customInfo: item 2: the name \"a\" occurs twice"},
+         "line 1: devices[1].heads[1].customInfo: item 2: the name \"a\" occurs twice"},
         {head(R"("customInfo": [{"name": "a", "value": 1}])"),
-         "devices[1].heads[1].customInfo: item 1, \"value\": a text is expected"},
-        {head(R"("customInfo": {})"), "devices[1].heads[1].customInfo: a list of objects is expected"},
-        {head(R"("colour": 1)"), "devices[1].heads[1].colour: there is no such member"},
+         "line 1: devices[1].heads[1].customInfo: item 1, \"value\": a text is expected"},
+        {head(R"("customInfo": {})"), "line 1: devices[1].heads[1].customInfo: a list of objects is expected"},
+        {head(R"("colour": 1)"), "line 1: devices[1].heads[1].colour: there is no such member"},
         {head(R"("syncSource": "moon")"),
-         "devices[1].heads[1].syncSource: \"external\", \"hub\", \"chain\" or an empty text is expected"},
-        {R"({"devices": [], "hubs": [{"role": 0}]})", "hubs[0].address: missing"},
-        {hub(R"("address": "10.0.0.1")"), "hubs[0].address: 10.0.0.1 is the address of devices[0]"},
+         "line 1: devices[1].heads[1].syncSource: \"external\", \"hub\", \"chain\" or an empty text is expected"},
+        {R"({"devices": [], "hubs": [{"role": 0}]})", "line 1: hubs[0].address: missing"},
+        {hub(R"("address": "10.0.0.1")"), "line 1: hubs[0].address: 10.0.0.1 is the address of devices[0]"},
         {hub(R"("role": 2)"),
-         "hubs[0].role: 0 for the hub that makes the signal or 1 for one that passes it on is expected"},
-        {hub(R"("frequency": 60, "frequencies": [50])"), "hubs[0].frequency: the hub does not offer this"},
-        {hub(R"("frequencies": [50, "60"])"), "hubs[0].frequencies: a number is expected"},
-        {hub(R"("frequencies": [0])"), "hubs[0].frequencies: frequencies above 0 are expected"},
-        {hub(R"("latency": 60001)"), "hubs[0].latency: a whole number from 0 to 60000 is expected"},
-        {hub(R"("colour": 1)"), "hubs[0].colour: there is no such member"},
+         "line 1: hubs[0].role: 0 for the hub that makes the signal or 1 for one that passes it on is expected"},
+        {hub(R"("frequency": 60, "frequencies": [50])"), "line 1: hubs[0].frequency: the hub does not offer this"},
+        {hub(R"("frequencies": [50, "60"])"), "line 1: hubs[0].frequencies: a number is expected"},
+        {hub(R"("frequencies": [0])"), "line 1: hubs[0].frequencies: frequencies above 0 are expected"},
+        {hub(R"("latency": 60001)"), "line 1: hubs[0].latency: a whole number from 0 to 60000 is expected"},
+        {hub(R"("colour": 1)"), "line 1: hubs[0].colour: there is no such member"},
     };
     for (const auto& row : cases) {
         EXPECT_EQ(complaint(row.text), QString("x.json: ") + row.complaint) << row.text.toStdString();
     }
-    EXPECT_THROW(readRig(QStringLiteral("no-such-rig")), RigError);
+    EXPECT_THROW(readRig(QStringLiteral("no-such-rig")), JsonError);
 }
 
 TEST_F(RigFile, MayBringModelsOfItsOwn) {
@@ -110,7 +112,7 @@ TEST_F(RigFile, MayBringModelsOfItsOwn) {
     const QByteArray devices = R"("devices": [{"address": "10.0.0.1", "model": "slow", "heads": [{}]}])";
     EXPECT_EQ(complaint(R"({"models": "own.json", )" + devices + "}"), QString());
     EXPECT_EQ(readRig(folder.filePath(QStringLiteral("x.json"))).devices.first().model->exposureDelay, 1);
-    EXPECT_EQ(complaint("{" + devices + "}"), QStringLiteral("x.json: devices[0].model: no model \"slow\""));
+    EXPECT_EQ(complaint("{" + devices + "}"), QStringLiteral("x.json: line 1: devices[0].model: no model \"slow\""));
 }
 
 TEST(Rig, OfAThousandHasAnAddressForEach) {

@@ -1,102 +1,150 @@
 #include "JsonNode.h"
 
-#include "RigError.h"
+#include "JsonError.h"
+#include "JsonText.h"
+#include "WholeFile.h"
 
 #include <QFile>
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
 
 #include <cmath>
 
-JsonNode::JsonNode(QString file, QString path, QJsonValue value)
-    : m_file(std::move(file)), m_path(std::move(path)), m_value(std::move(value)) {}
+namespace {
 
-JsonNode JsonNode::fromFile(const QString& path) {
+QByteArray contentOf(const QString& path) {
+    const auto refuse = [&path](const QString& reason) { throw JsonError(path % QStringLiteral(": ") % reason); };
+    const QString why = whyNoPlainFile(path);
+    if (!why.isEmpty()) {
+        refuse(why);
+    }
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) {
-        throw RigError(path % QStringLiteral(": ") % file.errorString());
+        refuse(file.errorString());
     }
-    const QByteArray text = file.readAll();
-    QJsonParseError error;
-    const QJsonDocument document = QJsonDocument::fromJson(text, &error);
-    if (error.error != QJsonParseError::NoError) {
-        const int line = 1 + text.left(error.offset).count('\n');
-        throw RigError(QStringLiteral("%1: line %2: %3").arg(path).arg(line).arg(error.errorString()));
+    // Some files do not tell their size.
+    const QByteArray text = file.size() > JsonNode::MostBytes ? QByteArray() : file.read(JsonNode::MostBytes + 1);
+    if (file.size() > JsonNode::MostBytes || text.size() > JsonNode::MostBytes) {
+        refuse(QStringLiteral("it is larger than %1 MiB").arg(JsonNode::MostBytes >> 20));
     }
-    if (!document.isObject()) {
-        throw RigError(path % QStringLiteral(": an object is expected"));
+    return text;
+}
+
+QVariant plainOf(const JsonValue& value) {
+    if (value.kind == JsonValue::List) {
+        QVariantList list;
+        for (const JsonValue& item : value.children) {
+            list.append(plainOf(item));
+        }
+        return list;
     }
-    return {path, {}, document.object()};
+    if (value.kind == JsonValue::Object) {
+        QVariantMap map;
+        for (const JsonValue& member : value.children) {
+            map.insert(member.name, plainOf(member));
+        }
+        return map;
+    }
+    return value.scalar;
+}
+
+bool isOf(const JsonValue& value, QMetaType::Type type) {
+    return value.kind == JsonValue::Scalar && value.scalar.userType() == type;
+}
+
+}  // namespace
+
+JsonNode::JsonNode(QString file, QString path, std::shared_ptr<const JsonValue> value)
+    : m_file(std::move(file)), m_path(std::move(path)), m_value(std::move(value)) {}
+
+JsonNode JsonNode::inner(QString path, const JsonValue& value) const {
+    return {m_file, std::move(path), std::shared_ptr<const JsonValue>(m_value, &value)};
+}
+
+JsonNode JsonNode::fromFile(const QString& path) {
+    return fromText(path, contentOf(path));
+}
+
+JsonNode JsonNode::fromText(const QString& file, const QByteArray& text) {
+    try {
+        return {file, {}, std::make_shared<const JsonValue>(readJsonText(text))};
+    } catch (const JsonTextError& error) {
+        throw JsonError(QStringLiteral("%1: line %2: %3").arg(file, QString::number(error.line), error.reason));
+    }
 }
 
 void JsonNode::fail(const QString& reason) const {
     const QString place = m_path.isEmpty() ? QString() : QString(m_path % QStringLiteral(": "));
-    throw RigError(m_file % QStringLiteral(": ") % place % reason);
+    const QString line = QStringLiteral(": line ") % QString::number(m_value->line) % QStringLiteral(": ");
+    throw JsonError(m_file % line % place % reason);
 }
 
 void JsonNode::failAt(const QString& member, const QString& reason) const {
-    JsonNode(m_file, pathOf(member), {}).fail(reason);
+    const JsonValue* value = m_value->member(member);
+    inner(pathOf(member), value != nullptr ? *value : *m_value).fail(reason);
 }
 
 QString JsonNode::pathOf(const QString& member) const {
     return m_path.isEmpty() ? member : QString(m_path % QLatin1Char('.') % member);
 }
 
-QJsonObject JsonNode::object() const {
-    if (!m_value.isObject()) {
+bool JsonNode::isObject() const {
+    return m_value->kind == JsonValue::Object;
+}
+
+const JsonValue& JsonNode::object() const {
+    if (!isObject()) {
         fail(QStringLiteral("an object is expected"));
     }
-    return m_value.toObject();
+    return *m_value;
 }
 
 bool JsonNode::has(const QString& member) const {
-    return object().contains(member);
+    return object().member(member) != nullptr;
 }
 
 JsonNode JsonNode::member(const QString& name) const {
-    if (!has(name)) {
+    const JsonValue* value = object().member(name);
+    if (value == nullptr) {
         failAt(name, QStringLiteral("missing"));
     }
-    return {m_file, pathOf(name), object().value(name)};
+    return inner(pathOf(name), *value);
 }
 
 QList<JsonNode> JsonNode::items() const {
-    if (!m_value.isArray()) {
+    if (m_value->kind != JsonValue::List) {
         fail(QStringLiteral("a list is expected"));
     }
     QList<JsonNode> nodes;
-    for (const QJsonValue value : m_value.toArray()) {
-        nodes.append(JsonNode(m_file, QStringLiteral("%1[%2]").arg(m_path).arg(nodes.size()), value));
+    for (const JsonValue& item : m_value->children) {
+        nodes.append(inner(QStringLiteral("%1[%2]").arg(m_path).arg(nodes.size()), item));
     }
     return nodes;
 }
 
 void JsonNode::allowOnly(const QStringList& names) const {
-    for (const QString& name : object().keys()) {
-        if (!names.contains(name)) {
-            failAt(name, QStringLiteral("there is no such member"));
+    for (const JsonValue& member : object().children) {
+        if (!names.contains(member.name)) {
+            failAt(member.name, QStringLiteral("there is no such member"));
         }
     }
 }
 
 QString JsonNode::text() const {
-    if (!m_value.isString()) {
+    if (!isOf(*m_value, QMetaType::QString)) {
         fail(QStringLiteral("a text is expected"));
     }
-    return m_value.toString();
+    return m_value->scalar.toString();
 }
 
 bool JsonNode::flag() const {
-    if (!m_value.isBool()) {
+    if (!isOf(*m_value, QMetaType::Bool)) {
         fail(QStringLiteral("true or false is expected"));
     }
-    return m_value.toBool();
+    return m_value->scalar.toBool();
 }
 
 int JsonNode::number(int lowest, int highest) const {
-    const double number = m_value.toDouble();
-    if (!m_value.isDouble() || number != std::floor(number) || number < lowest || number > highest) {
+    const double number = m_value->scalar.toDouble();
+    if (!isOf(*m_value, QMetaType::Double) || number != std::floor(number) || number < lowest || number > highest) {
         fail(QStringLiteral("a whole number from %1 to %2 is expected").arg(lowest).arg(highest));
     }
     return static_cast<int>(number);
@@ -119,5 +167,6 @@ QStringList JsonNode::texts() const {
 }
 
 QVariantMap JsonNode::plain() const {
-    return object().toVariantMap();
+    object();
+    return plainOf(*m_value).toMap();
 }

@@ -14,12 +14,12 @@ public:
     /// The models that ship.
     static const ModelCatalogue& shipped();
 
-    /// Adds the models of a file; those of a name that is there already take its place. Throws `RigError`.
+    /// Adds the models of a file; those of a name that is there already take its place. Throws `JsonError`.
     void addFile(const QString& path);
     /// Null when there is none.
     std::shared_ptr<const CameraModel> find(const QString& name) const { return m_models.value(name); }
 
-    /// What a head starts with: its model's start, and the members of `node`. Throws `RigError`.
+    /// What a head starts with: its model's start, and the members of `node`. Throws `JsonError`.
     static CameraState readState(const JsonNode& node, const CameraModel& model);
 
 private:

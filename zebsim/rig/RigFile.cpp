@@ -1,9 +1,9 @@
 #include "RigFile.h"
 
+#include "JsonError.h"
 #include "JsonNode.h"
 #include "ModelCatalogue.h"
 #include "PlainState.h"
-#include "RigError.h"
 
 #include <QDir>
 #include <QFileInfo>
