@@ -145,13 +145,21 @@ void Camera::askConnected(CameraOperation operation) const {
 }
 
 void Camera::requireConnected() const {
+    requireStarted();
     if (!get(&CameraState::connected)) {
         refuse(TextKey("the camera is not connected"));
     }
 }
 
+void Camera::requireStarted() const {
+    if (m_device.restart().isAway() && !isGone()) {
+        refuse(TextKey("the camera is starting anew"));
+    }
+}
+
 bool Camera::command(CameraOperation operation) {
     ask(operation);
+    requireStarted();
     m_device.clock().wait(m_device.latency());
     return !isGone();
 }
@@ -204,4 +212,18 @@ void Camera::keep(PARTITIONNUMBER partition, const std::optional<Recording>& rec
     }
     const std::lock_guard lock(m_device.mutex());
     memoryOf(partition) = kept;
+}
+
+void Camera::setPluginEffective(const QString& name, bool effective) {
+    const std::lock_guard lock(m_device.mutex());
+    QStringList& names = m_state.effectivePlugins;
+    names.removeAll(name);
+    if (effective) {
+        names.append(name);
+    }
+}
+
+void Camera::setPluginValues(const QString& name, const QVariantMap& values) {
+    const std::lock_guard lock(m_device.mutex());
+    m_state.pluginValues.insert(name, values);
 }

@@ -99,14 +99,25 @@ public:
     void setPortSignal(int index, int signal);
     void setName(const QString& name);
     void setComment(const QString& comment);
-    /// Presets of the device, of all its heads. Throw also for a number that it does not have; a preset that nobody has
-    /// saved holds what the model starts with.
+    /// Presets of the device, of all its heads. Throw also for a number that it does not have, and while one of its
+    /// heads is ready or records; a preset that nobody has saved holds what the model starts with. For a load some
+    /// models start anew: they go when they are disconnected next.
     zeb::CameraPresetInfo presetInfo() const;
     void loadPreset(int number);
     void savePreset(int number);
-    /// The device is about to start anew.
+    /// Whoever marks it expects the device to go for the preset that is loaded next, and wants it connected again.
     void markRebooting();
+    /// The user switches the device off and on again. It is away for as long as it takes to start, and for good when
+    /// that fails. No command: it takes no time.
+    void reboot();
+    /// An image plug-in works on its images or not, and has these numbers. They take no time.
     void setPluginEffective(const QString& name, bool effective);
+    void setPluginValues(const QString& name, const QVariantMap& values);
+    /// Gives it settings, as plain data, that have no command of their own, all at once. Throws also for one that it
+    /// does not take, and none is changed then.
+    void loadSettings(const QVariantMap& settings);
+    /// What it tells when it is asked for its settings; `operation` is what for. Throws also when it is gone.
+    CameraState readSettings(CameraOperation operation);
     void eraseRecordedData();
     /// Throws also for a partition or channel that the camera does not have.
     void setPartition(PARTITIONNUMBER partition);
@@ -130,12 +141,15 @@ private:
     [[noreturn]] void refuse(const QString& reason) const;
     void require(int function, const char* mode) const;
     void requirePreset(int number) const;
+    void disconnectHeads();
+    void beginRestart();
     void fitShutter();
     void switchLowLight(CameraOperation operation, bool on);
     /// Whether the camera is there to do it.
     bool command(CameraOperation operation);
     bool commandConnected(CameraOperation operation);
     void requireConnected() const;
+    void requireStarted() const;
     /// The device's mutex is held.
     std::optional<Recording> recordingIn(PARTITIONNUMBER partition) const;
     void changePartition(PARTITIONNUMBER partition);

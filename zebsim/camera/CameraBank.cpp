@@ -7,6 +7,7 @@
 #include <QStringList>
 
 #include <algorithm>
+#include <iterator>
 #include <set>
 #include <utility>
 
@@ -87,6 +88,14 @@ Camera* CameraBank::find(DOCKEY key) const {
 std::shared_ptr<Camera> CameraBank::hold(DOCKEY key) const {
     const std::lock_guard lock(m_mutex);
     return find(key) ? m_cameras[key - 1] : nullptr;
+}
+
+HeldCameras CameraBank::holdConnected() const {
+    const std::lock_guard lock(m_mutex);
+    HeldCameras cameras;
+    std::copy_if(m_cameras.begin(), m_cameras.end(), std::back_inserter(cameras),
+                 [](const auto& camera) { return isListed(*camera) && camera->get(&CameraState::connected); });
+    return cameras;
 }
 
 std::vector<Camera*> CameraBank::all() const {

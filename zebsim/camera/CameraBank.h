@@ -20,7 +20,6 @@ struct Rig;
 using HeldCameras = std::vector<std::shared_ptr<Camera>>;
 
 /// The cameras of the host, each with its key. Keys count from 1 in the order of the rig. GUI thread.
-
 class CameraBank {
 public:
     CameraBank(Clock& clock, FaultPlan& faults);
@@ -47,6 +46,8 @@ public:
     HeldCameras hold(const DocKeyList& keys) const;
     /// The same with the first head only of each device, for what reaches the heads together.
     HeldCameras holdDevices(const DocKeyList& keys) const;
+    /// Those that are connected, in the order of their keys. Any thread.
+    HeldCameras holdConnected() const;
     /// In the order of their keys, without those that are gone or not found yet.
     std::vector<Camera*> all() const;
     std::vector<Camera*> connected() const;

@@ -2,7 +2,9 @@
 
 #include "Camera.h"
 #include "CameraError.h"
+#include "PlainState.h"
 #include "SyncSource.h"
+#include "TextKey.h"
 
 #include <algorithm>
 #include <cmath>
@@ -31,6 +33,13 @@ void Camera::disconnect() {
     if (!command(OPERATION("disconnectDocs"))) {
         return;
     }
+    disconnectHeads();
+    if (m_device.restart().isRequested()) {
+        beginRestart();
+    }
+}
+
+void Camera::disconnectHeads() {
     for (const auto& head : m_device.heads()) {
         head->set(&CameraState::connected, false);
         head->enterRecordState(zeb::RecordLive);
@@ -188,6 +197,29 @@ void Camera::setComment(const QString& comment) {
         return;
     }
     set(&CameraState::comment, comment);
+}
+
+void Camera::loadSettings(const QVariantMap& settings) {
+    if (!commandConnected(OPERATION("loadSettings"))) {
+        return;
+    }
+    QString reason;
+    try {
+        const std::lock_guard lock(m_device.mutex());
+        m_state.apply(settings);
+    } catch (const StateError& error) {
+        reason = error.member % QStringLiteral(": ") % error.reason;
+    }
+    if (!reason.isEmpty()) {
+        refuse(reason);
+    }
+}
+
+CameraState Camera::readSettings(CameraOperation operation) {
+    if (!commandConnected(operation)) {
+        refuse(TextKey("the camera is gone"));
+    }
+    return state();
 }
 
 void Camera::eraseRecordedData() {

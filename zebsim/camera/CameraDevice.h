@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Restart.h"
 #include "Rig.h"
 
 #include <atomic>
@@ -27,6 +28,7 @@ public:
     /// The master head is the first.
     const std::vector<std::unique_ptr<Camera>>& heads() const { return m_heads; }
     std::mutex& mutex() const { return m_mutex; }
+    Restart& restart() const { return m_restart; }
 
     Clock& clock() const { return m_clock; }
     FaultPlan& faults() const { return m_faults; }
@@ -39,5 +41,6 @@ private:
     Clock& m_clock;
     FaultPlan& m_faults;
     mutable std::mutex m_mutex;
+    mutable Restart m_restart;
     std::vector<std::unique_ptr<Camera>> m_heads;
 };

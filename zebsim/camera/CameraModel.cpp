@@ -1,6 +1,7 @@
 #include "CameraModel.h"
 
 #include "PlainState.h"
+#include "SettingLimits.h"
 #include "SyncSource.h"
 
 #include <algorithm>
@@ -35,6 +36,14 @@ int CameraModel::fittingShutter(int speed, unsigned int rate) const {
     return fitting;
 }
 
+bool CameraModel::isShared(const QString& setting) const {
+    static const QStringList always{QStringLiteral("rate"), QStringLiteral("triggerMode"),
+                                    QStringLiteral("randomFrames"), QStringLiteral("randomTimes"),
+                                    QStringLiteral("randomCounted")};
+    return always.contains(setting) || (sharesShutter && setting == QLatin1String("shutter")) ||
+           (sharesResolution && setting == QLatin1String("resolution"));
+}
+
 void CameraModel::check(const CameraState& state) const {
     const auto require = [this](bool offered, const char* member) {
         if (!offered) {
@@ -49,6 +58,37 @@ void CameraModel::check(const CameraState& state) const {
     if (!QStringList{QString(), SyncSource::External, SyncSource::Hub, SyncSource::Chain}.contains(state.syncSource)) {
         throw StateError{QStringLiteral("syncSource"),
                          QStringLiteral("\"external\", \"hub\", \"chain\" or an empty text is expected")};
+    }
+    checkLimits(state.toPlain(CameraState::settings()));
+    checkPresets(state);
+}
+
+void CameraModel::checkPresets(const CameraState& state) const {
+    const auto require = [](bool holds, const QString& reason) {
+        if (!holds) {
+            throw StateError{QStringLiteral("presets"), reason};
+        }
+    };
+    for (auto preset = state.presets.begin(); preset != state.presets.end(); ++preset) {
+        const int number = preset.key().toInt();
+        require(number >= 1 && number <= presets && preset->type() == QVariant::Map,
+                QStringLiteral("there is no preset \"%1\"").arg(preset.key()));
+        CameraState loaded = initial;
+        loaded.presets.clear();
+        const QVariantMap members = preset->toMap();
+        for (auto member = members.begin(); member != members.end(); ++member) {
+            require(CameraState::recordSettings().contains(member.key()),
+                    QStringLiteral("preset %1 can't keep \"%2\"").arg(preset.key(), member.key()));
+        }
+        try {
+            loaded.apply(members);
+            check(loaded);
+        } catch (const StateError& error) {
+            require(false, QStringLiteral("preset %1, %2: %3").arg(preset.key(), error.member, error.reason));
+        }
+    }
+    if (state.preset < 0 || state.preset > presets) {
+        throw StateError{QStringLiteral("preset"), QStringLiteral("there is no preset %1").arg(state.preset)};
     }
 }
 

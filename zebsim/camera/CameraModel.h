@@ -60,9 +60,14 @@ struct CameraModel {
     /// The speed, n of 1/n second, that the camera takes when `speed` is asked of it at `rate` frames a second: an
     /// exposure fits into a frame if the list has one that does.
     int fittingShutter(int speed, unsigned int rate) const;
-    /// Throws `StateError` for a setting that is in none of the lists, and for a source of the signal that there is
-    /// not.
+    /// Whether the heads of a device have one value of a setting for all of them.
+    bool isShared(const QString& setting) const;
+    /// Throws `StateError` for a setting that is in none of the lists or that no camera can have, for a source of the
+    /// signal that there is not, and for a preset that the model does not have or can't load.
     void check(const CameraState& state) const;
     /// Frames that fit into a partition of the memory.
     unsigned int frameCapacity(const CameraState& state) const;
+
+private:
+    void checkPresets(const CameraState& state) const;
 };

@@ -1,29 +1,8 @@
 // Settings that a device keeps itself.
 
 #include "Camera.h"
-#include "PlainState.h"
-
-namespace {
-
-const QStringList& presetMembers() {
-    static const QStringList members = QStringLiteral(
-                                           "resolution rate shutter triggerMode triggerFrame randomFrames randomTimes "
-                                           "randomCounted reduce lowLightType ports dualSlope autoExposure irig "
-                                           "irigStampAtEnd irigSync resolutionLock shutterSpeedLock variable")
-                                           .split(QLatin1Char(' '));
-    return members;
-}
-
-QVariantMap kept(const CameraState& state) {
-    const QVariantMap all = state.toPlain();
-    QVariantMap members;
-    for (const QString& name : presetMembers()) {
-        members.insert(name, all.value(name));
-    }
-    return members;
-}
-
-}  // namespace
+#include "CameraError.h"
+#include "Clock.h"
 
 zeb::CameraPresetInfo Camera::presetInfo() const {
     return {get(&CameraState::preset), model().presets};
@@ -33,22 +12,35 @@ void Camera::requirePreset(int number) const {
     if (number < 1 || number > model().presets) {
         refuse(QStringLiteral("there is no preset %1").arg(number));
     }
-    if (isUnderWay()) {
-        refuse(QStringLiteral("no preset can be used while the camera is ready or records"));
+    for (const auto& head : m_device.heads()) {
+        if (head->isUnderWay()) {
+            refuse(QStringLiteral("no preset can be used while the camera is ready or records"));
+        }
     }
 }
 
 void Camera::loadPreset(int number) {
-    if (!commandConnected(OPERATION("loadCameraPreset"))) {
-        return;
+    try {
+        if (!commandConnected(OPERATION("loadCameraPreset"))) {
+            return;
+        }
+        requirePreset(number);
+    } catch (...) {
+        m_device.restart().setMarked(false);
+        throw;
     }
-    requirePreset(number);
-    const std::lock_guard lock(m_device.mutex());
-    for (const auto& head : m_device.heads()) {
-        CameraState& state = head->m_state;
-        const QVariant stored = state.presets.value(QString::number(number));
-        state.apply(stored.isNull() ? kept(model().initial) : stored.toMap());
-        state.preset = number;
+    {
+        const std::lock_guard lock(m_device.mutex());
+        for (const auto& head : m_device.heads()) {
+            CameraState& state = head->m_state;
+            const QVariant stored = state.presets.value(QString::number(number));
+            state.apply(stored.isNull() ? model().initial.toPlain(CameraState::recordSettings()) : stored.toMap());
+            state.preset = number;
+            head->m_shortened = {};
+        }
+    }
+    if (model().presetReboots) {
+        m_device.restart().request();
     }
 }
 
@@ -60,20 +52,28 @@ void Camera::savePreset(int number) {
     const std::lock_guard lock(m_device.mutex());
     for (const auto& head : m_device.heads()) {
         CameraState& state = head->m_state;
-        state.presets.insert(QString::number(number), kept(state));
+        state.presets.insert(QString::number(number), state.toPlain(CameraState::recordSettings()));
         state.preset = number;
     }
 }
 
 void Camera::markRebooting() {
     ask(OPERATION("markRebooting"));
+    m_device.restart().setMarked(true);
 }
 
-void Camera::setPluginEffective(const QString& name, bool effective) {
-    const std::lock_guard lock(m_device.mutex());
-    QStringList& names = m_state.effectivePlugins;
-    names.removeAll(name);
-    if (effective) {
-        names.append(name);
+void Camera::reboot() {
+    m_device.restart().setMarked(true);
+    disconnectHeads();
+    beginRestart();
+}
+
+void Camera::beginRestart() {
+    bool comesBack = true;
+    try {
+        ask(OPERATION("reboot"));
+    } catch (const CameraError&) {
+        comesBack = false;
     }
+    m_device.restart().begin(m_device.clock().now() + model().bootTime, comesBack);
 }

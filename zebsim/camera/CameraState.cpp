@@ -2,8 +2,38 @@
 
 #include "PlainState.h"
 
+#include <QMetaClassInfo>
+
+namespace {
+
+QStringList membersOf(const char* kind) {
+    const QMetaObject& type = CameraState::staticMetaObject;
+    return QString::fromLatin1(type.classInfo(type.indexOfClassInfo(kind)).value()).split(QLatin1Char(' '));
+}
+
+}  // namespace
+
+const QStringList& CameraState::recordSettings() {
+    static const QStringList names = membersOf("recordSettings");
+    return names;
+}
+
+const QStringList& CameraState::settings() {
+    static const QStringList names = membersOf("recordSettings") + membersOf("userSettings");
+    return names;
+}
+
 QVariantMap CameraState::toPlain() const {
     return readMembers(staticMetaObject, this);
+}
+
+QVariantMap CameraState::toPlain(const QStringList& names) const {
+    const QVariantMap all = toPlain();
+    QVariantMap members;
+    for (const QString& wanted : names) {
+        members.insert(wanted, all.value(wanted));
+    }
+    return members;
 }
 
 void CameraState::apply(const QVariantMap& members) {

@@ -15,6 +15,9 @@
 /// What is in a partition of a camera's memory.
 struct PartitionMemory {
     Q_GADGET
+    Q_CLASSINFO("recordings",
+                "recorded recordedRate recordedShutter recordedResolution recordedRange recordedTrigger selectedRange "
+                "triggerOffsetEnabled triggerOffset recordCheck recordedCustomInfo")
     Q_PROPERTY(bool recorded MEMBER recorded)
     Q_PROPERTY(uint recordedRate MEMBER recordedRate)
     Q_PROPERTY(int recordedShutter MEMBER recordedShutter)
@@ -51,8 +54,25 @@ public:
 
 /// Everything about a camera or head that can change. The property names are the members of a head in a rig file and of
 /// the scenario's `zeb.camera`.
+///
+/// Each of them is of one kind. Settings are what a user has chosen and would want back: `recordSettings` are how the
+/// camera records, which its presets keep too, `userSettings` what it is called, what goes with its images and how they
+/// are shown. States are what the camera is or does at present, what it has at hand, and what is kept of it elsewhere;
+/// recordings are what lies in its memory.
 struct CameraState : PartitionMemory {
     Q_GADGET
+    Q_CLASSINFO("recordSettings",
+                "resolution rate shutter triggerMode triggerFrame randomFrames randomTimes randomCounted recordArea "
+                "reduce lowLight lowLightType resolutionLock shutterSpeedLock ports dualSlope autoExposure irig "
+                "irigStampAtEnd irigSync variable binningPower")
+    Q_CLASSINFO("userSettings",
+                "name comment alias customInfo partitionNames variableChannels effectivePlugins pluginValues lutCurve "
+                "frameSkipEnabled frameSkipMode frameSkip scale rotation flipHorizontal flipVertical zoom")
+    Q_CLASSINFO("states",
+                "wifi slowLink connected selected mobile sd quikDrive cfast locked recordState status alerts "
+                "syncStatus syncSource syncFrequency syncMaster plugins blockedPlugins presets preset suspendReduce "
+                "stopLive playing point")
+    Q_CLASSINFO("recordings", "partitions partition")
     Q_PROPERTY(QString name MEMBER name)
     Q_PROPERTY(QString comment MEMBER comment)
     Q_PROPERTY(CustomInfo customInfo MEMBER customInfo)
@@ -213,8 +233,14 @@ public:
     double rotation = 0;
     double zoom = 1;
 
+    /// Names of the members of the kind `recordSettings`, and of all settings.
+    static const QStringList& recordSettings();
+    static const QStringList& settings();
+
     /// All members as plain data, as `readMembers` tells.
     QVariantMap toPlain() const;
+    /// Those of these names.
+    QVariantMap toPlain(const QStringList& names) const;
     /// Sets the members that `members` names, or none of them and throws `StateError`.
     void apply(const QVariantMap& members);
 };

@@ -3,6 +3,7 @@
 #include "Camera.h"
 #include "CameraBank.h"
 #include "Clock.h"
+#include "ClockRows.h"
 #include "FailureText.h"
 #include "HostContext.h"
 #include "HostWindows.h"
@@ -46,18 +47,11 @@ std::vector<CameraAnswer> HostBatch::run(const HeldCameras& cameras, const std::
 
 std::vector<CameraAnswer> HostBatch::runInOrder(const HeldCameras& cameras,
                                                 const std::function<void(Camera&)>& command) {
+    const auto work = [&](int row) { command(*cameras[std::size_t(row)]); };
     std::vector<CameraAnswer> answers;
-    for (const auto& camera : cameras) {
-        m_host.clock.beginRow();
-        std::exception_ptr failure;
-        try {
-            command(*camera);
-        } catch (...) {
-            failure = std::current_exception();
-        }
+    for (const std::exception_ptr& failure : runSteppedRows(m_host.clock, int(cameras.size()), work)) {
         answers.push_back({reasonOf(failure)});
     }
-    m_host.clock.endRows();
     return answers;
 }
 
