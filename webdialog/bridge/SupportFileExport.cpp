@@ -1,52 +1,22 @@
 #include "SupportFileExport.h"
 
-#include "APP_ConcurrentException.h"
+#include "APP_Exception.h"
 #include "DOC_Control.h"
 #include "DOC_Interface.h"
 #include "TextKey.h"
+#include "WorkerCall.h"
 #include "ZebDocManager.h"
 #include "ZebHost.h"
 #include "ZebSupportFile.h"
 
 #include <QFileDialog>
 #include <QFileInfo>
-#include <QFutureWatcher>
-#include <QtConcurrent>
 
 #include <algorithm>
 
 namespace {
 
 constexpr auto LastDirectory = "support/dir";
-
-/// Runs on a worker's thread.
-void writeFile(ZebHost* host, const QString& path, const ZebSupportFile& file) {
-    try {
-        if (!host->exportSupportFile(path, file)) {
-            throw APP_Exception(TextKey("Failed to save support file."));
-        }
-    } catch (const APP_Exception& e) {
-        throw APP_ConcurrentException(e);
-    } catch (const std::exception& e) {  // else the worker would drop the text
-        throw APP_ConcurrentException(APP_Exception(QString::fromUtf8(e.what())));
-    }
-}
-
-/// Keeps a worker from outliving what it was started for, on every way out.
-class WorkerEnd {
-public:
-    explicit WorkerEnd(QFuture<void> worker) : m_worker(std::move(worker)) {}
-    ~WorkerEnd() {
-        try {
-            m_worker.waitForFinished();
-        } catch (...) {  // whoever asks the worker for its outcome has been told
-        }
-    }
-    Q_DISABLE_COPY(WorkerEnd)
-
-private:
-    QFuture<void> m_worker;
-};
 
 }  // namespace
 
@@ -105,10 +75,9 @@ QString SupportFileExport::askPath() {
 void SupportFileExport::write(const QString& path) {
     ZebSupportFile file;
     m_host.prepareSupportFile(file);
-    QFutureWatcher<void> watcher;
-    watcher.setFuture(QtConcurrent::run(writeFile, &m_host, path, file));
-    const WorkerEnd end(watcher.future());
-    m_host.execProgress(TextKey("Saving..."), watcher);
-    // Asked here and not by the host, which must not meet an exception of ours.
-    watcher.waitForFinished();
+    callOnWorker(m_host, TextKey("Saving..."), [this, &path, &file] {
+        if (!m_host.exportSupportFile(path, file)) {
+            throw APP_Exception(TextKey("Failed to save support file."));
+        }
+    });
 }
