@@ -4,6 +4,8 @@
 #include "NamedFailure.h"
 #include "ZebDocManager.h"
 
+#include <QSet>
+
 DocKeyList keysOf(const DocList& docs) {
     DocKeyList keys;
     for (const DOC_Interface* doc : docs) {
@@ -42,4 +44,24 @@ DocList connectedDocs(ZebDocManager& documents, const DocKeyList& keys, Gathered
         }
     }
     return docs;
+}
+
+DocList connectedDevices(ZebDocManager& documents, const DocKeyList& keys, GatheredFailures& failures) {
+    DocList firsts;
+    QSet<const DOC_Interface*> devices;
+    for (DOC_Interface* doc : connectedDocs(documents, keys, failures)) {
+        attemptOn(*doc, failures, [&] {
+            const DOC_Interface* device = &deviceOf(*doc);
+            if (!devices.contains(device)) {
+                devices.insert(device);
+                firsts.append(doc);
+            }
+        });
+    }
+    return firsts;
+}
+
+DOC_Interface& deviceOf(DOC_Interface& doc) {
+    DOC_Interface* parent = doc.getParentDoc();
+    return parent != nullptr ? *parent : doc;
 }

@@ -16,3 +16,10 @@ DocList connectedDocs(ZebDocManager& documents, const DocKeyList& keys);
 
 /// The same without those that do not tell, which go into `failures`.
 DocList connectedDocs(ZebDocManager& documents, const DocKeyList& keys, GatheredFailures& failures);
+
+/// Of each device with connected heads among `keys` the first of them, in the order of the keys. Those that do not tell
+/// go into `failures`.
+DocList connectedDevices(ZebDocManager& documents, const DocKeyList& keys, GatheredFailures& failures);
+
+/// What stands for the device of `doc`: the document that it belongs to as a head, else itself. Asks the camera.
+DOC_Interface& deviceOf(DOC_Interface& doc);

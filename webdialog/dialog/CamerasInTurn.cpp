@@ -1,0 +1,74 @@
+#include "CamerasInTurn.h"
+
+#include "DOC_Control.h"
+#include "DOC_Interface.h"
+#include "GUI_MarqueeProgressDialog.h"
+#include "LogFailure.h"
+#include "NamedFailure.h"
+#include "ZebDocManager.h"
+#include "ZebHost.h"
+
+#include <QApplication>
+#include <QFontMetrics>
+#include <QPointer>
+
+namespace {
+
+/// In pixels; a longer one is cut.
+constexpr int NameWidth = 300;
+
+QString nameOf(DOC_Interface& doc) {
+    QString name;
+    logFailure([&] { name = doc.control().getCameraName(1).simplified(); });
+    return QFontMetrics(QApplication::font()).elidedText(name, Qt::ElideRight, NameWidth);
+}
+
+class Progress {
+public:
+    explicit Progress(ZebHost& host) : m_dialog(new GUI_MarqueeProgressDialog(&host, {}, {}, true)) {
+        m_dialog->hold(true);
+    }
+    ~Progress() {
+        if (m_dialog) {
+            // The presses that have come meanwhile find it here, and not what it stands over.
+            QCoreApplication::processEvents();
+        }
+        delete m_dialog;
+    }
+    Q_DISABLE_COPY(Progress)
+
+    void show(const QString& text) {
+        if (m_dialog) {
+            m_dialog->setLabelText(text);
+            m_dialog->show();
+        }
+        QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+    }
+
+private:
+    /// It may go with the main window.
+    const QPointer<GUI_MarqueeProgressDialog> m_dialog;
+};
+
+}  // namespace
+
+void setInTurn(ZebHost& host, const QString& text, const DocKeyList& keys,
+               const std::function<void(DOC_Interface&)>& step) {
+    ZebDocManager& documents = host.docManager();
+    const QString translated = host.translate(text);
+    Progress progress(host);
+    for (int i = 0; i < keys.size(); ++i) {
+        if (DOC_Interface* doc = documents.getDoc(keys.at(i), 1)) {
+            progress.show(translated.arg(nameOf(*doc), QString::number(i + 1), QString::number(keys.size())));
+        }
+        try {
+            if (DOC_Interface* doc = documents.getDoc(keys.at(i), 1)) {
+                step(*doc);
+            }
+        } catch (...) {
+            const QString failure = currentFailureText();
+            DOC_Interface* doc = documents.getDoc(keys.at(i), 1);
+            throw std::runtime_error((doc ? namedFailure(failure, *doc) : failure).toStdString());
+        }
+    }
+}
