@@ -12,7 +12,7 @@ list(APPEND FOLDERS ${ROOT}/hostapi ${ROOT}/visa ${ROOT}/zebsim ${ROOT}/zebsim/o
 
 # No source includes by a path: one that leads upwards, or from the root, would get around the walls.
 set(count 0)
-foreach(top hostapi webdialog documents sync table plugin zebsim visa)
+foreach(top hostapi webdialog documents export sync table plugin zebsim visa)
     file(GLOB_RECURSE sources ${ROOT}/${top}/*.h ${ROOT}/${top}/*.cpp)
     foreach(source ${sources})
         math(EXPR count "${count} + 1")

@@ -1,0 +1,244 @@
+#include "GUI_CameraFileDialog.h"
+
+#include "ConnectedDocs.h"
+#include "DOC_Control.h"
+#include "DOC_Interface.h"
+#include "DocumentGuard.h"
+#include "FailureText.h"
+#include "FileNames.h"
+#include "LogFailure.h"
+#include "NamedFailure.h"
+#include "SettingsFolder.h"
+#include "TextKey.h"
+#include "ZebCycleFailure.h"
+#include "ZebDocManager.h"
+#include "ZebHost.h"
+
+#include <QCheckBox>
+#include <QDialogButtonBox>
+#include <QDir>
+#include <QFontMetrics>
+#include <QGridLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPointer>
+#include <QPushButton>
+#include <QRadioButton>
+
+namespace {
+
+constexpr QRect CameraInTitleBar(0, 306, 24, 24);
+constexpr QSize RowSize(50, 50);
+constexpr int NameWidth = 140;
+constexpr int PresetsLeft = 200;
+constexpr int PresetStep = 40;
+constexpr int NoneLeft = 500;
+constexpr double PanelGrowth = 1.7;
+
+/// Of a folder that is not there the dialog would take the last part for the name of a file.
+QString madeFolder(const QString& folder) {
+    return QDir().mkpath(folder) ? folder : QString();
+}
+
+void addLabel(QWidget& row, const QRect& place, const QString& text, const QString& styleSheet = {}) {
+    auto* label = new QLabel(&row);
+    label->setTextFormat(Qt::PlainText);
+    label->setGeometry(place);
+    label->setStyleSheet(styleSheet);
+    label->setText(text);
+}
+
+QRadioButton* addButton(QWidget& row, const QRect& place, const QString& text, bool checked) {
+    auto* button = new QRadioButton(text, &row);
+    button->setGeometry(place);
+    button->setChecked(checked);
+    return button;
+}
+
+}  // namespace
+
+GUI_CameraFileDialog::GUI_CameraFileDialog(ZebHost* host, QWidget* parent, const QString& caption,
+                                           const QString& folder)
+    : GUI_QFileDialog(host, parent, caption, madeFolder(folder)),
+      m_titleIcon(QPixmap(QStringLiteral(":/is_titlebar.png")).copy(CameraInTitleBar)),
+      m_checkLoadCamera(new QCheckBox(host->translate(TextKey("Load from camera")), this)),
+      m_cameraList(new QListWidget(this)),
+      m_okButton(new QPushButton(host->translate(TextKey("OK")), this)),
+      m_cancelButton(new QPushButton(host->translate(TextKey("Cancel")), this)),
+      m_cameraPanel(new QVBoxLayout),
+      m_buttonRow(new QHBoxLayout) {
+    setNameFilters({host->translate(TextKey("rigx (*.rigx)")), host->translate(TextKey("All Files (* *.*)"))});
+    setAcceptMode(QFileDialog::AcceptOpen);
+    setFileMode(QFileDialog::ExistingFile);
+    setDefaultSuffix(QStringLiteral("rigx"));
+    addPanel();
+    guarded([this] { addRows(); });
+    connect(m_checkLoadCamera, &QCheckBox::toggled, this, &GUI_CameraFileDialog::on_checkLoadCamera_change);
+    connect(m_okButton, &QPushButton::clicked, this, &GUI_CameraFileDialog::on_ok_clicked);
+    connect(m_cancelButton, &QPushButton::clicked, this, &GUI_CameraFileDialog::on_cancel_clicked);
+}
+
+void GUI_CameraFileDialog::addPanel() {
+    constexpr int Columns = 3;
+    constexpr int Most = 100;
+    m_cameraPanel->addWidget(m_checkLoadCamera);
+    m_cameraPanel->addWidget(m_cameraList, Most);
+    m_buttonRow->addWidget(m_okButton);
+    m_buttonRow->addWidget(m_cancelButton);
+    m_buttonRow->addStretch(6);
+    auto* grid = qobject_cast<QGridLayout*>(layout());
+    const int row = grid->rowCount();
+    grid->addLayout(m_cameraPanel, row, 0, 1, Columns);
+    grid->addLayout(m_buttonRow, row + 1, 0, 1, Columns);
+    grid->setRowStretch(row, Most);
+    m_cameraList->hide();
+    m_okButton->hide();
+    m_cancelButton->hide();
+    m_checkLoadCamera->setEnabled(false);
+}
+
+void GUI_CameraFileDialog::addRows() {
+    ZebDocManager& documents = host().docManager();
+    GatheredFailures failures;
+    for (DOC_Interface* doc : connectedDevices(documents, documents.getLiveDocKeys(0, 0), failures)) {
+        attemptOn(*doc, failures, [&] { addRow(*doc); });
+    }
+    if (!failures.isEmpty()) {
+        failures.log();
+        host().errorHandler(ZebCycleFailure(failures.text().toStdString()));
+    }
+}
+
+void GUI_CameraFileDialog::addRow(DOC_Interface& doc) {
+    const DOC_Control& camera = doc.control();
+    const zeb::CameraPresetInfo presets = camera.getCameraPresetInfo();
+    const QString name = camera.getCameraName(1);
+    const QString place = QStringLiteral("%1\t%2").arg(camera.getAddress(1), camera.getDeviceName(1));
+    const bool locked = isDeviceLocked(doc);
+
+    auto* row = new QWidget;
+    addLabel(*row, {50, 3, 200, 20}, QFontMetrics(font()).elidedText(name.simplified(), Qt::ElideRight, NameWidth),
+             QStringLiteral("QLabel { color : #428798; max-width: 142px;}"));
+    addLabel(*row, {50, 25, 900, 20}, place);
+    auto* icon = new QLabel(row);
+    icon->setGeometry(12, 3, m_titleIcon.width(), m_titleIcon.height());
+    icon->setPixmap(m_titleIcon);
+    QList<QRadioButton*> buttons;
+    for (int number = 1; number <= presets.count; ++number) {
+        buttons << addButton(*row, {PresetsLeft + PresetStep * (number - 1), 0, 41, 26}, QString::number(number),
+                             number == presets.current);
+    }
+    buttons << addButton(*row, {qMax(NoneLeft, PresetsLeft + PresetStep * presets.count), 0, 61, 26},
+                         host().translate(TextKey("None")), presets.count == 0);
+    for (QRadioButton* button : locked ? buttons : QList<QRadioButton*>()) {
+        button->setEnabled(false);
+        button->setToolTip(host().translate(TextKey("The camera is locked.")));
+    }
+    m_rowButtons.insert(doc.getKey(), buttons);
+
+    auto* item = new QListWidgetItem(m_cameraList);
+    item->setSizeHint(RowSize);
+    m_cameraList->setItemWidget(item, row);
+    m_checkLoadCamera->setEnabled(true);
+}
+
+void GUI_CameraFileDialog::on_checkLoadCamera_change(bool check) {
+    logButton(QStringLiteral("checkLoadCamera"), QStringLiteral("toggled"),
+              check ? QStringLiteral("ON") : QStringLiteral("OFF"));
+    m_cameraList->setVisible(check);
+    m_okButton->setVisible(check);
+    m_cancelButton->setVisible(check);
+    // What is Qt's has a name.
+    for (QWidget* part : findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly)) {
+        if (!part->objectName().isEmpty()) {
+            part->setEnabled(!check);
+        }
+    }
+    QPushButton* open = findChild<QDialogButtonBox*>(QStringLiteral("buttonBox"))->button(QDialogButtonBox::Open);
+    (check ? m_okButton : open)->setDefault(true);
+    resize(width(), int(check ? height() * PanelGrowth : height() / PanelGrowth));
+}
+
+/// No exception may get into Qt's event loop.
+template <typename Work>
+void GUI_CameraFileDialog::guarded(Work&& work) {
+    ZebHost& told = host();
+    try {
+        work();
+    } catch (const std::exception& e) {
+        logFailure([&] { told.errorHandler(e); });
+    } catch (...) {
+        logFailure([&] { told.errorHandler(std::runtime_error(currentFailureText().toStdString())); });
+    }
+}
+
+template <typename Work>
+void GUI_CameraFileDialog::end(Work&& work) {
+    // In the event loops of the work the user can press once more.
+    if (m_ending) {
+        return;
+    }
+    m_ending = true;
+    const QPointer<GUI_CameraFileDialog> here(this);
+    guarded(work);
+    if (here) {
+        done(Accepted);
+    }
+}
+
+void GUI_CameraFileDialog::accept() {
+    guarded([this] {
+        const QString name = findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->text();
+        if (!isGoodFileName(QFileInfo(name).fileName()) || !isGoodPath(name)) {
+            host().alert(host().translate(TextKey("Invalid filename.")), this);
+            return;
+        }
+        const QString path = selectedFiles().value(0);
+        if (path.isEmpty() || QFileInfo(path).isDir()) {
+            QFileDialog::accept();
+        } else if (QFileInfo::exists(path)) {
+            loadFile(path);
+        } else {
+            host().alert(host().translate(TextKey("%1 does not exist.")).arg(path), nullptr);
+        }
+    });
+}
+
+void GUI_CameraFileDialog::loadFile(const QString& path) {
+    end([&] {
+        rememberSettingsFolder(host(), directory().absolutePath());
+        host().docManager().loadSettingsFile(path, 0, 0);
+    });
+}
+
+void GUI_CameraFileDialog::on_ok_clicked() {
+    logButton(QStringLiteral("okButton"), QStringLiteral("clicked"));
+    end([this] {
+        ZebHost& loading = host();
+        DocumentGuard guard(loading, true);
+        const PresetNumbers chosen = choices();
+        if (acceptMode() == QFileDialog::AcceptOpen) {
+            PresetLoad(loading).run(chosen);
+        }
+        guard.release();
+    });
+}
+
+PresetNumbers GUI_CameraFileDialog::choices() const {
+    PresetNumbers chosen;
+    for (auto row = m_rowButtons.begin(); row != m_rowButtons.end(); ++row) {
+        chosen.insert(row.key(), 0);
+        for (const QRadioButton* button : row.value()) {
+            if (button->isChecked() && button->isEnabled() && button != row.value().last()) {
+                chosen.insert(row.key(), button->text().toInt());
+            }
+        }
+    }
+    return chosen;
+}
+
+void GUI_CameraFileDialog::on_cancel_clicked() {
+    logButton(QStringLiteral("cancelButton"), QStringLiteral("clicked"));
+    reject();
+}

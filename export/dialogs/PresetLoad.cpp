@@ -1,0 +1,100 @@
+#include "PresetLoad.h"
+
+#include "CamerasInTurn.h"
+#include "ConnectedDocs.h"
+#include "DOC_Control.h"
+#include "DOC_Head.h"
+#include "DOC_Interface.h"
+#include "DOC_Lock.h"
+#include "NamedFailure.h"
+#include "TextKey.h"
+#include "ZebDocManager.h"
+#include "ZebHost.h"
+
+#include <algorithm>
+
+namespace {
+
+DocList connectedHeads(DOC_Interface& doc) {
+    DocList heads = deviceOf(doc).getHeadDocs(0);
+    heads.erase(std::remove_if(heads.begin(), heads.end(),
+                               [](const DOC_Interface* head) { return head == nullptr || !head->isConnected(); }),
+                heads.end());
+    return heads;
+}
+
+}  // namespace
+
+bool isDeviceLocked(DOC_Interface& doc) {
+    const DocList heads = connectedHeads(doc);
+    return std::any_of(heads.begin(), heads.end(), [](DOC_Interface* head) { return head->lock().isParamLocked(); });
+}
+
+void PresetLoad::run(const PresetNumbers& numbers) {
+    const int mode = m_host.getOperatingMode();
+    const DocKeyList reboots = rebooting(loadable(numbers));
+    // What the user has agreed to is not what would be done in another mode.
+    if (!userAgrees(reboots) || m_host.getOperatingMode() != mode) {
+        return;
+    }
+    const PresetNumbers chosen = loadable(numbers);
+    setInTurn(m_host, TextKey("Loading preset: %1 (%2 of %3)"), chosen.keys(),
+              [&](DOC_Interface& doc) { load(doc, chosen.value(doc.getKey()), reboots.contains(doc.getKey())); });
+}
+
+PresetNumbers PresetLoad::loadable(const PresetNumbers& numbers) const {
+    PresetNumbers loadable;
+    for (auto each = numbers.begin(); each != numbers.end(); ++each) {
+        DOC_Interface* doc = each.value() > 0 ? m_host.docManager().getDoc(each.key(), 1) : nullptr;
+        if (doc != nullptr) {
+            onCamera(*doc, [&] {
+                if (!isDeviceLocked(*doc)) {
+                    loadable.insert(each.key(), each.value());
+                }
+            });
+        }
+    }
+    return loadable;
+}
+
+DocKeyList PresetLoad::rebooting(const PresetNumbers& numbers) const {
+    DocKeyList keys;
+    for (DOC_Interface* doc : docsOf(m_host.docManager(), numbers.keys())) {
+        onCamera(*doc, [&] {
+            if (doc->control().presetNeedsReboot()) {
+                keys.append(doc->getKey());
+            }
+        });
+    }
+    return keys;
+}
+
+bool PresetLoad::userAgrees(const DocKeyList& rebooting) const {
+    if (rebooting.isEmpty()) {
+        return true;
+    }
+    QString question =
+        m_host.translate(TextKey("The following camera preset is loaded after rebooting. Please restart the camera."));
+    question += QLatin1Char('\n');
+    for (DOC_Interface* doc : docsOf(m_host.docManager(), rebooting)) {
+        question += QStringLiteral("\n ") % doc->getDisplayName();
+    }
+    return m_host.confirm(question);
+}
+
+void PresetLoad::load(DOC_Interface& doc, int number, bool reboots) {
+    const DOCKEY key = doc.getKey();
+    if (reboots) {
+        doc.markRebooting(0, key);
+    }
+    doc.control().loadCameraPreset(number);
+    doc.head().refreshAfterPreset(0);
+    for (DOC_Interface* head : doc.control().isMultiHead() ? connectedHeads(doc) : DocList()) {
+        if (head->getKey() != key) {
+            head->head().refreshAfterPreset(0);
+        }
+    }
+    if (reboots) {
+        m_host.docManager().disconnectDoc(key, 0);
+    }
+}
