@@ -122,6 +122,15 @@ public Q_SLOTS:
     void save();
     void saveLayout();
 
+    // Image plug-ins of the cameras, and files of settings.
+    void togglePlugin(const QVariantList& keys, const QString& pluginName, bool enable);
+    /// The menu of the icon of a plug-in, at that point of the screen.
+    void effectContextMenu(const QString& key, const QString& pluginName, int x, int y);
+    /// A map with the key `dockey` of the camera and the name `plugin`.
+    void deletePlugin(const QVariant& pluginName);
+    void loadRigx();
+    void saveRigx();
+
     // Custom information, as JSON arrays. Empty ones in file mode, and after a failure of a file; an empty text after
     // one of a camera.
     QString getCustomSettings(const QVariant& key, bool withoutRecId = false);
@@ -147,6 +156,7 @@ private:
     TableView* tableView() const;
     QWidget* tableWindow() const;
     void activateTable();
+    void showReady();
 
     TableState m_state;
     bool m_sessionOpen = false;

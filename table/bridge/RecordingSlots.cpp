@@ -95,16 +95,18 @@ void JS_Mediator_WrenTableDialog::enterMemoryMode() {
 }
 
 void JS_Mediator_WrenTableDialog::showReadyProgress() {
-    call(*this, Query, __func__, {}, [this] {
-        const bool following = m_sessionOpen && host().appStatus().isWrenRunning();
-        if (m_readyProgress || !following || m_state.loadingRigx) {
-            return;
-        }
-        m_readyProgress = makeReadyProgressDialog(host().translate(TextKey("Ready...")), host());
-        m_readyProgress->show();
-        // A press that is under way keeps until this call has ended; in here it would be refused.
-        QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
-    });
+    call(*this, Query, __func__, {}, [this] { showReady(); });
+}
+
+void JS_Mediator_WrenTableDialog::showReady() {
+    const bool following = m_sessionOpen && host().appStatus().isWrenRunning();
+    if (m_readyProgress || !following || m_state.loadingRigx) {
+        return;
+    }
+    m_readyProgress = makeReadyProgressDialog(host().translate(TextKey("Ready...")), host());
+    m_readyProgress->show();
+    // A press that is under way keeps until this call has ended; in here it would be refused.
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
 }
 
 void JS_Mediator_WrenTableDialog::deleteReadyProgress() {

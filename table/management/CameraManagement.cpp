@@ -110,7 +110,7 @@ void CameraManagement::connect(const DocKeyList& keys, bool connect, bool force)
         const DocKeyList before = documents.getConnectedDocKeys(0);
         failures.attempt([&] { documents.connectDocs(affected); });
         // Heads come along with others of their device.
-        join(keysBeside(before, documents.getConnectedDocKeys(0)), failures);
+        joinConnected(before, failures);
     } else if (!affected.isEmpty()) {
         failures.attempt([&] { documents.disconnectDocs(affected); });
     }
@@ -176,6 +176,10 @@ void CameraManagement::join(const DocKeyList& keys, GatheredFailures& failures) 
         failures.attempt([&] { prepareConnectedDocs(docs); });
         DefaultsLoad(m_host, m_state, failures).loadOnto(keys);
     }
+}
+
+void CameraManagement::joinConnected(const DocKeyList& before, GatheredFailures& failures) {
+    join(keysBeside(before, m_host.docManager().getConnectedDocKeys(0)), failures);
 }
 
 void CameraManagement::prepareConnectedDocs(const DocList& docs) {

@@ -45,6 +45,9 @@ public:
     /// A camera that records already is followed, and locked while the lock column is in use.
     void prepareConnectedDocs(const DocList& docs);
 
+    /// Those that are connected now and not among `before` are prepared as any that connects.
+    void joinConnected(const DocKeyList& before, GatheredFailures& failures);
+
 private:
     /// Every road by which a camera comes into an open table ends here.
     void join(const DocKeyList& keys, GatheredFailures& failures);

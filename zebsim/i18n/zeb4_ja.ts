@@ -1564,6 +1564,70 @@
         <translation>削除</translation>
     </message>
     <message>
+        <source>Device Open</source>
+        <translation>カメラ設定を開く</translation>
+    </message>
+    <message>
+        <source>Device Save</source>
+        <translation>カメラ設定の保存</translation>
+    </message>
+    <message>
+        <source>Select folder</source>
+        <translation>フォルダーの選択</translation>
+    </message>
+    <message>
+        <source>Loading preset: %1 (%2 of %3)</source>
+        <translation>プリセットを読み込み中: %1 (%2/%3)</translation>
+    </message>
+    <message>
+        <source>Saving preset: %1 (%2 of %3)</source>
+        <translation>プリセットに保存中: %1 (%2/%3)</translation>
+    </message>
+    <message>
+        <source>Invalid filename.</source>
+        <translation>ファイル名が正しくありません。</translation>
+    </message>
+    <message>
+        <source>The path of the target is too long.</source>
+        <translation>保存先のパスが長すぎます。</translation>
+    </message>
+    <message>
+        <source>Do you want to overwrite it?</source>
+        <translation>上書きしますか？</translation>
+    </message>
+    <message>
+        <source>Load from camera</source>
+        <translation>カメラから読み込む</translation>
+    </message>
+    <message>
+        <source>rigx (*.rigx)</source>
+        <translation>rigx (*.rigx)</translation>
+    </message>
+    <message>
+        <source>All Files (* *.*)</source>
+        <translation>すべてのファイル (* *.*)</translation>
+    </message>
+    <message>
+        <source>The camera is locked.</source>
+        <translation>カメラはロックされています。</translation>
+    </message>
+    <message>
+        <source>%1 does not exist.</source>
+        <translation>%1 は存在しません。</translation>
+    </message>
+    <message>
+        <source>The following camera preset is loaded after rebooting. Please restart the camera.</source>
+        <translation>次のカメラのプリセットは再起動後に読み込まれます。カメラを再起動してください。</translation>
+    </message>
+    <message>
+        <source>The settings cannot be loaded because a camera with low light ON is included.</source>
+        <translation>ローライトがオンのカメラが含まれているため、設定を読み込めません。</translation>
+    </message>
+    <message>
+        <source>The setting can not be saved because low light ON camera is included.</source>
+        <translation>ローライトがオンのカメラが含まれているため、設定を保存できません。</translation>
+    </message>
+    <message>
         <source>Enter a group name.</source>
         <translation>グループ名を入力してください。</translation>
     </message>
