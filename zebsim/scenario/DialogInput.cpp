@@ -50,6 +50,7 @@ QPoint spotOf(const QAbstractButton& button) {
 void pushButton(QDialog& dialog, const QString& text, const QString& row) {
     const QWidget& place = row.isEmpty() ? dialog : findRow(dialog, row);
     QStringList present;
+    bool isGreyed = false;
     const auto buttons = place.findChildren<QAbstractButton*>();
     for (QAbstractButton* button : buttons) {
         if (!button->isVisible() || button->text().isEmpty()) {
@@ -57,14 +58,15 @@ void pushButton(QDialog& dialog, const QString& text, const QString& row) {
         }
         if (buttonText(*button) != text) {
             present.append(buttonText(*button));
-            continue;
+        } else if (button->isEnabled()) {
+            QTest::mouseClick(button, Qt::LeftButton, {}, spotOf(*button));
+            return;
+        } else {
+            isGreyed = true;
         }
-        if (!button->isEnabled()) {
-            throw ScenarioError(QStringLiteral("the button \"%1\" is greyed").arg(text));
-        }
-        QTest::mouseClick(button, Qt::LeftButton, {}, spotOf(*button));
-        return;
     }
     throw ScenarioError(
-        QStringLiteral("the dialog has no button \"%1\", but %2").arg(text, present.join(QStringLiteral(", "))));
+        isGreyed
+            ? QStringLiteral("the button \"%1\" is greyed").arg(text)
+            : QStringLiteral("the dialog has no button \"%1\", but %2").arg(text, present.join(QStringLiteral(", "))));
 }
