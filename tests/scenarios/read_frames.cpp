@@ -13,7 +13,8 @@
 namespace {
 
 bool showsFrame(const QImage& picture, const QString& camera, qint64 number, qint64 rate) {
-    const QImage expected = drawFrame({camera, picture.size(), number, number * 1000000 / rate}, picture.size());
+    const QImage expected =
+        drawFrame({camera, picture.size(), number, number * 1000000 / rate, {}, {}}, picture.size());
     return picture.convertToFormat(expected.format()) == expected;
 }
 

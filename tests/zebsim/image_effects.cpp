@@ -79,9 +79,8 @@ Channels mosaic(int x, int y, const std::function<Channels(int, int)>& at) {
 
 Channels heat(int x, int y, const std::function<Channels(int, int)>& at) {
     const Channels pixel = at(x, y);
-    const double part = 3 * ((pixel[0] * 11 + pixel[1] * 16 + pixel[2] * 5) / 32) / 255.0;
-    return {int(255 * std::clamp(part, 0.0, 1.0)), int(255 * std::clamp(part - 1, 0.0, 1.0)),
-            int(255 * std::clamp(part - 2, 0.0, 1.0))};
+    const int grey = (pixel[0] * 11 + pixel[1] * 16 + pixel[2] * 5) / 32;
+    return {std::min(3 * grey, 255), std::clamp(3 * grey - 255, 0, 255), std::max(3 * grey - 510, 0)};
 }
 
 CameraFrame frameOf(const QString& plugin, const QVariantMap& values, int mode) {

@@ -38,6 +38,7 @@ protected:
         host.camera(key).change(
             {{"recordedRange", QVariantList{0, 499}}, {"selectedRange", QVariantList{first, last}}});
     }
+    SensorNoise noise() { return {host.camera(1).model().grain, host.camera(1).model().hotPixels}; }
     SaveSources sources() { return saveSources(host.host.cameras(), fileNames); }
     SaveOrders orders(const char* format = "png") {
         const auto ask = [this](const QString& file) {
@@ -96,6 +97,8 @@ TEST_F(Saving, WritesTheChosenFramesAndNoOthers) {
             atNext = job.frame();
         }
     };
+    host.camera(3).change({{"effectivePlugins", QStringList{"filter", "mosaic", "lut"}},
+                           {"pluginValues", QVariantMap{{"lut", QVariantMap{{"white", 160}}}}}});
     for (const char* format : {"png", "tiff", "jpeg"}) {
         EXPECT_EQ(run(orders(format), follow), QStringList({"Gate: 2 of 2 up to 0, saved", NozzleSaved})) << format;
         QStringList expected = AllFiles;
@@ -105,7 +108,9 @@ TEST_F(Saving, WritesTheChosenFramesAndNoOthers) {
             const QImage read = QImageReader(path(file)).read().convertToFormat(QImage::Format_RGB32);
             const int number = file.section('_', -1).section('.', 0, 0).toInt();
             const QString camera = file.startsWith('G') ? "Gate" : "Nozzle/2";
-            const QImage drawn = drawFrame({camera, Size, number, qint64(number) * 1000}, Size);
+            CameraFrame frame{camera, Size, number, qint64(number) * 1000, noise(), {}};
+            frame.effects = camera == "Gate" ? FrameEffects() : effectsOf(host.camera(3).state(), zeb::MemoryMode);
+            const QImage drawn = drawFrame(frame, Size);
             EXPECT_EQ(read.size(), Size) << file.toStdString();
             EXPECT_TRUE(read == drawn || qstrcmp(format, "jpeg") == 0) << file.toStdString();
             QFile::remove(path(file));
@@ -386,7 +391,7 @@ TEST_F(Saving, LaysTheCamerasSideBySide) {
     const QImage last(path("Layout_00002.png"));
     ASSERT_EQ(last.size(), QSize(960, 360));
     const QImage right = last.copy(480, 0, 480, 360).convertToFormat(QImage::Format_RGB32);
-    EXPECT_EQ(right, drawFrame({"Nozzle/2", Size, 2, 2000}, {480, 360}));
+    EXPECT_EQ(right, drawFrame({"Nozzle/2", Size, 2, 2000, noise(), {}}, {480, 360}));
     EXPECT_EQ(last.pixel(240, 180), QColor(24, 26, 30).rgb()) << "nothing is shown of the lost one";
 }
 

@@ -68,20 +68,21 @@ void applyFilter(QImage& picture, const QVector<int>& values) {
     makeOpaque(picture);
 }
 
-QRgb heat(double part) {
-    const auto channel = [part](double from) { return int(255 * std::clamp(part * 3 - from, 0.0, 1.0)); };
-    return qRgb(channel(0), channel(1), channel(2));
+QRgb heat(int level) {
+    const auto channel = [level](int from) { return std::clamp(3 * (level - from), 0, 255); };
+    return qRgb(channel(0), channel(85), channel(170));
 }
 
-QRgb rainbow(double part) {
-    return QColor::fromHsvF((1 - part) * 2 / 3, 1, 1).rgb();
+QRgb rainbow(int level) {
+    constexpr double Blue = 2.0 / 3;
+    return QColor::fromHsvF(Blue * (255 - level) / 255, 1, 1).rgb();
 }
 
 /// Brightness as a colour: of glowing iron, or of the rainbow from blue to red.
 void applyFalseColours(QImage& picture, const QVector<int>& values) {
     std::array<QRgb, Levels> palette{};
     for (int level = 0; level < Levels; ++level) {
-        palette[std::size_t(level)] = (values[0] == 1 ? heat : rainbow)(level / 255.0);
+        palette[std::size_t(level)] = (values[0] == 1 ? heat : rainbow)(level);
     }
     changePixels(picture, [&palette](QRgb colour) { return palette[std::size_t(qGray(colour))]; });
 }
