@@ -1,4 +1,5 @@
 #include "CommandBench.h"
+#include "EffectBench.h"
 #include "HostPages.h"
 #include "Measurements.h"
 #include "MemoryBench.h"
@@ -48,7 +49,10 @@ QJsonObject measure(const QString& name, int cameras) {
     if (name == QLatin1String("commands")) {
         return CommandBench(cameras).run();
     }
-    throw std::runtime_error("The measurements are table, text, start, memory and commands.");
+    if (name == QLatin1String("effects")) {
+        return EffectBench::run();
+    }
+    throw std::runtime_error("The measurements are table, text, start, memory, commands and effects.");
 }
 
 int measureHere(int argc, char** argv) {
@@ -121,6 +125,21 @@ QVector<Line> compareCommands(const Numbers& commands) {
     return lines;
 }
 
+QVector<Line> compareEffects(const Numbers& effects) {
+    QVector<Line> lines;
+    const double plain = effects[QStringLiteral("plain")];
+    const std::pair<const char*, const char*> names[] = {
+        {"lut", "a frame of 1,024 x 1,024 with levels, over one without"},
+        {"pseudo", "with false colours"},
+        {"filter", "with median and sharpening"},
+        {"mosaic", "with a mosaic"}};
+    std::printf("A frame: %.2f\n", plain);
+    for (const auto& [name, what] : names) {
+        lines.append({what, effects[QLatin1String(name)] / plain, 1.5, 2});
+    }
+    return lines;
+}
+
 int print(const QVector<Line>& lines) {
     std::printf("\n%-62s %8s %6s %6s\n", "", "measured", "goal", "limit");
     bool held = true;
@@ -142,6 +161,7 @@ int measureAndCompare(const QString& program) {
     lines += compareStart("first painted rows over a plain page, 64 cameras", measured("start", Few));
     lines += compareStart("first painted rows over a plain page, 1,024 cameras", measured("start", Many));
     lines += compareCommands(measured("commands", Few));
+    lines += compareEffects(measured("effects", 1));
     lines += compareMemory(measured("memory", Few, 1));
     return print(lines);
 }

@@ -1,0 +1,10 @@
+#pragma once
+
+#include <QJsonObject>
+
+/// What a frame of 1,024 x 1,024 with the effect of an image plug-in takes, and one without. Any thread.
+class EffectBench {
+public:
+    /// Milliseconds, by the names of the plug-ins and as `plain`.
+    static QJsonObject run();
+};
