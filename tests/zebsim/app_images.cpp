@@ -5,6 +5,8 @@
 #include "CommandLine.h"
 #include "DOC_Frames.h"
 #include "DOC_Interface.h"
+#include "EffectPanel.h"
+#include "FramePicture.h"
 #include "PlayerBar.h"
 #include "RigFile.h"
 #include "Simulator.h"
@@ -12,9 +14,12 @@
 #include "ViewerWindow.h"
 
 #include <QAction>
+#include <QCheckBox>
 #include <QLabel>
 #include <QMdiArea>
+#include <QPushButton>
 #include <QSlider>
+#include <QSpinBox>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
@@ -137,6 +142,40 @@ TEST_F(Images, ShowWhatIsRecordedInMemoryModeAndNothingInFileMode) {
     EXPECT_EQ(host.mdi().countMdiWindow(true, 2), 0);
     EXPECT_FALSE(viewer.findChild<PlayerBar*>()->isVisible());
     EXPECT_FALSE(camera(1).get(&CameraState::playing));
+}
+
+TEST_F(Images, ShowAtOnceWhatThePluginsMakeOfThem) {
+    camera(2).change({{"recorded", true}, {"recordedRange", QVariantList{0, 9}}});
+    host.docManager().selectOnly({2});
+    host.appStatus().enterMode(zeb::MemoryMode);
+    images.showNow();
+    const CameraView& view = images.find(2)->view();
+    const auto seen = [&view] { return const_cast<CameraView&>(view).grab().toImage(); };
+    images.toggleEffects();
+    EffectPanel& panel = images.find(2)->effects();
+    EXPECT_TRUE(panel.isVisible());
+    QCoreApplication::processEvents();
+    const QImage plain = seen();
+    panel.findChild<QCheckBox*>("pseudo")->click();
+    EXPECT_NE(seen(), plain) << "a paused one too";
+    panel.findChild<QCheckBox*>("pseudo")->click();
+    EXPECT_EQ(seen(), plain);
+
+    // Numbers that wait for their OK, and such as lie between two steps.
+    auto* median = panel.findChild<QSpinBox*>("filter.median");
+    median->setValue(4);
+    EXPECT_TRUE(camera(2).get(&CameraState::pluginValues).isEmpty());
+    images.follow();
+    EXPECT_EQ(median->value(), 4) << "what is typed stays";
+    panel.findChild<QPushButton*>("filter.ok")->click();
+    const QVariantMap filter{{"median", 3}, {"sharpen", 100}};
+    EXPECT_EQ(camera(2).get(&CameraState::pluginValues).value("filter").toMap(), filter);
+    panel.findChild<QSpinBox*>("lut.black")->setValue(30);
+    EXPECT_EQ(camera(2).get(&CameraState::pluginValues).value("lut").toMap().value("black").toInt(), 30);
+    camera(2).set(&CameraState::locked, true);
+    images.follow();
+    EXPECT_FALSE(panel.findChild<QCheckBox*>("lut")->isEnabled());
+    EXPECT_TRUE(panel.findChild<QCheckBox*>("mosaic")->isEnabled()) << "it works on recorded images alone";
 }
 
 TEST_F(Images, StandBelowTheItemsThatAreToBeShown) {
