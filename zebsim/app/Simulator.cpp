@@ -57,7 +57,7 @@ Simulator::Simulator(const CommandLine& line) : m_host(m_clock, m_boxes, line.pr
         }
     });
     loadPlugin(line);
-    QObject::connect(&m_recorderTimer, &QTimer::timeout, m_window.get(), [this] { m_host.recorder().proceed(); });
+    QObject::connect(&m_recorderTimer, &QTimer::timeout, m_window.get(), [this] { m_host.proceed(); });
     m_recorderTimer.start(RecorderInterval);
 }
 

@@ -21,6 +21,7 @@ public:
 
     const QString& address() const { return m_address; }
     const CameraModel& model() const { return *m_model; }
+    std::shared_ptr<const CameraModel> sharedModel() const { return m_model; }
     int latency() const { return m_latency; }
     /// Whether the host has found the device.
     bool isFound() const { return m_found; }

@@ -28,12 +28,7 @@ QVariantMap CameraState::toPlain() const {
 }
 
 QVariantMap CameraState::toPlain(const QStringList& names) const {
-    const QVariantMap all = toPlain();
-    QVariantMap members;
-    for (const QString& wanted : names) {
-        members.insert(wanted, all.value(wanted));
-    }
-    return members;
+    return readMembers(staticMetaObject, this, names);
 }
 
 void CameraState::apply(const QVariantMap& members) {

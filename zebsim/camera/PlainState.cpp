@@ -188,6 +188,15 @@ QVariantMap readMembers(const QMetaObject& type, const void* gadget) {
     return members;
 }
 
+QVariantMap readMembers(const QMetaObject& type, const void* gadget, const QStringList& names) {
+    QVariantMap members;
+    for (const QString& name : names) {
+        const int index = type.indexOfProperty(name.toLatin1().constData());
+        members.insert(name, plain(type.property(index).readOnGadget(gadget)));
+    }
+    return members;
+}
+
 void writeMembers(const QMetaObject& type, void* gadget, const QVariantMap& members) {
     for (auto member = members.begin(); member != members.end(); ++member) {
         try {

@@ -71,7 +71,7 @@ QString whyNoPorts(const QVariantMap& ports) {
     return areSignals ? QString() : QStringLiteral("there is no such signal");
 }
 
-QString whyNoPluginValues(const QVariantMap& plugins) {
+QString whyNoNumbers(const QVariantMap& plugins) {
     for (const QVariant& plugin : plugins) {
         const QVariantMap values = plugin.toMap();
         if (plugin.type() != QVariant::Map || !std::all_of(values.begin(), values.end(), isNumber)) {
@@ -86,7 +86,7 @@ QString whyNot(const QString& name, const QVariant& value) {
         return whyNoPorts(value.toMap());
     }
     if (name == QLatin1String("pluginValues")) {
-        return whyNoPluginValues(value.toMap());
+        return whyNoNumbers(value.toMap());
     }
     if (name == QLatin1String("variableChannels") && value.toStringList().size() > zeb::VariableChannels) {
         return QStringLiteral("there are at most %1 channels").arg(zeb::VariableChannels);

@@ -29,6 +29,7 @@ SimHost::SimHost(Clock& clock, MessageDesk& desk, const QString& prefsPath)
       m_syncSignal(m_cameras, m_signalDevices),
       m_recorder(m_context),
       m_docManager(m_context),
+      m_restarts(m_context),
       m_liveLoop(m_calls, m_cameras, m_events),
       m_player(m_calls),
       m_saver(m_context),

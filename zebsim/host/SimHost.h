@@ -17,6 +17,7 @@
 #include "Journal.h"
 #include "Notices.h"
 #include "Preferences.h"
+#include "RestartWatch.h"
 #include "SimAppStatus.h"
 #include "SimCameraOps.h"
 #include "SimDocManager.h"
@@ -61,6 +62,13 @@ public:
     bool setLanguage(const QString& language) { return m_translator.load(language); }
     /// Replaces all cameras and hubs. Keys count from 1 again; documents of the old ones are dead.
     void setRig(const Rig& rig);
+    /// Brings recording and restarts up to the clock; called often.
+    void proceed() {
+        m_recorder.proceed();
+        m_restarts.proceed();
+    }
+    /// The user switches a camera off and on again.
+    void reboot(DOCKEY key) { m_restarts.reboot(key); }
 
     Clock& clock() { return m_clock; }
     Journal& journal() { return m_journal; }
@@ -302,6 +310,7 @@ private:
     SyncSignal m_syncSignal;
     SimRecorder m_recorder;
     SimDocManager m_docManager;
+    RestartWatch m_restarts;
     SimLiveLoop m_liveLoop;
     SimPlayer m_player;
     SimSaver m_saver;

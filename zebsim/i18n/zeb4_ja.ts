@@ -2023,5 +2023,213 @@
         <source>Save camera settings...</source>
         <translation>カメラ設定を保存...</translation>
     </message>
+    <message>
+        <source>Frames from the trigger on</source>
+        <translation>トリガー以降のフレーム数</translation>
+    </message>
+    <message>
+        <source>Record area</source>
+        <translation>撮影範囲</translation>
+    </message>
+    <message>
+        <source>Low light type</source>
+        <translation>ローライトの種類</translation>
+    </message>
+    <message>
+        <source>Signals at the ports</source>
+        <translation>端子の信号</translation>
+    </message>
+    <message>
+        <source>Dual slope shutter</source>
+        <translation>デュアルスロープシャッター</translation>
+    </message>
+    <message>
+        <source>Automatic exposure</source>
+        <translation>自動露出</translation>
+    </message>
+    <message>
+        <source>IRIG</source>
+        <translation>IRIG</translation>
+    </message>
+    <message>
+        <source>IRIG Time Stamp at the end</source>
+        <translation>IRIG タイムスタンプ（露光終了時）</translation>
+    </message>
+    <message>
+        <source>Variable channel</source>
+        <translation>バリアブルチャンネル</translation>
+    </message>
+    <message>
+        <source>Binning</source>
+        <translation>ビニング</translation>
+    </message>
+    <message>
+        <source>Device alias</source>
+        <translation>デバイスの別名</translation>
+    </message>
+    <message>
+        <source>Names of the partitions</source>
+        <translation>パーティション名</translation>
+    </message>
+    <message>
+        <source>Variable channels</source>
+        <translation>バリアブルチャンネル一覧</translation>
+    </message>
+    <message>
+        <source>Image plug-ins that work</source>
+        <translation>有効な画像プラグイン</translation>
+    </message>
+    <message>
+        <source>Numbers of the image plug-ins</source>
+        <translation>画像プラグインの数値</translation>
+    </message>
+    <message>
+        <source>Curve of brightness</source>
+        <translation>明るさのカーブ</translation>
+    </message>
+    <message>
+        <source>Frame skip</source>
+        <translation>コマ飛ばし</translation>
+    </message>
+    <message>
+        <source>Mode of the frame skip</source>
+        <translation>コマ飛ばしのモード</translation>
+    </message>
+    <message>
+        <source>Frames of the frame skip</source>
+        <translation>コマ飛ばしのフレーム数</translation>
+    </message>
+    <message>
+        <source>Scale</source>
+        <translation>スケール</translation>
+    </message>
+    <message>
+        <source>Rotation</source>
+        <translation>回転</translation>
+    </message>
+    <message>
+        <source>Flipped horizontally</source>
+        <translation>左右反転</translation>
+    </message>
+    <message>
+        <source>Flipped vertically</source>
+        <translation>上下反転</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <translation>ズーム</translation>
+    </message>
+    <message>
+        <source>there is no such camera</source>
+        <translation>そのカメラはありません</translation>
+    </message>
+    <message>
+        <source>not in the file: %1</source>
+        <translation>ファイルにない設定: %1</translation>
+    </message>
+    <message>
+        <source>it is not in the file</source>
+        <translation>ファイルにありません</translation>
+    </message>
+    <message>
+        <source>it is not connected, and stays as it is</source>
+        <translation>接続されていないため、変更しません</translation>
+    </message>
+    <message>
+        <source>it is locked, and stays as it is</source>
+        <translation>ロックされているため、変更しません</translation>
+    </message>
+    <message>
+        <source>it is armed, and stays as it is</source>
+        <translation>撮影待機中のため、変更しません</translation>
+    </message>
+    <message>
+        <source>it records, and stays as it is</source>
+        <translation>撮影中のため、変更しません</translation>
+    </message>
+    <message>
+        <source>%1 %2 → %3</source>
+        <translation>%1 %2 → %3</translation>
+    </message>
+    <message>
+        <source>%1 stays %2</source>
+        <translation>%1 %2 のまま</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1（%2）</translation>
+    </message>
+    <message>
+        <source>no exposure lasts longer than a frame</source>
+        <translation>露光時間はフレーム間隔を超えられません</translation>
+    </message>
+    <message>
+        <source>all heads of the device share it, and the file has them differ</source>
+        <translation>デバイスのヘッド間で共通の設定ですが、ファイルの値が異なります</translation>
+    </message>
+    <message>
+        <source>another head of the device shares it, and stays as it is</source>
+        <translation>同じデバイスの別のヘッドと共通の設定で、そのヘッドは変更しません</translation>
+    </message>
+    <message>
+        <source>%1 is not offered</source>
+        <translation>%1 は選べません</translation>
+    </message>
+    <message>
+        <source>its settings could not be read back: %1</source>
+        <translation>設定を読み直せませんでした: %1</translation>
+    </message>
+    <message>
+        <source>%1: %2 asked, %3 taken</source>
+        <translation>%1: 指定 %2、実際 %3</translation>
+    </message>
+    <message>
+        <source>%1 and %2 more</source>
+        <translation>%1 ほか %2 台</translation>
+    </message>
+    <message>
+        <source>No setting of "%1" can be loaded.</source>
+        <translation>「%1」の設定は読み込めません。</translation>
+    </message>
+    <message>
+        <source>All cameras are as in "%1" already.</source>
+        <translation>すべてのカメラは既に「%1」のとおりです。</translation>
+    </message>
+    <message>
+        <source>Load the settings of "%1"? %2 settings of %3 cameras change, %4 are as in the file already.</source>
+        <translation>「%1」の設定を読み込みますか？%3 台のカメラの %2 個の設定が変わり、%4 個は既にファイルのとおりです。</translation>
+    </message>
+    <message>
+        <source>Load</source>
+        <translation>読込</translation>
+    </message>
+    <message>
+        <source>The settings of "%1" are loaded.</source>
+        <translation>「%1」の設定を読み込みました。</translation>
+    </message>
+    <message>
+        <source>Not all settings of "%1" were loaded.</source>
+        <translation>「%1」の設定の一部は読み込まれませんでした。</translation>
+    </message>
+    <message>
+        <source>no camera is connected</source>
+        <translation>カメラが接続されていません</translation>
+    </message>
+    <message>
+        <source>no camera has answered</source>
+        <translation>応答したカメラがありません</translation>
+    </message>
+    <message>
+        <source>Cameras that are not in "%1":</source>
+        <translation>「%1」に含まれないカメラ:</translation>
+    </message>
+    <message>
+        <source>%1: it has not come back after its restart.</source>
+        <translation>%1: 再起動後に復帰していません。</translation>
+    </message>
+    <message>
+        <source>the camera is starting anew</source>
+        <translation>カメラは再起動中です</translation>
+    </message>
 </context>
 </TS>

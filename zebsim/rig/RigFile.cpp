@@ -1,5 +1,6 @@
 #include "RigFile.h"
 
+#include "DeviceAddress.h"
 #include "JsonError.h"
 #include "JsonNode.h"
 #include "ModelCatalogue.h"
@@ -7,7 +8,6 @@
 
 #include <QDir>
 #include <QFileInfo>
-#include <QRegularExpression>
 
 namespace {
 
@@ -58,13 +58,8 @@ public:
 private:
     /// The address of what `owner` describes, which nothing else may have.
     QString readAddress(const JsonNode& owner) {
-        static const QRegularExpression ipv4(
-            QStringLiteral("^((25[0-5]|2[0-4]\\d|1?\\d?\\d)\\.){3}(25[0-5]|2[0-4]\\d|1?\\d?\\d)$"));
         const JsonNode node = owner.member(QStringLiteral("address"));
-        const QString address = node.text();
-        if (!ipv4.match(address).hasMatch()) {
-            node.fail(QStringLiteral("\"%1\" is no IPv4 address").arg(address));
-        }
+        const QString address = readDeviceAddress(node);
         if (m_owners.contains(address)) {
             node.fail(QStringLiteral("%1 is the address of %2").arg(address, m_owners.value(address)));
         }

@@ -101,7 +101,8 @@ void SimDocManager::disconnectDocs(const DocKeyList& keys) {
 
 void SimDocManager::disconnectDoc(DOCKEY key, int mode) {
     m_host.calls.change(OPERATION("ZebDocManager::disconnectDoc"), {key, mode});
-    if (const auto camera = m_host.cameras.hold(key)) {
+    const auto camera = m_host.cameras.hold(key);
+    if (camera && camera->get(&CameraState::connected)) {
         camera->disconnect();
     }
 }
@@ -155,10 +156,12 @@ bool SimDocManager::sharesDeviceWithLockedHead(DOC_Interface* doc, bool shutter,
 
 void SimDocManager::loadSettingsFile(const QString& path, int mode, int reserved) {
     m_host.calls.change(OPERATION("ZebDocManager::loadSettingsFile"), {path, mode, reserved});
+    m_settings.load(path);
 }
 
 void SimDocManager::saveSettingsFile(const QString& path, int mode) {
     m_host.calls.change(OPERATION("ZebDocManager::saveSettingsFile"), {path, mode});
+    m_settings.save(path);
 }
 
 void SimDocManager::refreshDocList(int mode) {

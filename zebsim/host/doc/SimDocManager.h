@@ -7,6 +7,7 @@
 #include "HostCalls.h"
 #include "HostContext.h"
 #include "ImageTools.h"
+#include "SettingsDesk.h"
 #include "StatusFlags.h"
 #include "ZebDocManager.h"
 
@@ -15,7 +16,8 @@
 /// Documents by key, the selection, connections, image tools.
 class SimDocManager : public ZebDocManager {
 public:
-    explicit SimDocManager(const HostContext& host) : m_host(host), m_selection(host.cameras), m_turns(host) {}
+    explicit SimDocManager(const HostContext& host)
+        : m_host(host), m_selection(host.cameras), m_turns(host), m_settings(host) {}
 
     /// As `getCurrentDockey`, for the host itself.
     DOCKEY currentKey() const { return m_selection.current(); }
@@ -155,4 +157,5 @@ private:
     DocKeyList m_temporarySave;
     DocSelection m_selection;
     DocTurns m_turns;
+    SettingsDesk m_settings;
 };

@@ -1,0 +1,6 @@
+#pragma once
+
+#include "JsonNode.h"
+
+/// The text of `node`, which is an IPv4 address. Throws `JsonError`.
+QString readDeviceAddress(const JsonNode& node);

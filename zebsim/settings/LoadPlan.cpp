@@ -1,0 +1,226 @@
+#include "LoadPlan.h"
+
+#include "OfferedSetting.h"
+
+#include <algorithm>
+#include <numeric>
+
+namespace {
+
+const QString Ports = QStringLiteral("ports");
+const QString Rate = QStringLiteral("rate");
+const QString Shutter = QStringLiteral("shutter");
+const QString LowLight = QStringLiteral("lowLight");
+const QString Variable = QStringLiteral("variable");
+const QString VariableChannels = QStringLiteral("variableChannels");
+
+/// A file may leave out ports that the camera has.
+bool isMet(const QString& name, const QVariant& asked, const QVariant& is) {
+    if (name != Ports) {
+        return asked == is;
+    }
+    QVariantMap ports = is.toMap();
+    const QVariantMap wanted = asked.toMap();
+    for (auto port = wanted.begin(); port != wanted.end(); ++port) {
+        ports.insert(port.key(), port.value());
+    }
+    return ports == is;
+}
+
+CameraPlan::Left leftOf(const PlanCamera& camera) {
+    return camera.isGone ? CameraPlan::Gone : whyLeft(camera.state);
+}
+
+/// Plans the cameras one after the other; knows the other heads of their devices.
+class Planner {
+public:
+    Planner(const QList<HeadSettings>& file, const QList<PlanCamera>& cameras) : m_file(file), m_cameras(cameras) {}
+
+    LoadPlan plan() const {
+        LoadPlan plan;
+        for (const PlanCamera& camera : m_cameras) {
+            const HeadSettings* asked = find(m_file, camera.address, camera.head);
+            if (asked != nullptr || (camera.state.connected && !camera.isGone)) {
+                plan.cameras.append(asked != nullptr ? planCamera(camera, *asked) : notInFile(camera));
+            }
+        }
+        for (const HeadSettings& head : m_file) {
+            if (find(m_cameras, head.address, head.head) == nullptr) {
+                plan.absent.append(head.head == 1 ? head.address
+                                                  : QStringLiteral("%1-%2").arg(head.address).arg(head.head));
+            }
+        }
+        return plan;
+    }
+
+private:
+    template <typename T>
+    static const T* find(const QList<T>& heads, const QString& address, int head) {
+        const auto found = std::find_if(heads.begin(), heads.end(),
+                                        [&](const T& each) { return each.address == address && each.head == head; });
+        return found == heads.end() ? nullptr : &*found;
+    }
+
+    static CameraPlan notInFile(const PlanCamera& camera) {
+        CameraPlan plan;
+        plan.camera = camera;
+        plan.left = CameraPlan::NotInFile;
+        return plan;
+    }
+
+    CameraPlan planCamera(const PlanCamera& camera, const HeadSettings& file) const {
+        CameraPlan plan;
+        plan.camera = camera;
+        plan.left = leftOf(camera);
+        if (plan.left != CameraPlan::Taken) {
+            return plan;
+        }
+        const QVariantMap present = camera.state.toPlain(CameraState::settings());
+        for (const QString& name : CameraState::settings()) {
+            if (!file.settings.contains(name)) {
+                plan.notInFile.append(name);
+                continue;
+            }
+            const SettingPlan setting = planSetting(camera, name, present.value(name), file.settings.value(name));
+            plan.expected.insert(name, setting.to);
+            if (setting.isChange() || setting.why != SettingPlan::AsAsked) {
+                plan.settings.append(setting);
+            } else {
+                ++plan.equal;
+            }
+        }
+        fitShutter(plan);
+        fitVariable(plan);
+        return plan;
+    }
+
+    SettingPlan planSetting(const PlanCamera& camera, const QString& name, const QVariant& from,
+                            const QVariant& asked) const {
+        SettingPlan setting{name, from, asked, offeredSetting(name, asked, camera.state, *camera.model)};
+        if (!isMet(name, asked, setting.to)) {
+            setting.why = SettingPlan::NotOffered;
+        }
+        if (camera.model->isShared(name) && asked != from) {
+            const SettingPlan::Why why = whyNotShared(camera, name, asked);
+            setting.why = why == SettingPlan::AsAsked ? setting.why : why;
+            setting.to = why == SettingPlan::AsAsked ? setting.to : from;
+        }
+        return setting;
+    }
+
+    SettingPlan::Why whyNotShared(const PlanCamera& camera, const QString& name, const QVariant& asked) const {
+        for (const PlanCamera& other : m_cameras) {
+            if (other.address != camera.address || other.head == camera.head) {
+                continue;
+            }
+            const CameraPlan::Left left = leftOf(other);
+            if (left == CameraPlan::Locked || left == CameraPlan::Armed || left == CameraPlan::Recording) {
+                return SettingPlan::OtherHeadIsLeft;
+            }
+            const HeadSettings* settings = find(m_file, other.address, other.head);
+            if (settings != nullptr && settings->settings.value(name, asked) != asked) {
+                return SettingPlan::HeadsDiffer;
+            }
+        }
+        return SettingPlan::AsAsked;
+    }
+
+    /// What a camera makes of its shutter when that, the rate or the low light mode is set.
+    static void fitShutter(CameraPlan& plan) {
+        const auto isOfExposure = [](const SettingPlan& setting) {
+            return setting.isChange() && (setting.name == Rate || setting.name == Shutter || setting.name == LowLight);
+        };
+        if (std::none_of(plan.settings.begin(), plan.settings.end(), isOfExposure)) {
+            return;
+        }
+        const CameraState& state = plan.camera.state;
+        const int shutter = plan.expected.value(Shutter, state.shutter).toInt();
+        const unsigned int rate = plan.expected.value(Rate, state.rate).toUInt();
+        const int fitting = plan.camera.model->fittingShutter(shutter, rate);
+        if (plan.expected.value(LowLight, state.lowLight).toBool() || fitting == shutter) {
+            return;
+        }
+        auto setting = std::find_if(plan.settings.begin(), plan.settings.end(),
+                                    [](const SettingPlan& each) { return each.name == Shutter; });
+        if (setting == plan.settings.end()) {
+            plan.equal -= plan.expected.contains(Shutter) ? 1 : 0;
+            plan.settings.append({Shutter, state.shutter, plan.expected.value(Shutter), {}});
+            setting = plan.settings.end() - 1;
+        }
+        setting->to = fitting;
+        setting->why = SettingPlan::LongerThanFrame;
+        plan.expected.insert(Shutter, fitting);
+    }
+
+    /// Channels without a text can't be chosen.
+    static void fitVariable(CameraPlan& plan) {
+        const CameraState& state = plan.camera.state;
+        const int channel = plan.expected.value(Variable, state.variable).toInt();
+        const QStringList channels = plan.expected.value(VariableChannels, state.variableChannels).toStringList();
+        for (SettingPlan& setting : plan.settings) {
+            if (setting.name == Variable && channel > 0 && channels.value(channel - 1).isEmpty()) {
+                setting.to = setting.from;
+                setting.why = SettingPlan::NotOffered;
+                plan.expected.insert(Variable, setting.to);
+            }
+        }
+    }
+
+    const QList<HeadSettings>& m_file;
+    const QList<PlanCamera>& m_cameras;
+};
+
+}  // namespace
+
+QVariantMap CameraPlan::changes() const {
+    QVariantMap changes;
+    for (const SettingPlan& setting : settings) {
+        if (setting.isChange()) {
+            changes.insert(setting.name, setting.to);
+        }
+    }
+    return changes;
+}
+
+int LoadPlan::changes() const {
+    return std::accumulate(cameras.begin(), cameras.end(), 0,
+                           [](int sum, const CameraPlan& camera) { return sum + camera.changes().size(); });
+}
+
+int LoadPlan::changingCameras() const {
+    return int(std::count_if(cameras.begin(), cameras.end(),
+                             [](const CameraPlan& camera) { return !camera.changes().isEmpty(); }));
+}
+
+int LoadPlan::equal() const {
+    return std::accumulate(cameras.begin(), cameras.end(), 0,
+                           [](int sum, const CameraPlan& camera) { return sum + camera.equal; });
+}
+
+bool LoadPlan::isOdd() const {
+    const auto isCameraOdd = [](const CameraPlan& camera) {
+        return (camera.left != CameraPlan::Taken && camera.left != CameraPlan::NotInFile) ||
+               std::any_of(camera.settings.begin(), camera.settings.end(),
+                           [](const SettingPlan& setting) { return setting.why != SettingPlan::AsAsked; });
+    };
+    return !absent.isEmpty() || std::any_of(cameras.begin(), cameras.end(), isCameraOdd);
+}
+
+CameraPlan::Left whyLeft(const CameraState& state) {
+    if (!state.connected) {
+        return CameraPlan::NotConnected;
+    }
+    switch (state.recordState) {
+        case zeb::RecordLive:
+        case zeb::RecordError:
+            return state.locked ? CameraPlan::Locked : CameraPlan::Taken;
+        case zeb::RecordRecording:
+            return CameraPlan::Recording;
+        default:
+            return CameraPlan::Armed;
+    }
+}
+
+LoadPlan planLoad(const QList<HeadSettings>& file, const QList<PlanCamera>& cameras) {
+    return Planner(file, cameras).plan();
+}
