@@ -3,6 +3,7 @@
 #include <opencv2/core.hpp>
 
 #include <algorithm>
+#include <cmath>
 #include <map>
 #include <mutex>
 #include <random>
@@ -47,9 +48,16 @@ void addGrain(QImage& picture, int grain, std::minstd_rand& random) {
     }
 }
 
+/// In a smaller picture a pixel of the sensor is but a part of one.
+void brighten(QImage& picture, const QPoint& place, double part) {
+    const QRgb seen = picture.pixel(place);
+    const auto brighter = [part](int level) { return level + int(std::lround((255 - level) * part)); };
+    picture.setPixel(place, qRgb(brighter(qRed(seen)), brighter(qGreen(seen)), brighter(qBlue(seen))));
+}
+
 }  // namespace
 
-void SensorNoise::addTo(QImage& picture, unsigned int sensor, qint64 frame) const {
+void SensorNoise::addTo(QImage& picture, const QSize& resolution, unsigned int sensor, qint64 frame) const {
     if (picture.isNull()) {
         return;
     }
@@ -58,12 +66,16 @@ void SensorNoise::addTo(QImage& picture, unsigned int sensor, qint64 frame) cons
         random.discard(2);
         addGrain(picture, grain, random);
     }
+    const double part = std::min(1.0, double(picture.width()) * picture.height() /
+                                          std::max(1.0, double(resolution.width()) * resolution.height()));
     std::minstd_rand places(sensor);
     for (int pixel = 0; pixel < hotPixels; ++pixel) {
         // As fractions of the picture, which may be drawn at another size than the sensor's.
         const double x = double(places()) / std::minstd_rand::max();
         const double y = double(places()) / std::minstd_rand::max();
-        picture.setPixel(std::min(int(x * picture.width()), picture.width() - 1),
-                         std::min(int(y * picture.height()), picture.height() - 1), qRgb(255, 255, 255));
+        brighten(picture,
+                 {std::min(int(x * picture.width()), picture.width() - 1),
+                  std::min(int(y * picture.height()), picture.height() - 1)},
+                 part);
     }
 }

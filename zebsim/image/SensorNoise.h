@@ -11,6 +11,7 @@ struct SensorNoise {
 
     bool operator==(const SensorNoise& other) const { return grain == other.grain && hotPixels == other.hotPixels; }
 
-    /// On a picture of the format RGB32. `sensor` and `frame` tell which: the same two make the same noise. Any thread.
-    void addTo(QImage& picture, unsigned int sensor, qint64 frame) const;
+    /// On a picture of the format RGB32, of a frame of that resolution. `sensor` and `frame` tell which: the same two make
+    /// the same noise. Any thread.
+    void addTo(QImage& picture, const QSize& resolution, unsigned int sensor, qint64 frame) const;
 };
