@@ -17,6 +17,7 @@
 
 #include <QFileInfo>
 #include <QMessageBox>
+#include <QSet>
 #include <QtDebug>
 
 #include <algorithm>
@@ -119,11 +120,18 @@ void SettingsDesk::carryOut(const QString& path, const LoadPlan& plan, const Loa
     }
 }
 
+/// A head without a change may lose what it has to one of the others.
 std::vector<SettingsDesk::Row> SettingsDesk::rowsOf(const LoadPlan& plan, const LoadPlan& shown) const {
+    QSet<QString> devices;
+    for (const CameraPlan& camera : plan.cameras) {
+        if (!camera.changes().isEmpty()) {
+            devices.insert(camera.camera.address);
+        }
+    }
     std::vector<Row> rows;
     for (const CameraPlan& camera : plan.cameras) {
         const CameraPlan* agreed = find(shown, camera.camera);
-        const bool isTaken = camera.left == CameraPlan::Taken && !camera.changes().isEmpty();
+        const bool isTaken = camera.left == CameraPlan::Taken && devices.contains(camera.camera.address);
         if (isTaken && agreed != nullptr && agreed->left == CameraPlan::Taken) {
             rows.push_back({&camera, m_host.cameras.hold(camera.camera.key), {}, {}});
         }

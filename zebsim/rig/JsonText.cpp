@@ -15,13 +15,17 @@ constexpr int MostValues = 1'000'000;
 const QByteArray ByteOrderMark = "\xEF\xBB\xBF";
 const char* const SameMemberTwice = "the member \"%1\" stands twice";
 
-/// Counts the lines of a text, on and on.
+/// Counts the lines of a text, on and on. Before the place that was reached it counts anew.
 class LineCount {
 public:
     explicit LineCount(const QByteArray& text) : m_text(text) {}
 
     int at(std::size_t offset) {
-        const auto end = std::min(int(offset), m_text.size());
+        const int end = std::min(int(offset), m_text.size());
+        if (end < m_offset) {
+            m_offset = 0;
+            m_line = 1;
+        }
         m_line += int(std::count(m_text.begin() + m_offset, m_text.begin() + end, '\n'));
         m_offset = end;
         return m_line;

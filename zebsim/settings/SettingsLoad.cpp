@@ -116,8 +116,8 @@ private:
             }
         }
         loadRest();
-        if (m_camera.get(&CameraState::lowLight) != m_wanted.lowLight) {
-            switchLowLight(m_wanted.lowLight);
+        if (m_wanted.lowLight && !m_camera.get(&CameraState::lowLight)) {
+            switchLowLight(true);
             // It brings back a shutter of its own.
             isShutterSet = false;
         }

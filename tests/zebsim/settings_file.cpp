@@ -1,0 +1,215 @@
+#include "CameraState.h"
+#include "Course.h"
+#include "Files.h"
+#include "JsonError.h"
+#include "RigFile.h"
+#include "SettingsReader.h"
+#include "SettingsWriter.h"
+#include "Unprivileged.h"
+
+#include <QDir>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QProcess>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+#include <sys/stat.h>
+
+#include <functional>
+
+namespace {
+
+/// Two heads of one device and another camera, with something in each setting.
+QList<HeadSettings> someSettings() {
+    CameraState state = standardRig(1).devices.first().heads.first();
+    state.apply({{"name", QString::fromUtf8("カメラ \U0001F600 \"<b>\"")},
+                 {"comment", "left{Separator}\n\t\\"},
+                 {"customInfo", QVariantList{QVariantMap{{"name", "n"}, {"value", "v"}}}},
+                 {"partitionNames", QStringList{"first", ""}},
+                 {"variableChannels", QStringList{"one"}},
+                 {"pluginValues", QVariantMap{{"filter", QVariantMap{{"median", 3}}}}},
+                 {"zoom", 1.0 / 3}});
+    const QVariantMap settings = state.toPlain(CameraState::settings());
+    return {{"10.0.0.1", 1, settings}, {"10.0.0.1", 2, settings}, {"10.0.0.2", 1, settings}};
+}
+
+/// What a file with that text is refused with, without its name; empty when it is taken.
+std::string complaint(const QByteArray& text) {
+    try {
+        readSettingsText("x", text);
+        return {};
+    } catch (const JsonError& error) {
+        EXPECT_EQ(QString(error.what()).left(3), "x: ") << error.what();
+        return QString(error.what()).mid(3).toStdString();
+    }
+}
+
+QByteArray settingsText(const QByteArray& settings) {
+    return R"({"format": 1, "cameras": [{"address": "10.0.0.1", "heads": [{"head": 1, "settings": {)" + settings +
+           "}}]}]}";
+}
+
+/// Which of the texts an independent validator refuses.
+QVariantList refusedBySchema(const QStringList& texts) {
+    const QTemporaryDir folder;
+    write(folder.filePath("texts"), QJsonDocument(QJsonArray::fromStringList(texts)).toJson());
+    QProcess python;
+    python.start("python3", {SOURCE_FOLDER "/tests/zebsim/schema.py", SOURCE_FOLDER "/docs/rigx.schema.json",
+                             folder.filePath("texts")});
+    EXPECT_TRUE(python.waitForFinished(60000));
+    EXPECT_EQ(python.readAllStandardError().toStdString(), "");
+    return QJsonDocument::fromJson(python.readAllStandardOutput()).toVariant().toList();
+}
+
+TEST(SettingsFile, ComesBackAsItWas) {
+    const QList<HeadSettings> written = someSettings();
+    const QList<HeadSettings> read = readSettingsText("x", "\xEF\xBB\xBF" + writeSettings(written));
+    ASSERT_EQ(read.size(), 3);
+    for (int i = 0; i < 3; ++i) {
+        EXPECT_EQ(read[i].address, written[i].address);
+        EXPECT_EQ(read[i].head, written[i].head);
+        for (const QString& name : CameraState::settings()) {
+            EXPECT_EQ(read[i].settings[name], written[i].settings[name]) << name.toStdString();
+        }
+    }
+    EXPECT_EQ(readSettingsText("x", settingsText(R"("rate": 1000.0, "comment": "\ud83d\ude00")"))[0].settings,
+              (QVariantMap{{"rate", 1000U}, {"comment", QString::fromUtf8("\U0001F600")}}));
+}
+
+TEST(SettingsFile, IsRefusedWithLineAndMember) {
+    const struct {
+        QByteArray text;
+        const char* complaint;
+    } cases[] = {
+        {"", "line 1: the file is empty"},
+        {"[]", "line 1: this is no file of camera settings"},
+        {R"({"devices": []})", "line 1: this is no file of camera settings"},
+        {"{\"format\":\n2, \"new\": 1}",
+         "line 2: format: this is version 2 of the form, and none later than 1 is known here"},
+        {R"({"format": 0, "cameras": []})", "line 1: format: a whole number from 1 to 2147483647 is expected"},
+        {R"({"format": 1, "cameras": [], "hubs": []})", "line 1: hubs: there is no such member"},
+        {R"({"format": 1, "cameras": [{"address": "10.0.0.1\n", "heads": []}]})",
+         "line 1: cameras[0].address: \"10.0.0.1\n\" is no IPv4 address"},
+        {"{\"format\": 1, \"cameras\": [{\"address\": \"10.0.0.1\", \"heads\": []},\n{\"address\": \"10.0.0.1\", "
+         "\"heads\": []}]}",
+         "line 2: cameras[1].address: 10.0.0.1 stands twice"},
+        {R"({"format": 1, "cameras": [{"address": "1.2.3.4", "heads": [{"head": 0, "settings": {}}]}]})",
+         "line 1: cameras[0].heads[0].head: a whole number from 1 to 255 is expected"},
+        {R"({"format": 1, "cameras": [{"address": "1.2.3.4", "heads": [{"head": 1}]}]})",
+         "line 1: cameras[0].heads[0].settings: missing"},
+        {R"({"format": 1, "cameras": [{"address": "1.2.3.4", "heads": [{"head": 1, "settings": {}},
+            {"head": 1, "settings": {}}]}]})",
+         "line 2: cameras[0].heads[1].head: head 1 stands twice"},
+        {settingsText("\"rate\": 1,\n\"rate\": 1"), "line 2: the member \"rate\" stands twice"},
+        {settingsText("\n\n\"locked\": true"), "line 3: cameras[0].heads[0].settings.locked: there is no such member"},
+        {settingsText(R"("rate": 1e999)"), "line 1: number too big to be stored in double"},
+        {settingsText(R"("name": "\ud800")"), "line 1: the surrogate pair in string is invalid"},
+        {settingsText(R"("name": "\udc00")"), "line 1: half of a surrogate pair stands alone"},
+        {settingsText("\"name\": \"\xFF\""), "line 1: invalid encoding in string"},
+        {settingsText("\"name\": \"") + QByteArray(1, '\0') + "\"", "line 1: it is no text in UTF-8"},
+        {"\xFF\xFE{", "line 1: it is no text in UTF-8"},
+        {QByteArray("\0{\0}", 4), "line 1: it is no text in UTF-8"},
+        {QByteArray(4'000'000, '['), "line 1: there are more than 64 levels"},
+        {QByteArray("[") + QByteArray("0,").repeated(4'000'000), "line 1: there are more than 1000000 values"},
+        {settingsText("\"rate\": " + QByteArray(20'000'000, '1')), "line 1: number too big to be stored in double"},
+    };
+    for (const auto& row : cases) {
+        EXPECT_EQ(complaint(row.text), row.complaint) << row.text.left(300).toStdString();
+    }
+    const QByteArray whole = writeSettings(someSettings()).trimmed();
+    for (int bytes = 0; bytes < whole.size(); ++bytes) {
+        EXPECT_EQ(complaint(whole.left(bytes)).rfind("line ", 0), 0U) << "cut off after " << bytes;
+    }
+}
+
+TEST(SettingsFile, TakesOfEachSettingWhatTheSchemaTakes) {
+    const QVariantMap good = someSettings().first().settings;
+    const QByteArray values[] = {"null",
+                                 "true",
+                                 "0",
+                                 "-1",
+                                 "0.5",
+                                 "1e10",
+                                 R"("x")",
+                                 "[]",
+                                 "[null]",
+                                 "[1, 1]",
+                                 "[-1, 0.5]",
+                                 R"(["x"])",
+                                 R"([{"name": ""}])",
+                                 R"([{"name": 1}])",
+                                 R"([{"name": "n", "x": 1}])",
+                                 "{}",
+                                 R"({"1": 99})",
+                                 R"({"a": 1})",
+                                 R"({"filter": {"median": "3"}})"};
+    QStringList texts;
+    QVariantList refused;
+    for (const QString& name : CameraState::settings()) {
+        ASSERT_TRUE(good.contains(name));
+        for (const QByteArray& value : values) {
+            const QByteArray text = settingsText("\n\"" + name.toLatin1() + "\": " + value);
+            const std::string told = complaint(text);
+            const std::string place = "line 2: cameras[0].heads[0].settings." + name.toStdString() + ": ";
+            EXPECT_TRUE(told.empty() || told.rfind(place, 0) == 0) << told;
+            refused += told.empty() ? QVariantList() : QVariantList{texts.size()};
+            texts << text;
+        }
+    }
+    const QString manual = QString::fromUtf8(contentOf(SOURCE_FOLDER "/docs/rigx.md"));
+    for (const QByteArray& text :
+         {writeSettings(someSettings()), manual.section("```json\n", 1).section("```", 0, 0).toUtf8()}) {
+        EXPECT_EQ(complaint(text), "");
+        texts << text;
+    }
+    EXPECT_GT(refused.size(), texts.size() / 2);
+    const QVariantList bySchema = refusedBySchema(texts);
+    for (int i = 0; i < texts.size(); ++i) {
+        EXPECT_EQ(refused.contains(i), bySchema.contains(i)) << texts[i].toStdString();
+    }
+}
+
+TEST(SettingsFile, ThatIsNoneOrTooLargeIsNotRead) {
+    const QTemporaryDir folder;
+    const QString path = folder.filePath("x");
+    const auto remove = [&path] { QFile::remove(path); };
+    const struct {
+        std::function<void()> prepare;
+        const char* complaint;
+    } cases[] = {
+        {[] {}, "No such file or directory"},
+        {[&] { QDir().mkdir(path); }, "Is a directory"},
+        {[&] {
+             QDir().rmdir(path);
+             mkfifo(QFile::encodeName(path), 0600);
+         },
+         "it is not a regular file"},
+        {[&] {
+             remove();
+             write(path, {});
+             QFile::resize(path, 100 << 20);
+         },
+         "it is larger than 32 MiB"},
+        {[&] {
+             remove();
+             write(path, "{}");
+             QFile::setPermissions(path, {});
+         },
+         "Permission denied"},
+    };
+    for (const auto& row : cases) {
+        row.prepare();
+        QFile::setPermissions(folder.path(), QFile::Permissions(0x7755));
+        const Unprivileged user;
+        try {
+            readSettings(path);
+            ADD_FAILURE() << row.complaint;
+        } catch (const JsonError& error) {
+            EXPECT_EQ(QString(error.what()), path + ": " + row.complaint);
+        }
+    }
+}
+
+}  // namespace

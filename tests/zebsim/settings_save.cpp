@@ -1,0 +1,104 @@
+#include "Files.h"
+#include "FullDisk.h"
+#include "SettingsReader.h"
+#include "Unprivileged.h"
+#include "support/TestHost.h"
+
+#include <gtest/gtest.h>
+
+#include <optional>
+#include <thread>
+
+namespace {
+
+class SettingsSave : public testing::Test {
+protected:
+    SettingsSave() { QFile::setPermissions(test.folder.path(), QFile::Permissions(0x7777)); }
+
+    /// As the plug-in does it; what it throws.
+    std::string save() {
+        std::string thrown;
+        std::thread([&] { thrown = thrownBy([this] { test.host.docManager().saveSettingsFile(path, 0); }); }).join();
+        QCoreApplication::processEvents();
+        return thrown;
+    }
+    void plant(DOCKEY key, const Fault& fault) { test.host.faults().plant(key, "saveSettings", fault); }
+
+    TestHost test{connected(3)};
+    QString path = test.folder.filePath("x.rigx");
+};
+
+TEST_F(SettingsSave, LeavesOutAndNamesWhoDoesNotAnswer) {
+    plant(1, {"no answer"});
+    plant(2, {{}, 0, true});
+    EXPECT_EQ(save(), "");
+    EXPECT_EQ(test.desk.take(),
+              (QStringList{"Cameras that are not in \"x.rigx\":\nCamera 1: no answer\nCamera 2: the camera is gone"}));
+    const auto heads = readSettings(path);
+    ASSERT_EQ(heads.size(), 1);
+    EXPECT_EQ(heads[0].settings, test.camera(3).state().toPlain(CameraState::settings()));
+}
+
+TEST_F(SettingsSave, IsAsSlowAsTheSlowestCamera) {
+    plant(2, {{}, 700});
+    qint64 before = test.clock.join();
+    EXPECT_EQ(save(), "");
+    before = test.clock.join();
+    EXPECT_EQ(before, 702);
+}
+
+TEST_F(SettingsSave, ThatFailsNamesTheFileAndLeavesTheOldOne) {
+    const auto disconnect = [this] {
+        for (Camera* camera : test.host.cameras().all()) {
+            camera->set(&CameraState::connected, false);
+        }
+    };
+    const std::function<void()> nothing = [] {};
+    const struct {
+        const char* reason;
+        std::function<void()> before;
+        std::optional<rlim_t> room;
+        bool isFolderClosed;
+    } rows[] = {
+        {"only a part of it could be written; the disk may be full", nothing, 0, false},
+        {"only a part of it could be written; the disk may be full", nothing, 2000, false},
+        {"Permission denied", [this] { QFile::setPermissions(path, QFile::ReadOwner); }, {}, true},
+        {"no camera has answered",
+         [this] {
+             test.host.faults().plant(2, "*", {{}, 0, true});
+             plant(1, {"x"});
+             plant(3, {"x"});
+         },
+         {},
+         false},
+        {"no camera is connected", disconnect, {}, false},
+        {"No such file or directory",
+         [this] {
+             test.host.setRig(connected(1));
+             path = test.folder.filePath("no/x.rigx");
+         },
+         {},
+         false},
+    };
+    const QString old = path;
+    for (const auto& row : rows) {
+        QFile::remove(old);
+        write(old, "old");
+        QFile::setPermissions(old, QFile::Permissions(0x6666));
+        row.before();
+        QFile::setPermissions(test.folder.path(), QFile::Permissions(row.isFolderClosed ? 0x5555 : 0x7777));
+        {
+            const Unprivileged user;
+            std::optional<FullDisk> disk;
+            if (row.room) {
+                disk.emplace(*row.room);
+            }
+            EXPECT_EQ(save(), path.toStdString() + ": " + row.reason);
+        }
+        QFile::setPermissions(test.folder.path(), QFile::Permissions(0x7777));
+        EXPECT_EQ(contentOf(old), "old") << row.reason;
+        EXPECT_EQ(QDir(test.folder.path()).entryList(QDir::Files).filter("x.rigx").size(), 1) << "nothing beside it";
+    }
+}
+
+}  // namespace
