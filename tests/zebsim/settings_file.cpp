@@ -4,6 +4,7 @@
 #include "JsonError.h"
 #include "RigFile.h"
 #include "SettingsReader.h"
+#include "SettingsRoundTrip.h"
 #include "SettingsWriter.h"
 #include "Unprivileged.h"
 
@@ -74,8 +75,11 @@ TEST(SettingsFile, ComesBackAsItWas) {
             EXPECT_EQ(read[i].settings[name], written[i].settings[name]) << name.toStdString();
         }
     }
-    EXPECT_EQ(readSettingsText("x", settingsText(R"("rate": 1000.0, "comment": "\ud83d\ude00")"))[0].settings,
-              (QVariantMap{{"rate", 1000U}, {"comment", QString::fromUtf8("\U0001F600")}}));
+    EXPECT_EQ(
+        readSettingsText(
+            "x", settingsText(R"("rate": 1000.0, "scale": 1e-999, "dualSlope": 0e70, "comment": "\ud83d\ude00")"))[0]
+            .settings,
+        (QVariantMap{{"rate", 1000U}, {"scale", 0.0}, {"dualSlope", 0}, {"comment", QString::fromUtf8("\U0001F600")}}));
 }
 
 TEST(SettingsFile, IsRefusedWithLineAndMember) {
@@ -104,6 +108,7 @@ TEST(SettingsFile, IsRefusedWithLineAndMember) {
          "line 2: cameras[0].heads[1].head: head 1 stands twice"},
         {settingsText("\"rate\": 1,\n\"rate\": 1"), "line 2: the member \"rate\" stands twice"},
         {settingsText("\n\n\"locked\": true"), "line 3: cameras[0].heads[0].settings.locked: there is no such member"},
+        {settingsText(R"("rate": 1.8e308)"), "line 1: the number is too large"},
         {settingsText(R"("rate": 1e999)"), "line 1: number too big to be stored in double"},
         {settingsText(R"("name": "\ud800")"), "line 1: the surrogate pair in string is invalid"},
         {settingsText(R"("name": "\udc00")"), "line 1: half of a surrogate pair stands alone"},
@@ -168,6 +173,17 @@ TEST(SettingsFile, TakesOfEachSettingWhatTheSchemaTakes) {
     const QVariantList bySchema = refusedBySchema(texts);
     for (int i = 0; i < texts.size(); ++i) {
         EXPECT_EQ(refused.contains(i), bySchema.contains(i)) << texts[i].toStdString();
+    }
+}
+
+TEST(SettingsFile, OfTheCorpusIsReadAsItIsWritten) {
+    const QDir corpus(SOURCE_FOLDER "/tests/zebsim/rigx");
+    const QStringList names = corpus.entryList(QDir::Files);
+    EXPECT_GE(names.size(), 6);
+    for (const QString& name : names) {
+        const QByteArray text = contentOf(corpus.filePath(name));
+        EXPECT_EQ(faultOfSettings(text), QString()) << name.toStdString();
+        EXPECT_EQ(complaint(text).empty(), !name.startsWith("bad")) << name.toStdString();
     }
 }
 

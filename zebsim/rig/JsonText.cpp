@@ -7,6 +7,7 @@
 #include <rapidjson/reader.h>
 
 #include <algorithm>
+#include <cmath>
 
 namespace {
 
@@ -48,12 +49,16 @@ public:
 
     bool Null() { return add({}); }
     bool Bool(bool value) { return add(value); }
-    bool Int(int value) { return add(double(value)); }
-    bool Uint(unsigned int value) { return add(double(value)); }
-    bool Int64(qint64 value) { return add(double(value)); }
-    bool Uint64(quint64 value) { return add(double(value)); }
-    bool Double(double value) { return add(value); }
-    bool RawNumber(const char* /*text*/, unsigned int /*length*/, bool /*copy*/) { return false; }
+    /// Numbers come as they stand in the text, for the reader's own conversion is undefined for "0e70".
+    bool RawNumber(const char* text, unsigned int length, bool /*copy*/) {
+        const double value = QByteArray::fromRawData(text, int(length)).toDouble();
+        return std::isfinite(value) ? add(value) : refuse(QStringLiteral("the number is too large"));
+    }
+    bool Int(int) { return false; }
+    bool Uint(unsigned int) { return false; }
+    bool Int64(qint64) { return false; }
+    bool Uint64(quint64) { return false; }
+    bool Double(double) { return false; }
     bool String(const char* text, unsigned int length, bool /*copy*/) {
         return isWhole(text, length) && add(QString::fromUtf8(text, int(length)));
     }
@@ -157,7 +162,7 @@ JsonValue readJsonText(const QByteArray& text) {
     TreeBuilder builder(stream, lines);
     rapidjson::Reader reader;
     constexpr unsigned int flags =
-        rapidjson::kParseIterativeFlag | rapidjson::kParseValidateEncodingFlag | rapidjson::kParseFullPrecisionFlag;
+        rapidjson::kParseIterativeFlag | rapidjson::kParseValidateEncodingFlag | rapidjson::kParseNumbersAsStringsFlag;
     const rapidjson::ParseResult result = reader.Parse<flags>(stream, builder);
     if (result.IsError()) {
         const QString reason = builder.reason.isEmpty() ? reasonOf(result.Code()) : builder.reason;
