@@ -23,6 +23,18 @@ COLUMNS.plugin = {
             cell.attribute('label ' + icon, 'cursorDisable', String(status.disabled));
         });
     },
+    // The icons of the other plug-in tab have the same ids, so that a label would press whichever comes first.
+    press(cell, event) {
+        const label = event.target.closest('label[plgName]');
+        if (label) {
+            event.preventDefault();
+            const box = cell.parts['box ' + label.getAttribute('plgName')];
+            if (!box.disabled) {
+                box.checked = !box.checked;
+                box.dispatchEvent(new Event('change', { bubbles: true }));
+            }
+        }
+    },
     change(key, box) {
         if (wrentabledialog_obj.isBlocked()) {
             box.checked = !box.checked;

@@ -13,6 +13,7 @@
 //   click(place, part)     what a click on a link or a list of the cell does; `place` is view, row and cell
 //   clickBatch()           what a click on the batch row does that meets no control
 //   doubleClick(view, key)
+//   press(cell, event)     what a click on a control does that no `click` takes
 //   change(key, element)   what a change by the user does
 //   menu(key, element, event)   what the right button does on it
 // The first two get the cell, the record and the list's status, and write through the cell, which leaves out what the

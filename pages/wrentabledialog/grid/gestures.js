@@ -102,6 +102,9 @@ function onGridClick(view, event) {
         return;
     }
     const cell = row.cellOf(event.target);
+    if (cell && cell.kind.press) {
+        cell.kind.press(cell, event);
+    }
     const control = event.target.closest('a[dockey], .SumoSelect[dockey]');
     if (control && cell) {
         event.stopPropagation();
