@@ -22,7 +22,7 @@ double medianOf(const CameraFrame& frame) {
 }  // namespace
 
 QJsonObject EffectBench::run() {
-    CameraFrame frame{QStringLiteral("Gate"), Sensor, 12, 12000, {2, 8}, {}};
+    CameraFrame frame{QStringLiteral("Gate"), Sensor, 12, 12000, {2, 8, 1}, {}};
     QJsonObject numbers{{QStringLiteral("plain"), medianOf(frame)}};
     for (const ImageEffect& effect : imageEffects()) {
         QVector<int> values;

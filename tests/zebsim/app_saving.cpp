@@ -189,8 +189,8 @@ TEST_F(AppSaving, TellsWhichFramesAreNotOfTheLastRecording) {
                                      QDir::toNativeSeparators(folder.filePath("out"))}));
     const QImage picture(folder.filePath("out/Layout_00000.png"));
     const QImage tile = picture.copy(60, 0, 360, 360).convertToFormat(QImage::Format_RGB32);
-    const SensorNoise noise{first.model().grain, first.model().hotPixels};
-    EXPECT_EQ(tile, drawFrame({earlier, {64, 64}, -1, -1000, noise, {}}, {360, 360})) << "where its number stands too";
+    EXPECT_EQ(tile, drawFrame({earlier, {64, 64}, -1, -1000, SensorNoise::of(first), {}}, {360, 360}))
+        << "where its number stands too";
     EXPECT_EQ(lostByClosing(heldRecordings(host.cameras())).size(), 2U) << "a layout shows less than they hold";
 }
 

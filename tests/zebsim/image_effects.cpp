@@ -1,5 +1,6 @@
 #include "CameraModel.h"
 #include "FramePicture.h"
+#include "PlainState.h"
 
 #include <gtest/gtest.h>
 
@@ -87,7 +88,7 @@ CameraFrame frameOf(const QString& plugin, const QVariantMap& values, int mode) 
     CameraState state;
     state.effectivePlugins = QStringList{plugin};
     state.pluginValues = {{plugin, values}};
-    return {"Gate", Sensor, 12, 12000, {40, 30}, effectsOf(state, mode)};
+    return {"Gate", Sensor, 12, 12000, {40, 30, 1}, effectsOf(state, mode)};
 }
 
 TEST(ImageEffects, MakeOfEachPixelWhatTheyAreToMake) {
@@ -124,7 +125,7 @@ TEST(ImageEffects, AreThoseOfTheModeAndOneAfterTheOther) {
     EXPECT_TRUE(frameOf("unheardof", {}, zeb::MemoryMode).effects.isEmpty());
     CameraState state;
     state.effectivePlugins = QStringList{"pseudo", "filter"};
-    CameraFrame both{"Gate", Sensor, 12, 12000, {40, 30}, effectsOf(state, zeb::LiveMode)};
+    CameraFrame both{"Gate", Sensor, 12, 12000, {40, 30, 1}, effectsOf(state, zeb::LiveMode)};
     QImage filtered = drawFrame(frameOf("filter", {}, zeb::LiveMode), Sensor);
     findImageEffect("pseudo")->apply(filtered, {1});
     EXPECT_EQ(drawFrame(both, Sensor), filtered);
@@ -138,15 +139,15 @@ TEST(SensorNoise, IsTheSameForTheSameFrame) {
     const auto with = [](SensorNoise noise, qint64 number) {
         return drawFrame({"Gate", Sensor, number, 0, noise, {}}, Sensor);
     };
-    EXPECT_EQ(with({9, 5}, 12), with({9, 5}, 12));
-    EXPECT_NE(with({9, 0}, 12), with({0, 0}, 12));
+    EXPECT_EQ(with({9, 5, 1}, 12), with({9, 5, 1}, 12));
+    EXPECT_NE(with({9, 0, 1}, 12), with({0, 0, 1}, 12));
     int farthest = 0;
     int hot = 0;
-    const QImage clean = with({0, 0}, 12);
+    const QImage clean = with({0, 0, 1}, 12);
     for (int y = 0; y < Sensor.height(); ++y) {
         for (int x = 0; x < Sensor.width(); ++x) {
-            farthest = std::max(farthest, std::abs(qRed(with({9, 0}, 12).pixel(x, y)) - qRed(clean.pixel(x, y))));
-            hot += with({0, 5}, 12).pixel(x, y) != clean.pixel(x, y) ? 1 : 0;
+            farthest = std::max(farthest, std::abs(qRed(with({9, 0, 1}, 12).pixel(x, y)) - qRed(clean.pixel(x, y))));
+            hot += with({0, 5, 1}, 12).pixel(x, y) != clean.pixel(x, y) ? 1 : 0;
         }
     }
     EXPECT_GT(farthest, 4);
@@ -154,14 +155,24 @@ TEST(SensorNoise, IsTheSameForTheSameFrame) {
     EXPECT_EQ(hot, 5);
 }
 
-TEST(ImageEffects, SayWhichNumbersTheyTake) {
-    EXPECT_EQ(whyNoPluginValues({{"lut", QVariantMap{{"black", 10}, {"gamma", 220.0}}}}), "");
+TEST(ImageEffects, TakeOnlyNumbersThatCanBe) {
+    CameraState state;
+    state.pluginValues = {{"lut", QVariantMap{{"black", 10}, {"gamma", 220.0}}}};
+    EXPECT_NO_THROW(checkPluginValues(state));
     for (const QVariantMap& values :
          {QVariantMap{{"lut", 5}}, QVariantMap{{"unheardof", QVariantMap{}}},
-          QVariantMap{{"lut", QVariantMap{{"black", 300}}}}, QVariantMap{{"lut", QVariantMap{{"black", "10"}}}},
-          QVariantMap{{"filter", QVariantMap{{"median", 2}}}}, QVariantMap{{"filter", QVariantMap{{"blur", 1}}}}}) {
-        EXPECT_NE(whyNoPluginValues(values), "") << values.firstKey().toStdString();
+          QVariantMap{{"lut", QVariantMap{{"black", 1e300}}}}, QVariantMap{{"lut", QVariantMap{{"black", "10"}}}},
+          QVariantMap{{"filter", QVariantMap{{"median", 4}}}}, QVariantMap{{"filter", QVariantMap{{"blur", 1}}}},
+          QVariantMap{{"mosaic", QVariantMap{{"square", 0}}}}}) {
+        state.pluginValues = values;
+        EXPECT_THROW(checkPluginValues(state), StateError) << values.firstKey().toStdString();
+        const QString plugin = values.firstKey();
+        const auto drawn = [&](const QVariantMap& numbers) {
+            return drawFrame(frameOf(plugin, numbers, zeb::MemoryMode), Sensor);
+        };
+        EXPECT_EQ(drawn(values.first().toMap()), drawn({})) << "such a number counts as the first one";
     }
+    EXPECT_TRUE(drawFrame(frameOf("filter", {}, zeb::MemoryMode), QSize()).isNull());
 }
 
 }  // namespace

@@ -38,7 +38,7 @@ protected:
         host.camera(key).change(
             {{"recordedRange", QVariantList{0, 499}}, {"selectedRange", QVariantList{first, last}}});
     }
-    SensorNoise noise() { return {host.camera(1).model().grain, host.camera(1).model().hotPixels}; }
+    SensorNoise noise(DOCKEY key) { return SensorNoise::of(host.camera(key)); }
     SaveSources sources() { return saveSources(host.host.cameras(), fileNames); }
     SaveOrders orders(const char* format = "png") {
         const auto ask = [this](const QString& file) {
@@ -108,7 +108,7 @@ TEST_F(Saving, WritesTheChosenFramesAndNoOthers) {
             const QImage read = QImageReader(path(file)).read().convertToFormat(QImage::Format_RGB32);
             const int number = file.section('_', -1).section('.', 0, 0).toInt();
             const QString camera = file.startsWith('G') ? "Gate" : "Nozzle/2";
-            CameraFrame frame{camera, Size, number, qint64(number) * 1000, noise(), {}};
+            CameraFrame frame{camera, Size, number, qint64(number) * 1000, noise(camera == "Gate" ? 1 : 3), {}};
             frame.effects = camera == "Gate" ? FrameEffects() : effectsOf(host.camera(3).state(), zeb::MemoryMode);
             const QImage drawn = drawFrame(frame, Size);
             EXPECT_EQ(read.size(), Size) << file.toStdString();
@@ -391,7 +391,7 @@ TEST_F(Saving, LaysTheCamerasSideBySide) {
     const QImage last(path("Layout_00002.png"));
     ASSERT_EQ(last.size(), QSize(960, 360));
     const QImage right = last.copy(480, 0, 480, 360).convertToFormat(QImage::Format_RGB32);
-    EXPECT_EQ(right, drawFrame({"Nozzle/2", Size, 2, 2000, noise(), {}}, {480, 360}));
+    EXPECT_EQ(right, drawFrame({"Nozzle/2", Size, 2, 2000, noise(3), {}}, {480, 360}));
     EXPECT_EQ(last.pixel(240, 180), QColor(24, 26, 30).rgb()) << "nothing is shown of the lost one";
 }
 

@@ -101,12 +101,18 @@ void AppWindows::editCustomInfo() {
 }
 
 void AppWindows::loadSettings() {
-    runDialog(m_host,
-              new GUI_CameraFileDialog(&m_host, m_host.getMainWindow(), uiText("Device Open"), settingsFolder(m_host)));
+    runOnCameras(
+        new GUI_CameraFileDialog(&m_host, m_host.getMainWindow(), uiText("Device Open"), settingsFolder(m_host)));
 }
 
 void AppWindows::saveSettings() {
-    runDialog(m_host, new GUI_CameraSettingsDialog(&m_host, settingsFolder(m_host), m_host.getMainWindow()));
+    runOnCameras(new GUI_CameraSettingsDialog(&m_host, settingsFolder(m_host), m_host.getMainWindow()));
+}
+
+/// Other cameras may bear the keys that it holds from then on.
+void AppWindows::runOnCameras(QDialog* dialog) {
+    QObject::connect(&m_host.events(), &HostEvents::camerasReplaced, dialog, &QDialog::reject);
+    runDialog(m_host, dialog);
 }
 
 void AppWindows::snapShot(int mode) {

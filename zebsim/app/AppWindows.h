@@ -11,6 +11,7 @@
 
 class CameraWindows;
 class LogStore;
+class QDialog;
 class SimHost;
 
 /// The application's windows behind the host: dialogs, the image in front, pictures for a support file.
@@ -56,6 +57,7 @@ private:
     void setPage(const QString& page) override;
     int exec() override;
     int runPreferences();
+    void runOnCameras(QDialog* dialog);
     std::optional<CameraFrame> currentFrame() const;
 
     SimHost& m_host;

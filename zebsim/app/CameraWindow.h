@@ -7,7 +7,8 @@
 class CameraView;
 class EffectPanel;
 
-/// The window of a camera's image, with the panel of its image plug-ins, which is hidden at first. It comes and goes with the connection; a user can't close it.
+/// The window of a camera's image, with the panel of its image plug-ins, which is hidden at first. It comes and goes
+/// with the connection; a user can't close it.
 class CameraWindow : public QMdiSubWindow {
     Q_OBJECT
 

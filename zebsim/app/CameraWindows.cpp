@@ -29,6 +29,7 @@ ImagePose poseOf(const CameraState& state) {
 CameraWindows::CameraWindows(SimHost& host, ImageArea& area) : m_host(host), m_area(area) {
     connect(&host.events(), &HostEvents::camerasReplaced, this, [this] {
         m_playback.reset();
+        removeAll();
         follow();
     });
     connect(&host.events(), &HostEvents::somethingRecorded, this, [this] { m_playback.reset(); });
@@ -53,7 +54,7 @@ void CameraWindows::follow() {
     }
     const QScopedValueRollback<bool> changing(m_changing, true);
     addAndRemove();
-    forEach([](const Camera& camera, CameraWindow& window) {
+    forEach([this](const Camera& camera, CameraWindow& window) {
         // Alone the three letters are Qt's mark of a changed document.
         const QString title = QString(camera.name()).replace(QLatin1String("[*]"), QLatin1String("[*][*]"));
         if (window.windowTitle() != title) {
@@ -61,9 +62,29 @@ void CameraWindows::follow() {
         }
         window.view().setMarked(camera.get(&CameraState::selected));
         window.effects().follow(camera);
+        showEffects(camera, window);
     });
     activateCurrent();
     m_area.setEmptyText(emptyText());
+}
+
+/// Another rig's cameras may have the same keys.
+void CameraWindows::removeAll() {
+    for (CameraWindow* window : qAsConst(m_windows)) {
+        m_area.removeSubWindow(window);
+        window->deleteLater();
+    }
+    m_windows.clear();
+}
+
+/// An image that stands shows what plug-ins make of it by now.
+void CameraWindows::showEffects(const Camera& camera, CameraWindow& window) const {
+    std::optional<CameraFrame> frame = window.view().frame();
+    const FrameEffects effects = effectsOf(camera.state(), m_host.getOperatingMode());
+    if (frame && frame->effects != effects) {
+        frame->effects = effects;
+        window.view().showFrame(frame, poseOf(camera.state()), {});
+    }
 }
 
 void CameraWindows::addAndRemove() {
@@ -184,9 +205,8 @@ void CameraWindows::showImage(const Camera& camera, CameraWindow& window, qint64
         frame = recordedFrame(camera, passed);
     } else if (window.view().frame() && !m_fresh && (state.stopLive || m_host.liveLoop().isLivePaused())) {
         frame = window.view().frame();
-        frame->effects = effectsOf(state, zeb::LiveMode);
     } else {
-        frame = CameraFrame::live(state, camera.model(), m_shownAt);
+        frame = CameraFrame::live(state, SensorNoise::of(camera), m_shownAt);
     }
     window.view().showItems(camera.customInfo(m_host.isMemoryMode()));
     window.view().showFrame(frame, poseOf(state), uiText("Nothing is recorded"));
@@ -200,7 +220,7 @@ std::optional<CameraFrame> CameraWindows::recordedFrame(const Camera& camera, qi
     if (camera.get(&CameraState::playing)) {
         m_playback.advance(camera.key(), *recording, passed);
     }
-    return CameraFrame::recorded(camera.state(), camera.model(), *recording,
+    return CameraFrame::recorded(camera.state(), SensorNoise::of(camera), *recording,
                                  m_playback.frame(camera.key(), *recording));
 }
 

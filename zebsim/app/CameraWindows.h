@@ -43,7 +43,9 @@ Q_SIGNALS:
 private:
     void forEach(const std::function<void(const Camera&, CameraWindow&)>& work) const;
     void addAndRemove();
+    void removeAll();
     CameraWindow* makeWindow(DOCKEY key);
+    void showEffects(const Camera& camera, CameraWindow& window) const;
     void activateCurrent();
     void windowActivated(QMdiSubWindow* window);
     /// Shows one new image of each camera whose live images stand.

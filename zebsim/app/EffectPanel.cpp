@@ -12,6 +12,9 @@
 #include <QSpinBox>
 #include <QVBoxLayout>
 
+#include <memory>
+#include <vector>
+
 namespace {
 
 constexpr int Margin = 4;
@@ -33,17 +36,25 @@ void EffectPanel::follow(const Camera& camera) {
     build(state.plugins);
     for (Row& row : m_rows) {
         const bool isLive = (row.effect->modes >> zeb::LiveMode & 1) != 0;
-        row.box->setEnabled(!(state.locked && isLive) && !state.blockedPlugins.contains(row.effect->name));
+        const bool isOpen = !(state.locked && isLive) && !state.blockedPlugins.contains(row.effect->name);
         row.on->setChecked(state.effectivePlugins.contains(row.effect->name));
         const QVector<int> values = row.effect->valuesOf(state);
-        if (values == row.values) {
-            continue;
+        if (values != row.values || isOpen != row.box->isEnabled()) {
+            row.values = values;
+            showValues(row, isOpen);
         }
-        row.values = values;
-        for (int i = 0; i < values.size(); ++i) {
-            const QSignalBlocker silent(row.numbers[i]);
-            row.numbers[i]->setValue(values[i]);
-        }
+    }
+}
+
+/// A number that is half typed would go out when its box is greyed.
+void EffectPanel::showValues(const Row& row, bool isOpen) {
+    std::vector<std::unique_ptr<QSignalBlocker>> silent;
+    for (QSpinBox* number : row.numbers) {
+        silent.push_back(std::make_unique<QSignalBlocker>(number));
+    }
+    row.box->setEnabled(isOpen);
+    for (int i = 0; i < row.values.size(); ++i) {
+        row.numbers[i]->setValue(row.values[i]);
     }
 }
 

@@ -37,6 +37,7 @@ private:
         QVector<int> values;
     };
 
+    static void showValues(const Row& row, bool isOpen);
     void build(const QStringList& plugins);
     Row makeRow(const ImageEffect& effect);
     void send(const Row& row);

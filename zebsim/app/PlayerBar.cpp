@@ -93,7 +93,7 @@ void PlayerBar::refresh() {
     const QSignalBlocker ownChange(m_position);
     m_position->setRange(recording.first, recording.last);
     m_position->setValue(frame);
-    const CameraFrame shown = CameraFrame::recorded(camera->state(), camera->model(), recording, frame);
+    const CameraFrame shown = CameraFrame::recorded(camera->state(), SensorNoise::of(*camera), recording, frame);
     m_frame->setText(uiText("%1: frame %2").arg(shown.camera, QString::number(shown.number)));
     const QStringList items = recording.customInfo.shownTexts();
     m_items->setTexts(inOneLine(items.join(QStringLiteral("   "))), items.join(QLatin1Char('\n')));

@@ -1,6 +1,6 @@
 #include "CameraFrame.h"
 
-#include "CameraModel.h"
+#include "CameraState.h"
 #include "Recording.h"
 
 bool CameraFrame::operator==(const CameraFrame& other) const {
@@ -8,19 +8,13 @@ bool CameraFrame::operator==(const CameraFrame& other) const {
            noise == other.noise && effects == other.effects;
 }
 
-CameraFrame CameraFrame::live(const CameraState& state, const CameraModel& model, qint64 now) {
-    return {state.name,
-            state.resolution,
-            now * state.rate / 1000,
-            now * 1000,
-            {model.grain, model.hotPixels},
-            effectsOf(state, zeb::LiveMode)};
+CameraFrame CameraFrame::live(const CameraState& state, const SensorNoise& noise, qint64 now) {
+    return {state.name, state.resolution, now * state.rate / 1000, now * 1000, noise, effectsOf(state, zeb::LiveMode)};
 }
 
-CameraFrame CameraFrame::recorded(const CameraState& state, const CameraModel& model, const Recording& recording,
+CameraFrame CameraFrame::recorded(const CameraState& state, const SensorNoise& noise, const Recording& recording,
                                   int frame) {
     const qint64 number = qint64(frame) - recording.zero;
     const qint64 time = recording.rate > 0 ? number * 1000000 / recording.rate : 0;
-    return {state.name, recording.resolution,           number,
-            time,       {model.grain, model.hotPixels}, effectsOf(state, zeb::MemoryMode)};
+    return {state.name, recording.resolution, number, time, noise, effectsOf(state, zeb::MemoryMode)};
 }

@@ -6,7 +6,6 @@
 #include <QSize>
 #include <QString>
 
-struct CameraModel;
 struct CameraState;
 struct Recording;
 
@@ -25,8 +24,8 @@ struct CameraFrame {
     bool operator==(const CameraFrame& other) const;
 
     /// What the camera sees at `now`, a time of the host's clock.
-    static CameraFrame live(const CameraState& state, const CameraModel& model, qint64 now);
+    static CameraFrame live(const CameraState& state, const SensorNoise& noise, qint64 now);
     /// The frame with this number in the memory.
-    static CameraFrame recorded(const CameraState& state, const CameraModel& model, const Recording& recording,
+    static CameraFrame recorded(const CameraState& state, const SensorNoise& noise, const Recording& recording,
                                 int frame);
 };

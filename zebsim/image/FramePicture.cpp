@@ -100,7 +100,10 @@ QImage drawFrame(const CameraFrame& frame, const QSize& size) {
     const bool seesNeighbours = std::any_of(frame.effects.begin(), frame.effects.end(),
                                             [](const auto& effect) { return effect.first->seesNeighbours; });
     QImage picture = drawScene(frame, seesNeighbours ? frame.resolution : size);
-    frame.noise.addTo(picture, frame.resolution, numberOf(frame.camera), frame.number);
+    if (picture.isNull()) {
+        return picture;
+    }
+    frame.noise.addTo(picture, frame.resolution, frame.number);
     for (const auto& effect : frame.effects) {
         effect.first->apply(picture, effect.second);
     }

@@ -1,6 +1,7 @@
 #include "ImageEffects.h"
 
 #include "CameraState.h"
+#include "PlainState.h"
 #include "TextKey.h"
 
 #include <opencv2/imgproc.hpp>
@@ -100,6 +101,20 @@ void applyMosaic(QImage& picture, const QVector<int>& values) {
     makeOpaque(picture);
 }
 
+QString whyNot(const EffectNumber& number, const QVariant& value) {
+    bool isNumber = false;
+    const double asked = value.toDouble(&isNumber);
+    const bool fits = isNumber && value.type() != QVariant::String && value.type() != QVariant::Bool &&
+                      asked >= number.lowest && asked <= number.highest && asked == std::floor(asked) &&
+                      (int(asked) - number.lowest) % number.step == 0;
+    return fits ? QString()
+                : QStringLiteral("\"%1\" is a whole number from %2 to %3 in steps of %4")
+                      .arg(number.name)
+                      .arg(number.lowest)
+                      .arg(number.highest)
+                      .arg(number.step);
+}
+
 }  // namespace
 
 const QList<ImageEffect>& imageEffects() {
@@ -148,7 +163,8 @@ QVector<int> ImageEffect::valuesOf(const CameraState& state) const {
     const QVariantMap stored = state.pluginValues.value(name).toMap();
     QVector<int> values;
     for (const EffectNumber& number : numbers) {
-        values.append(stored.value(number.name, number.initial).toInt());
+        const QVariant value = stored.value(number.name, number.initial);
+        values.append(whyNot(number, value).isEmpty() ? value.toInt() : number.initial);
     }
     return values;
 }
@@ -173,41 +189,23 @@ FrameEffects effectsOf(const CameraState& state, int mode) {
     return effects;
 }
 
-namespace {
-
-QString whyNot(const EffectNumber& number, const QVariant& value) {
-    bool isNumber = false;
-    const double asked = value.toDouble(&isNumber);
-    const bool fits = isNumber && value.type() != QVariant::String && value.type() != QVariant::Bool &&
-                      asked >= number.lowest && asked <= number.highest && asked == std::floor(asked) &&
-                      (int(asked) - number.lowest) % number.step == 0;
-    return fits ? QString()
-                : QStringLiteral("\"%1\" is a whole number from %2 to %3 in steps of %4")
-                      .arg(number.name)
-                      .arg(number.lowest)
-                      .arg(number.highest)
-                      .arg(number.step);
-}
-
-}  // namespace
-
-QString whyNoPluginValues(const QVariantMap& values) {
-    for (auto plugin = values.begin(); plugin != values.end(); ++plugin) {
+void checkPluginValues(const CameraState& state) {
+    const auto fail = [](const QString& reason) { throw StateError{QStringLiteral("pluginValues"), reason}; };
+    for (auto plugin = state.pluginValues.begin(); plugin != state.pluginValues.end(); ++plugin) {
         const ImageEffect* effect = findImageEffect(plugin.key());
         if (effect == nullptr || plugin.value().type() != QVariant::Map) {
-            return QStringLiteral("there is no image plug-in \"%1\" with numbers").arg(plugin.key());
+            fail(QStringLiteral("there is no image plug-in \"%1\" with numbers").arg(plugin.key()));
         }
         QVariantMap numbers = plugin.value().toMap();
         for (const EffectNumber& number : effect->numbers) {
             const QVariant value = numbers.take(number.name);
             const QString reason = value.isValid() ? whyNot(number, value) : QString();
             if (!reason.isEmpty()) {
-                return reason;
+                fail(reason);
             }
         }
         if (!numbers.isEmpty()) {
-            return QStringLiteral("\"%1\" has no number \"%2\"").arg(plugin.key(), numbers.firstKey());
+            fail(QStringLiteral("\"%1\" has no number \"%2\"").arg(plugin.key(), numbers.firstKey()));
         }
     }
-    return {};
 }

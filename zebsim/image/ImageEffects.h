@@ -39,7 +39,7 @@ struct ImageEffect {
     /// Of a picture of the format RGB32, with a value for each number. Any thread.
     void (*apply)(QImage& picture, const QVector<int>& values);
 
-    /// A value for each number: those of the camera, and the initial one of what it does not tell.
+    /// A value for each number: those of the camera, and the initial one of what it does not tell or can't be.
     QVector<int> valuesOf(const CameraState& state) const;
     /// As a camera keeps them.
     QVariantMap plain(const QVector<int>& values) const;
@@ -56,5 +56,5 @@ using FrameEffects = QVector<QPair<const ImageEffect*, QVector<int>>>;
 /// Those that work on the camera's images in a `zeb::OperatingMode`.
 FrameEffects effectsOf(const CameraState& state, int mode);
 
-/// Why the numbers of a camera's plug-ins, as in `CameraState::pluginValues`, can't be; empty when they can.
-QString whyNoPluginValues(const QVariantMap& values);
+/// Throws `StateError` when the numbers of the camera's plug-ins can't be.
+void checkPluginValues(const CameraState& state);

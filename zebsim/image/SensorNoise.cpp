@@ -1,5 +1,7 @@
 #include "SensorNoise.h"
 
+#include "Camera.h"
+
 #include <opencv2/core.hpp>
 
 #include <algorithm>
@@ -57,10 +59,12 @@ void brighten(QImage& picture, const QPoint& place, double part) {
 
 }  // namespace
 
-void SensorNoise::addTo(QImage& picture, const QSize& resolution, unsigned int sensor, qint64 frame) const {
-    if (picture.isNull()) {
-        return;
-    }
+SensorNoise SensorNoise::of(const Camera& camera) {
+    const QByteArray address = camera.address().toLatin1();
+    return {camera.model().grain, camera.model().hotPixels, qChecksum(address.constData(), uint(address.size()))};
+}
+
+void SensorNoise::addTo(QImage& picture, const QSize& resolution, qint64 frame) const {
     if (grain > 0) {
         std::minstd_rand random(static_cast<unsigned int>(sensor * 31U + static_cast<quint64>(frame)));
         random.discard(2);

@@ -1,5 +1,6 @@
 #include "ModelCatalogue.h"
 
+#include "ImageEffects.h"
 #include "JsonNode.h"
 #include "Operation.h"
 #include "PlainState.h"
@@ -35,8 +36,8 @@ bool readFlag(const JsonNode& node, const QString& member) {
 }
 
 /// 0 when there is none.
-int readNumber(const JsonNode& node, const QString& member) {
-    return node.has(member) ? node.member(member).number(0, highest) : 0;
+int readNumber(const JsonNode& node, const QString& member, int most = highest) {
+    return node.has(member) ? node.member(member).number(0, most) : 0;
 }
 
 QList<int> readNumbers(const JsonNode& node, const QString& member) {
@@ -111,8 +112,8 @@ CameraModel readModel(const JsonNode& node) {
     }
     model.presetReboots = readFlag(node, QStringLiteral("presetReboots"));
     model.bootTime = readNumber(node, QStringLiteral("bootTime"));
-    model.grain = readNumber(node, QStringLiteral("grain"));
-    model.hotPixels = readNumber(node, QStringLiteral("hotPixels"));
+    model.grain = readNumber(node, QStringLiteral("grain"), 64);
+    model.hotPixels = readNumber(node, QStringLiteral("hotPixels"), 10000);
     model.memory = node.member(QStringLiteral("memory")).number(0, 1 << 24);
     model.initial = readInitial(node, model);
     return model;
@@ -149,6 +150,7 @@ CameraState ModelCatalogue::readState(const JsonNode& node, const CameraModel& m
         CameraState state = model.initial;
         state.apply(node.plain());
         model.check(state);
+        checkPluginValues(state);
         return state;
     } catch (const StateError& error) {
         node.failAt(error.member, error.reason);

@@ -18,7 +18,7 @@ SaveSource::SaveSource(std::shared_ptr<Camera> camera, const Recording& recordin
 }
 
 CameraFrame SaveSource::frame(int index) const {
-    return CameraFrame::recorded(m_state, m_camera->model(), m_recording, m_recording.selectedFirst + index);
+    return CameraFrame::recorded(m_state, SensorNoise::of(*m_camera), m_recording, m_recording.selectedFirst + index);
 }
 
 void SaveSource::read(const CameraBank& cameras, int index) const {

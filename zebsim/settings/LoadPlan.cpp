@@ -8,14 +8,23 @@
 namespace {
 
 const QString Ports = QStringLiteral("ports");
+const QString Plugins = QStringLiteral("effectivePlugins");
 const QString Rate = QStringLiteral("rate");
 const QString Shutter = QStringLiteral("shutter");
 const QString LowLight = QStringLiteral("lowLight");
 const QString Variable = QStringLiteral("variable");
 const QString VariableChannels = QStringLiteral("variableChannels");
 
-/// A file may leave out ports that the camera has.
+QStringList sorted(QStringList names) {
+    names.sort();
+    return names;
+}
+
+/// A file may leave out ports that the camera has, and the order of plug-ins means nothing.
 bool isMet(const QString& name, const QVariant& asked, const QVariant& is) {
+    if (name == Plugins) {
+        return sorted(asked.toStringList()) == sorted(is.toStringList());
+    }
     if (name != Ports) {
         return asked == is;
     }
@@ -99,6 +108,8 @@ private:
         SettingPlan setting{name, from, asked, offeredSetting(name, asked, camera.state, *camera.model)};
         if (!isMet(name, asked, setting.to)) {
             setting.why = SettingPlan::NotOffered;
+        } else if (isMet(name, asked, from)) {
+            setting.to = from;
         }
         if (camera.model->isShared(name) && asked != from) {
             const SettingPlan::Why why = whyNotShared(camera, name, asked);

@@ -35,10 +35,7 @@ QVariantMap readMembers(const JsonNode& node) {
         state.apply(members);
         const QVariantMap settings = state.toPlain(members.keys());
         checkLimits(settings);
-        const QString reason = whyNoPluginValues(state.pluginValues);
-        if (!reason.isEmpty()) {
-            throw StateError{QStringLiteral("pluginValues"), reason};
-        }
+        checkPluginValues(state);
         return settings;
     } catch (const StateError& error) {
         node.failAt(error.member, error.reason);
