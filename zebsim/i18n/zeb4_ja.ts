@@ -2231,5 +2231,13 @@
         <source>the camera is starting anew</source>
         <translation>カメラは再起動中です</translation>
     </message>
+    <message>
+        <source>The preset that the camera works with</source>
+        <translation>カメラが使っているプリセット</translation>
+    </message>
+    <message>
+        <source>the camera has not come back after its restart</source>
+        <translation>再起動後にカメラが戻っていません</translation>
+    </message>
 </context>
 </TS>

@@ -24,7 +24,7 @@ function make(tag, text, parent) {
 
 const camerasettings = {
     devices: [], // as `getPresetList` tells them
-    chosen: {}, // number of a preset by the device's key; 0 for none
+    chosen: {}, // number of a preset by the device's key, 0 for none: nothing is overwritten unless somebody wants it
 
     initialize() {
         cameraSettings.update.connect(() => this.logged(() => this.update()));
@@ -111,7 +111,11 @@ const camerasettings = {
 
     // What is typed is what is meant.
     typed(id) {
-        byId(id === 'name' ? 'own_name' : 'add_time').checked = true;
+        if (id === 'name') {
+            byId('own_name').checked = true;
+        } else {
+            byId('add_time').checked = byId('format').value !== '';
+        }
         byId('to_file').checked = true;
         this.store();
         this.showMode();
@@ -140,12 +144,10 @@ const camerasettings = {
         if (JSON.stringify(devices) === JSON.stringify(this.devices)) {
             return;
         }
-        const before = this.chosen;
         this.devices = devices;
-        this.chosen = {};
+        // What was chosen for one that is away for a moment stays.
         devices.forEach(({ key, presets }) => {
-            const present = presets.filter(preset => preset.selected)[0];
-            const number = key in before ? before[key] : present ? present.presetno : 0;
+            const number = this.chosen[key];
             this.chosen[key] = number <= presets.length ? number : 0;
         });
         this.drawPresets();
@@ -171,6 +173,7 @@ const camerasettings = {
             make('small', device.ipaddress + ' ' + device.devicename, cell);
             cell.title = device.name;
             this.drawChoices(row, 'td', device.key, device.presets.length, most);
+            this.markPresent(row, device.presets);
         });
         this.showChosen();
     },
@@ -190,6 +193,13 @@ const camerasettings = {
                 label.appendChild(document.createTextNode(last ? translate('None') : number));
             }
         }
+    },
+
+    markPresent(row, presets) {
+        presets.filter(preset => preset.selected).forEach(({ presetno }) => {
+            row.cells[presetno].className = 'present';
+            row.cells[presetno].title = translate('The preset that the camera works with');
+        });
     },
 
     choose(button) {
@@ -221,12 +231,8 @@ const camerasettings = {
     },
 
     showMode() {
-        const hasPresets = this.mostPresets() > 0;
-        byId('to_presets').disabled = !hasPresets;
-        if (!hasPresets) {
-            byId('to_file').checked = true;
-        }
-        const stores = Object.keys(this.chosen).some(key => this.chosen[key] > 0);
+        const stores = this.devices.some(({ key }) => this.chosen[key] > 0);
+        byId('to_presets').disabled = this.mode() === TO_FILE && this.mostPresets() === 0;
         byId('ok').disabled = this.mode() === TO_PRESETS && !stores;
     },
 
@@ -237,7 +243,7 @@ const camerasettings = {
         this.store();
         cameraSettings.ok(JSON.stringify({
             dialogMode: this.mode(),
-            presetList: Object.keys(this.chosen).map(key => ({ key: Number(key), value: this.chosen[key] }))
+            presetList: this.devices.map(({ key }) => ({ key, value: this.chosen[key] }))
         }));
     }
 };
