@@ -153,7 +153,8 @@ void Camera::requireConnected() const {
 
 void Camera::requireStarted() const {
     if (m_device.restart().isAway() && !isGone()) {
-        refuse(TextKey("the camera is starting anew"));
+        refuse(m_device.restart().isLost() ? TextKey("the camera has not come back after its restart")
+                                           : TextKey("the camera is starting anew"));
     }
 }
 
@@ -221,6 +222,8 @@ void Camera::setPluginEffective(const QString& name, bool effective) {
     if (effective) {
         names.append(name);
     }
+    // Their order means nothing.
+    names.sort();
 }
 
 void Camera::setPluginValues(const QString& name, const QVariantMap& values) {

@@ -77,9 +77,10 @@ public:
 
     /// Commands. Each takes the camera's latency, or throws `CameraError`. A camera that is gone does nothing more.
     ///
-    /// Connects the device with all its heads, and disconnects it.
+    /// Connects the device with all its heads, and disconnects it: for good, or for the preset that it was marked for.
     void connect();
     void disconnect();
+    void disconnectForPreset();
     /// The rate that the model makes of `rate`, on all heads of the device.
     void setRecordRate(unsigned int rate);
     /// n of 1/n second; exposures longer than a frame lasts become the longest that fits.

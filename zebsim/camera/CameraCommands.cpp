@@ -30,6 +30,11 @@ void Camera::connect() {
 }
 
 void Camera::disconnect() {
+    m_device.restart().setMarked(false);
+    disconnectForPreset();
+}
+
+void Camera::disconnectForPreset() {
     if (!command(OPERATION("disconnectDocs"))) {
         return;
     }

@@ -29,6 +29,11 @@ bool Restart::isAway() const {
     return m_state == State::Away || m_state == State::Lost;
 }
 
+bool Restart::isLost() const {
+    const std::lock_guard lock(m_mutex);
+    return m_state == State::Lost;
+}
+
 Restart::End Restart::endBy(qint64 now) {
     const std::lock_guard lock(m_mutex);
     if (m_state != State::Away || now < m_back) {

@@ -16,6 +16,8 @@ public:
     /// The device goes, until `back` by the host's clock; `comesBack` false: it stays away.
     void begin(qint64 back, bool comesBack);
     bool isAway() const;
+    /// It was to be back, and is not.
+    bool isLost() const;
 
     enum class End { None, Back, BackAsMarked, StaysAway };
     /// What has come of it by then. An end is told once.

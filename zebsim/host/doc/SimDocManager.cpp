@@ -103,7 +103,7 @@ void SimDocManager::disconnectDoc(DOCKEY key, int mode) {
     m_host.calls.change(OPERATION("ZebDocManager::disconnectDoc"), {key, mode});
     const auto camera = m_host.cameras.hold(key);
     if (camera && camera->get(&CameraState::connected)) {
-        camera->disconnect();
+        camera->disconnectForPreset();
     }
 }
 
