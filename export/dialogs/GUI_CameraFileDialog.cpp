@@ -26,6 +26,9 @@
 #include <QPushButton>
 #include <QRadioButton>
 
+#include <stdexcept>
+#include <utility>
+
 namespace {
 
 constexpr QRect CameraInTitleBar(0, 306, 24, 24);
@@ -51,7 +54,7 @@ void addLabel(QWidget& row, const QRect& place, const QString& text, const QStri
 
 QRadioButton* addButton(QWidget& row, const QRect& place, const QString& text, bool checked) {
     auto* button = new QRadioButton(text, &row);
-    button->setGeometry(place);
+    button->setGeometry(place.x(), place.y(), qMax(place.width(), button->sizeHint().width()), place.height());
     button->setChecked(checked);
     return button;
 }
@@ -187,22 +190,44 @@ void GUI_CameraFileDialog::end(Work&& work) {
     }
 }
 
+/// Later: the field that took the key still works on it, and must not go under that with the dialog.
 void GUI_CameraFileDialog::accept() {
+    if (!std::exchange(m_accepting, true)) {
+        QMetaObject::invokeMethod(this, &GUI_CameraFileDialog::takeName, Qt::QueuedConnection);
+    }
+}
+
+void GUI_CameraFileDialog::takeName() {
+    m_accepting = false;
     guarded([this] {
-        const QString name = findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->text();
+        auto* field = findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+        const QString name = field->text();
         if (!isGoodFileName(QFileInfo(name).fileName()) || !isGoodPath(name)) {
             host().alert(host().translate(TextKey("Invalid filename.")), this);
             return;
         }
-        const QString path = selectedFiles().value(0);
-        if (path.isEmpty() || QFileInfo(path).isDir()) {
-            QFileDialog::accept();
+        const QString path = QDir::cleanPath(pathOf(name));
+        if (QFileInfo(path).isDir()) {
+            setDirectory(path);
+            field->clear();
         } else if (QFileInfo::exists(path)) {
             loadFile(path);
         } else {
             host().alert(host().translate(TextKey("%1 does not exist.")).arg(path), nullptr);
         }
     });
+}
+
+/// What is there is what is meant: Qt takes the name of a folder for that of a file without its suffix, and adds to the
+/// files that are selected what it has met while the name was typed.
+QString GUI_CameraFileDialog::pathOf(const QString& name) const {
+    for (const QString& each : {name, QString(name % QLatin1Char('.') % defaultSuffix())}) {
+        const QFileInfo typed(directory(), each);
+        if (typed.exists()) {
+            return typed.filePath();
+        }
+    }
+    return selectedFiles().value(0);
 }
 
 void GUI_CameraFileDialog::loadFile(const QString& path) {

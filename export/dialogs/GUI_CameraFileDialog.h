@@ -42,6 +42,8 @@ private:
     void addRow(DOC_Interface& doc);
     /// What the rows say; of a row that is disabled nothing is taken.
     PresetNumbers choices() const;
+    void takeName();
+    QString pathOf(const QString& name) const;
     void loadFile(const QString& path);
     /// Does `work`, which the user has asked for, and ends the dialog. A failure is told.
     template <typename Work>
@@ -58,5 +60,6 @@ private:
     QHBoxLayout* const m_buttonRow;
     /// Of each row; the last one stands for none.
     QMap<DOCKEY, QList<QRadioButton*>> m_rowButtons;
+    bool m_accepting = false;
     bool m_ending = false;
 };
