@@ -12,6 +12,9 @@
 #include <QFontMetrics>
 #include <QPointer>
 
+#include <stdexcept>
+#include <utility>
+
 namespace {
 
 /// In pixels; a longer one is cut.
@@ -23,14 +26,13 @@ QString nameOf(DOC_Interface& doc) {
     return QFontMetrics(QApplication::font()).elidedText(name, Qt::ElideRight, NameWidth);
 }
 
+/// No failure of it keeps a camera from its turn.
 class Progress {
 public:
-    explicit Progress(ZebHost& host) : m_dialog(new GUI_MarqueeProgressDialog(&host, {}, {}, true)) {
-        m_dialog->hold(true);
-    }
+    explicit Progress(ZebHost& host) : m_host(host) {}
     ~Progress() {
         if (m_dialog) {
-            // The presses that have come meanwhile find it here, and not what it stands over.
+            // The presses that have come meanwhile find it here, and not what it stood over.
             QCoreApplication::processEvents();
         }
         delete m_dialog;
@@ -38,16 +40,22 @@ public:
     Q_DISABLE_COPY(Progress)
 
     void show(const QString& text) {
+        if (!std::exchange(m_begun, true)) {
+            logFailure([&] { m_dialog = new GUI_MarqueeProgressDialog(&m_host, text, {}, true); });
+        }
         if (m_dialog) {
             m_dialog->setLabelText(text);
+            m_dialog->hold(true);
             m_dialog->show();
         }
         QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
     }
 
 private:
+    ZebHost& m_host;
+    bool m_begun = false;
     /// It may go with the main window.
-    const QPointer<GUI_MarqueeProgressDialog> m_dialog;
+    QPointer<GUI_MarqueeProgressDialog> m_dialog;
 };
 
 }  // namespace
