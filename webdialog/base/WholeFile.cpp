@@ -58,6 +58,19 @@ QString replaceLongName(QFile& old, const QByteArray& bytes) {
     return {};
 }
 
+/// One that is not there yet: nothing is lost if it is not written whole.
+QString writeNewLongName(QFile& file, const QByteArray& bytes) {
+    if (put(file, bytes) && ::fdatasync(file.handle()) == 0) {
+        return {};
+    }
+    file.remove();
+    return diskFull();
+}
+
+bool isLong(const QString& path) {
+    return QFile::encodeName(QFileInfo(path).fileName()).size() > LongestNameOfSaveFile;
+}
+
 QString writeWhole(const QString& path, const QByteArray& bytes, bool& isOpened) {
     const QFileInfo there(path);
     QFile old(path);
@@ -66,10 +79,13 @@ QString writeWhole(const QString& path, const QByteArray& bytes, bool& isOpened)
         if (!reason.isEmpty() || !old.open(QIODevice::ReadWrite | QIODevice::ExistingOnly | QIODevice::Unbuffered)) {
             return reason.isEmpty() ? old.errorString() : reason;
         }
-        if (QFile::encodeName(QFileInfo(there.canonicalFilePath()).fileName()).size() > LongestNameOfSaveFile) {
+        if (isLong(there.canonicalFilePath())) {
             isOpened = true;
             return replaceLongName(old, bytes);
         }
+    } else if (isLong(path)) {
+        isOpened = old.open(QIODevice::WriteOnly | QIODevice::NewOnly | QIODevice::Unbuffered);
+        return isOpened ? writeNewLongName(old, bytes) : old.errorString();
     }
     QSaveFile file(path);
     isOpened = file.open(QIODevice::WriteOnly) || old.isOpen();
