@@ -9,6 +9,18 @@
 #include <QMessageBox>
 #include <QtDebug>
 
+#include <algorithm>
+
+/// A failure often has the name of a camera or file before its reason.
+QString HostMessages::translated(const QString& text) const {
+    const QString whole = m_host.translate(text);
+    const int end = text.indexOf(QLatin1String(": "));
+    if (whole != text || end < 0 || text.contains(QLatin1Char('\n'))) {
+        return whole;
+    }
+    return text.left(end + 2) % translated(text.mid(end + 2));
+}
+
 Message HostMessages::message(Message::Kind kind, const QString& text, QWidget* parent) const {
     Message message;
     message.kind = kind;
@@ -33,7 +45,10 @@ void HostMessages::tellFailure(const std::exception& e) {
     const QString text = QString::fromUtf8(e.what());
     if (!text.isEmpty()) {
         qCritical() << text;
-        tell(Message::Error, text);
+        QStringList lines = text.split(QLatin1Char('\n'));
+        std::transform(lines.begin(), lines.end(), lines.begin(),
+                       [this](const QString& line) { return translated(line); });
+        tell(Message::Error, m_host.translate(text) == text ? lines.join(QLatin1Char('\n')) : text);
     }
 }
 

@@ -38,6 +38,7 @@ public:
     bool agrees(const QString& question, const QStringList& list);
 
 private:
+    QString translated(const QString& text) const;
     Message message(Message::Kind kind, const QString& text, QWidget* parent) const;
     Answer show(const Message& box);
 
