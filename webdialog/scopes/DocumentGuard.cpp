@@ -57,13 +57,13 @@ void DocumentGuard::release() {
 
     const Paused paused = std::exchange(m_paused, Paused::Nothing);
     if (paused == Paused::Player) {
-        m_host.player().resumePlayer();
+        undo([this] { m_host.player().resumePlayer(); });
     }
     if (paused == Paused::Live) {
         if (m_refreshDocs && m_host.liveLoop().isLivePaused()) {
             undo([this] { refreshConnectedDocs(); });
         }
-        m_host.liveLoop().resumeLive();
+        undo([this] { m_host.liveLoop().resumeLive(); });
     }
     if (std::exchange(m_editing, false)) {
         undo([this] { m_host.docManager().endDocEdit(); });
