@@ -59,7 +59,9 @@ TEST_F(BridgeSlots, PluginsOpenAndClose) {
                          "resumeLive"}));
     EXPECT_EQ(during([&] { bridge.closePlugin(); }), operation("closePlugin", "", {"closePanel"}));
     EXPECT_EQ(during([&] { bridge.closePlugin("lut"); }),
-              operation("closePlugin", "[name:lut]", {"deterUpdateUI true", "closePlugin lut", "deterUpdateUI false"}));
+              operation("closePlugin", "[name:lut]",
+                        {"deterUpdateUI true", "closePlugin lut", "closeAuxiliaryPanel", "deterUpdateUI false"}))
+        << "the tool itself leaves its panel";
 }
 
 TEST_F(BridgeSlots, AFailureOfTheGuardReachesTheUser) {
