@@ -1,5 +1,6 @@
 #include "CommandBench.h"
 
+#include "Camera.h"
 #include "ConnectedDocs.h"
 #include "DOC_Interface.h"
 #include "DOC_Lock.h"
@@ -14,6 +15,7 @@
 #include "TableState.h"
 
 #include <QElapsedTimer>
+#include <QMessageBox>
 #include <QTemporaryDir>
 
 #include <functional>
@@ -24,8 +26,19 @@ namespace {
 constexpr int Runs = 9;
 constexpr int Latency = 50;
 
+/// Agrees to a load of settings.
 struct FailingDesk : MessageDesk {
-    Answer show(const Message& box) override { throw std::runtime_error(box.text.toStdString()); }
+    Answer show(const Message& box) override {
+        if (box.kind == Message::Confirm) {
+            return {true, false, QMessageBox::Ok};
+        }
+        throw std::runtime_error(box.text.toStdString());
+    }
+    void notify(const Message& notice) override {
+        if (notice.kind != Message::Info) {
+            throw std::runtime_error(notice.text.toStdString());
+        }
+    }
 };
 
 struct Command {
@@ -48,6 +61,28 @@ void load(SimHost& host, const DocKeyList& keys) {
     failures.rethrow();
 }
 
+QString settingsPath() {
+    static const QTemporaryDir folder;
+    return folder.filePath(QStringLiteral("bench.rigx"));
+}
+
+void saveSettings(SimHost& host, const DocKeyList&) {
+    host.docManager().saveSettingsFile(settingsPath(), 0);
+}
+
+void loadSettings(SimHost& host, const DocKeyList&) {
+    host.docManager().loadSettingsFile(settingsPath(), 0, 0);
+}
+
+void changeSettings(SimHost& host, const DocKeyList& keys) {
+    for (const DOCKEY key : keys) {
+        host.cameras().find(key)->change({{QStringLiteral("rate"), 250},
+                                          {QStringLiteral("shutter"), 10000},
+                                          {QStringLiteral("comment"), QStringLiteral("changed")},
+                                          {QStringLiteral("rotation"), 0.25}});
+    }
+}
+
 const Command Commands[] = {
     {"connect", [](SimHost& host, const DocKeyList& keys) { host.docManager().connectDocs(keys); },
      [](SimHost& host, const DocKeyList& keys) { host.docManager().disconnectDocs(keys); }},
@@ -61,6 +96,8 @@ const Command Commands[] = {
     {"arm", [](SimHost& host, const DocKeyList&) { host.recorder().startRecReady(); },
      [](SimHost& host, const DocKeyList&) { host.recorder().cancelRecording(false); }},
     {"load", load, [](SimHost&, const DocKeyList&) {}},
+    {"saveSettings", saveSettings, [](SimHost&, const DocKeyList&) {}},
+    {"loadSettings", loadSettings, changeSettings},
 };
 
 double medianOf(SimHost& host, const DocKeyList& keys, const Command& command) {

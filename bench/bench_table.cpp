@@ -111,7 +111,9 @@ QVector<Line> compareCommands(const Numbers& commands) {
         {"connect", "connecting 64 cameras of 50 ms, over one of them"},
         {"rate", "the record rate of these"},
         {"arm", "arming these"},
-        {"load", "loading their default settings"}};
+        {"load", "loading their default settings"},
+        {"saveSettings", "saving their settings to a file"},
+        {"loadSettings", "loading their settings from a file"}};
     for (const auto& [name, what] : names) {
         const QString key = QLatin1String(name);
         std::printf("%s: %.1f, %.1f\n", what, commands[key], commands[key % QLatin1String("One")]);

@@ -1,8 +1,8 @@
 // Saves camera settings again and again in a program that is killed in the middle, 500 times, and looks at what stands
 // there afterwards: a whole file. Ends with 1 otherwise.
 
+#include "CameraState.h"
 #include "JsonError.h"
-#include "RigFile.h"
 #include "SettingsReader.h"
 #include "SettingsWriter.h"
 #include "WholeFile.h"
@@ -23,9 +23,13 @@ constexpr int Cameras = 64;
 
 /// Of up to that many cameras, each with the same settings.
 QByteArray textOf(int cameras) {
+    CameraState state;
+    state.rate = 1000;
+    state.shutter = 1000;
+    state.resolution = QSize(1024, 1024);
     QList<HeadSettings> heads;
-    for (const RigDevice& device : standardRig(cameras).devices) {
-        heads.append({device.address, 1, device.heads.first().toPlain(CameraState::settings())});
+    for (int camera = 1; camera <= cameras; ++camera) {
+        heads.append({QStringLiteral("10.0.0.%1").arg(camera), 1, state.toPlain(CameraState::settings())});
     }
     return writeSettings(heads);
 }

@@ -2,10 +2,13 @@
 #include "Files.h"
 #include "support/TestHost.h"
 
+#include <QJsonDocument>
 #include <QMessageBox>
 #include <QRegularExpression>
 
 #include <gtest/gtest.h>
+
+#define LOADS SOURCE_FOLDER "/tests/zebsim/loads/"
 
 namespace {
 
@@ -53,161 +56,56 @@ protected:
     }
 
     TestHost test;
-    const QString path = test.folder.filePath("x.rigx");
+    QString path = test.folder.filePath("x.rigx");
     QList<QVariantMap> saved;
 };
 
 TEST_F(SettingsLoad, BringsBackEachSettingOfEachCamera) {
-    EXPECT_EQ(load(), (QStringList{"All cameras are as in \"x.rigx\" already."}));
-    for (Camera* camera : test.host.cameras().all()) {
-        const CameraModel& model = camera->model();
-        const CameraState state = camera->state();
-        QVariantMap ports;
-        for (const int port : state.ports.keys()) {
-            ports[QString::number(port)] = state.ports[port] == 1 ? 2 : 1;
-        }
-        const auto has = [&](int function) { return model.functions.contains(function); };
-        const auto other = [](const auto& list, const auto& value) {
-            return list.first() == value ? list.last() : list.first();
-        };
-        const QSize resolution = other(model.resolutions, state.resolution);
-        camera->change({{"resolution", QVariantList{resolution.width(), resolution.height()}},
-                        {"rate", model.rates[1]},
-                        {"shutter", model.shutters.last()},
-                        {"triggerMode", other(model.triggerModes, state.triggerMode)},
-                        {"triggerFrame", state.triggerFrame + 7},
-                        {"randomFrames", 11},
-                        {"randomTimes", 3},
-                        {"randomCounted", true},
-                        {"recordArea", QVariantList{-5, 90}},
-                        {"reduce", has(zeb::FunctionReduceMode) != state.reduce},
-                        {"lowLight", has(zeb::FunctionLowLight) != state.lowLight},
-                        {"lowLightType", has(zeb::FunctionLowLight) ? zeb::LowLightTypeFine : state.lowLightType},
-                        {"resolutionLock", !state.resolutionLock},
-                        {"shutterSpeedLock", !state.shutterSpeedLock},
-                        {"ports", ports},
-                        {"dualSlope", 2},
-                        {"autoExposure", !state.autoExposure},
-                        {"irig", has(zeb::FunctionIrig) != state.irig},
-                        {"irigStampAtEnd", has(zeb::FunctionIrigTimeStampPosition) != state.irigStampAtEnd},
-                        {"variable", has(zeb::FunctionVariable) ? 1 : 0},
-                        {"variableChannels", has(zeb::FunctionVariable) ? QStringList{"one"} : QStringList()},
-                        {"irigSync", has(zeb::FunctionIrigSync) != state.irigSync},
-                        {"binningPower", model.capabilities.contains("binning") ? 1 : 0},
-                        {"name", QString(state.name + " other")},
-                        {"comment", QString::fromUtf8("カメラ <b>{Separator}")},
-                        {"alias", "an alias"},
-                        {"customInfo", QVariantList{QVariantMap{{"name", "n"}, {"value", "v"}}}},
-                        {"partitionNames", QStringList{"first"}},
-                        {"effectivePlugins", QStringList(state.plugins.mid(2, 1))},
-                        {"pluginValues", QVariantMap{{"filter", QVariantMap{}}}},
-                        {"lutCurve", !state.lutCurve},
-                        {"frameSkipEnabled", !state.frameSkipEnabled},
-                        {"frameSkipMode", 1},
-                        {"frameSkip", 9},
-                        {"scale", 1.5},
-                        {"rotation", 0.1},
-                        {"flipHorizontal", !state.flipHorizontal},
-                        {"flipVertical", !state.flipVertical},
-                        {"zoom", 1.0 / 3}});
+    const QString mine = path;
+    EXPECT_EQ(load(), QStringList{"All cameras are as in \"x.rigx\" already."});
+    path = LOADS "other.rigx";
+    EXPECT_EQ(load().last(), "The settings of \"other.rigx\" are loaded.");
+    const auto other = settings();
+    for (const QString& name : CameraState::settings()) {
+        EXPECT_TRUE(other[0][name] != saved[0][name] || other[6][name] != saved[6][name]) << name.toStdString();
     }
-    const auto changed = settings();
-    QFile::rename(path, path + ".old");
-    save();
-    QFile::rename(path, path + ".other");
-    QFile::copy(path + ".old", path);
-    for (const auto& name : CameraState::settings()) {
-        const auto isChanged = [&](int camera) { return changed[camera][name] != saved[camera][name]; };
-        EXPECT_TRUE(isChanged(0) || isChanged(6)) << name.toStdString();
-    }
-    const QStringList first = load();
-    EXPECT_EQ(first.last(), "The settings of \"x.rigx\" are loaded.") << first.join('\n').toStdString();
+    EXPECT_EQ(load(), QStringList{"All cameras are as in \"other.rigx\" already."});
+    path = mine;
+    EXPECT_EQ(load().last(), "The settings of \"x.rigx\" are loaded.");
     EXPECT_EQ(settings(), saved);
-    EXPECT_EQ(load(), (QStringList{"All cameras are as in \"x.rigx\" already."}));
-    QFile::remove(path);
-    QFile::copy(path + ".other", path);
-    const QStringList back = load();
-    EXPECT_EQ(back.last(), "The settings of \"x.rigx\" are loaded.") << back.join('\n').toStdString();
-    EXPECT_EQ(settings(), changed);
 }
 
 /// Settings of the first two cameras were changed, and something is the matter with the first.
 TEST_F(SettingsLoad, TellsOfEachCameraWhatItsCauseIsAndDoesTheOthers) {
-    const auto fault = [this](const char* operation, const Fault& planted) {
-        return [this, operation, planted] { test.host.faults().plant(1, operation, planted); };
-    };
-    const auto change = [this](const QVariantMap& members) {
-        return [this, members] { test.camera(1).change(members); };
-    };
-    const std::function<void()> nothing = [] {};
-    const QString notAll = "Not all settings of \"x.rigx\" were loaded.";
-    const struct {
-        const char* name;
-        std::function<void()> before;
-        /// While the preview stands.
-        std::function<void()> meanwhile;
-        QStringList odd;
-        QStringList surprises;
-    } rows[] = {
-        {"nothing", nothing, nothing, {}, {}},
-        {"a rate that is refused",
-         fault("setRecordRate", {"no answer"}),
-         nothing,
-         {},
-         {"Gate 2: Frame rate: no answer"}},
-        {"one that refuses all",
-         fault("*", {"dead"}),
-         nothing,
-         {},
-         {"Gate 2: Resolution, Frame rate, Camera name, Rotation: dead",
-          "Gate 2: its settings could not be read back: dead"}},
-        {"one that can't be read back",
-         fault("readSettings", {"dead"}),
-         nothing,
-         {},
-         {"Gate 2: its settings could not be read back: dead"}},
-        {"one that vanishes on the way",
-         fault("setRecordRate", {{}, 0, true}),
-         nothing,
-         {},
-         {"Gate 2: the camera is gone"}},
-        {"a slow one", fault("*", {{}, 9000}), nothing, {}, {}},
-        {"locked", change({{"locked", true}}), nothing, {"Gate 2: it is locked, and stays as it is"}, {}},
-        {"locked meanwhile", nothing, change({{"locked", true}}), {}, {"Gate 2: it is locked, and stays as it is"}},
-        {"armed meanwhile", nothing, change({{"recordState", 2}}), {}, {"Gate 2: it is armed, and stays as it is"}},
-        {"off meanwhile",
-         nothing,
-         change({{"connected", false}}),
-         {},
-         {"Gate 2: it is not connected, and stays as it is"}},
-        {"gone meanwhile", nothing, fault("*", {{}, 0, true}), {}, {"Gate 2: the camera is gone"}},
-        {"gone before", fault("*", {{}, 0, true}), nothing, {"Gate 2: the camera is gone"}, {}},
-        {"in low light", change({{"lowLight", true}, {"shutter", 50}}), nothing, {}, {}},
-        {"in low light that does not end",
-         [&] {
-             test.camera(1).change({{"lowLight", true}});
-             test.host.faults().plant(1, "setLowLight", {"stuck"});
-         },
-         nothing,
-         {},
-         {"Gate 2: Lowlight: stuck", "Gate 2: Resolution, Frame rate: this can't be changed in low light mode"}},
-    };
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.name);
+    for (const QVariant& each : QJsonDocument::fromJson(contentOf(LOADS "surprises.json")).toVariant().toList()) {
+        const QVariantMap row = each.toMap();
+        SCOPED_TRACE(row["name"].toString().toStdString());
+        const QStringList surprises = row["surprises"].toStringList();
         for (const DOCKEY key : {1, 2}) {
-            const QString name = saved[int(key) - 1]["name"].toString();
             test.camera(key).change({{"rate", 500},
                                      {"resolution", QVariantList{512, 256}},
-                                     {"name", QString(name + " 2")},
+                                     {"name", QString(saved[int(key) - 1]["name"].toString() + " 2")},
                                      {"rotation", 0.25}});
         }
-        row.before();
-        test.desk.whileStanding = row.meanwhile;
+        const auto cause = [&] {
+            test.camera(1).change(row["state"].toMap());
+            const QVariantMap faults = row["faults"].toMap();
+            for (auto fault = faults.begin(); fault != faults.end(); ++fault) {
+                const QVariantMap is = fault->toMap();
+                test.host.faults().plant(1, fault.key(),
+                                         {is["throws"].toString(), is["delay"].toInt(), is["gone"].toBool()});
+            }
+        };
+        if (row["when"] == "before") {
+            cause();
+        } else {
+            test.desk.whileStanding = cause;
+        }
         const QStringList lines = load();
         test.desk.whileStanding = nullptr;
-        EXPECT_EQ(lines.mid(1, row.odd.size()), row.odd);
-        EXPECT_EQ(lines.filter(QRegularExpression("^Not all")).size(), row.surprises.isEmpty() ? 0 : 1);
-        EXPECT_EQ(row.surprises, lines.mid(lines.size() - row.surprises.size()));
+        EXPECT_EQ(lines.mid(1, row["odd"].toList().size()), row["odd"].toStringList());
+        EXPECT_EQ(lines.filter(QRegularExpression("^Not all")).isEmpty(), surprises.isEmpty());
+        EXPECT_EQ(lines.mid(lines.size() - surprises.size()), surprises);
         EXPECT_EQ(settings().mid(1), saved.mid(1)) << "the others";
 
         test.host.faults().clear();

@@ -14,7 +14,7 @@ struct JsonValue;
 class JsonNode {
 public:
     /// Larger files are refused, in bytes.
-    static constexpr qint64 MostBytes = 32 * 1024 * 1024;
+    static constexpr qint64 MostBytes = 32 << 20;
 
     /// What the file `path` holds. A pipe is not waited for.
     static JsonNode fromFile(const QString& path);
