@@ -114,6 +114,7 @@ public:
                  {{QMetaType::QVariantList, keys},
                   {QMetaType::QString, name == "setResolution"       ? "512 x 512"
                                        : name == "setTriggerMode"    ? "3"
+                                       : name == "togglePlugin"      ? "lut"
                                        : name == "setCustomSettings" ? R"([{"name":"a"},{"name":"b"}])"
                                                                      : "2000"},
                   {QMetaType::Bool, on},

@@ -49,6 +49,11 @@ const Operation Operations[] = {
     {"low light", [](Bridge& b) { b.setLowLight(One, true); }, "setLowLight", "armed low-light plain", "", ""},
     {"low light type", [](Bridge& b) { b.setLowLightType(One, true); }, "setLowLightType", "armed low-light plain", "",
      ""},
+    {"live plug-in", [](Bridge& b) { b.togglePlugin(One, "lut", true); }, "setPluginEffective", "armed low-light plain",
+     "armed low-light plain", ""},
+    {"memory plug-in", [](Bridge& b) { b.togglePlugin(One, "mosaic", true); }, "setPluginEffective",
+     "armed locked low-light plain", "armed locked low-light plain", ""},
+    {"no plug-in", [](Bridge& b) { b.togglePlugin(One, "none", true); }, "setPluginEffective", "", "", ""},
 };
 
 class PermissionsTest : public BridgeFixture {
