@@ -7,6 +7,7 @@
 #include "DOC_Interface.h"
 #include "DocumentGuard.h"
 #include "FileNames.h"
+#include "LogFailure.h"
 #include "NamedFailure.h"
 #include "OverActiveWindow.h"
 #include "SettingsFolder.h"
@@ -22,6 +23,7 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QLocale>
 #include <QPointer>
 #include <QWebView>
 
@@ -37,6 +39,11 @@ const QString DefaultTimeFormat = QStringLiteral("yyyyMMdd_HHmmss");
 
 QString compact(const QJsonObject& object) {
     return QString::fromUtf8(QJsonDocument(object).toJson(QJsonDocument::Compact));
+}
+
+/// The same on every machine, in whatever language.
+QString dateText(const QString& format) {
+    return QLocale::c().toString(QDateTime::currentDateTime(), format);
 }
 
 QVariantMap presetEntry(DOC_Interface& doc) {
@@ -75,7 +82,10 @@ JS_Mediator_CameraSettingsDialog::JS_Mediator_CameraSettingsDialog(ZebHost* host
 
 QString JS_Mediator_CameraSettingsDialog::getFilePathSettings() {
     return call(*this, Query, __func__, {}, [this] {
-        return compact({{QStringLiteral("FolderPath"), m_folder}, {QStringLiteral("FileName"), baseName()}});
+        // A camera that does not tell its name does not hide the folder.
+        QString name;
+        logFailure([&] { name = baseName(); });
+        return compact({{QStringLiteral("FolderPath"), m_folder}, {QStringLiteral("FileName"), name}});
     });
 }
 
@@ -97,7 +107,7 @@ QString JS_Mediator_CameraSettingsDialog::fullName() const {
     QString name = baseName();
     if (host().getPrefBool(AddTimePref)) {
         name += name.isEmpty() ? QString() : QStringLiteral("_");
-        name += QDateTime::currentDateTime().toString(timeFormat());
+        name += dateText(timeFormat());
     }
     return name % QLatin1Char('.') % m_fileTypes.first();
 }
@@ -121,7 +131,7 @@ QVariantList JS_Mediator_CameraSettingsDialog::getPresetList() {
 }
 
 QString JS_Mediator_CameraSettingsDialog::addDateTime(const QString& format) {
-    return QDateTime::currentDateTime().toString(format);
+    return dateText(format);
 }
 
 QString JS_Mediator_CameraSettingsDialog::recvFileNameDialogData() {
@@ -190,8 +200,9 @@ void JS_Mediator_CameraSettingsDialog::cancel() {
     call(*this, Traced, __func__, {}, [this] { Q_EMIT reject(); });
 }
 
+/// What fails when the live images go on is no failure of the save: it goes to the log, as that of `presetFunc`.
 bool JS_Mediator_CameraSettingsDialog::rigxFunc() {
-    DocumentGuard guard(host());
+    const DocumentGuard guard(host(), false, false);
     const QString name = fullName();
     const QString path = QDir(m_folder).filePath(name);
     if (!mayWrite(path, name)) {
@@ -199,16 +210,14 @@ bool JS_Mediator_CameraSettingsDialog::rigxFunc() {
     }
     ZebDocManager& documents = host().docManager();
     callOnWorker(host(), TextKey("Saving..."), [&] { documents.saveSettingsFile(path, 0); });
-    guard.release();
     return true;
 }
 
 /// A failure is thrown, and told by the call.
 bool JS_Mediator_CameraSettingsDialog::presetFunc() {
-    DocumentGuard guard(host(), true);
+    const DocumentGuard guard(host(), true);
     setInTurn(host(), TextKey("Saving preset: %1 (%2 of %3)"), m_presets.keys(),
               [this](DOC_Interface& doc) { doc.control().saveCameraPreset(m_presets.value(doc.getKey())); });
-    guard.release();
     return true;
 }
 

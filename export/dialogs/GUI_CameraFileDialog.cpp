@@ -221,13 +221,15 @@ void GUI_CameraFileDialog::takeName() {
 /// What is there is what is meant: Qt takes the name of a folder for that of a file without its suffix, and adds to the
 /// files that are selected what it has met while the name was typed.
 QString GUI_CameraFileDialog::pathOf(const QString& name) const {
-    for (const QString& each : {name, QString(name % QLatin1Char('.') % defaultSuffix())}) {
+    // Of a folder that is chosen in the list the field has no name.
+    for (const QString& each :
+         name.isEmpty() ? QStringList() : QStringList{name, QString(name % QLatin1Char('.') % defaultSuffix())}) {
         const QFileInfo typed(directory(), each);
         if (typed.exists()) {
             return typed.filePath();
         }
     }
-    return selectedFiles().value(0);
+    return selectedFiles().value(0, directory().path());
 }
 
 void GUI_CameraFileDialog::loadFile(const QString& path) {

@@ -1,5 +1,6 @@
 #include "PresetLoad.h"
 
+#include "APP_Exception.h"
 #include "CamerasInTurn.h"
 #include "ConnectedDocs.h"
 #include "DOC_Control.h"
@@ -32,27 +33,39 @@ bool isDeviceLocked(DOC_Interface& doc) {
 
 void PresetLoad::run(const PresetNumbers& numbers) {
     const int mode = m_host.getOperatingMode();
-    const DocKeyList reboots = rebooting(loadable(numbers));
-    // What the user has agreed to is not what would be done in another mode.
-    if (!userAgrees(reboots) || m_host.getOperatingMode() != mode) {
+    GatheredFailures left;
+    const PresetNumbers asked = loadable(numbers, left);
+    const DocKeyList reboots = rebooting(asked);
+    if (!userAgrees(reboots)) {
         return;
     }
-    const PresetNumbers chosen = loadable(numbers);
+    if (m_host.getOperatingMode() != mode) {
+        throw APP_Exception(TextKey("The mode has changed. No preset was loaded."));
+    }
+    const PresetNumbers chosen = loadable(asked, left);
     setInTurn(m_host, TextKey("Loading preset: %1 (%2 of %3)"), chosen.keys(),
               [&](DOC_Interface& doc) { load(doc, chosen.value(doc.getKey()), reboots.contains(doc.getKey())); });
+    left.rethrow();
 }
 
-PresetNumbers PresetLoad::loadable(const PresetNumbers& numbers) const {
+/// Those of `numbers` that can be loaded; `left` is told why others can't. One that is gone is passed over in silence.
+PresetNumbers PresetLoad::loadable(const PresetNumbers& numbers, GatheredFailures& left) const {
     PresetNumbers loadable;
     for (auto each = numbers.begin(); each != numbers.end(); ++each) {
         DOC_Interface* doc = each.value() > 0 ? m_host.docManager().getDoc(each.key(), 1) : nullptr;
-        if (doc != nullptr) {
-            onCamera(*doc, [&] {
-                if (!isDeviceLocked(*doc)) {
-                    loadable.insert(each.key(), each.value());
-                }
-            });
+        if (doc == nullptr) {
+            continue;
         }
+        onCamera(*doc, [&] {
+            const QString reason = !doc->isConnected()    ? TextKey("the camera is not connected")
+                                   : isDeviceLocked(*doc) ? TextKey("the camera is locked")
+                                                          : QString();
+            if (reason.isEmpty()) {
+                loadable.insert(each.key(), each.value());
+            } else {
+                left.note(namedFailure(reason, *doc));
+            }
+        });
     }
     return loadable;
 }
@@ -77,7 +90,7 @@ bool PresetLoad::userAgrees(const DocKeyList& rebooting) const {
         m_host.translate(TextKey("The following camera preset is loaded after rebooting. Please restart the camera."));
     question += QLatin1Char('\n');
     for (DOC_Interface* doc : docsOf(m_host.docManager(), rebooting)) {
-        question += QStringLiteral("\n ") % doc->getDisplayName();
+        onCamera(*doc, [&] { question += QStringLiteral("\n ") % doc->getDisplayName(); });
     }
     return m_host.confirm(question);
 }

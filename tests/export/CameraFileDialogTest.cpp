@@ -208,6 +208,7 @@ TEST_F(CameraFileDialog, LoadsPresetsInTheOrderOfTheKeys) {
         QStringList loads;
         std::function<void()> inQuestion = {};
         bool no = false;
+        QStringList told = {};
     };
     for (const Case& c : {
              Case{"the present one once more", {}, {"loadCameraPreset 1 3", "refreshAfterPreset 1 0"}},
@@ -221,25 +222,40 @@ TEST_F(CameraFileDialog, LoadsPresetsInTheOrderOfTheKeys) {
               impact,
               [&] {
                   camera(1).change({{"locked", true}});
-              }},
+              },
+              false,
+              {"Gate: the camera is locked"}},
+             {"disconnected meanwhile",
+              {{"Impact", "1"}},
+              impact,
+              [&] {
+                  camera(1).change({{"connected", false}, {"locked", false}});
+              },
+              false,
+              {"Gate: the camera is not connected"}},
              {"gone meanwhile",
               {{"Impact", "1"}},
               impact,
               [&] {
                   host.faults().plant(1, "*", {{}, 0, true});
               }},
-             {"another mode", {{"Impact", "1"}}, {}, [&] { host.appStatus().enterMode(zeb::FileMode); }},
+             {"another mode",
+              {{"Impact", "1"}},
+              {},
+              [&] { host.appStatus().enterMode(zeb::FileMode); },
+              false,
+              {"The mode has changed. No preset was loaded."}},
          }) {
         SCOPED_TRACE(c.what);
         connectAll();
         host.appStatus().enterMode(zeb::LiveMode);
-        camera(1).change({{"preset", 3}});
+        camera(1).change({{"preset", 3}, {"locked", false}});
         desk.whileStanding = c.inQuestion;
         desk.answers = c.no ? QList<Answer>{{false, false}} : QList<Answer>();
         presetCalls();
         EXPECT_EQ(run(load(c.chosen)), 1);
         EXPECT_EQ(presetCalls(), begin + c.loads + end);
-        EXPECT_EQ(desk.take(), c.inQuestion ? QStringList(question) : QStringList());
+        EXPECT_EQ(desk.take(), (c.inQuestion ? QStringList(question) : QStringList()) + c.told);
     }
 }
 

@@ -2239,5 +2239,13 @@
         <source>the camera has not come back after its restart</source>
         <translation>再起動後にカメラが戻っていません</translation>
     </message>
+    <message>
+        <source>the camera is locked</source>
+        <translation>カメラがロックされています</translation>
+    </message>
+    <message>
+        <source>The mode has changed. No preset was loaded.</source>
+        <translation>モードが変わりました。プリセットは読み込まれていません。</translation>
+    </message>
 </context>
 </TS>
