@@ -10,22 +10,21 @@
 
 namespace {
 
+[[noreturn]] void refuse(const QString& path, const QString& reason) {
+    throw JsonError(path % QStringLiteral(": ") % reason);
+}
+
+/// No more of it than shows that it is too large: some files do not tell their size.
 QByteArray contentOf(const QString& path) {
-    const auto refuse = [&path](const QString& reason) { throw JsonError(path % QStringLiteral(": ") % reason); };
     const QString why = whyNoPlainFile(path);
     if (!why.isEmpty()) {
-        refuse(why);
+        refuse(path, why);
     }
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) {
-        refuse(file.errorString());
+        refuse(path, file.errorString());
     }
-    // Some files do not tell their size.
-    const QByteArray text = file.size() > JsonNode::MostBytes ? QByteArray() : file.read(JsonNode::MostBytes + 1);
-    if (file.size() > JsonNode::MostBytes || text.size() > JsonNode::MostBytes) {
-        refuse(QStringLiteral("it is larger than %1 MiB").arg(JsonNode::MostBytes >> 20));
-    }
-    return text;
+    return file.read(JsonNode::MostBytes + 1);
 }
 
 QVariant plainOf(const JsonValue& value) {
@@ -64,6 +63,9 @@ JsonNode JsonNode::fromFile(const QString& path) {
 }
 
 JsonNode JsonNode::fromText(const QString& file, const QByteArray& text) {
+    if (text.size() > MostBytes) {
+        refuse(file, QStringLiteral("it is larger than %1 MiB").arg(MostBytes >> 20));
+    }
     try {
         return {file, {}, std::make_shared<const JsonValue>(readJsonText(text))};
     } catch (const JsonTextError& error) {
