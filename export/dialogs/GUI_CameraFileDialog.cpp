@@ -25,6 +25,7 @@
 #include <QPointer>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScreen>
 
 #include <stdexcept>
 #include <utility>
@@ -75,6 +76,8 @@ GUI_CameraFileDialog::GUI_CameraFileDialog(ZebHost* host, QWidget* parent, const
     setAcceptMode(QFileDialog::AcceptOpen);
     setFileMode(QFileDialog::ExistingFile);
     setDefaultSuffix(QStringLiteral("rigx"));
+    // A name may begin with a dot.
+    setFilter(filter() | QDir::Hidden);
     addPanel();
     guarded([this] { addRows(); });
     connect(m_checkLoadCamera, &QCheckBox::toggled, this, &GUI_CameraFileDialog::on_checkLoadCamera_change);
@@ -160,7 +163,9 @@ void GUI_CameraFileDialog::on_checkLoadCamera_change(bool check) {
     }
     QPushButton* open = findChild<QDialogButtonBox*>(QStringLiteral("buttonBox"))->button(QDialogButtonBox::Open);
     (check ? m_okButton : open)->setDefault(true);
-    resize(width(), int(check ? height() * PanelGrowth : height() / PanelGrowth));
+    // Beyond the screen nobody would reach the buttons.
+    const int most = screen()->availableGeometry().height() - (frameGeometry().height() - height());
+    resize(width(), qMin(most, int(check ? height() * PanelGrowth : height() / PanelGrowth)));
 }
 
 /// No exception may get into Qt's event loop.

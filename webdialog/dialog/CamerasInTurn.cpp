@@ -5,6 +5,7 @@
 #include "GUI_MarqueeProgressDialog.h"
 #include "LogFailure.h"
 #include "NamedFailure.h"
+#include "TextKey.h"
 #include "ZebDocManager.h"
 #include "ZebHost.h"
 
@@ -24,6 +25,18 @@ QString nameOf(DOC_Interface& doc) {
     QString name;
     logFailure([&] { name = doc.control().getCameraName(1).simplified(); });
     return QFontMetrics(QApplication::font()).elidedText(name, Qt::ElideRight, NameWidth);
+}
+
+/// A line with the names of those whose turn has not come.
+QString notReached(ZebHost& host, const DocKeyList& keys) {
+    QStringList names;
+    for (const DOCKEY key : keys) {
+        if (DOC_Interface* doc = host.docManager().getDoc(key, 1)) {
+            names << nameOf(*doc);
+        }
+    }
+    const QString text = host.translate(TextKey("Nothing was done with: %1"));
+    return names.isEmpty() ? QString() : QString(QLatin1Char('\n') % text.arg(names.join(QStringLiteral(", "))));
 }
 
 /// No failure of it keeps a camera from its turn.
@@ -74,9 +87,11 @@ void setInTurn(ZebHost& host, const QString& text, const DocKeyList& keys,
                 step(*doc);
             }
         } catch (...) {
-            const QString failure = currentFailureText();
-            DOC_Interface* doc = documents.getDoc(keys.at(i), 1);
-            throw std::runtime_error((doc ? namedFailure(failure, *doc) : failure).toStdString());
+            QString failure = currentFailureText();
+            if (DOC_Interface* doc = documents.getDoc(keys.at(i), 1)) {
+                failure = namedFailure(failure, *doc);
+            }
+            throw std::runtime_error(QString(failure % notReached(host, keys.mid(i + 1))).toStdString());
         }
     }
 }

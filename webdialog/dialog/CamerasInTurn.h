@@ -9,7 +9,7 @@
 class ZebHost;
 
 /// Runs `step` on the cameras of `keys`, one after the other in their order, up to one that fails: throws with its
-/// name. One that is gone when its turn comes is left out.
+/// name, and those that were not reached. One that is gone when its turn comes is left out.
 ///
 /// A progress names the camera whose turn it is by `text`, which is translated and has %1 for the name, %2 for its
 /// number and %3 for how many there are. Nobody can close it, and what is pressed meanwhile reaches nothing else, then

@@ -93,6 +93,7 @@ void HostKeys::disconnectAll() {
     if (!mayLetGoOfRecording(m_host, uiText("Cameras are armed or recording. Disconnect all the same?"))) {
         return;
     }
+    m_host.expectNoRestart();
     const QList<PLG_Interface*> plugins = m_host.appStatus().plugins();
     if (std::any_of(plugins.begin(), plugins.end(), hasOpenDialog)) {
         sendToPlugins(m_host.appStatus(), "signalDisconnect");

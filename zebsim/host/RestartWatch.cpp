@@ -14,19 +14,13 @@
 
 void RestartWatch::proceed() {
     DocKeyList back;
-    for (const Camera* camera : m_host.cameras.all()) {
-        switch (camera->device().restart().endBy(m_host.clock.now())) {
-            case Restart::End::BackAsMarked:
-                back.append(camera->key());
-                break;
-            case Restart::End::StaysAway: {
-                const QString text =
-                    m_host.translator.translate(TextKey("%1: it has not come back after its restart."));
-                m_host.notices.add(Message::Error, text.arg(m_host.cameras.labelOf(*camera)));
-                break;
-            }
-            default:
-                break;
+    for (const Camera* camera : m_host.cameras.known()) {
+        const Restart::End end = camera->device().restart().endBy(m_host.clock.now());
+        if (end == Restart::End::StaysAway || (end != Restart::End::None && camera->isGone())) {
+            const QString text = m_host.translator.translate(TextKey("%1: it has not come back after its restart."));
+            m_host.notices.add(Message::Error, text.arg(m_host.cameras.labelOf(*camera)));
+        } else if (end == Restart::End::BackAsMarked) {
+            back.append(camera->key());
         }
     }
     if (!back.isEmpty()) {
@@ -42,6 +36,12 @@ void RestartWatch::connectAgain(const DocKeyList& keys) {
         m_host.notices.add(Message::Error, QString::fromUtf8(failure.what()));
     }
     m_host.updates.request();
+}
+
+void RestartWatch::expectNone() {
+    for (const Camera* camera : m_host.cameras.known()) {
+        camera->device().restart().setMarked(false);
+    }
 }
 
 void RestartWatch::reboot(DOCKEY key) {

@@ -12,6 +12,8 @@ public:
 
     /// Brings them up to the clock; called often. An event loop may run.
     void proceed();
+    /// The user wants all cameras disconnected: those that come back stay so.
+    void expectNone();
     /// As `Camera::reboot`; without effect when there is no such camera.
     void reboot(DOCKEY key);
 

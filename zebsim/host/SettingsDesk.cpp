@@ -2,14 +2,18 @@
 
 #include "Camera.h"
 #include "CameraBank.h"
+#include "CameraError.h"
 #include "ClockRows.h"
 #include "FailureText.h"
 #include "HostBatch.h"
 #include "HostContext.h"
 #include "HostMessages.h"
+#include "JsonNode.h"
 #include "LoadTexts.h"
+#include "PlainState.h"
 #include "SettingsReader.h"
 #include "SettingsWriter.h"
+#include "SimAppStatus.h"
 #include "TextKey.h"
 #include "Translator.h"
 #include "UpdateCycle.h"
@@ -41,6 +45,17 @@ QString textOf(const std::exception_ptr& failure) {
     }
 }
 
+/// Throws what the camera throws, and when it tells what no file can bring back.
+QVariantMap settingsOf(Camera& camera) {
+    const QVariantMap settings = camera.readSettings(OPERATION("saveSettings")).toPlain(CameraState::settings());
+    try {
+        checkSettings(settings);
+    } catch (const StateError& error) {
+        throw CameraError(camera.name(), QString(error.member % QStringLiteral(": ") % error.reason));
+    }
+    return settings;
+}
+
 const CameraPlan* find(const LoadPlan& plan, const PlanCamera& camera) {
     const auto found = std::find_if(plan.cameras.begin(), plan.cameras.end(), [&camera](const CameraPlan& each) {
         return each.camera.address == camera.address && each.camera.head == camera.head;
@@ -55,10 +70,15 @@ void SettingsDesk::load(const QString& path) {
     const LoadPlan shown = plan(file);
     if (shown.changes() == 0) {
         tellNothingToDo(path, shown);
-    } else if (agrees(path, shown)) {
-        carryOut(path, plan(file), shown);
-    } else {
+        return;
+    }
+    const int mode = m_host.appStatus.mode();
+    if (!agrees(path, shown)) {
         qInfo() << "Settings were not loaded:" << path;
+    } else if (m_host.appStatus.mode() != mode) {
+        m_host.messages.tell(Message::Warn, TextKey("The mode has changed. No setting was loaded."));
+    } else {
+        carryOut(path, plan(file), shown);
     }
 }
 
@@ -91,10 +111,9 @@ bool SettingsDesk::agrees(const QString& path, const LoadPlan& plan) const {
                                       QString::number(plan.changingCameras()), QString::number(plan.equal()));
     const ButtonTexts buttons{{QMessageBox::Ok, m_host.translator.translate(TextKey("Load"))},
                               {QMessageBox::Cancel, m_host.translator.translate(TextKey("Cancel"))}};
-    // Who only presses Enter has not read what is odd.
-    const int preferred = plan.isOdd() ? QMessageBox::Cancel : QMessageBox::Ok;
-    return m_host.messages.choose(question, nullptr, buttons, preferred, LoadTexts(m_host.translator).preview(plan)) ==
-           QMessageBox::Ok;
+    // The Enter that has chosen the file may still be held, or come twice.
+    return m_host.messages.choose(question, nullptr, buttons, QMessageBox::Cancel,
+                                  LoadTexts(m_host.translator).preview(plan)) == QMessageBox::Ok;
 }
 
 void SettingsDesk::carryOut(const QString& path, const LoadPlan& plan, const LoadPlan& shown) const {
@@ -178,8 +197,7 @@ void SettingsDesk::save(const QString& path) {
     std::vector<HeadSettings> heads(cameras.size());
     const auto failures = runRows(m_host.clock, int(cameras.size()), [&](int row) {
         Camera& camera = *cameras[std::size_t(row)];
-        heads[std::size_t(row)] = {camera.device().address(), camera.headNumber(),
-                                   camera.readSettings(OPERATION("saveSettings")).toPlain(CameraState::settings())};
+        heads[std::size_t(row)] = {camera.device().address(), camera.headNumber(), settingsOf(camera)};
     });
     QList<HeadSettings> answered;
     QStringList leftOut;
@@ -193,7 +211,11 @@ void SettingsDesk::save(const QString& path) {
     if (answered.isEmpty()) {
         failToSave(path, TextKey("no camera has answered"));
     }
-    const QString reason = writeWholeFile(path, writeSettings(answered));
+    const QByteArray text = writeSettings(answered);
+    if (text.size() > JsonNode::MostBytes) {
+        failToSave(path, TextKey("these are too many settings for a file"));
+    }
+    const QString reason = writeWholeFile(path, text);
     if (!reason.isEmpty()) {
         failToSave(path, reason);
     }

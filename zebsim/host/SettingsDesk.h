@@ -22,8 +22,9 @@ public:
     /// locked, armed, record or are not in the file. What becomes of the others otherwise than was shown is told. GUI
     /// thread; event loops run. Throws `JsonError` before anything is done.
     void load(const QString& path);
-    /// Writes the settings of all connected cameras. A notice names those that do not answer, and the file has the
-    /// others. Throws, with the file's name, when there are none of them or it can't be written. Any thread.
+    /// Writes the settings of all connected cameras. A notice names those that do not answer, or with what no file may
+    /// hold, and the file has the others. Throws, with the file's name, when there are none of them or it can't be
+    /// written. Any thread.
     void save(const QString& path);
 
 private:

@@ -69,6 +69,7 @@ public:
     }
     /// The user switches a camera off and on again.
     void reboot(DOCKEY key) { m_restarts.reboot(key); }
+    void expectNoRestart() { m_restarts.expectNone(); }
 
     Clock& clock() { return m_clock; }
     Journal& journal() { return m_journal; }

@@ -2247,5 +2247,21 @@
         <source>The mode has changed. No preset was loaded.</source>
         <translation>モードが変わりました。プリセットは読み込まれていません。</translation>
     </message>
+    <message>
+        <source>The mode has changed. No setting was loaded.</source>
+        <translation>モードが変わりました。設定は読み込まれていません。</translation>
+    </message>
+    <message>
+        <source>the camera is ready or records</source>
+        <translation>カメラは撮影待ちまたは撮影中です</translation>
+    </message>
+    <message>
+        <source>Nothing was done with: %1</source>
+        <translation>実行されなかったカメラ: %1</translation>
+    </message>
+    <message>
+        <source>these are too many settings for a file</source>
+        <translation>設定が多すぎてファイルに保存できません</translation>
+    </message>
 </context>
 </TS>

@@ -130,7 +130,7 @@ QStringList LoadTexts::surprises(const CameraPlan& plan, const LoadAnswer& answe
     QStringList lines;
     QStringList refused;
     for (const LoadAnswer::Refusal& refusal : answer.refusals) {
-        lines << line(label, line(m_settings.labels(refusal.settings), refusal.reason));
+        lines << line(label, line(m_settings.labels(refusal.settings), m_translator.translate(refusal.reason)));
         refused += refusal.settings;
     }
     if (answer.left != CameraPlan::Taken) {

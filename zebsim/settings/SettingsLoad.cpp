@@ -2,6 +2,7 @@
 
 #include "Camera.h"
 #include "CameraError.h"
+#include "TextKey.h"
 
 #include <algorithm>
 
@@ -166,6 +167,7 @@ private:
     template <typename Command>
     void give(const QStringList& settings, const Command& command) {
         try {
+            requireUntouched();
             command();
         } catch (const CameraError& error) {
             const auto same =
@@ -176,6 +178,19 @@ private:
             } else {
                 same->settings += settings;
             }
+        }
+    }
+
+    /// Somebody else may have locked or armed it since the last command.
+    void requireUntouched() const {
+        switch (whyLeft(m_camera.state())) {
+            case CameraPlan::Locked:
+                throw CameraError(m_camera.name(), TextKey("the camera is locked"));
+            case CameraPlan::Armed:
+            case CameraPlan::Recording:
+                throw CameraError(m_camera.name(), TextKey("the camera is ready or records"));
+            default:
+                break;
         }
     }
 

@@ -26,17 +26,10 @@ void checkForm(const JsonNode& root) {
     }
 }
 
-/// With all that is absent from what stands for it, as in an item of the custom information.
 QVariantMap readMembers(const JsonNode& node) {
     node.allowOnly(CameraState::settings());
-    const QVariantMap members = node.plain();
     try {
-        CameraState state;
-        state.apply(members);
-        const QVariantMap settings = state.toPlain(members.keys());
-        checkLimits(settings);
-        checkPluginValues(state);
-        return settings;
+        return checkSettings(node.plain());
     } catch (const StateError& error) {
         node.failAt(error.member, error.reason);
     }
@@ -77,6 +70,15 @@ QList<HeadSettings> readFile(const JsonNode& root) {
 }
 
 }  // namespace
+
+QVariantMap checkSettings(const QVariantMap& members) {
+    CameraState state;
+    state.apply(members);
+    const QVariantMap settings = state.toPlain(members.keys());
+    checkLimits(settings);
+    checkPluginValues(state);
+    return settings;
+}
 
 QList<HeadSettings> readSettings(const QString& path) {
     return readFile(JsonNode::fromFile(path));
