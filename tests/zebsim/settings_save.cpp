@@ -24,16 +24,18 @@ protected:
     }
     void plant(DOCKEY key, const Fault& fault) { test.host.faults().plant(key, "saveSettings", fault); }
 
-    TestHost test{connected(3)};
+    TestHost test{connected(4)};
     QString path = test.folder.filePath("x.rigx");
 };
 
 TEST_F(SettingsSave, LeavesOutAndNamesWhoDoesNotAnswer) {
     plant(1, {"no answer"});
     plant(2, {{}, 0, true});
+    test.camera(4).set(&CameraState::shutter, 0);
     EXPECT_EQ(save(), "");
     EXPECT_EQ(test.desk.take(),
-              (QStringList{"Cameras that are not in \"x.rigx\":\nCamera 1: no answer\nCamera 2: the camera is gone"}));
+              (QStringList{"Cameras that are not in \"x.rigx\":\nCamera 1: no answer\nCamera 2: the camera is gone\n"
+                           "Camera 4: shutter: a number from 1 to 2147483647 is expected"}));
     const auto heads = readSettings(path);
     ASSERT_EQ(heads.size(), 1);
     EXPECT_EQ(heads[0].settings, test.camera(3).state().toPlain(CameraState::settings()));
@@ -67,6 +69,7 @@ TEST_F(SettingsSave, ThatFailsNamesTheFileAndLeavesTheOldOne) {
              test.host.faults().plant(2, "*", {{}, 0, true});
              plant(1, {"x"});
              plant(3, {"x"});
+             plant(4, {"x"});
          },
          {},
          false},
