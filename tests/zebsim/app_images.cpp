@@ -161,6 +161,15 @@ TEST_F(Images, ShowAtOnceWhatThePluginsMakeOfThem) {
     panel.findChild<QCheckBox*>("pseudo")->click();
     EXPECT_EQ(seen(), plain);
 
+    // One that takes long comes later, and the windows do not wait for it.
+    panel.findChild<QCheckBox*>("filter")->click();
+    EXPECT_TRUE(until([&] {
+        const QRgb middle = seen().pixel(plain.rect().center());
+        return middle != plain.pixel(0, 0) && seen() != plain;
+    }));
+    panel.findChild<QCheckBox*>("filter")->click();
+    EXPECT_EQ(seen(), plain);
+
     // Numbers that wait for their OK, and such as lie between two steps.
     auto* median = panel.findChild<QSpinBox*>("filter.median");
     median->setValue(4);

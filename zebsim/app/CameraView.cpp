@@ -1,6 +1,7 @@
 #include "CameraView.h"
 
 #include "FramePicture.h"
+#include "LatePicture.h"
 
 #include <QPainter>
 
@@ -17,7 +18,8 @@ bool ImagePose::operator==(const ImagePose& other) const {
            zoom == other.zoom;
 }
 
-CameraView::CameraView(QWidget* parent) : QWidget(parent) {
+CameraView::CameraView(QWidget* parent) : QWidget(parent), m_late(new LatePicture(this)) {
+    connect(m_late, &LatePicture::made, this, qOverload<>(&CameraView::update));
     // Windows behind need not be drawn then.
     setAttribute(Qt::WA_OpaquePaintEvent);
     setMinimumSize(1, 1);
@@ -64,7 +66,15 @@ void CameraView::paintEvent(QPaintEvent* /*event*/) {
     }
 }
 
-QRect CameraView::drawImage(QPainter& painter) const {
+/// One that takes long is the last that was made, until the newer one is.
+QImage CameraView::picture(const QSize& size) {
+    if (!LatePicture::isFor(*m_frame)) {
+        return drawFrame(*m_frame, size);
+    }
+    return m_late->latest(*m_frame, size);
+}
+
+QRect CameraView::drawImage(QPainter& painter) {
     QTransform pose;
     pose.rotate(m_pose.rotation * 360);
     pose.scale(m_pose.flipHorizontal ? -1 : 1, m_pose.flipVertical ? -1 : 1);
@@ -75,7 +85,7 @@ QRect CameraView::drawImage(QPainter& painter) const {
     }
     const double scale = shown.width() / posed.width();
     const QSizeF plain = QSizeF(m_frame->resolution) * scale;
-    const QImage image = drawFrame(*m_frame, (plain * devicePixelRatioF()).toSize());
+    const QImage image = picture((plain * devicePixelRatioF()).toSize());
     painter.save();
     painter.translate(QRectF(rect()).center());
     painter.setTransform(pose, true);

@@ -7,6 +7,8 @@
 
 #include <optional>
 
+class LatePicture;
+
 /// How an image stands in its window.
 struct ImagePose {
     /// A fraction of a turn.
@@ -40,8 +42,10 @@ protected:
 
 private:
     /// Answers where it stands.
-    QRect drawImage(QPainter& painter) const;
+    QRect drawImage(QPainter& painter);
+    QImage picture(const QSize& size);
 
+    LatePicture* const m_late;
     std::optional<CameraFrame> m_frame;
     ImagePose m_pose;
     QString m_text;

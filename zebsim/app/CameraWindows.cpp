@@ -11,6 +11,7 @@
 #include "UiText.h"
 
 #include <QScopedValueRollback>
+#include <QtDebug>
 
 #include <algorithm>
 
@@ -54,14 +55,15 @@ void CameraWindows::follow() {
     }
     const QScopedValueRollback<bool> changing(m_changing, true);
     addAndRemove();
-    forEach([this](const Camera& camera, CameraWindow& window) {
+    const bool isBlocked = m_host.flags().isOn(StatusFlags::IsOtherPluginOpen) || m_host.saver().isBgSaving();
+    forEach([this, isBlocked](const Camera& camera, CameraWindow& window) {
         // Alone the three letters are Qt's mark of a changed document.
         const QString title = QString(camera.name()).replace(QLatin1String("[*]"), QLatin1String("[*][*]"));
         if (window.windowTitle() != title) {
             window.setWindowTitle(title);
         }
         window.view().setMarked(camera.get(&CameraState::selected));
-        window.effects().follow(camera);
+        window.effects().follow(camera, isBlocked);
         showEffects(camera, window);
     });
     activateCurrent();
@@ -129,6 +131,7 @@ CameraWindow* CameraWindows::makeWindow(DOCKEY key) {
     EffectPanel* effects = &window->effects();
     connect(effects, &EffectPanel::switched, this, [this, key](const QString& plugin, bool on) {
         if (Camera* camera = m_host.cameras().find(key)) {
+            qInfo() << "Image plug-in:" << camera->name() << plugin << (on ? "on" : "off");
             camera->setPluginEffective(plugin, on);
         }
         m_host.updates().request();
@@ -136,6 +139,7 @@ CameraWindow* CameraWindows::makeWindow(DOCKEY key) {
     });
     connect(effects, &EffectPanel::changed, this, [this, key](const QString& plugin, const QVector<int>& values) {
         if (Camera* camera = m_host.cameras().find(key)) {
+            qInfo() << "Image plug-in:" << camera->name() << plugin << values;
             camera->setPluginValues(plugin, findImageEffect(plugin)->plain(values));
         }
         showNow();

@@ -6,6 +6,7 @@
 
 #include <QCheckBox>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
 #include <QSignalBlocker>
@@ -31,12 +32,12 @@ EffectPanel::EffectPanel(QWidget* parent) : QScrollArea(parent) {
     hide();
 }
 
-void EffectPanel::follow(const Camera& camera) {
+void EffectPanel::follow(const Camera& camera, bool isBlocked) {
     const CameraState state = camera.state();
     build(state.plugins);
     for (Row& row : m_rows) {
         const bool isLive = (row.effect->modes >> zeb::LiveMode & 1) != 0;
-        const bool isOpen = !(state.locked && isLive) && !state.blockedPlugins.contains(row.effect->name);
+        const bool isOpen = !isBlocked && !(state.locked && isLive) && !state.blockedPlugins.contains(row.effect->name);
         row.on->setChecked(state.effectivePlugins.contains(row.effect->name));
         const QVector<int> values = row.effect->valuesOf(state);
         if (values != row.values || isOpen != row.box->isEnabled()) {
@@ -56,6 +57,27 @@ void EffectPanel::showValues(const Row& row, bool isOpen) {
     for (int i = 0; i < row.values.size(); ++i) {
         row.numbers[i]->setValue(row.values[i]);
     }
+    if (row.ok != nullptr) {
+        row.ok->setEnabled(false);
+    }
+}
+
+bool EffectPanel::eventFilter(QObject* object, QEvent* event) {
+    auto* number = qobject_cast<QSpinBox*>(object);
+    if (number != nullptr && event->type() == QEvent::Wheel && !number->hasFocus()) {
+        event->ignore();
+        return true;
+    }
+    if (number != nullptr && event->type() == QEvent::KeyPress &&
+        static_cast<const QKeyEvent*>(event)->key() == Qt::Key_Escape) {
+        for (const Row& row : qAsConst(m_rows)) {
+            if (row.numbers.contains(number)) {
+                showValues(row, true);
+            }
+        }
+        return true;
+    }
+    return QScrollArea::eventFilter(object, event);
 }
 
 void EffectPanel::build(const QStringList& plugins) {
@@ -85,38 +107,59 @@ EffectPanel::Row EffectPanel::makeRow(const ImageEffect& effect) {
     layout->addWidget(row.on);
     connect(row.on, &QCheckBox::clicked, this, [this, name = effect.name](bool on) { Q_EMIT switched(name, on); });
     for (const EffectNumber& number : effect.numbers) {
-        auto* spin = new QSpinBox(row.box);
-        spin->setObjectName(effect.name % QLatin1Char('.') % number.name);
-        spin->setRange(number.lowest, number.highest);
-        spin->setSingleStep(number.step);
-        spin->setKeyboardTracking(false);
         layout->addWidget(new QLabel(uiText(number.text), row.box));
-        layout->addWidget(spin);
-        row.numbers.append(spin);
-        if (!effect.needsOk) {
-            connect(spin, QOverload<int>::of(&QSpinBox::valueChanged), this,
-                    [this, name = effect.name] { send(m_rows[name]); });
-        }
+        row.numbers.append(makeNumber(effect, number, row.box));
+        layout->addWidget(row.numbers.last());
     }
     if (effect.needsOk) {
-        auto* ok = new QPushButton(uiText("OK"), row.box);
-        ok->setObjectName(effect.name % QStringLiteral(".ok"));
-        layout->addWidget(ok);
-        connect(ok, &QPushButton::clicked, this, [this, name = effect.name] { send(m_rows[name]); });
+        row.ok = new QPushButton(uiText("OK"), row.box);
+        row.ok->setObjectName(effect.name % QStringLiteral(".ok"));
+        row.ok->setEnabled(false);
+        layout->addWidget(row.ok);
+        connect(row.ok, &QPushButton::clicked, this, [this, name = effect.name] { send(m_rows[name]); });
     }
     layout->addStretch();
     m_layout->addWidget(row.box);
     return row;
 }
 
-void EffectPanel::send(const Row& row) {
+QSpinBox* EffectPanel::makeNumber(const ImageEffect& effect, const EffectNumber& number, QWidget* parent) {
+    auto* spin = new QSpinBox(parent);
+    spin->setObjectName(effect.name % QLatin1Char('.') % number.name);
+    spin->setRange(number.lowest, number.highest);
+    spin->setSingleStep(number.step);
+    spin->setKeyboardTracking(effect.needsOk);
+    spin->setFocusPolicy(Qt::StrongFocus);
+    spin->installEventFilter(this);
+    connect(spin, QOverload<int>::of(&QSpinBox::valueChanged), this, [this, &effect] {
+        const Row& row = m_rows[effect.name];
+        if (row.ok != nullptr) {
+            row.ok->setEnabled(typed(row) != row.values);
+        } else {
+            send(row);
+        }
+    });
+    return spin;
+}
+
+/// A number that is typed need not lie on a step.
+QVector<int> EffectPanel::typed(const Row& row) {
     QVector<int> values;
     for (int i = 0; i < row.numbers.size(); ++i) {
-        // A number that is typed need not lie on a step.
         const EffectNumber& number = row.effect->numbers[i];
-        const int typed = row.numbers[i]->value();
-        values.append(typed - (typed - number.lowest) % number.step);
-        row.numbers[i]->setValue(values.last());
+        const int value = row.numbers[i]->value();
+        values.append(value - (value - number.lowest) % number.step);
+    }
+    return values;
+}
+
+void EffectPanel::send(const Row& row) {
+    const QVector<int> values = typed(row);
+    for (int i = 0; i < values.size(); ++i) {
+        row.numbers[i]->setValue(values[i]);
+    }
+    if (row.ok != nullptr) {
+        row.ok->setEnabled(false);
     }
     Q_EMIT changed(row.effect->name, values);
 }

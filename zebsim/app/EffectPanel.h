@@ -7,8 +7,10 @@
 
 class Camera;
 class QCheckBox;
+class QPushButton;
 class QSpinBox;
 class QVBoxLayout;
+struct EffectNumber;
 struct ImageEffect;
 
 /// The image plug-ins of a camera, each with its switch and its numbers; of one that needs it the numbers go out by its
@@ -19,8 +21,11 @@ class EffectPanel : public QScrollArea {
 public:
     explicit EffectPanel(QWidget* parent);
 
-    /// Shows what the camera has now. What is typed and waits for its OK stays.
-    void follow(const Camera& camera);
+    /// Shows what the camera has now. What is typed and waits for its OK stays. `isBlocked`: nothing can be changed.
+    void follow(const Camera& camera, bool isBlocked);
+
+    /// Escape takes back what is typed, and the wheel turns only a number that has the keyboard.
+    bool eventFilter(QObject* object, QEvent* event) override;
 
 Q_SIGNALS:
     void switched(const QString& plugin, bool on);
@@ -32,6 +37,8 @@ private:
         const ImageEffect* effect = nullptr;
         QWidget* box = nullptr;
         QCheckBox* on = nullptr;
+        /// Null where numbers take effect at once.
+        QPushButton* ok = nullptr;
         QVector<QSpinBox*> numbers;
         /// As they were last told.
         QVector<int> values;
@@ -40,6 +47,8 @@ private:
     static void showValues(const Row& row, bool isOpen);
     void build(const QStringList& plugins);
     Row makeRow(const ImageEffect& effect);
+    QSpinBox* makeNumber(const ImageEffect& effect, const EffectNumber& number, QWidget* parent);
+    static QVector<int> typed(const Row& row);
     void send(const Row& row);
 
     QVBoxLayout* m_layout;

@@ -44,7 +44,8 @@ struct CameraModel {
     int presets = 0;
     bool presetReboots = false;
     int bootTime = 0;
-    /// How far a pixel strays from what it should be, in levels of 255, and how many stand at full brightness.
+    /// How far one pixel in eight strays from what it should be, in levels of 255, and how many pixels stand at full
+    /// brightness.
     int grain = 0;
     int hotPixels = 0;
     /// How long the camera waits for CTS before it is ready, in milliseconds; 0 when it does not.

@@ -97,9 +97,7 @@ QImage drawScene(const CameraFrame& frame, const QSize& size) {
 }  // namespace
 
 QImage drawFrame(const CameraFrame& frame, const QSize& size) {
-    const bool seesNeighbours = std::any_of(frame.effects.begin(), frame.effects.end(),
-                                            [](const auto& effect) { return effect.first->seesNeighbours; });
-    QImage picture = drawScene(frame, seesNeighbours ? frame.resolution : size);
+    QImage picture = drawScene(frame, seesNeighbours(frame.effects) ? frame.resolution : size);
     if (picture.isNull()) {
         return picture;
     }

@@ -177,6 +177,10 @@ QVariantMap ImageEffect::plain(const QVector<int>& values) const {
     return members;
 }
 
+bool seesNeighbours(const FrameEffects& effects) {
+    return std::any_of(effects.begin(), effects.end(), [](const auto& effect) { return effect.first->seesNeighbours; });
+}
+
 FrameEffects effectsOf(const CameraState& state, int mode) {
     FrameEffects effects;
     if (!state.effectivePlugins.isEmpty()) {

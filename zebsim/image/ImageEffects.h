@@ -53,6 +53,9 @@ const ImageEffect* findImageEffect(const QString& name);
 /// Effects with their values, as they work on a picture.
 using FrameEffects = QVector<QPair<const ImageEffect*, QVector<int>>>;
 
+/// Whether a picture with them must be drawn at the camera's resolution.
+bool seesNeighbours(const FrameEffects& effects);
+
 /// Those that work on the camera's images in a `zeb::OperatingMode`.
 FrameEffects effectsOf(const CameraState& state, int mode);
 

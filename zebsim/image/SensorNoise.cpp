@@ -9,6 +9,7 @@
 #include <map>
 #include <mutex>
 #include <random>
+#include <vector>
 
 namespace {
 
@@ -17,16 +18,28 @@ constexpr int Block = 1024;
 constexpr int Places = 256;
 constexpr unsigned int Seed = 20;
 
-/// Numbers from 0 to `grain`; the byte beside the colours stays as it is.
+/// Numbers up to `grain`, alike for the three colours, at some places; the byte beside the colours stays as it is.
+cv::Mat makeNoise(int grain) {
+    constexpr int OneIn = 16;
+    const cv::Size size(Block + Places, Block + Places);
+    cv::RNG random(Seed);
+    cv::Mat chance(size, CV_8UC1);
+    cv::Mat level(size, CV_8UC1);
+    random.fill(chance, cv::RNG::UNIFORM, 0, OneIn);
+    random.fill(level, cv::RNG::UNIFORM, 1, grain + 1);
+    level.setTo(0, chance);
+    cv::Mat noise;
+    cv::merge(std::vector<cv::Mat>{level, level, level, cv::Mat::zeros(size, CV_8UC1)}, noise);
+    return noise;
+}
+
 cv::Mat noiseOf(int grain) {
     static std::mutex mutex;
     static std::map<int, cv::Mat> made;
     const std::lock_guard lock(mutex);
     cv::Mat& noise = made[grain];
     if (noise.empty()) {
-        noise.create(Block + Places, Block + Places, CV_8UC4);
-        cv::RNG(Seed).fill(noise, cv::RNG::UNIFORM, cv::Scalar(0, 0, 0, 0),
-                           cv::Scalar(grain + 1, grain + 1, grain + 1, 1));
+        noise = makeNoise(grain);
     }
     return noise;
 }

@@ -6,7 +6,7 @@ class Camera;
 
 /// What a sensor adds to what it sees.
 struct SensorNoise {
-    /// How far a pixel strays from what it should be, in levels of 255.
+    /// How far one pixel in eight strays from what it should be, in levels of 255.
     int grain = 0;
     /// Pixels that stand at full brightness, always the same ones.
     int hotPixels = 0;
