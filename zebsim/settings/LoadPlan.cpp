@@ -50,7 +50,7 @@ public:
         for (const PlanCamera& camera : m_cameras) {
             const HeadSettings* asked = find(m_file, camera.address, camera.head);
             if (asked != nullptr || (camera.state.connected && !camera.isGone)) {
-                plan.cameras.append(asked != nullptr ? planCamera(camera, *asked) : notInFile(camera));
+                plan.cameras.append(asked != nullptr ? planCamera(camera, *asked) : planFollower(camera));
             }
         }
         for (const HeadSettings& head : m_file) {
@@ -70,10 +70,26 @@ private:
         return found == heads.end() ? nullptr : &*found;
     }
 
-    static CameraPlan notInFile(const PlanCamera& camera) {
+    /// A head that is not in the file has what another makes of settings that they share.
+    CameraPlan planFollower(const PlanCamera& camera) const {
         CameraPlan plan;
         plan.camera = camera;
         plan.left = CameraPlan::NotInFile;
+        const QVariantMap present = camera.state.toPlain(CameraState::settings());
+        for (const PlanCamera& other : m_cameras) {
+            const HeadSettings* asked = find(m_file, other.address, other.head);
+            if (other.address != camera.address || asked == nullptr) {
+                continue;
+            }
+            for (const SettingPlan& setting : planCamera(other, *asked).settings) {
+                const QVariant from = present.value(setting.name);
+                if (camera.model->isShared(setting.name) && setting.isChange() && setting.to != from) {
+                    plan.settings.append({setting.name, from, {}, setting.to});
+                    plan.expected.insert(setting.name, setting.to);
+                }
+            }
+        }
+        fitShutter(plan);
         return plan;
     }
 
