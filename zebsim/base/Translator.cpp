@@ -1,6 +1,7 @@
 #include "Translator.h"
 
 #include <QCoreApplication>
+#include <QLibraryInfo>
 
 QStringList Translator::languages() {
     return QStringLiteral(LANGUAGES).split(QLatin1Char(','));
@@ -13,6 +14,10 @@ bool Translator::load(const QString& language) {
     }
     // One that is deleted takes itself out of the application.
     m_catalogue = std::move(catalogue);
+    m_ofQt = std::make_unique<QTranslator>();
+    if (m_ofQt->load(QStringLiteral("qtbase_") % language, QLibraryInfo::location(QLibraryInfo::TranslationsPath))) {
+        QCoreApplication::installTranslator(m_ofQt.get());
+    }
     return QCoreApplication::installTranslator(m_catalogue.get());
 }
 

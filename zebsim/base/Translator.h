@@ -19,4 +19,6 @@ public:
 
 private:
     std::unique_ptr<QTranslator> m_catalogue;
+    /// Of Qt's own dialogs; it may be missing.
+    std::unique_ptr<QTranslator> m_ofQt;
 };
