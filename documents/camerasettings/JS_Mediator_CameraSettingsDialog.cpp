@@ -6,7 +6,7 @@
 #include "DOC_Control.h"
 #include "DOC_Interface.h"
 #include "DocumentGuard.h"
-#include "FileNames.h"
+#include "FileNameRules.h"
 #include "LogFailure.h"
 #include "NamedFailure.h"
 #include "OverActiveWindow.h"

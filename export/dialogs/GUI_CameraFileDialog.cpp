@@ -5,7 +5,7 @@
 #include "DOC_Interface.h"
 #include "DocumentGuard.h"
 #include "FailureText.h"
-#include "FileNames.h"
+#include "FileNameRules.h"
 #include "LogFailure.h"
 #include "NamedFailure.h"
 #include "SettingsFolder.h"

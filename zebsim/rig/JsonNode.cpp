@@ -1,7 +1,7 @@
 #include "JsonNode.h"
 
 #include "JsonError.h"
-#include "JsonText.h"
+#include "JsonParser.h"
 #include "WholeFile.h"
 
 #include <QFile>
@@ -67,8 +67,8 @@ JsonNode JsonNode::fromText(const QString& file, const QByteArray& text) {
         refuse(file, QStringLiteral("it is larger than %1 MiB").arg(MostBytes >> 20));
     }
     try {
-        return {file, {}, std::make_shared<const JsonValue>(readJsonText(text))};
-    } catch (const JsonTextError& error) {
+        return {file, {}, std::make_shared<const JsonValue>(parseJson(text))};
+    } catch (const JsonParseError& error) {
         throw JsonError(QStringLiteral("%1: line %2: %3").arg(file, QString::number(error.line), error.reason));
     }
 }

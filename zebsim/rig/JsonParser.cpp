@@ -1,4 +1,4 @@
-#include "JsonText.h"
+#include "JsonParser.h"
 
 #include <QSet>
 
@@ -150,10 +150,10 @@ const JsonValue* JsonValue::member(const QString& wanted) const {
     return kind == Object && found != children.end() ? &*found : nullptr;
 }
 
-JsonValue readJsonText(const QByteArray& text) {
+JsonValue parseJson(const QByteArray& text) {
     // Those of other encodings have one too.
     if (text.contains('\0') || text.startsWith("\xFF\xFE") || text.startsWith("\xFE\xFF")) {
-        throw JsonTextError{1, QStringLiteral("it is no text in UTF-8")};
+        throw JsonParseError{1, QStringLiteral("it is no text in UTF-8")};
     }
     const std::size_t skipped = text.startsWith(ByteOrderMark) ? std::size_t(ByteOrderMark.size()) : 0;
     rapidjson::MemoryStream stream(text.constData(), std::size_t(text.size()));
@@ -166,7 +166,7 @@ JsonValue readJsonText(const QByteArray& text) {
     const rapidjson::ParseResult result = reader.Parse<flags>(stream, builder);
     if (result.IsError()) {
         const QString reason = builder.reason.isEmpty() ? reasonOf(result.Code()) : builder.reason;
-        throw JsonTextError{lines.at(result.Offset()), reason};
+        throw JsonParseError{lines.at(result.Offset()), reason};
     }
     return std::move(builder.root);
 }

@@ -1,4 +1,4 @@
-#include "FileNames.h"
+#include "FileNameRules.h"
 
 #include <QRegularExpression>
 

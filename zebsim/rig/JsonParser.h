@@ -25,11 +25,11 @@ struct JsonValue {
 };
 
 /// A text that is no JSON, or too much of it.
-struct JsonTextError {
+struct JsonParseError {
     int line = 1;
     QString reason;
 };
 
-/// Reads a text in UTF-8, with a byte order mark or without. Throws `JsonTextError`, also for a member that stands
+/// Reads a text in UTF-8, with a byte order mark or without. Throws `JsonParseError`, also for a member that stands
 /// twice, at more than 64 levels and at more than a million values. Any thread.
-JsonValue readJsonText(const QByteArray& text);
+JsonValue parseJson(const QByteArray& text);
