@@ -8,8 +8,8 @@
 #include "DocumentGuard.h"
 #include "FileNameRules.h"
 #include "LogFailure.h"
+#include "ModalRun.h"
 #include "NamedFailure.h"
-#include "OverActiveWindow.h"
 #include "SettingsFolder.h"
 #include "TextKey.h"
 #include "WorkerCall.h"
@@ -24,7 +24,6 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QLocale>
-#include <QPointer>
 #include <QWebView>
 
 namespace {
@@ -60,16 +59,6 @@ QVariantMap presetEntry(DOC_Interface& doc) {
             {QStringLiteral("devicename"), camera.getDeviceName(1)},
             {QStringLiteral("presets"), presets},
             {QStringLiteral("selNone"), info.current < 1 || info.current > info.count}};
-}
-
-/// What is chosen in `dialog`, which may go with its parent; empty when nothing is.
-QString chosenBy(QFileDialog* dialog) {
-    const QPointer<QFileDialog> standing(dialog);
-    const OverActiveWindow over(*dialog);
-    const bool accepted = dialog->exec() == QDialog::Accepted;
-    const QString path = accepted && standing ? standing->selectedFiles().value(0) : QString();
-    delete standing;
-    return path;
 }
 
 }  // namespace
@@ -158,7 +147,7 @@ bool JS_Mediator_CameraSettingsDialog::openFile() {
         const QString filter = QStringLiteral("*.") % m_fileTypes.join(QStringLiteral("\n*."));
         auto* dialog = new QFileDialog(view(), host().translate(TextKey("Select folder")), m_folder, filter);
         dialog->setFileMode(QFileDialog::ExistingFile);
-        const QString path = chosenBy(dialog);
+        const QString path = chosenFile(dialog);
         m_fileName = path.isEmpty() ? m_fileName : path;
         return !path.isEmpty();
     });
@@ -169,7 +158,7 @@ bool JS_Mediator_CameraSettingsDialog::openFolder() {
         auto* dialog = new QFileDialog(view(), host().translate(TextKey("Select folder")), m_folder);
         dialog->setFileMode(QFileDialog::Directory);
         dialog->setOption(QFileDialog::ShowDirsOnly);
-        const QString path = chosenBy(dialog);
+        const QString path = chosenFile(dialog);
         if (!path.isEmpty()) {
             m_folder = path;
             rememberSettingsFolder(host(), m_folder);

@@ -1,11 +1,10 @@
 #include "CustomInfoPath.h"
 
-#include "OverActiveWindow.h"
+#include "ModalRun.h"
 #include "ZebHost.h"
 
 #include <QFileDialog>
 #include <QFileInfo>
-#include <QPointer>
 
 namespace {
 
@@ -19,18 +18,11 @@ QString keptFolder(const ZebHost& host) {
 
 QString choose(ZebHost& host, QWidget* parent, const QString& filter, QFileDialog::AcceptMode mode) {
     // Qt's own functions for this have the dialog on the stack, where it must not go with its parent.
-    const QPointer<QFileDialog> dialog(new QFileDialog(parent, {}, keptFolder(host), filter));
+    auto* dialog = new QFileDialog(parent, {}, keptFolder(host), filter);
     dialog->setAcceptMode(mode);
     dialog->setFileMode(mode == QFileDialog::AcceptSave ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
     dialog->setOption(QFileDialog::DontConfirmOverwrite);
-    QString path;
-    {
-        const OverActiveWindow over(*dialog);
-        if (dialog->exec() == QDialog::Accepted && dialog) {
-            path = dialog->selectedFiles().value(0);
-        }
-        delete dialog;
-    }
+    const QString path = chosenFile(dialog);
     if (!path.isEmpty()) {
         host.setPrefString(FolderPref, QFileInfo(path).path());
     }

@@ -5,7 +5,7 @@
 #include "GUI_CameraFileDialog.h"
 #include "GUI_CameraSettingsDialog.h"
 #include "GatheredFailures.h"
-#include "OverActiveWindow.h"
+#include "ModalRun.h"
 #include "RecordingStatus.h"
 #include "SettingsFolder.h"
 #include "TableState.h"
@@ -15,21 +15,7 @@
 #include "ZebDocManager.h"
 #include "ZebHost.h"
 
-#include <QPointer>
 #include <QScopedValueRollback>
-
-namespace {
-
-/// Whether the user has accepted it; false also when it went with its parent.
-bool isAccepted(QDialog* dialog) {
-    const QPointer<QDialog> standing(dialog);
-    const OverActiveWindow over(*dialog);
-    const bool accepted = dialog->exec() == QDialog::Accepted && standing;
-    delete standing;
-    return accepted;
-}
-
-}  // namespace
 
 void SettingsFiles::load() {
     QScopedValueRollback<bool> loading(m_state.loadingRigx, true);
@@ -42,8 +28,8 @@ void SettingsFiles::load() {
     const DocKeyList before = m_host.docManager().getConnectedDocKeys(1);
     m_host.clearPrefsRestored(0);
     const QString caption = m_host.translate(TextKey("Device Open"));
-    const bool accepted =
-        isAccepted(new GUI_CameraFileDialog(&m_host, m_host.getMainWindow(), caption, settingsFolder(m_host)));
+    auto* dialog = new GUI_CameraFileDialog(&m_host, m_host.getMainWindow(), caption, settingsFolder(m_host));
+    const bool accepted = ModalRun(dialog).exec() == QDialog::Accepted;
     if (!accepted) {
         m_state.loadingRigx = false;
     }
@@ -67,5 +53,5 @@ void SettingsFiles::save() {
     if (m_host.cameraOps().hasLowLightCamera()) {
         throw APP_Exception(TextKey("The setting can not be saved because low light ON camera is included."));
     }
-    isAccepted(new GUI_CameraSettingsDialog(&m_host, settingsFolder(m_host), m_host.getMainWindow()));
+    ModalRun(new GUI_CameraSettingsDialog(&m_host, settingsFolder(m_host), m_host.getMainWindow())).exec();
 }

@@ -1,13 +1,13 @@
 #include "GUI_WrenDefaultSettingsDialog.h"
 
 #include "JS_Mediator_WrenDefaultSettingsDialog.h"
+#include "ModalRun.h"
 #include "SettingsKeys.h"
 #include "TextKey.h"
 #include "ZebAppStatus.h"
 #include "ZebHost.h"
 
 #include <QGuiApplication>
-#include <QPointer>
 #include <QScreen>
 
 #include <algorithm>
@@ -36,11 +36,8 @@ bool GUI_WrenDefaultSettingsDialog::run(ZebHost& host, QWidget* parent) {
     if (host.isFileMode()) {
         return false;
     }
-    const QPointer<GUI_WrenDefaultSettingsDialog> dialog(
-        new GUI_WrenDefaultSettingsDialog(&host, parent ? parent : host.getMainWindow()));
-    const int result = dialog->exec();
-    const bool accepted = dialog && result == QDialog::Accepted;
-    delete dialog;
+    auto* dialog = new GUI_WrenDefaultSettingsDialog(&host, parent ? parent : host.getMainWindow());
+    const bool accepted = ModalRun(dialog).exec() == QDialog::Accepted;
     if (!accepted || host.appStatus().getPlugin(QStringLiteral("wren")) == nullptr) {
         return false;
     }

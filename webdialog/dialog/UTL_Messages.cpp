@@ -1,8 +1,8 @@
 #include "UTL_Messages.h"
 
 #include "BoxText.h"
+#include "ModalRun.h"
 #include "NoHastyPress.h"
-#include "OverActiveWindow.h"
 #include "PlainText.h"
 #include "Style.h"
 #include "TextKey.h"
@@ -13,7 +13,6 @@
 #include <QApplication>
 #include <QDebug>
 #include <QMessageBox>
-#include <QPointer>
 #include <QPushButton>
 
 namespace {
@@ -73,19 +72,17 @@ QMessageBox* makeWarning(const QString& text, const ZebHost& host, QWidget* pare
 bool UTL_Messages::warnOkCancel(const QString& text, ZebHost& host, QWidget* parent, const ButtonTexts& buttonTexts) {
     const QString shown = translated(text);
     const TraceScope trace(QStringLiteral("UTL_Messages::warnOkCancel"), {{"text", shown}});
-    // The box goes with its parent, which may be destroyed while it stands.
-    const QPointer<QMessageBox> box = makeWarning(shown, host, parent ? parent : host.getMainWindow(), buttonTexts);
+    QMessageBox* box = makeWarning(shown, host, parent ? parent : host.getMainWindow(), buttonTexts);
     const bool suspended = host.isViewerRunning();
     if (suspended) {
         host.suspendViewer();
     }
     int result = QMessageBox::Cancel;
     {
-        const OverActiveWindow over(*box);
+        ModalRun run(box);
         box->show();
         centerWithoutMainWindow(host, *box);
-        result = box->exec();
-        delete box;
+        result = run.exec();
     }
     if (suspended) {
         host.resumeViewer();

@@ -2,8 +2,8 @@
 
 #include "BoxText.h"
 #include "HostCalls.h"
+#include "ModalRun.h"
 #include "NoHastyPress.h"
-#include "OverActiveWindow.h"
 #include "Style.h"
 #include "TextKey.h"
 #include "ZebHost.h"
@@ -12,7 +12,6 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QMessageBox>
-#include <QPointer>
 #include <QScreen>
 #include <QWindow>
 
@@ -126,20 +125,16 @@ Answer MessageBoxes::show(const Message& message) {
         m_held << message;
         return {};
     }
-    // The box goes with its parent, which may be destroyed while it stands.
-    const QPointer<QMessageBox> box = makeBox(message);
-    const OverActiveWindow over(*box);
-    box->exec();
-    if (box.isNull()) {
+    QMessageBox* box = makeBox(message);
+    ModalRun run(box);
+    run.exec();
+    if (run.isGone()) {
         return {false};
     }
     QAbstractButton* chosen = box->clickedButton();
     const QMessageBox::ButtonRole role = chosen ? box->buttonRole(chosen) : QMessageBox::RejectRole;
-    const Answer answer{role == QMessageBox::AcceptRole || role == QMessageBox::YesRole,
-                        box->checkBox() != nullptr && box->checkBox()->isChecked(),
-                        chosen ? box->standardButton(chosen) : 0};
-    delete box;
-    return answer;
+    return {role == QMessageBox::AcceptRole || role == QMessageBox::YesRole,
+            box->checkBox() != nullptr && box->checkBox()->isChecked(), chosen ? box->standardButton(chosen) : 0};
 }
 
 void MessageBoxes::notify(const Message& message) {
