@@ -57,19 +57,23 @@ TEST(LoadPlan, TellsForEachSettingWhatBecomesOfIt) {
     }
 }
 
+/// Half of them are not in the file.
 TEST(LoadPlan, OfManyCamerasIsShort) {
     QList<PlanCamera> many;
     QList<HeadSettings> settings;
-    for (int i = 0; i < 64; ++i) {
-        const QVariantMap row{{"model", "standard"}, {"state", QVariantMap{{"locked", i > 60}}}};
-        many.append(camera(QString("C%1").arg(i), QString("10.0.1.%1").arg(i), 1, row));
-        settings.append({many.last().address, 1, {{"rate", 500U}, {"irig", false}}});
+    for (int i = 0; i < 1024; ++i) {
+        const QVariantMap row{{"model", "standard"}, {"state", QVariantMap{{"locked", i > 1018}}}};
+        many.append(camera(QString("C%1").arg(i), QString("10.0.%1.%2").arg(i / 256).arg(i % 256), 1, row));
+        if (i % 2 == 0) {
+            settings.append({many.last().address, 1, {{"rate", 500U}, {"irig", false}}});
+        }
     }
     const LoadPlan plan = planLoad(settings, many);
-    EXPECT_EQ(preview(plan), (QStringList{"C61, C62, C63: it is locked, and stays as it is",
-                                          "C0, C1, C2 and 58 more: Frame rate 1000 fps → 500 fps"}));
-    EXPECT_EQ(plan.changes(), 61);
-    EXPECT_EQ(plan.equal(), 61);
+    EXPECT_TRUE(preview(plan).first().endsWith(", C1021, C1023: it is not in the file")) << "each is named";
+    EXPECT_EQ(preview(plan).mid(1), (QStringList{"C1020, C1022: it is locked, and stays as it is",
+                                                 "C0, C2, C4 and 507 more: Frame rate 1000 fps → 500 fps"}));
+    EXPECT_EQ(plan.changes(), 510);
+    EXPECT_EQ(plan.equal(), 510);
 }
 
 }  // namespace

@@ -2,6 +2,9 @@
 
 #include "OfferedSetting.h"
 
+#include <QHash>
+#include <QPair>
+
 #include <algorithm>
 #include <numeric>
 
@@ -43,18 +46,25 @@ CameraPlan::Left leftOf(const PlanCamera& camera) {
 /// Plans the cameras one after the other; knows the other heads of their devices.
 class Planner {
 public:
-    Planner(const QList<HeadSettings>& file, const QList<PlanCamera>& cameras) : m_file(file), m_cameras(cameras) {}
+    Planner(const QList<HeadSettings>& file, const QList<PlanCamera>& cameras) : m_file(file), m_cameras(cameras) {
+        for (const HeadSettings& head : file) {
+            m_asked.insert({head.address, head.head}, &head);
+        }
+        for (const PlanCamera& camera : cameras) {
+            m_devices[camera.address].append(&camera);
+        }
+    }
 
     LoadPlan plan() const {
         LoadPlan plan;
         for (const PlanCamera& camera : m_cameras) {
-            const HeadSettings* asked = find(m_file, camera.address, camera.head);
+            const HeadSettings* asked = askedOf(camera);
             if (asked != nullptr || (camera.state.connected && !camera.isGone)) {
                 plan.cameras.append(asked != nullptr ? planCamera(camera, *asked) : planFollower(camera));
             }
         }
         for (const HeadSettings& head : m_file) {
-            if (find(m_cameras, head.address, head.head) == nullptr) {
+            if (!isThere(head)) {
                 plan.absent.append(head.head == 1 ? head.address
                                                   : QStringLiteral("%1-%2").arg(head.address).arg(head.head));
             }
@@ -63,11 +73,13 @@ public:
     }
 
 private:
-    template <typename T>
-    static const T* find(const QList<T>& heads, const QString& address, int head) {
-        const auto found = std::find_if(heads.begin(), heads.end(),
-                                        [&](const T& each) { return each.address == address && each.head == head; });
-        return found == heads.end() ? nullptr : &*found;
+    /// What the file has for it, or null.
+    const HeadSettings* askedOf(const PlanCamera& camera) const { return m_asked.value({camera.address, camera.head}); }
+
+    bool isThere(const HeadSettings& head) const {
+        const QList<const PlanCamera*> heads = m_devices.value(head.address);
+        return std::any_of(heads.begin(), heads.end(),
+                           [&head](const PlanCamera* camera) { return camera->head == head.head; });
     }
 
     /// A head that is not in the file has what another makes of settings that they share.
@@ -76,12 +88,12 @@ private:
         plan.camera = camera;
         plan.left = CameraPlan::NotInFile;
         const QVariantMap present = camera.state.toPlain(CameraState::settings());
-        for (const PlanCamera& other : m_cameras) {
-            const HeadSettings* asked = find(m_file, other.address, other.head);
-            if (other.address != camera.address || asked == nullptr) {
+        for (const PlanCamera* other : m_devices.value(camera.address)) {
+            const HeadSettings* asked = askedOf(*other);
+            if (asked == nullptr) {
                 continue;
             }
-            for (const SettingPlan& setting : planCamera(other, *asked).settings) {
+            for (const SettingPlan& setting : planCamera(*other, *asked).settings) {
                 const QVariant from = present.value(setting.name);
                 if (camera.model->isShared(setting.name) && setting.isChange() && setting.to != from) {
                     plan.settings.append({setting.name, from, {}, setting.to});
@@ -136,15 +148,15 @@ private:
     }
 
     SettingPlan::Why whyNotShared(const PlanCamera& camera, const QString& name, const QVariant& asked) const {
-        for (const PlanCamera& other : m_cameras) {
-            if (other.address != camera.address || other.head == camera.head) {
+        for (const PlanCamera* other : m_devices.value(camera.address)) {
+            if (other->head == camera.head) {
                 continue;
             }
-            const CameraPlan::Left left = leftOf(other);
+            const CameraPlan::Left left = leftOf(*other);
             if (left == CameraPlan::Locked || left == CameraPlan::Armed || left == CameraPlan::Recording) {
                 return SettingPlan::OtherHeadIsLeft;
             }
-            const HeadSettings* settings = find(m_file, other.address, other.head);
+            const HeadSettings* settings = askedOf(*other);
             if (settings != nullptr && settings->settings.value(name, asked) != asked) {
                 return SettingPlan::HeadsDiffer;
             }
@@ -195,6 +207,10 @@ private:
 
     const QList<HeadSettings>& m_file;
     const QList<PlanCamera>& m_cameras;
+    /// By address and number of the head.
+    QHash<QPair<QString, int>, const HeadSettings*> m_asked;
+    /// Heads by the address of their device.
+    QHash<QString, QList<const PlanCamera*>> m_devices;
 };
 
 }  // namespace
