@@ -110,6 +110,9 @@ TEST_F(RecordingTest, KeepsOfASharePreciselyThatShare) {
     zeb::TriggerSettings settings;
     settings.manualBeforePercent = 25;
     test.camera(3).setTriggerMode(zeb::TriggerManual, settings);
+    settings.manualBeforePercent = 0.1F;
+    test.camera(1).setTriggerMode(zeb::TriggerManual, settings);
+    EXPECT_EQ(test.camera(1).get(&CameraState::triggerFrame), 8184) << "of 8192, but for a thousandth";
     test.camera(2).set(&CameraState::recordArea, {0, 99});
     host.recorder().startRecReady();
     pass(100000);

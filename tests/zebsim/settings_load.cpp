@@ -142,12 +142,15 @@ TEST_F(SettingsLoad, OfFewerCamerasOrOtherOnes) {
     EXPECT_EQ(load().first(), "No setting of \"x.rigx\" can be loaded.");
 }
 
-/// The file knows the rate of one, and the shutter of the other.
+/// The file knows the rate of one, and the shutter of the other, in whose memory there are fewer frames.
 TEST_F(SettingsLoad, ReadsBackTheHeadsThatAnotherHasChanged) {
+    test.camera(4).change({{"partitions", 3}});
     write(path, R"({"format": 1, "cameras": [{"address": "192.168.0.13", "heads": [
-        {"head": 1, "settings": {"rate": 2000, "shutter": 2000}}, {"head": 2, "settings": {"shutter": 500}}]}]})");
+        {"head": 1, "settings": {"rate": 2000, "shutter": 2000, "triggerFrame": 7}}, {"head": 2, "settings": {"shutter": 500}}]}]})");
     const QStringList lines = load();
     EXPECT_EQ(lines.last(), "Nozzle right: Shutter speed: 1/500 s asked, 1/2000 s taken");
+    EXPECT_EQ(settings()[2]["triggerFrame"], 7);
+    EXPECT_EQ(settings()[3]["triggerFrame"], 7);
 }
 
 }  // namespace

@@ -86,7 +86,9 @@ public:
     /// n of 1/n second; exposures longer than a frame lasts become the longest that fits.
     void setShutterSpeed(int speed);
     void setResolution(const QSize& resolution);
-    void setTriggerMode(int mode, const zeb::TriggerSettings& settings);
+    /// With `triggerFrame` so many frames of the memory are kept for what comes from a manual trigger on, whatever the
+    /// share in `settings`: on this head, and on those that share it.
+    void setTriggerMode(int mode, const zeb::TriggerSettings& settings, std::optional<int> triggerFrame = std::nullopt);
     void setRandomTriggerPhase(bool counted);
     void setReduceMode(bool on);
     void synchronise(const SyncSource& source);

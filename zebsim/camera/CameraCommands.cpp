@@ -101,21 +101,25 @@ void Camera::setResolution(const QSize& resolution) {
     }
 }
 
-void Camera::setTriggerMode(int mode, const zeb::TriggerSettings& settings) {
+void Camera::setTriggerMode(int mode, const zeb::TriggerSettings& settings, std::optional<int> triggerFrame) {
     if (!commandConnected(OPERATION("setTriggerMode"))) {
         return;
     }
     if (!model().triggerModes.contains(mode)) {
         refuse(QStringLiteral("the trigger mode is not supported"));
     }
+    onAllHeads(&CameraState::triggerMode, mode);
+    onAllHeads(&CameraState::randomFrames, settings.randomFrames);
+    onAllHeads(&CameraState::randomTimes, settings.randomTimes);
+    const double asked = settings.manualBeforePercent;
+    const double before = std::isfinite(asked) ? std::clamp(asked, 0.0, 100.0) : 0.0;
     for (const auto& head : m_device.heads()) {
-        const double asked = settings.manualBeforePercent;
-        const double before = std::isfinite(asked) ? std::clamp(asked, 0.0, 100.0) : 0.0;
-        const unsigned int capacity = model().frameCapacity(head->state());
-        head->set(&CameraState::triggerMode, mode);
-        head->set(&CameraState::triggerFrame, int(capacity * (100.0 - before) / 100.0));
-        head->set(&CameraState::randomFrames, settings.randomFrames);
-        head->set(&CameraState::randomTimes, settings.randomTimes);
+        if (!triggerFrame) {
+            const unsigned int capacity = model().frameCapacity(head->state());
+            head->set(&CameraState::triggerFrame, int(std::lround(capacity * (100.0 - before) / 100.0)));
+        } else if (head.get() == this || model().isShared(QStringLiteral("triggerFrame"))) {
+            head->set(&CameraState::triggerFrame, *triggerFrame);
+        }
     }
 }
 

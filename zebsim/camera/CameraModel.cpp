@@ -40,8 +40,10 @@ bool CameraModel::isShared(const QString& setting) const {
     static const QStringList always{QStringLiteral("rate"), QStringLiteral("triggerMode"),
                                     QStringLiteral("randomFrames"), QStringLiteral("randomTimes"),
                                     QStringLiteral("randomCounted")};
+    // Heads of one resolution hold as many frames.
+    static const QStringList ofResolution{QStringLiteral("resolution"), QStringLiteral("triggerFrame")};
     return always.contains(setting) || (sharesShutter && setting == QLatin1String("shutter")) ||
-           (sharesResolution && setting == QLatin1String("resolution"));
+           (sharesResolution && ofResolution.contains(setting));
 }
 
 void CameraModel::check(const CameraState& state) const {

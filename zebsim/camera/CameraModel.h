@@ -33,7 +33,8 @@ struct CameraModel {
     bool syncCapable = false;
     int exposureTiming = 0;
     int exposureDelay = 0;
-    /// Whether the heads of a device share shutter speed and resolution; rate and trigger mode they always share.
+    /// Whether the heads of a device share shutter speed and resolution, with that the frames from a manual trigger on;
+    /// rate and trigger mode they always share.
     bool sharesShutter = false;
     bool sharesResolution = false;
     /// Commands that a camera in low light mode refuses, named as in `FaultPlan`.

@@ -17,12 +17,10 @@ struct Step {
 };
 
 void setTrigger(Camera& camera, const CameraState& wanted) {
-    const double capacity = camera.model().frameCapacity(camera.state());
     zeb::TriggerSettings settings;
-    settings.manualBeforePercent = capacity > 0 ? 100.0 - 100.0 * wanted.triggerFrame / capacity : 0;
     settings.randomFrames = wanted.randomFrames;
     settings.randomTimes = wanted.randomTimes;
-    camera.setTriggerMode(wanted.triggerMode, settings);
+    camera.setTriggerMode(wanted.triggerMode, settings, wanted.triggerFrame);
 }
 
 void setPorts(Camera& camera, const CameraState& wanted) {
@@ -47,7 +45,8 @@ const QList<Step>& steps() {
          {QStringLiteral("shutter")},
          [](Camera& camera, const CameraState& wanted) { camera.setShutterSpeed(wanted.shutter); }},
         {"setTriggerMode",
-         {QStringLiteral("triggerMode"), QStringLiteral("randomFrames"), QStringLiteral("randomTimes")},
+         {QStringLiteral("triggerMode"), QStringLiteral("triggerFrame"), QStringLiteral("randomFrames"),
+          QStringLiteral("randomTimes")},
          setTrigger},
         {"setRandomTriggerPhase",
          {QStringLiteral("randomCounted")},
