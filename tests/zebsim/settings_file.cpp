@@ -1,6 +1,7 @@
 #include "CameraState.h"
 #include "Course.h"
 #include "Files.h"
+#include "ImageEffects.h"
 #include "JsonError.h"
 #include "RigFile.h"
 #include "SettingsReader.h"
@@ -125,19 +126,36 @@ TEST(SettingsFile, TakesOfEachSettingWhatTheSchemaTakes) {
                                  "{}",
                                  R"({"1": 99})",
                                  R"({"a": 1})",
-                                 R"({"filter": {"median": "3"}})"};
-    QStringList texts;
-    QVariantList refused;
+                                 R"({"none": {}})",
+                                 R"({"filter": {}})",
+                                 R"({"filter": {"x": 1}})",
+                                 R"({"filter": {"median": "3"}})",
+                                 R"({"lut": {"gamma": 99.5}})"};
+    QList<QPair<QString, QByteArray>> rows;
     for (const QString& name : CameraState::settings()) {
         ASSERT_TRUE(good.contains(name));
         for (const QByteArray& value : values) {
-            const QByteArray text = settingsText("\n\"" + name.toLatin1() + "\": " + value);
-            const std::string told = complaint(text);
-            const std::string place = "line 2: cameras[0].heads[0].settings." + name.toStdString() + ": ";
-            EXPECT_TRUE(told.empty() || told.rfind(place, 0) == 0) << told;
-            refused += told.empty() ? QVariantList() : QVariantList{texts.size()};
-            texts << text;
+            rows.append({name, value});
         }
+    }
+    for (const ImageEffect& effect : imageEffects()) {
+        for (const EffectNumber& number : effect.numbers) {
+            for (const int value : {number.lowest - 1, number.lowest, number.lowest + 1, number.highest - 1,
+                                    number.highest, number.highest + 1}) {
+                const QString text("{\"%1\": {\"%2\": %3}}");
+                rows.append({"pluginValues", text.arg(effect.name, number.name).arg(value).toLatin1()});
+            }
+        }
+    }
+    QStringList texts;
+    QVariantList refused;
+    for (const auto& [name, value] : rows) {
+        const QByteArray text = settingsText("\n\"" + name.toLatin1() + "\": " + value);
+        const std::string told = complaint(text);
+        const std::string place = "line 2: cameras[0].heads[0].settings." + name.toStdString() + ": ";
+        EXPECT_TRUE(told.empty() || told.rfind(place, 0) == 0) << told;
+        refused += told.empty() ? QVariantList() : QVariantList{texts.size()};
+        texts << text;
     }
     const QString manual = QString::fromUtf8(contentOf(SOURCE_FOLDER "/docs/rigx.md"));
     for (const QByteArray& text :
