@@ -18,9 +18,8 @@ const definedBy = (...scripts) => readonly(scripts.reduce((names, script) => nam
 ), []));
 
 const hostScripts = 'zebsim/pages/scripts';
-// Joined into a page of the host, and into one of the plug-in.
-const bothPages = definedBy('documents/custominfo/items.js');
-const host = definedBy(...fs.readdirSync(hostScripts).map(name => path.join(hostScripts, name)));
+const host = definedBy('documents/custominfo/items.js',
+    ...fs.readdirSync(hostScripts).map(name => path.join(hostScripts, name)));
 
 // The topics of a page are joined into one script at build time.
 const joined = 'build/dev/pages';
@@ -90,8 +89,7 @@ module.exports = [
         languageOptions: {
             ecmaVersion: 2015,
             sourceType: 'script',
-            globals: Object.assign({}, browser, host, bothPages,
-                readonly(['app', 'items', 'CustomInfoDialog', 'cameraSettings']))
+            globals: Object.assign({}, browser, host, readonly(['app', 'items', 'CustomInfoDialog', 'cameraSettings']))
         },
         rules: pageRules
     },

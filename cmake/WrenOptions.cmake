@@ -72,3 +72,14 @@ function(wren_floor name)
     target_link_libraries(${name} PUBLIC ${FLOOR_LINKS})
     set_property(GLOBAL APPEND PROPERTY WREN_FLOORS ${name})
 endfunction()
+
+# Files of this folder one after the other, as the TARGET in its build folder.
+function(join_files target)
+    list(TRANSFORM ARGN PREPEND ${CMAKE_CURRENT_SOURCE_DIR}/)
+    add_custom_command(
+        OUTPUT ${target}
+        COMMAND ${CMAKE_COMMAND} -E cat ${ARGN} > ${target}
+        DEPENDS ${ARGN}
+        COMMENT "Joining ${target}"
+        VERBATIM)
+endfunction()

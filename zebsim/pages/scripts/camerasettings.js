@@ -11,10 +11,6 @@ function translate(key) {
     return cameraSettings.translate(key);
 }
 
-function byId(id) {
-    return document.getElementById(id);
-}
-
 function make(tag, text, parent) {
     const element = document.createElement(tag);
     element.textContent = text;
@@ -22,18 +18,15 @@ function make(tag, text, parent) {
     return element;
 }
 
-const camerasettings = {
+const settingsPage = Object.assign(dialogFrame(cameraSettings), {
     devices: [], // as `getPresetList` tells them
     chosen: {}, // number of a preset by the device's key, 0 for none: nothing is overwritten unless somebody wants it
 
     initialize() {
-        cameraSettings.update.connect(() => this.logged(() => this.update()));
-        zeb4func.disableDefaultShortcut();
-        zeb4func.localize(cameraSettings);
-        const onClick = (id, work) => byId(id).addEventListener('click', () => this.guarded(work));
-        onClick('choose_folder', () => this.chooseFolder());
-        onClick('ok', () => this.accept());
-        onClick('cancel', () => cameraSettings.cancel());
+        this.begin(() => this.update());
+        this.onClick('choose_folder', () => this.chooseFolder());
+        this.onClick('ok', () => this.accept());
+        this.onClick('cancel', () => cameraSettings.cancel());
         ['name', 'format'].forEach(id => byId(id).addEventListener('input', () => this.guarded(() => this.typed(id))));
         ['name_of_camera', 'own_name', 'add_time'].forEach(id =>
             byId(id).addEventListener('change', () => this.guarded(() => this.store())));
@@ -47,30 +40,8 @@ const camerasettings = {
         byId('name').focus();
     },
 
-    // An exception that left a function connected to a signal of the bridge would end the program.
-    logged(work) {
-        try {
-            work();
-        } catch (error) {
-            cameraSettings.userOperationErrorLog(this.textOf(error));
-        }
-    },
-
-    guarded(work) {
-        try {
-            work();
-        } catch (error) {
-            cameraSettings.alert(this.textOf(error));
-        }
-    },
-
-    textOf(error) {
-        return error && error.message ? error.message : String(error);
-    },
-
     update() {
-        zeb4func.applyStyle(cameraSettings);
-        document.body.classList.toggle('dark', cameraSettings.getStyle() === 'dark');
+        this.applyStyle();
         this.listPresets();
         this.showMode();
         this.showName();
@@ -246,6 +217,6 @@ const camerasettings = {
             presetList: this.devices.map(({ key }) => ({ key, value: this.chosen[key] }))
         }));
     }
-};
+});
 
-document.addEventListener('DOMContentLoaded', () => camerasettings.initialize());
+document.addEventListener('DOMContentLoaded', () => settingsPage.initialize());

@@ -8,11 +8,7 @@ function textKey(key) {
     return key;
 }
 
-function byId(id) {
-    return document.getElementById(id);
-}
-
-const custominfo = {
+const custominfo = Object.assign(dialogFrame(CustomInfoDialog), {
     records: [], // of the cameras
     shown: -1, // key of the camera whose list stands there
     items: [],
@@ -21,53 +17,24 @@ const custominfo = {
     anchor: 0, // the row from which Shift selects
 
     initialize() {
-        CustomInfoDialog.update.connect(() => this.logged(() => this.update()));
-        zeb4func.disableDefaultShortcut();
-        zeb4func.localize(CustomInfoDialog);
+        this.begin(() => this.update());
         byId('cameras').addEventListener('change', () => this.guarded(() => this.chooseCameras()));
         byId('cameras').addEventListener('keydown', event => this.cameraKey(event));
         byId('items').addEventListener('mousedown', event => this.press(event));
         byId('items').addEventListener('change', event => this.guarded(() => this.switchItem(event.target)));
         byId('items').addEventListener('keydown', event => this.key(event));
         byId('fields').addEventListener('keydown', event => this.fieldKey(event));
-        const onClick = (id, work) => byId(id).addEventListener('click', () => this.guarded(work));
-        onClick('add', () => this.add());
-        onClick('edit', () => this.edit());
-        onClick('delete', () => this.remove());
-        onClick('load', () => this.load());
-        onClick('save', () => CustomInfoDialog.save(this.items));
-        onClick('ok', () => this.accept());
-        onClick('cancel', () => CustomInfoDialog.reject());
+        this.onClick('add', () => this.add());
+        this.onClick('edit', () => this.edit());
+        this.onClick('delete', () => this.remove());
+        this.onClick('load', () => this.load());
+        this.onClick('save', () => CustomInfoDialog.save(this.items));
+        this.onClick('ok', () => this.accept());
+        this.onClick('cancel', () => CustomInfoDialog.reject());
         document.addEventListener('keydown', event => event.keyCode === 27 && CustomInfoDialog.reject());
         this.applyStyle();
         this.showCameras();
         byId('name').focus();
-    },
-
-    // An exception that left a function connected to a signal of the bridge would end the program.
-    logged(work) {
-        try {
-            work();
-        } catch (error) {
-            CustomInfoDialog.userOperationErrorLog(this.textOf(error));
-        }
-    },
-
-    guarded(work) {
-        try {
-            work();
-        } catch (error) {
-            CustomInfoDialog.alert(this.textOf(error));
-        }
-    },
-
-    textOf(error) {
-        return error && error.message ? error.message : String(error);
-    },
-
-    applyStyle() {
-        zeb4func.applyStyle(CustomInfoDialog);
-        document.body.classList.toggle('dark', CustomInfoDialog.getStyle() === 'dark');
     },
 
     // Cameras come and go, and others change their lists.
@@ -215,6 +182,6 @@ const custominfo = {
         this.selected = [];
         this.showItems();
     }
-};
+});
 
 document.addEventListener('DOMContentLoaded', () => custominfo.initialize());
