@@ -1,7 +1,7 @@
 #include "CameraView.h"
 
+#include "BackgroundRenderer.h"
 #include "FramePicture.h"
-#include "LatePicture.h"
 
 #include <QPainter>
 
@@ -18,8 +18,8 @@ bool ImagePose::operator==(const ImagePose& other) const {
            zoom == other.zoom;
 }
 
-CameraView::CameraView(QWidget* parent) : QWidget(parent), m_late(new LatePicture(this)) {
-    connect(m_late, &LatePicture::made, this, qOverload<>(&CameraView::update));
+CameraView::CameraView(QWidget* parent) : QWidget(parent), m_renderer(new BackgroundRenderer(this)) {
+    connect(m_renderer, &BackgroundRenderer::made, this, qOverload<>(&CameraView::update));
     // Windows behind need not be drawn then.
     setAttribute(Qt::WA_OpaquePaintEvent);
     setMinimumSize(1, 1);
@@ -68,10 +68,10 @@ void CameraView::paintEvent(QPaintEvent* /*event*/) {
 
 /// One that takes long is the last that was made, until the newer one is.
 QImage CameraView::picture(const QSize& size) {
-    if (!LatePicture::isFor(*m_frame)) {
+    if (!BackgroundRenderer::isFor(*m_frame)) {
         return drawFrame(*m_frame, size);
     }
-    return m_late->latest(*m_frame, size);
+    return m_renderer->latest(*m_frame, size);
 }
 
 QRect CameraView::drawImage(QPainter& painter) {

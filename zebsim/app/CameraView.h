@@ -7,7 +7,7 @@
 
 #include <optional>
 
-class LatePicture;
+class BackgroundRenderer;
 
 /// How an image stands in its window.
 struct ImagePose {
@@ -45,7 +45,7 @@ private:
     QRect drawImage(QPainter& painter);
     QImage picture(const QSize& size);
 
-    LatePicture* const m_late;
+    BackgroundRenderer* const m_renderer;
     std::optional<CameraFrame> m_frame;
     ImagePose m_pose;
     QString m_text;

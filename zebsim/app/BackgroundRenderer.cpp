@@ -1,4 +1,4 @@
-#include "LatePicture.h"
+#include "BackgroundRenderer.h"
 
 #include "FramePicture.h"
 
@@ -22,15 +22,15 @@ QThreadPool& threads() {
 
 }  // namespace
 
-LatePicture::LatePicture(QObject* parent) : QObject(parent) {
-    connect(&m_work, &QFutureWatcher<QImage>::finished, this, &LatePicture::take);
+BackgroundRenderer::BackgroundRenderer(QObject* parent) : QObject(parent) {
+    connect(&m_work, &QFutureWatcher<QImage>::finished, this, &BackgroundRenderer::take);
 }
 
-bool LatePicture::isFor(const CameraFrame& frame) {
+bool BackgroundRenderer::isFor(const CameraFrame& frame) {
     return seesNeighbours(frame.effects);
 }
 
-QImage LatePicture::latest(const CameraFrame& wanted, const QSize& size) {
+QImage BackgroundRenderer::latest(const CameraFrame& wanted, const QSize& size) {
     m_wanted = {wanted, size};
     if (!m_work.isRunning()) {
         begin();
@@ -38,7 +38,7 @@ QImage LatePicture::latest(const CameraFrame& wanted, const QSize& size) {
     return m_effects == wanted.effects ? m_latest : QImage();
 }
 
-void LatePicture::begin() {
+void BackgroundRenderer::begin() {
     if (m_begun.frame == m_wanted.frame && m_begun.size == m_wanted.size) {
         return;
     }
@@ -46,7 +46,7 @@ void LatePicture::begin() {
     m_work.setFuture(QtConcurrent::run(&threads(), drawFrame, m_begun.frame, m_begun.size));
 }
 
-void LatePicture::take() {
+void BackgroundRenderer::take() {
     m_latest = m_work.result();
     m_effects = m_begun.frame.effects;
     Q_EMIT made();

@@ -8,11 +8,11 @@
 
 /// The picture of a frame that takes too long to be drawn by the way, made on another thread: of those that are wanted
 /// one after the other the last one. GUI thread.
-class LatePicture : public QObject {
+class BackgroundRenderer : public QObject {
     Q_OBJECT
 
 public:
-    explicit LatePicture(QObject* parent);
+    explicit BackgroundRenderer(QObject* parent);
 
     /// Whether a frame is to be drawn here.
     static bool isFor(const CameraFrame& frame);
