@@ -56,10 +56,11 @@ public:
     /// Whether a selected camera is in low light mode, whether any camera is, and whether all that know the mode
     /// have it on, or off.
     virtual bool isLowlight() const = 0;
-    /// Whether a connected camera is in low light mode, so that its settings are not those it is to be kept with.
-    virtual bool hasLowLightCamera() const = 0;
     virtual bool existLowlight() const = 0;
     virtual bool isAllLowlight(bool on) const = 0;
+    /// Whether a connected camera is in low light mode, in which its settings are not those to be kept. Asks the cameras
+    /// alone, where `existLowlight` may tell a state of the host too.
+    virtual bool hasLowLightCamera() const = 0;
     virtual bool isLensCalibration() const = 0;
     /// Whether a camera saves straight to its own medium.
     virtual bool isDirectSaving(int mode) const = 0;
