@@ -205,8 +205,8 @@ bool JS_Mediator_CameraSettingsDialog::rigxFunc() {
 /// A failure is thrown, and told by the call.
 bool JS_Mediator_CameraSettingsDialog::presetFunc() {
     const DocumentGuard guard(host(), true);
-    setInTurn(host(), TextKey("Saving preset: %1 (%2 of %3)"), m_presets.keys(),
-              [this](DOC_Interface& doc) { doc.control().saveCameraPreset(m_presets.value(doc.getKey())); });
+    forEachCameraInTurn(host(), TextKey("Saving preset: %1 (%2 of %3)"), m_presets.keys(),
+                        [this](DOC_Interface& doc) { doc.control().saveCameraPreset(m_presets.value(doc.getKey())); });
     return true;
 }
 

@@ -43,8 +43,9 @@ void PresetLoad::run(const PresetNumbers& numbers) {
         throw APP_Exception(TextKey("The mode has changed. No preset was loaded."));
     }
     const PresetNumbers chosen = loadable(asked, left);
-    setInTurn(m_host, TextKey("Loading preset: %1 (%2 of %3)"), chosen.keys(),
-              [&](DOC_Interface& doc) { load(doc, chosen.value(doc.getKey()), reboots.contains(doc.getKey())); });
+    forEachCameraInTurn(m_host, TextKey("Loading preset: %1 (%2 of %3)"), chosen.keys(), [&](DOC_Interface& doc) {
+        load(doc, chosen.value(doc.getKey()), reboots.contains(doc.getKey()));
+    });
     left.rethrow();
 }
 

@@ -73,8 +73,8 @@ private:
 
 }  // namespace
 
-void setInTurn(ZebHost& host, const QString& text, const DocKeyList& keys,
-               const std::function<void(DOC_Interface&)>& step) {
+void forEachCameraInTurn(ZebHost& host, const QString& text, const DocKeyList& keys,
+                         const std::function<void(DOC_Interface&)>& step) {
     ZebDocManager& documents = host.docManager();
     const QString translated = host.translate(text);
     Progress progress(host);

@@ -14,5 +14,5 @@ class ZebHost;
 /// A progress names the camera whose turn it is by `text`, which is translated and has %1 for the name, %2 for its
 /// number and %3 for how many there are. Nobody can close it, and what is pressed meanwhile reaches nothing else, then
 /// or later. It runs an event loop between the cameras; the host must outlive that. GUI thread.
-void setInTurn(ZebHost& host, const QString& text, const DocKeyList& keys,
-               const std::function<void(DOC_Interface& doc)>& step);
+void forEachCameraInTurn(ZebHost& host, const QString& text, const DocKeyList& keys,
+                         const std::function<void(DOC_Interface& doc)>& step);
