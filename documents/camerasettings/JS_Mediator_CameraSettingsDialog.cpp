@@ -147,9 +147,7 @@ bool JS_Mediator_CameraSettingsDialog::openFile() {
         const QString filter = QStringLiteral("*.") % m_fileTypes.join(QStringLiteral("\n*."));
         auto* dialog = new QFileDialog(view(), host().translate(TextKey("Select folder")), m_folder, filter);
         dialog->setFileMode(QFileDialog::ExistingFile);
-        const QString path = chosenFile(dialog);
-        m_fileName = path.isEmpty() ? m_fileName : path;
-        return !path.isEmpty();
+        return !chosenFile(dialog).isEmpty();
     });
 }
 
@@ -179,9 +177,12 @@ void JS_Mediator_CameraSettingsDialog::ok(const QString& sendData) {
                 m_presets.insert(preset.value(QStringLiteral("key"), zeb::NoDocKey).toUInt(), number);
             }
         }
-        if (m_dialogMode == ToFile ? rigxFunc() : presetFunc()) {
-            Q_EMIT accept();
+        if (m_dialogMode != ToFile) {
+            presetFunc();
+        } else if (!rigxFunc()) {
+            return;
         }
+        Q_EMIT accept();
     });
 }
 
@@ -203,11 +204,10 @@ bool JS_Mediator_CameraSettingsDialog::rigxFunc() {
 }
 
 /// A failure is thrown, and told by the call.
-bool JS_Mediator_CameraSettingsDialog::presetFunc() {
+void JS_Mediator_CameraSettingsDialog::presetFunc() {
     const DocumentGuard guard(host(), true);
     forEachCameraInTurn(host(), TextKey("Saving preset: %1 (%2 of %3)"), m_presets.keys(),
                         [this](DOC_Interface& doc) { doc.control().saveCameraPreset(m_presets.value(doc.getKey())); });
-    return true;
 }
 
 /// Whether the settings may go to `path`, in which `name` is that of the file; the user has been told why not, or has

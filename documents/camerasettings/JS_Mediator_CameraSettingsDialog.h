@@ -43,12 +43,11 @@ private:
     QString fullName() const;
     QString timeFormat() const;
     bool rigxFunc();
-    bool presetFunc();
+    void presetFunc();
     bool mayWrite(const QString& path, const QString& name);
 
     int m_dialogMode = 0;
     QString m_folder;
-    QString m_fileName;
     const QStringList m_fileTypes{QStringLiteral("rigx"), QStringLiteral("RIGX")};
     /// Numbers by the keys of the cameras that are to store their settings.
     QMap<DOCKEY, int> m_presets;

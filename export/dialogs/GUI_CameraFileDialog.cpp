@@ -69,9 +69,7 @@ GUI_CameraFileDialog::GUI_CameraFileDialog(ZebHost* host, QWidget* parent, const
       m_checkLoadCamera(new QCheckBox(host->translate(TextKey("Load from camera")), this)),
       m_cameraList(new QListWidget(this)),
       m_okButton(new QPushButton(host->translate(TextKey("OK")), this)),
-      m_cancelButton(new QPushButton(host->translate(TextKey("Cancel")), this)),
-      m_cameraPanel(new QVBoxLayout),
-      m_buttonRow(new QHBoxLayout) {
+      m_cancelButton(new QPushButton(host->translate(TextKey("Cancel")), this)) {
     setNameFilters({host->translate(TextKey("rigx (*.rigx)")), host->translate(TextKey("All Files (* *.*)"))});
     setAcceptMode(QFileDialog::AcceptOpen);
     setFileMode(QFileDialog::ExistingFile);
@@ -88,15 +86,17 @@ GUI_CameraFileDialog::GUI_CameraFileDialog(ZebHost* host, QWidget* parent, const
 void GUI_CameraFileDialog::addPanel() {
     constexpr int Columns = 3;
     constexpr int Most = 100;
-    m_cameraPanel->addWidget(m_checkLoadCamera);
-    m_cameraPanel->addWidget(m_cameraList, Most);
-    m_buttonRow->addWidget(m_okButton);
-    m_buttonRow->addWidget(m_cancelButton);
-    m_buttonRow->addStretch(6);
+    auto* cameraPanel = new QVBoxLayout;
+    cameraPanel->addWidget(m_checkLoadCamera);
+    cameraPanel->addWidget(m_cameraList, Most);
+    auto* buttonRow = new QHBoxLayout;
+    buttonRow->addWidget(m_okButton);
+    buttonRow->addWidget(m_cancelButton);
+    buttonRow->addStretch(6);
     auto* grid = qobject_cast<QGridLayout*>(layout());
     const int row = grid->rowCount();
-    grid->addLayout(m_cameraPanel, row, 0, 1, Columns);
-    grid->addLayout(m_buttonRow, row + 1, 0, 1, Columns);
+    grid->addLayout(cameraPanel, row, 0, 1, Columns);
+    grid->addLayout(buttonRow, row + 1, 0, 1, Columns);
     grid->setRowStretch(row, Most);
     m_cameraList->hide();
     m_okButton->hide();

@@ -10,11 +10,9 @@
 
 class DOC_Interface;
 class QCheckBox;
-class QHBoxLayout;
 class QListWidget;
 class QPushButton;
 class QRadioButton;
-class QVBoxLayout;
 
 /// Where the user chooses what the cameras are to be set to: a file of settings or, in a panel that a check box brings
 /// up, presets that the devices keep themselves, a row a device. It does the loading too. GUI thread.
@@ -56,8 +54,6 @@ private:
     QListWidget* const m_cameraList;
     QPushButton* const m_okButton;
     QPushButton* const m_cancelButton;
-    QVBoxLayout* const m_cameraPanel;
-    QHBoxLayout* const m_buttonRow;
     /// Of each row; the last one stands for none.
     QMap<DOCKEY, QList<QRadioButton*>> m_rowButtons;
     bool m_accepting = false;
