@@ -42,19 +42,22 @@ same(made(), [], 'one that nobody has, and one that the camera has not');
 // Not to be touched.
 zeb.setCamera(2, {locked: true});
 zeb.setCamera(3, {blockedPlugins: ['lut']});
-zeb.wait(600);
+check(zeb.until("$('#wren_plugin_button_lockStatus_lock_2:visible').length === 1") &&
+    zeb.until(`$('#wren_plugin_effect_icons_3 input[plgName="${LUT}"]:disabled').length === 1`), 'the rows show it');
 for (const [key, why] of [[2, 'locked'], [3, 'blocked']]) {
     zeb.click(lutOf(key));
     zeb.click(lutOf(key), {right: true});
     same([made(), state('plugin', key, LUT).split(' ')[0], told()], [[], 'works', []], `a ${why} one stays, without menu`);
 }
 for (const status of ['IsOtherPluginOpen', 'IsBgSaving']) {
+    const isShown = on => zeb.until(`$('${lutOf(1)}').attr('cursorDisable') === '${on}'`);
     zeb.status(status, true);
-    zeb.wait(600);
+    check(isShown(true), `the row shows ${status}`);
     zeb.click(lutOf(1));
     zeb.click(lutOf(1), {right: true});
     same([made(), state('plugin', 1, LUT)], [[], 'works'], `nothing while ${status}`);
     zeb.status(status, false);
+    check(isShown(false), `and that it is over`);
 }
 zeb.setCamera(4, {connected: false});
 P('wrentabledialog.togglePlugin(["4"], "lut", true)');

@@ -92,21 +92,27 @@ same(load('eight').map(box => box.text.includes('→')), [false], 'the same file
 
 // What stands in the way of some is told, and the others are set; a second load ends right when it has gone.
 const change = () => zeb.keys().forEach(key => zeb.setCamera(key, {comment: `changed ${key}`}));
+// How each comes, whether its row shows it, and how it goes.
 const inTheWay = {
-    'locked': [() => zeb.setCamera(1, {locked: true}), () => zeb.setCamera(1, {locked: false})],
-    'armed': [() => zeb.setCamera(1, {recordState: 2, status: 4}), () => zeb.setCamera(1, {recordState: 0, status: 0})],
-    'not connected': [() => zeb.setCamera(1, {connected: false}), () => zeb.setCamera(1, {connected: true})],
-    'no answer': [() => zeb.fault(1, 'setComment', {throws: 'no answer'}), () => zeb.fault(1, 'setComment', {})],
-    'Gate': [() => zeb.fault(1, 'setComment', {gone: true}), () => zeb.fault(1, 'setComment', {})]
+    'locked': [() => zeb.setCamera(1, {locked: true}), "$('#wren_cameraInfo_button_lockStatus_lock_1:visible').length",
+        () => zeb.setCamera(1, {locked: false})],
+    'armed': [() => zeb.setCamera(1, {recordState: 2, status: 4}),
+        "$('#wren_cameraInfo_cameraStatus_1:not([status=LIVE])').length",
+        () => zeb.setCamera(1, {recordState: 0, status: 0})],
+    'not connected': [() => zeb.setCamera(1, {connected: false}),
+        "$('#wren_button_connection_disconnect_1:visible').length", () => zeb.setCamera(1, {connected: true})],
+    'no answer': [() => zeb.fault(1, 'setComment', {throws: 'no answer'}), 'true', () => zeb.fault(1, 'setComment', {})],
+    'Gate': [() => zeb.fault(1, 'setComment', {gone: true}), 'true', () => zeb.fault(1, 'setComment', {})]
 };
 Object.keys(inTheWay).forEach(word => {
+    const [come, isShown, go] = inTheWay[word];
     change();
-    inTheWay[word][0]();
-    zeb.wait(600);
+    come();
+    check(zeb.until(isShown), `${word}: the row shows it`);
     const lines = load('eight').map(box => box.text).join('\n').split('\n');
     check(lines.some(line => line.startsWith('Gate') && line.includes(word)), `${word}: it is told: ${lines}`);
     same(changed(all().slice(-7), before.slice(1)), [], `${word}: the others are set`);
-    inTheWay[word][1]();
+    go();
     zeb.setCamera(1, {connected: true});
     load('eight');
     same(changed(all(), before), [], `${word}: a second load ends right`);
@@ -170,7 +176,8 @@ const reboot = 'The following camera preset is loaded after rebooting. Please re
 same(texts(), [reboot], 'the user is asked about the one that starts anew');
 same([1, 4].map(key => zeb.camera(key).rate), [before[0].rate, before[3].rate], 'the presets are loaded');
 same(zeb.camera(7).connected, false, 'that one is away');
-zeb.until("false", 8000);
+check(zeb.until("$('#wren_button_connection_disconnect_7:visible').length") &&
+    zeb.until("$('#wren_button_connection_connect_7:visible').length", 60000), 'its row tells that it is back');
 same([zeb.camera(7).connected, zeb.camera(7).rate, texts()], [true, before[6].rate, []], 'and back, without a word');
 check(zeb.page("document.querySelectorAll('tr[recid]').length") > 8, 'the table shows all of them');
 zeb.close();
