@@ -1,6 +1,7 @@
 #include "GUI_CameraSettingsDialog.h"
 
 #include "JS_Mediator_CameraSettingsDialog.h"
+#include "SettingsFolder.h"
 #include "TextKey.h"
 
 namespace {
@@ -10,8 +11,8 @@ constexpr int Height = 500;
 
 }  // namespace
 
-GUI_CameraSettingsDialog::GUI_CameraSettingsDialog(ZebHost* host, const QString& folder, QWidget* parent)
+GUI_CameraSettingsDialog::GUI_CameraSettingsDialog(ZebHost* host, QWidget* parent)
     : GUI_WebViewDialog(host, TextKey("Device Save"), QStringLiteral("qrc:/camerasettings.html"),
-                        new JS_Mediator_CameraSettingsDialog(host, folder), parent) {
+                        new JS_Mediator_CameraSettingsDialog(host, settingsFolder(*host)), parent) {
     setFixedSize(Width, Height);
 }

@@ -8,6 +8,6 @@ class GUI_CameraSettingsDialog : public GUI_WebViewDialog {
     Q_OBJECT
 
 public:
-    /// `folder`, where the file goes unless the user wants it elsewhere, is made if it is not there.
-    GUI_CameraSettingsDialog(ZebHost* host, const QString& folder, QWidget* parent = nullptr);
+    /// Makes the folder of settings files if it is not there.
+    explicit GUI_CameraSettingsDialog(ZebHost* host, QWidget* parent = nullptr);
 };

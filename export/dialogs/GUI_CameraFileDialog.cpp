@@ -62,9 +62,8 @@ QRadioButton* addButton(QWidget& row, const QRect& place, const QString& text, b
 
 }  // namespace
 
-GUI_CameraFileDialog::GUI_CameraFileDialog(ZebHost* host, QWidget* parent, const QString& caption,
-                                           const QString& folder)
-    : GUI_QFileDialog(host, parent, caption, madeFolder(folder)),
+GUI_CameraFileDialog::GUI_CameraFileDialog(ZebHost* host, QWidget* parent)
+    : GUI_QFileDialog(host, parent, host->translate(TextKey("Device Open")), madeFolder(settingsFolder(*host))),
       m_titleIcon(QPixmap(QStringLiteral(":/is_titlebar.png")).copy(CameraInTitleBar)),
       m_checkLoadCamera(new QCheckBox(host->translate(TextKey("Load from camera")), this)),
       m_cameraList(new QListWidget(this)),

@@ -23,9 +23,9 @@ class GUI_CameraFileDialog : public GUI_QFileDialog {
     Q_OBJECT
 
 public:
-    /// Makes `folder` if it is not there. Lists the cameras that are connected now; one that does not answer is told
-    /// and left out.
-    GUI_CameraFileDialog(ZebHost* host, QWidget* parent, const QString& caption, const QString& folder);
+    /// Makes the folder of settings files if it is not there. Lists the cameras that are connected now; one that does
+    /// not answer is told and left out.
+    GUI_CameraFileDialog(ZebHost* host, QWidget* parent);
 
 public Q_SLOTS:
     void on_checkLoadCamera_change(bool check);

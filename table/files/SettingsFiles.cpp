@@ -7,7 +7,6 @@
 #include "GatheredFailures.h"
 #include "ModalRun.h"
 #include "RecordingStatus.h"
-#include "SettingsFolder.h"
 #include "TableState.h"
 #include "TextKey.h"
 #include "ZebAppStatus.h"
@@ -27,8 +26,7 @@ void SettingsFiles::load() {
     }
     const DocKeyList before = m_host.docManager().getConnectedDocKeys(1);
     m_host.clearPrefsRestored(0);
-    const QString caption = m_host.translate(TextKey("Device Open"));
-    auto* dialog = new GUI_CameraFileDialog(&m_host, m_host.getMainWindow(), caption, settingsFolder(m_host));
+    auto* dialog = new GUI_CameraFileDialog(&m_host, m_host.getMainWindow());
     const bool accepted = ModalRun(dialog).exec() == QDialog::Accepted;
     if (!accepted) {
         m_state.loadingRigx = false;
@@ -53,5 +51,5 @@ void SettingsFiles::save() {
     if (m_host.cameraOps().hasLowLightCamera()) {
         throw APP_Exception(TextKey("The setting can not be saved because low light ON camera is included."));
     }
-    ModalRun(new GUI_CameraSettingsDialog(&m_host, settingsFolder(m_host), m_host.getMainWindow())).exec();
+    ModalRun(new GUI_CameraSettingsDialog(&m_host, m_host.getMainWindow())).exec();
 }

@@ -43,7 +43,9 @@ protected:
     /// The user does `act` as soon as it stands, and leaves it if it still does then. The result.
     int run(const Act& act) {
         window = new QWidget;
-        dialog = new GUI_CameraFileDialog(&host, window, "Device Open", folder.path());
+        host.prefs().setValue("rigx/path", folder.path());
+        dialog = new GUI_CameraFileDialog(&host, window);
+        host.prefs().setValue("rigx/path", QString());
         QTimer::singleShot(0, dialog, [&] {
             act(*dialog);
             if (dialog && dialog->isVisible()) {

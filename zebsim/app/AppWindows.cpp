@@ -14,7 +14,6 @@
 #include "LogStore.h"
 #include "PreferencesDialog.h"
 #include "ProgressWait.h"
-#include "SettingsFolder.h"
 #include "SimHost.h"
 #include "SnapShots.h"
 #include "UiText.h"
@@ -101,12 +100,11 @@ void AppWindows::editCustomInfo() {
 }
 
 void AppWindows::loadSettings() {
-    runOnCameras(
-        new GUI_CameraFileDialog(&m_host, m_host.getMainWindow(), uiText("Device Open"), settingsFolder(m_host)));
+    runOnCameras(new GUI_CameraFileDialog(&m_host, m_host.getMainWindow()));
 }
 
 void AppWindows::saveSettings() {
-    runOnCameras(new GUI_CameraSettingsDialog(&m_host, settingsFolder(m_host), m_host.getMainWindow()));
+    runOnCameras(new GUI_CameraSettingsDialog(&m_host, m_host.getMainWindow()));
 }
 
 /// Other cameras may bear the keys that it holds from then on.
