@@ -2,22 +2,15 @@
 
 #include "Camera.h"
 #include "CameraBank.h"
-#include "CameraError.h"
-#include "ClockRows.h"
-#include "FailureText.h"
 #include "HostBatch.h"
 #include "HostContext.h"
 #include "HostMessages.h"
-#include "JsonNode.h"
 #include "LoadTexts.h"
-#include "PlainState.h"
 #include "SettingsReader.h"
-#include "SettingsWriter.h"
 #include "SimAppStatus.h"
 #include "TextKey.h"
 #include "Translator.h"
 #include "UpdateCycle.h"
-#include "WholeFile.h"
 
 #include <QFileInfo>
 #include <QMessageBox>
@@ -25,35 +18,12 @@
 #include <QtDebug>
 
 #include <algorithm>
-#include <stdexcept>
+#include <map>
 
 namespace {
 
 QString nameOf(const QString& path) {
     return QFileInfo(path).fileName();
-}
-
-[[noreturn]] void failToSave(const QString& path, const QString& reason) {
-    throw std::runtime_error(QString(path % QStringLiteral(": ") % reason).toStdString());
-}
-
-QString textOf(const std::exception_ptr& failure) {
-    try {
-        std::rethrow_exception(failure);
-    } catch (...) {
-        return currentFailureText();
-    }
-}
-
-/// Throws what the camera throws, and when it tells what no file can bring back.
-QVariantMap settingsOf(Camera& camera) {
-    const QVariantMap settings = camera.readSettings(OPERATION("saveSettings")).toPlain(CameraState::settings());
-    try {
-        checkSettings(settings);
-    } catch (const StateError& error) {
-        throw CameraError(camera.name(), QString(error.member % QStringLiteral(": ") % error.reason));
-    }
-    return settings;
 }
 
 const CameraPlan* find(const LoadPlan& plan, const PlanCamera& camera) {
@@ -65,7 +35,7 @@ const CameraPlan* find(const LoadPlan& plan, const PlanCamera& camera) {
 
 }  // namespace
 
-void SettingsDesk::load(const QString& path) {
+void SettingsDesk::load(const QString& path) const {
     const QList<HeadSettings> file = readSettings(path);
     const LoadPlan shown = plan(file);
     if (shown.changes() == 0) {
@@ -187,52 +157,4 @@ QStringList SettingsDesk::surprisesOf(const Row& row) const {
         return {texts.gone(*row.plan)};
     }
     return row.leftOut.isEmpty() ? texts.surprises(*row.plan, row.answer) : QStringList{row.leftOut};
-}
-
-void SettingsDesk::save(const QString& path) {
-    const HeldCameras cameras = m_host.cameras.holdConnected();
-    if (cameras.empty()) {
-        failToSave(path, TextKey("no camera is connected"));
-    }
-    std::vector<HeadSettings> heads(cameras.size());
-    const auto failures = runRows(m_host.clock, int(cameras.size()), [&](int row) {
-        Camera& camera = *cameras[std::size_t(row)];
-        heads[std::size_t(row)] = {camera.device().address(), camera.headNumber(), settingsOf(camera)};
-    });
-    QList<HeadSettings> answered;
-    QStringList leftOut;
-    for (std::size_t row = 0; row < heads.size(); ++row) {
-        if (failures[row]) {
-            leftOut << textOf(failures[row]);
-        } else {
-            answered.append(heads[row]);
-        }
-    }
-    if (answered.isEmpty()) {
-        failToSave(path, TextKey("no camera has answered"));
-    }
-    const QByteArray text = writeSettings(answered);
-    if (text.size() > JsonNode::MostBytes) {
-        failToSave(path, TextKey("these are too many settings for a file"));
-    }
-    const QString reason = writeWholeFile(path, text);
-    if (!reason.isEmpty()) {
-        failToSave(path, reason);
-    }
-    tellLeftOut(path, leftOut);
-}
-
-/// The words are the GUI thread's.
-void SettingsDesk::tellLeftOut(const QString& path, const QStringList& reasons) {
-    if (reasons.isEmpty()) {
-        return;
-    }
-    QMetaObject::invokeMethod(
-        &m_turn,
-        [this, path, reasons] {
-            const QString text = m_host.translator.translate(TextKey("Cameras that are not in \"%1\":"));
-            m_host.messages.notify(Message::Warn,
-                                   (QStringList(text.arg(nameOf(path))) + reasons).join(QLatin1Char('\n')));
-        },
-        Qt::QueuedConnection);
 }

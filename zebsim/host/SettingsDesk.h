@@ -4,16 +4,15 @@
 #include "LoadPlan.h"
 #include "SettingsLoad.h"
 
-#include <QObject>
 #include <QStringList>
 
-#include <map>
+#include <memory>
 #include <vector>
 
 class Camera;
 struct HostContext;
 
-/// Camera settings that go into files and come from them.
+/// Loads camera settings from files.
 class SettingsDesk {
 public:
     explicit SettingsDesk(const HostContext& host) : m_host(host) {}
@@ -21,11 +20,7 @@ public:
     /// Shows what it would do, and does it when the user agrees. Cameras are left as they are that are disconnected,
     /// locked, armed, record or are not in the file. What becomes of the others otherwise than was shown is told. GUI
     /// thread; event loops run. Throws `JsonError` before anything is done.
-    void load(const QString& path);
-    /// Writes the settings of all connected cameras. A notice names those that do not answer, or with what no file may
-    /// hold, and the file has the others. Throws, with the file's name, when there are none of them or it can't be
-    /// written. Any thread.
-    void save(const QString& path);
+    void load(const QString& path) const;
 
 private:
     /// What a camera was to become, and what it has answered.
@@ -45,9 +40,6 @@ private:
     std::vector<Row> rowsOf(const LoadPlan& plan, const LoadPlan& shown) const;
     void give(std::vector<Row>& rows) const;
     QStringList surprisesOf(const Row& row) const;
-    void tellLeftOut(const QString& path, const QStringList& reasons);
 
     const HostContext& m_host;
-    /// What other threads tell waits for it.
-    QObject m_turn;
 };

@@ -29,7 +29,7 @@ SimRecorder::SimRecorder(const HostContext& host)
                 [this](bool recorded) {
                     m_owedEnd = recorded;
                     QMetaObject::invokeMethod(
-                        &m_turn, [this] { deliverEnd(); }, Qt::QueuedConnection);
+                        &m_receiver, [this] { deliverEnd(); }, Qt::QueuedConnection);
                 },
             }) {}
 

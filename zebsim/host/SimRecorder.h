@@ -65,5 +65,6 @@ private:
     RecordRun m_run;
     /// An end that is still to be told, and whether something was recorded.
     std::optional<bool> m_owedEnd;
-    QObject m_turn;
+    /// The end is delivered to it, in a later turn of the event loop.
+    QObject m_receiver;
 };

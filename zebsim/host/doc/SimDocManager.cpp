@@ -161,7 +161,7 @@ void SimDocManager::loadSettingsFile(const QString& path, int mode, int reserved
 
 void SimDocManager::saveSettingsFile(const QString& path, int mode) {
     m_host.calls.change(OPERATION("ZebDocManager::saveSettingsFile"), {path, mode});
-    m_settings.save(path);
+    m_settingsSave.run(path);
 }
 
 void SimDocManager::refreshDocList(int mode) {

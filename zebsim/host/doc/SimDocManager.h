@@ -8,6 +8,7 @@
 #include "HostContext.h"
 #include "ImageTools.h"
 #include "SettingsDesk.h"
+#include "SettingsSave.h"
 #include "StatusFlags.h"
 #include "ZebDocManager.h"
 
@@ -17,7 +18,7 @@
 class SimDocManager : public ZebDocManager {
 public:
     explicit SimDocManager(const HostContext& host)
-        : m_host(host), m_selection(host.cameras), m_turns(host), m_settings(host) {}
+        : m_host(host), m_selection(host.cameras), m_turns(host), m_settings(host), m_settingsSave(host) {}
 
     /// As `getCurrentDockey`, for the host itself.
     DOCKEY currentKey() const { return m_selection.current(); }
@@ -158,4 +159,5 @@ private:
     DocSelection m_selection;
     DocTurns m_turns;
     SettingsDesk m_settings;
+    SettingsSave m_settingsSave;
 };
