@@ -48,6 +48,21 @@ QList<int> readNumbers(const JsonNode& node, const QString& member) {
     return numbers;
 }
 
+/// Operations that a camera in low light mode refuses.
+QStringList readRefused(const JsonNode& node) {
+    if (!node.has(QStringLiteral("lowLightRefuses"))) {
+        return {};
+    }
+    const JsonNode refused = node.member(QStringLiteral("lowLightRefuses"));
+    const QStringList operations = refused.texts();
+    for (const QString& operation : operations) {
+        if (!CameraOperation::names().contains(operation)) {
+            refused.fail(QStringLiteral("there is no operation \"%1\"").arg(operation));
+        }
+    }
+    return operations;
+}
+
 /// The signals at the ports stand beside the rest.
 CameraState readInitial(const JsonNode& node, CameraModel model) {
     const QString ports = QStringLiteral("ports");
@@ -59,7 +74,7 @@ CameraState readInitial(const JsonNode& node, CameraModel model) {
     return ModelCatalogue::readState(node.member(QStringLiteral("initial")), model);
 }
 
-CameraModel readModel(const JsonNode& node) {
+void allowMembers(const JsonNode& node) {
     node.allowOnly({QStringLiteral("name"),          QStringLiteral("type"),
                     QStringLiteral("dummy"),         QStringLiteral("otherRates"),
                     QStringLiteral("rates"),         QStringLiteral("resolutions"),
@@ -74,10 +89,10 @@ CameraModel readModel(const JsonNode& node) {
                     QStringLiteral("presets"),       QStringLiteral("presetReboots"),
                     QStringLiteral("bootTime"),      QStringLiteral("grain"),
                     QStringLiteral("hotPixels")});
-    CameraModel model;
-    model.name = node.member(QStringLiteral("name")).text();
-    model.type = node.member(QStringLiteral("type")).number(0, highest);
-    model.dummy = readFlag(node, QStringLiteral("dummy"));
+}
+
+/// What its settings may be, and what its heads share of them.
+void readLists(const JsonNode& node, CameraModel& model) {
     model.rateRule = readRateRule(node.member(QStringLiteral("otherRates")));
     for (const int rate : readNumbers(node, QStringLiteral("rates"))) {
         model.rates.append(static_cast<unsigned int>(rate));
@@ -88,33 +103,36 @@ CameraModel readModel(const JsonNode& node) {
     const QList<int> functions = node.member(QStringLiteral("functions")).numbers(0, highest);
     model.functions = QSet<int>(functions.begin(), functions.end());
     model.capabilities = node.member(QStringLiteral("capabilities")).texts();
+    model.sharesShutter = readFlag(node, QStringLiteral("sharesShutter"));
+    model.sharesResolution = readFlag(node, QStringLiteral("sharesResolution"));
+    model.lowLightRefuses = readRefused(node);
+}
+
+void readHardware(const JsonNode& node, CameraModel& model) {
     model.hasSyncStatus = readFlag(node, QStringLiteral("syncStatus"));
     model.syncCapable = readFlag(node, QStringLiteral("syncCapable"));
     model.exposureTiming = readNumber(node, QStringLiteral("exposureTiming"));
     model.exposureDelay = readNumber(node, QStringLiteral("exposureDelay"));
-    model.sharesShutter = readFlag(node, QStringLiteral("sharesShutter"));
-    model.sharesResolution = readFlag(node, QStringLiteral("sharesResolution"));
     if (node.has(QStringLiteral("bitDepth"))) {
         model.bitDepth = node.member(QStringLiteral("bitDepth")).number(8, 16);
     }
-    if (node.has(QStringLiteral("lowLightRefuses"))) {
-        const JsonNode refused = node.member(QStringLiteral("lowLightRefuses"));
-        model.lowLightRefuses = refused.texts();
-        for (const QString& operation : qAsConst(model.lowLightRefuses)) {
-            if (!CameraOperation::names().contains(operation)) {
-                refused.fail(QStringLiteral("there is no operation \"%1\"").arg(operation));
-            }
-        }
-    }
     model.ctsReady = readNumber(node, QStringLiteral("ctsReady"));
-    if (node.has(QStringLiteral("presets"))) {
-        model.presets = node.member(QStringLiteral("presets")).number(0, 7);
-    }
+    model.presets = readNumber(node, QStringLiteral("presets"), 7);
     model.presetReboots = readFlag(node, QStringLiteral("presetReboots"));
     model.bootTime = readNumber(node, QStringLiteral("bootTime"));
     model.grain = readNumber(node, QStringLiteral("grain"), 64);
     model.hotPixels = readNumber(node, QStringLiteral("hotPixels"), 10000);
     model.memory = node.member(QStringLiteral("memory")).number(0, 1 << 24);
+}
+
+CameraModel readModel(const JsonNode& node) {
+    allowMembers(node);
+    CameraModel model;
+    model.name = node.member(QStringLiteral("name")).text();
+    model.type = node.member(QStringLiteral("type")).number(0, highest);
+    model.dummy = readFlag(node, QStringLiteral("dummy"));
+    readLists(node, model);
+    readHardware(node, model);
     model.initial = readInitial(node, model);
     return model;
 }
