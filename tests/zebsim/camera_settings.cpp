@@ -95,8 +95,8 @@ TEST_F(Presets, LieInTheDeviceForAllItsHeads) {
     EXPECT_EQ(control(1).getCameraPresetInfo().count, 7);
     EXPECT_EQ(control(1).getCameraPresetInfo().current, 7);
 
-    EXPECT_EQ(thrownBy([&] { control(1).loadCameraPreset(8); }), "kept: there is no preset 8");
-    EXPECT_EQ(thrownBy([&] { control(4).saveCameraPreset(1); }), "compact 1: there is no preset 1");
+    EXPECT_EQ(thrownBy([&] { control(1).loadCameraPreset(8); }), "kept: there is no such preset");
+    EXPECT_EQ(thrownBy([&] { control(4).saveCameraPreset(1); }), "compact 1: there is no such preset");
     test.camera(2).change({{"recordState", 2}});
     for (const bool isLoad : {true, false}) {
         EXPECT_EQ(thrownBy([&] { isLoad ? control(1).loadCameraPreset(1) : control(1).saveCameraPreset(1); }),

@@ -3,6 +3,7 @@
 #include "Camera.h"
 #include "CameraError.h"
 #include "Clock.h"
+#include "TextKey.h"
 
 zeb::CameraPresetInfo Camera::presetInfo() const {
     return {get(&CameraState::preset), model().presets};
@@ -10,11 +11,11 @@ zeb::CameraPresetInfo Camera::presetInfo() const {
 
 void Camera::requirePreset(int number) const {
     if (number < 1 || number > model().presets) {
-        refuse(QStringLiteral("there is no preset %1").arg(number));
+        refuse(TextKey("there is no such preset"));
     }
     for (const auto& head : m_device.heads()) {
         if (head->isUnderWay()) {
-            refuse(QStringLiteral("no preset can be used while the camera is ready or records"));
+            refuse(TextKey("no preset can be used while the camera is ready or records"));
         }
     }
 }

@@ -1344,6 +1344,14 @@
         <translation>記録がなくなりました</translation>
     </message>
     <message>
+        <source>there is no such preset</source>
+        <translation>そのプリセットはありません</translation>
+    </message>
+    <message>
+        <source>no preset can be used while the camera is ready or records</source>
+        <translation>カメラが撮影準備中または撮影中のため、プリセットを使用できません</translation>
+    </message>
+    <message>
         <source>the camera is not connected</source>
         <translation>カメラが接続されていません</translation>
     </message>
