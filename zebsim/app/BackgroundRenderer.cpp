@@ -26,6 +26,11 @@ BackgroundRenderer::BackgroundRenderer(QObject* parent) : QObject(parent) {
     connect(&m_work, &QFutureWatcher<QImage>::finished, this, &BackgroundRenderer::take);
 }
 
+BackgroundRenderer::~BackgroundRenderer() {
+    m_isOver = true;
+    m_work.waitForFinished();
+}
+
 bool BackgroundRenderer::isFor(const CameraFrame& frame) {
     return seesNeighbours(frame.effects);
 }
@@ -43,7 +48,8 @@ void BackgroundRenderer::begin() {
         return;
     }
     m_begun = m_wanted;
-    m_work.setFuture(QtConcurrent::run(&threads(), drawFrame, m_begun.frame, m_begun.size));
+    m_work.setFuture(QtConcurrent::run(
+        &threads(), [this, wish = m_begun] { return m_isOver ? QImage() : drawFrame(wish.frame, wish.size); }));
 }
 
 void BackgroundRenderer::take() {

@@ -6,6 +6,8 @@
 #include <QImage>
 #include <QObject>
 
+#include <atomic>
+
 /// The picture of a frame that takes too long to be drawn by the way, made on another thread: of those that are wanted
 /// one after the other the last one. GUI thread.
 class BackgroundRenderer : public QObject {
@@ -13,6 +15,8 @@ class BackgroundRenderer : public QObject {
 
 public:
     explicit BackgroundRenderer(QObject* parent);
+    /// Waits for a picture that is being drawn; one that has not begun is not drawn any more.
+    ~BackgroundRenderer() override;
 
     /// Whether a frame is to be drawn here.
     static bool isFor(const CameraFrame& frame);
@@ -33,6 +37,7 @@ private:
     void take();
 
     QFutureWatcher<QImage> m_work;
+    std::atomic<bool> m_isOver{false};
     Wish m_wanted;
     Wish m_begun;
     FrameEffects m_effects;
