@@ -24,6 +24,16 @@ DocList connectedHeads(DOC_Interface& doc) {
     return heads;
 }
 
+DocKeyList chosenOf(const PresetNumbers& numbers) {
+    DocKeyList keys;
+    for (auto each = numbers.begin(); each != numbers.end(); ++each) {
+        if (each.value() > 0) {
+            keys.append(each.key());
+        }
+    }
+    return keys;
+}
+
 }  // namespace
 
 bool isDeviceLocked(DOC_Interface& doc) {
@@ -34,8 +44,14 @@ bool isDeviceLocked(DOC_Interface& doc) {
 void PresetLoad::run(const PresetNumbers& numbers) {
     const int mode = m_host.getOperatingMode();
     GatheredFailures left;
-    const PresetNumbers asked = loadable(numbers, left);
-    const DocKeyList reboots = rebooting(asked);
+    PresetNumbers asked;
+    DocKeyList reboots;
+    try {
+        asked = loadable(numbers, left);
+        reboots = rebooting(asked);
+    } catch (...) {
+        throw std::runtime_error(QString(currentFailureText() % notReached(m_host, chosenOf(numbers))).toStdString());
+    }
     if (!userAgrees(reboots)) {
         return;
     }
@@ -43,8 +59,10 @@ void PresetLoad::run(const PresetNumbers& numbers) {
         throw APP_Exception(TextKey("The mode has changed. No preset was loaded."));
     }
     const PresetNumbers chosen = loadable(asked, left);
-    forEachCameraInTurn(m_host, TextKey("Loading preset: %1 (%2 of %3)"), chosen.keys(), [&](DOC_Interface& doc) {
-        load(doc, chosen.value(doc.getKey()), reboots.contains(doc.getKey()));
+    left.attempt([&] {
+        forEachCameraInTurn(m_host, TextKey("Loading preset: %1 (%2 of %3)"), chosen.keys(), [&](DOC_Interface& doc) {
+            load(doc, chosen.value(doc.getKey()), reboots.contains(doc.getKey()));
+        });
     });
     left.rethrow();
 }

@@ -159,7 +159,7 @@ TEST_F(SettingsLoad, OfFewerCamerasOrOtherOnes) {
                            "Gate (192.168.0.13): Resolution stays 1024 x 1024 (1280 x 800 is not offered)"}));
     EXPECT_EQ(settings()[1], saved[1]);
     EXPECT_EQ(first.last(), "The settings of \"x.rigx\" are loaded.");
-    EXPECT_EQ(load().first(), "No setting of \"x.rigx\" can be loaded.");
+    EXPECT_TRUE(load().first().startsWith("Loading \"x.rigx\" changes nothing."));
 }
 
 /// The file knows the rate of one, and the shutter of the other, in whose memory there are fewer frames.

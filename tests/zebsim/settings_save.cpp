@@ -57,7 +57,7 @@ TEST_F(SettingsSave, ThatFailsNamesTheFileAndLeavesTheOldOne) {
         {"only a part of it could be written; the disk may be full", nothing, 0},
         {"only a part of it could be written; the disk may be full", nothing, 2000},
         {"Permission denied", [this] { QFile::setPermissions(path, QFile::ReadOwner); }, RLIM_INFINITY},
-        {"no camera has answered",
+        {"no camera's settings can be kept\nCamera 1: x\nCamera 3: x\nCamera 4: x",
          [this] {
              test.host.faults().plant(2, "*", {{}, 0, true});
              plant(1, {"x"});

@@ -27,18 +27,6 @@ QString nameOf(DOC_Interface& doc) {
     return QFontMetrics(QApplication::font()).elidedText(name, Qt::ElideRight, NameWidth);
 }
 
-/// A line with the names of those whose turn has not come.
-QString notReached(ZebHost& host, const DocKeyList& keys) {
-    QStringList names;
-    for (const DOCKEY key : keys) {
-        if (DOC_Interface* doc = host.docManager().getDoc(key, 1)) {
-            names << nameOf(*doc);
-        }
-    }
-    const QString text = host.translate(TextKey("Nothing was done with: %1"));
-    return names.isEmpty() ? QString() : QString(QLatin1Char('\n') % text.arg(names.join(QStringLiteral(", "))));
-}
-
 /// No failure of it keeps a camera from its turn.
 class Progress {
 public:
@@ -72,6 +60,17 @@ private:
 };
 
 }  // namespace
+
+QString notReached(ZebHost& host, const DocKeyList& keys) {
+    QStringList names;
+    for (const DOCKEY key : keys) {
+        if (DOC_Interface* doc = host.docManager().getDoc(key, 1)) {
+            names << nameOf(*doc);
+        }
+    }
+    const QString text = host.translate(TextKey("Nothing was done with: %1"));
+    return names.isEmpty() ? QString() : QString(QLatin1Char('\n') % text.arg(names.join(QStringLiteral(", "))));
+}
 
 void forEachCameraInTurn(ZebHost& host, const QString& text, const DocKeyList& keys,
                          const std::function<void(DOC_Interface&)>& step) {

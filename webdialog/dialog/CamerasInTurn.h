@@ -16,3 +16,7 @@ class ZebHost;
 /// or later. It runs an event loop between the cameras; the host must outlive that. GUI thread.
 void forEachCameraInTurn(ZebHost& host, const QString& text, const DocKeyList& keys,
                          const std::function<void(DOC_Interface& doc)>& step);
+
+/// A line feed, and a line with the names of those of `keys` that are there: nothing was done with them. Empty without
+/// any.
+QString notReached(ZebHost& host, const DocKeyList& keys);

@@ -64,12 +64,14 @@ LoadPlan SettingsDesk::plan(const QList<HeadSettings>& file) const {
 }
 
 void SettingsDesk::tellNothingToDo(const QString& path, const LoadPlan& plan) const {
-    if (plan.isOdd()) {
-        const QString text = m_host.translator.translate(TextKey("No setting of \"%1\" can be loaded."));
-        m_host.messages.tell(Message::Warn, text.arg(nameOf(path)), LoadTexts(m_host.translator).preview(plan));
-    } else {
+    const QStringList lines = LoadTexts(m_host.translator).preview(plan);
+    if (lines.isEmpty()) {
         const QString text = m_host.translator.translate(TextKey("All cameras are as in \"%1\" already."));
         m_host.messages.notify(Message::Info, text.arg(nameOf(path)));
+    } else {
+        const QString text = m_host.translator.translate(
+            TextKey("Loading \"%1\" changes nothing. %2 settings are as in the file already."));
+        m_host.messages.tell(Message::Warn, text.arg(nameOf(path), QString::number(plan.equal())), lines);
     }
 }
 

@@ -53,7 +53,7 @@ void SettingsSave::run(const QString& path) {
     QStringList leftOut;
     const QList<HeadSettings> heads = read(cameras, leftOut);
     if (heads.isEmpty()) {
-        fail(path, TextKey("no camera has answered"));
+        fail(path, TextKey("no camera's settings can be kept") % QLatin1Char('\n') % leftOut.join(QLatin1Char('\n')));
     }
     const QByteArray text = writeSettings(heads);
     if (text.size() > JsonNode::MostBytes) {

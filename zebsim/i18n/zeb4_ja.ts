@@ -2224,10 +2224,6 @@
         <translation>カメラが接続されていません</translation>
     </message>
     <message>
-        <source>no camera has answered</source>
-        <translation>応答したカメラがありません</translation>
-    </message>
-    <message>
         <source>Cameras that are not in "%1":</source>
         <translation>「%1」に含まれないカメラ:</translation>
     </message>
@@ -2270,6 +2266,14 @@
     <message>
         <source>these are too many settings for a file</source>
         <translation>設定が多すぎてファイルに保存できません</translation>
+    </message>
+    <message>
+        <source>Loading &quot;%1&quot; changes nothing. %2 settings are as in the file already.</source>
+        <translation>&quot;%1&quot; を読み込んでも変更はありません。%2 個の設定はすでにファイルと同じです。</translation>
+    </message>
+    <message>
+        <source>no camera's settings can be kept</source>
+        <translation>保存できるカメラの設定がありません</translation>
     </message>
 </context>
 </TS>
