@@ -172,7 +172,12 @@ TEST_F(CameraFileDialog, LoadsPresetsInTheOrderOfTheKeys) {
                              "disconnectDoc 7 0"};
     const QString asked =
         "The following camera preset is loaded after rebooting. Please restart the camera.\n\n Impact";
+    const QStringList nozzle{"loadCameraPreset 3 7", "refreshAfterPreset 3 0", "refreshAfterPreset 4 0"};
     const QMap<QString, QString> first{{"Impact", "1"}};
+    const auto refuse = [this] { desk.answers = {{false}}; };
+    const auto leave = [this] { host.appStatus().enterMode(zeb::FileMode); };
+    const auto vanish = [this] { host.faults().plant(1, "*", {{}, 0, true}); };
+    const auto gate = [this](const QVariantMap& state) { return [=] { camera(1).change(state); }; };
     const struct {
         QMap<QString, QString> chosen;
         QStringList loads;
@@ -180,33 +185,12 @@ TEST_F(CameraFileDialog, LoadsPresetsInTheOrderOfTheKeys) {
         std::function<void()> whileAsked;
     } cases[] = {
         {{}, {"loadCameraPreset 1 3", "refreshAfterPreset 1 0"}, {}, {}},  // the present one once more
-        {{{"Gate", "None"}, {"Nozzle left", "7"}},
-         {"loadCameraPreset 3 7", "refreshAfterPreset 3 0", "refreshAfterPreset 4 0"},
-         {},
-         {}},
-        {first, {}, {asked}, [this] { desk.answers = {{false}}; }},
-        {first,
-         impact,
-         {asked, "Gate: the camera is locked"},
-         [this] {
-             camera(1).change({{"locked", true}});
-         }},
-        {first,
-         impact,
-         {asked, "Gate: the camera is not connected"},
-         [this] {
-             camera(1).change({{"connected", false}});
-         }},
-        {first,
-         impact,
-         {asked},
-         [this] {
-             host.faults().plant(1, "*", {{}, 0, true});
-         }},
-        {first,
-         {},
-         {asked, "The mode has changed. No preset was loaded."},
-         [this] { host.appStatus().enterMode(zeb::FileMode); }},
+        {{{"Gate", "None"}, {"Nozzle left", "7"}}, nozzle, {}, {}},
+        {first, {}, {asked}, refuse},
+        {first, impact, {asked, "Gate: the camera is locked"}, gate({{"locked", true}})},
+        {first, impact, {asked, "Gate: the camera is not connected"}, gate({{"connected", false}})},
+        {first, impact, {asked}, vanish},
+        {first, {}, {asked, "The mode has changed. No preset was loaded."}, leave},
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(c.told.join('|').toStdString());
