@@ -71,7 +71,7 @@ Channels mosaic(int x, int y, const std::function<Channels(int, int)>& at) {
 
 bool isOpaque(const QImage& picture) {
     const auto* pixels = reinterpret_cast<const QRgb*>(picture.constBits());
-    return std::all_of(pixels, pixels + picture.width() * picture.height(),
+    return std::all_of(pixels, pixels + std::ptrdiff_t(picture.width()) * picture.height(),
                        [](QRgb colour) { return qAlpha(colour) == 255; });
 }
 

@@ -101,7 +101,7 @@ TEST(SettingsFile, IsRefusedWithLineAndMember) {
 TEST(SettingsFile, TakesOfEachSettingWhatTheSchemaTakes) {
     QList<QPair<QString, QByteArray>> rows;
     for (const QString& name : CameraState::settings()) {
-        for (const QJsonValue& value : QJsonDocument::fromJson(contentOf(LOADS "values.json")).array()) {
+        for (const QJsonValue value : QJsonDocument::fromJson(contentOf(LOADS "values.json")).array()) {
             const QByteArray list = QJsonDocument(QJsonArray{value}).toJson(QJsonDocument::Compact);
             rows.append({name, list.mid(1, list.size() - 2)});
         }
