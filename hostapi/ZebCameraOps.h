@@ -58,8 +58,8 @@ public:
     virtual bool isLowlight() const = 0;
     virtual bool existLowlight() const = 0;
     virtual bool isAllLowlight(bool on) const = 0;
-    /// Whether a connected camera is in low light mode, in which its settings are not those to be kept. Asks the cameras
-    /// alone, where `existLowlight` may tell a state of the host too.
+    /// Whether a connected camera is in low light mode, in which its settings are not those to be kept. Asks the
+    /// cameras alone, where `existLowlight` may tell a state of the host too.
     virtual bool hasLowLightCamera() const = 0;
     virtual bool isLensCalibration() const = 0;
     /// Whether a camera saves straight to its own medium.
