@@ -2196,10 +2196,6 @@
         <translation>%1 ほか %2 台</translation>
     </message>
     <message>
-        <source>No setting of "%1" can be loaded.</source>
-        <translation>「%1」の設定は読み込めません。</translation>
-    </message>
-    <message>
         <source>All cameras are as in "%1" already.</source>
         <translation>すべてのカメラは既に「%1」のとおりです。</translation>
     </message>
@@ -2268,8 +2264,8 @@
         <translation>設定が多すぎてファイルに保存できません</translation>
     </message>
     <message>
-        <source>Loading &quot;%1&quot; changes nothing. %2 settings are as in the file already.</source>
-        <translation>&quot;%1&quot; を読み込んでも変更はありません。%2 個の設定はすでにファイルと同じです。</translation>
+        <source>Loading "%1" changes nothing. %2 settings are as in the file already.</source>
+        <translation>"%1" を読み込んでも変更はありません。%2 個の設定はすでにファイルと同じです。</translation>
     </message>
     <message>
         <source>no camera's settings can be kept</source>
