@@ -163,14 +163,40 @@ TEST_F(SettingsLoad, OfFewerCamerasOrOtherOnes) {
 }
 
 /// The file knows the rate of one, and the shutter of the other, in whose memory there are fewer frames.
-TEST_F(SettingsLoad, ReadsBackTheHeadsThatAnotherHasChanged) {
+TEST_F(SettingsLoad, TellsOfTheHeadsThatAnotherChanges) {
     test.camera(4).change({{"partitions", 3}});
     write(path, R"({"format": 1, "cameras": [{"address": "192.168.0.13", "heads": [
         {"head": 1, "settings": {"rate": 2000, "shutter": 2000, "triggerFrame": 7}}, {"head": 2, "settings": {"shutter": 500}}]}]})");
     const QStringList lines = load();
-    EXPECT_EQ(lines.last(), "Nozzle right: Shutter speed: 1/500 s asked, 1/2000 s taken");
+    EXPECT_TRUE(
+        lines.contains("Nozzle right: Shutter speed 1/500 s → 1/2000 s (no exposure lasts longer than a frame)"));
+    EXPECT_EQ(lines.last(), "The settings of \"x.rigx\" are loaded.");
+    EXPECT_EQ(settings()[3]["shutter"], 2000);
     EXPECT_EQ(settings()[2]["triggerFrame"], 7);
     EXPECT_EQ(settings()[3]["triggerFrame"], 7);
+}
+
+TEST_F(SettingsLoad, KeepsTheExposureOfLowLightAndTheMode) {
+    test.camera(1).change({{"lowLight", true}, {"shutter", 50}});
+    write(path, R"({"format": 1, "cameras": [{"address": "192.168.0.11", "heads": [
+        {"head": 1, "settings": {"rate": 2000}}]}]})");
+    load();
+    EXPECT_EQ(settings()[0]["shutter"], 50) << "low light was left for the rate";
+    test.camera(1).change({{"rate", 500}});
+    test.desk.whileStanding = [this] { test.host.appStatus().enterMode(zeb::MemoryMode); };
+    EXPECT_EQ(load().last(), "The mode has changed. No setting was loaded.");
+    EXPECT_EQ(settings()[0]["rate"], 500);
+}
+
+TEST_F(SettingsLoad, BearsAFileWithTextsThatAreTooLong) {
+    for (const char* part : {": ", "x"}) {
+        write(path,
+              QByteArray(R"({"format": 1, "cameras": [], ")") + QByteArray(part).repeated(1'000'000) + R"(": 1})");
+        const std::string told = thrownBy([this] { load(); });
+        EXPECT_LT(told.size(), 2000U);
+        test.host.messages().tellFailure(std::runtime_error(told));
+        EXPECT_EQ(test.desk.take().size(), 1);
+    }
 }
 
 }  // namespace

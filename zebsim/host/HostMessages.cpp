@@ -11,14 +11,26 @@
 
 #include <algorithm>
 
+namespace {
+
+/// Of a failure, with colons between: file, line and member, or camera and setting, and a reason.
+constexpr int MostParts = 4;
+
+}  // namespace
+
 /// A failure often has the name of a camera or file before its reason.
 QString HostMessages::translated(const QString& text) const {
-    const QString whole = m_host.translate(text);
-    const int end = text.indexOf(QLatin1String(": "));
-    if (whole != text || end < 0 || text.contains(QLatin1Char('\n'))) {
-        return whole;
+    int from = 0;
+    for (int part = 0; part < MostParts && from >= 0; ++part) {
+        const QString reason = text.mid(from);
+        const QString known = m_host.translate(reason);
+        if (known != reason) {
+            return text.left(from) % known;
+        }
+        const int colon = text.indexOf(QLatin1String(": "), from);
+        from = colon < 0 ? -1 : colon + 2;
     }
-    return text.left(end + 2) % translated(text.mid(end + 2));
+    return text;
 }
 
 Message HostMessages::message(Message::Kind kind, const QString& text, QWidget* parent) const {

@@ -21,6 +21,8 @@ public:
     void tellFailure(const std::exception& e);
     /// The same beside the work that goes on, and without a line, when it is a `ZebCycleFailure`.
     void tellFailureOrNews(const std::exception& e);
+    /// A failure with its reason in the user's language, where it has one.
+    QString translated(const QString& text) const;
     /// Says something beside the work that goes on, and in the log.
     void notify(Message::Kind kind, const QString& text);
 
@@ -38,7 +40,6 @@ public:
     bool agrees(const QString& question, const QStringList& list);
 
 private:
-    QString translated(const QString& text) const;
     Message message(Message::Kind kind, const QString& text, QWidget* parent) const;
     Answer show(const Message& box);
 

@@ -145,6 +145,9 @@ void SettingsDesk::give(std::vector<Row>& rows) const {
         for (Row* row : devices.at(&camera.device())) {
             row->answer = loadSettings(*row->camera, *row->plan);
         }
+        for (Row* row : devices.at(&camera.device())) {
+            readBack(*row->camera, row->answer);
+        }
     });
     for (std::size_t i = 0; i < answers.size(); ++i) {
         for (Row* row : devices.at(&cameras[i]->device())) {
@@ -158,5 +161,6 @@ QStringList SettingsDesk::surprisesOf(const Row& row) const {
     if (!row.camera || row.camera->isGone()) {
         return {texts.gone(*row.plan)};
     }
-    return row.leftOut.isEmpty() ? texts.surprises(*row.plan, row.answer) : QStringList{row.leftOut};
+    return row.leftOut.isEmpty() ? texts.surprises(*row.plan, row.answer)
+                                 : QStringList{m_host.messages.translated(row.leftOut)};
 }

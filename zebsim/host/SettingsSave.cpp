@@ -24,9 +24,11 @@ namespace {
     throw std::runtime_error(QString(path % QStringLiteral(": ") % reason).toStdString());
 }
 
-QString textOf(const std::exception_ptr& failure) {
+QString reasonOf(const std::exception_ptr& failure) {
     try {
         std::rethrow_exception(failure);
+    } catch (const CameraError& error) {
+        return error.reason();
     } catch (...) {
         return currentFailureText();
     }
@@ -50,10 +52,14 @@ void SettingsSave::run(const QString& path) {
     if (cameras.empty()) {
         fail(path, TextKey("no camera is connected"));
     }
-    QStringList leftOut;
+    LeftOut leftOut;
     const QList<HeadSettings> heads = read(cameras, leftOut);
     if (heads.isEmpty()) {
-        fail(path, TextKey("no camera's settings can be kept") % QLatin1Char('\n') % leftOut.join(QLatin1Char('\n')));
+        QString reason = TextKey("no camera's settings can be kept");
+        for (const auto& [camera, why] : leftOut) {
+            reason += QLatin1Char('\n') % camera->name() % QStringLiteral(": ") % why;
+        }
+        fail(path, reason);
     }
     const QByteArray text = writeSettings(heads);
     if (text.size() > JsonNode::MostBytes) {
@@ -66,7 +72,7 @@ void SettingsSave::run(const QString& path) {
     tellLeftOut(path, leftOut);
 }
 
-QList<HeadSettings> SettingsSave::read(const HeldCameras& cameras, QStringList& leftOut) const {
+QList<HeadSettings> SettingsSave::read(const HeldCameras& cameras, LeftOut& leftOut) const {
     std::vector<HeadSettings> heads(cameras.size());
     const auto failures = runRows(m_host.clock, int(cameras.size()), [&](int row) {
         Camera& camera = *cameras[std::size_t(row)];
@@ -75,7 +81,7 @@ QList<HeadSettings> SettingsSave::read(const HeldCameras& cameras, QStringList& 
     QList<HeadSettings> answered;
     for (std::size_t row = 0; row < heads.size(); ++row) {
         if (failures[row]) {
-            leftOut << textOf(failures[row]);
+            leftOut.emplace_back(cameras[row], reasonOf(failures[row]));
         } else {
             answered.append(heads[row]);
         }
@@ -84,16 +90,19 @@ QList<HeadSettings> SettingsSave::read(const HeldCameras& cameras, QStringList& 
 }
 
 /// The words are the GUI thread's.
-void SettingsSave::tellLeftOut(const QString& path, const QStringList& reasons) {
-    if (reasons.isEmpty()) {
+void SettingsSave::tellLeftOut(const QString& path, const LeftOut& leftOut) {
+    if (leftOut.empty()) {
         return;
     }
     QMetaObject::invokeMethod(
         &m_receiver,
-        [this, path, reasons] {
+        [this, path, leftOut] {
             const QString text = m_host.translator.translate(TextKey("Cameras that are not in \"%1\":"));
-            m_host.messages.notify(
-                Message::Warn, (QStringList(text.arg(QFileInfo(path).fileName())) + reasons).join(QLatin1Char('\n')));
+            QStringList lines{text.arg(QFileInfo(path).fileName())};
+            for (const auto& [camera, reason] : leftOut) {
+                lines << m_host.cameras.labelOf(*camera) % QStringLiteral(": ") % m_host.messages.translated(reason);
+            }
+            m_host.messages.notify(Message::Warn, lines.join(QLatin1Char('\n')));
         },
         Qt::QueuedConnection);
 }

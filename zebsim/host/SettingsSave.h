@@ -4,7 +4,11 @@
 #include "HeadSettings.h"
 
 #include <QObject>
-#include <QStringList>
+#include <QString>
+
+#include <memory>
+#include <utility>
+#include <vector>
 
 struct HostContext;
 
@@ -19,9 +23,11 @@ public:
     void run(const QString& path);
 
 private:
-    /// What they answer, and in `leftOut` why others are left out.
-    QList<HeadSettings> read(const HeldCameras& cameras, QStringList& leftOut) const;
-    void tellLeftOut(const QString& path, const QStringList& reasons);
+    /// A camera that is not in the file, and why.
+    using LeftOut = std::vector<std::pair<std::shared_ptr<Camera>, QString>>;
+
+    QList<HeadSettings> read(const HeldCameras& cameras, LeftOut& leftOut) const;
+    void tellLeftOut(const QString& path, const LeftOut& leftOut);
 
     const HostContext& m_host;
     /// What there is to tell is delivered to it, on the GUI thread.

@@ -82,30 +82,44 @@ private:
                            [&head](const PlanCamera* camera) { return camera->head == head.head; });
     }
 
-    /// A head that is not in the file has what another makes of settings that they share.
     CameraPlan planFollower(const PlanCamera& camera) const {
         CameraPlan plan;
         plan.camera = camera;
         plan.left = CameraPlan::NotInFile;
-        const QVariantMap present = camera.state.toPlain(CameraState::settings());
-        for (const PlanCamera* other : m_devices.value(camera.address)) {
-            const HeadSettings* asked = askedOf(*other);
-            if (asked == nullptr) {
-                continue;
-            }
-            for (const SettingPlan& setting : planCamera(*other, *asked).settings) {
-                const QVariant from = present.value(setting.name);
-                if (camera.model->isShared(setting.name) && setting.isChange() && setting.to != from) {
-                    plan.settings.append({setting.name, from, {}, setting.to});
-                    plan.expected.insert(setting.name, setting.to);
-                }
-            }
-        }
-        fitShutter(plan);
+        follow(plan);
         return plan;
     }
 
     CameraPlan planCamera(const PlanCamera& camera, const HeadSettings& file) const {
+        CameraPlan plan = planAlone(camera, file);
+        if (plan.left == CameraPlan::Taken) {
+            follow(plan);
+        }
+        return plan;
+    }
+
+    /// What the file does not tell of a head it has from another, if they share the setting.
+    void follow(CameraPlan& plan) const {
+        const QVariantMap present = plan.camera.state.toPlain(CameraState::settings());
+        for (const PlanCamera* other : m_devices.value(plan.camera.address)) {
+            const HeadSettings* asked = askedOf(*other);
+            if (asked == nullptr || other->head == plan.camera.head) {
+                continue;
+            }
+            for (const SettingPlan& setting : planAlone(*other, *asked).settings) {
+                const QVariant from = present.value(setting.name);
+                if (plan.camera.model->isShared(setting.name) && !plan.expected.contains(setting.name) &&
+                    setting.isChange() && setting.to != from) {
+                    plan.settings.append({setting.name, from, {}, setting.to});
+                    plan.expected.insert(setting.name, setting.to);
+                    plan.notInFile.removeOne(setting.name);
+                }
+            }
+        }
+        fitShutter(plan);
+    }
+
+    CameraPlan planAlone(const PlanCamera& camera, const HeadSettings& file) const {
         CameraPlan plan;
         plan.camera = camera;
         plan.left = leftOf(camera);
@@ -152,8 +166,7 @@ private:
             if (other->head == camera.head) {
                 continue;
             }
-            const CameraPlan::Left left = leftOf(*other);
-            if (left == CameraPlan::Locked || left == CameraPlan::Armed || left == CameraPlan::Recording) {
+            if (leftOf(*other) != CameraPlan::Taken) {
                 return SettingPlan::OtherHeadIsLeft;
             }
             const HeadSettings* settings = askedOf(*other);

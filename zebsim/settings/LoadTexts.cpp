@@ -140,7 +140,7 @@ QStringList LoadTexts::surprises(const CameraPlan& plan, const LoadAnswer& answe
     }
     if (!answer.whyUnread.isEmpty()) {
         const QString unread = m_translator.translate(TextKey("its settings could not be read back: %1"));
-        lines << line(label, unread.arg(answer.whyUnread));
+        lines << line(label, unread.arg(m_translator.translate(answer.whyUnread)));
         return lines;
     }
     const QString adjusted = m_translator.translate(TextKey("%1: %2 asked, %3 taken"));

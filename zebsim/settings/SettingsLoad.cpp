@@ -86,6 +86,10 @@ class Load {
 public:
     Load(Camera& camera, const CameraPlan& plan)
         : m_camera(camera), m_expected(plan.expected), m_wanted(camera.state()) {
+        // Low light mode that is left for a moment would come back with another exposure.
+        if (m_wanted.lowLight && !m_expected.contains(Shutter)) {
+            m_expected.insert(Shutter, m_wanted.shutter);
+        }
         m_wanted.apply(m_expected);
     }
 
@@ -93,7 +97,6 @@ public:
         m_answer.left = whyLeft(m_camera.state());
         if (m_answer.left == CameraPlan::Taken) {
             change();
-            readBack();
         }
         return m_answer;
     }
@@ -193,16 +196,8 @@ private:
         }
     }
 
-    void readBack() {
-        try {
-            m_answer.settings = m_camera.readSettings(OPERATION("readSettings")).toPlain(CameraState::settings());
-        } catch (const CameraError& error) {
-            m_answer.whyUnread = error.reason();
-        }
-    }
-
     Camera& m_camera;
-    const QVariantMap m_expected;
+    QVariantMap m_expected;
     CameraState m_wanted;
     LoadAnswer m_answer;
 };
@@ -211,4 +206,15 @@ private:
 
 LoadAnswer loadSettings(Camera& camera, const CameraPlan& plan) {
     return Load(camera, plan).run();
+}
+
+void readBack(Camera& camera, LoadAnswer& answer) {
+    if (answer.left != CameraPlan::Taken) {
+        return;
+    }
+    try {
+        answer.settings = camera.readSettings(OPERATION("readSettings")).toPlain(CameraState::settings());
+    } catch (const CameraError& error) {
+        answer.whyUnread = error.reason();
+    }
 }

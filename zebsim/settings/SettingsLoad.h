@@ -20,6 +20,9 @@ struct LoadAnswer {
     QString whyUnread;
 };
 
-/// Makes the changes of a plan on the camera, in an order in which it takes them, and reads back what it then has. One
-/// that it refuses does not keep the others back. Any thread.
+/// Makes the changes of a plan on the camera, in an order in which it takes them. One that it refuses does not keep the
+/// others back. Any thread.
 LoadAnswer loadSettings(Camera& camera, const CameraPlan& plan);
+
+/// Asks the camera what it has now, when all heads of its device have got theirs. Any thread.
+void readBack(Camera& camera, LoadAnswer& answer);
