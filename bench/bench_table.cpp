@@ -133,7 +133,8 @@ QVector<Line> compareEffects(const Numbers& effects) {
     const std::pair<const char*, const char*> names[] = {
         {"lut", "a frame of 1,024 x 1,024 with levels, over one without"},
         {"pseudo", "with false colours"},
-        {"filter", "with median and sharpening"},
+        {"filter", "with sharpening"},
+        {"median", "with a median"},
         {"mosaic", "with a mosaic"}};
     std::printf("A frame: %.2f\n", plain);
     for (const auto& [name, what] : names) {

@@ -25,14 +25,6 @@ cv::Mat viewOf(QImage& picture) {
     return {picture.height(), picture.width(), CV_8UC4, picture.bits(), std::size_t(picture.bytesPerLine())};
 }
 
-/// Filters reckon with the byte beside the colours too.
-void makeOpaque(QImage& picture) {
-    for (int y = 0; y < picture.height(); ++y) {
-        auto* pixel = reinterpret_cast<QRgb*>(picture.scanLine(y));
-        std::for_each(pixel, pixel + picture.width(), [](QRgb& colour) { colour |= 0xFF000000U; });
-    }
-}
-
 template <typename Change>
 void changePixels(QImage& picture, const Change& change) {
     for (int y = 0; y < picture.height(); ++y) {
@@ -57,16 +49,22 @@ void applyLevels(QImage& picture, const QVector<int>& values) {
 
 /// First the median, of that many pixels each way, then the sharpening, in percent.
 void applyFilter(QImage& picture, const QVector<int>& values) {
+    // New memory for each picture takes longer than the filters do.
+    thread_local cv::Mat colours;
+    thread_local cv::Mat filtered;
     cv::Mat pixels = viewOf(picture);
+    cv::cvtColor(pixels, colours, cv::COLOR_BGRA2BGR);
     if (values[0] > 1) {
-        cv::medianBlur(pixels, pixels, values[0]);
+        cv::medianBlur(colours, filtered, values[0]);
+        cv::swap(colours, filtered);
     }
     if (values[1] > 0) {
         const float side = -float(values[1]) / 100;
         const cv::Mat kernel = (cv::Mat_<float>(3, 3) << 0, side, 0, side, 1 - 4 * side, side, 0, side, 0);
-        cv::filter2D(pixels, pixels, -1, kernel, cv::Point(-1, -1), 0, cv::BORDER_REPLICATE);
+        cv::filter2D(colours, filtered, -1, kernel, cv::Point(-1, -1), 0, cv::BORDER_REPLICATE);
+        cv::swap(colours, filtered);
     }
-    makeOpaque(picture);
+    cv::cvtColor(colours, pixels, cv::COLOR_BGR2BGRA);
 }
 
 QRgb heat(int level) {
@@ -88,17 +86,37 @@ void applyFalseColours(QImage& picture, const QVector<int>& values) {
     changePixels(picture, [&palette](QRgb colour) { return palette[std::size_t(qGray(colour))]; });
 }
 
-/// Squares of that many pixels each way, of one colour each.
-void applyMosaic(QImage& picture, const QVector<int>& values) {
-    cv::Mat pixels = viewOf(picture);
-    for (int y = 0; y < pixels.rows; y += values[0]) {
-        for (int x = 0; x < pixels.cols; x += values[0]) {
-            const cv::Rect place(x, y, std::min(values[0], pixels.cols - x), std::min(values[0], pixels.rows - y));
-            cv::Mat square = pixels(place);
-            square.setTo(cv::mean(square));
+/// The mean colour of a square of a picture.
+QRgb meanOf(const QImage& picture, const QRect& square) {
+    int red = 0;
+    int green = 0;
+    int blue = 0;
+    for (int y = square.top(); y <= square.bottom(); ++y) {
+        const auto* row = reinterpret_cast<const QRgb*>(picture.constScanLine(y));
+        for (int x = square.left(); x <= square.right(); ++x) {
+            red += qRed(row[x]);
+            green += qGreen(row[x]);
+            blue += qBlue(row[x]);
         }
     }
-    makeOpaque(picture);
+    const double pixels = double(square.width()) * square.height();
+    return qRgb(int(std::nearbyint(red / pixels)), int(std::nearbyint(green / pixels)),
+                int(std::nearbyint(blue / pixels)));
+}
+
+/// Squares of that many pixels each way, of one colour each.
+void applyMosaic(QImage& picture, const QVector<int>& values) {
+    const int side = values[0];
+    for (int top = 0; top < picture.height(); top += side) {
+        for (int left = 0; left < picture.width(); left += side) {
+            const QRect square = QRect(left, top, side, side) & picture.rect();
+            const QRgb colour = meanOf(picture, square);
+            for (int y = square.top(); y <= square.bottom(); ++y) {
+                auto* row = reinterpret_cast<QRgb*>(picture.scanLine(y));
+                std::fill_n(row + left, square.width(), colour);
+            }
+        }
+    }
 }
 
 QString whyNot(const EffectNumber& number, const QVariant& value) {
