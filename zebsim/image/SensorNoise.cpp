@@ -79,7 +79,7 @@ SensorNoise SensorNoise::of(const Camera& camera) {
 
 void SensorNoise::addTo(QImage& picture, const QSize& resolution, qint64 frame) const {
     if (grain > 0) {
-        std::minstd_rand random(static_cast<unsigned int>(sensor * 31U + static_cast<quint64>(frame)));
+        std::minstd_rand random(static_cast<unsigned int>(quint64(sensor) * 31 + quint64(frame)));
         random.discard(2);
         addGrain(picture, grain, random);
     }
