@@ -7,6 +7,18 @@
 
 namespace {
 
+/// A window manager would not have given it the keyboard.
+bool isBehindModal(const QObject* object) {
+    const QWidget* modal = QApplication::activeModalWidget();
+    const auto* window = qobject_cast<const QWidget*>(object);
+    if (modal == nullptr || window == nullptr || !window->isWindow()) {
+        return false;
+    }
+    for (; window != nullptr && window != modal; window = window->parentWidget()) {
+    }
+    return window == nullptr;
+}
+
 void giveBack(const QPointer<QWidget>& window) {
     QWidget* modal = QApplication::activeModalWidget();
     QWidget* target = modal ? modal : window.data();
@@ -29,6 +41,13 @@ bool KeyboardReturn::eventFilter(QObject* object, QEvent* event) {
     }
     if (event->type() == QEvent::Hide && m_before.contains(object)) {
         QTimer::singleShot(0, this, [window = m_before.take(object)] { giveBack(window); });
+    }
+    if (event->type() == QEvent::WindowActivate && isBehindModal(object)) {
+        QTimer::singleShot(0, this, [] {
+            if (QWidget* modal = QApplication::activeModalWidget()) {
+                modal->activateWindow();
+            }
+        });
     }
     return QObject::eventFilter(object, event);
 }

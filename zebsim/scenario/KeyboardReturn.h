@@ -6,8 +6,8 @@
 
 class QWidget;
 
-/// Gives the keyboard back from a dialog that has gone to the window before, as a window manager does, on a platform
-/// that has none. GUI thread.
+/// Gives the keyboard back from a dialog that has gone to the window before, and to a modal one from those behind it,
+/// as a window manager does, on a platform that has none. GUI thread.
 class KeyboardReturn : public QObject {
 public:
     KeyboardReturn();
