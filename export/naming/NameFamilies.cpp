@@ -1,0 +1,105 @@
+#include "NameFamilies.h"
+
+namespace {
+
+struct Family {
+    const char* key;
+    int groupDir;
+    int subDir;
+    int fileName;
+};
+
+constexpr Family Export{"export/", 0, 1, 2};
+constexpr Family Convert{"convert/", 3, 4, 5};
+constexpr Family Snap{"snap/", 6, 7, 8};
+constexpr Family Report{"report/", 9, 10, 11};
+constexpr Family Layout{"layout/", -1, 15, 16};
+/// The name of data that is written beside the images.
+constexpr int DataNameSlot = 13;
+
+const Family& familyOf(int type) {
+    switch (type) {
+        case 4:
+        case 5:
+        case 18:
+            return Layout;
+        case 6:
+        case 11:
+            return Convert;
+        case 7:
+            return Snap;
+        case 16:
+        case 17:
+            return Report;
+        default:
+            return Export;
+    }
+}
+
+}  // namespace
+
+QString nameFamily(int type) {
+    return familyOf(type).key;
+}
+
+int groupDirSlot(int type) {
+    return familyOf(type).groupDir;
+}
+
+int subDirSlot(int type) {
+    return familyOf(type).subDir;
+}
+
+int fileNameSlot(int type) {
+    return familyOf(type).fileName;
+}
+
+QString slotKey(int slot) {
+    if (slot == DataNameSlot) {
+        return QStringLiteral("export/fd/dataname");
+    }
+    if (slot < 0) {
+        return {};
+    }
+    for (const Family* family : {&Export, &Convert, &Snap, &Report, &Layout}) {
+        const QString key = family->key;
+        if (slot == family->groupDir) {
+            return key + QStringLiteral("groupdir");
+        }
+        if (slot == family->subDir) {
+            return key + QStringLiteral("subdir");
+        }
+        if (slot == family->fileName) {
+            return key + QStringLiteral("filename");
+        }
+    }
+    return {};
+}
+
+NumberDigits slotDigits(const PrefReader& pref, int slot) {
+    if (!pref) {
+        return {3, 3, 4};
+    }
+    const QString key = slotKey(slot);
+    if (key.isEmpty() || slot == Report.groupDir) {
+        return {};
+    }
+    const auto digits = [&](const char* number) {
+        return pref(key + QStringLiteral("addnumber") + QString(number) + QStringLiteral("nodigits")).toInt();
+    };
+    const bool isReport = slot == Report.subDir || slot == Report.fileName;
+    return {isReport ? 0 : digits("camera"), isReport ? 0 : digits("head"), digits("session")};
+}
+
+NumberDigits digitsFor(const PrefReader& pref, int slot, bool isFileMode, const std::optional<DeviceCounts>& counts) {
+    NumberDigits digits = slotDigits(pref, slot);
+    if (isFileMode) {
+        return {0, 0, digits.session};
+    }
+    const bool isAuto = pref && pref(slotKey(slot) + QStringLiteral("addnumberformat")).toString() == "auto";
+    if (isAuto && counts) {
+        digits.camera = QString::number(counts->devices).size();
+        digits.head = counts->heads > 1 ? QString::number(counts->heads).size() : 0;
+    }
+    return digits;
+}
