@@ -2,12 +2,28 @@
 
 #include <QRegularExpression>
 
-bool isGoodFileName(const QString& name) {
+namespace {
+
+const QRegularExpression& badInName() {
     static const QRegularExpression bad(QStringLiteral(R"([\\\/\*\?\|\t\n":<>%])"));
-    return !name.contains(bad);
+    return bad;
+}
+
+}  // namespace
+
+bool isGoodFileName(const QString& name) {
+    return !name.contains(badInName());
 }
 
 bool isGoodPath(const QString& path) {
     static const QRegularExpression bad(QStringLiteral(R"([\*\?\|\t\n"<>%])"));
     return !path.contains(bad);
+}
+
+QString sanitised(QString text, const QString& replacement) {
+    text.replace(badInName(), replacement);
+    if (text == QLatin1String(".") || text == QLatin1String("..")) {
+        text.replace('.', replacement);
+    }
+    return text;
 }

@@ -8,3 +8,7 @@ bool isGoodFileName(const QString& name);
 
 /// The same of a whole path, in which \ / and : may stand.
 bool isGoodPath(const QString& path);
+
+/// `text` with `replacement`, which may be empty, for each character that a name must not hold; for each dot too when
+/// it is "." or "..", which are folders everywhere.
+QString sanitised(QString text, const QString& replacement);
