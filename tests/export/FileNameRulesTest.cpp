@@ -1,5 +1,7 @@
 #include "FileNameRules.h"
 
+#include "Course.h"
+
 #include <QString>
 
 #include <gtest/gtest.h>
@@ -18,6 +20,26 @@ TEST(FileNameRules, RefuseWhatFilesCannotBeCalled) {
             EXPECT_EQ(isGoodFileName(text), c.inName) << text.toStdString();
             EXPECT_EQ(isGoodPath(text), c.inPath) << text.toStdString();
         }
+    }
+}
+
+TEST(FileNameRules, MakeANameOfAnyText) {
+    const struct {
+        QString text;
+        QString replacement;
+        QString name;
+    } cases[] = {
+        {"a\\/:*?\"<>|%\t\nb", "_", "a____________b"},
+        {"a:b", "", "ab"},
+        {"箱 [1].x", "_", "箱 [1].x"},
+        {".", "_", "_"},
+        {"..", "_", "__"},
+        {"..", "", ""},
+        {"<.>", "", ""},
+        {"...", "_", "..."},
+    };
+    for (const auto& c : cases) {
+        EXPECT_EQ(sanitised(c.text, c.replacement), c.name);
     }
 }
 

@@ -1,0 +1,333 @@
+#include "TargetPaths.h"
+
+#include "DateText.h"
+#include "FileNameRules.h"
+#include "NameFamilies.h"
+#include "NameSource.h"
+#include "TextKey.h"
+#include "UTL_Exception.h"
+
+#include <QDateTime>
+#include <QDebug>
+#include <QFileInfo>
+
+#include <algorithm>
+
+namespace {
+
+constexpr int ExportType = 1;
+constexpr int ConvertType = 6;
+constexpr int ReportType = 16;
+constexpr int MostRounds = 1000000;
+constexpr int LongestPath = 245;
+
+bool isOneOf(int type, std::initializer_list<int> types) {
+    return std::find(types.begin(), types.end(), type) != types.end();
+}
+
+bool isConversion(int type) {
+    return nameFamily(type) == nameFamily(ConvertType);
+}
+
+QString joined(const QString& name, const QString& piece) {
+    const QString between = name.isEmpty() || piece.isEmpty() ? "" : "_";
+    return name + between + piece;
+}
+
+QString withSlash(const QString& folder) {
+    return folder.isEmpty() || folder.endsWith('/') ? folder : folder + '/';
+}
+
+/// The preferences of a type.
+class FamilyPrefs {
+public:
+    FamilyPrefs(const NameSource& source, int type) : m_source(source), m_family(nameFamily(type)) {}
+
+    bool flag(const QString& key) const { return value(key).toBool(); }
+    QString text(const QString& key) const { return value(key).toString(); }
+    QVariant value(const QString& key) const { return m_source.pref(m_family + key); }
+
+private:
+    const NameSource& m_source;
+    QString m_family;
+};
+
+/// What a list as "key|value?key|value" has for a key.
+std::optional<QString> listed(const QString& list, const QString& key) {
+    for (const QString& entry : list.split('?')) {
+        const QStringList parts = entry.split('|');
+        if (parts.size() == 2 && parts.first() == key) {
+            return parts.last();
+        }
+    }
+    return {};
+}
+
+/// The folder of a camera that has one of its own.
+std::optional<QString> cameraFolder(const NameSource& source, const QString& address) {
+    const auto key = listed(source.pref("export/multipathdevicelist").toString(), address);
+    return key ? listed(source.pref("export/multipathlist").toString(), *key) : key;
+}
+
+/// Whether it writes a file with information about the images, which has a name of its own.
+bool isInformational(const NameSource& source, int type) {
+    const FamilyPrefs prefs(source, type);
+    return source.pref("export/media").toString() == "file" &&
+           (isConversion(type) || nameFamily(type) == nameFamily(ExportType)) &&
+           source.pref("save/SaveInfFile").toBool() && prefs.flag("saveinf");
+}
+
+QString customText(const QList<QVariantMap>& items, bool includeUnit) {
+    QString text;
+    for (const QVariantMap& item : items) {
+        if (item.value("usefilename") == "on") {
+            text = joined(text, item.value("value").toString());
+            text = joined(text, includeUnit ? item.value("unit").toString() : QString());
+        }
+    }
+    return text;
+}
+
+/// The names of one document's files, which share the rounds that a search for free ones may take.
+class Composition {
+public:
+    Composition(const NameSource& source, const NamedDocument* document, const QDateTime& time)
+        : m_source(source), m_document(document), m_time(time) {}
+
+    QString fileName(int type, PARTITIONNUMBER partition, bool withDetails);
+    QString groupDir(int type, const QString& name);
+    QString subDir(int type, const QString& name);
+
+private:
+    [[noreturn]] static void fail() { throw UTL_Exception(TextKey("Invalid filename.")); }
+    void endRound();
+    NumberDigits digits(int slot) const;
+    QString informationalName() const;
+    QString baseName(int type, PARTITIONNUMBER partition, bool withDetails);
+    QString customName(int type, const QString& base) const;
+    QString withTime(const FamilyPrefs& prefs, const QString& kind, const QString& name) const;
+    QString directory(int type, int slot, const QString& kind, const QString& name);
+    QString numbered(int type, int slot, const QString& base);
+    bool isFree(int type, const QString& base, const QString& name);
+
+    const NameSource& m_source;
+    const NamedDocument* m_document;
+    const QDateTime& m_time;
+    int m_rounds = 0;
+    /// Directories that have a number by now, by slot and name.
+    QHash<QPair<int, QString>, QString> m_numbered;
+};
+
+void Composition::endRound() {
+    if (++m_rounds > MostRounds) {
+        fail();
+    }
+}
+
+NumberDigits Composition::digits(int slot) const {
+    std::optional<DeviceCounts> counts;
+    if (m_document) {
+        counts = {m_document->deviceCount(), m_document->headCount()};
+    }
+    return digitsFor([this](const QString& key) { return m_source.pref(key); }, slot, m_source.isFileMode(), counts);
+}
+
+QString Composition::informationalName() const {
+    QString name = m_source.pref("export/inf_testno").toString();
+    const QList<QVariantMap> items = name.isEmpty() && m_document ? m_document->customInfo() : QList<QVariantMap>();
+    for (const QVariantMap& item : items) {
+        if (item.value("name") == "TestNo") {
+            return item.value("value").toString();
+        }
+    }
+    return name;
+}
+
+QString Composition::customName(int type, const QString& base) const {
+    const FamilyPrefs prefs(m_source, type);
+    std::unique_ptr<NamedDocument> target;
+    const qint64 key = prefs.value("filenameusecustomfromtargetkey").toLongLong();
+    if (prefs.flag("filenameusecustomfromtarget") && key >= 0) {
+        target = m_source.document(static_cast<DOCKEY>(key));
+    }
+    const NamedDocument* from = target ? target.get() : m_document;
+    return from ? sanitised(customText(from->customInfo(), prefs.flag("filenameusecustomincludeunit")), "_") : base;
+}
+
+QString Composition::baseName(int type, PARTITIONNUMBER partition, bool withDetails) {
+    const FamilyPrefs prefs(m_source, type);
+    QString base = prefs.text("filename");
+    if (prefs.flag("filenameasoriginal") && m_document) {
+        const bool isUnsaved = isConversion(type) && m_document->isMemoryData() && m_source.isMemoryMode();
+        base = isUnsaved ? fileName(ExportType, partition, withDetails) : m_document->originalName();
+    }
+    if (!m_source.isFileMode() && prefs.flag("filenameaspartitionname")) {
+        base = m_document ? sanitised(m_document->partitionName(partition), "_") : QString();
+    }
+    return prefs.flag("filenameusecustom") ? customName(type, base) : base;
+}
+
+QString Composition::fileName(int type, PARTITIONNUMBER partition, bool withDetails) {
+    if (isInformational(m_source, type)) {
+        return informationalName();
+    }
+    const QString base = baseName(type, partition, withDetails);
+    if (!withDetails) {
+        return base;
+    }
+    const FamilyPrefs prefs(m_source, type);
+    const bool countsSessions = digits(fileNameSlot(type)).session > 0;
+    QString last;
+    for (int session = 1;; ++session) {
+        const auto details =
+            m_document ? m_document->fileNameDetails(type, partition, session, m_time) : zeb::FileNameDetails();
+        const QString name = withTime(prefs, "filename", joined(base, sanitised(details.text, "_")));
+        if (name.isEmpty() || !countsSessions || !details.hasSession || isFree(type, base, name)) {
+            return name;
+        }
+        if (name == last) {
+            fail();
+        }
+        last = name;
+        endRound();
+    }
+}
+
+bool Composition::isFree(int type, const QString& base, const QString& name) {
+    QString folder = rootFolder(m_source, type, m_document);
+    const FamilyPrefs prefs(m_source, type);
+    folder += withSlash(groupDir(type, prefs.flag("groupdirasfilenameincludeoption") ? name : base));
+    folder += withSlash(subDir(type, prefs.flag("subdirasfilenameincludeoption") ? name : base));
+    return !m_source.isPathTaken(folder + name) && !m_source.hasFile(folder, name);
+}
+
+QString Composition::groupDir(int type, const QString& name) {
+    if (groupDirSlot(type) < 0 || !FamilyPrefs(m_source, type).flag("groupdir")) {
+        return {};
+    }
+    const auto fixed = m_source.fixedGroupDir();
+    return fixed ? *fixed : directory(type, groupDirSlot(type), "groupdir", name);
+}
+
+QString Composition::subDir(int type, const QString& name) {
+    return FamilyPrefs(m_source, type).flag("subdir") ? directory(type, subDirSlot(type), "subdir", name) : QString();
+}
+
+/// `kind` is what the keys of its preferences begin with.
+QString Composition::directory(int type, int slot, const QString& kind, const QString& name) {
+    const FamilyPrefs prefs(m_source, type);
+    const QString base = prefs.flag(kind + "asfilename") ? name : prefs.text(kind + "name");
+    return withTime(prefs, kind, prefs.flag(kind + "addnumber") ? numbered(type, slot, base) : base);
+}
+
+QString Composition::numbered(int type, int slot, const QString& base) {
+    QString& directory = m_numbered[{slot, base}];
+    if (!directory.isEmpty()) {
+        return directory;
+    }
+    const NumberDigits wide = digits(slot);
+    const bool isCamera = m_document && !m_source.isFileMode();
+    const int camera = isCamera ? m_document->deviceNumber() + 1 : 1;
+    const int head = isCamera ? m_document->headNumber() : 1;
+    const QString root = rootFolder(m_source, type, m_document);
+    for (int session = 1;; ++session) {
+        directory = joined(base, numberText(camera, head, session, wide.camera, wide.head, wide.session));
+        const QString path = root + directory;
+        if (wide.session < 1 || (!m_source.folderExists(path) && !m_source.isFolderTaken(path))) {
+            return directory;
+        }
+        qWarning() << "exists" << path;
+        endRound();
+    }
+}
+
+QString Composition::withTime(const FamilyPrefs& prefs, const QString& kind, const QString& name) const {
+    return prefs.flag(kind + "addtime") ? joined(name, dateText(m_time, prefs.text(kind + "addtimeformat"))) : name;
+}
+
+/// What `name` is called with round brackets in a report that is written so.
+QString rounded(QString name, int type, int mode) {
+    return type == ReportType && mode == 1 ? name.replace('[', '(').replace(']', ')') : name;
+}
+
+void checkLengths(const NameSource& source, int type, const QString& folder, QString path) {
+    const FamilyPrefs prefs(source, type);
+    const bool hasThumbnail =
+        isOneOf(type, {1, 2, ConvertType}) && !isInformational(source, type) && prefs.flag("savethumbnail");
+    path += hasThumbnail ? prefs.text("savethumbnailaddtextvalue") : QString();
+    if (folder.size() > LongestPath || (hasThumbnail && path.size() > LongestPath)) {
+        throw UTL_Exception(TextKey("The path of the target is too long."));
+    }
+}
+
+QList<PARTITIONNUMBER> partitionsOf(int type, const NamedDocument* document) {
+    const auto partitions = document ? document->partitions() : QList<PARTITIONNUMBER>{1};
+    const bool isLayout = nameFamily(type) == "layout/";
+    return isLayout ? QList<PARTITIONNUMBER>{partitions.value(0, 1)} : partitions;
+}
+
+}  // namespace
+
+void composeTargets(NameSource& source, int type, const NamedDocument* document, bool replaceRoot,
+                    const QDateTime& time, int mode, TargetPaths& out) {
+    const FamilyPrefs prefs(source, type);
+    Composition composition(source, document, time);
+    const bool mayBeEmpty = isOneOf(type, {9, 10, 11, 17, 18}) || source.pref("save/EnableBlankFilename").toBool();
+    const auto substitute = replaceRoot ? source.substituteFolder() : std::nullopt;
+    const QString root = rootFolder(source, type, document);
+    for (const PARTITIONNUMBER partition : partitionsOf(type, document)) {
+        const QString base = rounded(composition.fileName(type, partition, false), type, mode);
+        const QString name = rounded(composition.fileName(type, partition, true), type, mode);
+        QString folder = root;
+        const QString group = composition.groupDir(type, prefs.flag("groupdirasfilenameincludeoption") ? name : base);
+        if (!group.isEmpty()) {
+            out.groups[partition] = group;
+            source.setLastGroupDir(group);
+            folder += withSlash(group);
+        }
+        const QString sub = composition.subDir(type, prefs.flag("subdirasfilenameincludeoption") ? name : base);
+        folder += withSlash(rounded(sub, type, mode));
+        if (base.isEmpty() && !mayBeEmpty) {
+            throw UTL_Exception(TextKey("Invalid filename."));
+        }
+        if (substitute && !substitute->isEmpty()) {
+            folder = withSlash(*substitute);
+        }
+        out.folders[partition] = folder;
+        out.paths[partition] = folder + name;
+        if (type != ReportType) {
+            source.setLastFolder(folder);
+            source.setLastPath(folder + name);
+            checkLengths(source, type, folder, folder + name);
+        }
+    }
+}
+
+QString rootFolder(const NameSource& source, int type, const NamedDocument* document) {
+    const FamilyPrefs prefs(source, type);
+    const bool isFileMode = source.isFileMode();
+    QString folder = prefs.text("dir");
+    if (!isFileMode && isOneOf(type, {1, 2}) && document && !source.pref("export/singlepath").toBool()) {
+        folder = cameraFolder(source, document->address()).value_or(folder);
+    }
+    if ((isConversion(type) || isFileMode) && prefs.flag("dirasoriginal")) {
+        const QString file = document ? document->sourceFile() : QString();
+        folder = file.isEmpty() ? QString() : QFileInfo(file).absolutePath();
+    }
+    return withSlash(folder);
+}
+
+QString fileName(const NameSource& source, int type, const NamedDocument* document, PARTITIONNUMBER partition,
+                 bool withDetails, const QDateTime& time) {
+    return Composition(source, document, time).fileName(type, partition, withDetails);
+}
+
+QString groupDir(const NameSource& source, int type, const NamedDocument* document, const QString& name,
+                 const QDateTime& time) {
+    return Composition(source, document, time).groupDir(type, name);
+}
+
+QString subDir(const NameSource& source, int type, const NamedDocument* document, const QString& name,
+               const QDateTime& time) {
+    return Composition(source, document, time).subDir(type, name);
+}

@@ -1,0 +1,94 @@
+#pragma once
+
+#include "NameSource.h"
+#include "TargetPaths.h"
+
+#include <QDateTime>
+#include <QSet>
+
+#include <exception>
+
+/// A document whose texts a test gives.
+struct GivenDocument : NamedDocument {
+    QString address() const override { return where; }
+    int deviceNumber() const override { return device; }
+    int headNumber() const override { return head; }
+    int deviceCount() const override { return devices; }
+    int headCount() const override { return heads; }
+    QString sourceFile() const override { return file; }
+    QString originalName() const override { return original; }
+    bool isMemoryData() const override { return true; }
+    QList<PARTITIONNUMBER> partitions() const override { return held; }
+    QString partitionName(PARTITIONNUMBER number) const override { return named.value(number); }
+    QList<QVariantMap> customInfo() const override { return items; }
+    /// "%1" stands for the type, "%2" for the partition and "%3" for the session.
+    zeb::FileNameDetails fileNameDetails(int type, PARTITIONNUMBER number, int session,
+                                         const QDateTime&) const override {
+        const QString filled =
+            QString(details).replace("%1", QString::number(type)).replace("%2", QString::number(number));
+        return {QString(filled).replace("%3", QString::number(session)), saysSession};
+    }
+
+    QString where = "192.168.0.10";
+    int device = 0;
+    int head = 1;
+    int devices = 8;
+    int heads = 1;
+    QString file;
+    QString original = "first";
+    QMap<PARTITIONNUMBER, QString> named;
+    QList<PARTITIONNUMBER> held{1};
+    QList<QVariantMap> items;
+    QString details;
+    bool saysSession = false;
+};
+
+/// Preferences, modes and a disk that a test gives.
+struct GivenNames : NameSource {
+    QVariant pref(const QString& key) const override { return prefs.value(key); }
+    bool isFileMode() const override { return inFileMode; }
+    bool isMemoryMode() const override { return !inFileMode; }
+    std::optional<QString> fixedGroupDir() const override { return fixed; }
+    std::optional<QString> substituteFolder() const override { return substitute; }
+    bool isFolderTaken(const QString& path) const override { return allTaken || folders.contains(path + '/'); }
+    bool isPathTaken(const QString& path) const override { return allTaken || taken.contains(path); }
+    void setLastGroupDir(const QString& name) override { last += "group " + name; }
+    void setLastFolder(const QString& folder) override { last += "folder " + folder; }
+    void setLastPath(const QString& path) override { last += "path " + path; }
+    std::unique_ptr<NamedDocument> document(DOCKEY key) const override {
+        return key == 5 ? std::make_unique<GivenDocument>(other) : nullptr;
+    }
+    bool folderExists(const QString& path) const override { return disk.contains(path + '/'); }
+
+    /// The paths of `type`, and what it throws.
+    QString compose(int type, const NamedDocument* document, TargetPaths& out, bool replaceRoot = false, int mode = 0) {
+        try {
+            composeTargets(*this, type, document, replaceRoot, time, mode, out);
+            return {};
+        } catch (const std::exception& e) {
+            return e.what();
+        }
+    }
+
+    QVariantMap prefs;
+    bool inFileMode = false;
+    bool allTaken = false;
+    std::optional<QString> fixed;
+    std::optional<QString> substitute;
+    /// Promised to others.
+    QSet<QString> folders;
+    QSet<QString> taken;
+    /// What is there, by folder.
+    QMap<QString, QStringList> disk;
+    GivenDocument other;
+    QStringList last;
+    /// How often each folder has been listed.
+    mutable QMap<QString, int> listings;
+    QDateTime time{{2024, 1, 2}, {3, 4, 5}};
+
+private:
+    QStringList fileNames(const QString& folder) const override {
+        ++listings[folder];
+        return disk.value(folder);
+    }
+};
