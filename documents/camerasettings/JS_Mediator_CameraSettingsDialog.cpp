@@ -5,6 +5,7 @@
 #include "ConnectedDocs.h"
 #include "DOC_Control.h"
 #include "DOC_Interface.h"
+#include "DateText.h"
 #include "DocumentGuard.h"
 #include "FileNameRules.h"
 #include "LogFailure.h"
@@ -23,7 +24,6 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QLocale>
 #include <QWebView>
 
 namespace {
@@ -38,11 +38,6 @@ const QString DefaultTimeFormat = QStringLiteral("yyyyMMdd_HHmmss");
 
 QString compact(const QJsonObject& object) {
     return QString::fromUtf8(QJsonDocument(object).toJson(QJsonDocument::Compact));
-}
-
-/// The same on every machine, in whatever language.
-QString dateText(const QString& format) {
-    return QLocale::c().toString(QDateTime::currentDateTime(), format);
 }
 
 QVariantMap presetEntry(DOC_Interface& doc) {
@@ -96,7 +91,7 @@ QString JS_Mediator_CameraSettingsDialog::fullName() const {
     QString name = baseName();
     if (host().getPrefBool(AddTimePref)) {
         name += name.isEmpty() ? QString() : QStringLiteral("_");
-        name += dateText(timeFormat());
+        name += dateText(QDateTime::currentDateTime(), timeFormat());
     }
     return name % QLatin1Char('.') % m_fileTypes.first();
 }
@@ -120,7 +115,7 @@ QVariantList JS_Mediator_CameraSettingsDialog::getPresetList() {
 }
 
 QString JS_Mediator_CameraSettingsDialog::addDateTime(const QString& format) {
-    return dateText(format);
+    return dateText(QDateTime::currentDateTime(), format);
 }
 
 QString JS_Mediator_CameraSettingsDialog::recvFileNameDialogData() {
