@@ -89,7 +89,8 @@ module.exports = [
         languageOptions: {
             ecmaVersion: 2015,
             sourceType: 'script',
-            globals: Object.assign({}, browser, host, readonly(['app', 'items', 'CustomInfoDialog', 'cameraSettings']))
+            globals: Object.assign({}, browser, host, readonly(['app', 'items', 'CustomInfoDialog',
+                'cameraSettings', 'addnumberdialog']))
         },
         rules: pageRules
     },
