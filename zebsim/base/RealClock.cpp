@@ -1,7 +1,6 @@
 #include "RealClock.h"
 
-#include <chrono>
-#include <thread>
+#include "StopSource.h"
 
 RealClock::RealClock() {
     m_timer.start();
@@ -18,7 +17,7 @@ qint64 RealClock::now() const {
 
 void RealClock::wait(qint64 ms) {
     if (ms > 0) {
-        std::this_thread::sleep_for(std::chrono::duration<double, std::milli>(static_cast<double>(ms) / speed()));
+        StopSource::sleep(StopSource::Duration(static_cast<double>(ms) / speed()));
     }
 }
 

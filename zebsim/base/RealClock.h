@@ -6,7 +6,7 @@
 
 #include <mutex>
 
-/// Time as it passes, times a factor. `wait` sleeps. Any thread.
+/// Time as it passes, times a factor. `wait` sleeps, until the thread's `StopSource` is stopped. Any thread.
 class RealClock : public Clock {
 public:
     RealClock();
