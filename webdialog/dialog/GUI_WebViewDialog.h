@@ -31,7 +31,7 @@ public:
 
     GUI_WebView* getWebView() const { return m_view; }
     JS_Mediator_Dialog* getBridge() const { return m_bridge; }
-    /// One more bridge for the same page, owned. Call before the page has begun to run.
+    /// One more bridge for the same page, owned; "prefs" stays the dialog's own. Call before the page has begun to run.
     void addBridge(JS_Mediator* bridge);
 
 public Q_SLOTS:
