@@ -25,6 +25,8 @@ public:
     /// The device behind the camera: the name that the user gave it, empty for none, and its own.
     virtual QString getDeviceAlias(int mode) const = 0;
     virtual QString getDeviceName(int mode) const = 0;
+    /// Place of the device among all of the host, from 0; it keeps it while it is away.
+    virtual int getDeviceNumber() const = 0;
     /// Place of the head in its device, from 1.
     virtual int getHeadNumber() const = 0;
     /// Whether the document stands for a camera that is not there.

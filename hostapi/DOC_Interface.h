@@ -58,6 +58,17 @@ public:
     /// The documents of all heads of the device, the master first; null for one that is gone.
     virtual DocList getHeadDocs(int mode) = 0;
 
+    /// Heads of the device.
+    virtual int getHeadCount() const = 0;
+    /// Of a document that was read from a file: its path; empty for a camera.
+    virtual QString getSourceFilePath() const = 0;
+    /// What the document was called before anybody gave it another name.
+    virtual QString getOriginalName() const = 0;
+    /// Whether its images lie in the memory of a camera.
+    virtual bool isMemoryData() const = 0;
+
+    /// The partitions that hold a recording, in their order.
+    virtual QList<PARTITIONNUMBER> getPartitionList() const = 0;
     /// Name of a memory partition, from 1.
     virtual QString getPartitionName(PARTITIONNUMBER partition) const = 0;
     /// What is wrong with the camera, a text each; empty when nothing is.

@@ -1,9 +1,25 @@
 #pragma once
 
+#include <QString>
+
 /// Saving of images. GUI thread; no question here throws.
 class ZebSaver {
 public:
     virtual ~ZebSaver() = default;
+
+    /// While names are composed: the one name that the group directory of every camera has, and the folder that files
+    /// go to in the place of their own. False, and `out` as it was, when there is none.
+    virtual bool getFixedGroupDir(QString& out) const = 0;
+    virtual bool getSubstituteFolder(QString& out) const = 0;
+    /// What was composed last: the name of a group directory, a folder that ends in '/', the path of a file without
+    /// what its name ends in.
+    virtual void setLastGroupDir(const QString& name) = 0;
+    virtual void setLastFolder(const QString& folder) = 0;
+    virtual void setLastPath(const QString& path) = 0;
+    /// Whether another save has promised to write into a new folder of that path; and whether it, or an earlier target
+    /// of this one, has promised that file, without what its name ends in.
+    virtual bool isFolderTaken(const QString& path) const = 0;
+    virtual bool isPathTaken(const QString& path) const = 0;
 
     virtual bool isSaving() const = 0;
     /// Saving in the background, while the user works on.

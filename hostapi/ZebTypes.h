@@ -162,4 +162,10 @@ constexpr auto CommentSeparator = "{Separator}";
 /// Items of custom information that a camera takes.
 constexpr int MostCustomItems = 64;
 
+/// What a host adds to the name of a file, and whether it holds the session number that it was asked with.
+struct FileNameDetails {
+    QString text;
+    bool hasSession = false;
+};
+
 }  // namespace zeb

@@ -50,6 +50,16 @@ int CameraBank::search(const QString& network) {
     return int(answering.size());
 }
 
+Camera* CameraBank::searchAt(const QString& address) {
+    for (const auto& device : m_devices) {
+        if (device->address() == address && !device->heads().front()->isGone()) {
+            device->setFound(true);
+            waitFor({device.get()});
+        }
+    }
+    return listedAt(address);
+}
+
 void CameraBank::searchListed() {
     std::vector<const CameraDevice*> known;
     for (const auto& device : m_devices) {
@@ -108,6 +118,13 @@ std::vector<Camera*> CameraBank::all() const {
     return cameras;
 }
 
+Camera* CameraBank::listedAt(const QString& address) const {
+    const auto cameras = all();
+    const auto found = std::find_if(cameras.begin(), cameras.end(),
+                                    [&address](const Camera* camera) { return camera->address() == address; });
+    return found == cameras.end() ? nullptr : *found;
+}
+
 std::vector<Camera*> CameraBank::connected() const {
     std::vector<Camera*> cameras = all();
     cameras.erase(std::remove_if(cameras.begin(), cameras.end(),
@@ -140,6 +157,15 @@ std::vector<Camera*> CameraBank::known() const {
         cameras.push_back(camera.get());
     }
     return cameras;
+}
+
+int CameraBank::deviceNumberOf(const Camera& camera) const {
+    const auto isIts = [&camera](const auto& device) { return device.get() == &camera.device(); };
+    return int(std::distance(m_devices.begin(), std::find_if(m_devices.begin(), m_devices.end(), isIts)));
+}
+
+int CameraBank::deviceCount() const {
+    return int(std::count_if(m_devices.begin(), m_devices.end(), [](const auto& device) { return device->isFound(); }));
 }
 
 QString CameraBank::labelOf(const Camera& camera) const {

@@ -31,6 +31,8 @@ public:
     /// Finds the devices whose address begins with `network`, three octets; empty: all. It takes the time that the
     /// slowest of them takes to answer. Answers how many there are.
     int search(const QString& network);
+    /// The same of the device at that address, if it is there: its first head, null when none answers.
+    Camera* searchAt(const QString& address);
     /// Asks the devices that are known once more.
     void searchListed();
     /// Forgets all cameras, after they were disconnected; a search finds them again.
@@ -53,6 +55,12 @@ public:
     std::vector<Camera*> connected() const;
     /// With those that are gone or not found.
     std::vector<Camera*> known() const;
+    /// The first head, of those that are there, of the device at that address.
+    Camera* listedAt(const QString& address) const;
+    /// Place of the camera's device in the rig, from 0.
+    int deviceNumberOf(const Camera& camera) const;
+    /// Devices that are found, gone ones too.
+    int deviceCount() const;
     /// The camera's name, with its address where a known one is called alike.
     QString labelOf(const Camera& camera) const;
     /// Keys of `all`, and of those of them that are so, as `keysOf(&CameraState::selected)`.

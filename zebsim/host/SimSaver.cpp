@@ -3,10 +3,30 @@
 #include "HostCalls.h"
 #include "HostContext.h"
 #include "HostWindows.h"
+#include "Preferences.h"
 #include "StatusFlags.h"
 
 #include <QClipboard>
 #include <QGuiApplication>
+
+bool SimSaver::getName(const char* key, QString& out) const {
+    const QString name = m_host.prefs.value(QLatin1String(key)).toString();
+    out = name.isEmpty() ? out : name;
+    return !name.isEmpty();
+}
+
+void SimSaver::setLastGroupDir(const QString& name) {
+    m_host.calls.note("ZebSaver::setLastGroupDir", {name});
+}
+
+void SimSaver::setLastFolder(const QString& folder) {
+    m_host.calls.note("ZebSaver::setLastFolder", {folder});
+}
+
+void SimSaver::setLastPath(const QString& path) {
+    m_host.calls.note("ZebSaver::setLastPath", {path});
+    m_promises.promise(path);
+}
 
 bool SimSaver::isSaving() const {
     return m_host.flags.isOn(StatusFlags::IsSaving) || m_host.windows->isSaving();

@@ -1,6 +1,5 @@
 #include "SimControl.h"
 
-#include "CameraBank.h"
 #include "CameraError.h"
 #include "Notices.h"
 #include "ShutterText.h"

@@ -1,6 +1,7 @@
 #include "SimDocument.h"
 
 #include "ShutterText.h"
+#include "SimAppStatus.h"
 #include "SimDocManager.h"
 #include "TextKey.h"
 #include "Translator.h"
@@ -28,6 +29,23 @@ DocList SimDocument::getHeadDocs(int /*mode*/) {
         docs.append(m_host.docs.getDocAny(head->key()));
     }
     return docs;
+}
+
+bool SimDocument::isMemoryData() const {
+    ask(OPERATION("isMemoryData"));
+    return m_host.appStatus.mode() == zeb::MemoryMode;
+}
+
+QList<PARTITIONNUMBER> SimDocument::getPartitionList() const {
+    const Camera& camera = askConnected(OPERATION("getPartitionList"));
+    if (m_host.appStatus.mode() == zeb::LiveMode) {
+        return {camera.get(&CameraState::partition)};
+    }
+    QList<PARTITIONNUMBER> partitions;
+    for (const Recording& recording : camera.recordings()) {
+        partitions.append(recording.partition);
+    }
+    return partitions;
 }
 
 QString SimDocument::getPartitionName(PARTITIONNUMBER partition) const {

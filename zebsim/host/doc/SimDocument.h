@@ -41,6 +41,13 @@ public:
     }
     QString getDisplayName() const override { return ask(OPERATION("getDisplayName"), &CameraState::name); }
     DocList getHeadDocs(int mode) override;
+    int getHeadCount() const override { return int(ask(OPERATION("getHeadCount")).device().heads().size()); }
+    /// Every document is a camera's.
+    QString getSourceFilePath() const override { return {}; }
+    QString getOriginalName() const override { return ask(OPERATION("getOriginalName"), &CameraState::name); }
+    bool isMemoryData() const override;
+    /// In live mode the one in use, whatever it holds.
+    QList<PARTITIONNUMBER> getPartitionList() const override;
     /// "Partition 2", in the user's language, for one without a name.
     QString getPartitionName(PARTITIONNUMBER partition) const override;
     QStringList getAlerts() const override { return askConnected(OPERATION("getAlerts"), &CameraState::alerts); }

@@ -8,6 +8,10 @@ class SimHead : public DocTopic<DOC_Head> {
 public:
     using DocTopic::DocTopic;
 
+    int getDeviceCount() const override;
+    /// As the preferences of the family say it, see `FileNameDetails.h`.
+    zeb::FileNameDetails getFileNameDetails(int type, PARTITIONNUMBER partition, int session,
+                                            const QDateTime& time) const override;
     unsigned int getFrameTotal(int /*mode*/, int /*head*/) const override {
         const auto recording = askConnected(OPERATION("getFrameTotal")).recording();
         return recording ? recording->selectedCount() : 0;

@@ -1,0 +1,20 @@
+#include "SimHead.h"
+
+#include "CameraBank.h"
+#include "FileNameDetails.h"
+#include "Preferences.h"
+#include "SimAppStatus.h"
+
+int SimHead::getDeviceCount() const {
+    ask(OPERATION("getDeviceCount"));
+    return m_host.cameras.deviceCount();
+}
+
+zeb::FileNameDetails SimHead::getFileNameDetails(int type, PARTITIONNUMBER /*partition*/, int session,
+                                                 const QDateTime& /*time*/) const {
+    const Camera& camera = ask(OPERATION("getFileNameDetails"));
+    const NamedCamera named{camera.name(), m_host.cameras.deviceNumberOf(camera) + 1, camera.headNumber(),
+                            DeviceCounts{m_host.cameras.deviceCount(), int(camera.device().heads().size())}};
+    const auto pref = [this](const QString& key) { return m_host.prefs.value(key); };
+    return fileNameDetails(pref, type, m_host.appStatus.mode() == zeb::FileMode, named, session);
+}
