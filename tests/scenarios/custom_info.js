@@ -1,7 +1,7 @@
 // Custom information in the table: a list typed as fast as it goes, written, read back, applied to cameras some of which
 // fail, and what a slip of the hand must not lose.
 
-const within = name => `${zeb.pref('save/folder')}/${name}`;
+const within = name => `${zeb.pref('export/dir')}/${name}`;
 const P = text => zeb.page(text);
 const LIST = '.custom-data-list';
 const cell = (recid, column) => `#grid_wren-custom-data-list_rec_${recid} td[col="${column}"]`;

@@ -1,6 +1,6 @@
 // A file dialog takes every name that a user could choose in it, and what stands behind it is as it was when he leaves.
 
-const folder = zeb.pref('save/folder');
+const folder = zeb.pref('export/dir');
 const within = name => `${folder}/${name}`;
 zeb.open();
 zeb.window('activate');
@@ -35,5 +35,6 @@ zeb.setCamera(zeb.keys()[0], {connected: true, recorded: true, recordedRange: [0
 zeb.mode('memory');
 zeb.file(within('kept'));
 zeb.modal(() => ['Tab', 'Tab', 'Space', 'Return'].forEach(name => zeb.key(name)));
+zeb.modal(() => zeb.key('Return'));    // the plan
 zeb.menu('File > Save');
 check(zeb.results()[0].endsWith('kept'), 'the chosen folder is saved into');

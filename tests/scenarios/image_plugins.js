@@ -80,12 +80,12 @@ same([made(), state('memoryPlugin', 2, MOSAIC)], [['setPluginEffective 2 mosaic 
     'a locked row takes what works on recorded images alone');
 
 // What is seen is what is saved: the picture of the paused player, and that of a file.
-const folder = zeb.pref('save/folder');
+const folder = zeb.pref('export/dir');
 const saved = name => {
     zeb.save({folder: `${folder}/${name}`, format: 'png'});
     zeb.click('button.save-files');
     check(zeb.results()[0].startsWith('Camera 2: 1 frames saved in '), `${name} is saved`);
-    return zeb.pixels(`${folder}/${name}/Camera 2_00003.png`);
+    return zeb.pixels(`${folder}/${name}/Camera 2_C02H1S001_00003.png`);
 };
 zeb.setCamera(2, {locked: false, pluginValues: {lut: {black: 40, white: 180}, mosaic: {square: 32}}});
 const both = saved('both');

@@ -1,5 +1,6 @@
 // Reads the pictures of a folder, `read_frames FOLDER RATE NAME=CAMERA...`: whether each shows what its name says.
-// `NAME=CAMERA` for a camera that is called otherwise than its files. Prints a line for each camera and its numbers.
+// `NAME=CAMERA` for a camera that is called otherwise than its files, with or without its number text. Prints a line
+// for each camera and its numbers.
 #include "FramePicture.h"
 
 #include <QDir>
@@ -41,13 +42,14 @@ int main(int argc, char** argv) {
     for (const QString& pair : arguments.mid(3)) {
         cameras.insert(pair.section(QLatin1Char('='), 0, 0), pair.section(QLatin1Char('='), 1));
     }
-    const QRegularExpression pattern(QStringLiteral("^(.*)_(-?\\d+)\\.png$"));
+    const QRegularExpression pattern(QStringLiteral("^((.*?)(?:_C\\d+H\\d+S\\d+)?)_(-?\\d+)\\.png$"));
     QMap<QString, QList<qint64>> numbers;
     for (const QString& file : folder.entryList(QDir::Files | QDir::Hidden)) {
         const QRegularExpressionMatch match = pattern.match(file);
         const QString name = match.captured(1);
-        const qint64 number = match.captured(2).toLongLong();
-        if (!match.hasMatch() || !showsFrame(QImage(folder.filePath(file)), cameras.value(name, name), number, rate)) {
+        const QString camera = cameras.value(name, cameras.value(match.captured(2), match.captured(2)));
+        const qint64 number = match.captured(3).toLongLong();
+        if (!match.hasMatch() || !showsFrame(QImage(folder.filePath(file)), camera, number, rate)) {
             std::cerr << file.toStdString() << " does not show what its name says\n";
             return 1;
         }

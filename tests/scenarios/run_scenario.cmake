@@ -3,7 +3,7 @@
 set(folder ${PREFS}.saved)
 file(REMOVE_RECURSE ${folder})
 file(MAKE_DIRECTORY ${folder})
-file(WRITE ${PREFS} "[save]\nfolder=${folder}\n")
+file(WRITE ${PREFS} "[export]\ndir=${folder}\n[layout]\ndir=${folder}\n[snap]\ndir=${folder}\n")
 execute_process(COMMAND ${ZEBSIM} --prefs ${PREFS} --scenario ${SCENARIO} RESULT_VARIABLE status)
 if(NOT status EQUAL 0)
     message(FATAL_ERROR "${SCENARIO} ended with ${status}")

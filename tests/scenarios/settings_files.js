@@ -2,7 +2,7 @@
 // refusals and cameras that go, and from what lies in the devices themselves.
 
 const P = text => zeb.page(text);
-const folder = `${zeb.pref('save/folder')}/settings`;
+const folder = `${zeb.pref('export/dir')}/settings`;
 const told = () => zeb.messages();
 const STATES = ['connected', 'selected', 'locked', 'plugins', 'blockedPlugins', 'presets', 'preset', 'partition',
     'partitions', 'status', 'recordState', 'syncStatus', 'alerts', 'stopLive', 'playing', 'suspendReduce'];

@@ -2,15 +2,15 @@
 #include "CameraWindows.h"
 #include "ComeToFront.h"
 #include "CommandLine.h"
-#include "FileNames.h"
 #include "Files.h"
 #include "FramePicture.h"
 #include "ModalWatcher.h"
+#include "PlanDialog.h"
 #include "RigFile.h"
 #include "SaveDialog.h"
 #include "SaveJob.h"
-#include "SaveNames.h"
 #include "SaveProgress.h"
+#include "SaveTexts.h"
 #include "ScenarioDialogs.h"
 #include "Simulator.h"
 #include "ViewerWindow.h"
@@ -46,8 +46,9 @@ protected:
             host.cameras().find(key)->change(
                 {{"resolution", QVariantList{64, 64}}, {"selectedRange", QVariantList{9, 11}}});
         }
-        host.prefs().setValue("save/folder", folder.filePath("out"));
-        host.prefs().setValue("snapshot/folder", folder.filePath("snap"));
+        host.prefs().setValue("export/dir", folder.filePath("out"));
+        host.prefs().setValue("layout/dir", folder.filePath("out"));
+        host.prefs().setValue("snap/dir", folder.filePath("snap"));
     }
 
     QStringList filesIn(const char* name) const {
@@ -101,39 +102,53 @@ TEST_F(AppSaving, WritesWhatTheDialogShows) {
     EXPECT_FALSE(host.saver().isSaving());
     EXPECT_EQ(row, QStringList({"<b>%2</b>", "-1", "1", "3"}));
     EXPECT_EQ(filesIn("out").size(), 6);
-    EXPECT_EQ(host.prefs().value("save/format"), "jpeg");
+    EXPECT_EQ(host.prefs().value("export/format"), "jpeg");
 }
 
-TEST_F(AppSaving, TellsWhyThereIsNothingToSave) {
-    host.prefs().setValue("save/folder", folder.filePath("p.ini/below"));
-    dialogs.saves().order({});
-    host.saveLayoutFiles();
-    host.setRig(standardRig(1));
-    host.saveFiles();
-    EXPECT_EQ(messages(), QStringList({"There can't be a folder " + folder.filePath("p.ini/below") + ".",
-                                       "No connected camera has recorded images."}));
-    EXPECT_FALSE(host.saver().isSaving());
-}
-
-TEST_F(AppSaving, OffersAnotherFolderThanOneWithFiles) {
+TEST_F(AppSaving, ShowsThePlanAndGoesBackWithWhatWasTyped) {
     ASSERT_TRUE(QDir(folder.path()).mkpath("out/older"));
-    write(folder.filePath("out/Gate.mp4"), {});
+    const QString old = folder.filePath("out/Camera 2_C02H1_00001.png");
+    write(old, "old");
+    host.prefs().setValue("export/filenameaddnumbersessionnodigits", 0);
+    QStringList told;
+    QStringList paths;
     ModalWatcher watcher;
     QObject::connect(&watcher, &ModalWatcher::stands, [&](QDialog* dialog) {
-        auto* button = dialog->findChild<QPushButton*>("newSubfolder");
-        auto* field = dialog->findChild<QLineEdit*>("folder");
-        EXPECT_EQ(button->parentWidget()->findChild<QLabel*>()->text(), "Files that are in this folder already: 1");
-        button->click();
-        EXPECT_THAT(field->text().toStdString(), testing::MatchesRegex(".*/out/[0-9]+-[0-9]+"));
-        EXPECT_FALSE(button->isVisible());
-        field->setText("");
-        EXPECT_FALSE(button->isVisible()) << "no folder is not the present one";
-        dialog->reject();
+        if (auto* plan = qobject_cast<PlanDialog*>(dialog)) {
+            for (const PlanEntry& entry : plan->plan().entries) {
+                told << entryText(entry);
+            }
+            told << (plan->plan().isPossible() ? "possible" : "not possible");
+            plan->reject();
+            return;
+        }
+        auto* save = qobject_cast<SaveDialog*>(dialog);
+        if (save == nullptr) {
+            return;
+        }
+        save->accept();
+        save->findChild<QTableWidget*>("cameras")->setCurrentCell(1, 0);
+        paths << save->findChild<QLineEdit*>("path")->text();
+        save->findChild<QTableWidget*>("cameras")->item(0, 0)->setCheckState(Qt::Unchecked);
+        save->findChild<QLineEdit*>("folder")->setText(folder.filePath("p.ini/below"));
+        save->accept();
+        paths << save->findChild<QLineEdit*>("folder")->text();
+        save->reject();
     });
     host.saveFiles();
-    const QDateTime time({2026, 3, 1}, {9, 5});
-    EXPECT_EQ(newSubfolder("/out", time), "/out/20260301-090500");
-    EXPECT_EQ(newSubfolder("/out/20260228-235959", time), "/out/20260301-090500") << "they do not nest";
+    const QString out = folder.filePath("out/");
+    EXPECT_EQ(told.join('|').toStdString(),
+              QStringList({"Files that are in " + out + " already: 2",
+                           "Camera 2: 1 files exist already and are replaced, the first is " + old, "possible",
+                           "There can't be a folder " + folder.filePath("p.ini/below/") + ".", "not possible"})
+                  .join('|')
+                  .toStdString());
+    EXPECT_EQ(paths, QStringList({folder.filePath("out/Camera 2_C02H1_-00001.png"), folder.filePath("p.ini/below")}));
+    EXPECT_EQ(host.prefs().value("export/dir"), folder.filePath("out")) << "nobody has agreed";
+    EXPECT_EQ(contentOf(old), "old");
+    host.setRig(standardRig(1));
+    host.saveFiles();
+    EXPECT_EQ(messages(), QStringList("No connected camera has recorded images."));
 }
 
 TEST_F(AppSaving, TellsOfCamerasThatAreNotThere) {
@@ -180,18 +195,23 @@ TEST_F(AppSaving, TellsWhichFramesAreNotOfTheLastRecording) {
     second.set(&CameraState::partitions, 2);
     second.setPartition(2);
     second.change({{"recorded", true}, {"recordedRange", QVariantList{0, 2}}});
-    const QString away = "Camera 2: the last recording lies in partition 1. It is not saved.";
     const QString earlier = "Camera 1 (earlier recording)";
     dialogs.saves().order({});
     host.saveLayoutFiles();
-    EXPECT_EQ(results(),
-              QStringList({away, "Layout with " + earlier + ", Camera 2 (earlier recording): 3 frames saved in " +
-                                     QDir::toNativeSeparators(folder.filePath("out"))}));
-    const QImage picture(folder.filePath("out/Layout_00000.png"));
+    EXPECT_EQ(results(), QStringList("Layout with " + earlier + ", Camera 2 (earlier recording): 3 frames saved in " +
+                                     QDir::toNativeSeparators(folder.filePath("out"))));
+    const QImage picture(folder.filePath("out/Layout_S001_00000.png"));
     const QImage tile = picture.copy(60, 0, 360, 360).convertToFormat(QImage::Format_RGB32);
     EXPECT_EQ(tile, drawFrame({earlier, {64, 64}, -1, -1000, SensorNoise::of(first), {}}, {360, 360}))
         << "where its number stands too";
     EXPECT_EQ(lostByClosing(heldRecordings(host.cameras())).size(), 2U) << "a layout shows less than they hold";
+    dialogs.saves().order({});
+    host.saveFiles();
+    const QStringList lines = results();
+    EXPECT_TRUE(lines.value(1).startsWith("Camera 2, Partition 1: 3 frames saved in"))
+        << "whatever partition is in use";
+    EXPECT_TRUE(lines.value(2).startsWith("Camera 2 (earlier recording), Partition 2: 3 frames saved in"));
+    EXPECT_TRUE(filesIn("out").contains("Camera 2_C02H1S002_00000.png")) << "two that would have one name";
 }
 
 TEST_F(AppSaving, ShowsTheProgressOfMoreFramesThanAnIntCounts) {
@@ -199,13 +219,15 @@ TEST_F(AppSaving, ShowsTheProgressOfMoreFramesThanAnIntCounts) {
         host.cameras().find(key)->change({{"recordedRange", QVariantList{0, 2000000000}}});
         host.cameras().find(key)->change({{"selectedRange", QVariantList{key == 1 ? 2000000000 : 0, 2000000000}}});
     }
-    FileNames names;
-    SaveOrders orders{folder.filePath("out"), saveFormat("jpeg"), tracksOfEach(saveSources(host.cameras(), names)), {}};
+    SaveOrders orders{saveFormat("jpeg"), tracksOfEach(saveSources(host.cameras()))};
     orders.tracks.push_back(orders.tracks.back());
-    SaveJob job(host.cameras(), orders, [](const QString&) { return std::numeric_limits<qint64>::max(); });
+    for (std::size_t i = 0; i < orders.tracks.size(); ++i) {
+        orders.tracks[i].stem = folder.filePath(QString::number(i));
+    }
+    SaveJob job(host.cameras(), orders);
     const SaveProgress progress(job, nullptr);
-    ASSERT_FALSE(job.start());
-    EXPECT_TRUE(until([&job] { return !job.outcomes().isEmpty(); }));
+    job.start();
+    EXPECT_TRUE(until([&job] { return job.state().saved[0] == 1; }));
     const auto* bar = progress.findChild<QProgressBar*>();
     EXPECT_EQ(bar->value(), 0) << "one frame of four thousand million";
     EXPECT_GT(bar->maximum(), 0);
@@ -213,29 +235,30 @@ TEST_F(AppSaving, ShowsTheProgressOfMoreFramesThanAnIntCounts) {
 
 TEST_F(AppSaving, EndsWithTheApplication) {
     QDir(folder.path()).mkdir("out");
-    const QString old = folder.filePath("out/Camera 1_-00001.png");
+    const QString old = folder.filePath("out/Camera 1_C01H1_-00001.png");
     write(old, "old");
-    dialogs.saves().order({});
+    host.prefs().setValue("export/filenameaddnumbersessionnodigits", 0);
     ModalWatcher watcher;
     QObject::connect(&watcher, &ModalWatcher::stands, [&](QDialog* dialog) {
-        const auto* box = qobject_cast<QMessageBox*>(dialog);
-        if (box == nullptr) {
+        if (qobject_cast<PlanDialog*>(dialog) == nullptr) {
+            dialog->accept();
             return;
         }
-        EXPECT_EQ(box->defaultButton()->text(), "Skip camera");
+        EXPECT_FALSE(dialog->findChild<QPushButton*>("save")->isDefault());
         simulator.quit();
     });
     simulator.run([&] { host.saveFiles(); });
     EXPECT_EQ(filesIn("out").size(), 1);
-    EXPECT_EQ(contentOf(old), "old") << "a question that nobody has answered overwrites nothing";
+    EXPECT_EQ(contentOf(old), "old") << "a plan that nobody has agreed to replaces nothing";
 }
 
 TEST_F(AppSaving, IsCancelledByItsButtonAlone) {
-    host.cameras().find(2)->change({{"selectedRange", QVariantList{0, 2000}}});
+    host.cameras().find(2)->change(
+        {{"resolution", QVariantList{1024, 1024}}, {"selectedRange", QVariantList{0, 2000}}});
     dialogs.saves().order({});
     host.saveFiles();
     auto* progress = simulator.window().findChild<SaveProgress*>();
-    auto* button = progress->findChild<QPushButton*>();
+    auto* button = progress->findChild<QPushButton*>("cancel");
     for (const int key : {Qt::Key_Escape, Qt::Key_Return}) {
         QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier);
         QCoreApplication::sendEvent(progress, &press);
@@ -274,7 +297,7 @@ TEST_F(AppSaving, KeysMeanThePluginInFront) {
     action("saveLayout").trigger();
     results();
     EXPECT_EQ(raised, QStringList({"record", "file", "layout", "start"})) << "its timer rests while images are saved";
-    EXPECT_EQ(filesIn("out"), QStringList({"Layout_00000.png", "Layout_00001.png", "Layout_00002.png"}));
+    EXPECT_EQ(filesIn("out"), QStringList({"Layout_S001_00000.png", "Layout_S001_00001.png", "Layout_S001_00002.png"}));
     host.appStatus().unregisterPlugin(&plugin);
 }
 
@@ -290,12 +313,12 @@ TEST_F(AppSaving, TakesSnapshots) {
     host.saver().snapShot(2);
     EXPECT_EQ(QGuiApplication::clipboard()->image().size(), QSize(64, 64));
     ASSERT_EQ(filesIn("snap").size(), 2);
-    EXPECT_THAT(filesIn("snap").first().toStdString(), testing::MatchesRegex("Gate_1_[0-9]+-[0-9]+_001.png"));
+    EXPECT_THAT(filesIn("snap").first().toStdString(), testing::MatchesRegex("Gate_1_C01H1S00[12]_[0-9]+-[0-9]+.png"));
     const QImage first(folder.filePath("snap/" + filesIn("snap").first()));
     EXPECT_EQ(first.size(), QSize(64, 64));
     EXPECT_TRUE(first.text("Description").startsWith("{\"camera\":\"Gate/1\",\"rate\":1000,\"shutter\":1000,"));
     EXPECT_TRUE(first.textKeys().contains("frame") && !first.textKeys().contains("time")) << "live has no trigger";
-    host.prefs().setValue("snapshot/folder", folder.filePath("p.ini"));
+    host.prefs().setValue("snap/dir", folder.filePath("p.ini"));
     host.saver().snapShot(1);
     EXPECT_THAT(messages().join("|").toStdString(), testing::StartsWith(folder.filePath("p.ini").toStdString()));
 }

@@ -1,123 +1,52 @@
 #include "DOC_Control.h"
 #include "DOC_Frames.h"
 #include "DOC_Interface.h"
-#include "FileNames.h"
 #include "Files.h"
-#include "FramePicture.h"
 #include "FullDisk.h"
 #include "LastShoot.h"
-#include "SaveJob.h"
-#include "SaveNames.h"
-#include "Until.h"
-#include "support/TestHost.h"
-
-#include <QDir>
-#include <QFile>
-#include <QImageReader>
-#include <QProcess>
-#include <QStandardPaths>
-
-#include <gtest/gtest.h>
+#include "RealClock.h"
+#include "Unprivileged.h"
+#include "support/SavingTest.h"
 
 namespace {
 
-constexpr QSize Size{64, 48};
-
-/// Three cameras, the second without a recording; two frames are to be kept of the first and three of the third.
-class Saving : public testing::Test {
-protected:
-    Saving() {
-        prepare(1, "Gate", 99, 100);
-        prepare(3, "Nozzle/2", 100, 102);
-        host.camera(2).change({{"connected", true}});
-    }
-
-    void prepare(DOCKEY key, const QString& name, int first, int last) {
-        host.camera(key).change({{"name", name}, {"connected", true}, {"recorded", true}, {"recordedRate", 1000}});
-        host.camera(key).change({{"resolution", QVariantList{Size.width(), Size.height()}}, {"recordedTrigger", 100}});
-        host.camera(key).change(
-            {{"recordedRange", QVariantList{0, 499}}, {"selectedRange", QVariantList{first, last}}});
-    }
-    SensorNoise noise(DOCKEY key) { return SensorNoise::of(host.camera(key)); }
-    SaveSources sources() { return saveSources(host.host.cameras(), fileNames); }
-    SaveOrders orders(const char* format = "png") {
-        const auto ask = [this](const QString& file) {
-            asked << QFileInfo(file).fileName();
-            return answer;
-        };
-        return {path(""), saveFormat(format), tracksOfEach(sources()), ask};
-    }
-    /// What became of each track, as "Gate: 2 of 2 up to 0, saved".
-    QStringList run(const SaveOrders& wanted, const std::function<void(SaveJob&)>& atEachTurn = {}) {
-        static const QStringList ends = {"saved", "lost", "failed", "skipped", "cancelled"};
-        SaveJob job(host.host.cameras(), wanted);
-        QObject::connect(&job, &SaveJob::progressed, [&] {
-            if (atEachTurn) {
-                atEachTurn(job);
-            }
-        });
-        EXPECT_FALSE(job.start());
-        EXPECT_TRUE(until([&job] { return !job.isRunning(); }));
-        QStringList texts;
-        for (const SaveOutcome& outcome : job.outcomes()) {
-            texts << QStringLiteral("%1: %2 of %3 up to %4, %5")
-                         .arg(outcome.name)
-                         .arg(outcome.saved)
-                         .arg(outcome.frames)
-                         .arg(outcome.lastNumber)
-                         .arg(ends.at(outcome.end));
-            reason = outcome.reason;
-            failedFile = outcome.file.isEmpty() ? failedFile : QFileInfo(outcome.file).fileName();
-        }
-        return texts;
-    }
-    QString path(const QString& name) const { return QDir(folder.path()).filePath(name); }
-    QStringList files() const { return QDir(folder.path()).entryList(QDir::Files | QDir::Hidden, QDir::Name); }
-    void writeOld(const QString& name) const { write(path(name), "old"); }
-    bool isOld(const QString& name) const { return contentOf(path(name)) == "old"; }
-
-    TestHost host{standardRig(3)};
-    QTemporaryDir folder;
-    FileNames fileNames{{"Layout"}};
-    Overwrite answer = Overwrite::This;
-    QStringList asked;
-    QString failedFile;
-    /// Of the last track.
-    QString reason;
-};
+using Saving = SavingTest;
 
 const QStringList AllFiles = {"Gate_-00001.png", "Gate_00000.png", "Nozzle_2_00000.png", "Nozzle_2_00001.png",
                               "Nozzle_2_00002.png"};
+const QString GateSaved = "Gate: 2 of 2 up to 0, saved";
 const QString NozzleSaved = "Nozzle/2: 3 of 3 up to 2, saved";
 
-TEST_F(Saving, WritesTheChosenFramesAndNoOthers) {
-    int atNext = -1;
-    const auto follow = [&atNext](const SaveJob& job) {
-        if (job.isRunning() && job.outcomes().size() == 1 && atNext < 0) {
-            atNext = job.frame();
-        }
-    };
+TEST_F(Saving, WritesTheChosenFramesSoThatOthersReadThem) {
     host.camera(3).change({{"effectivePlugins", QStringList{"filter", "mosaic", "lut"}},
                            {"pluginValues", QVariantMap{{"lut", QVariantMap{{"white", 160}}}}}});
-    for (const char* format : {"png", "tiff", "jpeg"}) {
-        EXPECT_EQ(run(orders(format), follow), QStringList({"Gate: 2 of 2 up to 0, saved", NozzleSaved})) << format;
+    const auto kind = [](const char* id, int depth, TiffCompression compression = TiffCompression::Lzw) {
+        SaveFormat format = saveFormat(id);
+        format.options.depth = depth;
+        format.options.compression = compression;
+        return format;
+    };
+    for (const SaveFormat& format :
+         {kind("png", 8), kind("png", 16), kind("tiff", 8), kind("tiff", 16), kind("tiff", 8, TiffCompression::None),
+          kind("tiff", 16, TiffCompression::PackBits), kind("tiff", 16, TiffCompression::Deflate), kind("bmp", 8),
+          kind("jpeg", 8)}) {
+        SaveOrders wanted = orders();
+        wanted.format = format;
+        EXPECT_EQ(run(wanted), QStringList({GateSaved, NozzleSaved})) << format.id.toStdString();
         QStringList expected = AllFiles;
-        expected.replaceInStrings("png", saveFormat(format).suffix);
-        EXPECT_EQ(files(), expected);
-        for (const QString& file : files()) {
-            const QImage read = QImageReader(path(file)).read().convertToFormat(QImage::Format_RGB32);
-            const int number = file.section('_', -1).section('.', 0, 0).toInt();
-            const QString camera = file.startsWith('G') ? "Gate" : "Nozzle/2";
-            CameraFrame frame{camera, Size, number, qint64(number) * 1000, noise(camera == "Gate" ? 1 : 3), {}};
-            frame.effects = camera == "Gate" ? FrameEffects() : effectsOf(host.camera(3).state(), zeb::MemoryMode);
-            const QImage drawn = drawFrame(frame, Size);
-            EXPECT_EQ(read.size(), Size) << file.toStdString();
-            EXPECT_TRUE(read == drawn || qstrcmp(format, "jpeg") == 0) << file.toStdString();
-            QFile::remove(path(file));
+        EXPECT_EQ(files(), expected.replaceInStrings("png", format.suffix));
+        const int depth = format.options.depth;
+        for (const SaveTrack& track : wanted.tracks) {
+            const QString file = fileOf(track, format, 5, 1);
+            const QByteArray read = readByOthers(file, depth);
+            EXPECT_EQ(read.size(), Size.width() * Size.height() * 3 * depth / 8);
+            EXPECT_TRUE(read == pixelsOf(track.picture(1), depth) || format.id == "jpeg") << file.toStdString();
         }
+        removeFiles();
     }
-    EXPECT_EQ(asked, QStringList());
-    EXPECT_EQ(atNext, 0) << "a camera begins at none, not where the one before has ended";
+    const CameraFrame second{
+        "Nozzle/2", Size, 1, 1000, SensorNoise::of(host.camera(3)), effectsOf(host.camera(3).state(), zeb::MemoryMode)};
+    EXPECT_EQ(orders().tracks[1].picture(1), drawFrame(second, Size));
 }
 
 /// The text in a saved picture. Qt's reader of TIFF files passes over it.
@@ -135,7 +64,7 @@ TEST_F(Saving, TellsInEachFileWhatItShows) {
     };
     const QString hostile = QString::fromUtf8("<b>\"\\  é\n\xf0\x9f\x93\xb7");
     const QString name = QString::fromUtf8("圧力 \"1\"");
-    const QString stem = path(QString::fromUtf8("圧力 _1__-00001."));
+    const QString longer(2000, 'x');
     host.camera(1).change({{"shutter", 500}, {"recordedShutter", 8000}, {"rate", 60}, {"name", name}});
     host.camera(1).change({{"customInfo", QVariantList{item("next", "1", true)}}});
     host.camera(1).change({{"recordedCustomInfo", QVariantList{item("hidden", "1", false), item("p", hostile, true)}}});
@@ -144,10 +73,15 @@ TEST_F(Saving, TellsInEachFileWhatItShows) {
         "\\\"1\\\"\",\"rate\":1000,\"shutter\":8000,\"frame\":-1,\"time\":-0.001000,\"items\":[{\"name\":"
         "\"p\",\"value\":\"<b>\\\"\\\\  \\u00e9\\u000a\\ud83d\\udcf7\",\"unit\":\"bar\"}]}";
     for (const char* format : {"png", "tiff", "jpeg"}) {
-        run(orders(format));
-        EXPECT_EQ(textIn(stem % saveFormat(format).suffix), text) << format;
+        const SaveOrders wanted = orders(format);
+        run(wanted);
+        const QString file = fileOf(wanted.tracks[0], wanted.format, 5, 0);
+        EXPECT_EQ(textIn(file), text) << format;
+        if (wanted.format.id == "png") {
+            EXPECT_EQ(QImage(file).text("camera"), name);
+            EXPECT_EQ(QImage(file).text("time"), "-0.001000");
+        }
     }
-    EXPECT_EQ(QImage(stem % "png").text("camera"), name);
     host.camera(1).change({{"triggerOffset", 60}, {"triggerOffsetEnabled", true}});
     EXPECT_TRUE(orders().tracks[0].metadata(0).description.contains("\"frame\":39,\"time\":-0.001000"))
         << "from the trigger";
@@ -164,148 +98,247 @@ TEST_F(Saving, CountsFramesAsTheTableDoes) {
     }
 }
 
-TEST_F(Saving, NamesFilesSoThatEverySystemTakesThem) {
-    EXPECT_EQ(fileNameOf("a/b\\c:d*e?f\"g<h>i|j\nk"), "a_b_c_d_e_f_g_h_i_j_k");
-    EXPECT_EQ(fileNameOf(" ../.. "), "_..");
-    EXPECT_EQ(fileNameOf(" . "), "camera");
-    EXPECT_EQ(fileNameOf(QString(100, QChar(0x9AD8))).toUtf8().size(), 198);
-    EXPECT_EQ(frameNumberText(-512), "-00512");
-    EXPECT_EQ(frameNumberText(1234567), "1234567");
-}
-
-TEST_F(Saving, CallsTheFilesOfNoTwoCamerasAlike) {
-    FileNames names({"Layout"});
-    for (const auto& [cameras, called] : std::initializer_list<std::pair<const char*, const char*>>{
-             {"Gate gATE a/b a:b Roof", "Gate_0 gATE_1 a_b_2 a_b_3 Roof"},
-             {"Gate Gate Gate_0", "Gate_0 Gate_1 Gate_0_2"},
-             {"Door Roof Track Wall Roof", "Door Roof_1 Track Wall Roof_4"},
-             {"Track Layout Door Hall Roof", "Track_0 Layout_1 Door_2 Hall Roof"}}) {
-        QList<NamedCamera> known;
-        for (const QString& name : QString(cameras).split(' ')) {
-            known.append({name, QString::number(known.size())});
-        }
-        EXPECT_EQ(names.of(known).join(' ').toStdString(), called) << "as some of them were called before";
+TEST_F(Saving, TakesAllPartitionsInWhateverIsInUse) {
+    for (const PARTITIONNUMBER partition : {2, 3}) {
+        host.camera(1).change({{"partitions", 3}, {"partition", partition}});
+        prepare(1, "Gate", 97, 100);
     }
-}
-
-TEST_F(Saving, NeverWritesOverAnotherCamerasFrames) {
-    host.camera(3).set(&CameraState::name, "gate");
-    answer = Overwrite::All;
-    run(orders());
-    const QString first = path("Gate_192.168.0.11_00000.png");
-    const QImage written(first);
-    ASSERT_FALSE(written.isNull());
-    host.host.faults().plant(1, "*", {{}, 0, true});
-    for (const char* name : {"gate", "GATE_192.168.0.11"}) {
-        host.camera(3).set(&CameraState::name, name);
-        run(orders());
-        EXPECT_EQ(QImage(first), written) << name;
+    host.camera(1).change({{"partition", 2}});
+    SaveOrders wanted = orders();
+    QStringList names;
+    for (SaveTrack& track : wanted.tracks) {
+        names << QStringLiteral("%1 of %2").arg(track.sources[0].partition()).arg(track.sources[0].key());
+        track.stem += names.last();
     }
-    EXPECT_EQ(files().size(), 2 + 3 + 3);
+    EXPECT_EQ(names, QStringList({"1 of 1", "2 of 1", "3 of 1", "1 of 3"}));
+    EXPECT_EQ(run(wanted),
+              QStringList({GateSaved, "Gate: 4 of 4 up to 0, saved", "Gate: 4 of 4 up to 0, saved", NozzleSaved}));
+    EXPECT_EQ(files().size(), 2 + 4 + 4 + 3);
+    EXPECT_TRUE(host.camera(1).recordingOf(1)->saved && host.camera(1).recordingOf(3)->saved);
+    SaveTrack& track = wanted.tracks[1];
+    track.stem = "/a/G";
+    track.from = 1;
+    EXPECT_EQ(filesIn(track, saveFormat("png")), 3);
+    EXPECT_EQ(filesIn(track, saveFormat("video")), 1);
+    EXPECT_EQ(fileOf(track, saveFormat("png"), 3, 2), "/a/G_-001.png");
+    EXPECT_EQ(fileOf(track, saveFormat("video"), 3, 2), "/a/G.mp4");
 }
 
-TEST_F(Saving, AsksBeforeItOverwrites) {
-    const struct {
-        Overwrite answer;
-        QStringList outcomes, asked, old;
-    } cases[] = {
-        {Overwrite::This, {"Gate: 2 of 2 up to 0, saved", NozzleSaved}, {AllFiles[1], AllFiles[2]}, {}},
-        {Overwrite::All, {"Gate: 2 of 2 up to 0, saved", NozzleSaved}, {AllFiles[1]}, {}},
-        {Overwrite::SkipCamera,
-         {"Gate: 1 of 2 up to -1, skipped", "Nozzle/2: 0 of 3 up to 0, skipped"},
-         {AllFiles[1], AllFiles[2]},
-         {AllFiles[1], AllFiles[2]}},
-        {Overwrite::Cancel,
-         {"Gate: 1 of 2 up to -1, cancelled", "Nozzle/2: 0 of 3 up to 0, cancelled"},
-         {AllFiles[1]},
-         {AllFiles[1], AllFiles[2]}},
-    };
-    for (const auto& one : cases) {
-        writeOld(AllFiles[1]);
-        writeOld(AllFiles[2]);
-        answer = one.answer;
-        asked.clear();
-        EXPECT_EQ(run(orders()), one.outcomes);
-        EXPECT_EQ(asked, one.asked);
-        for (const QString& name : {AllFiles[1], AllFiles[2]}) {
-            EXPECT_EQ(isOld(name), one.old.contains(name));
-        }
-        for (const QString& name : files()) {
-            QFile::remove(path(name));
-        }
-    }
+TEST_F(Saving, WritesOverNothingButWhatItMay) {
+    const QString appeared = "a file of that name has appeared meanwhile";
+    write(path(AllFiles[1]), "old");
+    write(path(AllFiles[2]), "old");
+    SaveOrders wanted = orders();
+    wanted.mayReplace = {path(AllFiles[2])};
+    EXPECT_EQ(run(wanted), QStringList({"Gate: 1 of 2 up to -1, failed", NozzleSaved}));
+    EXPECT_EQ(failedFile, AllFiles[1]);
+    EXPECT_EQ(contentOf(path(AllFiles[1])), "old");
+    EXPECT_FALSE(QImage(path(AllFiles[2])).isNull());
+    EXPECT_EQ(files(), AllFiles);
+    QFile::remove(path(AllFiles[1]));
+    SaveOrders again = orders();
+    again.tracks[0].from = 1;
+    again.tracks.pop_back();
+    EXPECT_EQ(run(again), QStringList("Gate: 1 of 1 up to 0, saved")) << "where the last one ended";
+    EXPECT_EQ(run(again), QStringList("Gate: 0 of 1 up to 0, failed"));
+    EXPECT_EQ(reason, appeared);
+    EXPECT_TRUE(host.camera(1).recording()->saved);
 }
 
-TEST_F(Saving, RefusesBeforeTheFirstByte) {
-    qint64 room = 0;
-    const auto refusal = [&](const SaveOrders& wanted) {
-        return SaveJob(host.host.cameras(), wanted, [&](const QString& /*folder*/) { return room; }).start();
-    };
-    const qint64 needed = refusal(orders())->needed;
-    EXPECT_GT(needed, 5 * 200) << "five small pictures";
-    room = needed - 1;
-    EXPECT_EQ(refusal(orders())->available, needed - 1);
-    room = needed;
-    EXPECT_FALSE(refusal(orders()));
-    writeOld("file");
-    SaveOrders nowhere = orders();
-    nowhere.folder = path("file/below");
-    EXPECT_EQ(refusal(nowhere)->needed, -1);
-    EXPECT_EQ(files(), QStringList("file"));
-}
-
-TEST_F(Saving, GoesOnAfterAFileThatCannotBeWritten) {
+TEST_F(Saving, LosesNoOtherTrackByAFileOrFolderThatCannotBeWritten) {
     ASSERT_TRUE(QDir().mkpath(path("Gate_00000.png/x")));
-    EXPECT_EQ(run(orders()), QStringList({"Gate: 1 of 2 up to -1, failed", NozzleSaved}));
-    EXPECT_EQ(failedFile, "Gate_00000.png");
-    EXPECT_EQ(files().size(), 4);
+    ASSERT_TRUE(QDir().mkpath(path("locked")));
+    QFile::setPermissions(path("locked"), QFile::ReadOther | QFile::ExeOther | QFile::ReadOwner | QFile::ExeOwner);
+    QFile::setPermissions(folder.path(), QFile::Permissions(0x7777));
+    write(path("file"), "old");
+    const struct {
+        const char *what, *stem, *outcome, *file;
+    } cases[] = {{"a folder of that name", "Gate", "Gate: 1 of 2 up to -1, failed", "Gate_00000.png"},
+                 {"a folder that can't be made", "file/below/Gate", "Gate: 0 of 2 up to 0, failed", "below"},
+                 {"a folder that can only be read", "locked/Gate", "Gate: 0 of 2 up to 0, failed", "Gate_-00001.png"},
+                 {"a new folder", "new/er/Gate", "Gate: 2 of 2 up to 0, saved", ""}};
+    const Unprivileged user;
+    for (const auto& one : cases) {
+        SaveOrders wanted = orders();
+        wanted.tracks[0].stem = path(one.stem);
+        wanted.mayReplace = {path("Gate_00000.png")};
+        failedFile.clear();
+        EXPECT_EQ(run(wanted), QStringList({one.outcome, NozzleSaved})) << one.what;
+        EXPECT_EQ(failedFile, one.file) << one.what;
+        removeFiles();
+        write(path("file"), "old");
+    }
 }
 
 TEST_F(Saving, LeavesOldPicturesWholeOnAFullDisk) {
-    writeOld(AllFiles[1]);
+    write(path(AllFiles[1]), "old");
     host.camera(1).set(&CameraState::selectedRange, {100, 100});
-    {
+    SaveOrders wanted = orders();
+    wanted.mayReplace = {path(AllFiles[1])};
+    for (const bool pages : {true, false}) {
+        wanted.format = saveFormat(pages ? "tiff" : "png");
+        wanted.format.options.isMultiPage = pages;
         const FullDisk disk(100);
-        EXPECT_EQ(run(orders()), QStringList({"Gate: 0 of 1 up to 0, failed", "Nozzle/2: 0 of 3 up to 0, failed"}));
+        EXPECT_EQ(run(wanted), QStringList({"Gate: 0 of 1 up to 0, failed", "Nozzle/2: 0 of 3 up to 0, failed"}));
+        EXPECT_EQ(reason, "File too large");
     }
-    EXPECT_TRUE(isOld(AllFiles[1]) && files().size() == 1 && !host.camera(1).recording()->saved);
-    run(orders());
+    EXPECT_TRUE(contentOf(path(AllFiles[1])) == "old" && files().size() == 1 && !host.camera(1).recording()->saved);
+    run(wanted);
     EXPECT_TRUE(host.camera(1).recording()->saved);
 }
 
 TEST_F(Saving, LosesACameraAtAnyFrameAndNoOther) {
-    prepare(2, "Ramp", 99, 101);
-    const QStringList ramp = {"Ramp: 0 of 3 up to 0, lost", "Ramp: 1 of 3 up to -1, lost",
-                              "Ramp: 2 of 3 up to 0, lost"};
-    for (int frame = 0; frame < 3; ++frame) {
-        for (const Fault& fault : {Fault{"it is too hot", 0, false}, Fault{{}, 0, true}}) {
-            host.host.faults().plantAt(3 + frame, fault);
-            EXPECT_EQ(run(orders()), QStringList({"Gate: 2 of 2 up to 0, saved", ramp[frame], NozzleSaved}));
-            EXPECT_EQ(files().size(), 5 + frame);
+    for (const Fault& fault : {Fault{"it is too hot", 0, false}, Fault{{}, 0, true}}) {
+        for (int frame = 0; frame < 3; ++frame) {
+            SaveOrders alone = orders();
+            alone.tracks.erase(alone.tracks.begin());
+            host.host.faults().plantAt(1 + frame, fault);
+            EXPECT_EQ(
+                run(alone),
+                QStringList(QStringLiteral("Nozzle/2: %1 of 3 up to %2, lost").arg(frame).arg(std::max(0, frame - 1))));
+            EXPECT_EQ(files(), QStringList(AllFiles.mid(2, frame)));
+            EXPECT_EQ(reason, fault.gone ? "the camera is gone" : "it is too hot");
             host.host.faults().clear();
-            for (const QString& name : files()) {
-                QFile::remove(path(name));
-            }
+            removeFiles();
         }
+        host.host.faults().plant(1, "readFrame", fault);
+        EXPECT_EQ(run(orders()), QStringList({"Gate: 0 of 2 up to 0, lost", NozzleSaved}));
+        host.host.faults().clear();
+        removeFiles();
     }
-    host.host.faults().plant(3, "readFrame", {"it is too hot", 0, false});
-    run(orders(), [&](const SaveJob& /*job*/) { host.camera(3).set(&CameraState::name, "N"); });
-    EXPECT_EQ(reason, "it is too hot") << "whatever the camera is called by then";
-    host.host.faults().clear();
-    prepare(3, "Nozzle/2", 100, 102);
-    // The memory is filled anew, or the cameras are others now.
-    const auto afterOne = [](const std::function<void()>& work) {
-        return [work](SaveJob& job) {
-            if (job.outcomes().isEmpty() && job.frame() == 1) {
-                work();
+}
+
+/// Tells of each wait, on the thread that waits.
+struct TellingClock : SteppedClock {
+    std::function<void()> tell;
+    void wait(qint64 ms) override {
+        if (ms > 0) {
+            tell();
+        }
+        SteppedClock::wait(ms);
+    }
+};
+
+TEST(SavingWhileItChanges, LosesARecordingThatIsMadeAnewAndCamerasOfAnotherRig) {
+    for (const bool rig : {true, false}) {
+        TellingClock clock;
+        ScriptedDesk desk;
+        const QTemporaryDir folder;
+        SimHost host(clock, desk, folder.filePath("prefs.ini"));
+        host.setRig(connected(2));
+        for (Camera* camera : host.cameras().all()) {
+            camera->change({{"recorded", true}, {"resolution", QVariantList{64, 64}}});
+            camera->change({{"recordedRange", QVariantList{0, 2}}, {"selectedRange", QVariantList{0, 2}}});
+        }
+        const auto held = host.cameras().hold(1);
+        int reads = 0;
+        clock.tell = [&] {
+            if (++reads == 2 && rig) {
+                QMetaObject::invokeMethod(
+                    &host.journal(), [&] { host.setRig(connected(2)); }, Qt::BlockingQueuedConnection);
+            } else if (reads == 2) {
+                held->keep(1, held->recording());
             }
         };
-    };
-    const auto anew = [&] { host.camera(1).keep(1, host.camera(1).recording()); };
-    EXPECT_EQ(run(orders(), afterOne(anew)).first(), "Gate: 1 of 2 up to -1, lost");
-    EXPECT_EQ(
-        run(orders(), afterOne([&] { host.host.setRig(standardRig(3)); })),
-        QStringList({"Gate: 1 of 2 up to -1, lost", "Ramp: 0 of 3 up to 0, lost", "Nozzle/2: 0 of 3 up to 0, lost"}));
+        host.faults().plant(1, "readFrame", {{}, 1, false});
+        SaveOrders orders{saveFormat("jpeg"), tracksOfEach(saveSources(host.cameras()))};
+        orders.tracks.pop_back();
+        orders.tracks.front().stem = folder.filePath("Gate");
+        SaveJob job(host.cameras(), orders);
+        job.start();
+        ASSERT_TRUE(until([&job] { return !job.isRunning(); }));
+        EXPECT_EQ(job.outcomes().front().reason, rig ? "the camera is gone" : "the recording is gone");
+        EXPECT_EQ(job.outcomes().front().saved, 1);
+    }
+}
+
+TEST_F(Saving, ReadsCamerasSideBySide) {
+    host.host.setRig(standardRig(8));
+    for (DOCKEY key = 1; key <= 8; ++key) {
+        prepare(key, QString::number(key), 0, 63);
+        host.host.faults().plant(key, "readFrame", {{}, 50, false});
+    }
+    for (const bool layout : {false, true}) {
+        SaveOrders wanted = orders("jpeg");
+        if (layout) {
+            wanted.tracks = tracksOfLayout(sources(), "Layout");
+            wanted.tracks.front().stem = path("Layout");
+        }
+        EXPECT_EQ(run(wanted).filter("saved").size(), layout ? 1 : 8);
+        EXPECT_EQ(host.clock.join(), 64 * 50);
+    }
+    EXPECT_EQ(files().size(), 9 * 64);
+}
+
+TEST(SavingWithoutAnswer, HoldsUpNoOtherCameraAndNoCancel) {
+    for (const bool cancelled : {true, false}) {
+        RealClock clock;
+        ScriptedDesk desk;
+        const QTemporaryDir folder;
+        SimHost host(clock, desk, folder.filePath("prefs.ini"));
+        host.setRig(connected(3));
+        for (Camera* camera : host.cameras().all()) {
+            camera->change({{"recorded", true}, {"resolution", QVariantList{64, 64}}});
+            camera->change({{"recordedRange", QVariantList{0, 19}}, {"selectedRange", QVariantList{0, 19}}});
+        }
+        host.faults().plant(2, "readFrame", {{}, std::numeric_limits<int>::max(), false});
+        SaveOrders orders{saveFormat("png"), tracksOfEach(saveSources(host.cameras()))};
+        for (SaveTrack& track : orders.tracks) {
+            track.stem = folder.filePath(track.name);
+        }
+        SaveJob job(host.cameras(), orders);
+        job.start();
+        ASSERT_TRUE(until([&job] { return job.state().saved == std::vector<int>({20, 0, 20}); }));
+        EXPECT_TRUE(job.isRunning());
+        if (!cancelled) {
+            continue;  // and destroyed
+        }
+        job.cancel();
+        ASSERT_TRUE(until([&job] { return !job.isRunning(); }));
+        QList<int> ends;
+        for (const SaveOutcome& outcome : job.outcomes()) {
+            ends << outcome.end;
+        }
+        EXPECT_EQ(ends, QList<int>({SaveOutcome::Saved, SaveOutcome::Cancelled, SaveOutcome::Saved}));
+        EXPECT_EQ(job.outcomes()[1].name, "Camera 2");
+        EXPECT_TRUE(host.cameras().find(1)->recording()->saved);
+    }
+}
+
+TEST_F(Saving, EndsWithWholeFilesAndTellsThemWhenItIsCancelled) {
+    prepare(3, "Nozzle/2", 0, 499);
+    SaveJob job(host.host.cameras(), orders());
+    job.start();
+    ASSERT_TRUE(until([&job] { return job.state().saved[1] > 0; }));
+    job.cancel();
+    ASSERT_TRUE(until([&job] { return !job.isRunning(); }));
+    told(job);
+    int saved = 0;
+    for (const SaveOutcome& outcome : job.outcomes()) {
+        saved += outcome.saved;
+    }
+    EXPECT_EQ(job.outcomes()[1].end, SaveOutcome::Cancelled);
+    EXPECT_EQ(files().size(), saved);
+    for (const QString& name : files()) {
+        EXPECT_FALSE(QImage(path(name)).isNull()) << name.toStdString();
+    }
+}
+
+TEST_F(Saving, LaysTheCamerasSideBySide) {
+    SaveOrders layout = orders();
+    layout.tracks = tracksOfLayout(sources(), "Layout");
+    layout.tracks.front().stem = path("Layout");
+    host.host.faults().plant(1, "readFrame", {"it is too hot", 0, false});
+    EXPECT_EQ(run(layout), QStringList({"Gate: 0 of 2 up to 0, lost", "Layout: 3 of 3 up to 2, saved"}));
+    EXPECT_EQ(files(), QStringList({"Layout_00000.png", "Layout_00001.png", "Layout_00002.png"}));
+    const QImage last(path("Layout_00002.png"));
+    ASSERT_EQ(last.size(), QSize(960, 360));
+    const QSize tile = fitInto({480, 360}, Size);
+    const QImage right =
+        last.copy(480 + (480 - tile.width()) / 2, (360 - tile.height()) / 2, tile.width(), tile.height());
+    const CameraFrame frame{"Nozzle/2", Size, 2, 2000, SensorNoise::of(host.camera(3)), {}};
+    EXPECT_EQ(right.convertToFormat(QImage::Format_RGB32), drawFrame(frame, tile));
+    EXPECT_EQ(last.pixel(240, 180), QColor(24, 26, 30).rgb()) << "nothing is shown of the lost one";
 }
 
 TEST_F(Saving, KnowsWhoHasRecordedAndIsNotThereAnyMore) {
@@ -346,7 +379,7 @@ TEST_F(Saving, KnowsWhoHasRecordedAndIsNotThereAnyMore) {
         {"a new shoot without it", [&] { connect(3, true), shoot(); }, {}},
         {"one uses another partition",
          [&] { host.camera(2).set(&CameraState::partitions, 2), host.camera(2).setPartition(2); },
-         {"Camera 2 recorded in 1"}},
+         {}},
         {"and what it used before again", [&] { host.camera(2).setPartition(1); }, {}},
         {"a shoot that fails on all cameras",
          [&] {
@@ -369,131 +402,10 @@ TEST_F(Saving, KnowsWhoHasRecordedAndIsNotThereAnyMore) {
         one.happens();
         QStringList absent;
         for (const AbsentCamera& camera : last.absent()) {
-            const QString partition = QStringLiteral(" recorded in %1").arg(camera.partition);
-            absent << camera.name + QStringList({" is gone", "", partition}).at(camera.why);
+            absent << camera.name + (camera.why == AbsentCamera::Gone ? " is gone" : "");
         }
         EXPECT_EQ(absent, one.absent) << one.what;
     }
-}
-
-TEST_F(Saving, IsCancelledBetweenFrames) {
-    EXPECT_EQ(run(orders(), [](SaveJob& job) { job.cancel(); }),
-              QStringList({"Gate: 1 of 2 up to -1, cancelled", "Nozzle/2: 0 of 3 up to 0, cancelled"}));
-    EXPECT_EQ(files(), QStringList("Gate_-00001.png"));
-}
-
-TEST_F(Saving, LaysTheCamerasSideBySide) {
-    SaveOrders layout = orders();
-    layout.tracks = tracksOfLayout(sources(), "Layout");
-    host.host.faults().plant(1, "readFrame", {"it is too hot", 0, false});
-    EXPECT_EQ(run(layout), QStringList({"Gate: 0 of 2 up to -1, lost", "Layout: 3 of 3 up to 2, saved"}));
-    EXPECT_EQ(files(), QStringList({"Layout_00000.png", "Layout_00001.png", "Layout_00002.png"}));
-    const QImage last(path("Layout_00002.png"));
-    ASSERT_EQ(last.size(), QSize(960, 360));
-    const QImage right = last.copy(480, 0, 480, 360).convertToFormat(QImage::Format_RGB32);
-    EXPECT_EQ(right, drawFrame({"Nozzle/2", Size, 2, 2000, noise(3), {}}, {480, 360}));
-    EXPECT_EQ(last.pixel(240, 180), QColor(24, 26, 30).rgb()) << "nothing is shown of the lost one";
-}
-
-/// A program that answers as ffmpeg does, and whose videos are the bare frames.
-constexpr auto Encoder =
-    "#!/bin/sh\n"
-    "if [ \"$2\" = -encoders ]; then echo ' V....D mpeg4                MPEG-4'; exit; fi\n"
-    "for last; do :; done\n"
-    "cat >\"${last#file:}\"\n";
-
-class SavingVideo : public Saving {
-protected:
-    SavingVideo() { program(Encoder); }
-
-    void program(const QByteArray& script) {
-        write(programs.filePath("encoder"), script);
-        QFile::setPermissions(programs.filePath("encoder"), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-    }
-    SaveOrders video() {
-        SaveOrders wanted = orders("video");
-        wanted.encoder = {programs.filePath("encoder"), "mpeg4"};
-        return wanted;
-    }
-    qint64 framesIn(const QString& name) const {
-        return QFileInfo(path(name)).size() / (qint64(4) * Size.width() * Size.height());
-    }
-
-    QTemporaryDir programs;
-};
-
-TEST_F(SavingVideo, MakesOneFileACamera) {
-    EXPECT_EQ(VideoEncoder::of(video().encoder.program).encoder, "mpeg4");
-    EXPECT_FALSE(VideoEncoder::of(path("none")).isUsable());
-    host.host.faults().plantAt(5, {"it is too hot", 0, false});
-    const auto look = [this](const SaveJob& job) {
-        EXPECT_FALSE(job.isRunning() && QFile::exists(path(job.track().fileName + ".mp4"))) << "not complete yet";
-    };
-    EXPECT_EQ(run(video(), look), QStringList({"Gate: 2 of 2 up to 0, saved", "Nozzle/2: 2 of 3 up to 1, lost"}));
-    EXPECT_EQ(files(), QStringList({"Gate.mp4", "Nozzle_2.mp4"}));
-    EXPECT_EQ(framesIn("Gate.mp4"), 2);
-    EXPECT_EQ(framesIn("Nozzle_2.mp4"), 2) << "what there was before the camera was lost";
-    EXPECT_TRUE(QFile::permissions(path("Gate.mp4")) & QFile::ReadOther);
-}
-
-TEST_F(SavingVideo, LeavesNoHalfFile) {
-    writeOld("Gate.mp4");
-    const QString nothing = "Nozzle/2: 0 of 3 up to 0, cancelled";
-    EXPECT_EQ(run(video(), [](SaveJob& job) { job.cancel(); }),
-              QStringList({"Gate: 0 of 2 up to -1, cancelled", nothing}));
-    {
-        SaveJob job(host.host.cameras(), video());
-        EXPECT_FALSE(job.start());
-        EXPECT_TRUE(until([&job] { return job.frame() > 0; }));
-    }
-    program("#!/bin/sh\necho 'no such encoder' >&2; exit 1\n");
-    EXPECT_EQ(run(video()), QStringList({"Gate: 0 of 2 up to 0, failed", "Nozzle/2: 0 of 3 up to 2, failed"}));
-    program(QByteArray(Encoder) + "echo 'No space left on device' >&2\n");
-    EXPECT_EQ(run(video()), QStringList({"Gate: 0 of 2 up to 0, failed", "Nozzle/2: 0 of 3 up to 2, failed"}));
-    EXPECT_EQ(reason, "No space left on device");
-    EXPECT_EQ(files(), QStringList("Gate.mp4"));
-    EXPECT_TRUE(isOld("Gate.mp4"));
-}
-
-TEST_F(SavingVideo, AsksOnceAboutAFileThatStandsInTheWay) {
-    writeOld("Gate.mp4");
-    answer = Overwrite::This;
-    const auto others = [this](const SaveJob& job) {
-        if (job.outcomes().size() == 1 && job.frame() == 1) {
-            writeOld("Nozzle_2.mp4");
-            answer = Overwrite::SkipCamera;
-        }
-    };
-    EXPECT_EQ(run(video(), others), QStringList({"Gate: 2 of 2 up to 0, saved", "Nozzle/2: 0 of 3 up to 2, skipped"}));
-    EXPECT_EQ(asked, QStringList({"Gate.mp4", "Nozzle_2.mp4"}));
-    EXPECT_EQ(framesIn("Gate.mp4"), 2);
-    EXPECT_TRUE(isOld("Nozzle_2.mp4")) << "somebody else has written it meanwhile";
-    EXPECT_EQ(files(), QStringList({"Gate.mp4", "Nozzle_2.mp4"}));
-}
-
-TEST_F(SavingVideo, HoldsAllFramesForAnotherReader) {
-    const QString reader = QStandardPaths::findExecutable("ffprobe");
-    if (reader.isEmpty() || !VideoEncoder::installed().isUsable()) {
-        GTEST_SKIP() << "ffmpeg is not installed";
-    }
-    SaveOrders wanted = video();
-    wanted.encoder = VideoEncoder::installed();
-    host.camera(3).change(
-        {{"recordedCustomInfo",
-          QVariantList{QVariantMap{{"name", QString(QChar(0x5727))}, {"value", "a=b\nc"}, {"display", true}}}}});
-    wanted.tracks = tracksOfEach(sources());
-    run(wanted);
-    QProcess process;
-    process.start(reader, {"-v", "error", "-count_frames", "-show_entries", "stream=nb_read_frames,width,height", "-of",
-                           "csv=p=0", path("Nozzle_2.mp4")});
-    ASSERT_TRUE(process.waitForFinished());
-    EXPECT_EQ(process.readAllStandardOutput().trimmed(), "64,48,3");
-    process.start(reader, {"-v", "error", "-show_entries", "format_tags=comment,items", "-of", "default=nk=1:nw=1",
-                           path("Nozzle_2.mp4")});
-    ASSERT_TRUE(process.waitForFinished());
-    const QByteArray description = wanted.tracks[1].metadataOfAll().description;
-    EXPECT_TRUE(description.contains("\"frame\":0,\"time\":0.000000,\"lastFrame\":2,\"lastTime\":0.002000"));
-    EXPECT_EQ(process.readAllStandardOutput().trimmed(), description + "\n\xe5\x9c\xa7: a=b\\nc");
 }
 
 }  // namespace

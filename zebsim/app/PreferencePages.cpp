@@ -15,6 +15,10 @@ PreferenceField number(const char* key, const QString& label, int lowest, int hi
     return {QLatin1String(key), label, PreferenceField::Number, {}, lowest, highest};
 }
 
+PreferenceField line(const char* key, const QString& label) {
+    return {QLatin1String(key), label, PreferenceField::Text};
+}
+
 PreferenceField choice(const char* key, const QString& label, const QList<PreferenceChoice>& choices) {
     return {QLatin1String(key), label, PreferenceField::Choice, choices};
 }
@@ -57,6 +61,13 @@ QList<PreferenceField> recordingFields() {
     };
 }
 
+QList<PreferenceField> savingFields() {
+    return {
+        line("save/fixedgroupdir", TextKey("Name of every group folder")),
+        line("save/substitutefolder", TextKey("Folder for all files, whatever their own")),
+    };
+}
+
 QList<PreferenceField> ioFields() {
     return {
         box("wren/settings/deviceSpeedPlaying", TextKey("Play each camera in step with the common signal")),
@@ -76,6 +87,7 @@ const QList<PreferencePage>& preferencePages() {
     static const QList<PreferencePage> pages = {{TextKey("s_general"), generalFields()},
                                                 {TextKey("s_display"), displayFields()},
                                                 {TextKey("s_record"), recordingFields()},
+                                                {TextKey("s_save"), savingFields()},
                                                 {TextKey("s_io"), ioFields()},
                                                 {TextKey("s_table"), tableFields()}};
     return pages;

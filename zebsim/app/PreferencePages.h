@@ -13,7 +13,7 @@ struct PreferenceChoice {
 /// A preference that the user can set. What it is until then is the factory's. What a dialog of the plug-in edits has
 /// its place there alone.
 struct PreferenceField {
-    enum Editor { Box, Number, Choice };
+    enum Editor { Box, Number, Choice, Text };
 
     QString key;
     QString label;

@@ -9,6 +9,7 @@
 #include <QComboBox>
 #include <QDialogButtonBox>
 #include <QFormLayout>
+#include <QLineEdit>
 #include <QListWidget>
 #include <QSpinBox>
 #include <QStackedWidget>
@@ -78,6 +79,11 @@ QWidget* PreferencesDialog::makeEditor(const PreferenceField& field, const QVari
             box->setValue(value.toInt());
             reader = [box] { return box->value(); };
             return box;
+        }
+        case PreferenceField::Text: {
+            auto* text = new QLineEdit(value.toString(), this);
+            reader = [text] { return text->text().trimmed(); };
+            return text;
         }
         case PreferenceField::Choice:
             break;

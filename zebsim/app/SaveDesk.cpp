@@ -1,6 +1,8 @@
 #include "SaveDesk.h"
 
+#include "Camera.h"
 #include "DialogRun.h"
+#include "PlanDialog.h"
 #include "PluginSignal.h"
 #include "SaveDialog.h"
 #include "SaveJob.h"
@@ -8,14 +10,16 @@
 #include "SaveTexts.h"
 #include "SimHost.h"
 #include "Style.h"
+#include "TargetDisk.h"
 #include "UiText.h"
 
-#include <QDir>
+#include <QFileInfo>
 #include <QMessageBox>
 #include <QtDebug>
 
-SaveDesk::SaveDesk(SimHost& host)
-    : m_host(host), m_shoot(host.cameras(), host.events()), m_fileNames({uiText("Layout")}) {}
+#include <algorithm>
+
+SaveDesk::SaveDesk(SimHost& host) : m_host(host), m_shoot(host.cameras(), host.events()) {}
 
 SaveDesk::~SaveDesk() = default;
 
@@ -28,27 +32,57 @@ void SaveDesk::save(bool layout) {
         m_host.messages().tell(Message::Info, uiText("Images are being saved already."));
         return;
     }
-    SaveSources sources = saveSources(m_host.cameras(), m_fileNames);
-    const QStringList earlier = markEarlier(sources);
-    auto tracks = layout ? tracksOfLayout(sources, uiText("Layout")) : tracksOfEach(sources);
-    if (layout && !earlier.isEmpty()) {
-        tracks.front().name = uiText("%1 with %2").arg(tracks.front().name, earlier.join(QStringLiteral(", ")));
-    }
+    const std::vector<SaveTrack> tracks = tracksToSave(layout);
     const QStringList absent = absentCameras();
     if (tracks.empty()) {
         m_host.messages().tell(Message::Warn, uiText("No connected camera has recorded images."), absent);
         return;
     }
-    Preferences& prefs = m_host.prefs();
+    std::optional<SavePlan> plan;
+    std::unique_ptr<NamePromises::Save> names;
+    auto* dialog = new SaveDialog(m_host, tracks, absent, m_host.getMainWindow());
+    QObject::connect(dialog, &QDialog::accepted, dialog, [&plan, &names, dialog] {
+        plan = dialog->plan();
+        names = dialog->takeNames();
+    });
     m_asking = true;
-    const int answer = runDialog(m_host, new SaveDialog(prefs, tracks, absent, m_host.getMainWindow()));
+    runDialog(m_host, dialog);
     m_asking = false;
-    if (answer != QDialog::Accepted) {
-        return;
+    if (plan) {
+        begin(plan->orders, std::move(names));
     }
-    begin({prefs.value(QStringLiteral("save/folder")).toString(),
-           saveFormat(prefs.value(QStringLiteral("save/format")).toString()), tracks,
-           [this](const QString& file) { return ask(file); }, VideoEncoder::installed(), absent});
+}
+
+std::vector<SaveTrack> SaveDesk::tracksToSave(bool layout) const {
+    SaveSources sources = saveSources(m_host.cameras());
+    if (layout) {
+        // What is shown side by side is what the cameras show.
+        const auto isNotShown = [this](const SaveSource& source) {
+            const Camera* camera = m_host.cameras().find(source.key());
+            return camera == nullptr || camera->get(&CameraState::partition) != source.partition();
+        };
+        sources.erase(std::remove_if(sources.begin(), sources.end(), isNotShown), sources.end());
+    }
+    const QStringList earlier = markEarlier(sources);
+    std::vector<SaveTrack> tracks = layout ? tracksOfLayout(sources, uiText("Layout")) : tracksOfEach(sources);
+    for (SaveTrack& track : tracks) {
+        const SaveSource& source = track.sources.front();
+        const auto isOfSameCamera = [&source](const SaveSource& other) { return other.key() == source.key(); };
+        if (!layout && std::count_if(sources.begin(), sources.end(), isOfSameCamera) > 1) {
+            track.name = uiText("%1, %2").arg(track.name, partitionName(source));
+        }
+    }
+    if (layout && !earlier.isEmpty()) {
+        tracks.front().name = uiText("%1 with %2").arg(tracks.front().name, earlier.join(QStringLiteral(", ")));
+    }
+    return tracks;
+}
+
+QString SaveDesk::partitionName(const SaveSource& source) const {
+    const Camera* camera = m_host.cameras().find(source.key());
+    const QStringList names = camera ? camera->get(&CameraState::partitionNames) : QStringList();
+    const QString name = names.value(int(source.partition()) - 1);
+    return name.isEmpty() ? uiText("Partition %1").arg(source.partition()) : name;
 }
 
 QStringList SaveDesk::absentCameras() const {
@@ -71,15 +105,33 @@ QStringList SaveDesk::markEarlier(SaveSources& sources) const {
     return marked;
 }
 
-void SaveDesk::begin(const SaveOrders& orders) {
-    auto job = std::make_unique<SaveJob>(m_host.cameras(), orders);
-    if (const auto refusal = job->start()) {
-        m_host.messages().tell(Message::Alert, refusalText(*refusal, orders));
-        return;
-    }
-    m_job = std::move(job);
+void SaveDesk::begin(const SaveOrders& orders, std::unique_ptr<NamePromises::Save> names) {
+    m_job = std::make_unique<SaveJob>(m_host.cameras(), orders);
+    m_names = std::move(names);
     QObject::connect(m_job.get(), &SaveJob::finished, m_job.get(), [this] { finish(); });
     showProgress();
+    m_job->start();
+}
+
+void SaveDesk::beginAgain(const std::vector<SaveTrack>& tracks) {
+    SaveOrders orders = m_job->orders();
+    orders.tracks = tracks;
+    orders.mayReplace.clear();
+    orders.absent.clear();
+    std::vector<TrackTarget> targets;
+    for (const SaveTrack& track : tracks) {
+        const QFileInfo stem(track.stem);
+        targets.push_back({stem.path(), {}, {}, stem.fileName()});
+    }
+    RealDisk disk;
+    const SavePlan plan = planOf(std::move(orders), targets, disk);
+    const QPointer<SaveProgress> alive(m_progress);
+    m_asking = true;
+    const int answer = runDialog(m_host, new PlanDialog(plan, m_progress));
+    m_asking = false;
+    if (answer == QDialog::Accepted && alive) {
+        begin(plan.orders, std::move(m_names));
+    }
 }
 
 void SaveDesk::showProgress() {
@@ -88,32 +140,18 @@ void SaveDesk::showProgress() {
     delete m_progress;
     m_progress = new SaveProgress(*m_job, m_host.getMainWindow());
     QObject::connect(m_progress, &SaveProgress::cancelWanted, m_progress, [this] { askToCancel(); });
+    QObject::connect(
+        m_progress, &SaveProgress::againWanted, m_progress, [this](const auto& tracks) { beginAgain(tracks); },
+        Qt::QueuedConnection);
     m_progress->setAttribute(Qt::WA_DeleteOnClose);
     m_progress->setModal(true);
     applyNativeStyle(m_host, *m_progress);
     m_over.emplace(*m_progress);
-    QObject::connect(m_progress, &QDialog::finished, m_progress, [this] { m_over.reset(); });
+    QObject::connect(m_progress, &QDialog::finished, m_progress, [this] {
+        m_over.reset();
+        m_names.reset();
+    });
     m_progress->show();
-}
-
-Overwrite SaveDesk::ask(const QString& file) {
-    const int answer =
-        m_host.messages().choose(uiText("%1 exists already.").arg(QDir::toNativeSeparators(file)), m_progress,
-                                 {{QMessageBox::Yes, uiText("Overwrite")},
-                                  {QMessageBox::YesToAll, uiText("Overwrite all")},
-                                  {QMessageBox::No, uiText("Skip camera")},
-                                  {QMessageBox::Cancel, uiText("Cancel")}},
-                                 QMessageBox::No);
-    switch (answer) {
-        case QMessageBox::Yes:
-            return Overwrite::This;
-        case QMessageBox::YesToAll:
-            return Overwrite::All;
-        case QMessageBox::No:
-            return Overwrite::SkipCamera;
-        default:
-            return Overwrite::Cancel;
-    }
 }
 
 void SaveDesk::askToCancel() {

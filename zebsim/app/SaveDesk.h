@@ -1,9 +1,9 @@
 #pragma once
 
-#include "FileNames.h"
 #include "LastShoot.h"
+#include "NamePromises.h"
 #include "OverActiveWindow.h"
-#include "SaveSource.h"
+#include "SaveTrack.h"
 
 #include <QPointer>
 #include <QStringList>
@@ -14,7 +14,6 @@
 class SaveJob;
 class SaveProgress;
 class SimHost;
-enum class Overwrite;
 struct SaveOrders;
 
 /// Saves what the cameras have recorded: asks, begins, and shows how it goes. GUI thread.
@@ -34,16 +33,21 @@ private:
     QStringList absentCameras() const;
     /// Names those that are not of the last shoot so, and answers the names.
     QStringList markEarlier(SaveSources& sources) const;
-    void begin(const SaveOrders& orders);
+    QString partitionName(const SaveSource& source) const;
+    /// Nothing when there is nothing to be saved.
+    std::vector<SaveTrack> tracksToSave(bool layout) const;
+    void begin(const SaveOrders& orders, std::unique_ptr<NamePromises::Save> names);
+    /// The plan is shown anew; the files keep their names.
+    void beginAgain(const std::vector<SaveTrack>& tracks);
     void showProgress();
-    Overwrite ask(const QString& file);
     void askToCancel();
     void finish();
 
     SimHost& m_host;
     const LastShoot m_shoot;
-    FileNames m_fileNames;
     std::unique_ptr<SaveJob> m_job;
+    /// What the job's files are called stays its own until it has ended.
+    std::unique_ptr<NamePromises::Save> m_names;
     QPointer<SaveProgress> m_progress;
     std::optional<OverActiveWindow> m_over;
     /// The save dialog stands.

@@ -1,121 +1,176 @@
 #include "SaveDialog.h"
 
+#include "Camera.h"
 #include "DialogButtons.h"
-#include "SaveNames.h"
-#include "SaveTrack.h"
+#include "DialogRun.h"
+#include "GUI_AddNumberDialog.h"
+#include "NameFamilies.h"
+#include "PlanDialog.h"
+#include "SimHost.h"
 #include "TargetFields.h"
 
 #include <QDialogButtonBox>
-#include <QDirIterator>
-#include <QHBoxLayout>
 #include <QHeaderView>
-#include <QLabel>
+#include <QLineEdit>
+#include <QPointer>
 #include <QPushButton>
 #include <QStyle>
 #include <QTableWidget>
 #include <QVBoxLayout>
 
+#include <algorithm>
+#include <set>
+
 namespace {
 
-/// A folder of very many files would hold up every key typed.
-constexpr int MostCounted = 1000;
+constexpr int ExportType = 1;
+constexpr int LayoutType = 4;
 
 }  // namespace
 
-SaveDialog::SaveDialog(Preferences& prefs, const std::vector<SaveTrack>& tracks, const QStringList& absent,
-                       QWidget* parent)
+SaveDialog::SaveDialog(SimHost& host, std::vector<SaveTrack> tracks, QStringList absent, QWidget* parent)
     : QDialog(parent),
-      m_target(new TargetFields(prefs, QStringLiteral("save"), true, this)),
-      m_notice(new QWidget(this)),
-      m_files(new QLabel(m_notice)) {
-    setWindowTitle(tracks.front().isLayout ? uiText("Save layout") : uiText("Save"));
+      m_host(host),
+      m_tracks(std::move(tracks)),
+      m_absent(std::move(absent)),
+      m_table(new QTableWidget(0, 4, this)),
+      m_target(new TargetFields(host.prefs(), prefFamily(isLayout()), true, this)),
+      m_path(new QLineEdit(this)) {
+    setWindowTitle(isLayout() ? uiText("Save layout") : uiText("Save"));
+    m_path->setObjectName(QStringLiteral("path"));
+    m_path->setReadOnly(true);
+    m_path->setFocusPolicy(Qt::ClickFocus);
     auto* layout = new QVBoxLayout(this);
-    QTableWidget* table = makeTable();
-    addAbsent(*table, absent);
-    addTracks(*table, tracks);
-    layout->addWidget(table);
+    addTable();
+    addTracks();
+    layout->addWidget(m_table);
     layout->addWidget(m_target);
-    fillNotice();
-    layout->addWidget(m_notice);
-    auto* buttons = addOkCancel(*this, uiText("Save"));
-    layout->addWidget(buttons);
-    m_save = qobject_cast<QPushButton*>(buttons->buttons().first());
-    m_save->setDefault(true);
+    layout->addWidget(m_path);
+    layout->addWidget(makeButtons());
     connect(m_target, &TargetFields::changed, this, &SaveDialog::follow);
+    connect(m_table, &QTableWidget::itemChanged, this, &SaveDialog::follow);
+    connect(m_table, &QTableWidget::currentItemChanged, this, &SaveDialog::follow);
+    m_target->setFocus();
     follow();
 }
 
-void SaveDialog::fillNotice() {
-    auto* layout = new QHBoxLayout(m_notice);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(m_files, 1);
-    auto* button = new QPushButton(uiText("New subfolder"), m_notice);
-    button->setObjectName(QStringLiteral("newSubfolder"));
-    button->setAutoDefault(false);
-    layout->addWidget(button);
-    connect(button, &QPushButton::clicked, this,
-            [this] { m_target->setFolder(newSubfolder(m_target->folder(), QDateTime::currentDateTime())); });
-    // The dialog keeps its size.
-    QSizePolicy policy = m_notice->sizePolicy();
-    policy.setRetainSizeWhenHidden(true);
-    m_notice->setSizePolicy(policy);
-}
-
-void SaveDialog::follow() {
-    m_save->setEnabled(m_target->isComplete());
-    int files = 0;
-    QDirIterator folder(m_target->folder(), QDir::Files);
-    while (m_target->isComplete() && files < MostCounted && folder.hasNext()) {
-        folder.next();
-        ++files;
-    }
-    const QString count = QString::number(files) + (files == MostCounted ? QStringLiteral("+") : QString());
-    m_files->setText(uiText("Files that are in this folder already: %1").arg(count));
-    m_notice->setVisible(files > 0);
-}
-
-QTableWidget* SaveDialog::makeTable() {
-    auto* table = new QTableWidget(0, 4, this);
-    table->setObjectName(QStringLiteral("cameras"));
-    table->setHorizontalHeaderLabels(
+void SaveDialog::addTable() {
+    m_table->setObjectName(QStringLiteral("cameras"));
+    m_table->setHorizontalHeaderLabels(
         {uiText("Camera name"), uiText("First frame"), uiText("Last frame"), uiText("Frames")});
-    table->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    table->setSelectionMode(QAbstractItemView::NoSelection);
-    table->setFocusPolicy(Qt::NoFocus);
-    table->verticalHeader()->hide();
-    table->horizontalHeader()->setSectionResizeMode(0, QHeaderView::Stretch);
-    table->setMinimumSize(70 * fontMetrics().averageCharWidth(), 14 * fontMetrics().height());
-    return table;
-}
-
-void SaveDialog::addAbsent(QTableWidget& table, const QStringList& absent) {
-    const QIcon warning = table.style()->standardIcon(QStyle::SP_MessageBoxWarning);
-    for (const QString& line : absent) {
-        const int row = table.rowCount();
-        table.insertRow(row);
-        table.setItem(row, 0, new QTableWidgetItem(warning, line));
-        table.setSpan(row, 0, 1, table.columnCount());
+    m_table->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    m_table->setSelectionMode(QAbstractItemView::SingleSelection);
+    m_table->setSelectionBehavior(QAbstractItemView::SelectRows);
+    m_table->setTabKeyNavigation(false);
+    m_table->verticalHeader()->hide();
+    m_table->horizontalHeader()->setSectionResizeMode(0, QHeaderView::Stretch);
+    m_table->setMinimumSize(70 * fontMetrics().averageCharWidth(), 14 * fontMetrics().height());
+    const QIcon warning = style()->standardIcon(QStyle::SP_MessageBoxWarning);
+    for (const QString& line : m_absent) {
+        const int row = m_table->rowCount();
+        m_table->insertRow(row);
+        auto* cell = new QTableWidgetItem(warning, line);
+        cell->setFlags(Qt::ItemIsEnabled);
+        m_table->setItem(row, 0, cell);
+        m_table->setSpan(row, 0, 1, m_table->columnCount());
     }
 }
 
-void SaveDialog::addTracks(QTableWidget& table, const std::vector<SaveTrack>& tracks) {
-    for (const SaveTrack& track : tracks) {
+/// A layout has a row for each camera, and otherwise each track one that can be left out.
+void SaveDialog::addTracks() {
+    for (const SaveTrack& track : m_tracks) {
         for (const SaveSource& source : track.sources) {
-            const int row = table.rowCount();
-            table.insertRow(row);
-            table.setItem(row, 0, new QTableWidgetItem(source.name()));
+            const int row = m_table->rowCount();
+            m_table->insertRow(row);
+            auto* name = new QTableWidgetItem(track.isLayout ? source.name() : track.name);
+            if (!track.isLayout) {
+                name->setCheckState(Qt::Checked);
+            }
+            m_table->setItem(row, 0, name);
             const QList<qint64> numbers = {source.frame(0).number, source.frame(source.frames() - 1).number,
                                            source.frames()};
             for (int i = 0; i < numbers.size(); ++i) {
                 auto* cell = new QTableWidgetItem(QString::number(numbers.at(i)));
                 cell->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
-                table.setItem(row, i + 1, cell);
+                m_table->setItem(row, i + 1, cell);
             }
         }
     }
+    m_table->setCurrentCell(m_absent.size(), 0);
+}
+
+QWidget* SaveDialog::makeButtons() {
+    auto* buttons = addOkCancel(*this, uiText("Save"));
+    m_save = qobject_cast<QPushButton*>(buttons->buttons().first());
+    m_save->setDefault(true);
+    auto* numbers = buttons->addButton(uiText("Numbers..."), QDialogButtonBox::ActionRole);
+    numbers->setObjectName(QStringLiteral("numbers"));
+    numbers->setAutoDefault(false);
+    connect(numbers, &QPushButton::clicked, this, &SaveDialog::setNumbers);
+    return buttons;
+}
+
+void SaveDialog::follow() {
+    m_save->setEnabled(m_target->isComplete() && !chosenTracks().empty());
+    m_path->setText(composedPath(m_host, shownTrack(), m_target->typed(), QDateTime::currentDateTime()));
+}
+
+const SaveTrack& SaveDialog::shownTrack() const {
+    const int row = std::max(0, m_table->currentRow() - m_absent.size());
+    return isLayout() ? m_tracks.front() : m_tracks[std::size_t(row)];
+}
+
+std::vector<SaveTrack> SaveDialog::chosenTracks() const {
+    if (isLayout()) {
+        return m_tracks;
+    }
+    std::vector<SaveTrack> chosen;
+    for (std::size_t i = 0; i < m_tracks.size(); ++i) {
+        const QTableWidgetItem* name = m_table->item(m_absent.size() + int(i), 0);
+        if (name->checkState() == Qt::Checked) {
+            chosen.push_back(m_tracks[i]);
+        }
+    }
+    return chosen;
+}
+
+void SaveDialog::setNumbers() {
+    std::set<DOCKEY> cameras;
+    std::size_t heads = 1;
+    for (const SaveTrack& track : m_tracks) {
+        for (const SaveSource& source : track.sources) {
+            cameras.insert(source.key());
+            const Camera* camera = m_host.cameras().find(source.key());
+            heads = std::max(heads, camera ? camera->device().heads().size() : 1);
+        }
+    }
+    const QPointer<SaveDialog> alive(this);
+    const int slot = fileNameSlot(isLayout() ? LayoutType : ExportType);
+    runDialog(m_host, new GUI_AddNumberDialog(&m_host, slot, int(cameras.size()), int(heads), this));
+    if (alive) {
+        follow();
+    }
+}
+
+void SaveDialog::setOption(const QString& suffix, const QVariant& value) {
+    m_host.prefs().setValue(prefFamily(isLayout()) % suffix, value);
+    follow();
 }
 
 void SaveDialog::accept() {
+    const QPointer<SaveDialog> alive(this);
+    m_names = std::make_unique<NamePromises::Save>(m_host.saver().promises());
+    SavePlan plan = composePlan(m_host, chosenTracks(), m_absent, m_target->typed(), QDateTime::currentDateTime());
+    const int answer = runDialog(m_host, new PlanDialog(plan, this));
+    if (!alive) {
+        return;
+    }
+    if (answer != QDialog::Accepted) {
+        m_names.reset();
+        follow();
+        return;
+    }
     m_target->store();
+    m_plan = std::move(plan);
     QDialog::accept();
 }

@@ -1,40 +1,58 @@
 #pragma once
 
+#include "NamePromises.h"
+#include "SaveTargets.h"
+
 #include <QDialog>
 #include <QStringList>
 
+#include <memory>
+#include <optional>
 #include <vector>
 
-class Preferences;
-class QLabel;
+class QLineEdit;
 class QPushButton;
 class QTableWidget;
+class SimHost;
 class TargetFields;
-struct SaveTrack;
 
-/// What is to be saved, each camera with its range, and where to; and above, what can't be saved, a line each.
-/// A folder with files in it is told of, and another one offered. Save stores folder
-/// and format as preferences.
+/// What is to be saved, each recording with its range, and where to; and above, what can't be saved, a line each. Save
+/// shows the plan; once that is agreed to, folder and format are stored as preferences and the dialog is accepted.
 class SaveDialog : public QDialog {
     Q_OBJECT
 
 public:
-    /// `prefs` must outlive the dialog.
-    SaveDialog(Preferences& prefs, const std::vector<SaveTrack>& tracks, const QStringList& absent, QWidget* parent);
+    /// `host` must outlive the dialog.
+    SaveDialog(SimHost& host, std::vector<SaveTrack> tracks, QStringList absent, QWidget* parent);
+
+    /// Once accepted: the plan, and what keeps its names from other saves.
+    const SavePlan& plan() const { return *m_plan; }
+    std::unique_ptr<NamePromises::Save> takeNames() { return std::move(m_names); }
+
+    /// Sets a preference of the family that it saves by.
+    void setOption(const QString& suffix, const QVariant& value);
 
     void accept() override;
 
 private:
-    QTableWidget* makeTable();
-    static void addAbsent(QTableWidget& table, const QStringList& absent);
-    static void addTracks(QTableWidget& table, const std::vector<SaveTrack>& tracks);
-
-    void fillNotice();
+    void addTable();
+    void addTracks();
+    QWidget* makeButtons();
     void follow();
+    void setNumbers();
+    std::vector<SaveTrack> chosenTracks() const;
+    /// The one that the table's current row stands for.
+    const SaveTrack& shownTrack() const;
+    bool isLayout() const { return m_tracks.front().isLayout; }
 
+    SimHost& m_host;
+    const std::vector<SaveTrack> m_tracks;
+    const QStringList m_absent;
+    QTableWidget* m_table;
     TargetFields* m_target;
-    /// The files that are in the folder already, and the way to another one; hidden when there are none.
-    QWidget* m_notice;
-    QLabel* m_files;
+    /// Where the first file of the shown track would go.
+    QLineEdit* m_path;
     QPushButton* m_save;
+    std::optional<SavePlan> m_plan;
+    std::unique_ptr<NamePromises::Save> m_names;
 };

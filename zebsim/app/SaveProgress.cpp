@@ -1,21 +1,55 @@
 #include "SaveProgress.h"
 
-#include "SaveJob.h"
+#include "SaveFilesModel.h"
 #include "SaveTexts.h"
 #include "UiText.h"
 
+#include <QHBoxLayout>
 #include <QLabel>
-#include <QListWidget>
 #include <QProgressBar>
 #include <QPushButton>
+#include <QTreeView>
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <numeric>
 
 namespace {
 
 /// Of the bar; frames can be more than it counts.
 constexpr int Steps = 1000;
+
+/// Frames of a track that are to be saved.
+int framesOf(const SaveTrack& track) {
+    return track.frames() - track.from;
+}
+
+/// What failed of a job that has ended, from where it stopped on; one file of all frames begins anew.
+std::vector<SaveTrack> failedTracks(const SaveJob& job) {
+    std::vector<SaveTrack> failed;
+    for (const SaveOutcome& outcome : job.outcomes()) {
+        if (outcome.track >= 0 && outcome.end != SaveOutcome::Saved) {
+            failed.push_back(job.orders().tracks[std::size_t(outcome.track)]);
+            failed.back().from += job.orders().format.isOneFile() ? 0 : outcome.saved;
+        }
+    }
+    return failed;
+}
+
+/// Whether a file of a track stands on the disk, as far as is known by now.
+SaveFilesModel::FileState stateOf(const QPointer<SaveJob>& job, int track, int file) {
+    if (job.isNull() || job->isRunning()) {
+        return SaveFilesModel::Planned;
+    }
+    for (const SaveOutcome& outcome : job->outcomes()) {
+        if (outcome.track == track) {
+            const bool isOne = job->orders().format.isOneFile();
+            return file < (isOne ? std::min(outcome.saved, 1) : outcome.saved) ? SaveFilesModel::Written
+                                                                               : SaveFilesModel::NotWritten;
+        }
+    }
+    return SaveFilesModel::NotWritten;
+}
 
 }  // namespace
 
@@ -24,32 +58,48 @@ SaveProgress::SaveProgress(SaveJob& job, QWidget* parent)
       m_job(&job),
       m_at(new QLabel(this)),
       m_bar(new QProgressBar(this)),
-      m_lines(new QListWidget(this)),
+      m_model(new SaveFilesModel(
+          job.orders(), [this](int track, int file) { return stateOf(m_job, track, file); }, this)),
+      m_files(new QTreeView(this)),
+      m_again(new QPushButton(uiText("Save again what failed"), this)),
       m_button(new QPushButton(uiText("Cancel"), this)) {
     setWindowTitle(uiText("Saving"));
+    const auto& tracks = job.orders().tracks;
+    m_frames = std::accumulate(tracks.begin(), tracks.end(), qint64(0),
+                               [](qint64 sum, const SaveTrack& track) { return sum + framesOf(track); });
+    addWidgets();
+    connect(m_button, &QPushButton::clicked, this, &SaveProgress::press);
+    connect(m_again, &QPushButton::clicked, this, &SaveProgress::again);
+    connect(&job, &SaveJob::progressed, this, &SaveProgress::follow);
+    connect(&job, &SaveJob::finished, this, &SaveProgress::follow);
+    showCourse();
+}
+
+void SaveProgress::addWidgets() {
     m_at->setTextFormat(Qt::PlainText);
-    // A long name must not make it wider.
-    m_at->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     // Enter is no wish to cancel.
+    m_button->setObjectName(QStringLiteral("cancel"));
     m_button->setAutoDefault(false);
     m_button->setFocus();
-    m_lines->setObjectName(QStringLiteral("outcomes"));
-    m_lines->setWordWrap(true);
-    m_lines->setSelectionMode(QAbstractItemView::NoSelection);
-    m_lines->setMinimumSize(80 * fontMetrics().averageCharWidth(), 10 * fontMetrics().height());
+    m_again->setObjectName(QStringLiteral("again"));
+    m_again->setAutoDefault(false);
+    m_again->hide();
+    m_bar->setMaximum(Steps);
+    m_files->setObjectName(QStringLiteral("outcomes"));
+    m_files->setHeaderHidden(true);
+    m_files->setWordWrap(true);
+    m_files->setSelectionMode(QAbstractItemView::NoSelection);
+    m_files->setMinimumSize(100 * fontMetrics().averageCharWidth(), 12 * fontMetrics().height());
+    m_files->setModel(m_model);
+    auto* buttons = new QHBoxLayout;
+    buttons->addStretch();
+    buttons->addWidget(m_again);
+    buttons->addWidget(m_button);
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(m_at);
     layout->addWidget(m_bar);
-    layout->addWidget(m_lines);
-    layout->addWidget(m_button, 0, Qt::AlignRight);
-    for (const SaveTrack& track : job.orders().tracks) {
-        m_frames += track.frames();
-    }
-    m_bar->setMaximum(Steps);
-    connect(m_button, &QPushButton::clicked, this, &SaveProgress::press);
-    connect(&job, &SaveJob::progressed, this, &SaveProgress::follow);
-    connect(&job, &SaveJob::finished, this, &SaveProgress::follow);
-    showFrame();
+    layout->addWidget(m_files, 1);
+    layout->addLayout(buttons);
 }
 
 bool SaveProgress::isFinished() const {
@@ -57,11 +107,7 @@ bool SaveProgress::isFinished() const {
 }
 
 QStringList SaveProgress::lines() const {
-    QStringList lines;
-    for (int row = 0; row < m_lines->count(); ++row) {
-        lines << m_lines->item(row)->text();
-    }
-    return lines;
+    return m_model->lines();
 }
 
 void SaveProgress::reject() {
@@ -78,35 +124,50 @@ void SaveProgress::press() {
     }
 }
 
+void SaveProgress::again() {
+    if (m_job && !m_job->isRunning()) {
+        Q_EMIT againWanted(failedTracks(*m_job));
+    }
+}
+
 void SaveProgress::follow() {
-    const QList<SaveOutcome>& outcomes = m_job->outcomes();
-    while (m_lines->count() < outcomes.size()) {
-        m_lines->addItem(outcomeText(outcomes.at(m_lines->count()), m_job->orders()));
-        m_lines->scrollToBottom();
-    }
     if (m_job->isRunning()) {
-        showFrame();
-        return;
+        showCourse();
+    } else {
+        showOutcomes();
     }
+}
+
+void SaveProgress::showCourse() {
+    const auto& tracks = m_job->orders().tracks;
+    const std::vector<int> saved = m_job->state().saved;
+    const qint64 done = std::accumulate(saved.begin(), saved.end(), qint64(0));
+    QStringList lines;
+    for (std::size_t i = 0; i < tracks.size(); ++i) {
+        lines << uiText("%1: %2 of %3 frames")
+                     .arg(tracks[i].name, QString::number(i < saved.size() ? saved[i] : 0),
+                          QString::number(framesOf(tracks[i])));
+    }
+    m_model->setLines(m_job->orders().absent, lines);
+    m_bar->setValue(int(done * Steps / std::max<qint64>(1, m_frames)));
+    m_at->setText(uiText("%1 of %2 frames are written.").arg(QString::number(done), QString::number(m_frames)));
+}
+
+void SaveProgress::showOutcomes() {
+    const QList<SaveOutcome>& outcomes = m_job->outcomes();
+    QStringList before;
+    QStringList lines;
+    for (const SaveOutcome& outcome : outcomes) {
+        (outcome.track < 0 ? before : lines) << outcomeText(outcome, m_job->orders());
+    }
+    m_model->setLines(before, lines);
     const bool isAllSaved = std::all_of(outcomes.begin(), outcomes.end(),
                                         [](const SaveOutcome& outcome) { return outcome.end == SaveOutcome::Saved; });
     if (isAllSaved) {
         m_bar->setValue(m_bar->maximum());
     }
     m_at->setText(isAllSaved ? uiText("Everything is saved.") : uiText("Not everything is saved."));
+    m_again->setVisible(!failedTracks(*m_job).empty());
     m_button->setText(uiText("Close"));
     m_button->setDefault(true);
-}
-
-void SaveProgress::showFrame() {
-    const auto& tracks = m_job->orders().tracks;
-    const std::size_t number = m_job->trackNumber();
-    qint64 done = m_job->frame();
-    for (std::size_t i = 0; i < number; ++i) {
-        done += tracks[i].frames();
-    }
-    m_bar->setValue(int(done * Steps / m_frames));
-    m_at->setText(uiText("%1 of %2: %3, frame %4 of %5")
-                      .arg(QString::number(number + 1), QString::number(tracks.size()), m_job->track().name,
-                           QString::number(m_job->frame()), QString::number(m_job->track().frames())));
 }

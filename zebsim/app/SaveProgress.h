@@ -3,14 +3,19 @@
 #include <QDialog>
 #include <QPointer>
 
+#include <vector>
+
 class QLabel;
-class QListWidget;
 class QProgressBar;
 class QPushButton;
+class QTreeView;
+class SaveFilesModel;
 class SaveJob;
+struct SaveTrack;
 
-/// Shows how far a save has come, and a line for each camera once it has its outcome. While the job runs, its only
-/// button asks to cancel it, and nothing closes the dialog; then the button does.
+/// Shows how far a save has come, and a line for each camera with its outcome in the end; below a line stand its files.
+/// While the job runs, its button asks to cancel it, and nothing closes the dialog; then the button does, and another
+/// one saves again what failed.
 class SaveProgress : public QDialog {
     Q_OBJECT
 
@@ -26,16 +31,23 @@ public:
 
 Q_SIGNALS:
     void cancelWanted();
+    /// Of a save that has ended: these are to be saved from where they stopped.
+    void againWanted(const std::vector<SaveTrack>& tracks);
 
 private:
+    void addWidgets();
     void press();
+    void again();
     void follow();
-    void showFrame();
+    void showCourse();
+    void showOutcomes();
 
     QPointer<SaveJob> m_job;
     QLabel* m_at;
     QProgressBar* m_bar;
-    QListWidget* m_lines;
+    SaveFilesModel* m_model;
+    QTreeView* m_files;
+    QPushButton* m_again;
     QPushButton* m_button;
     /// Of all tracks.
     qint64 m_frames = 0;

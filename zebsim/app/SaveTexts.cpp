@@ -1,11 +1,31 @@
 #include "SaveTexts.h"
 
 #include "LastShoot.h"
-#include "SaveJob.h"
+#include "SavePlan.h"
 #include "UiText.h"
 
 #include <QDir>
+#include <QFileInfo>
 #include <QLocale>
+
+namespace {
+
+QString nativePath(const QString& path) {
+    return QDir::toNativeSeparators(path);
+}
+
+QString folderOf(const SaveOrders& orders, int track) {
+    return nativePath(QFileInfo(orders.tracks[std::size_t(track)].stem).path());
+}
+
+QString spaceText(const PlanEntry& entry) {
+    const QLocale locale;
+    return uiText("There is not enough space in %1: %2 are needed, %3 are free.")
+        .arg(nativePath(entry.path), locale.formattedDataSize(entry.count),
+             locale.formattedDataSize(entry.detail.toLongLong()));
+}
+
+}  // namespace
 
 QString outcomeText(const SaveOutcome& outcome, const SaveOrders& orders) {
     const QString& name = outcome.name;
@@ -15,7 +35,7 @@ QString outcomeText(const SaveOutcome& outcome, const SaveOrders& orders) {
         case SaveOutcome::Absent:
             return outcome.reason;
         case SaveOutcome::Saved:
-            return uiText("%1: %2 frames saved in %3").arg(name, saved, QDir::toNativeSeparators(orders.folder));
+            return uiText("%1: %2 frames saved in %3").arg(name, saved, folderOf(orders, outcome.track));
         case SaveOutcome::CameraLost:
             if (outcome.saved == 0) {
                 return uiText("%1: camera lost before its first frame, %2 frames not saved (%3)")
@@ -26,8 +46,6 @@ QString outcomeText(const SaveOutcome& outcome, const SaveOrders& orders) {
         case SaveOutcome::FileFailed:
             return uiText("%1: %2 can't be written, %3 frames not saved (%4)")
                 .arg(name, QDir::toNativeSeparators(outcome.file), left, uiText(outcome.reason));
-        case SaveOutcome::Skipped:
-            return uiText("%1: skipped, %2 frames saved, %3 not").arg(name, saved, left);
         case SaveOutcome::Cancelled:
             break;
     }
@@ -35,21 +53,50 @@ QString outcomeText(const SaveOutcome& outcome, const SaveOrders& orders) {
 }
 
 QString absentText(const AbsentCamera& camera) {
-    if (camera.why == AbsentCamera::OtherPartition) {
-        return uiText("%1: the last recording lies in partition %2. It is not saved.")
-            .arg(camera.name, QString::number(camera.partition));
-    }
     const QString text = camera.why == AbsentCamera::Gone ? uiText("%1: the camera has disappeared.")
                                                           : uiText("%1: the camera was disconnected.");
     return text.arg(camera.name) % QLatin1Char(' ') % uiText("Its recording is not saved.");
 }
 
-QString refusalText(const SaveRefusal& refusal, const SaveOrders& orders) {
-    const QString folder = QDir::toNativeSeparators(orders.folder);
-    if (refusal.needed < 0) {
-        return uiText("There can't be a folder %1.").arg(folder);
+QString leftOutText(const PlanEntry& entry) {
+    return uiText("%1: not saved (%2)").arg(entry.camera, uiText(entry.detail));
+}
+
+QString entryText(const PlanEntry& entry) {
+    const QString path = nativePath(entry.path);
+    switch (entry.kind) {
+        case PlanEntry::FolderIsMade:
+            return uiText("The folder %1 is made.").arg(path);
+        case PlanEntry::FolderHoldsFiles:
+            return uiText("Files that are in %1 already: %2").arg(path, QString::number(entry.count));
+        case PlanEntry::Exists:
+            return uiText("%1: %2 files exist already and are replaced, the first is %3")
+                .arg(entry.camera, QString::number(entry.count), path);
+        case PlanEntry::LeftOut:
+            return leftOutText(entry);
+        case PlanEntry::WrittenTwice:
+            return uiText("%1 and %2 would both write %3").arg(entry.detail, entry.camera, path);
+        case PlanEntry::Forbidden:
+            return uiText("%1: %2 \"%3\" is no name. Not allowed are %4")
+                .arg(entry.camera, uiText(entry.detail), entry.path, QStringLiteral("\\ / : * ? | \" < > %"));
+        case PlanEntry::NameTooLong:
+        case PlanEntry::PathTooLong:
+            return uiText("%1: %2 (%3)").arg(entry.camera, uiText("The path of the target is too long."), path);
+        case PlanEntry::NoFolder:
+            return path.isEmpty() ? uiText("No folder is chosen.") : uiText("There can't be a folder %1.").arg(path);
+        case PlanEntry::ReadOnly:
+            return uiText("Nothing can be written into %1.").arg(path);
+        case PlanEntry::NoSpace:
+            return spaceText(entry);
+        case PlanEntry::NoName:
+            return uiText("%1: %2").arg(entry.camera, uiText(entry.detail));
     }
-    const QLocale locale;
-    return uiText("There is not enough space in %1: %2 are needed, %3 are free.")
-        .arg(folder, locale.formattedDataSize(refusal.needed), locale.formattedDataSize(refusal.available));
+    return {};
+}
+
+QString plannedText(const SavePlan& plan, std::size_t track) {
+    const SaveOrders& orders = plan.orders;
+    return uiText("%1: %2 files, about %3, in %4")
+        .arg(orders.tracks[track].name, QString::number(filesIn(orders.tracks[track], orders.format)),
+             QLocale().formattedDataSize(plan.bytes[track]), folderOf(orders, int(track)));
 }

@@ -4,29 +4,33 @@
 #include "DialogButtons.h"
 #include "DialogRun.h"
 #include "FileError.h"
+#include "FileWriter.h"
 #include "FramePicture.h"
+#include "SaveFormat.h"
+#include "SaveTargets.h"
 #include "SimHost.h"
-#include "SnapShotFile.h"
 #include "TargetFields.h"
+#include "TextKey.h"
 
 #include <QClipboard>
 #include <QDialog>
 #include <QDialogButtonBox>
 #include <QDir>
+#include <QFileInfo>
 #include <QGuiApplication>
 #include <QPushButton>
 #include <QVBoxLayout>
 
 namespace {
 
-const QString Topic = QStringLiteral("snapshot");
+const QString Family = QStringLiteral("snap/");
 
 enum Mode { ToFile = 1, ToClipboard = 2, ToBoth = 3, Settings = 4 };
 
 void openSettings(SimHost& host) {
     auto* dialog = new QDialog(host.getMainWindow());
     dialog->setWindowTitle(uiText("Snapshots"));
-    auto* target = new TargetFields(host.prefs(), Topic, false, dialog);
+    auto* target = new TargetFields(host.prefs(), Family, false, dialog);
     auto* layout = new QVBoxLayout(dialog);
     layout->addWidget(target);
     QDialogButtonBox* buttons = addOkCancel(*dialog);
@@ -43,17 +47,28 @@ FileMetadata metadataOf(const SimHost& host, const Camera& camera, const CameraF
                                       : FrameMetadata::live(camera.state(), frame));
 }
 
-void writeFile(SimHost& host, const CameraFrame& frame, const QImage& image) {
-    const Camera* camera = host.cameras().find(host.docManager().currentKey());
-    const QString folder = host.prefs().value(Topic % QStringLiteral("/folder")).toString();
-    const SaveFormat& format = saveFormat(host.prefs().value(Topic % QStringLiteral("/format")).toString());
+/// Throws.
+void writePicture(SimHost& host, const CameraFrame& frame, const QImage& image) {
+    const DOCKEY key = host.docManager().currentKey();
+    const Camera* camera = host.cameras().find(key);
+    const SaveFormat& format = saveFormat(host.prefs().value(Family % QStringLiteral("format")).toString());
+    const QString file = snapShotStem(host, key, QDateTime::currentDateTime()) % QLatin1Char('.') % format.suffix;
+    const QString folder = QFileInfo(file).path();
+    if (!QDir().mkpath(folder)) {
+        throw FileError(folder, TextKey("there can't be such a folder"));
+    }
+    writeFile(file, format.encoded(image, camera ? metadataOf(host, *camera, frame) : FileMetadata()), Over::Nothing);
+}
+
+void tryToWrite(SimHost& host, const CameraFrame& frame, const QImage& image) {
     try {
-        writeSnapShot(folder, camera ? camera->name() : QString(), QDateTime::currentDateTime(), format, image,
-                      camera ? metadataOf(host, *camera, frame) : FileMetadata());
+        writePicture(host, frame, image);
     } catch (const FileError& e) {
         host.messages().tell(Message::Alert,
                              uiText("%1 can't be written: %2")
                                  .arg(QDir::toNativeSeparators(e.file()), uiText(QString::fromUtf8(e.what()))));
+    } catch (const std::exception& e) {
+        host.messages().tell(Message::Alert, uiText(QString::fromUtf8(e.what())));
     }
 }
 
@@ -73,6 +88,6 @@ void takeSnapShot(SimHost& host, const std::optional<CameraFrame>& frame, int mo
         QGuiApplication::clipboard()->setImage(image);
     }
     if (mode == ToFile || mode == ToBoth) {
-        writeFile(host, *frame, image);
+        tryToWrite(host, *frame, image);
     }
 }

@@ -35,20 +35,21 @@ QString missingFor(const SaveFormat& format) {
 
 }  // namespace
 
-TargetFields::TargetFields(Preferences& prefs, const QString& topic, bool withVideo, QWidget* parent)
-    : QWidget(parent), m_prefs(prefs), m_topic(topic), m_folder(new QLineEdit(this)), m_format(new QComboBox(this)) {
+TargetFields::TargetFields(Preferences& prefs, const QString& family, bool withVideo, QWidget* parent)
+    : QWidget(parent), m_prefs(prefs), m_family(family), m_folder(new QLineEdit(this)), m_format(new QComboBox(this)) {
     m_folder->setObjectName(QStringLiteral("folder"));
     m_format->setObjectName(QStringLiteral("format"));
+    setFocusProxy(m_folder);
     auto* form = new QFormLayout(this);
     form->setContentsMargins(0, 0, 0, 0);
     form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
-    form->addRow(uiText("Folder"), makeFolder(prefs.value(topic % QStringLiteral("/folder")).toString()));
+    form->addRow(uiText("Folder"), makeFolder(prefs.value(family % QStringLiteral("dir")).toString()));
     form->addRow(uiText("Format"), m_format);
     const QString missing = addFormats(withVideo);
     if (!missing.isEmpty()) {
         form->addRow(new QLabel(missing, this));
     }
-    chooseFormat(prefs.value(topic % QStringLiteral("/format")).toString());
+    chooseFormat(prefs.value(family % QStringLiteral("format")).toString());
 }
 
 QWidget* TargetFields::makeFolder(const QString& folder) {
@@ -110,7 +111,14 @@ void TargetFields::setFolder(const QString& folder) {
     m_folder->setText(QDir::toNativeSeparators(folder));
 }
 
+QHash<QString, QVariant> TargetFields::typed() const {
+    return {{m_family % QStringLiteral("dir"), isComplete() ? QDir(folder()).absolutePath() : QString()},
+            {m_family % QStringLiteral("format"), m_format->currentData()}};
+}
+
 void TargetFields::store() {
-    m_prefs.setValue(m_topic % QStringLiteral("/folder"), QDir(folder()).absolutePath());
-    m_prefs.setValue(m_topic % QStringLiteral("/format"), m_format->currentData());
+    const QHash<QString, QVariant> values = typed();
+    for (auto value = values.begin(); value != values.end(); ++value) {
+        m_prefs.setValue(value.key(), *value);
+    }
 }

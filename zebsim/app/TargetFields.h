@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QHash>
+#include <QVariant>
 #include <QWidget>
 
 class Preferences;
@@ -13,13 +15,15 @@ class TargetFields : public QWidget {
     Q_OBJECT
 
 public:
-    /// The preferences are "<topic>/folder" and "<topic>/format"; `prefs` must outlive the fields.
-    TargetFields(Preferences& prefs, const QString& topic, bool withVideo, QWidget* parent);
+    /// The preferences are `dir` and `format` of `family`, as "export/"; `prefs` must outlive the fields.
+    TargetFields(Preferences& prefs, const QString& family, bool withVideo, QWidget* parent);
 
     bool isComplete() const;
     /// As it stands in the field, with a separator of '/'.
     QString folder() const;
     void setFolder(const QString& folder);
+    /// What `store` would store.
+    QHash<QString, QVariant> typed() const;
     void store();
 
 Q_SIGNALS:
@@ -32,7 +36,7 @@ private:
     void browse();
 
     Preferences& m_prefs;
-    const QString m_topic;
+    const QString m_family;
     QLineEdit* m_folder;
     QComboBox* m_format;
 };

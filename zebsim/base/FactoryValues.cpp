@@ -7,7 +7,7 @@
 namespace {
 
 struct FactoryValue {
-    const char* key;
+    QByteArray key;
     QVariant value;
 };
 
@@ -16,7 +16,6 @@ QVariant text(const char* value) {
 }
 
 QList<FactoryValue> table() {
-    const QString pictures = QStandardPaths::writableLocation(QStandardPaths::PicturesLocation);
     const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
     return {
         {"alert/setsynchronization", true},
@@ -31,14 +30,19 @@ QList<FactoryValue> table() {
         {"display/recordRateInsertDelimiter", false},
         {"env/language", text("en")},
         {"env/style", text("light")},
+        {"layout/filename", text("Layout")},
+        {"layout/filenameadddetails", text("number")},
         {"main/scrno", -1},
         {"recording/AutoDownload", true},
         {"recording/RecAllConnectedCamera", false},
         {"recording/useTriggerTest", true},
-        {"save/folder", pictures},
-        {"save/format", text("png")},
-        {"snapshot/folder", pictures},
-        {"snapshot/format", text("png")},
+        // What a camera adds to its names is enough.
+        {"save/EnableBlankFilename", true},
+        {"save/SaveInfFile", false},
+        {"save/fixedgroupdir", text("")},
+        {"save/substitutefolder", text("")},
+        {"snap/filenameaddtime", true},
+        {"snap/filenameaddtimeformat", text("yyyyMMdd-HHmmss")},
         {"sync/external", 0},
         {"sync/generator/address", text("")},
         {"sync/generator/input", 0},
@@ -48,6 +52,7 @@ QList<FactoryValue> table() {
         {"trigger/manualBeforePercent", 50.0},
         {"trigger/randomFrames", 100},
         {"trigger/randomTimes", 10},
+        {"usercustom/cameraNameFilePath", QString(documents + QStringLiteral("/Kestrel/ZEB4/cameranamelist.csv"))},
         {"wren/column_order/cameraInfo",
          text("lock,connectIcon,cameraName,alert,cameraStatus,sync,connectionStatus,ipAddress,comment")},
         {"wren/column_order/livecontrol", text("lock,connectIcon,cameraName,alert,cameraStatus,sync,frameRate,"
@@ -128,14 +133,42 @@ QList<FactoryValue> table() {
     };
 }
 
+/// So that no two cameras get one name, and no save that of another.
+QList<FactoryValue> fileNames(const char* family, int cameraDigits, int headDigits) {
+    const QByteArray prefix(family);
+    const QString pictures = QStandardPaths::writableLocation(QStandardPaths::PicturesLocation);
+    return {
+        {prefix + "dir", pictures},
+        {prefix + "filename", text("")},
+        {prefix + "filenameadddetail", true},
+        {prefix + "filenameadddetails", text("name,number")},
+        {prefix + "filenameadddetailsconnect", text("_")},
+        {prefix + "filenameaddnumber", true},
+        {prefix + "filenameaddnumbercameranodigits", cameraDigits},
+        {prefix + "filenameaddnumberheadnodigits", headDigits},
+        {prefix + "filenameaddnumbersessionnodigits", 3},
+        {prefix + "filenameaddtextvalue", text("")},
+        {prefix + "filenameseqdigits", 5},
+        {prefix + "format", text("png")},
+    };
+}
+
 }  // namespace
 
 const QHash<QString, QVariant>& factoryValues() {
     static const QHash<QString, QVariant> values = [] {
         QHash<QString, QVariant> byKey;
-        for (const FactoryValue& entry : table()) {
-            byKey.insert(QString::fromLatin1(entry.key), entry.value);
+        const auto add = [&byKey](const QList<FactoryValue>& entries) {
+            for (const FactoryValue& entry : entries) {
+                byKey.insert(QString::fromLatin1(entry.key), entry.value);
+            }
+        };
+        for (const char* family : {"export/", "snap/"}) {
+            add(fileNames(family, 2, 1));
         }
+        // Of many cameras none stands in the name.
+        add(fileNames("layout/", 0, 0));
+        add(table());
         return byKey;
     }();
     return values;

@@ -11,6 +11,12 @@
 
 namespace {
 
+/// What a key was called before, and what holds its value now.
+const QList<QPair<const char*, QList<const char*>>> renamedKeys = {{"save/folder", {"export/dir", "layout/dir"}},
+                                                                   {"save/format", {"export/format", "layout/format"}},
+                                                                   {"snapshot/folder", {"snap/dir"}},
+                                                                   {"snapshot/format", {"snap/format"}}};
+
 /// The INI form is text alone: a value that is not text, under a key without a factory value, has its type beside it.
 const QString typeGroup = QStringLiteral("types/");
 
@@ -49,11 +55,27 @@ Preferences::Preferences(const QString& path)
     } else if (m_settings->status() == QSettings::AccessError) {
         m_problem = QStringLiteral("The preference file %1 can't be opened; nothing will be stored.").arg(this->path());
     }
+    renameKeys();
     m_values = factoryValues();
     for (const QString& key : m_settings->allKeys()) {
         if (!key.startsWith(typeGroup)) {
             m_values.insert(key, stored(key));
         }
+    }
+}
+
+void Preferences::renameKeys() {
+    for (const auto& [before, keys] : renamedKeys) {
+        const QString old = QLatin1String(before);
+        if (!m_settings->contains(old)) {
+            continue;
+        }
+        for (const char* key : keys) {
+            if (!m_settings->contains(QLatin1String(key))) {
+                m_settings->setValue(QLatin1String(key), m_settings->value(old));
+            }
+        }
+        m_settings->remove(old);
     }
 }
 

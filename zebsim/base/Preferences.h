@@ -30,6 +30,8 @@ public:
 
 private:
     void keepCorruptFileAside();
+    /// Values under keys that are called otherwise by now are taken over.
+    void renameKeys();
     QVariant stored(const QString& key) const;
 
     std::unique_ptr<WholeSettings> m_settings;

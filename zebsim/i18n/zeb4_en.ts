@@ -491,5 +491,9 @@
         <source>p_pseudo</source>
         <translation>Pseudo colour</translation>
     </message>
+    <message>
+        <source>s_save</source>
+        <translation>Saving</translation>
+    </message>
 </context>
 </TS>

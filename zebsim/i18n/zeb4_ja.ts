@@ -2271,5 +2271,65 @@
         <source>no camera's settings can be kept</source>
         <translation>保存できるカメラの設定がありません</translation>
     </message>
+    <message>
+        <source>s_save</source>
+        <translation>保存</translation>
+    </message>
+    <message>
+        <source>Name of every group folder</source>
+        <translation>すべてのグループフォルダーの名前</translation>
+    </message>
+    <message>
+        <source>Folder for all files, whatever their own</source>
+        <translation>すべてのファイルの保存先（個別の設定より優先）</translation>
+    </message>
+    <message>
+        <source>Adding a number</source>
+        <translation>番号の付加</translation>
+    </message>
+    <message>
+        <source>Digits</source>
+        <translation>桁数</translation>
+    </message>
+    <message>
+        <source>As many as the cameras need</source>
+        <translation>カメラの台数に合わせる</translation>
+    </message>
+    <message>
+        <source>Own choice</source>
+        <translation>任意</translation>
+    </message>
+    <message>
+        <source>Head</source>
+        <translation>ヘッド</translation>
+    </message>
+    <message>
+        <source>Session</source>
+        <translation>セッション</translation>
+    </message>
+    <message>
+        <source>Number</source>
+        <translation>番号</translation>
+    </message>
+    <message>
+        <source>Add camera</source>
+        <translation>カメラの追加</translation>
+    </message>
+    <message>
+        <source>Add camera...</source>
+        <translation>カメラの追加...</translation>
+    </message>
+    <message>
+        <source>An address is four numbers from 0 to 255 with dots between, as 192.168.0.10.</source>
+        <translation>アドレスは 192.168.0.10 のように、0 から 255 までの 4 つの数をピリオドで区切って入力してください。</translation>
+    </message>
+    <message>
+        <source>%1 at %2 is listed already.</source>
+        <translation>%1 (%2) はすでに一覧にあります。</translation>
+    </message>
+    <message>
+        <source>No camera answers at %1.</source>
+        <translation>%1 のカメラから応答がありません。</translation>
+    </message>
 </context>
 </TS>

@@ -1,31 +1,35 @@
 #pragma once
 
-#include "FileMetadata.h"
+#include <QSet>
 
-#include <QImage>
-#include <QString>
+#include <functional>
+#include <memory>
 
-/// A frame as it goes into a file.
-struct SavedFrame {
-    QImage picture;
-    /// A file name's text for it.
-    QString number;
-    /// Empty for a video, which has one text for all frames.
-    FileMetadata metadata;
-};
+class QString;
+class StopSource;
+enum class Over;
+struct SaveOrders;
+struct SaveTrack;
 
-/// Where the frames of a camera go: a file each, or one file. What is not complete when it is destroyed is removed.
-/// Everything throws `FileError`. GUI thread.
+/// Where the frames of a track go: a file each, or one file. A file that is not complete when it is destroyed is
+/// removed. Everything throws `FileError`.
 class FrameSink {
 public:
+    using Step = std::function<void()>;
+
     virtual ~FrameSink() = default;
 
-    /// False when the user keeps a file that stands in the way.
-    virtual bool write(SavedFrame frame) = 0;
-    /// Still at work on what it was given; frames are to wait.
-    virtual bool isBusy() { return false; }
-    /// All frames are written; it may be busy then for a last time.
-    virtual void close() {}
-    /// Once closed and not busy: the last file is complete. False when the user keeps one that stands in its way.
-    virtual bool complete() { return true; }
+    /// Makes what is to be written of a frame; of several frames side by side, on any thread. Answers what is left to
+    /// do: that is done in the order of the frames, one after the other, on any thread.
+    virtual Step prepare(int index, const QSet<int>& lost) = 0;
+    /// After the last of them.
+    virtual void finish() {}
+    /// When there is nothing more to be written, after a failure too: what is not complete goes.
+    virtual void drop() {}
+
+    /// For frames of `track`. What takes long ends when `stop` is stopped. They must outlive the sink.
+    static std::unique_ptr<FrameSink> of(const SaveOrders& orders, const SaveTrack& track, const StopSource& stop);
 };
+
+/// Whether the orders let an old file of that path go.
+Over overOf(const SaveOrders& orders, const QString& path);

@@ -26,16 +26,16 @@ bool LastShoot::isEarlier(const Recording& recording) const {
 QList<AbsentCamera> LastShoot::absent() const {
     QList<AbsentCamera> absent;
     for (const Camera* camera : m_cameras.known()) {
-        const bool isThere = m_cameras.find(camera->key()) != nullptr && camera->get(&CameraState::connected);
-        const PARTITIONNUMBER inUse = camera->get(&CameraState::partition);
-        const auto why = camera->isGone() ? AbsentCamera::Gone
-                         : isThere        ? AbsentCamera::OtherPartition
-                                          : AbsentCamera::Disconnected;
-        for (const Recording& recording : camera->recordings()) {
-            const bool canBeFetched = isThere && recording.partition == inUse;
-            if (recording.serial > m_before && !recording.saved && !canBeFetched) {
-                absent.append({m_cameras.labelOf(*camera), why, recording.partition});
-            }
+        if (m_cameras.find(camera->key()) != nullptr && camera->get(&CameraState::connected)) {
+            continue;
+        }
+        const std::vector<Recording> recordings = camera->recordings();
+        const auto isLost = [this](const Recording& recording) {
+            return recording.serial > m_before && !recording.saved;
+        };
+        if (std::any_of(recordings.begin(), recordings.end(), isLost)) {
+            absent.append(
+                {m_cameras.labelOf(*camera), camera->isGone() ? AbsentCamera::Gone : AbsentCamera::Disconnected});
         }
     }
     return absent;

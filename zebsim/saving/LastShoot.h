@@ -12,12 +12,10 @@ class HostEvents;
 
 /// A camera whose last recording can't be fetched.
 struct AbsentCamera {
-    enum Why { Gone, Disconnected, OtherPartition };
+    enum Why { Gone, Disconnected };
 
     QString name;
     Why why = Gone;
-    /// Where the recording lies.
-    PARTITIONNUMBER partition = 1;
 };
 
 /// What the cameras kept of the last recording that was triggered, wherever they are by now. GUI thread.
@@ -30,8 +28,8 @@ public:
 
     /// Whether `recording` was there before the last one that this object knows of.
     bool isEarlier(const Recording& recording) const;
-    /// The cameras that hold something of it that nobody has saved, but are not connected any more or use another
-    /// partition, in the order of their keys.
+    /// The cameras that hold something of it that nobody has saved, but are not connected any more, in the order of
+    /// their keys.
     QList<AbsentCamera> absent() const;
 
 private:

@@ -1,58 +1,56 @@
 #include "SaveFormat.h"
 
-#include "TiffFile.h"
+#include "PictureEncoder.h"
 
-#include <QBuffer>
-#include <QImageWriter>
+#include <QHash>
 
 #include <algorithm>
 
 namespace {
 
-constexpr int JpegQuality = 95;
 /// Between frames little changes.
 constexpr int FramesInSizeOfOne = 4;
 
-/// The texts that the picture itself has are part of the file.
-QByteArray written(const QImage& picture, const QByteArray& format) {
-    QBuffer buffer;
-    QImageWriter writer(&buffer, format);
-    if (format == "jpeg") {
-        writer.setQuality(JpegQuality);
-    }
-    return writer.write(picture) ? buffer.data() : QByteArray();
+/// Null for a video.
+PictureEncoder encoderOf(const QString& id) {
+    static const QHash<QString, PictureEncoder> encoders = {{QStringLiteral("png"), pngOf},
+                                                            {QStringLiteral("tiff"), tiffOf},
+                                                            {QStringLiteral("jpeg"), jpegOf},
+                                                            {QStringLiteral("bmp"), bmpOf}};
+    return encoders.value(id);
 }
 
 }  // namespace
 
+bool SaveFormat::isVideo() const {
+    return encoderOf(id) == nullptr;
+}
+
+bool SaveFormat::isOneFile() const {
+    return isVideo() || (options.isMultiPage && id == QLatin1String("tiff"));
+}
+
 QByteArray SaveFormat::encoded(QImage picture, const FileMetadata& metadata) const {
-    if (writer == "tiff") {
-        return tiffOf(picture, metadata.description);
-    }
-    picture.setText(QStringLiteral("Description"), QString::fromLatin1(metadata.description));
-    // Of several texts in a JPEG file most readers see the last one only.
-    if (writer == "png") {
-        for (const auto& [name, value] : metadata.tags) {
-            picture.setText(name, value);
-        }
-    }
-    return written(picture, writer);
+    return encoderOf(id)(picture, metadata, options);
 }
 
 qint64 SaveFormat::expectedSize(const QImage& picture, const FileMetadata& metadata) const {
-    return isVideo() ? written(picture, "jpeg").size() / FramesInSizeOfOne : encoded(picture, metadata).size();
+    return isVideo() ? saveFormat(QStringLiteral("jpeg")).encoded(picture, metadata).size() / FramesInSizeOfOne
+                     : encoded(picture, metadata).size();
 }
 
 const QList<SaveFormat>& saveFormats() {
-    static const QList<SaveFormat> formats = {{QStringLiteral("png"), QStringLiteral("png"), "png"},
-                                              {QStringLiteral("tiff"), QStringLiteral("tif"), "tiff"},
-                                              {QStringLiteral("jpeg"), QStringLiteral("jpg"), "jpeg"},
-                                              {QStringLiteral("video"), QStringLiteral("mp4"), {}}};
+    static const QList<SaveFormat> formats = {{QStringLiteral("png"), QStringLiteral("png")},
+                                              {QStringLiteral("tiff"), QStringLiteral("tif")},
+                                              {QStringLiteral("jpeg"), QStringLiteral("jpg")},
+                                              {QStringLiteral("bmp"), QStringLiteral("bmp")},
+                                              {QStringLiteral("mp4"), QStringLiteral("mp4")}};
     return formats;
 }
 
 const SaveFormat& saveFormat(const QString& id) {
+    const QString& wanted = id == QLatin1String("video") ? saveFormats().last().id : id;
     const auto found = std::find_if(saveFormats().begin(), saveFormats().end(),
-                                    [&](const SaveFormat& format) { return format.id == id; });
+                                    [&](const SaveFormat& format) { return format.id == wanted; });
     return found == saveFormats().end() ? saveFormats().first() : *found;
 }

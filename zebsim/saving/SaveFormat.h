@@ -1,28 +1,30 @@
 #pragma once
 
 #include "FileMetadata.h"
+#include "PictureOptions.h"
 
 #include <QByteArray>
 #include <QImage>
 #include <QList>
 #include <QString>
 
-/// A kind of file that images are saved as.
+/// A kind of file that images are saved as, with its options. Any thread.
 struct SaveFormat {
     /// As the preferences hold it, and what a file's name ends in.
     QString id;
     QString suffix;
-    /// The name that image formats go by; empty for video.
-    QByteArray writer;
+    PictureOptions options = {};
 
-    bool isVideo() const { return writer.isEmpty(); }
-    /// The file of a picture with its metadata; empty when it can't be written.
+    bool isVideo() const;
+    /// All frames of a track stand in one file.
+    bool isOneFile() const;
+    /// The file of a picture with its metadata; empty when it can't be written. Not of a video.
     QByteArray encoded(QImage picture, const FileMetadata& metadata) const;
     /// Bytes that a frame takes with a picture and metadata like these; of a video, on average.
     qint64 expectedSize(const QImage& picture, const FileMetadata& metadata) const;
 };
 
-/// PNG, TIFF, JPEG, video.
+/// PNG, TIFF, JPEG, BMP, MP4, each with the options of a file that nobody has chosen any for.
 const QList<SaveFormat>& saveFormats();
-/// The first for an unknown id.
+/// The first for an unknown id; "video" is MP4.
 const SaveFormat& saveFormat(const QString& id);

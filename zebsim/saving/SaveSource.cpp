@@ -3,17 +3,12 @@
 #include "Camera.h"
 #include "CameraBank.h"
 #include "CameraError.h"
-#include "FileNames.h"
 #include "TextKey.h"
 
 #include <utility>
 
-SaveSource::SaveSource(std::shared_ptr<Camera> camera, const Recording& recording, QString name, QString fileName)
-    : m_camera(std::move(camera)),
-      m_key(m_camera->key()),
-      m_state(m_camera->state()),
-      m_recording(recording),
-      m_fileName(std::move(fileName)) {
+SaveSource::SaveSource(std::shared_ptr<Camera> camera, const Recording& recording, QString name)
+    : m_camera(std::move(camera)), m_key(m_camera->key()), m_state(m_camera->state()), m_recording(recording) {
     m_state.name = std::move(name);
 }
 
@@ -28,29 +23,25 @@ void SaveSource::read(const CameraBank& cameras, int index) const {
         throw CameraError(name(), TextKey("the camera is gone"));
     }
     const int frame = m_recording.selectedFirst + index;
-    const auto recording = m_camera->recording();
-    if (!recording || recording->serial != m_recording.serial || frame < recording->first || frame > recording->last) {
+    const auto there = m_camera->recordingOf(partition());
+    if (!there || there->serial != m_recording.serial || frame < there->first || frame > there->last) {
         throw CameraError(name(), TextKey("the recording is gone"));
     }
+}
+
+Clock& SaveSource::clock() const {
+    return m_camera->device().clock();
 }
 
 void SaveSource::noteSaved() const {
     m_camera->noteSaved(m_recording);
 }
 
-SaveSources saveSources(const CameraBank& cameras, FileNames& names) {
-    const std::vector<Camera*> known = cameras.known();
-    QList<NamedCamera> named;
-    for (const Camera* camera : known) {
-        named.append({camera->name(), camera->address()});
-    }
-    const QStringList fileNames = names.of(named);
+SaveSources saveSources(const CameraBank& cameras) {
     SaveSources sources;
-    for (std::size_t i = 0; i < known.size(); ++i) {
-        const auto camera = cameras.hold(known[i]->key());
-        const auto recording = known[i]->recording();
-        if (camera && recording && camera->get(&CameraState::connected)) {
-            sources.emplace_back(camera, *recording, cameras.labelOf(*camera), fileNames.at(int(i)));
+    for (const auto& camera : cameras.holdConnected()) {
+        for (const Recording& recording : camera->recordings()) {
+            sources.emplace_back(camera, recording, cameras.labelOf(*camera));
         }
     }
     return sources;

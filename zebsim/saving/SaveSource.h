@@ -10,21 +10,21 @@
 
 class Camera;
 class CameraBank;
-class FileNames;
+class Clock;
 
-/// What one camera gives to a save: its selected range, as it stood when the save was asked for. GUI thread.
+/// What one partition of a camera gives to a save: its selected range, as it stood when the save was asked for. Once it
+/// has its name, any thread may use it.
 class SaveSource {
 public:
-    /// `fileName` is the first part of its files' names.
-    SaveSource(std::shared_ptr<Camera> camera, const Recording& recording, QString name, QString fileName);
+    SaveSource(std::shared_ptr<Camera> camera, const Recording& recording, QString name);
 
     DOCKEY key() const { return m_key; }
+    PARTITIONNUMBER partition() const { return m_recording.partition; }
     /// What it is called in lists and in pictures.
     const QString& name() const { return m_state.name; }
     void setName(const QString& name) { m_state.name = name; }
-    const QString& fileName() const { return m_fileName; }
     const Recording& recording() const { return m_recording; }
-    QSize resolution() const { return frame(0).resolution; }
+    QSize resolution() const { return m_recording.resolution; }
     int frames() const { return static_cast<int>(m_recording.selectedCount()); }
     /// What the range's frame number `index`, from 0 on, shows.
     CameraFrame frame(int index) const;
@@ -32,7 +32,9 @@ public:
     /// Has the camera hand that frame over. Throws `CameraError` when it is not there any more, does not answer, or has
     /// lost the recording.
     void read(const CameraBank& cameras, int index) const;
-    /// All of it stands in files.
+    /// That by which the camera's waiting goes.
+    Clock& clock() const;
+    /// All of it stands in files. GUI thread.
     void noteSaved() const;
 
 private:
@@ -40,10 +42,9 @@ private:
     DOCKEY m_key;
     CameraState m_state;
     Recording m_recording;
-    QString m_fileName;
 };
 
 using SaveSources = std::vector<SaveSource>;
 
-/// The connected cameras that have recorded something, in the order of their keys. `names` learns of all cameras.
-SaveSources saveSources(const CameraBank& cameras, FileNames& names);
+/// What the connected cameras have recorded, in the order of their keys and then of their partitions. GUI thread.
+SaveSources saveSources(const CameraBank& cameras);

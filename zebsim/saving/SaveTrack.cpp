@@ -1,7 +1,7 @@
 #include "SaveTrack.h"
 
 #include "FramePicture.h"
-#include "SaveNames.h"
+#include "SaveFormat.h"
 
 #include <QPainter>
 
@@ -44,7 +44,7 @@ QSize SaveTrack::size() const {
     return {tile.width() * columns, tile.height() * rows};
 }
 
-QImage SaveTrack::picture(int index, const QSet<DOCKEY>& lost) const {
+QImage SaveTrack::picture(int index, const QSet<int>& lost) const {
     if (!isLayout) {
         return drawFrame(sources.front().frame(index), sources.front().resolution());
     }
@@ -55,7 +55,7 @@ QImage SaveTrack::picture(int index, const QSet<DOCKEY>& lost) const {
     const int columns = columnsOf(sources.size());
     for (int place = 0; place < int(sources.size()); ++place) {
         const SaveSource& source = sources[std::size_t(place)];
-        if (lost.contains(source.key())) {
+        if (lost.contains(place)) {
             continue;
         }
         const QSize fitting = fitInto(tile, source.resolution());
@@ -66,13 +66,14 @@ QImage SaveTrack::picture(int index, const QSet<DOCKEY>& lost) const {
     return picture;
 }
 
-FileMetadata SaveTrack::metadata(int index, const QSet<DOCKEY>& lost) const {
+FileMetadata SaveTrack::metadata(int index, const QSet<int>& lost) const {
     if (!isLayout) {
         return FileMetadata::of(sources.front().metadata(index));
     }
     QList<FrameMetadata> cameras;
-    for (const SaveSource& source : sources) {
-        if (!lost.contains(source.key())) {
+    for (int place = 0; place < int(sources.size()); ++place) {
+        if (!lost.contains(place)) {
+            const SaveSource& source = sources[std::size_t(place)];
             cameras.append(source.metadata(std::min(index, source.frames() - 1)));
         }
     }
@@ -92,11 +93,22 @@ FileMetadata SaveTrack::metadataOfAll() const {
 std::vector<SaveTrack> tracksOfEach(const SaveSources& sources) {
     std::vector<SaveTrack> tracks;
     for (const SaveSource& source : sources) {
-        tracks.push_back({source.name(), source.fileName(), false, {source}});
+        tracks.push_back({source.name(), false, {source}});
     }
     return tracks;
 }
 
 std::vector<SaveTrack> tracksOfLayout(const SaveSources& sources, const QString& name) {
-    return sources.empty() ? std::vector<SaveTrack>() : std::vector<SaveTrack>{{name, fileNameOf(name), true, sources}};
+    return sources.empty() ? std::vector<SaveTrack>() : std::vector<SaveTrack>{{name, true, sources}};
+}
+
+QString fileOf(const SaveTrack& track, const SaveFormat& format, int digits, int index) {
+    const qint64 number = track.number(index);
+    const QString text = QString::number(qAbs(number)).rightJustified(digits, QLatin1Char('0'));
+    const QString ending = format.isOneFile() ? QString() : QString((number < 0 ? "_-" : "_") % text);
+    return track.stem % ending % QLatin1Char('.') % format.suffix;
+}
+
+int filesIn(const SaveTrack& track, const SaveFormat& format) {
+    return format.isOneFile() ? 1 : track.frames() - track.from;
 }

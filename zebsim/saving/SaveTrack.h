@@ -6,28 +6,39 @@
 #include <QImage>
 #include <QSet>
 
-/// A row of pictures to be saved: the frames of one camera, or of several side by side.
+struct SaveFormat;
+
+/// A row of pictures to be saved: the frames of one recording, or of several side by side. Any thread.
 struct SaveTrack {
-    /// The camera's name, or what the layout is called; and the first part of its files' names.
+    /// What it is called in lists.
     QString name;
-    QString fileName;
     bool isLayout = false;
     /// Never empty.
     SaveSources sources;
+    /// Absolute path of its files, without number and suffix.
+    QString stem = {};
+    /// Index of the first frame to be saved; those before it stand in files.
+    int from = 0;
 
-    /// Of the longest range.
+    /// Of the longest range, those before `from` too.
     int frames() const;
     /// Number of a frame as an operator sees it. In a layout, where each camera has its own, they count from 0.
     qint64 number(int index) const;
     QSize size() const;
-    /// A camera whose range is over keeps its last frame; one of `lost` shows nothing.
-    QImage picture(int index, const QSet<DOCKEY>& lost = {}) const;
+    /// A camera whose range is over keeps its last frame; those at the places `lost` of
+    /// `sources` show nothing.
+    QImage picture(int index, const QSet<int>& lost = {}) const;
     /// Of a file with that picture, and of one with all of them.
-    FileMetadata metadata(int index, const QSet<DOCKEY>& lost = {}) const;
+    FileMetadata metadata(int index, const QSet<int>& lost = {}) const;
     FileMetadata metadataOfAll() const;
 };
 
-/// A track for each camera.
+/// A track for each source; they have no stem yet.
 std::vector<SaveTrack> tracksOfEach(const SaveSources& sources);
 /// One track of them all, called `name`; none when there is nothing to save.
 std::vector<SaveTrack> tracksOfLayout(const SaveSources& sources, const QString& name);
+
+/// Path of the file that a frame goes into, as "stem_00512.png" with at least `digits` digits, or "stem.mp4" for all.
+QString fileOf(const SaveTrack& track, const SaveFormat& format, int digits, int index);
+/// How many files are to be written: one, or one for each frame from the first to be saved on.
+int filesIn(const SaveTrack& track, const SaveFormat& format);

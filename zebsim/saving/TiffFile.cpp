@@ -1,81 +1,151 @@
 #include "TiffFile.h"
 
+#include "PictureEncoder.h"
+
 #include <QBuffer>
 #include <QImage>
 
 #include <algorithm>
+#include <vector>
 
 #include <tiffio.h>
 
 namespace {
 
 constexpr int StripBytes = 4 << 20;
+constexpr int Colours = 3;
+/// A higher one takes several times as long for a few bytes in a hundred.
+constexpr int DeflateLevel = 1;
 
-QBuffer& bufferOf(thandle_t handle) {
-    return *static_cast<QBuffer*>(handle);
+int schemeOf(TiffCompression compression) {
+    switch (compression) {
+        case TiffCompression::PackBits:
+            return COMPRESSION_PACKBITS;
+        case TiffCompression::Lzw:
+            return COMPRESSION_LZW;
+        case TiffCompression::Deflate:
+            return COMPRESSION_ADOBE_DEFLATE;
+        case TiffCompression::None:
+            break;
+    }
+    return COMPRESSION_NONE;
 }
 
-tmsize_t read(thandle_t handle, void* bytes, tmsize_t size) {
-    return bufferOf(handle).read(static_cast<char*>(bytes), size);
-}
-
-tmsize_t write(thandle_t handle, void* bytes, tmsize_t size) {
-    return bufferOf(handle).write(static_cast<const char*>(bytes), size);
-}
-
-toff_t seek(thandle_t handle, toff_t offset, int from) {
-    QBuffer& buffer = bufferOf(handle);
-    const qint64 start = from == SEEK_END ? buffer.size() : from == SEEK_CUR ? buffer.pos() : 0;
-    buffer.seek(start + qint64(offset));
-    return toff_t(buffer.pos());
-}
-
-toff_t size(thandle_t handle) {
-    return toff_t(bufferOf(handle).size());
-}
-
-int close(thandle_t /*handle*/) {
-    return 0;
-}
-
-void setTags(TIFF* file, const QImage& picture, const QByteArray& description) {
-    TIFFSetField(file, TIFFTAG_IMAGEWIDTH, picture.width());
-    TIFFSetField(file, TIFFTAG_IMAGELENGTH, picture.height());
-    TIFFSetField(file, TIFFTAG_COMPRESSION, COMPRESSION_LZW);
-    TIFFSetField(file, TIFFTAG_PHOTOMETRIC, PHOTOMETRIC_RGB);
-    TIFFSetField(file, TIFFTAG_SAMPLESPERPIXEL, 3);
-    TIFFSetField(file, TIFFTAG_BITSPERSAMPLE, 8);
-    TIFFSetField(file, TIFFTAG_PLANARCONFIG, PLANARCONFIG_CONTIG);
-    TIFFSetField(file, TIFFTAG_ORIENTATION, ORIENTATION_TOPLEFT);
-    TIFFSetField(file, TIFFTAG_ROWSPERSTRIP, std::max(1, StripBytes / (3 * std::max(1, picture.width()))));
-    TIFFSetField(file, TIFFTAG_RESOLUTIONUNIT, RESUNIT_INCH);
-    TIFFSetField(file, TIFFTAG_XRESOLUTION, double(picture.logicalDpiX()));
-    TIFFSetField(file, TIFFTAG_YRESOLUTION, double(picture.logicalDpiY()));
-    if (!description.isEmpty()) {
-        TIFFSetField(file, TIFFTAG_IMAGEDESCRIPTION, description.constData());
+/// Without the fourth number of each pixel.
+void packRow(const quint16* pixels, int width, std::vector<quint16>& row) {
+    row.resize(std::size_t(width) * Colours);
+    for (int x = 0; x < width; ++x) {
+        std::copy_n(pixels + std::ptrdiff_t(x) * 4, Colours, row.begin() + std::ptrdiff_t(x) * Colours);
     }
 }
 
-bool writeRows(TIFF* file, QImage picture) {
+}  // namespace
+
+/// What the library calls.
+struct TiffFile::Access {
+    static QIODevice& device(thandle_t file) { return static_cast<TiffFile*>(file)->m_device; }
+    static tmsize_t read(thandle_t file, void* bytes, tmsize_t size) {
+        return device(file).read(static_cast<char*>(bytes), size);
+    }
+    static tmsize_t write(thandle_t file, void* bytes, tmsize_t size) {
+        qint64 written = 0;
+        qint64 more = 0;
+        // A disk that is full takes a part, and only what comes after it is told why.
+        do {
+            more = device(file).write(static_cast<const char*>(bytes) + written, size - written);
+            written += std::max<qint64>(0, more);
+        } while (written < size && more > 0);
+        if (written != size) {
+            static_cast<TiffFile*>(file)->m_failure = device(file).errorString();
+        }
+        return written;
+    }
+    static toff_t seek(thandle_t file, toff_t offset, int from) {
+        const qint64 start = from == SEEK_END ? device(file).size() : from == SEEK_CUR ? device(file).pos() : 0;
+        device(file).seek(start + qint64(offset));
+        return toff_t(device(file).pos());
+    }
+    static toff_t size(thandle_t file) { return toff_t(device(file).size()); }
+    static int close(thandle_t /*file*/) { return 0; }
+    /// It is told by the one who asked.
+    static int beSilent(tiff* /*file*/, void* /*data*/, const char* /*module*/, const char* /*format*/, va_list) {
+        return 1;
+    }
+};
+
+TiffFile::TiffFile(QIODevice& device, const PictureOptions& options, bool isBig)
+    : m_device(device), m_options(options) {
+    TIFFOpenOptions* silent = TIFFOpenOptionsAlloc();
+    TIFFOpenOptionsSetErrorHandlerExtR(silent, Access::beSilent, nullptr);
+    m_file = TIFFClientOpenExt("picture", isBig ? "w8" : "w", this, Access::read, Access::write, Access::seek,
+                               Access::close, Access::size, nullptr, nullptr, silent);
+    TIFFOpenOptionsFree(silent);
+}
+
+TiffFile::~TiffFile() {
+    if (m_file != nullptr) {
+        TIFFClose(m_file);
+    }
+}
+
+bool TiffFile::add(const QImage& picture, const QByteArray& description) {
+    if (m_file == nullptr || picture.isNull()) {
+        return false;
+    }
+    setTags(picture, description);
+    const bool isDeep = m_options.depth == 16;
+    return writeRows(picture.convertToFormat(isDeep ? QImage::Format_RGBX64 : QImage::Format_RGB888)) &&
+           TIFFWriteDirectory(m_file) == 1;
+}
+
+void TiffFile::setTags(const QImage& picture, const QByteArray& description) {
+    const int rowBytes = std::max(1, picture.width()) * Colours * m_options.depth / 8;
+    TIFFSetField(m_file, TIFFTAG_SUBFILETYPE, m_options.isMultiPage ? FILETYPE_PAGE : 0);
+    TIFFSetField(m_file, TIFFTAG_IMAGEWIDTH, picture.width());
+    TIFFSetField(m_file, TIFFTAG_IMAGELENGTH, picture.height());
+    TIFFSetField(m_file, TIFFTAG_COMPRESSION, schemeOf(m_options.compression));
+    if (m_options.compression == TiffCompression::Deflate) {
+        TIFFSetField(m_file, TIFFTAG_ZIPQUALITY, DeflateLevel);
+    }
+    TIFFSetField(m_file, TIFFTAG_PHOTOMETRIC, PHOTOMETRIC_RGB);
+    TIFFSetField(m_file, TIFFTAG_SAMPLESPERPIXEL, Colours);
+    TIFFSetField(m_file, TIFFTAG_BITSPERSAMPLE, m_options.depth);
+    TIFFSetField(m_file, TIFFTAG_PLANARCONFIG, PLANARCONFIG_CONTIG);
+    TIFFSetField(m_file, TIFFTAG_ORIENTATION, ORIENTATION_TOPLEFT);
+    TIFFSetField(m_file, TIFFTAG_ROWSPERSTRIP, std::max(1, StripBytes / rowBytes));
+    TIFFSetField(m_file, TIFFTAG_RESOLUTIONUNIT, RESUNIT_INCH);
+    TIFFSetField(m_file, TIFFTAG_XRESOLUTION, double(picture.logicalDpiX()));
+    TIFFSetField(m_file, TIFFTAG_YRESOLUTION, double(picture.logicalDpiY()));
+    if (!description.isEmpty()) {
+        TIFFSetField(m_file, TIFFTAG_IMAGEDESCRIPTION, description.constData());
+    }
+}
+
+bool TiffFile::writeRows(const QImage& picture) {
+    std::vector<quint16> row;
     for (int y = 0; y < picture.height(); ++y) {
-        if (TIFFWriteScanline(file, picture.scanLine(y), uint32_t(y), 0) != 1) {
+        // The library takes what it may write to, and does not.
+        void* pixels = const_cast<uchar*>(picture.constScanLine(y));
+        if (m_options.depth == 16) {
+            packRow(static_cast<const quint16*>(pixels), picture.width(), row);
+            pixels = row.data();
+        }
+        if (TIFFWriteScanline(m_file, pixels, uint32_t(y), 0) != 1) {
             return false;
         }
     }
     return true;
 }
 
-}  // namespace
-
-QByteArray tiffOf(const QImage& picture, const QByteArray& description) {
+QByteArray tiffOf(QImage& picture, const FileMetadata& metadata, const PictureOptions& options) {
     QBuffer buffer;
     buffer.open(QIODevice::ReadWrite);
-    TIFF* file = TIFFClientOpen("picture", "w", &buffer, read, write, seek, close, size, nullptr, nullptr);
-    if (file == nullptr) {
-        return {};
+    PictureOptions single = options;
+    single.isMultiPage = false;
+    bool isWhole = false;
+    {
+        TiffFile file(buffer, single);
+        isWhole = file.add(picture, metadata.description);
     }
-    setTags(file, picture, description);
-    const bool isWhole = writeRows(file, picture.convertToFormat(QImage::Format_RGB888)) && TIFFFlush(file) == 1;
-    TIFFClose(file);
     return isWhole ? buffer.data() : QByteArray();
 }

@@ -1,38 +1,30 @@
 #pragma once
 
+#include "EncoderProcess.h"
+#include "FileWriter.h"
 #include "FrameSink.h"
-#include "VideoEncoder.h"
 
-#include <QProcess>
-#include <QTemporaryFile>
+#include <optional>
 
-class FileClaims;
+class QImage;
 
-/// Makes one video of all frames. It grows beside its place under another name, so that nothing half done bears its
-/// own.
+/// Makes one video of all frames.
 class VideoSink : public FrameSink {
 public:
-    /// The user is asked about `file` with the first frame, and it is made with the last, with `metadata` of all of
-    /// them. `claims` must outlive the sink.
-    VideoSink(FileClaims& claims, VideoEncoder encoder, QString file, FileMetadata metadata);
-    ~VideoSink() override;
+    VideoSink(const SaveOrders& orders, const SaveTrack& track, const StopSource& stop);
 
-    bool write(SavedFrame frame) override;
-    bool isBusy() override;
-    void close() override;
-    bool complete() override;
+    Step prepare(int index, const QSet<int>& lost) override;
+    void finish() override;
+    void drop() override;
 
 private:
-    bool begin(const QSize& size);
+    void feed(const QImage& picture);
     [[noreturn]] void fail();
 
-    FileClaims& m_claims;
-    const VideoEncoder m_encoder;
-    const QString m_file;
-    const FileMetadata m_metadata;
-    QTemporaryFile m_growing;
-    QProcess m_process;
-    qint64 m_frameSize = 0;
-    bool m_begun = false;
-    bool m_closed = false;
+    const SaveOrders& m_orders;
+    const SaveTrack& m_track;
+    const StopSource& m_stop;
+    const QString m_path;
+    std::optional<FileWriter> m_file;
+    std::optional<EncoderProcess> m_process;
 };

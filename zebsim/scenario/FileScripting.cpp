@@ -79,6 +79,28 @@ void FileScripting::write(const QString& path, const QString& text) const {
     }
 }
 
+QVariantList FileScripting::list(const QString& folder) const {
+    QVariantList files;
+    const QFileInfoList found = QDir(whole(folder)).entryInfoList(QDir::Files | QDir::Hidden, QDir::Name);
+    for (const QFileInfo& file : found) {
+        QVariantMap entry{{QStringLiteral("name"), file.fileName()}, {QStringLiteral("size"), double(file.size())}};
+        QImageReader reader(file.filePath());
+        if (reader.canRead()) {
+            QVariantMap texts;
+            const QStringList keys = reader.textKeys();
+            for (const QString& key : keys) {
+                texts.insert(key, reader.text(key));
+            }
+            entry.insert(QStringLiteral("format"), QString::fromLatin1(reader.format()));
+            entry.insert(QStringLiteral("width"), reader.size().width());
+            entry.insert(QStringLiteral("height"), reader.size().height());
+            entry.insert(QStringLiteral("texts"), texts);
+        }
+        files.append(entry);
+    }
+    return files;
+}
+
 QVariantMap FileScripting::pixels(const QString& path) const {
     QImageReader reader(whole(path));
     const QImage picture = reader.read().convertToFormat(QImage::Format_RGB32);

@@ -1,8 +1,10 @@
 #include "SaveScripting.h"
 
 #include "EventWait.h"
+#include "PlanDialog.h"
 #include "SaveDialog.h"
 #include "SaveProgress.h"
+#include "SaveTexts.h"
 #include "ScenarioError.h"
 
 #include <QApplication>
@@ -16,6 +18,7 @@ namespace {
 constexpr int ActivationMs = 2000;
 const QString Folder = QStringLiteral("folder");
 const QString Format = QStringLiteral("format");
+const QString Agree = QStringLiteral("agree");
 
 SaveProgress* standingProgress() {
     const QWidgetList windows = QApplication::topLevelWidgets();
@@ -39,35 +42,85 @@ void choose(QComboBox& box, const QString& format) {
     box.setCurrentIndex(index);
 }
 
-}  // namespace
-
-void SaveScripting::order(const QVariantMap& target) {
-    for (auto member = target.keyBegin(); member != target.keyEnd(); ++member) {
-        if (*member != Folder && *member != Format) {
-            throw ScenarioError(QStringLiteral("zeb.save takes a folder and a format, not %1").arg(*member));
-        }
+QVariantMap plainPlan(const SavePlan& plan) {
+    const SaveOrders& orders = plan.orders;
+    QVariantList tracks;
+    for (std::size_t i = 0; i < orders.tracks.size(); ++i) {
+        const SaveTrack& track = orders.tracks[i];
+        tracks.append(
+            QVariantMap{{QStringLiteral("name"), track.name},
+                        {QStringLiteral("files"), filesIn(track, orders.format)},
+                        {QStringLiteral("first"), fileOf(track, orders.format, orders.digits, track.from)},
+                        {QStringLiteral("last"), fileOf(track, orders.format, orders.digits, track.frames() - 1)},
+                        {QStringLiteral("bytes"), double(plan.bytes[i])}});
     }
-    m_orders.append(target);
+    QVariantList entries;
+    for (const PlanEntry& entry : plan.entries) {
+        entries.append(QVariantMap{{QStringLiteral("camera"), entry.camera},
+                                   {QStringLiteral("path"), entry.path},
+                                   {QStringLiteral("count"), double(entry.count)},
+                                   {QStringLiteral("text"), entryText(entry)},
+                                   {QStringLiteral("blocks"), entry.isBlocking()},
+                                   {QStringLiteral("asks"), entry.isQuestion()}});
+    }
+    return {{QStringLiteral("tracks"), tracks},
+            {QStringLiteral("entries"), entries},
+            {QStringLiteral("files"), double(plan.files)},
+            {QStringLiteral("bytes"), double(plan.allBytes)},
+            {QStringLiteral("possible"), plan.isPossible()}};
 }
 
+}  // namespace
+
 bool SaveScripting::isFor(const QDialog& dialog) const {
-    return isOrderLeft() && qobject_cast<const SaveDialog*>(&dialog) != nullptr;
+    return (isOrderLeft() && qobject_cast<const SaveDialog*>(&dialog) != nullptr) ||
+           (m_isPlanExpected && qobject_cast<const PlanDialog*>(&dialog) != nullptr);
 }
 
 void SaveScripting::serve(QDialog& dialog) {
-    const QVariantMap target = m_orders.takeFirst();
+    auto* save = qobject_cast<SaveDialog*>(&dialog);
+    if (save != nullptr) {
+        serveDialog(*save, m_orders.takeFirst());
+        return;
+    }
+    const bool agrees = m_agrees && static_cast<PlanDialog&>(dialog).plan().isPossible();
+    dialog.done(agrees ? QDialog::Accepted : QDialog::Rejected);
+    if (m_agrees && !agrees) {
+        throw ScenarioError(QStringLiteral("the plan is not possible, see zeb.plan()"));
+    }
+}
+
+void SaveScripting::serveDialog(SaveDialog& dialog, const QVariantMap& target) {
+    m_agrees = target.value(Agree, true).toBool();
     try {
-        if (target.contains(Folder)) {
-            dialog.findChild<QLineEdit*>(Folder)->setText(target.value(Folder).toString());
-        }
-        if (target.contains(Format)) {
-            choose(*dialog.findChild<QComboBox*>(Format), target.value(Format).toString());
+        for (auto member = target.begin(); member != target.end(); ++member) {
+            if (member.key() == Folder) {
+                dialog.findChild<QLineEdit*>(Folder)->setText(member->toString());
+            } else if (member.key() == Format) {
+                choose(*dialog.findChild<QComboBox*>(Format), saveFormat(member->toString()).id);
+            } else if (member.key() != Agree) {
+                dialog.setOption(member.key(), *member);
+            }
         }
     } catch (const ScenarioError&) {
         dialog.reject();
         throw;
     }
+    m_isPlanExpected = true;
+    const QPointer<SaveDialog> alive(&dialog);
     dialog.accept();
+    m_isPlanExpected = false;
+    if (alive && alive->isVisible()) {
+        alive->reject();
+    }
+}
+
+QVariantMap SaveScripting::plan() {
+    const auto* dialog = qobject_cast<PlanDialog*>(QApplication::activeModalWidget());
+    if (dialog == nullptr) {
+        throw ScenarioError(QStringLiteral("no plan stands"));
+    }
+    return plainPlan(dialog->plan());
 }
 
 QStringList SaveScripting::results(const std::function<bool()>& givenUp) {

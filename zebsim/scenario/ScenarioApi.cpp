@@ -240,6 +240,14 @@ void ScenarioApi::save(const QVariantMap& target) {
     guarded([&] { m_dialogs.saves().order(target); });
 }
 
+QJSValue ScenarioApi::plan() {
+    return guarded([&] { return plain(SaveScripting::plan()); });
+}
+
+QJSValue ScenarioApi::files(const QString& folder) {
+    return guarded([&] { return plain(m_dialogs.files().list(folder)); });
+}
+
 QJSValue ScenarioApi::results() {
     return guarded([&] { return plain(SaveScripting::results(m_givenUp)); });
 }

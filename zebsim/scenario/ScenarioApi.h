@@ -64,6 +64,8 @@ public:
     /// As `zeb.answer`, which takes any number of texts, hands them over.
     Q_INVOKABLE void answers(const QStringList& texts);
     Q_INVOKABLE void save(const QVariantMap& target = {});
+    Q_INVOKABLE QJSValue plan();
+    Q_INVOKABLE QJSValue files(const QString& folder);
     Q_INVOKABLE QJSValue results();
     /// `path` is a text, or null.
     Q_INVOKABLE void file(const QJSValue& path);

@@ -2,6 +2,7 @@
 
 #include "BoxButton.h"
 #include "MessageBoxes.h"
+#include "PlanDialog.h"
 #include "ScenarioError.h"
 
 #include <QAbstractButton>
@@ -101,7 +102,13 @@ QWebView& ScenarioDialogs::pageOfStanding() {
 
 void ScenarioDialogs::dialogStands(QDialog* dialog) {
     if (m_saves.isFor(*dialog)) {
-        serve(m_saves, *dialog);
+        const QPointer<QDialog> standing(dialog);
+        if (qobject_cast<PlanDialog*>(dialog) != nullptr) {
+            runFunction();
+        }
+        if (standing && standing->isVisible()) {
+            serve(m_saves, *dialog);
+        }
         return;
     }
     const QPointer<QMessageBox> box = qobject_cast<QMessageBox*>(dialog);

@@ -1,0 +1,134 @@
+#include "FileNameDetails.h"
+#include "SavePlan.h"
+#include "TargetDisk.h"
+#include "support/TestHost.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+/// A disk as a case describes it.
+struct FakeDisk : TargetDisk {
+    Folder folder(const QString& path) override {
+        return {states.value(path, Folder::There), path.section('/', 1, 1).toUtf8(), available};
+    }
+    const QStringList& namesIn(const QString& folder) override { return names[folder]; }
+
+    QHash<QString, Folder::State> states;
+    QHash<QString, QStringList> names;
+    qint64 available = 1LL << 40;
+};
+
+/// Two cameras, with the frames -1 to 1 each.
+class Plan : public testing::Test {
+protected:
+    Plan() {
+        for (DOCKEY key = 1; key <= 2; ++key) {
+            host.camera(key).change({{"connected", true}, {"recorded", true}, {"recordedTrigger", 10}});
+            host.camera(key).change({{"resolution", QVariantList{64, 64}}, {"selectedRange", QVariantList{9, 11}}});
+        }
+    }
+
+    /// Each entry as "kind camera path count detail".
+    QStringList told(const TrackTarget& one, const TrackTarget& two, const char* format = "png") {
+        const SaveOrders orders{saveFormat(format), tracksOfEach(saveSources(host.host.cameras()))};
+        plan = planOf(orders, {one, two}, disk);
+        QStringList lines;
+        for (const PlanEntry& entry : plan.entries) {
+            static const QStringList kinds = {"made", "holds", "exists", "left out",  "twice",    "forbidden",
+                                              "name", "path",  "none",   "read-only", "no space", "no name"};
+            const QString count = entry.count > 0 ? QString::number(entry.count) : QString();
+            lines << QStringList({kinds.at(entry.kind), entry.camera, entry.path, count, entry.detail})
+                         .join(' ')
+                         .simplified();
+        }
+        EXPECT_EQ(plan.isPossible(), std::none_of(plan.entries.begin(), plan.entries.end(),
+                                                  [](const PlanEntry& entry) { return entry.isBlocking(); }));
+        return lines;
+    }
+
+    TestHost host{standardRig(2)};
+    FakeDisk disk;
+    SavePlan plan;
+};
+
+TEST_F(Plan, NamesWhatStandsAgainstEachCamera) {
+    const QString wide(QChar(0x9AD8));
+    const auto of = [](const QString& name) { return TrackTarget{"/r", {}, {}, name}; };
+    const struct {
+        const char* what;
+        TrackTarget one;
+        QStringList told;
+    } cases[] = {
+        {"nothing", of("a"), {}},
+        {"an empty root", {{}, {}, {}, "a"}, {"none Camera 1"}},
+        {"a root below nothing", {"r", {}, {}, "a"}, {"none Camera 1 r"}},
+        {"the same file", of("b"), {"twice Camera 2 /r/b_-00001.png Camera 1"}},
+        {"the same but for its letters' case", of("B"), {"twice Camera 2 /r/b_-00001.png Camera 1"}},
+        {"no name", of({}), {"no name Camera 1 Invalid filename."}},
+        {"a slash", of("a/c"), {"forbidden Camera 1 a/c File name"}},
+        {"a control character", of("a\x07"), {"forbidden Camera 1 a\x07 File name"}},
+        {"the folder above", {"/r", "..", {}, "a"}, {"forbidden Camera 1 .. Group folder"}},
+        {"a drive", {"/r", {}, "c:", "a"}, {"forbidden Camera 1 c: Subfolder"}},
+        {"255 bytes", of(wide.repeated(81) + "a"), {}},
+        {"256 bytes", of(wide.repeated(81) + "ab"), {"name Camera 1 /r/" + wide.repeated(81) + "ab_-00001.png"}},
+        {"a path of 4,095 bytes", {"/r" + QString("/" + QString(200, 'x')).repeated(20), {}, {}, QString(61, 'y')}, {}},
+        {"a folder that is made", {"/new", {}, {}, "a"}, {"made /new/"}},
+        {"a folder that takes nothing", {"/ro", {}, {}, "a"}, {"read-only /ro/"}},
+        {"a file in the way", {"/file", {}, {}, "a"}, {"none /file/"}},
+        {"other files", {"/full", {}, {}, "a"}, {"holds /full/ 4"}},
+        {"its own files", {"/full", {}, {}, "old"}, {"holds /full/ 4", "exists Camera 1 /full/old_00000.png 1"}},
+    };
+    disk.states = {{"/new/", TargetDisk::Folder::IsMade},
+                   {"/ro/", TargetDisk::Folder::ReadOnly},
+                   {"/file/", TargetDisk::Folder::Impossible}};
+    disk.names["/full/"] = QStringList{"old_00000.jpg", "old_00000.png", "old_00002.png", "older_00000.png"};
+    for (const auto& one : cases) {
+        EXPECT_EQ(told(one.one, of("b")).join('|').toStdString(), one.told.join('|').toStdString()) << one.what;
+    }
+    EXPECT_EQ(plan.orders.mayReplace, QSet<QString>({"/full/old_00000.png"})) << "and nothing else";
+    EXPECT_EQ(plan.files, 6);
+}
+
+TEST_F(Plan, CountsTheRoomOfEachFileSystem) {
+    const qint64 needed = [&] {
+        told({"/r", {}, {}, "a"}, {"/r", {}, {}, "b"});
+        return plan.allBytes;
+    }();
+    disk.available = needed;
+    const QStringList lines = told({"/r", {}, {}, "a"}, {"/r", {}, {}, "b"});
+    ASSERT_EQ(lines.size(), 1) << "others write to the disk as well";
+    EXPECT_TRUE(lines.first().startsWith("no space /r/"));
+    disk.available += 16 << 20;
+    EXPECT_EQ(told({"/r", {}, {}, "a"}, {"/r", {}, {}, "b"}), QStringList());
+    EXPECT_EQ(told({"/r", {}, {}, "a"}, {"/s", {}, {}, "b"}), QStringList()) << "each has room of its own";
+}
+
+TEST_F(Plan, CallsACameraAsItsPreferencesSay) {
+    const struct {
+        const char* what;
+        QHash<QString, QVariant> prefs;
+        const char* text;
+        bool hasSession;
+    } cases[] = {
+        {"as at first", {}, "Gate_C03H2S007", true},
+        {"without numbers", {{"export/filenameaddnumber", false}}, "Gate", false},
+        {"without anything", {{"export/filenameadddetail", false}}, "", false},
+        {"in another order", {{"export/filenameadddetails", "number,name"}}, "C03H2S007_Gate", true},
+        {"with a text",
+         {{"export/filenameadddetails", "text,name"}, {"export/filenameaddtextvalue", "run"}},
+         "run_Gate",
+         false},
+        {"joined otherwise", {{"export/filenameadddetailsconnect", "-"}}, "Gate-C03H2S007", true},
+        {"without sessions", {{"export/filenameaddnumbersessionnodigits", 0}}, "Gate_C03H2", false},
+    };
+    for (const auto& one : cases) {
+        const auto pref = [&](const QString& key) { return one.prefs.value(key, host.host.prefs().value(key)); };
+        const auto details = fileNameDetails(pref, 1, false, {" .Gate\t. ", 3, 2, {9, 2}}, 7);
+        EXPECT_EQ(details.text.toStdString(), one.text) << one.what;
+        EXPECT_EQ(details.hasSession, one.hasSession) << one.what;
+    }
+    EXPECT_EQ(nameInFiles(QString(100, QChar(0x9AD8))).toUtf8().size(), 150);
+}
+
+}  // namespace

@@ -1,0 +1,97 @@
+#include "PlanDialog.h"
+
+#include "SaveFilesModel.h"
+#include "SaveTexts.h"
+#include "UiText.h"
+
+#include <QDialogButtonBox>
+#include <QLabel>
+#include <QListWidget>
+#include <QLocale>
+#include <QPushButton>
+#include <QStyle>
+#include <QTreeView>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace {
+
+QStyle::StandardPixmap iconOf(const PlanEntry& entry) {
+    return entry.isBlocking()   ? QStyle::SP_MessageBoxCritical
+           : entry.isQuestion() ? QStyle::SP_MessageBoxWarning
+                                : QStyle::SP_MessageBoxInformation;
+}
+
+}  // namespace
+
+PlanDialog::PlanDialog(SavePlan plan, QWidget* parent) : QDialog(parent), m_plan(std::move(plan)) {
+    setWindowTitle(uiText("Files to be written"));
+    auto* layout = new QVBoxLayout(this);
+    auto* text = new QLabel(summary(), this);
+    text->setTextFormat(Qt::PlainText);
+    text->setObjectName(QStringLiteral("summary"));
+    layout->addWidget(text);
+    if (!m_plan.entries.isEmpty()) {
+        layout->addWidget(makeEntries());
+    }
+    layout->addWidget(makeFiles(), 1);
+    addButtons();
+    setMinimumWidth(100 * fontMetrics().averageCharWidth());
+}
+
+QString PlanDialog::summary() const {
+    return uiText("Files: %1, about %2")
+        .arg(QString::number(m_plan.files), QLocale().formattedDataSize(m_plan.allBytes));
+}
+
+QListWidget* PlanDialog::makeEntries() {
+    auto* list = new QListWidget(this);
+    list->setObjectName(QStringLiteral("entries"));
+    list->setWordWrap(true);
+    list->setSelectionMode(QAbstractItemView::NoSelection);
+    QList<PlanEntry> entries = m_plan.entries;
+    const auto weight = [](const PlanEntry& entry) { return entry.isBlocking() ? 0 : entry.isQuestion() ? 1 : 2; };
+    std::stable_sort(entries.begin(), entries.end(),
+                     [&](const PlanEntry& one, const PlanEntry& two) { return weight(one) < weight(two); });
+    for (const PlanEntry& entry : qAsConst(entries)) {
+        list->addItem(new QListWidgetItem(style()->standardIcon(iconOf(entry)), entryText(entry)));
+    }
+    return list;
+}
+
+QTreeView* PlanDialog::makeFiles() {
+    const auto state = [this](int track, int file) {
+        const SaveOrders& orders = m_plan.orders;
+        const SaveTrack& planned = orders.tracks[std::size_t(track)];
+        const QString path = fileOf(planned, orders.format, orders.digits, planned.from + file);
+        return orders.mayReplace.contains(path) ? SaveFilesModel::Replaces : SaveFilesModel::Planned;
+    };
+    auto* model = new SaveFilesModel(m_plan.orders, state, this);
+    QStringList lines;
+    for (std::size_t i = 0; i < m_plan.orders.tracks.size(); ++i) {
+        lines << plannedText(m_plan, i);
+    }
+    model->setLines({}, lines);
+    auto* files = new QTreeView(this);
+    files->setObjectName(QStringLiteral("files"));
+    files->setHeaderHidden(true);
+    files->setUniformRowHeights(true);
+    files->setModel(model);
+    return files;
+}
+
+void PlanDialog::addButtons() {
+    auto* buttons = new QDialogButtonBox(this);
+    const bool replaces = !m_plan.orders.mayReplace.isEmpty();
+    auto* save =
+        buttons->addButton(replaces ? uiText("Replace files and save") : uiText("Save"), QDialogButtonBox::AcceptRole);
+    save->setObjectName(QStringLiteral("save"));
+    save->setEnabled(m_plan.isPossible());
+    auto* back = buttons->addButton(uiText("Back"), QDialogButtonBox::RejectRole);
+    // What is lost by Enter must not be more than time.
+    (m_plan.isPossible() && !replaces ? save : back)->setDefault(true);
+    connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
+    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    layout()->addWidget(buttons);
+}

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "SavePlan.h"
+
+#include <QDateTime>
+#include <QHash>
+#include <QVariant>
+
+#include <vector>
+
+class SimHost;
+
+/// Preferences as a dialog shows them, which it has not stored yet, by their keys.
+using TypedPrefs = QHash<QString, QVariant>;
+
+/// What the preferences of a kind of save begin with.
+QString prefFamily(bool isLayout);
+
+/// Where each of `tracks` goes, in `plan`, and the plan for all of them: `typed` comes before the preferences. A camera
+/// that does not tell what its names need is left out. The names are promised by the save that began last. GUI thread.
+SavePlan composePlan(SimHost& host, const std::vector<SaveTrack>& tracks, const QStringList& absent,
+                     const TypedPrefs& typed, const QDateTime& time);
+
+/// Path of the first file of `track` as composed alone; a text in the user's language says why there is none.
+QString composedPath(SimHost& host, SaveTrack track, const TypedPrefs& typed, const QDateTime& time);
+
+/// Path of a picture of that camera, without what its name ends in. Throws.
+QString snapShotStem(SimHost& host, DOCKEY key, const QDateTime& time);

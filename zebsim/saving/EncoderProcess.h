@@ -1,0 +1,37 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+#include <sys/types.h>
+
+class StopSource;
+
+/// A program that is fed through its standard input. Unlike a `QProcess` it belongs to no thread, so that one after the
+/// other may feed it. When it is destroyed before its end, it is killed.
+class EncoderProcess {
+public:
+    /// One that can't be started fails at the first write. Waits end when `stop` is stopped, which must outlive it.
+    EncoderProcess(const QString& program, const QStringList& arguments, const StopSource& stop);
+    ~EncoderProcess();
+    EncoderProcess(const EncoderProcess&) = delete;
+    EncoderProcess& operator=(const EncoderProcess&) = delete;
+
+    /// Waits until it has taken them; false when it takes no more.
+    bool write(const char* bytes, qint64 size);
+    /// There is nothing more to come; waits for its end. False unless it ended well and without a word.
+    bool finish();
+    /// The last that it has said of what went wrong, else what the system says, as a text that may be translated.
+    QString complaint() const;
+
+private:
+    void start(const QString& program, const QStringList& arguments, int input);
+    QString said() const;
+
+    const StopSource& m_stop;
+    /// Where it is fed, and what it says, as descriptors.
+    int m_input = -1;
+    int m_said = -1;
+    pid_t m_id = -1;
+    int m_error = 0;
+};

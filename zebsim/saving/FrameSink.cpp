@@ -1,0 +1,46 @@
+#include "FrameSink.h"
+
+#include "FileError.h"
+#include "FileWriter.h"
+#include "PagesSink.h"
+#include "SaveJob.h"
+#include "TextKey.h"
+#include "VideoSink.h"
+
+namespace {
+
+/// Writes each frame as a picture of its own.
+class PictureSink : public FrameSink {
+public:
+    PictureSink(const SaveOrders& orders, const SaveTrack& track) : m_orders(orders), m_track(track) {}
+
+    Step prepare(int index, const QSet<int>& lost) override {
+        const QString file = fileOf(m_track, m_orders.format, m_orders.digits, index);
+        const QByteArray bytes = m_orders.format.encoded(m_track.picture(index, lost), m_track.metadata(index, lost));
+        if (bytes.isEmpty()) {
+            throw FileError(file, TextKey("the picture has no such form"));
+        }
+        const Over over = overOf(m_orders, file);
+        return [file, bytes, over] { writeFile(file, bytes, over); };
+    }
+
+private:
+    const SaveOrders& m_orders;
+    const SaveTrack& m_track;
+};
+
+}  // namespace
+
+std::unique_ptr<FrameSink> FrameSink::of(const SaveOrders& orders, const SaveTrack& track, const StopSource& stop) {
+    if (orders.format.isVideo()) {
+        return std::make_unique<VideoSink>(orders, track, stop);
+    }
+    if (orders.format.isOneFile()) {
+        return std::make_unique<PagesSink>(orders, track);
+    }
+    return std::make_unique<PictureSink>(orders, track);
+}
+
+Over overOf(const SaveOrders& orders, const QString& path) {
+    return orders.mayReplace.contains(path) ? Over::OldFile : Over::Nothing;
+}

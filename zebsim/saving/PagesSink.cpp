@@ -1,0 +1,55 @@
+#include "PagesSink.h"
+
+#include "FileError.h"
+#include "SaveJob.h"
+#include "TextKey.h"
+
+#include <QImage>
+
+namespace {
+
+/// Pixels that the plain form of TIFF surely has room for, packed or not.
+constexpr qint64 MostPlainBytes = qint64(2) << 30;
+
+}  // namespace
+
+PagesSink::PagesSink(const SaveOrders& orders, const SaveTrack& track)
+    : m_orders(orders), m_track(track), m_path(fileOf(track, orders.format, orders.digits, track.from)) {}
+
+FrameSink::Step PagesSink::prepare(int index, const QSet<int>& lost) {
+    const QImage picture = m_track.picture(index, lost);
+    const QByteArray description = m_track.metadata(index, lost).description;
+    return [this, picture, description] { add(picture, description); };
+}
+
+void PagesSink::begin() {
+    m_file.emplace(m_path, overOf(m_orders, m_path));
+    m_device.open(m_file->descriptor(), QIODevice::ReadWrite | QIODevice::Unbuffered);
+    const QSize size = m_track.size();
+    const qint64 pageBytes = qint64(size.width()) * size.height() * 3 * m_orders.format.options.depth / 8;
+    m_pages.emplace(m_device, m_orders.format.options, pageBytes * m_track.frames() > MostPlainBytes);
+}
+
+void PagesSink::add(const QImage& picture, const QByteArray& description) {
+    if (!m_pages) {
+        begin();
+    }
+    if (!m_pages->add(picture, description)) {
+        throw FileError(m_path,
+                        m_pages->failure().isEmpty() ? TextKey("the picture has no such form") : m_pages->failure());
+    }
+}
+
+void PagesSink::finish() {
+    if (m_pages) {
+        m_pages.reset();
+        m_device.close();
+        m_file->complete();
+    }
+}
+
+void PagesSink::drop() {
+    m_pages.reset();
+    m_device.close();
+    m_file.reset();
+}

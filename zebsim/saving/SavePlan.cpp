@@ -1,0 +1,237 @@
+#include "SavePlan.h"
+
+#include "FileNameRules.h"
+#include "TargetDisk.h"
+#include "TextKey.h"
+
+#include <QDir>
+#include <QFile>
+#include <QHash>
+
+#include <algorithm>
+
+namespace {
+
+constexpr int MostBytesOfName = 255;
+constexpr int MostBytesOfPath = 4095;
+/// Pictures differ in size, and others write to the disk as well.
+constexpr double Reserve = 1.25;
+constexpr qint64 LeastReserve = 16 << 20;
+
+qint64 pixelsOf(const QSize& size) {
+    return qint64(size.width()) * size.height();
+}
+
+int bytesIn(const QString& name) {
+    return QFile::encodeName(name).size();
+}
+
+bool hasControl(const QString& text) {
+    return std::any_of(text.begin(), text.end(),
+                       [](QChar letter) { return letter.category() == QChar::Other_Control; });
+}
+
+/// Goes through the tracks one by one and writes down what is to be told of each.
+class Planner {
+public:
+    Planner(SavePlan& plan, TargetDisk& disk) : m_plan(plan), m_disk(disk) {}
+
+    void look(const TrackTarget& target, const SaveTrack& track, qint64 bytes) {
+        m_name = track.name;
+        if (!QDir::isAbsolutePath(target.root)) {
+            add(PlanEntry::NoFolder, target.root);
+            return;
+        }
+        if (target.name.isEmpty()) {
+            add(PlanEntry::NoName, {}, 0, TextKey("Invalid filename."));
+        }
+        lookAtNames(target);
+        lookAtFolder(target.folder(), bytes);
+        lookAtLength(track);
+        lookForOthers(track);
+        lookForOld(target, track);
+    }
+
+    void lookAtSpace() {
+        for (auto fileSystem = m_space.begin(); fileSystem != m_space.end(); ++fileSystem) {
+            if (fileSystem->needed > fileSystem->available) {
+                m_plan.entries.append({PlanEntry::NoSpace,
+                                       {},
+                                       fileSystem->folder,
+                                       fileSystem->needed,
+                                       QString::number(fileSystem->available)});
+            }
+        }
+    }
+
+private:
+    struct Space {
+        QString folder;
+        qint64 needed = LeastReserve;
+        qint64 available = 0;
+    };
+
+    void add(PlanEntry::Kind kind, const QString& path, qint64 count = 0, const QString& detail = {}) {
+        m_plan.entries.append({kind, m_name, path, count, detail});
+    }
+
+    void lookAtNames(const TrackTarget& target) {
+        const struct {
+            QString part;
+            QString field;
+        } parts[] = {{target.group, TextKey("Group folder")},
+                     {target.sub, TextKey("Subfolder")},
+                     {target.name, TextKey("File name")}};
+        for (const auto& [part, field] : parts) {
+            const bool isOwnFolder = part == QLatin1String(".") || part == QLatin1String("..");
+            if (!isGoodFileName(part) || hasControl(part) || isOwnFolder) {
+                add(PlanEntry::Forbidden, part, 0, field);
+            }
+        }
+    }
+
+    void lookAtFolder(const QString& path, qint64 bytes) {
+        const TargetDisk::Folder folder = m_disk.folder(path);
+        Space& space = m_space[folder.fileSystem];
+        space.folder = space.folder.isEmpty() ? path : space.folder;
+        space.needed += bytes;
+        space.available = folder.available;
+        if (m_folders.contains(path)) {
+            return;
+        }
+        m_folders.insert(path);
+        const int there = m_disk.namesIn(path).size();
+        m_name.clear();
+        switch (folder.state) {
+            case TargetDisk::Folder::There:
+                if (there > 0) {
+                    add(PlanEntry::FolderHoldsFiles, path, there);
+                }
+                break;
+            case TargetDisk::Folder::IsMade:
+                add(PlanEntry::FolderIsMade, path);
+                break;
+            case TargetDisk::Folder::ReadOnly:
+                add(PlanEntry::ReadOnly, path);
+                break;
+            case TargetDisk::Folder::Impossible:
+                add(PlanEntry::NoFolder, path);
+                break;
+        }
+    }
+
+    /// The longest number stands at an end of the range.
+    void lookAtLength(const SaveTrack& track) {
+        m_name = track.name;
+        int longest = 0;
+        QString file;
+        for (const int index : {track.from, track.frames() - 1}) {
+            const QString path = fileOf(track, m_plan.orders.format, m_plan.orders.digits, index);
+            if (bytesIn(path) > longest) {
+                longest = bytesIn(path);
+                file = path;
+            }
+        }
+        const QStringList parts = file.split(QLatin1Char('/'));
+        const bool isLong = std::any_of(parts.begin(), parts.end(),
+                                        [](const QString& part) { return bytesIn(part) > MostBytesOfName; });
+        if (isLong || longest > MostBytesOfPath) {
+            add(isLong ? PlanEntry::NameTooLong : PlanEntry::PathTooLong, file);
+        }
+    }
+
+    /// As a file system sees it that does not know small letters from large ones.
+    void lookForOthers(const SaveTrack& track) {
+        const QString key = track.stem.normalized(QString::NormalizationForm_C).toCaseFolded();
+        const auto other = m_stems.find(key);
+        if (other != m_stems.end()) {
+            add(PlanEntry::WrittenTwice, fileOf(track, m_plan.orders.format, m_plan.orders.digits, track.from), 0,
+                *other);
+        } else {
+            m_stems.insert(key, track.name);
+        }
+    }
+
+    void lookForOld(const TrackTarget& target, const SaveTrack& track) {
+        const QStringList& names = m_disk.namesIn(target.folder());
+        const QHash<QString, int> own = namesOf(target, track, names);
+        if (own.isEmpty()) {
+            return;
+        }
+        const int first = *std::min_element(own.begin(), own.end());
+        for (auto name = own.keyBegin(); name != own.keyEnd(); ++name) {
+            m_plan.orders.mayReplace.insert(target.folder() + *name);
+        }
+        add(PlanEntry::Exists, fileOf(track, m_plan.orders.format, m_plan.orders.digits, first), own.size());
+    }
+
+    /// Those of `names` that the track would write, each with the index of its frame.
+    QHash<QString, int> namesOf(const TrackTarget& target, const SaveTrack& track, const QStringList& names) const {
+        QHash<QString, int> own;
+        auto name = std::lower_bound(names.begin(), names.end(), target.name);
+        const SaveOrders& orders = m_plan.orders;
+        const qint64 zero = track.number(0);
+        for (; name != names.end() && name->startsWith(target.name); ++name) {
+            const QString number = name->mid(target.name.size() + 1).section(QLatin1Char('.'), 0, 0);
+            const qint64 index = orders.format.isOneFile() ? track.from : number.toLongLong() - zero;
+            const bool isInRange = index >= track.from && index < track.frames();
+            if (isInRange && fileOf(track, orders.format, orders.digits, int(index)) == target.folder() + *name) {
+                own.insert(*name, int(index));
+            }
+        }
+        return own;
+    }
+
+    SavePlan& m_plan;
+    TargetDisk& m_disk;
+    /// Of the track at work; empty for what concerns all.
+    QString m_name;
+    QHash<QByteArray, Space> m_space;
+    QSet<QString> m_folders;
+    QHash<QString, QString> m_stems;
+};
+
+/// One picture stands for all.
+double bytesInPixel(const SaveOrders& orders) {
+    const SaveTrack& first = orders.tracks.front();
+    return Reserve * double(orders.format.expectedSize(first.picture(first.from), first.metadata(first.from))) /
+           double(std::max<qint64>(1, pixelsOf(first.size())));
+}
+
+}  // namespace
+
+QString TrackTarget::folder() const {
+    QString path = root;
+    for (const QString& part : {group, sub}) {
+        if (!path.isEmpty() && !path.endsWith(QLatin1Char('/'))) {
+            path += QLatin1Char('/');
+        }
+        path += part;
+    }
+    return path.isEmpty() || path.endsWith(QLatin1Char('/')) ? path : QString(path % QLatin1Char('/'));
+}
+
+bool SavePlan::isPossible() const {
+    return !orders.tracks.empty() &&
+           std::none_of(entries.begin(), entries.end(), [](const PlanEntry& entry) { return entry.isBlocking(); });
+}
+
+SavePlan planOf(SaveOrders orders, const std::vector<TrackTarget>& targets, TargetDisk& disk, QList<PlanEntry> known) {
+    SavePlan plan{std::move(orders), std::move(known), {}, 0, 0};
+    if (plan.orders.tracks.empty()) {
+        return plan;
+    }
+    Planner planner(plan, disk);
+    const double perPixel = bytesInPixel(plan.orders);
+    for (std::size_t i = 0; i < plan.orders.tracks.size(); ++i) {
+        SaveTrack& track = plan.orders.tracks[i];
+        track.stem = targets[i].stem();
+        const qint64 bytes = qint64(double(track.frames() - track.from) * double(pixelsOf(track.size())) * perPixel);
+        planner.look(targets[i], track, bytes);
+        plan.bytes.push_back(bytes);
+        plan.allBytes += bytes;
+        plan.files += filesIn(track, plan.orders.format);
+    }
+    planner.lookAtSpace();
+    return plan;
+}

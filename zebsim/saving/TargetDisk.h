@@ -1,0 +1,38 @@
+#pragma once
+
+#include <QHash>
+#include <QSet>
+#include <QString>
+#include <QStringList>
+
+#include <map>
+
+/// What of a disk decides where files can be written.
+class TargetDisk {
+public:
+    virtual ~TargetDisk() = default;
+
+    /// What becomes of a folder that files are to go to.
+    struct Folder {
+        enum State { There, IsMade, ReadOnly, Impossible };
+        State state = There;
+        /// What its file system is told from others by, and the bytes that it has room for.
+        QByteArray fileSystem;
+        qint64 available = 0;
+    };
+    virtual Folder folder(const QString& path) = 0;
+    /// All that a folder holds, hidden files and broken links too, in the order of `operator<`; empty when it is not
+    /// there.
+    virtual const QStringList& namesIn(const QString& folder) = 0;
+};
+
+/// The disk of this machine; each folder is looked at once.
+class RealDisk : public TargetDisk {
+public:
+    Folder folder(const QString& path) override;
+    const QStringList& namesIn(const QString& folder) override;
+
+private:
+    /// References to what it holds stay valid.
+    std::map<QString, QStringList> m_names;
+};

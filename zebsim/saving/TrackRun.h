@@ -1,0 +1,85 @@
+#pragma once
+
+#include "FileError.h"
+#include "FrameSink.h"
+#include "Places.h"
+#include "SaveJob.h"
+
+#include <QSet>
+
+#include <map>
+#include <mutex>
+#include <optional>
+
+class CameraBank;
+
+/// A track while it is saved. One thread reads its frames. They are made on any others, side by side, and written in
+/// their order by whichever has made the next one.
+class TrackRun {
+public:
+    /// `number` of it in `orders`, which must outlive it as `stop` must.
+    TrackRun(int number, const SaveOrders& orders, const StopSource& stop);
+
+    const SaveTrack& track() const { return m_track; }
+    QString folder() const;
+
+    // For the one that reads.
+
+    /// Has the cameras hand over frame `index`, side by side. False when none of them has it to give.
+    bool read(const CameraBank& cameras, int index);
+    /// Places in `sources` of those that are lost so far.
+    const QSet<int>& lost() const { return m_lost; }
+    /// It keeps that until all of it is written.
+    void hold(Places::Taken place);
+    /// Frame `index` and those behind it do not come.
+    void endAt(int index);
+
+    // For any.
+
+    /// Makes a frame that has been read, and writes what is next. `place` is given back when that frame is written.
+    void make(int index, const QSet<int>& lost, Places::Taken place);
+    /// Nothing of it is saved.
+    void fail(const FileError& error);
+    bool hasFailed() const;
+    /// Frames done so far.
+    int done() const;
+    /// Once nobody is at work: of the cameras that a layout has lost, and of the track.
+    QList<SaveOutcome> outcomes() const;
+
+private:
+    struct Step {
+        FrameSink::Step work;
+        Places::Taken place;
+    };
+
+    void noteLost(int source, int index, const QString& reason);
+    void writeReady(std::unique_lock<std::mutex>& lock);
+    std::optional<Step> nextStep();
+    /// What has become of a step.
+    void note(bool isLast, const std::optional<FileError>& failure);
+    std::optional<FileError> failureOf(const FrameSink::Step& work, int index) const;
+    int saved() const;
+    SaveOutcome::End end() const;
+
+    const int m_number;
+    const SaveOrders& m_orders;
+    const SaveTrack& m_track;
+    const StopSource& m_stop;
+    const std::unique_ptr<FrameSink> m_sink;
+
+    // The reader's; others look when it has ended.
+    QSet<int> m_lost;
+    QString m_lossReason;
+    QList<SaveOutcome> m_lostFromLayout;
+
+    mutable std::mutex m_mutex;
+    /// The next frame to be written, and the first that does not come.
+    int m_next;
+    std::optional<int> m_end;
+    /// What is made and waits for its turn, by frame.
+    std::map<int, Step> m_ready;
+    Places::Taken m_place;
+    bool m_isWriting = false;
+    bool m_isComplete = false;
+    std::optional<FileError> m_failure;
+};
