@@ -90,7 +90,7 @@ module.exports = [
             ecmaVersion: 2015,
             sourceType: 'script',
             globals: Object.assign({}, browser, host, readonly(['app', 'items', 'CustomInfoDialog',
-                'cameraSettings', 'addnumberdialog']))
+                'cameraSettings', 'addnumberdialog', 'adddevice', 'adddeviceAutoCameraName']))
         },
         rules: pageRules
     },

@@ -1,7 +1,13 @@
 #include "Camera.h"
 #include "CameraWindows.h"
 #include "CommandLine.h"
+#include "Course.h"
+#include "DialogRun.h"
+#include "Files.h"
+#include "GUI_AddNumberDialog.h"
+#include "HostPages.h"
 #include "ModalWatcher.h"
+#include "NameFamilies.h"
 #include "PageScript.h"
 #include "ParallelRows.h"
 #include "PreferencePages.h"
@@ -22,7 +28,6 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMetaProperty>
-#include <QPlainTextEdit>
 #include <QProgressDialog>
 #include <QPushButton>
 #include <QSpinBox>
@@ -39,7 +44,10 @@ namespace {
 
 class Dialogs : public testing::Test {
 protected:
-    Dialogs() { simulator.window().show(); }
+    Dialogs() {
+        initHostPages();
+        simulator.window().show();
+    }
 
     /// What to do with the dialog that stands next.
     void next(const std::function<void(QDialog&)>& work) {
@@ -47,6 +55,10 @@ protected:
             QObject::disconnect(connection);
             work(*dialog);
         });
+    }
+    /// What a script says in the page of the dialog that stands.
+    static QString page(const QString& script) {
+        return PageScript(script).run(ScenarioDialogs::pageOfStanding()).toVariant().toString();
     }
     QVariant pref(const char* key) const { return simulator.host().prefs().value(key); }
 
@@ -125,27 +137,25 @@ TEST_F(Dialogs, ShowAddressesAndRefuseOneThatIsNone) {
 TEST_F(Dialogs, GiveACameraItsNameAndComment) {
     const auto edit = [&](const std::function<void(QDialog&)>& end) {
         next([&](QDialog& dialog) {
-            dialog.findChild<QLineEdit*>("name")->setText("Gate");
-            dialog.findChild<QPlainTextEdit*>("comment")->setPlainText("left\nlens");
+            page("byId('name').value = 'Gate'; byId('comment').value = 'left\\nlens'");
             end(dialog);
         });
         host.docManager().editDoc(1);
     };
     const auto name = [&] { return host.cameras().find(1)->name().toStdString(); };
-    edit([](QDialog& dialog) { dialog.reject(); });
+    edit([&](QDialog&) { page("byId('cancel').click()"); });
     EXPECT_EQ(name(), "Camera 1");
-    edit([](QDialog& dialog) { dialog.accept(); });
+    edit([&](QDialog&) { page("byId('ok').click()"); });
     EXPECT_EQ(name(), "Gate");
     EXPECT_EQ(host.cameras().find(1)->get(&CameraState::comment), "left{Separator}lens");
     edit([&](QDialog& dialog) {
         host.setRig(standardRig(1));
         EXPECT_FALSE(dialog.isVisible());
-        dialog.reject();
     });
     EXPECT_EQ(name(), "Camera 1") << "another camera has the key now";
-    edit([&](QDialog& dialog) {
+    edit([&](QDialog&) {
         host.docManager().deleteAllDocs(0, 0);
-        dialog.accept();
+        page("byId('ok').click()");
     });
     host.cameras().search({});
     EXPECT_EQ(name(), "Camera 1") << "it was forgotten";
@@ -153,8 +163,107 @@ TEST_F(Dialogs, GiveACameraItsNameAndComment) {
         host.faults().plant(1, "*", {{}, 0, true});
         simulator.window().images().showNow();
         EXPECT_FALSE(dialog.isVisible()) << "it has vanished";
+    });
+}
+
+TEST_F(Dialogs, AddACameraThatAnswers) {
+    host.docManager().deleteAllDocs(0, 0);
+    host.faults().plant(2, "*", {{}, 0, true});
+    const auto add = [&](const QString& address, const QString& name) {
+        QString told;
+        next([&](QDialog& box) {
+            told = box.property("text").toString();
+            box.reject();
+        });
+        page(QString("byId('address').value = '%1'; byId('name').value = '%2'; byId('ok').click()").arg(address, name));
+        QObject::disconnect(connection);
+        return told.toStdString();
+    };
+    const auto run = [&](const std::function<void(QDialog&)>& work) {
+        next(work);
+        simulator.window().findChild<QAction*>("addCamera")->trigger();
+    };
+    run([&](QDialog& dialog) {
+        EXPECT_EQ(add("192.168.0", ""), "An address is four numbers from 0 to 255 with dots between, as 192.168.0.10.");
+        EXPECT_EQ(add("192.168.0.12", ""), "No camera answers at 192.168.0.12.") << "it has gone";
+        EXPECT_TRUE(dialog.isVisible());
+        EXPECT_EQ(add(" 192.168.0.11 ", ""), "");
+        EXPECT_FALSE(dialog.isVisible());
+    });
+    EXPECT_EQ(host.cameras().all().size(), 1);
+    EXPECT_EQ(host.cameras().find(1)->name(), "Camera 1") << "it keeps the name that it has";
+    run([&](QDialog& dialog) {
+        EXPECT_EQ(add("192.168.0.11", "Gate"), "Camera 1 at 192.168.0.11 is listed already.");
         dialog.reject();
     });
+    host.docManager().deleteAllDocs(0, 0);
+    run([&](QDialog&) { add("192.168.0.11", "Gate"); });
+    EXPECT_EQ(host.cameras().find(1)->name(), "Gate");
+}
+
+TEST_F(Dialogs, OfferNamesForACamera) {
+    QByteArray list = ",Gate,<b>Ramp,\n<i>roof</i>,North,South\n";
+    for (int i = 0; i < 10000; ++i) {
+        list += "many,n" + QByteArray::number(i) + '\n';
+    }
+    write(folder.filePath("names.csv"), list);
+    host.prefs().setValue("usercustom/cameraNameFilePath", folder.filePath("names.csv"));
+    const auto offered = [&](const char* typed) {
+        page(QString("byId('name').value = '%1'; $('#name').nameList('search')").arg(typed));
+        return page("$('.ui-autocomplete li:visible').get().map(line => line.textContent).join('|')");
+    };
+    next([&](QDialog& dialog) {
+        EXPECT_EQ(offered("r"), "bRamp|<i>roof</i>|North");
+        EXPECT_EQ(offered("SOUTH"), "<i>roof</i>|South");
+        EXPECT_EQ(offered("no such"), "");
+        EXPECT_EQ(offered("n9").section('|', 0, 1) + offered("n9").section('|', -1), "many|n9and 1011 more");
+        EXPECT_EQ(page("$('.ui-autocomplete').find('i, b').length"), "0");
+        EXPECT_EQ(page("prefs.getDevice === undefined"), "false");
+        dialog.reject();
+    });
+    host.docManager().editDoc(1);
+}
+
+TEST_F(Dialogs, ChooseTheDigitsOfNumbers) {
+    const auto choose = [](const char* list, int digits) {
+        return QString("byId('%1').value = %2; byId('%1').dispatchEvent(new Event('change'))").arg(list).arg(digits);
+    };
+    const QString automatic = "byId('auto').click()";
+    const struct {
+        const char* what;
+        int slot;
+        QString act;
+        const char* preview;
+        const char* stored;
+    } cases[] = {
+        {"by hand", 0, choose("camera", 3) + ';' + choose("session", 2), "C001S01",
+         "format=manual manualcamera=3 manualhead=0 manualsession=2 camera=3 head=0 session=2"},
+        {"as many as the cameras need", 0, automatic, "C01H1S01",
+         "format=auto manualcamera=3 manualhead=0 manualsession=2 camera=2 head=1 session=2"},
+        {"by hand again, as before", 0, "byId('manual').click()", "C001S01",
+         "format=manual manualcamera=3 manualhead=0 manualsession=2 camera=3 head=0 session=2"},
+        {"of a conversion the session alone", 5, choose("session", 4), "S0001", "manualsession=4 session=4"},
+    };
+    for (const auto& c : cases) {
+        const QString key = slotKey(c.slot) + "addnumber";
+        next([&](QDialog&) {
+            page(c.act);
+            EXPECT_EQ(page("byId('preview').textContent"), c.preview) << c.what;
+            page("byId('ok').click()");
+        });
+        runDialog(host, new GUI_AddNumberDialog(&host, c.slot, 12, 2, &simulator.window()));
+        QStringList stored;
+        for (const char* each :
+             {"format", "manualcamera", "manualhead", "manualsession", "camera", "head", "session"}) {
+            const QString digits = QString(each) == "format" ? "" : "nodigits";
+            const QVariant value = host.prefs().value(key + each + digits);
+            stored += value.isValid() ? QStringList(each + QString('=') + value.toString()) : QStringList();
+        }
+        EXPECT_EQ(stored.join(' '), c.stored) << c.what;
+    }
+    next([&](QDialog&) { page(choose("session", 9) + ";byId('cancel').click()"); });
+    runDialog(host, new GUI_AddNumberDialog(&host, 0, 12, 2, &simulator.window()));
+    EXPECT_EQ(pref("export/groupdiraddnumbersessionnodigits"), 2);
 }
 
 TEST_F(Dialogs, NameThePluginInTheAboutBox) {

@@ -1,13 +1,13 @@
 #include "AppWindows.h"
 
 #include "AboutDialog.h"
-#include "CameraDialog.h"
 #include "CameraView.h"
 #include "CameraWindow.h"
 #include "CameraWindows.h"
 #include "DialogRun.h"
 #include "EthernetDialog.h"
 #include "FramePicture.h"
+#include "GUI_AddDeviceDialog.h"
 #include "GUI_CameraFileDialog.h"
 #include "GUI_CameraSettingsDialog.h"
 #include "GUI_CustomInfoDialog.h"
@@ -74,17 +74,15 @@ void AppWindows::openAbout() {
     runDialog(m_host, new AboutDialog(m_pluginFile, m_host.getMainWindow()));
 }
 
+void AppWindows::addCamera() {
+    runOnCameras(new GUI_AddDeviceDialog(m_host, zeb::NoDocKey, m_host.getMainWindow()));
+}
+
 void AppWindows::editCamera(DOCKEY key) {
-    const Camera* camera = m_host.cameras().find(key);
-    if (camera == nullptr) {
-        return;
-    }
-    auto* dialog = new CameraDialog(m_host.cameras(), *camera, m_host.getMainWindow());
-    // Another camera may bear the key from now on.
-    QObject::connect(&m_host.events(), &HostEvents::camerasReplaced, dialog, &CameraDialog::reject);
+    auto* dialog = new GUI_AddDeviceDialog(m_host, key, m_host.getMainWindow());
     // Updates may be held back for as long as it stands.
-    QObject::connect(&m_images, &CameraWindows::shown, dialog, &CameraDialog::follow);
-    runDialog(m_host, dialog);
+    QObject::connect(&m_images, &CameraWindows::shown, dialog, &GUI_AddDeviceDialog::follow);
+    runOnCameras(dialog);
 }
 
 void AppWindows::editCustomInfo() {

@@ -28,6 +28,9 @@ public:
     /// The plug-in's file; empty for none.
     void setPluginFile(const QString& path) { m_pluginFile = path; }
 
+    /// The dialog that adds a camera; runs until it is closed.
+    void addCamera();
+
     /// Custom information of the selected cameras; runs until it is closed.
     void editCustomInfo();
 

@@ -111,7 +111,9 @@ void ViewerWindow::addDialogs(AppWindows& windows) {
     QAction* first = m_cameraMenu->actions().first();
     m_customInfo =
         addEntry(m_cameraMenu, uiText("Custom info..."), "customInfo", [&windows] { windows.editCustomInfo(); });
-    m_cameraMenu->insertAction(first, m_customInfo);
+    m_cameraMenu->insertActions(
+        first, {addEntry(m_cameraMenu, uiText("Add camera..."), "addCamera", [&windows] { windows.addCamera(); }),
+                m_customInfo});
     m_cameraMenu->insertSeparator(first);
     QMenu* settings = menuBar()->addMenu(uiText("&Settings"));
     QMenu* help = menuBar()->addMenu(uiText("&Help"));

@@ -1220,10 +1220,6 @@
         <translation>%1: カメラが見つからなくなりました。%2 フレームが保存されていません。</translation>
     </message>
     <message>
-        <source>%1: the last recording lies in partition %2. It is not saved.</source>
-        <translation>%1: 最後の撮影はパーティション %2 にあります。保存されません。</translation>
-    </message>
-    <message>
         <source>%1 with %2</source>
         <translation>%1（%2 を含む）</translation>
     </message>
@@ -1304,10 +1300,6 @@
         <translation>%1: %2 に書き込めません。%3 フレームは保存されていません (%4)</translation>
     </message>
     <message>
-        <source>%1: skipped, %2 frames saved, %3 not</source>
-        <translation>%1: スキップしました。保存 %2 フレーム、未保存 %3 フレーム</translation>
-    </message>
-    <message>
         <source>%1: cancelled, %2 frames saved, %3 not</source>
         <translation>%1: キャンセルしました。保存 %2 フレーム、未保存 %3 フレーム</translation>
     </message>
@@ -1326,14 +1318,6 @@
     <message>
         <source>Its recording is not saved.</source>
         <translation>この記録は保存されていません。</translation>
-    </message>
-    <message>
-        <source>Files that are in this folder already: %1</source>
-        <translation>このフォルダにすでにあるファイル: %1</translation>
-    </message>
-    <message>
-        <source>New subfolder</source>
-        <translation>新しいサブフォルダ</translation>
     </message>
     <message>
         <source>the camera is gone</source>
@@ -1368,10 +1352,6 @@
         <translation>保存されていないものがあります。</translation>
     </message>
     <message>
-        <source>%1 of %2: %3, frame %4 of %5</source>
-        <translation>%1 / %2: %3、フレーム %4 / %5</translation>
-    </message>
-    <message>
         <source>Images are being saved already.</source>
         <translation>画像を保存しています。</translation>
     </message>
@@ -1382,22 +1362,6 @@
     <message>
         <source>No connected camera has recorded images.</source>
         <translation>画像を記録した接続中のカメラがありません。</translation>
-    </message>
-    <message>
-        <source>%1 exists already.</source>
-        <translation>%1 はすでにあります。</translation>
-    </message>
-    <message>
-        <source>Overwrite</source>
-        <translation>上書き</translation>
-    </message>
-    <message>
-        <source>Overwrite all</source>
-        <translation>すべて上書き</translation>
-    </message>
-    <message>
-        <source>Skip camera</source>
-        <translation>このカメラをスキップ</translation>
     </message>
     <message>
         <source>Stop saving? Complete files stay.</source>
@@ -2330,6 +2294,118 @@
     <message>
         <source>No camera answers at %1.</source>
         <translation>%1 のカメラから応答がありません。</translation>
+    </message>
+    <message>
+        <source>Files to be written</source>
+        <translation>書き込むファイル</translation>
+    </message>
+    <message>
+        <source>Files: %1, about %2</source>
+        <translation>ファイル数：%1（約 %2）</translation>
+    </message>
+    <message>
+        <source>Replace files and save</source>
+        <translation>ファイルを置き換えて保存</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>戻る</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1、%2</translation>
+    </message>
+    <message>
+        <source>Numbers...</source>
+        <translation>番号...</translation>
+    </message>
+    <message>
+        <source>%1 (replaced)</source>
+        <translation>%1（置き換え）</translation>
+    </message>
+    <message>
+        <source>%1 (written)</source>
+        <translation>%1（書き込み済み）</translation>
+    </message>
+    <message>
+        <source>%1 (not written)</source>
+        <translation>%1（未書き込み）</translation>
+    </message>
+    <message>
+        <source>Save again what failed</source>
+        <translation>失敗したものを再保存</translation>
+    </message>
+    <message>
+        <source>%1: %2 of %3 frames</source>
+        <translation>%1：%2 / %3 フレーム</translation>
+    </message>
+    <message>
+        <source>%1 of %2 frames are written.</source>
+        <translation>%2 フレーム中 %1 フレームを書き込みました。</translation>
+    </message>
+    <message>
+        <source>%1: not saved (%2)</source>
+        <translation>%1：保存されません（%2）</translation>
+    </message>
+    <message>
+        <source>The folder %1 is made.</source>
+        <translation>フォルダー %1 を作成します。</translation>
+    </message>
+    <message>
+        <source>Files that are in %1 already: %2</source>
+        <translation>%1 に既にあるファイル：%2</translation>
+    </message>
+    <message>
+        <source>%1: %2 files exist already and are replaced, the first is %3</source>
+        <translation>%1：%2 個のファイルが既に存在し、置き換えられます。最初のファイル：%3</translation>
+    </message>
+    <message>
+        <source>%1 and %2 would both write %3</source>
+        <translation>%1 と %2 の両方が %3 に書き込もうとしています</translation>
+    </message>
+    <message>
+        <source>%1: %2 &quot;%3&quot; is no name. Not allowed are %4</source>
+        <translation>%1：%2「%3」は名前として使えません。使えない文字：%4</translation>
+    </message>
+    <message>
+        <source>%1: %2 (%3)</source>
+        <translation>%1：%2（%3）</translation>
+    </message>
+    <message>
+        <source>No folder is chosen.</source>
+        <translation>フォルダーが選択されていません。</translation>
+    </message>
+    <message>
+        <source>Nothing can be written into %1.</source>
+        <translation>%1 には書き込めません。</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1：%2</translation>
+    </message>
+    <message>
+        <source>%1: %2 files, about %3, in %4</source>
+        <translation>%1：%2 ファイル（約 %3）、保存先 %4</translation>
+    </message>
+    <message>
+        <source>the program that makes videos has failed</source>
+        <translation>動画を作成するプログラムが失敗しました</translation>
+    </message>
+    <message>
+        <source>a file of that name has appeared meanwhile</source>
+        <translation>同じ名前のファイルがその間に作成されました</translation>
+    </message>
+    <message>
+        <source>Group folder</source>
+        <translation>グループフォルダー</translation>
+    </message>
+    <message>
+        <source>Subfolder</source>
+        <translation>サブフォルダー</translation>
+    </message>
+    <message>
+        <source>File name</source>
+        <translation>ファイル名</translation>
     </message>
 </context>
 </TS>
