@@ -1,5 +1,7 @@
 #include "NameSource.h"
 
+#include <QDebug>
+
 #include <algorithm>
 
 bool NameSource::hasFile(const QString& folder, const QString& beginning) const {
@@ -10,4 +12,8 @@ bool NameSource::hasFile(const QString& folder, const QString& beginning) const 
     }
     const auto first = std::lower_bound(names->cbegin(), names->cend(), beginning);
     return first != names->cend() && first->startsWith(beginning);
+}
+
+void NameSource::noteTaken(const QString& path) const {
+    qWarning() << "exists" << path;
 }

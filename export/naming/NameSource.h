@@ -58,6 +58,8 @@ public:
     virtual std::unique_ptr<NamedDocument> document(DOCKEY key) const = 0;
 
     virtual bool folderExists(const QString& path) const = 0;
+    /// A directory of that path is passed over, for it is there or taken: a warning in the log.
+    virtual void noteTaken(const QString& path) const;
     /// Whether the folder holds a file whose name begins so.
     bool hasFile(const QString& folder, const QString& beginning) const;
 

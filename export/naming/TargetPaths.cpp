@@ -8,7 +8,6 @@
 #include "UTL_Exception.h"
 
 #include <QDateTime>
-#include <QDebug>
 #include <QFileInfo>
 
 #include <algorithm>
@@ -125,11 +124,13 @@ void Composition::endRound() {
 }
 
 NumberDigits Composition::digits(int slot) const {
+    const auto pref = [this](const QString& key) { return m_source.pref(key); };
     std::optional<DeviceCounts> counts;
-    if (m_document) {
+    // A camera is not asked for what nobody needs.
+    if (m_document && pref(slotKey(slot) % "addnumberformat") == "auto") {
         counts = {m_document->deviceCount(), m_document->headCount()};
     }
-    return digitsFor([this](const QString& key) { return m_source.pref(key); }, slot, m_source.isFileMode(), counts);
+    return digitsFor(pref, slot, m_source.isFileMode(), counts);
 }
 
 QString Composition::informationalName() const {
@@ -236,7 +237,7 @@ QString Composition::numbered(int type, int slot, const QString& base) {
         if (wide.session < 1 || (!m_source.folderExists(path) && !m_source.isFolderTaken(path))) {
             return directory;
         }
-        qWarning() << "exists" << path;
+        m_source.noteTaken(path);
         endRound();
     }
 }
@@ -286,7 +287,8 @@ void composeTargets(NameSource& source, int type, const NamedDocument* document,
             folder += withSlash(group);
         }
         const QString sub = composition.subDir(type, prefs.flag("subdirasfilenameincludeoption") ? name : base);
-        folder += withSlash(rounded(sub, type, mode));
+        out.subs[partition] = rounded(sub, type, mode);
+        folder += withSlash(out.subs[partition]);
         if (base.isEmpty() && !mayBeEmpty) {
             throw UTL_Exception(TextKey("Invalid filename."));
         }

@@ -9,10 +9,12 @@ class NameSource;
 class NamedDocument;
 class QDateTime;
 
-/// Where the files of a document go, by its partitions: the name of the group directory where there is one, the folder
-/// with "/" at its end, and the path, to which a job adds what its files end in.
+/// Where the files of a document go, by its partitions: the name of the group directory where there is one, that of the
+/// directory in it, empty for none, the folder with "/" at its end, and the path, to which a job adds what its files
+/// end in.
 struct TargetPaths {
     QMap<PARTITIONNUMBER, QString> groups;
+    QMap<PARTITIONNUMBER, QString> subs;
     QMap<PARTITIONNUMBER, QString> folders;
     QMap<PARTITIONNUMBER, QString> paths;
 };

@@ -17,6 +17,9 @@
 
 namespace {
 
+/// Of the entries that are seen at once.
+constexpr int MostLines = 12;
+
 QStyle::StandardPixmap iconOf(const PlanEntry& entry) {
     return entry.isBlocking()   ? QStyle::SP_MessageBoxCritical
            : entry.isQuestion() ? QStyle::SP_MessageBoxWarning
@@ -57,6 +60,9 @@ QListWidget* PlanDialog::makeEntries() {
     for (const PlanEntry& entry : qAsConst(entries)) {
         list->addItem(new QListWidgetItem(style()->standardIcon(iconOf(entry)), entryText(entry)));
     }
+    const int lines = qBound(2, 1 + entries.size(), MostLines);
+    list->setMaximumHeight(lines * (fontMetrics().height() + 2 * list->frameWidth()) +
+                           style()->pixelMetric(QStyle::PM_SmallIconSize));
     return list;
 }
 

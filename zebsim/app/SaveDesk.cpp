@@ -15,6 +15,7 @@
 
 #include <QFileInfo>
 #include <QMessageBox>
+#include <QTimer>
 #include <QtDebug>
 
 #include <algorithm>
@@ -140,9 +141,10 @@ void SaveDesk::showProgress() {
     delete m_progress;
     m_progress = new SaveProgress(*m_job, m_host.getMainWindow());
     QObject::connect(m_progress, &SaveProgress::cancelWanted, m_progress, [this] { askToCancel(); });
-    QObject::connect(
-        m_progress, &SaveProgress::againWanted, m_progress, [this](const auto& tracks) { beginAgain(tracks); },
-        Qt::QueuedConnection);
+    QObject::connect(m_progress, &SaveProgress::againWanted, m_progress, [this](const std::vector<SaveTrack>& tracks) {
+        // The button has had its click by then, for its dialog goes.
+        QTimer::singleShot(0, m_progress, [this, tracks] { beginAgain(tracks); });
+    });
     m_progress->setAttribute(Qt::WA_DeleteOnClose);
     m_progress->setModal(true);
     applyNativeStyle(m_host, *m_progress);

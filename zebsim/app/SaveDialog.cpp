@@ -112,12 +112,11 @@ QWidget* SaveDialog::makeButtons() {
 
 void SaveDialog::follow() {
     m_save->setEnabled(m_target->isComplete() && !chosenTracks().empty());
-    m_path->setText(composedPath(m_host, shownTrack(), m_target->typed(), QDateTime::currentDateTime()));
+    m_path->setText(composedPath(m_host, m_tracks, shownTrack(), m_target->typed(), QDateTime::currentDateTime()));
 }
 
-const SaveTrack& SaveDialog::shownTrack() const {
-    const int row = std::max(0, m_table->currentRow() - m_absent.size());
-    return isLayout() ? m_tracks.front() : m_tracks[std::size_t(row)];
+std::size_t SaveDialog::shownTrack() const {
+    return isLayout() ? 0 : std::size_t(std::max(0, m_table->currentRow() - m_absent.size()));
 }
 
 std::vector<SaveTrack> SaveDialog::chosenTracks() const {
@@ -137,7 +136,7 @@ std::vector<SaveTrack> SaveDialog::chosenTracks() const {
 void SaveDialog::setNumbers() {
     std::set<DOCKEY> cameras;
     std::size_t heads = 1;
-    for (const SaveTrack& track : m_tracks) {
+    for (const SaveTrack& track : chosenTracks()) {
         for (const SaveSource& source : track.sources) {
             cameras.insert(source.key());
             const Camera* camera = m_host.cameras().find(source.key());
@@ -158,14 +157,22 @@ void SaveDialog::setOption(const QString& suffix, const QVariant& value) {
 }
 
 void SaveDialog::accept() {
+    if (!m_save->isEnabled()) {
+        return;
+    }
     const QPointer<SaveDialog> alive(this);
     m_names = std::make_unique<NamePromises::Save>(m_host.saver().promises());
-    SavePlan plan = composePlan(m_host, chosenTracks(), m_absent, m_target->typed(), QDateTime::currentDateTime());
-    const int answer = runDialog(m_host, new PlanDialog(plan, this));
+    std::optional<SavePlan> plan;
+    try {
+        plan = composePlan(m_host, chosenTracks(), m_absent, m_target->typed(), QDateTime::currentDateTime());
+    } catch (const std::exception& e) {
+        m_host.messages().tell(Message::Alert, uiText(QString::fromUtf8(e.what())), {}, this);
+    }
+    const bool isAgreed = plan && runDialog(m_host, new PlanDialog(*plan, this)) == QDialog::Accepted;
     if (!alive) {
         return;
     }
-    if (answer != QDialog::Accepted) {
+    if (!isAgreed) {
         m_names.reset();
         follow();
         return;

@@ -41,8 +41,8 @@ private:
     void follow();
     void setNumbers();
     std::vector<SaveTrack> chosenTracks() const;
-    /// The one that the table's current row stands for.
-    const SaveTrack& shownTrack() const;
+    /// Number of the one that the table's current row stands for.
+    std::size_t shownTrack() const;
     bool isLayout() const { return m_tracks.front().isLayout; }
 
     SimHost& m_host;

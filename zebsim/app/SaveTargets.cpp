@@ -1,5 +1,6 @@
 #include "SaveTargets.h"
 
+#include "Camera.h"
 #include "HostNameSource.h"
 #include "HostNamedDocument.h"
 #include "SaveTexts.h"
@@ -12,8 +13,7 @@
 
 #include <QDir>
 
-#include <algorithm>
-#include <exception>
+#include <stdexcept>
 
 namespace {
 
@@ -21,6 +21,8 @@ namespace {
 constexpr int ExportType = 1;
 constexpr int LayoutType = 4;
 constexpr int SnapShotType = 7;
+/// Of a frame's number.
+constexpr int MostDigits = 20;
 
 int typeOf(const SaveTrack& track) {
     return track.isLayout ? LayoutType : ExportType;
@@ -28,100 +30,79 @@ int typeOf(const SaveTrack& track) {
 
 class TypedSource : public HostNameSource {
 public:
-    TypedSource(SimHost& host, const TypedPrefs& typed) : HostNameSource(host), m_host(host), m_typed(typed) {}
+    TypedSource(SimHost& host, const TypedPrefs& typed, bool isPreview)
+        : HostNameSource(host), m_host(host), m_typed(typed), m_isPreview(isPreview) {}
 
     QVariant pref(const QString& key) const override {
         const auto typed = m_typed.find(key);
         return typed == m_typed.end() ? m_host.prefs().value(key) : *typed;
     }
+    /// Once a save, and not at each key that is typed.
+    void noteTaken(const QString& path) const override {
+        if (!m_isPreview) {
+            HostNameSource::noteTaken(path);
+        }
+    }
 
 private:
     const SimHost& m_host;
     const TypedPrefs& m_typed;
+    const bool m_isPreview;
 };
 
-/// A document of which some partitions are saved.
-class ChosenDocument : public HostNamedDocument {
+/// A document of which one partition is saved.
+class OnePartition : public HostNamedDocument {
 public:
-    ChosenDocument(DOC_Interface& document, QList<PARTITIONNUMBER> chosen)
-        : HostNamedDocument(document), m_chosen(std::move(chosen)) {}
+    OnePartition(DOC_Interface& document, PARTITIONNUMBER partition)
+        : HostNamedDocument(document), m_partition(partition) {}
 
-    QList<PARTITIONNUMBER> partitions() const override { return m_chosen; }
+    QList<PARTITIONNUMBER> partitions() const override { return {m_partition}; }
 
 private:
-    const QList<PARTITIONNUMBER> m_chosen;
+    const PARTITIONNUMBER m_partition;
 };
 
-/// Takes what was composed apart again, for the plan looks at each part.
-TrackTarget targetOf(const TargetPaths& paths, PARTITIONNUMBER partition, const QString& root) {
-    const QString folder = paths.folders.value(partition);
-    const QString name = paths.paths.value(partition).mid(folder.size());
-    TrackTarget target{root, paths.groups.value(partition), {}, name};
-    const QString above = target.folder();
-    if (!folder.startsWith(above)) {
-        return {folder, {}, {}, name};
-    }
-    target.sub = folder.mid(above.size());
-    target.sub.chop(target.sub.endsWith(QLatin1Char('/')) ? 1 : 0);
-    return target;
-}
-
-QList<PARTITIONNUMBER> partitionsOf(const std::vector<SaveTrack>& tracks, DOCKEY key) {
-    QList<PARTITIONNUMBER> partitions;
-    for (const SaveTrack& track : tracks) {
-        if (track.sources.front().key() == key) {
-            partitions.append(track.sources.front().partition());
-        }
-    }
-    return partitions;
-}
-
-/// Composes the names of one camera after those of another.
+/// Composes the names of one recording after those of another.
 class Composer {
 public:
     /// `type` as the names of files know it.
-    Composer(SimHost& host, int type, const TypedPrefs& typed, QDateTime time)
-        : m_host(host), m_source(host, typed), m_type(type), m_time(std::move(time)) {}
+    Composer(SimHost& host, int type, const TypedPrefs& typed, bool isPreview, QDateTime time)
+        : m_host(host), m_source(host, typed, isPreview), m_type(type), m_time(std::move(time)) {}
 
-    /// Of one partition; `all` are those of the camera that are saved. Throws.
-    TrackTarget targetOf(DOCKEY key, PARTITIONNUMBER partition, const QList<PARTITIONNUMBER>& all) {
-        compose(key, all);
-        // A layout has one path, whatever the partition.
-        const auto path = m_type == LayoutType ? m_paths.paths.begin() : m_paths.paths.find(partition);
-        if (path == m_paths.paths.end()) {
-            std::rethrow_exception(m_failure);
+    /// Of one partition of a camera. Throws.
+    TrackTarget targetOf(DOCKEY key, PARTITIONNUMBER partition) {
+        DOC_Interface* document = m_host.docManager().getDocAny(key);
+        if (document == nullptr) {
+            throw std::runtime_error(TextKey("the camera is gone").toStdString());
         }
-        return ::targetOf(m_paths, path.key(), m_root);
+        const OnePartition named(*document, partition);
+        TargetPaths paths;
+        composeTargets(m_source, m_type, &named, true, m_time, 0, paths);
+        const QString folder = paths.folders.first();
+        TrackTarget target{rootFolder(m_source, m_type, &named), paths.groups.value(partition),
+                           paths.subs.value(partition), paths.paths.first().mid(folder.size())};
+        // All go into a substitute folder, whatever their own.
+        return target.folder() == folder ? target : TrackTarget{folder, {}, {}, target.name};
+    }
+    /// A layout is called after the first of its cameras that tells what is needed.
+    TrackTarget targetOf(const SaveTrack& track) {
+        for (std::size_t i = 0; i + 1 < track.sources.size(); ++i) {
+            try {
+                return targetOf(track.sources[i].key(), track.sources[i].partition());
+            } catch (const UTL_Exception&) {
+                throw;
+            } catch (const std::exception&) {
+                continue;
+            }
+        }
+        return targetOf(track.sources.back().key(), track.sources.back().partition());
     }
 
 private:
-    void compose(DOCKEY key, const QList<PARTITIONNUMBER>& partitions) {
-        if (key == m_key) {
-            return;
-        }
-        m_key = key;
-        m_paths = {};
-        m_failure = std::make_exception_ptr(std::runtime_error(TextKey("the camera is gone").toStdString()));
-        try {
-            if (DOC_Interface* document = m_host.docManager().getDocAny(key)) {
-                const ChosenDocument chosen(*document, partitions);
-                m_root = rootFolder(m_source, m_type, &chosen);
-                composeTargets(m_source, m_type, &chosen, true, m_time, 0, m_paths);
-            }
-        } catch (const std::exception&) {
-            m_failure = std::current_exception();
-        }
-    }
-
     SimHost& m_host;
     TypedSource m_source;
     const int m_type;
     const QDateTime m_time;
-    /// Of the camera composed last.
-    DOCKEY m_key = zeb::NoDocKey;
-    TargetPaths m_paths;
-    QString m_root;
-    std::exception_ptr m_failure;
 };
 
 SaveFormat chosenFormat(const std::function<QVariant(const char*)>& pref) {
@@ -142,7 +123,7 @@ SaveFormat chosenFormat(const std::function<QVariant(const char*)>& pref) {
 }
 
 /// Without tracks.
-SaveOrders ordersOf(const SimHost& host, bool isLayout, const TypedPrefs& typed) {
+SaveOrders ordersOf(SimHost& host, bool isLayout, const TypedPrefs& typed) {
     const QString family = prefFamily(isLayout);
     const auto pref = [&](const char* suffix) {
         const QString key = family % QLatin1String(suffix);
@@ -150,8 +131,9 @@ SaveOrders ordersOf(const SimHost& host, bool isLayout, const TypedPrefs& typed)
     };
     SaveOrders orders;
     orders.format = chosenFormat(pref);
-    orders.digits = std::max(1, pref("filenameseqdigits").toInt());
+    orders.digits = qBound(1, pref("filenameseqdigits").toInt(), MostDigits);
     orders.encoder = VideoEncoder::installed();
+    orders.diskFault = [&host] { return host.faults().suffer(FaultPlan::Disk, "write", host.clock()); };
     return orders;
 }
 
@@ -166,13 +148,12 @@ SavePlan composePlan(SimHost& host, const std::vector<SaveTrack>& tracks, const 
     const HostCalls::Own own;
     SaveOrders orders = ordersOf(host, tracks.front().isLayout, typed);
     orders.absent = absent;
-    Composer composer(host, typeOf(tracks.front()), typed, time);
+    Composer composer(host, typeOf(tracks.front()), typed, false, time);
     std::vector<TrackTarget> targets;
     QList<PlanEntry> known;
     for (const SaveTrack& track : tracks) {
         try {
-            const SaveSource& source = track.sources.front();
-            targets.push_back(composer.targetOf(source.key(), source.partition(), partitionsOf(tracks, source.key())));
+            targets.push_back(composer.targetOf(track));
             orders.tracks.push_back(track);
         } catch (const UTL_Exception& e) {
             known.append({PlanEntry::NoName, track.name, {}, 0, QString::fromUtf8(e.what())});
@@ -185,24 +166,33 @@ SavePlan composePlan(SimHost& host, const std::vector<SaveTrack>& tracks, const 
     return planOf(std::move(orders), targets, disk, known);
 }
 
-QString composedPath(SimHost& host, SaveTrack track, const TypedPrefs& typed, const QDateTime& time) {
+QString composedPath(SimHost& host, const std::vector<SaveTrack>& tracks, std::size_t shown, const TypedPrefs& typed,
+                     const QDateTime& time) {
     const HostCalls::Own own;
     const NamePromises::Save alone(host.saver().promises());
+    SaveTrack track = tracks[shown];
     const SaveOrders orders = ordersOf(host, track.isLayout, typed);
-    try {
-        const SaveSource& source = track.sources.front();
-        Composer composer(host, typeOf(track), typed, time);
-        track.stem = composer.targetOf(source.key(), source.partition(), {source.partition()}).stem();
-        return QDir::toNativeSeparators(fileOf(track, orders.format, orders.digits, track.from));
-    } catch (const UTL_Exception& e) {
-        return uiText(QString::fromUtf8(e.what()));
-    } catch (const std::exception& e) {
-        return uiText(QString::fromUtf8(e.what()));
+    Composer composer(host, typeOf(track), typed, true, time);
+    for (std::size_t i = 0; i <= shown; ++i) {
+        try {
+            track.stem = composer.targetOf(tracks[i]).stem();
+        } catch (const std::exception& e) {
+            if (i == shown) {
+                return uiText(QString::fromUtf8(e.what()));
+            }
+        }
     }
+    return QDir::toNativeSeparators(fileOf(track, orders.format, orders.digits, track.from));
 }
 
 QString snapShotStem(SimHost& host, DOCKEY key, const QDateTime& time) {
     const HostCalls::Own own;
     const NamePromises::Save alone(host.saver().promises());
-    return Composer(host, SnapShotType, {}, time).targetOf(key, 1, {1}).stem();
+    const TrackTarget target = Composer(host, SnapShotType, {}, false, time).targetOf(key, 1);
+    const Camera* camera = host.cameras().find(key);
+    const QList<PlanEntry> faults = faultsOf(target, camera ? camera->name() : QString());
+    if (!faults.isEmpty()) {
+        throw std::runtime_error(entryText(faults.first()).toStdString());
+    }
+    return target.stem();
 }

@@ -77,7 +77,7 @@ QString entryText(const PlanEntry& entry) {
         case PlanEntry::WrittenTwice:
             return uiText("%1 and %2 would both write %3").arg(entry.detail, entry.camera, path);
         case PlanEntry::Forbidden:
-            return uiText("%1: %2 \"%3\" is no name. Not allowed are %4")
+            return uiText("%1: %2 \"%3\" is no name. Not allowed are %4 and control characters")
                 .arg(entry.camera, uiText(entry.detail), entry.path, QStringLiteral("\\ / : * ? | \" < > %"));
         case PlanEntry::NameTooLong:
         case PlanEntry::PathTooLong:

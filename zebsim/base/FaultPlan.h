@@ -21,6 +21,8 @@ struct Fault {
     int delay = 0;
     /// The camera is gone from the moment the operation is called; with the operation "*" at once.
     bool gone = false;
+    /// So many calls meet no fault before.
+    int written = 0;
 
     bool isEmpty() const { return throws.isEmpty() && delay <= 0 && !gone; }
 };
@@ -33,6 +35,8 @@ class FaultPlan {
 public:
     /// Key of the host; no camera has it.
     static constexpr DOCKEY Host = zeb::NoDocKey;
+    /// Key of the disk, whose one operation is "write", once a file of a save.
+    static constexpr DOCKEY Disk = Host - 1;
 
     /// To be told when a camera goes; on the thread that finds out, and without asking the plan.
     void whenGone(std::function<void()> tell) { m_tellGone = std::move(tell); }

@@ -17,8 +17,6 @@ public:
         ~Save() { m_promises.m_saves.remove(m_number); }
         Q_DISABLE_COPY(Save)
 
-        /// It composes all its names anew.
-        void takeBack() { m_promises.m_saves[m_number] = {}; }
 
     private:
         NamePromises& m_promises;

@@ -2364,8 +2364,8 @@
         <translation>%1 と %2 の両方が %3 に書き込もうとしています</translation>
     </message>
     <message>
-        <source>%1: %2 &quot;%3&quot; is no name. Not allowed are %4</source>
-        <translation>%1：%2「%3」は名前として使えません。使えない文字：%4</translation>
+        <source>%1: %2 &quot;%3&quot; is no name. Not allowed are %4 and control characters</source>
+        <translation>%1：%2「%3」は名前として使えません。使えない文字：%4 と制御文字</translation>
     </message>
     <message>
         <source>%1: %2 (%3)</source>

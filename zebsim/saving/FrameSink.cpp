@@ -21,7 +21,10 @@ public:
             throw FileError(file, TextKey("the picture has no such form"));
         }
         const Over over = overOf(m_orders, file);
-        return [file, bytes, over] { writeFile(file, bytes, over); };
+        return [this, file, bytes, over] {
+            meetDiskFault(m_orders, file);
+            writeFile(file, bytes, over);
+        };
     }
 
 private:
@@ -39,6 +42,13 @@ std::unique_ptr<FrameSink> FrameSink::of(const SaveOrders& orders, const SaveTra
         return std::make_unique<PagesSink>(orders, track);
     }
     return std::make_unique<PictureSink>(orders, track);
+}
+
+void meetDiskFault(const SaveOrders& orders, const QString& path) {
+    const QString reason = orders.diskFault();
+    if (!reason.isEmpty()) {
+        throw FileError(path, reason);
+    }
 }
 
 Over overOf(const SaveOrders& orders, const QString& path) {

@@ -44,6 +44,7 @@ void PagesSink::finish() {
     if (m_pages) {
         m_pages.reset();
         m_device.close();
+        meetDiskFault(m_orders, m_path);
         m_file->complete();
     }
 }

@@ -9,6 +9,7 @@
 #include <QStringList>
 #include <QTimer>
 
+#include <functional>
 #include <memory>
 #include <vector>
 
@@ -26,6 +27,8 @@ struct SaveOrders {
     VideoEncoder encoder = {};
     /// What can't be saved, a line each for the list of results.
     QStringList absent = {};
+    /// Answers why the next file can't be written; empty when it can. Any thread.
+    std::function<QString()> diskFault = [] { return QString(); };
 };
 
 /// What became of a track, or of a camera in a layout.

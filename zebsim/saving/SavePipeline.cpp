@@ -17,6 +17,8 @@ namespace {
 
 /// Windows come before pictures.
 constexpr int Niceness = 5;
+/// Of cameras that do not answer as many can be borne before others wait.
+constexpr int MostGrowing = 8;
 
 int cores() {
     return QThread::idealThreadCount();
@@ -49,7 +51,7 @@ SavePipeline::SavePipeline(const CameraBank& cameras, const SaveOrders& orders, 
       m_orders(orders),
       m_whenOver(std::move(whenOver)),
       m_frameRoom(2 * cores() + 2),
-      m_fileRoom(std::max(2, cores())) {
+      m_fileRoom(std::max(MostGrowing, cores())) {
     for (int number = 0; number < int(orders.tracks.size()); ++number) {
         m_runs.push_back(std::make_unique<TrackRun>(number, orders, m_stop));
         m_folders[m_runs.back()->folder()].push_back(m_runs.back().get());

@@ -38,14 +38,10 @@ public:
 
     void look(const TrackTarget& target, const SaveTrack& track, qint64 bytes) {
         m_name = track.name;
+        m_plan.entries += faultsOf(target, track.name);
         if (!QDir::isAbsolutePath(target.root)) {
-            add(PlanEntry::NoFolder, target.root);
             return;
         }
-        if (target.name.isEmpty()) {
-            add(PlanEntry::NoName, {}, 0, TextKey("Invalid filename."));
-        }
-        lookAtNames(target);
         lookAtFolder(target.folder(), bytes);
         lookAtLength(track);
         lookForOthers(track);
@@ -73,21 +69,6 @@ private:
 
     void add(PlanEntry::Kind kind, const QString& path, qint64 count = 0, const QString& detail = {}) {
         m_plan.entries.append({kind, m_name, path, count, detail});
-    }
-
-    void lookAtNames(const TrackTarget& target) {
-        const struct {
-            QString part;
-            QString field;
-        } parts[] = {{target.group, TextKey("Group folder")},
-                     {target.sub, TextKey("Subfolder")},
-                     {target.name, TextKey("File name")}};
-        for (const auto& [part, field] : parts) {
-            const bool isOwnFolder = part == QLatin1String(".") || part == QLatin1String("..");
-            if (!isGoodFileName(part) || hasControl(part) || isOwnFolder) {
-                add(PlanEntry::Forbidden, part, 0, field);
-            }
-        }
     }
 
     void lookAtFolder(const QString& path, qint64 bytes) {
@@ -209,6 +190,28 @@ QString TrackTarget::folder() const {
         path += part;
     }
     return path.isEmpty() || path.endsWith(QLatin1Char('/')) ? path : QString(path % QLatin1Char('/'));
+}
+
+QList<PlanEntry> faultsOf(const TrackTarget& target, const QString& camera) {
+    QList<PlanEntry> faults;
+    if (!QDir::isAbsolutePath(target.root)) {
+        faults.append({PlanEntry::NoFolder, camera, target.root, 0, {}});
+    } else if (target.name.isEmpty()) {
+        faults.append({PlanEntry::NoName, camera, {}, 0, TextKey("Invalid filename.")});
+    }
+    const struct {
+        QString part;
+        QString field;
+    } parts[] = {{target.group, TextKey("Group folder")},
+                 {target.sub, TextKey("Subfolder")},
+                 {target.name, TextKey("File name")}};
+    for (const auto& [part, field] : parts) {
+        const bool isOwnFolder = part == QLatin1String(".") || part == QLatin1String("..");
+        if (!isGoodFileName(part) || hasControl(part) || isOwnFolder) {
+            faults.append({PlanEntry::Forbidden, camera, part, 0, field});
+        }
+    }
+    return faults;
 }
 
 bool SavePlan::isPossible() const {

@@ -55,6 +55,9 @@ struct PlanEntry {
     bool isQuestion() const { return kind == Exists || kind == LeftOut; }
 };
 
+/// What stands against the names of `camera`: a root that is no path, an empty name, a part that is no name.
+QList<PlanEntry> faultsOf(const TrackTarget& target, const QString& camera);
+
 /// Every file of a save, and what stands against it.
 struct SavePlan {
     /// With the stems of their files, and the files that may be replaced.

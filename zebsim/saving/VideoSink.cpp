@@ -31,6 +31,7 @@ void VideoSink::finish() {
         if (!m_process->finish()) {
             fail();
         }
+        meetDiskFault(m_orders, m_path);
         m_file->complete();
     }
 }

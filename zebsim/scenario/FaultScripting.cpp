@@ -15,8 +15,10 @@ Fault faultOf(const QVariantMap& members) {
             fault.delay = member->toInt();
         } else if (member.key() == QLatin1String("gone")) {
             fault.gone = member->toBool();
+        } else if (member.key() == QLatin1String("written")) {
+            fault.written = member->toInt();
         } else {
-            throw ScenarioError(QStringLiteral("a fault has throws, delay or gone, not %1").arg(member.key()));
+            throw ScenarioError(QStringLiteral("a fault has throws, delay, gone or written, not %1").arg(member.key()));
         }
     }
     return fault;
@@ -30,8 +32,8 @@ void FaultScripting::plant(const QJSValue& target, const QString& operation, con
         throw ScenarioError(QStringLiteral("%1 has no operation \"%2\" that can fail").arg(found.name, operation));
     }
     const Fault fault = faultOf(members);
-    if (fault.gone && found.key == FaultPlan::Host) {
-        throw ScenarioError(QStringLiteral("the host can't be gone"));
+    if (fault.gone && (found.key == FaultPlan::Host || found.key == FaultPlan::Disk)) {
+        throw ScenarioError(found.name % QStringLiteral(" can't be gone"));
     }
     m_host.faults().plant(found.key, operation, fault);
 }
@@ -47,6 +49,10 @@ FaultScripting::Target FaultScripting::find(const QJSValue& target) const {
     }
     if (target.toString() == QLatin1String("host")) {
         return {FaultPlan::Host, QStringLiteral("the host"), HostOperation::names()};
+    }
+    if (target.toString() == QLatin1String("disk")) {
+        static const QSet<QString> operations = {QStringLiteral("write")};
+        return {FaultPlan::Disk, QStringLiteral("the disk"), operations};
     }
     const SignalHub* hub = m_host.signalDevices().hub(target.toString());
     if (hub == nullptr) {

@@ -13,7 +13,7 @@ constexpr int MostBytes = 150;
 }  // namespace
 
 QString nameInFiles(QString name) {
-    static const QRegularExpression control(QStringLiteral(R"re([\x{00}-\x{1f}\x{7f}])re"));
+    static const QRegularExpression control(QStringLiteral(R"re([\x{00}-\x{1f}\x{7f}-\x{9f}])re"));
     static const QRegularExpression ends(QStringLiteral("^[.\\s]+|[.\\s]+$"));
     name.remove(ends).replace(control, QStringLiteral("_"));
     while (name.toUtf8().size() > MostBytes) {

@@ -7,7 +7,7 @@ const NAME_KEYS = ['export/groupdir', 'export/subdir', 'export/filename', 'conve
     'convert/filename', 'snap/groupdir', 'snap/subdir', 'snap/filename', 'report/groupdir', 'report/subdir',
     'report/filename', '', 'export/fd/dataname', '', 'layout/subdir', 'layout/filename'];
 const NUMBERS = ['camera', 'head', 'session'];
-const MOST_DIGITS = 9;
+const MOST_DIGITS = 20;
 
 const addNumberPage = Object.assign(dialogFrame(addnumberdialog), {
     key: '', // what the keys of the preferences begin with
