@@ -10,34 +10,28 @@
 
 /// A document whose texts a test gives.
 struct GivenDocument : NamedDocument {
-    QString address() const override { return where; }
+    QString address() const override { return "192.168.0.10"; }
     int deviceNumber() const override { return device; }
     int headNumber() const override { return head; }
-    int deviceCount() const override { return devices; }
-    int headCount() const override { return heads; }
+    int deviceCount() const override { return 8; }
+    int headCount() const override { return 1; }
     QString sourceFile() const override { return file; }
     QString originalName() const override { return original; }
     bool isMemoryData() const override { return true; }
-    QList<PARTITIONNUMBER> partitions() const override { return held; }
-    QString partitionName(PARTITIONNUMBER number) const override { return named.value(number); }
+    QList<PARTITIONNUMBER> partitions() const override { return {1, 3}; }
+    QString partitionName(PARTITIONNUMBER number) const override { return named.value(number, named.value(1)); }
     QList<QVariantMap> customInfo() const override { return items; }
-    /// "%1" stands for the type, "%2" for the partition and "%3" for the session.
-    zeb::FileNameDetails fileNameDetails(int type, PARTITIONNUMBER number, int session,
-                                         const QDateTime&) const override {
-        const QString filled =
-            QString(details).replace("%1", QString::number(type)).replace("%2", QString::number(number));
-        return {QString(filled).replace("%3", QString::number(session)), saysSession};
+    /// "%1" stands for the type and "%3" for the session.
+    zeb::FileNameDetails fileNameDetails(int type, PARTITIONNUMBER, int session, const QDateTime&) const override {
+        const QString text = QString(details).replace("%1", QString::number(type));
+        return {QString(text).replace("%3", QString::number(session)), saysSession};
     }
 
-    QString where = "192.168.0.10";
     int device = 0;
     int head = 1;
-    int devices = 8;
-    int heads = 1;
     QString file;
     QString original = "first";
     QMap<PARTITIONNUMBER, QString> named;
-    QList<PARTITIONNUMBER> held{1};
     QList<QVariantMap> items;
     QString details;
     bool saysSession = false;
@@ -50,7 +44,7 @@ struct GivenNames : NameSource {
     bool isMemoryMode() const override { return !inFileMode; }
     std::optional<QString> fixedGroupDir() const override { return fixed; }
     std::optional<QString> substituteFolder() const override { return substitute; }
-    bool isFolderTaken(const QString& path) const override { return allTaken || folders.contains(path + '/'); }
+    bool isFolderTaken(const QString& path) const override { return promised.contains(path); }
     bool isPathTaken(const QString& path) const override { return allTaken || taken.contains(path); }
     void setLastGroupDir(const QString& name) override { last += "group " + name; }
     void setLastFolder(const QString& folder) override { last += "folder " + folder; }
@@ -60,10 +54,10 @@ struct GivenNames : NameSource {
     }
     bool folderExists(const QString& path) const override { return disk.contains(path + '/'); }
 
-    /// The paths of `type`, and what it throws.
-    QString compose(int type, const NamedDocument* document, TargetPaths& out, bool replaceRoot = false, int mode = 0) {
+    /// Why it ended; empty when it has composed all.
+    QString compose(int type, const GivenDocument& document, TargetPaths& out) {
         try {
-            composeTargets(*this, type, document, replaceRoot, time, mode, out);
+            composeTargets(*this, type, &document, true, {{2024, 1, 2}, {3, 4, 5}}, mode, out);
             return {};
         } catch (const std::exception& e) {
             return e.what();
@@ -73,18 +67,17 @@ struct GivenNames : NameSource {
     QVariantMap prefs;
     bool inFileMode = false;
     bool allTaken = false;
+    int mode = 0;
     std::optional<QString> fixed;
     std::optional<QString> substitute;
-    /// Promised to others.
-    QSet<QString> folders;
+    QSet<QString> promised;
     QSet<QString> taken;
-    /// What is there, by folder.
+    /// Names by folder.
     QMap<QString, QStringList> disk;
     GivenDocument other;
     QStringList last;
     /// How often each folder has been listed.
     mutable QMap<QString, int> listings;
-    QDateTime time{{2024, 1, 2}, {3, 4, 5}};
 
 private:
     QStringList fileNames(const QString& folder) const override {
