@@ -5,7 +5,7 @@ packages=(
     g++ cmake ninja-build git
     qtbase5-dev qtbase5-private-dev qtdeclarative5-dev qttools5-dev qttools5-dev-tools libqt5webkit5-dev
     qt5-image-formats-plugins qttranslations5-l10n
-    libzip-dev libpng-dev libtiff-dev rapidjson-dev libopencv-imgproc-dev pkg-config
+    libzip-dev libdeflate-dev libpng-dev libtiff-dev rapidjson-dev libopencv-imgproc-dev pkg-config
     libgtest-dev libgmock-dev python3-jsonschema
     fonts-dejavu-core fonts-noto-cjk
 )

@@ -104,6 +104,9 @@ void TiffFile::setTags(const QImage& picture, const QByteArray& description) {
     TIFFSetField(m_file, TIFFTAG_IMAGEWIDTH, picture.width());
     TIFFSetField(m_file, TIFFTAG_IMAGELENGTH, picture.height());
     TIFFSetField(m_file, TIFFTAG_COMPRESSION, schemeOf(m_options.compression));
+    if (m_options.compression == TiffCompression::Lzw) {
+        TIFFSetField(m_file, TIFFTAG_PREDICTOR, PREDICTOR_HORIZONTAL);
+    }
     if (m_options.compression == TiffCompression::Deflate) {
         TIFFSetField(m_file, TIFFTAG_ZIPQUALITY, DeflateLevel);
     }
