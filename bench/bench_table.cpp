@@ -4,6 +4,7 @@
 #include "Measurements.h"
 #include "MemoryBench.h"
 #include "OffscreenScreen.h"
+#include "SaveBench.h"
 #include "StartBench.h"
 #include "TableBench.h"
 #include "TextBench.h"
@@ -52,7 +53,14 @@ QJsonObject measure(const QString& name, int cameras) {
     if (name == QLatin1String("effects")) {
         return EffectBench::run();
     }
-    throw std::runtime_error("The measurements are table, text, start, memory, commands and effects.");
+    if (name == QLatin1String("save")) {
+        return SaveBench::run();
+    }
+    if (name == QLatin1String("saveMemory")) {
+        return SaveBench::memory(cameras);
+    }
+    throw std::runtime_error(
+        "The measurements are table, text, start, memory, commands, effects, save and saveMemory.");
 }
 
 int measureHere(int argc, char** argv) {
@@ -143,6 +151,32 @@ QVector<Line> compareEffects(const Numbers& effects) {
     return lines;
 }
 
+QVector<Line> compareSaves(const Numbers& save, const Numbers& memory) {
+    const struct {
+        const char* name;
+        const char* what;
+        double goal;
+        double limit;
+    } kinds[] = {{"png", "saving PNG pictures, smooth, over ffmpeg", 0.5, 0.8},
+                 {"pngNoisy", "noisy", 0.5, 0.8},
+                 {"tiff", "TIFF by LZW, smooth", 1, 1.5},
+                 {"tiffNoisy", "noisy", 1, 1.5},
+                 {"jpeg", "JPEG, smooth", 1, 1.5},
+                 {"jpegNoisy", "noisy", 1, 1.5}};
+    QVector<Line> lines;
+    for (const auto& kind : kinds) {
+        const QString name = QLatin1String(kind.name);
+        const double other = save[name % QLatin1String("Other")];
+        std::printf("%s: %.0f, by ffmpeg %.0f\n", kind.name, save[name], other);
+        lines.append({kind.what, save[name] / other, kind.goal, kind.limit});
+    }
+    lines.append(
+        {"eight cameras of 50 ms, over what one has to wait", save[QStringLiteral("slow")] / (64 * 50), 1.1, 1.6});
+    lines.append({"longest turn of the event loop meanwhile, ms", save[QStringLiteral("turn")], 30, 100});
+    lines.append({"memory while 64,000 frames are saved, MiB", memory[QStringLiteral("growth")], 50, 100});
+    return lines;
+}
+
 int print(const QVector<Line>& lines) {
     std::printf("\n%-62s %8s %6s %6s\n", "", "measured", "goal", "limit");
     bool held = true;
@@ -165,6 +199,7 @@ int measureAndCompare(const QString& program) {
     lines += compareStart("first painted rows over a plain page, 1,024 cameras", measured("start", Many));
     lines += compareCommands(measured("commands", Few));
     lines += compareEffects(measured("effects", 1));
+    lines += compareSaves(measured("save", 1), measured("saveMemory", Few, 1));
     lines += compareMemory(measured("memory", Few, 1));
     return print(lines);
 }
