@@ -7,12 +7,16 @@
 #include <QFileInfo>
 #include <QTextCodec>
 
+#include <stdexcept>
+
 namespace {
 
 constexpr qint64 MostBytes = 64 * 1024 * 1024;
 constexpr int LongestName = 1024;
 /// Of lines without a comma, each a line of the log.
 constexpr int MostWarnings = 100;
+/// Of all names, each with its category: so many make a page that still answers.
+constexpr qint64 MostLetters = 64 * 1024 * 1024;
 constexpr int Utf8Mib = 106;
 
 QString cut(const QString& text) {
@@ -46,7 +50,8 @@ QStringList linesOf(QString text) {
 QStringList namesOf(const QStringList& fields) {
     QStringList names;
     for (const QString& field : fields) {
-        const QString name = cut(sanitised(field, {}).trimmed());
+        // What only dots are after the blanks is no name either.
+        const QString name = cut(sanitised(sanitised(field, {}).trimmed(), {}));
         if (!name.isEmpty()) {
             names.append(name);
         }
@@ -57,17 +62,25 @@ QStringList namesOf(const QStringList& fields) {
 CameraNames listOf(const QString& text) {
     CameraNames list;
     int warnings = 0;
+    qint64 letters = 0;
     for (const QString& line : linesOf(text)) {
         QStringList fields = line.split(',');
         if (fields.size() > 1) {
-            const QString category = fields.takeFirst().trimmed();
-            list[category.isEmpty() ? QString(DefaultCategory) : category] += namesOf(fields);
+            const QString category = cut(fields.takeFirst().trimmed());
+            const QStringList names = namesOf(fields);
+            for (const QString& name : names) {
+                letters += category.size() + name.size();
+            }
+            if (letters > MostLetters) {
+                throw std::length_error("there are too many names");
+            }
+            list[category.isEmpty() ? QString(DefaultCategory) : category] += names;
         } else if (++warnings <= MostWarnings) {
             qWarning() << "[only category]" << cut(line);
         }
     }
     if (warnings > MostWarnings) {
-        qWarning() << "[only category]" << warnings << "lines";
+        qWarning() << "[only category]" << warnings - MostWarnings << "lines more";
     }
     return list;
 }
@@ -89,11 +102,15 @@ std::optional<CameraNames> readCameraNames(const QString& path) {
     }
     try {
         const QByteArray bytes = file.read(MostBytes + 1);
-        if (file.error() != QFile::NoError || bytes.size() > MostBytes) {
-            return failed("file error occurred.", path);
+        if (file.error() != QFile::NoError) {
+            throw std::runtime_error(file.errorString().toStdString());
+        }
+        if (bytes.size() > MostBytes) {
+            throw std::length_error("it is larger than 64 MiB");
         }
         return listOf(decoded(bytes));
-    } catch (...) {
+    } catch (const std::exception& e) {
+        qCritical() << "A list of camera names can't be read:" << e.what();
         return failed("file error occurred.", path);
     }
 }

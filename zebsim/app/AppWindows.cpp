@@ -75,7 +75,7 @@ void AppWindows::openAbout() {
 }
 
 void AppWindows::addCamera() {
-    runOnCameras(new GUI_AddDeviceDialog(m_host, zeb::NoDocKey, m_host.getMainWindow()));
+    runDialog(m_host, new GUI_AddDeviceDialog(m_host, zeb::NoDocKey, m_host.getMainWindow()));
 }
 
 void AppWindows::editCamera(DOCKEY key) {

@@ -5,6 +5,7 @@
 #include "JS_Mediator_AutoCameraName.h"
 #include "SimHost.h"
 #include "TextKey.h"
+#include "UiText.h"
 
 namespace {
 
@@ -25,6 +26,8 @@ GUI_AddDeviceDialog::GUI_AddDeviceDialog(SimHost& host, DOCKEY key, QWidget* par
 
 void GUI_AddDeviceDialog::follow() {
     if (m_simHost.cameras().find(m_key) == nullptr) {
+        m_simHost.messages().notify(Message::Warn,
+                                    uiText("The camera has disappeared. Its name and comment stay as they were."));
         reject();
     }
 }

@@ -44,8 +44,11 @@ void JS_Mediator_AddDeviceDialog::ok(const QString& sendData) {
         if (camera) {
             const QString name = data[QStringLiteral("name")].toString();
             camera->set(&CameraState::name, adds && name.isEmpty() ? camera->name() : name);
+            const QString comment =
+                data[QStringLiteral("comment")].toString().replace('\n', QLatin1String(zeb::CommentSeparator));
+            // What a camera has already nobody has seen yet who adds it.
             camera->set(&CameraState::comment,
-                        data[QStringLiteral("comment")].toString().replace('\n', QLatin1String(zeb::CommentSeparator)));
+                        adds && comment.isEmpty() ? camera->get(&CameraState::comment) : comment);
             Q_EMIT accept();
         } else if (!adds) {
             Q_EMIT reject();  // it has gone

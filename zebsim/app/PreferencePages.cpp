@@ -38,6 +38,7 @@ QList<PreferenceField> generalFields() {
                {{QStringLiteral("light"), TextKey("Light")}, {QStringLiteral("dark"), TextKey("Dark")}}),
         choice("env/language", TextKey("Language (from the next start on)"), languages()),
         choice("customize/unitSystem", TextKey("Units of length"), {{1, TextKey("Metric")}, {0, TextKey("Imperial")}}),
+        line("usercustom/cameraNameFilePath", TextKey("File with names for cameras (CSV)")),
         box("devicemanager/connectedCameraOnlyShowing", TextKey("List connected cameras only")),
     };
 }

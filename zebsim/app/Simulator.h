@@ -29,6 +29,7 @@ public:
     LogStore& log() { return m_log; }
     RealClock& clock() { return m_clock; }
     SimHost& host() { return m_host; }
+    AppWindows& windows() { return *m_windows; }
     ViewerWindow& window() { return *m_window; }
     /// Null when no plug-in was found.
     PluginSlot* plugin() { return m_slot.get(); }

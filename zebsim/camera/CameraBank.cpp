@@ -52,7 +52,9 @@ int CameraBank::search(const QString& network) {
 
 Camera* CameraBank::searchAt(const QString& address) {
     for (const auto& device : m_devices) {
-        if (device->address() == address && !device->heads().front()->isGone()) {
+        const auto& heads = device->heads();
+        const auto isThere = [](const auto& head) { return !head->isGone(); };
+        if (device->address() == address && std::any_of(heads.begin(), heads.end(), isThere)) {
             device->setFound(true);
             waitFor({device.get()});
         }
@@ -121,7 +123,7 @@ std::vector<Camera*> CameraBank::all() const {
 Camera* CameraBank::listedAt(const QString& address) const {
     const auto cameras = all();
     const auto found = std::find_if(cameras.begin(), cameras.end(),
-                                    [&address](const Camera* camera) { return camera->address() == address; });
+                                    [&address](const Camera* camera) { return camera->device().address() == address; });
     return found == cameras.end() ? nullptr : *found;
 }
 

@@ -2407,5 +2407,17 @@
         <source>File name</source>
         <translation>ファイル名</translation>
     </message>
+    <message>
+        <source>and %1 more</source>
+        <translation>他 %1 件</translation>
+    </message>
+    <message>
+        <source>File with names for cameras (CSV)</source>
+        <translation>カメラ名のファイル（CSV）</translation>
+    </message>
+    <message>
+        <source>The camera has disappeared. Its name and comment stay as they were.</source>
+        <translation>カメラがなくなりました。名前とコメントは変更されていません。</translation>
+    </message>
 </context>
 </TS>

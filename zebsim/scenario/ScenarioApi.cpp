@@ -1,5 +1,6 @@
 #include "ScenarioApi.h"
 
+#include "AppWindows.h"
 #include "DialogInput.h"
 #include "EventWait.h"
 #include "HostSignal.h"
@@ -181,6 +182,13 @@ void ScenarioApi::key(const QString& name, const QVariantMap& options) {
 void ScenarioApi::menu(const QString& path) {
     guarded([&] {
         chooseEntry(m_simulator.window(), path);
+        m_table.settle();
+    });
+}
+
+void ScenarioApi::addDevice() {
+    guarded([&] {
+        m_simulator.windows().addCamera();
         m_table.settle();
     });
 }

@@ -51,6 +51,7 @@ public:
     Q_INVOKABLE void type(const QString& text);
     Q_INVOKABLE void paste(const QString& text);
     Q_INVOKABLE void key(const QString& name, const QVariantMap& options = {});
+    Q_INVOKABLE void addDevice();
     Q_INVOKABLE void menu(const QString& path);
     Q_INVOKABLE QString active();
     Q_INVOKABLE void window(const QString& what);

@@ -46,7 +46,7 @@ const addNumberPage = Object.assign(dialogFrame(addnumberdialog), {
         for (let digits = 0; digits <= MOST_DIGITS; ++digits) {
             const option = document.createElement('option');
             option.value = digits;
-            option.textContent = digits === 0 ? addnumberdialog.translate('None') : digits;
+            option.textContent = digits === 0 ? addnumberdialog.translate(textKey('None')) : digits;
             list.appendChild(option);
         }
     },

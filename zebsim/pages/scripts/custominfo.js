@@ -3,11 +3,6 @@
 // The lists of custom information of several cameras. What is done reaches all cameras that are chosen on the left; on
 // the right stands the list of one of them.
 
-// It marks the text for `lupdate`.
-function textKey(key) {
-    return key;
-}
-
 const custominfo = Object.assign(dialogFrame(CustomInfoDialog), {
     records: [], // of the cameras
     shown: -1, // key of the camera whose list stands there

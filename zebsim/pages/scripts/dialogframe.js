@@ -6,6 +6,11 @@ function byId(id) {
     return document.getElementById(id);
 }
 
+// It marks the text for `lupdate`.
+function textKey(key) {
+    return key;
+}
+
 // `bridge` is that of the dialog. What is thrown, which can be null too, is a line of the log or a box.
 function dialogFrame(bridge) {
     const textOf = error => error && error.message ? error.message : String(error);

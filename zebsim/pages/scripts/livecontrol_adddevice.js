@@ -9,6 +9,23 @@ $.widget('zeb.nameList', $.ui.autocomplete, {
     _create() {
         this._super();
         this.widget().menu('option', 'items', '> :not(.category, .more)');
+        // A name of dashes is one too.
+        this.widget().menu('instance')._isDivider = () => false;
+        this.element[0].addEventListener('keydown', event => this._leaveTyped(event), true);
+    },
+
+    // Only an entry that the arrows have reached takes the place of what is typed, none that the mouse rests on.
+    _leaveTyped(event) {
+        const ARROWS = [33, 34, 38, 40];
+        if (ARROWS.indexOf(event.keyCode) >= 0) {
+            this.byArrows = true;
+        } else {
+            const takes = event.keyCode === 13 && this.byArrows;
+            this.byArrows = takes;
+            if (!takes) {
+                this.menu.active = null;
+            }
+        }
     },
 
     _renderMenu(list, hits) {
@@ -34,12 +51,10 @@ const addDevicePage = Object.assign(dialogFrame(adddevice), {
         this.begin(() => this.applyStyle());
         this.applyStyle();
         this.show(JSON.parse(adddevice.getDevice() || '{}'));
-        if (adddeviceAutoCameraName.existsAutoCompleteFile()) {
-            this.offerNames();
-        }
         this.onClick('ok', () => this.accept());
         this.onClick('cancel', () => adddevice.reject());
         document.addEventListener('keydown', event => this.guarded(() => this.press(event)));
+        this.logged(() => adddeviceAutoCameraName.existsAutoCompleteFile() && this.offerNames());
     },
 
     show(device) {
@@ -56,7 +71,7 @@ const addDevicePage = Object.assign(dialogFrame(adddevice), {
         $('#name').nameList({
             delay: 0,
             minLength: 0,
-            source: ({ term }, answer) => this.logged(() => answer(this.hits(term.toLowerCase())))
+            source: (request, answer) => this.logged(() => answer(this.hits(request.term.toLowerCase())))
         });
     },
 
@@ -66,7 +81,7 @@ const addDevicePage = Object.assign(dialogFrame(adddevice), {
         const shown = hits.slice(0, MOST_HITS);
         if (hits.length > MOST_HITS) {
             const category = shown[MOST_HITS - 1].category;
-            const label = adddevice.translate('and %1 more').replace('%1', hits.length - MOST_HITS);
+            const label = adddevice.translate(textKey('and %1 more')).replace('%1', hits.length - MOST_HITS);
             shown.push({ label, category, more: true });
         }
         return shown;
