@@ -13,6 +13,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <csignal>
 #include <vector>
@@ -50,11 +51,8 @@ void EncoderProcess::start(const QString& program, const QStringList& arguments,
     for (const QString& argument : arguments) {
         words.push_back(argument.toLocal8Bit());
     }
-    std::vector<char*> list;
-    for (QByteArray& word : words) {
-        list.push_back(word.data());
-    }
-    list.push_back(nullptr);
+    std::vector<char*> list(words.size() + 1, nullptr);
+    std::transform(words.begin(), words.end(), list.begin(), [](QByteArray& word) { return word.data(); });
     posix_spawn_file_actions_t actions;
     posix_spawn_file_actions_init(&actions);
     posix_spawn_file_actions_adddup2(&actions, input, STDIN_FILENO);

@@ -14,12 +14,10 @@ QByteArray written(const QImage& picture, const char* format, int quality = -1) 
 
 }  // namespace
 
-QByteArray jpegOf(QImage& picture, const FileMetadata& metadata, const PictureOptions& options) {
-    // Of several texts in such a file most readers see the last one only.
-    picture.setText(QStringLiteral("Description"), QString::fromLatin1(metadata.description));
+QByteArray jpegOf(const QImage& picture, const FileMetadata& /*metadata*/, const PictureOptions& options) {
     return written(picture, "jpeg", options.jpegQuality);
 }
 
-QByteArray bmpOf(QImage& picture, const FileMetadata& /*metadata*/, const PictureOptions& /*options*/) {
+QByteArray bmpOf(const QImage& picture, const FileMetadata& /*metadata*/, const PictureOptions& /*options*/) {
     return written(picture, "bmp");
 }

@@ -137,7 +137,7 @@ bool writeAll(png_structp png, png_infop info, const QSize& size, int depth, con
 
 }  // namespace
 
-QByteArray pngOf(QImage& picture, const FileMetadata& metadata, const PictureOptions& options) {
+QByteArray pngOf(const QImage& picture, const FileMetadata& metadata, const PictureOptions& options) {
     std::vector<Text> texts = textsOf(metadata);
     const std::vector<png_text> entries = pngTexts(texts);
     QByteArray bytes;

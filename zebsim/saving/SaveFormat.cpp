@@ -31,6 +31,8 @@ bool SaveFormat::isOneFile() const {
 }
 
 QByteArray SaveFormat::encoded(QImage picture, const FileMetadata& metadata) const {
+    // Qt's own writers find it there. Of several texts in a JPEG file most readers see the last one only.
+    picture.setText(QStringLiteral("Description"), QString::fromLatin1(metadata.description));
     return encoderOf(id)(picture, metadata, options);
 }
 

@@ -140,7 +140,7 @@ bool TiffFile::writeRows(const QImage& picture) {
     return true;
 }
 
-QByteArray tiffOf(QImage& picture, const FileMetadata& metadata, const PictureOptions& options) {
+QByteArray tiffOf(const QImage& picture, const FileMetadata& metadata, const PictureOptions& options) {
     QBuffer buffer;
     buffer.open(QIODevice::ReadWrite);
     PictureOptions single = options;
