@@ -43,10 +43,11 @@ const addNumberPage = Object.assign(dialogFrame(addnumberdialog), {
     },
 
     fill(list) {
+        const none = textKey('None');
         for (let digits = 0; digits <= MOST_DIGITS; ++digits) {
             const option = document.createElement('option');
             option.value = digits;
-            option.textContent = digits === 0 ? addnumberdialog.translate(textKey('None')) : digits;
+            option.textContent = digits === 0 ? addnumberdialog.translate(none) : digits;
             list.appendChild(option);
         }
     },

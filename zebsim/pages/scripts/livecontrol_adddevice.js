@@ -81,7 +81,8 @@ const addDevicePage = Object.assign(dialogFrame(adddevice), {
         const shown = hits.slice(0, MOST_HITS);
         if (hits.length > MOST_HITS) {
             const category = shown[MOST_HITS - 1].category;
-            const label = adddevice.translate(textKey('and %1 more')).replace('%1', hits.length - MOST_HITS);
+            const more = textKey('and %1 more');
+            const label = adddevice.translate(more).replace('%1', hits.length - MOST_HITS);
             shown.push({ label, category, more: true });
         }
         return shown;
