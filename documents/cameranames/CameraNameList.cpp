@@ -11,12 +11,12 @@
 
 namespace {
 
-constexpr qint64 MostBytes = 64 * 1024 * 1024;
+constexpr qint64 MostBytes = 64LL * 1024 * 1024;
 constexpr int LongestName = 1024;
 /// Of lines without a comma, each a line of the log.
 constexpr int MostWarnings = 100;
 /// Of all names, each with its category: so many make a page that still answers.
-constexpr qint64 MostLetters = 64 * 1024 * 1024;
+constexpr qint64 MostLetters = 64LL * 1024 * 1024;
 constexpr int Utf8Mib = 106;
 
 QString cut(const QString& text) {

@@ -98,7 +98,7 @@ TEST_F(CameraNameList, IsNoneWhereNothingCanBeRead) {
     }
     EXPECT_EQ(course.take().size(), 1);
     QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner);
-    QFile(path).resize(100 * 1024 * 1024);
+    QFile(path).resize(100LL * 1024 * 1024);
     EXPECT_FALSE(readCameraNames(path));
     EXPECT_EQ(course.take(), QStringList({"critical: A list of camera names can't be read: it is larger than 64 MiB",
                                        "critical: \"file error occurred. [" + path + "]\""}));
