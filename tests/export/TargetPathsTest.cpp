@@ -138,7 +138,7 @@ public:
 
     int below(int count) { return static_cast<int>(m_random() % static_cast<unsigned>(count)); }
     QString oneOf(const QString& texts) { return texts.split(',')[below(texts.count(',') + 1)]; }
-    QString text() { return oneOf("1,shot,.,..,a/b,../x,C:\\x,%1,%3,\n,[1]*,\u202E,?,s_S1,yyyy/MM,HH',-1,箱,a|b,5"); }
+    QString text() { return oneOf("1,shot,.,..,a/b,../x,C:\\x,%1,%3,\n,[1]*,\u200F,?,s_S1,yyyy/MM,HH',-1,箱,a|b,5"); }
     QString typed() { return below(2) ? "" : isName ? oneOf("1,2,HH,MM_ss") : text(); }
 
     GivenDocument document(int camera) {
