@@ -5,6 +5,7 @@
 #include "FullDisk.h"
 #include "LastShoot.h"
 #include "RealClock.h"
+#include "RecordedRig.h"
 #include "Unprivileged.h"
 #include "support/SavingTest.h"
 
@@ -146,6 +147,7 @@ TEST_F(Saving, WritesOverNothingButWhatItMay) {
 }
 
 TEST_F(Saving, LosesNoOtherTrackByAFileOrFolderThatCannotBeWritten) {
+    prepare(1, "Gate", 99, 140);
     ASSERT_TRUE(QDir().mkpath(path("Gate_00000.png/x")));
     ASSERT_TRUE(QDir().mkpath(path("locked")));
     QFile::setPermissions(path("locked"), QFile::ReadOther | QFile::ExeOther | QFile::ReadOwner | QFile::ExeOwner);
@@ -153,10 +155,10 @@ TEST_F(Saving, LosesNoOtherTrackByAFileOrFolderThatCannotBeWritten) {
     write(path("file"), "old");
     const struct {
         const char *what, *stem, *outcome, *file;
-    } cases[] = {{"a folder of that name", "Gate", "Gate: 1 of 2 up to -1, failed", "Gate_00000.png"},
-                 {"a folder that can't be made", "file/below/Gate", "Gate: 0 of 2 up to 0, failed", "below"},
-                 {"a folder that can only be read", "locked/Gate", "Gate: 0 of 2 up to 0, failed", "Gate_-00001.png"},
-                 {"a new folder", "new/er/Gate", "Gate: 2 of 2 up to 0, saved", ""}};
+    } cases[] = {{"a folder of that name", "Gate", "Gate: 1 of 42 up to -1, failed", "Gate_00000.png"},
+                 {"a folder that can't be made", "file/below/Gate", "Gate: 0 of 42 up to 0, failed", "below"},
+                 {"a folder that can only be read", "locked/Gate", "Gate: 0 of 42 up to 0, failed", "Gate_-00001.png"},
+                 {"a new folder", "new/er/Gate", "Gate: 42 of 42 up to 40, saved", ""}};
     const Unprivileged user;
     for (const auto& one : cases) {
         SaveOrders wanted = orders();
@@ -208,6 +210,25 @@ TEST_F(Saving, LosesACameraAtAnyFrameAndNoOther) {
     }
 }
 
+/// A host on another clock, whose cameras have recorded a few frames.
+template <typename ClockType>
+struct RecordedHost {
+    RecordedHost(int cameras, int frames) { host.setRig(recordedRig(cameras, {64, 64}, frames, 0)); }
+
+    SaveOrders orders() {
+        SaveOrders wanted{saveFormat("png"), tracksOfEach(saveSources(host.cameras()))};
+        for (SaveTrack& track : wanted.tracks) {
+            track.stem = folder.filePath(track.name);
+        }
+        return wanted;
+    }
+
+    ClockType clock;
+    ScriptedDesk desk;
+    QTemporaryDir folder;
+    SimHost host{clock, desk, folder.filePath("prefs.ini")};
+};
+
 /// Tells of each wait, on the thread that waits.
 struct TellingClock : SteppedClock {
     std::function<void()> tell;
@@ -221,30 +242,19 @@ struct TellingClock : SteppedClock {
 
 TEST(SavingWhileItChanges, LosesARecordingThatIsMadeAnewAndCamerasOfAnotherRig) {
     for (const bool rig : {true, false}) {
-        TellingClock clock;
-        ScriptedDesk desk;
-        const QTemporaryDir folder;
-        SimHost host(clock, desk, folder.filePath("prefs.ini"));
-        host.setRig(connected(2));
-        for (Camera* camera : host.cameras().all()) {
-            camera->change({{"recorded", true}, {"resolution", QVariantList{64, 64}}});
-            camera->change({{"recordedRange", QVariantList{0, 2}}, {"selectedRange", QVariantList{0, 2}}});
-        }
-        const auto held = host.cameras().hold(1);
+        RecordedHost<TellingClock> test(1, 3);
+        const auto held = test.host.cameras().hold(1);
         int reads = 0;
-        clock.tell = [&] {
+        test.clock.tell = [&] {
             if (++reads == 2 && rig) {
                 QMetaObject::invokeMethod(
-                    &host.journal(), [&] { host.setRig(connected(2)); }, Qt::BlockingQueuedConnection);
+                    &test.host.journal(), [&] { test.host.setRig(connected(1)); }, Qt::BlockingQueuedConnection);
             } else if (reads == 2) {
                 held->keep(1, held->recording());
             }
         };
-        host.faults().plant(1, "readFrame", {{}, 1, false});
-        SaveOrders orders{saveFormat("jpeg"), tracksOfEach(saveSources(host.cameras()))};
-        orders.tracks.pop_back();
-        orders.tracks.front().stem = folder.filePath("Gate");
-        SaveJob job(host.cameras(), orders);
+        test.host.faults().plant(1, "readFrame", {{}, 1, false});
+        SaveJob job(test.host.cameras(), test.orders());
         job.start();
         ASSERT_TRUE(until([&job] { return !job.isRunning(); }));
         EXPECT_EQ(job.outcomes().front().reason, rig ? "the camera is gone" : "the recording is gone");
@@ -271,27 +281,15 @@ TEST_F(Saving, ReadsCamerasSideBySide) {
 }
 
 TEST(SavingWithoutAnswer, HoldsUpNoOtherCameraAndNoCancel) {
-    for (const bool cancelled : {true, false}) {
-        RealClock clock;
-        ScriptedDesk desk;
-        const QTemporaryDir folder;
-        SimHost host(clock, desk, folder.filePath("prefs.ini"));
-        host.setRig(connected(3));
-        for (Camera* camera : host.cameras().all()) {
-            camera->change({{"recorded", true}, {"resolution", QVariantList{64, 64}}});
-            camera->change({{"recordedRange", QVariantList{0, 19}}, {"selectedRange", QVariantList{0, 19}}});
-        }
-        host.faults().plant(2, "readFrame", {{}, std::numeric_limits<int>::max(), false});
-        SaveOrders orders{saveFormat("png"), tracksOfEach(saveSources(host.cameras()))};
-        for (SaveTrack& track : orders.tracks) {
-            track.stem = folder.filePath(track.name);
-        }
-        SaveJob job(host.cameras(), orders);
+    for (const bool isCancelled : {true, false}) {
+        RecordedHost<RealClock> test(3, 20);
+        test.host.faults().plant(2, "readFrame", {{}, std::numeric_limits<int>::max(), false});
+        SaveJob job(test.host.cameras(), test.orders());
         job.start();
         ASSERT_TRUE(until([&job] { return job.state().saved == std::vector<int>({20, 0, 20}); }));
         EXPECT_TRUE(job.isRunning());
-        if (!cancelled) {
-            continue;  // and destroyed
+        if (!isCancelled) {
+            continue;  // It is destroyed.
         }
         job.cancel();
         ASSERT_TRUE(until([&job] { return !job.isRunning(); }));
@@ -301,7 +299,7 @@ TEST(SavingWithoutAnswer, HoldsUpNoOtherCameraAndNoCancel) {
         }
         EXPECT_EQ(ends, QList<int>({SaveOutcome::Saved, SaveOutcome::Cancelled, SaveOutcome::Saved}));
         EXPECT_EQ(job.outcomes()[1].name, "Camera 2");
-        EXPECT_TRUE(host.cameras().find(1)->recording()->saved);
+        EXPECT_TRUE(test.host.cameras().find(1)->recording()->saved);
     }
 }
 
