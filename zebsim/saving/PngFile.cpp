@@ -1,6 +1,5 @@
 #include "PictureEncoder.h"
-
-#include <QtEndian>
+#include "PixelRow.h"
 
 #include <algorithm>
 #include <csetjmp>
@@ -77,42 +76,36 @@ void append(png_structp png, png_bytep bytes, std::size_t size) {
 
 void beSilent(png_structp /*png*/, png_const_charp /*text*/) {}
 
-/// Without the fourth number of each pixel, and as the file has them.
-void packRow(const quint16* pixels, int width, char* levels) {
-    for (int x = 0; x < width; ++x) {
-        for (int colour = 0; colour < Colours; ++colour, levels += sizeof *pixels) {
-            qToBigEndian(pixels[x * 4 + colour], levels);
+/// What a thread packs pixels with. It is kept from picture to picture, for fresh memory takes as long as the packing.
+class Packer {
+public:
+    /// The rows as the file has them, packed: each begins with how it is filtered, which none is.
+    QByteArray packed(const QImage& picture, int depth) {
+        const QImage plain = picture.convertToFormat(QImage::Format_RGB32);
+        const int rowBytes = 1 + plain.width() * Colours * depth / 8;
+        m_rows.resize(std::size_t(plain.height()) * std::size_t(rowBytes));
+        char* row = m_rows.data();
+        for (int y = 0; y < plain.height(); ++y, row += rowBytes) {
+            *row = PNG_FILTER_VALUE_NONE;
+            copyRow(plain, y, depth, row + 1);
         }
+        return compressed();
     }
-}
 
-/// The rows as the file has them before they are packed: each begins with how it is filtered, which none is.
-QByteArray rowsOf(const QImage& picture, bool isDeep) {
-    const QImage plain = picture.convertToFormat(isDeep ? QImage::Format_RGBX64 : QImage::Format_RGB888);
-    const int rowBytes = plain.width() * Colours * (isDeep ? 2 : 1);
-    QByteArray rows(plain.height() * (1 + rowBytes), PNG_FILTER_VALUE_NONE);
-    char* row = rows.data() + 1;
-    for (int y = 0; y < plain.height(); ++y, row += rowBytes + 1) {
-        const uchar* pixels = plain.constScanLine(y);
-        if (isDeep) {
-            packRow(reinterpret_cast<const quint16*>(pixels), plain.width(), row);
-        } else {
-            std::copy_n(pixels, rowBytes, row);
-        }
+private:
+    QByteArray compressed() const {
+        const std::size_t most = libdeflate_zlib_compress_bound(m_compressor.get(), m_rows.size());
+        QByteArray bytes(int(most), Qt::Uninitialized);
+        bytes.truncate(
+            int(libdeflate_zlib_compress(m_compressor.get(), m_rows.data(), m_rows.size(), bytes.data(), most)));
+        return bytes;
     }
-    return rows;
-}
 
-/// By the library that is quickest at it.
-QByteArray packed(const QByteArray& rows) {
-    const std::unique_ptr<libdeflate_compressor, decltype(&libdeflate_free_compressor)> compressor(
-        libdeflate_alloc_compressor(Level), libdeflate_free_compressor);
-    const auto size = std::size_t(rows.size());
-    QByteArray bytes(int(libdeflate_zlib_compress_bound(compressor.get(), size)), Qt::Uninitialized);
-    bytes.truncate(int(
-        libdeflate_zlib_compress(compressor.get(), rows.constData(), size, bytes.data(), std::size_t(bytes.size()))));
-    return bytes;
-}
+    std::vector<char> m_rows;
+    /// Of the libraries for it the quickest.
+    const std::unique_ptr<libdeflate_compressor, decltype(&libdeflate_free_compressor)> m_compressor{
+        libdeflate_alloc_compressor(Level), libdeflate_free_compressor};
+};
 
 void writeChunk(png_structp png, const char* name, const QByteArray& bytes) {
     png_write_chunk(png, reinterpret_cast<png_const_bytep>(name), reinterpret_cast<png_const_bytep>(bytes.constData()),
@@ -145,7 +138,8 @@ QByteArray pngOf(const QImage& picture, const FileMetadata& metadata, const Pict
     png_infop info = png == nullptr ? nullptr : png_create_info_struct(png);
     bool isWhole = false;
     if (info != nullptr && !picture.isNull()) {
-        const QByteArray pixels = packed(rowsOf(picture, options.depth == 16));
+        thread_local Packer packer;
+        const QByteArray pixels = packer.packed(picture, options.depth);
         png_set_write_fn(png, &bytes, append, nullptr);
         isWhole = writeAll(png, info, picture.size(), options.depth, entries, pixels);
     }

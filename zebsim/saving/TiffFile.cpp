@@ -1,6 +1,7 @@
 #include "TiffFile.h"
 
 #include "PictureEncoder.h"
+#include "PixelRow.h"
 
 #include <QBuffer>
 #include <QImage>
@@ -29,14 +30,6 @@ int schemeOf(TiffCompression compression) {
             break;
     }
     return COMPRESSION_NONE;
-}
-
-/// Without the fourth number of each pixel.
-void packRow(const quint16* pixels, int width, std::vector<quint16>& row) {
-    row.resize(std::size_t(width) * Colours);
-    for (int x = 0; x < width; ++x) {
-        std::copy_n(pixels + std::ptrdiff_t(x) * 4, Colours, row.begin() + std::ptrdiff_t(x) * Colours);
-    }
 }
 
 }  // namespace
@@ -93,9 +86,7 @@ bool TiffFile::add(const QImage& picture, const QByteArray& description) {
         return false;
     }
     setTags(picture, description);
-    const bool isDeep = m_options.depth == 16;
-    return writeRows(picture.convertToFormat(isDeep ? QImage::Format_RGBX64 : QImage::Format_RGB888)) &&
-           TIFFWriteDirectory(m_file) == 1;
+    return writeRows(picture.convertToFormat(QImage::Format_RGB32)) && TIFFWriteDirectory(m_file) == 1;
 }
 
 void TiffFile::setTags(const QImage& picture, const QByteArray& description) {
@@ -125,19 +116,13 @@ void TiffFile::setTags(const QImage& picture, const QByteArray& description) {
 }
 
 bool TiffFile::writeRows(const QImage& picture) {
-    std::vector<quint16> row;
-    for (int y = 0; y < picture.height(); ++y) {
-        // The library takes what it may write to, and does not.
-        void* pixels = const_cast<uchar*>(picture.constScanLine(y));
-        if (m_options.depth == 16) {
-            packRow(static_cast<const quint16*>(pixels), picture.width(), row);
-            pixels = row.data();
-        }
-        if (TIFFWriteScanline(m_file, pixels, uint32_t(y), 0) != 1) {
-            return false;
-        }
+    std::vector<char> row(std::size_t(picture.width()) * Colours * std::size_t(m_options.depth) / 8);
+    bool isWhole = true;
+    for (int y = 0; y < picture.height() && isWhole; ++y) {
+        copyRow(picture, y, m_options.depth, row.data());
+        isWhole = TIFFWriteScanline(m_file, row.data(), uint32_t(y), 0) == 1;
     }
-    return true;
+    return isWhole;
 }
 
 QByteArray tiffOf(const QImage& picture, const FileMetadata& metadata, const PictureOptions& options) {

@@ -1,0 +1,21 @@
+#include "PixelRow.h"
+
+#include <QImage>
+
+#include <algorithm>
+
+void copyRow(const QImage& picture, int y, int depth, char* levels) {
+    constexpr int Colours = 3;
+    const int count = picture.width() * Colours;
+    const QImage row = QImage(picture.constScanLine(y), picture.width(), 1, QImage::Format_RGB32)
+                           .convertToFormat(QImage::Format_RGB888);
+    const uchar* from = row.constBits();
+    if (depth == 8) {
+        std::copy_n(from, count, levels);
+        return;
+    }
+    // 257 times as much: both bytes are alike, whichever comes first.
+    for (int i = 0; i < count; ++i) {
+        levels[2 * i] = levels[2 * i + 1] = char(from[i]);
+    }
+}
