@@ -15,7 +15,8 @@ void copyRow(const QImage& picture, int y, int depth, char* levels) {
         return;
     }
     // 257 times as much: both bytes are alike, whichever comes first.
-    for (int i = 0; i < count; ++i) {
-        levels[2 * i] = levels[2 * i + 1] = char(from[i]);
-    }
+    std::for_each(from, from + count, [&levels](uchar level) {
+        *levels++ = char(level);
+        *levels++ = char(level);
+    });
 }
