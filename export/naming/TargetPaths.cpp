@@ -63,8 +63,10 @@ std::optional<QString> listed(const QString& list, const QString& key) {
 }
 
 /// The folder of a camera that has one of its own.
-std::optional<QString> cameraFolder(const NameSource& source, const QString& address) {
-    const auto key = listed(source.pref("export/multipathdevicelist").toString(), address);
+std::optional<QString> cameraFolder(const NameSource& source, const NamedDocument& document) {
+    const QString devices = source.pref("export/multipathdevicelist").toString();
+    // A camera is not asked for what nobody needs.
+    const auto key = devices.isEmpty() ? std::nullopt : listed(devices, document.address());
     return key ? listed(source.pref("export/multipathlist").toString(), *key) : key;
 }
 
@@ -310,7 +312,7 @@ QString rootFolder(const NameSource& source, int type, const NamedDocument* docu
     const bool isFileMode = source.isFileMode();
     QString folder = prefs.text("dir");
     if (!isFileMode && isOneOf(type, {1, 2}) && document && !source.pref("export/singlepath").toBool()) {
-        folder = cameraFolder(source, document->address()).value_or(folder);
+        folder = cameraFolder(source, *document).value_or(folder);
     }
     if ((isConversion(type) || isFileMode) && prefs.flag("dirasoriginal")) {
         const QString file = document ? document->sourceFile() : QString();

@@ -137,12 +137,13 @@ TEST_F(AppSaving, ShowsThePlanAndGoesBackWithWhatWasTyped) {
     });
     host.saveFiles();
     const QString out = folder.filePath("out/");
-    EXPECT_EQ(told.join('|').toStdString(),
-              QStringList({"Files that are in " + out + " already: 2",
-                           "Camera 2: 1 files exist already and are replaced, the first is " + old, "possible",
-                           "There can't be a folder " + folder.filePath("p.ini/below/") + ".", "not possible"})
-                  .join('|')
-                  .toStdString());
+    EXPECT_EQ(
+        told.join('|').toStdString(),
+        QStringList({"Files that are in " + out + " already: 2",
+                     "Camera 2: 1 files exist already and are replaced, the first is " + old, "possible",
+                     "Camera 2: There can't be a folder " + folder.filePath("p.ini/below/") + ".", "not possible"})
+            .join('|')
+            .toStdString());
     EXPECT_EQ(paths, QStringList({folder.filePath("out/Camera 2_C02H1_-00001.png"), folder.filePath("p.ini/below")}));
     EXPECT_EQ(host.prefs().value("export/dir"), folder.filePath("out")) << "nobody has agreed";
     EXPECT_EQ(contentOf(old), "old");

@@ -49,9 +49,15 @@ SaveDialog::SaveDialog(SimHost& host, std::vector<SaveTrack> tracks, QStringList
     layout->addWidget(makeButtons());
     connect(m_target, &TargetFields::changed, this, &SaveDialog::follow);
     connect(m_table, &QTableWidget::itemChanged, this, &SaveDialog::follow);
-    connect(m_table, &QTableWidget::currentItemChanged, this, &SaveDialog::follow);
+    connect(m_table, &QTableWidget::currentItemChanged, this, &SaveDialog::showPath);
     m_target->setFocus();
     follow();
+}
+
+SaveDialog::~SaveDialog() {
+    for (auto stored = m_stored.begin(); stored != m_stored.end(); ++stored) {
+        m_host.prefs().assume(stored.key(), *stored);
+    }
 }
 
 void SaveDialog::addTable() {
@@ -111,22 +117,33 @@ QWidget* SaveDialog::makeButtons() {
 }
 
 void SaveDialog::follow() {
-    m_save->setEnabled(m_target->isComplete() && !chosenTracks().empty());
-    m_path->setText(composedPath(m_host, m_tracks, shownTrack(), m_target->typed(), QDateTime::currentDateTime()));
+    const std::vector<SaveTrack> chosen = chosenTracks();
+    m_save->setEnabled(m_target->isComplete() && !chosen.empty());
+    QStringList paths =
+        chosen.empty() ? QStringList() : composedPaths(m_host, chosen, m_target->typed(), QDateTime::currentDateTime());
+    m_paths.clear();
+    for (std::size_t i = 0; i < m_tracks.size(); ++i) {
+        m_paths.append(isChosen(i) ? paths.takeFirst() : QString());
+    }
+    showPath();
+}
+
+void SaveDialog::showPath() {
+    m_path->setText(m_paths.value(int(shownTrack())));
 }
 
 std::size_t SaveDialog::shownTrack() const {
     return isLayout() ? 0 : std::size_t(std::max(0, m_table->currentRow() - m_absent.size()));
 }
 
+bool SaveDialog::isChosen(std::size_t track) const {
+    return isLayout() || m_table->item(m_absent.size() + int(track), 0)->checkState() == Qt::Checked;
+}
+
 std::vector<SaveTrack> SaveDialog::chosenTracks() const {
-    if (isLayout()) {
-        return m_tracks;
-    }
     std::vector<SaveTrack> chosen;
     for (std::size_t i = 0; i < m_tracks.size(); ++i) {
-        const QTableWidgetItem* name = m_table->item(m_absent.size() + int(i), 0);
-        if (name->checkState() == Qt::Checked) {
+        if (isChosen(i)) {
             chosen.push_back(m_tracks[i]);
         }
     }
@@ -152,7 +169,11 @@ void SaveDialog::setNumbers() {
 }
 
 void SaveDialog::setOption(const QString& suffix, const QVariant& value) {
-    m_host.prefs().setValue(prefFamily(isLayout()) % suffix, value);
+    const QString key = prefFamily(isLayout()) % suffix;
+    if (!m_stored.contains(key)) {
+        m_stored.insert(key, m_host.prefs().value(key));
+    }
+    m_host.prefs().assume(key, value);
     follow();
 }
 

@@ -105,33 +105,13 @@ private:
     const QDateTime m_time;
 };
 
-SaveFormat chosenFormat(const std::function<QVariant(const char*)>& pref) {
-    static const QHash<QString, TiffCompression> compressions = {{QStringLiteral("none"), TiffCompression::None},
-                                                                 {QStringLiteral("deflate"), TiffCompression::Deflate}};
-    SaveFormat format = saveFormat(pref("format").toString());
-    const QString kind = format.id % QLatin1Char('/');
-    const auto option = [&](const char* suffix) { return pref((kind % QLatin1String(suffix)).toLatin1().constData()); };
-    PictureOptions& options = format.options;
-    options.depth = option("depth").toInt() == 16 ? 16 : 8;
-    options.isMultiPage = option("multipage").toBool();
-    options.compression = option("packbits").toBool()
-                              ? TiffCompression::PackBits
-                              : compressions.value(option("compression").toString(), options.compression);
-    const QVariant quality = option("compressquality");
-    options.jpegQuality = quality.isValid() ? qBound(0, quality.toInt(), 100) : options.jpegQuality;
-    return format;
-}
-
 /// Without tracks.
 SaveOrders ordersOf(SimHost& host, bool isLayout, const TypedPrefs& typed) {
     const QString family = prefFamily(isLayout);
-    const auto pref = [&](const char* suffix) {
-        const QString key = family % QLatin1String(suffix);
-        return typed.value(key, host.prefs().value(key));
-    };
+    const auto pref = [&](const QString& key) { return typed.value(key, host.prefs().value(key)); };
     SaveOrders orders;
-    orders.format = chosenFormat(pref);
-    orders.digits = qBound(1, pref("filenameseqdigits").toInt(), MostDigits);
+    orders.format = chosenFormat(pref, family);
+    orders.digits = qBound(1, pref(family % QStringLiteral("filenameseqdigits")).toInt(), MostDigits);
     orders.encoder = VideoEncoder::installed();
     orders.diskFault = [&host] { return host.faults().suffer(FaultPlan::Disk, "write", host.clock()); };
     return orders;
@@ -166,30 +146,31 @@ SavePlan composePlan(SimHost& host, const std::vector<SaveTrack>& tracks, const 
     return planOf(std::move(orders), targets, disk, known);
 }
 
-QString composedPath(SimHost& host, const std::vector<SaveTrack>& tracks, std::size_t shown, const TypedPrefs& typed,
-                     const QDateTime& time) {
+QStringList composedPaths(SimHost& host, const std::vector<SaveTrack>& tracks, const TypedPrefs& typed,
+                          const QDateTime& time) {
     const HostCalls::Own own;
     const NamePromises::Save alone(host.saver().promises());
-    SaveTrack track = tracks[shown];
-    const SaveOrders orders = ordersOf(host, track.isLayout, typed);
-    Composer composer(host, typeOf(track), typed, true, time);
-    for (std::size_t i = 0; i <= shown; ++i) {
+    const SaveOrders orders = ordersOf(host, tracks.front().isLayout, typed);
+    Composer composer(host, typeOf(tracks.front()), typed, true, time);
+    QStringList paths;
+    for (SaveTrack track : tracks) {
         try {
-            track.stem = composer.targetOf(tracks[i]).stem();
+            track.stem = composer.targetOf(track).stem();
+            paths.append(QDir::toNativeSeparators(fileOf(track, orders.format, orders.digits, track.from)));
         } catch (const std::exception& e) {
-            if (i == shown) {
-                return uiText(QString::fromUtf8(e.what()));
-            }
+            paths.append(uiText(QString::fromUtf8(e.what())));
         }
     }
-    return QDir::toNativeSeparators(fileOf(track, orders.format, orders.digits, track.from));
+    return paths;
 }
 
 QString snapShotStem(SimHost& host, DOCKEY key, const QDateTime& time) {
     const HostCalls::Own own;
     const NamePromises::Save alone(host.saver().promises());
-    const TrackTarget target = Composer(host, SnapShotType, {}, false, time).targetOf(key, 1);
     const Camera* camera = host.cameras().find(key);
+    const PARTITIONNUMBER partition = camera ? camera->get(&CameraState::partition) : 1;
+    const TypedPrefs none;
+    const TrackTarget target = Composer(host, SnapShotType, none, false, time).targetOf(key, partition);
     const QList<PlanEntry> faults = faultsOf(target, camera ? camera->name() : QString());
     if (!faults.isEmpty()) {
         throw std::runtime_error(entryText(faults.first()).toStdString());

@@ -21,10 +21,9 @@ QString prefFamily(bool isLayout);
 SavePlan composePlan(SimHost& host, const std::vector<SaveTrack>& tracks, const QStringList& absent,
                      const TypedPrefs& typed, const QDateTime& time);
 
-/// Path of the first file of track number `shown`, as composed after those before it; a text in the user's language
-/// says why there is none. Nothing is promised.
-QString composedPath(SimHost& host, const std::vector<SaveTrack>& tracks, std::size_t shown, const TypedPrefs& typed,
-                     const QDateTime& time);
+/// Path of the first file of each track; a text in the user's language says why there is none. Nothing is promised.
+QStringList composedPaths(SimHost& host, const std::vector<SaveTrack>& tracks, const TypedPrefs& typed,
+                          const QDateTime& time);
 
 /// Path of a picture of that camera, without what its name ends in. Throws.
 QString snapShotStem(SimHost& host, DOCKEY key, const QDateTime& time);

@@ -21,8 +21,7 @@ QString folderOf(const SaveOrders& orders, int track) {
 QString spaceText(const PlanEntry& entry) {
     const QLocale locale;
     return uiText("There is not enough space in %1: %2 are needed, %3 are free.")
-        .arg(nativePath(entry.path), locale.formattedDataSize(entry.count),
-             locale.formattedDataSize(entry.detail.toLongLong()));
+        .arg(nativePath(entry.path), locale.formattedDataSize(entry.count), locale.formattedDataSize(entry.available));
 }
 
 }  // namespace
@@ -79,13 +78,13 @@ QString entryText(const PlanEntry& entry) {
         case PlanEntry::Forbidden:
             return uiText("%1: %2 \"%3\" is no name. Not allowed are %4 and control characters")
                 .arg(entry.camera, uiText(entry.detail), entry.path, QStringLiteral("\\ / : * ? | \" < > %"));
-        case PlanEntry::NameTooLong:
         case PlanEntry::PathTooLong:
             return uiText("%1: %2 (%3)").arg(entry.camera, uiText("The path of the target is too long."), path);
         case PlanEntry::NoFolder:
-            return path.isEmpty() ? uiText("No folder is chosen.") : uiText("There can't be a folder %1.").arg(path);
+            return uiText("%1: %2").arg(entry.camera, path.isEmpty() ? uiText("No folder is chosen.")
+                                                                     : uiText("There can't be a folder %1.").arg(path));
         case PlanEntry::ReadOnly:
-            return uiText("Nothing can be written into %1.").arg(path);
+            return uiText("%1: %2").arg(entry.camera, uiText("Nothing can be written into %1.").arg(path));
         case PlanEntry::NoSpace:
             return spaceText(entry);
         case PlanEntry::NoName:

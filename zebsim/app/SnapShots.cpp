@@ -47,17 +47,28 @@ FileMetadata metadataOf(const SimHost& host, const Camera& camera, const CameraF
                                       : FrameMetadata::live(camera.state(), frame));
 }
 
+/// A snapshot is one picture in one file.
+SaveFormat formatOf(const SimHost& host) {
+    SaveFormat format = chosenFormat([&host](const QString& key) { return host.prefs().value(key); }, Family);
+    format.options.isMultiPage = false;
+    return format.isVideo() ? saveFormats().first() : format;
+}
+
 /// Throws.
 void writePicture(SimHost& host, const CameraFrame& frame, const QImage& image) {
     const DOCKEY key = host.docManager().currentKey();
     const Camera* camera = host.cameras().find(key);
-    const SaveFormat& format = saveFormat(host.prefs().value(Family % QStringLiteral("format")).toString());
+    const SaveFormat format = formatOf(host);
     const QString file = snapShotStem(host, key, QDateTime::currentDateTime()) % QLatin1Char('.') % format.suffix;
     const QString folder = QFileInfo(file).path();
     if (!QDir().mkpath(folder)) {
         throw FileError(folder, TextKey("there can't be such a folder"));
     }
-    writeFile(file, format.encoded(image, camera ? metadataOf(host, *camera, frame) : FileMetadata()), Over::Nothing);
+    const QByteArray bytes = format.encoded(image, camera ? metadataOf(host, *camera, frame) : FileMetadata());
+    if (bytes.isEmpty()) {
+        throw FileError(file, TextKey("the picture has no such form"));
+    }
+    writeFile(file, bytes, Over::Nothing);
 }
 
 void tryToWrite(SimHost& host, const CameraFrame& frame, const QImage& image) {

@@ -87,7 +87,8 @@ QString TargetFields::addFormats(bool withVideo) {
 }
 
 void TargetFields::chooseFormat(const QString& id) {
-    const int index = m_format->findData(id);
+    // It may have been stored under an older name.
+    const int index = m_format->findData(saveFormat(id).id);
     const bool isThere = index >= 0 && (m_format->model()->index(index, 0).flags() & Qt::ItemIsEnabled);
     m_format->setCurrentIndex(isThere ? index : 0);
 }

@@ -30,8 +30,6 @@ QList<FactoryValue> table() {
         {"display/recordRateInsertDelimiter", false},
         {"env/language", text("en")},
         {"env/style", text("light")},
-        {"layout/filename", text("Layout")},
-        {"layout/filenameadddetails", text("number")},
         {"main/scrno", -1},
         {"recording/AutoDownload", true},
         {"recording/RecAllConnectedCamera", false},
@@ -134,18 +132,26 @@ QList<FactoryValue> table() {
 }
 
 /// So that no two cameras get one name, and no save that of another.
-QList<FactoryValue> fileNames(const char* family, int cameraDigits, int headDigits) {
-    const QByteArray prefix(family);
+struct NameFamily {
+    QByteArray prefix;
+    const char* filename = "";
+    const char* details = "name,number";
+    int cameraDigits = 2;
+    int headDigits = 1;
+};
+
+QList<FactoryValue> fileNames(const NameFamily& family) {
+    const QByteArray& prefix = family.prefix;
     const QString pictures = QStandardPaths::writableLocation(QStandardPaths::PicturesLocation);
     return {
         {prefix + "dir", pictures},
-        {prefix + "filename", text("")},
+        {prefix + "filename", text(family.filename)},
         {prefix + "filenameadddetail", true},
-        {prefix + "filenameadddetails", text("name,number")},
+        {prefix + "filenameadddetails", text(family.details)},
         {prefix + "filenameadddetailsconnect", text("_")},
         {prefix + "filenameaddnumber", true},
-        {prefix + "filenameaddnumbercameranodigits", cameraDigits},
-        {prefix + "filenameaddnumberheadnodigits", headDigits},
+        {prefix + "filenameaddnumbercameranodigits", family.cameraDigits},
+        {prefix + "filenameaddnumberheadnodigits", family.headDigits},
         {prefix + "filenameaddnumbersessionnodigits", 3},
         {prefix + "filenameaddtextvalue", text("")},
         {prefix + "filenameseqdigits", 5},
@@ -160,14 +166,14 @@ const QHash<QString, QVariant>& factoryValues() {
         QHash<QString, QVariant> byKey;
         const auto add = [&byKey](const QList<FactoryValue>& entries) {
             for (const FactoryValue& entry : entries) {
+                Q_ASSERT(!byKey.contains(QString::fromLatin1(entry.key)));
                 byKey.insert(QString::fromLatin1(entry.key), entry.value);
             }
         };
-        for (const char* family : {"export/", "snap/"}) {
-            add(fileNames(family, 2, 1));
-        }
+        add(fileNames({"export/"}));
+        add(fileNames({"snap/"}));
         // Of many cameras none stands in the name.
-        add(fileNames("layout/", 0, 0));
+        add(fileNames({"layout/", "Layout", "number", 0, 0}));
         add(table());
         return byKey;
     }();

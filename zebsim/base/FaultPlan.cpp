@@ -65,8 +65,8 @@ Fault FaultPlan::meet(DOCKEY key, const char* operation) {
     const auto faults = m_faults.value(key);
     const QString name = QString::fromLatin1(operation);
     Fault fault = faults.contains(name) ? faults.value(name) : faults.value(everyOperation);
-    if (fault.written > 0) {
-        --m_faults[key][faults.contains(name) ? name : everyOperation].written;
+    if (fault.afterCalls > 0) {
+        --m_faults[key][faults.contains(name) ? name : everyOperation].afterCalls;
         fault = {};
     }
     if (m_faultyCall > 0) {

@@ -22,7 +22,7 @@ struct Fault {
     /// The camera is gone from the moment the operation is called; with the operation "*" at once.
     bool gone = false;
     /// So many calls meet no fault before.
-    int written = 0;
+    int afterCalls = 0;
 
     bool isEmpty() const { return throws.isEmpty() && delay <= 0 && !gone; }
 };
@@ -44,8 +44,8 @@ public:
     /// Plants a fault in the place of an earlier one. An empty fault takes it away, and brings a camera back that it
     /// had made gone.
     void plant(DOCKEY key, const QString& operation, const Fault& fault);
-    /// Plants a fault on the call number `call` of those that cameras, hubs and the host get from now on, counted
-    /// from 1.
+    /// Plants a fault on the call number `call` of those that cameras, hubs, the host and the disk get from now on,
+    /// counted from 1.
     void plantAt(int call, const Fault& fault);
     /// One of those calls.
     struct Call {

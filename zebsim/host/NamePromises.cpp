@@ -1,5 +1,7 @@
 #include "NamePromises.h"
 
+#include "TargetDisk.h"
+
 #include <QDir>
 
 #include <algorithm>
@@ -9,7 +11,7 @@ void NamePromises::promise(const QString& path) {
         const QString clean = QDir::cleanPath(path);
         Promised& promised = m_saves[m_last];
         promised.folders.insert(clean.left(clean.lastIndexOf(QLatin1Char('/')) + 1));
-        promised.paths.insert(clean);
+        promised.paths.insert(fileKey(clean));
     }
 }
 
@@ -25,7 +27,7 @@ bool NamePromises::isFolderTaken(const QString& path) const {
 }
 
 bool NamePromises::isPathTaken(const QString& path) const {
-    const QString clean = QDir::cleanPath(path);
+    const QString clean = fileKey(QDir::cleanPath(path));
     return std::any_of(m_saves.begin(), m_saves.end(),
                        [&clean](const Promised& save) { return save.paths.contains(clean); });
 }

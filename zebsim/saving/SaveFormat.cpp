@@ -56,3 +56,21 @@ const SaveFormat& saveFormat(const QString& id) {
                                     [&](const SaveFormat& format) { return format.id == wanted; });
     return found == saveFormats().end() ? saveFormats().first() : *found;
 }
+
+SaveFormat chosenFormat(const PrefReader& pref, const QString& family) {
+    static const QHash<QString, TiffCompression> compressions = {{QStringLiteral("none"), TiffCompression::None},
+                                                                 {QStringLiteral("deflate"), TiffCompression::Deflate}};
+    SaveFormat format = saveFormat(pref(family % QStringLiteral("format")).toString());
+    const auto option = [&](const char* suffix) {
+        return pref(family % format.id % QLatin1Char('/') % QLatin1String(suffix));
+    };
+    PictureOptions& options = format.options;
+    options.depth = option("depth").toInt() == 16 ? 16 : 8;
+    options.isMultiPage = option("multipage").toBool();
+    options.compression = option("packbits").toBool()
+                              ? TiffCompression::PackBits
+                              : compressions.value(option("compression").toString(), options.compression);
+    const QVariant quality = option("compressquality");
+    options.jpegQuality = quality.isValid() ? qBound(0, quality.toInt(), 100) : options.jpegQuality;
+    return format;
+}

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "FileMetadata.h"
+#include "NameFamilies.h"
 #include "PictureOptions.h"
 
 #include <QByteArray>
@@ -28,3 +29,5 @@ struct SaveFormat {
 const QList<SaveFormat>& saveFormats();
 /// The first for an unknown id; "video" is MP4.
 const SaveFormat& saveFormat(const QString& id);
+/// The one that the preferences of `family`, as "export/", choose, with its options.
+SaveFormat chosenFormat(const PrefReader& pref, const QString& family);

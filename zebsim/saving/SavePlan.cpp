@@ -37,25 +37,22 @@ public:
     Planner(SavePlan& plan, TargetDisk& disk) : m_plan(plan), m_disk(disk) {}
 
     void look(const TrackTarget& target, const SaveTrack& track, qint64 bytes) {
-        m_name = track.name;
         m_plan.entries += faultsOf(target, track.name);
         if (!QDir::isAbsolutePath(target.root)) {
             return;
         }
-        lookAtFolder(target.folder(), bytes);
+        lookAtFolder(track.name, target.folder(), bytes);
         lookAtLength(track);
-        lookForOthers(track);
+        lookForOthers(target, track);
         lookForOld(target, track);
     }
 
     void lookAtSpace() {
         for (auto fileSystem = m_space.begin(); fileSystem != m_space.end(); ++fileSystem) {
             if (fileSystem->needed > fileSystem->available) {
-                m_plan.entries.append({PlanEntry::NoSpace,
-                                       {},
-                                       fileSystem->folder,
-                                       fileSystem->needed,
-                                       QString::number(fileSystem->available)});
+                PlanEntry entry{PlanEntry::NoSpace, {}, fileSystem->folder, fileSystem->needed};
+                entry.available = fileSystem->available;
+                m_plan.entries.append(entry);
             }
         }
     }
@@ -67,43 +64,45 @@ private:
         qint64 available = 0;
     };
 
-    void add(PlanEntry::Kind kind, const QString& path, qint64 count = 0, const QString& detail = {}) {
-        m_plan.entries.append({kind, m_name, path, count, detail});
+    /// `camera` is empty for what concerns all.
+    void add(PlanEntry::Kind kind, const QString& camera, const QString& path, qint64 count = 0,
+             const QString& detail = {}) {
+        m_plan.entries.append({kind, camera, path, count, detail});
     }
 
-    void lookAtFolder(const QString& path, qint64 bytes) {
+    void lookAtFolder(const QString& camera, const QString& path, qint64 bytes) {
         const TargetDisk::Folder folder = m_disk.folder(path);
-        Space& space = m_space[folder.fileSystem];
-        space.folder = space.folder.isEmpty() ? path : space.folder;
-        space.needed += bytes;
-        space.available = folder.available;
+        if (folder.state != TargetDisk::Folder::Impossible) {
+            Space& space = m_space[folder.fileSystem];
+            space.folder = space.folder.isEmpty() ? path : space.folder;
+            space.needed += bytes;
+            space.available = folder.available;
+        }
         if (m_folders.contains(path)) {
             return;
         }
         m_folders.insert(path);
         const int there = m_disk.namesIn(path).size();
-        m_name.clear();
         switch (folder.state) {
             case TargetDisk::Folder::There:
                 if (there > 0) {
-                    add(PlanEntry::FolderHoldsFiles, path, there);
+                    add(PlanEntry::FolderHoldsFiles, {}, path, there);
                 }
                 break;
             case TargetDisk::Folder::IsMade:
-                add(PlanEntry::FolderIsMade, path);
+                add(PlanEntry::FolderIsMade, {}, path);
                 break;
             case TargetDisk::Folder::ReadOnly:
-                add(PlanEntry::ReadOnly, path);
+                add(PlanEntry::ReadOnly, camera, path);
                 break;
             case TargetDisk::Folder::Impossible:
-                add(PlanEntry::NoFolder, path);
+                add(PlanEntry::NoFolder, camera, path);
                 break;
         }
     }
 
     /// The longest number stands at an end of the range.
     void lookAtLength(const SaveTrack& track) {
-        m_name = track.name;
         int longest = 0;
         QString file;
         for (const int index : {track.from, track.frames() - 1}) {
@@ -117,17 +116,17 @@ private:
         const bool isLong = std::any_of(parts.begin(), parts.end(),
                                         [](const QString& part) { return bytesIn(part) > MostBytesOfName; });
         if (isLong || longest > MostBytesOfPath) {
-            add(isLong ? PlanEntry::NameTooLong : PlanEntry::PathTooLong, file);
+            add(PlanEntry::PathTooLong, track.name, file);
         }
     }
 
-    /// As a file system sees it that does not know small letters from large ones.
-    void lookForOthers(const SaveTrack& track) {
-        const QString key = track.stem.normalized(QString::NormalizationForm_C).toCaseFolded();
+    /// Two ways to one folder lead to one file.
+    void lookForOthers(const TrackTarget& target, const SaveTrack& track) {
+        const QString key = fileKey(m_disk.canonical(target.folder()) % target.name);
         const auto other = m_stems.find(key);
         if (other != m_stems.end()) {
-            add(PlanEntry::WrittenTwice, fileOf(track, m_plan.orders.format, m_plan.orders.digits, track.from), 0,
-                *other);
+            add(PlanEntry::WrittenTwice, track.name,
+                fileOf(track, m_plan.orders.format, m_plan.orders.digits, track.from), 0, *other);
         } else {
             m_stems.insert(key, track.name);
         }
@@ -143,7 +142,8 @@ private:
         for (auto name = own.keyBegin(); name != own.keyEnd(); ++name) {
             m_plan.orders.mayReplace.insert(target.folder() + *name);
         }
-        add(PlanEntry::Exists, fileOf(track, m_plan.orders.format, m_plan.orders.digits, first), own.size());
+        add(PlanEntry::Exists, track.name, fileOf(track, m_plan.orders.format, m_plan.orders.digits, first),
+            own.size());
     }
 
     /// Those of `names` that the track would write, each with the index of its frame.
@@ -165,8 +165,6 @@ private:
 
     SavePlan& m_plan;
     TargetDisk& m_disk;
-    /// Of the track at work; empty for what concerns all.
-    QString m_name;
     QHash<QByteArray, Space> m_space;
     QSet<QString> m_folders;
     QHash<QString, QString> m_stems;

@@ -31,14 +31,13 @@ struct PlanEntry {
         // To be agreed to.
         Exists,
         LeftOut,
+        NoSpace,
         // Nothing is written as long as one of these stands.
         WrittenTwice,
         Forbidden,
-        NameTooLong,
         PathTooLong,
         NoFolder,
         ReadOnly,
-        NoSpace,
         NoName
     };
     Kind kind = Exists;
@@ -48,11 +47,13 @@ struct PlanEntry {
     QString path;
     /// Files, or bytes that are needed.
     qint64 count = 0;
-    /// What else is to be told: a field, a reason.
-    QString detail;
+    /// What else is to be told: a field, a reason, another camera.
+    QString detail = {};
+    /// Bytes that there is room for.
+    qint64 available = 0;
 
     bool isBlocking() const { return kind >= WrittenTwice; }
-    bool isQuestion() const { return kind == Exists || kind == LeftOut; }
+    bool isQuestion() const { return kind >= Exists && !isBlocking(); }
 };
 
 /// What stands against the names of `camera`: a root that is no path, an empty name, a part that is no name.

@@ -22,6 +22,10 @@ QFileInfo nearest(const QString& path) {
 
 }  // namespace
 
+QString fileKey(const QString& path) {
+    return path.normalized(QString::NormalizationForm_C).toCaseFolded();
+}
+
 TargetDisk::Folder RealDisk::folder(const QString& path) {
     const QFileInfo there = nearest(path);
     const QStorageInfo storage(there.filePath());
@@ -34,6 +38,11 @@ TargetDisk::Folder RealDisk::folder(const QString& path) {
         folder.state = Folder::IsMade;
     }
     return folder;
+}
+
+QString RealDisk::canonical(const QString& folder) {
+    const QFileInfo there = nearest(folder);
+    return there.canonicalFilePath() % QDir::cleanPath(folder).mid(there.filePath().size()) % QLatin1Char('/');
 }
 
 const QStringList& RealDisk::namesIn(const QString& folder) {

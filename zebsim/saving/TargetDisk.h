@@ -7,6 +7,10 @@
 
 #include <map>
 
+/// What two paths have in common that lead to one file, at least on a system that does not know small letters from
+/// large ones, nor a letter with its accent from the two of them.
+QString fileKey(const QString& path);
+
 /// What of a disk decides where files can be written.
 class TargetDisk {
 public:
@@ -21,6 +25,8 @@ public:
         qint64 available = 0;
     };
     virtual Folder folder(const QString& path) = 0;
+    /// The folder itself, whatever links lead to it, with a '/' at its end.
+    virtual QString canonical(const QString& folder) = 0;
     /// All that a folder holds, hidden files and broken links too, in the order of `operator<`; empty when it is not
     /// there.
     virtual const QStringList& namesIn(const QString& folder) = 0;
@@ -30,6 +36,7 @@ public:
 class RealDisk : public TargetDisk {
 public:
     Folder folder(const QString& path) override;
+    QString canonical(const QString& folder) override;
     const QStringList& namesIn(const QString& folder) override;
 
 private:

@@ -16,7 +16,7 @@ Fault faultOf(const QVariantMap& members) {
         } else if (member.key() == QLatin1String("gone")) {
             fault.gone = member->toBool();
         } else if (member.key() == QLatin1String("written")) {
-            fault.written = member->toInt();
+            fault.afterCalls = member->toInt();
         } else {
             throw ScenarioError(QStringLiteral("a fault has throws, delay, gone or written, not %1").arg(member.key()));
         }

@@ -83,7 +83,13 @@ QVariantList FileScripting::list(const QString& folder) const {
     QVariantList files;
     const QFileInfoList found = QDir(whole(folder)).entryInfoList(QDir::Files | QDir::Hidden, QDir::Name);
     for (const QFileInfo& file : found) {
-        QVariantMap entry{{QStringLiteral("name"), file.fileName()}, {QStringLiteral("size"), double(file.size())}};
+        QFile bytes(file.filePath());
+        bytes.open(QIODevice::ReadOnly);
+        QCryptographicHash sum(QCryptographicHash::Md5);
+        sum.addData(&bytes);
+        QVariantMap entry{{QStringLiteral("name"), file.fileName()},
+                          {QStringLiteral("size"), double(file.size())},
+                          {QStringLiteral("checksum"), QString::fromLatin1(sum.result().toHex())}};
         QImageReader reader(file.filePath());
         if (reader.canRead()) {
             QVariantMap texts;

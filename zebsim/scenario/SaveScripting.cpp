@@ -12,6 +12,7 @@
 #include <QElapsedTimer>
 #include <QLineEdit>
 #include <QPointer>
+#include <QRegularExpression>
 
 namespace {
 
@@ -40,6 +41,13 @@ void choose(QComboBox& box, const QString& format) {
         throw ScenarioError(QStringLiteral("the format \"%1\" can't be written here").arg(format));
     }
     box.setCurrentIndex(index);
+}
+
+/// Suffixes of preferences that names and formats go by.
+bool isOption(const QString& member) {
+    static const QRegularExpression options(
+        QStringLiteral("^(filename|groupdir|subdir)[a-z]*$|^(png|tiff|jpeg)/[a-z]+$|^(singlepath|multipath[a-z]+)$"));
+    return options.match(member).hasMatch();
 }
 
 QVariantMap plainPlan(const SavePlan& plan) {
@@ -90,15 +98,18 @@ void SaveScripting::serve(QDialog& dialog) {
     }
 }
 
-void SaveScripting::serveDialog(SaveDialog& dialog, const QVariantMap& target) {
+void SaveScripting::serveDialog(SaveDialog& dialog, QVariantMap target) {
     m_agrees = target.value(Agree, true).toBool();
+    target.remove(Agree);
     try {
         for (auto member = target.begin(); member != target.end(); ++member) {
             if (member.key() == Folder) {
                 dialog.findChild<QLineEdit*>(Folder)->setText(member->toString());
             } else if (member.key() == Format) {
                 choose(*dialog.findChild<QComboBox*>(Format), saveFormat(member->toString()).id);
-            } else if (member.key() != Agree) {
+            } else if (!isOption(member.key())) {
+                throw ScenarioError(QStringLiteral("a save has no option %1").arg(member.key()));
+            } else {
                 dialog.setOption(member.key(), *member);
             }
         }
@@ -123,7 +134,7 @@ QVariantMap SaveScripting::plan() {
     return plainPlan(dialog->plan());
 }
 
-QStringList SaveScripting::results(const std::function<bool()>& givenUp) {
+QStringList SaveScripting::results(const std::function<bool()>& givenUp, bool close) {
     const QPointer<SaveProgress> progress = standingProgress();
     if (progress.isNull()) {
         throw ScenarioError(QStringLiteral("nothing is being saved"));
@@ -132,6 +143,9 @@ QStringList SaveScripting::results(const std::function<bool()>& givenUp) {
         throw ScenarioError(QStringLiteral("the save has not come to its end"));
     }
     const QStringList lines = progress->lines();
+    if (!close) {
+        return lines;
+    }
     progress->close();
     // The window before comes to the front, which keys and signals ask for.
     QElapsedTimer asked;

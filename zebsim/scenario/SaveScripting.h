@@ -26,12 +26,12 @@ public:
     /// The plan that stands, as plain data. Throws `ScenarioError` when there is none.
     static QVariantMap plan();
 
-    /// Waits for the end of what is being saved, answers the lines of the list of results, and closes it. Throws
-    /// `ScenarioError` when nothing was saved, or `givenUp` came first.
-    static QStringList results(const std::function<bool()>& givenUp);
+    /// Waits for the end of what is being saved, answers the lines of the list of results, and closes it if it is to.
+    /// Throws `ScenarioError` when nothing was saved, or `givenUp` came first.
+    static QStringList results(const std::function<bool()>& givenUp, bool close = true);
 
 private:
-    void serveDialog(SaveDialog& dialog, const QVariantMap& target);
+    void serveDialog(SaveDialog& dialog, QVariantMap target);
 
     QList<QVariantMap> m_orders;
     /// Of the plan that the last dialog served shows.

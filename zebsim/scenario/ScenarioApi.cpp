@@ -248,6 +248,10 @@ void ScenarioApi::save(const QVariantMap& target) {
     guarded([&] { m_dialogs.saves().order(target); });
 }
 
+QJSValue ScenarioApi::saved() {
+    return guarded([&] { return plain(SaveScripting::results(m_givenUp, false)); });
+}
+
 QJSValue ScenarioApi::plan() {
     return guarded([&] { return plain(SaveScripting::plan()); });
 }
@@ -286,7 +290,11 @@ void ScenarioApi::popup(const QJSValue& text) {
 }
 
 void ScenarioApi::push(const QString& text, const QString& row) {
-    guarded([&] { pushButton(ScenarioDialogs::standing(), text, row); });
+    guarded([&] {
+        pushButton(ScenarioDialogs::standing(), text, row);
+        // What it brings about may come a turn later.
+        letPass(1, m_givenUp);
+    });
 }
 
 void ScenarioApi::notices(bool stand) {

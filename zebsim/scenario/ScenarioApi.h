@@ -66,6 +66,7 @@ public:
     Q_INVOKABLE void answers(const QStringList& texts);
     Q_INVOKABLE void save(const QVariantMap& target = {});
     Q_INVOKABLE QJSValue plan();
+    Q_INVOKABLE QJSValue saved();
     Q_INVOKABLE QJSValue files(const QString& folder);
     Q_INVOKABLE QJSValue results();
     /// `path` is a text, or null.

@@ -17,7 +17,7 @@ public:
         return ask(OPERATION("getDeviceAlias"), &CameraState::alias);
     }
     QString getDeviceName(int /*mode*/) const override { return ask(OPERATION("getDeviceName"), &CameraModel::name); }
-    int getDeviceNumber() const override { return m_host.cameras.deviceNumberOf(ask(OPERATION("getDeviceNumber"))); }
+    int getDeviceNumber() const override { return m_host.cameras.deviceNumberOf(m_camera); }
     int getHeadNumber() const override { return ask(OPERATION("getHeadNumber")).headNumber(); }
     bool isDummy() const override { return ask(OPERATION("isDummy"), &CameraModel::dummy); }
     int getWifiState() const override { return ask(OPERATION("getWifiState"), &CameraState::wifi) ? 1 : 0; }

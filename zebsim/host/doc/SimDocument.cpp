@@ -32,17 +32,15 @@ DocList SimDocument::getHeadDocs(int /*mode*/) {
 }
 
 bool SimDocument::isMemoryData() const {
-    ask(OPERATION("isMemoryData"));
     return m_host.appStatus.mode() == zeb::MemoryMode;
 }
 
 QList<PARTITIONNUMBER> SimDocument::getPartitionList() const {
-    const Camera& camera = askConnected(OPERATION("getPartitionList"));
     if (m_host.appStatus.mode() == zeb::LiveMode) {
-        return {camera.get(&CameraState::partition)};
+        return {m_camera.get(&CameraState::partition)};
     }
     QList<PARTITIONNUMBER> partitions;
-    for (const Recording& recording : camera.recordings()) {
+    for (const Recording& recording : m_camera.recordings()) {
         partitions.append(recording.partition);
     }
     return partitions;

@@ -41,10 +41,10 @@ public:
     }
     QString getDisplayName() const override { return ask(OPERATION("getDisplayName"), &CameraState::name); }
     DocList getHeadDocs(int mode) override;
-    int getHeadCount() const override { return int(ask(OPERATION("getHeadCount")).device().heads().size()); }
+    int getHeadCount() const override { return int(m_camera.device().heads().size()); }
     /// Every document is a camera's.
     QString getSourceFilePath() const override { return {}; }
-    QString getOriginalName() const override { return ask(OPERATION("getOriginalName"), &CameraState::name); }
+    QString getOriginalName() const override { return m_camera.name(); }
     bool isMemoryData() const override;
     /// In live mode the one in use, whatever it holds.
     QList<PARTITIONNUMBER> getPartitionList() const override;

@@ -8,6 +8,7 @@ class SimHead : public DocTopic<DOC_Head> {
 public:
     using DocTopic::DocTopic;
 
+    // These are known to the host, and no camera is asked.
     int getDeviceCount() const override;
     /// As the preferences of the family say it, see `FileNameDetails.h`.
     zeb::FileNameDetails getFileNameDetails(int type, PARTITIONNUMBER partition, int session,
