@@ -67,9 +67,10 @@ const asking = plan({filenameadddetails: 'name', filename: 'Roof', filenameaddnu
 check(!asking.possible, 'two of one name');
 const ROOF = {filenameadddetails: 'text', filenameaddtextvalue: 'C04H1S001', filenameaddnumber: false, filename: 'Roof'};
 zeb.keys().filter(key => zeb.camera(key).name !== 'Roof').forEach(key => zeb.setCamera(key, {connected: false}));
+zeb.setCamera(5, {name: 'Other'});    // the pictures show it
 const again = plan(ROOF);
 same(again.entries.filter(entry => entry.asks).map(entry => entry.text),
-    [`Roof: 3 files exist already and are replaced, the first is ${within('Roof_C04H1S001_-00001.png')}`], 'what is replaced');
+    [`Other: 3 files exist already and are replaced, the first is ${within('Roof_C04H1S001_-00001.png')}`], 'what is replaced');
 check(JSON.stringify(contents(old)) === JSON.stringify(before), 'nothing is written by a plan that is gone back from');
 save(ROOF);
 same(zeb.results().length, 1, 'agreed to');
