@@ -1,6 +1,8 @@
 #include "PlanDialog.h"
 
+#include "FreshKeys.h"
 #include "SaveFilesModel.h"
+#include "SaveFilesView.h"
 #include "SaveTexts.h"
 #include "UiText.h"
 
@@ -10,7 +12,6 @@
 #include <QLocale>
 #include <QPushButton>
 #include <QStyle>
-#include <QTreeView>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -79,10 +80,8 @@ QTreeView* PlanDialog::makeFiles() {
         lines << plannedText(m_plan, i);
     }
     model->setLines({}, lines);
-    auto* files = new QTreeView(this);
+    auto* files = new SaveFilesView(this);
     files->setObjectName(QStringLiteral("files"));
-    files->setHeaderHidden(true);
-    files->setUniformRowHeights(true);
     files->setModel(model);
     return files;
 }
@@ -100,4 +99,5 @@ void PlanDialog::addButtons() {
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     layout()->addWidget(buttons);
+    takeFreshKeysOnly(*this);
 }

@@ -1,6 +1,9 @@
 #include "SaveProgress.h"
 
+#include "FreshKeys.h"
+#include "SaveAgain.h"
 #include "SaveFilesModel.h"
+#include "SaveFilesView.h"
 #include "SaveTexts.h"
 #include "UiText.h"
 
@@ -8,7 +11,7 @@
 #include <QLabel>
 #include <QProgressBar>
 #include <QPushButton>
-#include <QTreeView>
+#include <QTimer>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -18,22 +21,12 @@ namespace {
 
 /// Of the bar; frames can be more than it counts.
 constexpr int Steps = 1000;
+/// Of a button that means something else from now on.
+constexpr int RestMs = 700;
 
 /// Frames of a track that are to be saved.
 int framesOf(const SaveTrack& track) {
     return track.frames() - track.from;
-}
-
-/// What failed of a job that has ended, from where it stopped on; one file of all frames begins anew.
-std::vector<SaveTrack> failedTracks(const SaveJob& job) {
-    std::vector<SaveTrack> failed;
-    for (const SaveOutcome& outcome : job.outcomes()) {
-        if (outcome.track >= 0 && outcome.end != SaveOutcome::Saved) {
-            failed.push_back(job.orders().tracks[std::size_t(outcome.track)]);
-            failed.back().from += job.orders().format.isOneFile() ? 0 : outcome.saved;
-        }
-    }
-    return failed;
 }
 
 /// Whether a file of a track stands on the disk, as far as is known by now.
@@ -60,7 +53,7 @@ SaveProgress::SaveProgress(SaveJob& job, QWidget* parent)
       m_bar(new QProgressBar(this)),
       m_model(new SaveFilesModel(
           job.orders(), [this](int track, int file) { return stateOf(m_job, track, file); }, this)),
-      m_files(new QTreeView(this)),
+      m_files(new SaveFilesView(this)),
       m_again(new QPushButton(uiText("Save again what failed"), this)),
       m_button(new QPushButton(uiText("Cancel"), this)) {
     setWindowTitle(uiText("Saving"));
@@ -86,9 +79,6 @@ void SaveProgress::addWidgets() {
     m_again->hide();
     m_bar->setMaximum(Steps);
     m_files->setObjectName(QStringLiteral("outcomes"));
-    m_files->setHeaderHidden(true);
-    m_files->setWordWrap(true);
-    m_files->setSelectionMode(QAbstractItemView::NoSelection);
     m_files->setMinimumSize(100 * fontMetrics().averageCharWidth(), 12 * fontMetrics().height());
     m_files->setModel(m_model);
     auto* buttons = new QHBoxLayout;
@@ -100,6 +90,7 @@ void SaveProgress::addWidgets() {
     layout->addWidget(m_bar);
     layout->addWidget(m_files, 1);
     layout->addLayout(buttons);
+    takeFreshKeysOnly(*this);
 }
 
 bool SaveProgress::isFinished() const {
@@ -126,7 +117,7 @@ void SaveProgress::press() {
 
 void SaveProgress::again() {
     if (m_job && !m_job->isRunning()) {
-        Q_EMIT againWanted(failedTracks(*m_job));
+        Q_EMIT againWanted(tracksToSaveAgain(m_job->orders(), m_job->outcomes()));
     }
 }
 
@@ -149,8 +140,12 @@ void SaveProgress::showCourse() {
                           QString::number(framesOf(tracks[i])));
     }
     m_model->setLines(m_job->orders().absent, lines);
-    m_bar->setValue(int(done * Steps / std::max<qint64>(1, m_frames)));
+    showShare(done);
     m_at->setText(uiText("%1 of %2 frames are written.").arg(QString::number(done), QString::number(m_frames)));
+}
+
+void SaveProgress::showShare(qint64 done) {
+    m_bar->setValue(int(done * Steps / std::max<qint64>(1, m_frames)));
 }
 
 void SaveProgress::showOutcomes() {
@@ -161,13 +156,22 @@ void SaveProgress::showOutcomes() {
         (outcome.track < 0 ? before : lines) << outcomeText(outcome, m_job->orders());
     }
     m_model->setLines(before, lines);
+    // A line of several rows needs its height.
+    m_files->doItemsLayout();
     const bool isAllSaved = std::all_of(outcomes.begin(), outcomes.end(),
                                         [](const SaveOutcome& outcome) { return outcome.end == SaveOutcome::Saved; });
-    if (isAllSaved) {
-        m_bar->setValue(m_bar->maximum());
-    }
+    const std::vector<int> saved = m_job->state().saved;
+    showShare(std::accumulate(saved.begin(), saved.end(), qint64(0)));
     m_at->setText(isAllSaved ? uiText("Everything is saved.") : uiText("Not everything is saved."));
-    m_again->setVisible(!failedTracks(*m_job).empty());
+    m_again->setVisible(!tracksToSaveAgain(m_job->orders(), outcomes).empty());
     m_button->setText(uiText("Close"));
     m_button->setDefault(true);
+    if (!isAllSaved) {
+        // Whoever was about to cancel has not seen it yet.
+        m_button->setEnabled(false);
+        QTimer::singleShot(RestMs, m_button, [this] {
+            m_button->setEnabled(true);
+            m_button->setFocus();
+        });
+    }
 }

@@ -8,8 +8,8 @@
 class QLabel;
 class QProgressBar;
 class QPushButton;
-class QTreeView;
 class SaveFilesModel;
+class SaveFilesView;
 class SaveJob;
 struct SaveTrack;
 
@@ -40,13 +40,14 @@ private:
     void again();
     void follow();
     void showCourse();
+    void showShare(qint64 done);
     void showOutcomes();
 
     QPointer<SaveJob> m_job;
     QLabel* m_at;
     QProgressBar* m_bar;
     SaveFilesModel* m_model;
-    QTreeView* m_files;
+    SaveFilesView* m_files;
     QPushButton* m_again;
     QPushButton* m_button;
     /// Of all tracks.

@@ -28,7 +28,10 @@ QString spaceText(const PlanEntry& entry) {
 
 QString outcomeText(const SaveOutcome& outcome, const SaveOrders& orders) {
     const QString& name = outcome.name;
-    const QString saved = QString::number(outcome.saved);
+    const SaveTrack* track = outcome.track < 0 ? nullptr : &orders.tracks[std::size_t(outcome.track)];
+    // Those that stood there before are saved too.
+    const int all = outcome.saved + (track ? track->from : 0);
+    const QString saved = QString::number(all);
     const QString left = QString::number(outcome.frames - outcome.saved);
     switch (outcome.end) {
         case SaveOutcome::Absent:
@@ -36,12 +39,13 @@ QString outcomeText(const SaveOutcome& outcome, const SaveOrders& orders) {
         case SaveOutcome::Saved:
             return uiText("%1: %2 frames saved in %3").arg(name, saved, folderOf(orders, outcome.track));
         case SaveOutcome::CameraLost:
-            if (outcome.saved == 0) {
+            if (all == 0) {
                 return uiText("%1: camera lost before its first frame, %2 frames not saved (%3)")
                     .arg(name, left, uiText(outcome.reason));
             }
             return uiText("%1: camera lost after frame %2, %3 frames not saved (%4)")
-                .arg(name, QString::number(outcome.lastNumber), left, uiText(outcome.reason));
+                .arg(name, QString::number(track ? track->number(all - 1) : outcome.lastNumber), left,
+                     uiText(outcome.reason));
         case SaveOutcome::FileFailed:
             return uiText("%1: %2 can't be written, %3 frames not saved (%4)")
                 .arg(name, QDir::toNativeSeparators(outcome.file), left, uiText(outcome.reason));
@@ -87,6 +91,8 @@ QString entryText(const PlanEntry& entry) {
             return uiText("%1: %2").arg(entry.camera, uiText("Nothing can be written into %1.").arg(path));
         case PlanEntry::NoSpace:
             return spaceText(entry);
+        case PlanEntry::NoFile:
+            return uiText("%1: %2 is there and is no file that could be replaced").arg(entry.camera, path);
         case PlanEntry::NoName:
             return uiText("%1: %2").arg(entry.camera, uiText(entry.detail));
     }

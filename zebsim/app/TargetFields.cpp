@@ -105,7 +105,11 @@ bool TargetFields::isComplete() const {
 }
 
 QString TargetFields::folder() const {
-    return QDir::fromNativeSeparators(m_folder->text().trimmed());
+    QString folder = QDir::fromNativeSeparators(m_folder->text().trimmed());
+    if (folder == QLatin1String("~") || folder.startsWith(QLatin1String("~/"))) {
+        folder.replace(0, 1, QDir::homePath());
+    }
+    return folder;
 }
 
 void TargetFields::setFolder(const QString& folder) {

@@ -2419,5 +2419,9 @@
         <source>The camera has disappeared. Its name and comment stay as they were.</source>
         <translation>カメラがなくなりました。名前とコメントは変更されていません。</translation>
     </message>
+    <message>
+        <source>%1: %2 is there and is no file that could be replaced</source>
+        <translation>%1：%2 は既に存在し、置き換えられるファイルではありません</translation>
+    </message>
 </context>
 </TS>

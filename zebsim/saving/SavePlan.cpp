@@ -2,6 +2,7 @@
 
 #include "FileNameRules.h"
 #include "TargetDisk.h"
+#include "TargetPaths.h"
 #include "TextKey.h"
 
 #include <QDir>
@@ -140,7 +141,12 @@ private:
         }
         const int first = *std::min_element(own.begin(), own.end());
         for (auto name = own.keyBegin(); name != own.keyEnd(); ++name) {
-            m_plan.orders.mayReplace.insert(target.folder() + *name);
+            const QString path = target.folder() + *name;
+            if (!m_disk.isPlainFile(path)) {
+                add(PlanEntry::NoFile, track.name, path);
+                return;
+            }
+            m_plan.orders.mayReplace.insert(path);
         }
         add(PlanEntry::Exists, track.name, fileOf(track, m_plan.orders.format, m_plan.orders.digits, first),
             own.size());
@@ -178,6 +184,17 @@ double bytesInPixel(const SaveOrders& orders) {
 }
 
 }  // namespace
+
+TrackTarget TrackTarget::of(NameSource& source, zeb::FileType type, const NamedDocument& document,
+                            const QDateTime& time) {
+    TargetPaths paths;
+    composeTargets(source, type, &document, true, time, 0, paths);
+    const QString folder = paths.folders.first();
+    const TrackTarget target{rootFolder(source, type, &document), paths.groups.value(paths.folders.firstKey()),
+                             paths.subs.first(), paths.paths.first().mid(folder.size())};
+    // All go into a substitute folder, whatever their own.
+    return target.folder() == folder ? target : TrackTarget{folder, {}, {}, target.name};
+}
 
 QString TrackTarget::folder() const {
     QString path = root;

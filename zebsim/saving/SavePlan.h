@@ -6,6 +6,9 @@
 #include <QString>
 #include <QStringList>
 
+class NameSource;
+class NamedDocument;
+class QDateTime;
 class TargetDisk;
 
 /// Where the files of a track go, part by part, as its names were composed.
@@ -16,6 +19,9 @@ struct TrackTarget {
     QString sub;
     /// What the files' names begin with.
     QString name;
+
+    /// That of the first partition of `document`, as `composeTargets` composes it. Throws as it does.
+    static TrackTarget of(NameSource& source, zeb::FileType type, const NamedDocument& document, const QDateTime& time);
 
     /// Ends in '/'.
     QString folder() const;
@@ -38,6 +44,7 @@ struct PlanEntry {
         PathTooLong,
         NoFolder,
         ReadOnly,
+        NoFile,
         NoName
     };
     Kind kind = Exists;

@@ -19,6 +19,8 @@ struct SaveTrack {
     QString stem = {};
     /// Index of the first frame to be saved; those before it stand in files.
     int from = 0;
+    /// Frames in the one file that stands there; a shorter one does not take its place.
+    int least = 0;
 
     /// Of the longest range, those before `from` too.
     int frames() const;

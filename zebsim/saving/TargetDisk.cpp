@@ -45,6 +45,11 @@ QString RealDisk::canonical(const QString& folder) {
     return there.canonicalFilePath() % QDir::cleanPath(folder).mid(there.filePath().size()) % QLatin1Char('/');
 }
 
+bool RealDisk::isPlainFile(const QString& path) {
+    const QFileInfo there(path);
+    return there.isFile() && !there.isSymLink();
+}
+
 const QStringList& RealDisk::namesIn(const QString& folder) {
     const auto [entry, isNew] = m_names.try_emplace(QDir::cleanPath(folder));
     if (isNew) {

@@ -27,6 +27,8 @@ public:
     virtual Folder folder(const QString& path) = 0;
     /// The folder itself, whatever links lead to it, with a '/' at its end.
     virtual QString canonical(const QString& folder) = 0;
+    /// Whether a file itself stands there, and neither a folder, a link, a pipe nor a device.
+    virtual bool isPlainFile(const QString& path) = 0;
     /// All that a folder holds, hidden files and broken links too, in the order of `operator<`; empty when it is not
     /// there.
     virtual const QStringList& namesIn(const QString& folder) = 0;
@@ -37,6 +39,7 @@ class RealDisk : public TargetDisk {
 public:
     Folder folder(const QString& path) override;
     QString canonical(const QString& folder) override;
+    bool isPlainFile(const QString& path) override;
     const QStringList& namesIn(const QString& folder) override;
 
 private:

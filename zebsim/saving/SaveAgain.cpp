@@ -1,0 +1,39 @@
+#include "SaveAgain.h"
+
+#include <QFileInfo>
+
+#include <algorithm>
+
+namespace {
+
+/// Somebody may have taken away what was written.
+int firstMissing(const SaveOrders& orders, const SaveTrack& track, int end) {
+    int index = 0;
+    while (index < end && QFileInfo(fileOf(track, orders.format, orders.digits, index)).size() > 0) {
+        ++index;
+    }
+    return index;
+}
+
+SaveTrack rest(const SaveOrders& orders, const SaveOutcome& outcome) {
+    SaveTrack track = orders.tracks[std::size_t(outcome.track)];
+    const bool isWhole = orders.format.isOneFile() || track.isLayout;
+    track.least = orders.format.isOneFile() ? std::max(track.least, outcome.saved) : 0;
+    track.from = isWhole ? 0 : firstMissing(orders, track, track.from + outcome.saved);
+    return track;
+}
+
+}  // namespace
+
+std::vector<SaveTrack> tracksToSaveAgain(const SaveOrders& orders, const QList<SaveOutcome>& outcomes) {
+    const bool isShortOfACamera = std::any_of(outcomes.begin(), outcomes.end(), [](const SaveOutcome& outcome) {
+        return outcome.track < 0 && outcome.end == SaveOutcome::CameraLost;
+    });
+    std::vector<SaveTrack> tracks;
+    for (const SaveOutcome& outcome : outcomes) {
+        if (outcome.track >= 0 && (outcome.end != SaveOutcome::Saved || isShortOfACamera)) {
+            tracks.push_back(rest(orders, outcome));
+        }
+    }
+    return tracks;
+}
