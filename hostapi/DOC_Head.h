@@ -11,7 +11,7 @@ public:
 
     /// Devices that the host knows.
     virtual int getDeviceCount() const = 0;
-    /// What the host adds to the name of a file with images of a partition. `type` is what they are written for;
+    /// What the host adds to the name of a file with images of a partition. `type` is a `zeb::FileType`;
     /// `session` counts the saves that would otherwise write one name, from 1.
     virtual zeb::FileNameDetails getFileNameDetails(int type, PARTITIONNUMBER partition, int session,
                                                     const QDateTime& time) const = 0;

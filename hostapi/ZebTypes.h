@@ -162,6 +162,32 @@ constexpr auto CommentSeparator = "{Separator}";
 /// Items of custom information that a camera takes.
 constexpr int MostCustomItems = 64;
 
+/// What a file is written for, the `type` of all that concerns names of files. Some types have preferences and folders
+/// in common and differ in nothing that is told here.
+enum FileType {
+    /// Images of one camera.
+    ImageFile = 1,
+    OtherImageFile = 2,
+    /// Images of several cameras side by side.
+    LayoutFile = 4,
+    OtherLayoutFile = 5,
+    /// Images that were saved before, in another format.
+    ConvertedFile = 6,
+    /// One image, as it is shown.
+    SnapShotFile = 7,
+    /// Images with a name that may be empty.
+    UnnamedImageFile = 9,
+    OtherUnnamedImageFile = 10,
+    /// Another format of images, with a name that may be empty.
+    UnnamedConvertedFile = 11,
+    /// A report.
+    ReportFile = 16,
+    /// A report, with a name that may be empty.
+    UnnamedReportFile = 17,
+    /// Images side by side, with a name that may be empty.
+    UnnamedLayoutFile = 18
+};
+
 /// What a host adds to the name of a file, and whether it holds the session number that it was asked with.
 struct FileNameDetails {
     QString text;

@@ -1,5 +1,7 @@
 #include "NameFamilies.h"
 
+#include "ZebTypes.h"
+
 namespace {
 
 struct Family {
@@ -19,17 +21,17 @@ constexpr int DataNameSlot = 13;
 
 const Family& familyOf(int type) {
     switch (type) {
-        case 4:
-        case 5:
-        case 18:
+        case zeb::LayoutFile:
+        case zeb::OtherLayoutFile:
+        case zeb::UnnamedLayoutFile:
             return Layout;
-        case 6:
-        case 11:
+        case zeb::ConvertedFile:
+        case zeb::UnnamedConvertedFile:
             return Convert;
-        case 7:
+        case zeb::SnapShotFile:
             return Snap;
-        case 16:
-        case 17:
+        case zeb::ReportFile:
+        case zeb::UnnamedReportFile:
             return Report;
         default:
             return Export;

@@ -7,7 +7,7 @@
 #include <functional>
 #include <optional>
 
-/// What a file is written for is a number, its type. Types fall into families, each with preferences of its own.
+/// The types of files, `zeb::FileType`, fall into families, each with preferences of its own.
 
 /// What the keys of a type's preferences begin with: "export/", "convert/", "snap/", "report/" or "layout/".
 QString nameFamily(int type);

@@ -14,9 +14,6 @@
 
 namespace {
 
-constexpr int ExportType = 1;
-constexpr int ConvertType = 6;
-constexpr int ReportType = 16;
 constexpr int MostRounds = 1000000;
 constexpr int LongestPath = 245;
 
@@ -24,8 +21,13 @@ bool isOneOf(int type, std::initializer_list<int> types) {
     return std::find(types.begin(), types.end(), type) != types.end();
 }
 
+bool isUnnamed(int type) {
+    return isOneOf(type, {zeb::UnnamedImageFile, zeb::OtherUnnamedImageFile, zeb::UnnamedConvertedFile,
+                          zeb::UnnamedReportFile, zeb::UnnamedLayoutFile});
+}
+
 bool isConversion(int type) {
-    return nameFamily(type) == nameFamily(ConvertType);
+    return nameFamily(type) == nameFamily(zeb::ConvertedFile);
 }
 
 QString joined(const QString& name, const QString& piece) {
@@ -74,7 +76,7 @@ std::optional<QString> cameraFolder(const NameSource& source, const NamedDocumen
 bool isInformational(const NameSource& source, int type) {
     const FamilyPrefs prefs(source, type);
     return source.pref("export/media").toString() == "file" &&
-           (isConversion(type) || nameFamily(type) == nameFamily(ExportType)) &&
+           (isConversion(type) || nameFamily(type) == nameFamily(zeb::ImageFile)) &&
            source.pref("save/SaveInfFile").toBool() && prefs.flag("saveinf");
 }
 
@@ -162,7 +164,7 @@ QString Composition::baseName(int type, PARTITIONNUMBER partition, bool withDeta
     QString base = prefs.text("filename");
     if (prefs.flag("filenameasoriginal") && m_document) {
         const bool isUnsaved = isConversion(type) && m_document->isMemoryData() && m_source.isMemoryMode();
-        base = isUnsaved ? fileName(ExportType, partition, withDetails) : m_document->originalName();
+        base = isUnsaved ? fileName(zeb::ImageFile, partition, withDetails) : m_document->originalName();
     }
     if (!m_source.isFileMode() && prefs.flag("filenameaspartitionname")) {
         base = m_document ? sanitised(m_document->partitionName(partition), "_") : QString();
@@ -250,13 +252,13 @@ QString Composition::withTime(const FamilyPrefs& prefs, const QString& kind, con
 
 /// What `name` is called with round brackets in a report that is written so.
 QString rounded(QString name, int type, int mode) {
-    return type == ReportType && mode == 1 ? name.replace('[', '(').replace(']', ')') : name;
+    return type == zeb::ReportFile && mode == 1 ? name.replace('[', '(').replace(']', ')') : name;
 }
 
 void checkLengths(const NameSource& source, int type, const QString& folder, QString path) {
     const FamilyPrefs prefs(source, type);
-    const bool hasThumbnail =
-        isOneOf(type, {1, 2, ConvertType}) && !isInformational(source, type) && prefs.flag("savethumbnail");
+    const bool hasThumbnail = isOneOf(type, {zeb::ImageFile, zeb::OtherImageFile, zeb::ConvertedFile}) &&
+                              !isInformational(source, type) && prefs.flag("savethumbnail");
     path += hasThumbnail ? prefs.text("savethumbnailaddtextvalue") : QString();
     if (folder.size() > LongestPath || (hasThumbnail && path.size() > LongestPath)) {
         throw UTL_Exception(TextKey("The path of the target is too long."));
@@ -265,7 +267,7 @@ void checkLengths(const NameSource& source, int type, const QString& folder, QSt
 
 QList<PARTITIONNUMBER> partitionsOf(int type, const NamedDocument* document) {
     const auto partitions = document ? document->partitions() : QList<PARTITIONNUMBER>{1};
-    const bool isLayout = nameFamily(type) == "layout/";
+    const bool isLayout = nameFamily(type) == nameFamily(zeb::LayoutFile);
     return isLayout ? QList<PARTITIONNUMBER>{partitions.value(0, 1)} : partitions;
 }
 
@@ -275,7 +277,7 @@ void composeTargets(NameSource& source, int type, const NamedDocument* document,
                     const QDateTime& time, int mode, TargetPaths& out) {
     const FamilyPrefs prefs(source, type);
     Composition composition(source, document, time);
-    const bool mayBeEmpty = isOneOf(type, {9, 10, 11, 17, 18}) || source.pref("save/EnableBlankFilename").toBool();
+    const bool mayBeEmpty = isUnnamed(type) || source.pref("save/EnableBlankFilename").toBool();
     const auto substitute = replaceRoot ? source.substituteFolder() : std::nullopt;
     const QString root = rootFolder(source, type, document);
     for (const PARTITIONNUMBER partition : partitionsOf(type, document)) {
@@ -299,7 +301,7 @@ void composeTargets(NameSource& source, int type, const NamedDocument* document,
         }
         out.folders[partition] = folder;
         out.paths[partition] = folder + name;
-        if (type != ReportType) {
+        if (type != zeb::ReportFile) {
             source.setLastFolder(folder);
             source.setLastPath(folder + name);
             checkLengths(source, type, folder, folder + name);
@@ -311,7 +313,8 @@ QString rootFolder(const NameSource& source, int type, const NamedDocument* docu
     const FamilyPrefs prefs(source, type);
     const bool isFileMode = source.isFileMode();
     QString folder = prefs.text("dir");
-    if (!isFileMode && isOneOf(type, {1, 2}) && document && !source.pref("export/singlepath").toBool()) {
+    if (!isFileMode && isOneOf(type, {zeb::ImageFile, zeb::OtherImageFile}) && document &&
+        !source.pref("export/singlepath").toBool()) {
         folder = cameraFolder(source, *document).value_or(folder);
     }
     if ((isConversion(type) || isFileMode) && prefs.flag("dirasoriginal")) {

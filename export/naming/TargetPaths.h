@@ -19,16 +19,16 @@ struct TargetPaths {
     QMap<PARTITIONNUMBER, QString> paths;
 };
 
-/// For all of these: `type` tells what is written and so the preferences, as `nameFamily` has it; `document` may be
+/// For all of these: `type` is a `zeb::FileType` and tells the preferences, as `nameFamily` has it; `document` may be
 /// null; `time` stands in names that hold one. Preferences and texts of the document are taken as they are, but where
 /// a text is no name of a folder or file by itself (custom information, names of partitions, details of the host) its
 /// forbidden characters become "_". A number that counts sessions is the first that nobody has used; when a million are
 /// used, or two give one name, they throw `UTL_Exception` with "Invalid filename.". GUI thread.
 
 /// Puts the paths of all partitions into `out`. A document has one path in a layout, and under partition 1 there is one
-/// without a document. Of `type` 16 with `mode` 1 names have round brackets for square ones. With `replaceRoot` files
-/// go to the source's substitute folder if there is one. Throws `UTL_Exception` when a name is empty that must not be
-/// or a path is too long; `out` then holds what was composed before.
+/// without a document. Of a `zeb::ReportFile` with `mode` 1 names have round brackets for square ones. With
+/// `replaceRoot` files go to the source's substitute folder if there is one. Throws `UTL_Exception` when a name is
+/// empty that must not be or a path is too long; `out` then holds what was composed before.
 void composeTargets(NameSource& source, int type, const NamedDocument* document, bool replaceRoot,
                     const QDateTime& time, int mode, TargetPaths& out);
 

@@ -21,20 +21,13 @@
 #include <algorithm>
 #include <set>
 
-namespace {
-
-constexpr int ExportType = 1;
-constexpr int LayoutType = 4;
-
-}  // namespace
-
 SaveDialog::SaveDialog(SimHost& host, std::vector<SaveTrack> tracks, QStringList absent, QWidget* parent)
     : QDialog(parent),
       m_host(host),
       m_tracks(std::move(tracks)),
       m_absent(std::move(absent)),
       m_table(new QTableWidget(0, 4, this)),
-      m_target(new TargetFields(host.prefs(), prefFamily(isLayout()), true, this)),
+      m_target(new TargetFields(host.prefs(), nameFamily(fileType(m_tracks.front())), true, this)),
       m_path(new QLineEdit(this)) {
     setWindowTitle(isLayout() ? uiText("Save layout") : uiText("Save"));
     m_path->setObjectName(QStringLiteral("path"));
@@ -161,7 +154,7 @@ void SaveDialog::setNumbers() {
         }
     }
     const QPointer<SaveDialog> alive(this);
-    const int slot = fileNameSlot(isLayout() ? LayoutType : ExportType);
+    const int slot = fileNameSlot(fileType(m_tracks.front()));
     runDialog(m_host, new GUI_AddNumberDialog(&m_host, slot, int(cameras.size()), int(heads), this));
     if (alive) {
         follow();
@@ -169,7 +162,7 @@ void SaveDialog::setNumbers() {
 }
 
 void SaveDialog::setOption(const QString& suffix, const QVariant& value) {
-    const QString key = prefFamily(isLayout()) % suffix;
+    const QString key = nameFamily(fileType(m_tracks.front())) % suffix;
     if (!m_stored.contains(key)) {
         m_stored.insert(key, m_host.prefs().value(key));
     }

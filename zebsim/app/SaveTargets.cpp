@@ -17,16 +17,8 @@
 
 namespace {
 
-/// Types as the names of files know them.
-constexpr int ExportType = 1;
-constexpr int LayoutType = 4;
-constexpr int SnapShotType = 7;
 /// Of a frame's number.
 constexpr int MostDigits = 20;
-
-int typeOf(const SaveTrack& track) {
-    return track.isLayout ? LayoutType : ExportType;
-}
 
 class TypedSource : public HostNameSource {
 public:
@@ -65,8 +57,7 @@ private:
 /// Composes the names of one recording after those of another.
 class Composer {
 public:
-    /// `type` as the names of files know it.
-    Composer(SimHost& host, int type, const TypedPrefs& typed, bool isPreview, QDateTime time)
+    Composer(SimHost& host, zeb::FileType type, const TypedPrefs& typed, bool isPreview, QDateTime time)
         : m_host(host), m_source(host, typed, isPreview), m_type(type), m_time(std::move(time)) {}
 
     /// Of one partition of a camera. Throws.
@@ -101,13 +92,13 @@ public:
 private:
     SimHost& m_host;
     TypedSource m_source;
-    const int m_type;
+    const zeb::FileType m_type;
     const QDateTime m_time;
 };
 
 /// Without tracks.
-SaveOrders ordersOf(SimHost& host, bool isLayout, const TypedPrefs& typed) {
-    const QString family = prefFamily(isLayout);
+SaveOrders ordersOf(SimHost& host, zeb::FileType type, const TypedPrefs& typed) {
+    const QString family = nameFamily(type);
     const auto pref = [&](const QString& key) { return typed.value(key, host.prefs().value(key)); };
     SaveOrders orders;
     orders.format = chosenFormat(pref, family);
@@ -119,16 +110,16 @@ SaveOrders ordersOf(SimHost& host, bool isLayout, const TypedPrefs& typed) {
 
 }  // namespace
 
-QString prefFamily(bool isLayout) {
-    return isLayout ? QStringLiteral("layout/") : QStringLiteral("export/");
+zeb::FileType fileType(const SaveTrack& track) {
+    return track.isLayout ? zeb::LayoutFile : zeb::ImageFile;
 }
 
 SavePlan composePlan(SimHost& host, const std::vector<SaveTrack>& tracks, const QStringList& absent,
                      const TypedPrefs& typed, const QDateTime& time) {
     const HostCalls::Own own;
-    SaveOrders orders = ordersOf(host, tracks.front().isLayout, typed);
+    SaveOrders orders = ordersOf(host, fileType(tracks.front()), typed);
     orders.absent = absent;
-    Composer composer(host, typeOf(tracks.front()), typed, false, time);
+    Composer composer(host, fileType(tracks.front()), typed, false, time);
     std::vector<TrackTarget> targets;
     QList<PlanEntry> known;
     for (const SaveTrack& track : tracks) {
@@ -150,8 +141,8 @@ QStringList composedPaths(SimHost& host, const std::vector<SaveTrack>& tracks, c
                           const QDateTime& time) {
     const HostCalls::Own own;
     const NamePromises::Save alone(host.saver().promises());
-    const SaveOrders orders = ordersOf(host, tracks.front().isLayout, typed);
-    Composer composer(host, typeOf(tracks.front()), typed, true, time);
+    const SaveOrders orders = ordersOf(host, fileType(tracks.front()), typed);
+    Composer composer(host, fileType(tracks.front()), typed, true, time);
     QStringList paths;
     for (SaveTrack track : tracks) {
         try {
@@ -170,7 +161,7 @@ QString snapShotStem(SimHost& host, DOCKEY key, const QDateTime& time) {
     const Camera* camera = host.cameras().find(key);
     const PARTITIONNUMBER partition = camera ? camera->get(&CameraState::partition) : 1;
     const TypedPrefs none;
-    const TrackTarget target = Composer(host, SnapShotType, none, false, time).targetOf(key, partition);
+    const TrackTarget target = Composer(host, zeb::SnapShotFile, none, false, time).targetOf(key, partition);
     const QList<PlanEntry> faults = faultsOf(target, camera ? camera->name() : QString());
     if (!faults.isEmpty()) {
         throw std::runtime_error(entryText(faults.first()).toStdString());

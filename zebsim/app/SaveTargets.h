@@ -13,8 +13,8 @@ class SimHost;
 /// Preferences as a dialog shows them, which it has not stored yet, by their keys.
 using TypedPrefs = QHash<QString, QVariant>;
 
-/// What the preferences of a kind of save begin with.
-QString prefFamily(bool isLayout);
+/// What the track's files are written for.
+zeb::FileType fileType(const SaveTrack& track);
 
 /// Where each of `tracks` goes, in `plan`, and the plan for all of them: `typed` comes before the preferences. A camera
 /// that does not tell what its names need is left out. The names are promised by the save that began last. GUI thread.

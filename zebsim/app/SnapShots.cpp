@@ -23,14 +23,12 @@
 
 namespace {
 
-const QString Family = QStringLiteral("snap/");
-
 enum Mode { ToFile = 1, ToClipboard = 2, ToBoth = 3, Settings = 4 };
 
 void openSettings(SimHost& host) {
     auto* dialog = new QDialog(host.getMainWindow());
     dialog->setWindowTitle(uiText("Snapshots"));
-    auto* target = new TargetFields(host.prefs(), Family, false, dialog);
+    auto* target = new TargetFields(host.prefs(), nameFamily(zeb::SnapShotFile), false, dialog);
     auto* layout = new QVBoxLayout(dialog);
     layout->addWidget(target);
     QDialogButtonBox* buttons = addOkCancel(*dialog);
@@ -49,7 +47,8 @@ FileMetadata metadataOf(const SimHost& host, const Camera& camera, const CameraF
 
 /// A snapshot is one picture in one file.
 SaveFormat formatOf(const SimHost& host) {
-    SaveFormat format = chosenFormat([&host](const QString& key) { return host.prefs().value(key); }, Family);
+    const auto pref = [&host](const QString& key) { return host.prefs().value(key); };
+    SaveFormat format = chosenFormat(pref, nameFamily(zeb::SnapShotFile));
     format.options.isMultiPage = false;
     return format.isVideo() ? saveFormats().first() : format;
 }
