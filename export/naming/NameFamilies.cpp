@@ -78,30 +78,35 @@ QString slotKey(int slot) {
     return {};
 }
 
+QString numberKey(int slot) {
+    const QString key = slotKey(slot);
+    return key.isEmpty() || slot == Report.groupDir ? QString() : key + QStringLiteral("addnumber");
+}
+
 NumberDigits slotDigits(const PrefReader& pref, int slot) {
     if (!pref) {
         return {3, 3, 4};
     }
-    const QString key = slotKey(slot);
-    if (key.isEmpty() || slot == Report.groupDir) {
+    const QString key = numberKey(slot);
+    if (key.isEmpty()) {
         return {};
     }
-    const auto digits = [&](const char* number) {
-        return pref(key + QStringLiteral("addnumber") + QString(number) + QStringLiteral("nodigits")).toInt();
-    };
+    const auto digits = [&](const char* number) { return pref(key + number + QStringLiteral("nodigits")).toInt(); };
     const bool isReport = slot == Report.subDir || slot == Report.fileName;
     return {isReport ? 0 : digits("camera"), isReport ? 0 : digits("head"), digits("session")};
 }
 
+NumberDigits autoDigits(const DeviceCounts& counts) {
+    const auto lengthOf = [](int number) { return QString::number(number).size(); };
+    return {lengthOf(counts.devices), counts.heads > 1 ? lengthOf(counts.heads) : 0, 0};
+}
+
 NumberDigits digitsFor(const PrefReader& pref, int slot, bool isFileMode, const std::optional<DeviceCounts>& counts) {
-    NumberDigits digits = slotDigits(pref, slot);
+    const NumberDigits digits = slotDigits(pref, slot);
     if (isFileMode) {
         return {0, 0, digits.session};
     }
     const bool isAuto = pref && pref(slotKey(slot) + QStringLiteral("addnumberformat")).toString() == "auto";
-    if (isAuto && counts) {
-        digits.camera = QString::number(counts->devices).size();
-        digits.head = counts->heads > 1 ? QString::number(counts->heads).size() : 0;
-    }
-    return digits;
+    const NumberDigits needed = isAuto && counts ? autoDigits(*counts) : digits;
+    return {needed.camera, needed.head, digits.session};
 }

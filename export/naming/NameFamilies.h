@@ -18,6 +18,8 @@ int subDirSlot(int type);
 int fileNameSlot(int type);
 /// Key of the preferences of the slot's name, as "export/groupdir"; empty for a slot that has none.
 QString slotKey(int slot);
+/// What the keys of its digits begin with, as "export/groupdiraddnumber"; empty for a slot that has none.
+QString numberKey(int slot);
 
 /// Reads a preference; an invalid value stands for 0, false or the empty text.
 using PrefReader = std::function<QVariant(const QString& key)>;
@@ -30,6 +32,9 @@ struct DeviceCounts {
     int devices = 0;
     int heads = 0;
 };
+
+/// Those that the counts need; none for the session, and for the head where there is one alone.
+NumberDigits autoDigits(const DeviceCounts& counts);
 
 /// The digits that a name gets: with the slot's format "auto", as many as the counts need. A file's name says nothing
 /// of cameras and heads. `counts` is empty for a name that is for no document.

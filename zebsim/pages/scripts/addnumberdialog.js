@@ -2,20 +2,16 @@
 
 // How many digits the numbers in a name have.
 
-// What the keys of a name begin with, by its slot.
-const NAME_KEYS = ['export/groupdir', 'export/subdir', 'export/filename', 'convert/groupdir', 'convert/subdir',
-    'convert/filename', 'snap/groupdir', 'snap/subdir', 'snap/filename', 'report/groupdir', 'report/subdir',
-    'report/filename', '', 'export/fd/dataname', '', 'layout/subdir', 'layout/filename'];
 const NUMBERS = ['camera', 'head', 'session'];
 const MOST_DIGITS = 20;
 
 const addNumberPage = Object.assign(dialogFrame(addnumberdialog), {
-    key: '', // what the keys of the preferences begin with
+    key: '', // what the keys of the preferences begin with, if there is anything to store
     own: {}, // digits by number, as the user has chosen them
 
     initialize() {
         this.begin(() => this.applyStyle());
-        this.key = NAME_KEYS[addnumberdialog.getCallbackType()] + 'addnumber';
+        this.key = addnumberdialog.getNumberKey();
         this.read();
         document.body.classList.toggle('file', addnumberdialog.isFileMode());
         NUMBERS.forEach(number => {
@@ -81,6 +77,13 @@ const addNumberPage = Object.assign(dialogFrame(addnumberdialog), {
     },
 
     accept() {
+        if (this.key) {
+            this.store();
+        }
+        addnumberdialog.accept();
+    },
+
+    store() {
         const isFile = addnumberdialog.isFileMode();
         const digits = this.digits();
         NUMBERS.slice(isFile ? 2 : 0).forEach(number => {
@@ -90,7 +93,6 @@ const addNumberPage = Object.assign(dialogFrame(addnumberdialog), {
         if (!isFile) {
             addnumberdialog.setPrefString(this.key + 'format', byId('auto').checked ? 'auto' : 'manual');
         }
-        addnumberdialog.accept();
     }
 });
 
