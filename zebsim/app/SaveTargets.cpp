@@ -6,7 +6,6 @@
 #include "SaveTexts.h"
 #include "SimHost.h"
 #include "TargetDisk.h"
-#include "TargetPaths.h"
 #include "TextKey.h"
 #include "UTL_Exception.h"
 #include "UiText.h"
@@ -66,14 +65,7 @@ public:
         if (document == nullptr) {
             throw std::runtime_error(TextKey("the camera is gone").toStdString());
         }
-        const OnePartition named(*document, partition);
-        TargetPaths paths;
-        composeTargets(m_source, m_type, &named, true, m_time, 0, paths);
-        const QString folder = paths.folders.first();
-        TrackTarget target{rootFolder(m_source, m_type, &named), paths.groups.value(partition),
-                           paths.subs.value(partition), paths.paths.first().mid(folder.size())};
-        // All go into a substitute folder, whatever their own.
-        return target.folder() == folder ? target : TrackTarget{folder, {}, {}, target.name};
+        return TrackTarget::of(m_source, m_type, OnePartition(*document, partition), m_time);
     }
     /// A layout is called after the first of its cameras that tells what is needed.
     TrackTarget targetOf(const SaveTrack& track) {
