@@ -5,8 +5,33 @@
 #include "support/TestHost.h"
 
 #include <QDir>
+#include <QRegularExpression>
 
 #include <gtest/gtest.h>
+
+#include <sys/file.h>
+#include <sys/syscall.h>
+#include <unistd.h>
+
+namespace {
+
+/// What a file system does not have.
+bool hasNoLocks = false;
+bool hasNoLinks = false;
+
+}  // namespace
+
+// They stand before those of the system.
+
+extern "C" int flock(int file, int operation) noexcept {
+    errno = ENOLCK;
+    return hasNoLocks ? -1 : int(::syscall(SYS_flock, file, operation));
+}
+
+extern "C" int linkat(int from, const char* path, int to, const char* name, int flags) noexcept {
+    errno = EOPNOTSUPP;
+    return hasNoLinks ? -1 : int(::syscall(SYS_linkat, from, path, to, name, flags));
+}
 
 namespace {
 
@@ -77,16 +102,37 @@ TEST_P(NamingAFile, LeavesNothingOnAFullDisk) {
 }
 
 TEST_P(NamingAFile, LeavesWhatGrowsToWhoeverWritesIt) {
-    write(path(".zebsim-left"), "half");
+    const QStringList others = {".zebsim-0123abcd-0123456789abc.part", ".zebsim-notes"};
+    for (const QString& other : others) {
+        write(path(other), "of another machine, or of a user");
+    }
+    const auto left = [&] { return allIn(folder.path()).size() - others.size(); };
     {
         FileWriter file(path("a"), Over::Nothing, GetParam());
         file.write("new");
-        EXPECT_EQ(contentOf(file.growingPath()), "new");
+        EXPECT_EQ(contentOf(file.temporaryPath()), "new");
         removeLeftOvers(folder.path());
-        EXPECT_EQ(contentOf(file.growingPath()), "new");
-        EXPECT_EQ(allIn(folder.path()).size(), GetParam() == Naming::Unnamed ? 0 : 1);
+        EXPECT_EQ(contentOf(file.temporaryPath()), "new");
+        EXPECT_EQ(left(), GetParam() == Naming::Unnamed ? 0 : 1);
+        // As if its program had been killed.
+        QFile::copy(file.temporaryPath(), file.temporaryPath().replace(QRegularExpression(".\\.part"), "0.part"));
     }
-    EXPECT_EQ(allIn(folder.path()), QStringList());
+    removeLeftOvers(folder.path());
+    EXPECT_EQ(left(), 0) << "what is locked by nobody goes";
+}
+
+TEST_P(NamingAFile, NeedsNeitherLocksNorLinks) {
+    for (const auto& [locks, links] : {std::pair(false, true), std::pair(true, false)}) {
+        hasNoLocks = !locks;
+        hasNoLinks = !links;
+        for (const Over over : {Over::Nothing, Over::OldFile}) {
+            EXPECT_EQ(failure("a", over), "");
+            EXPECT_EQ(contentOf(path("a")), "new");
+        }
+        QFile::remove(path("a"));
+        EXPECT_EQ(allIn(folder.path()), QStringList());
+    }
+    hasNoLocks = hasNoLinks = false;
 }
 
 INSTANTIATE_TEST_SUITE_P(EachWay, NamingAFile,

@@ -4,10 +4,12 @@
 #include "TextKey.h"
 #include "WholeFile.h"
 
+#include <QCryptographicHash>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QRandomGenerator>
+#include <QSysInfo>
 
 #include <fcntl.h>
 #include <sys/file.h>
@@ -17,11 +19,26 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstdio>
+#include <utility>
 
 namespace {
 
-const QString HiddenPrefix = QStringLiteral(".zebsim-");
 constexpr mode_t AsUsual = 0666;
+constexpr int BytesAtOnce = 1 << 20;
+/// Of a number of 64 bits to the base of 36.
+constexpr int MostDigits = 13;
+
+/// The machine stands in it, for no other one may see the locks.
+QByteArray hiddenName(const QByteArray& number) {
+    static const QByteArray host = QCryptographicHash::hash(
+        QSysInfo::machineUniqueId() + QSysInfo::machineHostName().toUtf8(), QCryptographicHash::Sha1);
+    return ".zebsim-" + host.left(4).toHex() + '-' + number + ".part";
+}
+
+QByteArray newHiddenName() {
+    const QByteArray number = QByteArray::number(QRandomGenerator::global()->generate64(), 36);
+    return hiddenName(number.rightJustified(MostDigits, '0'));
+}
 
 /// What stands at the end of a chain of links, there or not.
 QString followed(const QString& path) {
@@ -69,6 +86,12 @@ int renameToClaimed(const QByteArray& from, const QByteArray& to) {
         ::unlink(to.constData());
     }
     return error;
+}
+
+/// False when it was taken for left over before it was locked. Some file systems have no locks; there none is removed.
+bool lockOwn(int file) {
+    struct stat own {};
+    return ::flock(file, LOCK_EX) != 0 || ::fstat(file, &own) != 0 || own.st_nlink > 0;
 }
 
 /// Whoever writes a hidden file holds its lock.
@@ -124,24 +147,30 @@ bool FileWriter::openUnnamed() {
 }
 
 void FileWriter::openHidden() {
-    struct stat file {};
     do {
         ::close(m_descriptor);
-        m_hidden = hiddenPath();
+        m_hidden = m_folder + '/' + newHiddenName();
         m_descriptor = ::open(m_hidden.constData(), O_CREAT | O_EXCL | O_RDWR | O_CLOEXEC, AsUsual);
         if (m_descriptor < 0 && errno != EEXIST) {
             fail(errno);
         }
-        // Before it is locked, it can be taken for left over.
-    } while (m_descriptor < 0 || ::flock(m_descriptor, LOCK_EX) != 0 || ::fstat(m_descriptor, &file) != 0 ||
-             file.st_nlink == 0);
+    } while (m_descriptor < 0 || !lockOwn(m_descriptor));
 }
 
-QByteArray FileWriter::hiddenPath() const {
-    return m_folder + '/' + HiddenPrefix.toLatin1() + QByteArray::number(QRandomGenerator::global()->generate64(), 36);
+void FileWriter::copyToHidden() {
+    QFile unnamed;
+    unnamed.open(std::exchange(m_descriptor, -1), QIODevice::ReadOnly, QFileDevice::AutoCloseHandle);
+    unnamed.seek(0);
+    openHidden();
+    for (QByteArray bytes = unnamed.read(BytesAtOnce); !bytes.isEmpty(); bytes = unnamed.read(BytesAtOnce)) {
+        write(bytes);
+    }
+    if (unnamed.error() != QFileDevice::NoError) {
+        throw FileError(m_path, unnamed.errorString());
+    }
 }
 
-QString FileWriter::growingPath() const {
+QString FileWriter::temporaryPath() const {
     return m_hidden.isEmpty() ? QStringLiteral("/proc/%1/fd/%2").arg(::getpid()).arg(m_descriptor)
                               : QFile::decodeName(m_hidden);
 }
@@ -165,6 +194,10 @@ void FileWriter::complete() {
     if (error == EEXIST && m_over == Over::OldFile) {
         error = replaceOld();
     }
+    // The folder that is synchronised in the end may lie on another disk.
+    if (error == 0 && m_target != QFile::encodeName(m_path)) {
+        error = errorOf(::fsync(m_descriptor));
+    }
     if (error != 0) {
         fail(error);
     }
@@ -172,7 +205,11 @@ void FileWriter::complete() {
 
 int FileWriter::takeFreeName() {
     if (m_hidden.isEmpty()) {
-        return linkUnnamed(m_descriptor, m_target);
+        const int error = linkUnnamed(m_descriptor, m_target);
+        if (!isMissing(error)) {
+            return error;
+        }
+        copyToHidden();
     }
     int error = ENOSYS;
     for (auto naming = std::max(m_naming, Naming::Rename); naming <= Naming::Claim && isMissing(error);
@@ -188,17 +225,20 @@ int FileWriter::takeFreeName() {
 }
 
 int FileWriter::replaceOld() {
+    if (m_hidden.isEmpty()) {
+        const QByteArray hidden = m_folder + '/' + newHiddenName();
+        const int error = linkUnnamed(m_descriptor, hidden);
+        if (isMissing(error)) {
+            copyToHidden();
+        } else if (error != 0) {
+            return error;
+        } else {
+            m_hidden = hidden;
+        }
+    }
     struct stat old {};
     if (::stat(m_target.constData(), &old) == 0) {
         ::fchmod(m_descriptor, old.st_mode & 07777);
-    }
-    if (m_hidden.isEmpty()) {
-        const QByteArray hidden = hiddenPath();
-        const int error = linkUnnamed(m_descriptor, hidden);
-        if (error != 0) {
-            return error;
-        }
-        m_hidden = hidden;
     }
     const int error = errorOf(std::rename(m_hidden.constData(), m_target.constData()));
     if (error == 0) {
@@ -223,8 +263,8 @@ void syncDisk(const QString& folder) {
 }
 
 void removeLeftOvers(const QString& folder) {
-    const QStringList names = QDir(folder).entryList({HiddenPrefix % QLatin1Char('*')}, QDir::Files | QDir::Hidden);
-    for (const QString& name : names) {
+    const QString form = QString::fromLatin1(hiddenName(QByteArray(MostDigits, '?')));
+    for (const QString& name : QDir(folder).entryList({form}, QDir::Files | QDir::Hidden | QDir::CaseSensitive)) {
         removeUnlocked(QFile::encodeName(folder % QLatin1Char('/') % name));
     }
 }

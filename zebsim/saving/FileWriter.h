@@ -11,7 +11,8 @@ enum class Over { Nothing, OldFile };
 enum class Naming { Unnamed, Rename, Link, Claim };
 
 /// A file that has its name only once it is whole; when it is destroyed before, nothing is left of it. It is on the
-/// disk for sure after `syncDisk`. Everything throws `FileError`. One thread at a time.
+/// disk for sure after `syncDisk`, or, where a link has led elsewhere, once it has its name. Everything throws
+/// `FileError`. One thread at a time.
 class FileWriter {
 public:
     /// The folder must be there. Where an old file may go, a link is followed, and its permissions are kept.
@@ -23,14 +24,15 @@ public:
     void write(const QByteArray& bytes);
     int descriptor() const { return m_descriptor; }
     /// Where other programs of this user find it as long as it has no name.
-    QString growingPath() const;
+    QString temporaryPath() const;
     /// Gives it its name.
     void complete();
 
 private:
     bool openUnnamed();
     void openHidden();
-    QByteArray hiddenPath() const;
+    /// Where a file without a name gets none in the end.
+    void copyToHidden();
     int takeFreeName();
     int replaceOld();
     [[noreturn]] void fail(int error) const;
@@ -50,5 +52,5 @@ private:
 void writeFile(const QString& path, const QByteArray& bytes, Over over, Naming naming = Naming::Unnamed);
 /// Waits until all that was written in the file system of `folder` is on the disk. Throws `FileError`. Any thread.
 void syncDisk(const QString& folder);
-/// Removes what programs that were killed have left in `folder`. Any thread.
+/// Removes what programs of this machine that were killed have left in `folder`. Any thread.
 void removeLeftOvers(const QString& folder);

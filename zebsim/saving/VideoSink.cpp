@@ -18,7 +18,7 @@ void VideoSink::feed(const QImage& picture) {
         m_file.emplace(m_path, overOf(m_orders, m_path));
         const VideoEncoder& encoder = m_orders.encoder;
         m_process.emplace(encoder.program,
-                          encoder.arguments(picture.size(), m_file->growingPath(), m_track.metadataOfAll()), m_stop);
+                          encoder.arguments(picture.size(), m_file->temporaryPath(), m_track.metadataOfAll()), m_stop);
     }
     if (!m_process->write(reinterpret_cast<const char*>(picture.constBits()), picture.sizeInBytes())) {
         fail();
