@@ -3,7 +3,7 @@
 #include "FileError.h"
 #include "FileWriter.h"
 #include "PagesSink.h"
-#include "SaveJob.h"
+#include "SaveOrders.h"
 #include "TextKey.h"
 #include "VideoSink.h"
 
@@ -15,7 +15,7 @@ public:
     PictureSink(const SaveOrders& orders, const SaveTrack& track) : m_orders(orders), m_track(track) {}
 
     Step prepare(int index, const QSet<int>& lost) override {
-        const QString file = fileOf(m_track, m_orders.format, m_orders.digits, index);
+        const QString file = m_orders.fileOf(m_track, index);
         const QByteArray bytes = m_orders.format.encoded(m_track.picture(index, lost), m_track.metadata(index, lost));
         if (bytes.isEmpty()) {
             throw FileError(file, TextKey("the picture has no such form"));

@@ -1,7 +1,7 @@
 #include "PagesSink.h"
 
 #include "FileError.h"
-#include "SaveJob.h"
+#include "SaveOrders.h"
 #include "TextKey.h"
 
 #include <QImage>
@@ -14,7 +14,7 @@ constexpr qint64 MostPlainBytes = qint64(2) << 30;
 }  // namespace
 
 PagesSink::PagesSink(const SaveOrders& orders, const SaveTrack& track)
-    : m_orders(orders), m_track(track), m_path(fileOf(track, orders.format, orders.digits, track.from)) {}
+    : m_orders(orders), m_track(track), m_path(orders.fileOf(track, track.from)) {}
 
 FrameSink::Step PagesSink::prepare(int index, const QSet<int>& lost) {
     const QImage picture = m_track.picture(index, lost);

@@ -1,59 +1,23 @@
 #pragma once
 
-#include "SaveFormat.h"
-#include "SaveTrack.h"
-#include "VideoEncoder.h"
+#include "SaveOrders.h"
+#include "SaveOutcome.h"
 
+#include <QList>
 #include <QObject>
-#include <QSet>
-#include <QStringList>
 #include <QTimer>
 
-#include <functional>
 #include <memory>
 #include <vector>
 
+class CameraBank;
 class SavePipeline;
-
-/// What is to be saved, and where to.
-struct SaveOrders {
-    SaveFormat format;
-    /// Their folders are made if they are not there.
-    std::vector<SaveTrack> tracks;
-    /// Paths of files that are there already and may go.
-    QSet<QString> mayReplace = {};
-    /// Least digits of a frame's number in a file's name.
-    int digits = 5;
-    VideoEncoder encoder = {};
-    /// What can't be saved, a line each for the list of results.
-    QStringList absent = {};
-    /// Answers why the next file can't be written; empty when it can. Any thread.
-    std::function<QString()> diskFault = [] { return QString(); };
-};
-
-/// What became of a track, or of a camera in a layout.
-struct SaveOutcome {
-    /// The last: there was nothing to be had when the save began, and `reason` says all.
-    enum End { Saved, CameraLost, FileFailed, Cancelled, Absent };
-
-    /// Of the orders; -1 for what was absent, and for a camera that was lost from a layout.
-    int track = -1;
-    QString name;
-    End end = Saved;
-    /// Frames that stand in complete files, and that were to be saved, from the track's first one on.
-    int saved = 0;
-    int frames = 0;
-    /// Number of the last one saved, as an operator sees it.
-    qint64 lastNumber = 0;
-    /// The file, or the folder, that can't be written, and why; of a camera, why it was lost.
-    QString file;
-    QString reason;
-};
 
 /// Saves on threads of its own: cameras are read side by side, and pictures made on all cores. GUI thread.
 ///
-/// A camera that fails, or that never answers, does not stop the others. When it is destroyed before its end, it stops
-/// within a frame, and only complete files stay.
+/// A camera that fails or never answers, and a video or disk that takes no more, do not stop the other tracks. When it
+/// is destroyed before its end, it stops within a frame, and only complete files stay. A call to the disk can't be cut
+/// short: when the disk does not answer, it is waited for.
 class SaveJob : public QObject {
     Q_OBJECT
 
@@ -64,7 +28,8 @@ public:
 
     void start();
     bool isRunning() const { return m_pipeline != nullptr; }
-    /// What is not complete by now ends within a frame; a video that is not complete goes.
+    /// What is not complete by now ends within a frame; a video that is not complete goes. Then the disk is waited for
+    /// as at any end: whose recording is told as saved may be erased.
     void cancel();
 
     const SaveOrders& orders() const { return m_orders; }

@@ -1,12 +1,12 @@
 #include "VideoSink.h"
 
 #include "FileError.h"
-#include "SaveJob.h"
+#include "SaveOrders.h"
 
 #include <QImage>
 
 VideoSink::VideoSink(const SaveOrders& orders, const SaveTrack& track, const StopSource& stop)
-    : m_orders(orders), m_track(track), m_stop(stop), m_path(fileOf(track, orders.format, orders.digits, track.from)) {}
+    : m_orders(orders), m_track(track), m_stop(stop), m_path(orders.fileOf(track, track.from)) {}
 
 FrameSink::Step VideoSink::prepare(int index, const QSet<int>& lost) {
     const QImage picture = m_track.picture(index, lost).convertToFormat(QImage::Format_RGB32);

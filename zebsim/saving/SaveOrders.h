@@ -1,0 +1,31 @@
+#pragma once
+
+#include "SaveFormat.h"
+#include "SaveTrack.h"
+#include "VideoEncoder.h"
+
+#include <QSet>
+#include <QString>
+#include <QStringList>
+
+#include <functional>
+#include <vector>
+
+/// What is to be saved, and where to.
+struct SaveOrders {
+    SaveFormat format;
+    /// Their folders are made if they are not there.
+    std::vector<SaveTrack> tracks;
+    /// Paths of files that are there already and may go.
+    QSet<QString> mayReplace = {};
+    /// Least digits of a frame's number in a file's name.
+    int digits = 5;
+    VideoEncoder encoder = {};
+    /// What can't be saved, a line each for the list of results.
+    QStringList absent = {};
+    /// Answers why the next file can't be written; empty when it can. Any thread.
+    std::function<QString()> diskFault = [] { return QString(); };
+
+    /// Path of the file that frame `index` of `track` goes into.
+    QString fileOf(const SaveTrack& track, int index) const { return ::fileOf(track, format, digits, index); }
+};
