@@ -14,6 +14,6 @@ bool NameSource::hasFile(const QString& folder, const QString& beginning) const 
     return first != names->cend() && first->startsWith(beginning);
 }
 
-void NameSource::noteTaken(const QString& path) const {
-    qWarning() << "exists" << path;
+void NameSource::noteTaken(const QString& what) const {
+    qWarning() << "exists" << what;
 }

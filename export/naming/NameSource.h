@@ -58,8 +58,10 @@ public:
     virtual std::unique_ptr<NamedDocument> document(DOCKEY key) const = 0;
 
     virtual bool folderExists(const QString& path) const = 0;
-    /// A directory of that path is passed over, for it is there or taken: a warning in the log.
-    virtual void noteTaken(const QString& path) const;
+    /// What is passed over, for it is there or taken: a directory by its path, or "900 more". A warning in the log.
+    virtual void noteTaken(const QString& what) const;
+    /// Names that one composition tries in vain before it gives up.
+    virtual int mostRounds() const { return 1000000; }
     /// Whether the folder holds a file whose name begins so.
     bool hasFile(const QString& folder, const QString& beginning) const;
 

@@ -14,7 +14,8 @@
 
 namespace {
 
-constexpr int MostRounds = 1000000;
+/// Directories that one composition names in the log when it passes them over.
+constexpr int MostNoted = 100;
 constexpr int LongestPath = 245;
 
 bool isOneOf(int type, std::initializer_list<int> types) {
@@ -96,6 +97,12 @@ class Composition {
 public:
     Composition(const NameSource& source, const NamedDocument* document, const QDateTime& time)
         : m_source(source), m_document(document), m_time(time) {}
+    ~Composition() {
+        if (m_passed > MostNoted) {
+            m_source.noteTaken(QStringLiteral("%1 more").arg(m_passed - MostNoted));
+        }
+    }
+    Q_DISABLE_COPY(Composition)
 
     QString fileName(int type, PARTITIONNUMBER partition, bool withDetails);
     QString groupDir(int type, const QString& name);
@@ -117,12 +124,14 @@ private:
     const NamedDocument* m_document;
     const QDateTime& m_time;
     int m_rounds = 0;
+    /// Directories that are there or taken.
+    int m_passed = 0;
     /// Directories that have a number by now, by slot and name.
     QHash<QPair<int, QString>, QString> m_numbered;
 };
 
 void Composition::endRound() {
-    if (++m_rounds > MostRounds) {
+    if (++m_rounds > m_source.mostRounds()) {
         fail();
     }
 }
@@ -241,7 +250,9 @@ QString Composition::numbered(int type, int slot, const QString& base) {
         if (wide.session < 1 || (!m_source.folderExists(path) && !m_source.isFolderTaken(path))) {
             return directory;
         }
-        m_source.noteTaken(path);
+        if (++m_passed <= MostNoted) {
+            m_source.noteTaken(path);
+        }
         endRound();
     }
 }

@@ -44,7 +44,7 @@ struct GivenNames : NameSource {
     bool isMemoryMode() const override { return !inFileMode; }
     std::optional<QString> fixedGroupDir() const override { return fixed; }
     std::optional<QString> substituteFolder() const override { return substitute; }
-    bool isFolderTaken(const QString& path) const override { return promised.contains(path); }
+    bool isFolderTaken(const QString& path) const override { return allTaken || promised.contains(path); }
     bool isPathTaken(const QString& path) const override { return allTaken || taken.contains(path); }
     void setLastGroupDir(const QString& name) override { last += "group " + name; }
     void setLastFolder(const QString& folder) override { last += "folder " + folder; }
@@ -53,6 +53,7 @@ struct GivenNames : NameSource {
         return key == 5 ? std::make_unique<GivenDocument>(other) : nullptr;
     }
     bool folderExists(const QString& path) const override { return disk.contains(path + '/'); }
+    int mostRounds() const override { return 1000; }
 
     /// Why it ended; empty when it has composed all.
     QString compose(int type, const GivenDocument& document, TargetPaths& out) {

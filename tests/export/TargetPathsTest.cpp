@@ -1,12 +1,9 @@
 #include "TargetPaths.h"
 
 #include "Course.h"
-#include "FileNameRules.h"
 #include "Files.h"
 #include "GivenNames.h"
 #include "NameFamilies.h"
-
-#include <random>
 
 namespace {
 
@@ -49,13 +46,11 @@ void give(GivenNames& names, GivenDocument& document, int type, const QString& w
 }
 
 TEST(TargetPaths, AreComposedAsTheCasesSay) {
-    int count = 0;
     for (const QString& line : QString::fromUtf8(contentOf(PATH_CASES)).split('\n')) {
         const QStringList columns = line.split(" | ");
         if (line.startsWith('#') || columns.size() < 4) {
             continue;
         }
-        ++count;
         const int type = columns[1].toInt();
         GivenNames names;
         GivenDocument document;
@@ -73,7 +68,6 @@ TEST(TargetPaths, AreComposedAsTheCasesSay) {
             EXPECT_EQ(times, 1) << "a folder is listed once";
         }
     }
-    EXPECT_EQ(count, 58);
 }
 
 TEST(TargetPaths, AreThoseOfEachPartition) {
@@ -97,7 +91,7 @@ TEST(TargetPaths, AreThoseOfEachPartition) {
     EXPECT_EQ(names.compose(1, document, first), "Invalid filename.") << "the third partition has no name";
     EXPECT_EQ(first.paths.keys(), QList<PARTITIONNUMBER>{1});
     EXPECT_EQ(first.groups.size(), 2);
-    EXPECT_EQ(names.compose(5, document, out), "Invalid filename.");
+    EXPECT_EQ(names.compose(zeb::OtherLayoutFile, document, out), "Invalid filename.");
 }
 
 TEST(TargetPaths, SpellNumbers) {
@@ -115,7 +109,7 @@ TEST(TargetPaths, SpellNumbers) {
         {"of a report's group directory none", 9, {}, ""},
         {"of data beside the images", 13, {}, "C01H1S0001"},
         {"where there is no name", 12, {}, ""},
-        {"where there is no directory", groupDirSlot(5), {}, ""},
+        {"where there is no directory", groupDirSlot(zeb::OtherLayoutFile), {}, ""},
     };
     const auto pref = [](const QString& key) -> QVariant {
         EXPECT_FALSE(key.startsWith("addnumbercamera"));
@@ -129,93 +123,6 @@ TEST(TargetPaths, SpellNumbers) {
         EXPECT_EQ(numberText(1, 1, 1, digits.camera, digits.head, digits.session), c.text) << c.what;
     }
     EXPECT_EQ(numberText(12345, 1, 1, 2, 0, INT_MAX).size(), 6 + 256) << "no number is cut, no text is endless";
-}
-
-/// Types, preferences, documents and disks of a few texts. What a user has typed is half the time a name.
-class AnyNames {
-public:
-    explicit AnyNames(unsigned seed) : m_random(seed) {}
-
-    int below(int count) { return static_cast<int>(m_random() % static_cast<unsigned>(count)); }
-    QString oneOf(const QString& texts) { return texts.split(',')[below(texts.count(',') + 1)]; }
-    QString text() { return oneOf("1,shot,.,..,a/b,../x,C:\\x,%1,%3,\n,[1]*,\u200F,?,s_S1,yyyy/MM,HH',-1,箱,a|b,5"); }
-    QString typed() { return below(2) ? "" : isName ? oneOf("1,2,HH,MM_ss") : text(); }
-
-    GivenDocument document(int camera) {
-        GivenDocument document;
-        document.device = camera;
-        document.file = text();
-        document.original = typed();
-        document.named = {{1, text()}, {3, text()}};
-        document.items = {item("TestNo", typed(), text(), "on"), item("n", text(), text(), "on")};
-        document.details = QString("C%1_").arg(camera) + text() + oneOf("%3,%3,");
-        document.saysSession = below(2);
-        return document;
-    }
-    GivenNames names() {
-        GivenNames names;
-        const QString keys =
-            ",asfilename,asfilenameincludeoption,addnumber,addtime,asoriginal,aspartitionname,usecustom,"
-            "usecustomfromtarget,name,addtimeformat,usecustomfromtargetkey,addnumbercameranodigits,"
-            "addnumberheadnodigits,addnumbersessionnodigits,addnumberformat";
-        for (const QString& family : {nameFamily(1), nameFamily(type)}) {
-            for (const QString& name : QStringList{family + "groupdir", family + "subdir", family + "filename"}) {
-                for (const QString& key : keys.split(',')) {
-                    names.prefs[name + key] = typed();
-                }
-            }
-            names.prefs[family + "saveinf"] = below(3) == 0;
-            names.prefs[family + "dir"] = "/root";
-        }
-        names.prefs["save/SaveInfFile"] = true;
-        names.prefs["export/media"] = "file";
-        names.inFileMode = below(4) == 0;
-        names.other = document(3);
-        for (const char* there : {"/root/", "/root/HH_S1/", "/root/2_S01/", "/root/S1/", "/root/S01/"}) {
-            names.disk[there] = QStringList({"shot_C1_1", "HH_C2_S1_1.png", "C1_s_S11", text()});
-        }
-        return names;
-    }
-
-private:
-    std::mt19937 m_random;
-
-public:
-    const int type = below(19);
-    const bool isName = below(2);
-};
-
-TEST(TargetPaths, OfACameraAreItsOwnAndBelowTheRoot) {
-    constexpr int Names = 10000;
-    int composed = 0;
-    for (unsigned seed = 0; composed < Names && !HasFailure(); ++seed) {
-        SCOPED_TRACE(seed);
-        Course course;
-        AnyNames any(seed);
-        GivenNames names = any.names();
-        const GivenDocument first = any.document(1);
-        const GivenDocument second = any.document(2);
-        // What was composed, and why it ended.
-        const auto pathsOf = [&](const GivenDocument& document, QStringList& paths) {
-            TargetPaths out;
-            const QString failure = names.compose(any.type, document, out);
-            paths = out.paths.values();
-            composed += paths.size();
-            return QStringList(out.groups.values()) + out.folders.values() + paths + QStringList(failure);
-        };
-        QStringList paths;
-        const QStringList alone = pathsOf(second, paths);
-        pathsOf(first, paths);
-        names.taken = {paths.begin(), paths.end()};
-        EXPECT_EQ(pathsOf(second, paths), alone);
-        for (const QString& path : paths) {
-            EXPECT_TRUE(path.startsWith("/root/"));
-            for (const QString& part : path.mid(6).split('/')) {
-                const bool isName = isGoodFileName(part) && !QStringList({"", ".", ".."}).contains(part);
-                EXPECT_TRUE(isName || !any.isName || path.endsWith("/")) << path.toStdString();
-            }
-        }
-    }
 }
 
 }  // namespace

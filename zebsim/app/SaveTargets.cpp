@@ -29,9 +29,9 @@ public:
         return typed == m_typed.end() ? m_host.prefs().value(key) : *typed;
     }
     /// Once a save, and not at each key that is typed.
-    void noteTaken(const QString& path) const override {
+    void noteTaken(const QString& what) const override {
         if (!m_isPreview) {
-            HostNameSource::noteTaken(path);
+            HostNameSource::noteTaken(what);
         }
     }
 
