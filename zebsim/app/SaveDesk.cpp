@@ -118,7 +118,6 @@ void SaveDesk::beginAgain(const std::vector<SaveTrack>& tracks) {
     SaveOrders orders = m_job->orders();
     orders.tracks = tracks;
     orders.mayReplace.clear();
-    orders.absent.clear();
     std::vector<TrackTarget> targets;
     for (const SaveTrack& track : tracks) {
         const QFileInfo stem(track.stem);
