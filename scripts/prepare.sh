@@ -6,12 +6,11 @@ packages=(
     qtbase5-dev qtbase5-private-dev qtdeclarative5-dev qttools5-dev qttools5-dev-tools libqt5webkit5-dev
     qt5-image-formats-plugins qttranslations5-l10n
     libzip-dev libdeflate-dev libpng-dev libtiff-dev rapidjson-dev libopencv-imgproc-dev pkg-config
-    libgtest-dev libgmock-dev python3-jsonschema imagemagick
+    libgtest-dev libgmock-dev python3-jsonschema imagemagick ffmpeg
     fonts-dejavu-core fonts-noto-cjk
 )
 run_packages=(xvfb xauth openbox)
 lint_packages=(clang-format-16 clang-tidy)
-bench_packages=(ffmpeg)
 clang_packages=(clang libclang-rt-14-dev libomp-14-dev)
 
 # install_missing PACKAGE...: as root or by sudo; otherwise names what is missing and fails.
