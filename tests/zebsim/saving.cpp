@@ -18,6 +18,15 @@ const QStringList AllFiles = {"Gate_-00001.png", "Gate_00000.png", "Nozzle_2_000
 const QString GateSaved = "Gate: 2 of 2 up to 0, saved";
 const QString NozzleSaved = "Nozzle/2: 3 of 3 up to 2, saved";
 
+/// Of two texts of bytes, on average.
+double difference(const QByteArray& one, const QByteArray& two) {
+    double sum = one.size() == two.size() ? 0 : std::numeric_limits<double>::max();
+    for (int i = 0; i < std::min(one.size(), two.size()); ++i) {
+        sum += std::abs(uchar(one[i]) - uchar(two[i]));
+    }
+    return sum / std::max(1, one.size());
+}
+
 TEST_F(Saving, WritesTheChosenFramesSoThatOthersReadThem) {
     host.camera(3).change({{"effectivePlugins", QStringList{"filter", "mosaic", "lut"}},
                            {"pluginValues", QVariantMap{{"lut", QVariantMap{{"white", 160}}}}}});
@@ -40,23 +49,14 @@ TEST_F(Saving, WritesTheChosenFramesSoThatOthersReadThem) {
         for (const SaveTrack& track : wanted.tracks) {
             const QString file = fileOf(track, format, 5, 1);
             const QByteArray read = readByOthers(file, depth);
-            EXPECT_EQ(read.size(), Size.width() * Size.height() * 3 * depth / 8);
-            EXPECT_TRUE(read == pixelsOf(track.picture(1), depth) || format.id == "jpeg") << file.toStdString();
+            const int most = format.id == "jpeg" ? 4 : 0;
+            EXPECT_LE(difference(read, pixelsOf(track.picture(1), depth)), most) << file.toStdString();
         }
         removeFiles();
     }
     const CameraFrame second{
         "Nozzle/2", Size, 1, 1000, SensorNoise::of(host.camera(3)), effectsOf(host.camera(3).state(), zeb::MemoryMode)};
     EXPECT_EQ(orders().tracks[1].picture(1), drawFrame(second, Size));
-}
-
-/// The text in a saved picture. Qt's reader of TIFF files passes over it.
-QString textIn(const QString& file) {
-    if (!file.endsWith(".tif")) {
-        return QImage(file).text("Description");
-    }
-    const QByteArray bytes = contentOf(file);
-    return QString::fromLatin1(bytes.mid(bytes.indexOf("{\"camera")).constData());
 }
 
 TEST_F(Saving, TellsInEachFileWhatItShows) {
@@ -77,11 +77,11 @@ TEST_F(Saving, TellsInEachFileWhatItShows) {
         const SaveOrders wanted = orders(format);
         run(wanted);
         const QString file = fileOf(wanted.tracks[0], wanted.format, 5, 0);
-        EXPECT_EQ(textIn(file), text) << format;
-        if (wanted.format.id == "png") {
-            EXPECT_EQ(QImage(file).text("camera"), name);
-            EXPECT_EQ(QImage(file).text("time"), "-0.001000");
-        }
+        const bool isPng = wanted.format.id == "png";
+        const QString texts =
+            QString::fromUtf8(outputOf("identify", {"-format", isPng ? "%[Description]%[time]" : "%[comment]", file}));
+        EXPECT_EQ(texts, isPng ? text % "-0.001000" : wanted.format.id == "jpeg" ? "Description: " % text : text);
+        EXPECT_EQ(QImage(file).text("camera"), isPng ? name : QString());
     }
     host.camera(1).change({{"triggerOffset", 60}, {"triggerOffsetEnabled", true}});
     EXPECT_TRUE(orders().tracks[0].metadata(0).description.contains("\"frame\":39,\"time\":-0.001000"))
@@ -155,7 +155,8 @@ TEST_F(Saving, LosesNoOtherTrackByAFileOrFolderThatCannotBeWritten) {
     write(path("file"), "old");
     const struct {
         const char *what, *stem, *outcome, *file;
-    } cases[] = {{"a folder of that name", "Gate", "Gate: 1 of 42 up to -1, failed", "Gate_00000.png"},
+    } cases[] = {{"a folder that vanishes", "gone/Gate", "Gate: 0 of 42 up to 0, failed", "gone"},
+                 {"a folder of that name", "Gate", "Gate: 1 of 42 up to -1, failed", "Gate_00000.png"},
                  {"a folder that can't be made", "file/below/Gate", "Gate: 0 of 42 up to 0, failed", "below"},
                  {"a folder that can only be read", "locked/Gate", "Gate: 0 of 42 up to 0, failed", "Gate_-00001.png"},
                  {"a new folder", "new/er/Gate", "Gate: 42 of 42 up to 40, saved", ""}};
@@ -164,6 +165,12 @@ TEST_F(Saving, LosesNoOtherTrackByAFileOrFolderThatCannotBeWritten) {
         SaveOrders wanted = orders();
         wanted.tracks[0].stem = path(one.stem);
         wanted.mayReplace = {path("Gate_00000.png")};
+        wanted.diskFault = [this] {
+            if (QDir(path("gone")).entryList(QDir::Files).size() == 5) {
+                QDir().rename(path("gone"), path("away"));
+            }
+            return QString();
+        };
         failedFile.clear();
         EXPECT_EQ(run(wanted), QStringList({one.outcome, NozzleSaved})) << one.what;
         EXPECT_EQ(failedFile, one.file) << one.what;
@@ -282,25 +289,83 @@ TEST_F(Saving, ReadsCamerasSideBySide) {
 
 TEST(SavingWithoutAnswer, HoldsUpNoOtherCameraAndNoCancel) {
     for (const bool isCancelled : {true, false}) {
-        RecordedHost<RealClock> test(3, 20);
-        test.host.faults().plant(2, "readFrame", {{}, std::numeric_limits<int>::max(), false});
+        RecordedHost<RealClock> test(8, 20);
+        FaultPlan& faults = test.host.faults();
+        faults.plant(2, "readFrame", {{}, std::numeric_limits<int>::max(), false});
+        faults.plant(4, "readFrame", {"it is too hot", 0, false, 7});
+        faults.plant(6, "readFrame", {{}, 0, true, 9});
         SaveJob job(test.host.cameras(), test.orders());
         job.start();
-        ASSERT_TRUE(until([&job] { return job.state().saved == std::vector<int>({20, 0, 20}); }));
+        ASSERT_TRUE(until([&job] { return job.state().saved == std::vector<int>({20, 0, 20, 7, 20, 9, 20, 20}); }));
         EXPECT_TRUE(job.isRunning());
         if (!isCancelled) {
             continue;  // It is destroyed.
         }
         job.cancel();
         ASSERT_TRUE(until([&job] { return !job.isRunning(); }));
-        QList<int> ends;
+        QStringList reasons;
         for (const SaveOutcome& outcome : job.outcomes()) {
-            ends << outcome.end;
+            reasons << (outcome.end == SaveOutcome::Cancelled ? "cancelled" : outcome.reason);
         }
-        EXPECT_EQ(ends, QList<int>({SaveOutcome::Saved, SaveOutcome::Cancelled, SaveOutcome::Saved}));
+        EXPECT_EQ(reasons, QStringList({"", "cancelled", "", "it is too hot", "", "the camera is gone", "", ""}));
         EXPECT_EQ(job.outcomes()[1].name, "Camera 2");
         EXPECT_TRUE(test.host.cameras().find(1)->recording()->saved);
     }
+}
+
+TEST(SavingToASlowDisk, WaitsForItNoLongerWhenItIsCancelled) {
+    RecordedHost<RealClock> test(1, 3);
+    test.host.faults().plant(FaultPlan::Disk, "write", {{}, std::numeric_limits<int>::max(), false});
+    std::atomic<bool> isWriting{false};
+    SaveOrders wanted = test.orders();
+    wanted.diskFault = [&] {
+        isWriting = true;
+        return test.host.faults().suffer(FaultPlan::Disk, "write", test.clock);
+    };
+    SaveJob job(test.host.cameras(), wanted);
+    job.start();
+    ASSERT_TRUE(until([&] { return isWriting.load(); }));
+    job.cancel();
+    EXPECT_TRUE(until([&job] { return !job.isRunning(); }));
+}
+
+/// No thread can be made while it lives.
+class NoThreads {
+public:
+    NoThreads() {
+        constexpr std::size_t MoreThanThereIs = std::size_t(1) << 48;
+        pthread_attr_init(&m_before);
+        pthread_getattr_default_np(&m_before);
+        pthread_attr_t none = m_before;
+        pthread_attr_setstacksize(&none, MoreThanThereIs);
+        pthread_setattr_default_np(&none);
+    }
+    ~NoThreads() { pthread_setattr_default_np(&m_before); }
+
+private:
+    pthread_attr_t m_before{};
+};
+
+TEST(SavingWithoutThreads, FailsByNameOrGoesOnWithThoseThereAre) {
+    RecordedHost<RealClock> test(2, 3);
+    SaveOrders wanted = test.orders();
+    {
+        const NoThreads none;
+        SaveJob job(test.host.cameras(), wanted);
+        job.start();
+        ASSERT_TRUE(until([&job] { return !job.isRunning(); }));
+        ASSERT_EQ(job.outcomes().size(), 2);
+        EXPECT_EQ(job.outcomes()[1].name, "Camera 2");
+        EXPECT_EQ(job.outcomes()[1].reason, "Resource temporarily unavailable");
+    }
+    wanted.tracks = tracksOfLayout(saveSources(test.host.cameras()), "Layout");
+    wanted.tracks.front().stem = test.folder.filePath("Layout");
+    std::optional<NoThreads> none;
+    wanted.diskFault = [&none] { return none ? QString() : (none.emplace(), QString()); };
+    SaveJob job(test.host.cameras(), wanted);
+    job.start();
+    ASSERT_TRUE(until([&job] { return !job.isRunning(); }));
+    EXPECT_EQ(job.outcomes().front().saved, 3) << "cameras of a layout are read one after the other";
 }
 
 TEST_F(Saving, EndsWithWholeFilesAndTellsThemWhenItIsCancelled) {
@@ -320,6 +385,24 @@ TEST_F(Saving, EndsWithWholeFilesAndTellsThemWhenItIsCancelled) {
     for (const QString& name : files()) {
         EXPECT_FALSE(QImage(path(name)).isNull()) << name.toStdString();
     }
+}
+
+TEST_F(Saving, IsCompleteWhenItIsCancelledAtItsLastFrame) {
+    SaveOrders wanted = orders();
+    wanted.tracks.erase(wanted.tracks.begin());
+    std::unique_ptr<SaveJob> job;
+    wanted.diskFault = [&] {
+        if (files().size() == 2) {
+            QMetaObject::invokeMethod(
+                qApp, [&job] { job->cancel(); }, Qt::BlockingQueuedConnection);
+        }
+        return QString();
+    };
+    job = std::make_unique<SaveJob>(host.host.cameras(), wanted);
+    job->start();
+    ASSERT_TRUE(until([&job] { return !job->isRunning(); }));
+    EXPECT_EQ(told(*job), QStringList(NozzleSaved));
+    EXPECT_TRUE(host.camera(3).recording()->saved);
 }
 
 TEST_F(Saving, LaysTheCamerasSideBySide) {

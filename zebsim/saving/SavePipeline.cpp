@@ -3,15 +3,20 @@
 #include "FileWriter.h"
 #include "ParallelRows.h"
 #include "TextKey.h"
+#include "Threads.h"
 
 #include <QDir>
+#include <QFile>
 #include <QThread>
 
 #include <sys/resource.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <algorithm>
+#include <cerrno>
 #include <map>
+#include <system_error>
 
 namespace {
 
@@ -20,22 +25,13 @@ constexpr int Niceness = 5;
 /// Of cameras that do not answer as many can be borne before others wait.
 constexpr int MostGrowing = 8;
 
-int cores() {
-    return QThread::idealThreadCount();
+/// One may wait for a disk or an encoder that takes no more.
+int workers() {
+    return std::max(2, QThread::idealThreadCount());
 }
 
-std::vector<std::thread> threads(std::size_t count, const std::function<void()>& work) {
-    std::vector<std::thread> threads;
-    for (std::size_t i = 0; i < count; ++i) {
-        threads.emplace_back(work);
-    }
-    return threads;
-}
-
-void join(std::vector<std::thread>& threads) {
-    for (std::thread& thread : threads) {
-        thread.join();
-    }
+int mostFrames() {
+    return 2 * workers() + 2;
 }
 
 void failAll(const std::vector<TrackRun*>& runs, const FileError& error) {
@@ -50,20 +46,27 @@ SavePipeline::SavePipeline(const CameraBank& cameras, const SaveOrders& orders, 
     : m_cameras(cameras),
       m_orders(orders),
       m_whenOver(std::move(whenOver)),
-      m_frameRoom(2 * cores() + 2),
-      m_fileRoom(std::max(MostGrowing, cores())) {
+      m_framePermits(mostFrames()),
+      m_filePermits(std::max(MostGrowing, workers())) {
     for (int number = 0; number < int(orders.tracks.size()); ++number) {
-        m_runs.push_back(std::make_unique<TrackRun>(number, orders, m_stop));
+        m_runs.push_back(std::make_unique<TrackRun>(number, orders, mostFrames() / 2, m_stop));
         m_folders[m_runs.back()->folder()].push_back(m_runs.back().get());
     }
     makeGroups();
-    m_thread = std::thread([this] { run(); });
+    try {
+        m_thread = std::thread([this] { run(); });
+    } catch (const std::system_error&) {
+        failForWantOfThreads();
+        m_whenOver();
+    }
 }
 
 SavePipeline::~SavePipeline() {
     m_isDropped = true;
     stop();
-    m_thread.join();
+    if (m_thread.joinable()) {
+        m_thread.join();
+    }
 }
 
 /// A camera hands over one frame at a time.
@@ -82,8 +85,11 @@ void SavePipeline::makeGroups() {
 
 void SavePipeline::stop() {
     m_stop.stop();
-    m_frameRoom.close();
-    m_fileRoom.close();
+    m_framePermits.close();
+    m_filePermits.close();
+    for (const auto& run : m_runs) {
+        run->frames().close();
+    }
 }
 
 std::vector<int> SavePipeline::done() const {
@@ -104,19 +110,33 @@ QList<SaveOutcome> SavePipeline::outcomes() const {
 
 void SavePipeline::run() {
     makeFolders();
-    auto workers = threads(std::size_t(cores()), [this] { work(); });
-    auto readers = threads(std::min(m_groups.size(), std::size_t(ParallelRows::MostAtOnce)), [this] { readGroups(); });
-    join(readers);
+    readAndWrite();
+    if (!m_isDropped) {
+        sync();
+    }
+    m_whenOver();
+}
+
+void SavePipeline::readAndWrite() {
+    auto writing = startThreads(std::size_t(workers()), [this] { makePictures(); });
+    const std::size_t readers = writing.empty() ? 0 : std::min(m_groups.size(), std::size_t(ParallelRows::MostAtOnce));
+    auto reading = startThreads(readers, [this] { readGroups(); });
+    if (reading.empty()) {
+        failForWantOfThreads();
+    }
+    join(reading);
     {
         const std::lock_guard lock(m_mutex);
         m_isAllRead = true;
         m_change.notify_all();
     }
-    join(workers);
-    if (!m_isDropped) {
-        sync();
+    join(writing);
+}
+
+void SavePipeline::failForWantOfThreads() {
+    for (const auto& run : m_runs) {
+        run->fail(FileError(m_orders.fileOf(run->track(), run->track().from), qt_error_string(EAGAIN)));
     }
-    m_whenOver();
 }
 
 void SavePipeline::makeFolders() {
@@ -129,15 +149,27 @@ void SavePipeline::makeFolders() {
     }
 }
 
+/// Once a file system.
 void SavePipeline::sync() {
+    std::map<dev_t, std::pair<QString, Runs>> fileSystems;
     for (const auto& [folder, runs] : m_folders) {
-        const bool isWritten = std::any_of(runs.begin(), runs.end(), [](TrackRun* run) { return run->done() > 0; });
+        struct stat there {};
+        if (std::none_of(runs.begin(), runs.end(), [](TrackRun* run) { return run->done() > 0; })) {
+            continue;
+        }
+        if (::stat(QFile::encodeName(folder).constData(), &there) != 0) {
+            failAll(runs, FileError(folder, qt_error_string()));
+            continue;
+        }
+        auto& [first, all] = fileSystems[there.st_dev];
+        first = folder;
+        all.insert(all.end(), runs.begin(), runs.end());
+    }
+    for (const auto& [device, written] : fileSystems) {
         try {
-            if (isWritten) {
-                syncDisk(folder);
-            }
+            syncDisk(written.first);
         } catch (const FileError& e) {
-            failAll(runs, e);
+            failAll(written.second, e);
         }
     }
 }
@@ -156,11 +188,12 @@ void SavePipeline::readTrack(TrackRun& run) {
     int index = track.from;
     for (; index < track.frames() && !run.hasFailed() && run.read(m_cameras, index); ++index) {
         if (index == track.from && m_orders.format.isOneFile()) {
-            run.hold(m_fileRoom.take());
+            run.hold(m_filePermits.acquire());
         }
-        // Not before: whoever does not answer needs no room.
-        Places::Taken room = m_frameRoom.take();
-        if (!room) {
+        // Not before: whoever does not answer needs no room. The track's own first, for it may have no more for long.
+        FrameRoom room{run.frames().acquire(), {}};
+        room.ofAll = m_framePermits.acquire();
+        if (!room.ofAll) {
             return;
         }
         const std::lock_guard lock(m_mutex);
@@ -172,7 +205,8 @@ void SavePipeline::readTrack(TrackRun& run) {
     }
 }
 
-void SavePipeline::work() {
+void SavePipeline::makePictures() {
+    const StopSource::Carried carried(m_stop);
     ::setpriority(PRIO_PROCESS, id_t(::gettid()), Niceness);
     while (auto frame = nextFrame()) {
         frame->run->make(frame->index, frame->lost, std::move(frame->room));

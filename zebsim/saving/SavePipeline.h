@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Places.h"
+#include "Semaphore.h"
 #include "StopSource.h"
 #include "TrackRun.h"
 
@@ -16,10 +16,12 @@
 #include <vector>
 
 /// The threads of a save. Readers wait for cameras: each has one camera, or one layout, at a time, so that a slow one
-/// holds up itself alone. Workers make pictures of what was read and write them, on all cores.
+/// holds up itself alone. Workers make pictures of what was read and write them, on all cores. A track whose file takes
+/// no more holds half of the room for frames at most, and one worker.
 class SavePipeline {
 public:
-    /// Begins. `whenOver` is called on a thread of its own when all has ended. All must outlive it.
+    /// Begins. `whenOver` is called when all has ended, on a thread of its own; at once when none can be made, and then
+    /// no track is saved. All must outlive it.
     SavePipeline(const CameraBank& cameras, const SaveOrders& orders, std::function<void()> whenOver);
     /// Stops within a frame.
     ~SavePipeline();
@@ -39,16 +41,18 @@ private:
         TrackRun* run;
         int index;
         QSet<int> lost;
-        Places::Taken room;
+        FrameRoom room;
     };
 
     void makeGroups();
     void run();
     void makeFolders();
+    void readAndWrite();
+    void failForWantOfThreads();
     void sync();
     void readGroups();
     void readTrack(TrackRun& run);
-    void work();
+    void makePictures();
     std::optional<Frame> nextFrame();
 
     const CameraBank& m_cameras;
@@ -56,8 +60,8 @@ private:
     const std::function<void()> m_whenOver;
     StopSource m_stop;
     /// For frames in memory, and for files that grow, each of which can cost a program.
-    Places m_frameRoom;
-    Places m_fileRoom;
+    Semaphore m_framePermits;
+    Semaphore m_filePermits;
     std::vector<std::unique_ptr<TrackRun>> m_runs;
     std::map<QString, Runs> m_folders;
     /// Those of a group are read one after the other.

@@ -4,11 +4,14 @@
 #include "Clock.h"
 #include "ClockRows.h"
 #include "FailureText.h"
+#include "ParallelRows.h"
 #include "StopSource.h"
+#include "Threads.h"
 
 #include <QFileInfo>
 
 #include <algorithm>
+#include <atomic>
 #include <exception>
 
 namespace {
@@ -23,14 +26,37 @@ QString reasonOf(const std::exception_ptr& failure) {
     }
 }
 
+/// What each row has thrown. The calling thread reads as well, so that it goes without others.
+std::vector<std::exception_ptr> readSideBySide(Clock& clock, int rows, const std::function<void(int)>& read) {
+    if (clock.isStepped() || rows == 1) {
+        return runSteppedRows(clock, rows, read);
+    }
+    std::vector<std::exception_ptr> failures(std::size_t(rows), nullptr);
+    std::atomic<int> next{0};
+    const auto work = [&] {
+        for (int row = next++; row < rows; row = next++) {
+            try {
+                read(row);
+            } catch (...) {
+                failures[std::size_t(row)] = std::current_exception();
+            }
+        }
+    };
+    auto others = startThreads(std::size_t(std::clamp(rows, 1, ParallelRows::MostAtOnce) - 1), work);
+    work();
+    join(others);
+    return failures;
+}
+
 }  // namespace
 
-TrackRun::TrackRun(int number, const SaveOrders& orders, const StopSource& stop)
+TrackRun::TrackRun(int number, const SaveOrders& orders, int mostFrames, const StopSource& stop)
     : m_number(number),
       m_orders(orders),
       m_track(orders.tracks[std::size_t(number)]),
       m_stop(stop),
       m_sink(FrameSink::of(orders, m_track, stop)),
+      m_frames(mostFrames),
       m_next(m_track.from) {}
 
 QString TrackRun::folder() const {
@@ -44,7 +70,7 @@ bool TrackRun::read(const CameraBank& cameras, int index) {
             asked.push_back(source);
         }
     }
-    const auto failures = runRows(m_track.sources.front().clock(), int(asked.size()), [&](int row) {
+    const auto failures = readSideBySide(m_track.sources.front().clock(), int(asked.size()), [&](int row) {
         const StopSource::Carried carried(m_stop);
         m_track.sources[std::size_t(asked[std::size_t(row)])].read(cameras, index);
     });
@@ -71,9 +97,9 @@ void TrackRun::noteLost(int source, int index, const QString& reason) {
     }
 }
 
-void TrackRun::hold(Places::Taken place) {
+void TrackRun::hold(Semaphore::Permit file) {
     const std::lock_guard lock(m_mutex);
-    m_place = std::move(place);
+    m_file = std::move(file);
 }
 
 void TrackRun::endAt(int index) {
@@ -82,7 +108,7 @@ void TrackRun::endAt(int index) {
     writeReady(lock);
 }
 
-void TrackRun::make(int index, const QSet<int>& lost, Places::Taken place) {
+void TrackRun::make(int index, const QSet<int>& lost, FrameRoom room) {
     FrameSink::Step work;
     try {
         work = m_sink->prepare(index, lost);
@@ -94,7 +120,7 @@ void TrackRun::make(int index, const QSet<int>& lost, Places::Taken place) {
     if (m_failure) {
         return;
     }
-    m_ready.emplace(index, Step{std::move(work), std::move(place)});
+    m_ready.emplace(index, Step{std::move(work), std::move(room)});
     writeReady(lock);
 }
 
@@ -120,19 +146,19 @@ void TrackRun::writeReady(std::unique_lock<std::mutex>& lock) {
 
 void TrackRun::note(bool isLast, const std::optional<FileError>& failure) {
     if (isLast || failure) {
-        m_place.reset();
+        m_file.reset();
         m_ready.clear();
     }
     if (!failure) {
         m_next += isLast ? 0 : 1;
-        m_isComplete = isLast;
+        m_isFinished = isLast;
     } else if (!m_stop.isStopped()) {
         m_failure = failure;
     }
 }
 
 std::optional<TrackRun::Step> TrackRun::nextStep() {
-    if (m_failure || m_isComplete || m_stop.isStopped()) {
+    if (m_failure || m_isFinished || m_stop.isStopped()) {
         return std::nullopt;
     }
     if (m_next == m_end) {
@@ -152,7 +178,7 @@ std::optional<FileError> TrackRun::failureOf(const FrameSink::Step& work, int in
     } catch (const FileError& e) {
         return e;
     } catch (...) {
-        return FileError(fileOf(m_track, m_orders.format, m_orders.digits, index), currentFailureText());
+        return FileError(m_orders.fileOf(m_track, index), currentFailureText());
     }
 }
 
@@ -172,13 +198,18 @@ int TrackRun::done() const {
     return m_next - m_track.from;
 }
 
+/// A file for each frame is finished by the frame itself, though the save may be stopped before it is noted.
+bool TrackRun::isComplete() const {
+    return m_isFinished || (!m_orders.format.isOneFile() && m_next == m_end.value_or(m_track.frames()));
+}
+
 int TrackRun::saved() const {
-    return m_orders.format.isOneFile() && !m_isComplete ? 0 : m_next - m_track.from;
+    return m_orders.format.isOneFile() && !m_isFinished ? 0 : m_next - m_track.from;
 }
 
 SaveOutcome::End TrackRun::end() const {
     return m_failure                                      ? SaveOutcome::FileFailed
-           : !m_isComplete                                ? SaveOutcome::Cancelled
+           : !isComplete()                                ? SaveOutcome::Cancelled
            : m_lost.size() == int(m_track.sources.size()) ? SaveOutcome::CameraLost
                                                           : SaveOutcome::Saved;
 }

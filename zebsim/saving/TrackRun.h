@@ -2,8 +2,9 @@
 
 #include "FileError.h"
 #include "FrameSink.h"
-#include "Places.h"
-#include "SaveJob.h"
+#include "SaveOrders.h"
+#include "SaveOutcome.h"
+#include "Semaphore.h"
 
 #include <QSet>
 
@@ -12,13 +13,20 @@
 #include <optional>
 
 class CameraBank;
+class StopSource;
+
+/// Room for a frame in memory: of those of its track, and of those of all.
+struct FrameRoom {
+    Semaphore::Permit ofTrack;
+    Semaphore::Permit ofAll;
+};
 
 /// A track while it is saved. One thread reads its frames. They are made on any others, side by side, and written in
 /// their order by whichever has made the next one.
 class TrackRun {
 public:
-    /// `number` of it in `orders`, which must outlive it as `stop` must.
-    TrackRun(int number, const SaveOrders& orders, const StopSource& stop);
+    /// `number` of it in `orders`, which must outlive it as `stop` must. At most `mostFrames` of it are in memory.
+    TrackRun(int number, const SaveOrders& orders, int mostFrames, const StopSource& stop);
 
     const SaveTrack& track() const { return m_track; }
     QString folder() const;
@@ -30,14 +38,16 @@ public:
     /// Places in `sources` of those that are lost so far.
     const QSet<int>& lost() const { return m_lost; }
     /// It keeps that until all of it is written.
-    void hold(Places::Taken place);
+    void hold(Semaphore::Permit file);
+    /// For frames of it in memory.
+    Semaphore& frames() { return m_frames; }
     /// Frame `index` and those behind it do not come.
     void endAt(int index);
 
     // For any.
 
-    /// Makes a frame that has been read, and writes what is next. `place` is given back when that frame is written.
-    void make(int index, const QSet<int>& lost, Places::Taken place);
+    /// Makes a frame that has been read, and writes what is next. `room` is free again when that frame is written.
+    void make(int index, const QSet<int>& lost, FrameRoom room);
     /// Nothing of it is saved.
     void fail(const FileError& error);
     bool hasFailed() const;
@@ -49,7 +59,7 @@ public:
 private:
     struct Step {
         FrameSink::Step work;
-        Places::Taken place;
+        FrameRoom room;
     };
 
     void noteLost(int source, int index, const QString& reason);
@@ -58,6 +68,7 @@ private:
     /// What has become of a step.
     void note(bool isLast, const std::optional<FileError>& failure);
     std::optional<FileError> failureOf(const FrameSink::Step& work, int index) const;
+    bool isComplete() const;
     int saved() const;
     SaveOutcome::End end() const;
 
@@ -66,6 +77,7 @@ private:
     const SaveTrack& m_track;
     const StopSource& m_stop;
     const std::unique_ptr<FrameSink> m_sink;
+    Semaphore m_frames;
 
     // The reader's; others look when it has ended.
     QSet<int> m_lost;
@@ -78,8 +90,8 @@ private:
     std::optional<int> m_end;
     /// What is made and waits for its turn, by frame.
     std::map<int, Step> m_ready;
-    Places::Taken m_place;
+    Semaphore::Permit m_file;
     bool m_isWriting = false;
-    bool m_isComplete = false;
+    bool m_isFinished = false;
     std::optional<FileError> m_failure;
 };

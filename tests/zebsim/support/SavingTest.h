@@ -11,13 +11,18 @@
 
 #include <gtest/gtest.h>
 
+/// What another program answers.
+inline QByteArray outputOf(const QString& program, const QStringList& arguments) {
+    QProcess process;
+    process.start(program, arguments, QIODevice::ReadOnly);
+    EXPECT_TRUE(process.waitForFinished()) << program.toStdString() << " is not installed";
+    EXPECT_EQ(process.readAllStandardError(), "") << arguments.join(' ').toStdString();
+    return process.readAllStandardOutput();
+}
+
 /// The pixels as another program reads them, red, green and blue.
 inline QByteArray readByOthers(const QString& path, int depth) {
-    QProcess reader;
-    reader.start("convert", {path, "-depth", QString::number(depth), "-endian", "LSB", "rgb:-"});
-    EXPECT_TRUE(reader.waitForFinished()) << "imagemagick is not installed";
-    EXPECT_EQ(reader.readAllStandardError(), "") << path.toStdString();
-    return reader.readAllStandardOutput();
+    return outputOf("convert", {path, "-depth", QString::number(depth), "-endian", "LSB", "rgb:-"});
 }
 
 inline QByteArray pixelsOf(const QImage& picture, int depth) {

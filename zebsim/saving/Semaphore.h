@@ -4,28 +4,28 @@
 #include <memory>
 #include <mutex>
 
-/// So many places, each for one at a time. Any thread.
-class Places {
+/// So many permits, each for one at a time. Any thread.
+class Semaphore {
 public:
-    explicit Places(int count) : m_free(count) {}
+    explicit Semaphore(int permits) : m_free(permits) {}
 
-    struct Back {
-        void operator()(Places* places) const { places->giveBack(); }
+    struct Release {
+        void operator()(Semaphore* semaphore) const { semaphore->release(); }
     };
-    /// A place that is taken until it is destroyed. The places must outlive it.
-    using Taken = std::unique_ptr<Places, Back>;
+    /// Held until it is destroyed. The semaphore must outlive it.
+    using Permit = std::unique_ptr<Semaphore, Release>;
 
-    /// Waits for a free place; null when they are closed.
-    Taken take() {
+    /// Waits for a free permit; null when it is closed.
+    Permit acquire() {
         std::unique_lock lock(m_mutex);
         m_change.wait(lock, [this] { return m_free > 0 || m_closed; });
         if (m_closed) {
             return {};
         }
         --m_free;
-        return Taken(this);
+        return Permit(this);
     }
-    /// Nobody gets a place any more.
+    /// Nobody gets a permit any more.
     void close() {
         const std::lock_guard lock(m_mutex);
         m_closed = true;
@@ -33,7 +33,7 @@ public:
     }
 
 private:
-    void giveBack() {
+    void release() {
         const std::lock_guard lock(m_mutex);
         ++m_free;
         m_change.notify_one();
