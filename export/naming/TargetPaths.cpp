@@ -95,8 +95,9 @@ QString customText(const QList<QVariantMap>& items, bool includeUnit) {
 /// The names of one document's files, which share the rounds that a search for free ones may take.
 class Composition {
 public:
-    Composition(const NameSource& source, const NamedDocument* document, const QDateTime& time)
-        : m_source(source), m_document(document), m_time(time) {}
+    /// Files go into `substitute` if it is not empty, whatever their own folder.
+    Composition(const NameSource& source, const NamedDocument* document, const QDateTime& time, QString substitute = {})
+        : m_source(source), m_document(document), m_time(time), m_substitute(std::move(substitute)) {}
     ~Composition() {
         if (m_passed > MostNoted) {
             m_source.noteTaken(QStringLiteral("%1 more").arg(m_passed - MostNoted));
@@ -123,6 +124,7 @@ private:
     const NameSource& m_source;
     const NamedDocument* m_document;
     const QDateTime& m_time;
+    const QString m_substitute;
     int m_rounds = 0;
     /// Directories that are there or taken.
     int m_passed = 0;
@@ -212,7 +214,10 @@ bool Composition::isFree(int type, const QString& base, const QString& name) {
     const FamilyPrefs prefs(m_source, type);
     folder += withSlash(groupDir(type, prefs.flag("groupdirasfilenameincludeoption") ? name : base));
     folder += withSlash(subDir(type, prefs.flag("subdirasfilenameincludeoption") ? name : base));
-    return !m_source.isPathTaken(folder + name) && !m_source.hasFile(folder, name);
+    const auto isFreeIn = [&](const QString& path) {
+        return !m_source.isPathTaken(path + name) && !m_source.hasFile(path, name);
+    };
+    return isFreeIn(folder) && (m_substitute.isEmpty() || isFreeIn(withSlash(m_substitute)));
 }
 
 QString Composition::groupDir(int type, const QString& name) {
@@ -287,9 +292,9 @@ QList<PARTITIONNUMBER> partitionsOf(int type, const NamedDocument* document) {
 void composeTargets(NameSource& source, int type, const NamedDocument* document, bool replaceRoot,
                     const QDateTime& time, int mode, TargetPaths& out) {
     const FamilyPrefs prefs(source, type);
-    Composition composition(source, document, time);
+    const QString substitute = replaceRoot ? source.substituteFolder().value_or(QString()) : QString();
+    Composition composition(source, document, time, substitute);
     const bool mayBeEmpty = isUnnamed(type) || source.pref("save/EnableBlankFilename").toBool();
-    const auto substitute = replaceRoot ? source.substituteFolder() : std::nullopt;
     const QString root = rootFolder(source, type, document);
     for (const PARTITIONNUMBER partition : partitionsOf(type, document)) {
         const QString base = rounded(composition.fileName(type, partition, false), type, mode);
@@ -307,8 +312,8 @@ void composeTargets(NameSource& source, int type, const NamedDocument* document,
         if (base.isEmpty() && !mayBeEmpty) {
             throw UTL_Exception(TextKey("Invalid filename."));
         }
-        if (substitute && !substitute->isEmpty()) {
-            folder = withSlash(*substitute);
+        if (!substitute.isEmpty()) {
+            folder = withSlash(substitute);
         }
         out.folders[partition] = folder;
         out.paths[partition] = folder + name;

@@ -32,6 +32,7 @@ QString JS_Mediator_AddDeviceDialog::getDevice() {
             device[QStringLiteral("comment")] =
                 camera->get(&CameraState::comment).replace(QLatin1String(zeb::CommentSeparator), QLatin1String("\n"));
         }
+        m_shown = device;
         return QString::fromUtf8(QJsonDocument(device).toJson(QJsonDocument::Compact));
     });
 }
@@ -41,19 +42,27 @@ void JS_Mediator_AddDeviceDialog::ok(const QString& sendData) {
         const QJsonObject data = QJsonDocument::fromJson(sendData.toUtf8()).object();
         const bool adds = m_key == zeb::NoDocKey;
         Camera* camera = adds ? addedAt(data[QStringLiteral("address")].toString().trimmed()) : m_cameras.find(m_key);
-        if (camera) {
-            const QString name = data[QStringLiteral("name")].toString();
-            camera->set(&CameraState::name, adds && name.isEmpty() ? camera->name() : name);
-            const QString comment =
-                data[QStringLiteral("comment")].toString().replace('\n', QLatin1String(zeb::CommentSeparator));
-            // What a camera has already nobody has seen yet who adds it.
-            camera->set(&CameraState::comment,
-                        adds && comment.isEmpty() ? camera->get(&CameraState::comment) : comment);
+        if (camera && !adds && camera->get(&CameraState::locked)) {
+            host().alert(host().translate(TextKey("%1 is locked. Nothing was changed.")).arg(camera->name()), nullptr);
+        } else if (camera) {
+            take(*camera, data);
             Q_EMIT accept();
         } else if (!adds) {
             Q_EMIT reject();  // it has gone
         }
     });
+}
+
+/// What nobody has typed stays as the camera has it by now.
+void JS_Mediator_AddDeviceDialog::take(Camera& camera, const QJsonObject& data) {
+    const QString name = data[QStringLiteral("name")].toString().trimmed();
+    const QString comment = data[QStringLiteral("comment")].toString();
+    if (name != m_shown[QStringLiteral("name")].toString()) {
+        camera.set(&CameraState::name, name);
+    }
+    if (comment != m_shown[QStringLiteral("comment")].toString()) {
+        camera.set(&CameraState::comment, QString(comment).replace('\n', QLatin1String(zeb::CommentSeparator)));
+    }
 }
 
 /// Null where none can be added, which is told.

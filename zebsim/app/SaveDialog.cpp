@@ -19,7 +19,6 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
-#include <set>
 
 SaveDialog::SaveDialog(SimHost& host, std::vector<SaveTrack> tracks, QStringList absent, QWidget* parent)
     : QDialog(parent),
@@ -144,18 +143,13 @@ std::vector<SaveTrack> SaveDialog::chosenTracks() const {
 }
 
 void SaveDialog::setNumbers() {
-    std::set<DOCKEY> cameras;
-    std::size_t heads = 1;
-    for (const SaveTrack& track : chosenTracks()) {
-        for (const SaveSource& source : track.sources) {
-            cameras.insert(source.key());
-            const Camera* camera = m_host.cameras().find(source.key());
-            heads = std::max(heads, camera ? camera->device().heads().size() : 1);
-        }
-    }
+    // As the names reckon it.
+    const int devices = m_host.cameras().deviceCount();
+    const Camera* camera = m_host.cameras().find(m_tracks[shownTrack()].sources.front().key());
+    const int heads = camera ? int(camera->device().heads().size()) : 1;
     const QPointer<SaveDialog> alive(this);
     const int slot = fileNameSlot(fileType(m_tracks.front()));
-    runDialog(m_host, new GUI_AddNumberDialog(&m_host, slot, int(cameras.size()), int(heads), this));
+    runDialog(m_host, new GUI_AddNumberDialog(&m_host, slot, devices, heads, this));
     if (alive) {
         follow();
     }

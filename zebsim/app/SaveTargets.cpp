@@ -4,6 +4,7 @@
 #include "HostNameSource.h"
 #include "HostNamedDocument.h"
 #include "SaveTexts.h"
+#include "SimControl.h"
 #include "SimHost.h"
 #include "TargetDisk.h"
 #include "TextKey.h"
@@ -44,12 +45,18 @@ private:
 /// A document of which one partition is saved.
 class OnePartition : public HostNamedDocument {
 public:
-    OnePartition(DOC_Interface& document, PARTITIONNUMBER partition)
-        : HostNamedDocument(document), m_partition(partition) {}
+    OnePartition(DOC_Interface& document, const Camera* camera, PARTITIONNUMBER partition)
+        : HostNamedDocument(document), m_camera(camera), m_partition(partition) {}
 
     QList<PARTITIONNUMBER> partitions() const override { return {m_partition}; }
+    /// That of its recording, whatever partition is in use.
+    QList<QVariantMap> customInfo() const override {
+        const auto recording = m_camera ? m_camera->recordingOf(m_partition) : std::nullopt;
+        return recording ? SimControl::itemsOf(recording->customInfo) : HostNamedDocument::customInfo();
+    }
 
 private:
+    const Camera* const m_camera;
     const PARTITIONNUMBER m_partition;
 };
 
@@ -65,7 +72,8 @@ public:
         if (document == nullptr) {
             throw std::runtime_error(TextKey("the camera is gone").toStdString());
         }
-        return TrackTarget::of(m_source, m_type, OnePartition(*document, partition), m_time);
+        const Camera* recorded = m_host.isMemoryMode() ? m_host.cameras().find(key) : nullptr;
+        return TrackTarget::of(m_source, m_type, OnePartition(*document, recorded, partition), m_time);
     }
     /// A layout is called after the first of its cameras that tells what is needed.
     TrackTarget targetOf(const SaveTrack& track) {

@@ -2423,5 +2423,9 @@
         <source>%1: %2 is there and is no file that could be replaced</source>
         <translation>%1：%2 は既に存在し、置き換えられるファイルではありません</translation>
     </message>
+    <message>
+        <source>%1 is locked. Nothing was changed.</source>
+        <translation>%1 はロックされています。何も変更されていません。</translation>
+    </message>
 </context>
 </TS>

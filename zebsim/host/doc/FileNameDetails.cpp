@@ -33,7 +33,8 @@ zeb::FileNameDetails fileNameDetails(const std::function<QVariant(const QString&
     const NumberDigits digits = digitsFor(pref, fileNameSlot(type), isFileMode, camera.counts);
     QStringList texts;
     const QStringList pieces = option("adddetails").toString().split(QLatin1Char(','));
-    for (const QString& piece : pieces) {
+    for (const QString& entry : pieces) {
+        const QString piece = entry.trimmed();
         if (piece == QLatin1String("name")) {
             texts << nameInFiles(camera.name);
         } else if (piece == QLatin1String("text")) {

@@ -90,9 +90,12 @@ bool SimControl::showsRecorded() const {
 }
 
 QList<QVariantMap> SimControl::getCustomInfoList() const {
+    return itemsOf(ask(OPERATION("getCustomInfoList")).customInfo(showsRecorded()));
+}
+
+QList<QVariantMap> SimControl::itemsOf(const CustomInfo& info) {
     const auto flag = [](bool on) { return on ? QStringLiteral("on") : QString(); };
     QList<QVariantMap> list;
-    const CustomInfo info = ask(OPERATION("getCustomInfoList")).customInfo(showsRecorded());
     for (const CustomItem& item : info.items()) {
         list.append({{QStringLiteral("name"), item.name},
                      {QStringLiteral("value"), item.value},

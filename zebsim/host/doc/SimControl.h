@@ -134,6 +134,8 @@ public:
     bool hasRecordedData() const override;
     void eraseRecordedData(int mode) override;
     QList<QVariantMap> getCustomInfoList() const override;
+    /// Items as `getCustomInfoList` answers them.
+    static QList<QVariantMap> itemsOf(const CustomInfo& info);
     void clearCustomInfo() override;
     /// Throws also for a 65th item.
     void addCustomInfo(const QString& name, const QString& value, const QString& unit, bool display,

@@ -11,14 +11,23 @@ $.widget('zeb.nameList', $.ui.autocomplete, {
         this.widget().menu('option', 'items', '> :not(.category, .more)');
         // A name of dashes is one too.
         this.widget().menu('instance')._isDivider = () => false;
-        this.element[0].addEventListener('keydown', event => this._leaveTyped(event), true);
+        // Before the list's own handler.
+        this.element.parent()[0].addEventListener('keydown', event => this._leaveTyped(event), true);
+        this.menu.element[0].addEventListener('mousemove', () => { this.byArrows = false; });
     },
 
     // Only an entry that the arrows have reached takes the place of what is typed, none that the mouse rests on.
     _leaveTyped(event) {
         const ARROWS = [33, 34, 38, 40];
+        const isListed = this.menu.element.is(':visible');
         if (ARROWS.indexOf(event.keyCode) >= 0) {
             this.byArrows = true;
+        } else if (event.keyCode === 27 && isListed) {
+            // The list would put back what it has searched for, which is behind a fast hand.
+            event.stopImmediatePropagation();
+            event.preventDefault();
+            clearTimeout(this.searching);
+            this.close();
         } else {
             const takes = event.keyCode === 13 && this.byArrows;
             this.byArrows = takes;
