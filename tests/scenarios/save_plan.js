@@ -33,13 +33,16 @@ zeb.keys().forEach(key => {
 const LAST = zeb.keys().length;
 [2, 3].forEach(partition => {
     zeb.setCamera(LAST, {partition});
-    zeb.setCamera(LAST, {recorded: true, recordedTrigger: 10, recordedRange: [0, 19], selectedRange: [9, 10]});
+    zeb.setCamera(LAST, {recorded: true, recordedTrigger: 10, recordedRange: [0, 19], selectedRange: [9, 10],
+        recordedCustomInfo: [{name: 'Run', value: `p${partition}`, unit: '', display: true, usefilename: true}]});
 });
 zeb.mode('memory');
 
 const first = plan({});
 same([first.possible, first.files, first.tracks.length, first.entries.map(entry => entry.text)],
     [true, 9 * 3 + 2 * 2, 11, [`The folder ${folder}/ is made.`]], 'the plan');
+const runs = plan({filenameusecustom: true}).tracks.slice(-2).map(track => track.first.split('/').pop());
+same(runs, ['p2_Parts_C08H1S001_-00001.png', 'p3_Parts_C08H1S001_-00001.png'], 'each partition has its own information');
 same(names(), [], 'nothing is written before the operator agrees');
 save({});
 const lines = zeb.results();
