@@ -2,7 +2,7 @@
 
 #include "FileError.h"
 #include "FileWriter.h"
-#include "PagesSink.h"
+#include "MultiPageTiffSink.h"
 #include "SaveOrders.h"
 #include "TextKey.h"
 #include "VideoSink.h"
@@ -39,7 +39,7 @@ std::unique_ptr<FrameSink> FrameSink::of(const SaveOrders& orders, const SaveTra
         return std::make_unique<VideoSink>(orders, track, stop);
     }
     if (orders.format.isOneFile()) {
-        return std::make_unique<PagesSink>(orders, track);
+        return std::make_unique<MultiPageTiffSink>(orders, track);
     }
     return std::make_unique<PictureSink>(orders, track);
 }

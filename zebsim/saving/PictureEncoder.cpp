@@ -14,10 +14,12 @@ QByteArray written(const QImage& picture, const char* format, int quality = -1) 
 
 }  // namespace
 
-QByteArray jpegOf(const QImage& picture, const FileMetadata& /*metadata*/, const PictureOptions& options) {
+QByteArray jpegOf(QImage&& picture, const FileMetadata& metadata, const PictureOptions& options) {
+    // Of several texts most readers see the last one only.
+    picture.setText(QStringLiteral("Description"), QString::fromLatin1(metadata.description));
     return written(picture, "jpeg", options.jpegQuality);
 }
 
-QByteArray bmpOf(const QImage& picture, const FileMetadata& /*metadata*/, const PictureOptions& /*options*/) {
+QByteArray bmpOf(QImage&& picture, const FileMetadata& /*metadata*/, const PictureOptions& /*options*/) {
     return written(picture, "bmp");
 }

@@ -5,8 +5,7 @@
 #include <algorithm>
 
 void copyRow(const QImage& picture, int y, int depth, char* levels) {
-    constexpr int Colours = 3;
-    const int count = picture.width() * Colours;
+    const int count = picture.width() * Channels;
     const QImage row = QImage(picture.constScanLine(y), picture.width(), 1, QImage::Format_RGB32)
                            .convertToFormat(QImage::Format_RGB888);
     const uchar* from = row.constBits();

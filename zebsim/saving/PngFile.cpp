@@ -11,9 +11,6 @@
 
 namespace {
 
-/// A higher one takes several times as long for a few bytes in a hundred.
-constexpr int Level = 1;
-constexpr int Colours = 3;
 /// Of texts; what is shorter hardly shrinks.
 constexpr int LongText = 1000;
 
@@ -76,24 +73,25 @@ void append(png_structp png, png_bytep bytes, std::size_t size) {
 
 void beSilent(png_structp /*png*/, png_const_charp /*text*/) {}
 
-/// What a thread packs pixels with. It is kept from picture to picture, for fresh memory takes as long as the packing.
-class Packer {
+/// What a thread compresses pixels with. It is kept from picture to picture, for fresh memory takes as long as all
+/// else.
+class Compressor {
 public:
-    /// The rows as the file has them, packed: each begins with how it is filtered, which none is.
-    QByteArray packed(const QImage& picture, int depth) {
+    /// The rows as the file has them, compressed: each begins with how it is filtered, which none is.
+    QByteArray compressed(const QImage& picture, int depth) {
         const QImage plain = picture.convertToFormat(QImage::Format_RGB32);
-        const int rowBytes = 1 + plain.width() * Colours * depth / 8;
-        m_rows.resize(std::size_t(plain.height()) * std::size_t(rowBytes));
+        const int size = 1 + rowBytes(plain.width(), depth);
+        m_rows.resize(std::size_t(plain.height()) * std::size_t(size));
         char* row = m_rows.data();
-        for (int y = 0; y < plain.height(); ++y, row += rowBytes) {
+        for (int y = 0; y < plain.height(); ++y, row += size) {
             *row = PNG_FILTER_VALUE_NONE;
             copyRow(plain, y, depth, row + 1);
         }
-        return compressed();
+        return deflated();
     }
 
 private:
-    QByteArray compressed() const {
+    QByteArray deflated() const {
         const std::size_t most = libdeflate_zlib_compress_bound(m_compressor.get(), m_rows.size());
         QByteArray bytes(int(most), Qt::Uninitialized);
         bytes.truncate(
@@ -104,7 +102,7 @@ private:
     std::vector<char> m_rows;
     /// Of the libraries for it the quickest.
     const std::unique_ptr<libdeflate_compressor, decltype(&libdeflate_free_compressor)> m_compressor{
-        libdeflate_alloc_compressor(Level), libdeflate_free_compressor};
+        libdeflate_alloc_compressor(DeflateLevel), libdeflate_free_compressor};
 };
 
 void writeChunk(png_structp png, const char* name, const QByteArray& bytes) {
@@ -130,7 +128,7 @@ bool writeAll(png_structp png, png_infop info, const QSize& size, int depth, con
 
 }  // namespace
 
-QByteArray pngOf(const QImage& picture, const FileMetadata& metadata, const PictureOptions& options) {
+QByteArray pngOf(QImage&& picture, const FileMetadata& metadata, const PictureOptions& options) {
     std::vector<Text> texts = textsOf(metadata);
     const std::vector<png_text> entries = pngTexts(texts);
     QByteArray bytes;
@@ -138,8 +136,8 @@ QByteArray pngOf(const QImage& picture, const FileMetadata& metadata, const Pict
     png_infop info = png == nullptr ? nullptr : png_create_info_struct(png);
     bool isWhole = false;
     if (info != nullptr && !picture.isNull()) {
-        thread_local Packer packer;
-        const QByteArray pixels = packer.packed(picture, options.depth);
+        thread_local Compressor compressor;
+        const QByteArray pixels = compressor.compressed(picture, options.depth);
         png_set_write_fn(png, &bytes, append, nullptr);
         isWhole = writeAll(png, info, picture.size(), options.depth, entries, pixels);
     }

@@ -1,39 +1,19 @@
 #include "SaveFormat.h"
 
-#include "PictureEncoder.h"
-
 #include <QHash>
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
 /// Between frames little changes.
 constexpr int FramesInSizeOfOne = 4;
 
-/// Null for a video.
-PictureEncoder encoderOf(const QString& id) {
-    static const QHash<QString, PictureEncoder> encoders = {{QStringLiteral("png"), pngOf},
-                                                            {QStringLiteral("tiff"), tiffOf},
-                                                            {QStringLiteral("jpeg"), jpegOf},
-                                                            {QStringLiteral("bmp"), bmpOf}};
-    return encoders.value(id);
-}
-
 }  // namespace
 
-bool SaveFormat::isVideo() const {
-    return encoderOf(id) == nullptr;
-}
-
-bool SaveFormat::isOneFile() const {
-    return isVideo() || (options.isMultiPage && id == QLatin1String("tiff"));
-}
-
 QByteArray SaveFormat::encoded(QImage picture, const FileMetadata& metadata) const {
-    // Qt's own writers find it there. Of several texts in a JPEG file most readers see the last one only.
-    picture.setText(QStringLiteral("Description"), QString::fromLatin1(metadata.description));
-    return encoderOf(id)(picture, metadata, options);
+    return encoder(std::move(picture), metadata, options);
 }
 
 qint64 SaveFormat::expectedSize(const QImage& picture, const FileMetadata& metadata) const {
@@ -42,16 +22,16 @@ qint64 SaveFormat::expectedSize(const QImage& picture, const FileMetadata& metad
 }
 
 const QList<SaveFormat>& saveFormats() {
-    static const QList<SaveFormat> formats = {{QStringLiteral("png"), QStringLiteral("png")},
-                                              {QStringLiteral("tiff"), QStringLiteral("tif")},
-                                              {QStringLiteral("jpeg"), QStringLiteral("jpg")},
-                                              {QStringLiteral("bmp"), QStringLiteral("bmp")},
+    static const QList<SaveFormat> formats = {{QStringLiteral("png"), QStringLiteral("png"), pngOf},
+                                              {QStringLiteral("tiff"), QStringLiteral("tif"), tiffOf, true},
+                                              {QStringLiteral("jpeg"), QStringLiteral("jpg"), jpegOf},
+                                              {QStringLiteral("bmp"), QStringLiteral("bmp"), bmpOf},
                                               {QStringLiteral("mp4"), QStringLiteral("mp4")}};
     return formats;
 }
 
 const SaveFormat& saveFormat(const QString& id) {
-    const QString& wanted = id == QLatin1String("video") ? saveFormats().last().id : id;
+    const QString wanted = id == QLatin1String("video") ? QStringLiteral("mp4") : id;
     const auto found = std::find_if(saveFormats().begin(), saveFormats().end(),
                                     [&](const SaveFormat& format) { return format.id == wanted; });
     return found == saveFormats().end() ? saveFormats().first() : *found;

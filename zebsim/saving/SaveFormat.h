@@ -1,8 +1,7 @@
 #pragma once
 
-#include "FileMetadata.h"
 #include "NameFamilies.h"
-#include "PictureOptions.h"
+#include "PictureEncoder.h"
 
 #include <QByteArray>
 #include <QImage>
@@ -14,11 +13,15 @@ struct SaveFormat {
     /// As the preferences hold it, and what a file's name ends in.
     QString id;
     QString suffix;
+    /// Null for a video, which a program makes.
+    PictureEncoder encoder = nullptr;
+    /// A file can have pages, a picture each.
+    bool hasPages = false;
     PictureOptions options = {};
 
-    bool isVideo() const;
+    bool isVideo() const { return encoder == nullptr; }
     /// All frames of a track stand in one file.
-    bool isOneFile() const;
+    bool isOneFile() const { return isVideo() || (hasPages && options.isMultiPage); }
     /// The file of a picture with its metadata; empty when it can't be written. Not of a video.
     QByteArray encoded(QImage picture, const FileMetadata& metadata) const;
     /// Bytes that a frame takes with a picture and metadata like these; of a video, on average.

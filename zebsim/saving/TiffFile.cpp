@@ -14,9 +14,6 @@
 namespace {
 
 constexpr int StripBytes = 4 << 20;
-constexpr int Colours = 3;
-/// A higher one takes several times as long for a few bytes in a hundred.
-constexpr int DeflateLevel = 1;
 
 int schemeOf(TiffCompression compression) {
     switch (compression) {
@@ -90,7 +87,6 @@ bool TiffFile::add(const QImage& picture, const QByteArray& description) {
 }
 
 void TiffFile::setTags(const QImage& picture, const QByteArray& description) {
-    const int rowBytes = std::max(1, picture.width()) * Colours * m_options.depth / 8;
     TIFFSetField(m_file, TIFFTAG_SUBFILETYPE, m_options.isMultiPage ? FILETYPE_PAGE : 0);
     TIFFSetField(m_file, TIFFTAG_IMAGEWIDTH, picture.width());
     TIFFSetField(m_file, TIFFTAG_IMAGELENGTH, picture.height());
@@ -102,11 +98,12 @@ void TiffFile::setTags(const QImage& picture, const QByteArray& description) {
         TIFFSetField(m_file, TIFFTAG_ZIPQUALITY, DeflateLevel);
     }
     TIFFSetField(m_file, TIFFTAG_PHOTOMETRIC, PHOTOMETRIC_RGB);
-    TIFFSetField(m_file, TIFFTAG_SAMPLESPERPIXEL, Colours);
+    TIFFSetField(m_file, TIFFTAG_SAMPLESPERPIXEL, Channels);
     TIFFSetField(m_file, TIFFTAG_BITSPERSAMPLE, m_options.depth);
     TIFFSetField(m_file, TIFFTAG_PLANARCONFIG, PLANARCONFIG_CONTIG);
     TIFFSetField(m_file, TIFFTAG_ORIENTATION, ORIENTATION_TOPLEFT);
-    TIFFSetField(m_file, TIFFTAG_ROWSPERSTRIP, std::max(1, StripBytes / rowBytes));
+    TIFFSetField(m_file, TIFFTAG_ROWSPERSTRIP,
+                 std::max(1, StripBytes / rowBytes(std::max(1, picture.width()), m_options.depth)));
     TIFFSetField(m_file, TIFFTAG_RESOLUTIONUNIT, RESUNIT_INCH);
     TIFFSetField(m_file, TIFFTAG_XRESOLUTION, double(picture.logicalDpiX()));
     TIFFSetField(m_file, TIFFTAG_YRESOLUTION, double(picture.logicalDpiY()));
@@ -116,7 +113,7 @@ void TiffFile::setTags(const QImage& picture, const QByteArray& description) {
 }
 
 bool TiffFile::writeRows(const QImage& picture) {
-    std::vector<char> row(std::size_t(picture.width()) * Colours * std::size_t(m_options.depth) / 8);
+    std::vector<char> row(std::size_t(rowBytes(picture.width(), m_options.depth)));
     bool isWhole = true;
     for (int y = 0; y < picture.height() && isWhole; ++y) {
         copyRow(picture, y, m_options.depth, row.data());
@@ -125,7 +122,7 @@ bool TiffFile::writeRows(const QImage& picture) {
     return isWhole;
 }
 
-QByteArray tiffOf(const QImage& picture, const FileMetadata& metadata, const PictureOptions& options) {
+QByteArray tiffOf(QImage&& picture, const FileMetadata& metadata, const PictureOptions& options) {
     QBuffer buffer;
     buffer.open(QIODevice::ReadWrite);
     PictureOptions single = options;

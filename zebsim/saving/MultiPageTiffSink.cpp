@@ -1,6 +1,7 @@
-#include "PagesSink.h"
+#include "MultiPageTiffSink.h"
 
 #include "FileError.h"
+#include "PixelRow.h"
 #include "SaveOrders.h"
 #include "TextKey.h"
 
@@ -8,29 +9,29 @@
 
 namespace {
 
-/// Pixels that the plain form of TIFF surely has room for, packed or not.
+/// Pixels that the plain form of TIFF surely has room for, compressed or not.
 constexpr qint64 MostPlainBytes = qint64(2) << 30;
 
 }  // namespace
 
-PagesSink::PagesSink(const SaveOrders& orders, const SaveTrack& track)
+MultiPageTiffSink::MultiPageTiffSink(const SaveOrders& orders, const SaveTrack& track)
     : m_orders(orders), m_track(track), m_path(orders.fileOf(track, track.from)) {}
 
-FrameSink::Step PagesSink::prepare(int index, const QSet<int>& lost) {
+FrameSink::Step MultiPageTiffSink::prepare(int index, const QSet<int>& lost) {
     const QImage picture = m_track.picture(index, lost);
     const QByteArray description = m_track.metadata(index, lost).description;
     return [this, picture, description] { add(picture, description); };
 }
 
-void PagesSink::begin() {
+void MultiPageTiffSink::begin() {
     m_file.emplace(m_path, overOf(m_orders, m_path));
     m_device.open(m_file->descriptor(), QIODevice::ReadWrite | QIODevice::Unbuffered);
     const QSize size = m_track.size();
-    const qint64 pageBytes = qint64(size.width()) * size.height() * 3 * m_orders.format.options.depth / 8;
+    const qint64 pageBytes = qint64(rowBytes(size.width(), m_orders.format.options.depth)) * size.height();
     m_pages.emplace(m_device, m_orders.format.options, pageBytes * m_track.frames() > MostPlainBytes);
 }
 
-void PagesSink::add(const QImage& picture, const QByteArray& description) {
+void MultiPageTiffSink::add(const QImage& picture, const QByteArray& description) {
     if (!m_pages) {
         begin();
     }
@@ -40,7 +41,7 @@ void PagesSink::add(const QImage& picture, const QByteArray& description) {
     }
 }
 
-void PagesSink::finish() {
+void MultiPageTiffSink::finish() {
     if (m_pages) {
         m_pages.reset();
         m_device.close();
@@ -49,7 +50,7 @@ void PagesSink::finish() {
     }
 }
 
-void PagesSink::drop() {
+void MultiPageTiffSink::drop() {
     m_pages.reset();
     m_device.close();
     m_file.reset();

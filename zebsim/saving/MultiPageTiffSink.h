@@ -8,10 +8,11 @@
 
 #include <optional>
 
-/// Makes one TIFF file of all frames, a page each.
-class PagesSink : public FrameSink {
+/// Makes one TIFF file of all frames, a page each. Pages are compressed as they are written, one after the other: of a
+/// single track on one core.
+class MultiPageTiffSink : public FrameSink {
 public:
-    PagesSink(const SaveOrders& orders, const SaveTrack& track);
+    MultiPageTiffSink(const SaveOrders& orders, const SaveTrack& track);
 
     Step prepare(int index, const QSet<int>& lost) override;
     void finish() override;
