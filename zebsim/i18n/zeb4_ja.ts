@@ -2427,5 +2427,13 @@
         <source>%1 is locked. Nothing was changed.</source>
         <translation>%1 はロックされています。何も変更されていません。</translation>
     </message>
+    <message>
+        <source>the file that stands there has more frames</source>
+        <translation>既にあるファイルの方がフレーム数が多くなっています</translation>
+    </message>
+    <message>
+        <source>the file has gone since it was written</source>
+        <translation>書き込み後にファイルがなくなりました</translation>
+    </message>
 </context>
 </TS>

@@ -22,8 +22,9 @@ namespace {
 
 /// Windows come before pictures.
 constexpr int Niceness = 5;
-/// Of cameras that do not answer as many can be borne before others wait.
+/// Files that grow at a time, each of which can cost a program.
 constexpr int MostGrowing = 8;
+constexpr std::chrono::seconds LookAgain(1);
 
 /// One may wait for a disk or an encoder that takes no more.
 int workers() {
@@ -47,7 +48,7 @@ SavePipeline::SavePipeline(const CameraBank& cameras, const SaveOrders& orders, 
       m_orders(orders),
       m_whenOver(std::move(whenOver)),
       m_framePermits(mostFrames()),
-      m_filePermits(std::max(MostGrowing, workers())) {
+      m_filePermits(MostGrowing) {
     for (int number = 0; number < int(orders.tracks.size()); ++number) {
         m_runs.push_back(std::make_unique<TrackRun>(number, orders, mostFrames() / 2, m_stop));
         m_folders[m_runs.back()->folder()].push_back(m_runs.back().get());
@@ -113,6 +114,7 @@ void SavePipeline::run() {
     readAndWrite();
     if (!m_isDropped) {
         sync();
+        look();
     }
     m_whenOver();
 }
@@ -174,6 +176,17 @@ void SavePipeline::sync() {
     }
 }
 
+/// A medium may have gone, and a folder may have come in its place.
+void SavePipeline::look() {
+    for (const auto& [folder, runs] : m_folders) {
+        const QStringList list = QDir(folder).entryList(QDir::Files | QDir::Hidden | QDir::System, QDir::NoSort);
+        const QSet<QString> names(list.begin(), list.end());
+        for (TrackRun* run : runs) {
+            run->keepOnly(names);
+        }
+    }
+}
+
 void SavePipeline::readGroups() {
     const StopSource::Carried carried(m_stop);
     for (std::size_t group = m_nextGroup++; group < m_groups.size(); group = m_nextGroup++) {
@@ -188,7 +201,7 @@ void SavePipeline::readTrack(TrackRun& run) {
     int index = track.from;
     for (; index < track.frames() && !run.hasFailed() && run.read(m_cameras, index); ++index) {
         if (index == track.from && m_orders.format.isOneFile()) {
-            run.hold(m_filePermits.acquire());
+            run.hold(filePermit());
         }
         // Not before: whoever does not answer needs no room. The track's own first, for it may have no more for long.
         FrameRoom room{run.frames().acquire(), {}};
@@ -202,6 +215,18 @@ void SavePipeline::readTrack(TrackRun& run) {
     }
     if (!m_stop.isStopped()) {
         run.endAt(index);
+    }
+}
+
+/// Files whose cameras have fallen silent hold up no other one.
+Semaphore::Permit SavePipeline::filePermit() {
+    for (;;) {
+        Semaphore::Permit permit = m_filePermits.acquireFor(LookAgain);
+        const auto atWork =
+            std::count_if(m_runs.begin(), m_runs.end(), [](const auto& run) { return run->isAtWork(); });
+        if (permit || m_stop.isStopped() || atWork < MostGrowing) {
+            return permit;
+        }
     }
 }
 

@@ -50,6 +50,8 @@ private:
     void readAndWrite();
     void failForWantOfThreads();
     void sync();
+    void look();
+    Semaphore::Permit filePermit();
     void readGroups();
     void readTrack(TrackRun& run);
     void makePictures();
@@ -59,7 +61,7 @@ private:
     const SaveOrders& m_orders;
     const std::function<void()> m_whenOver;
     StopSource m_stop;
-    /// For frames in memory, and for files that grow, each of which can cost a program.
+    /// For frames in memory, and for files that grow.
     Semaphore m_framePermits;
     Semaphore m_filePermits;
     std::vector<std::unique_ptr<TrackRun>> m_runs;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <condition_variable>
 #include <memory>
 #include <mutex>
@@ -20,6 +21,15 @@ public:
         std::unique_lock lock(m_mutex);
         m_change.wait(lock, [this] { return m_free > 0 || m_closed; });
         if (m_closed) {
+            return {};
+        }
+        --m_free;
+        return Permit(this);
+    }
+    /// Waits that long at most; null when none has become free, or when it is closed.
+    Permit acquireFor(std::chrono::milliseconds time) {
+        std::unique_lock lock(m_mutex);
+        if (!m_change.wait_for(lock, time, [this] { return m_free > 0 || m_closed; }) || m_closed) {
             return {};
         }
         --m_free;

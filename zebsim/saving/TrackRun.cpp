@@ -6,6 +6,7 @@
 #include "FailureText.h"
 #include "ParallelRows.h"
 #include "StopSource.h"
+#include "TextKey.h"
 #include "Threads.h"
 
 #include <QFileInfo>
@@ -15,6 +16,9 @@
 #include <exception>
 
 namespace {
+
+/// After which a camera counts as one that does not answer.
+constexpr std::chrono::seconds Silence(5);
 
 QString reasonOf(const std::exception_ptr& failure) {
     try {
@@ -79,6 +83,8 @@ bool TrackRun::read(const CameraBank& cameras, int index) {
             noteLost(asked[row], index, reasonOf(failures[row]));
         }
     }
+    const std::lock_guard lock(m_mutex);
+    m_lastRead = std::chrono::steady_clock::now();
     return m_lost.size() < int(m_track.sources.size());
 }
 
@@ -100,6 +106,13 @@ void TrackRun::noteLost(int source, int index, const QString& reason) {
 void TrackRun::hold(Semaphore::Permit file) {
     const std::lock_guard lock(m_mutex);
     m_file = std::move(file);
+    m_isGrowing = true;
+    m_lastRead = std::chrono::steady_clock::now();
+}
+
+bool TrackRun::isAtWork() const {
+    const std::lock_guard lock(m_mutex);
+    return m_isGrowing && std::chrono::steady_clock::now() - m_lastRead < Silence;
 }
 
 void TrackRun::endAt(int index) {
@@ -147,6 +160,7 @@ void TrackRun::writeReady(std::unique_lock<std::mutex>& lock) {
 void TrackRun::note(bool isLast, const std::optional<FileError>& failure) {
     if (isLast || failure) {
         m_file.reset();
+        m_isGrowing = false;
         m_ready.clear();
     }
     if (!failure) {
@@ -162,13 +176,20 @@ std::optional<TrackRun::Step> TrackRun::nextStep() {
         return std::nullopt;
     }
     if (m_next == m_end) {
-        return Step{[this] { m_sink->finish(); }, {}};
+        return Step{[this, frames = m_next - m_track.from] { finish(frames); }, {}};
     }
     const auto ready = m_ready.find(m_next);
     if (ready == m_ready.end()) {
         return std::nullopt;
     }
     return std::move(m_ready.extract(ready).mapped());
+}
+
+void TrackRun::finish(int frames) {
+    if (m_orders.format.isOneFile() && frames < m_track.least) {
+        throw FileError(m_orders.fileOf(m_track, m_track.from), TextKey("the file that stands there has more frames"));
+    }
+    m_sink->finish();
 }
 
 std::optional<FileError> TrackRun::failureOf(const FrameSink::Step& work, int index) const {
@@ -186,6 +207,21 @@ void TrackRun::fail(const FileError& error) {
     const std::lock_guard lock(m_mutex);
     m_failure = error;
     m_next = m_track.from;
+}
+
+void TrackRun::keepOnly(const QSet<QString>& names) {
+    const std::lock_guard lock(m_mutex);
+    const bool isOne = m_orders.format.isOneFile();
+    const int end = isOne ? m_track.from + (m_isFinished && m_next > m_track.from ? 1 : 0) : m_next;
+    for (int index = m_track.from; index < end; ++index) {
+        const QString file = m_orders.fileOf(m_track, index);
+        if (!names.contains(QFileInfo(file).fileName())) {
+            m_next = index;
+            m_isFinished = false;
+            m_failure = FileError(file, TextKey("the file has gone since it was written"));
+            return;
+        }
+    }
 }
 
 bool TrackRun::hasFailed() const {

@@ -8,6 +8,7 @@
 
 #include <QSet>
 
+#include <chrono>
 #include <map>
 #include <mutex>
 #include <optional>
@@ -37,7 +38,7 @@ public:
     bool read(const CameraBank& cameras, int index);
     /// Places in `sources` of those that are lost so far.
     const QSet<int>& lost() const { return m_lost; }
-    /// It keeps that until all of it is written.
+    /// Its one file begins to grow. It keeps `file`, if it got one, until all of it is written.
     void hold(Semaphore::Permit file);
     /// For frames of it in memory.
     Semaphore& frames() { return m_frames; }
@@ -48,8 +49,12 @@ public:
 
     /// Makes a frame that has been read, and writes what is next. `room` is free again when that frame is written.
     void make(int index, const QSet<int>& lost, FrameRoom room);
+    /// Whether its one file grows, and a camera has handed over a frame lately.
+    bool isAtWork() const;
     /// Nothing of it is saved.
     void fail(const FileError& error);
+    /// Once nobody is at work: `names` are what stands in its folder. What does not stand there is not saved.
+    void keepOnly(const QSet<QString>& names);
     bool hasFailed() const;
     /// Frames done so far.
     int done() const;
@@ -64,6 +69,8 @@ private:
 
     void noteLost(int source, int index, const QString& reason);
     void writeReady(std::unique_lock<std::mutex>& lock);
+    /// It has so many frames.
+    void finish(int frames);
     std::optional<Step> nextStep();
     /// What has become of a step.
     void note(bool isLast, const std::optional<FileError>& failure);
@@ -91,6 +98,8 @@ private:
     /// What is made and waits for its turn, by frame.
     std::map<int, Step> m_ready;
     Semaphore::Permit m_file;
+    bool m_isGrowing = false;
+    std::chrono::steady_clock::time_point m_lastRead;
     bool m_isWriting = false;
     bool m_isFinished = false;
     std::optional<FileError> m_failure;
