@@ -183,10 +183,10 @@ QJsonObject SaveBench::memory(int cameras) {
     std::vector<int> removed(orders.tracks.size(), 0);
     const double before = statusOf("VmRSS");
     scene.save(orders, [&](const SaveJob& job) {
-        const std::vector<int> saved = job.state().saved;
+        const std::vector<int> saved = job.done();
         for (std::size_t track = 0; track < saved.size(); ++track) {
             for (; removed[track] < saved[track]; ++removed[track]) {
-                QFile::remove(fileOf(orders.tracks[track], orders.format, orders.digits, removed[track]));
+                QFile::remove(orders.fileOf(orders.tracks[track], removed[track]));
             }
         }
     });

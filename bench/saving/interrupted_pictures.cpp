@@ -47,7 +47,7 @@ SaveOrders ordersOf(const CameraBank& cameras, const Kind& kind, const QString& 
         const QString place = kind.isOver ? QString() : QString(QString::number(round) % QLatin1Char('/'));
         track.stem = folder % QLatin1Char('/') % QLatin1String(kind.name) % QLatin1Char('/') % place % track.name;
         for (int index = 0; kind.isOver && index < Frames; ++index) {
-            orders.mayReplace.insert(fileOf(track, orders.format, orders.digits, index));
+            orders.mayReplace.insert(orders.fileOf(track, index));
         }
     }
     return orders;

@@ -228,7 +228,7 @@ TEST_F(AppSaving, ShowsTheProgressOfMoreFramesThanAnIntCounts) {
     SaveJob job(host.cameras(), orders);
     const SaveProgress progress(job, nullptr);
     job.start();
-    EXPECT_TRUE(until([&job] { return job.state().saved[0] == 1; }));
+    EXPECT_TRUE(until([&job] { return job.done()[0] == 1; }));
     const auto* bar = progress.findChild<QProgressBar*>();
     EXPECT_EQ(bar->value(), 0) << "one frame of four thousand million";
     EXPECT_GT(bar->maximum(), 0);

@@ -47,7 +47,7 @@ TEST_F(Saving, WritesTheChosenFramesSoThatOthersReadThem) {
         EXPECT_EQ(files(), expected.replaceInStrings("png", format.suffix));
         const int depth = format.options.depth;
         for (const SaveTrack& track : wanted.tracks) {
-            const QString file = fileOf(track, format, 5, 1);
+            const QString file = wanted.fileOf(track, 1);
             const QByteArray read = readByOthers(file, depth);
             const int most = format.id == "jpeg" ? 4 : 0;
             EXPECT_LE(difference(read, pixelsOf(track.picture(1), depth)), most) << file.toStdString();
@@ -76,7 +76,7 @@ TEST_F(Saving, TellsInEachFileWhatItShows) {
     for (const char* format : {"png", "tiff", "jpeg"}) {
         const SaveOrders wanted = orders(format);
         run(wanted);
-        const QString file = fileOf(wanted.tracks[0], wanted.format, 5, 0);
+        const QString file = wanted.fileOf(wanted.tracks[0], 0);
         const bool isPng = wanted.format.id == "png";
         const QString texts =
             QString::fromUtf8(outputOf("identify", {"-format", isPng ? "%[Description]%[time]" : "%[comment]", file}));
@@ -121,8 +121,10 @@ TEST_F(Saving, TakesAllPartitionsInWhateverIsInUse) {
     track.from = 1;
     EXPECT_EQ(filesIn(track, saveFormat("png")), 3);
     EXPECT_EQ(filesIn(track, saveFormat("video")), 1);
-    EXPECT_EQ(fileOf(track, saveFormat("png"), 3, 2), "/a/G_-001.png");
-    EXPECT_EQ(fileOf(track, saveFormat("video"), 3, 2), "/a/G.mp4");
+    wanted.frameDigits = 3;
+    EXPECT_EQ(wanted.fileOf(track, 2), "/a/G_-001.png");
+    wanted.format = saveFormat("video");
+    EXPECT_EQ(wanted.fileOf(track, 2), "/a/G.mp4");
 }
 
 TEST_F(Saving, WritesOverNothingButWhatItMay) {
@@ -296,7 +298,7 @@ TEST(SavingWithoutAnswer, HoldsUpNoOtherCameraAndNoCancel) {
         faults.plant(6, "readFrame", {{}, 0, true, 9});
         SaveJob job(test.host.cameras(), test.orders());
         job.start();
-        ASSERT_TRUE(until([&job] { return job.state().saved == std::vector<int>({20, 0, 20, 7, 20, 9, 20, 20}); }));
+        ASSERT_TRUE(until([&job] { return job.done() == std::vector<int>({20, 0, 20, 7, 20, 9, 20, 20}); }));
         EXPECT_TRUE(job.isRunning());
         if (!isCancelled) {
             continue;  // It is destroyed.
@@ -372,7 +374,7 @@ TEST_F(Saving, EndsWithWholeFilesAndTellsThemWhenItIsCancelled) {
     prepare(3, "Nozzle/2", 0, 499);
     SaveJob job(host.host.cameras(), orders());
     job.start();
-    ASSERT_TRUE(until([&job] { return job.state().saved[1] > 0; }));
+    ASSERT_TRUE(until([&job] { return job.done()[1] > 0; }));
     job.cancel();
     ASSERT_TRUE(until([&job] { return !job.isRunning(); }));
     told(job);

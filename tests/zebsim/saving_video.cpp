@@ -86,8 +86,7 @@ TEST_F(SavingVideo, WaitsForAnEncoderNeitherWithOtherTracksNorWhenItIsCancelled)
         const int most = does.startsWith("cat") ? 500 : 1;
         SaveJob job(host.host.cameras(), video());
         job.start();
-        ASSERT_TRUE(until([&] { return job.state().saved[0] >= most && framesIn("Nozzle_2.mp4") == 500; }))
-            << does.data();
+        ASSERT_TRUE(until([&] { return job.done()[0] >= most && framesIn("Nozzle_2.mp4") == 500; })) << does.data();
         job.cancel();
         ASSERT_TRUE(until([&job] { return !job.isRunning(); }));
         EXPECT_EQ(told(job),

@@ -71,7 +71,7 @@ QTreeView* PlanDialog::makeFiles() {
     const auto state = [this](int track, int file) {
         const SaveOrders& orders = m_plan.orders;
         const SaveTrack& planned = orders.tracks[std::size_t(track)];
-        const QString path = fileOf(planned, orders.format, orders.digits, planned.from + file);
+        const QString path = orders.fileOf(planned, planned.from + file);
         return orders.mayReplace.contains(path) ? SaveFilesModel::Replaces : SaveFilesModel::Planned;
     };
     auto* model = new SaveFilesModel(m_plan.orders, state, this);

@@ -64,7 +64,7 @@ QVariant SaveFilesModel::data(const QModelIndex& index, int role) const {
 
 QString SaveFilesModel::fileText(int track, int file) const {
     const SaveTrack& saved = m_orders.tracks[std::size_t(track)];
-    const QString name = QFileInfo(fileOf(saved, m_orders.format, m_orders.digits, saved.from + file)).fileName();
+    const QString name = QFileInfo(m_orders.fileOf(saved, saved.from + file)).fileName();
     switch (m_tellState(track, file)) {
         case Planned:
             break;

@@ -131,7 +131,7 @@ void SaveProgress::follow() {
 
 void SaveProgress::showCourse() {
     const auto& tracks = m_job->orders().tracks;
-    const std::vector<int> saved = m_job->state().saved;
+    const std::vector<int> saved = m_job->done();
     const qint64 done = std::accumulate(saved.begin(), saved.end(), qint64(0));
     QStringList lines;
     for (std::size_t i = 0; i < tracks.size(); ++i) {
@@ -160,7 +160,7 @@ void SaveProgress::showOutcomes() {
     m_files->doItemsLayout();
     const bool isAllSaved = std::all_of(outcomes.begin(), outcomes.end(),
                                         [](const SaveOutcome& outcome) { return outcome.end == SaveOutcome::Saved; });
-    const std::vector<int> saved = m_job->state().saved;
+    const std::vector<int> saved = m_job->done();
     showShare(std::accumulate(saved.begin(), saved.end(), qint64(0)));
     m_at->setText(isAllSaved ? uiText("Everything is saved.") : uiText("Not everything is saved."));
     m_again->setVisible(!tracksToSaveAgain(m_job->orders(), outcomes).empty());

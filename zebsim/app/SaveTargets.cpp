@@ -102,7 +102,7 @@ SaveOrders ordersOf(SimHost& host, zeb::FileType type, const TypedPrefs& typed) 
     const auto pref = [&](const QString& key) { return typed.value(key, host.prefs().value(key)); };
     SaveOrders orders;
     orders.format = chosenFormat(pref, family);
-    orders.digits = qBound(1, pref(family % QStringLiteral("filenameseqdigits")).toInt(), MostDigits);
+    orders.frameDigits = qBound(1, pref(family % QStringLiteral("filenameseqdigits")).toInt(), MostDigits);
     orders.encoder = VideoEncoder::installed();
     orders.diskFault = [&host] { return host.faults().suffer(FaultPlan::Disk, "write", host.clock()); };
     return orders;
@@ -147,7 +147,7 @@ QStringList composedPaths(SimHost& host, const std::vector<SaveTrack>& tracks, c
     for (SaveTrack track : tracks) {
         try {
             track.stem = composer.targetOf(track).stem();
-            paths.append(QDir::toNativeSeparators(fileOf(track, orders.format, orders.digits, track.from)));
+            paths.append(QDir::toNativeSeparators(orders.fileOf(track, track.from)));
         } catch (const std::exception& e) {
             paths.append(uiText(QString::fromUtf8(e.what())));
         }

@@ -9,7 +9,7 @@ namespace {
 /// Somebody may have taken away what was written.
 int firstMissing(const SaveOrders& orders, const SaveTrack& track, int end) {
     int index = 0;
-    while (index < end && QFileInfo(fileOf(track, orders.format, orders.digits, index)).size() > 0) {
+    while (index < end && QFileInfo(orders.fileOf(track, index)).size() > 0) {
         ++index;
     }
     return index;

@@ -17,7 +17,7 @@ SaveJob::SaveJob(const CameraBank& cameras, SaveOrders orders) : m_cameras(camer
         absent.reason = line;
         m_outcomes.append(absent);
     }
-    m_last.saved.resize(m_orders.tracks.size());
+    m_last.resize(m_orders.tracks.size());
     connect(&m_timer, &QTimer::timeout, this, &SaveJob::progressed);
 }
 
@@ -38,13 +38,13 @@ void SaveJob::cancel() {
     }
 }
 
-SaveJob::State SaveJob::state() const {
-    return m_pipeline ? State{m_pipeline->done()} : m_last;
+std::vector<int> SaveJob::done() const {
+    return m_pipeline ? m_pipeline->done() : m_last;
 }
 
 void SaveJob::finish() {
     m_timer.stop();
-    m_last = state();
+    m_last = done();
     const QList<SaveOutcome> outcomes = m_pipeline->outcomes();
     m_pipeline.reset();
     m_outcomes += outcomes;

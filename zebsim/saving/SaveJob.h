@@ -33,11 +33,8 @@ public:
     void cancel();
 
     const SaveOrders& orders() const { return m_orders; }
-    struct State {
-        /// Of each track the frames done so far: they stand in files, or the one file is to have them.
-        std::vector<int> saved;
-    };
-    State state() const;
+    /// Of each track the frames done so far: they stand in files, or the one file is to have them.
+    std::vector<int> done() const;
     /// Once it has finished, what was absent, and then in the order of the tracks. The files are on the disk by then.
     const QList<SaveOutcome>& outcomes() const { return m_outcomes; }
 
@@ -54,6 +51,6 @@ private:
     const SaveOrders m_orders;
     QTimer m_timer;
     std::unique_ptr<SavePipeline> m_pipeline;
-    State m_last;
+    std::vector<int> m_last;
     QList<SaveOutcome> m_outcomes;
 };

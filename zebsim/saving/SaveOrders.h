@@ -19,13 +19,13 @@ struct SaveOrders {
     /// Paths of files that are there already and may go.
     QSet<QString> mayReplace = {};
     /// Least digits of a frame's number in a file's name.
-    int digits = 5;
+    int frameDigits = 5;
     VideoEncoder encoder = {};
     /// What can't be saved, a line each for the list of results.
     QStringList absent = {};
     /// Answers why the next file can't be written; empty when it can. Any thread.
     std::function<QString()> diskFault = [] { return QString(); };
 
-    /// Path of the file that frame `index` of `track` goes into.
-    QString fileOf(const SaveTrack& track, int index) const { return ::fileOf(track, format, digits, index); }
+    /// Path of the file that frame `index` of `track` goes into, as "stem_00512.png", or "stem.mp4" for all frames.
+    QString fileOf(const SaveTrack& track, int index) const;
 };

@@ -107,7 +107,7 @@ private:
         int longest = 0;
         QString file;
         for (const int index : {track.from, track.frames() - 1}) {
-            const QString path = fileOf(track, m_plan.orders.format, m_plan.orders.digits, index);
+            const QString path = m_plan.orders.fileOf(track, index);
             if (bytesIn(path) > longest) {
                 longest = bytesIn(path);
                 file = path;
@@ -126,8 +126,7 @@ private:
         const QString key = fileKey(m_disk.canonical(target.folder()) % target.name);
         const auto other = m_stems.find(key);
         if (other != m_stems.end()) {
-            add(PlanEntry::WrittenTwice, track.name,
-                fileOf(track, m_plan.orders.format, m_plan.orders.digits, track.from), 0, *other);
+            add(PlanEntry::WrittenTwice, track.name, m_plan.orders.fileOf(track, track.from), 0, *other);
         } else {
             m_stems.insert(key, track.name);
         }
@@ -148,8 +147,7 @@ private:
             }
             m_plan.orders.mayReplace.insert(path);
         }
-        add(PlanEntry::Exists, track.name, fileOf(track, m_plan.orders.format, m_plan.orders.digits, first),
-            own.size());
+        add(PlanEntry::Exists, track.name, m_plan.orders.fileOf(track, first), own.size());
     }
 
     /// Those of `names` that the track would write, each with the index of its frame.
@@ -162,7 +160,7 @@ private:
             const QString number = name->mid(target.name.size() + 1).section(QLatin1Char('.'), 0, 0);
             const qint64 index = orders.format.isOneFile() ? track.from : number.toLongLong() - zero;
             const bool isInRange = index >= track.from && index < track.frames();
-            if (isInRange && fileOf(track, orders.format, orders.digits, int(index)) == target.folder() + *name) {
+            if (isInRange && orders.fileOf(track, int(index)) == target.folder() + *name) {
                 own.insert(*name, int(index));
             }
         }

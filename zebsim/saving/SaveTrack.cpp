@@ -102,13 +102,6 @@ std::vector<SaveTrack> tracksOfLayout(const SaveSources& sources, const QString&
     return sources.empty() ? std::vector<SaveTrack>() : std::vector<SaveTrack>{{name, true, sources}};
 }
 
-QString fileOf(const SaveTrack& track, const SaveFormat& format, int digits, int index) {
-    const qint64 number = track.number(index);
-    const QString text = QString::number(qAbs(number)).rightJustified(digits, QLatin1Char('0'));
-    const QString ending = format.isOneFile() ? QString() : QString((number < 0 ? "_-" : "_") % text);
-    return track.stem % ending % QLatin1Char('.') % format.suffix;
-}
-
 int filesIn(const SaveTrack& track, const SaveFormat& format) {
     return format.isOneFile() ? 1 : track.frames() - track.from;
 }

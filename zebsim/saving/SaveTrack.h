@@ -40,7 +40,5 @@ std::vector<SaveTrack> tracksOfEach(const SaveSources& sources);
 /// One track of them all, called `name`; none when there is nothing to save.
 std::vector<SaveTrack> tracksOfLayout(const SaveSources& sources, const QString& name);
 
-/// Path of the file that a frame goes into, as "stem_00512.png" with at least `digits` digits, or "stem.mp4" for all.
-QString fileOf(const SaveTrack& track, const SaveFormat& format, int digits, int index);
 /// How many files are to be written: one, or one for each frame from the first to be saved on.
 int filesIn(const SaveTrack& track, const SaveFormat& format);

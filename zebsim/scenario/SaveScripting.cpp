@@ -55,12 +55,11 @@ QVariantMap plainPlan(const SavePlan& plan) {
     QVariantList tracks;
     for (std::size_t i = 0; i < orders.tracks.size(); ++i) {
         const SaveTrack& track = orders.tracks[i];
-        tracks.append(
-            QVariantMap{{QStringLiteral("name"), track.name},
-                        {QStringLiteral("files"), filesIn(track, orders.format)},
-                        {QStringLiteral("first"), fileOf(track, orders.format, orders.digits, track.from)},
-                        {QStringLiteral("last"), fileOf(track, orders.format, orders.digits, track.frames() - 1)},
-                        {QStringLiteral("bytes"), double(plan.bytes[i])}});
+        tracks.append(QVariantMap{{QStringLiteral("name"), track.name},
+                                  {QStringLiteral("files"), filesIn(track, orders.format)},
+                                  {QStringLiteral("first"), orders.fileOf(track, track.from)},
+                                  {QStringLiteral("last"), orders.fileOf(track, track.frames() - 1)},
+                                  {QStringLiteral("bytes"), double(plan.bytes[i])}});
     }
     QVariantList entries;
     for (const PlanEntry& entry : plan.entries) {
