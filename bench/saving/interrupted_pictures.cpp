@@ -1,6 +1,6 @@
-// Saves images again and again in a program that is killed in the middle, 500 times, and looks at what stands there
-// afterwards: whole files. What was to replace an old one may be left beside it, until the next save. Ends with 1
-// otherwise.
+// Saves images again and again in a program that is killed in the middle, 500 times, a quarter of them in each way in
+// which a file can come by its name, and looks at what stands there afterwards: whole files. What has no name yet may
+// be left hidden, until the next save, and by the last of the ways an empty file. Ends with 1 otherwise.
 
 #include "CameraBank.h"
 #include "FaultPlan.h"
@@ -19,6 +19,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <csignal>
 #include <cstdio>
 #include <random>
@@ -28,6 +29,7 @@ namespace {
 constexpr int Kills = 500;
 constexpr int Cameras = 4;
 constexpr int Frames = 20;
+constexpr int Ways = 4;
 
 /// What is saved, and whether over files of an earlier save.
 struct Kind {
@@ -57,6 +59,12 @@ int kinds() {
     return VideoEncoder::installed().isUsable() ? 4 : 3;
 }
 
+void tellBegun(int begun) {
+    if (::write(begun, "", 1) != 1) {
+        _exit(1);
+    }
+}
+
 [[noreturn]] void saveForEver(const QString& folder, int first, int begun) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     int argc = 0;
@@ -70,8 +78,8 @@ int kinds() {
         QEventLoop loop;
         QObject::connect(&job, &SaveJob::finished, &loop, &QEventLoop::quit);
         job.start();
-        if (round == first && ::write(begun, "", 1) != 1) {
-            _exit(1);
+        if (round == first) {
+            tellBegun(begun);
         }
         loop.exec();
         for (const SaveOutcome& outcome : job.outcomes()) {
@@ -80,6 +88,24 @@ int kinds() {
                 _exit(1);
             }
         }
+    }
+}
+
+QString folderOf(Naming way) {
+    static const char* const names[Ways] = {"unnamed", "rename", "link", "claim"};
+    return QLatin1String(names[int(way)]);
+}
+
+/// New files and old ones, in a way that is for poorer file systems.
+[[noreturn]] void writeForEver(const QString& folder, Naming way, int begun) {
+    QImage noise(QSize(256, 256), QImage::Format_RGB32);
+    std::mt19937 random(1);
+    std::generate_n(reinterpret_cast<QRgb*>(noise.bits()), noise.width() * noise.height(), [&] { return random(); });
+    const QByteArray bytes = saveFormat(QStringLiteral("png")).encoded(noise, {});
+    tellBegun(begun);
+    for (int round = 0;; ++round) {
+        writeFile(folder % QStringLiteral("/new%1.png").arg(round), bytes, Over::Nothing, way);
+        writeFile(folder % QStringLiteral("/old%1.png").arg(round % Frames), bytes, Over::OldFile, way);
     }
 }
 
@@ -99,29 +125,36 @@ bool isWhole(const QString& path) {
 struct Found {
     int whole = 0;
     int damaged = 0;
+    int empty = 0;
     int hidden = 0;
 };
 
-Found look(const QString& folder) {
+/// A claim alone may be found empty.
+Found look(const QString& folder, Naming way) {
     Found found;
     QDirIterator files(folder, QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
     while (files.hasNext()) {
         const QString path = files.next();
-        const bool isHidden = files.fileName().startsWith(QLatin1Char('.'));
-        ++(isHidden ? found.hidden : isWhole(path) ? found.whole : found.damaged);
+        const bool isClaim = way == Naming::Claim && files.fileInfo().size() == 0;
+        ++(files.fileName().startsWith(QLatin1Char('.')) ? found.hidden
+           : isClaim                                     ? found.empty
+           : isWhole(path)                               ? found.whole
+                                                         : found.damaged);
     }
     return found;
 }
 
 /// Kills one program at a random moment of its saves.
-bool killOne(const QString& folder, int first, unsigned int waitUs) {
+bool killOne(const QString& folder, Naming way, int first, unsigned int waitUs) {
     int begun[2];
     if (::pipe(begun) != 0) {
         return false;
     }
     const pid_t child = fork();
-    if (child == 0) {
+    if (child == 0 && way == Naming::Unnamed) {
         saveForEver(folder, first, begun[1]);
+    } else if (child == 0) {
+        writeForEver(folder, way, begun[1]);
     }
     ::close(begun[1]);
     char byte = 0;
@@ -134,26 +167,50 @@ bool killOne(const QString& folder, int first, unsigned int waitUs) {
     return hasBegun && WIFSIGNALED(status);
 }
 
+/// As the next save does.
+void removeAllLeftOvers(const QString& folder) {
+    removeLeftOvers(folder);
+    for (const Kind& kind : Kinds) {
+        removeLeftOvers(folder % QLatin1Char('/') % QLatin1String(kind.name));
+    }
+}
+
+/// New files of one kill, so that the next one makes them again.
+void removeNew(const QString& folder) {
+    QDir(folder % QLatin1Char('/') % QLatin1String(Kinds[0].name)).removeRecursively();
+    for (const QString& name : QDir(folder).entryList({QStringLiteral("new*.png")})) {
+        QFile::remove(folder % QLatin1Char('/') % name);
+    }
+}
+
 }  // namespace
 
 int main() {
-    const QTemporaryDir folder;
+    const QTemporaryDir top;
     std::mt19937 random(1);
-    Found all;
+    Found all[Ways];
     bool isWell = true;
     for (int i = 0; i < Kills && isWell; ++i) {
-        isWell = killOne(folder.path(), i % kinds(), random() % 200'000);
-        const Found found = look(folder.path());
-        all = {all.whole + found.whole, all.damaged + found.damaged, all.hidden + found.hidden};
-        const QString fresh = folder.filePath(QLatin1String(Kinds[0].name));
-        isWell = isWell && look(fresh).hidden == 0;
-        QDir(fresh).removeRecursively();
-        for (const Kind& kind : Kinds) {
-            removeLeftOvers(folder.filePath(QLatin1String(kind.name)));
-        }
-        isWell = isWell && look(folder.path()).hidden == 0;
+        const auto way = Naming(i % Ways);
+        const QString folder = top.filePath(folderOf(way));
+        QDir().mkpath(folder);
+        isWell = killOne(folder, way, i / Ways % kinds(), random() % 200'000);
+        const Found found = look(folder, way);
+        Found& sum = all[int(way)];
+        sum = {sum.whole + found.whole, sum.damaged + found.damaged, sum.empty + found.empty,
+               sum.hidden + found.hidden};
+        const QString fresh = folder % QLatin1Char('/') % QLatin1String(Kinds[0].name);
+        isWell = isWell && found.damaged == 0 && look(fresh, way).hidden == 0;
+        removeNew(folder);
+        removeAllLeftOvers(folder);
+        isWell = isWell && look(folder, way).hidden == 0;
     }
-    std::printf("pictures, killed %d times %20d whole, %d damaged, %d left until the next save\n", Kills, all.whole,
-                all.damaged, all.hidden);
-    return isWell && all.damaged == 0 && all.whole > 0 ? 0 : 1;
+    std::printf("pictures, killed %d times\n", Kills);
+    for (int way = 0; way < Ways; ++way) {
+        const Found& found = all[way];
+        std::printf("%10s %34d whole, %d damaged, %d empty, %d left until the next save\n",
+                    qPrintable(folderOf(Naming(way))), found.whole, found.damaged, found.empty, found.hidden);
+        isWell = isWell && found.whole > 0;
+    }
+    return isWell ? 0 : 1;
 }
