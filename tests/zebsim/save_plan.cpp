@@ -1,8 +1,11 @@
 #include "FileNameDetails.h"
+#include "GivenNames.h"
+#include "NamePromises.h"
 #include "SavePlan.h"
 #include "TargetDisk.h"
 #include "support/TestHost.h"
 
+#include <QDir>
 #include <QRegularExpression>
 
 #include <gtest/gtest.h>
@@ -176,6 +179,103 @@ TEST_F(Plan, CallsACameraAsItsPreferencesSay) {
         EXPECT_EQ(details.hasSession, one.hasSession) << one.what;
     }
     EXPECT_EQ(nameInFiles(QString(100, QChar(0x9AD8))).toUtf8().size(), 150);
+}
+
+struct AnyPartition : GivenDocument {
+    QList<PARTITIONNUMBER> partitions() const override { return {1}; }
+    zeb::FileNameDetails fileNameDetails(int type, PARTITIONNUMBER, int session, const QDateTime&) const override {
+        const auto pref = [this](const QString& key) { return names->pref(key); };
+        return ::fileNameDetails(pref, type, false, {original, 1, head, {8, 2}}, session);
+    }
+    const NameSource* names = nullptr;
+};
+
+/// Preferences, two partitions of each of two heads, and a disk, as `seed` makes them up. With `isNumbered` device and
+/// head are in the name.
+struct AnySave : GivenNames {
+    explicit AnySave(unsigned from) : seed(from) {
+        prefs = {{nameFamily(type) + "dir", root}, {nameFamily(type) + "filenameadddetails", "name,text,number"}};
+        for (const char* key :
+             {"detail", "number", "numbercameranodigits", "numberheadnodigits", "numbersessionnodigits"}) {
+            prefs[nameFamily(type) + "filenameadd" + key] = isNumbered ? "1" : text(key);
+        }
+        substitute = any("substitute", 8) ? std::nullopt : std::optional<QString>("/s");
+        for (std::size_t i = 0; i < 4; ++i) {
+            partitions[i].names = this;
+            partitions[i].head = i < 2 ? 1 : 2;
+            partitions[i].original = text("camera" + QString::number(i / 2));
+            partitions[i].named = {{1, text("partition" + QString::number(i))}};
+            partitions[i].items = {{{"value", text("item")}, {"usefilename", "on"}}};
+        }
+        disk = {{"/r/", {"1_C1H1S1_1.png", text("there")}}, {"/r/1/", {"C1H2S1_1.png"}}, {"/r/1_S2/", {}}};
+    }
+    QVariant pref(const QString& key) const override { return prefs.value(key, text(key)); }
+    bool isPathTaken(const QString& path) const override { return promises.isPathTaken(path); }
+    void setLastPath(const QString& path) override { promises.promise(path); }
+    /// Of the partitions from `first` on. What has no name has no folder.
+    std::vector<TrackTarget> targets(std::size_t first) {
+        const NamePromises::Save save(promises);
+        std::vector<TrackTarget> targets(partitions.size());
+        for (std::size_t i = first; i < targets.size(); ++i) {
+            thrownBy([&] { targets[i] = TrackTarget::of(*this, type, partitions[i], {{2024, 1, 2}, {3, 4, 5}}); });
+        }
+        return targets;
+    }
+    int any(const QString& what, unsigned n) const { return int((qHash(what, seed) * 0x9E3779B97F4A7C15U >> 40) % n); }
+    QString text(const QString& what) const {
+        static const QStringList hostile =
+            QString("..,..,..,.,a/b,../x,/etc,C:\\x,%1,\n,\x7f,\u0085,\u200f,[1]*,?,yyyy/MM,HH',-1,300,300, ,a|b,箱")
+                .split(',');
+        static const QStringList plain = QString(",,,1,1,HH,auto").split(',');
+        const QStringList& texts = any(what + "?", 16) < int(seed % 4) ? hostile : plain;
+        return texts.at(any(what, unsigned(texts.size())));
+    }
+
+    const unsigned seed;
+    const bool isNumbered = any("numbered", 2);
+    const zeb::FileType type = any("type", 4) ? zeb::ImageFile : zeb::LayoutFile;
+    const QString root = QString("/r,/r/1,/s,r").split(',').at(any("root", 4));
+    std::array<AnyPartition, 4> partitions;
+    NamePromises promises;
+};
+
+TEST_F(Plan, LetsNamesThroughThatAreOnesAndBelowTheRoot) {
+    // ./test long makes ten times as many.
+    const int names = qEnvironmentVariableIsSet("WREN_LONG") ? 100000 : 10000;
+    const QRegularExpression good(R"re(^(?!\.{1,2}$)[^\\/:*?|"<>%\x00-\x1f\x7f-\x9f]+$)re");
+    const std::vector<SaveTrack> tracks(4, tracksOfEach(saveSources(host.host.cameras())).front());
+    const Course course;
+    int possible = 0;
+    for (unsigned seed = 0; int(seed) < names / 4 && !HasFailure(); ++seed) {
+        SCOPED_TRACE(seed);
+        AnySave save(seed);
+        const std::vector<TrackTarget> targets = save.targets(0);
+        const std::vector<TrackTarget> again = save.targets(0);
+        const std::vector<TrackTarget> alone = save.targets(2);
+        disk = {};
+        for (std::size_t i = 0; i < targets.size(); ++i) {
+            EXPECT_EQ(again[i].stem(), targets[i].stem());
+            EXPECT_TRUE(!save.isNumbered || i < 2 || alone[i].stem() == targets[i].stem());
+            const QString number = QString::number(save.any("old", 4));
+            disk.names[targets[i].folder()] = QStringList(targets[i].name + "_0000" + number + ".png");
+        }
+        plan = planOf({saveFormat("png"), tracks}, targets, disk);
+        QSet<QString> written;
+        for (std::size_t i = 0; plan.isPossible() && i < 4 * 3; ++i) {
+            const QString path = plan.orders.fileOf(plan.orders.tracks[i / 3], int(i % 3));
+            const QString root = QDir::cleanPath('/' + save.substitute.value_or(save.root)) + '/';
+            bool isGood = path.startsWith(root) && path.toUtf8().size() <= 4095 && !written.contains(fileKey(path));
+            for (const QString& part : path.mid(root.size()).split('/')) {
+                isGood = isGood && part.contains(good) && part.toUtf8().size() <= 255;
+            }
+            const bool isOld = disk.names[targets[i / 3].folder()].contains(path.section('/', -1));
+            EXPECT_TRUE(isGood && isOld == plan.orders.mayReplace.contains(path)) << path.toStdString();
+            written.insert(fileKey(path));
+        }
+        possible += int(plan.isPossible());
+    }
+    std::cerr << possible << "\n";
+    EXPECT_GT(possible, names / 40) << "not all are refused";
 }
 
 }  // namespace
