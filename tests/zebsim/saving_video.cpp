@@ -113,7 +113,7 @@ TEST_F(SavingTest, MakesAPageOfEachFrame) {
 }
 
 TEST_F(SavingVideo, HoldsAllFramesForAnotherReader) {
-    const auto probed = [this](QStringList arguments) {
+    const auto probed = [this](const QStringList& arguments) {
         return outputOf("ffprobe", QStringList{"-v", "error"} + arguments + QStringList(path("Nozzle_2.mp4")))
             .trimmed();
     };
