@@ -66,22 +66,15 @@ TEST_F(CameraNameList, IsReadInItsOrder) {
 }
 
 TEST_F(CameraNameList, IsReadAtAnyLength) {
-    QByteArray lines;
-    for (int i = 0; i < 10000; ++i) {
-        lines += "c" + QByteArray::number(i % 100) + ",n" + QByteArray::number(i) + '\n';
-    }
-    const auto many = read(lines);
+    const QByteArray name(1024, 'x');
+    const auto many = read("a," + QByteArray(name + ',').repeated(10 * 1024) + "last");
     ASSERT_TRUE(many);
-    EXPECT_EQ(many->size(), 100);
-    EXPECT_EQ(many->value("c7").mid(98), QStringList({"n9807", "n9907"}));
-    const auto names = read("a," + QByteArray("name,").repeated(2 * 1024 * 1024));
-    ASSERT_TRUE(names);
-    EXPECT_EQ(names->value("a").size(), 2 * 1024 * 1024);
+    EXPECT_EQ(many->value("a").last(), "last");
     const auto longest = read("a," + QByteArray(1023, 'x') + "\xf0\x9f\x93\xb7," + QByteArray(2000, 'y'));
     ASSERT_TRUE(longest);
     EXPECT_EQ(longest->value("a").join('|'), QString(1023, 'x') + '|' + QString(1024, 'y'));
     course.take();
-    EXPECT_TRUE(read(QByteArray(10 * 1024 * 1024, '\n')));
+    EXPECT_TRUE(read(QByteArray(1000, '\n')));
     EXPECT_EQ(course.take().size(), 101) << "a wrong file does not fill the log";
 }
 
@@ -101,7 +94,7 @@ TEST_F(CameraNameList, IsNoneWhereNothingCanBeRead) {
     QFile(path).resize(100LL * 1024 * 1024);
     EXPECT_FALSE(readCameraNames(path));
     EXPECT_EQ(course.take(), QStringList({"critical: A list of camera names can't be read: it is larger than 64 MiB",
-                                       "critical: \"file error occurred. [" + path + "]\""}));
+                                          "critical: \"file error occurred. [" + path + "]\""}));
 }
 
 }  // namespace
