@@ -199,6 +199,22 @@ TEST_F(Dialogs, AddACameraThatAnswers) {
     host.docManager().deleteAllDocs(0, 0);
     run([&](QDialog&) { add("192.168.0.11", "Gate"); });
     EXPECT_EQ(host.cameras().find(1)->name(), "Gate");
+    Rig rig = standardRig(1);
+    rig.devices.first().heads.append(rig.devices.first().heads.first());
+    rig.devices.first().heads.last().comment = "own";
+    host.setRig(rig);
+    host.docManager().deleteAllDocs(0, 0);
+    run([&](QDialog&) {
+        page("byId('comment').value = 'left\\nlens'");
+        add("192.168.0.11", "Pair");
+    });
+    ASSERT_EQ(host.cameras().all().size(), 2) << "both heads";
+    const auto told = [this](DOCKEY key) {
+        const Camera& head = *host.cameras().find(key);
+        return QString(head.name() + ": " + head.get(&CameraState::comment)).toStdString();
+    };
+    EXPECT_EQ(told(1), "Pair: left{Separator}lens");
+    EXPECT_EQ(told(2), "Camera 1: own") << "what is typed is the first one's";
 }
 
 TEST_F(Dialogs, OfferNamesForACamera) {
@@ -236,16 +252,14 @@ TEST_F(Dialogs, ChooseTheDigitsOfNumbers) {
         const char* preview;
         const char* stored;
     } cases[] = {
-        {"by hand", 0, choose("camera", 3) + ';' + choose("session", 2), "C001S01",
-         "format=manual manualcamera=3 manualhead=0 manualsession=2 camera=3 head=0 session=2"},
-        {"as many as the cameras need", 0, automatic, "C01H1S01",
-         "format=auto manualcamera=3 manualhead=0 manualsession=2 camera=2 head=1 session=2"},
-        {"by hand again, as before", 0, "byId('manual').click()", "C001S01",
-         "format=manual manualcamera=3 manualhead=0 manualsession=2 camera=3 head=0 session=2"},
-        {"of a conversion the session alone", 5, choose("session", 4), "S0001", "manualsession=4 session=4"},
+        {"by hand", 0, choose("camera", 3) + ';' + choose("session", 2), "C001S01", "camera=3 head=0 session=2"},
+        {"as many as the cameras need", 0, automatic, "C01H1S01", "camera=2 head=1 session=2"},
+        {"by hand again, as before", 0, "byId('manual').click()", "C001S01", "camera=3 head=0 session=2"},
+        {"of a conversion the session alone", 5, choose("session", 4), "S0001", "session=4"},
+        {"of what has none", 12, choose("session", 4), "S0001", ""},
+        {"of what none is read of", 9, choose("session", 4), "S0001", ""},
     };
     for (const auto& c : cases) {
-        const QString key = slotKey(c.slot) + "addnumber";
         next([&](QDialog&) {
             page(c.act);
             EXPECT_EQ(page("byId('preview').textContent"), c.preview) << c.what;
@@ -253,11 +267,9 @@ TEST_F(Dialogs, ChooseTheDigitsOfNumbers) {
         });
         runDialog(host, new GUI_AddNumberDialog(&host, c.slot, 12, 2, &simulator.window()));
         QStringList stored;
-        for (const char* each :
-             {"format", "manualcamera", "manualhead", "manualsession", "camera", "head", "session"}) {
-            const QString digits = QString(each) == "format" ? "" : "nodigits";
-            const QVariant value = host.prefs().value(key + each + digits);
-            stored += value.isValid() ? QStringList(each + QString('=') + value.toString()) : QStringList();
+        for (const char* number : {"camera", "head", "session"}) {
+            const QVariant digits = host.prefs().value(slotKey(c.slot) + "addnumber" + number + "nodigits");
+            stored += digits.isValid() ? QStringList(number + QString('=') + digits.toString()) : QStringList();
         }
         EXPECT_EQ(stored.join(' '), c.stored) << c.what;
     }

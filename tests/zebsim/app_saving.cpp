@@ -4,7 +4,9 @@
 #include "CommandLine.h"
 #include "Files.h"
 #include "FramePicture.h"
+#include "HostPages.h"
 #include "ModalWatcher.h"
+#include "PageScript.h"
 #include "PlanDialog.h"
 #include "RigFile.h"
 #include "SaveDialog.h"
@@ -150,6 +152,53 @@ TEST_F(AppSaving, ShowsThePlanAndGoesBackWithWhatWasTyped) {
     host.setRig(standardRig(1));
     host.saveFiles();
     EXPECT_EQ(messages(), QStringList("No connected camera has recorded images."));
+}
+
+TEST_F(AppSaving, ShowsWhereTheFirstFileWouldGo) {
+    const QString out = folder.filePath("out/");
+    const auto digits = [](const char* chosen) {
+        return QString(
+                   "byId('camera').value = %1; byId('camera').dispatchEvent(new Event('change'));"
+                   "byId('%2').click()")
+            .arg(QString(chosen).section(' ', 0, 0), QString(chosen).section(' ', 1));
+    };
+    const struct {
+        const char* what;
+        QHash<QString, QVariant> prefs;
+        QString numbers;
+        QString path;
+    } cases[] = {
+        {"as at first", {}, "", out + "Camera 1_C01H1S001_-00001.png"},
+        {"with numbers that are chosen", {}, digits("4 ok"), out + "Camera 1_C0001H1S001_-00001.png"},
+        {"and not with those that are not", {}, digits("6 cancel"), out + "Camera 1_C0001H1S001_-00001.png"},
+        {"in the one group folder",
+         {{"export/groupdir", true}, {"save/fixedgroupdir", "all"}},
+         "",
+         out + "all/Camera 1_C0001H1S001_-00001.png"},
+        {"in the folder for all", {{"save/substitutefolder", "/else"}}, "", "/else/Camera 1_C0001H1S001_-00001.png"},
+    };
+    initHostPages();
+    ModalWatcher watcher;
+    for (const auto& one : cases) {
+        for (auto pref = one.prefs.begin(); pref != one.prefs.end(); ++pref) {
+            host.prefs().setValue(pref.key(), *pref);
+        }
+        QString path;
+        const auto once = QObject::connect(&watcher, &ModalWatcher::stands, [&](QDialog* dialog) {
+            if (qobject_cast<SaveDialog*>(dialog) == nullptr) {
+                PageScript(one.numbers).run(ScenarioDialogs::pageOfStanding());
+                return;
+            }
+            if (!one.numbers.isEmpty()) {
+                dialog->findChild<QPushButton*>("numbers")->click();
+            }
+            path = dialog->findChild<QLineEdit*>("path")->text();
+            dialog->reject();
+        });
+        host.saveFiles();
+        QObject::disconnect(once);
+        EXPECT_EQ(path.toStdString(), one.path.toStdString()) << one.what;
+    }
 }
 
 TEST_F(AppSaving, TellsOfCamerasThatAreNotThere) {

@@ -181,6 +181,28 @@ TEST_F(Plan, CallsACameraAsItsPreferencesSay) {
     EXPECT_EQ(nameInFiles(QString(100, QChar(0x9AD8))).toUtf8().size(), 150);
 }
 
+TEST(NamePromises, HoldUntilTheirSaveHasEnded) {
+    NamePromises promises;
+    auto first = std::make_unique<NamePromises::Save>(promises);
+    promises.promise("/r/run_S1/a");
+    EXPECT_FALSE(promises.isFolderTaken("/r/run_S1")) << "its own";
+    EXPECT_TRUE(promises.isPathTaken("/r/run_S1/A"));
+    {
+        const NamePromises::Save snapShot(promises);
+        EXPECT_TRUE(promises.isFolderTaken("/r/run_S1/") && promises.isFolderTaken("/r"));
+        EXPECT_FALSE(promises.isFolderTaken("/r/run_S")) << "which is another";
+        promises.promise("/r/shot");
+        EXPECT_TRUE(promises.isPathTaken("/r/shot"));
+    }
+    EXPECT_FALSE(promises.isPathTaken("/r/shot")) << "it is written";
+    promises.promise("/r/nobody");
+    EXPECT_FALSE(promises.isPathTaken("/r/nobody"));
+    const NamePromises::Save second(promises);
+    EXPECT_TRUE(promises.isFolderTaken("/r/run_S1") && promises.isPathTaken("/r/run_S1/a"));
+    first.reset();
+    EXPECT_FALSE(promises.isFolderTaken("/r/run_S1") || promises.isPathTaken("/r/run_S1/a"));
+}
+
 struct AnyPartition : GivenDocument {
     QList<PARTITIONNUMBER> partitions() const override { return {1}; }
     zeb::FileNameDetails fileNameDetails(int type, PARTITIONNUMBER, int session, const QDateTime&) const override {
