@@ -3,6 +3,7 @@
 #include "Files.h"
 #include "FullDisk.h"
 #include "Preferences.h"
+#include "SaveFormat.h"
 #include "support/TestHost.h"
 
 #include <QDir>
@@ -70,6 +71,21 @@ TEST_F(Prefs, AnUnreadableValueInAGoodFileIsItsFactoryType) {
     EXPECT_STREQ(prefs.value(QStringLiteral("wren/table/interval")).typeName(), "int");
     EXPECT_EQ(prefs.value(QStringLiteral("wren/table/interval")), 500);
     EXPECT_EQ(prefs.value(QStringLiteral("wren/display/lock")), false);
+}
+
+TEST_F(Prefs, TakeOverWhatWasCalledOtherwise) {
+    write(path, "[save]\nfolder=/old\nformat=video\n[snapshot]\nfolder=/shots\nformat=bmp\n[export]\ndir=/new\n");
+    { const Preferences taken(path); }
+    const Preferences prefs(copied());
+    const QMap<QString, QVariant> values{
+        {"export/dir", "/new"}, {"layout/dir", "/old"}, {"export/format", "video"}, {"layout/format", "video"},
+        {"snap/dir", "/shots"}, {"snap/format", "bmp"}, {"save/folder", {}},        {"snapshot/format", {}},
+    };
+    for (auto value = values.begin(); value != values.end(); ++value) {
+        EXPECT_EQ(prefs.value(value.key()), *value) << value.key().toStdString();
+    }
+    const auto pref = [&prefs](const QString& key) { return prefs.value(key); };
+    EXPECT_EQ(chosenFormat(pref, "export/").id, "mp4") << "there was one kind of video";
 }
 
 TEST_F(Prefs, ACorruptFileIsKeptAsideAndNamed) {
