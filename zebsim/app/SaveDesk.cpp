@@ -2,6 +2,7 @@
 
 #include "Camera.h"
 #include "DialogRun.h"
+#include "PartitionName.h"
 #include "PlanDialog.h"
 #include "PluginSignal.h"
 #include "SaveDialog.h"
@@ -70,20 +71,15 @@ std::vector<SaveTrack> SaveDesk::tracksToSave(bool layout) const {
         const SaveSource& source = track.sources.front();
         const auto isOfSameCamera = [&source](const SaveSource& other) { return other.key() == source.key(); };
         if (!layout && std::count_if(sources.begin(), sources.end(), isOfSameCamera) > 1) {
-            track.name = uiText("%1, %2").arg(track.name, partitionName(source));
+            const Camera* camera = m_host.cameras().find(source.key());
+            const QStringList names = camera ? camera->get(&CameraState::partitionNames) : QStringList();
+            track.name = uiText("%1, %2").arg(track.name, partitionName(names, source.partition()));
         }
     }
     if (layout && !earlier.isEmpty()) {
         tracks.front().name = uiText("%1 with %2").arg(tracks.front().name, earlier.join(QStringLiteral(", ")));
     }
     return tracks;
-}
-
-QString SaveDesk::partitionName(const SaveSource& source) const {
-    const Camera* camera = m_host.cameras().find(source.key());
-    const QStringList names = camera ? camera->get(&CameraState::partitionNames) : QStringList();
-    const QString name = names.value(int(source.partition()) - 1);
-    return name.isEmpty() ? uiText("Partition %1").arg(source.partition()) : name;
 }
 
 QStringList SaveDesk::absentCameras() const {

@@ -33,7 +33,6 @@ private:
     QStringList absentCameras() const;
     /// Names those that are not of the last shoot so, and answers the names.
     QStringList markEarlier(SaveSources& sources) const;
-    QString partitionName(const SaveSource& source) const;
     /// Nothing when there is nothing to be saved.
     std::vector<SaveTrack> tracksToSave(bool layout) const;
     void begin(const SaveOrders& orders, std::unique_ptr<NamePromises::Save> names);

@@ -1,10 +1,9 @@
 #include "SimDocument.h"
 
+#include "PartitionName.h"
 #include "ShutterText.h"
 #include "SimAppStatus.h"
 #include "SimDocManager.h"
-#include "TextKey.h"
-#include "Translator.h"
 
 SimDocument::SimDocument(std::shared_ptr<Camera> camera, const HostContext& host)
     : DocTopic(*camera, host),
@@ -47,9 +46,7 @@ QList<PARTITIONNUMBER> SimDocument::getPartitionList() const {
 }
 
 QString SimDocument::getPartitionName(PARTITIONNUMBER partition) const {
-    const QString name =
-        askConnected(OPERATION("getPartitionName"), &CameraState::partitionNames).value(int(partition) - 1);
-    return name.isEmpty() ? m_host.translator.translate(TextKey("Partition %1")).arg(partition) : name;
+    return partitionName(askConnected(OPERATION("getPartitionName"), &CameraState::partitionNames), partition);
 }
 
 QString SimDocument::formatShutterSpeed(int value, int /*head*/) const {
