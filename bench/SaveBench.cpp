@@ -7,6 +7,7 @@
 #include "RealClock.h"
 #include "RecordedRig.h"
 #include "SaveJob.h"
+#include "SaveProgress.h"
 
 #include <QDir>
 #include <QElapsedTimer>
@@ -38,7 +39,8 @@ public:
         m_since.start();
         m_timer.start(TickMs);
     }
-    double worst() const { return double(m_worst); }
+    /// The turn that is under way counts too.
+    double worst() const { return double(std::max(m_worst, m_since.elapsed() - TickMs)); }
 
 private:
     QTimer m_timer;
@@ -74,6 +76,8 @@ public:
         if (follow) {
             QObject::connect(&job, &SaveJob::progressed, &loop, [&] { follow(job); });
         }
+        SaveProgress progress(job, nullptr);
+        progress.show();
         const Lateness lateness;
         job.start();
         loop.exec();
