@@ -10,6 +10,7 @@
 #include <QHash>
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -49,10 +50,10 @@ public:
     }
 
     void lookAtSpace() {
-        for (auto fileSystem = m_space.begin(); fileSystem != m_space.end(); ++fileSystem) {
-            if (fileSystem->needed > fileSystem->available) {
-                PlanEntry entry{PlanEntry::NoSpace, {}, fileSystem->folder, fileSystem->needed};
-                entry.available = fileSystem->available;
+        for (const Space& fileSystem : std::as_const(m_space)) {
+            if (fileSystem.needed > fileSystem.available) {
+                PlanEntry entry{PlanEntry::NoSpace, {}, fileSystem.folder, fileSystem.needed};
+                entry.available = fileSystem.available;
                 m_plan.entries.append(entry);
             }
         }
