@@ -55,7 +55,7 @@ TEST_P(NamingAFile, GivesAWholeFileOrNone) {
         EXPECT_EQ(failure(name, Over::Nothing), "") << name.toStdString();
         EXPECT_EQ(contentOf(path(name)), "new");
         write(path(name), "old");
-        EXPECT_EQ(failure(name, Over::Nothing), "a file of that name has appeared meanwhile");
+        EXPECT_EQ(failure(name, Over::Nothing), "a file of that name is there already");
         EXPECT_EQ(contentOf(path(name)), "old");
         QFile::setPermissions(path(name), QFile::ReadOwner | QFile::WriteOwner);
         EXPECT_EQ(failure(name, Over::OldFile), "");

@@ -124,7 +124,7 @@ TEST_F(Saving, TakesAllPartitionsInWhateverIsInUse) {
 }
 
 TEST_F(Saving, WritesOverNothingButWhatItMay) {
-    const QString appeared = "a file of that name has appeared meanwhile";
+    const QString appeared = "a file of that name is there already";
     write(path(AllFiles[1]), "old");
     write(path(AllFiles[2]), "old");
     SaveOrders wanted = orders();
@@ -142,6 +142,10 @@ TEST_F(Saving, WritesOverNothingButWhatItMay) {
     EXPECT_EQ(run(again), QStringList("Gate: 0 of 1 up to 0, failed"));
     EXPECT_EQ(reason, appeared);
     EXPECT_TRUE(host.camera(1).recording()->saved);
+    QFile::remove(path(AllFiles[0]));
+    QFile::remove(path(AllFiles[1]));
+    EXPECT_EQ(run(again), QStringList("Gate: 0 of 2 up to 0, failed")) << "what stood there before counts too";
+    EXPECT_EQ(reason, "the file has gone since it was written");
 }
 
 TEST_F(Saving, LosesNoOtherTrackByAFileOrFolderThatCannotBeWritten) {

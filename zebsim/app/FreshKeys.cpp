@@ -4,16 +4,36 @@
 #include <QKeyEvent>
 #include <QPushButton>
 
+#include <utility>
+
 namespace {
+
+/// Nobody lets go of a key and presses it again within it.
+constexpr ulong OneMomentMs = 5;
 
 class FreshKeys : public QObject {
 public:
     using QObject::QObject;
 
     bool eventFilter(QObject* object, QEvent* event) override {
-        const bool isHeld = event->type() == QEvent::KeyPress && static_cast<QKeyEvent*>(event)->isAutoRepeat();
-        return isHeld || QObject::eventFilter(object, event);
+        if (event->type() == QEvent::KeyPress && isHeld(*static_cast<QKeyEvent*>(event))) {
+            return true;
+        }
+        if (event->type() == QEvent::KeyRelease) {
+            const auto& key = *static_cast<QKeyEvent*>(event);
+            m_released = {key.key(), key.timestamp()};
+        }
+        return QObject::eventFilter(object, event);
     }
+
+private:
+    /// Where windows are slow a repeat comes as a release and a press of one moment.
+    bool isHeld(const QKeyEvent& key) const {
+        return key.isAutoRepeat() || (key.key() == m_released.first && key.timestamp() != 0 &&
+                                      key.timestamp() - m_released.second <= OneMomentMs);
+    }
+
+    std::pair<int, ulong> m_released{0, 0};
 };
 
 }  // namespace

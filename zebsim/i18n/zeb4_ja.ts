@@ -2392,8 +2392,8 @@
         <translation>動画を作成するプログラムが失敗しました</translation>
     </message>
     <message>
-        <source>a file of that name has appeared meanwhile</source>
-        <translation>同じ名前のファイルがその間に作成されました</translation>
+        <source>a file of that name is there already</source>
+        <translation>同じ名前のファイルが既にあります</translation>
     </message>
     <message>
         <source>Group folder</source>

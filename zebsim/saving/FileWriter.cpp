@@ -127,8 +127,7 @@ FileWriter::~FileWriter() {
 }
 
 void FileWriter::fail(int error) const {
-    throw FileError(m_path,
-                    error == EEXIST ? TextKey("a file of that name has appeared meanwhile") : qt_error_string(error));
+    throw FileError(m_path, error == EEXIST ? TextKey("a file of that name is there already") : qt_error_string(error));
 }
 
 bool FileWriter::openUnnamed() {
@@ -255,6 +254,11 @@ void writeFile(const QString& path, const QByteArray& bytes, Over over, Naming n
 
 void syncDisk(const QString& folder) {
     const int file = ::open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (file < 0 && errno == EACCES) {
+        // It may be written, but not looked into.
+        ::sync();
+        return;
+    }
     const int error = file < 0 ? errno : errorOf(::syncfs(file));
     ::close(file);
     if (error != 0) {

@@ -17,21 +17,20 @@ int firstMissing(const SaveOrders& orders, const SaveTrack& track, int end) {
 
 SaveTrack rest(const SaveOrders& orders, const SaveOutcome& outcome) {
     SaveTrack track = orders.tracks[std::size_t(outcome.track)];
-    const bool isWhole = orders.format.isOneFile() || track.isLayout;
-    track.least = orders.format.isOneFile() ? std::max(track.least, outcome.saved) : 0;
-    track.from = isWhole ? 0 : firstMissing(orders, track, track.from + outcome.saved);
+    if (orders.format.isOneFile()) {
+        const bool stands = QFileInfo(orders.fileOf(track, track.from)).size() > 0;
+        track.least = stands ? std::max(track.least, outcome.saved) : 0;
+    }
+    track.from = orders.format.isOneFile() ? 0 : firstMissing(orders, track, track.from + outcome.saved);
     return track;
 }
 
 }  // namespace
 
 std::vector<SaveTrack> tracksToSaveAgain(const SaveOrders& orders, const QList<SaveOutcome>& outcomes) {
-    const bool isShortOfACamera = std::any_of(outcomes.begin(), outcomes.end(), [](const SaveOutcome& outcome) {
-        return outcome.track < 0 && outcome.end == SaveOutcome::CameraLost;
-    });
     std::vector<SaveTrack> tracks;
     for (const SaveOutcome& outcome : outcomes) {
-        if (outcome.track >= 0 && (outcome.end != SaveOutcome::Saved || isShortOfACamera)) {
+        if (outcome.track >= 0 && outcome.end != SaveOutcome::Saved) {
             tracks.push_back(rest(orders, outcome));
         }
     }

@@ -179,10 +179,13 @@ void SavePipeline::sync() {
 /// A medium may have gone, and a folder may have come in its place.
 void SavePipeline::look() {
     for (const auto& [folder, runs] : m_folders) {
-        const QStringList list = QDir(folder).entryList(QDir::Files | QDir::Hidden | QDir::System, QDir::NoSort);
+        const QDir target(folder);
+        const QStringList list = target.entryList(QDir::Files | QDir::Hidden | QDir::System, QDir::NoSort);
         const QSet<QString> names(list.begin(), list.end());
+        // One that may be written need not be one that can be listed.
+        const bool isListed = target.isReadable();
         for (TrackRun* run : runs) {
-            run->keepOnly(names);
+            run->keepOnly([&](const QString& name) { return isListed ? names.contains(name) : target.exists(name); });
         }
     }
 }

@@ -61,6 +61,7 @@ TrackRun::TrackRun(int number, const SaveOrders& orders, int mostFrames, const S
       m_stop(stop),
       m_sink(FrameSink::of(orders, m_track, stop)),
       m_frames(mostFrames),
+      m_first(m_track.from),
       m_next(m_track.from) {}
 
 QString TrackRun::folder() const {
@@ -209,14 +210,16 @@ void TrackRun::fail(const FileError& error) {
     m_next = m_track.from;
 }
 
-void TrackRun::keepOnly(const QSet<QString>& names) {
+void TrackRun::keepOnly(const std::function<bool(const QString& name)>& stands) {
     const std::lock_guard lock(m_mutex);
     const bool isOne = m_orders.format.isOneFile();
     const int end = isOne ? m_track.from + (m_isFinished && m_next > m_track.from ? 1 : 0) : m_next;
-    for (int index = m_track.from; index < end; ++index) {
+    // Those that stood there before count as well.
+    for (int index = isOne ? m_track.from : 0; index < end; ++index) {
         const QString file = m_orders.fileOf(m_track, index);
-        if (!names.contains(QFileInfo(file).fileName())) {
-            m_next = index;
+        if (!stands(QFileInfo(file).fileName())) {
+            m_first = std::min(index, m_track.from);
+            m_next = std::max(index, m_track.from);
             m_isFinished = false;
             m_failure = FileError(file, TextKey("the file has gone since it was written"));
             return;
@@ -258,7 +261,7 @@ QList<SaveOutcome> TrackRun::outcomes() const {
     own.name = m_track.name;
     own.end = end();
     own.saved = saved();
-    own.frames = m_track.frames() - m_track.from;
+    own.frames = m_track.frames() - m_first;
     own.file = m_failure ? m_failure->file() : QString();
     own.reason = m_failure                            ? QString::fromUtf8(m_failure->what())
                  : own.end == SaveOutcome::CameraLost ? m_lossReason

@@ -9,6 +9,7 @@
 #include <QSet>
 
 #include <chrono>
+#include <functional>
 #include <map>
 #include <mutex>
 #include <optional>
@@ -53,8 +54,8 @@ public:
     bool isAtWork() const;
     /// Nothing of it is saved.
     void fail(const FileError& error);
-    /// Once nobody is at work: `names` are what stands in its folder. What does not stand there is not saved.
-    void keepOnly(const QSet<QString>& names);
+    /// Once nobody is at work: `stands` tells of a name whether it stands in its folder. What does not is not saved.
+    void keepOnly(const std::function<bool(const QString& name)>& stands);
     bool hasFailed() const;
     /// Frames done so far.
     int done() const;
@@ -92,6 +93,8 @@ private:
     QList<SaveOutcome> m_lostFromLayout;
 
     mutable std::mutex m_mutex;
+    /// The first frame that does not stand in a file of an earlier save.
+    int m_first;
     /// The next frame to be written, and the first that does not come.
     int m_next;
     std::optional<int> m_end;
