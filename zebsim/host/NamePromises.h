@@ -17,7 +17,6 @@ public:
         ~Save() { m_promises.m_saves.remove(m_number); }
         Q_DISABLE_COPY(Save)
 
-
     private:
         NamePromises& m_promises;
         const int m_number;

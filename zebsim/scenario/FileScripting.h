@@ -24,8 +24,8 @@ public:
     /// Makes folders that are not there.
     void write(const QString& path, const QString& text) const;
 
-    /// What a folder holds, by name: `{name, size, checksum}` in bytes and of them, with `format`, `width`, `height` and `texts` where it is
-    /// a picture. Empty when there is no such folder.
+    /// What a folder holds, by name: `{name, size, checksum}` in bytes and of them, with `format`, `width`, `height`
+    /// and `texts` where it is a picture. Empty when there is no such folder.
     QVariantList list(const QString& folder) const;
     /// Size of a picture in pixels, and a checksum of them, as `{width, height, checksum}`. Throws `ScenarioError`.
     QVariantMap pixels(const QString& path) const;
