@@ -184,13 +184,13 @@ QJsonObject SaveBench::run() {
 QJsonObject SaveBench::memory(int cameras) {
     Scene scene(cameras, QSize(256, 256), 1000, 0);
     const SaveOrders orders = scene.orders(QStringLiteral("png"));
-    std::vector<int> removed(orders.tracks.size(), 0);
+    std::vector<int> emptied(orders.tracks.size(), 0);
     const double before = statusOf("VmRSS");
     scene.save(orders, [&](const SaveJob& job) {
         const std::vector<int> saved = job.done();
         for (std::size_t track = 0; track < saved.size(); ++track) {
-            for (; removed[track] < saved[track]; ++removed[track]) {
-                QFile::remove(orders.fileOf(orders.tracks[track], removed[track]));
+            for (; emptied[track] < saved[track]; ++emptied[track]) {
+                QFile::resize(orders.fileOf(orders.tracks[track], emptied[track]), 0);
             }
         }
     });
