@@ -95,7 +95,9 @@ void PlanDialog::addButtons() {
     save->setEnabled(m_plan.isPossible());
     auto* back = buttons->addButton(uiText("Back"), QDialogButtonBox::RejectRole);
     // What is lost by Enter must not be more than time.
-    (m_plan.isPossible() && !replaces ? save : back)->setDefault(true);
+    const bool asks = std::any_of(m_plan.entries.begin(), m_plan.entries.end(),
+                                  [](const PlanEntry& entry) { return entry.isQuestion(); });
+    (m_plan.isPossible() && !asks ? save : back)->setDefault(true);
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     layout()->addWidget(buttons);
