@@ -119,8 +119,14 @@ void SaveDesk::beginAgain(const std::vector<SaveTrack>& tracks) {
         const QFileInfo stem(track.stem);
         targets.push_back({stem.path(), {}, {}, stem.fileName()});
     }
-    RealDisk disk;
-    const SavePlan plan = planOf(std::move(orders), targets, disk);
+    SavePlan plan;
+    try {
+        RealDisk disk;
+        plan = planOf(std::move(orders), targets, disk);
+    } catch (const std::exception& e) {
+        m_host.messages().tell(Message::Alert, uiText(QString::fromUtf8(e.what())), {}, m_progress);
+        return;
+    }
     const QPointer<SaveProgress> alive(m_progress);
     m_asking = true;
     const int answer = runDialog(m_host, new PlanDialog(plan, m_progress));
