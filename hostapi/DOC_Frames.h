@@ -1,5 +1,7 @@
 #pragma once
 
+#include "ZebTypes.h"
+
 /// Recorded frames of a document's current partition. GUI thread.
 class DOC_Frames {
 public:
@@ -7,6 +9,8 @@ public:
 
     /// Frames that a recording takes with the present settings in live mode, recorded frames otherwise.
     virtual unsigned int getFrameCount(int partition, int head) const = 0;
+    /// Of a partition, whichever is in use; all 0 when it holds nothing.
+    virtual zeb::RecordedData getRecordedData(PARTITIONNUMBER partition) const = 0;
     /// Numbers of the first and the last recorded frame.
     virtual int getFirstFrame(int partition, int head) const = 0;
     virtual int getLastFrame(int partition, int head) const = 0;

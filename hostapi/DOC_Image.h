@@ -2,12 +2,15 @@
 
 #include "ZebTypes.h"
 
+#include <QPixmap>
 #include <QPoint>
 #include <QRect>
 #include <QSize>
 #include <QString>
 
 #include <optional>
+
+class QDateTime;
 
 /// The image of a document and what is written to it. GUI thread.
 class DOC_Image {
@@ -22,6 +25,10 @@ public:
     virtual std::optional<zeb::ImageFormat> getImageFormat(int kind, int head) const = 0;
     /// Image size in pixels.
     virtual QSize getImageSize() const = 0;
+    /// A picture of what is recorded in `partition`, or seen live, as a file of that `zeb::FileType` would show it; of
+    /// at most `width` by `height` pixels. `frame` 0 is the one that is shown now. A null picture when there is none.
+    virtual QPixmap getPreview(int type, int width, int height, PARTITIONNUMBER partition, int frame,
+                               const QDateTime& time) const = 0;
     /// Factor by which the image was scaled; 0 when it was not.
     virtual double getScale() const = 0;
     /// Exponent of the binning, as a power of 2.

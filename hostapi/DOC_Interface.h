@@ -11,6 +11,7 @@ class DOC_Frames;
 class DOC_Head;
 class DOC_Image;
 class DOC_Lock;
+class DOC_Network;
 class DOC_Storage;
 
 /// A camera, or one head of a camera with several.
@@ -34,6 +35,7 @@ public:
     virtual DOC_Control& control() = 0;
     virtual DOC_Head& head() = 0;
     virtual DOC_Storage& storage() = 0;
+    virtual DOC_Network& network() = 0;
 
     /// Loops.
     virtual DOCKEY getKey() const = 0;

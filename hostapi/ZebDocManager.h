@@ -5,6 +5,7 @@
 #include <QMutex>
 
 class QObject;
+class ZebMedia;
 
 /// The camera documents of the host. GUI thread.
 ///
@@ -63,6 +64,17 @@ public:
 
     /// Keys of the temporary save list: what is to be saved from media, beside the selection.
     virtual DocKeyList getTemporarySaveDocKeys() const = 0;
+
+    /// SD cards in readers of this machine: a bit for the letter of each drive, A the lowest. One is open at a time,
+    /// its recordings are documents then; false, and `drive` as it was, when none is. `prepareDrive` comes before
+    /// opening, with `zeb::SdDriveKind`; both may throw.
+    virtual unsigned int getSdDriveMask() const = 0;
+    virtual bool getOpenSdDrive(int& drive) const = 0;
+    virtual void prepareDrive(int kind) = 0;
+    virtual void openSdDrive(int drive) = 0;
+    virtual void closeSdDrive() = 0;
+    /// The other media. Does not throw.
+    virtual ZebMedia& media() = 0;
 
     /// States of the documents together.
     virtual bool hasWaveformData() const = 0;

@@ -126,6 +126,12 @@ public:
     /// windows, and runs an event loop until all is saved or the user has given up.
     virtual void saveFiles() = 0;
     virtual void saveLayoutFiles() = 0;
+    /// Dialogs that an export opens, each with an event loop of its own until it is closed: the form of a time code,
+    /// and what a saved picture shows of the camera, for these documents. False when the user has given up.
+    virtual bool openCustomTimeCodeDialog() = 0;
+    virtual bool openSaveInfoView(const DocKeyList& keys) = 0;
+    /// The folder of the analysis program that takes saved recordings over; empty when it is not installed.
+    virtual void getTal2Folder(QString& out) const = 0;
     /// Whether the camera table has a window to take a picture of. Does not throw.
     virtual bool hasWrenWindow() const = 0;
 

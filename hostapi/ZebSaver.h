@@ -16,6 +16,8 @@ public:
     virtual void setLastGroupDir(const QString& name) = 0;
     virtual void setLastFolder(const QString& folder) = 0;
     virtual void setLastPath(const QString& path) = 0;
+    /// Forgets those.
+    virtual void resetNameState() = 0;
     /// Whether another save has promised to write into a new folder of that path; and whether it, or an earlier target
     /// of this one, has promised that file, without what its name ends in.
     virtual bool isFolderTaken(const QString& path) const = 0;

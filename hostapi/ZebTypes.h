@@ -3,6 +3,7 @@
 #include <QList>
 #include <QMap>
 #include <QMetaType>
+#include <QSize>
 #include <QString>
 
 class DOC_Interface;
@@ -186,6 +187,59 @@ enum FileType {
     UnnamedReportFile = 17,
     /// Images side by side, with a name that may be empty.
     UnnamedLayoutFile = 18
+};
+
+/// Kinds of storage media beside SD cards.
+enum MediumKind { QuikDrive = 1, CFast = 2 };
+
+/// `ZebDocManager::prepareDrive` of an SD card.
+constexpr int SdDriveKind = 5;
+
+/// A medium that the host has found: the reader or camera that it is in, as the host tells them apart, and its name.
+struct Medium {
+    int type = 0;
+    int drive = 0;
+    int slot = 0;
+    QString name;
+};
+
+/// Room on a medium, in bytes. `written`: all that was ever written to it.
+struct MediumUse {
+    qint64 capacity = 0;
+    qint64 used = 0;
+    qint64 written = 0;
+};
+
+/// What a document holds in one partition. Frame numbers are those of the memory, as `DOC_Frames` has them.
+struct RecordedData {
+    /// Frames a second, and n of 1/n second.
+    unsigned int rate = 0;
+    int shutter = 0;
+    QSize resolution;
+    int first = 0;
+    int last = 0;
+    int selectStart = 0;
+    int selectEnd = 0;
+    /// Bytes of all its frames.
+    qint64 bytes = 0;
+};
+
+/// A recording on a medium, as the medium's own list tells it.
+struct MediumData {
+    QString fileName;
+    /// As the user has named it.
+    QString dataName;
+    /// Of the camera that has made it.
+    QString cameraName;
+    QString deviceName;
+    QString driveName;
+    QString serialNo;
+    int dataNo = 0;
+    int slot = 0;
+    QString date;
+    QString time;
+    /// It needs the user's eye: it was not read whole.
+    bool isMarked = false;
 };
 
 /// What a host adds to the name of a file, and whether it holds the session number that it was asked with.

@@ -1,5 +1,6 @@
 #include "FactoryValues.h"
 
+#include "SaveOptions.h"
 #include "ZebTypes.h"
 
 #include <QStandardPaths>
@@ -39,8 +40,6 @@ QList<FactoryValue> table() {
         {"save/SaveInfFile", false},
         {"save/fixedgroupdir", text("")},
         {"save/substitutefolder", text("")},
-        {"snap/filenameaddtime", true},
-        {"snap/filenameaddtimeformat", text("yyyyMMdd-HHmmss")},
         {"sync/external", 0},
         {"sync/generator/address", text("")},
         {"sync/generator/input", 0},
@@ -131,50 +130,24 @@ QList<FactoryValue> table() {
     };
 }
 
-/// So that no two cameras get one name, and no save that of another.
-struct NameFamily {
-    QByteArray prefix;
-    const char* filename = "";
-    const char* details = "name,number";
-    int cameraDigits = 2;
-    int headDigits = 1;
-};
-
-QList<FactoryValue> fileNames(const NameFamily& family) {
-    const QByteArray& prefix = family.prefix;
-    const QString pictures = QStandardPaths::writableLocation(QStandardPaths::PicturesLocation);
-    return {
-        {prefix + "dir", pictures},
-        {prefix + "filename", text(family.filename)},
-        {prefix + "filenameadddetail", true},
-        {prefix + "filenameadddetails", text(family.details)},
-        {prefix + "filenameadddetailsconnect", text("_")},
-        {prefix + "filenameaddnumber", true},
-        {prefix + "filenameaddnumbercameranodigits", family.cameraDigits},
-        {prefix + "filenameaddnumberheadnodigits", family.headDigits},
-        {prefix + "filenameaddnumbersessionnodigits", 3},
-        {prefix + "filenameaddtextvalue", text("")},
-        {prefix + "filenameseqdigits", 5},
-        {prefix + "format", text("png")},
-    };
-}
-
 }  // namespace
 
 const QHash<QString, QVariant>& factoryValues() {
     static const QHash<QString, QVariant> values = [] {
         QHash<QString, QVariant> byKey;
-        const auto add = [&byKey](const QList<FactoryValue>& entries) {
-            for (const FactoryValue& entry : entries) {
-                Q_ASSERT(!byKey.contains(QString::fromLatin1(entry.key)));
-                byKey.insert(QString::fromLatin1(entry.key), entry.value);
-            }
+        const auto add = [&byKey](const QString& key, const QVariant& value) {
+            Q_ASSERT(!byKey.contains(key));
+            byKey.insert(key, value);
         };
-        add(fileNames({"export/"}));
-        add(fileNames({"snap/"}));
-        // Of many cameras none stands in the name.
-        add(fileNames({"layout/", "Layout", "number", 0, 0}));
-        add(table());
+        for (const SaveOptionKey& option : saveOptionKeys()) {
+            if (option.value.isValid()) {
+                add(option.key, option.value);
+            }
+        }
+        const QList<FactoryValue> others = table();
+        for (const FactoryValue& entry : others) {
+            add(QString::fromLatin1(entry.key), entry.value);
+        }
         return byKey;
     }();
     return values;

@@ -1,11 +1,14 @@
 #pragma once
 
+#include "Recording.h"
 #include "ZebTypes.h"
 
 #include <QImage>
 #include <QRect>
 #include <QString>
 #include <QStringList>
+
+#include <optional>
 
 class ParallelRows;
 class QFutureWatcherBase;
@@ -38,6 +41,14 @@ public:
     /// As `ZebSaver::snapShot`.
     virtual void snapShot(int /*mode*/) {}
 
+    /// The form of a time code, and what a saved picture tells of these cameras; false when the user has given up.
+    virtual bool openTimeCode() { return false; }
+    virtual bool openSaveInfo(const DocKeyList& /*keys*/) { return false; }
+    /// The password of a medium of that name, or the one that it is to have. Nothing when the user has given up.
+    virtual std::optional<QString> askPassword(const QString& /*medium*/, bool /*isNew*/) { return std::nullopt; }
+
+    /// Number of the recorded frame of a camera that is shown.
+    virtual int shownFrame(DOCKEY /*key*/, const Recording& recording) const { return recording.selectedFirst; }
     /// The image in front as it is shown; a null image without one.
     virtual QImage currentImage() const { return {}; }
     /// Adds what only the application knows: its log, pictures of its windows and of its plug-ins' dialogs.

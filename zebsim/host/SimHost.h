@@ -190,6 +190,16 @@ public:
     bool exportSupportFile(const QString& path, const ZebSupportFile& file) override;
     void saveFiles() override { tellWindows(OPERATION("ZebHost::saveFiles")).save(false); }
     void saveLayoutFiles() override { tellWindows(OPERATION("ZebHost::saveLayoutFiles")).save(true); }
+    bool openCustomTimeCodeDialog() override {
+        return tellWindows(OPERATION("ZebHost::openCustomTimeCodeDialog")).openTimeCode();
+    }
+    bool openSaveInfoView(const DocKeyList& keys) override {
+        return tellWindows(OPERATION("ZebHost::openSaveInfoView"), {Journal::keyList(keys)}).openSaveInfo(keys);
+    }
+    /// The preference `tal2/folder`.
+    void getTal2Folder(QString& out) const override {
+        out = m_hostPrefs.get(OPERATION("getTal2Folder"), QStringLiteral("tal2/folder"), {}).toString();
+    }
     bool hasWrenWindow() const override;
     void hideSelectBox() override {
         m_calls.change(OPERATION("ZebHost::hideSelectBox"));
@@ -211,7 +221,10 @@ public:
 
     QWidget* getMainWindow() const override { return m_mainWindow; }
     QWidget* getMdiWidget() const override { return m_mdiWidget; }
-    void attachBridge(QWebView* view, ZebPageBridge* bridge) override { m_hostUpdates.attachBridge(view, bridge); }
+    void attachBridge(QWebView* view, ZebPageBridge* bridge) override {
+        m_hostPrefs.tried().beginFor(view, *bridge);
+        m_hostUpdates.attachBridge(view, bridge);
+    }
 
     void updateUI(unsigned int mask, bool refresh) override { m_hostUpdates.updateUI(mask, refresh); }
     void deterUpdateUI(bool deter) override { m_hostUpdates.deterUpdateUI(deter); }

@@ -28,6 +28,10 @@ void SimSaver::setLastPath(const QString& path) {
     m_promises.promise(path);
 }
 
+void SimSaver::resetNameState() {
+    m_host.calls.note("ZebSaver::resetNameState");
+}
+
 bool SimSaver::isSaving() const {
     return m_host.flags.isOn(StatusFlags::IsSaving) || m_host.windows->isSaving();
 }

@@ -18,6 +18,8 @@ public:
     void setLastGroupDir(const QString& name) override;
     void setLastFolder(const QString& folder) override;
     void setLastPath(const QString& path) override;
+    /// Nothing is remembered but what saves have promised, and that stands.
+    void resetNameState() override;
     bool isFolderTaken(const QString& path) const override { return m_promises.isFolderTaken(path); }
     bool isPathTaken(const QString& path) const override { return m_promises.isPathTaken(path); }
     bool isSaving() const override;

@@ -2435,5 +2435,321 @@
         <source>the file has gone since it was written</source>
         <translation>書き込み後にファイルがなくなりました</translation>
     </message>
+    <message>
+        <source>%1 is not there any more.</source>
+        <translation>%1 はもうありません。</translation>
+    </message>
+    <message>
+        <source>it is on no medium</source>
+        <translation>メディア上のデータではありません</translation>
+    </message>
+    <message>
+        <source>%1 fps</source>
+        <translation>%1 fps</translation>
+    </message>
+    <message>
+        <source>%1 of %2 recordings, %3 frames, about %4</source>
+        <translation>録画 %1/%2、%3 フレーム、約 %4</translation>
+    </message>
+    <message>
+        <source>0 is best</source>
+        <translation>0 が最高品質</translation>
+    </message>
+    <message>
+        <source>0: as many as make it square</source>
+        <translation>0: 正方形に近くなる列数</translation>
+    </message>
+    <message>
+        <source>A name can&apos;t hold \ / : * ? &quot; &lt; &gt; | %.</source>
+        <translation>名前に \ / : * ? &quot; &lt; &gt; | % は使えません。</translation>
+    </message>
+    <message>
+        <source>A number from %1 to %2 is needed.</source>
+        <translation>%1 から %2 までの数値を入力してください。</translation>
+    </message>
+    <message>
+        <source>A snapshot is one picture.</source>
+        <translation>スナップショットは 1 枚の画像です。</translation>
+    </message>
+    <message>
+        <source>All frames as pages of one file</source>
+        <translation>全フレームを 1 ファイルのページにする</translation>
+    </message>
+    <message>
+        <source>As the files are called</source>
+        <translation>ファイル名と同じ</translation>
+    </message>
+    <message>
+        <source>Bayer data</source>
+        <translation>ベイヤーデータ</translation>
+    </message>
+    <message>
+        <source>Between them</source>
+        <translation>区切り</translation>
+    </message>
+    <message>
+        <source>Bit depth</source>
+        <translation>ビット深度</translation>
+    </message>
+    <message>
+        <source>Codec</source>
+        <translation>コーデック</translation>
+    </message>
+    <message>
+        <source>Columns</source>
+        <translation>列数</translation>
+    </message>
+    <message>
+        <source>Contents</source>
+        <translation>内容</translation>
+    </message>
+    <message>
+        <source>Convert afterwards</source>
+        <translation>保存後に変換する</translation>
+    </message>
+    <message>
+        <source>Correction</source>
+        <translation>補正</translation>
+    </message>
+    <message>
+        <source>Custom information in its place</source>
+        <translation>代わりにカスタム情報を使う</translation>
+    </message>
+    <message>
+        <source>Digits of a frame&apos;s number</source>
+        <translation>フレーム番号の桁数</translation>
+    </message>
+    <message>
+        <source>Each camera has its own folder</source>
+        <translation>カメラごとのフォルダーに保存する</translation>
+    </message>
+    <message>
+        <source>Ending of its name</source>
+        <translation>名前の末尾</translation>
+    </message>
+    <message>
+        <source>Folders</source>
+        <translation>フォルダー</translation>
+    </message>
+    <message>
+        <source>Folders by camera</source>
+        <translation>カメラ別フォルダー</translation>
+    </message>
+    <message>
+        <source>Frames shown in a second</source>
+        <translation>1 秒間の表示フレーム数</translation>
+    </message>
+    <message>
+        <source>Free space</source>
+        <translation>空き容量</translation>
+    </message>
+    <message>
+        <source>Hand over to TAL2</source>
+        <translation>TAL2 に渡す</translation>
+    </message>
+    <message>
+        <source>Images keep the ratio of their sides</source>
+        <translation>画像の縦横比を保つ</translation>
+    </message>
+    <message>
+        <source>In a grid</source>
+        <translation>格子状</translation>
+    </message>
+    <message>
+        <source>In a row</source>
+        <translation>横 1 列</translation>
+    </message>
+    <message>
+        <source>In this order</source>
+        <translation>順序</translation>
+    </message>
+    <message>
+        <source>Information drawn on the images</source>
+        <translation>画像に情報を描き込む</translation>
+    </message>
+    <message>
+        <source>Information file beside it</source>
+        <translation>情報ファイルを添える</translation>
+    </message>
+    <message>
+        <source>Information file beside them</source>
+        <translation>情報ファイルを添える</translation>
+    </message>
+    <message>
+        <source>Information on images</source>
+        <translation>画像の情報</translation>
+    </message>
+    <message>
+        <source>Items...</source>
+        <translation>項目...</translation>
+    </message>
+    <message>
+        <source>Line %1</source>
+        <translation>%1 行目</translation>
+    </message>
+    <message>
+        <source>Milliseconds</source>
+        <translation>ミリ秒</translation>
+    </message>
+    <message>
+        <source>Names and times are drawn</source>
+        <translation>名前と時刻を描き込む</translation>
+    </message>
+    <message>
+        <source>No camera here has a colour filter.</source>
+        <translation>カラーフィルターを持つカメラがありません。</translation>
+    </message>
+    <message>
+        <source>No camera here measures signals.</source>
+        <translation>信号を計測するカメラがありません。</translation>
+    </message>
+    <message>
+        <source>No image here has a correction.</source>
+        <translation>補正のある画像がありません。</translation>
+    </message>
+    <message>
+        <source>No image here has a scale.</source>
+        <translation>スケールのある画像がありません。</translation>
+    </message>
+    <message>
+        <source>No recording is chosen.</source>
+        <translation>録画が選択されていません。</translation>
+    </message>
+    <message>
+        <source>Not drawn</source>
+        <translation>描かない</translation>
+    </message>
+    <message>
+        <source>One above the other</source>
+        <translation>縦 1 列</translation>
+    </message>
+    <message>
+        <source>Only every so often a frame</source>
+        <translation>フレームを間引く</translation>
+    </message>
+    <message>
+        <source>Outside its range a camera shows</source>
+        <translation>範囲外で表示するもの</translation>
+    </message>
+    <message>
+        <source>Own size</source>
+        <translation>サイズを指定</translation>
+    </message>
+    <message>
+        <source>Own text</source>
+        <translation>任意の文字列</translation>
+    </message>
+    <message>
+        <source>Quality</source>
+        <translation>品質</translation>
+    </message>
+    <message>
+        <source>Quick</source>
+        <translation>速度</translation>
+    </message>
+    <message>
+        <source>Range</source>
+        <translation>範囲</translation>
+    </message>
+    <message>
+        <source>Rather</source>
+        <translation>優先</translation>
+    </message>
+    <message>
+        <source>Replace a file of that name</source>
+        <translation>同名のファイルを置き換える</translation>
+    </message>
+    <message>
+        <source>Settings...</source>
+        <translation>設定...</translation>
+    </message>
+    <message>
+        <source>Side by side</source>
+        <translation>配置</translation>
+    </message>
+    <message>
+        <source>Signals as CSV</source>
+        <translation>信号を CSV で保存</translation>
+    </message>
+    <message>
+        <source>Signals as MME</source>
+        <translation>信号を MME で保存</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>サイズ</translation>
+    </message>
+    <message>
+        <source>Small</source>
+        <translation>ファイルサイズ</translation>
+    </message>
+    <message>
+        <source>Speed of H264</source>
+        <translation>H264 の速度</translation>
+    </message>
+    <message>
+        <source>Tell when it is written</source>
+        <translation>保存したら知らせる</translation>
+    </message>
+    <message>
+        <source>That of one camera for all</source>
+        <translation>すべてに 1 台のカメラの情報を使う</translation>
+    </message>
+    <message>
+        <source>The camera&apos;s bits in the lower ones</source>
+        <translation>カメラのビットを下位に置く</translation>
+    </message>
+    <message>
+        <source>The codec has its own.</source>
+        <translation>コーデックで決まります。</translation>
+    </message>
+    <message>
+        <source>The folder of the original file</source>
+        <translation>元のファイルのフォルダー</translation>
+    </message>
+    <message>
+        <source>The name of the partition in its place</source>
+        <translation>代わりにパーティション名を使う</translation>
+    </message>
+    <message>
+        <source>The original name in its place</source>
+        <translation>代わりに元の名前を使う</translation>
+    </message>
+    <message>
+        <source>Thumbnail</source>
+        <translation>サムネイル</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>時刻</translation>
+    </message>
+    <message>
+        <source>What the camera adds</source>
+        <translation>カメラが付け加えるもの</translation>
+    </message>
+    <message>
+        <source>With units</source>
+        <translation>単位を含める</translation>
+    </message>
+    <message>
+        <source>Without loss</source>
+        <translation>可逆圧縮</translation>
+    </message>
+    <message>
+        <source>Written as</source>
+        <translation>保存先</translation>
+    </message>
+    <message>
+        <source>its first or last frame</source>
+        <translation>最初か最後のフレーム</translation>
+    </message>
+    <message>
+        <source>nothing</source>
+        <translation>何も表示しない</translation>
+    </message>
+    <message>
+        <source>with what the camera adds</source>
+        <translation>カメラが付け加えるものを含める</translation>
+    </message>
 </context>
 </TS>

@@ -9,6 +9,7 @@
 #include "ImageTools.h"
 #include "SettingsDesk.h"
 #include "SettingsSave.h"
+#include "SimMedia.h"
 #include "StatusFlags.h"
 #include "ZebDocManager.h"
 
@@ -18,7 +19,12 @@
 class SimDocManager : public ZebDocManager {
 public:
     explicit SimDocManager(const HostContext& host)
-        : m_host(host), m_selection(host.cameras), m_turns(host), m_settings(host), m_settingsSave(host) {}
+        : m_host(host),
+          m_selection(host.cameras),
+          m_turns(host),
+          m_settings(host),
+          m_settingsSave(host),
+          m_media(host) {}
 
     /// As `getCurrentDockey`, for the host itself.
     DOCKEY currentKey() const { return m_selection.current(); }
@@ -94,6 +100,19 @@ public:
 
     DocKeyList getTemporarySaveDocKeys() const override;
 
+    unsigned int getSdDriveMask() const override {
+        m_host.calls.ask(OPERATION("getSdDriveMask"));
+        return 0;
+    }
+    bool getOpenSdDrive(int& /*drive*/) const override {
+        m_host.calls.ask(OPERATION("getOpenSdDrive"));
+        return false;
+    }
+    void prepareDrive(int kind) override { m_host.calls.change(OPERATION("ZebDocManager::prepareDrive"), {kind}); }
+    void openSdDrive(int drive) override { m_media.openSdDrive(drive); }
+    void closeSdDrive() override { m_host.calls.change(OPERATION("ZebDocManager::closeSdDrive")); }
+    SimMedia& media() override { return m_media; }
+
     /// There is none: cameras bring images only.
     bool hasWaveformData() const override {
         m_host.calls.ask(OPERATION("hasWaveformData"));
@@ -160,4 +179,5 @@ private:
     DocTurns m_turns;
     SettingsDesk m_settings;
     SettingsSave m_settingsSave;
+    SimMedia m_media;
 };

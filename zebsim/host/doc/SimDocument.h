@@ -1,6 +1,7 @@
 #pragma once
 
 #include "DOC_Interface.h"
+#include "DOC_Network.h"
 #include "DocTopic.h"
 #include "SimActivity.h"
 #include "SimControl.h"
@@ -25,6 +26,7 @@ public:
     SimControl& control() override { return m_control; }
     SimHead& head() override { return m_head; }
     SimStorage& storage() override { return m_storage; }
+    DOC_Network& network() override { return m_network; }
 
     /// Also when the rig was replaced, and on any thread.
     DOCKEY getKey() const override { return m_key; }
@@ -63,4 +65,5 @@ private:
     SimControl m_control;
     SimHead m_head;
     SimStorage m_storage;
+    DOC_Network m_network;
 };

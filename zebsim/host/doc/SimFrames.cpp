@@ -11,6 +11,22 @@ unsigned int SimFrames::getFrameCount(int /*partition*/, int /*head*/) const {
     return recording ? recording->frameCount() : 0;
 }
 
+zeb::RecordedData SimFrames::getRecordedData(PARTITIONNUMBER partition) const {
+    const auto recording = askConnected(OPERATION("getRecordedData")).recordingOf(partition);
+    if (!recording) {
+        return {};
+    }
+    const QSize size = recording->resolution;
+    return {recording->rate,
+            recording->shutter,
+            size,
+            recording->first,
+            recording->last,
+            recording->selectedFirst,
+            recording->selectedLast,
+            qint64(recording->frameCount()) * size.width() * size.height()};
+}
+
 void SimFrames::setRecordAreaStart(int frame) {
     Camera& camera = change(OPERATION("DOC_Frames::setRecordAreaStart"), {frame});
     camera.set(&CameraState::recordArea, {frame, camera.get(&CameraState::recordArea).y()});

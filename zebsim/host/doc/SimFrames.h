@@ -9,6 +9,7 @@ public:
     using DocTopic::DocTopic;
 
     unsigned int getFrameCount(int partition, int head) const override;
+    zeb::RecordedData getRecordedData(PARTITIONNUMBER partition) const override;
     int getFirstFrame(int, int) const override { return askRecording(OPERATION("getFirstFrame")).first; }
     int getLastFrame(int, int) const override { return askRecording(OPERATION("getLastFrame")).last; }
     int getTriggerFrame(int) const override { return askRecording(OPERATION("getTriggerFrame")).zero; }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "CameraFrame.h"
 #include "DOC_Image.h"
 #include "DocTopic.h"
 #include "SimDocManager.h"
@@ -13,6 +14,9 @@ public:
     void setComment(const QString& comment) override { note("DOC_Image::setComment", {comment}).setComment(comment); }
     std::optional<zeb::ImageFormat> getImageFormat(int kind, int head) const override;
     QSize getImageSize() const override { return ask(OPERATION("getImageSize"), &CameraState::resolution); }
+    /// A recording also in live mode, if there is one.
+    QPixmap getPreview(int type, int width, int height, PARTITIONNUMBER partition, int frame,
+                       const QDateTime& time) const override;
     double getScale() const override { return ask(OPERATION("getScale"), &CameraState::scale); }
     int getBinningPower() const override { return ask(OPERATION("getBinningPower"), &CameraState::binningPower); }
     QPoint getPoint() const override { return ask(OPERATION("getPoint"), &CameraState::point); }
@@ -23,4 +27,7 @@ public:
     bool isToolChecked(const QString& tool) const override {
         return m_host.docs.tools().isChosen(tool, ask(OPERATION("isToolChecked")).key());
     }
+
+private:
+    CameraFrame previewed(PARTITIONNUMBER partition, int frame) const;
 };
