@@ -8,7 +8,8 @@ class QWebView;
 /// What the host knows of an object that stands in a page. GUI thread only.
 ///
 /// `ZebHost::attachBridge` gives it its view once, before the page loads; then, each time the page's window
-/// object is cleared, puts it into the page as `bridgeName()` and asks it to add itself as `prefs`.
+/// object is cleared, puts it into the page as `bridgeName()` and asks it to add itself as `prefs`. A page may have
+/// several, of which one adds itself.
 class ZebPageBridge : public QObject {
 public:
     using QObject::QObject;

@@ -233,6 +233,15 @@ TEST_F(WebDialog, ClosingHostDismissesOurBox) {
     EXPECT_TRUE(until([&] { return !dialog->isVisible(); }));
 }
 
+TEST_F(WebDialog, ItsOwnBridgeIsPrefsWhicheverIsAskedLast) {
+    const QScopedPointer<GUI_WebViewDialog> dialog(makeDialog());
+    auto* second = new JS_Mediator_Dialog(&host, "second");
+    dialog->addBridge(second);
+    ASSERT_TRUE(waitForLoad(*dialog));
+    second->addPrefsJSObject();
+    EXPECT_EQ(eval(*dialog, "prefs.objectName + ' ' + second.objectName"), "probe second");
+}
+
 TEST_F(WebDialog, PageOutlivesItsDialogUntilTheCallHasEnded) {
     const QPointer<GUI_WebViewDialog> dialog(makeDialog());
     auto* extra = new ProbeBridge(&host);

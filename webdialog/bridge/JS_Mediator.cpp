@@ -58,7 +58,7 @@ void JS_Mediator::deterUpdateUI(bool deter) {
 }
 
 void JS_Mediator::addPrefsJSObject() {
-    if (view()) {
+    if (view() && !m_isSecond) {
         view()->page()->mainFrame()->addToJavaScriptWindowObject(QStringLiteral("prefs"), this);
     }
 }

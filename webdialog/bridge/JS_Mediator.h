@@ -32,6 +32,9 @@ public:
 
     void raiseUpdate() override;
 
+    /// Another bridge of the page is its "prefs": this one never adds itself as that.
+    void becomeSecond() { m_isSecond = true; }
+
     /// What a call of the page is to user and log.
     enum CallKind {
         /// A failure is told each time it comes. No lines in the log.
@@ -207,6 +210,7 @@ private:
     static constexpr unsigned int AllParts = 63;
 
     ZebHost* const m_host;
+    bool m_isSecond = false;
     int m_rangeMax = 0;
     unsigned int m_updateMask = AllParts;
     FrameSkip m_skip;

@@ -10,8 +10,6 @@
 
 #include <QCloseEvent>
 #include <QVBoxLayout>
-#include <QWebFrame>
-#include <QWebPage>
 
 #include <utility>
 
@@ -72,11 +70,9 @@ void GUI_WebViewDialog::endPage() {
 }
 
 void GUI_WebViewDialog::addBridge(JS_Mediator* bridge) {
+    bridge->becomeSecond();
     m_host->attachBridge(m_view, bridge);
     m_extraBridges.append(bridge);
-    // As "prefs" the page knows the dialog's own, whichever the host has put there last.
-    connect(m_view->page()->mainFrame(), &QWebFrame::javaScriptWindowObjectCleared, m_bridge,
-            &JS_Mediator::addPrefsJSObject);
 }
 
 QList<JS_Mediator*> GUI_WebViewDialog::bridges() const {
