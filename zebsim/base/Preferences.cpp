@@ -102,6 +102,16 @@ QVariant Preferences::stored(const QString& key) const {
     return type == QMetaType::UnknownType ? value : convertedTo(type, value, value);
 }
 
+void Preferences::takeStored(const QString& key) {
+    if (m_settings->contains(key)) {
+        m_values.insert(key, stored(key));
+    } else if (factoryValues().contains(key)) {
+        m_values.insert(key, factoryValues().value(key));
+    } else {
+        m_values.remove(key);
+    }
+}
+
 QVariant Preferences::value(const QString& key, const QVariant& defaultValue) const {
     return m_values.value(key, defaultValue);
 }

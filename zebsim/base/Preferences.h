@@ -20,6 +20,8 @@ public:
     void setValue(const QString& key, const QVariant& value);
     /// The key has this value until another is set; the file keeps its own.
     void assume(const QString& key, const QVariant& value) { m_values.insert(key, value); }
+    /// What the file has holds again.
+    void takeStored(const QString& key);
 
     /// All keys that have a value.
     const QHash<QString, QVariant>& values() const { return m_values; }

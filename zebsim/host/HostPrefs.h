@@ -3,6 +3,7 @@
 #include "FactoryValues.h"
 #include "HostCalls.h"
 #include "Preferences.h"
+#include "TriedPrefs.h"
 
 #include <QStringList>
 
@@ -11,7 +12,7 @@ class HostPrefs {
 public:
     /// Both must outlive the object.
     HostPrefs(const HostCalls& calls, Preferences& prefs)
-        : m_calls(calls), m_prefs(prefs), m_isRestored(!prefs.problem().isEmpty()) {}
+        : m_calls(calls), m_prefs(prefs), m_tried(prefs), m_isRestored(!prefs.problem().isEmpty()) {}
 
     /// As `ZebHost::getPref` and `ZebHost::setPref`, by the operation that the plug-in called.
     QVariant get(HostOperation operation, const QString& key, const QVariant& defaultValue) const {
@@ -20,8 +21,10 @@ public:
     }
     void set(HostOperation operation, const QString& key, const QVariant& value) {
         m_calls.change(operation, {key, value});
-        m_prefs.setValue(key, value);
+        m_tried.set(key, value);
     }
+
+    TriedPrefs& tried() { return m_tried; }
 
     /// As `ZebHost::getDefaultColumnOrder`.
     QString defaultColumnOrder(int tab) const {
@@ -49,5 +52,6 @@ public:
 private:
     const HostCalls& m_calls;
     Preferences& m_prefs;
+    TriedPrefs m_tried;
     bool m_isRestored;
 };
