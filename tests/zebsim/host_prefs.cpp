@@ -3,7 +3,7 @@
 #include "Files.h"
 #include "FullDisk.h"
 #include "Preferences.h"
-#include "SaveFormat.h"
+#include "SaveOrders.h"
 #include "support/TestHost.h"
 
 #include <QDir>
@@ -85,7 +85,7 @@ TEST_F(Prefs, TakeOverWhatWasCalledOtherwise) {
         EXPECT_EQ(prefs.value(value.key()), *value) << value.key().toStdString();
     }
     const auto pref = [&prefs](const QString& key) { return prefs.value(key); };
-    EXPECT_EQ(chosenFormat(pref, "export/").id, "mp4") << "there was one kind of video";
+    EXPECT_EQ(chosenOrders(pref, "export/").format.id, "mp4") << "there was one kind of video";
 }
 
 TEST_F(Prefs, ACorruptFileIsKeptAsideAndNamed) {

@@ -117,43 +117,6 @@ TEST_F(Plan, CountsTheRoomOfEachFileSystem) {
     EXPECT_EQ(told({"/r", {}, {}, "a"}, {"/s", {}, {}, "b"}), QStringList()) << "each has room of its own";
 }
 
-TEST_F(Plan, TakesTheOptionsOfItsFormat) {
-    const struct {
-        const char* format;
-        const char* key;
-        QVariant value;
-        const char* options;
-    } cases[] = {
-        {"png", "", {}, "8 2 0 95"},
-        {"png", "png/depth", 16, "16 2 0 95"},
-        {"tiff", "png/depth", 16, "8 2 0 95"},
-        {"tiff", "tiff/depth", 16, "16 2 0 95"},
-        {"tiff", "tiff/packbits", true, "8 1 0 95"},
-        {"tiff", "tiff/compression", "none", "8 0 0 95"},
-        {"tiff", "tiff/compression", "deflate", "8 3 0 95"},
-        {"tiff", "tiff/multipage", true, "8 2 1 95"},
-        {"jpeg", "jpeg/compressquality", 200, "8 2 0 100"},
-    };
-    for (const auto& one : cases) {
-        const auto pref = [&](const QString& key) {
-            return key == QString("snap/") + one.key ? one.value
-                   : key == "snap/format"            ? QVariant(one.format)
-                                                     : QVariant();
-        };
-        const SaveFormat format = chosenFormat(pref, "snap/");
-        const PictureOptions& options = format.options;
-        EXPECT_EQ(format.id, one.format);
-        EXPECT_EQ(QString("%1 %2 %3 %4")
-                      .arg(options.depth)
-                      .arg(int(options.compression))
-                      .arg(int(options.isMultiPage))
-                      .arg(options.jpegQuality)
-                      .toStdString(),
-                  one.options)
-            << one.key;
-    }
-}
-
 TEST_F(Plan, CallsACameraAsItsPreferencesSay) {
     const struct {
         const char* what;

@@ -23,16 +23,16 @@ const QString NozzleSaved = "Nozzle/2: 3 of 3 up to 2, saved";
 TEST_F(Saving, WritesTheChosenFramesSoThatOthersReadThem) {
     host.camera(3).change({{"effectivePlugins", QStringList{"filter", "mosaic", "lut"}},
                            {"pluginValues", QVariantMap{{"lut", QVariantMap{{"white", 160}}}}}});
-    const auto kind = [](const char* id, int depth, TiffCompression compression = TiffCompression::Lzw) {
+    const auto kind = [](const char* id, int depth, bool isPackedOrSmall = false) {
         SaveFormat format = saveFormat(id);
         format.options.depth = depth;
-        format.options.compression = compression;
+        format.options.isPackBits = isPackedOrSmall;
+        format.options.isSmall = isPackedOrSmall;
         return format;
     };
     for (const SaveFormat& format :
-         {kind("png", 8), kind("png", 16), kind("tiff", 8), kind("tiff", 16), kind("tiff", 8, TiffCompression::None),
-          kind("tiff", 16, TiffCompression::PackBits), kind("tiff", 16, TiffCompression::Deflate), kind("bmp", 8),
-          kind("jpeg", 8)}) {
+         {kind("png", 8), kind("png", 16), kind("png", 8, true), kind("tiff", 8), kind("tiff", 16),
+          kind("tiff", 8, true), kind("tiff", 16, true), kind("bmp", 8), kind("jpeg", 8)}) {
         SaveOrders wanted = orders();
         wanted.format = format;
         EXPECT_EQ(run(wanted), QStringList({GateSaved, NozzleSaved})) << format.id.toStdString();

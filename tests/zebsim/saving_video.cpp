@@ -99,7 +99,8 @@ TEST_F(SavingVideo, WaitsForAnEncoderNeitherWithOtherTracksNorWhenItIsCancelled)
 TEST_F(SavingTest, MakesAPageOfEachFrame) {
     for (const int depth : {8, 16}) {
         SaveOrders wanted = orders("tiff");
-        wanted.format.options = {depth, TiffCompression::Deflate, true};
+        wanted.format.options.depth = depth;
+        wanted.format.options.isMultiPage = true;
         wanted.mayReplace = {path("Gate.tif"), path("Nozzle_2.tif")};
         EXPECT_EQ(run(wanted), QStringList({"Gate: 2 of 2 up to 0, saved", "Nozzle/2: 3 of 3 up to 2, saved"}));
         EXPECT_EQ(files(), QStringList({"Gate.tif", "Nozzle_2.tif"}));

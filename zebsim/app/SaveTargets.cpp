@@ -17,9 +17,6 @@
 
 namespace {
 
-/// Of a frame's number.
-constexpr int MostDigits = 20;
-
 class TypedSource : public HostNameSource {
 public:
     TypedSource(SimHost& host, const TypedPrefs& typed, bool isPreview)
@@ -100,9 +97,7 @@ private:
 SaveOrders ordersOf(SimHost& host, zeb::FileType type, const TypedPrefs& typed) {
     const QString family = nameFamily(type);
     const auto pref = [&](const QString& key) { return typed.value(key, host.prefs().value(key)); };
-    SaveOrders orders;
-    orders.format = chosenFormat(pref, family);
-    orders.frameDigits = qBound(1, pref(family % QStringLiteral("filenameseqdigits")).toInt(), MostDigits);
+    SaveOrders orders = chosenOrders(pref, family);
     orders.encoder = VideoEncoder::installed();
     orders.diskFault = [&host] { return host.faults().suffer(FaultPlan::Disk, "write", host.clock()); };
     return orders;
@@ -125,7 +120,7 @@ SavePlan composePlan(SimHost& host, const std::vector<SaveTrack>& tracks, const 
     for (const SaveTrack& track : tracks) {
         try {
             targets.push_back(composer.targetOf(track));
-            orders.tracks.push_back(track);
+            orders.add(track);
         } catch (const UTL_Exception& e) {
             known.append({PlanEntry::NoName, track.name, {}, 0, QString::fromUtf8(e.what())});
         } catch (const std::exception& e) {

@@ -6,7 +6,7 @@
 #include "FileError.h"
 #include "FileWriter.h"
 #include "FramePicture.h"
-#include "SaveFormat.h"
+#include "SaveOrders.h"
 #include "SaveTargets.h"
 #include "SimHost.h"
 #include "TargetFields.h"
@@ -48,7 +48,7 @@ FileMetadata metadataOf(const SimHost& host, const Camera& camera, const CameraF
 /// A snapshot is one picture in one file.
 SaveFormat formatOf(const SimHost& host) {
     const auto pref = [&host](const QString& key) { return host.prefs().value(key); };
-    SaveFormat format = chosenFormat(pref, nameFamily(zeb::SnapShotFile));
+    SaveFormat format = chosenOrders(pref, nameFamily(zeb::SnapShotFile)).format;
     format.options.isMultiPage = false;
     return format.isVideo() ? saveFormats().first() : format;
 }
@@ -63,7 +63,8 @@ void writePicture(SimHost& host, const CameraFrame& frame, const QImage& image) 
     if (!QDir().mkpath(folder)) {
         throw FileError(folder, TextKey("there can't be such a folder"));
     }
-    const QByteArray bytes = format.encoded(image, camera ? metadataOf(host, *camera, frame) : FileMetadata());
+    const QByteArray bytes = camera ? format.encoded(image, metadataOf(host, *camera, frame), camera->model().bitDepth)
+                                    : format.encoded(image, {});
     if (bytes.isEmpty()) {
         throw FileError(file, TextKey("the picture has no such form"));
     }

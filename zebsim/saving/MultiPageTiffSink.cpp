@@ -27,8 +27,10 @@ void MultiPageTiffSink::begin() {
     m_file.emplace(m_path, overOf(m_orders, m_path));
     m_device.open(m_file->descriptor(), QIODevice::ReadWrite | QIODevice::Unbuffered);
     const QSize size = m_track.size();
-    const qint64 pageBytes = qint64(rowBytes(size.width(), m_orders.format.options.depth)) * size.height();
-    m_pages.emplace(m_device, m_orders.format.options, pageBytes * m_track.frames() > MostPlainBytes);
+    PictureOptions options = m_orders.format.options;
+    options.cameraBits = m_track.bits();
+    const qint64 pageBytes = qint64(rowBytes(size.width(), options.depth)) * size.height();
+    m_pages.emplace(m_device, options, pageBytes * m_track.frames() > MostPlainBytes);
 }
 
 void MultiPageTiffSink::add(const QImage& picture, const QByteArray& description) {

@@ -1,21 +1,43 @@
 #include "PixelRow.h"
 
+#include "PictureOptions.h"
+
 #include <QImage>
+#include <QtEndian>
 
 #include <algorithm>
+#include <cstring>
 
-void copyRow(const QImage& picture, int y, int depth, char* levels) {
+namespace {
+
+/// What a camera with so many bits has made of a level of 8 bits. Full brightness stays that.
+quint16 cameraLevel(unsigned int level, int bits) {
+    return quint16(level * 257 >> (16 - bits));
+}
+
+}  // namespace
+
+PixelRow::PixelRow(const PictureOptions& options, QSysInfo::Endian order) : m_depth(options.depth) {
+    const int bits = std::clamp(options.cameraBits, 8, 16);
+    for (unsigned int level = 0; level < m_levels.size(); ++level) {
+        const quint16 own = cameraLevel(level, bits);
+        // 8 bits fill all 16.
+        const auto wide = quint16(options.isLower ? own : bits == 8 ? level * 257 : own << (16 - bits));
+        m_levels[level] = order == QSysInfo::BigEndian ? qToBigEndian(wide) : qToLittleEndian(wide);
+    }
+}
+
+void PixelRow::copy(const QImage& picture, int y, char* levels) const {
     const int count = picture.width() * Channels;
     const QImage row = QImage(picture.constScanLine(y), picture.width(), 1, QImage::Format_RGB32)
                            .convertToFormat(QImage::Format_RGB888);
     const uchar* from = row.constBits();
-    if (depth == 8) {
+    if (m_depth == 8) {
         std::copy_n(from, count, levels);
         return;
     }
-    // 257 times as much: both bytes are alike, whichever comes first.
-    std::for_each(from, from + count, [&levels](uchar level) {
-        *levels++ = char(level);
-        *levels++ = char(level);
+    std::for_each(from, from + count, [this, &levels](uchar level) {
+        std::memcpy(levels, &m_levels[level], sizeof(quint16));
+        levels += sizeof(quint16);
     });
 }

@@ -1,7 +1,5 @@
 #include "SaveFormat.h"
 
-#include <QHash>
-
 #include <algorithm>
 #include <utility>
 
@@ -12,13 +10,15 @@ constexpr int FramesInSizeOfOne = 4;
 
 }  // namespace
 
-QByteArray SaveFormat::encoded(QImage picture, const FileMetadata& metadata) const {
-    return encoder(std::move(picture), metadata, options);
+QByteArray SaveFormat::encoded(QImage picture, const FileMetadata& metadata, int cameraBits) const {
+    PictureOptions own = options;
+    own.cameraBits = cameraBits;
+    return encoder(std::move(picture), metadata, own);
 }
 
-qint64 SaveFormat::expectedSize(const QImage& picture, const FileMetadata& metadata) const {
+qint64 SaveFormat::expectedSize(const QImage& picture, const FileMetadata& metadata, int cameraBits) const {
     return isVideo() ? saveFormat(QStringLiteral("jpeg")).encoded(picture, metadata).size() / FramesInSizeOfOne
-                     : encoded(picture, metadata).size();
+                     : encoded(picture, metadata, cameraBits).size();
 }
 
 const QList<SaveFormat>& saveFormats() {
@@ -38,19 +38,18 @@ const SaveFormat& saveFormat(const QString& id) {
 }
 
 SaveFormat chosenFormat(const PrefReader& pref, const QString& family) {
-    static const QHash<QString, TiffCompression> compressions = {{QStringLiteral("none"), TiffCompression::None},
-                                                                 {QStringLiteral("deflate"), TiffCompression::Deflate}};
     SaveFormat format = saveFormat(pref(family % QStringLiteral("format")).toString());
     const auto option = [&](const char* suffix) {
         return pref(family % format.id % QLatin1Char('/') % QLatin1String(suffix));
     };
     PictureOptions& options = format.options;
     options.depth = option("depth").toInt() == 16 ? 16 : 8;
+    options.isLower = option("lower").toBool();
+    options.isSmall = option("priority").toString() == QLatin1String("size");
+    options.isPackBits = option("packbits").toBool();
     options.isMultiPage = option("multipage").toBool();
-    options.compression = option("packbits").toBool()
-                              ? TiffCompression::PackBits
-                              : compressions.value(option("compression").toString(), options.compression);
-    const QVariant quality = option("compressquality");
-    options.jpegQuality = quality.isValid() ? qBound(0, quality.toInt(), 100) : options.jpegQuality;
+    bool isNumber = false;
+    const int quality = option("compressquality").toInt(&isNumber);
+    options.jpegQuality = isNumber && quality >= 0 && quality <= 100 ? quality : options.jpegQuality;
     return format;
 }

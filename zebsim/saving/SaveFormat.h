@@ -22,10 +22,11 @@ struct SaveFormat {
     bool isVideo() const { return encoder == nullptr; }
     /// All frames of a track stand in one file.
     bool isOneFile() const { return isVideo() || (hasPages && options.isMultiPage); }
-    /// The file of a picture with its metadata; empty when it can't be written. Not of a video.
-    QByteArray encoded(QImage picture, const FileMetadata& metadata) const;
+    /// The file of a picture with its metadata, of a camera that fills so many bits of a channel; empty when it can't
+    /// be written. Not of a video.
+    QByteArray encoded(QImage picture, const FileMetadata& metadata, int cameraBits = 8) const;
     /// Bytes that a frame takes with a picture and metadata like these; of a video, on average.
-    qint64 expectedSize(const QImage& picture, const FileMetadata& metadata) const;
+    qint64 expectedSize(const QImage& picture, const FileMetadata& metadata, int cameraBits) const;
 };
 
 /// PNG, TIFF, JPEG, BMP, MP4, each with the options of a file that nobody has chosen any for.

@@ -50,8 +50,8 @@ void SaveJob::finish() {
     m_outcomes += outcomes;
     for (const SaveOutcome& outcome : outcomes) {
         const SaveTrack* track = outcome.track < 0 ? nullptr : &m_orders.tracks[std::size_t(outcome.track)];
-        // A layout shows less than the cameras hold.
-        if (track != nullptr && outcome.end == SaveOutcome::Saved && !track->isLayout) {
+        // A layout shows less than the cameras hold, and so does a range of which frames are left out.
+        if (track != nullptr && outcome.end == SaveOutcome::Saved && track->isWhole()) {
             track->sources.front().noteSaved();
         }
     }

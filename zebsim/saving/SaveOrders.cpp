@@ -1,8 +1,31 @@
 #include "SaveOrders.h"
 
+#include <utility>
+
+namespace {
+
+/// Of a frame's number.
+constexpr int MostDigits = 20;
+
+}  // namespace
+
+void SaveOrders::add(SaveTrack track) {
+    track.step = skip.stepAt(track.sources.front().recording().rate);
+    tracks.push_back(std::move(track));
+}
+
 QString SaveOrders::fileOf(const SaveTrack& track, int index) const {
     const qint64 number = track.number(index);
     const QString text = QString::number(qAbs(number)).rightJustified(frameDigits, QLatin1Char('0'));
     const QString ending = format.isOneFile() ? QString() : QString((number < 0 ? "_-" : "_") % text);
     return track.stem % ending % QLatin1Char('.') % format.suffix;
+}
+
+SaveOrders chosenOrders(const PrefReader& pref, const QString& family) {
+    SaveOrders orders;
+    orders.format = chosenFormat(pref, family);
+    const int digits = pref(family % QStringLiteral("filenameseqdigits")).toInt();
+    orders.frameDigits = digits >= 1 && digits <= MostDigits ? digits : orders.frameDigits;
+    orders.skip = FrameSkipRule::chosen(pref, family);
+    return orders;
 }

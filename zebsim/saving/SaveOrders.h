@@ -1,5 +1,6 @@
 #pragma once
 
+#include "FrameSkipRule.h"
 #include "SaveFormat.h"
 #include "SaveTrack.h"
 #include "VideoEncoder.h"
@@ -25,7 +26,15 @@ struct SaveOrders {
     QStringList absent = {};
     /// Answers why the next file can't be written; empty when it can. Any thread.
     std::function<QString()> diskFault = [] { return QString(); };
+    /// Of the tracks that are added.
+    FrameSkipRule skip = {};
 
+    /// One more track, of which the frames are left out that `skip` says.
+    void add(SaveTrack track);
     /// Path of the file that frame `index` of `track` goes into, as "stem_00512.png", or "stem.mp4" for all frames.
     QString fileOf(const SaveTrack& track, int index) const;
 };
+
+/// All that the preferences of `family`, as "export/", choose; without tracks. What can't be is as nobody has chosen
+/// it.
+SaveOrders chosenOrders(const PrefReader& pref, const QString& family);

@@ -156,10 +156,9 @@ private:
         QHash<QString, int> own;
         auto name = std::lower_bound(names.begin(), names.end(), target.name);
         const SaveOrders& orders = m_plan.orders;
-        const qint64 zero = track.number(0);
         for (; name != names.end() && name->startsWith(target.name); ++name) {
             const QString number = name->mid(target.name.size() + 1).section(QLatin1Char('.'), 0, 0);
-            const qint64 index = orders.format.isOneFile() ? track.from : number.toLongLong() - zero;
+            const qint64 index = orders.format.isOneFile() ? track.from : track.indexOf(number.toLongLong());
             const bool isInRange = index >= track.from && index < track.frames();
             if (isInRange && orders.fileOf(track, int(index)) == target.folder() + *name) {
                 own.insert(*name, int(index));
@@ -178,7 +177,8 @@ private:
 /// One picture stands for all.
 double bytesInPixel(const SaveOrders& orders) {
     const SaveTrack& first = orders.tracks.front();
-    return Reserve * double(orders.format.expectedSize(first.picture(first.from), first.metadata(first.from))) /
+    return Reserve *
+           double(orders.format.expectedSize(first.picture(first.from), first.metadata(first.from), first.bits())) /
            double(std::max<qint64>(1, pixelsOf(first.size())));
 }
 

@@ -12,6 +12,10 @@ SaveSource::SaveSource(std::shared_ptr<Camera> camera, const Recording& recordin
     m_state.name = std::move(name);
 }
 
+int SaveSource::bits() const {
+    return m_camera->model().bitDepth;
+}
+
 CameraFrame SaveSource::frame(int index) const {
     return CameraFrame::recorded(m_state, SensorNoise::of(*m_camera), m_recording, m_recording.selectedFirst + index);
 }

@@ -25,6 +25,8 @@ public:
     void setName(const QString& name) { m_state.name = name; }
     const Recording& recording() const { return m_recording; }
     QSize resolution() const { return m_recording.resolution; }
+    /// That the camera fills of a channel.
+    int bits() const;
     int frames() const { return static_cast<int>(m_recording.selectedCount()); }
     /// What the range's frame number `index`, from 0 on, shows.
     CameraFrame frame(int index) const;

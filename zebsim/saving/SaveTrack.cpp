@@ -27,11 +27,19 @@ QSize tileOf(std::size_t count) {
 int SaveTrack::frames() const {
     const auto longest = std::max_element(sources.begin(), sources.end(),
                                           [](const auto& one, const auto& two) { return one.frames() < two.frames(); });
-    return longest->frames();
+    return (longest->frames() - 1) / step + 1;
 }
 
 qint64 SaveTrack::number(int index) const {
-    return isLayout ? index : sources.front().frame(index).number;
+    return isLayout ? index : sources.front().frame(shown(index, 0)).number;
+}
+
+qint64 SaveTrack::indexOf(qint64 number) const {
+    return isLayout ? number : (number - this->number(0)) / step;
+}
+
+int SaveTrack::shown(int index, int place) const {
+    return isLayout ? std::min(index, sources[std::size_t(place)].frames() - 1) : index * step;
 }
 
 QSize SaveTrack::size() const {
@@ -44,9 +52,15 @@ QSize SaveTrack::size() const {
     return {tile.width() * columns, tile.height() * rows};
 }
 
+int SaveTrack::bits() const {
+    const auto most = std::max_element(sources.begin(), sources.end(),
+                                       [](const auto& one, const auto& two) { return one.bits() < two.bits(); });
+    return most->bits();
+}
+
 QImage SaveTrack::picture(int index, const QSet<int>& lost) const {
     if (!isLayout) {
-        return drawFrame(sources.front().frame(index), sources.front().resolution());
+        return drawFrame(sources.front().frame(shown(index, 0)), sources.front().resolution());
     }
     QImage picture(size(), QImage::Format_RGB32);
     picture.fill(Ground);
@@ -61,20 +75,19 @@ QImage SaveTrack::picture(int index, const QSet<int>& lost) const {
         const QSize fitting = fitInto(tile, source.resolution());
         const QPoint corner(tile.width() * (place % columns), tile.height() * (place / columns));
         const QPoint border((tile.width() - fitting.width()) / 2, (tile.height() - fitting.height()) / 2);
-        painter.drawImage(corner + border, drawFrame(source.frame(std::min(index, source.frames() - 1)), fitting));
+        painter.drawImage(corner + border, drawFrame(source.frame(shown(index, place)), fitting));
     }
     return picture;
 }
 
 FileMetadata SaveTrack::metadata(int index, const QSet<int>& lost) const {
     if (!isLayout) {
-        return FileMetadata::of(sources.front().metadata(index));
+        return FileMetadata::of(sources.front().metadata(shown(index, 0)));
     }
     QList<FrameMetadata> cameras;
     for (int place = 0; place < int(sources.size()); ++place) {
         if (!lost.contains(place)) {
-            const SaveSource& source = sources[std::size_t(place)];
-            cameras.append(source.metadata(std::min(index, source.frames() - 1)));
+            cameras.append(sources[std::size_t(place)].metadata(shown(index, place)));
         }
     }
     return FileMetadata::ofLayout(cameras);
@@ -82,9 +95,10 @@ FileMetadata SaveTrack::metadata(int index, const QSet<int>& lost) const {
 
 FileMetadata SaveTrack::metadataOfAll() const {
     QList<FrameMetadata> cameras;
-    for (const SaveSource& source : sources) {
-        FrameMetadata metadata = source.metadata(0);
-        metadata.last = source.metadata(source.frames() - 1).first;
+    for (int place = 0; place < int(sources.size()); ++place) {
+        const SaveSource& source = sources[std::size_t(place)];
+        FrameMetadata metadata = source.metadata(shown(0, place));
+        metadata.last = source.metadata(shown(frames() - 1, place)).first;
         cameras.append(metadata);
     }
     return isLayout ? FileMetadata::ofLayout(cameras) : FileMetadata::of(cameras.first());

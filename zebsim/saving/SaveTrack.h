@@ -19,14 +19,24 @@ struct SaveTrack {
     QString stem = {};
     /// Index of the first frame to be saved; those before it stand in files.
     int from = 0;
+    /// Of a camera's range, one frame in so many has an index.
+    int step = 1;
     /// Frames in the one file that stands there; a shorter one does not take its place.
     int least = 0;
 
+    /// Whether no frame of the range is left out.
+    bool isWhole() const { return !isLayout && step == 1; }
     /// Of the longest range, those before `from` too.
     int frames() const;
     /// Number of a frame as an operator sees it. In a layout, where each camera has its own, they count from 0.
     qint64 number(int index) const;
+    /// The other way round; any index for a number that none has.
+    qint64 indexOf(qint64 number) const;
+    /// Which frame of the range of the source at `place` it shows.
+    int shown(int index, int place) const;
     QSize size() const;
+    /// Of a channel; those of the camera that fills most of them.
+    int bits() const;
     /// A camera whose range is over keeps its last frame; those at the places `lost` of
     /// `sources` show nothing.
     QImage picture(int index, const QSet<int>& lost = {}) const;

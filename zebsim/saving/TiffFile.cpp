@@ -15,20 +15,6 @@ namespace {
 
 constexpr int StripBytes = 4 << 20;
 
-int schemeOf(TiffCompression compression) {
-    switch (compression) {
-        case TiffCompression::PackBits:
-            return COMPRESSION_PACKBITS;
-        case TiffCompression::Lzw:
-            return COMPRESSION_LZW;
-        case TiffCompression::Deflate:
-            return COMPRESSION_ADOBE_DEFLATE;
-        case TiffCompression::None:
-            break;
-    }
-    return COMPRESSION_NONE;
-}
-
 }  // namespace
 
 /// What the library calls.
@@ -90,12 +76,9 @@ void TiffFile::setTags(const QImage& picture, const QByteArray& description) {
     TIFFSetField(m_file, TIFFTAG_SUBFILETYPE, m_options.isMultiPage ? FILETYPE_PAGE : 0);
     TIFFSetField(m_file, TIFFTAG_IMAGEWIDTH, picture.width());
     TIFFSetField(m_file, TIFFTAG_IMAGELENGTH, picture.height());
-    TIFFSetField(m_file, TIFFTAG_COMPRESSION, schemeOf(m_options.compression));
-    if (m_options.compression == TiffCompression::Lzw) {
+    TIFFSetField(m_file, TIFFTAG_COMPRESSION, m_options.isPackBits ? COMPRESSION_PACKBITS : COMPRESSION_LZW);
+    if (!m_options.isPackBits) {
         TIFFSetField(m_file, TIFFTAG_PREDICTOR, PREDICTOR_HORIZONTAL);
-    }
-    if (m_options.compression == TiffCompression::Deflate) {
-        TIFFSetField(m_file, TIFFTAG_ZIPQUALITY, DeflateLevel);
     }
     TIFFSetField(m_file, TIFFTAG_PHOTOMETRIC, PHOTOMETRIC_RGB);
     TIFFSetField(m_file, TIFFTAG_SAMPLESPERPIXEL, Channels);
@@ -113,10 +96,11 @@ void TiffFile::setTags(const QImage& picture, const QByteArray& description) {
 }
 
 bool TiffFile::writeRows(const QImage& picture) {
+    const PixelRow form(m_options);
     std::vector<char> row(std::size_t(rowBytes(picture.width(), m_options.depth)));
     bool isWhole = true;
     for (int y = 0; y < picture.height() && isWhole; ++y) {
-        copyRow(picture, y, m_options.depth, row.data());
+        form.copy(picture, y, row.data());
         isWhole = TIFFWriteScanline(m_file, row.data(), uint32_t(y), 0) == 1;
     }
     return isWhole;

@@ -71,13 +71,16 @@ QString TrackRun::folder() const {
 bool TrackRun::read(const CameraBank& cameras, int index) {
     std::vector<int> asked;
     for (int source = 0; source < int(m_track.sources.size()); ++source) {
-        if (!m_lost.contains(source) && index < m_track.sources[std::size_t(source)].frames()) {
+        // What it has handed over is shown on.
+        const bool isNew = index == m_track.from || m_track.shown(index, source) != m_track.shown(index - 1, source);
+        if (!m_lost.contains(source) && isNew) {
             asked.push_back(source);
         }
     }
     const auto failures = readSideBySide(m_track.sources.front().clock(), int(asked.size()), [&](int row) {
         const StopSource::Carried carried(m_stop);
-        m_track.sources[std::size_t(asked[std::size_t(row)])].read(cameras, index);
+        const int source = asked[std::size_t(row)];
+        m_track.sources[std::size_t(source)].read(cameras, m_track.shown(index, source));
     });
     for (std::size_t row = 0; row < asked.size() && !m_stop.isStopped(); ++row) {
         if (failures[row]) {
