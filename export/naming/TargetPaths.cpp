@@ -4,6 +4,7 @@
 #include "FileNameRules.h"
 #include "NameFamilies.h"
 #include "NameSource.h"
+#include "PairList.h"
 #include "TextKey.h"
 #include "UTL_Exception.h"
 
@@ -54,23 +55,12 @@ private:
     QString m_family;
 };
 
-/// What a list as "key|value?key|value" has for a key.
-std::optional<QString> listed(const QString& list, const QString& key) {
-    for (const QString& entry : list.split('?')) {
-        const QStringList parts = entry.split('|');
-        if (parts.size() == 2 && parts.first() == key) {
-            return parts.last();
-        }
-    }
-    return {};
-}
-
 /// The folder of a camera that has one of its own.
 std::optional<QString> cameraFolder(const NameSource& source, const NamedDocument& document) {
     const QString devices = source.pref("export/multipathdevicelist").toString();
     // A camera is not asked for what nobody needs.
-    const auto key = devices.isEmpty() ? std::nullopt : listed(devices, document.address());
-    return key ? listed(source.pref("export/multipathlist").toString(), *key) : key;
+    const auto key = devices.isEmpty() ? std::nullopt : valueOf(readPairs(devices), document.address());
+    return key ? valueOf(readPairs(source.pref("export/multipathlist").toString()), *key) : key;
 }
 
 /// Whether it writes a file with information about the images, which has a name of its own.
