@@ -7,7 +7,8 @@ class DOC_Frames {
 public:
     virtual ~DOC_Frames() = default;
 
-    /// Frames that a recording takes with the present settings in live mode, recorded frames otherwise.
+    /// Frames that a recording takes with the present settings in live mode, recorded frames otherwise. `partition` 0
+    /// is the one in use.
     virtual unsigned int getFrameCount(int partition, int head) const = 0;
     /// Of a partition, whichever is in use; all 0 when it holds nothing.
     virtual zeb::RecordedData getRecordedData(PARTITIONNUMBER partition) const = 0;

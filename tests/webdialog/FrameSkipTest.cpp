@@ -60,7 +60,7 @@ class ExportBridge : public ProbeBridge {
 public:
     using ProbeBridge::ProbeBridge;
     using ProbeBridge::refreshSkipFrames;
-    using ProbeBridge::skipList;
+    using ProbeBridge::frameSkip;
 
     int mode = SkipByFrames;
     double frames = 1.0;
@@ -115,7 +115,7 @@ TEST(FrameSkip, FollowsWhatIsExported) {
         bridge.refreshSkipFrames(targets);
         EXPECT_EQ(QString(text(bridge.getSkipMinFrames()) % ' ' % text(bridge.getSkipMaxFrames())), row.bounds)
             << row.sentence;
-        EXPECT_EQ(bridge.skipList().size(), row.offers) << row.sentence;
+        EXPECT_EQ(bridge.frameSkip().list.size(), row.offers) << row.sentence;
         EXPECT_EQ(course.take(), row.calls) << row.sentence;
     }
 }

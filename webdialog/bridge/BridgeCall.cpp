@@ -18,8 +18,8 @@ void JS_Mediator::runCall(CallKind kind, const QString& name, TraceArgs args, co
         return;
     }
     const BridgePause pause(*this);
-    if (kind == Query) {
-        m_cycleFailures.attempt(name % traceText(args), work);
+    if ((kind & Query) != 0) {
+        m_cycleFailures.attempt(name % traceText(args), [&] { runTraced(kind, name, args, work); });
     } else {
         try {
             runTraced(kind, name, args, work);

@@ -37,6 +37,13 @@ double FrameSkip::clamped(double value) const {
     return value >= minFrames && value <= maxFrames ? value : minFrames;
 }
 
+double FrameSkip::nearest(double value) const {
+    const auto distance = [value](double each) { return toFourDecimals(std::abs(each - value)); };
+    const auto found = std::min_element(
+        list.begin(), list.end(), [distance](double left, double right) { return distance(left) < distance(right); });
+    return found == list.end() ? value : *found;
+}
+
 FrameSkip skipByFrames(FrameSkip skip, unsigned int leastFrames) {
     skip.minFrames = 1.0;
     skip.maxFrames = leastFrames;

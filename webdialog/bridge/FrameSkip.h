@@ -19,6 +19,8 @@ struct FrameSkip {
 
     /// `value` where it lies inside the bounds, else the lower one.
     double clamped(double value) const;
+    /// What the list offers next to `value`, the first of two; `value` itself without a list.
+    double nearest(double value) const;
 };
 
 /// Values of `JS_Mediator::getSkipMode`.

@@ -44,6 +44,7 @@ public:
         Query = 1,
         /// As a plain one, with lines in the log where it begins and ends.
         Traced = 2,
+        TracedQuery = Query | Traced,
         /// The same, and its end asks for an update.
         Updating = 4,
         /// Changes cameras or the host, or opens a window. The page can get to it inside another call only from an
@@ -190,8 +191,8 @@ protected:
     /// Fits the frame skip to what is to be exported and applies it anew. Nothing happens without a target. Throws
     /// what the documents throw.
     void refreshSkipFrames(const ExportTargets& targets);
-    /// The distances between two frames that are on offer, by time.
-    const QList<double>& skipList() const { return m_skip.list; }
+    /// The frame skip as it was fitted last.
+    const FrameSkip& frameSkip() const { return m_skip; }
     /// The last answer of `getRangeMax`.
     int lastRangeMax() const { return m_rangeMax; }
     /// The parts of the host that `updateUI` asks for.

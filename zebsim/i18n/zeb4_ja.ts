@@ -2751,5 +2751,45 @@
         <source>with what the camera adds</source>
         <translation>カメラが付け加えるものを含める</translation>
     </message>
+    <message>
+        <source>Saved after the automatic conversion</source>
+        <translation>自動変換後の保存</translation>
+    </message>
+    <message>
+        <source>You can not edit during the conversion process.</source>
+        <translation>変換処理中は編集できません。</translation>
+    </message>
+    <message>
+        <source>There is no recording in %1.</source>
+        <translation>%1 に記録画像はありません。</translation>
+    </message>
+    <message>
+        <source>Multiple SD cards can not be opened at the same time. Are you sure you want to close all data of %1?</source>
+        <translation>複数の SD カードを同時に開くことはできません。%1 のデータをすべて閉じてもよろしいですか？</translation>
+    </message>
+    <message>
+        <source>Multiple QUIK Drives with USB connection can not be opened at the same time.Are you sure you want to close all data of %1?</source>
+        <translation>USB 接続の QUIK Drive を同時に複数開くことはできません。%1 のデータをすべて閉じてもよろしいですか？</translation>
+    </message>
+    <message>
+        <source>Multiple CFast with USB connection can not be opened at the same time.Are you sure you want to close all data of %1?</source>
+        <translation>USB 接続の CFast を同時に複数開くことはできません。%1 のデータをすべて閉じてもよろしいですか？</translation>
+    </message>
+    <message>
+        <source>Formatting is completed.</source>
+        <translation>フォーマットが完了しました。</translation>
+    </message>
+    <message>
+        <source>Formatting failed.</source>
+        <translation>フォーマットに失敗しました。</translation>
+    </message>
+    <message>
+        <source>Password setting completed..</source>
+        <translation>パスワードの設定が完了しました。</translation>
+    </message>
+    <message>
+        <source>Password setting failed.</source>
+        <translation>パスワードの設定に失敗しました。</translation>
+    </message>
 </context>
 </TS>

@@ -2,12 +2,12 @@
 
 #include "SimAppStatus.h"
 
-unsigned int SimFrames::getFrameCount(int /*partition*/, int /*head*/) const {
+unsigned int SimFrames::getFrameCount(int partition, int /*head*/) const {
     const Camera& camera = askConnected(OPERATION("getFrameCount"));
     if (m_host.appStatus.mode() == zeb::LiveMode) {
         return camera.model().frameCapacity(camera.state());
     }
-    const auto recording = camera.recording();
+    const auto recording = partition > 0 ? camera.recordingOf(PARTITIONNUMBER(partition)) : camera.recording();
     return recording ? recording->frameCount() : 0;
 }
 
