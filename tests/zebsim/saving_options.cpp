@@ -5,15 +5,6 @@
 
 namespace {
 
-/// Preferences of snapshots, as a case gives them.
-struct Chosen {
-    QHash<QString, QVariant> prefs;
-
-    SaveOrders orders() const {
-        return chosenOrders([this](const QString& key) { return prefs.value(QString(key).remove("snap/")); }, "snap/");
-    }
-};
-
 TEST(SaveOptions, AreTakenAsTheyStandOrAsNobodyHasChosenThem) {
     const QString factory = "png 8 upper speed lzw single 95, 5 digits, 1 in 1, 1 in 2000";
     const struct {
@@ -46,7 +37,7 @@ TEST(SaveOptions, AreTakenAsTheyStandOrAsNobodyHasChosenThem) {
         {{{"skipsave", true}, {"skipsavemsec", 1e300}, {"skipunit", 1}}, "1 in 2000", "1 in 1"},
     };
     for (const auto& one : cases) {
-        const SaveOrders orders = Chosen{one.prefs}.orders();
+        const SaveOrders orders = chosen(one.prefs);
         const PictureOptions& options = orders.format.options;
         const bool isThinned = one.prefs.value("skipsave").toBool();
         const QString told = QString("%1 %2 %3 %4 %5 %6 %7, %8 digits, 1 in %9")
@@ -101,7 +92,7 @@ TEST_F(SavingTest, WritesFilesAsTheirOptionsSay) {
     QImage picture = orders().tracks[0].picture(0).scaled(512, 512);
     SensorNoise{8, 0, 1}.addTo(picture, picture.size(), 1);
     const auto told = [&](const QHash<QString, QVariant>& prefs, const char* what) {
-        write(path("picture"), Chosen{prefs}.orders().format.encoded(picture, {}));
+        write(path("picture"), chosen(prefs).format.encoded(picture, {}));
         return QString(outputOf("identify", {"-format", what, path("picture")}));
     };
     EXPECT_EQ(told({{"format", "tiff"}}, "%C %z"), "LZW 8");

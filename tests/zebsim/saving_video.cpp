@@ -1,14 +1,19 @@
 #include "FileMetadata.h"
 #include "Files.h"
+#include "VideoTrials.h"
 #include "support/SavingTest.h"
+
+#include <QRegularExpression>
 
 namespace {
 
 /// A program that answers as ffmpeg does, and whose videos are the bare frames.
 constexpr auto Encoder =
     "#!/bin/sh\n"
-    "if [ \"$2\" = -encoders ]; then echo ' V....D mpeg4                MPEG-4'; exit; fi\n"
-    "for last; do :; done\n"
+    "for last; do [ \"$last\" = -encoders ] && exec echo ' V....D mpeg4                MPEG-4'; done\n"
+    "case \"$*\" in *-progress*) "
+    "eval \"$(echo \"$*\" | sed 's/.* -i file:\\([^ ]*\\) .*/file=\\1/')\"; "
+    "exec echo frame=$(($(stat -Lc %s $file) / 11844));; esac\n"
     "cat >\"${last#file:}\"\n";
 
 class SavingVideo : public SavingTest {
@@ -21,7 +26,7 @@ protected:
     }
     SaveOrders video() {
         SaveOrders wanted = orders("video");
-        wanted.encoder = {programs.filePath("encoder"), "mpeg4"};
+        wanted.encoder = {programs.filePath("encoder")};
         return wanted;
     }
     qint64 framesIn(const QString& name) const {
@@ -32,8 +37,6 @@ protected:
 };
 
 TEST_F(SavingVideo, MakesOneFileACamera) {
-    EXPECT_EQ(VideoEncoder::of(video().encoder.program).encoder, "mpeg4");
-    EXPECT_FALSE(VideoEncoder::of(path("none")).isUsable());
     write(path("Gate.mp4"), "old");
     for (const DOCKEY lost : {3, 1}) {
         host.host.faults().plant(lost, "readFrame", {"it is too hot", 0, false});
@@ -113,22 +116,155 @@ TEST_F(SavingTest, MakesAPageOfEachFrame) {
     }
 }
 
-TEST_F(SavingVideo, HoldsAllFramesForAnotherReader) {
-    const auto probed = [this](const QStringList& arguments) {
-        return outputOf("ffprobe", QStringList{"-v", "error"} + arguments + QStringList(path("Nozzle_2.mp4")))
-            .trimmed();
+/// What another program finds in the video of the third camera.
+QString probed(const QString& file, const QStringList& arguments) {
+    return outputOf("ffprobe", QStringList{"-v", "error"} + arguments + QStringList(file)).trimmed();
+}
+
+TEST_F(SavingVideo, HoldsAllFramesInEachFormatOrIsNotOffered) {
+    // ./test long tries each pair at each rate.
+    const bool isLong = qEnvironmentVariableIsSet("WREN_LONG");
+    const QStringList containers{"avi", "mov", "mp4"};
+    const QStringList rates{"1", "25", "29.97", "1000"};
+    const QStringList some{"avi RAW 1",      "mov H264 29.97", "mp4 MJPEG 1000",
+                           "avi MPEG2 1000", "mov MPEG4 25",   "mp4 RAW 25"};
+    int offered = 0;
+    for (const QString& container : containers) {
+        for (const VideoCodec& codec : videoCodecs()) {
+            for (const QString& rate : rates) {
+                const QString what = QStringList{container, codec.name, rate}.join(' ');
+                if (!isLong && !some.contains(what)) {
+                    continue;
+                }
+                const bool isEven = (containers.indexOf(container) + rates.indexOf(rate)) % 2 == 0;
+                const QSize size = isEven ? Size + QSize(1, 1) : Size;
+                host.camera(3).change({{"resolution", QVariantList{size.width(), size.height()}}});
+                host.camera(3).change({{"selectedRange", QVariantList{100, 111}}});
+                SaveOrders wanted = orders(container);
+                wanted.format =
+                    chosen(
+                        {{"format", container}, {container + "/codec", codec.name}, {container + "/framerate", rate}})
+                        .format;
+                wanted.tracks.erase(wanted.tracks.begin());
+                wanted.encoder = VideoEncoder::installed();
+                const QString fault = videoFault(container, codec.name, rate.toDouble());
+                SCOPED_TRACE(QString(what % ' ' % fault).toStdString());
+                const QStringList told = run(wanted);
+                if (!fault.isEmpty()) {
+                    EXPECT_EQ(told, QStringList("Nozzle/2: 0 of 12 up to 0, failed"));
+                    EXPECT_EQ(files(), QStringList());
+                    continue;
+                }
+                ++offered;
+                ASSERT_EQ(told, QStringList("Nozzle/2: 12 of 12 up to 11, saved")) << reason.toStdString();
+                const QString file = wanted.fileOf(wanted.tracks[0], 0);
+                const QStringList found =
+                    probed(file, {"-count_packets", "-show_entries", "stream=nb_read_packets,r_frame_rate,pix_fmt",
+                                  "-of", "default=nk=1:nw=1"})
+                        .split('\n');
+                EXPECT_EQ(found.value(2), "12");
+                const QStringList parts = found.value(1).split('/');
+                EXPECT_NEAR(parts.value(0).toDouble() / parts.value(1).toDouble(), rate.toDouble(), 0.001);
+                EXPECT_EQ(found.value(0) == "yuv420p", codec.pixels == "yuv420p");
+                removeFiles();
+            }
+        }
+    }
+    EXPECT_GE(offered, isLong ? 60 : 4);
+}
+
+TEST_F(SavingVideo, KeepsColoursThatAreToBeKept) {
+    const struct {
+        const char *container, *codec;
+        bool isLossless;
+    } cases[] = {{"avi", "RAW", false},
+                 {"mov", "RAW", false},
+                 {"avi", "HUFFYUV", false},
+                 {"mov", "HUFFYUV", false},
+                 {"mp4", "H264", true}};
+    for (const auto& one : cases) {
+        SaveOrders wanted = orders(one.container);
+        wanted.format.video.codec = one.codec;
+        wanted.format.video.isLossless = one.isLossless;
+        wanted.format.video.crf = 51;
+        wanted.encoder = VideoEncoder::installed();
+        removeFiles();
+        run(wanted);
+        QByteArray pixels;
+        for (int index = 0; index < 3; ++index) {
+            pixels += pixelsOf(wanted.tracks[1].picture(index), 8);
+        }
+        const QString file = wanted.fileOf(wanted.tracks[1], 0);
+        const QByteArray read =
+            outputOf("ffmpeg", {"-v", "error", "-i", file, "-f", "rawvideo", "-pix_fmt", "rgb24", "-"});
+        EXPECT_TRUE(read == pixels) << one.container << ' ' << one.codec;
+    }
+}
+
+TEST_F(SavingVideo, IsMadeAsItsOptionsSay) {
+    const auto made = [&](QHash<QString, QVariant> prefs) {
+        SaveOrders wanted = orders("mp4");
+        prefs["format"] = "mp4";
+        wanted.format = chosen(prefs).format;
+        wanted.encoder = VideoEncoder::installed();
+        run(wanted);
+        const QByteArray bytes = contentOf(path("Nozzle_2.mp4"));
+        removeFiles();
+        return bytes;
     };
+    // That encoder leaves its settings in the file.
+    EXPECT_TRUE(made({{"mp4/crf", 33}}).contains("crf=33.0"));
+    EXPECT_TRUE(made({{"mp4/crf", 99}}).contains("crf=18.0"));
+    EXPECT_TRUE(made({{"mp4/qualitypreset", "ultrafast"}}).contains("subme=0"));
+    EXPECT_TRUE(made({{"mp4/qualitypreset", "-i /etc/passwd"}}).contains("subme=7"));
+    EXPECT_TRUE(made({{"mp4/lossless", true}, {"mp4/crf", 33}}).contains("qp=0"));
+    for (const char* codec : {"MJPEG", "MPEG2", "MPEG4"}) {
+        EXPECT_LT(2 * made({{"mp4/codec", codec}, {"mp4/quality", 0}}).size(),
+                  made({{"mp4/codec", codec}, {"mp4/quality", 100}}).size())
+            << codec;
+    }
+}
+
+TEST_F(SavingVideo, SaysWhatTheProgramLacks) {
+    const auto fault = [&](const QByteArray& script) {
+        program(script);
+        return VideoTrials(VideoEncoder{programs.filePath("encoder")}).fault("mp4", {}).toStdString();
+    };
+    const QByteArray tells = "#!/bin/sh\ncase \"$*\" in *-encoders*) echo ' V....D libx264    x'; exit;; esac\n";
+    EXPECT_EQ(VideoTrials(VideoEncoder{}).fault("mp4", {}), "Video needs the program ffmpeg, which is not installed.");
+    EXPECT_EQ(fault(Encoder), "The installed ffmpeg has no encoder libx264, which H264 needs.");
+    EXPECT_EQ(fault(tells + "echo oh >&2; exit 1\n"), "The installed ffmpeg makes no MP4 files with H264.");
+    EXPECT_EQ(fault(tells + "kill -9 $$\n"), "The installed ffmpeg makes no MP4 files with H264.");
+    EXPECT_NE(formatFault("mraw"), "");
+    EXPECT_EQ(formatFault("mp4") + formatFault("png"), "");
+}
+
+TEST_F(SavingVideo, IsNoneWhenFramesAreMissing) {
+    host.camera(3).change({{"selectedRange", QVariantList{100, 123}}});
+    SaveOrders wanted = orders("avi");
+    wanted.format.video.codec = "MPEG2";
+    wanted.format.video.rate = 1000;
+    wanted.encoder = VideoEncoder::installed();
+    EXPECT_EQ(run(wanted).last(), "Nozzle/2: 0 of 24 up to 0, failed");
+    EXPECT_EQ(failedFile, "Nozzle_2.avi");
+    EXPECT_TRUE(QRegularExpression("^[1-9] of its 24 frames are in it$").match(reason).hasMatch())
+        << reason.toStdString();
+    EXPECT_FALSE(files().contains("Nozzle_2.avi"));
+}
+
+TEST_F(SavingVideo, HoldsAllFramesForAnotherReader) {
+    const QString file = path("Nozzle_2.mp4");
     host.camera(3).change(
         {{"recordedCustomInfo",
           QVariantList{QVariantMap{{"name", QString(QChar(0x5727))}, {"value", "a=b\nc"}, {"display", true}}}}});
     SaveOrders wanted = video();
     wanted.encoder = VideoEncoder::installed();
     run(wanted);
-    EXPECT_EQ(probed({"-count_frames", "-show_entries", "stream=nb_read_frames,width,height", "-of", "csv=p=0"}),
+    EXPECT_EQ(probed(file, {"-count_frames", "-show_entries", "stream=nb_read_frames,width,height", "-of", "csv=p=0"}),
               "64,48,3");
     const QByteArray description = wanted.tracks[1].metadataOfAll().description;
     EXPECT_TRUE(description.contains("\"frame\":0,\"time\":0.000000,\"lastFrame\":2,\"lastTime\":0.002000"));
-    EXPECT_EQ(probed({"-show_entries", "format_tags=comment,items", "-of", "default=nk=1:nw=1"}),
+    EXPECT_EQ(probed(file, {"-show_entries", "format_tags=comment,items", "-of", "default=nk=1:nw=1"}),
               description + "\n\xe5\x9c\xa7: a=b\\nc");
 }
 

@@ -95,6 +95,8 @@ QString entryText(const PlanEntry& entry) {
             return uiText("%1: %2 is there and is no file that could be replaced").arg(entry.camera, path);
         case PlanEntry::NoName:
             return uiText("%1: %2").arg(entry.camera, uiText(entry.detail));
+        case PlanEntry::NoFormat:
+            return entry.detail;
     }
     return {};
 }

@@ -1248,16 +1248,8 @@
         <translation>保存中</translation>
     </message>
     <message>
-        <source>Video (MP4)</source>
-        <translation>動画 (MP4)</translation>
-    </message>
-    <message>
         <source>Video needs the program ffmpeg, which is not installed.</source>
         <translation>動画にはプログラム ffmpeg が必要ですが、インストールされていません。</translation>
-    </message>
-    <message>
-        <source>The installed ffmpeg has no encoder for MP4.</source>
-        <translation>インストールされている ffmpeg には MP4 のエンコーダーがありません。</translation>
     </message>
     <message>
         <source>Folder</source>
@@ -2752,6 +2744,30 @@
         <translation>カメラが付け加えるものを含める</translation>
     </message>
     <message>
+        <source>The installed ffmpeg has no encoder %1, which %2 needs.</source>
+        <translation>インストールされている ffmpeg には、%2 に必要なエンコーダー %1 がありません。</translation>
+    </message>
+    <message>
+        <source>The installed ffmpeg does not answer.</source>
+        <translation>インストールされている ffmpeg が応答しません。</translation>
+    </message>
+    <message>
+        <source>%1 in %2 files does not keep all frames at %3 frames a second.</source>
+        <translation>%2 ファイルの %1 では、毎秒 %3 フレームのすべてのフレームを保持できません。</translation>
+    </message>
+    <message>
+        <source>How files of this format are laid out is known to no program here.</source>
+        <translation>この形式のファイルの構造は、ここではどのプログラムにも知られていません。</translation>
+    </message>
+    <message>
+        <source>its frames can&apos;t be counted</source>
+        <translation>フレームを数えられません</translation>
+    </message>
+    <message>
+        <source>%1 of its %2 frames are in it</source>
+        <translation>%2 フレームのうち %1 フレームしか含まれていません</translation>
+    </message>
+    <message>
         <source>Saved after the automatic conversion</source>
         <translation>自動変換後の保存</translation>
     </message>
@@ -2790,6 +2806,18 @@
     <message>
         <source>Password setting failed.</source>
         <translation>パスワードの設定に失敗しました。</translation>
+    </message>
+    <message>
+        <source>The installed ffmpeg makes no %1 files with %2.</source>
+        <translation>インストールされている ffmpeg では、%2 の %1 ファイルを作成できません。</translation>
+    </message>
+    <message>
+        <source>Video (MP4)</source>
+        <translation>動画 (MP4)</translation>
+    </message>
+    <message>
+        <source>The installed ffmpeg has no encoder for MP4.</source>
+        <translation>インストールされている ffmpeg には MP4 のエンコーダーがありません。</translation>
     </message>
 </context>
 </TS>

@@ -22,13 +22,24 @@ namespace {
 
 constexpr int LookAgainMs = 10;
 
+QString textIn(int descriptor) {
+    QFile file;
+    file.open(descriptor, QIODevice::ReadOnly);
+    file.seek(0);
+    return QString::fromLocal8Bit(file.readAll()).trimmed();
+}
+
 }  // namespace
 
-EncoderProcess::EncoderProcess(const QString& program, const QStringList& arguments, const StopSource& stop)
-    : m_stop(stop), m_said(::memfd_create("said", MFD_CLOEXEC)) {
+EncoderProcess::EncoderProcess(const QString& program, const QStringList& arguments, const StopSource& stop,
+                               std::chrono::seconds limit)
+    : m_stop(stop),
+      m_latest(std::chrono::steady_clock::now() + limit),
+      m_answer(::memfd_create("answer", MFD_CLOEXEC)),
+      m_said(::memfd_create("said", MFD_CLOEXEC)) {
     // A socket, for a pipe that nobody reads any more would end this program.
     int ends[2] = {-1, -1};
-    if (m_said < 0 || ::socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, ends) != 0) {
+    if (m_answer < 0 || m_said < 0 || ::socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, ends) != 0) {
         m_error = errno;
         return;
     }
@@ -43,6 +54,7 @@ EncoderProcess::~EncoderProcess() {
         ::waitpid(m_id, nullptr, 0);
     }
     ::close(m_input);
+    ::close(m_answer);
     ::close(m_said);
 }
 
@@ -56,7 +68,7 @@ void EncoderProcess::start(const QString& program, const QStringList& arguments,
     posix_spawn_file_actions_t actions;
     posix_spawn_file_actions_init(&actions);
     posix_spawn_file_actions_adddup2(&actions, input, STDIN_FILENO);
-    posix_spawn_file_actions_addopen(&actions, STDOUT_FILENO, "/dev/null", O_WRONLY, 0);
+    posix_spawn_file_actions_adddup2(&actions, m_answer, STDOUT_FILENO);
     posix_spawn_file_actions_adddup2(&actions, m_said, STDERR_FILENO);
     m_error = ::posix_spawn(&m_id, list.front(), &actions, nullptr, list.data(), environ);
     posix_spawn_file_actions_destroy(&actions);
@@ -71,7 +83,7 @@ bool EncoderProcess::write(const char* bytes, qint64 size) {
             m_id < 0 ? -1 : ::send(m_input, bytes + done, std::size_t(size - done), MSG_NOSIGNAL | MSG_DONTWAIT);
         if (sent >= 0) {
             done += sent;
-        } else if (m_id < 0 || (errno != EAGAIN && errno != EINTR) || m_stop.isStopped()) {
+        } else if (m_id < 0 || (errno != EAGAIN && errno != EINTR) || isGivenUp()) {
             return false;
         } else {
             pollfd room{m_input, POLLOUT, 0};
@@ -84,7 +96,7 @@ bool EncoderProcess::write(const char* bytes, qint64 size) {
 bool EncoderProcess::finish() {
     ::shutdown(m_input, SHUT_WR);
     int status = 0;
-    while (m_id > 0 && !m_stop.isStopped()) {
+    while (m_id > 0 && !isGivenUp()) {
         if (::waitpid(m_id, &status, WNOHANG) != 0) {
             m_id = -1;
             return WIFEXITED(status) && WEXITSTATUS(status) == 0 && said().isEmpty();
@@ -94,11 +106,20 @@ bool EncoderProcess::finish() {
     return false;
 }
 
+bool EncoderProcess::isLate() const {
+    return std::chrono::steady_clock::now() > m_latest;
+}
+
+bool EncoderProcess::isGivenUp() const {
+    return m_stop.isStopped() || isLate();
+}
+
 QString EncoderProcess::said() const {
-    QFile file;
-    file.open(m_said, QIODevice::ReadOnly);
-    file.seek(0);
-    return QString::fromLocal8Bit(file.readAll()).trimmed();
+    return textIn(m_said);
+}
+
+QString EncoderProcess::answer() const {
+    return textIn(m_answer);
 }
 
 QString EncoderProcess::complaint() const {

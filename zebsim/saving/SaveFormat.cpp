@@ -3,13 +3,6 @@
 #include <algorithm>
 #include <utility>
 
-namespace {
-
-/// Between frames little changes.
-constexpr int FramesInSizeOfOne = 4;
-
-}  // namespace
-
 QByteArray SaveFormat::encoded(QImage picture, const FileMetadata& metadata, int cameraBits) const {
     PictureOptions own = options;
     own.cameraBits = cameraBits;
@@ -17,8 +10,13 @@ QByteArray SaveFormat::encoded(QImage picture, const FileMetadata& metadata, int
 }
 
 qint64 SaveFormat::expectedSize(const QImage& picture, const FileMetadata& metadata, int cameraBits) const {
-    return isVideo() ? saveFormat(QStringLiteral("jpeg")).encoded(picture, metadata).size() / FramesInSizeOfOne
-                     : encoded(picture, metadata, cameraBits).size();
+    if (!isVideo()) {
+        return encoded(picture, metadata, cameraBits).size();
+    }
+    const auto sizeAs = [&](const char* kind) {
+        return saveFormat(QLatin1String(kind)).encoded(picture, metadata).size();
+    };
+    return video.expectedSize(qint64(picture.width()) * picture.height(), sizeAs("png"), sizeAs("jpeg"));
 }
 
 const QList<SaveFormat>& saveFormats() {
@@ -26,6 +24,8 @@ const QList<SaveFormat>& saveFormats() {
                                               {QStringLiteral("tiff"), QStringLiteral("tif"), tiffOf, true},
                                               {QStringLiteral("jpeg"), QStringLiteral("jpg"), jpegOf},
                                               {QStringLiteral("bmp"), QStringLiteral("bmp"), bmpOf},
+                                              {QStringLiteral("avi"), QStringLiteral("avi")},
+                                              {QStringLiteral("mov"), QStringLiteral("mov")},
                                               {QStringLiteral("mp4"), QStringLiteral("mp4")}};
     return formats;
 }
@@ -51,5 +51,6 @@ SaveFormat chosenFormat(const PrefReader& pref, const QString& family) {
     bool isNumber = false;
     const int quality = option("compressquality").toInt(&isNumber);
     options.jpegQuality = isNumber && quality >= 0 && quality <= 100 ? quality : options.jpegQuality;
+    format.video = VideoOptions::chosen(pref, family, format.id);
     return format;
 }

@@ -2,6 +2,7 @@
 
 #include "NameFamilies.h"
 #include "PictureEncoder.h"
+#include "VideoFormats.h"
 
 #include <QByteArray>
 #include <QImage>
@@ -18,6 +19,7 @@ struct SaveFormat {
     /// A file can have pages, a picture each.
     bool hasPages = false;
     PictureOptions options = {};
+    VideoOptions video = {};
 
     bool isVideo() const { return encoder == nullptr; }
     /// All frames of a track stand in one file.
@@ -29,7 +31,7 @@ struct SaveFormat {
     qint64 expectedSize(const QImage& picture, const FileMetadata& metadata, int cameraBits) const;
 };
 
-/// PNG, TIFF, JPEG, BMP, MP4, each with the options of a file that nobody has chosen any for.
+/// PNG, TIFF, JPEG, BMP, AVI, MOV, MP4, each with the options of a file that nobody has chosen any for.
 const QList<SaveFormat>& saveFormats();
 /// The first for an unknown id; "video" is MP4.
 const SaveFormat& saveFormat(const QString& id);

@@ -1,5 +1,8 @@
 #include "SaveOrders.h"
 
+#include "UiText.h"
+#include "VideoTrials.h"
+
 #include <utility>
 
 namespace {
@@ -19,6 +22,20 @@ QString SaveOrders::fileOf(const SaveTrack& track, int index) const {
     const QString text = QString::number(qAbs(number)).rightJustified(frameDigits, QLatin1Char('0'));
     const QString ending = format.isOneFile() ? QString() : QString((number < 0 ? "_-" : "_") % text);
     return track.stem % ending % QLatin1Char('.') % format.suffix;
+}
+
+QString formatFault(const QString& id) {
+    if (QStringList{"raww", "mraw", "graw"}.contains(id)) {
+        return uiText("How files of this format are laid out is known to no program here.");
+    }
+    QString fault;
+    for (const VideoCodec& codec : videoCodecs()) {
+        fault = saveFormat(id).isVideo() ? videoFault(id, codec.name, VideoOptions::UsualRate) : QString();
+        if (fault.isEmpty()) {
+            break;
+        }
+    }
+    return fault;
 }
 
 SaveOrders chosenOrders(const PrefReader& pref, const QString& family) {

@@ -35,6 +35,10 @@ struct SaveOrders {
     QString fileOf(const SaveTrack& track, int index) const;
 };
 
+/// Why files of a format, as "png" or "mraw", can't be written here at all, in the user's language; empty when they
+/// can. Of a video it may take a second or two.
+QString formatFault(const QString& id);
+
 /// All that the preferences of `family`, as "export/", choose; without tracks. What can't be is as nobody has chosen
 /// it.
 SaveOrders chosenOrders(const PrefReader& pref, const QString& family);

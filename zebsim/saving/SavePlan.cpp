@@ -4,6 +4,7 @@
 #include "TargetDisk.h"
 #include "TargetPaths.h"
 #include "TextKey.h"
+#include "VideoTrials.h"
 
 #include <QDir>
 #include <QFile>
@@ -237,6 +238,11 @@ SavePlan planOf(SaveOrders orders, const std::vector<TrackTarget>& targets, Targ
     SavePlan plan{std::move(orders), std::move(known), {}, 0, 0};
     if (plan.orders.tracks.empty()) {
         return plan;
+    }
+    const SaveFormat& format = plan.orders.format;
+    const QString fault = format.isVideo() ? VideoTrials::installed().fault(format.id, format.video) : QString();
+    if (!fault.isEmpty()) {
+        plan.entries.append({PlanEntry::NoFormat, {}, {}, 0, fault});
     }
     Planner planner(plan, disk);
     const double perPixel = bytesInPixel(plan.orders);

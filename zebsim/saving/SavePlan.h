@@ -45,7 +45,8 @@ struct PlanEntry {
         NoFolder,
         ReadOnly,
         NoFile,
-        NoName
+        NoName,
+        NoFormat
     };
     Kind kind = Exists;
     /// Cameras that it is about; empty: all of them.

@@ -1,56 +1,48 @@
 #include "VideoEncoder.h"
 
 #include "FileMetadata.h"
+#include "VideoFormats.h"
 
-#include <QProcess>
-#include <QRegularExpression>
 #include <QStandardPaths>
 
 namespace {
 
-constexpr int AnswerMs = 10000;
-/// Frames that a video shows in a second, whatever rate they were recorded at.
-const QString ShownRate = QStringLiteral("30");
+/// A name is not to be taken for an address.
+QString addressOf(const QString& file) {
+    return QStringLiteral("file:") % file;
+}
 
 }  // namespace
 
-QStringList VideoEncoder::arguments(const QSize& size, const QString& file, const FileMetadata& metadata) const {
+QStringList VideoEncoder::arguments(const QSize& size, const QString& file, const QString& container,
+                                    const VideoOptions& options, const FileMetadata& metadata) const {
     const QString sides = QStringLiteral("%1x%2").arg(size.width()).arg(size.height());
-    QStringList arguments = {
-        "-hide_banner", "-loglevel", "error", "-y",
-        // What comes in.
-        "-f", "rawvideo", "-pix_fmt", "bgr0", "-video_size", sides, "-framerate", ShownRate, "-i", "-",
-        // Colours are stored for two by two pixels, so sides must be even.
-        "-vf", "pad=ceil(iw/2)*2:ceil(ih/2)*2", "-pix_fmt", "yuv420p", "-c:v", encoder, "-q:v", "3", "-f", "mp4",
-        // Names that the format does not know are kept too.
-        "-movflags", "use_metadata_tags", "-metadata", "comment=" % QLatin1String(metadata.description)};
+    QStringList arguments = {"-hide_banner", "-loglevel", "error",       "-y",  "-f",         "rawvideo",
+                             "-pix_fmt",     "bgr0",      "-video_size", sides, "-framerate", options.rateText(),
+                             "-i",           "-"};
+    arguments += options.arguments(container);
+    arguments << QStringLiteral("-metadata") << "comment=" % QLatin1String(metadata.description);
     for (const auto& [name, value] : metadata.tags) {
         arguments << QStringLiteral("-metadata") << name % QLatin1Char('=') % value;
     }
-    // A name is not to be taken for an address.
-    return arguments << QStringLiteral("file:") % file;
+    return arguments << addressOf(file);
 }
 
-VideoEncoder VideoEncoder::of(const QString& program) {
-    VideoEncoder answer{program, {}};
-    if (program.isEmpty()) {
-        return answer;
-    }
-    QProcess asked;
-    asked.start(program, {QStringLiteral("-hide_banner"), QStringLiteral("-encoders")}, QIODevice::ReadOnly);
-    asked.waitForFinished(AnswerMs);
-    const QString list = QString::fromLocal8Bit(asked.readAllStandardOutput());
-    for (const char* name : {"libx264", "mpeg4"}) {
-        const QRegularExpression line(QStringLiteral("^ V\\S+ %1 ").arg(QLatin1String(name)),
-                                      QRegularExpression::MultilineOption);
-        if (answer.encoder.isEmpty() && line.match(list).hasMatch()) {
-            answer.encoder = QLatin1String(name);
-        }
-    }
-    return answer;
+std::optional<int> VideoEncoder::framesIn(const QString& file, const StopSource& stop,
+                                          std::chrono::seconds limit) const {
+    // It tells how far it is, and at last how far it has come.
+    EncoderProcess reading(program,
+                           {"-hide_banner", "-loglevel", "error", "-i", addressOf(file), "-map", "0:v:0", "-c", "copy",
+                            "-f", "null", "-nostats", "-progress", "pipe:1", "-"},
+                           stop, limit);
+    reading.finish();
+    const QStringList told = reading.answer().split(QLatin1Char('\n')).filter(QStringLiteral("frame="));
+    bool isNumber = false;
+    const int frames = told.isEmpty() ? 0 : told.last().section(QLatin1Char('='), 1).toInt(&isNumber);
+    return isNumber ? std::optional(frames) : std::nullopt;
 }
 
 const VideoEncoder& VideoEncoder::installed() {
-    static const VideoEncoder encoder = of(QStandardPaths::findExecutable(QStringLiteral("ffmpeg")));
+    static const VideoEncoder encoder{QStandardPaths::findExecutable(QStringLiteral("ffmpeg"))};
     return encoder;
 }

@@ -1,25 +1,31 @@
 #pragma once
 
+#include "EncoderProcess.h"
+
 #include <QSize>
 #include <QString>
 #include <QStringList>
 
-struct FileMetadata;
+#include <optional>
 
-/// The program that makes videos, and which of its encoders.
+struct FileMetadata;
+struct VideoOptions;
+
+/// The program that makes videos. Any thread.
 struct VideoEncoder {
     /// Path of ffmpeg; empty when it is not installed.
     QString program;
-    /// Empty when the program has none that we know.
-    QString encoder;
 
-    bool isUsable() const { return !encoder.isEmpty(); }
-    /// Arguments that make the video `file`, with its metadata, of bare frames, 32 bits a pixel, from the standard
-    /// input.
-    QStringList arguments(const QSize& size, const QString& file, const FileMetadata& metadata) const;
+    bool isUsable() const { return !program.isEmpty(); }
+    /// Arguments that make the video `file` of the format `container`, as "mp4", with its metadata, of bare frames, 32
+    /// bits a pixel, from the standard input.
+    QStringList arguments(const QSize& size, const QString& file, const QString& container, const VideoOptions& options,
+                          const FileMetadata& metadata) const;
+    /// Frames that stand in a video, as the program finds them when it reads it. Nothing when it does not read it, when
+    /// that takes longer than `limit`, or `stop` is stopped meanwhile.
+    std::optional<int> framesIn(const QString& file, const StopSource& stop,
+                                std::chrono::seconds limit = EncoderProcess::NoLimit) const;
 
-    /// Asks the program of that path for its encoders. Takes a moment.
-    static VideoEncoder of(const QString& program);
-    /// The one on this machine; it is asked once.
+    /// The one on this machine, looked for once.
     static const VideoEncoder& installed();
 };

@@ -2,6 +2,8 @@
 
 #include "FileError.h"
 #include "SaveOrders.h"
+#include "TextKey.h"
+#include "UiText.h"
 
 #include <QImage>
 
@@ -18,11 +20,14 @@ void VideoSink::feed(const QImage& picture) {
         m_file.emplace(m_path, overOf(m_orders, m_path));
         const VideoEncoder& encoder = m_orders.encoder;
         m_process.emplace(encoder.program,
-                          encoder.arguments(picture.size(), m_file->temporaryPath(), m_track.metadataOfAll()), m_stop);
+                          encoder.arguments(picture.size(), m_file->temporaryPath(), m_orders.format.id,
+                                            m_orders.format.video, m_track.metadataOfAll()),
+                          m_stop);
     }
     if (!m_process->write(reinterpret_cast<const char*>(picture.constBits()), picture.sizeInBytes())) {
         fail();
     }
+    ++m_frames;
 }
 
 void VideoSink::finish() {
@@ -31,8 +36,20 @@ void VideoSink::finish() {
         if (!m_process->finish()) {
             fail();
         }
+        countFrames();
         meetDiskFault(m_orders, m_path);
         m_file->complete();
+    }
+}
+
+/// Some encoders leave frames out, and say nothing.
+void VideoSink::countFrames() const {
+    const std::optional<int> there = m_orders.encoder.framesIn(m_file->temporaryPath(), m_stop);
+    if (!there) {
+        throw FileError(m_path, TextKey("its frames can't be counted"));
+    }
+    if (*there != m_frames) {
+        throw FileError(m_path, uiText("%1 of its %2 frames are in it").arg(*there).arg(m_frames));
     }
 }
 

@@ -19,6 +19,7 @@ public:
 
 private:
     void feed(const QImage& picture);
+    void countFrames() const;
     [[noreturn]] void fail();
 
     const SaveOrders& m_orders;
@@ -27,4 +28,5 @@ private:
     const QString m_path;
     std::optional<FileWriter> m_file;
     std::optional<EncoderProcess> m_process;
+    int m_frames = 0;
 };

@@ -37,6 +37,11 @@ inline QByteArray pixelsOf(const QImage& picture, int depth) {
     return bytes;
 }
 
+/// What preferences choose, by their keys without the family.
+inline SaveOrders chosen(const QHash<QString, QVariant>& prefs) {
+    return chosenOrders([&](const QString& key) { return prefs.value(QString(key).remove("export/")); }, "export/");
+}
+
 /// Three cameras, the second without a recording; two frames are to be kept of the first and three of the third.
 class SavingTest : public testing::Test {
 protected:
