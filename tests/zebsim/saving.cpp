@@ -386,9 +386,9 @@ TEST_F(Saving, LaysTheCamerasSideBySide) {
     layout.tracks = tracksOfLayout(sources(), "Layout");
     layout.tracks.front().stem = path("Layout");
     host.host.faults().plant(1, "readFrame", {"it is too hot", 0, false});
-    EXPECT_EQ(run(layout), QStringList({"Gate: 0 of 2 up to 0, lost", "Layout: 3 of 3 up to 2, saved"}));
-    EXPECT_EQ(files(), QStringList({"Layout_00000.png", "Layout_00001.png", "Layout_00002.png"}));
-    const QImage last(path("Layout_00002.png"));
+    EXPECT_EQ(run(layout), QStringList({"Gate: 0 of 4 up to 0, lost", "Layout: 4 of 4 up to 3, saved"}));
+    EXPECT_EQ(files(), QStringList({"Layout_00000.png", "Layout_00001.png", "Layout_00002.png", "Layout_00003.png"}));
+    const QImage last(path("Layout_00003.png"));
     ASSERT_EQ(last.size(), QSize(960, 360));
     const QSize tile = fitInto({480, 360}, Size);
     const QImage right =

@@ -5,7 +5,7 @@
 
 bool CameraFrame::operator==(const CameraFrame& other) const {
     return camera == other.camera && resolution == other.resolution && number == other.number && time == other.time &&
-           noise == other.noise && effects == other.effects;
+           noise == other.noise && effects == other.effects && hasTexts == other.hasTexts;
 }
 
 CameraFrame CameraFrame::live(const CameraState& state, const SensorNoise& noise, qint64 now) {

@@ -20,6 +20,8 @@ struct CameraFrame {
     SensorNoise noise;
     /// What plug-ins make of it.
     FrameEffects effects;
+    /// Its picture tells all that.
+    bool hasTexts = true;
 
     bool operator==(const CameraFrame& other) const;
 

@@ -1,6 +1,7 @@
 #include "FramePicture.h"
 
-#include <QFontMetrics>
+#include "FrameTexts.h"
+
 #include <QPainter>
 
 #include <algorithm>
@@ -11,8 +12,6 @@ namespace {
 constexpr int Spokes = 5;
 /// Of a live image: so many frames make one turn.
 constexpr int FramesInTurn = 2400;
-constexpr int TextShare = 14;
-constexpr int SmallestText = 9;
 
 /// A number of the camera's own, the same at every start of the program.
 unsigned int numberOf(const QString& camera) {
@@ -50,33 +49,20 @@ void drawMotion(QPainter& painter, const QColor& colour, const QSize& size, qint
     painter.drawRect(QRectF(part * size.width() * 0.96, size.height() * 0.985, size.width() * 0.04, size.height()));
 }
 
-void drawLine(QPainter& painter, const QRect& place, Qt::Alignment alignment, const QString& text) {
-    // Names often differ at their end only.
-    const QString fitting = painter.fontMetrics().elidedText(text, Qt::ElideMiddle, place.width());
-    painter.setPen(QColor(0, 0, 0, 180));
-    painter.drawText(place.translated(1, 1), int(alignment) | Qt::TextSingleLine, fitting);
-    painter.setPen(Qt::white);
-    painter.drawText(place, int(alignment) | Qt::TextSingleLine, fitting);
-}
-
 QString timeText(qint64 microseconds) {
     return QString::number(double(microseconds) / 1e6, 'f', 6) % QStringLiteral(" s");
 }
 
 void drawTexts(QPainter& painter, const CameraFrame& frame, const QSize& size) {
-    QFont font;
-    font.setPixelSize(std::max(SmallestText, size.height() / TextShare));
-    painter.setFont(font);
-    const int margin = std::max(3, size.height() / 40);
-    const QRect place = QRect({}, size).adjusted(margin, margin, -margin, -margin);
-    drawLine(painter, place, Qt::AlignLeft | Qt::AlignTop, frame.camera);
+    const FrameTexts texts(QRect({}, size));
+    texts.draw(painter, Qt::AlignLeft | Qt::AlignTop, frame.camera);
     const QString number = QStringLiteral("# %1").arg(frame.number);
-    drawLine(painter, place, Qt::AlignLeft | Qt::AlignBottom, number);
-    const int left = painter.fontMetrics().horizontalAdvance(number) + 2 * margin;
+    texts.draw(painter, Qt::AlignLeft | Qt::AlignBottom, number);
+    const int left = texts.widthOf(number) + 2 * texts.margin();
     const QString time = timeText(frame.time);
     // Half a number would be a wrong one.
-    if (painter.fontMetrics().horizontalAdvance(time) <= place.width() - left) {
-        drawLine(painter, place, Qt::AlignRight | Qt::AlignBottom, time);
+    if (texts.widthOf(time) <= texts.place().width() - left) {
+        texts.draw(painter, Qt::AlignRight | Qt::AlignBottom, time);
     }
 }
 
@@ -90,7 +76,9 @@ QImage drawScene(const CameraFrame& frame, const QSize& size) {
     const QColor colour = QColor::fromHsv(int(numberOf(frame.camera) % 360), 90, 96);
     drawGround(painter, colour, size);
     drawMotion(painter, colour, size, frame.number);
-    drawTexts(painter, frame, size);
+    if (frame.hasTexts) {
+        drawTexts(painter, frame, size);
+    }
     return picture;
 }
 

@@ -5,8 +5,8 @@
 #include <QImage>
 
 /// The picture of a frame, `size` pixels large: a turning wheel over a coloured ground, and the camera's name, the
-/// frame's number and its time, with the sensor's noise and the effects of plug-ins. Equal frames make equal pictures;
-/// an effect that sees neighbours works on one of the camera's resolution. Any thread.
+/// frame's number and its time where it has texts, with the sensor's noise and the effects of plug-ins. Equal frames
+/// make equal pictures; an effect that sees neighbours works on one of the camera's resolution. Any thread.
 QImage drawFrame(const CameraFrame& frame, const QSize& size);
 
 /// The largest size with the sides of `resolution` that fits into `bounds`; empty when either is.

@@ -13,7 +13,8 @@ constexpr int MostDigits = 20;
 }  // namespace
 
 void SaveOrders::add(SaveTrack track) {
-    track.step = skip.stepAt(track.sources.front().recording().rate);
+    track.thin(skip);
+    track.layout = layout;
     tracks.push_back(std::move(track));
 }
 
@@ -44,5 +45,6 @@ SaveOrders chosenOrders(const PrefReader& pref, const QString& family) {
     const int digits = pref(family % QStringLiteral("filenameseqdigits")).toInt();
     orders.frameDigits = digits >= 1 && digits <= MostDigits ? digits : orders.frameDigits;
     orders.skip = FrameSkipRule::chosen(pref, family);
+    orders.layout = LayoutRule::chosen(pref, family);
     return orders;
 }

@@ -28,8 +28,9 @@ struct SaveOrders {
     std::function<QString()> diskFault = [] { return QString(); };
     /// Of the tracks that are added.
     FrameSkipRule skip = {};
+    LayoutRule layout = {};
 
-    /// One more track, of which the frames are left out that `skip` says.
+    /// One more track, as `skip` and `layout` say.
     void add(SaveTrack track);
     /// Path of the file that frame `index` of `track` goes into, as "stem_00512.png", or "stem.mp4" for all frames.
     QString fileOf(const SaveTrack& track, int index) const;

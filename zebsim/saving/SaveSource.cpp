@@ -5,6 +5,7 @@
 #include "CameraError.h"
 #include "TextKey.h"
 
+#include <algorithm>
 #include <utility>
 
 SaveSource::SaveSource(std::shared_ptr<Camera> camera, const Recording& recording, QString name)
@@ -18,6 +19,17 @@ int SaveSource::bits() const {
 
 CameraFrame SaveSource::frame(int index) const {
     return CameraFrame::recorded(m_state, SensorNoise::of(*m_camera), m_recording, m_recording.selectedFirst + index);
+}
+
+CameraFrame SaveSource::frameFromTrigger(int index) const {
+    CameraFrame frame = this->frame(index);
+    frame.time = metadata(index).first.time.value_or(0);
+    return frame;
+}
+
+TimedRange SaveSource::range() const {
+    return {std::max(1U, m_recording.rate), qint64(m_recording.selectedFirst) - m_recording.trigger,
+            qint64(m_recording.selectedLast) - m_recording.trigger};
 }
 
 void SaveSource::read(const CameraBank& cameras, int index) const {

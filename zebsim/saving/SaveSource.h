@@ -4,6 +4,7 @@
 #include "CameraState.h"
 #include "FrameMetadata.h"
 #include "Recording.h"
+#include "TimeSteps.h"
 
 #include <memory>
 #include <vector>
@@ -30,6 +31,10 @@ public:
     int frames() const { return static_cast<int>(m_recording.selectedCount()); }
     /// What the range's frame number `index`, from 0 on, shows.
     CameraFrame frame(int index) const;
+    /// The same with its time from the trigger, wherever the zero point is.
+    CameraFrame frameFromTrigger(int index) const;
+    /// The range on the time of the trigger.
+    TimedRange range() const;
     FrameMetadata metadata(int index) const { return FrameMetadata::recorded(m_recording, frame(index)); }
     /// Has the camera hand that frame over. Throws `CameraError` when it is not there any more, does not answer, or has
     /// lost the recording.

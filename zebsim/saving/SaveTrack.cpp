@@ -3,53 +3,43 @@
 #include "FramePicture.h"
 #include "SaveFormat.h"
 
-#include <QPainter>
-
 #include <algorithm>
-#include <cmath>
 
-namespace {
-
-constexpr QSize LargestTile{480, 360};
-constexpr int LargestWidth = 3840;
-constexpr QColor Ground(24, 26, 30);
-
-int columnsOf(std::size_t count) {
-    return int(std::ceil(std::sqrt(double(count))));
+void SaveTrack::thin(const FrameSkipRule& skip) {
+    if (!isLayout) {
+        step = skip.stepAt(sources.front().recording().rate);
+        return;
+    }
+    std::vector<TimedRange> ranges;
+    std::transform(sources.begin(), sources.end(), std::back_inserter(ranges),
+                   [](const SaveSource& source) { return source.range(); });
+    moments = TimeSteps(ranges, skip);
 }
-
-QSize tileOf(std::size_t count) {
-    return fitInto({std::min(LargestTile.width(), LargestWidth / columnsOf(count)), LargestTile.height()}, LargestTile);
-}
-
-}  // namespace
 
 int SaveTrack::frames() const {
-    const auto longest = std::max_element(sources.begin(), sources.end(),
-                                          [](const auto& one, const auto& two) { return one.frames() < two.frames(); });
-    return (longest->frames() - 1) / step + 1;
+    return isLayout ? moments.count() : (sources.front().frames() - 1) / step + 1;
 }
 
 qint64 SaveTrack::number(int index) const {
-    return isLayout ? index : sources.front().frame(shown(index, 0)).number;
+    return isLayout ? index : sources.front().frame(index * step).number;
 }
 
 qint64 SaveTrack::indexOf(qint64 number) const {
     return isLayout ? number : (number - this->number(0)) / step;
 }
 
-int SaveTrack::shown(int index, int place) const {
-    return isLayout ? std::min(index, sources[std::size_t(place)].frames() - 1) : index * step;
+std::optional<int> SaveTrack::shown(int index, int place) const {
+    if (!isLayout) {
+        return index * step;
+    }
+    const TimedRange range = sources[std::size_t(place)].range();
+    const qint64 frame = moments.frameAt(index, range.rate);
+    const qint64 inRange = std::clamp(frame, range.first, range.last);
+    return layout.holdsEnds || frame == inRange ? std::optional(int(inRange - range.first)) : std::nullopt;
 }
 
 QSize SaveTrack::size() const {
-    if (!isLayout) {
-        return sources.front().resolution();
-    }
-    const int columns = columnsOf(sources.size());
-    const int rows = (int(sources.size()) + columns - 1) / columns;
-    const QSize tile = tileOf(sources.size());
-    return {tile.width() * columns, tile.height() * rows};
+    return isLayout ? layout.wholeSize(int(sources.size())) : sources.front().resolution();
 }
 
 int SaveTrack::bits() const {
@@ -60,45 +50,36 @@ int SaveTrack::bits() const {
 
 QImage SaveTrack::picture(int index, const QSet<int>& lost) const {
     if (!isLayout) {
-        return drawFrame(sources.front().frame(shown(index, 0)), sources.front().resolution());
+        return drawFrame(sources.front().frame(index * step), size());
     }
-    QImage picture(size(), QImage::Format_RGB32);
-    picture.fill(Ground);
-    QPainter painter(&picture);
-    const QSize tile = tileOf(sources.size());
-    const int columns = columnsOf(sources.size());
+    std::vector<std::optional<LayoutTile>> tiles(sources.size());
     for (int place = 0; place < int(sources.size()); ++place) {
-        const SaveSource& source = sources[std::size_t(place)];
-        if (lost.contains(place)) {
-            continue;
+        if (!lost.contains(place)) {
+            const SaveSource& source = sources[std::size_t(place)];
+            const std::optional<int> frame = shown(index, place);
+            tiles[std::size_t(place)] = {source.name(),
+                                         frame ? std::optional(source.frameFromTrigger(*frame)) : std::nullopt};
         }
-        const QSize fitting = fitInto(tile, source.resolution());
-        const QPoint corner(tile.width() * (place % columns), tile.height() * (place / columns));
-        const QPoint border((tile.width() - fitting.width()) / 2, (tile.height() - fitting.height()) / 2);
-        painter.drawImage(corner + border, drawFrame(source.frame(shown(index, place)), fitting));
     }
-    return picture;
+    return layoutPicture(layout, tiles);
 }
 
 FileMetadata SaveTrack::metadata(int index, const QSet<int>& lost) const {
-    if (!isLayout) {
-        return FileMetadata::of(sources.front().metadata(shown(index, 0)));
-    }
     QList<FrameMetadata> cameras;
     for (int place = 0; place < int(sources.size()); ++place) {
-        if (!lost.contains(place)) {
-            cameras.append(sources[std::size_t(place)].metadata(shown(index, place)));
+        const std::optional<int> frame = shown(index, place);
+        if (frame && !lost.contains(place)) {
+            cameras.append(sources[std::size_t(place)].metadata(*frame));
         }
     }
-    return FileMetadata::ofLayout(cameras);
+    return isLayout ? FileMetadata::ofLayout(cameras) : FileMetadata::of(cameras.first());
 }
 
 FileMetadata SaveTrack::metadataOfAll() const {
     QList<FrameMetadata> cameras;
-    for (int place = 0; place < int(sources.size()); ++place) {
-        const SaveSource& source = sources[std::size_t(place)];
-        FrameMetadata metadata = source.metadata(shown(0, place));
-        metadata.last = source.metadata(shown(frames() - 1, place)).first;
+    for (const SaveSource& source : sources) {
+        FrameMetadata metadata = source.metadata(0);
+        metadata.last = source.metadata(isLayout ? source.frames() - 1 : (frames() - 1) * step).first;
         cameras.append(metadata);
     }
     return isLayout ? FileMetadata::ofLayout(cameras) : FileMetadata::of(cameras.first());
@@ -113,7 +94,12 @@ std::vector<SaveTrack> tracksOfEach(const SaveSources& sources) {
 }
 
 std::vector<SaveTrack> tracksOfLayout(const SaveSources& sources, const QString& name) {
-    return sources.empty() ? std::vector<SaveTrack>() : std::vector<SaveTrack>{{name, true, sources}};
+    if (sources.empty()) {
+        return {};
+    }
+    SaveTrack track{name, true, sources};
+    track.thin({});
+    return {track};
 }
 
 int filesIn(const SaveTrack& track, const SaveFormat& format) {

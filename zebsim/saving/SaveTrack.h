@@ -1,7 +1,9 @@
 #pragma once
 
 #include "FileMetadata.h"
+#include "LayoutPicture.h"
 #include "SaveSource.h"
+#include "TimeSteps.h"
 
 #include <QImage>
 #include <QSet>
@@ -21,24 +23,28 @@ struct SaveTrack {
     int from = 0;
     /// Of a camera's range, one frame in so many has an index.
     int step = 1;
+    /// Of a layout: how it looks, and at which moments.
+    LayoutRule layout = {};
+    TimeSteps moments = {};
     /// Frames in the one file that stands there; a shorter one does not take its place.
     int least = 0;
 
     /// Whether no frame of the range is left out.
     bool isWhole() const { return !isLayout && step == 1; }
-    /// Of the longest range, those before `from` too.
+    /// Leaves frames out, as `skip` says.
+    void thin(const FrameSkipRule& skip);
+    /// All of them, those before `from` too.
     int frames() const;
     /// Number of a frame as an operator sees it. In a layout, where each camera has its own, they count from 0.
     qint64 number(int index) const;
     /// The other way round; any index for a number that none has.
     qint64 indexOf(qint64 number) const;
-    /// Which frame of the range of the source at `place` it shows.
-    int shown(int index, int place) const;
+    /// Which frame of the range of the source at `place` it shows; nothing when it shows none.
+    std::optional<int> shown(int index, int place) const;
     QSize size() const;
     /// Of a channel; those of the camera that fills most of them.
     int bits() const;
-    /// A camera whose range is over keeps its last frame; those at the places `lost` of
-    /// `sources` show nothing.
+    /// Those at the places `lost` of `sources` show nothing.
     QImage picture(int index, const QSet<int>& lost = {}) const;
     /// Of a file with that picture, and of one with all of them.
     FileMetadata metadata(int index, const QSet<int>& lost = {}) const;

@@ -71,16 +71,17 @@ QString TrackRun::folder() const {
 bool TrackRun::read(const CameraBank& cameras, int index) {
     std::vector<int> asked;
     for (int source = 0; source < int(m_track.sources.size()); ++source) {
+        const std::optional<int> frame = m_track.shown(index, source);
         // What it has handed over is shown on.
-        const bool isNew = index == m_track.from || m_track.shown(index, source) != m_track.shown(index - 1, source);
-        if (!m_lost.contains(source) && isNew) {
+        const bool isNew = index == m_track.from || frame != m_track.shown(index - 1, source);
+        if (!m_lost.contains(source) && frame && isNew) {
             asked.push_back(source);
         }
     }
     const auto failures = readSideBySide(m_track.sources.front().clock(), int(asked.size()), [&](int row) {
         const StopSource::Carried carried(m_stop);
         const int source = asked[std::size_t(row)];
-        m_track.sources[std::size_t(source)].read(cameras, m_track.shown(index, source));
+        m_track.sources[std::size_t(source)].read(cameras, *m_track.shown(index, source));
     });
     for (std::size_t row = 0; row < asked.size() && !m_stop.isStopped(); ++row) {
         if (failures[row]) {
@@ -101,7 +102,7 @@ void TrackRun::noteLost(int source, int index, const QString& reason) {
         outcome.name = lost.name();
         outcome.end = SaveOutcome::CameraLost;
         outcome.saved = index - m_track.from;
-        outcome.frames = lost.frames() - m_track.from;
+        outcome.frames = m_track.frames() - m_track.from;
         outcome.reason = reason;
         m_lostFromLayout.append(outcome);
     }
