@@ -89,8 +89,9 @@ module.exports = [
         languageOptions: {
             ecmaVersion: 2015,
             sourceType: 'script',
-            globals: Object.assign({}, browser, host, readonly(['app', 'items', 'CustomInfoDialog',
-                'cameraSettings', 'addnumberdialog', 'adddevice', 'adddeviceAutoCameraName']))
+            globals: Object.assign({}, browser, host, readonly(['app', 'items', 'setTimeout',
+                'CustomInfoDialog', 'cameraSettings', 'addnumberdialog', 'adddevice', 'adddeviceAutoCameraName',
+                'savefile']))
         },
         rules: pageRules
     },

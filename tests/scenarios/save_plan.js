@@ -84,7 +84,7 @@ zeb.keys().forEach(key => zeb.setCamera(key, {connected: true}));
 // A disk that fills up; what failed once more goes on where it stopped.
 zeb.fault('disk', 'write', {written: 12, throws: 'no space left'});
 zeb.messages();
-save({folder: within('full')});
+save({folder: within('full'), filenameadddetails: 'name,number', filenameaddnumber: true, filename: ''});
 const stopped = zeb.saved();
 check(stopped.some(line => /can't be written, \d frames not saved \(no space left\)/.test(line)), 'named: ' + stopped.join(' / '));
 same(zeb.files(within('full')).length, 12, 'whole files only');

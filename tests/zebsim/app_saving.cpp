@@ -4,12 +4,12 @@
 #include "CommandLine.h"
 #include "Files.h"
 #include "FramePicture.h"
+#include "GUI_SaveDialog.h"
 #include "HostPages.h"
 #include "ModalWatcher.h"
 #include "PageScript.h"
 #include "PlanDialog.h"
 #include "RigFile.h"
-#include "SaveDialog.h"
 #include "SaveJob.h"
 #include "SaveProgress.h"
 #include "SaveTexts.h"
@@ -20,16 +20,13 @@
 
 #include <QAction>
 #include <QClipboard>
-#include <QComboBox>
 #include <QDir>
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QLabel>
-#include <QLineEdit>
 #include <QMessageBox>
 #include <QProgressBar>
 #include <QPushButton>
-#include <QTableWidget>
 #include <QTemporaryDir>
 
 #include <gmock/gmock.h>
@@ -48,7 +45,9 @@ protected:
             host.cameras().find(key)->change(
                 {{"resolution", QVariantList{64, 64}}, {"selectedRange", QVariantList{9, 11}}});
         }
+        initHostPages();
         host.prefs().setValue("export/dir", folder.filePath("out"));
+        host.prefs().setValue("export/saveinf", false);
         host.prefs().setValue("layout/dir", folder.filePath("out"));
         host.prefs().setValue("snap/dir", folder.filePath("snap"));
     }
@@ -57,6 +56,15 @@ protected:
         return QDir(folder.filePath(name)).entryList(QDir::Files, QDir::Name);
     }
     QAction& action(const char* name) { return *simulator.window().findChild<QAction*>(name); }
+    /// What a script answers in the page that stands.
+    static QString inPage(const QString& script) {
+        return PageScript(script).run(ScenarioDialogs::pageOfStanding()).toString();
+    }
+    static QString rowInPage(int row) {
+        return inPage(
+            QString("Array.from(saveTargets.rows()[%1].children).slice(1, 4).map(cell => cell.textContent).join('|')")
+                .arg(row));
+    }
     QStringList results() {
         return SaveScripting::results([] { return false; });
     }
@@ -78,13 +86,10 @@ protected:
 TEST_F(AppSaving, WritesWhatTheDialogShows) {
     host.cameras().find(2)->change({{"name", "<b>%2</b>"}});
     ModalWatcher watcher;
-    QStringList row;
+    QString row;
     const auto once = QObject::connect(&watcher, &ModalWatcher::stands, [&](QDialog* dialog) {
-        const auto* table = dialog->findChild<QTableWidget*>("cameras");
-        for (int column = 0; table && column < 4; ++column) {
-            row << table->item(1, column)->text();
-        }
-        if (table) {
+        if (qobject_cast<GUI_SaveDialog*>(dialog) != nullptr) {
+            row = rowInPage(1);
             host.saveFiles();
         }
     });
@@ -102,7 +107,7 @@ TEST_F(AppSaving, WritesWhatTheDialogShows) {
         EXPECT_TRUE(simulator.log().since(0).contains(QString("\"%1\"").arg(text))) << "for later";
     }
     EXPECT_FALSE(host.saver().isSaving());
-    EXPECT_EQ(row, QStringList({"<b>%2</b>", "-1", "1", "3"}));
+    EXPECT_EQ(row.toStdString(), QString::fromUtf8("<b>%2</b>|-1 … 1|3").toStdString());
     EXPECT_EQ(filesIn("out").size(), 6);
     EXPECT_EQ(host.prefs().value("export/format"), "jpeg");
 }
@@ -124,18 +129,17 @@ TEST_F(AppSaving, ShowsThePlanAndGoesBackWithWhatWasTyped) {
             plan->reject();
             return;
         }
-        auto* save = qobject_cast<SaveDialog*>(dialog);
-        if (save == nullptr) {
+        if (qobject_cast<GUI_SaveDialog*>(dialog) == nullptr) {
             return;
         }
-        save->accept();
-        save->findChild<QTableWidget*>("cameras")->setCurrentCell(1, 0);
-        paths << save->findChild<QLineEdit*>("path")->text();
-        save->findChild<QTableWidget*>("cameras")->item(0, 0)->setCheckState(Qt::Unchecked);
-        save->findChild<QLineEdit*>("folder")->setText(folder.filePath("p.ini/below"));
-        save->accept();
-        paths << save->findChild<QLineEdit*>("folder")->text();
-        save->reject();
+        inPage("byId('save').click()");
+        inPage("saveTargets.pick(saveTargets.rows()[1])");
+        paths << inPage("saveNames.path()");
+        inPage("saveTargets.rows()[0].querySelector('input').click()");
+        inPage(QString("savePage.fill('dir', %1)").arg(scriptString(folder.filePath("p.ini/below"))));
+        inPage("byId('save').click()");
+        paths << inPage("byId('dir').value");
+        inPage("byId('cancel').click()");
     });
     host.saveFiles();
     const QString out = folder.filePath("out/");
@@ -146,7 +150,7 @@ TEST_F(AppSaving, ShowsThePlanAndGoesBackWithWhatWasTyped) {
                      "Camera 2: There can't be a folder " + folder.filePath("p.ini/below/") + ".", "not possible"})
             .join('|')
             .toStdString());
-    EXPECT_EQ(paths, QStringList({folder.filePath("out/Camera 2_C02H1_-00001.png"), folder.filePath("p.ini/below")}));
+    EXPECT_EQ(paths, QStringList({folder.filePath("out/Camera 2_C02H1_#####.png"), folder.filePath("p.ini/below")}));
     EXPECT_EQ(host.prefs().value("export/dir"), folder.filePath("out")) << "nobody has agreed";
     EXPECT_EQ(contentOf(old), "old");
     host.setRig(standardRig(1));
@@ -168,16 +172,15 @@ TEST_F(AppSaving, ShowsWhereTheFirstFileWouldGo) {
         QString numbers;
         QString path;
     } cases[] = {
-        {"as at first", {}, "", out + "Camera 1_C01H1S001_-00001.png"},
-        {"with numbers that are chosen", {}, digits("4 ok"), out + "Camera 1_C0001H1S001_-00001.png"},
-        {"and not with those that are not", {}, digits("6 cancel"), out + "Camera 1_C0001H1S001_-00001.png"},
+        {"as at first", {}, "", out + "Camera 1_C01H1S001_#####.png"},
+        {"with numbers that are chosen", {}, digits("4 ok"), out + "Camera 1_C0001H1S001_#####.png"},
+        {"and not with those that are not", {}, digits("6 cancel"), out + "Camera 1_C01H1S001_#####.png"},
         {"in the one group folder",
          {{"export/groupdir", true}, {"save/fixedgroupdir", "all"}},
          "",
-         out + "all/Camera 1_C0001H1S001_-00001.png"},
-        {"in the folder for all", {{"save/substitutefolder", "/else"}}, "", "/else/Camera 1_C0001H1S001_-00001.png"},
+         out + "all/Camera 1_C01H1S001_#####.png"},
+        {"in the folder for all", {{"save/substitutefolder", "/else"}}, "", "/else/Camera 1_C01H1S001_#####.png"},
     };
-    initHostPages();
     ModalWatcher watcher;
     for (const auto& one : cases) {
         for (auto pref = one.prefs.begin(); pref != one.prefs.end(); ++pref) {
@@ -185,15 +188,15 @@ TEST_F(AppSaving, ShowsWhereTheFirstFileWouldGo) {
         }
         QString path;
         const auto once = QObject::connect(&watcher, &ModalWatcher::stands, [&](QDialog* dialog) {
-            if (qobject_cast<SaveDialog*>(dialog) == nullptr) {
-                PageScript(one.numbers).run(ScenarioDialogs::pageOfStanding());
+            if (qobject_cast<GUI_SaveDialog*>(dialog) == nullptr) {
+                inPage(one.numbers);
                 return;
             }
             if (!one.numbers.isEmpty()) {
-                dialog->findChild<QPushButton*>("numbers")->click();
+                inPage("byId('numbers').click()");
             }
-            path = dialog->findChild<QLineEdit*>("path")->text();
-            dialog->reject();
+            path = inPage("saveNames.path()");
+            inPage("byId('cancel').click()");
         });
         host.saveFiles();
         QObject::disconnect(once);
@@ -211,9 +214,8 @@ TEST_F(AppSaving, TellsOfCamerasThatAreNotThere) {
     ModalWatcher watcher;
     QStringList first;
     QObject::connect(&watcher, &ModalWatcher::stands, [&](QDialog* dialog) {
-        const auto* table = dialog->findChild<QTableWidget*>("cameras");
-        if (table) {
-            first << table->item(0, 0)->text();
+        if (qobject_cast<GUI_SaveDialog*>(dialog) != nullptr) {
+            first << inPage("saveTargets.rows()[0].textContent");
         }
     });
     dialogs.saves().order({});
@@ -291,7 +293,7 @@ TEST_F(AppSaving, EndsWithTheApplication) {
     ModalWatcher watcher;
     QObject::connect(&watcher, &ModalWatcher::stands, [&](QDialog* dialog) {
         if (qobject_cast<PlanDialog*>(dialog) == nullptr) {
-            dialog->accept();
+            inPage("byId('save').click()");
             return;
         }
         EXPECT_FALSE(dialog->findChild<QPushButton*>("save")->isDefault());

@@ -1,6 +1,5 @@
 #include "FreshKeys.h"
 
-#include <QDialog>
 #include <QKeyEvent>
 #include <QPushButton>
 
@@ -16,7 +15,8 @@ public:
     using QObject::QObject;
 
     bool eventFilter(QObject* object, QEvent* event) override {
-        if (event->type() == QEvent::KeyPress && isHeld(*static_cast<QKeyEvent*>(event))) {
+        if (event->type() == QEvent::KeyPress && presses(*static_cast<QKeyEvent*>(event)) &&
+            isHeld(*static_cast<QKeyEvent*>(event))) {
             return true;
         }
         if (event->type() == QEvent::KeyRelease) {
@@ -27,6 +27,10 @@ public:
     }
 
 private:
+    static bool presses(const QKeyEvent& key) {
+        return key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter || key.key() == Qt::Key_Space ||
+               key.key() == Qt::Key_Escape;
+    }
     /// Where windows are slow a repeat comes as a release and a press of one moment.
     bool isHeld(const QKeyEvent& key) const {
         return key.isAutoRepeat() || (key.key() == m_released.first && key.timestamp() != 0 &&
@@ -38,10 +42,10 @@ private:
 
 }  // namespace
 
-void takeFreshKeysOnly(QDialog& dialog) {
-    auto* filter = new FreshKeys(&dialog);
-    dialog.installEventFilter(filter);
-    const auto buttons = dialog.findChildren<QPushButton*>();
+void takeFreshKeysOnly(QWidget& window) {
+    auto* filter = new FreshKeys(&window);
+    window.installEventFilter(filter);
+    const auto buttons = window.findChildren<QPushButton*>();
     for (QPushButton* button : buttons) {
         button->installEventFilter(filter);
     }

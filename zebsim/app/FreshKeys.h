@@ -1,6 +1,6 @@
 #pragma once
 
-class QDialog;
+class QWidget;
 
-/// A key that is held since the dialog before presses no button of `dialog`: only one pressed anew does.
-void takeFreshKeysOnly(QDialog& dialog);
+/// A key that is held since the dialog before, as Enter, presses no button of `window`: only one pressed anew does.
+void takeFreshKeysOnly(QWidget& window);

@@ -2,16 +2,18 @@
 
 #include "Camera.h"
 #include "DialogRun.h"
+#include "GUI_SaveDialog.h"
+#include "JS_Mediator_SaveDialog.h"
 #include "PartitionName.h"
 #include "PlanDialog.h"
 #include "PluginSignal.h"
-#include "SaveDialog.h"
 #include "SaveJob.h"
 #include "SaveProgress.h"
 #include "SaveTexts.h"
 #include "SimHost.h"
 #include "Style.h"
 #include "TargetDisk.h"
+#include "TextKey.h"
 #include "UiText.h"
 
 #include <QFileInfo>
@@ -42,7 +44,10 @@ void SaveDesk::save(bool layout) {
     }
     std::optional<SavePlan> plan;
     std::unique_ptr<NamePromises::Save> names;
-    auto* dialog = new SaveDialog(m_host, tracks, absent, m_host.getMainWindow());
+    const QString name = layout ? QStringLiteral("layoutsavedialog") : QStringLiteral("savedialog");
+    const QString title = layout ? TextKey("Save layout") : TextKey("Save");
+    auto* dialog = new GUI_SaveDialog(m_host, title, new JS_Mediator_SaveDialog(m_host, name, tracks, absent),
+                                      m_host.getMainWindow());
     QObject::connect(dialog, &QDialog::accepted, dialog, [&plan, &names, dialog] {
         plan = dialog->plan();
         names = dialog->takeNames();

@@ -11,33 +11,9 @@
 #include "UTL_Exception.h"
 #include "UiText.h"
 
-#include <QDir>
-
 #include <stdexcept>
 
 namespace {
-
-class TypedSource : public HostNameSource {
-public:
-    TypedSource(SimHost& host, const TypedPrefs& typed, bool isPreview)
-        : HostNameSource(host), m_host(host), m_typed(typed), m_isPreview(isPreview) {}
-
-    QVariant pref(const QString& key) const override {
-        const auto typed = m_typed.find(key);
-        return typed == m_typed.end() ? m_host.prefs().value(key) : *typed;
-    }
-    /// Once a save, and not at each key that is typed.
-    void noteTaken(const QString& what) const override {
-        if (!m_isPreview) {
-            HostNameSource::noteTaken(what);
-        }
-    }
-
-private:
-    const SimHost& m_host;
-    const TypedPrefs& m_typed;
-    const bool m_isPreview;
-};
 
 /// A document of which one partition is saved.
 class OnePartition : public HostNamedDocument {
@@ -60,8 +36,8 @@ private:
 /// Composes the names of one recording after those of another.
 class Composer {
 public:
-    Composer(SimHost& host, zeb::FileType type, const TypedPrefs& typed, bool isPreview, QDateTime time)
-        : m_host(host), m_source(host, typed, isPreview), m_type(type), m_time(std::move(time)) {}
+    Composer(SimHost& host, zeb::FileType type, QDateTime time)
+        : m_host(host), m_source(host), m_type(type), m_time(std::move(time)) {}
 
     /// Of one partition of a camera. Throws.
     TrackTarget targetOf(DOCKEY key, PARTITIONNUMBER partition) {
@@ -88,16 +64,15 @@ public:
 
 private:
     SimHost& m_host;
-    TypedSource m_source;
+    HostNameSource m_source;
     const zeb::FileType m_type;
     const QDateTime m_time;
 };
 
 /// Without tracks.
-SaveOrders ordersOf(SimHost& host, zeb::FileType type, const TypedPrefs& typed) {
-    const QString family = nameFamily(type);
-    const auto pref = [&](const QString& key) { return typed.value(key, host.prefs().value(key)); };
-    SaveOrders orders = chosenOrders(pref, family);
+SaveOrders ordersOf(SimHost& host, zeb::FileType type) {
+    const auto pref = [&host](const QString& key) { return host.prefs().value(key); };
+    SaveOrders orders = chosenOrders(pref, nameFamily(type));
     orders.encoder = VideoEncoder::installed();
     orders.diskFault = [&host] { return host.faults().suffer(FaultPlan::Disk, "write", host.clock()); };
     return orders;
@@ -110,11 +85,11 @@ zeb::FileType fileType(const SaveTrack& track) {
 }
 
 SavePlan composePlan(SimHost& host, const std::vector<SaveTrack>& tracks, const QStringList& absent,
-                     const TypedPrefs& typed, const QDateTime& time) {
+                     const QDateTime& time) {
     const HostCalls::Own own;
-    SaveOrders orders = ordersOf(host, fileType(tracks.front()), typed);
+    SaveOrders orders = ordersOf(host, fileType(tracks.front()));
     orders.absent = absent;
-    Composer composer(host, fileType(tracks.front()), typed, false, time);
+    Composer composer(host, fileType(tracks.front()), time);
     std::vector<TrackTarget> targets;
     QList<PlanEntry> known;
     for (const SaveTrack& track : tracks) {
@@ -132,31 +107,12 @@ SavePlan composePlan(SimHost& host, const std::vector<SaveTrack>& tracks, const 
     return planOf(std::move(orders), targets, disk, known);
 }
 
-QStringList composedPaths(SimHost& host, const std::vector<SaveTrack>& tracks, const TypedPrefs& typed,
-                          const QDateTime& time) {
-    const HostCalls::Own own;
-    const NamePromises::Save alone(host.saver().promises());
-    const SaveOrders orders = ordersOf(host, fileType(tracks.front()), typed);
-    Composer composer(host, fileType(tracks.front()), typed, true, time);
-    QStringList paths;
-    for (SaveTrack track : tracks) {
-        try {
-            track.stem = composer.targetOf(track).stem();
-            paths.append(QDir::toNativeSeparators(orders.fileOf(track, track.from)));
-        } catch (const std::exception& e) {
-            paths.append(uiText(QString::fromUtf8(e.what())));
-        }
-    }
-    return paths;
-}
-
 QString snapShotStem(SimHost& host, DOCKEY key, const QDateTime& time) {
     const HostCalls::Own own;
     const NamePromises::Save alone(host.saver().promises());
     const Camera* camera = host.cameras().find(key);
     const PARTITIONNUMBER partition = camera ? camera->get(&CameraState::partition) : 1;
-    const TypedPrefs none;
-    const TrackTarget target = Composer(host, zeb::SnapShotFile, none, false, time).targetOf(key, partition);
+    const TrackTarget target = Composer(host, zeb::SnapShotFile, time).targetOf(key, partition);
     const QList<PlanEntry> faults = faultsOf(target, camera ? camera->name() : QString());
     if (!faults.isEmpty()) {
         throw std::runtime_error(entryText(faults.first()).toStdString());

@@ -1,43 +1,24 @@
 #include "SnapShots.h"
 
 #include "Camera.h"
-#include "DialogButtons.h"
-#include "DialogRun.h"
 #include "FileError.h"
 #include "FileWriter.h"
 #include "FramePicture.h"
+#include "GUI_SaveDialog.h"
 #include "SaveOrders.h"
 #include "SaveTargets.h"
 #include "SimHost.h"
-#include "TargetFields.h"
 #include "TextKey.h"
+#include "UiText.h"
 
 #include <QClipboard>
-#include <QDialog>
-#include <QDialogButtonBox>
 #include <QDir>
 #include <QFileInfo>
 #include <QGuiApplication>
-#include <QPushButton>
-#include <QVBoxLayout>
 
 namespace {
 
 enum Mode { ToFile = 1, ToClipboard = 2, ToBoth = 3, Settings = 4 };
-
-void openSettings(SimHost& host) {
-    auto* dialog = new QDialog(host.getMainWindow());
-    dialog->setWindowTitle(uiText("Snapshots"));
-    auto* target = new TargetFields(host.prefs(), nameFamily(zeb::SnapShotFile), false, dialog);
-    auto* layout = new QVBoxLayout(dialog);
-    layout->addWidget(target);
-    QDialogButtonBox* buttons = addOkCancel(*dialog);
-    layout->addWidget(buttons);
-    QObject::connect(target, &TargetFields::changed, buttons,
-                     [=] { buttons->buttons().first()->setEnabled(target->isComplete()); });
-    QObject::connect(dialog, &QDialog::accepted, target, &TargetFields::store);
-    runDialog(host, dialog);
-}
 
 FileMetadata metadataOf(const SimHost& host, const Camera& camera, const CameraFrame& frame) {
     const auto recording = host.isMemoryMode() ? camera.recording() : std::nullopt;
@@ -87,7 +68,7 @@ void tryToWrite(SimHost& host, const CameraFrame& frame, const QImage& image) {
 
 void takeSnapShot(SimHost& host, const std::optional<CameraFrame>& frame, int mode) {
     if (mode == Settings) {
-        openSettings(host);
+        runSnapShotSettings(host);
         return;
     }
     if (!frame) {

@@ -17,6 +17,10 @@ public:
     /// "light" or "dark".
     QString style() const;
     Q_INVOKABLE QString translate(const QString& text) const;
+    /// Why files of a format, as "mp4", can't be written here, and why a video of that kind can't have a codec, as
+    /// "H264", at so many frames a second: texts for the user, empty when it can. The first question may take a moment.
+    Q_INVOKABLE QString formatFault(const QString& format) const;
+    Q_INVOKABLE QString videoFault(const QString& kind, const QString& codec, double rate, bool isLossless) const;
 
 private:
     const Preferences& m_prefs;

@@ -4,6 +4,9 @@
 #include "SupportFile.h"
 
 #include <QCoreApplication>
+#include <QWebFrame>
+#include <QWebPage>
+#include <QWebView>
 #include <QtDebug>
 
 SimHost::SimHost(Clock& clock, MessageDesk& desk, const QString& prefsPath)
@@ -68,6 +71,14 @@ void SimHost::setRig(const Rig& rig) {
     m_signalDevices.replace(rig.hubs);
     Q_EMIT m_events.camerasReplaced();
     m_updates.request();
+}
+
+void SimHost::attachBridge(QWebView* view, ZebPageBridge* bridge) {
+    QWebFrame* frame = view->page()->mainFrame();
+    QObject::connect(frame, &QWebFrame::javaScriptWindowObjectCleared, &m_appObject,
+                     [this, frame] { frame->addToJavaScriptWindowObject(QStringLiteral("app"), &m_appObject); });
+    m_hostPrefs.tried().beginFor(view, *bridge);
+    m_hostUpdates.attachBridge(view, bridge);
 }
 
 void SimHost::prepareSupportFile(ZebSupportFile& file) {

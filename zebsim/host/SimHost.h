@@ -221,10 +221,8 @@ public:
 
     QWidget* getMainWindow() const override { return m_mainWindow; }
     QWidget* getMdiWidget() const override { return m_mdiWidget; }
-    void attachBridge(QWebView* view, ZebPageBridge* bridge) override {
-        m_hostPrefs.tried().beginFor(view, *bridge);
-        m_hostUpdates.attachBridge(view, bridge);
-    }
+    /// The page sees `app` too.
+    void attachBridge(QWebView* view, ZebPageBridge* bridge) override;
 
     void updateUI(unsigned int mask, bool refresh) override { m_hostUpdates.updateUI(mask, refresh); }
     void deterUpdateUI(bool deter) override { m_hostUpdates.deterUpdateUI(deter); }

@@ -1264,14 +1264,6 @@
         <translation>参照...</translation>
     </message>
     <message>
-        <source>First frame</source>
-        <translation>開始フレーム</translation>
-    </message>
-    <message>
-        <source>Last frame</source>
-        <translation>終了フレーム</translation>
-    </message>
-    <message>
         <source>Frames</source>
         <translation>フレーム数</translation>
     </message>
@@ -2452,10 +2444,6 @@
         <translation>0: 正方形に近くなる列数</translation>
     </message>
     <message>
-        <source>A name can&apos;t hold \ / : * ? &quot; &lt; &gt; | %.</source>
-        <translation>名前に \ / : * ? &quot; &lt; &gt; | % は使えません。</translation>
-    </message>
-    <message>
         <source>A number from %1 to %2 is needed.</source>
         <translation>%1 から %2 までの数値を入力してください。</translation>
     </message>
@@ -2736,10 +2724,6 @@
         <translation>最初か最後のフレーム</translation>
     </message>
     <message>
-        <source>nothing</source>
-        <translation>何も表示しない</translation>
-    </message>
-    <message>
         <source>with what the camera adds</source>
         <translation>カメラが付け加えるものを含める</translation>
     </message>
@@ -2812,12 +2796,24 @@
         <translation>インストールされている ffmpeg では、%2 の %1 ファイルを作成できません。</translation>
     </message>
     <message>
-        <source>Video (MP4)</source>
-        <translation>動画 (MP4)</translation>
+        <source>Time code...</source>
+        <translation>タイムコード...</translation>
     </message>
     <message>
-        <source>The installed ffmpeg has no encoder for MP4.</source>
-        <translation>インストールされている ffmpeg には MP4 のエンコーダーがありません。</translation>
+        <source>TAL2 is not installed.</source>
+        <translation>TAL2 がインストールされていません。</translation>
+    </message>
+    <message>
+        <source>Not while recordings are downloaded by themselves.</source>
+        <translation>自動ダウンロード中は使えません。</translation>
+    </message>
+    <message>
+        <source>no image</source>
+        <translation>画像なし</translation>
+    </message>
+    <message>
+        <source>Not in names: \ / : * ? &quot; &lt; &gt; | %</source>
+        <translation>名前に使えない文字: \ / : * ? &quot; &lt; &gt; | %</translation>
     </message>
 </context>
 </TS>

@@ -1,18 +1,23 @@
 #include "SaveScripting.h"
 
 #include "EventWait.h"
+#include "GUI_SaveDialog.h"
+#include "GUI_WebView.h"
+#include "PageScript.h"
 #include "PlanDialog.h"
-#include "SaveDialog.h"
+#include "SaveOptions.h"
 #include "SaveProgress.h"
 #include "SaveTexts.h"
 #include "ScenarioError.h"
 
 #include <QApplication>
-#include <QComboBox>
 #include <QElapsedTimer>
-#include <QLineEdit>
+#include <QJsonArray>
+#include <QJsonDocument>
 #include <QPointer>
-#include <QRegularExpression>
+#include <QWebView>
+
+#include <algorithm>
 
 namespace {
 
@@ -32,22 +37,35 @@ SaveProgress* standingProgress() {
     return nullptr;
 }
 
-void choose(QComboBox& box, const QString& format) {
-    const int index = box.findData(format);
-    if (index < 0) {
-        throw ScenarioError(QStringLiteral("files have no format \"%1\"").arg(format));
-    }
-    if (!(box.model()->index(index, 0).flags() & Qt::ItemIsEnabled)) {
-        throw ScenarioError(QStringLiteral("the format \"%1\" can't be written here").arg(format));
-    }
-    box.setCurrentIndex(index);
+/// What is wrong with it; empty when the page has taken it.
+QString fill(QWebView& page, const QString& suffix, const QVariant& value) {
+    const QByteArray values = QJsonDocument(QJsonArray{QJsonValue::fromVariant(value)}).toJson(QJsonDocument::Compact);
+    const QString script = QStringLiteral("savePage.fill(%1, %2[0])");
+    return PageScript(script.arg(scriptString(suffix), QString::fromUtf8(values))).run(page).toString();
 }
 
-/// Suffixes of preferences that names and formats go by.
-bool isOption(const QString& member) {
-    static const QRegularExpression options(
-        QStringLiteral("^(filename|groupdir|subdir)[a-z]*$|^(png|tiff|jpeg)/[a-z]+$|^(singlepath|multipath[a-z]+)$"));
-    return options.match(member).hasMatch();
+bool isOption(const QString& suffix) {
+    const QList<SaveOption>& options = saveOptions();
+    return std::any_of(options.begin(), options.end(),
+                       [&](const SaveOption& option) { return option.suffix == suffix; });
+}
+
+void fill(QWebView& page, const QVariantMap& target) {
+    for (auto member = target.begin(); member != target.end(); ++member) {
+        const QString suffix = member.key() == Folder ? QStringLiteral("dir") : member.key();
+        if (!isOption(suffix)) {
+            throw ScenarioError(QStringLiteral("a save has no option %1").arg(suffix));
+        }
+        const QVariant value = suffix == Format ? QVariant(saveFormat(member->toString()).id) : *member;
+        const QString fault = fill(page, suffix, value);
+        if (!fault.isEmpty()) {
+            throw ScenarioError(QStringLiteral("%1: %2").arg(suffix, fault));
+        }
+    }
+    const QString fault = PageScript(QStringLiteral("byId('fault').textContent")).run(page).toString();
+    if (!fault.isEmpty()) {
+        throw ScenarioError(QStringLiteral("the page does not save: %1").arg(fault));
+    }
 }
 
 QVariantMap plainPlan(const SavePlan& plan) {
@@ -80,12 +98,12 @@ QVariantMap plainPlan(const SavePlan& plan) {
 }  // namespace
 
 bool SaveScripting::isFor(const QDialog& dialog) const {
-    return (isOrderLeft() && qobject_cast<const SaveDialog*>(&dialog) != nullptr) ||
+    return (isOrderLeft() && qobject_cast<const GUI_SaveDialog*>(&dialog) != nullptr) ||
            (m_isPlanExpected && qobject_cast<const PlanDialog*>(&dialog) != nullptr);
 }
 
 void SaveScripting::serve(QDialog& dialog) {
-    auto* save = qobject_cast<SaveDialog*>(&dialog);
+    auto* save = qobject_cast<GUI_SaveDialog*>(&dialog);
     if (save != nullptr) {
         serveDialog(*save, m_orders.takeFirst());
         return;
@@ -97,28 +115,18 @@ void SaveScripting::serve(QDialog& dialog) {
     }
 }
 
-void SaveScripting::serveDialog(SaveDialog& dialog, QVariantMap target) {
+void SaveScripting::serveDialog(GUI_SaveDialog& dialog, QVariantMap target) {
     m_agrees = target.value(Agree, true).toBool();
     target.remove(Agree);
     try {
-        for (auto member = target.begin(); member != target.end(); ++member) {
-            if (member.key() == Folder) {
-                dialog.findChild<QLineEdit*>(Folder)->setText(member->toString());
-            } else if (member.key() == Format) {
-                choose(*dialog.findChild<QComboBox*>(Format), saveFormat(member->toString()).id);
-            } else if (!isOption(member.key())) {
-                throw ScenarioError(QStringLiteral("a save has no option %1").arg(member.key()));
-            } else {
-                dialog.setOption(member.key(), *member);
-            }
-        }
+        fill(*dialog.getWebView(), target);
     } catch (const ScenarioError&) {
         dialog.reject();
         throw;
     }
     m_isPlanExpected = true;
-    const QPointer<SaveDialog> alive(&dialog);
-    dialog.accept();
+    const QPointer<GUI_SaveDialog> alive(&dialog);
+    PageScript(QStringLiteral("byId('save').click()")).run(*dialog.getWebView());
     m_isPlanExpected = false;
     if (alive && alive->isVisible()) {
         alive->reject();

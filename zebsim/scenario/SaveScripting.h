@@ -7,14 +7,14 @@
 #include <functional>
 
 class QDialog;
-class SaveDialog;
+class GUI_SaveDialog;
 
 /// How a scenario saves: what it orders for the save dialogs to come, and the list of results. GUI thread.
 class SaveScripting {
 public:
     /// `folder` and `format`, for the next save dialog that stands; what is left out stays as the dialog has it. With
-    /// `agree` false its plan is gone back from, and the dialog left. Any other member is a preference of the family
-    /// that the dialog saves by, without its prefix.
+    /// `agree` false its plan is gone back from, and the dialog left. Any other member is an option of the family that
+    /// the dialog saves by, without its prefix.
     void order(const QVariantMap& target) { m_orders.append(target); }
     /// Whether an order waits for a dialog like this one.
     bool isFor(const QDialog& dialog) const;
@@ -31,7 +31,7 @@ public:
     static QStringList results(const std::function<bool()>& givenUp, bool close = true);
 
 private:
-    void serveDialog(SaveDialog& dialog, QVariantMap target);
+    void serveDialog(GUI_SaveDialog& dialog, QVariantMap target);
 
     QList<QVariantMap> m_orders;
     /// Of the plan that the last dialog served shows.

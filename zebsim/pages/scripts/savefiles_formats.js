@@ -1,0 +1,73 @@
+// Which formats there are, and what can be written here.
+
+const saveFormats = {
+    begin() {
+        const formats = {
+            // The frames of a layout make a video as well.
+            L: () => savefile.getLayoutFileFormats().concat(['AVI', 'MOV', 'MP4']),
+            S: () => savefile.getSnapFileFormats(),
+            C: () => savefile.getFileFormats(false),
+            E: () => savefile.getFileFormats(true)
+        }[saveFamily]();
+        formats.forEach(format => {
+            const option = document.createElement('option');
+            option.value = format.toLowerCase();
+            option.textContent = format;
+            option.disabled = this.missing(option.value) !== '';
+            byId('format').appendChild(option);
+        });
+        this.codecFields().forEach(field => savefile.getCodecFilters().forEach(codec => {
+            const option = document.createElement('option');
+            option.value = option.textContent = codec;
+            field.appendChild(option);
+        }));
+        saveOptions.read();
+        this.tellMissing();
+    },
+
+    codecFields() {
+        return Array.from(document.querySelectorAll('[data-codec]'));
+    },
+
+    // Why there can't be files of a format here.
+    missing(format) {
+        const isShot = saveFamily === 'S' && ['avi', 'mov', 'mp4'].indexOf(format) >= 0;
+        return isShot ? translate('A snapshot is one picture.') : app.formatFault(format);
+    },
+
+    // Formats with the same reason stand in one line.
+    tellMissing() {
+        const reasons = new Map();
+        Array.from(byId('format').options).filter(option => option.disabled).forEach(option => {
+            const reason = this.missing(option.value);
+            reasons.set(reason, (reasons.get(reason) || []).concat(option.textContent));
+        });
+        byId('missing').textContent = Array.from(reasons.keys())
+            .map(reason => `${reasons.get(reason).join(', ')}: ${reason}`).join('\n');
+    },
+
+    // At another rate a container takes other codecs.
+    update() {
+        this.codecFields().forEach(field => {
+            const kind = field.getAttribute('data-codec');
+            Array.from(field.options).forEach(option => {
+                option.disabled = this.videoFault(kind, option.value) !== '';
+            });
+            document.querySelector(`[data-video="${kind}"]`).textContent = this.videoFault(kind);
+        });
+    },
+
+    // Why a kind of video can't have a codec, that which is chosen when none is told.
+    videoFault(kind, codec) {
+        const rate = saveOptions.value(`${kind}/framerate`);
+        const chosen = codec || saveOptions.value(`${kind}/codec`);
+        const isLossless = kind === 'mp4' && chosen === 'H264' && saveOptions.value('mp4/lossless');
+        return rate === undefined ? '' : app.videoFault(kind, chosen, rate, isLossless);
+    },
+
+    fault() {
+        const format = saveOptions.value('format');
+        const missing = this.missing(format);
+        return missing || (['avi', 'mov', 'mp4'].indexOf(format) >= 0 ? this.videoFault(format) : '');
+    }
+};

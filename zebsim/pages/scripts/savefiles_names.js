@@ -1,0 +1,98 @@
+// What files are called: the parts that are typed, and the whole for the chosen camera.
+
+const DETAILS = ['name', 'number', 'text'];
+
+const saveNames = {
+    begin() {
+        this.fillDetails();
+        savePage.onClick('browse', () => this.browse());
+        savePage.onClick('custom', () => this.open(() => savefile.editCustom(false)));
+        Array.from(document.querySelectorAll('[data-digits]')).forEach(button => {
+            const slot = `numberSetting4${button.getAttribute('data-digits')}`;
+            button.addEventListener('click', () => savePage.guarded(() => this.open(() => savefile[slot]())));
+        });
+    },
+
+    // All orders of some of them.
+    fillDetails() {
+        const labels = {
+            name: translate('Name'), number: translate('Number'),
+            text: translate('Own text')
+        };
+        const orders = rest => [[]].concat(...rest.map(one =>
+            orders(rest.filter(other => other !== one)).map(order => [one].concat(order))));
+        orders(DETAILS).filter(order => order.length > 0).forEach(order => {
+            const option = document.createElement('option');
+            option.value = order.join(',');
+            option.textContent = order.map(detail => labels[detail]).join(', ');
+            byId('details').appendChild(option);
+        });
+    },
+
+    // The camera whose custom information can stand in the names of all.
+    fillCameras(records) {
+        const list = byId('custom_camera');
+        const cameras = new Map(records.filter(record => !record.gone).map(record => [record.dockey, record.label]));
+        const text = JSON.stringify(Array.from(cameras));
+        if (list.getAttribute('data-cameras') === text) {
+            return;
+        }
+        list.setAttribute('data-cameras', text);
+        list.textContent = '';
+        cameras.forEach((label, key) => {
+            const option = document.createElement('option');
+            option.value = key;
+            option.textContent = label;
+            list.appendChild(option);
+        });
+        list.value = saveOptions.stored('filenameusecustomfromtargetkey', 'int');
+    },
+
+    open(dialog) {
+        dialog();
+        savePage.update();
+    },
+
+    browse() {
+        const folder = savefile.selectFolder(saveOptions.stored('dir', 'string'));
+        if (folder !== '') {
+            saveOptions.fill('dir', folder);
+        }
+    },
+
+    show() {
+        ['GroupDir', 'SubDir', 'FileName'].forEach(name => {
+            Array.from(document.querySelectorAll(`[data-number="${name}"]`)).forEach(element => {
+                element.textContent = savefile[`addNumber4${name}`]();
+            });
+        });
+        Array.from(document.querySelectorAll('[data-time]')).forEach(element => {
+            const format = saveOptions.value(element.getAttribute('data-time'));
+            element.textContent = format === '' ? '' : savefile.addDateTime(format);
+        });
+        byId('free').textContent = savefile.getFreeSpace(saveOptions.stored('dir', 'string'));
+        byId('path').textContent = this.path();
+    },
+
+    // Of the first file of the chosen camera; the number of its frame is left open.
+    path() {
+        const target = saveTargets.chosen();
+        if (saveTargets.isThere && !target) {
+            return '';
+        }
+        const group = target ? saveBridge.getExportGroupDir(target.dockey, target.partitionno) :
+            saveBridge.getExportGroupDir();
+        const folders = [saveBridge.getExportPath(), group, saveBridge.getExportSubDir()].filter(part => part !== '');
+        const folder = saveBridge.getPrefString('save/substitutefolder') || folders.join('/');
+        return `${folder.replace(/\/$/, '')}/${saveBridge.getExportFile()}${this.ending()}`.replace(/\/\/+/g, '/');
+    },
+
+    ending() {
+        const format = saveOptions.value('format');
+        const suffix = { jpeg: 'jpg', tiff: 'tif' }[format] || format;
+        const isOneFile = ['avi', 'mov', 'mp4'].indexOf(format) >= 0 || saveFamily === 'S' ||
+            (format === 'tiff' && saveOptions.value('tiff/multipage') === true);
+        const digits = saveOptions.value('filenameseqdigits') || 1;
+        return (isOneFile ? '' : `_${'#'.repeat(digits)}`) + `.${suffix}`;
+    }
+};
