@@ -8,7 +8,7 @@
 namespace {
 
 constexpr int ByTime = 1;
-constexpr double SpansInMillisecond = 10'000;
+constexpr double SpansInMillisecond = 10000;
 constexpr double LongestMs = 24 * 3600 * 1000.0;
 
 }  // namespace
