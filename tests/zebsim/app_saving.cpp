@@ -250,7 +250,7 @@ TEST_F(AppSaving, TellsWhichFramesAreNotOfTheLastRecording) {
     const QString earlier = "Camera 1 (earlier recording)";
     dialogs.saves().order({});
     host.saveLayoutFiles();
-    EXPECT_EQ(results(), QStringList("Layout with " + earlier + ", Camera 2 (earlier recording): 3 frames saved in " +
+    EXPECT_EQ(results(), QStringList("Layout with " + earlier + ", Camera 2 (earlier recording): 4 frames saved in " +
                                      QDir::toNativeSeparators(folder.filePath("out"))));
     const QImage picture(folder.filePath("out/Layout_S001_00000.png"));
     const QImage tile = picture.copy(60, 0, 360, 360).convertToFormat(QImage::Format_RGB32);

@@ -33,8 +33,7 @@ const saveTargets = {
         this.records = JSON.parse(reply);
         if (!this.chosen()) {
             const first = this.records.filter(record => record.dockey !== undefined)[0];
-            this.chosenName = first ? this.nameOf(first) : '';
-            this.showPreviewSoon();
+            this.choose(first ? this.nameOf(first) : '');
         }
         this.draw();
         this.tellTicked();
@@ -177,11 +176,19 @@ const saveTargets = {
     pick(row) {
         const name = row && row.getAttribute('data-name');
         if (name && name !== this.chosenName) {
-            this.chosenName = name;
+            this.choose(name);
             this.mark();
-            this.showPreviewSoon();
             savePage.show();
         }
+    },
+
+    // Names are those of the chosen recording from now on; its picture comes later.
+    choose(name) {
+        this.chosenName = name;
+        const [key, partition] = name.split('/').map(Number);
+        saveBridge.setSelectDocKey(key);
+        saveBridge.setSelectPartitionNo(partition || 0);
+        this.showPreviewSoon();
     },
 
     // Arrows choose, Space ticks.
