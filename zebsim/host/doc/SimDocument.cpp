@@ -35,9 +35,6 @@ bool SimDocument::isMemoryData() const {
 }
 
 QList<PARTITIONNUMBER> SimDocument::getPartitionList() const {
-    if (m_host.appStatus.mode() == zeb::LiveMode) {
-        return {m_camera.get(&CameraState::partition)};
-    }
     QList<PARTITIONNUMBER> partitions;
     for (const Recording& recording : m_camera.recordings()) {
         partitions.append(recording.partition);

@@ -48,7 +48,6 @@ public:
     QString getSourceFilePath() const override { return {}; }
     QString getOriginalName() const override { return m_camera.name(); }
     bool isMemoryData() const override;
-    /// In live mode the one in use, whatever it holds.
     QList<PARTITIONNUMBER> getPartitionList() const override;
     /// "Partition 2", in the user's language, for one without a name.
     QString getPartitionName(PARTITIONNUMBER partition) const override;
