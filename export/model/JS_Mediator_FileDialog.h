@@ -148,5 +148,4 @@ private:
     DOCKEY m_selectDocKey = 0;
     PARTITIONNUMBER m_selectPartitionNo = 0;
     DOCKEY m_groupDocKey = 0;
-    PARTITIONNUMBER m_groupPartitionNo = 0;
 };

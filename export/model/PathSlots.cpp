@@ -22,7 +22,6 @@ QString JS_Mediator_FileDialog::groupDirOf(DOCKEY key, PARTITIONNUMBER partition
 QString JS_Mediator_FileDialog::getExportGroupDir(DOCKEY docKey, PARTITIONNUMBER partitionNo) {
     return call(*this, TracedQuery, __func__, {{"docKey", docKey}, {"partitionNo", partitionNo}}, [&] {
         m_groupDocKey = docKey;
-        m_groupPartitionNo = partitionNo;
         return groupDirOf(docKey, partitionNo);
     });
 }
