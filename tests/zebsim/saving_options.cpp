@@ -149,4 +149,64 @@ TEST_F(SavingTest, LeavesOutFramesAsEachRateWantsIt) {
     }
 }
 
+TEST_F(SavingTest, DrawsWhatThePreferencesTellOfAFrame) {
+    host.camera(3).change({{"recordedShutter", 8000}, {"comment", "wind\ttunnel{Separator}run 2"}});
+    const struct {
+        const char *first, *seventh, *texts, *ofLayout;
+    } cases[] = {
+        {"", "", "", ""},
+        {"File name:1,Camera name:1", "", "Nozzle_2_00001.bmp   Nozzle/2", "Layout_00002.bmp   Gate, Nozzle/2"},
+        {"Frame number:1,Time:1", "Resolution:0", "# 1   0.001000 s", "# 2   0.001000 s"},
+        {"Record rate:1,Shutter speed:1,Resolution:1", "", "1000 fps   1/8000 s   63 x 47",
+         "1000 fps   1/%1 s, 1/8000 s   63 x 47"},
+        {"File name:0,Colour:1,,:1,Time", "Comment:1, Date: 1", "wind\\u0009tunnel run 2   2024-01-02 03:04:05",
+         "wind\\u0009tunnel run 2   2024-01-02 03:04:05"},
+        {"Time:1", "Camera name:1", "0.001000 s|Nozzle/2", "0.001000 s|Gate, Nozzle/2"},
+    };
+    for (const auto& one : cases) {
+        for (const bool isOn : {true, false}) {
+            QHash<QString, QVariant> prefs{{"format", "bmp"}, {"saveinfo", isOn}};
+            prefs["saveinfo/display0"] = one.first;
+            prefs["saveinfo/display6"] = one.seventh;
+            SaveOrders wanted = chosen(prefs);
+            wanted.date = {{2024, 1, 2}, {3, 4, 5}};
+            wanted.tracks = {orders().tracks[1], tracksOfLayout(sources(), "Layout").front()};
+            wanted.tracks[1].stem = path("Layout");
+            const auto texts = [&](int track, int index) {
+                const SaveTrack& saved = wanted.tracks[std::size_t(track)];
+                const QString file = QFileInfo(wanted.fileOf(saved, index)).fileName();
+                return wanted.drawn.texts(saved, index, {}, file, wanted.date).join('|').toStdString();
+            };
+            EXPECT_EQ(texts(0, 1), isOn ? one.texts : "");
+            const int shutter = sources()[0].recording().shutter;
+            EXPECT_EQ(texts(1, 2),
+                      isOn ? QString(one.ofLayout).replace("%1", QString::number(shutter)).toStdString() : "");
+        }
+    }
+}
+
+TEST_F(SavingTest, DrawsInformationAboveTheTextsOfAFrame) {
+    host.camera(3).change({{"resolution", QVariantList{400, 300}}, {"comment", "x"}});
+    for (const bool isLayout : {false, true}) {
+        SaveOrders wanted = chosen({{"saveinfo", true}, {"saveinfo/display2", "Comment:1"}});
+        wanted.tracks = isLayout ? tracksOfLayout(sources(), "Layout") : tracksOfEach(sources());
+        wanted.tracks = {wanted.tracks.back()};
+        wanted.tracks.back().stem = path(isLayout ? "layout" : "one");
+        EXPECT_TRUE(run(wanted).first().endsWith("saved"));
+        const SaveTrack& track = wanted.tracks.back();
+        const QImage plain = track.picture(0);
+        const QImage saved = QImage(wanted.fileOf(track, 0)).convertToFormat(QImage::Format_RGB32);
+        QRect changed;
+        for (int i = 0; i < plain.width() * plain.height(); ++i) {
+            const QPoint at(i % plain.width(), i / plain.width());
+            changed |= plain.pixel(at) == saved.pixel(at) ? QRect() : QRect(at, QSize(1, 1));
+        }
+        const int height = isLayout ? 360 : 300;
+        EXPECT_LT(changed.bottom(), plain.height() - height / 14) << "the frame's own texts stay";
+        EXPECT_GT(changed.top(), plain.height() - height / 4);
+        EXPECT_LT(changed.width(), height / 8) << "once, and no larger than its text";
+        EXPECT_GT(changed.width() * changed.height(), 100);
+    }
+}
+
 }  // namespace

@@ -14,9 +14,9 @@ constexpr QColor Shadow(0, 0, 0, 180);
 
 }  // namespace
 
-FrameTexts::FrameTexts(const QRect& area)
-    : m_margin(std::max(3, area.height() / 40)), m_place(area.adjusted(m_margin, m_margin, -m_margin, -m_margin)) {
-    m_font.setPixelSize(std::max(SmallestText, area.height() / TextShare));
+FrameTexts::FrameTexts(const QRect& area, int height)
+    : m_margin(std::max(3, height / 40)), m_place(area.adjusted(m_margin, m_margin, -m_margin, -m_margin)) {
+    m_font.setPixelSize(std::max(SmallestText, height / TextShare));
 }
 
 int FrameTexts::lineHeight() const {

@@ -10,7 +10,9 @@ class QString;
 class FrameTexts {
 public:
     /// Of a picture that fills `area`.
-    explicit FrameTexts(const QRect& area);
+    explicit FrameTexts(const QRect& area) : FrameTexts(area, area.height()) {}
+    /// Of several such, `height` pixels high each.
+    FrameTexts(const QRect& area, int height);
 
     /// Where they stand.
     const QRect& place() const { return m_place; }

@@ -16,8 +16,8 @@ public:
 
     Step prepare(int index, const QSet<int>& lost) override {
         const QString file = m_orders.fileOf(m_track, index);
-        const QByteArray bytes =
-            m_orders.format.encoded(m_track.picture(index, lost), m_track.metadata(index, lost), m_track.bits());
+        const QByteArray bytes = m_orders.format.encoded(m_orders.picture(m_track, index, lost),
+                                                         m_track.metadata(index, lost), m_track.bits());
         if (bytes.isEmpty()) {
             throw FileError(file, TextKey("the picture has no such form"));
         }

@@ -18,7 +18,7 @@ MultiPageTiffSink::MultiPageTiffSink(const SaveOrders& orders, const SaveTrack& 
     : m_orders(orders), m_track(track), m_path(orders.fileOf(track, track.from)) {}
 
 FrameSink::Step MultiPageTiffSink::prepare(int index, const QSet<int>& lost) {
-    const QImage picture = m_track.picture(index, lost);
+    const QImage picture = m_orders.picture(m_track, index, lost);
     const QByteArray description = m_track.metadata(index, lost).description;
     return [this, picture, description] { add(picture, description); };
 }

@@ -1,7 +1,11 @@
 #include "SaveOrders.h"
 
+#include "FrameTexts.h"
 #include "UiText.h"
 #include "VideoTrials.h"
+
+#include <QFileInfo>
+#include <QPainter>
 
 #include <utility>
 
@@ -25,6 +29,16 @@ QString SaveOrders::fileOf(const SaveTrack& track, int index) const {
     return track.stem % ending % QLatin1Char('.') % format.suffix;
 }
 
+QImage SaveOrders::picture(const SaveTrack& track, int index, const QSet<int>& lost) const {
+    QImage picture = track.picture(index, lost);
+    const QStringList lines = drawn.texts(track, index, lost, QFileInfo(fileOf(track, index)).fileName(), date);
+    if (!lines.isEmpty() && !picture.isNull()) {
+        QPainter painter(&picture);
+        FrameTexts(picture.rect(), track.tileSize().height()).drawPlates(painter, lines);
+    }
+    return picture;
+}
+
 QString formatFault(const QString& id) {
     if (QStringList{"raww", "mraw", "graw"}.contains(id)) {
         return uiText("How files of this format are laid out is known to no program here.");
@@ -46,5 +60,7 @@ SaveOrders chosenOrders(const PrefReader& pref, const QString& family) {
     orders.frameDigits = digits >= 1 && digits <= MostDigits ? digits : orders.frameDigits;
     orders.skip = FrameSkipRule::chosen(pref, family);
     orders.layout = LayoutRule::chosen(pref, family);
+    orders.drawn = DrawnInformation::chosen(pref, family);
+    orders.date = QDateTime::currentDateTime();
     return orders;
 }

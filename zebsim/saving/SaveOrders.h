@@ -1,5 +1,6 @@
 #pragma once
 
+#include "DrawnInformation.h"
 #include "FrameSkipRule.h"
 #include "SaveFormat.h"
 #include "SaveTrack.h"
@@ -29,11 +30,16 @@ struct SaveOrders {
     /// Of the tracks that are added.
     FrameSkipRule skip = {};
     LayoutRule layout = {};
+    DrawnInformation drawn = {};
+    /// When the save was asked for.
+    QDateTime date = {};
 
     /// One more track, as `skip` and `layout` say.
     void add(SaveTrack track);
     /// Path of the file that frame `index` of `track` goes into, as "stem_00512.png", or "stem.mp4" for all frames.
     QString fileOf(const SaveTrack& track, int index) const;
+    /// What that frame is saved as; those at the places `lost` of its sources show nothing. Any thread.
+    QImage picture(const SaveTrack& track, int index, const QSet<int>& lost = {}) const;
 };
 
 /// Why files of a format, as "png" or "mraw", can't be written here at all, in the user's language; empty when they

@@ -179,7 +179,8 @@ private:
 double bytesInPixel(const SaveOrders& orders) {
     const SaveTrack& first = orders.tracks.front();
     return Reserve *
-           double(orders.format.expectedSize(first.picture(first.from), first.metadata(first.from), first.bits())) /
+           double(orders.format.expectedSize(orders.picture(first, first.from), first.metadata(first.from),
+                                             first.bits())) /
            double(std::max<qint64>(1, pixelsOf(first.size())));
 }
 

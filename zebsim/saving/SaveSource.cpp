@@ -13,6 +13,10 @@ SaveSource::SaveSource(std::shared_ptr<Camera> camera, const Recording& recordin
     m_state.name = std::move(name);
 }
 
+QString SaveSource::comment() const {
+    return QString(m_state.comment).replace(zeb::CommentSeparator, QLatin1String(" "));
+}
+
 int SaveSource::bits() const {
     return m_camera->model().bitDepth;
 }

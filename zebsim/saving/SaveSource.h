@@ -24,6 +24,8 @@ public:
     /// What it is called in lists and in pictures.
     const QString& name() const { return m_state.name; }
     void setName(const QString& name) { m_state.name = name; }
+    /// What its user has noted on the camera, in one line.
+    QString comment() const;
     const Recording& recording() const { return m_recording; }
     QSize resolution() const { return m_recording.resolution; }
     /// That the camera fills of a channel.

@@ -24,6 +24,10 @@ qint64 SaveTrack::number(int index) const {
     return isLayout ? index : sources.front().frame(index * step).number;
 }
 
+qint64 SaveTrack::time(int index) const {
+    return isLayout ? moments.time(index) : sources.front().frame(index * step).time;
+}
+
 qint64 SaveTrack::indexOf(qint64 number) const {
     return isLayout ? number : (number - this->number(0)) / step;
 }
@@ -40,6 +44,10 @@ std::optional<int> SaveTrack::shown(int index, int place) const {
 
 QSize SaveTrack::size() const {
     return isLayout ? layout.wholeSize(int(sources.size())) : sources.front().resolution();
+}
+
+QSize SaveTrack::tileSize() const {
+    return isLayout ? layout.tileSize(int(sources.size())) : size();
 }
 
 int SaveTrack::bits() const {

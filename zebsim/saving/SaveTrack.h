@@ -37,11 +37,15 @@ struct SaveTrack {
     int frames() const;
     /// Number of a frame as an operator sees it. In a layout, where each camera has its own, they count from 0.
     qint64 number(int index) const;
-    /// The other way round; any index for a number that none has.
+    /// Its time in microseconds, from where the numbers are counted; of a layout from the trigger.
+    qint64 time(int index) const;
+    /// The index of a number; any index for a number that none has.
     qint64 indexOf(qint64 number) const;
     /// Which frame of the range of the source at `place` it shows; nothing when it shows none.
     std::optional<int> shown(int index, int place) const;
     QSize size() const;
+    /// Of the picture of one camera.
+    QSize tileSize() const;
     /// Of a channel; those of the camera that fills most of them.
     int bits() const;
     /// Those at the places `lost` of `sources` show nothing.

@@ -11,7 +11,7 @@ VideoSink::VideoSink(const SaveOrders& orders, const SaveTrack& track, const Sto
     : m_orders(orders), m_track(track), m_stop(stop), m_path(orders.fileOf(track, track.from)) {}
 
 FrameSink::Step VideoSink::prepare(int index, const QSet<int>& lost) {
-    const QImage picture = m_track.picture(index, lost).convertToFormat(QImage::Format_RGB32);
+    const QImage picture = m_orders.picture(m_track, index, lost).convertToFormat(QImage::Format_RGB32);
     return [this, picture] { feed(picture); };
 }
 
