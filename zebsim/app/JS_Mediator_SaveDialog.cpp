@@ -51,6 +51,7 @@ QJsonArray JS_Mediator_SaveDialog::records(const QJsonArray& ofCameras) const {
                           {"exportframes", source.frames()},
                           {"gone", uiText("the camera is gone")}};
             }
+            record["camera"] = source.name();
             record["label"] = track.isLayout ? source.name() : track.name;
             record["saveframes"] = source.frames();
             record["first"] = double(source.frame(0).number);

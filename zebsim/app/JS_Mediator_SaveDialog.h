@@ -29,7 +29,7 @@ Q_SIGNALS:
 
 public Q_SLOTS:
     /// With a record for each recording also when its camera is `gone`, and for each line of what is `absent`. A record
-    /// has its `label` in lists, and numbers of the `first` and the `last` frame of its range.
+    /// has its `label` in lists, which begins with that of the `camera`, and numbers of the `first` and the `last` frame of its range.
     QString list(bool temporary = false) override;
     void save();
 

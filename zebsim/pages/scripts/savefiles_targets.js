@@ -13,6 +13,12 @@ const saveTargets = {
 
     begin() {
         Array.from(document.querySelectorAll('.of_targets')).forEach(part => { part.hidden = !this.isThere; });
+        if (!this.isThere) {
+            document.body.classList.add('alone');
+            // Names are shown as those of the first camera that is selected.
+            saveBridge.setSelectDocKey(Number(saveBridge.getSelectedDockey()[0] || 0));
+            saveBridge.setSelectPartitionNo(1);
+        }
         byId('all').addEventListener('change', () => savePage.guarded(() => this.tickAll(byId('all').checked)));
         const list = byId('targets');
         list.addEventListener('change', event => savePage.guarded(() => this.tick(event.target)));
@@ -87,13 +93,23 @@ const saveTargets = {
         tick.type = 'checkbox';
         tick.tabIndex = -1;
         cell('', 'tick').appendChild(tick);
-        cell(record.gone ? `${record.label}: ${record.gone}` : record.label).title = record.label;
+        this.fillName(cell(''), record);
         cell(`${record.first} \u2026 ${record.last}`, 'range');
         cell(record.exportframes === record.saveframes ? record.saveframes :
             `${record.exportframes} / ${record.saveframes}`, 'number');
         cell(record.capacitylabel, 'number');
         row.classList.toggle('gone', record.gone !== undefined);
         return row;
+    },
+
+    // Partitions of a camera differ at the end of their labels, which is not to be cut off.
+    fillName(cell, record) {
+        const isLonger = record.label.indexOf(record.camera) === 0;
+        const end = (isLonger ? record.label.slice(record.camera.length) : '') + (record.gone ? `: ${record.gone}` : '');
+        cell.title = record.label;
+        cell.innerHTML = '<div class="name"><span class="cut"></span><span></span></div>';
+        cell.querySelector('.cut').textContent = isLonger ? record.camera : record.label;
+        cell.querySelector('.cut + span').textContent = end;
     },
 
     // Ticks, and the row that is looked at.
