@@ -255,9 +255,9 @@ TEST_F(Dialogs, ChooseTheDigitsOfNumbers) {
         {"by hand", 0, choose("camera", 3) + ';' + choose("session", 2), "C001S01", "camera=3 head=0 session=2"},
         {"as many as the cameras need", 0, automatic, "C01H1S01", "camera=2 head=1 session=2"},
         {"by hand again, as before", 0, "byId('manual').click()", "C001S01", "camera=3 head=0 session=2"},
-        {"of a conversion the session alone", 5, choose("session", 4), "S0001", "session=4"},
+        {"of a conversion the session alone", 5, choose("session", 4), "S0001", "camera=2 head=1 session=4"},
         {"of what has none", 12, choose("session", 4), "S0001", ""},
-        {"of what none is read of", 9, choose("session", 4), "S0001", ""},
+        {"of what none is read of", 9, choose("session", 4), "S0001", "camera=0 head=0 session=3"},
     };
     for (const auto& c : cases) {
         next([&](QDialog&) {

@@ -14,6 +14,7 @@
 #include "LogStore.h"
 #include "PreferencesDialog.h"
 #include "ProgressWait.h"
+#include "SaveInfoDialog.h"
 #include "SimHost.h"
 #include "SnapShots.h"
 #include "UiText.h"
@@ -113,6 +114,15 @@ void AppWindows::runOnCameras(QDialog* dialog) {
 
 void AppWindows::snapShot(int mode) {
     takeSnapShot(m_host, currentFrame(), mode);
+}
+
+bool AppWindows::openTimeCode() {
+    return runDialog(m_host, new TimeCodeDialog(m_host.prefs(), m_host.getMainWindow())) == QDialog::Accepted;
+}
+
+/// It is the same for all cameras.
+bool AppWindows::openSaveInfo(const DocKeyList& /*keys*/) {
+    return runDialog(m_host, new SaveInfoDialog(m_host.prefs(), m_host.getMainWindow())) == QDialog::Accepted;
 }
 
 void AppWindows::runProgress(const QString& text, QFutureWatcherBase& watcher) {

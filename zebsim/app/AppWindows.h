@@ -49,6 +49,8 @@ public:
     void save(bool layout) override { m_saving.save(layout); }
     bool isSaving() const override { return m_saving.isSaving(); }
     void snapShot(int mode) override;
+    bool openTimeCode() override;
+    bool openSaveInfo(const DocKeyList& keys) override;
     QImage currentImage() const override;
     void addToSupportFile(ZebSupportFile& file) const override;
     void showDropDownBox(const QString& key, const QRect& anchor) override { m_boxes.show(key, anchor); }

@@ -2815,5 +2815,29 @@
         <source>Not in names: \ / : * ? &quot; &lt; &gt; | %</source>
         <translation>名前に使えない文字: \ / : * ? &quot; &lt; &gt; | %</translation>
     </message>
+    <message>
+        <source>Time code</source>
+        <translation>タイムコード</translation>
+    </message>
+    <message>
+        <source>Seconds from the trigger</source>
+        <translation>トリガーからの秒数</translation>
+    </message>
+    <message>
+        <source>As on a clock, from the trigger</source>
+        <translation>トリガーからの時間（時:分:秒）</translation>
+    </message>
+    <message>
+        <source>Frame number</source>
+        <translation>フレーム番号</translation>
+    </message>
+    <message>
+        <source>Record rate</source>
+        <translation>撮影速度</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>日付</translation>
+    </message>
 </context>
 </TS>

@@ -2,28 +2,22 @@
 
 #include "OneLine.h"
 #include "SaveTrack.h"
+#include "TextKey.h"
 
 namespace {
 
-constexpr int Lines = 7;
-
-/// As the preferences name them, in the order of `Item`.
-const QStringList& names() {
-    static const QStringList list = {"File name",     "Camera name", "Frame number", "Time",   "Record rate",
-                                     "Shutter speed", "Resolution",  "Date",         "Comment"};
-    return list;
+QString clockText(qint64 microseconds) {
+    constexpr qint64 InSecond = 1000000;
+    const qint64 seconds = qAbs(microseconds) / InSecond;
+    const auto digits = [](qint64 number, int count) {
+        return QString::number(number).rightJustified(count, QLatin1Char('0'));
+    };
+    return (microseconds < 0 ? "-" : "") % digits(seconds / 3600, 2) % ':' % digits(seconds / 60 % 60, 2) % ':' %
+           digits(seconds % 60, 2) % '.' % digits(qAbs(microseconds) % InSecond, 6);
 }
 
-/// Items as "File name:1,Time:0"; what is unknown is passed over.
-std::vector<DrawnInformation::Item> lineOf(const QString& text) {
-    std::vector<DrawnInformation::Item> line;
-    for (const QString& item : text.split(QLatin1Char(','))) {
-        const int name = names().indexOf(item.section(QLatin1Char(':'), 0, 0).trimmed());
-        if (name >= 0 && item.section(QLatin1Char(':'), 1).trimmed() == QLatin1String("1")) {
-            line.push_back(DrawnInformation::Item(name));
-        }
-    }
-    return line;
+QString secondsText(qint64 microseconds) {
+    return QString::number(double(microseconds) / 1e6, 'f', 6) % QStringLiteral(" s");
 }
 
 QString ofSource(DrawnInformation::Item item, const SaveSource& source) {
@@ -53,7 +47,7 @@ QStringList DrawnInformation::texts(const SaveTrack& track, int index, const QSe
             case FrameNumber:
                 return QStringLiteral("# %1").arg(track.number(index));
             case Time:
-                return QString::number(double(track.time(index)) / 1e6, 'f', 6) % QStringLiteral(" s");
+                return isTimeOfClock ? clockText(track.time(index)) : secondsText(track.time(index));
             case Date:
                 return date.toString(QStringLiteral("yyyy-MM-dd HH:mm:ss"));
             default:
@@ -79,10 +73,35 @@ QStringList DrawnInformation::texts(const SaveTrack& track, int index, const QSe
     return all;
 }
 
+const QStringList& DrawnInformation::itemNames() {
+    static const QStringList list = {TextKey("File name"),  TextKey("Camera name"), TextKey("Frame number"),
+                                     TextKey("Time"),       TextKey("Record rate"), TextKey("Shutter speed"),
+                                     TextKey("Resolution"), TextKey("Date"),        TextKey("Comment")};
+    return list;
+}
+
+QString DrawnInformation::lineKey(int line) {
+    return QStringLiteral("saveinfo/display%1").arg(line);
+}
+
+/// Items as "File name:1,Time:0"; what is unknown is passed over.
+std::vector<DrawnInformation::Item> DrawnInformation::lineOf(const QString& text) {
+    std::vector<Item> line;
+    const QStringList items = text.split(QLatin1Char(','));
+    for (const QString& item : items) {
+        const int name = itemNames().indexOf(item.section(QLatin1Char(':'), 0, 0).trimmed());
+        if (name >= 0 && item.section(QLatin1Char(':'), 1).trimmed() == QLatin1String("1")) {
+            line.push_back(Item(name));
+        }
+    }
+    return line;
+}
+
 DrawnInformation DrawnInformation::chosen(const PrefReader& pref, const QString& family) {
     DrawnInformation information;
     for (int i = 0; i < Lines && pref(family % QStringLiteral("saveinfo")).toBool(); ++i) {
-        information.lines.push_back(lineOf(pref(QStringLiteral("saveinfo/display%1").arg(i)).toString()));
+        information.lines.push_back(lineOf(pref(lineKey(i)).toString()));
     }
+    information.isTimeOfClock = pref(QLatin1String(TimeFormKey)) == "clock";
     return information;
 }
