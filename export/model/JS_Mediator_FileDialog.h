@@ -35,6 +35,8 @@ public:
     /// Name of the chosen partition's files, without folder and ending.
     virtual QString exportFileName(bool details);
 
+    /// That every name of the dialog holds: the dialog was made then.
+    const QDateTime& time() const { return m_time; }
     /// What `refreshSkipFrame` was told last.
     const QList<ExportTarget>& targets() const { return m_targets; }
 
@@ -139,7 +141,6 @@ private:
     QString chosenName(Part part);
 
     const JobKind m_kind;
-    /// Stands in every name that holds one.
     const QDateTime m_time;
     SkipPrefs m_skipPrefs;
     const TargetRecords m_records;

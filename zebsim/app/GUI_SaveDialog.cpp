@@ -53,7 +53,7 @@ void GUI_SaveDialog::save() {
     m_names = std::make_unique<NamePromises::Save>(m_simHost.saver().promises());
     std::optional<SavePlan> plan;
     try {
-        plan = composePlan(m_simHost, tracks, m_saving.absent(), QDateTime::currentDateTime());
+        plan = composePlan(m_simHost, tracks, m_saving.absent(), m_saving.time());
     } catch (const std::exception& e) {
         m_simHost.messages().tell(Message::Alert, uiText(QString::fromUtf8(e.what())), {}, this);
     }

@@ -1,6 +1,7 @@
 #include "JS_Mediator_SaveDialog.h"
 
 #include "BridgeCall.h"
+#include "SaveTargets.h"
 #include "SimHost.h"
 #include "UiText.h"
 
@@ -14,7 +15,12 @@
 
 JS_Mediator_SaveDialog::JS_Mediator_SaveDialog(SimHost& host, const QString& name, std::vector<SaveTrack> tracks,
                                                QStringList absent)
-    : JS_Mediator_FileDialog(&host, name), m_tracks(std::move(tracks)), m_absent(std::move(absent)) {}
+    : JS_Mediator_FileDialog(&host, name), m_simHost(host), m_tracks(std::move(tracks)), m_absent(std::move(absent)) {}
+
+QString JS_Mediator_SaveDialog::exportFileName(bool details) {
+    return partitionFileName(m_simHost, fileType(m_tracks.front()), getSelectDocKey(), getSelectPartitionNo(), details,
+                             time());
+}
 
 QString JS_Mediator_SaveDialog::list(bool temporary) {
     const QString ofCameras = JS_Mediator_FileDialog::list(temporary);

@@ -19,6 +19,9 @@ public:
     /// line each.
     JS_Mediator_SaveDialog(SimHost& host, const QString& name, std::vector<SaveTrack> tracks, QStringList absent);
 
+    /// As the plan will have it: with the custom information of the recording itself.
+    QString exportFileName(bool details) override;
+
     const QStringList& absent() const { return m_absent; }
     /// Those that the page has ticked; a layout of the cameras that it has.
     std::vector<SaveTrack> chosenTracks() const;
@@ -29,13 +32,15 @@ Q_SIGNALS:
 
 public Q_SLOTS:
     /// With a record for each recording also when its camera is `gone`, and for each line of what is `absent`. A record
-    /// has its `label` in lists, which begins with that of the `camera`, and numbers of the `first` and the `last` frame of its range.
+    /// has its `label` in lists, which begins with that of the `camera`, and numbers of the `first` and the `last`
+    /// frame of its range.
     QString list(bool temporary = false) override;
     void save();
 
 private:
     QJsonArray records(const QJsonArray& ofCameras) const;
 
+    SimHost& m_simHost;
     const std::vector<SaveTrack> m_tracks;
     const QStringList m_absent;
 };

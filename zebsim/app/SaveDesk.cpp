@@ -12,6 +12,7 @@
 #include "SaveTexts.h"
 #include "SimHost.h"
 #include "Style.h"
+#include "Tal2Start.h"
 #include "TargetDisk.h"
 #include "TextKey.h"
 #include "UiText.h"
@@ -176,7 +177,22 @@ void SaveDesk::finish() {
         const QString text = outcomeText(outcome, m_job->orders());
         (outcome.end == SaveOutcome::Saved ? qInfo() : qWarning()) << text;
     }
+    const bool isOfCameras = !m_job->orders().tracks.empty() && !m_job->orders().tracks.front().isLayout;
+    if (isOfCameras) {
+        handOverToTal2(m_host, savedFolders());
+    }
     m_host.updates().request();
     // A plug-in that has asked while images were saved has not started its timer.
     sendToPlugins(m_host.appStatus(), "signalStartAutoUpdate");
+}
+
+QStringList SaveDesk::savedFolders() const {
+    QStringList folders;
+    for (const SaveOutcome& outcome : m_job->outcomes()) {
+        if (outcome.track >= 0 && outcome.end == SaveOutcome::Saved) {
+            folders << QFileInfo(m_job->orders().tracks[std::size_t(outcome.track)].stem).path();
+        }
+    }
+    folders.removeDuplicates();
+    return folders;
 }

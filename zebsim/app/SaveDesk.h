@@ -41,6 +41,8 @@ private:
     void showProgress();
     void askToCancel();
     void finish();
+    /// Those that a track has gone into whole.
+    QStringList savedFolders() const;
 
     SimHost& m_host;
     const LastShoot m_shoot;

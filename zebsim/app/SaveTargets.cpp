@@ -7,6 +7,7 @@
 #include "SimControl.h"
 #include "SimHost.h"
 #include "TargetDisk.h"
+#include "TargetPaths.h"
 #include "TextKey.h"
 #include "UTL_Exception.h"
 #include "UiText.h"
@@ -41,12 +42,11 @@ public:
 
     /// Of one partition of a camera. Throws.
     TrackTarget targetOf(DOCKEY key, PARTITIONNUMBER partition) {
-        DOC_Interface* document = m_host.docManager().getDocAny(key);
-        if (document == nullptr) {
-            throw std::runtime_error(TextKey("the camera is gone").toStdString());
-        }
-        const Camera* recorded = m_host.isMemoryMode() ? m_host.cameras().find(key) : nullptr;
-        return TrackTarget::of(m_source, m_type, OnePartition(*document, recorded, partition), m_time);
+        return TrackTarget::of(m_source, m_type, documentOf(key, partition), m_time);
+    }
+    QString fileNameOf(DOCKEY key, PARTITIONNUMBER partition, bool withDetails) {
+        const OnePartition document = documentOf(key, partition);
+        return fileName(m_source, m_type, &document, partition, withDetails, m_time);
     }
     /// A layout is called after the first of its cameras that tells what is needed.
     TrackTarget targetOf(const SaveTrack& track) {
@@ -63,6 +63,14 @@ public:
     }
 
 private:
+    OnePartition documentOf(DOCKEY key, PARTITIONNUMBER partition) {
+        DOC_Interface* document = m_host.docManager().getDocAny(key);
+        if (document == nullptr) {
+            throw std::runtime_error(TextKey("the camera is gone").toStdString());
+        }
+        return {*document, m_host.isMemoryMode() ? m_host.cameras().find(key) : nullptr, partition};
+    }
+
     SimHost& m_host;
     HostNameSource m_source;
     const zeb::FileType m_type;
@@ -105,6 +113,12 @@ SavePlan composePlan(SimHost& host, const std::vector<SaveTrack>& tracks, const 
     }
     RealDisk disk;
     return planOf(std::move(orders), targets, disk, known);
+}
+
+QString partitionFileName(SimHost& host, zeb::FileType type, DOCKEY key, PARTITIONNUMBER partition, bool withDetails,
+                          const QDateTime& time) {
+    const HostCalls::Own own;
+    return Composer(host, type, time).fileNameOf(key, partition, withDetails);
 }
 
 QString snapShotStem(SimHost& host, DOCKEY key, const QDateTime& time) {

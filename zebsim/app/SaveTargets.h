@@ -17,5 +17,10 @@ zeb::FileType fileType(const SaveTrack& track);
 SavePlan composePlan(SimHost& host, const std::vector<SaveTrack>& tracks, const QStringList& absent,
                      const QDateTime& time);
 
+/// Name of that partition's files, as that of one track alone; with the custom information of its own recording.
+/// Throws.
+QString partitionFileName(SimHost& host, zeb::FileType type, DOCKEY key, PARTITIONNUMBER partition, bool withDetails,
+                          const QDateTime& time);
+
 /// Path of a picture of that camera, without what its name ends in. Throws.
 QString snapShotStem(SimHost& host, DOCKEY key, const QDateTime& time);

@@ -104,6 +104,6 @@ QString entryText(const PlanEntry& entry) {
 QString plannedText(const SavePlan& plan, std::size_t track) {
     const SaveOrders& orders = plan.orders;
     return uiText("%1: %2 files, about %3, in %4")
-        .arg(orders.tracks[track].name, QString::number(filesIn(orders.tracks[track], orders.format)),
+        .arg(orders.tracks[track].name, QString::number(orders.filesOf(orders.tracks[track])),
              QLocale().formattedDataSize(plan.bytes[track]), folderOf(orders, int(track)));
 }

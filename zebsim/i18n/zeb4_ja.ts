@@ -2839,5 +2839,9 @@
         <source>Date</source>
         <translation>日付</translation>
     </message>
+    <message>
+        <source>%1 can&apos;t be started. What was saved is complete.</source>
+        <translation>%1 を起動できません。保存は完了しています。</translation>
+    </message>
 </context>
 </TS>
