@@ -37,8 +37,8 @@ protected:
     }
 
     /// Each entry as "kind camera path count detail".
-    QStringList told(const TrackTarget& one, const TrackTarget& two, const char* format = "png") {
-        const SaveOrders orders{saveFormat(format), tracksOfEach(saveSources(host.host.cameras()))};
+    QStringList told(const TrackTarget& one, const TrackTarget& two, SaveOrders orders = {saveFormat("png"), {}}) {
+        orders.tracks = tracksOfEach(saveSources(host.host.cameras()));
         plan = planOf(orders, {one, two}, disk);
         QStringList lines;
         for (const PlanEntry& entry : plan.entries) {
@@ -101,6 +101,70 @@ TEST_F(Plan, NamesWhatStandsAgainstEachCamera) {
     }
     EXPECT_EQ(plan.orders.mayReplace, QSet<QString>({"/full/old_00000.png"})) << "and nothing else";
     EXPECT_EQ(plan.files, 6);
+}
+
+TEST_F(Plan, CountsAndChecksWhatStandsBesideTheFrames) {
+    const TrackTarget one{"/r", {}, {}, "a"};
+    const TrackTarget two{"/r", {}, {}, "b"};
+    const QString wide(242, 'x');
+    const struct {
+        const char *what, *format;
+        QString text;
+        TrackTarget first;
+        QStringList told;
+        int files;
+    } cases[] = {
+        {"new ones", "png", "_thumb", one, {}, 10},
+        {"pages", "tiff", "_thumb", one, {}, 6},
+        {"as a frame of its own",
+         "jpeg",
+         "_00001",
+         one,
+         {"twice Camera 1 /r/a_00001.jpg Camera 1", "twice Camera 2 /r/b_00001.jpg Camera 2"},
+         10},
+        {"as no frame", "jpeg", "_00002", one, {}, 10},
+        {"as a frame of another",
+         "jpeg",
+         "_1_00000",
+         {"/link", {}, {}, "B_1"},
+         {"twice Camera 2 /r/b_1_00000.jpg Camera 1"},
+         10},
+        {"elsewhere",
+         "png",
+         "/../x",
+         one,
+         {"forbidden Camera 1 /../x Thumbnail", "forbidden Camera 2 /../x Thumbnail"},
+         10},
+        {"longer than a frame's",
+         "png",
+         "_thumbnail",
+         {"/r", {}, {}, wide + "y"},
+         {"path Camera 1 /r/" + wide + "y_thumbnail.jpg"},
+         10},
+        {"there already",
+         "png",
+         "_thumb",
+         {"/full", {}, {}, "a"},
+         {"holds /full/ 3", "exists Camera 1 /full/a_00000.png 3"},
+         10},
+        {"a pipe",
+         "png",
+         "_pipe",
+         {"/pipes", {}, {}, "a"},
+         {"holds /pipes/ 1", "no file Camera 1 /pipes/a_pipe.jpg"},
+         10},
+    };
+    disk.names["/full/"] = QStringList{"a.cih", "a_00000.png", "a_thumb.jpg"};
+    disk.names["/pipes/"] = QStringList{"a_pipe.jpg"};
+    for (const auto& row : cases) {
+        SaveOrders orders{saveFormat(row.format), {}};
+        orders.format.options.isMultiPage = true;
+        orders.thumbnail = row.text;
+        orders.hasInformation = true;
+        EXPECT_EQ(told(row.first, two, orders).join('|').toStdString(), row.told.join('|').toStdString()) << row.what;
+        EXPECT_EQ(plan.files, row.files) << row.what;
+        EXPECT_EQ(plan.orders.mayReplace.size(), row.first.root == "/full" ? 3 : 0) << row.what;
+    }
 }
 
 TEST_F(Plan, CountsTheRoomOfEachFileSystem) {

@@ -1,5 +1,6 @@
 #include "SaveOrders.h"
 
+#include "Companions.h"
 #include "FrameTexts.h"
 #include "UiText.h"
 #include "VideoTrials.h"
@@ -27,6 +28,10 @@ QString SaveOrders::fileOf(const SaveTrack& track, int index) const {
     const QString text = QString::number(qAbs(number)).rightJustified(frameDigits, QLatin1Char('0'));
     const QString ending = format.isOneFile() ? QString() : QString((number < 0 ? "_-" : "_") % text);
     return track.stem % ending % QLatin1Char('.') % format.suffix;
+}
+
+int SaveOrders::filesOf(const SaveTrack& track) const {
+    return filesIn(track, format) + companionsOf(*this, track).size();
 }
 
 QImage SaveOrders::picture(const SaveTrack& track, int index, const QSet<int>& lost) const {
@@ -61,6 +66,12 @@ SaveOrders chosenOrders(const PrefReader& pref, const QString& family) {
     orders.skip = FrameSkipRule::chosen(pref, family);
     orders.layout = LayoutRule::chosen(pref, family);
     orders.drawn = DrawnInformation::chosen(pref, family);
+    if (pref(family % QStringLiteral("savethumbnail")).toBool()) {
+        orders.thumbnail = pref(family % QStringLiteral("savethumbnailaddtextvalue")).toString();
+    }
+    // Of snapshots it is called otherwise.
+    orders.hasInformation =
+        pref(family % QStringLiteral("saveinf")).toBool() || pref(family % QStringLiteral("cihx")).toBool();
     orders.date = QDateTime::currentDateTime();
     return orders;
 }

@@ -11,6 +11,7 @@
 #include <QStringList>
 
 #include <functional>
+#include <optional>
 #include <vector>
 
 /// What is to be saved, and where to.
@@ -31,6 +32,10 @@ struct SaveOrders {
     FrameSkipRule skip = {};
     LayoutRule layout = {};
     DrawnInformation drawn = {};
+    /// What the name of a small picture beside the files of a track ends in; nothing: there is none.
+    std::optional<QString> thumbnail = {};
+    /// A file beside them tells what they are; not of a layout.
+    bool hasInformation = false;
     /// When the save was asked for.
     QDateTime date = {};
 
@@ -38,6 +43,8 @@ struct SaveOrders {
     void add(SaveTrack track);
     /// Path of the file that frame `index` of `track` goes into, as "stem_00512.png", or "stem.mp4" for all frames.
     QString fileOf(const SaveTrack& track, int index) const;
+    /// Files that are to be written for it, those beside the pictures too.
+    int filesOf(const SaveTrack& track) const;
     /// What that frame is saved as; those at the places `lost` of its sources show nothing. Any thread.
     QImage picture(const SaveTrack& track, int index, const QSet<int>& lost = {}) const;
 };

@@ -1,5 +1,6 @@
 #include "SavePlan.h"
 
+#include "Companions.h"
 #include "FileNameRules.h"
 #include "TargetDisk.h"
 #include "TargetPaths.h"
@@ -9,6 +10,7 @@
 #include <QDir>
 #include <QFile>
 #include <QHash>
+#include <QMap>
 
 #include <algorithm>
 #include <utility>
@@ -50,6 +52,20 @@ public:
         lookForOld(target, track);
     }
 
+    /// Once all tracks are known: what stands beside the frames of one must not be called as a frame of any.
+    void lookAtCompanions(const SaveTrack& track) {
+        for (const QString& path : companionsOf(m_plan.orders, track)) {
+            const SaveTrack* const other = trackOfFrame(path);
+            if (other != nullptr) {
+                add(PlanEntry::WrittenTwice, track.name, path, 0, other->name);
+            }
+        }
+        const QString text = m_plan.orders.thumbnail.value_or(QString());
+        if (!isGoodFileName(text) || hasControl(text)) {
+            add(PlanEntry::Forbidden, track.name, text, 0, TextKey("Thumbnail"));
+        }
+    }
+
     void lookAtSpace() {
         for (const Space& fileSystem : std::as_const(m_space)) {
             if (fileSystem.needed > fileSystem.available) {
@@ -71,6 +87,15 @@ private:
     void add(PlanEntry::Kind kind, const QString& camera, const QString& path, qint64 count = 0,
              const QString& detail = {}) {
         m_plan.entries.append({kind, camera, path, count, detail});
+    }
+
+    /// That of which a frame would be written to `path`; null when none would.
+    const SaveTrack* trackOfFrame(const QString& path) {
+        const int end = path.lastIndexOf(m_plan.orders.format.isOneFile() ? QLatin1Char('.') : QLatin1Char('_'));
+        const SaveTrack* const track = m_stems.value(keyOf(path.left(end)));
+        const int index = track == nullptr ? -1 : indexOf(*track, path.mid(end));
+        const bool isSame = index >= 0 && keyOf(m_plan.orders.fileOf(*track, index)) == keyOf(path);
+        return isSame ? track : nullptr;
     }
 
     void lookAtFolder(const QString& camera, const QString& path, qint64 bytes) {
@@ -106,73 +131,83 @@ private:
 
     /// The longest number stands at an end of the range.
     void lookAtLength(const SaveTrack& track) {
-        int longest = 0;
-        QString file;
-        for (const int index : {track.from, track.frames() - 1}) {
-            const QString path = m_plan.orders.fileOf(track, index);
-            if (bytesIn(path) > longest) {
-                longest = bytesIn(path);
-                file = path;
-            }
-        }
+        QStringList files = companionsOf(m_plan.orders, track);
+        files << m_plan.orders.fileOf(track, track.from) << m_plan.orders.fileOf(track, track.frames() - 1);
+        const QString file =
+            *std::max_element(files.rbegin(), files.rend(),
+                              [](const QString& one, const QString& two) { return bytesIn(one) < bytesIn(two); });
         const QStringList parts = file.split(QLatin1Char('/'));
         const bool isLong = std::any_of(parts.begin(), parts.end(),
                                         [](const QString& part) { return bytesIn(part) > MostBytesOfName; });
-        if (isLong || longest > MostBytesOfPath) {
+        if (isLong || bytesIn(file) > MostBytesOfPath) {
             add(PlanEntry::PathTooLong, track.name, file);
         }
     }
 
     /// Two ways to one folder lead to one file.
     void lookForOthers(const TrackTarget& target, const SaveTrack& track) {
-        const QString key = fileKey(m_disk.canonical(target.folder()) % target.name);
-        const auto other = m_stems.find(key);
-        if (other != m_stems.end()) {
-            add(PlanEntry::WrittenTwice, track.name, m_plan.orders.fileOf(track, track.from), 0, *other);
+        const QString key = keyOf(target.stem());
+        const SaveTrack* const other = m_stems.value(key);
+        if (other != nullptr) {
+            add(PlanEntry::WrittenTwice, track.name, m_plan.orders.fileOf(track, track.from), 0, other->name);
         } else {
-            m_stems.insert(key, track.name);
+            m_stems.insert(key, &track);
         }
     }
 
     void lookForOld(const TrackTarget& target, const SaveTrack& track) {
-        const QStringList& names = m_disk.namesIn(target.folder());
-        const QHash<QString, int> own = namesOf(target, track, names);
+        const QMap<int, QString> own = namesOf(target, track, m_disk.namesIn(target.folder()));
         if (own.isEmpty()) {
             return;
         }
-        const int first = *std::min_element(own.begin(), own.end());
-        for (auto name = own.keyBegin(); name != own.keyEnd(); ++name) {
-            const QString path = target.folder() + *name;
+        for (const QString& name : own) {
+            const QString path = target.folder() + name;
             if (!m_disk.isPlainFile(path)) {
                 add(PlanEntry::NoFile, track.name, path);
                 return;
             }
             m_plan.orders.mayReplace.insert(path);
         }
-        add(PlanEntry::Exists, track.name, m_plan.orders.fileOf(track, first), own.size());
+        add(PlanEntry::Exists, track.name, target.folder() + own.first(), own.size());
     }
 
-    /// Those of `names` that the track would write, each with the index of its frame.
-    QHash<QString, int> namesOf(const TrackTarget& target, const SaveTrack& track, const QStringList& names) const {
-        QHash<QString, int> own;
+    /// Those of `names` that the track would write, by the index of its frame; those beside the frames come last.
+    QMap<int, QString> namesOf(const TrackTarget& target, const SaveTrack& track, const QStringList& names) const {
+        QMap<int, QString> own;
         auto name = std::lower_bound(names.begin(), names.end(), target.name);
-        const SaveOrders& orders = m_plan.orders;
         for (; name != names.end() && name->startsWith(target.name); ++name) {
-            const QString number = name->mid(target.name.size() + 1).section(QLatin1Char('.'), 0, 0);
-            const qint64 index = orders.format.isOneFile() ? track.from : track.indexOf(number.toLongLong());
-            const bool isInRange = index >= track.from && index < track.frames();
-            if (isInRange && orders.fileOf(track, int(index)) == target.folder() + *name) {
-                own.insert(*name, int(index));
+            const int index = indexOf(track, name->mid(target.name.size()));
+            if (index >= track.from && m_plan.orders.fileOf(track, index) == target.folder() + *name) {
+                own.insert(index, *name);
+            }
+        }
+        int last = track.frames();
+        for (const QString& path : companionsOf(m_plan.orders, track)) {
+            const QString companion = path.mid(target.folder().size());
+            if (std::binary_search(names.begin(), names.end(), companion)) {
+                own.insert(last++, companion);
             }
         }
         return own;
+    }
+
+    /// Of the frame whose file's name might end so, as "_00001.png"; -1 for none.
+    int indexOf(const SaveTrack& track, const QString& ending) const {
+        const QString number = ending.mid(1).section(QLatin1Char('.'), 0, 0);
+        const qint64 index = m_plan.orders.format.isOneFile() ? track.from : track.indexOf(number.toLongLong());
+        return index >= 0 && index < track.frames() ? int(index) : -1;
+    }
+
+    QString keyOf(const QString& path) {
+        const int end = path.lastIndexOf(QLatin1Char('/')) + 1;
+        return fileKey(m_disk.canonical(path.left(end)) % path.mid(end));
     }
 
     SavePlan& m_plan;
     TargetDisk& m_disk;
     QHash<QByteArray, Space> m_space;
     QSet<QString> m_folders;
-    QHash<QString, QString> m_stems;
+    QHash<QString, const SaveTrack*> m_stems;
 };
 
 /// One picture stands for all.
@@ -254,7 +289,10 @@ SavePlan planOf(SaveOrders orders, const std::vector<TrackTarget>& targets, Targ
         planner.look(targets[i], track, bytes);
         plan.bytes.push_back(bytes);
         plan.allBytes += bytes;
-        plan.files += filesIn(track, plan.orders.format);
+        plan.files += plan.orders.filesOf(track);
+    }
+    for (const SaveTrack& track : plan.orders.tracks) {
+        planner.lookAtCompanions(track);
     }
     planner.lookAtSpace();
     return plan;

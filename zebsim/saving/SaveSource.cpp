@@ -3,13 +3,18 @@
 #include "Camera.h"
 #include "CameraBank.h"
 #include "CameraError.h"
+#include "InformationFile.h"
 #include "TextKey.h"
 
 #include <algorithm>
 #include <utility>
 
 SaveSource::SaveSource(std::shared_ptr<Camera> camera, const Recording& recording, QString name)
-    : m_camera(std::move(camera)), m_key(m_camera->key()), m_state(m_camera->state()), m_recording(recording) {
+    : m_camera(std::move(camera)),
+      m_key(m_camera->key()),
+      m_state(m_camera->state()),
+      m_ownName(m_state.name),
+      m_recording(recording) {
     m_state.name = std::move(name);
 }
 
@@ -34,6 +39,12 @@ CameraFrame SaveSource::frameFromTrigger(int index) const {
 TimedRange SaveSource::range() const {
     return {std::max(1U, m_recording.rate), qint64(m_recording.selectedFirst) - m_recording.trigger,
             qint64(m_recording.selectedLast) - m_recording.trigger};
+}
+
+RecordingInformation SaveSource::information() const {
+    RecordingInformation information = RecordingInformation::of(*m_camera, m_state, m_recording);
+    information.camera = m_ownName;
+    return information;
 }
 
 void SaveSource::read(const CameraBank& cameras, int index) const {

@@ -12,6 +12,7 @@
 class Camera;
 class CameraBank;
 class Clock;
+struct RecordingInformation;
 
 /// What one partition of a camera gives to a save: its selected range, as it stood when the save was asked for. Once it
 /// has its name, any thread may use it.
@@ -37,6 +38,8 @@ public:
     CameraFrame frameFromTrigger(int index) const;
     /// The range on the time of the trigger.
     TimedRange range() const;
+    /// What is known of it, without files.
+    RecordingInformation information() const;
     FrameMetadata metadata(int index) const { return FrameMetadata::recorded(m_recording, frame(index)); }
     /// Has the camera hand that frame over. Throws `CameraError` when it is not there any more, does not answer, or has
     /// lost the recording.
@@ -50,6 +53,8 @@ private:
     std::shared_ptr<Camera> m_camera;
     DOCKEY m_key;
     CameraState m_state;
+    /// What the camera itself is called.
+    QString m_ownName;
     Recording m_recording;
 };
 

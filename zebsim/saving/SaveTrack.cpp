@@ -42,6 +42,12 @@ std::optional<int> SaveTrack::shown(int index, int place) const {
     return layout.holdsEnds || frame == inRange ? std::optional(int(inRange - range.first)) : std::nullopt;
 }
 
+int SaveTrack::triggerIndex() const {
+    const TimedRange range = sources.front().range();
+    const bool isInRange = !isLayout && range.first <= 0 && range.last >= 0;
+    return isInRange ? int(-range.first / step) : -1;
+}
+
 QSize SaveTrack::size() const {
     return isLayout ? layout.wholeSize(int(sources.size())) : sources.front().resolution();
 }

@@ -37,6 +37,9 @@ struct SaveTrack {
     int frames() const;
     /// Number of a frame as an operator sees it. In a layout, where each camera has its own, they count from 0.
     qint64 number(int index) const;
+    /// Of a camera's range, the index of the frame at which the trigger came, or of the last before it; -1 when it came
+    /// outside.
+    int triggerIndex() const;
     /// Its time in microseconds, from where the numbers are counted; of a layout from the trigger.
     qint64 time(int index) const;
     /// The index of a number; any index for a number that none has.

@@ -3,6 +3,7 @@
 #include "CameraError.h"
 #include "Clock.h"
 #include "ClockRows.h"
+#include "Companions.h"
 #include "FailureText.h"
 #include "ParallelRows.h"
 #include "StopSource.h"
@@ -170,6 +171,7 @@ void TrackRun::note(bool isLast, const std::optional<FileError>& failure) {
     }
     if (!failure) {
         m_next += isLast ? 0 : 1;
+        m_isClosed = m_isFinished;
         m_isFinished = isLast;
     } else if (!m_stop.isStopped()) {
         m_failure = failure;
@@ -177,8 +179,11 @@ void TrackRun::note(bool isLast, const std::optional<FileError>& failure) {
 }
 
 std::optional<TrackRun::Step> TrackRun::nextStep() {
-    if (m_failure || m_isFinished || m_stop.isStopped()) {
+    if (m_failure || m_isClosed || m_stop.isStopped()) {
         return std::nullopt;
+    }
+    if (m_isFinished) {
+        return Step{[this, saved = m_next] { writeCompanions(m_orders, m_track, saved); }, {}};
     }
     if (m_next == m_end) {
         return Step{[this, frames = m_next - m_track.from] { finish(frames); }, {}};
@@ -229,6 +234,11 @@ void TrackRun::keepOnly(const std::function<bool(const QString& name)>& stands) 
             return;
         }
     }
+    for (const QString& file : companionsOf(m_orders, m_track)) {
+        if (m_isClosed && m_next > 0 && !stands(QFileInfo(file).fileName())) {
+            m_failure = FileError(file, TextKey("the file has gone since it was written"));
+        }
+    }
 }
 
 bool TrackRun::hasFailed() const {
@@ -243,7 +253,8 @@ int TrackRun::done() const {
 
 /// A file for each frame is finished by the frame itself, though the save may be stopped before it is noted.
 bool TrackRun::isComplete() const {
-    return m_isFinished || (!m_orders.format.isOneFile() && m_next == m_end.value_or(m_track.frames()));
+    const bool isAll = !m_orders.format.isOneFile() && m_next == m_end.value_or(m_track.frames());
+    return m_isClosed || ((m_isFinished || isAll) && companionsOf(m_orders, m_track).isEmpty());
 }
 
 int TrackRun::saved() const {

@@ -104,6 +104,8 @@ private:
     bool m_isGrowing = false;
     std::chrono::steady_clock::time_point m_lastRead;
     bool m_isWriting = false;
+    /// All frames stand in files, and then what stands beside them.
     bool m_isFinished = false;
+    bool m_isClosed = false;
     std::optional<FileError> m_failure;
 };
