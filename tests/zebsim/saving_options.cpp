@@ -80,9 +80,9 @@ TEST_F(SavingTest, PutsTheBitsOfACameraWhereTheyBelong) {
             const QByteArray read = readByOthers(path(QString("ramp.") + id), 16);
             ASSERT_EQ(read.size(), 256 * 64 * 6);
             for (int level = 0; level < 256; ++level) {
-                EXPECT_EQ(qFromLittleEndian<quint16>(read.constData() + 6 * level), one.stored(level))
-                    << id << one.bits;
-                EXPECT_EQ(qFromLittleEndian<quint16>(read.constData() + 6 * level + 2), one.stored(255 - level));
+                const char* pixel = read.constData() + std::ptrdiff_t(6) * level;
+                EXPECT_EQ(qFromLittleEndian<quint16>(pixel), one.stored(level)) << id << one.bits;
+                EXPECT_EQ(qFromLittleEndian<quint16>(pixel + 2), one.stored(255 - level));
             }
         }
     }

@@ -38,14 +38,18 @@ void FrameTexts::draw(QPainter& painter, Qt::Alignment alignment, const QString&
 }
 
 void FrameTexts::drawPlates(QPainter& painter, const QStringList& lines) const {
-    painter.setFont(m_font);
+    QFont font = m_font;
+    font.setPixelSize(std::max(SmallestText, m_font.pixelSize() * 2 / 3));
+    painter.setFont(font);
+    painter.setPen(Qt::white);
+    const QFontMetrics metrics(font);
     int bottom = m_place.bottom() - lineHeight() - m_margin;
     for (auto line = lines.crbegin(); line != lines.crend(); ++line) {
-        const QString fitting = QFontMetrics(m_font).elidedText(*line, Qt::ElideMiddle, m_place.width() - m_margin);
-        const QRect plate(m_place.left(), bottom - lineHeight(), widthOf(fitting) + m_margin, lineHeight());
+        const QString fitting = metrics.elidedText(*line, Qt::ElideMiddle, m_place.width() - m_margin);
+        const QRect plate(m_place.left(), bottom - metrics.height(), metrics.horizontalAdvance(fitting) + m_margin,
+                          metrics.height());
         painter.fillRect(plate, Shadow);
-        painter.setPen(Qt::white);
         painter.drawText(plate, int(Qt::AlignCenter) | Qt::TextSingleLine, fitting);
-        bottom -= lineHeight();
+        bottom -= metrics.height();
     }
 }

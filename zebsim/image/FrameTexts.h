@@ -21,7 +21,7 @@ public:
     int widthOf(const QString& text) const;
     /// One line, shortened in its middle to what there is room for, with a shadow.
     void draw(QPainter& painter, Qt::Alignment alignment, const QString& text) const;
-    /// Lines on dark plates, the last one above the lowest line of `place`.
+    /// Smaller lines on dark plates, the last one above the lowest line of `place`.
     void drawPlates(QPainter& painter, const QStringList& lines) const;
 
 private:
