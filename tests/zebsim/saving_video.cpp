@@ -147,7 +147,7 @@ TEST_F(SavingVideo, HoldsAllFramesInEachFormatOrIsNotOffered) {
                         .format;
                 wanted.tracks.erase(wanted.tracks.begin());
                 wanted.encoder = VideoEncoder::installed();
-                const QString fault = videoFault(container, codec.name, rate.toDouble());
+                const QString fault = VideoTrials::installed().fault(container, wanted.format.video);
                 SCOPED_TRACE(QString(what % ' ' % fault).toStdString());
                 const QStringList told = run(wanted);
                 if (!fault.isEmpty()) {

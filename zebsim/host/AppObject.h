@@ -1,6 +1,8 @@
 #pragma once
 
 #include <QObject>
+#include <QSet>
+#include <QThreadPool>
 
 class Preferences;
 class Translator;
@@ -9,6 +11,7 @@ class Translator;
 class AppObject : public QObject {
     Q_OBJECT
     Q_PROPERTY(QString style READ style)
+    Q_PROPERTY(bool trying READ isTrying)
 
 public:
     /// Both outlive the object.
@@ -18,11 +21,22 @@ public:
     QString style() const;
     Q_INVOKABLE QString translate(const QString& text) const;
     /// Why files of a format, as "mp4", can't be written here, and why a video of that kind can't have a codec, as
-    /// "H264", at so many frames a second: texts for the user, empty when it can. The first question may take a moment.
+    /// "H264", at so many frames a second: texts for the user, empty when it can. What is not known yet is tried, and
+    /// such a text says so.
     Q_INVOKABLE QString formatFault(const QString& format) const;
-    Q_INVOKABLE QString videoFault(const QString& kind, const QString& codec, double rate, bool isLossless) const;
+    Q_INVOKABLE QString videoFault(const QString& kind, const QString& codec, double rate, bool isLossless);
+    bool isTrying() const { return m_trying > 0; }
+
+Q_SIGNALS:
+    /// Videos were tried, and more is known.
+    void tried();
 
 private:
     const Preferences& m_prefs;
     const Translator& m_translator;
+    /// Kinds of video that were asked about, and how many of them are not known yet.
+    QSet<QString> m_asked;
+    int m_trying = 0;
+    /// Ends before the rest does.
+    QThreadPool m_trials;
 };

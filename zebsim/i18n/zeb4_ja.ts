@@ -2843,5 +2843,13 @@
         <source>%1 can&apos;t be started. What was saved is complete.</source>
         <translation>%1 を起動できません。保存は完了しています。</translation>
     </message>
+    <message>
+        <source>It is being tried whether such a video can be made.</source>
+        <translation>この形式の動画を作成できるか確認しています。</translation>
+    </message>
+    <message>
+        <source>Written: %1</source>
+        <translation>保存しました: %1</translation>
+    </message>
 </context>
 </TS>

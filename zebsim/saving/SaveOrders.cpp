@@ -48,14 +48,7 @@ QString formatFault(const QString& id) {
     if (QStringList{"raww", "mraw", "graw"}.contains(id)) {
         return uiText("How files of this format are laid out is known to no program here.");
     }
-    QString fault;
-    for (const VideoCodec& codec : videoCodecs()) {
-        fault = saveFormat(id).isVideo() ? videoFault(id, codec.name, VideoOptions::UsualRate) : QString();
-        if (fault.isEmpty()) {
-            break;
-        }
-    }
-    return fault;
+    return saveFormat(id).isVideo() ? VideoTrials::installed().formatFault(id) : QString();
 }
 
 SaveOrders chosenOrders(const PrefReader& pref, const QString& family) {

@@ -2,7 +2,6 @@
 
 #include "FileMetadata.h"
 #include "StopSource.h"
-#include "Threads.h"
 #include "UiText.h"
 
 #include <QLocale>
@@ -12,7 +11,6 @@
 #include <unistd.h>
 
 #include <algorithm>
-#include <atomic>
 #include <random>
 
 namespace {
@@ -21,7 +19,6 @@ constexpr std::chrono::seconds AnswerTime(10);
 /// Odd sides are harder. Where a codec takes another rate, so many frames become more or fewer.
 constexpr QSize Size{33, 31};
 constexpr int Frames = 240;
-const QStringList Containers{"avi", "mov", "mp4"};
 
 /// A file in memory, which another program finds by a path.
 class MemoryFile {
@@ -44,6 +41,11 @@ QByteArray noise() {
     return bytes;
 }
 
+VideoOptions atUsualRate(VideoOptions options) {
+    options.rate = VideoOptions::UsualRate;
+    return options;
+}
+
 }  // namespace
 
 QString VideoTrials::fault(const QString& container, const VideoOptions& options) {
@@ -51,12 +53,11 @@ QString VideoTrials::fault(const QString& container, const VideoOptions& options
     if (m_encoder.program.isEmpty()) {
         return uiText("Video needs the program ffmpeg, which is not installed.");
     }
-    if (!hasEncoder(codec.encoder)) {
+    askForEncoders();
+    if (const std::lock_guard lock(m_mutex); !hasEncoder(codec.encoder)) {
         return uiText("The installed ffmpeg has no encoder %1, which %2 needs.").arg(codec.encoder, codec.name);
     }
-    VideoOptions usual = options;
-    usual.rate = VideoOptions::UsualRate;
-    const Outcome atUsual = outcomeOf(container, usual);
+    const Outcome atUsual = outcomeOf(container, atUsualRate(options));
     const Outcome outcome = atUsual == Made ? outcomeOf(container, options) : atUsual;
     if (outcome == Made) {
         return {};
@@ -71,19 +72,36 @@ QString VideoTrials::fault(const QString& container, const VideoOptions& options
         .arg(codec.name, container.toUpper(), QLocale().toString(options.rate, 'g', 8));
 }
 
-void VideoTrials::tryAll() {
-    std::atomic<int> next{0};
-    const int pairs = Containers.size() * videoCodecs().size();
-    const auto work = [&] {
-        for (int pair = next++; pair < pairs; pair = next++) {
-            VideoOptions options;
-            options.codec = videoCodecs().at(pair / Containers.size()).name;
-            fault(Containers.at(pair % Containers.size()), options);
+std::optional<QString> VideoTrials::knownFault(const QString& container, const VideoOptions& options) {
+    {
+        const std::lock_guard lock(m_mutex);
+        const auto isTried = [&](const VideoOptions& tried) {
+            const auto outcome = m_outcomes.find(keyOf(container, tried));
+            return outcome != m_outcomes.end() &&
+                   outcome->second.wait_for(std::chrono::seconds(0)) == std::future_status::ready;
+        };
+        const VideoOptions usual = atUsualRate(options);
+        const bool isRefused = isTried(usual) && m_outcomes.at(keyOf(container, usual)).get() != Made;
+        const bool isKnown =
+            m_encoders && (!hasEncoder(options.used().encoder) || isRefused || (isTried(usual) && isTried(options)));
+        if (!m_encoder.program.isEmpty() && !isKnown) {
+            return std::nullopt;
         }
-    };
-    auto others = startThreads(std::max(1U, std::thread::hardware_concurrency()) - 1, work);
-    work();
-    join(others);
+    }
+    return fault(container, options);
+}
+
+QString VideoTrials::formatFault(const QString& container) {
+    QString fault;
+    for (const VideoCodec& codec : videoCodecs()) {
+        VideoOptions options;
+        options.codec = codec.name;
+        fault = knownFault(container, options).value_or(QString());
+        if (fault.isEmpty()) {
+            break;
+        }
+    }
+    return fault;
 }
 
 VideoTrials& VideoTrials::installed() {
@@ -91,7 +109,7 @@ VideoTrials& VideoTrials::installed() {
     return trials;
 }
 
-bool VideoTrials::hasEncoder(const QString& name) {
+void VideoTrials::askForEncoders() {
     const std::lock_guard lock(m_mutex);
     if (!m_encoders) {
         const StopSource never;
@@ -99,13 +117,20 @@ bool VideoTrials::hasEncoder(const QString& name) {
         asked.finish();
         m_encoders = asked.answer();
     }
+}
+
+bool VideoTrials::hasEncoder(const QString& name) const {
     // One that tells nothing is tried.
     const QRegularExpression line(QStringLiteral("^\\s*V\\S+ %1 ").arg(name), QRegularExpression::MultilineOption);
     return m_encoders->isEmpty() || line.match(*m_encoders).hasMatch();
 }
 
+QString VideoTrials::keyOf(const QString& container, const VideoOptions& options) {
+    return QStringList{container, options.used().encoder, options.rateText()}.join(QLatin1Char(' '));
+}
+
 VideoTrials::Outcome VideoTrials::outcomeOf(const QString& container, const VideoOptions& options) {
-    const QString key = QStringList{container, options.used().encoder, options.rateText()}.join(QLatin1Char(' '));
+    const QString key = keyOf(container, options);
     std::promise<Outcome> own;
     {
         std::unique_lock lock(m_mutex);
@@ -139,12 +164,4 @@ VideoTrials::Outcome VideoTrials::run(const QString& container, const VideoOptio
            : !isMade                                                      ? Refused
            : m_encoder.framesIn(file.path(), never, AnswerTime) == Frames ? Made
                                                                           : FramesLost;
-}
-
-QString videoFault(const QString& container, const QString& codec, double rate, bool isLossless) {
-    VideoOptions options;
-    options.codec = codec;
-    options.rate = rate;
-    options.isLossless = isLossless;
-    return VideoTrials::installed().fault(container, options);
 }

@@ -19,8 +19,10 @@ public:
     /// Why no video of the format `container`, as "mp4", can be made so, in the user's language; empty when it can. It
     /// takes some tenths of a second when nobody has tried it yet, and some seconds when the program does not answer.
     QString fault(const QString& container, const VideoOptions& options);
-    /// Tries all codecs in all formats at the usual rate, side by side.
-    void tryAll();
+    /// The same without waiting; nothing while it is not known.
+    std::optional<QString> knownFault(const QString& container, const VideoOptions& options);
+    /// Why no video of that format can be made at all, as far as it is known.
+    QString formatFault(const QString& container);
 
     /// Those of the program of this machine.
     static VideoTrials& installed();
@@ -28,7 +30,10 @@ public:
 private:
     enum Outcome { Made, Refused, FramesLost, NoAnswer };
 
-    bool hasEncoder(const QString& name);
+    /// Whether the program has it, as far as it is known.
+    bool hasEncoder(const QString& name) const;
+    void askForEncoders();
+    static QString keyOf(const QString& container, const VideoOptions& options);
     Outcome outcomeOf(const QString& container, const VideoOptions& options);
     Outcome run(const QString& container, const VideoOptions& options) const;
 
@@ -37,6 +42,3 @@ private:
     std::map<QString, std::shared_future<Outcome>> m_outcomes;
     std::optional<QString> m_encoders;
 };
-
-/// The same of the program of this machine, for a codec as "MPEG2" in a format as "mp4" at `rate` frames a second.
-QString videoFault(const QString& container, const QString& codec, double rate, bool isLossless = false);

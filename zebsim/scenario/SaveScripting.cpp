@@ -22,6 +22,8 @@
 namespace {
 
 constexpr int ActivationMs = 2000;
+/// What videos can be made is found out by making some.
+constexpr int TrialMs = 60000;
 const QString Folder = QStringLiteral("folder");
 const QString Format = QStringLiteral("format");
 const QString Agree = QStringLiteral("agree");
@@ -44,6 +46,13 @@ QString fill(QWebView& page, const QString& suffix, const QVariant& value) {
     return PageScript(script.arg(scriptString(suffix), QString::fromUtf8(values))).run(page).toString();
 }
 
+void waitForTrials(QWebView& page) {
+    QElapsedTimer asked;
+    asked.start();
+    waitUntil([&] { return !PageScript(QStringLiteral("app.trying")).run(page).toBool(); },
+              [&] { return asked.hasExpired(TrialMs); });
+}
+
 bool isOption(const QString& suffix) {
     const QList<SaveOption>& options = saveOptions();
     return std::any_of(options.begin(), options.end(),
@@ -57,11 +66,13 @@ void fill(QWebView& page, const QVariantMap& target) {
             throw ScenarioError(QStringLiteral("a save has no option %1").arg(suffix));
         }
         const QVariant value = suffix == Format ? QVariant(saveFormat(member->toString()).id) : *member;
+        waitForTrials(page);
         const QString fault = fill(page, suffix, value);
         if (!fault.isEmpty()) {
             throw ScenarioError(QStringLiteral("%1: %2").arg(suffix, fault));
         }
     }
+    waitForTrials(page);
     const QString fault = PageScript(QStringLiteral("byId('fault').textContent")).run(page).toString();
     if (!fault.isEmpty()) {
         throw ScenarioError(QStringLiteral("the page does not save: %1").arg(fault));
@@ -74,7 +85,7 @@ QVariantMap plainPlan(const SavePlan& plan) {
     for (std::size_t i = 0; i < orders.tracks.size(); ++i) {
         const SaveTrack& track = orders.tracks[i];
         tracks.append(QVariantMap{{QStringLiteral("name"), track.name},
-                                  {QStringLiteral("files"), filesIn(track, orders.format)},
+                                  {QStringLiteral("files"), orders.filesOf(track)},
                                   {QStringLiteral("first"), orders.fileOf(track, track.from)},
                                   {QStringLiteral("last"), orders.fileOf(track, track.frames() - 1)},
                                   {QStringLiteral("bytes"), double(plan.bytes[i])}});

@@ -1,5 +1,7 @@
 // Which formats there are, and what can be written here.
 
+const USUAL_RATE = 30;
+
 const saveFormats = {
     begin() {
         const formats = {
@@ -23,6 +25,10 @@ const saveFormats = {
         }));
         saveOptions.read();
         this.tellMissing();
+        app.tried.connect(() => savePage.logged(() => {
+            this.update();
+            savePage.show();
+        }));
     },
 
     codecFields() {
@@ -46,23 +52,24 @@ const saveFormats = {
             .map(reason => `${reasons.get(reason).join(', ')}: ${reason}`).join('\n');
     },
 
-    // At another rate a container takes other codecs.
+    // What can't be chosen, in the files of the chosen format. A codec that is fine at the usual rate stays on offer.
     update() {
-        this.codecFields().forEach(field => {
-            const kind = field.getAttribute('data-codec');
+        const format = saveOptions.value('format');
+        Array.from(byId('format').options).forEach(option => { option.disabled = this.missing(option.value) !== ''; });
+        this.codecFields().filter(field => field.getAttribute('data-codec') === format).forEach(field => {
             Array.from(field.options).forEach(option => {
-                option.disabled = this.videoFault(kind, option.value) !== '';
+                option.disabled = app.videoFault(format, option.value, USUAL_RATE, false) !== '';
             });
-            document.querySelector(`[data-video="${kind}"]`).textContent = this.videoFault(kind);
+            document.querySelector(`[data-video="${format}"]`).textContent = this.videoFault(format);
         });
     },
 
-    // Why a kind of video can't have a codec, that which is chosen when none is told.
-    videoFault(kind, codec) {
+    // Why a video can't be as it is chosen.
+    videoFault(kind) {
         const rate = saveOptions.value(`${kind}/framerate`);
-        const chosen = codec || saveOptions.value(`${kind}/codec`);
-        const isLossless = kind === 'mp4' && chosen === 'H264' && saveOptions.value('mp4/lossless');
-        return rate === undefined ? '' : app.videoFault(kind, chosen, rate, isLossless);
+        const codec = saveOptions.value(`${kind}/codec`);
+        const isLossless = kind === 'mp4' && codec === 'H264' && saveOptions.value('mp4/lossless');
+        return rate === undefined ? '' : app.videoFault(kind, codec, rate, isLossless);
     },
 
     fault() {
