@@ -24,6 +24,7 @@ function plan(order) {
     return seen;
 }
 
+zeb.setPref('export/saveinf', false);    // images alone
 zeb.rig('names.json');
 zeb.keys().forEach(key => {
     zeb.setCamera(key, {connected: true, recordCheck: true, recorded: true, resolution: [64, 48], recordedTrigger: 10});

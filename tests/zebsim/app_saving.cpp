@@ -370,6 +370,19 @@ TEST_F(AppSaving, TakesSnapshots) {
     EXPECT_EQ(first.size(), QSize(64, 64));
     EXPECT_TRUE(first.text("Description").startsWith("{\"camera\":\"Gate/1\",\"rate\":1000,\"shutter\":1000,"));
     EXPECT_TRUE(first.textKeys().contains("frame") && !first.textKeys().contains("time")) << "live has no trigger";
+    for (const char* option : {"snap/cihx", "snap/overwrite", "snap/notify"}) {
+        host.prefs().setValue(option, true);
+    }
+    host.prefs().setValue("snap/filenameaddtime", false);
+    host.prefs().setValue("snap/filenameaddnumbersessionnodigits", 0);
+    for (const char* format : {"bmp", "jpeg", "bmp"}) {
+        host.prefs().setValue("snap/format", format);
+        host.saver().snapShot(1);
+    }
+    const QStringList again = filesIn("snap").filter("Gate_1_C01H1.");
+    EXPECT_EQ(again, QStringList({"Gate_1_C01H1.bmp", "Gate_1_C01H1.cih", "Gate_1_C01H1.jpg"})) << "replaced";
+    EXPECT_TRUE(contentOf(folder.filePath("snap/Gate_1_C01H1.cih")).contains("Gate_1_C01H1.bmp"));
+    EXPECT_THAT(messages().last().toStdString(), testing::EndsWith("Gate_1_C01H1.bmp"));
     host.prefs().setValue("snap/dir", folder.filePath("p.ini"));
     host.saver().snapShot(1);
     EXPECT_THAT(messages().join("|").toStdString(), testing::StartsWith(folder.filePath("p.ini").toStdString()));

@@ -5,6 +5,7 @@
 #include "FileWriter.h"
 #include "FramePicture.h"
 #include "GUI_SaveDialog.h"
+#include "InformationFile.h"
 #include "SaveOrders.h"
 #include "SaveTargets.h"
 #include "SimHost.h"
@@ -20,41 +21,65 @@ namespace {
 
 enum Mode { ToFile = 1, ToClipboard = 2, ToBoth = 3, Settings = 4 };
 
+std::optional<Recording> recordingOf(const SimHost& host, const Camera& camera) {
+    return host.isMemoryMode() ? camera.recording() : std::nullopt;
+}
+
 FileMetadata metadataOf(const SimHost& host, const Camera& camera, const CameraFrame& frame) {
-    const auto recording = host.isMemoryMode() ? camera.recording() : std::nullopt;
+    const auto recording = recordingOf(host, camera);
     return FileMetadata::of(recording ? FrameMetadata::recorded(*recording, frame)
                                       : FrameMetadata::live(camera.state(), frame));
 }
 
-/// A snapshot is one picture in one file.
-SaveFormat formatOf(const SimHost& host) {
+SaveOrders ordersOf(const SimHost& host) {
     const auto pref = [&host](const QString& key) { return host.prefs().value(key); };
-    SaveFormat format = chosenOrders(pref, nameFamily(zeb::SnapShotFile)).format;
-    format.options.isMultiPage = false;
-    return format.isVideo() ? saveFormats().first() : format;
+    SaveOrders orders = chosenOrders(pref, nameFamily(zeb::SnapShotFile));
+    // A snapshot is one picture in one file.
+    orders.format.options.isMultiPage = false;
+    orders.format = orders.format.isVideo() ? saveFormats().first() : orders.format;
+    return orders;
 }
 
-/// Throws.
-void writePicture(SimHost& host, const CameraFrame& frame, const QImage& image) {
+void writeInformation(const SimHost& host, const Camera& camera, const CameraFrame& frame, const SaveOrders& orders,
+                      const QString& stem, const QString& file, Over over) {
+    const auto recording = recordingOf(host, camera);
+    const int inMemory = recording ? int(frame.number) + recording->zero : 0;
+    const RecordingInformation information =
+        informationOf(camera, recording, inMemory, orders.format, file, orders.date);
+    writeFile(informationPath(stem), information.toJson(), over);
+}
+
+/// Answers its path. Throws.
+QString writePicture(SimHost& host, const CameraFrame& frame, const QImage& image) {
     const DOCKEY key = host.docManager().currentKey();
     const Camera* camera = host.cameras().find(key);
-    const SaveFormat format = formatOf(host);
-    const QString file = snapShotStem(host, key, QDateTime::currentDateTime()) % QLatin1Char('.') % format.suffix;
+    const SaveOrders orders = ordersOf(host);
+    const QString stem = snapShotStem(host, key, orders.date);
+    const QString file = stem % QLatin1Char('.') % orders.format.suffix;
     const QString folder = QFileInfo(file).path();
     if (!QDir().mkpath(folder)) {
         throw FileError(folder, TextKey("there can't be such a folder"));
     }
-    const QByteArray bytes = camera ? format.encoded(image, metadataOf(host, *camera, frame), camera->model().bitDepth)
-                                    : format.encoded(image, {});
+    const QByteArray bytes =
+        camera ? orders.format.encoded(image, metadataOf(host, *camera, frame), camera->model().bitDepth)
+               : orders.format.encoded(image, {});
     if (bytes.isEmpty()) {
         throw FileError(file, TextKey("the picture has no such form"));
     }
-    writeFile(file, bytes, Over::Nothing);
+    const Over over = host.prefs().value("snap/overwrite").toBool() ? Over::OldFile : Over::Nothing;
+    writeFile(file, bytes, over);
+    if (orders.hasInformation && camera) {
+        writeInformation(host, *camera, frame, orders, stem, file, over);
+    }
+    return file;
 }
 
 void tryToWrite(SimHost& host, const CameraFrame& frame, const QImage& image) {
     try {
-        writePicture(host, frame, image);
+        const QString file = writePicture(host, frame, image);
+        if (host.prefs().value("snap/notify").toBool()) {
+            host.messages().notify(Message::Info, uiText("Written: %1").arg(QDir::toNativeSeparators(file)));
+        }
     } catch (const FileError& e) {
         host.messages().tell(Message::Alert,
                              uiText("%1 can't be written: %2")

@@ -46,6 +46,7 @@ const savePage = Object.assign(dialogFrame(saveBridge), {
     // The host has changed: cameras come and go, and others set preferences.
     update() {
         this.applyStyle();
+        saveNames.update();
         saveOptions.read();
         saveFormats.update();
         saveTargets.update();

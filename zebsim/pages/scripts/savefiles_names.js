@@ -29,20 +29,19 @@ const saveNames = {
         });
     },
 
-    // The camera whose custom information can stand in the names of all.
-    fillCameras(records) {
+    // The cameras whose custom information can stand in the names of all.
+    update() {
         const list = byId('custom_camera');
-        const cameras = new Map(records.filter(record => !record.gone).map(record => [record.dockey, record.label]));
-        const text = JSON.stringify(Array.from(cameras));
-        if (list.getAttribute('data-cameras') === text) {
+        const cameras = saveBridge.getDeviceInfoList(false).map(device => [device.key, device.cameraname]);
+        if (list.getAttribute('data-cameras') === JSON.stringify(cameras)) {
             return;
         }
-        list.setAttribute('data-cameras', text);
+        list.setAttribute('data-cameras', JSON.stringify(cameras));
         list.textContent = '';
-        cameras.forEach((label, key) => {
+        cameras.forEach(([key, name]) => {
             const option = document.createElement('option');
             option.value = key;
-            option.textContent = label;
+            option.textContent = name;
             list.appendChild(option);
         });
         list.value = saveOptions.stored('filenameusecustomfromtargetkey', 'int');

@@ -36,8 +36,9 @@ const saveOptions = {
         byId('video').innerHTML = ['avi', 'mov', 'mp4'].map(kind => part('video_part', {
             KIND: kind, LOSSY: kind === 'mp4' ? '!mp4/lossless' : ''
         })).join('');
-        const lossless = byId('video').querySelectorAll('[data-kinds]');
-        Array.from(lossless).forEach(label => { label.hidden = !label.closest('[data-format="mp4"]'); });
+        Array.from(byId('video').querySelectorAll('[data-kinds]'))
+            .filter(label => !label.closest(`[data-format="${label.getAttribute('data-kinds')}"]`))
+            .forEach(label => { label.parentNode.removeChild(label); });
     },
 
     begin(tell) {

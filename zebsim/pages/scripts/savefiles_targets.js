@@ -43,7 +43,6 @@ const saveTargets = {
         }
         this.draw();
         this.tellTicked();
-        saveNames.fillCameras(this.records);
     },
 
     rows() {
@@ -105,11 +104,11 @@ const saveTargets = {
     // Partitions of a camera differ at the end of their labels, which is not to be cut off.
     fillName(cell, record) {
         const isLonger = record.label.indexOf(record.camera) === 0;
-        const end = (isLonger ? record.label.slice(record.camera.length) : '') + (record.gone ? `: ${record.gone}` : '');
+        const end = isLonger ? record.label.slice(record.camera.length) : '';
         cell.title = record.label;
         cell.innerHTML = '<div class="name"><span class="cut"></span><span></span></div>';
         cell.querySelector('.cut').textContent = isLonger ? record.camera : record.label;
-        cell.querySelector('.cut + span').textContent = end;
+        cell.querySelector('.cut + span').textContent = record.gone ? `${end}: ${record.gone}` : end;
     },
 
     // Ticks, and the row that is looked at.
