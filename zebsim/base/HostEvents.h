@@ -25,6 +25,10 @@ Q_SIGNALS:
     void somethingRecorded();
     /// One new live image of each camera is wanted while they stand.
     void liveImageWanted();
+    /// A storage medium was put in, pulled out, opened, closed or erased.
+    void mediaChanged();
+    /// One whose recordings were documents was pulled out. A zeb::MediumKind, or an SD card.
+    void openMediumGone(int kind, const QString& name);
     /// An update cycle has reached all plug-ins and bridges.
     void updateFinished();
 };

@@ -27,8 +27,25 @@ struct RigHub {
     HubState state;
 };
 
-/// What to simulate: cameras in the order in which the host shows them, and Sync Hubs.
+/// A storage medium as a rig, or its user, describes it: a folder stands for it.
+struct RigMedium {
+    /// A `zeb::MediumKind`, or `SdCard`.
+    int kind = SdCard;
+    QString name;
+    /// Made when it is not there.
+    QString folder;
+    /// In bytes; 0: as much as the folder's disk has.
+    qint64 capacity = 0;
+    /// That it gets when it has none yet.
+    QString password;
+    bool isProtected = false;
+
+    static constexpr int SdCard = 0;
+};
+
+/// What to simulate: cameras in the order in which the host shows them, Sync Hubs, and the media that are in.
 struct Rig {
     QList<RigDevice> devices;
     QList<RigHub> hubs;
+    QList<RigMedium> media;
 };

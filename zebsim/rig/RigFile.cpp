@@ -1,5 +1,6 @@
 #include "RigFile.h"
 
+#include "ByteText.h"
 #include "DeviceAddress.h"
 #include "JsonError.h"
 #include "JsonNode.h"
@@ -55,6 +56,34 @@ public:
         return hub;
     }
 
+    /// Its folder begins in that of the rig file.
+    static RigMedium readMedium(const JsonNode& node, const QDir& home) {
+        static const QStringList kinds = {QStringLiteral("sd"), QStringLiteral("quikDrive"), QStringLiteral("cfast")};
+        node.allowOnly({QStringLiteral("kind"), QStringLiteral("name"), QStringLiteral("folder"),
+                        QStringLiteral("capacity"), QStringLiteral("password"), QStringLiteral("protected")});
+        RigMedium medium;
+        const JsonNode kind = node.member(QStringLiteral("kind"));
+        medium.kind = int(kinds.indexOf(kind.text()));
+        if (medium.kind < 0) {
+            kind.fail(QStringLiteral("one of %1 is expected").arg(kinds.join(QStringLiteral(", "))));
+        }
+        medium.name = node.member(QStringLiteral("name")).text();
+        medium.folder = home.absoluteFilePath(node.member(QStringLiteral("folder")).text());
+        if (node.has(QStringLiteral("capacity"))) {
+            const JsonNode capacity = node.member(QStringLiteral("capacity"));
+            const auto bytes = bytesOf(capacity.text());
+            if (!bytes || *bytes <= 0) {
+                capacity.fail(QStringLiteral("a size as \"8 GB\" is expected"));
+            }
+            medium.capacity = *bytes;
+        }
+        if (node.has(QStringLiteral("password"))) {
+            medium.password = node.member(QStringLiteral("password")).text();
+        }
+        medium.isProtected = node.has(QStringLiteral("protected")) && node.member(QStringLiteral("protected")).flag();
+        return medium;
+    }
+
 private:
     /// The address of what `owner` describes, which nothing else may have.
     QString readAddress(const JsonNode& owner) {
@@ -95,7 +124,8 @@ Rig readRig(const QString& pathOrName) {
     const QString path =
         shippedRigs().contains(pathOrName) ? QString(shippedFolder % pathOrName % QStringLiteral(".json")) : pathOrName;
     const JsonNode file = JsonNode::fromFile(path);
-    file.allowOnly({QStringLiteral("models"), QStringLiteral("devices"), QStringLiteral("hubs")});
+    file.allowOnly(
+        {QStringLiteral("models"), QStringLiteral("devices"), QStringLiteral("hubs"), QStringLiteral("media")});
     if (file.has(QStringLiteral("models"))) {
         models.addFile(QFileInfo(path).dir().filePath(file.member(QStringLiteral("models")).text()));
     }
@@ -107,6 +137,11 @@ Rig readRig(const QString& pathOrName) {
     if (file.has(QStringLiteral("hubs"))) {
         for (const JsonNode& node : file.member(QStringLiteral("hubs")).items()) {
             rig.hubs.append(reader.readHub(node));
+        }
+    }
+    if (file.has(QStringLiteral("media"))) {
+        for (const JsonNode& node : file.member(QStringLiteral("media")).items()) {
+            rig.media.append(RigReader::readMedium(node, QFileInfo(path).absoluteDir()));
         }
     }
     return rig;
