@@ -7,6 +7,7 @@ class HostCalls;
 class HostEvents;
 class HostMessages;
 class HostWindows;
+class MediaShelf;
 class Notices;
 class Preferences;
 class SimAppStatus;
@@ -39,6 +40,7 @@ struct HostContext {
     const SimRecorder& recorder;
     SimDocManager& docs;
     const SimSaver& saver;
+    MediaShelf& shelf;
     /// Those of the application come and go; never null.
     HostWindows* const& windows;
 };

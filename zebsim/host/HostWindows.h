@@ -8,6 +8,7 @@
 #include <QString>
 #include <QStringList>
 
+#include <functional>
 #include <optional>
 
 class ParallelRows;
@@ -19,6 +20,8 @@ struct ZebSupportFile;
 /// nothing happens. GUI thread.
 class HostWindows {
 public:
+    using PasswordTest = std::function<bool(const QString& password)>;
+
     virtual ~HostWindows() = default;
 
     /// The dialog of preferences; null without an application.
@@ -37,6 +40,8 @@ public:
 
     /// Asks what is to be saved of the recordings and where, each camera for itself or all in one picture, and begins.
     virtual void save(bool /*layout*/) {}
+    /// The same of the recordings of these documents alone, each for itself.
+    virtual void importRecordings(const DocKeyList& /*keys*/) {}
     virtual bool isSaving() const { return false; }
     /// As `ZebSaver::snapShot`.
     virtual void snapShot(int /*mode*/) {}
@@ -44,8 +49,13 @@ public:
     /// The form of a time code, and what a saved picture tells of these cameras; false when the user has given up.
     virtual bool openTimeCode() { return false; }
     virtual bool openSaveInfo(const DocKeyList& /*keys*/) { return false; }
-    /// The password of a medium of that name, or the one that it is to have. Nothing when the user has given up.
-    virtual std::optional<QString> askPassword(const QString& /*medium*/, bool /*isNew*/) { return std::nullopt; }
+    /// Asks for the password of a medium of that name until one `fits`; false when the user has given up.
+    virtual bool askPassword(const QString& /*medium*/, const PasswordTest& /*fits*/) { return false; }
+    /// Asks for a new one, empty for none, and for the old one where `fits` is there. Nothing when the user has given
+    /// up.
+    virtual std::optional<QString> askNewPassword(const QString& /*medium*/, const PasswordTest& /*fits*/) {
+        return std::nullopt;
+    }
 
     /// Number of the recorded frame of a camera that is shown.
     virtual int shownFrame(DOCKEY /*key*/, const Recording& recording) const { return recording.selectedFirst; }

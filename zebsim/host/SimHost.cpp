@@ -69,6 +69,9 @@ void SimHost::setRig(const Rig& rig) {
     m_faults.clear();
     m_cameras.replace(rig);
     m_signalDevices.replace(rig.hubs);
+    for (const QString& failure : m_shelf.replace(rig.media)) {
+        m_messages.notify(Message::Warn, failure);
+    }
     Q_EMIT m_events.camerasReplaced();
     m_updates.request();
 }

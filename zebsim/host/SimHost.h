@@ -15,6 +15,7 @@
 #include "ImageEffects.h"
 #include "ImagePlugins.h"
 #include "Journal.h"
+#include "MediaShelf.h"
 #include "Notices.h"
 #include "Preferences.h"
 #include "RestartWatch.h"
@@ -82,6 +83,7 @@ public:
     Preferences& prefs() { return m_prefs; }
     const Preferences& prefs() const { return m_prefs; }
     StatusFlags& flags() { return m_flags; }
+    MediaShelf& shelf() { return m_shelf; }
     SyncSignal& syncSignal() { return m_syncSignal; }
     HostEvents& events() { return m_events; }
     const UnsavedGuard& unsavedGuard() const { return m_unsavedGuard; }
@@ -297,6 +299,7 @@ private:
     CameraBank m_cameras;
     StatusFlags m_flags;
     HostEvents m_events;
+    MediaShelf m_shelf{m_events};
     UpdateCycle m_updates;
     Translator m_translator;
     AppObject m_appObject;
@@ -307,9 +310,10 @@ private:
     QPointer<QWidget> m_mainWindow;
     QPointer<QWidget> m_mdiWidget;
 
-    const HostContext m_context{m_clock,     m_calls,      m_cameras,    m_batch,      m_prefs,   m_flags,
-                                m_events,    m_updates,    m_translator, m_messages,   m_notices, m_unsavedGuard,
-                                m_appStatus, m_syncSignal, m_recorder,   m_docManager, m_saver,   m_windows};
+    const HostContext m_context{m_clock,      m_calls,        m_cameras,   m_batch,      m_prefs,
+                                m_flags,      m_events,       m_updates,   m_translator, m_messages,
+                                m_notices,    m_unsavedGuard, m_appStatus, m_syncSignal, m_recorder,
+                                m_docManager, m_saver,        m_shelf,     m_windows};
     HostBatch m_batch;
     HostMessages m_messages;
     HostPrefs m_hostPrefs;

@@ -1,80 +1,209 @@
 #include "SimMedia.h"
 
 #include "HostCalls.h"
-#include "HostContext.h"
+#include "HostEvents.h"
+#include "HostMessages.h"
+#include "HostWindows.h"
 #include "Journal.h"
+#include "SimDocManager.h"
 #include "TextKey.h"
 #include "Translator.h"
+#include "UpdateCycle.h"
+
+#include <QFutureWatcher>
+#include <QtConcurrent/QtConcurrentRun>
+#include <QtDebug>
 
 #include <stdexcept>
 
-void SimMedia::refuse(const QString& medium) const {
-    const QString text = TextKey("%1 is not there any more.");
+namespace {
+
+QString letterOf(int drive) {
+    return QChar('A' + drive) % QStringLiteral(":");
+}
+
+}  // namespace
+
+SimMedia::SimMedia(const HostContext& host) : m_host(host) {
+    QObject::connect(&host.events, &HostEvents::openMediumGone, &m_watch, [this](int kind, const QString& name) {
+        closeDocs(kind);
+        const QString text = TextKey("%1 was pulled out. Its recordings are closed.");
+        m_host.messages.notify(Message::Warn, m_host.translator.translate(text).arg(name));
+    });
+    QObject::connect(&host.events, &HostEvents::mediaChanged, &m_watch, [this] { m_host.updates.request(); });
+    QObject::connect(&host.events, &HostEvents::updateFinished, &m_watch, [this] { m_host.shelf.lookAround(); });
+}
+
+void SimMedia::refuse(const QString& text, const QString& medium) const {
     throw std::runtime_error(m_host.translator.translate(text).arg(medium).toStdString());
 }
 
-QList<zeb::Medium> SimMedia::getMedia(int /*kind*/) const {
-    m_host.calls.ask(OPERATION("getMedia"));
-    return {};
+MediaShelf::Held SimMedia::there(int kind, const zeb::Medium& medium) const {
+    MediaShelf::Held held = m_host.shelf.find(kind, medium);
+    if (!held) {
+        refuse(TextKey("%1 is not there any more."), medium.name);
+    }
+    return held;
 }
 
-bool SimMedia::getOpenMedium(int /*kind*/, zeb::Medium& /*out*/) const {
+QList<zeb::Medium> SimMedia::getMedia(int kind) const {
+    m_host.calls.ask(OPERATION("getMedia"));
+    QList<zeb::Medium> media;
+    for (const MediaShelf::Held& medium : m_host.shelf.media(kind)) {
+        media.append(medium->place());
+    }
+    return media;
+}
+
+bool SimMedia::getOpenMedium(int kind, zeb::Medium& out) const {
     m_host.calls.ask(OPERATION("getOpenMedium"));
-    return false;
+    const MediaShelf::Held open = m_host.shelf.open(kind);
+    out = open ? open->place() : out;
+    return open != nullptr;
 }
 
 void SimMedia::openMedium(int kind, const zeb::Medium& medium) {
     m_host.calls.change(OPERATION("ZebMedia::openMedium"), {kind, medium.name});
-    refuse(medium.name);
+    const MediaShelf::Held held = there(kind, medium);
+    if (held->isLocked()) {
+        refuse(TextKey("%1 is locked by a password."), held->name());
+    }
+    open(held);
+}
+
+unsigned int SimMedia::sdDriveMask() const {
+    unsigned int mask = 0;
+    for (const MediaShelf::Held& card : m_host.shelf.media(RigMedium::SdCard)) {
+        mask |= 1U << unsigned(card->place().drive);
+    }
+    return mask;
+}
+
+bool SimMedia::getOpenSdDrive(int& drive) const {
+    const MediaShelf::Held open = m_host.shelf.open(RigMedium::SdCard);
+    drive = open ? open->place().drive : drive;
+    return open != nullptr;
 }
 
 void SimMedia::openSdDrive(int drive) {
     m_host.calls.change(OPERATION("ZebDocManager::openSdDrive"), {drive});
-    refuse(QChar('A' + drive) % QStringLiteral(":"));
+    const MediaShelf::Held card = there(RigMedium::SdCard, {RigMedium::SdCard, drive, 0, letterOf(drive)});
+    if (!card->isLocked() || unlock(card)) {
+        open(card);
+    }
 }
 
 void SimMedia::closeMedium(int kind) {
     m_host.calls.change(OPERATION("ZebMedia::closeMedium"), {kind});
+    close(kind);
+}
+
+void SimMedia::close(int kind) {
+    if (m_host.shelf.open(kind)) {
+        closeDocs(kind);
+        m_host.shelf.close(kind);
+    }
 }
 
 bool SimMedia::formatMedium(int kind, const zeb::Medium& medium) {
     m_host.calls.change(OPERATION("ZebMedia::formatMedium"), {kind, medium.name});
-    return false;
+    const MediaShelf::Held held = m_host.shelf.find(kind, medium);
+    if (!held || held->isProtected() || held->isLocked()) {
+        qWarning().noquote() << medium.name << "was not formatted: it is gone, write protected or locked";
+        return false;
+    }
+    if (m_host.shelf.open(kind) == held) {
+        close(kind);
+    }
+    const qint64 used = held->use().used;
+    const QString text = m_host.translator.translate(TextKey("Formatting %1...")).arg(held->name());
+    QFutureWatcher<bool> work;
+    work.setFuture(QtConcurrent::run([held] { return held->erase(); }));
+    m_host.docs.endTurn();
+    m_host.windows->runProgress(text, work);
+    work.waitForFinished();
+    if (held->isThere()) {
+        held->noteErased(used - held->use().used);
+    }
+    m_host.updates.request();
+    return work.result();
 }
 
-zeb::MediumUse SimMedia::getMediumUse(int /*kind*/, const zeb::Medium& /*medium*/) const {
+zeb::MediumUse SimMedia::getMediumUse(int kind, const zeb::Medium& medium) const {
     m_host.calls.ask(OPERATION("getMediumUse"));
-    return {};
+    const MediaShelf::Held held = m_host.shelf.find(kind, medium);
+    return held ? held->use() : zeb::MediumUse();
 }
 
-bool SimMedia::isMediumLocked(int /*kind*/, const zeb::Medium& /*medium*/) const {
+bool SimMedia::isMediumLocked(int kind, const zeb::Medium& medium) const {
     m_host.calls.ask(OPERATION("isMediumLocked"));
-    return false;
+    const MediaShelf::Held held = m_host.shelf.find(kind, medium);
+    return held && held->isLocked();
 }
 
-bool SimMedia::hasMediumPassword(int /*kind*/, const zeb::Medium& /*medium*/) const {
+bool SimMedia::hasMediumPassword(int kind, const zeb::Medium& medium) const {
     m_host.calls.ask(OPERATION("hasMediumPassword"));
-    return false;
+    const MediaShelf::Held held = m_host.shelf.find(kind, medium);
+    return held && held->hasPassword();
 }
 
 bool SimMedia::unlockMedium(int kind, const zeb::Medium& medium) {
     m_host.calls.change(OPERATION("ZebMedia::unlockMedium"), {kind, medium.name});
-    return false;
+    return unlock(there(kind, medium));
+}
+
+bool SimMedia::unlock(const MediaShelf::Held& medium) {
+    m_host.docs.endTurn();
+    const auto fits = [medium](const QString& password) { return medium->fits(password); };
+    if (!m_host.windows->askPassword(medium->name(), fits)) {
+        return false;
+    }
+    if (!medium->isThere()) {
+        refuse(TextKey("%1 is not there any more."), medium->name());
+    }
+    medium->unlock();
+    m_host.updates.request();
+    return true;
 }
 
 std::optional<bool> SimMedia::setMediumPassword(int kind, const zeb::Medium& medium) {
     m_host.calls.change(OPERATION("ZebMedia::setMediumPassword"), {kind, medium.name});
-    return false;
+    const MediaShelf::Held held = there(kind, medium);
+    m_host.docs.endTurn();
+    HostWindows::PasswordTest fits;
+    if (held->hasPassword()) {
+        fits = [held](const QString& password) { return held->fits(password); };
+    }
+    const std::optional<QString> password = m_host.windows->askNewPassword(held->name(), fits);
+    if (!password) {
+        return std::nullopt;
+    }
+    try {
+        held->setPassword(*password);
+    } catch (const std::exception& e) {
+        qWarning().noquote() << e.what();
+        return false;
+    }
+    m_host.updates.request();
+    return true;
 }
+
+void SimMedia::open(const MediaShelf::Held& medium) {
+    close(medium->kind());
+    m_host.shelf.setOpen(medium);
+}
+
+void SimMedia::closeDocs(int /*kind*/) {}
 
 void SimMedia::importDocs(const DocKeyList& keys) {
     m_host.calls.change(OPERATION("ZebMedia::importDocs"), {Journal::keyList(keys)});
+    m_host.windows->importRecordings(keys);
 }
 
 void SimMedia::openFiles(const QStringList& paths) {
     m_host.calls.change(OPERATION("ZebMedia::openFiles"), {paths});
     if (!paths.isEmpty()) {
-        refuse(paths.first());
+        refuse(TextKey("%1 is not there any more."), paths.first());
     }
 }
 

@@ -1,18 +1,22 @@
 #pragma once
 
+#include "HostContext.h"
+#include "MediaShelf.h"
 #include "ZebMedia.h"
 
-struct HostContext;
+#include <QObject>
 
-/// Storage media. None is there: lists are empty, and whoever opens one is told that it has gone.
+/// The storage media of the shelf, as plug-ins and pages reach them. The recordings of one that is pulled out are no
+/// documents any more, and the user is told.
 class SimMedia : public ZebMedia {
 public:
-    explicit SimMedia(const HostContext& host) : m_host(host) {}
+    explicit SimMedia(const HostContext& host);
 
     QList<zeb::Medium> getMedia(int kind) const override;
     bool getOpenMedium(int kind, zeb::Medium& out) const override;
     void openMedium(int kind, const zeb::Medium& medium) override;
     void closeMedium(int kind) override;
+    /// One that is write protected or locked stays as it is; the log says so. An open one is closed.
     bool formatMedium(int kind, const zeb::Medium& medium) override;
     zeb::MediumUse getMediumUse(int kind, const zeb::Medium& medium) const override;
 
@@ -25,11 +29,20 @@ public:
     void openFiles(const QStringList& paths) override;
     void checkSaved(const QVariantList& records, const QString& folder) override;
 
-    /// As `ZebDocManager::openSdDrive`.
+    /// As the operations of `ZebDocManager`. One that is locked asks for its password.
+    unsigned int sdDriveMask() const;
+    bool getOpenSdDrive(int& drive) const;
     void openSdDrive(int drive);
+    void close(int kind);
 
 private:
-    [[noreturn]] void refuse(const QString& medium) const;
+    MediaShelf::Held there(int kind, const zeb::Medium& medium) const;
+    bool unlock(const MediaShelf::Held& medium);
+    void open(const MediaShelf::Held& medium);
+    void closeDocs(int kind);
+    [[noreturn]] void refuse(const QString& text, const QString& medium) const;
 
     const HostContext& m_host;
+    /// Ends what this object is told of.
+    QObject m_watch;
 };

@@ -102,15 +102,18 @@ public:
 
     unsigned int getSdDriveMask() const override {
         m_host.calls.ask(OPERATION("getSdDriveMask"));
-        return 0;
+        return m_media.sdDriveMask();
     }
-    bool getOpenSdDrive(int& /*drive*/) const override {
+    bool getOpenSdDrive(int& drive) const override {
         m_host.calls.ask(OPERATION("getOpenSdDrive"));
-        return false;
+        return m_media.getOpenSdDrive(drive);
     }
     void prepareDrive(int kind) override { m_host.calls.change(OPERATION("ZebDocManager::prepareDrive"), {kind}); }
     void openSdDrive(int drive) override { m_media.openSdDrive(drive); }
-    void closeSdDrive() override { m_host.calls.change(OPERATION("ZebDocManager::closeSdDrive")); }
+    void closeSdDrive() override {
+        m_host.calls.change(OPERATION("ZebDocManager::closeSdDrive"));
+        m_media.close(RigMedium::SdCard);
+    }
     SimMedia& media() override { return m_media; }
 
     /// There is none: cameras bring images only.
