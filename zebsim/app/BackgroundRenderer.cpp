@@ -32,7 +32,7 @@ BackgroundRenderer::~BackgroundRenderer() {
 }
 
 bool BackgroundRenderer::isFor(const CameraFrame& frame) {
-    return seesNeighbours(frame.effects);
+    return frame.pictures || seesNeighbours(frame.effects);
 }
 
 QImage BackgroundRenderer::latest(const CameraFrame& wanted, const QSize& size) {
@@ -49,7 +49,7 @@ void BackgroundRenderer::begin() {
     }
     m_begun = m_wanted;
     m_work.setFuture(QtConcurrent::run(
-        &threads(), [this, wish = m_begun] { return m_isOver ? QImage() : drawFrame(wish.frame, wish.size); }));
+        &threads(), [this, wish = m_begun] { return m_isOver ? QImage() : drawFrameOrFailure(wish.frame, wish.size); }));
 }
 
 void BackgroundRenderer::take() {

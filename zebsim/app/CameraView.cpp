@@ -69,7 +69,7 @@ void CameraView::paintEvent(QPaintEvent* /*event*/) {
 /// One that takes long is the last that was made, until the newer one is.
 QImage CameraView::picture(const QSize& size) {
     if (!BackgroundRenderer::isFor(*m_frame)) {
-        return drawFrame(*m_frame, size);
+        return drawFrameOrFailure(*m_frame, size);
     }
     return m_renderer->latest(*m_frame, size);
 }

@@ -12,6 +12,10 @@
 #include <QStringList>
 #include <QVariantMap>
 
+#include <memory>
+
+class RecordedPictures;
+
 /// What is in a partition of a camera's memory.
 struct PartitionMemory {
     Q_GADGET
@@ -50,6 +54,8 @@ public:
     quint64 serial = 0;
     /// First and last frame of each selected range of this recording that stands in files; only a save adds one.
     QList<QPoint> savedRanges;
+    /// Null for what lies in the memory of a camera.
+    std::shared_ptr<const RecordedPictures> pictures;
 };
 
 /// Everything about a camera or head that can change. The property names are the members of a head in a rig file and of
@@ -232,6 +238,9 @@ public:
     bool flipVertical = false;
     double rotation = 0;
     double zoom = 1;
+    /// Of a recording in files: the one that tells of them, and what it was called when it was opened.
+    QString sourceFile;
+    QString originalName;
 
     /// Names of the members of the kind `recordSettings`, and of all settings.
     static const QStringList& recordSettings();

@@ -38,5 +38,6 @@ std::optional<Recording> Recording::of(const CameraState& state, const CameraMod
         });
     recording.customInfo = state.recordedCustomInfo;
     recording.partition = state.partition;
+    recording.pictures = state.pictures;
     return recording;
 }

@@ -5,12 +5,14 @@
 
 #include <QSize>
 
+#include <memory>
 #include <optional>
 
+class RecordedPictures;
 struct CameraModel;
 struct CameraState;
 
-/// What a camera has in its memory.
+/// What a camera has in its memory, or what it had there when it was saved to files.
 struct Recording {
     /// Frames a second.
     unsigned int rate = 0;
@@ -35,6 +37,8 @@ struct Recording {
     CustomInfo customInfo;
     /// The partition that it lies in.
     PARTITIONNUMBER partition = 1;
+    /// Null for what lies in the memory of a camera.
+    std::shared_ptr<const RecordedPictures> pictures;
 
     /// What the state does not tell is as a recording with the camera's settings would be: it fills the memory and is
     /// kept whole. Nothing when nothing is recorded.

@@ -6,6 +6,9 @@
 #include <QSize>
 #include <QString>
 
+#include <memory>
+
+class RecordedPictures;
 struct CameraState;
 struct Recording;
 
@@ -22,6 +25,9 @@ struct CameraFrame {
     FrameEffects effects;
     /// Its picture tells all that.
     bool hasTexts = true;
+    /// Of a recording in files, with the frame's number in the memory; null for one that is drawn.
+    std::shared_ptr<const RecordedPictures> pictures = {};
+    int memoryFrame = 0;
 
     bool operator==(const CameraFrame& other) const;
 

@@ -1,6 +1,8 @@
 #include "FramePicture.h"
 
+#include "FileError.h"
 #include "FrameTexts.h"
+#include "RecordedPictures.h"
 
 #include <QPainter>
 
@@ -9,6 +11,7 @@
 
 namespace {
 
+constexpr QColor Ground(24, 26, 30);
 constexpr int Spokes = 5;
 /// Of a live image: so many frames make one turn.
 constexpr int FramesInTurn = 2400;
@@ -82,18 +85,44 @@ QImage drawScene(const CameraFrame& frame, const QSize& size) {
     return picture;
 }
 
+QImage storedPicture(const CameraFrame& frame, const QSize& size) {
+    const QImage picture = frame.pictures->picture(frame.memoryFrame);
+    if (picture.size() == size && frame.effects.isEmpty()) {
+        return picture;
+    }
+    const QImage plain = picture.convertToFormat(QImage::Format_RGB32);
+    return plain.size() == size ? plain : plain.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+}
+
 }  // namespace
 
 QImage drawFrame(const CameraFrame& frame, const QSize& size) {
-    QImage picture = drawScene(frame, seesNeighbours(frame.effects) ? frame.resolution : size);
+    const QSize drawn = seesNeighbours(frame.effects) ? frame.resolution : size;
+    QImage picture = frame.pictures ? storedPicture(frame, drawn) : drawScene(frame, drawn);
     if (picture.isNull()) {
         return picture;
     }
-    frame.noise.addTo(picture, frame.resolution, frame.number);
+    if (!frame.pictures) {
+        frame.noise.addTo(picture, frame.resolution, frame.number);
+    }
     for (const auto& effect : frame.effects) {
         effect.first->apply(picture, effect.second);
     }
     return picture.size() == size ? picture : picture.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+}
+
+QImage drawFrameOrFailure(const CameraFrame& frame, const QSize& size) {
+    try {
+        return drawFrame(frame, size);
+    } catch (const FileError& e) {
+        QImage ground(size, QImage::Format_RGB32);
+        ground.fill(Ground);
+        if (!ground.isNull()) {
+            QPainter painter(&ground);
+            FrameTexts(ground.rect()).drawWrapped(painter, unreadableText(e));
+        }
+        return ground;
+    }
 }
 
 QSize fitInto(const QSize& bounds, const QSize& resolution) {

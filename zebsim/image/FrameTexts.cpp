@@ -37,9 +37,20 @@ void FrameTexts::draw(QPainter& painter, Qt::Alignment alignment, const QString&
     painter.drawText(m_place, int(alignment) | Qt::TextSingleLine, fitting);
 }
 
-void FrameTexts::drawPlates(QPainter& painter, const QStringList& lines) const {
+QFont FrameTexts::smallFont() const {
     QFont font = m_font;
     font.setPixelSize(std::max(SmallestText, m_font.pixelSize() * 2 / 3));
+    return font;
+}
+
+void FrameTexts::drawWrapped(QPainter& painter, const QString& text) const {
+    painter.setFont(smallFont());
+    painter.setPen(Qt::white);
+    painter.drawText(m_place, int(Qt::AlignCenter) | Qt::TextWrapAnywhere, text);
+}
+
+void FrameTexts::drawPlates(QPainter& painter, const QStringList& lines) const {
+    const QFont font = smallFont();
     painter.setFont(font);
     painter.setPen(Qt::white);
     const QFontMetrics metrics(font);

@@ -23,8 +23,12 @@ public:
     void draw(QPainter& painter, Qt::Alignment alignment, const QString& text) const;
     /// Smaller lines on dark plates, the last one above the lowest line of `place`.
     void drawPlates(QPainter& painter, const QStringList& lines) const;
+    /// As small, in as many lines as it takes.
+    void drawWrapped(QPainter& painter, const QString& text) const;
 
 private:
+    QFont smallFont() const;
+
     QFont m_font;
     int m_margin;
     QRect m_place;

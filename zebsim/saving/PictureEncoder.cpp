@@ -9,7 +9,7 @@ QByteArray written(const QImage& picture, const char* format, int quality = -1) 
     QBuffer buffer;
     QImageWriter writer(&buffer, format);
     writer.setQuality(quality);
-    return writer.write(picture) ? buffer.data() : QByteArray();
+    return writer.write(picture.convertToFormat(QImage::Format_RGB32)) ? buffer.data() : QByteArray();
 }
 
 }  // namespace

@@ -85,7 +85,7 @@ public:
 
     /// The rows as the file has them, compressed: each begins with how it is filtered, which none is.
     QByteArray compressed(const QImage& picture, const PictureOptions& options) {
-        const QImage plain = picture.convertToFormat(QImage::Format_RGB32);
+        const QImage plain = plainPicture(picture);
         const PixelRow form(options, QSysInfo::BigEndian);
         const int size = 1 + rowBytes(plain.width(), options.depth);
         m_rows.resize(std::size_t(plain.height()) * std::size_t(size));

@@ -69,7 +69,7 @@ bool TiffFile::add(const QImage& picture, const QByteArray& description) {
         return false;
     }
     setTags(picture, description);
-    return writeRows(picture.convertToFormat(QImage::Format_RGB32)) && TIFFWriteDirectory(m_file) == 1;
+    return writeRows(plainPicture(picture)) && TIFFWriteDirectory(m_file) == 1;
 }
 
 void TiffFile::setTags(const QImage& picture, const QByteArray& description) {

@@ -4,7 +4,7 @@
 
 #include <stdexcept>
 
-/// A file that can't be written. `what()` is the reason.
+/// A file that can't be read or written. `what()` is the reason.
 class FileError : public std::runtime_error {
 public:
     FileError(QString file, const QString& reason)
@@ -15,3 +15,6 @@ public:
 private:
     QString m_file;
 };
+
+/// What is told of one that can't be read, in the user's language.
+QString unreadableText(const FileError& error);
