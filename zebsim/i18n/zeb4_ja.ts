@@ -2851,5 +2851,37 @@
         <source>Written: %1</source>
         <translation>保存しました: %1</translation>
     </message>
+    <message>
+        <source>%1 can&apos;t be read: %2</source>
+        <translation>%1 を読み込めません: %2</translation>
+    </message>
+    <message>
+        <source>the picture is not as large as the recording&apos;s</source>
+        <translation>画像の大きさが記録と異なります</translation>
+    </message>
+    <message>
+        <source>it is no picture, or a damaged one</source>
+        <translation>画像ではないか、破損しています</translation>
+    </message>
+    <message>
+        <source>it has fewer pages than the recording has frames</source>
+        <translation>ページ数が記録のフレーム数より少ないです</translation>
+    </message>
+    <message>
+        <source>it is no recording of this program</source>
+        <translation>このプログラムの記録ではありません</translation>
+    </message>
+    <message>
+        <source>it is larger than any that this program has written</source>
+        <translation>このプログラムが書き込むものより大きいです</translation>
+    </message>
+    <message>
+        <source>A video can&apos;t be opened again.</source>
+        <translation>動画は再び開くことができません。</translation>
+    </message>
+    <message>
+        <source>a newer version of this program has written it</source>
+        <translation>このプログラムの新しい版で書き込まれています</translation>
+    </message>
 </context>
 </TS>
