@@ -3,9 +3,9 @@
 #include "NameFamilies.h"
 #include "NameSource.h"
 
-ExportNames::ExportNames(const NameSource& source, int type, DOCKEY key, PARTITIONNUMBER partition,
-                         const QDateTime& time)
-    : m_source(source), m_type(type), m_document(source.document(key)), m_partition(partition), m_time(time) {}
+ExportNames::ExportNames(const NameSource& source, int type, std::unique_ptr<NamedDocument> document,
+                         PARTITIONNUMBER partition, const QDateTime& time)
+    : m_source(source), m_type(type), m_document(std::move(document)), m_partition(partition), m_time(time) {}
 
 ExportNames::~ExportNames() = default;
 

@@ -9,9 +9,9 @@
 /// Parts of the path of one partition's files. GUI thread; asks the camera and throws as `TargetPaths.h` tells.
 class ExportNames {
 public:
-    /// `type` is a `zeb::FileType`. `source` must outlive the object; names of a camera that is gone hold nothing of
-    /// it.
-    ExportNames(const NameSource& source, int type, DOCKEY key, PARTITIONNUMBER partition, const QDateTime& time);
+    /// `type` is a `zeb::FileType`. `source` must outlive the object; without a document names hold nothing of any.
+    ExportNames(const NameSource& source, int type, std::unique_ptr<NamedDocument> document, PARTITIONNUMBER partition,
+                const QDateTime& time);
     ~ExportNames();
 
     QString root() const;

@@ -2,12 +2,15 @@
 
 #include "JS_Mediator_Dialog.h"
 #include "JobKind.h"
+#include "NameSource.h"
 #include "SkipPrefs.h"
 #include "TargetRecords.h"
 #include "ZebTypes.h"
 
 #include <QDateTime>
 #include <QMap>
+
+#include <memory>
 
 class ExportNames;
 
@@ -32,9 +35,6 @@ public:
     /// Stores how frames are counted, a `FrameSkipMode`, and the distance between two that are saved.
     virtual void applySkipMode(int mode);
     void applySkipFrames(double val) override;
-    /// Name of the chosen partition's files, without folder and ending.
-    virtual QString exportFileName(bool details);
-
     /// That every name of the dialog holds: the dialog was made then.
     const QDateTime& time() const { return m_time; }
     /// What `refreshSkipFrame` was told last.
@@ -79,10 +79,10 @@ public Q_SLOTS:
     bool saveInfoView(const QVariantList& targets);
 
     /// The partition that is chosen.
-    DOCKEY getSelectDocKey() { return m_selectDocKey; }
-    void setSelectDocKey(ulong dockey) { m_selectDocKey = static_cast<DOCKEY>(dockey); }
-    PARTITIONNUMBER getSelectPartitionNo() { return m_selectPartitionNo; }
-    void setSelectPartitionNo(int partitionNo) { m_selectPartitionNo = static_cast<PARTITIONNUMBER>(partitionNo); }
+    DOCKEY getSelectDocKey();
+    void setSelectDocKey(ulong dockey);
+    PARTITIONNUMBER getSelectPartitionNo();
+    void setSelectPartitionNo(int partitionNo);
 
     // Recordings on media.
     bool canConvertDataName(DOCKEY docKey);
@@ -122,7 +122,13 @@ public Q_SLOTS:
 
     int countSelectedDocs();
 
+public:
+    /// Name of the chosen partition's files, without folder and ending.
+    virtual QString exportFileName(bool details);
+
 protected:
+    /// What the names of a partition's files are composed from; null when its document is gone.
+    virtual std::unique_ptr<NamedDocument> namedDocument(DOCKEY key, PARTITIONNUMBER partition);
     /// The records of `list` for these documents.
     QString recordsText(const DocKeyList& keys, bool onMedium);
 
@@ -134,9 +140,12 @@ private:
     bool userAgreesToClose(const QString& question, const QString& name) const;
     QString mediaText(int kind) const;
     zeb::Medium foundMedium(int kind, ulong type, ulong drive, ulong slot) const;
+    zeb::Medium quikDrive(int type, int drive) const;
     QString useRatio(int kind, ulong type, ulong drive, ulong slot) const;
     void format(int kind, ulong type, ulong drive, ulong slot);
-    QString groupDirOf(DOCKEY key, PARTITIONNUMBER partition) const;
+    QString groupDirOf(DOCKEY key, PARTITIONNUMBER partition);
+    template <typename Names>
+    QString named(DOCKEY key, PARTITIONNUMBER partition, Names names);
     template <typename Part>
     QString chosenName(Part part);
 

@@ -17,6 +17,13 @@
 
 namespace {
 
+const QStringList PictureFormats = {QStringLiteral("BMP"), QStringLiteral("TIFF"), QStringLiteral("JPEG"),
+                                    QStringLiteral("PNG")};
+const QStringList RawFormats = {QStringLiteral("RAWW"), QStringLiteral("MRAW")};
+const QStringList VideoFormats = {QStringLiteral("AVI"), QStringLiteral("MOV"), QStringLiteral("MP4")};
+const QStringList Codecs = {QStringLiteral("RAW"),   QStringLiteral("H264"),  QStringLiteral("MJPEG"),
+                            QStringLiteral("MPEG2"), QStringLiteral("MPEG4"), QStringLiteral("HUFFYUV")};
+
 /// Where numbers of a group directory have their digits. A layout has none, and shows those of images.
 int groupSlot(JobKind kind) {
     return groupDirSlot(fileType(kind == JobKind::Layout ? JobKind::Export : kind));
@@ -105,30 +112,20 @@ QString JS_Mediator_SaveFile::numberPreview(int slot) const {
 QStringList JS_Mediator_SaveFile::getFileFormats(bool fromDevice) {
     return call(*this, TracedQuery, __func__, {{"fromDevice", fromDevice}}, [&] {
         const QStringList ofCamera = fromDevice ? QStringList{QStringLiteral("GRAW")} : QStringList();
-        return getLayoutFileFormats() + QStringList{QStringLiteral("RAWW"), QStringLiteral("MRAW")} + ofCamera +
-               QStringList{QStringLiteral("AVI"), QStringLiteral("MOV"), QStringLiteral("MP4")};
+        return PictureFormats + RawFormats + ofCamera + VideoFormats;
     });
 }
 
 QStringList JS_Mediator_SaveFile::getSnapFileFormats() {
-    return call(*this, TracedQuery, __func__, {}, [this] {
-        return getLayoutFileFormats() +
-               QStringList{QStringLiteral("AVI"), QStringLiteral("MOV"), QStringLiteral("MP4")};
-    });
+    return call(*this, TracedQuery, __func__, {}, [] { return PictureFormats + VideoFormats; });
 }
 
 QStringList JS_Mediator_SaveFile::getLayoutFileFormats() {
-    return call(*this, TracedQuery, __func__, {}, [] {
-        return QStringList{QStringLiteral("BMP"), QStringLiteral("TIFF"), QStringLiteral("JPEG"),
-                           QStringLiteral("PNG")};
-    });
+    return call(*this, TracedQuery, __func__, {}, [] { return PictureFormats; });
 }
 
 QStringList JS_Mediator_SaveFile::getCodecFilters() {
-    return call(*this, TracedQuery, __func__, {}, [] {
-        return QStringList{QStringLiteral("RAW"),   QStringLiteral("H264"),  QStringLiteral("MJPEG"),
-                           QStringLiteral("MPEG2"), QStringLiteral("MPEG4"), QStringLiteral("HUFFYUV")};
-    });
+    return call(*this, TracedQuery, __func__, {}, [] { return Codecs; });
 }
 
 QString JS_Mediator_SaveFile::getFreeSpace(const QString& path) {
@@ -136,6 +133,26 @@ QString JS_Mediator_SaveFile::getFreeSpace(const QString& path) {
         const int end = path.indexOf(QLatin1Char('/'));
         return sizeText(QStorageInfo(end == 0 ? nearestFolder(path) : path.left(end + 1)).bytesFree());
     });
+}
+
+bool JS_Mediator_SaveFile::isSnapMode() {
+    return call(*this, TracedQuery, __func__, {}, [this] { return m_kind == JobKind::Snap; });
+}
+
+bool JS_Mediator_SaveFile::isConvertMode() {
+    return call(*this, TracedQuery, __func__, {}, [this] { return m_kind == JobKind::Convert; });
+}
+
+bool JS_Mediator_SaveFile::isReportMode() {
+    return call(*this, TracedQuery, __func__, {}, [this] { return m_kind == JobKind::Report; });
+}
+
+bool JS_Mediator_SaveFile::isLayoutMode() {
+    return call(*this, TracedQuery, __func__, {}, [this] { return m_kind == JobKind::Layout; });
+}
+
+QString JS_Mediator_SaveFile::getParentWidgetName() {
+    return call(*this, TracedQuery, __func__, {}, [this] { return m_parentWidgetName; });
 }
 
 QString JS_Mediator_SaveFile::addDateTime(const QString& format) {

@@ -50,11 +50,12 @@ public Q_SLOTS:
     /// Of the drive of a path, as "1.50GB"; of one from "/" on that of the nearest folder that is there.
     QString getFreeSpace(const QString& path);
 
-    bool isSnapMode() { return m_kind == JobKind::Snap; }
-    bool isConvertMode() { return m_kind == JobKind::Convert; }
-    bool isReportMode() { return m_kind == JobKind::Report; }
-    bool isLayoutMode() { return m_kind == JobKind::Layout; }
-    QString getParentWidgetName() { return m_parentWidgetName; }
+    /// What is saved, and how the page knows the dialog's own bridge.
+    bool isSnapMode();
+    bool isConvertMode();
+    bool isReportMode();
+    bool isLayoutMode();
+    QString getParentWidgetName();
 
     /// The present time in that format.
     QString addDateTime(const QString& format);

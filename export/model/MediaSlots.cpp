@@ -178,6 +178,16 @@ zeb::Medium JS_Mediator_FileDialog::foundMedium(int kind, ulong type, ulong driv
     return wanted;
 }
 
+/// In whatever slot.
+zeb::Medium JS_Mediator_FileDialog::quikDrive(int type, int drive) const {
+    for (const zeb::Medium& medium : host().docManager().media().getMedia(zeb::QuikDrive)) {
+        if (medium.type == type && medium.drive == drive) {
+            return medium;
+        }
+    }
+    return {type, drive, 0, {}};
+}
+
 QString JS_Mediator_FileDialog::useRatio(int kind, ulong type, ulong drive, ulong slot) const {
     constexpr double Percent = 100;
     const zeb::MediumUse use = host().docManager().media().getMediumUse(kind, foundMedium(kind, type, drive, slot));
@@ -220,7 +230,7 @@ void JS_Mediator_FileDialog::formatCFast(ulong type, ulong driveNo, ulong slotNo
 
 void JS_Mediator_FileDialog::setQuikDrivePassword(int fdType, int driveNo) {
     call(*this, Change, __func__, {{"driveNo", driveNo}}, [&] {
-        const zeb::Medium medium = foundMedium(zeb::QuikDrive, ulong(fdType), ulong(driveNo), 0);
+        const zeb::Medium medium = quikDrive(fdType, driveNo);
         const auto isSet = host().docManager().media().setMediumPassword(zeb::QuikDrive, medium);
         if (isSet == true) {
             host().warn(host().translate(TextKey("Password setting completed..")), nullptr);
@@ -232,7 +242,7 @@ void JS_Mediator_FileDialog::setQuikDrivePassword(int fdType, int driveNo) {
 
 bool JS_Mediator_FileDialog::existSetQuikDrivePassword(int fdType, int driveNo) {
     return call(*this, TracedQuery, __func__, {{"driveNo", driveNo}}, [&] {
-        const zeb::Medium medium = foundMedium(zeb::QuikDrive, ulong(fdType), ulong(driveNo), 0);
+        const zeb::Medium medium = quikDrive(fdType, driveNo);
         return host().docManager().media().hasMediumPassword(zeb::QuikDrive, medium);
     });
 }

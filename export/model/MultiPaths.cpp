@@ -45,7 +45,7 @@ QString multiPathDevices(ZebHost& host) {
     QSet<QString> seen;
     for (DOC_Interface* doc : docsOf(host.docManager(), host.docManager().getDocKeys(1))) {
         const QString address = doc->control().getAddress(1);
-        if (seen.contains(address)) {
+        if (address.isEmpty() || seen.contains(address)) {
             continue;
         }
         seen.insert(address);

@@ -9,14 +9,23 @@
 
 #include <QScopeGuard>
 
-QString JS_Mediator_FileDialog::exportFileName(bool details) {
-    const HostNameSource source(host());
-    return ExportNames(source, fileType(m_kind), m_selectDocKey, m_selectPartitionNo, m_time).file(details);
+std::unique_ptr<NamedDocument> JS_Mediator_FileDialog::namedDocument(DOCKEY key, PARTITIONNUMBER /*partition*/) {
+    return HostNameSource(host()).document(key);
 }
 
-QString JS_Mediator_FileDialog::groupDirOf(DOCKEY key, PARTITIONNUMBER partition) const {
+/// What `names` takes from the names of a partition.
+template <typename Names>
+QString JS_Mediator_FileDialog::named(DOCKEY key, PARTITIONNUMBER partition, Names names) {
     const HostNameSource source(host());
-    return ExportNames(source, fileType(m_kind), key, partition, m_time).groupDir();
+    return names(ExportNames(source, fileType(m_kind), namedDocument(key, partition), partition, m_time));
+}
+
+QString JS_Mediator_FileDialog::exportFileName(bool details) {
+    return named(m_selectDocKey, m_selectPartitionNo, [&](const ExportNames& names) { return names.file(details); });
+}
+
+QString JS_Mediator_FileDialog::groupDirOf(DOCKEY key, PARTITIONNUMBER partition) {
+    return named(key, partition, [](const ExportNames& names) { return names.groupDir(); });
 }
 
 QString JS_Mediator_FileDialog::getExportGroupDir(DOCKEY docKey, PARTITIONNUMBER partitionNo) {
@@ -35,8 +44,7 @@ QString JS_Mediator_FileDialog::getExportGroupDir() {
 
 QString JS_Mediator_FileDialog::getExportPath() {
     return call(*this, TracedQuery, __func__, {}, [this] {
-        const HostNameSource source(host());
-        return ExportNames(source, fileType(m_kind), m_selectDocKey, m_selectPartitionNo, m_time).root();
+        return named(m_selectDocKey, m_selectPartitionNo, [](const ExportNames& names) { return names.root(); });
     });
 }
 
@@ -62,8 +70,7 @@ QString JS_Mediator_FileDialog::getExportFile() {
 QString JS_Mediator_FileDialog::getExportSubDir() {
     return call(*this, TracedQuery, __func__, {}, [this] {
         return chosenName([this] {
-            const HostNameSource source(host());
-            return ExportNames(source, fileType(m_kind), m_selectDocKey, m_selectPartitionNo, m_time).subDir();
+            return named(m_selectDocKey, m_selectPartitionNo, [](const ExportNames& names) { return names.subDir(); });
         });
     });
 }

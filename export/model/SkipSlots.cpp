@@ -29,7 +29,7 @@ double JS_Mediator_FileDialog::getSkipFrames() {
 }
 
 void JS_Mediator_FileDialog::refreshSkipFrame(const QVariantMap& targets) {
-    call(*this, Traced, __func__, {{"targets", QStringList(targets.keys()).join(QLatin1Char(','))}}, [&] {
+    call(*this, TracedQuery, __func__, {{"targets", QStringList(targets.keys()).join(QLatin1Char(','))}}, [&] {
         m_targets.clear();
         ExportTargets documents;
         for (auto target = targets.begin(); target != targets.end(); ++target) {
@@ -38,7 +38,7 @@ void JS_Mediator_FileDialog::refreshSkipFrame(const QVariantMap& targets) {
             for (const QVariant& number : target->toList()) {
                 const PARTITIONNUMBER partition = number.toUInt();
                 m_targets.append({key, partition});
-                if (doc != nullptr) {
+                if (doc != nullptr && doc->isConnected()) {
                     documents[doc].append(partition);
                 }
             }

@@ -89,7 +89,7 @@ QList<QJsonObject> TargetRecords::recordsOf(DOC_Interface& doc, bool onMedium, c
         record.insert(QStringLiteral("partitionno"), qint64(partition));
         record.insert(QStringLiteral("currentpartition"), partition == current);
         record.insert(QStringLiteral("path"),
-                      ExportNames(names, fileType(m_kind), doc.getKey(), partition, m_time).folder());
+                      ExportNames(names, fileType(m_kind), names.document(doc.getKey()), partition, m_time).folder());
         record.insert(QStringLiteral("slotno"), medium.slot);
         addRecording(record, *recording);
         if (onMedium) {

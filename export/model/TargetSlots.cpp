@@ -133,6 +133,24 @@ QString JS_Mediator_FileDialog::select(DOCKEY dockey, PARTITIONNUMBER partitionN
     });
 }
 
+DOCKEY JS_Mediator_FileDialog::getSelectDocKey() {
+    return call(*this, TracedQuery, __func__, {}, [this] { return m_selectDocKey; });
+}
+
+void JS_Mediator_FileDialog::setSelectDocKey(ulong dockey) {
+    call(*this, Traced, __func__, {{"dockey", qulonglong(dockey)}},
+         [&] { m_selectDocKey = static_cast<DOCKEY>(dockey); });
+}
+
+PARTITIONNUMBER JS_Mediator_FileDialog::getSelectPartitionNo() {
+    return call(*this, TracedQuery, __func__, {}, [this] { return m_selectPartitionNo; });
+}
+
+void JS_Mediator_FileDialog::setSelectPartitionNo(int partitionNo) {
+    call(*this, Traced, __func__, {{"partitionNo", partitionNo}},
+         [&] { m_selectPartitionNo = static_cast<PARTITIONNUMBER>(partitionNo); });
+}
+
 int JS_Mediator_FileDialog::countSelectedDocs() {
     return call(*this, TracedQuery, __func__, {}, [this] {
         const int count = host().docManager().getSelectedDocCount();

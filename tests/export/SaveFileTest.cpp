@@ -58,12 +58,28 @@ TEST_F(SaveFile, TakesWhatTheSensorSeesIntoSomeFormats) {
         {"batchconverter", "convert/tiff/bayersave", "Tiff", true},
         {"savedialog", "export/tiff/bayersave", "Png", false},
         {"snapshotdialog", "export/tiff/bayersave", "Tiff", false},
+        {"snapshotdialog", "", "Graw", false},
+        {"layoutsavedialog", "", "Graw", false},
     };
     for (const auto& row : cases) {
         host.setPref(row.on, true);
         EXPECT_EQ(of(row.dialog)->isRawFormat(row.format), row.isRaw) << row.dialog << ' ' << row.on << row.format;
         host.setPref(row.on, false);
     }
+}
+
+TEST_F(SaveFile, ListsFormatsOfFiles) {
+    EXPECT_EQ(options.getFileFormats(false).join(' '), "BMP TIFF JPEG PNG RAWW MRAW AVI MOV MP4");
+    EXPECT_EQ(options.getFileFormats(true).join(' '), "BMP TIFF JPEG PNG RAWW MRAW GRAW AVI MOV MP4");
+    EXPECT_EQ(options.getSnapFileFormats().join(' '), "BMP TIFF JPEG PNG AVI MOV MP4");
+    EXPECT_EQ(options.getLayoutFileFormats().join(' '), "BMP TIFF JPEG PNG");
+    EXPECT_EQ(options.getCodecFilters().join(' '), "RAW H264 MJPEG MPEG2 MPEG4 HUFFYUV");
+    QString movies;
+    for (const char* format : {"AVI", "mov", "Wmv", "MP4", "MRAW", "graw", "raww", "png", "tiff", ""}) {
+        movies += options.isMovieFormat(format) ? '1' : '0';
+    }
+    EXPECT_EQ(movies, "1111110000");
+    EXPECT_EQ(options.addDateTime("'now'"), "now");
 }
 
 TEST_F(SaveFile, TellsSizesAndFreeSpace) {
