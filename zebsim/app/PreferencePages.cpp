@@ -66,6 +66,7 @@ QList<PreferenceField> savingFields() {
     return {
         line("save/fixedgroupdir", TextKey("Name of every group folder")),
         line("save/substitutefolder", TextKey("Folder for all files, whatever their own")),
+        line("tal2/folder", TextKey("Folder of the program TAL2")),
     };
 }
 

@@ -54,6 +54,7 @@ QList<FactoryValue> table() {
         {"sync/lport", int(zeb::SyncPortNone)},
         {"sync/lport/ipaddress", text("")},
         {"sync/masterCamera", text("")},
+        {"tal2/folder", text("")},
         {"trigger/manualBeforePercent", 50.0},
         {"trigger/randomFrames", 100},
         {"trigger/randomTimes", 10},

@@ -2852,6 +2852,18 @@
         <translation>保存しました: %1</translation>
     </message>
     <message>
+        <source>The folder of all</source>
+        <translation>共通のフォルダー</translation>
+    </message>
+    <message>
+        <source>The path of such a folder has no ? and no |.</source>
+        <translation>このフォルダーのパスには ? と | を使えません。</translation>
+    </message>
+    <message>
+        <source>Folder of the program TAL2</source>
+        <translation>TAL2 のフォルダー</translation>
+    </message>
+    <message>
         <source>%1 can&apos;t be read: %2</source>
         <translation>%1 を読み込めません: %2</translation>
     </message>
@@ -2882,6 +2894,26 @@
     <message>
         <source>a newer version of this program has written it</source>
         <translation>このプログラムの新しい版で書き込まれています</translation>
+    </message>
+    <message>
+        <source>the recording was closed</source>
+        <translation>記録が閉じられました</translation>
+    </message>
+    <message>
+        <source>it is a recording in files, and no camera</source>
+        <translation>ファイルの記録であり、カメラではありません</translation>
+    </message>
+    <message>
+        <source>%1: %2 of its files are missing</source>
+        <translation>%1: ファイルが %2 個ありません</translation>
+    </message>
+    <message>
+        <source>The recordings are open; file mode shows them.</source>
+        <translation>記録を開きました。ファイルモードで表示されます。</translation>
+    </message>
+    <message>
+        <source>Not all recordings could be opened as they were saved.</source>
+        <translation>保存されたとおりに開けなかった記録があります。</translation>
     </message>
 </context>
 </TS>

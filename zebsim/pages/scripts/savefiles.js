@@ -18,7 +18,6 @@ const savePage = Object.assign(dialogFrame(saveBridge), {
         saveSkip.begin();
         saveNames.begin();
         saveTargets.begin();
-        this.beginTal2();
         this.onClick('information', () => saveBridge.saveInfoView(saveTargets.keys()));
         this.onClick('time_code', () => saveBridge.openCustumTimeCodeDialog());
         this.onClick('conversion', () => saveBridge.openConvertParameterEditDialog(saveTargets.keys()));
@@ -33,20 +32,23 @@ const savePage = Object.assign(dialogFrame(saveBridge), {
         byId('dir').focus();
     },
 
-    beginTal2() {
+    updateTal2() {
         const missing = textKey('TAL2 is not installed.');
         const loading = textKey('Not while recordings are downloaded by themselves.');
         const fault = !savefile.isTAL2AppInstalled() ? missing : savefile.isTal2OptionDisabled() ? loading : '';
-        if (fault !== '') {
+        if (fault === '') {
+            byId('tal2').removeAttribute('data-never');
+        } else {
             byId('tal2').setAttribute('data-never', '');
-            byId('tal2_fault').textContent = translate(fault);
         }
+        byId('tal2_fault').textContent = fault === '' ? '' : translate(fault);
     },
 
     // The host has changed: cameras come and go, and others set preferences.
     update() {
         this.applyStyle();
         saveNames.update();
+        this.updateTal2();
         saveOptions.read();
         saveFormats.update();
         saveTargets.update();
@@ -64,7 +66,7 @@ const savePage = Object.assign(dialogFrame(saveBridge), {
         if (suffix.indexOf('skip') === 0) {
             saveTargets.update();
         }
-        if (suffix === 'filename' && savefile.isNeedRefreshPreview()) {
+        if (suffix.indexOf('filename') === 0 && savefile.isNeedRefreshPreview()) {
             saveTargets.showPreviewSoon();
         }
         this.show();

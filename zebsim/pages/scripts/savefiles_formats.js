@@ -9,7 +9,7 @@ const saveFormats = {
             L: () => savefile.getLayoutFileFormats().concat(['AVI', 'MOV', 'MP4']),
             S: () => savefile.getSnapFileFormats(),
             C: () => savefile.getFileFormats(false),
-            E: () => savefile.getFileFormats(true)
+            E: () => savefile.getFileFormats(!saveBridge.isFileMode())
         }[saveFamily]();
         formats.forEach(format => {
             const option = document.createElement('option');

@@ -3,6 +3,8 @@
 const DETAILS = ['name', 'number', 'text'];
 
 const saveNames = {
+    folder: '', // of the chosen recording
+
     begin() {
         this.fillDetails();
         savePage.onClick('browse', () => this.browse());
@@ -69,21 +71,26 @@ const saveNames = {
             const format = saveOptions.value(element.getAttribute('data-time'));
             element.textContent = format === '' ? '' : savefile.addDateTime(format);
         });
-        byId('free').textContent = savefile.getFreeSpace(saveOptions.stored('dir', 'string'));
         byId('path').textContent = this.path();
+        byId('free').textContent = savefile.getFreeSpace(this.folder || saveOptions.stored('dir', 'string'));
     },
 
-    // Of the first file of the chosen camera; the number of its frame is left open.
+    // Of the first file of the chosen recording; the number of its frame is left open.
     path() {
-        const target = saveTargets.chosen();
+        const target = saveTargets.named();
         if (saveTargets.isThere && !target) {
             return '';
         }
-        const group = target ? saveBridge.getExportGroupDir(target.dockey, target.partitionno) :
-            saveBridge.getExportGroupDir();
+        if (target) {
+            saveBridge.setSelectDocKey(target.dockey);
+            saveBridge.setSelectPartitionNo(target.partitionno);
+        }
+        const group =
+            saveBridge.getExportGroupDir(saveBridge.getSelectDocKey(), saveBridge.getSelectPartitionNo());
         const folders = [saveBridge.getExportPath(), group, saveBridge.getExportSubDir()].filter(part => part !== '');
-        const folder = saveBridge.getPrefString('save/substitutefolder') || folders.join('/');
-        return `${folder.replace(/\/$/, '')}/${saveBridge.getExportFile()}${this.ending()}`.replace(/\/\/+/g, '/');
+        this.folder = saveBridge.getPrefString('save/substitutefolder') || folders.join('/');
+        const folder = this.folder === '' ? '' : `${this.folder}/`.replace(/\/\/+/g, '/');
+        return folder + saveBridge.getExportFile() + this.ending();
     },
 
     ending() {

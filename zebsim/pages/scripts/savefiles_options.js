@@ -18,6 +18,9 @@ function translate(key) {
 
 const FORBIDDEN_IN_NAMES = /[\\/:*?"<>|%]/g;
 
+// By a dialog of its own, or by what is no plain field.
+const CHOSEN_ELSEWHERE = /^(filename|groupdir|subdir)addnumber.+|^multipath.+list$|^skip(unit|saveframe|savemsec)$/;
+
 const saveOptions = {
     fields: [],
     // Called with the suffix of what the operator has changed.
@@ -177,9 +180,13 @@ const saveOptions = {
     // Answers why the option can't be chosen here.
     fill(suffix, value) {
         const field = this.field(suffix);
+        if (!field && !CHOSEN_ELSEWHERE.test(suffix)) {
+            return 'the page does not offer it';
+        }
         if (!field) {
-            const kinds = { boolean: 'bool', number: 'int' };
+            const kinds = { boolean: 'bool', number: suffix === 'skipsavemsec' ? 'float' : 'int' };
             this.store(suffix, kinds[typeof value] || 'string', value);
+            this.tell(suffix);
             return '';
         }
         if (field.disabled || field.closest('[hidden][data-in]')) {

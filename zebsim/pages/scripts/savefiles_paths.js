@@ -49,27 +49,37 @@ const savePaths = {
 
     drawDevices(isOff) {
         this.devices = JSON.parse(savefile.getMultiPathDevices() || '[]');
+        const own = this.ownFolders();
         const list = byId('path_devices');
         list.textContent = '';
         this.devices.forEach(entry => {
             const line = document.createElement('div');
             line.className = 'line';
-            const label = document.createElement('label');
-            label.textContent = entry.device;
-            const choice = document.createElement('select');
+            line.innerHTML = '<label></label><select class="wide"></select>';
+            line.querySelector('label').textContent = entry.device;
+            const choice = line.querySelector('select');
             choice.disabled = isOff || entry.paths.length === 0;
-            choice.className = 'wide';
-            entry.paths.forEach(path => {
+            // A camera without a folder of its own goes where all go.
+            [{ key: '', val: translate('The folder of all') }].concat(entry.paths).forEach(path => {
                 const option = document.createElement('option');
                 option.value = path.key;
-                option.textContent = `${path.key}: ${path.val}`;
+                option.textContent = path.key === '' ? path.val : `${path.key}: ${path.val}`;
                 choice.appendChild(option);
             });
-            choice.value = entry.pathselector;
-            line.appendChild(label);
-            line.appendChild(choice);
+            choice.value = own.get(entry.device) || '';
             list.appendChild(line);
         });
+    },
+
+    // Name of the folder by device, also of those that are not listed.
+    ownFolders() {
+        return new Map(saveOptions.stored('multipathdevicelist', 'string').split('?')
+            .map(entry => entry.split('|')).filter(entry => entry.length === 2));
+    },
+
+    storeFolders(own) {
+        const entries = Array.from(own).filter(entry => entry[1] !== '').map(entry => entry.join('|'));
+        saveOptions.store('multipathdevicelist', 'string', entries.join('?'));
     },
 
     add() {
@@ -78,7 +88,8 @@ const savePaths = {
         while (names.indexOf(String(number)) >= 0) {
             ++number;
         }
-        this.paths.push({ name: String(number), path: saveOptions.stored('dir', 'string') });
+        const path = saveOptions.stored('dir', 'string').replace(FORBIDDEN_IN_LISTS, '');
+        this.paths.push({ name: String(number), path });
         this.store();
         this.draw();
     },
@@ -88,7 +99,11 @@ const savePaths = {
             this.paths.splice(Number(button.getAttribute('data-remove')), 1);
         } else if (button.hasAttribute('data-browse')) {
             const entry = this.paths[Number(button.getAttribute('data-browse'))];
-            entry.path = savefile.selectFolder(entry.path) || entry.path;
+            const path = savefile.selectFolder(entry.path) || entry.path;
+            if (/[?|]/.test(path)) {
+                throw new Error(translate('The path of such a folder has no ? and no |.'));
+            }
+            entry.path = path;
         } else {
             return;
         }
@@ -97,19 +112,24 @@ const savePaths = {
     },
 
     takePaths() {
-        this.paths = Array.from(byId('path_list').children).map(line => {
+        const own = this.ownFolders();
+        Array.from(byId('path_list').children).forEach((line, index) => {
             const [name, path] = Array.from(line.querySelectorAll('input')).map(field =>
                 field.value.replace(FORBIDDEN_IN_LISTS, ''));
-            return { name, path };
+            const old = this.paths[index].name;
+            own.forEach((folder, device) => folder === old && own.set(device, name));
+            this.paths[index] = { name, path };
         });
+        this.storeFolders(own);
         this.store();
         this.drawDevices(false);
     },
 
     takeDevices() {
+        const own = this.ownFolders();
         const choices = Array.from(byId('path_devices').querySelectorAll('select'));
-        const entries = this.devices.map((entry, index) => `${entry.device}|${choices[index].value}`);
-        saveOptions.store('multipathdevicelist', 'string', entries.join('?'));
+        this.devices.forEach((entry, index) => own.set(entry.device, choices[index].value));
+        this.storeFolders(own);
         savePage.changed('multipathdevicelist');
     },
 

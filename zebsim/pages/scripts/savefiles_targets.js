@@ -15,9 +15,10 @@ const saveTargets = {
         Array.from(document.querySelectorAll('.of_targets')).forEach(part => { part.hidden = !this.isThere; });
         if (!this.isThere) {
             document.body.classList.add('alone');
-            // Names are shown as those of the first camera that is selected.
-            saveBridge.setSelectDocKey(Number(saveBridge.getSelectedDockey()[0] || 0));
-            saveBridge.setSelectPartitionNo(1);
+            // Names are shown as those of the first camera that is selected, with the numbers of all.
+            saveBridge.countSelectedDocs();
+            const key = saveBridge.getSelectDocKey() || Number(saveBridge.getSelectedDockey()[0] || 0);
+            saveBridge.select(key, saveBridge.getSelectPartitionNo() || 1, 1, 1);
         }
         byId('all').addEventListener('change', () => savePage.guarded(() => this.tickAll(byId('all').checked)));
         const list = byId('targets');
@@ -197,13 +198,14 @@ const saveTargets = {
         }
     },
 
-    // Names are those of the chosen recording from now on; its picture comes later.
     choose(name) {
         this.chosenName = name;
-        const [key, partition] = name.split('/').map(Number);
-        saveBridge.setSelectDocKey(key);
-        saveBridge.setSelectPartitionNo(partition || 0);
         this.showPreviewSoon();
+    },
+
+    // The recording by which the files are called that are shown; a layout goes by its first one.
+    named() {
+        return saveFamily === 'L' ? this.ticked()[0] : this.chosen();
     },
 
     // Arrows choose, Space ticks.
