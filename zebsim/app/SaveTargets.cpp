@@ -3,10 +3,10 @@
 #include "Camera.h"
 #include "HostNameSource.h"
 #include "HostNamedDocument.h"
+#include "MediaRoom.h"
 #include "SaveTexts.h"
 #include "SimControl.h"
 #include "SimHost.h"
-#include "TargetDisk.h"
 #include "TargetPaths.h"
 #include "TextKey.h"
 #include "UTL_Exception.h"
@@ -82,7 +82,11 @@ SaveOrders ordersOf(SimHost& host, zeb::FileType type) {
     const auto pref = [&host](const QString& key) { return host.prefs().value(key); };
     SaveOrders orders = chosenOrders(pref, nameFamily(type));
     orders.encoder = VideoEncoder::installed();
-    orders.diskFault = [&host] { return host.faults().suffer(FaultPlan::Disk, "write", host.clock()); };
+    const auto room = std::make_shared<MediaRoom>(host.shelf());
+    orders.diskFault = [&host, room](const QString& path) {
+        const QString planted = host.faults().suffer(FaultPlan::Disk, "write", host.clock());
+        return planted.isEmpty() ? room->fault(path) : planted;
+    };
     return orders;
 }
 
@@ -111,7 +115,7 @@ SavePlan composePlan(SimHost& host, const std::vector<SaveTrack>& tracks, const 
             orders.absent.append(leftOutText(known.last()));
         }
     }
-    RealDisk disk;
+    MediaDisk disk(host.shelf());
     return planOf(std::move(orders), targets, disk, known);
 }
 

@@ -46,7 +46,7 @@ std::unique_ptr<FrameSink> FrameSink::of(const SaveOrders& orders, const SaveTra
 }
 
 void meetDiskFault(const SaveOrders& orders, const QString& path) {
-    const QString reason = orders.diskFault();
+    const QString reason = orders.diskFault(path);
     if (!reason.isEmpty()) {
         throw FileError(path, reason);
     }

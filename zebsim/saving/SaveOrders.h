@@ -26,8 +26,8 @@ struct SaveOrders {
     VideoEncoder encoder = {};
     /// What can't be saved, a line each for the list of results.
     QStringList absent = {};
-    /// Answers why the next file can't be written; empty when it can. Any thread.
-    std::function<QString()> diskFault = [] { return QString(); };
+    /// Answers why the next file, of that path, can't be written; empty when it can. Any thread.
+    std::function<QString(const QString& path)> diskFault = [](const QString&) { return QString(); };
     /// Of the tracks that are added.
     FrameSkipRule skip = {};
     LayoutRule layout = {};
