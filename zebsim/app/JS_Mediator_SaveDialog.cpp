@@ -1,8 +1,10 @@
 #include "JS_Mediator_SaveDialog.h"
 
 #include "BridgeCall.h"
+#include "Camera.h"
 #include "SaveTargets.h"
 #include "SimHost.h"
+#include "SizeText.h"
 #include "UiText.h"
 
 #include <QHash>
@@ -17,18 +19,23 @@ JS_Mediator_SaveDialog::JS_Mediator_SaveDialog(SimHost& host, const QString& nam
                                                QStringList absent)
     : JS_Mediator_FileDialog(&host, name), m_simHost(host), m_tracks(std::move(tracks)), m_absent(std::move(absent)) {}
 
-QString JS_Mediator_SaveDialog::exportFileName(bool details) {
-    return partitionFileName(m_simHost, fileType(m_tracks.front()), getSelectDocKey(), getSelectPartitionNo(), details,
-                             time());
+std::unique_ptr<NamedDocument> JS_Mediator_SaveDialog::namedDocument(DOCKEY key, PARTITIONNUMBER partition) {
+    return namedPartition(m_simHost, key, partition);
 }
 
 QString JS_Mediator_SaveDialog::list(bool temporary) {
-    const QString ofCameras = JS_Mediator_FileDialog::list(temporary);
     if (temporary) {
-        return ofCameras;
+        return JS_Mediator_FileDialog::list(true);
     }
     return call(*this, Query, __func__, {}, [&] {
-        const QJsonArray all = records(QJsonDocument::fromJson(ofCameras.toUtf8()).array());
+        DocKeyList keys;
+        for (const SaveTrack& track : m_tracks) {
+            for (const SaveSource& source : track.sources) {
+                keys += keys.contains(source.key()) ? DocKeyList() : DocKeyList{source.key()};
+            }
+        }
+        const QString present = recordsText(keys, false);
+        const QJsonArray all = records(QJsonDocument::fromJson(present.toUtf8()).array());
         return QString::fromUtf8(QJsonDocument(all).toJson(QJsonDocument::Compact));
     });
 }
@@ -54,9 +61,15 @@ QJsonArray JS_Mediator_SaveDialog::records(const QJsonArray& ofCameras) const {
             if (!isThere) {
                 record = {{"dockey", double(source.key())},
                           {"partitionno", double(source.partition())},
-                          {"exportframes", source.frames()},
-                          {"gone", uiText("the camera is gone")}};
+                          {"gone", whyAbsent(source.key())}};
             }
+            // Of the range as it stood when the page was opened, and so it is saved.
+            const int step = std::max(1, record["multiskip"].toInt());
+            const int frames = (source.frames() + step - 1) / step;
+            const double before = record["exportframes"].toDouble();
+            record["capacity"] = before > 0 ? record["capacity"].toDouble() / before * frames : 0;
+            record["capacitylabel"] = isThere ? sizeText(qint64(record["capacity"].toDouble())) : QString();
+            record["exportframes"] = frames;
             record["camera"] = source.name();
             record["label"] = track.isLayout ? source.name() : track.name;
             record["saveframes"] = source.frames();
@@ -66,6 +79,31 @@ QJsonArray JS_Mediator_SaveDialog::records(const QJsonArray& ofCameras) const {
         }
     }
     return all;
+}
+
+QString JS_Mediator_SaveDialog::whyAbsent(DOCKEY key) const {
+    const Camera* camera = m_simHost.cameras().find(key);
+    return camera == nullptr                       ? uiText("the camera is gone")
+           : !camera->get(&CameraState::connected) ? uiText("the camera was disconnected")
+                                                   : uiText("the camera does not answer");
+}
+
+QString JS_Mediator_SaveDialog::getTotals() {
+    return call(*this, Query, __func__, {}, [this] {
+        constexpr int BytesOfPixel = 3;
+        const auto pref = [this](const QString& key) { return m_simHost.prefs().value(key); };
+        SaveOrders orders = chosenOrders(pref, nameFamily(fileType(m_tracks.front())));
+        double frames = 0;
+        double bytes = 0;
+        for (const SaveTrack& track : chosenTracks()) {
+            orders.add(track);
+            const SaveTrack& planned = orders.tracks.back();
+            frames += planned.frames();
+            bytes += double(planned.frames()) * planned.size().width() * planned.size().height() * BytesOfPixel;
+        }
+        const QJsonObject totals{{"frames", frames}, {"bytes", bytes}};
+        return QString::fromUtf8(QJsonDocument(totals).toJson(QJsonDocument::Compact));
+    });
 }
 
 void JS_Mediator_SaveDialog::save() {

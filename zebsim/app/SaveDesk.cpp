@@ -4,6 +4,7 @@
 #include "DialogRun.h"
 #include "GUI_SaveDialog.h"
 #include "JS_Mediator_SaveDialog.h"
+#include "MediaRoom.h"
 #include "PartitionName.h"
 #include "PlanDialog.h"
 #include "PluginSignal.h"
@@ -13,7 +14,6 @@
 #include "SimHost.h"
 #include "Style.h"
 #include "Tal2Start.h"
-#include "TargetDisk.h"
 #include "TextKey.h"
 #include "UiText.h"
 
@@ -32,21 +32,51 @@ bool SaveDesk::isSaving() const {
     return m_job && m_job->isRunning();
 }
 
-void SaveDesk::save(bool layout) {
-    if (isSaving() || m_asking) {
+bool SaveDesk::isBusy() const {
+    const bool isBusy = isSaving() || m_asking;
+    if (isBusy) {
         m_host.messages().tell(Message::Info, uiText("Images are being saved already."));
+    }
+    return isBusy;
+}
+
+void SaveDesk::save(bool layout) {
+    if (isBusy()) {
         return;
     }
     const std::vector<SaveTrack> tracks = tracksToSave(layout);
     const QStringList absent = absentCameras();
     if (tracks.empty()) {
         m_host.messages().tell(Message::Warn, uiText("No connected camera has recorded images."), absent);
+    } else if (layout) {
+        ask(QStringLiteral("layoutsavedialog"), TextKey("Save layout"), tracks, absent);
+    } else {
+        ask(QStringLiteral("savedialog"), TextKey("Save"), tracks, absent);
+    }
+}
+
+void SaveDesk::import(const DocKeyList& keys) {
+    if (isBusy()) {
         return;
     }
+    std::vector<SaveTrack> tracks = tracksOfEach(saveSources(m_host.cameras(), keys));
+    for (SaveTrack& track : tracks) {
+        const Camera* camera = m_host.cameras().find(track.sources.front().key());
+        // One camera may have made several.
+        const QString file = camera ? camera->get(&CameraState::originalName) : QString();
+        track.name = file.isEmpty() ? track.name : uiText("%1, %2").arg(track.name, file);
+    }
+    if (tracks.empty()) {
+        m_host.messages().tell(Message::Warn, uiText("There is no recording to import."));
+    } else {
+        ask(QStringLiteral("savedialog"), TextKey("Import"), tracks, {});
+    }
+}
+
+void SaveDesk::ask(const QString& name, const QString& title, const std::vector<SaveTrack>& tracks,
+                   const QStringList& absent) {
     std::optional<SavePlan> plan;
     std::unique_ptr<NamePromises::Save> names;
-    const QString name = layout ? QStringLiteral("layoutsavedialog") : QStringLiteral("savedialog");
-    const QString title = layout ? TextKey("Save layout") : TextKey("Save");
     auto* dialog = new GUI_SaveDialog(m_host, title, new JS_Mediator_SaveDialog(m_host, name, tracks, absent),
                                       m_host.getMainWindow());
     QObject::connect(dialog, &QDialog::accepted, dialog, [&plan, &names, dialog] {
@@ -127,7 +157,7 @@ void SaveDesk::beginAgain(const std::vector<SaveTrack>& tracks) {
     }
     SavePlan plan;
     try {
-        RealDisk disk;
+        MediaDisk disk(m_host.shelf());
         plan = planOf(std::move(orders), targets, disk);
     } catch (const std::exception& e) {
         m_host.messages().tell(Message::Alert, uiText(QString::fromUtf8(e.what())), {}, m_progress);

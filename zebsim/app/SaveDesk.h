@@ -26,9 +26,16 @@ public:
 
     /// Back when the user has decided. Saving goes on behind a modal progress.
     void save(bool layout);
+    /// The same of the recordings of these documents alone.
+    void import(const DocKeyList& keys);
     bool isSaving() const;
 
 private:
+    /// Tells the user when a save is under way.
+    bool isBusy() const;
+    /// The dialog of that name, and the save that comes of it.
+    void ask(const QString& dialog, const QString& title, const std::vector<SaveTrack>& tracks,
+             const QStringList& absent);
     /// A line for each camera whose last recording can't be saved.
     QStringList absentCameras() const;
     /// Names those that are not of the last shoot so, and answers the names.

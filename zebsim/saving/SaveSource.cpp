@@ -69,8 +69,12 @@ void SaveSource::noteSaved() const {
 }
 
 SaveSources saveSources(const CameraBank& cameras) {
+    return saveSources(cameras, cameras.keysOf(&CameraState::connected));
+}
+
+SaveSources saveSources(const CameraBank& cameras, const DocKeyList& keys) {
     SaveSources sources;
-    for (const auto& camera : cameras.holdConnected()) {
+    for (const auto& camera : cameras.hold(keys)) {
         for (const Recording& recording : camera->recordings()) {
             sources.emplace_back(camera, recording, cameras.labelOf(*camera));
         }

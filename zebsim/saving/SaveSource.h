@@ -62,3 +62,5 @@ using SaveSources = std::vector<SaveSource>;
 
 /// What the connected cameras have recorded, in the order of their keys and then of their partitions. GUI thread.
 SaveSources saveSources(const CameraBank& cameras);
+/// The same of these cameras, in the order of `keys`.
+SaveSources saveSources(const CameraBank& cameras, const DocKeyList& keys);
