@@ -91,7 +91,7 @@ module.exports = [
             sourceType: 'script',
             globals: Object.assign({}, browser, host, readonly(['app', 'items', 'setTimeout',
                 'CustomInfoDialog', 'cameraSettings', 'addnumberdialog', 'adddevice', 'adddeviceAutoCameraName',
-                'savefile']))
+                'savefile', 'fileopendialog']))
         },
         rules: pageRules
     },

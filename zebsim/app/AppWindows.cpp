@@ -11,15 +11,19 @@
 #include "GUI_CameraFileDialog.h"
 #include "GUI_CameraSettingsDialog.h"
 #include "GUI_CustomInfoDialog.h"
+#include "JS_Mediator_MediaDialog.h"
 #include "LogStore.h"
+#include "PasswordDialogs.h"
 #include "PreferencesDialog.h"
 #include "ProgressWait.h"
 #include "SaveInfoDialog.h"
 #include "SimHost.h"
 #include "SnapShots.h"
+#include "TextKey.h"
 #include "UiText.h"
 #include "ZebSupportFile.h"
 
+#include <QApplication>
 #include <QBuffer>
 #include <QDialog>
 #include <QPixmap>
@@ -27,6 +31,8 @@
 namespace {
 
 constexpr StatusFlags::Flag DialogState = StatusFlags::IsPrefDialogOpening;
+
+constexpr QSize MediaSize{1060, 640};
 
 QByteArray pngOf(const QImage& image) {
     QBuffer buffer;
@@ -84,6 +90,25 @@ void AppWindows::editCamera(DOCKEY key) {
     // Updates may be held back for as long as it stands.
     QObject::connect(&m_images, &CameraWindows::shown, dialog, &GUI_AddDeviceDialog::follow);
     runOnCameras(dialog);
+}
+
+void AppWindows::openMedia() {
+    auto* dialog = new GUI_WebViewDialog(&m_host, TextKey("Media"), QStringLiteral("qrc:/fileopendialog.html"),
+                                         new JS_Mediator_MediaDialog(m_host), m_host.getMainWindow());
+    dialog->resize(MediaSize);
+    runDialog(m_host, dialog);
+}
+
+bool AppWindows::askPassword(const QString& medium, const PasswordTest& fits) {
+    return runDialog(m_host, new PasswordDialog(medium, fits, QApplication::activeWindow())) == QDialog::Accepted;
+}
+
+std::optional<QString> AppWindows::askNewPassword(const QString& medium, const PasswordTest& fits) {
+    auto* dialog = new NewPasswordDialog(medium, fits, QApplication::activeWindow());
+    std::optional<QString> password;
+    QObject::connect(dialog, &QDialog::accepted, dialog, [&password, dialog] { password = dialog->password(); });
+    runDialog(m_host, dialog);
+    return password;
 }
 
 void AppWindows::editCustomInfo() {

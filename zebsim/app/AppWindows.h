@@ -31,6 +31,9 @@ public:
     /// The dialog that adds a camera; runs until it is closed.
     void addCamera();
 
+    /// The page of the storage media; runs until it is closed.
+    void openMedia();
+
     /// Custom information of the selected cameras; runs until it is closed.
     void editCustomInfo();
 
@@ -48,6 +51,9 @@ public:
     void waitForRows(ParallelRows& rows, const QStringList& names) override;
     void save(bool layout) override { m_saving.save(layout); }
     bool isSaving() const override { return m_saving.isSaving(); }
+    void importRecordings(const DocKeyList& keys) override { m_saving.import(keys); }
+    bool askPassword(const QString& medium, const PasswordTest& fits) override;
+    std::optional<QString> askNewPassword(const QString& medium, const PasswordTest& fits) override;
     void snapShot(int mode) override;
     bool openTimeCode() override;
     bool openSaveInfo(const DocKeyList& keys) override;

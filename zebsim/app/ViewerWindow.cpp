@@ -6,6 +6,7 @@
 #include "HostKeys.h"
 #include "ImageArea.h"
 #include "LogDock.h"
+#include "MediaMenu.h"
 #include "PlayerBar.h"
 #include "PluginButton.h"
 #include "SaveKeys.h"
@@ -105,6 +106,8 @@ void ViewerWindow::addDialogs(AppWindows& windows) {
         addEntry(m_fileMenu, uiText("Load camera settings..."), "loadSettings", [&windows] { windows.loadSettings(); }),
         addEntry(m_fileMenu, uiText("Save camera settings..."), "saveSettings",
                  [&windows] { windows.saveSettings(); })};
+    m_fileMenu->addSeparator();
+    new MediaMenu(m_host, windows, *m_fileMenu->addMenu(uiText("Media")));
     m_fileMenu->addSeparator();
     addEntry(m_fileMenu, uiText("&Quit"), "quit", [this] { Q_EMIT closeAsked(); });
     // Opened by a key a menu stands at its first entry, and that must not record.

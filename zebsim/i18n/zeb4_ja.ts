@@ -2915,5 +2915,281 @@
         <source>Not all recordings could be opened as they were saved.</source>
         <translation>保存されたとおりに開けなかった記録があります。</translation>
     </message>
+    <message>
+        <source>%1 was pulled out.</source>
+        <translation>%1が抜かれました。</translation>
+    </message>
+    <message>
+        <source>SD card</source>
+        <translation>SDカード</translation>
+    </message>
+    <message>
+        <source>QUIK Drive</source>
+        <translation>QUIK Drive</translation>
+    </message>
+    <message>
+        <source>CFast</source>
+        <translation>CFast</translation>
+    </message>
+    <message>
+        <source>is open</source>
+        <translation>開いています</translation>
+    </message>
+    <message>
+        <source>is locked</source>
+        <translation>ロックされています</translation>
+    </message>
+    <message>
+        <source>write protected</source>
+        <translation>書き込み禁止</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 / %2</translation>
+    </message>
+    <message>
+        <source>No medium is chosen.</source>
+        <translation>メディアが選択されていません。</translation>
+    </message>
+    <message>
+        <source>It is write protected.</source>
+        <translation>書き込み禁止です。</translation>
+    </message>
+    <message>
+        <source>An SD card is formatted in its camera.</source>
+        <translation>SDカードはカメラでフォーマットします。</translation>
+    </message>
+    <message>
+        <source>It is locked by a password.</source>
+        <translation>パスワードでロックされています。</translation>
+    </message>
+    <message>
+        <source>Only a QUIK Drive has a password.</source>
+        <translation>パスワードを設定できるのはQUIK Driveだけです。</translation>
+    </message>
+    <message>
+        <source>Erase all data of %1?</source>
+        <translation>%1のデータをすべて消去しますか?</translation>
+    </message>
+    <message>
+        <source>Files of this recording are missing.</source>
+        <translation>この記録のファイルが足りません。</translation>
+    </message>
+    <message>
+        <source>There is no name.</source>
+        <translation>名前がありません。</translation>
+    </message>
+    <message>
+        <source>Delete %1 recordings from their media?</source>
+        <translation>メディアから%1件の記録を削除しますか?</translation>
+    </message>
+    <message>
+        <source>%1 could not be deleted.</source>
+        <translation>%1を削除できませんでした。</translation>
+    </message>
+    <message>
+        <source>Media</source>
+        <translation>メディア</translation>
+    </message>
+    <message>
+        <source>Open media...</source>
+        <translation>メディアを開く...</translation>
+    </message>
+    <message>
+        <source>Put in...</source>
+        <translation>挿入...</translation>
+    </message>
+    <message>
+        <source>Pull out</source>
+        <translation>抜く</translation>
+    </message>
+    <message>
+        <source>Write protected</source>
+        <translation>書き込み禁止</translation>
+    </message>
+    <message>
+        <source>Put in a medium</source>
+        <translation>メディアの挿入</translation>
+    </message>
+    <message>
+        <source>As 8 GB; empty: all of the disk</source>
+        <translation>例: 8 GB、空欄はディスク全体</translation>
+    </message>
+    <message>
+        <source>Medium</source>
+        <translation>メディア</translation>
+    </message>
+    <message>
+        <source>Capacity</source>
+        <translation>容量</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>パスワード</translation>
+    </message>
+    <message>
+        <source>The capacity is a size as 8 GB.</source>
+        <translation>容量は8 GBのような大きさで指定します。</translation>
+    </message>
+    <message>
+        <source>The folder is a whole path.</source>
+        <translation>フォルダは完全なパスで指定します。</translation>
+    </message>
+    <message>
+        <source>The password is wrong.</source>
+        <translation>パスワードが違います。</translation>
+    </message>
+    <message>
+        <source>Set password</source>
+        <translation>パスワードの設定</translation>
+    </message>
+    <message>
+        <source>Old password</source>
+        <translation>古いパスワード</translation>
+    </message>
+    <message>
+        <source>New password</source>
+        <translation>新しいパスワード</translation>
+    </message>
+    <message>
+        <source>Once more</source>
+        <translation>もう一度</translation>
+    </message>
+    <message>
+        <source>Empty: no password any more</source>
+        <translation>空欄: パスワードをなくします</translation>
+    </message>
+    <message>
+        <source>The old password is wrong.</source>
+        <translation>古いパスワードが違います。</translation>
+    </message>
+    <message>
+        <source>The two new passwords differ.</source>
+        <translation>2つの新しいパスワードが一致しません。</translation>
+    </message>
+    <message>
+        <source>The password is empty.</source>
+        <translation>パスワードが空です。</translation>
+    </message>
+    <message>
+        <source>There is no recording to import.</source>
+        <translation>取り込む記録がありません。</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>取り込み</translation>
+    </message>
+    <message>
+        <source>Not all recordings of %1 could be opened as they were saved.</source>
+        <translation>%1の一部の記録は、保存されたとおりには開けませんでした。</translation>
+    </message>
+    <message>
+        <source>Compared with what is saved in %1:</source>
+        <translation>%1に保存されているものとの比較:</translation>
+    </message>
+    <message>
+        <source>%1: the recording is not there any more</source>
+        <translation>%1: 記録はもうありません</translation>
+    </message>
+    <message>
+        <source>%1: saved</source>
+        <translation>%1: 保存済み</translation>
+    </message>
+    <message>
+        <source>%1: saved in part</source>
+        <translation>%1: 一部保存済み</translation>
+    </message>
+    <message>
+        <source>%1: not saved</source>
+        <translation>%1: 未保存</translation>
+    </message>
+    <message>
+        <source>%1 was pulled out. Its recordings are closed.</source>
+        <translation>%1が抜かれました。その記録は閉じられました。</translation>
+    </message>
+    <message>
+        <source>%1 is locked by a password.</source>
+        <translation>%1はパスワードでロックされています。</translation>
+    </message>
+    <message>
+        <source>Formatting %1...</source>
+        <translation>%1をフォーマットしています...</translation>
+    </message>
+    <message>
+        <source>a medium needs a name</source>
+        <translation>メディアには名前が必要です</translation>
+    </message>
+    <message>
+        <source>a medium of that name is in already</source>
+        <translation>その名前のメディアはすでに挿入されています</translation>
+    </message>
+    <message>
+        <source>its folder belongs to another medium</source>
+        <translation>そのフォルダは別のメディアのものです</translation>
+    </message>
+    <message>
+        <source>there is no place for one more medium</source>
+        <translation>これ以上メディアを挿入する場所がありません</translation>
+    </message>
+    <message>
+        <source>its folder can&apos;t be made</source>
+        <translation>フォルダを作成できません</translation>
+    </message>
+    <message>
+        <source>this folder can&apos;t be a medium</source>
+        <translation>このフォルダはメディアにできません</translation>
+    </message>
+    <message>
+        <source>it is not there any more</source>
+        <translation>もうありません</translation>
+    </message>
+    <message>
+        <source>it is write protected</source>
+        <translation>書き込み禁止です</translation>
+    </message>
+    <message>
+        <source>it is a link</source>
+        <translation>リンクです</translation>
+    </message>
+    <message>
+        <source>it is too large</source>
+        <translation>大きすぎます</translation>
+    </message>
+    <message>
+        <source>it is damaged</source>
+        <translation>壊れています</translation>
+    </message>
+    <message>
+        <source>Format...</source>
+        <translation>フォーマット...</translation>
+    </message>
+    <message>
+        <source>Password...</source>
+        <translation>パスワード...</translation>
+    </message>
+    <message>
+        <source>Open folder...</source>
+        <translation>フォルダを開く...</translation>
+    </message>
+    <message>
+        <source>Data name</source>
+        <translation>データ名</translation>
+    </message>
+    <message>
+        <source>Import...</source>
+        <translation>取り込み...</translation>
+    </message>
+    <message>
+        <source>Check saved...</source>
+        <translation>保存の確認...</translation>
+    </message>
+    <message>
+        <source>Delete...</source>
+        <translation>削除...</translation>
+    </message>
+    <message>
+        <source>Close medium</source>
+        <translation>メディアを閉じる</translation>
+    </message>
 </context>
 </TS>

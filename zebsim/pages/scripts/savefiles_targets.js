@@ -50,26 +50,8 @@ const saveTargets = {
         return Array.from(byId('targets').querySelectorAll('tbody tr'));
     },
 
-    // A row is written anew only when it says something else: a press may be under way.
     draw() {
-        const body = byId('targets').querySelector('tbody');
-        this.records.forEach((record, index) => {
-            const text = JSON.stringify(record);
-            const old = body.children[index];
-            if (old && old.getAttribute('data-text') === text) {
-                return;
-            }
-            const row = this.rowOf(record);
-            row.setAttribute('data-text', text);
-            if (old) {
-                body.replaceChild(row, old);
-            } else {
-                body.appendChild(row);
-            }
-        });
-        while (body.children.length > this.records.length) {
-            body.removeChild(body.lastChild);
-        }
+        dialogList.draw(byId('targets').querySelector('tbody'), this.records, record => this.rowOf(record));
         this.mark();
     },
 
@@ -123,7 +105,6 @@ const saveTargets = {
         });
         const names = this.names();
         byId('all').checked = names.length > 0 && names.every(name => !this.leftOut.has(name));
-        this.tellSum();
     },
 
     names() {
@@ -178,15 +159,17 @@ const saveTargets = {
             targets[record.dockey] = (targets[record.dockey] || []).concat(record.partitionno);
         });
         saveBridge.refreshSkipFrame(targets);
+        this.tellSum();
     },
 
     tellSum() {
-        const ticked = this.ticked();
-        const frames = ticked.reduce((sum, record) => sum + record.exportframes, 0);
+        if (!this.isThere) {
+            return;
+        }
+        const { frames, bytes } = JSON.parse(saveBridge.getTotals() || '{"frames": 0, "bytes": 0}');
         const text = translate('%1 of %2 recordings, %3 frames, about %4');
-        byId('sum').textContent = !this.isThere ? '' : text.replace('%1', ticked.length)
-            .replace('%2', this.names().length).replace('%3', frames)
-            .replace('%4', saveBridge.capcityToString(ticked.map(record => record.capacity || 0)));
+        byId('sum').textContent = text.replace('%1', this.ticked().length).replace('%2', this.names().length)
+            .replace('%3', frames).replace('%4', saveBridge.capcityToString([bytes]));
     },
 
     pick(row) {
@@ -212,12 +195,10 @@ const saveTargets = {
     key(event) {
         const rows = this.rows().filter(row => row.hasAttribute('data-name'));
         const at = rows.findIndex(row => row.getAttribute('data-name') === this.chosenName);
-        const steps = { 38: -1, 40: 1, 36: -rows.length, 35: rows.length, 33: -10, 34: 10 };
-        if (steps[event.keyCode] !== undefined && rows.length > 0) {
-            event.preventDefault();
-            const row = rows[Math.max(0, Math.min(at + steps[event.keyCode], rows.length - 1))];
-            this.pick(row);
-            row.scrollIntoViewIfNeeded(false);
+        const next = dialogList.step(event, rows.length, at);
+        if (next >= 0) {
+            this.pick(rows[next]);
+            rows[next].scrollIntoViewIfNeeded(false);
         } else if (event.keyCode === 32 && at >= 0 && event.target.tagName !== 'INPUT') {
             event.preventDefault();
             const box = rows[at].querySelector('input');
