@@ -58,6 +58,7 @@ ScenarioApi::ScenarioApi(QJSEngine& engine, Simulator& simulator, const QString&
       m_givenUp(std::move(stop)),
       m_cameras(simulator.host(), folder),
       m_hubs(simulator.host()),
+      m_media(simulator.host(), folder),
       m_faults(simulator.host()),
       m_table(simulator, m_givenUp),
       m_dialogs(folder),
@@ -113,6 +114,13 @@ QJSValue ScenarioApi::hub(const QString& address) {
 
 void ScenarioApi::setHub(const QString& address, const QVariantMap& members) {
     guarded([&] { m_hubs.setHub(address, members); });
+}
+
+QJSValue ScenarioApi::medium(const QString& kind, const QVariantMap& members) {
+    return guarded([&] {
+        const QVariant medium = m_media.medium(kind, members);
+        return medium.isValid() ? plain(medium) : QJSValue(QJSValue::NullValue);
+    });
 }
 
 void ScenarioApi::fault(const QJSValue& target, const QString& operation, const QVariantMap& fault) {

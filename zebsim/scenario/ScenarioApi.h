@@ -3,6 +3,7 @@
 #include "CameraScripting.h"
 #include "FaultScripting.h"
 #include "HubScripting.h"
+#include "MediumScripting.h"
 #include "ScenarioDialogs.h"
 #include "TableDriver.h"
 #include "VisaScripting.h"
@@ -34,6 +35,7 @@ public:
     Q_INVOKABLE void reboot(unsigned int key);
     Q_INVOKABLE QJSValue hub(const QString& address);
     Q_INVOKABLE void setHub(const QString& address, const QVariantMap& members);
+    Q_INVOKABLE QJSValue medium(const QString& kind, const QVariantMap& members);
     /// `target` is the key of a camera, or the address of a hub.
     Q_INVOKABLE void fault(const QJSValue& target, const QString& operation, const QVariantMap& fault);
 
@@ -100,6 +102,7 @@ private:
     std::function<bool()> m_givenUp;
     CameraScripting m_cameras;
     HubScripting m_hubs;
+    MediumScripting m_media;
     FaultScripting m_faults;
     VisaScripting m_visa;
     TableDriver m_table;
