@@ -116,9 +116,11 @@ TEST_F(ControlStatusTest, FollowsWhatHappens) {
         {[&] { change(2, "cfast", false); }, "-IsExternalMediaSelected"},
         {[&] { change(2, "locked", true); }, "+IsWrenLockDevice"},
         {[&] { enter(zeb::FileMode); },
-         "+IsFileMode +IsNoneWindow -IsLiveMode -IsMultiWindow -IsNotCurrentAutoFocus -IsWrenLockDevice"},
+         "+IsFileMode +IsNoneDocument +IsNoneWindow -IsLiveMode -IsLutCurve -IsMultiWindow -IsNotCurrentAutoFocus "
+         "-IsSuspendReduce -IsWrenLockDevice"},
         {[&] { enter(zeb::LiveMode), host.appStatus().setWrenRunning(false); },
-         "+IsLiveMode +IsMultiWindow +IsNotCurrentAutoFocus -IsFileMode -IsNoneWindow -IsWren"},
+         "+IsLiveMode +IsLutCurve +IsMultiWindow +IsNotCurrentAutoFocus +IsSuspendReduce -IsFileMode -IsNoneDocument "
+         "-IsNoneWindow -IsWren"},
         {[&] { change(2, "connected", false); }, "+IsCurrentDisconnected +IsSingleWindow -IsMultiWindow"},
         {[&] { host.appStatus().setWrenRunning(true); }, "+IsWren +IsWrenLockDevice"},
     };
@@ -192,7 +194,7 @@ TEST_F(DeviceInfo, OnlyTheShortListInLiveModeLeavesOut) {
     } cases[] = {
         {zeb::LiveMode, false, false, "1 2 3"},  {zeb::LiveMode, false, true, "1 2 3"},
         {zeb::LiveMode, true, false, "1 2 3"},   {zeb::LiveMode, true, true, "1 3"},
-        {zeb::MemoryMode, true, true, "1 2 3"},  {zeb::FileMode, true, true, "1 2 3"},
+        {zeb::MemoryMode, true, true, "1 2 3"},  {zeb::FileMode, true, true, ""},
         {zeb::MemoryMode, false, true, "1 2 3"},
     };
     for (const auto& row : cases) {

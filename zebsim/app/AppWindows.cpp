@@ -1,6 +1,7 @@
 #include "AppWindows.h"
 
 #include "AboutDialog.h"
+#include "Camera.h"
 #include "CameraView.h"
 #include "CameraWindow.h"
 #include "CameraWindows.h"
@@ -163,9 +164,16 @@ std::optional<CameraFrame> AppWindows::currentFrame() const {
     return window ? window->view().frame() : std::nullopt;
 }
 
+/// A partition that is not in use is not played.
+int AppWindows::shownFrame(DOCKEY key, const Recording& recording) const {
+    const Camera* camera = m_host.cameras().find(key);
+    const bool isShown = camera && camera->get(&CameraState::partition) == recording.partition;
+    return isShown ? m_images.playback().frame(key, recording) : recording.selectedFirst;
+}
+
 QImage AppWindows::currentImage() const {
     const auto frame = currentFrame();
-    return frame ? drawFrame(*frame, frame->resolution) : QImage();
+    return frame ? drawFrameOrFailure(*frame, frame->resolution) : QImage();
 }
 
 // With `addHostState` this writes what `supportFileContents` has promised the user.

@@ -57,6 +57,7 @@ public:
     void snapShot(int mode) override;
     bool openTimeCode() override;
     bool openSaveInfo(const DocKeyList& keys) override;
+    int shownFrame(DOCKEY key, const Recording& recording) const override;
     QImage currentImage() const override;
     void addToSupportFile(ZebSupportFile& file) const override;
     void showDropDownBox(const QString& key, const QRect& anchor) override { m_boxes.show(key, anchor); }

@@ -90,7 +90,7 @@ void CameraWindows::showEffects(const Camera& camera, CameraWindow& window) cons
 }
 
 void CameraWindows::addAndRemove() {
-    const DocKeyList wanted = m_host.isFileMode() ? DocKeyList() : m_host.cameras().keysOf(&CameraState::connected);
+    const DocKeyList wanted = m_host.cameras().keysOf(&CameraState::connected);
     const DocKeyList present = m_windows.keys();
     if (wanted == present) {
         return;
@@ -205,14 +205,14 @@ void CameraWindows::forEach(const std::function<void(const Camera&, CameraWindow
 void CameraWindows::showImage(const Camera& camera, CameraWindow& window, qint64 passed) {
     const CameraState state = camera.state();
     std::optional<CameraFrame> frame;
-    if (m_host.isMemoryMode()) {
+    if (!m_host.isLiveMode()) {
         frame = recordedFrame(camera, passed);
     } else if (window.view().frame() && !m_fresh && (state.stopLive || m_host.liveLoop().isLivePaused())) {
         frame = window.view().frame();
     } else {
         frame = CameraFrame::live(state, SensorNoise::of(camera), m_shownAt);
     }
-    window.view().showItems(camera.customInfo(m_host.isMemoryMode()));
+    window.view().showItems(camera.customInfo(!m_host.isLiveMode()));
     window.view().showFrame(frame, poseOf(state), uiText("Nothing is recorded"));
 }
 

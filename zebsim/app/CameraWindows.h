@@ -17,8 +17,9 @@ class QMdiSubWindow;
 class SimHost;
 struct CameraFrame;
 
-/// The image windows of the connected cameras: live images in live mode, recorded frames in memory mode, none in file
-/// mode. The window in front is that of the current camera, whichever of the two changes.
+/// The image windows of the connected cameras: live images in live mode, recorded frames in memory mode; those of the
+/// recordings that are open in file mode. The window in front is that of the current camera, whichever of the two
+/// changes.
 class CameraWindows : public QObject {
     Q_OBJECT
 
@@ -27,6 +28,7 @@ public:
     CameraWindows(SimHost& host, ImageArea& area);
 
     Playback& playback() { return m_playback; }
+    const Playback& playback() const { return m_playback; }
     /// Takes over which cameras there are and how they are named and selected.
     void follow();
     /// Follows, and shows what the cameras see at this time of the host's clock.

@@ -49,7 +49,7 @@ EthernetDialog::EthernetDialog(const CameraBank& cameras, Preferences& prefs, QW
 }
 
 QWidget* EthernetDialog::makeTable(const CameraBank& cameras) {
-    const auto all = cameras.all();
+    const auto all = cameras.ofRig();
     auto* table = new QTableWidget(int(all.size()), 4, this);
     table->setObjectName(QStringLiteral("cameras"));
     table->setHorizontalHeaderLabels(

@@ -13,6 +13,16 @@
 #include <QSlider>
 #include <QStyle>
 
+namespace {
+
+void stopAll(const std::vector<Camera*>& cameras) {
+    for (Camera* camera : cameras) {
+        camera->set(&CameraState::playing, false);
+    }
+}
+
+}  // namespace
+
 PlayerBar::PlayerBar(SimHost& host, CameraWindows& windows, QWidget* parent)
     : QToolBar(uiText("Player"), parent),
       m_host(host),
@@ -49,11 +59,11 @@ Camera* PlayerBar::current() const {
 }
 
 void PlayerBar::modeChanged(int mode) {
-    setVisible(mode == zeb::MemoryMode);
     if (mode != zeb::MemoryMode) {
-        for (Camera* camera : m_host.cameras().all()) {
-            camera->set(&CameraState::playing, false);
-        }
+        stopAll(m_host.cameras().ofRig());
+    }
+    if (mode != zeb::FileMode) {
+        stopAll(m_host.cameras().files());
     }
     refresh();
 }
@@ -76,6 +86,11 @@ void PlayerBar::seek(int frame) {
 }
 
 void PlayerBar::refresh() {
+    const bool isWanted = m_host.isMemoryMode() || (m_host.isFileMode() && !m_host.cameras().files().empty());
+    if (m_isWanted != isWanted) {
+        m_isWanted = isWanted;
+        setVisible(isWanted);
+    }
     const Camera* camera = current();
     m_play->setEnabled(camera != nullptr);
     m_position->setEnabled(camera != nullptr);

@@ -2,6 +2,8 @@
 
 #include <QToolBar>
 
+#include <optional>
+
 class Camera;
 class CameraWindows;
 class ElidedLabel;
@@ -10,7 +12,7 @@ class QSlider;
 class SimHost;
 
 /// Plays what the current camera has recorded, and tells its shown items of custom information. Stands in the window in
-/// memory mode only.
+/// memory mode, and in file mode while a recording is open.
 class PlayerBar : public QToolBar {
     Q_OBJECT
 
@@ -31,4 +33,5 @@ private:
     QSlider* m_position;
     QLabel* m_frame;
     ElidedLabel* m_items;
+    std::optional<bool> m_isWanted;
 };

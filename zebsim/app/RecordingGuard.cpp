@@ -11,7 +11,7 @@ namespace {
 /// A line for each camera that is armed or records.
 QStringList camerasUnderWay(const CameraBank& cameras) {
     QStringList lines;
-    for (const Camera* camera : cameras.connected()) {
+    for (const Camera* camera : cameras.connectedOfRig()) {
         if (!camera->isUnderWay()) {
             continue;
         }

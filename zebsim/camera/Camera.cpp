@@ -160,6 +160,9 @@ void Camera::requireStarted() const {
 
 bool Camera::command(CameraOperation operation) {
     ask(operation);
+    if (isFile()) {
+        refuse(TextKey("it is a recording in files, and no camera"));
+    }
     requireStarted();
     m_device.clock().wait(m_device.latency());
     return !isGone();

@@ -34,6 +34,8 @@ public:
     int headNumber() const;
     /// The camera has vanished: it does nothing more, and the host has no document for it.
     bool isGone() const;
+    /// It stands for a recording in files, and takes no commands.
+    bool isFile() const { return !get(&CameraState::sourceFile).isEmpty(); }
 
     /// A `zeb::RecordStatus`.
     int recordState() const { return get(&CameraState::recordState); }

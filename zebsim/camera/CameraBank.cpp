@@ -17,6 +17,13 @@ bool isListed(const Camera& camera) {
     return camera.device().isFound() && !camera.isGone();
 }
 
+std::vector<Camera*> connectedOf(std::vector<Camera*> cameras) {
+    cameras.erase(std::remove_if(cameras.begin(), cameras.end(),
+                                 [](const Camera* camera) { return !camera->get(&CameraState::connected); }),
+                  cameras.end());
+    return cameras;
+}
+
 }  // namespace
 
 CameraBank::CameraBank(Clock& clock, FaultPlan& faults) : m_clock(clock), m_faults(faults) {}
@@ -92,14 +99,37 @@ void CameraBank::forgetAll() {
     }
 }
 
+DOCKEY CameraBank::addFile(const RigDevice& device, bool isListed) {
+    const DOCKEY key = m_nextFile++;
+    const auto held = std::make_shared<CameraDevice>(device, key, m_clock, m_faults);
+    const std::lock_guard lock(m_mutex);
+    m_files[key] = {std::shared_ptr<Camera>(held, held->heads().front().get()), isListed};
+    return key;
+}
+
+void CameraBank::removeFiles(const DocKeyList& keys) {
+    const std::lock_guard lock(m_mutex);
+    for (const DOCKEY key : keys) {
+        m_files.erase(key);
+    }
+}
+
+std::shared_ptr<Camera> CameraBank::held(DOCKEY key) const {
+    const auto file = m_files.find(key);
+    return file != m_files.end()                 ? file->second.camera
+           : key >= 1 && key <= m_cameras.size() ? m_cameras[key - 1]
+                                                 : nullptr;
+}
+
 Camera* CameraBank::find(DOCKEY key) const {
-    Camera* camera = has(key) ? m_cameras[key - 1].get() : nullptr;
-    return camera && isListed(*camera) ? camera : nullptr;
+    const auto camera = held(key);
+    return camera && isListed(*camera) ? camera.get() : nullptr;
 }
 
 std::shared_ptr<Camera> CameraBank::hold(DOCKEY key) const {
     const std::lock_guard lock(m_mutex);
-    return find(key) ? m_cameras[key - 1] : nullptr;
+    auto camera = held(key);
+    return camera && isListed(*camera) ? camera : nullptr;
 }
 
 HeldCameras CameraBank::holdConnected() const {
@@ -111,6 +141,20 @@ HeldCameras CameraBank::holdConnected() const {
 }
 
 std::vector<Camera*> CameraBank::all() const {
+    return m_listsFiles ? files() : ofRig();
+}
+
+std::vector<Camera*> CameraBank::files() const {
+    std::vector<Camera*> cameras;
+    for (const auto& [key, file] : m_files) {
+        if (file.isListed && isListed(*file.camera)) {
+            cameras.push_back(file.camera.get());
+        }
+    }
+    return cameras;
+}
+
+std::vector<Camera*> CameraBank::ofRig() const {
     std::vector<Camera*> cameras;
     for (const auto& camera : m_cameras) {
         if (isListed(*camera)) {
@@ -121,18 +165,18 @@ std::vector<Camera*> CameraBank::all() const {
 }
 
 Camera* CameraBank::listedAt(const QString& address) const {
-    const auto cameras = all();
+    const auto cameras = ofRig();
     const auto found = std::find_if(cameras.begin(), cameras.end(),
                                     [&address](const Camera* camera) { return camera->device().address() == address; });
     return found == cameras.end() ? nullptr : *found;
 }
 
 std::vector<Camera*> CameraBank::connected() const {
-    std::vector<Camera*> cameras = all();
-    cameras.erase(std::remove_if(cameras.begin(), cameras.end(),
-                                 [](const Camera* camera) { return !camera->get(&CameraState::connected); }),
-                  cameras.end());
-    return cameras;
+    return connectedOf(all());
+}
+
+std::vector<Camera*> CameraBank::connectedOfRig() const {
+    return connectedOf(ofRig());
 }
 
 DocKeyList CameraBank::keys() const {
@@ -162,19 +206,29 @@ std::vector<Camera*> CameraBank::known() const {
 }
 
 int CameraBank::deviceNumberOf(const Camera& camera) const {
+    const auto file = m_files.find(camera.key());
+    if (file != m_files.end()) {
+        return int(std::distance(m_files.begin(), file));
+    }
     const auto isIts = [&camera](const auto& device) { return device.get() == &camera.device(); };
     return int(std::distance(m_devices.begin(), std::find_if(m_devices.begin(), m_devices.end(), isIts)));
 }
 
 int CameraBank::deviceCount() const {
+    if (m_listsFiles) {
+        return int(files().size());
+    }
     return int(std::count_if(m_devices.begin(), m_devices.end(), [](const auto& device) { return device->isFound(); }));
 }
 
 QString CameraBank::labelOf(const Camera& camera) const {
     const QString name = camera.name();
+    const bool isFile = m_files.count(camera.key()) > 0;
+    const auto cameras = isFile ? files() : known();
     const auto alike =
-        std::count_if(m_cameras.begin(), m_cameras.end(), [&name](const auto& known) { return known->name() == name; });
-    return alike < 2 ? name : QString(name % QStringLiteral(" (") % camera.address() % QLatin1Char(')'));
+        std::count_if(cameras.begin(), cameras.end(), [&name](const Camera* known) { return known->name() == name; });
+    const QString detail = isFile ? camera.get(&CameraState::originalName) : camera.address();
+    return alike < 2 ? name : QString(name % QStringLiteral(" (") % detail % QLatin1Char(')'));
 }
 
 HeldCameras CameraBank::hold(const DocKeyList& keys) const {

@@ -23,7 +23,7 @@ QWidget* HostStates::fullScreenWidget(QWidget* window) const {
 
 QList<int> HostStates::syncCapableCameraTypes() const {
     QList<int> types;
-    for (const Camera* camera : m_cameras.all()) {
+    for (const Camera* camera : m_cameras.ofRig()) {
         const CameraModel& model = camera->model();
         if (model.syncCapable && !types.contains(model.type)) {
             types.append(model.type);

@@ -33,6 +33,7 @@ QList<PLG_Interface*> SimAppStatus::plugins() const {
 void SimAppStatus::enterMode(int mode) {
     if (mode != m_mode) {
         m_mode = mode;
+        m_host.cameras.listFiles(mode == zeb::FileMode);
         Q_EMIT m_host.events.modeChanged(mode);
     }
     m_host.updates.request();

@@ -32,10 +32,10 @@ void SimCameraOps::discoverCameras() {
 
 /// An empty `network` stands for all.
 void SimCameraOps::search(const QString& network) {
-    const auto before = m_host.cameras.all();
+    const auto before = m_host.cameras.ofRig();
     const int answering = m_host.cameras.search(network);
     QStringList found;
-    for (const Camera* camera : m_host.cameras.all()) {
+    for (const Camera* camera : m_host.cameras.ofRig()) {
         if (std::find(before.begin(), before.end(), camera) == before.end()) {
             found.append(camera->name());
         }
@@ -170,7 +170,7 @@ void SimCameraOps::setVariable(unsigned int channel) {
 void SimCameraOps::stopForPrefs() {
     m_host.calls.change(OPERATION("ZebCameraOps::stopForPrefs"));
     DocKeyList armed;
-    for (const Camera* camera : m_host.cameras.connected()) {
+    for (const Camera* camera : m_host.cameras.connectedOfRig()) {
         if (camera->isArmed()) {
             armed.append(camera->key());
         }
@@ -180,7 +180,7 @@ void SimCameraOps::stopForPrefs() {
 
 bool SimCameraOps::isLowlight() const {
     m_host.calls.ask(OPERATION("isLowlight"));
-    const auto cameras = m_host.cameras.connected();
+    const auto cameras = m_host.cameras.connectedOfRig();
     return m_host.flags.isOn(StatusFlags::IsLowlight) ||
            std::any_of(cameras.begin(), cameras.end(), [](const Camera* camera) {
                return camera->get(&CameraState::selected) && camera->get(&CameraState::lowLight);
@@ -189,14 +189,14 @@ bool SimCameraOps::isLowlight() const {
 
 bool SimCameraOps::hasLowLightCamera() const {
     m_host.calls.ask(OPERATION("hasLowLightCamera"));
-    const auto cameras = m_host.cameras.connected();
+    const auto cameras = m_host.cameras.connectedOfRig();
     return std::any_of(cameras.begin(), cameras.end(),
                        [](const Camera* camera) { return camera->get(&CameraState::lowLight); });
 }
 
 bool SimCameraOps::existLowlight() const {
     m_host.calls.ask(OPERATION("existLowlight"));
-    const auto cameras = m_host.cameras.connected();
+    const auto cameras = m_host.cameras.connectedOfRig();
     return m_host.flags.isOn(StatusFlags::ExistLowlight) ||
            std::any_of(cameras.begin(), cameras.end(),
                        [](const Camera* camera) { return camera->get(&CameraState::lowLight); });
@@ -204,7 +204,7 @@ bool SimCameraOps::existLowlight() const {
 
 bool SimCameraOps::isAllLowlight(bool on) const {
     m_host.calls.ask(OPERATION("isAllLowlight"));
-    const auto cameras = m_host.cameras.connected();
+    const auto cameras = m_host.cameras.connectedOfRig();
     return m_host.flags.isOn(on ? StatusFlags::IsAllLowlightON : StatusFlags::IsAllLowlightOFF) ||
            std::all_of(cameras.begin(), cameras.end(), [on](const Camera* camera) {
                return !camera->model().functions.contains(zeb::FunctionLowLight) ||
@@ -224,7 +224,7 @@ bool SimCameraOps::isDirectSaving(int /*mode*/) const {
 
 bool SimCameraOps::isAllWrenLockDevice() const {
     m_host.calls.ask(OPERATION("isAllWrenLockDevice"));
-    const auto cameras = m_host.cameras.connected();
+    const auto cameras = m_host.cameras.connectedOfRig();
     const bool all = !cameras.empty() && std::all_of(cameras.begin(), cameras.end(), [](const Camera* camera) {
         return camera->get(&CameraState::locked);
     });

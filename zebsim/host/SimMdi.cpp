@@ -2,13 +2,12 @@
 
 #include "Camera.h"
 #include "CameraBank.h"
-#include "SimAppStatus.h"
 #include "StatusFlags.h"
 
 #include <algorithm>
 
 int SimMdi::countMdiWindow(bool /*visible*/, int /*kind*/) const {
-    if (m_flags.isOn(StatusFlags::IsNoneWindow) || m_appStatus.mode() == zeb::FileMode) {
+    if (m_flags.isOn(StatusFlags::IsNoneWindow)) {
         return 0;
     }
     const auto cameras = m_cameras.all();

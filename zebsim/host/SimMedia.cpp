@@ -202,9 +202,7 @@ void SimMedia::importDocs(const DocKeyList& keys) {
 
 void SimMedia::openFiles(const QStringList& paths) {
     m_host.calls.change(OPERATION("ZebMedia::openFiles"), {paths});
-    if (!paths.isEmpty()) {
-        refuse(TextKey("%1 is not there any more."), paths.first());
-    }
+    m_host.docs.files().openAndShow(paths);
 }
 
 void SimMedia::checkSaved(const QVariantList& records, const QString& folder) {

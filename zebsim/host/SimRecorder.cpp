@@ -50,7 +50,11 @@ bool SimRecorder::isRecording() const {
 }
 
 int SimRecorder::state() const {
-    return stateOf(m_host.cameras.keys());
+    DocKeyList keys;
+    for (const Camera* camera : m_host.cameras.ofRig()) {
+        keys.append(camera->key());
+    }
+    return stateOf(keys);
 }
 
 int SimRecorder::stateOf(const DocKeyList& keys) const {
@@ -76,7 +80,7 @@ bool SimRecorder::isUnderWay() const {
 }
 
 bool SimRecorder::isAny(const std::function<bool(const Camera&)>& wanted) const {
-    const auto cameras = m_host.cameras.connected();
+    const auto cameras = m_host.cameras.connectedOfRig();
     return std::any_of(cameras.begin(), cameras.end(), [&](const Camera* camera) { return wanted(*camera); });
 }
 

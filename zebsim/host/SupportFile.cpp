@@ -102,7 +102,7 @@ QByteArray jsonOf(const QJsonArray& list) {
 
 QByteArray cameraStates(const SimHost& host) {
     QJsonArray cameras;
-    for (const Camera* camera : host.cameras().all()) {
+    for (const Camera* camera : host.cameras().ofRig()) {
         QJsonObject state = QJsonObject::fromVariantMap(camera->state().toPlain());
         state.insert(QStringLiteral("key"), double(camera->key()));
         state.insert(QStringLiteral("address"), camera->device().address());
@@ -172,7 +172,7 @@ void addHostState(ZebSupportFile& file, const SimHost& host) {
     file.files.insert(QStringLiteral("cameras.json"), cameraStates(host));
     file.files.insert(QStringLiteral("preferences.txt"), preferences(host.prefs()));
     file.files.insert(QStringLiteral("calls.json"), jsonOf(QJsonArray::fromVariantList(host.journal().since(0))));
-    for (const Camera* camera : host.cameras().all()) {
+    for (const Camera* camera : host.cameras().ofRig()) {
         if (keepsLog(*camera)) {
             file.files.insert(QStringLiteral("camera-%1.log").arg(camera->key()), cameraLog(*camera));
         }

@@ -43,7 +43,7 @@ bool RecordParts::wouldLoseUnsaved(const Camera& camera) const {
 
 HeldCameras RecordParts::connected(const std::function<bool(const Camera& camera)>& are) const {
     HeldCameras cameras;
-    for (const Camera* camera : m_cameras.connected()) {
+    for (const Camera* camera : m_cameras.connectedOfRig()) {
         const auto held = m_cameras.hold(camera->key());
         if (held && are(*held)) {
             cameras.push_back(held);

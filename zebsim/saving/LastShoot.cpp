@@ -20,7 +20,7 @@ void LastShoot::begin() {
 }
 
 bool LastShoot::isEarlier(const Recording& recording) const {
-    return m_last > 0 && recording.serial <= m_before;
+    return !recording.pictures && m_last > 0 && recording.serial <= m_before;
 }
 
 QList<AbsentCamera> LastShoot::absent() const {

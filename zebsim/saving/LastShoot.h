@@ -26,7 +26,7 @@ public:
     /// `cameras` must outlive the object. It knows of recordings that end while it lives.
     LastShoot(const CameraBank& cameras, const HostEvents& events);
 
-    /// Whether `recording` was there before the last one that this object knows of.
+    /// Whether `recording` was in a camera before the last one that this object knows of.
     bool isEarlier(const Recording& recording) const;
     /// The cameras that hold something of it that nobody has saved, but are not connected any more, in the order of
     /// their keys.

@@ -3,7 +3,9 @@
 #include "Camera.h"
 #include "CameraBank.h"
 #include "CameraError.h"
+#include "FileError.h"
 #include "InformationFile.h"
+#include "RecordedPictures.h"
 #include "TextKey.h"
 
 #include <algorithm>
@@ -51,12 +53,24 @@ void SaveSource::read(const CameraBank& cameras, int index) const {
     m_camera->askConnected(OPERATION("readFrame"));
     // Another rig may have a camera of the same key.
     if (cameras.hold(m_key) != m_camera) {
-        throw CameraError(name(), TextKey("the camera is gone"));
+        throw CameraError(name(), isFile() ? TextKey("the recording was closed") : TextKey("the camera is gone"));
     }
     const int frame = m_recording.selectedFirst + index;
     const auto there = m_camera->recordingOf(partition());
     if (!there || there->serial != m_recording.serial || frame < there->first || frame > there->last) {
         throw CameraError(name(), TextKey("the recording is gone"));
+    }
+    if (isFile()) {
+        readPicture(frame);
+    }
+}
+
+/// It is kept for the one who draws it.
+void SaveSource::readPicture(int frame) const {
+    try {
+        m_recording.pictures->picture(frame);
+    } catch (const FileError& e) {
+        throw CameraError(name(), unreadableText(e));
     }
 }
 
@@ -65,7 +79,13 @@ Clock& SaveSource::clock() const {
 }
 
 void SaveSource::noteSaved() const {
-    m_camera->noteSaved(m_recording);
+    if (!isFile()) {
+        m_camera->noteSaved(m_recording);
+    }
+}
+
+bool SaveSource::isIn(const QString& path) const {
+    return isFile() && m_recording.pictures->areIn(path);
 }
 
 SaveSources saveSources(const CameraBank& cameras) {

@@ -41,8 +41,11 @@ public:
     /// What is known of it, without files.
     RecordingInformation information() const;
     FrameMetadata metadata(int index) const { return FrameMetadata::recorded(m_recording, frame(index)); }
+    /// It lies in files, and whether that is one of them; no link leads to its folder.
+    bool isFile() const { return m_recording.pictures != nullptr; }
+    bool isIn(const QString& path) const;
     /// Has the camera hand that frame over. Throws `CameraError` when it is not there any more, does not answer, or has
-    /// lost the recording.
+    /// lost the recording; of one in files when its picture can't be read.
     void read(const CameraBank& cameras, int index) const;
     /// That by which the camera's waiting goes.
     Clock& clock() const;
@@ -50,6 +53,8 @@ public:
     void noteSaved() const;
 
 private:
+    void readPicture(int frame) const;
+
     std::shared_ptr<Camera> m_camera;
     DOCKEY m_key;
     CameraState m_state;

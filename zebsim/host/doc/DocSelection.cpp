@@ -4,27 +4,30 @@
 #include "CameraBank.h"
 
 bool DocSelection::isSelected(DOCKEY key) const {
-    const Camera* camera = m_cameras.find(key);
-    return camera && camera->get(&CameraState::selected);
+    return m_cameras.keysOf(&CameraState::selected).contains(key);
+}
+
+DOCKEY& DocSelection::kept() const {
+    return m_cameras.listsFiles() ? m_currentFile : m_current;
 }
 
 DOCKEY DocSelection::current() const {
-    if (!isSelected(m_current)) {
-        m_current = m_cameras.keysOf(&CameraState::selected).value(0, zeb::NoDocKey);
+    if (!isSelected(kept())) {
+        kept() = m_cameras.keysOf(&CameraState::selected).value(0, zeb::NoDocKey);
     }
-    return m_current;
+    return kept();
 }
 
 void DocSelection::setCurrent(DOCKEY key) {
     if (isSelected(key)) {
-        m_current = key;
+        kept() = key;
     }
 }
 
 void DocSelection::select(Camera& camera) {
     const DOCKEY before = current();
     camera.set(&CameraState::selected, true);
-    m_current = before == zeb::NoDocKey ? camera.key() : before;
+    kept() = before == zeb::NoDocKey ? camera.key() : before;
 }
 
 void DocSelection::deselect(Camera& camera) {

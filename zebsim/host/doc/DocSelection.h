@@ -5,8 +5,8 @@
 class Camera;
 class CameraBank;
 
-/// Which cameras are selected, and which of these is the current one: the first that was selected and still is. GUI
-/// thread.
+/// Which cameras are selected, and which of these is the current one: the first that was selected and still is. In file
+/// mode the same of the recordings that are open. GUI thread.
 class DocSelection {
 public:
     /// Must outlive the object.
@@ -17,7 +17,7 @@ public:
     bool isCurrent(DOCKEY key) const { return isSelected(key) && key == current(); }
     /// Of a selected camera only.
     void setCurrent(DOCKEY key);
-    /// None is the current one before the next is asked for.
+    /// No camera is the current one before the next is asked for.
     void forget() { m_current = zeb::NoDocKey; }
 
     void select(Camera& camera);
@@ -28,8 +28,10 @@ public:
 
 private:
     bool isSelected(DOCKEY key) const;
+    DOCKEY& kept() const;
 
     const CameraBank& m_cameras;
-    /// May have lost its selection meanwhile.
+    /// Of the cameras, and of the recordings in files. They may have lost their selection meanwhile.
     mutable DOCKEY m_current = zeb::NoDocKey;
+    mutable DOCKEY m_currentFile = zeb::NoDocKey;
 };

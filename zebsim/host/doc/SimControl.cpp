@@ -86,7 +86,7 @@ void SimControl::eraseRecordedData(int mode) {
 }
 
 bool SimControl::showsRecorded() const {
-    return m_host.appStatus.mode() == zeb::MemoryMode;
+    return m_camera.isFile() || m_host.appStatus.mode() == zeb::MemoryMode;
 }
 
 QList<QVariantMap> SimControl::getCustomInfoList() const {

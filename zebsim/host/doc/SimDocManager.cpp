@@ -30,8 +30,8 @@ DOC_Interface* SimDocManager::getDocAny(DOCKEY key) {
 DocList SimDocManager::getCameraDocs() {
     m_host.calls.ask(OPERATION("getCameraDocs"));
     DocList docs;
-    for (const DOCKEY key : m_host.cameras.keys()) {
-        docs.append(getDocAny(key));
+    for (const Camera* camera : m_host.cameras.ofRig()) {
+        docs.append(getDocAny(camera->key()));
     }
     return docs;
 }
@@ -39,7 +39,7 @@ DocList SimDocManager::getCameraDocs() {
 DocList SimDocManager::getSyncableDocs(int /*mode*/) {
     m_host.calls.ask(OPERATION("getSyncableDocs"));
     DocList docs;
-    for (const Camera* camera : m_host.cameras.all()) {
+    for (const Camera* camera : m_host.cameras.ofRig()) {
         if (camera->get(&CameraState::connected) && camera->model().syncCapable) {
             docs.append(getDocAny(camera->key()));
         }

@@ -4,6 +4,7 @@
 #include "CameraState.h"
 #include "DocSelection.h"
 #include "DocTurns.h"
+#include "FileDocs.h"
 #include "HostCalls.h"
 #include "HostContext.h"
 #include "ImageTools.h"
@@ -39,6 +40,7 @@ public:
     void forgetDocs();
     /// The temporary save list, of those cameras that are there.
     void setTemporarySaveDocs(const DocKeyList& keys) { m_temporarySave = keys; }
+    FileDocs& files() { return m_files; }
     ImageTools& tools() { return m_tools; }
     /// Whether an image tool is the active one or a quick tool that is on.
     bool isToolActive(const QString& tool) const { return m_tools.isActive(tool); }
@@ -182,5 +184,6 @@ private:
     DocTurns m_turns;
     SettingsDesk m_settings;
     SettingsSave m_settingsSave;
+    FileDocs m_files{m_host};
     SimMedia m_media;
 };

@@ -31,7 +31,7 @@ DocList SimDocument::getHeadDocs(int /*mode*/) {
 }
 
 bool SimDocument::isMemoryData() const {
-    return m_host.appStatus.mode() == zeb::MemoryMode;
+    return m_host.appStatus.mode() == zeb::MemoryMode && !m_camera.isFile();
 }
 
 QList<PARTITIONNUMBER> SimDocument::getPartitionList() const {

@@ -44,9 +44,10 @@ public:
     QString getDisplayName() const override { return ask(OPERATION("getDisplayName"), &CameraState::name); }
     DocList getHeadDocs(int mode) override;
     int getHeadCount() const override { return int(m_camera.device().heads().size()); }
-    /// Every document is a camera's.
-    QString getSourceFilePath() const override { return {}; }
-    QString getOriginalName() const override { return m_camera.name(); }
+    QString getSourceFilePath() const override { return m_camera.get(&CameraState::sourceFile); }
+    QString getOriginalName() const override {
+        return m_camera.isFile() ? m_camera.get(&CameraState::originalName) : m_camera.name();
+    }
     bool isMemoryData() const override;
     QList<PARTITIONNUMBER> getPartitionList() const override;
     /// "Partition 2", in the user's language, for one without a name.

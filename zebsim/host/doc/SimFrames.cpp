@@ -4,7 +4,7 @@
 
 unsigned int SimFrames::getFrameCount(int partition, int /*head*/) const {
     const Camera& camera = askConnected(OPERATION("getFrameCount"));
-    if (m_host.appStatus.mode() == zeb::LiveMode) {
+    if (m_host.appStatus.mode() == zeb::LiveMode && !camera.isFile()) {
         return camera.model().frameCapacity(camera.state());
     }
     const auto recording = partition > 0 ? camera.recordingOf(PARTITIONNUMBER(partition)) : camera.recording();

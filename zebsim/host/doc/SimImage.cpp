@@ -19,7 +19,7 @@ QPixmap SimImage::getPreview(int /*type*/, int width, int height, PARTITIONNUMBE
     askConnected(OPERATION("getPreview"));
     const CameraFrame shown = previewed(partition, frame);
     const QSize size = fitInto({width, height}, shown.resolution);
-    return size.isEmpty() ? QPixmap() : QPixmap::fromImage(drawFrame(shown, size));
+    return size.isEmpty() ? QPixmap() : QPixmap::fromImage(drawFrameOrFailure(shown, size));
 }
 
 /// Of no resolution when there is none.
