@@ -11,6 +11,13 @@
 
 #include <algorithm>
 
+namespace {
+
+/// Letters of an entry, with some room.
+constexpr int LongestChoice = 14;
+
+}  // namespace
+
 SaveInfoDialog::SaveInfoDialog(Preferences& prefs, QWidget* parent) : QDialog(parent), m_prefs(prefs) {
     setWindowTitle(uiText("Information on images"));
     auto* form = new QFormLayout(this);
@@ -18,6 +25,7 @@ SaveInfoDialog::SaveInfoDialog(Preferences& prefs, QWidget* parent) : QDialog(pa
         const QString& name = DrawnInformation::itemNames().at(item);
         auto* choice = new QComboBox(this);
         choice->setObjectName(name);
+        choice->setMinimumContentsLength(LongestChoice);
         choice->addItem(uiText("Not drawn"));
         for (int line = 0; line < DrawnInformation::Lines; ++line) {
             choice->addItem(uiText("Line %1").arg(line + 1));
