@@ -24,9 +24,9 @@ QString letterOf(int drive) {
 
 }  // namespace
 
-SimMedia::SimMedia(const HostContext& host) : m_host(host) {
+SimMedia::SimMedia(const HostContext& host) : m_host(host), m_docs(host) {
     QObject::connect(&host.events, &HostEvents::openMediumGone, &m_watch, [this](int kind, const QString& name) {
-        closeDocs(kind);
+        m_docs.close(kind);
         const QString text = TextKey("%1 was pulled out. Its recordings are closed.");
         m_host.messages.notify(Message::Warn, m_host.translator.translate(text).arg(name));
     });
@@ -100,7 +100,7 @@ void SimMedia::closeMedium(int kind) {
 
 void SimMedia::close(int kind) {
     if (m_host.shelf.open(kind)) {
-        closeDocs(kind);
+        m_docs.close(kind);
         m_host.shelf.close(kind);
     }
 }
@@ -191,9 +191,10 @@ std::optional<bool> SimMedia::setMediumPassword(int kind, const zeb::Medium& med
 void SimMedia::open(const MediaShelf::Held& medium) {
     close(medium->kind());
     m_host.shelf.setOpen(medium);
+    m_docs.open(medium);
+    // It may have gone meanwhile.
+    m_host.shelf.lookAround();
 }
-
-void SimMedia::closeDocs(int /*kind*/) {}
 
 void SimMedia::importDocs(const DocKeyList& keys) {
     m_host.calls.change(OPERATION("ZebMedia::importDocs"), {Journal::keyList(keys)});
@@ -207,4 +208,5 @@ void SimMedia::openFiles(const QStringList& paths) {
 
 void SimMedia::checkSaved(const QVariantList& records, const QString& folder) {
     m_host.calls.change(OPERATION("ZebMedia::checkSaved"), {QVariant(records), folder});
+    m_docs.checkSaved(records, folder);
 }

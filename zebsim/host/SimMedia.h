@@ -2,6 +2,7 @@
 
 #include "HostContext.h"
 #include "MediaShelf.h"
+#include "MediumDocs.h"
 #include "ZebMedia.h"
 
 #include <QObject>
@@ -34,15 +35,17 @@ public:
     bool getOpenSdDrive(int& drive) const;
     void openSdDrive(int drive);
     void close(int kind);
+    MediumDocs& docs() { return m_docs; }
+    const MediumDocs& docs() const { return m_docs; }
 
 private:
     MediaShelf::Held there(int kind, const zeb::Medium& medium) const;
     bool unlock(const MediaShelf::Held& medium);
     void open(const MediaShelf::Held& medium);
-    void closeDocs(int kind);
     [[noreturn]] void refuse(const QString& text, const QString& medium) const;
 
     const HostContext& m_host;
+    MediumDocs m_docs;
     /// Ends what this object is told of.
     QObject m_watch;
 };

@@ -3191,5 +3191,53 @@
         <source>Close medium</source>
         <translation>メディアを閉じる</translation>
     </message>
+    <message>
+        <source>the camera was disconnected</source>
+        <translation>カメラが切断されました</translation>
+    </message>
+    <message>
+        <source>the camera does not answer</source>
+        <translation>カメラが応答しません</translation>
+    </message>
+    <message>
+        <source>No recording is open.</source>
+        <translation>記録が開かれていません。</translation>
+    </message>
+    <message>
+        <source>Convert</source>
+        <translation>変換</translation>
+    </message>
+    <message>
+        <source>Converting</source>
+        <translation>変換中</translation>
+    </message>
+    <message>
+        <source>Open recordings...</source>
+        <translation>記録を開く...</translation>
+    </message>
+    <message>
+        <source>Close recordings</source>
+        <translation>記録を閉じる</translation>
+    </message>
+    <message>
+        <source>%1: %2 is read for this conversion, and can&apos;t be replaced</source>
+        <translation>%1: %2 はこの変換で読み込むため、置き換えられません</translation>
+    </message>
+    <message>
+        <source>%1: read up to %2 of %3 frames, %4 not saved (%5)</source>
+        <translation>%1: %3 フレーム中 %2 フレームまで読み込み、%4 フレームは保存されていません (%5)</translation>
+    </message>
+    <message>
+        <source>%1: %2 exists already</source>
+        <translation>%1: %2 はすでにあります</translation>
+    </message>
+    <message>
+        <source>Recordings were converted: %1</source>
+        <translation>変換した記録: %1</translation>
+    </message>
+    <message>
+        <source>Not all of %1 recordings were converted:</source>
+        <translation>%1 件の記録の一部が変換されていません:</translation>
+    </message>
 </context>
 </TS>

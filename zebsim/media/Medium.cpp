@@ -52,6 +52,12 @@ void addRecordings(const QString& folder, int levels, QStringList& paths) {
 
 }  // namespace
 
+QStringList recordingsBelow(const QString& folder) {
+    QStringList paths;
+    addRecordings(folder, MostLevels, paths);
+    return paths;
+}
+
 Medium::Medium(const RigMedium& settings, zeb::Medium place)
     : m_kind(settings.kind),
       m_place(std::move(place)),
@@ -123,12 +129,6 @@ void Medium::setDataName(const QString& path, const QString& name) {
     MediumLabel label = m_label;
     label.names.insert(pathIn(path), name);
     store(label);
-}
-
-QStringList Medium::recordings() const {
-    QStringList paths;
-    addRecordings(m_folder, MostLevels, paths);
-    return paths;
 }
 
 bool Medium::erase() const {

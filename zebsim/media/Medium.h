@@ -7,6 +7,9 @@
 
 #include <atomic>
 
+/// Paths of the files in and below a folder that tell what was recorded, in order; links are not followed.
+QStringList recordingsBelow(const QString& folder);
+
 /// A storage medium that is in: the folder that stands for it. GUI thread, but what says "any thread".
 class Medium {
 public:
@@ -43,8 +46,7 @@ public:
     /// Of the recording whose file has that path; empty when it has none.
     QString dataName(const QString& path) const { return m_label.names.value(pathIn(path)); }
 
-    /// Paths of the files that tell what was recorded, wherever they are on it.
-    QStringList recordings() const;
+    QStringList recordings() const { return recordingsBelow(m_folder); }
     /// Erases all but what it keeps about itself; false when something stays. What lies behind a link is not touched.
     /// Any thread.
     bool erase() const;

@@ -49,7 +49,7 @@ DocList SimDocManager::getSyncableDocs(int /*mode*/) {
 
 DocKeyList SimDocManager::getTemporarySaveDocKeys() const {
     m_host.calls.ask(OPERATION("getTemporarySaveDocKeys"));
-    DocKeyList keys = m_temporarySave;
+    DocKeyList keys = m_temporarySave + m_media.docs().keys();
     keys.erase(std::remove_if(keys.begin(), keys.end(), [this](DOCKEY key) { return !m_host.cameras.find(key); }),
                keys.end());
     return keys;

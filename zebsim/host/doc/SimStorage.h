@@ -1,9 +1,8 @@
 #pragma once
 
-#include "CameraError.h"
 #include "DOC_Storage.h"
 #include "DocTopic.h"
-#include "TextKey.h"
+#include "SimDocManager.h"
 
 /// Image plug-ins of a document, and the curve of its images.
 class SimStorage : public DocTopic<DOC_Storage> {
@@ -20,27 +19,19 @@ public:
         changeConnected(OPERATION("DOC_Storage::setPluginEffective"), {name, effective, head})
             .setPluginEffective(name, effective);
     }
-    /// Every document is a camera's: it is on no medium, and has no file.
     std::optional<zeb::MediumData> getMediumData(PARTITIONNUMBER /*partition*/) const override {
-        ask(OPERATION("getMediumData"));
-        return std::nullopt;
+        return onMedia().dataOf(ask(OPERATION("getMediumData")));
     }
-    bool canConvertDataName() const override { return isOnMedium(OPERATION("canConvertDataName")); }
+    bool canConvertDataName() const override { return onMedia().isChangeable(ask(OPERATION("canConvertDataName"))); }
     void convertDataName(const QString& name, int sequence, bool isQuikDrive) override {
-        change(OPERATION("DOC_Storage::convertDataName"), {name, sequence, isQuikDrive});
-        throw CameraError(m_camera.name(), TextKey("it is on no medium"));
+        onMedia().setName(change(OPERATION("DOC_Storage::convertDataName"), {name, sequence, isQuikDrive}), name,
+                          sequence);
     }
-    bool canSavedCheck() const override { return isOnMedium(OPERATION("canSavedCheck")); }
-    bool checkDeleteFile() const override { return isOnMedium(OPERATION("checkDeleteFile")); }
-    bool deleteFile() override {
-        change(OPERATION("DOC_Storage::deleteFile"), {});
-        return false;
-    }
+    bool canSavedCheck() const override { return onMedia().dataOf(ask(OPERATION("canSavedCheck"))).has_value(); }
+    bool checkDeleteFile() const override { return onMedia().isChangeable(ask(OPERATION("checkDeleteFile"))); }
+    bool deleteFile() override { return onMedia().remove(change(OPERATION("DOC_Storage::deleteFile"), {})); }
     bool isLutCurve() const override { return ask(OPERATION("isLutCurve"), &CameraState::lutCurve); }
 
 private:
-    bool isOnMedium(CameraOperation operation) const {
-        ask(operation);
-        return false;
-    }
+    MediumDocs& onMedia() const { return m_host.docs.media().docs(); }
 };
