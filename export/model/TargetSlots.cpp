@@ -2,10 +2,10 @@
 #include "ConnectedDocs.h"
 #include "DOC_Image.h"
 #include "DOC_Interface.h"
-#include "FolderChoice.h"
 #include "GUI_ConvertParameterEditDialog.h"
 #include "JS_Mediator_FileDialog.h"
 #include "ModalRun.h"
+#include "RecordingFolder.h"
 #include "SizeText.h"
 #include "TextKey.h"
 #include "ZebDocManager.h"
@@ -14,13 +14,10 @@
 #include "ZebSaver.h"
 
 #include <QBuffer>
-#include <QDir>
 #include <QJsonDocument>
 #include <QPixmap>
 
 namespace {
-
-constexpr auto ImportFolder = "import/dir";
 
 DocKeyList keysOf(const QVariantList& texts) {
     DocKeyList keys;
@@ -38,38 +35,10 @@ QString keyText(const QVariantList& keys) {
     return QVariant(keys).toStringList().join(QLatin1Char(','));
 }
 
-/// Paths of the files in a folder that tell what was recorded.
-QStringList recordingsIn(const QString& folder) {
-    QStringList patterns;
-    for (const char* suffix : {"cih", "cihx"}) {
-        const QString pattern = QStringLiteral("*.%1").arg(QLatin1String(suffix));
-        patterns << pattern << pattern.toUpper();
-    }
-    const QDir dir(folder);
-    QStringList paths;
-    for (const QString& name : dir.entryList(patterns, QDir::Files, QDir::Name)) {
-        paths.append(dir.filePath(name));
-    }
-    return paths;
-}
-
 }  // namespace
 
 bool JS_Mediator_FileDialog::openFolder() {
-    return call(*this, Change, __func__, {}, [this] {
-        const QString folder = chooseFolder(host(), host().getPrefString(QLatin1String(ImportFolder)));
-        if (folder.isEmpty()) {
-            return false;
-        }
-        host().setPrefString(QLatin1String(ImportFolder), folder);
-        const QStringList paths = recordingsIn(folder);
-        if (paths.isEmpty()) {
-            host().info(host().translate(TextKey("There is no recording in %1.")).arg(folder), nullptr);
-            return false;
-        }
-        host().docManager().media().openFiles(paths);
-        return true;
-    });
+    return call(*this, Change, __func__, {}, [this] { return openRecordingFolder(host()); });
 }
 
 /// Tells the user why.

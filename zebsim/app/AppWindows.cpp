@@ -17,6 +17,7 @@
 #include "PasswordDialogs.h"
 #include "PreferencesDialog.h"
 #include "ProgressWait.h"
+#include "RecordingFolder.h"
 #include "SaveInfoDialog.h"
 #include "SimHost.h"
 #include "SnapShots.h"
@@ -91,6 +92,11 @@ void AppWindows::editCamera(DOCKEY key) {
     // Updates may be held back for as long as it stands.
     QObject::connect(&m_images, &CameraWindows::shown, dialog, &GUI_AddDeviceDialog::follow);
     runOnCameras(dialog);
+}
+
+void AppWindows::openRecordings() {
+    const HostCalls::Own own;
+    openRecordingFolder(m_host);
 }
 
 void AppWindows::openMedia() {

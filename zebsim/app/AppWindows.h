@@ -31,6 +31,8 @@ public:
     /// The dialog that adds a camera; runs until it is closed.
     void addCamera();
 
+    /// Asks for a folder and opens its recordings.
+    void openRecordings();
     /// The page of the storage media; runs until it is closed.
     void openMedia();
 
@@ -51,6 +53,7 @@ public:
     void waitForRows(ParallelRows& rows, const QStringList& names) override;
     void save(bool layout) override { m_saving.save(layout); }
     bool isSaving() const override { return m_saving.isSaving(); }
+    bool isConverting() const override { return m_saving.isConverting(); }
     void importRecordings(const DocKeyList& keys) override { m_saving.import(keys); }
     bool askPassword(const QString& medium, const PasswordTest& fits) override;
     std::optional<QString> askNewPassword(const QString& medium, const PasswordTest& fits) override;

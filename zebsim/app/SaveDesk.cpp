@@ -3,6 +3,7 @@
 #include "Camera.h"
 #include "DialogRun.h"
 #include "GUI_SaveDialog.h"
+#include "InformationFile.h"
 #include "JS_Mediator_SaveDialog.h"
 #include "MediaRoom.h"
 #include "PartitionName.h"
@@ -24,12 +25,25 @@
 
 #include <algorithm>
 
-SaveDesk::SaveDesk(SimHost& host) : m_host(host), m_shoot(host.cameras(), host.events()) {}
+namespace {
+
+/// It is of one kind.
+bool isConversion(const SaveOrders& orders) {
+    return !orders.tracks.empty() && orders.tracks.front().isConversion;
+}
+
+}  // namespace
+
+SaveDesk::SaveDesk(SimHost& host) : m_host(host), m_shoot(host.cameras(), host.events()), m_background(host) {}
 
 SaveDesk::~SaveDesk() = default;
 
 bool SaveDesk::isSaving() const {
     return m_job && m_job->isRunning();
+}
+
+bool SaveDesk::isConverting() const {
+    return m_background.isRunning() || (isSaving() && isConversion(m_job->orders()));
 }
 
 bool SaveDesk::isBusy() const {
@@ -45,11 +59,16 @@ void SaveDesk::save(bool layout) {
         return;
     }
     const std::vector<SaveTrack> tracks = tracksToSave(layout);
-    const QStringList absent = absentCameras();
+    const QStringList absent = m_host.isFileMode() ? QStringList() : absentCameras();
     if (tracks.empty()) {
-        m_host.messages().tell(Message::Warn, uiText("No connected camera has recorded images."), absent);
+        m_host.messages().tell(
+            Message::Warn,
+            m_host.isFileMode() ? uiText("No recording is open.") : uiText("No connected camera has recorded images."),
+            absent);
     } else if (layout) {
         ask(QStringLiteral("layoutsavedialog"), TextKey("Save layout"), tracks, absent);
+    } else if (m_host.isFileMode()) {
+        ask(QStringLiteral("batchconverter"), TextKey("Convert"), tracks, absent);
     } else {
         ask(QStringLiteral("savedialog"), TextKey("Save"), tracks, absent);
     }
@@ -104,6 +123,7 @@ std::vector<SaveTrack> SaveDesk::tracksToSave(bool layout) const {
     const QStringList earlier = markEarlier(sources);
     std::vector<SaveTrack> tracks = layout ? tracksOfLayout(sources, uiText("Layout")) : tracksOfEach(sources);
     for (SaveTrack& track : tracks) {
+        track.isConversion = !layout && m_host.isFileMode();
         const SaveSource& source = track.sources.front();
         const auto isOfSameCamera = [&source](const SaveSource& other) { return other.key() == source.key(); };
         if (!layout && std::count_if(sources.begin(), sources.end(), isOfSameCamera) > 1) {
@@ -177,6 +197,9 @@ void SaveDesk::showProgress() {
     // Nobody has closed the last one's list of results.
     delete m_progress;
     m_progress = new SaveProgress(*m_job, m_host.getMainWindow());
+    if (isConversion(m_job->orders())) {
+        m_progress->setWindowTitle(uiText("Converting"));
+    }
     QObject::connect(m_progress, &SaveProgress::cancelWanted, m_progress, [this] { askToCancel(); });
     QObject::connect(m_progress, &SaveProgress::againWanted, m_progress, [this](const std::vector<SaveTrack>& tracks) {
         // The button has had its click by then, for its dialog goes.
@@ -207,9 +230,11 @@ void SaveDesk::finish() {
         const QString text = outcomeText(outcome, m_job->orders());
         (outcome.end == SaveOutcome::Saved ? qInfo() : qWarning()) << text;
     }
-    const bool isOfCameras = !m_job->orders().tracks.empty() && !m_job->orders().tracks.front().isLayout;
+    const SaveOrders& orders = m_job->orders();
+    const bool isOfCameras = !orders.tracks.empty() && !orders.tracks.front().isLayout && !isConversion(orders);
     if (isOfCameras) {
         handOverToTal2(m_host, savedFolders());
+        convertSaved();
     }
     m_host.updates().request();
     // A plug-in that has asked while images were saved has not started its timer.
@@ -225,4 +250,17 @@ QStringList SaveDesk::savedFolders() const {
     }
     folders.removeDuplicates();
     return folders;
+}
+
+void SaveDesk::convertSaved() {
+    if (!m_host.prefs().value(QStringLiteral("export/backgroundconverting")).toBool()) {
+        return;
+    }
+    QStringList paths;
+    for (const SaveOutcome& outcome : m_job->outcomes()) {
+        if (outcome.track >= 0 && outcome.end == SaveOutcome::Saved) {
+            paths << informationPath(m_job->orders().tracks[std::size_t(outcome.track)].stem);
+        }
+    }
+    m_background.convert(paths);
 }

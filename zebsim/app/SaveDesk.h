@@ -1,5 +1,6 @@
 #pragma once
 
+#include "BackgroundConversion.h"
 #include "LastShoot.h"
 #include "NamePromises.h"
 #include "OverActiveWindow.h"
@@ -16,7 +17,8 @@ class SaveProgress;
 class SimHost;
 struct SaveOrders;
 
-/// Saves what the cameras have recorded: asks, begins, and shows how it goes. GUI thread.
+/// Saves what the cameras have recorded, and in file mode converts what is open: asks, begins, and shows how it goes.
+/// GUI thread.
 class SaveDesk {
 public:
     /// `host` must outlive the desk.
@@ -29,6 +31,8 @@ public:
     /// The same of the recordings of these documents alone.
     void import(const DocKeyList& keys);
     bool isSaving() const;
+    /// Also in the background.
+    bool isConverting() const;
 
 private:
     /// Tells the user when a save is under way.
@@ -50,6 +54,8 @@ private:
     void finish();
     /// Those that a track has gone into whole.
     QStringList savedFolders() const;
+    /// What was saved of cameras is converted as well, if that is chosen.
+    void convertSaved();
 
     SimHost& m_host;
     const LastShoot m_shoot;
@@ -60,4 +66,5 @@ private:
     std::optional<OverActiveWindow> m_over;
     /// The save dialog stands.
     bool m_asking = false;
+    BackgroundConversion m_background;
 };

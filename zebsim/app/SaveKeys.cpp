@@ -30,7 +30,7 @@ SaveKeys::SaveKeys(SimHost& host, HostWindows& windows, QToolBar& bar)
 }
 
 QString SaveKeys::refusal() const {
-    return m_host.isMemoryMode() ? QString() : uiText("Images are saved in memory mode.");
+    return m_host.isLiveMode() ? uiText("Images are saved in memory mode.") : QString();
 }
 
 void SaveKeys::refresh() {

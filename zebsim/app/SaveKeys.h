@@ -8,8 +8,8 @@ class HostWindows;
 class QToolBar;
 class SimHost;
 
-/// The viewer's keys that save what is recorded; in memory mode only. They mean the table while that is the window in
-/// front.
+/// The viewer's keys that save what is recorded, or convert what is open; not in live mode. They mean the table while
+/// that is the window in front.
 class SaveKeys : public QObject {
     Q_OBJECT
 

@@ -68,7 +68,8 @@ private:
         if (document == nullptr) {
             throw std::runtime_error(TextKey("the camera is gone").toStdString());
         }
-        return {*document, m_host.isMemoryMode() ? m_host.cameras().find(key) : nullptr, partition};
+        const Camera* camera = m_host.cameras().find(key);
+        return {*document, camera && (camera->isFile() || m_host.isMemoryMode()) ? camera : nullptr, partition};
     }
 
     SimHost& m_host;
@@ -93,7 +94,7 @@ SaveOrders ordersOf(SimHost& host, zeb::FileType type) {
 }  // namespace
 
 zeb::FileType fileType(const SaveTrack& track) {
-    return track.isLayout ? zeb::LayoutFile : zeb::ImageFile;
+    return track.isLayout ? zeb::LayoutFile : track.isConversion ? zeb::ConvertedFile : zeb::ImageFile;
 }
 
 SavePlan composePlan(SimHost& host, const std::vector<SaveTrack>& tracks, const QStringList& absent,

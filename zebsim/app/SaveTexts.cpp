@@ -39,6 +39,10 @@ QString outcomeText(const SaveOutcome& outcome, const SaveOrders& orders) {
         case SaveOutcome::Saved:
             return uiText("%1: %2 frames saved in %3").arg(name, saved, folderOf(orders, outcome.track));
         case SaveOutcome::CameraLost:
+            if (track && track->sources.front().isFile()) {
+                return uiText("%1: read up to %2 of %3 frames, %4 not saved (%5)")
+                    .arg(name, saved, QString::number(track->frames()), left, uiText(outcome.reason));
+            }
             if (all == 0) {
                 return uiText("%1: camera lost before its first frame, %2 frames not saved (%3)")
                     .arg(name, left, uiText(outcome.reason));
@@ -93,6 +97,8 @@ QString entryText(const PlanEntry& entry) {
             return spaceText(entry);
         case PlanEntry::NoFile:
             return uiText("%1: %2 is there and is no file that could be replaced").arg(entry.camera, path);
+        case PlanEntry::IsSource:
+            return uiText("%1: %2 is read for this conversion, and can't be replaced").arg(entry.camera, path);
         case PlanEntry::NoName:
             return uiText("%1: %2").arg(entry.camera, uiText(entry.detail));
         case PlanEntry::NoFormat:

@@ -107,6 +107,9 @@ void ViewerWindow::addDialogs(AppWindows& windows) {
         addEntry(m_fileMenu, uiText("Save camera settings..."), "saveSettings",
                  [&windows] { windows.saveSettings(); })};
     m_fileMenu->addSeparator();
+    addEntry(m_fileMenu, uiText("Open recordings..."), "openRecordings", [&windows] { windows.openRecordings(); });
+    m_closeRecordings = addEntry(m_fileMenu, uiText("Close recordings"), "closeRecordings",
+                                 [this] { m_host.docManager().files().closeAll(); });
     new MediaMenu(m_host, windows, *m_fileMenu->addMenu(uiText("Media")));
     m_fileMenu->addSeparator();
     addEntry(m_fileMenu, uiText("&Quit"), "quit", [this] { Q_EMIT closeAsked(); });
@@ -153,6 +156,9 @@ void ViewerWindow::refresh() {
         // At its end a recording brings another mode, in which the lists are others.
         m_customInfo->setEnabled(!m_host.isFileMode() && !m_host.recorder().isUnderWay() &&
                                  m_host.docManager().getSelectedDocCount() > 0);
+    }
+    if (m_closeRecordings != nullptr) {
+        m_closeRecordings->setEnabled(!m_host.cameras().files().empty());
     }
     for (QAction* entry : qAsConst(m_settings)) {
         entry->setEnabled(m_host.isLiveMode() && !m_host.recorder().isUnderWay() && connected > 0);

@@ -57,6 +57,7 @@ private:
     QActionGroup* m_modes;
     QActionGroup* m_styles;
     QAction* m_customInfo = nullptr;
+    QAction* m_closeRecordings = nullptr;
     /// Those that load and save the settings of the cameras.
     QList<QAction*> m_settings;
     QLabel* m_cameras;

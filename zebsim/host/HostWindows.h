@@ -43,6 +43,8 @@ public:
     /// The same of the recordings of these documents alone, each for itself.
     virtual void importRecordings(const DocKeyList& /*keys*/) {}
     virtual bool isSaving() const { return false; }
+    /// Files are being converted, before the user or in the background.
+    virtual bool isConverting() const { return false; }
     /// As `ZebSaver::snapShot`.
     virtual void snapShot(int /*mode*/) {}
 

@@ -41,7 +41,7 @@ bool SimSaver::isBgSaving() const {
 }
 
 bool SimSaver::isBgConverting() const {
-    return m_host.flags.isOn(StatusFlags::IsBgConverting);
+    return m_host.flags.isOn(StatusFlags::IsBgConverting) || m_host.windows->isConverting();
 }
 
 void SimSaver::copyToClipboard(int what) {

@@ -162,6 +162,10 @@ private:
         }
         for (const QString& name : own) {
             const QString path = target.folder() + name;
+            if (isSource(m_disk.canonical(target.folder()) % name)) {
+                add(PlanEntry::IsSource, track.name, path);
+                return;
+            }
             if (!m_disk.isPlainFile(path)) {
                 add(PlanEntry::NoFile, track.name, path);
                 return;
@@ -169,6 +173,14 @@ private:
             m_plan.orders.mayReplace.insert(path);
         }
         add(PlanEntry::Exists, track.name, target.folder() + own.first(), own.size());
+    }
+
+    /// A track is made of that file, to whose folder no link leads.
+    bool isSource(const QString& path) const {
+        return std::any_of(m_plan.orders.tracks.begin(), m_plan.orders.tracks.end(), [&path](const SaveTrack& track) {
+            return std::any_of(track.sources.begin(), track.sources.end(),
+                               [&path](const SaveSource& source) { return source.isIn(path); });
+        });
     }
 
     /// Those of `names` that the track would write, by the index of its frame; those beside the frames come last.

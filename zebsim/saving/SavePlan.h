@@ -45,6 +45,7 @@ struct PlanEntry {
         NoFolder,
         ReadOnly,
         NoFile,
+        IsSource,
         NoName,
         NoFormat
     };

@@ -28,6 +28,8 @@ struct SaveTrack {
     TimeSteps moments = {};
     /// Frames in the one file that stands there; a shorter one does not take its place.
     int least = 0;
+    /// It is called, and written, as is chosen for conversions.
+    bool isConversion = false;
 
     /// Whether no frame of the range is left out.
     bool isWhole() const { return !isLayout && step == 1; }
