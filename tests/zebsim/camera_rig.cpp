@@ -101,6 +101,12 @@ TEST_F(RigFile, IsRefusedWithItsNameAndTheMember) {
         {hub(R"("frequencies": [50, "60"])"), "line 1: hubs[0].frequencies: a number is expected"},
         {hub(R"("frequencies": [0])"), "line 1: hubs[0].frequencies: frequencies above 0 are expected"},
         {hub(R"("latency": 60001)"), "line 1: hubs[0].latency: a whole number from 0 to 60000 is expected"},
+        {R"({"devices": [], "media": [{"kind": "tape"}]})",
+         "line 1: media[0].kind: one of sd, quikDrive, cfast is expected"},
+        {R"({"devices": [], "media": [{"kind": "sd", "name": "A", "folder": ""}]})",
+         "line 1: media[0].folder: the path of a folder is expected"},
+        {R"({"devices": [], "media": [{"kind": "sd", "name": "A", "folder": "a", "capacity": "much"}]})",
+         "line 1: media[0].capacity: a size as \"8 GB\" is expected"},
         {hub(R"("colour": 1)"), "line 1: hubs[0].colour: there is no such member"},
     };
     for (const auto& row : cases) {

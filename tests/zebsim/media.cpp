@@ -95,6 +95,25 @@ TEST_F(Media, GoAtAnyStep) {
     EXPECT_EQ(listed(), DocKeyList()) << "a folder that is deleted is a medium that was pulled out";
 }
 
+TEST_F(Media, CostASaveWhatItReadsFromThem) {
+    open();
+    DocKeyList keys = listed();
+    keys.append(1);
+    SaveOrders import{saveFormat("png"), tracksOfEach(saveSources(host.host.cameras(), keys))};
+    int number = 0;
+    for (SaveTrack& track : import.tracks) {
+        track.stem = path(QString("import%1").arg(++number));
+    }
+    SaveJob job(host.host.cameras(), import);
+    shelf().pullOut(card());
+    job.start();
+    EXPECT_TRUE(until([&job] { return !job.isRunning(); }));
+    const QStringList ends = told(job);
+    EXPECT_EQ(ends.filter("lost").size(), 2) << ends.join('|').toStdString();
+    EXPECT_EQ(ends.filter(QRegularExpression("^Gate.*saved")).size(), 1)
+        << "the camera's own goes on: " << ends.join('|').toStdString();
+}
+
 TEST_F(Media, AreOpenedByTheirPasswordAlone) {
     const RigMedium settings{zeb::QuikDrive, "Quik", path("quik"), 0, "s3cret", false};
     const zeb::Medium place = putIn(settings)->place();

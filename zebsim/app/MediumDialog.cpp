@@ -62,6 +62,8 @@ MediumDialog::MediumDialog(std::function<void(const RigMedium&)> putIn, QWidget*
     m_fault->setTextFormat(Qt::PlainText);
     m_fault->setWordWrap(true);
     auto* browse = named(new QPushButton(uiText("Browse..."), this), "browse");
+    // Enter means OK.
+    browse->setAutoDefault(false);
     connect(browse, &QPushButton::clicked, this, &MediumDialog::browse);
     auto* folder = new QHBoxLayout;
     folder->addWidget(m_folder);
@@ -75,6 +77,8 @@ MediumDialog::MediumDialog(std::function<void(const RigMedium&)> putIn, QWidget*
     form->addRow(m_protected);
     form->addRow(m_fault);
     form->addRow(addOkCancel(*this));
+    setTabOrder(m_folder, browse);
+    setTabOrder(browse, m_name);
     setMinimumWidth(Width);
     m_folder->setFocus();
 }

@@ -68,7 +68,11 @@ public:
             kind.fail(QStringLiteral("one of %1 is expected").arg(kinds.join(QStringLiteral(", "))));
         }
         medium.name = node.member(QStringLiteral("name")).text();
-        medium.folder = home.absoluteFilePath(node.member(QStringLiteral("folder")).text());
+        const JsonNode folder = node.member(QStringLiteral("folder"));
+        if (folder.text().isEmpty()) {
+            folder.fail(QStringLiteral("the path of a folder is expected"));
+        }
+        medium.folder = home.absoluteFilePath(folder.text());
         if (node.has(QStringLiteral("capacity"))) {
             const JsonNode capacity = node.member(QStringLiteral("capacity"));
             const auto bytes = bytesOf(capacity.text());

@@ -92,6 +92,9 @@ QVariant MediumScripting::medium(const QString& kind, const QVariantMap& members
         shelf.pullOut(held);
         held = nullptr;
     }
+    if (!held && members.value(QStringLiteral("folder")).toString().isEmpty()) {
+        throw ScenarioError(QStringLiteral("a medium that is put in needs a folder"));
+    }
     try {
         held = held ? held : shelf.putIn(settingsOf(number, members, m_folder));
     } catch (const ScenarioError&) {
