@@ -34,7 +34,7 @@ namespace {
 
 constexpr StatusFlags::Flag DialogState = StatusFlags::IsPrefDialogOpening;
 
-constexpr QSize MediaSize{1060, 640};
+constexpr QSize MediaSize{1120, 640};
 
 QByteArray pngOf(const QImage& image) {
     QBuffer buffer;
