@@ -12,6 +12,7 @@
 #include "GUI_CameraFileDialog.h"
 #include "GUI_CameraSettingsDialog.h"
 #include "GUI_CustomInfoDialog.h"
+#include "HostNameSource.h"
 #include "JS_Mediator_MediaDialog.h"
 #include "LogStore.h"
 #include "PasswordDialogs.h"
@@ -19,8 +20,10 @@
 #include "ProgressWait.h"
 #include "RecordingFolder.h"
 #include "SaveInfoDialog.h"
+#include "SaveTargets.h"
 #include "SimHost.h"
 #include "SnapShots.h"
+#include "TargetPaths.h"
 #include "TextKey.h"
 #include "UiText.h"
 #include "ZebSupportFile.h"
@@ -171,6 +174,11 @@ std::optional<CameraFrame> AppWindows::currentFrame() const {
 }
 
 /// A partition that is not in use is not played.
+QString AppWindows::fileName(int type, DOCKEY key, PARTITIONNUMBER partition, const QDateTime& time) const {
+    const auto document = namedPartition(m_host, key, partition);
+    return document ? ::fileName(HostNameSource(m_host), type, document.get(), partition, true, time) : QString();
+}
+
 int AppWindows::shownFrame(DOCKEY key, const Recording& recording) const {
     const Camera* camera = m_host.cameras().find(key);
     const bool isShown = camera && camera->get(&CameraState::partition) == recording.partition;

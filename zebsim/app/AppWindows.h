@@ -61,6 +61,7 @@ public:
     bool openTimeCode() override;
     bool openSaveInfo(const DocKeyList& keys) override;
     int shownFrame(DOCKEY key, const Recording& recording) const override;
+    QString fileName(int type, DOCKEY key, PARTITIONNUMBER partition, const QDateTime& time) const override;
     QImage currentImage() const override;
     void addToSupportFile(ZebSupportFile& file) const override;
     void showDropDownBox(const QString& key, const QRect& anchor) override { m_boxes.show(key, anchor); }

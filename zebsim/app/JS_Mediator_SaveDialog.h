@@ -19,9 +19,6 @@ public:
     /// line each.
     JS_Mediator_SaveDialog(SimHost& host, const QString& name, std::vector<SaveTrack> tracks, QStringList absent);
 
-    /// As the plan will have it: with the custom information of the recording itself.
-    QString exportFileName(bool details) override;
-
     const QStringList& absent() const { return m_absent; }
     /// Those that the page has ticked; a layout of the cameras that it has.
     std::vector<SaveTrack> chosenTracks() const;
@@ -35,10 +32,18 @@ public Q_SLOTS:
     /// has its `label` in lists, which begins with that of the `camera`, and numbers of the `first` and the `last`
     /// frame of its range.
     QString list(bool temporary = false) override;
+    /// JSON with the `frames` of all pictures, and their `bytes` before they are written.
+    QString getTotals();
     void save();
+
+protected:
+    /// Names go by the recording, as those of the plan.
+    std::unique_ptr<NamedDocument> namedDocument(DOCKEY key, PARTITIONNUMBER partition) override;
 
 private:
     QJsonArray records(const QJsonArray& ofCameras) const;
+    /// Of a camera whose record is not to be had.
+    QString whyAbsent(DOCKEY key) const;
 
     SimHost& m_simHost;
     const std::vector<SaveTrack> m_tracks;

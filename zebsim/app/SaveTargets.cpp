@@ -7,7 +7,6 @@
 #include "SaveTexts.h"
 #include "SimControl.h"
 #include "SimHost.h"
-#include "TargetPaths.h"
 #include "TextKey.h"
 #include "UTL_Exception.h"
 #include "UiText.h"
@@ -34,6 +33,17 @@ private:
     const PARTITIONNUMBER m_partition;
 };
 
+}  // namespace
+
+std::unique_ptr<NamedDocument> namedPartition(SimHost& host, DOCKEY key, PARTITIONNUMBER partition) {
+    DOC_Interface* document = host.docManager().getDocAny(key);
+    const Camera* camera = host.cameras().find(key);
+    const Camera* recorded = camera && (camera->isFile() || host.isMemoryMode()) ? camera : nullptr;
+    return document ? std::make_unique<OnePartition>(*document, recorded, partition) : nullptr;
+}
+
+namespace {
+
 /// Composes the names of one recording after those of another.
 class Composer {
 public:
@@ -42,11 +52,11 @@ public:
 
     /// Of one partition of a camera. Throws.
     TrackTarget targetOf(DOCKEY key, PARTITIONNUMBER partition) {
-        return TrackTarget::of(m_source, m_type, documentOf(key, partition), m_time);
-    }
-    QString fileNameOf(DOCKEY key, PARTITIONNUMBER partition, bool withDetails) {
-        const OnePartition document = documentOf(key, partition);
-        return fileName(m_source, m_type, &document, partition, withDetails, m_time);
+        const auto document = namedPartition(m_host, key, partition);
+        if (!document) {
+            throw std::runtime_error(TextKey("the camera is gone").toStdString());
+        }
+        return TrackTarget::of(m_source, m_type, *document, m_time);
     }
     /// A layout is called after the first of its cameras that tells what is needed.
     TrackTarget targetOf(const SaveTrack& track) {
@@ -63,15 +73,6 @@ public:
     }
 
 private:
-    OnePartition documentOf(DOCKEY key, PARTITIONNUMBER partition) {
-        DOC_Interface* document = m_host.docManager().getDocAny(key);
-        if (document == nullptr) {
-            throw std::runtime_error(TextKey("the camera is gone").toStdString());
-        }
-        const Camera* camera = m_host.cameras().find(key);
-        return {*document, camera && (camera->isFile() || m_host.isMemoryMode()) ? camera : nullptr, partition};
-    }
-
     SimHost& m_host;
     HostNameSource m_source;
     const zeb::FileType m_type;
@@ -118,12 +119,6 @@ SavePlan composePlan(SimHost& host, const std::vector<SaveTrack>& tracks, const 
     }
     MediaDisk disk(host.shelf());
     return planOf(std::move(orders), targets, disk, known);
-}
-
-QString partitionFileName(SimHost& host, zeb::FileType type, DOCKEY key, PARTITIONNUMBER partition, bool withDetails,
-                          const QDateTime& time) {
-    const HostCalls::Own own;
-    return Composer(host, type, time).fileNameOf(key, partition, withDetails);
 }
 
 QString snapShotStem(SimHost& host, DOCKEY key, const QDateTime& time) {

@@ -5,8 +5,10 @@
 #include <QDateTime>
 #include <QStringList>
 
+#include <memory>
 #include <vector>
 
+class NamedDocument;
 class SimHost;
 
 /// What the track's files are written for.
@@ -17,10 +19,9 @@ zeb::FileType fileType(const SaveTrack& track);
 SavePlan composePlan(SimHost& host, const std::vector<SaveTrack>& tracks, const QStringList& absent,
                      const QDateTime& time);
 
-/// Name of that partition's files, as that of one track alone; with the custom information of its own recording.
-/// Throws.
-QString partitionFileName(SimHost& host, zeb::FileType type, DOCKEY key, PARTITIONNUMBER partition, bool withDetails,
-                          const QDateTime& time);
+/// What the names of that partition's files are composed from: its document, with the custom information of its own
+/// recording. Null when the camera is gone.
+std::unique_ptr<NamedDocument> namedPartition(SimHost& host, DOCKEY key, PARTITIONNUMBER partition);
 
 /// Path of a picture of that camera, without what its name ends in. Throws.
 QString snapShotStem(SimHost& host, DOCKEY key, const QDateTime& time);

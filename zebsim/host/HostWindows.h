@@ -12,6 +12,7 @@
 #include <optional>
 
 class ParallelRows;
+class QDateTime;
 class QFutureWatcherBase;
 class ZebPrefsDialog;
 struct ZebSupportFile;
@@ -61,6 +62,11 @@ public:
 
     /// Number of the recorded frame of a camera that is shown.
     virtual int shownFrame(DOCKEY /*key*/, const Recording& recording) const { return recording.selectedFirst; }
+    /// What files of a `zeb::FileType` with the recording of that partition are called, without number and ending.
+    virtual QString fileName(int /*type*/, DOCKEY /*key*/, PARTITIONNUMBER /*partition*/,
+                             const QDateTime& /*time*/) const {
+        return {};
+    }
     /// The image in front as it is shown; a null image without one.
     virtual QImage currentImage() const { return {}; }
     /// Adds what only the application knows: its log, pictures of its windows and of its plug-ins' dialogs.

@@ -29,5 +29,6 @@ public:
     }
 
 private:
+    QImage asSaved(int type, PARTITIONNUMBER partition, int frame, const QDateTime& time) const;
     CameraFrame previewed(PARTITIONNUMBER partition, int frame) const;
 };

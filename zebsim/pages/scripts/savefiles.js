@@ -18,8 +18,8 @@ const savePage = Object.assign(dialogFrame(saveBridge), {
         saveSkip.begin();
         saveNames.begin();
         saveTargets.begin();
-        this.onClick('information', () => saveBridge.saveInfoView(saveTargets.keys()));
-        this.onClick('time_code', () => saveBridge.openCustumTimeCodeDialog());
+        this.onClick('information', () => saveBridge.saveInfoView(saveTargets.keys()) && saveTargets.showPreview());
+        this.onClick('time_code', () => saveBridge.openCustumTimeCodeDialog() && saveTargets.showPreview());
         this.onClick('conversion', () => saveBridge.openConvertParameterEditDialog(saveTargets.keys()));
         this.onClick('reset_size', () => ['width', 'height'].forEach(side => saveOptions.fill(
             `combinedresolutionspecify${side}`, saveOptions.stored(`combinedresolutionreset${side}`, 'int'))));
@@ -65,8 +65,10 @@ const savePage = Object.assign(dialogFrame(saveBridge), {
         }
         if (suffix.indexOf('skip') === 0) {
             saveTargets.update();
+        } else if (saveFamily === 'L') {
+            saveTargets.tellSum();
         }
-        if (suffix.indexOf('filename') === 0 && savefile.isNeedRefreshPreview()) {
+        if (suffix === 'saveinfo' || (suffix.indexOf('filename') === 0 && savefile.isNeedRefreshPreview())) {
             saveTargets.showPreviewSoon();
         }
         this.show();
