@@ -204,6 +204,55 @@ TEST_F(AppSaving, ShowsWhereTheFirstFileWouldGo) {
     }
 }
 
+TEST_F(AppSaving, StaysTrueWhileTheRestChanges) {
+    const QString hostile = "<img src=x onerror=alert(1)> %1 \"'&lt;";
+    host.cameras().find(1)->change({{"name", hostile}});
+    ModalWatcher watcher;
+    QStringList told;
+    QStringList seen;
+    const auto update = [this] {
+        host.updates().request();
+        EXPECT_TRUE(until([this] { return !host.updates().isPending(); }));
+    };
+    QObject::connect(&watcher, &ModalWatcher::stands, [&](QDialog* dialog) {
+        if (auto* plan = qobject_cast<PlanDialog*>(dialog)) {
+            for (const PlanEntry& entry : plan->plan().entries) {
+                told << entryText(entry);
+            }
+            plan->reject();
+            return;
+        }
+        seen << rowInPage(0).section('|', 0, 0);
+        inPage("byId('dir').focus()");
+        inPage("savePage.fill('filename', 'shot'); savePage.fill('filenameadddetail', false)");
+        // Others choose something, the cameras go, and the mode is another.
+        host.prefs().setValue("export/format", "bmp");
+        host.prefs().setValue("export/subdirname", "theirs");
+        host.faults().plant(2, "*", {{}, 0, true});
+        host.cameras().find(1)->set(&CameraState::connected, false);
+        host.appStatus().enterMode(zeb::MemoryMode);
+        update();
+        seen << inPage("byId('format').value") << rowInPage(0).section('|', 0, 0) << rowInPage(1).section('|', 0, 0);
+        seen << inPage("String(document.querySelectorAll('#targets img, #facts img').length)");
+        inPage("byId('save').click()");
+        host.cameras().find(1)->set(&CameraState::connected, true);
+        update();
+        seen << rowInPage(0).section('|', 0, 0) << inPage("byId('fault').textContent");
+        inPage("byId('cancel').click()");
+    });
+    host.saveFiles();
+    const QString gone = ": the camera is gone";
+    EXPECT_EQ(seen.join('\n').toStdString(), QStringList({hostile, "bmp", hostile + ": the camera was disconnected",
+                                                          "Camera 2" + gone, "0", hostile, ""})
+                                                 .join('\n')
+                                                 .toStdString());
+    EXPECT_TRUE(told.contains("Camera 2: not saved (the camera is gone)")) << told.join('|').toStdString();
+    EXPECT_EQ(host.prefs().value("export/format"), "bmp") << "what others have stored stands";
+    EXPECT_EQ(host.prefs().value("export/subdirname"), "theirs");
+    EXPECT_EQ(host.prefs().value("export/filename"), "") << "what was tried alone is gone";
+    EXPECT_EQ(messages().size(), 1) << "a notice of the camera that went, and no box";
+}
+
 TEST_F(AppSaving, TellsOfCamerasThatAreNotThere) {
     for (DOCKEY key = 1; key <= 2; ++key) {
         host.cameras().find(key)->keep(1, host.cameras().find(key)->recording());
