@@ -31,8 +31,8 @@ function prepare(field) {
         }
     }
     field.needs.forEach(need => {
-        const [, not, suffix, values] = /^(!?)([^=]+)(?:=(.*))?$/.exec(need);
-        const first = values && values.split('|')[0];
+        const [, not, suffix, sign, values] = /^(!?)([^=~]+)(?:([=~])(.*))?$/.exec(need);
+        const first = sign === '~' ? 'name,number,text' : values && values.split('|')[0];
         const value = values === undefined ? not === '' : /^\d+$/.test(first) ? Number(first) : first;
         page(`savePage.fill('${suffix}', ${JSON.stringify(value)})`);
     });

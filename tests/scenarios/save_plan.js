@@ -67,9 +67,9 @@ zeb.fault(1, '*', {});
 const blocked = plan({filenameadddetails: 'text', filenameaddtextvalue: 'run'});
 check(!blocked.possible && blocked.entries.some(entry => / would both write .*run_-00001\.png/.test(entry.text)),
     'two that would write one file: ' + blocked.entries.map(entry => entry.text).join(' / '));
-const asking = plan({filenameadddetails: 'name', filename: 'Roof', filenameaddnumber: false});
+const asking = plan({filenameadddetails: 'name', filename: 'Roof'});
 check(!asking.possible, 'two of one name');
-const ROOF = {filenameadddetails: 'text', filenameaddtextvalue: 'C04H1S001', filenameaddnumber: false, filename: 'Roof'};
+const ROOF = {filenameadddetails: 'text', filenameaddtextvalue: 'C04H1S001', filename: 'Roof'};
 zeb.keys().filter(key => zeb.camera(key).name !== 'Roof').forEach(key => zeb.setCamera(key, {connected: false}));
 zeb.setCamera(5, {name: 'Other'});    // the pictures show it
 const again = plan(ROOF);
@@ -85,7 +85,7 @@ zeb.keys().forEach(key => zeb.setCamera(key, {connected: true}));
 // A disk that fills up; what failed once more goes on where it stopped.
 zeb.fault('disk', 'write', {written: 12, throws: 'no space left'});
 zeb.messages();
-save({folder: within('full'), filenameadddetails: 'name,number', filenameaddnumber: true, filename: ''});
+save({folder: within('full'), filenameadddetails: 'name,number', filename: ''});
 const stopped = zeb.saved();
 check(stopped.some(line => /can't be written, \d frames not saved \(no space left\)/.test(line)), 'named: ' + stopped.join(' / '));
 same(zeb.files(within('full')).length, 12, 'whole files only');

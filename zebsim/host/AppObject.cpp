@@ -34,12 +34,7 @@ QString AppObject::videoFault(const QString& kind, const QString& codec, double 
         m_trials.start([this, kind, options] {
             VideoTrials::installed().fault(kind, options);
             QMetaObject::invokeMethod(
-                this,
-                [this] {
-                    --m_trying;
-                    Q_EMIT tried();
-                },
-                Qt::QueuedConnection);
+                this, [this] { --m_trying; }, Qt::QueuedConnection);
         });
     }
     return m_translator.translate(TextKey("It is being tried whether such a video can be made."));

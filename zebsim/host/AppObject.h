@@ -25,11 +25,8 @@ public:
     /// such a text says so.
     Q_INVOKABLE QString formatFault(const QString& format) const;
     Q_INVOKABLE QString videoFault(const QString& kind, const QString& codec, double rate, bool isLossless);
+    /// Whether more will be known. No signal tells it: a function of a page that is gone would hang on it.
     bool isTrying() const { return m_trying > 0; }
-
-Q_SIGNALS:
-    /// Videos were tried, and more is known.
-    void tried();
 
 private:
     const Preferences& m_prefs;

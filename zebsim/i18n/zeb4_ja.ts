@@ -3239,5 +3239,17 @@
         <source>Not all of %1 recordings were converted:</source>
         <translation>%1 件の記録の一部が変換されていません:</translation>
     </message>
+    <message>
+        <source>A folder is needed.</source>
+        <translation>フォルダーを指定してください。</translation>
+    </message>
+    <message>
+        <source>&quot;.&quot; and &quot;..&quot; are no names.</source>
+        <translation>「.」と「..」は名前に使えません。</translation>
+    </message>
+    <message>
+        <source>Each folder by camera needs a path and a name of its own.</source>
+        <translation>カメラ別フォルダーには、それぞれ異なる名前とパスが必要です。</translation>
+    </message>
 </context>
 </TS>

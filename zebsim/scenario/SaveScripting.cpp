@@ -59,18 +59,33 @@ bool isOption(const QString& suffix) {
                        [&](const SaveOption& option) { return option.suffix == suffix; });
 }
 
-void fill(QWebView& page, const QVariantMap& target) {
-    for (auto member = target.begin(); member != target.end(); ++member) {
-        const QString suffix = member.key() == Folder ? QStringLiteral("dir") : member.key();
-        if (!isOption(suffix)) {
-            throw ScenarioError(QStringLiteral("a save has no option %1").arg(suffix));
+/// What is wrong with it; empty when the page has taken it.
+QString fillMember(QWebView& page, const QString& name, const QVariant& wanted) {
+    const QString suffix = name == Folder ? QStringLiteral("dir") : name;
+    if (!isOption(suffix)) {
+        throw ScenarioError(QStringLiteral("a save has no option %1").arg(suffix));
+    }
+    const QVariant value = suffix == Format ? QVariant(saveFormat(wanted.toString()).id) : wanted;
+    waitForTrials(page);
+    const QString fault = fill(page, suffix, value);
+    return fault.isEmpty() ? QString() : QString(suffix % QStringLiteral(": ") % fault);
+}
+
+/// What is there only once something else is chosen comes after that, whatever their order.
+void fill(QWebView& page, QVariantMap target) {
+    QStringList faults;
+    int left = 0;
+    do {
+        left = target.size();
+        faults.clear();
+        for (auto member = target.begin(); member != target.end();) {
+            const QString fault = fillMember(page, member.key(), *member);
+            faults += fault.isEmpty() ? QStringList() : QStringList(fault);
+            member = fault.isEmpty() ? target.erase(member) : ++member;
         }
-        const QVariant value = suffix == Format ? QVariant(saveFormat(member->toString()).id) : *member;
-        waitForTrials(page);
-        const QString fault = fill(page, suffix, value);
-        if (!fault.isEmpty()) {
-            throw ScenarioError(QStringLiteral("%1: %2").arg(suffix, fault));
-        }
+    } while (!target.isEmpty() && target.size() < left);
+    if (!faults.isEmpty()) {
+        throw ScenarioError(faults.first());
     }
     waitForTrials(page);
     const QString fault = PageScript(QStringLiteral("byId('fault').textContent")).run(page).toString();

@@ -78,7 +78,8 @@ const savePage = Object.assign(dialogFrame(saveBridge), {
     show() {
         clearTimeout(this.followTimer);
         this.followTimer = setTimeout(() => this.logged(() => saveNames.show()), 100);
-        const fault = saveOptions.fault() || saveFormats.fault() || saveTargets.fault();
+        const fault = saveOptions.fault() || saveFormats.fault() || saveSkip.fault() || savePaths.fault() ||
+            saveTargets.fault();
         byId('fault').textContent = fault;
         byId('save').disabled = fault !== '';
     },

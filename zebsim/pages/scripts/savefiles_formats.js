@@ -2,7 +2,11 @@
 
 const USUAL_RATE = 30;
 
+const TRIAL_MS = 100; // after which it is asked again what is known of videos
+
 const saveFormats = {
+    trialTimer: 0,
+
     begin() {
         const formats = {
             // The frames of a layout make a video as well.
@@ -25,10 +29,6 @@ const saveFormats = {
         }));
         saveOptions.read();
         this.tellMissing();
-        app.tried.connect(() => savePage.logged(() => {
-            this.update();
-            savePage.show();
-        }));
     },
 
     codecFields() {
@@ -62,6 +62,13 @@ const saveFormats = {
             });
             document.querySelector(`[data-video="${format}"]`).textContent = this.videoFault(format);
         });
+        clearTimeout(this.trialTimer);
+        if (app.trying) {
+            this.trialTimer = setTimeout(() => savePage.logged(() => {
+                this.update();
+                savePage.show();
+            }), TRIAL_MS);
+        }
     },
 
     // Why a video can't be as it is chosen.

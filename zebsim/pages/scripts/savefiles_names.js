@@ -98,7 +98,7 @@ const saveNames = {
         const suffix = { jpeg: 'jpg', tiff: 'tif' }[format] || format;
         const isOneFile = ['avi', 'mov', 'mp4'].indexOf(format) >= 0 || saveFamily === 'S' ||
             (format === 'tiff' && saveOptions.value('tiff/multipage') === true);
-        const digits = saveOptions.value('filenameseqdigits') || 1;
+        const digits = saveOptions.stored('filenameseqdigits', 'int');
         return (isOneFile ? '' : `_${'#'.repeat(digits)}`) + `.${suffix}`;
     }
 };

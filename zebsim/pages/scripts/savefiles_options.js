@@ -127,7 +127,18 @@ const saveOptions = {
         if (value !== undefined) {
             this.store(this.suffixOf(field), this.kindOf(field), value);
         }
+        if (this.suffixOf(field) === 'filenameusecustomfromtarget') {
+            this.takeFirst(byId('custom_camera'));
+        }
         this.tell(this.suffixOf(field));
+    },
+
+    // Of a list in which nothing is chosen yet.
+    takeFirst(list) {
+        if (list.selectedIndex < 0 && list.options.length > 0) {
+            list.selectedIndex = 0;
+            this.take(list);
+        }
     },
 
     keepToNames(field) {
@@ -148,9 +159,10 @@ const saveOptions = {
     },
 
     holds(condition) {
-        const [, not, suffix, values] = /^(!?)([^=]+)(?:=(.*))?$/.exec(condition);
+        const [, not, suffix, sign, values] = /^(!?)([^=~]+)(?:([=~])(.*))?$/.exec(condition);
         const value = this.value(suffix);
-        const isSo = values === undefined ? Boolean(value) : values.split('|').indexOf(String(value)) >= 0;
+        const parts = sign === '~' ? String(value).split(',') : [String(value)];
+        const isSo = sign ? values.split('|').some(one => parts.indexOf(one) >= 0) : Boolean(value);
         return isSo !== (not === '!');
     },
 
@@ -169,6 +181,13 @@ const saveOptions = {
 
     // Why what stands in the fields can't be saved by; empty when it can.
     fault() {
+        if (!byId('dir').disabled && byId('dir').value.trim() === '') {
+            return translate('A folder is needed.');
+        }
+        const isOwnFolder = field => field.hasAttribute('data-name') && !field.disabled && /^\.\.?$/.test(field.value);
+        if (this.fields.some(isOwnFolder)) {
+            return translate('"." and ".." are no names.');
+        }
         const bad = this.fields.filter(field => field.classList.contains('bad') && !field.disabled)[0];
         if (!bad) {
             return '';
@@ -189,7 +208,8 @@ const saveOptions = {
             this.tell(suffix);
             return '';
         }
-        if (field.disabled || field.closest('[hidden][data-in]')) {
+        const part = field.closest('[data-in]');
+        if (field.disabled || (part && part.getAttribute('data-in').indexOf(saveFamily) < 0)) {
             return 'the page does not offer it';
         }
         if (field.type === 'checkbox') {

@@ -7,17 +7,31 @@ const saveSkip = {
             this.changed();
         }));
         byId('skip_frames').addEventListener('change', () => savePage.guarded(() => this.finish()));
+        byId('skip_frames').addEventListener('input', () => savePage.guarded(() => savePage.show()));
     },
 
     // By time the nearest that goes with the rates of all is taken.
     finish() {
         const field = byId('skip_frames');
-        const value = Number(field.value.trim());
-        if (field.value !== this.text() && value > 0) {
-            saveBridge.setSkipFrames(value);
+        if (field.value !== this.text() && this.fault() === '') {
+            saveBridge.setSkipFrames(Number(field.value));
             saveTargets.tellTicked();
         }
-        this.changed();
+        if (this.fault() === '') {
+            this.changed();
+        }
+    },
+
+    // Why what is typed can't be; empty when it can.
+    fault() {
+        const text = byId('skip_frames').value.trim();
+        const isWhole = Number(byId('skip_unit').value) === 1 || /^\d+$/.test(text);
+        const [least, most] = [saveBridge.getSkipMinFrames(), saveBridge.getSkipMaxFrames()];
+        const isIn = /^\d+(\.\d*)?$/.test(text) && isWhole && Number(text) >= least && Number(text) <= most;
+        const isUsed = saveTargets.isThere && saveOptions.value('skipsave') === true && most >= least;
+        byId('skip_frames').classList.toggle('bad', isUsed && !isIn);
+        return !isUsed || isIn ? '' : translate('A number from %1 to %2 is needed.')
+            .replace('%1', least).replace('%2', most);
     },
 
     changed() {
