@@ -22,7 +22,7 @@ namespace {
 enum Mode { ToFile = 1, ToClipboard = 2, ToBoth = 3, Settings = 4 };
 
 std::optional<Recording> recordingOf(const SimHost& host, const Camera& camera) {
-    return host.isMemoryMode() ? camera.recording() : std::nullopt;
+    return host.isLiveMode() ? std::nullopt : camera.recording();
 }
 
 FileMetadata metadataOf(const SimHost& host, const Camera& camera, const CameraFrame& frame) {
@@ -100,7 +100,13 @@ void takeSnapShot(SimHost& host, const std::optional<CameraFrame>& frame, int mo
         host.messages().tell(Message::Info, uiText("There is no image to take."));
         return;
     }
-    const QImage image = drawFrame(*frame, frame->resolution);
+    QImage image;
+    try {
+        image = drawFrame(*frame, frame->resolution);
+    } catch (const FileError& e) {
+        host.messages().tell(Message::Alert, unreadableText(e));
+        return;
+    }
     if (mode == ToClipboard || mode == ToBoth) {
         QGuiApplication::clipboard()->setImage(image);
     }

@@ -45,9 +45,10 @@ struct PlanEntry {
         NoFolder,
         ReadOnly,
         NoFile,
-        IsSource,
         NoName,
-        NoFormat
+        NoFormat,
+        /// Of what the same save reads.
+        IsSource
     };
     Kind kind = Exists;
     /// Cameras that it is about; empty: all of them.
