@@ -1,3 +1,4 @@
+#include "AppWindows.h"
 #include "Camera.h"
 #include "CameraView.h"
 #include "CameraWindow.h"
@@ -6,7 +7,9 @@
 #include "DOC_Frames.h"
 #include "DOC_Interface.h"
 #include "EffectPanel.h"
+#include "Files.h"
 #include "FramePicture.h"
+#include "InformationFile.h"
 #include "PlayerBar.h"
 #include "RigFile.h"
 #include "Simulator.h"
@@ -142,6 +145,51 @@ TEST_F(Images, ShowWhatIsRecordedInMemoryModeAndNothingInFileMode) {
     EXPECT_EQ(host.mdi().countMdiWindow(true, 2), 0);
     EXPECT_FALSE(viewer.findChild<PlayerBar*>()->isVisible());
     EXPECT_FALSE(camera(1).get(&CameraState::playing));
+}
+
+/// A camera's recording of 20 frames, each of one grey, opened from files.
+TEST_F(Images, ShowRecordingsInFilesUntilTheyAreClosed) {
+    QStringList names;
+    for (int frame = 0; frame < 20; ++frame) {
+        QImage picture(64, 64, QImage::Format_RGB32);
+        picture.fill(QColor(frame * 10, frame * 10, frame * 10));
+        names << QStringLiteral("a%1.png").arg(frame);
+        EXPECT_TRUE(picture.save(folder.filePath(names.last())));
+    }
+    camera(1).change({{"recorded", true}, {"recordedRange", QVariantList{0, 99}}, {"recordedTrigger", 10}});
+    camera(1).change({{"resolution", QVariantList{64, 64}}, {"name", "Gate"}});
+    RecordingInformation information = RecordingInformation::of(camera(1), camera(1).state(), *camera(1).recording());
+    information.format = saveFormat("png");
+    information.files = names;
+    information.frames = names.size();
+    write(folder.filePath("a.cih"), information.toJson());
+    host.docManager().media().openFiles({folder.filePath("a.cih")});
+    images.showNow();
+    EXPECT_EQ(titles(), "Gate");
+    const DOCKEY key = host.docManager().currentKey();
+    const auto grey = [&] {
+        return qRed(const_cast<CameraView&>(images.find(key)->view())
+                        .grab()
+                        .toImage()
+                        .pixel(images.find(key)->view().rect().center()));
+    };
+    EXPECT_TRUE(until([&] { return grey() == 0; }));
+    EXPECT_EQ(shown(key), -10);
+    viewer.findChild<QSlider*>("position")->setValue(12);
+    EXPECT_EQ(shown(key), 2);
+    EXPECT_TRUE(until([&] { return grey() == 120; })) << grey();
+    EXPECT_EQ(simulator.windows().shownFrame(key, *camera(key).recording()), 12);
+    EXPECT_TRUE(viewer.findChild<PlayerBar*>()->isVisible());
+    viewer.findChild<QAction*>("play")->trigger();
+    EXPECT_TRUE(host.docManager().getCurrentDoc()->frames().isPlaying());
+    EXPECT_TRUE(until([&] { return images.showNow(), shown(key) != 2; })) << "it plays";
+    EXPECT_TRUE(viewer.findChild<QAction*>("closeRecordings")->isEnabled());
+    viewer.findChild<QAction*>("closeRecordings")->trigger();
+    EXPECT_TRUE(until([this] { return titles().empty() && !viewer.findChild<PlayerBar*>()->isVisible(); }));
+    EXPECT_FALSE(viewer.findChild<QAction*>("closeRecordings")->isEnabled());
+    host.appStatus().enterMode(zeb::MemoryMode);
+    images.showNow();
+    EXPECT_EQ(titles(), "Gate|Camera 2|Camera 3");
 }
 
 TEST_F(Images, ShowAtOnceWhatThePluginsMakeOfThem) {
