@@ -34,7 +34,11 @@ check(zeb.readFile('files.js').startsWith('// A file'), 'the scenario has its ow
 zeb.setCamera(zeb.keys()[0], {connected: true, recorded: true, recordedRange: [0, 0]});
 zeb.mode('memory');
 zeb.file(within('kept'));
-zeb.modal(() => ['Tab', 'Tab', 'Space', 'Return'].forEach(name => zeb.key(name)));
-zeb.modal(() => zeb.key('Return'));    // the plan
+const slowly = names => {
+    zeb.wait(1000);    // a key of the first moment is taken for one that was meant for what was there before
+    names.forEach(name => zeb.key(name));
+};
+zeb.modal(() => slowly(['Tab', 'Space', 'Shift+Tab', 'Return']));
+zeb.modal(() => slowly(['Return']));    // the plan
 zeb.menu('File > Save');
 check(zeb.results()[0].endsWith('kept'), 'the chosen folder is saved into');

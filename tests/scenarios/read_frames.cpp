@@ -11,6 +11,8 @@
 
 #include <iostream>
 
+#include <algorithm>
+
 namespace {
 
 bool showsFrame(const QImage& picture, const QString& camera, qint64 number, qint64 rate) {
@@ -44,7 +46,11 @@ int main(int argc, char** argv) {
     }
     const QRegularExpression pattern(QStringLiteral("^((.*?)(?:_C\\d+H\\d+S\\d+)?)_(-?\\d+)\\.png$"));
     QMap<QString, QList<qint64>> numbers;
-    for (const QString& file : folder.entryList(QDir::Files | QDir::Hidden)) {
+    QStringList files = folder.entryList(QDir::Files | QDir::Hidden);
+    // What stands beside the images of a recording.
+    files.erase(std::remove_if(files.begin(), files.end(), [](const QString& file) { return file.endsWith(".cih"); }),
+                files.end());
+    for (const QString& file : qAsConst(files)) {
         const QRegularExpressionMatch match = pattern.match(file);
         const QString name = match.captured(1);
         const QString camera = cameras.value(name, cameras.value(match.captured(2), match.captured(2)));

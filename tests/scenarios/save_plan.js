@@ -93,6 +93,7 @@ zeb.fault('disk', 'write', {});
 let left = 0;
 zeb.modal(() => {
     left = zeb.plan().files;
+    zeb.wait(1000);    // a key of the first moment was meant for what was there before
     zeb.key('Return');
 });
 zeb.push('Save again what failed');

@@ -1,5 +1,7 @@
 #include "FreshKeys.h"
 
+#include <QApplication>
+#include <QElapsedTimer>
 #include <QKeyEvent>
 #include <QPushButton>
 
@@ -12,7 +14,7 @@ constexpr ulong OneMomentMs = 5;
 
 class FreshKeys : public QObject {
 public:
-    using QObject::QObject;
+    explicit FreshKeys(QObject* parent) : QObject(parent) { m_shown.start(); }
 
     bool eventFilter(QObject* object, QEvent* event) override {
         if (event->type() == QEvent::KeyPress && presses(*static_cast<QKeyEvent*>(event)) &&
@@ -31,12 +33,16 @@ private:
         return key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter || key.key() == Qt::Key_Space ||
                key.key() == Qt::Key_Escape;
     }
-    /// Where windows are slow a repeat comes as a release and a press of one moment.
+    /// Or pressed for what was there before. Where windows are slow a repeat comes as a release and a press of one
+    /// moment.
     bool isHeld(const QKeyEvent& key) const {
-        return key.isAutoRepeat() || (key.key() == m_released.first && key.timestamp() != 0 &&
-                                      key.timestamp() - m_released.second <= OneMomentMs);
+        const bool isHasty = key.key() != Qt::Key_Escape && !m_shown.hasExpired(QApplication::doubleClickInterval());
+        return isHasty || key.isAutoRepeat() ||
+               (key.key() == m_released.first && key.timestamp() != 0 &&
+                key.timestamp() - m_released.second <= OneMomentMs);
     }
 
+    QElapsedTimer m_shown;
     std::pair<int, ulong> m_released{0, 0};
 };
 

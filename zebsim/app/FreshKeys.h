@@ -2,5 +2,6 @@
 
 class QWidget;
 
-/// A key that is held since the dialog before, as Enter, presses no button of `window`: only one pressed anew does.
+/// A key that is held since the dialog before, as Enter, presses no button of `window`, nor one that was meant for that
+/// dialog: only one pressed anew does. Before `window` is shown.
 void takeFreshKeysOnly(QWidget& window);

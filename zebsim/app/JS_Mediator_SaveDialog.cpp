@@ -1,10 +1,10 @@
 #include "JS_Mediator_SaveDialog.h"
 
 #include "BridgeCall.h"
-#include "Camera.h"
 #include "SaveTargets.h"
 #include "SimHost.h"
 #include "SizeText.h"
+#include "TextKey.h"
 #include "UiText.h"
 
 #include <QHash>
@@ -56,12 +56,13 @@ QJsonArray JS_Mediator_SaveDialog::records(const QJsonArray& ofCameras) const {
     }
     for (const SaveTrack& track : m_tracks) {
         for (const SaveSource& source : track.sources) {
-            const bool isThere = present.contains({source.key(), source.partition()});
             QJsonObject record = present.value({source.key(), source.partition()});
+            const QString absence = source.absence(m_simHost.cameras());
+            const bool isThere = !record.isEmpty() && absence.isEmpty();
             if (!isThere) {
                 record = {{"dockey", double(source.key())},
                           {"partitionno", double(source.partition())},
-                          {"gone", whyAbsent(source.key())}};
+                          {"gone", uiText(absence.isEmpty() ? TextKey("the camera does not answer") : absence)}};
             }
             // Of the range as it stood when the page was opened, and so it is saved.
             const int step = std::max(1, record["multiskip"].toInt());
@@ -79,13 +80,6 @@ QJsonArray JS_Mediator_SaveDialog::records(const QJsonArray& ofCameras) const {
         }
     }
     return all;
-}
-
-QString JS_Mediator_SaveDialog::whyAbsent(DOCKEY key) const {
-    const Camera* camera = m_simHost.cameras().find(key);
-    return camera == nullptr                       ? uiText("the camera is gone")
-           : !camera->get(&CameraState::connected) ? uiText("the camera was disconnected")
-                                                   : uiText("the camera does not answer");
 }
 
 QString JS_Mediator_SaveDialog::getTotals() {

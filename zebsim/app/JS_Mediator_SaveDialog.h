@@ -42,8 +42,6 @@ protected:
 
 private:
     QJsonArray records(const QJsonArray& ofCameras) const;
-    /// Of a camera whose record is not to be had.
-    QString whyAbsent(DOCKEY key) const;
 
     SimHost& m_simHost;
     const std::vector<SaveTrack> m_tracks;

@@ -231,7 +231,12 @@ void SaveDesk::finish() {
         (outcome.end == SaveOutcome::Saved ? qInfo() : qWarning()) << text;
     }
     const SaveOrders& orders = m_job->orders();
-    const bool isOfCameras = !orders.tracks.empty() && !orders.tracks.front().isLayout && !isConversion(orders);
+    const QList<SaveOutcome>& outcomes = m_job->outcomes();
+    const bool isCancelled = std::any_of(outcomes.begin(), outcomes.end(), [](const SaveOutcome& outcome) {
+        return outcome.end == SaveOutcome::Cancelled;
+    });
+    const bool isOfCameras =
+        !isCancelled && !orders.tracks.empty() && !orders.tracks.front().isLayout && !isConversion(orders);
     if (isOfCameras) {
         handOverToTal2(m_host, savedFolders());
         convertSaved();

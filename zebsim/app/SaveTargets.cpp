@@ -106,15 +106,31 @@ SavePlan composePlan(SimHost& host, const std::vector<SaveTrack>& tracks, const 
     Composer composer(host, fileType(tracks.front()), time);
     std::vector<TrackTarget> targets;
     QList<PlanEntry> known;
-    for (const SaveTrack& track : tracks) {
+    const auto leaveOut = [&](const QString& name, const QString& reason) {
+        known.append({PlanEntry::LeftOut, name, {}, 0, reason});
+        orders.absent.append(leftOutText(known.last()));
+    };
+    for (const SaveTrack& wanted : tracks) {
+        SaveTrack track = wanted;
+        track.sources.clear();
+        for (const SaveSource& source : wanted.sources) {
+            const QString reason = source.absence(host.cameras());
+            if (reason.isEmpty()) {
+                track.sources.push_back(source);
+            } else {
+                leaveOut(wanted.isLayout ? source.name() : wanted.name, reason);
+            }
+        }
+        if (track.sources.empty()) {
+            continue;
+        }
         try {
             targets.push_back(composer.targetOf(track));
             orders.add(track);
         } catch (const UTL_Exception& e) {
             known.append({PlanEntry::NoName, track.name, {}, 0, QString::fromUtf8(e.what())});
         } catch (const std::exception& e) {
-            known.append({PlanEntry::LeftOut, track.name, {}, 0, QString::fromUtf8(e.what())});
-            orders.absent.append(leftOutText(known.last()));
+            leaveOut(track.name, QString::fromUtf8(e.what()));
         }
     }
     MediaDisk disk(host.shelf());

@@ -51,6 +51,10 @@ QString outcomeText(const SaveOutcome& outcome, const SaveOrders& orders) {
                 .arg(name, QString::number(track ? track->number(all - 1) : outcome.lastNumber), left,
                      uiText(outcome.reason));
         case SaveOutcome::FileFailed:
+            if (outcome.saved == outcome.frames) {
+                return uiText("%1: all images are saved, but %2 can't be written (%3)")
+                    .arg(name, QDir::toNativeSeparators(outcome.file), uiText(outcome.reason));
+            }
             return uiText("%1: %2 can't be written, %3 frames not saved (%4)")
                 .arg(name, QDir::toNativeSeparators(outcome.file), left, uiText(outcome.reason));
         case SaveOutcome::Cancelled:

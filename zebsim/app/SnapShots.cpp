@@ -67,6 +67,10 @@ QString writePicture(SimHost& host, const CameraFrame& frame, const QImage& imag
         throw FileError(file, TextKey("the picture has no such form"));
     }
     const Over over = host.prefs().value("snap/overwrite").toBool() ? Over::OldFile : Over::Nothing;
+    // The information beside an older picture would become that of another one.
+    if (orders.hasInformation && over == Over::Nothing && QFileInfo::exists(informationPath(stem))) {
+        throw FileError(informationPath(stem), TextKey("a file of that name is there already"));
+    }
     writeFile(file, bytes, over);
     if (orders.hasInformation && camera) {
         writeInformation(host, *camera, frame, orders, stem, file, over);

@@ -3251,5 +3251,9 @@
         <source>Each folder by camera needs a path and a name of its own.</source>
         <translation>カメラ別フォルダーには、それぞれ異なる名前とパスが必要です。</translation>
     </message>
+    <message>
+        <source>%1: all images are saved, but %2 can&apos;t be written (%3)</source>
+        <translation>%1: 画像はすべて保存されましたが、%2 を書き込めません（%3）</translation>
+    </message>
 </context>
 </TS>

@@ -8,6 +8,8 @@
 #include "SaveOrders.h"
 #include "TextKey.h"
 
+#include <exception>
+
 namespace {
 
 constexpr QSize LargestThumbnail(320, 240);
@@ -17,7 +19,7 @@ QByteArray thumbnail(const SaveTrack& track, int saved) {
     const int index = track.triggerIndex();
     const int shown = index >= 0 && index < saved ? index : 0;
     const QImage picture = track.picture(shown);
-    const QSize size = fitInto(LargestThumbnail, picture.size()).boundedTo(picture.size());
+    const QSize size = fitInto(LargestThumbnail, picture.size()).boundedTo(picture.size()).expandedTo({1, 1});
     return saveFormat(QStringLiteral("jpeg"))
         .encoded(picture.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation), track.metadata(shown));
 }
@@ -47,12 +49,23 @@ QStringList companionsOf(const SaveOrders& orders, const SaveTrack& track) {
 }
 
 void writeCompanions(const SaveOrders& orders, const SaveTrack& track, int saved) {
-    const QString small = thumbnailOf(orders, track);
-    const QString information = informationFileOf(orders, track);
-    if (saved > 0 && !small.isEmpty()) {
-        write(orders, small, thumbnail(track, saved));
+    if (saved == 0) {
+        return;
     }
-    if (saved > 0 && !information.isEmpty()) {
-        write(orders, information, informationOf(orders, track, saved).toJson());
+    // One that can't be written does not keep the other from standing.
+    std::exception_ptr failure;
+    const auto attempt = [&](const QString& path, auto bytes) {
+        try {
+            if (!path.isEmpty()) {
+                write(orders, path, bytes());
+            }
+        } catch (const FileError&) {
+            failure = failure ? failure : std::current_exception();
+        }
+    };
+    attempt(thumbnailOf(orders, track), [&] { return thumbnail(track, saved); });
+    attempt(informationFileOf(orders, track), [&] { return informationOf(orders, track, saved).toJson(); });
+    if (failure) {
+        std::rethrow_exception(failure);
     }
 }

@@ -49,16 +49,29 @@ RecordingInformation SaveSource::information() const {
     return information;
 }
 
-void SaveSource::read(const CameraBank& cameras, int index) const {
-    m_camera->askConnected(OPERATION("readFrame"));
+QString SaveSource::absence(const CameraBank& cameras, int first, int last) const {
     // Another rig may have a camera of the same key.
     if (cameras.hold(m_key) != m_camera) {
-        throw CameraError(name(), isFile() ? TextKey("the recording was closed") : TextKey("the camera is gone"));
+        return isFile() ? TextKey("the recording was closed") : TextKey("the camera is gone");
     }
-    const int frame = m_recording.selectedFirst + index;
+    if (!m_camera->get(&CameraState::connected)) {
+        return TextKey("the camera was disconnected");
+    }
     const auto there = m_camera->recordingOf(partition());
-    if (!there || there->serial != m_recording.serial || frame < there->first || frame > there->last) {
-        throw CameraError(name(), TextKey("the recording is gone"));
+    const bool isSame = there && there->serial == m_recording.serial && first >= there->first && last <= there->last;
+    return isSame ? QString() : TextKey("the recording is gone");
+}
+
+QString SaveSource::absence(const CameraBank& cameras) const {
+    return absence(cameras, m_recording.selectedFirst, m_recording.selectedLast);
+}
+
+void SaveSource::read(const CameraBank& cameras, int index) const {
+    m_camera->askConnected(OPERATION("readFrame"));
+    const int frame = m_recording.selectedFirst + index;
+    const QString reason = absence(cameras, frame, frame);
+    if (!reason.isEmpty()) {
+        throw CameraError(name(), reason);
     }
     if (isFile()) {
         readPicture(frame);

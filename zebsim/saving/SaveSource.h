@@ -44,6 +44,8 @@ public:
     /// It lies in files, and whether that is one of them; no link leads to its folder.
     bool isFile() const { return m_recording.pictures != nullptr; }
     bool isIn(const QString& path) const;
+    /// Why it can't be read any more, as far as that is known without asking the camera; empty when it can.
+    QString absence(const CameraBank& cameras) const;
     /// Has the camera hand that frame over. Throws `CameraError` when it is not there any more, does not answer, or has
     /// lost the recording; of one in files when its picture can't be read.
     void read(const CameraBank& cameras, int index) const;
@@ -53,6 +55,8 @@ public:
     void noteSaved() const;
 
 private:
+    /// Of frames counted as in the memory.
+    QString absence(const CameraBank& cameras, int first, int last) const;
     void readPicture(int frame) const;
 
     std::shared_ptr<Camera> m_camera;

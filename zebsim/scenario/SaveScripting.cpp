@@ -11,6 +11,7 @@
 #include "ScenarioError.h"
 
 #include <QApplication>
+#include <QDir>
 #include <QElapsedTimer>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -65,7 +66,9 @@ QString fillMember(QWebView& page, const QString& name, const QVariant& wanted) 
     if (!isOption(suffix)) {
         throw ScenarioError(QStringLiteral("a save has no option %1").arg(suffix));
     }
-    const QVariant value = suffix == Format ? QVariant(saveFormat(wanted.toString()).id) : wanted;
+    const QVariant value = suffix == Format ? QVariant(saveFormat(wanted.toString()).id)
+                           : name == Folder ? QVariant(QDir(wanted.toString()).absolutePath())
+                                            : wanted;
     waitForTrials(page);
     const QString fault = fill(page, suffix, value);
     return fault.isEmpty() ? QString() : QString(suffix % QStringLiteral(": ") % fault);
