@@ -47,14 +47,16 @@ same(save({folder: saved, format: 'png', 'png/depth': 16, 'png/lower': false, sa
     .filter(line => line.includes(`${FRAMES} frames saved`)).length, 8, 'eight are saved');
 same(Object.keys(pixels(saved)).length, 8 * FRAMES, 'their pictures');
 
-// The folder is opened once, whoever asks again; what is no recording is told.
-zeb.mode('live');
+// The folder is opened once, whoever asks again; what is no recording is told. The table does not list it.
+check(zeb.open(), 'the table opens');
+const isConverting = () => zeb.page('JSON.parse(wrentabledialog.getControlStatus()).IsBgConverting');
 zeb.writeFile(`${saved}/other.cih`, 'Camera: another program\n');
 zeb.writeFile(`${saved}/out.cih`, zeb.readFile(`${saved}/${zeb.files(saved).find(file => /^shot.*cih$/.test(file.name)).name}`)
     .replace(/"files": \["/, '"files": ["../'));
 zeb.messages();
 open();
 const files = zeb.keys();
+same(zeb.page("JSON.parse(wrentabledialog.getRecords(JSON.stringify({tab: 1}))).records"), [], 'no row');
 same([files.length, files.every(key => cameras.indexOf(key) < 0)], [8, true], 'each is a document, with a key of its own');
 same(zeb.camera(files[1]).name, 'Gate "2"', 'as it was called');
 const told = lines();
@@ -82,10 +84,17 @@ zeb.menu('File > Close recordings');
 same(zeb.keys(), [], 'closed');
 open();
 zeb.messages();
-const results = save({folder: `${root}/bmp`, format: 'bmp', saveinf: false});
+zeb.fault('disk', 'write', {delay: 20});
+zeb.save({folder: `${root}/bmp`, format: 'bmp', saveinf: false});
+zeb.menu('File > Save');
+check(isConverting(), 'the table knows');
+const results = zeb.results();
+check(!isConverting(), 'and when it is over');
+zeb.fault('disk', 'write', {});
 same(results.filter(line => line.includes(`${FRAMES} frames saved`)).length, 7, 'the others are converted');
 check(results.some(line => line.includes(`${broken} can't be read`)), `it is told by name: ${results}`);
 zeb.menu('File > Close recordings');
+zeb.close();
 
 // After a save, in the background.
 zeb.mode('memory');

@@ -16,12 +16,12 @@ SaveKeys::SaveKeys(SimHost& host, HostWindows& windows, QToolBar& bar)
     m_save.action().setObjectName(QStringLiteral("save"));
     m_layout.action().setObjectName(QStringLiteral("saveLayout"));
     connect(&m_save, &BarKey::pressed, this, [this, &windows] {
-        if (!sendToActivePlugin(m_host.appStatus(), "signalSaveFile")) {
+        if (m_host.isFileMode() || !sendToActivePlugin(m_host.appStatus(), "signalSaveFile")) {
             windows.save(false);
         }
     });
     connect(&m_layout, &BarKey::pressed, this, [this, &windows] {
-        if (!sendToActivePlugin(m_host.appStatus(), "signalSaveLayout")) {
+        if (m_host.isFileMode() || !sendToActivePlugin(m_host.appStatus(), "signalSaveLayout")) {
             windows.save(true);
         }
     });

@@ -9,7 +9,7 @@ class QToolBar;
 class SimHost;
 
 /// The viewer's keys that save what is recorded, or convert what is open; not in live mode. They mean the table while
-/// that is the window in front.
+/// that is the window in front, but for files, which it does not list.
 class SaveKeys : public QObject {
     Q_OBJECT
 
