@@ -183,13 +183,17 @@ TEST_F(Images, ShowRecordingsInFilesUntilTheyAreClosed) {
     viewer.findChild<QAction*>("play")->trigger();
     EXPECT_TRUE(host.docManager().getCurrentDoc()->frames().isPlaying());
     EXPECT_TRUE(until([&] { return images.showNow(), shown(key) != 2; })) << "it plays";
+    viewer.findChild<QAction*>("disconnectAll")->trigger();
+    EXPECT_EQ(host.cameras().connectedOfRig().size(), 0U);
+    EXPECT_EQ(host.cameras().connected().size(), 1U) << "what is open stays";
     EXPECT_TRUE(viewer.findChild<QAction*>("closeRecordings")->isEnabled());
     viewer.findChild<QAction*>("closeRecordings")->trigger();
     EXPECT_TRUE(until([this] { return titles().empty() && !viewer.findChild<PlayerBar*>()->isVisible(); }));
     EXPECT_FALSE(viewer.findChild<QAction*>("closeRecordings")->isEnabled());
+    camera(1).set(&CameraState::connected, true);
     host.appStatus().enterMode(zeb::MemoryMode);
     images.showNow();
-    EXPECT_EQ(titles(), "Gate|Camera 2|Camera 3");
+    EXPECT_EQ(titles(), "Gate");
 }
 
 TEST_F(Images, ShowAtOnceWhatThePluginsMakeOfThem) {

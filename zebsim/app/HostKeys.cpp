@@ -100,9 +100,11 @@ void HostKeys::disconnectAll() {
         return;
     }
     try {
-        CameraBank& cameras = m_host.cameras();
-        m_host.batch().runOrThrow(cameras.holdDevices(cameras.keysOf(&CameraState::connected)),
-                                  [](Camera& camera) { camera.disconnect(); });
+        DocKeyList keys;
+        for (const Camera* camera : m_host.cameras().connectedOfRig()) {
+            keys.append(camera->key());
+        }
+        m_host.batch().runOrThrow(m_host.cameras().holdDevices(keys), [](Camera& camera) { camera.disconnect(); });
     } catch (const std::exception& e) {
         m_host.messages().tellFailure(e);
     }
@@ -113,7 +115,7 @@ QString HostKeys::recordRefusal() const {
     if (!m_host.isLiveMode()) {
         return uiText("Cameras record in live mode.");
     }
-    if (m_host.cameras().connected().empty()) {
+    if (m_host.cameras().connectedOfRig().empty()) {
         return uiText("No camera is connected.");
     }
     const int state = m_host.recorder().state();
@@ -131,7 +133,7 @@ void HostKeys::refresh() {
     m_shownState = state;
     m_record.action().setText(recordText(m_host.isLiveMode() ? state : int(zeb::RecordLive)));
     m_record.refresh();
-    const auto cameras = m_host.cameras().connected();
+    const auto cameras = m_host.cameras().connectedOfRig();
     m_cancel->setEnabled(state != zeb::RecordLive || std::any_of(cameras.begin(), cameras.end(), isHeldUp));
     m_disconnect->setEnabled(!cameras.empty());
 }

@@ -148,7 +148,7 @@ QAction* ViewerWindow::addChoice(QActionGroup* group, const QString& text, const
 
 void ViewerWindow::refresh() {
     const HostCalls::Own own;
-    const auto cameras = m_host.cameras().all();
+    const auto cameras = m_host.cameras().ofRig();
     const auto connected = std::count_if(cameras.begin(), cameras.end(),
                                          [](const Camera* camera) { return camera->get(&CameraState::connected); });
     m_cameras->setText(uiText("%1 cameras, %2 connected").arg(cameras.size()).arg(connected));

@@ -30,7 +30,7 @@ void SimLiveLoop::restartLiveAfterEnd(int mode) {
 
 void SimLiveLoop::setStopLive(bool stop, int mode) {
     m_calls.change(OPERATION("ZebLiveLoop::setStopLive"), {stop, mode});
-    for (Camera* camera : m_cameras.all()) {
+    for (Camera* camera : m_cameras.ofRig()) {
         camera->set(&CameraState::stopLive, stop);
     }
 }
