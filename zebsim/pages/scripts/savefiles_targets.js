@@ -162,14 +162,19 @@ const saveTargets = {
         this.tellSum();
     },
 
+    totals() {
+        const sum = member => this.ticked().reduce((total, record) => total + (record[member] || 0), 0);
+        return { frames: sum('exportframes'), bytes: sum('capacity') };
+    },
+
     tellSum() {
         if (!this.isThere) {
             return;
         }
-        const { frames, bytes } = JSON.parse(saveBridge.getTotals() || '{"frames": 0, "bytes": 0}');
+        const { frames, bytes } = saveFamily === 'L' ? JSON.parse(saveBridge.getTotals() || '{}') : this.totals();
         const text = translate('%1 of %2 recordings, %3 frames, about %4');
         byId('sum').textContent = text.replace('%1', this.ticked().length).replace('%2', this.names().length)
-            .replace('%3', frames).replace('%4', saveBridge.capcityToString([bytes]));
+            .replace('%3', frames).replace('%4', saveBridge.capcityToString([bytes || 0]));
     },
 
     pick(row) {
