@@ -58,9 +58,9 @@ TEST(FrameSkip, ByTime) {
 /// The bridge of an export.
 class ExportBridge : public ProbeBridge {
 public:
+    using ProbeBridge::frameSkip;
     using ProbeBridge::ProbeBridge;
     using ProbeBridge::refreshSkipFrames;
-    using ProbeBridge::frameSkip;
 
     int mode = SkipByFrames;
     double frames = 1.0;

@@ -48,8 +48,9 @@ void BackgroundRenderer::begin() {
         return;
     }
     m_begun = m_wanted;
-    m_work.setFuture(QtConcurrent::run(
-        &threads(), [this, wish = m_begun] { return m_isOver ? QImage() : drawFrameOrFailure(wish.frame, wish.size); }));
+    m_work.setFuture(QtConcurrent::run(&threads(), [this, wish = m_begun] {
+        return m_isOver ? QImage() : drawFrameOrFailure(wish.frame, wish.size);
+    }));
 }
 
 void BackgroundRenderer::take() {
