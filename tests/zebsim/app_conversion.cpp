@@ -45,16 +45,4 @@ TEST_F(Conversion, GoesOnInTheBackgroundAndReplacesNothing) {
     EXPECT_TRUE(host.desk.beside[0].contains("There can't be a folder relative")) << host.desk.beside[0].toStdString();
 }
 
-TEST_F(Conversion, TellsWhatHasVanished) {
-    BackgroundConversion background(host.host);
-    QFile::remove(path("Nozzle_2_00001.png"));
-    background.convert({path("Gate.cih"), path("Nozzle_2.cih")});
-    EXPECT_TRUE(until([&] { return !background.isRunning(); }));
-    EXPECT_EQ(host.desk.beside.size(), 1);
-    EXPECT_TRUE(host.desk.beside.value(0).contains("Nozzle_2: read up to 1 of 3 frames, 2 not saved (" +
-                                                   path("Nozzle_2_00001.png") + " can't be read"))
-        << host.desk.beside.value(0).toStdString();
-    EXPECT_EQ(converted().filter("Gate").size(), 3);
-}
-
 }  // namespace
