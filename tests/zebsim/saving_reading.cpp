@@ -99,7 +99,7 @@ TEST_F(SavingReading, KeepsEveryBitOfACamera) {
                 run(all);
                 QByteArray expected(levels.size() * 2, 0);
                 for (int i = 0; i < levels.size(); ++i) {
-                    qToLittleEndian(asIn(levels[i], bits, wanted), expected.data() + 2 * i);
+                    qToLittleEndian(asIn(levels[i], bits, wanted), expected.data() + 2 * std::ptrdiff_t(i));
                 }
                 const QString made = all.fileOf(all.tracks[0], 0);
                 EXPECT_TRUE(readByOthers(made, 16) == expected)
