@@ -85,10 +85,9 @@ QImage readRows(TIFF* file, const QString& path, const QSize& size) {
             refuseForm(path);
         }
         for (int x = 0; x < size.width(); ++x) {
-            const int i = x * Channels;
+            const std::size_t i = std::size_t(x) * Channels;
             if (depth == 16) {
-                reinterpret_cast<QRgba64*>(picture.scanLine(y))[x] =
-                    qRgba64(row[std::size_t(i)], row[std::size_t(i + 1)], row[std::size_t(i + 2)], 0xffff);
+                reinterpret_cast<QRgba64*>(picture.scanLine(y))[x] = qRgba64(row[i], row[i + 1], row[i + 2], 0xffff);
             } else {
                 reinterpret_cast<QRgb*>(picture.scanLine(y))[x] = qRgb(narrow[i], narrow[i + 1], narrow[i + 2]);
             }
