@@ -264,7 +264,7 @@ TEST_F(AppSaving, TellsOfCamerasThatAreNotThere) {
     QStringList first;
     QObject::connect(&watcher, &ModalWatcher::stands, [&](QDialog* dialog) {
         if (qobject_cast<GUI_SaveDialog*>(dialog) != nullptr) {
-            first << inPage("saveTargets.rows()[0].textContent");
+            first << inPage("document.querySelector('#targets tbody tr').textContent");
         }
     });
     dialogs.saves().order({});
