@@ -110,6 +110,11 @@ TEST_F(ViewerTest, EndsTheApplicationWhenItIsClosed) {
     const quint64 mark = simulator.log().count();
     EXPECT_FALSE(closeBy(Qt::Key_Return) || closeBy(Qt::Key_Escape)) << "nobody has saved what it has recorded";
     EXPECT_EQ(simulator.log().since(mark).filter(R"(Unsaved images are kept: ("Camera 1: 64 frames"))").size(), 2);
+    camera.change({{"recorded", false}});
+    simulator.host().flags().set("IsBgConverting", true);
+    ASSERT_FALSE(closeBy(Qt::Key_Return)) << "a conversion is not complete";
+    simulator.host().flags().set("IsBgConverting", false);
+    camera.change({{"recorded", true}});
     ScenarioDialogs dialogs;
     EXPECT_EQ(simulator.run([&] { simulator.window().close(); }), 0);
     EXPECT_EQ(dialogs.takeMessages().first().toMap().value("text"),

@@ -40,3 +40,8 @@ bool mayLetGoOfRecording(SimHost& host, const QString& question) {
     host.messages().tell(Message::Info, uiText("The recording has ended meanwhile. Nothing was done."));
     return false;
 }
+
+bool mayEndConversion(SimHost& host) {
+    return !host.saver().isBgConverting() ||
+        host.messages().agrees(uiText("Recordings are being converted. Close the viewer all the same?"), {});
+}

@@ -52,7 +52,7 @@ Simulator::Simulator(const CommandLine& line) : m_host(m_clock, m_boxes, line.pr
     QObject::connect(&m_host.events(), &HostEvents::updateFinished, m_window.get(), [this] { m_boxes.followStyle(); });
     QObject::connect(m_window.get(), &ViewerWindow::closeAsked, m_window.get(), [this] {
         if (mayLetGoOfRecording(m_host, uiText("Cameras are armed or recording. Close the viewer all the same?")) &&
-            m_host.unsavedGuard().mayClose()) {
+            m_host.unsavedGuard().mayClose() && mayEndConversion(m_host)) {
             quit();
         }
     });

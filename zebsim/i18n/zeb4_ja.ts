@@ -2336,10 +2336,6 @@
         <translation>フォルダー %1 を作成します。</translation>
     </message>
     <message>
-        <source>Files that are in %1 already: %2</source>
-        <translation>%1 に既にあるファイル：%2</translation>
-    </message>
-    <message>
         <source>%1: %2 files exist already and are replaced, the first is %3</source>
         <translation>%1：%2 個のファイルが既に存在し、置き換えられます。最初のファイル：%3</translation>
     </message>
@@ -3254,6 +3250,14 @@
     <message>
         <source>%1: all images are saved, but %2 can&apos;t be written (%3)</source>
         <translation>%1: 画像はすべて保存されましたが、%2 を書き込めません（%3）</translation>
+    </message>
+    <message>
+        <source>Files and folders that are in %1 already: %2</source>
+        <translation>%1 に既にあるファイルとフォルダー：%2</translation>
+    </message>
+    <message>
+        <source>Recordings are being converted. Close the viewer all the same?</source>
+        <translation>記録を変換中です。それでもビューアーを閉じますか？</translation>
     </message>
 </context>
 </TS>
