@@ -145,7 +145,7 @@ TEST_F(AppSaving, ShowsThePlanAndGoesBackWithWhatWasTyped) {
     const QString out = folder.filePath("out/");
     EXPECT_EQ(
         told.join('|').toStdString(),
-        QStringList({"Files that are in " + out + " already: 2",
+        QStringList({"Files and folders that are in " + out + " already: 2",
                      "Camera 2: 1 files exist already and are replaced, the first is " + old, "possible",
                      "Camera 2: There can't be a folder " + folder.filePath("p.ini/below/") + ".", "not possible"})
             .join('|')

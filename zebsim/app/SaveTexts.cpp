@@ -79,7 +79,7 @@ QString entryText(const PlanEntry& entry) {
         case PlanEntry::FolderIsMade:
             return uiText("The folder %1 is made.").arg(path);
         case PlanEntry::FolderHoldsFiles:
-            return uiText("Files that are in %1 already: %2").arg(path, QString::number(entry.count));
+            return uiText("Files and folders that are in %1 already: %2").arg(path, QString::number(entry.count));
         case PlanEntry::Exists:
             return uiText("%1: %2 files exist already and are replaced, the first is %3")
                 .arg(entry.camera, QString::number(entry.count), path);
