@@ -2,10 +2,25 @@
 
 #include "ZebTypes.h"
 
+#include <QStringBuilder>
 #include <QStringList>
 #include <QVariantList>
 
 #include <optional>
+
+namespace zeb {
+
+/// They stand in the same place, whatever they are called.
+inline bool isSamePlace(const Medium& left, const Medium& right) {
+    return left.type == right.type && left.drive == right.drive && left.slot == right.slot;
+}
+
+/// Of an SD card's drive, counted from 0, as "D:".
+inline QString driveLetter(int drive) {
+    return QChar('A' + drive) % QLatin1Char(':');
+}
+
+}  // namespace zeb
 
 /// Storage media of a `zeb::MediumKind`, and recordings that come from anywhere but a camera's memory. GUI thread.
 class ZebMedia {
