@@ -1,6 +1,7 @@
 #include "DOC_Interface.h"
 #include "DOC_Storage.h"
 #include "Files.h"
+#include "HostDisk.h"
 #include "HostWindows.h"
 #include "MediaRoom.h"
 #include "support/SavingTest.h"
@@ -177,7 +178,7 @@ TEST_F(Media, NameCompareAndDeleteTheirRecordings) {
 }
 
 TEST_F(Media, TakeNothingThatTheyHaveNoRoomFor) {
-    MediaDisk disk(shelf());
+    HostDisk disk(shelf(), host.host.cameras());
     const qint64 room = disk.folder(path("card/new/run")).available;
     EXPECT_EQ(room, (1 << 20) - card()->use().used);
     MediaRoom full(shelf());

@@ -3,6 +3,7 @@
 #include "DOC_Image.h"
 #include "DOC_Interface.h"
 #include "Files.h"
+#include "HostDisk.h"
 #include "HostNameSource.h"
 #include "HostNamedDocument.h"
 #include "SavePlan.h"
@@ -152,7 +153,10 @@ TEST_F(FileDocuments, AreNotReplacedByWhatIsMadeOfThem) {
         const char* folder;
         const char* name;
         const char* source;
+        /// One of them is open, and not in the save.
+        bool isAlone = false;
     } cases[] = {{"png", "", "Gate_1", "Gate_1.cih"},
+                 {"png", "", "Gate_1", "Gate_1.cih", true},
                  {"png", "real/way/", "Gate_2", "Gate_2_00001.png"},
                  {"bmp", "", "Gate_2", "Gate_2.cih"},
                  {"bmp", "", "Gate_3", nullptr}};
@@ -161,13 +165,13 @@ TEST_F(FileDocuments, AreNotReplacedByWhatIsMadeOfThem) {
         all.hasInformation = true;
         all.tracks = tracksOfEach(saveSources(host.host.cameras()));
         std::swap(all.tracks[0], all.tracks[1]);
-        RealDisk disk;
+        all.tracks.resize(one.isAlone ? 1 : 2, all.tracks[0]);
+        HostDisk disk(host.host.shelf(), host.host.cameras());
         const SavePlan plan =
             planOf(all, {{path(one.folder), {}, {}, one.name}, {path("elsewhere"), {}, {}, "x"}}, disk);
         QStringList sources;
         for (const PlanEntry& entry : plan.entries) {
-            sources +=
-                entry.kind == PlanEntry::IsSource ? QStringList(QFileInfo(entry.path).fileName()) : QStringList();
+            sources += entry.kind == PlanEntry::IsOpen ? QStringList(QFileInfo(entry.path).fileName()) : QStringList();
         }
         EXPECT_EQ(sources.join('|'), QString(one.source)) << one.name;
         EXPECT_EQ(plan.isPossible(), one.source == nullptr);

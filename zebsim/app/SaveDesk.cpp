@@ -3,9 +3,9 @@
 #include "Camera.h"
 #include "DialogRun.h"
 #include "GUI_SaveDialog.h"
+#include "HostDisk.h"
 #include "InformationFile.h"
 #include "JS_Mediator_SaveDialog.h"
-#include "MediaRoom.h"
 #include "PartitionName.h"
 #include "PlanDialog.h"
 #include "PluginSignal.h"
@@ -177,7 +177,7 @@ void SaveDesk::beginAgain(const std::vector<SaveTrack>& tracks) {
     }
     SavePlan plan;
     try {
-        MediaDisk disk(m_host.shelf());
+        HostDisk disk(m_host.shelf(), m_host.cameras());
         plan = planOf(std::move(orders), targets, disk);
     } catch (const std::exception& e) {
         m_host.messages().tell(Message::Alert, uiText(QString::fromUtf8(e.what())), {}, m_progress);

@@ -1,6 +1,7 @@
 #include "SaveTargets.h"
 
 #include "Camera.h"
+#include "HostDisk.h"
 #include "HostNameSource.h"
 #include "HostNamedDocument.h"
 #include "MediaRoom.h"
@@ -133,7 +134,7 @@ SavePlan composePlan(SimHost& host, const std::vector<SaveTrack>& tracks, const 
             leaveOut(track.name, QString::fromUtf8(e.what()));
         }
     }
-    MediaDisk disk(host.shelf());
+    HostDisk disk(host.shelf(), host.cameras());
     return planOf(std::move(orders), targets, disk, known);
 }
 

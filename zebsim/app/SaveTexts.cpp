@@ -101,8 +101,8 @@ QString entryText(const PlanEntry& entry) {
             return spaceText(entry);
         case PlanEntry::NoFile:
             return uiText("%1: %2 is there and is no file that could be replaced").arg(entry.camera, path);
-        case PlanEntry::IsSource:
-            return uiText("%1: %2 is read for this conversion, and can't be replaced").arg(entry.camera, path);
+        case PlanEntry::IsOpen:
+            return uiText("%1: %2 is of a recording that is open, and can't be replaced").arg(entry.camera, path);
         case PlanEntry::NoName:
             return uiText("%1: %2").arg(entry.camera, uiText(entry.detail));
         case PlanEntry::NoFormat:

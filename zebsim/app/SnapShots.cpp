@@ -5,6 +5,7 @@
 #include "FileWriter.h"
 #include "FramePicture.h"
 #include "GUI_SaveDialog.h"
+#include "HostDisk.h"
 #include "InformationFile.h"
 #include "SaveOrders.h"
 #include "SaveTargets.h"
@@ -70,6 +71,10 @@ QString writePicture(SimHost& host, const CameraFrame& frame, const QImage& imag
     // The information beside an older picture would become that of another one.
     if (orders.hasInformation && over == Over::Nothing && QFileInfo::exists(informationPath(stem))) {
         throw FileError(informationPath(stem), TextKey("a file of that name is there already"));
+    }
+    HostDisk disk(host.shelf(), host.cameras());
+    if (disk.isOpen(QFileInfo(file).canonicalFilePath())) {
+        throw FileError(file, TextKey("it is of a recording that is open"));
     }
     writeFile(file, bytes, over);
     if (orders.hasInformation && camera) {

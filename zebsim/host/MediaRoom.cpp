@@ -5,17 +5,6 @@
 #include <algorithm>
 #include <cerrno>
 
-TargetDisk::Folder MediaDisk::folder(const QString& path) {
-    Folder folder = RealDisk::folder(path);
-    const MediaShelf::Held medium = m_shelf.at(path);
-    if (medium && folder.state != Folder::Impossible) {
-        folder.fileSystem = medium->folder().toUtf8();
-        folder.available = std::min(folder.available, medium->available());
-        folder.state = medium->isProtected() ? Folder::ReadOnly : folder.state;
-    }
-    return folder;
-}
-
 MediaRoom::Filled& MediaRoom::filled(const QString& folder) {
     std::shared_ptr<Filled>& found = m_folders[folder];
     if (!found) {

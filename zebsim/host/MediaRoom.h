@@ -5,18 +5,6 @@
 
 #include <QStringList>
 
-/// The disk with the media in it: what is on a medium has the room that the medium has, and its write protection.
-class MediaDisk : public RealDisk {
-public:
-    /// `shelf` must outlive the object.
-    explicit MediaDisk(const MediaShelf& shelf) : m_shelf(shelf) {}
-
-    Folder folder(const QString& path) override;
-
-private:
-    const MediaShelf& m_shelf;
-};
-
 /// How full the media become while one save writes to them. Any thread.
 class MediaRoom {
 public:

@@ -2428,10 +2428,6 @@
         <translation>%1 fps</translation>
     </message>
     <message>
-        <source>%1 of %2 recordings, %3 frames, about %4</source>
-        <translation>録画 %1/%2、%3 フレーム、約 %4</translation>
-    </message>
-    <message>
         <source>0 is best</source>
         <translation>0 が最高品質</translation>
     </message>
@@ -3216,10 +3212,6 @@
         <translation>記録を閉じる</translation>
     </message>
     <message>
-        <source>%1: %2 is read for this conversion, and can&apos;t be replaced</source>
-        <translation>%1: %2 はこの変換で読み込むため、置き換えられません</translation>
-    </message>
-    <message>
         <source>%1: read up to %2 of %3 frames, %4 not saved (%5)</source>
         <translation>%1: %3 フレーム中 %2 フレームまで読み込み、%4 フレームは保存されていません (%5)</translation>
     </message>
@@ -3258,6 +3250,22 @@
     <message>
         <source>Recordings are being converted. Close the viewer all the same?</source>
         <translation>記録を変換中です。それでもビューアーを閉じますか？</translation>
+    </message>
+    <message>
+        <source>%1 of %2 recordings, %3 frames, %4 of image data</source>
+        <translation>%2 件の記録のうち %1 件、%3 フレーム、画像データ %4</translation>
+    </message>
+    <message>
+        <source>None of the chosen recordings is there any more.</source>
+        <translation>選択した記録はどれも存在しません。</translation>
+    </message>
+    <message>
+        <source>%1: %2 is of a recording that is open, and can&apos;t be replaced</source>
+        <translation>%1：%2 は開いている記録のファイルのため、置き換えられません</translation>
+    </message>
+    <message>
+        <source>it is of a recording that is open</source>
+        <translation>開いている記録のファイルです</translation>
     </message>
 </context>
 </TS>

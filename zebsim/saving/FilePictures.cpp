@@ -50,12 +50,9 @@ private:
 }  // namespace
 
 FilePictures::FilePictures(const QString& path, RecordingInformation information)
-    : m_information(std::move(information)), m_folder(RealDisk().canonical(QFileInfo(path).path() % QLatin1Char('/'))) {
-    m_names.insert(fileKey(QFileInfo(path).fileName()));
-    for (const QString& name : m_information.files) {
-        m_names.insert(fileKey(name));
-    }
-}
+    : m_information(std::move(information)),
+      m_folder(RealDisk().canonical(QFileInfo(path).path() % QLatin1Char('/'))),
+      m_name(QFileInfo(path).fileName()) {}
 
 FilePictures::~FilePictures() {
     Kept::instance().forget(this);
@@ -70,9 +67,12 @@ QImage FilePictures::picture(int frame) const {
     return picture;
 }
 
-bool FilePictures::areIn(const QString& path) const {
-    const int end = path.lastIndexOf(QLatin1Char('/')) + 1;
-    return fileKey(path.left(end)) == fileKey(m_folder) && m_names.contains(fileKey(path.mid(end)));
+QStringList FilePictures::files() const {
+    QStringList paths{m_folder % m_name};
+    for (const QString& name : m_information.files) {
+        paths.append(m_folder % name);
+    }
+    return paths;
 }
 
 QImage FilePictures::read(int index) const {

@@ -3,7 +3,6 @@
 #include "InformationFile.h"
 #include "RecordedPictures.h"
 
-#include <QSet>
 
 #include <mutex>
 
@@ -18,7 +17,7 @@ public:
     FilePictures& operator=(const FilePictures&) = delete;
 
     QImage picture(int frame) const override;
-    bool areIn(const QString& path) const override;
+    QStringList files() const override;
 
 private:
     QImage read(int index) const;
@@ -29,7 +28,7 @@ private:
     const RecordingInformation m_information;
     /// Without links, with a '/' at its end.
     const QString m_folder;
-    QSet<QString> m_names;
+    const QString m_name;
     /// Of one file for all frames, once it was looked at.
     mutable QList<quint64> m_pages;
     mutable std::mutex m_mutex;

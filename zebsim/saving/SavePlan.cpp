@@ -1,6 +1,7 @@
 #include "SavePlan.h"
 
 #include "Companions.h"
+#include "FileError.h"
 #include "FileNameRules.h"
 #include "TargetDisk.h"
 #include "TargetPaths.h"
@@ -11,6 +12,7 @@
 #include <QFile>
 #include <QHash>
 #include <QMap>
+#include <QtDebug>
 
 #include <algorithm>
 #include <utility>
@@ -39,7 +41,15 @@ bool hasControl(const QString& text) {
 /// Goes through the tracks one by one and writes down what is to be told of each.
 class Planner {
 public:
-    Planner(SavePlan& plan, TargetDisk& disk) : m_plan(plan), m_disk(disk) {}
+    Planner(SavePlan& plan, TargetDisk& disk) : m_plan(plan), m_disk(disk) {
+        for (const SaveTrack& track : plan.orders.tracks) {
+            for (const SaveSource& source : track.sources) {
+                for (const QString& path : source.files()) {
+                    m_sources.insert(fileKey(path));
+                }
+            }
+        }
+    }
 
     void look(const TrackTarget& target, const SaveTrack& track, qint64 bytes) {
         m_plan.entries += faultsOf(target, track.name);
@@ -162,8 +172,9 @@ private:
         }
         for (const QString& name : own) {
             const QString path = target.folder() + name;
-            if (isSource(m_disk.canonical(target.folder()) % name)) {
-                add(PlanEntry::IsSource, track.name, path);
+            const QString file = m_disk.canonical(target.folder()) % name;
+            if (m_sources.contains(fileKey(file)) || m_disk.isOpen(file)) {
+                add(PlanEntry::IsOpen, track.name, path);
                 return;
             }
             if (!m_disk.isPlainFile(path)) {
@@ -173,14 +184,6 @@ private:
             m_plan.orders.mayReplace.insert(path);
         }
         add(PlanEntry::Exists, track.name, target.folder() + own.first(), own.size());
-    }
-
-    /// A track is made of that file, to whose folder no link leads.
-    bool isSource(const QString& path) const {
-        return std::any_of(m_plan.orders.tracks.begin(), m_plan.orders.tracks.end(), [&path](const SaveTrack& track) {
-            return std::any_of(track.sources.begin(), track.sources.end(),
-                               [&path](const SaveSource& source) { return source.isIn(path); });
-        });
     }
 
     /// Those of `names` that the track would write, by the index of its frame; those beside the frames come last.
@@ -217,18 +220,26 @@ private:
 
     SavePlan& m_plan;
     TargetDisk& m_disk;
+    /// Keys of the files that tracks are made of.
+    QSet<QString> m_sources;
     QHash<QByteArray, Space> m_space;
     QSet<QString> m_folders;
     QHash<QString, const SaveTrack*> m_stems;
 };
 
-/// One picture stands for all.
+/// One picture stands for all: the first that can be had.
 double bytesInPixel(const SaveOrders& orders) {
-    const SaveTrack& first = orders.tracks.front();
-    return Reserve *
-           double(orders.format.expectedSize(orders.picture(first, first.from), first.metadata(first.from),
-                                             first.bits())) /
-           double(std::max<qint64>(1, pixelsOf(first.size())));
+    constexpr double AtMost = 8;
+    for (const SaveTrack& track : orders.tracks) {
+        try {
+            const qint64 size =
+                orders.format.expectedSize(orders.picture(track, track.from), track.metadata(track.from), track.bits());
+            return Reserve * double(size) / double(std::max<qint64>(1, pixelsOf(track.size())));
+        } catch (const FileError& e) {
+            qWarning() << "The size of a save is not reckoned from" << e.file() << e.what();
+        }
+    }
+    return AtMost;
 }
 
 }  // namespace

@@ -47,8 +47,8 @@ struct PlanEntry {
         NoFile,
         NoName,
         NoFormat,
-        /// Of what the same save reads.
-        IsSource
+        /// It is of a recording that is open, or that the same save reads.
+        IsOpen
     };
     Kind kind = Exists;
     /// Cameras that it is about; empty: all of them.

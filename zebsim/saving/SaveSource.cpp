@@ -97,8 +97,8 @@ void SaveSource::noteSaved() const {
     }
 }
 
-bool SaveSource::isIn(const QString& path) const {
-    return isFile() && m_recording.pictures->areIn(path);
+QStringList SaveSource::files() const {
+    return isFile() ? m_recording.pictures->files() : QStringList();
 }
 
 SaveSources saveSources(const CameraBank& cameras) {

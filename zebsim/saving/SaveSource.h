@@ -41,9 +41,9 @@ public:
     /// What is known of it, without files.
     RecordingInformation information() const;
     FrameMetadata metadata(int index) const { return FrameMetadata::recorded(m_recording, frame(index)); }
-    /// It lies in files, and whether that is one of them; no link leads to its folder.
+    /// It lies in files, and which those are; no link leads to their folder.
     bool isFile() const { return m_recording.pictures != nullptr; }
-    bool isIn(const QString& path) const;
+    QStringList files() const;
     /// Why it can't be read any more, as far as that is known without asking the camera; empty when it can.
     QString absence(const CameraBank& cameras) const;
     /// Has the camera hand that frame over. Throws `CameraError` when it is not there any more, does not answer, or has

@@ -32,6 +32,8 @@ public:
     /// All that a folder holds, hidden files and broken links too, in the order of `operator<`; empty when it is not
     /// there.
     virtual const QStringList& namesIn(const QString& folder) = 0;
+    /// Whether the program still needs a file, to whose folder no link leads: it is of a recording that is open.
+    virtual bool isOpen(const QString& path) = 0;
 };
 
 /// The disk of this machine; each folder is looked at once.
@@ -41,6 +43,7 @@ public:
     QString canonical(const QString& folder) override;
     bool isPlainFile(const QString& path) override;
     const QStringList& namesIn(const QString& folder) override;
+    bool isOpen(const QString&) override { return false; }
 
 private:
     /// References to what it holds stay valid.
