@@ -7,6 +7,7 @@
 #include "SimHost.h"
 #include "UiText.h"
 
+#include <QDir>
 #include <QtDebug>
 
 #include <algorithm>
@@ -32,12 +33,7 @@ void BackgroundConversion::begin(const QStringList& paths) {
     m_failures = opened.faults;
     m_keys = opened.keys;
     std::vector<SaveTrack> tracks = tracksOfEach(saveSources(m_host.cameras(), m_keys));
-    for (SaveTrack& track : tracks) {
-        const Camera* camera = m_host.cameras().find(track.sources.front().key());
-        // One camera may have made several.
-        track.name = camera ? camera->get(&CameraState::originalName) : track.name;
-        track.isConversion = true;
-    }
+    nameByFiles(tracks);
     if (tracks.empty()) {
         tell();
         return;
@@ -55,6 +51,21 @@ void BackgroundConversion::begin(const QStringList& paths) {
     QObject::connect(m_job.get(), &SaveJob::finished, m_job.get(), [this] { finish(); });
     m_job->start();
     m_host.updates().request();
+}
+
+void BackgroundConversion::nameByFiles(std::vector<SaveTrack>& tracks) const {
+    QStringList names;
+    QStringList paths;
+    for (const SaveTrack& track : tracks) {
+        const Camera* camera = m_host.cameras().find(track.sources.front().key());
+        names << (camera ? camera->get(&CameraState::originalName) : track.name);
+        paths << (camera ? QDir::toNativeSeparators(camera->get(&CameraState::sourceFile)) : track.name);
+    }
+    for (int i = 0; i < names.size(); ++i) {
+        SaveTrack& track = tracks[std::size_t(i)];
+        track.name = names.count(names[i]) > 1 ? paths[i] : names[i];
+        track.isConversion = true;
+    }
 }
 
 void BackgroundConversion::dropRefused(SavePlan& plan) {

@@ -7,10 +7,12 @@
 
 #include <deque>
 #include <memory>
+#include <vector>
 
 class SaveJob;
 class SimHost;
 struct SavePlan;
+struct SaveTrack;
 
 /// Converts what was just saved while the user works on, as is chosen for conversions. Nobody is asked: what would
 /// replace a file fails. How it went stands in the log, and in a notice. GUI thread.
@@ -27,6 +29,8 @@ public:
 
 private:
     void begin(const QStringList& paths);
+    /// One camera may have made several, and one name may stand in several folders.
+    void nameByFiles(std::vector<SaveTrack>& tracks) const;
     /// Leaves out of the plan what can't be written, or would replace something.
     void dropRefused(SavePlan& plan);
     void finish();

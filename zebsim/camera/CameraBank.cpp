@@ -4,6 +4,7 @@
 #include "Clock.h"
 #include "Rig.h"
 
+#include <QDir>
 #include <QStringList>
 
 #include <algorithm>
@@ -227,8 +228,15 @@ QString CameraBank::labelOf(const Camera& camera) const {
     const auto cameras = isFile ? files() : known();
     const auto alike =
         std::count_if(cameras.begin(), cameras.end(), [&name](const Camera* known) { return known->name() == name; });
-    const QString detail = isFile ? camera.get(&CameraState::originalName) : camera.address();
-    return alike < 2 ? name : QString(name % QStringLiteral(" (") % detail % QLatin1Char(')'));
+    if (alike < 2) {
+        return name;
+    }
+    QString detail = isFile ? camera.get(&CameraState::originalName) : camera.address();
+    const auto isCalledSo = [&detail](const Camera* known) { return known->get(&CameraState::originalName) == detail; };
+    if (isFile && std::count_if(cameras.begin(), cameras.end(), isCalledSo) > 1) {
+        detail = QDir::toNativeSeparators(camera.get(&CameraState::sourceFile));
+    }
+    return QString(name % QStringLiteral(" (") % detail % QLatin1Char(')'));
 }
 
 HeldCameras CameraBank::hold(const DocKeyList& keys) const {

@@ -81,7 +81,7 @@ public:
     /// Devices that are found, gone ones too; files while they are listed.
     int deviceCount() const;
     /// The camera's name, with its address where a known one is called alike; of a recording in files with what it was
-    /// called when it was opened.
+    /// called when it was opened, or with the path of the file that tells of it.
     QString labelOf(const Camera& camera) const;
     /// Keys of `all`, and of those of them that are so, as `keysOf(&CameraState::selected)`.
     DocKeyList keys() const;
