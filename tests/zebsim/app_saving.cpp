@@ -234,18 +234,20 @@ TEST_F(AppSaving, StaysTrueWhileTheRestChanges) {
         update();
         seen << inPage("byId('format').value") << rowInPage(0).section('|', 0, 0) << rowInPage(1).section('|', 0, 0);
         seen << inPage("String(document.querySelectorAll('#targets img, #facts img').length)");
-        inPage("byId('save').click()");
+        seen << inPage("byId('fault').textContent");
         host.cameras().find(1)->set(&CameraState::connected, true);
         update();
         seen << rowInPage(0).section('|', 0, 0) << inPage("byId('fault').textContent");
+        inPage("byId('save').click()");
         inPage("byId('cancel').click()");
     });
     host.saveFiles();
     const QString gone = ": the camera is gone";
-    EXPECT_EQ(seen.join('\n').toStdString(), QStringList({hostile, "bmp", hostile + ": the camera was disconnected",
-                                                          "Camera 2" + gone, "0", hostile, ""})
-                                                 .join('\n')
-                                                 .toStdString());
+    EXPECT_EQ(seen.join('\n').toStdString(),
+              QStringList({hostile, "bmp", hostile + ": the camera was disconnected", "Camera 2" + gone, "0",
+                           "None of the chosen recordings is there any more.", hostile, ""})
+                  .join('\n')
+                  .toStdString());
     EXPECT_TRUE(told.contains("Camera 2: not saved (the camera is gone)")) << told.join('|').toStdString();
     EXPECT_EQ(host.prefs().value("export/format"), "bmp") << "what others have stored stands";
     EXPECT_EQ(host.prefs().value("export/subdirname"), "theirs");

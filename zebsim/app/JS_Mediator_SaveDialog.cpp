@@ -89,7 +89,15 @@ QString JS_Mediator_SaveDialog::getTotals() {
         SaveOrders orders = chosenOrders(pref, nameFamily(fileType(m_tracks.front())));
         double frames = 0;
         double bytes = 0;
-        for (const SaveTrack& track : chosenTracks()) {
+        for (SaveTrack track : chosenTracks()) {
+            const auto isGone = [this](const SaveSource& source) {
+                return !source.absence(m_simHost.cameras()).isEmpty();
+            };
+            track.sources.erase(std::remove_if(track.sources.begin(), track.sources.end(), isGone),
+                                track.sources.end());
+            if (track.sources.empty()) {
+                continue;
+            }
             orders.add(track);
             const SaveTrack& planned = orders.tracks.back();
             frames += planned.frames();

@@ -66,8 +66,8 @@ const saveTargets = recordingList('targets', {
     },
 
     factsOf(record) {
-        return [record.label, record.resolution, translate('%1 fps').replace('%1', record.recordrate),
-            record.ipaddress];
+        return record.gone ? [record.label, record.gone] :
+            [record.label, record.resolution, translate('%1 fps').replace('%1', record.recordrate), record.ipaddress];
     },
 
     chosenAnew() {
@@ -99,7 +99,8 @@ const saveTargets = recordingList('targets', {
     },
 
     totals() {
-        const sum = member => this.ticked().reduce((total, record) => total + (record[member] || 0), 0);
+        const there = this.ticked().filter(record => !record.gone);
+        const sum = member => there.reduce((total, record) => total + (record[member] || 0), 0);
         return { frames: sum('exportframes'), bytes: sum('capacity') };
     },
 
@@ -108,7 +109,7 @@ const saveTargets = recordingList('targets', {
             return;
         }
         const { frames, bytes } = saveFamily === 'L' ? JSON.parse(saveBridge.getTotals() || '{}') : this.totals();
-        const text = translate('%1 of %2 recordings, %3 frames, about %4');
+        const text = translate('%1 of %2 recordings, %3 frames, %4 of image data');
         byId('sum').textContent = text.replace('%1', this.ticked().length).replace('%2', this.choices().length)
             .replace('%3', frames).replace('%4', saveBridge.capcityToString([bytes || 0]));
     },
@@ -119,6 +120,9 @@ const saveTargets = recordingList('targets', {
     },
 
     fault() {
-        return this.isThere && this.ticked().length === 0 ? translate('No recording is chosen.') : '';
+        const ticked = this.ticked();
+        const fault = ticked.length === 0 ? textKey('No recording is chosen.') :
+            ticked.every(record => record.gone) ? textKey('None of the chosen recordings is there any more.') : '';
+        return this.isThere && fault !== '' ? translate(fault) : '';
     }
 });
