@@ -1,6 +1,7 @@
 #include "SkipPrefs.h"
 
 #include "FrameSkip.h"
+#include "FrameSkipRule.h"
 #include "ZebHost.h"
 
 #include <limits>
@@ -50,9 +51,6 @@ void SkipPrefs::setDistance(double distance, const FrameSkip& skip) {
 }
 
 int SkipPrefs::step(unsigned int rate) const {
-    if (!m_hasSkip || !pref("skipsave").toBool()) {
-        return 1;
-    }
-    const double time = mode() == SkipByTime ? pref("skipsavemsec").toDouble() : 0;
-    return qMax(1, time > 0 ? framesIn(time, rate) : pref("skipsaveframe").toInt());
+    const auto read = [this](const QString& key) { return m_host.getPref(key, {}); };
+    return m_hasSkip ? FrameSkipRule::chosen(read, m_family).stepAt(rate) : 1;
 }

@@ -1,10 +1,8 @@
 #pragma once
 
 #include "NumberText.h"
+#include "PrefReader.h"
 
-#include <QVariant>
-
-#include <functional>
 #include <optional>
 
 /// The types of files, `zeb::FileType`, fall into families, each with preferences of its own.
@@ -20,9 +18,6 @@ int fileNameSlot(int type);
 QString slotKey(int slot);
 /// What the keys of its digits begin with, as "export/groupdiraddnumber"; empty for a slot that has none.
 QString numberKey(int slot);
-
-/// Reads a preference; an invalid value stands for 0, false or the empty text.
-using PrefReader = std::function<QVariant(const QString& key)>;
 
 /// The digits that the preferences give to a slot's numbers. Without a reader they are 3, 3 and 4.
 NumberDigits slotDigits(const PrefReader& pref, int slot);

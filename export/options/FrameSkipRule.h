@@ -1,6 +1,6 @@
 #pragma once
 
-#include "NameFamilies.h"
+#include "PrefReader.h"
 
 /// Which frames of a recording are saved: one in so many, or one in so long a time. Pure.
 struct FrameSkipRule {

@@ -7,6 +7,7 @@
 
 namespace {
 
+/// A `FrameSkipMode`.
 constexpr int ByTime = 1;
 constexpr double SpansInMillisecond = 10000;
 constexpr double LongestMs = 24 * 3600 * 1000.0;
