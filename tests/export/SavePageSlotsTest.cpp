@@ -59,15 +59,16 @@ TEST(SavePageSlots, LetNoFailureOut) {
 
 TEST(SavePageSlots, GoByTheNameOfTheDialog) {
     TestHost test(connected(1));
-    for (const char* family : {"export/", "convert/", "snap/", "report/", "layout/"}) {
-        const QString key = QLatin1String(family);
+    int family = 0;
+    for (const QString key : {"export/", "convert/", "snap/", "report/", "layout/"}) {
+        ++family;
         test.host.setPref(key + "dir", QString("/" + key.chopped(1)));
         for (const char* name : {"groupdir", "subdir", "filename"}) {
             test.host.setPref(key + name + "addnumbercameranodigits", 1);
             test.host.setPref(key + name + "addnumberheadnodigits", 2);
-            test.host.setPref(key + name + "addnumbersessionnodigits", key.size());
+            test.host.setPref(key + name + "addnumbersessionnodigits", family);
         }
-        test.host.setPref(key + "skipunit", key.size());
+        test.host.setPref(key + "skipunit", family);
         test.host.setPref(key + "raww/bayersave", true);
     }
     test.host.setPref("convert/dirasoriginal", false);
@@ -81,14 +82,14 @@ TEST(SavePageSlots, GoByTheNameOfTheDialog) {
         int skipUnit;
         bool isRaw;
     } cases[] = {
-        {"savedialog", "", 10, "/export/", "C1H01S0000001 C1H01S0000001 C1H01S0000001", 7, true},
-        {"anything", "", 10, "/export/", "C1H01S0000001 C1H01S0000001 C1H01S0000001", 7, true},
-        {"fileopendialog", "", 9, "/export/", "C1H01S0000001 C1H01S0000001 C1H01S0000001", 7, true},
-        {"batchconverter", "convert", 11, "/convert/", "S00000001 S00000001 S00000001", 7, true},
-        {"convertparametereditdialog", "convert", 11, "/convert/", "S00000001 S00000001 S00000001", 7, true},
-        {"snapshotdialog", "snap", 10, "/snap/", "C1H01S00001 C1H01S00001 C1H01S00001", 7, false},
-        {"reportExportDialog", "report", 17, "/report/", " S0000001 S0000001", 7, false},
-        {"layoutsavedialog", "layout", 18, "/layout/", "C1H01S0000001 C1H01S0000001 C1H01S0000001", 7, false},
+        {"savedialog", "", 10, "/export/", "C1H01S1 C1H01S1 C1H01S1", 1, true},
+        {"anything", "", 10, "/export/", "C1H01S1 C1H01S1 C1H01S1", 1, true},
+        {"fileopendialog", "", 9, "/export/", "C1H01S1 C1H01S1 C1H01S1", 1, true},
+        {"batchconverter", "convert", 11, "/convert/", "S01 S01 S01", 1, true},
+        {"convertparametereditdialog", "convert", 11, "/convert/", "S01 S01 S01", 1, true},
+        {"snapshotdialog", "snap", 10, "/snap/", "C1H01S001 C1H01S001 C1H01S001", 1, false},
+        {"reportExportDialog", "report", 17, "/report/", " S0001 S0001", 4, false},
+        {"layoutsavedialog", "layout", 18, "/layout/", "C1H01S1 C1H01S00001 C1H01S00001", 5, false},
     };
     for (const auto& row : cases) {
         JS_Mediator_SaveFile options(&test.host, row.dialog);
