@@ -8,7 +8,10 @@
 #include "SimHost.h"
 #include "UiText.h"
 
+#include <QIcon>
 #include <QLabel>
+#include <QPainter>
+#include <QPixmap>
 #include <QSignalBlocker>
 #include <QSlider>
 #include <QStyle>
@@ -19,6 +22,15 @@ void stopAll(const std::vector<Camera*>& cameras) {
     for (Camera* camera : cameras) {
         camera->set(&CameraState::playing, false);
     }
+}
+
+/// The icon in the colour of the button's text: those of the style are made for light grounds.
+QIcon iconOf(const QWidget& button, QStyle::StandardPixmap which, const QSize& size) {
+    QPixmap picture = button.style()->standardIcon(which).pixmap(size);
+    QPainter painter(&picture);
+    painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
+    painter.fillRect(picture.rect(), button.palette().color(QPalette::ButtonText));
+    return picture;
 }
 
 }  // namespace
@@ -97,7 +109,8 @@ void PlayerBar::refresh() {
     const bool isPlaying = camera != nullptr && camera->get(&CameraState::playing);
     m_play->setChecked(isPlaying);
     m_play->setText(isPlaying ? uiText("Pause") : uiText("Play"));
-    m_play->setIcon(style()->standardIcon(isPlaying ? QStyle::SP_MediaPause : QStyle::SP_MediaPlay));
+    m_play->setIcon(
+        iconOf(*widgetForAction(m_play), isPlaying ? QStyle::SP_MediaPause : QStyle::SP_MediaPlay, iconSize()));
     m_frame->clear();
     if (camera == nullptr) {
         m_items->setTexts({}, {});
