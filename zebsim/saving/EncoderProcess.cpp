@@ -123,7 +123,8 @@ QString EncoderProcess::answer() const {
 }
 
 QString EncoderProcess::complaint() const {
-    const QString line = said().section(QLatin1Char('\n'), -1);
+    // What stands before it is a path that only the two programs know.
+    const QString line = said().section(QLatin1Char('\n'), -1).section(QStringLiteral(": "), -1);
     return !line.isEmpty() ? line
            : m_error != 0  ? qt_error_string(m_error)
                            : TextKey("the program that makes videos has failed");
