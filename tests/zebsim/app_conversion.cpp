@@ -1,4 +1,6 @@
 #include "BackgroundConversion.h"
+#include "Files.h"
+#include "Tal2Start.h"
 #include "support/SavingTest.h"
 
 namespace {
@@ -43,6 +45,23 @@ TEST_F(Conversion, GoesOnInTheBackgroundAndReplacesNothing) {
     background.convert({path("Gate.cih")});
     EXPECT_TRUE(until([&] { return !host.desk.beside.isEmpty(); }));
     EXPECT_TRUE(host.desk.beside[0].contains("There can't be a folder relative")) << host.desk.beside[0].toStdString();
+}
+
+TEST_F(Conversion, HandsTheFoldersOfASaveToTal2WhenThatIsWanted) {
+    const QString program = path("tal2.exe");
+    write(program, "#!/bin/sh\nprintf '%s|' \"$@\" >\"$0.new\" && mv \"$0.new\" \"$0.told\"\n");
+    host.host.prefs().setValue("tal2/folder", folder.path());
+    handOverToTal2(host.host, {"/never"});
+    host.host.prefs().setValue("export/executetal2", true);
+    handOverToTal2(host.host, {"/while recordings are downloaded by themselves"});
+    host.host.prefs().setValue("recording/AutoDownload", false);
+    handOverToTal2(host.host, {});
+    handOverToTal2(host.host, {"/a b", "/c"});
+    EXPECT_EQ(host.desk.beside, QStringList(program + " can't be started. What was saved is complete."));
+    QFile::setPermissions(program, QFile::ReadOwner | QFile::ExeOwner);
+    handOverToTal2(host.host, {"/a b", "/c"});
+    EXPECT_TRUE(until([&] { return QFileInfo::exists(program + ".told"); }));
+    EXPECT_EQ(contentOf(program + ".told"), "/a b|/c|");
 }
 
 }  // namespace

@@ -18,6 +18,9 @@ protected:
             host.camera(key).change({{"recorded", true}, {"recordedRate", rate}, {"recordedTrigger", 40}});
             host.camera(key).change({{"resolution", QVariantList{24, 18}}, {"recordedRange", QVariantList{0, 99}}});
             host.camera(key).change({{"name", key % 2 ? "Gate" : QString("R/%1").arg(key)}, {"partitions", 2}});
+            if (key % 2 == 0) {
+                host.camera(key).keep(2, host.camera(key).recording());
+            }
             host.camera(key).change(
                 {{"customInfo",
                   QVariantList{QVariantMap{
@@ -52,6 +55,8 @@ protected:
                                  "filenameaspartitionname",
                                  "filenameusecustom",
                                  "filenameusecustomincludeunit",
+                                 "filenameusecustomfromtarget",
+                                 "singlepath",
                                  "saveinf",
                                  "savethumbnail",
                                  "skipsave",
@@ -61,6 +66,15 @@ protected:
                                  "info"}) {
             set(flag, any());
         }
+        for (const char* name : {"groupdir", "subdir", "filename"}) {
+            for (const char* number : {"camerano", "headno", "sessionno"}) {
+                set(QString("%1addnumber%2digits").arg(name, number), anyBelow(5));
+            }
+        }
+        set("multipathdevicelist",
+            QString("%1|right?%2|left").arg(host.camera(1).address(), host.camera(2).address()));
+        set("multipathlist", QString("right|%1?left|%2").arg(folder.filePath("root0"), folder.filePath("root2")));
+        host.host.prefs().assume("save/substitutefolder", anyBelow(8) == 0 ? folder.filePath("substitute") : "");
         set("filename", any() ? "shot" : "");
         set("groupdirname", "group");
         set("subdirname", any() ? "sub" : "");

@@ -20,6 +20,7 @@ struct FakeDisk : TargetDisk {
     bool isPlainFile(const QString& path) override { return !path.contains("pipe"); }
     QString canonical(const QString& folder) override { return QString(folder).replace("/link/", "/r/"); }
     const QStringList& namesIn(const QString& folder) override { return names[folder]; }
+    bool isOpen(const QString&) override { return false; }
 
     QHash<QString, Folder::State> states;
     QHash<QString, QStringList> names;

@@ -1,5 +1,6 @@
 #include "FileMetadata.h"
 #include "Files.h"
+#include "FullDisk.h"
 #include "VideoTrials.h"
 #include "support/SavingTest.h"
 
@@ -72,7 +73,13 @@ TEST_F(SavingVideo, LeavesNoHalfFile) {
     wanted.mayReplace = {path("Gate.mp4")};
     fails("#!/bin/sh\necho 'no such encoder' >&2; exit 1\n", "no such encoder");
     fails("#!/bin/sh\ncat >/dev/null; exit 1\n", "the program that makes videos has failed");
+    fails("#!/bin/sh\nhead -c 9000 >/dev/null; kill -9 $$\n", "the program that makes videos has failed");
     fails(QByteArray(Encoder) + "echo 'No space left on device' >&2\n", "No space left on device");
+    wanted.encoder = VideoEncoder::installed();
+    {
+        const FullDisk full(1000);
+        fails({}, "File too large");
+    }
     wanted.encoder.program = path("none");
     fails({}, "No such file or directory");
     program(Encoder);
@@ -121,56 +128,60 @@ QString probed(const QString& file, const QStringList& arguments) {
     return outputOf("ffprobe", QStringList{"-v", "error"} + arguments + QStringList(file)).trimmed();
 }
 
-TEST_F(SavingVideo, HoldsAllFramesInEachFormatOrIsNotOffered) {
+class SavingVideoFormats : public SavingVideo {
+protected:
+    /// Whether the format is offered; then the file has all frames, and else there is none.
+    bool isMade(const QString& container, const VideoCodec& codec, const QString& rate, const QSize& size) {
+        removeFiles();
+        host.camera(3).change({{"resolution", QVariantList{size.width(), size.height()}}});
+        host.camera(3).change({{"selectedRange", QVariantList{100, 111}}});
+        SaveOrders wanted = orders(container);
+        wanted.format =
+            chosen({{"format", container}, {container + "/codec", codec.name}, {container + "/framerate", rate}})
+                .format;
+        wanted.tracks.erase(wanted.tracks.begin());
+        wanted.encoder = VideoEncoder::installed();
+        const QString fault = VideoTrials::installed().fault(container, wanted.format.video);
+        const QStringList told = run(wanted);
+        if (!fault.isEmpty()) {
+            EXPECT_EQ(told, QStringList("Nozzle/2: 0 of 12 up to 0, failed"));
+            EXPECT_EQ(files(), QStringList());
+            return false;
+        }
+        EXPECT_EQ(told, QStringList("Nozzle/2: 12 of 12 up to 11, saved")) << reason.toStdString();
+        const QStringList found = probed(wanted.fileOf(wanted.tracks[0], 0),
+                                         {"-count_packets", "-show_entries",
+                                          "stream=nb_read_packets,r_frame_rate,pix_fmt", "-of", "default=nk=1:nw=1"})
+                                      .split('\n');
+        EXPECT_EQ(found.value(2), "12");
+        const QStringList parts = found.value(1).split('/');
+        EXPECT_NEAR(parts.value(0).toDouble() / parts.value(1).toDouble(), rate.toDouble(), 0.001);
+        EXPECT_EQ(found.value(0) == "yuv420p", codec.pixels == "yuv420p");
+        return true;
+    }
+};
+
+TEST_F(SavingVideoFormats, HoldAllFramesOrAreNotOffered) {
     // ./test long tries each pair at each rate.
     const bool isLong = qEnvironmentVariableIsSet("WREN_LONG");
-    const QStringList containers{"avi", "mov", "mp4"};
-    const QStringList rates{"1", "25", "29.97", "1000"};
     const QStringList some{"avi RAW 1",      "mov H264 29.97", "mp4 MJPEG 1000",
                            "avi MPEG2 1000", "mov MPEG4 25",   "mp4 RAW 25"};
-    int offered = 0;
-    for (const QString& container : containers) {
+    QStringList refused;
+    for (const QString container : {"avi", "mov", "mp4"}) {
         for (const VideoCodec& codec : videoCodecs()) {
-            for (const QString& rate : rates) {
+            for (const QString rate : {"1", "25", "29.97", "1000"}) {
                 const QString what = QStringList{container, codec.name, rate}.join(' ');
-                if (!isLong && !some.contains(what)) {
-                    continue;
+                SCOPED_TRACE(what.toStdString());
+                if (isLong || some.contains(what)) {
+                    const bool isOffered = isMade(container, codec, rate, {64, 48});
+                    EXPECT_EQ(isMade(container, codec, rate, {63, 47}), isOffered) << "of odd sides";
+                    refused += isOffered ? QStringList() : QStringList(what);
                 }
-                const bool isEven = (containers.indexOf(container) + rates.indexOf(rate)) % 2 == 0;
-                const QSize size = isEven ? Size + QSize(1, 1) : Size;
-                host.camera(3).change({{"resolution", QVariantList{size.width(), size.height()}}});
-                host.camera(3).change({{"selectedRange", QVariantList{100, 111}}});
-                SaveOrders wanted = orders(container);
-                wanted.format =
-                    chosen(
-                        {{"format", container}, {container + "/codec", codec.name}, {container + "/framerate", rate}})
-                        .format;
-                wanted.tracks.erase(wanted.tracks.begin());
-                wanted.encoder = VideoEncoder::installed();
-                const QString fault = VideoTrials::installed().fault(container, wanted.format.video);
-                SCOPED_TRACE(QString(what % ' ' % fault).toStdString());
-                const QStringList told = run(wanted);
-                if (!fault.isEmpty()) {
-                    EXPECT_EQ(told, QStringList("Nozzle/2: 0 of 12 up to 0, failed"));
-                    EXPECT_EQ(files(), QStringList());
-                    continue;
-                }
-                ++offered;
-                ASSERT_EQ(told, QStringList("Nozzle/2: 12 of 12 up to 11, saved")) << reason.toStdString();
-                const QString file = wanted.fileOf(wanted.tracks[0], 0);
-                const QStringList found =
-                    probed(file, {"-count_packets", "-show_entries", "stream=nb_read_packets,r_frame_rate,pix_fmt",
-                                  "-of", "default=nk=1:nw=1"})
-                        .split('\n');
-                EXPECT_EQ(found.value(2), "12");
-                const QStringList parts = found.value(1).split('/');
-                EXPECT_NEAR(parts.value(0).toDouble() / parts.value(1).toDouble(), rate.toDouble(), 0.001);
-                EXPECT_EQ(found.value(0) == "yuv420p", codec.pixels == "yuv420p");
-                removeFiles();
             }
         }
     }
-    EXPECT_GE(offered, isLong ? 60 : 4);
+    const QStringList never = isLong ? QStringList() : QStringList{"avi MPEG2 1000", "mp4 RAW 25"};
+    EXPECT_EQ(refused, never);
 }
 
 TEST_F(SavingVideo, KeepsColoursThatAreToBeKept) {
@@ -219,9 +230,9 @@ TEST_F(SavingVideo, IsMadeAsItsOptionsSay) {
     EXPECT_TRUE(made({{"mp4/qualitypreset", "-i /etc/passwd"}}).contains("subme=7"));
     EXPECT_TRUE(made({{"mp4/lossless", true}, {"mp4/crf", 33}}).contains("qp=0"));
     for (const char* codec : {"MJPEG", "MPEG2", "MPEG4"}) {
-        EXPECT_LT(2 * made({{"mp4/codec", codec}, {"mp4/quality", 0}}).size(),
-                  made({{"mp4/codec", codec}, {"mp4/quality", 100}}).size())
-            << codec;
+        const int least = made({{"mp4/codec", codec}, {"mp4/quality", 0}}).size();
+        const int most = made({{"mp4/codec", codec}, {"mp4/quality", 100}}).size();
+        EXPECT_TRUE(least > 0 && 2 * least < most) << codec << ' ' << least << ' ' << most;
     }
 }
 
@@ -236,7 +247,7 @@ TEST_F(SavingVideo, SaysWhatTheProgramLacks) {
     EXPECT_EQ(fault(tells + "echo oh >&2; exit 1\n"), "The installed ffmpeg makes no MP4 files with H264.");
     EXPECT_EQ(fault(tells + "kill -9 $$\n"), "The installed ffmpeg makes no MP4 files with H264.");
     EXPECT_NE(formatFault("mraw"), "");
-    EXPECT_EQ(formatFault("mp4") + formatFault("png"), "");
+    EXPECT_EQ(formatFault("png"), "");
 }
 
 TEST_F(SavingVideo, IsNoneWhenFramesAreMissing) {
