@@ -43,7 +43,7 @@ public:
     virtual bool isMediumLocked(int kind, const zeb::Medium& medium) const = 0;
     virtual bool hasMediumPassword(int kind, const zeb::Medium& medium) const = 0;
     /// The dialogs of a password: the one that opens the medium, true once it is open to all, and the one that gives
-    /// it a new one, false when it has none. Each runs an event loop until the user has closed it. `setMediumPassword`
+    /// it a new one, false when that failed. Each runs an event loop until the user has closed it. `setMediumPassword`
     /// answers nothing when the user has given up.
     virtual bool unlockMedium(int kind, const zeb::Medium& medium) = 0;
     virtual std::optional<bool> setMediumPassword(int kind, const zeb::Medium& medium) = 0;

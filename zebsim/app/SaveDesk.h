@@ -38,7 +38,7 @@ private:
     /// Tells the user when a save is under way.
     bool isBusy() const;
     /// The dialog of that name, and the save that comes of it.
-    void ask(const QString& dialog, const QString& title, const std::vector<SaveTrack>& tracks,
+    void ask(const QString& name, const QString& title, const std::vector<SaveTrack>& tracks,
              const QStringList& absent);
     /// A line for each camera whose last recording can't be saved.
     QStringList absentCameras() const;

@@ -50,7 +50,7 @@ struct SaveOrders {
 };
 
 /// Why files of a format, as "png" or "mraw", can't be written here at all, in the user's language; empty when they
-/// can. Of a video it may take a second or two.
+/// can. Of a video nothing is known before its formats were tried.
 QString formatFault(const QString& id);
 
 /// All that the preferences of `family`, as "export/", choose; without tracks. What can't be is as nobody has chosen

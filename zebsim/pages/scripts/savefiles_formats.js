@@ -37,7 +37,7 @@ const saveFormats = {
 
     // Why there can't be files of a format here.
     missing(format) {
-        const isShot = saveFamily === 'S' && ['avi', 'mov', 'mp4'].indexOf(format) >= 0;
+        const isShot = saveFamily === 'S' && VIDEO_KINDS.indexOf(format) >= 0;
         return isShot ? translate('A snapshot is one picture.') : app.formatFault(format);
     },
 
@@ -82,6 +82,6 @@ const saveFormats = {
     fault() {
         const format = saveOptions.value('format');
         const missing = this.missing(format);
-        return missing || (['avi', 'mov', 'mp4'].indexOf(format) >= 0 ? this.videoFault(format) : '');
+        return missing || (VIDEO_KINDS.indexOf(format) >= 0 ? this.videoFault(format) : '');
     }
 };

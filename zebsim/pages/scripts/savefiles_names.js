@@ -96,7 +96,7 @@ const saveNames = {
     ending() {
         const format = saveOptions.value('format');
         const suffix = { jpeg: 'jpg', tiff: 'tif' }[format] || format;
-        const isOneFile = ['avi', 'mov', 'mp4'].indexOf(format) >= 0 || saveFamily === 'S' ||
+        const isOneFile = VIDEO_KINDS.indexOf(format) >= 0 || saveFamily === 'S' ||
             (format === 'tiff' && saveOptions.value('tiff/multipage') === true);
         const digits = saveOptions.stored('filenameseqdigits', 'int');
         return (isOneFile ? '' : `_${'#'.repeat(digits)}`) + `.${suffix}`;

@@ -12,6 +12,8 @@ const saveFamily = savefile.isLayoutMode() ? 'L' : savefile.isSnapMode() ? 'S' :
 const SAVE_PREFIXES = { E: 'export/', C: 'convert/', S: 'snap/', L: 'layout/' };
 const savePrefix = SAVE_PREFIXES[saveFamily];
 
+const VIDEO_KINDS = ['avi', 'mov', 'mp4'];
+
 function translate(key) {
     return saveBridge.translate(key);
 }
@@ -36,7 +38,7 @@ const saveOptions = {
             byId(directory).innerHTML = part('directory_part', { DIRECTORY: directory, NUMBER: number });
             byId(directory).querySelector('.title').textContent = translate(title);
         });
-        byId('video').innerHTML = ['avi', 'mov', 'mp4'].map(kind => part('video_part', {
+        byId('video').innerHTML = VIDEO_KINDS.map(kind => part('video_part', {
             KIND: kind, LOSSY: kind === 'mp4' ? '!mp4/lossless' : ''
         })).join('');
         Array.from(byId('video').querySelectorAll('[data-kinds]'))
