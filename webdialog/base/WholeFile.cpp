@@ -117,3 +117,16 @@ QString whyNoPlainFile(const QString& path) {
     }
     return there.isDir() ? qt_error_string(EISDIR) : TextKey("it is not a regular file");
 }
+
+QString readPlainFile(const QString& path, qint64 most, QByteArray& out) {
+    QString why = whyNoPlainFile(path);
+    if (!why.isEmpty()) {
+        return why;
+    }
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) {
+        return file.errorString();
+    }
+    out = file.read(most);
+    return file.error() == QFileDevice::NoError ? QString() : file.errorString();
+}

@@ -15,3 +15,7 @@
 /// for ever. In the words of the system, or as a text that may be translated; empty for a file and for nothing. Any
 /// thread.
 QString whyNoPlainFile(const QString& path);
+
+/// Reads `out` from the file of its own at that path, at most `most` bytes: one more than is wanted shows that it is
+/// too large, for some files do not tell their size. Answers why it can't be read, in the same words. Any thread.
+[[nodiscard]] QString readPlainFile(const QString& path, qint64 most, QByteArray& out);

@@ -5,7 +5,6 @@
 
 #include <QCryptographicHash>
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -42,19 +41,16 @@ QString hexOf(const QByteArray& bytes) {
 
 /// Of a medium that was in the hands of others: a link would lead out of it.
 QByteArray bytesIn(const QString& path) {
-    QFile file(path);
-    const QFileInfo info(path);
-    const QString noFile = info.isSymLink() ? QString(TextKey("it is a link")) : whyNoPlainFile(path);
-    if (!noFile.isEmpty()) {
-        fail(path, noFile);
+    QByteArray bytes;
+    const QString why =
+        QFileInfo(path).isSymLink() ? QString(TextKey("it is a link")) : readPlainFile(path, MostBytes + 1, bytes);
+    if (!why.isEmpty()) {
+        fail(path, why);
     }
-    if (info.size() > MostBytes) {
+    if (bytes.size() > MostBytes) {
         fail(path, TextKey("it is too large"));
     }
-    if (!file.open(QIODevice::ReadOnly)) {
-        fail(path, file.errorString());
-    }
-    return file.read(MostBytes);
+    return bytes;
 }
 
 }  // namespace

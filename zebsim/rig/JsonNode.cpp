@@ -4,8 +4,6 @@
 #include "JsonParser.h"
 #include "WholeFile.h"
 
-#include <QFile>
-
 #include <cmath>
 
 namespace {
@@ -14,17 +12,13 @@ namespace {
     throw JsonError(path % QStringLiteral(": ") % reason);
 }
 
-/// No more of it than shows that it is too large: some files do not tell their size.
 QByteArray contentOf(const QString& path) {
-    const QString why = whyNoPlainFile(path);
+    QByteArray text;
+    const QString why = readPlainFile(path, JsonNode::MostBytes + 1, text);
     if (!why.isEmpty()) {
         refuse(path, why);
     }
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
-        refuse(path, file.errorString());
-    }
-    return file.read(JsonNode::MostBytes + 1);
+    return text;
 }
 
 QVariant plainOf(const JsonValue& value) {
