@@ -4,6 +4,7 @@
 #include "MediumDialog.h"
 #include "SimHost.h"
 #include "SizeText.h"
+#include "UiText.h"
 
 #include <QDir>
 #include <QJsonDocument>
@@ -12,13 +13,15 @@ namespace {
 
 QJsonObject recordOf(const Medium& medium, bool isOpen) {
     const zeb::Medium& place = medium.place();
-    const bool isCard = medium.kind() == RigMedium::SdCard;
     return {{"kind", medium.kind()},
             {"type", place.type},
             {"drive", place.drive},
             {"slot", place.slot},
             {"name", medium.name()},
-            {"drivename", isCard ? QString(QChar('A' + place.drive)) % QLatin1Char(':') : medium.name()},
+            {"drivename", medium.driveName()},
+            {"kindLabel", uiText(medium.kindOf().text)},
+            {"formattable", medium.kindOf().isFormattable},
+            {"hasPassword", medium.kindOf().canHavePassword},
             {"folder", QDir::toNativeSeparators(medium.folder())},
             {"open", isOpen},
             {"locked", medium.isLocked()},
@@ -37,10 +40,10 @@ JS_Mediator_MediaDialog::JS_Mediator_MediaDialog(SimHost& host)
 QString JS_Mediator_MediaDialog::getMedia() {
     return call(*this, Query, __func__, {}, [this] {
         QJsonArray records;
-        for (const int kind : {RigMedium::SdCard, int(zeb::QuikDrive), int(zeb::CFast)}) {
-            const MediaShelf::Held open = m_simHost.shelf().open(kind);
+        for (const MediumKind& kind : mediumKinds()) {
+            const MediaShelf::Held open = m_simHost.shelf().open(kind.kind);
             int recid = 0;
-            for (const MediaShelf::Held& medium : m_simHost.shelf().media(kind)) {
+            for (const MediaShelf::Held& medium : m_simHost.shelf().media(kind.kind)) {
                 QJsonObject record = recordOf(*medium, medium == open);
                 record.insert(QStringLiteral("recid"), recid++);
                 records.append(record);

@@ -13,7 +13,8 @@ public:
 
 public Q_SLOTS:
     /// A JSON array of the media that are there: `kind`, 0 for an SD card, `recid` in the list of its kind, `type`,
-    /// `drive`, `slot`, `name`, `drivename`, `folder`, whether it is `open`, `locked` and `protected`.
+    /// `drive`, `slot`, `name`, `drivename`, `folder`, whether it is `open`, `locked` and `protected`; `kindLabel` and
+    /// whether such a medium is `formattable` here and can have a password, `hasPassword`.
     QString getMedia();
     /// Room on one of them, as JSON: `used` and `capacity` in bytes, as texts too, as `usedLabel`.
     QString getUse(int kind, int type, int drive, int slot);

@@ -21,7 +21,7 @@ MediaMenu::MediaMenu(SimHost& host, AppWindows& windows, QMenu& menu) : QObject(
 void MediaMenu::fill(QMenu& menu) {
     menu.clear();
     for (const MediaShelf::Held& medium : m_host.shelf().media()) {
-        const QString text = uiText("%1 (%2)").arg(medium->name(), mediumKindText(medium->kind()));
+        const QString text = uiText("%1 (%2)").arg(medium->name(), uiText(medium->kindOf().text));
         // What it is called holds no keys.
         menu.addAction(QString(text).replace(QLatin1Char('&'), QLatin1String("&&")), this,
                        [this, medium] { m_host.shelf().pullOut(medium); });

@@ -3,6 +3,7 @@
 #include "ByteText.h"
 #include "DialogButtons.h"
 #include "DialogRun.h"
+#include "MediumKind.h"
 #include "SimHost.h"
 #include "UiText.h"
 
@@ -32,17 +33,6 @@ Widget* named(Widget* widget, const char* name) {
 
 }  // namespace
 
-QString mediumKindText(int kind) {
-    switch (kind) {
-        case zeb::QuikDrive:
-            return uiText("QUIK Drive");
-        case zeb::CFast:
-            return uiText("CFast");
-        default:
-            return uiText("SD card");
-    }
-}
-
 MediumDialog::MediumDialog(std::function<void(const RigMedium&)> putIn, QWidget* parent)
     : QDialog(parent),
       m_putIn(std::move(putIn)),
@@ -54,8 +44,8 @@ MediumDialog::MediumDialog(std::function<void(const RigMedium&)> putIn, QWidget*
       m_protected(named(new QCheckBox(uiText("Write protected"), this), "protected")),
       m_fault(named(new QLabel(this), "fault")) {
     setWindowTitle(uiText("Put in a medium"));
-    for (const int kind : {RigMedium::SdCard, int(zeb::QuikDrive), int(zeb::CFast)}) {
-        m_kind->addItem(mediumKindText(kind), kind);
+    for (const MediumKind& kind : mediumKinds()) {
+        m_kind->addItem(uiText(kind.text), kind.kind);
     }
     m_capacity->setPlaceholderText(uiText("As 8 GB; empty: all of the disk"));
     m_password->setEchoMode(QLineEdit::Password);

@@ -39,6 +39,3 @@ private:
 
 /// Runs the dialog until it is closed.
 void runMediumDialog(SimHost& host);
-
-/// What a medium of that kind is called in lists, as "SD card".
-QString mediumKindText(int kind);

@@ -1,12 +1,15 @@
 #include "Medium.h"
 
 #include "TextKey.h"
+#include "ZebMedia.h"
 
 #include <QDir>
 #include <QDirIterator>
 #include <QFile>
 #include <QFileInfo>
 #include <QStorageInfo>
+
+#include <sys/stat.h>
 
 #include <algorithm>
 #include <stdexcept>
@@ -32,6 +35,13 @@ QString madeFolder(const RigMedium& settings) {
         fail(settings.name, TextKey("this folder can't be a medium"));
     }
     return folder;
+}
+
+/// Tells a folder from another one that stands, or a link leads to, where it was.
+QPair<quint64, quint64> folderId(const QString& path) {
+    struct stat info {};
+    const bool isFolder = ::stat(QFile::encodeName(path), &info) == 0 && S_ISDIR(info.st_mode);
+    return isFolder ? qMakePair(quint64(info.st_dev), quint64(info.st_ino)) : qMakePair(quint64(0), quint64(0));
 }
 
 void addRecordings(const QString& folder, int levels, QStringList& paths) {
@@ -62,6 +72,7 @@ Medium::Medium(const RigMedium& settings, zeb::Medium place)
     : m_kind(settings.kind),
       m_place(std::move(place)),
       m_folder(madeFolder(settings)),
+      m_folderId(folderId(m_folder)),
       m_capacity(settings.capacity),
       m_isProtected(settings.isProtected),
       m_label(MediumLabel::read(m_folder)) {
@@ -74,7 +85,11 @@ Medium::Medium(const RigMedium& settings, zeb::Medium place)
 }
 
 bool Medium::isThere() const {
-    return m_isIn && QFileInfo(m_folder).isDir();
+    return m_isIn && m_folderId != QPair<quint64, quint64>() && folderId(m_folder) == m_folderId;
+}
+
+QString Medium::driveName() const {
+    return kindOf().isLettered ? zeb::driveLetter(m_place.drive) : name();
 }
 
 bool Medium::holds(const QString& path) const {

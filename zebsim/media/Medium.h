@@ -1,8 +1,10 @@
 #pragma once
 
+#include "MediumKind.h"
 #include "MediumLabel.h"
 #include "Rig.h"
 
+#include <QPair>
 #include <QStringList>
 
 #include <atomic>
@@ -20,11 +22,14 @@ public:
     int kind() const { return m_kind; }
     const zeb::Medium& place() const { return m_place; }
     const QString& name() const { return m_place.name; }
+    const MediumKind& kindOf() const { return mediumKinds()[std::size_t(m_kind)]; }
+    /// What plug-ins list it as: the letter of its drive, as "D:", or its name.
+    QString driveName() const;
     /// Without links in it. Any thread.
     const QString& folder() const { return m_folder; }
     /// Whether nothing may be written to it. Any thread.
     bool isProtected() const { return m_isProtected; }
-    /// False once it is pulled out, or its folder has gone. Any thread.
+    /// False once it is pulled out, or its folder has gone or is another one by now. Any thread.
     bool isThere() const;
     void pullOut() { m_isIn = false; }
     /// Whether `path`, without links, is in the folder. Any thread.
@@ -61,7 +66,8 @@ private:
 
     const int m_kind;
     const zeb::Medium m_place;
-    QString m_folder;
+    const QString m_folder;
+    const QPair<quint64, quint64> m_folderId;
     const qint64 m_capacity;
     const bool m_isProtected;
     std::atomic<bool> m_isIn{true};

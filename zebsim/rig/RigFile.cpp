@@ -4,6 +4,7 @@
 #include "DeviceAddress.h"
 #include "JsonError.h"
 #include "JsonNode.h"
+#include "MediumKind.h"
 #include "ModelCatalogue.h"
 #include "PlainState.h"
 
@@ -58,15 +59,15 @@ public:
 
     /// Its folder begins in that of the rig file.
     static RigMedium readMedium(const JsonNode& node, const QDir& home) {
-        static const QStringList kinds = {QStringLiteral("sd"), QStringLiteral("quikDrive"), QStringLiteral("cfast")};
         node.allowOnly({QStringLiteral("kind"), QStringLiteral("name"), QStringLiteral("folder"),
                         QStringLiteral("capacity"), QStringLiteral("password"), QStringLiteral("protected")});
         RigMedium medium;
-        const JsonNode kind = node.member(QStringLiteral("kind"));
-        medium.kind = int(kinds.indexOf(kind.text()));
-        if (medium.kind < 0) {
-            kind.fail(QStringLiteral("one of %1 is expected").arg(kinds.join(QStringLiteral(", "))));
+        const JsonNode word = node.member(QStringLiteral("kind"));
+        const MediumKind* kind = mediumKind(word.text());
+        if (kind == nullptr) {
+            word.fail(QStringLiteral("one of %1 is expected").arg(mediumWords()));
         }
+        medium.kind = kind->kind;
         medium.name = node.member(QStringLiteral("name")).text();
         const JsonNode folder = node.member(QStringLiteral("folder"));
         if (folder.text().isEmpty()) {

@@ -13,12 +13,12 @@ namespace {
 const QString Filled = QStringLiteral("filled");
 const QString In = QStringLiteral("in");
 
-int kindOf(const QString& kind) {
-    static const QStringList kinds = {QStringLiteral("sd"), QStringLiteral("quikDrive"), QStringLiteral("cfast")};
-    if (!kinds.contains(kind)) {
-        throw ScenarioError(QStringLiteral("no kind of medium is \"%1\", but %2").arg(kind, kinds.join(", ")));
+int kindOf(const QString& word) {
+    const MediumKind* kind = mediumKind(word);
+    if (kind == nullptr) {
+        throw ScenarioError(QStringLiteral("no kind of medium is \"%1\", but %2").arg(word, mediumWords()));
     }
-    return kinds.indexOf(kind);
+    return kind->kind;
 }
 
 RigMedium settingsOf(int kind, const QVariantMap& members, const QString& home) {
@@ -94,6 +94,12 @@ QVariant MediumScripting::medium(const QString& kind, const QVariantMap& members
     }
     if (!held && members.value(QStringLiteral("folder")).toString().isEmpty()) {
         throw ScenarioError(QStringLiteral("a medium that is put in needs a folder"));
+    }
+    for (const char* member : {"capacity", "password", "protected"}) {
+        if (held && members.contains(QLatin1String(member))) {
+            throw ScenarioError(QStringLiteral("%1 of a medium that is in needs its folder: it is put in anew")
+                                    .arg(QLatin1String(member)));
+        }
     }
     try {
         held = held ? held : shelf.putIn(settingsOf(number, members, m_folder));
