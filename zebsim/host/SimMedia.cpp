@@ -18,9 +18,7 @@
 
 namespace {
 
-QString letterOf(int drive) {
-    return QChar('A' + drive) % QStringLiteral(":");
-}
+constexpr int LookMs = 1000;
 
 }  // namespace
 
@@ -32,6 +30,8 @@ SimMedia::SimMedia(const HostContext& host) : m_host(host), m_docs(host) {
     });
     QObject::connect(&host.events, &HostEvents::mediaChanged, &m_watch, [this] { m_host.updates.request(); });
     QObject::connect(&host.events, &HostEvents::updateFinished, &m_watch, [this] { m_host.shelf.lookAround(); });
+    QObject::connect(&m_look, &QTimer::timeout, &m_watch, [this] { m_host.shelf.lookAround(); });
+    m_look.start(LookMs);
 }
 
 void SimMedia::refuse(const QString& text, const QString& medium) const {
@@ -41,9 +41,18 @@ void SimMedia::refuse(const QString& text, const QString& medium) const {
 MediaShelf::Held SimMedia::there(int kind, const zeb::Medium& medium) const {
     MediaShelf::Held held = m_host.shelf.find(kind, medium);
     if (!held) {
-        refuse(TextKey("%1 is not there any more."), medium.name);
+        // Whoever lost it may know no more than its place.
+        const QString text = m_host.translator.translate(mediumKinds()[std::size_t(kind)].text);
+        const QString place = QStringLiteral("%1 %2").arg(text).arg(medium.drive);
+        refuse(TextKey("%1 is not there any more."), medium.name.isEmpty() ? place : medium.name);
     }
     return held;
+}
+
+void SimMedia::checkThere(const MediaShelf::Held& medium) const {
+    if (!medium->isThere()) {
+        refuse(TextKey("%1 is not there any more."), medium->name());
+    }
 }
 
 QList<zeb::Medium> SimMedia::getMedia(int kind) const {
@@ -87,7 +96,7 @@ bool SimMedia::getOpenSdDrive(int& drive) const {
 
 void SimMedia::openSdDrive(int drive) {
     m_host.calls.change(OPERATION("ZebDocManager::openSdDrive"), {drive});
-    const MediaShelf::Held card = there(RigMedium::SdCard, {RigMedium::SdCard, drive, 0, letterOf(drive)});
+    const MediaShelf::Held card = there(RigMedium::SdCard, {RigMedium::SdCard, drive, 0, zeb::driveLetter(drive)});
     if (!card->isLocked() || unlock(card)) {
         open(card);
     }
@@ -107,10 +116,15 @@ void SimMedia::close(int kind) {
 
 bool SimMedia::formatMedium(int kind, const zeb::Medium& medium) {
     m_host.calls.change(OPERATION("ZebMedia::formatMedium"), {kind, medium.name});
-    const MediaShelf::Held held = m_host.shelf.find(kind, medium);
-    if (!held || held->isProtected() || held->isLocked()) {
-        qWarning().noquote() << medium.name << "was not formatted: it is gone, write protected or locked";
-        return false;
+    const MediaShelf::Held held = there(kind, medium);
+    if (!held->kindOf().isFormattable) {
+        refuse(TextKey("%1 is formatted in its camera."), held->name());
+    }
+    if (held->isProtected()) {
+        refuse(TextKey("%1 is write protected."), held->name());
+    }
+    if (held->isLocked()) {
+        refuse(TextKey("%1 is locked by a password."), held->name());
     }
     if (m_host.shelf.open(kind) == held) {
         close(kind);
@@ -122,10 +136,12 @@ bool SimMedia::formatMedium(int kind, const zeb::Medium& medium) {
     m_host.docs.endTurn();
     m_host.windows->runProgress(text, work);
     work.waitForFinished();
-    if (held->isThere()) {
-        held->noteErased(used - held->use().used);
-    }
     m_host.updates.request();
+    checkThere(held);
+    held->noteErased(used - held->use().used);
+    if (!work.result()) {
+        qWarning().noquote() << held->name() << "was not erased whole";
+    }
     return work.result();
 }
 
@@ -158,9 +174,7 @@ bool SimMedia::unlock(const MediaShelf::Held& medium) {
     if (!m_host.windows->askPassword(medium->name(), fits)) {
         return false;
     }
-    if (!medium->isThere()) {
-        refuse(TextKey("%1 is not there any more."), medium->name());
-    }
+    checkThere(medium);
     medium->unlock();
     m_host.updates.request();
     return true;
@@ -178,6 +192,7 @@ std::optional<bool> SimMedia::setMediumPassword(int kind, const zeb::Medium& med
     if (!password) {
         return std::nullopt;
     }
+    checkThere(held);
     try {
         held->setPassword(*password);
     } catch (const std::exception& e) {

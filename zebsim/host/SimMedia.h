@@ -5,7 +5,7 @@
 #include "MediumDocs.h"
 #include "ZebMedia.h"
 
-#include <QObject>
+#include <QTimer>
 
 /// The storage media of the shelf, as plug-ins and pages reach them. The recordings of one that is pulled out are no
 /// documents any more, and the user is told.
@@ -17,13 +17,14 @@ public:
     bool getOpenMedium(int kind, zeb::Medium& out) const override;
     void openMedium(int kind, const zeb::Medium& medium) override;
     void closeMedium(int kind) override;
-    /// One that is write protected or locked stays as it is; the log says so. An open one is closed.
+    /// Throws why one that is gone, write protected or locked, or an SD card, stays as it is. An open one is closed.
     bool formatMedium(int kind, const zeb::Medium& medium) override;
     zeb::MediumUse getMediumUse(int kind, const zeb::Medium& medium) const override;
 
     bool isMediumLocked(int kind, const zeb::Medium& medium) const override;
     bool hasMediumPassword(int kind, const zeb::Medium& medium) const override;
     bool unlockMedium(int kind, const zeb::Medium& medium) override;
+    /// Throws when it has gone.
     std::optional<bool> setMediumPassword(int kind, const zeb::Medium& medium) override;
 
     void importDocs(const DocKeyList& keys) override;
@@ -42,10 +43,13 @@ private:
     MediaShelf::Held there(int kind, const zeb::Medium& medium) const;
     bool unlock(const MediaShelf::Held& medium);
     void open(const MediaShelf::Held& medium);
+    void checkThere(const MediaShelf::Held& medium) const;
     [[noreturn]] void refuse(const QString& text, const QString& medium) const;
 
     const HostContext& m_host;
     MediumDocs m_docs;
+    /// A folder can go without a word.
+    QTimer m_look;
     /// Ends what this object is told of.
     QObject m_watch;
 };

@@ -2,6 +2,7 @@
 
 #include "HostEvents.h"
 #include "TextKey.h"
+#include "ZebMedia.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -16,10 +17,6 @@ constexpr int FirstLetter = 'D' - 'A';
 constexpr int LastLetter = 'Z' - 'A';
 constexpr int FirstDrive = 1;
 constexpr int LastDrive = 16;
-
-bool isSamePlace(const zeb::Medium& left, const zeb::Medium& right) {
-    return left.type == right.type && left.drive == right.drive && left.slot == right.slot;
-}
 
 [[noreturn]] void refuse(const QString& reason, const QString& medium) {
     throw std::runtime_error(QString(medium % QStringLiteral(": ") % reason).toStdString());
@@ -58,12 +55,16 @@ MediaShelf::Held MediaShelf::putIn(const RigMedium& settings) {
     if (find(settings.kind, settings.name)) {
         refuse(TextKey("a medium of that name is in already"), settings.name);
     }
-    const auto medium = std::make_shared<Medium>(settings, freePlace(settings));
+    // Before its folder is made.
+    const QString around = nearestFolder(settings.folder);
+    const QString folder = QFileInfo(settings.folder).canonicalFilePath();
     for (const Held& other : media()) {
-        if (other->holds(medium->folder()) || medium->holds(other->folder())) {
+        const bool holdsOther = !folder.isEmpty() && other->folder().startsWith(folder % QLatin1Char('/'));
+        if (other->holds(around) || holdsOther) {
             refuse(TextKey("its folder belongs to another medium"), settings.name);
         }
     }
+    const auto medium = std::make_shared<Medium>(settings, freePlace(settings));
     {
         const std::lock_guard lock(m_mutex);
         m_media.push_back(medium);
@@ -125,7 +126,7 @@ std::vector<MediaShelf::Held> MediaShelf::held(int kind) const {
 
 MediaShelf::Held MediaShelf::find(int kind, const zeb::Medium& place) const {
     for (const Held& medium : media(kind)) {
-        if (isSamePlace(medium->place(), place)) {
+        if (zeb::isSamePlace(medium->place(), place)) {
             return medium;
         }
     }
