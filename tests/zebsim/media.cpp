@@ -86,7 +86,10 @@ TEST_F(Media, GoAtAnyStep) {
     EXPECT_EQ(held->recordings().size(), 2) << "nothing is erased of what is out";
     const auto drive = int(held->place().drive);
     EXPECT_EQ(thrownBy([&] { host.host.docManager().openSdDrive(drive); }), "D: is not there any more.");
-    EXPECT_FALSE(media().formatMedium(RigMedium::SdCard, held->place()));
+    EXPECT_EQ(thrownBy([&] {
+                  media().formatMedium(RigMedium::SdCard, {0, drive, 0, {}});
+              }),
+              "SD card 3 is not there any more.");
 
     putIn({RigMedium::SdCard, "CARD", path("card"), 0, {}, false});
     open();
@@ -94,6 +97,16 @@ TEST_F(Media, GoAtAnyStep) {
     EXPECT_EQ(shelf().media().size(), 0u);
     shelf().lookAround();
     EXPECT_EQ(listed(), DocKeyList()) << "a folder that is deleted is a medium that was pulled out";
+
+    QDir().mkpath(path("outside"));
+    write(path("outside/file"), "kept");
+    const MediaShelf::Held fast = putIn({zeb::CFast, "Fast", path("fast"), 0, {}, false});
+    QFile::rename(path("fast"), path("moved"));
+    QFile::link(path("outside"), path("fast"));
+    EXPECT_FALSE(fast->erase());
+    EXPECT_EQ(thrownBy([&] { fast->setDataName(path("fast/file"), "x"); }), "Fast: it is not there any more");
+    EXPECT_EQ(thrownBy([&] { media().formatMedium(zeb::CFast, fast->place()); }), "Fast is not there any more.");
+    EXPECT_EQ(below("outside"), QStringList("file")) << "and so is one that another has taken the place of";
 }
 
 TEST_F(Media, CostASaveWhatItReadsFromThem) {
@@ -120,7 +133,7 @@ TEST_F(Media, AreOpenedByTheirPasswordAlone) {
     const zeb::Medium place = putIn(settings)->place();
     EXPECT_TRUE(media().isMediumLocked(zeb::QuikDrive, place));
     EXPECT_EQ(thrownBy([&] { media().openMedium(zeb::QuikDrive, place); }), "Quik is locked by a password.");
-    EXPECT_FALSE(media().formatMedium(zeb::QuikDrive, place));
+    EXPECT_EQ(thrownBy([&] { media().formatMedium(zeb::QuikDrive, place); }), "Quik is locked by a password.");
     typed = "wrong";
     EXPECT_FALSE(media().unlockMedium(zeb::QuikDrive, place));
     EXPECT_EQ(media().setMediumPassword(zeb::QuikDrive, place), std::nullopt) << "the old one is asked for";
@@ -147,14 +160,19 @@ TEST_F(Media, AreErasedInTheirFolderAlone) {
     write(path("outside/file"), "kept");
     QFile::link(path("outside"), path("card/sub/link"));
     QFile::link(path("outside/file"), path("card/.hidden"));
-    open()->storage().convertDataName("Crash", 2, false);
-    const qint64 used = card()->use().used;
-    EXPECT_TRUE(media().formatMedium(RigMedium::SdCard, card()->place()));
+    EXPECT_EQ(thrownBy([&] { media().formatMedium(RigMedium::SdCard, card()->place()); }),
+              "CARD is formatted in its camera.");
+    shelf().pullOut(card());
+    const MediaShelf::Held fast = putIn({zeb::CFast, "CARD", path("card"), 1 << 20, {}, false});
+    media().openMedium(zeb::CFast, fast->place());
+    host.doc(listed()[0])->storage().convertDataName("Crash", 2, false);
+    const qint64 used = fast->use().used;
+    EXPECT_TRUE(media().formatMedium(zeb::CFast, fast->place()));
     EXPECT_EQ(below("card"), QStringList(".zebsim-medium"));
     EXPECT_EQ(below("outside"), QStringList("file"));
     EXPECT_EQ(listed(), DocKeyList());
     EXPECT_GT(used, 0);
-    EXPECT_EQ(card()->use().written, used) << "what was written to it stays known";
+    EXPECT_EQ(fast->use().written, used) << "what was written to it stays known";
     EXPECT_FALSE(contentOf(path("card/.zebsim-medium")).contains("Crash"));
 }
 
@@ -167,14 +185,64 @@ TEST_F(Media, NameCompareAndDeleteTheirRecordings) {
     const QVariantMap record{{"datano", 1}, {"serialno", "192.168.0.11"}};
     const QVariantMap gone{{"datano", 9}, {"serialno", "192.168.0.11"}};
     media().checkSaved({record, gone}, path("card"));
-    EXPECT_EQ(host.desk.shown.last().list,
-              (QStringList{"Gate, Gate.cih: saved", "9: the recording is not there any more"}));
-    media().checkSaved({record}, folder.path() + "/none");
-    EXPECT_EQ(host.desk.shown.last().list, QStringList("Gate, Gate.cih: not saved"));
-    EXPECT_TRUE(gate().deleteFile());
+    EXPECT_EQ(host.desk.shown.last().list, (QStringList{"Gate, Gate.cih: saved nowhere but on its medium",
+                                                        "9: the recording is not there any more"}));
+    write(path("card/sub/Gate.cih"), contentOf(path("card/sub/Gate.cih")).replace("1000", "500"));
+    media().openFiles({path("card/sub/Gate.cih")});
+    EXPECT_TRUE(host.desk.shown.last().list.join("").contains("Gate.cih has changed since it was opened."));
+    EXPECT_TRUE(gate().deleteFile()) << "the file that tells of it may be another by now";
     EXPECT_EQ(below("card").filter("Gate"), QStringList());
     EXPECT_EQ(listed().size(), 1);
     EXPECT_EQ(below("card").filter("Nozzle").size(), 4);
+}
+
+TEST_F(Media, KnowWhichOfTheirFramesAreSaved) {
+    const auto save = [this](DOCKEY key, const QString& name, int step, int first, int last) {
+        if (key == 1) {
+            prepare(1, "Gate", first, last);
+        }
+        SaveOrders all{saveFormat("png"), tracksOfEach(saveSources(host.host.cameras(), {key}))};
+        all.hasInformation = true;
+        all.tracks[0].step = step;
+        all.tracks[0].stem = path(name);
+        EXPECT_EQ(run(all).filter("saved").size(), 1);
+    };
+    const auto copy = [&](int step, int first, int last) { save(1, "copies/Copy", step, first, last); };
+    const auto replaceIn = [](const QString& file, const char* from, const char* to) {
+        write(file, contentOf(file).replace(from, to));
+    };
+    const QString fifth = path("copies/Copy_-00095.png");
+    const zeb::Medium place = putIn({zeb::CFast, "Fast", path("fast"), 0, {}, false})->place();
+    const struct {
+        const char* sentence;
+        int step;
+        std::function<void()> copy;
+        const char* told;
+    } cases[] = {
+        {"all", 1, [&] { copy(1, 0, 12); }, "saved"},
+        {"every other", 1, [&] { copy(2, 0, 12); }, "saved in part, without the frames 1, 3, ..., 11"},
+        {"from the middle", 1, [&] { copy(1, 2, 11); }, "saved in part, without the frames 0-1, 12"},
+        {"one gone", 1, [&] { copy(1, 0, 12), QFile::remove(fifth); }, "saved in part, without the frames 5"},
+        {"one a link", 1, [&] { copy(1, 0, 12), QFile::rename(fifth, path("x")), QFile::link(path("x"), fifth); },
+         "saved in part, without the frames 5"},
+        {"all of what was thinned out", 2, [&] { copy(1, 0, 12); }, "saved"},
+        {"the thinned out one imported", 2, [&] { save(listed()[0], "copies/Copy", 1, 0, 0); }, "saved"},
+        {"and half of it", 2, [&] { save(listed()[0], "copies/Copy", 3, 0, 0); },
+         "saved in part, without the frames 1-2, 4-5"},
+        {"none", 1, [] {}, "not saved"},
+        {"one at another rate", 1, [&] { copy(1, 0, 12), replaceIn(path("copies/Copy.cih"), "1000", "500"); },
+         "not saved"},
+    };
+    for (const auto& one : cases) {
+        save(1, "fast/Gate", one.step, 0, 12);
+        media().openMedium(zeb::CFast, place);
+        one.copy();
+        media().checkSaved({QVariantMap{{"datano", 1}, {"serialno", "192.168.0.11"}}}, path("copies"));
+        EXPECT_EQ(host.desk.shown.last().list, QStringList(QString("Gate, Gate.cih: ") + one.told)) << one.sentence;
+        media().closeMedium(zeb::CFast);
+        media().formatMedium(zeb::CFast, place);
+        QDir(path("copies")).removeRecursively();
+    }
 }
 
 TEST_F(Media, TakeNothingThatTheyHaveNoRoomFor) {
@@ -212,7 +280,7 @@ TEST_F(Media, AreRefusedWithWhy) {
         const char* why;
     } cases[] = {{" ", path("a"), "a medium needs a name"},
                  {"CARD", path("a"), "a medium of that name is in already"},
-                 {"In", path("card/sub"), "its folder belongs to another medium"},
+                 {"In", path("card/sub/in"), "its folder belongs to another medium"},
                  {"Around", folder.path(), "its folder belongs to another medium"},
                  {"File", path("file"), "its folder can't be made"},
                  {"All", "/", "this folder can't be a medium"},
@@ -227,6 +295,7 @@ TEST_F(Media, AreRefusedWithWhy) {
         EXPECT_TRUE(QString::fromStdString(why).endsWith(QString(": ") + one.why)) << one.name << ": " << why;
     }
     EXPECT_EQ(shelf().media().size(), 1u);
+    EXPECT_FALSE(QDir(path("card/sub/in")).exists()) << "nothing is made for what is refused";
 }
 
 }  // namespace

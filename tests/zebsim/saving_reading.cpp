@@ -1,7 +1,7 @@
 #include "FileError.h"
 #include "FileRecording.h"
 #include "Files.h"
-#include "InformationFile.h"
+#include "InformationReader.h"
 #include "TargetDisk.h"
 #include "support/SavingTest.h"
 
@@ -129,6 +129,7 @@ TEST_F(SavingReading, NumbersAnewWhatWasThinnedOut) {
         SaveOrders all = ordersOf("bmp");
         all.tracks[0].step = one.step;
         save(all);
+        EXPECT_EQ(QString(readInformation(path("Gate.cih")).toJson()), QString(contentOf(path("Gate.cih"))));
         const Recording read = recordingOf(open());
         EXPECT_EQ(QList<int>({read.first, read.last, int(read.rate), read.trigger, read.zero}), one.expected)
             << one.step;
@@ -146,6 +147,8 @@ TEST_F(SavingReading, RefusesWhatItCannotTrust) {
         return thrownBy([this] { readInformation(path("Gate.cih")); });
     };
     EXPECT_EQ(refusal(good), "");
+    EXPECT_EQ(refusal(QByteArray(good).replace("\"bits\"", "\"later\": {}, \"bits\"")), "")
+        << "unknown to this version";
     for (int size = 0; size < good.size() - 3; size += 7) {
         EXPECT_EQ(refusal(good.left(size)).find(path("Gate.cih").toStdString()), 0U) << size;
     }
@@ -173,6 +176,9 @@ TEST_F(SavingReading, RefusesWhatItCannotTrust) {
         {"\"last\":100", "\"last\":98", "saved.last: a whole number"},
         {"\"last\":100", "\"last\":1000000000", "no recording is that long"},
         {"\"last\":100", "\"last\":101", "files: 3 names are expected"},
+        {"\"range\": [0,", "\"range\": [100,", "range: the frames that were saved are not in it"},
+        {"\"date\": \"", "\"date\": \"x", "date: a date"},
+        {"Gate_-00001.bmp", "Gate_00000.bmp", "files: a name stands there twice"},
         {"\"trigger\": 100", "\"trigger\": 1e10", "trigger: a whole number"},
         {"\"partition\": 1", "\"partition\": 0", "partition: a whole number"},
         {"\"items\": []", "\"items\": [{\"value\":\"x\"}]", "items: "},

@@ -5,6 +5,7 @@
 #include "FileRecording.h"
 #include "HostContext.h"
 #include "HostMessages.h"
+#include "InformationReader.h"
 #include "JsonError.h"
 #include "Notices.h"
 #include "SimAppStatus.h"
@@ -34,24 +35,38 @@ FileDocs::Opened FileDocs::open(const QStringList& paths, bool isHidden) {
     for (const QString& path : paths) {
         const QString canonical = QFileInfo(path).canonicalFilePath();
         const QString file = canonical.isEmpty() ? path : canonical;
-        if (there.contains(file)) {
-            opened.keys.append(there[file]);
-            continue;
-        }
         try {
-            const FileRecording recording = FileRecording::open(file, disk);
-            opened.keys.append(m_host.cameras.addFile(recording.device, !isHidden));
-            there.insert(file, opened.keys.last());
-            if (recording.missing > 0) {
-                opened.incomplete.append(opened.keys.last());
-                const QString text = m_host.translator.translate(TextKey("%1: %2 of its files are missing"));
-                opened.faults.append(text.arg(QDir::toNativeSeparators(path), QString::number(recording.missing)));
+            if (there.contains(file)) {
+                opened.keys.append(there[file]);
+                checkUnchanged(there[file], file);
+            } else {
+                openOne(file, disk, isHidden, opened);
+                there.insert(file, opened.keys.last());
             }
         } catch (const JsonError& e) {
             opened.faults.append(QString::fromUtf8(e.what()));
         }
     }
     return opened;
+}
+
+void FileDocs::openOne(const QString& path, TargetDisk& disk, bool isHidden, Opened& opened) {
+    const FileRecording recording = FileRecording::open(path, disk);
+    const DOCKEY key = m_host.cameras.addFile(recording.device, !isHidden);
+    m_told.insert(key, recording.told);
+    opened.keys.append(key);
+    if (recording.missing > 0) {
+        opened.incomplete.append(key);
+        const QString text = m_host.translator.translate(TextKey("%1: %2 of its files are missing"));
+        opened.faults.append(text.arg(QDir::toNativeSeparators(path), QString::number(recording.missing)));
+    }
+}
+
+void FileDocs::checkUnchanged(DOCKEY key, const QString& path) const {
+    if (readInformation(path).toJson() != m_told[key].toJson()) {
+        const QString text = TextKey("%1 has changed since it was opened. Close it and open it again.");
+        throw JsonError(m_host.translator.translate(text).arg(QDir::toNativeSeparators(path)));
+    }
 }
 
 void FileDocs::openAndShow(const QStringList& paths) {
@@ -74,6 +89,9 @@ void FileDocs::openAndShow(const QStringList& paths) {
 
 void FileDocs::close(const DocKeyList& keys) {
     m_host.cameras.removeFiles(keys);
+    for (const DOCKEY key : keys) {
+        m_told.remove(key);
+    }
     m_host.updates.request();
 }
 

@@ -1,10 +1,12 @@
 #pragma once
 
+#include "InformationFile.h"
 #include "ZebTypes.h"
 
 #include <QHash>
 #include <QStringList>
 
+class TargetDisk;
 struct HostContext;
 
 /// The recordings in files that are open as documents. GUI thread.
@@ -21,18 +23,24 @@ public:
         /// A line for each that could not be opened, or of which files are missing.
         QStringList faults;
     };
-    /// Opens those that are not open yet, by the files that tell of them. The others are listed in file mode;
-    /// `isHidden` ones are known by their keys alone, and always opened anew.
+    /// Opens those that are not open yet, by the files that tell of them; one that tells something else by now is a
+    /// fault. They are listed in file mode; `isHidden` ones are known by their keys alone, and always opened anew.
     Opened open(const QStringList& paths, bool isHidden = false);
     /// The user's own: tells what can't be opened, and goes into file mode when something is open, unless a recording
     /// is under way.
     void openAndShow(const QStringList& paths);
+    /// What stood in the file that tells of one that is open.
+    RecordingInformation told(DOCKEY key) const { return m_told.value(key); }
     void close(const DocKeyList& keys);
     void closeAll();
 
 private:
     /// By the paths of the files that tell of them.
     QHash<QString, DOCKEY> present() const;
+    void openOne(const QString& path, TargetDisk& disk, bool isHidden, Opened& opened);
+    /// Throws `JsonError` when its file tells something else, or nothing.
+    void checkUnchanged(DOCKEY key, const QString& path) const;
 
     const HostContext& m_host;
+    QHash<DOCKEY, RecordingInformation> m_told;
 };

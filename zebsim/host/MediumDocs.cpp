@@ -6,7 +6,7 @@
 #include "FileDocs.h"
 #include "HostContext.h"
 #include "HostMessages.h"
-#include "InformationFile.h"
+#include "SavedCheck.h"
 #include "SimDocManager.h"
 #include "TextKey.h"
 #include "Translator.h"
@@ -23,28 +23,6 @@ QString sourceOf(const Camera& camera) {
     return camera.get(&CameraState::sourceFile);
 }
 
-QString driveName(const Medium& medium) {
-    return medium.kind() == RigMedium::SdCard ? QString(QChar('A' + medium.place().drive) % QLatin1Char(':'))
-                                              : medium.name();
-}
-
-bool areAllThere(const RecordingInformation& information, const QString& folder) {
-    return std::all_of(information.files.begin(), information.files.end(),
-                       [&folder](const QString& name) { return QFileInfo::exists(QDir(folder).filePath(name)); });
-}
-
-/// How much of a recording another one is, which was made of it if it is the same.
-enum class Part { None, Some, All };
-Part partOf(const RecordingInformation& whole, const RecordingInformation& saved) {
-    const Recording& of = whole.recording;
-    const Recording& part = saved.recording;
-    if (whole.camera != saved.camera || whole.address != saved.address || of.partition != part.partition ||
-        of.rate != part.rate || of.trigger != part.trigger || part.first > of.last || part.last < of.first) {
-        return Part::None;
-    }
-    return part.first <= of.first && part.last >= of.last ? Part::All : Part::Some;
-}
-
 }  // namespace
 
 void MediumDocs::open(const MediaShelf::Held& medium) {
@@ -55,12 +33,12 @@ void MediumDocs::open(const MediaShelf::Held& medium) {
         if (!camera) {
             continue;
         }
-        const QDateTime date = readInformation(sourceOf(*camera)).date;
+        const QDateTime date = m_host.docs.files().told(key).date;
         zeb::MediumData data;
         data.fileName = QFileInfo(sourceOf(*camera)).fileName();
         data.cameraName = camera->name();
         data.deviceName = camera->model().name;
-        data.driveName = driveName(*medium);
+        data.driveName = medium->driveName();
         data.serialNo = camera->address();
         data.dataNo = ++number;
         data.slot = medium->place().slot;
@@ -134,60 +112,58 @@ bool MediumDocs::remove(const Camera& camera) {
         return false;
     }
     const QString path = sourceOf(camera);
-    QStringList files;
-    for (const QString& name : readInformation(path).files) {
-        files.append(QDir(QFileInfo(path).path()).filePath(name));
+    const QDir folder = QFileInfo(path).dir();
+    if (folder.canonicalPath() != folder.path()) {
+        throw CameraError(camera.name(), TextKey("another folder has taken the place of the one with its files"));
     }
+    const DOCKEY key = camera.key();
     const qint64 used = medium->use().used;
-    const auto isLeft = [](const QString& file) {
+    const QStringList files = m_host.docs.files().told(key).files;
+    const auto isLeft = [&folder](const QString& name) {
+        const QString file = folder.filePath(name);
         return (QFileInfo::exists(file) || QFileInfo(file).isSymLink()) && !QFile::remove(file);
     };
     const bool isGone = std::count_if(files.begin(), files.end(), isLeft) == 0 && QFile::remove(path);
-    medium->noteErased(used - medium->use().used);
     if (isGone) {
-        m_docs.remove(camera.key());
-        m_host.docs.files().close({camera.key()});
+        m_docs.remove(key);
+        m_host.docs.files().close({key});
     }
+    medium->noteErased(used - medium->use().used);
     return isGone;
 }
 
 void MediumDocs::checkSaved(const QVariantList& records, const QString& folder) const {
     QStringList lines;
-    const QStringList saved = recordingsBelow(folder);
+    const SavedCheck check(folder);
+    const DocKeyList all = keys();
     for (const QVariant& value : records) {
         const QVariantMap record = value.toMap();
-        const DocKeyList all = keys();
         const auto found = std::find_if(all.begin(), all.end(), [&](DOCKEY key) {
             const zeb::MediumData& data = m_docs[key].data;
             return data.dataNo == record.value(QStringLiteral("datano")).toInt() &&
                    data.serialNo == record.value(QStringLiteral("serialno")).toString();
         });
-        lines.append(lineOf(found != all.end() ? *found : zeb::NoDocKey, record, saved));
+        lines.append(lineOf(found != all.end() ? *found : zeb::NoDocKey, record, check));
     }
     const QString text = TextKey("Compared with what is saved in %1:");
     m_host.messages.tell(Message::Info, m_host.translator.translate(text).arg(QDir::toNativeSeparators(folder)), lines);
 }
 
-QString MediumDocs::lineOf(DOCKEY key, const QVariantMap& record, const QStringList& saved) const {
+QString MediumDocs::lineOf(DOCKEY key, const QVariantMap& record, const SavedCheck& check) const {
+    const MediaShelf::Held medium = mediumOf(key);
     const auto camera = m_host.cameras.hold(key);
-    if (!camera) {
+    if (!camera || !medium) {
         const QString gone = TextKey("%1: the recording is not there any more");
         return m_host.translator.translate(gone).arg(record.value(QStringLiteral("datano")).toString());
     }
-    const RecordingInformation whole = readInformation(sourceOf(*camera));
-    Part best = Part::None;
-    for (const QString& path : saved) {
-        try {
-            const RecordingInformation information = readInformation(path);
-            if (areAllThere(information, QFileInfo(path).path())) {
-                best = std::max(best, partOf(whole, information));
-            }
-        } catch (const std::exception&) {
-            // It is no recording of this program.
-        }
+    const SavedCheck::Result result = check.of(m_host.docs.files().told(key), *medium);
+    const QString name = camera->name() % QStringLiteral(", ") % m_docs[key].data.fileName;
+    if (result.saved > 0 && !result.isWhole()) {
+        const QString part = TextKey("%1: saved in part, without the frames %2");
+        return m_host.translator.translate(part).arg(name, result.missing());
     }
-    const QString text = best == Part::All    ? TextKey("%1: saved")
-                         : best == Part::Some ? TextKey("%1: saved in part")
-                                              : TextKey("%1: not saved");
-    return m_host.translator.translate(text).arg(camera->name() % QStringLiteral(", ") % m_docs[key].data.fileName);
+    const QString text = result.isWhole()    ? TextKey("%1: saved")
+                         : result.isOnMedium ? TextKey("%1: saved nowhere but on its medium")
+                                             : TextKey("%1: not saved");
+    return m_host.translator.translate(text).arg(name);
 }

@@ -9,6 +9,7 @@
 #include <optional>
 
 class Camera;
+class SavedCheck;
 struct HostContext;
 
 /// The recordings on the media that are open, which are documents. GUI thread.
@@ -40,7 +41,7 @@ private:
         zeb::MediumData data;
     };
     MediaShelf::Held mediumOf(DOCKEY key) const;
-    QString lineOf(DOCKEY key, const QVariantMap& record, const QStringList& saved) const;
+    QString lineOf(DOCKEY key, const QVariantMap& record, const SavedCheck& check) const;
 
     const HostContext& m_host;
     QHash<DOCKEY, Doc> m_docs;

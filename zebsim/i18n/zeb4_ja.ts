@@ -3088,10 +3088,6 @@
         <translation>%1: 保存済み</translation>
     </message>
     <message>
-        <source>%1: saved in part</source>
-        <translation>%1: 一部保存済み</translation>
-    </message>
-    <message>
         <source>%1: not saved</source>
         <translation>%1: 未保存</translation>
     </message>
@@ -3266,6 +3262,30 @@
     <message>
         <source>it is of a recording that is open</source>
         <translation>開いている記録のファイルです</translation>
+    </message>
+    <message>
+        <source>%1: saved in part, without the frames %2</source>
+        <translation>%1: 一部保存済み (フレーム %2 を除く)</translation>
+    </message>
+    <message>
+        <source>%1: saved nowhere but on its medium</source>
+        <translation>%1: 元のメディアにのみ保存されています</translation>
+    </message>
+    <message>
+        <source>%1 has changed since it was opened. Close it and open it again.</source>
+        <translation>%1 は開いた後に変更されました。閉じてからもう一度開いてください。</translation>
+    </message>
+    <message>
+        <source>another folder has taken the place of the one with its files</source>
+        <translation>ファイルのあったフォルダーが別のフォルダーに置き換わっています</translation>
+    </message>
+    <message>
+        <source>%1 is formatted in its camera.</source>
+        <translation>%1 はカメラでフォーマットします。</translation>
+    </message>
+    <message>
+        <source>%1 is write protected.</source>
+        <translation>%1 は書き込み禁止です。</translation>
     </message>
 </context>
 </TS>

@@ -2,6 +2,7 @@
 
 #include "FilePictures.h"
 #include "ImageEffects.h"
+#include "InformationReader.h"
 #include "TargetDisk.h"
 
 #include <QFileInfo>
@@ -70,8 +71,9 @@ CameraState stateOf(const RecordingInformation& information, const QString& path
 }  // namespace
 
 FileRecording FileRecording::open(const QString& path, TargetDisk& disk) {
-    const RecordingInformation information = readInformation(path);
     FileRecording opened;
+    opened.told = readInformation(path);
+    const RecordingInformation information = asOpened(opened.told);
     opened.device = {information.address, modelOf(information), 0, true, {stateOf(information, path)}};
     const QStringList& there = disk.namesIn(QFileInfo(path).path());
     opened.missing =

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "InformationFile.h"
 #include "Rig.h"
 
 class TargetDisk;
@@ -8,6 +9,8 @@ class TargetDisk;
 struct FileRecording {
     /// A camera that has it in its memory.
     RigDevice device;
+    /// What stands in the file that tells of it.
+    RecordingInformation told;
     /// Files with frames of it that are not there.
     int missing = 0;
 

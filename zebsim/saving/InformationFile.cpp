@@ -10,8 +10,6 @@
 
 namespace {
 
-constexpr int Version = 1;
-
 /// A JSON object sorts its members, and the first one tells what the file is.
 class Members {
 public:

@@ -15,6 +15,8 @@ struct SaveTrack;
 /// What stands in the file beside the images of a recording, so that the program can open them again;
 /// docs/recordings.md tells its form. Any thread.
 struct RecordingInformation {
+    static constexpr int Version = 1;
+
     QString camera;
     QString address;
     QString model;
@@ -38,10 +40,6 @@ struct RecordingInformation {
     static RecordingInformation of(const Camera& camera, const CameraState& state, const Recording& recording);
 };
 
-/// What such a file tells, as the program opens it: the recording is that which stands in the files, numbered as in the
-/// memory, or from 0 on where frames were left out, with the rate that this makes. Throws `JsonError` for one that
-/// can't be, as for one of which a name leads out of its folder.
-RecordingInformation readInformation(const QString& path);
 /// What its information file is called of files with that stem.
 QString informationPath(const QString& stem);
 /// Of a track of which the first `saved` frames stand in files; not of a layout.

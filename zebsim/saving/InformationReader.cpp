@@ -1,6 +1,5 @@
-// Reads what `RecordingInformation` has written, or somebody else.
+#include "InformationReader.h"
 
-#include "InformationFile.h"
 #include "JsonError.h"
 #include "JsonNode.h"
 #include "PlainState.h"
@@ -8,7 +7,6 @@
 #include "UiText.h"
 #include "WholeFile.h"
 
-#include <QFile>
 #include <QSet>
 
 #include <algorithm>
@@ -17,7 +15,6 @@
 
 namespace {
 
-constexpr int Version = 1;
 constexpr int MostBytes = 16 << 20;
 /// The first member tells whose file it is.
 constexpr int MarkBytes = 64;
@@ -36,19 +33,14 @@ constexpr int Most = std::numeric_limits<int>::max();
 
 /// Of a file of ours.
 QByteArray contentOf(const QString& path) {
-    const QString why = whyNoPlainFile(path);
+    QByteArray text;
+    const QString why = readPlainFile(path, MostBytes + 1, text);
     if (!why.isEmpty()) {
         refuse(path, why);
     }
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
-        refuse(path, file.errorString());
-    }
-    QByteArray text = file.read(MarkBytes);
-    if (!text.contains("\"zebsim\"")) {
+    if (!text.left(MarkBytes).contains("\"zebsim\"")) {
         refuse(path, TextKey("it is no recording of this program"));
     }
-    text += file.read(MostBytes);
     if (text.size() > MostBytes) {
         refuse(path, TextKey("it is larger than any that this program has written"));
     }
@@ -119,35 +111,40 @@ QStringList filesOf(const JsonNode& node, int expected) {
     if (wrong != names.end()) {
         node.fail(QStringLiteral("\"%1\" is no name of a file in the same folder").arg(*wrong));
     }
+    if (QSet<QString>(names.begin(), names.end()).size() != names.size()) {
+        node.fail(QStringLiteral("a name stands there twice"));
+    }
     return names;
 }
 
-/// What was left out has no number any more.
-void number(Recording& recording, int frames, int first, int step) {
-    const auto nearest = [&](int frame) {
-        return step == 1 ? frame : int(std::lround((double(frame) - first) / step));
-    };
-    recording.first = step == 1 ? first : 0;
-    recording.last = recording.first + frames - 1;
-    recording.selectedFirst = recording.first;
-    recording.selectedLast = recording.last;
-    recording.trigger = nearest(recording.trigger);
-    recording.zero = nearest(recording.zero);
-    recording.rate = std::max(1U, static_cast<unsigned int>(std::lround(double(recording.rate) / step)));
-}
-
 /// The frames that stand in the files, and how many there are.
-int readFrames(const JsonNode& node, Recording& recording) {
+void readFrames(const JsonNode& node, RecordingInformation& information) {
+    Recording& recording = information.recording;
     const JsonNode saved = node.member(QStringLiteral("saved"));
-    const int first = saved.member(QStringLiteral("first")).number(-MostNumber, MostNumber);
-    const int last = saved.member(QStringLiteral("last")).number(first, MostNumber);
-    const int step = saved.member(QStringLiteral("step")).number(1, MostNumber);
-    const qint64 frames = (qint64(last) - first) / step + 1;
+    recording.selectedFirst = saved.member(QStringLiteral("first")).number(-MostNumber, MostNumber);
+    recording.selectedLast = saved.member(QStringLiteral("last")).number(recording.selectedFirst, MostNumber);
+    information.step = saved.member(QStringLiteral("step")).number(1, MostNumber);
+    const qint64 frames = (qint64(recording.selectedLast) - recording.selectedFirst) / information.step + 1;
     if (frames > MostFrames) {
         saved.fail(QStringLiteral("no recording is that long"));
     }
-    number(recording, int(frames), first, step);
-    return int(frames);
+    information.frames = int(frames);
+    const JsonNode member = node.member(QStringLiteral("range"));
+    const QPoint range = pairOf(member);
+    if (range.x() > recording.selectedFirst || range.y() < recording.selectedLast) {
+        member.fail(QStringLiteral("the frames that were saved are not in it"));
+    }
+    recording.first = range.x();
+    recording.last = range.y();
+}
+
+/// Empty where nobody has told it.
+QDateTime dateOf(const JsonNode& node) {
+    const QDateTime date = QDateTime::fromString(node.text(), Qt::ISODate);
+    if (!date.isValid() && !node.text().isEmpty()) {
+        node.fail(QStringLiteral("a date as \"2024-01-02T03:04:05\" is expected"));
+    }
+    return date;
 }
 
 }  // namespace
@@ -158,7 +155,7 @@ RecordingInformation readInformation(const QString& path) {
     if (member("zebsim").text() != QLatin1String("recording")) {
         refuse(path, TextKey("it is no recording of this program"));
     }
-    if (member("version").number(1, Most) > Version) {
+    if (member("version").number(1, Most) != RecordingInformation::Version) {
         refuse(path, TextKey("a newer version of this program has written it"));
     }
     RecordingInformation information;
@@ -176,9 +173,27 @@ RecordingInformation readInformation(const QString& path) {
     recording.zero = member("zero").number(-MostNumber, MostNumber);
     recording.partition = PARTITIONNUMBER(member("partition").number(1, MostPartitions));
     recording.customInfo = itemsOf(member("items"));
-    information.date = QDateTime::fromString(member("date").text(), Qt::ISODate);
+    information.date = dateOf(member("date"));
     information.format = formatOf(member("format"), path);
-    information.frames = readFrames(node, recording);
+    readFrames(node, information);
     information.files = filesOf(member("files"), information.format.isOneFile() ? 1 : information.frames);
+    return information;
+}
+
+RecordingInformation asOpened(RecordingInformation information) {
+    Recording& recording = information.recording;
+    const int step = information.step;
+    const int first = recording.selectedFirst;
+    const auto nearest = [&](int frame) {
+        return step == 1 ? frame : int(std::lround((double(frame) - first) / step));
+    };
+    recording.first = step == 1 ? first : 0;
+    recording.last = recording.first + information.frames - 1;
+    recording.selectedFirst = recording.first;
+    recording.selectedLast = recording.last;
+    recording.trigger = nearest(recording.trigger);
+    recording.zero = nearest(recording.zero);
+    recording.rate = std::max(1U, static_cast<unsigned int>(std::lround(double(recording.rate) / step)));
+    information.step = 1;
     return information;
 }

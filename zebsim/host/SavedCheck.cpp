@@ -1,0 +1,110 @@
+#include "SavedCheck.h"
+
+#include "InformationReader.h"
+#include "JsonError.h"
+#include "Medium.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+namespace {
+
+constexpr int MostRows = 8;
+
+/// The same recording of the same camera, numbered in the same way.
+bool isSame(const RecordingInformation& left, const RecordingInformation& right) {
+    const Recording& of = left.recording;
+    const Recording& other = right.recording;
+    return left.camera == right.camera && left.address == right.address && left.model == right.model &&
+           of.partition == other.partition && of.rate == other.rate && of.shutter == other.shutter &&
+           of.resolution == other.resolution && of.trigger == other.trigger && of.first == other.first &&
+           of.last == other.last;
+}
+
+/// A link leads to pictures that may be the ones about to go.
+bool isThere(const QString& path) {
+    const QFileInfo file(path);
+    return file.isFile() && !file.isSymLink() && file.size() > 0;
+}
+
+/// Numbers with one distance between them.
+QString rowText(int first, int count, int step) {
+    const int last = first + (count - 1) * step;
+    if (count == 1) {
+        return QString::number(first);
+    }
+    if (step == 1) {
+        return QStringLiteral("%1-%2").arg(first).arg(last);
+    }
+    return QStringLiteral("%1, %2, ..., %3").arg(first).arg(first + step).arg(last);
+}
+
+}  // namespace
+
+SavedCheck::SavedCheck(const QString& folder) {
+    for (const QString& path : recordingsBelow(QFileInfo(folder).canonicalFilePath())) {
+        try {
+            m_copies.append({QFileInfo(path).path(), readInformation(path)});
+        } catch (const JsonError&) {
+            // It is no recording that can be opened again.
+        }
+    }
+}
+
+SavedCheck::Result SavedCheck::of(const RecordingInformation& whole, const Medium& medium) const {
+    const RecordingInformation opened = asOpened(whole);
+    Result result;
+    result.first = opened.recording.first;
+    result.frames.resize(std::size_t(whole.frames));
+    for (const Copy& copy : m_copies) {
+        const RecordingInformation& saved = copy.information;
+        const bool isOfCamera = isSame(whole, saved);
+        if (!isOfCamera && !isSame(opened, saved)) {
+            continue;
+        }
+        if (medium.holds(copy.folder)) {
+            result.isOnMedium = true;
+            continue;
+        }
+        const RecordingInformation& numbered = isOfCamera ? whole : opened;
+        for (int index = 0; index < saved.frames; ++index) {
+            const qint64 away =
+                qint64(index) * saved.step + saved.recording.selectedFirst - numbered.recording.selectedFirst;
+            const auto frame = std::size_t(away / numbered.step);
+            const bool isMember = away >= 0 && away % numbered.step == 0 && frame < result.frames.size();
+            const QString name = saved.files.value(saved.format.isOneFile() ? 0 : index);
+            if (isMember && !result.frames[frame] && isThere(QDir(copy.folder).filePath(name))) {
+                result.frames[frame] = true;
+                ++result.saved;
+            }
+        }
+    }
+    return result;
+}
+
+QString SavedCheck::Result::missing() const {
+    QList<int> numbers;
+    for (std::size_t frame = 0; frame < frames.size(); ++frame) {
+        if (!frames[frame]) {
+            numbers.append(first + int(frame));
+        }
+    }
+    QStringList rows;
+    for (int at = 0; at < numbers.size();) {
+        if (rows.size() == MostRows) {
+            rows.append(QStringLiteral("..."));
+            break;
+        }
+        const auto distance = [&numbers](int index) { return numbers[index + 1] - numbers[index]; };
+        int end = at + 1;
+        while (end < numbers.size() && distance(end - 1) == distance(at)) {
+            ++end;
+        }
+        const int step = end - at > 1 ? distance(at) : 1;
+        // Two are a row only where they are neighbours.
+        const int count = step > 1 && end - at == 2 ? 1 : end - at;
+        rows.append(rowText(numbers[at], count, step));
+        at += count;
+    }
+    return rows.join(QStringLiteral(", "));
+}
