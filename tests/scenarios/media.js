@@ -71,9 +71,14 @@ page(() => {
     zeb.click('#name');
     check(rows()[0].startsWith('1|Gate <b>1</b>|Crash <i>7</i>|'), `the name is on the card: ${rows()[0]}`);
 
+    zeb.click('#recordings tr[data-name]:nth-child(2)');
+    same(zeb.dialog(`byId('data_name').value`), '', 'each recording shows its own name');
+    zeb.click('#recordings tr[data-name]:nth-child(1)');
+    same(zeb.dialog(`byId('data_name').value`), 'Crash <i>7</i>', 'the named one too');
+
     zeb.file(mediumFolder('card'));
     zeb.click('#check');
-    check(texts().some(text => text.includes('Compared with') && text.includes(': saved')), 'compared with its own files');
+    check(texts().some(text => text.includes('saved nowhere but on its medium')), 'its own files do not count');
 
     // Another medium of the kind: no leaves the card open.
     zeb.medium('sd', {name: 'Other', folder: mediumFolder('other')});

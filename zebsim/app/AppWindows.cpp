@@ -8,10 +8,12 @@
 #include "DialogRun.h"
 #include "EthernetDialog.h"
 #include "FramePicture.h"
+#include "FreshKeys.h"
 #include "GUI_AddDeviceDialog.h"
 #include "GUI_CameraFileDialog.h"
 #include "GUI_CameraSettingsDialog.h"
 #include "GUI_CustomInfoDialog.h"
+#include "GUI_WebView.h"
 #include "HostNameSource.h"
 #include "JS_Mediator_MediaDialog.h"
 #include "LogStore.h"
@@ -106,6 +108,7 @@ void AppWindows::openMedia() {
     auto* dialog = new GUI_WebViewDialog(&m_host, TextKey("Media"), QStringLiteral("qrc:/fileopendialog.html"),
                                          new JS_Mediator_MediaDialog(m_host), m_host.getMainWindow());
     dialog->resize(MediaSize);
+    takeFreshKeysOnly(*dialog->getWebView());
     runDialog(m_host, dialog);
 }
 

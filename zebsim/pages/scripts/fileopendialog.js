@@ -1,5 +1,6 @@
 // The storage media, and the recordings on those that are open.
 
+// By these the bridge opens and formats; all else of a kind stands in the records.
 const SD_CARD = 0;
 const QUIK_DRIVE = 1;
 const CFAST = 2;
@@ -8,9 +9,51 @@ function translate(key) {
     return fileopendialog.translate(key);
 }
 
+const mediaList = choiceList('media', {
+    nameOf(medium) {
+        return `${medium.kind}/${medium.name}`;
+    },
+
+    preferred() {
+        return this.records.filter(medium => medium.open)[0] || this.records[0];
+    },
+
+    rowOf(medium) {
+        const row = document.createElement('tr');
+        const states = [[medium.open, textKey('is open')], [medium.locked, textKey('is locked')],
+            [medium.protected, textKey('write protected')]];
+        const cell = dialogList.addCell(row, '');
+        cell.innerHTML = '<div class="head"><b class="cut"></b><span></span></div>' +
+            '<div class="bar"><div></div></div><div class="head"><span class="cut"></span><span></span></div>';
+        const name = medium.drivename === medium.name ? medium.name : `${medium.drivename} ${medium.name}`;
+        cell.title = medium.folder;
+        cell.querySelector('b').textContent = name;
+        cell.querySelector('b + span').textContent = medium.kindLabel;
+        const use = medium.use;
+        cell.querySelector('.bar div').style.width =
+            `${use.capacity > 0 ? Math.min(100, 100 * use.used / use.capacity) : 0}%`;
+        const room = translate('%1 of %2').replace('%1', use.usedLabel || '').replace('%2', use.capacityLabel || '');
+        cell.querySelector('.bar + .head .cut').textContent = room;
+        cell.querySelector('.bar + .head .cut + span').textContent =
+            states.filter(([holds]) => holds).map(([, key]) => translate(key)).join(', ');
+        return row;
+    },
+
+    chosenAnew() {
+        mediaPage.showButtons();
+    },
+
+    // Arrows choose, Enter opens.
+    key(event) {
+        if (!this.step(event).isTaken && event.keyCode === 13) {
+            event.preventDefault();
+            mediaPage.open();
+        }
+    }
+});
+
 const mediaPage = Object.assign(dialogFrame(fileopendialog), {
     media: [],
-    chosenName: '',
     uses: {}, // room by name, looked at now and then
     lookedAt: 0,
 
@@ -18,10 +61,9 @@ const mediaPage = Object.assign(dialogFrame(fileopendialog), {
         this.begin(() => this.update());
         zeb4func.enableUserOperationLog(fileopendialog, 'body');
         mediaRecordings.begin();
+        mediaList.beginChoices(this);
         const list = byId('media');
-        list.addEventListener('mousedown', event => this.guarded(() => this.pick(event.target.closest('tr'))));
         list.addEventListener('dblclick', () => this.guarded(() => this.open()));
-        list.addEventListener('keydown', event => this.guarded(() => this.key(event)));
         this.onClick('open', () => this.open());
         this.onClick('format', () => this.format());
         this.onClick('password', () => this.setPassword());
@@ -39,12 +81,7 @@ const mediaPage = Object.assign(dialogFrame(fileopendialog), {
         this.applyStyle();
         const before = this.media.filter(medium => medium.open);
         this.media = JSON.parse(fileopendialog.getMedia() || '[]');
-        before.filter(medium => !this.media.some(other => this.nameOf(other) === this.nameOf(medium)))
-            .forEach(medium => this.tell(translate('%1 was pulled out.').replace('%1', () => medium.name)));
-        if (!this.chosen()) {
-            const first = this.media.filter(medium => medium.open)[0] || this.media[0];
-            this.chosenName = first ? this.nameOf(first) : '';
-        }
+        before.filter(medium => !this.isThere(medium)).forEach(medium => this.tellGone(medium));
         this.lookAtRoom(false);
         mediaRecordings.update();
         this.show();
@@ -54,12 +91,12 @@ const mediaPage = Object.assign(dialogFrame(fileopendialog), {
     lookAtRoom(isNow) {
         const OFTEN = 2000;
         if (!isNow && Date.now() - this.lookedAt < OFTEN &&
-            this.media.every(medium => this.uses[this.nameOf(medium)])) {
+            this.media.every(medium => this.uses[mediaList.nameOf(medium)])) {
             return;
         }
         this.uses = {};
         this.media.forEach(medium => {
-            this.uses[this.nameOf(medium)] = JSON.parse(
+            this.uses[mediaList.nameOf(medium)] = JSON.parse(
                 fileopendialog.getUse(medium.kind, medium.type, medium.drive, medium.slot) || '{}');
         });
         this.lookedAt = Date.now();
@@ -69,66 +106,18 @@ const mediaPage = Object.assign(dialogFrame(fileopendialog), {
         byId('note').textContent = text;
     },
 
-    nameOf(medium) {
-        return `${medium.kind}/${medium.name}`;
+    isThere(medium) {
+        return this.media.some(other => mediaList.nameOf(other) === mediaList.nameOf(medium));
     },
 
-    chosen() {
-        return this.media.filter(medium => this.nameOf(medium) === this.chosenName)[0];
+    tellGone(medium) {
+        this.tell(translate('%1 was pulled out.').replace('%1', () => medium.name));
     },
 
     show() {
-        const body = byId('media').querySelector('tbody');
-        const records = this.media.map(medium =>
-            Object.assign({ use: this.uses[this.nameOf(medium)] || {} }, medium));
-        dialogList.draw(body, records, record => this.rowOf(record));
-        Array.from(body.children).forEach(row =>
-            row.classList.toggle('chosen', row.getAttribute('data-name') === this.chosenName));
+        mediaList.take(this.media.map(medium =>
+            Object.assign({ use: this.uses[mediaList.nameOf(medium)] || {} }, medium)));
         this.showButtons();
-    },
-
-    rowOf(medium) {
-        const row = document.createElement('tr');
-        row.setAttribute('data-name', this.nameOf(medium));
-        const kind = [textKey('SD card'), textKey('QUIK Drive'), textKey('CFast')][medium.kind];
-        const states = [[medium.open, textKey('is open')], [medium.locked, textKey('is locked')],
-            [medium.protected, textKey('write protected')]];
-        const cell = dialogList.addCell(row, '');
-        cell.innerHTML = '<div class="head"><b class="cut"></b><span></span></div>' +
-            '<div class="bar"><div></div></div><div class="head"><span class="cut"></span><span></span></div>';
-        const name = medium.kind === SD_CARD ? `${medium.drivename} ${medium.name}` : medium.name;
-        cell.title = medium.folder;
-        cell.querySelector('b').textContent = name;
-        cell.querySelector('b + span').textContent = translate(kind);
-        const use = medium.use;
-        cell.querySelector('.bar div').style.width =
-            `${use.capacity > 0 ? Math.min(100, 100 * use.used / use.capacity) : 0}%`;
-        const room = translate('%1 of %2').replace('%1', use.usedLabel || '').replace('%2', use.capacityLabel || '');
-        cell.querySelector('.bar + .head .cut').textContent = room;
-        cell.querySelector('.bar + .head .cut + span').textContent =
-            states.filter(([holds]) => holds).map(([, key]) => translate(key)).join(', ');
-        return row;
-    },
-
-    pick(row) {
-        if (row) {
-            this.chosenName = row.getAttribute('data-name');
-            this.show();
-        }
-    },
-
-    // Arrows choose, Enter opens.
-    key(event) {
-        const rows = Array.from(byId('media').querySelectorAll('tr'));
-        const at = rows.findIndex(row => row.getAttribute('data-name') === this.chosenName);
-        const next = dialogList.step(event, rows.length, at);
-        if (next >= 0) {
-            this.pick(rows[next]);
-            rows[next].scrollIntoViewIfNeeded(false);
-        } else if (event.keyCode === 13) {
-            event.preventDefault();
-            this.open();
-        }
     },
 
     // A button that can't be pressed says why.
@@ -138,22 +127,22 @@ const mediaPage = Object.assign(dialogFrame(fileopendialog), {
     },
 
     showButtons() {
-        const medium = this.chosen();
+        const medium = mediaList.chosen();
         const none = medium ? '' : textKey('No medium is chosen.');
         const isProtected = medium && medium.protected ? textKey('It is write protected.') : '';
         const act = medium && medium.open ? textKey('Close medium') : textKey('Open');
         byId('open').textContent = translate(act);
         this.grey('open', none);
-        const inCamera = medium && medium.kind === SD_CARD ? textKey('An SD card is formatted in its camera.') : '';
+        const inCamera = medium && !medium.formattable ? textKey('An SD card is formatted in its camera.') : '';
         const locked = medium && medium.locked ? textKey('It is locked by a password.') : '';
         this.grey('format', none || inCamera || isProtected || locked);
-        const other = medium && medium.kind !== QUIK_DRIVE ? textKey('Only a QUIK Drive has a password.') : '';
+        const other = medium && !medium.hasPassword ? textKey('Only a QUIK Drive has a password.') : '';
         this.grey('password', none || other || isProtected);
         mediaRecordings.showButtons();
     },
 
     open() {
-        const medium = this.chosen();
+        const medium = mediaList.chosen();
         if (!medium) {
             return;
         }
@@ -172,9 +161,14 @@ const mediaPage = Object.assign(dialogFrame(fileopendialog), {
     },
 
     format() {
-        const medium = this.chosen();
+        const medium = mediaList.chosen();
         const question = translate('Erase all data of %1?').replace('%1', () => medium.name);
         if (!fileopendialog.confirm([question, medium.folder].join('\n'))) {
+            return;
+        }
+        this.update();
+        if (!this.isThere(medium)) {
+            this.tellGone(medium);
             return;
         }
         if (medium.kind === CFAST) {
@@ -187,7 +181,7 @@ const mediaPage = Object.assign(dialogFrame(fileopendialog), {
     },
 
     setPassword() {
-        const medium = this.chosen();
+        const medium = mediaList.chosen();
         fileopendialog.setQuikDrivePassword(medium.type, medium.drive);
         this.update();
     }

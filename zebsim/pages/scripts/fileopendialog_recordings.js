@@ -5,6 +5,7 @@ const PREVIEW_HEIGHT = 160;
 
 const mediaRecordings = recordingList('recordings', {
     isTickedAtFirst: false,
+    namedName: null, // the recording whose data name stands in the field
 
     begin() {
         this.beginList(mediaPage);
@@ -22,11 +23,8 @@ const mediaRecordings = recordingList('recordings', {
         if (reply === '') {
             return; // it has been told why
         }
-        const records = JSON.parse(reply).filter(record => record.drivename !== '');
-        const names = new Set(records.map(record => this.nameOf(record)));
-        this.otherTicks = new Set(Array.from(this.otherTicks).filter(name => names.has(name)));
-        this.take(records);
-        this.showButtons();
+        this.take(JSON.parse(reply).filter(record => record.drivename !== ''));
+        this.chosenAnew();
     },
 
     nameOf(record) {
@@ -59,6 +57,10 @@ const mediaRecordings = recordingList('recordings', {
     },
 
     chosenAnew() {
+        if (this.namedName !== this.chosenName) {
+            this.namedName = this.chosenName;
+            byId('data_name').value = (this.chosen() || { dataname: '' }).dataname;
+        }
         this.showButtons();
     },
 

@@ -1,39 +1,27 @@
-// A list of recordings with a tick each, and a look at the chosen one. `own` says what differs: `nameOf(record)`, null
-// of one that can't be chosen, `rowOf(record)`, `pictureOf(record)` in Base64, `factsOf(record)`, `isTickedAtFirst`,
-// and what is to be done when the choice (`chosenAnew()`) or the ticks (`tickedAnew()`) have changed.
+// A `choiceList` of recordings with a tick each, and a look at the chosen one. `own` says besides: `pictureOf(record)`
+// in Base64, `factsOf(record)`, `isTickedAtFirst`, and what is to be done when the ticks have changed (`tickedAnew()`).
 function recordingList(id, own) {
-    return Object.assign({
-        records: [],
+    const base = choiceList(id, own);
+    return Object.assign({}, base, {
         otherTicks: new Set(), // names of those that are not as at first
-        chosenName: null,
         previewTimer: 0,
         page: null,
 
         beginList(page) {
             this.page = page;
-            const list = byId(id);
-            list.addEventListener('change', event => page.guarded(() => this.tick(event.target)));
-            list.addEventListener('mousedown', event =>
-                page.guarded(() => this.pick(event.target.closest('tbody tr'))));
-            list.addEventListener('keydown', event => page.guarded(() => this.key(event)));
+            this.beginChoices(page);
+            byId(id).addEventListener('change', event => page.guarded(() => this.tick(event.target)));
         },
 
-        // Takes the records as they are now; when the chosen one has gone, another is.
         take(records) {
-            this.records = records;
-            if (!this.chosen()) {
-                const first = this.choices()[0];
-                this.choose(first ? this.nameOf(first) : null);
-            }
-            dialogList.draw(byId(id).querySelector('tbody'), records, record => this.namedRow(record));
-            this.mark();
+            const names = new Set(records.map(record => this.nameOf(record)));
+            this.otherTicks = new Set(Array.from(this.otherTicks).filter(name => names.has(name)));
+            base.take.call(this, records);
         },
 
         namedRow(record) {
-            const row = this.rowOf(record);
-            const name = this.nameOf(record);
-            if (name !== null) {
-                row.setAttribute('data-name', name);
+            const row = base.namedRow.call(this, record);
+            if (this.nameOf(record) !== null) {
                 const tick = document.createElement('input');
                 tick.type = 'checkbox';
                 tick.tabIndex = -1;
@@ -41,19 +29,6 @@ function recordingList(id, own) {
                 row.firstChild.className = 'tick';
             }
             return row;
-        },
-
-        // The rows that can be chosen.
-        rows() {
-            return Array.from(byId(id).querySelectorAll('tbody tr[data-name]'));
-        },
-
-        choices() {
-            return this.records.filter(record => this.nameOf(record) !== null);
-        },
-
-        chosen() {
-            return this.choices().filter(record => this.nameOf(record) === this.chosenName)[0];
         },
 
         isTicked(record) {
@@ -66,10 +41,9 @@ function recordingList(id, own) {
 
         // Ticks, and the row that is looked at.
         mark() {
+            base.mark.call(this);
             const choices = this.choices();
-            const chosen = this.chosen();
             this.rows().forEach((row, index) => {
-                row.classList.toggle('chosen', choices[index] === chosen);
                 row.querySelector('input').checked = this.isTicked(choices[index]);
             });
             byId('all').checked = choices.length > 0 && this.ticked().length === choices.length;
@@ -84,31 +58,17 @@ function recordingList(id, own) {
             this.tickedAnew();
         },
 
-        pick(row) {
-            const name = row && row.getAttribute('data-name');
-            if (name && name !== this.chosenName) {
-                this.choose(name);
-                this.mark();
-                this.chosenAnew();
-            }
-        },
-
         choose(name) {
-            this.chosenName = name;
+            base.choose.call(this, name);
             this.showPreviewSoon();
         },
 
         // Arrows choose, Space ticks.
         key(event) {
-            const rows = this.rows();
-            const at = rows.findIndex(row => row.getAttribute('data-name') === this.chosenName);
-            const next = dialogList.step(event, rows.length, at);
-            if (next >= 0) {
-                this.pick(rows[next]);
-                rows[next].scrollIntoViewIfNeeded(false);
-            } else if (event.keyCode === 32 && at >= 0 && event.target.tagName !== 'INPUT') {
+            const { row, isTaken } = this.step(event);
+            if (!isTaken && row && event.keyCode === 32 && event.target.tagName !== 'INPUT') {
                 event.preventDefault();
-                const box = rows[at].querySelector('input');
+                const box = row.querySelector('input');
                 box.checked = !box.checked;
                 this.tick(box);
             }
@@ -133,5 +93,5 @@ function recordingList(id, own) {
                 list.appendChild(line);
             });
         }
-    }, own);
+    });
 }
