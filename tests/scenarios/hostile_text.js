@@ -116,3 +116,106 @@ zeb.menu('Camera > Custom info...');
 check(JSON.stringify(zeb.camera(1).customInfo.map(item => item.value)) === JSON.stringify(items.map(item => item.value)),
     'Cancel leaves the items as they were');
 checkHarmless('custom information');
+
+// The pages that save and that show media: partitions, custom information in names, folders by camera, media and files.
+check(zeb.close(), 'the table closes');
+zeb.keys().forEach((key, index) => {
+    const name = TEXTS[NAMES[index]];
+    const items = [{name: 'Item', value: name, unit: name, display: true, usefilename: true}];
+    zeb.setCamera(key, {name, partitions: 2, partitionNames: [name, name], resolution: [64, 48]});
+    [1, 2].forEach(partition => {
+        zeb.setCamera(key, {partition});
+        zeb.setCamera(key, {recorded: true, recordedRange: [0, 9], selectedRange: [0, 1], recordedCustomInfo: items});
+    });
+});
+const MADE = 'script:not([src]):not([type="text/html"]), link:not([href^="qrc:"]), img:not(#preview), [onerror], ' +
+    '[onmouseover], i, iframe, tbody b:not(.cut), #facts b, #note b, #path b, label b, option b';
+const FORBIDDEN = /[\\/:*?"<>|%\t\n]/g;
+const D = text => zeb.dialog(text);
+const textsIn = (selector, what) => D(`Array.from(document.querySelectorAll('${selector}')).map(part => part.${what})`);
+function same(value, expected, text) {
+    check(JSON.stringify(value) === JSON.stringify(expected), `${text}: ${JSON.stringify(value).slice(0, 300)}`);
+}
+function checkPage(when) {
+    check(D(`document.querySelectorAll('${MADE}').length`) === 0, `${when}: no element was made`);
+    check(NAMES.every(name => zeb.pref('hostile/' + name) === undefined), `${when}: nothing ran`);
+}
+
+const labels = [].concat(...NAMES.map(name => Array(2).fill(`${TEXTS[name]}, ${TEXTS[name]}`)));
+const home = `${zeb.pref('export/dir')}/<b>hostile</b> $& 'home'`;
+zeb.mode('memory');
+zeb.modal(() => {
+    same(textsIn('#targets tbody .name', 'textContent'), labels, 'recordings');
+    same(textsIn('#targets tbody td[title]:nth-child(2)', 'title'), labels, 'their tips');
+    D(`savePage.fill('dir', ${JSON.stringify(home)}); savePage.fill('filenameusecustom', true);
+        savePage.fill('filenameusecustomincludeunit', true); savePage.fill('filenameusecustomfromtarget', true)`);
+    same(textsIn('#custom_camera option', 'textContent'), NAMES.map(name => TEXTS[name]), 'cameras to choose from');
+    D("savePage.fill('filenameusecustomfromtarget', false)");
+    zeb.click('#targets tbody tr');
+    NAMES.filter(name => name !== 'long').forEach(name => {
+        D(`saveTargets.pick(saveTargets.rows()[${2 * NAMES.indexOf(name)}])`);
+        zeb.wait(500);
+        const inName = TEXTS[name].replace(FORBIDDEN, '_');
+        const path = D("byId('path').textContent");
+        check(path.startsWith(`${home}/${inName}_${inName}`), `${name}: written as ${path}`);
+        same(textsIn('#facts dd', 'textContent')[0], `${TEXTS[name]}, ${TEXTS[name]}`, `${name}: the facts`);
+    });
+
+    // A folder by camera, called so.
+    D("saveTabs.open('paths'); savePage.fill('singlepath', false)");
+    NAMES.forEach((name, index) => {
+        zeb.click('#add_path');
+        zeb.click(`#path_list .line:nth-child(${index + 1}) input`);
+        zeb.key('Ctrl+A');
+        zeb.paste(TEXTS[name].slice(0, 200));
+    });
+    const folders = textsIn('#path_list input:first-child', 'value');
+    same(folders, NAMES.map(name => TEXTS[name].slice(0, 200).replace(/\n/g, ' ')), 'names of folders by camera');
+    same(textsIn('#path_devices .line:first-child option', 'textContent').slice(1),
+        folders.map(folder => `${folder}: ${home}`), 'are offered as they stand');
+    checkPage('saving');
+    zeb.key('Escape');
+});
+zeb.menu('File > Save');
+
+// The plan and the results.
+let plan = null;
+zeb.modal(() => { plan = zeb.plan(); });
+const called = {format: 'png', filename: 'shot', saveinf: true, filenameadddetails: 'number'};
+zeb.save(Object.assign({folder: home, agree: false}, called));
+zeb.menu('File > Save');
+same(plan.tracks.map(track => track.name), labels, 'the plan');
+const card = `${home}/card`;
+zeb.save(Object.assign({folder: card}, called));
+zeb.menu('File > Save');
+same(zeb.results(), labels.map(label => `${label}: 2 frames saved in ${card}`), 'the results');
+
+// A medium, its folder and a file on it are called so.
+const file = `${TEXTS.image} %1 $&`.replace(/\//g, '_');
+zeb.writeFile(`${card}/${file}.cih`, zeb.readFile(`${card}/shot_C01H1S001.cih`));
+zeb.mode('live');
+const medium = `${TEXTS.quotes} <b>card</b>`;
+zeb.medium('sd', {name: medium, folder: card, capacity: '64 MB'});
+zeb.modal(() => {
+    zeb.click('#media tr');
+    zeb.click('#open');
+    same(textsIn('#media b', 'textContent'), [`D: ${medium}`], 'a medium');
+    same(textsIn('#media td', 'title'), [card], 'its folder');
+    const cells = textsIn('#recordings tbody td:nth-child(5)', 'textContent');
+    check(cells.length === 17 && cells.includes(`${file}.cih`), `files: ${cells}`);
+    const names = textsIn('#recordings tbody td:nth-child(3)', 'textContent');
+    NAMES.forEach(name => check(names.includes(TEXTS[name]), `${name}: a camera of the medium`));
+    zeb.click('#data_name');
+    zeb.paste(TEXTS.script);
+    zeb.click('#name');
+    check(textsIn('#recordings tbody td:nth-child(4)', 'textContent').includes(TEXTS.script), 'a name that is typed');
+    zeb.medium('sd', {name: medium, in: false});
+    zeb.wait(600);
+    same(D("byId('note').textContent"), `${medium} was pulled out.`, 'the note');
+    checkPage('media');
+    zeb.key('Escape');
+});
+zeb.messages();
+zeb.menu('File > Media > Open media...');
+const notices = zeb.messages().map(message => message.text);
+same(notices, [`${medium} was pulled out. Its recordings are closed.`], 'the notice');
