@@ -1,3 +1,4 @@
+#include "DOC_Image.h"
 #include "DOC_Interface.h"
 #include "DOC_Storage.h"
 #include "Files.h"
@@ -27,9 +28,18 @@ protected:
     }
     ~Media() override { host.host.setWindows(nullptr); }
 
-    bool askPassword(const QString&, const PasswordTest& fits) override { return fits(typed); }
+    bool askPassword(const QString&, const PasswordTest& fits) override {
+        meanwhile();
+        return fits(typed);
+    }
     std::optional<QString> askNewPassword(const QString&, const PasswordTest& fits) override {
+        meanwhile();
         return !fits || fits(typed) ? std::optional(wanted) : std::nullopt;
+    }
+
+    void runProgress(const QString& text, QFutureWatcherBase& watcher) override {
+        meanwhile();
+        HostWindows::runProgress(text, watcher);
     }
 
     MediaShelf& shelf() { return host.host.shelf(); }
@@ -56,6 +66,8 @@ protected:
 
     QString typed;
     QString wanted;
+    /// Happens while a box of a password stands, or a medium is erased.
+    std::function<void()> meanwhile = [] {};
 };
 
 TEST_F(Media, OpenWithTheirRecordings) {
@@ -107,6 +119,56 @@ TEST_F(Media, GoAtAnyStep) {
     EXPECT_EQ(thrownBy([&] { fast->setDataName(path("fast/file"), "x"); }), "Fast: it is not there any more");
     EXPECT_EQ(thrownBy([&] { media().formatMedium(zeb::CFast, fast->place()); }), "Fast is not there any more.");
     EXPECT_EQ(below("outside"), QStringList("file")) << "and so is one that another has taken the place of";
+}
+
+TEST_F(Media, AreNamedWhenTheyGoInTheMiddle) {
+    const RigMedium settings{zeb::QuikDrive, "Quik", path("quik"), 0, "s3cret", false};
+    typed = "s3cret";
+    wanted = "n3w";
+    const auto drive = [this] { return shelf().find(zeb::QuikDrive, QStringLiteral("Quik")); };
+    zeb::Medium place;
+    const auto unlock = [&] { media().unlockMedium(zeb::QuikDrive, place); };
+    const struct {
+        const char* sentence;
+        std::function<void()> before;
+        std::function<void()> act;
+    } cases[] = {{"unlocked", [] {}, unlock},
+                 {"given a password", [] {}, [&] { media().setMediumPassword(zeb::QuikDrive, place); }},
+                 {"formatted", unlock, [&] { media().formatMedium(zeb::QuikDrive, place); }}};
+    for (const auto& one : cases) {
+        place = putIn(settings)->place();
+        EXPECT_TRUE(drive()->isLocked()) << "nothing of it was half done before it is " << one.sentence;
+        one.before();
+        meanwhile = [&] { shelf().pullOut(drive()); };
+        EXPECT_EQ(thrownBy(one.act), "Quik is not there any more.") << one.sentence;
+        meanwhile = [] {};
+    }
+    EXPECT_EQ(putIn(settings)->name(), "Quik");
+    unlock();
+    EXPECT_FALSE(drive()->isLocked()) << "the old password is the one that it has";
+
+    const DOCKEY key = open()->getKey();
+    QFile::rename(path("card"), path("moved"));
+    EXPECT_FALSE(host.doc(key)->image().getPreview(9, 64, 48, 1, 0, {}).isNull()) << "it says what is amiss";
+    shelf().lookAround();
+    EXPECT_EQ(host.desk.take(), QStringList("CARD was pulled out. Its recordings are closed."));
+}
+
+TEST_F(Media, StandBesideEachOther) {
+    open();
+    QDir().mkpath(path("second"));
+    for (const QString& name : QDir(path("card/sub")).entryList({"Gate*"}, QDir::Files)) {
+        QFile::copy(path("card/sub/" + name), path("second/" + name));
+    }
+    const MediaShelf::Held second = putIn({RigMedium::SdCard, "SECOND", path("second"), 0, {}, false});
+    EXPECT_EQ(host.host.docManager().getSdDriveMask(), 0x18U);
+    host.host.docManager().openSdDrive(second->place().drive);
+    EXPECT_EQ(listed().size(), 1) << "one is open at a time";
+    EXPECT_EQ(host.doc(listed()[0])->storage().getMediumData(1)->driveName, "E:");
+    shelf().pullOut(card());
+    EXPECT_EQ(listed().size(), 1) << "the other one going closes nothing";
+    EXPECT_EQ(host.desk.take(), QStringList());
+    EXPECT_EQ(putIn({RigMedium::SdCard, "CARD", path("card"), 0, {}, false})->driveName(), "D:");
 }
 
 TEST_F(Media, CostASaveWhatItReadsFromThem) {
