@@ -30,7 +30,7 @@ protected:
         all.hasInformation = true;
         return all;
     }
-    void save(const SaveOrders& all) { EXPECT_EQ(run(all).filter("saved").size(), 1); }
+    void save(const SaveOrders& all) { EXPECT_EQ(run(all).filter("saved").size(), 1) << reason.toStdString(); }
     /// Answers its key.
     DOCKEY open(const QString& name = "Gate.cih") {
         RealDisk disk;
@@ -240,6 +240,8 @@ TEST_F(SavingReading, LosesTheRestOfARecordingByNameAndShowsWhy) {
         {"gone", [](const QString& file) { QFile::remove(file); }, "No such file"},
         {"damaged", [](const QString& file) { write(file, "\x89PNG\r\n"); }, "it is no picture"},
         {"another size", [](const QString& file) { QImage(5, 5, QImage::Format_RGB32).save(file); }, "not as large"},
+        {"a link", [this](const QString& file) { QFile::rename(file, path("x")), QFile::link(path("x"), file); },
+         "it is a link"},
         {"a pipe", [](const QString& file) { QFile::remove(file), outputOf("mkfifo", {file}); }, "not a regular file"},
     };
     for (const auto& one : cases) {
@@ -267,6 +269,15 @@ TEST_F(SavingReading, LosesTheRestOfARecordingByNameAndShowsWhy) {
     open();
     EXPECT_EQ(run(conversion("bmp", 8, false)), QStringList("Gate: 2 of 4 up to 0, lost"));
     EXPECT_TRUE(reason.contains("fewer pages")) << reason.toStdString();
+    close();
+    removeFiles();
+    save(ordersOf("tiff"));
+    open();
+    QFile told(path("Gate.cih"));
+    EXPECT_TRUE(told.open(QIODevice::ReadWrite));
+    EXPECT_TRUE(told.setFileTime(QDateTime::fromSecsSinceEpoch(1), QFileDevice::FileModificationTime));
+    EXPECT_EQ(run(conversion("bmp", 8, false)), QStringList("Gate: 0 of 4 up to 0, lost"));
+    EXPECT_TRUE(reason.contains("it has changed since the recording was opened")) << reason.toStdString();
 }
 
 TEST_F(SavingReading, LosesWhatIsClosedMeanwhile) {

@@ -3287,5 +3287,9 @@
         <source>%1 is write protected.</source>
         <translation>%1 は書き込み禁止です。</translation>
     </message>
+    <message>
+        <source>it has changed since the recording was opened</source>
+        <translation>記録を開いた後に変更されました</translation>
+    </message>
 </context>
 </TS>

@@ -52,7 +52,8 @@ private:
 FilePictures::FilePictures(const QString& path, RecordingInformation information)
     : m_information(std::move(information)),
       m_folder(RealDisk().canonical(QFileInfo(path).path() % QLatin1Char('/'))),
-      m_name(QFileInfo(path).fileName()) {}
+      m_name(QFileInfo(path).fileName()),
+      m_written(QFileInfo(path).lastModified()) {}
 
 FilePictures::~FilePictures() {
     Kept::instance().forget(this);
@@ -77,14 +78,23 @@ QStringList FilePictures::files() const {
 
 QImage FilePictures::read(int index) const {
     const SaveFormat& format = m_information.format;
-    if (format.isOneFile()) {
-        return readPage(index);
-    }
-    return readPicture(m_folder % m_information.files.value(index), format.id, m_information.recording.resolution);
+    const QString path = m_folder % m_information.files.value(format.isOneFile() ? 0 : index);
+    checkTrusted(path);
+    return format.isOneFile() ? readPage(path, index)
+                              : readPicture(path, format.id, m_information.recording.resolution);
 }
 
-QImage FilePictures::readPage(int index) const {
-    const QString path = m_folder % m_information.files.first();
+void FilePictures::checkTrusted(const QString& path) const {
+    const QFileInfo telling(m_folder % m_name);
+    if (telling.exists() && telling.lastModified() != m_written) {
+        throw FileError(telling.filePath(), TextKey("it has changed since the recording was opened"));
+    }
+    if (QFileInfo(path).isSymLink()) {
+        throw FileError(path, TextKey("it is a link"));
+    }
+}
+
+QImage FilePictures::readPage(const QString& path, int index) const {
     quint64 page = 0;
     {
         const std::lock_guard lock(m_mutex);

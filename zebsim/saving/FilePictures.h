@@ -3,7 +3,6 @@
 #include "InformationFile.h"
 #include "RecordedPictures.h"
 
-
 #include <mutex>
 
 /// The pictures of a recording that this program has saved. Those that were read last are kept, of all recordings
@@ -21,7 +20,9 @@ public:
 
 private:
     QImage read(int index) const;
-    QImage readPage(int index) const;
+    /// Throws `FileError` when the file that tells of them has been written since, or `path` leads out of its folder.
+    void checkTrusted(const QString& path) const;
+    QImage readPage(const QString& path, int index) const;
     /// With the bits that the camera has filled as the upper ones.
     QImage aligned(QImage picture) const;
 
@@ -29,6 +30,7 @@ private:
     /// Without links, with a '/' at its end.
     const QString m_folder;
     const QString m_name;
+    const QDateTime m_written;
     /// Of one file for all frames, once it was looked at.
     mutable QList<quint64> m_pages;
     mutable std::mutex m_mutex;
