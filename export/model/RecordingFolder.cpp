@@ -21,7 +21,8 @@ QStringList recordingsIn(const QString& folder) {
     }
     const QDir dir(folder);
     QStringList paths;
-    for (const QString& name : dir.entryList(patterns, QDir::Files, QDir::Name)) {
+    // What is no file, or has a name that can't be read, is told as one that can't be opened.
+    for (const QString& name : dir.entryList(patterns, QDir::Files | QDir::System, QDir::Name)) {
         paths.append(dir.filePath(name));
     }
     return paths;

@@ -207,7 +207,8 @@ TEST_F(MediaSlots, TakeFoldersThatTheUserChooses) {
         write(folder.filePath(name), "");
     }
     QDir(folder.path()).mkdir("folder.cih");
-    EXPECT_EQ(opened(folder.path()), QStringList({"files F/a.CIHX F/b[1].cih", "opened"}));
+    EXPECT_TRUE(QFile::link(folder.filePath("none"), folder.filePath("link.cih")));
+    EXPECT_EQ(opened(folder.path()), QStringList({"files F/a.CIHX F/b[1].cih F/link.cih", "opened"}));
     EXPECT_EQ(prefs["import/dir"], folder.path());
     EXPECT_EQ(opened(""), QStringList("not"));
 

@@ -46,7 +46,7 @@ QPair<quint64, quint64> folderId(const QString& path) {
 
 void addRecordings(const QString& folder, int levels, QStringList& paths) {
     const QFileInfoList entries =
-        QDir(folder).entryInfoList(QDir::Files | QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name);
+        QDir(folder).entryInfoList(QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot, QDir::Name);
     for (const QFileInfo& entry : entries) {
         if (entry.isSymLink()) {
             continue;
@@ -54,7 +54,7 @@ void addRecordings(const QString& folder, int levels, QStringList& paths) {
         const QString suffix = entry.suffix().toLower();
         if (entry.isDir() && levels > 1) {
             addRecordings(entry.filePath(), levels - 1, paths);
-        } else if (entry.isFile() && (suffix == QLatin1String("cih") || suffix == QLatin1String("cihx"))) {
+        } else if (!entry.isDir() && (suffix == QLatin1String("cih") || suffix == QLatin1String("cihx"))) {
             paths.append(entry.filePath());
         }
     }
