@@ -112,6 +112,17 @@ page(() => {
     same(zeb.files(mediumFolder('quik')).map(file => file.name), ['.zebsim-medium'], 'its label alone is left');
     check(rows().length === 2, 'and its recordings are gone from the table');
 
+    // One that goes while its question stands.
+    zeb.modal(() => {
+        zeb.medium('quikDrive', {name: 'Quik', in: false});
+        zeb.push('OK');
+    });
+    zeb.messages();
+    choose('Quik');
+    zeb.click('#format');
+    same(zeb.dialog(`byId('note').textContent`), 'Quik was pulled out.', 'the page says so');
+    check(!texts().some(text => text.includes('ormatting')), 'and nothing else happens');
+
     choose('Fast');
     same([why('format'), why('password')], ['It is write protected.', 'Only a QUIK Drive has a password.'], 'why not');
     choose('CARD <1>');
@@ -162,3 +173,10 @@ zeb.modal(() => {
 });
 zeb.menu('File > Media > Put in...');
 same(zeb.medium('sd', {name: 'By & hand'}).used, 0, 'it is in');
+let refusal = '';
+try {
+    zeb.medium('sd', {name: 'By & hand', protected: true});
+} catch (error) {
+    refusal = String(error);
+}
+check(refusal.includes('protected of a medium that is in needs its folder'), `nothing is passed over: ${refusal}`);

@@ -150,7 +150,7 @@ TEST_F(Media, AreNamedWhenTheyGoInTheMiddle) {
     const DOCKEY key = open()->getKey();
     QFile::rename(path("card"), path("moved"));
     EXPECT_FALSE(host.doc(key)->image().getPreview(9, 64, 48, 1, 0, {}).isNull()) << "it says what is amiss";
-    shelf().lookAround();
+    EXPECT_TRUE(until([this] { return listed().isEmpty(); })) << "nobody has to ask for it";
     EXPECT_EQ(host.desk.take(), QStringList("CARD was pulled out. Its recordings are closed."));
 }
 
