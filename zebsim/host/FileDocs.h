@@ -31,6 +31,8 @@ public:
     void openAndShow(const QStringList& paths);
     /// What stood in the file that tells of one that is open.
     RecordingInformation told(DOCKEY key) const { return m_told.value(key); }
+    /// Throws `JsonError` when that file, at `path`, tells something else by now, or nothing.
+    void checkUnchanged(DOCKEY key, const QString& path) const;
     void close(const DocKeyList& keys);
     void closeAll();
 
@@ -38,8 +40,6 @@ private:
     /// By the paths of the files that tell of them.
     QHash<QString, DOCKEY> present() const;
     void openOne(const QString& path, TargetDisk& disk, bool isHidden, Opened& opened);
-    /// Throws `JsonError` when its file tells something else, or nothing.
-    void checkUnchanged(DOCKEY key, const QString& path) const;
 
     const HostContext& m_host;
     QHash<DOCKEY, RecordingInformation> m_told;

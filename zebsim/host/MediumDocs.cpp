@@ -117,6 +117,7 @@ bool MediumDocs::remove(const Camera& camera) {
         throw CameraError(camera.name(), TextKey("another folder has taken the place of the one with its files"));
     }
     const DOCKEY key = camera.key();
+    m_host.docs.files().checkUnchanged(key, path);
     const qint64 used = medium->use().used;
     const QStringList files = m_host.docs.files().told(key).files;
     const auto isLeft = [&folder](const QString& name) {

@@ -30,7 +30,8 @@ public:
     bool isChangeable(const Camera& camera) const;
     /// `sequence` counts those of one name, from 1. Throws.
     void setName(const Camera& camera, const QString& name, int sequence);
-    /// Its files and the document go. False when a file stays; what tells of them stays as well then.
+    /// Its files and the document go. False when a file stays; what tells of them stays as well then. Throws when they
+    /// are not those that were opened.
     bool remove(const Camera& camera);
     /// Tells the user which of the recordings, by `datano` and `serialno`, stand in files below `folder`.
     void checkSaved(const QVariantList& records, const QString& folder) const;
