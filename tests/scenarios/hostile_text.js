@@ -194,7 +194,7 @@ same(zeb.results(), labels.map(label => `${label}: 2 frames saved in ${card}`), 
 const file = `${TEXTS.image} %1 $&`.replace(/\//g, '_');
 zeb.writeFile(`${card}/${file}.cih`, zeb.readFile(`${card}/shot_C01H1S001.cih`));
 zeb.mode('live');
-const medium = `${TEXTS.quotes} <b>card</b>`;
+const medium = `${TEXTS.quotes} $& <b>card</b>`;
 zeb.medium('sd', {name: medium, folder: card, capacity: '64 MB'});
 zeb.modal(() => {
     zeb.click('#media tr');

@@ -111,7 +111,7 @@ const mediaPage = Object.assign(dialogFrame(fileopendialog), {
     },
 
     tellGone(medium) {
-        this.tell(translate('%1 was pulled out.').replace('%1', () => medium.name));
+        this.tell(translate('%1 was pulled out.').replace(/%1/, () => medium.name));
     },
 
     show() {
@@ -162,7 +162,7 @@ const mediaPage = Object.assign(dialogFrame(fileopendialog), {
 
     format() {
         const medium = mediaList.chosen();
-        const question = translate('Erase all data of %1?').replace('%1', () => medium.name);
+        const question = translate('Erase all data of %1?').replace(/%1/, () => medium.name);
         if (!fileopendialog.confirm([question, medium.folder].join('\n'))) {
             return;
         }

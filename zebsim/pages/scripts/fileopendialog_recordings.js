@@ -101,7 +101,7 @@ const mediaRecordings = recordingList('recordings', {
             !fileopendialog.checkDeleteFile(record.dockey) || !fileopendialog.deleteFile(record.dockey));
         if (left.length > 0) {
             mediaPage.tell(translate('%1 could not be deleted.')
-                .replace('%1', () => left.map(record => record.filename).join(', ')));
+                .replace(/%1/, () => left.map(record => record.filename).join(', ')));
         }
         mediaPage.lookAtRoom(true);
         mediaPage.update();
