@@ -1,3 +1,4 @@
+#include "AppWindows.h"
 #include "Camera.h"
 #include "CommandLine.h"
 #include "LogDock.h"
@@ -129,6 +130,25 @@ TEST_F(ViewerTest, TakesAStandingQuestionForRefusedWhenItIsClosed) {
         agreed = simulator.host().confirm("Sure?");
     });
     EXPECT_FALSE(agreed);
+}
+
+TEST_F(ViewerTest, ClosesWithAPageInFront) {
+    for (const bool isSave : {true, false}) {
+        Simulator closed{line};
+        SimHost& host = closed.host();
+        host.prefs().setValue("alert/unsavedrecording", false);
+        host.appStatus().enterMode(zeb::MemoryMode);
+        host.cameras().find(1)->change({{"connected", true}, {"recorded", true}});
+        QStringList pages;
+        ModalWatcher watcher;
+        QObject::connect(&watcher, &ModalWatcher::stands, [&](QDialog* page) {
+            pages << page->metaObject()->className();
+            closed.window().close();
+        });
+        EXPECT_EQ(closed.run([&] { isSave ? host.saveFiles() : closed.windows().openMedia(); }), 0);
+        EXPECT_EQ(pages, QStringList(isSave ? "GUI_SaveDialog" : "GUI_WebViewDialog"));
+        EXPECT_TRUE(host.isApplicationClosing());
+    }
 }
 
 TEST_F(ViewerTest, ShowsAndSwitchesTheModeAndTheStyle) {

@@ -180,8 +180,11 @@ TEST_F(SavingVideoFormats, HoldAllFramesOrAreNotOffered) {
             }
         }
     }
-    const QStringList never = isLong ? QStringList() : QStringList{"avi MPEG2 1000", "mp4 RAW 25"};
-    EXPECT_EQ(refused, never);
+    const QStringList never{"avi MPEG2 1000", "mp4 RAW 25"};
+    const QStringList neverOfAll{"avi MPEG2 1000", "mov MPEG2 1000",    "mp4 RAW 1",       "mp4 RAW 25",
+                                 "mp4 RAW 29.97",  "mp4 RAW 1000",      "mp4 MPEG2 1000",  "mp4 HUFFYUV 1",
+                                 "mp4 HUFFYUV 25", "mp4 HUFFYUV 29.97", "mp4 HUFFYUV 1000"};
+    EXPECT_EQ(refused, isLong ? neverOfAll : never);
 }
 
 TEST_F(SavingVideo, KeepsColoursThatAreToBeKept) {
