@@ -49,15 +49,14 @@ void JS_Mediator_FileDialog::selectCFDrive(int cfType, int driveNo, int slotNo, 
 
 void JS_Mediator_FileDialog::openMedium(int kind, const zeb::Medium& medium, const QString& question) {
     ZebMedia& media = host().docManager().media();
-    zeb::Medium open;
-    const bool isAnotherOpen = media.getOpenMedium(kind, open) && !zeb::isSamePlace(open, medium);
-    if (isAnotherOpen && !userAgreesToClose(question, open.name)) {
-        return;
-    }
     if (media.isMediumLocked(kind, medium) && !media.unlockMedium(kind, medium)) {
         return;
     }
-    if (isAnotherOpen) {
+    zeb::Medium open;
+    if (media.getOpenMedium(kind, open) && !zeb::isSamePlace(open, medium)) {
+        if (!userAgreesToClose(question, open.name)) {
+            return;
+        }
         media.closeMedium(kind);
     }
     media.openMedium(kind, medium);

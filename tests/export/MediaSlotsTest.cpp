@@ -158,15 +158,14 @@ TEST_F(MediaSlots, OpenOneAtATime) {
         {"in place of another", -1, {{1, 3, 0, "Q 2"}}, false, true, quik, {fd, "close 1", "open 1 1/2/0 Q <1>"}},
         {"that stays", -1, {{1, 3, 0, "Q 2"}}, false, false, quik, {fd}},
         {"with a password", -1, {}, true, true, cfast, {"unlock 2 4/5/6 C 1", "open 2 4/5/6 C 1"}},
-        {"that nobody knows", -1, {}, true, false, cfast, {"unlock 2 4/5/6 C 1"}},
-        {"and stays locked where the other stays", -1, {{1, 3, 0, "Q 2"}}, true, false, quik, {fd}},
-        {"in place of it",
+        {"that nobody knows", -1, {{1, 3, 0, "Q 2"}}, true, false, cfast, {"unlock 2 4/5/6 C 1"}},
+        {"in place of another that is open",
          -1,
          {{1, 3, 0, "Q 2"}},
          true,
          true,
          quik,
-         {fd, "unlock 1 1/2/0 Q <1>", "close 1", "open 1 1/2/0 Q <1>"}},
+         {"unlock 1 1/2/0 Q <1>", fd, "close 1", "open 1 1/2/0 Q <1>"}},
         {"the other kind", -1, {{1, 3, 0, "Q 2"}}, false, false, cfast, {cf}},
     };
     bridge.getSDDrives();
