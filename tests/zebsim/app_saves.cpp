@@ -71,8 +71,7 @@ protected:
                 set(QString("%1addnumber%2digits").arg(name, number), anyBelow(5));
             }
         }
-        set("multipathdevicelist",
-            QString("%1|right?%2|left").arg(host.camera(1).address(), host.camera(2).address()));
+        set("multipathdevicelist", QString("%1|right?%2|left").arg(host.camera(1).address(), host.camera(2).address()));
         set("multipathlist", QString("right|%1?left|%2").arg(folder.filePath("root0"), folder.filePath("root2")));
         host.host.prefs().assume("save/substitutefolder", anyBelow(8) == 0 ? folder.filePath("substitute") : "");
         set("filename", any() ? "shot" : "");

@@ -43,5 +43,5 @@ bool mayLetGoOfRecording(SimHost& host, const QString& question) {
 
 bool mayEndConversion(SimHost& host) {
     return !host.saver().isBgConverting() ||
-        host.messages().agrees(uiText("Recordings are being converted. Close the viewer all the same?"), {});
+           host.messages().agrees(uiText("Recordings are being converted. Close the viewer all the same?"), {});
 }
