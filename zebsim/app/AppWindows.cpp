@@ -107,7 +107,7 @@ void AppWindows::openRecordings() {
 void AppWindows::openMedia() {
     auto* dialog = new GUI_WebViewDialog(&m_host, TextKey("Media"), QStringLiteral("qrc:/fileopendialog.html"),
                                          new JS_Mediator_MediaDialog(m_host), m_host.getMainWindow());
-    dialog->resize(MediaSize);
+    resizeOnScreen(*dialog, MediaSize);
     takeFreshKeysOnly(*dialog->getWebView());
     runDialog(m_host, dialog);
 }

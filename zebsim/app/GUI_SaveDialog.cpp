@@ -12,20 +12,11 @@
 #include "UiText.h"
 
 #include <QPointer>
-#include <QScreen>
 
 namespace {
 
 constexpr QSize Wanted{1180, 700};
 constexpr QSize SettingsSize{560, 560};
-/// For the frame of the window.
-constexpr QSize Frame{20, 60};
-
-/// As large as it wants to be, on a screen that has room for it.
-void resizeFor(QWidget& dialog, const QSize& size) {
-    const QScreen* screen = dialog.screen();
-    dialog.resize(screen ? size.boundedTo(screen->availableSize() - Frame) : size);
-}
 
 QString pageOf(const QString& name) {
     return QStringLiteral("qrc:/%1.html").arg(name);
@@ -38,7 +29,7 @@ GUI_SaveDialog::GUI_SaveDialog(SimHost& host, const QString& title, JS_Mediator_
       m_simHost(host),
       m_saving(*bridge) {
     addSaveOptions(host, *this);
-    resizeFor(*this, Wanted);
+    resizeOnScreen(*this, Wanted);
     takeFreshKeysOnly(*getWebView());
     connect(bridge, &JS_Mediator_SaveDialog::saveWanted, this, &GUI_SaveDialog::save);
 }
@@ -74,6 +65,6 @@ void runSnapShotSettings(SimHost& host) {
     auto* dialog = new GUI_WebViewDialog(&host, TextKey("Snapshots"), pageOf(name),
                                          new JS_Mediator_FileDialog(&host, name), host.getMainWindow());
     addSaveOptions(host, *dialog);
-    resizeFor(*dialog, SettingsSize);
+    resizeOnScreen(*dialog, SettingsSize);
     runDialog(host, dialog);
 }
