@@ -201,14 +201,14 @@ zeb.modal(() => {
     zeb.click('#open');
     same(textsIn('#media b', 'textContent'), [`D: ${medium}`], 'a medium');
     same(textsIn('#media td', 'title'), [card], 'its folder');
-    const cells = textsIn('#recordings tbody td:nth-child(5)', 'textContent');
+    const cells = textsIn('#recordings tbody td:nth-child(6)', 'textContent');
     check(cells.length === 17 && cells.includes(`${file}.cih`), `files: ${cells}`);
-    const names = textsIn('#recordings tbody td:nth-child(3)', 'textContent');
+    const names = textsIn('#recordings tbody td:nth-child(4)', 'textContent');
     NAMES.forEach(name => check(names.includes(TEXTS[name]), `${name}: a camera of the medium`));
     zeb.click('#data_name');
     zeb.paste(TEXTS.script);
     zeb.click('#name');
-    check(textsIn('#recordings tbody td:nth-child(4)', 'textContent').includes(TEXTS.script), 'a name that is typed');
+    check(textsIn('#recordings tbody td:nth-child(5)', 'textContent').includes(TEXTS.script), 'a name that is typed');
     zeb.medium('sd', {name: medium, in: false});
     zeb.wait(600);
     same(D("byId('note').textContent"), `${medium} was pulled out.`, 'the note');

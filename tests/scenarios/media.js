@@ -11,7 +11,7 @@ function same(value, expected, text) {
 
 const texts = () => zeb.messages().map(message => message.text);
 const rows = () => zeb.dialog(`Array.from(document.querySelectorAll('#recordings tbody tr')).map(row =>
-    Array.from(row.children).map(cell => cell.textContent).slice(1, 5).join('|'))`);
+    Array.from(row.children).map(cell => cell.textContent).slice(1, 6).join('|'))`);
 const why = id => zeb.dialog(`byId('${id}').disabled && byId('${id}').title`);
 const choose = name => zeb.click(`#media tr[data-name$="/${name}"]`);
 
@@ -63,13 +63,13 @@ page(() => {
     choose('CARD <1>');
     zeb.click('#open');
     check(zeb.dialog(`document.querySelectorAll('#recordings tbody tr').length`) === 2, `both are there: ${rows()}`);
-    check(rows()[0].startsWith('1|Gate <b>1</b>||'), `as text: ${rows()[0]}`);
+    check(rows()[0].startsWith('1|D:|Gate <b>1</b>||'), `as text: ${rows()[0]}`);
     zeb.wait(400);
     check(zeb.dialog(`byId('preview').naturalWidth`) > 0, 'and can be looked at');
     zeb.click('#data_name');
     zeb.type('Crash <i>7</i>');
     zeb.click('#name');
-    check(rows()[0].startsWith('1|Gate <b>1</b>|Crash <i>7</i>|'), `the name is on the card: ${rows()[0]}`);
+    check(rows()[0].startsWith('1|D:|Gate <b>1</b>|Crash <i>7</i>|'), `the name is on the card: ${rows()[0]}`);
 
     zeb.click('#recordings tr[data-name]:nth-child(2)');
     same(zeb.dialog(`byId('data_name').value`), '', 'each recording shows its own name');

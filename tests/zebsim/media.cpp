@@ -263,11 +263,13 @@ TEST_F(Media, NameCompareAndDeleteTheirRecordings) {
 }
 
 TEST_F(Media, KnowWhichOfTheirFramesAreSaved) {
-    const auto save = [this](DOCKEY key, const QString& name, int step, int first, int last) {
+    const auto shoot = [this] { host.camera(1).keep(1, host.camera(1).recording()); };
+    QString format = "png";
+    const auto save = [this, &format](DOCKEY key, const QString& name, int step, int first, int last) {
         if (key == 1) {
             prepare(1, "Gate", first, last);
         }
-        SaveOrders all{saveFormat("png"), tracksOfEach(saveSources(host.host.cameras(), {key}))};
+        SaveOrders all{saveFormat(format), tracksOfEach(saveSources(host.host.cameras(), {key}))};
         all.hasInformation = true;
         all.tracks[0].step = step;
         all.tracks[0].stem = path(name);
@@ -295,11 +297,17 @@ TEST_F(Media, KnowWhichOfTheirFramesAreSaved) {
         {"the thinned out one imported", 2, [&] { save(listed()[0], "copies/Copy", 1, 0, 0); }, "saved"},
         {"and half of it", 2, [&] { save(listed()[0], "copies/Copy", 3, 0, 0); },
          "saved in part, without the frames 1-2, 4-5"},
+        {"one overwritten", 1, [&] { copy(1, 0, 12), write(fifth, "x"); }, "saved in part, without the frames 5"},
+        {"with loss", 1, [&] { format = "jpeg", copy(1, 0, 12); }, "saved whole only with loss of quality"},
+        {"the next shoot", 1, [&] { shoot(), copy(1, 0, 12); }, "not saved"},
         {"none", 1, [] {}, "not saved"},
         {"one at another rate", 1, [&] { copy(1, 0, 12), replaceIn(path("copies/Copy.cih"), "1000", "500"); },
          "not saved"},
     };
+    prepare(1, "Gate", 0, 12);
+    shoot();
     for (const auto& one : cases) {
+        format = "png";
         save(1, "fast/Gate", one.step, 0, 12);
         media().openMedium(zeb::CFast, place);
         one.copy();
@@ -316,16 +324,16 @@ TEST_F(Media, TakeNothingThatTheyHaveNoRoomFor) {
     const qint64 room = disk.folder(path("card/new/run")).available;
     EXPECT_EQ(room, (1 << 20) - card()->use().used);
     MediaRoom full(shelf());
-    EXPECT_EQ(full.fault(path("elsewhere/a")), "");
-    EXPECT_EQ(full.fault(path("card/a")), "");
+    EXPECT_EQ(full.fault(path("elsewhere/a"), room * 2), "");
+    EXPECT_EQ(full.fault(path("card/a"), room * 2 / 3), "");
     write(path("card/a"), QByteArray(int(room * 2 / 3), 'x'));
-    EXPECT_EQ(full.fault(path("card/sub/b")), qt_error_string(ENOSPC)) << "one more of that size has no room";
+    EXPECT_EQ(full.fault(path("card/sub/b"), room * 2 / 3), qt_error_string(ENOSPC));
     shelf().pullOut(card());
-    EXPECT_EQ(full.fault(path("card/c")), qt_error_string(ENODEV));
+    EXPECT_EQ(full.fault(path("card/c"), 0), qt_error_string(ENODEV));
 
     putIn({zeb::CFast, "Fast", path("fast"), 0, {}, true});
     EXPECT_EQ(disk.folder(path("fast/run")).state, TargetDisk::Folder::ReadOnly);
-    EXPECT_EQ(MediaRoom(shelf()).fault(path("fast/a")), qt_error_string(EROFS));
+    EXPECT_EQ(MediaRoom(shelf()).fault(path("fast/a"), 0), qt_error_string(EROFS));
 }
 
 TEST_F(Media, AreRefusedWithWhy) {

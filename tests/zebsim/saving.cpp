@@ -167,7 +167,7 @@ TEST_F(Saving, LosesNoOtherTrackByAFileOrFolderThatCannotBeWritten) {
         SaveOrders wanted = orders();
         wanted.tracks[0].stem = path(one.stem);
         wanted.mayReplace = {path("Gate_00000.png")};
-        wanted.diskFault = [this](const QString&) {
+        wanted.diskFault = [this](const QString&, qint64) {
             if (QDir(path("gone")).entryList(QDir::Files).size() == 5) {
                 QDir().rename(path("gone"), path("away"));
             }
@@ -320,7 +320,7 @@ TEST(SavingToASlowDisk, WaitsForItNoLongerWhenItIsCancelled) {
     test.host.faults().plant(FaultPlan::Disk, "write", {{}, std::numeric_limits<int>::max(), false});
     SaveOrders wanted = test.orders();
     std::atomic<bool> isWriting{false};
-    wanted.diskFault = [&](const QString&) {
+    wanted.diskFault = [&](const QString&, qint64) {
         isWriting = true;
         return test.host.faults().suffer(FaultPlan::Disk, "write", test.clock);
     };
@@ -347,7 +347,7 @@ TEST(SavingWithoutThreads, FailsByNameOrGoesOnWithThoseThereAre) {
             wanted.tracks = tracksOfLayout(saveSources(test.host.cameras()), "Layout");
             wanted.tracks.front().stem = test.folder.filePath("Layout");
         }
-        wanted.diskFault = [](const QString&) { return allowThreads(false), QString(); };
+        wanted.diskFault = [](const QString&, qint64) { return allowThreads(false), QString(); };
         allowThreads(layout);
         SaveJob job(test.host.cameras(), wanted);
         job.start();
@@ -365,7 +365,7 @@ TEST_F(Saving, EndsWithTheFrameAtWhichItIsCancelled) {
         SaveOrders wanted = orders();
         wanted.tracks.erase(wanted.tracks.begin());
         std::unique_ptr<SaveJob> job;
-        wanted.diskFault = [&](const QString&) {
+        wanted.diskFault = [&](const QString&, qint64) {
             QMetaObject::invokeMethod(
                 qApp, [&] { files().size() == frames - 1 ? job->cancel() : void(); }, Qt::BlockingQueuedConnection);
             return QString();

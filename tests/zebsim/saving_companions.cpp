@@ -97,7 +97,7 @@ TEST_F(SavingCompanions, StandOnlyBesideWhatIsComplete) {
     alone.tracks[0].stem = path("a");
     int writes = 0;
     int failing = 0;
-    alone.diskFault = [&](const QString&) { return ++writes == failing ? QString("no") : QString(); };
+    alone.diskFault = [&](const QString&, qint64) { return ++writes == failing ? QString("no") : QString(); };
     const char* const failed[] = {"a_00000.bmp", "a_00001.bmp", "a_00002.bmp", "a_small.jpg", "a.cih"};
     for (failing = 1; failing <= 5; ++failing) {
         writes = 0;
@@ -126,7 +126,7 @@ TEST_F(SavingCompanions, StandOnlyBesideWhatIsComplete) {
     EXPECT_TRUE(host.camera(3).recording()->saved);
     removeFiles();
     alone.tracks[0].from = 0;
-    alone.diskFault = [&](const QString&) {
+    alone.diskFault = [&](const QString&, qint64) {
         if (files().size() == 4) {
             QFile::remove(path("a_small.jpg"));
         }

@@ -285,7 +285,7 @@ TEST_F(SavingReading, LosesWhatIsClosedMeanwhile) {
     save(ordersOf("png"));
     open();
     SaveOrders all = conversion("bmp", 8, false);
-    all.diskFault = [this](const QString&) {
+    all.diskFault = [this](const QString&, qint64) {
         QMetaObject::invokeMethod(
             qApp, [this] { close(); }, Qt::BlockingQueuedConnection);
         return QString();

@@ -86,9 +86,9 @@ SaveOrders ordersOf(SimHost& host, zeb::FileType type) {
     SaveOrders orders = chosenOrders(pref, nameFamily(type));
     orders.encoder = VideoEncoder::installed();
     const auto room = std::make_shared<MediaRoom>(host.shelf());
-    orders.diskFault = [&host, room](const QString& path) {
+    orders.diskFault = [&host, room](const QString& path, qint64 bytes) {
         const QString planted = host.faults().suffer(FaultPlan::Disk, "write", host.clock());
-        return planted.isEmpty() ? room->fault(path) : planted;
+        return planted.isEmpty() ? room->fault(path, bytes) : planted;
     };
     return orders;
 }

@@ -6,6 +6,8 @@
 #include "RecordSettings.h"
 #include "TextKey.h"
 
+#include <QUuid>
+
 #include <algorithm>
 #include <atomic>
 
@@ -206,6 +208,7 @@ void Camera::keep(PARTITIONNUMBER partition, const std::optional<Recording>& rec
     if (recording) {
         kept.recorded = true;
         kept.serial = ++lastSerial;
+        kept.shoot = QUuid::createUuid().toString(QUuid::WithoutBraces);
         kept.recordedRate = recording->rate;
         kept.recordedShutter = recording->shutter;
         kept.recordedResolution = recording->resolution;

@@ -52,6 +52,8 @@ public:
     CustomInfo recordedCustomInfo;
     /// As `Recording::serial`; only a recording changes it.
     quint64 serial = 0;
+    /// As `Recording::shoot`.
+    QString shoot;
     /// First and last frame of each selected range of this recording that stands in files; only a save adds one.
     QList<QPoint> savedRanges;
     /// Null for what lies in the memory of a camera.

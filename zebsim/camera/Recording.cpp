@@ -30,6 +30,7 @@ std::optional<Recording> Recording::of(const CameraState& state, const CameraMod
     recording.trigger = state.recordedTrigger;
     recording.zero = state.triggerOffsetEnabled ? state.triggerOffset : state.recordedTrigger;
     recording.serial = state.serial;
+    recording.shoot = state.shoot;
     recording.selectedFirst = std::clamp(selected.x(), range.x(), range.y());
     recording.selectedLast = std::clamp(selected.y(), range.x(), range.y());
     recording.saved =

@@ -28,6 +28,8 @@ struct Recording {
     int zero = 0;
     /// Tells it from any other that a camera of this program has kept; 0 when nobody has recorded it.
     quint64 serial = 0;
+    /// Tells it from any other anywhere; empty when nobody has recorded it.
+    QString shoot;
     /// What is to be kept: first <= selectedFirst <= selectedLast <= last.
     int selectedFirst = 0;
     int selectedLast = 0;

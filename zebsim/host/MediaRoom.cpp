@@ -20,7 +20,7 @@ MediaRoom::Filled& MediaRoom::filled(const QString& folder) {
     return *found;
 }
 
-QString MediaRoom::fault(const QString& path) {
+QString MediaRoom::fault(const QString& path, qint64 bytes) {
     const std::lock_guard lock(m_mutex);
     Filled& filled = this->filled(QFileInfo(path).path());
     if (!filled.medium) {
@@ -32,20 +32,11 @@ QString MediaRoom::fault(const QString& path) {
     if (filled.medium->isProtected()) {
         return qt_error_string(EROFS);
     }
-    for (const QString& begun : QStringList(std::exchange(filled.begun, {}))) {
-        const QFileInfo file(begun);
-        if (file.exists()) {
-            filled.room -= file.size();
-            filled.largest = std::max(filled.largest, file.size());
-        } else {
-            filled.begun.append(begun);
-        }
-    }
-    // Those that are on their way need room as well.
-    const qint64 needed = std::max<qint64>(1, filled.largest * (filled.begun.size() + 1));
+    // An old file that goes leaves its room.
+    const qint64 needed = bytes - QFileInfo(path).size();
     if (filled.room < needed) {
         return qt_error_string(ENOSPC);
     }
-    filled.begun.append(path);
+    filled.room -= needed;
     return {};
 }

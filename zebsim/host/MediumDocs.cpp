@@ -27,7 +27,11 @@ QString sourceOf(const Camera& camera) {
 
 void MediumDocs::open(const MediaShelf::Held& medium) {
     const FileDocs::Opened opened = m_host.docs.files().open(medium->recordings());
+    // Those of other media that are open have theirs.
     int number = 0;
+    for (const Doc& doc : qAsConst(m_docs)) {
+        number = std::max(number, doc.data.dataNo);
+    }
     for (const DOCKEY key : opened.keys) {
         const auto camera = m_host.cameras.hold(key);
         if (!camera) {
@@ -157,8 +161,12 @@ QString MediumDocs::lineOf(DOCKEY key, const QVariantMap& record, const SavedChe
         const QString gone = TextKey("%1: the recording is not there any more");
         return m_host.translator.translate(gone).arg(record.value(QStringLiteral("datano")).toString());
     }
-    const SavedCheck::Result result = check.of(m_host.docs.files().told(key), *medium);
+    const RecordingInformation told = m_host.docs.files().told(key);
+    const SavedCheck::Result result = check.of(told, *medium, SavedCheck::WithoutLoss);
     const QString name = camera->name() % QStringLiteral(", ") % m_docs[key].data.fileName;
+    if (!result.isWhole() && check.of(told, *medium, SavedCheck::All).isWhole()) {
+        return m_host.translator.translate(TextKey("%1: saved whole only with loss of quality")).arg(name);
+    }
     if (result.saved > 0 && !result.isWhole()) {
         const QString part = TextKey("%1: saved in part, without the frames %2");
         return m_host.translator.translate(part).arg(name, result.missing());

@@ -6,10 +6,24 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <QImageReader>
 
 namespace {
 
 constexpr int MostRows = 8;
+
+/// Neither is known to be of another shoot.
+bool isOfOneShoot(const RecordingInformation& left, const RecordingInformation& right) {
+    const QString& shoot = left.recording.shoot;
+    const QString& other = right.recording.shoot;
+    return shoot.isEmpty() || other.isEmpty() || shoot == other;
+}
+
+/// It keeps less than the camera has given.
+bool isWithLoss(const SaveFormat& format) {
+    const bool isWholeVideo = format.video.isLossless || format.video.used().quality == VideoCodec::Whole;
+    return format.isVideo() ? !isWholeVideo : format.id == QLatin1String("jpeg");
+}
 
 /// The same recording of the same camera, numbered in the same way.
 bool isSame(const RecordingInformation& left, const RecordingInformation& right) {
@@ -18,13 +32,14 @@ bool isSame(const RecordingInformation& left, const RecordingInformation& right)
     return left.camera == right.camera && left.address == right.address && left.model == right.model &&
            of.partition == other.partition && of.rate == other.rate && of.shutter == other.shutter &&
            of.resolution == other.resolution && of.trigger == other.trigger && of.first == other.first &&
-           of.last == other.last;
+           of.last == other.last && isOfOneShoot(left, right);
 }
 
-/// A link leads to pictures that may be the ones about to go.
-bool isThere(const QString& path) {
+/// A link leads to pictures that may be the ones about to go. Of a picture its head is read.
+bool isThere(const QString& path, const RecordingInformation& saved) {
     const QFileInfo file(path);
-    return file.isFile() && !file.isSymLink() && file.size() > 0;
+    const bool isFile = file.isFile() && !file.isSymLink() && file.size() > 0;
+    return isFile && (saved.format.isVideo() || QImageReader(path).size() == saved.recording.resolution);
 }
 
 /// Numbers with one distance between them.
@@ -51,7 +66,7 @@ SavedCheck::SavedCheck(const QString& folder) {
     }
 }
 
-SavedCheck::Result SavedCheck::of(const RecordingInformation& whole, const Medium& medium) const {
+SavedCheck::Result SavedCheck::of(const RecordingInformation& whole, const Medium& medium, Copies copies) const {
     const RecordingInformation opened = asOpened(whole);
     Result result;
     result.first = opened.recording.first;
@@ -59,7 +74,8 @@ SavedCheck::Result SavedCheck::of(const RecordingInformation& whole, const Mediu
     for (const Copy& copy : m_copies) {
         const RecordingInformation& saved = copy.information;
         const bool isOfCamera = isSame(whole, saved);
-        if (!isOfCamera && !isSame(opened, saved)) {
+        const bool isLeftOut = copies == WithoutLoss && isWithLoss(saved.format) && !isWithLoss(whole.format);
+        if (isLeftOut || (!isOfCamera && !isSame(opened, saved))) {
             continue;
         }
         if (medium.holds(copy.folder)) {
@@ -73,7 +89,7 @@ SavedCheck::Result SavedCheck::of(const RecordingInformation& whole, const Mediu
             const auto frame = std::size_t(away / numbered.step);
             const bool isMember = away >= 0 && away % numbered.step == 0 && frame < result.frames.size();
             const QString name = saved.files.value(saved.format.isOneFile() ? 0 : index);
-            if (isMember && !result.frames[frame] && isThere(QDir(copy.folder).filePath(name))) {
+            if (isMember && !result.frames[frame] && isThere(QDir(copy.folder).filePath(name), saved)) {
                 result.frames[frame] = true;
                 ++result.saved;
             }

@@ -28,8 +28,10 @@ public:
         /// Numbers of the frames that are not saved, as "0-8, 12, 14, ..., 20"; cut when there are many rows of them.
         QString missing() const;
     };
+    /// Which copies count: all, or those alone that have every bit of the recording.
+    enum Copies { All, WithoutLoss };
     /// Of a recording on that medium, by what its own file tells.
-    Result of(const RecordingInformation& whole, const Medium& medium) const;
+    Result of(const RecordingInformation& whole, const Medium& medium, Copies copies) const;
 
 private:
     struct Copy {

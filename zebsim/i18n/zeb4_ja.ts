@@ -3291,5 +3291,9 @@
         <source>it has changed since the recording was opened</source>
         <translation>記録を開いた後に変更されました</translation>
     </message>
+    <message>
+        <source>%1: saved whole only with loss of quality</source>
+        <translation>%1：すべてのフレームは画質の劣化した形でのみ保存されています</translation>
+    </message>
 </context>
 </TS>

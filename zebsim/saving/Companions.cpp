@@ -28,7 +28,7 @@ void write(const SaveOrders& orders, const QString& path, const QByteArray& byte
     if (bytes.isEmpty()) {
         throw FileError(path, TextKey("the picture has no such form"));
     }
-    meetDiskFault(orders, path);
+    meetDiskFault(orders, path, bytes.size());
     writeFile(path, bytes, overOf(orders, path));
 }
 

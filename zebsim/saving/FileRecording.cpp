@@ -57,6 +57,7 @@ CameraState stateOf(const RecordingInformation& information, const QString& path
     }
     state.partitionNames << information.partitionName;
     state.recorded = true;
+    state.shoot = recording.shoot;
     state.recordedRange = {recording.first, recording.last};
     state.recordedTrigger = recording.trigger;
     state.triggerOffsetEnabled = recording.zero != recording.trigger;

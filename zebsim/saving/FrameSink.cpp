@@ -23,7 +23,7 @@ public:
         }
         const Over over = overOf(m_orders, file);
         return [this, file, bytes, over] {
-            meetDiskFault(m_orders, file);
+            meetDiskFault(m_orders, file, bytes.size());
             writeFile(file, bytes, over);
         };
     }
@@ -45,8 +45,8 @@ std::unique_ptr<FrameSink> FrameSink::of(const SaveOrders& orders, const SaveTra
     return std::make_unique<PictureSink>(orders, track);
 }
 
-void meetDiskFault(const SaveOrders& orders, const QString& path) {
-    const QString reason = orders.diskFault(path);
+void meetDiskFault(const SaveOrders& orders, const QString& path, qint64 bytes) {
+    const QString reason = orders.diskFault(path, bytes);
     if (!reason.isEmpty()) {
         throw FileError(path, reason);
     }

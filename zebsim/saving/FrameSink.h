@@ -31,7 +31,7 @@ public:
     static std::unique_ptr<FrameSink> of(const SaveOrders& orders, const SaveTrack& track, const StopSource& stop);
 };
 
-/// Throws when the disk does not take the file of that path.
-void meetDiskFault(const SaveOrders& orders, const QString& path);
+/// Throws when the disk does not take a file of so many bytes at that path.
+void meetDiskFault(const SaveOrders& orders, const QString& path, qint64 bytes);
 /// Whether the orders let an old file of that path go.
 Over overOf(const SaveOrders& orders, const QString& path);

@@ -61,6 +61,9 @@ QByteArray RecordingInformation::toJson() const {
     members.add("partition", double(recording.partition));
     members.add("partitionName", partitionName);
     members.add("items", QJsonArray::fromVariantList(recording.customInfo.toPlain()));
+    if (!recording.shoot.isEmpty()) {
+        members.add("shoot", recording.shoot);
+    }
     members.add("date", date.toString(Qt::ISODate));
     members.add("format", plain(format));
     members.add("files", QJsonArray::fromStringList(files));

@@ -173,6 +173,8 @@ RecordingInformation readInformation(const QString& path) {
     recording.zero = member("zero").number(-MostNumber, MostNumber);
     recording.partition = PARTITIONNUMBER(member("partition").number(1, MostPartitions));
     recording.customInfo = itemsOf(member("items"));
+    // Files that were written before have none.
+    recording.shoot = node.has(QStringLiteral("shoot")) ? member("shoot").text() : QString();
     information.date = dateOf(member("date"));
     information.format = formatOf(member("format"), path);
     readFrames(node, information);

@@ -5,6 +5,7 @@
 #include "SaveOrders.h"
 #include "TextKey.h"
 
+#include <QFileInfo>
 #include <QImage>
 
 namespace {
@@ -47,7 +48,7 @@ void MultiPageTiffSink::finish() {
     if (m_pages) {
         m_pages.reset();
         m_device.close();
-        meetDiskFault(m_orders, m_path);
+        meetDiskFault(m_orders, m_path, QFileInfo(m_file->temporaryPath()).size());
         m_file->complete();
     }
 }

@@ -27,7 +27,9 @@ struct SaveOrders {
     /// What can't be saved, a line each for the list of results.
     QStringList absent = {};
     /// Answers why the next file, of that path, can't be written; empty when it can. Any thread.
-    std::function<QString(const QString& path)> diskFault = [](const QString&) { return QString(); };
+    std::function<QString(const QString& path, qint64 bytes)> diskFault = [](const QString&, qint64) {
+        return QString();
+    };
     /// Of the tracks that are added.
     FrameSkipRule skip = {};
     LayoutRule layout = {};

@@ -5,6 +5,7 @@
 #include "TextKey.h"
 #include "UiText.h"
 
+#include <QFileInfo>
 #include <QImage>
 
 VideoSink::VideoSink(const SaveOrders& orders, const SaveTrack& track, const StopSource& stop)
@@ -37,7 +38,7 @@ void VideoSink::finish() {
             fail();
         }
         countFrames();
-        meetDiskFault(m_orders, m_path);
+        meetDiskFault(m_orders, m_path, QFileInfo(m_file->temporaryPath()).size());
         m_file->complete();
     }
 }

@@ -10,6 +10,7 @@ const mediaRecordings = recordingList('recordings', {
     begin() {
         this.beginList(mediaPage);
         byId('data_name').addEventListener('input', () => mediaPage.guarded(() => this.showButtons()));
+        byId('data_name').addEventListener('keydown', event => event.keyCode === 13 && byId('name').click());
         mediaPage.onClick('import', () => fileopendialog.importTarget(this.worked().map(record => record.dockey)));
         mediaPage.onClick('check', () => fileopendialog.savedCheck(this.worked()
             .filter(record => fileopendialog.canSavedCheck(record.dockey))
@@ -34,6 +35,7 @@ const mediaRecordings = recordingList('recordings', {
     rowOf(record) {
         const row = document.createElement('tr');
         dialogList.addCell(row, record.datano, 'number');
+        dialogList.addCell(row, record.drivename, 'medium');
         dialogList.addCell(row, record.name);
         dialogList.addCell(row, record.dataname);
         dialogList.addCell(row, record.filename);
@@ -93,7 +95,8 @@ const mediaRecordings = recordingList('recordings', {
     deleteFiles() {
         const worked = this.worked();
         const question = translate('Delete %1 recordings from their media?').replace('%1', worked.length);
-        const names = worked.map(record => `${record.name}: ${record.filename}`).slice(0, 10);
+        const names = worked.slice(0, 10).map(record =>
+            `${record.drivename} ${record.name}: ${record.filename}, ${record.date} ${record.time}`);
         if (!fileopendialog.confirm([question].concat(names).join('\n'))) {
             return;
         }
