@@ -4,12 +4,12 @@
 #include "SaveFilesModel.h"
 #include "SaveFilesView.h"
 #include "SaveTexts.h"
+#include "SizeText.h"
 #include "UiText.h"
 
 #include <QDialogButtonBox>
 #include <QLabel>
 #include <QListWidget>
-#include <QLocale>
 #include <QPushButton>
 #include <QStyle>
 #include <QVBoxLayout>
@@ -45,8 +45,7 @@ PlanDialog::PlanDialog(SavePlan plan, QWidget* parent) : QDialog(parent), m_plan
 }
 
 QString PlanDialog::summary() const {
-    return uiText("Files: %1, about %2")
-        .arg(QString::number(m_plan.files), QLocale().formattedDataSize(m_plan.allBytes));
+    return uiText("Files: %1, about %2").arg(QString::number(m_plan.files), sizeText(m_plan.allBytes));
 }
 
 QListWidget* PlanDialog::makeEntries() {

@@ -2,11 +2,11 @@
 
 #include "LastShoot.h"
 #include "SavePlan.h"
+#include "SizeText.h"
 #include "UiText.h"
 
 #include <QDir>
 #include <QFileInfo>
-#include <QLocale>
 
 namespace {
 
@@ -19,9 +19,8 @@ QString folderOf(const SaveOrders& orders, int track) {
 }
 
 QString spaceText(const PlanEntry& entry) {
-    const QLocale locale;
     return uiText("There is not enough space in %1: %2 are needed, %3 are free.")
-        .arg(nativePath(entry.path), locale.formattedDataSize(entry.count), locale.formattedDataSize(entry.available));
+        .arg(nativePath(entry.path), sizeText(entry.count), sizeText(entry.available));
 }
 
 }  // namespace
@@ -115,5 +114,5 @@ QString plannedText(const SavePlan& plan, std::size_t track) {
     const SaveOrders& orders = plan.orders;
     return uiText("%1: %2 files, about %3, in %4")
         .arg(orders.tracks[track].name, QString::number(orders.filesOf(orders.tracks[track])),
-             QLocale().formattedDataSize(plan.bytes[track]), folderOf(orders, int(track)));
+             sizeText(plan.bytes[track]), folderOf(orders, int(track)));
 }

@@ -7,6 +7,7 @@
 #include "GUI_SaveDialog.h"
 #include "HostDisk.h"
 #include "InformationFile.h"
+#include "MediaRoom.h"
 #include "SaveOrders.h"
 #include "SaveTargets.h"
 #include "SimHost.h"
@@ -75,6 +76,10 @@ QString writePicture(SimHost& host, const CameraFrame& frame, const QImage& imag
     HostDisk disk(host.shelf(), host.cameras());
     if (disk.isOpen(QFileInfo(file).canonicalFilePath())) {
         throw FileError(file, TextKey("it is of a recording that is open"));
+    }
+    const QString fault = MediaRoom(host.shelf()).fault(file, bytes.size());
+    if (!fault.isEmpty()) {
+        throw FileError(file, fault);
     }
     writeFile(file, bytes, over);
     if (orders.hasInformation && camera) {

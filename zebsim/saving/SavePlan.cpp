@@ -23,7 +23,9 @@ constexpr int MostBytesOfName = 255;
 constexpr int MostBytesOfPath = 4095;
 /// Pictures differ in size, and others write to the disk as well.
 constexpr double Reserve = 1.25;
-constexpr qint64 LeastReserve = 16 << 20;
+constexpr qint64 MostKeptFree = 16 << 20;
+/// Of what is free, where that is less.
+constexpr qint64 PartKeptFree = 64;
 
 qint64 pixelsOf(const QSize& size) {
     return qint64(size.width()) * size.height();
@@ -78,8 +80,9 @@ public:
 
     void lookAtSpace() {
         for (const Space& fileSystem : std::as_const(m_space)) {
-            if (fileSystem.needed > fileSystem.available) {
-                PlanEntry entry{PlanEntry::NoSpace, {}, fileSystem.folder, fileSystem.needed};
+            const qint64 needed = fileSystem.needed + std::min(MostKeptFree, fileSystem.available / PartKeptFree);
+            if (needed > fileSystem.available) {
+                PlanEntry entry{PlanEntry::NoSpace, {}, fileSystem.folder, needed};
                 entry.available = fileSystem.available;
                 m_plan.entries.append(entry);
             }
@@ -89,7 +92,7 @@ public:
 private:
     struct Space {
         QString folder;
-        qint64 needed = LeastReserve;
+        qint64 needed = 0;
         qint64 available = 0;
     };
 
