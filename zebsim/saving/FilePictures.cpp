@@ -60,6 +60,7 @@ FilePictures::~FilePictures() {
 }
 
 QImage FilePictures::picture(int frame) const {
+    checkUnchanged();
     QImage picture = Kept::instance().find(this, frame);
     if (picture.isNull()) {
         picture = aligned(read(frame - m_information.recording.first));
@@ -79,18 +80,17 @@ QStringList FilePictures::files() const {
 QImage FilePictures::read(int index) const {
     const SaveFormat& format = m_information.format;
     const QString path = m_folder % m_information.files.value(format.isOneFile() ? 0 : index);
-    checkTrusted(path);
+    if (QFileInfo(path).isSymLink()) {
+        throw FileError(path, TextKey("it is a link"));
+    }
     return format.isOneFile() ? readPage(path, index)
                               : readPicture(path, format.id, m_information.recording.resolution);
 }
 
-void FilePictures::checkTrusted(const QString& path) const {
+void FilePictures::checkUnchanged() const {
     const QFileInfo telling(m_folder % m_name);
     if (telling.exists() && telling.lastModified() != m_written) {
         throw FileError(telling.filePath(), TextKey("it has changed since the recording was opened"));
-    }
-    if (QFileInfo(path).isSymLink()) {
-        throw FileError(path, TextKey("it is a link"));
     }
 }
 
