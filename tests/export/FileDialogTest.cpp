@@ -44,7 +44,8 @@ protected:
     /// These members of each record.
     static QStringList told(const QString& text, const QStringList& members) {
         QStringList lines;
-        for (const QJsonValue& record : records(text)) {
+        const QJsonArray all = records(text);
+        for (const QJsonValue& record : all) {
             QStringList values;
             for (const QString& member : members) {
                 EXPECT_TRUE(record.toObject().contains(member)) << member.toStdString();

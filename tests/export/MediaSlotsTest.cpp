@@ -82,7 +82,9 @@ protected:
         media.onCloseMedium = noting("close", agrees);
         media.onFormatMedium = noting("format", agrees);
         media.onSetMediumPassword = noting("password", password);
-        media.onGetMediumUse = [](int kind, const zeb::Medium&) { return zeb::MediumUse{1000, 375, kind * 1024}; };
+        media.onGetMediumUse = [](int kind, const zeb::Medium&) {
+            return zeb::MediumUse{1000, 375, qint64(kind) * 1024};
+        };
         media.onOpenFiles = noting("files", agrees);
         media.onCheckSaved = noting("check", agrees);
         media.onImportDocs = noting("import", agrees);

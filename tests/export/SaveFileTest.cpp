@@ -102,7 +102,8 @@ TEST_F(SaveFile, ListsFoldersByCamera) {
     host.setPrefString("export/multipathdevicelist", doc(2)->control().getAddress(1) + "|low?nobody|top");
     const auto chosen = [this] {
         QStringList texts;
-        for (const QJsonValue& record : QJsonDocument::fromJson(options.getMultiPathDevices().toUtf8()).array()) {
+        const QJsonArray devices = QJsonDocument::fromJson(options.getMultiPathDevices().toUtf8()).array();
+        for (const QJsonValue& record : devices) {
             texts << QStringLiteral("%1 %2 %3 %4 %5")
                          .arg(record["recid"].toInt())
                          .arg(record["device"].toString(), record["pathselector"].toString("none"),
