@@ -11,6 +11,7 @@
 #include "PluginSignal.h"
 #include "SaveJob.h"
 #include "SaveProgress.h"
+#include "SaveTargets.h"
 #include "SaveTexts.h"
 #include "SimHost.h"
 #include "Style.h"
@@ -170,6 +171,7 @@ void SaveDesk::beginAgain(const std::vector<SaveTrack>& tracks) {
     SaveOrders orders = m_job->orders();
     orders.tracks = tracks;
     orders.mayReplace.clear();
+    orders.diskFault = diskFaultOf(m_host);
     std::vector<TrackTarget> targets;
     for (const SaveTrack& track : tracks) {
         const QFileInfo stem(track.stem);

@@ -85,15 +85,18 @@ SaveOrders ordersOf(SimHost& host, zeb::FileType type) {
     const auto pref = [&host](const QString& key) { return host.prefs().value(key); };
     SaveOrders orders = chosenOrders(pref, nameFamily(type));
     orders.encoder = VideoEncoder::installed();
-    const auto room = std::make_shared<MediaRoom>(host.shelf());
-    orders.diskFault = [&host, room](const QString& path, qint64 bytes) {
-        const QString planted = host.faults().suffer(FaultPlan::Disk, "write", host.clock());
-        return planted.isEmpty() ? room->fault(path, bytes) : planted;
-    };
+    orders.diskFault = diskFaultOf(host);
     return orders;
 }
 
 }  // namespace
+
+std::function<QString(const QString& path, qint64 bytes)> diskFaultOf(SimHost& host) {
+    return [&host, room = std::make_shared<MediaRoom>(host.shelf())](const QString& path, qint64 bytes) {
+        const QString planted = host.faults().suffer(FaultPlan::Disk, "write", host.clock());
+        return planted.isEmpty() ? room->fault(path, bytes) : planted;
+    };
+}
 
 zeb::FileType fileType(const SaveTrack& track) {
     return track.isLayout ? zeb::LayoutFile : track.isConversion ? zeb::ConvertedFile : zeb::ImageFile;

@@ -5,6 +5,7 @@
 #include <QDateTime>
 #include <QStringList>
 
+#include <functional>
 #include <memory>
 #include <vector>
 
@@ -13,6 +14,9 @@ class SimHost;
 
 /// What the track's files are written for.
 zeb::FileType fileType(const SaveTrack& track);
+
+/// Why the disk does not take a file: as is planted, or for want of room on a medium, which is looked at from now on.
+std::function<QString(const QString& path, qint64 bytes)> diskFaultOf(SimHost& host);
 
 /// The plan for `tracks`, of which there is one at least, as the preferences say. A camera that does not tell what its
 /// names need is left out. The names are promised by the save that began last. GUI thread.

@@ -74,8 +74,10 @@ QString writePicture(SimHost& host, const CameraFrame& frame, const QImage& imag
         throw FileError(informationPath(stem), TextKey("a file of that name is there already"));
     }
     HostDisk disk(host.shelf(), host.cameras());
-    if (disk.isOpen(QFileInfo(file).canonicalFilePath())) {
-        throw FileError(file, TextKey("it is of a recording that is open"));
+    for (const QString& path : {file, informationPath(stem)}) {
+        if (disk.isOpen(QFileInfo(path).canonicalFilePath())) {
+            throw FileError(path, TextKey("it is of a recording that is open"));
+        }
     }
     const QString fault = MediaRoom(host.shelf()).fault(file, bytes.size());
     if (!fault.isEmpty()) {

@@ -37,8 +37,8 @@ FileDocs::Opened FileDocs::open(const QStringList& paths, bool isHidden) {
         const QString file = canonical.isEmpty() ? path : canonical;
         try {
             if (there.contains(file)) {
-                opened.keys.append(there[file]);
                 checkUnchanged(there[file], file);
+                opened.keys.append(there[file]);
             } else {
                 openOne(file, disk, isHidden, opened);
                 there.insert(file, opened.keys.last());

@@ -1,9 +1,12 @@
 #pragma once
 
 #include "MediaShelf.h"
-#include "TargetDisk.h"
 
-#include <QStringList>
+#include <QString>
+
+#include <map>
+#include <memory>
+#include <mutex>
 
 /// How full the media become while one save writes to them. Any thread.
 class MediaRoom {

@@ -1,8 +1,10 @@
 #include "SavedCheck.h"
 
+#include "FileError.h"
 #include "InformationReader.h"
 #include "JsonError.h"
 #include "Medium.h"
+#include "PictureReader.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -20,9 +22,8 @@ bool isOfOneShoot(const RecordingInformation& left, const RecordingInformation& 
 }
 
 /// It keeps less than the camera has given.
-bool isWithLoss(const SaveFormat& format) {
-    const bool isWholeVideo = format.video.isLossless || format.video.used().quality == VideoCodec::Whole;
-    return format.isVideo() ? !isWholeVideo : format.id == QLatin1String("jpeg");
+bool isWithLoss(const RecordingInformation& saved) {
+    return saved.format.id == QLatin1String("jpeg") || saved.format.options.depth < saved.bits;
 }
 
 /// The same recording of the same camera, numbered in the same way.
@@ -35,11 +36,20 @@ bool isSame(const RecordingInformation& left, const RecordingInformation& right)
            of.last == other.last && isOfOneShoot(left, right);
 }
 
-/// A link leads to pictures that may be the ones about to go. Of a picture its head is read.
-bool isThere(const QString& path, const RecordingInformation& saved) {
+/// A link leads to pictures that may be the ones about to go. Of a picture in a file of its own the head is read.
+int picturesIn(const QString& path, const RecordingInformation& saved) {
     const QFileInfo file(path);
-    const bool isFile = file.isFile() && !file.isSymLink() && file.size() > 0;
-    return isFile && (saved.format.isVideo() || QImageReader(path).size() == saved.recording.resolution);
+    if (!file.isFile() || file.isSymLink()) {
+        return 0;
+    }
+    if (!saved.format.isOneFile()) {
+        return QImageReader(path).size() == saved.recording.resolution ? 1 : 0;
+    }
+    try {
+        return tiffPages(path, saved.frames).size();
+    } catch (const FileError&) {
+        return 0;
+    }
 }
 
 /// Numbers with one distance between them.
@@ -49,7 +59,7 @@ QString rowText(int first, int count, int step) {
         return QString::number(first);
     }
     if (step == 1) {
-        return QStringLiteral("%1-%2").arg(first).arg(last);
+        return QStringLiteral("%1 \u2026 %2").arg(first).arg(last);
     }
     return QStringLiteral("%1, %2, ..., %3").arg(first).arg(first + step).arg(last);
 }
@@ -69,12 +79,12 @@ SavedCheck::SavedCheck(const QString& folder) {
 SavedCheck::Result SavedCheck::of(const RecordingInformation& whole, const Medium& medium, Copies copies) const {
     const RecordingInformation opened = asOpened(whole);
     Result result;
-    result.first = opened.recording.first;
+    result.first = opened.recording.first - opened.recording.zero;
     result.frames.resize(std::size_t(whole.frames));
     for (const Copy& copy : m_copies) {
         const RecordingInformation& saved = copy.information;
         const bool isOfCamera = isSame(whole, saved);
-        const bool isLeftOut = copies == WithoutLoss && isWithLoss(saved.format) && !isWithLoss(whole.format);
+        const bool isLeftOut = copies == WithoutLoss && isWithLoss(saved);
         if (isLeftOut || (!isOfCamera && !isSame(opened, saved))) {
             continue;
         }
@@ -88,14 +98,24 @@ SavedCheck::Result SavedCheck::of(const RecordingInformation& whole, const Mediu
                 qint64(index) * saved.step + saved.recording.selectedFirst - numbered.recording.selectedFirst;
             const auto frame = std::size_t(away / numbered.step);
             const bool isMember = away >= 0 && away % numbered.step == 0 && frame < result.frames.size();
-            const QString name = saved.files.value(saved.format.isOneFile() ? 0 : index);
-            if (isMember && !result.frames[frame] && isThere(QDir(copy.folder).filePath(name), saved)) {
+            if (isMember && !result.frames[frame] && isThere(copy, index)) {
                 result.frames[frame] = true;
                 ++result.saved;
             }
         }
     }
     return result;
+}
+
+bool SavedCheck::isThere(const Copy& copy, int index) const {
+    const RecordingInformation& saved = copy.information;
+    const bool isOneFile = saved.format.isOneFile();
+    const QString path = QDir(copy.folder).filePath(saved.files.value(isOneFile ? 0 : index));
+    auto known = m_pictures.find(path);
+    if (known == m_pictures.end()) {
+        known = m_pictures.insert(path, picturesIn(path, saved));
+    }
+    return (isOneFile ? index : 0) < *known;
 }
 
 QString SavedCheck::Result::missing() const {

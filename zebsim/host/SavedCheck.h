@@ -2,6 +2,7 @@
 
 #include "InformationFile.h"
 
+#include <QHash>
 #include <QList>
 
 #include <vector>
@@ -25,7 +26,7 @@ public:
         bool isOnMedium = false;
 
         bool isWhole() const { return saved == int(frames.size()); }
-        /// Numbers of the frames that are not saved, as "0-8, 12, 14, ..., 20"; cut when there are many rows of them.
+        /// Numbers of the frames that are not saved, as "0 … 8, 12, 14, ..., 20"; cut when there are many rows of them.
         QString missing() const;
     };
     /// Which copies count: all, or those alone that have every bit of the recording.
@@ -38,5 +39,10 @@ private:
         QString folder;
         RecordingInformation information;
     };
+    /// Whether the picture of that frame stands there.
+    bool isThere(const Copy& copy, int index) const;
+
     QList<Copy> m_copies;
+    /// How many there are in a file, once it was looked at.
+    mutable QHash<QString, int> m_pictures;
 };

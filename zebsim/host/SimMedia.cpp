@@ -42,7 +42,7 @@ MediaShelf::Held SimMedia::there(int kind, const zeb::Medium& medium) const {
     MediaShelf::Held held = m_host.shelf.find(kind, medium);
     if (!held) {
         // Whoever lost it may know no more than its place.
-        const QString text = m_host.translator.translate(mediumKinds()[std::size_t(kind)].text);
+        const QString text = m_host.translator.translate(mediumKinds().at(std::size_t(kind)).text);
         const QString place = QStringLiteral("%1 %2").arg(text).arg(medium.drive);
         refuse(TextKey("%1 is not there any more."), medium.name.isEmpty() ? place : medium.name);
     }
