@@ -34,7 +34,8 @@ public:
     /// Its recordings become documents, and are none any more. To open throws when the medium is gone or locked.
     virtual void openMedium(int kind, const zeb::Medium& medium) = 0;
     virtual void closeMedium(int kind) = 0;
-    /// Erases all that is on it. False when that failed.
+    /// Erases all that is on it. False when some of it stays. Throws why one stays as it is: it is gone, write
+    /// protected, locked, or of a kind that its camera formats.
     virtual bool formatMedium(int kind, const zeb::Medium& medium) = 0;
     /// All 0 of one that is gone.
     virtual zeb::MediumUse getMediumUse(int kind, const zeb::Medium& medium) const = 0;
@@ -44,7 +45,7 @@ public:
     virtual bool hasMediumPassword(int kind, const zeb::Medium& medium) const = 0;
     /// The dialogs of a password: the one that opens the medium, true once it is open to all, and the one that gives
     /// it a new one, false when that failed. Each runs an event loop until the user has closed it. `setMediumPassword`
-    /// answers nothing when the user has given up.
+    /// answers nothing when the user has given up. Both throw when the medium is gone.
     virtual bool unlockMedium(int kind, const zeb::Medium& medium) = 0;
     virtual std::optional<bool> setMediumPassword(int kind, const zeb::Medium& medium) = 0;
 

@@ -20,7 +20,7 @@ public:
 
 private:
     QImage read(int index) const;
-    /// Throws `FileError` when the file that tells of them has been written since, or `path` leads out of its folder.
+    /// Throws `FileError` when the file that tells of them has been written since.
     void checkUnchanged() const;
     QImage readPage(const QString& path, int index) const;
     /// With the bits that the camera has filled as the upper ones.

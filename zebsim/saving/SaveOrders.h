@@ -26,7 +26,8 @@ struct SaveOrders {
     VideoEncoder encoder = {};
     /// What can't be saved, a line each for the list of results.
     QStringList absent = {};
-    /// Answers why the next file, of that path, can't be written; empty when it can. Any thread.
+    /// Answers why a file of so many bytes can't be written at that path; empty when it can. It is asked before a
+    /// picture is written, and of a file with all frames before that takes its name. Any thread.
     std::function<QString(const QString& path, qint64 bytes)> diskFault = [](const QString&, qint64) {
         return QString();
     };
