@@ -145,6 +145,13 @@ std::vector<Camera*> CameraBank::all() const {
     return m_listsFiles ? files() : ofRig();
 }
 
+Camera* CameraBank::findAmongAll(DOCKEY key) const {
+    const auto file = m_files.find(key);
+    const bool isFile = file != m_files.end();
+    const bool isAmongThem = m_listsFiles ? isFile && file->second.isListed : !isFile;
+    return isAmongThem ? find(key) : nullptr;
+}
+
 std::vector<Camera*> CameraBank::files() const {
     std::vector<Camera*> cameras;
     for (const auto& [key, file] : m_files) {

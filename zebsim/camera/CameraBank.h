@@ -69,6 +69,8 @@ public:
     HeldCameras holdConnected() const;
     /// In the order of their keys, without those that are gone or not found yet.
     std::vector<Camera*> all() const;
+    /// The one of `all` with that key; null when it is not among them. It costs no walk through the others.
+    Camera* findAmongAll(DOCKEY key) const;
     std::vector<Camera*> connected() const;
     /// Those of the rig, whatever is listed, and with those that are gone or not found.
     std::vector<Camera*> ofRig() const;

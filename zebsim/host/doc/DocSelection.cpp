@@ -4,7 +4,8 @@
 #include "CameraBank.h"
 
 bool DocSelection::isSelected(DOCKEY key) const {
-    return m_cameras.keysOf(&CameraState::selected).contains(key);
+    const Camera* camera = m_cameras.findAmongAll(key);
+    return camera != nullptr && camera->get(&CameraState::selected);
 }
 
 DOCKEY& DocSelection::kept() const {
