@@ -12,12 +12,13 @@ int ShutterText::valueIn(int list, int fraction) {
 
 QString ShutterText::label(int value) const {
     if (m_list == 1) {
-        return QStringLiteral("1/%1 sec").arg(value);
+        return QLatin1String("1/") % QString::number(value) % QLatin1String(" sec");
     }
     return value < 1000000 ? QStringLiteral("%1 \u00b5s").arg(value / 1e3) : QStringLiteral("%1 ms").arg(value / 1e6);
 }
 
 QString ShutterText::entry(int fraction) const {
     const int value = valueIn(m_list, fraction);
-    return QStringLiteral("%1;%2;%3").arg(QString::number(value), label(value), QString::number(m_list));
+    const QLatin1Char separator(';');
+    return QString::number(value) % separator % label(value) % separator % QString::number(m_list);
 }
