@@ -13,6 +13,10 @@ namespace {
 /// Between the name of a camera, a step, and what went wrong.
 const QLatin1String Separator(": ");
 
+/// What is asked of a camera it mostly knows; what it is told to do takes its time.
+constexpr std::chrono::milliseconds ForAnswers(1);
+constexpr std::chrono::milliseconds ForCommands(0);
+
 }  // namespace
 
 struct CameraSteps::Row {
@@ -39,7 +43,7 @@ DocKeyList CameraSteps::left(const DocKeyList& keys) const {
 }
 
 DocKeyList CameraSteps::ask(const QString& label, const DocKeyList& keys, const Question& question) {
-    return askAll(label, left(keys), question);
+    return askAll(label, left(keys), question, ForAnswers);
 }
 
 void CameraSteps::run(const QString& label, const DocKeyList& keys, const Step& step) {
@@ -47,15 +51,18 @@ void CameraSteps::run(const QString& label, const DocKeyList& keys, const Step& 
 }
 
 void CameraSteps::runOnAll(const QString& label, const DocKeyList& keys, const Step& step) {
-    askAll(label, keys, [&step](DOC_Interface& doc) {
-        step(doc);
-        return true;
-    });
+    askAll(
+        label, keys,
+        [&step](DOC_Interface& doc) {
+            step(doc);
+            return true;
+        },
+        ForCommands);
 }
 
 void CameraSteps::readNames(const QString& label, const DocKeyList& keys) {
     const auto read = [](Row& row) { row.name = row.doc->control().getCameraName(1); };
-    for (const Row& row : runRows(left(keys), read)) {
+    for (const Row& row : runRows(left(keys), read, ForAnswers)) {
         if (!row.failure.isEmpty()) {
             m_failures.note(lineOf(row.key, label, row.failure));
         } else if (!row.name.isEmpty()) {
@@ -77,7 +84,8 @@ QString CameraSteps::nameOf(DOCKEY key) const {
 }
 
 /// Documents are fetched here, for those from before the last step are dead.
-std::vector<CameraSteps::Row> CameraSteps::runRows(const DocKeyList& keys, const std::function<void(Row&)>& work) {
+std::vector<CameraSteps::Row> CameraSteps::runRows(const DocKeyList& keys, const std::function<void(Row&)>& work,
+                                                   std::chrono::milliseconds patience) {
     std::vector<Row> rows;
     QStringList names;
     for (const DOCKEY key : keys) {
@@ -87,23 +95,27 @@ std::vector<CameraSteps::Row> CameraSteps::runRows(const DocKeyList& keys, const
         }
     }
     {
-        const ParallelRows running(int(rows.size()), [&](int index) {
-            Row& row = rows[std::size_t(index)];
-            try {
-                work(row);
-            } catch (...) {
-                row.failure = currentFailureText();
-            }
-        });
+        const ParallelRows running(
+            int(rows.size()),
+            [&](int index) {
+                Row& row = rows[std::size_t(index)];
+                try {
+                    work(row);
+                } catch (...) {
+                    row.failure = currentFailureText();
+                }
+            },
+            ParallelRows::MostAtOnce, patience);
         m_wait.waitFor(running, names);
     }
     return rows;
 }
 
-DocKeyList CameraSteps::askAll(const QString& label, const DocKeyList& keys, const Question& question) {
+DocKeyList CameraSteps::askAll(const QString& label, const DocKeyList& keys, const Question& question,
+                               std::chrono::milliseconds patience) {
     const auto ask = [&question](Row& row) { row.answer = question(*row.doc); };
     DocKeyList yes;
-    for (const Row& row : runRows(keys, ask)) {
+    for (const Row& row : runRows(keys, ask, patience)) {
         if (!row.failure.isEmpty()) {
             m_failures.note(lineOf(row.key, label, row.failure));
             m_failed << row.key;

@@ -2,26 +2,38 @@
 
 #include <omp.h>
 #include <algorithm>
-#include <chrono>
+#include <future>
 
-ParallelRows::ParallelRows(int rows, std::function<void(int)> work, int atOnce)
+ParallelRows::ParallelRows(int rows, std::function<void(int)> work, int atOnce, std::chrono::milliseconds patience)
     : m_work(std::move(work)),
       m_states(std::size_t(rows), State::Waiting),
       m_failures(std::size_t(rows)),
       // The thread that makes a parallel region works in it, so that is none of the owner's.
-      m_worker([this, atOnce] { run(atOnce); }) {}
+      m_worker([this, atOnce, patience] { run(atOnce, patience); }) {}
 
 ParallelRows::~ParallelRows() {
     m_worker.join();
 }
 
-/// The rows wait for others, not for a core: how many threads there are is not left to the cores or the environment.
-void ParallelRows::run(int atOnce) {
-    const int rows = int(m_states.size());
-    omp_set_dynamic(0);
-#pragma omp parallel for schedule(dynamic, 1) num_threads(std::max(1, std::min(rows, atOnce)))
-    for (int i = 0; i < rows; ++i) {
-        runNext();
+/// Rows that answer at once need no threads of their own, which would cost more than they do. The others wait for
+/// somebody, not for a core: how many threads there are is not left to the cores or the environment.
+void ParallelRows::run(int atOnce, std::chrono::milliseconds patience) {
+    const auto takeRows = [this] {
+        while (runNext()) {
+        }
+    };
+    {
+        std::future<void> first;
+        if (patience.count() > 0) {
+            first = std::async(std::launch::async, takeRows);
+            first.wait_for(patience);
+        }
+        const int others = std::min(int(waiting().size()), first.valid() ? atOnce - 1 : atOnce);
+        if (others > 0) {
+            omp_set_dynamic(0);
+#pragma omp parallel num_threads(others)
+            takeRows();
+        }
     }
     const std::lock_guard lock(m_mutex);
     m_over = true;
@@ -29,10 +41,10 @@ void ParallelRows::run(int atOnce) {
 }
 
 /// Nothing may be thrown out of a parallel region.
-void ParallelRows::runNext() {
+bool ParallelRows::runNext() {
     const std::optional<std::size_t> next = beginNext();
     if (!next) {
-        return;
+        return false;
     }
     const std::size_t row = *next;
     std::exception_ptr failure;
@@ -44,16 +56,18 @@ void ParallelRows::runNext() {
     const std::lock_guard lock(m_mutex);
     m_failures[row] = failure;
     m_states[row] = State::Ended;
+    return true;
 }
 
-/// In the order of the rows, whatever share of them the region gives to a thread.
+/// In the order of the rows, whatever thread takes them.
 std::optional<std::size_t> ParallelRows::beginNext() {
     const std::lock_guard lock(m_mutex);
-    const auto waiting = std::find(m_states.begin(), m_states.end(), State::Waiting);
+    const auto waiting = std::find(m_states.begin() + m_begun, m_states.end(), State::Waiting);
     if (waiting == m_states.end()) {
         return std::nullopt;
     }
     *waiting = State::Running;
+    m_begun = waiting - m_states.begin();
     return std::size_t(waiting - m_states.begin());
 }
 

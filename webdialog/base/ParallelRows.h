@@ -1,6 +1,8 @@
 #pragma once
 
+#include <chrono>
 #include <condition_variable>
+#include <cstddef>
 #include <exception>
 #include <functional>
 #include <initializer_list>
@@ -16,8 +18,10 @@ public:
     static constexpr int MostAtOnce = 128;
 
     /// `work` gets the number of each of `rows` rows, counted from 0, on a thread of its own; at most `atOnce` of them
-    /// run at a time, and begin in their order. What it throws is kept by row.
-    ParallelRows(int rows, std::function<void(int row)> work, int atOnce = MostAtOnce);
+    /// run at a time, and begin in their order. What it throws is kept by row. With `patience` one thread takes the
+    /// rows in turn as long as that, for those that are likely to answer at once.
+    ParallelRows(int rows, std::function<void(int row)> work, int atOnce = MostAtOnce,
+                 std::chrono::milliseconds patience = {});
     /// Waits for the rows that were not left out.
     ~ParallelRows();
     ParallelRows(const ParallelRows&) = delete;
@@ -37,8 +41,9 @@ public:
 private:
     enum class State { Waiting, Running, Ended, LeftOut };
 
-    void run(int atOnce);
-    void runNext();
+    void run(int atOnce, std::chrono::milliseconds patience);
+    /// False when there was none left.
+    bool runNext();
     std::optional<std::size_t> beginNext();
     std::vector<int> rowsThatAre(std::initializer_list<State> wanted) const;
 
@@ -46,6 +51,8 @@ private:
     mutable std::mutex m_mutex;
     mutable std::condition_variable m_end;
     std::vector<State> m_states;
+    /// The last row that has begun.
+    std::ptrdiff_t m_begun = 0;
     std::vector<std::exception_ptr> m_failures;
     bool m_over = false;
     std::thread m_worker;
