@@ -100,7 +100,7 @@ void LiveControlMembers::add(Record& record, DOC_Interface& doc, bool connected,
         return;
     }
     for (const auto* list : {"frameRates", "shutterSpeeds", "resolutions", "triggerModes"}) {
-        record.setJson(QLatin1String(list), QStringLiteral("[]"));
+        record.setList(QLatin1String(list), QStringLiteral("[]"));
     }
     for (const auto* value : {"frameRate", "shutterSpeed", "resolution", "triggerMode"}) {
         record.setText(QLatin1String(value), {});
@@ -126,7 +126,7 @@ void LiveControlMembers::addFrameRates(Record& record, DOC_Interface& doc, bool 
         rates.append(current);
     }
     const Choices& choices = m_rates.get(rates, [this](const auto& list) { return rateChoices(list); });
-    record.setJson(QLatin1String("frameRates"), choices.json);
+    record.setList(QLatin1String("frameRates"), choices.json);
     record.setText(QLatin1String("frameRate"), choices.shown(QString::number(current)));
 }
 
@@ -134,7 +134,7 @@ void LiveControlMembers::addShutterSpeeds(Record& record, DOC_Interface& doc, bo
     const bool limited = !m_state.allowed.shutterSpeeds.isEmpty() && !lowLight;
     const QStringList entries = limited ? allowedShutterEntries(doc) : doc.control().getShutterSpeedEntries();
     const Choices& choices = m_shutters.get(entries, shutterChoices);
-    record.setJson(QLatin1String("shutterSpeeds"), choices.json);
+    record.setList(QLatin1String("shutterSpeeds"), choices.json);
     record.setText(QLatin1String("shutterSpeed"), choices.shown(QString::number(doc.control().getShutterSpeed())));
 }
 
@@ -143,7 +143,7 @@ void LiveControlMembers::addResolutions(Record& record, DOC_Interface& doc, bool
     const Choices limited = allowed.isEmpty() || lowLight ? Choices() : textChoices(allowed);
     const Choices& choices =
         limited.values.isEmpty() ? m_resolutions.get(doc.control().getResolutionList(), resolutionChoices) : limited;
-    record.setJson(QLatin1String("resolutions"), choices.json);
+    record.setList(QLatin1String("resolutions"), choices.json);
     record.setText(QLatin1String("resolution"), choices.shown(resolutionText(doc.control().getResolution())));
 }
 
@@ -158,7 +158,7 @@ void LiveControlMembers::addTriggerModes(Record& record, DOC_Interface& doc, boo
     }
     const Choices& choices = m_triggers.get(qMakePair(camera.getTriggerModeList(), manualSuffix),
                                             [this](const auto& key) { return triggerChoices(key.first, key.second); });
-    record.setJson(QLatin1String("triggerModes"), choices.json);
+    record.setList(QLatin1String("triggerModes"), choices.json);
     record.setText(QLatin1String("triggerMode"), choices.shown(QString::number(current)));
 }
 

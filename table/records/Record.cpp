@@ -16,25 +16,12 @@ void Record::setNumber(QLatin1String name, int number) {
     setJson(name, QString::number(number));
 }
 
-void Record::setJson(QLatin1String name, const QString& json) {
+void Record::set(QLatin1String name, const QString& json, bool isList) {
     const auto member =
-        std::find_if(m_members.begin(), m_members.end(), [name](const auto& each) { return each.first == name; });
+        std::find_if(m_members.begin(), m_members.end(), [name](const Member& each) { return each.name == name; });
     if (member != m_members.end()) {
-        member->second = json;
+        *member = {name, json, isList};
     } else {
-        m_members.append({name, json});
+        m_members.append({name, json, isList});
     }
-}
-
-void Record::appendTo(QString& json) const {
-    QLatin1Char separator('{');
-    for (const auto& member : m_members) {
-        json += separator;
-        json += QLatin1Char('"');
-        json += member.first;
-        json += QLatin1String("\":");
-        json += member.second;
-        separator = QLatin1Char(',');
-    }
-    json += m_members.isEmpty() ? QLatin1String("{}") : QLatin1String("}");
 }

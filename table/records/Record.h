@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QLatin1String>
-#include <QPair>
 #include <QString>
 #include <QVector>
 
@@ -15,10 +14,39 @@ public:
     void setFlag(QLatin1String name, bool on);
     void setNumber(QLatin1String name, int number);
     /// `json` is JSON already.
-    void setJson(QLatin1String name, const QString& json);
+    void setJson(QLatin1String name, const QString& json) { set(name, json, false); }
+    /// The same of a list that many cameras have in common.
+    void setList(QLatin1String name, const QString& json) { set(name, json, true); }
 
-    void appendTo(QString& json) const;
+    void appendTo(QString& json) const {
+        appendTo(json, [](const QString& list) -> const QString& { return list; });
+    }
+    /// With what `shortened` makes of each list in its place.
+    template <typename Shortened>
+    void appendTo(QString& json, Shortened&& shortened) const;
 
 private:
-    QVector<QPair<QLatin1String, QString>> m_members;
+    struct Member {
+        QLatin1String name;
+        QString json;
+        bool isList = false;
+    };
+
+    void set(QLatin1String name, const QString& json, bool isList);
+
+    QVector<Member> m_members;
 };
+
+template <typename Shortened>
+void Record::appendTo(QString& json, Shortened&& shortened) const {
+    QLatin1Char separator('{');
+    for (const Member& member : m_members) {
+        json += separator;
+        json += QLatin1Char('"');
+        json += member.name;
+        json += QLatin1String("\":");
+        json += member.isList ? shortened(member.json) : member.json;
+        separator = QLatin1Char(',');
+    }
+    json += m_members.isEmpty() ? QLatin1String("{}") : QLatin1String("}");
+}

@@ -40,7 +40,7 @@ RecordBuilder::RecordBuilder(ZebHost& host, TableState& state, int tab, CycleFai
 }
 
 QString RecordBuilder::sourceOf(DOCKEY key) {
-    return QStringLiteral("row %1").arg(key);
+    return QLatin1String("row ") % QString::number(key);
 }
 
 /// A source that does not answer gives none.

@@ -7,6 +7,7 @@
 #include "DOC_Interface.h"
 #include "NamedFailure.h"
 #include "RecordBuilder.h"
+#include "ShortReply.h"
 #include "TableState.h"
 #include "TextKey.h"
 #include "ZebDocManager.h"
@@ -18,6 +19,7 @@
 #include <QSet>
 
 #include <algorithm>
+#include <optional>
 
 namespace {
 
@@ -189,6 +191,10 @@ RecordModel::Answer RecordModel::build(const RecordRequest& request, const Group
     BatchRecord batch(chosen);
     Answer answer;
     QString rows;
+    std::optional<ShortReply> reply;
+    if (request.taken) {
+        reply.emplace(m_state.page, *request.taken);
+    }
     int recid = 0;
     for (const DOCKEY key : keysFor(request.filter)) {
         DOC_Interface* doc = documents.getDocAny(key);
@@ -199,12 +205,21 @@ RecordModel::Answer RecordModel::build(const RecordRequest& request, const Group
         const bool select = selectListed && unread.isEmpty();
         const RecordBuilder::Row row = builder.build(*doc, key, ++recid, select, unread);
         answer.selectionChanged = answer.selectionChanged || row.newlySelected;
-        rows += recid > 1 ? QLatin1String(",") : QLatin1String();
-        row.record.appendTo(rows);
+        if (reply) {
+            reply->add(row.record);
+        } else {
+            rows += recid > 1 ? QLatin1String(",") : QLatin1String();
+            row.record.appendTo(rows);
+        }
         batch.offer(key, row.selected, row.whole, row.record);
     }
     m_state.batchDocKey = batch.source();
     m_state.unreadBatchDocKey = batch.isChosenUnread() ? chosen : zeb::NoDocKey;
+    if (reply) {
+        reply->setBatch(batch.build(m_host));
+        answer.json = reply->finish();
+        return answer;
+    }
     answer.json = QStringLiteral("{\"records\":[") % rows % QLatin1String("],\"batch\":[");
     batch.build(m_host).appendTo(answer.json);
     answer.json += QLatin1String("]}");

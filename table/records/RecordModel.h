@@ -23,7 +23,8 @@ public:
         bool selectionChanged = false;
     };
 
-    /// The rows that `request` (JSON) asks for and the batch row. Remembers the request's group and filter.
+    /// The rows that `request` (JSON) asks for and the batch row, as a `ShortReply` when it says what the page has
+    /// taken. Remembers the request's group and filter.
     ///
     /// A camera that does not answer has a row all the same: the members that were read, and the reason as its alert.
     /// It is noted in `failures`, as are the cameras that have answered.

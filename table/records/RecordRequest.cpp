@@ -9,5 +9,9 @@ RecordRequest RecordRequest::parse(const QString& json) {
     request.group = object.value(QLatin1String("group")).toString();
     request.filter = object.value(QLatin1String("filter")).toInt();
     request.tab = object.value(QLatin1String("tab")).toInt();
+    const QJsonValue taken = object.value(QLatin1String("taken"));
+    if (taken.isDouble()) {
+        request.taken = taken.toInt();
+    }
     return request;
 }

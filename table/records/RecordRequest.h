@@ -2,6 +2,8 @@
 
 #include <QString>
 
+#include <optional>
+
 /// Tabs of the page by their numbers.
 enum RecordTab {
     CameraInfoTab = 0,
@@ -22,6 +24,8 @@ struct RecordRequest {
     QString group;
     int filter = ShowAll;
     int tab = CameraInfoTab;
+    /// Set by a page that takes short replies: the number of the last one that it has, 0 for none. See `ShortReply`.
+    std::optional<int> taken;
 
     /// What is missing or malformed stays at its default.
     static RecordRequest parse(const QString& json);

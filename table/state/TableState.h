@@ -2,6 +2,7 @@
 
 #include "AllowedValues.h"
 #include "CameraGroup.h"
+#include "PageRecords.h"
 #include "RecordAreas.h"
 #include "SyncState.h"
 #include "ZebTypes.h"
@@ -23,6 +24,8 @@ struct TableState {
     /// Of the last list of records; `UnreadGroup` until there was one.
     QString group = QLatin1String(UnreadGroup);
     int filter = 0;
+    /// What the page has of the records.
+    PageRecords page;
     QList<CameraGroup> groups;
     AllowedValues allowed;
     SyncState sync;

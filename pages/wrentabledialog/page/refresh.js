@@ -29,20 +29,10 @@ Object.assign(wrentabledialog_obj, {
         }
     },
 
-    // The reply that is the same text as the last one is that one's data. Null when it is no data at all.
+    // Null when there are none.
     fetchRecords(tabkey) {
         const filter = Number(document.getElementById('recordFilter').value);
-        const text = wrentabledialog.getRecords(JSON.stringify({ group: this.selectedGroup(), filter, tab: tabkey }));
-        const last = this.lastReply;
-        if (last && last.tab === tabkey && last.text === text) {
-            return last.data;
-        }
-        const data = parseReply(text);
-        if (!data || !Array.isArray(data.records) || !Array.isArray(data.batch)) {
-            return null;
-        }
-        this.lastReply = { tab: tabkey, text, data };
-        return data;
+        return recordReplies.ask({ group: this.selectedGroup(), filter, tab: tabkey });
     },
 
     refreshRecords_w2ui(records, batch, grid) {

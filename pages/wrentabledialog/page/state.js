@@ -1,6 +1,9 @@
 // The page's state; its functions are added by the topics that follow.
 var wrentabledialog_obj = {
-    initialize: true, // until the window's load event
+    initialize: true, // until the first rows are on the screen
+    afterPaint: [], // what is done then
+    startTab: 0, // the one that is shown before there are tabs
+    tabsExist: false, // they are made after the first rows
     activeLiveTabNumber: wrentabledialog_const_obj.cameraInfoTabNo, // to return to on entering live mode
     activeMemoryTabNumber: wrentabledialog_const_obj.memoryInfoTabNo, // to return to on entering memory mode
     RecordSelection: false, // a selection by the user is being handed to the bridge
@@ -25,7 +28,6 @@ var wrentabledialog_obj = {
     isCtsReady: false, // the last record status was CTS ready
     bandOf: null, // the view over which the user draws a rubber band; what it selects is handed on at its end
     rowPress: null, // where the button went down on a row: its view, key and element
-    lastReply: null, // of `getRecords`: its tab, its text and the data in it
     shownStyle: null, // style and mode that the style sheet was last put in for
     // What the control states make of tabs and colours; `armed` from ready on until the recording has ended.
     look: { tabsOff: false, colour: null, armed: false },
