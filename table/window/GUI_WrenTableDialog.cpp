@@ -15,6 +15,7 @@
 #include <QGuiApplication>
 #include <QPointer>
 #include <QScreen>
+#include <QTimer>
 #include <QWebFrame>
 
 #include <utility>
@@ -22,6 +23,8 @@
 namespace {
 
 constexpr QSize MinimumSize(1200, 400);
+/// From the end of the page's load to the making of the select box, milliseconds.
+constexpr int SelectBoxDelay = 200;
 const QString ReadyPref = QStringLiteral("wren/ready");
 
 QString placementPref(const char* name) {
@@ -40,10 +43,10 @@ QVector<QRect> screenGeometries() {
 
 GUI_WrenTableDialog::GUI_WrenTableDialog(ZebHost* host, const QString& title, const QString& url,
                                          JS_Mediator_WrenTableDialog* bridge, PLG_Interface* plugin)
-    : GUI_ModelessPatternDialog(host, title, url, bridge, plugin),
-      m_table(bridge),
-      m_selectBox(std::make_unique<GUI_SelectBox>(host, QStringLiteral("qrc:selectbox.html"), this)) {
-    m_selectBox->setOwner(bridge);
+    : GUI_ModelessPatternDialog(host, title, url, bridge, plugin), m_table(bridge) {
+    // The table itself comes first.
+    connect(getWebView(), &QWebView::loadFinished, this,
+            [this] { QTimer::singleShot(SelectBoxDelay, this, [this] { logFailure([this] { selectBox(); }); }); });
     setWindowFlags(windowFlags() | Qt::WindowMinMaxButtonsHint);
     setMinimumSize(MinimumSize);
     restorePlacement();
@@ -56,16 +59,26 @@ void GUI_WrenTableDialog::finishTyping() {
         QStringLiteral("typeof numberBox === 'object' && guarded(() => numberBox.finishTyping())"));
 }
 
+GUI_SelectBox& GUI_WrenTableDialog::selectBox() {
+    if (!m_selectBox) {
+        m_selectBox = std::make_unique<GUI_SelectBox>(&host(), QStringLiteral("qrc:selectbox.html"), this);
+        m_selectBox->setOwner(m_table);
+    }
+    return *m_selectBox;
+}
+
 void GUI_WrenTableDialog::showPartitionBox(const QRect& anchor) {
-    m_selectBox->showBox(int(SelectBoxType::Partition), anchor, {});
+    selectBox().showBox(int(SelectBoxType::Partition), anchor, {});
 }
 
 void GUI_WrenTableDialog::hidePartitionBox() {
-    m_selectBox->hide();
+    if (m_selectBox) {
+        m_selectBox->hide();
+    }
 }
 
 bool GUI_WrenTableDialog::isPartitionBoxShown() const {
-    return m_selectBox->isVisible();
+    return m_selectBox && m_selectBox->isVisible();
 }
 
 void GUI_WrenTableDialog::openPage() {
@@ -124,7 +137,9 @@ void GUI_WrenTableDialog::resizeEvent(QResizeEvent* event) {
 }
 
 void GUI_WrenTableDialog::takePartitionBoxAlong() {
-    m_selectBox->setParentRect(geometry());
+    if (m_selectBox) {
+        m_selectBox->setParentRect(geometry());
+    }
 }
 
 /// Where the window was when it was closed; see `placeTable` for what has changed since.

@@ -44,8 +44,10 @@ private:
     void storePlacement();
     bool mayClose();
     void takePartitionBoxAlong();
+    /// Made when it is first needed, or soon after the page stands.
+    GUI_SelectBox& selectBox();
 
     /// The bridge, which the base class owns.
     JS_Mediator_WrenTableDialog* const m_table;
-    const std::unique_ptr<GUI_SelectBox> m_selectBox;
+    std::unique_ptr<GUI_SelectBox> m_selectBox;
 };

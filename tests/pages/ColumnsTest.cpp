@@ -1,5 +1,7 @@
 #include "TablePage.h"
 
+#include <QDialog>
+
 namespace {
 
 const char* Order = "wren/column_order/cameraInfo";
@@ -99,6 +101,36 @@ TEST(PageColumns, AreDraggedToAnotherPlace) {
     EXPECT_EQ(dragged("Lock", "Resolution", 0.9), "trigger,cameraName,alert,frameRate,resolution,lock,");
     EXPECT_EQ(dragged("Lock", "Lock", 0.6), "trigger,cameraName,alert,frameRate,resolution,lock,");
     EXPECT_EQ(commands(test, page, [&] { page.pick("2", "trigger", "1"); }).size(), 1) << "its control works";
+}
+
+/// The library goes on from these sizes when an edge is dragged.
+TEST(PageColumns, AreAsWideAsTheLibraryMakesThem) {
+    const char* compared = R"js((() => {
+        const { name, box } = probe.grid();
+        const sizes = () => JSON.stringify(Array.from(box.querySelectorAll('div, tr:first-child > td, .w2ui-head'))
+            .map(element => element.getBoundingClientRect()).map(at => [at.left, at.top, at.width, at.height])
+            .concat(['overflowX', 'overflowY'].map(word =>
+                document.getElementById(`grid_${name}_records`).style[word])));
+        const own = sizes();
+        [1, 2].forEach(() => w2obj.grid.prototype.resize.call(probe.grid()));
+        return own === sizes() ? '' : `${own}\n${sizes()}`;
+    })())js";
+    for (const int cameras : {0, 3, 40}) {
+        TestHost test(connected(cameras));
+        TablePage page(test);
+        for (const int tab : {0, 1, 4}) {
+            page.show(tab);
+            for (const QSize& size : {QSize(1200, 500), QSize(1433, 900), QSize(1900, 1000)}) {
+                page.window().resize(size);
+                EXPECT_TRUE(page.until(QString("window.innerWidth === %1").arg(size.width())));
+                for (const bool shown : {true, false}) {
+                    test.host.prefs().setValue("wren/display/alert", shown);
+                    page.update();
+                    EXPECT_EQ(page.text(compared), "") << cameras << " cameras, tab " << tab << ", " << size.width();
+                }
+            }
+        }
+    }
 }
 
 }  // namespace

@@ -151,15 +151,14 @@ protected:
             {{"partitions", 4}, {"partition", 2}, {"partitionNames", QStringList{"Warm-up", "Shot"}}});
         choose(test, {"1"});
         page.update();
-        for (QWidget* child : page.window().findChildren<QWidget*>()) {
-            box = child->inherits("GUI_SelectBox") ? child : box;
-        }
-        EXPECT_TRUE(until([this] { return inBox("document.readyState") == "complete"; }));
     }
 
     void open() {
         page.run("wrentabledialog.showLivePartition(30, 400, 120, 24); return 0");
-        EXPECT_TRUE(box->isVisible());
+        for (QWidget* child : page.window().findChildren<QWidget*>()) {
+            box = child->inherits("GUI_SelectBox") ? child : box;
+        }
+        EXPECT_TRUE(until([this] { return box->isVisible(); })) << "when its page has loaded";
     }
     QVariant inBox(const QString& script) {
         return box->findChild<QWebView*>()->page()->mainFrame()->evaluateJavaScript(script);
@@ -207,6 +206,7 @@ TEST_F(PagePartitions, ShowAChoiceInTheTableAtTheNextUpdate) {
 }
 
 TEST_F(PagePartitions, WaitForAQuestionOfTheTableAndTheOtherWayRound) {
+    open();
     test.desk.whileStanding = [this] { inBox("items.slotNotifyPartition('3')"); };
     page.run("wrentabledialog.confirm('Sure?')");
     EXPECT_EQ(test.camera(1).get(&CameraState::partition), 2);

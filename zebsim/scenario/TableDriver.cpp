@@ -45,8 +45,10 @@ bool TableDriver::open() {
         return false;
     }
     // An update has been asked for by now, and is owed until the page has loaded. A message that stood before the page
-    // has let it pass.
-    const PageScript loaded(QStringLiteral("document.URL !== 'about:blank' && document.readyState === 'complete'"));
+    // has let it pass. The page makes its tabs and the like when it stands.
+    const PageScript loaded(
+        QStringLiteral("document.URL !== 'about:blank' && document.readyState === 'complete' && "
+                       "!(window.wrentabledialog_obj && wrentabledialog_obj.initialize)"));
     return waitUntil([&] { return isTrue(loaded) && !m_simulator.host().updates().isPending(); }, m_givenUp);
 }
 

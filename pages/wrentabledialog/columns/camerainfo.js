@@ -28,8 +28,6 @@ COLUMNS.connectionStatus = {
     }
 };
 
-const PAINT_MS = 20; // by then the page has drawn what was changed
-
 function changeConnection(cell, keys, connect, message) {
     const grid = wrentabledialog_obj.activeGrid();
     const key = cell.key;

@@ -100,8 +100,9 @@ const customList = {
         };
     },
 
+    // None as long as the page comes up.
     records() {
-        return this.grid.records;
+        return this.grid ? this.grid.records : [];
     },
 
     indexOf(recid) {

@@ -80,14 +80,13 @@ class Cell {
     }
 
     make() {
-        this.content = markupOf(this.kind, this.short).cloneNode(true);
-        const elements = [this.content].concat(Array.from(this.content.querySelectorAll('[part], [dockey]')));
-        elements.filter(element => element.hasAttribute('part')).forEach(element => {
-            this.parts[element.getAttribute('part')] = element;
-            element.removeAttribute('part');
-        });
-        this.bound = elements.filter(element => element.hasAttribute('dockey'));
-        this.prefixes = this.bound.map(element => element.id.startsWith('wren_') ? element.id : '');
+        const template = templateOf(this.kind, this.short);
+        this.content = template.content.cloneNode(true);
+        const inner = this.content.getElementsByTagName('*');
+        const at = place => place < 0 ? this.content : inner[place];
+        Object.keys(template.parts).forEach(part => { this.parts[part] = at(template.parts[part]); });
+        this.bound = template.bound.map(at);
+        this.prefixes = template.prefixes;
     }
 
     bind(key) {
@@ -167,14 +166,26 @@ class Cell {
     }
 }
 
-// The markup of a kind as elements, parsed once a tab.
-function markupOf(kind, short) {
-    const parsed = kind.parsed || (kind.parsed = {});
-    if (!parsed[short]) {
+// The elements of a kind, made once a tab, and the places of those that have a name or carry the key: in the order of
+// the document, -1 for the root.
+function templateOf(kind, short) {
+    const made = kind.made || (kind.made = {});
+    if (!made[short]) {
         const box = document.createElement('div');
         const markup = typeof kind.markup === 'function' ? kind.markup() : kind.markup;
         box.innerHTML = markup.replace(/\s*\n\s*/g, ' ').replace(/ ?([<>]) ?/g, '$1').replace(/\{short\}/g, short);
-        parsed[short] = box.firstElementChild;
+        const elements = Array.from(box.getElementsByTagName('*'));
+        const template = made[short] = { content: elements[0], parts: {}, bound: [], prefixes: [] };
+        elements.forEach((element, index) => {
+            if (element.hasAttribute('part')) {
+                template.parts[element.getAttribute('part')] = index - 1;
+                element.removeAttribute('part');
+            }
+            if (element.hasAttribute('dockey')) {
+                template.bound.push(index - 1);
+                template.prefixes.push(element.id.startsWith('wren_') ? element.id : '');
+            }
+        });
     }
-    return parsed[short];
+    return made[short];
 }

@@ -16,6 +16,7 @@ function listenToGrid(view) {
     box.addEventListener('input', event => onGridInput(event), true);
     box.addEventListener('focusin', event => onGridFocus(view, event), true);
     box.addEventListener('focusout', event => onGridBlur(event), true);
+    box.addEventListener('mouseover', event => event.target.closest('.w2ui-head') && view.placeHandles(), true);
 }
 
 // A click on a control ends here, so what closes on a click elsewhere is closed beforehand.
@@ -23,7 +24,7 @@ function onGridPress(view, event) {
     wrentabledialog_obj.isCursorDown = true;
     wrentabledialog_obj.beginPress(view, event);
     wrentabledialog_obj.closeFloating();
-    document.getElementById('recordFilter').sumo.hideOpts();
+    closeFilter();
     onGridMove(view, event);
     const slider = event.button === 0 && sliderUnder(view, event.target);
     if (slider) {

@@ -1,5 +1,8 @@
 // The seven grids: how they are made, and what happens to all of them.
 const ROW_HEIGHT = 34;
+// What w2ui asks of the tool bar that it else makes for each grid, shown or not.
+const NO_TOOLBAR = { items: [] };
+['render', 'enable', 'disable', 'uncheck', 'destroy'].forEach(name => { NO_TOOLBAR[name] = () => undefined; });
 const views = []; // tab number -> GridView, of the tabs that have been in front
 
 // A grid is made when its tab first comes to the front: all seven at once would be half of the page's start.
@@ -26,6 +29,7 @@ Object.assign(wrentabledialog_obj, {
             multiSelect: true,
             recordHeight: ROW_HEIGHT,
             show: { emptyRecords: false },
+            toolbar: NO_TOOLBAR,
             // w2ui counts the arguments in the handler's text: the first brackets must hold the event alone.
             onSelect: (event) => this.onSelect(tab, event),
             onUnselect: (event) => this.onUnselect(tab, event),
@@ -40,8 +44,8 @@ Object.assign(wrentabledialog_obj, {
         const view = new GridView(grid, tab, () => this.closeFloating());
         grid.render(document.getElementById(tab.gridName));
         listenToGrid(view);
-        textTip(grid.box, '[alerts], [comments]',
-            element => element.getAttribute('alerts') || element.getAttribute('comments') || '');
+        this.whenPainted(() => textTip(grid.box, '[alerts], [comments]',
+            element => element.getAttribute('alerts') || element.getAttribute('comments') || ''));
         return view;
     },
 
@@ -51,11 +55,8 @@ Object.assign(wrentabledialog_obj, {
         return new GridView(grid, tab, () => this.closeFloating());
     },
 
-    // The control table is applied once before the tabs are made.
-    tabsExist: () => $('#tabs').tabs('instance') !== undefined,
-
     activeTab() {
-        return this.tabsExist() ? $('#tabs').tabs('option', 'active') : this.activeLiveTabNumber;
+        return this.tabsExist ? $('#tabs').tabs('option', 'active') : this.startTab;
     },
 
     activeGrid() {
@@ -75,12 +76,12 @@ Object.assign(wrentabledialog_obj, {
         customEditor.end();
         customMenu.close();
         this.activeGrid().clear();
-        [this.activeGrid(), customList.grid].forEach(grid => grid.lock(''));
+        [this.activeGrid(), customList.grid].filter(Boolean).forEach(grid => grid.lock(''));
     },
 
     unlockGrids() {
         if (this.gridLock) {
-            views.map(view => view.grid).concat(customList.grid).forEach(grid => grid.unlock());
+            views.map(view => view.grid).concat(customList.grid || []).forEach(grid => grid.unlock());
             this.gridLock = false;
         }
     },

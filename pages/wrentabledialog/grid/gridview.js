@@ -28,6 +28,16 @@ class GridView {
         grid.getSummaryHTML = () => this.summaryMarkup();
         grid.scroll = () => this.scrolled();
         grid.refresh = () => this.refresh(() => refresh.call(grid));
+        grid.resize = () => this.resized();
+        // The places to take a column by: at first when the mouse comes to the heads.
+        const initResize = grid.initResize;
+        grid.initResize = () => { this.owesHandles = true; };
+        this.placeHandles = () => {
+            if (this.owesHandles) {
+                this.owesHandles = false;
+                initResize.call(grid);
+            }
+        };
     }
 
     frameMarkup() {
@@ -115,7 +125,7 @@ class GridView {
         this.top = this.body.querySelector('tr[line="top"]');
         this.gap = this.body.querySelector('tr[line="gap"]');
         this.bottom = this.body.querySelector('tr[line="bottom"]');
-        this.height = this.box.clientHeight;
+        this.measure();
         this.box.scrollTop = this.grid.last.scrollTop;
         this.box.scrollLeft = this.grid.last.scrollLeft;
         this.grid.last.scrollTop = this.box.scrollTop;
@@ -177,23 +187,30 @@ class GridView {
 
     // To be called when sizes may have changed, once everything is written.
     resized() {
-        if (!this.box) {
-            return;
+        if (this.box && this.grid.box.clientWidth > 0 && this.size !== this.boxSize()) {
+            this.measure();
+            this.draw(false);
         }
-        const size = `${this.grid.box.clientWidth} x ${this.grid.box.clientHeight}`;
-        if (this.size === size) {
-            return;
+    }
+
+    boxSize() {
+        return `${this.grid.box.clientWidth} x ${this.grid.box.clientHeight}`;
+    }
+
+    // Gives the columns their widths. It costs least while there are no rows; without a place on the screen there is
+    // nothing to measure.
+    measure() {
+        if (this.grid.box.clientWidth > 0) {
+            fitGrid(this.grid);
+            this.size = this.boxSize();
         }
-        this.size = size;
-        this.grid.resize();
         this.height = this.box.clientHeight;
-        this.draw(false);
     }
 
     // Puts a row on each line of the range. `full` draws all of them anew, else only those that come into view. A row
     // stays with its camera as long as that is in view, wherever it moves to.
     draw(full) {
-        if (!this.status) {
+        if (!this.status || !this.box) {
             return;
         }
         const lines = linesToDraw(this);

@@ -23,8 +23,9 @@ function linesToDraw(view) {
 function linesInSight(view) {
     const total = view.grid.records.length;
     const rowHeight = view.grid.recordHeight;
-    const count = Math.min(total, Math.ceil(view.height / rowHeight) + 1 + 2 * OVERSCAN);
-    const first = Math.floor(view.grid.last.scrollTop / rowHeight) - OVERSCAN;
+    const beyond = wrentabledialog_obj.initialize ? 0 : OVERSCAN;
+    const count = Math.min(total, Math.ceil(view.height / rowHeight) + 1 + 2 * beyond);
+    const first = Math.floor(view.grid.last.scrollTop / rowHeight) - beyond;
     const start = Math.max(0, Math.min(first, total - count));
     return { start, end: view.height > 0 ? start + count : start };
 }

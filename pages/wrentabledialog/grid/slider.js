@@ -97,11 +97,12 @@ const lowLightSlider = {
 // Takes the widget away, and with it what it wrote to the elements. It takes its handle along.
 function makePlain(cell) {
     const { slider, handle } = cell.parts;
-    const plain = markupOf(cell.kind, cell.short);
+    const { content, parts } = templateOf(cell.kind, cell.short);
+    const plain = content.getElementsByTagName('*');
     keepingFocus(handle, () => {
         $(slider).slider('destroy');
-        slider.className = plain.querySelector('[part="slider"]').className;
-        handle.className = plain.querySelector('[part="handle"]').className;
+        slider.className = plain[parts.slider].className;
+        handle.className = plain[parts.handle].className;
         slider.appendChild(handle);
     });
     cell.forget();

@@ -40,9 +40,9 @@ Object.assign(wrentabledialog_obj, {
             return;
         }
         this.textColor = text;
-        $('legend, #wren_related_settings').css('color', text);
-        $('#wren_related_settings a').css('color', dark ? DARK_TEXT : '#9fd7fc');
-        $('.option-recording label, #trigger_test label').css('color', dark ? '#333333' : '#ffffff');
+        paintText('legend, #wren_related_settings', text);
+        paintText('#wren_related_settings a', dark ? DARK_TEXT : '#9fd7fc');
+        paintText('.option-recording label, #trigger_test label', dark ? '#333333' : '#ffffff');
     },
 
     // Contrast of two colours, and the relative luminance of one, as the accessibility guidelines define them.
@@ -59,3 +59,7 @@ Object.assign(wrentabledialog_obj, {
         return 0.2126 * red + 0.7152 * green + 0.0722 * blue;
     }
 });
+
+function paintText(selector, colour) {
+    Array.from(document.querySelectorAll(selector)).forEach(element => { element.style.color = colour; });
+}

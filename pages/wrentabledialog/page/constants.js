@@ -10,6 +10,8 @@ var wrentabledialog_const_obj = {
 };
 
 // Fields that all live tabs, and both memory tabs, begin with.
+const PAINT_MS = 20; // by then the page has drawn what was changed
+
 const LIVE_FIELDS = ['lock', 'connectIcon', 'cameraName', 'alert', 'cameraStatus', 'sync'];
 const MEMORY_FIELDS = ['recordCheck', 'connectIcon', 'cameraName', 'alert'];
 

@@ -181,7 +181,7 @@ Object.assign(wrentabledialog_obj, {
     // A mode that came from outside moves the page to the last tab of that mode. Where its header is hidden, to the
     // first one whose header shows.
     moveTo(memory, number) {
-        if (this.tabsExist() && TABS[this.activeTab()].memory !== memory) {
+        if (this.tabsExist && TABS[this.activeTab()].memory !== memory) {
             const shown = (memory ? MEMORY : LIVE).filter(tab => !tabHeader(tab).hidden);
             this.bringToFront(shown.length === 0 || shown.includes(number) ? number : shown[0]);
         }
@@ -195,7 +195,7 @@ Object.assign(wrentabledialog_obj, {
 
     // `off`: all of them, none, or the numbers of those.
     disableTabs(off) {
-        if (this.tabsExist() && String($('#tabs').tabs('option', 'disabled')) !== String(off)) {
+        if (this.tabsExist && String($('#tabs').tabs('option', 'disabled')) !== String(off)) {
             $('#tabs').tabs('option', 'disabled', off);
         }
     }

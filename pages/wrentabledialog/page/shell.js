@@ -1,30 +1,28 @@
 // The page's life from load on. Topics only define; this is the one place where something starts.
 Object.assign(wrentabledialog_obj, {
+    // Nothing is laid out as long as the page is being made. What only makes it usable comes after the first rows.
     initializePage() {
         this.initialize = true;
         ['open', 'update', 'autoUpdate', 'close'].forEach(name => {
             wrentabledialog[name].connect(() => logged(() => this[name]()));
         });
+        document.body.style.display = 'none';
+        this.showStartTab();
         this.applyControls();
-        this.initializeAccordion();
+        this.whenPainted(() => this.initializeAccordion());
         zeb4func.disableDefaultShortcut();
         zeb4func.localize(wrentabledialog);
         this.initializeRecordFilter();
         guarded(() => this.initializeList());
         this.initializeGroupBox();
-        this.initializeDisplaySettings();
-        this.initializeCommonParts();
-        this.initializeSaveContainer();
-        this.initializeRecordingContainer();
-        viewAt(this.activeTab()).together(() => {
-            this.initializeTabs();
-            this.refreshDisplayElement();
-        });
+        ['DisplaySettings', 'CommonParts', 'SaveContainer', 'RecordingContainer', 'Tabs'].forEach(part =>
+            this.whenPainted(() => this['initialize' + part]()));
+        this.refreshDisplayElement();
         this.update();
-        $('label[for="timeline_trigger_test"]').tooltip({
+        this.whenPainted(() => $('label[for="timeline_trigger_test"]').tooltip({
             show: { delay: 900 },
             position: { my: 'center top', at: 'center bottom' }
-        });
+        }));
         zeb4func.enableUserOperationLog(wrentabledialog, '#wren-root-block');
         document.addEventListener('mousemove', event => this.movePress(event), true);
         document.addEventListener('mouseup', event => {
@@ -33,6 +31,22 @@ Object.assign(wrentabledialog_obj, {
         }, true);
         // A message box keeps the release for itself.
         window.addEventListener('blur', () => this.endDrag());
+    },
+
+    // Runs `work` once the first rows are on the screen, or now when they are.
+    whenPainted(work) {
+        if (this.initialize) {
+            this.afterPaint.push(work);
+        } else {
+            work();
+        }
+    },
+
+    // A step that fails keeps no other from being made.
+    endInitializing() {
+        this.initialize = false;
+        this.afterPaint.splice(0).forEach(work => guarded(work));
+        viewAt(this.activeTab()).draw(false);
     },
 
     initializeAccordion() {
@@ -54,6 +68,14 @@ Object.assign(wrentabledialog_obj, {
         });
     },
 
+    // As the tab widget does it.
+    showStartTab() {
+        this.startTab = wrentabledialog.isMemoryMode() ? MEMORY[0] : LIVE[0];
+        ['ui-tabs-active', 'ui-state-active'].forEach(name => tabHeader(this.startTab).classList.add(name));
+        document.getElementById(TABS[this.startTab].panel).style.display = '';
+    },
+
+    // The update of the page has brought the rows of the start tab.
     initializeTabs() {
         // A click takes the keyboard to no tab, whose arrows would change tab and mode, but away from where it was.
         $('#tabs > ul').on('mousedown', event => {
@@ -61,24 +83,13 @@ Object.assign(wrentabledialog_obj, {
             document.activeElement.blur();
         });
         $('#tabs').tabs({
+            active: this.startTab,
             beforeActivate: (event, ui) => this.leaveTab(ui.newTab.index()),
             activate: (event, ui) => this.enterTab(ui.newTab)
         });
-        if (wrentabledialog.isLiveMode()) {
-            this.startTab(wrentabledialog_const_obj.cameraInfoTabNo);
-        } else if (wrentabledialog.isMemoryMode()) {
-            this.startTab(wrentabledialog_const_obj.memoryInfoTabNo);
-        }
+        this.tabsExist = true;
+        this.disableTabs(this.look.tabsOff);
         this.refreshColumnNumber(this.activeTab());
-    },
-
-    // Activating the active tab fires no event.
-    startTab(number) {
-        if (this.activeTab() === number) {
-            this.refreshRecords(number, false);
-        } else {
-            $('#tabs').tabs('option', 'active', number);
-        }
     },
 
     // The mode must change before the new tab is drawn.
@@ -116,7 +127,11 @@ Object.assign(wrentabledialog_obj, {
 
 // Not jQuery's ready, which comes after the window's load.
 document.addEventListener('DOMContentLoaded', () => {
-    wrentabledialog_obj.initializePage();
+    try {
+        wrentabledialog_obj.initializePage();
+    } finally {
+        document.body.style.display = '';
+    }
     wrentabledialog_obj.resizeTableElements();
 });
 
@@ -125,7 +140,7 @@ $(window).on('resize', () => {
     wrentabledialog_obj.resizeTableElements();
 });
 
-$(window).on('load', () => {
+window.addEventListener('load', () => {
     wrentabledialog_obj.resizeTableElements();
-    wrentabledialog_obj.initialize = false;
+    window.setTimeout(() => wrentabledialog_obj.endInitializing(), PAINT_MS);
 });

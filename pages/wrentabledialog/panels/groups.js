@@ -3,7 +3,8 @@ Object.assign(wrentabledialog_obj, {
     initializeRecordFilter() {
         const filter = document.getElementById('recordFilter');
         filter.value = String(wrentabledialog.getFilter());
-        zeb4func.initSumoSelect('#recordFilter', 120, false, false, false, wrentabledialog);
+        this.whenPainted(() =>
+            zeb4func.initSumoSelect('#recordFilter', 120, false, false, false, wrentabledialog));
         this.showFilter();
         filter.addEventListener('change', () => guarded(() => {
             this.preventSelect = false;
@@ -13,7 +14,7 @@ Object.assign(wrentabledialog_obj, {
     },
 
     showFilter() {
-        zeb4func.selectItemSumoSelect('#recordFilter', wrentabledialog.getFilter());
+        this.whenPainted(() => zeb4func.selectItemSumoSelect('#recordFilter', wrentabledialog.getFilter()));
     },
 
     initializeGroupBox() {
@@ -64,3 +65,11 @@ Object.assign(wrentabledialog_obj, {
         showElement(document.getElementById('wrenGroupBlock'), filled);
     }
 });
+
+// The list of the filter, which knows no click on the rows.
+function closeFilter() {
+    const { sumo } = document.getElementById('recordFilter');
+    if (sumo) { // else the page has just come up
+        sumo.hideOpts();
+    }
+}
