@@ -13,9 +13,8 @@ namespace {
 /// Between the name of a camera, a step, and what went wrong.
 const QLatin1String Separator(": ");
 
-/// What is asked of a camera it mostly knows; what it is told to do takes its time.
-constexpr std::chrono::milliseconds ForAnswers(1);
-constexpr std::chrono::milliseconds ForCommands(0);
+/// Most cameras answer at once, and do at once what they do already. Threads for all of them would cost more.
+constexpr std::chrono::milliseconds Patience(1);
 
 }  // namespace
 
@@ -43,7 +42,7 @@ DocKeyList CameraSteps::left(const DocKeyList& keys) const {
 }
 
 DocKeyList CameraSteps::ask(const QString& label, const DocKeyList& keys, const Question& question) {
-    return askAll(label, left(keys), question, ForAnswers);
+    return askAll(label, left(keys), question);
 }
 
 void CameraSteps::run(const QString& label, const DocKeyList& keys, const Step& step) {
@@ -51,18 +50,15 @@ void CameraSteps::run(const QString& label, const DocKeyList& keys, const Step& 
 }
 
 void CameraSteps::runOnAll(const QString& label, const DocKeyList& keys, const Step& step) {
-    askAll(
-        label, keys,
-        [&step](DOC_Interface& doc) {
-            step(doc);
-            return true;
-        },
-        ForCommands);
+    askAll(label, keys, [&step](DOC_Interface& doc) {
+        step(doc);
+        return true;
+    });
 }
 
 void CameraSteps::readNames(const QString& label, const DocKeyList& keys) {
     const auto read = [](Row& row) { row.name = row.doc->control().getCameraName(1); };
-    for (const Row& row : runRows(left(keys), read, ForAnswers)) {
+    for (const Row& row : runRows(left(keys), read)) {
         if (!row.failure.isEmpty()) {
             m_failures.note(lineOf(row.key, label, row.failure));
         } else if (!row.name.isEmpty()) {
@@ -84,8 +80,7 @@ QString CameraSteps::nameOf(DOCKEY key) const {
 }
 
 /// Documents are fetched here, for those from before the last step are dead.
-std::vector<CameraSteps::Row> CameraSteps::runRows(const DocKeyList& keys, const std::function<void(Row&)>& work,
-                                                   std::chrono::milliseconds patience) {
+std::vector<CameraSteps::Row> CameraSteps::runRows(const DocKeyList& keys, const std::function<void(Row&)>& work) {
     std::vector<Row> rows;
     QStringList names;
     for (const DOCKEY key : keys) {
@@ -105,17 +100,16 @@ std::vector<CameraSteps::Row> CameraSteps::runRows(const DocKeyList& keys, const
                     row.failure = currentFailureText();
                 }
             },
-            ParallelRows::MostAtOnce, patience);
+            ParallelRows::MostAtOnce, Patience);
         m_wait.waitFor(running, names);
     }
     return rows;
 }
 
-DocKeyList CameraSteps::askAll(const QString& label, const DocKeyList& keys, const Question& question,
-                               std::chrono::milliseconds patience) {
+DocKeyList CameraSteps::askAll(const QString& label, const DocKeyList& keys, const Question& question) {
     const auto ask = [&question](Row& row) { row.answer = question(*row.doc); };
     DocKeyList yes;
-    for (const Row& row : runRows(keys, ask, patience)) {
+    for (const Row& row : runRows(keys, ask)) {
         if (!row.failure.isEmpty()) {
             m_failures.note(lineOf(row.key, label, row.failure));
             m_failed << row.key;

@@ -9,7 +9,6 @@
 #include <QString>
 #include <QStringList>
 
-#include <chrono>
 #include <functional>
 #include <vector>
 
@@ -53,11 +52,8 @@ public:
 private:
     struct Row;
 
-    /// `patience`: as of `ParallelRows`.
-    std::vector<Row> runRows(const DocKeyList& keys, const std::function<void(Row&)>& work,
-                             std::chrono::milliseconds patience);
-    DocKeyList askAll(const QString& label, const DocKeyList& keys, const Question& question,
-                      std::chrono::milliseconds patience);
+    std::vector<Row> runRows(const DocKeyList& keys, const std::function<void(Row&)>& work);
+    DocKeyList askAll(const QString& label, const DocKeyList& keys, const Question& question);
     QString lineOf(DOCKEY key, const QString& label, const QString& failure) const;
 
     ZebHost& m_host;
