@@ -6,22 +6,41 @@
 namespace {
 
 Rig connectedRig(int cameras) {
-    Rig rig = standardRig(cameras);
-    for (RigDevice& device : rig.devices) {
-        for (CameraState& head : device.heads) {
-            head.connected = true;
-        }
+    Rig rig = standardRig(2 * cameras);
+    for (int place = 0; place < rig.devices.size(); ++place) {
+        RigDevice& device = rig.devices[place];
+        device.found = place % 2 == 0;
+        device.latency = 0;  // what cameras take is measured with the commands to them
+        device.heads.first().connected = true;
     }
     return rig;
 }
 
+QVariantMap shownValues(bool standard) {
+    return {{QStringLiteral("rate"), standard ? 1000 : 500},
+            {QStringLiteral("resolution"), QVariantList{1024, standard ? 1024 : 512}},
+            {QStringLiteral("shutter"), standard ? 1000 : 2000},
+            {QStringLiteral("triggerMode"), standard ? zeb::TriggerStart : zeb::TriggerCenter},
+            {QStringLiteral("reduce"), !standard},
+            {QStringLiteral("mobile"), !standard},
+            {QStringLiteral("alerts"), standard ? QStringList() : QStringList(QStringLiteral("Fan"))},
+            {QStringLiteral("status"), standard ? zeb::CameraLive : zeb::CameraRecReady},
+            {QStringLiteral("syncStatus"), standard ? QStringLiteral("No Sync") : QStringLiteral("Sync In")}};
+}
+
+/// Gives a camera what the row of `before` does not show.
+void showOtherThan(const CameraState& before, Camera& camera, bool otherLock, int run) {
+    QVariantMap values = shownValues(before.rate != 1000);
+    values.insert(QStringLiteral("name"), QStringLiteral("Camera %1 of %2").arg(camera.key()).arg(run));
+    values.insert(QStringLiteral("locked"), before.locked != otherLock);
+    camera.change(values);
+}
+
 }  // namespace
 
-BenchHost::BenchHost(int cameras)
-    : m_cameras(cameras), m_host(m_clock, m_desk, m_folder.filePath(QStringLiteral("bench.ini"))) {
+BenchHost::BenchHost(int cameras) : m_host(m_clock, m_desk, m_folder.filePath(QStringLiteral("bench.ini"))) {
     m_host.journal().setEnabled(false);
-    m_host.setRig(connectedRig(2 * m_cameras));
-    showOthers(0);
+    m_host.setRig(connectedRig(cameras));
     Preferences& prefs = m_host.prefs();
     // No tick of the table's own comes in between.
     prefs.setValue(QStringLiteral("wren/table/interval"), 1000000);
@@ -31,30 +50,26 @@ BenchHost::BenchHost(int cameras)
 }
 
 void BenchHost::change(int step, int run) {
-    const bool odd = run % 2 != 0;
-    int index = 0;
-    for (Camera* camera : m_host.cameras().all()) {
-        if (index++ % step == 0) {
-            camera->change(
-                {{QStringLiteral("name"), QStringLiteral("Camera %1 of %2").arg(camera->key()).arg(run)},
-                 {QStringLiteral("rate"), odd ? 500 : 1000},
-                 {QStringLiteral("locked"), odd},
-                 {QStringLiteral("syncStatus"), odd ? QStringLiteral("Sync In") : QStringLiteral("No Sync")}});
-        }
+    const auto cameras = m_host.cameras().all();
+    for (int index = 0; index < int(cameras.size()); index += step) {
+        Camera& camera = *cameras[index];
+        showOtherThan(camera.state(), camera, index % (10 * step) == 0, run);
     }
 }
 
-void BenchHost::changeHidden(int run) {
-    for (Camera* camera : m_host.cameras().all()) {
-        camera->change(
-            {{QStringLiteral("lowLightType"), run % 2 != 0 ? zeb::LowLightTypeFast : zeb::LowLightTypeFine}});
-    }
+void BenchHost::changeHidden() {
+    Camera& camera = *m_host.cameras().all().front();
+    const bool fast = camera.get(&CameraState::lowLightType) == zeb::LowLightTypeFast;
+    camera.set(&CameraState::lowLightType, fast ? zeb::LowLightTypeFine : zeb::LowLightTypeFast);
 }
 
 void BenchHost::showOthers(int run) {
-    for (DOCKEY key = 1; key <= DOCKEY(2 * m_cameras); ++key) {
-        Fault fault;
-        fault.gone = (key + DOCKEY(run)) % 2 == 0;
-        m_host.faults().plant(key, QStringLiteral("*"), fault);
+    const auto before = m_host.cameras().all();
+    for (Camera* camera : m_host.cameras().known()) {
+        camera->device().setFound(!camera->device().isFound());
+    }
+    const auto others = m_host.cameras().all();
+    for (int index = 0; index < int(others.size()); ++index) {
+        showOtherThan(before[index]->state(), *others[index], index % 10 == 0, run);
     }
 }

@@ -9,17 +9,18 @@
 /// The stand-in host with connected cameras and without a journal; `initHostPages` comes before. GUI thread.
 class BenchHost {
 public:
-    /// `cameras` are there, and as many others are gone.
+    /// `cameras` are found, and as many others wait for a search.
     explicit BenchHost(int cameras);
 
     SimHost& host() { return m_host; }
 
-    /// Values of every `step`-th camera that a row shows; `run` makes them differ from those of the last run.
+    /// Every `step`-th camera gets another value wherever a row of the live control shows one, and of these cameras one
+    /// in ten another lock; low light, which steers a row as a lock does, stays off. `run` makes names that no camera
+    /// had before.
     void change(int step, int run);
-    /// Something that changes the text of the answer, but nothing on the screen.
-    void changeHidden(int run);
-    /// The cameras that are there are gone, and the others take their place, at an odd `run`; back again at an even
-    /// one.
+    /// One camera answers another text, which no row shows.
+    void changeHidden();
+    /// The cameras that wait take the place of the others; each row shows other values than before, as by `change(1)`.
     void showOthers(int run);
 
 private:
@@ -29,7 +30,6 @@ private:
         Answer show(const Message&) override { return {}; }
     };
 
-    const int m_cameras;
     const QTemporaryDir m_folder;
     SteppedClock m_clock;
     QuietDesk m_desk;

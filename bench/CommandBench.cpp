@@ -19,6 +19,7 @@
 #include <QTemporaryDir>
 
 #include <functional>
+#include <optional>
 #include <stdexcept>
 
 namespace {
@@ -83,7 +84,7 @@ void changeSettings(SimHost& host, const DocKeyList& keys) {
     }
 }
 
-const Command Commands[] = {
+const QVector<Command> Commands = {
     {"connect", [](SimHost& host, const DocKeyList& keys) { host.docManager().connectDocs(keys); },
      [](SimHost& host, const DocKeyList& keys) { host.docManager().disconnectDocs(keys); }},
     {"rate",
@@ -94,56 +95,91 @@ const Command Commands[] = {
     {"lock", [](SimHost& host, const DocKeyList& keys) { lock(host, keys, true); },
      [](SimHost& host, const DocKeyList& keys) { lock(host, keys, false); }},
     {"arm", [](SimHost& host, const DocKeyList&) { host.recorder().startRecReady(); },
-     [](SimHost& host, const DocKeyList&) { host.recorder().cancelRecording(false); }},
+     [](SimHost& host, const DocKeyList&) { host.recorder().cancelRecording(false); }}};
+
+const QVector<Command> Settings = {
     {"load", load, [](SimHost&, const DocKeyList&) {}},
     {"saveSettings", saveSettings, [](SimHost&, const DocKeyList&) {}},
     {"loadSettings", loadSettings, changeSettings},
 };
 
-double medianOf(SimHost& host, const DocKeyList& keys, const Command& command) {
-    QVector<double> times;
-    for (int run = 0; run < Runs; ++run) {
+/// The host with cameras that take their time, and the plug-in.
+class Stage {
+public:
+    explicit Stage(int cameras) : m_host(m_clock, m_desk, m_folder.filePath(QStringLiteral("bench.ini"))) {
+        Rig rig = standardRig(cameras);
+        for (RigDevice& device : rig.devices) {
+            device.latency = Latency;
+        }
+        m_host.setRig(rig);
+        m_plugin.emplace(m_host);
+        for (const char* setting : {"triggerEnable", "triggerSwInEnable", "triggerInEnable"}) {
+            m_host.setPrefBool(QLatin1String("wren/settings/") % QLatin1String(setting), true);
+        }
+        m_keys = m_host.cameras().keys();
+    }
+
+    /// Adds what each takes, by its name with `ending`. The cameras are connected afterwards.
+    void measure(QJsonObject& numbers, const QVector<Command>& commands, const QString& ending) {
+        for (const Command& command : commands) {
+            numbers.insert(QLatin1String(command.name) % ending, medianOf(command));
+            connect();
+        }
+    }
+
+    void connect() { m_host.docManager().connectDocs(m_keys); }
+
+    double loadEach() {
+        return timed([this] {
+            for (const DOCKEY key : m_keys) {
+                load(m_host, {key});
+            }
+        });
+    }
+
+private:
+    template <typename Work>
+    static double timed(Work&& work) {
         QElapsedTimer clock;
         clock.start();
-        command.give(host, keys);
-        times.append(double(clock.nsecsElapsed()) / 1e6);
-        command.undo(host, keys);
+        work();
+        return double(clock.nsecsElapsed()) / 1e6;
     }
-    return median(times);
-}
+
+    double medianOf(const Command& command) {
+        QVector<double> times;
+        for (int run = 0; run < Runs; ++run) {
+            times.append(timed([&] { command.give(m_host, m_keys); }));
+            command.undo(m_host, m_keys);
+        }
+        return median(times);
+    }
+
+    const QTemporaryDir m_folder;
+    RealClock m_clock;
+    FailingDesk m_desk;
+    SimHost m_host;
+    std::optional<OpenTable> m_plugin;
+    DocKeyList m_keys;
+};
 
 }  // namespace
 
 QJsonObject CommandBench::run() {
     QJsonObject numbers;
-    for (const int count : {1, m_cameras}) {
-        const QTemporaryDir folder;
-        RealClock clock;
-        FailingDesk desk;
-        SimHost host(clock, desk, folder.filePath(QStringLiteral("bench.ini")));
-        Rig rig = standardRig(count);
-        for (RigDevice& device : rig.devices) {
-            device.latency = Latency;
-        }
-        host.setRig(rig);
-        const OpenTable plugin(host);
-        for (const char* setting : {"triggerEnable", "triggerSwInEnable", "triggerInEnable"}) {
-            host.setPrefBool(QLatin1String("wren/settings/") % QLatin1String(setting), true);
-        }
-        const DocKeyList keys = host.cameras().keys();
-        for (const Command& command : Commands) {
-            const QString name = QString::fromLatin1(command.name) % (count == 1 ? "One" : "");
-            numbers.insert(name, medianOf(host, keys, command));
-            host.docManager().connectDocs(keys);
-        }
-        if (count > 1) {
-            QElapsedTimer time;
-            time.start();
-            for (const DOCKEY key : keys) {
-                load(host, {key});
-            }
-            numbers.insert(QStringLiteral("loadEach"), double(time.elapsed()));
-        }
-    }
+    Stage(1).measure(numbers, Commands, QStringLiteral("One"));
+    Stage(m_cameras).measure(numbers, Commands, {});
+    return numbers;
+}
+
+QJsonObject CommandBench::settings() {
+    QJsonObject numbers;
+    Stage one(1);
+    one.connect();
+    one.measure(numbers, Settings, QStringLiteral("One"));
+    Stage all(m_cameras);
+    all.connect();
+    all.measure(numbers, Settings, {});
+    numbers.insert(QStringLiteral("loadEach"), all.loadEach());
     return numbers;
 }

@@ -6,24 +6,42 @@
 #include <QJsonObject>
 #include <QProcess>
 
+#include <algorithm>
+#include <functional>
 #include <stdexcept>
 
-Numbers Measurements::measure(const QString& name, int cameras, int processes) const {
-    QMap<QString, QVector<double>> all;
-    for (int process = 0; process < processes; ++process) {
-        const Numbers numbers = measureOnce(name, cameras);
-        for (auto number = numbers.begin(); number != numbers.end(); ++number) {
-            all[number.key()].append(number.value());
-        }
-    }
-    Numbers medians;
-    for (auto numbers = all.begin(); numbers != all.end(); ++numbers) {
-        medians.insert(numbers.key(), median(numbers.value()));
-    }
-    return medians;
+namespace {
+
+constexpr int Processes = 3;
+
 }
 
-Numbers Measurements::measureOnce(const QString& name, int cameras) const {
+Spread Measurements::ratio(const Quantity& value, const Quantity& over) {
+    QVector<double> ratios = values(value);
+    const QVector<double> others = values(over);
+    std::transform(ratios.begin(), ratios.end(), others.begin(), ratios.begin(), std::divides<>());
+    return spreadOf(ratios);
+}
+
+Spread Measurements::spreadOf(const QVector<double>& values) {
+    const auto [smallest, largest] = std::minmax_element(values.begin(), values.end());
+    return {median(values), *smallest, *largest};
+}
+
+QVector<double> Measurements::values(const Quantity& quantity) {
+    const QString measurement = QLatin1String(quantity.measurement);
+    QVector<Numbers>& processes = m_taken[{measurement, quantity.cameras}];
+    while (processes.size() < Processes) {
+        processes.append(measure(measurement, quantity.cameras));
+    }
+    QVector<double> values;
+    for (const Numbers& numbers : processes) {
+        values.append(numbers[QLatin1String(quantity.name)]);
+    }
+    return values;
+}
+
+Measurements::Numbers Measurements::measure(const QString& name, int cameras) const {
     QProcess process;
     process.start(m_program, {name, QString::number(cameras)});
     process.waitForFinished(-1);

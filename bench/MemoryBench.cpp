@@ -11,6 +11,9 @@
 
 namespace {
 
+/// Ticks after which the process has what it needs.
+constexpr int Settled = 1000;
+
 /// MiB of this process that are in memory, when what is only kept for later use has been given back.
 double residentSet() {
     QWebSettings::clearMemoryCaches();
@@ -28,17 +31,23 @@ QJsonObject MemoryBench::run() {
     OpenTable table(m_cameras.host());
     table.open();
     table.showLiveControl();
-    tick(table, 0, 1000);
-    const double start = residentSet();
-    tick(table, 1000, 10000);
-    const double end = residentSet();
+    return {{QStringLiteral("resident"), residentAfter(table, 0, Settled)}};
+}
+
+QJsonObject MemoryBench::growth() {
+    OpenTable table(m_cameras.host());
+    table.open();
+    table.showLiveControl();
+    const double start = residentAfter(table, 0, Settled);
+    const double end = residentAfter(table, Settled, 10 * Settled);
     return {{QStringLiteral("growth"), end - start}, {QStringLiteral("end"), end}};
 }
 
-void MemoryBench::tick(const OpenTable& table, int first, int last) {
+double MemoryBench::residentAfter(const OpenTable& table, int first, int last) {
     for (int tick = first; tick < last; ++tick) {
         m_cameras.change(10, tick);
         table.evaluate(QStringLiteral("wrentabledialog_obj.autoUpdate()"));
         QCoreApplication::processEvents();
     }
+    return residentSet();
 }

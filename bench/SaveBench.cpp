@@ -172,11 +172,14 @@ QJsonObject SaveBench::run() {
     comparePictures(numbers, 0, {});
     comparePictures(numbers, Grain, QStringLiteral("Noisy"));
     constexpr int SlowCameras = 8;
-    Scene slow(SlowCameras, QSize(512, 512), 64, 0);
+    constexpr int SlowFrames = 64;
+    constexpr int Delay = 50;
+    Scene slow(SlowCameras, QSize(512, 512), SlowFrames, 0);
     for (DOCKEY key = 1; key <= SlowCameras; ++key) {
-        slow.faults().plant(key, QStringLiteral("readFrame"), {{}, 50, false});
+        slow.faults().plant(key, QStringLiteral("readFrame"), {{}, Delay, false});
     }
     numbers.insert(QStringLiteral("slow"), slow.save(slow.orders(QStringLiteral("png"))));
+    numbers.insert(QStringLiteral("slowWait"), SlowFrames * Delay);
     noteTurn(numbers, slow);
     return numbers;
 }

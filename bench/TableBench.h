@@ -21,11 +21,9 @@ public Q_SLOTS:
     // What the page asks for between two measurements; `run` counts them.
     /// The page's own clock has no parts of a millisecond.
     double now() const { return cpuTime(); }
-    /// Every value that a row shows.
     void changeAll(int run) { m_cameras.change(1, run); }
-    /// The values of one camera in ten.
     void changeTenth(int run) { m_cameras.change(10, run); }
-    void changeHidden(int run) { m_cameras.changeHidden(run); }
+    void changeHidden() { m_cameras.changeHidden(); }
     void showOthers(int run) { m_cameras.showOthers(run); }
 
 private:

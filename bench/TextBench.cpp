@@ -2,6 +2,7 @@
 
 #include "CpuTime.h"
 #include "CycleFailures.h"
+#include "DOC_Activity.h"
 #include "DOC_Control.h"
 #include "DOC_Interface.h"
 #include "DOC_Lock.h"
@@ -44,6 +45,7 @@ void askStates(DOC_Interface& doc) {
     }
     camera.isFunctionSupported(zeb::FunctionReduceMode, 1);
     camera.getReduceMode(0);
+    doc.activity().isSuspendReduce();
     camera.isFunctionSupported(zeb::FunctionLowLight, 1);
     camera.getLowLightType();
 }

@@ -26,14 +26,26 @@
         };
     }
 
+    // The request of a page that remembers nothing.
     const call = () => wrentabledialog.getRecords(request);
     const full = laidOut(() => page.refreshRecords(TAB, false));
     const tick = laidOut(() => page.updateCommon(true));
 
-    // What a refresh takes beyond the call and the parsing of its answer, both in the state that the refresh met.
-    function beyondCall(work) {
-        const whole = timed(work);
-        return whole - timed(() => JSON.parse(call()));
+    // A full refresh, and what of it is not the records' way to the page, which is timed within it.
+    function refresh(name) {
+        const fetch = page.fetchRecords;
+        let fetching = 0;
+        page.fetchRecords = tab => {
+            let data = null;
+            fetching += timed(() => { data = fetch.call(page, tab); });
+            return data;
+        };
+        try {
+            const whole = timed(full);
+            return { [`${name}Whole`]: whole, [name]: whole - fetching };
+        } finally {
+            page.fetchRecords = fetch;
+        }
     }
 
     // The markup of the rows that stand on the screen, set at once in the frame that w2ui makes.
@@ -50,41 +62,46 @@
         return time;
     }
 
-    const measures = {
-        call: () => timed(call),
-        parse: () => {
+    // Each answers times by their names.
+    const measures = [
+        () => ({ call: timed(call) }),
+        () => {
             const text = call();
-            return timed(() => JSON.parse(text));
+            return { parse: timed(() => JSON.parse(text)) };
         },
-        frame: staticRows,
-        fullSameRows: run => {
+        () => ({ markup: staticRows() }),
+        run => {
             bench.changeAll(run);
-            return beyondCall(full);
+            return refresh('sameRows');
         },
-        fullOtherRows: run => {
-            bench.showOthers(run + 1);
-            return beyondCall(full);
+        run => {
+            bench.showOthers(run);
+            return refresh('otherRows');
         },
-        tickUnchangedText: () => timed(tick),
-        tickNothingChanged: run => {
-            bench.changeHidden(run);
-            return timed(tick);
+        () => ({ tickSameText: timed(tick) }),
+        () => {
+            bench.changeHidden();
+            return { tickNoneShown: timed(tick) };
         },
-        tickSomeChanged: run => {
+        run => {
             bench.changeTenth(run);
-            return timed(tick);
+            return { tickTenth: timed(tick) };
+        },
+        run => {
+            bench.changeAll(run);
+            return { tickAll: timed(tick) };
         }
-    };
-    const names = Object.keys(measures);
+    ];
     const times = {};
-    names.forEach(name => { times[name] = []; });
     for (let round = 0; round < ROUNDS; round++) {
-        names.forEach(name => {
+        measures.forEach(measure => {
             for (let run = 0; run < RUNS; run++) {
-                times[name].push(measures[name](round * RUNS + run));
+                const taken = measure(round * RUNS + run);
+                Object.keys(taken).forEach(name => { times[name] = (times[name] || []).concat(taken[name]); });
             }
         });
     }
-    names.forEach(name => { times[name] = median(times[name]); });
+    Object.keys(times).forEach(name => { times[name] = median(times[name]); });
+    times.callAndParse = times.call + times.parse;
     return JSON.stringify(times);
 }());
