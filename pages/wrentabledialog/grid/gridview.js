@@ -23,11 +23,8 @@ class GridView {
 
     override() {
         const grid = this.grid;
-        const refresh = grid.refresh;
-        grid.getRecordsHTML = () => this.frameMarkup();
-        grid.getSummaryHTML = () => this.summaryMarkup();
         grid.scroll = () => this.scrolled();
-        grid.refresh = () => this.refresh(() => refresh.call(grid));
+        grid.refresh = () => this.refresh();
         grid.resize = () => this.resized();
         // The places to take a column by: at first when the mouse comes to the heads.
         const initResize = grid.initResize;
@@ -40,28 +37,16 @@ class GridView {
         };
     }
 
-    frameMarkup() {
-        const spacer = place => `<tr line="${place}"><td colspan="200" style="padding: 0; border: 0"></td></tr>`;
-        const height = this.grid.records.length * this.grid.recordHeight;
-        return `<table>${this.grid.getRecordHTML(-1, 0)}${['top', 'gap', 'bottom'].map(spacer).join('')}</table>`
-            .replace('line="bottom"', `line="bottom" style="height: ${height}px"`);
-    }
-
-    summaryMarkup() {
-        const place = `<tr class="wren-batch-place" style="height: ${this.grid.recordHeight}px"><td></td></tr>`;
-        return `<table>${this.grid.getRecordHTML(-1, 0)}${place}</table>`;
-    }
-
-    // w2ui's refresh throws the frame away and loses the scroll position; the drawn rows move over to the new one.
-    refresh(draw) {
+    // Makes a new frame, to which the drawn rows move over. The first records bring the first one.
+    refresh() {
         if (this.held > 0) {
             this.owed = true;
-            return 0;
+            return;
         }
-        if (!this.status) { // the first records bring the frame
-            return 0;
+        if (!this.status || !this.grid.box) {
+            return;
         }
-        this.onScroll(); // w2ui takes the widgets of its markup away, so what is held is let go before
+        this.onScroll(); // what is held is let go before
         const { scrollTop, scrollLeft } = this.grid.last;
         const focus = document.activeElement || document.body;
         const { id } = focus;
@@ -69,14 +54,13 @@ class GridView {
         const caret = caretOf(focus);
         this.focusedKey = this.keyWithFocus();
         numberBox.drop();
-        const took = draw();
+        drawFrame(this);
         this.grid.last.scrollTop = scrollTop;
         this.grid.last.scrollLeft = scrollLeft;
         this.mount();
         this.focusedKey = null;
         // Other columns bring other elements.
         this.focus(this.grid.box.contains(focus) ? focus : document.getElementById(id), key, caret);
-        return took;
     }
 
     // The keyboard follows its camera's row into the new frame.

@@ -1,0 +1,39 @@
+// What stands around the rows of a grid: the heads, the box that scrolls, and the place of the batch row.
+
+// As w2ui's own refresh does it, which looks through all records, and for tool bars and searches, beside.
+function drawFrame(view) {
+    const { grid } = view;
+    const part = name => document.getElementById(`grid_${grid.name}_${name}`);
+    const [body, summary] = ['body', 'summary'].map(part);
+    const hasBatch = grid.summary.length > 0;
+    ['header', 'toolbar', 'footer'].forEach(name => setStyle(part(name), 'display', 'none'));
+    body.innerHTML = `<div id="grid_${grid.name}_records" class="w2ui-grid-records">${recordsMarkup(grid)}</div>` +
+        `<div id="grid_${grid.name}_columns" class="w2ui-grid-columns"><table>${grid.getColumnsHTML()}</table></div>`;
+    summary.innerHTML = hasBatch ? summaryMarkup(grid) : '';
+    setStyle(summary, 'display', hasBatch ? 'block' : 'none');
+    const [records, heads] = ['records', 'columns'].map(part);
+    records.addEventListener('scroll', () => {
+        if (records !== view.box) { // it has been thrown away meanwhile
+            return;
+        }
+        const { scrollTop, scrollLeft } = records;
+        Object.assign(grid.last, { scrollTop, scrollLeft });
+        heads.scrollLeft = scrollLeft;
+        summary.scrollLeft = scrollLeft;
+        grid.scroll();
+    });
+    grid.last.columnDrag = grid.last.columnDrag || grid.initColumnDrag();
+}
+
+// The first row of each table holds the widths of the columns.
+function recordsMarkup(grid) {
+    const spacer = place => `<tr line="${place}"><td colspan="200" style="padding: 0; border: 0"></td></tr>`;
+    const height = grid.records.length * grid.recordHeight;
+    return `<table>${grid.getRecordHTML(-1, 0)}${['top', 'gap', 'bottom'].map(spacer).join('')}</table>`
+        .replace('line="bottom"', `line="bottom" style="height: ${height}px"`);
+}
+
+function summaryMarkup(grid) {
+    const place = `<tr class="wren-batch-place" style="height: ${grid.recordHeight}px"><td></td></tr>`;
+    return `<table>${grid.getRecordHTML(-1, 0)}${place}</table>`;
+}
