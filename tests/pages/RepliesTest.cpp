@@ -99,4 +99,25 @@ TEST(PageReplies, AreWholeOverABridgeThatKnowsNoOthers) {
     EXPECT_GT(page.number("recordReplies.taken"), 0);
 }
 
+TEST(PageReplies, AreAskedForAgainWhereACallInsideHasBroughtNewerOnes) {
+    TestHost test(connected(4));
+    TablePage page(test, 1);
+    test.camera(2).change({{"name", "Gate"}});
+    page.run(R"js(
+        probe.callsBegin();
+        const ask = wrentabledialog.getRecords;
+        wrentabledialog.getRecords = text => {
+            wrentabledialog.getRecords = ask;
+            const reply = ask(text);
+            wrentabledialog.setParamLock(['2'], true);
+            wrentabledialog_obj.autoUpdate();
+            return reply;
+        };
+        wrentabledialog_obj.autoUpdate();
+        probe.callsEnd();
+        return 0)js");
+    EXPECT_EQ(page.text(Compared), "");
+    EXPECT_TRUE(page.run("viewAt(1).newest.get('2').lock").toBool());
+}
+
 }  // namespace
