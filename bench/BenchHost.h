@@ -15,8 +15,8 @@ public:
     SimHost& host() { return m_host; }
 
     /// Every `step`-th camera gets another value wherever a row of the live control shows one, and of these cameras one
-    /// in ten another lock; low light, which steers a row as a lock does, stays off. `run` makes names that no camera
-    /// had before.
+    /// in ten another lock; low light, which steers a row as a lock does, stays off. `run` makes other
+    /// names than the last ones.
     void change(int step, int run);
     /// One camera answers another text, which no row shows.
     void changeHidden();

@@ -36,7 +36,11 @@ QVector<double> Measurements::values(const Quantity& quantity) {
     }
     QVector<double> values;
     for (const Numbers& numbers : processes) {
-        values.append(numbers[QLatin1String(quantity.name)]);
+        const auto number = numbers.constFind(QLatin1String(quantity.name));
+        if (number == numbers.constEnd()) {
+            throw std::runtime_error(std::string(quantity.measurement) + " tells no " + quantity.name + ".");
+        }
+        values.append(number.value());
     }
     return values;
 }

@@ -34,11 +34,12 @@ bool printLine(Measurements& measurements, const Line& line) {
 bool printReport(Measurements& measurements) {
     bool held = true;
     std::printf(
-        "Medians of three processes, with the smallest and the largest; a ratio is of numbers of one process.\n"
+        "Medians of three processes, with the smallest and the largest; a ratio is of numbers of one process,\n"
+        "but for those of 1,024 over 64 cameras, which take the processes in their order.\n"
         "Time is processor time, in milliseconds, unless it is called wall-clock.\n");
     for (const Section& section : reportSections()) {
         std::printf("\n%s\n%-58s %8s %8s %8s %7s %7s  %s\n", section.text, "", "median", "from", "to", "goal", "limit",
-                    "ms over ms");
+                    "of");
         for (const Line& line : section.lines) {
             held = printLine(measurements, line) && held;
         }

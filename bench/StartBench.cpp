@@ -62,12 +62,6 @@ double StartBench::timeTable() {
 
     table.waitForRows(QStringLiteral("cameraInfoTab"));
     m_size = m_view->size();
-    m_markup = table
-                   .evaluate(QStringLiteral("var page = document.documentElement.cloneNode(true);"
-                                            "var own = page.querySelector('script[src=\"qrc:/wrentabledialog.js\"]');"
-                                            "own.parentNode.removeChild(own);"
-                                            "'<!DOCTYPE html>' + page.outerHTML"))
-                   .toString();
     return m_painted;
 }
 
@@ -106,5 +100,14 @@ bool StartBench::eventFilter(QObject* watched, QEvent* event) {
     }
     watched->event(event);
     m_painted = elapsed();
+    // What was painted, before the page goes on.
+    m_markup = m_view->page()
+                   ->mainFrame()
+                   ->evaluateJavaScript(
+                       QStringLiteral("var page = document.documentElement.cloneNode(true);"
+                                      "var own = page.querySelector('script[src=\"qrc:/wrentabledialog.js\"]');"
+                                      "own.parentNode.removeChild(own);"
+                                      "'<!DOCTYPE html>' + page.outerHTML"))
+                   .toString();
     return true;
 }

@@ -32,7 +32,7 @@ private:
     QElapsedTimer m_clock;
     QWebView* m_view = nullptr;
     double m_painted = 0;
-    /// Of the table as it was drawn last.
+    /// Of the table as it was painted first.
     QString m_markup;
     QSize m_size;
 };

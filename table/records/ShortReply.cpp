@@ -8,6 +8,7 @@ namespace {
 
 /// Lists that no camera has any more are told again with all others now and then, so that neither side keeps them.
 constexpr int MostLists = 1000;
+constexpr int ListsOfARow = 4;
 /// Characters.
 constexpr int UsualRow = 1000;
 
@@ -30,17 +31,18 @@ ShortReply::ShortReply(PageRecords& page, int taken) : m_page(page) {
     } else if (taken != m_page.taken.number) {
         m_page.taken = {};
     }
-    if (m_page.taken.lists.size() > MostLists) {
+    if (m_page.taken.lists.size() > MostLists + ListsOfARow * m_page.taken.rows.size()) {
         m_page.taken = {};
     }
-    m_reply.lists = m_page.taken.lists;
-    m_reply.rows.reserve(m_page.taken.rows.size());
+    m_known = m_page.taken;
+    m_reply.lists = m_known.lists;
+    m_reply.rows.reserve(m_known.rows.size());
     m_row.reserve(UsualRow);
 }
 
 void ShortReply::add(const Record& row) {
     const int place = m_reply.rows.size();
-    const QString known = m_page.taken.rows.value(place);
+    const QString known = m_known.rows.value(place);
     shorten(row);
     if (m_row == known) {
         m_reply.rows.append(known);
@@ -56,13 +58,12 @@ void ShortReply::setBatch(const Record& row) {
 }
 
 QString ShortReply::finish() {
-    const ToldRecords& taken = m_page.taken;
-    const bool sameBatch = m_reply.batch == taken.batch;
-    const bool same = sameBatch && m_changed.isEmpty() && m_reply.rows.size() == taken.rows.size();
-    m_reply.number = same && taken.number > 0 ? taken.number : nextNumber();
+    const bool sameBatch = m_reply.batch == m_known.batch;
+    const bool same = sameBatch && m_changed.isEmpty() && m_reply.rows.size() == m_known.rows.size();
+    m_reply.number = same && m_known.number > 0 ? m_known.number : nextNumber();
     QString json = QStringLiteral("{\"reply\":%1,\"since\":%2,\"count\":%3,\"lists\":{")
                        .arg(m_reply.number)
-                       .arg(taken.number)
+                       .arg(m_known.number)
                        .arg(m_reply.rows.size());
     json += m_newLists % QLatin1String("},\"changed\":[") % m_changed % QLatin1Char(']');
     json += sameBatch ? QString() : QString(QLatin1String(",\"batch\":[") % m_reply.batch % QLatin1Char(']'));

@@ -30,6 +30,8 @@ private:
     const QString& numberOf(const QString& list);
 
     PageRecords& m_page;
+    /// What the page had at the request; another one may come before this is finished.
+    ToldRecords m_known;
     ToldRecords m_reply;
     QString m_row;
     QString m_changed;

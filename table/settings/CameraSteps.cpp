@@ -13,9 +13,6 @@ namespace {
 /// Between the name of a camera, a step, and what went wrong.
 const QLatin1String Separator(": ");
 
-/// Most cameras answer at once, and do at once what they do already. Threads for all of them would cost more.
-constexpr std::chrono::milliseconds Patience(1);
-
 }  // namespace
 
 struct CameraSteps::Row {
@@ -100,7 +97,7 @@ std::vector<CameraSteps::Row> CameraSteps::runRows(const DocKeyList& keys, const
                     row.failure = currentFailureText();
                 }
             },
-            ParallelRows::MostAtOnce, Patience);
+            ParallelRows::MostAtOnce, m_patience);
         m_wait.waitFor(running, names);
     }
     return rows;

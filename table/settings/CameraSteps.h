@@ -9,6 +9,7 @@
 #include <QString>
 #include <QStringList>
 
+#include <chrono>
 #include <functional>
 #include <vector>
 
@@ -18,12 +19,17 @@ class ZebHost;
 /// later ones, so that one that does not answer costs its time-out once. Made and run on the GUI thread.
 class CameraSteps {
 public:
-    /// Run on a thread for each camera, where only `DOC_` operations may be called.
+    /// Run on other threads, where only `DOC_` operations may be called.
     using Question = std::function<bool(DOC_Interface&)>;
     using Step = std::function<void(DOC_Interface&)>;
 
-    /// Failures go into `failures`, a line "camera: step: reason" each.
-    CameraSteps(ZebHost& host, GatheredFailures& failures) : m_host(host), m_failures(failures), m_wait(host) {}
+    /// Most cameras answer at once, and do at once what they do already: for so long one thread asks them in turn.
+    static constexpr std::chrono::milliseconds Patience{1};
+
+    /// Failures go into `failures`, a line "camera: step: reason" each. With a `patience` of 0 each camera has a thread
+    /// of its own from the start.
+    CameraSteps(ZebHost& host, GatheredFailures& failures, std::chrono::milliseconds patience)
+        : m_host(host), m_failures(failures), m_wait(host), m_patience(patience) {}
 
     /// Those of `keys` that are there, have not failed before and answer true; `label` is the step's name to the user.
     /// Runs an event loop, as the others do: documents from before are dead afterwards.
@@ -59,6 +65,7 @@ private:
     ZebHost& m_host;
     GatheredFailures& m_failures;
     RowsWait m_wait;
+    std::chrono::milliseconds m_patience;
     QHash<DOCKEY, QString> m_names;
     QSet<DOCKEY> m_failed;
 };

@@ -19,8 +19,10 @@ struct TableState;
 class DefaultsLoad {
 public:
     /// What fails goes into `failures`, of a camera as "camera: step: reason".
-    DefaultsLoad(ZebHost& host, TableState& state, GatheredFailures& failures)
-        : m_host(host), m_state(state), m_failures(failures), m_steps(host, failures) {}
+    /// `patience`: as of `CameraSteps`.
+    DefaultsLoad(ZebHost& host, TableState& state, GatheredFailures& failures,
+                 std::chrono::milliseconds patience = CameraSteps::Patience)
+        : m_host(host), m_state(state), m_failures(failures), m_steps(host, failures, patience) {}
 
     /// For all connected cameras, and the table's groups, lists and sources of the signal.
     void loadAll();

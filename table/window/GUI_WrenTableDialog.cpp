@@ -46,7 +46,7 @@ GUI_WrenTableDialog::GUI_WrenTableDialog(ZebHost* host, const QString& title, co
     : GUI_ModelessPatternDialog(host, title, url, bridge, plugin), m_table(bridge) {
     // The table itself comes first.
     connect(getWebView(), &QWebView::loadFinished, this,
-            [this] { QTimer::singleShot(SelectBoxDelay, this, [this] { logFailure([this] { selectBox(); }); }); });
+            [this] { QTimer::singleShot(SelectBoxDelay, this, &GUI_WrenTableDialog::prepareSelectBox); });
     setWindowFlags(windowFlags() | Qt::WindowMinMaxButtonsHint);
     setMinimumSize(MinimumSize);
     restorePlacement();
@@ -67,6 +67,12 @@ GUI_SelectBox& GUI_WrenTableDialog::selectBox() {
     return *m_selectBox;
 }
 
+void GUI_WrenTableDialog::prepareSelectBox() {
+    if (isVisible()) {
+        logFailure([this] { selectBox(); });
+    }
+}
+
 void GUI_WrenTableDialog::showPartitionBox(const QRect& anchor) {
     selectBox().showBox(int(SelectBoxType::Partition), anchor, {});
 }
@@ -78,7 +84,7 @@ void GUI_WrenTableDialog::hidePartitionBox() {
 }
 
 bool GUI_WrenTableDialog::isPartitionBoxShown() const {
-    return m_selectBox && m_selectBox->isVisible();
+    return m_selectBox && m_selectBox->isWanted();
 }
 
 void GUI_WrenTableDialog::openPage() {

@@ -46,6 +46,7 @@ private:
     void takePartitionBoxAlong();
     /// Made when it is first needed, or soon after the page stands.
     GUI_SelectBox& selectBox();
+    void prepareSelectBox();
 
     /// The bridge, which the base class owns.
     JS_Mediator_WrenTableDialog* const m_table;

@@ -107,6 +107,7 @@ TEST(PageColumns, AreDraggedToAnotherPlace) {
 TEST(PageColumns, AreAsWideAsTheLibraryMakesThem) {
     const char* compared = R"js((() => {
         const { name, box } = probe.grid();
+        viewOf(probe.grid()).placeHandles();
         const sizes = () => JSON.stringify(Array.from(box.querySelectorAll('div, tr:first-child > td, .w2ui-head'))
             .map(element => element.getBoundingClientRect()).map(at => [at.left, at.top, at.width, at.height])
             .concat(['overflowX', 'overflowY'].map(word =>

@@ -29,7 +29,8 @@ protected:
 
     QStringList load() {
         GatheredFailures failures;
-        DefaultsLoad(host, state, failures).loadAll();
+        // Each camera's thread books its own time.
+        DefaultsLoad(host, state, failures, std::chrono::milliseconds(0)).loadAll();
         return failures.lines();
     }
 

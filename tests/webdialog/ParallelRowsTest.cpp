@@ -2,7 +2,9 @@
 
 #include <gmock/gmock.h>
 
+#include <set>
 #include <stdexcept>
+#include <thread>
 
 namespace {
 
@@ -51,6 +53,19 @@ TEST(ParallelRows, RunAllAtOnceAndKeepWhatEachHasThrown) {
         }
         EXPECT_EQ(thrown, row % 7 == 0 ? std::to_string(row) : "");
     }
+}
+
+TEST(ParallelRows, AreTakenInTurnWhereTheyAnswerAtOnceAndElseSideBySide) {
+    std::set<std::thread::id> threads;
+    {
+        const ParallelRows prompt(
+            64, [&](int) { threads.insert(std::this_thread::get_id()); }, 64, std::chrono::minutes(1));
+    }
+    EXPECT_EQ(threads.size(), 1);
+    Meeting all(16);
+    const ParallelRows held(
+        16, [&](int) { all.come(); }, 16, std::chrono::milliseconds(1));
+    all.waitUntilMissing(0);
 }
 
 TEST(ParallelRows, LeaveOutWhatHasNotBegun) {

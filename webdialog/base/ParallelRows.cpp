@@ -3,6 +3,7 @@
 #include <omp.h>
 #include <algorithm>
 #include <future>
+#include <system_error>
 
 ParallelRows::ParallelRows(int rows, std::function<void(int)> work, int atOnce, std::chrono::milliseconds patience)
     : m_work(std::move(work)),
@@ -25,8 +26,11 @@ void ParallelRows::run(int atOnce, std::chrono::milliseconds patience) {
     {
         std::future<void> first;
         if (patience.count() > 0) {
-            first = std::async(std::launch::async, takeRows);
-            first.wait_for(patience);
+            try {
+                first = std::async(std::launch::async, takeRows);
+                first.wait_for(patience);
+            } catch (const std::system_error&) {  // there are too many threads; the region makes do with what it gets
+            }
         }
         const int others = std::min(int(waiting().size()), first.valid() ? atOnce - 1 : atOnce);
         if (others > 0) {

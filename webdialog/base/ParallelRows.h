@@ -17,9 +17,9 @@ class ParallelRows {
 public:
     static constexpr int MostAtOnce = 128;
 
-    /// `work` gets the number of each of `rows` rows, counted from 0, on a thread of its own; at most `atOnce` of them
-    /// run at a time, and begin in their order. What it throws is kept by row. With `patience` one thread takes the
-    /// rows in turn as long as that, for those that are likely to answer at once.
+    /// `work` gets the number of each of `rows` rows, counted from 0, on another thread; at most `atOnce` of them run
+    /// at a time, and begin in their order. What it throws is kept by row. With `patience` one thread takes the rows in
+    /// turn for so long before the others come, which are spared where all rows answer at once.
     ParallelRows(int rows, std::function<void(int row)> work, int atOnce = MostAtOnce,
                  std::chrono::milliseconds patience = {});
     /// Waits for the rows that were not left out.
@@ -51,7 +51,7 @@ private:
     mutable std::mutex m_mutex;
     mutable std::condition_variable m_end;
     std::vector<State> m_states;
-    /// The last row that has begun.
+    /// No row before this one waits.
     std::ptrdiff_t m_begun = 0;
     std::vector<std::exception_ptr> m_failures;
     bool m_over = false;

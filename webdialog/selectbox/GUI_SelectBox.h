@@ -42,6 +42,8 @@ public:
     /// Where the parent stands on the screen by now.
     void setParentRect(const QRect& rect);
     void setVisible(bool visible) override;
+    /// Whether it is shown, or will be when its page has loaded.
+    bool isWanted() const { return m_wantVisible; }
 
 public Q_SLOTS:
     void addJSObject();

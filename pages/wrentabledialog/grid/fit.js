@@ -8,8 +8,8 @@ function fitGrid(grid) {
     const part = name => document.getElementById(`grid_${grid.name}_${name}`);
     const [body, heads, records, summary] = ['body', 'columns', 'records', 'summary'].map(part);
     const { clientWidth: width, clientHeight: height } = grid.box;
-    const bodyHeight = height - (grid.summary.length > 0 ? summary.offsetHeight : 0);
-    const rowsHeight = grid.records.length * grid.recordHeight;
+    const bodyHeight = Math.max(0, height - (grid.summary.length > 0 ? summary.offsetHeight : 0));
+    const rowsHeight = Math.max(grid.records.length * grid.recordHeight, records.firstElementChild.offsetHeight);
     const bar = w2utils.scrollBarSize();
     const main = grid.box.firstElementChild;
     setStyle(main, 'width', `${width}px`);
@@ -37,7 +37,6 @@ function fitGrid(grid) {
     if (!wide && !high) {
         Object.assign(grid.last, { scrollTop: 0, scrollLeft: 0 });
     }
-    grid.initResize();
 }
 
 function pin(element, pixels) {
@@ -47,17 +46,21 @@ function pin(element, pixels) {
 // Gives the columns their share of `room` pixels, in whole ones. Answers how many are left, below 0 how many lack.
 function fitColumns(grid, room) {
     const shown = grid.columns.filter(column => !column.hidden);
-    const isFixed = column => String(column.size).endsWith('px');
-    const flexible = shown.filter(column => !isFixed(column));
+    const flexible = shown.filter(column => !String(column.size).endsWith('px'));
     const sum = flexible.reduce((total, column) => total + parseFloat(column.size), 0);
-    const fixed = shown.filter(isFixed).reduce((total, column) => total + parseFloat(column.size), 0);
     const percent = column => Math.round(parseFloat(column.size) * 10000 / sum) / 100;
+    let free = room;
     shown.forEach(column => {
-        column.sizeType = isFixed(column) ? 'px' : '%';
         column.min = column.min || LEAST_COLUMN;
-        const share = isFixed(column) ? parseInt(column.size, 10)
-            : Math.floor((room - fixed) * percent(column) / 100) - 1;
-        column.sizeCalculated = `${Math.max(share, column.min)}px`;
+        column.sizeType = flexible.includes(column) ? '%' : 'px';
+        if (column.sizeType === 'px') { // the edge may have been dragged beyond the column's other one
+            column.size = `${Math.max(parseInt(column.size, 10), column.min)}px`;
+            column.sizeCalculated = column.size;
+            free -= parseInt(column.size, 10);
+        }
+    });
+    flexible.forEach(column => {
+        column.sizeCalculated = `${Math.max(Math.floor(free * percent(column) / 100) - 1, column.min)}px`;
     });
     let left = room - shown.reduce((total, column) => total + parseInt(column.sizeCalculated, 10), 0);
     for (let index = 0; left > 0 && flexible.length > 0; index++, left--) {

@@ -16,7 +16,7 @@ function listenToGrid(view) {
     box.addEventListener('input', event => onGridInput(event), true);
     box.addEventListener('focusin', event => onGridFocus(view, event), true);
     box.addEventListener('focusout', event => onGridBlur(event), true);
-    box.addEventListener('mouseover', event => event.target.closest('.w2ui-head') && view.placeHandles(), true);
+    box.addEventListener('mousemove', event => event.target.closest('.w2ui-head') && view.placeHandles(), true);
 }
 
 // A click on a control ends here, so what closes on a click elsewhere is closed beforehand.

@@ -35,6 +35,7 @@ Object.assign(wrentabledialog_obj, {
             onUnselect: (event) => this.onUnselect(tab, event),
             onClick: (event) => this.clickRecordFunc(tab, event),
             onDblClick: (event) => event.preventDefault(),
+            onColumnResize: (event) => { event.onComplete = () => viewAt(tab.number).measure(); },
             onColumnDragStart: (event) => this.beginColumnDrag(event),
             onColumnDragEnd: (event) => {
                 this.isColumnDragged = false;

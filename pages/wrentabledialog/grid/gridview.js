@@ -15,6 +15,7 @@ class GridView {
         this.size = ''; // of the grid's box, as last laid out
         this.spot = ''; // where it was last scrolled to
         this.height = 0; // of the visible part, in pixels
+        this.owesHandles = false; // at the edges of the heads
         this.held = 0; // while above 0, w2ui's refresh waits
         this.owed = false;
         this.focusedKey = null; // of the row that had the keyboard, while its frame is exchanged
@@ -26,15 +27,6 @@ class GridView {
         grid.scroll = () => this.scrolled();
         grid.refresh = () => this.refresh();
         grid.resize = () => this.resized();
-        // The places to take a column by: at first when the mouse comes to the heads.
-        const initResize = grid.initResize;
-        grid.initResize = () => { this.owesHandles = true; };
-        this.placeHandles = () => {
-            if (this.owesHandles) {
-                this.owesHandles = false;
-                initResize.call(grid);
-            }
-        };
     }
 
     // Makes a new frame, to which the drawn rows move over. The first records bring the first one.
@@ -184,11 +176,21 @@ class GridView {
     // Gives the columns their widths. It costs least while there are no rows; without a place on the screen there is
     // nothing to measure.
     measure() {
-        if (this.grid.box.clientWidth > 0) {
+        const isShown = this.grid.box.clientWidth > 0;
+        if (isShown) {
             fitGrid(this.grid);
-            this.size = this.boxSize();
+            this.owesHandles = true;
         }
+        this.size = isShown ? this.boxSize() : '';
         this.height = this.box.clientHeight;
+    }
+
+    // The places to take the edge of a column by, not before the mouse comes to the heads.
+    placeHandles() {
+        if (this.owesHandles) {
+            this.owesHandles = false;
+            this.grid.initResize();
+        }
     }
 
     // Puts a row on each line of the range. `full` draws all of them anew, else only those that come into view. A row

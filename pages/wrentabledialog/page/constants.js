@@ -9,9 +9,9 @@ var wrentabledialog_const_obj = {
     CUSTOM_MAX: 64
 };
 
-// Fields that all live tabs, and both memory tabs, begin with.
 const PAINT_MS = 20; // by then the page has drawn what was changed
 
+// Fields that all live tabs, and both memory tabs, begin with.
 const LIVE_FIELDS = ['lock', 'connectIcon', 'cameraName', 'alert', 'cameraStatus', 'sync'];
 const MEMORY_FIELDS = ['recordCheck', 'connectIcon', 'cameraName', 'alert'];
 

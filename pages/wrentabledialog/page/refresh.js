@@ -29,7 +29,7 @@ Object.assign(wrentabledialog_obj, {
         }
     },
 
-    // Null when there are none.
+    // Null when the bridge gave no list.
     fetchRecords(tabkey) {
         const filter = Number(document.getElementById('recordFilter').value);
         return recordReplies.ask({ group: this.selectedGroup(), filter, tab: tabkey });

@@ -27,7 +27,7 @@ const recordReplies = {
     },
 
     // A call that came inside this one may have taken a newer reply than the one that this completes. Then it is asked
-    // again, as by a page that has none.
+    // again, as by a page that has none: what is whole completes anything, so that this ends.
     complete(reply, request) {
         if (reply.since !== 0 && reply.since !== this.taken) {
             this.taken = 0;

@@ -2,7 +2,6 @@
 Object.assign(wrentabledialog_obj, {
     // Nothing is laid out as long as the page is being made. What only makes it usable comes after the first rows.
     initializePage() {
-        this.initialize = true;
         ['open', 'update', 'autoUpdate', 'close'].forEach(name => {
             wrentabledialog[name].connect(() => logged(() => this[name]()));
         });
@@ -33,7 +32,7 @@ Object.assign(wrentabledialog_obj, {
         window.addEventListener('blur', () => this.endDrag());
     },
 
-    // Runs `work` once the first rows are on the screen, or now when they are.
+    // Runs `work` when the first rows have been painted, or now if they have.
     whenPainted(work) {
         if (this.initialize) {
             this.afterPaint.push(work);
@@ -88,7 +87,7 @@ Object.assign(wrentabledialog_obj, {
             activate: (event, ui) => this.enterTab(ui.newTab)
         });
         this.tabsExist = true;
-        this.disableTabs(this.look.tabsOff);
+        this.applyControls(); // the mode may be another one by now
         this.refreshColumnNumber(this.activeTab());
     },
 

@@ -1,6 +1,6 @@
 // The page's state; its functions are added by the topics that follow.
 var wrentabledialog_obj = {
-    initialize: true, // until the first rows are on the screen
+    initialize: true, // until a moment after the load, by when the first rows are painted
     afterPaint: [], // what is done then
     startTab: 0, // the one that is shown before there are tabs
     tabsExist: false, // they are made after the first rows
