@@ -1,14 +1,6 @@
 #include "SteppedClock.h"
 
 #include <algorithm>
-#include <chrono>
-
-namespace {
-
-/// More than the patience with rows that are asked in turn.
-constexpr std::chrono::milliseconds SeenToWait(2);
-
-}  // namespace
 
 qint64 SteppedClock::now() const {
     const std::lock_guard lock(m_mutex);
@@ -17,15 +9,10 @@ qint64 SteppedClock::now() const {
 }
 
 void SteppedClock::wait(qint64 ms) {
-    if (ms <= 0) {
-        return;
+    if (ms > 0) {
+        const std::lock_guard lock(m_mutex);
+        m_booked[std::this_thread::get_id()] += ms;
     }
-    const auto thread = std::this_thread::get_id();
-    if (thread != m_maker) {
-        std::this_thread::sleep_for(SeenToWait);
-    }
-    const std::lock_guard lock(m_mutex);
-    m_booked[thread] += ms;
 }
 
 void SteppedClock::beginRow() {

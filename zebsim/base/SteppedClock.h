@@ -7,8 +7,7 @@
 #include <thread>
 #include <utility>
 
-/// Time that a test moves. A wait is booked, not slept: each thread adds up its own. On other threads than that of the
-/// maker it still lasts as long as somebody needs to see that one waits. Any thread.
+/// Time that a test moves. A wait is booked, not slept: each thread adds up its own. Any thread.
 class SteppedClock : public Clock {
 public:
     /// The common time, and what the calling thread has booked.
@@ -24,7 +23,6 @@ public:
     qint64 join();
 
 private:
-    const std::thread::id m_maker = std::this_thread::get_id();
     mutable std::mutex m_mutex;
     qint64 m_time = 0;
     std::map<std::thread::id, qint64> m_booked;
