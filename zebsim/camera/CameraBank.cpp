@@ -148,8 +148,7 @@ std::vector<Camera*> CameraBank::all() const {
 Camera* CameraBank::findAmongAll(DOCKEY key) const {
     const auto file = m_files.find(key);
     const bool isFile = file != m_files.end();
-    const bool isAmongThem = m_listsFiles ? isFile && file->second.isListed : !isFile;
-    return isAmongThem ? find(key) : nullptr;
+    return isFile != m_listsFiles || (isFile && !file->second.isListed) ? nullptr : find(key);
 }
 
 std::vector<Camera*> CameraBank::files() const {
