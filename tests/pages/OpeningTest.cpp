@@ -74,6 +74,7 @@ TEST(PageOpening, FollowsAModeThatChangesMeanwhile) {
 
 TEST(PageOpening, MayBeCutOffAtEachTurn) {
     initHostPages();
+    TablePage::watchErrors();
     TestHost test(connected(4));
     bool stands = false;
     for (int turns = 0; !stands; ++turns) {
@@ -91,6 +92,7 @@ TEST(PageOpening, MayBeCutOffAtEachTurn) {
         EXPECT_TRUE(until([&] { return !loader.plugin().getDialog(false)->isVisible(); })) << turns;
     }
     EXPECT_EQ(test.desk.texts(), QStringList());
+    qInstallMessageHandler(nullptr);
 }
 
 }  // namespace

@@ -35,7 +35,7 @@ void watchLog(QtMsgType type, const QMessageLogContext&, const QString& line) {
 
 TestHost& prepared(TestHost& test) {
     initHostPages();
-    qInstallMessageHandler(watchLog);
+    TablePage::watchErrors();
     test.host.prefs().setValue(QStringLiteral("wren/table/interval"), TablePage::TickMs);
     test.host.prefs().setValue(QStringLiteral("wren/table/w"), 1700);
     test.host.prefs().setValue(QStringLiteral("wren/table/h"), 1000);
@@ -85,6 +85,10 @@ void TablePage::show(int tab) {
 
 void TablePage::expectErrors(QStringList* lines) {
     expectedErrors = lines;
+}
+
+void TablePage::watchErrors() {
+    qInstallMessageHandler(watchLog);
 }
 
 bool TablePage::until(const QString& script) {

@@ -42,6 +42,8 @@ public:
     QStringList tick() { return list(QStringLiteral("probe.writes(() => wrentabledialog_obj.autoUpdate())")); }
     /// From here on the errors of the page's scripts go into `lines`; null: they fail the test, as they did before.
     static void expectErrors(QStringList* lines);
+    /// From here on the errors of the scripts of any page fail the test, until the end of a `TablePage`.
+    static void watchErrors();
     /// Waits until a script answers true; false when it never does.
     bool until(const QString& script);
     /// Waits for the update that was asked for.
