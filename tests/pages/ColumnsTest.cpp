@@ -134,4 +134,26 @@ TEST(PageColumns, AreAsWideAsTheLibraryMakesThem) {
     }
 }
 
+TEST(PageColumns, ScrollTogetherWhateverIsScrolled) {
+    TestHost test(connected(3));
+    TablePage page(test, 1);
+    page.run("probe.grid().columns[2].size = '2500px'; viewOf(probe.grid()).measure(); return 0");
+    const char* lefts =
+        "['records', 'columns', 'summary'].map(part =>"
+        " String(document.getElementById(`grid_${probe.grid().name}_${part}`).scrollLeft))";
+    EXPECT_EQ(page.list(lefts), QStringList({"0", "0", "0"}));
+    for (const char* part : {"summary", "columns", "records"}) {
+        for (const int left : {60, 5000}) {
+            page.run(QString("document.getElementById(`grid_${probe.grid().name}_%1`).scrollLeft = %2; return 0")
+                         .arg(part)
+                         .arg(left));
+            EXPECT_TRUE(
+                page.until(QString("(all => all[0] !== '0' && all.every(left => left === all[0]))(%1)").arg(lefts)))
+                << part << page.list(lefts).join(' ').toStdString();
+        }
+        page.run("probe.grid().box.querySelector('.w2ui-grid-records').scrollLeft = 0; return 0");
+        ASSERT_TRUE(page.until(QString("%1.every(left => left === '0')").arg(lefts)));
+    }
+}
+
 }  // namespace

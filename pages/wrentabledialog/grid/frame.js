@@ -22,6 +22,15 @@ function drawFrame(view) {
         summary.scrollLeft = scrollLeft;
         grid.scroll();
     });
+    // The keyboard in the batch row and a gesture over the heads scroll these by themselves.
+    [heads, summary].forEach(follower => {
+        follower.onscroll = () => {
+            if (follower.scrollLeft !== grid.last.scrollLeft) {
+                records.scrollLeft = follower.scrollLeft;
+                follower.scrollLeft = records.scrollLeft; // it may have gone further than the rows can
+            }
+        };
+    });
     grid.last.columnDrag = grid.last.columnDrag || grid.initColumnDrag();
 }
 
