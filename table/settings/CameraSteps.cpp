@@ -86,7 +86,7 @@ std::vector<CameraSteps::Row> CameraSteps::runRows(const DocKeyList& keys, const
             names << nameOf(key);
         }
     }
-    {
+    if (!rows.empty()) {
         const ParallelRows running(
             int(rows.size()),
             [&](int index) {

@@ -19,10 +19,11 @@
 // The first two get the cell, the record and the list's status, and write through the cell, which leaves out what the
 // elements show already.
 class Cell {
-    constructor(box, kind, short) {
+    constructor(box, kind, short, field) {
         this.box = box; // the element that w2ui pads
         this.kind = kind;
         this.short = short;
+        this.field = field;
         this.content = null; // the root of the markup, made when the cell is first filled
         this.filled = false;
         this.isRead = true; // the record of the last rebuild told what the cell shows

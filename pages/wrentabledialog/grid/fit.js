@@ -2,6 +2,7 @@
 // each time of a table that must be laid out for it; here all is read, reckoned and then written. What comes out is the
 // same, and w2ui goes on from it when the user drags the edge of a column.
 const LEAST_COLUMN = 20; // pixels
+let scrollBar = 0; // width in pixels, seen where rows scroll
 
 // Reads the height of the heads once it has written the widths, since captions wrap.
 function fitGrid(grid) {
@@ -10,7 +11,7 @@ function fitGrid(grid) {
     const { clientWidth: width, clientHeight: height } = grid.box;
     const bodyHeight = Math.max(0, height - (grid.summary.length > 0 ? summary.offsetHeight : 0));
     const rowsHeight = Math.max(grid.records.length * grid.recordHeight, records.firstElementChild.offsetHeight);
-    const bar = w2utils.scrollBarSize();
+    scrollBar = records.offsetWidth - records.clientWidth || scrollBar;
     const main = grid.box.firstElementChild;
     setStyle(main, 'width', `${width}px`);
     setStyle(main, 'height', `${height}px`);
@@ -19,11 +20,11 @@ function fitGrid(grid) {
     let spare = 0;
     let headHeight = 0;
     const layOut = high => {
-        spare = fitColumns(grid, width - (high ? bar : 0));
+        spare = fitColumns(grid, width - (high ? scrollBar : 0));
         setStyle(heads.querySelector('.w2ui-head-last'), 'display', high || spare !== 0 ? '' : 'none');
-        writeWidths(grid, [heads, records, summary], spare, bar);
+        writeWidths(grid, [heads, records, summary], spare);
         headHeight = heads.offsetHeight;
-        return bodyHeight - headHeight < rowsHeight + (spare < 0 ? bar : 0);
+        return bodyHeight - headHeight < rowsHeight + (spare < 0 ? scrollBar : 0);
     };
     const guess = bodyHeight < rowsHeight;
     const high = layOut(guess);
@@ -72,10 +73,10 @@ function fitColumns(grid, room) {
 
 // The first row of each table holds its widths; the last cell takes what is left and, where no rows scroll, the room of
 // the scroll bar.
-function writeWidths(grid, parts, spare, bar) {
+function writeWidths(grid, parts, spare) {
     parts.forEach(part => {
         const cells = part.querySelectorAll('table > tbody > tr:first-child > td');
-        const last = Math.max(spare, 0) + (part.classList.contains('w2ui-grid-records') ? 0 : bar);
+        const last = Math.max(spare, 0) + (part.classList.contains('w2ui-grid-records') ? 0 : scrollBar);
         Array.from(cells).forEach(cell => {
             const column = grid.columns[cell.getAttribute('col')];
             setStyle(cell, 'width', column ? column.sizeCalculated : `${last}px`);

@@ -7,7 +7,8 @@ function drawFrame(view) {
     const [body, summary] = ['body', 'summary'].map(part);
     const hasBatch = grid.summary.length > 0;
     ['header', 'toolbar', 'footer'].forEach(name => setStyle(part(name), 'display', 'none'));
-    body.innerHTML = `<div id="grid_${grid.name}_records" class="w2ui-grid-records">${recordsMarkup(grid)}</div>` +
+    body.innerHTML = `<div id="grid_${grid.name}_records" class="w2ui-grid-records" ` +
+        `style="overflow-y: scroll">${recordsMarkup(grid)}</div>` +
         `<div id="grid_${grid.name}_columns" class="w2ui-grid-columns"><table>${grid.getColumnsHTML()}</table></div>`;
     summary.innerHTML = hasBatch ? summaryMarkup(grid) : '';
     setStyle(summary, 'display', hasBatch ? 'block' : 'none');

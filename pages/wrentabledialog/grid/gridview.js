@@ -93,6 +93,7 @@ class GridView {
         const columns = this.grid.columns.map(column => `${column.field}${column.hidden}`).join();
         if (this.columns !== columns) {
             this.columns = columns;
+            this.frame = rowFrame(this.grid, this.tab);
             this.rows = [];
             this.spare = [];
             this.batch = null;
@@ -212,7 +213,7 @@ class GridView {
         this.rows = lines.map(line => {
             const record = this.grid.records[line];
             const known = drawn.get(record.key);
-            const row = known || this.spare.pop() || new DrawnRow(this.grid, this.tab);
+            const row = known || this.spare.pop() || new DrawnRow(this.grid, this.tab, this.frame);
             row.index = line;
             if (full || !known) {
                 this.rebuildRow(row, record);
@@ -245,7 +246,7 @@ class GridView {
         if (this.grid.summary.length === 0 || !this.status) {
             return;
         }
-        this.batch = this.batch || new DrawnRow(this.grid, this.tab);
+        this.batch = this.batch || new DrawnRow(this.grid, this.tab, this.frame);
         this.batch.rebuild(this.grid.summary[0], 1, this.status);
         const place = summary.querySelector('.wren-batch-place');
         if (place) {

@@ -1,32 +1,13 @@
 // A drawn row: an element of the table that shows one record, and another one when it is needed elsewhere.
 class DrawnRow {
-    constructor(grid, tab) {
+    // `frame`: see `rowFrame`.
+    constructor(grid, tab, frame) {
         this.grid = grid;
         this.key = null;
         this.line = null;
-        this.cells = []; // in the order of the columns that are shown
-        this.element = document.createElement('tr');
-        grid.columns.forEach((column, index) => {
-            if (!column.hidden) {
-                this.addCell(column.field, columnKind(tab, column.field), index, tab.name);
-            }
-        });
-        const last = document.createElement('td');
-        last.className = 'w2ui-grid-data-last';
-        this.element.appendChild(last);
-    }
-
-    addCell(field, kind, index, short) {
-        const td = document.createElement('td');
-        td.className = 'w2ui-grid-data';
-        td.setAttribute('col', index);
-        td.setAttribute('style', `text-align: ${kind.align}`);
-        const box = document.createElement('div');
-        td.appendChild(box);
-        this.element.appendChild(td);
-        const cell = new Cell(box, kind, short);
-        cell.field = field;
-        this.cells.push(cell);
+        this.element = frame.cloneNode(true);
+        this.cells = grid.columns.filter(column => !column.hidden).map(({ field }, place) =>
+            new Cell(this.element.children[place].firstChild, columnKind(tab, field), tab.name, field));
     }
 
     // Draws the record as a full refresh does. `line` counts from 1.
@@ -98,6 +79,15 @@ class DrawnRow {
         const td = element.closest('td');
         return this.cells.find(cell => cell.box.parentNode === td);
     }
+}
+
+// A row with the cells of all columns that are shown, empty, to be copied.
+function rowFrame(grid, tab) {
+    const row = document.createElement('tr');
+    const cells = grid.columns.map(({ field, hidden }, index) => hidden ? '' : '<td class="w2ui-grid-data" ' +
+        `col="${index}" style="text-align: ${columnKind(tab, field).align}"><div></div></td>`);
+    row.innerHTML = cells.join('') + '<td class="w2ui-grid-data-last"></td>';
+    return row;
 }
 
 // What a drawn row is built from, beside what its cells need.

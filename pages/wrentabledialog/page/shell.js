@@ -7,7 +7,6 @@ Object.assign(wrentabledialog_obj, {
         });
         document.body.style.display = 'none';
         this.showStartTab();
-        this.applyControls();
         this.whenPainted(() => this.initializeAccordion());
         zeb4func.disableDefaultShortcut();
         zeb4func.localize(wrentabledialog);
