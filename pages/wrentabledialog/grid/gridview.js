@@ -27,6 +27,7 @@ class GridView {
         grid.scroll = () => this.scrolled();
         grid.refresh = () => this.refresh();
         grid.resize = () => this.resized();
+        grid.reload = () => undefined; // it would search and sort, at the first rendering too
     }
 
     // Makes a new frame, to which the drawn rows move over. The first records bring the first one.

@@ -177,11 +177,12 @@ var zeb4func = {
 
     localize: function (mediator) {
         this.elementsOf('.localize').forEach(function (element) {
-            Array.from(element.childNodes).forEach(function (node) {
-                if (node.nodeType === Node.TEXT_NODE && node.nodeValue.trim()) {
-                    node.nodeValue = mediator.translate(node.nodeValue.trim());
+            for (let node = element.firstChild; node; node = node.nextSibling) {
+                const text = node.nodeType === Node.TEXT_NODE ? node.nodeValue.trim() : '';
+                if (text) {
+                    node.nodeValue = mediator.translate(text);
                 }
-            });
+            }
             if (element.getAttribute('title')) {
                 element.title = mediator.translate(element.title);
             }
