@@ -154,6 +154,24 @@ TEST(PageColumns, ScrollTogetherWhateverIsScrolled) {
         page.run("probe.grid().box.querySelector('.w2ui-grid-records').scrollLeft = 0; return 0");
         ASSERT_TRUE(page.until(QString("%1.every(left => left === '0')").arg(lefts)));
     }
+    page.run("probe.grid().box.querySelector('.w2ui-grid-records').scrollLeft = 60; return 0");
+    ASSERT_TRUE(page.until(QString("%1.every(left => left === '60')").arg(lefts)));
+    test.host.faults().plant(3, "*", {{}, 0, true});
+    page.update();
+    EXPECT_EQ(page.number("probe.drawn().length"), 2);
+    page.settle();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(page.list(lefts), QStringList({"60", "60", "60"})) << "a new frame stands where the old one did";
+}
+
+TEST(PageColumns, AnEdgeIsLetGoOutsideTheWindowToo) {
+    TestHost test(connected(3));
+    TablePage page(test, 1);
+    page.move("#grid_wren-livecontrol-list_columns .w2ui-head:nth-child(3)");
+    page.press("#grid_wren-livecontrol-list_columns .w2ui-resizer[name=\"2\"]");
+    EXPECT_TRUE(page.run("probe.grid().resizing === true").toBool());
+    page.releaseOutside();
+    EXPECT_TRUE(page.run("probe.grid().resizing === undefined").toBool());
 }
 
 }  // namespace

@@ -17,10 +17,7 @@ function drawFrame(view) {
         if (records !== view.box) { // it has been thrown away meanwhile
             return;
         }
-        const { scrollTop, scrollLeft } = records;
-        Object.assign(grid.last, { scrollTop, scrollLeft });
-        heads.scrollLeft = scrollLeft;
-        summary.scrollLeft = scrollLeft;
+        alignFrame(view);
         grid.scroll();
     });
     // The keyboard in the batch row and a gesture over the heads scroll these by themselves.
@@ -33,6 +30,14 @@ function drawFrame(view) {
         };
     });
     grid.last.columnDrag = grid.last.columnDrag || grid.initColumnDrag();
+}
+
+// Brings heads and batch row to where the rows are scrolled to.
+function alignFrame({ grid, box: { scrollTop, scrollLeft } }) {
+    Object.assign(grid.last, { scrollTop, scrollLeft });
+    ['columns', 'summary'].forEach(name => {
+        document.getElementById(`grid_${grid.name}_${name}`).scrollLeft = scrollLeft;
+    });
 }
 
 // The first row of each table holds the widths of the columns.

@@ -106,7 +106,7 @@ class GridView {
         this.measure();
         this.box.scrollTop = this.grid.last.scrollTop;
         this.box.scrollLeft = this.grid.last.scrollLeft;
-        this.grid.last.scrollTop = this.box.scrollTop;
+        alignFrame(this);
         this.spot = `${this.grid.last.scrollTop} ${this.grid.last.scrollLeft}`;
         this.drawBatch();
         this.draw(true);

@@ -48,6 +48,10 @@ Object.assign(wrentabledialog_obj, {
         this.preventSelect = false;
         this.rowPress = null;
         this.bandOf = null;
+        // The library hears of a release over an element only.
+        if (views.some(view => view.grid.resizing)) {
+            $(document.body).trigger('mouseup');
+        }
         views.filter(view => view.grid.last.move && view.grid.last.move.type).forEach(view => {
             delete view.grid.last.move;
         });
