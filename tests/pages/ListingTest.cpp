@@ -79,6 +79,24 @@ TEST(PageListing, FollowsTheFilterAndSelectsWhatIsConnected) {
     EXPECT_EQ(test.host.prefs().value("wren/table/filter").toInt(), 0);
 }
 
+TEST(PageListing, GreysACameraThatTheListHasLost) {
+    TestHost test(connected(4));
+    TablePage page(test, 1);
+    page.run("document.getElementById('recordFilter').value = '1'; wrentabledialog_obj.update(); return 0");
+    const char* greyed = "probe.drawn().filter(row => row.hasAttribute('unlisted')).map(probe.keyOf)";
+    for (const bool on : {false, true}) {
+        test.camera(2).change({{"connected", on}});
+        page.tick();
+        EXPECT_EQ(page.list(greyed), on ? QStringList() : QStringList("2"));
+        EXPECT_EQ(page.tick(), QStringList());
+    }
+    test.camera(2).change({{"connected", false}});
+    page.tick();
+    page.update();
+    EXPECT_EQ(page.list("probe.drawn().map(probe.keyOf)"), QStringList({"1", "3", "4"}));
+    EXPECT_EQ(page.list(greyed), QStringList()) << "nor does a row used again stay grey";
+}
+
 TEST(PageListing, KeepsTheFilterThroughFileModeAndIsFilledByAFullUpdate) {
     TestHost test(standardRig(4));
     connectCameras(test, 2, 3);

@@ -148,6 +148,7 @@ class GridView {
 
     tickRow(row) {
         const record = this.recordOf(row);
+        row.setListed(record !== undefined);
         if (record) {
             row.tick(record, this.status);
         }

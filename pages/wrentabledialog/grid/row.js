@@ -12,6 +12,7 @@ class DrawnRow {
 
     // Draws the record as a full refresh does. `line` counts from 1.
     rebuild(record, line, status) {
+        this.setListed(true);
         this.bind(record, line);
         this.redraw(record, sourceOf(record), status);
     }
@@ -66,6 +67,13 @@ class DrawnRow {
         }
         if (this.element.getAttribute('style') !== whole) {
             this.element.setAttribute('style', whole);
+        }
+    }
+
+    // A camera that is not in the list any more stands until the next full refresh, greyed, for what it shows is past.
+    setListed(on) {
+        if (this.element.hasAttribute('unlisted') === on) {
+            this.element[on ? 'removeAttribute' : 'setAttribute']('unlisted', '');
         }
     }
 
