@@ -63,6 +63,10 @@ TEST(PageOpening, FollowsAModeThatChangesMeanwhile) {
     EXPECT_TRUE(until([&] { return page->evaluateJavaScript(rows).toInt() > 0; }));
     const int first = page->evaluateJavaScript(rows).toInt();
     EXPECT_TRUE(is("wrentabledialog_obj.initialize && !wrentabledialog_obj.tabsExist"));
+    EXPECT_TRUE(
+        is("['mousedown', 'click'].every(type => !document.getElementById('timeline_rec_exec')"
+           ".dispatchEvent(new MouseEvent(type, { bubbles: true, cancelable: true })))"))
+        << "a press that comes before its listener is not half done";
     test.host.appStatus().enterMode(zeb::MemoryMode);
     EXPECT_TRUE(until([&] { return is("!wrentabledialog_obj.initialize"); }));
     EXPECT_GE(page->evaluateJavaScript(rows).toInt(), first + 2 * 4) << "those beyond the edges come behind";

@@ -138,6 +138,14 @@ $(window).on('resize', () => {
     wrentabledialog_obj.resizeTableElements();
 });
 
+// Half of what a press does is not there before the page stands; so it does nothing, and the log does not tell of it.
+['mousedown', 'mouseup', 'click', 'dblclick', 'contextmenu'].forEach(type => window.addEventListener(type, event => {
+    if (wrentabledialog_obj.initialize) {
+        event.preventDefault();
+        event.stopImmediatePropagation();
+    }
+}, true));
+
 window.addEventListener('load', () => {
     wrentabledialog_obj.resizeTableElements();
     window.setTimeout(() => wrentabledialog_obj.endInitializing(), PAINT_MS);
