@@ -3,6 +3,7 @@
 #include "AppWindows.h"
 #include "Camera.h"
 #include "CameraWindows.h"
+#include "EditMenu.h"
 #include "HostKeys.h"
 #include "ImageArea.h"
 #include "LogDock.h"
@@ -46,6 +47,9 @@ ViewerWindow::ViewerWindow(SimHost& host, const LogStore& log)
     setCentralWidget(m_area);
     m_bar->setObjectName(QStringLiteral("tools"));
     m_bar->setMovable(false);
+    auto* edit = new QMenu(uiText("&Edit"), this);
+    menuBar()->insertMenu(m_cameraMenu->menuAction(), edit);
+    new EditMenu(host, *edit);
     m_cameraMenu->addActions((new HostKeys(host, *m_bar))->actions());
     m_bar->addSeparator();
     addModeSwitch();

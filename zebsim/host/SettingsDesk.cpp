@@ -1,11 +1,9 @@
 #include "SettingsDesk.h"
 
-#include "Camera.h"
-#include "CameraBank.h"
-#include "HostBatch.h"
 #include "HostContext.h"
 #include "HostMessages.h"
 #include "LoadTexts.h"
+#include "SettingsBatch.h"
 #include "SettingsReader.h"
 #include "SimAppStatus.h"
 #include "TextKey.h"
@@ -14,11 +12,9 @@
 
 #include <QFileInfo>
 #include <QMessageBox>
-#include <QSet>
 #include <QtDebug>
 
 #include <algorithm>
-#include <map>
 
 namespace {
 
@@ -37,7 +33,8 @@ const CameraPlan* find(const LoadPlan& plan, const PlanCamera& camera) {
 
 void SettingsDesk::load(const QString& path) const {
     const QList<HeadSettings> file = readSettings(path);
-    const LoadPlan shown = plan(file);
+    const SettingsBatch batch(m_host);
+    const LoadPlan shown = batch.plan(file);
     if (shown.changes() == 0) {
         tellNothingToDo(path, shown);
         return;
@@ -48,19 +45,8 @@ void SettingsDesk::load(const QString& path) const {
     } else if (m_host.appStatus.mode() != mode) {
         m_host.messages.tell(Message::Warn, TextKey("The mode has changed. No setting was loaded."));
     } else {
-        carryOut(path, plan(file), shown);
+        carryOut(path, batch.plan(file), shown);
     }
-}
-
-LoadPlan SettingsDesk::plan(const QList<HeadSettings>& file) const {
-    QList<PlanCamera> cameras;
-    for (const Camera* camera : m_host.cameras.known()) {
-        if (camera->device().isFound()) {
-            cameras.append({camera->key(), m_host.cameras.labelOf(*camera), camera->device().address(),
-                            camera->headNumber(), camera->device().sharedModel(), camera->state(), camera->isGone()});
-        }
-    }
-    return planLoad(file, cameras);
 }
 
 void SettingsDesk::tellNothingToDo(const QString& path, const LoadPlan& plan) const {
@@ -91,14 +77,17 @@ bool SettingsDesk::agrees(const QString& path, const LoadPlan& plan) const {
 void SettingsDesk::carryOut(const QString& path, const LoadPlan& plan, const LoadPlan& shown) const {
     const LoadTexts texts(m_host.translator);
     qInfo() << "Settings are loaded:" << path << texts.preview(plan);
-    std::vector<Row> rows = rowsOf(plan, shown);
-    give(rows);
+    const SettingsBatch batch(m_host);
+    const auto rows = batch.carryOut(plan, [&shown](const CameraPlan& camera) {
+        const CameraPlan* agreed = find(shown, camera.camera);
+        return agreed != nullptr && agreed->left == CameraPlan::Taken;
+    });
     QStringList surprises = texts.oddities(plan);
     for (const QString& known : texts.oddities(shown)) {
         surprises.removeOne(known);
     }
-    for (const Row& row : rows) {
-        surprises += surprisesOf(row);
+    for (const SettingsBatch::Row& row : rows) {
+        surprises += batch.surprisesOf(row);
     }
     m_host.updates.request();
     if (surprises.isEmpty()) {
@@ -109,58 +98,4 @@ void SettingsDesk::carryOut(const QString& path, const LoadPlan& plan, const Loa
         const QString text = m_host.translator.translate(TextKey("Not all settings of \"%1\" were loaded."));
         m_host.messages.tell(Message::Warn, text.arg(nameOf(path)), surprises);
     }
-}
-
-/// A head without a change may lose what it has to one of the others.
-std::vector<SettingsDesk::Row> SettingsDesk::rowsOf(const LoadPlan& plan, const LoadPlan& shown) const {
-    QSet<QString> devices;
-    for (const CameraPlan& camera : plan.cameras) {
-        if (!camera.changes().isEmpty()) {
-            devices.insert(camera.camera.address);
-        }
-    }
-    std::vector<Row> rows;
-    for (const CameraPlan& camera : plan.cameras) {
-        const CameraPlan* agreed = find(shown, camera.camera);
-        const bool isTaken = camera.left == CameraPlan::Taken && devices.contains(camera.camera.address);
-        if (isTaken && agreed != nullptr && agreed->left == CameraPlan::Taken) {
-            rows.push_back({&camera, m_host.cameras.hold(camera.camera.key), {}, {}});
-        }
-    }
-    return rows;
-}
-
-/// Heads of a device one after the other, for they share settings.
-void SettingsDesk::give(std::vector<Row>& rows) const {
-    std::map<const CameraDevice*, std::vector<Row*>> devices;
-    DocKeyList keys;
-    for (Row& row : rows) {
-        if (row.camera) {
-            devices[&row.camera->device()].push_back(&row);
-            keys.append(row.camera->key());
-        }
-    }
-    const HeldCameras cameras = m_host.cameras.holdDevices(keys);
-    const auto answers = m_host.batch.run(cameras, [&devices](const Camera& camera) {
-        for (Row* row : devices.at(&camera.device())) {
-            row->answer = loadSettings(*row->camera, *row->plan);
-        }
-        for (Row* row : devices.at(&camera.device())) {
-            readBack(*row->camera, row->answer);
-        }
-    });
-    for (std::size_t i = 0; i < answers.size(); ++i) {
-        for (Row* row : devices.at(&cameras[i]->device())) {
-            row->leftOut = answers[i].reason;
-        }
-    }
-}
-
-QStringList SettingsDesk::surprisesOf(const Row& row) const {
-    const LoadTexts texts(m_host.translator);
-    if (!row.camera || row.camera->isGone()) {
-        return {texts.gone(*row.plan)};
-    }
-    return row.leftOut.isEmpty() ? texts.surprises(*row.plan, row.answer)
-                                 : QStringList{m_host.messages.translated(row.leftOut)};
 }

@@ -1,16 +1,9 @@
 #pragma once
 
-#include "HeadSettings.h"
-#include "LoadPlan.h"
-#include "SettingsLoad.h"
+#include <QString>
 
-#include <QStringList>
-
-#include <memory>
-#include <vector>
-
-class Camera;
 struct HostContext;
+struct LoadPlan;
 
 /// Loads camera settings from files.
 class SettingsDesk {
@@ -23,23 +16,10 @@ public:
     void load(const QString& path) const;
 
 private:
-    /// What a camera was to become, and what it has answered.
-    struct Row {
-        const CameraPlan* plan;
-        std::shared_ptr<Camera> camera;
-        LoadAnswer answer;
-        /// It was never asked, with the reason in the user's language.
-        QString leftOut;
-    };
-
-    LoadPlan plan(const QList<HeadSettings>& file) const;
     bool agrees(const QString& path, const LoadPlan& plan) const;
     void tellNothingToDo(const QString& path, const LoadPlan& plan) const;
     /// `plan` is what holds by now of what was `shown`.
     void carryOut(const QString& path, const LoadPlan& plan, const LoadPlan& shown) const;
-    std::vector<Row> rowsOf(const LoadPlan& plan, const LoadPlan& shown) const;
-    void give(std::vector<Row>& rows) const;
-    QStringList surprisesOf(const Row& row) const;
 
     const HostContext& m_host;
 };

@@ -39,7 +39,7 @@ SimHost::SimHost(Clock& clock, MessageDesk& desk, const QString& prefsPath)
       m_cameraOps(m_context),
       m_viewOps(m_cameras, m_flags),
       m_mdi(m_cameras, m_flags),
-      m_undo(m_calls),
+      m_undo(m_context),
       m_imagePlugins(*this, m_appStatus) {
     m_translator.load(QStringLiteral("en"));
     m_faults.whenGone([this] {

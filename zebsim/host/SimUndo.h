@@ -2,12 +2,24 @@
 
 #include "ZebUndo.h"
 
-class HostCalls;
+#include "HeadSettings.h"
 
-/// The undo stack. Nothing is undone here: what is asked of it stands in the journal.
+#include <QList>
+#include <QString>
+#include <QVariantMap>
+
+#include <memory>
+#include <vector>
+
+class Camera;
+struct CameraPlan;
+struct HostContext;
+
+/// The undo stack. What the settings that cameras record with become between `beginMacro` and `endMacro` is one step,
+/// with those that moved along. A step without a text is an image tool's. GUI thread.
 class SimUndo : public ZebUndo {
 public:
-    explicit SimUndo(const HostCalls& calls) : m_calls(calls) {}
+    explicit SimUndo(const HostContext& host);
 
     void clear() override;
     void beginMacro(const QString& text) override;
@@ -15,6 +27,60 @@ public:
     bool canUndo() const override;
     bool canRedo() const override;
 
+    /// Texts of the steps that come next; empty when there is none, and outside live mode.
+    QString undoText() const { return textOf(m_undo); }
+    QString redoText() const { return textOf(m_redo); }
+    /// Gives the cameras of the last step what they had before it, or of the step taken back last what they had after
+    /// it. One that is not there, locked, armed, in low light mode or was changed since is left alone, and the user is
+    /// told which; locked and armed ones and those in low light mode wait for the next time. Answers the step's text,
+    /// empty when there was none. Event loops run.
+    QString undo() { return move(m_undo, m_redo, true); }
+    QString redo() { return move(m_redo, m_undo, false); }
+
 private:
-    const HostCalls& m_calls;
+    /// Of one camera or head, only what has changed.
+    struct Change {
+        QString address;
+        int head;
+        QVariantMap before;
+        QVariantMap after;
+    };
+    struct Step {
+        QString text;
+        QList<Change> changes;
+    };
+    struct Found {
+        std::shared_ptr<Camera> camera;
+        QVariantMap settings;
+    };
+    /// What a step does now: for which cameras, which wait for the next time, and a line for each that is left alone.
+    struct Choice {
+        QList<HeadSettings> wanted;
+        QList<Change> waiting;
+        QStringList lines;
+    };
+
+    /// Why a camera is left alone, as a line; empty when it is not. Whether that passes.
+    struct Left {
+        QString line;
+        bool passes = false;
+    };
+
+    std::vector<Found> look() const;
+    QString textOf(const QList<Step>& steps) const;
+    QString move(QList<Step>& from, QList<Step>& to, bool back);
+    Choice choose(const QList<Change>& changes, bool back) const;
+    Left whyLeft(const CameraPlan& camera, const QVariantMap& expected) const;
+    /// Answers the changes that have come about, and adds a line for each that has not.
+    QList<Change> carryOut(Choice& choice, const QList<Change>& changes) const;
+    void tell(const QString& text, int count, const QStringList& lines, bool back) const;
+    QString line(const QString& label, const QString& reason) const;
+
+    const HostContext& m_host;
+    QList<Step> m_undo;
+    QList<Step> m_redo;
+    /// The outermost macro that is open.
+    int m_depth = 0;
+    QString m_text;
+    std::vector<Found> m_found;
 };

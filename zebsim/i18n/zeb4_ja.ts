@@ -3295,5 +3295,37 @@
         <source>%1: saved whole only with loss of quality</source>
         <translation>%1：すべてのフレームは画質の劣化した形でのみ保存されています</translation>
     </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>編集(&amp;E)</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>元に戻す</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>やり直し</translation>
+    </message>
+    <message>
+        <source>Taken back: %1 (cameras: %2)</source>
+        <translation>元に戻しました: %1 (カメラ: %2)</translation>
+    </message>
+    <message>
+        <source>Done again: %1 (cameras: %2)</source>
+        <translation>やり直しました: %1 (カメラ: %2)</translation>
+    </message>
+    <message>
+        <source>another head of the device stays as it is</source>
+        <translation>装置の別のヘッドはそのままです</translation>
+    </message>
+    <message>
+        <source>it is in low light mode, and stays as it is</source>
+        <translation>低照度モードのため、そのままです</translation>
+    </message>
+    <message>
+        <source>it was changed since, and stays as it is</source>
+        <translation>その後に変更されたため、そのままです</translation>
+    </message>
 </context>
 </TS>

@@ -194,6 +194,22 @@ void ScenarioApi::menu(const QString& path) {
     });
 }
 
+QString ScenarioApi::undo() {
+    return guarded([&] {
+        const QString step = m_simulator.host().undo().undo();
+        m_table.settle();
+        return step;
+    });
+}
+
+QString ScenarioApi::redo() {
+    return guarded([&] {
+        const QString step = m_simulator.host().undo().redo();
+        m_table.settle();
+        return step;
+    });
+}
+
 void ScenarioApi::addDevice() {
     guarded([&] {
         m_simulator.windows().addCamera();

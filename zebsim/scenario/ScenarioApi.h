@@ -55,6 +55,8 @@ public:
     Q_INVOKABLE void key(const QString& name, const QVariantMap& options = {});
     Q_INVOKABLE void addDevice();
     Q_INVOKABLE void menu(const QString& path);
+    Q_INVOKABLE QString undo();
+    Q_INVOKABLE QString redo();
     Q_INVOKABLE QString active();
     Q_INVOKABLE void window(const QString& what);
     Q_INVOKABLE QString shot(const QString& path);

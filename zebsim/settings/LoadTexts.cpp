@@ -136,7 +136,7 @@ QStringList LoadTexts::surprises(const CameraPlan& plan, const LoadAnswer& answe
     if (answer.left != CameraPlan::Taken) {
         CameraPlan left = plan;
         left.left = answer.left;
-        return {line(label, whyLeft(left))};
+        return {this->left(left)};
     }
     if (!answer.whyUnread.isEmpty()) {
         const QString unread = m_translator.translate(TextKey("its settings could not be read back: %1"));
@@ -157,6 +157,10 @@ QStringList LoadTexts::surprises(const CameraPlan& plan, const LoadAnswer& answe
 
 QString LoadTexts::gone(const CameraPlan& plan) const {
     return line(plan.camera.label, m_translator.translate(TextKey("the camera is gone")));
+}
+
+QString LoadTexts::left(const CameraPlan& plan) const {
+    return line(plan.camera.label, whyLeft(plan));
 }
 
 QString LoadTexts::line(const QString& label, const QString& remark) const {

@@ -22,6 +22,8 @@ public:
     /// A line for each difference between what was planned and what has become of it.
     QStringList surprises(const CameraPlan& plan, const LoadAnswer& answer) const;
     QString gone(const CameraPlan& plan) const;
+    /// Why all of it is left as it is.
+    QString left(const CameraPlan& plan) const;
 
 private:
     /// What there is to say of cameras, by their labels.

@@ -1,0 +1,131 @@
+#include "support/TestHost.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+/// Eight cameras of all models, connected; keys: 1 Gate, 2 Ramp, 3 and 4 the heads of one device, 5 Roof, 6 Track, 7
+/// Impact, 8 Stand-in.
+class Undo : public testing::Test {
+protected:
+    Undo() {
+        Rig rig = readRig("eight-mixed");
+        for (RigDevice& device : rig.devices) {
+            for (CameraState& head : device.heads) {
+                head.connected = true;
+                head.locked = false;
+                head.recordState = zeb::RecordLive;
+                head.lowLight = false;
+            }
+        }
+        test.host.setRig(rig);
+    }
+
+    QVariantMap settings() {
+        QVariantMap all;
+        for (const Camera* camera : test.host.cameras().known()) {
+            all.insert(QString::number(camera->key()), camera->state().toPlain(CameraState::recordSettings()));
+        }
+        return all;
+    }
+    /// A step that sets the rate of all of them, whatever they say to it.
+    void setRate(unsigned int rate, const QString& text = "Frame rate") {
+        ZebUndo& undo = test.host.undo();
+        undo.beginMacro(text);
+        try {
+            test.host.cameraOps().setRecordRate(test.docs({1, 2, 3, 4, 5, 6, 7, 8}), rate);
+        } catch (const std::exception&) {
+        }
+        undo.endMacro();
+    }
+    QStringList told() {
+        QStringList lines;
+        for (const Message& message : test.desk.shown) {
+            lines += message.list;
+        }
+        test.desk.shown.clear();
+        return lines;
+    }
+
+    TestHost test;
+};
+
+TEST_F(Undo, PutsBackEachCamerasOwnValuesAndThoseThatMovedAlong) {
+    const QVariantMap first = settings();
+    setRate(2000);
+    const QVariantMap second = settings();
+    setRate(500, "Slower");
+    const QVariantMap third = settings();
+    ASSERT_NE(second["1"].toMap()["shutter"], first["1"].toMap()["shutter"]) << "it moved along";
+    EXPECT_EQ(test.host.undo().undo(), "Slower");
+    EXPECT_EQ(settings(), second);
+    EXPECT_EQ(test.host.undo().undo(), "Frame rate");
+    EXPECT_EQ(settings(), first);
+    EXPECT_EQ(test.host.undo().undo(), "");
+    EXPECT_EQ(test.host.undo().redo(), "Frame rate");
+    EXPECT_EQ(test.host.undo().redo(), "Slower");
+    EXPECT_EQ(settings(), third);
+    EXPECT_EQ(test.host.undo().redo(), "");
+    EXPECT_EQ(told(), QStringList());
+}
+
+TEST_F(Undo, LeavesAloneAndNamesThoseThatItMayNotTouch) {
+    test.camera(2).change({{"rate", 1000}});
+    const QVariantMap first = settings();
+    setRate(2000);
+    test.host.cameras().find(1)->change({{"locked", true}});
+    test.host.faults().plant(2, "*", {{}, 0, true});
+    test.host.cameras().find(3)->change({{"locked", true}});
+    test.host.cameras().find(5)->change({{"connected", false}});
+    test.host.cameras().find(6)->change({{"rate", 250}});
+    test.host.cameras().find(7)->change({{"recordState", zeb::RecordReady}});
+    const QVariantMap second = settings();
+    EXPECT_EQ(test.host.undo().undo(), "Frame rate");
+    QVariantMap expected = second;
+    expected["8"] = first["8"];
+    EXPECT_EQ(settings(), expected);
+    EXPECT_EQ(told(),
+              QStringList({"Gate: it is locked, and stays as it is", "Ramp: the camera is gone",
+                           "Nozzle left: it is locked, and stays as it is", "Roof: it is not connected, and stays as it is",
+                           "Track: it was changed since, and stays as it is", "Impact: it is armed, and stays as it is",
+                           "Nozzle right: another head of the device stays as it is"}));
+    // What only waited goes back the next time.
+    for (const DOCKEY key : {1, 3, 7}) {
+        test.host.cameras().find(key)->change({{"locked", false}, {"recordState", zeb::RecordLive}});
+    }
+    EXPECT_EQ(test.host.undo().undo(), "Frame rate");
+    for (const char* key : {"1", "3", "4", "7", "8"}) {
+        EXPECT_EQ(settings()[key], first[key]) << key;
+    }
+    EXPECT_EQ(told(), QStringList());
+    EXPECT_EQ(test.host.undo().undo(), "") << "those that have gone or were changed have left the step";
+    EXPECT_EQ(test.host.undo().redo(), "Frame rate");
+    EXPECT_EQ(test.host.undo().redo(), "Frame rate");
+    EXPECT_EQ(settings()["8"], second["8"]);
+}
+
+TEST_F(Undo, KeepsStepsClosedAndThoseOfImageToolsApart) {
+    setRate(2000);
+    setRate(500, "");
+    EXPECT_FALSE(test.host.undo().canUndo()) << "a tool's is not for the user";
+    test.host.undo().clear();
+    EXPECT_EQ(test.host.undo().undoText(), "Frame rate");
+
+    test.fail("endMacro");
+    EXPECT_THROW(setRate(250, "Slower"), std::exception);
+    test.host.faults().clear();
+    setRate(1000, "Last");
+    EXPECT_EQ(test.host.undo().undo(), "Last");
+    EXPECT_EQ(test.host.undo().undo(), "Slower");
+    test.host.undo().beginMacro("Nothing");
+    test.host.undo().endMacro();
+    EXPECT_EQ(test.host.undo().redoText(), "Slower") << "what changes nothing is no step";
+    test.host.appStatus().enterMode(zeb::MemoryMode);
+    EXPECT_FALSE(test.host.undo().canUndo());
+    EXPECT_EQ(test.host.undo().undo(), "");
+    test.host.appStatus().enterMode(zeb::LiveMode);
+    test.host.setRig(connected(2));
+    EXPECT_FALSE(test.host.undo().canUndo() || test.host.undo().canRedo());
+}
+
+}  // namespace
