@@ -44,8 +44,13 @@ void JS_Mediator_WrenTableDialog::connect(const QVariantList& keys, bool connect
         afterCalls([this, keys, connect] { this->connect(keys, connect, true); });
         return;
     }
-    call(*this, Change, __func__, {{"keys", keyText(keys)}, {"connect", connect}, {"force", force}},
-         [&] { topic<CameraManagement>().connect(toDocKeys(keys), connect, force); });
+    call(*this, Change, __func__, {{"keys", keyText(keys)}, {"connect", connect}, {"force", force}}, [&] {
+        const DocKeyList docKeys = toDocKeys(keys);
+        watch(connect ? cameraaction::Connect : cameraaction::Disconnect, docKeys, cameraaction::flag(connect), [&] {
+            topic<CameraManagement>().connect(docKeys, connect, force);
+            return true;
+        });
+    });
 }
 
 void JS_Mediator_WrenTableDialog::select(const QVariantList& keys, bool select) {
@@ -58,11 +63,11 @@ void JS_Mediator_WrenTableDialog::select(const QVariantList& keys, bool select) 
 }
 
 void JS_Mediator_WrenTableDialog::setCameraName(const QVariantList& keys, const QString& cameraName) {
-    edit(__func__, keys, "cameraName", cameraName, &CameraManagement::setCameraName);
+    edit(__func__, keys, "cameraName", cameraName, &CameraManagement::setCameraName, cameraaction::Name);
 }
 
 void JS_Mediator_WrenTableDialog::setComment(const QVariantList& keys, const QString& comment) {
-    edit(__func__, keys, "comment", comment, &CameraManagement::setComment);
+    edit(__func__, keys, "comment", comment, &CameraManagement::setComment, cameraaction::Comment);
 }
 
 void JS_Mediator_WrenTableDialog::editDoc(DOCKEY dockey) {

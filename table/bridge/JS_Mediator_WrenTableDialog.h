@@ -6,8 +6,11 @@
 
 #include <QPointer>
 
+#include <functional>
+
 class GUI_ProgressDialog;
 class TableView;
+struct CameraAction;
 
 /// What the page of the table can ask and do: one slot a request. GUI thread.
 ///
@@ -49,6 +52,8 @@ public Q_SLOTS:
     QString getGroup();
     int getFilter();
     DOCKEY getBatchDocKey();
+    /// How all cameras stand, see `TableStatus`.
+    QString getTableStatus();
     bool isSuspendReduceMode(DOCKEY dockey);
     /// The partition that the current camera has in use; 0 and an empty text without one.
     PARTITIONNUMBER getCurrentPartition();
@@ -76,6 +81,8 @@ public Q_SLOTS:
 
     // Parameters.
     void setParamLock(const QVariantList& keys, bool lock);
+    /// Of every connected camera, listed or not.
+    void lockAll(bool lock);
     void setFrameRate(const QVariantList& keys, const QString& val);
     void setShutterSpeed(const QVariantList& keys, const QString& val);
     void setResolution(const QVariantList& keys, const QString& val);
@@ -149,7 +156,12 @@ private:
     /// Defined in `CameraEdit.h`.
     template <typename Topic, typename Param, typename Value>
     void edit(const char* method, const QVariantList& keys, const char* name, const Value& value,
-              void (Topic::*set)(const DocKeyList&, Param));
+              void (Topic::*set)(const DocKeyList&, Param), const CameraAction& action);
+    /// Runs `change`, which answers whether it has told the host anything, and notes what the cameras make of it.
+    void watch(const CameraAction& action, const DocKeyList& keys, const QString& asked,
+               const std::function<bool()>& change);
+    /// What was noted stays where nobody was asked.
+    void note(const std::optional<ActionResult>& result);
 
     void openSession();
     void closeSession();

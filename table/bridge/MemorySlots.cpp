@@ -48,19 +48,19 @@ bool JS_Mediator_WrenTableDialog::isShownSelectBox() {
 }
 
 void JS_Mediator_WrenTableDialog::setRecordCheck(const QVariantList& keys, bool check) {
-    edit(__func__, keys, "check", check, &RecordChecks::set);
+    edit(__func__, keys, "check", check, &RecordChecks::set, cameraaction::RecordCheck);
 }
 
 void JS_Mediator_WrenTableDialog::setSelectStartFrameNo(const QVariantList& keys, int frameNo) {
-    edit(__func__, keys, "frameNo", frameNo, &MemoryEditing::setSelectStartFrameNo);
+    edit(__func__, keys, "frameNo", frameNo, &MemoryEditing::setSelectStartFrameNo, cameraaction::FirstFrame);
 }
 
 void JS_Mediator_WrenTableDialog::setSelectEndFrameNo(const QVariantList& keys, int frameNo) {
-    edit(__func__, keys, "frameNo", frameNo, &MemoryEditing::setSelectEndFrameNo);
+    edit(__func__, keys, "frameNo", frameNo, &MemoryEditing::setSelectEndFrameNo, cameraaction::LastFrame);
 }
 
 void JS_Mediator_WrenTableDialog::setTriggerOffset(const QVariantList& keys, int offset) {
-    edit(__func__, keys, "offset", offset, &MemoryEditing::setTriggerOffset);
+    edit(__func__, keys, "offset", offset, &MemoryEditing::setTriggerOffset, cameraaction::Offset);
 }
 
 void JS_Mediator_WrenTableDialog::save() {

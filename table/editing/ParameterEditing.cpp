@@ -1,12 +1,14 @@
 #include "ParameterEditing.h"
 
 #include "AllowedValues.h"
+#include "CameraAction.h"
 #include "ChangeableDocs.h"
 #include "DOC_Control.h"
 #include "DOC_Lock.h"
 #include "DocumentGuard.h"
 #include "NamedFailure.h"
 #include "TextKey.h"
+#include "UndoStep.h"
 #include "ZebCameraOps.h"
 
 #include <limits>
@@ -30,6 +32,7 @@ void ParameterEditing::setParamLock(const DocKeyList& keys, bool lock) {
     if (!m_host.isLiveMode()) {
         return;
     }
+    m_isSent = true;
     GatheredFailures failures;
     forEachConnected(m_host, keys, failures, [lock](DOC_Interface& doc) {
         if (!doc.control().isLowLightMode()) {
@@ -40,25 +43,25 @@ void ParameterEditing::setParamLock(const DocKeyList& keys, bool lock) {
 }
 
 void ParameterEditing::setFrameRate(const DocKeyList& keys, const QString& val) {
-    changeShared(keys, RecordRate, val,
+    changeShared(keys, RecordRate, {cameraaction::FrameRate, val},
                  [&](const DocList& docs) { m_host.cameraOps().setRecordRate(docs, val.toUInt()); });
 }
 
 void ParameterEditing::setShutterSpeed(const DocKeyList& keys, const QString& val) {
-    changeShared(keys, ShutterSpeed, val, [&](const DocList& docs) {
+    changeShared(keys, ShutterSpeed, {cameraaction::Shutter, val}, [&](const DocList& docs) {
         m_host.cameraOps().setShutterSpeed(docs, shutterFraction(docs, toNumber(val)));
     });
 }
 
 void ParameterEditing::setResolution(const DocKeyList& keys, const QString& val) {
-    changeShared(keys, Resolution, val, [&](const DocList& docs) {
+    changeShared(keys, Resolution, {cameraaction::ImageSize, val}, [&](const DocList& docs) {
         const QStringList sides = val.split(QLatin1Char('x'));
         m_host.cameraOps().setResolution(docs, sides.value(0).trimmed().toInt(), sides.value(1).trimmed().toInt());
     });
 }
 
 void ParameterEditing::setReduceMode(const DocKeyList& keys, bool on) {
-    change(orAllConnected(keys), [&](const DocList& docs) {
+    change(orAllConnected(keys), {cameraaction::LiveSpeed, cameraaction::flag(on)}, [&](const DocList& docs) {
         // Its end takes a new image, so that a live view that stands shows the change.
         DocumentGuard guard(m_host);
         m_host.cameraOps().setReduceMode(docs, on);
@@ -67,35 +70,38 @@ void ParameterEditing::setReduceMode(const DocKeyList& keys, bool on) {
 }
 
 void ParameterEditing::setLowLight(const DocKeyList& keys, bool on) {
-    change(orAllConnected(keys), [&](const DocList& docs) { m_host.cameraOps().setLowLight(docs, on); });
+    change(orAllConnected(keys), {cameraaction::LowLight, cameraaction::flag(on)},
+           [&](const DocList& docs) { m_host.cameraOps().setLowLight(docs, on); });
 }
 
 void ParameterEditing::setLowLightType(const DocKeyList& keys, bool fast) {
-    change(keys, [&](const DocList& docs) {
+    change(keys, {cameraaction::LowLightType, cameraaction::flag(fast)}, [&](const DocList& docs) {
         m_host.cameraOps().setLowLightType(docs, fast ? zeb::LowLightTypeFast : zeb::LowLightTypeFine);
     });
 }
 
-void ParameterEditing::change(const DocKeyList& keys, const Setter& set) {
+void ParameterEditing::change(const DocKeyList& keys, const Change& change, const Setter& set) {
     if (!m_host.isLiveMode()) {
         return;
     }
     GatheredFailures failures;
-    setOn(changeableDocs(m_host, keys, failures), failures, set);
+    setOn(changeableDocs(m_host, keys, failures), change, failures, set);
 }
 
-void ParameterEditing::changeShared(const DocKeyList& keys, const SharedParameter& parameter, const QString& val,
+void ParameterEditing::changeShared(const DocKeyList& keys, const SharedParameter& parameter, const Change& change,
                                     const Setter& set) {
-    if (!m_host.isLiveMode() || val.isEmpty()) {
+    if (!m_host.isLiveMode() || change.value.isEmpty()) {
         return;
     }
     GatheredFailures failures;
-    setOn(changeableDocs(m_host, keys, parameter, failures), failures, set);
+    setOn(changeableDocs(m_host, keys, parameter, failures), change, failures, set);
 }
 
 /// Cameras that are left out because they failed before are named beside those that fail now.
-void ParameterEditing::setOn(const DocList& docs, GatheredFailures& failures, const Setter& set) {
-    if (!docs.isEmpty()) {
+void ParameterEditing::setOn(const DocList& docs, const Change& change, GatheredFailures& failures, const Setter& set) {
+    m_isSent = !docs.isEmpty();
+    if (m_isSent) {
+        const UndoStep step(m_host, change.action, *docs.first(), change.value);
         failures.attempt([&] { set(docs); });
     }
     failures.rethrow();

@@ -9,6 +9,7 @@
 class GatheredFailures;
 class ZebHost;
 struct AllowedValues;
+struct CameraAction;
 struct SharedParameter;
 
 /// Changes parameters of many cameras at once: one call of the host for all of them. A locked camera keeps its
@@ -34,18 +35,28 @@ public:
     void setLowLight(const DocKeyList& keys, bool on);
     void setLowLightType(const DocKeyList& keys, bool fast);
 
+    /// Whether the last of these calls has told the host anything.
+    bool isSent() const { return m_isSent; }
+
 private:
     using Setter = std::function<void(const DocList&)>;
+    /// What is changed, and to what.
+    struct Change {
+        const CameraAction& action;
+        QString value;
+    };
     /// Throws what has gone wrong before and in the setting.
-    static void setOn(const DocList& docs, GatheredFailures& failures, const Setter& set);
+    void setOn(const DocList& docs, const Change& change, GatheredFailures& failures, const Setter& set);
 
     /// Hands over the documents that may be changed, unless there are none.
-    void change(const DocKeyList& keys, const Setter& set);
+    void change(const DocKeyList& keys, const Change& change, const Setter& set);
     /// The same for a parameter that heads may share; nothing for an empty value.
-    void changeShared(const DocKeyList& keys, const SharedParameter& parameter, const QString& val, const Setter& set);
+    void changeShared(const DocKeyList& keys, const SharedParameter& parameter, const Change& change,
+                      const Setter& set);
     DocKeyList orAllConnected(const DocKeyList& keys) const;
     int shutterFraction(const DocList& docs, int value) const;
 
     ZebHost& m_host;
     const AllowedValues& m_allowed;
+    bool m_isSent = false;
 };

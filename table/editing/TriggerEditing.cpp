@@ -1,5 +1,6 @@
 #include "TriggerEditing.h"
 
+#include "CameraAction.h"
 #include "ChangeableDocs.h"
 #include "ConnectedDocs.h"
 #include "DOC_Control.h"
@@ -8,6 +9,7 @@
 #include "NamedFailure.h"
 #include "SettingsKeys.h"
 #include "TextKey.h"
+#include "UndoStep.h"
 #include "ZebCameraOps.h"
 #include "ZebDocManager.h"
 #include "ZebHost.h"
@@ -112,6 +114,8 @@ std::vector<TriggerEditing::Command> TriggerEditing::commands(int mode, const ze
 
 /// Each command goes to all cameras, whatever one of them says to an earlier one; answers what they have refused.
 GatheredFailures TriggerEditing::send(const DocList& docs, int mode, const zeb::TriggerSettings& settings) {
+    m_isSent = true;
+    const UndoStep step(m_host, cameraaction::Trigger, *docs.first(), QString::number(mode));
     DocKeyList keys = keysOf(docs);
     GatheredFailures refusals;
     for (const Command& command : commands(mode, settings)) {

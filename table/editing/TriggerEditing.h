@@ -19,6 +19,9 @@ public:
     /// As the setters of `ParameterEditing`. `val` is a decimal `zeb::TriggerMode`.
     void setTriggerMode(const DocKeyList& keys, const QString& val);
 
+    /// Whether that has told the host anything.
+    bool isSent() const { return m_isSent; }
+
     /// The parameters of the default settings.
     zeb::TriggerSettings defaultParameters() const;
     /// Whether the camera's memory takes what a mode records with these parameters. One that does not fit keeps the
@@ -36,4 +39,5 @@ private:
     GatheredFailures send(const DocList& docs, int mode, const zeb::TriggerSettings& settings);
 
     ZebHost& m_host;
+    bool m_isSent = false;
 };

@@ -35,34 +35,53 @@ QString CameraManagement::getSearchAddress() const {
 
 /// A search has ended when its call returns, so that the cameras before and after it can be compared.
 template <typename Search>
-void CameraManagement::search(Search&& run) {
+void CameraManagement::search(const QString& where, Search&& run) {
     if (!m_host.isLiveMode()) {
         return;
     }
     ZebDocManager& documents = m_host.docManager();
     const DocKeyList before = documents.getLiveDocKeys(0, 0);
     run();
+    const DocKeyList listed = documents.getLiveDocKeys(0, 0);
+    const DocKeyList added = keysBeside(before, listed);
+    noteSearch(where, added, listed.size());
     GatheredFailures failures;
-    join(keysBeside(before, documents.getLiveDocKeys(0, 0)), failures);
+    join(added, failures);
     failures.rethrow();
+}
+
+/// Each that was found is a line of the result.
+void CameraManagement::noteSearch(const QString& where, const DocKeyList& added, int listed) {
+    ActionResult result{QStringLiteral("search"), {}};
+    for (DOC_Interface* doc : docsOf(m_host.docManager(), added)) {
+        ActionResult::Row row{doc->getKey(), {}, {}, {}, QStringLiteral("set"), {}};
+        logFailure([&] {
+            row.name = doc->control().getCameraName(1);
+            row.got = doc->control().getAddress(1);
+        });
+        result.rows.append(row);
+    }
+    m_state.lastSearch = m_host.translate(TextKey("%1: new %2, in the list %3"))
+                             .arg(where, QString::number(added.size()), QString::number(listed));
+    m_state.result = result;
 }
 
 void CameraManagement::searchCamera(const QString& address) {
     if (address.isEmpty()) {
         return;
     }
-    search([&] {
+    search(address.section(QLatin1Char('.'), 0, 2) % QLatin1String(".xxx"), [&] {
         m_host.setPref(SearchAddressPref, address);
         m_host.cameraOps().searchCamera(address);
     });
 }
 
 void CameraManagement::discover() {
-    search([this] { m_host.cameraOps().discoverCameras(); });
+    search(m_host.translate(TextKey("Search all devices")), [this] { m_host.cameraOps().discoverCameras(); });
 }
 
 void CameraManagement::update() {
-    search([this] { m_host.cameraOps().updateCameras(); });
+    search(m_host.translate(TextKey("Update")), [this] { m_host.cameraOps().updateCameras(); });
 }
 
 void CameraManagement::deleteAll() {

@@ -51,8 +51,10 @@ public:
 private:
     /// Every road by which a camera comes into an open table ends here.
     void join(const DocKeyList& keys, GatheredFailures& failures);
+    /// `where` is for the user.
     template <typename Search>
-    void search(Search&& run);
+    void search(const QString& where, Search&& run);
+    void noteSearch(const QString& where, const DocKeyList& added, int listed);
     template <typename Change>
     void change(const DocKeyList& keys, Change&& change);
     QString disconnectQuestion(const DocKeyList& keys) const;

@@ -25,6 +25,24 @@
 
 #include <QMessageBox>
 
+namespace {
+
+/// The line of a camera that must be locked and is not, or does not tell.
+ActionResult::Row rowInTheWay(const ZebHost& host, DOC_Interface& doc) {
+    ActionResult::Row row{doc.getKey(), {}, host.translate(TextKey("ON")), {}, QStringLiteral("unanswered"), {}};
+    try {
+        row.name = doc.control().getCameraName(1);
+        row.got = host.translate(doc.lock().isParamLocked() ? TextKey("ON") : TextKey("OFF"));
+        row.verdict = QStringLiteral("refused");
+        row.reason = doc.control().isLowLightMode() ? host.translate(TextKey("it is in low light mode")) : QString();
+    } catch (...) {
+        row.reason = currentFailureText();
+    }
+    return row;
+}
+
+}  // namespace
+
 void RecordButton::press() {
     if (!m_host.isLiveMode()) {
         return;
@@ -93,14 +111,20 @@ bool RecordButton::areCamerasLocked() {
         return true;
     }
     GatheredFailures unread;
-    bool locked = true;
+    ActionResult inTheWay{QStringLiteral("record"), {}};
     GatheredFailures unknown;  // named among the problems
     for (DOC_Interface* doc : connected(unknown)) {
-        attemptOn(*doc, unread, [&] { locked = doc->lock().isParamLocked() && locked; });
+        bool locked = false;
+        attemptOn(*doc, unread, [&] { locked = doc->lock().isParamLocked(); });
+        if (!locked) {
+            inTheWay.rows.append(rowInTheWay(m_host, *doc));
+        }
     }
-    if (locked && unread.isEmpty()) {
+    if (inTheWay.rows.isEmpty()) {
         return true;
     }
+    inTheWay.log();
+    m_state.result = inTheWay;
     unread.log();
     const QStringList lines{m_host.translate(TextKey("Lock all connected cameras."))};
     m_host.alert((lines + unread.lines()).join(QLatin1Char('\n')), m_parent);

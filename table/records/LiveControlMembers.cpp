@@ -107,6 +107,10 @@ void LiveControlMembers::add(Record& record, DOC_Interface& doc, bool connected,
     }
 }
 
+QString LiveControlMembers::triggerText(const ZebHost& host, int mode) {
+    return host.translate(QLatin1String(TriggerNames[mode >= 0 && mode < LastTriggerName ? mode : LastTriggerName]));
+}
+
 QList<unsigned int> LiveControlMembers::ratesInStep(const QList<unsigned int>& rates, int frequency) {
     const auto signal = static_cast<unsigned int>(frequency);
     QList<unsigned int> kept;
@@ -194,10 +198,9 @@ Choices LiveControlMembers::triggerChoices(const QList<int>& modes, const QStrin
     QStringList items;
     QStringList values;
     for (const int mode : modes) {
-        const char* key = TriggerNames[mode >= 0 && mode < LastTriggerName ? mode : LastTriggerName];
         const QString suffix = mode == zeb::TriggerManual ? manualSuffix : QString();
         values.append(QString::number(mode));
-        items.append(jsontext::choice(m_host.translate(QLatin1String(key)) % suffix, values.last()));
+        items.append(jsontext::choice(triggerText(m_host, mode) % suffix, values.last()));
     }
     return {jsontext::array(items), values};
 }

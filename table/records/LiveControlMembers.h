@@ -23,6 +23,9 @@ public:
 
     void add(Record& record, DOC_Interface& doc, bool connected, bool lowLight);
 
+    /// A mode as the user reads it.
+    static QString triggerText(const ZebHost& host, int mode);
+
     /// Rates that a camera can record in step with a signal of `frequency` hertz.
     static QList<unsigned int> ratesInStep(const QList<unsigned int>& rates, int frequency);
 

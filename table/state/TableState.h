@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ActionResult.h"
 #include "AllowedValues.h"
 #include "CameraGroup.h"
 #include "PageRecords.h"
@@ -7,6 +8,7 @@
 #include "SyncState.h"
 #include "ZebTypes.h"
 
+#include <QElapsedTimer>
 #include <QList>
 #include <QString>
 
@@ -30,6 +32,11 @@ struct TableState {
     AllowedValues allowed;
     SyncState sync;
     RecordAreas areas;
+    /// What the last change of many cameras came to, and what the last search found, in the user's language.
+    std::optional<ActionResult> result;
+    QString lastSearch;
+    /// Runs while the host records.
+    QElapsedTimer recording;
     /// A recording that the table follows is under way.
     bool recordRunning = false;
     /// Settings of the cameras are being loaded from a file.

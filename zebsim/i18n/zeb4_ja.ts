@@ -3327,5 +3327,13 @@
         <source>it was changed since, and stays as it is</source>
         <translation>その後に変更されたため、そのままです</translation>
     </message>
+    <message>
+        <source>it is in low light mode</source>
+        <translation>低照度モードです</translation>
+    </message>
+    <message>
+        <source>%1: new %2, in the list %3</source>
+        <translation>%1: 新規 %2、一覧 %3</translation>
+    </message>
 </context>
 </TS>

@@ -1,0 +1,161 @@
+#include "CameraAction.h"
+
+#include "DOC_Control.h"
+#include "DOC_Frames.h"
+#include "DOC_Image.h"
+#include "DOC_Interface.h"
+#include "DOC_Lock.h"
+#include "LiveControlMembers.h"
+#include "NumberFormat.h"
+#include "TextKey.h"
+#include "ZebHost.h"
+
+using cameraaction::flag;
+
+namespace {
+
+QString asItIs(const ZebHost&, DOC_Interface&, const QString& value) {
+    return value;
+}
+
+QString onOff(const ZebHost& host, DOC_Interface&, const QString& value) {
+    return host.translate(value == flag(true) ? TextKey("ON") : TextKey("OFF"));
+}
+
+QString isConnected(DOC_Interface& doc) {
+    return flag(doc.isConnected());
+}
+
+QString rateText(const ZebHost& host, DOC_Interface&, const QString& value) {
+    return numberformat::rate(value.toUInt(), host.translate(TextKey("fps")),
+                              host.getPrefBool(QStringLiteral("display/recordRateInsertDelimiter")));
+}
+
+QString sizeText(const QSize& size) {
+    return QStringLiteral("%1 x %2").arg(size.width()).arg(size.height());
+}
+
+/// Frames are counted from the trigger.
+QString frameText(DOC_Interface& doc, int frame) {
+    return QString::number(frame - doc.frames().getTriggerFrame(0));
+}
+
+}  // namespace
+
+QString textOf(const CameraAction& action, const ZebHost& host, DOC_Interface& doc, const QString& value) {
+    try {
+        return action.text(host, doc, value);
+    } catch (...) {
+        return value;
+    }
+}
+
+namespace cameraaction {
+
+QString flag(bool on) {
+    return on ? QStringLiteral("true") : QStringLiteral("false");
+}
+
+const CameraAction FrameRate{"frameRate",
+                             QT_TR_NOOP("Frame rate"),
+                             [](DOC_Interface& doc) { return QString::number(doc.control().getRecordRate(0)); },
+                             rateText,
+                             true,
+                             true,
+                             true};
+
+const CameraAction Shutter{
+    "shutterSpeed",
+    QT_TR_NOOP("Shutter speed"),
+    [](DOC_Interface& doc) { return QString::number(doc.control().getShutterSpeed()); },
+    [](const ZebHost&, DOC_Interface& doc, const QString& value) { return doc.formatShutterSpeed(value.toInt(), 0); },
+    true,
+    true,
+    true};
+
+const CameraAction ImageSize{"resolution",
+                             QT_TR_NOOP("Resolution"),
+                             [](DOC_Interface& doc) { return sizeText(doc.control().getResolution()); },
+                             asItIs,
+                             true,
+                             true,
+                             true};
+
+const CameraAction Trigger{"triggerMode",
+                           QT_TR_NOOP("Trigger mode"),
+                           [](DOC_Interface& doc) { return QString::number(doc.control().getTriggerMode()); },
+                           [](const ZebHost& host, DOC_Interface&, const QString& value) {
+                               return LiveControlMembers::triggerText(host, value.toInt());
+                           },
+                           false,
+                           true,
+                           true};
+
+const CameraAction LiveSpeed{"reduceMode",
+                             QT_TR_NOOP("Live speed"),
+                             [](DOC_Interface& doc) { return flag(doc.control().getReduceMode(0)); },
+                             onOff,
+                             false,
+                             true};
+
+const CameraAction LowLight{"lowLight",
+                            QT_TR_NOOP("Lowlight"),
+                            [](DOC_Interface& doc) { return flag(doc.control().isLowLightMode()); },
+                            onOff,
+                            false,
+                            true,
+                            true};
+
+const CameraAction LowLightType{
+    "lowLightType",
+    QT_TR_NOOP("Lowlight"),
+    [](DOC_Interface& doc) { return flag(doc.control().getLowLightType() == zeb::LowLightTypeFast); },
+    onOff,
+    false,
+    true};
+
+const CameraAction Lock{"lock", QT_TR_NOOP("Lock"), [](DOC_Interface& doc) { return flag(doc.lock().isParamLocked()); },
+                        onOff};
+
+const CameraAction Connect{"connect", QT_TR_NOOP("Connect"), isConnected, onOff, false, false, false, true};
+
+const CameraAction Disconnect{"disconnect", QT_TR_NOOP("Disconnect"), isConnected, onOff, false, true, false, true};
+
+const CameraAction Name{"cameraName",
+                        QT_TR_NOOP("Camera name"),
+                        [](DOC_Interface& doc) { return doc.control().getCameraName(1); },
+                        asItIs,
+                        false,
+                        true};
+
+const CameraAction Comment{"comment",
+                           QT_TR_NOOP("Comment"),
+                           [](DOC_Interface& doc) {
+                               return doc.image().getComment().replace(QLatin1String(zeb::CommentSeparator),
+                                                                       QLatin1String("\n"));
+                           },
+                           asItIs,
+                           false,
+                           true};
+
+const CameraAction RecordCheck{"recordCheck", QT_TR_NOOP("recordCheck"),
+                               [](DOC_Interface& doc) { return flag(doc.frames().isRecordCheck()); }, onOff};
+
+const CameraAction FirstFrame{"selectStartFrameNo", QT_TR_NOOP("selectStartFrameNo"),
+                              [](DOC_Interface& doc) { return frameText(doc, doc.frames().getSelectStartFrame(0)); },
+                              asItIs, true};
+
+const CameraAction LastFrame{"selectEndFrameNo", QT_TR_NOOP("selectEndFrameNo"),
+                             [](DOC_Interface& doc) { return frameText(doc, doc.frames().getSelectEndFrame(0)); },
+                             asItIs, true};
+
+const CameraAction Offset{
+    "triggerOffset", QT_TR_NOOP("triggerOffset"),
+    [](DOC_Interface& doc) {
+        const DOC_Control& camera = doc.control();
+        const int base = camera.getTriggerOffsetBase();
+        return QString::number(camera.isTriggerOffsetEnabled() ? camera.getTriggerOffset() - base : 0);
+    },
+    asItIs, true};
+
+}  // namespace cameraaction

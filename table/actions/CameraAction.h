@@ -1,0 +1,53 @@
+#pragma once
+
+#include <QString>
+
+class DOC_Interface;
+class ZebHost;
+
+/// A change that the table makes on many cameras at once: how it is called, and how a camera tells what has become of
+/// it. GUI thread.
+struct CameraAction {
+    /// For the page; and for the user, a key of the catalogues.
+    const char* name;
+    const char* label;
+    /// What the camera has, written as the slot gets it. Throws what the camera throws.
+    QString (*read)(DOC_Interface& doc);
+    /// Such a value as the user reads it. Throws the same.
+    QString (*text)(const ZebHost& host, DOC_Interface& doc, const QString& value);
+    /// A camera may take something near what was asked without a word.
+    bool mayClamp = false;
+    /// A locked camera is left as it is.
+    bool isKeptByLock = false;
+    /// It may move other settings of the camera along.
+    bool movesOthers = false;
+    /// It reaches cameras that are not connected too.
+    bool reachesOff = false;
+};
+
+/// `value` as the user reads it; as it is where the camera does not tell.
+QString textOf(const CameraAction& action, const ZebHost& host, DOC_Interface& doc, const QString& value);
+
+namespace cameraaction {
+
+/// A yes or no as `CameraAction::read` writes it.
+QString flag(bool on);
+
+extern const CameraAction FrameRate;
+extern const CameraAction Shutter;
+extern const CameraAction ImageSize;
+extern const CameraAction Trigger;
+extern const CameraAction LiveSpeed;
+extern const CameraAction LowLight;
+extern const CameraAction LowLightType;
+extern const CameraAction Lock;
+extern const CameraAction Connect;
+extern const CameraAction Disconnect;
+extern const CameraAction Name;
+extern const CameraAction Comment;
+extern const CameraAction RecordCheck;
+extern const CameraAction FirstFrame;
+extern const CameraAction LastFrame;
+extern const CameraAction Offset;
+
+}  // namespace cameraaction

@@ -1,0 +1,55 @@
+#include "TableStatus.h"
+
+#include "CycleFailures.h"
+#include "DOC_Interface.h"
+#include "DOC_Lock.h"
+#include "DocKeys.h"
+#include "NamedFailure.h"
+#include "RecordingStatus.h"
+#include "TableState.h"
+#include "ZebDocManager.h"
+#include "ZebHost.h"
+
+#include <QJsonDocument>
+
+QString TableStatus::toJson(CycleFailures& failures) const {
+    int found = 0;
+    int connected = 0;
+    int locked = 0;
+    int armed = 0;
+    const auto count = [&](DOC_Interface& doc) {
+        if (doc.isConnected()) {
+            ++connected;
+            locked += doc.lock().isParamLocked() ? 1 : 0;
+            armed += isArmed(doc) ? 1 : 0;
+        }
+    };
+    ZebDocManager& documents = m_host.docManager();
+    for (const DOCKEY key : documents.getDocKeys()) {
+        if (DOC_Interface* doc = documents.getDocAny(key)) {
+            ++found;
+            failures.attempt(QStringLiteral("state of %1").arg(key), [&] { onCamera(*doc, [&] { count(*doc); }); });
+        }
+    }
+    const QJsonObject status{
+        {QStringLiteral("found"), found},
+        {QStringLiteral("connected"), connected},
+        {QStringLiteral("locked"), locked},
+        {QStringLiteral("armed"), armed},
+        {QStringLiteral("recordMs"), recordMs()},
+        {QStringLiteral("search"), m_state.lastSearch},
+        {QStringLiteral("result"), m_state.result ? QJsonValue(m_state.result->toJson()) : QJsonValue()}};
+    return QString::fromUtf8(QJsonDocument(status).toJson(QJsonDocument::Compact));
+}
+
+/// From the first time that the table sees it.
+qint64 TableStatus::recordMs() const {
+    if (RecordingStatus(m_host).state() != zeb::RecordRecording) {
+        m_state.recording.invalidate();
+        return -1;
+    }
+    if (!m_state.recording.isValid()) {
+        m_state.recording.start();
+    }
+    return m_state.recording.elapsed();
+}
