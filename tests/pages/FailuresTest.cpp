@@ -14,7 +14,9 @@ const char* Differences = R"js((() => {
         return row !== undefined && row.querySelector(`td[col="${column}"] > div`).children.length === 0;
     };
     const stands = ['row', 'alert'].concat(%1);
-    return Object.keys(probe.before).filter(place => now[place] !== probe.before[place]).filter(place => {
+    const plain = shape => shape.replace(/ differs="\d+"/, ''); // of the batch row, which follows what the rows show
+    const differs = place => plain(now[place]) !== plain(probe.before[place]);
+    return Object.keys(probe.before).filter(differs).filter(place => {
         const [key, field] = place.split('/');
         return key !== '7' || !(stands.includes(field) || isEmpty(field));
     });
@@ -82,7 +84,10 @@ TEST_F(PageFailures, AGetterThatFailsEmptiesItsCellsAndNoOtherRow) {
             }
             EXPECT_EQ(texts.size(), 1);
             EXPECT_TRUE(texts.first().endsWith("Impact: no answer"));
-            EXPECT_EQ(page->number("$('[id$=_alert_7][alerts=\"Impact: no answer\"]').length"), 1);
+            // That is asked for the line of all cameras alone.
+            const bool isOfAll = operation == "getRecordState" || (tab >= 5 && operation == "isParamLocked");
+            const int alerts = isOfAll ? 0 : 1;
+            EXPECT_EQ(page->number("$('[id$=_alert_7][alerts=\"Impact: no answer\"]').length"), alerts);
             ++shown;
             EXPECT_EQ(page->list(QString(Differences).arg(standing(operation))), QStringList());
             takeAway(7, operation);

@@ -15,6 +15,7 @@
 #include <QWebView>
 #include <QWindow>
 
+#include <algorithm>
 #include <iostream>
 
 namespace {
@@ -81,6 +82,17 @@ QStringList TablePage::list(const QString& script) {
 void TablePage::show(int tab) {
     run(QStringLiteral("$('#tabs').tabs('option', 'active', %1)").arg(tab));
     settle();
+}
+
+QStringList TablePage::tickRows() {
+    QStringList places = tick();
+    places.erase(std::remove_if(places.begin(), places.end(),
+                                [](const QString& place) {
+                                    return place.startsWith(QLatin1String("-1/")) ||
+                                           place.contains(QLatin1String("#wren_status"));
+                                }),
+                 places.end());
+    return places;
 }
 
 void TablePage::expectErrors(QStringList* lines) {

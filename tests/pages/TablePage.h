@@ -40,6 +40,8 @@ public:
     void show(int tab);
     /// A tick of the timer, and where it wrote to.
     QStringList tick() { return list(QStringLiteral("probe.writes(() => wrentabledialog_obj.autoUpdate())")); }
+    /// The same without the batch row and the line of all cameras, which follow what the rows show.
+    QStringList tickRows();
     /// From here on the errors of the page's scripts go into `lines`; null: they fail the test, as they did before.
     static void expectErrors(QStringList* lines);
     /// From here on the errors of the scripts of any page fail the test, until the end of a `TablePage`.

@@ -291,10 +291,12 @@ private:
     QStringList expected() {
         const int tab = m_page->number("$('#tabs').tabs('option', 'active')");
         const bool disabled = m_page->run("wrentabledialog_obj.getListDisableStatus()").toBool();
+        const QStringList chosen = m_page->list("attention.on ? Array.from(attention.keys) : ['all']");
         QStringList lines;
         for (const DOCKEY key : m_test.host.docManager().getDocKeys()) {
             DOC_Interface* doc = m_test.host.docManager().getDocAny(key);
-            if (doc == nullptr || key == m_silent) {
+            const bool isListed = chosen.contains("all") || chosen.contains(QString::number(key));
+            if (doc == nullptr || key == m_silent || !isListed) {
                 continue;
             }
             const CameraState state = m_test.camera(key).state();

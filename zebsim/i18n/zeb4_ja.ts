@@ -3335,5 +3335,69 @@
         <source>%1: new %2, in the list %3</source>
         <translation>%1: 新規 %2、一覧 %3</translation>
     </message>
+    <message>
+        <source>found %1, connected %2, locked %3</source>
+        <translation>検出 %1、接続 %2、ロック %3</translation>
+    </message>
+    <message>
+        <source>ready %1 of %2</source>
+        <translation>待機 %1/%2</translation>
+    </message>
+    <message>
+        <source>recording %1 s</source>
+        <translation>記録中 %1 秒</translation>
+    </message>
+    <message>
+        <source>Lock all</source>
+        <translation>全てロック</translation>
+    </message>
+    <message>
+        <source>Unlock all</source>
+        <translation>全てロック解除</translation>
+    </message>
+    <message>
+        <source>Select all</source>
+        <translation>全て選択</translation>
+    </message>
+    <message>
+        <source>no answer</source>
+        <translation>応答なし</translation>
+    </message>
+    <message>
+        <source>as asked</source>
+        <translation>指定どおり</translation>
+    </message>
+    <message>
+        <source>%1 is not in the list.</source>
+        <translation>%1 は一覧にありません。</translation>
+    </message>
+    <message>
+        <source>Shown: %1</source>
+        <translation>表示中: %1</translation>
+    </message>
+    <message>
+        <source>Needs attention</source>
+        <translation>要確認</translation>
+    </message>
+    <message>
+        <source>These %1 cameras</source>
+        <translation>この %1 台</translation>
+    </message>
+    <message>
+        <source>is gone</source>
+        <translation>なくなりました</translation>
+    </message>
+    <message>
+        <source>not taken</source>
+        <translation>受け付けず</translation>
+    </message>
+    <message>
+        <source>kept by lock</source>
+        <translation>ロック中</translation>
+    </message>
+    <message>
+        <source>taken otherwise</source>
+        <translation>別の値</translation>
+    </message>
 </context>
 </TS>

@@ -15,6 +15,11 @@ function dropDownColumn(options) {
         align: 'left',
         choices: options.choices,
         value: options.value,
+        compared: record => options.value(record) || '',
+        comparedText(record) {
+            const choice = options.choices(record).find(item => item.value === options.value(record));
+            return choice ? choice.name : options.value(record);
+        },
         send: options.send,
         needs: options.needs,
         still: true,
@@ -46,8 +51,14 @@ function openList({ view, row, cell }) {
     const up = row === view.batch || view.dropDownsBefore(row.index) >= 2;
     const keys = rowKeys(view, row);
     if (cell.choices.length > 0) {
-        dropDown.open(cell, up, value => guarded(() => cell.kind.send(keys, value)));
+        const offers = row === view.batch ? offersOf(view, cell) : null;
+        dropDown.open(cell, up, value => guarded(() => cell.kind.send(keys, value)), offers);
     }
+}
+
+function onOffText(on) {
+    const key = on ? textKey('ON') : textKey('OFF');
+    return translate(key);
 }
 
 // Shows the choice of that value. One that is not in the list, or none, empties the caption at a full refresh only.
@@ -112,6 +123,8 @@ COLUMNS.reduce = {
     needs: ['lock', 'reduceModeSupported', 'reduceMode'],
     still: true,
     empty: record => isOff(record) || record.reduceModeSupported === false,
+    compared: record => record.reduceModeSupported ? String(record.reduceMode) : '',
+    comparedText: record => onOffText(record.reduceMode),
     markup() {
         const priority = escapeMarkup(translate('_Priority'));
         return `<div class="flexWrapper" part="wrapper" dockey>
@@ -155,6 +168,8 @@ COLUMNS.lowlight = {
     needs: ['lock', 'lowLightMode', 'lowLightType', 'shutterSpeeds', 'shutterSpeed'],
     still: true,
     empty: isOff,
+    compared: record => record.lowLightModeSupported ? String(record.lowLightMode) : '',
+    comparedText: record => onOffText(record.lowLightMode),
     markup() {
         const [on, dark, bright] = [translate('ON'), translate('dark'), translate('bright')].map(escapeMarkup);
         return `<div class="flexWrapper" part="wrapper" dockey>

@@ -36,6 +36,8 @@ function spinnerColumn(options) {
         size: '10%',
         align: 'left',
         send: options.send,
+        compared: record => record.totalFrame ? String(options.value(record)) : '',
+        comparedText: record => String(options.value(record)),
         needs: options.needs.concat('totalFrame'),
         still: true,
         empty: record => isOff(record) || !record.totalFrame,

@@ -5,13 +5,14 @@ const dropDown = {
     select: null,
     cell: null, // whose list is open
 
-    open(cell, up, choose) {
+    // `offers` of the batch row, see `offersOf`; else null.
+    open(cell, up, choose, offers) {
         this.close();
         this.cell = cell;
         const select = document.createElement('select');
         select.className = cell.parts.select.className.replace(' SumoUnder', '');
         select.setAttribute('data-id', cell.parts.select.id); // for the log: an id stands once in a page
-        cell.choices.forEach(choice => {
+        cell.choices.concat(offers ? offers.others : []).forEach(choice => {
             const option = document.createElement('option');
             option.value = choice.value;
             option.textContent = choice.name;
@@ -27,6 +28,9 @@ const dropDown = {
         $(window).off('resize.sumo'); // it follows the window for small screens only, and never lets go of it
         if (present < 0) {
             select.sumo.ul.find('.selected').removeClass('selected');
+        }
+        if (offers) {
+            this.tellOffers(select, offers, cell.choices.length);
         }
         this.limit(select.sumo);
         select.addEventListener('change', () => { chosen = select.value; });
@@ -51,6 +55,17 @@ const dropDown = {
         } else {
             select.sumo.setOnOpen();
         }
+    },
+
+    // Beside an entry stands how many rows offer it, unless all do; the batch row's own ones end with a line.
+    tellOffers(select, { counts, rows }, own) {
+        select.sumo.ul.children('li').each((index, entry) => {
+            const count = counts.get(select.options[index].value) || 0;
+            if (count < rows) {
+                entry.setAttribute('offered', withValues(textKey('%1 of %2'), count, rows));
+            }
+            entry.classList.toggle('others-first', index === own);
+        });
     },
 
     close() {

@@ -10,7 +10,10 @@ class GridView {
         this.spare = []; // drawn once, to be used again
         this.batch = null; // the drawn batch row
         this.newest = new Map(); // key -> record of the last refresh of any kind
+        this.newestRecords = []; // in the order of the list
         this.newestBatch = null;
+        this.markedRecords = null; // those by which the batch row, `markedBatch`, was marked
+        this.markedBatch = null;
         this.status = null; // the list's status at that refresh
         this.size = ''; // of the grid's box, as last laid out
         this.spot = ''; // where it was last scrolled to
@@ -18,6 +21,7 @@ class GridView {
         this.owesHandles = false; // at the edges of the heads
         this.held = 0; // while above 0, w2ui's refresh waits
         this.owed = false;
+        this.pointed = null; // key of the row that was led to
         this.focusedKey = null; // of the row that had the keyboard, while its frame is exchanged
         this.override();
     }
@@ -134,6 +138,7 @@ class GridView {
         for (let index = 0; index < records.length; index++) {
             this.newest.set(records[index].key, records[index]);
         }
+        this.newestRecords = records;
         this.newestBatch = batch[0] || null;
     }
 
@@ -142,6 +147,7 @@ class GridView {
         this.rows.forEach(row => this.tickRow(row));
         if (this.batch) {
             this.tickRow(this.batch);
+            markDifferences(this);
         }
         followTip();
     }
@@ -250,6 +256,8 @@ class GridView {
         }
         this.batch = this.batch || new DrawnRow(this.grid, this.tab, this.frame);
         this.batch.rebuild(this.grid.summary[0], 1, this.status);
+        this.markedRecords = null;
+        markDifferences(this);
         const place = summary.querySelector('.wren-batch-place');
         if (place) {
             place.parentNode.replaceChild(this.batch.element, place);
@@ -258,7 +266,10 @@ class GridView {
 
     showSelection() {
         const selected = new Set(this.grid.last.selection.indexes);
-        this.rows.forEach(row => row.select(selected.has(row.index)));
+        this.rows.forEach(row => {
+            row.select(selected.has(row.index));
+            row.point(row.key === this.pointed);
+        });
     }
 
     // The newest record of a row; undefined when its camera is gone.

@@ -83,6 +83,12 @@ class DrawnRow {
         }
     }
 
+    point(on) {
+        if (this.element.classList.contains('wren-pointed') !== on) {
+            this.element.classList.toggle('wren-pointed', on);
+        }
+    }
+
     cellOf(element) {
         const td = element.closest('td');
         return this.cells.find(cell => cell.box.parentNode === td);

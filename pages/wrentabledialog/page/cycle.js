@@ -49,6 +49,7 @@ Object.assign(wrentabledialog_obj, {
         }
         this.refreshCustomInfoContainer();
         this.updateExternalSyncArea();
+        this.whenPainted(() => statusLine.refresh());
         this.refreshRecords(active, automatic);
         this.resizeTableElements();
     },

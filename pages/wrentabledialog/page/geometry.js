@@ -18,6 +18,7 @@ Object.assign(wrentabledialog_obj, {
         });
         setFixed('wren-recording-container', height > 50);
         setFixed('wren-save-container', height > 80);
+        setFixed('wren_status', height > (live ? 50 : 80));
         setStyle(document.getElementById('wrenGroupBox'), 'maxWidth', `${Math.max(groupWidth, 0)}px`);
         if (views.length > 0) {
             viewAt(this.activeTab()).resized();

@@ -10,14 +10,16 @@ Object.assign(wrentabledialog_obj, {
             return;
         }
         const view = viewAt(tabkey);
-        view.status = this.readListStatus(data.records);
-        view.setNewest(data.records, data.batch);
+        const records = attention.list(data.records);
+        const batch = attention.batch(data.batch, records);
+        view.status = this.readListStatus(records);
+        view.setNewest(records, batch);
         if (!autoUpdate) {
             this.closeFloating();
             numberBox.giveUp(draft => !isBatch(draft) && !view.newest.has(draft.key));
-            this.refreshRecords_w2ui(data.records, data.batch, view.grid);
+            this.refreshRecords_w2ui(records, batch, view.grid);
         }
-        this.refreshSelectedRecords(data.records, view.grid);
+        this.refreshSelectedRecords(records, view.grid);
         if (autoUpdate) {
             view.tick();
         } else {

@@ -15,6 +15,7 @@ Object.assign(wrentabledialog_obj, {
         this.initializeCameraManagementContainer();
         this.initializeExternalSyncArea();
         this.initializeMenus();
+        statusLine.initialize();
     },
 
     // What the dialog has changed shows at once.

@@ -1,0 +1,76 @@
+// The batch row shows the values of one camera. Where the rows have others it is marked, and a tip tells who has what.
+const MOST_NAMES = 5;
+
+// The newest records that count: of connected cameras, with a value of that kind, as `compared` tells it.
+function comparedRecords(view, kind) {
+    return view.newestRecords.filter(record => record.connected && kind.compared(record) !== '');
+}
+
+// How many values they have.
+function countValues(view, { compared }) {
+    const values = new Set();
+    const records = view.newestRecords;
+    for (let index = 0; index < records.length; index++) {
+        const value = records[index].connected ? compared(records[index]) : '';
+        if (value !== '') {
+            values.add(value);
+        }
+    }
+    return values.size;
+}
+
+// Marks the cells of the batch row, whose rows may all be the same as last time.
+function markDifferences(view) {
+    if (!view.batch || view.markedRecords === view.newestRecords && view.markedBatch === view.batch) {
+        return;
+    }
+    view.markedRecords = view.newestRecords;
+    view.markedBatch = view.batch;
+    view.batch.cells.filter(cell => cell.kind.compared).forEach(cell => {
+        const count = cell.filled ? countValues(view, cell.kind) : 0;
+        const shown = count > 1 ? String(count) : null;
+        if (shown === null) {
+            cell.box.removeAttribute('differs');
+        } else if (cell.box.getAttribute('differs') !== shown) {
+            cell.box.setAttribute('differs', shown);
+        }
+    });
+}
+
+// A line for each value, with the cameras that have it, and whose value stands.
+function differencesText(view, box) {
+    const cell = view.batch && view.batch.cells.find(each => each.box === box);
+    if (!cell) {
+        return '';
+    }
+    const names = new Map();
+    comparedRecords(view, cell.kind).forEach(record => {
+        const text = cell.kind.comparedText(record);
+        names.set(text, (names.get(text) || []).concat(record.cameraName));
+    });
+    const lines = Array.from(names.keys()).map(text => `${text}: ${namesText(names.get(text))}`);
+    const shown = view.newest.get(String(wrentabledialog.getBatchDocKey()));
+    return lines.concat(shown ? withValues(textKey('Shown: %1'), shown.cameraName) : []).join('\n');
+}
+
+// As "3 (Gate, Ramp, Roof)"; of many only the first ones.
+function namesText(names) {
+    const first = names.slice(0, MOST_NAMES).join(', ');
+    return `${names.length} (${first}${names.length > MOST_NAMES ? ', ...' : ''})`;
+}
+
+// What the connected rows offer of a list: how many of them offer a value, and the choices that the batch row's own
+// camera has not.
+function offersOf(view, cell) {
+    const rows = view.newestRecords.filter(record => record.connected && cell.reads(record));
+    const counts = new Map();
+    const others = new Map();
+    const own = new Set(cell.choices.map(choice => choice.value));
+    rows.forEach(record => cell.kind.choices(record).forEach(choice => {
+        counts.set(choice.value, (counts.get(choice.value) || 0) + 1);
+        if (!own.has(choice.value)) {
+            others.set(choice.value, choice);
+        }
+    }));
+    return { counts, others: Array.from(others.values()), rows: rows.length };
+}

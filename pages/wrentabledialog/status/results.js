@@ -1,0 +1,124 @@
+// The lines of the last result, over the table. They can be selected and copied; a name leads to its camera's row.
+const resultList = {
+    text: '', // of the result that is shown, as it came
+    result: null,
+    verdict: '', // the only one that is listed; empty for all
+
+    initialize() {
+        this.box().addEventListener('click', event => guarded(() => this.press(event.target)));
+    },
+
+    box() {
+        return document.getElementById('wren_results');
+    },
+
+    press(element) {
+        const filter = element.closest('[verdict]');
+        const name = element.closest('[rowkey]');
+        if (filter) {
+            this.filter(filter.getAttribute('verdict'));
+        } else if (name) {
+            this.lead(name.getAttribute('rowkey'));
+        } else if (element.closest('.show-all')) {
+            this.showMissing('');
+            wrentabledialog_obj.listAllCameras();
+        } else if (element.closest('.close')) {
+            this.close();
+        }
+    },
+
+    // A list that stands shows the newest.
+    take(result) {
+        const text = JSON.stringify(result);
+        if (text === this.text) {
+            return;
+        }
+        Object.assign(this, { text, result, verdict: '' });
+        setText(this.box().querySelector('b'), actionText(result.action));
+        this.box().querySelector('.verdicts').innerHTML = verdictCounts(result).map(({ verdict, count }) =>
+            `<a verdict="${verdict}">${escapeMarkup(verdictText(verdict))} ${count}</a>`).join('');
+        this.showMissing('');
+        this.drawRows();
+    },
+
+    drawRows() {
+        const rows = this.result.rows.filter(row => this.verdict === '' || row.verdict === this.verdict);
+        this.box().querySelector('table').innerHTML = rows.map(resultRowMarkup).join('');
+    },
+
+    // Of the cameras of the last result that did not become what was asked.
+    oddKeys() {
+        const rows = this.result ? this.result.rows : [];
+        return new Set(rows.filter(row => row.verdict !== 'set').map(row => row.key));
+    },
+
+    toggle() {
+        if (this.box().hidden) {
+            showElement(this.box(), true);
+        } else {
+            this.close();
+        }
+    },
+
+    close() {
+        if (!this.box().hidden) {
+            showElement(this.box(), false);
+            views.filter(view => view.box).forEach(view => pointAt(view, null));
+        }
+    },
+
+    filter(verdict) {
+        this.verdict = this.verdict === verdict ? '' : verdict;
+        Array.from(this.box().querySelectorAll('[verdict]')).forEach(link =>
+            setClass(link, link.getAttribute('verdict') === this.verdict ? 'chosen' : ''));
+        this.drawRows();
+    },
+
+    // Another group or filter is shown only when the user asks for it.
+    lead(key) {
+        const row = this.result.rows.find(each => each.key === key);
+        this.showMissing(pointAt(viewAt(wrentabledialog_obj.activeTab()), key) ? '' : row.name || key);
+    },
+
+    showMissing(name) {
+        const place = this.box().querySelector('.missing');
+        showElement(place, name !== '');
+        setText(place.firstElementChild, withValues(textKey('%1 is not in the list.'), name));
+    }
+};
+
+// Brings the row of that camera into view and marks it until another one is; false when it is not in the list.
+function pointAt(view, key) {
+    const line = view.grid.records.findIndex(record => record.key === key);
+    view.pointed = key;
+    if (line >= 0) {
+        view.box.scrollTop = (line + 0.5) * view.grid.recordHeight - view.height / 2;
+        alignFrame(view);
+    }
+    view.draw(false);
+    return line >= 0;
+}
+
+function resultRowMarkup(row) {
+    const cells = [`<a rowkey="${escapeMarkup(row.key)}">${escapeMarkup(row.name || row.key)}</a>`]
+        .concat([verdictText(row.verdict), row.asked, row.got, row.reason].map(escapeMarkup));
+    return `<tr verdict-of="${escapeMarkup(row.verdict)}"><td>${cells.join('</td><td>')}</td></tr>`;
+}
+
+Object.assign(wrentabledialog_obj, {
+    // The group of all cameras, no filter, no view of its own.
+    listAllCameras() {
+        const filter = document.getElementById('recordFilter');
+        attention.on = false;
+        if (filter.value !== '0') {
+            filter.value = '0';
+            filter.sumo.reload();
+        }
+        const button = document.querySelector('.groupButton[groupkey=""]');
+        if (button) {
+            this.chooseGroup(button);
+        } else {
+            this.update();
+        }
+    }
+});
