@@ -33,8 +33,7 @@ QJsonObject ActionResult::toJson() const {
 void ActionResult::log() const {
     for (const Row& row : rows) {
         if (!isSet(row)) {
-            qWarning().noquote() << action % QLatin1String(": ") % row.name % QLatin1String(": ") % row.verdict
-                                 << "asked" << row.asked << "has" << row.got << row.reason;
+            qWarning() << action << row.name << row.verdict << "asked:" << row.asked << "has:" << row.got << row.reason;
         }
     }
 }

@@ -11,6 +11,7 @@
 
 #include <QStringList>
 
+#include <algorithm>
 #include <functional>
 
 namespace {
@@ -34,14 +35,9 @@ QString withoutName(const QString& text, const QString& name) {
     return text.startsWith(prefix) ? text.mid(prefix.size()) : text;
 }
 
-/// What the host has said to that camera.
-QString reasonIn(const QStringList& lines, const QString& name) {
-    for (const QString& line : lines) {
-        if (!name.isEmpty() && line.startsWith(name % Separator)) {
-            return withoutName(line, name);
-        }
-    }
-    return {};
+/// The line is of a camera of that name, with its address where others are called alike.
+bool isOf(const QString& line, const QString& name) {
+    return !name.isEmpty() && (line.startsWith(name % Separator) || line.startsWith(name % QLatin1String(" (")));
 }
 
 }  // namespace
@@ -49,8 +45,8 @@ QString reasonIn(const QStringList& lines, const QString& name) {
 ActionWatch::ActionWatch(ZebHost& host, const CameraAction& action, const DocKeyList& keys, const QString& asked)
     : m_host(host), m_action(action), m_asked(asked) {
     ZebDocManager& documents = host.docManager();
-    const DocKeyList all = keys.isEmpty() ? documents.getConnectedDocKeys(0) : keys;
-    for (const DOCKEY key : all) {
+    const bool isAll = keys.isEmpty() && action.has(CameraAction::NoKeysMeanAll);
+    for (const DOCKEY key : isAll ? documents.getConnectedDocKeys(0) : keys) {
         look(key);
     }
 }
@@ -62,8 +58,7 @@ void ActionWatch::look(DOCKEY key) {
     }
     // One that does not tell is asked again afterwards.
     const bool isConnected = answerOf<bool>([&] { return doc->isConnected(); });
-    const bool isMeant = &m_action == &cameraaction::Connect ? !isConnected : isConnected;
-    if (!isMeant) {
+    if (isConnected == m_action.has(CameraAction::OfThoseOff)) {
         return;
     }
     Before before;
@@ -71,9 +66,10 @@ void ActionWatch::look(DOCKEY key) {
     before.name = answerOf<QString>([&] { return doc->control().getCameraName(1); });
     before.asked = textOf(m_action, m_host, *doc, m_asked);
     if (isConnected) {
+        before.value = answerOf<QString>([&] { return m_action.read(*doc); });
         before.isLocked = answerOf<bool>([&] { return doc->lock().isParamLocked(); });
         before.isLowLight = answerOf<bool>([&] { return doc->control().isLowLightMode(); });
-        before.others = m_action.movesOthers ? othersOf(*doc) : Values();
+        before.others = m_action.has(CameraAction::MovesOthers) ? othersOf(*doc) : Values();
     }
     m_before.append(before);
 }
@@ -89,30 +85,55 @@ ActionWatch::Values ActionWatch::othersOf(DOC_Interface& doc) const {
 }
 
 std::optional<ActionResult> ActionWatch::finish(const QString& failure, bool sent) const {
-    const QStringList lines = failure.split(QLatin1Char('\n'));
+    const bool couldAsk = std::any_of(m_before.begin(), m_before.end(), [this](const Before& before) {
+        return !(m_action.has(CameraAction::KeptByLock) && before.isLocked);
+    });
+    if (m_before.isEmpty() || (!sent && couldAsk)) {
+        return std::nullopt;
+    }
+    const QStringList lines = failure.split(QLatin1Char('\n'), Qt::SkipEmptyParts);
     ActionResult result{QLatin1String(m_action.name), {}};
     for (const Before& before : m_before) {
-        if (sent || (m_action.isKeptByLock && before.isLocked)) {
-            result.rows.append(rowOf(before, lines));
+        result.rows.append(rowOf(before, lines));
+    }
+    return result;
+}
+
+/// Its own line, else what was said of nobody in particular.
+QString ActionWatch::reasonFor(const Before& before, const QStringList& lines) const {
+    QStringList ofAll;
+    for (const QString& line : lines) {
+        if (isOf(line, before.name)) {
+            return withoutName(line, before.name);
+        }
+        if (std::none_of(m_before.begin(), m_before.end(),
+                         [&line](const Before& other) { return isOf(line, other.name); })) {
+            ofAll << line;
         }
     }
-    return result.rows.isEmpty() ? std::nullopt : std::optional(result);
+    return ofAll.join(QLatin1Char(' '));
 }
 
 ActionResult::Row ActionWatch::rowOf(const Before& before, const QStringList& lines) const {
-    ActionResult::Row row{before.key, before.name, before.asked, {}, {}, reasonIn(lines, before.name)};
+    ActionResult::Row row{before.key, before.name, before.asked, {}, {}, {}};
     DOC_Interface* doc = m_host.docManager().getDocAny(before.key);
     try {
-        if (doc == nullptr || (!m_action.reachesOff && !doc->isConnected())) {
+        if (doc == nullptr || (!m_action.has(CameraAction::ReachesOff) && !doc->isConnected())) {
             row.verdict = QStringLiteral("gone");
             return row;
         }
         const QString got = m_action.read(*doc);
         row.got = m_action.text(m_host, *doc, got);
-        row.verdict = verdictOf(before, got, row.reason);
-        if (row.verdict != QLatin1String("set") && &m_action == &cameraaction::Lock && before.isLowLight) {
-            row.reason = m_host.translate(TextKey("it is in low light mode"));
-        }
+        row.verdict = verdictOf(before, got, !lines.isEmpty());
+        // Two may have one name, and only one of them the reason.
+        const bool isAlone = std::count_if(m_before.begin(), m_before.end(),
+                                           [&before](const Before& other) { return other.name == before.name; }) == 1;
+        const bool isUnmoved = row.verdict == QLatin1String("set") ? isAlone : got == before.value;
+        const bool isLowLight = m_action.has(CameraAction::KeptByLowLight) && before.isLowLight;
+        row.reason = row.verdict == QLatin1String("refused") && isLowLight
+                         ? m_host.translate(TextKey("it is in low light mode"))
+                     : isUnmoved ? reasonFor(before, lines)
+                                 : QString();
         const QString moved = movedText(before, *doc);
         row.reason += row.reason.isEmpty() || moved.isEmpty() ? moved : QString(QLatin1String("; ") % moved);
     } catch (...) {
@@ -122,11 +143,12 @@ ActionResult::Row ActionWatch::rowOf(const Before& before, const QStringList& li
     return row;
 }
 
-QString ActionWatch::verdictOf(const Before& before, const QString& got, const QString& reason) const {
-    return got == m_asked                             ? QStringLiteral("set")
-           : m_action.isKeptByLock && before.isLocked ? QStringLiteral("locked")
-           : reason.isEmpty() && m_action.mayClamp    ? QStringLiteral("clamped")
-                                                      : QStringLiteral("refused");
+/// `isTold`: the host has said something. Where it has not, a camera that stands where it stood has nothing nearer.
+QString ActionWatch::verdictOf(const Before& before, const QString& got, bool isTold) const {
+    return got == m_asked                                                             ? QStringLiteral("set")
+           : m_action.has(CameraAction::KeptByLock) && before.isLocked                ? QStringLiteral("locked")
+           : m_action.has(CameraAction::MayClamp) && (!isTold || got != before.value) ? QStringLiteral("clamped")
+                                                                                      : QStringLiteral("refused");
 }
 
 QString ActionWatch::movedText(const Before& before, DOC_Interface& doc) const {

@@ -18,16 +18,17 @@ public:
     /// Looks at the cameras as they are now. No keys stand for all that are connected. `asked` as the slot gets it.
     ActionWatch(ZebHost& host, const CameraAction& action, const DocKeyList& keys, const QString& asked);
 
-    /// `failure`: what the host has thrown, a line a camera where it begins with that one's name and ": ". `sent`:
-    /// whether the host was told; else only those are left that could not be asked. Null for nobody.
+    /// `failure`: what the host has thrown, a line a camera where it begins with that one's name and ": ", else of all.
+    /// `sent`: whether the host was told. If not, it is a result only where no camera could be asked. Null for nobody.
     std::optional<ActionResult> finish(const QString& failure, bool sent) const;
 
 private:
     using Values = QVector<QPair<const CameraAction*, QString>>;
     struct Before {
-        DOCKEY key;
+        DOCKEY key = zeb::NoDocKey;
         QString name;
         QString asked;
+        QString value;
         bool isLocked = false;
         bool isLowLight = false;
         /// What else may move, as the user reads it.
@@ -36,8 +37,9 @@ private:
 
     void look(DOCKEY key);
     Values othersOf(DOC_Interface& doc) const;
+    QString reasonFor(const Before& before, const QStringList& lines) const;
     ActionResult::Row rowOf(const Before& before, const QStringList& lines) const;
-    QString verdictOf(const Before& before, const QString& got, const QString& reason) const;
+    QString verdictOf(const Before& before, const QString& got, bool isTold) const;
     QString movedText(const Before& before, DOC_Interface& doc) const;
 
     ZebHost& m_host;

@@ -56,98 +56,71 @@ QString flag(bool on) {
     return on ? QStringLiteral("true") : QStringLiteral("false");
 }
 
-const CameraAction FrameRate{"frameRate",
-                             QT_TR_NOOP("Frame rate"),
+const CameraAction FrameRate{"frameRate", QT_TR_NOOP("Frame rate"),
                              [](DOC_Interface& doc) { return QString::number(doc.control().getRecordRate(0)); },
-                             rateText,
-                             true,
-                             true,
-                             true};
+                             rateText, CameraAction::MayClamp | CameraAction::KeptByLock | CameraAction::MovesOthers};
 
 const CameraAction Shutter{
-    "shutterSpeed",
-    QT_TR_NOOP("Shutter speed"),
+    "shutterSpeed", QT_TR_NOOP("Shutter speed"),
     [](DOC_Interface& doc) { return QString::number(doc.control().getShutterSpeed()); },
     [](const ZebHost&, DOC_Interface& doc, const QString& value) { return doc.formatShutterSpeed(value.toInt(), 0); },
-    true,
-    true,
-    true};
+    CameraAction::MayClamp | CameraAction::KeptByLock | CameraAction::MovesOthers};
 
-const CameraAction ImageSize{"resolution",
-                             QT_TR_NOOP("Resolution"),
-                             [](DOC_Interface& doc) { return sizeText(doc.control().getResolution()); },
-                             asItIs,
-                             true,
-                             true,
-                             true};
+const CameraAction ImageSize{"resolution", QT_TR_NOOP("Resolution"),
+                             [](DOC_Interface& doc) { return sizeText(doc.control().getResolution()); }, asItIs,
+                             CameraAction::MayClamp | CameraAction::KeptByLock | CameraAction::MovesOthers};
 
-const CameraAction Trigger{"triggerMode",
-                           QT_TR_NOOP("Trigger mode"),
+const CameraAction Trigger{"triggerMode", QT_TR_NOOP("Trigger mode"),
                            [](DOC_Interface& doc) { return QString::number(doc.control().getTriggerMode()); },
                            [](const ZebHost& host, DOC_Interface&, const QString& value) {
                                return LiveControlMembers::triggerText(host, value.toInt());
                            },
-                           false,
-                           true,
-                           true};
+                           CameraAction::KeptByLock | CameraAction::MovesOthers};
 
-const CameraAction LiveSpeed{"reduceMode",
-                             QT_TR_NOOP("Live speed"),
-                             [](DOC_Interface& doc) { return flag(doc.control().getReduceMode(0)); },
-                             onOff,
-                             false,
-                             true};
+const CameraAction LiveSpeed{"reduceMode", QT_TR_NOOP("Live speed"),
+                             [](DOC_Interface& doc) { return flag(doc.control().getReduceMode(0)); }, onOff,
+                             CameraAction::KeptByLock | CameraAction::NoKeysMeanAll};
 
-const CameraAction LowLight{"lowLight",
-                            QT_TR_NOOP("Lowlight"),
-                            [](DOC_Interface& doc) { return flag(doc.control().isLowLightMode()); },
-                            onOff,
-                            false,
-                            true,
-                            true};
+const CameraAction LowLight{"lowLight", QT_TR_NOOP("Lowlight"),
+                            [](DOC_Interface& doc) { return flag(doc.control().isLowLightMode()); }, onOff,
+                            CameraAction::KeptByLock | CameraAction::MovesOthers | CameraAction::NoKeysMeanAll};
 
 const CameraAction LowLightType{
-    "lowLightType",
-    QT_TR_NOOP("Lowlight"),
-    [](DOC_Interface& doc) { return flag(doc.control().getLowLightType() == zeb::LowLightTypeFast); },
-    onOff,
-    false,
-    true};
+    "lowLightType", QT_TR_NOOP("Lowlight"),
+    [](DOC_Interface& doc) { return flag(doc.control().getLowLightType() == zeb::LowLightTypeFast); }, onOff,
+    CameraAction::KeptByLock};
 
 const CameraAction Lock{"lock", QT_TR_NOOP("Lock"), [](DOC_Interface& doc) { return flag(doc.lock().isParamLocked()); },
-                        onOff};
+                        onOff, CameraAction::KeptByLowLight};
 
-const CameraAction Connect{"connect", QT_TR_NOOP("Connect"), isConnected, onOff, false, false, false, true};
+const CameraAction Connect{"connect", QT_TR_NOOP("Connect"), isConnected, onOff,
+                           CameraAction::ReachesOff | CameraAction::OfThoseOff};
 
-const CameraAction Disconnect{"disconnect", QT_TR_NOOP("Disconnect"), isConnected, onOff, false, true, false, true};
+const CameraAction Disconnect{"disconnect", QT_TR_NOOP("Disconnect"), isConnected, onOff,
+                              CameraAction::KeptByLock | CameraAction::ReachesOff};
 
-const CameraAction Name{"cameraName",
-                        QT_TR_NOOP("Camera name"),
-                        [](DOC_Interface& doc) { return doc.control().getCameraName(1); },
-                        asItIs,
-                        false,
-                        true};
+const CameraAction Name{"cameraName", QT_TR_NOOP("Camera name"),
+                        [](DOC_Interface& doc) { return doc.control().getCameraName(1); }, asItIs,
+                        CameraAction::KeptByLock};
 
-const CameraAction Comment{"comment",
-                           QT_TR_NOOP("Comment"),
+const CameraAction Comment{"comment", QT_TR_NOOP("Comment"),
                            [](DOC_Interface& doc) {
                                return doc.image().getComment().replace(QLatin1String(zeb::CommentSeparator),
                                                                        QLatin1String("\n"));
                            },
-                           asItIs,
-                           false,
-                           true};
+                           asItIs, CameraAction::KeptByLock};
 
 const CameraAction RecordCheck{"recordCheck", QT_TR_NOOP("recordCheck"),
-                               [](DOC_Interface& doc) { return flag(doc.frames().isRecordCheck()); }, onOff};
+                               [](DOC_Interface& doc) { return flag(doc.frames().isRecordCheck()); }, onOff,
+                               CameraAction::OfMemory};
 
 const CameraAction FirstFrame{"selectStartFrameNo", QT_TR_NOOP("selectStartFrameNo"),
                               [](DOC_Interface& doc) { return frameText(doc, doc.frames().getSelectStartFrame(0)); },
-                              asItIs, true};
+                              asItIs, CameraAction::MayClamp | CameraAction::OfMemory};
 
 const CameraAction LastFrame{"selectEndFrameNo", QT_TR_NOOP("selectEndFrameNo"),
                              [](DOC_Interface& doc) { return frameText(doc, doc.frames().getSelectEndFrame(0)); },
-                             asItIs, true};
+                             asItIs, CameraAction::MayClamp | CameraAction::OfMemory};
 
 const CameraAction Offset{
     "triggerOffset", QT_TR_NOOP("triggerOffset"),
@@ -156,6 +129,6 @@ const CameraAction Offset{
         const int base = camera.getTriggerOffsetBase();
         return QString::number(camera.isTriggerOffsetEnabled() ? camera.getTriggerOffset() - base : 0);
     },
-    asItIs, true};
+    asItIs, CameraAction::MayClamp | CameraAction::OfMemory};
 
 }  // namespace cameraaction

@@ -15,14 +15,26 @@ struct CameraAction {
     QString (*read)(DOC_Interface& doc);
     /// Such a value as the user reads it. Throws the same.
     QString (*text)(const ZebHost& host, DOC_Interface& doc, const QString& value);
-    /// A camera may take something near what was asked without a word.
-    bool mayClamp = false;
-    /// A locked camera is left as it is.
-    bool isKeptByLock = false;
-    /// It may move other settings of the camera along.
-    bool movesOthers = false;
-    /// It reaches cameras that are not connected too.
-    bool reachesOff = false;
+
+    enum Trait {
+        /// A camera may take something near what was asked without a word.
+        MayClamp = 1,
+        /// A locked camera is left as it is; one in low light mode.
+        KeptByLock = 2,
+        KeptByLowLight = 4,
+        /// It may move other settings of the camera along.
+        MovesOthers = 8,
+        /// It reaches cameras that are not connected, or those alone.
+        ReachesOff = 16,
+        OfThoseOff = 32,
+        /// No keys stand for all that are connected; else for nobody.
+        NoKeysMeanAll = 64,
+        /// In memory mode alone.
+        OfMemory = 128,
+    };
+    int traits = 0;
+
+    bool has(Trait trait) const { return (traits & trait) != 0; }
 };
 
 /// `value` as the user reads it; as it is where the camera does not tell.

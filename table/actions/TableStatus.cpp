@@ -19,9 +19,11 @@ QString TableStatus::toJson(CycleFailures& failures) const {
     int armed = 0;
     const auto count = [&](DOC_Interface& doc) {
         if (doc.isConnected()) {
+            const bool isLocked = doc.lock().isParamLocked();
+            const bool isReady = isArmed(doc);
             ++connected;
-            locked += doc.lock().isParamLocked() ? 1 : 0;
-            armed += isArmed(doc) ? 1 : 0;
+            locked += isLocked ? 1 : 0;
+            armed += isReady ? 1 : 0;
         }
     };
     ZebDocManager& documents = m_host.docManager();
@@ -31,12 +33,14 @@ QString TableStatus::toJson(CycleFailures& failures) const {
             failures.attempt(QStringLiteral("state of %1").arg(key), [&] { onCamera(*doc, [&] { count(*doc); }); });
         }
     }
+    qint64 recording = -1;
+    failures.attempt(QStringLiteral("time of the recording"), [&] { recording = recordMs(); });
     const QJsonObject status{
         {QStringLiteral("found"), found},
         {QStringLiteral("connected"), connected},
         {QStringLiteral("locked"), locked},
         {QStringLiteral("armed"), armed},
-        {QStringLiteral("recordMs"), recordMs()},
+        {QStringLiteral("recordMs"), recording},
         {QStringLiteral("search"), m_state.lastSearch},
         {QStringLiteral("result"), m_state.result ? QJsonValue(m_state.result->toJson()) : QJsonValue()}};
     return QString::fromUtf8(QJsonDocument(status).toJson(QJsonDocument::Compact));
@@ -44,7 +48,7 @@ QString TableStatus::toJson(CycleFailures& failures) const {
 
 /// From the first time that the table sees it.
 qint64 TableStatus::recordMs() const {
-    if (RecordingStatus(m_host).state() != zeb::RecordRecording) {
+    if (!m_host.isLiveMode() || RecordingStatus(m_host).state() != zeb::RecordRecording) {
         m_state.recording.invalidate();
         return -1;
     }

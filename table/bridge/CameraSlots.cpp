@@ -48,7 +48,7 @@ void JS_Mediator_WrenTableDialog::connect(const QVariantList& keys, bool connect
         const DocKeyList docKeys = toDocKeys(keys);
         watch(connect ? cameraaction::Connect : cameraaction::Disconnect, docKeys, cameraaction::flag(connect), [&] {
             topic<CameraManagement>().connect(docKeys, connect, force);
-            return true;
+            return force || host().isLiveMode();
         });
     });
 }

@@ -14,8 +14,9 @@ void JS_Mediator_WrenTableDialog::lockAll(bool lock) {
     call(*this, Change, __func__, {{"lock", lock}}, [&] {
         const DocKeyList keys = host().docManager().getConnectedDocKeys(1);
         watch(cameraaction::Lock, keys, cameraaction::flag(lock), [&] {
-            ParameterEditing(host(), m_state.allowed).setParamLock(keys, lock);
-            return true;
+            ParameterEditing editing(host(), m_state.allowed);
+            editing.setParamLock(keys, lock);
+            return editing.isSent();
         });
     });
 }

@@ -18,6 +18,8 @@
 
 void TableSession::open(QWidget* window) {
     m_state.group = QLatin1String(UnreadGroup);
+    m_state.result.reset();
+    m_state.lastSearch.clear();
     clearLocks(false);
     m_failures.attempt([this] { RecordChecks(m_host).clear(m_failures); });
     m_failures.attempt([this] { takeAllConnected(); });

@@ -3,6 +3,7 @@
 #include "AllowedValues.h"
 #include "CameraAction.h"
 #include "ChangeableDocs.h"
+#include "ConnectedDocs.h"
 #include "DOC_Control.h"
 #include "DOC_Lock.h"
 #include "DocumentGuard.h"
@@ -101,8 +102,9 @@ void ParameterEditing::changeShared(const DocKeyList& keys, const SharedParamete
 void ParameterEditing::setOn(const DocList& docs, const Change& change, GatheredFailures& failures, const Setter& set) {
     m_isSent = !docs.isEmpty();
     if (m_isSent) {
+        const DocKeyList keys = keysOf(docs);
         const UndoStep step(m_host, change.action, *docs.first(), change.value);
-        failures.attempt([&] { set(docs); });
+        failures.attempt([&] { set(docsOf(m_host.docManager(), keys)); });
     }
     failures.rethrow();
 }

@@ -115,8 +115,8 @@ std::vector<TriggerEditing::Command> TriggerEditing::commands(int mode, const ze
 /// Each command goes to all cameras, whatever one of them says to an earlier one; answers what they have refused.
 GatheredFailures TriggerEditing::send(const DocList& docs, int mode, const zeb::TriggerSettings& settings) {
     m_isSent = true;
-    const UndoStep step(m_host, cameraaction::Trigger, *docs.first(), QString::number(mode));
     DocKeyList keys = keysOf(docs);
+    const UndoStep step(m_host, cameraaction::Trigger, *docs.first(), QString::number(mode));
     GatheredFailures refusals;
     for (const Command& command : commands(mode, settings)) {
         refusals.attempt([&] {

@@ -55,15 +55,15 @@ void CameraManagement::noteSearch(const QString& where, const DocKeyList& added,
     ActionResult result{QStringLiteral("search"), {}};
     for (DOC_Interface* doc : docsOf(m_host.docManager(), added)) {
         ActionResult::Row row{doc->getKey(), {}, {}, {}, QStringLiteral("set"), {}};
-        logFailure([&] {
-            row.name = doc->control().getCameraName(1);
-            row.got = doc->control().getAddress(1);
-        });
+        logFailure([&] { row.name = doc->control().getCameraName(1); });
+        logFailure([&] { row.got = doc->control().getAddress(1); });
         result.rows.append(row);
     }
     m_state.lastSearch = m_host.translate(TextKey("%1: new %2, in the list %3"))
                              .arg(where, QString::number(added.size()), QString::number(listed));
-    m_state.result = result;
+    if (!result.rows.isEmpty()) {
+        m_state.result = result;
+    }
 }
 
 void CameraManagement::searchCamera(const QString& address) {
@@ -88,6 +88,7 @@ void CameraManagement::deleteAll() {
     if (m_host.isLiveMode() && m_host.confirmModal(TextKey("Delete all Cameras?"), nullptr, {}) &&
         m_host.isLiveMode()) {
         m_host.docManager().deleteAllDocs(0, 0);
+        m_state.result.reset();
     }
 }
 

@@ -212,4 +212,7 @@ void RecordButton::arm() {
     m_host.setPrefBool(RecAllConnectedPref, true);
     m_state.recordRunning = true;
     m_host.recorder().startRecReady();
+    if (m_state.result && m_state.result->action == QLatin1String("record")) {
+        m_state.result.reset();  // nobody is in the way any more
+    }
 }

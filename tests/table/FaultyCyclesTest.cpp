@@ -224,8 +224,8 @@ bool maySayNothing(const Action& action, const FaultPlan::Call& call) {
 /// What cameras make of these is looked at afterwards, and before for comparison. Who does not answer then is a line of
 /// the result, and no message, as long as all is as it was to be.
 bool isWatched(const Action& action) {
-    const std::initializer_list<const char*> others{"discoverysearch", "searchCamera", "updateCamera", "record",
-                                                    "trigger and stop", "the host's disconnect"};
+    const std::initializer_list<const char*> others{"discoverysearch", "searchCamera",     "updateCamera",
+                                                    "record",          "trigger and stop", "the host's disconnect"};
     return action.name.find("(QVariantList") != std::string::npos ||
            std::find(others.begin(), others.end(), action.name) != others.end();
 }

@@ -84,11 +84,12 @@ TEST_F(Undo, LeavesAloneAndNamesThoseThatItMayNotTouch) {
     QVariantMap expected = second;
     expected["8"] = first["8"];
     EXPECT_EQ(settings(), expected);
-    EXPECT_EQ(told(),
-              QStringList({"Gate: it is locked, and stays as it is", "Ramp: the camera is gone",
-                           "Nozzle left: it is locked, and stays as it is", "Roof: it is not connected, and stays as it is",
-                           "Track: it was changed since, and stays as it is", "Impact: it is armed, and stays as it is",
-                           "Nozzle right: another head of the device stays as it is"}));
+    EXPECT_EQ(
+        told(),
+        QStringList({"Gate: it is locked, and stays as it is", "Ramp: the camera is gone",
+                     "Nozzle left: it is locked, and stays as it is", "Roof: it is not connected, and stays as it is",
+                     "Track: it was changed since, and stays as it is", "Impact: it is armed, and stays as it is",
+                     "Nozzle right: another head of the device stays as it is"}));
     // What only waited goes back the next time.
     for (const DOCKEY key : {1, 3, 7}) {
         test.host.cameras().find(key)->change({{"locked", false}, {"recordState", zeb::RecordLive}});
@@ -99,9 +100,17 @@ TEST_F(Undo, LeavesAloneAndNamesThoseThatItMayNotTouch) {
     }
     EXPECT_EQ(told(), QStringList());
     EXPECT_EQ(test.host.undo().undo(), "") << "those that have gone or were changed have left the step";
-    EXPECT_EQ(test.host.undo().redo(), "Frame rate");
-    EXPECT_EQ(test.host.undo().redo(), "Frame rate");
+    EXPECT_EQ(test.host.undo().redo(), "Frame rate") << "both parts";
+    EXPECT_EQ(test.host.undo().redo(), "");
     EXPECT_EQ(settings()["8"], second["8"]);
+
+    // What fails once is not lost.
+    test.host.faults().plant(8, "setRecordRate", {"busy"});
+    EXPECT_EQ(test.host.undo().undo(), "Frame rate");
+    EXPECT_EQ(settings()["8"], second["8"]);
+    test.host.faults().clear();
+    EXPECT_EQ(test.host.undo().undo(), "Frame rate");
+    EXPECT_EQ(settings()["8"], first["8"]);
 }
 
 TEST_F(Undo, KeepsStepsClosedAndThoseOfImageToolsApart) {

@@ -17,13 +17,21 @@ QString entryText(const QString& what, const QString& step) {
 EditMenu::EditMenu(SimHost& host, QMenu& menu)
     : QObject(&menu),
       m_host(host),
-      m_undo(menu.addAction(QString(), this, [&host] { host.undo().undo(); })),
-      m_redo(menu.addAction(QString(), this, [&host] { host.undo().redo(); })) {
+      m_undo(menu.addAction(QString(), this, [this] { choose(&SimUndo::undo); })),
+      m_redo(menu.addAction(QString(), this, [this] { choose(&SimUndo::redo); })) {
     m_undo->setObjectName(QStringLiteral("undo"));
     m_redo->setObjectName(QStringLiteral("redo"));
     connect(&menu, &QMenu::aboutToShow, this, &EditMenu::refresh);
     connect(&host.events(), &HostEvents::updateFinished, this, &EditMenu::refresh);
     refresh();
+}
+
+void EditMenu::choose(QString (SimUndo::*work)()) {
+    try {
+        (m_host.undo().*work)();
+    } catch (const std::exception& failure) {
+        m_host.messages().tellFailure(failure);
+    }
 }
 
 void EditMenu::refresh() {

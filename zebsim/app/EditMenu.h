@@ -5,6 +5,7 @@
 class QAction;
 class QMenu;
 class SimHost;
+class SimUndo;
 
 /// Undo and Redo of the viewer's menu, with what they would do. A child of the menu.
 class EditMenu : public QObject {
@@ -15,6 +16,7 @@ public:
     EditMenu(SimHost& host, QMenu& menu);
 
 private:
+    void choose(QString (SimUndo::*work)());
     void refresh();
 
     SimHost& m_host;

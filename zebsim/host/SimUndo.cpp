@@ -13,6 +13,7 @@
 #include "Translator.h"
 #include "UpdateCycle.h"
 
+#include <QScopeGuard>
 #include <QSet>
 #include <QtDebug>
 
@@ -56,6 +57,7 @@ void removeTools(QList<Step>& steps) {
 
 SimUndo::SimUndo(const HostContext& host) : m_host(host) {
     QObject::connect(&host.events, &HostEvents::camerasReplaced, &host.events, [this] {
+        ++m_rigs;
         m_undo.clear();
         m_redo.clear();
         m_found.clear();
@@ -70,16 +72,17 @@ void SimUndo::clear() {
 
 void SimUndo::beginMacro(const QString& text) {
     m_host.calls.change(OPERATION("ZebUndo::beginMacro"), {text});
-    if (m_depth++ == 0) {
+    if (m_depth == 0) {
         m_text = text;
         m_found = look();
     }
+    ++m_depth;
 }
 
 /// The step is closed, whatever becomes of the call.
 void SimUndo::endMacro() {
     if (m_depth > 0 && --m_depth == 0) {
-        Step step{m_text, {}};
+        Step step{++m_steps, m_text, {}};
         for (const Found& found : m_found) {
             const QVariantMap now = found.camera->state().toPlain(CameraState::recordSettings());
             const QVariantMap before = differing(found.settings, now);
@@ -89,7 +92,8 @@ void SimUndo::endMacro() {
             }
         }
         m_found.clear();
-        if (!step.changes.isEmpty()) {
+        // What is put back meanwhile is none of it.
+        if (!step.changes.isEmpty() && !m_isMoving) {
             m_undo = m_undo.mid(qMax(0, m_undo.size() + 1 - MostSteps));
             m_undo.append(step);
             m_redo.clear();
@@ -117,24 +121,34 @@ std::vector<SimUndo::Found> SimUndo::look() const {
 }
 
 QString SimUndo::textOf(const QList<Step>& steps) const {
-    return steps.isEmpty() || m_host.appStatus.mode() != zeb::LiveMode ? QString() : steps.last().text;
+    const bool isOpen = m_depth == 0 && !m_isMoving && m_host.appStatus.mode() == zeb::LiveMode;
+    return isOpen && !steps.isEmpty() ? steps.last().text : QString();
 }
 
 QString SimUndo::move(QList<Step>& from, QList<Step>& to, bool back) {
-    if (textOf(from).isEmpty() || m_depth > 0) {
+    if (textOf(from).isEmpty()) {
         return {};
     }
+    const Step step = from.last();
+    const int rig = m_rigs;
     // Event loops run below, and what comes in them may not take the same step.
-    const Step step = from.takeLast();
+    m_isMoving = true;
+    const auto ended = qScopeGuard([this] { m_isMoving = false; });
     Choice choice = choose(step.changes, back);
-    const QList<Change> done = carryOut(choice, step.changes);
-    if (!choice.waiting.isEmpty()) {
-        from.append({step.text, choice.waiting});
-    }
-    if (!done.isEmpty()) {
-        to.append({step.text, done});
-    }
+    const QList<Change> done = carryOut(choice, step.changes, back);
     m_host.updates.request();
+    if (rig != m_rigs) {
+        return step.text;
+    }
+    from.removeLast();
+    if (!choice.waiting.isEmpty()) {
+        from.append({step.id, step.text, choice.waiting});
+    }
+    if (!done.isEmpty() && !to.isEmpty() && to.last().id == step.id) {
+        to.last().changes += done;
+    } else if (!done.isEmpty()) {
+        to.append({step.id, step.text, done});
+    }
     tell(step.text, done.size(), choice.lines, back);
     return step.text;
 }
@@ -151,6 +165,7 @@ SimUndo::Choice SimUndo::choose(const QList<Change>& changes, bool back) const {
         choice.lines << line(address, TextKey("there is no such camera"));
     }
     QSet<QString> left;
+    QSet<QString> lost;
     QList<const CameraPlan*> open;
     for (const CameraPlan& camera : plan.cameras) {
         if (const Change* change = find(changes, camera.camera)) {
@@ -161,13 +176,17 @@ SimUndo::Choice SimUndo::choose(const QList<Change>& changes, bool back) const {
             }
             choice.lines << why.line;
             left << change->address;
-            choice.waiting += why.passes ? QList<Change>{*change} : QList<Change>();
+            if (why.passes) {
+                choice.waiting << *change;
+            } else {
+                lost << change->address;
+            }
         }
     }
     for (const CameraPlan* camera : open) {
         const Change& change = *find(changes, camera->camera);
         if (left.contains(change.address)) {
-            choice.waiting << change;
+            choice.waiting += lost.contains(change.address) ? QList<Change>() : QList<Change>{change};
             choice.lines << line(camera->camera.label, TextKey("another head of the device stays as it is"));
         } else {
             choice.wanted.append({change.address, change.head, back ? change.before : change.after});
@@ -192,7 +211,8 @@ SimUndo::Left SimUndo::whyLeft(const CameraPlan& camera, const QVariantMap& expe
     return {};
 }
 
-QList<SimUndo::Change> SimUndo::carryOut(Choice& choice, const QList<Change>& changes) const {
+/// One that did not take it and stands as it stood waits for the next time.
+QList<SimUndo::Change> SimUndo::carryOut(Choice& choice, const QList<Change>& changes, bool back) const {
     const SettingsBatch batch(m_host);
     const LoadTexts texts(m_host.translator);
     LoadPlan plan = batch.plan(choice.wanted);
@@ -211,8 +231,12 @@ QList<SimUndo::Change> SimUndo::carryOut(Choice& choice, const QList<Change>& ch
     for (const SettingsBatch::Row& row : rows) {
         const QStringList surprises = batch.surprisesOf(row);
         choice.lines += surprises;
+        const Change& change = *find(changes, row.plan->camera);
+        const QVariantMap& before = back ? change.after : change.before;
         if (surprises.isEmpty()) {
-            done << *find(changes, row.plan->camera);
+            done << change;
+        } else if (row.camera && !row.camera->isGone() && row.camera->state().toPlain(before.keys()) == before) {
+            choice.waiting << change;
         }
     }
     return done;

@@ -32,8 +32,8 @@ public:
     QString redoText() const { return textOf(m_redo); }
     /// Gives the cameras of the last step what they had before it, or of the step taken back last what they had after
     /// it. One that is not there, locked, armed, in low light mode or was changed since is left alone, and the user is
-    /// told which; locked and armed ones and those in low light mode wait for the next time. Answers the step's text,
-    /// empty when there was none. Event loops run.
+    /// told which; locked and armed ones, those in low light mode, and those that did not take it wait for the next
+    /// time. Answers the step's text, empty when there was none. Event loops run.
     QString undo() { return move(m_undo, m_redo, true); }
     QString redo() { return move(m_redo, m_undo, false); }
 
@@ -46,6 +46,8 @@ private:
         QVariantMap after;
     };
     struct Step {
+        /// The same for the parts of one that was taken back bit by bit.
+        int id;
         QString text;
         QList<Change> changes;
     };
@@ -72,7 +74,7 @@ private:
     Choice choose(const QList<Change>& changes, bool back) const;
     Left whyLeft(const CameraPlan& camera, const QVariantMap& expected) const;
     /// Answers the changes that have come about, and adds a line for each that has not.
-    QList<Change> carryOut(Choice& choice, const QList<Change>& changes) const;
+    QList<Change> carryOut(Choice& choice, const QList<Change>& changes, bool back) const;
     void tell(const QString& text, int count, const QStringList& lines, bool back) const;
     QString line(const QString& label, const QString& reason) const;
 
@@ -83,4 +85,8 @@ private:
     int m_depth = 0;
     QString m_text;
     std::vector<Found> m_found;
+    bool m_isMoving = false;
+    int m_steps = 0;
+    /// How many times the cameras were replaced.
+    int m_rigs = 0;
 };

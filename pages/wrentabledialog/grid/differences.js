@@ -16,7 +16,9 @@ function countValues(view, { compared }) {
             values.add(value);
         }
     }
-    return values.size;
+    // It may be of a camera that is not among the rows.
+    const shown = view.newestBatch ? compared(view.newestBatch) : '';
+    return values.size > 0 && shown !== '' ? values.add(shown).size : values.size;
 }
 
 // Marks the cells of the batch row, whose rows may all be the same as last time.
@@ -46,11 +48,16 @@ function differencesText(view, box) {
     const names = new Map();
     comparedRecords(view, cell.kind).forEach(record => {
         const text = cell.kind.comparedText(record);
-        names.set(text, (names.get(text) || []).concat(record.cameraName));
+        names.set(text, (names.get(text) || []).concat(oneLine(record.cameraName)));
     });
     const lines = Array.from(names.keys()).map(text => `${text}: ${namesText(names.get(text))}`);
-    const shown = view.newest.get(String(wrentabledialog.getBatchDocKey()));
-    return lines.concat(shown ? withValues(textKey('Shown: %1'), shown.cameraName) : []).join('\n');
+    const shown = view.newest.get(attention.batchKey());
+    return lines.concat(shown ? withValues(textKey('Shown: %1'), oneLine(shown.cameraName)) : []).join('\n');
+}
+
+// A name must not make a line of its own.
+function oneLine(text) {
+    return text.replace(/\s+/g, ' ');
 }
 
 // As "3 (Gate, Ramp, Roof)"; of many only the first ones.

@@ -133,12 +133,13 @@ class GridView {
         this.draw(true);
     }
 
-    setNewest(records, batch) {
+    // Of all cameras of the list, and those of them that stand.
+    setNewest(records, standing, batch) {
         this.newest = new Map();
         for (let index = 0; index < records.length; index++) {
             this.newest.set(records[index].key, records[index]);
         }
-        this.newestRecords = records;
+        this.newestRecords = standing;
         this.newestBatch = batch[0] || null;
     }
 

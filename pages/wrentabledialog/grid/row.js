@@ -107,6 +107,6 @@ function rowFrame(grid, tab) {
 // What a drawn row is built from, beside what its cells need.
 function sourceOf(record) {
     return isBatch(record)
-        ? String(wrentabledialog.getBatchDocKey())
+        ? attention.batchKey()
         : `${isSteered(record)} ${isOff(record)} ${isOff(record) && record.alert !== ''}`;
 }

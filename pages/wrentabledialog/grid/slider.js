@@ -70,7 +70,7 @@ const lowLightSlider = {
 
     // Of the camera that the batch row stands for.
     batchSpeeds(view) {
-        const record = view.newest.get(String(wrentabledialog.getBatchDocKey()));
+        const record = view.newest.get(attention.batchKey());
         return record ? record.shutterSpeeds : [];
     },
 

@@ -10,10 +10,10 @@ Object.assign(wrentabledialog_obj, {
             return;
         }
         const view = viewAt(tabkey);
-        const records = attention.list(data.records);
+        const records = attention.list(data.records, !autoUpdate);
         const batch = attention.batch(data.batch, records);
         view.status = this.readListStatus(records);
-        view.setNewest(records, batch);
+        view.setNewest(data.records, records, batch);
         if (!autoUpdate) {
             this.closeFloating();
             numberBox.giveUp(draft => !isBatch(draft) && !view.newest.has(draft.key));

@@ -1,8 +1,13 @@
+// What a batch record has of no camera.
+const BATCH_MEMBERS = ['recid', 'key', 'recordCount', 'alert', 'cameraStatus', 'syncStatus', 'ipAddress', 'comment',
+    'comments', 'externalSync', 'triggerIn', 'triggerSwIn', 'irigTimeStamp', 'irigSync', 'irigSupported', 'plugins'];
+
 // The rows that need a look, and no others. It is the page's own view, beside group and filter. A row that comes right
 // stays until the view is left, so that no press lands on the one below it.
 const attention = {
     on: false,
     keys: new Set(), // of the rows that stand
+    shown: null, // key of the camera behind the batch row, where the back end has one that does not stand
 
     initialize() {
         onClick('#wren_attention', () => {
@@ -12,11 +17,18 @@ const attention = {
         });
     },
 
-    // Those of the records that are listed.
-    list(records) {
+    // Those of the records that are listed. Others join with a full refresh, which alone makes rows.
+    list(records, isFull) {
         if (!this.on) {
             return records;
         }
+        if (isFull) {
+            this.collect(records);
+        }
+        return records.filter(record => this.keys.has(record.key));
+    },
+
+    collect(records) {
         const needsLock = wrentabledialog.isLiveMode() && wrentabledialog.getPrefBool(PREF_KEY_WREN_DISPLAY_LOCK);
         const odd = resultList.oddKeys();
         records.forEach(record => {
@@ -24,7 +36,6 @@ const attention = {
                 this.keys.add(record.key);
             }
         });
-        return records.filter(record => this.keys.has(record.key));
     },
 
     needsLook(record, needsLock) {
@@ -32,10 +43,26 @@ const attention = {
             record.syncStatus === 'Over Sync';
     },
 
-    // The batch row says that it stands for these alone.
+    // The batch row says that it stands for these alone, and shows the values of one of them.
     batch(batch, records) {
-        return !this.on ? batch : batch.map(record =>
-            Object.assign({}, record, { cameraName: withValues(textKey('These %1 cameras'), records.length) }));
+        this.shown = null;
+        if (!this.on || batch.length === 0) {
+            return batch;
+        }
+        const present = String(wrentabledialog.getBatchDocKey());
+        const last = records.filter(record => record.connected).pop();
+        const other = last && !this.keys.has(present) ? last : null;
+        const own = wrentabledialog.isLiveMode() ? BATCH_MEMBERS : BATCH_MEMBERS.concat('frameRate');
+        const record = Object.assign({}, other || batch[0]);
+        own.filter(() => other).forEach(name => { record[name] = batch[0][name]; });
+        this.shown = other && other.key;
+        record.cameraName = withValues(textKey('These %1 cameras'), records.length);
+        return [record];
+    },
+
+    // Of the camera whose values the batch row shows.
+    batchKey() {
+        return this.shown || String(wrentabledialog.getBatchDocKey());
     },
 
     refreshButton() {

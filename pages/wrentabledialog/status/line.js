@@ -78,11 +78,13 @@ const statusLine = {
     showResult(result) {
         const link = document.getElementById('wren_status_result');
         showElement(link, result !== null);
-        if (result !== null) {
+        if (result === null) {
+            resultList.close();
+        } else {
             setText(link, resultText(result));
             setClass(link, result.ok ? 'ok' : 'odd');
-            resultList.take(result);
         }
+        resultList.take(result);
     },
 
     refreshButtons() {

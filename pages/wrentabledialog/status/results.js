@@ -34,6 +34,9 @@ const resultList = {
             return;
         }
         Object.assign(this, { text, result, verdict: '' });
+        if (result === null) {
+            return;
+        }
         setText(this.box().querySelector('b'), actionText(result.action));
         this.box().querySelector('.verdicts').innerHTML = verdictCounts(result).map(({ verdict, count }) =>
             `<a verdict="${verdict}">${escapeMarkup(verdictText(verdict))} ${count}</a>`).join('');
