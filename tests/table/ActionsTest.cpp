@@ -24,7 +24,8 @@ protected:
     /// Its lines, as "8 clamped: 2000 fps, 1000 fps, why".
     QStringList lines() {
         QStringList lines;
-        for (const QJsonValue& value : result()["rows"].toArray()) {
+        const QJsonArray rows = result()["rows"].toArray();
+        for (const auto& value : rows) {
             const QJsonObject row = value.toObject();
             lines << QString("%1 %2: %3, %4, %5")
                          .arg(row["key"].toString(), row["verdict"].toString(), row["asked"].toString(),
