@@ -56,8 +56,12 @@ void ActionWatch::look(DOCKEY key) {
     if (doc == nullptr) {
         return;
     }
-    // One that does not tell is asked again afterwards.
-    const bool isConnected = answerOf<bool>([&] { return doc->isConnected(); });
+    // One that does not tell counts as meant, and is asked again afterwards.
+    bool isConnected = !m_action.has(CameraAction::OfThoseOff);
+    try {
+        isConnected = doc->isConnected();
+    } catch (const std::exception&) {
+    }
     if (isConnected == m_action.has(CameraAction::OfThoseOff)) {
         return;
     }

@@ -133,6 +133,14 @@ TEST_F(TableActions, OfOtherKindsTellTheirCamerasToo) {
     EXPECT_EQ(lines().size(), 1);
 }
 
+TEST_F(TableActions, NameACameraThatDoesNotEvenTellWhetherItIsConnected) {
+    host.faults().plant(5, "isConnected", {"no answer"});
+    bridge->setFrameRate({1, 5}, "2000");
+    EXPECT_EQ(desk.take().size(), 1);
+    EXPECT_EQ(lines().size(), 2);
+    EXPECT_EQ(lines().last().section(':', 0, 0), "5 unanswered");
+}
+
 TEST_F(TableActions, OnWhatIsRecordedTellWhatTheFramesAllow) {
     for (const DOCKEY key : {1, 5}) {
         change(key, {{"recorded", true}, {"recordedRange", QVariantList{0, 99}}, {"recordedTrigger", 50}});
