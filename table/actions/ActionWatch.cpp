@@ -57,10 +57,11 @@ void ActionWatch::look(DOCKEY key) {
         return;
     }
     // One that does not tell counts as meant, and is asked again afterwards.
-    bool isConnected = !m_action.has(CameraAction::OfThoseOff);
+    bool isConnected = false;
     try {
         isConnected = doc->isConnected();
-    } catch (const std::exception&) {
+    } catch (...) {
+        isConnected = !m_action.has(CameraAction::OfThoseOff);
     }
     if (isConnected == m_action.has(CameraAction::OfThoseOff)) {
         return;
