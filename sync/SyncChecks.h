@@ -1,26 +1,33 @@
 #pragma once
 
-#include "ZebTypes.h"
-
-#include <QList>
 #include <QString>
 
+#include <optional>
+
+class DOC_Interface;
 class ZebHost;
 
-/// What makes a camera fit or unfit for a common signal. A `zeb::TriggerMode`.
-struct SyncFitness {
-    bool supported = true;
-    int triggerMode = zeb::TriggerStart;
-    bool lowLight = false;
+/// Why a camera can't share a signal with the others of the table.
+enum class SyncObstacle { Dummy, Unsupported, TriggerMode, LowLight, MixedExposures, DualSlope, AutoExposure };
+
+/// A key for translation.
+QString textOf(SyncObstacle obstacle);
+
+/// Whether cameras of different exposure can share a signal in this trigger mode.
+bool suitsMixedExposures(int triggerMode);
+
+struct SyncFinding {
+    SyncObstacle obstacle;
+    /// Never null. Of exposures that are mixed the first camera.
+    DOC_Interface* doc;
 };
 
-/// Why a camera can't share a signal with one in the trigger mode `reference`; the first reason, a key for translation.
-/// Empty when it can.
-QString syncObstacle(const SyncFitness& camera, int reference);
+/// What keeps the cameras of the table from a common signal; of several what is looked at first. Asks each camera, and
+/// may throw what host and documents throw. GUI thread.
+std::optional<SyncFinding> firstSyncObstacle(ZebHost& host);
 
-/// Why cameras of different exposure can't share a signal in this trigger mode, likewise.
-QString mixedExposureObstacle(int triggerMode);
+/// What keeps this camera from it, whatever the others have; likewise.
+std::optional<SyncObstacle> syncObstacleOf(ZebHost& host, DOC_Interface& doc);
 
-/// Throws a `UTL_Exception` with the first reason, in the user's language, why the cameras of the table can't share a
-/// signal. Nothing is changed. May also throw what host and documents throw.
+/// Throws a `UTL_Exception` with the first obstacle, in the user's language; likewise.
 void checkSyncCapability(ZebHost& host);

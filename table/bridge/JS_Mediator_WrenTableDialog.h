@@ -54,6 +54,8 @@ public Q_SLOTS:
     DOCKEY getBatchDocKey();
     /// How all cameras stand, see `TableStatus`.
     QString getTableStatus();
+    /// How a camera stands to the common signal, see `SyncVerdict`; empty when there is none of that key.
+    QString getSyncVerdict(DOCKEY dockey);
     bool isSuspendReduceMode(DOCKEY dockey);
     /// The partition that the current camera has in use; 0 and an empty text without one.
     PARTITIONNUMBER getCurrentPartition();

@@ -1,9 +1,19 @@
 #include "BridgeCall.h"
 #include "JS_Mediator_WrenTableDialog.h"
 #include "SyncSettings.h"
+#include "SyncVerdict.h"
+#include "ZebDocManager.h"
+#include "ZebHost.h"
 
 QString JS_Mediator_WrenTableDialog::getSyncSettings() {
     return call(*this, Query, __func__, {}, [this] { return SyncSettings(host(), m_state.sync).look().toJson(); });
+}
+
+QString JS_Mediator_WrenTableDialog::getSyncVerdict(DOCKEY dockey) {
+    return call(*this, Query, __func__, {{"dockey", dockey}}, [&] {
+        DOC_Interface* doc = host().docManager().getDocAny(dockey);
+        return doc == nullptr ? QString() : SyncVerdict(host(), m_state.sync, *doc).toJson();
+    });
 }
 
 bool JS_Mediator_WrenTableDialog::setSyncSettings() {

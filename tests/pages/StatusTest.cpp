@@ -78,6 +78,14 @@ TEST(PageStatus, MarksWhereTheRowsHaveOtherValuesThanTheBatchRowShows) {
     page.tick();
     EXPECT_TRUE(page.list(marks).contains("frameRate 3"));
     EXPECT_EQ(page.tick(), QStringList());
+    test.camera(8).change({{"locked", true}});
+    page.tick();
+    EXPECT_TRUE(
+        page.text(tip).endsWith("\nShown: Stand-in\nCan be changed on: 6 (Gate, Ramp, Nozzle left, Nozzle right, "
+                                "Roof, ...)"));
+    test.camera(8).change({{"locked", false}});
+    page.tick();
+    EXPECT_EQ(page.number("$('[barred]').length"), 0);
 
     page.click("#grid_wren-livecontrol-list_summary p.wren_livecontrol_framerate");
     const QStringList offers = page.list(
@@ -90,6 +98,25 @@ TEST(PageStatus, MarksWhereTheRowsHaveOtherValuesThanTheBatchRowShows) {
     EXPECT_EQ(page.made("^set", [&] { page.click(QString(".wren-dropdown .options li:nth-child(%1)").arg(place)); }),
               QStringList("setFrameRate 1,2,3,4,5,6,7,8 2000"));
     test.desk.take();
+}
+
+TEST(PageStatus, AsksForTheSyncOfACameraWhenItsBadgeIsPointedAtAndAtNoTick) {
+    TestHost test(connected(2));
+    TablePage page(test, 1);
+    const auto point = [&] { page.run("$('#wren_livecontrol_sync_2').trigger('mouseover'); return 0"); };
+    EXPECT_EQ(page.made("^getSyncVerdict", point), QStringList("getSyncVerdict 2"));
+    const char* tip = "$('.ui-tooltip-content').text()";
+    const QString verdict = "No Sync\nSynchronization is not in use.\nRecord rate: 1000 fps";
+    EXPECT_EQ(page.text(tip), verdict);
+    const auto refresh = [&] {
+        page.tick();
+        page.update();
+    };
+    EXPECT_EQ(page.made("^getSyncVerdict", refresh), QStringList());
+    EXPECT_EQ(page.text(tip), verdict);
+    test.host.faults().plant(2, "*", {{}, 0, true});
+    page.update();
+    EXPECT_EQ(page.text(tip), "") << "it is of no other camera";
 }
 
 TEST(PageStatus, ListsWhatNeedsALookUntilTheViewIsLeft) {

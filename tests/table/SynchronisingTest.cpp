@@ -129,6 +129,52 @@ TEST_F(SynchronisingTest, WhileTheCamerasAreHandedOverNothingElseReachesThem) {
     EXPECT_EQ(stateOf(1, "rate").toInt(), 1000) << "a click of the page is refused";
 }
 
+TEST_F(SynchronisingTest, AVerdictTellsWhatKeepsACameraFromTheSignalAndByHowMuchItIsOff) {
+    const auto verdict = [this](DOCKEY key) {
+        const QJsonObject texts = QJsonDocument::fromJson(bridge->getSyncVerdict(key).toUtf8()).object();
+        return QStringList{texts["check"].toString(), texts["follows"].toString(), texts["rate"].toString(),
+                           texts["recorded"].toString()};
+    };
+    EXPECT_EQ(verdict(1),
+              QStringList({"", "The cameras have not been synchronized yet.", "Record rate: 1000 fps", ""}));
+    host.setPrefBool("alert/setsynchronization", false);
+    ASSERT_TRUE(bridge->setSyncSettings());
+    change(2, {{"rate", 1500}, {"name", "<%2>"}});
+    EXPECT_EQ(verdict(1).mid(1, 2), QStringList({"It is the master camera.", "Record rate: 1000 fps"}));
+    EXPECT_EQ(verdict(2).mid(0, 3),
+              QStringList({"", "Master camera: Camera 1, 1000 fps", "Record rate: 1500 fps, 500 above the signal"}));
+    change(2, {{"triggerMode", zeb::TriggerEnd}});
+    const QString modes = "Sync setting is possible only when all cameras are in the same trigger mode.";
+    EXPECT_EQ(verdict(2)[0], modes + " (End Trg; Camera 1 has Start Trg)");
+    EXPECT_EQ(verdict(3)[0], "<%2>: " + modes + " (End Trg; Camera 1 has Start Trg)");
+    EXPECT_EQ(verdict(3)[2], "Record rate: 1000 fps, as the signal");
+    host.faults().plant(2, "getTriggerMode", {"no answer", 0, false});
+    EXPECT_EQ(verdict(2)[0], "<%2>: no answer");
+    EXPECT_EQ(verdict(2)[2], "Record rate: 1500 fps, 500 above the signal") << "one question hides no other";
+    host.faults().plant(2, "*", {{}, 0, true});
+    change(3, {{"recorded", true}, {"recordedRange", QVariantList{-100, 899}}, {"recordedRate", 500}});
+    EXPECT_EQ(verdict(3)[3], "Recorded: 1000 frames, 500 fps, 500 below the signal");
+    change(1, {{"connected", false}});
+    EXPECT_EQ(verdict(3).mid(0, 2), QStringList({"", "The master camera is not connected."}));
+    EXPECT_EQ(bridge->getSyncVerdict(77), QString());
+
+    VisaFile visa;
+    useGenerator();
+    EXPECT_EQ(verdict(3)[1], "The source of the signal is not connected.");
+    bridge->connectSignalGenerator();
+    bridge->setSignalFrequency(2000);
+    EXPECT_EQ(verdict(3).mid(1, 2),
+              QStringList({"Signal of the generator: 2000 Hz", "Record rate: 1000 fps, 1000 below the signal"}));
+
+    host.setRig(readRig("eight-mixed"));
+    for (const DOCKEY key : {1, 6, 8}) {
+        change(key, {{"connected", true}});
+    }
+    EXPECT_EQ(verdict(8)[0], "Dummy camera can not set synchronization");
+    EXPECT_EQ(verdict(1)[0].section("(", 1), "with delay: 1, without: 1)");
+    EXPECT_EQ(desk.texts(), QStringList()) << "a tip is no reason for a box";
+}
+
 TEST_F(SynchronisingTest, AListOfManyRecordsAsksTheGeneratorOnce) {
     VisaFile visa;
     host.setRig(standardRig(64));

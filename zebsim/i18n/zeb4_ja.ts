@@ -3399,5 +3399,81 @@
         <source>taken otherwise</source>
         <translation>別の値</translation>
     </message>
+    <message>
+        <source>camera type %1</source>
+        <translation>カメラの種類 %1</translation>
+    </message>
+    <message>
+        <source>%1; %2 has %3</source>
+        <translation>%1、%2 は %3</translation>
+    </message>
+    <message>
+        <source>with delay: %1, without: %2</source>
+        <translation>遅延あり: %1 台、なし: %2 台</translation>
+    </message>
+    <message>
+        <source>Synchronization is not in use.</source>
+        <translation>同期は使用していません。</translation>
+    </message>
+    <message>
+        <source>The cameras have not been synchronized yet.</source>
+        <translation>カメラはまだ同期されていません。</translation>
+    </message>
+    <message>
+        <source>It is the master camera.</source>
+        <translation>このカメラがマスターです。</translation>
+    </message>
+    <message>
+        <source>The master camera is not connected.</source>
+        <translation>マスターカメラが接続されていません。</translation>
+    </message>
+    <message>
+        <source>Master camera: %1, %2 fps</source>
+        <translation>マスターカメラ: %1、%2 fps</translation>
+    </message>
+    <message>
+        <source>The source of the signal is not connected.</source>
+        <translation>同期信号の出力元が接続されていません。</translation>
+    </message>
+    <message>
+        <source>Signal of the generator: %1</source>
+        <translation>シグナルジェネレーターの信号: %1</translation>
+    </message>
+    <message>
+        <source>Signal of the Sync Hub: %1</source>
+        <translation>Sync Hub の信号: %1</translation>
+    </message>
+    <message>
+        <source>no frequency is chosen</source>
+        <translation>周波数は選択されていません</translation>
+    </message>
+    <message>
+        <source>Record rate: %1</source>
+        <translation>撮影速度: %1</translation>
+    </message>
+    <message>
+        <source>Recorded: %1 frames, %2</source>
+        <translation>記録済み: %1 フレーム、%2</translation>
+    </message>
+    <message>
+        <source>%1, as the signal</source>
+        <translation>%1(信号と同じ)</translation>
+    </message>
+    <message>
+        <source>%1, %2 above the signal</source>
+        <translation>%1(信号より %2 高い)</translation>
+    </message>
+    <message>
+        <source>%1, %2 below the signal</source>
+        <translation>%1(信号より %2 低い)</translation>
+    </message>
+    <message>
+        <source>No row can be changed.</source>
+        <translation>変更できる行はありません。</translation>
+    </message>
+    <message>
+        <source>Can be changed on: %1</source>
+        <translation>変更できるカメラ: %1</translation>
+    </message>
 </context>
 </TS>

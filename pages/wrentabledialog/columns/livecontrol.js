@@ -5,7 +5,7 @@
 //   needs      as of every kind
 //   choices    the list of a record, objects with `value` and `name`
 //   value      the present value of a record
-//   locked     whether the select is disabled beyond what holds for the whole list
+//   locked     as of every kind
 //   send       the bridge call that takes the keys and the chosen value
 function dropDownColumn(options) {
     const name = `wren_livecontrol_${options.word}`;
@@ -20,6 +20,7 @@ function dropDownColumn(options) {
             const choice = options.choices(record).find(item => item.value === options.value(record));
             return choice ? choice.name : options.value(record);
         },
+        locked: options.locked,
         send: options.send,
         needs: options.needs,
         still: true,
@@ -82,7 +83,7 @@ COLUMNS.frameRate = dropDownColumn({
     needs: ['lock', 'frameRates', 'frameRate'],
     choices: record => record.frameRates,
     value: record => record.frameRate,
-    locked: record => Boolean(record.lock || record.lowLightMode),
+    locked: isLockedOrLowLight,
     send: (keys, value) => wrentabledialog.setFrameRate(keys, value)
 });
 
@@ -92,7 +93,7 @@ COLUMNS.shutterSpeed = dropDownColumn({
     needs: ['lock', 'shutterSpeeds', 'shutterSpeed'],
     choices: record => record.shutterSpeeds,
     value: record => record.shutterSpeed,
-    locked: record => Boolean(record.lock),
+    locked: isLocked,
     send: (keys, value) => wrentabledialog.setShutterSpeed(keys, value)
 });
 
@@ -102,7 +103,7 @@ COLUMNS.resolution = dropDownColumn({
     needs: ['lock', 'resolutions', 'resolution'],
     choices: record => record.resolutions.map(text => ({ value: text, name: text })),
     value: record => record.resolution,
-    locked: record => Boolean(record.lock || record.lowLightMode),
+    locked: isLockedOrLowLight,
     send: (keys, value) => wrentabledialog.setResolution(keys, value)
 });
 
@@ -112,7 +113,7 @@ COLUMNS.trigger = dropDownColumn({
     needs: ['lock', 'triggerModes', 'triggerMode'],
     choices: record => record.triggerModes,
     value: record => record.triggerMode,
-    locked: record => Boolean(record.lock || record.lowLightMode),
+    locked: isLockedOrLowLight,
     send: (keys, value) => wrentabledialog.setTriggerMode(keys, value)
 });
 
@@ -123,6 +124,7 @@ COLUMNS.reduce = {
     needs: ['lock', 'reduceModeSupported', 'reduceMode'],
     still: true,
     empty: record => isOff(record) || record.reduceModeSupported === false,
+    locked: isLocked,
     compared: record => record.reduceModeSupported ? String(record.reduceMode) : '',
     comparedText: record => onOffText(record.reduceMode),
     markup() {
@@ -135,7 +137,7 @@ COLUMNS.reduce = {
         </div>`;
     },
     tick(cell, record, status) {
-        const disabled = Boolean(record.lock) || status.disabled || wrentabledialog.isSuspendReduceMode(record.key);
+        const disabled = isLocked(record) || status.disabled || wrentabledialog.isSuspendReduceMode(record.key);
         cell.classes('wrapper', record.reduceMode ? 'flexWrapper wren-reduce-status' : 'flexWrapper');
         cell.swap(Boolean(record.reduceMode), 'on', 'off');
         cell.flag('on', 'disabled', disabled);
@@ -168,6 +170,7 @@ COLUMNS.lowlight = {
     needs: ['lock', 'lowLightMode', 'lowLightType', 'shutterSpeeds', 'shutterSpeed'],
     still: true,
     empty: isOff,
+    locked: isLocked,
     compared: record => record.lowLightModeSupported ? String(record.lowLightMode) : '',
     comparedText: record => onOffText(record.lowLightMode),
     markup() {
@@ -188,7 +191,7 @@ COLUMNS.lowlight = {
         placeSlider(cell, record);
     },
     tick(cell, record, status) {
-        const disabled = Boolean(record.lock) || status.disabled;
+        const disabled = isLocked(record) || status.disabled;
         const still = disabled || !record.lowLightMode;
         if (still && lowLightSlider.isHeld(cell)) {
             lowLightSlider.letGo();

@@ -11,6 +11,7 @@
 //   leave(cell)     before the elements go
 //   compared(record)       the value by which rows are the same or differ, as text, '' for none; `comparedText` as the
 //                   user reads it. Of kinds whose batch row tells so
+//   locked(record)  whether the camera itself takes no change of it, beyond what holds for the whole list
 //   still           whether a click or a drag on it leaves the selection as it is
 //   click(place, part)     what a click on a link or a list of the cell does; `place` is view, row and cell
 //   clickBatch()           what a click on the batch row does that meets no control

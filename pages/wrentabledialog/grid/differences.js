@@ -30,29 +30,52 @@ function markDifferences(view) {
     view.markedBatch = view.batch;
     view.batch.cells.filter(cell => cell.kind.compared).forEach(cell => {
         const count = cell.filled ? countValues(view, cell.kind) : 0;
-        const shown = count > 1 ? String(count) : null;
-        if (shown === null) {
-            cell.box.removeAttribute('differs');
-        } else if (cell.box.getAttribute('differs') !== shown) {
-            cell.box.setAttribute('differs', shown);
-        }
+        mark(cell.box, 'differs', count > 1 ? String(count) : null);
+        mark(cell.box, 'barred', isBarred(view, cell) ? '' : null);
     });
 }
 
-// A line for each value, with the cameras that have it, and whose value stands.
+function mark(box, name, value) {
+    if (value === null) {
+        box.removeAttribute(name);
+    } else if (box.getAttribute(name) !== value) {
+        box.setAttribute(name, value);
+    }
+}
+
+// Whether the batch row's own camera, and not the whole table, takes no change of it.
+function isBarred(view, { filled, kind }) {
+    return Boolean(filled && kind.locked && view.newestBatch && kind.locked(view.newestBatch));
+}
+
+// A line for each value, with the cameras that have it, whose value stands, and which rows take a change where that one
+// takes none.
 function differencesText(view, box) {
     const cell = view.batch && view.batch.cells.find(each => each.box === box);
     if (!cell) {
         return '';
     }
+    const shown = view.newest.get(attention.batchKey());
+    return (box.hasAttribute('differs') ? valueLines(view, cell) : [])
+        .concat(shown ? withValues(textKey('Shown: %1'), oneLine(shown.cameraName)) : [])
+        .concat(isBarred(view, cell) ? freeRowsText(view, cell) : []).join('\n');
+}
+
+function valueLines(view, cell) {
     const names = new Map();
     comparedRecords(view, cell.kind).forEach(record => {
         const text = cell.kind.comparedText(record);
         names.set(text, (names.get(text) || []).concat(oneLine(record.cameraName)));
     });
-    const lines = Array.from(names.keys()).map(text => `${text}: ${namesText(names.get(text))}`);
-    const shown = view.newest.get(attention.batchKey());
-    return lines.concat(shown ? withValues(textKey('Shown: %1'), oneLine(shown.cameraName)) : []).join('\n');
+    return Array.from(names.keys()).map(text => `${text}: ${namesText(names.get(text))}`);
+}
+
+function freeRowsText(view, cell) {
+    const names = comparedRecords(view, cell.kind).filter(record => cell.reads(record) && !cell.kind.locked(record))
+        .map(record => oneLine(record.cameraName));
+    return names.length === 0
+        ? translate('No row can be changed.')
+        : withValues(textKey('Can be changed on: %1'), namesText(names));
 }
 
 // A name must not make a line of its own.
