@@ -8,7 +8,9 @@ namespace {
 /// Impact, 8 Stand-in.
 class Undo : public testing::Test {
 protected:
-    Undo() {
+    Undo() { begin(); }
+
+    void begin() {
         Rig rig = readRig("eight-mixed");
         for (RigDevice& device : rig.devices) {
             for (CameraState& head : device.heads) {
@@ -111,6 +113,39 @@ TEST_F(Undo, LeavesAloneAndNamesThoseThatItMayNotTouch) {
     test.host.faults().clear();
     EXPECT_EQ(test.host.undo().undo(), "Frame rate");
     EXPECT_EQ(settings()["8"], first["8"]);
+}
+
+TEST_F(Undo, AFaultAtAnyCallLosesNoCamerasValuesUntold) {
+    for (const Fault& fault : {Fault{"busy"}, Fault{{}, 0, true}}) {
+        for (int call = 1;; ++call) {
+            begin();
+            QVariantMap names;
+            for (const Camera* camera : test.host.cameras().known()) {
+                names.insert(QString::number(camera->key()), camera->get(&CameraState::name));
+            }
+            const QVariantMap first = settings();
+            setRate(2000);
+            told();
+            test.host.faults().plantAt(call, fault);
+            EXPECT_EQ(test.host.undo().undo(), "Frame rate");
+            const bool isOver = test.host.faults().calls().size() < call;
+            test.host.faults().clear();
+            const QString failures = told().join('\n');
+            for (const QString& key : first.keys()) {
+                const bool isTold = failures.contains(names[key].toString() + ": ");
+                EXPECT_TRUE(settings()[key] == first[key] || isTold) << call << names[key].toString().toStdString();
+            }
+            EXPECT_EQ(test.host.undo().canUndo(), !failures.isEmpty() && !fault.gone) << call;
+            if (!fault.gone) {
+                test.host.undo().undo();
+                EXPECT_EQ(settings(), first) << "what fails once goes back the next time; call " << call;
+            }
+            if (isOver) {
+                EXPECT_GT(call, 8);
+                break;
+            }
+        }
+    }
 }
 
 TEST_F(Undo, KeepsStepsClosedAndThoseOfImageToolsApart) {

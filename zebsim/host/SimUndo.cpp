@@ -39,6 +39,12 @@ QVariantMap differing(const QVariantMap& settings, const QVariantMap& others) {
     return differing;
 }
 
+/// What the camera has neither as before nor as after the step.
+template <typename Change>
+QVariantMap straysOf(const Change& change, const CameraState& state) {
+    return differing(differing(state.toPlain(change.before.keys()), change.before), change.after);
+}
+
 template <typename Change>
 const Change* find(const QList<Change>& changes, const PlanCamera& camera) {
     const auto found = std::find_if(changes.begin(), changes.end(), [&camera](const Change& change) {
@@ -54,6 +60,16 @@ void removeTools(QList<Step>& steps) {
 }
 
 }  // namespace
+
+/// What moved along on the way is neither side's.
+SimUndo::Change SimUndo::Change::from(const CameraState& state, bool back) const {
+    Change rest = *this;
+    const QVariantMap strays = straysOf(*this, state);
+    for (auto stray = strays.begin(); stray != strays.end(); ++stray) {
+        (back ? rest.after : rest.before).insert(stray.key(), *stray);
+    }
+    return rest;
+}
 
 SimUndo::SimUndo(const HostContext& host) : m_host(host) {
     QObject::connect(&host.events, &HostEvents::camerasReplaced, &host.events, [this] {
@@ -169,7 +185,7 @@ SimUndo::Choice SimUndo::choose(const QList<Change>& changes, bool back) const {
     QList<const CameraPlan*> open;
     for (const CameraPlan& camera : plan.cameras) {
         if (const Change* change = find(changes, camera.camera)) {
-            const Left why = whyLeft(camera, back ? change->after : change->before);
+            const Left why = whyLeft(camera, *change);
             if (why.line.isEmpty()) {
                 open << &camera;
                 continue;
@@ -195,23 +211,23 @@ SimUndo::Choice SimUndo::choose(const QList<Change>& changes, bool back) const {
     return choice;
 }
 
-SimUndo::Left SimUndo::whyLeft(const CameraPlan& camera, const QVariantMap& expected) const {
+SimUndo::Left SimUndo::whyLeft(const CameraPlan& camera, const Change& change) const {
     const CameraState& state = camera.camera.state;
     if (camera.left != CameraPlan::Taken) {
         const bool passes = camera.left == CameraPlan::Locked || camera.left == CameraPlan::Armed ||
                             camera.left == CameraPlan::Recording;
         return {LoadTexts(m_host.translator).left(camera), passes};
     }
-    if (state.lowLight && !expected.contains(LowLight)) {
+    if (state.lowLight && !change.before.contains(LowLight)) {
         return {line(camera.camera.label, TextKey("it is in low light mode, and stays as it is")), true};
     }
-    if (state.toPlain(expected.keys()) != expected) {
+    if (!straysOf(change, state).isEmpty()) {
         return {line(camera.camera.label, TextKey("it was changed since, and stays as it is")), false};
     }
     return {};
 }
 
-/// One that did not take it and stands as it stood waits for the next time.
+/// One that did not take it waits for the next time, as far as it has come.
 QList<SimUndo::Change> SimUndo::carryOut(Choice& choice, const QList<Change>& changes, bool back) const {
     const SettingsBatch batch(m_host);
     const LoadTexts texts(m_host.translator);
@@ -232,11 +248,10 @@ QList<SimUndo::Change> SimUndo::carryOut(Choice& choice, const QList<Change>& ch
         const QStringList surprises = batch.surprisesOf(row);
         choice.lines += surprises;
         const Change& change = *find(changes, row.plan->camera);
-        const QVariantMap& before = back ? change.after : change.before;
         if (surprises.isEmpty()) {
             done << change;
-        } else if (row.camera && !row.camera->isGone() && row.camera->state().toPlain(before.keys()) == before) {
-            choice.waiting << change;
+        } else if (row.camera && !row.camera->isGone()) {
+            choice.waiting << change.from(row.camera->state(), back);
         }
     }
     return done;

@@ -13,6 +13,7 @@
 
 class Camera;
 struct CameraPlan;
+struct CameraState;
 struct HostContext;
 
 /// The undo stack. What the settings that cameras record with become between `beginMacro` and `endMacro` is one step,
@@ -44,6 +45,9 @@ private:
         int head;
         QVariantMap before;
         QVariantMap after;
+
+        /// What is left of it for a camera that has taken some of it.
+        Change from(const CameraState& state, bool back) const;
     };
     struct Step {
         /// The same for the parts of one that was taken back bit by bit.
@@ -72,7 +76,7 @@ private:
     QString textOf(const QList<Step>& steps) const;
     QString move(QList<Step>& from, QList<Step>& to, bool back);
     Choice choose(const QList<Change>& changes, bool back) const;
-    Left whyLeft(const CameraPlan& camera, const QVariantMap& expected) const;
+    Left whyLeft(const CameraPlan& camera, const Change& change) const;
     /// Answers the changes that have come about, and adds a line for each that has not.
     QList<Change> carryOut(Choice& choice, const QList<Change>& changes, bool back) const;
     void tell(const QString& text, int count, const QStringList& lines, bool back) const;
