@@ -57,6 +57,17 @@ Section tickSection() {
          {"a tenth changed, 1,024 over 64 cameras", table(Many, "tickTenth"), table(Few, "tickTenth")}}};
 }
 
+Section truthSection() {
+    const Quantity call = table(Many, "call");
+    return {
+        "What the table tells of 1,024 cameras beside their rows, over C: the marks of the batch row, where rows have\n"
+        "other values; what all of them offer of a list, when it is opened; the line with how all of them stand and\n"
+        "what a change of all has come to.",
+        {{"marks, over C", table(Many, "marks"), call, 0.03, 0.1},
+         {"union of a list, over C", table(Many, "offers"), call, 0.06, 0.1},
+         {"the line's call, over C", table(Many, "status"), call, 0.05, 0.1}}};
+}
+
 Section textSection() {
     return {"The text of 1,024 cameras in C++, without the host's answers, over QJsonDocument writing the same text.",
             {{"the text", {"text", Many, "build"}, {"text", Many, "write"}, 1.2, 1.6},
@@ -121,6 +132,6 @@ Section memorySection() {
 }  // namespace
 
 QVector<Section> reportSections() {
-    return {requestSection(), refreshSection(), tickSection(), textSection(),  startSection(),
-            commandSection(), effectSection(),  saveSection(), memorySection()};
+    return {requestSection(), refreshSection(), tickSection(),   truthSection(), textSection(),
+            startSection(),   commandSection(), effectSection(), saveSection(),  memorySection()};
 }

@@ -62,6 +62,19 @@
         return time;
     }
 
+    function marks() {
+        const view = viewAt(TAB);
+        view.markedRecords = null;
+        markDifferences(view);
+    }
+
+    function offers() {
+        const view = viewAt(TAB);
+        offersOf(view, view.batch.cells.find(cell => cell.kind.list));
+    }
+
+    wrentabledialog.lockAll(false); // the line has a result of all of them
+
     // Each answers times by their names.
     const measures = [
         () => ({ call: timed(call) }),
@@ -70,6 +83,7 @@
             return { parse: timed(() => JSON.parse(text)) };
         },
         () => ({ markup: staticRows() }),
+        () => ({ marks: timed(marks), offers: timed(offers), status: timed(() => wrentabledialog.getTableStatus()) }),
         run => {
             bench.changeAll(run);
             return refresh('sameRows');

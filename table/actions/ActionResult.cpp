@@ -2,6 +2,8 @@
 
 #include <QDebug>
 #include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
 
 #include <algorithm>
 
@@ -13,11 +15,7 @@ bool isSet(const ActionResult::Row& row) {
 
 }  // namespace
 
-bool ActionResult::isOk() const {
-    return std::all_of(rows.begin(), rows.end(), isSet);
-}
-
-QJsonObject ActionResult::toJson() const {
+ActionResult::ActionResult(const QString& action, const QVector<Row>& rows) : m_action(action), m_rows(rows) {
     QJsonArray array;
     for (const Row& row : rows) {
         array.append(QJsonObject{{QStringLiteral("key"), QString::number(row.key)},
@@ -27,13 +25,17 @@ QJsonObject ActionResult::toJson() const {
                                  {QStringLiteral("verdict"), row.verdict},
                                  {QStringLiteral("reason"), row.reason}});
     }
-    return {{QStringLiteral("action"), action}, {QStringLiteral("ok"), isOk()}, {QStringLiteral("rows"), array}};
+    const QJsonObject result{{QStringLiteral("action"), action},
+                             {QStringLiteral("ok"), std::all_of(rows.begin(), rows.end(), isSet)},
+                             {QStringLiteral("rows"), array}};
+    m_json = QJsonDocument(result).toJson(QJsonDocument::Compact);
 }
 
 void ActionResult::log() const {
-    for (const Row& row : rows) {
+    for (const Row& row : m_rows) {
         if (!isSet(row)) {
-            qWarning() << action << row.name << row.verdict << "asked:" << row.asked << "has:" << row.got << row.reason;
+            qWarning() << m_action << row.name << row.verdict << "asked:" << row.asked << "has:" << row.got
+                       << row.reason;
         }
     }
 }

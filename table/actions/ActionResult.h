@@ -2,12 +2,13 @@
 
 #include "ZebTypes.h"
 
-#include <QJsonObject>
+#include <QByteArray>
 #include <QString>
 #include <QVector>
 
 /// What a change of many cameras has come to, as the page shows it.
-struct ActionResult {
+class ActionResult {
+public:
     struct Row {
         DOCKEY key = zeb::NoDocKey;
         QString name;
@@ -20,13 +21,18 @@ struct ActionResult {
         QString reason;
     };
 
-    /// As "frameRate", see `CameraAction`.
-    QString action;
-    QVector<Row> rows;
+    /// `action` as "frameRate", see `CameraAction`.
+    ActionResult(const QString& action, const QVector<Row>& rows);
 
-    /// All of it has come about.
-    bool isOk() const;
-    QJsonObject toJson() const;
+    const QString& action() const { return m_action; }
+    /// `action`, `ok` when all of it has come about, and `rows` by the names of their members; written once, for the
+    /// page asks for it at each tick.
+    const QByteArray& json() const { return m_json; }
     /// A line of the log for each row that is not as asked.
     void log() const;
+
+private:
+    QString m_action;
+    QVector<Row> m_rows;
+    QByteArray m_json;
 };

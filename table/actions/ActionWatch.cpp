@@ -97,11 +97,11 @@ std::optional<ActionResult> ActionWatch::finish(const QString& failure, bool sen
         return std::nullopt;
     }
     const QStringList lines = failure.split(QLatin1Char('\n'), Qt::SkipEmptyParts);
-    ActionResult result{QLatin1String(m_action.name), {}};
+    QVector<ActionResult::Row> rows;
     for (const Before& before : m_before) {
-        result.rows.append(rowOf(before, lines));
+        rows.append(rowOf(before, lines));
     }
-    return result;
+    return ActionResult(QLatin1String(m_action.name), rows);
 }
 
 /// Its own line, else what was said of nobody in particular.

@@ -11,6 +11,7 @@
 #include "ZebHost.h"
 
 #include <QJsonDocument>
+#include <QJsonObject>
 
 QString TableStatus::toJson(CycleFailures& failures) const {
     int found = 0;
@@ -35,15 +36,13 @@ QString TableStatus::toJson(CycleFailures& failures) const {
     }
     qint64 recording = -1;
     failures.attempt(QStringLiteral("time of the recording"), [&] { recording = recordMs(); });
-    const QJsonObject status{
-        {QStringLiteral("found"), found},
-        {QStringLiteral("connected"), connected},
-        {QStringLiteral("locked"), locked},
-        {QStringLiteral("armed"), armed},
-        {QStringLiteral("recordMs"), recording},
-        {QStringLiteral("search"), m_state.lastSearch},
-        {QStringLiteral("result"), m_state.result ? QJsonValue(m_state.result->toJson()) : QJsonValue()}};
-    return QString::fromUtf8(QJsonDocument(status).toJson(QJsonDocument::Compact));
+    const QJsonObject status{{QStringLiteral("found"), found},        {QStringLiteral("connected"), connected},
+                             {QStringLiteral("locked"), locked},      {QStringLiteral("armed"), armed},
+                             {QStringLiteral("recordMs"), recording}, {QStringLiteral("search"), m_state.lastSearch}};
+    QByteArray json = QJsonDocument(status).toJson(QJsonDocument::Compact);
+    json.chop(1);
+    json += ",\"result\":" + (m_state.result ? m_state.result->json() : QByteArrayLiteral("null")) + '}';
+    return QString::fromUtf8(json);
 }
 
 /// From the first time that the table sees it.

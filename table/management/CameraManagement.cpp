@@ -52,17 +52,17 @@ void CameraManagement::search(const QString& where, Search&& run) {
 
 /// Each that was found is a line of the result.
 void CameraManagement::noteSearch(const QString& where, const DocKeyList& added, int listed) {
-    ActionResult result{QStringLiteral("search"), {}};
+    QVector<ActionResult::Row> rows;
     for (DOC_Interface* doc : docsOf(m_host.docManager(), added)) {
         ActionResult::Row row{doc->getKey(), {}, {}, {}, QStringLiteral("set"), {}};
         logFailure([&] { row.name = doc->control().getCameraName(1); });
         logFailure([&] { row.got = doc->control().getAddress(1); });
-        result.rows.append(row);
+        rows.append(row);
     }
     m_state.lastSearch = m_host.translate(TextKey("%1: new %2, in the list %3"))
                              .arg(where, QString::number(added.size()), QString::number(listed));
-    if (!result.rows.isEmpty()) {
-        m_state.result = result;
+    if (!rows.isEmpty()) {
+        m_state.result = ActionResult(QStringLiteral("search"), rows);
     }
 }
 

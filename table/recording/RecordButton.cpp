@@ -111,20 +111,20 @@ bool RecordButton::areCamerasLocked() {
         return true;
     }
     GatheredFailures unread;
-    ActionResult inTheWay{QStringLiteral("record"), {}};
+    QVector<ActionResult::Row> inTheWay;
     GatheredFailures unknown;  // named among the problems
     for (DOC_Interface* doc : connected(unknown)) {
         bool locked = false;
         attemptOn(*doc, unread, [&] { locked = doc->lock().isParamLocked(); });
         if (!locked) {
-            inTheWay.rows.append(rowInTheWay(m_host, *doc));
+            inTheWay.append(rowInTheWay(m_host, *doc));
         }
     }
-    if (inTheWay.rows.isEmpty()) {
+    if (inTheWay.isEmpty()) {
         return true;
     }
-    inTheWay.log();
-    m_state.result = inTheWay;
+    m_state.result = ActionResult(QStringLiteral("record"), inTheWay);
+    m_state.result->log();
     unread.log();
     const QStringList lines{m_host.translate(TextKey("Lock all connected cameras."))};
     m_host.alert((lines + unread.lines()).join(QLatin1Char('\n')), m_parent);
@@ -212,7 +212,7 @@ void RecordButton::arm() {
     m_host.setPrefBool(RecAllConnectedPref, true);
     m_state.recordRunning = true;
     m_host.recorder().startRecReady();
-    if (m_state.result && m_state.result->action == QLatin1String("record")) {
+    if (m_state.result && m_state.result->action() == QLatin1String("record")) {
         m_state.result.reset();  // nobody is in the way any more
     }
 }

@@ -3,21 +3,24 @@
 // A drop-down: a caption until it is opened, see `dropDown`.
 //   word       the last word of the select's class and id
 //   needs      as of every kind
-//   choices    the list of a record, objects with `value` and `name`
+//   list       the member with the list of a record
+//   choiceOf   from its items to choices, objects with `value` and `name`, where they are none
 //   value      the present value of a record
 //   locked     as of every kind
 //   send       the bridge call that takes the keys and the chosen value
 function dropDownColumn(options) {
     const name = `wren_livecontrol_${options.word}`;
+    const choices = record => options.choiceOf ? record[options.list].map(options.choiceOf) : record[options.list];
     return {
         caption: () => translate(options.caption),
         size: '150px',
         align: 'left',
-        choices: options.choices,
+        list: options.list,
+        choices,
         value: options.value,
         compared: record => options.value(record) || '',
         comparedText(record) {
-            const choice = options.choices(record).find(item => item.value === options.value(record));
+            const choice = choices(record).find(item => item.value === options.value(record));
             return choice ? choice.name : options.value(record);
         },
         locked: options.locked,
@@ -31,7 +34,7 @@ function dropDownColumn(options) {
             <p class="CaptionCont SelectBox ${name}" dockey><span part="text" dockey></span></p>
             </div>`,
         rebuild(cell, record) {
-            cell.choices = options.choices(record);
+            cell.choices = choices(record);
             showChoice(cell, options.value(record), true);
         },
         tick(cell, record, status) {
@@ -81,7 +84,7 @@ COLUMNS.frameRate = dropDownColumn({
     caption: textKey('Frame rate'),
     word: 'framerate',
     needs: ['lock', 'frameRates', 'frameRate'],
-    choices: record => record.frameRates,
+    list: 'frameRates',
     value: record => record.frameRate,
     locked: isLockedOrLowLight,
     send: (keys, value) => wrentabledialog.setFrameRate(keys, value)
@@ -91,7 +94,7 @@ COLUMNS.shutterSpeed = dropDownColumn({
     caption: textKey('Shutter speed'),
     word: 'shutterSpeed',
     needs: ['lock', 'shutterSpeeds', 'shutterSpeed'],
-    choices: record => record.shutterSpeeds,
+    list: 'shutterSpeeds',
     value: record => record.shutterSpeed,
     locked: isLocked,
     send: (keys, value) => wrentabledialog.setShutterSpeed(keys, value)
@@ -101,7 +104,8 @@ COLUMNS.resolution = dropDownColumn({
     caption: textKey('Resolution'),
     word: 'resolution',
     needs: ['lock', 'resolutions', 'resolution'],
-    choices: record => record.resolutions.map(text => ({ value: text, name: text })),
+    list: 'resolutions',
+    choiceOf: text => ({ value: text, name: text }),
     value: record => record.resolution,
     locked: isLockedOrLowLight,
     send: (keys, value) => wrentabledialog.setResolution(keys, value)
@@ -111,7 +115,7 @@ COLUMNS.trigger = dropDownColumn({
     caption: textKey('Trigger mode'),
     word: 'trigger',
     needs: ['lock', 'triggerModes', 'triggerMode'],
-    choices: record => record.triggerModes,
+    list: 'triggerModes',
     value: record => record.triggerMode,
     locked: isLockedOrLowLight,
     send: (keys, value) => wrentabledialog.setTriggerMode(keys, value)

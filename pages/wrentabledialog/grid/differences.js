@@ -90,17 +90,29 @@ function namesText(names) {
 }
 
 // What the connected rows offer of a list: how many of them offer a value, and the choices that the batch row's own
-// camera has not.
+// camera has not. Many of them have one list, which is looked through once.
 function offersOf(view, cell) {
-    const rows = view.newestRecords.filter(record => record.connected && cell.reads(record));
+    const { kind } = cell;
+    const lists = new Map();
+    let rows = 0;
+    let last = null;
+    view.newestRecords.filter(record => record.connected && cell.reads(record)).forEach(record => {
+        const list = record[kind.list];
+        if (last === null || last.list !== list) {
+            last = lists.get(list) || { list, count: 0, choices: kind.choices(record) };
+            lists.set(list, last);
+        }
+        last.count++;
+        rows++;
+    });
     const counts = new Map();
     const others = new Map();
     const own = new Set(cell.choices.map(choice => choice.value));
-    rows.forEach(record => cell.kind.choices(record).forEach(choice => {
-        counts.set(choice.value, (counts.get(choice.value) || 0) + 1);
+    lists.forEach(({ count, choices }) => choices.forEach(choice => {
+        counts.set(choice.value, (counts.get(choice.value) || 0) + count);
         if (!own.has(choice.value)) {
             others.set(choice.value, choice);
         }
     }));
-    return { counts, others: Array.from(others.values()), rows: rows.length };
+    return { counts, others: Array.from(others.values()), rows };
 }
