@@ -86,13 +86,13 @@ QString SyncVerdict::check() const {
 
 QString SyncVerdict::follows() const {
     if (!syncprefs::isInUse(m_host)) {
-        return m_host.translate(TextKey("Synchronization is not in use."));
+        return m_host.translate(TextKey("Synchronisation is not in use."));
     }
     if (syncprefs::isExternal(m_host)) {
         return sourceText();
     }
     if (m_state.masterCamera == zeb::NoDocKey) {
-        return m_host.translate(TextKey("The cameras have not been synchronized yet."));
+        return m_host.translate(TextKey("The cameras have not been synchronised yet."));
     }
     if (m_state.masterCamera == m_doc.getKey()) {
         return m_host.translate(TextKey("It is the master camera."));

@@ -29,7 +29,9 @@ TEST(PageStatus, TellsOfAllCamerasWhateverIsListed) {
     EXPECT_FALSE(page.run("$('#wren_results').is(':visible')").toBool()) << "it is no box";
 
     page.click("#wren_status_result");
-    EXPECT_EQ(page.list("$('#wren_results tr').get().map(row => row.textContent)").size(), 4);
+    EXPECT_EQ(page.list("$('#wren_results a[rowkey]').get().map(link => link.getAttribute('rowkey'))"),
+              QStringList({"4", "2", "1", "3"}))
+        << "what did not come about first";
     EXPECT_TRUE(page.text("$('#wren_results').text()").contains(Hostile));
     page.click("#wren_results [verdict='refused']");
     EXPECT_EQ(page.list("$('#wren_results tr td').get().map(cell => cell.textContent)"),
@@ -106,7 +108,7 @@ TEST(PageStatus, AsksForTheSyncOfACameraWhenItsBadgeIsPointedAtAndAtNoTick) {
     const auto point = [&] { page.run("$('#wren_livecontrol_sync_2').trigger('mouseover'); return 0"); };
     EXPECT_EQ(page.made("^getSyncVerdict", point), QStringList("getSyncVerdict 2"));
     const char* tip = "$('.ui-tooltip-content').text()";
-    const QString verdict = "No Sync\nSynchronization is not in use.\nRecord rate: 1000 fps";
+    const QString verdict = "No Sync\nSynchronisation is not in use.\nRecord rate: 1000 fps";
     EXPECT_EQ(page.text(tip), verdict);
     EXPECT_EQ(page.made("^getSyncVerdict", [&] { page.tick(); }), QStringList());
     EXPECT_EQ(page.text(tip), verdict);

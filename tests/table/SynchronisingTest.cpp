@@ -136,7 +136,7 @@ TEST_F(SynchronisingTest, AVerdictTellsWhatKeepsACameraFromTheSignalAndByHowMuch
                            texts["recorded"].toString()};
     };
     EXPECT_EQ(verdict(1),
-              QStringList({"", "The cameras have not been synchronized yet.", "Record rate: 1000 fps", ""}));
+              QStringList({"", "The cameras have not been synchronised yet.", "Record rate: 1000 fps", ""}));
     host.setPrefBool("alert/setsynchronization", false);
     ASSERT_TRUE(bridge->setSyncSettings());
     change(2, {{"rate", 1500}, {"name", "<%2>"}});

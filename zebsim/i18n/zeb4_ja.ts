@@ -3412,14 +3412,6 @@
         <translation>遅延あり: %1 台、なし: %2 台</translation>
     </message>
     <message>
-        <source>Synchronization is not in use.</source>
-        <translation>同期は使用していません。</translation>
-    </message>
-    <message>
-        <source>The cameras have not been synchronized yet.</source>
-        <translation>カメラはまだ同期されていません。</translation>
-    </message>
-    <message>
         <source>It is the master camera.</source>
         <translation>このカメラがマスターです。</translation>
     </message>
@@ -3474,6 +3466,22 @@
     <message>
         <source>Can be changed on: %1</source>
         <translation>変更できるカメラ: %1</translation>
+    </message>
+    <message>
+        <source>Synchronisation is not in use.</source>
+        <translation>同期は使用していません。</translation>
+    </message>
+    <message>
+        <source>The cameras have not been synchronised yet.</source>
+        <translation>カメラはまだ同期されていません。</translation>
+    </message>
+    <message>
+        <source>asked for</source>
+        <translation>指定値</translation>
+    </message>
+    <message>
+        <source>has now</source>
+        <translation>現在値</translation>
     </message>
 </context>
 </TS>

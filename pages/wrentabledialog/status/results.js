@@ -44,9 +44,12 @@ const resultList = {
         this.drawRows();
     },
 
+    // What did not come about stands first.
     drawRows() {
-        const rows = this.result.rows.filter(row => this.verdict === '' || row.verdict === this.verdict);
-        this.box().querySelector('table').innerHTML = rows.map(resultRowMarkup).join('');
+        const verdicts = this.verdict === '' ? Object.keys(VERDICTS) : [this.verdict];
+        const rows = verdicts.map(verdict => this.result.rows.filter(row => row.verdict === verdict));
+        this.box().querySelector('table').innerHTML =
+            resultHeadMarkup() + [].concat(...rows).map(resultRowMarkup).join('');
     },
 
     // Of the cameras of the last result that did not become what was asked.
@@ -100,6 +103,11 @@ function pointAt(view, key) {
     }
     view.draw(false);
     return line >= 0;
+}
+
+function resultHeadMarkup() {
+    const heads = ['', '', translate('asked for'), translate('has now'), ''].map(escapeMarkup);
+    return `<tr><th>${heads.join('</th><th>')}</th></tr>`;
 }
 
 function resultRowMarkup(row) {
