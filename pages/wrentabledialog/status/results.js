@@ -106,14 +106,15 @@ function pointAt(view, key) {
 }
 
 function resultHeadMarkup() {
-    const heads = ['', '', translate('asked for'), translate('has now'), ''].map(escapeMarkup);
+    const heads = ['', '', translate('asked for'), translate('has now')].map(escapeMarkup);
     return `<tr><th>${heads.join('</th><th>')}</th></tr>`;
 }
 
 function resultRowMarkup(row) {
     const cells = [`<a rowkey="${escapeMarkup(row.key)}">${escapeMarkup(row.name || row.key)}</a>`]
-        .concat([verdictText(row.verdict), row.asked, row.got, row.reason].map(escapeMarkup));
-    return `<tr verdict-of="${escapeMarkup(row.verdict)}"><td>${cells.join('</td><td>')}</td></tr>`;
+        .concat([verdictText(row.verdict), row.asked, row.got].map(escapeMarkup));
+    const reason = row.reason ? `<tr class="reason"><td colspan="4">${escapeMarkup(row.reason)}</td></tr>` : '';
+    return `<tr verdict-of="${escapeMarkup(row.verdict)}"><td>${cells.join('</td><td>')}</td></tr>${reason}`;
 }
 
 Object.assign(wrentabledialog_obj, {
