@@ -58,12 +58,14 @@ void ActionWatch::look(DOCKEY key) {
     }
     // One that does not tell counts as meant, and is asked again afterwards.
     bool isConnected = false;
+    bool isMeant = true;
     try {
         isConnected = doc->isConnected();
+        isMeant = !isConnected || m_action.isFor(*doc);
     } catch (...) {
         isConnected = !m_action.has(CameraAction::OfThoseOff);
     }
-    if (isConnected == m_action.has(CameraAction::OfThoseOff)) {
+    if (!isMeant || isConnected == m_action.has(CameraAction::OfThoseOff)) {
         return;
     }
     Before before;
@@ -72,8 +74,9 @@ void ActionWatch::look(DOCKEY key) {
     before.asked = textOf(m_action, m_host, *doc, m_asked);
     if (isConnected) {
         before.value = answerOf<QString>([&] { return m_action.read(*doc); });
-        before.isLocked = answerOf<bool>([&] { return doc->lock().isParamLocked(); });
-        before.isLowLight = answerOf<bool>([&] { return doc->control().isLowLightMode(); });
+        before.isLocked = m_action.heedsLock(m_host) && answerOf<bool>([&] { return doc->lock().isParamLocked(); });
+        before.isLowLight = m_action.has(CameraAction::KeptByLowLight) &&
+                            answerOf<bool>([&] { return doc->control().isLowLightMode(); });
         before.others = m_action.has(CameraAction::MovesOthers) ? othersOf(*doc) : Values();
     }
     m_before.append(before);
@@ -90,9 +93,8 @@ ActionWatch::Values ActionWatch::othersOf(DOC_Interface& doc) const {
 }
 
 std::optional<ActionResult> ActionWatch::finish(const QString& failure, bool sent) const {
-    const bool couldAsk = std::any_of(m_before.begin(), m_before.end(), [this](const Before& before) {
-        return !(m_action.has(CameraAction::KeptByLock) && before.isLocked);
-    });
+    const bool couldAsk =
+        std::any_of(m_before.begin(), m_before.end(), [this](const Before& before) { return !before.isLocked; });
     if (m_before.isEmpty() || (!sent && couldAsk)) {
         return std::nullopt;
     }
@@ -134,8 +136,7 @@ ActionResult::Row ActionWatch::rowOf(const Before& before, const QStringList& li
         const bool isAlone = std::count_if(m_before.begin(), m_before.end(),
                                            [&before](const Before& other) { return other.name == before.name; }) == 1;
         const bool isUnmoved = row.verdict == QLatin1String("set") ? isAlone : got == before.value;
-        const bool isLowLight = m_action.has(CameraAction::KeptByLowLight) && before.isLowLight;
-        row.reason = row.verdict == QLatin1String("refused") && isLowLight
+        row.reason = row.verdict == QLatin1String("refused") && before.isLowLight
                          ? m_host.translate(TextKey("it is in low light mode"))
                      : isUnmoved ? reasonFor(before, lines)
                                  : QString();
@@ -151,7 +152,7 @@ ActionResult::Row ActionWatch::rowOf(const Before& before, const QStringList& li
 /// `isTold`: the host has said something. Where it has not, a camera that stands where it stood has nothing nearer.
 QString ActionWatch::verdictOf(const Before& before, const QString& got, bool isTold) const {
     return got == m_asked                                                             ? QStringLiteral("set")
-           : m_action.has(CameraAction::KeptByLock) && before.isLocked                ? QStringLiteral("locked")
+           : before.isLocked                                                          ? QStringLiteral("locked")
            : m_action.has(CameraAction::MayClamp) && (!isTold || got != before.value) ? QStringLiteral("clamped")
                                                                                       : QStringLiteral("refused");
 }

@@ -29,6 +29,7 @@ private:
         QString name;
         QString asked;
         QString value;
+        /// Its lock, or its low light mode, keeps it from the change.
         bool isLocked = false;
         bool isLowLight = false;
         /// What else may move, as the user reads it.

@@ -29,12 +29,24 @@ struct CameraAction {
         OfThoseOff = 32,
         /// No keys stand for all that are connected; else for nobody.
         NoKeysMeanAll = 64,
-        /// In memory mode alone.
-        OfMemory = 128,
+        /// In live mode or in memory mode alone; else in both.
+        OfLive = 128,
+        OfMemory = 256,
+        /// The lock counts in live mode only.
+        LockOfLive = 512,
+        /// Of cameras that hold a recording, or that are selected.
+        OfRecorded = 1024,
+        OfSelected = 2048,
     };
     int traits = 0;
 
     bool has(Trait trait) const { return (traits & trait) != 0; }
+    /// Whether `asked`, as the slot gets it, can be asked for as things are.
+    bool applies(const ZebHost& host, const QString& asked) const;
+    /// Whether it is meant for a connected camera. Throws what the camera throws.
+    bool isFor(DOC_Interface& doc) const;
+    /// Whether the lock of a camera keeps it from it.
+    bool heedsLock(const ZebHost& host) const;
 };
 
 /// `value` as the user reads it; as it is where the camera does not tell.
@@ -55,6 +67,8 @@ extern const CameraAction LowLightType;
 extern const CameraAction Lock;
 extern const CameraAction Connect;
 extern const CameraAction Disconnect;
+/// Of the host's own wish, which heeds no lock.
+extern const CameraAction ForcedDisconnect;
 extern const CameraAction Name;
 extern const CameraAction Comment;
 extern const CameraAction RecordCheck;

@@ -27,7 +27,7 @@ void JS_Mediator_WrenTableDialog::edit(const char* method, const QVariantList& k
             if constexpr (std::is_same_v<Topic, ParameterEditing> || std::is_same_v<Topic, TriggerEditing>) {
                 return changed.isSent();
             } else {
-                return action.has(CameraAction::OfMemory) ? host().isMemoryMode() : !host().isFileMode();
+                return true;
             }
         });
     });

@@ -46,9 +46,12 @@ void JS_Mediator_WrenTableDialog::connect(const QVariantList& keys, bool connect
     }
     call(*this, Change, __func__, {{"keys", keyText(keys)}, {"connect", connect}, {"force", force}}, [&] {
         const DocKeyList docKeys = toDocKeys(keys);
-        watch(connect ? cameraaction::Connect : cameraaction::Disconnect, docKeys, cameraaction::flag(connect), [&] {
+        const CameraAction& action = connect ? cameraaction::Connect
+                                     : force ? cameraaction::ForcedDisconnect
+                                             : cameraaction::Disconnect;
+        watch(action, docKeys, cameraaction::flag(connect), [&] {
             topic<CameraManagement>().connect(docKeys, connect, force);
-            return force || host().isLiveMode();
+            return true;
         });
     });
 }

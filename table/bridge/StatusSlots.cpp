@@ -23,6 +23,10 @@ void JS_Mediator_WrenTableDialog::lockAll(bool lock) {
 
 void JS_Mediator_WrenTableDialog::watch(const CameraAction& action, const DocKeyList& keys, const QString& asked,
                                         const std::function<bool()>& change) {
+    if (!action.applies(host(), asked)) {
+        change();
+        return;
+    }
     const ActionWatch watch(host(), action, keys, asked);
     try {
         const bool sent = change();

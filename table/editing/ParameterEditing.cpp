@@ -104,7 +104,12 @@ void ParameterEditing::setOn(const DocList& docs, const Change& change, Gathered
     if (m_isSent) {
         const DocKeyList keys = keysOf(docs);
         const UndoStep step(m_host, change.action, *docs.first(), change.value);
-        failures.attempt([&] { set(docsOf(m_host.docManager(), keys)); });
+        failures.attempt([&] {
+            const DocList still = docsOf(m_host.docManager(), keys);
+            if (!still.isEmpty()) {
+                set(still);
+            }
+        });
     }
     failures.rethrow();
 }

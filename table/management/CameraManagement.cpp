@@ -44,7 +44,7 @@ void CameraManagement::search(const QString& where, Search&& run) {
     run();
     const DocKeyList listed = documents.getLiveDocKeys(0, 0);
     const DocKeyList added = keysBeside(before, listed);
-    noteSearch(where, added, listed.size());
+    logFailure([&] { noteSearch(where, added, listed.size()); });
     GatheredFailures failures;
     join(added, failures);
     failures.rethrow();

@@ -146,10 +146,18 @@ TEST_F(TableActions, OnWhatIsRecordedTellWhatTheFramesAllow) {
         change(key, {{"recorded", true}, {"recordedRange", QVariantList{0, 99}}, {"recordedTrigger", 50}});
     }
     host.appStatus().enterMode(zeb::MemoryMode);
-    bridge->setSelectStartFrameNo({1, 5}, -500);
-    EXPECT_EQ(lines(), QStringList({"1 clamped: -500, -50, ", "5 clamped: -500, -50, "}));
+    change(2, {{"recorded", false}});
+    bridge->setSelectStartFrameNo({1, 2, 5}, -500);
+    EXPECT_EQ(lines(), QStringList({"1 clamped: -500, -50, ", "5 clamped: -500, -50, "})) << "2 has no frames";
     bridge->setTriggerOffset({1}, 10);
     EXPECT_EQ(lines(), QStringList("1 set: 10, 10, "));
+    change(1, {{"locked", true}});
+    bridge->setFrameRate({1}, "250");
+    bridge->connect({1}, false);
+    EXPECT_EQ(lines(), QStringList("1 set: 10, 10, ")) << "it is nothing of this mode";
+    host.faults().plant(1, "setCameraName", {"no answer"});
+    bridge->setCameraName({1}, "Gate 1");
+    EXPECT_EQ(lines(), QStringList("1 refused: Gate 1, Gate, no answer")) << "here the lock keeps no name";
 }
 
 }  // namespace
