@@ -149,6 +149,14 @@ TEST(PageStatus, ListsWhatNeedsALookUntilTheViewIsLeft) {
     EXPECT_EQ(page.list(Keys), QStringList({"2", "3", "4", "5"})) << "a lock has kept 2 from low light";
     EXPECT_EQ(page.text("attention.batchKey()"), "4") << "one that stands";
     EXPECT_EQ(page.text("$('#grid_wren-livecontrol-list_summary p.wren_livecontrol_framerate').text()"), "500 fps");
+    for (DOCKEY key : {2, 3, 4, 6}) {
+        test.camera(key).change({{"locked", true}, {"alerts", QStringList()}, {"syncStatus", "Sync In"}});
+    }
+    page.click("#wren_lock_all");  // its result takes the place of the last one
+    page.click("#wren_attention");
+    page.click("#wren_attention");
+    EXPECT_EQ(page.list(Keys), QStringList("5"));
+    EXPECT_TRUE(page.run("return viewAt(1).newestBatch.connected === false").toBool()) << "it can be connected";
     page.click("#wren_attention");
     EXPECT_EQ(page.list(Keys), QStringList({"1", "2", "3", "4", "5", "6"}));
     EXPECT_TRUE(page.text("probe.batch().textContent").contains("All camera"));

@@ -3344,10 +3344,6 @@
         <translation>待機 %1/%2</translation>
     </message>
     <message>
-        <source>recording %1 s</source>
-        <translation>記録中 %1 秒</translation>
-    </message>
-    <message>
         <source>Lock all</source>
         <translation>全てロック</translation>
     </message>
@@ -3482,6 +3478,10 @@
     <message>
         <source>has now</source>
         <translation>現在値</translation>
+    </message>
+    <message>
+        <source>recording %1 s, armed %2 of %3</source>
+        <translation>撮影中 %1 秒、撮影待機・撮影中 %2/%3</translation>
     </message>
 </context>
 </TS>

@@ -96,8 +96,8 @@ Object.assign(wrentabledialog_obj, {
     },
 
     loadCurrentCamera() {
-        const view = viewAt(this.activeTab());
-        const current = view.grid.records.find(record => (view.newest.get(record.key) || record).current);
+        const { newest } = viewAt(this.activeTab()); // all of the list, whether they stand or not
+        const current = Array.from(newest.values()).find(record => record.current);
         if (current) {
             this.selectDevice(current.key);
         }

@@ -50,13 +50,15 @@ const attention = {
             return batch;
         }
         const present = String(wrentabledialog.getBatchDocKey());
-        const last = records.filter(record => record.connected).pop();
+        const last = records.filter(record => record.connected).pop() || records[records.length - 1];
         const other = last && !this.keys.has(present) ? last : null;
         const own = wrentabledialog.isLiveMode() ? BATCH_MEMBERS : BATCH_MEMBERS.concat('frameRate');
         const record = Object.assign({}, other || batch[0]);
         own.filter(() => other).forEach(name => { record[name] = batch[0][name]; });
         this.shown = other && other.key;
         record.cameraName = withValues(textKey('These %1 cameras'), records.length);
+        record.recordCount = records.length;
+        record.connected = record.connected && records.length > 0;
         return [record];
     },
 

@@ -66,11 +66,11 @@ const statusLine = {
 
     countsText({ found, connected, locked, armed, recordMs }) {
         const texts = [withValues(textKey('found %1, connected %2, locked %3'), found, connected, locked)];
-        if (armed > 0) {
-            texts.push(withValues(textKey('ready %1 of %2'), armed, connected));
-        }
         if (recordMs >= 0) {
-            texts.push(withValues(textKey('recording %1 s'), Math.floor(recordMs / 1000)));
+            texts.push(withValues(textKey('recording %1 s, armed %2 of %3'), Math.floor(recordMs / 1000), armed,
+                connected));
+        } else if (armed > 0) {
+            texts.push(withValues(textKey('ready %1 of %2'), armed, connected));
         }
         return texts.join(', ');
     },

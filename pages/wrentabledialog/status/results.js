@@ -118,19 +118,23 @@ function resultRowMarkup(row) {
 }
 
 Object.assign(wrentabledialog_obj, {
-    // The group of all cameras, no filter, no view of its own.
+    // The group of all cameras, no filter, no view of its own; what can't be chosen now stays.
     listAllCameras() {
         const filter = document.getElementById('recordFilter');
         attention.on = false;
-        if (filter.value !== '0') {
-            filter.value = '0';
-            filter.sumo.reload();
+        const isFiltered = filter.value !== '0' && !filter.disabled;
+        if (isFiltered) {
+            zeb4func.selectItemSumoSelect('#recordFilter', 0);
         }
         const button = document.querySelector('.groupButton[groupkey=""]');
-        if (button) {
+        if (button && !button.disabled) {
             this.chooseGroup(button);
         } else {
+            this.preventSelect = false;
             this.update();
+        }
+        if (isFiltered) {
+            this.selectAll(); // as after a choice by hand
         }
     }
 });
