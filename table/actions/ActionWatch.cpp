@@ -106,19 +106,30 @@ std::optional<ActionResult> ActionWatch::finish(const QString& failure, bool sen
     return ActionResult(QLatin1String(m_action.name), rows);
 }
 
-/// Its own line, else what was said of nobody in particular.
-QString ActionWatch::reasonFor(const Before& before, const QStringList& lines) const {
-    QStringList ofAll;
-    for (const QString& line : lines) {
-        if (isOf(line, before.name)) {
-            return withoutName(line, before.name);
-        }
-        if (std::none_of(m_before.begin(), m_before.end(),
-                         [&line](const Before& other) { return isOf(line, other.name); })) {
-            ofAll << line;
+/// The name with which the line begins, the longest where one begins with another; empty for a line of nobody.
+QString ActionWatch::ownerOf(const QString& line) const {
+    QString owner;
+    for (const Before& before : m_before) {
+        if (before.name.size() > owner.size() && isOf(line, before.name)) {
+            owner = before.name;
         }
     }
-    return ofAll.join(QLatin1Char(' '));
+    return owner;
+}
+
+/// Its own lines, which those of one name share, else what was said of nobody in particular.
+QString ActionWatch::reasonFor(const Before& before, const QStringList& lines) const {
+    QStringList own;
+    QStringList ofAll;
+    for (const QString& line : lines) {
+        const QString owner = ownerOf(line);
+        if (owner.isEmpty()) {
+            ofAll << line;
+        } else if (owner == before.name) {
+            own << withoutName(line, owner);
+        }
+    }
+    return (own.isEmpty() ? ofAll : own).join(QLatin1Char(' '));
 }
 
 ActionResult::Row ActionWatch::rowOf(const Before& before, const QStringList& lines) const {
@@ -131,14 +142,15 @@ ActionResult::Row ActionWatch::rowOf(const Before& before, const QStringList& li
         }
         const QString got = m_action.read(*doc);
         row.got = m_action.text(m_host, *doc, got);
-        row.verdict = verdictOf(before, got, !lines.isEmpty());
+        const QString told = reasonFor(before, lines);
+        row.verdict = verdictOf(before, got, !told.isEmpty());
         // Two may have one name, and only one of them the reason.
         const bool isAlone = std::count_if(m_before.begin(), m_before.end(),
                                            [&before](const Before& other) { return other.name == before.name; }) == 1;
         const bool isUnmoved = row.verdict == QLatin1String("set") ? isAlone : got == before.value;
         row.reason = row.verdict == QLatin1String("refused") && before.isLowLight
                          ? m_host.translate(TextKey("it is in low light mode"))
-                     : isUnmoved ? reasonFor(before, lines)
+                     : isUnmoved ? told
                                  : QString();
         const QString moved = movedText(before, *doc);
         row.reason += row.reason.isEmpty() || moved.isEmpty() ? moved : QString(QLatin1String("; ") % moved);
@@ -149,7 +161,8 @@ ActionResult::Row ActionWatch::rowOf(const Before& before, const QStringList& li
     return row;
 }
 
-/// `isTold`: the host has said something. Where it has not, a camera that stands where it stood has nothing nearer.
+/// `isTold`: the host has said something about it. Where it has not, a camera that stands where it stood has nothing
+/// nearer.
 QString ActionWatch::verdictOf(const Before& before, const QString& got, bool isTold) const {
     return got == m_asked                                                             ? QStringLiteral("set")
            : before.isLocked                                                          ? QStringLiteral("locked")

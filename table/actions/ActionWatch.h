@@ -38,6 +38,7 @@ private:
 
     void look(DOCKEY key);
     Values othersOf(DOC_Interface& doc) const;
+    QString ownerOf(const QString& line) const;
     QString reasonFor(const Before& before, const QStringList& lines) const;
     ActionResult::Row rowOf(const Before& before, const QStringList& lines) const;
     QString verdictOf(const Before& before, const QString& got, bool isTold) const;

@@ -20,6 +20,7 @@ void TableSession::open(QWidget* window) {
     m_state.group = QLatin1String(UnreadGroup);
     m_state.result.reset();
     m_state.lastSearch.clear();
+    m_state.recording.invalidate();
     clearLocks(false);
     m_failures.attempt([this] { RecordChecks(m_host).clear(m_failures); });
     m_failures.attempt([this] { takeAllConnected(); });

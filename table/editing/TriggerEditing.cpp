@@ -78,6 +78,7 @@ void TriggerEditing::applyTriggerMode(const DocList& docs, int mode, GatheredFai
     }
     // From here on documents may be others: a box stands.
     if (!misfits.isEmpty()) {
+        m_isSent = true;  // the result names who was left out
         m_host.alert(misfits.join(QLatin1Char('\n')), nullptr);
     }
 }

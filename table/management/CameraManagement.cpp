@@ -41,6 +41,7 @@ void CameraManagement::search(const QString& where, Search&& run) {
     }
     ZebDocManager& documents = m_host.docManager();
     const DocKeyList before = documents.getLiveDocKeys(0, 0);
+    m_state.lastSearch.clear();
     run();
     const DocKeyList listed = documents.getLiveDocKeys(0, 0);
     const DocKeyList added = keysBeside(before, listed);
@@ -89,6 +90,7 @@ void CameraManagement::deleteAll() {
         m_host.isLiveMode()) {
         m_host.docManager().deleteAllDocs(0, 0);
         m_state.result.reset();
+        m_state.lastSearch.clear();
     }
 }
 

@@ -27,16 +27,19 @@
 
 namespace {
 
-/// The line of a camera that must be locked and is not, or does not tell.
-ActionResult::Row rowInTheWay(const ZebHost& host, DOC_Interface& doc) {
-    ActionResult::Row row{doc.getKey(), {}, host.translate(TextKey("ON")), {}, QStringLiteral("unanswered"), {}};
+/// The line of a camera that must be locked and is not, or does not tell: `failure` says why.
+ActionResult::Row rowInTheWay(const ZebHost& host, DOC_Interface& doc, const QString& failure) {
+    ActionResult::Row row{doc.getKey(), {}, host.translate(TextKey("ON")), {}, QStringLiteral("unanswered"), failure};
     try {
         row.name = doc.control().getCameraName(1);
-        row.got = host.translate(doc.lock().isParamLocked() ? TextKey("ON") : TextKey("OFF"));
-        row.verdict = QStringLiteral("refused");
-        row.reason = doc.control().isLowLightMode() ? host.translate(TextKey("it is in low light mode")) : QString();
+        const bool isLowLight = failure.isEmpty() && doc.control().isLowLightMode();
+        row.reason = isLowLight ? host.translate(TextKey("it is in low light mode")) : failure;
     } catch (...) {
-        row.reason = currentFailureText();
+        row.reason = failure.isEmpty() ? currentFailureText() : failure;
+    }
+    if (failure.isEmpty()) {
+        row.got = host.translate(TextKey("OFF"));
+        row.verdict = QStringLiteral("refused");
     }
     return row;
 }
@@ -115,10 +118,12 @@ bool RecordButton::areCamerasLocked() {
     GatheredFailures unknown;  // named among the problems
     for (DOC_Interface* doc : connected(unknown)) {
         bool locked = false;
-        attemptOn(*doc, unread, [&] { locked = doc->lock().isParamLocked(); });
+        GatheredFailures own;
+        attemptOn(*doc, own, [&] { locked = doc->lock().isParamLocked(); });
         if (!locked) {
-            inTheWay.append(rowInTheWay(m_host, *doc));
+            inTheWay.append(rowInTheWay(m_host, *doc, own.text()));
         }
+        unread.note(own.text());
     }
     if (inTheWay.isEmpty()) {
         return true;
@@ -211,6 +216,7 @@ void RecordButton::setAreas(GatheredFailures& failures) {
 void RecordButton::arm() {
     m_host.setPrefBool(RecAllConnectedPref, true);
     m_state.recordRunning = true;
+    m_state.recording.invalidate();
     m_host.recorder().startRecReady();
     if (m_state.result && m_state.result->action() == QLatin1String("record")) {
         m_state.result.reset();  // nobody is in the way any more

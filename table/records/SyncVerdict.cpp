@@ -1,5 +1,6 @@
 #include "SyncVerdict.h"
 
+#include "CameraAction.h"
 #include "DOC_Control.h"
 #include "DOC_Frames.h"
 #include "DOC_Interface.h"
@@ -32,7 +33,11 @@ QString numbersOf(SyncObstacle obstacle, ZebHost& host, const DOC_Control& camer
         case SyncObstacle::Unsupported:
             return host.translate(TextKey("camera type %1")).arg(camera.getCameraType());
         case SyncObstacle::TriggerMode: {
-            const DOC_Control& first = withoutDummies(host.docManager().getCameraDocs()).first()->control();
+            const DocList cameras = withoutDummies(host.docManager().getCameraDocs());
+            if (cameras.isEmpty()) {
+                return {};
+            }
+            const DOC_Control& first = cameras.first()->control();
             const auto mode = [&host](const DOC_Control& each) {
                 return LiveControlMembers::triggerText(host, each.getTriggerMode());
             };
@@ -100,8 +105,8 @@ QString SyncVerdict::follows() const {
     DOC_Interface* leader = master();
     return leader == nullptr
                ? m_host.translate(TextKey("The master camera is not connected."))
-               : m_host.translate(TextKey("Master camera: %1, %2 fps"))
-                     .arg(leader->control().getCameraName(1), QString::number(leader->control().getRecordRate(0)));
+               : m_host.translate(TextKey("Master camera: %1, %2"))
+                     .arg(leader->control().getCameraName(1), rateText(leader->control().getRecordRate(0)));
 }
 
 QString SyncVerdict::sourceText() const {
@@ -143,8 +148,12 @@ DOC_Interface* SyncVerdict::master() const {
     return leader != nullptr && leader->isConnected() ? leader : nullptr;
 }
 
+QString SyncVerdict::rateText(unsigned int rate) const {
+    return cameraaction::FrameRate.text(m_host, m_doc, QString::number(rate));
+}
+
 QString SyncVerdict::comparedText(unsigned int rate) const {
-    const QString text = QStringLiteral("%1 fps").arg(rate);
+    const QString text = rateText(rate);
     const std::optional<int> signal = reference();
     if (!signal) {
         return text;

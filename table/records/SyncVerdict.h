@@ -30,6 +30,7 @@ private:
     std::optional<int> reference() const;
     /// Null without one, and when it has gone.
     DOC_Interface* master() const;
+    QString rateText(unsigned int rate) const;
     /// As "1000 fps, 500 above the signal".
     QString comparedText(unsigned int rate) const;
 

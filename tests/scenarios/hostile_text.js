@@ -33,7 +33,7 @@ function checkHarmless(when) {
     check(zeb.page(ELEMENTS) === elementsAtStart, `${when}: no element was made`);
     check(NAMES.every(name => zeb.pref('hostile/' + name) === undefined) &&
         !zeb.calls().some(call => /setPref/.test(call.call)), `${when}: the bridge was not called`);
-    check(!zeb.log().some(line => /link refused|USER..ERROR/i.test(line)), `${when}: nothing was asked of the network`);
+    check(!zeb.log().some(line => /(link|request) refused|USER..ERROR/i.test(line)), `${when}: nothing was asked of the network`);
 }
 
 zeb.rig(NAMES.length);

@@ -113,6 +113,16 @@ TEST_F(Undo, LeavesAloneAndNamesThoseThatItMayNotTouch) {
     test.host.faults().clear();
     EXPECT_EQ(test.host.undo().undo(), "Frame rate");
     EXPECT_EQ(settings()["8"], first["8"]);
+
+    // Nor does one head take back what another one was given since.
+    begin();
+    setRate(2000);
+    test.host.cameras().find(3)->change({{"locked", true}});
+    test.host.cameras().find(4)->change({{"rate", 250}});
+    EXPECT_EQ(test.host.undo().undo(), "Frame rate");
+    test.host.cameras().find(3)->change({{"locked", false}});
+    EXPECT_EQ(test.host.undo().undo(), "");
+    EXPECT_EQ(settings()["4"].toMap()["rate"].toInt(), 250);
 }
 
 TEST_F(Undo, AFaultAtAnyCallLosesNoCamerasValuesUntold) {
@@ -125,6 +135,7 @@ TEST_F(Undo, AFaultAtAnyCallLosesNoCamerasValuesUntold) {
             }
             const QVariantMap first = settings();
             setRate(2000);
+            const QVariantMap second = settings();
             told();
             test.host.faults().plantAt(call, fault);
             EXPECT_EQ(test.host.undo().undo(), "Frame rate");
@@ -139,6 +150,8 @@ TEST_F(Undo, AFaultAtAnyCallLosesNoCamerasValuesUntold) {
             if (!fault.gone) {
                 test.host.undo().undo();
                 EXPECT_EQ(settings(), first) << "what fails once goes back the next time; call " << call;
+                EXPECT_EQ(test.host.undo().redo(), "Frame rate");
+                EXPECT_EQ(settings(), second) << call;
             }
             if (isOver) {
                 EXPECT_GT(call, 8);

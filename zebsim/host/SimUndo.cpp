@@ -39,10 +39,11 @@ QVariantMap differing(const QVariantMap& settings, const QVariantMap& others) {
     return differing;
 }
 
-/// What the camera has neither as before nor as after the step.
+/// What the camera has neither as before nor as after the step, and not from it.
 template <typename Change>
 QVariantMap straysOf(const Change& change, const CameraState& state) {
-    return differing(differing(state.toPlain(change.before.keys()), change.before), change.after);
+    const QVariantMap now = state.toPlain(change.before.keys());
+    return differing(differing(differing(now, change.before), change.after), change.strays);
 }
 
 template <typename Change>
@@ -61,22 +62,13 @@ void removeTools(QList<Step>& steps) {
 
 }  // namespace
 
-/// What moved along on the way is neither side's.
-SimUndo::Change SimUndo::Change::from(const CameraState& state, bool back) const {
-    Change rest = *this;
-    const QVariantMap strays = straysOf(*this, state);
-    for (auto stray = strays.begin(); stray != strays.end(); ++stray) {
-        (back ? rest.after : rest.before).insert(stray.key(), *stray);
-    }
-    return rest;
-}
-
 SimUndo::SimUndo(const HostContext& host) : m_host(host) {
     QObject::connect(&host.events, &HostEvents::camerasReplaced, &host.events, [this] {
         ++m_rigs;
         m_undo.clear();
         m_redo.clear();
         m_found.clear();
+        m_depth = 0;
     });
 }
 
@@ -103,8 +95,12 @@ void SimUndo::endMacro() {
             const QVariantMap now = found.camera->state().toPlain(CameraState::recordSettings());
             const QVariantMap before = differing(found.settings, now);
             if (!before.isEmpty()) {
-                step.changes.append({found.camera->device().address(), found.camera->headNumber(), before,
-                                     differing(now, found.settings)});
+                step.changes.append({found.camera->device().address(),
+                                     found.camera->headNumber(),
+                                     before,
+                                     differing(now, found.settings),
+                                     false,
+                                     {}});
             }
         }
         m_found.clear();
@@ -202,12 +198,14 @@ SimUndo::Choice SimUndo::choose(const QList<Change>& changes, bool back) const {
     for (const CameraPlan* camera : open) {
         const Change& change = *find(changes, camera->camera);
         if (left.contains(change.address)) {
-            choice.waiting += lost.contains(change.address) ? QList<Change>() : QList<Change>{change};
+            choice.waiting << change;
             choice.lines << line(camera->camera.label, TextKey("another head of the device stays as it is"));
         } else {
             choice.wanted.append({change.address, change.head, back ? change.before : change.after});
         }
     }
+    const auto isLost = [&lost](const Change& change) { return lost.contains(change.address); };
+    choice.waiting.erase(std::remove_if(choice.waiting.begin(), choice.waiting.end(), isLost), choice.waiting.end());
     return choice;
 }
 
@@ -227,7 +225,6 @@ SimUndo::Left SimUndo::whyLeft(const CameraPlan& camera, const Change& change) c
     return {};
 }
 
-/// One that did not take it waits for the next time, as far as it has come.
 QList<SimUndo::Change> SimUndo::carryOut(Choice& choice, const QList<Change>& changes, bool back) const {
     const SettingsBatch batch(m_host);
     const LoadTexts texts(m_host.translator);
@@ -241,18 +238,32 @@ QList<SimUndo::Change> SimUndo::carryOut(Choice& choice, const QList<Change>& ch
         camera.notInFile.clear();
     }
     choice.lines += texts.oddities(plan);
-    QList<Change> done;
     const auto rows =
         batch.carryOut(plan, [&changes](const CameraPlan& camera) { return find(changes, camera.camera) != nullptr; });
+    QList<Change> done;
     for (const SettingsBatch::Row& row : rows) {
         const QStringList surprises = batch.surprisesOf(row);
         choice.lines += surprises;
-        const Change& change = *find(changes, row.plan->camera);
+        Change change = *find(changes, row.plan->camera);
         if (surprises.isEmpty()) {
+            change.strays.clear();
+            change.hasFailed = false;
             done << change;
-        } else if (row.camera && !row.camera->isGone()) {
-            choice.waiting << change.from(row.camera->state(), back);
+        } else if (row.camera && !row.camera->isGone() && !change.hasFailed) {
+            change.strays = straysOf(change, row.camera->state());
+            change.hasFailed = true;
+            choice.waiting << change;
         }
+    }
+    for (const CameraPlan& camera : cameras) {
+        const auto isOfIt = [&camera](const SettingsBatch::Row& row) { return row.plan == &camera; };
+        if (std::any_of(rows.begin(), rows.end(), isOfIt)) {
+            continue;
+        }
+        // It has all of it already, or is left alone for another head.
+        const Change& change = *find(changes, camera.camera);
+        const QVariantMap& wanted = back ? change.before : change.after;
+        (camera.camera.state.toPlain(wanted.keys()) == wanted ? done : choice.waiting) << change;
     }
     return done;
 }

@@ -13,7 +13,6 @@
 
 class Camera;
 struct CameraPlan;
-struct CameraState;
 struct HostContext;
 
 /// The undo stack. What the settings that cameras record with become between `beginMacro` and `endMacro` is one step,
@@ -33,8 +32,8 @@ public:
     QString redoText() const { return textOf(m_redo); }
     /// Gives the cameras of the last step what they had before it, or of the step taken back last what they had after
     /// it. One that is not there, locked, armed, in low light mode or was changed since is left alone, and the user is
-    /// told which; locked and armed ones, those in low light mode, and those that did not take it wait for the next
-    /// time. Answers the step's text, empty when there was none. Event loops run.
+    /// told which; locked and armed ones, and those in low light mode, wait for the next time, as does one that did not
+    /// take it, once. Answers the step's text, empty when there was none. Event loops run.
     QString undo() { return move(m_undo, m_redo, true); }
     QString redo() { return move(m_redo, m_undo, false); }
 
@@ -45,9 +44,9 @@ private:
         int head;
         QVariantMap before;
         QVariantMap after;
-
-        /// What is left of it for a camera that has taken some of it.
-        Change from(const CameraState& state, bool back) const;
+        /// It did not take it once; what it has since on the way, of neither side.
+        bool hasFailed = false;
+        QVariantMap strays;
     };
     struct Step {
         /// The same for the parts of one that was taken back bit by bit.
@@ -77,7 +76,8 @@ private:
     QString move(QList<Step>& from, QList<Step>& to, bool back);
     Choice choose(const QList<Change>& changes, bool back) const;
     Left whyLeft(const CameraPlan& camera, const Change& change) const;
-    /// Answers the changes that have come about, and adds a line for each that has not.
+    /// Answers the changes that have come about, and adds a line for each that has not. One that did not take it waits
+    /// once; else nothing before it could ever be taken back.
     QList<Change> carryOut(Choice& choice, const QList<Change>& changes, bool back) const;
     void tell(const QString& text, int count, const QStringList& lines, bool back) const;
     QString line(const QString& label, const QString& reason) const;

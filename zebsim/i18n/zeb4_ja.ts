@@ -3416,10 +3416,6 @@
         <translation>マスターカメラが接続されていません。</translation>
     </message>
     <message>
-        <source>Master camera: %1, %2 fps</source>
-        <translation>マスターカメラ: %1、%2 fps</translation>
-    </message>
-    <message>
         <source>The source of the signal is not connected.</source>
         <translation>同期信号の出力元が接続されていません。</translation>
     </message>
@@ -3476,12 +3472,16 @@
         <translation>指定値</translation>
     </message>
     <message>
-        <source>has now</source>
-        <translation>現在値</translation>
-    </message>
-    <message>
         <source>recording %1 s, armed %2 of %3</source>
         <translation>撮影中 %1 秒、撮影待機・撮影中 %2/%3</translation>
+    </message>
+    <message>
+        <source>had after it</source>
+        <translation>変更後</translation>
+    </message>
+    <message>
+        <source>Master camera: %1, %2</source>
+        <translation>マスターカメラ: %1、%2</translation>
     </message>
 </context>
 </TS>

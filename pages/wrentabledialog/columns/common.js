@@ -3,6 +3,8 @@ const isBatch = record => record.key === wrentabledialog_obj.batchDocKey;
 const isOff = record => !record.connected;
 const isLocked = record => Boolean(record.lock);
 const isLockedOrLowLight = record => Boolean(record.lock || record.lowLightMode);
+// What a camera has not told is no value.
+const comparedValue = value => value === undefined ? '' : String(value);
 const isOffOrBatch = record => isOff(record) || isBatch(record);
 // Whether the camera has told what rules its controls: its lock in live mode, its check in memory mode.
 const isSteered = record => record.lock !== undefined || record.check !== undefined;

@@ -7,6 +7,7 @@
 //   choiceOf   from its items to choices, objects with `value` and `name`, where they are none
 //   value      the present value of a record
 //   locked     as of every kind
+//   compared   as of every kind, where it is not the value
 //   send       the bridge call that takes the keys and the chosen value
 function dropDownColumn(options) {
     const name = `wren_livecontrol_${options.word}`;
@@ -18,7 +19,7 @@ function dropDownColumn(options) {
         list: options.list,
         choices,
         value: options.value,
-        compared: record => options.value(record) || '',
+        compared: options.compared || (record => options.value(record) || ''),
         comparedText(record) {
             const choice = choices(record).find(item => item.value === options.value(record));
             return choice ? choice.name : options.value(record);
@@ -111,12 +112,17 @@ COLUMNS.resolution = dropDownColumn({
     send: (keys, value) => wrentabledialog.setResolution(keys, value)
 });
 
+const TRIGGER_MANUAL = '4';
+
 COLUMNS.trigger = dropDownColumn({
     caption: textKey('Trigger mode'),
     word: 'trigger',
     needs: ['lock', 'triggerModes', 'triggerMode'],
     list: 'triggerModes',
     value: record => record.triggerMode,
+    // The manual mode has its frames in its name.
+    compared: record => record.triggerMode === TRIGGER_MANUAL ? COLUMNS.trigger.comparedText(record)
+        : record.triggerMode || '',
     locked: isLockedOrLowLight,
     send: (keys, value) => wrentabledialog.setTriggerMode(keys, value)
 });
@@ -129,7 +135,7 @@ COLUMNS.reduce = {
     still: true,
     empty: record => isOff(record) || record.reduceModeSupported === false,
     locked: isLocked,
-    compared: record => record.reduceModeSupported ? String(record.reduceMode) : '',
+    compared: record => record.reduceModeSupported ? comparedValue(record.reduceMode) : '',
     comparedText: record => onOffText(record.reduceMode),
     markup() {
         const priority = escapeMarkup(translate('_Priority'));
@@ -175,7 +181,7 @@ COLUMNS.lowlight = {
     still: true,
     empty: isOff,
     locked: isLocked,
-    compared: record => record.lowLightModeSupported ? String(record.lowLightMode) : '',
+    compared: record => record.lowLightModeSupported ? comparedValue(record.lowLightMode) : '',
     comparedText: record => onOffText(record.lowLightMode),
     markup() {
         const [on, dark, bright] = [translate('ON'), translate('dark'), translate('bright')].map(escapeMarkup);

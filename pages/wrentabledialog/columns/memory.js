@@ -36,7 +36,7 @@ function spinnerColumn(options) {
         size: '10%',
         align: 'left',
         send: options.send,
-        compared: record => record.totalFrame ? String(options.value(record)) : '',
+        compared: record => record.totalFrame ? comparedValue(options.value(record)) : '',
         comparedText: record => String(options.value(record)),
         needs: options.needs.concat('totalFrame'),
         still: true,

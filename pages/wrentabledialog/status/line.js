@@ -29,8 +29,11 @@ const ACTIONS = {
     record: textKey('Record')
 };
 
+const RESULT = ',"result":';
+
 const statusLine = {
     reply: '', // as it was shown last
+    result: 'null', // of it, as it came: of many cameras it is long, and seldom another one
     status: null,
 
     initialize() {
@@ -53,15 +56,28 @@ const statusLine = {
             return;
         }
         const reply = wrentabledialog.getTableStatus();
-        const status = reply === this.reply ? this.status : parseReply(reply);
-        if (status && status !== this.status) {
-            this.reply = reply;
-            this.status = status;
-            setText(document.getElementById('wren_status_counts'), this.countsText(status));
-            setText(document.getElementById('wren_status_search'), status.search);
-            this.showResult(status.result);
+        if (reply !== this.reply) {
+            this.take(reply);
         }
         this.refreshButtons();
+    },
+
+    // The result stands last in the reply. In a text of it no quote is without a backslash.
+    take(reply) {
+        const place = reply.indexOf(RESULT);
+        const status = place < 0 ? null : parseReply(reply.slice(0, place) + '}');
+        if (!status) {
+            return;
+        }
+        const result = reply.slice(place + RESULT.length, -1);
+        this.reply = reply;
+        this.status = status;
+        setText(document.getElementById('wren_status_counts'), this.countsText(status));
+        setText(document.getElementById('wren_status_search'), status.search);
+        if (result !== this.result) {
+            this.result = result;
+            this.showResult(parseReply(result));
+        }
     },
 
     countsText({ found, connected, locked, armed, recordMs }) {

@@ -1,6 +1,5 @@
 // The lines of the last result, over the table. They can be selected and copied; a name leads to its camera's row.
 const resultList = {
-    text: '', // of the result that is shown, as it came
     result: null,
     verdict: '', // the only one that is listed; empty for all
 
@@ -29,11 +28,7 @@ const resultList = {
 
     // A list that stands shows the newest.
     take(result) {
-        const text = JSON.stringify(result);
-        if (text === this.text) {
-            return;
-        }
-        Object.assign(this, { text, result, verdict: '' });
+        Object.assign(this, { result, verdict: '' });
         if (result === null) {
             return;
         }
@@ -106,7 +101,7 @@ function pointAt(view, key) {
 }
 
 function resultHeadMarkup() {
-    const heads = ['', '', translate('asked for'), translate('has now')].map(escapeMarkup);
+    const heads = ['', '', translate('asked for'), translate('had after it')].map(escapeMarkup);
     return `<tr><th>${heads.join('</th><th>')}</th></tr>`;
 }
 
