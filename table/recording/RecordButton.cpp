@@ -33,7 +33,9 @@ ActionResult::Row rowInTheWay(const ZebHost& host, DOC_Interface& doc, const QSt
     try {
         row.name = doc.control().getCameraName(1);
         const bool isLowLight = failure.isEmpty() && doc.control().isLowLightMode();
-        row.reason = isLowLight ? host.translate(TextKey("it is in low light mode")) : failure;
+        row.reason = !failure.isEmpty() ? failure
+                     : isLowLight       ? host.translate(TextKey("it is in low light mode"))
+                                        : host.translate(TextKey("it is not locked"));
     } catch (...) {
         row.reason = failure.isEmpty() ? currentFailureText() : failure;
     }

@@ -91,13 +91,15 @@ TEST_F(Undo, LeavesAloneAndNamesThoseThatItMayNotTouch) {
         QStringList({"Gate: it is locked, and stays as it is", "Ramp: the camera is gone",
                      "Nozzle left: it is locked, and stays as it is", "Roof: it is not connected, and stays as it is",
                      "Track: it was changed since, and stays as it is", "Impact: it is armed, and stays as it is",
-                     "Nozzle right: another head of the device stays as it is"}));
+                     "Nozzle right: another head of the device stays as it is",
+                     "Undo takes them back when they can be changed."}));
     // What only waited goes back the next time.
-    for (const DOCKEY key : {1, 3, 7}) {
-        test.host.cameras().find(key)->change({{"locked", false}, {"recordState", zeb::RecordLive}});
+    for (const DOCKEY key : {1, 3, 5, 7}) {
+        test.host.cameras().find(key)->change(
+            {{"locked", false}, {"recordState", zeb::RecordLive}, {"connected", true}});
     }
     EXPECT_EQ(test.host.undo().undo(), "Frame rate");
-    for (const char* key : {"1", "3", "4", "7", "8"}) {
+    for (const char* key : {"1", "3", "4", "5", "7", "8"}) {
         EXPECT_EQ(settings()[key], first[key]) << key;
     }
     EXPECT_EQ(told(), QStringList());
@@ -123,6 +125,37 @@ TEST_F(Undo, LeavesAloneAndNamesThoseThatItMayNotTouch) {
     test.host.cameras().find(3)->change({{"locked", false}});
     EXPECT_EQ(test.host.undo().undo(), "");
     EXPECT_EQ(settings()["4"].toMap()["rate"].toInt(), 250);
+}
+
+TEST_F(Undo, GoesPastWhatNobodyCanTakeBackAndComesBackToIt) {
+    const QVariantMap first = settings();
+    setRate(2000);
+    test.host.undo().beginMacro("Of one");
+    test.host.cameraOps().setRecordRate(test.docs({1}), 500);
+    test.host.undo().endMacro();
+    test.host.cameras().find(1)->change({{"connected", false}});
+    EXPECT_EQ(test.host.undo().undo(), "Of one");
+    EXPECT_EQ(told(), QStringList({"Gate: it is not connected, and stays as it is",
+                                   "Undo takes them back when they can be changed."}));
+    EXPECT_EQ(test.host.undo().undo(), "Frame rate");
+    EXPECT_EQ(settings()["7"], first["7"]);
+    EXPECT_EQ(settings()["1"].toMap()["rate"].toInt(), 500);
+    test.host.cameras().find(1)->change({{"connected", true}});
+    EXPECT_EQ(test.host.undo().undo(), "Of one");
+    EXPECT_EQ(test.host.undo().undo(), "Frame rate");
+    EXPECT_EQ(settings(), first);
+
+    // A shutter that was set in low light goes back in low light.
+    test.host.cameras().find(1)->change({{"lowLight", true}});
+    const QVariant shutter = settings()["1"].toMap()["shutter"];
+    test.host.undo().beginMacro("Shutter");
+    test.host.cameraOps().setShutterSpeed(test.docs({1}), 5000);
+    test.host.undo().endMacro();
+    EXPECT_NE(settings()["1"].toMap()["shutter"], shutter);
+    told();
+    EXPECT_EQ(test.host.undo().undo(), "Shutter");
+    EXPECT_EQ(settings()["1"].toMap()["shutter"], shutter);
+    EXPECT_EQ(told(), QStringList());
 }
 
 TEST_F(Undo, AFaultAtAnyCallLosesNoCamerasValuesUntold) {

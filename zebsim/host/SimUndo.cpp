@@ -23,6 +23,7 @@ namespace {
 
 constexpr int MostSteps = 100;
 const QString LowLight = QStringLiteral("lowLight");
+const QString Shutter = QStringLiteral("shutter");
 
 bool isTool(const QString& text) {
     return text.isEmpty();
@@ -44,6 +45,13 @@ template <typename Change>
 QVariantMap straysOf(const Change& change, const CameraState& state) {
     const QVariantMap now = state.toPlain(change.before.keys());
     return differing(differing(differing(now, change.before), change.after), change.strays);
+}
+
+/// What it would have to take otherwise is of no use to it.
+bool canHaveAll(const CameraPlan& camera) {
+    return std::none_of(camera.settings.begin(), camera.settings.end(), [](const SettingPlan& setting) {
+        return setting.why == SettingPlan::NotOffered || setting.why == SettingPlan::LongerThanFrame;
+    });
 }
 
 template <typename Change>
@@ -99,13 +107,15 @@ void SimUndo::endMacro() {
                                      found.camera->headNumber(),
                                      before,
                                      differing(now, found.settings),
-                                     false,
                                      {}});
             }
         }
         m_found.clear();
         // What is put back meanwhile is none of it.
         if (!step.changes.isEmpty() && !m_isMoving) {
+            for (Step& other : m_undo) {
+                other.passed = false;
+            }
             m_undo = m_undo.mid(qMax(0, m_undo.size() + 1 - MostSteps));
             m_undo.append(step);
             m_redo.clear();
@@ -134,45 +144,76 @@ std::vector<SimUndo::Found> SimUndo::look() const {
 
 QString SimUndo::textOf(const QList<Step>& steps) const {
     const bool isOpen = m_depth == 0 && !m_isMoving && m_host.appStatus.mode() == zeb::LiveMode;
-    return isOpen && !steps.isEmpty() ? steps.last().text : QString();
+    const int next = nextOf(steps);
+    return isOpen && next >= 0 ? steps[next].text : QString();
+}
+
+int SimUndo::nextOf(const QList<Step>& steps) {
+    for (int next = steps.size() - 1; next >= 0; --next) {
+        const QList<Change>& changes = steps[next].changes;
+        const auto isFree = [&steps, next](const Change& change) { return !waitsFor(steps, next, change); };
+        if (!steps[next].passed && std::any_of(changes.begin(), changes.end(), isFree)) {
+            return next;
+        }
+    }
+    return steps.size() - 1;
+}
+
+bool SimUndo::waitsFor(const QList<Step>& steps, int place, const Change& change) {
+    return std::any_of(steps.begin() + place + 1, steps.end(), [&change](const Step& later) {
+        return std::any_of(later.changes.begin(), later.changes.end(),
+                           [&change](const Change& other) { return other.address == change.address; });
+    });
 }
 
 QString SimUndo::move(QList<Step>& from, QList<Step>& to, bool back) {
     if (textOf(from).isEmpty()) {
         return {};
     }
-    const Step step = from.last();
+    const int place = nextOf(from);
+    const Step step = from[place];
     const int rig = m_rigs;
     // Event loops run below, and what comes in them may not take the same step.
     m_isMoving = true;
     const auto ended = qScopeGuard([this] { m_isMoving = false; });
-    Choice choice = choose(step.changes, back);
-    const QList<Change> done = carryOut(choice, step.changes, back);
+    QList<Change> open;
+    Choice choice;
+    for (const Change& change : step.changes) {
+        (waitsFor(from, place, change) ? choice.waiting : open) << change;
+    }
+    choose(choice, open, back);
+    const QList<Change> done = carryOut(choice, open, back);
     m_host.updates.request();
     if (rig != m_rigs) {
         return step.text;
     }
-    from.removeLast();
-    if (!choice.waiting.isEmpty()) {
-        from.append({step.id, step.text, choice.waiting});
-    }
+    replace(from, {step.id, step.text, choice.waiting, done.isEmpty()});
     if (!done.isEmpty() && !to.isEmpty() && to.last().id == step.id) {
         to.last().changes += done;
     } else if (!done.isEmpty()) {
-        to.append({step.id, step.text, done});
+        to.append({step.id, step.text, done, false});
     }
-    tell(step.text, done.size(), choice.lines, back);
+    tell(step.text, done.size(), choice, back);
     return step.text;
 }
 
+void SimUndo::replace(QList<Step>& steps, const Step& part) {
+    const auto found =
+        std::find_if(steps.begin(), steps.end(), [&part](const Step& step) { return step.id == part.id; });
+    if (found != steps.end() && part.changes.isEmpty()) {
+        steps.erase(found);
+    } else if (found != steps.end()) {
+        *found = part;
+    }
+}
+
 /// Heads share settings, so that a device of which one is left alone is left alone as a whole.
-SimUndo::Choice SimUndo::choose(const QList<Change>& changes, bool back) const {
+void SimUndo::choose(Choice& choice, const QList<Change>& changes, bool back) const {
     QList<HeadSettings> all;
     for (const Change& change : changes) {
         all.append({change.address, change.head, back ? change.before : change.after});
     }
     const LoadPlan plan = SettingsBatch(m_host).plan(all);
-    Choice choice;
     for (const QString& address : plan.absent) {
         choice.lines << line(address, TextKey("there is no such camera"));
     }
@@ -200,23 +241,24 @@ SimUndo::Choice SimUndo::choose(const QList<Change>& changes, bool back) const {
         if (left.contains(change.address)) {
             choice.waiting << change;
             choice.lines << line(camera->camera.label, TextKey("another head of the device stays as it is"));
+        } else if (!canHaveAll(*camera)) {
+            choice.lines << line(camera->camera.label, TextKey("it was changed since, and stays as it is"));
         } else {
             choice.wanted.append({change.address, change.head, back ? change.before : change.after});
         }
     }
     const auto isLost = [&lost](const Change& change) { return lost.contains(change.address); };
     choice.waiting.erase(std::remove_if(choice.waiting.begin(), choice.waiting.end(), isLost), choice.waiting.end());
-    return choice;
 }
 
 SimUndo::Left SimUndo::whyLeft(const CameraPlan& camera, const Change& change) const {
     const CameraState& state = camera.camera.state;
     if (camera.left != CameraPlan::Taken) {
         const bool passes = camera.left == CameraPlan::Locked || camera.left == CameraPlan::Armed ||
-                            camera.left == CameraPlan::Recording;
+                            camera.left == CameraPlan::Recording || camera.left == CameraPlan::NotConnected;
         return {LoadTexts(m_host.translator).left(camera), passes};
     }
-    if (state.lowLight && !change.before.contains(LowLight)) {
+    if (state.lowLight && !change.before.contains(LowLight) && change.before.keys() != QStringList{Shutter}) {
         return {line(camera.camera.label, TextKey("it is in low light mode, and stays as it is")), true};
     }
     if (!straysOf(change, state).isEmpty()) {
@@ -247,11 +289,9 @@ QList<SimUndo::Change> SimUndo::carryOut(Choice& choice, const QList<Change>& ch
         Change change = *find(changes, row.plan->camera);
         if (surprises.isEmpty()) {
             change.strays.clear();
-            change.hasFailed = false;
             done << change;
-        } else if (row.camera && !row.camera->isGone() && !change.hasFailed) {
+        } else if (row.camera && !row.camera->isGone()) {
             change.strays = straysOf(change, row.camera->state());
-            change.hasFailed = true;
             choice.waiting << change;
         }
     }
@@ -268,14 +308,27 @@ QList<SimUndo::Change> SimUndo::carryOut(Choice& choice, const QList<Change>& ch
     return done;
 }
 
-void SimUndo::tell(const QString& text, int count, const QStringList& lines, bool back) const {
-    const QString key = back ? TextKey("Taken back: %1 (cameras: %2)") : TextKey("Done again: %1 (cameras: %2)");
-    const QString told = m_host.translator.translate(key).arg(text, QString::number(count));
-    if (lines.isEmpty()) {
+void SimUndo::tell(const QString& text, int count, const Choice& choice, bool back) const {
+    const QString key = count == 0
+                            ? (back ? TextKey("Nothing was taken back: %1") : TextKey("Nothing was done again: %1"))
+                        : back ? TextKey("Taken back: %1 (cameras: %2)")
+                               : TextKey("Done again: %1 (cameras: %2)");
+    const QString told =
+        m_host.translator.translate(key).replace(QLatin1String("%2"), QString::number(count)).arg(text);
+    QStringList lines = choice.lines;
+    if (lines.isEmpty() && count > 0) {
         m_host.messages.notify(Message::Info, told);
-    } else {
-        m_host.messages.tell(Message::Warn, told, lines);
+        return;
     }
+    if (!choice.waiting.isEmpty()) {
+        const QString rest = back ? TextKey("Undo takes them back when they can be changed.")
+                                  : TextKey("Redo does it when they can be changed.");
+        lines << m_host.translator.translate(rest);
+    }
+    for (const QString& line : lines) {
+        qWarning().noquote() << told << line;
+    }
+    m_host.messages.tell(Message::Warn, told, lines);
 }
 
 QString SimUndo::line(const QString& label, const QString& reason) const {

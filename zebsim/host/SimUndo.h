@@ -30,10 +30,12 @@ public:
     /// Texts of the steps that come next; empty when there is none, and outside live mode.
     QString undoText() const { return textOf(m_undo); }
     QString redoText() const { return textOf(m_redo); }
+
     /// Gives the cameras of the last step what they had before it, or of the step taken back last what they had after
     /// it. One that is not there, locked, armed, in low light mode or was changed since is left alone, and the user is
-    /// told which; locked and armed ones, and those in low light mode, wait for the next time, as does one that did not
-    /// take it, once. Answers the step's text, empty when there was none. Event loops run.
+    /// told which; one that may take it another time waits for that. Where nothing could be done, the next call goes
+    /// past that step, for the cameras that do not wait in it. Answers the step's text, empty when there was none.
+    /// Event loops run.
     QString undo() { return move(m_undo, m_redo, true); }
     QString redo() { return move(m_redo, m_undo, false); }
 
@@ -44,8 +46,7 @@ private:
         int head;
         QVariantMap before;
         QVariantMap after;
-        /// It did not take it once; what it has since on the way, of neither side.
-        bool hasFailed = false;
+        /// What it has on the way, of neither side, since it took some of it.
         QVariantMap strays;
     };
     struct Step {
@@ -53,6 +54,8 @@ private:
         int id;
         QString text;
         QList<Change> changes;
+        /// Nothing could be done of it the last time, so that the next one goes past it.
+        bool passed = false;
     };
     struct Found {
         std::shared_ptr<Camera> camera;
@@ -74,12 +77,17 @@ private:
     std::vector<Found> look() const;
     QString textOf(const QList<Step>& steps) const;
     QString move(QList<Step>& from, QList<Step>& to, bool back);
-    Choice choose(const QList<Change>& changes, bool back) const;
+    /// The step that comes next, -1 for none.
+    static int nextOf(const QList<Step>& steps);
+    /// Whether a change of the step at `place` comes after one of the same device that waits in a later step.
+    static bool waitsFor(const QList<Step>& steps, int place, const Change& change);
+    /// Puts the part that is left of a step in its place, none where it has no changes.
+    static void replace(QList<Step>& steps, const Step& part);
+    void choose(Choice& choice, const QList<Change>& changes, bool back) const;
     Left whyLeft(const CameraPlan& camera, const Change& change) const;
-    /// Answers the changes that have come about, and adds a line for each that has not. One that did not take it waits
-    /// once; else nothing before it could ever be taken back.
+    /// Answers the changes that have come about, and adds a line for each that has not.
     QList<Change> carryOut(Choice& choice, const QList<Change>& changes, bool back) const;
-    void tell(const QString& text, int count, const QStringList& lines, bool back) const;
+    void tell(const QString& text, int count, const Choice& choice, bool back) const;
     QString line(const QString& label, const QString& reason) const;
 
     const HostContext& m_host;

@@ -3483,5 +3483,25 @@
         <source>Master camera: %1, %2</source>
         <translation>マスターカメラ: %1、%2</translation>
     </message>
+    <message>
+        <source>it is not locked</source>
+        <translation>ロックされていません</translation>
+    </message>
+    <message>
+        <source>Nothing was taken back: %1</source>
+        <translation>元に戻せませんでした: %1</translation>
+    </message>
+    <message>
+        <source>Nothing was done again: %1</source>
+        <translation>やり直せませんでした: %1</translation>
+    </message>
+    <message>
+        <source>Undo takes them back when they can be changed.</source>
+        <translation>変更できるようになれば、「元に戻す」で戻ります。</translation>
+    </message>
+    <message>
+        <source>Redo does it when they can be changed.</source>
+        <translation>変更できるようになれば、「やり直し」で適用されます。</translation>
+    </message>
 </context>
 </TS>

@@ -47,7 +47,7 @@ Object.assign(wrentabledialog_obj, {
         listenToGrid(view);
         this.whenPainted(() => textTip(grid.box, '[alerts], [comments], [sync], [differs], [barred]', element =>
             element.getAttribute('alerts') || element.getAttribute('comments') || syncTip.text(element) ||
-            differencesText(view, element)));
+            differencesText(view, element), element => element.hasAttribute('sync')));
         return view;
     },
 

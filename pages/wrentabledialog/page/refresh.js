@@ -3,14 +3,15 @@ Object.assign(wrentabledialog_obj, {
     // A full refresh brings the list of cameras and draws every row; an automatic one only what rows show already.
     // One that got no list is owed, and made at the next refresh of any kind.
     refreshRecords(tabkey, isAuto) {
-        const autoUpdate = isAuto && !this.owesRebuild;
+        const isFull = !isAuto || this.owesRebuild;
         const data = this.fetchRecords(tabkey);
-        this.owesRebuild = !autoUpdate && !data;
+        this.owesRebuild = isFull && !data;
         if (!data) {
             return;
         }
         const view = viewAt(tabkey);
-        const records = attention.list(data.records, !autoUpdate);
+        const autoUpdate = !attention.collect(data.records, isFull) && !isFull;
+        const records = attention.list(data.records);
         const batch = attention.batch(data.batch, records);
         view.status = this.readListStatus(records);
         view.setNewest(data.records, records, batch);

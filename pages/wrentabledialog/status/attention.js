@@ -3,7 +3,7 @@ const BATCH_MEMBERS = ['recid', 'key', 'recordCount', 'alert', 'cameraStatus', '
     'comments', 'externalSync', 'triggerIn', 'triggerSwIn', 'irigTimeStamp', 'irigSync', 'irigSupported', 'plugins'];
 
 // The rows that need a look, and no others. It is the page's own view, beside group and filter. A row that comes right
-// stays until the view is left, so that no press lands on the one below it.
+// stays until the view is left, and one that joins stands last, so that no press lands on another than was meant.
 const attention = {
     on: false,
     keys: new Set(), // of the rows that stand
@@ -17,25 +17,28 @@ const attention = {
         });
     },
 
-    // Those of the records that are listed. Others join with a full refresh, which alone makes rows.
-    list(records, isFull) {
+    // Those of the records that are listed, in the order in which they have joined.
+    list(records) {
         if (!this.on) {
             return records;
         }
-        if (isFull) {
-            this.collect(records);
-        }
-        return records.filter(record => this.keys.has(record.key));
+        const byKey = new Map();
+        records.forEach(record => byKey.set(record.key, record));
+        return Array.from(this.keys).filter(key => byKey.has(key)).map(key => byKey.get(key));
     },
 
-    collect(records) {
+    // Takes in what needs a look by now. Answers whether that are other rows than before, which only a full refresh
+    // makes; not while the user is at something that this would take away.
+    collect(records, isFull) {
+        if (!this.on || (!isFull && (dropDown.cell || numberBox.held || lowLightSlider.held))) {
+            return false;
+        }
         const needsLock = wrentabledialog.isLiveMode() && wrentabledialog.getPrefBool(PREF_KEY_WREN_DISPLAY_LOCK);
         const odd = resultList.oddKeys();
-        records.forEach(record => {
-            if (this.needsLook(record, needsLock) || odd.has(record.key)) {
-                this.keys.add(record.key);
-            }
-        });
+        const { size } = this.keys;
+        records.filter(record => this.needsLook(record, needsLock) || odd.has(record.key))
+            .forEach(record => this.keys.add(record.key));
+        return this.keys.size > size;
     },
 
     needsLook(record, needsLock) {

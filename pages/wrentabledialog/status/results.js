@@ -5,6 +5,11 @@ const resultList = {
 
     initialize() {
         this.box().addEventListener('click', event => guarded(() => this.press(event.target)));
+        document.addEventListener('keydown', event => {
+            if (event.keyCode === KEY.ESCAPE && event.target === document.body) {
+                this.close();
+            }
+        });
     },
 
     box() {
@@ -32,11 +37,13 @@ const resultList = {
         if (result === null) {
             return;
         }
-        setText(this.box().querySelector('b'), actionText(result.action));
+        const time = new Date().toTimeString().slice(0, 8); // what comes after it, as an undo, is not in it
+        setText(this.box().querySelector('b'), `${actionText(result.action)}, ${time}`);
         this.box().querySelector('.verdicts').innerHTML = verdictCounts(result).map(({ verdict, count }) =>
             `<a verdict="${verdict}">${escapeMarkup(verdictText(verdict))} ${count}</a>`).join('');
         this.showMissing('');
         this.drawRows();
+        this.keepHeight();
     },
 
     // What did not come about stands first.
@@ -56,6 +63,7 @@ const resultList = {
     toggle() {
         if (this.box().hidden) {
             showElement(this.box(), true);
+            this.keepHeight();
         } else {
             this.close();
         }
@@ -73,6 +81,12 @@ const resultList = {
         Array.from(this.box().querySelectorAll('[verdict]')).forEach(link =>
             setClass(link, link.getAttribute('verdict') === this.verdict ? 'chosen' : ''));
         this.drawRows();
+    },
+
+    // It stands on its lower edge, and what has been pressed must stay under the pointer.
+    keepHeight() {
+        setStyle(this.box(), 'minHeight', '0px');
+        setStyle(this.box(), 'minHeight', `${this.box().offsetHeight}px`);
     },
 
     // Another group or filter is shown only when the user asks for it.

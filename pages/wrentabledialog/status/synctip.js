@@ -1,5 +1,5 @@
 // What the table can tell of a camera's sync, in the tip of its badge. Cameras are asked for it, so it is asked once a
-// tip.
+// tip, and not while they are armed: a slow one must not keep a press on the record button waiting.
 const syncTip = {
     key: '', // whose text stands in the tip
     verdict: '',
@@ -11,7 +11,7 @@ const syncTip = {
         const key = badge.getAttribute('dockey');
         if (tipOwner !== badge) {
             this.key = key;
-            this.verdict = wrentabledialog.getSyncVerdict(key);
+            this.verdict = wrentabledialog_obj.getListDisableStatus() ? '{}' : wrentabledialog.getSyncVerdict(key);
         }
         if (this.key !== key || !this.verdict) {
             return ''; // the row has been given to another camera, or there is none of that key
