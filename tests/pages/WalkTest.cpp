@@ -292,11 +292,17 @@ private:
         const int tab = m_page->number("$('#tabs').tabs('option', 'active')");
         const bool disabled = m_page->run("wrentabledialog_obj.getListDisableStatus()").toBool();
         const QStringList chosen = m_page->list("attention.on ? Array.from(attention.keys) : ['all']");
+        // In the view of odd rows they stand as they have joined.
+        DocKeyList keys = m_test.host.docManager().getDocKeys();
+        if (!chosen.contains("all")) {
+            keys.clear();
+            std::transform(chosen.begin(), chosen.end(), std::back_inserter(keys),
+                           [](const QString& key) { return key.toUInt(); });
+        }
         QStringList lines;
-        for (const DOCKEY key : m_test.host.docManager().getDocKeys()) {
+        for (const DOCKEY key : keys) {
             DOC_Interface* doc = m_test.host.docManager().getDocAny(key);
-            const bool isListed = chosen.contains("all") || chosen.contains(QString::number(key));
-            if (doc == nullptr || key == m_silent || !isListed) {
+            if (doc == nullptr || key == m_silent) {
                 continue;
             }
             const CameraState state = m_test.camera(key).state();
