@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
+#include <random>
+
 namespace {
 
 /// Eight cameras of all models, connected; keys: 1 Gate, 2 Ramp, 3 and 4 the heads of one device, 5 Roof, 6 Track, 7
@@ -36,6 +39,37 @@ protected:
         undo.beginMacro(text);
         try {
             test.host.cameraOps().setRecordRate(test.docs({1, 2, 3, 4, 5, 6, 7, 8}), rate);
+        } catch (const std::exception&) {
+        }
+        undo.endMacro();
+    }
+    /// A step that changes something of some of them.
+    void change(const std::function<unsigned(unsigned)>& any) {
+        QList<DOCKEY> keys;
+        for (DOCKEY key = 1; key <= 8; ++key) {
+            keys += any(3) == 0 ? QList<DOCKEY>() : QList<DOCKEY>{key};
+        }
+        ZebCameraOps& cameras = test.host.cameraOps();
+        ZebUndo& undo = test.host.undo();
+        const DocList docs = test.docs(keys);
+        undo.beginMacro("A step");
+        try {
+            switch (any(5)) {
+                case 0:
+                    cameras.setRecordRate(docs, any(2) == 0 ? 500 : 2000);
+                    break;
+                case 1:
+                    cameras.setShutterSpeed(docs, any(2) == 0 ? 1000 : 5000);
+                    break;
+                case 2:
+                    cameras.setResolution(docs, 512, any(2) == 0 ? 512 : 256);
+                    break;
+                case 3:
+                    cameras.setReduceMode(docs, any(2) == 0);
+                    break;
+                default:
+                    cameras.setLowLight(docs, any(2) == 0);
+            }
         } catch (const std::exception&) {
         }
         undo.endMacro();
@@ -191,6 +225,56 @@ TEST_F(Undo, AFaultAtAnyCallLosesNoCamerasValuesUntold) {
                 break;
             }
         }
+    }
+}
+
+TEST_F(Undo, StepsComeBackAndForthWhateverWaitedMeanwhile) {
+    for (unsigned seed = 1; seed <= 100; ++seed) {
+        std::mt19937 random(seed);
+        const auto any = [&random](unsigned count) { return random() % count; };
+        begin();
+        QStringList named;
+        const auto move = [&](bool back) {
+            const QString text = back ? test.host.undo().undo() : test.host.undo().redo();
+            named += told();
+            return text;
+        };
+        const auto moveAll = [&](bool back) {
+            int moves = 0;
+            while (!move(back).isEmpty() && moves < 60) {
+                ++moves;
+            }
+            EXPECT_LT(moves, 60) << "it never ends; seed " << seed;
+        };
+        const QVariantMap first = settings();
+        for (int step = 0; step < 6; ++step) {
+            change(any);
+        }
+        const QVariantMap last = settings();
+        for (int step = 0; step < 10; ++step) {
+            const DOCKEY key = 1 + any(8);
+            test.host.cameras().find(key)->change({{any(2) == 0 ? "locked" : "connected", any(2) == 0}});
+            move(any(3) != 0);
+        }
+        for (DOCKEY key = 1; key <= 8; ++key) {
+            test.host.cameras().find(key)->change({{"locked", false}, {"connected", true}});
+        }
+        const auto expect = [&](const QVariantMap& expected, const char* when) {
+            for (const Camera* camera : test.host.cameras().known()) {
+                const QString key = QString::number(camera->key());
+                const QString lost = camera->get(&CameraState::name) + ": it ";
+                const bool isNamed =
+                    named.join('\n').contains(lost + "was changed") || named.join('\n').contains(lost + "can't have");
+                EXPECT_TRUE(isNamed || settings()[key] == expected[key])
+                    << when << ", camera " << key.toStdString() << ", seed " << seed;
+            }
+        };
+        moveAll(true);
+        expect(first, "undone");
+        moveAll(false);
+        expect(last, "done again");
+        moveAll(true);
+        expect(first, "undone once more");
     }
 }
 

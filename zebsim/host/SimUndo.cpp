@@ -13,17 +13,18 @@
 #include "Translator.h"
 #include "UpdateCycle.h"
 
+#include <QHash>
 #include <QScopeGuard>
 #include <QSet>
 #include <QtDebug>
 
 #include <algorithm>
+#include <iterator>
 
 namespace {
 
 constexpr int MostSteps = 100;
 const QString LowLight = QStringLiteral("lowLight");
-const QString Shutter = QStringLiteral("shutter");
 
 bool isTool(const QString& text) {
     return text.isEmpty();
@@ -107,6 +108,7 @@ void SimUndo::endMacro() {
                                      found.camera->headNumber(),
                                      before,
                                      differing(now, found.settings),
+                                     found.settings.value(LowLight).toBool(),
                                      {}});
             }
         }
@@ -176,22 +178,15 @@ QString SimUndo::move(QList<Step>& from, QList<Step>& to, bool back) {
     // Event loops run below, and what comes in them may not take the same step.
     m_isMoving = true;
     const auto ended = qScopeGuard([this] { m_isMoving = false; });
-    QList<Change> open;
-    Choice choice;
-    for (const Change& change : step.changes) {
-        (waitsFor(from, place, change) ? choice.waiting : open) << change;
-    }
-    choose(choice, open, back);
-    const QList<Change> done = carryOut(choice, open, back);
+    Choice choice = choose(from, place, back);
+    const QList<Change> done = carryOut(choice, step.changes, back);
     m_host.updates.request();
     if (rig != m_rigs) {
         return step.text;
     }
     replace(from, {step.id, step.text, choice.waiting, done.isEmpty()});
-    if (!done.isEmpty() && !to.isEmpty() && to.last().id == step.id) {
-        to.last().changes += done;
-    } else if (!done.isEmpty()) {
-        to.append({step.id, step.text, done, false});
+    if (!done.isEmpty()) {
+        join(to, {step.id, step.text, done, false}, !back);
     }
     tell(step.text, done.size(), choice, back);
     return step.text;
@@ -207,48 +202,67 @@ void SimUndo::replace(QList<Step>& steps, const Step& part) {
     }
 }
 
+void SimUndo::join(QList<Step>& steps, const Step& part, bool newestLast) {
+    const auto place = std::find_if(steps.begin(), steps.end(), [&part, newestLast](const Step& step) {
+        return newestLast ? step.id >= part.id : step.id <= part.id;
+    });
+    if (place != steps.end() && place->id == part.id) {
+        place->changes += part.changes;
+    } else {
+        steps.insert(place, part);
+    }
+}
+
 /// Heads share settings, so that a device of which one is left alone is left alone as a whole.
-void SimUndo::choose(Choice& choice, const QList<Change>& changes, bool back) const {
+SimUndo::Choice SimUndo::choose(const QList<Step>& from, int place, bool back) const {
+    const QList<Change>& changes = from[place].changes;
     QList<HeadSettings> all;
     for (const Change& change : changes) {
         all.append({change.address, change.head, back ? change.before : change.after});
     }
     const LoadPlan plan = SettingsBatch(m_host).plan(all);
+    Choice choice;
     for (const QString& address : plan.absent) {
         choice.lines << line(address, TextKey("there is no such camera"));
     }
-    QSet<QString> left;
-    QSet<QString> lost;
+    QHash<QString, bool> left;  // addresses of devices, and whether they wait
     QList<const CameraPlan*> open;
     for (const CameraPlan& camera : plan.cameras) {
-        if (const Change* change = find(changes, camera.camera)) {
-            const Left why = whyLeft(camera, *change);
-            if (why.line.isEmpty()) {
-                open << &camera;
-                continue;
-            }
-            choice.lines << why.line;
-            left << change->address;
-            if (why.passes) {
-                choice.waiting << *change;
-            } else {
-                lost << change->address;
-            }
+        const Change* change = find(changes, camera.camera);
+        if (change == nullptr) {
+            continue;
         }
+        const Left why = waitsFor(from, place, *change)
+                             ? Left{line(camera.camera.label, TextKey("another change of it comes first")), true}
+                             : whyLeft(camera, *change);
+        if (why.line.isEmpty()) {
+            open << &camera;
+        } else {
+            choice.lines << why.line;
+            left[change->address] = why.passes && left.value(change->address, true);
+        }
+    }
+    QSet<const CameraPlan*> unfit;
+    for (const CameraPlan* camera : open) {
+        if (!left.contains(camera->camera.address) && !canHaveAll(*camera)) {
+            choice.lines << line(camera->camera.label, TextKey("it can't have all that it had, and stays as it is"));
+            unfit << camera;
+        }
+    }
+    for (const CameraPlan* camera : unfit) {
+        left[camera->camera.address] = false;
     }
     for (const CameraPlan* camera : open) {
         const Change& change = *find(changes, camera->camera);
-        if (left.contains(change.address)) {
-            choice.waiting << change;
-            choice.lines << line(camera->camera.label, TextKey("another head of the device stays as it is"));
-        } else if (!canHaveAll(*camera)) {
-            choice.lines << line(camera->camera.label, TextKey("it was changed since, and stays as it is"));
-        } else {
+        if (!left.contains(change.address)) {
             choice.wanted.append({change.address, change.head, back ? change.before : change.after});
+        } else if (!unfit.contains(camera)) {
+            choice.lines << line(camera->camera.label, TextKey("another head of the device stays as it is"));
         }
     }
-    const auto isLost = [&lost](const Change& change) { return lost.contains(change.address); };
-    choice.waiting.erase(std::remove_if(choice.waiting.begin(), choice.waiting.end(), isLost), choice.waiting.end());
+    std::copy_if(changes.begin(), changes.end(), std::back_inserter(choice.waiting),
+                 [&left](const Change& change) { return left.value(change.address, false); });
+    return choice;
 }
 
 SimUndo::Left SimUndo::whyLeft(const CameraPlan& camera, const Change& change) const {
@@ -258,7 +272,7 @@ SimUndo::Left SimUndo::whyLeft(const CameraPlan& camera, const Change& change) c
                             camera.left == CameraPlan::Recording || camera.left == CameraPlan::NotConnected;
         return {LoadTexts(m_host.translator).left(camera), passes};
     }
-    if (state.lowLight && !change.before.contains(LowLight) && change.before.keys() != QStringList{Shutter}) {
+    if (state.lowLight && !change.inLowLight && !change.before.contains(LowLight)) {
         return {line(camera.camera.label, TextKey("it is in low light mode, and stays as it is")), true};
     }
     if (!straysOf(change, state).isEmpty()) {

@@ -46,11 +46,13 @@ private:
         int head;
         QVariantMap before;
         QVariantMap after;
+        /// It was in low light mode before, so that it can go back in it.
+        bool inLowLight = false;
         /// What it has on the way, of neither side, since it took some of it.
         QVariantMap strays;
     };
     struct Step {
-        /// The same for the parts of one that was taken back bit by bit.
+        /// Grows with time, the same for the parts of one that was taken back bit by bit.
         int id;
         QString text;
         QList<Change> changes;
@@ -79,11 +81,14 @@ private:
     QString move(QList<Step>& from, QList<Step>& to, bool back);
     /// The step that comes next, -1 for none.
     static int nextOf(const QList<Step>& steps);
-    /// Whether a change of the step at `place` comes after one of the same device that waits in a later step.
+    /// Whether the device of a change of the step at `place` has another one before it, in a step behind that.
     static bool waitsFor(const QList<Step>& steps, int place, const Change& change);
     /// Puts the part that is left of a step in its place, none where it has no changes.
     static void replace(QList<Step>& steps, const Step& part);
-    void choose(Choice& choice, const QList<Change>& changes, bool back) const;
+    /// Adds a part to that of the same step, or in its place in time.
+    static void join(QList<Step>& steps, const Step& part, bool newestLast);
+    /// Of the step at `place`.
+    Choice choose(const QList<Step>& from, int place, bool back) const;
     Left whyLeft(const CameraPlan& camera, const Change& change) const;
     /// Answers the changes that have come about, and adds a line for each that has not.
     QList<Change> carryOut(Choice& choice, const QList<Change>& changes, bool back) const;
@@ -91,6 +96,7 @@ private:
     QString line(const QString& label, const QString& reason) const;
 
     const HostContext& m_host;
+    /// The one that comes next stands last: the newest to take back, the oldest to do again.
     QList<Step> m_undo;
     QList<Step> m_redo;
     /// The outermost macro that is open.

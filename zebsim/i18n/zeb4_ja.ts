@@ -3503,5 +3503,13 @@
         <source>Redo does it when they can be changed.</source>
         <translation>変更できるようになれば、「やり直し」で適用されます。</translation>
     </message>
+    <message>
+        <source>another change of it comes first</source>
+        <translation>先に戻す変更が残っています</translation>
+    </message>
+    <message>
+        <source>it can&apos;t have all that it had, and stays as it is</source>
+        <translation>元の値をすべて設定できないため、そのまま残ります</translation>
+    </message>
 </context>
 </TS>

@@ -8,6 +8,7 @@ const attention = {
     on: false,
     keys: new Set(), // of the rows that stand
     shown: null, // key of the camera behind the batch row, where the back end has one that does not stand
+    hidden: '', // key of that one
 
     initialize() {
         onClick('#wren_attention', () => {
@@ -48,13 +49,16 @@ const attention = {
 
     // The batch row says that it stands for these alone, and shows the values of one of them.
     batch(batch, records) {
+        const present = String(wrentabledialog.getBatchDocKey());
+        // A row that joins must not turn the batch row over while a hand is on its way to it.
+        const kept = this.on && present === this.hidden && records.find(record => record.key === this.shown);
         this.shown = null;
+        this.hidden = present;
         if (!this.on || batch.length === 0) {
             return batch;
         }
-        const present = String(wrentabledialog.getBatchDocKey());
         const last = records.filter(record => record.connected).pop() || records[records.length - 1];
-        const other = last && !this.keys.has(present) ? last : null;
+        const other = kept || (last && !this.keys.has(present) ? last : null);
         const own = wrentabledialog.isLiveMode() ? BATCH_MEMBERS : BATCH_MEMBERS.concat('frameRate');
         const record = Object.assign({}, other || batch[0]);
         own.filter(() => other).forEach(name => { record[name] = batch[0][name]; });

@@ -6,7 +6,7 @@ const resultList = {
     initialize() {
         this.box().addEventListener('click', event => guarded(() => this.press(event.target)));
         document.addEventListener('keydown', event => {
-            if (event.keyCode === KEY.ESCAPE && event.target === document.body) {
+            if (event.keyCode === KEY.ESCAPE && !event.target.matches('input, textarea')) {
                 this.close();
             }
         });
