@@ -1,5 +1,6 @@
 // What the user does to a page, and what becomes of it: an action that fails is shown, a press that is not taken too.
 const KEY = $.ui.keyCode;
+const PRESSING_KEYS = [KEY.SPACE, KEY.ENTER];
 const REFUSAL_MS = 800; // for so long a button shows that it did not take a press
 
 // Runs an action of the user; what it throws is shown.
@@ -34,8 +35,9 @@ function refusePress(button, text) {
     window.setTimeout(() => button.removeAttribute('refused'), REFUSAL_MS);
 }
 
-// Runs `work` with the element when the main button goes down on it. The second press of a double click is refused: it
-// may already meet another meaning of the element, which nobody has read yet.
+// Runs `work` with the element when the main button, Space or Enter goes down on it. The second press of a double click
+// is refused: it may already meet another meaning of the element, which nobody has read yet. A key that is held comes
+// here once.
 function onPress(selector, work) {
     $(selector).on('mousedown', event => {
         const button = event.currentTarget;
@@ -43,6 +45,12 @@ function onPress(selector, work) {
             refusePress(button, button.textContent);
         } else if (!event.button) {
             guarded(() => work(button));
+        }
+    });
+    $(selector).on('keydown', event => {
+        if (PRESSING_KEYS.includes(event.keyCode)) {
+            event.preventDefault();
+            guarded(() => work(event.currentTarget));
         }
     });
 }

@@ -110,7 +110,7 @@ void OtherHost::show(int tab) {
 QStringList OtherHost::rows() {
     return run("Array.from(document.querySelectorAll(`#grid_${wrentabledialog_obj.activeGrid().name}_records "
                "tr[recid]`),"
-               "           row => row.innerHTML).join('\\n')")
+               "           row => row.innerHTML.replace(' current=\"\"', '')).join('\\n')")
         .split('\n');
 }
 

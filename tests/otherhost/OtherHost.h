@@ -52,7 +52,7 @@ public:
     /// Brings a tab to the front and has it updated, if it is not there.
     void show(int tab);
     bool hasPage() { return run(QStringLiteral("!wrentabledialog_obj.initialize")) == QLatin1String("true"); }
-    /// The rows of the tab in front, as they stand in the page.
+    /// The rows of the tab in front, as they stand in the page, but for the place of the keyboard.
     QStringList rows();
     /// All cameras connected, selected and open, in live mode.
     void rest();

@@ -199,8 +199,18 @@ void TablePage::type(const QString& text) {
     settle();
 }
 
-void TablePage::key(Qt::Key key) {
-    QTest::keyClick(&handle(), key);
+void TablePage::key(Qt::Key key, Qt::KeyboardModifiers modifiers) {
+    QTest::keyClick(&handle(), key, modifiers);
+    settle();
+}
+
+void TablePage::hold(Qt::Key key, int repeats) {
+    QTest::keyPress(&handle(), key);
+    for (int i = 0; i < repeats; ++i) {
+        QKeyEvent again(QEvent::KeyPress, key, {}, QString(), true);
+        QCoreApplication::sendEvent(&view(), &again);
+    }
+    QTest::keyRelease(&handle(), key);
     settle();
 }
 

@@ -70,7 +70,9 @@ public:
     void releaseOutside();
     /// Types into what has the focus, see `typeText`.
     void type(const QString& text);
-    void key(Qt::Key key);
+    void key(Qt::Key key, Qt::KeyboardModifiers modifiers = {});
+    /// A key that is held down: it comes so many times more.
+    void hold(Qt::Key key, int repeats);
     /// Chooses in the drop-down of a row, by its list. `word` ends the name of the class of its select.
     void pick(const char* key, const char* word, const char* value);
 

@@ -3,6 +3,7 @@
 #include "GUI_WebPage.h"
 
 #include <QFocusEvent>
+#include <QKeyEvent>
 #include <QWebElement>
 #include <QWebFrame>
 
@@ -27,6 +28,24 @@ void GUI_WebView::focusOutEvent(QFocusEvent* event) {
         frame.findFirstElement(QStringLiteral(":focus")).evaluateJavaScript(QStringLiteral("this.blur()"));
     }
     QWebView::focusOutEvent(event);
+}
+
+void GUI_WebView::keyPressEvent(QKeyEvent* event) {
+    const int key = event->key();
+    const bool presses = key == Qt::Key_Space || key == Qt::Key_Return || key == Qt::Key_Enter ||
+                         key == Qt::Key_Escape || key == Qt::Key_Menu || (key >= Qt::Key_F1 && key <= Qt::Key_F35);
+    if (event->isAutoRepeat() && presses && !isTyping(key)) {
+        event->accept();
+        return;
+    }
+    QWebView::keyPressEvent(event);
+}
+
+bool GUI_WebView::isTyping(int key) const {
+    const QString texts = key == Qt::Key_Space ? QStringLiteral("textarea:focus, input[type=text]:focus")
+                                               : QStringLiteral("textarea:focus");
+    return (key == Qt::Key_Space || key == Qt::Key_Return || key == Qt::Key_Enter) &&
+           !page()->mainFrame()->findFirstElement(texts).isNull();
 }
 
 void GUI_WebView::showCustomContextMenu(QPoint pos) {

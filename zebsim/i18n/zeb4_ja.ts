@@ -3511,5 +3511,89 @@
         <source>it can&apos;t have all that it had, and stays as it is</source>
         <translation>元の値をすべて設定できないため、そのまま残ります</translation>
     </message>
+    <message>
+        <source>Keys of the table</source>
+        <translation>テーブルのキー操作</translation>
+    </message>
+    <message>
+        <source>Arrows, Home, End, Page</source>
+        <translation>矢印、Home、End、Page</translation>
+    </message>
+    <message>
+        <source>to another cell; with Ctrl to the first or last one</source>
+        <translation>セルの移動。Ctrl とともに最初または最後へ</translation>
+    </message>
+    <message>
+        <source>Space, Enter</source>
+        <translation>Space、Enter</translation>
+    </message>
+    <message>
+        <source>work the control of the cell, else select or unselect the row</source>
+        <translation>セルの操作。なければ行の選択または解除</translation>
+    </message>
+    <message>
+        <source>into a number, a slider, a comment or the icons of plug-ins</source>
+        <translation>数値、スライダー、コメント、プラグインのアイコンの入力へ</translation>
+    </message>
+    <message>
+        <source>back to the cell; closes a list</source>
+        <translation>セルへ戻る。リストを閉じる</translation>
+    </message>
+    <message>
+        <source>Shift with arrows, Home, End, Page</source>
+        <translation>Shift+矢印、Home、End、Page</translation>
+    </message>
+    <message>
+        <source>select rows</source>
+        <translation>行の選択</translation>
+    </message>
+    <message>
+        <source>select or unselect the row</source>
+        <translation>行の選択または解除</translation>
+    </message>
+    <message>
+        <source>select all connected rows that are listed</source>
+        <translation>一覧にある接続中の行をすべて選択</translation>
+    </message>
+    <message>
+        <source>Menu key, Shift+F10</source>
+        <translation>メニューキー、Shift+F10</translation>
+    </message>
+    <message>
+        <source>what the right mouse button opens</source>
+        <translation>右クリックのメニュー</translation>
+    </message>
+    <message>
+        <source>Tab, Shift+Tab</source>
+        <translation>Tab、Shift+Tab</translation>
+    </message>
+    <message>
+        <source>to the next button, or back</source>
+        <translation>次のボタンへ、または前へ</translation>
+    </message>
+    <message>
+        <source>Space, Enter on Record or Cancel</source>
+        <translation>撮影・キャンセル上の Space、Enter</translation>
+    </message>
+    <message>
+        <source>one press, until the key is let go</source>
+        <translation>キーを離すまで 1 回の操作</translation>
+    </message>
+    <message>
+        <source>F2</source>
+        <translation>F2</translation>
+    </message>
+    <message>
+        <source>Esc</source>
+        <translation>Esc</translation>
+    </message>
+    <message>
+        <source>Shift+Space</source>
+        <translation>Shift+Space</translation>
+    </message>
+    <message>
+        <source>Ctrl+A</source>
+        <translation>Ctrl+A</translation>
+    </message>
 </context>
 </TS>

@@ -44,7 +44,6 @@ function dropDownColumn(options) {
             }
             const disabled = options.locked(record) || status.disabled;
             cell.classes('frame', disabled ? 'SumoSelect compact disabled' : 'SumoSelect compact');
-            cell.attribute('frame', 'tabindex', disabled ? '-1' : '0');
             cell.flag('select', 'disabled', disabled);
         },
         leave: cell => dropDown.closeOf(cell),
@@ -193,7 +192,8 @@ COLUMNS.lowlight = {
         <span class="wren-slider-container" dockey><label dockey>${dark}</label>
         <div class="wren_slider_lowlight ui-slider ui-slider-horizontal ui-widget ui-widget-content ui-corner-all"
             part="slider" id="wren_slider_lowlight_" dockey
-            ><span class="ui-slider-handle ui-state-default ui-corner-all" part="handle" dockey></span></div>
+            ><span class="ui-slider-handle ui-state-default ui-corner-all" part="handle" tabindex="-1"
+            dockey></span></div>
         <label dockey>${bright}</label><span class="slider-result" part="result" dockey>0</span></span>
         </div>`;
     },
@@ -215,7 +215,6 @@ COLUMNS.lowlight = {
         cell.flag('on', 'disabled', disabled);
         cell.flag('off', 'disabled', disabled);
         cell.flag('slider', 'disabled', still);
-        cell.attribute('handle', 'tabindex', still ? '-1' : '0');
     },
     // The button that stands says what a click makes of it: the first one while the mode is off.
     click(place, part) {

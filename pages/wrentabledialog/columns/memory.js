@@ -12,7 +12,8 @@ COLUMNS.recordCheck = {
     still: true,
     empty: record => isOffOrBatch(record) || record.totalFrame < 1,
     markup: `<div class="flexWrapper" part="wrapper" dockey>
-        <input type="checkbox" class="wren_checkbox_recordCheck" part="box" id="wren_{short}_recordCheck_" dockey>
+        <input type="checkbox" class="wren_checkbox_recordCheck" part="box" tabindex="-1"
+            id="wren_{short}_recordCheck_" dockey>
         </div>`,
     // Only cameras that are selected can be checked, so the box of another one is off.
     tick(cell, record, status) {
@@ -41,7 +42,8 @@ function spinnerColumn(options) {
         needs: options.needs.concat('totalFrame'),
         still: true,
         empty: record => isOff(record) || !record.totalFrame,
-        markup: `<input type="text" class="spinner" part="input" id="wren_spinner_${options.word}" dockey>`,
+        markup: `<input type="text" class="spinner" tabindex="-1" part="input"
+            id="wren_spinner_${options.word}" dockey>`,
         rebuild(cell, record) {
             showNumber(cell, options.value(record));
         },

@@ -74,7 +74,7 @@ function doAccept(cell, key, icon, name, isOkPat) {
     }
     const id = `${icon}_${key}`;
     const box = cell.parts['box ' + icon] = iconPart('input',
-        { type: 'checkbox', id, checked: '', plgName: icon, dockey: key });
+        { type: 'checkbox', id, checked: '', tabindex: -1, plgName: icon, dockey: key });
     // Such a plug-in changes the images only when its dialog is left by OK.
     if (isOkPat) {
         box.setAttribute('plgPat', 'OK');

@@ -1,7 +1,4 @@
 // What the user does in the list of custom information.
-const MENU_KEY = 93;
-const F2 = 113;
-const F10 = 121;
 const CUSTOM_PAGE = 4; // rows of a page
 
 function listenToCustomList() {

@@ -39,7 +39,7 @@ const dropDown = {
                 return; // it closes once more when the keyboard leaves what was removed
             }
             if (this.holder.contains(document.activeElement)) {
-                cell.parts.frame.focus();
+                viewAt(wrentabledialog_obj.activeTab()).cursor.focus();
             }
             this.remove();
             if (chosen !== null) {

@@ -2,7 +2,6 @@
 // The rows have no handler of their own, so nothing is bound anew when they are drawn.
 
 const SLIDER_KEYS = [KEY.PAGE_UP, KEY.PAGE_DOWN, KEY.END, KEY.HOME, KEY.LEFT, KEY.UP, KEY.RIGHT, KEY.DOWN];
-const OPENING_KEYS = [KEY.ENTER, KEY.SPACE, KEY.UP, KEY.DOWN];
 
 function listenToGrid(view) {
     const box = view.grid.box;
@@ -17,12 +16,18 @@ function listenToGrid(view) {
     box.addEventListener('focusin', event => onGridFocus(view, event), true);
     box.addEventListener('focusout', event => onGridBlur(event), true);
     box.addEventListener('mousemove', event => event.target.closest('.w2ui-head') && view.placeHandles(), true);
+    box.tabIndex = 0; // the one stop of Tab
+    box.addEventListener('focus', () => view.cursor.mark());
 }
 
 // A click on a control ends here, so what closes on a click elsewhere is closed beforehand.
 function onGridPress(view, event) {
     wrentabledialog_obj.isCursorDown = true;
     wrentabledialog_obj.beginPress(view, event);
+    const place = placeUnder(view, event.target, 'td');
+    if (place && place.cell) {
+        view.cursor.put(place.row, place.cell);
+    }
     wrentabledialog_obj.closeFloating();
     closeFilter();
     onGridMove(view, event);
@@ -130,8 +135,16 @@ function useControl(view, row, cell, control) {
     }
 }
 
-// Space, Enter and the arrows open the list of the drop-down that has the focus. A slider knows its keys by itself.
+// A slider knows its keys by itself.
 function onGridKey(view, event) {
+    if (event.target === view.grid.box) {
+        onCursorKey(view, event);
+        return;
+    }
+    if (event.keyCode === KEY.ESCAPE && !numberBox.isInput(event.target)) {
+        view.cursor.focus();
+        return;
+    }
     const slider = SLIDER_KEYS.includes(event.keyCode) && sliderUnder(view, event.target);
     if (slider) {
         lowLightSlider.hold(view, slider.row, slider.cell, false);
@@ -140,14 +153,6 @@ function onGridKey(view, event) {
     holdNumber(view, event.target);
     if (numberBox.isInput(event.target)) {
         onNumberKey(event);
-        return;
-    }
-    const row = view.rowOf(event.target);
-    const cell = row && row.cellOf(event.target);
-    const closed = event.target.matches('.SumoSelect[dockey]:not(.disabled)');
-    if (cell && closed && OPENING_KEYS.includes(event.keyCode)) {
-        event.preventDefault();
-        useControl(view, row, cell, event.target);
     }
 }
 
@@ -170,6 +175,7 @@ function onNumberKey(event) {
     } else if (event.keyCode === KEY.ESCAPE) {
         event.preventDefault();
         numberBox.revert();
+        view.cursor.focus();
     } else if (event.keyCode === 65 && event.ctrlKey) { // the grid keeps texts from being marked
         event.preventDefault();
         event.target.select();

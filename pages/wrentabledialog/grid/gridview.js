@@ -23,6 +23,7 @@ class GridView {
         this.owed = false;
         this.pointed = null; // key of the row that was led to
         this.focusedKey = null; // of the row that had the keyboard, while its frame is exchanged
+        this.cursor = new GridCursor(this);
         this.override();
     }
 
@@ -72,6 +73,9 @@ class GridView {
 
     // The key of the camera whose row has the keyboard; null when none has.
     keyWithFocus() {
+        if (this.cursor.isFocused) {
+            return this.cursor.key;
+        }
         const row = this.rows.find(other => other.element.contains(document.activeElement));
         return row ? row.key : null;
     }
@@ -150,6 +154,7 @@ class GridView {
             this.tickRow(this.batch);
             markDifferences(this);
         }
+        this.cursor.mark();
         followTip();
     }
 
@@ -231,6 +236,7 @@ class GridView {
         });
         placeRows(this);
         this.showSelection();
+        this.cursor.mark();
     }
 
     putAway(row) {
@@ -263,6 +269,7 @@ class GridView {
         if (place) {
             place.parentNode.replaceChild(this.batch.element, place);
         }
+        this.cursor.mark();
     }
 
     showSelection() {

@@ -52,6 +52,7 @@ Object.assign(wrentabledialog_obj, {
         this.whenPainted(() => statusLine.refresh());
         this.refreshRecords(active, automatic);
         this.resizeTableElements();
+        this.whenPainted(() => keyboardHome.keep());
     },
 
     // Our sheet comes after the host's, which may have changed with the style or the mode.

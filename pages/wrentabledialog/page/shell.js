@@ -120,6 +120,7 @@ Object.assign(wrentabledialog_obj, {
         // Else the tab widget's own arrow keys would change the tab.
         header.find('a').get(0).blur();
         header.get(0).blur();
+        viewAt(number).cursor.focus();
     }
 });
 

@@ -16,6 +16,8 @@ Object.assign(wrentabledialog_obj, {
         this.initializeExternalSyncArea();
         this.initializeMenus();
         statusLine.initialize();
+        keyHelp.initialize();
+        keyboardHome.initialize();
     },
 
     // What the dialog has changed shows at once.

@@ -40,7 +40,7 @@ const resultList = {
         const time = new Date().toTimeString().slice(0, 8); // what comes after it, as an undo, is not in it
         setText(this.box().querySelector('b'), `${actionText(result.action)}, ${time}`);
         this.box().querySelector('.verdicts').innerHTML = verdictCounts(result).map(({ verdict, count }) =>
-            `<a verdict="${verdict}">${escapeMarkup(verdictText(verdict))} ${count}</a>`).join('');
+            `<a verdict="${verdict}" tabindex="0">${escapeMarkup(verdictText(verdict))} ${count}</a>`).join('');
         this.showMissing('');
         this.drawRows();
         this.keepHeight();
@@ -120,7 +120,7 @@ function resultHeadMarkup() {
 }
 
 function resultRowMarkup(row) {
-    const cells = [`<a rowkey="${escapeMarkup(row.key)}">${escapeMarkup(row.name || row.key)}</a>`]
+    const cells = [`<a rowkey="${escapeMarkup(row.key)}" tabindex="0">${escapeMarkup(row.name || row.key)}</a>`]
         .concat([verdictText(row.verdict), row.asked, row.got].map(escapeMarkup));
     const reason = row.reason ? `<tr class="reason"><td colspan="4">${escapeMarkup(row.reason)}</td></tr>` : '';
     return `<tr verdict-of="${escapeMarkup(row.verdict)}"><td>${cells.join('</td><td>')}</td></tr>${reason}`;

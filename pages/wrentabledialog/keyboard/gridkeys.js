@@ -1,0 +1,156 @@
+// What keys do in a grid whose box has the keyboard.
+const MENU_KEY = 93;
+const F2 = 113;
+const F10 = 121;
+const CONTROLS = 'a[dockey]:not([hidden]), .SumoSelect[dockey], input[type="checkbox"], input.spinner';
+
+function onCursorKey(view, event) {
+    const { cursor } = view;
+    cursor.mark();
+    if (cursor.key === null || event.altKey || event.metaKey) {
+        return;
+    }
+    const keys = event.shiftKey ? shiftedKeys : event.ctrlKey ? controlKeys : plainKeys;
+    const work = moveOf(view, event) || keys[event.keyCode];
+    if (work) {
+        event.preventDefault();
+        event.stopPropagation();
+        guarded(() => work(view));
+    }
+}
+
+// Where a key leads, as work; nothing for a key that leads nowhere.
+function moveOf({ cursor, height, grid }, { keyCode, ctrlKey, shiftKey }) {
+    const page = Math.max(1, Math.floor(height / grid.recordHeight) - 1);
+    const last = cursor.lineCount() - 1;
+    const end = cursor.columns().length - 1;
+    const place = {
+        [KEY.UP]: [ctrlKey ? 0 : cursor.line - 1, cursor.column],
+        [KEY.DOWN]: [ctrlKey ? last : cursor.line + 1, cursor.column],
+        [KEY.PAGE_UP]: [cursor.line - page, cursor.column],
+        [KEY.PAGE_DOWN]: [cursor.line + page, cursor.column],
+        [KEY.LEFT]: [cursor.line, ctrlKey ? 0 : cursor.column - 1],
+        [KEY.RIGHT]: [cursor.line, ctrlKey ? end : cursor.column + 1],
+        [KEY.HOME]: [ctrlKey ? 0 : cursor.line, 0],
+        [KEY.END]: [ctrlKey ? last : cursor.line, end]
+    }[keyCode];
+    return place && (() => {
+        cursor.anchor = shiftKey ? cursor.anchor || cursor.key : null;
+        cursor.moveTo(...place);
+        if (shiftKey && takesInput(cursor)) {
+            cursor.selectTo();
+        }
+    });
+}
+
+const plainKeys = {
+    [KEY.SPACE]: view => useCursor(view),
+    [KEY.ENTER]: view => useCursor(view),
+    [F2]: view => enterCell(view),
+    [MENU_KEY]: view => openCellMenu(view)
+};
+const shiftedKeys = {
+    [KEY.SPACE]: view => toggleRow(view),
+    [F10]: view => openCellMenu(view)
+};
+const controlKeys = {
+    65: ({ cursor }) => { // A
+        if (takesInput(cursor)) {
+            wrentabledialog_obj.preventSelect = false;
+            wrentabledialog_obj.selectAll();
+        }
+    }
+};
+
+// While the rows take no input only moving goes on, and the rest says why not.
+function takesInput(cursor) {
+    const { view } = cursor;
+    if (!view.status.disabled) {
+        return true;
+    }
+    tellWhy(cursor.shown);
+    return false;
+}
+
+// Works the control of the cell as a click does; without one it toggles the row's selection.
+function useCursor(view) {
+    const place = view.cursor.place();
+    const control = place && controlOf(place.cell);
+    if (!place) {
+        return;
+    }
+    if (!control) {
+        toggleRow(view);
+    } else if (control.matches('[disabled], .disabled')) {
+        tellWhy(control);
+    } else if (control.matches('input.spinner')) {
+        enterCell(view);
+    } else if (control.matches('input')) {
+        control.click();
+    } else {
+        place.cell.forget();
+        useControl(view, place.row, place.cell, control);
+    }
+}
+
+function controlOf(cell) {
+    return cell.filled ? cell.box.querySelector(CONTROLS) : null;
+}
+
+function toggleRow(view) {
+    const { cursor, grid } = view;
+    if (!takesInput(cursor)) {
+        return;
+    }
+    if (isBatch(cursor)) {
+        wrentabledialog_obj.preventSelect = false;
+        wrentabledialog_obj.selectAll();
+        return;
+    }
+    wrentabledialog_obj.pickRow(grid, cursor.line, { ctrlKey: true });
+    wrentabledialog_obj.handGesture(view);
+}
+
+// Into what takes keys of its own: a number, a slider, the icons of plug-ins, or the dialog of a comment.
+function enterCell(view) {
+    const place = view.cursor.place();
+    const { cell, row } = place || {};
+    if (!place || !cell.filled) {
+        return;
+    }
+    const inner = cell.parts.input || cell.parts.handle || cell.box.querySelector('input[type="checkbox"]');
+    if (cell.kind.doubleClick) {
+        cell.kind.doubleClick(view, row.key);
+    } else if (!inner) {
+        useCursor(view);
+    } else if (inner.disabled || inner.parentNode.hasAttribute('disabled')) {
+        tellWhy(inner);
+    } else {
+        inner.focus();
+        if (inner.select && inner.type === 'text') {
+            inner.select();
+        }
+    }
+}
+
+function openCellMenu(view) {
+    const place = view.cursor.place();
+    const label = place && place.cell.filled && place.cell.box.querySelector('label[plgName]');
+    if (label && place.cell.kind.menu) {
+        const { left, bottom } = label.getBoundingClientRect();
+        place.cell.kind.menu(place.row.key, label, {
+            screenX: window.screenX + Math.round(left),
+            screenY: window.screenY + Math.round(bottom)
+        });
+    }
+}
+
+// The reason why a control takes nothing stands in it or around it.
+function tellWhy(element) {
+    const holder = element && element.closest('[why]');
+    if (holder) {
+        $(holder).trigger('mouseover');
+    } else {
+        logUnused('not taken', 'Cell', element ? element.id : '', '');
+    }
+}
