@@ -68,6 +68,10 @@ TEST(PageKeys, WorkTheControlOfTheCellElseSelect) {
     page.key(Qt::Key_Down);
     EXPECT_EQ(made(Qt::Key_Return).size(), 1);
     EXPECT_TRUE(page.run(HasKeyboard).toBool()) << "a list gives it back";
+    page.run("viewAt(1).cursor.moveTo(0, 0); return 0");
+    test.host.faults().plant(1, "*", {{}, 0, true});
+    page.tick();
+    EXPECT_EQ(made(Qt::Key_Space), QStringList()) << "its camera has gone";
     page.key(Qt::Key_F1);
     EXPECT_TRUE(page.run("$('#wren_keys').is(':visible')").toBool());
     page.key(Qt::Key_Escape);

@@ -7,7 +7,7 @@ const CONTROLS = 'a[dockey]:not([hidden]), .SumoSelect[dockey], input[type="chec
 function onCursorKey(view, event) {
     const { cursor } = view;
     cursor.mark();
-    if (cursor.key === null || event.altKey || event.metaKey) {
+    if (cursor.key === null || event.altKey || event.metaKey || wrentabledialog_obj.gridLock) {
         return;
     }
     const keys = event.shiftKey ? shiftedKeys : event.ctrlKey ? controlKeys : plainKeys;
@@ -65,7 +65,8 @@ const controlKeys = {
 // While the rows take no input only moving goes on, and the rest says why not.
 function takesInput(cursor) {
     const { view } = cursor;
-    if (!view.status.disabled) {
+    const place = cursor.place();
+    if (!view.status.disabled && place && !place.row.element.hasAttribute('unlisted')) {
         return true;
     }
     tellWhy(cursor.shown);
@@ -76,7 +77,7 @@ function takesInput(cursor) {
 function useCursor(view) {
     const place = view.cursor.place();
     const control = place && controlOf(place.cell);
-    if (!place) {
+    if (!place || !takesInput(view.cursor)) {
         return;
     }
     if (!control) {
@@ -115,7 +116,7 @@ function toggleRow(view) {
 function enterCell(view) {
     const place = view.cursor.place();
     const { cell, row } = place || {};
-    if (!place || !cell.filled) {
+    if (!place || !cell.filled || !takesInput(view.cursor)) {
         return;
     }
     const inner = cell.parts.input || cell.parts.handle || cell.box.querySelector('input[type="checkbox"]');
