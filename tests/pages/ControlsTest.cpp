@@ -36,7 +36,13 @@ const char* Describe = R"js(
     });
     const colours = $('#wren-root-block, #accordion_div').get().map(element =>
         (element.className.match(/wren-table-color-\w+/g) || ['none']).join('+'));
-    return [words.filter(word => word).sort().join(' '),
+    // What is greyed and does not say why, or says why and is not greyed.
+    const odd = $('button, input, select, a, #tabs > ul > li').get().filter(element => {
+        const holder = titleHolder(element);
+        const greyed = isGreyed(element);
+        return greyed ? !holder.title && !element.closest('[why]') : element.title || element.closest('td [why]');
+    });
+    return [words.filter(word => word).sort().join(' ') + odd.map(element => ' mute or stale: ' + element.id).join(),
         parts.filter(part => getComputedStyle($(part)[0]).display === 'none').sort().join(' '),
         String($('#tabs').tabs('option', 'disabled')),
         colours.join(' ')];
@@ -223,6 +229,21 @@ TEST_F(PageControls, FollowStatesThatMeet) {
     }
 }
 
+TEST_F(PageControls, SayWhyWhateverMeets) {
+    for (const State* one = std::begin(States); one != std::end(States); ++one) {
+        for (const State* other = one + 1; other != std::end(States); ++other) {
+            test.host.flags().set(one->name, true);
+            EXPECT_FALSE(with(other->name, true)[0].contains("mute")) << one->name << " and " << other->name;
+            test.host.flags().set(one->name, false);
+            EXPECT_FALSE(with(other->name, false)[0].contains("mute")) << one->name << " and " << other->name;
+        }
+    }
+    test.host.flags().set("IsConflictPartition", true);
+    with("ExistLowlight", true);
+    EXPECT_EQ(page->text("document.getElementById('timeline_rec_exec').title"),
+              "A camera is in low light mode. The partitions of the cameras differ.");
+}
+
 TEST_F(PageControls, ShowTheRecordStatusOnTheirFaces) {
     const char* faces = R"js(
         $('#timeline_rec_exec, #timeline_rec_cancel').get().map(button => `${button.className}: ${button.innerHTML}`)
@@ -246,7 +267,7 @@ TEST_F(PageControls, ShowTheRecordStatusOnTheirFaces) {
 /// Whatever a page's library or a user does to the controls, the next cycle sets right.
 TEST_F(PageControls, AreRightAgainAfterTheNextCycle) {
     const char* upset = R"js(
-        $('button, #recordFilter, .groupButton, #timeline_trigger_test, #wren_io_setting').get().forEach(element => {
+        $('button:not(#wren_attention), #recordFilter, .groupButton, #timeline_trigger_test, #wren_io_setting').get().forEach(element => {
             if (element.hasAttribute('disabled')) {
                 element.removeAttribute('disabled');
             } else {
@@ -261,7 +282,8 @@ TEST_F(PageControls, AreRightAgainAfterTheNextCycle) {
         $('#caption_on_off, #recording_partition').text('?');
     )js";
     const char* values = R"js(
-        return [$('.exec-recording button').get().map(button => button.outerHTML).join(),
+        return [$('.exec-recording button').get().map(button =>
+                [button.className, button.disabled, button.title, button.innerHTML].join()).join(),
             $('#timeline_trigger_test, #timeline_stopLiveCheckbox').get().map(box => box.checked).join(),
             $('#caption_on_off').text(), $('#recording_partition').text()];
     )js";

@@ -78,6 +78,42 @@ TEST(PageKeys, WorkTheControlOfTheCellElseSelect) {
     EXPECT_TRUE(page.run(HasKeyboard).toBool());
 }
 
+TEST(PageKeys, TellWhyACellTakesNothing) {
+    TestHost test(connected(3));
+    TablePage page(test, 1);
+    test.camera(1).change({{"locked", true}});
+    test.camera(2).change({{"lowLight", true}});
+    page.update();
+    const auto why = [&](const char* field, DOCKEY key) {
+        return page.text(QString("viewAt(1).rows.find(row => row.key === '%1').cells.find(cell => cell.field === '%2')"
+                                 ".box.getAttribute('why') || ''")
+                             .arg(key)
+                             .arg(field));
+    };
+    const auto tip = [&](Qt::Key key) {
+        page.key(key);
+        return page.text("$('.ui-tooltip-content').text()");
+    };
+    EXPECT_EQ(why("frameRate", 1), "The camera is locked.");
+    EXPECT_EQ(why("frameRate", 2), "The camera is in low light mode.");
+    EXPECT_EQ(why("shutterSpeed", 2) + why("frameRate", 3) + why("lock", 1), "");
+    page.run("viewAt(1).cursor.field = 'frameRate'; viewAt(1).cursor.mark(); return 0");
+    EXPECT_EQ(page.made("^set", [&] { page.key(Qt::Key_Return); }), QStringList());
+    EXPECT_EQ(tip(Qt::Key_F2), "The camera is locked.");
+    EXPECT_EQ(tip(Qt::Key_Right), "");
+    test.host.flags().set("IsReady", true);
+    page.update();
+    EXPECT_EQ(why("frameRate", 2), "The camera is in low light mode. Cameras are ready to record.");
+    EXPECT_EQ(page.tick(), QStringList());
+    page.run("viewAt(1).cursor.field = 'cameraName'; viewAt(1).cursor.mark(); return 0");
+    EXPECT_EQ(tip(Qt::Key_Space), "The camera is locked. Cameras are ready to record.");
+    test.host.flags().set("IsReady", false);
+    test.camera(1).change({{"locked", false}});
+    page.tick();
+    EXPECT_EQ(page.text("$('.ui-tooltip-content').text()"), "") << "no reason stands that does not hold";
+    EXPECT_EQ(why("frameRate", 1) + why("lock", 2), "");
+}
+
 TEST(PageKeys, HeldDownPressOnce) {
     TestHost test(connected(2));
     TablePage page(test, 1);

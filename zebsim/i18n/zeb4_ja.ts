@@ -3595,5 +3595,185 @@
         <source>Ctrl+A</source>
         <translation>Ctrl+A</translation>
     </message>
+    <message>
+        <source>Only in live mode.</source>
+        <translation>ライブモードでのみ使えます。</translation>
+    </message>
+    <message>
+        <source>Not while files are shown.</source>
+        <translation>ファイルの表示中は使えません。</translation>
+    </message>
+    <message>
+        <source>Cameras wait for the CTS signal.</source>
+        <translation>カメラは CTS 信号を待っています。</translation>
+    </message>
+    <message>
+        <source>Cameras are ready to record.</source>
+        <translation>カメラは記録待機中です。</translation>
+    </message>
+    <message>
+        <source>Cameras are recording.</source>
+        <translation>カメラは記録中です。</translation>
+    </message>
+    <message>
+        <source>Nothing is being recorded.</source>
+        <translation>記録していません。</translation>
+    </message>
+    <message>
+        <source>The recording has failed.</source>
+        <translation>記録に失敗しました。</translation>
+    </message>
+    <message>
+        <source>Images are being saved.</source>
+        <translation>画像を保存しています。</translation>
+    </message>
+    <message>
+        <source>There is no camera in the list.</source>
+        <translation>リストにカメラがありません。</translation>
+    </message>
+    <message>
+        <source>No camera has its window open.</source>
+        <translation>カメラのウィンドウが開いていません。</translation>
+    </message>
+    <message>
+        <source>A camera is in low light mode.</source>
+        <translation>低照度モードのカメラがあります。</translation>
+    </message>
+    <message>
+        <source>All cameras are in low light mode.</source>
+        <translation>すべてのカメラが低照度モードです。</translation>
+    </message>
+    <message>
+        <source>No camera is in low light mode.</source>
+        <translation>低照度モードのカメラはありません。</translation>
+    </message>
+    <message>
+        <source>A lens is being calibrated.</source>
+        <translation>レンズを校正しています。</translation>
+    </message>
+    <message>
+        <source>The partitions of the cameras differ.</source>
+        <translation>カメラのパーティションが一致していません。</translation>
+    </message>
+    <message>
+        <source>Cameras save while they record.</source>
+        <translation>カメラは記録しながら保存します。</translation>
+    </message>
+    <message>
+        <source>Automatic exposure is being set.</source>
+        <translation>自動露出を設定しています。</translation>
+    </message>
+    <message>
+        <source>A trigger input is being set.</source>
+        <translation>トリガー入力を設定しています。</translation>
+    </message>
+    <message>
+        <source>A variable setting is being made.</source>
+        <translation>可変設定の変更中です。</translation>
+    </message>
+    <message>
+        <source>A point is being tracked.</source>
+        <translation>点を追跡しています。</translation>
+    </message>
+    <message>
+        <source>A command is on its way to a camera.</source>
+        <translation>カメラにコマンドを送信しています。</translation>
+    </message>
+    <message>
+        <source>An image is being adjusted.</source>
+        <translation>画像を調整しています。</translation>
+    </message>
+    <message>
+        <source>Defect pixels are being looked for.</source>
+        <translation>欠陥画素を検出しています。</translation>
+    </message>
+    <message>
+        <source>The image trigger is being looked for.</source>
+        <translation>画像トリガーを検出しています。</translation>
+    </message>
+    <message>
+        <source>The image trigger takes its pictures.</source>
+        <translation>画像トリガーの画像を取得しています。</translation>
+    </message>
+    <message>
+        <source>Another plug-in has the cameras.</source>
+        <translation>別のプラグインがカメラを使っています。</translation>
+    </message>
+    <message>
+        <source>All cameras are locked.</source>
+        <translation>すべてのカメラがロックされています。</translation>
+    </message>
+    <message>
+        <source>Only while live is stopped.</source>
+        <translation>ライブの停止中のみ使えます。</translation>
+    </message>
+    <message>
+        <source>The cameras are being armed.</source>
+        <translation>カメラを記録待機にしています。</translation>
+    </message>
+    <message>
+        <source>The list is empty.</source>
+        <translation>リストが空です。</translation>
+    </message>
+    <message>
+        <source>With these settings no camera can be synchronised.</source>
+        <translation>この設定では同期できるカメラがありません。</translation>
+    </message>
+    <message>
+        <source>A recording is being saved.</source>
+        <translation>記録を保存しています。</translation>
+    </message>
+    <message>
+        <source>The camera is in low light mode.</source>
+        <translation>カメラは低照度モードです。</translation>
+    </message>
+    <message>
+        <source>All cameras of the list are locked.</source>
+        <translation>リストのカメラはすべてロックされています。</translation>
+    </message>
+    <message>
+        <source>The camera does not tell its lock.</source>
+        <translation>カメラのロック状態が分かりません。</translation>
+    </message>
+    <message>
+        <source>The camera keeps its live speed for now.</source>
+        <translation>カメラは今はライブ速度を変えられません。</translation>
+    </message>
+    <message>
+        <source>Only in low light mode.</source>
+        <translation>低照度モードでのみ使えます。</translation>
+    </message>
+    <message>
+        <source>Only selected cameras can be checked.</source>
+        <translation>チェックできるのは選択したカメラだけです。</translation>
+    </message>
+    <message>
+        <source>The camera is not in the list any more.</source>
+        <translation>カメラはもうリストにありません。</translation>
+    </message>
+    <message>
+        <source>Taken by a mobile device</source>
+        <translation>モバイル機器が使用中</translation>
+    </message>
+    <message>
+        <source>Not checked</source>
+        <translation>チェックなし</translation>
+    </message>
+    <message>
+        <source>Locked</source>
+        <translation>ロック中</translation>
+    </message>
+    <message>
+        <source>Unlocked</source>
+        <translation>ロック解除</translation>
+    </message>
+    <message>
+        <source>Checked</source>
+        <translation>チェックあり</translation>
+    </message>
+    <message>
+        <source>The camera does not take this plug-in now.</source>
+        <translation>カメラは今このプラグインを使えません。</translation>
+    </message>
 </context>
 </TS>

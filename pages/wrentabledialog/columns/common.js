@@ -9,6 +9,11 @@ const isOffOrBatch = record => isOff(record) || isBatch(record);
 // Whether the camera has told what rules its controls: its lock in live mode, its check in memory mode.
 const isSteered = record => record.lock !== undefined || record.check !== undefined;
 const LISTS = ['frameRates', 'shutterSpeeds', 'resolutions', 'triggerModes'];
+// The reasons that hold, as one text. Those that are none are false or ''.
+const reasonText = (...texts) => texts.filter(Boolean).join(' ');
+const whyLocked = record => record.lock && translated(textKey('The camera is locked.'));
+const whyLockedOrLowLight = record =>
+    reasonText(whyLocked(record), record.lowLightMode && translated(textKey('The camera is in low light mode.')));
 const hasDropDowns = record => record.connected && LISTS.every(list => Array.isArray(record[list]));
 
 const COLUMNS = {};
@@ -20,15 +25,17 @@ COLUMNS.lock = {
     needs: ['lock', 'lowLightMode'],
     still: true,
     empty: record => isOffOrBatch(record) || record.lowLightMode,
+    text: record => record.lock ? translated(textKey('Locked')) : translated(textKey('Unlocked')),
+    why: (record, status) => status.why,
     markup: `<div class="flexWrapper" part="wrapper" dockey>
         <a class="wren_button_lockStatus_lock" part="locked" id="wren_{short}_button_lockStatus_lock_" dockey></a>
         <a class="wren_button_lockStatus_unlock" part="open" id="wren_{short}_button_lockStatus_unlock_" dockey></a>
         </div>`,
-    tick(cell, record, status) {
+    tick(cell, record) {
         cell.classes('wrapper', record.lock ? 'flexWrapper wren-lock-status' : 'flexWrapper');
         cell.swap(Boolean(record.lock), 'locked', 'open');
-        cell.flag('locked', 'disabled', status.disabled);
-        cell.flag('open', 'disabled', status.disabled);
+        cell.flag('locked', 'disabled', cell.isBarred);
+        cell.flag('open', 'disabled', cell.isBarred);
     },
     click({ view, row, cell }, part) {
         const lock = part === 'open';
@@ -37,12 +44,17 @@ COLUMNS.lock = {
     }
 };
 
+function connectionText(record) {
+    return record.connected ? translated(textKey('Connected')) : translated(textKey('Not connected'));
+}
+
 COLUMNS.connectIcon = {
     caption: () => '',
     size: '32px',
     align: 'left',
     needs: ['mobileSelected'],
     empty: isBatch,
+    text: record => record.mobileSelected ? translated(textKey('Taken by a mobile device')) : connectionText(record),
     markup: '<div class="wren_connectIcon" part="icon" id="wren_{short}_connectIcon_" dockey></div>',
     tick(cell, record, status) {
         cell.attribute('icon', 'connected', record.mobileSelected ? 'mobile' : String(record.connected));
@@ -50,18 +62,22 @@ COLUMNS.connectIcon = {
     }
 };
 
+const hasNameButton = record => !isOffOrBatch(record) && isSteered(record);
+
 COLUMNS.cameraName = {
     caption: () => translate('Camera name'),
     size: '20%',
     align: 'left',
     needs: ['cameraName'],
+    text: record => record.cameraName,
+    why: (record, status) => hasNameButton(record) ? reasonText(whyLocked(record), status.why) : '',
     markup: `<div class="flexWrapper wren-name-wrapper" dockey>
         <a class="wren_button_edit_camera_name" part="edit" id="wren_{short}_button_edit_camera_name_" dockey></a>
         <label class="wren_label_edit_camera_name" part="label" dockey></label>
         </div>`,
     rebuild(cell, record) {
         const edit = cell.parts.edit;
-        const wanted = !isOffOrBatch(record) && isSteered(record);
+        const wanted = hasNameButton(record);
         if (wanted !== (edit.parentNode !== null)) {
             if (wanted) {
                 cell.content.insertBefore(edit, cell.parts.label);
@@ -72,7 +88,7 @@ COLUMNS.cameraName = {
         cell.text('label', record.cameraName);
     },
     tick(cell, record, status) {
-        cell.flag('edit', 'disabled', Boolean(record.lock) || status.disabled);
+        cell.flag('edit', 'disabled', cell.isBarred);
         cell.attribute('label', 'cursorDisable', String(status.disabled));
     },
     click({ row }) {
@@ -86,6 +102,7 @@ COLUMNS.cameraName = {
 //   word         the last word of its class and id
 //   needs        as of every kind
 //   attributes   from a record to the attributes
+//   text         as of every kind
 function pictureColumn(options) {
     const names = Object.keys(options.attributes);
     return {
@@ -94,6 +111,7 @@ function pictureColumn(options) {
         align: 'right',
         needs: options.needs,
         empty: options.empty,
+        text: options.text,
         markup: `<div class="wren_${options.word}" part="image" id="wren_{short}_${options.word}_" dockey></div>`,
         tick(cell, record) {
             names.forEach(name => cell.attribute('image', name, options.attributes[name](record)));
@@ -108,6 +126,7 @@ COLUMNS.alert = pictureColumn({
     needs: [],
     // A camera that does not even tell whether it is connected says why.
     empty: record => isBatch(record) || (isOff(record) && !record.alert),
+    text: record => isBatch(record) ? '' : record.alert,
     attributes: { alert: record => String(record.alert !== ''), alerts: record => record.alert }
 });
 
@@ -117,6 +136,7 @@ COLUMNS.cameraStatus = pictureColumn({
     size: '10%',
     needs: ['cameraStatus'],
     empty: isOff,
+    text: record => record.cameraStatus,
     attributes: { status: record => record.cameraStatus }
 });
 
@@ -126,11 +146,13 @@ COLUMNS.sync = pictureColumn({
     size: '10%',
     needs: ['syncStatus'],
     empty: isOff,
+    text: record => record.syncStatus,
     attributes: { sync: record => record.syncStatus }
 });
 
 // A field whose text is shown as it stands.
-function plainColumn(caption, field) {
+function plainColumn(caption, field, plain) {
+    const text = record => record[field] === undefined ? '' : record[field]; // the batch row may have none
     return {
         caption: () => translate(caption),
         size: '10%',
@@ -138,8 +160,10 @@ function plainColumn(caption, field) {
         needs: [field],
         markup: '<span class="wren_text" part="text" dockey></span>',
         rebuild(cell, record) {
-            cell.text('text', record[field] === undefined ? '' : record[field]); // the batch row may have none
-        }
+            cell.text('text', text(record));
+        },
+        text,
+        plain
     };
 }
 

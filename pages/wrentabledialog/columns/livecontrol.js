@@ -7,6 +7,8 @@
 //   choiceOf   from its items to choices, objects with `value` and `name`, where they are none
 //   value      the present value of a record
 //   locked     as of every kind
+//   why        why such a camera takes none, as text
+//   unit       of the value, where a program reads it and not the name
 //   compared   as of every kind, where it is not the value
 //   send       the bridge call that takes the keys and the chosen value
 function dropDownColumn(options) {
@@ -20,11 +22,14 @@ function dropDownColumn(options) {
         choices,
         value: options.value,
         compared: options.compared || (record => options.value(record) || ''),
-        comparedText(record) {
+        text(record) {
             const choice = choices(record).find(item => item.value === options.value(record));
             return choice ? choice.name : options.value(record);
         },
+        unit: options.unit,
+        plain: options.unit && options.value,
         locked: options.locked,
+        why: (record, status) => reasonText(options.why(record), status.why),
         send: options.send,
         needs: options.needs,
         still: true,
@@ -38,13 +43,12 @@ function dropDownColumn(options) {
             cell.choices = choices(record);
             showChoice(cell, options.value(record), true);
         },
-        tick(cell, record, status) {
+        tick(cell, record) {
             if (!lowLightSlider.isHeld(cell)) {
                 showChoice(cell, options.value(record), false);
             }
-            const disabled = options.locked(record) || status.disabled;
-            cell.classes('frame', disabled ? 'SumoSelect compact disabled' : 'SumoSelect compact');
-            cell.flag('select', 'disabled', disabled);
+            cell.classes('frame', cell.isBarred ? 'SumoSelect compact disabled' : 'SumoSelect compact');
+            cell.flag('select', 'disabled', cell.isBarred);
         },
         leave: cell => dropDown.closeOf(cell),
         click: openList
@@ -87,6 +91,8 @@ COLUMNS.frameRate = dropDownColumn({
     list: 'frameRates',
     value: record => record.frameRate,
     locked: isLockedOrLowLight,
+    why: whyLockedOrLowLight,
+    unit: 'fps',
     send: (keys, value) => wrentabledialog.setFrameRate(keys, value)
 });
 
@@ -97,6 +103,8 @@ COLUMNS.shutterSpeed = dropDownColumn({
     list: 'shutterSpeeds',
     value: record => record.shutterSpeed,
     locked: isLocked,
+    why: whyLocked,
+    unit: '1/s',
     send: (keys, value) => wrentabledialog.setShutterSpeed(keys, value)
 });
 
@@ -108,6 +116,7 @@ COLUMNS.resolution = dropDownColumn({
     choiceOf: text => ({ value: text, name: text }),
     value: record => record.resolution,
     locked: isLockedOrLowLight,
+    why: whyLockedOrLowLight,
     send: (keys, value) => wrentabledialog.setResolution(keys, value)
 });
 
@@ -120,9 +129,10 @@ COLUMNS.trigger = dropDownColumn({
     list: 'triggerModes',
     value: record => record.triggerMode,
     // The manual mode has its frames in its name.
-    compared: record => record.triggerMode === TRIGGER_MANUAL ? COLUMNS.trigger.comparedText(record)
+    compared: record => record.triggerMode === TRIGGER_MANUAL ? COLUMNS.trigger.text(record)
         : record.triggerMode || '',
     locked: isLockedOrLowLight,
+    why: whyLockedOrLowLight,
     send: (keys, value) => wrentabledialog.setTriggerMode(keys, value)
 });
 
@@ -135,7 +145,11 @@ COLUMNS.reduce = {
     empty: record => isOff(record) || record.reduceModeSupported === false,
     locked: isLocked,
     compared: record => record.reduceModeSupported ? comparedValue(record.reduceMode) : '',
-    comparedText: record => onOffText(record.reduceMode),
+    text: record => onOffText(record.reduceMode),
+    // Cameras that are armed are asked nothing more.
+    why: (record, status) => reasonText(whyLocked(record), status.why ||
+        wrentabledialog.isSuspendReduceMode(record.key) &&
+        translated(textKey('The camera keeps its live speed for now.'))),
     markup() {
         const priority = escapeMarkup(translate('_Priority'));
         return `<div class="flexWrapper" part="wrapper" dockey>
@@ -145,12 +159,11 @@ COLUMNS.reduce = {
             id="wren_button_reduce_off_" dockey>${priority}</a>
         </div>`;
     },
-    tick(cell, record, status) {
-        const disabled = isLocked(record) || status.disabled || wrentabledialog.isSuspendReduceMode(record.key);
+    tick(cell, record) {
         cell.classes('wrapper', record.reduceMode ? 'flexWrapper wren-reduce-status' : 'flexWrapper');
         cell.swap(Boolean(record.reduceMode), 'on', 'off');
-        cell.flag('on', 'disabled', disabled);
-        cell.flag('off', 'disabled', disabled);
+        cell.flag('on', 'disabled', cell.isBarred);
+        cell.flag('off', 'disabled', cell.isBarred);
     },
     click(place, part) {
         const on = part === 'off';
@@ -181,7 +194,8 @@ COLUMNS.lowlight = {
     empty: isOff,
     locked: isLocked,
     compared: record => record.lowLightModeSupported ? comparedValue(record.lowLightMode) : '',
-    comparedText: record => onOffText(record.lowLightMode),
+    text: record => onOffText(record.lowLightMode),
+    why: (record, status) => reasonText(whyLocked(record), status.why),
     markup() {
         const [on, dark, bright] = [translate('ON'), translate('dark'), translate('bright')].map(escapeMarkup);
         return `<div class="flexWrapper" part="wrapper" dockey>
@@ -200,9 +214,8 @@ COLUMNS.lowlight = {
     rebuild(cell, record) {
         placeSlider(cell, record);
     },
-    tick(cell, record, status) {
-        const disabled = isLocked(record) || status.disabled;
-        const still = disabled || !record.lowLightMode;
+    tick(cell, record) {
+        const still = cell.isBarred || !record.lowLightMode;
         if (still && lowLightSlider.isHeld(cell)) {
             lowLightSlider.letGo();
         }
@@ -212,9 +225,10 @@ COLUMNS.lowlight = {
         }
         cell.classes('wrapper', record.lowLightMode ? 'flexWrapper wren-lowlight-status' : 'flexWrapper');
         cell.swap(!record.lowLightMode, 'on', 'off');
-        cell.flag('on', 'disabled', disabled);
-        cell.flag('off', 'disabled', disabled);
+        cell.flag('on', 'disabled', cell.isBarred);
+        cell.flag('off', 'disabled', cell.isBarred);
         cell.flag('slider', 'disabled', still);
+        cell.barPart('slider', record.lowLightMode ? '' : translated(textKey('Only in low light mode.')));
     },
     // The button that stands says what a click makes of it: the first one while the mode is off.
     click(place, part) {

@@ -1,8 +1,14 @@
 // Columns of the memory information tab. The record check stands on both memory tabs.
-COLUMNS.recordedFrameRate = plainColumn(textKey('Frame rate'), 'frameRate');
-COLUMNS.originalStartFrameNo = plainColumn(textKey('Start frame'), 'originalStartFrameNo');
-COLUMNS.originalEndFrameNo = plainColumn(textKey('End frame'), 'originalEndFrameNo');
-COLUMNS.totalFrame = plainColumn(textKey('Save frame'), 'totalFrame');
+COLUMNS.recordedFrameRate = Object.assign(numberColumn(textKey('Frame rate'), 'frameRate'), { unit: 'fps' });
+COLUMNS.originalStartFrameNo = numberColumn(textKey('Start frame'), 'originalStartFrameNo');
+COLUMNS.originalEndFrameNo = numberColumn(textKey('End frame'), 'originalEndFrameNo');
+COLUMNS.totalFrame = numberColumn(textKey('Save frame'), 'totalFrame');
+
+// A whole number that comes with the grouping and minus of the user's locale, and maybe a unit.
+function numberColumn(caption, field) {
+    return plainColumn(caption, field, record =>
+        String(record[field] || '').replace(/\u2212/g, '-').replace(/[^\d-]/g, ''));
+}
 
 COLUMNS.recordCheck = {
     caption: () => translate('recordCheck'),
@@ -11,13 +17,16 @@ COLUMNS.recordCheck = {
     needs: ['check', 'totalFrame'],
     still: true,
     empty: record => isOffOrBatch(record) || record.totalFrame < 1,
+    text: record => record.check ? translated(textKey('Checked')) : translated(textKey('Not checked')),
+    // Only cameras that are selected can be checked.
+    why: (record, status) => reasonText(status.why,
+        !record.selected && translated(textKey('Only selected cameras can be checked.'))),
     markup: `<div class="flexWrapper" part="wrapper" dockey>
         <input type="checkbox" class="wren_checkbox_recordCheck" part="box" tabindex="-1"
             id="wren_{short}_recordCheck_" dockey>
         </div>`,
-    // Only cameras that are selected can be checked, so the box of another one is off.
-    tick(cell, record, status) {
-        cell.flag('box', 'disabled', status.disabled || !record.selected);
+    tick(cell, record) {
+        cell.flag('box', 'disabled', cell.isBarred);
         if (record.connected) {
             cell.property('box', 'checked', Boolean(record.check));
             cell.classes('wrapper', record.check ? 'flexWrapper wren-recordCheck-status' : 'flexWrapper');
@@ -38,7 +47,8 @@ function spinnerColumn(options) {
         align: 'left',
         send: options.send,
         compared: record => record.totalFrame ? comparedValue(options.value(record)) : '',
-        comparedText: record => String(options.value(record)),
+        text: record => String(options.value(record)),
+        why: (record, status) => status.why,
         needs: options.needs.concat('totalFrame'),
         still: true,
         empty: record => isOff(record) || !record.totalFrame,
@@ -47,11 +57,11 @@ function spinnerColumn(options) {
         rebuild(cell, record) {
             showNumber(cell, options.value(record));
         },
-        tick(cell, record, status) {
-            if (status.disabled && numberBox.isHeld(cell)) {
+        tick(cell, record) {
+            if (cell.isBarred && numberBox.isHeld(cell)) {
                 numberBox.drop();
             }
-            cell.flag('input', 'disabled', status.disabled);
+            cell.flag('input', 'disabled', cell.isBarred);
             if (record.connected && record.totalFrame) {
                 const min = options.min(record);
                 const max = options.max(record);

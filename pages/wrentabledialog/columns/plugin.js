@@ -6,6 +6,9 @@ COLUMNS.plugin = {
     needs: ['plugins'],
     still: true,
     empty: isOff,
+    text: record =>
+        record.plugins.filter(plugin => plugin.effective).map(plugin => pluginTitle(plugin.name)).join(', '),
+    why: (record, status) => status.why,
     markup: `<div id="effects" dockey>
         <div class="flexWrapper wren_effect_icons" part="icons" id="wren_{short}_effect_icons_" dockey></div>
         </div>`,
@@ -20,6 +23,8 @@ COLUMNS.plugin = {
             const icon = iconOf(plugin.name);
             cell.property('box ' + icon, 'checked', plugin.effective);
             cell.flag('box ' + icon, 'disabled', !plugin.enable);
+            cell.barPart('item ' + icon, plugin.enable ? ''
+                : translated(textKey('The camera does not take this plug-in now.')));
             cell.attribute('label ' + icon, 'cursorDisable', String(status.disabled));
         });
     },
@@ -49,6 +54,10 @@ COLUMNS.plugin = {
         }
     }
 };
+
+function pluginTitle(name) {
+    return translated('p_' + name);
+}
 
 function pluginOf(element) {
     return plugin_obj.getPluginName(element.getAttribute('plgName'));
@@ -81,8 +90,8 @@ function doAccept(cell, key, icon, name, isOkPat) {
     }
     const label = cell.parts['label ' + icon] = iconPart('label',
         { class: 'localize', for: id, key: 'p_' + name, plgName: icon, dockey: key });
-    label.title = label.textContent = translate('p_' + name);
-    const item = iconPart('div', { class: 'item', dockey: key });
+    label.title = label.textContent = pluginTitle(name);
+    const item = cell.parts['item ' + icon] = iconPart('div', { class: 'item', dockey: key });
     item.appendChild(box);
     item.appendChild(label);
     cell.parts.icons.appendChild(item);

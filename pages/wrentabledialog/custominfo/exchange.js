@@ -18,7 +18,9 @@ Object.assign(wrentabledialog_obj, {
     },
 
     refreshCustomInfoContainer() {
-        zeb4func.disable('.edit-buttons .write', this.gridLock || customList.items().length === 0);
+        const empty = customList.items().length === 0;
+        reasons.grey('.edit-buttons .write', this.gridLock || empty,
+            translated(empty ? textKey('The list is empty.') : controls['FILE-MODE'].why));
     },
 
     appendRecordEnd() {

@@ -9,8 +9,12 @@
 //   rebuild(...)    what only a full refresh brings
 //   tick(...)       what every refresh brings; a full refresh runs it after `rebuild`
 //   leave(cell)     before the elements go
-//   compared(record)       the value by which rows are the same or differ, as text, '' for none; `comparedText` as the
-//                   user reads it. Of kinds whose batch row tells so
+//   text(record)    what the cell shows, as the user reads it; `plain(record)` is the same for a program, where it is
+//                   another one: a number without unit and grouping. See `textOfCell`
+//   why(record, status)    why the controls of the cell take nothing, as a text, '' while they do. By this they are
+//                   greyed: before `tick` it is in `cell.isBarred` and in the `why` of the cell
+//   compared(record)       the value by which rows are the same or differ, as text, '' for none. Of kinds whose batch
+//                   row tells so
 //   locked(record)  whether the camera itself takes no change of it, beyond what holds for the whole list
 //   still           whether a click or a drag on it leaves the selection as it is
 //   click(place, part)     what a click on a link or a list of the cell does; `place` is view, row and cell
@@ -34,6 +38,7 @@ class Cell {
         this.parts = {};
         this.shown = {}; // `part@what` -> value last written
         this.stale = false; // the user has touched a number that only a full refresh would write
+        this.isBarred = false; // its controls take nothing
     }
 
     rebuild(record, status) {
@@ -51,14 +56,33 @@ class Cell {
         this.tick(record, status);
     }
 
-    // Whether the record tells what the cell shows.
     reads(record) {
-        return this.kind.needs.every(name => record[name] !== undefined);
+        return isTold(this.kind, record);
     }
 
     tick(record, status) {
-        if (this.filled && this.kind.tick) {
+        if (!this.filled) {
+            return;
+        }
+        if (this.kind.why) {
+            this.bar(this.kind.why(record, status));
+        }
+        if (this.kind.tick) {
             this.kind.tick(this, record, status);
+        }
+    }
+
+    bar(why) {
+        this.isBarred = why !== '';
+        if (this.differs('', 'why', why)) {
+            mark(this.box, 'why', why || null);
+        }
+    }
+
+    // Why that part alone takes nothing.
+    barPart(part, why) {
+        if (this.differs(part, 'why', why)) {
+            mark(this.parts[part], 'why', why || null);
         }
     }
 
@@ -67,6 +91,7 @@ class Cell {
             if (this.kind.leave) {
                 this.kind.leave(this);
             }
+            this.bar('');
             this.box.removeChild(this.content);
             this.filled = false;
         }
@@ -168,6 +193,16 @@ class Cell {
         this.flag(first, 'hidden', !on);
         this.flag(second, 'hidden', on);
     }
+}
+
+// Whether the record tells what a cell of that kind shows.
+function isTold(kind, record) {
+    return kind.needs.every(name => record[name] !== undefined);
+}
+
+// What such a cell shows, as text; '' where it is empty.
+function textOfCell(kind, record) {
+    return isTold(kind, record) && !(kind.empty && kind.empty(record)) ? kind.text(record) : '';
 }
 
 // The elements of a kind, made once a tab, and the places of those that have a name or carry the key: in the order of

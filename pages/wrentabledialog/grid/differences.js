@@ -64,7 +64,7 @@ function differencesText(view, box) {
 function valueLines(view, cell) {
     const names = new Map();
     comparedRecords(view, cell.kind).forEach(record => {
-        const text = cell.kind.comparedText(record);
+        const text = cell.kind.text(record);
         names.set(text, (names.get(text) || []).concat(oneLine(record.cameraName)));
     });
     return Array.from(names.keys()).map(text => `${text}: ${namesText(names.get(text))}`);

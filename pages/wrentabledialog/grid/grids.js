@@ -45,9 +45,7 @@ Object.assign(wrentabledialog_obj, {
         const view = new GridView(grid, tab, () => this.closeFloating());
         grid.render(document.getElementById(tab.gridName));
         listenToGrid(view);
-        this.whenPainted(() => textTip(grid.box, '[alerts], [comments], [sync], [differs], [barred]', element =>
-            element.getAttribute('alerts') || element.getAttribute('comments') || syncTip.text(element) ||
-            differencesText(view, element), element => element.hasAttribute('sync')));
+        this.whenPainted(() => listenToTips(view));
         return view;
     },
 

@@ -6,6 +6,7 @@ const CONTROLS = 'a[dockey]:not([hidden]), .SumoSelect[dockey], input[type="chec
 
 function onCursorKey(view, event) {
     const { cursor } = view;
+    closeTip();
     cursor.mark();
     if (cursor.key === null || event.altKey || event.metaKey || wrentabledialog_obj.gridLock) {
         return;
@@ -69,7 +70,7 @@ function takesInput(cursor) {
     if (!view.status.disabled && place && !place.row.element.hasAttribute('unlisted')) {
         return true;
     }
-    tellWhy(cursor.shown);
+    tellWhy(view, place && place.cell.box);
     return false;
 }
 
@@ -83,7 +84,7 @@ function useCursor(view) {
     if (!control) {
         toggleRow(view);
     } else if (control.matches('[disabled], .disabled')) {
-        tellWhy(control);
+        tellWhy(view, control);
     } else if (control.matches('input.spinner')) {
         enterCell(view);
     } else if (control.matches('input')) {
@@ -125,7 +126,7 @@ function enterCell(view) {
     } else if (!inner) {
         useCursor(view);
     } else if (inner.disabled || inner.parentNode.hasAttribute('disabled')) {
-        tellWhy(inner);
+        tellWhy(view, inner);
     } else {
         inner.focus();
         if (inner.select && inner.type === 'text') {
@@ -146,10 +147,10 @@ function openCellMenu(view) {
     }
 }
 
-// The reason why a control takes nothing stands in it or around it.
-function tellWhy(element) {
-    const holder = element && element.closest('[why]');
-    if (holder) {
+// The reason why a cell takes nothing, in the tip that the mouse gets.
+function tellWhy(view, element) {
+    const holder = element && element.closest('[why], td[current]');
+    if (holder && whyOf(view, holder)) {
         $(holder).trigger('mouseover');
     } else {
         logUnused('not taken', 'Cell', element ? element.id : '', '');

@@ -1,4 +1,5 @@
-// What the states of the application disable, hide and do. See `zeb4func.setDisable`.
+// What the states of the application disable, hide and do, see `zeb4func.setDisable`, and why, in the user's words.
+// What a `func` disables stands in `greys`, where it has the same reason.
 const MANAGEMENT = ['#livecontrol_ip1', '#livecontrol_ip2', '#livecontrol_ip3', '#livecontrol_search',
     '#livecontrol_discovery', '#livecontrol_deleteall', '#livecontrol_update'];
 const SYNC = ['#connect_signal_generator', '#connect_signal_distributor', '#sync_execute', '#externalSyncSelector'];
@@ -17,6 +18,8 @@ const DISPLAY_SETTINGS = ['#wrentabledialog_displaySettings'];
 const FILTER = ['#recordFilter'];
 const ARMED = DEVICE_SETTINGS.concat(SYNC, MANAGEMENT, DEFAULTS, DISPLAY_SETTINGS, OPTIONS, APPLY, LINKS, LOW_LIGHT,
     '#timeline_trigger_test');
+const ALL_TABS = ['#tabs > ul > li'];
+const MEMORY_TABS = ['#tabs > ul > .memoryTab'];
 const LIVE_PARTS = ['.exec-recording', '.option-recording', '#wren_related_settings', '#wrenBatchLowlightBlock'];
 
 const whenOn = work => on => on && wrentabledialog_obj[work]();
@@ -28,21 +31,28 @@ const controls = {
         func: whenOn('enterLiveLook')
     },
     'MEMORY-MODE': {
+        why: textKey('Only in live mode.'),
         disabled: DEVICE_SETTINGS.concat(SYNC, MANAGEMENT, DEFAULTS),
         hidden: LIVE_PARTS,
         func: whenOn('enterMemoryLook')
     },
     'FILE-MODE': {
+        why: textKey('Not while files are shown.'),
         disabled: DEVICE_SETTINGS.concat(SYNC, CUSTOM, MANAGEMENT, FILTER, DEFAULTS, DISPLAY_SETTINGS),
         hidden: LIVE_PARTS.concat('.exec-saving', '#wrenGroupBlock'),
+        greys: ALL_TABS,
         func: whenOn('enterFileLook')
     },
     CTSREADY: {
+        why: textKey('Cameras wait for the CTS signal.'),
         disabled: ARMED.concat('#timeline_rec_exec'),
+        greys: ALL_TABS,
         func: whenOn('enterReadyLook')
     },
     READY: {
+        why: textKey('Cameras are ready to record.'),
         disabled: ARMED,
+        greys: ALL_TABS,
         func: on => {
             if (on) {
                 wrentabledialog_obj.enterReadyLook();
@@ -53,23 +63,39 @@ const controls = {
         }
     },
     RECORDING: {
+        why: textKey('Cameras are recording.'),
         disabled: ARMED,
+        greys: ALL_TABS,
         func: whenOn('enterRecordingLook')
     },
-    'NOT-RECORDING': { disabled: ['#timeline_rec_cancel'] },
-    'RECORDING-ERROR': { disabled: RECORD },
+    'NOT-RECORDING': {
+        why: textKey('Nothing is being recorded.'),
+        disabled: ['#timeline_rec_cancel']
+    },
+    'RECORDING-ERROR': {
+        why: textKey('The recording has failed.'),
+        disabled: RECORD
+    },
     'BACKGROUND-SAVING': {
+        why: textKey('Images are being saved.'),
         disabled: DEVICE_SETTINGS.concat(SYNC, CUSTOM, MANAGEMENT, FILTER, DEFAULTS, DISPLAY_SETTINGS, LINKS, OPTIONS,
             SAVE, LOW_LIGHT),
+        greys: ALL_TABS,
         func: whenOn('enterSavingLook')
     },
-    'NONE-DOCUMENT': { disabled: ['#livecontrol_deleteall', '#livecontrol_update', '#sync_execute'] },
+    'NONE-DOCUMENT': {
+        why: textKey('There is no camera in the list.'),
+        disabled: ['#livecontrol_deleteall', '#livecontrol_update', '#sync_execute']
+    },
     'NONE-WINDOW': {
+        why: textKey('No camera has its window open.'),
         disabled: APPLY.concat('.edit-buttons .loadCamera', RECORD, OPTIONS, SAVE, '#sync_execute'),
         hidden: ['.partition']
     },
     'EXIST-LOWLIGHT': {
+        why: textKey('A camera is in low light mode.'),
         disabled: FUNCTIONS.concat(PARTITION, RECORD, SAVE, DEFAULTS, '#sync_execute', LINKS),
+        greys: MEMORY_TABS,
         func: on => {
             if (on) {
                 if (wrentabledialog.countMdiWindow() !== 0) {
@@ -79,34 +105,82 @@ const controls = {
             }
         }
     },
-    'ALL-LOWLIGHT-ON': { disabled: ['#wrenBatchLowlightBlock_ON'] },
-    'ALL-LOWLIGHT-OFF': { disabled: ['#wrenBatchLowlightBlock_OFF'] },
+    'ALL-LOWLIGHT-ON': {
+        why: textKey('All cameras are in low light mode.'),
+        disabled: ['#wrenBatchLowlightBlock_ON']
+    },
+    'ALL-LOWLIGHT-OFF': {
+        why: textKey('No camera is in low light mode.'),
+        disabled: ['#wrenBatchLowlightBlock_OFF']
+    },
     'LENS-CALIBRATION': {
+        why: textKey('A lens is being calibrated.'),
         disabled: OPTIONS.concat(RECORD, SAVE, LINKS, SYNC, LOW_LIGHT),
+        greys: MEMORY_TABS,
         func: whenOn('turnMemoryTabsOff')
     },
-    'CONFLICT-PARTITION': { disabled: OPTIONS.concat('#timeline_rec_exec', '#timeline_trigger_test') },
-    'DIRECT-SAVING': {
-        func: on => {
-            if (on) {
-                wrentabledialog_obj.turnMemoryTabsOff();
-                wrentabledialog_obj.turnPartitionOff();
-            }
-        }
+    'CONFLICT-PARTITION': {
+        why: textKey('The partitions of the cameras differ.'),
+        disabled: OPTIONS.concat('#timeline_rec_exec', '#timeline_trigger_test')
     },
-    'AUTO-EXPOSURE-SETTING': { disabled: LOW_LIGHT, func: whenOn('turnMemoryTabsOff') },
-    'HW-TRIGGER-SETTING': { disabled: LOW_LIGHT, func: whenOn('turnMemoryTabsOff') },
-    'VARIABLE-SETTING': { disabled: LOW_LIGHT, func: whenOn('turnMemoryTabsOff') },
-    TRACKING: { disabled: LOW_LIGHT, func: whenOn('turnMemoryTabsOff') },
-    'NODECOMMAND-SENDING': { disabled: OPTIONS.concat(RECORD, SAVE) },
-    'IMAGE-ADJUSTING': { disabled: OPTIONS.concat(RECORD, SAVE) },
-    'PIXEL-DEFECT-DETECTING': { disabled: OPTIONS.concat(RECORD, SAVE) },
-    'IMAGETRIGGER-DETECTING': { func: whenOn('turnPartitionOff') },
-    'IMAGETRIGGER-CAPTURING': { func: whenOn('turnPartitionOff') },
+    'DIRECT-SAVING': {
+        why: textKey('Cameras save while they record.'),
+        disabled: PARTITION,
+        greys: MEMORY_TABS,
+        func: whenOn('turnMemoryTabsOff')
+    },
+    'AUTO-EXPOSURE-SETTING': {
+        why: textKey('Automatic exposure is being set.'),
+        disabled: LOW_LIGHT,
+        greys: MEMORY_TABS,
+        func: whenOn('turnMemoryTabsOff')
+    },
+    'HW-TRIGGER-SETTING': {
+        why: textKey('A trigger input is being set.'),
+        disabled: LOW_LIGHT,
+        greys: MEMORY_TABS,
+        func: whenOn('turnMemoryTabsOff')
+    },
+    'VARIABLE-SETTING': {
+        why: textKey('A variable setting is being made.'),
+        disabled: LOW_LIGHT,
+        greys: MEMORY_TABS,
+        func: whenOn('turnMemoryTabsOff')
+    },
+    TRACKING: {
+        why: textKey('A point is being tracked.'),
+        disabled: LOW_LIGHT,
+        greys: MEMORY_TABS,
+        func: whenOn('turnMemoryTabsOff')
+    },
+    'NODECOMMAND-SENDING': {
+        why: textKey('A command is on its way to a camera.'),
+        disabled: OPTIONS.concat(RECORD, SAVE)
+    },
+    'IMAGE-ADJUSTING': {
+        why: textKey('An image is being adjusted.'),
+        disabled: OPTIONS.concat(RECORD, SAVE)
+    },
+    'PIXEL-DEFECT-DETECTING': {
+        why: textKey('Defect pixels are being looked for.'),
+        disabled: OPTIONS.concat(RECORD, SAVE)
+    },
+    'IMAGETRIGGER-DETECTING': {
+        why: textKey('The image trigger is being looked for.'),
+        disabled: PARTITION
+    },
+    'IMAGETRIGGER-CAPTURING': {
+        why: textKey('The image trigger takes its pictures.'),
+        disabled: PARTITION
+    },
     'OTHER-PLUGIN-OPEN': {
+        why: textKey('Another plug-in has the cameras.'),
         disabled: DEVICE_SETTINGS.concat(MANAGEMENT, FILTER, DEFAULTS, '.groupButton', APPLY, LOW_LIGHT)
     },
-    'WREN-ALL-LOCK-DEVICE': { disabled: LOW_LIGHT },
+    'WREN-ALL-LOCK-DEVICE': {
+        why: textKey('All cameras are locked.'),
+        disabled: LOW_LIGHT
+    },
     'HIDE-TRIGGER-TEST': { hidden: ['#trigger_test'] }
 };
 
@@ -172,10 +246,6 @@ Object.assign(wrentabledialog_obj, {
     // Tabs that are off already stay off.
     turnMemoryTabsOff() {
         this.look.tabsOff = this.look.tabsOff || MEMORY;
-    },
-
-    turnPartitionOff() {
-        zeb4func.disable('#recording_partition, #recording_partition_span_button', true);
     },
 
     // A mode that came from outside moves the page to the last tab of that mode. Where its header is hidden, to the

@@ -52,6 +52,7 @@ Object.assign(wrentabledialog_obj, {
         this.whenPainted(() => statusLine.refresh());
         this.refreshRecords(active, automatic);
         this.resizeTableElements();
+        this.whenPainted(() => reasons.show());
         this.whenPainted(() => keyboardHome.keep());
     },
 

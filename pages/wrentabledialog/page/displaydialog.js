@@ -91,7 +91,7 @@ Object.assign(wrentabledialog_obj, {
     disableDisplayCheckBox() {
         const elements = '.display_checkbox, .ui-dialog-buttons';
         const off = wrentabledialog.isFileMode();
-        zeb4func.disable(elements, off);
+        reasons.grey(elements, off, translated(controls['FILE-MODE'].why));
         // Escape goes to what has the keyboard.
         if (off && document.activeElement.matches(elements)) {
             $(document.activeElement).closest('.ui-dialog').find('.ui-dialog-titlebar-close').trigger('focus');

@@ -51,10 +51,14 @@ Object.assign(wrentabledialog_obj, {
     readListStatus(records) {
         const ready = wrentabledialog.isRecReady();
         const recording = wrentabledialog.isRecording();
-        const blocked = this.isBlocked();
+        const taken = wrentabledialog.isOtherPluginOpen();
+        const exporting = wrentabledialog.isRecordDuringExporting();
+        const why = reasons.of([this.isCtsReady && 'CTSREADY', ready && 'READY', recording && 'RECORDING',
+            taken && 'OTHER-PLUGIN-OPEN']).concat(exporting ? translated(textKey('A recording is being saved.')) : []);
         return {
-            style: this.rowStyle(ready, recording, blocked),
-            disabled: this.isCtsReady || ready || recording || blocked,
+            style: this.rowStyle(ready, recording, taken || exporting),
+            disabled: why.length > 0,
+            why: why.join(' '),
             allLocked: records.length > 0 && records.every(record => record.lock)
         };
     },

@@ -10,6 +10,7 @@ Object.assign(wrentabledialog_obj, {
         this.whenPainted(() => this.initializeAccordion());
         zeb4func.disableDefaultShortcut();
         zeb4func.localize(wrentabledialog);
+        reasons.initialize();
         this.initializeRecordFilter();
         guarded(() => this.initializeList());
         this.initializeGroupBox();
@@ -18,6 +19,10 @@ Object.assign(wrentabledialog_obj, {
         this.refreshDisplayElement();
         this.update();
         this.whenPainted(() => $('label[for="timeline_trigger_test"]').tooltip({
+            content() {
+                const { title } = document.getElementById('timeline_trigger_test');
+                return escapeMarkup([this.title, title].filter(Boolean).join(' '));
+            },
             show: { delay: 900 },
             position: { my: 'center top', at: 'center bottom' }
         }));

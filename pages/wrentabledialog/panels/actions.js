@@ -76,11 +76,13 @@ Object.assign(wrentabledialog_obj, {
         const began = Date.now();
         this.isPressed = true;
         this.isStarting = status === this.RECORD_STATUS_LIVE;
+        reasons.own.set('#timeline_rec_exec', translated(textKey('The cameras are being armed.')));
         this.keepStartDisabled();
         try {
             wrentabledialog.record();
         } finally {
             this.isStarting = false;
+            reasons.own.delete('#timeline_rec_exec');
             this.endPress(Date.now() - began);
         }
     },
@@ -188,7 +190,7 @@ Object.assign(wrentabledialog_obj, {
 
         const stopped = wrentabledialog.isStopLive();
         document.getElementById('timeline_stopLiveCheckbox').checked = stopped;
-        zeb4func.disable('#timeline_updateLiveButton', !stopped);
+        reasons.grey('#timeline_updateLiveButton', !stopped, translated(textKey('Only while live is stopped.')));
 
         const partition = document.getElementById('recording_partition');
         setStyle(partition, 'display', 'inline');

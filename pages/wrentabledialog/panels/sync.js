@@ -27,7 +27,8 @@ Object.assign(wrentabledialog_obj, {
 
     showSyncSettings(settings) {
         const selector = document.getElementById('externalSyncSelector');
-        zeb4func.disable('#sync_execute', !settings.syncExecuteEnable);
+        reasons.grey('#sync_execute', !settings.syncExecuteEnable,
+            translated(textKey('With these settings no camera can be synchronised.')));
         showElement(selector, settings.syncSignals.length > 0);
         chooseOption(selector, Number(settings.syncSignal) === 0 ? null : settings.syncSignal);
         showSource('connect_signal_generator', settings.signalGeneratorAvailable, settings.signalGeneratorConnected);

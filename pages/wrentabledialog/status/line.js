@@ -106,12 +106,14 @@ const statusLine = {
     refreshButtons() {
         attention.refreshButton();
         const live = wrentabledialog.isLiveMode();
-        const disabled = wrentabledialog_obj.getListDisableStatus() || !this.status || this.status.connected === 0;
+        const { why } = wrentabledialog_obj.readListStatus([]);
+        const none = !this.status || this.status.connected === 0;
         const lock = document.getElementById('wren_lock_all');
         showElement(lock, live);
         const key = this.isAllLocked() ? textKey('Unlock all') : textKey('Lock all');
         setText(lock, translate(key));
-        zeb4func.disable('#wren_lock_all, #wren_select_all', disabled);
+        reasons.grey('#wren_lock_all, #wren_select_all', none || why !== '',
+            why || translated(textKey('No camera is connected.')));
     },
 
     isAllLocked() {
