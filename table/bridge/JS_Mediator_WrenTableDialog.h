@@ -54,6 +54,10 @@ public Q_SLOTS:
     DOCKEY getBatchDocKey();
     /// How all cameras stand, see `TableStatus`.
     QString getTableStatus();
+    /// Puts the rows as the page tells them, tab separated, on the clipboard.
+    void copyTable(const QString& text);
+    /// Writes them, comma separated, into a file that the user chooses.
+    void saveTable(const QString& csv);
     /// How a camera stands to the common signal, see `SyncVerdict`; empty when there is none of that key.
     QString getSyncVerdict(DOCKEY dockey);
     bool isSuspendReduceMode(DOCKEY dockey);

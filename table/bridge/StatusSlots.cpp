@@ -2,12 +2,24 @@
 #include "CameraEdit.h"
 #include "FailureText.h"
 #include "ParameterEditing.h"
+#include "TableFile.h"
 #include "TableStatus.h"
 #include "ZebDocManager.h"
 #include "ZebHost.h"
 
+#include <QClipboard>
+#include <QGuiApplication>
+
 QString JS_Mediator_WrenTableDialog::getTableStatus() {
     return call(*this, Query, __func__, {}, [this] { return TableStatus(host(), m_state).toJson(cycleFailures()); });
+}
+
+void JS_Mediator_WrenTableDialog::copyTable(const QString& text) {
+    call(*this, Plain, __func__, {}, [&] { QGuiApplication::clipboard()->setText(text); });
+}
+
+void JS_Mediator_WrenTableDialog::saveTable(const QString& csv) {
+    call(*this, Action, __func__, {}, [&] { saveAsTable(tableWindow(), csv); });
 }
 
 void JS_Mediator_WrenTableDialog::lockAll(bool lock) {

@@ -3775,5 +3775,25 @@
         <source>The camera does not take this plug-in now.</source>
         <translation>カメラは今このプラグインを使えません。</translation>
     </message>
+    <message>
+        <source>Copy rows</source>
+        <translation>行をコピー</translation>
+    </message>
+    <message>
+        <source>Save the list as CSV...</source>
+        <translation>リストを CSV で保存...</translation>
+    </message>
+    <message>
+        <source>Connection</source>
+        <translation>接続状態</translation>
+    </message>
+    <message>
+        <source>Ctrl+C</source>
+        <translation>Ctrl+C</translation>
+    </message>
+    <message>
+        <source>copy the selected rows as text; all rows where none is selected</source>
+        <translation>選択した行（なければすべての行）をテキストとしてコピー</translation>
+    </message>
 </context>
 </TS>

@@ -50,6 +50,7 @@ function connectionText(record) {
 
 COLUMNS.connectIcon = {
     caption: () => '',
+    heading: () => translated(textKey('Connection')),
     size: '32px',
     align: 'left',
     needs: ['mobileSelected'],

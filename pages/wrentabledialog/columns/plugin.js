@@ -52,6 +52,7 @@ COLUMNS.plugin = {
         if (label && !wrentabledialog_obj.isBlocked()) {
             wrentabledialog.effectContextMenu(key, pluginOf(label), event.screenX, event.screenY);
         }
+        return label !== null;
     }
 };
 

@@ -1,7 +1,5 @@
-// The context menu of the list of custom information. It has the keyboard while it is open.
+// The context menu of the list of custom information.
 const customMenu = {
-    list: null,
-
     // Below the current cell.
     openAt(recid) {
         const cell = customList.cell(recid, customList.current.column);
@@ -13,7 +11,7 @@ const customMenu = {
 
     open(recid, x, y) {
         const item = customList.item(recid);
-        this.close();
+        contextMenu.close();
         if (wrentabledialog_obj.gridLock || !item || isBlankItem(item)) {
             return;
         }
@@ -21,53 +19,8 @@ const customMenu = {
         if (!customList.meant().includes(item)) {
             customList.choose([recid], { recid, column: customList.current.column });
         }
-        const list = document.createElement('ul');
-        list.id = 'wren_custom_menu';
-        list.className = 'wren-menu';
-        customList.grid.menu.forEach(entry => list.appendChild(this.entry(entry)));
-        document.getElementById('wren-root-block').appendChild(list);
-        list.style.left = Math.max(0, Math.min(x, window.innerWidth - list.offsetWidth)) + 'px';
-        list.style.top = Math.max(0, Math.min(y, window.innerHeight - list.offsetHeight)) + 'px';
-        list.addEventListener('mousedown', event => event.preventDefault());
-        list.addEventListener('keydown', event => this.key(event));
-        this.list = list;
-        list.querySelector('a').focus();
-    },
-
-    entry({ id, text }) {
-        const line = document.createElement('li');
-        const link = document.createElement('a');
-        link.id = 'wren_custom_menu_' + id;
-        link.textContent = text;
-        link.tabIndex = -1; // so that it can have the focus
-        link.addEventListener('blur', () => this.close());
-        link.addEventListener('click', () => this.choose());
-        line.appendChild(link);
-        return line;
-    },
-
-    choose() {
-        this.close();
-        customList.box.focus();
-        guarded(() => wrentabledialog_obj.deleteCustomInfoRecord());
-    },
-
-    key(event) {
-        if (event.keyCode === KEY.ENTER || event.keyCode === KEY.SPACE) {
-            this.choose();
-        } else if (event.keyCode === KEY.ESCAPE || event.keyCode === KEY.TAB) {
-            this.close();
-            customList.box.focus();
-        }
-        event.preventDefault();
-        event.stopPropagation();
-    },
-
-    close() {
-        const { list } = this;
-        this.list = null;
-        if (list) {
-            list.remove();
-        }
+        const work = () => wrentabledialog_obj.deleteCustomInfoRecord();
+        const entries = customList.grid.menu.map(({ id, text }) => ({ id, text, work }));
+        contextMenu.open('wren_custom_menu', entries, x, y, customList.box);
     }
 };

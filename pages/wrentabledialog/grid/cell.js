@@ -9,8 +9,9 @@
 //   rebuild(...)    what only a full refresh brings
 //   tick(...)       what every refresh brings; a full refresh runs it after `rebuild`
 //   leave(cell)     before the elements go
+//   caption(), heading()    the column's name in its head, and where nothing but text tells of it, if that is another
 //   text(record)    what the cell shows, as the user reads it; `plain(record)` is the same for a program, where it is
-//                   another one: a number without unit and grouping. See `textOfCell`
+//                   another one: a number in `unit`, without grouping. See `textOfCell`
 //   why(record, status)    why the controls of the cell take nothing, as a text, '' while they do. By this they are
 //                   greyed: before `tick` it is in `cell.isBarred` and in the `why` of the cell
 //   compared(record)       the value by which rows are the same or differ, as text, '' for none. Of kinds whose batch
@@ -22,7 +23,7 @@
 //   doubleClick(view, key)
 //   press(cell, event)     what a click on a control does that no `click` takes
 //   change(key, element)   what a change by the user does
-//   menu(key, element, event)   what the right button does on it
+//   menu(key, element, event)   what the right button does on it, if it answers true
 // The first two get the cell, the record and the list's status, and write through the cell, which leaves out what the
 // elements show already.
 class Cell {

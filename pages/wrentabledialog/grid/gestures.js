@@ -96,10 +96,12 @@ function onGridChange(view, event) {
 function onGridMenu(view, event) {
     const row = view.rowOf(event.target);
     const cell = row && row.cellOf(event.target);
-    if (cell && cell.kind.menu) {
-        event.preventDefault();
-        guarded(() => cell.kind.menu(row.key, event.target, event));
-    }
+    event.preventDefault();
+    guarded(() => {
+        if (!cell || !cell.kind.menu || !cell.kind.menu(row.key, event.target, event)) {
+            tableText.openMenu(view, event.clientX, event.clientY);
+        }
+    });
 }
 
 function onGridClick(view, event) {

@@ -74,7 +74,7 @@ Object.assign(wrentabledialog_obj, {
         numberBox.giveUpAll();
         this.gridLock = true;
         customEditor.end();
-        customMenu.close();
+        contextMenu.close();
         this.activeGrid().clear();
         [this.activeGrid(), customList.grid].filter(Boolean).forEach(grid => grid.lock(''));
     },

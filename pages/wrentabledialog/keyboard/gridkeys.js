@@ -60,7 +60,8 @@ const controlKeys = {
             wrentabledialog_obj.preventSelect = false;
             wrentabledialog_obj.selectAll();
         }
-    }
+    },
+    67: view => tableText.copy(view) // C
 };
 
 // While the rows take no input only moving goes on, and the rest says why not.
@@ -136,14 +137,16 @@ function enterCell(view) {
 }
 
 function openCellMenu(view) {
-    const place = view.cursor.place();
-    const label = place && place.cell.filled && place.cell.box.querySelector('label[plgName]');
-    if (label && place.cell.kind.menu) {
-        const { left, bottom } = label.getBoundingClientRect();
-        place.cell.kind.menu(place.row.key, label, {
+    const { cell, row } = view.cursor.place() || {};
+    const label = cell && cell.filled && cell.box.querySelector('label[plgName]');
+    const { left, bottom } = (label || view.cursor.shown || view.box).getBoundingClientRect();
+    if (label) {
+        cell.kind.menu(row.key, label, {
             screenX: window.screenX + Math.round(left),
             screenY: window.screenY + Math.round(bottom)
         });
+    } else {
+        tableText.openMenu(view, left, bottom);
     }
 }
 

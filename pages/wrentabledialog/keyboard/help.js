@@ -8,6 +8,7 @@ const TABLE_KEYS = [
     [textKey('Shift with arrows, Home, End, Page'), textKey('select rows')],
     [textKey('Shift+Space'), textKey('select or unselect the row')],
     [textKey('Ctrl+A'), textKey('select all connected rows that are listed')],
+    [textKey('Ctrl+C'), textKey('copy the selected rows as text; all rows where none is selected')],
     [textKey('Menu key, Shift+F10'), textKey('what the right mouse button opens')],
     [textKey('Tab, Shift+Tab'), textKey('to the next button, or back')],
     [textKey('Space, Enter on Record or Cancel'), textKey('one press, until the key is let go')]

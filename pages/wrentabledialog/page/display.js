@@ -75,7 +75,7 @@ Object.assign(wrentabledialog_obj, {
     showBlock(block, flag) {
         const appears = flag && block.hidden;
         if (!flag && !block.hidden) {
-            customMenu.close();
+            contextMenu.close();
             customEditor.end();
             if (block.contains(document.activeElement)) {
                 document.activeElement.blur();
