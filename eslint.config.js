@@ -96,6 +96,17 @@ module.exports = [
         rules: pageRules
     },
     {
+        // What assistive technology is told of any page.
+        files: ['webdialog/**/*.js'],
+        languageOptions: {
+            ecmaVersion: 2015,
+            sourceType: 'script',
+            globals: Object.assign({}, browser, readonly(['MutationObserver', 'console', 'getComputedStyle',
+                'innerHeight', 'innerWidth', 'pageReaderEvents', 'readerFacts']))
+        },
+        rules: pageRules
+    },
+    {
         // Scenarios run in the stand-in host's own engine, not in a page.
         files: ['demo/**/*.js', 'docs/**/*.js', 'tests/**/*.js'],
         languageOptions: { ecmaVersion: 2016, sourceType: 'script', globals: readonly(['zeb', 'print', 'check']) },

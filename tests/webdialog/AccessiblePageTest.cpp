@@ -2,6 +2,9 @@
 #include "GUI_WebView.h"
 #include "Until.h"
 
+#include <private/qguiapplication_p.h>
+#include <qpa/qplatformaccessibility.h>
+#include <qpa/qplatformintegration.h>
 #include <QAccessible>
 #include <QMetaEnum>
 #include <QTest>
@@ -67,8 +70,10 @@ protected:
     }
     void TearDown() override {
         QAccessible::installUpdateHandler(nullptr);
-        QAccessible::setActive(false);
+        listen(false);
     }
+    /// As when a screen reader starts or ends.
+    static void listen(bool on) { QGuiApplicationPrivate::platformIntegration()->accessibility()->setActive(on); }
     QVariant eval(const QString& script) { return view->page()->mainFrame()->evaluateJavaScript(script); }
     QAccessibleInterface* root() { return QAccessible::queryAccessibleInterface(view.get()); }
     /// What is told once `script` has run and `last` has been told.
@@ -85,7 +90,7 @@ protected:
 TEST_F(AccessiblePageOf, AViewIsAsItsPageSaysOnceSomeoneListens) {
     EXPECT_EQ(root()->childCount(), 0);
     EXPECT_EQ(eval("typeof pageReader + typeof pageReaderEvents"), "undefinedundefined");
-    QAccessible::setActive(true);
+    listen(true);
     EXPECT_EQ(tree(*root()).section('\n', 1), QStringLiteral(R"( Table: Cameras
   Row:  [selectable selected]
    Cell: <b>Gate</b> [selectable]
@@ -112,7 +117,7 @@ TEST_F(AccessiblePageOf, AViewIsAsItsPageSaysOnceSomeoneListens) {
 
 TEST_F(AccessiblePageOf, WhatHappensIsTold) {
     QAccessible::installUpdateHandler(note);
-    QAccessible::setActive(true);
+    listen(true);
     EXPECT_EQ(tells("document.getElementById('box').focus()", "Focus <b>Gate</b>").size(), 1);
     EXPECT_TRUE(root()->focusChild()->state().focused);
     EXPECT_FALSE(root()->child(0)->state().focused);
@@ -123,11 +128,18 @@ TEST_F(AccessiblePageOf, WhatHappensIsTold) {
     tells("on.click()", "StateChanged On");
     tells("var from = document.getElementById('from'); from.focus()", "Focus From");
     tells("from.value = '13'; from.dispatchEvent(new Event('input'))", "TextUpdated From");
+    tells("from.setSelectionRange(0, 1); from.click()", "TextSelectionChanged From");
+    QWidget other;
+    other.show();
+    other.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&other));
+    view->activateWindow();
+    tells("", "Focus From");
     tells("news.textContent = '<i>saved</i>'", "ObjectShow <i>saved</i>");
 }
 
 TEST_F(AccessiblePageOf, NothingOutlivesItsElement) {
-    QAccessible::setActive(true);
+    listen(true);
     const auto idOf = [&](int child) { return QAccessible::uniqueId(root()->child(child)); };
     QAccessibleInterface* fold = root()->child(3);
     const QAccessible::Id folded = idOf(3);

@@ -1,5 +1,6 @@
 #include "GUI_WebView.h"
 
+#include "AccessiblePage.h"
 #include "GUI_WebPage.h"
 
 #include <QFocusEvent>
@@ -9,6 +10,7 @@
 
 GUI_WebView::GUI_WebView(ZebHost* host, QWidget* parent) : QWebView(parent), m_page(new GUI_WebPage(host, this)) {
     setPage(m_page);
+    m_accessible = std::make_unique<AccessiblePage>(*this);
     setContextMenuPolicy(Qt::NoContextMenu);
     setAcceptDrops(false);
 }

@@ -3,6 +3,9 @@
 #include <QMenu>
 #include <QWebView>
 
+#include <memory>
+
+class AccessiblePage;
 class GUI_WebPage;
 class ZebHost;
 
@@ -34,6 +37,7 @@ private:
     bool isTyping(int key) const;
 
     GUI_WebPage* const m_page;
+    std::unique_ptr<AccessiblePage> m_accessible;
     QMenu m_menu;
     QWidget* m_inspector = nullptr;
 };
