@@ -225,6 +225,10 @@ void ScenarioApi::window(const QString& what) {
     guarded([&] { m_table.window(what); });
 }
 
+QJSValue ScenarioApi::accessible() {
+    return guarded([&] { return plain(m_table.accessible()); });
+}
+
 QString ScenarioApi::shot(const QString& path) {
     return guarded([&] { return m_table.shot(path); });
 }

@@ -59,6 +59,7 @@ public:
     Q_INVOKABLE QString redo();
     Q_INVOKABLE QString active();
     Q_INVOKABLE void window(const QString& what);
+    Q_INVOKABLE QJSValue accessible();
     Q_INVOKABLE QString shot(const QString& path);
 
     Q_INVOKABLE void wait(double ms);

@@ -1,5 +1,6 @@
 #include "TableDriver.h"
 
+#include "AccessibleTree.h"
 #include "EventWait.h"
 #include "KeyInput.h"
 #include "ModalWatcher.h"
@@ -12,6 +13,7 @@
 #include "ViewerWindow.h"
 #include "WholePicture.h"
 
+#include <QAccessible>
 #include <QClipboard>
 #include <QDialog>
 #include <QDir>
@@ -132,6 +134,11 @@ void TableDriver::place(const QString& geometry) {
     shownDialog().setGeometry(number(1), number(2), number(3), number(4));
 }
 
+QVariantMap TableDriver::accessible() const {
+    QAccessible::setActive(true);
+    return accessibleTree(*QAccessible::queryAccessibleInterface(&frontDialog()));
+}
+
 QString TableDriver::shot(const QString& path) {
     const QFileInfo file(path);
     QDir().mkpath(file.absolutePath());
@@ -169,9 +176,13 @@ QDialog& TableDriver::shownDialog() const {
     return *dialog();
 }
 
-QWindow& TableDriver::keyWindow() const {
+QDialog& TableDriver::frontDialog() const {
     QDialog* modal = ModalWatcher::standing();
-    QDialog& target = modal ? *modal : shownDialog();
+    return modal ? *modal : shownDialog();
+}
+
+QWindow& TableDriver::keyWindow() const {
+    QDialog& target = frontDialog();
     // Keys go to the active window, which a dialog that has just come up is not yet.
     target.activateWindow();
     QElapsedTimer asked;

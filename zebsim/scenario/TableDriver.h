@@ -2,6 +2,7 @@
 
 #include <QJsonValue>
 #include <QString>
+#include <QVariantMap>
 
 #include <functional>
 
@@ -40,6 +41,8 @@ public:
 
     /// "minimise", "restore", "activate", or a geometry as "x,y,w,h".
     void window(const QString& what);
+    /// What a screen reader gets of the window that the user's keys go to, as `accessibleTree` tells it.
+    QVariantMap accessible() const;
     /// Saves what the table shows, in the format of the suffix. Answers the whole path.
     QString shot(const QString& path);
 
@@ -49,6 +52,8 @@ public:
 private:
     QDialog* dialog() const;
     QDialog& shownDialog() const;
+    /// The modal dialog that stands, or else the table's.
+    QDialog& frontDialog() const;
     QWebView& view() const;
     /// Of the page that the user's mouse works.
     QWebView& front() const;
