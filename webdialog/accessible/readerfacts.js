@@ -89,7 +89,7 @@ var readerFacts = (function () {
         try {
             return plain(texts[what](element));
         } catch (e) {
-            console.warn('readerTexts.' + what + ': ' + e);
+            console.error('readerTexts.' + what + ': ' + e);
             return '';
         }
     }
