@@ -28,6 +28,7 @@ const QString Page = QStringLiteral(R"(<body>
 </fieldset>
 <span id="edge-name" hidden>Level</span><div style="display: none"><button>Hidden</button></div>
 <p id="news" role="status"></p><div id="fold" role="menuitem" aria-expanded="false" title="More">More</div>
+<ul role="tablist"><li role="tab" aria-selected="true"><a tabindex="-1">Sync</a></li></ul>
 </body>)");
 
 QString keyOf(const char* enumerator, int value) {
@@ -104,6 +105,8 @@ TEST_F(AccessiblePageOf, AViewIsAsItsPageSaysOnceSomeoneListens) {
   Slider: Level | 3
  Notification: 
  MenuItem: More [expandable collapsed]
+ PageTabList: 
+  PageTab: Sync [selectable selected]
 )"));
     QAccessibleInterface* slider = root()->child(1)->child(4);
     ASSERT_TRUE(slider->valueInterface());

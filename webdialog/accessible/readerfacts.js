@@ -39,7 +39,7 @@ var readerFacts = (function () {
         case 'select':
             return element.multiple || element.size > 1 ? 'listbox' : 'combobox';
         case 'a':
-            return element.hasAttribute('tabindex') ? 'link' : '';
+            return element.hasAttribute('tabindex') && !element.closest('[role="tab"]') ? 'link' : '';
         default:
             return TagRoles[element.localName] || '';
         }
