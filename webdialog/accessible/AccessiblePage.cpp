@@ -5,6 +5,7 @@
 #include "ElementChange.h"
 #include "PageReaderScript.h"
 
+#include <QWebElement>
 #include <QWebFrame>
 #include <QWebView>
 
@@ -74,10 +75,11 @@ void AccessiblePage::pageGone() {
 }
 
 QVariant AccessiblePage::evaluate(const QString& script) {
-    if (!m_listened && !m_scripted) {
+    QWebFrame& frame = *m_view.page()->mainFrame();
+    // A document that has only begun has nothing to be told of.
+    if (!m_scripted && (!m_listened || frame.documentElement().isNull())) {
         return {};
     }
-    QWebFrame& frame = *m_view.page()->mainFrame();
     if (!m_scripted) {
         frame.addToJavaScriptWindowObject(QStringLiteral("pageReaderEvents"), this);
         frame.evaluateJavaScript(QString::fromUtf16(PageReaderScript));
