@@ -9,6 +9,11 @@ const TABLE_COLOURS = {
 };
 const DARK_TEXT = '#1a79c1';
 const LIGHT_TEXT = '#eeeeee';
+// What lies under such a text, so that it can be read whatever colour the page has.
+const PLATE_OF_DARK = '#ffffff';
+const PLATE_OF_LIGHT = '#333333';
+
+const PLATES = 'legend, #wren_related_settings > *, .option-recording label, #trigger_test label';
 
 Object.assign(wrentabledialog_obj, {
     getTableColorClass: colour => 'wren-table-color-' + colour,
@@ -40,9 +45,10 @@ Object.assign(wrentabledialog_obj, {
             return;
         }
         this.textColor = text;
-        paintText('legend, #wren_related_settings', text);
-        paintText('#wren_related_settings a', dark ? DARK_TEXT : '#9fd7fc');
-        paintText('.option-recording label, #trigger_test label', dark ? '#333333' : '#ffffff');
+        paint('color', 'legend, #wren_related_settings', text);
+        paint('color', '#wren_related_settings a', dark ? DARK_TEXT : '#9fd7fc');
+        paint('color', '.option-recording label, #trigger_test label', dark ? '#333333' : '#ffffff');
+        paint('backgroundColor', PLATES, dark ? PLATE_OF_DARK : PLATE_OF_LIGHT);
     },
 
     // Contrast of two colours, and the relative luminance of one, as the accessibility guidelines define them.
@@ -60,6 +66,6 @@ Object.assign(wrentabledialog_obj, {
     }
 });
 
-function paintText(selector, colour) {
-    Array.from(document.querySelectorAll(selector)).forEach(element => { element.style.color = colour; });
+function paint(what, selector, colour) {
+    Array.from(document.querySelectorAll(selector)).forEach(element => { element.style[what] = colour; });
 }
