@@ -1,5 +1,8 @@
 #include "TablePage.h"
 
+#include <QApplication>
+#include <QTimer>
+
 #include <random>
 
 // The table without a mouse: where the keyboard is, and what a key does there.
@@ -112,6 +115,25 @@ TEST(PageKeys, TellWhyACellTakesNothing) {
     page.tick();
     EXPECT_EQ(page.text("$('.ui-tooltip-content').text()"), "") << "no reason stands that does not hold";
     EXPECT_EQ(why("frameRate", 1) + why("lock", 2), "");
+}
+
+TEST(PageKeys, GoIntoTheIconsOfACell) {
+    TestHost test(connected(2));
+    TablePage page(test, 4);
+    page.run("viewAt(4).cursor.field = 'plugin'; viewAt(4).cursor.mark(); return 0");
+    const auto made = [&](Qt::Key key) {
+        return page.made("^togglePlugin|^effectContextMenu", [&] { page.key(key); });
+    };
+    EXPECT_EQ(made(Qt::Key_Space), QStringList());
+    page.key(Qt::Key_Right);
+    EXPECT_EQ(made(Qt::Key_Space), QStringList("togglePlugin 1 lut true"));
+    QTimer::singleShot(0, [] { QApplication::activePopupWidget()->close(); });
+    EXPECT_EQ(made(Qt::Key_Menu).value(0).section(' ', 0, 2), "effectContextMenu 1 lut");
+    page.key(Qt::Key_Left);
+    page.key(Qt::Key_Left);
+    EXPECT_EQ(made(Qt::Key_Return), QStringList("togglePlugin 1 filter true"));
+    page.key(Qt::Key_Escape);
+    EXPECT_TRUE(page.run(HasKeyboard).toBool());
 }
 
 TEST(PageKeys, HeldDownPressOnce) {

@@ -15,9 +15,9 @@ COLUMNS.plugin = {
     tick(cell, record, status) {
         const plugins = record.plugins || [];
         const list = JSON.stringify([record.key, plugins.map(plugin => [plugin.name, plugin.okpattern])]);
-        if (cell.differs('icons', 'list', list)) {
+        if (cell.icons !== list) { // a touch by the user leaves them, and the keyboard in them
             drawIcons(cell, record.key, plugins);
-            cell.differs('icons', 'list', list);
+            cell.icons = list;
         }
         plugins.forEach(plugin => {
             const icon = iconOf(plugin.name);
@@ -40,6 +40,26 @@ COLUMNS.plugin = {
             }
         }
     },
+    enter: cell => iconBoxes(cell)[0],
+    key(key, cell, event) {
+        const boxes = iconBoxes(cell);
+        const now = boxes.indexOf(event.target);
+        const next = { [KEY.LEFT]: now - 1, [KEY.RIGHT]: now + 1, [KEY.HOME]: 0, [KEY.END]: boxes.length - 1 };
+        if (next[event.keyCode] !== undefined) {
+            (boxes[next[event.keyCode]] || event.target).focus();
+        } else if (event.keyCode === KEY.ENTER) {
+            event.target.click();
+        } else if (isMenuKey(event)) {
+            const { left, bottom } = event.target.parentNode.getBoundingClientRect();
+            this.menu(key, event.target.nextElementSibling, {
+                screenX: window.screenX + Math.round(left),
+                screenY: window.screenY + Math.round(bottom)
+            });
+        } else {
+            return false;
+        }
+        return true;
+    },
     change(key, box) {
         if (wrentabledialog_obj.isBlocked()) {
             box.checked = !box.checked;
@@ -55,6 +75,11 @@ COLUMNS.plugin = {
         return label !== null;
     }
 };
+
+// Those that can be used.
+function iconBoxes(cell) {
+    return Array.from(cell.parts.icons.querySelectorAll('input:not([disabled])'));
+}
 
 function pluginTitle(name) {
     return translated('p_' + name);

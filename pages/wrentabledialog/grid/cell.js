@@ -23,6 +23,8 @@
 //   doubleClick(view, key)
 //   press(cell, event)     what a click on a control does that no `click` takes
 //   change(key, element)   what a change by the user does
+//   enter(cell)     which of several controls gets the keyboard when it enters the cell; null for none
+//   key(key, cell, event)   what a key in such a control does; answers whether it was one of its own
 //   menu(key, element, event)   what the right button does on it, if it answers true
 // The first two get the cell, the record and the list's status, and write through the cell, which leaves out what the
 // elements show already.

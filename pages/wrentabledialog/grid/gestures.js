@@ -17,6 +17,7 @@ function listenToGrid(view) {
     box.addEventListener('focusout', event => onGridBlur(event), true);
     box.addEventListener('mousemove', event => event.target.closest('.w2ui-head') && view.placeHandles(), true);
     box.tabIndex = 0; // the one stop of Tab
+    box.setAttribute('role', 'grid');
     box.addEventListener('focus', () => view.cursor.mark());
 }
 
@@ -137,7 +138,7 @@ function useControl(view, row, cell, control) {
     }
 }
 
-// A slider knows its keys by itself.
+// A slider knows its keys by itself, as some kinds of cell do.
 function onGridKey(view, event) {
     if (event.target === view.grid.box) {
         onCursorKey(view, event);
@@ -145,6 +146,13 @@ function onGridKey(view, event) {
     }
     if (event.keyCode === KEY.ESCAPE && !numberBox.isInput(event.target)) {
         view.cursor.focus();
+        return;
+    }
+    const row = view.rowOf(event.target);
+    const cell = row && row.cellOf(event.target);
+    if (cell && cell.kind.key && guarded(() => cell.kind.key(row.key, cell, event))) {
+        event.preventDefault();
+        event.stopPropagation();
         return;
     }
     const slider = SLIDER_KEYS.includes(event.keyCode) && sliderUnder(view, event.target);

@@ -4,6 +4,8 @@ const F2 = 113;
 const F10 = 121;
 const CONTROLS = 'a[dockey]:not([hidden]), .SumoSelect[dockey], input[type="checkbox"], input.spinner';
 
+const isMenuKey = ({ keyCode, shiftKey }) => keyCode === MENU_KEY || keyCode === F10 && shiftKey;
+
 function onCursorKey(view, event) {
     const { cursor } = view;
     closeTip();
@@ -84,6 +86,8 @@ function useCursor(view) {
     }
     if (!control) {
         toggleRow(view);
+    } else if (place.cell.kind.enter) {
+        enterCell(view);
     } else if (control.matches('[disabled], .disabled')) {
         tellWhy(view, control);
     } else if (control.matches('input.spinner')) {
@@ -121,9 +125,11 @@ function enterCell(view) {
     if (!place || !cell.filled || !takesInput(view.cursor)) {
         return;
     }
-    const inner = cell.parts.input || cell.parts.handle || cell.box.querySelector('input[type="checkbox"]');
+    const inner = cell.kind.enter ? cell.kind.enter(cell) : cell.parts.input || cell.parts.handle;
     if (cell.kind.doubleClick) {
         cell.kind.doubleClick(view, row.key);
+    } else if (!inner && cell.kind.enter) {
+        tellWhy(view, cell.box.querySelector('[why]') || cell.box);
     } else if (!inner) {
         useCursor(view);
     } else if (inner.disabled || inner.parentNode.hasAttribute('disabled')) {
@@ -137,17 +143,8 @@ function enterCell(view) {
 }
 
 function openCellMenu(view) {
-    const { cell, row } = view.cursor.place() || {};
-    const label = cell && cell.filled && cell.box.querySelector('label[plgName]');
-    const { left, bottom } = (label || view.cursor.shown || view.box).getBoundingClientRect();
-    if (label) {
-        cell.kind.menu(row.key, label, {
-            screenX: window.screenX + Math.round(left),
-            screenY: window.screenY + Math.round(bottom)
-        });
-    } else {
-        tableText.openMenu(view, left, bottom);
-    }
+    const { left, bottom } = (view.cursor.shown || view.box).getBoundingClientRect();
+    tableText.openMenu(view, left, bottom);
 }
 
 // The reason why a cell takes nothing, in the tip that the mouse gets.

@@ -11,8 +11,10 @@ const keyboardHome = {
             }
         });
         document.addEventListener('focusout', () => window.setTimeout(() => logged(() => this.keep()), 0));
-        ['keydown', 'mousedown'].forEach(type =>
-            document.addEventListener(type, () => { this.owed = null; }, true));
+        ['keydown', 'mousedown'].forEach(type => document.addEventListener(type, () => {
+            this.owed = null;
+            mark(document.body, 'keys', type === 'keydown' ? '' : null); // only then the focus is drawn
+        }, true));
         document.addEventListener('keydown', event => this.pressLink(event));
         this.keep();
     },
