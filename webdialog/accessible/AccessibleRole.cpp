@@ -38,6 +38,7 @@ QAccessible::Role accessibleRole(const QString& name) {
         {QStringLiteral("toolbar"), QAccessible::ToolBar},
         {QStringLiteral("separator"), QAccessible::Separator},
         {QStringLiteral("heading"), QAccessible::Heading},
+        {QStringLiteral("note"), QAccessible::StaticText},
         {QStringLiteral("tooltip"), QAccessible::ToolTip},
         {QStringLiteral("img"), QAccessible::Graphic},
         // Readers speak a notification that shows, and heed no status bar and no alert.

@@ -201,11 +201,12 @@ var readerFacts = (function () {
 
     /** The names of its states, with blanks between. */
     function states(element) {
-        const isSelected = element.classList.contains('w2ui-selected') && role(element) === 'row';
+        const isSelected = ['row', 'gridcell'].includes(role(element)) && element.closest('.w2ui-selected') !== null;
         const is = Object.assign({
-            disabled: element.matches(':disabled') || element.classList.contains('disabled') ||
+            disabled: element.hasAttribute('disabled') || element.classList.contains('disabled') ||
                 isTrue(element, 'aria-disabled'),
-            focusable: element.tabIndex >= 0 || element.hasAttribute('current'),
+            focusable: element.tabIndex >= 0 && !element.matches('[disabled], a:not([tabindex])') ||
+                element.hasAttribute('current'),
             focused: element === focused(),
             selectable: Selectable.includes(role(element)) || element.hasAttribute('aria-selected'),
             selected: isTrue(element, 'aria-selected') || isSelected,

@@ -3795,5 +3795,13 @@
         <source>copy the selected rows as text; all rows where none is selected</source>
         <translation>選択した行（なければすべての行）をテキストとしてコピー</translation>
     </message>
+    <message>
+        <source>row %1 of %2</source>
+        <translation>%2 行中 %1 行目</translation>
+    </message>
+    <message>
+        <source>More choices</source>
+        <translation>その他の選択</translation>
+    </message>
 </context>
 </TS>

@@ -17,8 +17,10 @@ COLUMNS.connectionStatus = {
     text: connectionText,
     why: (record, status) => reasonText(whyHeld(record, status), status.why),
     markup: `<div class="flexWrapper" dockey>
-        <a class="wren_button_connection_connect" part="on" id="wren_button_connection_connect_" dockey></a>
-        <a class="wren_button_connection_disconnect" part="off" id="wren_button_connection_disconnect_" dockey></a>
+        <a class="wren_button_connection_connect" part="on" role="switch" aria-checked="true"
+            id="wren_button_connection_connect_" dockey></a>
+        <a class="wren_button_connection_disconnect" part="off" role="switch" aria-checked="false"
+            id="wren_button_connection_disconnect_" dockey></a>
         </div>`,
     tick(cell, record) {
         cell.swap(Boolean(record.connected), 'on', 'off');

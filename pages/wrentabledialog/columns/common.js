@@ -28,8 +28,10 @@ COLUMNS.lock = {
     text: record => record.lock ? translated(textKey('Locked')) : translated(textKey('Unlocked')),
     why: (record, status) => status.why,
     markup: `<div class="flexWrapper" part="wrapper" dockey>
-        <a class="wren_button_lockStatus_lock" part="locked" id="wren_{short}_button_lockStatus_lock_" dockey></a>
-        <a class="wren_button_lockStatus_unlock" part="open" id="wren_{short}_button_lockStatus_unlock_" dockey></a>
+        <a class="wren_button_lockStatus_lock" part="locked" role="switch" aria-checked="true"
+            id="wren_{short}_button_lockStatus_lock_" dockey></a>
+        <a class="wren_button_lockStatus_unlock" part="open" role="switch" aria-checked="false"
+            id="wren_{short}_button_lockStatus_unlock_" dockey></a>
         </div>`,
     tick(cell, record) {
         cell.classes('wrapper', record.lock ? 'flexWrapper wren-lock-status' : 'flexWrapper');
@@ -73,7 +75,8 @@ COLUMNS.cameraName = {
     text: record => record.cameraName,
     why: (record, status) => hasNameButton(record) ? reasonText(whyLocked(record), status.why) : '',
     markup: `<div class="flexWrapper wren-name-wrapper" dockey>
-        <a class="wren_button_edit_camera_name" part="edit" id="wren_{short}_button_edit_camera_name_" dockey></a>
+        <a class="wren_button_edit_camera_name" part="edit" role="button"
+            id="wren_{short}_button_edit_camera_name_" dockey></a>
         <label class="wren_label_edit_camera_name" part="label" dockey></label>
         </div>`,
     rebuild(cell, record) {

@@ -34,7 +34,7 @@ function dropDownColumn(options) {
         needs: options.needs,
         still: true,
         empty: isOff,
-        markup: `<div class="SumoSelect compact" part="frame" dockey>
+        markup: `<div class="SumoSelect compact" part="frame" role="combobox" dockey>
             <select class="${name} SumoUnder" part="select" id="${name}_" tabindex="-1" dockey>
             <option part="option" dockey></option></select>
             <p class="CaptionCont SelectBox ${name}" dockey><span part="text" dockey></span></p>
@@ -153,9 +153,9 @@ COLUMNS.reduce = {
     markup() {
         const priority = escapeMarkup(translate('_Priority'));
         return `<div class="flexWrapper" part="wrapper" dockey>
-        <a class="wren_button_reduce reduceON" part="on"
+        <a class="wren_button_reduce reduceON" part="on" role="switch" aria-checked="true"
             id="wren_button_reduce_on_" dockey>${priority}</a>
-        <a class="wren_button_reduce reduceOFF" part="off"
+        <a class="wren_button_reduce reduceOFF" part="off" role="switch" aria-checked="false"
             id="wren_button_reduce_off_" dockey>${priority}</a>
         </div>`;
     },
@@ -199,13 +199,13 @@ COLUMNS.lowlight = {
     markup() {
         const [on, dark, bright] = [translate('ON'), translate('dark'), translate('bright')].map(escapeMarkup);
         return `<div class="flexWrapper" part="wrapper" dockey>
-        <a class="wren_button_lowlight lowlightON" part="on"
+        <a class="wren_button_lowlight lowlightON" part="on" role="switch" aria-checked="false"
             id="wren_button_lowlight_on_" dockey>${on}</a>
-        <a class="wren_button_lowlight lowlightOFF" part="off"
+        <a class="wren_button_lowlight lowlightOFF" part="off" role="switch" aria-checked="true"
             id="wren_button_lowlight_off_" dockey>${on}</a>
         <span class="wren-slider-container" dockey><label dockey>${dark}</label>
         <div class="wren_slider_lowlight ui-slider ui-slider-horizontal ui-widget ui-widget-content ui-corner-all"
-            part="slider" id="wren_slider_lowlight_" dockey
+            part="slider" role="slider" aria-valuemin="0" id="wren_slider_lowlight_" dockey
             ><span class="ui-slider-handle ui-state-default ui-corner-all" part="handle" tabindex="-1"
             dockey></span></div>
         <label dockey>${bright}</label><span class="slider-result" part="result" dockey>0</span></span>

@@ -13,6 +13,7 @@ function drawFrame(view) {
     summary.innerHTML = hasBatch ? summaryMarkup(grid) : '';
     setStyle(summary, 'display', hasBatch ? 'block' : 'none');
     const [records, heads] = ['records', 'columns'].map(part);
+    Array.from(heads.querySelectorAll('td.w2ui-head[col]')).forEach(head => head.setAttribute('role', 'columnheader'));
     records.addEventListener('scroll', () => {
         if (records !== view.box) { // it has been thrown away meanwhile
             return;

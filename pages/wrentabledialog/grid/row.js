@@ -99,8 +99,10 @@ class DrawnRow {
 // A row with the cells of all columns that are shown, empty, to be copied.
 function rowFrame(grid, tab) {
     const row = document.createElement('tr');
-    const cells = grid.columns.map(({ field, hidden }, index) => hidden ? '' : '<td class="w2ui-grid-data" ' +
-        `col="${index}" style="text-align: ${columnKind(tab, field).align}"><div></div></td>`);
+    row.setAttribute('role', 'row');
+    const cells = grid.columns.map(({ field, hidden }, index) => hidden ? '' :
+        `<td class="w2ui-grid-data" role="gridcell" col="${index}" ` +
+        `style="text-align: ${columnKind(tab, field).align}"><div></div></td>`);
     row.innerHTML = cells.join('') + '<td class="w2ui-grid-data-last"></td>';
     return row;
 }

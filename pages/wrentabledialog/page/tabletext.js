@@ -22,7 +22,8 @@ const tableText = {
 
     save(view) {
         const kinds = this.kinds(view);
-        const lines = [kinds.map(headOf)].concat(this.records(view, false).map(record =>
+        const heads = kinds.map(kind => headOf(kind) + (kind.unit ? ` (${kind.unit})` : ''));
+        const lines = [heads].concat(this.records(view, false).map(record =>
             kinds.map(kind => kind.plain && textOfCell(kind, record) ? kind.plain(record) : textOfCell(kind, record))));
         wrentabledialog.saveTable(lines.map(cells => cells.map(quoted).join(',') + '\r\n').join(''));
     },
@@ -38,8 +39,7 @@ const tableText = {
 
 // The name of a column where nothing but text tells of it.
 function headOf(kind) {
-    const head = kind.heading ? kind.heading() : kind.caption();
-    return kind.unit ? `${head} (${kind.unit})` : head;
+    return kind.heading ? kind.heading() : kind.caption();
 }
 
 // A spreadsheet takes what begins so for a formula, unless it is a number.

@@ -26,7 +26,7 @@ Object.assign(wrentabledialog_obj, {
         const buttons = Array.from(box.children);
         const stored = wrentabledialog.getGroup();
         const chosen = buttons.find(button => button.getAttribute('groupkey') === stored) || buttons[0];
-        buttons.forEach(button => button.setAttribute('buttonselected', String(button === chosen)));
+        buttons.forEach(button => showChosen(button, button === chosen));
         this.showGroupBlock();
     },
 
@@ -45,7 +45,7 @@ Object.assign(wrentabledialog_obj, {
         this.preventSelect = false;
         closeTip();
         Array.from(button.parentNode.children).forEach(other => {
-            other.setAttribute('buttonselected', String(other === button));
+            showChosen(other, other === button);
         });
         try {
             this.update();
@@ -65,6 +65,11 @@ Object.assign(wrentabledialog_obj, {
         showElement(document.getElementById('wrenGroupBlock'), filled);
     }
 });
+
+function showChosen(button, on) {
+    mark(button, 'buttonselected', String(on));
+    mark(button, 'aria-pressed', String(on));
+}
 
 // The list of the filter, which knows no click on the rows.
 function closeFilter() {

@@ -2,6 +2,7 @@
 // one is open an overlay lies over the page, and takes the click that closes it.
 Object.assign(wrentabledialog_obj, {
     initializeMenus() {
+        $('.miscfuncs > button, #recording_partition_span_button').attr('aria-label', translate('More choices'));
         $('#wren-root-block').on('click', '.dummy', () => guarded(() => this.hideSelectBox()));
         $('.funcs-button li a').on('click', () => guarded(() => this.hideSelectBox()));
         $('#btn-save li a').on('click', event => {

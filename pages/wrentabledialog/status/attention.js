@@ -76,8 +76,7 @@ const attention = {
 
     refreshButton() {
         const button = document.getElementById('wren_attention');
-        if (button.hasAttribute('chosen') !== this.on) {
-            button[this.on ? 'setAttribute' : 'removeAttribute']('chosen', '');
-        }
+        mark(button, 'chosen', this.on ? '' : null);
+        mark(button, 'aria-pressed', String(this.on));
     }
 };

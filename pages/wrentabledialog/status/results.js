@@ -116,14 +116,16 @@ function pointAt(view, key) {
 
 function resultHeadMarkup() {
     const heads = ['', '', translate('asked for'), translate('had after it')].map(escapeMarkup);
-    return `<tr><th>${heads.join('</th><th>')}</th></tr>`;
+    return `<tr role="row"><th role="columnheader">${heads.join('</th><th role="columnheader">')}</th></tr>`;
 }
 
 function resultRowMarkup(row) {
     const cells = [`<a rowkey="${escapeMarkup(row.key)}" tabindex="0">${escapeMarkup(row.name || row.key)}</a>`]
         .concat([verdictText(row.verdict), row.asked, row.got].map(escapeMarkup));
-    const reason = row.reason ? `<tr class="reason"><td colspan="4">${escapeMarkup(row.reason)}</td></tr>` : '';
-    return `<tr verdict-of="${escapeMarkup(row.verdict)}"><td>${cells.join('</td><td>')}</td></tr>${reason}`;
+    const reason = row.reason
+        ? `<tr role="row" class="reason"><td role="cell" colspan="4">${escapeMarkup(row.reason)}</td></tr>` : '';
+    return `<tr role="row" verdict-of="${escapeMarkup(row.verdict)}">` +
+        cells.map(cell => `<td role="cell">${cell}</td>`).join('') + `</tr>${reason}`;
 }
 
 Object.assign(wrentabledialog_obj, {

@@ -1,0 +1,40 @@
+// What a screen reader is told of the grids beyond what stands in them; see `webdialog/accessible`.
+window.readerTexts = {
+    // '' where what stands in the element says enough.
+    name(element) {
+        const view = views.find(each => each && each.grid.box && each.grid.box.contains(element));
+        if (!view) {
+            return '';
+        }
+        if (element === view.grid.box) {
+            return tabHeader(view.tab.number).textContent.trim();
+        }
+        const head = element.closest('.w2ui-head');
+        if (head) {
+            return headOf(columnKind(view.tab, view.grid.columns[head.getAttribute('col')].field));
+        }
+        const row = view.rowOf(element);
+        return row ? nameInRow(view, row, element) : '';
+    },
+
+    description(element) {
+        const view = views.find(each => each && each.grid.box && each.grid.box.contains(element));
+        return view && element.matches('td') ? whyOf(view, element.firstChild) : '';
+    }
+};
+
+function nameInRow(view, row, element) {
+    const record = view.recordOf(row) || view.grid.records[row.index];
+    const place = row === view.batch ? record.cameraName
+        : `${record.cameraName}, ${withValues(textKey('row %1 of %2'), row.index + 1, view.grid.records.length)}`;
+    const cell = row.cellOf(element);
+    if (!cell) {
+        return element === row.element ? place : '';
+    }
+    if (!element.matches('td')) {
+        return element.hasAttribute('plgName') ? pluginTitle(pluginOf(element)) : headOf(cell.kind);
+    }
+    const text = textOfCell(cell.kind, record);
+    const what = text === '' ? headOf(cell.kind) : `${headOf(cell.kind)}: ${text}`;
+    return cell.kind === COLUMNS.cameraName ? `${headOf(cell.kind)}: ${place}` : `${what}, ${place}`;
+}
