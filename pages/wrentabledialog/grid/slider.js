@@ -39,6 +39,7 @@ const lowLightSlider = {
             slide: (event, ui) => this.follow(ui.value),
             stop: (event, ui) => guarded(() => this.finish(ui.value))
         }));
+        cell.parts.handle.tabIndex = -1; // the widget makes it a stop of Tab
     },
 
     start() {
