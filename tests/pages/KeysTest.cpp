@@ -70,8 +70,15 @@ TEST(PageKeys, WorkTheControlOfTheCellElseSelect) {
     page.run("viewAt(1).cursor.field = 'frameRate'; viewAt(1).cursor.mark(); return 0");
     page.key(Qt::Key_Return);
     page.key(Qt::Key_Down);
-    EXPECT_EQ(made(Qt::Key_Return).size(), 1);
+    EXPECT_EQ(made(Qt::Key_Return), QStringList("setFrameRate 1 2000"));
     EXPECT_TRUE(page.run(HasKeyboard).toBool()) << "a list gives it back";
+    page.key(Qt::Key_Return);
+    page.key(Qt::Key_End);
+    EXPECT_EQ(made(Qt::Key_Return), QStringList("setFrameRate 1 10000"));
+    page.key(Qt::Key_Return);
+    page.type("50");
+    page.type("0");
+    EXPECT_EQ(made(Qt::Key_Return), QStringList("setFrameRate 1 500"));
     page.run("viewAt(1).cursor.moveTo(0, 0); return 0");
     test.host.faults().plant(1, "*", {{}, 0, true});
     page.tick();

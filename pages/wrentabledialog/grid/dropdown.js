@@ -33,7 +33,7 @@ const dropDown = {
             this.tellOffers(select, offers, cell.choices.length);
         }
         this.limit(select.sumo);
-        this.tellReader(select.sumo);
+        listenToListKeys(select.sumo);
         select.addEventListener('change', () => { chosen = select.value; });
         $(select).on('sumo:closed', () => {
             if (this.select !== select) {
@@ -67,15 +67,6 @@ const dropDown = {
             }
             entry.classList.toggle('others-first', index === own);
         });
-    },
-
-    // The entry that the arrows have come to is what the keyboard is at.
-    tellReader({ select, ul }) {
-        ul.attr('role', 'listbox').children('li').attr('role', 'option');
-        const follow = () => ul.children('li').each((index, entry) =>
-            mark(entry, 'current', entry.classList.contains('sel') ? '' : null));
-        select.on('keyup', follow);
-        follow();
     },
 
     close() {

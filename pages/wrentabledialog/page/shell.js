@@ -85,6 +85,8 @@ Object.assign(wrentabledialog_obj, {
             event.preventDefault();
             document.activeElement.blur();
         });
+        // The filter stands before the headers, as it is seen, and its list must not be taken for them.
+        $.widget('ui.tabs', $.ui.tabs, { _getList() { return this.element.children('ul'); } });
         $('#tabs').tabs({
             active: this.startTab,
             beforeActivate: (event, ui) => this.leaveTab(ui.newTab.index()),

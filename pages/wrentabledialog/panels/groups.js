@@ -3,8 +3,10 @@ Object.assign(wrentabledialog_obj, {
     initializeRecordFilter() {
         const filter = document.getElementById('recordFilter');
         filter.value = String(wrentabledialog.getFilter());
-        this.whenPainted(() =>
-            zeb4func.initSumoSelect('#recordFilter', 120, false, false, false, wrentabledialog));
+        this.whenPainted(() => {
+            zeb4func.initSumoSelect('#recordFilter', 120, false, false, false, wrentabledialog);
+            listenToListKeys(filter.sumo);
+        });
         this.showFilter();
         filter.addEventListener('change', () => guarded(() => {
             this.preventSelect = false;
