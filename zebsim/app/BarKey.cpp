@@ -17,6 +17,7 @@ BarKey::BarKey(QToolBar& bar, const QString& text, const QKeySequence& key, std:
     auto* shortcut = new QShortcut(key, &bar);
     shortcut->setContext(Qt::ApplicationShortcut);
     shortcut->setAutoRepeat(false);
+    shortcut->setWhatsThis(text);
     connect(shortcut, &QShortcut::activated, this, &BarKey::press);
     connect(m_action, &QAction::triggered, this, &BarKey::press);
 }

@@ -4,6 +4,8 @@
 #include "EffectPanel.h"
 
 #include <QCloseEvent>
+#include <QMenu>
+#include <QToolButton>
 #include <QVBoxLayout>
 
 CameraWindow::CameraWindow(DOCKEY key) : m_key(key), m_view(new CameraView(this)), m_effects(new EffectPanel(this)) {
@@ -15,6 +17,18 @@ CameraWindow::CameraWindow(DOCKEY key) : m_key(key), m_view(new CameraView(this)
     layout->addWidget(m_effects);
     setWidget(inside);
     setAttribute(Qt::WA_DeleteOnClose, false);
+}
+
+void CameraWindow::addMenu(QMenu& menu) {
+    auto* button = new QToolButton(m_view);
+    button->setText(menu.title());
+    button->setMenu(&menu);
+    button->setPopupMode(QToolButton::InstantPopup);
+    auto* corner = new QHBoxLayout(m_view);
+    corner->setContentsMargins({});
+    // The image may be smaller than the button.
+    corner->setSizeConstraint(QLayout::SetNoConstraint);
+    corner->addWidget(button, 0, Qt::AlignRight | Qt::AlignTop);
 }
 
 void CameraWindow::closeEvent(QCloseEvent* event) {

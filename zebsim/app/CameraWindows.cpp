@@ -5,6 +5,7 @@
 #include "CameraWindow.h"
 #include "Clock.h"
 #include "EffectPanel.h"
+#include "FaultMenu.h"
 #include "ImageArea.h"
 #include "ImageEffects.h"
 #include "SimHost.h"
@@ -57,8 +58,7 @@ void CameraWindows::follow() {
     addAndRemove();
     const bool isBlocked = m_host.flags().isOn(StatusFlags::IsOtherPluginOpen) || m_host.saver().isBgSaving();
     forEach([this, isBlocked](const Camera& camera, CameraWindow& window) {
-        // Alone the three letters are Qt's mark of a changed document.
-        const QString title = QString(camera.name()).replace(QLatin1String("[*]"), QLatin1String("[*][*]"));
+        const QString title = titleOf(camera);
         if (window.windowTitle() != title) {
             window.setWindowTitle(title);
         }
@@ -68,6 +68,19 @@ void CameraWindows::follow() {
     });
     activateCurrent();
     m_area.setEmptyText(emptyText());
+}
+
+/// The name, what is wrong on purpose, and that a picture of the window shows no real camera.
+QString CameraWindows::titleOf(const Camera& camera) const {
+    // Alone the three letters are Qt's mark of a changed document.
+    const QString name = QString(camera.name()).replace(QLatin1String("[*]"), QLatin1String("[*][*]"));
+    if (camera.isFile()) {
+        return name;
+    }
+    const QStringList faults = plantedFaults(m_host, camera.key());
+    const QString state =
+        faults.isEmpty() ? name : QString(name % QLatin1String(": ") % faults.join(QLatin1String(", ")));
+    return uiText("%1 (simulated)").arg(state);
 }
 
 /// Another rig's cameras may have the same keys.
@@ -128,6 +141,9 @@ void CameraWindows::addAndRemove() {
 
 CameraWindow* CameraWindows::makeWindow(DOCKEY key) {
     auto* window = new CameraWindow(key);
+    if (key < CameraBank::FirstFileKey) {
+        window->addMenu(*new FaultMenu(m_host, key, window));
+    }
     EffectPanel* effects = &window->effects();
     connect(effects, &EffectPanel::switched, this, [this, key](const QString& plugin, bool on) {
         if (Camera* camera = m_host.cameras().find(key)) {

@@ -46,6 +46,7 @@ private:
     void forEach(const std::function<void(const Camera&, CameraWindow&)>& work) const;
     void addAndRemove();
     void removeAll();
+    QString titleOf(const Camera& camera) const;
     CameraWindow* makeWindow(DOCKEY key);
     void showEffects(const Camera& camera, CameraWindow& window) const;
     void activateCurrent();

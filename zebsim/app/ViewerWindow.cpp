@@ -3,9 +3,12 @@
 #include "AppWindows.h"
 #include "Camera.h"
 #include "CameraWindows.h"
+#include "DialogRun.h"
 #include "EditMenu.h"
+#include "FaultMenu.h"
 #include "HostKeys.h"
 #include "ImageArea.h"
+#include "KeysDialog.h"
 #include "LogDock.h"
 #include "MediaMenu.h"
 #include "PlayerBar.h"
@@ -42,7 +45,7 @@ ViewerWindow::ViewerWindow(SimHost& host, const LogStore& log)
       m_modes(new QActionGroup(this)),
       m_styles(new QActionGroup(this)),
       m_cameras(new QLabel(this)) {
-    setWindowTitle(QStringLiteral("ZEB"));
+    setWindowTitle(uiText("ZEB (simulated cameras)"));
     resize(FirstSize);
     setCentralWidget(m_area);
     m_bar->setObjectName(QStringLiteral("tools"));
@@ -74,6 +77,12 @@ ViewerWindow::~ViewerWindow() = default;
 
 QMdiArea* ViewerWindow::mdiArea() const {
     return m_area;
+}
+
+QMenu& ViewerWindow::addMenu(const QString& title) {
+    auto* menu = new QMenu(title, this);
+    menuBar()->insertMenu(m_settingsMenu, menu);
+    return *menu;
 }
 
 void ViewerWindow::addPlugin(PluginSlot& slot) {
@@ -125,6 +134,9 @@ void ViewerWindow::addDialogs(AppWindows& windows) {
         first, {addEntry(m_cameraMenu, uiText("Add camera..."), "addCamera", [&windows] { windows.addCamera(); }),
                 m_customInfo});
     m_cameraMenu->insertSeparator(first);
+    m_cameraMenu->addSeparator();
+    m_liftFaults = addEntry(m_cameraMenu, uiText("Lift all faults"), "liftFaults",
+                            [this] { liftFaults(m_host, faultyCameras(m_host)); });
     QMenu* settings = menuBar()->addMenu(uiText("&Settings"));
     QMenu* help = menuBar()->addMenu(uiText("&Help"));
     m_bar->addSeparator();
@@ -132,6 +144,9 @@ void ViewerWindow::addDialogs(AppWindows& windows) {
         {addEntry(settings, uiText("Preferences"), "preferences", [&windows] { windows.openPreferences(); }),
          addEntry(settings, uiText("Ethernet"), "ethernet", [&windows] { windows.openEthernetSettings(); }),
          addEntry(help, uiText("About ZEB"), "about", [&windows] { windows.openAbout(); })});
+    QAction* keys = addEntry(help, uiText("Keys"), "keys", [this] { runDialog(m_host, new KeysDialog(*this)); });
+    keys->setShortcut(Qt::Key_F1);
+    m_settingsMenu = settings->menuAction();
 }
 
 QAction* ViewerWindow::addEntry(QMenu* menu, const QString& text, const char* name, const std::function<void()>& work) {
@@ -163,6 +178,9 @@ void ViewerWindow::refresh() {
     }
     if (m_closeRecordings != nullptr) {
         m_closeRecordings->setEnabled(!m_host.cameras().files().empty());
+    }
+    if (m_liftFaults != nullptr) {
+        m_liftFaults->setEnabled(!faultyCameras(m_host).isEmpty());
     }
     for (QAction* entry : qAsConst(m_settings)) {
         entry->setEnabled(m_host.isLiveMode() && !m_host.recorder().isUnderWay() && connected > 0);

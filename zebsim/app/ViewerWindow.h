@@ -31,6 +31,8 @@ public:
     /// Entries that save, and those for the application's dialogs, as buttons too. They must live until the
     /// application's event loop has ended.
     void addDialogs(AppWindows& windows);
+    /// A menu more, before those that every program has. Only after `addDialogs`.
+    QMenu& addMenu(const QString& title);
     QMdiArea* mdiArea() const;
     CameraWindows& images() { return *m_images; }
 
@@ -58,6 +60,8 @@ private:
     QActionGroup* m_styles;
     QAction* m_customInfo = nullptr;
     QAction* m_closeRecordings = nullptr;
+    QAction* m_liftFaults = nullptr;
+    QAction* m_settingsMenu = nullptr;
     /// Those that load and save the settings of the cameras.
     QList<QAction*> m_settings;
     QLabel* m_cameras;

@@ -4,7 +4,7 @@
 
 namespace {
 
-const QString everyOperation = QStringLiteral("*");
+const QString everyOperation = QString::fromLatin1(FaultPlan::EveryOperation);
 
 }
 
@@ -18,7 +18,9 @@ void FaultPlan::plant(DOCKEY key, const QString& operation, const Fault& fault) 
         m_faults[key].remove(operation);
     }
     if (fault.isEmpty()) {
-        m_gone.remove(key);
+        if (m_gone.remove(key)) {
+            m_tellGone();
+        }
         if (m_faults.value(key).isEmpty()) {
             m_faults.remove(key);
         }
@@ -26,6 +28,11 @@ void FaultPlan::plant(DOCKEY key, const QString& operation, const Fault& fault) 
         insertGone(key);
     }
     updateAny();
+}
+
+QHash<QString, Fault> FaultPlan::planted(DOCKEY key) const {
+    const std::lock_guard lock(m_mutex);
+    return m_faults.value(key);
 }
 
 void FaultPlan::insertGone(DOCKEY key) {

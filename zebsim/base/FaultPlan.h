@@ -33,17 +33,20 @@ struct Fault {
 /// have no fault of their own.
 class FaultPlan {
 public:
+    static constexpr auto EveryOperation = "*";
     /// Key of the host; no camera has it.
     static constexpr DOCKEY Host = zeb::NoDocKey;
     /// Key of the disk, whose one operation is "write", once a file of a save.
     static constexpr DOCKEY Disk = Host - 1;
 
-    /// To be told when a camera goes; on the thread that finds out, and without asking the plan.
+    /// To be told when a camera goes, and when it is back; on the thread that finds out, and without asking the plan.
     void whenGone(std::function<void()> tell) { m_tellGone = std::move(tell); }
 
     /// Plants a fault in the place of an earlier one. An empty fault takes it away, and brings a camera back that it
     /// had made gone.
     void plant(DOCKEY key, const QString& operation, const Fault& fault);
+    /// Those of a key, by operation.
+    QHash<QString, Fault> planted(DOCKEY key) const;
     /// Plants a fault on the call number `call` of those that cameras, hubs, the host and the disk get from now on,
     /// counted from 1.
     void plantAt(int call, const Fault& fault);
