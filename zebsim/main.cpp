@@ -5,6 +5,7 @@
 #include "PluginLoader.h"
 #include "PluginSlot.h"
 #include "Rig.h"
+#include "ScenarioMenu.h"
 #include "ScenarioRunner.h"
 #include "Simulator.h"
 #include "ViewerWindow.h"
@@ -77,6 +78,7 @@ int main(int argc, char** argv) {
     initHostPages();
     try {
         Simulator simulator(line);
+        const ScenarioMenu scenarios(simulator);
         simulator.window().show();
         return line.scenario.isEmpty() ? runViewer(simulator, line) : runScenario(simulator, line);
     } catch (const std::runtime_error& e) {

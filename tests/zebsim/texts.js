@@ -14,7 +14,7 @@ const expect = (holds, fault) => holds || faults.push(fault);
 // To `lupdate` the keys are ids: a `tr` needs a class around it, and many marks have none.
 const MARKS = 'QT_TRID_NOOP=TextKey,QT_TRID_NOOP+=QT_TR_NOOP,QT_TRID_NOOP+=uiText,qsTrId=textKey,qsTrId+=translate';
 // Where no source of the product lies.
-const OTHERS = ['bench', 'build', 'demo', 'docs', 'node_modules', 'tests'];
+const OTHERS = ['bench', 'build', 'docs', 'node_modules', 'tests'];
 
 const read = file => fs.readFileSync(file, 'utf8');
 const found = (text, pattern) => Array.from(text.matchAll(pattern), match => match[1]);

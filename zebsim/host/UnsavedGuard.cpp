@@ -26,6 +26,14 @@ bool UnsavedGuard::mayClose() const {
         question, "Unsaved images are lost with the viewer:", [&] { return lostByClosing(heldRecordings(m_cameras)); });
 }
 
+bool UnsavedGuard::mayReplace() const {
+    const QString question =
+        m_translator.translate(TextKey("Cameras hold images that nobody has saved. Replace the cameras all the same?"));
+    return mayLose(question, "Unsaved images are lost with the cameras that are replaced:", [&] {
+        return lostByClosing(heldRecordings(m_cameras));
+    });
+}
+
 bool UnsavedGuard::mayLose(const QString& question, const char* log,
                            const std::function<HeldRecordings()>& lost) const {
     QStringList givenUp;

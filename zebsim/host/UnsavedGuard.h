@@ -26,6 +26,8 @@ public:
     bool mayRecordOver(const std::function<DocKeyList()>& toArm) const;
     /// Whether the program may end.
     bool mayClose() const;
+    /// Whether other cameras may take the place of these.
+    bool mayReplace() const;
     /// A line for each of these recordings: camera, frames, and the partition where there are several.
     QStringList lines(const HeldRecordings& recordings) const;
 

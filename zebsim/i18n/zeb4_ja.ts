@@ -3803,5 +3803,205 @@
         <source>More choices</source>
         <translation>その他の選択</translation>
     </message>
+    <message>
+        <source>%1 (simulated)</source>
+        <translation>%1（シミュレーション）</translation>
+    </message>
+    <message>
+        <source>ZEB (simulated cameras)</source>
+        <translation>ZEB（シミュレーションのカメラ）</translation>
+    </message>
+    <message>
+        <source>Faults</source>
+        <translation>障害</translation>
+    </message>
+    <message>
+        <source>has vanished</source>
+        <translation>消失しています</translation>
+    </message>
+    <message>
+        <source>vanishes at %1</source>
+        <translation>%1 で消失します</translation>
+    </message>
+    <message>
+        <source>does not answer</source>
+        <translation>応答しません</translation>
+    </message>
+    <message>
+        <source>refuses %1</source>
+        <translation>%1 を拒否します</translation>
+    </message>
+    <message>
+        <source>is slow (%1 ms)</source>
+        <translation>遅延しています（%1 ミリ秒）</translation>
+    </message>
+    <message>
+        <source>is slow at %1 (%2 ms)</source>
+        <translation>%1 が遅延します（%2 ミリ秒）</translation>
+    </message>
+    <message>
+        <source>the camera refuses this</source>
+        <translation>カメラがこの操作を拒否しています</translation>
+    </message>
+    <message>
+        <source>Refuse an operation...</source>
+        <translation>操作を拒否...</translation>
+    </message>
+    <message>
+        <source>The camera refuses this operation:</source>
+        <translation>カメラが拒否する操作：</translation>
+    </message>
+    <message>
+        <source>Lift all</source>
+        <translation>すべて解除</translation>
+    </message>
+    <message>
+        <source>Lift all faults</source>
+        <translation>すべての障害を解除</translation>
+    </message>
+    <message>
+        <source>Cameras hold images that nobody has saved. Replace the cameras all the same?</source>
+        <translation>保存されていない画像がカメラに残っています。それでもカメラを入れ替えますか？</translation>
+    </message>
+    <message>
+        <source>Keys</source>
+        <translation>キー</translation>
+    </message>
+    <message>
+        <source>Menu %1</source>
+        <translation>メニュー %1</translation>
+    </message>
+    <message>
+        <source>Key</source>
+        <translation>キー</translation>
+    </message>
+    <message>
+        <source>Does</source>
+        <translation>動作</translation>
+    </message>
+    <message>
+        <source>F1 in the table lists the keys of the table.</source>
+        <translation>テーブルのキーは、テーブルで F1 を押すと表示されます。</translation>
+    </message>
+    <message>
+        <source>Sce&amp;narios</source>
+        <translation>シナリオ(&amp;N)</translation>
+    </message>
+    <message>
+        <source>Connect and set</source>
+        <translation>接続と設定</translation>
+    </message>
+    <message>
+        <source>Record and save</source>
+        <translation>撮影と保存</translation>
+    </message>
+    <message>
+        <source>A camera that fails</source>
+        <translation>故障するカメラ</translation>
+    </message>
+    <message>
+        <source>Shows it with cameras of its own, which take the place of these.</source>
+        <translation>専用のカメラで実演します。現在のカメラと入れ替わります。</translation>
+    </message>
+    <message>
+        <source>A scenario runs.</source>
+        <translation>シナリオを実行中です。</translation>
+    </message>
+    <message>
+        <source>No plug-in is loaded.</source>
+        <translation>プラグインが読み込まれていません。</translation>
+    </message>
+    <message>
+        <source>Cameras are armed or record.</source>
+        <translation>カメラが撮影待機中または撮影中です。</translation>
+    </message>
+    <message>
+        <source>The scenario &quot;%1&quot; has not gone as it should.</source>
+        <translation>シナリオ「%1」が予定どおりに進みませんでした。</translation>
+    </message>
+    <message>
+        <source>Eight cameras are found, and none is connected.</source>
+        <translation>カメラが 8 台見つかりました。まだ接続されていません。</translation>
+    </message>
+    <message>
+        <source>The switch in the row &quot;All cameras&quot; has connected them.</source>
+        <translation>「すべてのカメラ」の行のスイッチで接続しました。</translation>
+    </message>
+    <message>
+        <source>Two padlocks are closed: nothing changes these cameras now.</source>
+        <translation>2 台をロックしました。これらのカメラの設定は変わりません。</translation>
+    </message>
+    <message>
+        <source>Here are the shooting conditions of each camera.</source>
+        <translation>ここに各カメラの撮影条件が表示されます。</translation>
+    </message>
+    <message>
+        <source>One choice in the row &quot;All cameras&quot; has set the frame rate of all that are not locked.</source>
+        <translation>「すべてのカメラ」の行で選ぶと、ロックされていないすべてのカメラの撮影速度が設定されます。</translation>
+    </message>
+    <message>
+        <source>A choice in a row sets its camera alone. What a row shows is what the camera has answered.</source>
+        <translation>各行で選ぶと、そのカメラだけが設定されます。行にはカメラの応答が表示されます。</translation>
+    </message>
+    <message>
+        <source>Four cameras are connected.</source>
+        <translation>カメラ 4 台が接続されています。</translation>
+    </message>
+    <message>
+        <source>Cameras are locked before they record.</source>
+        <translation>撮影の前にカメラをロックします。</translation>
+    </message>
+    <message>
+        <source>Record has armed them: their memories fill, and they wait for the trigger.</source>
+        <translation>「撮影」で待機状態になりました。メモリに記録しながらトリガを待ちます。</translation>
+    </message>
+    <message>
+        <source>The second press is the trigger. The cameras record until their memories are full.</source>
+        <translation>2 回目の押下がトリガです。メモリがいっぱいになるまで撮影します。</translation>
+    </message>
+    <message>
+        <source>Memory mode shows what each camera holds. The frame of the trigger is number 0.</source>
+        <translation>メモリモードで各カメラの画像が示されます。トリガのフレームが 0 番です。</translation>
+    </message>
+    <message>
+        <source>Twenty frames of each are to be saved.</source>
+        <translation>各カメラの 20 フレームを保存します。</translation>
+    </message>
+    <message>
+        <source>Each camera is ticked once somebody has looked at its images.</source>
+        <translation>画像を確認したカメラにチェックを付けます。</translation>
+    </message>
+    <message>
+        <source>Before anything is written a plan names every file.</source>
+        <translation>書き込む前に、すべてのファイルが計画に示されます。</translation>
+    </message>
+    <message>
+        <source>All is saved. The files stay there until the viewer is closed.</source>
+        <translation>すべて保存しました。ファイルはビューアを閉じるまで残ります。</translation>
+    </message>
+    <message>
+        <source>Camera 2 does not answer any more. Its row says so, the others are as before.</source>
+        <translation>カメラ 2 が応答しなくなりました。その行に示され、ほかの行は変わりません。</translation>
+    </message>
+    <message>
+        <source>It answers again, and its row is whole again.</source>
+        <translation>再び応答し、行が元に戻りました。</translation>
+    </message>
+    <message>
+        <source>Camera 3 refuses its frame rate. One message names it, and the others are set.</source>
+        <translation>カメラ 3 が撮影速度を拒否します。メッセージがそのカメラを示し、ほかは設定されます。</translation>
+    </message>
+    <message>
+        <source>The row of camera 3 shows the frame rate that it still has.</source>
+        <translation>カメラ 3 の行には、変わらない撮影速度が表示されています。</translation>
+    </message>
+    <message>
+        <source>Camera 4 has vanished, and its row with it.</source>
+        <translation>カメラ 4 が消失し、その行もなくなりました。</translation>
+    </message>
+    <message>
+        <source>It is back. The button Faults in the window of a camera does all this by hand.</source>
+        <translation>カメラが戻りました。カメラのウィンドウの「障害」ボタンで、同じことを手動で行えます。</translation>
+    </message>
 </context>
 </TS>

@@ -32,7 +32,9 @@ QAction& findEntry(const QList<QAction*>& actions, const QString& text) {
         }
         if (shownText(*action) == text) {
             if (!action->isEnabled()) {
-                throw ScenarioError(QStringLiteral("the entry \"%1\" is greyed").arg(text));
+                const QString why = action->statusTip();
+                throw ScenarioError(QStringLiteral("the entry \"%1\" is greyed").arg(text) %
+                                    (why.isEmpty() ? why : QString(QLatin1String(": ") % why)));
             }
             return *action;
         }

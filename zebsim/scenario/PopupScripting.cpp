@@ -29,6 +29,9 @@ bool PopupScripting::eventFilter(QObject* object, QEvent* event) {
 }
 
 void PopupScripting::serve(QMenu& menu) {
+    if (m_hasUser && m_orders.isEmpty()) {
+        return;
+    }
     try {
         if (m_orders.isEmpty()) {
             throw ScenarioError(QStringLiteral("a context menu stands, and there is no zeb.popup for it"));

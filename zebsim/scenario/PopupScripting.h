@@ -16,6 +16,8 @@ public:
 
     /// The text of an entry of the next menu; a null text leaves it.
     void order(const QString& text) { m_orders.append(text); }
+    /// Menus without an order stand.
+    void leaveRestToUser() { m_hasUser = true; }
     bool isOrderLeft() const { return !m_orders.isEmpty(); }
 
     bool eventFilter(QObject* object, QEvent* event) override;
@@ -27,4 +29,5 @@ private:
     void serve(QMenu& menu);
 
     QStringList m_orders;
+    bool m_hasUser = false;
 };

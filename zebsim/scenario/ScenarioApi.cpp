@@ -13,6 +13,8 @@
 #include "Simulator.h"
 #include "ViewerWindow.h"
 
+#include <QClipboard>
+#include <QGuiApplication>
 #include <QJSEngine>
 
 #include <utility>
@@ -69,7 +71,7 @@ template <typename Work>
 auto ScenarioApi::guarded(Work work) -> decltype(work()) {
     try {
         if (m_givenUp()) {
-            throw ScenarioError(QStringLiteral("the scenario has run for too long"));
+            throw ScenarioError(QStringLiteral("the scenario was ended"));
         }
         return work();
     } catch (const std::exception& e) {
@@ -342,6 +344,14 @@ QJSValue ScenarioApi::calls() {
     const Journal& journal = m_simulator.host().journal();
     const quint64 mark = std::exchange(m_callMark, journal.count());
     return plain(journal.since(mark));
+}
+
+QString ScenarioApi::clipboard() {
+    return QGuiApplication::clipboard()->text();
+}
+
+QString ScenarioApi::translate(const QString& text) {
+    return m_simulator.host().translate(text);
 }
 
 QJSValue ScenarioApi::pref(const QString& key) {

@@ -87,6 +87,8 @@ public:
     Q_INVOKABLE QJSValue log();
     Q_INVOKABLE QJSValue calls();
 
+    Q_INVOKABLE QString clipboard();
+    Q_INVOKABLE QString translate(const QString& text);
     Q_INVOKABLE QJSValue pref(const QString& key);
     Q_INVOKABLE void setPref(const QString& key, const QVariant& value);
     Q_INVOKABLE void status(const QString& name, bool on);

@@ -43,6 +43,12 @@ ScenarioDialogs::ScenarioDialogs(const QString& folder) : m_files(folder) {
     });
 }
 
+void ScenarioDialogs::leaveRestToUser() {
+    m_hasUser = true;
+    m_noticesStand = true;
+    m_popups.leaveRestToUser();
+}
+
 void ScenarioDialogs::letNoticesStand(bool stand) {
     m_noticesStand = stand;
     if (!stand && m_notice) {
@@ -121,9 +127,9 @@ void ScenarioDialogs::dialogStands(QDialog* dialog) {
         runFunction();
     }
     // The function may have answered the dialog itself.
-    if (box && box->isVisible()) {
+    if (box && box->isVisible() && !(m_hasUser && m_answers.isEmpty())) {
         answer(*box);
-    } else if (files && files->isVisible()) {
+    } else if (files && files->isVisible() && !(m_hasUser && !m_files.isOrderLeft())) {
         serve(m_files, *files);
     }
 }

@@ -40,6 +40,8 @@ public:
     FileScripting& files() { return m_files; }
     /// The same for context menus.
     PopupScripting& popups() { return m_popups; }
+    /// What the script does not answer is the user's: message boxes, file dialogs, context menus and notices stand.
+    void leaveRestToUser();
     /// Notices stand as a user would see them until they are not to stand any more; or else each is closed at once.
     void letNoticesStand(bool stand);
     /// The boxes since the last call, each a map with `kind`, `text` and `answer`.
@@ -74,5 +76,6 @@ private:
     PopupScripting m_popups;
     QVariantList m_messages;
     bool m_noticesStand = false;
+    bool m_hasUser = false;
     QPointer<QMessageBox> m_notice;
 };

@@ -10,6 +10,7 @@
 #include <QFileInfo>
 #include <QQmlEngine>
 #include <QRegularExpression>
+#include <QScopedValueRollback>
 
 #include <cstdio>
 
@@ -31,6 +32,8 @@ void printLine(std::FILE* stream, const QString& text) {
 
 ScenarioRunner::ScenarioRunner(Simulator& simulator, int timeout) : m_simulator(simulator), m_timeout(timeout) {}
 
+ScenarioRunner::ScenarioRunner(Simulator& simulator) : m_simulator(simulator) {}
+
 int ScenarioRunner::run(const QString& path) {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) {
@@ -41,14 +44,27 @@ int ScenarioRunner::run(const QString& path) {
 }
 
 int ScenarioRunner::run(const QString& path, const QString& program) {
+    const QScopedValueRollback<bool> running(s_running, true);
     // Nobody would answer the dialog that comes at the first opening of the table.
     m_simulator.host().prefs().assume(QStringLiteral("wren/settings/done"), true);
     // One of the system could not be worked.
+    const bool hadNone = QCoreApplication::testAttribute(Qt::AA_DontUseNativeDialogs);
     QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
-    const QString folder = QFileInfo(path).absolutePath();
-    ScenarioApi api(m_engine, m_simulator, folder, [this] { return m_stop.load(); });
+    ScenarioApi api(m_engine, m_simulator, QFileInfo(path).absolutePath(), [this] { return isGivenUp(); });
     connect(&api.dialogs(), &ScenarioDialogs::threw, this, &ScenarioRunner::reportError);
     connect(&api.dialogs(), &ScenarioDialogs::unanswerable, this, &ScenarioRunner::fail);
+    if (m_timeout) {
+        const ScriptWatchdog watchdog(*m_timeout, [this] { expired(); });
+        evaluate(api, path, program);
+    } else {
+        api.dialogs().leaveRestToUser();
+        evaluate(api, path, program);
+    }
+    QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs, hadNone);
+    return m_failed ? 1 : 0;
+}
+
+void ScenarioRunner::evaluate(ScenarioApi& api, const QString& path, const QString& program) {
     // The engine owns neither.
     QQmlEngine::setObjectOwnership(&api, QQmlEngine::CppOwnership);
     QQmlEngine::setObjectOwnership(this, QQmlEngine::CppOwnership);
@@ -58,24 +74,30 @@ int ScenarioRunner::run(const QString& path, const QString& program) {
     }
     QJSValue extend = m_engine.evaluate(Extension);
     m_engine.globalObject().setProperty(QStringLiteral("zeb"), extend.call({m_engine.newQObject(&api)}));
-
-    const ScriptWatchdog watchdog(m_timeout, [this] { expired(); });
     const QJSValue end = m_engine.evaluate(program % QLatin1String("\n;'") % EndMark % QLatin1Char('\''), path);
     if (end.isError() || end.toString() != EndMark) {
         reportError(end);
     } else if (!api.dialogs().leftOver().isEmpty()) {
         fail(api.dialogs().leftOver());
     }
-    return m_failed ? 1 : 0;
+}
+
+bool ScenarioRunner::isGivenUp() {
+    if (!m_timeout && m_simulator.host().isApplicationClosing()) {
+        m_engine.setInterrupted(true);
+        return true;
+    }
+    return m_stop;
 }
 
 void ScenarioRunner::print(const QJSValue& value) {
-    if (!value.isObject()) {
-        printLine(stdout, value.toString());
-        return;
+    QString text = value.toString();
+    if (value.isObject()) {
+        QJSValue stringify = m_engine.evaluate(QStringLiteral("JSON.stringify"));
+        text = stringify.call({value}).toString();
     }
-    QJSValue stringify = m_engine.evaluate(QStringLiteral("JSON.stringify"));
-    printLine(stdout, stringify.call({value}).toString());
+    printLine(stdout, text);
+    Q_EMIT printed(text);
 }
 
 void ScenarioRunner::check(const QJSValue& condition, const QString& text) {
@@ -106,24 +128,31 @@ void ScenarioRunner::rejectDialogs() {
 void ScenarioRunner::fail(const QString& text) {
     m_failed = true;
     printLine(stdout, QLatin1String("FAILED: ") % text);
+    Q_EMIT failed(text);
 }
 
 void ScenarioRunner::reportError(const QJSValue& error) {
     m_failed = true;
+    if (isGivenUp() && !m_stop) {
+        return;  // the user has closed the application
+    }
     if (m_stop) {
-        printLine(stderr, QStringLiteral("the scenario has run for more than %1 seconds").arg(m_timeout));
+        printLine(stderr, QStringLiteral("the scenario has run for more than %1 seconds").arg(*m_timeout));
         return;
     }
-    const QString file =
-        error.property(QStringLiteral("fileName")).toString().remove(QRegularExpression(QStringLiteral("^file:(//)?")));
+    const QString file = error.property(QStringLiteral("fileName"))
+                             .toString()
+                             .remove(QRegularExpression(QStringLiteral("^(file:(//)?|qrc:)")));
     const QString line = error.property(QStringLiteral("lineNumber")).toString();
     const QString place = error.isError() ? file % QLatin1Char(':') % line % QLatin1String(": ") : QString();
-    printLine(stderr, place % error.toString());
+    const QString text = place % error.toString();
+    printLine(stderr, text);
+    Q_EMIT failed(text);
 }
 
 QString ScenarioRunner::callerPlace() {
     // "%entry@:1" is this evaluation itself; the script that called stands behind it.
     const QString stack = m_engine.evaluate(QStringLiteral("new Error().stack")).toString();
-    static const QRegularExpression place(QStringLiteral("@file:(?://)?(.+:\\d+)"));
+    static const QRegularExpression place(QStringLiteral("@(?:file:(?://)?|qrc:)(.+:\\d+)"));
     return place.match(stack).captured(1);
 }
