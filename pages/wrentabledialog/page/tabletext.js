@@ -15,8 +15,10 @@ const tableText = {
     // The selected rows, all where none is, a line each.
     copy(view) {
         const kinds = this.kinds(view);
-        const lines = this.records(view, true).map(record =>
-            kinds.map(kind => plainText(oneLine(textOfCell(kind, record)))).join('\t'));
+        const lines = this.records(view, true).map(record => kinds.map(kind => {
+            const text = oneLine(textOfCell(kind, record));
+            return kind.plain ? text : plainText(text); // a number may begin with its sign
+        }).join('\t'));
         wrentabledialog.copyTable(lines.join('\n'));
     },
 
