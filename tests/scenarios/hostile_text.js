@@ -207,6 +207,7 @@ zeb.modal(() => {
     NAMES.forEach(name => check(names.includes(TEXTS[name]), `${name}: a camera of the medium`));
     zeb.click('#data_name');
     zeb.paste(TEXTS.script);
+    check(zeb.clipboard() === TEXTS.script, 'the clipboard has it as it is');
     zeb.click('#name');
     check(textsIn('#recordings tbody td:nth-child(5)', 'textContent').includes(TEXTS.script), 'a name that is typed');
     zeb.medium('sd', {name: medium, in: false});

@@ -3925,7 +3925,7 @@
     </message>
     <message>
         <source>The switch in the row &quot;All cameras&quot; has connected them.</source>
-        <translation>「すべてのカメラ」の行のスイッチで接続しました。</translation>
+        <translation>「全カメラ」の行のスイッチで接続しました。</translation>
     </message>
     <message>
         <source>Two padlocks are closed: nothing changes these cameras now.</source>
@@ -3937,7 +3937,7 @@
     </message>
     <message>
         <source>One choice in the row &quot;All cameras&quot; has set the frame rate of all that are not locked.</source>
-        <translation>「すべてのカメラ」の行で選ぶと、ロックされていないすべてのカメラの撮影速度が設定されます。</translation>
+        <translation>「全カメラ」の行で選ぶと、ロックされていないすべてのカメラの撮影速度が設定されます。</translation>
     </message>
     <message>
         <source>A choice in a row sets its camera alone. What a row shows is what the camera has answered.</source>

@@ -28,7 +28,7 @@ Fault faultOf(const QVariantMap& members) {
 
 void FaultScripting::plant(const QJSValue& target, const QString& operation, const QVariantMap& members) {
     const Target found = find(target);
-    if (operation != QLatin1String("*") && !found.operations.contains(operation)) {
+    if (operation != QLatin1String(FaultPlan::EveryOperation) && !found.operations.contains(operation)) {
         throw ScenarioError(QStringLiteral("%1 has no operation \"%2\" that can fail").arg(found.name, operation));
     }
     const Fault fault = faultOf(members);

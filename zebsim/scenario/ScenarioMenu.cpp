@@ -115,7 +115,10 @@ void ScenarioMenu::play(const QString& title, const QString& path) {
 
 QStringList ScenarioMenu::run(const QString& title, const QString& path) {
     const Restorer restorer(m_simulator);
-    m_simulator.host().prefs().setValue(QStringLiteral("export/dir"), m_saved.path());
+    if (!m_saved) {
+        m_saved.emplace();
+    }
+    m_simulator.host().prefs().assume(QStringLiteral("export/dir"), m_saved->path());
     ScenarioCaption caption(title, m_simulator.window());
     ScenarioRunner runner(m_simulator);
     QStringList faults;

@@ -3,6 +3,8 @@
 #include <QObject>
 #include <QTemporaryDir>
 
+#include <optional>
+
 class QMenu;
 class Simulator;
 
@@ -25,5 +27,5 @@ private:
 
     Simulator& m_simulator;
     /// What they save stays as long as the program runs.
-    const QTemporaryDir m_saved;
+    std::optional<QTemporaryDir> m_saved;
 };
