@@ -38,9 +38,9 @@ const char* Describe = R"js(
         (element.className.match(/wren-table-color-\w+/g) || ['none']).join('+'));
     // What is greyed and does not say why, or says why and is not greyed.
     const odd = $('button, input, select, a, #tabs > ul > li').get().filter(element => {
-        const holder = titleHolder(element);
+        const heard = holder => holder.title && getComputedStyle(holder).pointerEvents !== 'none';
         const greyed = isGreyed(element);
-        return greyed ? !holder.title && !element.closest('[why]') : element.title || element.closest('td [why]');
+        return greyed ? !titleHolders(element).some(heard) && !element.closest('[why]') : element.title || element.closest('td [why]');
     });
     return [words.filter(word => word).sort().join(' ') + odd.map(element => ' mute or stale: ' + element.id).join(),
         parts.filter(part => getComputedStyle($(part)[0]).display === 'none').sort().join(' '),

@@ -79,6 +79,16 @@ TEST(PageKeys, WorkTheControlOfTheCellElseSelect) {
     page.type("50");
     page.type("0");
     EXPECT_EQ(made(Qt::Key_Return), QStringList("setFrameRate 1 500"));
+    page.run("document.querySelector('.inTabItems .SumoSelect').focus(); return 0");
+    page.key(Qt::Key_Space);
+    page.type("d");
+    EXPECT_EQ(page.made("^getFilter|^select", [&] { page.key(Qt::Key_Return); }), QStringList());
+    EXPECT_EQ(page.text("document.getElementById('recordFilter').value"), "2");
+    EXPECT_FALSE(page.run("document.getElementById('recordFilter').sumo.is_opened").toBool());
+    page.key(Qt::Key_Space);
+    page.key(Qt::Key_Home);
+    page.key(Qt::Key_Space);
+    page.run("viewAt(1).cursor.focus(); return 0");
     page.run("viewAt(1).cursor.moveTo(0, 0); return 0");
     test.host.faults().plant(1, "*", {{}, 0, true});
     page.tick();

@@ -146,10 +146,10 @@ COLUMNS.reduce = {
     locked: isLocked,
     compared: record => record.reduceModeSupported ? comparedValue(record.reduceMode) : '',
     text: record => onOffText(record.reduceMode),
-    // Cameras that are armed are asked nothing more.
-    why: (record, status) => reasonText(whyLocked(record), status.why ||
-        wrentabledialog.isSuspendReduceMode(record.key) &&
-        translated(textKey('The camera keeps its live speed for now.'))),
+    // Cameras that are locked or armed are asked nothing more.
+    why: (record, status) => reasonText(whyLocked(record), status.why) ||
+        (wrentabledialog.isSuspendReduceMode(record.key)
+            ? translated(textKey('The camera keeps its live speed for now.')) : ''),
     markup() {
         const priority = escapeMarkup(translate('_Priority'));
         return `<div class="flexWrapper" part="wrapper" dockey>

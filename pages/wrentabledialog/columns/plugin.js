@@ -8,7 +8,7 @@ COLUMNS.plugin = {
     empty: isOff,
     text: record =>
         record.plugins.filter(plugin => plugin.effective).map(plugin => pluginTitle(plugin.name)).join(', '),
-    why: (record, status) => status.why,
+    why: (record, status) => status.whyBlocked, // armed cameras take them
     markup: `<div id="effects" dockey>
         <div class="flexWrapper wren_effect_icons" part="icons" id="wren_{short}_effect_icons_" dockey></div>
         </div>`,

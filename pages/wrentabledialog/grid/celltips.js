@@ -1,6 +1,6 @@
 // The tips of the cells: what a picture or a cut text means, where rows differ, and why a control takes nothing.
-const PICTURES = '[alerts], [comments], [status], [connected]';
-const TIPS = PICTURES + ', [sync], [differs], [barred], [why], td[current]';
+const PICTURES = '[alerts]:not([alerts=""]), [comments]:not([comments=""]), [status], [connected]';
+const TIPS = PICTURES + ', [sync], [differs], [barred], [why], td[told]';
 
 function listenToTips(view) {
     textTip(view.grid.box, TIPS, element => tipOf(view, element), element => element.hasAttribute('sync'));
@@ -24,5 +24,5 @@ function whyOf(view, element) {
     for (let at = element; at && at !== view.grid.box; at = at.parentElement) {
         texts.push(at.getAttribute('why') || '');
     }
-    return texts.filter(Boolean).join(' ') || (element.matches('td[current]') ? view.status.why : '');
+    return texts.filter(Boolean).join(' ') || (element.matches('td[told]') ? view.status.why : '');
 }

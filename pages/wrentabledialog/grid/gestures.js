@@ -98,6 +98,9 @@ function onGridMenu(view, event) {
     const row = view.rowOf(event.target);
     const cell = row && row.cellOf(event.target);
     event.preventDefault();
+    if (wrentabledialog_obj.gridLock || !view.status) {
+        return;
+    }
     guarded(() => {
         if (!cell || !cell.kind.menu || !cell.kind.menu(row.key, event.target, event)) {
             tableText.openMenu(view, event.clientX, event.clientY);

@@ -25,8 +25,8 @@ window.readerTexts = {
 
 function nameInRow(view, row, element) {
     const record = view.recordOf(row) || view.grid.records[row.index];
-    const place = row === view.batch ? record.cameraName
-        : `${record.cameraName}, ${withValues(textKey('row %1 of %2'), row.index + 1, view.grid.records.length)}`;
+    const line = withValues(textKey('row %1 of %2'), row.index + 1, view.grid.records.length);
+    const place = row === view.batch ? record.cameraName : `${record.cameraName}, ${line}`;
     const cell = row.cellOf(element);
     if (!cell) {
         return element === row.element ? place : '';

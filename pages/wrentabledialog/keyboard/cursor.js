@@ -9,6 +9,7 @@ class GridCursor {
         this.column = 0;
         this.anchor = null; // key of the row from which Shift selects
         this.shown = null; // the element that is marked
+        this.told = null; // the one that tells why it takes nothing
     }
 
     get isFocused() {
@@ -74,6 +75,20 @@ class GridCursor {
             element.setAttribute('current', '');
         }
         this.shown = element;
+    }
+
+    // The cell tells the reason that holds for all rows, until the next key.
+    tell() {
+        this.told = this.shown;
+        mark(this.told, 'told', '');
+        return this.told;
+    }
+
+    forgetTold() {
+        if (this.told) {
+            mark(this.told, 'told', null);
+            this.told = null;
+        }
     }
 
     put(row, cell) {

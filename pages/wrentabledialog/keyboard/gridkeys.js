@@ -9,8 +9,10 @@ const isMenuKey = ({ keyCode, shiftKey }) => keyCode === MENU_KEY || keyCode ===
 function onCursorKey(view, event) {
     const { cursor } = view;
     closeTip();
+    cursor.forgetTold();
     cursor.mark();
-    if (cursor.key === null || event.altKey || event.metaKey || wrentabledialog_obj.gridLock) {
+    // A lock lies over the grid in file mode, and while cameras connect.
+    if (cursor.key === null || event.altKey || event.metaKey || view.grid.box.querySelector('.w2ui-lock')) {
         return;
     }
     const keys = event.shiftKey ? shiftedKeys : event.ctrlKey ? controlKeys : plainKeys;
@@ -70,7 +72,8 @@ const controlKeys = {
 function takesInput(cursor) {
     const { view } = cursor;
     const place = cursor.place();
-    if (!view.status.disabled && place && !place.row.element.hasAttribute('unlisted')) {
+    const isBarred = place && place.cell.kind.enter ? place.cell.isBarred : view.status.disabled;
+    if (!isBarred && place && !place.row.element.hasAttribute('unlisted')) {
         return true;
     }
     tellWhy(view, place && place.cell.box);
@@ -149,7 +152,7 @@ function openCellMenu(view) {
 
 // The reason why a cell takes nothing, in the tip that the mouse gets.
 function tellWhy(view, element) {
-    const holder = element && element.closest('[why], td[current]');
+    const holder = element && (element.closest('[why]') || view.cursor.tell());
     if (holder && whyOf(view, holder)) {
         $(holder).trigger('mouseover');
     } else {

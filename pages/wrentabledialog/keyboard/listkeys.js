@@ -2,7 +2,8 @@ const TYPING_MS = 1000; // what is typed sooner goes on with what was typed befo
 
 // Keys of an open drop-down that its widget does not know: the ends, a page, and what an entry begins with. A reader
 // hears the entry that they have come to.
-function listenToListKeys({ select, ul }) {
+function listenToListKeys(sumo) {
+    const { select, ul } = sumo;
     let typed = { text: '', when: 0 };
     const entries = () => ul.children('li.opt:not(.disabled)').get();
     const present = () => entries().findIndex(entry => entry.classList.contains('sel'));
@@ -15,8 +16,19 @@ function listenToListKeys({ select, ul }) {
         ul.get(0).scrollTop = entry.offsetTop - ul.height() / 2;
     };
     ul.attr('role', 'listbox').children('li').attr('role', 'option');
+    // The widget opens a list anew by the key that has chosen in it, and knows no space.
+    let wasOpen = false;
+    select.get(0).addEventListener('keydown', () => { wasOpen = sumo.is_opened; }, true);
     select.on('keydown', event => {
         const now = present();
+        if (wasOpen && event.keyCode === KEY.SPACE) {
+            ul.children('.sel').trigger('click');
+        }
+        if (wasOpen && PRESSING_KEYS.includes(event.keyCode)) {
+            sumo.hideOpts();
+        } else if (event.keyCode === KEY.SPACE) {
+            sumo.setOnOpen();
+        }
         const line = { [KEY.HOME]: 0, [KEY.END]: Infinity, [KEY.PAGE_UP]: now - 8, [KEY.PAGE_DOWN]: now + 8 };
         if (line[event.keyCode] !== undefined && now >= 0) {
             event.preventDefault();

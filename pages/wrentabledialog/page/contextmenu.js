@@ -64,7 +64,7 @@ const contextMenu = {
             [KEY.END]: links.length - 1, [KEY.HOME]: 0, [KEY.UP]: now - 1, [KEY.DOWN]: now + 1
         }[event.keyCode];
         if (event.keyCode === KEY.ENTER || event.keyCode === KEY.SPACE) {
-            this.choose(links[now]);
+            links[now].click();
         } else if (event.keyCode === KEY.ESCAPE || event.keyCode === KEY.TAB) {
             this.leave();
         } else if (next !== undefined) {

@@ -46,11 +46,10 @@ const reasons = {
         const before = this.told;
         this.told = new Set();
         texts.forEach((all, element) => {
-            const holder = titleHolder(element);
-            if (isGreyed(element)) {
+            titleHolders(element).filter(() => isGreyed(element)).forEach(holder => {
                 this.told.add(holder);
                 mark(holder, 'title', Array.from(new Set(all)).join(' '));
-            }
+            });
         });
         before.forEach(holder => this.told.has(holder) || holder.removeAttribute('title'));
     }
@@ -60,17 +59,18 @@ function isGreyed(element) {
     return element.hasAttribute('disabled') || element.classList.contains('ui-state-disabled');
 }
 
-// The list of a drop-down is hidden behind its caption.
-function titleHolder(element) {
-    return element.sumo ? element.sumo.CaptionCont.get(0) : element;
+// The list of a drop-down is hidden behind its caption. While a button that acts at the press is greyed, press and
+// mouse fall on what is behind it.
+function titleHolders(element) {
+    const own = element.sumo ? element.sumo.CaptionCont.get(0) : element;
+    return [own].concat(element.closest('.press-place') || []);
 }
 
 const knownTexts = {};
 
-// A text that is wanted at each tick, asked for once.
+// A text that is wanted at each tick, asked for once. It is never empty, for some mean something by being there: where
+// the host fails to give it, the key stands in its place.
 function translated(key) {
-    if (knownTexts[key] === undefined) {
-        knownTexts[key] = translate(key);
-    }
-    return knownTexts[key];
+    knownTexts[key] = knownTexts[key] || translate(key);
+    return knownTexts[key] || key;
 }

@@ -53,12 +53,15 @@ Object.assign(wrentabledialog_obj, {
         const recording = wrentabledialog.isRecording();
         const taken = wrentabledialog.isOtherPluginOpen();
         const exporting = wrentabledialog.isRecordDuringExporting();
-        const why = reasons.of([this.isCtsReady && 'CTSREADY', ready && 'READY', recording && 'RECORDING',
-            taken && 'OTHER-PLUGIN-OPEN']).concat(exporting ? translated(textKey('A recording is being saved.')) : []);
+        const whyBlocked = reasons.of([taken && 'OTHER-PLUGIN-OPEN'])
+            .concat(exporting ? translated(textKey('A recording is being saved.')) : []);
+        const why = reasons.of([this.isCtsReady && 'CTSREADY', ready && 'READY', recording && 'RECORDING'])
+            .concat(whyBlocked);
         return {
             style: this.rowStyle(ready, recording, taken || exporting),
             disabled: why.length > 0,
             why: why.join(' '),
+            whyBlocked: whyBlocked.join(' '),
             allLocked: records.length > 0 && records.every(record => record.lock)
         };
     },

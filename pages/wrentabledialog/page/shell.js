@@ -86,7 +86,11 @@ Object.assign(wrentabledialog_obj, {
             document.activeElement.blur();
         });
         // The filter stands before the headers, as it is seen, and its list must not be taken for them.
-        $.widget('ui.tabs', $.ui.tabs, { _getList() { return this.element.children('ul'); } });
+        // Nor may keys in a panel change tab and mode.
+        $.widget('ui.tabs', $.ui.tabs, {
+            _getList() { return this.element.children('ul'); },
+            _panelKeydown: () => undefined
+        });
         $('#tabs').tabs({
             active: this.startTab,
             beforeActivate: (event, ui) => this.leaveTab(ui.newTab.index()),

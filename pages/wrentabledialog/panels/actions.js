@@ -76,8 +76,9 @@ Object.assign(wrentabledialog_obj, {
         const began = Date.now();
         this.isPressed = true;
         this.isStarting = status === this.RECORD_STATUS_LIVE;
-        reasons.own.set('#timeline_rec_exec', translated(textKey('The cameras are being armed.')));
         this.keepStartDisabled();
+        reasons.own.set('#timeline_rec_exec', translated(textKey('The cameras are being armed.')));
+        reasons.show();
         try {
             wrentabledialog.record();
         } finally {
