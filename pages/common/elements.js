@@ -23,6 +23,15 @@ function setStyle(element, name, value) {
     }
 }
 
+// Null takes the attribute away.
+function setMark(element, name, value) {
+    if (value === null) {
+        element.removeAttribute(name);
+    } else if (element.getAttribute(name) !== value) {
+        element.setAttribute(name, value);
+    }
+}
+
 // None of the options is chosen when `value` is not among them.
 function chooseOption(select, value) {
     const index = Array.from(select.options).findIndex(option => option.value === value);

@@ -304,15 +304,18 @@ void OtherHost::lookForModal() {
     if (!m_modal) {
         return;
     }
-    const QByteArray name = modal->metaObject()->className();
+    const QByteArray window = modal->metaObject()->className();
     if (onCall) {
-        onCall(name, false);
+        onCall(window, false);
     }
-    if (name == "GUI_SyncProgress") {
+    if (window == "GUI_SyncProgress") {
         m_watched.release();
     } else if (auto* dialog = qobject_cast<QDialog*>(m_modal)) {
         if (auto* files = qobject_cast<QFileDialog*>(dialog)) {
-            files->findChild<QLineEdit*>("fileNameEdit")->setText(m_folder.filePath("file"));
+            const bool asks = !files->testOption(QFileDialog::DontConfirmOverwrite);
+            const bool isNew = asks && files->acceptMode() == QFileDialog::AcceptSave;
+            const QString name = isNew ? QString("file%1").arg(++m_newFiles) : QString("file");
+            files->findChild<QLineEdit*>("fileNameEdit")->setText(m_folder.filePath(name));
         }
         if (!agrees) {
             dialog->reject();

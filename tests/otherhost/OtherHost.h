@@ -94,6 +94,7 @@ private:
     QObject m_pageObject;
     OtherZebPrefsDialog m_prefsDialog;
     QTimer m_modals;
+    int m_newFiles = 0;
     QPointer<QWidget> m_modal;
     /// Of the file that is chosen wherever one is asked for.
     QTemporaryDir m_folder;

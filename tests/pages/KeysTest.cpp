@@ -45,6 +45,10 @@ TEST(PageKeys, MoveToCellsThatStayWithTheirCameras) {
     page.run("viewAt(1).box.scrollTop = 900; return 0");
     page.update();
     EXPECT_EQ(page.text(Current), "3 reduce") << "also out of sight";
+    page.run("viewAt(1).cursor.field = 'lock'; viewAt(1).cursor.mark(); return 0");
+    move(Qt::Key_Space);
+    EXPECT_LT(page.number("viewAt(1).box.scrollTop"), 100) << "the first press shows it";
+    EXPECT_EQ(page.made("^setParamLock", [&] { page.key(Qt::Key_Space); }), QStringList("setParamLock 3 true"));
     EXPECT_EQ(page.tick(), QStringList());
     page.show(0);
     EXPECT_TRUE(page.run(HasKeyboard).toBool());

@@ -94,8 +94,8 @@ TEST_F(AccessiblePageOf, AViewIsAsItsPageSaysOnceSomeoneListens) {
     listen(true);
     EXPECT_EQ(tree(*root()).section('\n', 1), QStringLiteral(R"( Table: Cameras
   Row:  [selectable selected]
-   Cell: <b>Gate</b> [selectable]
-   Cell: Lock | It is "locked". [selectable]
+   Cell: <b>Gate</b> [selectable selected]
+   Cell: Lock | It is "locked". [selectable selected]
     Button: Lock | It is "locked". [disabled]
  Grouping: Trigger
   ComboBox: Edge | Down

@@ -19,6 +19,7 @@ public:
     void select(int start, int end);
     /// Its number in the page.
     int element() const { return m_element; }
+    bool isOf(const AccessiblePage& page) const { return &m_page == &page; }
 
     bool isValid() const override;
     QObject* object() const override { return nullptr; }

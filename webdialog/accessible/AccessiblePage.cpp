@@ -107,7 +107,7 @@ QAccessibleInterface* AccessiblePage::childOf(int element, int index) {
 
 int AccessiblePage::indexIn(int element, const QAccessibleInterface* child) {
     const auto* own = dynamic_cast<const AccessibleElement*>(child);
-    return own ? children(element).indexOf(own->element()) : -1;
+    return own && own->isOf(*this) ? children(element).indexOf(own->element()) : -1;
 }
 
 int AccessiblePage::focused() {

@@ -141,6 +141,12 @@ var pageReader = (function (facts) {
         ask, changes, stop,
         focused: () => number(facts.focused()),
         at: (x, y) => number(facts.nearest(document.elementFromPoint(x, y))),
-        select: (id, start, end) => elements.get(id).setSelectionRange(start, end)
+        // A combo box has a text too, in which nothing can be marked.
+        select: (id, start, end) => {
+            const element = elements.get(id);
+            if (element && root.contains(element) && element.setSelectionRange) {
+                element.setSelectionRange(start, end);
+            }
+        }
     };
 }(readerFacts));

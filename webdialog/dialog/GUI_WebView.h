@@ -14,8 +14,9 @@ class ZebHost;
 /// When the keyboard goes to another place of its window, or nowhere, its page's element loses the focus for good, as
 /// when the user goes on to another element. When the window is left for another one, the element keeps it.
 ///
-/// A key that is held presses once: no press of Space, Enter, Escape or a function key comes to the page again until it
-/// was let go, also where a box has stood meanwhile. In a text Space goes on, and Enter in one of several lines.
+/// A key that is held presses once: no press of Space, Enter, Escape, Menu or a function key comes to the page again
+/// until it was let go, also where a box has stood meanwhile. In a text Space goes on, and Enter in one of several
+/// lines.
 class GUI_WebView : public QWebView {
     Q_OBJECT
 

@@ -9,7 +9,8 @@ class QMenu;
 class Simulator;
 
 /// The menu of the viewer that plays the scenarios that ship, for a user who looks on. They bring cameras of their own;
-/// what they set among the preferences, and the clock's speed, is as before when they end. GUI thread.
+/// what they set among the preferences, but those of the table, and the clock's speed, is as before when they end. GUI
+/// thread.
 class ScenarioMenu : public QObject {
     Q_OBJECT
 

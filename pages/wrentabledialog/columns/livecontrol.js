@@ -24,7 +24,7 @@ function dropDownColumn(options) {
         compared: options.compared || (record => options.value(record) || ''),
         text(record) {
             const choice = choices(record).find(item => item.value === options.value(record));
-            return choice ? choice.name : options.value(record);
+            return choice ? choice.name : '';
         },
         unit: options.unit,
         plain: options.unit && options.value,

@@ -78,14 +78,14 @@ class Cell {
     bar(why) {
         this.isBarred = why !== '';
         if (this.differs('', 'why', why)) {
-            mark(this.box, 'why', why || null);
+            setMark(this.box, 'why', why || null);
         }
     }
 
     // Why that part alone takes nothing.
     barPart(part, why) {
         if (this.differs(part, 'why', why)) {
-            mark(this.parts[part], 'why', why || null);
+            setMark(this.parts[part], 'why', why || null);
         }
     }
 

@@ -30,17 +30,9 @@ function markDifferences(view) {
     view.markedBatch = view.batch;
     view.batch.cells.filter(cell => cell.kind.compared).forEach(cell => {
         const count = cell.filled ? countValues(view, cell.kind) : 0;
-        mark(cell.box, 'differs', count > 1 ? String(count) : null);
-        mark(cell.box, 'barred', isBarred(view, cell) ? '' : null);
+        setMark(cell.box, 'differs', count > 1 ? String(count) : null);
+        setMark(cell.box, 'barred', isBarred(view, cell) ? '' : null);
     });
-}
-
-function mark(box, name, value) {
-    if (value === null) {
-        box.removeAttribute(name);
-    } else if (box.getAttribute(name) !== value) {
-        box.setAttribute(name, value);
-    }
 }
 
 // Whether the batch row's own camera, and not the whole table, takes no change of it.
@@ -64,7 +56,7 @@ function differencesText(view, box) {
 function valueLines(view, cell) {
     const names = new Map();
     comparedRecords(view, cell.kind).forEach(record => {
-        const text = cell.kind.text(record);
+        const text = cell.kind.text(record) || cell.kind.compared(record);
         names.set(text, (names.get(text) || []).concat(oneLine(record.cameraName)));
     });
     return Array.from(names.keys()).map(text => `${text}: ${namesText(names.get(text))}`);

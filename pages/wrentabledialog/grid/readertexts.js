@@ -2,7 +2,7 @@
 window.readerTexts = {
     // '' where what stands in the element says enough.
     name(element) {
-        const view = views.find(each => each && each.grid.box && each.grid.box.contains(element));
+        const view = viewAround(element);
         if (!view) {
             return '';
         }
@@ -18,10 +18,14 @@ window.readerTexts = {
     },
 
     description(element) {
-        const view = views.find(each => each && each.grid.box && each.grid.box.contains(element));
-        return view && element.matches('td') ? whyOf(view, element.firstChild) : '';
+        const view = element.matches('td[role="gridcell"]') && viewAround(element);
+        return view && view.status ? whyOf(view, element.firstChild) || view.status.why : '';
     }
 };
+
+function viewAround(element) {
+    return views.find(view => view && view.grid.box && view.grid.box.contains(element));
+}
 
 function nameInRow(view, row, element) {
     const record = view.recordOf(row) || view.grid.records[row.index];

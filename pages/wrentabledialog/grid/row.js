@@ -73,8 +73,8 @@ class DrawnRow {
     // A camera that is not in the list any more stands until the next full refresh, greyed, for what it shows is past.
     setListed(on) {
         if (this.element.hasAttribute('unlisted') === on) {
-            mark(this.element, 'unlisted', on ? null : '');
-            mark(this.element, 'why', on ? null : translated(textKey('The camera is not in the list any more.')));
+            setMark(this.element, 'unlisted', on ? null : '');
+            setMark(this.element, 'why', on ? null : translated(textKey('The camera is not in the list any more.')));
         }
     }
 

@@ -17,7 +17,7 @@ class GridCursor {
     }
 
     focus() {
-        if (!this.isFocused) {
+        if (!this.isFocused && this.view.grid.box) {
             this.view.grid.box.focus();
         }
     }
@@ -80,13 +80,13 @@ class GridCursor {
     // The cell tells the reason that holds for all rows, until the next key.
     tell() {
         this.told = this.shown;
-        mark(this.told, 'told', '');
+        setMark(this.told, 'told', '');
         return this.told;
     }
 
     forgetTold() {
         if (this.told) {
-            mark(this.told, 'told', null);
+            setMark(this.told, 'told', null);
             this.told = null;
         }
     }
@@ -129,7 +129,8 @@ class GridCursor {
     // The lines that Shift selects: from where it went down to here. The batch row is no camera.
     selectTo() {
         const { grid } = this.view;
-        const from = grid.records.findIndex(record => record.key === this.anchor);
+        const anchor = grid.records.findIndex(record => record.key === this.anchor);
+        const from = this.anchor === wrentabledialog_obj.batchDocKey ? grid.records.length - 1 : anchor;
         const [first, last] = [from < 0 ? this.line : from, this.line].sort((a, b) => a - b);
         grid.last.selection.indexes = grid.records.map((record, index) => index)
             .filter(index => index >= first && index <= last);

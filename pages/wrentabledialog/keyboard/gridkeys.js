@@ -15,13 +15,23 @@ function onCursorKey(view, event) {
     if (cursor.key === null || event.altKey || event.metaKey || view.grid.box.querySelector('.w2ui-lock')) {
         return;
     }
-    const keys = event.shiftKey ? shiftedKeys : event.ctrlKey ? controlKeys : plainKeys;
-    const work = moveOf(view, event) || keys[event.keyCode];
+    const rowKeys = event.shiftKey ? shiftedKeys : plainKeys;
+    const work = moveOf(view, event) ||
+        (event.ctrlKey ? controlKeys[event.keyCode] : shownFirst(view, rowKeys[event.keyCode]));
     if (work) {
         event.preventDefault();
         event.stopPropagation();
         guarded(() => work(view));
     }
+}
+
+// What a key works must be seen; where it was scrolled away the first press shows it.
+function shownFirst(view, work) {
+    const place = view.cursor.place();
+    if (work && place && isOutOfSight(view, place.row)) {
+        return () => view.cursor.reveal();
+    }
+    return work;
 }
 
 // Where a key leads, as work; nothing for a key that leads nowhere.
@@ -42,7 +52,7 @@ function moveOf({ cursor, height, grid }, { keyCode, ctrlKey, shiftKey }) {
     return place && (() => {
         cursor.anchor = shiftKey ? cursor.anchor || cursor.key : null;
         cursor.moveTo(...place);
-        if (shiftKey && takesInput(cursor)) {
+        if (shiftKey && rowsTakeInput(cursor)) {
             cursor.selectTo();
         }
     });
@@ -60,19 +70,35 @@ const shiftedKeys = {
 };
 const controlKeys = {
     65: ({ cursor }) => { // A
-        if (takesInput(cursor)) {
+        if (rowsTakeInput(cursor)) {
             wrentabledialog_obj.preventSelect = false;
             wrentabledialog_obj.selectAll();
         }
     },
-    67: view => tableText.copy(view) // C
+    67: view => { // C
+        const marked = String(window.getSelection());
+        if (marked) {
+            wrentabledialog.copyTable(marked);
+        } else {
+            tableText.copy(view);
+        }
+    }
 };
 
 // While the rows take no input only moving goes on, and the rest says why not.
-function takesInput(cursor) {
+function rowsTakeInput(cursor) {
+    return takesInput(cursor, cursor.view.status.disabled);
+}
+
+// The icons of plug-ins take it from armed cameras too.
+function cellTakesInput(cursor) {
+    const place = cursor.place();
+    return takesInput(cursor, place && place.cell.kind.enter ? place.cell.isBarred : cursor.view.status.disabled);
+}
+
+function takesInput(cursor, isBarred) {
     const { view } = cursor;
     const place = cursor.place();
-    const isBarred = place && place.cell.kind.enter ? place.cell.isBarred : view.status.disabled;
     if (!isBarred && place && !place.row.element.hasAttribute('unlisted')) {
         return true;
     }
@@ -84,7 +110,7 @@ function takesInput(cursor) {
 function useCursor(view) {
     const place = view.cursor.place();
     const control = place && controlOf(place.cell);
-    if (!place || !takesInput(view.cursor)) {
+    if (!place || !(control ? cellTakesInput : rowsTakeInput)(view.cursor)) {
         return;
     }
     if (!control) {
@@ -109,7 +135,7 @@ function controlOf(cell) {
 
 function toggleRow(view) {
     const { cursor, grid } = view;
-    if (!takesInput(cursor)) {
+    if (!rowsTakeInput(cursor)) {
         return;
     }
     if (isBatch(cursor)) {
@@ -125,11 +151,13 @@ function toggleRow(view) {
 function enterCell(view) {
     const place = view.cursor.place();
     const { cell, row } = place || {};
-    if (!place || !cell.filled || !takesInput(view.cursor)) {
+    if (!place || !cell.filled || !cellTakesInput(view.cursor)) {
         return;
     }
     const inner = cell.kind.enter ? cell.kind.enter(cell) : cell.parts.input || cell.parts.handle;
-    if (cell.kind.doubleClick) {
+    if (cell.kind.doubleClick && cell.isBarred) {
+        tellWhy(view, cell.box);
+    } else if (cell.kind.doubleClick) {
         cell.kind.doubleClick(view, row.key);
     } else if (!inner && cell.kind.enter) {
         tellWhy(view, cell.box.querySelector('[why]') || cell.box);

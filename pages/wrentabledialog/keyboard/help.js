@@ -30,7 +30,7 @@ const keyHelp = {
             box.html(`<table>${TABLE_KEYS.map(keyMarkup).join('')}</table>`);
             box.dialog(dialogOptions({
                 title: translate('Keys of the table'),
-                buttons: [dialogButton(translate('Close'), 'close', () => box.dialog('close'))]
+                buttons: [dialogButton(translate('Close'), 'close keys', () => box.dialog('close'))]
             }));
         }
         box.dialog('open');

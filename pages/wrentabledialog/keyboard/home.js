@@ -13,7 +13,7 @@ const keyboardHome = {
         document.addEventListener('focusout', () => window.setTimeout(() => logged(() => this.keep()), 0));
         ['keydown', 'mousedown'].forEach(type => document.addEventListener(type, () => {
             this.owed = null;
-            mark(document.body, 'keys', type === 'keydown' ? '' : null); // only then the focus is drawn
+            setMark(document.body, 'keys', type === 'keydown' ? '' : null); // only then the focus is drawn
         }, true));
         document.addEventListener('keydown', event => this.pressLink(event));
         this.keep();
@@ -31,7 +31,7 @@ const keyboardHome = {
             this.owed = null;
         } else if (!active || active === document.body) {
             this.owed = this.last && document.contains(this.last) && !this.canHave(this.last) ? this.last : null;
-            this.grid().focus();
+            keepingSelection(() => viewAt(wrentabledialog_obj.activeTab()).cursor.focus());
         }
     },
 
@@ -48,3 +48,14 @@ const keyboardHome = {
         }
     }
 };
+
+// A text that the user has marked stays so, to be copied.
+function keepingSelection(work) {
+    const selection = window.getSelection();
+    const range = selection.isCollapsed ? null : selection.getRangeAt(0);
+    work();
+    if (range) {
+        selection.removeAllRanges();
+        selection.addRange(range);
+    }
+}

@@ -8,7 +8,7 @@ function listenToListKeys(sumo) {
     const entries = () => ul.children('li.opt:not(.disabled)').get();
     const present = () => entries().findIndex(entry => entry.classList.contains('sel'));
     const follow = () => entries().forEach(entry =>
-        mark(entry, 'current', ul.is(':visible') && entry.classList.contains('sel') ? '' : null));
+        setMark(entry, 'current', ul.is(':visible') && entry.classList.contains('sel') ? '' : null));
     const moveTo = line => {
         const entry = entries()[Math.max(0, Math.min(line, entries().length - 1))];
         ul.children('.sel').removeClass('sel');

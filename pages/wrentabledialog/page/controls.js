@@ -187,6 +187,7 @@ const controls = {
 Object.assign(wrentabledialog_obj, {
     // Functions of several states set tabs and colours one after the other. What comes out is written once.
     applyControls() {
+        reasons.on.clear();
         zeb4func.setDisable(wrentabledialog, controls);
         this.keepStartDisabled();
         this.disableTabs(this.look.tabsOff);

@@ -48,7 +48,7 @@ const reasons = {
         texts.forEach((all, element) => {
             titleHolders(element).filter(() => isGreyed(element)).forEach(holder => {
                 this.told.add(holder);
-                mark(holder, 'title', Array.from(new Set(all)).join(' '));
+                setMark(holder, 'title', Array.from(new Set(all)).join(' '));
             });
         });
         before.forEach(holder => this.told.has(holder) || holder.removeAttribute('title'));

@@ -69,8 +69,8 @@ Object.assign(wrentabledialog_obj, {
 });
 
 function showChosen(button, on) {
-    mark(button, 'buttonselected', String(on));
-    mark(button, 'aria-pressed', String(on));
+    setMark(button, 'buttonselected', String(on));
+    setMark(button, 'aria-pressed', String(on));
 }
 
 // The list of the filter, which knows no click on the rows.

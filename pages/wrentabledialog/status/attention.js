@@ -76,7 +76,7 @@ const attention = {
 
     refreshButton() {
         const button = document.getElementById('wren_attention');
-        mark(button, 'chosen', this.on ? '' : null);
-        mark(button, 'aria-pressed', String(this.on));
+        setMark(button, 'chosen', this.on ? '' : null);
+        setMark(button, 'aria-pressed', String(this.on));
     }
 };
