@@ -15,9 +15,9 @@ function onCursorKey(view, event) {
     if (cursor.key === null || event.altKey || event.metaKey || view.grid.box.querySelector('.w2ui-lock')) {
         return;
     }
-    const rowKeys = event.shiftKey ? shiftedKeys : plainKeys;
+    const keys = event.shiftKey ? shiftedKeys : plainKeys;
     const work = moveOf(view, event) ||
-        (event.ctrlKey ? controlKeys[event.keyCode] : shownFirst(view, rowKeys[event.keyCode]));
+        (event.ctrlKey ? controlKeys[event.keyCode] : shownFirst(view, keys[event.keyCode]));
     if (work) {
         event.preventDefault();
         event.stopPropagation();
@@ -96,10 +96,10 @@ function cellTakesInput(cursor) {
     return takesInput(cursor, place && place.cell.kind.enter ? place.cell.isBarred : cursor.view.status.disabled);
 }
 
-function takesInput(cursor, isBarred) {
+function takesInput(cursor, barred) {
     const { view } = cursor;
     const place = cursor.place();
-    if (!isBarred && place && !place.row.element.hasAttribute('unlisted')) {
+    if (!barred && place && !place.row.element.hasAttribute('unlisted')) {
         return true;
     }
     tellWhy(view, place && place.cell.box);
