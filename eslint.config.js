@@ -46,6 +46,9 @@ const pageRules = {
         selector: 'CallExpression[callee.property.name="forEach"] > MemberExpression > ' +
             'CallExpression[callee.property.name="querySelectorAll"]',
         message: 'A NodeList has no forEach in the pages\' engine.'
+    }, {
+        selector: 'ConditionalExpression > ArrowFunctionExpression.consequent',
+        message: 'The pages\' engine can\'t read an arrow function between ? and :.'
     }],
     'no-implied-eval': 'error',
     'no-eval': 'error',

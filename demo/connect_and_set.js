@@ -18,6 +18,7 @@ zeb.rig(KEYS.length);
 check(zeb.open(), 'the table opens');
 zeb.click('a[href="#cameraInfoTab"]');
 step(translate('Eight cameras are found, and none is connected.'));
+zeb.page(`wrentabledialog.select(${JSON.stringify(KEYS.map(String))}, true)`);
 
 zeb.click('#wren_button_connection_disconnect_-1');
 check(zeb.until("$('#wren-cameraInfo-list .wren_button_lockStatus_unlock:visible').length >= 8"), 'all are connected');

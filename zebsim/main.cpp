@@ -1,6 +1,7 @@
 #include "CommandLine.h"
 #include "HostPages.h"
 #include "OffscreenScreen.h"
+#include "OnePress.h"
 #include "OverActiveWindow.h"
 #include "PluginLoader.h"
 #include "PluginSlot.h"
@@ -74,6 +75,7 @@ int main(int argc, char** argv) {
     qInstallMessageHandler(handler);
     QApplication::setQuitOnLastWindowClosed(false);
     setUpOffscreen(QSize(1920, 1200));
+    const OnePress onePress;
     OverActiveWindow::rememberWindows();
     initHostPages();
     try {

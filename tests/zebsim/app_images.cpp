@@ -66,19 +66,18 @@ protected:
 };
 
 TEST_F(Images, ComeAndGoWithTheCameras) {
-    EXPECT_EQ(titles(), "Camera 1 (simulated)|Camera 2 (simulated)|Camera 3 (simulated)");
+    EXPECT_EQ(titles(), "Camera 1|Camera 2|Camera 3");
     EXPECT_EQ(host.mdi().countMdiWindow(true, 2), 3);
     host.docManager().disconnectDocs({1});
     host.docManager().connectDocs({4});
     EXPECT_EQ(host.mdi().countMdiWindow(true, 0), 3);
-    EXPECT_EQ(titles(), "Camera 1 (simulated)|Camera 2 (simulated)|Camera 3 (simulated)")
-        << "whoever counts them changes none";
+    EXPECT_EQ(titles(), "Camera 1|Camera 2|Camera 3") << "whoever counts them changes none";
     images.follow();
-    EXPECT_EQ(titles(), "Camera 2 (simulated)|Camera 3 (simulated)|Camera 4 (simulated)");
+    EXPECT_EQ(titles(), "Camera 2|Camera 3|Camera 4");
     camera(2).set(&CameraState::name, QStringLiteral("<b>Gate</b> %1"));
     host.faults().plant(3, "*", {{}, 0, true});
     images.follow();
-    EXPECT_EQ(titles(), "<b>Gate</b> %1 (simulated)|Camera 4 (simulated)");
+    EXPECT_EQ(titles(), "<b>Gate</b> %1|Camera 4");
     images.find(4)->close();
     EXPECT_TRUE(images.find(4)->isVisible()) << "none can be closed";
     EXPECT_EQ(host.mdi().countMdiWindow(true, 2), 2);
@@ -194,7 +193,7 @@ TEST_F(Images, ShowRecordingsInFilesUntilTheyAreClosed) {
     camera(1).set(&CameraState::connected, true);
     host.appStatus().enterMode(zeb::MemoryMode);
     images.showNow();
-    EXPECT_EQ(titles(), "Gate (simulated)");
+    EXPECT_EQ(titles(), "Gate");
 }
 
 TEST_F(Images, ShowAtOnceWhatThePluginsMakeOfThem) {

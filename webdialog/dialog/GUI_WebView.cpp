@@ -34,9 +34,7 @@ void GUI_WebView::focusOutEvent(QFocusEvent* event) {
 
 void GUI_WebView::keyPressEvent(QKeyEvent* event) {
     const int key = event->key();
-    const bool presses = key == Qt::Key_Space || key == Qt::Key_Return || key == Qt::Key_Enter ||
-                         key == Qt::Key_Escape || key == Qt::Key_Menu || (key >= Qt::Key_F1 && key <= Qt::Key_F35);
-    if (event->isAutoRepeat() && presses && !isTyping(key)) {
+    if (HeldKeys::presses(key) && m_held.isRepeat(*event) && !isTyping(key)) {
         event->accept();
         return;
     }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "HeldKeys.h"
+
 #include <QMenu>
 #include <QWebView>
 
@@ -39,6 +41,7 @@ private:
 
     GUI_WebPage* const m_page;
     std::unique_ptr<AccessiblePage> m_accessible;
+    const HeldKeys m_held;
     QMenu m_menu;
     QWidget* m_inspector = nullptr;
 };

@@ -8,6 +8,13 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
+namespace {
+
+/// In a smaller window the button would hide too much of the image.
+constexpr int LeastForMenu = 240;
+
+}  // namespace
+
 CameraWindow::CameraWindow(DOCKEY key) : m_key(key), m_view(new CameraView(this)), m_effects(new EffectPanel(this)) {
     auto* inside = new QWidget(this);
     auto* layout = new QVBoxLayout(inside);
@@ -20,7 +27,7 @@ CameraWindow::CameraWindow(DOCKEY key) : m_key(key), m_view(new CameraView(this)
 }
 
 void CameraWindow::addMenu(QMenu& menu) {
-    auto* button = new QToolButton(m_view);
+    QToolButton* button = m_menuButton = new QToolButton(m_view);
     button->setText(menu.title());
     button->setMenu(&menu);
     button->setPopupMode(QToolButton::InstantPopup);
@@ -37,5 +44,8 @@ void CameraWindow::closeEvent(QCloseEvent* event) {
 
 void CameraWindow::resizeEvent(QResizeEvent* event) {
     m_effects->setMaximumHeight(height() / 2);
+    if (m_menuButton) {
+        m_menuButton->setVisible(width() >= LeastForMenu);
+    }
     QMdiSubWindow::resizeEvent(event);
 }

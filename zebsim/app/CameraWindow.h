@@ -7,6 +7,7 @@
 class CameraView;
 class EffectPanel;
 class QMenu;
+class QToolButton;
 
 /// The window of a camera's image, with the panel of its image plug-ins, which is hidden at first, and a button for a
 /// menu in its corner. It comes and goes with the connection; a user can't close it.
@@ -30,5 +31,6 @@ protected:
 private:
     const DOCKEY m_key;
     CameraView* m_view;
+    QToolButton* m_menuButton = nullptr;
     EffectPanel* m_effects;
 };

@@ -78,9 +78,7 @@ QString CameraWindows::titleOf(const Camera& camera) const {
         return name;
     }
     const QStringList faults = plantedFaults(m_host, camera.key());
-    const QString state =
-        faults.isEmpty() ? name : QString(name % QLatin1String(": ") % faults.join(QLatin1String(", ")));
-    return uiText("%1 (simulated)").arg(state);
+    return faults.isEmpty() ? name : QString(name % QLatin1String(": ") % faults.join(QLatin1String(", ")));
 }
 
 /// Another rig's cameras may have the same keys.

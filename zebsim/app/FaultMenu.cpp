@@ -11,7 +11,8 @@
 
 namespace {
 
-constexpr int SlowMs = 1000;
+// Of each operation, of which an update asks some thirty.
+constexpr int SlowMs = 20;
 const QString Every = QString::fromLatin1(FaultPlan::EveryOperation);
 
 QString faultText(const QString& operation, const Fault& fault) {

@@ -1,16 +1,13 @@
 #include "FreshKeys.h"
 
+#include "HeldKeys.h"
+
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QKeyEvent>
 #include <QPushButton>
 
-#include <utility>
-
 namespace {
-
-/// Nobody lets go of a key and presses it again within it.
-constexpr ulong OneMomentMs = 5;
 
 class FreshKeys : public QObject {
 public:
@@ -21,10 +18,6 @@ public:
             isHeld(*static_cast<QKeyEvent*>(event))) {
             return true;
         }
-        if (event->type() == QEvent::KeyRelease) {
-            const auto& key = *static_cast<QKeyEvent*>(event);
-            m_released = {key.key(), key.timestamp()};
-        }
         return QObject::eventFilter(object, event);
     }
 
@@ -33,17 +26,14 @@ private:
         return key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter || key.key() == Qt::Key_Space ||
                key.key() == Qt::Key_Escape;
     }
-    /// Or pressed for what was there before. Where windows are slow a repeat comes as a release and a press of one
-    /// moment.
+    /// Or pressed for what was there before.
     bool isHeld(const QKeyEvent& key) const {
         const bool isHasty = key.key() != Qt::Key_Escape && !m_shown.hasExpired(QApplication::doubleClickInterval());
-        return isHasty || key.isAutoRepeat() ||
-               (key.key() == m_released.first && key.timestamp() != 0 &&
-                key.timestamp() - m_released.second <= OneMomentMs);
+        return isHasty || m_held.isRepeat(key);
     }
 
     QElapsedTimer m_shown;
-    std::pair<int, ulong> m_released{0, 0};
+    const HeldKeys m_held;
 };
 
 }  // namespace

@@ -3804,10 +3804,6 @@
         <translation>その他の選択</translation>
     </message>
     <message>
-        <source>%1 (simulated)</source>
-        <translation>%1（シミュレーション）</translation>
-    </message>
-    <message>
         <source>ZEB (simulated cameras)</source>
         <translation>ZEB（シミュレーションのカメラ）</translation>
     </message>
@@ -4002,6 +3998,10 @@
     <message>
         <source>It is back. The button Faults in the window of a camera does all this by hand.</source>
         <translation>カメラが戻りました。カメラのウィンドウの「障害」ボタンで、同じことを手動で行えます。</translation>
+    </message>
+    <message>
+        <source>The keyboard has just come here.</source>
+        <translation>キーボードは今ここに移りました。</translation>
     </message>
 </context>
 </TS>

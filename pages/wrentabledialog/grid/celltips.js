@@ -20,6 +20,9 @@ function pictureText(view, element) {
 
 // The reasons that stand in the element and around it; those of the whole list where it has none of its own.
 function whyOf(view, element) {
+    if (element.matches('td[told]') && view.cursor.hasJustMoved()) {
+        return translated(textKey('The keyboard has just come here.'));
+    }
     const texts = [];
     for (let at = element; at && at !== view.grid.box; at = at.parentElement) {
         texts.push(at.getAttribute('why') || '');

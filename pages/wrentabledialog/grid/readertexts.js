@@ -30,7 +30,8 @@ function viewAround(element) {
 function nameInRow(view, row, element) {
     const record = view.recordOf(row) || view.grid.records[row.index];
     const line = withValues(textKey('row %1 of %2'), row.index + 1, view.grid.records.length);
-    const place = row === view.batch ? record.cameraName : `${record.cameraName}, ${line}`;
+    const name = record.cameraName || ''; // a camera that does not answer has none
+    const place = row === view.batch ? name : [name, line].filter(Boolean).join(', ');
     const cell = row.cellOf(element);
     if (!cell) {
         return element === row.element ? place : '';

@@ -1,3 +1,5 @@
+const JUST_MOVED_MS = 1000;
+
 // The cell that the keyboard is at, by its camera and its column. The grid's box has the focus and never a cell, for
 // rows come and go under it. The batch row is the last one.
 class GridCursor {
@@ -10,10 +12,16 @@ class GridCursor {
         this.anchor = null; // key of the row from which Shift selects
         this.shown = null; // the element that is marked
         this.told = null; // the one that tells why it takes nothing
+        this.movedAt = 0; // when it was last moved by no key, in ms
     }
 
     get isFocused() {
         return document.activeElement === this.view.grid.box;
+    }
+
+    // What was pressed by then was meant for what was there before.
+    hasJustMoved() {
+        return Date.now() - this.movedAt < JUST_MOVED_MS;
     }
 
     focus() {
@@ -43,6 +51,7 @@ class GridCursor {
         }
         const line = isBatch(this) ? records.length : records.findIndex(record => record.key === this.key);
         this.line = line >= 0 && line < count ? line : Math.min(this.line, count - 1);
+        this.movedAt = line >= 0 || this.key === null ? this.movedAt : Date.now();
         this.key = this.line < records.length ? records[this.line].key : wrentabledialog_obj.batchDocKey;
         const column = columns.findIndex(({ field }) => field === this.field);
         this.column = column >= 0 ? column : Math.min(this.column, columns.length - 1);

@@ -25,11 +25,16 @@ function onCursorKey(view, event) {
     }
 }
 
-// What a key works must be seen; where it was scrolled away the first press shows it.
+// What a key works must be seen; where it was scrolled away the first press shows it. One that comes just after the
+// keyboard was moved by no key was meant for another camera or button.
 function shownFirst(view, work) {
-    const place = view.cursor.place();
+    const { cursor } = view;
+    const place = cursor.place();
     if (work && place && isOutOfSight(view, place.row)) {
-        return () => view.cursor.reveal();
+        return () => cursor.reveal();
+    }
+    if (work && cursor.hasJustMoved()) {
+        return () => tellWhy(view, cursor.shown);
     }
     return work;
 }
@@ -162,7 +167,7 @@ function enterCell(view) {
     } else if (!inner && cell.kind.enter) {
         tellWhy(view, cell.box.querySelector('[why]') || cell.box);
     } else if (!inner) {
-        useCursor(view);
+        tellWhy(view, cell.box);
     } else if (inner.disabled || inner.parentNode.hasAttribute('disabled')) {
         tellWhy(view, inner);
     } else {
@@ -180,7 +185,7 @@ function openCellMenu(view) {
 
 // The reason why a cell takes nothing, in the tip that the mouse gets.
 function tellWhy(view, element) {
-    const holder = element && (element.closest('[why]') || view.cursor.tell());
+    const holder = element && (!view.cursor.hasJustMoved() && element.closest('[why]') || view.cursor.tell());
     if (holder && whyOf(view, holder)) {
         $(holder).trigger('mouseover');
     } else {

@@ -27,7 +27,7 @@ const keyHelp = {
     open() {
         const box = $('#wren_keys');
         if (box.dialog('instance') === undefined) {
-            box.html(`<table>${TABLE_KEYS.map(keyMarkup).join('')}</table>`);
+            box.html(`<table>${TABLE_KEYS.map(keyMarkup).join(' ')}</table>`);
             box.dialog(dialogOptions({
                 title: translate('Keys of the table'),
                 buttons: [dialogButton(translate('Close'), 'close keys', () => box.dialog('close'))]
@@ -39,5 +39,5 @@ const keyHelp = {
 
 function keyMarkup([keys, what]) {
     const [head, text] = [translate(keys), translate(what)].map(escapeMarkup);
-    return `<tr><th>${head}</th><td>${text}</td></tr>`;
+    return `<tr><th>${head}</th> <td>${text}.</td></tr>`;
 }

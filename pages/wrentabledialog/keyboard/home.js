@@ -31,7 +31,9 @@ const keyboardHome = {
             this.owed = null;
         } else if (!active || active === document.body) {
             this.owed = this.last && document.contains(this.last) && !this.canHave(this.last) ? this.last : null;
-            keepingSelection(() => viewAt(wrentabledialog_obj.activeTab()).cursor.focus());
+            const { cursor } = viewAt(wrentabledialog_obj.activeTab());
+            keepingSelection(() => cursor.focus());
+            cursor.movedAt = this.owed ? Date.now() : cursor.movedAt; // its element was taken away
         }
     },
 

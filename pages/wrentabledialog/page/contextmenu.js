@@ -33,6 +33,7 @@ const contextMenu = {
             link.setAttribute('disabled', '');
         }
         link.addEventListener('blur', event => this.links().includes(event.relatedTarget) || this.close());
+        link.addEventListener('mouseover', () => link.focus()); // one entry is marked, not two
         link.addEventListener('click', () => this.choose(link));
         line.appendChild(link);
         return line;

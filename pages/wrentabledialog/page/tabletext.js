@@ -16,7 +16,7 @@ const tableText = {
     copy(view) {
         const kinds = this.kinds(view);
         const lines = this.records(view, true).map(record => kinds.map(kind => {
-            const text = oneLine(textOfCell(kind, record));
+            const text = oneLine(withoutControls(textOfCell(kind, record)));
             return kind.plain ? text : plainText(text); // a number may begin with its sign
         }).join('\t'));
         wrentabledialog.copyTable(lines.join('\n'));
@@ -46,9 +46,16 @@ function headOf(kind) {
 
 // A spreadsheet takes what begins so for a formula, unless it is a number.
 function plainText(text) {
-    return /^[\s\0]*[=+\-@\uff1d\uff0b\uff0d\uff20]/.test(text) && !/^-?\d+$/.test(text) ? "'" + text : text;
+    return /^\s*[=+\-@\uff1d\uff0b\uff0d\uff20]/.test(text) && !/^-?\d+$/.test(text) ? "'" + text : text;
 }
 
 function quoted(text) {
-    return `"${plainText(String(text)).replace(/"/g, '""')}"`;
+    return `"${plainText(withoutControls(String(text))).replace(/"/g, '""')}"`;
+}
+
+// Some programs take the first of them for the end; others turn the order of letters around.
+function withoutControls(text) {
+    const isControl = letter => letter < ' ' && !'\t\n\r'.includes(letter) ||
+        /[\u007f\u202a-\u202e\u2066-\u2069]/.test(letter);
+    return Array.from(text).filter(letter => !isControl(letter)).join('');
 }

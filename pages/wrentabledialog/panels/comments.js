@@ -2,6 +2,7 @@
 Object.assign(wrentabledialog_obj, {
     initializeCommentDialog() {
         const box = document.getElementById('wren_comment_textarea');
+        box.setAttribute('aria-label', translate('Comment'));
         // While it has the keyboard, the host's keys are letters.
         box.addEventListener('focus', () => wrentabledialog.setTextBoxFocusState(true));
         box.addEventListener('blur', () => wrentabledialog.setTextBoxFocusState(false));
@@ -9,7 +10,7 @@ Object.assign(wrentabledialog_obj, {
         commentDialog(dialogOptions({
             title: translate('Comment'),
             buttons: [
-                button(translate('OK'), 'ok', () => wrentabledialog.setComment([this.commentOf.key], box.value)),
+                dialogButton(translate('OK'), 'ok', () => this.acceptComment(box.value)),
                 button(translate('Cancel'), 'close', () => undefined),
                 button(translate('Batch setting'), 'caution', () => {
                     const keys = this.commentOf.view.grid.records.map(record => record.key);
@@ -17,6 +18,16 @@ Object.assign(wrentabledialog_obj, {
                 })
             ]
         }));
+    },
+
+    // What was typed stays as long as nobody has it.
+    acceptComment(text) {
+        const { view, key } = this.commentOf;
+        if (view.newest.has(key)) {
+            this.leaveCommentDialog(() => wrentabledialog.setComment([key], text));
+        } else {
+            bridge.alert(translate('The camera is not in the list any more.'));
+        }
     },
 
     leaveCommentDialog(work) {

@@ -2,6 +2,8 @@
 Object.assign(wrentabledialog_obj, {
     initializeCameraManagementContainer() {
         octets().forEach(listenToOctet);
+        const name = translate('Search devices by IP address');
+        octets().forEach(octet => octet.setAttribute('aria-label', name));
         this.refreshCommonParts();
         const manage = (button, work) => onClick(button, () => {
             this.preventSelect = false;
