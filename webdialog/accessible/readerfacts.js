@@ -1,5 +1,6 @@
 // What a screen reader is told of an element of the page. The page may have an object `readerTexts` with functions
 // `name(element)` and `description(element)`: their text comes first, an empty one leaves it to what is told here.
+// `range(element)` may tell value, least, most and step of a slider, or null.
 var readerFacts = (function () {
     'use strict';
 
@@ -146,6 +147,9 @@ var readerFacts = (function () {
     }
 
     function value(element) {
+        if (toldRange(element)) {
+            return String(toldRange(element)[0]);
+        }
         if (element.localName === 'select') {
             return Array.from(element.selectedOptions).map(option => plain(option.text)).join(', ');
         }
@@ -157,7 +161,16 @@ var readerFacts = (function () {
         return own || (['combobox', 'textbox'].includes(role(element)) ? shownText(element) : '');
     }
 
+    function toldRange(element) {
+        const texts = window.readerTexts;
+        return texts && texts.range ? texts.range(element) : null;
+    }
+
     function range(element) {
+        const told = toldRange(element);
+        if (told) {
+            return told;
+        }
         const limit = (aria, own) => Number(attribute(element, aria) || attribute(element, own));
         return [Number(attribute(element, 'aria-valuenow') || element.value || 0), limit('aria-valuemin', 'min'),
             limit('aria-valuemax', 'max'), Number(attribute(element, 'step'))];

@@ -9,8 +9,8 @@ const isOffOrBatch = record => isOff(record) || isBatch(record);
 // Whether the camera has told what rules its controls: its lock in live mode, its check in memory mode.
 const isSteered = record => record.lock !== undefined || record.check !== undefined;
 const LISTS = ['frameRates', 'shutterSpeeds', 'resolutions', 'triggerModes'];
-// The reasons that hold, as one text. Those that are none are false or ''.
-const reasonText = (...texts) => texts.filter(Boolean).join(' ');
+// Two reasons as one text. One that does not hold is false or ''.
+const reasonText = (one, other) => one && other ? `${one} ${other}` : one || other || '';
 const whyLocked = record => record.lock && translated(textKey('The camera is locked.'));
 const whyLockedOrLowLight = record =>
     reasonText(whyLocked(record), record.lowLightMode && translated(textKey('The camera is in low light mode.')));

@@ -205,7 +205,7 @@ COLUMNS.lowlight = {
             id="wren_button_lowlight_off_" dockey>${on}</a>
         <span class="wren-slider-container" dockey><label dockey>${dark}</label>
         <div class="wren_slider_lowlight ui-slider ui-slider-horizontal ui-widget ui-widget-content ui-corner-all"
-            part="slider" role="slider" aria-valuemin="0" id="wren_slider_lowlight_" dockey
+            part="slider" role="slider" id="wren_slider_lowlight_" dockey
             ><span class="ui-slider-handle ui-state-default ui-corner-all" part="handle" tabindex="-1"
             dockey></span></div>
         <label dockey>${bright}</label><span class="slider-result" part="result" dockey>0</span></span>

@@ -41,7 +41,8 @@ class Cell {
         this.parts = {};
         this.shown = {}; // `part@what` -> value last written
         this.stale = false; // the user has touched a number that only a full refresh would write
-        this.isBarred = false; // its controls take nothing
+        this.why = ''; // why its controls take nothing
+        this.isBarred = false; // they take nothing
     }
 
     rebuild(record, status) {
@@ -76,8 +77,9 @@ class Cell {
     }
 
     bar(why) {
-        this.isBarred = why !== '';
-        if (this.differs('', 'why', why)) {
+        if (this.why !== why) {
+            this.why = why;
+            this.isBarred = why !== '';
             setMark(this.box, 'why', why || null);
         }
     }

@@ -17,6 +17,14 @@ window.readerTexts = {
         return row ? nameInRow(view, row, element) : '';
     },
 
+    // Of a slider: value, least, most and step. Null leaves it to the element.
+    range(element) {
+        const view = element.matches('.wren_slider_lowlight') && viewAround(element);
+        const row = view && view.rowOf(element);
+        const record = row && view.recordOf(row);
+        return record ? [sliderValue(record), 0, sliderMax(record), 1] : null;
+    },
+
     description(element) {
         const view = element.matches('td[role="gridcell"]') && viewAround(element);
         return view && view.status ? whyOf(view, element.firstChild) || view.status.why : '';

@@ -134,7 +134,5 @@ function speedAt(speeds, value) {
 
 function showSlider(cell, value, max) {
     cell.text('result', String(value));
-    cell.attribute('slider', 'aria-valuenow', value);
-    cell.attribute('slider', 'aria-valuemax', max);
     cell.attribute('handle', 'style', `margin-left: calc(${max > 0 ? value * 100 / max : 0}% - 5px)`);
 }
