@@ -44,13 +44,16 @@ function onPress(selector, work) {
         if (!event.button && event.detail > 1) {
             refusePress(button, button.textContent);
         } else if (!event.button) {
+            button.focus(); // it may be greyed by the press, before the engine gives it the keyboard
             guarded(() => work(button));
         }
     });
     $(selector).on('keydown', event => {
         if (PRESSING_KEYS.includes(event.keyCode)) {
             event.preventDefault();
-            guarded(() => work(event.currentTarget));
+            if (!isDisabled(event.currentTarget)) { // a greyed button keeps the keyboard
+                guarded(() => work(event.currentTarget));
+            }
         }
     });
 }

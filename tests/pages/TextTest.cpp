@@ -68,8 +68,8 @@ TEST(PageText, IsSavedForSpreadsheets) {
     page.enter(zeb::MemoryMode);
     EXPECT_EQ(page.text("viewAt(5).newestRecords[0].totalFrame"), "11.000");
     const QStringList memory{
-        R"csv("Checked","Connection","Camera name","Alert","Frame rate (fps)","First frame","Last frame",)csv"
-        R"csv("From","To","Frames","Trigger offset")csv",
+        QString(R"csv("Checked","Connection","Camera name","Alert","Frame rate (fps)","First frame",)csv") +
+            R"csv("Last frame","From","To","Frames","Trigger offset")csv",
         R"csv("Not checked","Connected","'=HYPERLINK(""x"")","","2000","-6000","5999","-5999","5000","11000","0")csv",
         "\"\",\"Connected\",\"Gate\t1,",
         R"csv(""left""","","","","","","","","")csv",

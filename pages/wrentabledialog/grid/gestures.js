@@ -24,6 +24,7 @@ function listenToGrid(view) {
 // A click on a control ends here, so what closes on a click elsewhere is closed beforehand.
 function onGridPress(view, event) {
     wrentabledialog_obj.isCursorDown = true;
+    window.getSelection().removeAllRanges(); // what was marked elsewhere is not what Ctrl+C means now
     wrentabledialog_obj.beginPress(view, event);
     const place = placeUnder(view, event.target, 'td');
     if (place && place.cell) {

@@ -55,6 +55,7 @@ function moveOf({ cursor, height, grid }, { keyCode, ctrlKey, shiftKey }) {
         [KEY.END]: [ctrlKey ? last : cursor.line, end]
     }[keyCode];
     return place && (() => {
+        cursor.movedAt = 0; // from here on it is where the user wants it
         cursor.anchor = shiftKey ? cursor.anchor || cursor.key : null;
         cursor.moveTo(...place);
         if (shiftKey && rowsTakeInput(cursor)) {

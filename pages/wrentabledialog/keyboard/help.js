@@ -30,6 +30,7 @@ const keyHelp = {
             box.html(`<table>${TABLE_KEYS.map(keyMarkup).join(' ')}</table>`);
             box.dialog(dialogOptions({
                 title: translate('Keys of the table'),
+                classes: { 'ui-dialog': 'keys' },
                 buttons: [dialogButton(translate('Close'), 'close keys', () => box.dialog('close'))]
             }));
         }

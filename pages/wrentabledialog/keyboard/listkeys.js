@@ -30,6 +30,9 @@ function listenToListKeys(sumo) {
             sumo.setOnOpen();
         }
         const line = { [KEY.HOME]: 0, [KEY.END]: Infinity, [KEY.PAGE_UP]: now - 8, [KEY.PAGE_DOWN]: now + 8 };
+        if ([KEY.UP, KEY.DOWN].includes(event.keyCode) || line[event.keyCode] !== undefined) {
+            typed = { text: '', when: 0 }; // what is typed now begins anew
+        }
         if (line[event.keyCode] !== undefined && now >= 0) {
             event.preventDefault();
             moveTo(line[event.keyCode]);

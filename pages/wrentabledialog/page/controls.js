@@ -255,6 +255,7 @@ Object.assign(wrentabledialog_obj, {
         if (this.tabsExist && TABS[this.activeTab()].memory !== memory) {
             const shown = (memory ? MEMORY : LIVE).filter(tab => !tabHeader(tab).hidden);
             this.bringToFront(shown.length === 0 || shown.includes(number) ? number : shown[0]);
+            viewAt(this.activeTab()).cursor.movedAt = Date.now();
         }
     },
 

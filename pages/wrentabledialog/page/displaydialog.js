@@ -89,7 +89,7 @@ Object.assign(wrentabledialog_obj, {
 
     // The buttons of every dialog of the page but that of the keys, which changes nothing.
     disableDisplayCheckBox() {
-        const elements = '.display_checkbox, button.ui-dialog-buttons:not(.keys)';
+        const elements = '.display_checkbox, .ui-dialog-buttons:not(.keys)';
         const off = wrentabledialog.isFileMode();
         reasons.grey(elements, off, translated(controls['FILE-MODE'].why));
         // Escape goes to what has the keyboard.
