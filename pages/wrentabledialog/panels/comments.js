@@ -22,11 +22,11 @@ Object.assign(wrentabledialog_obj, {
 
     // What was typed stays as long as nobody has it.
     acceptComment(text) {
-        const { view, key } = this.commentOf;
+        const { view, key, name } = this.commentOf;
         if (view.newest.has(key)) {
             this.leaveCommentDialog(() => wrentabledialog.setComment([key], text));
         } else {
-            bridge.alert(translate('The camera is not in the list any more.'));
+            bridge.alert(withValues(textKey('%1 is not in the list.'), oneLine(name)));
         }
     },
 
@@ -45,7 +45,7 @@ Object.assign(wrentabledialog_obj, {
         if (commentDialog('instance') === undefined) {
             this.initializeCommentDialog();
         }
-        this.commentOf = { view, key };
+        this.commentOf = { view, key, name: record.cameraName || key };
         document.getElementById('wren_comment_textarea').value = record.comments || '';
         commentDialog('open');
     }
